@@ -1,0 +1,6 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+if(TARGET siro-lote)
+    install(TARGETS siro-lote RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+endif()
+install(DIRECTORY data/ DESTINATION ${CMAKE_INSTALL_DATADIR}/siro)
+install(FILES README.md CHANGELOG.md LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
