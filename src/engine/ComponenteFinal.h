@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "model/Siro.h"
+
+namespace engine {
+
+/// Fills Secuencia and NroComponentes with the names of all components: UEHs, Cauces, Lagos, Represas, each
+/// kind in collection order.
+void RehaceSecuencia(model::Siro& s);
+
+/// Validates the network: rebuilds Secuencia, finds the outfalls (Salidas, NroSalidas) and asks about what
+/// looks wrong. Sets ErrorRed, ContinuarSinCorregir and RedOk. Throws nothing: an outfall beyond the tenth
+/// counts, its name isn't kept, and Falla 9 is reported for it.
+void ComponenteFinal(model::Siro& s);
+
+/// Whether a destination names a component: the empty text and "0" never do.
+bool DrenaA(const std::string& Cauce_aa, const std::string& nombre);
+
+}  // namespace engine

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "model/Siro.h"
+
+namespace engine {
+
+/// Name of the file of a run's text, in DirTrabajo.
+inline constexpr std::string_view ArchivoPizarra = "SalePizarra1_tem.txt";
+
+/// Reloads everything that a run needs from the project's files: what the editor holds unsaved is dropped.
+void CargaProyecto(model::Siro& s);
+
+/// Runs the storm in hand: header of the Slate, load, hyetograph, main process. With P or D of 0 it ends
+/// after the header and leaves earlier results as they are. Returns whether the run went to its end.
+bool CorreUnaTormenta(model::Siro& s);
+
+}  // namespace engine

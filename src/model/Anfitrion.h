@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace model {
+
+/// Picture of a message box.
+enum class Icono { Ninguno, Exclamacion, Pregunta };
+
+/// A box or a question as the user gets it. An empty title is the program's own name.
+struct Mensaje {
+    std::string texto{};
+    std::string titulo{};
+    Icono icono = Icono::Ninguno;
+    bool operator==(const Mensaje&) const = default;
+};
+
+/// A box that asks for a line of text.
+struct Peticion {
+    std::string texto{};
+    std::string titulo{};
+    std::string defecto{};
+};
+
+/// All that rules and runs ask of the world. The desktop, the batch program and the tests each fill it in;
+/// a member that is left as it is does nothing.
+struct Anfitrion {
+    /// Shows a box with OK.
+    std::function<void(const Mensaje&)> Avisa = [](const Mensaje&) {};
+    /// Asks with Yes and No. Returns true for Yes.
+    std::function<bool(const Mensaje&)> Pregunta = [](const Mensaje&) { return true; };
+    /// Asks for a text. Returns the empty text where the user cancels.
+    std::function<std::string(const Peticion&)> PideTexto = [](const Peticion&) { return std::string{}; };
+    /// Ends the program at once, with nothing more saved. Must not return: it throws FinDelPrograma or
+    /// leaves the process.
+    std::function<void()> Termina = [] {};
+
+    /// The tick of the Slate's menu entry, and a way to set it.
+    std::function<bool()> MarcaPizarra = [] { return false; };
+    std::function<void(bool)> PonMarcaPizarra = [](bool) {};
+    /// Opens the Slate's window and brings it to the front.
+    std::function<void()> AbrePizarra = [] {};
+    /// The text in the Slate's box.
+    std::function<std::string()> LeePizarra = [] { return std::string{}; };
+    /// Puts a text into the Slate's box in place of what it holds.
+    std::function<void(std::string_view)> PonPizarra = [](std::string_view) {};
+    /// Puts the whole text of a run into the box; the text begins with what the box holds, so that a host
+    /// need only append the rest.
+    std::function<void(const std::string&)> AmpliaPizarra = [](const std::string&) {};
+    /// Appends to what the box holds.
+    std::function<void(std::string_view)> AgregaPizarra = [](std::string_view) {};
+
+    /// Progress of a series: opens the window with its title, shows two texts and a percentage, closes it.
+    std::function<void(std::string_view titulo)> AbreAvance = [](std::string_view) {};
+    std::function<void(std::string_view primero, std::string_view segundo)> TextosAvance =
+        [](std::string_view, std::string_view) {};
+    std::function<void(int porcentaje)> BarraAvance = [](int) {};
+    std::function<void()> CierraAvance = [] {};
+
+    /// Opens the table of a series' results.
+    std::function<void()> AbreTablaSerie = [] {};
+    /// Shows the project's titles in the main window's labels.
+    std::function<void()> carga_lbl_proyecto = [] {};
+    /// Makes the two verification commands of the main menu available.
+    std::function<void()> HabilitaVerificacion = [] {};
+    /// Draws the editor anew.
+    std::function<void()> RedibujaEditor = [] {};
+
+    /// Present date and time in the machine's general format.
+    std::function<std::string()> FechaHora = [] { return std::string{}; };
+    /// Seconds of a clock that never goes back.
+    std::function<double()> Reloj = [] { return 0.0; };
+};
+
+}  // namespace model

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "model/Avisos.h"
+
+namespace model {
+
+namespace {
+
+std::string Numero(const Falla& falla) { return std::to_string(static_cast<int>(falla.numero)); }
+
+}  // namespace
+
+void Advierte(const Siro& s, std::string texto, std::string_view titulo)
+{
+    s.Anfitrion.Avisa({std::move(texto), std::string(titulo), Icono::Exclamacion});
+}
+
+void Informa(const Siro& s, std::string texto) { s.Anfitrion.Avisa({std::move(texto), {}, Icono::Ninguno}); }
+
+bool Consulta(const Siro& s, std::string texto, std::string_view titulo)
+{
+    return s.Anfitrion.Pregunta({std::move(texto), std::string(titulo), Icono::Exclamacion});
+}
+
+std::string TextoFallaMotor(const Falla& falla)
+{
+    return "Error Nro. " + Numero(falla) + " ," + std::string(DescripcionFalla(falla.numero)) + "Verifique";
+}
+
+std::string TextoFallaArchivo(const Falla& falla)
+{
+    return "Error Nro. " + Numero(falla) + std::string(DescripcionFalla(falla.numero)) + " ,Verifique";
+}
+
+}  // namespace model
