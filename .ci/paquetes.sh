@@ -36,6 +36,8 @@ construye() {
     if command -v ccache >/dev/null 2>&1; then
         export CMAKE_CXX_COMPILER_LAUNCHER=${CMAKE_CXX_COMPILER_LAUNCHER:-ccache}
     fi
+    # A preset that names its compiler is not moved by this.
+    export CXX=${CXX:-g++}
     cmake --preset "$preset" >"build/$preset.configura.log" 2>&1 || {
         cat "build/$preset.configura.log" >&2
         return 1
