@@ -34,6 +34,10 @@ struct Anfitrion {
     std::function<bool(const Mensaje&)> Pregunta = [](const Mensaje&) { return true; };
     /// Asks for a text. Returns the empty text where the user cancels.
     std::function<std::string(const Peticion&)> PideTexto = [](const Peticion&) { return std::string{}; };
+    /// Offers the files that a filter lets through, "Description |*pattern". Returns the path of the one
+    /// chosen, with the platform's separators, or the empty text where the user cancels.
+    std::function<std::string(std::string_view titulo, std::string_view filtro)> EligeArchivo =
+        [](std::string_view, std::string_view) { return std::string{}; };
     /// Ends the program at once, with nothing more saved. Must not return: it throws FinDelPrograma or
     /// leaves the process.
     std::function<void()> Termina = [] {};
@@ -64,6 +68,8 @@ struct Anfitrion {
     std::function<void()> AbreTablaSerie = [] {};
     /// Shows the project's titles in the main window's labels.
     std::function<void()> carga_lbl_proyecto = [] {};
+    /// Makes the menu entry that saves the project under another name available.
+    std::function<void()> HabilitaGuardarComo = [] {};
     /// Makes the two verification commands of the main menu available.
     std::function<void()> HabilitaVerificacion = [] {};
     /// Draws the editor anew.

@@ -135,6 +135,8 @@ struct Siro {
     std::vector<std::array<std::array<float, 6>, NroFuncionesFQ + 1>> FQCoef{};
 
     // --- configuration ---
+    /// Directory of the executable, or the user's own where that one can't be written; the host sets it.
+    std::string DirEjecutable{};
     std::string DirTrabajo{};       ///< the program's own directory: shared tables, result files
     std::string DirProyecto{};      ///< directory of the project's files
     std::string DirProyectoConf{};  ///< the same as the configuration tells it
@@ -162,6 +164,7 @@ struct Siro {
     std::vector<std::int16_t> ListaDur = std::vector<std::int16_t>(1);   ///< ticked durations, from 1
     std::int16_t NroRec = 0, NroDur = 0;
     bool ProyectoNuevo = false;  ///< a new project waits for its configuration to be confirmed
+    bool ConfPendiente = false;  ///< start-up is over: a read of the pointer tests that its project is there
     ControlesConfigura frmConfigura{};
 
     // --- control ---
