@@ -1,0 +1,306 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "model/VidaProyecto.h"
+
+#include <algorithm>
+
+#include "model/Avisos.h"
+#include "model/Componentes.h"
+#include "model/Configuracion.h"
+#include "model/Falla.h"
+#include "model/Registros.h"
+#include "model/Siro.h"
+
+namespace model {
+
+namespace {
+
+constexpr std::string_view CarpetaProyectos = "Proyectos";
+
+constexpr std::string_view TituloNuevo = "Proyecto Nuevo";
+constexpr std::string_view TituloGuardarComo =  // kept as it stands
+    "Cuardar Como...(copia el proyecto actual con otro nombre)";
+constexpr std::string_view PreguntaNombre = "Ingrese un nombre de archivo para el nuevo proyecto: ";
+constexpr std::string_view TituloNombreInvalido = "Nombre de Proyecto inválido!!";
+constexpr std::string_view NombreInvalido =
+    "Nombre inválido: Ingrese solamente letras y/o dígitos sin caracteres especiales";
+constexpr std::string_view YaExiste1 = "El proyecto ya existe en el archivo <";
+constexpr std::string_view YaExiste2 = ">. Elija un nombre distinto o elimine el proyecto existente.";
+constexpr std::string_view ErrorDesconocido = "Error de archivo desconocido";
+constexpr std::string_view TituloAbrir = "Abrir";
+constexpr std::string_view FiltroAbrir = "Archivos de Proyecto (*_Conf.vlm) |*_Conf.vlm";
+constexpr std::string_view TituloEliminar = "Consulta";
+constexpr std::string_view Eliminar1 = "¿Está seguro de borrar los archivos del Proyecto <";
+constexpr std::string_view Eliminar2 = "> ? ";
+constexpr std::string_view SinProyectoElegido = "Ninguno";
+
+std::string ArchivoConf(std::string_view proyecto)
+{
+    return std::string(proyecto).append(TerminacionConf);
+}
+
+/// A path on another machine, where the program must leave the directories as they are.
+bool RutaDeRed(std::string_view ruta)
+{
+    return ruta.size() > 1 && ruta[0] == Separador && ruta[1] == Separador;
+}
+
+/// Stands for the change to a directory. Throws Falla 76 where it isn't there.
+void Entra(const Siro& s, const std::string& directorio)
+{
+    if (!s.Disco.HayDirectorio(directorio)) throw Falla{NumeroFalla::RutaNoEsta};
+}
+
+/// Creates a directory. Throws Falla 75 where it isn't there afterwards.
+void AseguraDirectorio(const Siro& s, const std::string& directorio)
+{
+    try {
+        s.Disco.CreaDirectorio(directorio);
+    } catch (const Falla&) {
+        if (!s.Disco.HayDirectorio(directorio)) throw;
+    }
+}
+
+/// Runs something that works on a file which need not be there. Returns false where it wasn't.
+template <typename F>
+bool SiEsta(F&& cuerpo)
+{
+    try {
+        cuerpo();
+        return true;
+    } catch (const Falla& falla) {
+        if (falla.numero != NumeroFalla::ArchivoNoEsta) throw;
+        return false;
+    }
+}
+
+std::string ProyectosPorDefecto(const Siro& s)
+{
+    return Ruta(s.DirTrabajo, CarpetaProyectos);
+}
+
+/// Steps of the pointer's reading. Throws Falla where one of them fails.
+void BuscaProyecto(Siro& s)
+{
+    s.DirProyecto.clear();
+    s.DirTrabajo = s.DirEjecutable;
+    Entra(s, s.DirTrabajo);
+    AseguraDirectorio(s, ProyectosPorDefecto(s));
+    LectorRegistros lector(s.Disco.Lee(Ruta(s.DirTrabajo, ArchivoPuntero)));
+    s.DirProyecto = lector.Texto();
+    s.NombreProyecto = lector.Texto();
+    if (s.DirProyecto.empty()) s.DirProyecto = ProyectosPorDefecto(s);
+    Entra(s, s.DirProyecto);
+    if (s.ConfPendiente) s.Disco.Lee(Ruta(s.DirProyecto, ArchivoConf(s.NombreProyecto)));
+}
+
+/// Asks for the name of a project. Returns the empty text where the user cancels or the name is refused.
+std::string PideNombre(const Siro& s, std::string_view titulo)
+{
+    std::string nombre = s.Anfitrion.PideTexto({std::string(PreguntaNombre), std::string(titulo), {}});
+    if (NombreProyectoValido(nombre)) return nombre;
+    Advierte(s, std::string(NombreInvalido), TituloNombreInvalido);
+    return {};
+}
+
+/// Makes a name the current project's. Returns false, after telling so, where such a project exists; the name
+/// stays all the same. Throws Falla.
+bool TomaNombreNuevo(Siro& s, const std::string& nombre)
+{
+    s.NombreProyecto = nombre;
+    s.ProyectoNuevo = true;
+    if (s.DirProyectoConf.empty()) s.DirProyectoConf = s.DirProyecto;
+    Entra(s, s.DirProyectoConf);
+    s.ArchivoTemp = Ruta(s.DirProyectoConf, ArchivoConf(nombre));
+    if (!SiEsta([&] { s.Disco.Lee(s.ArchivoTemp); })) return true;
+    // The next opening of the configuration would otherwise write over the project that exists.
+    s.ProyectoNuevo = false;
+    Informa(s, std::string(YaExiste1).append(ArchivoConf(nombre)).append(YaExiste2));
+    return false;
+}
+
+void CopiaProyecto(Siro& s, const std::string& viejo, const std::string& nuevo)
+{
+    const auto copia = [&](std::string_view terminacion) {
+        SiEsta([&] {
+            s.ArchivoTemp = Ruta(s.DirProyecto, std::string(nuevo).append(terminacion));
+            s.Disco.Copia(Ruta(s.DirProyecto, std::string(viejo).append(terminacion)), s.ArchivoTemp);
+        });
+    };
+    copia(TerminacionConf);
+    s.frmConfigura.lblMiArchivoConf = ArchivoConf(nuevo);
+    cmdAplicar(s);
+    s.ProyectoNuevo = false;
+    copia("_VerCau.vlm");
+    copia("_UEHs.vlm");
+    mnu_btn_toolbarGuardaUEHs(s);
+    copia("_RHQ.vlm");
+    copia("_RHAS.vlm");
+    copia("_LHASQ.vlm");
+}
+
+/// Runs what New and Save as do on disk: a fault that they have no answer for ends the program.
+template <typename F>
+void ConFallaFatal(const Siro& s, F&& cuerpo)
+{
+    try {
+        cuerpo();
+    } catch (const Falla&) {
+        Informa(s, std::string(ErrorDesconocido));
+        s.Anfitrion.Termina();
+    }
+}
+
+}  // namespace
+
+// --- the pointer to the last project -------------------------------------------------------------------
+
+void LeePuntero(Siro& s)
+{
+    try {
+        if (!RutaDeRed(s.DirEjecutable)) BuscaProyecto(s);
+        GuardaPuntero(s);
+    } catch (const Falla&) {
+        s.DirProyecto = ProyectosPorDefecto(s);
+        s.NombreProyecto.clear();
+        Sentencia([&] { GuardaPuntero(s); }, [](const Falla&) {});
+    }
+}
+
+void GuardaPuntero(Siro& s)
+{
+    Entra(s, s.DirTrabajo);
+    EscritorRegistros escritor(s.Disco);
+    escritor.Abre(Ruta(s.DirTrabajo, ArchivoPuntero));
+    escritor.Texto(s.DirProyecto).FinRegistro();
+    escritor.Texto(s.NombreProyecto).FinRegistro();
+    escritor.Cierra();
+}
+
+void carga_lbl_proyecto(Siro& s)
+{
+    s.Anfitrion.carga_lbl_proyecto();
+    GuardaPuntero(s);
+}
+
+void LimpiaProyecto(Siro& s)
+{
+    s.ColCauces.Vacia();
+    s.ColUEHs.Vacia();
+    s.ColLagos.Vacia();
+    s.ColRepresas.Vacia();
+    s.CauceSel = s.CauceAnterior = s.UEHSel = s.RepresaSel = s.LagoSel = s.VerticeSel = 0;
+    s.NroCauces = s.NroUEHs = s.NroLagos = s.NroRepresas = 0;
+    s.NombreProyecto.clear();
+    s.DirProyecto.clear();
+    s.DirProyectoConf.clear();
+    s.ArchivoTemp.clear();
+    LeePuntero(s);
+}
+
+// --- the commands of the main menu ---------------------------------------------------------------------
+
+bool NombreProyectoValido(std::string_view nombre)
+{
+    return std::all_of(nombre.begin(), nombre.end(), [](char letra) {
+        const auto codigo = static_cast<unsigned char>(letra);
+        return codigo >= 48 && codigo <= 122 && !(codigo >= 58 && codigo <= 63) &&
+               !(codigo >= 91 && codigo <= 96);
+    });
+}
+
+void mnuNuevoProyecto(Siro& s)
+{
+    LimpiaProyecto(s);
+    const std::string nombre = PideNombre(s, TituloNuevo);
+    if (nombre.empty()) return;
+    ConFallaFatal(s, [&] {
+        if (TomaNombreNuevo(s, nombre)) carga_lbl_proyecto(s);
+    });
+}
+
+void mnuAbrirProyecto(Siro& s)
+{
+    LimpiaProyecto(s);
+    const std::string ruta = s.Anfitrion.EligeArchivo(TituloAbrir, FiltroAbrir);
+    if (ruta.empty() || !TomaRutaProyecto(s, ruta)) return;
+    // The labels come before the configuration and so show the earlier titles: kept as it stands. A pointer
+    // that can't be written keeps no project from being opened.
+    Sentencia([&] { carga_lbl_proyecto(s); }, [](const Falla&) {});
+    leoConf(s);
+    s.Anfitrion.HabilitaGuardarComo();
+}
+
+bool TomaRutaProyecto(Siro& s, std::string_view ruta)
+{
+    if (!ruta.ends_with(TerminacionConf)) {
+        s.ArchivoTemp.clear();
+        s.NombreProyecto.clear();
+        return false;
+    }
+    s.ArchivoTemp = ruta;
+    const std::string_view resto = ruta.substr(0, ruta.size() - TerminacionConf.size());
+    const std::size_t ultimo = resto.rfind(Separador);
+    if (ultimo == std::string_view::npos) {
+        s.NombreProyecto = resto;
+        return true;
+    }
+    s.DirProyecto = resto.substr(0, ultimo);
+    s.NombreProyecto = resto.substr(ultimo + 1);
+    s.DirProyectoConf = resto.substr(0, resto.find(Separador) + 1);
+    return true;
+}
+
+void mnu_ultimoarchivo1(Siro& s)
+{
+    LimpiaProyecto(s);
+    leoConf(s);
+    Sentencia([&] { carga_lbl_proyecto(s); }, [](const Falla&) {});
+    if (!s.NombreProyecto.empty()) s.Anfitrion.HabilitaGuardarComo();
+}
+
+void mnuGuardarProyectoComo(Siro& s)
+{
+    if (s.NombreProyecto.empty()) return;
+    const std::string viejo = s.NombreProyecto;  // the load takes the name from inside the file
+    LeeUEHs(s);
+    const std::string nuevo = PideNombre(s, TituloGuardarComo);
+    if (nuevo.empty()) return;
+    ConFallaFatal(s, [&] {
+        if (TomaNombreNuevo(s, nuevo)) CopiaProyecto(s, viejo, nuevo);
+    });
+}
+
+// --- deleting ------------------------------------------------------------------------------------------
+
+void dlgEliminarProyecto::Abre(const Siro& s)
+{
+    *this = {};
+    DirProyecto = s.DirProyecto;
+    Sentencia([&] { filProyectoEliminar = s.Disco.Lista(s.DirProyecto); }, [](const Falla&) {});
+    std::erase_if(filProyectoEliminar, [](const std::string& n) { return !n.ends_with(TerminacionConf); });
+}
+
+void dlgEliminarProyecto::filProyectoEliminar_AlPulsar(std::string_view archivo)
+{
+    lblProyectoAEliminar = archivo;
+}
+
+void dlgEliminarProyecto::OKButton(Siro& s)
+{
+    // The name asked about is the current project's and not that of the file picked: kept as it stands.
+    const std::string texto = std::string(Eliminar1).append(s.NombreProyecto).append(Eliminar2);
+    if (!s.Anfitrion.Pregunta({texto, std::string(TituloEliminar), Icono::Pregunta})) return;
+    if (lblProyectoAEliminar.empty() || lblProyectoAEliminar == SinProyectoElegido) return;
+    Entra(s, s.DirProyecto);
+    s.Disco.Borra(Ruta(s.DirProyecto, lblProyectoAEliminar));
+    const std::string prefijo = lblProyectoAEliminar.substr(0, lblProyectoAEliminar.find('_'));
+    constexpr std::string_view terminacion = ".vlm";
+    for (const std::string& nombre : s.Disco.Lista(s.DirProyecto)) {
+        const bool coincide = nombre.size() >= prefijo.size() + terminacion.size() &&
+                              nombre.starts_with(prefijo) && nombre.ends_with(terminacion);
+        if (coincide) s.Disco.Borra(Ruta(s.DirProyecto, nombre));
+    }
+    abierto = false;
+}
+
+}  // namespace model

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+// How projects come and go. A project is no directory and has no list of its files: it is the family of files
+// that bear its name as a prefix inside one directory, and it is there when its configuration file is.
+namespace model {
+
+struct Siro;
+
+inline constexpr std::string_view TerminacionConf = "_Conf.vlm";
+inline constexpr std::string_view ArchivoPuntero = "VelmirDir.vlm";
+
+// --- the pointer to the last project -------------------------------------------------------------------
+
+/// Sets DirTrabajo from DirEjecutable, takes DirProyecto and NombreProyecto from the pointer file and writes
+/// it anew. With ConfPendiente set the project must have its configuration there. Whatever fails is silent
+/// and leaves no project in the default directory, "Proyectos" under DirTrabajo. From a network path only the
+/// writing is done.
+void LeePuntero(Siro& s);
+
+/// Writes DirProyecto and NombreProyecto to the pointer file in DirTrabajo. Throws Falla 76, 75.
+void GuardaPuntero(Siro& s);
+
+/// Shows the project's titles in the main window and records the project as the last one. Throws Falla
+/// 76, 75.
+void carga_lbl_proyecto(Siro& s);
+
+/// Empties components, selection, counts and the names of project and directories, then reads the pointer:
+/// so the last project's name is the current one.
+void LimpiaProyecto(Siro& s);
+
+// --- the commands of the main menu ---------------------------------------------------------------------
+
+/// A project's name holds digits, letters without accents, and "@". The empty one passes.
+bool NombreProyectoValido(std::string_view nombre);
+
+/// Asks for a name and makes it the current project's. Nothing of the project is written here: that is done
+/// when its configuration, which ProyectoNuevo announces, is confirmed. A name that exists is told and stays
+/// the current one. A file fault other than a missing file is told and ends the program.
+void mnuNuevoProyecto(Siro& s);
+
+/// Asks for a configuration file and opens its project. Faults never end the program.
+void mnuAbrirProyecto(Siro& s);
+
+/// What a path says of a project: DirProyecto, NombreProyecto, and DirProyectoConf, the path up to its first
+/// separator. Returns false, with no project, where the path doesn't end in "_Conf.vlm".
+bool TomaRutaProyecto(Siro& s, std::string_view ruta);
+
+/// Opens the project that the pointer names.
+void mnu_ultimoarchivo1(Siro& s);
+
+/// Asks for a name and copies the current project's files to it; from then on it is the current project.
+/// Files that the project hasn't got are passed over. Faults as in mnuNuevoProyecto.
+void mnuGuardarProyectoComo(Siro& s);
+
+// --- deleting ------------------------------------------------------------------------------------------
+
+/// What the dialog's controls hold.
+struct dlgEliminarProyecto {
+    std::string DirProyecto{};                       ///< the directory shown
+    std::vector<std::string> filProyectoEliminar{};  ///< configuration files in it, sorted
+    std::string lblProyectoAEliminar = "Ninguno";    ///< the file picked
+    bool abierto = true;
+
+    /// Fills the list; a directory that has gone lists nothing.
+    void Abre(const Siro& s);
+    /// A click on a file of the list.
+    void filProyectoEliminar_AlPulsar(std::string_view archivo);
+    /// Asks, then deletes the file picked and every file whose name begins with what stands before the
+    /// picked one's first "_" and ends in ".vlm", those of other projects included. Only then the dialog
+    /// closes; NombreProyecto stays. Throws Falla 53, 76, 75 and leaves the dialog open.
+    void OKButton(Siro& s);
+};
+
+}  // namespace model
