@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "batch/AnfitrionLote.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cstddef>
+#include <cstdio>
+#include <ctime>
+#include <string>
+#include <utility>
+
+#if defined(_WIN32)
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
+
+#include "model/Falla.h"
+
+namespace batch {
+namespace {
+
+constexpr std::string_view TituloPropio = "SIRO";
+constexpr std::string_view EntreLineas = " / ";
+constexpr std::string_view RespuestaSi = " -> Sí";
+constexpr std::string_view RespuestaNo = " -> No";
+
+constexpr int AnchoBarra = 30;                       // characters between the brackets
+constexpr std::string_view BorraLinea = "\r\x1b[K";  // back to the margin, erase to the end of the line
+
+void Escribe(std::FILE* archivo, std::string_view texto)
+{
+    std::fwrite(texto.data(), 1, texto.size(), archivo);
+    std::fflush(archivo);
+}
+
+bool EsTerminal(std::FILE* archivo)
+{
+#if defined(_WIN32)
+    return _isatty(_fileno(archivo)) != 0;
+#else
+    return isatty(fileno(archivo)) != 0;
+#endif
+}
+
+/// CR LF, a lone CR and a lone LF are one line break each.
+void AgregaEnUnaLinea(std::string& linea, std::string_view texto)
+{
+    for (std::size_t i = 0; i < texto.size(); ++i) {
+        if (texto[i] != '\r' && texto[i] != '\n') {
+            linea += texto[i];
+            continue;
+        }
+        if (texto[i] == '\r' && i + 1 < texto.size() && texto[i + 1] == '\n') ++i;
+        linea += EntreLineas;
+    }
+}
+
+std::tm HoraLocal(std::time_t ahora)
+{
+    std::tm campos{};
+#if defined(_WIN32)
+    localtime_s(&campos, &ahora);
+#else
+    localtime_r(&ahora, &campos);
+#endif
+    return campos;
+}
+
+void AgregaDosCifras(std::string& texto, int n)
+{
+    texto += static_cast<char>('0' + n / 10 % 10);
+    texto += static_cast<char>('0' + n % 10);
+}
+
+}  // namespace
+
+Salidas SalidasDelProceso()
+{
+    return {[](std::string_view texto) { Escribe(stdout, texto); },
+            [](std::string_view texto) { Escribe(stderr, texto); }, EsTerminal(stderr)};
+}
+
+std::string LineaDeAviso(std::string_view titulo, std::string_view texto, std::string_view respuesta)
+{
+    std::string linea = "[";
+    AgregaEnUnaLinea(linea, titulo.empty() ? TituloPropio : titulo);
+    linea += "] ";
+    AgregaEnUnaLinea(linea, texto);
+    linea += respuesta;
+    linea += '\n';
+    return linea;
+}
+
+std::string FechaHoraLocal()
+{
+    const std::tm t = HoraLocal(std::time(nullptr));
+    std::string texto;
+    AgregaDosCifras(texto, t.tm_mday);
+    texto += '/';
+    AgregaDosCifras(texto, t.tm_mon + 1);
+    texto += '/' + std::to_string(t.tm_year + 1900) + ' ';
+    AgregaDosCifras(texto, t.tm_hour);
+    texto += ':';
+    AgregaDosCifras(texto, t.tm_min);
+    texto += ':';
+    AgregaDosCifras(texto, t.tm_sec);
+    return texto;
+}
+
+AnfitrionLote::AnfitrionLote(Salidas unasSalidas, bool pizarraMarcada, bool respondeSi)
+    : salidas(std::move(unasSalidas)), marcaPizarra(pizarraMarcada), responde(respondeSi)
+{
+}
+
+model::Anfitrion AnfitrionLote::Anfitrion()
+{
+    model::Anfitrion a;
+    a.Avisa = [this](const model::Mensaje& m) { Linea(m.titulo, m.texto, {}); };
+    a.Pregunta = [this](const model::Mensaje& m) {
+        Linea(m.titulo, m.texto, responde ? RespuestaSi : RespuestaNo);
+        return responde;
+    };
+    a.Termina = [] { throw model::FinDelPrograma{EstadoTerminado}; };
+    a.FechaHora = FechaHoraLocal;
+    a.Reloj = [] {
+        return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
+    };
+    PonPizarraYAvance(a);
+    return a;
+}
+
+void AnfitrionLote::PonPizarraYAvance(model::Anfitrion& a)
+{
+    a.MarcaPizarra = [this] { return marcaPizarra; };
+    a.PonMarcaPizarra = [this](bool marca) { marcaPizarra = marca; };
+    a.LeePizarra = [this] { return pizarra; };
+    a.PonPizarra = [this](std::string_view texto) { pizarra = texto; };
+    a.AmpliaPizarra = [this](const std::string& texto) { Amplia(texto); };
+    a.AgregaPizarra = [this](std::string_view texto) { pizarra += texto; };
+    if (!salidas.erroresEsTerminal) return;
+    a.TextosAvance = [this](std::string_view primero, std::string_view segundo) {
+        if (avanceVisible && porcentaje == porcentajeVisible) return;
+        DibujaAvance(primero, segundo);
+    };
+    a.BarraAvance = [this](int unPorcentaje) { porcentaje = unPorcentaje; };
+    a.CierraAvance = [this] { BorraAvance(); };
+}
+
+// A run hands over its whole text after each component; only what is new is copied.
+void AnfitrionLote::Amplia(const std::string& texto)
+{
+    pizarra.append(texto, pizarra.size());
+}
+
+void AnfitrionLote::Linea(std::string_view titulo, std::string_view texto, std::string_view respuesta)
+{
+    BorraAvance();
+    salidas.Errores(LineaDeAviso(titulo, texto, respuesta));
+}
+
+// One drawing per percent: a series' storms may be over faster than a terminal shows them.
+void AnfitrionLote::DibujaAvance(std::string_view primero, std::string_view segundo)
+{
+    const int llenos = std::clamp(porcentaje, 0, 100) * AnchoBarra / 100;
+    std::string linea{BorraLinea};
+    linea += '[';
+    linea.append(static_cast<std::size_t>(llenos), '#');
+    linea.append(static_cast<std::size_t>(AnchoBarra - llenos), '.');
+    linea += "] " + std::to_string(porcentaje) + " %  ";
+    AgregaEnUnaLinea(linea, primero);
+    linea += "  ";
+    AgregaEnUnaLinea(linea, segundo);
+    salidas.Errores(linea);
+    avanceVisible = true;
+    porcentajeVisible = porcentaje;
+}
+
+void AnfitrionLote::BorraAvance()
+{
+    if (!avanceVisible) return;
+    salidas.Errores(BorraLinea);
+    avanceVisible = false;
+}
+
+}  // namespace batch

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "model/Anfitrion.h"
+
+namespace batch {
+
+/// Where the batch program's texts go; the tests put buffers in their place. Bytes are UTF-8.
+struct Salidas {
+    std::function<void(std::string_view)> Estandar = [](std::string_view) {};
+    std::function<void(std::string_view)> Errores = [](std::string_view) {};
+    bool erroresEsTerminal = false;  ///< a progress bar is drawn on Errores only where this is true
+};
+
+/// Standard output and standard error of the process.
+Salidas SalidasDelProceso();
+
+/// Exit status of a run that an answer of No or a fatal message ended.
+inline constexpr int EstadoTerminado = 3;
+
+/// The world of a run without a window. Boxes and questions go to Errores, one line each; the Slate is a
+/// text; the end of the program is thrown as FinDelPrograma with EstadoTerminado.
+///
+/// Not to be moved once Anfitrion() has been called: the functions of the host refer to it.
+class AnfitrionLote {
+  public:
+    AnfitrionLote(Salidas unasSalidas, bool pizarraMarcada, bool respondeSi);
+    AnfitrionLote(const AnfitrionLote&) = delete;
+    AnfitrionLote& operator=(const AnfitrionLote&) = delete;
+
+    /// The host that runs get; it lives no longer than this object.
+    model::Anfitrion Anfitrion();
+    /// The text in the Slate's box, with its CR LF.
+    [[nodiscard]] const std::string& Pizarra() const { return pizarra; }
+    /// Takes the progress bar off the terminal.
+    void BorraAvance();
+
+  private:
+    void PonPizarraYAvance(model::Anfitrion& anfitrion);
+    void Linea(std::string_view titulo, std::string_view texto, std::string_view respuesta);
+    void Amplia(const std::string& texto);
+    void DibujaAvance(std::string_view primero, std::string_view segundo);
+
+    Salidas salidas;
+    bool marcaPizarra;
+    bool responde;
+    std::string pizarra;
+    int porcentaje = 0;         ///< of the series' storms, done
+    int porcentajeVisible = 0;  ///< what the bar on the terminal shows
+    bool avanceVisible = false;
+};
+
+/// A box as one line: `[title] text` and what stands behind it, line breaks as " / ", LF at the end. A box
+/// without a title bears the program's name.
+std::string LineaDeAviso(std::string_view titulo, std::string_view texto, std::string_view respuesta = {});
+
+/// Present local date and time, dd/mm/yyyy hh:mm:ss.
+std::string FechaHoraLocal();
+
+}  // namespace batch

@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "batch/CorridaLote.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <filesystem>
+#include <system_error>
+
+#include "batch/ResultadosCsv.h"
+#include "engine/mdlSeriePDR.h"
+#include "engine/modProceso0.h"
+#include "model/ArchivosTormenta.h"
+#include "model/Avisos.h"
+#include "model/Configuracion.h"
+#include "model/Falla.h"
+#include "model/VidaProyecto.h"
+
+namespace batch {
+namespace {
+
+namespace fs = std::filesystem;
+using model::FormaLluvia;
+using model::Siro;
+
+constexpr std::int16_t DistriPpReal = 7;  // what the desktop ticks for a recorded storm
+
+/// A path from the root on, without "." and ".." and without a separator at its end.
+std::string Absoluta(const std::string& ruta)
+{
+    std::error_code error;
+    fs::path absoluta = fs::absolute(fs::path(ruta), error).lexically_normal();
+    if (!absoluta.has_filename() && absoluta.has_relative_path()) absoluta = absoluta.parent_path();
+    return absoluta.string();
+}
+
+/// Directory of the program: as the system tells it, or else by the name under which it was called.
+std::string DirectorioDelEjecutable(const std::string& nombre)
+{
+    std::error_code error;
+    const fs::path propio = fs::read_symlink("/proc/self/exe", error);
+    return error ? fs::path(Absoluta(nombre)).parent_path().string() : propio.parent_path().string();
+}
+
+void LeeTormentaReal(Siro& s, const std::string& nombre)
+{
+    model::TormentaReal tormenta;
+    tormenta.nombre = nombre;
+    model::LeePpReal(s, tormenta);
+    s.PasoPp = tormenta.PasoPpReal;
+    if (s.NroPpReal != 0) return;
+    s.PpTormenta = 0;
+    s.DurTormenta = 0;
+}
+
+void CargaPpUEH(Siro& s, const std::vector<float>& laminas)
+{
+    for (std::size_t i = 0; i < laminas.size(); ++i)
+        s.PpUEH(static_cast<int>(i) + 1) = laminas[i];
+    const auto primera = std::find_if(laminas.begin(), laminas.end(), [](float p) { return p > 0; });
+    if (primera != laminas.end()) s.PpTormenta = *primera;
+}
+
+/// Runs what was settled. Returns whether the run went to its end.
+bool CorreOrden(Siro& s, const Opciones& o)
+{
+    AbreProyecto(s, Absoluta(o.conf));
+    if (s.NombreProyecto.empty() || s.DirProyecto.empty()) return false;
+    FijaTormenta(s, o);
+    if (o.orden == Opciones::Orden::Serie)
+        return engine::CorreSeriePDR(s, o.hilos) == engine::FinSerie::Completa;
+    return engine::CorreUnaTormenta(s);
+}
+
+/// Returns whether the results were written, or weren't asked for; a fault is told.
+bool GuardaResultados(Siro& s, const Opciones& o)
+{
+    if (o.resultados.empty()) return true;
+    const auto guarda = [&] {
+        if (o.orden == Opciones::Orden::Serie)
+            GuardaCsvSerie(s, Absoluta(o.resultados));
+        else
+            GuardaCsvTormenta(s, Absoluta(o.resultados));
+    };
+    return model::Sentencia(
+        guarda, [&](const model::Falla& falla) { model::Informa(s, model::TextoFallaArchivo(falla)); });
+}
+
+}  // namespace
+
+void AbreProyecto(Siro& s, const std::string& conf)
+{
+    model::TomaRutaProyecto(s, conf);
+    s.Anfitrion.carga_lbl_proyecto();
+    model::leoConf(s);
+}
+
+void FijaTormenta(Siro& s, const Opciones& o)
+{
+    const auto forma = o.orden == Opciones::Orden::Serie ? FormaLluvia::SeriePDR : FormaLluvia{o.forma};
+    s.FormaPp = static_cast<std::int16_t>(forma);
+    s.PpTormenta = o.pp;
+    s.DurTormenta = o.dur;
+    s.RecTormenta = o.rec;
+    s.DistriPp = o.distribucion;
+    s.PasoPp = o.pasoPp;
+    s.PasoQ = o.pasoQ;
+    switch (forma) {
+    case FormaLluvia::SeriePDR:
+        s.TablaPDR = o.tabla;
+        model::LeeTablaPDRs(s);
+        break;
+    case FormaLluvia::Real:
+        s.DistriPp = DistriPpReal;
+        LeeTormentaReal(s, o.tormenta);
+        break;
+    case FormaLluvia::PorUEH:
+        s.DistriPp = 0;
+        CargaPpUEH(s, o.ppUEH);
+        [[fallthrough]];
+    case FormaLluvia::Escrita:
+    case FormaLluvia::DeLista:
+        if (s.DurTormenta > 0) s.PasoPp = std::min(s.PasoPp, s.DurTormenta);
+        break;
+    }
+    s.PasoQ = std::min(s.PasoQ, s.PasoPp);
+}
+
+int Corre(const Opciones& o, const std::string& dirEjecutable, const Salidas& salidas)
+{
+    AnfitrionLote anfitrion(salidas, o.pizarra, o.respondeSi);
+    Siro s;
+    s.Anfitrion = anfitrion.Anfitrion();
+    s.DirEjecutable = dirEjecutable;
+    s.DirTrabajo = o.trabajo.empty() ? dirEjecutable : Absoluta(o.trabajo);
+    bool completa = false;
+    try {
+        completa = CorreOrden(s, o);
+    } catch (const model::FinDelPrograma& fin) {
+        anfitrion.BorraAvance();
+        return fin.estado;
+    }
+    anfitrion.BorraAvance();
+    if (!anfitrion.Pizarra().empty()) salidas.Estandar(anfitrion.Pizarra());
+    return completa && GuardaResultados(s, o) ? EstadoCompleto : EstadoInterrumpido;
+}
+
+int Lote(int argc, const char* const* argv, const Salidas& salidas)
+{
+    const Lectura lectura = LeeOpciones(argc, argv);
+    if (lectura.opciones)
+        return Corre(*lectura.opciones, DirectorioDelEjecutable(argc > 0 ? argv[0] : ""), salidas);
+    if (lectura.motivo.empty()) {
+        salidas.Estandar(Uso());
+        return EstadoCompleto;
+    }
+    salidas.Errores("siro-lote: " + lectura.motivo + "\n\n");
+    salidas.Errores(Uso());
+    return EstadoOrdenErronea;
+}
+
+}  // namespace batch

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+
+#include "batch/AnfitrionLote.h"
+#include "batch/Opciones.h"
+#include "model/Siro.h"
+
+namespace batch {
+
+/// Exit status of the process; 3 is EstadoTerminado.
+inline constexpr int EstadoCompleto = 0;      ///< the run went to its end
+inline constexpr int EstadoInterrumpido = 1;  ///< a check ended the run, or the input kept it from starting
+inline constexpr int EstadoOrdenErronea = 2;  ///< the command line is wrong
+
+/// Does what a command line asks for and returns the exit status.
+int Lote(int argc, const char* const* argv, const Salidas& salidas);
+
+/// Runs a project: opens it, settles the storm, runs it or the series, hands over the Slate's text and writes
+/// the CSV. `dirEjecutable` stands for DirTrabajo where the options name none. Returns the exit status.
+int Corre(const Opciones& opciones, const std::string& dirEjecutable, const Salidas& salidas);
+
+/// Opens the project of a configuration file given by its absolute path, as the menu's Open does, and reads
+/// its configuration. The last project that the desktop remembers stays what it is.
+void AbreProyecto(model::Siro& s, const std::string& conf);
+
+/// Settles the storm in hand, or the series, by the rules that stand between the desktop's dialog and a run.
+void FijaTormenta(model::Siro& s, const Opciones& opciones);
+
+}  // namespace batch

@@ -1,0 +1,225 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "batch/Opciones.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <limits>
+
+#include "model/Falla.h"
+#include "model/Numeros.h"
+#include "model/Siro.h"
+#include "model/VidaProyecto.h"
+
+namespace batch {
+namespace {
+
+constexpr std::string_view TextoUso =
+    R"(Uso: siro-lote una   CONF [opciones]    una tormenta
+     siro-lote serie CONF [opciones]    una serie P-D-R
+
+CONF es el archivo <Proyecto>_Conf.vlm de un proyecto.
+
+  --trabajo DIR           tablas compartidas y archivos de resultados (el directorio del programa)
+  --forma N               0, 1 una tormenta escrita; 3 una lámina por UEH; 4 una tormenta real (0)
+  --pp MM                 precipitación [mm] (60)
+  --dur MIN               duración [min] (60)
+  --rec AÑOS              recurrencia [años] (0)
+  --distribucion N        distribución temporal, 0 a 7 (0)
+  --paso-pp MIN           paso del modelo [min] (10)
+  --paso-q MIN            paso de salida de los caudales [min] (10)
+  --pp-ueh V,V,...        precipitación de cada UEH [mm], en el orden del archivo, para --forma 3
+  --tormenta NOMBRE       archivo _pt.vlm de la tormenta real, en el directorio del proyecto, para --forma 4
+  --tabla K               tabla P-D-R de la serie, 0 a 3 (0)
+  --pizarra               el texto de la Pizarra va a la salida estándar
+  --responde si|no        respuesta a toda pregunta (si)
+  --hilos N               hilos de una serie; 0: todos los núcleos (0)
+  --resultados ARCHIVO    resultados en CSV
+  --ayuda, --help         este texto
+
+Estado de salida: 0 la corrida llegó a su fin; 1 un control o la entrada dañada la terminó;
+                  2 la línea de órdenes es errónea; 3 una respuesta No o un mensaje fatal terminó el programa.
+)";
+
+constexpr double TopeEntero = 32767;
+
+/// A value that an option can't take, with the reason as the user reads it.
+struct ValorErroneo {
+    std::string motivo;
+};
+
+double Numero(std::string_view texto)
+{
+    try {
+        if (const auto x = model::NumeroEntero(texto)) return *x;
+    } catch (const model::Falla&) {
+        throw ValorErroneo{"el número es demasiado grande"};
+    }
+    throw ValorErroneo{"\"" + std::string(texto) + "\" no es un número"};
+}
+
+double NumeroEnteroEntre(std::string_view texto, double menor, double mayor)
+{
+    const double x = Numero(texto);
+    if (x == std::floor(x) && x >= menor && x <= mayor) return x;
+    throw ValorErroneo{"debe ser un número entero entre " + model::NumeroATexto(menor) + " y " +
+                       model::NumeroATexto(mayor)};
+}
+
+std::int16_t Entero(std::string_view texto, double menor, double mayor)
+{
+    return static_cast<std::int16_t>(NumeroEnteroEntre(texto, menor, mayor));
+}
+
+float Lamina(std::string_view texto)
+{
+    const double x = Numero(texto);
+    if (x < 0) throw ValorErroneo{"una precipitación no puede ser negativa"};
+    try {
+        return model::Simple(x);
+    } catch (const model::Falla&) {
+        throw ValorErroneo{"el número es demasiado grande"};
+    }
+}
+
+std::vector<float> Laminas(std::string_view texto)
+{
+    std::vector<float> valores;
+    for (std::size_t desde = 0; desde <= texto.size();) {
+        const std::size_t coma = std::min(texto.find(',', desde), texto.size());
+        valores.push_back(Lamina(texto.substr(desde, coma - desde)));
+        desde = coma + 1;
+    }
+    if (valores.size() > model::MaxUEHs)
+        throw ValorErroneo{"hay más de " + model::NumeroATexto(std::int32_t{model::MaxUEHs}) + " valores"};
+    return valores;
+}
+
+std::int16_t Forma(std::string_view texto)
+{
+    const std::int16_t forma = Entero(texto, 0, 4);
+    if (forma == static_cast<std::int16_t>(model::FormaLluvia::SeriePDR))
+        throw ValorErroneo{"una serie P-D-R se corre con la orden serie"};
+    return forma;
+}
+
+bool RespondeSi(std::string_view texto)
+{
+    if (texto != "si" && texto != "no") throw ValorErroneo{"debe ser si o no"};
+    return texto == "si";
+}
+
+/// An option with a value: how it is written and where its value goes.
+struct FilaOpcion {
+    const char* nombre;
+    void (*toma)(Opciones& o, const std::string& valor);
+};
+
+constexpr auto Filas = std::to_array<FilaOpcion>({
+    {"--trabajo", [](Opciones& o, const std::string& v) { o.trabajo = v; }},
+    {"--forma", [](Opciones& o, const std::string& v) { o.forma = Forma(v); }},
+    {"--pp", [](Opciones& o, const std::string& v) { o.pp = Lamina(v); }},
+    {"--dur", [](Opciones& o, const std::string& v) { o.dur = Entero(v, 0, TopeEntero); }},
+    {"--rec", [](Opciones& o, const std::string& v) { o.rec = Entero(v, 0, TopeEntero); }},
+    {"--distribucion", [](Opciones& o, const std::string& v) { o.distribucion = Entero(v, 0, 7); }},
+    {"--paso-pp", [](Opciones& o, const std::string& v) { o.pasoPp = Entero(v, 1, TopeEntero); }},
+    {"--paso-q", [](Opciones& o, const std::string& v) { o.pasoQ = Entero(v, 1, TopeEntero); }},
+    {"--pp-ueh", [](Opciones& o, const std::string& v) { o.ppUEH = Laminas(v); }},
+    {"--tormenta", [](Opciones& o, const std::string& v) { o.tormenta = v; }},
+    {"--tabla", [](Opciones& o, const std::string& v) { o.tabla = Entero(v, 0, 3); }},
+    {"--responde", [](Opciones& o, const std::string& v) { o.respondeSi = RespondeSi(v); }},
+    {"--hilos",
+     [](Opciones& o,
+        const std::string&
+            v) { o.hilos = static_cast<int>(NumeroEnteroEntre(v, 0, std::numeric_limits<int>::max())); }},
+    {"--resultados", [](Opciones& o, const std::string& v) { o.resultados = v; }},
+});
+
+/// The words of a command line, before their values are looked at.
+struct Palabras {
+    std::array<std::string, Filas.size()> valores{};
+    std::array<CLI::Option*, Filas.size()> opciones{};
+    std::string conf{};
+    bool pizarra = false;
+};
+
+CLI::App* Orden(CLI::App& programa, const char* nombre, Palabras& p)
+{
+    CLI::App* orden = programa.add_subcommand(nombre);
+    orden->set_help_flag("--help,-h,--ayuda");
+    orden->add_option("CONF", p.conf);
+    for (std::size_t i = 0; i < Filas.size(); ++i)
+        p.opciones[i] = orden->add_option(Filas[i].nombre, p.valores[i]);
+    orden->add_flag("--pizarra", p.pizarra);
+    return orden;
+}
+
+/// The option that a message of the parser names.
+std::string OpcionNombrada(const std::string& mensaje)
+{
+    const std::size_t desde = mensaje.find("--");
+    if (desde == std::string::npos) return "CONF";
+    return mensaje.substr(desde, mensaje.find_first_of(" :=,", desde) - desde);
+}
+
+std::string MotivoDe(const CLI::ParseError& error, const CLI::App& programa)
+{
+    if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr) {
+        const auto sobran = programa.remaining(true);
+        return "No se esperaba " + (sobran.empty() ? std::string{"otro argumento"} : sobran.front());
+    }
+    if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr) return "Falta la orden: una o serie";
+    const std::string opcion = OpcionNombrada(error.what());
+    if (opcion == "--pizarra" || opcion == "--help") return "La opción " + opcion + " no lleva valor";
+    return "La opción " + opcion + " lleva un valor, y una sola vez";
+}
+
+Lectura Entiende(const Palabras& p, Opciones o)
+{
+    if (!std::string_view(p.conf).ends_with(model::TerminacionConf))
+        return {
+            {},
+            p.conf.empty() ? "Falta CONF" : p.conf + " no termina en " + std::string(model::TerminacionConf)};
+    o.conf = p.conf;
+    o.pizarra = p.pizarra;
+    for (std::size_t i = 0; i < Filas.size(); ++i) {
+        if (p.opciones[i]->count() == 0) continue;
+        try {
+            Filas[i].toma(o, p.valores[i]);
+        } catch (const ValorErroneo& error) {
+            return {{}, std::string(Filas[i].nombre) + ": " + error.motivo};
+        }
+    }
+    return {std::move(o), {}};
+}
+
+}  // namespace
+
+std::string_view Uso()
+{
+    return TextoUso;
+}
+
+Lectura LeeOpciones(int argc, const char* const* argv)
+{
+    CLI::App programa{"", "siro-lote"};
+    programa.set_help_flag("--help,-h,--ayuda");
+    programa.require_subcommand(1);
+    Palabras una, serie;
+    const CLI::App* ordenUna = Orden(programa, "una", una);
+    Orden(programa, "serie", serie);
+    try {
+        programa.parse(argc, argv);
+    } catch (const CLI::CallForHelp&) {
+        return {};
+    } catch (const CLI::ParseError& error) {
+        return {{}, MotivoDe(error, programa)};
+    }
+    Opciones o;
+    o.orden = ordenUna->parsed() ? Opciones::Orden::Una : Opciones::Orden::Serie;
+    return Entiende(o.orden == Opciones::Orden::Una ? una : serie, std::move(o));
+}
+
+}  // namespace batch

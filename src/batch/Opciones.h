@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace batch {
+
+/// What a command line asks for. Numbers are within the bounds told here; paths stand as they were typed.
+struct Opciones {
+    enum class Orden { Una, Serie };
+
+    Orden orden = Orden::Una;
+    std::string conf{};             ///< path of the project's configuration file, ends in _Conf.vlm
+    std::string trabajo{};          ///< directory of shared tables and result files; empty: the executable's
+    std::int16_t forma = 0;         ///< input form of the rain: 0, 1, 3, 4
+    float pp = 60;                  ///< depth [mm], not negative
+    std::int16_t dur = 60;          ///< duration [min], not negative
+    std::int16_t rec = 0;           ///< recurrence [years], not negative
+    std::int16_t distribucion = 0;  ///< temporal distribution 0..7
+    std::int16_t pasoPp = 10;       ///< model step [min], from 1
+    std::int16_t pasoQ = 10;        ///< output step [min], from 1
+    std::vector<float> ppUEH{};     ///< depth of each UEH in file order [mm], 70 at most
+    std::string tormenta{};         ///< file name of the real storm, in the project's directory
+    std::int16_t tabla = 0;         ///< P-D-R table 0..3
+    bool pizarra = false;           ///< the Slate is on
+    bool respondeSi = true;         ///< answer to every question
+    int hilos = 0;                  ///< threads of a series; 0: all cores
+    std::string resultados{};       ///< path of the CSV file; empty: none
+
+    bool operator==(const Opciones&) const = default;
+};
+
+/// A command line as it was understood: what to do, or what to say in its place.
+struct Lectura {
+    std::optional<Opciones> opciones{};
+    std::string motivo{};  ///< why the command line is wrong; empty where help was asked for
+};
+
+/// How to call the program, in lines that end in LF.
+std::string_view Uso();
+
+/// Reads a command line as main gets it, the program's own name first.
+Lectura LeeOpciones(int argc, const char* const* argv);
+
+}  // namespace batch

@@ -1,0 +1,228 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "batch/ResultadosCsv.h"
+
+#include <array>
+#include <charconv>
+#include <cstddef>
+#include <utility>
+#include <vector>
+
+#include "engine/mdlSeriePDR.h"
+
+namespace batch {
+namespace {
+
+constexpr std::string_view CabezaTormenta = "componente,p,minutos,qentra,qsale,h,s\n";
+constexpr std::string_view CabezaSerie = "componente,storm,p,d,r,qmax,esc,coef\n";
+constexpr std::string_view NombreCuenca = "*";  // the basin as a whole
+
+constexpr std::size_t TrozoArchivo = std::size_t{1} << 18;  // bytes that are kept back before a write
+
+/// A file that is written piece by piece, so that a long run needs no memory of its size.
+class ArchivoCsv {
+  public:
+    ArchivoCsv(const model::Disco& unDisco, std::string unaRuta, std::string_view cabeza)
+        : disco(unDisco), ruta(std::move(unaRuta))
+    {
+        disco.Escribe(ruta, cabeza);
+    }
+    void Fila(FilaCsv& fila)
+    {
+        fila.Termina(pendiente);
+        if (pendiente.size() >= TrozoArchivo) Vuelca();
+    }
+    void Vuelca()
+    {
+        if (!pendiente.empty()) disco.Agrega(ruta, pendiente);
+        pendiente.clear();
+    }
+
+  private:
+    const model::Disco& disco;
+    std::string ruta;
+    std::string pendiente;
+};
+
+/// Height and storage of a Represa or Lago over time: the row `numero` of two arrays, which no other kind
+/// has.
+struct Embalse {
+    const model::Matriz<float>* altura = nullptr;
+    const model::Matriz<float>* volumen = nullptr;
+    int numero = 0;
+};
+
+bool EsCauce(const model::Siro& s, const std::string& nombre)
+{
+    for (const auto& cauce : s.ColCauces)
+        if (cauce.NombreCauce == nombre) return true;
+    return false;
+}
+
+/// The Represa or Lago of that name, without arrays where it is a Cauce. Kinds are looked at in the order in
+/// which the sequence of computation looks at them.
+Embalse EmbalseDe(const model::Siro& s, const std::string& nombre)
+{
+    if (EsCauce(s, nombre)) return {};
+    for (const auto& lago : s.ColLagos)
+        if (lago.NombreLAGO == nombre) return Embalse{&s.HLago, &s.SLago, lago.numLAGO};
+    for (const auto& represa : s.ColRepresas)
+        if (represa.NombreRepresa == nombre) return Embalse{&s.HRepresa, &s.SRepresa, represa.numRepresa};
+    return {};
+}
+
+/// An element of a result array; an empty field where a fault of the run left the array without it.
+template <typename T>
+void Elemento(FilaCsv& fila, const model::Matriz<T>& matriz, int renglon, int columna)
+{
+    const bool esta =
+        renglon >= matriz.PrimeraFila() && renglon <= matriz.UltimaFila() && columna <= matriz.TopeColumna();
+    if (esta)
+        fila.Numero(matriz(renglon, columna));
+    else
+        fila.Vacio();
+}
+
+template <typename T>
+void Elemento(FilaCsv& fila, const model::Arreglo<T>& arreglo, int indice)
+{
+    if (indice <= arreglo.Tope())
+        fila.Numero(arreglo(indice));
+    else
+        fila.Vacio();
+}
+
+void Componente(const model::Siro& s, int c, ArchivoCsv& archivo)
+{
+    const std::string& nombre = s.Secuencia[static_cast<std::size_t>(c)];
+    const bool esUEH = c <= s.NroUEHs;
+    const Embalse embalse = esUEH ? Embalse{} : EmbalseDe(s, nombre);
+    FilaCsv fila;
+    for (int p = 0; p <= s.NroPasosQ; ++p) {
+        fila.Texto(nombre).Numero(p).Numero(p * s.PasoQ);
+        if (esUEH)
+            fila.Vacio();
+        else
+            Elemento(fila, s.QEntra, c, p);
+        Elemento(fila, s.QSale, c, p);
+        if (embalse.altura != nullptr) {
+            Elemento(fila, *embalse.altura, embalse.numero, p);
+            Elemento(fila, *embalse.volumen, embalse.numero, p);
+        } else {
+            fila.Vacio().Vacio();
+        }
+        archivo.Fila(fila);
+    }
+}
+
+/// Numbers of the storms of the series that weren't skipped.
+std::vector<int> TormentasCorridas(model::Siro& s)
+{
+    const std::int16_t ultimo = s.IndSerie;
+    std::vector<int> corridas;
+    for (int n = 1; n <= s.NroSeriePDR; ++n) {
+        s.IndSerie = static_cast<std::int16_t>(n);
+        engine::SaltaTormenta(s);
+        if (!s.SaltarTormenta) corridas.push_back(n);
+    }
+    s.IndSerie = ultimo;
+    return corridas;
+}
+
+void Tormenta(FilaCsv& fila, const model::Siro& s, std::string_view nombre, int n)
+{
+    fila.Texto(nombre).Numero(n).Numero(s.SerieP(n)).Numero(s.SerieD(n)).Numero(s.SerieR(n));
+}
+
+}  // namespace
+
+FilaCsv& FilaCsv::Texto(std::string_view texto)
+{
+    Separa();
+    if (texto.find_first_of(",\"\r\n") == std::string_view::npos) {
+        fila += texto;
+        return *this;
+    }
+    fila += '"';
+    for (const char letra : texto) {
+        if (letra == '"') fila += '"';
+        fila += letra;
+    }
+    fila += '"';
+    return *this;
+}
+
+FilaCsv& FilaCsv::Numero(float x)
+{
+    Separa();
+    std::array<char, 32> cifras{};
+    const auto fin = std::to_chars(cifras.data(), cifras.data() + cifras.size(), x);
+    fila.append(cifras.data(), fin.ptr);
+    return *this;
+}
+
+FilaCsv& FilaCsv::Numero(std::int32_t n)
+{
+    Separa();
+    std::array<char, 16> cifras{};
+    const auto fin = std::to_chars(cifras.data(), cifras.data() + cifras.size(), n);
+    fila.append(cifras.data(), fin.ptr);
+    return *this;
+}
+
+FilaCsv& FilaCsv::Vacio()
+{
+    Separa();
+    return *this;
+}
+
+void FilaCsv::Termina(std::string& destino)
+{
+    destino += fila;
+    destino += '\n';
+    fila.clear();
+    primero = true;
+}
+
+void FilaCsv::Separa()
+{
+    if (!primero) fila += ',';
+    primero = false;
+}
+
+void GuardaCsvTormenta(const model::Siro& s, const std::string& ruta)
+{
+    ArchivoCsv archivo(s.Disco, ruta, CabezaTormenta);
+    for (int c = 1; c <= s.NroComponentes; ++c)
+        Componente(s, c, archivo);
+    archivo.Vuelca();
+}
+
+void GuardaCsvSerie(model::Siro& s, const std::string& ruta)
+{
+    ArchivoCsv archivo(s.Disco, ruta, CabezaSerie);
+    const auto corridas = TormentasCorridas(s);
+    FilaCsv fila;
+    for (int c = 1; c <= s.NroComponentes; ++c) {
+        for (const int n : corridas) {
+            Tormenta(fila, s, s.Secuencia[static_cast<std::size_t>(c)], n);
+            Elemento(fila, s.QMax, c, n);
+            if (c <= s.NroUEHs) {
+                Elemento(fila, s.EscUEH, c, n);
+                Elemento(fila, s.CoefEscUEH, c, n);
+            } else {
+                fila.Vacio().Vacio();
+            }
+            archivo.Fila(fila);
+        }
+    }
+    for (const int n : corridas) {
+        Tormenta(fila, s, NombreCuenca, n);
+        fila.Vacio();
+        Elemento(fila, s.EscTotal, n);
+        Elemento(fila, s.CoefEscTotal, n);
+        archivo.Fila(fila);
+    }
+    archivo.Vuelca();
+}
+
+}  // namespace batch
