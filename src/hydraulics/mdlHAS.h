@@ -5,8 +5,8 @@
 
 // Storage S [m3], area A [ha] and height H [m] of the Represa or Lago in s.CompActual, by the table given for
 // it: a row as it stands, or the line between two; nothing is extrapolated. Outside the table the user is
-// asked: Yes gives 0, No ends the program. Throws Falla 6 where two storages lie too far apart, Falla 9 and 91
-// where the component or its rows aren't there.
+// asked: Yes gives 0, No ends the program. Throws Falla 6 where two storages lie too far apart, Falla 9 and
+// 91 where the component or its rows aren't there.
 namespace hydraulics {
 
 double SdeHRepresa(model::Siro& s, float h);
