@@ -1,0 +1,557 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "model/Componentes.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <unordered_map>
+#include <variant>
+#include <vector>
+
+#include "model/Avisos.h"
+#include "model/EscrituraInformada.h"
+#include "model/Falla.h"
+#include "model/Numeros.h"
+#include "model/Registros.h"
+#include "model/Siro.h"
+
+namespace model {
+
+namespace {
+
+constexpr std::string_view SufijoUEHs = "_UEHs.vlm";
+constexpr std::string_view SufijoVerCau = "_VerCau.vlm";
+
+// "prorgamador": kept as it stands.
+constexpr std::string_view AvisoDanado =
+    "Hay problemas con el archivo de datos o el archivo está dañado. Si es un prorgamador avanzado, intente "
+    "ingresar directamente al archivo y corregir el problema";
+constexpr std::string_view AvisoGuardado =
+    "Los datos de componentes de Unidades Hidrológicas del proyecto se han guardado correctamente en el "
+    "archivo ";
+
+constexpr int PasadasOrden = 10;
+
+// --- the fields of the records ---
+
+/// The component's number: written as it stands, read and thrown away, since reading numbers anew.
+template <typename T>
+struct NumeroCorrido {
+    std::int16_t T::*propiedad;
+};
+
+/// A property that may never have been given a value; it is then written as nothing, an empty line.
+template <typename T>
+struct TextoSinFijar {
+    std::string T::*propiedad;
+};
+
+/// The elements of an array from `desde` to its last, a field each.
+template <typename T, typename X>
+struct Elementos {
+    std::array<X, NroFuncionesFQ> T::*propiedad;
+    std::size_t desde = 0;
+};
+
+/// A field of a component's record.
+template <typename T>
+struct CampoComponente {
+    std::variant<std::int16_t T::*, float T::*, bool T::*, std::string T::*, NumeroCorrido<T>,
+                 TextoSinFijar<T>, Elementos<T, float>, Elementos<T, std::int16_t>>
+        propiedad;
+    /// A statement of its own that follows the field's reading.
+    void (*luego)(Siro& s, const T& componente) = nullptr;
+};
+
+/// The drawing keeps the vertex count apart from the reach.
+void AnotaVertices(Siro& s, const Cauce& cauce)
+{
+    s.NroVertices(cauce.numCauce) = cauce.numVertices;
+}
+
+// The fields in the order of the file, a line each.
+// clang-format off
+constexpr auto CamposCauce = std::to_array<CampoComponente<Cauce>>({
+    {NumeroCorrido<Cauce>{&Cauce::numCauce}},
+    {&Cauce::NombreCauce},
+    {&Cauce::numVertices},
+    {&Cauce::IndiceParInicial, AnotaVertices},
+    {&Cauce::Cauce_aa},
+    {&Cauce::VelMediaCauce},
+    {&Cauce::LongCauce},
+    {&Cauce::OrdenCauce},
+    {&Cauce::Cauce_k_Musk},
+    {&Cauce::Cauce_n_Musk},
+    {&Cauce::optDirMusk},
+});
+
+constexpr auto CamposUEH = std::to_array<CampoComponente<UEH>>({
+    {NumeroCorrido<UEH>{&UEH::numUEH}},
+    {&UEH::NombreUEH},
+    {&UEH::Area},
+    {&UEH::Referencia},
+    {&UEH::LongitudMax},
+    {&UEH::VelMedia},
+    {TextoSinFijar<UEH>{&UEH::Metodo}},
+    {&UEH::IconoUEHx},
+    {&UEH::IconoUEHy},
+    {&UEH::XCauce},
+    {&UEH::YCauce},
+    {&UEH::Cauce_aa},
+    {&UEH::KostiakovA},
+    {&UEH::KostiakovB},
+    {&UEH::KostiakovI},
+    {&UEH::Q0Recesion},
+    {&UEH::KRecesion},
+    {&UEH::RetensionZ},
+});
+
+constexpr auto CamposRepresa = std::to_array<CampoComponente<Represa>>({
+    {NumeroCorrido<Represa>{&Represa::numRepresa}},
+    {&Represa::NombreRepresa},
+    {&Represa::IconoRepresaX},
+    {&Represa::IconoRepresaY},
+    {TextoSinFijar<Represa>{&Represa::Metodo}},
+    {&Represa::XCauce},
+    {&Represa::YCauce},
+    {&Represa::Cauce_aa},
+    {&Represa::optTabla},
+    {Elementos<Represa, std::int16_t>{&Represa::chkFQ}},
+    {Elementos<Represa, float>{&Represa::FQa}},
+    {Elementos<Represa, float>{&Represa::FQb}},
+    {Elementos<Represa, float>{&Represa::FQc, 4}},  // functions 5 to 8
+    {&Represa::Represa_k_Musk},
+    {&Represa::Represa_n_Musk},
+    {Elementos<Represa, float>{&Represa::FQmin}},
+    {Elementos<Represa, float>{&Represa::FQMax}},
+    {&Represa::HInicialEmb},
+});
+
+constexpr auto CamposLago = std::to_array<CampoComponente<Lago>>({
+    {NumeroCorrido<Lago>{&Lago::numLAGO}},
+    {&Lago::NombreLAGO},
+    {&Lago::Referencia},
+    {TextoSinFijar<Lago>{&Lago::Metodo}},
+    {&Lago::IconoLAGOx},
+    {&Lago::IconoLAGOy},
+    {&Lago::XCauce},
+    {&Lago::YCauce},
+    {&Lago::Cauce_aa},
+    {&Lago::Lago_k_Musk},
+    {&Lago::HInicialEmb},
+});
+// clang-format on
+
+/// A kind of component as the file holds it: its count, then its records.
+template <typename T, int Limite>
+struct Grupo {
+    Coleccion<T, Limite> Siro::*coleccion;
+    std::int16_t Siro::*cuenta;
+    std::int16_t T::*numero;
+    std::span<const CampoComponente<T>> campos;
+};
+
+constexpr Grupo<Cauce, MaxCauces> GrupoCauces{&Siro::ColCauces, &Siro::NroCauces, &Cauce::numCauce,
+                                              CamposCauce};
+constexpr Grupo<UEH, MaxUEHs> GrupoUEHs{&Siro::ColUEHs, &Siro::NroUEHs, &UEH::numUEH, CamposUEH};
+constexpr Grupo<Represa, MaxRepresas> GrupoRepresas{&Siro::ColRepresas, &Siro::NroRepresas,
+                                                    &Represa::numRepresa, CamposRepresa};
+constexpr Grupo<Lago, MaxLagos> GrupoLagos{&Siro::ColLagos, &Siro::NroLagos, &Lago::numLAGO, CamposLago};
+
+/// Does something with each kind, in the order of the file.
+template <typename F>
+void PorGrupo(F hace)
+{
+    hace(GrupoCauces);
+    hace(GrupoUEHs);
+    hace(GrupoRepresas);
+    hace(GrupoLagos);
+}
+
+std::string Compone(Siro& s, std::string_view sufijo)
+{
+    return s.ArchivoTemp = Ruta(s.DirProyecto, s.NombreProyecto + std::string(sufijo));
+}
+
+// --- reading ---
+
+/// The load under its handler: a statement at fault is reported and the next one runs; a file that isn't
+/// there and the end of the file go on their way and end the load.
+class Carga {
+  public:
+    explicit Carga(Siro& unSiro) : s(unSiro) {}
+
+    void Abre(std::string_view sufijo)
+    {
+        lector.reset();
+        const std::string ruta = Compone(s, sufijo);
+        Paso([&] {
+            try {
+                lector.emplace(s.Disco.Lee(ruta));
+            } catch (const Falla& falla) {
+                causa = falla.numero;
+                throw;
+            }
+        });
+    }
+    void Cierra() { lector.reset(); }
+    /// The open file. Throws the fault of its opening where that failed.
+    LectorRegistros& Archivo()
+    {
+        if (!lector) throw Falla{causa};
+        return *lector;
+    }
+    template <typename F>
+    bool Paso(F&& cuerpo)
+    {
+        return Sentencia(std::forward<F>(cuerpo), [&](const Falla& falla) {
+            if (TerminaLaCarga(falla)) throw falla;
+            Informa(s, TextoFallaArchivo(falla));
+        });
+    }
+    static bool TerminaLaCarga(const Falla& falla)
+    {
+        return falla.numero == NumeroFalla::ArchivoNoEsta || falla.numero == NumeroFalla::FinDeArchivo;
+    }
+    Siro& s;
+
+  private:
+    std::optional<LectorRegistros> lector;
+    NumeroFalla causa = NumeroFalla::AccesoRuta;
+};
+
+void Toma(LectorRegistros& lector, std::int16_t& x)
+{
+    x = lector.Numero16();
+}
+void Toma(LectorRegistros& lector, float& x)
+{
+    x = lector.NumeroSimple();
+}
+void Toma(LectorRegistros& lector, bool& x)
+{
+    x = lector.Logico();
+}
+void Toma(LectorRegistros& lector, std::string& x)
+{
+    x = lector.Texto();
+}
+
+/// Reads one value as a statement of its own. At fault, the value stays as it was.
+template <typename X>
+void LeeValor(Carga& carga, X& valor)
+{
+    carga.Paso([&] { Toma(carga.Archivo(), valor); });
+}
+
+template <typename T>
+void LeeCampo(Carga& carga, const CampoComponente<T>& campo, T& componente)
+{
+    const auto lee = [&](const auto& propiedad) {
+        using Propiedad = std::decay_t<decltype(propiedad)>;
+        if constexpr (std::is_member_object_pointer_v<Propiedad>) {
+            LeeValor(carga, componente.*propiedad);
+        } else if constexpr (std::is_same_v<Propiedad, NumeroCorrido<T>>) {
+            std::int16_t descartado = 0;
+            LeeValor(carga, descartado);
+        } else if constexpr (std::is_same_v<Propiedad, TextoSinFijar<T>>) {
+            LeeValor(carga, componente.*propiedad.propiedad);
+        } else {
+            auto& elementos = componente.*propiedad.propiedad;
+            for (std::size_t i = propiedad.desde; i < elementos.size(); ++i)
+                LeeValor(carga, elementos[i]);
+        }
+    };
+    std::visit(lee, campo.propiedad);
+    if (campo.luego != nullptr) carga.Paso([&] { campo.luego(carga.s, componente); });
+}
+
+template <typename T, int Limite>
+void LeeGrupo(Carga& carga, const Grupo<T, Limite>& grupo)
+{
+    Coleccion<T, Limite>& coleccion = carga.s.*grupo.coleccion;
+    coleccion.Vacia();
+    LeeValor(carga, carga.s.*grupo.cuenta);
+    const int cuenta = carga.s.*grupo.cuenta;
+    for (int n = 1; n <= cuenta; ++n) {
+        T& componente = coleccion.Agrega(T{});
+        carga.Paso(
+            [&] { static_cast<void>(coleccion.Ranura(n)); });  // its slot: beyond the array it has none
+        componente.*grupo.numero = static_cast<std::int16_t>(n);
+        for (const CampoComponente<T>& campo : grupo.campos)
+            LeeCampo(carga, campo, componente);
+    }
+}
+
+void LeeArchivoUEHs(Carga& carga)
+{
+    carga.Abre(SufijoUEHs);
+    LeeValor(carga, carga.s.NombreProyecto);
+    PorGrupo([&](const auto& grupo) { LeeGrupo(carga, grupo); });
+    carga.Cierra();
+}
+
+void LeePar(Carga& carga, int cauce, int vertice)
+{
+    carga.Paso([&] {
+        float& x = carga.s.XVertice(cauce, vertice);
+        float& y = carga.s.YVertice(cauce, vertice);
+        LectorRegistros& lector = carga.Archivo();
+        lector.Registro(2, [&] {
+            const float leidaX = lector.NumeroSimple();
+            y = lector.NumeroSimple();
+            x = leidaX;
+        });
+    });
+}
+
+/// Vertices of a reach beyond the last row of the drawing: none is taken from the file, each is reported.
+void InformaSinFila(const Siro& s, int vertices)
+{
+    const Mensaje mensaje{TextoFallaArchivo({NumeroFalla::Subindice}), {}, Icono::Ninguno};
+    for (int j = 0; j < vertices; ++j)
+        s.Anfitrion.Avisa(mensaje);
+}
+
+void LeeArchivoVerCau(Carga& carga)
+{
+    Siro& s = carga.s;
+    int mayor = 0;
+    s.XVertice.Dimensiona(MaxCauces, mayor);
+    s.YVertice.Dimensiona(MaxCauces, mayor);
+    carga.Abre(SufijoVerCau);
+    for (int i = 1; i <= s.NroCauces; ++i) {
+        bool ensancha = false;
+        carga.Paso([&] { ensancha = s.NroVertices(i) > mayor; });
+        if (ensancha) {
+            mayor = s.NroVertices(i);
+            s.XVertice.Redimensiona(mayor);
+            s.YVertice.Redimensiona(mayor);
+        }
+        int vertices = 0;
+        carga.Paso([&] { vertices = s.NroVertices(i); });
+        if (i > s.XVertice.UltimaFila()) {
+            InformaSinFila(s, vertices);
+            continue;
+        }
+        for (int j = 1; j <= vertices; ++j)
+            LeePar(carga, i, j);
+    }
+    carga.Cierra();
+}
+
+void VaciaComponentes(Siro& s)
+{
+    PorGrupo([&](const auto& grupo) {
+        (s.*grupo.coleccion).Vacia();
+        s.*grupo.cuenta = 0;
+    });
+    s.CauceSel = s.CauceAnterior = s.UEHSel = s.RepresaSel = s.LagoSel = 0;
+}
+
+// --- writing ---
+
+void Pon(EscritorRegistros& escritor, std::int16_t x)
+{
+    escritor.Numero(std::int32_t{x});
+}
+void Pon(EscritorRegistros& escritor, float x)
+{
+    escritor.Numero(x);
+}
+void Pon(EscritorRegistros& escritor, bool x)
+{
+    escritor.Logico(x);
+}
+void Pon(EscritorRegistros& escritor, const std::string& x)
+{
+    escritor.Texto(x);
+}
+
+/// Writes one value as a line and a statement of its own.
+template <typename X>
+void EscribeValor(EscrituraInformada& archivo, const X& valor)
+{
+    archivo.Registro([&](EscritorRegistros& escritor) { Pon(escritor, valor); });
+}
+
+template <typename T>
+void EscribeCampo(EscrituraInformada& archivo, const CampoComponente<T>& campo, const T& componente)
+{
+    const auto escribe = [&](const auto& propiedad) {
+        using Propiedad = std::decay_t<decltype(propiedad)>;
+        if constexpr (std::is_member_object_pointer_v<Propiedad>) {
+            EscribeValor(archivo, componente.*propiedad);
+        } else if constexpr (std::is_same_v<Propiedad, NumeroCorrido<T>>) {
+            EscribeValor(archivo, componente.*propiedad.propiedad);
+        } else if constexpr (std::is_same_v<Propiedad, TextoSinFijar<T>>) {
+            const std::string& texto = componente.*propiedad.propiedad;
+            archivo.Registro([&](EscritorRegistros& escritor) {
+                if (!texto.empty()) Pon(escritor, texto);
+            });
+        } else {
+            const auto& elementos = componente.*propiedad.propiedad;
+            for (std::size_t i = propiedad.desde; i < elementos.size(); ++i)
+                EscribeValor(archivo, elementos[i]);
+        }
+    };
+    std::visit(escribe, campo.propiedad);
+}
+
+template <typename T, int Limite>
+void EscribeGrupo(EscrituraInformada& archivo, const Siro& s, const Grupo<T, Limite>& grupo)
+{
+    EscribeValor(archivo, s.*grupo.cuenta);
+    for (const T& componente : s.*grupo.coleccion)
+        for (const CampoComponente<T>& campo : grupo.campos)
+            EscribeCampo(archivo, campo, componente);
+}
+
+void EscribeArchivoUEHs(Siro& s)
+{
+    EscrituraInformada archivo(s);
+    archivo.Abre(Compone(s, SufijoUEHs));
+    EscribeValor(archivo, s.NombreProyecto);
+    PorGrupo([&](const auto& grupo) { EscribeGrupo(archivo, s, grupo); });
+    archivo.Cierra();
+}
+
+/// The vertices come from the drawing by reach number, not from the collection.
+void EscribeArchivoVerCau(Siro& s)
+{
+    EscrituraInformada archivo(s);
+    archivo.Abre(Compone(s, SufijoVerCau));
+    for (int i = 1; i <= s.NroCauces; ++i) {
+        int vertices = 0;
+        archivo.Paso([&] { vertices = s.NroVertices(i); });
+        for (int j = 1; j <= vertices; ++j)
+            archivo.Registro([&](EscritorRegistros& escritor) {
+                const float x = s.XVertice(i, j);
+                const float y = s.YVertice(i, j);
+                escritor.Numero(x).Numero(y);
+            });
+    }
+    archivo.Cierra();
+}
+
+/// Deletes both files of a network without components. One that isn't there ends the command quietly.
+void BorraArchivos(Siro& s)
+{
+    for (const std::string_view sufijo : {SufijoUEHs, SufijoVerCau}) {
+        const std::string ruta = Compone(s, sufijo);
+        bool esta = true;
+        Sentencia([&] { s.Disco.Borra(ruta); },
+                  [&](const Falla& falla) {
+                      esta = falla.numero != NumeroFalla::ArchivoNoEsta;
+                      if (esta) Informa(s, TextoFallaArchivo(falla));
+                  });
+        if (!esta) return;
+    }
+}
+
+// --- stream orders ---
+
+/// Components by the name that they drain into, each list in the order of the collection. Nobody drains into
+/// the empty name or "0", even where a component bears it.
+template <typename T>
+using PorDestino = std::unordered_map<std::string_view, std::vector<T*>>;
+
+template <typename T, int Limite>
+PorDestino<T> Agrupa(Coleccion<T, Limite>& coleccion)
+{
+    PorDestino<T> grupos;
+    for (T& componente : coleccion)
+        if (!componente.Cauce_aa.empty() && componente.Cauce_aa != "0")
+            grupos[componente.Cauce_aa].push_back(&componente);
+    return grupos;
+}
+
+template <typename T, typename F>
+void PorAfluente(const PorDestino<T>& grupos, const std::string& nombre, F hace)
+{
+    const auto grupo = grupos.find(nombre);
+    if (grupo == grupos.end()) return;
+    for (T* componente : grupo->second)
+        hace(*componente);
+}
+
+/// Order of a reach as its tributaries come one by one.
+struct OrdenCreciente {
+    bool primero = true;
+    std::int16_t orden = 0;
+
+    void Recibe(const Cauce& afluente)
+    {
+        if (!primero && orden == afluente.OrdenCauce) orden = Suma16(orden, 1);
+        if (orden < afluente.OrdenCauce) orden = afluente.OrdenCauce;
+        primero = false;
+    }
+    /// A reach without tributaries is of the first order.
+    [[nodiscard]] std::int16_t Orden() const { return primero ? std::int16_t{1} : orden; }
+};
+
+}  // namespace
+
+void LeeUEHs(Siro& s)
+{
+    VaciaComponentes(s);
+    try {
+        Carga carga(s);
+        LeeArchivoUEHs(carga);
+        LeeArchivoVerCau(carga);
+        if (s.NroRepresas > 0) s.Anfitrion.HabilitaVerificacion();
+    } catch (const Falla& falla) {
+        if (falla.numero == NumeroFalla::ArchivoNoEsta) {
+            s.NroCauces = 0;
+        } else {
+            Advierte(s, std::string(AvisoDanado), {});
+        }
+    }
+}
+
+void mnu_btn_toolbarGuardaUEHs(Siro& s)
+{
+    const auto informa = [&](const Falla& falla) { Informa(s, TextoFallaArchivo(falla)); };
+    Sentencia([&] { CalculaOrdenCauces(s); }, informa);
+    if (s.NroCauces == 0 && s.NroUEHs == 0 && s.NroRepresas == 0 && s.NroLagos == 0) {
+        BorraArchivos(s);
+        return;
+    }
+    Sentencia([&] { s.NroCauces = Entero16(s.ColCauces.Cuenta()); }, informa);
+    EscribeArchivoUEHs(s);
+    EscribeArchivoVerCau(s);
+    LeeUEHs(s);
+    s.Anfitrion.RedibujaEditor();
+    Informa(s, std::string(AvisoGuardado) + s.ArchivoTemp);
+}
+
+void CalculaOrdenCauces(Siro& s)
+{
+    for (Cauce& cauce : s.ColCauces)
+        cauce.OrdenCauce = 0;
+    const PorDestino<Cauce> cauces = Agrupa(s.ColCauces);
+    const PorDestino<Lago> lagos = Agrupa(s.ColLagos);
+    const PorDestino<Represa> represas = Agrupa(s.ColRepresas);
+
+    for (int pasada = 0; pasada < PasadasOrden; ++pasada) {
+        for (Cauce& cauce : s.ColCauces) {
+            OrdenCreciente creciente;
+            const auto recibe = [&](const Cauce& afluente) { creciente.Recibe(afluente); };
+            PorAfluente(cauces, cauce.NombreCauce, [&](const Cauce& afluente) {
+                if (afluente.NombreCauce != cauce.NombreCauce) recibe(afluente);
+            });
+            PorAfluente(lagos, cauce.NombreCauce,
+                        [&](const Lago& lago) { PorAfluente(cauces, lago.NombreLAGO, recibe); });
+            PorAfluente(represas, cauce.NombreCauce,
+                        [&](const Represa& represa) { PorAfluente(cauces, represa.NombreRepresa, recibe); });
+            cauce.OrdenCauce = creciente.Orden();
+        }
+    }
+}
+
+}  // namespace model

@@ -1,0 +1,366 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "model/Configuracion.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <string_view>
+
+#include "model/Avisos.h"
+#include "model/Falla.h"
+#include "model/Numeros.h"
+#include "model/Registros.h"
+#include "model/Siro.h"
+#include "model/Texto.h"
+
+namespace model {
+
+namespace {
+
+using Controles = ControlesConfigura;
+
+constexpr std::string_view SufijoConf = "_Conf.vlm";
+constexpr std::string_view SinImagen = "Ninguno";
+
+constexpr std::string_view AvisoGuardado =
+    "Los datos de configuración del proyecto se han guardado correctamente en el archivo ";
+constexpr std::string_view AvisoDanado1 = " El archivo de configuración <";
+constexpr std::string_view AvisoDanado2 =
+    "_Conf.vlm > está dañado. Corrija o elimine manualmente este archivo";
+
+// The sets as designed: R 1000 without R 500 is meant.
+constexpr auto RecurrenciasDefecto = std::to_array<std::int16_t>({2, 5, 10, 20, 25, 40, 50, 100, 200, 1000});
+constexpr auto DuracionesDefecto =
+    std::to_array<std::int16_t>({10, 20, 30, 60, 90, 120, 180, 240, 300, 360, 540, 720, 1080, 1440});
+
+constexpr std::int16_t Tildada = 1;
+
+// --- drives ---
+
+/// Drives exist where the backslash separates directories.
+constexpr bool HayUnidades = Separador == '\\';
+
+/// Bytes of the drive at the head of a path: its first two characters, on a platform without drives only
+/// where the second one is a colon.
+std::size_t LargoUnidad(std::string_view ruta)
+{
+    const auto fin = [&](std::size_t i) {
+        ++i;
+        while (i < ruta.size() && (static_cast<unsigned char>(ruta[i]) & 0xC0U) == 0x80U)
+            ++i;
+        return std::min(i, ruta.size());
+    };
+    const std::size_t segundo = fin(0);
+    const bool dosPuntos = segundo < ruta.size() && ruta[segundo] == ':';
+    return HayUnidades || dosPuntos ? fin(segundo) : 0;
+}
+
+std::string UnidadDe(std::string_view ruta)
+{
+    return HayUnidades ? std::string(ruta.substr(0, LargoUnidad(ruta))) : std::string{};
+}
+
+std::string_view SinUnidad(std::string_view ruta)
+{
+    return ruta.substr(std::min(LargoUnidad(ruta), ruta.size()));
+}
+
+/// Sets the drive control. A drive that isn't there leaves it as it is.
+void PonUnidad(Siro& s, const std::string& unidad)
+{
+    if (HayUnidades && s.Disco.HayDirectorio(unidad + Separador)) s.frmConfigura.Drive1 = unidad;
+}
+
+// --- the fields of the file ---
+
+/// A reading under way.
+struct Lectura {
+    Siro& s;
+    LectorRegistros& lector;
+    bool mudado = false;  ///< the project stands elsewhere than its file says
+};
+
+/// A field of the file: how it reaches variable and control, and how it is written.
+struct CampoConf {
+    void (*Lee)(Lectura& l);
+    void (*Escribe)(EscritorRegistros& e, const Siro& s);
+};
+
+/// A field that is written from its control.
+template <auto Control>
+void EscribeTexto(EscritorRegistros& e, const Siro& s)
+{
+    e.Texto(s.frmConfigura.*Control);
+}
+
+template <auto Variable, auto Control>
+constexpr CampoConf Texto()
+{
+    return {[](Lectura& l) {
+                l.s.*Variable = l.lector.Texto();
+                l.s.frmConfigura.*Control = l.s.*Variable;
+            },
+            EscribeTexto<Control>};
+}
+
+template <auto Variable, auto Control>
+constexpr CampoConf Marca()
+{
+    return {[](Lectura& l) {
+                l.s.*Variable = l.lector.Numero16();
+                l.s.frmConfigura.*Control = l.s.*Variable;
+            },
+            [](EscritorRegistros& e, const Siro& s) { e.Numero(s.frmConfigura.*Control); }};
+}
+
+template <auto Variable, auto Control>
+constexpr CampoConf Opcion()
+{
+    return {[](Lectura& l) {
+                l.s.*Variable = l.lector.Logico();
+                l.s.frmConfigura.*Control = l.s.*Variable;
+            },
+            [](EscritorRegistros& e, const Siro& s) { e.Logico(s.frmConfigura.*Control); }};
+}
+
+/// A shift of the image: read as text, written as the bare number of the variable.
+template <auto Variable, auto Control>
+constexpr CampoConf Corrimiento()
+{
+    return {[](Lectura& l) {
+                l.s.*Variable = Simple(Val(l.lector.Texto()));
+                l.s.frmConfigura.*Control = NumeroATexto(l.s.*Variable);
+            },
+            [](EscritorRegistros& e, const Siro& s) { e.Numero(s.*Variable); }};
+}
+
+template <std::size_t N>
+constexpr std::size_t Lugar(const std::array<std::int16_t, N>& lista, std::int16_t valor)
+{
+    std::size_t i = 0;
+    while (lista[i] != valor)
+        ++i;
+    return i;
+}
+
+/// A box of a selection and the flag that its field is read into.
+template <auto Variables, auto Casillas, std::size_t Casilla, std::size_t Bandera>
+constexpr CampoConf Seleccion()
+{
+    return {[](Lectura& l) {
+                (l.s.*Variables)[Bandera] = l.lector.Numero16();
+                (l.s.frmConfigura.*Casillas)[Casilla] = (l.s.*Variables)[Bandera];
+            },
+            [](EscritorRegistros& e, const Siro& s) { e.Numero((s.frmConfigura.*Casillas)[Casilla]); }};
+}
+
+template <std::int16_t R, std::int16_t RBandera = R>
+constexpr CampoConf Rec()
+{
+    return Seleccion<&Siro::CheckR, &Controles::CheckR, Lugar(Recurrencias, R),
+                     Lugar(Recurrencias, RBandera)>();
+}
+
+template <std::int16_t D>
+constexpr CampoConf Dur()
+{
+    return Seleccion<&Siro::CheckD, &Controles::CheckD, Lugar(Duraciones, D), Lugar(Duraciones, D)>();
+}
+
+void LeeNombre(Lectura& l)
+{
+    l.s.NombreProyecto = l.lector.Texto();
+}
+
+void EscribeNombre(EscritorRegistros& e, const Siro& s)
+{
+    e.Texto(s.NombreProyecto);
+}
+
+void LeeUnidad(Lectura& l)
+{
+    l.s.DriveProyecto = l.lector.Texto();
+    PonUnidad(l.s, l.s.DriveProyecto);
+}
+
+/// The directory, and with it the question whether the project has moved: then it keeps the present one.
+void LeeDirectorio(Lectura& l)
+{
+    Siro& s = l.s;
+    s.DirProyectoConf = l.lector.Texto();
+    l.mudado =
+        s.DriveProyecto != s.frmConfigura.Drive1 || SinUnidad(s.DirProyecto) != SinUnidad(s.DirProyectoConf);
+    if (l.mudado) s.DirProyectoConf = s.DirProyecto;
+    s.frmConfigura.Dir1 = s.DirProyectoConf;
+    s.DirProyecto = s.DirProyectoConf;
+}
+
+void LeeImagen(Lectura& l)
+{
+    l.s.ArchivoImagenDibujo = l.lector.Texto();
+    l.s.frmConfigura.lblImagenDibujo = l.s.ArchivoImagenDibujo;
+    l.s.ArchivoImagen = l.s.ArchivoImagenDibujo;
+}
+
+void LeeEscalaImagen(Lectura& l)
+{
+    l.s.EscalaImagen = Val(l.lector.Texto());
+    l.s.frmConfigura.TexIMGEscala = NumeroATexto(l.s.EscalaImagen);
+}
+
+void LeeN0Dur(Lectura& l)
+{
+    l.s.N0Dur = l.lector.NumeroSimple();
+    l.s.frmConfigura.txtN0Dur = NumeroATexto(l.s.N0Dur);
+}
+
+void EscribeN0Dur(EscritorRegistros& e, const Siro& s)
+{
+    e.Numero(s.N0Dur);
+}
+
+/// The control keeps what was typed, with points; the variable is the text of its leading number.
+void LeeEscalaDibujo(Lectura& l)
+{
+    l.s.frmConfigura.txtEscalaImagen = ComasAPuntos(l.lector.Texto());
+    l.s.EscalaDibujo = NumeroATexto(Val(l.s.frmConfigura.txtEscalaImagen));
+}
+
+/// The fields in the order of the file, a line each.
+// clang-format off
+constexpr auto Campos = std::to_array<CampoConf>({
+    {LeeNombre, EscribeNombre},
+    Texto<&Siro::TituloProyecto, &Controles::TextProyecto>(),
+    Texto<&Siro::Ubicacion, &Controles::TextUbica>(),
+    Texto<&Siro::Cuenca, &Controles::TextCuenca>(),
+    Texto<&Siro::Subcuenca, &Controles::TextSbca>(),
+    Texto<&Siro::Operador, &Controles::TextOpera>(),
+    Texto<&Siro::FechaProyecto, &Controles::txtFecha>(),
+    {LeeUnidad, EscribeTexto<&Controles::Drive1>},
+    {LeeDirectorio, EscribeTexto<&Controles::Dir1>},
+    Texto<&Siro::DirNv, &Controles::TextDirNv>(),
+    Marca<&Siro::CheckDistriPp, &Controles::CheckDistriPp>(),
+    Texto<&Siro::NombreArchivoConf, &Controles::lblMiArchivoConf>(),
+    Marca<&Siro::ImagenDibujo, &Controles::chkImagenDibujo>(),
+    {LeeImagen, EscribeTexto<&Controles::lblImagenDibujo>},
+    {LeeEscalaImagen, EscribeTexto<&Controles::TexIMGEscala>},
+    Texto<&Siro::TextoS, &Controles::TexS>(),
+    Opcion<&Siro::Optiona, &Controles::Optiona>(),
+    Opcion<&Siro::Optionb, &Controles::Optionb>(),
+    Opcion<&Siro::Optionc, &Controles::Optionc>(),
+    Corrimiento<&Siro::ImagenX0, &Controles::TexIMGX0>(),
+    Corrimiento<&Siro::ImagenY0, &Controles::TexIMGY0>(),
+    Opcion<&Siro::OptionMin, &Controles::OptionMin>(),
+    Opcion<&Siro::OptionHr, &Controles::OptionHr>(),
+    Opcion<&Siro::Optionm3, &Controles::Optionm3>(),
+    Opcion<&Siro::OptionLt, &Controles::OptionLt>(),
+    {LeeN0Dur, EscribeN0Dur},
+    Texto<&Siro::MaxUEHsPixel, &Controles::txtMaxUEHsPixel>(),
+    {LeeEscalaDibujo, EscribeTexto<&Controles::txtEscalaImagen>},
+    Rec<2>(), Rec<5>(), Rec<10>(), Rec<20>(), Rec<25>(), Rec<40>(), Rec<50>(), Rec<100>(), Rec<200>(), Rec<500>(),
+    Rec<1000>(), Rec<2000>(),
+    Rec<5000, 500>(),  // falls on the flag of R 500, and the flag of R 5000 is never read: kept as it stands
+    Rec<10000>(),
+    Dur<5>(), Dur<10>(), Dur<15>(), Dur<20>(), Dur<30>(), Dur<60>(), Dur<90>(), Dur<120>(), Dur<180>(), Dur<240>(),
+    Dur<300>(), Dur<360>(), Dur<540>(), Dur<720>(), Dur<1080>(), Dur<1440>(), Dur<2880>(),
+});
+// clang-format on
+static_assert(Campos.size() == 28 + Recurrencias.size() + Duraciones.size());
+
+// --- selections ---
+
+template <std::size_t N, std::size_t M>
+void Tilda(std::array<std::int16_t, N>& casillas, const std::array<std::int16_t, N>& valores,
+           const std::array<std::int16_t, M>& elegidos)
+{
+    std::transform(valores.begin(), valores.end(), casillas.begin(), [&](std::int16_t valor) {
+        const bool elegido = std::find(elegidos.begin(), elegidos.end(), valor) != elegidos.end();
+        return elegido ? Tildada : std::int16_t{0};
+    });
+}
+
+/// Lists the values of the ticked boxes from place 1 on and returns how many there are.
+template <std::size_t N>
+std::int16_t ListaTildadas(const std::array<std::int16_t, N>& casillas,
+                           const std::array<std::int16_t, N>& valores, std::vector<std::int16_t>& lista)
+{
+    lista.assign(1, 0);
+    for (std::size_t i = 0; i < N; ++i)
+        if (casillas[i] == Tildada) lista.push_back(valores[i]);
+    return static_cast<std::int16_t>(lista.size() - 1);
+}
+
+void ComponeArchivo(Siro& s)
+{
+    s.ArchivoTemp = Ruta(s.DirProyecto, s.NombreProyecto + std::string(SufijoConf));
+}
+
+void LeeArchivo(Siro& s)
+{
+    s.frmConfigura.Dir1 = s.DirProyecto;
+    s.frmConfigura.Drive1 = UnidadDe(s.DirProyecto);
+    ComponeArchivo(s);
+    LectorRegistros lector(s.Disco.Lee(s.ArchivoTemp));
+    Lectura l{s, lector};
+    for (const CampoConf& campo : Campos)
+        campo.Lee(l);
+
+    if (l.mudado) cmdAplicar(s);
+    s.NroRec = ListaTildadas(s.frmConfigura.CheckR, Recurrencias, s.ListaRec);
+    s.NroDur = ListaTildadas(s.frmConfigura.CheckD, Duraciones, s.ListaDur);
+}
+
+}  // namespace
+
+void BtnRecuDef(ControlesConfigura& controles)
+{
+    Tilda(controles.CheckR, Recurrencias, RecurrenciasDefecto);
+}
+
+void BtnDurDef(ControlesConfigura& controles)
+{
+    Tilda(controles.CheckD, Duraciones, DuracionesDefecto);
+}
+
+void leoConf(Siro& s)
+{
+    try {
+        LeeArchivo(s);
+    } catch (const Falla& falla) {
+        std::string texto = TextoFallaMotor(falla) + ".";
+        if (falla.numero != NumeroFalla::FinDeArchivo) {
+            Informa(s, std::move(texto));
+            return;
+        }
+        texto.append(AvisoDanado1).append(s.NombreProyecto).append(AvisoDanado2);
+        Informa(s, std::move(texto));
+        s.NombreProyecto.clear();
+    }
+}
+
+void cmdAplicar(Siro& s)
+{
+    Controles& controles = s.frmConfigura;
+    if (s.NombreProyecto.empty()) {
+        s.DirProyectoConf = controles.Dir1;
+        s.DriveProyecto = controles.Drive1;
+        return;
+    }
+    if (controles.chkImagenDibujo == Tildada && controles.lblImagenDibujo == SinImagen) {
+        controles.chkImagenDibujo = 0;
+        s.ArchivoImagen.clear();
+    }
+    s.DirProyecto = controles.Dir1;
+    ComponeArchivo(s);
+    EscritorRegistros escritor(s.Disco);
+    escritor.Abre(s.ArchivoTemp);
+    for (const CampoConf& campo : Campos) {
+        campo.Escribe(escritor, s);
+        escritor.FinRegistro();
+    }
+    escritor.Cierra();
+    s.DirProyecto = controles.Dir1;
+    Informa(s, std::string(AvisoGuardado) + s.ArchivoTemp);
+    s.ProyectoNuevo = false;
+}
+
+}  // namespace model
