@@ -5,10 +5,8 @@
 
 namespace engine {
 
-/// Name of the file of a run's text, in DirTrabajo.
-inline constexpr std::string_view ArchivoPizarra = "SalePizarra1_tem.txt";
-
 /// Reloads everything that a run needs from the project's files: what the editor holds unsaved is dropped.
+/// The readers report their own failures, and what stands is gone on with.
 void CargaProyecto(model::Siro& s);
 
 /// Runs the storm in hand: header of the Slate, load, hyetograph, main process. With P or D of 0 it ends

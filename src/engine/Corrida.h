@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <utility>
+
+#include "engine/Aportes.h"
+#include "engine/Memoria.h"
+#include "engine/Renglon.h"
+#include "model/Arreglo.h"
+#include "model/Avisos.h"
+#include "model/Siro.h"
+
+namespace engine {
+
+/// Working values of one run of the main process, which its stages hand on to one another. All start at 0.
+///
+/// The handler of the main process reports a fault and resumes at the next statement: `Intenta` runs one
+/// statement under it. Hot loops are run unchecked where `Seguro` or a stage has proved beforehand that no
+/// statement of theirs can fail.
+struct Corrida {
+    Corrida(model::Siro& estado, Memoria& loRecordado) : s(estado), memoria(loRecordado) {}
+
+    model::Siro& s;
+    Memoria& memoria;
+
+    // --- UEHs ---
+    float AreaTotal = 0;                        ///< [ha]
+    std::int16_t RelacionPasos = 0;             ///< output steps in a model step
+    std::int16_t NroPasosPp = 0;                ///< bound of the model step loop, itself not run
+    model::Arreglo<float> RetencionRestante{};  ///< retention still to fill [mm], by UEH
+    model::Arreglo<float> PpMediaPaso{};        ///< rainfall of the basin [mm], by model step
+    float SumaPp = 0;                           ///< rainfall of the basin [mm]
+    std::int32_t VolBaseTotal = 0;              ///< [m3]
+    std::int32_t EscTotalCalc = 0;              ///< [m3]
+    float CoefTotal = 0;                        ///< runoff coefficient of the basin [%]
+
+    // --- reaches, Lagos, Represas ---
+    float QBaseEntra = 0;          ///< initial flow of the UEHs that drain straight into the component [m3/s]
+    std::int16_t TiempoViaje = 0;  ///< [min]
+    std::int16_t RetardoPasos = 0;                          ///< [output steps]
+    std::int16_t RetardoMax = 0;                            ///< largest delay so far [output steps]
+    float DenMusk = 0, C0Musk = 0, C1Musk = 0, C2Musk = 0;  ///< Muskingum denominator [min] and coefficients
+
+    /// TextoPizarra is built. Off only where nobody can read it.
+    bool ConTexto = true;
+    /// VolEntra and VolSale are worked out. Off only where nobody can read them.
+    bool ConVolumenes = true;
+    /// Who drains into whom, once the order of computation stands.
+    const Aportes* Afluentes = nullptr;
+    Renglon Linea{};  ///< the line in hand
+
+    /// Runs one statement; reports a fault and returns false where it is at fault.
+    template <typename Cuerpo>
+    bool Intenta(Cuerpo&& cuerpo)
+    {
+        return model::Sentencia(std::forward<Cuerpo>(cuerpo),
+                                [this](const model::Falla& falla) { Reporta(falla); });
+    }
+    /// The test of an if or a loop: false where it is at fault.
+    template <typename Prueba>
+    bool Vale(Prueba&& prueba)
+    {
+        bool vale = false;
+        Intenta([&] { vale = prueba(); });
+        return vale;
+    }
+    void Reporta(const model::Falla& falla) const { model::Informa(s, model::TextoFallaMotor(falla)); }
+};
+
+/// The k-th multiple of a step [min], in 16 bits. Throws Falla 6.
+inline std::int16_t Minutos(std::int16_t k, std::int16_t paso)
+{
+    return model::Producto16(k, paso);
+}
+
+}  // namespace engine

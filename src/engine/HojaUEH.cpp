@@ -1,0 +1,316 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/HojaUEH.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "engine/Totales.h"
+#include "model/Numeros.h"
+
+namespace engine {
+
+using model::Cociente;
+using model::Entero32;
+using model::NumeroATexto;
+using model::Redondea;
+using model::Simple;
+using model::Siro;
+using model::Suma16;
+
+namespace {
+
+/// The base of the recession as written, not e.
+constexpr double BaseAbatimiento = 2.7183;
+constexpr float KDeReserva = 999999;
+constexpr std::string_view KIncorrecto =
+    "El parámetro de Singh (K de abatimiento) elegido es incorrecto, debe corregirlo. Se adopta "
+    "transitoriamente "
+    "K=999999 ó 1/K cercano a '0'. Verifique...";
+constexpr double VolumenDespreciable = 0.001;  // [m3]
+
+bool TieneRecesion(const model::UEH& u)
+{
+    return u.Q0Recesion > 0 && u.KRecesion > 0;
+}
+
+double CaudalBase(const Siro& s, const model::UEH& u, std::int16_t p)
+{
+    const double t = -1.0 * Minutos(p, s.PasoQ);
+    return u.Q0Recesion * model::Potencia(BaseAbatimiento, Cociente(t, double{u.KRecesion} * 60));
+}
+
+// --- recession, statement by statement ---------------------------------------------------------------
+
+void RecesionDeUEH(Corrida& c, std::int16_t p, int i, float& Qb)
+{
+    Siro& s = c.s;
+    if (!c.Vale([&] { return TieneRecesion(s.UEHs(i)); })) return;
+    c.Intenta([&] { Qb = Simple(CaudalBase(s, s.UEHs(i), p)); });
+    if (Qb < 0) {
+        model::Advierte(s, std::string(KIncorrecto));
+        c.Intenta([&] { s.UEHs(i).KRecesion = KDeReserva; });
+        c.Intenta([&] { Qb = Simple(CaudalBase(s, s.UEHs(i), p)); });
+    }
+    const double volumen = double{Qb} * s.PasoQ * 60;
+    c.Intenta([&] { s.QSale(i, p) = Simple(double{s.QSale(i, p)} + Qb); });
+    c.Intenta([&] { s.VolBaseUEH(i) = Entero32(s.VolBaseUEH(i) + volumen); });
+    c.Intenta([&] { c.VolBaseTotal = Entero32(c.VolBaseTotal + volumen); });
+}
+
+void RecesionUnaPorUna(Corrida& c)
+{
+    float Qb = 0;
+    for (int p = 1; p <= c.s.NroPasosQ; ++p)
+        for (int i = 1; i <= c.s.NroUEHs; ++i)
+            RecesionDeUEH(c, static_cast<std::int16_t>(p), i, Qb);
+}
+
+// --- recession, proved beforehand ---------------------------------------------------------------------
+
+/// No statement of the recession can be at fault: minutes within 16 bits, volumes within 32.
+bool RecesionSegura(Corrida& c)
+{
+    Siro& s = c.s;
+    if (s.PasoQ < 1 || s.NroPasosQ < 1 || s.NroPasosQ * s.PasoQ > INT16_MAX) return false;
+    if (s.NroUEHs > s.ColUEHs.Cuenta() || s.NroUEHs > model::MaxUEHs) return false;
+    if (s.QSale.UltimaFila() < s.NroUEHs || s.QSale.TopeColumna() < s.NroPasosQ) return false;
+    if (s.VolBaseUEH.Tope() < s.NroUEHs) return false;
+    double total = 0;
+    for (int i = 1; i <= s.NroUEHs; ++i) {
+        const model::UEH& u = s.UEHs(i);
+        // a constant this short would make powers too small for the type
+        if (!TieneRecesion(u)) continue;
+        if (u.KRecesion < 0.001F || u.Q0Recesion > 1e6F) return false;
+        if (!(Mayor(s.QSale.Fila(i), 1, s.NroPasosQ) < 1e30F)) return false;
+        total += (double{u.Q0Recesion} * s.PasoQ * 60 + 1) * s.NroPasosQ;
+    }
+    return total < INT32_MAX;
+}
+
+TablaAbatimiento& AbatimientoDe(Corrida& c, float K)
+{
+    const std::int16_t paso = c.s.PasoQ;
+    auto& tablas = c.memoria.abatimiento;
+    auto tabla = std::find_if(tablas.begin(), tablas.end(),
+                              [&](const TablaAbatimiento& t) { return t.K == K && t.paso == paso; });
+    if (tabla == tablas.end()) tabla = tablas.insert(tablas.end(), {K, paso, {1}});
+    for (auto p = tabla->potencia.size(); p <= static_cast<std::size_t>(c.s.NroPasosQ); ++p)
+        tabla->potencia.push_back(
+            std::pow(BaseAbatimiento, -static_cast<double>(p) * paso / (double{K} * 60)));
+    return *tabla;
+}
+
+void RecesionRapida(Corrida& c)
+{
+    Siro& s = c.s;
+    const auto pasos = static_cast<std::size_t>(s.NroPasosQ);
+    std::vector<float> Qb;  // one run of steps per UEH with recession
+    std::vector<int> conRecesion;
+    for (int i = 1; i <= s.NroUEHs; ++i) {
+        const model::UEH& u = s.UEHs(i);
+        if (!TieneRecesion(u)) continue;
+        const double* potencia = AbatimientoDe(c, u.KRecesion).potencia.data();
+        float* q = s.QSale.Fila(i);
+        std::int32_t& volumen = s.VolBaseUEH(i);
+        conRecesion.push_back(i);
+        for (std::size_t p = 1; p <= pasos; ++p) {
+            const auto base = static_cast<float>(u.Q0Recesion * potencia[p]);
+            q[p] = static_cast<float>(double{q[p]} + base);
+            volumen = static_cast<std::int32_t>(std::nearbyint(volumen + double{base} * s.PasoQ * 60));
+            Qb.push_back(base);
+        }
+    }
+    // The basin's volume is rounded at each share: the order of steps, then UEHs, is part of it.
+    double total = c.VolBaseTotal;
+    for (std::size_t p = 0; p < pasos; ++p)
+        for (std::size_t n = 0; n < conRecesion.size(); ++n)
+            total = std::nearbyint(total + double{Qb[n * pasos + p]} * s.PasoQ * 60);
+    c.VolBaseTotal = static_cast<std::int32_t>(total);
+}
+
+// --- hydrographs ----------------------------------------------------------------------------------------
+
+void EncabezaHidrogramas(Corrida& c)
+{
+    Siro& s = c.s;
+    std::string& texto = s.TextoPizarra;
+    if (s.SalidaPizarra) texto.append("\r\n\r\nCaudales propagados al pié de cada UEH:\r\n").append(12, ' ');
+    for (int i = 1; i <= s.NroUEHs; ++i)
+        c.Intenta([&] {
+            const std::string& nombre = s.UEHs(i).NombreUEH;
+            texto.append(8, ' ').append(nombre).append(7, ' ');
+        });
+    if (s.SalidaPizarra) texto.append(7, ' ').append("\r\nPer.k  t[min]");
+    for (int i = 1; i <= s.NroUEHs; ++i)
+        texto.append("- Pp[mm] Q[m3/s] ");
+}
+
+/// Adds a UEH's share to the line. A fault leaves the line as it was.
+void EscribeParte(Corrida& c, std::int16_t p, int i)
+{
+    Siro& s = c.s;
+    const bool yaNoLlueve = c.Vale([&] { return Minutos(p, s.PasoQ) >= Suma16(s.PasoPp, s.DurTormenta); });
+    c.Intenta([&] {
+        const float caudal = Redondea(s.QSale(i, p), 2);
+        if (yaNoLlueve) {
+            c.Linea.Pone("    0").Derecha(caudal, 8).Blancos(4);
+            return;
+        }
+        const std::int16_t m = model::Piso16(Cociente(Suma16(p, c.RelacionPasos) - 1, c.RelacionPasos));
+        const double pp = Redondea(Cociente(s.PpUEHPaso(i, m), c.RelacionPasos), 2);
+        c.Linea.Derecha(pp, 5).Derecha(caudal, 8).Blancos(4);
+    });
+}
+
+void HidrogramasUnoPorUno(Corrida& c)
+{
+    Siro& s = c.s;
+    c.Linea.Vacia();
+    for (int paso = 1; paso <= s.NroPasosQ; ++paso) {
+        const auto p = static_cast<std::int16_t>(paso);
+        c.Intenta([&] {
+            const std::int16_t t = Minutos(p, s.PasoQ);
+            c.Linea.Vacia();
+            c.Linea.Izquierda(std::int32_t{p}, 7).Izquierda(std::int32_t{t}, 7);
+        });
+        for (int i = 1; i <= s.NroUEHs; ++i) {
+            EscribeParte(c, p, i);
+            s.TextoPizarra.append(12, ' ');
+            c.Intenta([&] { s.VolUEH(i) = Simple(1.0 * s.PasoQ * s.QSale(i, p) * 60 + s.VolUEH(i)); });
+            c.Intenta([&] {
+                if (s.QSale(i, p) > s.QMax(i, s.IndSerie)) s.QMax(i, s.IndSerie) = s.QSale(i, p);
+            });
+        }
+        s.TextoPizarra.append("\r\n ").append(c.Linea.Texto());
+    }
+}
+
+bool HidrogramasSeguros(Corrida& c)
+{
+    Siro& s = c.s;
+    if (s.PasoQ < 1 || s.NroPasosQ < 1 || s.NroPasosQ * s.PasoQ > INT16_MAX) return false;
+    if (s.PasoPp + s.DurTormenta > INT16_MAX || s.NroPasosQ + c.RelacionPasos > INT16_MAX) return false;
+    if (s.NroUEHs > s.ColUEHs.Cuenta() || s.QSale.UltimaFila() < s.NroUEHs) return false;
+    if (s.QSale.TopeColumna() < s.NroPasosQ || s.VolUEH.Tope() < s.NroUEHs) return false;
+    if (s.QMax.UltimaFila() < s.NroUEHs || s.IndSerie < 0 || s.QMax.TopeColumna() < s.IndSerie) return false;
+    const int ultimoConLluvia = (s.PasoPp + s.DurTormenta - 1) / s.PasoQ;
+    const int m = (std::min<int>(ultimoConLluvia, s.NroPasosQ) + c.RelacionPasos - 1) / c.RelacionPasos;
+    if (s.PpUEHPaso.UltimaFila() < s.NroUEHs || s.PpUEHPaso.TopeColumna() < m) return false;
+    for (int i = 1; i <= s.NroUEHs; ++i)
+        if (!VolumenSeguro(s.QSale.Fila(i), s.NroPasosQ, s.PasoQ)) return false;
+    return true;
+}
+
+/// Volumes and peaks alone, where nobody can read the table.
+void HidrogramasSinTexto(Corrida& c)
+{
+    Siro& s = c.s;
+    std::vector<const float*> filas;
+    for (int i = 1; i <= s.NroUEHs; ++i)
+        filas.push_back(s.QSale.Fila(i));
+    std::vector<float> volumenes(filas.size());
+    SumaVolumenes(filas, {1, s.NroPasosQ}, s.PasoQ, volumenes);
+    for (int i = 1; i <= s.NroUEHs; ++i) {
+        s.VolUEH(i) = volumenes[static_cast<std::size_t>(i) - 1];
+        float& maximo = s.QMax(i, s.IndSerie);
+        maximo = std::max(maximo, Mayor(s.QSale.Fila(i), 1, s.NroPasosQ));
+    }
+}
+
+// --- volumes ----------------------------------------------------------------------------------------------
+
+/// An expression written as a 64-bit number rounded to n decimals, a variable by its type.
+template <typename Numero>
+std::string Redondeado(Numero x, int decimales)
+{
+    return NumeroATexto(Redondea(x, decimales));
+}
+
+void EscribeVolumenes(Corrida& c, int i)
+{
+    Siro& s = c.s;
+    std::string& texto = s.TextoPizarra;
+    const auto nombre = [&] { return NumeroATexto(i) + " " + s.UEHs(i).NombreUEH + "   "; };
+    c.Intenta([&] { texto += "\r\nPrecipitación   UEH " + nombre() + Redondeado(s.PpUEH(i), 1) + " mm"; });
+    // "m3" is kept as it stands
+    c.Intenta([&] {
+        texto += "\r\nCaudal Máximo   UEH " + nombre() + Redondeado(s.QMax(i, s.IndSerie), 2) + " m3";
+    });
+    c.Intenta([&] {
+        texto += "\r\nEscorrentía     UEH " + nombre() +
+                 Redondeado(double{s.VolUEH(i)} - s.VolBaseUEH(i), 0) + " m3";
+    });
+    c.Intenta([&] { texto += "\r\nCoef.Escorrent. UEH " + nombre() + Redondeado(s.CoefUEH(i), 1) + " %"; });
+    c.Intenta(
+        [&] { texto += "\r\nVolumen de Base UEH " + nombre() + NumeroATexto(s.VolBaseUEH(i)) + " m3"; });
+}
+
+void VolumenDeUEH(Corrida& c, int i)
+{
+    Siro& s = c.s;
+    c.Intenta([&] { c.EscTotalCalc = Entero32(double{s.VolUEH(i)} + c.EscTotalCalc); });
+    const bool sinEscorrentia =
+        c.Vale([&] { return s.VolUEH(i) <= VolumenDespreciable || s.UEHs(i).Area <= 0 || s.PpUEH(i) <= 0; });
+    if (sinEscorrentia)
+        c.Intenta([&] { s.CoefUEH(i) = 0; });
+    else
+        c.Intenta([&] {
+            const double volumen = double{s.VolUEH(i)} - s.VolBaseUEH(i);
+            s.CoefUEH(i) = Simple(Cociente(Cociente(volumen, s.UEHs(i).Area) / 10 * 100, s.PpUEH(i)));
+        });
+    if (s.SalidaPizarra) EscribeVolumenes(c, i);
+    c.Intenta([&] { s.EscUEH(i, s.IndSerie) = Entero32(double{s.VolUEH(i)} - s.VolBaseUEH(i)); });
+    c.Intenta([&] { s.CoefEscUEH(i, s.IndSerie) = s.CoefUEH(i); });
+}
+
+void EscribeTotales(Corrida& c)
+{
+    std::string& texto = c.s.TextoPizarra;
+    texto += "\r\n";
+    texto += "\r\nEscorrentía total[m3]    = " + NumeroATexto(c.EscTotalCalc) + " m3";
+    c.Intenta([&] {
+        texto +=
+            "\r\nEscorrentía total[mm]    = " + Redondeado(Cociente(c.EscTotalCalc, c.AreaTotal) / 10, 1) +
+            " mm";
+    });
+    texto += "\r\nCoef. Escorrentía        = " + Redondeado(c.CoefTotal, 2) + " %";
+    texto += "\r\nVolumen de Base          = " + NumeroATexto(c.VolBaseTotal) + " m3";
+    texto += "\r\nSuma Pp UEHs             = " + Redondeado(c.SumaPp, 1) + " mm";
+}
+
+}  // namespace
+
+void SumaRecesion(Corrida& c)
+{
+    if (RecesionSegura(c))
+        RecesionRapida(c);
+    else
+        RecesionUnaPorUna(c);
+}
+
+void HidrogramasDeUEHs(Corrida& c)
+{
+    if (!c.ConTexto && HidrogramasSeguros(c)) return HidrogramasSinTexto(c);
+    EncabezaHidrogramas(c);
+    HidrogramasUnoPorUno(c);
+}
+
+void VolumenesDeUEHs(Corrida& c)
+{
+    Siro& s = c.s;
+    c.EscTotalCalc = 0;
+    for (int i = 1; i <= s.NroUEHs; ++i)
+        VolumenDeUEH(c, i);
+    c.Intenta([&] { c.EscTotalCalc = Entero32(double{1} * c.EscTotalCalc - c.VolBaseTotal); });
+    if (c.EscTotalCalc <= VolumenDespreciable || c.AreaTotal <= 0)
+        c.CoefTotal = 0;
+    else
+        c.Intenta([&] {
+            c.CoefTotal = Simple(Cociente(Cociente(c.EscTotalCalc, c.AreaTotal) / 10 * 100, c.SumaPp));
+        });
+    c.Intenta([&] { s.CoefEscTotal(s.IndSerie) = c.CoefTotal; });
+    c.Intenta([&] { s.EscTotal(s.IndSerie) = c.EscTotalCalc; });
+    if (s.SalidaPizarra) EscribeTotales(c);
+}
+
+}  // namespace engine

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "engine/Aportes.h"
+
+namespace engine {
+
+/// Potential infiltration of one UEH by the reading of its clock; what it was worked out for stands beside.
+struct TablaInfiltracion {
+    float a = 0, b = 0, inicial = 0;
+    std::int16_t paso = 0;
+    std::vector<float> lamina{0};  ///< depth of a step [mm], by the clock's whole number from 1
+};
+
+/// The powers of a base recession, 2.7183^(-t/K), by output step from 1.
+struct TablaAbatimiento {
+    float K = 0;
+    std::int16_t paso = 0;
+    std::vector<double> potencia{1};
+};
+
+/// Midpoints that the bisection of one level pool can visit, in rising height from 1, and what it finds
+/// there.
+struct NodosPiscina {
+    std::vector<float> clave{};  ///< what they were worked out from
+    bool sirve = false;          ///< U rises with the height, so that they can stand for the bisection
+    std::vector<float> H{}, S{}, Q{}, U{};  ///< height [m], storage [m3], outflow and 2S/dt + Q [m3/s]
+};
+
+/// A network that was found in order without a question: its sequence, outfalls, and who drains into whom.
+struct RedOrdenada {
+    bool sirve = false;
+    std::vector<std::string> enlaces{};  ///< names and destinations that it was worked out from
+    std::int16_t NroUEHs = 0;
+    std::vector<std::string> Secuencia{};
+    std::array<std::string, model::MaxSalidas + 1> Salidas{};
+    std::int16_t NroSalidas = 0;
+    bool RedOk = false;
+    Aportes afluentes{};
+};
+
+/// What the runs of a network have in common whatever the storm, kept from run to run by whoever makes
+/// several. Every piece knows what it was worked out for, so that an edit of the network can't be missed.
+struct Memoria {
+    /// More than one run is to come: work that only pays over several is done at the first.
+    bool VariasCorridas = false;
+    RedOrdenada red;
+    std::vector<NodosPiscina> piscinas;           ///< by row of Secuencia
+    std::vector<TablaInfiltracion> infiltracion;  ///< by UEH from 0
+    std::vector<TablaAbatimiento> abatimiento;    ///< one per constant
+    std::vector<double> columna;                  ///< room for one value per output step
+};
+
+}  // namespace engine

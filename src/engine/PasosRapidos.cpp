@@ -1,0 +1,234 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/PasosRapidos.h"
+
+#include <algorithm>
+#include <cmath>
+#include <span>
+
+#include "model/Numeros.h"
+
+namespace engine {
+
+using model::Siro;
+using model::UEH;
+
+namespace {
+
+// Within these bounds products of all the factors of a step stay far below the largest 32-bit float.
+constexpr float Moderado = 1e9F;
+constexpr float PpModerada = 1e6F;
+constexpr float TiempoModerado = 1e6F;
+constexpr float ExponenteModerado = 4;
+
+bool EnLimite(float x, float limite)
+{
+    return std::fabs(x) <= limite;
+}
+
+bool TodosEnLimite(const model::Arreglo<float>& a, float limite)
+{
+    return std::all_of(a.Datos(), a.Datos() + a.Tope() + 1, [=](float x) { return EnLimite(x, limite); });
+}
+
+/// Last model step in which it rains.
+int UltimoPasoConLluvia(const Corrida& c)
+{
+    const Siro& s = c.s;
+    return std::min((s.DurTormenta + s.PasoPp - 1) / s.PasoPp, c.NroPasosPp - 1);
+}
+
+double TiempoDeLadera(const UEH& u)
+{
+    return std::nearbyint(double{u.LongitudMax} / u.VelMedia / 60);
+}
+
+/// Points of a trapezoid: the output steps before T + PasoPp.
+int PuntosDelTrapecio(const Siro& s, int T)
+{
+    return (T + s.PasoPp - 1) / s.PasoQ;
+}
+
+bool PasosEnRango(const Corrida& c)
+{
+    const Siro& s = c.s;
+    if (s.NroUEHs < 1 || s.NroUEHs > model::MaxUEHs || s.ColUEHs.Cuenta() < s.NroUEHs) return false;
+    if (s.PasoQ < 1 || s.PasoPp < s.PasoQ || s.DurTormenta < 1 || c.RelacionPasos < 1) return false;
+    if (s.DurTormenta + s.PasoPp > INT16_MAX || c.NroPasosPp * s.PasoPp > INT16_MAX) return false;
+    return c.NroPasosPp >= 1 && c.NroPasosPp * c.RelacionPasos <= INT16_MAX;
+}
+
+bool ArreglosAlcanzan(const Corrida& c)
+{
+    const Siro& s = c.s;
+    const int n = s.NroUEHs;
+    return s.PpUEHPaso.UltimaFila() >= n && s.PpUEHPaso.TopeColumna() >= UltimoPasoConLluvia(c) &&
+           s.QSale.UltimaFila() >= n && s.NroPasosQ >= 1 && s.QSale.TopeColumna() == s.NroPasosQ + 1 &&
+           s.PasosInfiltra.Tope() >= n && c.RetencionRestante.Tope() >= n &&
+           c.PpMediaPaso.Tope() >= c.NroPasosPp - 1;
+}
+
+bool UEHModerada(const Corrida& c, const UEH& u)
+{
+    const Siro& s = c.s;
+    for (const float x : {u.Area, u.RetensionZ, u.KostiakovA, u.LongitudMax, u.VelMedia})
+        if (!EnLimite(x, Moderado)) return false;
+    if (u.KostiakovB < 0 || u.KostiakovB > ExponenteModerado) return false;
+    if (u.KostiakovI < 0 || u.KostiakovI > TiempoModerado || u.VelMedia == 0) return false;
+    const double T = TiempoDeLadera(u);
+    if (!(T >= 0 && T + s.PasoPp + s.PasoQ <= INT16_MAX)) return false;
+    const int puntos = PuntosDelTrapecio(s, static_cast<int>(T));
+    return c.NroPasosPp * c.RelacionPasos + puntos < INT16_MAX;
+}
+
+/// Depth that could infiltrate in the step that the clock tells, Kostiakov's curve at the shifted time.
+float LaminaInfiltrada(TablaInfiltracion& tabla, std::size_t n)
+{
+    while (tabla.lamina.size() <= n) {
+        const double t = static_cast<double>(tabla.lamina.size()) * tabla.paso + double{tabla.inicial};
+        const double I = tabla.a * (std::pow(t, double{tabla.b}) - std::pow(t - tabla.paso, double{tabla.b}));
+        tabla.lamina.push_back(std::max(static_cast<float>(I), 0.0F));
+    }
+    return tabla.lamina[n];
+}
+
+TablaInfiltracion& TablaDe(Corrida& c, int i)
+{
+    auto& tablas = c.memoria.infiltracion;
+    if (tablas.size() < static_cast<std::size_t>(i)) tablas.resize(static_cast<std::size_t>(i));
+    TablaInfiltracion& tabla = tablas[static_cast<std::size_t>(i) - 1];
+    const UEH& u = c.s.UEHs(i);
+    if (tabla.a != u.KostiakovA || tabla.b != u.KostiakovB || tabla.inicial != u.KostiakovI ||
+        tabla.paso != c.s.PasoPp)
+        tabla = {u.KostiakovA, u.KostiakovB, u.KostiakovI, c.s.PasoPp, {0}};
+    return tabla;
+}
+
+/// Flow of the excess of each model step with rain, from 1. Beyond the rain there is none.
+void CaudalesDelExceso(Corrida& c, int i, std::span<float> caudales)
+{
+    Siro& s = c.s;
+    const UEH& u = s.UEHs(i);
+    TablaInfiltracion& tabla = TablaDe(c, i);
+    const float* lluvia = s.PpUEHPaso.Fila(i);
+    float restante = c.RetencionRestante(i);
+    std::size_t reloj = 1;
+    for (std::size_t k = 1; k < caudales.size(); ++k) {
+        const float Pp = lluvia[k];
+        float R = 0;
+        if (restante != 0) {
+            R = Pp < restante ? Pp : restante;
+            restante = Pp < restante ? restante - R : 0;
+        }
+        const float N = Pp - R;
+        const float I = N != 0 ? LaminaInfiltrada(tabla, reloj++) : 0;
+        const float E = N > I ? N - I : 0;
+        caudales[k] = static_cast<float>(double{E} / s.PasoPp * FactorCaudal * u.Area);
+    }
+    c.RetencionRestante(i) = restante;
+    s.PasosInfiltra(i) = static_cast<float>(reloj);
+}
+
+/// Translation on one slope: the minutes of each point of the trapezoid, and where its three pieces meet.
+struct Ladera {
+    int T = 0;
+    int puntos = 0;
+    int antesDeT = 0;   ///< points that still rise
+    int antesDePp = 0;  ///< points before the falling curve sets in
+    std::vector<double> subida, bajada;
+};
+
+Ladera PreparaLadera(const Siro& s, const UEH& u)
+{
+    Ladera l;
+    l.T = static_cast<int>(TiempoDeLadera(u));
+    l.puntos = PuntosDelTrapecio(s, l.T);
+    l.antesDeT = l.T > 0 ? std::min((l.T - 1) / s.PasoQ, l.puntos) : 0;
+    l.antesDePp = std::min(s.PasoPp / s.PasoQ, l.puntos);
+    for (int j = 0; j <= l.puntos; ++j) {
+        l.subida.push_back(j * s.PasoQ);
+        l.bajada.push_back(j * s.PasoQ - s.PasoPp);
+    }
+    return l;
+}
+
+/// Adds the trapezoid of one step to the hydrograph; `q` stands one point before the first.
+void SumaTrapecio(const Ladera& l, float caudal, float* q)
+{
+    const double pendiente = l.T > 0 ? double{caudal} / l.T : 0;
+    const double* subida = l.subida.data();
+    const double* bajada = l.bajada.data();
+    const auto A = [&](int j) { return static_cast<float>(pendiente * subida[j]); };
+    const auto B = [&](int j) { return static_cast<float>(pendiente * bajada[j]); };
+    const int primero = std::min(l.antesDeT, l.antesDePp);
+    const int segundo = std::max(l.antesDeT, l.antesDePp);
+    for (int j = 1; j <= primero; ++j)
+        q[j] = static_cast<float>(double{q[j]} + A(j));
+    if (l.antesDeT <= l.antesDePp)
+        for (int j = primero + 1; j <= segundo; ++j)
+            q[j] = static_cast<float>(double{q[j]} + caudal);
+    else
+        for (int j = primero + 1; j <= segundo; ++j)
+            q[j] = static_cast<float>(double{q[j]} + A(j) - B(j));
+    for (int j = segundo + 1; j <= l.puntos; ++j)
+        q[j] = static_cast<float>(double{q[j]} + caudal - B(j));
+}
+
+/// Output step to which the run grows: a point beyond NroPasosQ + 1 makes itself the last step, in the order
+/// of the steps and, within a step, of the UEHs.
+int UltimoPasoQ(const Corrida& c, std::span<const Ladera> laderas,
+                std::span<const std::vector<float>> caudales)
+{
+    int ultimo = c.s.NroPasosQ;
+    for (std::size_t k = 1; k < caudales[0].size(); ++k) {
+        const int antes = static_cast<int>(k - 1) * c.RelacionPasos;
+        for (std::size_t u = 0; u < laderas.size(); ++u) {
+            if (caudales[u][k] == 0) continue;
+            for (int p = std::max(antes + 1, ultimo + 2); p <= antes + laderas[u].puntos; p = ultimo + 2)
+                ultimo = p;
+        }
+    }
+    return ultimo;
+}
+
+}  // namespace
+
+bool PasosSeguros(Corrida& c)
+{
+    Siro& s = c.s;
+    if (!PasosEnRango(c) || !ArreglosAlcanzan(c)) return false;
+    if (c.AreaTotal == 0 || !EnLimite(s.PpTormenta, PpModerada)) return false;
+    if (!TodosEnLimite(s.PpUEH, PpModerada) || !TodosEnLimite(s.PpAcum, PpModerada) ||
+        !TodosEnLimite(s.IntensidadPp, PpModerada))
+        return false;
+    for (int i = 1; i <= s.NroUEHs; ++i)
+        if (!UEHModerada(c, s.UEHs(i))) return false;
+    return true;
+}
+
+void PasosRapidos(Corrida& c)
+{
+    Siro& s = c.s;
+    const int conLluvia = UltimoPasoConLluvia(c);
+    for (int k = 1; k <= conLluvia; ++k)
+        LluviaDelPaso(c, static_cast<std::int16_t>(k));
+
+    std::vector<std::vector<float>> caudales(static_cast<std::size_t>(s.NroUEHs));
+    std::vector<Ladera> laderas;
+    for (int i = 1; i <= s.NroUEHs; ++i) {
+        auto& fila = caudales[static_cast<std::size_t>(i) - 1];
+        fila.resize(static_cast<std::size_t>(conLluvia) + 1);
+        CaudalesDelExceso(c, i, fila);
+        laderas.push_back(PreparaLadera(s, s.UEHs(i)));
+    }
+    if (const int ultimo = UltimoPasoQ(c, laderas, caudales); ultimo != s.NroPasosQ)
+        Alarga(c, static_cast<std::int16_t>(ultimo));
+    for (int i = 1; i <= s.NroUEHs; ++i) {
+        const auto& fila = caudales[static_cast<std::size_t>(i) - 1];
+        for (std::size_t k = 1; k < fila.size(); ++k)
+            if (fila[k] != 0)
+                SumaTrapecio(laderas[static_cast<std::size_t>(i) - 1], fila[k],
+                             s.QSale.Fila(i) + (static_cast<int>(k) - 1) * c.RelacionPasos);
+    }
+}
+
+}  // namespace engine

@@ -1,0 +1,203 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/PasosUEH.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "engine/PasosRapidos.h"
+#include "engine/modDistriPp.h"
+#include "model/Numeros.h"
+
+namespace engine {
+
+using model::Cociente;
+using model::Producto16;
+using model::Simple;
+using model::Siro;
+using model::Suma16;
+
+namespace {
+
+constexpr std::int16_t FormaPorUEH = static_cast<std::int16_t>(model::FormaLluvia::PorUEH);
+
+/// Values of one step in one UEH; they keep what they held where a statement is at fault.
+struct Paso {
+    float Pp = 0;        ///< rainfall [mm]
+    float R = 0;         ///< retained depth [mm]
+    float N = 0;         ///< net rain [mm]
+    float I = 0;         ///< potential infiltration [mm]
+    float E = 0;         ///< excess [mm]
+    float CaudalPp = 0;  ///< flow of the excess [m3/s]
+    std::int16_t T = 0;  ///< travel time on the slope [min]
+    std::int16_t p = 0;  ///< output step of a point of the trapezoid
+    float A = 0, B = 0;  ///< rising and falling curve [m3/s]
+};
+
+bool HayLluvia(Corrida& c, std::int16_t k)
+{
+    return c.Vale([&] { return Minutos(k, c.s.PasoPp) < Suma16(c.s.DurTormenta, c.s.PasoPp); });
+}
+
+void LluviaPorUEH(Corrida& c, std::int16_t k)
+{
+    Siro& s = c.s;
+    for (int i = 1; i <= s.NroUEHs; ++i) {
+        c.Intenta([&] { s.PpTormenta = s.PpUEH(i); });
+        c.Intenta([&] { s.PpUEHPaso(i, k) = Simple(PpDelPaso(s, k)); });
+        c.Intenta([&] {
+            c.SumaPp = Simple(c.SumaPp + Cociente(double{s.UEHs(i).Area} * s.PpUEHPaso(i, k), c.AreaTotal));
+        });
+    }
+}
+
+void LluviaPareja(Corrida& c, std::int16_t k)
+{
+    Siro& s = c.s;
+    c.Intenta([&] { s.PpUEHPaso(1, k) = Simple(PpDelPaso(s, k)); });
+    c.Intenta([&] { c.SumaPp = Simple(double{c.SumaPp} + s.PpUEHPaso(1, k)); });
+    for (int i = 1; i <= s.NroUEHs; ++i) {
+        c.Intenta([&] { s.PpUEHPaso(i, k) = s.PpUEHPaso(1, k); });
+        c.Intenta([&] { s.PpUEH(i) = Simple(double{s.PpUEH(i)} + s.PpUEHPaso(i, k)); });
+    }
+}
+
+void Retiene(Corrida& c, int i, Paso& v)
+{
+    float& restante = c.RetencionRestante(i);
+    if (restante == 0) {
+        v.R = 0;
+    } else if (v.Pp < restante) {
+        v.R = v.Pp;
+        c.Intenta([&] { restante = Simple(double{restante} - v.R); });
+    } else {
+        v.R = restante;
+        restante = 0;
+    }
+}
+
+void Infiltra(Corrida& c, int i, Paso& v)
+{
+    Siro& s = c.s;
+    if (v.N == 0) {
+        v.I = 0;
+        return;
+    }
+    c.Intenta([&] {
+        const model::UEH& u = s.UEHs(i);
+        const double t = double{s.PasosInfiltra(i)} * s.PasoPp + u.KostiakovI;
+        v.I = Simple(u.KostiakovA *
+                     (model::Potencia(t, u.KostiakovB) - model::Potencia(t - s.PasoPp, u.KostiakovB)));
+    });
+    if (v.I < 0) v.I = 0;
+    c.Intenta([&] { s.PasosInfiltra(i) = Simple(double{s.PasosInfiltra(i)} + 1); });
+}
+
+void EscribePaso(Corrida& c, std::int16_t k, int i, const Paso& v)
+{
+    Siro& s = c.s;
+    c.Intenta([&] {
+        const std::int16_t t = Minutos(k, s.PasoPp);
+        const float pp = model::Trunca2(v.Pp), r = model::Trunca2(v.R), in = model::Trunca2(v.I);
+        const std::string& nombre = s.UEHs(i).NombreUEH;
+        c.Linea.Vacia();
+        c.Linea.Derecha(std::int32_t{k}, 5).Derecha(std::int32_t{t}, 6).DerechaTexto(nombre, 8);
+        c.Linea.Derecha(pp, 10).Derecha(r, 13).Derecha(in, 17);
+        c.Linea.Derecha(model::Redondea(double{v.CaudalPp} * 1000 / 1000, 2), 17);
+    });
+    if (s.SalidaPizarra) s.TextoPizarra.append("\r\n").append(c.Linea.Texto());
+}
+
+void PuntoDelTrapecio(Corrida& c, std::int16_t k, int i, std::int16_t j, std::int16_t tj, Paso& v)
+{
+    Siro& s = c.s;
+    c.Intenta([&] { v.A = v.T <= tj ? v.CaudalPp : Simple(Cociente(v.CaudalPp, v.T) * tj); });
+    c.Intenta([&] {
+        v.B = tj <= s.PasoPp ? 0 : Simple(Cociente(v.CaudalPp, v.T) * model::Entero16(tj - s.PasoPp));
+    });
+    c.Intenta([&] { v.p = model::Entero16(Suma16(Producto16(k, c.RelacionPasos), j) - c.RelacionPasos); });
+    if (c.Vale([&] { return v.p > Suma16(s.NroPasosQ, 1); })) Alarga(c, v.p);
+    c.Intenta([&] { s.QSale(i, v.p) = Simple(double{s.QSale(i, v.p)} + v.A - v.B); });
+}
+
+void Traslada(Corrida& c, std::int16_t k, int i, Paso& v)
+{
+    Siro& s = c.s;
+    c.Intenta([&] {
+        const model::UEH& u = s.UEHs(i);
+        v.T = model::Entero16(Cociente(u.LongitudMax, u.VelMedia) / 60);
+    });
+    std::int16_t j = 1;
+    std::int16_t tj = s.PasoQ;
+    while (c.Vale([&] { return tj < Suma16(v.T, s.PasoPp); })) {
+        PuntoDelTrapecio(c, k, i, j, tj, v);
+        // A clock that stands still would never end the loop.
+        if (!c.Intenta([&] { j = Suma16(j, 1); })) return;
+        if (!c.Intenta([&] { tj = Minutos(j, s.PasoQ); })) return;
+    }
+}
+
+void PasoDeUEH(Corrida& c, std::int16_t k, int i, Paso& v)
+{
+    Siro& s = c.s;
+    if (HayLluvia(c, k))
+        c.Intenta([&] { v.Pp = s.PpUEHPaso(i, k); });
+    else
+        v.Pp = 0;
+    c.Intenta([&] {
+        c.PpMediaPaso(k) = Simple(c.PpMediaPaso(k) + Cociente(double{v.Pp} * s.UEHs(i).Area, c.AreaTotal));
+    });
+    c.Intenta([&] { Retiene(c, i, v); });
+    c.Intenta([&] { v.N = Simple(double{v.Pp} - v.R); });
+    Infiltra(c, i, v);
+    if (v.N > v.I)
+        c.Intenta([&] { v.E = Simple(double{v.N} - v.I); });
+    else
+        v.E = 0;
+    c.Intenta([&] { v.CaudalPp = Simple(Cociente(v.E, s.PasoPp) * FactorCaudal * s.UEHs(i).Area); });
+    EscribePaso(c, k, i, v);
+    if (v.CaudalPp != 0) Traslada(c, k, i, v);
+}
+
+}  // namespace
+
+void Alarga(Corrida& c, std::int16_t p)
+{
+    Siro& s = c.s;
+    s.NroPasosQ = p;
+    for (model::Matriz<float>* m : {&s.QSale, &s.HRepresa, &s.SRepresa, &s.HLago, &s.SLago, &s.QEntra})
+        c.Intenta([&] { m->Redimensiona(Suma16(p, 1)); });
+}
+
+void LluviaDelPaso(Corrida& c, std::int16_t k)
+{
+    if (!HayLluvia(c, k)) return;
+    if (c.s.FormaPp == FormaPorUEH)
+        LluviaPorUEH(c, k);
+    else
+        LluviaPareja(c, k);
+}
+
+void PasosUnoPorUno(Corrida& c)
+{
+    Siro& s = c.s;
+    Paso valores;
+    for (std::int16_t k = 1; k < c.NroPasosPp; ++k) {
+        LluviaDelPaso(c, k);
+        for (int i = 1; i <= s.NroUEHs; ++i)
+            PasoDeUEH(c, k, i, valores);
+    }
+}
+
+void PasosDeLasUEHs(Corrida& c)
+{
+    if (c.s.SalidaPizarra)
+        c.s.TextoPizarra.append(
+            "\r\n\r\nI- SIMULACION EN UEHs\r\n"
+            "Per.k  t[min]   UEH     Pp[mm]  Retensión Z[mm]   Infiltra I[mm]   CaudalPp[m3/s]");
+    if (!c.s.SalidaPizarra && PasosSeguros(c))
+        PasosRapidos(c);
+    else
+        PasosUnoPorUno(c);
+}
+
+}  // namespace engine

@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/Red.h"
+
+#include "engine/ComponenteFinal.h"
+#include "engine/OrdenSecuencia.h"
+
+namespace engine {
+
+using model::Siro;
+
+namespace {
+
+/// Hands names and destinations of all components to `mira`, in collection order, until it says no.
+template <typename Mira>
+bool RecorreEnlaces(const Siro& s, Mira mira)
+{
+    for (const auto& u : s.ColUEHs)
+        if (!mira(u.NombreUEH) || !mira(u.Cauce_aa)) return false;
+    for (const auto& c : s.ColCauces)
+        if (!mira(c.NombreCauce) || !mira(c.Cauce_aa)) return false;
+    for (const auto& l : s.ColLagos)
+        if (!mira(l.NombreLAGO) || !mira(l.Cauce_aa)) return false;
+    for (const auto& r : s.ColRepresas)
+        if (!mira(r.NombreRepresa) || !mira(r.Cauce_aa)) return false;
+    return true;
+}
+
+bool EsLaRecordada(const Corrida& c)
+{
+    const RedOrdenada& red = c.memoria.red;
+    const Siro& s = c.s;
+    if (!red.sirve || s.SalidaPizarra || !s.AvisoDescargasVisto || red.NroUEHs != s.NroUEHs) return false;
+    std::size_t i = 0;
+    const bool iguales = RecorreEnlaces(
+        s, [&](const std::string& t) { return i < red.enlaces.size() && red.enlaces[i++] == t; });
+    return iguales && i == red.enlaces.size();
+}
+
+/// Keeps a network that was found in order without a question, for the next run.
+void Recuerda(Corrida& c)
+{
+    const Siro& s = c.s;
+    if (!c.memoria.VariasCorridas || !s.AvisoDescargasVisto || s.NroSalidas > model::MaxSalidas) return;
+    RedOrdenada& red = c.memoria.red;
+    red.enlaces.clear();
+    RecorreEnlaces(s, [&](const std::string& t) {
+        red.enlaces.push_back(t);
+        return true;
+    });
+    red.NroUEHs = s.NroUEHs;
+    red.Secuencia = s.Secuencia;
+    red.Salidas = s.Salidas;
+    red.NroSalidas = s.NroSalidas;
+    red.RedOk = s.RedOk;
+    red.sirve = true;
+}
+
+}  // namespace
+
+void ValidaRed(Corrida& c)
+{
+    Siro& s = c.s;
+    if (EsLaRecordada(c)) {
+        const RedOrdenada& red = c.memoria.red;
+        s.ErrorRed = false;
+        s.ContinuarSinCorregir = false;
+        s.RedOk = red.RedOk;
+        s.NroComponentes = static_cast<std::int16_t>(red.Secuencia.size() - 1);
+        s.Secuencia = red.Secuencia;
+        s.NroSalidas = red.NroSalidas;
+        s.Salidas = red.Salidas;
+        c.Afluentes = &red.afluentes;
+        return;
+    }
+    const int veces = s.NroSeriePDR == 1 ? 2 : 1;
+    for (int v = 0; v < veces; ++v)
+        c.Intenta([&] { ComponenteFinal(s); });
+}
+
+bool OrdenaRed(Corrida& c)
+{
+    Siro& s = c.s;
+    if (c.Afluentes != nullptr) return true;
+    bool ordenada = true;
+    c.Intenta([&] { ordenada = OrdenSecuencia(s); });
+    if (!ordenada) return false;
+    if (s.SalidaPizarra) s.TextoPizarra = s.Anfitrion.LeePizarra();
+    c.memoria.red.afluentes = Aportes(s);
+    c.memoria.red.sirve = false;
+    c.Afluentes = &c.memoria.red.afluentes;
+    Recuerda(c);
+    return true;
+}
+
+}  // namespace engine

@@ -1,0 +1,184 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/SerieRapida.h"
+
+#include <algorithm>
+#include <atomic>
+#include <thread>
+
+#include "engine/Memoria.h"
+#include "engine/mdlProceso1.h"
+#include "engine/mdlSeriePDR.h"
+#include "engine/modDistriPp.h"
+#include "model/Numeros.h"
+
+namespace engine {
+
+using model::FinDelPrograma;
+using model::Siro;
+
+namespace {
+
+/// A host without a user: whatever would be shown or asked ends the storm.
+model::Anfitrion AnfitrionMudo()
+{
+    model::Anfitrion mudo;
+    mudo.Avisa = [](const model::Mensaje&) { throw FinDelPrograma{}; };
+    mudo.Pregunta = [](const model::Mensaje&) -> bool { throw FinDelPrograma{}; };
+    mudo.Termina = [] { throw FinDelPrograma{}; };
+    return mudo;
+}
+
+/// A storm's hyetograph, and what earlier storms left in its arrays.
+struct Hietograma {
+    std::int16_t NroBloquesPp = 0, NroPpReal = 0;
+    model::Arreglo<float> PpAcum, IntensidadPp, PpReal;
+};
+
+Hietograma Copia(const Siro& s)
+{
+    return {s.NroBloquesPp, s.NroPpReal, s.PpAcum, s.IntensidadPp, s.PpReal};
+}
+
+void Pone(Siro& s, const Hietograma& h)
+{
+    s.NroBloquesPp = h.NroBloquesPp;
+    s.NroPpReal = h.NroPpReal;
+    s.PpAcum = h.PpAcum;
+    s.IntensidadPp = h.IntensidadPp;
+    s.PpReal = h.PpReal;
+    s.PpAcumPrevia = 0;
+}
+
+void TomaTormenta(Siro& s, int numero)
+{
+    s.IndSerie = static_cast<std::int16_t>(numero);
+    s.PpTormenta = s.SerieP(numero);
+    s.DurTormenta = s.SerieD(numero);
+    s.RecTormenta = s.SerieR(numero);
+}
+
+/// Asks for the rain of each model step, as the run does: that can cut or lengthen the hyetograph's arrays.
+void GastaLluvia(Siro& s)
+{
+    const double x = model::Cociente(s.DurTormenta + double{s.N0Dur}, s.PasoPp);
+    const double pasos = std::min(std::ceil(x), 32767.0);
+    for (std::int16_t k = 1; k < pasos && k * s.PasoPp < s.DurTormenta + s.PasoPp; ++k)
+        PpDelPaso(s, k);
+}
+
+/// Hyetographs of the storms in order, up to the first that can't be built in silence.
+std::vector<Hietograma> Hietogramas(Siro s, const std::vector<int>& numeros)
+{
+    s.Anfitrion = AnfitrionMudo();
+    std::vector<Hietograma> hietogramas;
+    try {
+        for (const int numero : numeros) {
+            TomaTormenta(s, numero);
+            ConstruyeHietograma(s);
+            hietogramas.push_back(Copia(s));
+            GastaLluvia(s);
+        }
+    } catch (const FinDelPrograma&) {
+    } catch (const model::Falla&) {
+        hietogramas.pop_back();  // the run itself would report it
+    }
+    return hietogramas;
+}
+
+/// What the threads share: storms are taken in order, the first that isn't silent stops the rest.
+struct Reparto {
+    const std::vector<int>& numeros;
+    const std::vector<Hietograma>& hietogramas;
+    std::size_t cuantas;  ///< storms to run
+    std::atomic<std::size_t> siguiente{0};
+    std::atomic<std::size_t> tope{cuantas};  ///< place of the first storm that isn't silent
+};
+
+/// Makes the column of one storm in all results equal to that of another state.
+void TraeColumna(Siro& a, const Siro& de, int numero)
+{
+    for (int fila = 0; fila <= a.QMax.UltimaFila(); ++fila)
+        a.QMax(fila, numero) = de.QMax(fila, numero);
+    for (int u = 0; u <= a.EscUEH.UltimaFila(); ++u) {
+        a.EscUEH(u, numero) = de.EscUEH(u, numero);
+        a.CoefEscUEH(u, numero) = de.CoefEscUEH(u, numero);
+    }
+    a.EscTotal(numero) = de.EscTotal(numero);
+    a.CoefEscTotal(numero) = de.CoefEscTotal(numero);
+}
+
+/// Runs one storm in a state of its own. Returns false where it isn't silent.
+bool CorreEnSilencio(Siro& s, Memoria& memoria, int numero, const Hietograma& hietograma)
+{
+    TomaTormenta(s, numero);
+    Pone(s, hietograma);
+    try {
+        ProcesoPrincipal(s, {.GuardaTexto = false, .ConTexto = false, .ConVolumenes = false}, memoria);
+        return true;
+    } catch (const FinDelPrograma&) {
+        return false;
+    }
+}
+
+/// One thread's work. Returns the places of the storms that it ran, in order.
+std::vector<std::size_t> Trabaja(Siro& s, Reparto& reparto, const std::function<void(int)>& avisa)
+{
+    Memoria memoria;
+    memoria.VariasCorridas = reparto.cuantas > 1;
+    std::vector<std::size_t> hechas;
+    for (std::size_t i = reparto.siguiente++; i < reparto.tope; i = reparto.siguiente++) {
+        if (avisa) avisa(reparto.numeros[i]);
+        if (CorreEnSilencio(s, memoria, reparto.numeros[i], reparto.hietogramas[i])) {
+            hechas.push_back(i);
+            continue;
+        }
+        std::size_t tope = reparto.tope;
+        while (i < tope && !reparto.tope.compare_exchange_weak(tope, i)) {
+        }
+    }
+    return hechas;
+}
+
+/// Leaves in `s` what the storm ahead of place `i` leaves behind in a run one after another.
+void PonEstadoAnterior(Siro& s, const std::vector<int>& numeros, const std::vector<Hietograma>& hietogramas,
+                       std::size_t i)
+{
+    if (i == 0) return;
+    TomaTormenta(s, numeros[i - 1]);
+    Pone(s, hietogramas[i - 1]);
+    const model::Anfitrion anfitrion = std::move(s.Anfitrion);
+    s.Anfitrion = AnfitrionMudo();
+    Memoria memoria;
+    ProcesoPrincipal(s, {.GuardaTexto = false, .ConTexto = false, .ConVolumenes = true}, memoria);
+    s.Anfitrion = anfitrion;
+}
+
+}  // namespace
+
+std::size_t CorreTormentasSinAvisos(Siro& s, const std::vector<int>& numeros, int hilos,
+                                    const std::function<void(int)>& avisa)
+{
+    if (numeros.size() < 2 || s.NroSeriePDR < 2) return 0;
+    const std::vector<Hietograma> hietogramas = Hietogramas(s, numeros);
+    Reparto reparto{numeros, hietogramas, std::min(hietogramas.size(), numeros.size() - 1)};
+    const auto cuantos = std::clamp<std::size_t>(static_cast<std::size_t>(std::max(hilos, 1)), 1,
+                                                 std::max<std::size_t>(reparto.cuantas, 1));
+    std::vector<Siro> estados(cuantos, s);
+    for (Siro& estado : estados)
+        estado.Anfitrion = AnfitrionMudo();
+    std::vector<std::vector<std::size_t>> hechas(cuantos);
+    {
+        std::vector<std::jthread> ayudantes;
+        for (std::size_t h = 1; h < cuantos; ++h)
+            ayudantes.emplace_back([&, h] { hechas[h] = Trabaja(estados[h], reparto, {}); });
+        hechas[0] = Trabaja(estados[0], reparto, avisa);
+    }
+    const std::size_t completas = reparto.tope;
+    for (std::size_t h = 0; h < cuantos; ++h)
+        for (const std::size_t i : hechas[h])
+            if (i < completas) TraeColumna(s, estados[h], numeros[i]);
+    PonEstadoAnterior(s, numeros, hietogramas, completas);
+    return completas;
+}
+
+}  // namespace engine

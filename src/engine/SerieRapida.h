@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <vector>
+
+#include "model/Siro.h"
+
+namespace engine {
+
+/// Runs the storms `numeros` of the series, but for the last of them, on `hilos` threads, and brings their
+/// columns of QMax, EscUEH, CoefEscUEH, EscTotal and CoefEscTotal into `s`. Storms don't depend on one
+/// another except through the hyetograph's arrays, which are handed on in order beforehand.
+///
+/// Returns how many storms from the first one on stand as a run one after another leaves them: the first that
+/// would show a box or ask a question stops the rest. `s` then holds the state in which that storm begins, as
+/// far as a storm can tell. `avisa` is called on this thread for each storm that it begins.
+std::size_t CorreTormentasSinAvisos(model::Siro& s, const std::vector<int>& numeros, int hilos,
+                                    const std::function<void(int numero)>& avisa);
+
+}  // namespace engine

@@ -1,0 +1,266 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/mdlProceso1.h"
+
+#include <algorithm>
+
+#include "engine/Corrida.h"
+#include "engine/Embalses.h"
+#include "engine/HojaUEH.h"
+#include "engine/PasosUEH.h"
+#include "engine/Red.h"
+#include "engine/Resumen.h"
+#include "engine/Tramos.h"
+#include "model/Numeros.h"
+#include "model/Texto.h"
+
+namespace engine {
+
+using model::Advierte;
+using model::Cociente;
+using model::NumeroATexto;
+using model::Piso16;
+using model::Simple;
+using model::Siro;
+using model::Suma16;
+
+namespace {
+
+constexpr std::int16_t FormaSerie = static_cast<std::int16_t>(model::FormaLluvia::SeriePDR);
+constexpr std::int16_t FormaPorUEH = static_cast<std::int16_t>(model::FormaLluvia::PorUEH);
+
+constexpr std::string_view SinUEHs =
+    "Debe haber al menos una Unidad de Estudios Hidrólógicos (UEH) Cargada en el sistema. (Ingresar UEHs "
+    "desde el "
+    "Menú Principal  \\Entradas\\Editor UEHs (Gráfico)...";
+constexpr std::string_view SinArea =
+    "Error en la carga de datos de UEHS, posiblemente no ha cargado correctamente las superficies y demás "
+    "parámetros, ...";
+constexpr std::string_view ErrorEnUEH = "Error en la carga de datos de UEHS Nro. ";
+constexpr std::string_view SinVelocidad =
+    ". El dato de Velocidad media de la gota en ladera es incorrecto. Revise desde Menú Principal: "
+    "Entradas\\Editor de UEHS...";
+constexpr std::string_view SinLongitud =
+    ". El dato de Longitud máxima de la gota en ladera es incorrecto. Revise desde Menú Principal: "
+    "Entradas\\Editor de UEHS...";
+// The words say the reverse of the test: kept as they stand.
+constexpr std::string_view PasosDesiguales =
+    "Error, el paso de salida (Q) debe ser múltiplo del paso de cálculo (Pp). Verifique la carga en "
+    "\\Entradas\\Preicpitaciones...";
+constexpr std::string_view RedConErrores =
+    "Error en la carga de datos de UEHS. Revise desde Menú Principal: Entradas\\Editor de UEHS...";
+constexpr std::string_view TituloTextoExtenso = "La tabla de resultados es muy extensa";
+constexpr std::string_view TextoExtenso =
+    "La tabla de resultados es muy extensa para ser presentada completa en la Pizarra. Los datos se guardan "
+    "completos "
+    "en el archivo de texto <SalePizarra1_tem.txt> del directorio de trabajo. Puede leer directamente este "
+    "archivo con "
+    "un editor de texto o bien importar archivo desde Excel como <delimitado>, con separador <espacio> y "
+    "formato "
+    "<general>";
+constexpr std::size_t LargoExtenso = 60000;  // characters
+
+bool Rechaza(const Siro& s, std::string texto)
+{
+    Advierte(s, std::move(texto));
+    return false;
+}
+
+// --- checks and set-up
+// --------------------------------------------------------------------------------------
+
+bool CompruebaUEH(Corrida& c, int i)
+{
+    Siro& s = c.s;
+    c.Intenta([&] { c.AreaTotal = Simple(double{c.AreaTotal} + s.UEHs(i).Area); });
+    if (c.AreaTotal == 0) return Rechaza(s, std::string(SinArea));
+    c.Intenta([&] { s.PasosInfiltra(i) = 1; });
+    if (c.Vale([&] { return s.UEHs(i).VelMedia == 0; }))
+        return Rechaza(s, std::string(ErrorEnUEH) + NumeroATexto(i) + std::string(SinVelocidad));
+    if (c.Vale([&] { return s.UEHs(i).LongitudMax == 0; }))
+        return Rechaza(s, std::string(ErrorEnUEH) + NumeroATexto(i) + std::string(SinLongitud));
+    return true;
+}
+
+bool CompruebaUEHs(Corrida& c)
+{
+    Siro& s = c.s;
+    c.Intenta([&] { s.PasosInfiltra.Redimensiona(s.NroUEHs); });
+    s.TextoPizarra = s.Anfitrion.LeePizarra();
+    if (s.NroUEHs == 0) return Rechaza(s, std::string(SinUEHs));
+    for (int i = 1; i <= s.NroUEHs; ++i)
+        if (!CompruebaUEH(c, i)) return false;
+    return true;
+}
+
+/// Steps that the simulated time takes, a part of one included; kept as they were where that is at fault.
+void CuentaPasos(Corrida& c, std::int16_t paso, std::int16_t& pasos)
+{
+    const Siro& s = c.s;
+    double x = 0;
+    c.Intenta([&] { x = Cociente(s.DurTormenta + double{s.N0Dur}, paso); });
+    c.Intenta([&] { pasos = Piso16(x); });
+    if (c.Vale([&] { return Simple(x) > static_cast<float>(pasos); }))
+        c.Intenta([&] { pasos = Suma16(pasos, 1); });
+}
+
+bool CompruebaPasos(Corrida& c)
+{
+    Siro& s = c.s;
+    c.Intenta([&] { c.RelacionPasos = Piso16(Cociente(s.PasoPp, s.PasoQ)); });
+    if (c.Vale([&] { return Cociente(s.PasoPp, s.PasoQ) != c.RelacionPasos; }))
+        return Rechaza(s, std::string(PasosDesiguales));
+    CuentaPasos(c, s.PasoPp, c.NroPasosPp);
+    CuentaPasos(c, s.PasoQ, s.NroPasosQ);
+    return true;
+}
+
+void DimensionaTrabajo(Corrida& c)
+{
+    Siro& s = c.s;
+    c.Intenta([&] { c.RetencionRestante.Dimensiona(s.NroUEHs); });
+    c.Intenta([&] { s.VolBaseUEH.Dimensiona(Suma16(s.NroUEHs, 1)); });
+    c.Intenta([&] { s.CoefUEH.Dimensiona(Suma16(s.NroUEHs, 1)); });
+    c.Intenta([&] { s.VolUEH.Dimensiona(Suma16(s.NroUEHs, 1)); });
+    c.Intenta([&] { c.PpMediaPaso.Dimensiona(s.NroPasosQ); });
+    c.Intenta([&] { s.PpUEHPaso.Dimensiona(s.NroUEHs, Piso16(Cociente(s.DurTormenta, s.PasoQ) + 1)); });
+    c.Intenta([&] { s.HRepresa.Dimensiona(s.NroRepresas, Suma16(s.NroPasosQ, 1)); });
+    c.Intenta([&] { s.SRepresa.Dimensiona(s.NroRepresas, Suma16(s.NroPasosQ, 1)); });
+    c.Intenta([&] { s.HLago.Dimensiona(s.NroLagos, Suma16(s.NroPasosQ, 1)); });
+    c.Intenta([&] { s.SLago.Dimensiona(s.NroLagos, Suma16(s.NroPasosQ, 1)); });
+    if (s.FormaPp == FormaPorUEH) return;
+    for (int i = 1; i <= s.NroUEHs; ++i)
+        c.Intenta([&] { s.PpUEH(i) = 0; });
+}
+
+void DimensionaResultados(Corrida& c)
+{
+    Siro& s = c.s;
+    c.Intenta([&] { s.QSale.Dimensiona(s.NroComponentes, Suma16(s.NroPasosQ, 1)); });
+    c.Intenta([&] {
+        s.QEntra.Dimensiona(Suma16(s.NroUEHs, 1), Suma16(s.NroComponentes, 1), Suma16(s.NroPasosQ, 1));
+    });
+    if (s.FormaPp != FormaSerie) {
+        s.NroSeriePDR = 1;
+        s.IndSerie = 1;
+    }
+    if (s.NroSeriePDR != 1) return;
+    c.Intenta([&] { s.QMax.Dimensiona(s.NroComponentes, 1); });
+    c.Intenta([&] { s.EscUEH.Dimensiona(s.NroUEHs, 1); });
+    c.Intenta([&] { s.CoefEscUEH.Dimensiona(s.NroUEHs, 1); });
+    c.Intenta([&] { s.CoefEscTotal.Dimensiona(1); });
+    c.Intenta([&] { s.EscTotal.Dimensiona(1); });
+}
+
+bool PreparaUEHs(Corrida& c)
+{
+    Siro& s = c.s;
+    if (s.ErrorRed || !OrdenaRed(c)) return Rechaza(s, std::string(RedConErrores));
+    for (int i = 1; i <= s.NroUEHs; ++i) {
+        c.Intenta([&] { c.RetencionRestante(i) = s.UEHs(i).RetensionZ; });
+        c.Intenta([&] { s.PasosInfiltra(i) = 1; });
+        c.Intenta([&] { s.VolUEH(i) = 0; });
+    }
+    return true;
+}
+
+bool PreparaCorrida(Corrida& c)
+{
+    if (!CompruebaUEHs(c) || !CompruebaPasos(c)) return false;
+    DimensionaTrabajo(c);
+    ValidaRed(c);
+    DimensionaResultados(c);
+    return PreparaUEHs(c);
+}
+
+// --- second half: reaches, Lagos, Represas
+// ----------------------------------------------------------------------
+
+void AbreSegundaParte(Corrida& c)
+{
+    Siro& s = c.s;
+    c.RetardoMax = 0;
+    if (!s.SalidaPizarra) return;
+    s.TextoPizarra +=
+        "\r\n\r\nII- SIMULACION EN COMPONENTES RESTANTES"
+        "\r\n    (Cauces, Lagos y Represas)";
+    // The block ahead of any component shows what the last one of an earlier run left: kept as it stands.
+    c.Intenta([&] { EscribeResumen(c, 0); });
+    s.TextoPizarra += "\r\n";
+    s.Anfitrion.AmpliaPizarra(s.TextoPizarra);
+}
+
+bool ProcesaComponente(Corrida& c, int fila)
+{
+    const std::string_view nombre = c.s.Secuencia[static_cast<std::size_t>(fila)];
+    if (nombre.starts_with("l-")) {
+        c.Intenta([&] { Proceso_en_Lago(c, fila); });
+    } else if (nombre.starts_with("r-")) {
+        c.Intenta([&] { Proceso_en_Represa(c, fila); });
+    } else if (nombre.starts_with("c-")) {
+        return ProcesoEnCauce(c, fila);
+    }
+    return true;
+}
+
+bool RecorreSecuencia(Corrida& c)
+{
+    for (int fila = std::max(c.s.NroUEHs + 1, 0); fila <= c.s.NroComponentes; ++fila)
+        if (!ProcesaComponente(c, fila)) return false;
+    return true;
+}
+
+/// Writes the text as one record: quotes inside it are not escaped.
+void GuardaTextoPizarra(Siro& s)
+{
+    s.ArchivoTemp = ArchivoPizarra;
+    const std::string ruta = model::Ruta(s.DirTrabajo, ArchivoPizarra);
+    s.Disco.Escribe(ruta, "\"");
+    constexpr std::size_t Trozo = 1 << 18;
+    const std::string_view texto = s.TextoPizarra;
+    for (std::size_t desde = 0; desde < texto.size();) {
+        std::size_t hasta = std::min(desde + Trozo, texto.size());
+        while (hasta < texto.size() && (texto[hasta] & 0xC0) == 0x80)
+            ++hasta;  // whole characters
+        s.Disco.Agrega(ruta, model::AWindows1252(texto.substr(desde, hasta - desde)));
+        desde = hasta;
+    }
+    s.Disco.Agrega(ruta, "\"\r\n");
+}
+
+void CierraCorrida(Corrida& c)
+{
+    Siro& s = c.s;
+    const std::string& texto = s.TextoPizarra;
+    if (texto.size() > LargoExtenso && model::CuentaCaracteres(texto) > LargoExtenso)
+        Advierte(s, std::string(TextoExtenso), TituloTextoExtenso);
+    c.Intenta([&] { GuardaTextoPizarra(s); });
+}
+
+}  // namespace
+
+bool ProcesoPrincipal(Siro& s, ModoCorrida modo, Memoria& memoria)
+{
+    Corrida c(s, memoria);
+    c.ConTexto = modo.ConTexto || modo.GuardaTexto || s.SalidaPizarra;
+    c.ConVolumenes = c.ConTexto || modo.ConVolumenes;
+    s.HActual = 0;
+    s.SActual = 0;
+    s.ACalc = 0;
+    if (!PreparaCorrida(c)) return false;
+    PasosDeLasUEHs(c);
+    SumaRecesion(c);
+    HidrogramasDeUEHs(c);
+    VolumenesDeUEHs(c);
+    AbreSegundaParte(c);
+    if (!RecorreSecuencia(c)) return false;
+    if (modo.GuardaTexto) CierraCorrida(c);
+    return true;
+}
+
+bool ProcesoPrincipal(Siro& s, bool GuardaTexto)
+{
+    Memoria memoria;
+    return ProcesoPrincipal(s, {.GuardaTexto = GuardaTexto, .ConTexto = true}, memoria);
+}
+
+}  // namespace engine

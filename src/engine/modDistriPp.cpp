@@ -1,0 +1,239 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/modDistriPp.h"
+
+#include <algorithm>
+#include <cmath>
+#include <span>
+
+#include "engine/Renglon.h"
+#include "model/ArchivosTormenta.h"
+#include "model/Avisos.h"
+#include "model/Numeros.h"
+
+namespace engine {
+
+using model::Arreglo;
+using model::Cociente;
+using model::Falla;
+using model::NumeroFalla;
+using model::Simple;
+using model::Siro;
+
+namespace {
+
+constexpr std::int16_t FormaReal = static_cast<std::int16_t>(model::FormaLluvia::Real);
+constexpr std::int16_t PrimeraPersonal = 5;  // distributions 5, 6, 7 are personal tables 1, 2, 3
+constexpr std::int16_t UltimaPersonal = 7;
+
+/// A distribution: the share of P in each block [%] and, where it isn't their running sum, the cumulative
+/// share.
+struct Distribucion {
+    std::span<const float> porcentajes;
+    std::span<const float> acumulados;  ///< empty: the running sum of the shares, in 32 bits
+};
+
+constexpr float UnBloque[] = {100};
+constexpr float Lopez3[] = {20, 60, 20};
+constexpr float Lopez3Acum[] = {20, 80, 100};
+constexpr float Lopez4[] = {12, 20, 55, 13};
+constexpr float Lopez4Acum[] = {12, 32, 87, 100};
+constexpr float Lopez5[] = {9, 10, 53, 18, 10};
+constexpr float Lopez6[] = {8, 9, 11, 49, 15, 8};
+// Adds up to 100.0002: the last cumulative share stays above 100.
+constexpr float Lopez24[] = {2.5F, 2.5F, 2.5F,    2.5F,    2.5F,    2.5F,    6,       7,
+                             8,    37,   11,      6,       1,       1,       1,       1,
+                             1,    1,    0.6667F, 0.6667F, 0.6667F, 0.6667F, 0.6667F, 0.6667F};
+constexpr float Ruvera1[] = {34, 31, 18, 9, 8};
+constexpr float Ruvera1Acum[] = {34, 65, 83, 92, 100};
+constexpr float Ruvera2[] = {42, 26, 23, 7, 2};
+constexpr float Ruvera2Acum[] = {42, 68, 91, 98, 100};
+constexpr float Ruvera3[] = {6, 20, 18, 34, 22};
+constexpr float Ruvera3Acum[] = {6, 26, 44, 78, 100};
+
+/// López Cadenas' distribution by the storm's hours; none above 48.
+Distribucion LopezCadenas(double horas)
+{
+    if (horas <= 2.5) return {UnBloque, UnBloque};
+    if (horas >= 2.501 && horas <= 3.5) return {Lopez3, Lopez3Acum};
+    if (horas >= 3.501 && horas <= 4.5) return {Lopez4, Lopez4Acum};
+    if (horas >= 4.501 && horas <= 5.5) return {Lopez5, {}};
+    if (horas >= 5.501 && horas <= 11.999) return {Lopez6, {}};
+    if (horas >= 12 && horas <= 48) return {Lopez24, {}};
+    return {};
+}
+
+/// The fixed distribution of the storm in hand; empty where there is no table for it.
+Distribucion DistribucionFija(const Siro& s)
+{
+    switch (s.DistriPp) {
+    case 0:
+        return {UnBloque, UnBloque};
+    case 1:
+        return LopezCadenas(s.DurTormenta / 60.0);
+    case 2:
+        return {Ruvera1, Ruvera1Acum};
+    case 3:
+        return {Ruvera2, Ruvera2Acum};
+    case 4:
+        return {Ruvera3, Ruvera3Acum};
+    default:
+        return {};
+    }
+}
+
+void RedimensionaBloques(Siro& s, int tope)
+{
+    s.PpAcum.Redimensiona(tope);
+    s.IntensidadPp.Redimensiona(tope);
+    s.PpReal.Redimensiona(tope);
+}
+
+/// Makes room for a table of n blocks; arrays that are longer keep their length and what stands there.
+void LugarParaTabla(Siro& s, std::int16_t bloques)
+{
+    if (s.NroBloquesPp < bloques) RedimensionaBloques(s, bloques);
+}
+
+void AcumulaPorcentajes(Siro& s)
+{
+    s.PpAcum(1) = s.IntensidadPp(1);
+    for (int j = 2; j <= s.NroBloquesPp; ++j)
+        s.PpAcum(j) = Simple(double{s.IntensidadPp(j)} + s.PpAcum(j - 1));
+}
+
+void LlenaReal(Siro& s)
+{
+    s.NroBloquesPp = model::Piso16(Cociente(s.DurTormenta, s.PasoPp));
+    for (int j = 1; j <= s.NroBloquesPp; ++j)
+        s.IntensidadPp(j) = Simple(Cociente(s.PpReal(j), s.PpTormenta) * 100);
+    AcumulaPorcentajes(s);
+}
+
+void LlenaFija(Siro& s, const Distribucion& tabla)
+{
+    if (tabla.porcentajes.empty()) return;
+    const auto bloques = static_cast<std::int16_t>(tabla.porcentajes.size());
+    LugarParaTabla(s, bloques);
+    s.NroBloquesPp = bloques;
+    for (int j = 1; j <= bloques; ++j)
+        s.IntensidadPp(j) = tabla.porcentajes[static_cast<std::size_t>(j) - 1];
+    if (tabla.acumulados.empty()) return AcumulaPorcentajes(s);
+    for (int j = 1; j <= bloques; ++j)
+        s.PpAcum(j) = tabla.acumulados[static_cast<std::size_t>(j) - 1];
+}
+
+/// Personal table: its counts are read just before use, since another reader may have replaced them.
+void LlenaPersonal(Siro& s)
+{
+    const int tabla = s.DistriPp - (PrimeraPersonal - 1);
+    model::LeeTablaDisTemPer(s);
+    const std::int16_t periodos = s.NroFilasTabla[static_cast<std::size_t>(tabla)];
+    LugarParaTabla(s, periodos);
+    s.NroBloquesPp = periodos;
+    const int tope = model::Suma16(periodos, 1);
+    if (s.DisPerso.UltimaFila() < 0) s.DisPerso.Dimensiona(3, tope);
+    s.DisPerso.Redimensiona(tope);
+    for (int j = 1; j <= periodos; ++j)
+        s.IntensidadPp(j) = s.DisPerso(tabla, j);
+    s.PpAcum(1) = s.IntensidadPp(1);
+    for (int j = 1; j <= periodos; ++j)
+        s.PpAcum(j) = Simple(double{s.IntensidadPp(j)} + s.PpAcum(j - 1));
+}
+
+void LlenaPorcentajes(Siro& s)
+{
+    if (s.FormaPp >= FormaReal) return LlenaReal(s);
+    if (s.DistriPp >= PrimeraPersonal && s.DistriPp <= UltimaPersonal) return LlenaPersonal(s);
+    LlenaFija(s, DistribucionFija(s));
+}
+
+/// Turns block j from percentages into depth and intensity and writes its line. The line is built in any
+/// case: its minutes can be at fault.
+void TerminaBloque(Siro& s, std::int16_t j, Renglon& linea)
+{
+    const double P = s.PpTormenta;
+    s.PpAcum(j) = Simple(P * s.PpAcum(j) / 100);
+    s.IntensidadPp(j) = Simple(Cociente(P * s.IntensidadPp(j) / (1.0 / s.NroBloquesPp), s.DurTormenta) / 100);
+    if (s.FormaPp != FormaReal) s.PpReal(j) = Simple(double{s.PpAcum(j)} - s.PpAcum(j - 1));
+
+    const std::int16_t minutos = model::Producto16(s.PasoPp, j);
+    linea.Vacia();
+    linea.Pone("\r\n ").Izquierda(std::int32_t{j}, 5).Izquierda(std::int32_t{minutos}, 6);
+    linea.Izquierda(model::Trunca2(s.PpReal(j)), 11).Izquierda(model::Trunca2(s.PpAcum(j)), 25);
+    linea.Izquierda(model::Trunca2(s.IntensidadPp(j)), 0);
+    if (s.SalidaPizarra) s.Anfitrion.AgregaPizarra(linea.Texto());
+}
+
+void Construye(Siro& s)
+{
+    s.NroBloquesPp = model::Piso16(Cociente(s.DurTormenta, s.PasoPp));
+    RedimensionaBloques(s, s.NroBloquesPp);
+    if (s.PpTormenta == 0 || s.DurTormenta == 0) return;
+    if (s.SalidaPizarra) s.Anfitrion.AgregaPizarra("\r\nEntrada: PRECIPITACION");
+    LlenaPorcentajes(s);
+    if (s.SalidaPizarra)
+        s.Anfitrion.AgregaPizarra("\r\nPp= " + model::NumeroATexto(s.PpTormenta) + " [mm]  " +
+                                  model::NumeroATexto(std::int32_t{s.DurTormenta}) + " [min]");
+    if (s.FormaPp != FormaReal) s.PpReal(0) = 0;
+    if (s.SalidaPizarra) {
+        s.Anfitrion.AgregaPizarra("\r\nDistribución temporal de la Pp:");
+        s.Anfitrion.AgregaPizarra("\r\nPer.k t[min] Pp[mm]  Pp Acumulada[mm]  Intensidad de Pp[mm/min]");
+    }
+    Renglon linea;
+    for (std::int16_t j = 1; j <= s.NroBloquesPp; ++j)
+        TerminaBloque(s, j, linea);
+    s.NroPpReal = s.NroBloquesPp;
+    s.PpAcumPrevia = 0;
+}
+
+/// Block in which the minute PasoPp·k falls, one above the whole blocks gone by. Every operation is rounded
+/// to 32 bits: the width decides at the boundaries of the blocks.
+int BloqueDelPaso(const Siro& s, std::int16_t k)
+{
+    const float producto = static_cast<float>(s.PasoPp) * static_cast<float>(s.NroBloquesPp);
+    const float bloques = producto * static_cast<float>(k) / static_cast<float>(s.DurTormenta);
+    return static_cast<int>(std::floor(bloques)) + 1;
+}
+
+double PpInterpolada(Siro& s, std::int16_t k, std::int16_t t)
+{
+    const bool ultimoPaso = k == std::floor(double{1} * s.DurTormenta / s.PasoPp) + 1;
+    const int b = BloqueDelPaso(s, k);
+    if (b + 1 > s.NroBloquesPp) {
+        s.PpAcum.Redimensiona(b + 2);
+        s.IntensidadPp.Redimensiona(b + 2);
+    }
+    if (b > s.NroBloquesPp + 1) return 0;
+    const float u = Simple(t - (b - 1) * Cociente(1, s.NroBloquesPp) * s.DurTormenta);
+    const float c = Simple(double{u} * s.IntensidadPp(b) + s.PpAcum(b - 1));
+    double pp = double{c} - s.PpAcumPrevia;
+    if (ultimoPaso && pp + s.PpAcumPrevia > s.PpTormenta) pp = double{s.PpTormenta} - s.PpAcumPrevia;
+    if (b <= s.NroBloquesPp) s.PpAcumPrevia = c;
+    return pp;
+}
+
+}  // namespace
+
+void ConstruyeHietograma(Siro& s)
+{
+    model::Sentencia([&] { Construye(s); },
+                     [&](const Falla& falla) { model::Informa(s, model::TextoFallaMotor(falla)); });
+}
+
+double PpDelPaso(Siro& s, std::int16_t k)
+{
+    const std::int16_t t = model::Producto16(s.PasoPp, k);
+    s.PpAcum(0) = 0;
+    s.IntensidadPp(0) = 0;
+    const int D = s.DurTormenta;
+    if (t - D >= s.PasoPp) return 0;
+    if (s.DistriPp == 0) {
+        const double intensidad = Cociente(1, D) * s.PpTormenta;
+        if (k == std::floor(Cociente(D, s.PasoPp)) + 1) return intensidad * (D - (k - 1) * s.PasoPp);
+        return intensidad * s.PasoPp;
+    }
+    if (s.DistriPp < 1 || s.DistriPp > UltimaPersonal) return 0;
+    return PpInterpolada(s, k, t);
+}
+
+}  // namespace engine
