@@ -5,8 +5,10 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "model/Disco.h"
+#include "model/Falla.h"
 
 // Delimited text records, the form of every project and table file: fields end at a comma or a line end,
 // texts stand in double quotes, numbers are bare with a point, booleans are #TRUE# and #FALSE#.
@@ -64,7 +66,7 @@ void LectorRegistros::Registro(int campos, F lee)
     } catch (const Falla& falla) {
         if (falla.numero == NumeroFalla::FinDeArchivo) throw;
         lugar = inicio;
-        for (int i = 0; i < campos; ++i) Siguiente();
+        for (int i = 0; i < campos && !Fin(); ++i) Siguiente();
         throw;
     }
 }
@@ -82,6 +84,7 @@ class EscritorRegistros {
     EscritorRegistros& Numero(std::int32_t n);
     EscritorRegistros& Numero(float x);
     EscritorRegistros& Logico(bool b);
+    EscritorRegistros& Vacio();  ///< a value never set: nothing, which reads back as "" or 0
     /// Ends the record in hand with CR LF. Throws the fault of a failed `Abre`.
     void FinRegistro();
     /// Sends what is pending to the disk. Throws Falla 76, 75.
