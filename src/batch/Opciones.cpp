@@ -166,10 +166,8 @@ std::string OpcionNombrada(const std::string& mensaje)
 
 std::string MotivoDe(const CLI::ParseError& error, const CLI::App& programa)
 {
-    if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr) {
-        const auto sobran = programa.remaining(true);
-        return "No se esperaba " + (sobran.empty() ? std::string{"otro argumento"} : sobran.front());
-    }
+    const auto sobran = programa.remaining(true);
+    if (!sobran.empty()) return "No se esperaba " + sobran.front();
     if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr) return "Falta la orden: una o serie";
     const std::string opcion = OpcionNombrada(error.what());
     if (opcion == "--pizarra" || opcion == "--help") return "La opción " + opcion + " no lleva valor";
