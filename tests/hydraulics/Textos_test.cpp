@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "hydraulics/Textos.h"
+
+#include <gtest/gtest.h>
+
+#include "hydraulics/TablasDePrueba.h"
+
+namespace hydraulics {
+namespace {
+
+TEST(Textos, UnCasoQueLaFuncionNoTieneEsUnaFalla)
+{
+    EXPECT_EQ(pruebas::FallaDe([] { TextoDe(Funcion::SdeHLago, Caso::SinFin); }), 5);
+    EXPECT_EQ(pruebas::FallaDe([] { TextoDe(Funcion::HdeQalmaLago, Caso::Encima); }), 5);
+    EXPECT_EQ(TextoDe(Funcion::HdeQalmaLago, Caso::SinFin).titulo, "Error,...");
+}
+
+TEST(Textos, UnAnfitrionQueNoTerminaRecibeCero)
+{
+    pruebas::EstadoConEmbalses e;
+    int terminaciones = 0;
+    e.s.Anfitrion.Termina = [&] { ++terminaciones; };
+    e.oido->respuestas = {false};
+    EXPECT_EQ(ValorOConsulta(e.s, Funcion::AdeHLago, "l-uno", {Lectura::Lugar::Encima, 0}), 0);
+    EXPECT_EQ(terminaciones, 1);
+    EXPECT_EQ(ValorOConsulta(e.s, Funcion::AdeHLago, "l-uno", {Lectura::Lugar::Dentro, 8.5}), 8.5);
+    EXPECT_EQ(terminaciones, 1);
+    EXPECT_EQ(e.oido->preguntas.size(), 1U);
+}
+
+}  // namespace
+}  // namespace hydraulics
