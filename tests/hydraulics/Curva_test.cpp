@@ -9,6 +9,7 @@
 #include <limits>
 #include <random>
 
+#include "apoyo/Compara.h"
 #include "hydraulics/TablasDePrueba.h"
 #include "hydraulics/mdlFQs.h"
 #include "hydraulics/mdlHAS.h"
@@ -192,7 +193,7 @@ RC_GTEST_PROP(Curva, DentroDelIntervaloDeAlmacenamientosNadaSePregunta, (std::ui
     for (int vez = 0; vez < 30; ++vez) {
         const auto x = static_cast<float>(azar.Entero(-1000000000, 1000000000));
         if (!sin.Abarca(x, x)) continue;
-        RC_ASSERT(pruebas::FallaDe([&] { (void)(lago ? HdeSLago(e.s, x) : HdeSRepresa(e.s, x)); }) == 0);
+        RC_ASSERT(apoyo::NumeroDeFalla([&] { (void)(lago ? HdeSLago(e.s, x) : HdeSRepresa(e.s, x)); }) == 0);
     }
     RC_ASSERT(e.Callado());
 }

@@ -3,14 +3,14 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <deque>
-#include <memory>
 #include <string>
 #include <vector>
 
+#include "apoyo/AnfitrionPrueba.h"
+#include "apoyo/DiscoPrueba.h"
 #include "model/Siro.h"
 
-// A Represa and a Lago with tables of a few rows, and a host that remembers what it was told.
+// A Represa and a Lago with tables of a few rows, for the tests of the lookups.
 namespace pruebas {
 
 struct RenglonHAS {
@@ -24,31 +24,14 @@ struct RenglonHQ {
     float Q = 0;  ///< [m3/s]
 };
 
-/// What the program said, and what it is answered: Yes once the prepared answers are used up.
-struct Oido {
-    std::vector<model::Mensaje> avisos{};
-    std::vector<model::Mensaje> preguntas{};
-    std::deque<bool> respuestas{};
-    int escrituras = 0;  ///< attempts to write to the disk
-};
-
 /// State with the Represas "r-uno", "r-dos" and the Lagos "l-uno", "l-dos", numbered 1 and 2, all tables
 /// without rows but with room for ten, as a load leaves them.
 class EstadoConEmbalses {
   public:
     EstadoConEmbalses()
     {
-        s.Anfitrion.Avisa = [o = oido](const model::Mensaje& m) { o->avisos.push_back(m); };
-        s.Anfitrion.Pregunta = [o = oido](const model::Mensaje& m) {
-            o->preguntas.push_back(m);
-            if (o->respuestas.empty()) return true;
-            const bool si = o->respuestas.front();
-            o->respuestas.pop_front();
-            return si;
-        };
-        s.Anfitrion.Termina = [] { throw model::FinDelPrograma{}; };
-        s.Disco.Escribe = [o = oido](const std::string&, std::string_view) { ++o->escrituras; };
-        s.Disco.Agrega = s.Disco.Escribe;
+        s.Anfitrion = anfitrion.Puerta();
+        s.Disco = disco.Puerta();
         for (std::int16_t n = 1; n <= 2; ++n) {
             const std::string nombre = n == 1 ? "uno" : "dos";
             s.ColRepresas.Agrega({.NombreRepresa = "r-" + nombre, .numRepresa = n});
@@ -115,22 +98,11 @@ class EstadoConEmbalses {
     }
 
     /// Nothing has been said nor asked.
-    [[nodiscard]] bool Callado() const { return oido->avisos.empty() && oido->preguntas.empty(); }
+    [[nodiscard]] bool Callado() const { return anfitrion->sucesos.empty(); }
 
-    std::shared_ptr<Oido> oido = std::make_shared<Oido>();
+    apoyo::AnfitrionPrueba anfitrion{};
+    apoyo::DiscoPrueba disco{};
     model::Siro s{};
 };
-
-/// Number of the fault that a call throws, 0 where it throws none.
-template <typename Cuerpo>
-int FallaDe(Cuerpo&& cuerpo)
-{
-    try {
-        cuerpo();
-    } catch (const model::Falla& falla) {
-        return static_cast<int>(falla.numero);
-    }
-    return 0;
-}
 
 }  // namespace pruebas

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "apoyo/Compara.h"
 #include "hydraulics/TablasDePrueba.h"
 
 namespace hydraulics {
@@ -10,8 +11,8 @@ namespace {
 
 TEST(Textos, UnCasoQueLaFuncionNoTieneEsUnaFalla)
 {
-    EXPECT_EQ(pruebas::FallaDe([] { TextoDe(Funcion::SdeHLago, Caso::SinFin); }), 5);
-    EXPECT_EQ(pruebas::FallaDe([] { TextoDe(Funcion::HdeQalmaLago, Caso::Encima); }), 5);
+    EXPECT_EQ(apoyo::NumeroDeFalla([] { TextoDe(Funcion::SdeHLago, Caso::SinFin); }), 5);
+    EXPECT_EQ(apoyo::NumeroDeFalla([] { TextoDe(Funcion::HdeQalmaLago, Caso::Encima); }), 5);
     EXPECT_EQ(TextoDe(Funcion::HdeQalmaLago, Caso::SinFin).titulo, "Error,...");
 }
 
@@ -20,12 +21,12 @@ TEST(Textos, UnAnfitrionQueNoTerminaRecibeCero)
     pruebas::EstadoConEmbalses e;
     int terminaciones = 0;
     e.s.Anfitrion.Termina = [&] { ++terminaciones; };
-    e.oido->respuestas = {false};
+    e.anfitrion->respuestas = {false};
     EXPECT_EQ(ValorOConsulta(e.s, Funcion::AdeHLago, "l-uno", {Lectura::Lugar::Encima, 0}), 0);
     EXPECT_EQ(terminaciones, 1);
     EXPECT_EQ(ValorOConsulta(e.s, Funcion::AdeHLago, "l-uno", {Lectura::Lugar::Dentro, 8.5}), 8.5);
     EXPECT_EQ(terminaciones, 1);
-    EXPECT_EQ(e.oido->preguntas.size(), 1U);
+    EXPECT_EQ(e.anfitrion->Preguntas().size(), 1U);
 }
 
 }  // namespace

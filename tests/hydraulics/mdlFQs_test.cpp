@@ -7,15 +7,16 @@
 #include <initializer_list>
 #include <limits>
 
+#include "apoyo/Compara.h"
 #include "hydraulics/TablasDePrueba.h"
 
 namespace hydraulics {
 namespace {
 
+using apoyo::NumeroDeFalla;
 using model::Icono;
 using model::Mensaje;
 using pruebas::EstadoConEmbalses;
-using pruebas::FallaDe;
 
 constexpr float MaximoSimple = std::numeric_limits<float>::max();
 
@@ -161,11 +162,12 @@ TEST_F(mdlFQs, CeroAUnaPotenciaNegativaSeInformaYDaCero)
     PonFuncion(1, 5, 0, 0, 0, 10);
     PonFuncion(2, 1, -0.5F, 0, 0, 10);
     EXPECT_EQ(Q(0), 0);  // what function 1 had given is lost too
-    EXPECT_EQ(oido->avisos, std::vector<Mensaje>{Informe(
-                                "Error Nro. 5Argumento o llamada a procedimiento no válidos ,Verifique")});
+    EXPECT_EQ(anfitrion->Avisos(),
+              std::vector<Mensaje>{
+                  Informe("Error Nro. 5Argumento o llamada a procedimiento no válidos ,Verifique")});
     EXPECT_EQ(Q(4), 5.5F);
-    EXPECT_EQ(oido->avisos.size(), 1U);
-    EXPECT_TRUE(oido->preguntas.empty());
+    EXPECT_EQ(anfitrion->Avisos().size(), 1U);
+    EXPECT_TRUE(anfitrion->Preguntas().empty());
 }
 
 TEST_F(mdlFQs, DesbordamientoSeInformaYDaCero)
@@ -173,12 +175,12 @@ TEST_F(mdlFQs, DesbordamientoSeInformaYDaCero)
     const auto desbordamiento = Informe("Error Nro. 6Desbordamiento ,Verifique");
     PonFuncion(1, 1, 30000, 0, 0, 10);  // 2^30000, outside 64 bits
     EXPECT_EQ(Q(2), 0);
-    EXPECT_EQ(oido->avisos, std::vector<Mensaje>{desbordamiento});
+    EXPECT_EQ(anfitrion->Avisos(), std::vector<Mensaje>{desbordamiento});
     PonFuncion(1, 1, 200, 0, 0, 10);  // 2^200, outside 32
     EXPECT_EQ(Q(2), 0);
-    EXPECT_EQ(oido->avisos, (std::vector<Mensaje>{desbordamiento, desbordamiento}));
+    EXPECT_EQ(anfitrion->Avisos(), (std::vector<Mensaje>{desbordamiento, desbordamiento}));
     EXPECT_EQ(Q(1), 1);
-    EXPECT_EQ(oido->avisos.size(), 2U);
+    EXPECT_EQ(anfitrion->Avisos().size(), 2U);
 }
 
 TEST_F(mdlFQs, ConFuncionesLaTablaNoSeMira)
@@ -241,8 +243,8 @@ TEST_F(mdlFQs, TablaDeUnRenglon)
         EXPECT_TRUE(Callado());
         EXPECT_EQ(Q(101), 0);
         EXPECT_EQ(Q(99), 0);
-        EXPECT_EQ(oido->preguntas.size(), 2U);
-        oido->preguntas.clear();
+        EXPECT_EQ(anfitrion->Preguntas().size(), 2U);
+        anfitrion->sucesos.clear();
         EXPECT_EQ(H(7), 0);  // no bracket to halve
     }
 }
@@ -278,13 +280,13 @@ TEST_F(mdlFQs, FueraDeLaTablaPreguntaYSiDaCero)
     PonHQ({{100, 3}, {110, 12}});
     for (const CasoFuera& caso : CasosFuera) {
         Elige(caso.lago);
-        oido->preguntas.clear();
+        anfitrion->sucesos.clear();
         EXPECT_EQ(Q(caso.h), 0);
-        EXPECT_EQ(oido->preguntas,
+        EXPECT_EQ(anfitrion->Preguntas(),
                   (std::vector<Mensaje>{
                       {caso.texto, "Error, la tabla HQ es inconsistente...", Icono::Exclamacion}}));
     }
-    EXPECT_TRUE(oido->avisos.empty());
+    EXPECT_TRUE(anfitrion->Avisos().empty());
 }
 
 TEST_F(mdlFQs, FueraDeLaTablaNoTerminaElPrograma)
@@ -292,20 +294,20 @@ TEST_F(mdlFQs, FueraDeLaTablaNoTerminaElPrograma)
     PonHQ({{100, 3}, {110, 12}});
     for (const CasoFuera& caso : CasosFuera) {
         Elige(caso.lago);
-        oido->respuestas = {false};
+        anfitrion->respuestas = {false};
         EXPECT_THROW(Q(caso.h), model::FinDelPrograma);
     }
-    EXPECT_EQ(oido->preguntas.size(), std::size(CasosFuera));
-    EXPECT_EQ(oido->escrituras, 0);
-    EXPECT_TRUE(oido->avisos.empty());
+    EXPECT_EQ(anfitrion->Preguntas().size(), std::size(CasosFuera));
+    EXPECT_TRUE(disco.Llamadas().empty());
+    EXPECT_TRUE(anfitrion->Avisos().empty());
 }
 
 TEST_F(mdlFQs, TablaAlRevesPreguntaPrimeroPorEncima)
 {
     PonHQ({{110, 3}, {100, 12}});
     EXPECT_EQ(Q(105), 0);
-    ASSERT_EQ(oido->preguntas.size(), 1U);
-    EXPECT_EQ(oido->preguntas[0].texto, CasosFuera[0].texto);
+    ASSERT_EQ(anfitrion->Preguntas().size(), 1U);
+    EXPECT_EQ(anfitrion->Preguntas()[0].texto, CasosFuera[0].texto);
 }
 
 TEST_F(mdlFQs, LasFallasDeLaTablaSeInformanYDanCero)
@@ -316,20 +318,20 @@ TEST_F(mdlFQs, LasFallasDeLaTablaSeInformanYDanCero)
     s.RepresaFilasHQ(1) = s.LagoFilas(1) = 200;
     for (const bool lago : {false, true}) {
         Elige(lago);
-        oido->avisos.clear();
+        anfitrion->sucesos.clear();
         EXPECT_EQ(Q(105), 0);
         EXPECT_EQ(H(5), 0);
-        EXPECT_EQ(oido->avisos, (std::vector<Mensaje>{subindice, subindice}));
+        EXPECT_EQ(anfitrion->Avisos(), (std::vector<Mensaje>{subindice, subindice}));
     }
     EligeLago(1);
-    oido->avisos.clear();
+    anfitrion->sucesos.clear();
     EXPECT_EQ(QdeHRepresa(s, 105), 0);
     EXPECT_EQ(HdeQalmaRepresa(s, 5), 0);
     EligeRepresa(1);
     EXPECT_EQ(QdeHLago(s, 105), 0);
     EXPECT_EQ(HdeQalmaLago(s, 5), 0);
-    EXPECT_EQ(oido->avisos, (std::vector<Mensaje>{sinObjeto, sinObjeto, sinObjeto, sinObjeto}));
-    EXPECT_TRUE(oido->preguntas.empty());
+    EXPECT_EQ(anfitrion->Avisos(), (std::vector<Mensaje>{sinObjeto, sinObjeto, sinObjeto, sinObjeto}));
+    EXPECT_TRUE(anfitrion->Preguntas().empty());
 }
 
 // --- height from outflow ----------------------------------------------------------------------------------
@@ -451,16 +453,16 @@ TEST_F(mdlFQs, MasDeMilVueltasTerminaElPrograma)
         "posible que "
         "deba ampliar el rango de altura-caudal o altura-superficie -volumen de embalse",
         "Error,...", Icono::Exclamacion};
-    EXPECT_EQ(oido->avisos, (std::vector<Mensaje>{represa, lago, represa}));
-    EXPECT_TRUE(oido->preguntas.empty());
-    EXPECT_EQ(oido->escrituras, 0);
+    EXPECT_EQ(anfitrion->Avisos(), (std::vector<Mensaje>{represa, lago, represa}));
+    EXPECT_TRUE(anfitrion->Preguntas().empty());
+    EXPECT_TRUE(disco.Llamadas().empty());
 }
 
 TEST_F(mdlFQs, RangoFueraDe32BitsSeInformaYDaCero)
 {
     PonFuncion(1, 1, 1, 0, -3e38F, 3e38F);
     EXPECT_EQ(H(1), 0);
-    EXPECT_EQ(oido->avisos, std::vector<Mensaje>{Informe("Error Nro. 6Desbordamiento ,Verifique")});
+    EXPECT_EQ(anfitrion->Avisos(), std::vector<Mensaje>{Informe("Error Nro. 6Desbordamiento ,Verifique")});
 }
 
 TEST_F(mdlFQs, LimitesAlRevesTambienSeBisecan)
@@ -483,7 +485,8 @@ TEST_F(mdlFQs, UnaFallaDelCaudalSeInformaEnCadaVuelta)
     PonFuncion(2, 1e30F, 300, 0, 0, 4);
     // 2 m: 2^300 is outside 32 bits, reported, 0: up. 3 m, 3.5 m, ... 4 m - 4/4096: twelve reports.
     EXPECT_EQ(H(1), 4 - 0.0009765625F);
-    EXPECT_EQ(oido->avisos, std::vector<Mensaje>(12, Informe("Error Nro. 6Desbordamiento ,Verifique")));
+    EXPECT_EQ(anfitrion->Avisos(),
+              std::vector<Mensaje>(12, Informe("Error Nro. 6Desbordamiento ,Verifique")));
 }
 
 // --- copy of the coefficients -----------------------------------------------------------------------------
@@ -541,7 +544,7 @@ TEST_F(mdlFQs, CargaFQsConUnNumeroFueraDeLosArreglos)
     PonFuncion(1, 1, 2, 3, 4, 5);
     for (const std::int16_t numero : {std::int16_t{3}, std::int16_t{-1}}) {
         s.Represas(2).numRepresa = numero;
-        EXPECT_EQ(FallaDe([&] { CargaFQs(s); }), 9) << numero;
+        EXPECT_EQ(NumeroDeFalla([&] { CargaFQs(s); }), 9) << numero;
         EXPECT_EQ(s.FQActiva(1, 1), 1) << "what came before stays";
         EXPECT_EQ(s.FQCoef[1][1][5], 5);
     }

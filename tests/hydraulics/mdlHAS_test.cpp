@@ -6,15 +6,16 @@
 #include <cmath>
 #include <string_view>
 
+#include "apoyo/Compara.h"
 #include "hydraulics/TablasDePrueba.h"
 
 namespace hydraulics {
 namespace {
 
+using apoyo::NumeroDeFalla;
 using model::Icono;
 using model::Mensaje;
 using pruebas::EstadoConEmbalses;
-using pruebas::FallaDe;
 
 /// One of the seven lookups, with all that it may say, whole.
 struct Busqueda {
@@ -121,15 +122,15 @@ TEST_P(LasSiete, EntreDosRenglonesInterpola)
 TEST_P(LasSiete, ApenasEncimaPregunta)
 {
     EXPECT_EQ(Busca(std::nextafter(40.0F, 41.0F)), 0);
-    EXPECT_EQ(oido->preguntas, std::vector<Mensaje>{Encima()});
-    EXPECT_TRUE(oido->avisos.empty());
+    EXPECT_EQ(anfitrion->Preguntas(), std::vector<Mensaje>{Encima()});
+    EXPECT_TRUE(anfitrion->Avisos().empty());
 }
 
 TEST_P(LasSiete, ApenasDebajoPregunta)
 {
     EXPECT_EQ(Busca(std::nextafter(10.0F, 9.0F)), 0);
-    EXPECT_EQ(oido->preguntas, std::vector<Mensaje>{Debajo()});
-    EXPECT_TRUE(oido->avisos.empty());
+    EXPECT_EQ(anfitrion->Preguntas(), std::vector<Mensaje>{Debajo()});
+    EXPECT_TRUE(anfitrion->Avisos().empty());
 }
 
 TEST_P(LasSiete, RespondidoSiDaCeroTengaLoQueTengaLaTabla)
@@ -138,23 +139,23 @@ TEST_P(LasSiete, RespondidoSiDaCeroTengaLoQueTengaLaTabla)
     EXPECT_EQ(Busca(-19), 0);
     PonHAS({{10, 10, 10}, {20, 20, 20}});
     EXPECT_EQ(Busca(-19), 0);
-    EXPECT_EQ(oido->preguntas, (std::vector<Mensaje>{Encima(), Debajo()}));
+    EXPECT_EQ(anfitrion->Preguntas(), (std::vector<Mensaje>{Encima(), Debajo()}));
 }
 
 TEST_P(LasSiete, RespondidoNoTerminaElProgramaSinGuardar)
 {
-    oido->respuestas = {false, false};
+    anfitrion->respuestas = {false, false};
     EXPECT_THROW(Busca(41), model::FinDelPrograma);
     EXPECT_THROW(Busca(9), model::FinDelPrograma);
-    EXPECT_EQ(oido->preguntas.size(), 2U);
-    EXPECT_EQ(oido->escrituras, 0);
+    EXPECT_EQ(anfitrion->Preguntas().size(), 2U);
+    EXPECT_TRUE(disco.Llamadas().empty());
 }
 
 TEST_P(LasSiete, PreguntaEnCadaLlamada)
 {
     for (int vez = 1; vez <= 3; ++vez)
         Busca(50);
-    EXPECT_EQ(oido->preguntas, (std::vector<Mensaje>{Encima(), Encima(), Encima()}));
+    EXPECT_EQ(anfitrion->Preguntas(), (std::vector<Mensaje>{Encima(), Encima(), Encima()}));
 }
 
 TEST_P(LasSiete, ConUnSoloRenglonSoloElSeDa)
@@ -164,7 +165,7 @@ TEST_P(LasSiete, ConUnSoloRenglonSoloElSeDa)
     EXPECT_TRUE(Callado());
     EXPECT_EQ(Busca(10.5F), 0);
     EXPECT_EQ(Busca(9.5F), 0);
-    EXPECT_EQ(oido->preguntas, (std::vector<Mensaje>{Encima(), Debajo()}));
+    EXPECT_EQ(anfitrion->Preguntas(), (std::vector<Mensaje>{Encima(), Debajo()}));
 }
 
 TEST_P(LasSiete, SinRenglonesElCeroCallaYElRestoPregunta)
@@ -175,10 +176,10 @@ TEST_P(LasSiete, SinRenglonesElCeroCallaYElRestoPregunta)
     EXPECT_TRUE(Callado());
     EXPECT_EQ(Busca(0.001F), 0);
     EXPECT_EQ(Busca(-0.001F), 0);
-    ASSERT_EQ(oido->preguntas.size(), 2U);
-    EXPECT_EQ(oido->preguntas[0].titulo, GetParam().tituloEncima);
-    EXPECT_EQ(oido->preguntas[1].titulo, GetParam().tituloDebajo);
-    EXPECT_NE(oido->preguntas[0].texto.find("-dos. Corrija"), std::string::npos);
+    ASSERT_EQ(anfitrion->Preguntas().size(), 2U);
+    EXPECT_EQ(anfitrion->Preguntas()[0].titulo, GetParam().tituloEncima);
+    EXPECT_EQ(anfitrion->Preguntas()[1].titulo, GetParam().tituloDebajo);
+    EXPECT_NE(anfitrion->Preguntas()[0].texto.find("-dos. Corrija"), std::string::npos);
 }
 
 // A block cut off inside its rows leaves them in memory and counts none.
@@ -191,14 +192,14 @@ TEST_P(LasSiete, SinCuentaPeroConRestosEnElPrimerRenglon)
     EXPECT_EQ(Busca(-5), -5);
     EXPECT_EQ(Busca(1), 0);
     EXPECT_EQ(Busca(-6), 0);
-    EXPECT_EQ(oido->preguntas, (std::vector<Mensaje>{Encima(), Debajo()}));
+    EXPECT_EQ(anfitrion->Preguntas(), (std::vector<Mensaje>{Encima(), Debajo()}));
 }
 
 TEST_P(LasSiete, TablaAlRevesPreguntaPrimeroPorEncima)
 {
     PonHAS({{40, 40, 40}, {10, 10, 10}});
     EXPECT_EQ(Busca(20), 0);  // above the last and below the first
-    EXPECT_EQ(oido->preguntas, std::vector<Mensaje>{Encima()});
+    EXPECT_EQ(anfitrion->Preguntas(), std::vector<Mensaje>{Encima()});
 }
 
 TEST_P(LasSiete, RenglonesDesordenadosSeRecorrenComoEstan)
@@ -213,18 +214,18 @@ TEST_P(LasSiete, RenglonesDesordenadosSeRecorrenComoEstan)
 TEST_P(LasSiete, SinComponenteEnMano)
 {
     s.CompActual = {};
-    EXPECT_EQ(FallaDe([&] { Busca(20); }), 91);
+    EXPECT_EQ(NumeroDeFalla([&] { Busca(20); }), 91);
     if (GetParam().deLago)
         EligeRepresa(1);
     else
         EligeLago(1);
-    EXPECT_EQ(FallaDe([&] { Busca(20); }), 91);
+    EXPECT_EQ(NumeroDeFalla([&] { Busca(20); }), 91);
     for (const int item : {0, 3}) {
         if (GetParam().deLago)
             EligeLago(item);
         else
             EligeRepresa(item);
-        EXPECT_EQ(FallaDe([&] { Busca(20); }), 91) << item;
+        EXPECT_EQ(NumeroDeFalla([&] { Busca(20); }), 91) << item;
     }
     EXPECT_TRUE(Callado());
 }
@@ -232,12 +233,12 @@ TEST_P(LasSiete, SinComponenteEnMano)
 TEST_P(LasSiete, IndicesFueraDeLosArreglos)
 {
     s.RepresaFilasHAS(1) = s.LagoFilas(1) = -1;
-    EXPECT_EQ(FallaDe([&] { Busca(20); }), 9);
+    EXPECT_EQ(NumeroDeFalla([&] { Busca(20); }), 9);
     s.RepresaFilasHAS(1) = s.LagoFilas(1) = 200;
-    EXPECT_EQ(FallaDe([&] { Busca(20); }), 9);
+    EXPECT_EQ(NumeroDeFalla([&] { Busca(20); }), 9);
     s.Represas(1).numRepresa = 3;
     s.Lagos(1).numLAGO = 3;
-    EXPECT_EQ(FallaDe([&] { Busca(20); }), 9);
+    EXPECT_EQ(NumeroDeFalla([&] { Busca(20); }), 9);
     EXPECT_TRUE(Callado());
 }
 
@@ -345,9 +346,9 @@ TEST_F(mdlHAS, CompararEsExactoEnElTipoMasAncho)
     // 16777217 is no 32-bit float; in 32 bits it would equal 16777216.
     PonHAS({{1, 1, 16777217}, {2, 2, 16777220}});
     EXPECT_EQ(HdeSRepresa(s, 16777216.0F), 0);
-    EXPECT_EQ(oido->preguntas.size(), 1U);
+    EXPECT_EQ(anfitrion->Preguntas().size(), 1U);
     EXPECT_EQ(HdeSRepresa(s, 16777218.0F), 1.0 / 3.0 * 1 + 1);
-    EXPECT_EQ(oido->preguntas.size(), 1U);
+    EXPECT_EQ(anfitrion->Preguntas().size(), 1U);
 }
 
 TEST_F(mdlHAS, AlmacenamientosDemasiadoLejosUnoDeOtro)
@@ -355,8 +356,8 @@ TEST_F(mdlHAS, AlmacenamientosDemasiadoLejosUnoDeOtro)
     PonHAS({{0, 1, -2000000000}, {1, 2, 2000000000}});
     for (const bool lago : {false, true}) {
         Elige(lago);
-        EXPECT_EQ(FallaDe([&] { (lago ? SdeHLago : SdeHRepresa)(s, 0.5F); }), 6);
-        EXPECT_EQ(FallaDe([&] { (lago ? HdeSLago : HdeSRepresa)(s, 0); }), 6);
+        EXPECT_EQ(NumeroDeFalla([&] { (lago ? SdeHLago : SdeHRepresa)(s, 0.5F); }), 6);
+        EXPECT_EQ(NumeroDeFalla([&] { (lago ? HdeSLago : HdeSRepresa)(s, 0); }), 6);
         EXPECT_EQ((lago ? SdeHLago : SdeHRepresa)(s, 1), 2000000000);  // a row needs no difference
         EXPECT_EQ((lago ? AdeHLago : AdeHRepresa)(s, 0.5F), 1.5);
     }
@@ -366,7 +367,7 @@ TEST_F(mdlHAS, AlmacenamientosDemasiadoLejosUnoDeOtro)
 TEST_F(mdlHAS, AlturasDemasiadoLejosUnaDeOtra)
 {
     PonHAS({{-3e38F, 1, 0}, {3e38F, 2, 2}});
-    EXPECT_EQ(FallaDe([&] { HdeSRepresa(s, 1); }), 6);
+    EXPECT_EQ(NumeroDeFalla([&] { HdeSRepresa(s, 1); }), 6);
     EXPECT_EQ(SdeHRepresa(s, 0), 1);  // its heights are taken from one another in 64 bits
 }
 
