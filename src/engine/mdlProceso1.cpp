@@ -96,11 +96,11 @@ bool CompruebaUEHs(Corrida& c)
 void CuentaPasos(Corrida& c, std::int16_t paso, std::int16_t& pasos)
 {
     const Siro& s = c.s;
-    double x = 0;
-    c.Intenta([&] { x = Cociente(s.DurTormenta + double{s.N0Dur}, paso); });
-    c.Intenta([&] { pasos = Piso16(x); });
-    if (c.Vale([&] { return Simple(x) > static_cast<float>(pasos); }))
-        c.Intenta([&] { pasos = Suma16(pasos, 1); });
+    c.Intenta([&] {
+        const double x = Cociente(s.DurTormenta + double{s.N0Dur}, paso);
+        const std::int16_t enteros = Piso16(x);
+        pasos = Simple(x) > static_cast<float>(enteros) ? Suma16(enteros, 1) : enteros;
+    });
 }
 
 bool CompruebaPasos(Corrida& c)
