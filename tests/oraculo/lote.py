@@ -5,7 +5,7 @@ import re
 import sys
 
 from archivos import LeePpReal, LeeTablaPDRs, leoConf
-from modelo import Anfitrion, FinDelPrograma, Siro
+from modelo import MAXIMO_UEHS, Anfitrion, FinDelPrograma, Siro
 from numeros import Falla, corto32, f32, numero_entero
 from serie import CorreSeriePDR, CorreUnaTormenta, SaltaTormenta
 
@@ -49,6 +49,13 @@ def _responde(texto):
     return texto == "si"
 
 
+def _laminas(texto):
+    laminas = [_flotante(valor) for valor in texto.split(",")]
+    if len(laminas) > MAXIMO_UEHS:
+        raise MalLlamado("demasiadas láminas: %d" % len(laminas))
+    return laminas
+
+
 def _ruta(texto):
     return texto if os.path.isabs(texto) else os.getcwd() + os.sep + texto
 
@@ -63,7 +70,7 @@ _OPCIONES = {
     "--distribucion": (_entero(0, 7), 0),
     "--paso-pp": (_entero(1, 32767), 10),
     "--paso-q": (_entero(1, 32767), 10),
-    "--pp-ueh": (lambda texto: [_flotante(v) for v in texto.split(",")], []),
+    "--pp-ueh": (_laminas, []),
     "--tormenta": (str, ""),
     "--tabla": (_entero(0, 3), 0),
     "--pizarra": (None, False),

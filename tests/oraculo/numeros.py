@@ -175,9 +175,9 @@ def _cifras_cortas(x):
                 continue
             if _lee_f32(candidato * unidad) != x:
                 continue
-            distancia = abs(candidato * unidad - exacto)
-            if mejor is None or distancia < mejor[0]:
-                mejor = (distancia, candidato)
+            cercania = (abs(candidato * unidad - exacto), candidato % 2)  # of two as near, the even one
+            if mejor is None or cercania < mejor[0]:
+                mejor = (cercania, candidato)
         if mejor is not None:
             digitos = str(mejor[1])
             exponente10 = exponente - cifras + len(digitos)
