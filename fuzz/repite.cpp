@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// Stands in for libFuzzer where it isn't linked: hands every file of the folders named on the command line to the
-// fuzzer's one routine. A folder that is missing or empty is a failure, since then nothing would have been tried.
+// Stands in for libFuzzer where it isn't linked: hands every file of the folders named on the command line to
+// the fuzzer's one routine. A folder that is missing or empty is a failure, since then nothing would have
+// been tried.
 
 #include <cstddef>
 #include <cstdint>
