@@ -44,10 +44,10 @@ bool RutaDeRed(std::string_view ruta)
     return ruta.size() > 1 && ruta[0] == Separador && ruta[1] == Separador;
 }
 
-/// Stands for the change to a directory. Throws Falla 76 where it isn't there.
+/// Stands for the change to a directory. Throws Falla 76 where it isn't there; the empty path is none.
 void Entra(const Siro& s, const std::string& directorio)
 {
-    if (!s.Disco.HayDirectorio(directorio)) throw Falla{NumeroFalla::RutaNoEsta};
+    if (directorio.empty() || !s.Disco.HayDirectorio(directorio)) throw Falla{NumeroFalla::RutaNoEsta};
 }
 
 /// Creates a directory. Throws Falla 75 where it isn't there afterwards.
@@ -129,7 +129,6 @@ void CopiaProyecto(Siro& s, const std::string& viejo, const std::string& nuevo)
     copia(TerminacionConf);
     s.frmConfigura.lblMiArchivoConf = ArchivoConf(nuevo);
     cmdAplicar(s);
-    s.ProyectoNuevo = false;
     copia("_VerCau.vlm");
     copia("_UEHs.vlm");
     mnu_btn_toolbarGuardaUEHs(s);
