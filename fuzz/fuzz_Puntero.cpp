@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <cstddef>
+#include <cstdint>
+#include <string>
+
+#include "DiscoDeUnArchivo.h"
+#include "model/Siro.h"
+#include "model/VidaProyecto.h"
+
+// Whatever the pointer holds, there is a project directory afterwards, and the pointer that was written in
+// its place is read as the same. The bytes are tried as a path to be opened and as a name too.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t largo)
+{
+    const DiscoDeUnArchivo archivo;
+    archivo.bytes->assign(datos, datos + largo);
+    const std::string texto = *archivo.bytes;
+    model::Siro s;
+    s.Disco = archivo.Disco();
+    s.DirEjecutable = "siro";
+    model::LimpiaProyecto(s);
+    Exige(!s.DirProyecto.empty() && s.DirTrabajo == "siro");
+    if ((s.DirProyecto + s.NombreProyecto).find('"') == std::string::npos) {
+        model::Siro otro = s;
+        model::LeePuntero(otro);
+        Exige(otro.DirProyecto == s.DirProyecto && otro.NombreProyecto == s.NombreProyecto);
+    }
+
+    if (model::NombreProyectoValido(texto)) Exige(texto.find_first_of(" _/\\.") == std::string::npos);
+    if (model::TomaRutaProyecto(s, texto)) {
+        Exige(texto.ends_with(s.NombreProyecto + "_Conf.vlm"));
+    } else {
+        Exige(s.NombreProyecto.empty() && s.ArchivoTemp.empty());
+    }
+    return 0;
+}
