@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -39,9 +40,12 @@ struct EmbalseEnMano {
     const model::Arreglo<std::int16_t>& filasTabla;
 };
 
-/// One row of a detail sheet behind k and t: inflow, the method's three columns, outflow, height, storage.
+/// The method's own three columns of a detail sheet: I1+I2, 2S/dt-Q, 2S/dt+Q [m3/s], or dH1, dH2, dH3 [m].
+using ColumnasDelMetodo = std::array<float, 3>;
+
+/// One row of a detail sheet: k, minutes, inflow, the method's columns, outflow, height, storage.
 /// Throws Falla 6 where the minutes leave 16 bits.
-void EscribeDetalle(Corrida& c, const EmbalseEnMano& e, std::int16_t k, float c1, float c2, float c3);
+void EscribeDetalle(Corrida& c, const EmbalseEnMano& e, std::int16_t k, const ColumnasDelMetodo& columnas);
 
 /// Level pool for steps 1..NroPasosQ from HActual, SActual and T = 2S/dt - Q, unchecked: bit for bit what the
 /// bisection step by step gives. Returns false, and does nothing, where a question or a fault can't be ruled

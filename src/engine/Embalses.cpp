@@ -230,7 +230,7 @@ void PropagaPiscina(Corrida& c, const EmbalseEnMano& e)
     e.H(e.numero, 0) = s.HActual;
     e.S(e.numero, 0) = s.SActual;
     s.QSale(e.fila, 0) = v.Q;
-    EscribeDetalle(c, e, 0, v.I, v.T, v.U);
+    EscribeDetalle(c, e, 0, {v.I, v.T, v.U});
     if (!PiscinaRapida(c, e, v.T)) {
         for (int k = 1; k <= s.NroPasosQ; ++k) {
             s.IndPaso = static_cast<std::int16_t>(k);
@@ -243,7 +243,7 @@ void PropagaPiscina(Corrida& c, const EmbalseEnMano& e)
             e.S(e.numero, k) = s.SActual;
             v.T = Simple(W - 2.0 * v.Q);
             s.QSale(e.fila, k) = v.Q;
-            EscribeDetalle(c, e, s.IndPaso, v.I, v.T, v.U);
+            EscribeDetalle(c, e, s.IndPaso, {v.I, v.T, v.U});
         }
     }
     CierraDetalle(c, e);
@@ -284,7 +284,7 @@ void PropagaRungeKutta(Corrida& c, const EmbalseEnMano& e)
     AbreDetalle(c, e, EncabezadoRungeKutta);
     e.H(e.numero, 0) = s.HActual;
     e.S(e.numero, 0) = s.SActual;  // of the last routing of the run: kept as it stands
-    EscribeDetalle(c, e, 0, 0, 0, 0);
+    EscribeDetalle(c, e, 0, {0, 0, 0});
     for (int k = 1; k <= s.NroPasosQ; ++k) {
         s.IndPaso = static_cast<std::int16_t>(k);
         const float I1 = s.QEntra(e.fila, k - 1);
@@ -301,7 +301,7 @@ void PropagaRungeKutta(Corrida& c, const EmbalseEnMano& e)
         e.H(e.numero, k) = s.HActual;
         s.SActual = Simple(e.clase.SdeH(s, s.HActual));
         e.S(e.numero, k) = s.SActual;
-        EscribeDetalle(c, e, s.IndPaso, dH1, dH2, dH3);
+        EscribeDetalle(c, e, s.IndPaso, {dH1, dH2, dH3});
     }
     CierraDetalle(c, e);
 }
@@ -336,7 +336,7 @@ void AvisaMetodo(const Siro& s, const std::string& nombre)
 
 }  // namespace
 
-void EscribeDetalle(Corrida& c, const EmbalseEnMano& e, std::int16_t k, float c1, float c2, float c3)
+void EscribeDetalle(Corrida& c, const EmbalseEnMano& e, std::int16_t k, const ColumnasDelMetodo& columnas)
 {
     Siro& s = c.s;
     const std::int16_t t = Minutos(k, s.PasoQ);
@@ -344,7 +344,7 @@ void EscribeDetalle(Corrida& c, const EmbalseEnMano& e, std::int16_t k, float c1
     if (!c.ConTexto) return;
     c.Linea.Vacia();
     c.Linea.Pone("\r\n").Detalle(std::int32_t{k}, 3).Detalle(std::int32_t{t}, 3).Detalle(entra, 3);
-    c.Linea.Detalle(c1, 3).Detalle(c2, 3).Detalle(c3, 8).Detalle(sale, 2);
+    c.Linea.Detalle(columnas[0], 3).Detalle(columnas[1], 3).Detalle(columnas[2], 8).Detalle(sale, 2);
     c.Linea.Detalle(s.HActual, 2).Detalle(s.SActual, 0);
     s.TextoPizarra.append(c.Linea.Texto());
 }

@@ -227,7 +227,7 @@ void PasosRapidos(Corrida& c)
         for (std::size_t k = 1; k < fila.size(); ++k)
             if (fila[k] != 0)
                 SumaTrapecio(laderas[static_cast<std::size_t>(i) - 1], fila[k],
-                             s.QSale.Fila(i) + (static_cast<int>(k) - 1) * c.RelacionPasos);
+                             s.QSale.Fila(i) + (k - 1) * static_cast<std::size_t>(c.RelacionPasos));
     }
 }
 

@@ -22,15 +22,16 @@ constexpr std::int16_t FormaPorUEH = static_cast<std::int16_t>(model::FormaLluvi
 
 /// Values of one step in one UEH; they keep what they held where a statement is at fault.
 struct Paso {
-    float Pp = 0;        ///< rainfall [mm]
-    float R = 0;         ///< retained depth [mm]
-    float N = 0;         ///< net rain [mm]
-    float I = 0;         ///< potential infiltration [mm]
-    float E = 0;         ///< excess [mm]
-    float CaudalPp = 0;  ///< flow of the excess [m3/s]
-    std::int16_t T = 0;  ///< travel time on the slope [min]
-    std::int16_t p = 0;  ///< output step of a point of the trapezoid
-    float A = 0, B = 0;  ///< rising and falling curve [m3/s]
+    float Pp = 0;                ///< rainfall [mm]
+    float R = 0;                 ///< retained depth [mm]
+    float N = 0;                 ///< net rain [mm]
+    float I = 0;                 ///< potential infiltration [mm]
+    float E = 0;                 ///< excess [mm]
+    float CaudalPp = 0;          ///< flow of the excess [m3/s]
+    std::int16_t T = 0;          ///< travel time on the slope [min]
+    std::int16_t j = 0, tj = 0;  ///< point of the trapezoid from 1, and its time [min]
+    std::int16_t p = 0;          ///< output step of a point of the trapezoid
+    float A = 0, B = 0;          ///< rising and falling curve [m3/s]
 };
 
 bool HayLluvia(Corrida& c, std::int16_t k)
@@ -107,14 +108,14 @@ void EscribePaso(Corrida& c, std::int16_t k, int i, const Paso& v)
     if (s.SalidaPizarra) s.TextoPizarra.append("\r\n").append(c.Linea.Texto());
 }
 
-void PuntoDelTrapecio(Corrida& c, std::int16_t k, int i, std::int16_t j, std::int16_t tj, Paso& v)
+void PuntoDelTrapecio(Corrida& c, std::int16_t k, int i, Paso& v)
 {
     Siro& s = c.s;
-    c.Intenta([&] { v.A = v.T <= tj ? v.CaudalPp : Simple(Cociente(v.CaudalPp, v.T) * tj); });
+    c.Intenta([&] { v.A = v.T <= v.tj ? v.CaudalPp : Simple(Cociente(v.CaudalPp, v.T) * v.tj); });
     c.Intenta([&] {
-        v.B = tj <= s.PasoPp ? 0 : Simple(Cociente(v.CaudalPp, v.T) * model::Entero16(tj - s.PasoPp));
+        v.B = v.tj <= s.PasoPp ? 0 : Simple(Cociente(v.CaudalPp, v.T) * model::Entero16(v.tj - s.PasoPp));
     });
-    c.Intenta([&] { v.p = model::Entero16(Suma16(Producto16(k, c.RelacionPasos), j) - c.RelacionPasos); });
+    c.Intenta([&] { v.p = model::Entero16(Suma16(Producto16(k, c.RelacionPasos), v.j) - c.RelacionPasos); });
     if (c.Vale([&] { return v.p > Suma16(s.NroPasosQ, 1); })) Alarga(c, v.p);
     c.Intenta([&] { s.QSale(i, v.p) = Simple(double{s.QSale(i, v.p)} + v.A - v.B); });
 }
@@ -126,13 +127,13 @@ void Traslada(Corrida& c, std::int16_t k, int i, Paso& v)
         const model::UEH& u = s.UEHs(i);
         v.T = model::Entero16(Cociente(u.LongitudMax, u.VelMedia) / 60);
     });
-    std::int16_t j = 1;
-    std::int16_t tj = s.PasoQ;
-    while (c.Vale([&] { return tj < Suma16(v.T, s.PasoPp); })) {
-        PuntoDelTrapecio(c, k, i, j, tj, v);
+    v.j = 1;
+    v.tj = s.PasoQ;
+    while (c.Vale([&] { return v.tj < Suma16(v.T, s.PasoPp); })) {
+        PuntoDelTrapecio(c, k, i, v);
         // A clock that stands still would never end the loop.
-        if (!c.Intenta([&] { j = Suma16(j, 1); })) return;
-        if (!c.Intenta([&] { tj = Minutos(j, s.PasoQ); })) return;
+        if (!c.Intenta([&] { v.j = Suma16(v.j, 1); })) return;
+        if (!c.Intenta([&] { v.tj = Minutos(v.j, s.PasoQ); })) return;
     }
 }
 

@@ -164,7 +164,7 @@ void Recorre(Corrida& c, const EmbalseEnMano& e, float T, Buscador busca)
         if (!c.ConTexto) continue;
         s.HActual = n.h;
         s.SActual = n.s;
-        EscribeDetalle(c, e, static_cast<std::int16_t>(k), I, T, n.u);
+        EscribeDetalle(c, e, static_cast<std::int16_t>(k), {I, T, n.u});
     }
     s.IndPaso = s.NroPasosQ;
     s.HActual = H[s.NroPasosQ];

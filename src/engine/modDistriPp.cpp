@@ -12,10 +12,8 @@
 
 namespace engine {
 
-using model::Arreglo;
 using model::Cociente;
 using model::Falla;
-using model::NumeroFalla;
 using model::Simple;
 using model::Siro;
 

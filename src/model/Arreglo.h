@@ -60,7 +60,7 @@ class Matriz {
     {
         Comprueba(primera, ultima, columnas);
         const auto paso = static_cast<std::size_t>(columnas) + 1;
-        datos.assign(static_cast<std::size_t>(ultima - primera + 1) * paso, T{});
+        datos.assign((static_cast<std::size_t>(ultima - primera) + 1) * paso, T{});
         primeraFila = primera;
         ultimaFila = ultima;
         topeColumna = columnas;
@@ -110,7 +110,7 @@ class Matriz {
     void Ensancha(int columnas)
     {
         const auto nuevoPaso = static_cast<std::size_t>(columnas) + 1 + static_cast<std::size_t>(columnas) / 2;
-        const auto filas = static_cast<std::size_t>(ultimaFila - primeraFila + 1);
+        const auto filas = static_cast<std::size_t>(ultimaFila - primeraFila) + 1;
         std::vector<T> nuevos(filas * nuevoPaso);
         for (std::size_t f = 0; f < filas; ++f)
             std::copy_n(datos.begin() + static_cast<std::ptrdiff_t>(f * pasoFila), topeColumna + 1,
