@@ -25,6 +25,8 @@ constexpr std::string_view EntreLineas = " / ";
 constexpr std::string_view RespuestaSi = " -> Sí";
 constexpr std::string_view RespuestaNo = " -> No";
 
+constexpr std::size_t LargoTrozo = std::size_t{1} << 16;  // bytes of a piece of the Slate's text
+
 constexpr int AnchoBarra = 30;                       // characters between the brackets
 constexpr std::string_view BorraLinea = "\r\x1b[K";  // back to the margin, erase to the end of the line
 
@@ -108,6 +110,33 @@ std::string FechaHoraLocal()
     return texto;
 }
 
+void TextoPorTrozos::Vacia()
+{
+    trozos.clear();
+    largo = 0;
+}
+
+void TextoPorTrozos::Agrega(std::string_view texto)
+{
+    largo += texto.size();
+    while (!texto.empty()) {
+        if (trozos.empty() || trozos.back().size() == LargoTrozo) trozos.emplace_back().reserve(LargoTrozo);
+        std::string& ultimo = trozos.back();
+        const std::string_view cabe = texto.substr(0, LargoTrozo - ultimo.size());
+        ultimo += cabe;
+        texto.remove_prefix(cabe.size());
+    }
+}
+
+std::string TextoPorTrozos::Entero() const
+{
+    std::string texto;
+    texto.reserve(largo);
+    for (const std::string& trozo : trozos)
+        texto += trozo;
+    return texto;
+}
+
 AnfitrionLote::AnfitrionLote(Salidas unasSalidas, bool pizarraMarcada, bool respondeSi)
     : salidas(std::move(unasSalidas)), marcaPizarra(pizarraMarcada), responde(respondeSi)
 {
@@ -134,10 +163,16 @@ void AnfitrionLote::PonPizarraYAvance(model::Anfitrion& a)
 {
     a.MarcaPizarra = [this] { return marcaPizarra; };
     a.PonMarcaPizarra = [this](bool marca) { marcaPizarra = marca; };
-    a.LeePizarra = [this] { return pizarra; };
-    a.PonPizarra = [this](std::string_view texto) { pizarra = texto; };
-    a.AmpliaPizarra = [this](const std::string& texto) { Amplia(texto); };
-    a.AgregaPizarra = [this](std::string_view texto) { pizarra += texto; };
+    a.LeePizarra = [this] { return pizarra.Entero(); };
+    a.PonPizarra = [this](std::string_view texto) {
+        pizarra.Vacia();
+        pizarra.Agrega(texto);
+    };
+    // A run hands over its whole text after each component; only what is new is copied.
+    a.AmpliaPizarra = [this](const std::string& texto) {
+        pizarra.Agrega(std::string_view(texto).substr(pizarra.Largo()));
+    };
+    a.AgregaPizarra = [this](std::string_view texto) { pizarra.Agrega(texto); };
     if (!salidas.erroresEsTerminal) return;
     a.TextosAvance = [this](std::string_view primero, std::string_view segundo) {
         if (avanceVisible && porcentaje == porcentajeVisible) return;
@@ -147,10 +182,10 @@ void AnfitrionLote::PonPizarraYAvance(model::Anfitrion& a)
     a.CierraAvance = [this] { BorraAvance(); };
 }
 
-// A run hands over its whole text after each component; only what is new is copied.
-void AnfitrionLote::Amplia(const std::string& texto)
+void AnfitrionLote::MuestraPizarra() const
 {
-    pizarra.append(texto, pizarra.size());
+    for (const std::string& trozo : pizarra.Trozos())
+        salidas.Estandar(trozo);
 }
 
 void AnfitrionLote::Linea(std::string_view titulo, std::string_view texto, std::string_view respuesta)

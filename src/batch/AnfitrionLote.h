@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "model/Anfitrion.h"
 
@@ -22,6 +24,20 @@ Salidas SalidasDelProceso();
 /// Exit status of a run that an answer of No or a fatal message ended.
 inline constexpr int EstadoTerminado = 3;
 
+/// A text that only grows, in pieces: a long one is never copied to make room.
+class TextoPorTrozos {
+  public:
+    void Vacia();
+    void Agrega(std::string_view texto);
+    [[nodiscard]] std::size_t Largo() const { return largo; }  ///< in bytes
+    [[nodiscard]] std::string Entero() const;
+    [[nodiscard]] const std::vector<std::string>& Trozos() const { return trozos; }
+
+  private:
+    std::vector<std::string> trozos;
+    std::size_t largo = 0;
+};
+
 /// The world of a run without a window. Boxes and questions go to Errores, one line each; the Slate is a
 /// text; the end of the program is thrown as FinDelPrograma with EstadoTerminado.
 ///
@@ -34,21 +50,20 @@ class AnfitrionLote {
 
     /// The host that runs get; it lives no longer than this object.
     model::Anfitrion Anfitrion();
-    /// The text in the Slate's box, with its CR LF.
-    [[nodiscard]] const std::string& Pizarra() const { return pizarra; }
+    /// Writes the text in the Slate's box, with its CR LF, to Estandar.
+    void MuestraPizarra() const;
     /// Takes the progress bar off the terminal.
     void BorraAvance();
 
   private:
     void PonPizarraYAvance(model::Anfitrion& anfitrion);
     void Linea(std::string_view titulo, std::string_view texto, std::string_view respuesta);
-    void Amplia(const std::string& texto);
     void DibujaAvance(std::string_view primero, std::string_view segundo);
 
     Salidas salidas;
     bool marcaPizarra;
     bool responde;
-    std::string pizarra;
+    TextoPorTrozos pizarra;
     int porcentaje = 0;         ///< of the series' storms, done
     int porcentajeVisible = 0;  ///< what the bar on the terminal shows
     bool avanceVisible = false;

@@ -140,7 +140,7 @@ int Corre(const Opciones& o, const std::string& dirEjecutable, const Salidas& sa
         return fin.estado;
     }
     anfitrion.BorraAvance();
-    if (!anfitrion.Pizarra().empty()) salidas.Estandar(anfitrion.Pizarra());
+    anfitrion.MuestraPizarra();
     return completa && GuardaResultados(s, o) ? EstadoCompleto : EstadoInterrumpido;
 }
 

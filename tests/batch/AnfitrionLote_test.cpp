@@ -95,12 +95,31 @@ TEST(AnfitrionLote, LaPizarraReemplazaAgregaYAmplia)
     anfitrion.AgregaPizarra("dos");
     EXPECT_EQ(anfitrion.LeePizarra(), "uno\r\ndos");
     anfitrion.AmpliaPizarra("uno\r\ndos\r\ntres");
-    EXPECT_EQ(lote.Pizarra(), "uno\r\ndos\r\ntres");
+    EXPECT_EQ(anfitrion.LeePizarra(), "uno\r\ndos\r\ntres");
     anfitrion.AmpliaPizarra("uno\r\ndos\r\ntres");
-    EXPECT_EQ(lote.Pizarra(), "uno\r\ndos\r\ntres");
+    EXPECT_EQ(anfitrion.LeePizarra(), "uno\r\ndos\r\ntres");
     anfitrion.PonPizarra("");
-    EXPECT_EQ(lote.Pizarra(), "");
+    EXPECT_EQ(anfitrion.LeePizarra(), "");
     EXPECT_EQ(c.estandar + c.errores, "");
+}
+
+// 200000 bytes: more than three pieces, and a last one that isn't full.
+TEST(AnfitrionLote, UnaPizarraLargaSaleEnteraYEnOrden)
+{
+    Captura c;
+    AnfitrionLote lote(c.Hacia(false), true, true);
+    const auto anfitrion = lote.Anfitrion();
+    std::string texto;
+    for (int i = 0; texto.size() < 200000; ++i)
+        texto += std::to_string(i) + "\r\n";
+    anfitrion.PonPizarra(texto.substr(0, 70001));
+    anfitrion.AmpliaPizarra(texto.substr(0, 70002));
+    anfitrion.AmpliaPizarra(texto);
+    anfitrion.AgregaPizarra("fin");
+    EXPECT_EQ(anfitrion.LeePizarra(), texto + "fin");
+    EXPECT_EQ(c.estandar, "");
+    lote.MuestraPizarra();
+    EXPECT_EQ(c.estandar, texto + "fin");
 }
 
 // A run of 160 components hands up to 10 MB over after each of them: only what is new may be copied. The text
@@ -112,7 +131,7 @@ TEST(AnfitrionLote, AmpliarSoloCopiaLoNuevo)
     const auto anfitrion = lote.Anfitrion();
     anfitrion.PonPizarra("antes");
     anfitrion.AmpliaPizarra("ANTES y después");
-    EXPECT_EQ(lote.Pizarra(), "antes y después");
+    EXPECT_EQ(anfitrion.LeePizarra(), "antes y después");
 }
 
 TEST(AnfitrionLote, LaFechaEsDiaMesAnioYHora)
