@@ -151,7 +151,7 @@ def _UEH(p, n):
         "z": p.uno_de((0, p.entre(0, 10), 5, p.entre(0, 60))),
     }
     if p.suerte(0.02):
-        ueh["longitud"] = p.entre(20000, 60000)
+        ueh["longitud"] = p.entre(5000, 30000)
         ueh["velocidad"] = 0.5
     return ueh
 
@@ -288,7 +288,7 @@ def elige_tormenta(p):
     """Form, storm and distribution; the personal tables and the real storm where they are needed."""
     paso_pp = int(p.opciones["--paso-pp"])
     forma = p.uno_de((0, 0, 0, 1, 3, 4))
-    duracion = p.uno_de((paso_pp * p.azar.randint(1, 24), p.azar.randint(5, 400), 60, 25, 150, 151, 240))
+    duracion = p.uno_de((paso_pp * p.azar.randint(1, 24), p.azar.randint(5, 400), 60, 25, 150, 151, 200, 240, 300, 330))
     if paso_pp >= 60 and p.suerte(0.3):
         duracion = p.uno_de((720, 1440, 2880, 2881, 660))
     p.opciones["--forma"] = str(forma)

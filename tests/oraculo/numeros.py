@@ -4,6 +4,7 @@
 Python computes in 64-bit floats; every store into a narrower type goes through a function of this module, which
 rounds and raises a Falla where the value doesn't fit.
 """
+import functools
 import math
 import re
 import struct
@@ -37,6 +38,7 @@ class Falla(Exception):
 
 # ---------------------------------------------------------------------------------------------- widths
 
+MAXIMO_F32 = 3.4028234663852886e38
 _FLOTANTE = struct.Struct("<f")
 
 
@@ -164,6 +166,12 @@ def con_blanco(texto):
 
 def _cifras_cortas(x):
     """Shortest decimal digits that read back as the 32-bit float x > 0, nearest to x: (digits, exponent of ten)."""
+    if math.frexp(x)[0] != 0.5:  # both neighbours as far: the nearest text of some length reads back, or none does
+        for cifras in range(1, 10):
+            mantisa, exponente = ("%.*e" % (cifras - 1, x)).split("e")
+            leido = float(mantisa + "e" + exponente)
+            if leido <= MAXIMO_F32 and f32(leido) == x:
+                return mantisa.replace(".", ""), int(exponente)
     exacto = Fraction(x)
     for cifras in range(1, 18):
         exponente = int(("%.*e" % (cifras - 1, x)).split("e")[1])
@@ -196,15 +204,11 @@ def _lee_f32(valor):
             break
     unidad = Fraction(2) ** max(exponente - 24, -149)
     y = float(round(valor / unidad) * unidad)
-    return None if y > 3.4028234663852886e38 else y
+    return None if y > MAXIMO_F32 else y
 
 
-def corto32(x):
-    """The shortest text that reads back as the 32-bit float x; plain notation unless exponent form is shorter."""
-    if x == 0:
-        return "-0" if math.copysign(1, x) < 0 else "0"
-    signo = "-" if x < 0 else ""
-    x = abs(x)
+@functools.lru_cache(maxsize=65536)
+def _corto32_positivo(x):
     digitos, exponente = _cifras_cortas(x)
     resto = digitos[1:]
     cientifico = digitos[0] + ("." + resto if resto else "") + "e%+03d" % exponente
@@ -215,7 +219,14 @@ def corto32(x):
         fijo = digitos[: exponente + 1] + "." + digitos[exponente + 1 :]
     else:
         fijo = "0." + "0" * (-exponente - 1) + digitos
-    return signo + (fijo if len(fijo) <= len(cientifico) else cientifico)
+    return fijo if len(fijo) <= len(cientifico) else cientifico
+
+
+def corto32(x):
+    """The shortest text that reads back as the 32-bit float x; plain notation unless exponent form is shorter."""
+    if x == 0:
+        return "-0" if math.copysign(1, x) < 0 else "0"
+    return ("-" if x < 0 else "") + _corto32_positivo(abs(x))
 
 
 # ------------------------------------------------------------------------------------- text to number
