@@ -128,6 +128,8 @@ void EscribeTabla(Corrida& c, const EmbalseEnMano& e)
 void SumaAfluente(Corrida& c, const EmbalseEnMano& e, int afluente)
 {
     Siro& s = c.s;
+    if (SumaSegura(s.QEntra, e.fila, s.QSale, afluente, s.NroPasosQ))
+        return SumaFila(s.QEntra.Fila(e.fila), s.QSale.Fila(afluente), {1, s.NroPasosQ});
     for (int k = 1; k <= s.NroPasosQ; ++k)
         s.QEntra(e.fila, k) = Simple(double{s.QSale(afluente, k)} + s.QEntra(e.fila, k));
 }

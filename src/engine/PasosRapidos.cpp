@@ -5,6 +5,7 @@
 #include <cmath>
 #include <span>
 
+#include "engine/modDistriPp.h"
 #include "model/Numeros.h"
 
 namespace engine {
@@ -173,6 +174,24 @@ void SumaTrapecio(const Ladera& l, float caudal, float* q)
         q[j] = static_cast<float>(double{q[j]} + caudal - B(j));
 }
 
+/// Rain of all steps where every UEH gets the same: worked out for the first, copied to the others.
+void LluviaPareja(Corrida& c, int pasos)
+{
+    Siro& s = c.s;
+    float* lluvia = s.PpUEHPaso.Fila(1);
+    float total = s.PpUEH(1);
+    for (int k = 1; k <= pasos; ++k) {
+        c.Intenta([&] { lluvia[k] = static_cast<float>(PpDelPaso(s, static_cast<std::int16_t>(k))); });
+        c.SumaPp += lluvia[k];
+        total += lluvia[k];
+    }
+    s.PpUEH(1) = total;
+    for (int i = 2; i <= s.NroUEHs; ++i) {
+        std::copy_n(lluvia + 1, pasos, s.PpUEHPaso.Fila(i) + 1);
+        s.PpUEH(i) = total;
+    }
+}
+
 /// Output step to which the run grows: a point beyond NroPasosQ + 1 makes itself the last step, in the order
 /// of the steps and, within a step, of the UEHs.
 int UltimoPasoQ(const Corrida& c, std::span<const Ladera> laderas,
@@ -209,8 +228,12 @@ void PasosRapidos(Corrida& c)
 {
     Siro& s = c.s;
     const int conLluvia = UltimoPasoConLluvia(c);
-    for (int k = 1; k <= conLluvia; ++k)
-        LluviaDelPaso(c, static_cast<std::int16_t>(k));
+    if (s.FormaPp == static_cast<std::int16_t>(model::FormaLluvia::PorUEH)) {
+        for (int k = 1; k <= conLluvia; ++k)
+            LluviaDelPaso(c, static_cast<std::int16_t>(k));
+    } else {
+        LluviaPareja(c, conLluvia);
+    }
 
     std::vector<std::vector<float>> caudales(static_cast<std::size_t>(s.NroUEHs));
     std::vector<Ladera> laderas;

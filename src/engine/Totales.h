@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <span>
 
+#include "model/Arreglo.h"
+
 namespace engine {
 
 /// Output steps, both ends included.
@@ -28,6 +30,10 @@ void SumaVolumenes(std::span<const float* const> filas, Tramo tramo, std::int16_
 
 /// The volume [m3] of one hydrograph, worked out the same way.
 float Volumen(const float* fila, Tramo tramo, std::int16_t PasoQ);
+
+/// Whether both rows hold the steps 1..pasos and no sum of two of their flows can leave the type.
+bool SumaSegura(const model::Matriz<float>& destino, int filaDestino, const model::Matriz<float>& origen,
+                int filaOrigen, int pasos);
 
 /// destino[p] += sumando[p], each sum rounded to 32 bits. The rows are different ones.
 void SumaFila(float* destino, const float* sumando, Tramo tramo);

@@ -30,21 +30,10 @@ constexpr std::string_view SinVelocidad[] = {
     " es '0'. Debe asignar un valor correcto a este parámetro desde el Editor de UEHs "};
 constexpr float SumaModerada = 1e36F;  // sums of a few hundred such flows stay within 32-bit floats
 
-/// Both rows hold every output step and no sum of them can leave the type.
-bool SumaSegura(const Siro& s, int destino, int origen)
-{
-    if (destino < s.QEntra.PrimeraFila() || destino > s.QEntra.UltimaFila() || origen > s.QSale.UltimaFila())
-        return false;
-    if (s.NroPasosQ < 1 || s.QEntra.TopeColumna() < s.NroPasosQ || s.QSale.TopeColumna() < s.NroPasosQ)
-        return false;
-    return MayorAbsoluto(s.QEntra.Fila(destino), 1, s.NroPasosQ) < SumaModerada &&
-           MayorAbsoluto(s.QSale.Fila(origen), 1, s.NroPasosQ) < SumaModerada;
-}
-
 void SumaAfluente(Corrida& c, int fila, int afluente)
 {
     Siro& s = c.s;
-    if (SumaSegura(s, fila, afluente))
+    if (SumaSegura(s.QEntra, fila, s.QSale, afluente, s.NroPasosQ))
         return SumaFila(s.QEntra.Fila(fila), s.QSale.Fila(afluente), {1, s.NroPasosQ});
     for (int p = 1; p <= s.NroPasosQ; ++p)
         c.Intenta([&] { s.QEntra(fila, p) = Simple(double{s.QEntra(fila, p)} + s.QSale(afluente, p)); });
