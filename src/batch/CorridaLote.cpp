@@ -24,9 +24,11 @@ using model::Siro;
 
 constexpr std::int16_t DistriPpReal = 7;  // what the desktop ticks for a recorded storm
 
-/// A path from the root on, without "." and ".." and without a separator at its end.
+/// A relative path from the root on, without "." and ".." and without a separator at its end; an absolute one
+/// as it stands.
 std::string Absoluta(const std::string& ruta)
 {
+    if (fs::path(ruta).is_absolute()) return ruta;
     std::error_code error;
     fs::path absoluta = fs::absolute(fs::path(ruta), error).lexically_normal();
     if (!absoluta.has_filename() && absoluta.has_relative_path()) absoluta = absoluta.parent_path();

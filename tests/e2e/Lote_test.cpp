@@ -79,7 +79,9 @@ TEST(LoteProceso, LaPizarraYSuArchivoDicenLoMismo)
     const Salida s = Lote({"una", p.Conf(), "--trabajo", p.Dir(), "--pizarra"}, "/");
     EXPECT_EQ(s.estado, 0);
     EXPECT_TRUE(s.estandar.starts_with("SIRO - Modelo de Simulación Hidrológica\r\n"));
-    EXPECT_EQ(p.Lee("SalePizarra1_tem.txt"), "\"" + model::AWindows1252(s.estandar) + "\"\r\n");
+    std::string archivo = "\"";
+    archivo.append(model::AWindows1252(s.estandar)).append("\"\r\n");
+    EXPECT_EQ(p.Lee("SalePizarra1_tem.txt"), archivo);
 }
 
 TEST(LoteProceso, ElCsvEsElMismoConPizarraYSinElla)
