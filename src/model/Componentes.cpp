@@ -392,7 +392,11 @@ void EscribeCampo(EscrituraInformada& archivo, const CampoComponente<T>& campo, 
         } else if constexpr (std::is_same_v<Propiedad, TextoSinFijar<T>>) {
             const std::string& texto = componente.*propiedad.propiedad;
             archivo.Registro([&](EscritorRegistros& escritor) {
-                if (!texto.empty()) Pon(escritor, texto);
+                if (texto.empty()) {
+                    escritor.Vacio();
+                } else {
+                    Pon(escritor, texto);
+                }
             });
         } else {
             const auto& elementos = componente.*propiedad.propiedad;

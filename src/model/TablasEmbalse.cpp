@@ -71,7 +71,7 @@ void VaADirectorio(const Siro& s)
     if (!s.Disco.HayDirectorio(s.DirProyecto)) throw Falla{NumeroFalla::RutaNoEsta};
 }
 
-/// What steps 1 and 2 of readers and writers share: the count, the directory, the name of the file.
+/// What readers and writers begin with: the count, the directory, the name of the file. Returns its path.
 template <typename T, int Limite>
 std::string Prepara(Siro& s, const ArchivoTabla<T, Limite>& archivo)
 {
@@ -127,14 +127,20 @@ class Registros {
   private:
     void Mira()
     {
-        const Campo primero = lector.Siguiente();
-        const Campo segundo = lector.Siguiente();
-        for (int i = 2; i < campos; ++i)
-            lector.Siguiente();
+        Campo primero;
         Hallazgo hallazgo;
+        const auto lee = [&] {
+            primero = lector.Siguiente();
+            hallazgo.filas = CampoNumero16(lector.Siguiente());
+            for (int i = 2; i < campos; ++i)
+                lector.Siguiente();
+        };
+        Sentencia([&] { lector.Registro(campos, lee); },
+                  [&](const Falla& falla) {
+                      if (falla.numero == NumeroFalla::FinDeArchivo) throw falla;
+                      hallazgo.falla = falla;
+                  });
         hallazgo.detras = lector.Lugar();
-        Sentencia([&] { hallazgo.filas = CampoNumero16(segundo); },
-                  [&](const Falla& falla) { hallazgo.falla = falla; });
         const bool cabecera = primero.bytes.starts_with(Marca);
         if (!cabecera && !hallazgo.falla) return;
         if (cabecera) hallazgo.marcador = DeWindows1252(primero.bytes);

@@ -1,0 +1,875 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "model/Configuracion.h"
+
+#include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "ProyectoDePrueba.h"
+#include "apoyo/Compara.h"
+#include "model/Falla.h"
+#include "model/Siro.h"
+
+using namespace model;
+
+namespace {
+
+using Renglones = std::vector<std::string>;
+
+constexpr std::size_t NroCampos = 59;
+
+/// What a field of the file is, by the layout of the file.
+enum class Clase { Texto, NumeroEnTexto, SimpleEnTexto, Entero, Simple, Logico };
+
+Clase ClaseDe(std::size_t campo)
+{
+    switch (campo) {
+    case 15:
+    case 28:
+        return Clase::NumeroEnTexto;
+    case 20:
+    case 21:
+        return Clase::SimpleEnTexto;
+    case 26:
+        return Clase::Simple;
+    case 11:
+    case 13:
+        return Clase::Entero;
+    default:
+        if (campo >= 29) return Clase::Entero;
+        if ((campo >= 17 && campo <= 19) || (campo >= 22 && campo <= 25)) return Clase::Logico;
+        return Clase::Texto;
+    }
+}
+
+/// The 59 fields as they stand in a file, field n at index n - 1. Recurrences ticked: 2, 10, 500, 10000.
+/// Durations ticked: 5, 60, 2880.
+Renglones Ejemplo()
+{
+    Renglones r{"\"Arroyo\"",
+                "\"Crecidas, del r\xEDo\"",
+                "\"Lugar\"",
+                "\"Cuenca\"",
+                "\"Subcuenca\"",
+                "\"Operador\"",
+                "\"03/04/2011\"",
+                "\"\"",
+                "\"/proy\"",
+                "\"nuevo\"",
+                "1",
+                "\"Arroyo_Conf.vlm\"",
+                "1",
+                "\"/proy/mapa.bmp\"",
+                "\"150\"",
+                "\"nota\"",
+                "#TRUE#",
+                "#FALSE#",
+                "#TRUE#",
+                "12.5",
+                "-3",
+                "#FALSE#",
+                "#TRUE#",
+                "#TRUE#",
+                "#FALSE#",
+                "45.25",
+                "\"900\"",
+                "\"2.5\""};
+    for (const int marca : {1, 0, 1, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 1})
+        r.push_back(std::to_string(marca));
+    for (const int marca : {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1})
+        r.push_back(std::to_string(marca));
+    return r;
+}
+
+Renglones Con(std::size_t campo, const std::string& valor)
+{
+    Renglones r = Ejemplo();
+    r.at(campo - 1) = valor;
+    return r;
+}
+
+Mensaje Llano(std::string texto)
+{
+    return {std::move(texto), "", Icono::Ninguno};
+}
+
+/// The box of the second row: the reading stopped at a fault other than the end of the file.
+Mensaje CajaDeFalla(const std::string& numero, const std::string& descripcion)
+{
+    return Llano("Error Nro. " + numero + " ," + descripcion + "Verifique.");
+}
+const Mensaje CajaTipos = CajaDeFalla("13", "No coinciden los tipos");
+const Mensaje CajaDesborde = CajaDeFalla("6", "Desbordamiento");
+const Mensaje CajaNoEsta = CajaDeFalla("53", "No se encontró el archivo");
+const Mensaje CajaSinRuta = CajaDeFalla("76", "No se encontró la ruta de acceso");
+const Mensaje CajaAcceso = CajaDeFalla("75", "Error de acceso a la ruta o al archivo");
+
+Mensaje CajaDanado(const std::string& nombre)
+{
+    return Llano(
+        "Error Nro. 62 ,La entrada de datos sobrepasó el final del archivoVerifique. El archivo de "
+        "configuración <" +
+        nombre + "_Conf.vlm > está dañado. Corrija o elimine manualmente este archivo");
+}
+
+Mensaje CajaGuardado(const std::string& ruta)
+{
+    return Llano("Los datos de configuración del proyecto se han guardado correctamente en el archivo " +
+                 ruta);
+}
+
+/// Values from place 1 on.
+std::vector<int> Valores(const std::vector<std::int16_t>& lista)
+{
+    return {lista.begin() + 1, lista.end()};
+}
+
+struct Configuracion : ::testing::Test, ProyectoDePrueba {
+    void PonConf(const Renglones& renglones) { Pon("_Conf.vlm", Junta(renglones)); }
+    void Lee(const Renglones& renglones)
+    {
+        PonConf(renglones);
+        leoConf(s);
+    }
+    std::string Conf() { return Bytes("_Conf.vlm"); }
+};
+
+// --- reading -------------------------------------------------------------------------------------------
+
+TEST_F(Configuracion, CadaCampoLlegaASuVariable)
+{
+    Lee(Ejemplo());
+    EXPECT_EQ(Avisos(), Cajas{});
+    EXPECT_EQ(s.NombreProyecto, "Arroyo");
+    EXPECT_EQ(s.TituloProyecto, "Crecidas, del río");
+    EXPECT_EQ(s.Ubicacion, "Lugar");
+    EXPECT_EQ(s.Cuenca, "Cuenca");
+    EXPECT_EQ(s.Subcuenca, "Subcuenca");
+    EXPECT_EQ(s.Operador, "Operador");
+    EXPECT_EQ(s.FechaProyecto, "03/04/2011");
+    EXPECT_EQ(s.DriveProyecto, "");
+    EXPECT_EQ(s.DirProyectoConf, "/proy");
+    EXPECT_EQ(s.DirProyecto, "/proy");
+    EXPECT_EQ(s.DirNv, "nuevo");
+    EXPECT_EQ(s.CheckDistriPp, 1);
+    EXPECT_EQ(s.NombreArchivoConf, "Arroyo_Conf.vlm");
+    EXPECT_EQ(s.ImagenDibujo, 1);
+    EXPECT_EQ(s.ArchivoImagenDibujo, "/proy/mapa.bmp");
+    EXPECT_EQ(s.ArchivoImagen, "/proy/mapa.bmp");
+    EXPECT_EQ(s.EscalaImagen, 150);
+    EXPECT_EQ(s.TextoS, "nota");
+    EXPECT_TRUE(s.Optiona && !s.Optionb && s.Optionc);
+    EXPECT_EQ(s.ImagenX0, 12.5F);
+    EXPECT_EQ(s.ImagenY0, -3.0F);
+    EXPECT_TRUE(!s.OptionMin && s.OptionHr && s.Optionm3 && !s.OptionLt);
+    EXPECT_EQ(s.N0Dur, 45.25F);
+    EXPECT_EQ(s.MaxUEHsPixel, "900");
+    EXPECT_EQ(s.EscalaDibujo, "2.5");
+    EXPECT_EQ(s.CheckD, (std::array<std::int16_t, 17>{1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1}));
+}
+
+TEST_F(Configuracion, CadaCampoLlegaASuControl)
+{
+    Lee(Ejemplo());
+    ControlesConfigura c;
+    c.TextProyecto = "Crecidas, del río";
+    c.TextUbica = "Lugar";
+    c.TextCuenca = "Cuenca";
+    c.TextSbca = "Subcuenca";
+    c.TextOpera = "Operador";
+    c.txtFecha = "03/04/2011";
+    c.Dir1 = "/proy";
+    c.TextDirNv = "nuevo";
+    c.CheckDistriPp = 1;
+    c.lblMiArchivoConf = "Arroyo_Conf.vlm";
+    c.chkImagenDibujo = 1;
+    c.lblImagenDibujo = "/proy/mapa.bmp";
+    c.TexIMGEscala = "150";
+    c.TexS = "nota";
+    c.Optiona = c.Optionc = c.OptionHr = c.Optionm3 = true;
+    c.TexIMGX0 = "12.5";
+    c.TexIMGY0 = "-3";
+    c.txtN0Dur = "45.25";
+    c.txtMaxUEHsPixel = "900";
+    c.txtEscalaImagen = "2.5";
+    c.CheckR = {1, 0, 1, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 1};
+    c.CheckD = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1};
+    EXPECT_TRUE(s.frmConfigura == c);
+}
+
+TEST_F(Configuracion, LasListasLlevanLosValoresTildadosEnOrden)
+{
+    Lee(Ejemplo());
+    EXPECT_EQ(Valores(s.ListaRec), (std::vector<int>{2, 10, 500, 10000}));
+    EXPECT_EQ(s.NroRec, 4);
+    EXPECT_EQ(Valores(s.ListaDur), (std::vector<int>{5, 60, 2880}));
+    EXPECT_EQ(s.NroDur, 3);
+}
+
+TEST_F(Configuracion, UnaCasillaCuentaSoloConUnUnoExacto)
+{
+    Renglones r = Ejemplo();
+    r[28] = "2";   // R 2
+    r[29] = "-1";  // R 5
+    r[42] = "2";   // D 5
+    Lee(r);
+    EXPECT_EQ(Valores(s.ListaRec), (std::vector<int>{10, 500, 10000}));
+    EXPECT_EQ(Valores(s.ListaDur), (std::vector<int>{60, 2880}));
+    EXPECT_EQ(s.frmConfigura.CheckR[0], 2);
+    EXPECT_EQ(s.CheckR[1], -1);
+}
+
+TEST_F(Configuracion, LasListasTienenLugarParaTodasLasCasillas)
+{
+    Renglones r = Ejemplo();
+    for (std::size_t i = 28; i < NroCampos; ++i)
+        r[i] = "1";
+    Lee(r);
+    EXPECT_EQ(s.NroRec, 14);
+    EXPECT_EQ(s.NroDur, 17);
+    EXPECT_EQ(s.ListaRec.back(), 10000);
+    EXPECT_EQ(s.ListaDur.back(), 2880);
+}
+
+TEST_F(Configuracion, UnaSegundaLecturaHaceLasListasDeNuevo)
+{
+    Lee(Ejemplo());
+    Lee(Con(29, "0"));
+    EXPECT_EQ(Valores(s.ListaRec), (std::vector<int>{10, 500, 10000}));
+}
+
+TEST_F(Configuracion, ElNombreDentroDelArchivoRigeDesdeAhi)
+{
+    Lee(Con(1, "\"Otro\""));
+    EXPECT_EQ(s.NombreProyecto, "Otro");
+    leoConf(s);  // now /proy/Otro_Conf.vlm, which isn't there
+    EXPECT_EQ(Avisos(), Cajas{CajaNoEsta});
+    EXPECT_EQ(s.ArchivoTemp, "/proy/Otro_Conf.vlm");
+}
+
+TEST_F(Configuracion, ArchivoTempEsLaRutaDelArchivoLeido)
+{
+    Lee(Ejemplo());
+    EXPECT_EQ(s.ArchivoTemp, "/proy/Arroyo_Conf.vlm");
+}
+
+TEST_F(Configuracion, ComaYFinDeRenglonValenLoMismo)
+{
+    std::string bytes;
+    for (const std::string& r : Ejemplo())
+        bytes += (bytes.empty() ? "" : ",") + r;
+    Pon("_Conf.vlm", bytes);
+    leoConf(s);
+    EXPECT_EQ(Avisos(), Cajas{});
+    EXPECT_EQ(s.TituloProyecto, "Crecidas, del río");
+    EXPECT_EQ(s.NroDur, 3);
+}
+
+TEST_F(Configuracion, CamposVaciosSonCeroFalsoYTextoVacio)
+{
+    Renglones r(NroCampos, "");
+    r[0] = "\"Arroyo\"";
+    r[8] = "\"/proy\"";
+    Lee(r);
+    EXPECT_EQ(Avisos(), Cajas{});
+    EXPECT_EQ(s.FechaProyecto, "");
+    EXPECT_EQ(s.CheckDistriPp, 0);
+    EXPECT_EQ(s.frmConfigura.TexIMGEscala, "0");
+    EXPECT_EQ(s.frmConfigura.txtN0Dur, "0");
+    EXPECT_EQ(s.frmConfigura.txtEscalaImagen, "");
+    EXPECT_EQ(s.EscalaDibujo, "0");
+    EXPECT_FALSE(s.OptionMin);
+    EXPECT_EQ(s.NroRec, 0);
+    EXPECT_EQ(s.NroDur, 0);
+}
+
+// --- numbers in texts ----------------------------------------------------------------------------------
+
+TEST_F(Configuracion, N0DurVuelveComoFueEscrita)
+{
+    Lee(Con(26, "0.1"));
+    EXPECT_EQ(s.N0Dur, 0.1F);
+    EXPECT_EQ(s.frmConfigura.txtN0Dur, "0.1");
+    cmdAplicar(s);
+    EXPECT_EQ(Conf(), Junta(Con(26, "0.1")));
+    s.N0Dur = 0;
+    leoConf(s);
+    EXPECT_EQ(s.N0Dur, 0.1F);
+}
+
+TEST_F(Configuracion, LaEscalaDeImagenSeDetieneEnLaComaDecimal)
+{
+    Lee(Con(15, "\"12,5\""));
+    EXPECT_EQ(s.EscalaImagen, 12);
+    EXPECT_EQ(s.frmConfigura.TexIMGEscala, "12");
+}
+
+TEST_F(Configuracion, LaEscalaDeImagenTomaElNumeroDelComienzo)
+{
+    Lee(Con(15, "\" 75.5 % de zoom\""));
+    EXPECT_EQ(s.EscalaImagen, 75.5);
+    EXPECT_EQ(s.frmConfigura.TexIMGEscala, "75.5");
+}
+
+TEST_F(Configuracion, LosCorrimientosSeLeenComoTexto)
+{
+    Renglones r = Ejemplo();
+    r[19] = "\"7,5\"";
+    r[20] = "abc";
+    Lee(r);
+    EXPECT_EQ(Avisos(), Cajas{});
+    EXPECT_EQ(s.ImagenX0, 7.0F);
+    EXPECT_EQ(s.frmConfigura.TexIMGX0, "7");
+    EXPECT_EQ(s.ImagenY0, 0.0F);
+    EXPECT_EQ(s.frmConfigura.TexIMGY0, "0");
+}
+
+TEST_F(Configuracion, LaEscalaDelDibujoCambiaSuComaPorPunto)
+{
+    Lee(Con(28, "\"12,5 m\""));
+    EXPECT_EQ(s.frmConfigura.txtEscalaImagen, "12.5 m");
+    EXPECT_EQ(s.EscalaDibujo, "12.5");
+}
+
+TEST_F(Configuracion, LaEscalaDelDibujoEsUnNumeroDe64Bits)
+{
+    Lee(Con(28, "\"0.123456789012\""));
+    EXPECT_EQ(s.EscalaDibujo, "0.123456789012");  // a 32-bit float would end after 7 digits
+}
+
+// --- R 5000 --------------------------------------------------------------------------------------------
+
+struct CasoR5000 {
+    const char* campo500;
+    const char* campo5000;
+    std::vector<int> lista;
+};
+
+TEST_F(Configuracion, ElCampoDeR5000CaeEnLaBanderaDeR500)
+{
+    // Recurrencias: R 500 stands at index 9, R 5000 at 12.
+    for (const auto& [campo500, campo5000, lista] : std::vector<CasoR5000>{
+             {"1", "0", {500}}, {"0", "1", {5000}}, {"1", "1", {500, 5000}}, {"0", "0", {}}}) {
+        Renglones r = Ejemplo();
+        for (std::size_t i = 28; i < 42; ++i)
+            r[i] = "0";
+        r[37] = campo500;
+        r[40] = campo5000;
+        s.CheckR = {};
+        Lee(r);
+        EXPECT_EQ(s.CheckR[9], std::stoi(campo5000)) << campo500 << campo5000;
+        EXPECT_EQ(s.CheckR[12], 0);
+        EXPECT_EQ(s.frmConfigura.CheckR[9], std::stoi(campo500));
+        EXPECT_EQ(s.frmConfigura.CheckR[12], std::stoi(campo5000));
+        EXPECT_EQ(Valores(s.ListaRec), lista);
+    }
+}
+
+TEST_F(Configuracion, LaLecturaNoTocaLaBanderaDeR5000)
+{
+    s.CheckR[12] = 7;
+    Lee(Con(41, "1"));
+    EXPECT_EQ(s.CheckR[12], 7);
+}
+
+TEST_F(Configuracion, LasCasillasDeR500YR5000VuelvenDelGuardadoComoSeCargaron)
+{
+    Renglones r = Con(38, "0");
+    r[40] = "1";
+    Lee(r);
+    cmdAplicar(s);
+    EXPECT_EQ(Conf(), Junta(r));
+    leoConf(s);
+    EXPECT_EQ(s.frmConfigura.CheckR[9], 0);
+    EXPECT_EQ(s.frmConfigura.CheckR[12], 1);
+}
+
+// --- a project that has moved --------------------------------------------------------------------------
+
+TEST_F(Configuracion, UnProyectoEnOtraRutaSeReescribeEnElActo)
+{
+    Lee(Con(9, "\"/antes/aqui\""));
+    EXPECT_EQ(Avisos(), Cajas{CajaGuardado("/proy/Arroyo_Conf.vlm")});
+    EXPECT_EQ(s.DirProyectoConf, "/proy");
+    EXPECT_EQ(s.DirProyecto, "/proy");
+    EXPECT_EQ(s.frmConfigura.Dir1, "/proy");
+    EXPECT_EQ(Conf(), Junta(Ejemplo()));  // fields 8 and 9 tell the present place
+    EXPECT_EQ(s.NroRec, 4);
+    leoConf(s);
+    EXPECT_EQ(Avisos().size(), 1U);  // at home from now on
+}
+
+TEST_F(Configuracion, UnaUnidadEscritaEnOtraPlataformaEsUnaMudanza)
+{
+    Renglones r = Ejemplo();
+    r[7] = "\"c: [datos]\"";
+    r[8] = "\"C:/proy\"";
+    Lee(r);
+    EXPECT_EQ(Avisos(), Cajas{CajaGuardado("/proy/Arroyo_Conf.vlm")});
+    EXPECT_EQ(s.DriveProyecto, "c: [datos]");
+    EXPECT_EQ(s.frmConfigura.Drive1, "");  // a drive that isn't there leaves the control as it is
+    EXPECT_EQ(Conf(), Junta(Ejemplo()));
+}
+
+TEST_F(Configuracion, SinUnidadEnElCampo8RigeLaRuta)
+{
+    Lee(Con(8, ""));
+    EXPECT_EQ(Avisos(), Cajas{});
+    Lee(Con(9, "\"/otra\""));
+    EXPECT_EQ(Avisos(), Cajas{CajaGuardado("/proy/Arroyo_Conf.vlm")});
+}
+
+TEST_F(Configuracion, LasRutasSeComparanSinSuUnidad)
+{
+    Lee(Con(9, "\"D:/proy\""));  // the second character is a colon: what stands behind it counts
+    EXPECT_EQ(Avisos(), Cajas{});
+    EXPECT_EQ(s.DirProyecto, "D:/proy");
+}
+
+TEST_F(Configuracion, SinDosPuntosNadaSeQuitaDeLaRuta)
+{
+    Lee(Con(9, "\"xxroy\""));  // "/proy" and "xxroy" differ in their first two characters alone
+    EXPECT_EQ(Avisos(), Cajas{CajaGuardado("/proy/Arroyo_Conf.vlm")});
+}
+
+TEST_F(Configuracion, LaUnidadSeCuentaEnCaracteres)
+{
+    Lee(Con(9, "\"\xF1:/proy\""));  // ñ is two bytes in memory
+    EXPECT_EQ(Avisos(), Cajas{});
+    EXPECT_EQ(s.DirProyecto, "ñ:/proy");
+}
+
+TEST_F(Configuracion, UnDirectorioDeMenosDeDosLetrasSeComparaEntero)
+{
+    for (const char* const directorio : {"\"\"", "\"/\"", "\":\""}) {
+        OlvidaAvisos();
+        s.NombreProyecto = "Arroyo";
+        Lee(Con(9, directorio));
+        EXPECT_EQ(Avisos(), Cajas{CajaGuardado("/proy/Arroyo_Conf.vlm")}) << directorio;
+    }
+}
+
+TEST_F(Configuracion, LaReescrituraVaAlNombreDeAdentro)
+{
+    Renglones r = Con(1, "\"Otro\"");
+    r[8] = "\"/antes\"";
+    Lee(r);
+    EXPECT_EQ(Avisos(), Cajas{CajaGuardado("/proy/Otro_Conf.vlm")});
+    Renglones nueva = Con(1, "\"Otro\"");
+    EXPECT_EQ(disco.Bytes("/proy/Otro_Conf.vlm"), Junta(nueva));
+    EXPECT_EQ(disco.Bytes("/proy/Arroyo_Conf.vlm"), Junta(r));
+}
+
+TEST_F(Configuracion, LaReescrituraGuardaCadaCampoASuManera)
+{
+    Renglones r = Ejemplo();
+    r[8] = "\"/antes\"";
+    r[11] = "\"viejo_Conf.vlm\"";
+    r[14] = "\"12,5\"";
+    r[26] = "\"mil\"";
+    r[27] = "\"12,5 m\"";
+    Lee(r);
+    Renglones nueva = r;
+    nueva[8] = "\"/proy\"";
+    nueva[14] = "\"12\"";      // the control shows the number
+    nueva[27] = "\"12.5 m\"";  // the control's text, its comma a point; 12 and 27 as read
+    EXPECT_EQ(Conf(), Junta(nueva));
+}
+
+TEST_F(Configuracion, UnaReescrituraFallidaEsUnaFallaDeLaLectura)
+{
+    PonConf(Con(9, "\"/antes\""));
+    disco.FallaEn(2, NumeroFalla::AccesoRuta);  // 1: the reading
+    s.NroRec = 11;
+    leoConf(s);
+    EXPECT_EQ(Avisos(), Cajas{CajaAcceso});
+    EXPECT_EQ(s.NombreProyecto, "Arroyo");
+    EXPECT_EQ(s.NroRec, 11);
+}
+
+TEST_F(Configuracion, UnProyectoMudadoSinNombreNoEscribeNada)
+{
+    Renglones r = Con(1, "\"\"");
+    r[8] = "\"/antes\"";
+    Lee(r);
+    EXPECT_EQ(Avisos(), Cajas{});
+    EXPECT_EQ(Conf(), Junta(r));
+    EXPECT_EQ(s.DirProyectoConf, "/proy");
+}
+
+// --- failures of the reading ---------------------------------------------------------------------------
+
+TEST_F(Configuracion, UnArchivoDe58RenglonesEstaDanado)
+{
+    Renglones r = Ejemplo();
+    r.pop_back();
+    s.NroRec = 11;
+    Lee(r);
+    EXPECT_EQ(Avisos(), Cajas{CajaDanado("Arroyo")});
+    EXPECT_EQ(s.NombreProyecto, "");
+    EXPECT_EQ(s.TituloProyecto, "Crecidas, del río");  // what was read stays
+    EXPECT_EQ(s.CheckD[15], 0);
+    EXPECT_EQ(s.NroRec, 11);
+    EXPECT_EQ(Conf(), Junta(r));
+}
+
+TEST_F(Configuracion, UnArchivoVacioEstaDanadoYNombraAlProyectoEnMemoria)
+{
+    Lee({});
+    EXPECT_EQ(Avisos(), Cajas{CajaDanado("Arroyo")});
+    EXPECT_EQ(s.NombreProyecto, "");
+}
+
+TEST_F(Configuracion, ElAvisoDeDanadoLlevaElNombreDeAdentro)
+{
+    Lee({"\"Otro\"", "\"titulo\""});
+    EXPECT_EQ(Avisos(), Cajas{CajaDanado("Otro")});
+    EXPECT_EQ(s.TituloProyecto, "titulo");
+}
+
+TEST_F(Configuracion, UnArchivoDanadoQueSeMudoNoSeReescribe)
+{
+    Renglones r = Con(9, "\"/antes\"");
+    r.pop_back();
+    Lee(r);
+    EXPECT_EQ(Avisos(), Cajas{CajaDanado("Arroyo")});
+    EXPECT_EQ(Conf(), Junta(r));
+    EXPECT_EQ(s.DirProyectoConf, "/proy");
+}
+
+TEST_F(Configuracion, SinArchivoSeAvisaYElNombreQueda)
+{
+    s.TituloProyecto = "anterior";
+    leoConf(s);
+    EXPECT_EQ(Avisos(), Cajas{CajaNoEsta});
+    EXPECT_EQ(s.NombreProyecto, "Arroyo");
+    EXPECT_EQ(s.TituloProyecto, "anterior");
+    EXPECT_EQ(s.frmConfigura.Dir1, "/proy");
+}
+
+TEST_F(Configuracion, SinDirectorioSeAvisaLaRuta)
+{
+    s.DirProyecto = "/ido";
+    leoConf(s);
+    EXPECT_EQ(Avisos(), Cajas{CajaSinRuta});
+}
+
+TEST_F(Configuracion, UnArchivoIlegibleSeAvisa)
+{
+    PonConf(Ejemplo());
+    disco.FallaEn(1, NumeroFalla::AccesoRuta);
+    leoConf(s);
+    EXPECT_EQ(Avisos(), Cajas{CajaAcceso});
+    EXPECT_EQ(s.NombreProyecto, "Arroyo");
+}
+
+TEST_F(Configuracion, UnCampoDeOtroTipoDetieneLaLectura)
+{
+    s.frmConfigura.TexS = "anterior";
+    Lee(Con(13, "\"x\""));
+    EXPECT_EQ(Avisos(), Cajas{CajaTipos});
+    EXPECT_EQ(s.NombreProyecto, "Arroyo");
+    EXPECT_EQ(s.NombreArchivoConf, "Arroyo_Conf.vlm");  // field 12
+    EXPECT_EQ(s.ArchivoImagenDibujo, "Ninguno");        // field 14 keeps its value
+    EXPECT_EQ(s.frmConfigura.TexS, "anterior");
+    EXPECT_EQ(s.NroRec, 0);
+}
+
+/// What a bad value gives in a field of a class: nothing, or the box of a fault.
+struct MalValor {
+    const char* valor;
+    std::array<const Mensaje*, 6> caja;  ///< by Clase
+};
+
+TEST_F(Configuracion, CadaCampoConTextoEnormeONadaDaSuAviso)
+{
+    const Mensaje* const no = nullptr;
+    const auto valores = std::to_array<MalValor>({
+        //            Texto  NumeroEnTexto   SimpleEnTexto   Entero          Simple          Logico
+        {"\"x\"", {no, no, no, &CajaTipos, &CajaTipos, &CajaTipos}},
+        {"12x", {no, no, no, &CajaTipos, &CajaTipos, &CajaTipos}},
+        {"40000", {no, no, no, &CajaDesborde, no, no}},
+        {"-99999999", {no, no, no, &CajaDesborde, no, no}},
+        {"1E300", {no, no, &CajaDesborde, &CajaDesborde, &CajaDesborde, no}},
+        {"1E999", {no, &CajaDesborde, &CajaDesborde, &CajaDesborde, &CajaDesborde, nullptr}},
+        {"#TRUE#", {no, no, no, &CajaTipos, &CajaTipos, no}},
+        {"", {no, no, no, no, no, no}},
+    });
+    for (std::size_t campo = 1; campo <= NroCampos; ++campo) {
+        if (campo == 8 || campo == 9) continue;  // where they are wrong the project has moved: told above
+        for (const MalValor& malo : valores) {
+            const Clase clase = ClaseDe(campo);
+            if (clase == Clase::Logico && std::string_view(malo.valor) == "1E999") continue;
+            ProyectoDePrueba otro;
+            const std::string bytes = Junta(Con(campo, malo.valor));
+            otro.Pon("_Conf.vlm", bytes);
+            leoConf(otro.s);
+            const Mensaje* const caja = malo.caja[static_cast<std::size_t>(clase)];
+            EXPECT_EQ(otro.Avisos(), caja == nullptr ? Cajas{} : Cajas{*caja}) << campo << ": " << malo.valor;
+            EXPECT_EQ(otro.Bytes("_Conf.vlm"), bytes);
+            EXPECT_EQ(otro.s.NroDur,
+                      caja == nullptr ? (campo == 43 || campo == 48 || campo == 59 ? 2 : 3) : 0)
+                << campo << ": " << malo.valor;
+        }
+    }
+}
+
+/// A cut inside a boolean leaves a field that is no boolean; any other cut ends the file early.
+bool CortaUnLogico(const std::string& bytes, std::size_t largo)
+{
+    const std::size_t comienzo = bytes.rfind('\n', largo - 1) + 1;
+    return comienzo < largo && bytes[comienzo] == '#' && bytes.find('\r', comienzo) > largo;
+}
+
+TEST_F(Configuracion, ElArchivoCortadoEnCadaByteAvisaUnaVezYNoSeToca)
+{
+    const std::string bytes = Junta(Ejemplo());
+    for (std::size_t largo = 1; largo < bytes.size(); ++largo) {
+        ProyectoDePrueba otro;
+        otro.Pon("_Conf.vlm", bytes.substr(0, largo));
+        leoConf(otro.s);
+        ASSERT_EQ(otro.Bytes("_Conf.vlm"), bytes.substr(0, largo));
+        if (largo >= bytes.size() - 2) {  // the last field stands whole
+            EXPECT_EQ(otro.Avisos(), Cajas{});
+        } else if (CortaUnLogico(bytes, largo)) {
+            EXPECT_EQ(otro.Avisos(), Cajas{CajaTipos}) << largo;
+            EXPECT_EQ(otro.s.NombreProyecto, "Arroyo");
+        } else {
+            // The name, quoted, is cut from the second byte to the seventh.
+            const std::string nombre = largo < 7 ? bytes.substr(1, largo - 1) : "Arroyo";
+            EXPECT_EQ(otro.Avisos(), Cajas{CajaDanado(nombre)}) << largo;
+            EXPECT_EQ(otro.s.NombreProyecto, "");
+        }
+    }
+}
+
+TEST_F(Configuracion, UnArchivoBinarioNoHaceDano)
+{
+    std::string bytes;
+    for (int i = 0; i < 4096; ++i)
+        bytes.push_back(static_cast<char>((i * 7919) % 251));
+    Pon("_Conf.vlm", bytes);
+    leoConf(s);
+    EXPECT_EQ(Avisos().size(), 1U);
+}
+
+// --- writing -------------------------------------------------------------------------------------------
+
+TEST_F(Configuracion, SinNombreDeProyectoAplicarSoloTomaElDirectorio)
+{
+    s.NombreProyecto.clear();
+    s.ProyectoNuevo = true;
+    s.frmConfigura.Dir1 = "/elegido";
+    s.frmConfigura.Drive1 = "x:";
+    s.frmConfigura.chkImagenDibujo = 1;
+    cmdAplicar(s);
+    EXPECT_EQ(s.DirProyectoConf, "/elegido");
+    EXPECT_EQ(s.DriveProyecto, "x:");
+    EXPECT_EQ(s.DirProyecto, "/proy");
+    EXPECT_EQ(s.frmConfigura.chkImagenDibujo, 1);
+    EXPECT_EQ(Avisos(), Cajas{});
+    EXPECT_TRUE(disco.Archivos().empty());
+    EXPECT_TRUE(s.ProyectoNuevo);
+}
+
+TEST_F(Configuracion, AplicarEscribeLos59CamposDeLosControles)
+{
+    ControlesConfigura& c = s.frmConfigura;
+    c.TextProyecto = "Crecidas, del río";
+    c.TextUbica = "Lugar";
+    c.TextCuenca = "Cuenca";
+    c.TextSbca = "Subcuenca";
+    c.TextOpera = "Operador";
+    c.txtFecha = "03/04/2011";
+    c.Dir1 = "/proy";
+    c.TextDirNv = "nuevo";
+    c.lblMiArchivoConf = "Arroyo_Conf.vlm";
+    c.chkImagenDibujo = 1;
+    c.lblImagenDibujo = "/proy/mapa.bmp";
+    c.TexIMGEscala = "150";
+    c.TexS = "nota";
+    c.Optiona = c.Optionc = c.OptionHr = c.Optionm3 = true;
+    c.txtMaxUEHsPixel = "900";
+    c.txtEscalaImagen = "2.5";
+    c.CheckR = {1, 0, 1, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 1};
+    c.CheckD = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1};
+    s.ImagenX0 = 12.5F;
+    s.ImagenY0 = -3;
+    s.N0Dur = 45.25F;
+    s.ProyectoNuevo = true;
+    s.DirProyecto = "/otro";
+    cmdAplicar(s);
+    EXPECT_EQ(disco.Bytes("/proy/Arroyo_Conf.vlm"), Junta(Ejemplo()));
+    EXPECT_EQ(Avisos(), Cajas{CajaGuardado("/proy/Arroyo_Conf.vlm")});
+    EXPECT_EQ(s.ArchivoTemp, "/proy/Arroyo_Conf.vlm");
+    EXPECT_EQ(s.DirProyecto, "/proy");
+    EXPECT_FALSE(s.ProyectoNuevo);
+}
+
+TEST_F(Configuracion, CorrimientosYN0DurSalenDeLasVariablesYNoDeLosControles)
+{
+    Lee(Ejemplo());
+    s.frmConfigura.TexIMGX0 = s.frmConfigura.TexIMGY0 = s.frmConfigura.txtN0Dur = "777";
+    cmdAplicar(s);
+    EXPECT_EQ(Conf(), Junta(Ejemplo()));
+}
+
+TEST_F(Configuracion, LaEscalaDeImagenSeEscribeComoElTextoDelControl)
+{
+    Lee(Ejemplo());
+    s.EscalaImagen = 33;
+    s.frmConfigura.TexIMGEscala = "80,5";
+    cmdAplicar(s);
+    EXPECT_EQ(Conf(), Junta(Con(15, "\"80,5\"")));
+}
+
+TEST_F(Configuracion, UnaImagenTildadaSinArchivoSeDestildaAlAplicar)
+{
+    Lee(Con(14, "\"Ninguno\""));
+    cmdAplicar(s);
+    EXPECT_EQ(s.frmConfigura.chkImagenDibujo, 0);
+    EXPECT_EQ(s.ArchivoImagen, "");
+    EXPECT_EQ(s.frmConfigura.lblImagenDibujo, "Ninguno");
+    Renglones r = Con(14, "\"Ninguno\"");
+    r[12] = "0";
+    EXPECT_EQ(Conf(), Junta(r));
+}
+
+TEST_F(Configuracion, UnaImagenSinTildarConservaSuArchivo)
+{
+    Lee(Con(13, "0"));
+    cmdAplicar(s);
+    EXPECT_EQ(s.ArchivoImagen, "/proy/mapa.bmp");
+}
+
+TEST_F(Configuracion, AplicarSinDondeEscribirEsUnaFalla)
+{
+    s.frmConfigura.Dir1 = "/ido";
+    s.ProyectoNuevo = true;
+    EXPECT_EQ(apoyo::NumeroDeFalla([&] { cmdAplicar(s); }), 76);
+    s.frmConfigura.Dir1 = "/proy";
+    disco.FallaEn(1, NumeroFalla::AccesoRuta);
+    EXPECT_EQ(apoyo::NumeroDeFalla([&] { cmdAplicar(s); }), 75);
+    EXPECT_EQ(Avisos(), Cajas{});
+    EXPECT_TRUE(s.ProyectoNuevo);
+}
+
+TEST_F(Configuracion, LeerYAplicarDejaLosMismosBytes)
+{
+    Lee(Ejemplo());
+    cmdAplicar(s);
+    EXPECT_EQ(Conf(), Junta(Ejemplo()));
+}
+
+// --- selections by default -----------------------------------------------------------------------------
+
+TEST(SeleccionPorDefecto, LasRecurrenciasSonLasDelDiseno)
+{
+    ControlesConfigura c;
+    c.CheckR.fill(2);
+    c.CheckD.fill(2);
+    BtnRecuDef(c);
+    // 2 5 10 20 25 40 50 100 200, not 500, 1000, not 2000 5000 10000
+    EXPECT_EQ(c.CheckR, (std::array<std::int16_t, 14>{1, 1, 1, 1, 1, 1, 1, 1, 1, 0, 1, 0, 0, 0}));
+    EXPECT_EQ(c.CheckD[0], 2);
+}
+
+TEST(SeleccionPorDefecto, LasDuracionesSonLasDelDiseno)
+{
+    ControlesConfigura c;
+    c.CheckR.fill(2);
+    BtnDurDef(c);
+    // not 5, 10, not 15, 20 30 60 90 120 180 240 300 360 540 720 1080 1440, not 2880
+    EXPECT_EQ(c.CheckD, (std::array<std::int16_t, 17>{0, 1, 0, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 0}));
+    EXPECT_EQ(c.CheckR[0], 2);
+}
+
+TEST(SeleccionPorDefecto, LosCamposSinLeerTienenSuValorDeOrigen)
+{
+    const Siro s;
+    EXPECT_EQ(s.FechaProyecto, "01/02/2006");
+    EXPECT_EQ(s.CheckDistriPp, 1);
+    EXPECT_EQ(s.ArchivoImagenDibujo, "Ninguno");
+    EXPECT_EQ(s.N0Dur, 10);
+    EXPECT_EQ(s.MaxUEHsPixel, "800");
+    EXPECT_EQ(s.EscalaDibujo, "0");
+}
+
+// --- round trips ---------------------------------------------------------------------------------------
+
+/// Controls as a user could leave them. Numbers are whole hundredths below 100000: 7 digits tell them.
+ControlesConfigura ControlesAlAzar()
+{
+    ControlesConfigura c;
+    for (std::string* texto : {&c.TextProyecto, &c.TextUbica, &c.TextCuenca, &c.TextSbca, &c.TextOpera,
+                               &c.txtFecha, &c.TextDirNv, &c.lblMiArchivoConf, &c.TexS, &c.txtMaxUEHsPixel})
+        *texto = TextoAlAzar();
+    c.Dir1 = "/proy";
+    for (std::int16_t* marca : {&c.CheckDistriPp, &c.chkImagenDibujo})
+        *marca = *rc::gen::inRange<std::int16_t>(0, 2);
+    c.lblImagenDibujo = "mapa.bmp";
+    c.TexIMGEscala = std::to_string(*rc::gen::inRange(0, 1001));
+    for (bool* opcion :
+         {&c.Optiona, &c.Optionb, &c.Optionc, &c.OptionMin, &c.OptionHr, &c.Optionm3, &c.OptionLt})
+        *opcion = *rc::gen::arbitrary<bool>();
+    c.txtEscalaImagen = std::to_string(*rc::gen::inRange(0, 50001));
+    for (std::int16_t& marca : c.CheckR)
+        marca = *rc::gen::arbitrary<std::int16_t>();
+    for (std::int16_t& marca : c.CheckD)
+        marca = *rc::gen::inRange<std::int16_t>(0, 2);
+    return c;
+}
+
+RC_GTEST_PROP(ConfiguracionIdaYVuelta, LoGuardadoVuelveIgual, ())
+{
+    ProyectoDePrueba a;
+    a.s.frmConfigura = ControlesAlAzar();
+    a.s.N0Dur = SimpleAlAzar();
+    a.s.ImagenX0 = SimpleAlAzar();
+    a.s.ImagenY0 = SimpleAlAzar();
+    cmdAplicar(a.s);
+    const std::string bytes = a.Bytes("_Conf.vlm");
+
+    ProyectoDePrueba b;
+    b.Pon("_Conf.vlm", bytes);
+    leoConf(b.s);
+    RC_ASSERT(b.Avisos().empty());
+    RC_ASSERT(b.s.N0Dur == a.s.N0Dur);
+    RC_ASSERT(b.s.ImagenX0 == a.s.ImagenX0);
+    RC_ASSERT(b.s.ImagenY0 == a.s.ImagenY0);
+    ControlesConfigura leidos = b.s.frmConfigura;
+    leidos.TexIMGX0 = leidos.TexIMGY0 = {};  // shown by the reader, not in the file
+    leidos.txtN0Dur = a.s.frmConfigura.txtN0Dur;
+    RC_ASSERT(leidos == a.s.frmConfigura);
+
+    cmdAplicar(b.s);
+    RC_ASSERT(b.Bytes("_Conf.vlm") == bytes);
+}
+
+// --- the disk gives way --------------------------------------------------------------------------------
+
+TEST(ConfiguracionSinDisco, CadaLlamadaQueFallaDaSuAvisoYNadaMas)
+{
+    bool hubo = true;
+    int llamada = 0;
+    while (hubo) {
+        ++llamada;
+        ASSERT_LT(llamada, 20);
+        ProyectoDePrueba p;
+        p.Pon("_Conf.vlm", Junta(Con(9, "\"/antes\"")));
+        p.disco.FallaEn(llamada, NumeroFalla::AccesoRuta);
+        leoConf(p.s);
+        hubo = p.disco.HuboFalla();
+        EXPECT_EQ(p.Avisos(), hubo ? Cajas{CajaAcceso} : Cajas{CajaGuardado("/proy/Arroyo_Conf.vlm")});
+        EXPECT_EQ(p.s.NombreProyecto, "Arroyo");
+    }
+    EXPECT_GE(llamada, 3);  // a reading and at least one writing
+}
+
+}  // namespace

@@ -1,0 +1,419 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "RedDePrueba.h"
+#include "apoyo/Compara.h"
+#include "model/Componentes.h"
+#include "model/Falla.h"
+#include "model/Siro.h"
+
+using namespace model;
+
+namespace {
+
+struct GuardaComponentes : ConRed {};
+
+TEST_F(GuardaComponentes, CargarYGuardarDejaLosMismosBytes)
+{
+    Red red = RedDeEjemplo();
+    red.cauces[1][7] = "1";  // c-2 has one tributary of order 1 and takes its order
+    Lee(red.Bytes(), VerticesDeEjemplo);
+    mnu_btn_toolbarGuardaUEHs(s);
+    EXPECT_TRUE(apoyo::MismoTexto(red.Bytes(), Uehs()));
+    EXPECT_TRUE(apoyo::MismoTexto(VerticesDeEjemplo, VerCau()));
+    EXPECT_EQ(Avisos(), Cajas{CajaGuardado("/proy/Arroyo_VerCau.vlm")});
+    EXPECT_EQ(anfitrion->redibujos, 1);
+    EXPECT_EQ(anfitrion->verificacionHabilitada, 2);
+}
+
+TEST_F(GuardaComponentes, GuardarUnSoloCauceInformaLaRutaDeLosVertices)
+{
+    s.ColCauces.Agrega({.numCauce = 1, .NombreCauce = "c-1"});
+    s.NroCauces = 1;
+    s.XVertice.Dimensiona(70, 1);
+    s.YVertice.Dimensiona(70, 1);
+    mnu_btn_toolbarGuardaUEHs(s);
+    EXPECT_EQ(Avisos(), Cajas{CajaGuardado("/proy/Arroyo_VerCau.vlm")});
+    EXPECT_EQ(s.ArchivoTemp, "/proy/Arroyo_VerCau.vlm");
+    EXPECT_EQ(Uehs(),
+              "\"Arroyo\"\r\n1\r\n"
+              "1\r\n\"c-1\"\r\n0\r\n0\r\n\"\"\r\n0\r\n0\r\n1\r\n0\r\n0\r\n#FALSE#\r\n"
+              "0\r\n0\r\n0\r\n");
+    EXPECT_EQ(VerCau(), "");
+}
+
+TEST_F(GuardaComponentes, UnMetodoSinFijarSeEscribeComoRenglonVacio)
+{
+    s.ColLagos.Agrega({.NombreLAGO = "l-1"});
+    s.NroLagos = 1;
+    mnu_btn_toolbarGuardaUEHs(s);
+    EXPECT_EQ(Uehs(),
+              "\"Arroyo\"\r\n0\r\n0\r\n0\r\n1\r\n"
+              "0\r\n\"l-1\"\r\n\"\"\r\n\r\n0\r\n0\r\n0\r\n0\r\n\"\"\r\n0\r\n0\r\n");
+    EXPECT_EQ(s.Lagos(1).Metodo, "");
+    EXPECT_EQ(Avisos().size(), 1U);
+}
+
+TEST_F(GuardaComponentes, LosNumerosSeEscribenComoEstanEnLosObjetos)
+{
+    s.ColLagos.Agrega({.NombreLAGO = "l-1", .numLAGO = 55, .Metodo = "Muskingum"});
+    s.NroLagos = 1;
+    mnu_btn_toolbarGuardaUEHs(s);
+    EXPECT_NE(Uehs().find("1\r\n55\r\n\"l-1\""), std::string::npos);
+    EXPECT_EQ(s.Lagos(1).numLAGO, 1);  // and the load numbers anew
+}
+
+TEST_F(GuardaComponentes, LosFlotantesSeEscribenConSieteDigitos)
+{
+    s.ColUEHs.Agrega({.NombreUEH = "u-1", .Area = 1.0F / 3, .LongitudMax = 12345678, .VelMedia = 1E-5F});
+    s.NroUEHs = 1;
+    mnu_btn_toolbarGuardaUEHs(s);
+    EXPECT_NE(Uehs().find("\r\n0.3333333\r\n\"\"\r\n1.234568E+07\r\n1E-05\r\n"), std::string::npos);
+}
+
+TEST_F(GuardaComponentes, UnNombreConComaSobreviveYUnoConComillasNo)
+{
+    s.ColUEHs.Agrega({.NombreUEH = "u-a, b", .Metodo = "Directo"});
+    s.ColUEHs.Agrega({.NombreUEH = "u-\"c\"", .Metodo = "Directo"});
+    s.NroUEHs = 2;
+    mnu_btn_toolbarGuardaUEHs(s);
+    EXPECT_EQ(s.UEHs(1).NombreUEH, "u-a, b");
+    EXPECT_EQ(s.UEHs(2).NombreUEH, "u-");
+}
+
+TEST_F(GuardaComponentes, TrasQuitarElCauce2De3ElTerceroEsElSegundo)
+{
+    Lee(Red{.cauces = {RegistroCauce("c-1", 1), RegistroCauce("c-2", 1), RegistroCauce("c-3", 1)}}.Bytes(),
+        "1,1\r\n2,2\r\n3,3\r\n");
+    // The editor's part: the object leaves the collection, the drawing's rows move down.
+    s.ColCauces.Quita(2);
+    s.NroVertices(2) = s.NroVertices(3);
+    s.XVertice(2, 1) = s.XVertice(3, 1);
+    s.YVertice(2, 1) = s.YVertice(3, 1);
+    mnu_btn_toolbarGuardaUEHs(s);
+    EXPECT_EQ(s.NroCauces, 2);  // taken from the collection
+    EXPECT_NE(Uehs().find("\r\n3\r\n\"c-3\""), std::string::npos);
+    EXPECT_EQ(s.Cauces(2).NombreCauce, "c-3");
+    EXPECT_EQ(s.Cauces(2).numCauce, 2);
+    EXPECT_EQ(s.XVertice(2, 1), 3);
+}
+
+TEST_F(GuardaComponentes, LosVerticesSeGuardanPorNumeroYNoPorColeccion)
+{
+    Lee(Red{.cauces = {RegistroCauce("c-1", 1), RegistroCauce("c-2", 2)}}.Bytes(), "1,1\r\n2,2\r\n3,3\r\n");
+    std::swap(s.ColCauces.Item(1), s.ColCauces.Item(2));
+    mnu_btn_toolbarGuardaUEHs(s);
+    EXPECT_EQ(VerCau(), "1,1\r\n2,2\r\n3,3\r\n");
+    EXPECT_EQ(s.XVertice(1, 2), 2);  // c-2, now the first, says that it has two
+}
+
+TEST_F(GuardaComponentes, LasOtrasCuentasSalenDeSusVariables)
+{
+    s.ColUEHs.Agrega({.NombreUEH = "u-1", .Metodo = "Directo"});
+    s.ColUEHs.Agrega({.NombreUEH = "u-2", .Metodo = "Directo"});
+    s.NroUEHs = 1;
+    mnu_btn_toolbarGuardaUEHs(s);
+    EXPECT_EQ(Uehs().substr(0, 16), "\"Arroyo\"\r\n0\r\n1\r\n");
+    EXPECT_NE(Uehs().find("u-2"), std::string::npos);  // the collection is written whole
+}
+
+TEST_F(GuardaComponentes, ElOrdenSeCalculaAntesDeGuardar)
+{
+    Lee(Red{.cauces = {RegistroCauce("c-1", 0, "c-3"), RegistroCauce("c-2", 0, "c-3"), RegistroCauce("c-3")}}
+            .Bytes(),
+        "");
+    mnu_btn_toolbarGuardaUEHs(s);
+    EXPECT_EQ(s.Cauces(3).OrdenCauce, 2);
+}
+
+// --- an empty network ----------------------------------------------------------------------------------
+
+TEST_F(GuardaComponentes, SinComponentesSeBorranLosDosArchivosSinAviso)
+{
+    Pon("_UEHs.vlm", "viejo");
+    Pon("_VerCau.vlm", "viejo");
+    disco.Pon("/proy/Arroyo_RHQ.vlm", "queda");
+    mnu_btn_toolbarGuardaUEHs(s);
+    EXPECT_EQ(disco.Archivos(), std::vector<std::string>{"/proy/Arroyo_RHQ.vlm"});
+    EXPECT_EQ(Avisos(), Cajas{});
+    EXPECT_EQ(anfitrion->redibujos, 0);
+}
+
+TEST_F(GuardaComponentes, SinComponentesNiArchivosNoPasaNada)
+{
+    mnu_btn_toolbarGuardaUEHs(s);
+    EXPECT_EQ(Avisos(), Cajas{});
+    EXPECT_TRUE(disco.Archivos().empty());
+}
+
+TEST_F(GuardaComponentes, SinElPrimerArchivoElComandoTerminaAhi)
+{
+    Pon("_VerCau.vlm", "queda");
+    mnu_btn_toolbarGuardaUEHs(s);
+    EXPECT_EQ(Avisos(), Cajas{});
+    EXPECT_EQ(VerCau(), "queda");
+}
+
+TEST_F(GuardaComponentes, UnArchivoQueNoSePuedeBorrarSeInformaYSigueElOtro)
+{
+    Pon("_UEHs.vlm", "queda");
+    Pon("_VerCau.vlm", "se va");
+    disco.Protege("/proy/Arroyo_UEHs.vlm");
+    mnu_btn_toolbarGuardaUEHs(s);
+    EXPECT_EQ(Avisos(), Cajas{CajaAcceso});
+    EXPECT_EQ(disco.Archivos(), std::vector<std::string>{"/proy/Arroyo_UEHs.vlm"});
+}
+
+TEST_F(GuardaComponentes, LasCuentasDecidenYNoLasColecciones)
+{
+    Pon("_UEHs.vlm", "viejo");
+    s.ColCauces.Agrega({.NombreCauce = "c-1"});  // as a load without vertices leaves it
+    mnu_btn_toolbarGuardaUEHs(s);
+    EXPECT_TRUE(disco.Archivos().empty());
+}
+
+// --- a disk that gives way -----------------------------------------------------------------------------
+
+TEST_F(GuardaComponentes, SiNoSePuedenAbrirCadaEscrituraAvisa)
+{
+    LeeEjemplo();
+    OlvidaAvisos();
+    disco.Protege("/proy/Arroyo_UEHs.vlm");
+    disco.Protege("/proy/Arroyo_VerCau.vlm");
+    mnu_btn_toolbarGuardaUEHs(s);
+    // An opening and 1 + 4 + 2 x 11 + 18 + 56 + 11 fields; an opening and 5 pairs. Then the load and the
+    // message go on as ever.
+    EXPECT_EQ(Avisos(), Veces(1 + 112 + 1 + 5, CajaAcceso) + Cajas{CajaGuardado("/proy/Arroyo_VerCau.vlm")});
+    EXPECT_TRUE(apoyo::MismoTexto(RedDeEjemplo().Bytes(), Uehs()));
+    EXPECT_EQ(Cuentas(), (std::vector<int>{2, 1, 1, 1}));
+    EXPECT_EQ(anfitrion->redibujos, 1);
+}
+
+TEST_F(GuardaComponentes, SinDirectorioCadaEscrituraYLaCargaAvisan)
+{
+    s.ColLagos.Agrega({.NombreLAGO = "l-1"});
+    s.NroLagos = 1;
+    s.DirProyecto = "/ido";
+    mnu_btn_toolbarGuardaUEHs(s);
+    // Opening, name, four counts, 11 fields; the opening of the vertices; the seven of the load.
+    EXPECT_EQ(Avisos(),
+              Veces(1 + 5 + 11 + 1 + 7, CajaSinRuta) + Cajas{CajaGuardado("/ido/Arroyo_VerCau.vlm")});
+    EXPECT_EQ(s.NroLagos, 0);
+}
+
+TEST_F(GuardaComponentes, UnDiscoLlenoDejaUnArchivoCortoQueLaCargaVe)
+{
+    LeeEjemplo();
+    OlvidaAvisos();
+    disco.LimitaEspacio(40 + VerticesDeEjemplo.size());
+    mnu_btn_toolbarGuardaUEHs(s);
+    const Cajas avisos = Avisos();
+    ASSERT_GE(avisos.size(), 3U);
+    EXPECT_EQ(avisos.front(), CajaAcceso);
+    EXPECT_EQ(avisos[avisos.size() - 2], CajaDanado);
+    EXPECT_EQ(avisos.back(), CajaGuardado("/proy/Arroyo_UEHs.vlm"));  // the load named no file after it
+    EXPECT_EQ(Uehs(), RedDeEjemplo().Bytes().substr(0, 40));
+}
+
+TEST_F(GuardaComponentes, UnVerticeSinLugarCierraElArchivoYLosQueSiguenFallan)
+{
+    for (const char* const nombre : {"c-1", "c-2"})
+        s.ColCauces.Agrega({.NombreCauce = nombre});
+    s.NroCauces = 2;
+    s.NroVertices(1) = 2;
+    s.NroVertices(2) = 1;
+    s.XVertice.Dimensiona(70, 1);
+    s.YVertice.Dimensiona(70, 1);
+    s.XVertice(1, 1) = 3;
+    mnu_btn_toolbarGuardaUEHs(s);
+    // Pair (1,2) lies outside and closes the file with pair (1,1) in it; pair (2,1) finds it closed. The load
+    // then reads no vertices at all, since the objects say 0.
+    EXPECT_EQ(Avisos(), (Cajas{CajaSubindice, CajaAcceso, CajaGuardado("/proy/Arroyo_VerCau.vlm")}));
+    EXPECT_EQ(VerCau(), "3,0\r\n");
+}
+
+TEST_F(GuardaComponentes, GuardarMasDe70CaucesInformaCadaVerticeSinFila)
+{
+    for (int i = 1; i <= 102; ++i)
+        s.ColCauces.Agrega({.NombreCauce = "c-" + std::to_string(i)});
+    s.NroCauces = 102;
+    s.NroVertices(71) = 2;
+    s.XVertice.Dimensiona(70, 1);
+    s.YVertice.Dimensiona(70, 1);
+    mnu_btn_toolbarGuardaUEHs(s);
+    // Writing: two pairs of 71, the vertex counts of 101 and 102. Loading: 32 slots, two vertex counts, then
+    // test and bound of 101 and 102; NroVertices(71) is the object's 0 by then.
+    EXPECT_EQ(Avisos(),
+              Veces(2 + 2 + 32 + 2 + 4, CajaSubindice) + Cajas{CajaGuardado("/proy/Arroyo_VerCau.vlm")});
+}
+
+// =======================================================================================================
+// Round trips and the disk's failures
+// =======================================================================================================
+
+Cauce CauceAlAzar(int n)
+{
+    return {.numCauce = static_cast<std::int16_t>(n),
+            .numVertices = *rc::gen::inRange<std::int16_t>(0, 6),
+            .IndiceParInicial = *rc::gen::arbitrary<std::int16_t>(),
+            .NombreCauce = TextoAlAzar(),
+            .Cauce_aa = TextoAlAzar(),
+            .LongCauce = SimpleAlAzar(),
+            .VelMediaCauce = SimpleAlAzar(),
+            .Cauce_k_Musk = SimpleAlAzar(),
+            .Cauce_n_Musk = SimpleAlAzar(),
+            .optDirMusk = *rc::gen::arbitrary<bool>()};
+}
+
+UEH UEHAlAzar(int n)
+{
+    UEH u{.NombreUEH = TextoAlAzar(), .Referencia = TextoAlAzar(), .Metodo = TextoAlAzar()};
+    u.numUEH = static_cast<std::int16_t>(n);
+    u.Cauce_aa = TextoAlAzar();
+    for (float UEH::*x : {&UEH::Area, &UEH::LongitudMax, &UEH::VelMedia, &UEH::IconoUEHx, &UEH::IconoUEHy,
+                          &UEH::XCauce, &UEH::YCauce, &UEH::KostiakovA, &UEH::KostiakovB, &UEH::RetensionZ,
+                          &UEH::Q0Recesion, &UEH::KRecesion, &UEH::KostiakovI})
+        u.*x = SimpleAlAzar();
+    return u;
+}
+
+Represa RepresaAlAzar(int n)
+{
+    Represa r{.NombreRepresa = TextoAlAzar(), .numRepresa = static_cast<std::int16_t>(n)};
+    r.Metodo = TextoAlAzar();
+    r.Cauce_aa = TextoAlAzar();
+    for (float Represa::*x :
+         {&Represa::IconoRepresaX, &Represa::IconoRepresaY, &Represa::XCauce, &Represa::YCauce,
+          &Represa::Represa_k_Musk, &Represa::Represa_n_Musk, &Represa::HInicialEmb})
+        r.*x = SimpleAlAzar();
+    for (auto* xs : {&r.FQa, &r.FQb, &r.FQmin, &r.FQMax})
+        for (float& x : *xs)
+            x = SimpleAlAzar();
+    for (std::size_t i = 4; i < r.FQc.size(); ++i)
+        r.FQc[i] = SimpleAlAzar();
+    for (std::int16_t& x : r.chkFQ)
+        x = *rc::gen::arbitrary<std::int16_t>();
+    r.optTabla = *rc::gen::arbitrary<bool>();
+    return r;
+}
+
+Lago LagoAlAzar(int n)
+{
+    Lago l{.NombreLAGO = TextoAlAzar(), .numLAGO = static_cast<std::int16_t>(n), .Referencia = TextoAlAzar()};
+    l.Metodo = TextoAlAzar();
+    l.Cauce_aa = TextoAlAzar();
+    for (float Lago::*x : {&Lago::IconoLAGOx, &Lago::IconoLAGOy, &Lago::XCauce, &Lago::YCauce,
+                           &Lago::Lago_k_Musk, &Lago::HInicialEmb})
+        l.*x = SimpleAlAzar();
+    return l;
+}
+
+template <typename C, typename F>
+std::int16_t Llena(C& coleccion, F alAzar, int alMenos = 0)
+{
+    const int cuantos = *rc::gen::inRange(alMenos, 4);
+    for (int n = 1; n <= cuantos; ++n)
+        coleccion.Agrega(alAzar(n));
+    return static_cast<std::int16_t>(cuantos);
+}
+
+RC_GTEST_PROP(ComponentesIdaYVuelta, LoGuardadoVuelveIgual, ())
+{
+    ProyectoDePrueba p;
+    Siro& s = p.s;
+    s.NroCauces = Llena(s.ColCauces, CauceAlAzar);
+    s.NroUEHs = Llena(s.ColUEHs, UEHAlAzar, 1);
+    s.NroRepresas = Llena(s.ColRepresas, RepresaAlAzar);
+    s.NroLagos = Llena(s.ColLagos, LagoAlAzar);
+    int mayor = 0;
+    for (const Cauce& c : s.ColCauces)
+        mayor = std::max(mayor, int{c.numVertices});
+    s.XVertice.Dimensiona(70, mayor);
+    s.YVertice.Dimensiona(70, mayor);
+    for (const Cauce& c : s.ColCauces) {
+        s.NroVertices(c.numCauce) = c.numVertices;
+        for (int j = 1; j <= c.numVertices; ++j) {
+            s.XVertice(c.numCauce, j) = SimpleAlAzar();
+            s.YVertice(c.numCauce, j) = SimpleAlAzar();
+        }
+    }
+    const auto cauces = s.ColCauces;
+    const auto uehs = s.ColUEHs;
+    const auto represas = s.ColRepresas;
+    const auto lagos = s.ColLagos;
+    const auto x = s.XVertice;
+    const auto y = s.YVertice;
+
+    mnu_btn_toolbarGuardaUEHs(s);  // and reads again
+    RC_ASSERT(p.Avisos() == Cajas{CajaGuardado("/proy/Arroyo_VerCau.vlm")});
+    for (Cauce& c : s.ColCauces)
+        c.OrdenCauce = 0;
+    RC_ASSERT(s.ColCauces == cauces);
+    RC_ASSERT(s.ColUEHs == uehs);
+    RC_ASSERT(s.ColRepresas == represas);
+    RC_ASSERT(s.ColLagos == lagos);
+    RC_ASSERT(s.XVertice == x);
+    RC_ASSERT(s.YVertice == y);
+
+    const std::string bytesUEHs = p.Bytes("_UEHs.vlm");
+    const std::string bytesVerCau = p.Bytes("_VerCau.vlm");
+    mnu_btn_toolbarGuardaUEHs(s);
+    RC_ASSERT(p.Bytes("_UEHs.vlm") == bytesUEHs);
+    RC_ASSERT(p.Bytes("_VerCau.vlm") == bytesVerCau);
+}
+
+TEST(ComponentesSinDisco, LaCargaSobreviveALaFallaDeCadaLlamada)
+{
+    // Reading one file fails: its opening and what is read of it, then the other file as ever.
+    const std::vector<Cajas> esperadas{
+        {},                        // none yet: places count from 1
+        Veces(1 + 5, CajaAcceso),  // _UEHs: opening, name, four counts; _VerCau has nobody to read for
+        Veces(1 + 5, CajaAcceso),  // _VerCau: opening, five pairs
+        {},                        // no third call
+    };
+    for (int llamada = 1; llamada <= 3; ++llamada) {
+        ProyectoDePrueba p;
+        p.Pon("_UEHs.vlm", RedDeEjemplo().Bytes());
+        p.Pon("_VerCau.vlm", VerticesDeEjemplo);
+        p.disco.FallaEn(llamada, NumeroFalla::AccesoRuta);
+        LeeUEHs(p.s);
+        EXPECT_EQ(p.disco.HuboFalla(), llamada < 3);
+        EXPECT_EQ(p.Avisos(), esperadas[static_cast<std::size_t>(llamada)]) << llamada;
+    }
+}
+
+TEST(ComponentesSinDisco, ElGuardadoSobreviveALaFallaDeCadaLlamada)
+{
+    bool hubo = true;
+    int llamada = 0;
+    while (hubo) {
+        ++llamada;
+        ASSERT_LT(llamada, 20);
+        ProyectoDePrueba p;
+        p.Pon("_UEHs.vlm", RedDeEjemplo().Bytes());
+        p.Pon("_VerCau.vlm", VerticesDeEjemplo);
+        LeeUEHs(p.s);
+        p.disco.FallaEn(llamada, NumeroFalla::AccesoRuta);
+        mnu_btn_toolbarGuardaUEHs(p.s);
+        hubo = p.disco.HuboFalla();
+        const Cajas avisos = p.Avisos();
+        ASSERT_FALSE(avisos.empty());
+        EXPECT_EQ(avisos.back().texto.substr(0, 28), "Los datos de componentes de ");
+        if (hubo) {
+            EXPECT_EQ(avisos.front(), CajaAcceso) << llamada;
+        } else {
+            EXPECT_EQ(avisos.size(), 1U);
+        }
+    }
+    EXPECT_GE(llamada, 5);  // two writings and two readings at least
+}
+
+}  // namespace
