@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "model/Coleccion.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "apoyo/Compara.h"
+#include "model/Siro.h"
+
+using apoyo::NumeroDeFalla;
+using namespace model;
+
+namespace {
+
+using DeTres = Coleccion<std::string, 3>;
+
+DeTres Con(int n)
+{
+    DeTres c;
+    for (int i = 1; i <= n; ++i)
+        c.Agrega("c-" + std::to_string(i));
+    return c;
+}
+
+TEST(Coleccion, LaRanuraNEsElEnesimo)
+{
+    DeTres c = Con(3);
+    EXPECT_EQ(c.Ranura(1), "c-1");
+    EXPECT_EQ(c.Ranura(3), "c-3");
+    c.Ranura(2) = "otro";
+    EXPECT_EQ(c.Item(2), "otro");
+}
+
+TEST(Coleccion, LaRanuraCeroYLasVaciasNoTienenObjeto)
+{
+    DeTres c = Con(2);
+    EXPECT_EQ(NumeroDeFalla([&] { c.Ranura(0); }), 91);
+    EXPECT_EQ(NumeroDeFalla([&] { c.Ranura(3); }), 91);
+    EXPECT_EQ(NumeroDeFalla([&] { static_cast<void>(std::as_const(c).Ranura(3)); }), 91);
+}
+
+TEST(Coleccion, FueraDelLimiteEsSubindiceAunqueLaColeccionLoTenga)
+{
+    DeTres c = Con(4);
+    EXPECT_EQ(c.Cuenta(), 4);
+    EXPECT_EQ(c.Item(4), "c-4");
+    EXPECT_EQ(NumeroDeFalla([&] { c.Ranura(4); }), 9);
+    EXPECT_EQ(NumeroDeFalla([&] { c.Ranura(-1); }), 9);
+    EXPECT_EQ(NumeroDeFalla([&] { static_cast<void>(std::as_const(c).Ranura(4)); }), 9);
+}
+
+TEST(Coleccion, QuitarRenumeraLosDeDetras)
+{
+    DeTres c = Con(3);
+    c.Quita(2);
+    EXPECT_EQ(c.Cuenta(), 2);
+    EXPECT_EQ(c.Ranura(2), "c-3");
+    EXPECT_EQ(NumeroDeFalla([&] { c.Ranura(3); }), 91);
+    c.Vacia();
+    EXPECT_EQ(c.Cuenta(), 0);
+    EXPECT_TRUE(c.begin() == c.end());
+}
+
+TEST(Coleccion, SeRecorreEnOrden)
+{
+    std::string recorrido;
+    for (const std::string& nombre : Con(4))
+        recorrido += nombre + ' ';
+    EXPECT_EQ(recorrido, "c-1 c-2 c-3 c-4 ");
+}
+
+TEST(Siro, LosLimitesDeLasCuatroClases)
+{
+    Siro s;
+    for (int i = 1; i <= 71; ++i) {
+        s.ColUEHs.Agrega({});
+        s.ColCauces.Agrega({});
+        s.ColLagos.Agrega({});
+        s.ColRepresas.Agrega({});
+    }
+    EXPECT_EQ(NumeroDeFalla([&] { s.UEHs(70); }), 0);
+    EXPECT_EQ(NumeroDeFalla([&] { s.UEHs(71); }), 9);
+    EXPECT_EQ(NumeroDeFalla([&] { s.Cauces(70); }), 0);
+    EXPECT_EQ(NumeroDeFalla([&] { s.Cauces(71); }), 9);
+    EXPECT_EQ(NumeroDeFalla([&] { s.Lagos(70); }), 0);
+    EXPECT_EQ(NumeroDeFalla([&] { s.Lagos(71); }), 9);
+    EXPECT_EQ(NumeroDeFalla([&] { s.Represas(20); }), 0);
+    EXPECT_EQ(NumeroDeFalla([&] { s.Represas(21); }), 9);
+    EXPECT_EQ(s.PpUEH.Tope(), 70);
+    EXPECT_EQ(NumeroDeFalla([&] { s.PpUEH(71) = 1; }), 9);
+}
+
+TEST(Siro, UnaCopiaEsOtroPrograma)
+{
+    Siro s;
+    s.ColUEHs.Agrega({.NombreUEH = "u-1"});
+    s.PpUEH(1) = 5;
+    Siro otro = s;
+    otro.UEHs(1).NombreUEH = "u-2";
+    otro.PpUEH(1) = 6;
+    EXPECT_EQ(s.UEHs(1).NombreUEH, "u-1");
+    EXPECT_EQ(s.PpUEH(1), 5);
+}
+
+}  // namespace
