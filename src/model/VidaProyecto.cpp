@@ -81,7 +81,6 @@ std::string ProyectosPorDefecto(const Siro& s)
 /// Steps of the pointer's reading. Throws Falla where one of them fails.
 void BuscaProyecto(Siro& s)
 {
-    s.DirProyecto.clear();
     s.DirTrabajo = s.DirEjecutable;
     Entra(s, s.DirTrabajo);
     AseguraDirectorio(s, ProyectosPorDefecto(s));
