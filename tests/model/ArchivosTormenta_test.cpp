@@ -566,6 +566,18 @@ TEST_F(ArchivosTormenta, GuardarDistribucionesConLasCuentasDeLaOtraTablaSaleDelI
     EXPECT_EQ(DisPer(), "4,0,0\r\n\"uno\"\r\n1,2\r\n100\r\n0\r\n");
 }
 
+TEST_F(ArchivosTormenta, TrasLaPrimeraCajaCerrarElArchivoYaNoMuestraOtra)
+{
+    PonDisPer("1,0,0\r\n\"uno\"\r\n1,2\r\n100\r\n\"\"\r\n0,0\r\n\"\"\r\n0,0\r\n");
+    LeeTablaDisTemPer(s);
+    s.NroFilasTabla = {0, 4, 0, 0};
+    disco.FallaDesde(2, NumeroFalla::AccesoRuta);  // the opening passes, what is pending doesn't get out
+    GuardaTablaDisPer(s);
+    EXPECT_TRUE(disco.HuboFalla());
+    EXPECT_EQ(Cajas(), std::vector<Mensaje>{CajaSubindice});
+    EXPECT_EQ(DisPer(), "");
+}
+
 // =======================================================================================================
 // Tables of synthetic storms
 // =======================================================================================================
@@ -985,7 +997,11 @@ TEST_F(ArchivosTormenta, ElItemSePartePorSusGuiones)
              Caso{"Pp= 60 - Dur = 45", 60, 2, 45},                     // the second "-" is missing
              Caso{"Pp= 60 ", 1, 2, 60},                                // both are
              Caso{"60 - 45", 1, 2, 45},                                // its "-" is among the four
-             Caso{"", 1, 2, 0}, Caso{"Pp=", 1, 2, 0}, Caso{"-", 1, 2, 0}, Caso{"Pp= -", 0, 2, 0},
+             Caso{"Pp= 60 -1234567845 -1234567810", 60, 845, 810},     // seven go, whatever they are
+             Caso{"", 1, 2, 0},
+             Caso{"Pp=", 1, 2, 0},
+             Caso{"-", 1, 2, 0},
+             Caso{"Pp= -", 0, 2, 0},
              Caso{"Pp= - - ", 0, 2, 0},
              Caso{"Pp= -5 - Dur = 60 - Rec = 10", 0, 0, 10},    // nothing stands before the first
              Caso{"ñú= 60 - ñúñ = 45 - áéí = 10", 60, 45, 10},  // characters, not bytes

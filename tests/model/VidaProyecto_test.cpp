@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -246,10 +247,22 @@ TEST_F(VidaProyecto, UnDirectorioDeProyectosQueNoSePuedeCrearDejaSinProyecto)
 {
     disco.Quita(Proyectos);
     PonPuntero(Otros, "Quelmar");
+    disco.FallaEn(2, NumeroFalla::AccesoRuta);  // behind the look at the program's directory
+    LeePuntero(s);
+    EXPECT_EQ(s.NombreProyecto, "");
+    EXPECT_EQ(s.DirProyecto, Proyectos);
+    EXPECT_EQ(disco.Bytes(Puntero), BytesPuntero(Proyectos, ""));
+    EXPECT_TRUE(TomaSucesos().empty());
+}
+
+TEST_F(VidaProyecto, UnDirectorioDelProgramaProtegidoDejaSinProyecto)
+{
+    PonPuntero(Otros, "Quelmar");
     disco.Protege(Programa);
     LeePuntero(s);
     EXPECT_EQ(s.NombreProyecto, "");
     EXPECT_EQ(s.DirProyecto, Proyectos);
+    EXPECT_EQ(disco.Bytes(Puntero), BytesPuntero(Otros, "Quelmar"));
     EXPECT_TRUE(TomaSucesos().empty());
 }
 
@@ -475,6 +488,7 @@ TEST_F(VidaProyecto, LaRutaDiceDirectorioNombreYPrimerSeparador)
         EXPECT_EQ(s.DirProyecto, directorio) << ruta;
         EXPECT_EQ(s.NombreProyecto, nombre) << ruta;
         EXPECT_EQ(s.DirProyectoConf, conf) << ruta;
+        EXPECT_EQ(s.ArchivoTemp, ruta);
     }
 }
 
@@ -718,6 +732,69 @@ TEST_F(VidaProyecto, TrasUnFinQueVuelveNadaMasSeHace)
 }
 
 // =======================================================================================================
+// A disk whose n-th call fails
+// =======================================================================================================
+
+TEST_F(VidaProyecto, AbrirYReabrirNuncaTerminanFalleLaLlamadaQueFalle)
+{
+    for (const bool reabre : {false, true}) {
+        int fallidas = 0;
+        for (int n = 1; n <= 100; ++n) {
+            PonPuntero(Otros, "Quelmar");
+            PonProyecto(Otros, "Quelmar");
+            EligeRuta(Ruta(Otros, "Quelmar_Conf.vlm"));
+            disco.FallaEn(n, NumeroFalla::AccesoRuta);
+            EXPECT_NO_THROW(reabre ? mnu_ultimoarchivo1(s) : mnuAbrirProyecto(s)) << "call " << n;
+            const bool fallo = disco.HuboFalla();
+            disco.DejaDeFallar();
+            const Sucesos vistos = TomaSucesos();
+            EXPECT_EQ(std::count(vistos.begin(), vistos.end(), SucesoTermina()), 0) << "call " << n;
+            EXPECT_EQ(std::count(vistos.begin(), vistos.end(), ErrorDesconocido), 0) << "call " << n;
+            if (!fallo) break;
+            ++fallidas;
+        }
+        EXPECT_GE(fallidas, 6) << "the pointer's, the configuration's and the labels' calls";
+        EXPECT_LT(fallidas, 100);
+    }
+}
+
+TEST_F(VidaProyecto, GuardarComoConLaEnesimaLlamadaFallidaDejaElProyectoViejo)
+{
+    int terminos = 0;
+    for (int n = 1; n <= 200; ++n) {
+        for (const std::string& ruta : disco.Archivos())
+            disco.Quita(ruta);
+        PonProyecto(Otros, "Quelmar");
+        disco.Pon(Ruta(Otros, "Quelmar_RHQ.vlm"), "tabla");
+        AbreProyecto(Otros, "Quelmar");
+        Responde("Copia2");
+        disco.FallaEn(n, NumeroFalla::AccesoRuta);
+        bool termino = false;
+        try {
+            mnuGuardarProyectoComo(s);
+        } catch (const FinDelPrograma&) {
+            termino = true;
+        }
+        const bool fallo = disco.HuboFalla();
+        disco.DejaDeFallar();
+        const Sucesos vistos = TomaSucesos();
+        EXPECT_EQ(std::count(vistos.begin(), vistos.end(), ErrorDesconocido), termino ? 1 : 0)
+            << "call " << n;
+        EXPECT_EQ(disco.Bytes(Ruta(Otros, "Quelmar_Conf.vlm")), BytesConf(Otros, "Quelmar")) << "call " << n;
+        EXPECT_EQ(disco.Bytes(Ruta(Otros, "Quelmar_UEHs.vlm")), BytesUEHs("Quelmar")) << "call " << n;
+        EXPECT_EQ(disco.Bytes(Ruta(Otros, "Quelmar_RHQ.vlm")), "tabla") << "call " << n;
+        if (!fallo) {
+            EXPECT_EQ(disco.Bytes(Ruta(Otros, "Copia2_RHQ.vlm")), "tabla");
+            break;
+        }
+        terminos += termino ? 1 : 0;
+    }
+    // The change of directory, the test of the name, six copies and the two writes of the configuration end
+    // the program; the faults of loading and saving the components have boxes of their own.
+    EXPECT_EQ(terminos, 10);
+}
+
+// =======================================================================================================
 // Delete
 // =======================================================================================================
 
@@ -826,6 +903,16 @@ TEST_F(EliminarProyecto, ElPrefijoLlegaHastaElPrimerSubrayado)
     RespondeSi(true);
     dlg.OKButton(s);
     EXPECT_FALSE(disco.Esta(Ruta(Otros, "Arauco_Conf.vlm"))) << "the pattern is Ara*.vlm";
+}
+
+TEST_F(EliminarProyecto, PrefijoYTerminacionNoSeSuperponen)
+{
+    disco.Pon(Ruta(Otros, "Ara.vlm_Conf.vlm"), "x");
+    dlg.filProyectoEliminar_AlPulsar("Ara.vlm_Conf.vlm");
+    RespondeSi(true);
+    dlg.OKButton(s);
+    EXPECT_FALSE(disco.Esta(Ruta(Otros, "Ara.vlm_Conf.vlm")));
+    EXPECT_TRUE(disco.Esta(Ruta(Otros, "Ara.vlm"))) << "the pattern is Ara.vlm*.vlm";
 }
 
 TEST_F(EliminarProyecto, UnNombreVacioSeLlevaTodosLosArchivosDelPrograma)
