@@ -1,0 +1,225 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/ComponenteFinal.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "apoyo/AnfitrionPrueba.h"
+
+namespace engine {
+namespace {
+
+using model::Icono;
+using model::Mensaje;
+using model::Siro;
+
+const std::string Cola = "         ¿Desea volver a la ventana de edición  (SI) o continuar (No) ?";
+
+class Validacion : public testing::Test {
+  protected:
+    Validacion() { s.Anfitrion = anfitrion.Puerta(); }
+    void UEH(const std::string& nombre, const std::string& destino)
+    {
+        s.ColUEHs.Agrega({.NombreUEH = nombre, .Cauce_aa = destino});
+    }
+    void Cauce(const std::string& nombre, const std::string& destino)
+    {
+        s.ColCauces.Agrega({.NombreCauce = nombre, .Cauce_aa = destino});
+    }
+
+    Siro s;
+    apoyo::AnfitrionPrueba anfitrion;
+};
+
+TEST_F(Validacion, UnaUEHSolaEsSalidaSinAviso)
+{
+    UEH("u-1", "");
+    ComponenteFinal(s);
+    EXPECT_EQ(s.NroSalidas, 1);
+    EXPECT_EQ(s.Salidas[1], "u-1");
+    EXPECT_TRUE(s.RedOk);
+    EXPECT_FALSE(s.ErrorRed);
+    EXPECT_TRUE(anfitrion->sucesos.empty());
+}
+
+TEST_F(Validacion, SinComponentesNoSePreguntaNiSeMarcaNada)
+{
+    s.RedOk = s.ErrorRed = s.ContinuarSinCorregir = true;
+    ComponenteFinal(s);
+    EXPECT_TRUE(anfitrion->sucesos.empty());
+    EXPECT_FALSE(s.RedOk || s.ErrorRed || s.ContinuarSinCorregir);
+    EXPECT_EQ(s.NroComponentes, 0);
+}
+
+TEST_F(Validacion, LaSecuenciaVaPorClases)
+{
+    s.ColRepresas.Agrega({.NombreRepresa = "r-1", .Cauce_aa = "c-1"});
+    s.ColLagos.Agrega({.NombreLAGO = "l-1", .Cauce_aa = "c-1"});
+    Cauce("c-1", "0");
+    UEH("u-1", "l-1");
+    UEH("u-2", "r-1");
+    ComponenteFinal(s);
+    EXPECT_EQ(s.Secuencia, (std::vector<std::string>{"", "u-1", "u-2", "c-1", "l-1", "r-1"}));
+    EXPECT_EQ(s.NroComponentes, 5);
+    EXPECT_TRUE(s.RedOk);
+}
+
+TEST_F(Validacion, UnCauceAlimentadoSoloPorOtroCauceEstaAlimentado)
+{
+    UEH("u-1", "c-2");
+    Cauce("c-1", "0");
+    Cauce("c-2", "c-1");
+    ComponenteFinal(s);
+    EXPECT_TRUE(anfitrion->sucesos.empty());
+    EXPECT_TRUE(s.RedOk);
+}
+
+TEST_F(Validacion, UnaUEHQueDrenaAUnNombreBorradoEsSalida)
+{
+    UEH("u-1", "c-9");
+    UEH("u-2", "c-1");
+    Cauce("c-1", "0");
+    s.AvisoDescargasVisto = true;
+    ComponenteFinal(s);
+    EXPECT_EQ(s.NroSalidas, 2);
+    EXPECT_EQ(s.Salidas[1], "u-1");
+    EXPECT_EQ(s.Salidas[2], "c-1");
+}
+
+TEST_F(Validacion, UnDestinoQueEsUEHHaceSalida)
+{
+    UEH("u-1", "u-2");
+    UEH("u-2", "");
+    s.AvisoDescargasVisto = true;
+    ComponenteFinal(s);
+    EXPECT_EQ(s.NroSalidas, 2);
+}
+
+TEST_F(Validacion, SinSalidaPregunta)
+{
+    UEH("u-1", "c-1");
+    Cauce("c-1", "c-2");
+    Cauce("c-2", "c-1");
+    s.AvisoDescargasVisto = true;
+    ComponenteFinal(s);
+    EXPECT_EQ(anfitrion->Preguntas(),
+              std::vector<Mensaje>(
+                  {{"Error, ningun componente ingresado es una sección final de control o de salida "
+                    "del sistema. Al menos un componente debe tener el campo <Drena a< = <0> o "
+                    "<cadena nula>. ¿Desea volver a la ventana de edición  (SI) o continuar (No) ?",
+                    "Error, Verifique Componente final del sistema", Icono::Exclamacion}}));
+    EXPECT_TRUE(s.ErrorRed);
+    EXPECT_FALSE(s.ContinuarSinCorregir);
+    EXPECT_FALSE(s.RedOk);
+}
+
+TEST_F(Validacion, CaucesSinAporteSeNombranConCuatroBlancos)
+{
+    UEH("u-1", "c-3");
+    Cauce("c-1", "c-3");
+    Cauce("c-2", "c-3");
+    Cauce("c-3", "0");
+    ComponenteFinal(s);
+    EXPECT_EQ(
+        anfitrion->Preguntas(),
+        std::vector<Mensaje>({{"Hay tramos de Cauces sin aportes de UEHs. Verifique los tramos siguientes y "
+                               "asigne sus UEH o componentes de aportes: c-1    c-2    " +
+                                   Cola,
+                               "Advertencia !!!", Icono::Exclamacion}}));
+    EXPECT_TRUE(s.ErrorRed);
+    EXPECT_TRUE(s.RedOk);  // one outfall and no answer of No
+}
+
+TEST_F(Validacion, RepresasYLagosSinAporteTienenSuPropioTexto)
+{
+    UEH("u-1", "c-1");
+    Cauce("c-1", "0");
+    s.ColRepresas.Agrega({.NombreRepresa = "r-1", .Cauce_aa = "c-1"});
+    s.ColLagos.Agrega({.NombreLAGO = "l-1", .Cauce_aa = "c-1"});
+    ComponenteFinal(s);
+    EXPECT_EQ(
+        anfitrion->Preguntas(),
+        std::vector<Mensaje>(
+            {{"Hay represas sin aportes de UEHs. Verifique las represas siguientes y asigne sus UEH o "
+              "componentes de aportes: r-1    " +
+                  Cola,
+              "Advertencia !!!", Icono::Exclamacion},
+             {"Hay Lagos/Mallines sin aportes de UEHs. Verifique las represas siguientes y asigne sus UEH o "
+              "componentes de aportes: l-1    " +
+                  Cola,
+              "Advertencia !!!", Icono::Exclamacion}}));
+    EXPECT_TRUE(s.ErrorRed);
+}
+
+TEST_F(Validacion, RespondidoNoSeContinuaSinRedOk)
+{
+    UEH("u-1", "c-1");
+    Cauce("c-1", "0");
+    Cauce("c-2", "c-1");
+    anfitrion->respuestaDeSiempre = false;
+    ComponenteFinal(s);
+    EXPECT_TRUE(s.ContinuarSinCorregir);
+    EXPECT_FALSE(s.RedOk);
+    EXPECT_TRUE(s.ErrorRed);
+}
+
+TEST_F(Validacion, VariasSalidasSePreguntanSiNoSeAvisaron)
+{
+    UEH("u-1", "c-1");
+    Cauce("c-1", "0");
+    UEH("u-2", "");
+    ComponenteFinal(s);
+    EXPECT_EQ(
+        anfitrion->Preguntas(),
+        std::vector<Mensaje>(
+            {{"Hay más de un componente de descarga para el sistema (sección final de control). El sistema "
+              "admite esta posibilidad para el cálculo para un máximo de 10 componentes, pero si el sistema "
+              "es "
+              "de salida final única debe verificar los campos <Drena a> de los siguientes componentes:u-2   "
+              " "
+              "c-1    " +
+                  Cola,
+              "Advertencia !!!", Icono::Exclamacion}}));
+    EXPECT_FALSE(s.ErrorRed);
+    EXPECT_FALSE(s.AvisoDescargasVisto);
+    EXPECT_FALSE(s.RedOk);
+}
+
+TEST_F(Validacion, VariasSalidasYaAvisadasCallan)
+{
+    UEH("u-1", "");
+    UEH("u-2", "");
+    s.AvisoDescargasVisto = true;
+    ComponenteFinal(s);
+    EXPECT_TRUE(anfitrion->sucesos.empty());
+}
+
+TEST_F(Validacion, LaUndecimaSalidaSeCuentaYSeInforma)
+{
+    for (int i = 1; i <= 12; ++i)
+        UEH("u-" + std::to_string(i), "");
+    s.AvisoDescargasVisto = true;
+    ComponenteFinal(s);
+    EXPECT_EQ(s.NroSalidas, 12);
+    EXPECT_EQ(s.Salidas[10], "u-10");
+    const Mensaje falla{"Error Nro. 9 ,El subíndice está fuera del intervaloVerifique", "", Icono::Ninguno};
+    EXPECT_EQ(anfitrion->Avisos(), (std::vector<Mensaje>{falla, falla}));
+}
+
+TEST_F(Validacion, ElVacioYElCeroNoNombranANadie)
+{
+    UEH("u-1", "0");
+    Cauce("0", "");
+    s.AvisoDescargasVisto = true;
+    ComponenteFinal(s);
+    EXPECT_EQ(s.NroSalidas, 2);
+    EXPECT_EQ(anfitrion->Preguntas().size(), 1U);  // the reach named "0" is fed by nothing
+    EXPECT_FALSE(DrenaA("", ""));
+    EXPECT_FALSE(DrenaA("0", "0"));
+    EXPECT_TRUE(DrenaA("c-1", "c-1"));
+}
+
+}  // namespace
+}  // namespace engine
