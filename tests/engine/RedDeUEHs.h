@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+
+#include "apoyo/AnfitrionPrueba.h"
+#include "apoyo/DiscoPrueba.h"
+#include "model/Componentes.h"
+#include "model/Configuracion.h"
+#include "model/Siro.h"
+
+// Small networks of UEHs and reaches whose results can be worked out by hand.
+namespace pruebas {
+
+/// 60 mm in 30 min at constant intensity on UEHs of 6 ha that take in nothing: 20 mm a step of 10 min give
+/// 20/10·0.166667·6 = 2.000004 m3/s. A slope of 600 m at 1 m/s takes T = 10 min, one step: the flow of a step
+/// arrives whole at the end of that step.
+class RedDeUEHs {
+  public:
+    RedDeUEHs()
+    {
+        s.Anfitrion = anfitrion.Puerta();
+        s.Disco = disco.Puerta();
+        s.DirTrabajo = "/trabajo";
+        s.DirProyecto = "/proyectos";
+        s.NombreProyecto = "Prueba";
+        disco.PonDirectorio("/trabajo");
+        disco.PonDirectorio("/proyectos");
+        s.PasoPp = s.PasoQ = 10;
+        s.PpTormenta = 60;
+        s.DurTormenta = 30;
+        s.N0Dur = 20;
+    }
+    model::UEH& PonUEH(const std::string& nombre, const std::string& destino)
+    {
+        s.NroUEHs = static_cast<std::int16_t>(s.ColUEHs.Cuenta() + 1);
+        return s.ColUEHs.Agrega({.NombreUEH = nombre,
+                                 .Area = 6,
+                                 .LongitudMax = 600,
+                                 .VelMedia = 1,
+                                 .Metodo = "Directo",
+                                 .numUEH = s.NroUEHs,
+                                 .Cauce_aa = destino});
+    }
+    /// Direct, 600 m at 1 m/s: a delay of one step of 10 min.
+    model::Cauce& PonCauce(const std::string& nombre, const std::string& destino)
+    {
+        s.NroCauces = static_cast<std::int16_t>(s.ColCauces.Cuenta() + 1);
+        return s.ColCauces.Agrega({.numCauce = s.NroCauces,
+                                   .NombreCauce = nombre,
+                                   .Cauce_aa = destino,
+                                   .LongCauce = 600,
+                                   .VelMediaCauce = 1,
+                                   .optDirMusk = true});
+    }
+    /// Writes the project that is in memory to the disk, with all recurrences and durations selected.
+    void GuardaProyecto()
+    {
+        s.frmConfigura.Dir1 = s.DirProyecto;
+        s.frmConfigura.CheckR.fill(1);
+        s.frmConfigura.CheckD.fill(1);
+        model::cmdAplicar(s);
+        model::mnu_btn_toolbarGuardaUEHs(s);
+        anfitrion->sucesos.clear();
+    }
+
+    model::Siro s;
+    apoyo::AnfitrionPrueba anfitrion;
+    apoyo::DiscoPrueba disco;
+};
+
+}  // namespace pruebas

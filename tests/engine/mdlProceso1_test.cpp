@@ -1,0 +1,580 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/mdlProceso1.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+#include <vector>
+
+#include "apoyo/Compara.h"
+#include "engine/RedDeUEHs.h"
+#include "engine/modDistriPp.h"
+#include "model/Texto.h"
+
+namespace engine {
+namespace {
+
+using model::Icono;
+using model::Mensaje;
+
+constexpr float Caudal = 2.000004F;  // of 20 mm in 10 min on 6 ha
+
+class Proceso : public testing::Test, public pruebas::RedDeUEHs {
+  protected:
+    bool Corre(bool guarda = false)
+    {
+        ConstruyeHietograma(s);
+        return ProcesoPrincipal(s, guarda);
+    }
+    [[nodiscard]] std::vector<float> Salida(int fila) const
+    {
+        std::vector<float> q;
+        for (int p = 1; p <= s.NroPasosQ; ++p)
+            q.push_back(s.QSale(fila, p));
+        return q;
+    }
+    void EsperaRechazo(const std::string& texto)
+    {
+        EXPECT_FALSE(Corre());
+        EXPECT_EQ(anfitrion->Avisos(), (std::vector<Mensaje>{{texto, "Advertencia !", Icono::Exclamacion}}));
+    }
+    void EsperaCaudales(int fila, const std::vector<float>& esperados) const
+    {
+        const std::vector<float> q = Salida(fila);
+        ASSERT_EQ(q.size(), esperados.size());
+        for (std::size_t p = 0; p < q.size(); ++p)
+            EXPECT_NEAR(q[p], esperados[p], 1e-5) << "step " << p + 1;
+    }
+};
+
+// --- UEHs ------------------------------------------------------------------------------------------------
+
+TEST_F(Proceso, UnaUEHAMano)
+{
+    PonUEH("u-1", "");
+    EXPECT_TRUE(Corre());
+    EXPECT_EQ(s.NroPasosQ, 5);  // (30 + 20)/10
+    EXPECT_EQ(Salida(1), (std::vector<float>{Caudal, Caudal, Caudal, 0, 0}));
+    EXPECT_EQ(s.QMax(1, 1), Caudal);
+    EXPECT_NEAR(s.VolUEH(1), 3600.007, 0.01);  // 3·600·2.000004
+    EXPECT_EQ(s.EscUEH(1, 1), 3600);
+    EXPECT_NEAR(s.CoefEscUEH(1, 1), 100.0002, 1e-4);
+    EXPECT_EQ(s.EscTotal(1), 3600);
+    EXPECT_EQ(s.CoefEscTotal(1), 100);  // of the whole cubic metres
+    EXPECT_EQ(s.PpUEH(1), 60);
+    EXPECT_TRUE(anfitrion->sucesos.empty());
+}
+
+TEST_F(Proceso, ElTextoDeUnaUEHYUnCauceALaLetra)
+{
+    PonUEH("u-1", "c-1");
+    PonCauce("c-1", "0");
+    ConstruyeHietograma(s);  // with the Slate off, so that it writes nothing of its own
+    s.SalidaPizarra = true;
+    anfitrion->pizarra = "ya estaba";
+    EXPECT_TRUE(ProcesoPrincipal(s, false));
+    const std::string doce(12, ' ');
+    const std::string esperado =
+        "ya estaba"
+        "\r\n\r\nComponentes y Secuencia de cálculo\r\nNroUEH   Nombre UEH\r\n    1          u-1\r\n    2    "
+        "      c-1"
+        "\r\n\r\nI- SIMULACION EN UEHs"
+        "\r\nPer.k  t[min]   UEH     Pp[mm]  Retensión Z[mm]   Infiltra I[mm]   CaudalPp[m3/s]"
+        "\r\n    1    10     u-1        20            0                0                2"
+        "\r\n    2    20     u-1        20            0                0                2"
+        "\r\n    3    30     u-1        20            0                0                2"
+        "\r\n    4    40     u-1         0            0                0                0"
+        "\r\n\r\nCaudales propagados al pié de cada UEH:\r\n" +
+        doce + "        u-1              \r\nPer.k  t[min]- Pp[mm] Q[m3/s] " +  //
+        doce + "\r\n 1      10        20       2    " +                         //
+        doce + "\r\n 2      20        20       2    " +                         //
+        doce + "\r\n 3      30        20       2    " +                         //
+        doce + "\r\n 4      40         0       0    " +                         //
+        doce + "\r\n 5      50         0       0    " +
+        "\r\nPrecipitación   UEH 1 u-1   60 mm"
+        "\r\nCaudal Máximo   UEH 1 u-1   2 m3"
+        "\r\nEscorrentía     UEH 1 u-1   3600 m3"
+        "\r\nCoef.Escorrent. UEH 1 u-1   100 %"
+        "\r\nVolumen de Base UEH 1 u-1   0 m3"
+        "\r\n"
+        "\r\nEscorrentía total[m3]    = 3600 m3"
+        "\r\nEscorrentía total[mm]    = 60 mm"
+        "\r\nCoef. Escorrentía        = 100 %"
+        "\r\nVolumen de Base          = 0 m3"
+        "\r\nSuma Pp UEHs             = 60 mm"
+        "\r\n\r\nII- SIMULACION EN COMPONENTES RESTANTES"
+        "\r\n    (Cauces, Lagos y Represas)"
+        "\r\nVolumen Escurrido. Entra = 0 m3 ; Sale = 0 m3"
+        "\r\nCaudal Máximo = 0 m3/s "
+        "\r\n"
+        "\r\nComponente: Tramo de Cauce c-1"
+        "\r\nPer.k  t[min]  Qentra[m3/s] Qsale[m3/s] "
+        "\r\n 1      10     2          0         "
+        "\r\n 2      20     2          2         "
+        "\r\n 3      30     2          2         "
+        "\r\n 4      40     0          2         "
+        "\r\n 5      50     0          0         "
+        "\r\nVolumen Escurrido. Entra = 3600 m3 ; Sale = 3600 m3"
+        "\r\nCaudal Máximo = 2 m3/s "
+        "\r\n";
+    EXPECT_TRUE(apoyo::MismoTexto(esperado, s.TextoPizarra));
+    EXPECT_TRUE(apoyo::MismoTexto(esperado, anfitrion->pizarra));
+}
+
+TEST_F(Proceso, SinRetencionTodaLaLluviaLlegaALaInfiltracion)
+{
+    model::UEH& u = PonUEH("u-1", "");
+    u.KostiakovA = 0.5F;  // b = 1: 0.5 mm/min whatever the time, 5 mm a step
+    u.KostiakovB = 1;
+    EXPECT_TRUE(Corre());
+    EXPECT_EQ(s.PasosInfiltra(1), 4);  // the clock goes on in each step with rain
+    EXPECT_NEAR(s.QSale(1, 1), 15 / 10.0 * 0.166667 * 6, 1e-6);
+}
+
+TEST_F(Proceso, LaRetencionQueElPasoJustoLlenaDejaElRelojQuieto)
+{
+    model::UEH& u = PonUEH("u-1", "");
+    u.RetensionZ = 20;  // the first step's rain, exactly
+    u.KostiakovA = 0.5F;
+    u.KostiakovB = 1;
+    EXPECT_TRUE(Corre());
+    EXPECT_EQ(s.PasosInfiltra(1), 3);
+    EXPECT_EQ(s.QSale(1, 1), 0);
+    EXPECT_NEAR(s.QSale(1, 2), 1.5 * 0.166667 * 6, 1e-6);
+}
+
+TEST_F(Proceso, LaRetencionSeLlenaEnVariosPasos)
+{
+    PonUEH("u-1", "").RetensionZ = 30;
+    EXPECT_TRUE(Corre());
+    EsperaCaudales(1, {0, Caudal / 2, Caudal, 0, 0});
+}
+
+TEST_F(Proceso, KostiakovALaMano)
+{
+    model::UEH& u = PonUEH("u-1", "");
+    u.KostiakovA = 2;
+    u.KostiakovB = 0.5F;
+    u.KostiakovI = 6;
+    EXPECT_TRUE(Corre());
+    // I of step n = 2·(sqrt(10n + 6) - sqrt(10n - 4))
+    for (int n = 1; n <= 3; ++n) {
+        const double I = 2 * (std::sqrt(10 * n + 6.0) - std::sqrt(10 * n - 4.0));
+        EXPECT_NEAR(s.QSale(1, n), (20 - I) / 10 * 0.166667 * 6, 1e-5) << n;
+    }
+}
+
+TEST_F(Proceso, SinExcesoSoloHayRecesion)
+{
+    model::UEH& u = PonUEH("u-1", "");
+    u.KostiakovA = 1000;
+    u.KostiakovB = 1;
+    u.Q0Recesion = 2;
+    u.KRecesion = 1;
+    EXPECT_TRUE(Corre());
+    double base = 0;
+    for (int p = 1; p <= 5; ++p) {
+        const double Qb = 2 * std::pow(2.7183, -p * 10 / 60.0);
+        EXPECT_NEAR(s.QSale(1, p), Qb, 1e-6) << p;
+        base = std::nearbyint(base + Qb * 600);
+    }
+    EXPECT_EQ(s.VolBaseUEH(1), base);
+    EXPECT_EQ(s.EscUEH(1, 1), std::nearbyint(s.VolUEH(1) - base));
+}
+
+TEST_F(Proceso, SinQ0OSinKNoHayRecesionNiAviso)
+{
+    PonUEH("u-1", "").Q0Recesion = 2;
+    PonUEH("u-2", "").KRecesion = 2;
+    s.AvisoDescargasVisto = true;
+    EXPECT_TRUE(Corre());
+    EXPECT_EQ(s.QSale(1, 5), 0);
+    EXPECT_EQ(s.QSale(2, 5), 0);
+    EXPECT_TRUE(anfitrion->sucesos.empty());
+}
+
+TEST_F(Proceso, UnaLaderaDeTiempoCeroConPasosIgualesNoDaCrecida)
+{
+    PonUEH("u-1", "").LongitudMax = 29;  // 29/60 min rounds to 0
+    EXPECT_TRUE(Corre());
+    EXPECT_EQ(Salida(1), (std::vector<float>(5, 0)));
+}
+
+TEST_F(Proceso, UnaLaderaDeTiempoCeroConPasosFinosPierdeElUltimoPunto)
+{
+    PonUEH("u-1", "").LongitudMax = 29;
+    s.PasoQ = 5;
+    EXPECT_TRUE(Corre());
+    EXPECT_EQ(s.NroPasosQ, 10);
+    EXPECT_EQ(Salida(1), (std::vector<float>{Caudal, 0, Caudal, 0, Caudal, 0, 0, 0, 0, 0}));
+}
+
+TEST_F(Proceso, ElTrapecioSubeSeQuedaYBaja)
+{
+    PonUEH("u-1", "").LongitudMax = 1800;  // T = 30 min, steps of 10: a third of the flow more at each point
+    s.DurTormenta = 10;
+    s.PpTormenta = 20;
+    s.N0Dur = 50;
+    EXPECT_TRUE(Corre());
+    // rising c/3·(1, 2), then the flow less the falling c/3·(t - 10)/10
+    EsperaCaudales(1, {Caudal / 3, Caudal / 3, Caudal / 3, 0, 0, 0});
+}
+
+TEST_F(Proceso, UnaLaderaLargaAlargaLaCorridaYOtraLaAlargaMas)
+{
+    PonUEH("u-1", "").LongitudMax = 6000;   // T = 100 min: points up to 100 min after a step's start
+    PonUEH("u-2", "").LongitudMax = 12000;  // T = 200 min
+    s.AvisoDescargasVisto = true;
+    EXPECT_TRUE(Corre());
+    // u-2 has 20 points a block. Block 1 takes the run from 5 by twos to 19, block 2 ends at step 21 and makes it
+    // the last one, block 3 ends at 22, which is one beyond and stands there.
+    EXPECT_EQ(s.NroPasosQ, 21);
+    EXPECT_EQ(s.QSale.TopeColumna(), 22);
+    EXPECT_EQ(s.QEntra.TopeColumna(), 22);
+    double volumen = 0;
+    for (int p = 1; p <= 23; ++p)
+        volumen += s.QSale(2, p) * 600;
+    EXPECT_NEAR(volumen, 3600, 0.5);  // nothing of the tail is lost
+}
+
+TEST_F(Proceso, ElUltimoPuntoPuedeQuedarFueraDelVolumen)
+{
+    // One block of rain, T = 30 min: points at steps 1 to 3; the run has 2 steps, and step 3 doesn't grow it.
+    PonUEH("u-1", "").LongitudMax = 1800;
+    s.DurTormenta = 10;
+    s.PpTormenta = 20;
+    s.N0Dur = 10;
+    EXPECT_TRUE(Corre());
+    EXPECT_EQ(s.NroPasosQ, 2);
+    EXPECT_NEAR(s.QSale(1, 3), Caudal / 3, 1e-6);
+    EXPECT_NEAR(s.VolUEH(1), 2 * 600 * Caudal / 3, 0.01);
+}
+
+TEST_F(Proceso, SinTiempoAgregadoSePierdeLaLluviaDelUltimoPaso)
+{
+    PonUEH("u-1", "");
+    s.N0Dur = 0;
+    EXPECT_TRUE(Corre());
+    EXPECT_EQ(s.PpUEH(1), 40);  // steps 1 and 2 of three
+    EsperaCaudales(1, {Caudal, Caudal, 0});
+}
+
+TEST_F(Proceso, LosVolumenesGrandesPierdenSusUltimasUnidades)
+{
+    PonUEH("u-1", "").Area = 60000;  // 20000.04 m3/s: 3.6e7 m3, above 2^24
+    EXPECT_TRUE(Corre());
+    const float paso = 20000.04F * 600;
+    float suma = 0;
+    for (int p = 1; p <= 3; ++p)
+        suma = static_cast<float>(suma + double{10} * 20000.04F * 60);
+    EXPECT_EQ(s.VolUEH(1), suma);
+    EXPECT_GT(paso, 0);
+    EXPECT_EQ(std::fmod(s.VolUEH(1), 4), 0);  // 32-bit floats above 2^25 go by fours
+}
+
+TEST_F(Proceso, EscorrentiaSinLluviaDivideporCero)
+{
+    model::UEH& u = PonUEH("u-1", "");
+    u.RetensionZ = -5;  // gives water where no rain falls
+    s.FormaPp = 3;
+    s.PpUEH(1) = 0;
+    EXPECT_TRUE(Corre());
+    EXPECT_EQ(anfitrion->Avisos(),
+              (std::vector<Mensaje>{{"Error Nro. 11 ,División por ceroVerifique", "", Icono::Ninguno}}));
+    EXPECT_EQ(s.CoefEscTotal(1), 0);
+}
+
+TEST_F(Proceso, PorUEHCadaUnaTieneSuTormentaYQuedaLaUltima)
+{
+    PonUEH("u-1", "");
+    PonUEH("u-2", "");
+    s.AvisoDescargasVisto = true;
+    s.FormaPp = 3;
+    s.PpUEH(1) = 30;
+    s.PpUEH(2) = 90;
+    EXPECT_TRUE(Corre());
+    EXPECT_EQ(s.PpTormenta, 90);
+    EXPECT_NEAR(s.QSale(1, 1), Caudal / 2, 1e-6);
+    EXPECT_NEAR(s.QSale(2, 1), Caudal * 1.5, 1e-6);
+    EXPECT_EQ(s.PpUEH(1), 30);
+}
+
+TEST_F(Proceso, LaConstanteDeLaRecesionSeQuedaHastaLaProximaCarga)
+{
+    PonUEH("u-1", "").KRecesion = 999999;
+    s.UEHs(1).Q0Recesion = 1;
+    EXPECT_TRUE(Corre());
+    EXPECT_EQ(s.UEHs(1).KRecesion, 999999);
+}
+
+// --- checks
+// -------------------------------------------------------------------------------------------------
+
+TEST_F(Proceso, SinUEHsSeRechaza)
+{
+    EsperaRechazo(
+        "Debe haber al menos una Unidad de Estudios Hidrólógicos (UEH) Cargada en el sistema. (Ingresar UEHs "
+        "desde el "
+        "Menú Principal  \\Entradas\\Editor UEHs (Gráfico)...");
+}
+
+TEST_F(Proceso, SinAreaSeRechaza)
+{
+    PonUEH("u-1", "").Area = 0;
+    PonUEH("u-2", "");
+    EsperaRechazo(
+        "Error en la carga de datos de UEHS, posiblemente no ha cargado correctamente las superficies y "
+        "demás "
+        "parámetros, ...");
+}
+
+TEST_F(Proceso, UnAreaCeroDetrasDeOtraPasa)
+{
+    PonUEH("u-1", "");
+    PonUEH("u-2", "").Area = 0;
+    s.AvisoDescargasVisto = true;
+    EXPECT_TRUE(Corre());
+    EXPECT_EQ(s.CoefUEH(2), 0);
+}
+
+TEST_F(Proceso, SinVelocidadSeRechazaConSuNumero)
+{
+    PonUEH("u-1", "");
+    PonUEH("u-2", "").VelMedia = 0;
+    EsperaRechazo(
+        "Error en la carga de datos de UEHS Nro. 2. El dato de Velocidad media de la gota en ladera es "
+        "incorrecto. "
+        "Revise desde Menú Principal: Entradas\\Editor de UEHS...");
+}
+
+TEST_F(Proceso, SinLongitudSeRechazaConSuNumero)
+{
+    PonUEH("u-1", "").LongitudMax = 0;
+    EsperaRechazo(
+        "Error en la carga de datos de UEHS Nro. 1. El dato de Longitud máxima de la gota en ladera es "
+        "incorrecto. "
+        "Revise desde Menú Principal: Entradas\\Editor de UEHS...");
+}
+
+TEST_F(Proceso, PasosQueNoSonMultiplosSeRechazan)
+{
+    PonUEH("u-1", "");
+    s.PasoQ = 4;
+    EsperaRechazo(
+        "Error, el paso de salida (Q) debe ser múltiplo del paso de cálculo (Pp). Verifique la carga en "
+        "\\Entradas\\Preicpitaciones...");
+}
+
+TEST_F(Proceso, UnaRedConErroresTerminaLaCorridaSinAtenderLaRespuesta)
+{
+    PonUEH("u-1", "c-1");
+    PonCauce("c-1", "0");
+    PonCauce("c-2", "c-1");
+    anfitrion->respuestaDeSiempre = false;
+    EsperaRechazo(
+        "Error en la carga de datos de UEHS. Revise desde Menú Principal: Entradas\\Editor de UEHS...");
+    EXPECT_EQ(anfitrion->Preguntas().size(), 1U);
+}
+
+TEST_F(Proceso, DesdeLaSegundaCorridaSePreguntaDosVeces)
+{
+    PonUEH("u-1", "c-1");
+    PonCauce("c-1", "0");
+    PonCauce("c-2", "c-1");
+    Corre();
+    EXPECT_EQ(s.NroSeriePDR, 1);
+    anfitrion->sucesos.clear();
+    Corre();
+    EXPECT_EQ(anfitrion->Preguntas().size(), 2U);
+}
+
+TEST_F(Proceso, UnCicloTerminaLaCorrida)
+{
+    PonUEH("u-1", "c-1");
+    PonUEH("u-2", "");
+    PonCauce("c-1", "c-2");
+    PonCauce("c-2", "c-1");
+    PonCauce("c-3", "c-1");
+    s.UEHs(2).Cauce_aa = "c-3";
+    PonUEH("u-3", "");
+    EsperaRechazo(
+        "Error en la carga de datos de UEHS. Revise desde Menú Principal: Entradas\\Editor de UEHS...");
+}
+
+// --- limits and faults
+// ----------------------------------------------------------------------------------------
+
+TEST_F(Proceso, LaUEH71FallaEnCadaAcceso)
+{
+    for (int i = 1; i <= 71; ++i)
+        PonUEH("u-" + std::to_string(i), "");
+    s.AvisoDescargasVisto = true;
+    s.N0Dur = 0;
+    s.DurTormenta = 20;  // one model step
+    EXPECT_TRUE(Corre());
+    const std::vector<Mensaje> avisos = anfitrion->Avisos();
+    const auto subindice = static_cast<std::size_t>(std::count(
+        avisos.begin(), avisos.end(),
+        Mensaje{"Error Nro. 9 ,El subíndice está fuera del intervaloVerifique", "", Icono::Ninguno}));
+    EXPECT_EQ(subindice, avisos.size());
+    EXPECT_GT(subindice, 61U);  // beside one for each outfall behind the tenth
+    EXPECT_NEAR(s.QSale(70, 1), 60 / 20.0 * 0.166667 * 6, 1e-5);  // the others are done
+}
+
+TEST_F(Proceso, MinutosFueraDe16BitsSeInformanYLaCorridaSigue)
+{
+    PonUEH("u-1", "");
+    s.PasoPp = s.PasoQ = 30;
+    s.N0Dur = 32758;  // 1093 steps: step 1093 stands at minute 32790
+    EXPECT_TRUE(Corre());
+    EXPECT_EQ(s.NroPasosQ, 1093);
+    const Mensaje desborda{"Error Nro. 6 ,DesbordamientoVerifique", "", Icono::Ninguno};
+    EXPECT_FALSE(anfitrion->Avisos().empty());
+    for (const Mensaje& aviso : anfitrion->Avisos())
+        EXPECT_EQ(aviso.texto.substr(0, 10), "Error Nro.");
+    EXPECT_EQ(anfitrion->Avisos().front(), desborda);
+    EXPECT_GT(s.QSale(1, 1), 0);
+}
+
+TEST_F(Proceso, UnaBaseNegativaDeKostiakovConservaLaInfiltracionAnterior)
+{
+    model::UEH& u = PonUEH("u-1", "");
+    u.KostiakovA = 1;
+    u.KostiakovB = 0.5F;
+    u.KostiakovI = -15;  // the power of step 1 is that of -5
+    EXPECT_TRUE(Corre());
+    EXPECT_EQ(anfitrion->Avisos().size(), 2U);  // steps 1 and 2: -5, 5 and 5, -5
+    EXPECT_EQ(anfitrion->Avisos()[0].texto,
+              "Error Nro. 5 ,Argumento o llamada a procedimiento no válidosVerifique");
+    EXPECT_NEAR(s.QSale(1, 1), Caudal, 1e-6);  // I stayed at 0
+    EXPECT_EQ(s.PasosInfiltra(1), 4);          // and the clock went on
+}
+
+// --- fast way against the one step by step
+// -----------------------------------------------------------------------
+
+TEST_F(Proceso, ConPizarraOSinEllaLosResultadosSonLosMismosBits)
+{
+    for (int i = 1; i <= 6; ++i) {
+        model::UEH& u = PonUEH("u-" + std::to_string(i), "c-" + std::to_string((i + 1) / 2));
+        const auto x = static_cast<float>(i);
+        u.Area = 13.7F * x;
+        u.LongitudMax = 700 * x;
+        u.KostiakovA = 1.7F;
+        u.KostiakovB = 0.45F;
+        u.KostiakovI = 3 * x;
+        u.RetensionZ = x - 2;
+        u.Q0Recesion = 0.1F * x;
+        u.KRecesion = 2.5F;
+    }
+    PonCauce("c-1", "c-2");
+    PonCauce("c-2", "c-3").optDirMusk = false;
+    s.Cauces(2).Cauce_k_Musk = 12;
+    s.Cauces(2).Cauce_n_Musk = 0.25F;
+    PonCauce("c-3", "0");
+    s.PasoQ = 5;
+    s.DistriPp = 2;
+    s.DurTormenta = 55;
+    model::Siro conPizarra = s;
+    conPizarra.SalidaPizarra = true;
+    EXPECT_TRUE(Corre());
+    ConstruyeHietograma(conPizarra);
+    EXPECT_TRUE(ProcesoPrincipal(conPizarra, false));
+    EXPECT_EQ(s.QSale, conPizarra.QSale);
+    EXPECT_EQ(s.QEntra, conPizarra.QEntra);
+    EXPECT_EQ(s.QMax, conPizarra.QMax);
+    EXPECT_EQ(s.VolUEH, conPizarra.VolUEH);
+    EXPECT_EQ(s.PasosInfiltra, conPizarra.PasosInfiltra);
+    EXPECT_EQ(s.EscTotal, conPizarra.EscTotal);
+    EXPECT_EQ(s.VolEntra, conPizarra.VolEntra);
+    EXPECT_EQ(s.VolSale, conPizarra.VolSale);
+    EXPECT_EQ(s.NroPasosQ, conPizarra.NroPasosQ);
+}
+
+// --- file
+// -----------------------------------------------------------------------------------------------------------
+
+TEST_F(Proceso, ConLaPizarraApagadaElArchivoTieneSoloLaTabla)
+{
+    PonUEH("u-1", "");
+    s.DurTormenta = 10;
+    s.PpTormenta = 20;
+    s.N0Dur = 10;
+    EXPECT_TRUE(Corre(true));
+    const std::string doce(12, ' ');
+    EXPECT_TRUE(apoyo::MismoTexto("\"        u-1       - Pp[mm] Q[m3/s] " + doce +
+                                      "\r\n 1      10        20       2    " + doce +
+                                      "\r\n 2      20         0       0    \"\r\n",
+                                  disco.Bytes("/trabajo/SalePizarra1_tem.txt")));
+    EXPECT_EQ(s.ArchivoTemp, "SalePizarra1_tem.txt");
+}
+
+TEST_F(Proceso, SinGuardarNoHayArchivoNiAviso)
+{
+    PonUEH("u-1", "");
+    EXPECT_TRUE(Corre(false));
+    EXPECT_FALSE(disco.Esta("/trabajo/SalePizarra1_tem.txt"));
+}
+
+class TextoLargo : public Proceso, public testing::WithParamInterface<int> {};
+
+TEST_P(TextoLargo, MasDe60000CaracteresAvisan)
+{
+    PonUEH("u-1", "");
+    s.SalidaPizarra = true;
+    Corre(false);
+    // The rest of the text is as long as ever: what the box holds ahead of it makes up the length. Accented
+    // letters take two bytes and count once.
+    s.NroSeriePDR = 0;
+    anfitrion->pizarra.clear();
+    const std::string ahora = [&] {
+        ProcesoPrincipal(s, false);
+        return s.TextoPizarra;
+    }();
+    const std::size_t largo = model::CuentaCaracteres(ahora);
+    anfitrion->pizarra = std::string(static_cast<std::size_t>(GetParam()) - largo, 'x');
+    anfitrion->sucesos.clear();
+    s.VolEntra = s.VolSale = 0;
+    EXPECT_TRUE(ProcesoPrincipal(s, true));
+    ASSERT_EQ(model::CuentaCaracteres(s.TextoPizarra), static_cast<std::size_t>(GetParam()));
+    if (GetParam() <= 60000) {
+        EXPECT_TRUE(anfitrion->sucesos.empty());
+    } else {
+        EXPECT_EQ(
+            anfitrion->Avisos(),
+            (std::vector<Mensaje>{
+                {"La tabla de resultados es muy extensa para ser presentada completa en la Pizarra. Los "
+                 "datos se "
+                 "guardan completos en el archivo de texto <SalePizarra1_tem.txt> del directorio de trabajo. "
+                 "Puede leer directamente este archivo con un editor de texto o bien importar archivo desde "
+                 "Excel "
+                 "como <delimitado>, con separador <espacio> y formato <general>",
+                 "La tabla de resultados es muy extensa", Icono::Exclamacion}}));
+    }
+    EXPECT_EQ(disco.Bytes("/trabajo/SalePizarra1_tem.txt").size(), static_cast<std::size_t>(GetParam()) + 4);
+}
+
+INSTANTIATE_TEST_SUITE_P(Limite, TextoLargo, testing::Values(60000, 60001));
+
+TEST_F(Proceso, UnaComillaEnElTextoNoSeEscapa)
+{
+    PonUEH("u-1\"x", "");
+    EXPECT_TRUE(Corre(true));
+    EXPECT_NE(disco.Bytes("/trabajo/SalePizarra1_tem.txt").find("u-1\"x"), std::string::npos);
+}
+
+TEST_F(Proceso, SinDirectorioDeTrabajoSeInformaYLosResultadosQuedan)
+{
+    PonUEH("u-1", "");
+    s.DirTrabajo = "/no/esta";
+    EXPECT_TRUE(Corre(true));
+    EXPECT_EQ(anfitrion->Avisos(),
+              (std::vector<Mensaje>{
+                  {"Error Nro. 76 ,No se encontró la ruta de accesoVerifique", "", Icono::Ninguno}}));
+    EXPECT_EQ(s.QMax(1, 1), Caudal);
+}
+
+}  // namespace
+}  // namespace engine
