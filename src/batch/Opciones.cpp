@@ -111,6 +111,11 @@ bool RespondeSi(std::string_view texto)
     return texto == "si";
 }
 
+int Hilos(std::string_view texto)
+{
+    return static_cast<int>(NumeroEnteroEntre(texto, 0, std::numeric_limits<int>::max()));
+}
+
 /// An option with a value: how it is written and where its value goes.
 struct FilaOpcion {
     const char* nombre;
@@ -130,10 +135,7 @@ constexpr auto Filas = std::to_array<FilaOpcion>({
     {"--tormenta", [](Opciones& o, const std::string& v) { o.tormenta = v; }},
     {"--tabla", [](Opciones& o, const std::string& v) { o.tabla = Entero(v, 0, 3); }},
     {"--responde", [](Opciones& o, const std::string& v) { o.respondeSi = RespondeSi(v); }},
-    {"--hilos",
-     [](Opciones& o,
-        const std::string&
-            v) { o.hilos = static_cast<int>(NumeroEnteroEntre(v, 0, std::numeric_limits<int>::max())); }},
+    {"--hilos", [](Opciones& o, const std::string& v) { o.hilos = Hilos(v); }},
     {"--resultados", [](Opciones& o, const std::string& v) { o.resultados = v; }},
 });
 
@@ -176,10 +178,9 @@ std::string MotivoDe(const CLI::ParseError& error, const CLI::App& programa)
 
 Lectura Entiende(const Palabras& p, Opciones o)
 {
-    if (!std::string_view(p.conf).ends_with(model::TerminacionConf))
-        return {
-            {},
-            p.conf.empty() ? "Falta CONF" : p.conf + " no termina en " + std::string(model::TerminacionConf)};
+    if (p.conf.empty()) return {{}, "Falta CONF"};
+    if (!p.conf.ends_with(model::TerminacionConf))
+        return {{}, p.conf + " no termina en " + std::string(model::TerminacionConf)};
     o.conf = p.conf;
     o.pizarra = p.pizarra;
     for (std::size_t i = 0; i < Filas.size(); ++i) {
