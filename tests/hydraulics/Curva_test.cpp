@@ -221,6 +221,14 @@ TEST_F(CurvaPreparada, NoSirveDondeLosAlmacenamientosDistanDemasiado)
     EXPECT_EQ(AlmacenamientosSinPreguntas(s), Intervalo{});
 }
 
+TEST_F(CurvaPreparada, LasAlturasDemasiadoLejosImpidenBuscarPorAlmacenamiento)
+{
+    PonHAS({{-3e38F, 1, 10}, {3e38F, 2, 20}});
+    EXPECT_EQ(AlmacenamientosSinPreguntas(s), Intervalo{});
+    PonHAS({{-1e38F, 1, 10}, {1e38F, 2, 20}});
+    EXPECT_EQ(AlmacenamientosSinPreguntas(s), (Intervalo{10, 20}));
+}
+
 TEST_F(CurvaPreparada, NoSirveSinRenglonesNiSinComponente)
 {
     EXPECT_EQ(CurvaAlmacenamiento(s).Filas(), 0);
