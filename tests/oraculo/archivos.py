@@ -22,12 +22,12 @@ from numeros import (
     numero_inicial,
     redondea_i32,
     suma16,
-    texto32,
     texto64,
 )
 from registros import (
     Lector,
     SinAbrir,
+    abre_o_nada,
     como_f32,
     como_i16,
     como_logico,
@@ -90,8 +90,8 @@ def _lee_configuracion(s):
     c["lblMiArchivoConf"] = lector.uno(como_texto)
     c["chkImagenDibujo"] = lector.uno(como_i16)
     c["lblImagenDibujo"] = lector.uno(como_texto)
-    s.EscalaImagen = f32(numero_inicial(lector.uno(como_texto)))
-    c["TexIMGEscala"] = texto32(s.EscalaImagen)
+    s.EscalaImagen = numero_inicial(lector.uno(como_texto))
+    c["TexIMGEscala"] = texto64(s.EscalaImagen)
     c["TexS"] = lector.uno(como_texto)
     for opcion in ("Optiona", "Optionb", "Optionc"):
         c[opcion] = lector.uno(como_logico)
@@ -277,9 +277,7 @@ _CAMPOS_LAGO = (
 
 
 def _lee_componentes(s, m):
-    lector = SinAbrir()
-    with m:
-        lector = Lector(camino(s.DirProyecto, s.NombreProyecto + "_UEHs.vlm"))
+    lector = abre_o_nada(m, camino(s.DirProyecto, s.NombreProyecto + "_UEHs.vlm"))
     with m:
         s.NombreProyecto = lector.uno(como_texto)
     with m:
@@ -319,9 +317,7 @@ def _lee_grupo(s, m, lector, nombres, clase, orden):
 
 def _lee_vertices(s, m):
     """The pairs are read for their faults alone: only the drawing needs their values."""
-    lector = SinAbrir()
-    with m:
-        lector = Lector(camino(s.DirProyecto, s.NombreProyecto + "_VerCau.vlm"))
+    lector = abre_o_nada(m, camino(s.DirProyecto, s.NombreProyecto + "_VerCau.vlm"))
     for i in range(1, s.NroCauces + 1):
         cuantos = 0
         with m:
@@ -398,13 +394,13 @@ def _lee_tabla(s, tabla, componentes):
 
 def _lee_bloque(s, m, tabla, componente, mayor_cuenta):
     numero, nombre = componente
-    lector = SinAbrir()
-    with m:
-        lector = Lector(camino(s.DirProyecto, s.NombreProyecto + tabla.sufijo))
+    lector = abre_o_nada(m, camino(s.DirProyecto, s.NombreProyecto + tabla.sufijo))
     marca, cuenta = "", 0
     while not (marca[:1] == "*" and marca[1:] == nombre):
         with m:
             marca, cuenta = lector.registro(*tabla.rastreo)[:2]
+        if isinstance(lector, SinAbrir):
+            break  # the scan stands still
     with m:
         getattr(s, tabla.filas)[numero] = cuenta
     if cuenta > mayor_cuenta:

@@ -33,7 +33,7 @@ def elige(p):
 
 
 def directorios_vacios(p):
-    return [] if getattr(p, "sin_trabajo", False) else [p.trabajo]
+    return p.directorios if p.sin_trabajo else p.directorios + [p.trabajo]
 
 
 # -------------------------------------------------------------------------------------- in the model
@@ -329,10 +329,6 @@ def lluvia_cero(p):
     p.opciones[p.uno_de(("--pp", "--dur"))] = "0"
 
 
-def lluvia_negativa(p):
-    p.opciones["--pp"] = "-20"
-
-
 def mal_llamado(p):
     opcion, valor = p.uno_de(
         (("--paso-q", "0"), ("--dur", "40000"), ("--rec", "1.5"), ("--forma", "2"), ("--pp", "mucho"))
@@ -351,6 +347,13 @@ def _archivo_al_azar(p):
 
 def archivo_que_falta(p):
     p.sin_archivo.add(_archivo_al_azar(p)[1])
+
+
+def directorio_en_su_lugar(p):
+    """A directory bears the file's name: the path can't be read."""
+    nombre = _archivo_al_azar(p)[1]
+    p.sin_archivo.add(nombre)
+    p.directorios.append(os.path.join(p.directorio, nombre))
 
 
 def archivo_cortado(p):
@@ -498,7 +501,6 @@ DANOS = (
             muchos_componentes,
             sin_UEHs,
             lluvia_cero,
-            lluvia_negativa,
             mal_llamado,
         )
     ]
@@ -506,7 +508,7 @@ DANOS = (
         Dano(en_archivos=f)
         for f in (
             archivo_que_falta,
-            archivo_que_falta,
+            directorio_en_su_lugar,
             archivo_cortado,
             archivo_cortado,
             archivo_apenas_cortado,

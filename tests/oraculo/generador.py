@@ -42,6 +42,8 @@ class Proyecto:
         self.fin_de_linea = "\r\n"
         self.recortes = {}  # name: number of bytes kept
         self.sin_archivo = set()
+        self.directorios = []
+        self.sin_trabajo = False
 
     # ------------------------------------------------------------------------------- numbers
 

@@ -189,7 +189,7 @@ class Siro:
         # Configuration
         self.TituloProyecto = self.Ubicacion = self.Cuenca = self.Subcuenca = self.Operador = ""
         self.DriveProyecto = ""
-        self.N0Dur = 0.0
+        self.N0Dur = 10.0
         self.controles = {}
         self.marca_reescribir = False
         self.FlagR = {r: 0 for r in RECURRENCIAS}

@@ -156,15 +156,28 @@ class Lector:
 
 
 class SinAbrir:
-    """What a reader holds after a failed opening: there is nothing in it."""
+    """What a routine reads from after a failed opening: every reading fails in turn with the fault of the opening."""
 
-    al_final = True
+    def __init__(self, falla):
+        self.falla = falla
 
     def registro(self, *tipos):
-        raise Falla(62)
+        raise Falla(self.falla.numero)
 
     def uno(self, tipo):
-        raise Falla(62)
+        raise Falla(self.falla.numero)
+
+
+def abre_o_nada(manejador, ruta):
+    """Opens under a handler that resumes: where it fails, what follows reads from nothing."""
+    lector = SinAbrir(Falla(75))
+    with manejador:
+        try:
+            lector = Lector(ruta)
+        except Falla as falla:
+            lector = SinAbrir(falla)
+            raise
+    return lector
 
 
 # ---------------------------------------------------------------------------------------- writing
