@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/modProceso0.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "apoyo/Compara.h"
+#include "engine/RedDeUEHs.h"
+#include "model/Texto.h"
+
+namespace engine {
+namespace {
+
+const std::string Encabezado =
+    "SIRO - Modelo de Simulación Hidrológica\r\n"
+    "/proyectos/Prueba\r\n"
+    "Título\r\nLugar\r\nCuenca\r\nSub\r\nOperador - 03/04/2011 10:20:30\r\n"
+    "\r\n"
+    "SIMULACION LLUVIA-CAUDAL PARA UNA TORMENTA\r\n";
+
+class UnaTormenta : public testing::Test, public pruebas::RedDeUEHs {
+  protected:
+    UnaTormenta()
+    {
+        PonUEH("u-1", "");
+        s.frmConfigura.TextProyecto = s.TituloProyecto = "Título";
+        s.frmConfigura.TextUbica = s.Ubicacion = "Lugar";
+        s.frmConfigura.TextCuenca = s.Cuenca = "Cuenca";
+        s.frmConfigura.TextSbca = s.Subcuenca = "Sub";
+        s.frmConfigura.TextOpera = s.Operador = "Operador";
+        GuardaProyecto();
+    }
+};
+
+TEST_F(UnaTormenta, LosCambiosSinGuardarNoLleganALaCorrida)
+{
+    s.UEHs(1).Area = 12;
+    EXPECT_TRUE(CorreUnaTormenta(s));
+    EXPECT_EQ(s.UEHs(1).Area, 6);
+    EXPECT_EQ(s.EscTotal(1), 3600);
+}
+
+TEST_F(UnaTormenta, SinLaminaSoloQuedaElEncabezado)
+{
+    EXPECT_TRUE(CorreUnaTormenta(s));
+    const model::Siro antes = s;
+    anfitrion->marcaPizarra = true;
+    s.PpTormenta = 0;
+    EXPECT_FALSE(CorreUnaTormenta(s));
+    EXPECT_TRUE(apoyo::MismoTexto(Encabezado, anfitrion->pizarra));
+    EXPECT_EQ(s.QSale, antes.QSale);
+    EXPECT_EQ(s.QMax, antes.QMax);
+    EXPECT_EQ(s.TextoPizarra, antes.TextoPizarra);
+}
+
+TEST_F(UnaTormenta, SinDuracionSoloQuedaElEncabezado)
+{
+    anfitrion->marcaPizarra = true;
+    s.DurTormenta = 0;
+    EXPECT_FALSE(CorreUnaTormenta(s));
+    EXPECT_TRUE(apoyo::MismoTexto(Encabezado, anfitrion->pizarra));
+    EXPECT_FALSE(disco.Esta("/trabajo/SalePizarra1_tem.txt"));
+}
+
+TEST_F(UnaTormenta, ConLaPizarraSinMarcarNoSeEscribeEnEllaPeroSiElArchivo)
+{
+    anfitrion->pizarra = "de antes";
+    EXPECT_TRUE(CorreUnaTormenta(s));
+    EXPECT_EQ(anfitrion->pizarra, "");
+    EXPECT_EQ(anfitrion->pizarrasAbiertas, 0);
+    const std::string archivo = disco.Bytes("/trabajo/SalePizarra1_tem.txt");
+    EXPECT_EQ(archivo.find("SIRO"), std::string::npos);
+    EXPECT_EQ(archivo.find("Escorrent"), std::string::npos);
+    EXPECT_NE(archivo.find("- Pp[mm] Q[m3/s] "), std::string::npos);
+}
+
+TEST_F(UnaTormenta, LaSegundaCorridaEmpiezaConTextoVacio)
+{
+    anfitrion->marcaPizarra = true;
+    EXPECT_TRUE(CorreUnaTormenta(s));
+    EXPECT_EQ(anfitrion->pizarrasAbiertas, 1);
+    const std::string primera = anfitrion->pizarra;
+    s.VolEntra = s.VolSale = 0;
+    EXPECT_TRUE(CorreUnaTormenta(s));
+    EXPECT_TRUE(apoyo::MismoTexto(primera, anfitrion->pizarra));
+    EXPECT_TRUE(apoyo::MismoTexto(anfitrion->pizarra, s.TextoPizarra));
+    EXPECT_EQ(primera.substr(0, Encabezado.size()), Encabezado);
+    EXPECT_EQ(primera.substr(Encabezado.size(), 26), "\r\nEntrada: PRECIPITACION\r\n");
+}
+
+TEST_F(UnaTormenta, ElArchivoTieneElTextoEnWindows1252EntreComillas)
+{
+    anfitrion->marcaPizarra = true;
+    EXPECT_TRUE(CorreUnaTormenta(s));
+    EXPECT_TRUE(apoyo::MismoTexto("\"" + model::AWindows1252(s.TextoPizarra) + "\"\r\n",
+                                  disco.Bytes("/trabajo/SalePizarra1_tem.txt")));
+}
+
+TEST_F(UnaTormenta, CargaRefrescaRotulosYHabilitaLaVerificacionConRepresas)
+{
+    CargaProyecto(s);
+    EXPECT_EQ(anfitrion->rotulosProyecto, 1);
+    EXPECT_EQ(anfitrion->verificacionHabilitada, 0);
+    s.NroRepresas = 1;
+    s.ColRepresas.Agrega({.NombreRepresa = "r-1", .numRepresa = 1, .chkFQ = {1}});
+    GuardaProyecto();
+    CargaProyecto(s);
+    EXPECT_GT(anfitrion->verificacionHabilitada, 0);
+    EXPECT_EQ(s.FQActiva(1, 1), 1);
+}
+
+TEST_F(UnaTormenta, ElAvisoDeVariasSalidasNoInterrumpe)
+{
+    PonUEH("u-2", "");
+    GuardaProyecto();
+    EXPECT_TRUE(CorreUnaTormenta(s));
+    EXPECT_TRUE(anfitrion->sucesos.empty());
+    EXPECT_TRUE(s.AvisoDescargasVisto);
+}
+
+}  // namespace
+}  // namespace engine
