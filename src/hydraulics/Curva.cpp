@@ -12,8 +12,6 @@
 
 namespace hydraulics {
 
-using model::Lago;
-using model::Represa;
 using model::Siro;
 using Clase = model::ComponenteActual::Clase;
 

@@ -302,6 +302,17 @@ TEST_F(CurvaPreparada, LaPotenciaNegativaFallaSoloEnSuAlturaMinima)
     EXPECT_EQ(Q.Valor(4), 0.5F);
 }
 
+TEST_F(CurvaPreparada, LasFuncionesComunesSirvenDesdeSuAlturaMinima)
+{
+    PonFuncion(1, 3, 0.5F, 0, 2, 5);  // a bottom outlet
+    PonFuncion(2, 8, 1.5F, 0, 4, 9);  // a spillway
+    PonFuncion(3, 1, 0, 0, 2, 9);     // a pump
+    PonFuncion(5, 1, -2, 3, 2, 9);
+    EXPECT_TRUE(CurvaDescarga(s).SinPreguntas(2, 9));
+    EXPECT_TRUE(CurvaDescarga(s).SinPreguntas(-100, 100));
+    EXPECT_TRUE(CurvaInversa(s).Sirve());
+}
+
 TEST_F(CurvaPreparada, LaPotenciaQueDesbordaNoSePrueba)
 {
     PonFuncion(1, 1, 200, 0, 0, 10);
