@@ -2,7 +2,7 @@
 """Faults and oddities that the project generator plants: in the model before its files are built, or in the files."""
 import os
 
-from numeros import Falla, div, f32, texto32
+from numeros import Falla, div, f32, numero_entero, texto32
 
 
 def suma_muskingum(K, x, paso):
@@ -58,12 +58,13 @@ def areas_cero(p):
 
 
 def area_cero_despues(p):
-    _pone(p, p.UEHs[-1], area=0)
+    for ueh in p.UEHs[-1:]:
+        ueh["area"] = 0
 
 
 def areas_que_se_anulan(p):
-    p.UEHs[0]["area"] = 10
-    p.UEHs[-1]["area"] = -10 if len(p.UEHs) > 1 else 10
+    if len(p.UEHs) > 1:
+        p.UEHs[0]["area"], p.UEHs[-1]["area"] = 10, -10
 
 
 def muskingum_libre(p):
@@ -98,9 +99,9 @@ def directo_lento(p):
 
 
 def negativos_UEH(p):
-    ueh = _alguna(p, p.UEHs)
     campo = p.uno_de(("q0", "k", "a", "b", "i", "z", "velocidad", "longitud", "area"))
-    _pone(p, ueh, **{campo: -abs(ueh[campo] or 3)})
+    ueh = _alguna(p, p.UEHs)
+    _pone(p, ueh, **{campo: -abs(ueh.get(campo) or 3)})
 
 
 def negativos_red(p):
@@ -188,7 +189,7 @@ def sin_aportes(p):
 
 
 def once_salidas(p):
-    while len(p.UEHs) < 13:
+    while 0 < len(p.UEHs) < 13:
         nueva = dict(p.UEHs[0])
         nueva["nombre"] = "u-extra%d" % len(p.UEHs)
         p.UEHs.append(nueva)
@@ -198,7 +199,7 @@ def once_salidas(p):
 
 def drena_a_UEH(p):
     nodo = _alguna(p, p.cauces)
-    if nodo:
+    if nodo and p.UEHs:
         nodo["aa"] = p.UEHs[0]["nombre"]
 
 
@@ -232,7 +233,8 @@ def tabla_desordenada(p):
 def tabla_repetida(p):
     for embalse, tabla in _todas_las_tablas(p):
         filas = embalse[tabla]
-        filas.insert(p.azar.randrange(len(filas)), list(p.uno_de(filas)))
+        if filas:
+            filas.insert(p.azar.randrange(len(filas)), list(p.uno_de(filas)))
 
 
 def tabla_vacia(p):
@@ -307,7 +309,7 @@ def muchos_componentes(p):
         p.opciones["--dur"] = "120"
     tipo = p.uno_de(("u", "c", "r", "l"))
     lista, limite = {"u": (p.UEHs, 70), "c": (p.cauces, 70), "r": (p.represas, 20), "l": (p.lagos, 70)}[tipo]
-    if not lista:
+    if not lista or not p.UEHs:
         return
     modelo = dict(lista[0])
     while len(lista) < limite + p.uno_de((1, 1, 2)):
@@ -381,13 +383,19 @@ def campo_malo(p):
         )
 
 
+def _desviada(texto, desvios, azar):
+    """A count, whatever its form, off by one of the amounts."""
+    valor = numero_entero(texto)
+    cuenta = int(valor) if valor is not None and abs(valor) < 1000 else 0
+    return str(max(0, cuenta + azar.choice(desvios)))
+
+
 def cuenta_que_miente(p):
     """A count in the component file is off by a few."""
     registros = p.archivos[p.nombre + "_UEHs.vlm"]
     lugares = _lugares_de_cuentas(p)
     lugar = p.uno_de(lugares)
-    cuenta = int(registros[lugar][0])
-    registros[lugar] = [str(max(0, cuenta + p.uno_de((-1, 1, 1, 2))))]
+    registros[lugar] = [_desviada(registros[lugar][0], (-1, 1, 1, 2), p.azar)]
 
 
 def _lugares_de_cuentas(p):
@@ -402,7 +410,7 @@ def filas_que_mienten(p):
     for sufijo in ("_RHAS.vlm", "_RHQ.vlm", "_LHASQ.vlm"):
         for registro in p.archivos.get(p.nombre + sufijo, []):
             if registro[0].startswith('"*') and p.suerte(0.6):
-                registro[1] = str(max(0, int(registro[1]) + p.uno_de((-1, 1, 2, 12))))
+                registro[1] = _desviada(registro[1], (-1, 1, 2, 12), p.azar)
 
 
 def bloque_que_falta(p):
@@ -418,7 +426,7 @@ def cuenta_en_otro_archivo(p):
             if nombre.endswith(("_pt.vlm", "_dpt.vlm", "_pdr.vlm")):
                 registro = registros[1] if nombre.endswith("_pt.vlm") else registros[0]
                 n = p.azar.randrange(len(registro))
-                registro[n] = str(max(0, int(registro[n]) + p.uno_de((-1, 1, 3))))
+                registro[n] = _desviada(registro[n], (-1, 1, 3), p.azar)
 
 
 def serie_con_cero(p):
