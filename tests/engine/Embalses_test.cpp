@@ -735,11 +735,11 @@ void PoneAlAzar(RedAMano& red, std::uint32_t semilla, bool repetida, const std::
     if (lago) {
         auto& l = red.PonLago(nombre, metodo, tabla);
         l.HInicialEmb = entre(base, tope);
-        l.Lago_k_Musk = red.s.PasoQ * 1.5F;
+        l.Lago_k_Musk = 1.5F * static_cast<float>(red.s.PasoQ);
     } else {
         auto& r = red.PonRepresa(nombre, metodo, tabla);
         r.HInicialEmb = entre(base, tope);
-        r.Represa_k_Musk = red.s.PasoQ * 1.5F;
+        r.Represa_k_Musk = 1.5F * static_cast<float>(red.s.PasoQ);
         if (semilla % 3 == 0) {
             r.optTabla = false;
             r.chkFQ = {1, 1, 0, 0, 1, 0, 0, 0};

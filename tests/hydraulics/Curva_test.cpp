@@ -219,6 +219,11 @@ TEST_F(CurvaPreparada, NoSirveDondeLosAlmacenamientosDistanDemasiado)
     EXPECT_EQ(CurvaAlmacenamiento(s).Filas(), 0);
     EXPECT_EQ(CurvaArea(s).Filas(), 3);
     EXPECT_EQ(AlmacenamientosSinPreguntas(s), Intervalo{});
+    const float alturas[] = {0, 1};
+    const std::int32_t lejos[] = {-2000000000, 2000000000}, cerca[] = {-1000000000, 1000000000};
+    EXPECT_EQ(CurvaLineal(alturas, lejos).Filas(), 0);
+    EXPECT_EQ(CurvaLineal(alturas, cerca).Filas(), 2);
+    EXPECT_EQ(CurvaLineal(alturas, cerca).Valor(0.75F), 500000000);
 }
 
 TEST_F(CurvaPreparada, LasAlturasDemasiadoLejosImpidenBuscarPorAlmacenamiento)

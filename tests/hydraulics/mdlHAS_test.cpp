@@ -234,6 +234,8 @@ TEST_P(LasSiete, IndicesFueraDeLosArreglos)
 {
     s.RepresaFilasHAS(1) = s.LagoFilas(1) = -1;
     EXPECT_EQ(NumeroDeFalla([&] { Busca(20); }), 9);
+    s.RepresaFilasHAS(1) = s.LagoFilas(1) = static_cast<std::int16_t>(s.LagoH.TopeColumna() + 1);
+    EXPECT_EQ(NumeroDeFalla([&] { Busca(20); }), 9);
     s.RepresaFilasHAS(1) = s.LagoFilas(1) = 200;
     EXPECT_EQ(NumeroDeFalla([&] { Busca(20); }), 9);
     s.Represas(1).numRepresa = 3;
