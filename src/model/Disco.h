@@ -19,7 +19,7 @@ inline constexpr char Separador = '/';
 /// contents are bytes. Faults: 53 the file isn't in its directory, 76 its directory isn't there, 75 the
 /// path can't be read or written.
 struct Disco {
-    /// Returns the whole file. Throws Falla 53, 76, 75.
+    /// Returns the whole file. Throws Falla 53, 76, 75; 75 also for what is no plain file or above 256 MB.
     std::function<std::string(const std::string& ruta)> Lee;
     /// Replaces the file by these bytes; an empty text makes an empty file. Throws Falla 76, 75.
     std::function<void(const std::string& ruta, std::string_view bytes)> Escribe;
@@ -29,11 +29,11 @@ struct Disco {
     std::function<bool(const std::string& ruta)> HayDirectorio;
     /// Creates a directory. Throws Falla 75 where it can't, or where it is there already.
     std::function<void(const std::string& ruta)> CreaDirectorio;
-    /// Names of the plain files of a directory, sorted. Throws Falla 76.
+    /// Names of the plain files of a directory, sorted by their bytes. Throws Falla 76, 75.
     std::function<std::vector<std::string>(const std::string& directorio)> Lista;
-    /// Deletes a file. Throws Falla 53, 75.
+    /// Deletes a file. Throws Falla 53, 76, 75.
     std::function<void(const std::string& ruta)> Borra;
-    /// Copies a file over another. Throws Falla 53, 76, 75.
+    /// Copies a file over another. Throws Falla 53, 76, 75; 75 also for a copy onto itself.
     std::function<void(const std::string& origen, const std::string& destino)> Copia;
 };
 

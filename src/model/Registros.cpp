@@ -43,8 +43,9 @@ Campo LectorRegistros::Siguiente()
         campo.bytes = resto.substr(inicio, fin - inicio);
         campo.bytes.remove_suffix(campo.bytes.size() - (campo.bytes.find_last_not_of(Blancos) + 1));
     }
-    const bool dosBytes = resto.substr(fin, 2) == SaltoLinea;
-    lugar = std::min(lugar + fin + (dosBytes ? 2 : 1), contenido.size());
+    const std::size_t largoFin = resto.substr(fin, 2) == SaltoLinea ? 2 : 1;
+    const bool hayMas = fin + largoFin < resto.size() || (fin < resto.size() && resto[fin] == ',');
+    lugar = hayMas ? lugar + fin + largoFin : contenido.size() + 1;
     return campo;
 }
 

@@ -11,7 +11,8 @@
 #include "model/Falla.h"
 
 // Delimited text records, the form of every project and table file: fields end at a comma or a line end,
-// texts stand in double quotes, numbers are bare with a point, booleans are #TRUE# and #FALSE#.
+// texts stand in double quotes, numbers are bare with a point, booleans are #TRUE# and #FALSE#. Behind
+// a comma there is always a field, be it the last byte of a file; behind the last line end there is none.
 namespace model {
 
 /// One field as it stands in the file.
@@ -25,18 +26,21 @@ struct Campo {
 class LectorRegistros {
   public:
     /// `bytes`: the whole file, Windows-1252; the reader keeps it.
-    explicit LectorRegistros(std::string bytes) : contenido(std::move(bytes)) {}
+    explicit LectorRegistros(std::string bytes)
+        : contenido(std::move(bytes)), lugar(contenido.empty() ? 1 : 0)
+    {
+    }
 
     /// Each throws Falla 62 past the end.
-    std::string Texto();       ///< any field, as UTF-8
-    std::int16_t Numero16();   ///< rounded, a tie to the even one; empty is 0. Throws Falla 13, 6
-    float NumeroSimple();      ///< empty is 0. Throws Falla 13, 6
-    double NumeroDoble();      ///< empty is 0. Throws Falla 13, 6
-    bool Logico();             ///< empty is false, a number is true unless 0. Throws Falla 13
+    std::string Texto();      ///< any field, as UTF-8
+    std::int16_t Numero16();  ///< rounded, a tie to the even one; empty is 0. Throws Falla 13, 6
+    float NumeroSimple();     ///< empty is 0. Throws Falla 13, 6
+    double NumeroDoble();     ///< empty is 0. Throws Falla 13, 6
+    bool Logico();            ///< empty is false, a number is true unless 0. Throws Falla 13, 6
 
     /// One field whatever it is. Throws Falla 62 past the end.
     Campo Siguiente();
-    [[nodiscard]] bool Fin() const { return lugar >= contenido.size(); }
+    [[nodiscard]] bool Fin() const { return lugar > contenido.size(); }
     [[nodiscard]] std::size_t Lugar() const { return lugar; }
     /// Goes back to a place that Lugar() gave.
     void Vuelve(std::size_t donde) { lugar = donde; }
@@ -48,7 +52,7 @@ class LectorRegistros {
 
   private:
     std::string contenido;
-    std::size_t lugar = 0;
+    std::size_t lugar;  ///< contenido.size() is the empty field behind a comma that ends the file
 };
 
 /// What a field is as a number or boolean. Each throws Falla 13 or 6.
@@ -66,7 +70,8 @@ void LectorRegistros::Registro(int campos, F lee)
     } catch (const Falla& falla) {
         if (falla.numero == NumeroFalla::FinDeArchivo) throw;
         lugar = inicio;
-        for (int i = 0; i < campos && !Fin(); ++i) Siguiente();
+        for (int i = 0; i < campos && !Fin(); ++i)
+            Siguiente();
         throw;
     }
 }

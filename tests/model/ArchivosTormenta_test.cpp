@@ -698,15 +698,15 @@ TEST_F(ArchivosTormenta, SinArchivoDeTablasPDRLaRanura0QuedaComoEstaba)
 TEST_F(ArchivosTormenta, UnasTablasPDRCortadasEnCadaByteAnulanLasCuentas)
 {
     const std::string bytes = "1,0,0,1\r\n\"a\"\r\n20,10,2\r\n\"b\"\r\n\"c\"\r\n\"d\"\r\n30,30,5\r\n";
-    const std::size_t ultimo = bytes.size() - 3;  // the last recurrence and its line end
+    const std::size_t ultimo = bytes.size() - 3;  // behind the last comma: an empty recurrence
     for (std::size_t n = 0; n <= bytes.size(); ++n) {
         PonPDRs(bytes.substr(0, n));
         s.TablaPDR = 3;
         s.NroFilasTabla = {5, 6, 7, 8};
         s.NroSeriePDR = 0;
         LeeTablaPDRs(s);
-        EXPECT_EQ(s.NroFilasTabla[3], n > ultimo ? 1 : 0) << n << " bytes";
-        EXPECT_EQ(s.NroSeriePDR, n > ultimo ? 1 : 0) << n << " bytes";
+        EXPECT_EQ(s.NroFilasTabla[3], n >= ultimo ? 1 : 0) << n << " bytes";
+        EXPECT_EQ(s.NroSeriePDR, n >= ultimo ? 1 : 0) << n << " bytes";
         EXPECT_TRUE(Cajas().empty()) << n << " bytes";
     }
 }
@@ -904,8 +904,8 @@ TEST_F(ArchivosTormenta, UnaListaCortadaEnCadaByteDaLosItemsEnteros)
         PonLista(bytes.substr(0, n));
         std::vector<std::string> cmbPDR;
         leeListaPpDurRec(s, cmbPDR);
-        // "60,60,1" has 7 bytes and three fields; the sixth field begins at byte 15
-        EXPECT_EQ(cmbPDR.size(), n >= 16 ? 2U : n >= 7 ? 1U : 0U) << n << " bytes";
+        // "60,60," has 6 bytes and three fields, the last one empty; the second line's last comma is byte 15
+        EXPECT_EQ(cmbPDR.size(), n >= 15 ? 2U : n >= 6 ? 1U : 0U) << n << " bytes";
     }
 }
 
