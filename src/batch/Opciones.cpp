@@ -76,7 +76,6 @@ std::int16_t Entero(std::string_view texto, double menor, double mayor)
 float Lamina(std::string_view texto)
 {
     const double x = Numero(texto);
-    if (x < 0) throw ValorErroneo{"una precipitación no puede ser negativa"};
     try {
         return model::Simple(x);
     } catch (const model::Falla&) {
