@@ -333,6 +333,16 @@ TEST_F(CurvaPreparada, LaPotenciaQueDesbordaNoSePrueba)
     EXPECT_TRUE(CurvaDescarga(s).SinPreguntas(11, 12));
 }
 
+TEST_F(CurvaPreparada, LaParabolaQueDesbordaNoSePrueba)
+{
+    PonFuncion(5, 0, 0, 1e37F, 0, 10);  // 1e37·10² is outside 32 bits
+    EXPECT_FALSE(CurvaDescarga(s).SinPreguntas(0, 10));
+    EXPECT_TRUE(CurvaDescarga(s).SinPreguntas(0, 2));
+    PonFuncion(5, 0, 1e38F, 0, 0, 10);
+    EXPECT_FALSE(CurvaDescarga(s).SinPreguntas(0, 10));
+    EXPECT_TRUE(CurvaDescarga(s).SinPreguntas(0, 0.5F));
+}
+
 TEST_F(CurvaPreparada, LaInversaNoSirveDondeNoTerminaria)
 {
     PonHQ({{16000, 0}, {16383, 1}});
