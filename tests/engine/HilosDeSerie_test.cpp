@@ -1,0 +1,154 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+
+#include <random>
+#include <string>
+#include <vector>
+
+#include "apoyo/Compara.h"
+#include "engine/RedDeUEHs.h"
+#include "engine/mdlSeriePDR.h"
+#include "model/TablasEmbalse.h"
+
+// A series gives the same bytes, boxes and state whatever the number of threads: over random projects with
+// recurrences and durations selected at random, some with storms that show boxes or ask questions.
+namespace engine {
+namespace {
+
+class SerieAlAzar : public pruebas::RedDeUEHs {
+  public:
+    explicit SerieAlAzar(unsigned semilla) : azar(semilla)
+    {
+        s.FormaPp = 2;
+        s.PasoQ = Uno<std::int16_t>({5, 10});
+        s.PasoPp = static_cast<std::int16_t>(s.PasoQ * Entero(1, 3));
+        s.DistriPp = static_cast<std::int16_t>(Entero(0, 4));
+        s.N0Dur = static_cast<float>(Entero(0, 300));
+        const int cauces = Entero(1, 6);
+        for (int i = 1; i <= cauces; ++i)
+            PonTramo(i);
+        for (int i = 1; i <= cauces; ++i)
+            PonUnidad("c-" + std::to_string(i));
+        if (Entero(0, 1) == 1) PonLaguna();
+        Guarda();
+        PonSerie(Entero(2, 30));
+    }
+
+  private:
+    int Entero(int a, int b) { return std::uniform_int_distribution<int>(a, b)(azar); }
+    float Real(float a, float b) { return std::uniform_real_distribution<float>(a, b)(azar); }
+    template <typename T>
+    T Uno(const std::vector<T>& de)
+    {
+        return de[static_cast<std::size_t>(Entero(0, static_cast<int>(de.size()) - 1))];
+    }
+    void PonTramo(int i)
+    {
+        model::Cauce& c =
+            PonCauce("c-" + std::to_string(i), i == 1 ? "0" : "c-" + std::to_string(Entero(1, i - 1)));
+        c.LongCauce = Real(100, 9000);
+        c.optDirMusk = Entero(0, 2) > 0;
+        c.Cauce_k_Musk = static_cast<float>(Entero(5, 60));  // now and then the sum misses 1: a box a storm
+        c.Cauce_n_Musk = 0.2F;
+    }
+    void PonUnidad(const std::string& destino)
+    {
+        model::UEH& u = PonUEH("u-" + std::to_string(s.ColUEHs.Cuenta() + 1), destino);
+        u.Area = Real(1, 300);
+        u.LongitudMax = Real(50, 6000);
+        u.KostiakovA = Real(0, 3);
+        u.KostiakovB = 0.5F;
+        u.RetensionZ = Real(0, 5);
+        u.Q0Recesion = Entero(0, 1) == 1 ? Real(0, 1) : 0;
+        u.KRecesion = 3;
+    }
+    /// A lake too low for large storms now and then: a question at each height that leaves its table.
+    void PonLaguna()
+    {
+        s.NroLagos = 1;
+        s.ColLagos.Agrega({.NombreLAGO = "l-1",
+                           .numLAGO = 1,
+                           .Metodo = Uno<std::string>({"Piscina Nivelada", "Runge Kutta", "Muskingum"}),
+                           .Cauce_aa = "c-1",
+                           .Lago_k_Musk = 20,
+                           .HInicialEmb = 100});
+        PonUnidad("l-1");
+        const int filas = Entero(3, 12);
+        s.LagoFilas.Dimensiona(1);
+        s.LagoFilas(1) = static_cast<std::int16_t>(filas);
+        for (auto* m : {&s.LagoH, &s.LagoA, &s.LagoQ})
+            m->Dimensiona(1, 20);
+        s.LagoS.Dimensiona(1, 20);
+        for (int k = 1; k <= filas; ++k) {
+            const auto d = static_cast<float>(k - 1);
+            s.LagoH(1, k) = 100 + d;
+            s.LagoA(1, k) = 10;
+            s.LagoS(1, k) = (k - 1) * 100000;
+            s.LagoQ(1, k) = 4 * d;
+        }
+        model::GuardaTablaHSVQLago(s);
+    }
+    void Guarda()
+    {
+        GuardaProyecto();
+        for (auto& marca : s.frmConfigura.CheckR)
+            marca = static_cast<std::int16_t>(Entero(0, 3) > 0);
+        for (auto& marca : s.frmConfigura.CheckD)
+            marca = static_cast<std::int16_t>(Entero(0, 3) > 0);
+        model::cmdAplicar(s);
+        anfitrion->sucesos.clear();
+        anfitrion->respuestaDeSiempre = true;
+    }
+    void PonSerie(int n)
+    {
+        s.NroSeriePDR = static_cast<std::int16_t>(n);
+        s.SerieP.Dimensiona(n);
+        s.SerieD.Dimensiona(n);
+        s.SerieR.Dimensiona(n);
+        for (int i = 1; i <= n; ++i) {
+            s.SerieP(i) = static_cast<float>(Entero(1, 200));
+            s.SerieD(i) =
+                Entero(0, 3) > 0
+                    ? Uno(std::vector<std::int16_t>(model::Duraciones.begin(), model::Duraciones.end()))
+                    : static_cast<std::int16_t>(Entero(1, 700));
+            s.SerieR(i) =
+                Entero(0, 5) > 0
+                    ? Uno(std::vector<std::int16_t>(model::Recurrencias.begin(), model::Recurrencias.end()))
+                    : static_cast<std::int16_t>(Entero(1, 300));
+        }
+        if (Entero(0, 9) == 0) s.SerieP(Entero(2, n)) = 0;  // stops the series there
+    }
+    std::mt19937 azar;
+};
+
+class HilosDeSerie : public testing::TestWithParam<unsigned> {};
+
+TEST_P(HilosDeSerie, UnoYDosHilosDanLosMismosBytes)
+{
+    SerieAlAzar uno(GetParam()), dos(GetParam());
+    EXPECT_EQ(CorreSeriePDR(uno.s, 1), CorreSeriePDR(dos.s, 2));
+    const std::string tabla = "/trabajo/SaleTablasQDRs_tem.txt";
+    ASSERT_EQ(uno.disco.Esta(tabla), dos.disco.Esta(tabla));
+    if (uno.disco.Esta(tabla)) {
+        EXPECT_TRUE(apoyo::MismoTexto(uno.disco.Bytes(tabla), dos.disco.Bytes(tabla)));
+    }
+    EXPECT_EQ(uno.anfitrion->sucesos, dos.anfitrion->sucesos);
+    EXPECT_EQ(uno.s.QMax, dos.s.QMax);
+    EXPECT_EQ(uno.s.EscUEH, dos.s.EscUEH);
+    EXPECT_EQ(uno.s.CoefEscUEH, dos.s.CoefEscUEH);
+    EXPECT_EQ(uno.s.EscTotal, dos.s.EscTotal);
+    EXPECT_EQ(uno.s.CoefEscTotal, dos.s.CoefEscTotal);
+    EXPECT_EQ(uno.s.QSale, dos.s.QSale);
+    EXPECT_EQ(uno.s.HLago, dos.s.HLago);
+    EXPECT_EQ(uno.s.PpAcum, dos.s.PpAcum);
+    EXPECT_EQ(uno.s.IntensidadPp, dos.s.IntensidadPp);
+    EXPECT_EQ(uno.s.VolEntra, dos.s.VolEntra);
+    EXPECT_EQ(uno.s.VolSale, dos.s.VolSale);
+    EXPECT_EQ(uno.s.IndSerie, dos.s.IndSerie);
+    EXPECT_TRUE(apoyo::MismoTexto(uno.s.TextoPizarra, dos.s.TextoPizarra));
+}
+
+INSTANTIATE_TEST_SUITE_P(Proyectos, HilosDeSerie, testing::Range(1U, 201U));
+
+}  // namespace
+}  // namespace engine
