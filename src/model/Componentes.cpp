@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/Componentes.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -178,6 +179,22 @@ std::string Compone(Siro& s, std::string_view sufijo)
     return s.ArchivoTemp = Ruta(s.DirProyecto, s.NombreProyecto + std::string(sufijo));
 }
 
+/// How many of a reach's vertices, the first ones, have a place in the drawing's arrays.
+int VerticesConLugar(const Siro& s, int cauce, int vertices)
+{
+    const int columnas = std::min(s.XVertice.TopeColumna(), s.YVertice.TopeColumna());
+    const int filas = std::min(s.XVertice.UltimaFila(), s.YVertice.UltimaFila());
+    return cauce > filas ? 0 : std::clamp(vertices, 0, std::max(columnas, 0));
+}
+
+/// A box for each vertex without a place. There may be thousands of them: none is thrown.
+void InformaSinLugar(const Siro& s, int vertices)
+{
+    const Mensaje mensaje{TextoFallaArchivo({NumeroFalla::Subindice}), {}, Icono::Ninguno};
+    for (int j = 0; j < vertices; ++j)
+        s.Anfitrion.Avisa(mensaje);
+}
+
 // --- reading ---
 
 /// The load under its handler: a statement at fault is reported and the next one runs; a file that isn't
@@ -310,14 +327,6 @@ void LeePar(Carga& carga, int cauce, int vertice)
     });
 }
 
-/// Vertices of a reach beyond the last row of the drawing: none is taken from the file, each is reported.
-void InformaSinFila(const Siro& s, int vertices)
-{
-    const Mensaje mensaje{TextoFallaArchivo({NumeroFalla::Subindice}), {}, Icono::Ninguno};
-    for (int j = 0; j < vertices; ++j)
-        s.Anfitrion.Avisa(mensaje);
-}
-
 void LeeArchivoVerCau(Carga& carga)
 {
     Siro& s = carga.s;
@@ -335,12 +344,10 @@ void LeeArchivoVerCau(Carga& carga)
         }
         int vertices = 0;
         carga.Paso([&] { vertices = s.NroVertices(i); });
-        if (i > s.XVertice.UltimaFila()) {
-            InformaSinFila(s, vertices);
-            continue;
-        }
-        for (int j = 1; j <= vertices; ++j)
+        const int conLugar = VerticesConLugar(s, i, vertices);
+        for (int j = 1; j <= conLugar; ++j)
             LeePar(carga, i, j);
+        InformaSinLugar(s, vertices - conLugar);  // their pairs stay in the file
     }
     carga.Cierra();
 }
@@ -433,12 +440,14 @@ void EscribeArchivoVerCau(Siro& s)
     for (int i = 1; i <= s.NroCauces; ++i) {
         int vertices = 0;
         archivo.Paso([&] { vertices = s.NroVertices(i); });
-        for (int j = 1; j <= vertices; ++j)
+        const int conLugar = VerticesConLugar(s, i, vertices);
+        for (int j = 1; j <= conLugar; ++j)
             archivo.Registro([&](EscritorRegistros& escritor) {
-                const float x = s.XVertice(i, j);
-                const float y = s.YVertice(i, j);
-                escritor.Numero(x).Numero(y);
+                escritor.Numero(s.XVertice(i, j)).Numero(s.YVertice(i, j));
             });
+        if (vertices <= conLugar) continue;
+        archivo.Paso([] { throw Falla{NumeroFalla::Subindice}; });  // closes the file
+        InformaSinLugar(s, vertices - conLugar - 1);
     }
     archivo.Cierra();
 }

@@ -84,28 +84,41 @@ std::string Prepara(Siro& s, const ArchivoTabla<T, Limite>& archivo)
 
 // --- reading ---
 
-/// What a scan for a block meets in a table file, which it takes in records of as many fields as a data line
-/// has: headers, and records whose second field is no 16-bit number. A scan begins at the head of the file
-/// for every component, so that the places of the records are the same for all, and one look is enough.
+/// Whether a field is a small number at first sight, so that it can't be at fault as a 16-bit one: at most
+/// four digits, a point and digits if it likes.
+bool EsNumeroChico(const Campo& campo)
+{
+    constexpr std::size_t CifrasSeguras = 4;
+    const auto cifra = [](char c) { return c >= '0' && c <= '9'; };
+    const auto punto = std::find_if_not(campo.bytes.begin(), campo.bytes.end(), cifra);
+    const auto enteras = static_cast<std::size_t>(punto - campo.bytes.begin());
+    if (campo.entreComillas || enteras == 0 || enteras > CifrasSeguras) return false;
+    return punto == campo.bytes.end() || (*punto == '.' && std::all_of(punto + 1, campo.bytes.end(), cifra));
+}
+
+/// A table file in records of as many fields as a data line has, which is how a scan for a block takes it,
+/// whatever a line holds. A scan begins at the head of the file for every component, so that the records are
+/// the same for all: one look finds the headers, and the records whose second field is no 16-bit number.
 class Registros {
   public:
     struct Hallazgo {
         std::string marcador{};        ///< first field of a header
         std::int16_t filas = 0;        ///< second field
-        std::optional<Falla> falla{};  ///< what the second field of any record is at fault for
-        std::size_t detras = 0;        ///< place behind the record
+        std::optional<Falla> falla{};  ///< what the second field is at fault for
+        std::size_t registro = 0;      ///< its place in the file, from 0
     };
 
     Registros(std::string bytes, std::size_t camposPorRegistro)
-        : lector(std::move(bytes)), campos(static_cast<int>(camposPorRegistro))
+        : lector(std::move(bytes)), porRegistro(camposPorRegistro)
     {
-        try {
-            while (!lector.Fin())
-                Mira();
-        } catch (const Falla& falla) {
-            if (falla.numero != NumeroFalla::FinDeArchivo) throw;  // the last record is short of fields
-        }
+        while (!lector.Fin())
+            campos.push_back(lector.Siguiente());
+        for (std::size_t registro = 0; Mira(registro);)
+            ++registro;
     }
+    Registros(const Registros&) = delete;  // the fields are views into the reader
+    Registros& operator=(const Registros&) = delete;
+
     /// The block of a component, each record at fault on the way reported; nothing where it isn't there.
     const Hallazgo* Busca(const Siro& s, const std::string& marcador) const
     {
@@ -118,36 +131,44 @@ class Registros {
         }
         return nullptr;
     }
-    LectorRegistros& Desde(const Hallazgo& hallazgo)
+    /// The numbers of a data line. Throws Falla 13, 6, and 62 where the file ends first.
+    [[nodiscard]] std::array<float, MaxColumnas> Numeros(std::size_t registro) const
     {
-        lector.Vuelve(hallazgo.detras);
-        return lector;
+        std::array<float, MaxColumnas> numeros{};
+        for (std::size_t c = 0; c < porRegistro; ++c)
+            numeros[c] = CampoSimple(Lugar(registro, c));
+        return numeros;
     }
 
   private:
-    void Mira()
+    [[nodiscard]] const Campo& Lugar(std::size_t registro, std::size_t campo) const
     {
-        Campo primero;
-        Hallazgo hallazgo;
-        const auto lee = [&] {
-            primero = lector.Siguiente();
-            hallazgo.filas = CampoNumero16(lector.Siguiente());
-            for (int i = 2; i < campos; ++i)
-                lector.Siguiente();
-        };
-        Sentencia([&] { lector.Registro(campos, lee); },
-                  [&](const Falla& falla) {
-                      if (falla.numero == NumeroFalla::FinDeArchivo) throw falla;
-                      hallazgo.falla = falla;
-                  });
-        hallazgo.detras = lector.Lugar();
+        const std::size_t lugar = registro * porRegistro + campo;
+        if (lugar >= campos.size()) throw Falla{NumeroFalla::FinDeArchivo};
+        return campos[lugar];
+    }
+    /// Looks at a record as at a header. Returns false where the file ends inside it.
+    bool Mira(std::size_t registro)
+    {
+        if (registro * porRegistro + 1 >= campos.size()) return false;
+        const Campo& primero = Lugar(registro, 0);
+        const Campo& segundo = Lugar(registro, 1);
         const bool cabecera = primero.bytes.starts_with(Marca);
-        if (!cabecera && !hallazgo.falla) return;
-        if (cabecera) hallazgo.marcador = DeWindows1252(primero.bytes);
-        hallazgos.push_back(std::move(hallazgo));
+        Hallazgo hallazgo;
+        if (cabecera || !EsNumeroChico(segundo))
+            Sentencia([&] { hallazgo.filas = CampoNumero16(segundo); },
+                      [&](const Falla& falla) { hallazgo.falla = falla; });
+        const bool entero = (registro + 1) * porRegistro <= campos.size();
+        if (hallazgo.falla || (cabecera && entero)) {
+            if (cabecera) hallazgo.marcador = DeWindows1252(primero.bytes);
+            hallazgo.registro = registro;
+            hallazgos.push_back(std::move(hallazgo));
+        }
+        return entero;
     }
     LectorRegistros lector;
-    int campos;
+    std::size_t porRegistro;
+    std::vector<Campo> campos;
     std::vector<Hallazgo> hallazgos;
 };
 
@@ -206,10 +227,9 @@ class LecturaTabla {
     {
         Paso([&] { (s.*archivo.filas)(numero) = bloque.filas; });
         Ensancha(bloque.filas);
-        LectorRegistros& lector = registros->Desde(bloque);
         try {
             for (int k = 1; k <= bloque.filas; ++k)
-                LeeFila(lector, numero, k);
+                LeeFila(bloque.registro + static_cast<std::size_t>(k), numero, k);
         } catch (const Falla&) {
             return false;  // the end of the file: all else is reported where it arises
         }
@@ -222,17 +242,11 @@ class LecturaTabla {
         for (const Columna& columna : archivo.columnas)
             std::visit([&](auto matriz) { (s.*matriz).Redimensiona(tope); }, columna);
     }
-    void LeeFila(LectorRegistros& lector, int numero, int k)
+    void LeeFila(std::size_t registro, int numero, int k)
     {
-        const std::size_t campos = archivo.columnas.size();
         std::array<float, MaxColumnas> leidos{};
-        const bool leida = Paso([&] {
-            lector.Registro(static_cast<int>(campos), [&] {
-                for (std::size_t c = 0; c < campos; ++c)
-                    leidos[c] = lector.NumeroSimple();
-            });
-        });
-        for (std::size_t c = 0; leida && c < campos; ++c)
+        const bool leida = Paso([&] { leidos = registros->Numeros(registro); });
+        for (std::size_t c = 0; leida && c < archivo.columnas.size(); ++c)
             std::visit([&](auto matriz) { Paso([&] { Guarda((s.*matriz)(numero, k), leidos[c]); }); },
                        archivo.columnas[c]);
     }

@@ -632,11 +632,12 @@ TEST_F(Componentes, LosVerticesCortadosEnCadaByteAvisanDanadoUnaVez)
         p.Pon("_UEHs.vlm", RedDeEjemplo().Bytes());
         p.Pon("_VerCau.vlm", bytes.substr(0, largo));
         LeeUEHs(p.s);
-        // The last field is "10.25" and can be cut down to "1". Behind "3.5," stands a lone "-" once.
+        // The last field is "10.25" and can be cut down to nothing, since behind a comma there is always a
+        // field. Behind "3.5," stands a lone "-" once.
         const bool soloMenos = largo > 0 && bytes[largo - 1] == '-';
         Cajas esperadas;
         if (soloMenos) esperadas.push_back(CajaTipos);
-        if (largo < bytes.size() - 6) esperadas.push_back(CajaDanado);
+        if (largo < bytes.size() - 7) esperadas.push_back(CajaDanado);
         EXPECT_EQ(p.Avisos(), esperadas) << largo;
         EXPECT_EQ(p.s.NroCauces, 2);
     }
