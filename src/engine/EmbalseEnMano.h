@@ -47,6 +47,19 @@ using ColumnasDelMetodo = std::array<float, 3>;
 /// Throws Falla 6 where the minutes leave 16 bits.
 void EscribeDetalle(Corrida& c, const EmbalseEnMano& e, std::int16_t k, const ColumnasDelMetodo& columnas);
 
+/// Opens a detail sheet with the method's column headings, and closes it.
+void AbreDetalle(Corrida& c, const EmbalseEnMano& e, std::string_view encabezado);
+void CierraDetalle(Corrida& c, const EmbalseEnMano& e);
+
+/// Result table, peak and volumes of a routed component. Throws the fault that ends it.
+void EscribeTabla(Corrida& c, const EmbalseEnMano& e);
+
+/// Routes by the level pool: 2S/dt + Q solved by bisection on the height (Chow, Maidment and Mays 1988, 8.2).
+void PropagaPiscina(Corrida& c, const EmbalseEnMano& e);
+
+/// Routes by the third-order Runge-Kutta scheme on dH/dt = (I - Q)/A (Chow, Maidment and Mays 1988, 8.3).
+void PropagaRungeKutta(Corrida& c, const EmbalseEnMano& e);
+
 /// Level pool for steps 1..NroPasosQ from HActual, SActual and T = 2S/dt - Q, unchecked: bit for bit what the
 /// bisection step by step gives. Returns false, and does nothing, where a question or a fault can't be ruled
 /// out.
