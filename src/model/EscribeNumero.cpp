@@ -212,7 +212,7 @@ char* Compone(char* p, const Tira& tira, int orden)
         return p + largo + 1;
     }
     if (orden < 0 && orden >= -4) {
-        std::memcpy(p, "0.000", 5);
+        std::copy_n("0.000", 5, p);
         p += 1 - orden;
         tira.Pon(p);
         return p + largo;

@@ -66,12 +66,12 @@ void ConectaPreguntas(model::Anfitrion& a, const std::shared_ptr<Estado>& e)
         return si;
     };
     a.PideTexto = [e](const model::Peticion& p) {
-        const std::string texto = Saca(e->textos, e->aceptaDefecto ? p.defecto : std::string{});
+        std::string texto = Saca(e->textos, e->aceptaDefecto ? p.defecto : std::string{});
         e->sucesos.push_back({Suceso::Clase::Peticion, {p.texto, p.titulo}, texto});
         return texto;
     };
     a.EligeArchivo = [e](std::string_view titulo, std::string_view filtro) {
-        const std::string ruta = Saca(e->elegidos, std::string{});
+        std::string ruta = Saca(e->elegidos, std::string{});
         e->sucesos.push_back({Suceso::Clase::Archivo, {std::string(filtro), std::string(titulo)}, ruta});
         return ruta;
     };
