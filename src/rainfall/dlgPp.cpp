@@ -1,0 +1,595 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "rainfall/dlgPp.h"
+
+#include <algorithm>
+#include <cmath>
+#include <initializer_list>
+
+#include "engine/modDistriPp.h"
+#include "model/Avisos.h"
+#include "model/Numeros.h"
+#include "model/Texto.h"
+
+namespace rainfall {
+
+using model::Advierte;
+using model::Entero16;
+using model::NumeroATexto;
+using model::Simple;
+using model::Siro;
+using model::Val;
+
+namespace {
+
+constexpr std::size_t FormaDeLista = 1;
+constexpr std::size_t FormaSerie = 2;
+constexpr std::size_t FormaPorUEH = 3;
+constexpr std::size_t FormaReal = 4;
+constexpr std::size_t PrimeraPersonal = 5;  // distributions 5 to 7 are personal tables 1 to 3
+
+constexpr std::string_view PorDefecto = "60";
+constexpr std::string_view PasoPorDefecto = "10";
+constexpr std::string_view DuracionDeMuestra = "1440";
+
+constexpr std::string_view SinTormenta = "No ha ingresado datos de Pp y Duración de la tormenta.";
+constexpr std::string_view TituloAtencion = "Atención...";
+constexpr std::string_view VerifiqueDistribucion = "Verifique la Distribución temporal de LLuvia";
+constexpr std::string_view TituloPasoPp = "Corrección de selección del paso de entrada (Precipitación)";
+constexpr std::string_view PasoPpLargo =  // kept as it stands
+    "Elija un paso de tiempo para las entradas (Precipitaciones)  múlitplo menor, o al menos igual, a la "
+    "Duración de "
+    "la Tormenta. (Sugerido: 1/3 del tiempo de concentración de la cuenca)";
+constexpr std::string_view TituloPasoQ = "Corrección de selección del paso de salida";
+constexpr std::string_view PasoQNoCabe =  // kept as it stands
+    "Elija un paso de tiempo para las salidas (Caudales) igual, o múlitplo menor, al paso de entradas "
+    "(precipitaciones)";
+
+// --- state per form
+// -----------------------------------------------------------------------------------------
+
+/// A set of controls, a bit each.
+using Conjunto = std::uint64_t;
+static_assert(NroControles <= 64);
+
+constexpr Conjunto De(std::initializer_list<Control> controles)
+{
+    Conjunto c = 0;
+    for (const Control control : controles)
+        c |= Conjunto{1} << static_cast<unsigned>(control);
+    return c;
+}
+
+/// What a form of the rain makes of the controls; a control that it doesn't name stays as it is.
+struct FilaForma {
+    Conjunto habilita, deshabilita, muestra, oculta;
+};
+
+constexpr Conjunto DesdeElComienzo =
+    De({Control::txtPp, Control::txtDur, Control::cmbRec, Control::optTablaPDR, Control::cmdBorraPDR,
+        Control::cmbPDR, Control::cmdTablaPDR});
+constexpr Conjunto Validez = De({Control::lblValidez, Control::lblDurMin, Control::lblDurMax});
+constexpr Conjunto Vistas = De({Control::cmdVerGrafico, Control::cmdVerTablaPt});
+
+// clang-format off
+/// The index is FormaPp.
+constexpr auto FilasForma = std::to_array<FilaForma>({
+    {.habilita = De({Control::optformaPp, Control::txtPp, Control::txtDur, Control::cmbRec, Control::cmdPDR,
+                     Control::cmbPasoPp}) | Vistas,
+     .deshabilita = De({Control::cmdPpPerso}),
+     .muestra = De({Control::Frame2, Control::Frame4, Control::Frame5, Control::Label9_0, Control::Label9_1}),
+     .oculta = De({Control::Frame3, Control::Frame7}) | Validez},
+    {.habilita = De({Control::cmdBorraPDR, Control::cmbPDR, Control::cmbPasoPp}) | Vistas,
+     .deshabilita = De({Control::cmdPDR, Control::cmdPpPerso}),
+     .muestra = De({Control::Frame2, Control::Frame4, Control::Frame5, Control::Label9_0, Control::Label9_1}),
+     .oculta = De({Control::Frame3, Control::Frame7})},
+    {.habilita = De({Control::optTablaPDR, Control::cmbPasoPp}),
+     .deshabilita = De({Control::cmdPDR, Control::cmdTablaPDR, Control::cmdPpPerso}) | Vistas,
+     .muestra = De({Control::Frame2, Control::Frame3, Control::Frame5, Control::Label9_0, Control::Label9_1}),
+     .oculta = De({Control::Frame4, Control::Frame7})},
+    {.habilita = De({Control::cmdCargaPDRnoUniforme, Control::cmbRec, Control::cmbPasoPp}),
+     .deshabilita = De({Control::txtPp, Control::txtDur, Control::cmdPpPerso}) | Vistas,
+     .muestra = De({Control::Frame2, Control::Frame5, Control::Label9_1}),
+     .oculta = De({Control::Frame3, Control::Frame4, Control::Frame7, Control::Label9_0}) | Validez},
+    {.habilita = 0,
+     .deshabilita = De({Control::cmbPasoPp}) | Vistas,
+     .muestra = De({Control::Frame2, Control::Frame7, Control::Label9_0}),
+     .oculta = De({Control::Frame3, Control::Frame4, Control::Frame5, Control::Label9_1})},
+});
+// clang-format on
+static_assert(FilasForma.size() == FormasPp.size());
+
+void Pon(dlgPp& f, Conjunto controles, bool EstadoControl::*que, bool valor)
+{
+    for (std::size_t i = 0; i < NroControles; ++i)
+        if ((controles >> i & 1U) != 0) f.estados[i].*que = valor;
+}
+
+// --- options ---
+
+/// Index of the first ticked option; the number of options where none is.
+template <std::size_t N>
+std::size_t Marcada(const std::array<bool, N>& opciones)
+{
+    return static_cast<std::size_t>(std::find(opciones.begin(), opciones.end(), true) - opciones.begin());
+}
+
+template <std::size_t N>
+std::size_t MarcadaOCero(const std::array<bool, N>& opciones)
+{
+    return Marcada(opciones) % N;
+}
+
+template <std::size_t N>
+void Marca(std::array<bool, N>& opciones, std::size_t i)
+{
+    opciones.fill(false);
+    if (i < N) opciones[i] = true;
+}
+
+bool PersonalMarcada(const dlgPp& f)
+{
+    const std::size_t i = Marcada(f.optDistriPp);
+    return i >= PrimeraPersonal && i < f.optDistriPp.size();
+}
+
+void TomaDistribucion(const dlgPp& f, Siro& s)
+{
+    const std::size_t i = Marcada(f.optDistriPp);
+    if (i < f.optDistriPp.size()) s.DistriPp = static_cast<std::int16_t>(i);
+}
+
+// --- texts ---
+
+std::string Texto(std::int16_t n)
+{
+    return NumeroATexto(std::int32_t{n});
+}
+
+std::string EnCampo(std::string_view texto)
+{
+    return model::ComasAPuntos(texto);
+}
+
+void MuestraTormenta(dlgPp& f, const Siro& s)
+{
+    f.txtPp = EnCampo(NumeroATexto(s.PpTormenta));
+    f.txtDur = Texto(s.DurTormenta);
+}
+
+/// Runs an event. A fault has no handler of its own here: it is told once and the event ends.
+template <typename Cuerpo>
+bool Evento(const Siro& s, Cuerpo&& cuerpo)
+{
+    return model::Sentencia(std::forward<Cuerpo>(cuerpo), [&](const model::Falla& falla) {
+        model::Informa(s, model::TextoFallaMotor(falla));
+    });
+}
+
+// --- real storm ---
+
+/// Items of FilePpReal. A directory that isn't there holds no storm.
+void LlenaFilePpReal(dlgPp& f, const Siro& s)
+{
+    f.FilePpReal.items.clear();
+    model::Sentencia([&] { f.FilePpReal.items = model::ListaTormentas(s); }, [](const model::Falla&) {});
+}
+
+/// Selects the item of the storm's name, or the first, whose name then is the storm's.
+void SeleccionaTormenta(dlgPp& f)
+{
+    f.tormenta.nombre = model::NombreTormenta(f.tormenta.nombre);
+    auto& [items, indice] = f.FilePpReal;
+    const auto lugar = std::find(items.begin(), items.end(), f.tormenta.nombre);
+    indice = items.empty() ? -1 : lugar == items.end() ? 0 : static_cast<int>(lugar - items.begin());
+    if (indice >= 0) f.tormenta.nombre = items[static_cast<std::size_t>(indice)];
+}
+
+void LeeTormenta(dlgPp& f, Siro& s)
+{
+    model::LeePpReal(s, f.tormenta);
+    f.lblNumPer = Texto(s.NroPpReal);
+    f.lblMiFilePpReal = model::EtiquetaTormenta(s, f.tormenta.nombre);
+    MuestraTormenta(f, s);
+    s.PasoPp = f.tormenta.PasoPpReal;
+    f.cmbPasoPp.texto = Texto(s.PasoPp);
+}
+
+// --- besides the table, per form ---
+
+void MuestraValidez(dlgPp& f, const Siro& s)
+{
+    if (!PersonalMarcada(f)) return;
+    const std::size_t k = Marcada(f.optDistriPp) - (PrimeraPersonal - 1);
+    f.Estado(Control::lblValidez).visible = true;
+    f.Estado(Control::lblDurMin).visible = s.DurMinPer[k] > 0;
+    f.Estado(Control::lblDurMax).visible = s.DurMaxPer[k] > 0;
+    f.lblDurMin = Texto(s.DurMinPer[k]);
+    f.lblDurMax = Texto(s.DurMaxPer[k]);
+}
+
+void HabilitaTablaPDR(dlgPp& f)
+{
+    const std::size_t tabla = Marcada(f.optTablaPDR);
+    f.Estado(Control::cmdTablaPDR).habilitado = tabla >= 1 && tabla < f.optTablaPDR.size();
+}
+
+void EstadoReal(dlgPp& f, Siro& s)
+{
+    LlenaFilePpReal(f, s);
+    SeleccionaTormenta(f);
+    LeeTormenta(f, s);
+    Marca(f.optDistriPp, f.optDistriPp.size() - 1);
+    TomaDistribucion(f, s);
+}
+
+void LeeLista(dlgPp& f, Siro& s)
+{
+    model::leeListaPpDurRec(s, f.cmbPDR.items);
+    f.cmbPDR.indice = -1;
+}
+
+}  // namespace
+
+void EstadoFormaPp(dlgPp& f, Siro& s)
+{
+    const std::size_t forma = MarcadaOCero(f.optformaPp);
+    s.FormaPp = static_cast<std::int16_t>(forma);
+    Pon(f, DesdeElComienzo, &EstadoControl::habilitado, false);
+    f.Estado(Control::optDistriPp).habilitado = forma < FormaPorUEH;
+    TomaDistribucion(f, s);
+
+    if (forma == FormaDeLista) LeeLista(f, s);
+    const FilaForma& fila = FilasForma[forma];
+    Pon(f, fila.habilita, &EstadoControl::habilitado, true);
+    Pon(f, fila.deshabilita, &EstadoControl::habilitado, false);
+    Pon(f, fila.muestra, &EstadoControl::visible, true);
+    Pon(f, fila.oculta, &EstadoControl::visible, false);
+
+    if (forma <= FormaSerie && PersonalMarcada(f)) f.Estado(Control::cmdPpPerso).habilitado = true;
+    if (forma == 0) MuestraValidez(f, s);
+    if (forma == FormaSerie) HabilitaTablaPDR(f);
+    // Storms per UEH are always of constant intensity. The click comes back here with the option ticked.
+    if (forma == FormaPorUEH && Marcada(f.optDistriPp) != 0) optDistriPp_Click(f, s, 0);
+    if (forma == FormaReal) EstadoReal(f, s);
+}
+
+// --- opening and activation
+// ---------------------------------------------------------------------------------
+
+namespace {
+
+void LlenaListas(dlgPp& f, const Siro& s)
+{
+    const std::size_t nroRec = std::min(static_cast<std::size_t>(std::max<std::int16_t>(s.NroRec, 0)),
+                                        s.ListaRec.empty() ? 0 : s.ListaRec.size() - 1);
+    for (std::size_t i = 1; i <= nroRec; ++i)
+        f.cmbRec.items.push_back(Texto(s.ListaRec[i]));
+    for (const std::int16_t paso : PasosDeTiempo)
+        f.cmbPasoPp.items.push_back(Texto(paso));
+    f.cmbPasoQ.items = f.cmbPasoPp.items;
+}
+
+std::string PasoMostrado(std::int16_t paso)
+{
+    return paso == 0 ? std::string(PasoPorDefecto) : Texto(paso);
+}
+
+void TomaPasos(dlgPp& f, Siro& s)
+{
+    f.cmbPasoPp.texto = PasoMostrado(s.PasoPp);
+    f.cmbPasoQ.texto = PasoMostrado(s.PasoQ);
+    s.PasoPp = Entero16(Val(f.cmbPasoPp.texto));
+    s.PasoQ = std::min(Entero16(Val(f.cmbPasoQ.texto)), s.PasoPp);
+}
+
+}  // namespace
+
+void Abre(dlgPp& f, Siro& s)
+{
+    f = dlgPp{.tormenta = std::move(f.tormenta)};
+    f.abierta = true;
+    // Enabled by the one form that uses it.
+    f.Estado(Control::cmdCargaPDRnoUniforme).habilitado = false;
+    LlenaListas(f, s);
+    f.cmbRec.texto = Texto(s.RecTormenta);
+    TomaPasos(f, s);
+    MuestraTormenta(f, s);
+    if (s.PpTormenta == 0) f.txtPp = PorDefecto;
+    if (s.DurTormenta == 0) f.txtDur = PorDefecto;
+    Marca(f.optformaPp, static_cast<std::size_t>(s.FormaPp));
+    Marca(f.optDistriPp, static_cast<std::size_t>(s.DistriPp));
+    Marca(f.optTablaPDR, static_cast<std::size_t>(s.TablaPDR));
+    if (MarcadaOCero(f.optformaPp) == 0) LeeLista(f, s);  // form 1 reads it with its state
+    Evento(s, [&] { EstadoFormaPp(f, s); });
+}
+
+void AlActivarse(dlgPp& f, Siro& s)
+{
+    if (f.optformaPp[FormaReal]) FilePpReal_Click(f, s);
+}
+
+void AlVolver(dlgPp& f, Siro& s)
+{
+    const model::CamposTormenta campos{f.txtPp, f.txtDur, f.cmbRec.texto};
+    Evento(s, [&] { EstadoFormaPp(f, s); });
+    f.txtPp = campos.txtPp;
+    f.txtDur = campos.txtDur;
+    f.cmbRec.texto = campos.cmbRec;
+    AlActivarse(f, s);
+}
+
+// --- clicks
+// -------------------------------------------------------------------------------------------------
+
+void optformaPp_Click(dlgPp& f, Siro& s, std::size_t i)
+{
+    const bool dejaLaReal = f.optformaPp[FormaReal] && i != FormaReal;
+    Marca(f.optformaPp, i);
+    if (dejaLaReal && s.DistriPp > static_cast<std::int16_t>(PrimeraPersonal))
+        Advierte(s, std::string(VerifiqueDistribucion), TituloAtencion);
+    Evento(s, [&] { EstadoFormaPp(f, s); });
+}
+
+void optDistriPp_Click(dlgPp& f, Siro& s, std::size_t i)
+{
+    Marca(f.optDistriPp, i);
+    Evento(s, [&] { EstadoFormaPp(f, s); });
+    // The same for the three sample storms, though the last of them took 48 hours: kept as it stands.
+    if (f.optDistriPp[2] || f.optDistriPp[3] || f.optDistriPp[4]) f.txtDur = DuracionDeMuestra;
+}
+
+void optTablaPDR_Click(dlgPp& f, std::size_t i)
+{
+    Marca(f.optTablaPDR, i);
+    HabilitaTablaPDR(f);
+}
+
+void cmbPDR_Click(dlgPp& f, Siro& s)
+{
+    if (f.cmbPDR.indice < 0) return;
+    Evento(s, [&] {
+        model::ParsePDR(s, f.cmbPDR.items[static_cast<std::size_t>(f.cmbPDR.indice)]);
+        MuestraTormenta(f, s);
+        f.cmbRec.texto = Texto(s.RecTormenta);
+    });
+}
+
+void FilePpReal_Click(dlgPp& f, Siro& s)
+{
+    if (f.FilePpReal.indice < 0) return;
+    f.tormenta.nombre = f.FilePpReal.items[static_cast<std::size_t>(f.FilePpReal.indice)];
+    Evento(s, [&] { LeeTormenta(f, s); });
+}
+
+// --- leaving a field
+// ----------------------------------------------------------------------------------------
+
+namespace {
+
+/// Refuses what a control holds: the focus stays there.
+bool Retiene(dlgPp& f, Control control)
+{
+    f.foco = control;
+    f.todoSeleccionado = true;
+    return false;
+}
+
+bool Suelta(dlgPp& f)
+{
+    f.foco.reset();
+    f.todoSeleccionado = false;
+    return true;
+}
+
+/// The leading number of a field; nothing where the text is neither empty nor wholly a number, or is a number
+/// beyond any float.
+std::optional<double> NumeroDeCampo(std::string_view texto)
+{
+    if (texto.find_first_not_of(' ') == std::string_view::npos) return 0;
+    std::optional<double> x;
+    model::Sentencia([&] { x = model::NumeroEntero(texto); }, [](const model::Falla&) {});
+    return x;
+}
+
+/// `toma` puts the number into its run-wide value, where it fits there.
+template <typename Toma>
+bool AlSalir(dlgPp& f, const Siro& s, const CampoPp& campo, Toma&& toma)
+{
+    std::string& texto = f.*campo.texto;
+    texto = model::ComasAPuntos(texto);
+    const std::optional<double> x = NumeroDeCampo(texto);
+    if (x) model::Sentencia([&] { toma(*x); }, [](const model::Falla&) {});
+    if (x && *x >= 0 && *x <= campo.limite) return Suelta(f);
+    Advierte(s, std::string(campo.mensaje));
+    if (!campo.alRechazar.empty()) texto = campo.alRechazar;
+    return Retiene(f, campo.control);
+}
+
+}  // namespace
+
+bool txtPp_AlSalir(dlgPp& f, Siro& s)
+{
+    return AlSalir(f, s, CamposPp[0], [&](double x) { s.PpTormenta = Simple(x); });
+}
+
+bool txtDur_AlSalir(dlgPp& f, Siro& s)
+{
+    return AlSalir(f, s, CamposPp[1], [&](double x) { s.DurTormenta = Entero16(x); });
+}
+
+bool cmbPasoPp_AlSalir(dlgPp& f, const Siro& s)
+{
+    bool sobra = false;
+    Evento(s, [&] {
+        const double paso = Val(f.cmbPasoPp.texto);
+        sobra = paso != 0 && !f.txtDur.empty() && paso > Val(f.txtDur);
+    });
+    if (!sobra) return Suelta(f);
+    Advierte(s, std::string(PasoPpLargo), TituloPasoPp);
+    return Retiene(f, Control::cmbPasoPp);
+}
+
+bool cmbPasoQ_AlSalir(dlgPp& f, Siro& s)
+{
+    bool noCabe = false;
+    Evento(s, [&] {
+        const double pasoQ = Val(f.cmbPasoQ.texto);
+        if (pasoQ == 0) return;
+        const double pasoPp = Val(f.cmbPasoPp.texto);
+        const double veces = pasoPp / pasoQ;
+        noCabe = pasoQ > pasoPp || veces != std::floor(veces);
+    });
+    if (noCabe) {
+        Advierte(s, std::string(PasoQNoCabe), TituloPasoQ);
+        f.cmbPasoQ.texto = f.cmbPasoPp.texto;
+        s.PasoQ = s.PasoPp;
+    }
+    return Suelta(f);
+}
+
+// --- commands
+// -----------------------------------------------------------------------------------------------
+
+namespace {
+
+void TomaSerie(dlgPp& f, Siro& s)
+{
+    s.TablaPDR = static_cast<std::int16_t>(MarcadaOCero(f.optTablaPDR));
+    model::LeeTablaPDRs(s);
+    if (s.NroSeriePDR <= 0) return;
+    f.txtPp = EnCampo(NumeroATexto(s.SerieP(1)));
+    f.txtDur = Texto(s.SerieD(1));
+    f.cmbRec.texto = Texto(s.SerieR(1));
+}
+
+/// A step may not outlast the storm, and none is 0. The two steps aren't compared here.
+void CorrigePasos(dlgPp& f, const Siro& s)
+{
+    if (Val(f.cmbPasoPp.texto) > s.DurTormenta) f.cmbPasoPp.texto = Texto(s.DurTormenta);
+    for (ListaConTexto* lista : {&f.cmbPasoPp, &f.cmbPasoQ})
+        if (Val(lista->texto) == 0 && !lista->items.empty()) lista->texto = lista->items.front();
+}
+
+bool HayTormenta(const Siro& s)
+{
+    return s.PpTormenta != 0 && s.DurTormenta != 0;
+}
+
+void Aplica(dlgPp& f, Siro& s)
+{
+    const std::size_t forma = MarcadaOCero(f.optformaPp);
+    s.FormaPp = static_cast<std::int16_t>(forma);
+    if (forma == FormaSerie) TomaSerie(f, s);
+    s.PpTormenta = Simple(Val(f.txtPp));
+    s.DurTormenta = Entero16(Val(f.txtDur));
+    s.RecTormenta = Entero16(Val(f.cmbRec.texto));
+    if (!HayTormenta(s)) {
+        Advierte(s, std::string(SinTormenta));
+        f.abierta = false;
+        return;
+    }
+    Pon(f, Validez, &EstadoControl::visible, false);
+    TomaDistribucion(f, s);
+    CorrigePasos(f, s);
+    s.PasoPp = Entero16(Val(f.cmbPasoPp.texto));
+    s.PasoQ = Entero16(Val(f.cmbPasoQ.texto));
+}
+
+/// Applies. Returns false where there is nothing to show: no storm, or a fault on the way.
+bool AplicaYHayTormenta(dlgPp& f, Siro& s)
+{
+    return Evento(s, [&] { Aplica(f, s); }) && HayTormenta(s);
+}
+
+model::CamposTormenta Campos(const dlgPp& f)
+{
+    return {f.txtPp, f.txtDur, f.cmbRec.texto};
+}
+
+void AgregaRenglon(const Siro& s, std::string_view renglon)
+{
+    s.Anfitrion.AgregaPizarra(std::string(model::SaltoLinea).append(renglon));
+}
+
+void ListaTormenta(const Siro& s)
+{
+    s.Anfitrion.AbrePizarra();
+    AgregaRenglon(s, "Entrada: PRECIPITACION");
+    AgregaRenglon(s, "Pp Total= " + NumeroATexto(s.PpTormenta) + " [mm]");
+    AgregaRenglon(s, "Duración= " + Texto(s.DurTormenta) + " [min]");
+    if (s.RecTormenta != 0) AgregaRenglon(s, "Recurrencia= " + Texto(s.RecTormenta) + " [años]");
+    AgregaRenglon(s, "paso Pp= " + Texto(s.PasoPp) + " [min]");
+    AgregaRenglon(s, "paso Q = " + Texto(s.PasoQ) + " [min]");
+    AgregaRenglon(s, "Distribución Pp(t)= " + Texto(s.DistriPp) + " [índice]");
+}
+
+/// A column of each block under each piece of the heading, the blank ahead of a piece being its own.
+void ListaBloques(const Siro& s)
+{
+    constexpr std::size_t AnchoPer = 4;    // "Per."
+    constexpr std::size_t AnchoPp = 6;     // "Pp[mm]"
+    constexpr std::size_t AnchoAcum = 10;  // "PpAcum[mm]"
+    AgregaRenglon(s, "Per. Pp[mm] PpAcum[mm] Int.Pp[mm/min]");
+    for (std::int16_t j = 1; j <= s.NroPpReal; ++j)
+        AgregaRenglon(s, model::AjustaIzquierda(Texto(j), AnchoPer) + ' ' +
+                             model::AjustaIzquierda(NumeroATexto(s.PpReal(j)), AnchoPp) + ' ' +
+                             model::AjustaIzquierda(NumeroATexto(s.PpAcum(j)), AnchoAcum) + ' ' +
+                             NumeroATexto(s.IntensidadPp(j)));
+}
+
+}  // namespace
+
+void cmdAplicar(dlgPp& f, Siro& s)
+{
+    Evento(s, [&] { Aplica(f, s); });
+}
+
+void OKButton(dlgPp& f, Siro& s)
+{
+    if (Evento(s, [&] { Aplica(f, s); })) f.abierta = false;
+}
+
+void CancelButton(dlgPp& f)
+{
+    f.abierta = false;
+}
+
+void cmdPDR(dlgPp& f, Siro& s)
+{
+    f.cmbPDR.items.push_back(model::TextoPDR(f.txtPp, f.txtDur, f.cmbRec.texto));
+    model::GuardaListaPDR(s, f.cmbPDR.items, Campos(f));
+    f.cmbPDR.indice = static_cast<int>(f.cmbPDR.items.size()) - 1;
+}
+
+void cmdBorraPDR(dlgPp& f, Siro& s)
+{
+    if (f.cmbPDR.indice < 0) return;
+    f.cmbPDR.items.erase(f.cmbPDR.items.begin() + f.cmbPDR.indice);
+    f.cmbPDR.indice = -1;
+    model::GuardaListaPDR(s, f.cmbPDR.items, Campos(f));
+    MuestraTormenta(f, s);
+    f.cmbRec.texto = Texto(s.RecTormenta);
+}
+
+std::optional<PedidoHietograma> cmdVerGrafico(dlgPp& f, Siro& s)
+{
+    if (!AplicaYHayTormenta(f, s)) return {};
+    engine::ConstruyeHietograma(s);
+    if (s.NroPpReal == 0) return {};
+    return PedidoHietograma{s.NroPpReal, s.PasoPp, TituloDeTormenta(f, s), s.PpTormenta, s.DurTormenta};
+}
+
+void cmdVerTablaPt(dlgPp& f, Siro& s)
+{
+    if (!AplicaYHayTormenta(f, s)) return;
+    if (s.SalidaPizarra) ListaTormenta(s);
+    engine::ConstruyeHietograma(s);
+    if (s.NroPpReal != 0 && s.SalidaPizarra) Evento(s, [&] { ListaBloques(s); });
+}
+
+std::string TituloDeTormenta(const dlgPp& f, const Siro& s)
+{
+    return s.FormaPp == static_cast<std::int16_t>(FormaReal) ? f.tormenta.Notas : s.TituloProyecto;
+}
+
+}  // namespace rainfall

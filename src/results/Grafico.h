@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// A chart as a table of cells: the first column holds the category of each row as text, each further column
+// is a series. Whoever paints it decides nothing.
+namespace results {
+
+enum class TipoGrafico : std::uint8_t { Combinacion, Linea };  ///< lines and steps together; lines alone
+enum class TipoSerie : std::uint8_t { Linea2D, Escalon2D };
+
+/// A column of cells, row 1 at index 0.
+struct Serie {
+    TipoSerie tipo = TipoSerie::Escalon2D;
+    std::string leyenda{};
+    bool ejeSecundario = false;
+    std::vector<double> celdas{};
+    bool operator==(const Serie&) const = default;
+};
+
+/// Divisions of the category scale.
+struct EscalaCategorias {
+    bool automatica = true;
+    std::int32_t divisionesPorRotulo = 1;
+    std::int32_t divisionesPorMarca = 1;  ///< 0: no mark
+    bool marcaDeRotulo = false;
+    bool operator==(const EscalaCategorias&) const = default;
+};
+
+struct Grafico {
+    TipoGrafico tipo = TipoGrafico::Combinacion;
+    std::vector<std::string> categorias{};  ///< row 1 at index 0
+    std::vector<Serie> series{};
+    std::string titulo{}, notaAlPie{};
+    std::string ejeX{}, ejeY{}, ejeYSecundario{};
+    bool leyendaVisible = false;
+    bool marcasEjeX = true;
+    EscalaCategorias escala{};
+    bool operator==(const Grafico&) const = default;
+};
+
+inline constexpr std::string_view EjePrecipitacion = "Precipitación [mm]";
+inline constexpr std::string_view EjeCaudal = "Caudal [m3/s]";
+
+/// Title of the time axis.
+std::string_view TituloEjeX(bool minutos);
+
+/// Category of row i, the time at its end: i·paso in whole minutes, or in hours with two decimals, cut and
+/// not rounded. Throws Falla 6 above 32767 min.
+std::string Categoria(std::int16_t i, std::int16_t paso, bool minutos);
+
+/// Doubles the divisions per label of a scale, or halves them, and ticks half as often as it labels.
+void MasDivisiones(EscalaCategorias& escala);
+void MenosDivisiones(EscalaCategorias& escala);
+
+/// The cells as text for a spreadsheet: a line of titles, then a line per row, fields parted by commas and
+/// lines ended by CR LF. Cells have the seven digits of the arrays that they come from.
+std::string CeldasComoCsv(const Grafico& grafico);
+
+}  // namespace results

@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "results/dlgChart1.h"
+
+#include <utility>
+
+#include "engine/modDistriPp.h"
+#include "model/Avisos.h"
+#include "model/Numeros.h"
+
+namespace results {
+
+using model::NumeroATexto;
+using model::Siro;
+
+namespace {
+
+constexpr auto FormaSerie = static_cast<std::int16_t>(model::FormaLluvia::SeriePDR);
+constexpr auto FormaReal = static_cast<std::int16_t>(model::FormaLluvia::Real);
+
+std::string NotaAlPie(const Hietograma& pedido, std::int16_t paso)
+{
+    return " Pp= " + NumeroATexto(pedido.P) + "mm;  D= " + NumeroATexto(std::int32_t{pedido.D}) +
+           " min ;   paso = " + NumeroATexto(std::int32_t{paso}) + " min";
+}
+
+/// Length of a block, a tie going to the even minute.
+std::int16_t MinutosPorBloque(const Siro& s)
+{
+    return model::Entero16(model::Cociente(s.DurTormenta, s.NroPpReal));
+}
+
+Grafico Llena(const dlgChart1& f, const Siro& s, std::int16_t N, std::int16_t paso)
+{
+    Grafico grafico = f.Grafico;
+    Serie lluvia;
+    grafico.categorias.clear();
+    for (std::int16_t i = 1; i <= N; ++i) {
+        grafico.categorias.push_back(Categoria(i, paso, f.MinutosEjeX));
+        lluvia.celdas.push_back(s.PpReal(i));
+    }
+    grafico.series.assign(1, std::move(lluvia));
+    grafico.ejeX = TituloEjeX(f.MinutosEjeX);
+    grafico.ejeY = EjePrecipitacion;
+    grafico.titulo = "  " + f.pedido.titulo + "  ";
+    grafico.notaAlPie = NotaAlPie(f.pedido, paso);
+    return grafico;
+}
+
+}  // namespace
+
+void Abre(dlgChart1& f, const Siro& s)
+{
+    f = dlgChart1{.abierta = true};
+    cmdHsMin(f, s);
+    if (s.FormaPp == FormaSerie) f.abierta = false;
+}
+
+void Muestra(dlgChart1& f, const Siro& s, const Hietograma& pedido)
+{
+    if (!f.abierta) Abre(f, s);
+    if (!f.abierta) return;
+    f.pedido = pedido;
+    AlGraficoPp(f, s, pedido.N, pedido.paso);
+}
+
+void AlGraficoPp(dlgChart1& f, const Siro& s, std::int16_t N, std::int16_t paso)
+{
+    if (N == 0) return;
+    model::Sentencia([&] { f.Grafico = Llena(f, s, N, paso); },
+                     [&](const model::Falla& falla) { model::Informa(s, model::TextoFallaMotor(falla)); });
+}
+
+void cmdHsMin(dlgChart1& f, const Siro& s)
+{
+    f.MinutosEjeX = !f.MinutosEjeX;
+    AlGraficoPp(f, s, f.pedido.N, f.pedido.paso);
+}
+
+void OKButton(dlgChart1& f)
+{
+    f.abierta = false;
+}
+
+bool HayTormentaConBloques(const Siro& s)
+{
+    if (s.PpTormenta == 0 || s.DurTormenta == 0 || s.NroPpReal == 0) return false;
+    return MinutosPorBloque(s) != 0;
+}
+
+std::optional<Hietograma> mnuGraficoPp(Siro& s, std::string_view notas)
+{
+    if (s.PpTormenta == 0 || s.DurTormenta == 0) return {};
+    engine::ConstruyeHietograma(s);
+    if (!HayTormentaConBloques(s)) return {};
+    if (s.SalidaPizarra) s.Anfitrion.AbrePizarra();
+    return Hietograma{s.NroPpReal, MinutosPorBloque(s),
+                      std::string(s.FormaPp == FormaReal ? notas : s.TituloProyecto), s.PpTormenta,
+                      s.DurTormenta};
+}
+
+}  // namespace results

@@ -1,0 +1,336 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "results/dlgChart2.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <optional>
+#include <utility>
+
+#include "engine/mdlProceso1.h"
+#include "engine/modDistriPp.h"
+#include "model/Avisos.h"
+#include "model/Numeros.h"
+#include "results/dlgChart1.h"
+
+namespace results {
+
+using model::NumeroATexto;
+using model::Siro;
+
+namespace {
+
+constexpr auto FormaSerie = static_cast<std::int16_t>(model::FormaLluvia::SeriePDR);
+constexpr std::int16_t UltimaFormaConDeslizadores = 1;
+
+constexpr std::string_view PasosDesiguales =  // kept as it stands
+    "Error, el paso de salida (Q) debe ser múltiplo del paso de cálculo (Pp). Verifique la carga en "
+    "\\Entradas\\Preicpitaciones...";
+constexpr std::string_view Nota = "SIRO: Modelo hidrológico de simulación lluvia-caudal";
+constexpr std::string_view TextoInicia = "inicia";
+
+std::string Texto(std::int16_t n)
+{
+    return NumeroATexto(std::int32_t{n});
+}
+
+// --- kinds of component
+// -------------------------------------------------------------------------------------
+
+/// What a series shows.
+enum class Dato : std::uint8_t { QSale, QEntra, PpUEHPaso, HRepresa, HLago };
+
+struct FilaSerie {
+    Dato dato;
+    std::string_view leyenda;
+    bool ejeSecundario;
+};
+
+/// A kind of component by the prefix of its name, and its chart.
+struct FilaClase {
+    std::string_view prefijo;
+    TipoGrafico tipo;
+    std::string_view ejeYSecundario;
+    std::size_t nroSeries;
+    std::array<FilaSerie, 3> series;
+};
+
+// clang-format off
+// The legends of dams and lakes stand swapped against what the series draw: kept as they stand.
+constexpr auto Clases = std::to_array<FilaClase>({
+    {"u-", TipoGrafico::Combinacion, EjePrecipitacion, 2,
+     {{{Dato::QSale, "Qsale", false}, {Dato::PpUEHPaso, "Pp", true}, {}}}},
+    {"c-", TipoGrafico::Linea, EjeCaudal, 2,
+     {{{Dato::QSale, "Qsale", false}, {Dato::QEntra, "Qentra", false}, {}}}},
+    {"r-", TipoGrafico::Linea, "H Embalse [m]", 3,
+     {{{Dato::QSale, "Qentra", false}, {Dato::HRepresa, "HEmbalse", true}, {Dato::QEntra, "Qsale", false}}}},
+    {"l-", TipoGrafico::Linea, "H Embalse [m]", 3,
+     {{{Dato::QSale, "Qentra", false}, {Dato::HLago, "HEmbalse", true}, {Dato::QEntra, "Qsale", false}}}},
+});
+// A name without one of these prefixes is never computed: its outflow stands alone.
+constexpr FilaClase SinClase = {"", TipoGrafico::Linea, "", 1, {{{Dato::QSale, "Qsale", false}, {}, {}}}};
+// clang-format on
+
+const FilaClase& ClaseDe(std::string_view nombre)
+{
+    const auto* const fila = std::find_if(Clases.begin(), Clases.end(),
+                                          [&](const FilaClase& c) { return nombre.starts_with(c.prefijo); });
+    return fila == Clases.end() ? SinClase : *fila;
+}
+
+/// Number of the Represa or Lago of a name. 0, a row of zeros in every array, where there is none any more:
+/// another project may have been opened since the run.
+std::int16_t Numero(const Siro& s, std::string_view nombre)
+{
+    for (const model::Represa& r : s.ColRepresas)
+        if (r.NombreRepresa == nombre) return r.numRepresa;
+    for (const model::Lago& l : s.ColLagos)
+        if (l.NombreLAGO == nombre) return l.numLAGO;
+    return 0;
+}
+
+// --- cells
+// --------------------------------------------------------------------------------------------------
+
+/// The rows of one component.
+struct Filas {
+    const Siro& s;
+    std::int16_t componente;
+    std::int16_t embalse;  ///< number of the Represa or Lago
+    std::int16_t r;        ///< output steps in a model step
+};
+
+/// Rain of output step i [mm]: that of its model step, shared out evenly.
+double Lluvia(const Filas& filas, std::int16_t i)
+{
+    const Siro& s = filas.s;
+    if (model::Producto16(i, s.PasoQ) >= model::Suma16(s.DurTormenta, s.PasoPp)) return 0;
+    const std::int16_t b = model::Piso16(model::Cociente(filas.r + i - 1, filas.r));
+    return double{s.PpUEHPaso(filas.componente, b)} / filas.r;
+}
+
+double Celda(const Filas& filas, Dato dato, std::int16_t i)
+{
+    constexpr int Decimales = 3;  // of the outflow [m3/s]
+    const Siro& s = filas.s;
+    switch (dato) {
+    case Dato::QSale:
+        return model::Redondea(s.QSale(filas.componente, i), Decimales);
+    case Dato::QEntra:
+        return s.QEntra(filas.componente, i);
+    case Dato::PpUEHPaso:
+        return Lluvia(filas, i);
+    case Dato::HRepresa:
+        return s.HRepresa(filas.embalse, i);
+    case Dato::HLago:
+        return s.HLago(filas.embalse, i);
+    }
+    return 0;
+}
+
+/// A series of N rows; the outflow is known up to NroPasosQ.
+Serie Columna(const Filas& filas, const FilaSerie& fila, std::int16_t N)
+{
+    Serie serie{TipoSerie::Linea2D, std::string(fila.leyenda), fila.ejeSecundario, {}};
+    const std::int16_t conocidas = fila.dato == Dato::QSale ? std::min(N, filas.s.NroPasosQ) : N;
+    serie.celdas.resize(static_cast<std::size_t>(N));
+    for (std::int16_t i = 1; i <= conocidas; ++i)
+        serie.celdas[static_cast<std::size_t>(i) - 1] = Celda(filas, fila.dato, i);
+    return serie;
+}
+
+/// Output steps in a model step; nothing where that isn't a whole number. Throws Falla 11 for a PasoQ of 0.
+std::optional<std::int16_t> RelacionDePasos(const Siro& s)
+{
+    const double r = model::Cociente(s.PasoPp, s.PasoQ);
+    if (r != std::floor(r)) return {};
+    return model::Entero16(r);
+}
+
+const std::string& NombreComponente(const Siro& s)
+{
+    if (s.IndComp < 0 || static_cast<std::size_t>(s.IndComp) >= s.Secuencia.size())
+        throw model::Falla{model::NumeroFalla::Subindice};
+    return s.Secuencia[static_cast<std::size_t>(s.IndComp)];
+}
+
+std::string Titulo(const Siro& s, const std::string& nombre)
+{
+    const auto fin = s.Salidas.begin() + 1 + std::clamp<std::int16_t>(s.NroSalidas, 0, model::MaxSalidas);
+    const bool esSalida = std::find(s.Salidas.begin() + 1, fin, nombre) != fin;
+    std::string titulo = esSalida ? "Componente Final: " : "Componente: ";
+    titulo.append(Texto(s.IndComp)).append(", ").append(nombre);
+    titulo.append("   Pp= ")
+        .append(NumeroATexto(s.PpTormenta))
+        .append("mm;  D= ")
+        .append(Texto(s.DurTormenta));
+    titulo.append(" min ;   ");
+    if (s.RecTormenta != 0) titulo.append("Recurrencia = ").append(Texto(s.RecTormenta)).append(" años   ");
+    return titulo.append("paso = ").append(Texto(s.PasoQ)).append(" min");
+}
+
+/// Draws the component, or tells why not.
+void Dibuja(dlgChart2& f, const Siro& s, std::int16_t N, std::int16_t paso)
+{
+    const std::string& nombre = NombreComponente(s);
+    const FilaClase& clase = ClaseDe(nombre);
+    const std::optional<std::int16_t> r = RelacionDePasos(s);
+    if (!r) return model::Advierte(s, std::string(PasosDesiguales));
+
+    Grafico grafico = f.Grafico;
+    grafico.tipo = clase.tipo;
+    grafico.ejeX = TituloEjeX(f.MinutosEjeX);
+    grafico.ejeY = EjeCaudal;
+    grafico.ejeYSecundario = clase.ejeYSecundario;
+    grafico.marcasEjeX = false;
+    grafico.categorias.clear();
+    for (std::int16_t i = 1; i <= N; ++i)
+        grafico.categorias.push_back(Categoria(i, paso, f.MinutosEjeX));
+
+    const Filas filas{s, s.IndComp, Numero(s, nombre), *r};
+    grafico.series.clear();
+    for (std::size_t k = 0; k < clase.nroSeries; ++k)
+        grafico.series.push_back(Columna(filas, clase.series[k], N));
+    if (clase.tipo == TipoGrafico::Combinacion)
+        for (std::size_t k = 1; k < clase.nroSeries; ++k)
+            grafico.series[k].tipo = TipoSerie::Escalon2D;
+
+    f.Grafico = std::move(grafico);
+    f.lblTitulo = Titulo(s, nombre);
+    f.lblNota = Nota;
+}
+
+void AcotaIndComp(Siro& s)
+{
+    if (s.IndComp < 1 || s.IndComp > s.NroComponentes) s.IndComp = 1;
+}
+
+template <typename Cuerpo>
+bool Evento(const Siro& s, Cuerpo&& cuerpo)
+{
+    return model::Sentencia(std::forward<Cuerpo>(cuerpo), [&](const model::Falla& falla) {
+        model::Informa(s, model::TextoFallaMotor(falla));
+    });
+}
+
+/// Runs the storm in hand over the network in memory.
+void Corre(dlgChart2& f, Siro& s)
+{
+    if (s.SalidaPizarra) s.Anfitrion.PonPizarra(TextoInicia);
+    engine::ConstruyeHietograma(s);
+    if (s.PpTormenta == 0 && s.DurTormenta == 0) return s.Anfitrion.Termina();
+    engine::ProcesoPrincipal(s, {.GuardaTexto = true}, f.memoria);
+    Redibuja(f, s);
+}
+
+}  // namespace
+
+void Deslizador::Pon(int nuevo)
+{
+    valor = std::clamp(nuevo, minimo, maximo);
+}
+
+void Abre(dlgChart2& f, Siro& s)
+{
+    f = dlgChart2{};
+    if (s.NroPasosQ == 0 || s.NroComponentes < 1 || s.FormaPp == FormaSerie) return;
+    f.abierta = true;
+    f.lblPp = "Pp";
+    f.lblDur = "D ";
+    f.Grafico.leyendaVisible = true;
+    f.Grafico.ejeY = EjeCaudal;
+    f.Grafico.ejeYSecundario = EjePrecipitacion;
+    if (!s.Secuencia.empty()) f.lstCompos.assign(s.Secuencia.begin() + 1, s.Secuencia.end());
+    if (s.IndComp < 1 || s.IndComp > s.NroComponentes) s.IndComp = 1;
+    if (static_cast<std::size_t>(s.IndComp) <= f.lstCompos.size()) f.lstComposIndice = s.IndComp - 1;
+    lstCompos_Click(f, s);
+    Evento(s, [&] { f.sldPp.Pon(model::Entero32(s.PpTormenta)); });
+    f.sldDur.Pon(s.DurTormenta);
+}
+
+void lstCompos_Click(dlgChart2& f, Siro& s)
+{
+    if (s.NroComponentes < 1) f.abierta = false;
+    if (!f.abierta || f.lstComposIndice < 0) return;
+    const std::string& elegido = f.lstCompos[static_cast<std::size_t>(f.lstComposIndice)];
+    const auto lugar = std::find(f.lstCompos.begin(), f.lstCompos.end(), elegido) - f.lstCompos.begin();
+    s.IndComp = static_cast<std::int16_t>(std::clamp<std::ptrdiff_t>(lugar + 1, 1, s.NroComponentes));
+    Redibuja(f, s);
+}
+
+void Redibuja(dlgChart2& f, Siro& s)
+{
+    AcotaIndComp(s);
+    if (s.FormaPp > UltimaFormaConDeslizadores) f.vista.deslizadores = false;
+    if (s.NroPasosQ <= 0) {
+        f.abierta = false;
+        return;
+    }
+    AlGraficoPp(f, s, s.NroPasosQ, s.PasoQ);
+}
+
+void AlGraficoPp(dlgChart2& f, const Siro& s, std::int16_t N, std::int16_t paso)
+{
+    if (N == 0) return;
+    f.ultimoN = N;
+    f.ultimoPaso = paso;
+    Evento(s, [&] { Dibuja(f, s, N, paso); });
+}
+
+void sldDur_Mueve(dlgChart2& f, Siro& s, int valor)
+{
+    f.sldDur.Pon(valor);
+    s.DurTormenta = static_cast<std::int16_t>(f.sldDur.valor);
+    Corre(f, s);
+}
+
+void sldPp_Mueve(dlgChart2& f, Siro& s, int valor)
+{
+    f.sldPp.Pon(std::max<int>(valor, s.PasoPp));
+    s.PpTormenta = static_cast<float>(f.sldPp.valor);
+    Corre(f, s);
+}
+
+void cmdHsMin(dlgChart2& f, const Siro& s)
+{
+    f.MinutosEjeX = !f.MinutosEjeX;
+    AlGraficoPp(f, s, f.ultimoN, f.ultimoPaso);
+}
+
+void cmdXmas(dlgChart2& f)
+{
+    MasDivisiones(f.Grafico.escala);
+}
+
+void cmdXmenos(dlgChart2& f)
+{
+    MenosDivisiones(f.Grafico.escala);
+}
+
+void OKButton(dlgChart2& f)
+{
+    f.abierta = false;
+}
+
+void AntesDeImprimir(dlgChart2& f)
+{
+    f.vistaGuardada = f.vista;
+    f.vista = {.comandos = false, .lista = false, .deslizadores = false, .graficoAncho = true};
+}
+
+void DespuesDeImprimir(dlgChart2& f)
+{
+    f.vista = f.vistaGuardada;
+}
+
+bool mnuHidrogramas(Siro& s)
+{
+    bool hay = false;
+    Evento(s, [&] { hay = HayTormentaConBloques(s); });
+    if (!hay) return false;
+    if (s.SalidaPizarra) s.Anfitrion.AbrePizarra();
+    AcotaIndComp(s);
+    return s.NroPasosQ > 0;
+}
+
+}  // namespace results
