@@ -112,10 +112,11 @@ bool EsDemasiadoGrande(std::string_view t)
     const bool negativo = letra + 1 < t.size() && t[letra + 1] == '-';
     std::string_view exponente = t.substr(letra + 1);
     if (!exponente.empty() && !EsCifra(exponente.front())) exponente.remove_prefix(1);
-    // Where the exponent itself overflows it decides alone; texts of a million digits are no numbers.
+    // An exponent beyond any text's length decides alone, also where its type doesn't hold it.
+    constexpr long long Desmedido = 1'000'000'000'000;
     long long e = 0;
     const auto [fin, error] = std::from_chars(exponente.data(), exponente.data() + exponente.size(), e);
-    if (error != std::errc{}) return !negativo;
+    if (error != std::errc{} || e > Desmedido) return !negativo;
     const auto punto = static_cast<long long>(std::min(mantisa.find('.'), mantisa.size()));
     return punto - static_cast<long long>(primera) + (negativo ? -e : e) > 0;
 }

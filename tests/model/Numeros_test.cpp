@@ -454,6 +454,8 @@ TEST(Numeros, ValEnLosLimitesDelTipo)
     EXPECT_EQ(NumeroDeFalla([] { Val("-1E309"); }), 6);
     EXPECT_EQ(NumeroDeFalla([] { Val("1D309"); }), 6);
     EXPECT_EQ(NumeroDeFalla([] { Val("1E99999999999999999999"); }), 6);
+    EXPECT_EQ(NumeroDeFalla([] { Val("1E9223372036854775807"); }), 6);  // the greatest 64-bit whole number
+    EXPECT_EQ(Val("1E-9223372036854775807"), 0);
     EXPECT_EQ(NumeroDeFalla([&] { Val("1" + ceros); }), 6);
     EXPECT_EQ(NumeroDeFalla([&] { Val("1" + ceros + ".5"); }), 6);
     EXPECT_EQ(NumeroDeFalla([&] { Val("0.01E311"); }), 6);
