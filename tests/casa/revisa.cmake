@@ -161,7 +161,7 @@ endif()
 
 # --- Words -----------------------------------------------------------------------------------------------------------
 set(textos)
-foreach(carpeta IN ITEMS src tests bench fuzz docs cmake .ci)
+foreach(carpeta IN ITEMS src tests bench fuzz tools docs cmake .ci)
     file(GLOB_RECURSE algunos RELATIVE ${RAIZ}
         ${RAIZ}/${carpeta}/*.h ${RAIZ}/${carpeta}/*.cpp ${RAIZ}/${carpeta}/*.txt ${RAIZ}/${carpeta}/*.cmake
         ${RAIZ}/${carpeta}/*.md ${RAIZ}/${carpeta}/*.py ${RAIZ}/${carpeta}/*.sh ${RAIZ}/${carpeta}/run)
