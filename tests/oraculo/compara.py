@@ -27,12 +27,13 @@ MAL_LLAMADO = 2
 LIMITE_SEGUNDOS = 300
 SIN_COMPARAR = {"VelmirDir.vlm"}  # the pointer to the last project is the desktop's own
 
-_HORA_DE_ENCABEZADO = re.compile(rb'\A("?SIRO - Modelo[^\r\n]*\r\n(?:[^\r\n]*\r\n){5}[^\r\n]* - )[^\r\n"]*')
+# what stands behind the operator's name, on the line before the kind of simulation
+_HORA_DE_ENCABEZADO = re.compile(rb'( - )(?:(?! - )[^\r\n"])*(?="?\r\n(?:\r\n)?"?SIMULACION )')
 _TRANSCURRIDO = re.compile(rb"(Tiempo total del proceso: )[0-9]+:[0-9]+:[0-9]+")
 
 
 def enmascara(datos):
-    datos = _HORA_DE_ENCABEZADO.sub(rb"\1(hora)", datos)
+    datos = _HORA_DE_ENCABEZADO.sub(rb"\1(hora)", datos, count=1)
     return _TRANSCURRIDO.sub(rb"\1(tiempo)", datos)
 
 

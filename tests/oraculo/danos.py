@@ -362,6 +362,25 @@ def archivo_cortado(p):
     p.recortes[_archivo_al_azar(p)[1]] = p.azar.random()
 
 
+def bytes_al_azar(p):
+    """A few bytes replaced, put in or taken out."""
+    nombre = _archivo_al_azar(p)[1]
+    for _ in range(p.uno_de((1, 1, 2, 5))):
+        p.ruidos.append((nombre, p.azar.random(), p.uno_de("psq"), p.uno_de(b'",  \r\n#-.eEDx*\x81\x00\xd1')))
+
+
+def con_ruido(datos, ruidos):
+    """The bytes of a file after its random changes: (place from 0 to 1, kind, byte)."""
+    datos = bytearray(datos)
+    for parte, clase, byte in ruidos:
+        n = int(parte * len(datos))
+        if clase == "p":
+            datos.insert(n, byte)
+        elif n < len(datos):
+            datos[n : n + 1] = bytes([byte]) if clase == "s" else b""
+    return bytes(datos)
+
+
 def archivo_apenas_cortado(p):
     p.recortes[_archivo_al_azar(p)[1]] = p.uno_de((0.999, 0.99, 0.0))
 
@@ -520,6 +539,8 @@ DANOS = (
             archivo_cortado,
             archivo_cortado,
             archivo_apenas_cortado,
+            bytes_al_azar,
+            bytes_al_azar,
             campo_malo,
             campo_malo,
             campo_malo,

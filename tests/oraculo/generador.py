@@ -42,6 +42,7 @@ class Proyecto:
         self.fin_de_linea = "\r\n"
         self.recortes = {}  # name: number of bytes kept
         self.sin_archivo = set()
+        self.ruidos = []
         self.directorios = []
         self.sin_trabajo = False
 
@@ -457,6 +458,7 @@ def escribe(p):
                 continue
             texto = "".join(",".join(registro) + p.fin_de_linea for registro in registros)
             datos = a_1252(texto)
+            datos = danos.con_ruido(datos, [ruido[1:] for ruido in p.ruidos if ruido[0] == nombre])
             recorte = p.recortes.get(nombre, 1.0)
             if recorte == danos.SIN_FIN_DE_LINEA:
                 datos = datos.rstrip(b"\r\n")

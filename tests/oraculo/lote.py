@@ -210,7 +210,7 @@ def _guarda_resultados(opciones, filas):
 
 
 def _nombre_csv(nombre):
-    if "," in nombre or '"' in nombre:
+    if any(caracter in nombre for caracter in ',"\r\n'):
         return '"' + nombre.replace('"', '""') + '"'
     return nombre
 

@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Components, run-wide state, message boxes, and the two ways in which a routine handles a fault."""
 import os
+import re
 import sys
 
 from numeros import Falla, Matriz, SinDimensionar, Textos, Vector, f32, i16, i32
@@ -127,7 +128,7 @@ class Anfitrion:
         self.Text1 = ""
 
     def _linea(self, titulo, texto, cola=""):
-        linea = "[" + titulo + "] " + texto.replace("\r\n", " / ") + cola + "\n"
+        linea = "[" + titulo + "] " + re.sub("\r\n|\r|\n", " / ", texto) + cola + "\n"
         self.salida.write(linea.encode("utf-8", "surrogateescape"))
         self.salida.flush()
 

@@ -193,7 +193,8 @@ class Campos(unittest.TestCase):
         self.assertEqual(campos(",\r\n\r\n"), [(False, ""), (False, ""), (False, "")])
         self.assertEqual(campos(""), [])
         self.assertEqual(campos("1\r\n"), [(False, "1")])  # none behind the last line end
-        self.assertEqual(campos("1,"), [(False, "1"), (False, "")])
+        self.assertEqual(campos("1,"), [(False, "1")])  # nor behind the last comma
+        self.assertEqual(campos("1,\r\n"), [(False, "1"), (False, "")])
 
     def test_Comillas(self):
         self.assertEqual(campos('"a, b\r\nc" sobra,2'), [(True, "a, b\r\nc"), (False, "2")])
@@ -577,9 +578,14 @@ sys.exit(hecho.returncode)
         self.assertIn("nuevo.txt: only the engine left it", dicho)
 
     def test_LaHoraYElTiempoNoCuentan(self):
-        pizarra = b"SIRO - Modelo X\r\na\r\nb\r\nc\r\nd\r\ne\r\nA. P - 1/2/26 10:00\r\nresto - 5"
+        pizarra = b"SIRO - Modelo\r\na\r\nA. P - B - 1/2/26 10:00\r\n\r\nSIMULACION LLUVIA\r\nresto - 5"
         self.assertEqual(
-            compara.enmascara(pizarra), b"SIRO - Modelo X\r\na\r\nb\r\nc\r\nd\r\ne\r\nA. P - (hora)\r\nresto - 5"
+            compara.enmascara(pizarra),
+            b"SIRO - Modelo\r\na\r\nA. P - B - (hora)\r\n\r\nSIMULACION LLUVIA\r\nresto - 5",
+        )
+        tabla = b'"SIRO - Modelo"\r\n"A. P - 1/2/26"\r\n"SIMULACION PARA"\r\n'
+        self.assertEqual(
+            compara.enmascara(tabla), b'"SIRO - Modelo"\r\n"A. P - (hora)"\r\n"SIMULACION PARA"\r\n'
         )
         self.assertEqual(
             compara.enmascara(b"proceso: Tiempo total del proceso: 0:1:12"),
