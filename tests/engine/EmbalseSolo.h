@@ -136,6 +136,19 @@ class RedAMano {
         }
     }
 
+    /// Multiplies every outflow of the first Represa and the first Lago.
+    void EscalaDescarga(float factor)
+    {
+        for (auto* tablas : {&tablasRepresas, &tablasLagos})
+            if (!tablas->empty())
+                for (RenglonHASQ& r : tablas->front())
+                    r.Q *= factor;
+        if (s.ColRepresas.Cuenta() == 0) return;
+        for (auto* coeficientes : {&s.Represas(1).FQa, &s.Represas(1).FQb, &s.Represas(1).FQc})
+            for (std::size_t i = 0; i < coeficientes->size(); ++i)
+                if (i >= 4 || coeficientes != &s.Represas(1).FQb) (*coeficientes)[i] *= factor;
+    }
+
     /// Row of a component in Secuencia.
     [[nodiscard]] int Fila(const std::string& nombre) const
     {

@@ -420,6 +420,21 @@ TEST_P(Embalses, MuskingumConSumaDistintaDeUno)
     EXPECT_EQ(QMax(), 0);
 }
 
+TEST_P(Embalses, MuskingumRechazadoDejaLaRutinaYNoMiraALosDemas)
+{
+    PonUEH("u-1", Nombre());
+    PonEmbalse("Muskingum", Pileta, 100);
+    PonK(-5);
+    if (EsLago())
+        PonLago("l-dos", "", Pileta);
+    else
+        PonRepresa("r-dos", "", Pileta);
+    Dimensiona(1);
+    Propaga(Nombre());
+    EXPECT_EQ(anfitrion->Avisos(),
+              (std::vector<Mensaje>{{GetParam().muskingum, "Advertencia !", Icono::Exclamacion}}));
+}
+
 TEST(EmbalsesRepresa, ElPesoDeMuskingumDeLaRepresaNoTieneEfecto)
 {
     RedAMano red;
@@ -712,7 +727,7 @@ TEST(EmbalsesLago, DespuesDeUnaRepresaMuestraElAlmacenamientoDeElla)
 
 /// A pool with random walls, outlets and flood. With `repetida` its last row stands twice: that alters no
 /// reading, and keeps the lookups from being prepared beforehand.
-void PoneAlAzar(RedAMano& red, std::uint32_t semilla, bool repetida, const std::string& metodo)
+V PoneAlAzar(RedAMano& red, std::uint32_t semilla, bool repetida, const std::string& metodo)
 {
     std::mt19937 motor(semilla);
     const auto entre = [&](float a, float b) { return std::uniform_real_distribution<float>(a, b)(motor); };
@@ -750,33 +765,65 @@ void PoneAlAzar(RedAMano& red, std::uint32_t semilla, bool repetida, const std::
             r.FQMax = {tope, tope, 0, 0, tope};
         }
     }
-    const int pasos = 60;
-    red.Dimensiona(pasos);
-    std::vector<float> caudales;
-    for (int k = 1; k <= pasos; ++k)
+    V caudales;
+    for (int k = 1; k <= 60; ++k)
         caudales.push_back(k < 20 ? entre(0, 400) : entre(0, 4));
+    return caudales;
+}
+
+/// Routes the flood through the one component there is, as if for the first time.
+void CorreSolo(RedAMano& red, const V& caudales)
+{
+    red.Dimensiona(static_cast<int>(caudales.size()));
     red.PonCaudales("u-1", caudales);
-    red.Propaga(nombre);
+    red.s.HActual = red.s.SActual = red.s.ACalc = 0;
+    red.s.TextoPizarra = {};
+    red.anfitrion->sucesos.clear();
+    red.Propaga(red.s.Secuencia[2]);
+}
+
+testing::AssertionResult MismosBits(const RedAMano& una, const RedAMano& otra)
+{
+    const model::Siro &a = una.s, &b = otra.s;
+    if (a.QSale != b.QSale || a.QEntra != b.QEntra || a.QMax != b.QMax)
+        return testing::AssertionFailure() << "flows differ";
+    if (a.HRepresa != b.HRepresa || a.HLago != b.HLago || a.SRepresa != b.SRepresa || a.SLago != b.SLago)
+        return testing::AssertionFailure() << "heights or storages differ";
+    if (a.VolEntra != b.VolEntra || a.VolSale != b.VolSale)
+        return testing::AssertionFailure() << "volumes differ";
+    if (a.HActual != b.HActual || a.SActual != b.SActual || a.ACalc != b.ACalc || a.IndPaso != b.IndPaso)
+        return testing::AssertionFailure() << "what is left for the next component differs";
+    if (una.anfitrion->sucesos != otra.anfitrion->sucesos)
+        return testing::AssertionFailure() << "the user was told other things";
+    return MismoTexto(b.TextoPizarra, a.TextoPizarra);
 }
 
 RC_GTEST_PROP(EmbalsesPreparados, DanLosMismosBitsQueRenglonARenglon, (std::uint32_t semilla))
 {
     for (const char* metodo : {"Piscina Nivelada", "Muskingum", "Runge Kutta"}) {
         RedAMano preparada, simple;
-        PoneAlAzar(preparada, semilla, false, metodo);
-        PoneAlAzar(simple, semilla, true, metodo);
-        const model::Siro &a = preparada.s, &b = simple.s;
-        RC_ASSERT(a.QSale == b.QSale);
-        RC_ASSERT(a.QEntra == b.QEntra);
-        RC_ASSERT(a.HRepresa == b.HRepresa && a.HLago == b.HLago);
-        RC_ASSERT(a.SRepresa == b.SRepresa && a.SLago == b.SLago);
-        RC_ASSERT(a.QMax == b.QMax);
-        RC_ASSERT(a.VolEntra == b.VolEntra && a.VolSale == b.VolSale);
-        RC_ASSERT(a.HActual == b.HActual && a.SActual == b.SActual && a.ACalc == b.ACalc);
-        RC_ASSERT(a.IndPaso == b.IndPaso);
-        RC_ASSERT(a.TextoPizarra == b.TextoPizarra);
-        RC_ASSERT(preparada.anfitrion->sucesos == simple.anfitrion->sucesos);
+        CorreSolo(preparada, PoneAlAzar(preparada, semilla, false, metodo));
+        CorreSolo(simple, PoneAlAzar(simple, semilla, true, metodo));
+        RC_ASSERT(MismosBits(preparada, simple));
     }
+}
+
+RC_GTEST_PROP(EmbalsesPreparados, LaMemoriaDeVariasCorridasNoCambiaNada, (std::uint32_t semilla))
+{
+    RedAMano varias, simple;
+    const V caudales = PoneAlAzar(varias, semilla, false, "Piscina Nivelada");
+    CorreSolo(simple, PoneAlAzar(simple, semilla, true, "Piscina Nivelada"));
+    varias.memoria.VariasCorridas = true;
+    for (int vez = 1; vez <= 2; ++vez) {
+        CorreSolo(varias, caudales);
+        RC_ASSERT(MismosBits(varias, simple));
+    }
+    // an outlet edited between two runs, and edited back
+    varias.EscalaDescarga(2);
+    CorreSolo(varias, caudales);
+    varias.EscalaDescarga(0.5F);
+    CorreSolo(varias, caudales);
+    RC_ASSERT(MismosBits(varias, simple));
 }
 
 }  // namespace
