@@ -49,11 +49,11 @@ struct RedOrdenada {
 struct Memoria {
     /// More than one run is to come: work that only pays over several is done at the first.
     bool VariasCorridas = false;
-    RedOrdenada red;
-    std::vector<NodosPiscina> piscinas;           ///< by row of Secuencia
-    std::vector<TablaInfiltracion> infiltracion;  ///< by UEH from 0
-    std::vector<TablaAbatimiento> abatimiento;    ///< one per constant
-    std::vector<double> columna;                  ///< room for one value per output step
+    RedOrdenada red{};
+    std::vector<NodosPiscina> piscinas{};           ///< by row of Secuencia
+    std::vector<TablaInfiltracion> infiltracion{};  ///< by UEH from 0
+    std::vector<TablaAbatimiento> abatimiento{};    ///< one per constant
+    std::vector<double> columna{};                  ///< room for one value per output step
 };
 
 }  // namespace engine

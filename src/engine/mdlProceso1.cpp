@@ -231,7 +231,9 @@ void CierraCorrida(Corrida& c)
 {
     Siro& s = c.s;
     const std::string& texto = s.TextoPizarra;
-    if (texto.size() > LargoExtenso && model::CuentaCaracteres(texto) > LargoExtenso)
+    constexpr std::size_t BytesPorCaracter = 4;  // at most
+    if (texto.size() > BytesPorCaracter * LargoExtenso ||
+        (texto.size() > LargoExtenso && model::CuentaCaracteres(texto) > LargoExtenso))
         Advierte(s, std::string(TextoExtenso), TituloTextoExtenso);
     c.Intenta([&] { GuardaTextoPizarra(s); });
 }
