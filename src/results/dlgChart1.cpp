@@ -38,7 +38,8 @@ Grafico Llena(const dlgChart1& f, const Siro& s, std::int16_t N, std::int16_t pa
         grafico.categorias.push_back(Categoria(i, paso, f.MinutosEjeX));
         lluvia.celdas.push_back(s.PpReal(i));
     }
-    grafico.series.assign(1, std::move(lluvia));
+    grafico.series.clear();
+    grafico.series.push_back(std::move(lluvia));
     grafico.ejeX = TituloEjeX(f.MinutosEjeX);
     grafico.ejeY = EjePrecipitacion;
     grafico.titulo = "  " + f.pedido.titulo + "  ";

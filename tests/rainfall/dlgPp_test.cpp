@@ -493,6 +493,34 @@ TEST_F(DialogoPp, AlVolverDeOtraFormaLosTresCamposQuedan)
     EXPECT_FALSE(f.Habilitado(Control::txtPp));  // the state was shown again
 }
 
+TEST_F(DialogoPp, AlVolverDeEditarLaTormentaRealSeMuestranSusValores)
+{
+    PonTormenta("Zeta_pt.vlm", "Temporal", 1, 30, "4\r\n");
+    Abre(f, s);
+    optformaPp_Click(f, s, 4);
+    f.tormenta.nombre = "Zeta_pt.vlm";  // what the editor of real storms hands over
+    AlVolver(f, s);
+    EXPECT_EQ(f.FilePpReal.indice, 1);
+    EXPECT_EQ(f.txtPp, "4");
+    EXPECT_EQ(f.txtDur, "30");
+    cmdAplicar(f, s);
+    EXPECT_EQ(s.PpTormenta, 4);
+    EXPECT_EQ(s.FormaPp, 4);
+    EXPECT_EQ(s.PasoPp, 30);
+}
+
+TEST_F(DialogoPp, LaFormaRealTomaSuLluviaDeLaTormentaYNoDeLoEscrito)
+{
+    AbreConTormenta(70, 40, 2);
+    f.txtPp = "500";
+    f.txtDur = "400";
+    optformaPp_Click(f, s, 4);
+    OKButton(f, s);
+    EXPECT_EQ(s.PpTormenta, 17.5F);
+    EXPECT_EQ(s.DurTormenta, 60);
+    EXPECT_EQ(s.DistriPp, 7);
+}
+
 TEST_F(DialogoPp, DejarLaFormaRealAvisaDeLaDistribucion)
 {
     const Mensaje verifique = {"Verifique la Distribución temporal de LLuvia", "Atención...",
