@@ -15,13 +15,15 @@ namespace model {
 template <typename T>
 class Arreglo {
   public:
-    /// Allocates 0..tope afresh, all zero. Throws Falla 9 for a negative bound; the array then stays as it was.
+    /// Allocates 0..tope afresh, all zero. Throws Falla 9 for a negative bound; the array then stays as it
+    /// was.
     void Dimensiona(int tope)
     {
         Comprueba(tope);
         datos.assign(static_cast<std::size_t>(tope) + 1, T{});
     }
-    /// Changes the upper bound and keeps the contents; new elements are 0. Throws Falla 9 for a negative bound.
+    /// Changes the upper bound and keeps the contents; new elements are 0. Throws Falla 9 for a negative
+    /// bound.
     void Redimensiona(int tope)
     {
         Comprueba(tope);
@@ -88,7 +90,8 @@ class Matriz {
     /// Same bounds and same elements.
     bool operator==(const Matriz& otra) const
     {
-        if (primeraFila != otra.primeraFila || ultimaFila != otra.ultimaFila || topeColumna != otra.topeColumna)
+        if (primeraFila != otra.primeraFila || ultimaFila != otra.ultimaFila ||
+            topeColumna != otra.topeColumna)
             return false;
         for (int f = primeraFila; f <= ultimaFila && topeColumna >= 0; ++f)
             if (!std::equal(Fila(f), Fila(f) + topeColumna + 1, otra.Fila(f))) return false;
@@ -109,7 +112,8 @@ class Matriz {
     // Rows get spare columns, so that a run whose last step moves on by one at a time copies seldom.
     void Ensancha(int columnas)
     {
-        const auto nuevoPaso = static_cast<std::size_t>(columnas) + 1 + static_cast<std::size_t>(columnas) / 2;
+        const auto nuevoPaso =
+            static_cast<std::size_t>(columnas) + 1 + static_cast<std::size_t>(columnas) / 2;
         const auto filas = static_cast<std::size_t>(ultimaFila - primeraFila) + 1;
         std::vector<T> nuevos(filas * nuevoPaso);
         for (std::size_t f = 0; f < filas; ++f)
@@ -121,7 +125,8 @@ class Matriz {
     void Borra(int desde, int hasta)
     {
         for (int f = primeraFila; f <= ultimaFila; ++f)
-            for (int c = desde; c <= hasta; ++c) datos[Ranura(f, c)] = T{};
+            for (int c = desde; c <= hasta; ++c)
+                datos[Ranura(f, c)] = T{};
     }
     std::vector<T> datos;
     int primeraFila = 0;

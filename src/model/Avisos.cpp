@@ -5,7 +5,10 @@ namespace model {
 
 namespace {
 
-std::string Numero(const Falla& falla) { return std::to_string(static_cast<int>(falla.numero)); }
+std::string Numero(const Falla& falla)
+{
+    return std::to_string(static_cast<int>(falla.numero));
+}
 
 }  // namespace
 
@@ -14,7 +17,10 @@ void Advierte(const Siro& s, std::string texto, std::string_view titulo)
     s.Anfitrion.Avisa({std::move(texto), std::string(titulo), Icono::Exclamacion});
 }
 
-void Informa(const Siro& s, std::string texto) { s.Anfitrion.Avisa({std::move(texto), {}, Icono::Ninguno}); }
+void Informa(const Siro& s, std::string texto)
+{
+    s.Anfitrion.Avisa({std::move(texto), {}, Icono::Ninguno});
+}
 
 bool Consulta(const Siro& s, std::string texto, std::string_view titulo)
 {

@@ -14,8 +14,8 @@ void LeeUEHs(Siro& s);
 /// Without any component both files are deleted instead. Failures are reported, never thrown.
 void mnu_btn_toolbarGuardaUEHs(Siro& s);
 
-/// Sets OrdenCauce of every reach: a rule in the manner of Strahler (1952), in ten passes over the collection.
-/// Lagos and Represas pass on the orders of the reaches that they gather.
+/// Sets OrdenCauce of every reach: a rule in the manner of Strahler (1952), in ten passes over the
+/// collection. Lagos and Represas pass on the orders of the reaches that they gather.
 void CalculaOrdenCauces(Siro& s);
 
 }  // namespace model

@@ -22,7 +22,8 @@ inline float Simple(double x)
     return f;
 }
 
-/// Stores a value in a 16-bit whole number, a tie going to the even one. Throws Falla 6 outside -32768..32767.
+/// Stores a value in a 16-bit whole number, a tie going to the even one. Throws Falla 6 outside
+/// -32768..32767.
 inline std::int16_t Entero16(double x)
 {
     const double n = std::nearbyint(x);
@@ -39,13 +40,22 @@ inline std::int32_t Entero32(double x)
 }
 
 /// Int(x) stored in a 16-bit whole number: the floor. Throws Falla 6 outside the type.
-inline std::int16_t Piso16(double x) { return Entero16(std::floor(x)); }
+inline std::int16_t Piso16(double x)
+{
+    return Entero16(std::floor(x));
+}
 
 /// Product of two 16-bit numbers, worked out in 16 bits. Throws Falla 6 outside the type.
-inline std::int16_t Producto16(std::int16_t a, std::int16_t b) { return Entero16(double{1} * a * b); }
+inline std::int16_t Producto16(std::int16_t a, std::int16_t b)
+{
+    return Entero16(double{1} * a * b);
+}
 
 /// Sum of two 16-bit numbers, worked out in 16 bits. Throws Falla 6 outside the type.
-inline std::int16_t Suma16(std::int16_t a, std::int16_t b) { return Entero16(double{1} * a + b); }
+inline std::int16_t Suma16(std::int16_t a, std::int16_t b)
+{
+    return Entero16(double{1} * a + b);
+}
 
 /// Quotient. Throws Falla 11 where the divisor is 0, for floats too.
 inline double Cociente(double a, double b)

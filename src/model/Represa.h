@@ -26,8 +26,8 @@ struct Represa {
     std::array<float, NroFuncionesFQ> FQmin{};   ///< lower height of each function [m], included
     std::array<float, NroFuncionesFQ> FQMax{};   ///< upper height of each function [m], included
     std::array<std::int16_t, NroFuncionesFQ> chkFQ{};  ///< 1: the function is in use
-    bool optTabla = false;                       ///< true: outflow by table; false: by functions
-    float HInicialEmb = 0;                       ///< water height when the storm begins [m]
+    bool optTabla = false;                             ///< true: outflow by table; false: by functions
+    float HInicialEmb = 0;                             ///< water height when the storm begins [m]
 
     bool operator==(const Represa&) const = default;
 };

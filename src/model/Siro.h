@@ -71,14 +71,14 @@ struct Siro {
     ComponenteActual CompActual{};
 
     // --- storm and steps ---
-    float PpTormenta = 0;          ///< depth P [mm]
-    std::int16_t DurTormenta = 0;  ///< duration D [min]
-    std::int16_t RecTormenta = 0;  ///< recurrence R [years]
-    std::int16_t FormaPp = 0;      ///< FormaLluvia
-    std::int16_t DistriPp = 0;     ///< temporal distribution 0..7
-    std::int16_t TablaPDR = 0;     ///< P-D-R table in use, 0..3
-    std::int16_t PasoPp = 10;      ///< model step [min]
-    std::int16_t PasoQ = 10;       ///< output step of flows [min]
+    float PpTormenta = 0;                          ///< depth P [mm]
+    std::int16_t DurTormenta = 0;                  ///< duration D [min]
+    std::int16_t RecTormenta = 0;                  ///< recurrence R [years]
+    std::int16_t FormaPp = 0;                      ///< FormaLluvia
+    std::int16_t DistriPp = 0;                     ///< temporal distribution 0..7
+    std::int16_t TablaPDR = 0;                     ///< P-D-R table in use, 0..3
+    std::int16_t PasoPp = 10;                      ///< model step [min]
+    std::int16_t PasoQ = 10;                       ///< output step of flows [min]
     Arreglo<float> PpUEH = Ceros<float>(MaxUEHs);  ///< rainfall of each UEH in this storm [mm], by number
     Arreglo<float> PpReal = Ceros<float>(0);       ///< depth of each block of the hyetograph [mm], from 1
     std::int16_t NroPpReal = 0;                    ///< blocks in PpReal
@@ -91,31 +91,32 @@ struct Siro {
 
     // --- tables of rain shared by all projects ---
     std::array<std::int16_t, 4> NroFilasTabla{};  ///< rows of tables 0..3, of whichever file was read last
-    Matriz<float> DisPerso{};                     ///< row: personal table 0..3; column: period from 1 [% of P]
-    std::array<std::int16_t, 4> DurMinPer{}, DurMaxPer{};  ///< durations for which a personal table holds [min]
+    Matriz<float> DisPerso{};  ///< row: personal table 0..3; column: period from 1 [% of P]
+    std::array<std::int16_t, 4> DurMinPer{},
+        DurMaxPer{};  ///< durations for which a personal table holds [min]
     std::array<std::string, 4> NotasDisPer{};
     Matriz<std::int16_t> TablasP{}, TablasD{}, TablasR{};  ///< row: P-D-R table 0..4; column: storm from 1
     std::array<std::string, 4> NotasPDR{};
 
     // --- hyetograph ---
-    std::int16_t NroBloquesPp = 0;                  ///< blocks of the temporal distribution
-    Arreglo<float> PpAcum = Ceros<float>(0);        ///< cumulative [%], then cumulative depth at a block's end [mm]
+    std::int16_t NroBloquesPp = 0;            ///< blocks of the temporal distribution
+    Arreglo<float> PpAcum = Ceros<float>(0);  ///< cumulative [%], then cumulative depth at a block's end [mm]
     Arreglo<float> IntensidadPp = Ceros<float>(0);  ///< percentage of a block, then its intensity [mm/min]
     float PpAcumPrevia = 0;                         ///< depth delivered so far by PpDelPaso [mm]
 
     // --- results ---
-    Matriz<float> QSale{};   ///< outflow [m3/s]; column: output step
-    Matriz<float> QEntra{};  ///< inflow [m3/s]; rows NroUEHs+1..NroComponentes+1; column: output step
-    Matriz<float> PpUEHPaso{};        ///< rainfall [mm]; row: UEH; column: model step
-    Matriz<float> QMax{};             ///< peak outflow [m3/s]; column: storm
-    Matriz<std::int32_t> EscUEH{};    ///< runoff volume without base flow [m3]; row: UEH; column: storm
-    Matriz<float> CoefEscUEH{};       ///< runoff coefficient [%]; row: UEH; column: storm
-    Arreglo<std::int32_t> EscTotal{};  ///< runoff volume of the basin [m3], by storm
-    Arreglo<float> CoefEscTotal{};     ///< runoff coefficient of the basin [%], by storm
-    Arreglo<float> VolUEH{};           ///< volume at the foot of each UEH [m3]
-    Arreglo<std::int32_t> VolBaseUEH{};  ///< base volume of each UEH [m3]
-    Arreglo<float> CoefUEH{};            ///< runoff coefficient of each UEH in this storm [%]
-    Arreglo<float> PasosInfiltra{};      ///< infiltration clock of each UEH [model steps]
+    Matriz<float> QSale{};          ///< outflow [m3/s]; column: output step
+    Matriz<float> QEntra{};         ///< inflow [m3/s]; rows NroUEHs+1..NroComponentes+1; column: output step
+    Matriz<float> PpUEHPaso{};      ///< rainfall [mm]; row: UEH; column: model step
+    Matriz<float> QMax{};           ///< peak outflow [m3/s]; column: storm
+    Matriz<std::int32_t> EscUEH{};  ///< runoff volume without base flow [m3]; row: UEH; column: storm
+    Matriz<float> CoefEscUEH{};     ///< runoff coefficient [%]; row: UEH; column: storm
+    Arreglo<std::int32_t> EscTotal{};      ///< runoff volume of the basin [m3], by storm
+    Arreglo<float> CoefEscTotal{};         ///< runoff coefficient of the basin [%], by storm
+    Arreglo<float> VolUEH{};               ///< volume at the foot of each UEH [m3]
+    Arreglo<std::int32_t> VolBaseUEH{};    ///< base volume of each UEH [m3]
+    Arreglo<float> CoefUEH{};              ///< runoff coefficient of each UEH in this storm [%]
+    Arreglo<float> PasosInfiltra{};        ///< infiltration clock of each UEH [model steps]
     Matriz<float> HRepresa{}, SRepresa{};  ///< height [m], storage [m3]; row: Represa number; column: step
     Matriz<float> HLago{}, SLago{};        ///< the same of the Lagos
     float VolEntra = 0, VolSale = 0;       ///< volumes of the component routed last [m3]
@@ -125,9 +126,9 @@ struct Siro {
 
     // --- tables of Represas and Lagos; row: component number; column: row of the table, from 1 ---
     Arreglo<std::int16_t> RepresaFilasHAS{}, RepresaFilasHQ{}, LagoFilas{};  ///< rows of each table
-    Matriz<float> RepresaH{}, RepresaA{};    ///< height [m], area [ha]
-    Matriz<std::int32_t> RepresaS{};         ///< storage [m3]
-    Matriz<float> RepresaQH{}, RepresaQQ{};  ///< height [m], outflow [m3/s]
+    Matriz<float> RepresaH{}, RepresaA{};                                    ///< height [m], area [ha]
+    Matriz<std::int32_t> RepresaS{};                                         ///< storage [m3]
+    Matriz<float> RepresaQH{}, RepresaQQ{};                                  ///< height [m], outflow [m3/s]
     Matriz<float> LagoH{}, LagoA{}, LagoQ{};
     Matriz<std::int32_t> LagoS{};
     Matriz<std::int16_t> FQActiva{};  ///< row: Represa number; column: outflow function from 1
@@ -157,11 +158,11 @@ struct Siro {
     float ImagenX0 = 0, ImagenY0 = 0;  ///< shift of the image [pixels]
     bool OptionMin = false, OptionHr = false, Optionm3 = false, OptionLt = false;
     std::string MaxUEHsPixel = "800";
-    std::string EscalaDibujo = "0";                                      ///< scale of the image [m/pixel]
-    std::array<std::int16_t, Recurrencias.size()> CheckR{};              ///< flags; not those of the boxes
-    std::array<std::int16_t, Duraciones.size()> CheckD{};                ///< flags
-    std::vector<std::int16_t> ListaRec = std::vector<std::int16_t>(1);   ///< ticked recurrences, from 1
-    std::vector<std::int16_t> ListaDur = std::vector<std::int16_t>(1);   ///< ticked durations, from 1
+    std::string EscalaDibujo = "0";                                     ///< scale of the image [m/pixel]
+    std::array<std::int16_t, Recurrencias.size()> CheckR{};             ///< flags; not those of the boxes
+    std::array<std::int16_t, Duraciones.size()> CheckD{};               ///< flags
+    std::vector<std::int16_t> ListaRec = std::vector<std::int16_t>(1);  ///< ticked recurrences, from 1
+    std::vector<std::int16_t> ListaDur = std::vector<std::int16_t>(1);  ///< ticked durations, from 1
     std::int16_t NroRec = 0, NroDur = 0;
     bool ProyectoNuevo = false;  ///< a new project waits for its configuration to be confirmed
     bool ConfPendiente = false;  ///< start-up is over: a read of the pointer tests that its project is there

@@ -11,7 +11,8 @@ namespace model {
 /// Line break of the Slate and of every file.
 inline constexpr std::string_view SaltoLinea = "\r\n";
 
-/// Decodes Windows-1252. The five bytes that the code page leaves unassigned stand for themselves (U+0081 ...).
+/// Decodes Windows-1252. The five bytes that the code page leaves unassigned stand for themselves (U+0081
+/// ...).
 std::string DeWindows1252(std::string_view bytes);
 
 /// Encodes UTF-8 as Windows-1252; a character that the code page lacks, and a byte that is no UTF-8, is '?'.
