@@ -93,7 +93,7 @@ void EscribeTexto(EscritorRegistros& e, const Siro& s)
 }
 
 template <auto Variable, auto Control>
-constexpr CampoConf Texto()
+consteval CampoConf Texto()
 {
     return {[](Lectura& l) {
                 l.s.*Variable = l.lector.Texto();
@@ -103,7 +103,7 @@ constexpr CampoConf Texto()
 }
 
 template <auto Variable, auto Control>
-constexpr CampoConf Marca()
+consteval CampoConf Marca()
 {
     return {[](Lectura& l) {
                 l.s.*Variable = l.lector.Numero16();
@@ -113,7 +113,7 @@ constexpr CampoConf Marca()
 }
 
 template <auto Variable, auto Control>
-constexpr CampoConf Opcion()
+consteval CampoConf Opcion()
 {
     return {[](Lectura& l) {
                 l.s.*Variable = l.lector.Logico();
@@ -124,7 +124,7 @@ constexpr CampoConf Opcion()
 
 /// A shift of the image: read as text, written as the bare number of the variable.
 template <auto Variable, auto Control>
-constexpr CampoConf Corrimiento()
+consteval CampoConf Corrimiento()
 {
     return {[](Lectura& l) {
                 l.s.*Variable = Simple(Val(l.lector.Texto()));
@@ -134,7 +134,7 @@ constexpr CampoConf Corrimiento()
 }
 
 template <std::size_t N>
-constexpr std::size_t Lugar(const std::array<std::int16_t, N>& lista, std::int16_t valor)
+consteval std::size_t Lugar(const std::array<std::int16_t, N>& lista, std::int16_t valor)
 {
     std::size_t i = 0;
     while (lista[i] != valor)
@@ -144,7 +144,7 @@ constexpr std::size_t Lugar(const std::array<std::int16_t, N>& lista, std::int16
 
 /// A box of a selection and the flag that its field is read into.
 template <auto Variables, auto Casillas, std::size_t Casilla, std::size_t Bandera>
-constexpr CampoConf Seleccion()
+consteval CampoConf Seleccion()
 {
     return {[](Lectura& l) {
                 (l.s.*Variables)[Bandera] = l.lector.Numero16();
@@ -154,14 +154,14 @@ constexpr CampoConf Seleccion()
 }
 
 template <std::int16_t R, std::int16_t RBandera = R>
-constexpr CampoConf Rec()
+consteval CampoConf Rec()
 {
     return Seleccion<&Siro::CheckR, &Controles::CheckR, Lugar(Recurrencias, R),
                      Lugar(Recurrencias, RBandera)>();
 }
 
 template <std::int16_t D>
-constexpr CampoConf Dur()
+consteval CampoConf Dur()
 {
     return Seleccion<&Siro::CheckD, &Controles::CheckD, Lugar(Duraciones, D), Lugar(Duraciones, D)>();
 }

@@ -240,6 +240,32 @@ TEST_F(GuardaComponentes, UnVerticeSinLugarCierraElArchivoYLosQueSiguenFallan)
     EXPECT_EQ(VerCau(), "3,0\r\n");
 }
 
+TEST_F(GuardaComponentes, UnCierreQueFallaTrasUnaFallaNoDaOtroAviso)
+{
+    s.ColCauces.Agrega({.NombreCauce = "c-1"});
+    s.NroCauces = 1;
+    s.NroVertices(1) = 3;
+    s.XVertice.Dimensiona(70, 1);
+    s.YVertice.Dimensiona(70, 1);
+    disco.FallaEn(4, NumeroFalla::AccesoRuta);  // both files opened, the first written: now the second's pair
+    mnu_btn_toolbarGuardaUEHs(s);
+    EXPECT_TRUE(disco.HuboFalla());
+    EXPECT_EQ(Avisos(), Veces(2, CajaSubindice) + Cajas{CajaGuardado("/proy/Arroyo_VerCau.vlm")});
+    EXPECT_EQ(VerCau(), "");
+}
+
+TEST_F(GuardaComponentes, MasCaucesQueUnEnteroDe16BitsDejanSuCuentaComoEstaba)
+{
+    for (int i = 0; i < 32768; ++i)
+        s.ColCauces.Agrega({});
+    s.NroUEHs = 1;
+    mnu_btn_toolbarGuardaUEHs(s);
+    // The file says 0 reaches, so that the load takes the first one's fields for the other counts: its number
+    // 0, its name, its 0 vertices.
+    EXPECT_EQ(Avisos(), (Cajas{CajaDesborde, CajaTipos, CajaGuardado("/proy/Arroyo_VerCau.vlm")}));
+    EXPECT_EQ(Uehs().substr(0, 16), "\"Arroyo\"\r\n0\r\n0\r\n");
+}
+
 TEST_F(GuardaComponentes, GuardarMasDe70CaucesInformaCadaVerticeSinFila)
 {
     for (int i = 1; i <= 102; ++i)

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "apoyo/Compara.h"
 #include "model/Componentes.h"
 #include "model/Siro.h"
 
@@ -134,6 +135,21 @@ TEST(OrdenDeCauces, DiezPasadasNoAlcanzanParaUnaCadenaLargaAlReves)
     EXPECT_EQ(Ordenes(tramos), (std::vector<int>{0, 0, 1, 2, 2, 2, 2, 2, 2, 2, 2, 2, 1, 1}));
     std::reverse(tramos.begin(), tramos.end());  // downstream: one pass is enough
     EXPECT_EQ(Ordenes(tramos), (std::vector<int>{1, 1, 2, 2, 2, 2, 2, 2, 2, 2, 2, 2, 2, 2}));
+}
+
+TEST(OrdenDeCauces, UnOrdenFueraDelTipoEsUnaFalla)
+{
+    // Each reach drains into a lake that stands twice in the collection and so comes twice to the next
+    // reach: 1, 2, 3 ... in the order of the collection, up to 32768.
+    Siro s;
+    for (int i = 1; i <= 32768; ++i) {
+        const std::string lago = "l-" + std::to_string(i);
+        s.ColCauces.Agrega({.NombreCauce = "c-" + std::to_string(i), .Cauce_aa = lago});
+        for (int doble = 0; doble < 2; ++doble)
+            s.ColLagos.Agrega({.NombreLAGO = lago, .Cauce_aa = "c-" + std::to_string(i + 1)});
+    }
+    EXPECT_EQ(apoyo::NumeroDeFalla([&] { CalculaOrdenCauces(s); }), 6);
+    EXPECT_EQ(s.ColCauces.Item(32767).OrdenCauce, 32767);
 }
 
 }  // namespace

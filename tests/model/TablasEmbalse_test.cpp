@@ -424,6 +424,13 @@ TEST_F(TablasEmbalse, UnaCabeceraConCuentaEnFallaNoSeReconoce)
     EXPECT_EQ(s.RepresaH(1, 1), 4);
 }
 
+TEST_F(TablasEmbalse, UnNumeroEntreComillasEsUnTextoParaLaBusqueda)
+{
+    PonRepresas({"r-1", "r-2"});
+    LeeRHAS("1,\"5\",1\r\n\"*r-1\",\"0\",\"*\"\r\n\"*r-1\",0,\"*\"\r\n\"*r-2\",0,\"*\"\r\n");
+    EXPECT_EQ(Avisos(), Veces(2 + 2, CajaTipos));  // the loose row and the first header, for each
+}
+
 TEST_F(TablasEmbalse, UnaFilaEnFallaSeConsumeEnteraYNoGuardaNada)
 {
     PonRepresas({"r-1"});
@@ -594,6 +601,17 @@ TEST_F(TablasEmbalse, SiNoSePuedeAbrirCadaEscrituraAvisa)
     disco.Protege(RutaDe(RHAS));
     GuardaTablaHSVRepresa(s);
     EXPECT_EQ(Avisos(), Veces(1 + 2 + 3, CajaAcceso));  // the opening, two headers, three rows
+    EXPECT_EQ(Bytes(RHAS), DosRepresas);
+}
+
+TEST_F(TablasEmbalse, UnArchivoQueNoEstaEsMudoAlGuardar)
+{
+    PonRepresas({"r-1", "r-2"});
+    LeeRHAS(DosRepresas);
+    disco.FallaEn(2, NumeroFalla::ArchivoNoEsta);  // 1: the directory
+    GuardaTablaHSVRepresa(s);
+    EXPECT_TRUE(disco.HuboFalla());
+    EXPECT_EQ(Avisos(), Cajas{});
     EXPECT_EQ(Bytes(RHAS), DosRepresas);
 }
 
