@@ -493,6 +493,18 @@ TEST_F(DialogoPp, AlVolverDeOtraFormaLosTresCamposQuedan)
     EXPECT_FALSE(f.Habilitado(Control::txtPp));  // the state was shown again
 }
 
+TEST_F(DialogoPp, AlVolverSinTormentaRealElegidaLosTresCamposQuedan)
+{
+    disco.Quita("/proyectos");
+    AbreConTormenta(70, 40, 2);
+    optformaPp_Click(f, s, 4);
+    f.txtPp = "12";
+    f.txtDur = "200";
+    f.cmbRec.texto = "25";
+    AlVolver(f, s);
+    EXPECT_EQ(Campos(), (Textos{"12", "200", "25"}));
+}
+
 TEST_F(DialogoPp, AlVolverDeEditarLaTormentaRealSeMuestranSusValores)
 {
     PonTormenta("Zeta_pt.vlm", "Temporal", 1, 30, "4\r\n");
@@ -891,6 +903,16 @@ TEST_F(DialogoPp, UnPasoQQueNoCabeEnElPasoPpSeReemplazaYElFocoSigue)
         EXPECT_EQ(s.PasoQ, caso.cabe ? 10 : 30) << caso.pasoQ;
         EXPECT_EQ(Avisos(), caso.cabe ? std::vector<Mensaje>{} : std::vector<Mensaje>{mensaje}) << caso.pasoQ;
     }
+}
+
+TEST_F(DialogoPp, SinPasoPpNingunPasoQCabe)
+{
+    Abre(f, s);
+    f.cmbPasoPp.texto = "";
+    f.cmbPasoQ.texto = "10";  // 0/10 is whole, but 10 is above 0
+    EXPECT_TRUE(cmbPasoQ_AlSalir(f, s));
+    EXPECT_EQ(Avisos().size(), 1U);
+    EXPECT_EQ(f.cmbPasoQ.texto, "");
 }
 
 TEST_F(DialogoPp, UnPasoQMayorNoSePuedeDejarPeroUnPasoPpCambiadoDespuesSi)

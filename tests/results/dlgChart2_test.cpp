@@ -68,6 +68,7 @@ class GraficoQ : public testing::Test {
         }
         s.PpUEHPaso(1, 1) = 20;
         s.PpUEHPaso(1, 2) = 10;
+        s.PpUEHPaso(1, 3) = 8;  // beyond the rows that may show it
     }
     void AbreEn(std::int16_t componente)
     {
@@ -161,6 +162,7 @@ TEST_F(GraficoQ, ConPasosIgualesCadaFilaEsLaLluviaDelPaso)
 {
     s.PasoPp = 10;
     s.PpUEHPaso(1, 3) = 7;
+    s.PpUEHPaso(1, 4) = 9;
     AbreEn(1);
     // Rows below 30 + 10 min.
     EXPECT_EQ(SerieNro(2).celdas, (Celdas{20, 10, 7, 0, 0}));
