@@ -343,6 +343,30 @@ TEST_P(Embalses, BiseccionDeMasDeMilVueltasTerminaElPrograma)
     EXPECT_TRUE(anfitrion->Preguntas().empty());
 }
 
+TEST(EmbalsesRepresa, LaBiseccionDaMilVueltasAntesDeRendirse)
+{
+    // Of two neighbouring 32-bit floats the midpoint is the even one, the bottom: there 0 to the power of -1
+    // is reported in each round.
+    RedAMano red;
+    red.PonUEH("u-1", "r-uno");
+    auto& represa =
+        red.PonRepresa("r-uno", "Piscina Nivelada", {{1000000, 6, 0, 0}, {1000000.0625F, 6, 1000, 0}});
+    represa.HInicialEmb = 1000000.0625F;
+    represa.optTabla = false;
+    represa.chkFQ[0] = 1;
+    represa.FQa[0] = 1;
+    represa.FQb[0] = -1;
+    represa.FQmin[0] = 1000000;
+    represa.FQMax[0] = 1000001;
+    red.Dimensiona(1);
+    red.PonCaudales("u-1", {1000});
+    EXPECT_THROW(red.Propaga("r-uno"), model::FinDelPrograma);
+    std::vector<Mensaje> esperados(
+        1000, {"Error Nro. 5Argumento o llamada a procedimiento no válidos ,Verifique", "", Icono::Ninguno});
+    esperados.push_back({Clases[0].sinFin, "Error,...", Icono::Exclamacion});
+    EXPECT_EQ(red.anfitrion->Avisos(), esperados);
+}
+
 // --- Muskingum --------------------------------------------------------------------------------------------
 
 // K = 15, dt = 10: denominator 20, C0 = C1 = 1/4, C2 = 1/2. Outflows 1024, 128 + 256 + 512 = 896 and
@@ -824,6 +848,35 @@ RC_GTEST_PROP(EmbalsesPreparados, LaMemoriaDeVariasCorridasNoCambiaNada, (std::u
     varias.EscalaDescarga(0.5F);
     CorreSolo(varias, caudales);
     RC_ASSERT(MismosBits(varias, simple));
+}
+
+// All midpoints of 4 m of vertical walls are known beforehand. Floods of all sizes take the pool from its
+// lowest midpoint to its highest and back, in jumps and step by step.
+RC_GTEST_PROP(EmbalsesPreparados, LosPuntosMediosConocidosDanLosMismosBits, (std::uint32_t semilla))
+{
+    std::mt19937 motor(semilla);
+    const auto entre = [&](float a, float b) { return std::uniform_real_distribution<float>(a, b)(motor); };
+    V caudales;
+    while (caudales.size() < 150) {
+        const float tamano = std::pow(10.0F, entre(-2, 4.5F)), signo = entre(0, 1) < 0.3F ? -1.0F : 1.0F;
+        for (int pasos = std::uniform_int_distribution<int>(1, 12)(motor); pasos > 0; --pasos)
+            caudales.push_back(signo * entre(0, tamano));
+    }
+    auto repetida = Pileta;
+    repetida.push_back(repetida.back());
+    RedAMano varias, simple;
+    varias.memoria.VariasCorridas = true;
+    for (auto* red : {&varias, &simple}) {
+        red->PonUEH("u-1", "r-uno");
+        red->PonRepresa("r-uno", "Piscina Nivelada", red == &varias ? Pileta : repetida).HInicialEmb = 102;
+        CorreSolo(*red, caudales);
+    }
+    RC_ASSERT(varias.memoria.piscinas[2].sirve);
+    RC_ASSERT(MismosBits(varias, simple));
+    const V H(varias.s.HRepresa.Fila(1), varias.s.HRepresa.Fila(1) + 151);
+    const auto [menor, mayor] = std::minmax_element(H.begin(), H.end());
+    RC_CLASSIFY(*menor == 100.00390625F, "reaches the bottom");
+    RC_CLASSIFY(*mayor == 103.99609375F, "reaches the top");
 }
 
 }  // namespace
