@@ -153,7 +153,9 @@ def traslado_larguisimo(p):
     for ueh in p.UEHs[:2]:
         _pone(p, ueh, longitud=p.uno_de((32700 * 60, 32000 * 60, 40000 * 60)), velocidad=1, a=0, z=0)
     p.opciones["--paso-pp"], p.opciones["--paso-q"] = "720", "720"
-    p.opciones["--dur"] = "1440"
+    if p.modo == "una":
+        p.opciones["--forma"] = "0"  # a real storm brings a step of its own, too short for so long a way
+        p.opciones["--dur"] = "1440"
 
 
 def ciclo(p):

@@ -45,6 +45,7 @@ class Proyecto:
         self.ruidos = []
         self.directorios = []
         self.sin_trabajo = False
+        self.conf_relativa = False  # to the project's directory, where the program is then to be run
 
     # ------------------------------------------------------------------------------- numbers
 
@@ -474,8 +475,10 @@ def escribe(p):
 
 
 def linea_de_comando(p):
-    palabras = ["siro-lote", p.modo, os.path.join(p.directorio, p.nombre + "_Conf.vlm")]
-    palabras += ["--trabajo", p.trabajo]
+    conf = p.nombre + "_Conf.vlm"
+    if not p.conf_relativa:
+        conf = os.path.join(p.directorio, conf)
+    palabras = ["siro-lote", p.modo, conf, "--trabajo", p.trabajo]
     for opcion, valor in p.opciones.items():
         if valor is None:
             palabras.append(opcion)
@@ -508,6 +511,9 @@ def genera(semilla, directorio):
         p.opciones["--responde"] = "no"
     if p.suerte(0.8):
         p.opciones["--resultados"] = os.path.join(directorio, "resultados.csv")
+    if p.modo == "serie" and p.suerte(0.7):
+        p.opciones["--hilos"] = p.uno_de(("0", "1", "2", "3"))
+    p.conf_relativa = p.suerte(0.05)
     elegidos = danos.elige(p) if p.suerte(0.33) else []
     for dano in elegidos:
         dano.en_modelo(p)

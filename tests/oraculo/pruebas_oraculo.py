@@ -193,7 +193,8 @@ class Campos(unittest.TestCase):
         self.assertEqual(campos(",\r\n\r\n"), [(False, ""), (False, ""), (False, "")])
         self.assertEqual(campos(""), [])
         self.assertEqual(campos("1\r\n"), [(False, "1")])  # none behind the last line end
-        self.assertEqual(campos("1,"), [(False, "1")])  # nor behind the last comma
+        self.assertEqual(campos("1,"), [(False, "1"), (False, "")])
+        self.assertEqual(campos('1,"a'), [(False, "1"), (True, "a")])
         self.assertEqual(campos("1,\r\n"), [(False, "1"), (False, "")])
 
     def test_Comillas(self):

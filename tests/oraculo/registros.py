@@ -58,11 +58,12 @@ def escribe_todo(ruta, texto):
 def campos(texto):
     """All fields of a file in order, as pairs (quoted, text).
 
-    Comma and line end close a field alike, so none stands behind the last of either.
+    Comma and line end close a field alike. Behind the last line end there is none, behind a last comma an empty one.
     """
     hallados = []
     i, largo = 0, len(texto)
-    while i < largo:
+    tras_coma = False
+    while i < largo or tras_coma:
         while i < largo and texto[i] == " ":
             i += 1
         if i < largo and texto[i] == '"':
@@ -79,6 +80,7 @@ def campos(texto):
             while i < largo and texto[i] not in ",\r\n":
                 i += 1
             hallados.append((False, texto[inicio:i].rstrip(" ")))
+        tras_coma = texto[i : i + 1] == ","
         if i < largo:
             if texto[i] == "\r" and texto[i + 1 : i + 2] == "\n":
                 i += 1
