@@ -343,6 +343,24 @@ TEST_P(Embalses, BiseccionDeMasDeMilVueltasTerminaElPrograma)
     EXPECT_TRUE(anfitrion->Preguntas().empty());
 }
 
+TEST(EmbalsesRepresa, LaTablaDeCaudalesMasCortaPreguntaEnCadaPuntoMedioQueLaPasa)
+{
+    RedAMano red;
+    red.PonUEH("u-1", "r-uno");
+    red.PonRepresa("r-uno", "Piscina Nivelada", Pileta).HInicialEmb = 100;
+    red.Dimensiona(1);
+    red.s.RepresaQH(1, 2) = 102;
+    red.PonCaudales("u-1", {100000});
+    red.Propaga("r-uno");
+    // The ten midpoints of a target above all: 102, the last row, then nine that ask, for a Q of 0 each.
+    const auto& t = TextoDe(Funcion::QdeHRepresa, Caso::Encima);
+    const Mensaje encima{std::string(t.primero) + "r-uno" + std::string(t.segundo), std::string(t.titulo),
+                         Icono::Exclamacion};
+    EXPECT_EQ(red.anfitrion->Preguntas(), std::vector<Mensaje>(9, encima));
+    EXPECT_EQ(red.s.QSale(2, 1), 0);
+    EXPECT_EQ(red.s.HRepresa(1, 1), 103.99609375F);
+}
+
 TEST(EmbalsesRepresa, LaBiseccionDaMilVueltasAntesDeRendirse)
 {
     // Of two neighbouring 32-bit floats the midpoint is the even one, the bottom: there 0 to the power of -1
@@ -848,6 +866,20 @@ RC_GTEST_PROP(EmbalsesPreparados, LaMemoriaDeVariasCorridasNoCambiaNada, (std::u
     varias.EscalaDescarga(0.5F);
     CorreSolo(varias, caudales);
     RC_ASSERT(MismosBits(varias, simple));
+}
+
+// W = 1024 twice, then 1528 twice: U of a midpoint exactly, at which the pool already stands the second time.
+// T is -8 after the first two steps and 0 after a step at 191/256 m: I = 1032, 1536, 1528.
+TEST(EmbalsesPreparados, ElObjetivoIgualAUnPuntoMedioConocido)
+{
+    RedAMano red;
+    red.memoria.VariasCorridas = true;
+    red.PonUEH("u-1", "r-uno");
+    red.PonRepresa("r-uno", "Piscina Nivelada", Pileta).HInicialEmb = 100;
+    CorreSolo(red, {1024, 8, 1528, 0});
+    ASSERT_TRUE(red.memoria.piscinas[2].sirve);
+    const V H(red.s.HRepresa.Fila(1), red.s.HRepresa.Fila(1) + 5);
+    EXPECT_EQ(H, (V{100, 100 + 129 / 256.0F, 100 + 129 / 256.0F, 100 + 191 / 256.0F, 100 + 191 / 256.0F}));
 }
 
 // All midpoints of 4 m of vertical walls are known beforehand. Floods of all sizes take the pool from its
