@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "model/Falla.h"
+
 namespace model {
 
 /// Picture of a message box.
@@ -26,7 +28,7 @@ struct Peticion {
 };
 
 /// All that rules and runs ask of the world. The desktop, the batch program and the tests each fill it in;
-/// a member that is left as it is does nothing.
+/// a member that is left as it is does nothing, but that `Termina` throws.
 struct Anfitrion {
     /// Shows a box with OK.
     std::function<void(const Mensaje&)> Avisa = [](const Mensaje&) {};
@@ -40,7 +42,7 @@ struct Anfitrion {
         [](std::string_view, std::string_view) { return std::string{}; };
     /// Ends the program at once, with nothing more saved. Must not return: it throws FinDelPrograma or
     /// leaves the process.
-    std::function<void()> Termina = [] {};
+    std::function<void()> Termina = [] { throw FinDelPrograma{}; };
 
     /// The tick of the Slate's menu entry, and a way to set it.
     std::function<bool()> MarcaPizarra = [] { return false; };
