@@ -6,9 +6,12 @@
 #include "engine/modDistriPp.h"
 #include "model/Avisos.h"
 #include "model/Numeros.h"
+#include "results/EjeTiempo.h"
 
 namespace results {
 
+using forms::Grafico;
+using forms::Serie;
 using model::NumeroATexto;
 using model::Siro;
 

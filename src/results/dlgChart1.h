@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "forms/Grafico.h"
 #include "model/Siro.h"
-#include "results/Grafico.h"
 
 // Rules of the chart of the hyetograph, "Hietograma".
 namespace results {
@@ -33,7 +33,7 @@ struct dlgChart1 {
     bool abierta = false;
     bool MinutosEjeX = false;  ///< the time axis is in minutes; otherwise in hours
     Hietograma pedido{};       ///< what was asked for last
-    results::Grafico Grafico{};
+    forms::Grafico Grafico{};
 };
 
 /// Opening, with nothing asked for yet: the axis turns from hours to minutes. In a series, which has no

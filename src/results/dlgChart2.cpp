@@ -11,10 +11,15 @@
 #include "engine/modDistriPp.h"
 #include "model/Avisos.h"
 #include "model/Numeros.h"
+#include "results/EjeTiempo.h"
 #include "results/dlgChart1.h"
 
 namespace results {
 
+using forms::Grafico;
+using forms::Serie;
+using forms::TipoGrafico;
+using forms::TipoSerie;
 using model::NumeroATexto;
 using model::Siro;
 

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "engine/Memoria.h"
+#include "forms/Grafico.h"
 #include "model/Siro.h"
-#include "results/Grafico.h"
 
 // Rules of the chart of the hydrographs, "Hidrograma": a component picked from a list with its rain, its
 // inflow or its water level, and two sliders that run the storm in hand again with another depth or duration.
@@ -48,7 +48,7 @@ struct dlgChart2 {
     Deslizador sldPp{.minimo = 0, .maximo = 999, .pasoChico = 1, .pasoGrande = 5};    ///< [mm]
     std::string lblPp{}, lblDur{}, lblTitulo{}, lblNota{};
     VistaChart2 vista{}, vistaGuardada{};
-    results::Grafico Grafico{};
+    forms::Grafico Grafico{};
     engine::Memoria memoria{.VariasCorridas = true};  ///< what the sliders' runs have in common
 };
 

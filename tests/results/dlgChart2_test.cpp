@@ -16,6 +16,12 @@
 namespace results {
 namespace {
 
+using forms::EscalaCategorias;
+using forms::Grafico;
+using forms::Serie;
+using forms::TipoGrafico;
+using forms::TipoSerie;
+
 using model::Icono;
 using model::Mensaje;
 using model::Siro;

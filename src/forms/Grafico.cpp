@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "results/Grafico.h"
+#include "forms/Grafico.h"
 
 #include <algorithm>
-#include <cmath>
+#include <string_view>
 
 #include "model/Numeros.h"
 #include "model/Texto.h"
 
-namespace results {
+namespace forms {
 
 namespace {
 
@@ -30,18 +30,6 @@ std::string EntreComillas(std::string_view texto)
 }
 
 }  // namespace
-
-std::string_view TituloEjeX(bool minutos)
-{
-    return minutos ? "minutos" : "horas";
-}
-
-std::string Categoria(std::int16_t i, std::int16_t paso, bool minutos)
-{
-    const std::int16_t t = model::Producto16(i, paso);
-    if (minutos) return model::NumeroATexto(std::int32_t{t});
-    return model::NumeroATexto(std::floor(t / 60.0 * 100) / 100);
-}
 
 void MasDivisiones(EscalaCategorias& escala)
 {
@@ -69,4 +57,4 @@ std::string CeldasComoCsv(const Grafico& grafico)
     return csv;
 }
 
-}  // namespace results
+}  // namespace forms

@@ -3,12 +3,11 @@
 
 #include <cstdint>
 #include <string>
-#include <string_view>
 #include <vector>
 
 // A chart as a table of cells: the first column holds the category of each row as text, each further column
 // is a series. Whoever paints it decides nothing.
-namespace results {
+namespace forms {
 
 enum class TipoGrafico : std::uint8_t { Combinacion, Linea };  ///< lines and steps together; lines alone
 enum class TipoSerie : std::uint8_t { Linea2D, Escalon2D };
@@ -43,16 +42,6 @@ struct Grafico {
     bool operator==(const Grafico&) const = default;
 };
 
-inline constexpr std::string_view EjePrecipitacion = "Precipitación [mm]";
-inline constexpr std::string_view EjeCaudal = "Caudal [m3/s]";
-
-/// Title of the time axis.
-std::string_view TituloEjeX(bool minutos);
-
-/// Category of row i, the time at its end: i·paso in whole minutes, or in hours with two decimals, cut and
-/// not rounded. Throws Falla 6 above 32767 min.
-std::string Categoria(std::int16_t i, std::int16_t paso, bool minutos);
-
 /// Doubles the divisions per label of a scale, or halves them, and ticks half as often as it labels.
 void MasDivisiones(EscalaCategorias& escala);
 void MenosDivisiones(EscalaCategorias& escala);
@@ -61,4 +50,4 @@ void MenosDivisiones(EscalaCategorias& escala);
 /// lines ended by CR LF. Cells have the seven digits of the arrays that they come from.
 std::string CeldasComoCsv(const Grafico& grafico);
 
-}  // namespace results
+}  // namespace forms
