@@ -34,6 +34,8 @@ struct Anfitrion {
     std::function<void(const Mensaje&)> Avisa = [](const Mensaje&) {};
     /// Asks with Yes and No. Returns true for Yes.
     std::function<bool(const Mensaje&)> Pregunta = [](const Mensaje&) { return true; };
+    /// Asks with OK and Cancel. Returns true for OK.
+    std::function<bool(const Mensaje&)> Confirma = [](const Mensaje&) { return true; };
     /// Asks for a text. Returns the empty text where the user cancels.
     std::function<std::string(const Peticion&)> PideTexto = [](const Peticion&) { return std::string{}; };
     /// Offers the files that a filter lets through, "Description |*pattern". Returns the path of the one

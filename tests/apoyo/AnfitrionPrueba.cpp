@@ -24,7 +24,8 @@ namespace apoyo {
 
 void PrintTo(const Suceso& suceso, std::ostream* salida)
 {
-    constexpr std::array<const char*, 5> Clases = {"Aviso", "Pregunta", "Peticion", "Archivo", "Fin"};
+    constexpr std::array<const char*, 6> Clases = {"Aviso",    "Pregunta", "Confirmacion",
+                                                   "Peticion", "Archivo",  "Fin"};
     *salida << Clases[static_cast<std::size_t>(suceso.clase)] << ' ';
     PrintTo(suceso.mensaje, salida);
     if (suceso.clase != Suceso::Clase::Aviso) *salida << " -> " << suceso.respuesta;
@@ -64,6 +65,11 @@ void ConectaPreguntas(model::Anfitrion& a, const std::shared_ptr<Estado>& e)
         const bool si = Saca(e->respuestas, e->respuestaDeSiempre);
         e->sucesos.push_back({Suceso::Clase::Pregunta, m, si ? "Sí" : "No"});
         return si;
+    };
+    a.Confirma = [e](const model::Mensaje& m) {
+        const bool acepta = Saca(e->respuestas, e->respuestaDeSiempre);
+        e->sucesos.push_back({Suceso::Clase::Confirmacion, m, acepta ? "Aceptar" : "Cancelar"});
+        return acepta;
     };
     a.PideTexto = [e](const model::Peticion& p) {
         std::string texto = Saca(e->textos, e->aceptaDefecto ? p.defecto : std::string{});

@@ -21,7 +21,7 @@ namespace apoyo {
 
 /// Something that the user saw or was asked.
 struct Suceso {
-    enum class Clase { Aviso, Pregunta, Peticion, Archivo, Fin };
+    enum class Clase { Aviso, Pregunta, Confirmacion, Peticion, Archivo, Fin };
     Clase clase = Clase::Aviso;
     model::Mensaje mensaje{};  ///< of a request its text and title; of a choice of file its filter and title
     std::string respuesta{};   ///< "Sí" or "No", the text typed, the file chosen
@@ -71,6 +71,11 @@ class AnfitrionPrueba {
         [[nodiscard]] std::vector<model::Mensaje> Preguntas() const
         {
             return Mensajes(Suceso::Clase::Pregunta);
+        }
+        /// Questions with OK and Cancel; they take their answers from `respuestas` as the others do.
+        [[nodiscard]] std::vector<model::Mensaje> Confirmaciones() const
+        {
+            return Mensajes(Suceso::Clase::Confirmacion);
         }
         [[nodiscard]] std::vector<model::Mensaje> Mensajes(Suceso::Clase clase) const;
         [[nodiscard]] bool Termino() const;  ///< the program was ended

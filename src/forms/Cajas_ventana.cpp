@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "forms/Cajas_ventana.h"
+
+#include <QApplication>
+#include <QDateTime>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "forms/Textos_ventana.h"
+
+namespace forms {
+namespace {
+
+using model::Icono;
+using model::Mensaje;
+using model::Peticion;
+
+QString Titulo(std::string_view titulo)
+{
+    return titulo.empty() ? QString::fromLatin1(NombrePrograma) : Q(titulo);
+}
+
+QMessageBox::Icon Dibujo(Icono icono)
+{
+    switch (icono) {
+    case Icono::Exclamacion:
+        return QMessageBox::Warning;
+    case Icono::Pregunta:
+        return QMessageBox::Question;
+    case Icono::Ninguno:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+/// Shows a box. Returns whether its first button was chosen; with one button closing the frame chooses it,
+/// with two the second.
+bool Caja(Entorno& entorno, const Mensaje& mensaje, const QString& primero, const QString& segundo = {})
+{
+    QMessageBox caja(Dibujo(mensaje.icono), Titulo(mensaje.titulo), Q(mensaje.texto), QMessageBox::NoButton,
+                     QApplication::activeWindow());
+    caja.setObjectName(QStringLiteral("Mensaje"));
+    caja.setTextFormat(Qt::PlainText);
+    QPushButton* const acepta = caja.addButton(primero, QMessageBox::AcceptRole);
+    caja.setDefaultButton(acepta);
+    if (segundo.isEmpty())
+        caja.setEscapeButton(acepta);
+    else
+        caja.setEscapeButton(caja.addButton(segundo, QMessageBox::RejectRole));
+    for (QAbstractButton* boton : caja.buttons())
+        boton->setIcon({});
+    entorno.Ejecuta(caja);
+    return caja.clickedButton() == acepta;
+}
+
+std::string Pide(Entorno& entorno, const Peticion& peticion)
+{
+    QInputDialog caja(QApplication::activeWindow());
+    caja.setObjectName(QStringLiteral("Peticion"));
+    caja.setWindowTitle(Titulo(peticion.titulo));
+    caja.setLabelText(Q(peticion.texto));
+    caja.setTextValue(Q(peticion.defecto));
+    caja.setOkButtonText(QStringLiteral("&Aceptar"));
+    caja.setCancelButtonText(QStringLiteral("&Cancelar"));
+    for (QPushButton* boton : caja.findChildren<QPushButton*>())
+        boton->setIcon({});
+    return entorno.Ejecuta(caja) == QDialog::Accepted ? DeQ(caja.textValue()) : std::string{};
+}
+
+/// `filtro` is "Description |*pattern"; its description names the pattern itself.
+std::string Elige(Entorno& entorno, std::string_view titulo, std::string_view filtro)
+{
+    const std::size_t barra = filtro.find('|');
+    QFileDialog caja(QApplication::activeWindow(), Titulo(titulo), Q(entorno.s.DirProyecto));
+    caja.setObjectName(QStringLiteral("EligeArchivo"));
+    caja.setFileMode(QFileDialog::ExistingFile);
+    caja.setOption(QFileDialog::DontUseNativeDialog, true);
+    if (barra != std::string_view::npos)
+        caja.setNameFilter(Q(filtro.substr(0, filtro.find('('))).trimmed() +
+                           QStringLiteral(" (%1)").arg(Q(filtro.substr(barra + 1)).trimmed()));
+    if (entorno.Ejecuta(caja) != QDialog::Accepted || caja.selectedFiles().isEmpty()) return {};
+    return DeQ(QDir::toNativeSeparators(caja.selectedFiles().constFirst()));
+}
+
+}  // namespace
+
+void PonCajas(model::Anfitrion& anfitrion, Entorno& entorno)
+{
+    static constexpr char Si[] = "&Sí";
+    anfitrion.Avisa = [&entorno](const Mensaje& m) { Caja(entorno, m, QStringLiteral("&Aceptar")); };
+    anfitrion.Pregunta = [&entorno](const Mensaje& m) {
+        return Caja(entorno, m, QString::fromUtf8(Si), QStringLiteral("&No"));
+    };
+    anfitrion.Confirma = [&entorno](const Mensaje& m) {
+        return Caja(entorno, m, QStringLiteral("&Aceptar"), QStringLiteral("&Cancelar"));
+    };
+    anfitrion.PideTexto = [&entorno](const Peticion& p) { return Pide(entorno, p); };
+    anfitrion.EligeArchivo = [&entorno](std::string_view titulo, std::string_view filtro) {
+        return Elige(entorno, titulo, filtro);
+    };
+    anfitrion.Termina = [] { throw model::FinDelPrograma{}; };
+    anfitrion.FechaHora = [] {
+        return DeQ(QDateTime::currentDateTime().toString(QStringLiteral("dd/MM/yyyy HH:mm:ss")));
+    };
+    anfitrion.Reloj = [] {
+        QElapsedTimer reloj;
+        reloj.start();
+        constexpr double MilisegundosPorSegundo = 1000;
+        return static_cast<double>(reloj.msecsSinceReference()) / MilisegundosPorSegundo;
+    };
+}
+
+}  // namespace forms

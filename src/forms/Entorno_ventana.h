@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QPointer>
+#include <QSettings>
+#include <functional>
+#include <memory>
+#include <utility>
+#include <vector>
+
+#include "model/Falla.h"
+#include "model/Siro.h"
+
+class QDialog;
+class QPrinter;
+class QWidget;
+
+namespace forms {
+
+/// What every window is handed: the run-wide state, the edge at which an event ends, and what the program as
+/// a whole does for its windows. Lives as long as the windows do.
+class Entorno : public QObject {
+  public:
+    explicit Entorno(model::Siro& estado);
+
+    model::Siro& s;
+
+    /// Runs the handler of an event. Where it ends the program, the event loops are left, those of boxes and
+    /// dialogs included, and no further event is handled. A fault that got this far is told.
+    template <typename Cuerpo>
+    void Atiende(Cuerpo&& cuerpo)
+    {
+        if (terminando) return;
+        try {
+            try {
+                std::forward<Cuerpo>(cuerpo)();
+            } catch (const model::Falla& falla) {
+                Informa(falla);
+            }
+        } catch (const model::FinDelPrograma& fin) {
+            Termina(fin.estado);
+        }
+    }
+
+    /// Shows a dialog until it is closed and returns its result. Throws FinDelPrograma where the program was
+    /// ended meanwhile, so that nothing after it runs.
+    int Ejecuta(QDialog& dialogo);
+
+    /// Leaves every event loop with this status.
+    void Termina(int estado);
+    [[nodiscard]] bool Terminando() const { return terminando; }
+    [[nodiscard]] int Estado() const { return estado; }
+
+    /// Opens a window beside the others and brings it to the front. Asked for from a modal form, it opens as
+    /// that form's own child. Until the main window is there it opens on the desktop.
+    std::function<void(QWidget& ventana)> Presenta;
+
+    /// The default printer, nothing where none is installed.
+    std::function<std::unique_ptr<QPrinter>()> Impresora;
+
+    /// Runs a routine whenever the window becomes active coming from another window of this program that
+    /// isn't its own box or child. Coming from another program is no activation.
+    void AlActivarse(QWidget& ventana, std::function<void()> rutina);
+
+    /// What is remembered from one session to the next.
+    QSettings& Ajustes() { return ajustes; }
+
+  private:
+    void Informa(const model::Falla& falla);
+    void CambioDeVentana(QWidget* activa);
+
+    struct Vigilada {
+        QPointer<QWidget> ventana;
+        std::function<void()> rutina;
+    };
+    std::vector<Vigilada> vigiladas;
+    std::vector<QPointer<QWidget>> ultima;  ///< the window active last and those that it belongs to
+    QSettings ajustes;
+    bool terminando = false;
+    int estado = 0;
+};
+
+}  // namespace forms

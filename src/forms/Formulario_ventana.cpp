@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "forms/Formulario_ventana.h"
+
+#include <QCloseEvent>
+#include <QMdiSubWindow>
+
+#include "forms/Textos_ventana.h"
+
+namespace forms {
+namespace {
+
+QString Clave(const QWidget& ventana)
+{
+    return QStringLiteral("ventanas/") + ventana.objectName();
+}
+
+/// What has the frame: the window itself, or the one that holds it in the main window.
+const QWidget& Marco(const QWidget& ventana)
+{
+    const auto* const hija = qobject_cast<const QMdiSubWindow*>(ventana.parentWidget());
+    return hija == nullptr ? ventana : *hija;
+}
+
+}  // namespace
+
+void RecuperaLugar(QWidget& ventana, QSettings& ajustes)
+{
+    const QByteArray lugar = ajustes.value(Clave(ventana)).toByteArray();
+    if (lugar.isEmpty()) return;
+    if (auto* const hija = qobject_cast<QMdiSubWindow*>(ventana.parentWidget()))
+        hija->restoreGeometry(lugar);
+    else
+        ventana.restoreGeometry(lugar);
+}
+
+void GuardaLugar(const QWidget& ventana, QSettings& ajustes)
+{
+    ajustes.setValue(Clave(ventana), Marco(ventana).saveGeometry());
+}
+
+Formulario::Formulario(Entorno& alrededor, std::string_view nombre, QWidget* padre)
+    : QDialog(padre), Sucesos(alrededor)
+{
+    setObjectName(Q(nombre));
+}
+
+void Formulario::reject()
+{
+    if (entorno.Terminando()) return QDialog::reject();
+    campos.Olvida();
+    entorno.Atiende([this] { AlCerrar(); });
+}
+
+void Formulario::showEvent(QShowEvent* evento)
+{
+    if (!evento->spontaneous()) RecuperaLugar(*this, entorno.Ajustes());
+    QDialog::showEvent(evento);
+}
+
+void Formulario::hideEvent(QHideEvent* evento)
+{
+    if (!evento->spontaneous()) GuardaLugar(*this, entorno.Ajustes());
+    QDialog::hideEvent(evento);
+}
+
+Ventana::Ventana(Entorno& alrededor, std::string_view nombre, QWidget* padre)
+    : QWidget(padre), Sucesos(alrededor)
+{
+    setObjectName(Q(nombre));
+}
+
+void Ventana::closeEvent(QCloseEvent* evento)
+{
+    if (!entorno.Terminando()) entorno.Atiende([this] { AlCerrar(); });
+    evento->accept();
+}
+
+void Ventana::showEvent(QShowEvent* evento)
+{
+    if (!evento->spontaneous()) RecuperaLugar(*this, entorno.Ajustes());
+    QWidget::showEvent(evento);
+}
+
+void Ventana::hideEvent(QHideEvent* evento)
+{
+    if (!evento->spontaneous()) GuardaLugar(*this, entorno.Ajustes());
+    QWidget::hideEvent(evento);
+}
+
+}  // namespace forms

@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QAbstractButton>
+#include <QDialog>
+#include <QWidget>
+#include <functional>
+#include <string_view>
+#include <utility>
+
+#include "forms/Campos_ventana.h"
+#include "forms/Entorno_ventana.h"
+
+namespace forms {
+
+/// What all windows have in common: each event of the user is handed to the form's rules, then the window
+/// shows the record anew.
+class Sucesos {
+  public:
+    Sucesos(const Sucesos&) = delete;
+    Sucesos& operator=(const Sucesos&) = delete;
+
+    /// Shows what the record holds. Sets only what differs, and calls no handler.
+    virtual void Muestra() = 0;
+
+  protected:
+    explicit Sucesos(Entorno& alrededor) : entorno(alrededor), campos(alrededor)
+    {
+        campos.AlRevisar = [this] { Muestra(); };
+    }
+    virtual ~Sucesos() = default;
+
+    /// Handles an event. A field that is being left is checked first, and where it refuses its text nothing
+    /// else happens.
+    template <typename Cuerpo>
+    void Suceso(Cuerpo&& cuerpo)
+    {
+        if (!campos.Compromete()) {
+            if (!entorno.Terminando()) Muestra();
+            return;
+        }
+        SucesoSinRevisar(std::forward<Cuerpo>(cuerpo));
+    }
+
+    /// The same without looking at the fields: for leaving the window without an effect.
+    template <typename Cuerpo>
+    void SucesoSinRevisar(Cuerpo&& cuerpo)
+    {
+        campos.Olvida();
+        entorno.Atiende(std::forward<Cuerpo>(cuerpo));
+        if (!entorno.Terminando()) Muestra();
+    }
+
+    /// `rutina` runs at each click of the button.
+    template <typename Rutina>
+    void AlPulsar(QAbstractButton& boton, Rutina rutina)
+    {
+        QObject::connect(&boton, &QAbstractButton::clicked, &boton, [this, rutina] { Suceso(rutina); });
+    }
+
+    Entorno& entorno;
+    Campos campos;
+};
+
+/// A dialog: modal while `Entorno::Ejecuta` shows it. Where the window was and how large, it is again at its
+/// next opening. Esc and the frame do what `AlCerrar` says, by default close it.
+class Formulario : public QDialog, protected Sucesos {
+  public:
+    /// `nombre`: object name, by which tests find the window and its place is remembered.
+    Formulario(Entorno& alrededor, std::string_view nombre, QWidget* padre = nullptr);
+    using Sucesos::Muestra;
+
+    void reject() override;
+
+  protected:
+    virtual void AlCerrar() { done(QDialog::Rejected); }
+    void showEvent(QShowEvent* evento) override;
+    void hideEvent(QHideEvent* evento) override;
+};
+
+/// A window that stands beside the others.
+class Ventana : public QWidget, protected Sucesos {
+  public:
+    Ventana(Entorno& alrededor, std::string_view nombre, QWidget* padre = nullptr);
+    using Sucesos::Muestra;
+
+  protected:
+    /// The frame's button, or the program closes the window.
+    virtual void AlCerrar() {}
+    void closeEvent(QCloseEvent* evento) override;
+    void showEvent(QShowEvent* evento) override;
+    void hideEvent(QHideEvent* evento) override;
+};
+
+/// Puts a window where it was when it was last closed, inside the screens that there are now; the first time
+/// it keeps the size that it has. `Guarda` remembers it.
+void RecuperaLugar(QWidget& ventana, QSettings& ajustes);
+void GuardaLugar(const QWidget& ventana, QSettings& ajustes);
+
+}  // namespace forms

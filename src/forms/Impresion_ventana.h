@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <functional>
+
+#include "forms/Entorno_ventana.h"
+
+class QPainter;
+class QRectF;
+class QWidget;
+
+namespace forms {
+
+/// Paints a page into the rectangle that it is given.
+using Pintor = std::function<void(QPainter& pintor, const QRectF& hoja)>;
+
+/// Prints a page, lying where `apaisada` says so, on the default printer with no dialog. Where none is
+/// installed, or it refuses, the user reads why.
+void Imprime(Entorno& entorno, const Pintor& pinta, bool apaisada);
+
+/// Prints the image of a window as it stands, as large as the page takes it.
+void ImprimeVentana(Entorno& entorno, QWidget& ventana);
+
+}  // namespace forms

@@ -1,0 +1,184 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "apoyo/Ventanas.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAccessible>
+#include <QComboBox>
+#include <QDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QSettings>
+#include <QStyleFactory>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+namespace apoyo {
+namespace {
+
+constexpr int Paciencia = 5000;     // [ms]
+constexpr int CadaCuantoMira = 10;  // [ms]
+
+std::string Texto(const QString& texto)
+{
+    return texto.toUtf8().toStdString();
+}
+
+/// What the invisible screen says of itself and means nothing.
+constexpr auto Inofensivos = std::to_array<std::string_view>({
+    "This plugin does not support",
+});
+
+void AlAvisarQt(QtMsgType clase, const QMessageLogContext& /*lugar*/, const QString& mensaje)
+{
+    const std::string texto = Texto(mensaje);
+    for (const std::string_view inofensivo : Inofensivos)
+        if (texto.starts_with(inofensivo)) return;
+    if (clase == QtDebugMsg || clase == QtInfoMsg) return;
+    ADD_FAILURE() << "Qt: " << texto;
+}
+
+}  // namespace
+
+bool Espera(const std::function<bool()>& vale)
+{
+    return QTest::qWaitFor(vale, Paciencia);
+}
+
+void Muestra(QWidget& ventana)
+{
+    ventana.show();
+    ventana.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&ventana, Paciencia)) << Texto(ventana.objectName());
+}
+
+void Teclea(QWidget& control, const char* texto)
+{
+    // keyClicks knows ASCII alone.
+    for (const QChar c : QString::fromUtf8(texto))
+        QTest::sendKeyEvent(QTest::Click, &control, static_cast<Qt::Key>(c.toUpper().unicode()), QString(c),
+                            Qt::NoModifier);
+}
+
+void Escribe(QWidget& campo, const char* texto)
+{
+    campo.setFocus(Qt::TabFocusReason);
+    if (auto* const lista = qobject_cast<QComboBox*>(&campo);
+        lista != nullptr && lista->lineEdit() != nullptr)
+        lista->lineEdit()->selectAll();
+    else
+        QTest::keyClick(&campo, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&campo, Qt::Key_Delete);
+    Teclea(campo, texto);
+}
+
+void Pulsa(QWidget& control)
+{
+    QTest::mouseClick(&control, Qt::LeftButton, {}, control.rect().center());
+}
+
+Usuario::Usuario()
+{
+    auto mirada = std::make_unique<QTimer>();
+    QObject::connect(mirada.get(), &QTimer::timeout, mirada.get(), [this] { Mira(); });
+    mirada->start(CadaCuantoMira);
+    reloj = std::move(mirada);
+}
+
+Usuario::~Usuario()
+{
+    EXPECT_TRUE(acciones.empty()) << acciones.size() << " answers that nobody asked for";
+}
+
+Usuario& Usuario::Elige(const char* boton)
+{
+    const QString texto = QString::fromUtf8(boton);
+    return Hace([texto](QWidget& caja) {
+        for (QAbstractButton* b : caja.findChildren<QAbstractButton*>()) {
+            if (!b->isVisible() || b->text().remove(QLatin1Char('&')) != texto) continue;
+            b->click();
+            return;
+        }
+        ADD_FAILURE() << "no button " << Texto(texto) << " in " << Texto(caja.windowTitle());
+        caja.close();
+    });
+}
+
+Usuario& Usuario::Hace(Accion accion)
+{
+    acciones.push_back(std::move(accion));
+    return *this;
+}
+
+void Usuario::Mira()
+{
+    QWidget* const caja = QApplication::activeModalWidget();
+    if (caja == nullptr) atendida = nullptr;
+    if (caja == nullptr || caja == atendida || !caja->isVisible()) return;
+    atendida = caja;
+    if (const auto* const mensaje = qobject_cast<QMessageBox*>(caja))
+        cajas.push_back(Texto(mensaje->windowTitle() + QLatin1Char('|') + mensaje->text()));
+    if (acciones.empty()) {
+        ADD_FAILURE() << "an unexpected window: " << Texto(caja->windowTitle())
+                      << (cajas.empty() ? std::string() : ", " + cajas.back());
+        if (auto* const dialogo = qobject_cast<QDialog*>(caja)) dialogo->done(QDialog::Rejected);
+        return;
+    }
+    const Accion accion = std::move(acciones.front());
+    acciones.pop_front();
+    accion(*caja);
+    // The next box may be the same object at the same place: this one has been dealt with.
+    if (QApplication::activeModalWidget() != caja) atendida = nullptr;
+}
+
+std::vector<std::string> SinNombre(QWidget& ventana)
+{
+    std::vector<std::string> faltas;
+    for (const QWidget* w : ventana.findChildren<QWidget*>()) {
+        const bool campo = qobject_cast<const QLineEdit*>(w) != nullptr ||
+                           qobject_cast<const QComboBox*>(w) != nullptr ||
+                           qobject_cast<const QPlainTextEdit*>(w) != nullptr;
+        const bool otro = qobject_cast<const QAbstractButton*>(w) != nullptr ||
+                          qobject_cast<const QAbstractItemView*>(w) != nullptr;
+        if (!campo && !otro) continue;
+        // Parts of a composed control answer for themselves.
+        const QWidget* const padre = w->parentWidget();
+        if (padre != nullptr &&
+            (padre->inherits("QComboBox") || padre->inherits("QAbstractItemView") ||
+             padre->inherits("QAbstractSpinBox") || padre->inherits("QComboBoxPrivateContainer") ||
+             padre->inherits("QLineEdit") || padre->inherits("QToolBar") ||
+             padre->inherits("QMdiSubWindow") || padre->inherits("QTabBar")))
+            continue;
+        if (w->objectName().isEmpty() || w->objectName().startsWith(QLatin1String("qt_"))) {
+            faltas.push_back(std::string(w->metaObject()->className()) + " without a name");
+            continue;
+        }
+        QAccessibleInterface* const lector = QAccessible::queryAccessibleInterface(const_cast<QWidget*>(w));
+        if (campo && lector != nullptr && lector->text(QAccessible::Name).isEmpty())
+            faltas.push_back(Texto(w->objectName()) + " without a caption");
+    }
+    return faltas;
+}
+
+}  // namespace apoyo
+
+int main(int argc, char** argv)
+{
+    // Set here, so that a test program behaves the same from a shell, a debugger and ctest.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("LC_ALL", "C.UTF-8");
+    testing::InitGoogleTest(&argc, argv);
+    // What ctest asks for the list of the cases needs no screen.
+    if (testing::GTEST_FLAG(list_tests)) return RUN_ALL_TESTS();
+    const QTemporaryDir ajustes;
+    qputenv("XDG_RUNTIME_DIR", ajustes.path().toUtf8());
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, ajustes.path());
+    QApplication programa(argc, argv);
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    qInstallMessageHandler(apoyo::AlAvisarQt);
+    return RUN_ALL_TESTS();
+}
