@@ -1,0 +1,220 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "forms/Grilla.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <utility>
+
+#include "forms/CampoNumerico.h"
+#include "forms/ReglasDeCelda.h"
+#include "model/Avisos.h"
+#include "model/Falla.h"
+#include "model/Numeros.h"
+#include "model/Texto.h"
+
+namespace forms {
+
+using model::Siro;
+
+namespace {
+
+void Cambia(Grilla& g, std::string texto)
+{
+    g.Pon(g.actual, std::move(texto));
+    g.editada = true;
+}
+
+}  // namespace
+
+// --- cells ---
+
+const std::string& Grilla::Texto(Celda c) const
+{
+    const bool enEncabezado = c.fila == 0 && c.columna >= 0 && c.columna < NroColumnas();
+    if (enEncabezado) return columnas[static_cast<std::size_t>(c.columna)].titulo;
+    if (!Esta(c)) throw model::Falla{model::NumeroFalla::Subindice};
+    return filas[static_cast<std::size_t>(c.fila) - 1].celdas[static_cast<std::size_t>(c.columna)];
+}
+
+double Grilla::Numero(Celda c) const
+{
+    return model::Val(Texto(c));
+}
+
+bool Grilla::EsNumero(Celda c) const
+{
+    return NumeroDeCampo(Texto(c)).has_value();
+}
+
+void Grilla::Pon(Celda c, std::string texto)
+{
+    if (!Esta(c)) throw model::Falla{model::NumeroFalla::Subindice};
+    filas[static_cast<std::size_t>(c.fila) - 1].celdas[static_cast<std::size_t>(c.columna)] =
+        std::move(texto);
+}
+
+std::vector<ColumnaGrilla> ColumnasDeEncabezado(std::string_view encabezado)
+{
+    std::vector<ColumnaGrilla> columnas;
+    for (std::string_view titulo : Pedazos(encabezado, '|')) {
+        ColumnaGrilla columna;
+        if (titulo.starts_with('^')) columna.alineacion = Alineacion::Centro;
+        if (titulo.starts_with('>')) columna.alineacion = Alineacion::Derecha;
+        if (columna.alineacion != Alineacion::Izquierda) titulo.remove_prefix(1);
+        columna.titulo = titulo;
+        columnas.push_back(std::move(columna));
+    }
+    return columnas;
+}
+
+Grilla NuevaGrilla(const ReglasGrilla& reglas)
+{
+    Grilla g;
+    g.reglas = &reglas;
+    g.columnas = ColumnasDeEncabezado(reglas.encabezado);
+    for (const int columna : reglas.editables)
+        PonEditable(g, columna, true);
+    const int primera = reglas.editables.empty() ? reglas.columnasFijas : reglas.editables.front();
+    g.actual = g.ancla = {1, primera};
+    return g;
+}
+
+void PonNroFilas(Grilla& g, int n)
+{
+    const FilaGrilla vacia{std::vector<std::string>(g.columnas.size()), false};
+    g.filas.resize(static_cast<std::size_t>(std::max(n, 0)), vacia);
+    const int ultima = std::max(1, g.NroFilas());
+    if (g.actual.fila > ultima) g.agrega = g.editada = false;
+    g.actual.fila = std::min(g.actual.fila, ultima);
+    g.ancla.fila = std::min(g.ancla.fila, ultima);
+}
+
+void PonEditable(Grilla& g, int columna, bool editable)
+{
+    if (columna >= 0 && columna < g.NroColumnas())
+        g.columnas[static_cast<std::size_t>(columna)].editable = editable;
+}
+
+void VaciaDatos(Grilla& g)
+{
+    for (int fila = 1; fila <= g.NroFilas(); ++fila)
+        for (int columna = 0; columna < g.NroColumnas(); ++columna)
+            if (SePuedeEditar(g, {fila, columna})) g.Pon({fila, columna}, {});
+    g.agrega = g.editada = false;
+}
+
+// --- cursor and selection ---
+
+Efecto Deja(Grilla& g)
+{
+    Efecto efecto;
+    if (g.editada && g.Esta(g.actual)) efecto.asentadas.push_back(g.actual);
+    g.agrega = g.editada = false;
+    return efecto;
+}
+
+Efecto Mueve(Grilla& g, Celda c, bool extiende)
+{
+    if (!g.Esta(c) || c.columna < g.reglas->columnasFijas) return {};
+    Efecto efecto;
+    if (c != g.actual) efecto = Deja(g);
+    g.actual = c;
+    if (!extiende) g.ancla = c;
+    return efecto;
+}
+
+void SeleccionaTodo(Grilla& g)
+{
+    if (g.filas.empty()) return;
+    g.ancla = {g.NroFilas(), g.NroColumnas() - 1};
+    Mueve(g, {1, g.reglas->columnasFijas}, true);
+}
+
+Bloque Seleccion(const Grilla& g)
+{
+    const auto [filaA, filaB] = std::minmax(g.ancla.fila, g.actual.fila);
+    const auto [columnaA, columnaB] = std::minmax(g.ancla.columna, g.actual.columna);
+    return {{filaA, columnaA}, {filaB, columnaB}};
+}
+
+// --- keys ---
+
+namespace {
+
+Efecto TecleaEnter(Grilla& g)
+{
+    if (!SePuedeEditar(g, g.actual)) return {};
+    Efecto efecto = Deja(g);  // a grid of one row is left and come to again
+    const int siguiente = g.actual.fila < g.NroFilas() ? g.actual.fila + 1 : 1;
+    Mueve(g, {siguiente, g.actual.columna});
+    if (g.reglas->enterPoneCero && !g.EsNumero(g.actual)) Cambia(g, "0");
+    return efecto;
+}
+
+Efecto TecleaSuprimir(Grilla& g)
+{
+    if (SePuedeEditar(g, g.actual)) Cambia(g, {});
+    return {};
+}
+
+/// The next cell in order of reading, or the one before; the cursor's own one at an end of the grid.
+Celda PorTab(const Grilla& g, int paso)
+{
+    const int primera = g.reglas->columnasFijas;
+    const int ultima = g.NroColumnas() - 1;
+    Celda c = {g.actual.fila, g.actual.columna + paso};
+    if (c.columna > ultima) c = {c.fila + 1, primera};
+    if (c.columna < primera) c = {c.fila - 1, ultima};
+    return g.Esta(c) ? c : g.actual;
+}
+
+Efecto TecleaTab(Grilla& g, int paso)
+{
+    const Celda c = PorTab(g, paso);
+    const bool enElBorde = c == g.actual;
+    Efecto efecto = enElBorde ? Deja(g) : Mueve(g, c);
+    efecto.sale = enElBorde;
+    return efecto;
+}
+
+}  // namespace
+
+Efecto Teclea(Grilla& g, Tecla tecla, bool extiende)
+{
+    const auto [fila, columna] = g.actual;
+    switch (tecla) {
+    case Tecla::Enter:
+        return TecleaEnter(g);
+    case Tecla::Suprimir:
+        return TecleaSuprimir(g);
+    case Tecla::Arriba:
+        return Mueve(g, {fila - 1, columna}, extiende);
+    case Tecla::Abajo:
+        return Mueve(g, {fila + 1, columna}, extiende);
+    case Tecla::Izquierda:
+        return Mueve(g, {fila, columna - 1}, extiende);
+    case Tecla::Derecha:
+        return Mueve(g, {fila, columna + 1}, extiende);
+    case Tecla::Tab:
+        return TecleaTab(g, 1);
+    case Tecla::TabAtras:
+        return TecleaTab(g, -1);
+    }
+    return {};
+}
+
+void Escribe(Grilla& g, const Siro& s, std::string_view caracter)
+{
+    if (caracter.empty() || !SePuedeEditar(g, g.actual) || !TomaTodos(*g.reglas, caracter)) return;
+    std::string texto = g.agrega ? g.Texto(g.actual) : std::string{};
+    texto += model::ComasAPuntos(caracter);
+    g.agrega = true;
+    if (g.reglas->sinNumero == SinNumero::SeVacia && !NumeroDeCampo(texto)) texto.clear();
+    if (const LimiteColumna* limite = LimiteRoto(*g.reglas, g.actual.columna, texto)) {
+        model::Advierte(s, std::string(limite->mensaje));
+        texto = "0";
+    }
+    Cambia(g, std::move(texto));
+}
+
+}  // namespace forms

@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "model/Siro.h"
+
+// A grid of cells as every form of the program has it: cells hold text, keys build it, and a block goes to a
+// spreadsheet and comes back. What tells one grid from another is a description.
+namespace forms {
+
+/// A cell. Rows count from 1, row 0 being the heading; columns from 0.
+struct Celda {
+    int fila = 0;
+    int columna = 0;
+    bool operator==(const Celda&) const = default;
+};
+
+enum class Alineacion : std::uint8_t { Izquierda, Centro, Derecha };
+
+struct ColumnaGrilla {
+    std::string titulo{};  ///< with its blanks, which give the column its width
+    Alineacion alineacion = Alineacion::Izquierda;
+    bool editable = false;  ///< white where it can be edited, grey otherwise
+    bool operator==(const ColumnaGrilla&) const = default;
+};
+
+/// Numbers that a column takes at each key: from 0 to a limit, itself included.
+struct LimiteColumna {
+    int columna;
+    double maximo;
+    std::string_view mensaje;  ///< title "Advertencia !"; the cell is then set to "0"
+};
+
+/// What a key leaves in a cell whose text is no number.
+enum class SinNumero : std::uint8_t { SeVacia, Queda };
+
+/// What tells one grid from another.
+struct ReglasGrilla {
+    std::string_view
+        encabezado{};  ///< columns apart by "|"; "^" ahead of a title centres it, ">" puts it right
+    std::span<const int> editables{};  ///< columns that can be edited when the grid is made
+    int columnasFijas = 0;             ///< columns on the left that the cursor doesn't enter
+    SinNumero sinNumero = SinNumero::SeVacia;
+    bool enterPoneCero = true;  ///< the cell that Enter comes to becomes "0" where its text is no number
+    /// Whether a byte of a character's UTF-8 is taken as a key; nothing: all are.
+    bool (*tomaCaracter)(char) = nullptr;
+    std::span<const LimiteColumna> limites{};
+};
+
+struct FilaGrilla {
+    std::vector<std::string> celdas{};
+    bool esTitulo = false;  ///< a grey row that gives the columns below it other titles
+    bool operator==(const FilaGrilla&) const = default;
+};
+
+/// State of a grid. A plain value; the description must outlive it.
+struct Grilla {
+    const ReglasGrilla* reglas = nullptr;
+    std::vector<ColumnaGrilla> columnas{};
+    std::vector<FilaGrilla> filas{};  ///< row 1 stands at index 0
+    Celda actual{1, 0};               ///< the cursor; row 1 even where there is no row yet
+    Celda ancla{1, 0};                ///< the selected block reaches from here to the cursor
+    bool agrega = false;   ///< the cell has taken a key since the cursor came to it: the next one is appended
+    bool editada = false;  ///< its text has changed since then
+
+    [[nodiscard]] int NroFilas() const { return static_cast<int>(filas.size()); }
+    [[nodiscard]] int NroColumnas() const { return static_cast<int>(columnas.size()); }
+    [[nodiscard]] bool Esta(Celda c) const
+    {
+        return c.fila >= 1 && c.fila <= NroFilas() && c.columna >= 0 && c.columna < NroColumnas();
+    }
+    /// Text of a cell; the title of its column in row 0. Throws Falla 9 outside the grid.
+    [[nodiscard]] const std::string& Texto(Celda c) const;
+    /// The cell's leading number, 0 where it has none. Throws Falla 9, and 6 beyond 64-bit floats.
+    [[nodiscard]] double Numero(Celda c) const;
+    /// Whether the cell's text is wholly a number within 64-bit floats. Throws Falla 9.
+    [[nodiscard]] bool EsNumero(Celda c) const;
+    void Pon(Celda c, std::string texto);  ///< as it stands, without any check. Throws Falla 9.
+    bool operator==(const Grilla&) const = default;
+};
+
+/// What an event did, for forms that go on from there.
+struct Efecto {
+    /// Cells whose text changed and is now settled: left by the cursor, or pasted into.
+    std::vector<Celda> asentadas{};
+    bool sale = false;  ///< Tab at an end of the grid: the focus goes on to the next control
+};
+
+/// A grid with the columns of its heading and no rows; the cursor stands in the first column that can be
+/// edited.
+Grilla NuevaGrilla(const ReglasGrilla& reglas);
+
+/// Titles and alignments that a heading tells.
+std::vector<ColumnaGrilla> ColumnasDeEncabezado(std::string_view encabezado);
+
+/// Gives the grid n rows. Rows that remain keep their texts, new ones are empty; the cursor is brought
+/// inside.
+void PonNroFilas(Grilla& g, int n);
+
+/// Makes a column one that can be edited, or not.
+void PonEditable(Grilla& g, int columna, bool editable);
+
+/// Empties every cell of the columns that can be edited.
+void VaciaDatos(Grilla& g);
+
+// --- cursor and selection ---
+
+/// A press of the mouse, or the form itself, puts the cursor into a cell; one outside the grid, or in a fixed
+/// column, is let be. With `extiende` the selection is stretched up to the cell.
+Efecto Mueve(Grilla& g, Celda c, bool extiende = false);
+
+/// The focus leaves the grid.
+Efecto Deja(Grilla& g);
+
+/// Selects all cells.
+void SeleccionaTodo(Grilla& g);
+
+struct Bloque {
+    Celda desde{}, hasta{};  ///< both included
+    [[nodiscard]] bool Tiene(Celda c) const
+    {
+        return c.fila >= desde.fila && c.fila <= hasta.fila && c.columna >= desde.columna &&
+               c.columna <= hasta.columna;
+    }
+    bool operator==(const Bloque&) const = default;
+};
+Bloque Seleccion(const Grilla& g);
+
+// --- keys ---
+
+/// Keys other than characters. Enter is that of the keypad too.
+enum class Tecla : std::uint8_t { Enter, Suprimir, Arriba, Abajo, Izquierda, Derecha, Tab, TabAtras };
+
+/// A key. Enter goes to the next row of the column, from the last to row 1; Delete empties the cell. In a
+/// column that can't be edited both are ignored. Arrows stop at the edges; Tab goes on to the next row.
+/// `extiende` (Shift) stretches the selection with the arrows.
+Efecto Teclea(Grilla& g, Tecla tecla, bool extiende = false);
+
+/// A character key, UTF-8. The first one after the cursor has come to a cell replaces its text, the next ones
+/// are appended, a comma as a point. Then the text is checked against the description.
+void Escribe(Grilla& g, const model::Siro& s, std::string_view caracter);
+
+// --- spreadsheet ---
+
+/// The selected block with tabs between cells and a line feed behind each row, with the columns' titles ahead
+/// where asked for. Whatever would break a cell apart is a blank.
+std::string Copia(const Grilla& g, bool conTitulos);
+
+/// Puts a block of cells, tabs and line breaks between them, in the grid with its top left cell in that of
+/// the selection. Each text obeys the rules of the column that it comes to; the first one that doesn't fit is
+/// told with its row and column, and nothing is pasted. Decimal commas become points.
+Efecto Pega(Grilla& g, const model::Siro& s, std::string_view bloque);
+
+}  // namespace forms

@@ -1,0 +1,496 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "forms/Grilla.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "apoyo/AnfitrionPrueba.h"
+#include "apoyo/Compara.h"
+
+namespace forms {
+namespace {
+
+using model::Icono;
+using model::Mensaje;
+
+constexpr auto DosYTres = std::to_array({1, 2});
+constexpr ReglasGrilla DeTabla{
+    .encabezado = "^Indice|>H [m]   |> Q[m3/s]  ", .editables = DosYTres, .columnasFijas = 1};
+
+constexpr auto Limites = std::to_array<LimiteColumna>({{1, 15, "menor de 15"}, {2, 0.5, "entre 0 y 0.5"}});
+constexpr ReglasGrilla DeComponentes{.encabezado = "^Nombre|^Vel.|^x|Orden",
+                                     .editables = DosYTres,
+                                     .sinNumero = SinNumero::Queda,
+                                     .enterPoneCero = false,
+                                     .tomaCaracter = [](char c) { return c >= '*' && c <= 'z' && c != '?'; },
+                                     .limites = Limites};
+
+class UnaGrilla : public testing::Test {
+  protected:
+    explicit UnaGrilla(const ReglasGrilla& reglas = DeTabla, int filas = 3) : g(NuevaGrilla(reglas))
+    {
+        s.Anfitrion = anfitrion.Puerta();
+        PonNroFilas(g, filas);
+    }
+    void Teclas(std::string_view texto)
+    {
+        for (const char c : texto)
+            Escribe(g, s, std::string_view(&c, 1));
+    }
+    [[nodiscard]] std::string T(int fila, int columna) const { return g.Texto({fila, columna}); }
+    [[nodiscard]] std::string UltimoAviso() const { return anfitrion->Avisos().back().texto; }
+
+    apoyo::AnfitrionPrueba anfitrion;
+    model::Siro s;
+    Grilla g;
+};
+
+class GrillaDeComponentes : public UnaGrilla {
+  protected:
+    GrillaDeComponentes() : UnaGrilla(DeComponentes)
+    {
+        for (int fila = 1; fila <= 3; ++fila)
+            g.Pon({fila, 0}, "c-" + std::to_string(fila));
+    }
+};
+
+// --- heading, rows ---
+
+TEST_F(UnaGrilla, ElEncabezadoDaTitulosYAlineaciones)
+{
+    ASSERT_EQ(g.NroColumnas(), 3);
+    EXPECT_EQ(g.columnas[0], (ColumnaGrilla{"Indice", Alineacion::Centro, false}));
+    EXPECT_EQ(g.columnas[1], (ColumnaGrilla{"H [m]   ", Alineacion::Derecha, true}));
+    EXPECT_EQ(g.columnas[2], (ColumnaGrilla{" Q[m3/s]  ", Alineacion::Derecha, true}));
+    EXPECT_EQ(ColumnasDeEncabezado("a|^b")[0].alineacion, Alineacion::Izquierda);
+    EXPECT_EQ(T(0, 1), "H [m]   ");
+}
+
+TEST_F(UnaGrilla, ElCursorEmpiezaEnLaPrimeraColumnaEditable)
+{
+    EXPECT_EQ(g.actual, (Celda{1, 1}));
+}
+
+TEST_F(UnaGrilla, FueraDeLaGrillaEsFalla9)
+{
+    EXPECT_EQ(apoyo::NumeroDeFalla([&] { (void)g.Texto({4, 1}); }), 9);
+    EXPECT_EQ(apoyo::NumeroDeFalla([&] { (void)g.Texto({1, 3}); }), 9);
+    EXPECT_EQ(apoyo::NumeroDeFalla([&] { (void)g.Texto({0, 3}); }), 9);
+    EXPECT_EQ(apoyo::NumeroDeFalla([&] { g.Pon({0, 1}, "x"); }), 9);
+}
+
+TEST_F(UnaGrilla, AlCambiarElNumeroDeFilasLasQueQuedanConservanSuTexto)
+{
+    g.Pon({1, 1}, "a");
+    g.Pon({3, 2}, "b");
+    PonNroFilas(g, 2);
+    EXPECT_EQ(g.NroFilas(), 2);
+    PonNroFilas(g, 4);
+    EXPECT_EQ(T(1, 1), "a");
+    EXPECT_EQ(T(3, 2), "");
+    EXPECT_EQ(T(4, 1), "");
+}
+
+TEST_F(UnaGrilla, SinLaFilaDelCursorEsteVuelveALaUltima)
+{
+    Mueve(g, {3, 2});
+    PonNroFilas(g, 1);
+    EXPECT_EQ(g.actual, (Celda{1, 2}));
+    PonNroFilas(g, 0);
+    EXPECT_EQ(g.actual, (Celda{1, 2}));
+}
+
+TEST_F(UnaGrilla, SinFilasNingunaTeclaHaceNada)
+{
+    PonNroFilas(g, 0);
+    Teclas("1");
+    for (const Tecla t : {Tecla::Enter, Tecla::Suprimir, Tecla::Arriba, Tecla::Abajo, Tecla::Izquierda,
+                          Tecla::Derecha, Tecla::TabAtras})
+        EXPECT_TRUE(Teclea(g, t).asentadas.empty());
+    EXPECT_TRUE(Teclea(g, Tecla::Tab).sale);
+    EXPECT_EQ(g.NroFilas(), 0);
+    EXPECT_EQ(Copia(g, true), "");
+}
+
+TEST_F(UnaGrilla, VaciarDatosDejaLoQueNoSeEdita)
+{
+    g.Pon({1, 0}, "1");
+    g.Pon({1, 1}, "2");
+    g.Pon({3, 2}, "4");
+    VaciaDatos(g);
+    EXPECT_EQ(T(1, 0), "1");
+    EXPECT_EQ(T(1, 1), "");
+    EXPECT_EQ(T(3, 2), "");
+    EXPECT_EQ(g.NroFilas(), 3);
+}
+
+// --- keys ---
+
+TEST_F(UnaGrilla, LaPrimeraTeclaReemplazaYLasSiguientesSeAgregan)
+{
+    g.Pon({1, 1}, "77");
+    Teclas("1");
+    EXPECT_EQ(T(1, 1), "1");
+    Teclas("2.5");
+    EXPECT_EQ(T(1, 1), "12.5");
+}
+
+TEST_F(UnaGrilla, AlVolverAUnaCeldaLaPrimeraTeclaReemplazaDeNuevo)
+{
+    Teclas("12");
+    Teclea(g, Tecla::Abajo);
+    Teclea(g, Tecla::Arriba);
+    Teclas("3");
+    EXPECT_EQ(T(1, 1), "3");
+}
+
+TEST_F(UnaGrilla, LaComaSeHacePunto)
+{
+    Teclas("1,5");
+    EXPECT_EQ(T(1, 1), "1.5");
+}
+
+TEST_F(UnaGrilla, UnaTeclaQueDejaUnTextoSinNumeroVaciaLaCelda)
+{
+    for (const std::string_view teclas : {"a", "12a", "-", ".", "1e", "1.2."}) {
+        Mueve(g, {2, 1});
+        Mueve(g, {1, 1});
+        Teclas(teclas);
+        EXPECT_EQ(T(1, 1), "") << teclas;
+    }
+    Escribe(g, s, "ñ");
+    EXPECT_EQ(T(1, 1), "");
+    EXPECT_TRUE(anfitrion->sucesos.empty());
+}
+
+TEST_F(UnaGrilla, TrasUnaLetraSeSigueDesdeElVacio)
+{
+    Teclas("12a34");
+    EXPECT_EQ(T(1, 1), "34");
+}
+
+TEST_F(UnaGrilla, EnterPasaALaFilaSiguienteYDeLaUltimaALaPrimera)
+{
+    Teclas("1");
+    Teclea(g, Tecla::Enter);
+    EXPECT_EQ(g.actual, (Celda{2, 1}));
+    Teclea(g, Tecla::Enter);
+    Teclea(g, Tecla::Enter);
+    EXPECT_EQ(g.actual, (Celda{1, 1}));
+    EXPECT_EQ(T(1, 1), "1");
+}
+
+TEST_F(UnaGrilla, LaCeldaSinNumeroALaQueLlegaEnterQuedaEnCero)
+{
+    Teclea(g, Tecla::Enter);
+    EXPECT_EQ(T(1, 1), "");
+    EXPECT_EQ(T(2, 1), "0");
+    Teclas("5");
+    EXPECT_EQ(T(2, 1), "5");
+}
+
+TEST_F(UnaGrilla, EnUnaGrillaDeUnaFilaEnterEmpiezaDeNuevo)
+{
+    PonNroFilas(g, 1);
+    Teclas("12");
+    const Efecto efecto = Teclea(g, Tecla::Enter);
+    EXPECT_EQ(efecto.asentadas, (std::vector<Celda>{{1, 1}}));
+    Teclas("3");
+    EXPECT_EQ(T(1, 1), "3");
+    Teclea(g, Tecla::Suprimir);
+    Teclea(g, Tecla::Enter);
+    EXPECT_EQ(T(1, 1), "0");
+}
+
+TEST_F(UnaGrilla, SuprimirVaciaLaCelda)
+{
+    Teclas("12");
+    Teclea(g, Tecla::Suprimir);
+    EXPECT_EQ(T(1, 1), "");
+    Teclas("3");
+    EXPECT_EQ(T(1, 1), "3");
+}
+
+TEST_F(UnaGrilla, EnUnaColumnaQueNoSeEditaLasTeclasNoHacenNada)
+{
+    g.Pon({1, 2}, "7");
+    PonEditable(g, 2, false);
+    Mueve(g, {1, 2});
+    Teclas("1");
+    Teclea(g, Tecla::Suprimir);
+    Teclea(g, Tecla::Enter);
+    EXPECT_EQ(T(1, 2), "7");
+    EXPECT_EQ(g.actual, (Celda{1, 2}));
+    PonEditable(g, 2, true);
+    Teclas("1");
+    EXPECT_EQ(T(1, 2), "1");
+}
+
+TEST_F(UnaGrilla, UnaFilaDeTitulosNoSeEdita)
+{
+    g.filas[0].esTitulo = true;
+    g.Pon({1, 1}, "Altura");
+    Teclas("1");
+    Teclea(g, Tecla::Suprimir);
+    EXPECT_EQ(T(1, 1), "Altura");
+}
+
+TEST_F(UnaGrilla, LasFlechasSeDetienenEnLosBordesYNoEntranEnColumnasFijas)
+{
+    Teclea(g, Tecla::Arriba);
+    Teclea(g, Tecla::Izquierda);
+    EXPECT_EQ(g.actual, (Celda{1, 1}));
+    Teclea(g, Tecla::Derecha);
+    Teclea(g, Tecla::Derecha);
+    EXPECT_EQ(g.actual, (Celda{1, 2}));
+    for (int i = 0; i < 4; ++i)
+        Teclea(g, Tecla::Abajo);
+    EXPECT_EQ(g.actual, (Celda{3, 2}));
+}
+
+TEST_F(UnaGrilla, TabRecorreLasCeldasYEnLosExtremosSale)
+{
+    EXPECT_TRUE(Teclea(g, Tecla::TabAtras).sale);
+    Teclea(g, Tecla::Tab);
+    EXPECT_EQ(g.actual, (Celda{1, 2}));
+    Teclea(g, Tecla::Tab);
+    EXPECT_EQ(g.actual, (Celda{2, 1}));
+    Teclea(g, Tecla::TabAtras);
+    EXPECT_EQ(g.actual, (Celda{1, 2}));
+    Mueve(g, {3, 2});
+    Teclas("4");
+    const Efecto efecto = Teclea(g, Tecla::Tab);
+    EXPECT_TRUE(efecto.sale);
+    EXPECT_EQ(efecto.asentadas, (std::vector<Celda>{{3, 2}}));
+    EXPECT_EQ(g.actual, (Celda{3, 2}));
+}
+
+TEST_F(UnaGrilla, UnaCeldaEditadaSeAsientaUnaVezAlDejarla)
+{
+    EXPECT_TRUE(Mueve(g, {2, 1}).asentadas.empty());
+    Teclas("8");
+    EXPECT_TRUE(Mueve(g, {2, 1}).asentadas.empty());
+    EXPECT_EQ(Mueve(g, {1, 2}).asentadas, (std::vector<Celda>{{2, 1}}));
+    EXPECT_TRUE(Deja(g).asentadas.empty());
+    Teclea(g, Tecla::Suprimir);
+    EXPECT_EQ(Deja(g).asentadas, (std::vector<Celda>{{1, 2}}));
+}
+
+TEST_F(UnaGrilla, ElCursorNoVaFueraNiAUnaColumnaFija)
+{
+    for (const Celda c : {Celda{0, 1}, Celda{4, 1}, Celda{1, 3}, Celda{1, 0}, Celda{1, -1}}) {
+        Mueve(g, c);
+        EXPECT_EQ(g.actual, (Celda{1, 1}));
+    }
+}
+
+// --- a grid where letters pass ---
+
+TEST_F(GrillaDeComponentes, UnaLetraPasaYSeLeeCero)
+{
+    Teclas("abc");
+    EXPECT_EQ(T(1, 1), "abc");
+    EXPECT_EQ(g.Numero({1, 1}), 0);
+    EXPECT_FALSE(g.EsNumero({1, 1}));
+    EXPECT_TRUE(anfitrion->sucesos.empty());
+}
+
+TEST_F(GrillaDeComponentes, UnCaracterQueNoSeTomaNoHaceNada)
+{
+    g.Pon({1, 1}, "7");
+    Teclas("?");
+    Escribe(g, s, "ñ");
+    Escribe(g, s, "");
+    EXPECT_EQ(T(1, 1), "7");
+    Teclas("8");
+    EXPECT_EQ(T(1, 1), "8");
+}
+
+TEST_F(GrillaDeComponentes, ElLimiteMismoPasa)
+{
+    Teclas("15");
+    EXPECT_EQ(T(1, 1), "15");
+    EXPECT_TRUE(anfitrion->sucesos.empty());
+}
+
+TEST_F(GrillaDeComponentes, PasadoElLimiteSeAvisaYLaCeldaQuedaEnCero)
+{
+    Teclas("16");
+    EXPECT_EQ(anfitrion->Avisos(),
+              (std::vector<Mensaje>{{"menor de 15", "Advertencia !", Icono::Exclamacion}}));
+    EXPECT_EQ(T(1, 1), "0");
+    Teclas("5");
+    EXPECT_EQ(T(1, 1), "05");
+}
+
+TEST_F(GrillaDeComponentes, UnNegativoSeRechazaApenasEsNumero)
+{
+    Teclas("-");
+    EXPECT_EQ(T(1, 1), "-");
+    Teclas("1");
+    EXPECT_EQ(T(1, 1), "0");
+    EXPECT_EQ(anfitrion->Avisos().size(), 1U);
+}
+
+TEST_F(GrillaDeComponentes, EnterNoPoneCeros)
+{
+    Teclea(g, Tecla::Enter);
+    EXPECT_EQ(T(1, 1), "");
+    EXPECT_EQ(T(2, 1), "");
+    EXPECT_EQ(g.actual, (Celda{2, 1}));
+}
+
+// --- spreadsheet ---
+
+TEST_F(UnaGrilla, CopiaElBloqueSeleccionadoConTabulaciones)
+{
+    g.Pon({1, 1}, "1.5");
+    g.Pon({1, 2}, "2");
+    g.Pon({2, 1}, "3");
+    Mueve(g, {2, 2});
+    Mueve(g, {1, 1}, true);
+    EXPECT_EQ(Copia(g, false), "1.5\t2\n3\t\n");
+    EXPECT_EQ(Copia(g, true), "H [m]\tQ[m3/s]\n1.5\t2\n3\t\n");
+}
+
+TEST_F(UnaGrilla, UnaSolaCeldaSeCopiaSola)
+{
+    g.Pon({1, 1}, "1.5");
+    EXPECT_EQ(Copia(g, false), "1.5\n");
+}
+
+TEST_F(UnaGrilla, LoQuePartiriaUnaCeldaSeCopiaComoBlanco)
+{
+    g.Pon({1, 1}, "a\tb\nc");
+    EXPECT_EQ(Copia(g, false), "a b c\n");
+}
+
+TEST_F(UnaGrilla, SeleccionarTodoTomaLasColumnasQueNoSonFijas)
+{
+    SeleccionaTodo(g);
+    EXPECT_EQ(Seleccion(g), (Bloque{{1, 1}, {3, 2}}));
+    EXPECT_TRUE(Seleccion(g).Tiene({2, 2}));
+    EXPECT_FALSE(Seleccion(g).Tiene({2, 0}));
+}
+
+TEST_F(UnaGrilla, LaSeleccionSeEstiraConFlechas)
+{
+    Teclea(g, Tecla::Abajo, true);
+    Teclea(g, Tecla::Derecha, true);
+    EXPECT_EQ(Seleccion(g), (Bloque{{1, 1}, {2, 2}}));
+    Teclea(g, Tecla::Izquierda);
+    EXPECT_EQ(Seleccion(g), (Bloque{{2, 1}, {2, 1}}));
+}
+
+TEST_F(UnaGrilla, PegaUnBloqueConComasDecimalesYSaltosDeCualquierPlataforma)
+{
+    const Efecto efecto = Pega(g, s, "1,5\t 2 \r\n3\t4e1\r\n");
+    EXPECT_EQ(T(1, 1), "1.5");
+    EXPECT_EQ(T(1, 2), "2");
+    EXPECT_EQ(T(2, 1), "3");
+    EXPECT_EQ(T(2, 2), "4e1");
+    EXPECT_EQ(T(3, 1), "");
+    EXPECT_EQ(efecto.asentadas, (std::vector<Celda>{{1, 1}, {1, 2}, {2, 1}, {2, 2}}));
+    EXPECT_EQ(Seleccion(g), (Bloque{{1, 1}, {2, 2}}));
+    EXPECT_TRUE(anfitrion->sucesos.empty());
+}
+
+TEST_F(UnaGrilla, PegarNadaNoHaceNada)
+{
+    EXPECT_TRUE(Pega(g, s, "").asentadas.empty());
+    EXPECT_TRUE(anfitrion->sucesos.empty());
+}
+
+TEST_F(UnaGrilla, UnaCeldaVaciaDelBloqueVaciaLaSuya)
+{
+    g.Pon({1, 1}, "1");
+    g.Pon({1, 2}, "2");
+    Pega(g, s, "\t5");
+    EXPECT_EQ(T(1, 1), "");
+    EXPECT_EQ(T(1, 2), "5");
+}
+
+TEST_F(UnaGrilla, LoQueNoEsNumeroNoSePegaYNadaQuedaAMedias)
+{
+    const Grilla antes = g;
+    EXPECT_TRUE(Pega(g, s, "1\t2\n3\tx").asentadas.empty());
+    EXPECT_EQ(
+        anfitrion->Avisos(),
+        (std::vector<Mensaje>{{"No se pegó ningún dato. Fila 2, columna \"Q[m3/s]\": \"x\" no es un número",
+                               "Advertencia !", Icono::Exclamacion}}));
+    EXPECT_EQ(g, antes);
+}
+
+TEST_F(UnaGrilla, LoQueSobraDeLaTablaNoSePega)
+{
+    const Grilla antes = g;
+    Pega(g, s, "1\n2\n3\n4\n");
+    EXPECT_EQ(UltimoAviso(), "No se pegó ningún dato. Fila 4, columna \"H [m]\": la tabla no tiene esa fila");
+    Pega(g, s, "1\t2\t3");
+    EXPECT_EQ(UltimoAviso(), "No se pegó ningún dato. Fila 1, columna 3: la tabla no tiene esa columna");
+    EXPECT_EQ(g, antes);
+}
+
+TEST_F(UnaGrilla, ElBloqueEmpiezaEnLaEsquinaDeLaSeleccion)
+{
+    Mueve(g, {3, 2});
+    Mueve(g, {2, 1}, true);
+    Pega(g, s, "8");
+    EXPECT_EQ(T(2, 1), "8");
+}
+
+TEST_F(UnaGrilla, LaCeldaEditadaSeAsientaTambienAlPegarEnOtra)
+{
+    Mueve(g, {1, 1});
+    Mueve(g, {3, 2}, true);
+    Teclas("9");
+    const Efecto efecto = Pega(g, s, "8");
+    EXPECT_EQ(efecto.asentadas, (std::vector<Celda>{{3, 2}, {1, 1}}));
+    Teclas("7");
+    EXPECT_EQ(T(1, 1), "7");
+}
+
+TEST_F(GrillaDeComponentes, UnaColumnaQueNoSeEditaNoAceptaOtroTexto)
+{
+    Mueve(g, {1, 0});
+    const Grilla antes = g;
+    Pega(g, s, "c-9\t1\t0.1");
+    EXPECT_EQ(UltimoAviso(),
+              "No se pegó ningún dato. Fila 1, columna \"Nombre\": la celda no puede modificarse");
+    EXPECT_EQ(g, antes);
+}
+
+TEST_F(GrillaDeComponentes, FilasEnterasVanALaPlanillaYVuelven)
+{
+    SeleccionaTodo(g);
+    EXPECT_EQ(Copia(g, false), "c-1\t\t\t\nc-2\t\t\t\nc-3\t\t\t\n");
+    Pega(g, s, "c-1\t1\t0,1\t\nc-2\t15\t0.5\t\nc-3\t3\t\t\n");
+    EXPECT_EQ(T(1, 2), "0.1");
+    EXPECT_EQ(T(2, 1), "15");
+    EXPECT_TRUE(anfitrion->sucesos.empty());
+}
+
+TEST_F(GrillaDeComponentes, PegadoPasadoDelLimiteSeRechazaConElMensajeDeLaColumna)
+{
+    const Grilla antes = g;
+    Pega(g, s, "15\n15.01");
+    EXPECT_EQ(UltimoAviso(), "No se pegó ningún dato. Fila 2, columna \"Vel.\": menor de 15");
+    Pega(g, s, "1\t-0.1");
+    EXPECT_EQ(UltimoAviso(), "No se pegó ningún dato. Fila 1, columna \"x\": entre 0 y 0.5");
+    EXPECT_EQ(g, antes);
+}
+
+TEST_F(GrillaDeComponentes, PegarLetrasPasaDondeTeclearlasPasa)
+{
+    Pega(g, s, "abc");
+    EXPECT_EQ(T(1, 1), "abc");
+    Pega(g, s, "a?c");
+    EXPECT_EQ(UltimoAviso(), "No se pegó ningún dato. Fila 1, columna \"Vel.\": \"a?c\" no es un número");
+}
+
+}  // namespace
+}  // namespace forms
