@@ -42,7 +42,7 @@ enum class Papel : std::uint8_t {
 struct Primitiva {
     enum class Forma : std::uint8_t {
         Polilinea,  ///< `cuantos` points from `desde`, width `ancho`; a single point is a dot
-        Icono,      ///< of a component of the kind `clase`, its position at `en`, size `tamano`
+        Icono,      ///< of a component of the kind `clase`; fills the box at `en`, `tamano` by `alto`
         Texto,      ///< its upper left corner at `en`
         Cuadrado,   ///< centred at `en`, side `tamano` [pixels]
         Imagen,     ///< upper left corner at `en`, `tamano` wide and `alto` high
@@ -79,14 +79,16 @@ class Dibujo {
         return std::string_view(letras).substr(p.desde, p.cuantos);
     }
 
-    void Icono(Clase clase, Punto en, float tamano, bool seleccionado)
+    /// The box of the icon: upper left corner and side.
+    void Icono(Clase clase, Punto esquina, float lado, bool seleccionado)
     {
         primitivas.push_back({.forma = Primitiva::Forma::Icono,
                               .papel = Papel::Icono,
                               .clase = clase,
                               .seleccionado = seleccionado,
-                              .en = en,
-                              .tamano = tamano});
+                              .en = esquina,
+                              .tamano = lado,
+                              .alto = lado});
     }
     void Texto(Papel papel, Punto en, std::string_view texto)
     {

@@ -99,6 +99,15 @@ struct Tamano {
     bool operator==(const Tamano&) const = default;
 };
 
+/// A place on the canvas [pixels].
+struct Pixel {
+    double x = 0, y = 0;
+    bool operator==(const Pixel&) const = default;
+};
+
+inline constexpr int EscalaMinima = 1, EscalaMaxima = 1000;  ///< of sldEscala [%]
+inline constexpr int TopeBarra = 100;  ///< the scroll bars run from -TopeBarra to TopeBarra
+
 /// Extents of the drawing [drawing units]; upside down while nothing is drawn.
 struct Extension {
     float XMax = -99999, XMin = 99999, YMax = -99999, YMin = 99999;
@@ -115,7 +124,7 @@ struct frmUEHs {
     Tamano lienzo{};                             ///< picDibujo [pixels]
     std::array<bool, NroBotones> botones{true};  ///< buttons that are down, by Boton
     int sldEscala = 100;                         ///< zoom, 1 to 1000 [%]
-    int ScrEscalaHor = 0, ScrEscalaVer = 0;      ///< -100 to 100 [% of the canvas]
+    int ScrEscalaHor = 0, ScrEscalaVer = 0;      ///< movement since the last centring [% of the canvas]
     std::string lblX{}, lblY{};                  ///< point under the pointer [drawing units]
     std::string lblEstado{};
     std::string lblLongArea{};             ///< last measurement
@@ -182,18 +191,20 @@ void Abre(frmUEHs& f, model::Siro& s, Tamano pantalla);
 void AlActivarse(frmUEHs& f, model::Siro& s);
 void AlPerderFoco(frmUEHs& f);
 /// The window takes another size [pixels].
-void Form_Resize(frmUEHs& f, model::Siro& s, Tamano ventana);
+void Form_Resize(frmUEHs& f, Tamano ventana);
 /// The frame's close button: as Esc, but an empty network closes with no question. Returns whether the
 /// window may close.
 bool Form_QueryUnload(frmUEHs& f, model::Siro& s);
 
 // Mouse on the canvas; `p` is the point under the pointer.
 void picDibujo_MouseDown(frmUEHs& f, model::Siro& s, BotonRaton boton, Punto p);
-void picDibujo_MouseMove(frmUEHs& f, model::Siro& s, Punto p);
+/// `izquierdo`: the left button is held; a release that got lost ends the drag here.
+void picDibujo_MouseMove(frmUEHs& f, model::Siro& s, Punto p, bool izquierdo);
 void picDibujo_MouseUp(frmUEHs& f, model::Siro& s, BotonRaton boton, Punto p);
 void picDibujo_DblClick(frmUEHs& f, model::Siro& s);
-/// Turns of the wheel, away from the user positive: zoom that keeps `p` under the pointer.
-void picDibujo_Rueda(frmUEHs& f, model::Siro& s, int vueltas, Punto p);
+/// Turns of the wheel, away from the user positive: brings the drawing nearer and keeps `p` under the
+/// pointer.
+void picDibujo_Rueda(frmUEHs& f, model::Siro& s, double vueltas, Punto p);
 
 /// F2 to F6 and Enter.
 void picDibujo_KeyDown(frmUEHs& f, model::Siro& s, Tecla tecla);
@@ -216,9 +227,12 @@ Boton Modo(const frmUEHs& f);
 void PonModo(frmUEHs& f, Boton modo);
 /// Width of the canvas, and its height [drawing units].
 float AnchoLogico(const frmUEHs& f);
+/// ToleranciaVertice at the present zoom. Throws Falla 6.
+std::int16_t ToleranciaPresente(const frmUEHs& f);
 /// CauceSel, CauceAnterior, UEHSel, RepresaSel, LagoSel, VerticeSel := 0.
 void LimpiaSeleccion(model::Siro& s);
 /// Redoes the drawing: bound of the vertices, snap, extents, scale, origin, then the list of primitives.
+/// Throws nothing.
 void Redibuja(frmUEHs& f, model::Siro& s);
 /// Reaches that have both an object and vertices: numbers 1 to this one. A reach that is being drawn has
 /// vertices under NroCauces and no object yet.
@@ -226,10 +240,14 @@ int CaucesEnteros(const model::Siro& s);
 /// Gives up the reach that is being drawn, if any.
 void DescartaTrazo(frmUEHs& f, model::Siro& s);
 
+/// An event: does it, tells a fault in a box and takes back what it has begun, notes a step of the history
+/// unless a drag is under way.
+void Evento(frmUEHs& f, model::Siro& s, const std::function<void()>& cuerpo);
+
 // --- between rules and window ---
 
 /// Point of the drawing at a pixel of the canvas, and back.
 Punto DePixel(const frmUEHs& f, double x, double y);
-Punto APixel(const frmUEHs& f, Punto p);
+Pixel APixel(const frmUEHs& f, Punto p);
 
 }  // namespace editor

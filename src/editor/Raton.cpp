@@ -1,0 +1,191 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/Edicion.h"
+#include "editor/frmUEHs.h"
+#include "editor/modCalculoLongArea.h"
+#include "model/Numeros.h"
+
+// Mouse and keys of the canvas.
+namespace editor {
+
+using model::Siro;
+
+namespace {
+
+void ClicIzquierdo(frmUEHs& f, Siro& s, Punto p)
+{
+    switch (Modo(f)) {
+    case Boton::UEH:
+        ColocaUEH(f, s, p);
+        break;
+    case Boton::Represa:
+        ColocaRepresa(f, s, p);
+        break;
+    case Boton::LAGO:
+        ColocaLago(f, s, p);
+        break;
+    case Boton::Cauce:
+        ClicCauce(f, s, p);
+        break;
+    case Boton::LongArea:
+        AgregaPuntoMedida(f, p);
+        Redibuja(f, s);
+        break;
+    default:
+        f.izquierdoAbajo = true;
+        f.presion = p;
+        Selecciona(f, s, p);
+    }
+}
+
+void Suelta(frmUEHs& f, Siro& s, Punto p)
+{
+    TerminaArrastre(f, s, p);
+    f.izquierdoAbajo = f.enlaceArmado = f.UEHCerca = f.preguntado = false;
+    f.arrastra = Arrastra::Nada;
+    if (f.banda.empty()) return;
+    f.banda.clear();
+    Redibuja(f, s);
+}
+
+std::string Coordenada(float x)
+{
+    return model::NumeroATexto(model::Redondea(x, 1));
+}
+
+/// The point where Enter places a component: half the span, not the centre of the drawing.
+Punto PuntoDeEnter(const Extension& e)
+{
+    return {model::Simple((double{1} * e.XMax - e.XMin) / 2),
+            model::Simple((double{1} * e.YMax - e.YMin) / 2)};
+}
+
+void TerminaCauceSiHay(frmUEHs& f, Siro& s)
+{
+    if (f.ClicsCauce > 1) TerminaCauce(f, s);
+}
+
+void Entra(frmUEHs& f, Siro& s)
+{
+    constexpr std::int16_t PuntosQueEnterNoMide = 2;
+    switch (Modo(f)) {
+    case Boton::LongArea:
+        if (f.NroPuntosMedida <= PuntosQueEnterNoMide) break;
+        CalculaLongArea(f, s);
+        Redibuja(f, s);
+        break;
+    case Boton::Cauce:
+        TerminaCauceSiHay(f, s);
+        break;
+    case Boton::UEH:
+        ColocaUEH(f, s, PuntoDeEnter(f.extension));
+        break;
+    case Boton::Represa:
+        ColocaRepresa(f, s, PuntoDeEnter(f.extension));
+        break;
+    case Boton::LAGO:
+        ColocaLago(f, s, PuntoDeEnter(f.extension));
+        break;
+    default:
+        break;
+    }
+}
+
+/// Double click with nothing selected: ends what the mode is doing, and goes back to selecting.
+void TerminaModo(frmUEHs& f, Siro& s)
+{
+    if (Modo(f) == Boton::LongArea) CalculaLongArea(f, s);
+    if (Modo(f) == Boton::Cauce) TerminaCauceSiHay(f, s);
+    PonModo(f, Boton::Selecciona);
+    f.recentra = true;
+    Redibuja(f, s);
+}
+
+void PideSiHay(frmUEHs& f, int cuenta, Pedido forma)
+{
+    if (cuenta > 0) f.pedidos.push_back(forma);
+}
+
+}  // namespace
+
+void picDibujo_MouseDown(frmUEHs& f, Siro& s, BotonRaton boton, Punto p)
+{
+    f.ultimo = p;
+    if (boton == BotonRaton::Izquierdo) Evento(f, s, [&] { ClicIzquierdo(f, s, p); });
+    if (boton == BotonRaton::Derecho) f.pedidos.push_back(Pedido::Menu);
+    if (boton == BotonRaton::Medio) {
+        f.asidero = p;
+        f.puntero = Puntero::Mano;
+    }
+}
+
+void picDibujo_MouseMove(frmUEHs& f, Siro& s, Punto p, bool izquierdo)
+{
+    f.ultimo = p;
+    f.lblX = Coordenada(p.X);
+    f.lblY = Coordenada(p.Y);
+    if (f.asidero) {
+        f.origen.X += f.asidero->X - p.X;
+        f.origen.Y += f.asidero->Y - p.Y;
+        return;
+    }
+    if (!f.izquierdoAbajo) return;
+    if (!izquierdo) {
+        picDibujo_MouseUp(f, s, BotonRaton::Izquierdo, p);
+    } else {
+        Evento(f, s, [&] { MueveArrastre(f, s, p); });
+    }
+}
+
+void picDibujo_MouseUp(frmUEHs& f, Siro& s, BotonRaton boton, Punto p)
+{
+    if (boton == BotonRaton::Medio && f.asidero) {
+        f.asidero.reset();
+        PonModo(f, Modo(f));
+    }
+    if (boton == BotonRaton::Izquierdo && f.izquierdoAbajo) Evento(f, s, [&] { Suelta(f, s, p); });
+}
+
+void picDibujo_DblClick(frmUEHs& f, Siro& s)
+{
+    Evento(f, s, [&] {
+        if (s.CauceSel > 0) {
+            f.pedidos.push_back(Pedido::FormaCauce);
+        } else if (s.UEHSel > 0) {
+            f.pedidos.push_back(Pedido::FormaUEH);
+        } else if (s.LagoSel > 0) {
+            f.pedidos.push_back(Pedido::FormaLago);
+        } else if (s.RepresaSel > 0) {
+            f.pedidos.push_back(Pedido::FormaRepresa);
+        } else {
+            TerminaModo(f, s);
+        }
+    });
+}
+
+void picDibujo_KeyDown(frmUEHs& f, Siro& s, Tecla tecla)
+{
+    switch (tecla) {
+    case Tecla::F2:
+        f.pedidos.push_back(Pedido::Menu);
+        break;
+    case Tecla::F3:
+        PideSiHay(f, s.ColUEHs.Cuenta(), Pedido::FormaUEH);
+        break;
+    case Tecla::F4:
+        PideSiHay(f, s.ColCauces.Cuenta(), Pedido::FormaCauce);
+        break;
+    case Tecla::F5:
+        PideSiHay(f, s.ColRepresas.Cuenta(), Pedido::FormaRepresa);
+        break;
+    case Tecla::F6:
+        PideSiHay(f, s.ColLagos.Cuenta(), Pedido::FormaLago);
+        break;
+    case Tecla::Enter:
+        Evento(f, s, [&] { Entra(f, s); });
+        break;
+    default:
+        break;
+    }
+}
+
+}  // namespace editor

@@ -1,0 +1,304 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/frmUEHs.h"
+
+#include <cmath>
+#include <string>
+
+#include "editor/Edicion.h"
+#include "editor/Fondo.h"
+#include "editor/Indicacion.h"
+#include "engine/ComponenteFinal.h"
+#include "model/Avisos.h"
+#include "model/Componentes.h"
+#include "model/Configuracion.h"
+#include "model/Numeros.h"
+
+namespace editor {
+
+using model::Siro;
+
+namespace {
+
+constexpr std::int32_t EscalaBasePorDefecto = 800;
+constexpr std::int16_t AnchoAlAbrir = 4, AnchoMayor = 16, AnchoMenor = 2;  // [pixels]
+constexpr int UnidadesPorPixel = 15;                                       // units of the form in a pixel
+constexpr double ParteTolerancia = 0.02;
+
+constexpr std::string_view TituloResguardo = "Resguardo de datos de componentes UEHs";
+constexpr std::string_view PreguntaResguardo =
+    "¿Desea guardar los cambios realizados en los componentes de UEHs ? ";
+
+void InformaFalla(const Siro& s, const model::Falla& falla)
+{
+    model::Informa(s, model::TextoFallaMotor(falla) + ".");
+}
+
+void SueltaTodo(frmUEHs& f)
+{
+    f.izquierdoAbajo = f.enlaceArmado = f.UEHCerca = f.preguntado = false;
+    f.arrastra = Arrastra::Nada;
+    f.banda.clear();
+}
+
+std::string Estado(const Siro& s)
+{
+    // "Conf.vlm" without its underscore: kept as it stands.
+    return "UEHs : " + s.NombreProyecto + "_UEHs.vlm" + "     Proyecto: " + s.NombreProyecto +
+           "     Dir: " + s.DirProyectoConf + "   Config. : " + s.NombreProyecto + "Conf.vlm";
+}
+
+bool RedVacia(const Siro& s)
+{
+    return s.ColUEHs.Cuenta() + s.ColCauces.Cuenta() + s.ColLagos.Cuenta() + s.ColRepresas.Cuenta() == 0;
+}
+
+void Guarda(frmUEHs& f, Siro& s)
+{
+    model::mnu_btn_toolbarGuardaUEHs(s);
+    f.guardada = true;
+    Redibuja(f, s);
+}
+
+void CierraVentana(frmUEHs& f, Siro& s)
+{
+    DescartaTrazo(f, s);
+    f.dibujo.Vacia();
+    f.historia = {};
+    f.abierta = false;
+    f.principalVisible = true;
+}
+
+/// Esc and btn_toolbarSalir.
+void Cierra(frmUEHs& f, Siro& s)
+{
+    engine::ComponenteFinal(s);
+    if (!s.ContinuarSinCorregir && !s.RedOk) return;
+    if (model::Consulta(s, std::string(PreguntaResguardo), TituloResguardo)) Guarda(f, s);
+    CierraVentana(f, s);
+}
+
+void EmpiezaControles(frmUEHs& f)
+{
+    PonModo(f, Boton::Selecciona);
+    f.Pon(Boton::SUEH, false);
+    f.sldEscala = 100;
+    f.ScrEscalaHor = f.ScrEscalaVer = f.movidoHor = f.movidoVer = 0;
+    f.origen = {};
+    f.cmdImagenUEHs = "Imágen";
+    f.ImagenVisible = f.OrdenVisible = false;
+    f.imagen = {};
+    f.rutaImagen.clear();
+    f.ClicsCauce = f.NroPuntosMedida = 0;
+    f.lblLongArea.clear();
+    f.pedidos.clear();
+    f.asidero.reset();
+    f.cambiada = false;
+    SueltaTodo(f);
+}
+
+void AplicaBoton(frmUEHs& f, Siro& s, Boton boton)
+{
+    switch (boton) {
+    case Boton::BorraTodo:
+        BorraTodo(f, s);
+        f.Pon(Boton::SUEH, false);
+        return;
+    case Boton::SUEH:
+        f.Pon(boton, true);
+        return;
+    case Boton::GuardaUEHs:
+        f.Pon(boton, true);
+        f.puntero = Puntero::Espera;
+        Guarda(f, s);
+        Asienta(f, s);
+        f.Pon(boton, false);
+        PonModo(f, Modo(f));
+        return;
+    case Boton::Salir:
+        Cierra(f, s);
+        return;
+    default:
+        PonModo(f, boton);
+    }
+}
+
+}  // namespace
+
+void Evento(frmUEHs& f, Siro& s, const std::function<void()>& cuerpo)
+{
+    f.guardada = false;
+    bool tomado = false;
+    model::Sentencia(cuerpo, [&](const model::Falla& falla) {
+        SueltaTodo(f);
+        Repone(f, s);
+        tomado = true;
+        InformaFalla(s, falla);
+    });
+    if (f.abierta && !f.izquierdoAbajo && !tomado && Anota(f, s)) f.cambiada = true;
+    if (f.guardada) f.cambiada = tomado;
+    f.lblIndicacion = Indicacion(f, s);
+}
+
+// --- the window ---
+
+void Abre(frmUEHs& f, Siro& s, Tamano pantalla)
+{
+    Form_Resize(f, {pantalla.ancho * 4 / 5, pantalla.alto * 4 / 5});
+    f.dibujo.Vacia();
+    f.TamIcono = model::Simple(1.2 * f.AnchoLinea + 10);
+    f.AnchoLinea = AnchoAlAbrir;
+    f.abierta = true;
+    if (s.NombreProyecto.empty()) return;
+
+    model::leoConf(s);
+    LimpiaSeleccion(s);
+    EmpiezaControles(f);
+    f.EscalaBase = EscalaBasePorDefecto;
+    const auto informa = [&](const model::Falla& falla) { InformaFalla(s, falla); };
+    model::Sentencia(
+        [&] {
+            const std::int32_t base = model::Entero32(model::Val(s.MaxUEHsPixel));
+            if (base > 0) f.EscalaBase = base;
+        },
+        informa);
+    f.recentra = f.reescala = true;
+    f.lblEstado = Estado(s);
+    model::LeeUEHs(s);
+    Redibuja(f, s);
+    model::Sentencia([&] { f.ToleranciaVertice = ToleranciaPresente(f); }, informa);
+    EmpiezaHistoria(f, s);
+    f.lblIndicacion = Indicacion(f, s);
+}
+
+void AlActivarse(frmUEHs& f, Siro& s)
+{
+    s.AvisoDescargasVisto = false;
+    f.principalVisible = false;
+    if (f.historia.proyecto != s.NombreProyecto) EmpiezaHistoria(f, s);
+    Evento(f, s, [&] { Redibuja(f, s); });
+}
+
+void AlPerderFoco(frmUEHs& f)
+{
+    f.principalVisible = true;
+}
+
+void Form_Resize(frmUEHs& f, Tamano ventana)
+{
+    constexpr int AnchoMinimo = 1700, AltoMinimo = 900, MargenAncho = 1500, MargenAlto = 700;  // [form units]
+    f.ventana = ventana;
+    const int ancho = ventana.ancho * UnidadesPorPixel;
+    const int alto = ventana.alto * UnidadesPorPixel;
+    if (ancho > AnchoMinimo && alto > AltoMinimo)
+        f.lienzo = {(ancho - MargenAncho) / UnidadesPorPixel, (alto - MargenAlto) / UnidadesPorPixel};
+}
+
+bool Form_QueryUnload(frmUEHs& f, Siro& s)
+{
+    if (!f.abierta) return true;
+    Evento(f, s, [&] {
+        if (RedVacia(s)) {
+            CierraVentana(f, s);
+        } else {
+            Cierra(f, s);
+        }
+    });
+    return !f.abierta;
+}
+
+// --- buttons ---
+
+void ToolbarUEHs_ButtonClick(frmUEHs& f, Siro& s, Boton boton)
+{
+    Evento(f, s, [&] {
+        LimpiaSeleccion(s);
+        AplicaBoton(f, s, boton);
+        if (f.abierta) Redibuja(f, s);
+    });
+}
+
+void cmdImagenUEHs_Click(frmUEHs& f, Siro& s)
+{
+    Evento(f, s, [&] { AlternaImagen(f, s); });
+}
+
+void cmdAnchoLineaDib_Click(frmUEHs& f, Siro& s)
+{
+    f.AnchoLinea = static_cast<std::int16_t>(std::trunc(1.5 * f.AnchoLinea));
+    if (f.AnchoLinea > AnchoMayor) f.AnchoLinea = AnchoMenor;
+    f.TamIcono = model::Simple(1.5 * f.AnchoLinea + 4);
+    Redibuja(f, s);
+}
+
+void cmdOrdenCauce_Click(frmUEHs& f, Siro& s)
+{
+    Evento(f, s, [&] {
+        f.OrdenVisible = !f.OrdenVisible;
+        model::CalculaOrdenCauces(s);
+        Redibuja(f, s);
+        Asienta(f, s);  // orders are worked out, not edited
+    });
+}
+
+// --- keys of the form ---
+
+void Form_KeyDown(frmUEHs& f, Siro& s, Tecla tecla)
+{
+    Evento(f, s, [&] {
+        switch (tecla) {
+        case Tecla::Suprimir:
+            f.Pon(Boton::SUEH, false);
+            BorraSeleccionados(f, s);
+            break;
+        case Tecla::Insertar:
+            if (s.CauceSel > 0) f.pedidos.push_back(Pedido::FormaCauce);
+            break;
+        case Tecla::Esc:
+            Cierra(f, s);
+            break;
+        case Tecla::Deshacer:
+            if (!f.izquierdoAbajo) Deshace(f, s);
+            break;
+        case Tecla::Rehacer:
+            if (!f.izquierdoAbajo) Rehace(f, s);
+            break;
+        default:
+            break;
+        }
+    });
+}
+
+// --- between the halves of the rules ---
+
+Boton Modo(const frmUEHs& f)
+{
+    for (const FilaBoton& fila : BotonesUEHs)
+        if (fila.modo && f.Abajo(fila.boton)) return fila.boton;
+    return Boton::Selecciona;
+}
+
+void PonModo(frmUEHs& f, Boton modo)
+{
+    for (const FilaBoton& fila : BotonesUEHs)
+        if (fila.modo) f.Pon(fila.boton, fila.boton == modo);
+    f.puntero = modo == Boton::Selecciona ? Puntero::Flecha : Puntero::Cruz;
+}
+
+std::int16_t ToleranciaPresente(const frmUEHs& f)
+{
+    return model::Entero16(std::trunc(ParteTolerancia * AnchoLogico(f)));
+}
+
+void LimpiaSeleccion(Siro& s)
+{
+    s.CauceSel = s.CauceAnterior = s.UEHSel = s.RepresaSel = s.LagoSel = s.VerticeSel = 0;
+}
+
+void DescartaTrazo(frmUEHs& f, Siro& s)
+{
+    if (f.ClicsCauce == 0) return;
+    f.ClicsCauce = 0;
+    s.NroCauces = model::Entero16(s.ColCauces.Cuenta());
+}
+
+}  // namespace editor
