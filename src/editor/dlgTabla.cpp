@@ -13,7 +13,6 @@
 
 namespace editor {
 
-using forms::Celda;
 using model::NumeroATexto;
 using model::Siro;
 

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "forms/Grilla.h"
+#include "model/Siro.h"
+
+// Rules of the tabular editor: the numeric data of all reaches and all UEHs at once, in two grids. Its limits
+// differ in places from those of the forms of one component, on purpose.
+namespace editor {
+
+inline constexpr std::string_view TituloDlgUEHsEditTabla =
+    "Tabla de Edición de datos entrada: Parámetros Físicos UHEs";
+inline constexpr std::string_view AyudaGrillasEditTabla =
+    "Las celdas de datos con fondo blanco pueden modificarse desde esta tabla";
+/// Share of the screen's width and height that the window takes.
+inline constexpr double AnchoEditTabla = 0.97;
+inline constexpr double AltoEditTabla = 0.95;
+
+struct dlgUEHsEditTabla {
+    bool abierta = false;
+    std::string lblProyecto{}, lblFileProyecto{};
+    forms::Grilla MSFlexGridEditCauces{}, MSFlexGridEditUEHs{};
+};
+
+/// Opening and every activation: reads the components anew from disk and fills both grids, the cursor of each
+/// in its first cell that can be edited.
+void Abre(dlgUEHsEditTabla& f, model::Siro& s);
+
+/// Takes the cells into the components in memory, each text by its leading number, asks whether to save them,
+/// and closes. After a No memory and disk differ. A number outside its type is told and leaves the form open.
+void OKButton(dlgUEHsEditTabla& f, model::Siro& s);
+
+void cmdCancel(dlgUEHsEditTabla& f);
+
+}  // namespace editor

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+#include <utility>
+
+#include "apoyo/AnfitrionPrueba.h"
+#include "apoyo/DiscoPrueba.h"
+#include "model/Componentes.h"
+#include "model/Siro.h"
+
+namespace pruebas {
+
+/// The project "Arroyo", open in "/proy" on a disk in memory, for forms that read a saved network.
+class ProyectoGuardado {
+  public:
+    ProyectoGuardado()
+    {
+        s.Anfitrion = anfitrion.Puerta();
+        s.Disco = disco.Puerta();
+        s.NombreProyecto = "Arroyo";
+        s.DirProyecto = s.frmConfigura.Dir1 = "/proy";
+        disco.PonDirectorio("/proy");
+        s.XVertice.Dimensiona(model::MaxCauces, model::MaxNroVertices);
+        s.YVertice.Dimensiona(model::MaxCauces, model::MaxNroVertices);
+    }
+    /// Adds a reach of two vertices.
+    void Agrega(model::Cauce c)
+    {
+        const auto n = static_cast<std::int16_t>(s.ColCauces.Cuenta() + 1);
+        c.numCauce = n;
+        c.numVertices = s.NroVertices(n) = 2;
+        c.IndiceParInicial = static_cast<std::int16_t>(2 * n - 1);
+        s.NroCauces = n;
+        s.ColCauces.Agrega(std::move(c));
+    }
+    void Agrega(model::UEH u)
+    {
+        u.numUEH = s.NroUEHs = static_cast<std::int16_t>(s.ColUEHs.Cuenta() + 1);
+        s.ColUEHs.Agrega(std::move(u));
+    }
+    void Agrega(model::Represa r)
+    {
+        r.numRepresa = s.NroRepresas = static_cast<std::int16_t>(s.ColRepresas.Cuenta() + 1);
+        s.ColRepresas.Agrega(std::move(r));
+    }
+    void Agrega(model::Lago l)
+    {
+        l.numLAGO = s.NroLagos = static_cast<std::int16_t>(s.ColLagos.Cuenta() + 1);
+        s.ColLagos.Agrega(std::move(l));
+    }
+    /// Puts the network on the disk and forgets what was said about it.
+    void Guarda()
+    {
+        model::mnu_btn_toolbarGuardaUEHs(s);
+        anfitrion->sucesos.clear();
+    }
+
+    apoyo::AnfitrionPrueba anfitrion{};
+    apoyo::DiscoPrueba disco{};
+    model::Siro s{};
+};
+
+}  // namespace pruebas
