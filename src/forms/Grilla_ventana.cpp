@@ -1,0 +1,339 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "forms/Grilla_ventana.h"
+
+#include <QAbstractTableModel>
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QInputMethodEvent>
+#include <QItemSelectionModel>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMouseEvent>
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "forms/Textos_ventana.h"
+
+namespace forms {
+
+/// The grid as the toolkit's views want it. Row 0 of the model is row 1 of the grid.
+class TablaGrilla::Modelo : public QAbstractTableModel {
+  public:
+    explicit Modelo(const Grilla& mostrada) : grilla(mostrada) {}
+
+    int rowCount(const QModelIndex& padre = {}) const override { return padre.isValid() ? 0 : filas; }
+    int columnCount(const QModelIndex& padre = {}) const override { return padre.isValid() ? 0 : columnas; }
+
+    QVariant data(const QModelIndex& indice, int papel) const override
+    {
+        const Celda celda{indice.row() + 1, indice.column()};
+        if (!grilla.Esta(celda)) return {};
+        const auto& fila = grilla.filas[static_cast<std::size_t>(celda.fila) - 1];
+        const auto& columna = grilla.columnas[static_cast<std::size_t>(celda.columna)];
+        switch (papel) {
+        case Qt::DisplayRole:
+            return Q(grilla.Texto(celda));
+        case Qt::TextAlignmentRole:
+            return static_cast<int>(Alinea(columna.alineacion));
+        case Qt::BackgroundRole:
+            return QApplication::palette().brush(columna.editable && !fila.esTitulo ? QPalette::Base
+                                                                                    : QPalette::Window);
+        default:
+            return {};
+        }
+    }
+
+    QVariant headerData(int seccion, Qt::Orientation orientacion, int papel) const override
+    {
+        if (orientacion != Qt::Horizontal || seccion < 0 || seccion >= grilla.NroColumnas()) return {};
+        const auto& columna = grilla.columnas[static_cast<std::size_t>(seccion)];
+        if (papel == Qt::DisplayRole) return Q(columna.titulo);
+        if (papel == Qt::TextAlignmentRole) return static_cast<int>(Alinea(columna.alineacion));
+        return {};
+    }
+
+    /// Takes over the number of rows and columns; the cells are read as they are painted.
+    void Actualiza()
+    {
+        if (filas != grilla.NroFilas() || columnas != grilla.NroColumnas()) {
+            beginResetModel();
+            filas = grilla.NroFilas();
+            columnas = grilla.NroColumnas();
+            endResetModel();
+        } else if (filas > 0 && columnas > 0) {
+            emit dataChanged(index(0, 0), index(filas - 1, columnas - 1));
+        }
+    }
+
+  private:
+    static Qt::Alignment Alinea(Alineacion alineacion)
+    {
+        switch (alineacion) {
+        case Alineacion::Centro:
+            return Qt::AlignCenter;
+        case Alineacion::Derecha:
+            return Qt::AlignRight | Qt::AlignVCenter;
+        case Alineacion::Izquierda:
+            break;
+        }
+        return Qt::AlignLeft | Qt::AlignVCenter;
+    }
+
+    const Grilla& grilla;
+    int filas = 0, columnas = 0;
+};
+
+namespace {
+
+struct FilaTecla {
+    int tecla;
+    Tecla grilla;
+};
+
+constexpr auto TeclasDeGrilla = std::to_array<FilaTecla>({
+    {Qt::Key_Return, Tecla::Enter},
+    {Qt::Key_Enter, Tecla::Enter},
+    {Qt::Key_Delete, Tecla::Suprimir},
+    {Qt::Key_Up, Tecla::Arriba},
+    {Qt::Key_Down, Tecla::Abajo},
+    {Qt::Key_Left, Tecla::Izquierda},
+    {Qt::Key_Right, Tecla::Derecha},
+    {Qt::Key_Tab, Tecla::Tab},
+    {Qt::Key_Backtab, Tecla::TabAtras},
+});
+
+}  // namespace
+
+TablaGrilla::TablaGrilla(Entorno& alrededor, Grilla& mostrada, std::string_view nombre,
+                         std::string_view titulo)
+    : entorno(alrededor), grilla(mostrada), modelo(std::make_unique<Modelo>(mostrada))
+{
+    setObjectName(Q(nombre));
+    setAccessibleName(Q(titulo));
+    setModel(modelo.get());
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(ContiguousSelection);
+    setTabKeyNavigation(false);  // the grid says where Tab goes
+    setAttribute(Qt::WA_InputMethodEnabled);
+    setWordWrap(false);
+    verticalHeader()->hide();
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setSectionsClickable(false);
+    Muestra();
+}
+
+TablaGrilla::~TablaGrilla()
+{
+    setModel(nullptr);
+}
+
+template <typename Cuerpo>
+bool TablaGrilla::Suceso(Cuerpo&& cuerpo)
+{
+    Efecto efecto;
+    entorno.Atiende([&] {
+        efecto = std::forward<Cuerpo>(cuerpo)();
+        AlCambiar(efecto);
+    });
+    if (entorno.Terminando()) return false;
+    Muestra();
+    return efecto.sale;
+}
+
+void TablaGrilla::Muestra()
+{
+    const bool otraForma =
+        modelo->rowCount() != grilla.NroFilas() || modelo->columnCount() != grilla.NroColumnas();
+    modelo->Actualiza();
+    if (otraForma) AjustaColumnas();
+    PonSeleccion();
+}
+
+void TablaGrilla::AjustaColumnas()
+{
+    // The blanks of a title give the column its width; a longer number widens it.
+    constexpr int Margen = 16;  // [pixels at 96 dpi]
+    const QFontMetrics letra(horizontalHeader()->font());
+    for (int c = 0; c < grilla.NroColumnas(); ++c) {
+        const QString titulo = Q(grilla.columnas[static_cast<std::size_t>(c)].titulo);
+        setColumnWidth(
+            c, std::max(letra.horizontalAdvance(titulo), letra.horizontalAdvance(titulo.trimmed())) + Margen);
+    }
+}
+
+void TablaGrilla::PonSeleccion()
+{
+    const Bloque bloque = Seleccion(grilla);
+    const QModelIndex actual = modelo->index(grilla.actual.fila - 1, grilla.actual.columna);
+    const QItemSelection todo(modelo->index(bloque.desde.fila - 1, bloque.desde.columna),
+                              modelo->index(bloque.hasta.fila - 1, bloque.hasta.columna));
+    selectionModel()->setCurrentIndex(actual, QItemSelectionModel::NoUpdate);
+    selectionModel()->select(todo, QItemSelectionModel::ClearAndSelect);
+    if (actual.isValid()) scrollTo(actual);
+}
+
+void TablaGrilla::Mueve(Celda celda, bool extiende)
+{
+    Suceso([&] { return forms::Mueve(grilla, celda, extiende); });
+}
+
+void TablaGrilla::Escribe(const QString& texto)
+{
+    Suceso([&] {
+        for (const char32_t punto : texto.toUcs4())
+            forms::Escribe(grilla, entorno.s, DeQ(QString::fromUcs4(&punto, 1)));
+        return Efecto{};
+    });
+}
+
+// --- spreadsheet ---
+
+void TablaGrilla::Copia(bool conTitulos)
+{
+    QApplication::clipboard()->setText(Q(forms::Copia(grilla, conTitulos)));
+}
+
+void TablaGrilla::Pega()
+{
+    const std::string bloque = DeQ(QApplication::clipboard()->text());
+    Suceso([&] { return forms::Pega(grilla, entorno.s, bloque); });
+}
+
+void TablaGrilla::SeleccionaTodo()
+{
+    forms::SeleccionaTodo(grilla);
+    PonSeleccion();
+}
+
+// --- events ---
+
+bool TablaGrilla::event(QEvent* evento)
+{
+    // Otherwise the window would take them for its own before the grid sees them.
+    if (evento->type() == QEvent::ShortcutOverride) {
+        const auto& tecla = static_cast<QKeyEvent&>(*evento);
+        if (tecla.matches(QKeySequence::Copy) || tecla.matches(QKeySequence::Paste) ||
+            tecla.matches(QKeySequence::SelectAll) || tecla.key() == Qt::Key_Delete) {
+            evento->accept();
+            return true;
+        }
+    }
+    if (evento->type() == QEvent::KeyPress) {
+        auto& tecla = static_cast<QKeyEvent&>(*evento);
+        if (tecla.key() == Qt::Key_Tab || tecla.key() == Qt::Key_Backtab) {
+            keyPressEvent(&tecla);
+            return true;
+        }
+    }
+    return QTableView::event(evento);
+}
+
+void TablaGrilla::TeclaDeGrilla(Tecla tecla, bool extiende)
+{
+    if (Suceso([&] { return forms::Teclea(grilla, tecla, extiende); }))
+        focusNextPrevChild(tecla == Tecla::Tab);
+}
+
+/// Keys that go to an end of the grid or a page on.
+bool TablaGrilla::TeclaDeHoja(const QKeyEvent& evento)
+{
+    const int hoja = std::max(1, viewport()->height() / std::max(1, rowHeight(0)) - 1);
+    const bool conControl = evento.modifiers().testFlag(Qt::ControlModifier);
+    const int ultimaFila = std::max(1, grilla.NroFilas());
+    const int ultimaColumna = std::max(0, grilla.NroColumnas() - 1);
+    const int fija = grilla.reglas == nullptr ? 0 : grilla.reglas->columnasFijas;
+    Celda celda = grilla.actual;
+    switch (evento.key()) {
+    case Qt::Key_Home:
+        celda = {conControl ? 1 : celda.fila, fija};
+        break;
+    case Qt::Key_End:
+        celda = {conControl ? ultimaFila : celda.fila, ultimaColumna};
+        break;
+    case Qt::Key_PageUp:
+        celda.fila = std::max(1, celda.fila - hoja);
+        break;
+    case Qt::Key_PageDown:
+        celda.fila = std::min(ultimaFila, celda.fila + hoja);
+        break;
+    default:
+        return false;
+    }
+    Mueve(celda, evento.modifiers().testFlag(Qt::ShiftModifier));
+    return true;
+}
+
+void TablaGrilla::keyPressEvent(QKeyEvent* evento)
+{
+    if (evento->matches(QKeySequence::Copy)) return Copia(false);
+    if (evento->matches(QKeySequence::Paste)) return Pega();
+    if (evento->matches(QKeySequence::SelectAll)) return SeleccionaTodo();
+    const auto* const fila = std::find_if(TeclasDeGrilla.begin(), TeclasDeGrilla.end(),
+                                          [&](const FilaTecla& f) { return f.tecla == evento->key(); });
+    if (fila != TeclasDeGrilla.end())
+        return TeclaDeGrilla(fila->grilla, evento->modifiers().testFlag(Qt::ShiftModifier));
+    if (TeclaDeHoja(*evento)) return;
+    const bool esOrden =
+        evento->modifiers().testAnyFlags(Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    if (!esOrden && !evento->text().isEmpty() && evento->text().at(0).isPrint())
+        return Escribe(evento->text());
+    evento->ignore();  // the window's: Esc, its shortcuts
+}
+
+void TablaGrilla::inputMethodEvent(QInputMethodEvent* evento)
+{
+    if (!evento->commitString().isEmpty()) Escribe(evento->commitString());
+    evento->accept();
+}
+
+QVariant TablaGrilla::inputMethodQuery(Qt::InputMethodQuery consulta) const
+{
+    return consulta == Qt::ImEnabled ? QVariant(true) : QTableView::inputMethodQuery(consulta);
+}
+
+void TablaGrilla::mousePressEvent(QMouseEvent* evento)
+{
+    setFocus(Qt::MouseFocusReason);
+    const QModelIndex lugar = indexAt(evento->pos());
+    const Celda celda{lugar.row() + 1, lugar.column()};
+    // A right click inside the selection keeps it: its menu is about to open.
+    if (evento->button() == Qt::RightButton && lugar.isValid() && Seleccion(grilla).Tiene(celda)) return;
+    if (lugar.isValid()) Mueve(celda, evento->modifiers().testFlag(Qt::ShiftModifier));
+}
+
+void TablaGrilla::mouseMoveEvent(QMouseEvent* evento)
+{
+    if (!evento->buttons().testFlag(Qt::LeftButton)) return;
+    const QModelIndex lugar = indexAt(evento->pos());
+    if (lugar.isValid()) Mueve({lugar.row() + 1, lugar.column()}, true);
+}
+
+void TablaGrilla::focusOutEvent(QFocusEvent* evento)
+{
+    if (evento->reason() != Qt::ActiveWindowFocusReason && evento->reason() != Qt::PopupFocusReason)
+        Suceso([&] { return Deja(grilla); });
+    QTableView::focusOutEvent(evento);
+}
+
+void TablaGrilla::contextMenuEvent(QContextMenuEvent* evento)
+{
+    QMenu menu(this);
+    menu.addAction(QStringLiteral("&Copiar"), QKeySequence::Copy, this, [this] { Copia(false); });
+    menu.addAction(QStringLiteral("Copiar con &títulos"), this, [this] { Copia(true); });
+    QAction* const pega =
+        menu.addAction(QStringLiteral("&Pegar"), QKeySequence::Paste, this, [this] { Pega(); });
+    pega->setEnabled(!QApplication::clipboard()->text().isEmpty() &&
+                     std::any_of(grilla.columnas.begin(), grilla.columnas.end(),
+                                 [](const ColumnaGrilla& c) { return c.editable; }));
+    menu.addSeparator();
+    menu.addAction(QStringLiteral("&Seleccionar todo"), QKeySequence::SelectAll, this,
+                   [this] { SeleccionaTodo(); });
+    menu.exec(evento->reason() == QContextMenuEvent::Keyboard
+                  ? viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft())
+                  : evento->globalPos());
+}
+
+}  // namespace forms
