@@ -250,7 +250,8 @@ void EscribeOrdenes(frmUEHs& f, const Siro& s)
 void PintaMedicion(frmUEHs& f)
 {
     if (f.NroPuntosMedida < 1) return;
-    f.dibujo.Polilinea(Papel::Medida, static_cast<std::int16_t>(f.AnchoLinea - f.AnchoLinea / 2));
+    f.dibujo.Polilinea(Papel::Medida,
+                       static_cast<std::int16_t>(std::trunc(f.AnchoLinea - f.AnchoLinea / 2.0)));
     for (std::size_t i = 1; i <= static_cast<std::size_t>(f.NroPuntosMedida); ++i)
         f.dibujo.Agrega({f.XMedida[i], f.YMedida[i]});
 }
