@@ -172,6 +172,11 @@ Punto FinDelEnlace(const frmUEHs& f, const Siro& s, const ConIcono& c)
     return c.drena;
 }
 
+float LadoDeMarca(const frmUEHs& f)
+{
+    return BordeDeMarca + static_cast<float>(f.AnchoLinea);
+}
+
 void PintaComponente(frmUEHs& f, const Siro& s, const ConIcono& c)
 {
     const float t = f.TamIcono;
@@ -185,8 +190,7 @@ void PintaComponente(frmUEHs& f, const Siro& s, const ConIcono& c)
         f.dibujo.Icono(c.clase, c.en, LadoIcono * t, c.seleccionado);
     }
     f.dibujo.Texto(Papel::Nombre, {c.en.X + CorrimientoNombre * t, c.en.Y + c.bajoElIcono * t}, c.nombre);
-    if (c.seleccionado)
-        f.dibujo.Cuadrado(Papel::Asa, {c.en.X, c.en.Y + PasoDelAsa * t}, BordeDeMarca + f.AnchoLinea);
+    if (c.seleccionado) f.dibujo.Cuadrado(Papel::Asa, {c.en.X, c.en.Y + PasoDelAsa * t}, LadoDeMarca(f));
 }
 
 void PintaComponentes(frmUEHs& f, const Siro& s)
@@ -229,7 +233,7 @@ void PintaComponentes(frmUEHs& f, const Siro& s)
 void MarcaCauceElegido(frmUEHs& f, const Siro& s)
 {
     if (s.CauceSel < 1 || s.CauceSel > CaucesDibujados(s)) return;
-    const float lado = BordeDeMarca + f.AnchoLinea;
+    const float lado = LadoDeMarca(f);
     for (int j = 1; j <= s.NroVertices(s.CauceSel); ++j)
         f.dibujo.Cuadrado(j == s.VerticeSel ? Papel::VerticeTomado : Papel::MarcaVertice,
                           Vertice(s, s.CauceSel, j), lado);
@@ -241,7 +245,7 @@ void EscribeOrdenes(frmUEHs& f, const Siro& s)
     for (int i = 1; i <= CaucesEnteros(s); ++i) {
         if (s.NroVertices(i) < 2) continue;
         const Punto p = Vertice(s, i, 2);
-        const float corrido = CorrimientoOrden * f.ToleranciaVertice;
+        const float corrido = CorrimientoOrden * static_cast<float>(f.ToleranciaVertice);
         f.dibujo.Texto(Papel::Orden, {p.X - corrido, p.Y},
                        model::NumeroATexto(std::int32_t{s.ColCauces.Item(i).OrdenCauce}));
     }
