@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// Windows metafiles (.wmf): a drawing as a sequence of records. The player reads them and tells a canvas what
+// to draw, in the drawing's own logical units; it trusts no length and no index of the file.
+namespace editor {
+
+struct PuntoMeta {
+    double x = 0, y = 0;
+    bool operator==(const PuntoMeta&) const = default;
+};
+
+struct RectanguloMeta {
+    double x = 0, y = 0, ancho = 0, alto = 0;  ///< a negative size is a mirrored one
+    bool operator==(const RectanguloMeta&) const = default;
+};
+
+struct ColorMeta {
+    std::uint8_t rojo = 0, verde = 0, azul = 0;
+    bool operator==(const ColorMeta&) const = default;
+};
+
+enum class TrazoMeta : std::uint8_t { Continuo, Rayas, Puntos, RayaPunto, RayaPuntoPunto, Nada };
+enum class RellenoMeta : std::uint8_t { Lleno, Nada, Tramado };
+
+struct PlumaMeta {
+    TrazoMeta trazo = TrazoMeta::Continuo;
+    double ancho = 0;  ///< [logical units]; 0: the thinnest
+    ColorMeta color{};
+    bool operator==(const PlumaMeta&) const = default;
+};
+
+struct PincelMeta {
+    RellenoMeta relleno = RellenoMeta::Lleno;
+    int trama = 0;  ///< 0 to 5: horizontal, vertical, two diagonals, cross, diagonal cross
+    ColorMeta color{255, 255, 255};
+    bool operator==(const PincelMeta&) const = default;
+};
+
+struct LetraMeta {
+    double alto = 12;          ///< [logical units]
+    bool altoDeCelda = false;  ///< the height counts what stands above the capitals too
+    double giro = 0;           ///< counterclockwise [degrees]
+    bool negrita = false, cursiva = false, subrayada = false, tachada = false;
+    std::string familia{};
+    bool operator==(const LetraMeta&) const = default;
+};
+
+enum class AlineaMeta : std::uint8_t { Izquierda, Centro, Derecha };
+enum class RenglonMeta : std::uint8_t { Arriba, Base, Abajo };
+
+struct TextoMeta {
+    std::string texto{};  ///< UTF-8
+    PuntoMeta lugar{};
+    LetraMeta letra{};
+    ColorMeta color{};
+    AlineaMeta alinea = AlineaMeta::Izquierda;
+    RenglonMeta renglon = RenglonMeta::Arriba;
+    std::optional<ColorMeta> fondo{};
+};
+
+enum class ArcoMeta : std::uint8_t { Abierto, Porcion, Cuerda };
+
+/// Who draws. All points are in logical units; a closed figure is filled and then outlined.
+class LienzoMeta {
+  public:
+    virtual ~LienzoMeta() = default;
+    virtual void Polilinea(const std::vector<PuntoMeta>& puntos, const PlumaMeta& pluma) = 0;
+    /// Polygons that are one figure: `alterna` says that what lies inside two of them is outside.
+    virtual void Poligonos(const std::vector<std::vector<PuntoMeta>>& poligonos, bool alterna,
+                           const PlumaMeta& pluma, const PincelMeta& pincel) = 0;
+    virtual void Rectangulo(const RectanguloMeta& r, double radioX, double radioY, const PlumaMeta& pluma,
+                            const PincelMeta& pincel) = 0;
+    virtual void Elipse(const RectanguloMeta& r, const PlumaMeta& pluma, const PincelMeta& pincel) = 0;
+    /// Part of an ellipse, counterclockwise from the direction of one point to that of another.
+    virtual void Arco(ArcoMeta clase, const RectanguloMeta& r, PuntoMeta desde, PuntoMeta hasta,
+                      const PlumaMeta& pluma, const PincelMeta& pincel) = 0;
+    virtual void Texto(const TextoMeta& texto) = 0;
+    /// A bitmap, as the bytes of a .bmp file, its part `origen` [pixels] stretched over `destino`.
+    virtual void Imagen(const std::string& bmp, const RectanguloMeta& origen,
+                        const RectanguloMeta& destino) = 0;
+};
+
+/// What the head of a metafile says.
+struct MarcoMeta {
+    RectanguloMeta ventana{};  ///< part of the logical plane that the picture shows
+    int ancho = 0, alto = 0;   ///< size of the picture [pixels at 96 dpi], at least 1
+};
+
+/// Whether the bytes begin as a metafile does.
+bool EsMetarchivo(std::string_view bytes);
+
+/// Returns the frame of a metafile; nothing for what is none, or tells no size.
+std::optional<MarcoMeta> MarcoDe(std::string_view bytes);
+
+/// Plays a metafile from its first record to its last, or to the first damaged one. Records that draw nothing
+/// that a picture shows are passed over. Returns false where the bytes are no metafile.
+bool Toca(std::string_view bytes, LienzoMeta& lienzo);
+
+}  // namespace editor
