@@ -12,29 +12,42 @@ struct frmUEHs;
 
 // --- placing ---
 
-/// Places a component at a point: same place as another of its kind, name, defaults.
+/// Places a component at a point and asks its name. Where another of its kind is at exactly this position,
+/// or the name is cancelled, it is deleted again by its own rule. Throws Falla 9 beyond the limit of its
+/// kind.
 void ColocaUEH(frmUEHs& f, model::Siro& s, Punto en);
 void ColocaRepresa(frmUEHs& f, model::Siro& s, Punto en);
 void ColocaLago(frmUEHs& f, model::Siro& s, Punto en);
-/// A click of the reach being drawn, the first one being its downstream end.
+/// A click of the reach being drawn, the first one being its downstream end. The 21st click finishes the
+/// reach and is its last vertex. Throws Falla 9 beyond the limit of the reaches.
 void ClicCauce(frmUEHs& f, model::Siro& s, Punto en);
-/// Finishes the reach being drawn: object, name, defaults. Requires ClicsCauce above 1.
+/// Finishes the reach being drawn: object, name, defaults. A reach whose name is cancelled stays without a
+/// name and sets marcaCauce. Requires ClicsCauce above 1.
 void TerminaCauce(frmUEHs& f, model::Siro& s);
 
 // --- selecting and dragging ---
 
-/// Press of the left button in select mode: selects, grabs a vertex, arms a drag.
-void Selecciona(frmUEHs& f, model::Siro& s, Punto en);
-/// The pointer moves with the left button held since `Selecciona`.
-void MueveArrastre(frmUEHs& f, model::Siro& s, Punto en);
-/// The left button is released.
-void TerminaArrastre(frmUEHs& f, model::Siro& s, Punto en);
+/// Press of the left button in select mode: selects, grabs a vertex, arms a drag. A press on nothing clears
+/// the selection.
+void Selecciona(frmUEHs& f, model::Siro& s, Punto p);
+/// The pointer moves with the left button held since `Selecciona`: an icon follows it, a rubber band does; a
+/// link that comes to its destination is asked for and ends the drag.
+void MueveArrastre(frmUEHs& f, model::Siro& s, Punto p);
+/// The left button is released: a vertex takes the place of the pointer; the mouth of a reach on the head of
+/// another asks whether it drains into it.
+void TerminaArrastre(frmUEHs& f, model::Siro& s, Punto p);
 
 // --- deleting ---
 
 /// Delete key: the selected components, reach, UEH, Represa, Lago, each by its own rule.
 void BorraSeleccionados(frmUEHs& f, model::Siro& s);
-/// Deletes every component after a question.
+/// The selected component of a kind, if any, by its rule. A reach, a Represa or a Lago that something drains
+/// into is refused. The network is saved and read again.
+void BorraCauce(frmUEHs& f, model::Siro& s);
+void BorraUEH(frmUEHs& f, model::Siro& s);
+void BorraRepresa(frmUEHs& f, model::Siro& s);
+void BorraLago(frmUEHs& f, model::Siro& s);
+/// Deletes every component after a question, in memory only, and the file of the Represas' outflow tables.
 void BorraTodo(frmUEHs& f, model::Siro& s);
 
 // --- commands of the pop-up menu; each requires what enables it there ---
@@ -43,6 +56,7 @@ void mnu_acoplaUEHaCauce(frmUEHs& f, model::Siro& s);
 void mnu_acoplaUEHaLago(frmUEHs& f, model::Siro& s);
 void mnu_acoplaUEHaRepresa(frmUEHs& f, model::Siro& s);
 void mnu_desacoplaUEH(frmUEHs& f, model::Siro& s);
+/// Divides the selected reach at its grabbed vertex; nothing happens at its first and its last one.
 void mnu_DivideCauce(frmUEHs& f, model::Siro& s);
 void mnu_acoplaCauce1aCauce2(frmUEHs& f, model::Siro& s);
 void mnu_acoplaCauceaLago(frmUEHs& f, model::Siro& s);

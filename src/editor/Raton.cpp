@@ -40,7 +40,7 @@ void ClicIzquierdo(frmUEHs& f, Siro& s, Punto p)
 void Suelta(frmUEHs& f, Siro& s, Punto p)
 {
     TerminaArrastre(f, s, p);
-    f.izquierdoAbajo = f.enlaceArmado = f.UEHCerca = f.preguntado = false;
+    f.izquierdoAbajo = f.arrastrado = false;
     f.arrastra = Arrastra::Nada;
     if (f.banda.empty()) return;
     f.banda.clear();

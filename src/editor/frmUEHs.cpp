@@ -35,7 +35,7 @@ void InformaFalla(const Siro& s, const model::Falla& falla)
 
 void SueltaTodo(frmUEHs& f)
 {
-    f.izquierdoAbajo = f.enlaceArmado = f.UEHCerca = f.preguntado = false;
+    f.izquierdoAbajo = f.arrastrado = false;
     f.arrastra = Arrastra::Nada;
     f.banda.clear();
 }

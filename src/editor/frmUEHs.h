@@ -81,7 +81,7 @@ enum class BotonRaton : std::uint8_t { Ninguno, Izquierdo, Derecho, Medio };
 /// Pointer over the canvas.
 enum class Puntero : std::uint8_t { Flecha, Cruz, Espera, Mano };
 
-/// What a drag with the left button does.
+/// What a drag with the left button does, or would do if the pointer moved.
 enum class Arrastra : std::uint8_t {
     Nada,
     Vertice,
@@ -155,10 +155,9 @@ struct frmUEHs {
     std::string marcaCauce{};
     Arrastra arrastra = Arrastra::Nada;
     bool izquierdoAbajo = false;     ///< the left button is held since it went down on the canvas
-    bool enlaceArmado = false;       ///< the press was on the handle: the drag draws a link
-    bool UEHCerca = false;           ///< the press was near the selected UEH, which the drag moves
-    bool preguntado = false;         ///< the drag has asked its question already
+    bool arrastrado = false;         ///< the pointer has moved since then
     Punto presion{};                 ///< where the left button went down
+    Punto agarre{};                  ///< there, from the position of the icon that the drag moves
     Punto ultimo{};                  ///< where the pointer was last
     std::vector<Punto> banda{};      ///< rubber band, a polyline; empty: none
     std::optional<Punto> asidero{};  ///< point that a pan with the middle button keeps under the pointer

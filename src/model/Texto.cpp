@@ -115,6 +115,14 @@ std::size_t CuentaCaracteres(std::string_view texto)
     return cuenta;
 }
 
+std::string PrimerosCaracteres(std::string_view texto, std::size_t n)
+{
+    std::size_t bytes = 0;
+    for (; n > 0 && bytes < texto.size(); --n)
+        bytes += PrimerCaracter(texto.substr(bytes)).largo;
+    return std::string(texto.substr(0, bytes));
+}
+
 std::string AjustaIzquierda(std::string_view texto, std::size_t ancho)
 {
     std::string ajustado(texto);

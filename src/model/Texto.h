@@ -21,6 +21,9 @@ std::string AWindows1252(std::string_view texto);
 /// Number of characters of a UTF-8 text.
 std::size_t CuentaCaracteres(std::string_view texto);
 
+/// The first characters of a UTF-8 text, `n` at most.
+std::string PrimerosCaracteres(std::string_view texto, std::size_t n);
+
 /// Pads on the right with blanks up to `ancho` characters; a longer text is left whole.
 std::string AjustaIzquierda(std::string_view texto, std::size_t ancho);
 

@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <algorithm>
+#include <string>
+#include <string_view>
+
+#include "editor/Cauces.h"
+#include "editor/ClasesConIcono.h"
+#include "editor/Edicion.h"
+#include "editor/frmUEHs.h"
+#include "engine/ComponenteFinal.h"
+#include "model/Avisos.h"
+#include "model/Componentes.h"
+#include "model/Disco.h"
+#include "model/Falla.h"
+#include "model/Numeros.h"
+
+namespace editor {
+
+using model::Entero16;
+using model::Siro;
+
+namespace {
+
+constexpr std::string_view TituloCauceTributario = "Desacoplar el Cauce a eliminar";
+constexpr std::string_view CauceTributario = "Para eliminar el Cauce <";
+constexpr std::string_view FinTributario =
+    "> debe desacoplarse primero todo componente tributario (UEH o Cauce)";
+constexpr std::string_view VerifiqueRepresas =  // kept as it stands
+    "Se recomienda verificar los parámestros de carga del formulario Represas y sus Tablas";
+constexpr std::string_view TituloBorraTodo = "ADVERTENCIA ! ";
+constexpr std::string_view PreguntaBorraTodo = "¿Desea borrar todos los componentes de UEHs ?:";
+constexpr std::string_view SufijoRHQ = "_RHQ.vlm";
+
+// --- who drains into a component ---
+
+template <typename Coleccion>
+bool AlgunoDrena(const Coleccion& coleccion, const std::string& nombre)
+{
+    return std::any_of(coleccion.begin(), coleccion.end(),
+                       [&](const auto& c) { return engine::DrenaA(c.Cauce_aa, nombre); });
+}
+
+bool DrenaUEHoCauce(const Siro& s, const std::string& nombre)
+{
+    return AlgunoDrena(s.ColUEHs, nombre) || AlgunoDrena(s.ColCauces, nombre);
+}
+
+bool DrenaAlguno(const Siro& s, const std::string& nombre)
+{
+    return DrenaUEHoCauce(s, nombre) || AlgunoDrena(s.ColLagos, nombre) || AlgunoDrena(s.ColRepresas, nombre);
+}
+
+void Rechaza(const Siro& s, std::string_view titulo, std::string_view texto, const std::string& nombre)
+{
+    model::Advierte(s, std::string(texto) + nombre + std::string(FinTributario), titulo);
+}
+
+// --- reaches ---
+
+/// Objects and vertices of the reaches above move down one place; each place keeps its number.
+void CierraHueco(Siro& s, int hueco)
+{
+    const int cuenta = s.ColCauces.Cuenta();
+    for (int i = hueco; i < cuenta; ++i) {
+        const std::int16_t numero = s.Cauces(i).numCauce;
+        s.Cauces(i) = s.Cauces(i + 1);
+        s.Cauces(i).numCauce = numero;
+        s.NroVertices(i) = s.NroVertices(i + 1);
+        for (int j = 1; j <= s.NroVertices(i); ++j)
+            PonVertice(s, i, j, Vertice(s, i + 1, j));
+    }
+    s.ColCauces.Quita(cuenta);
+    s.NroVertices(cuenta) = 0;
+    s.NroCauces = Entero16(s.ColCauces.Cuenta());
+    RehaceIndices(s);
+}
+
+void GuardaTrasBorrar(frmUEHs& f, Siro& s)
+{
+    LimpiaSeleccion(s);
+    model::mnu_btn_toolbarGuardaUEHs(s);
+    f.guardada = true;
+}
+
+// --- components with an icon ---
+
+/// Deletes the selected component of a kind. Returns false where it was refused, or none was selected.
+template <typename T, int Limite>
+bool BorraElegido(frmUEHs& f, Siro& s, const ClaseConIcono<T, Limite>& clase)
+{
+    const int n = s.*clase.elegido;
+    auto& coleccion = s.*clase.coleccion;
+    if (n < 1 || n > coleccion.Cuenta()) return false;
+    const std::string nombre = coleccion.Item(n).*clase.nombre;
+    if (!clase.tituloTributario.empty() && DrenaUEHoCauce(s, nombre)) {
+        Rechaza(s, clase.tituloTributario, clase.tributario, nombre);
+        return false;
+    }
+    coleccion.Quita(n);
+    s.*clase.cuenta = Entero16(coleccion.Cuenta());
+    GuardaTrasBorrar(f, s);
+    model::LeeUEHs(s);  // numbers them anew even where nothing could be saved
+    Redibuja(f, s);
+    return true;
+}
+
+}  // namespace
+
+void BorraCauce(frmUEHs& f, Siro& s)
+{
+    const int n = s.CauceSel;
+    if (!f.marcaCauce.empty() || n < 1 || n > CaucesEnteros(s)) return;
+    const std::string nombre = s.Cauces(n).NombreCauce;
+    if (DrenaAlguno(s, nombre)) {
+        Rechaza(s, TituloCauceTributario, CauceTributario, nombre);
+        return;
+    }
+    DescartaTrazo(f, s);
+    CierraHueco(s, n);
+    GuardaTrasBorrar(f, s);
+    Redibuja(f, s);
+}
+
+void BorraUEH(frmUEHs& f, Siro& s)
+{
+    BorraElegido(f, s, ClaseUEH);
+}
+
+void BorraRepresa(frmUEHs& f, Siro& s)
+{
+    if (!BorraElegido(f, s, ClaseRepresa) || s.NroRepresas == 0) return;
+    // The tables are kept by number, and the numbers have moved.
+    model::Advierte(s, std::string(VerifiqueRepresas), {});
+    f.pedidos.push_back(Pedido::FormaRepresa);
+}
+
+void BorraLago(frmUEHs& f, Siro& s)
+{
+    BorraElegido(f, s, ClaseLago);
+}
+
+void BorraSeleccionados(frmUEHs& f, Siro& s)
+{
+    const std::int16_t UEH = s.UEHSel, represa = s.RepresaSel, lago = s.LagoSel;
+    BorraCauce(f, s);
+    // The save of a deletion clears the selection.
+    s.UEHSel = UEH;
+    BorraUEH(f, s);
+    s.RepresaSel = represa;
+    BorraRepresa(f, s);
+    s.LagoSel = lago;
+    BorraLago(f, s);
+    Redibuja(f, s);
+}
+
+void BorraTodo(frmUEHs& f, Siro& s)
+{
+    if (!model::Consulta(s, std::string(PreguntaBorraTodo), TituloBorraTodo)) return;
+    LimpiaSeleccion(s);
+    s.ColCauces.Vacia();
+    PorClase([&](const auto& clase) {
+        (s.*clase.coleccion).Vacia();
+        s.*clase.cuenta = 0;
+    });
+    s.NroCauces = f.ClicsCauce = 0;
+    try {
+        s.Disco.Borra(model::Ruta(s.DirProyecto, s.NombreProyecto + std::string(SufijoRHQ)));
+    } catch (const model::Falla& falla) {
+        if (falla.numero != model::NumeroFalla::ArchivoNoEsta) throw;  // most networks have none
+    }
+    Redibuja(f, s);
+}
+
+}  // namespace editor

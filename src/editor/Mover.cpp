@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <algorithm>
+#include <string>
+#include <string_view>
+
+#include "editor/Alcance.h"
+#include "editor/Cauces.h"
+#include "editor/ClasesConIcono.h"
+#include "editor/Edicion.h"
+#include "editor/Tender.h"
+#include "editor/frmUEHs.h"
+#include "engine/ComponenteFinal.h"
+#include "model/Avisos.h"
+#include "model/Numeros.h"
+
+// Dragging a vertex or an icon.
+namespace editor {
+
+using model::Siro;
+
+namespace {
+
+constexpr std::string_view TituloConsulta = "Consulta";
+constexpr std::string_view ElTramo = "El tramo de cauce ";
+constexpr std::string_view PreguntaElTramo = "¿El tramo de cauce ";
+constexpr std::string_view EsTributario = " es tributario del tramo ";
+constexpr std::string_view DeseaRedefinir = " , Desea redefinir el destino final del tramo ? ";
+
+// --- vertices ---
+
+/// The mouth of a reach is grabbed: asks whether it shall drain no longer where it does. Returns false where
+/// it shall.
+bool DejaSuDestino(const Siro& s, model::Cauce& cauce)
+{
+    if (cauce.Cauce_aa.empty() || cauce.Cauce_aa == "0") return true;
+    const std::string texto = std::string(ElTramo) + cauce.NombreCauce + std::string(EsTributario) +
+                              cauce.Cauce_aa + std::string(DeseaRedefinir);
+    if (!model::Consulta(s, texto, TituloConsulta)) return false;
+    cauce.Cauce_aa = "0";
+    return true;
+}
+
+/// The drain points of what drains into a reach go along with its head.
+void LlevaTributarios(Siro& s, int cauce, Punto en)
+{
+    const std::string& nombre = s.Cauces(cauce).NombreCauce;
+    PorClase([&](const auto& clase) {
+        for (auto& componente : s.*clase.coleccion)
+            if (engine::DrenaA(componente.Cauce_aa, nombre)) {
+                componente.XCauce = en.X;
+                componente.YCauce = en.Y;
+            }
+    });
+}
+
+bool EsCabecera(const Siro& s)
+{
+    return s.VerticeSel == s.NroVertices(s.CauceSel);
+}
+
+void MueveVertice(frmUEHs& f, Siro& s, Punto p)
+{
+    f.banda.clear();
+    if (s.VerticeSel > 1) f.banda.push_back(Vertice(s, s.CauceSel, s.VerticeSel - 1));
+    f.banda.push_back(p);
+    if (!EsCabecera(s)) f.banda.push_back(Vertice(s, s.CauceSel, s.VerticeSel + 1));
+    if (EsCabecera(s)) LlevaTributarios(s, s.CauceSel, p);
+    Redibuja(f, s);
+}
+
+/// Asks of each reach on whose head the mouth has been put whether it is the destination, until a Yes.
+void BuscaDestino(const frmUEHs& f, Siro& s, int cauce)
+{
+    model::Cauce& este = s.Cauces(cauce);
+    const Punto boca = Vertice(s, cauce, 1);
+    for (int i = 1; i <= CaucesEnteros(s); ++i) {
+        const Punto cabecera = UltimoVertice(s, i);
+        if (i == cauce || !Cerca(boca, cabecera, f.ToleranciaVertice)) continue;
+        const std::string& otro = s.Cauces(i).NombreCauce;
+        const std::string texto =
+            std::string(PreguntaElTramo) + este.NombreCauce + std::string(EsTributario) + otro + " ?";
+        if (!model::Consulta(s, texto, TituloConsulta)) continue;
+        PonVertice(s, cauce, 1, cabecera);
+        este.Cauce_aa = otro;
+        return;
+    }
+}
+
+void SueltaVertice(frmUEHs& f, Siro& s, Punto p)
+{
+    const int cauce = s.CauceSel;
+    PonVertice(s, cauce, s.VerticeSel, p);
+    if (EsCabecera(s)) LlevaTributarios(s, cauce, p);
+    f.banda.clear();
+    Redibuja(f, s);  // the questions are asked over the reach as it now is
+    if (s.VerticeSel == 1) BuscaDestino(f, s, cauce);
+    Redibuja(f, s);
+}
+
+// --- icons ---
+
+template <typename T, int Limite>
+void MueveIcono(frmUEHs& f, Siro& s, const ClaseConIcono<T, Limite>& clase, Punto p)
+{
+    T& componente = Elegido(s, clase);
+    const Punto icono = Icono(clase, componente);
+    if (clase.fueraDelPuntero && !Cerca(p, icono, AlcanceDeEmbalse * f.TamIcono)) return;
+    componente.*clase.x = model::Simple(double{1} * p.X - f.agarre.X);
+    componente.*clase.y = model::Simple(double{1} * p.Y - f.agarre.Y);
+    Redibuja(f, s);
+}
+
+}  // namespace
+
+void MueveArrastre(frmUEHs& f, Siro& s, Punto p)
+{
+    if (!f.izquierdoAbajo || f.arrastra == Arrastra::Nada) return;
+    if (!f.arrastrado && p == f.presion) return;  // a click
+    const bool empieza = !f.arrastrado;
+    f.arrastrado = true;
+    if (f.arrastra == Arrastra::Vertice) {
+        if (empieza && s.VerticeSel == 1 && !DejaSuDestino(s, s.Cauces(s.CauceSel))) {
+            AbandonaArrastre(f, s);
+        } else {
+            MueveVertice(f, s, p);
+        }
+        return;
+    }
+    PorClase([&](const auto& clase) {
+        if (f.arrastra == clase.mueve) MueveIcono(f, s, clase, p);
+    });
+    TiendeEnlace(f, s, p);
+}
+
+void TerminaArrastre(frmUEHs& f, Siro& s, Punto p)
+{
+    const bool vertice = f.arrastra == Arrastra::Vertice && f.arrastrado;
+    const bool banda = !f.banda.empty();
+    f.banda.clear();
+    if (vertice) {
+        SueltaVertice(f, s, p);
+    } else if (banda) {
+        Redibuja(f, s);
+    }
+}
+
+void AbandonaArrastre(frmUEHs& f, Siro& s)
+{
+    f.izquierdoAbajo = f.arrastrado = false;
+    f.arrastra = Arrastra::Nada;
+    f.banda.clear();
+    LimpiaSeleccion(s);
+    Redibuja(f, s);
+}
+
+}  // namespace editor

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "editor/Cauces.h"
+#include "editor/Edicion.h"
+#include "editor/Nombres.h"
+#include "editor/frmUEHs.h"
+#include "model/Numeros.h"
+
+// Drawing a reach, from its mouth upstream.
+namespace editor {
+
+using model::Siro;
+
+namespace {
+
+constexpr std::int16_t ClicsDeUnTrazo = 20;
+constexpr std::string_view MarcaDeCauceSinNombre = "borrarCauce";
+
+void EmpiezaTrazo(frmUEHs& f, Siro& s, Punto en)
+{
+    const int n = NumeroDeCauceNuevo(s);
+    s.NroVertices(n) = 0;
+    AgregaVertice(s, n, en);
+    s.NroCauces = model::Entero16(n);
+    f.ClicsCauce = 1;
+}
+
+}  // namespace
+
+void ClicCauce(frmUEHs& f, Siro& s, Punto en)
+{
+    if (f.ClicsCauce == 0) {
+        EmpiezaTrazo(f, s, en);
+    } else if (f.ClicsCauce < ClicsDeUnTrazo) {
+        AgregaVertice(s, s.NroCauces, en);
+        ++f.ClicsCauce;
+    } else {
+        // The click beyond the last one belongs to the reach that it finishes: kept as it stands.
+        TerminaCauce(f, s);
+        const int n = s.ColCauces.Cuenta();
+        AgregaVertice(s, n, en);
+        s.Cauces(n).numVertices = s.NroVertices(n);
+    }
+    Redibuja(f, s);
+}
+
+void TerminaCauce(frmUEHs& f, Siro& s)
+{
+    f.ClicsCauce = 0;
+    CreaCauce(s);
+    const int n = s.ColCauces.Cuenta();
+    // A reach whose name is cancelled stays, without one; the mark holds the Delete key back from all
+    // reaches.
+    const std::optional<std::string> nombre =
+        PideNombre(s, PideNombreCauce, s.ColCauces, &model::Cauce::NombreCauce);
+    if (nombre) s.Cauces(n).NombreCauce = *nombre;
+    f.marcaCauce = nombre ? std::string_view{} : MarcaDeCauceSinNombre;
+    Redibuja(f, s);
+}
+
+}  // namespace editor
