@@ -27,11 +27,6 @@ Punto Vertice(const Siro& s, int cauce, int vertice)
     return {s.XVertice(cauce, vertice), s.YVertice(cauce, vertice)};
 }
 
-Punto UltimoVertice(const Siro& s, int cauce)
-{
-    return Vertice(s, cauce, s.NroVertices(cauce));
-}
-
 void PonVertice(Siro& s, int cauce, int vertice, Punto en)
 {
     s.XVertice(cauce, vertice) = en.X;

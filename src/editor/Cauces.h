@@ -9,8 +9,6 @@ namespace editor {
 
 /// Vertex of a reach, from 1 at its downstream end. Throws Falla 9.
 Punto Vertice(const model::Siro& s, int cauce, int vertice);
-/// The upstream end of a reach. Throws Falla 9.
-Punto UltimoVertice(const model::Siro& s, int cauce);
 void PonVertice(model::Siro& s, int cauce, int vertice, Punto en);
 /// Adds a vertex upstream of the last one; the bound of the vertices grows as needed. Throws Falla 6, 9.
 void AgregaVertice(model::Siro& s, int cauce, Punto en);

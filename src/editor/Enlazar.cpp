@@ -4,6 +4,7 @@
 
 #include "editor/Cauces.h"
 #include "editor/ClasesConIcono.h"
+#include "editor/Destinos.h"
 #include "editor/Edicion.h"
 #include "editor/frmUEHs.h"
 #include "engine/ComponenteFinal.h"

@@ -6,6 +6,7 @@
 #include "editor/Alcance.h"
 #include "editor/Cauces.h"
 #include "editor/ClasesConIcono.h"
+#include "editor/Destinos.h"
 #include "editor/Edicion.h"
 #include "editor/Tender.h"
 #include "editor/frmUEHs.h"

@@ -2,23 +2,11 @@
 #include "editor/NombreComponente.h"
 
 #include "editor/Destinos.h"
+#include "model/Texto.h"
 
 namespace editor {
 
 namespace {
-
-/// The first n characters of a UTF-8 text.
-std::string_view Primeros(std::string_view texto, std::size_t n)
-{
-    constexpr unsigned MascaraContinuacion = 0xC0U;
-    constexpr unsigned Continuacion = 0x80U;
-    std::size_t caracteres = 0;
-    for (std::size_t i = 0; i < texto.size(); ++i) {
-        const bool empieza = (static_cast<unsigned char>(texto[i]) & MascaraContinuacion) != Continuacion;
-        if (empieza && ++caracteres > n) return texto.substr(0, i);
-    }
-    return texto;
-}
 
 template <typename Componentes>
 void Renombra(Componentes& componentes, std::string_view viejo, std::string_view nuevo, int salvo = 0)
@@ -33,7 +21,7 @@ void Renombra(Componentes& componentes, std::string_view viejo, std::string_view
 std::string NombreConPrefijo(std::string_view prefijo, std::string_view texto)
 {
     const std::string nombre = (texto.starts_with(prefijo) ? "" : std::string(prefijo)) + std::string(texto);
-    return std::string(Primeros(nombre, LargoNombre));
+    return model::PrimerosCaracteres(nombre, LargoNombre);
 }
 
 void RenombraDestinos(model::Siro& s, std::string_view viejo, std::string_view nuevo, SiguenNombre siguen)

@@ -1,19 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
 
+#include "editor/NombreComponente.h"
 #include "model/Coleccion.h"
 #include "model/Siro.h"
 #include "model/Texto.h"
 
 // Names of new components. The network is wired by them, so that none is given twice within its kind.
 namespace editor {
-
-inline constexpr std::size_t LargoNombre = 15;  // [characters]
 
 /// How the user is asked for the name of a new component.
 struct PeticionDeNombre {

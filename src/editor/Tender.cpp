@@ -7,6 +7,7 @@
 #include "editor/Alcance.h"
 #include "editor/Cauces.h"
 #include "editor/ClasesConIcono.h"
+#include "editor/Destinos.h"
 #include "engine/ComponenteFinal.h"
 #include "model/Avisos.h"
 
@@ -21,32 +22,32 @@ constexpr std::string_view ConElCauce = "> con el cauce <";
 constexpr double InicioBandaX = 1.5, InicioBandaY = 0.25;  // from the position of the icon [sizes s]
 
 /// What a link has come to.
-struct Destino {
+struct Llegada {
     std::string nombre{};
     Punto en{};                ///< where the component will meet it
     std::string_view clase{};  ///< how the question goes on after the component's name
 };
 
 /// The first reach whose head is near the pointer. Returns false where none is.
-bool LlegaACauce(const frmUEHs& f, const Siro& s, Punto p, Destino& destino)
+bool LlegaACauce(const frmUEHs& f, const Siro& s, Punto p, Llegada& llegada)
 {
     for (int i = 1; i <= CaucesEnteros(s); ++i) {
         const Punto cabecera = UltimoVertice(s, i);
         if (!Cerca(p, cabecera, AlcanceDeDestino * f.TamIcono)) continue;
-        destino = {s.ColCauces.Item(i).NombreCauce, cabecera, ConElCauce};
+        llegada = {s.ColCauces.Item(i).NombreCauce, cabecera, ConElCauce};
         return true;
     }
     return false;
 }
 
 /// The first Represa, or Lago, whose box holds the pointer. Returns false where none does.
-bool LlegaAEmbalse(const frmUEHs& f, const Siro& s, Punto p, Destino& destino)
+bool LlegaAEmbalse(const frmUEHs& f, const Siro& s, Punto p, Llegada& llegada)
 {
     const auto llega = [&](const auto& clase) {
         const int n = Bajo(f, s, clase, p);
         if (n == 0) return false;
         const auto& componente = (s.*clase.coleccion).Item(n);
-        destino = {componente.*clase.nombre, Icono(clase, componente), clase.conDestino};
+        llegada = {componente.*clase.nombre, Icono(clase, componente), clase.conDestino};
         return true;
     };
     return llega(ClaseRepresa) || llega(ClaseLago);
@@ -65,18 +66,18 @@ bool OtroDrena(const Siro& s, const T& este, const std::string& cauce)
 }
 
 template <typename T, int Limite>
-void AcoplaSiConfirma(Siro& s, const ClaseConIcono<T, Limite>& clase, const Destino& destino)
+void AcoplaSiConfirma(Siro& s, const ClaseConIcono<T, Limite>& clase, const Llegada& llegada)
 {
     T& componente = Elegido(s, clase);
     const std::string& nombre = componente.*clase.nombre;
     const std::string texto =
-        std::string(clase.confirmaArrastre) + nombre + std::string(destino.clase) + destino.nombre + ">";
+        std::string(clase.confirmaArrastre) + nombre + std::string(llegada.clase) + llegada.nombre + ">";
     if (!model::Consulta(s, texto, TituloConsulta)) return;
-    if (!clase.otroAcople.empty() && OtroDrena(s, componente, destino.nombre)) {
+    if (!clase.otroAcople.empty() && OtroDrena(s, componente, llegada.nombre)) {
         model::Informa(s, std::string(clase.otroAcople) + (clase.nombraOtroAcople ? nombre : std::string()));
         return;
     }
-    Acopla(componente, destino.nombre, destino.en);
+    Acopla(componente, llegada.nombre, llegada.en);
 }
 
 template <typename T, int Limite>
@@ -87,9 +88,9 @@ void Tiende(frmUEHs& f, Siro& s, const ClaseConIcono<T, Limite>& clase, Punto p)
                 static_cast<float>(icono.Y + InicioBandaY * f.TamIcono)},
                p};
     Redibuja(f, s);
-    Destino destino;
-    if (!LlegaACauce(f, s, p, destino) && !(clase.enlazaEmbalses && LlegaAEmbalse(f, s, p, destino))) return;
-    AcoplaSiConfirma(s, clase, destino);
+    Llegada llegada;
+    if (!LlegaACauce(f, s, p, llegada) && !(clase.enlazaEmbalses && LlegaAEmbalse(f, s, p, llegada))) return;
+    AcoplaSiConfirma(s, clase, llegada);
     AbandonaArrastre(f, s);
 }
 
