@@ -136,6 +136,17 @@ void CopiaProyecto(Siro& s, const std::string& viejo, const std::string& nuevo)
     copia("_LHASQ.vlm");
 }
 
+/// Opens the project of a configuration file; of any other file, none.
+void AbreRuta(Siro& s, std::string_view ruta)
+{
+    if (!TomaRutaProyecto(s, ruta)) return;
+    // The labels come before the configuration and so show the earlier titles: kept as it stands. A pointer
+    // that can't be written keeps no project from being opened.
+    Sentencia([&] { carga_lbl_proyecto(s); }, [](const Falla&) {});
+    leoConf(s);
+    s.Anfitrion.HabilitaGuardarComo();
+}
+
 /// Runs what New and Save as do on disk: a fault that they have no answer for ends the program.
 template <typename F>
 void ConFallaFatal(const Siro& s, F&& cuerpo)
@@ -220,12 +231,13 @@ void mnuAbrirProyecto(Siro& s)
 {
     LimpiaProyecto(s);
     const std::string ruta = s.Anfitrion.EligeArchivo(TituloAbrir, FiltroAbrir);
-    if (ruta.empty() || !TomaRutaProyecto(s, ruta)) return;
-    // The labels come before the configuration and so show the earlier titles: kept as it stands. A pointer
-    // that can't be written keeps no project from being opened.
-    Sentencia([&] { carga_lbl_proyecto(s); }, [](const Falla&) {});
-    leoConf(s);
-    s.Anfitrion.HabilitaGuardarComo();
+    if (!ruta.empty()) AbreRuta(s, ruta);
+}
+
+void AbreProyectoDe(Siro& s, std::string_view ruta)
+{
+    LimpiaProyecto(s);
+    AbreRuta(s, ruta);
 }
 
 bool TomaRutaProyecto(Siro& s, std::string_view ruta)

@@ -46,6 +46,9 @@ void mnuNuevoProyecto(Siro& s);
 /// Asks for a configuration file and opens its project. Faults never end the program.
 void mnuAbrirProyecto(Siro& s);
 
+/// The same with a file that has been chosen already. Its path is whole and has the platform's separators.
+void AbreProyectoDe(Siro& s, std::string_view ruta);
+
 /// What a path says of a project: DirProyecto, NombreProyecto, and DirProyectoConf, the path up to its first
 /// separator. Returns false, with no project, where the path doesn't end in "_Conf.vlm".
 bool TomaRutaProyecto(Siro& s, std::string_view ruta);

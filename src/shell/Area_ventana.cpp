@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/Area_ventana.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QEvent>
+#include <QMenu>
+
+namespace shell {
+namespace {
+
+constexpr int PrimerasConTecla = 9;
+
+void AgregaOrden(QMenu& menu, const char* nombre, const QString& leyenda, const QString& ayuda,
+                 std::function<void()> rutina)
+{
+    QAction* const accion = menu.addAction(leyenda);
+    accion->setObjectName(QString::fromLatin1(nombre));
+    accion->setStatusTip(ayuda);
+    QObject::connect(accion, &QAction::triggered, &menu, std::move(rutina));
+}
+
+/// A title as the caption of a menu entry; the first ones are reached by their number.
+QString Leyenda(int numero, QString titulo)
+{
+    titulo.replace(QLatin1Char('&'), QStringLiteral("&&"));
+    return numero > PrimerasConTecla ? titulo : QStringLiteral("&%1 %2").arg(numero).arg(titulo);
+}
+
+}  // namespace
+
+Area::Area(QWidget* padre) : QMdiArea(padre)
+{
+    setObjectName(QStringLiteral("AreaVentanas"));
+    setAccessibleName(QStringLiteral("Ventanas de resultados"));
+    setActivationOrder(QMdiArea::ActivationHistoryOrder);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setBackground(palette().brush(QPalette::Mid));
+}
+
+QMdiSubWindow* Area::Hija(const QWidget& ventana) const
+{
+    for (QMdiSubWindow* hija : subWindowList())
+        if (hija->widget() == &ventana) return hija;
+    return nullptr;
+}
+
+void Area::Presenta(QWidget& ventana)
+{
+    QMdiSubWindow* hija = Hija(ventana);
+    if (hija == nullptr) {
+        hija = addSubWindow(&ventana);
+        hija->setAttribute(Qt::WA_DeleteOnClose, false);  // its window belongs to someone else
+        hija->setObjectName(QStringLiteral("marco_") + ventana.objectName());
+        ventana.installEventFilter(this);
+    }
+    ventana.show();
+    if (hija->isMinimized() || hija->isShaded()) hija->showNormal();
+    hija->show();
+    setActiveSubWindow(hija);
+}
+
+void Area::Saca(QWidget& ventana)
+{
+    QMdiSubWindow* const hija = Hija(ventana);
+    if (hija == nullptr) return;
+    ventana.removeEventFilter(this);
+    removeSubWindow(&ventana);
+    removeSubWindow(hija);
+    delete hija;
+}
+
+// A window that closes itself leaves an empty frame, which goes with it. One that is minimized is hidden too.
+bool Area::eventFilter(QObject* objeto, QEvent* evento)
+{
+    auto* const ventana = qobject_cast<QWidget*>(objeto);
+    if (evento->type() == QEvent::Hide && ventana != nullptr && ventana->isHidden()) {
+        QMdiSubWindow* const hija = Hija(*ventana);
+        if (hija != nullptr && !hija->isMinimized() && !hija->isShaded()) hija->hide();
+    }
+    return QMdiArea::eventFilter(objeto, evento);
+}
+
+void Area::LlenaMenu(QMenu& menu)
+{
+    AgregaOrden(menu, "mnuVentanaCascada", QStringLiteral("&Cascada"),
+                QStringLiteral("Pone las ventanas una sobre otra, con sus títulos a la vista"),
+                [this] { cascadeSubWindows(); });
+    AgregaOrden(menu, "mnuVentanaMosaico", QStringLiteral("&Mosaico"),
+                QStringLiteral("Pone las ventanas una junto a otra"), [this] { tileSubWindows(); });
+    menu.addSeparator();
+    QObject::connect(&menu, &QMenu::aboutToShow, this, [this, &menu] { ListaVentanas(menu); });
+}
+
+void Area::ListaVentanas(QMenu& menu)
+{
+    for (QAction* accion : menu.actions())
+        if (accion->isCheckable()) delete accion;
+    int numero = 0;
+    for (QMdiSubWindow* hija : subWindowList()) {
+        if (hija->isHidden()) continue;
+        QAction* const accion = menu.addAction(Leyenda(++numero, hija->windowTitle()));
+        accion->setObjectName(QStringLiteral("mnuVentana_%1").arg(numero));
+        accion->setCheckable(true);
+        accion->setChecked(hija == activeSubWindow());
+        QObject::connect(accion, &QAction::triggered, hija, [this, hija] { Presenta(*hija->widget()); });
+    }
+}
+
+}  // namespace shell

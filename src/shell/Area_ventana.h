@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QMdiArea>
+#include <QMdiSubWindow>
+
+class QMenu;
+
+namespace shell {
+
+/// The room of the main window in which Slate, charts and tables stand.
+class Area : public QMdiArea {
+  public:
+    explicit Area(QWidget* padre);
+
+    /// Opens a window here, or brings it to the front.
+    void Presenta(QWidget& ventana);
+    /// Takes a window out, so that it can stand on its own; one that isn't here stays as it is.
+    void Saca(QWidget& ventana);
+    /// Arranging commands and, below them, the windows that are open; done anew whenever it opens.
+    void LlenaMenu(QMenu& menu);
+
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
+
+  private:
+    [[nodiscard]] QMdiSubWindow* Hija(const QWidget& ventana) const;
+    void ListaVentanas(QMenu& menu);
+};
+
+}  // namespace shell

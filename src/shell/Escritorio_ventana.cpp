@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/Escritorio_ventana.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QDialog>
+#include <QDir>
+#include <QUrl>
+
+#include "forms/Cajas_ventana.h"
+#include "forms/Textos_ventana.h"
+#include "model/Avisos.h"
+#include "shell/dlgEliminarProyecto_ventana.h"
+#include "shell/frmAcerca_ventana.h"
+#include "shell/frmInicio_ventana.h"
+
+namespace shell {
+
+using forms::Q;
+
+namespace {
+
+constexpr std::string_view TodaviaNo = "Esta ventana todavía no está disponible.";
+
+}  // namespace
+
+Escritorio::Escritorio(const std::string& dirTrabajo)
+{
+    s.DirEjecutable = dirTrabajo;
+    PonAnfitrion();
+    PonPizarra();
+    PonAvance();
+    PonMandos();
+    entorno.Presenta = [this](QWidget& ventana) { Presenta(ventana); };
+    ventanaPrincipal = std::make_unique<MDIForm1_ventana>(entorno, principal, mandos);
+    ventanaAvance = std::make_unique<frmPp2_ventana>(avance, ventanaPrincipal.get());
+}
+
+Escritorio::~Escritorio() = default;
+
+void Escritorio::Arranca(double segundosPortada, const std::string& archivoConf)
+{
+    entorno.Atiende([&] {
+        frmInicio_ventana portada;
+        const Portada pasos{
+            .Abre = [&](const std::string& version) { portada.Abre(version); },
+            .AtiendeSucesos = [] { QCoreApplication::processEvents(QEventLoop::AllEvents); },
+            .Cierra = [&] { portada.close(); },
+        };
+        Prepara(s, pasos, SIRO_VERSION, segundosPortada);
+        AlAbrirse(principal, s);
+        ventanaPrincipal->Abre();
+        if (!archivoConf.empty()) model::AbreProyectoDe(s, archivoConf);
+    });
+}
+
+int Escritorio::Atiende()
+{
+    const int estado = entorno.Terminando() ? entorno.Estado() : QApplication::exec();
+    ventanaPrincipal->GuardaLugar();
+    return estado;
+}
+
+// --- what the rules ask of the world -------------------------------------------------------------------
+
+void Escritorio::PonAnfitrion()
+{
+    forms::PonCajas(s.Anfitrion, entorno);
+    s.Anfitrion.carga_lbl_proyecto = [this] {
+        carga_lbl_proyecto(principal, s);
+        ventanaPrincipal->Muestra();
+    };
+    const auto habilita = [this](Variable entrada) {
+        principal.Estado(entrada).habilitada = true;
+        ventanaPrincipal->Muestra();
+    };
+    s.Anfitrion.HabilitaGuardarComo = [habilita] { habilita(Variable::mnuGuardarProyectoComo); };
+    s.Anfitrion.HabilitaVerificacion = [habilita] {
+        habilita(Variable::mnu_prueba_funcionesSHVrepresas);
+        habilita(Variable::mnu_prueba_funcionesHQrepresas);
+    };
+    s.Anfitrion.AbreTablaSerie = [this] { Abre(Ventana::dlgTablaSalePDR, false); };
+}
+
+void Escritorio::PonPizarra()
+{
+    s.Anfitrion.MarcaPizarra = [this] { return principal.Estado(Variable::mnuPizarra1).marcada; };
+    s.Anfitrion.PonMarcaPizarra = [this](bool marca) {
+        principal.Estado(Variable::mnuPizarra1).marcada = marca;
+        ventanaPrincipal->Muestra();
+    };
+    s.Anfitrion.AbrePizarra = [this] { Abre(Ventana::frmPp, false); };
+    s.Anfitrion.LeePizarra = [this] { return pizarra; };
+    s.Anfitrion.PonPizarra = [this](std::string_view texto) { pizarra = texto; };
+    s.Anfitrion.AmpliaPizarra = [this](const std::string& texto) { pizarra = texto; };
+    s.Anfitrion.AgregaPizarra = [this](std::string_view texto) { pizarra += texto; };
+}
+
+void Escritorio::PonAvance()
+{
+    s.Anfitrion.AbreAvance = [this](std::string_view titulo) {
+        avance = {.abierta = true, .titulo = std::string(titulo)};
+        ventanaAvance->Muestra();
+    };
+    s.Anfitrion.TextosAvance = [this](std::string_view primero, std::string_view segundo) {
+        avance.primero = primero;
+        avance.segundo = segundo;
+        ventanaAvance->Muestra();
+    };
+    s.Anfitrion.BarraAvance = [this](int porcentaje) {
+        avance.porcentaje = porcentaje;
+        ventanaAvance->Muestra();
+    };
+    s.Anfitrion.CierraAvance = [this] {
+        avance.abierta = false;
+        ventanaAvance->Muestra();
+    };
+}
+
+// --- what the commands of the main window ask for ------------------------------------------------------
+
+void Escritorio::PonMandos()
+{
+    mandos.Abre = [this](Ventana ventana) { Abre(ventana, true); };
+    mandos.AbreSinEsperar = [this](Ventana ventana) { Abre(ventana, false); };
+    mandos.Cierra = [this](Ventana ventana) { Cierra(ventana); };
+    mandos.NotasDeTormenta = [this] { return rainfall::TituloDeTormenta(lluvia, s); };
+    mandos.PunteroDeEspera = [](bool espera) {
+        if (espera) {
+            QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+            PintaYa();
+        } else {
+            QGuiApplication::restoreOverrideCursor();
+        }
+    };
+    mandos.AbreConElSistema = [](const std::string& ruta) {
+        return QDesktopServices::openUrl(QUrl::fromLocalFile(QDir::fromNativeSeparators(Q(ruta))));
+    };
+}
+
+void Escritorio::Abre(Ventana ventana, bool /*espera*/)
+{
+    switch (ventana) {
+    case Ventana::dlgEliminarProyecto:
+        return dlgEliminarProyecto_ventana(entorno, eliminar, ventanaPrincipal.get()).Abre();
+    case Ventana::frmAcerca:
+        return frmAcerca_ventana(entorno, ventanaPrincipal.get()).Abre();
+    default:
+        return model::Informa(s, std::string(TodaviaNo));
+    }
+}
+
+void Escritorio::Cierra(Ventana /*ventana*/) {}
+
+void Escritorio::Presenta(QWidget& ventana)
+{
+    auto* const dueno = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (dueno == nullptr) return ventanaPrincipal->Ventanas().Presenta(ventana);
+    if (ventana.parentWidget() != dueno) {
+        ventanaPrincipal->Ventanas().Saca(ventana);
+        ventana.setParent(dueno, Qt::Window);
+        // It goes with the form that asked for it, and can then stand elsewhere.
+        QObject::connect(dueno, &QDialog::finished, &ventana, [&ventana] {
+            ventana.close();
+            ventana.setParent(nullptr);
+        });
+    }
+    ventana.show();
+    ventana.raise();
+    ventana.activateWindow();
+}
+
+}  // namespace shell

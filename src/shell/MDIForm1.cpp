@@ -1,0 +1,234 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/MDIForm1.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "engine/mdlSeriePDR.h"
+#include "engine/modProceso0.h"
+#include "model/Avisos.h"
+#include "model/Disco.h"
+#include "model/VidaProyecto.h"
+#include "results/dlgChart2.h"
+
+namespace shell {
+
+using model::Siro;
+
+namespace {
+
+constexpr auto FormaSerie = static_cast<std::int16_t>(model::FormaLluvia::SeriePDR);
+constexpr int TodosLosNucleos = 0;
+constexpr std::string_view TituloExplora = "Editar Directorios y Archivos";
+constexpr std::string_view FiltroExplora = "Todos los archivos (*) |*";
+constexpr std::string_view CarpetaAyuda = "Ayuda";
+constexpr std::string_view AyudaCompilada = "AyudaSIRO.chm";
+constexpr std::string_view PaginaInicial = "indice.html";
+
+/// The wait pointer for as long as it lives, whatever ends the run.
+struct Espera {
+    explicit Espera(const Mandos& mandos) : m(mandos) { m.PunteroDeEspera(true); }
+    ~Espera() { m.PunteroDeEspera(false); }
+    Espera(const Espera&) = delete;
+    Espera& operator=(const Espera&) = delete;
+    const Mandos& m;
+};
+
+bool ProyectoParaCorrer(const Siro& s)
+{
+    return !s.NombreProyecto.empty() && !s.DirProyecto.empty();
+}
+
+bool CorridaLarga(const Siro& s)
+{
+    return s.DurTormenta > DurCorridaLarga || s.NroPasosQ >= PasosCorridaLarga;
+}
+
+bool HayArchivoDeAyuda(const Siro& s, std::string_view nombre)
+{
+    try {
+        const auto archivos = s.Disco.Lista(model::Ruta(s.DirTrabajo, CarpetaAyuda));
+        return std::find(archivos.begin(), archivos.end(), nombre) != archivos.end();
+    } catch (const model::Falla&) {
+        return false;
+    }
+}
+
+/// Shows the help. Throws Falla 53 where there is none.
+void AbreAyuda(const Siro& s, const Mandos& m)
+{
+    const auto ruta = [&](std::string_view nombre) {
+        return model::Ruta(model::Ruta(s.DirTrabajo, CarpetaAyuda), nombre);
+    };
+    if (HayArchivoDeAyuda(s, AyudaCompilada) && m.AbreConElSistema(ruta(AyudaCompilada))) return;
+    if (!HayArchivoDeAyuda(s, PaginaInicial)) throw model::Falla{model::NumeroFalla::ArchivoNoEsta};
+    m.AbrePaginaDeAyuda(ruta(PaginaInicial));
+}
+
+}  // namespace
+
+// --- opening, labels, closing --------------------------------------------------------------------------
+
+void Abre(MDIForm1& f)
+{
+    f = {};
+    f.titulo = TituloMDIForm1;
+    f.Estado(Variable::mnuGuardarProyectoComo).habilitada = false;
+    f.Estado(Variable::mnu_prueba_funcionesSHVrepresas).habilitada = false;
+    f.Estado(Variable::mnu_prueba_funcionesHQrepresas).habilitada = false;
+}
+
+void carga_lbl_proyecto(MDIForm1& f, Siro& s)
+{
+    const auto pon = [&](Rotulo r, std::string texto) {
+        f.rotulos[static_cast<std::size_t>(r)] = std::move(texto);
+    };
+    pon(Rotulo::lblProyecto, s.NombreProyecto);
+    pon(Rotulo::lblTitulo, s.frmConfigura.TextProyecto);
+    pon(Rotulo::lblMiDirTrabajo, s.DirProyecto);
+    pon(Rotulo::lblFileProyecto, s.NombreProyecto + "_Conf.vlm");
+    pon(Rotulo::lblCuenca, s.frmConfigura.TextCuenca);
+    pon(Rotulo::lblSubCuenca, s.frmConfigura.TextSbca);
+    pon(Rotulo::lblUbicacion, s.frmConfigura.TextUbica);
+    // The first name lacks the "s" of the file on disk: kept as it stands.
+    pon(Rotulo::lblFilesTrabajo, s.NombreProyecto + "_UEH.vlm\r" + s.NombreProyecto + "_VerCau.vlm");
+    model::Sentencia([&] { model::GuardaPuntero(s); }, [](const model::Falla&) {});
+}
+
+bool RotuloCrece(double x, double y)
+{
+    constexpr double Izquierda = 20;
+    constexpr double Derecha = 600;
+    constexpr double Arriba = 40;
+    constexpr double Abajo = 110;
+    return x >= Izquierda && x < Derecha && y >= Arriba && y < Abajo;
+}
+
+void Cierra(Siro& s)
+{
+    model::Sentencia([&] { model::GuardaPuntero(s); }, [](const model::Falla&) {});
+    s.Anfitrion.Termina();
+}
+
+// --- commands ------------------------------------------------------------------------------------------
+
+bool ExigeProyecto(const Siro& s)
+{
+    if (!s.NombreProyecto.empty()) return true;
+    model::Advierte(s, std::string(TextoSinProyecto), TituloSinProyecto);
+    return false;
+}
+
+void mnuDirCrea(MDIForm1& /*f*/, Siro& s, const Mandos& /*m*/)
+{
+    s.Anfitrion.EligeArchivo(TituloExplora, FiltroExplora);
+}
+
+void mnuOpcionesConfigurar(MDIForm1& /*f*/, Siro& s, const Mandos& m)
+{
+    m.Abre(Ventana::frmConfigura);
+    model::carga_lbl_proyecto(s);
+}
+
+void mnufrmUEHs(MDIForm1& /*f*/, Siro& s, const Mandos& m)
+{
+    s.ColCauces.Vacia();
+    s.ColUEHs.Vacia();
+    s.ColLagos.Vacia();
+    s.ColRepresas.Vacia();
+    if (ExigeProyecto(s))
+        m.Abre(Ventana::frmUEHs);
+    else
+        m.Cierra(Ventana::frmUEHs);
+}
+
+void mnufrmPp(MDIForm1& /*f*/, Siro& s, const Mandos& m)
+{
+    if (s.NombreProyecto.empty() && s.ArchivoTemp.empty()) return;
+    m.Abre(Ventana::dlgPp);
+}
+
+void mnuCorre1(MDIForm1& /*f*/, Siro& s, const Mandos& m)
+{
+    if (!ProyectoParaCorrer(s) || s.FormaPp == FormaSerie) return;
+    s.PasoQ = std::min(s.PasoQ, s.PasoPp);
+    const Espera espera(m);
+    if (CorridaLarga(s)) {
+        s.Anfitrion.AbreAvance(TituloAvanceUna);
+        s.Anfitrion.TextosAvance(TextoAvanceUna, "");
+    }
+    engine::CorreUnaTormenta(s);
+    m.Abre(Ventana::dlgChart2);
+    // The run may have settled its number of steps anew, and then this closes what wasn't opened, or leaves
+    // open what was: kept as it stands.
+    if (CorridaLarga(s)) s.Anfitrion.CierraAvance();
+}
+
+void mnuCorre2(MDIForm1& f, Siro& s, const Mandos& m)
+{
+    if (!ProyectoParaCorrer(s) || s.FormaPp != FormaSerie) return;
+    s.PasoQ = std::min(s.PasoQ, s.PasoPp);
+    if (s.NroSeriePDR < 1) {
+        m.PunteroDeEspera(false);
+        return;
+    }
+    if (!s.Anfitrion.Confirma(
+            {std::string(TextoContinuar), std::string(TituloContinuar), model::Icono::Pregunta}))
+        return;
+    const Espera espera(m);
+    s.SalidaPizarra = false;
+    f.Estado(Variable::mnuPizarra1).marcada = false;
+    engine::CorreSeriePDR(s, TodosLosNucleos);
+    m.Abre(Ventana::dlgChart3);
+}
+
+void mnuPizarra1(MDIForm1& f, Siro& s, const Mandos& m)
+{
+    bool& marcada = f.Estado(Variable::mnuPizarra1).marcada;
+    f.VerPizarra = false;
+    if (!ExigeProyecto(s)) {
+        marcada = false;
+        return;
+    }
+    if (marcada) {
+        marcada = false;
+        s.SalidaPizarra = false;
+        m.Cierra(Ventana::frmPp);
+        return;
+    }
+    marcada = true;
+    s.SalidaPizarra = true;
+    m.Abre(Ventana::frmPp);
+    s.Anfitrion.PonPizarra(s.TextoPizarra);
+}
+
+void VerPizarra(MDIForm1& f, Siro& s, const Mandos& m)
+{
+    f.Estado(Variable::mnuPizarra1).marcada = f.VerPizarra;
+    mnuPizarra1(f, s, m);
+}
+
+void mnuGraficoPp(MDIForm1& /*f*/, Siro& s, const Mandos& m)
+{
+    if (s.PpTormenta == 0 || s.DurTormenta == 0) return;
+    const std::optional<results::Hietograma> pedido = results::mnuGraficoPp(s, m.NotasDeTormenta());
+    // Building it may find the storm to be none.
+    if (s.PpTormenta == 0 || s.DurTormenta == 0) s.Anfitrion.Termina();
+    if (pedido) m.AbreHietograma(*pedido);
+}
+
+void mnuHidrogramas(MDIForm1& /*f*/, Siro& s, const Mandos& m)
+{
+    if (results::mnuHidrogramas(s)) m.Abre(Ventana::dlgChart2);
+}
+
+void mnuHelpContents(MDIForm1& /*f*/, Siro& s, const Mandos& m)
+{
+    const auto informa = [&](const model::Falla& falla) {
+        model::Informa(s, model::TextoFallaMotor(falla));
+        s.Anfitrion.Termina();
+    };
+    model::Sentencia([&] { AbreAyuda(s, m); }, informa);
+}
+
+}  // namespace shell

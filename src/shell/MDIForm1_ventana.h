@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QMainWindow>
+#include <array>
+#include <vector>
+
+#include "forms/Formulario_ventana.h"
+#include "shell/Area_ventana.h"
+#include "shell/MDIForm1.h"
+
+class QAction;
+class QMenu;
+
+namespace shell {
+
+class RotuloProyecto;
+
+/// The main window: menu, toolbar, labels of the project, and the room where its other windows stand.
+class MDIForm1_ventana : public QMainWindow, protected forms::Sucesos {
+  public:
+    MDIForm1_ventana(forms::Entorno& entorno, MDIForm1& reglas, const Mandos& mandos);
+
+    /// Shows the window as it was left the last time; the record has been opened before.
+    void Abre();
+    /// Remembers place, size and toolbar for the next time.
+    void GuardaLugar();
+    void Muestra() override;
+
+    /// Where Slate, charts and tables stand.
+    Area& Ventanas() { return *area; }
+
+  protected:
+    void closeEvent(QCloseEvent* evento) override;
+    void dragEnterEvent(QDragEnterEvent* evento) override;
+    void dropEvent(QDropEvent* evento) override;
+
+  private:
+    void ArmaMenu();
+    QAction* AgregaEntrada(QMenu& menu, const FilaMenu& fila);
+    void ArmaBarra();
+    QWidget* ArmaRotulos(QWidget* padre);
+    void Ejecuta(Rutina rutina);
+
+    MDIForm1& f;
+    const Mandos& mandos;
+    Area* area = nullptr;
+    std::array<QAction*, NroVariables> variables{};
+    std::array<RotuloProyecto*, NroRotulos> rotulos{};
+};
+
+}  // namespace shell

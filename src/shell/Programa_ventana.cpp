@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/Programa_ventana.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QLibraryInfo>
+#include <QStandardPaths>
+#include <QStyleFactory>
+#include <QTranslator>
+
+#include "forms/Cajas_ventana.h"
+#include "forms/Textos_ventana.h"
+#include "shell/Escritorio_ventana.h"
+#include "shell/Iconos_ventana.h"
+
+namespace shell {
+namespace {
+
+using forms::DeQ;
+
+constexpr char SinPortada[] = "--sin-portada";
+
+/// What came with the program: beside it, or where an installation puts it; empty where there is none.
+QString DirEntregado(const QString& dirEjecutable)
+{
+    for (const char* const lugar : {"/data", "/../share/siro"}) {
+        const QDir directorio(dirEjecutable + QLatin1String(lugar));
+        if (directorio.exists()) return directorio.absolutePath();
+    }
+    return {};
+}
+
+std::string DirTrabajo()
+{
+    const QString dirEjecutable = QCoreApplication::applicationDirPath();
+    const QString dirUsuario = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
+    const auto nativa = [](const QString& ruta) { return DeQ(QDir::toNativeSeparators(ruta)); };
+    if (!QFileInfo(dirEjecutable).isWritable()) QDir().mkpath(dirUsuario);
+    return PreparaDirTrabajo(model::DiscoDelSistema(), nativa(dirEjecutable), nativa(dirUsuario),
+                             nativa(DirEntregado(dirEjecutable)));
+}
+
+void PonAspecto(QApplication& programa, QTranslator& castellano)
+{
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setWindowIcon(IconoDelPrograma());
+    if (castellano.load(QStringLiteral("qtbase_es"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        programa.installTranslator(&castellano);
+}
+
+struct Palabras {
+    double segundosPortada = SegundosPortada;
+    std::string archivoConf{};
+};
+
+Palabras LeePalabras(const QStringList& argumentos)
+{
+    Palabras palabras;
+    for (const QString& palabra : argumentos.mid(1)) {
+        if (palabra == QLatin1String(SinPortada))
+            palabras.segundosPortada = 0;
+        else
+            palabras.archivoConf = DeQ(QDir::toNativeSeparators(QFileInfo(palabra).absoluteFilePath()));
+    }
+    return palabras;
+}
+
+}  // namespace
+
+int Programa(int& argc, char** argv)
+{
+    QApplication programa(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("siro"));
+    QCoreApplication::setOrganizationName(QLatin1String(forms::NombrePrograma));
+    QCoreApplication::setApplicationVersion(QStringLiteral(SIRO_VERSION));
+    QGuiApplication::setApplicationDisplayName(QString());
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    QTranslator castellano;
+    PonAspecto(programa, castellano);
+
+    Escritorio escritorio(DirTrabajo());
+    const Palabras palabras = LeePalabras(QCoreApplication::arguments());
+    escritorio.Arranca(palabras.segundosPortada, palabras.archivoConf);
+    return escritorio.Atiende();
+}
+
+}  // namespace shell
