@@ -2,8 +2,8 @@
 #include "forms/Grafico.h"
 
 #include <algorithm>
-#include <string_view>
 
+#include "forms/Csv.h"
 #include "model/Numeros.h"
 #include "model/Texto.h"
 
@@ -21,15 +21,21 @@ void PonDivisiones(EscalaCategorias& escala, std::int32_t divisiones)
     escala.marcaDeRotulo = true;
 }
 
-std::string EntreComillas(std::string_view texto)
+std::string CeldaComoCsv(double celda)
 {
-    std::string campo = "\"";
-    for (const char c : texto)
-        campo.append(c == '"' ? 2 : 1, c);
-    return campo += '"';
+    if (EstaVacia(celda)) return {};
+    if (celda == std::floor(celda)) return model::NumeroATexto(celda);
+    return model::NumeroATexto(static_cast<float>(celda));
 }
 
 }  // namespace
+
+bool Serie::operator==(const Serie& otra) const
+{
+    const auto iguales = [](double a, double b) { return a == b || (EstaVacia(a) && EstaVacia(b)); };
+    return tipo == otra.tipo && leyenda == otra.leyenda && ejeSecundario == otra.ejeSecundario &&
+           std::equal(celdas.begin(), celdas.end(), otra.celdas.begin(), otra.celdas.end(), iguales);
+}
 
 void MasDivisiones(EscalaCategorias& escala)
 {
@@ -44,14 +50,14 @@ void MenosDivisiones(EscalaCategorias& escala)
 
 std::string CeldasComoCsv(const Grafico& grafico)
 {
-    std::string csv = EntreComillas(grafico.ejeX);
+    std::string csv = CampoCsv(grafico.ejeX);
     for (const Serie& serie : grafico.series)
-        csv.append(",").append(EntreComillas(serie.leyenda));
+        csv.append(",").append(CampoCsv(serie.leyenda));
     csv += model::SaltoLinea;
     for (std::size_t i = 0; i < grafico.categorias.size(); ++i) {
         csv += grafico.categorias[i];
         for (const Serie& serie : grafico.series)
-            csv.append(",").append(model::NumeroATexto(static_cast<float>(serie.celdas[i])));
+            csv.append(",").append(CeldaComoCsv(serie.celdas[i]));
         csv += model::SaltoLinea;
     }
     return csv;

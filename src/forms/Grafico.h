@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cmath>
+#include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -12,13 +15,28 @@ namespace forms {
 enum class TipoGrafico : std::uint8_t { Combinacion, Linea };  ///< lines and steps together; lines alone
 enum class TipoSerie : std::uint8_t { Linea2D, Escalon2D };
 
+/// A cell without a value: nothing is drawn there.
+inline constexpr double CeldaVacia = std::numeric_limits<double>::quiet_NaN();
+inline bool EstaVacia(double celda)
+{
+    return std::isnan(celda);
+}
+
 /// A column of cells, row 1 at index 0.
 struct Serie {
     TipoSerie tipo = TipoSerie::Escalon2D;
     std::string leyenda{};
     bool ejeSecundario = false;
     std::vector<double> celdas{};
-    bool operator==(const Serie&) const = default;
+    /// Empty cells equal one another.
+    bool operator==(const Serie& otra) const;
+};
+
+/// A cell that stands out in the drawing, series and row from 0, and what is written beside it.
+struct Marca {
+    std::size_t serie = 0, fila = 0;
+    std::string rotulo{};
+    bool operator==(const Marca&) const = default;
 };
 
 /// Divisions of the category scale.
@@ -34,6 +52,7 @@ struct Grafico {
     TipoGrafico tipo = TipoGrafico::Combinacion;
     std::vector<std::string> categorias{};  ///< row 1 at index 0
     std::vector<Serie> series{};
+    std::vector<Marca> marcas{};
     std::string titulo{}, notaAlPie{};
     std::string ejeX{}, ejeY{}, ejeYSecundario{};
     bool leyendaVisible = false;
@@ -47,7 +66,8 @@ void MasDivisiones(EscalaCategorias& escala);
 void MenosDivisiones(EscalaCategorias& escala);
 
 /// The cells as text for a spreadsheet: a line of titles, then a line per row, fields parted by commas and
-/// lines ended by CR LF. Cells have the seven digits of the arrays that they come from.
+/// lines ended by CR LF. Whole numbers have all their digits, other cells the seven of the arrays that they
+/// come from; nothing stands for an empty cell.
 std::string CeldasComoCsv(const Grafico& grafico);
 
 }  // namespace forms

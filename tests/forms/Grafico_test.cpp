@@ -44,5 +44,26 @@ TEST(CeldasDeGrafico, SeGuardanComoTextoSeparadoPorComas)
     EXPECT_EQ(CeldasComoCsv({}), "\"\"\r\n");
 }
 
+TEST(CeldasDeGrafico, UnaVaciaNoDejaNadaYUnVolumenTodasSusCifras)
+{
+    Grafico grafico;
+    grafico.categorias = {"60", "120"};
+    grafico.series = {{TipoSerie::Linea2D, "10", false, {CeldaVacia, 1234567890}},
+                      {TipoSerie::Linea2D, "25", false, {0.123456789, CeldaVacia}}};
+    EXPECT_EQ(CeldasComoCsv(grafico), "\"\",\"10\",\"25\"\r\n60,,0.1234568\r\n120,1234567890,\r\n");
+}
+
+TEST(CeldasDeGrafico, LasVaciasSonIgualesEntreSiYANingunaOtra)
+{
+    const Serie vacia{TipoSerie::Linea2D, "10", false, {CeldaVacia, 1}};
+    EXPECT_EQ(vacia, (Serie{TipoSerie::Linea2D, "10", false, {CeldaVacia, 1}}));
+    EXPECT_NE(vacia, (Serie{TipoSerie::Linea2D, "10", false, {0, 1}}));
+    EXPECT_NE(vacia, (Serie{TipoSerie::Linea2D, "10", false, {CeldaVacia, 2}}));
+    EXPECT_NE(vacia, (Serie{TipoSerie::Linea2D, "10", false, {CeldaVacia}}));
+    EXPECT_NE(vacia, (Serie{TipoSerie::Linea2D, "25", false, {CeldaVacia, 1}}));
+    EXPECT_NE(vacia, (Serie{TipoSerie::Linea2D, "10", true, {CeldaVacia, 1}}));
+    EXPECT_NE(vacia, (Serie{TipoSerie::Escalon2D, "10", false, {CeldaVacia, 1}}));
+}
+
 }  // namespace
 }  // namespace forms

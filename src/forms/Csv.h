@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace forms {
+
+/// A text as a field of a file of fields parted by commas: in quotes, its own quotes doubled.
+inline std::string CampoCsv(std::string_view texto)
+{
+    std::string campo = "\"";
+    for (const char c : texto)
+        campo.append(c == '"' ? 2 : 1, c);
+    return campo += '"';
+}
+
+}  // namespace forms
