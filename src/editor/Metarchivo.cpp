@@ -200,7 +200,7 @@ std::string ConCabezaDeArchivo(std::string_view dib)
     constexpr std::uint32_t ConMascaras = 3;
     const bool mascaras = !corta && cabeza == CabezaLarga && p.Larga(16) == ConMascaras;
     const std::size_t paleta = colores * (corta ? 3 : 4) + (mascaras ? MascarasAparte * 4 : 0);
-    if (colores > 256 || cabeza + paleta > dib.size()) return {};
+    if (colores > 256 || cabeza + paleta >= dib.size()) return {};
 
     std::string bmp = "BM";
     const auto agrega = [&](std::size_t n) {
