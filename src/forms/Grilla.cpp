@@ -177,6 +177,13 @@ Efecto TecleaTab(Grilla& g, int paso)
     return efecto;
 }
 
+/// No text, or the one that toolkits give for keys such as Backspace and Ctrl+C.
+bool EsControl(std::string_view caracter)
+{
+    constexpr char Suprimido = 0x7F;
+    return caracter.empty() || (caracter[0] >= 0 && caracter[0] < ' ') || caracter[0] == Suprimido;
+}
+
 }  // namespace
 
 Efecto Teclea(Grilla& g, Tecla tecla, bool extiende)
@@ -205,7 +212,7 @@ Efecto Teclea(Grilla& g, Tecla tecla, bool extiende)
 
 void Escribe(Grilla& g, const Siro& s, std::string_view caracter)
 {
-    if (caracter.empty() || !SePuedeEditar(g, g.actual) || !TomaTodos(*g.reglas, caracter)) return;
+    if (EsControl(caracter) || !SePuedeEditar(g, g.actual) || !TomaTodos(*g.reglas, caracter)) return;
     std::string texto = g.agrega ? g.Texto(g.actual) : std::string{};
     texto += model::ComasAPuntos(caracter);
     g.agrega = true;

@@ -142,7 +142,8 @@ enum class Tecla : std::uint8_t { Enter, Suprimir, Arriba, Abajo, Izquierda, Der
 Efecto Teclea(Grilla& g, Tecla tecla, bool extiende = false);
 
 /// A character key, UTF-8. The first one after the cursor has come to a cell replaces its text, the next ones
-/// are appended, a comma as a point. Then the text is checked against the description.
+/// are appended, a comma as a point. Then the text is checked against the description. Control characters do
+/// nothing.
 void Escribe(Grilla& g, const model::Siro& s, std::string_view caracter);
 
 // --- spreadsheet ---

@@ -2,6 +2,8 @@
 #include "forms/Grilla.h"
 
 #include <gtest/gtest.h>
+#include <rapidcheck.h>
+#include <rapidcheck/gtest.h>
 
 #include <array>
 #include <string>
@@ -344,6 +346,15 @@ TEST_F(GrillaDeComponentes, EnterNoPoneCeros)
     EXPECT_EQ(g.actual, (Celda{2, 1}));
 }
 
+TEST_F(UnaGrilla, UnCaracterDeControlNoHaceNada)
+{
+    g.Pon({1, 1}, "7");
+    for (const std::string_view control : {"\b", "\x03", "\x7f", "\r", ""})
+        Escribe(g, s, control);
+    EXPECT_EQ(T(1, 1), "7");
+    EXPECT_FALSE(g.editada);
+}
+
 // --- spreadsheet ---
 
 TEST_F(UnaGrilla, CopiaElBloqueSeleccionadoConTabulaciones)
@@ -490,6 +501,88 @@ TEST_F(GrillaDeComponentes, PegarLetrasPasaDondeTeclearlasPasa)
     EXPECT_EQ(T(1, 1), "abc");
     Pega(g, s, "a?c");
     EXPECT_EQ(UltimoAviso(), "No se pegó ningún dato. Fila 1, columna \"Vel.\": \"a?c\" no es un número");
+}
+
+// --- whatever is done ---
+
+/// One of several texts.
+std::string UnoDe(const std::vector<std::string>& textos)
+{
+    return textos[*rc::gen::inRange<std::size_t>(0, textos.size())];
+}
+
+void HaceAlgo(Grilla& g, const model::Siro& s)
+{
+    switch (*rc::gen::inRange(0, 6)) {
+    case 0:
+        Teclea(g, static_cast<Tecla>(*rc::gen::inRange(0, 8)), *rc::gen::arbitrary<bool>());
+        break;
+    case 1:
+        Mueve(g, {*rc::gen::inRange(-1, 6), *rc::gen::inRange(-1, 5)}, *rc::gen::arbitrary<bool>());
+        break;
+    case 2:
+        Pega(g, s, UnoDe({"1", "x", "1\t2", "1,5\n-2\n", "\t\n3", "1\t2\t3\n4\t5\t6\n"}));
+        break;
+    case 3:
+        PonNroFilas(g, *rc::gen::inRange(0, 5));
+        break;
+    default:
+        Escribe(g, s, UnoDe({"0", "1", "9", ".", ",", "-", "e", "a", " ", "ñ"}));
+    }
+}
+
+RC_GTEST_PROP(PropiedadesGrilla, UnaCeldaEditableEstaVaciaOTieneUnNumeroYElCursorEstaDentro, ())
+{
+    const model::Siro s;
+    Grilla g = NuevaGrilla(DeTabla);
+    PonNroFilas(g, 3);
+    for (int n = *rc::gen::inRange(0, 60); n > 0; --n) {
+        HaceAlgo(g, s);
+        for (int fila = 1; fila <= g.NroFilas(); ++fila) {
+            RC_ASSERT(g.Texto({fila, 0}).empty());
+            for (const int columna : {1, 2})
+                RC_ASSERT(g.Texto({fila, columna}).empty() || g.EsNumero({fila, columna}));
+        }
+        RC_ASSERT(g.filas.empty() || (g.Esta(g.actual) && g.Esta(g.ancla)));
+        RC_ASSERT(g.actual.columna >= 1 && g.ancla.columna >= 1);
+    }
+}
+
+RC_GTEST_PROP(PropiedadesGrilla, LoCopiadoSePegaComoEstaba, ())
+{
+    const model::Siro s;
+    Grilla g = NuevaGrilla(DeTabla);
+    PonNroFilas(g, 4);
+    for (int n = *rc::gen::inRange(0, 40); n > 0; --n)
+        HaceAlgo(g, s);
+    const std::string bloque = Copia(g, false);
+    const auto antes = g.filas;
+    Pega(g, s, bloque);
+    RC_ASSERT(g.filas == antes);
+    RC_ASSERT(Copia(g, false) == bloque);
+}
+
+RC_GTEST_PROP(PropiedadesGrilla, UnBloqueSePegaEnteroOSeDicePorQueNo, ())
+{
+    apoyo::AnfitrionPrueba anfitrion;
+    model::Siro s;
+    s.Anfitrion = anfitrion.Puerta();
+    Grilla g = NuevaGrilla(DeTabla);
+    PonNroFilas(g, 3);
+    Mueve(g, {*rc::gen::inRange(1, 4), *rc::gen::inRange(1, 3)});
+    std::string bloque;
+    int celdas = 0;
+    for (int filas = *rc::gen::inRange(1, 4); filas > 0; --filas) {
+        for (int columnas = *rc::gen::inRange(1, 3); columnas > 0; --columnas, ++celdas)
+            bloque += UnoDe({"1", "2.5", "x"}) + (columnas > 1 ? "\t" : "");
+        bloque += "\n";
+    }
+    const Grilla antes = g;
+    const Efecto efecto = Pega(g, s, bloque);
+    if (anfitrion->Avisos().empty())
+        RC_ASSERT(efecto.asentadas.size() == static_cast<std::size_t>(celdas));
+    else
+        RC_ASSERT(g == antes && anfitrion->Avisos().size() == 1U);
 }
 
 }  // namespace
