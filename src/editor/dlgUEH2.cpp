@@ -109,6 +109,13 @@ void lstCauceAA_Click(dlgUEH2& f, Siro& s, int indice)
     s.Anfitrion.RedibujaEditor();
 }
 
+void lstMetodo_Click(dlgUEH2& f, int indice)
+{
+    if (indice != 0) return;
+    f.lstMetodo.indice = indice;
+    f.lblMetodo = MetodoUEH;
+}
+
 void OKButton(dlgUEH2& f, Siro& s)
 {
     GuardaUEH(f, s);

@@ -120,6 +120,9 @@ bool AlSalir(dlgUEH2& f, model::Siro& s, std::string_view control);
 /// stored.
 void lstCauceAA_Click(dlgUEH2& f, model::Siro& s, int indice);
 
+/// A method is picked, from 0; it is stored with the fields.
+void lstMetodo_Click(dlgUEH2& f, int indice);
+
 /// Stores the fields, clears the selection of UEH and Cauce and closes.
 void OKButton(dlgUEH2& f, model::Siro& s);
 /// The same without storing: name and destination already taken stay.
