@@ -15,6 +15,8 @@ inline constexpr std::string_view TituloDlgUEHsEditTabla =
     "Tabla de Edición de datos entrada: Parámetros Físicos UHEs";
 inline constexpr std::string_view AyudaGrillasEditTabla =
     "Las celdas de datos con fondo blanco pueden modificarse desde esta tabla";
+inline constexpr std::string_view LeyendaAceptarEditTabla = "&Aceptar";
+inline constexpr std::string_view LeyendaCancelarEditTabla = "&Cancel";  // kept as it stands
 /// Share of the screen's width and height that the window takes.
 inline constexpr double AnchoEditTabla = 0.97;
 inline constexpr double AltoEditTabla = 0.95;

@@ -13,8 +13,8 @@ namespace editor {
 
 inline constexpr std::string_view TituloDlgUEHsTabla =
     "Tabla de datos de Entradas: Parámetros Físicos de las UHEs";
-inline constexpr std::string_view LeyendaActualizar = "&Actualizar cambios";
-inline constexpr std::string_view LeyendaCerrar = "&Cerrar";
+inline constexpr std::string_view LeyendaActualizarTabla = "&Actualizar cambios";
+inline constexpr std::string_view LeyendaCerrarTabla = "&Cerrar";
 
 struct dlgUEHsTabla {
     bool abierta = false;

@@ -42,8 +42,8 @@ const Textos TitulosRepresas = {"",        "",  "",  "",  "",     "k Musk.", "Op
 TEST_F(TablaDeParametros, LosTextosSonLosDados)
 {
     EXPECT_EQ(TituloDlgUEHsTabla, "Tabla de datos de Entradas: Parámetros Físicos de las UHEs");
-    EXPECT_EQ(LeyendaActualizar, "&Actualizar cambios");
-    EXPECT_EQ(LeyendaCerrar, "&Cerrar");
+    EXPECT_EQ(LeyendaActualizarTabla, "&Actualizar cambios");
+    EXPECT_EQ(LeyendaCerrarTabla, "&Cerrar");
 }
 
 TEST_F(TablaDeParametros, UnProyectoVacioDaSoloLosTitulosDeLosBloques)
