@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "results/SerieDeTormentas.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+#include "model/VidaProyecto.h"
+
+namespace results {
+
+namespace {
+
+constexpr std::int16_t Tildada = 1;
+
+/// Whether a value has a box, and that box isn't ticked.
+template <std::size_t N>
+bool SinTilde(const std::array<std::int16_t, N>& valores, const std::array<std::int16_t, N>& casillas,
+              std::int16_t valor)
+{
+    const auto hallado = std::find(valores.begin(), valores.end(), valor);
+    return hallado != valores.end() &&
+           casillas[static_cast<std::size_t>(hallado - valores.begin())] != Tildada;
+}
+
+}  // namespace
+
+void FiltroTormenta(model::Siro& s, bool& Excluida)
+{
+    s.PpTormenta = s.SerieP(s.IndSerie);
+    s.DurTormenta = s.SerieD(s.IndSerie);
+    s.RecTormenta = s.SerieR(s.IndSerie);
+    if (TormentaNula(s)) return;
+    Excluida = s.DurTormenta < s.PasoPp ||
+               SinTilde(model::Duraciones, s.frmConfigura.CheckD, s.DurTormenta) ||
+               SinTilde(model::Recurrencias, s.frmConfigura.CheckR, s.RecTormenta);
+}
+
+bool TormentaNula(const model::Siro& s)
+{
+    return s.PpTormenta == 0 || s.DurTormenta == 0;
+}
+
+std::string ArchivoDeProyecto(const model::Siro& s)
+{
+    return model::Ruta(s.DirProyecto, s.NombreProyecto).append(model::TerminacionConf);
+}
+
+}  // namespace results
