@@ -1,0 +1,364 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "editor/Edicion.h"
+#include "editor/EditorDePrueba.h"
+
+namespace {
+
+using editor::Boton;
+using editor::Punto;
+using model::Icono;
+using model::Mensaje;
+
+const Mensaje Guardado = {
+    "Los datos de componentes de Unidades Hidrológicas del proyecto se han guardado correctamente en el "
+    "archivo /proy/Arroyo_VerCau.vlm",
+    "", Icono::Ninguno};
+const Mensaje VerifiqueRepresas = {
+    "Se recomienda verificar los parámestros de carga del formulario Represas y sus Tablas", "",
+    Icono::Exclamacion};
+
+struct EdicionBorra : EditorDePrueba {
+    EdicionBorra()
+    {
+        red.Cauce("c-1", {{300, 300}, {200, 200}});
+        red.Cauce("c-2", {{700, 700}, {650, 650}, {600, 600}});
+        red.Cauce("c-3", {{10, 20}, {30, 40}, {50, 60}, {70, 80}}, "c-1");
+        red.UEH("u-1", {400, 100});
+        red.UEH("u-2", {420, 100});
+        red.UEH("u-3", {440, 100});
+        red.Represa("r-1", {500, 100});
+        red.Represa("r-2", {520, 100});
+        red.Lago("l-1", {600, 100});
+        red.Lago("l-2", {640, 100});
+        s.Cauces(3).LongCauce = 321;
+        s.UEHs(2).Area = 77;
+        s.Represas(2).HInicialEmb = 5;
+        s.Lagos(2).Referencia = "nota";
+        Parte();
+    }
+    void BorraCauce(int n)
+    {
+        s.CauceSel = static_cast<std::int16_t>(n);
+        Tecla(editor::Tecla::Suprimir);
+    }
+    [[nodiscard]] bool HayArchivo() const { return disco.Esta("/proy/Arroyo_UEHs.vlm"); }
+};
+
+TEST_F(EdicionBorra, ElCauceDelMedioYLosDeArribaBajanUnLugarConSusVertices)
+{
+    BorraCauce(2);
+    ASSERT_EQ(s.ColCauces.Cuenta(), 2);
+    EXPECT_EQ(s.NroCauces, 2);
+    EXPECT_EQ(s.Cauces(1).NombreCauce, "c-1");
+    EXPECT_EQ(s.Cauces(2).NombreCauce, "c-3");
+    EXPECT_EQ(s.Cauces(2).Cauce_aa, "c-1");
+    EXPECT_EQ(s.Cauces(2).LongCauce, 321);
+    EXPECT_TRUE(s.Cauces(2).optDirMusk);
+    EXPECT_EQ(s.Cauces(2).numCauce, 2);
+    EXPECT_EQ(s.Cauces(2).IndiceParInicial, 3);
+    EXPECT_EQ(s.NroVertices(2), 4);
+    EXPECT_EQ(Vertice(2, 4), (Punto{70, 80}));
+    EXPECT_EQ(Vertice(1, 2), (Punto{200, 200}));
+    EXPECT_EQ(s.CauceSel, 0);
+    EXPECT_EQ(Avisos(), Cajas{Guardado});
+    EXPECT_EQ(Faltas(), std::vector<std::string>{});
+}
+
+TEST_F(EdicionBorra, LoGuardadoEsLoQueQuedaEnMemoria)
+{
+    BorraCauce(2);
+    const auto cauces = s.ColCauces;
+    model::LeeUEHs(s);
+    EXPECT_EQ(s.ColCauces, cauces);
+    EXPECT_EQ(Vertice(2, 3), (Punto{50, 60}));
+    EXPECT_FALSE(f.cambiada);
+}
+
+TEST_F(EdicionBorra, ElUltimoCauceNoMueveALosDemas)
+{
+    BorraCauce(3);
+    ASSERT_EQ(s.ColCauces.Cuenta(), 2);
+    EXPECT_EQ(s.Cauces(2).NombreCauce, "c-2");
+    EXPECT_EQ(Vertice(2, 3), (Punto{600, 600}));
+    EXPECT_EQ(Faltas(), std::vector<std::string>{});
+}
+
+TEST_F(EdicionBorra, UnCauceConTributarioSeRechazaYNadaCambia)
+{
+    const Mensaje rechazo = {
+        "Para eliminar el Cauce <c-1> debe desacoplarse primero todo componente "
+        "tributario (UEH o Cauce)",
+        "Desacoplar el Cauce a eliminar", Icono::Exclamacion};
+    const auto sueltos = [&] {
+        s.Cauces(3).Cauce_aa = "0";
+        s.UEHs(1).Cauce_aa = s.Represas(1).Cauce_aa = s.Lagos(1).Cauce_aa = "";
+    };
+    for (int caso = 0; caso < 4; ++caso) {
+        sueltos();
+        (caso == 0   ? s.UEHs(1).Cauce_aa
+         : caso == 1 ? s.Cauces(3).Cauce_aa
+         : caso == 2 ? s.Lagos(1).Cauce_aa
+                     : s.Represas(1).Cauce_aa) = "c-1";
+        const auto antes = s.ColCauces;
+        anfitrion->sucesos.clear();
+        BorraCauce(1);
+        EXPECT_EQ(Avisos(), Cajas{rechazo}) << caso;
+        EXPECT_EQ(s.ColCauces, antes) << caso;
+        EXPECT_EQ(s.CauceSel, 1) << caso;
+        EXPECT_FALSE(HayArchivo()) << caso;
+    }
+    sueltos();
+    BorraCauce(1);
+    EXPECT_EQ(s.ColCauces.Cuenta(), 2);
+}
+
+TEST_F(EdicionBorra, QuienDrenabaAOtroNoCambia)
+{
+    s.UEHs(1).Cauce_aa = "c-3";
+    s.UEHs(1).XCauce = 70;
+    BorraCauce(2);
+    EXPECT_EQ(s.UEHs(1).Cauce_aa, "c-3");
+    EXPECT_EQ(s.UEHs(1).XCauce, 70);
+}
+
+TEST_F(EdicionBorra, BorrarUnCauceDejaCaerElTrazoSinTerminar)
+{
+    PonModo(Boton::Cauce);
+    Clic(5, 5);
+    Clic(6, 6);
+    BorraCauce(2);
+    EXPECT_EQ(f.ClicsCauce, 0);
+    EXPECT_EQ(s.NroCauces, 2);
+    EXPECT_EQ(Faltas(), std::vector<std::string>{});
+}
+
+TEST_F(EdicionBorra, UnaUEHSeQuitaYLasDemasSeNumeranDeNuevo)
+{
+    s.UEHSel = 1;
+    Tecla(editor::Tecla::Suprimir);
+    ASSERT_EQ(s.ColUEHs.Cuenta(), 2);
+    EXPECT_EQ(s.NroUEHs, 2);
+    EXPECT_EQ(s.UEHs(1).NombreUEH, "u-2");
+    EXPECT_EQ(s.UEHs(1).numUEH, 1);
+    EXPECT_EQ(s.UEHs(1).Area, 77);
+    EXPECT_EQ(s.UEHs(2).numUEH, 2);
+    EXPECT_EQ(s.UEHSel, 0);
+    EXPECT_EQ(Avisos(), Cajas{Guardado});
+    EXPECT_EQ(Faltas(), std::vector<std::string>{});
+}
+
+TEST_F(EdicionBorra, UnaUEHAcopladaSeBorraIgual)
+{
+    s.UEHs(2).Cauce_aa = "c-1";
+    s.UEHSel = 2;
+    Tecla(editor::Tecla::Suprimir);
+    EXPECT_EQ(s.ColUEHs.Cuenta(), 2);
+}
+
+TEST_F(EdicionBorra, UnaRepresaSeQuitaYPideVerificarLasQueQuedan)
+{
+    s.RepresaSel = 1;
+    Tecla(editor::Tecla::Suprimir);
+    ASSERT_EQ(s.ColRepresas.Cuenta(), 1);
+    EXPECT_EQ(s.Represas(1).NombreRepresa, "r-2");
+    EXPECT_EQ(s.Represas(1).numRepresa, 1);
+    EXPECT_EQ(s.Represas(1).HInicialEmb, 5);
+    EXPECT_EQ(Avisos(), (Cajas{Guardado, VerifiqueRepresas}));
+    EXPECT_EQ(f.pedidos, std::vector{editor::Pedido::FormaRepresa});
+
+    anfitrion->sucesos.clear();
+    f.pedidos.clear();
+    s.RepresaSel = 1;
+    Tecla(editor::Tecla::Suprimir);
+    EXPECT_EQ(s.NroRepresas, 0);
+    EXPECT_EQ(Avisos(), Cajas{Guardado});
+    EXPECT_TRUE(f.pedidos.empty());
+}
+
+TEST_F(EdicionBorra, UnaRepresaConTributarioSeRechaza)
+{
+    const Mensaje rechazo = {
+        "Para eliminar el Represa <r-2> debe desacoplarse primero todo componente "
+        "tributario (UEH o Cauce)",
+        "Desacoplar el Represa a eliminar", Icono::Exclamacion};
+    s.UEHs(1).Cauce_aa = "r-2";
+    s.RepresaSel = 2;
+    Tecla(editor::Tecla::Suprimir);
+    s.UEHs(1).Cauce_aa = "";
+    s.Cauces(2).Cauce_aa = "r-2";
+    Tecla(editor::Tecla::Suprimir);
+    EXPECT_EQ(Avisos(), (Cajas{rechazo, rechazo}));
+    EXPECT_EQ(s.ColRepresas.Cuenta(), 2);
+    EXPECT_EQ(s.RepresaSel, 2);
+    EXPECT_FALSE(HayArchivo());
+    EXPECT_TRUE(f.pedidos.empty());
+}
+
+TEST_F(EdicionBorra, UnLagoSeQuitaSinMasAviso)
+{
+    s.LagoSel = 1;
+    Tecla(editor::Tecla::Suprimir);
+    ASSERT_EQ(s.ColLagos.Cuenta(), 1);
+    EXPECT_EQ(s.Lagos(1).NombreLAGO, "l-2");
+    EXPECT_EQ(s.Lagos(1).Referencia, "nota");
+    EXPECT_EQ(s.Lagos(1).numLAGO, 1);
+    EXPECT_EQ(Avisos(), Cajas{Guardado});
+    EXPECT_TRUE(f.pedidos.empty());
+}
+
+TEST_F(EdicionBorra, UnLagoConTributarioSeRechaza)
+{
+    const Mensaje rechazo = {
+        "Para eliminar el Lago <l-1> debe desacoplarse primero todo componente "
+        "tributario (UEH o Cauce)",
+        "Desacoplar el Lago a eliminar", Icono::Exclamacion};
+    s.Cauces(3).Cauce_aa = "l-1";
+    s.LagoSel = 1;
+    Tecla(editor::Tecla::Suprimir);
+    s.Cauces(3).Cauce_aa = "0";
+    s.UEHs(3).Cauce_aa = "l-1";
+    Tecla(editor::Tecla::Suprimir);
+    EXPECT_EQ(Avisos(), (Cajas{rechazo, rechazo}));
+    EXPECT_EQ(s.ColLagos.Cuenta(), 2);
+}
+
+TEST_F(EdicionBorra, UnEmbalseQueDrenaAOtroNoImpideBorrarlo)
+{
+    s.Represas(1).Cauce_aa = "l-1";
+    s.Lagos(2).Cauce_aa = "r-2";
+    s.LagoSel = 1;
+    Tecla(editor::Tecla::Suprimir);
+    s.RepresaSel = 2;
+    Tecla(editor::Tecla::Suprimir);
+    EXPECT_EQ(s.ColLagos.Cuenta(), 1);
+    EXPECT_EQ(s.ColRepresas.Cuenta(), 1);
+    EXPECT_EQ(s.Represas(1).Cauce_aa, "l-1");
+}
+
+TEST_F(EdicionBorra, LosElegidosALaVezSeBorranTodosCadaUnoPorSuRegla)
+{
+    s.CauceSel = 2;
+    s.UEHSel = 3;
+    s.RepresaSel = 2;
+    s.LagoSel = 2;
+    Tecla(editor::Tecla::Suprimir);
+    EXPECT_EQ(s.ColCauces.Cuenta(), 2);
+    EXPECT_EQ(s.ColUEHs.Cuenta(), 2);
+    EXPECT_EQ(s.ColRepresas.Cuenta(), 1);
+    EXPECT_EQ(s.ColLagos.Cuenta(), 1);
+    EXPECT_EQ(Avisos(), (Cajas{Guardado, Guardado, Guardado, VerifiqueRepresas, Guardado}));
+    EXPECT_EQ(Faltas(), std::vector<std::string>{});
+}
+
+TEST_F(EdicionBorra, ElRechazoDeUnoNoDetieneALosSiguientes)
+{
+    s.CauceSel = 1;  // c-3 drains into it
+    s.UEHSel = 3;
+    Tecla(editor::Tecla::Suprimir);
+    EXPECT_EQ(s.ColCauces.Cuenta(), 3);
+    EXPECT_EQ(s.ColUEHs.Cuenta(), 2);
+}
+
+TEST_F(EdicionBorra, SinNadaElegidoSuprimirNoHaceNada)
+{
+    Tecla(editor::Tecla::Suprimir);
+    EXPECT_TRUE(anfitrion->sucesos.empty());
+    EXPECT_FALSE(HayArchivo());
+}
+
+TEST_F(EdicionBorra, SuprimirLevantaElBotonSUEH)
+{
+    f.Pon(Boton::SUEH, true);
+    Tecla(editor::Tecla::Suprimir);
+    EXPECT_FALSE(f.Abajo(Boton::SUEH));
+}
+
+TEST_F(EdicionBorra, ElUltimoComponenteSeLlevaLosArchivosSinMensaje)
+{
+    s.ColCauces.Vacia();
+    s.ColUEHs.Vacia();
+    s.ColRepresas.Vacia();
+    s.ColLagos.Quita(2);
+    s.NroCauces = s.NroUEHs = s.NroRepresas = 0;
+    s.NroLagos = 1;
+    Guarda();
+    ASSERT_TRUE(HayArchivo());
+    s.LagoSel = 1;
+    Tecla(editor::Tecla::Suprimir);
+    EXPECT_EQ(s.NroLagos, 0);
+    EXPECT_FALSE(HayArchivo());
+    EXPECT_FALSE(disco.Esta("/proy/Arroyo_VerCau.vlm"));
+    EXPECT_TRUE(Avisos().empty());
+}
+
+TEST_F(EdicionBorra, BorrarTodoPreguntaVaciaYQuitaSoloLaTablaRHQ)
+{
+    Guarda();
+    for (const std::string tabla : {"_RHQ.vlm", "_RHAS.vlm", "_LHASQ.vlm"})
+        disco.Pon("/proy/Arroyo" + tabla, "x");
+    Responde({true});
+    PonModo(Boton::BorraTodo);
+    EXPECT_EQ(
+        Preguntas(),
+        (Cajas{{"¿Desea borrar todos los componentes de UEHs ?:", "ADVERTENCIA ! ", Icono::Exclamacion}}));
+    EXPECT_EQ(s.ColCauces.Cuenta() + s.ColUEHs.Cuenta() + s.ColRepresas.Cuenta() + s.ColLagos.Cuenta(), 0);
+    EXPECT_EQ(s.NroCauces + s.NroUEHs + s.NroRepresas + s.NroLagos, 0);
+    EXPECT_FALSE(disco.Esta("/proy/Arroyo_RHQ.vlm"));
+    EXPECT_TRUE(disco.Esta("/proy/Arroyo_RHAS.vlm"));
+    EXPECT_TRUE(disco.Esta("/proy/Arroyo_LHASQ.vlm"));
+    EXPECT_TRUE(HayArchivo());  // until the next save
+    EXPECT_TRUE(Avisos().empty());
+    EXPECT_TRUE(f.cambiada);
+    EXPECT_EQ(Faltas(), std::vector<std::string>{});
+
+    PonModo(Boton::GuardaUEHs);
+    EXPECT_FALSE(HayArchivo());
+}
+
+TEST_F(EdicionBorra, BorrarTodoConNoNoTocaNada)
+{
+    disco.Pon("/proy/Arroyo_RHQ.vlm", "x");
+    Responde({false});
+    PonModo(Boton::BorraTodo);
+    EXPECT_EQ(s.ColCauces.Cuenta(), 3);
+    EXPECT_EQ(s.NroUEHs, 3);
+    EXPECT_TRUE(disco.Esta("/proy/Arroyo_RHQ.vlm"));
+}
+
+TEST_F(EdicionBorra, BorrarTodoSinTablaRHQNoAvisa)
+{
+    Responde({true});
+    PonModo(Boton::BorraTodo);
+    EXPECT_EQ(s.NroUEHs, 0);
+    EXPECT_TRUE(Avisos().empty());
+}
+
+TEST_F(EdicionBorra, BorrarTodoConLaTablaProtegidaDaLaFallaYReponeLaRed)
+{
+    disco.Pon("/proy/Arroyo_RHQ.vlm", "x");
+    disco.Protege("/proy/Arroyo_RHQ.vlm");
+    Responde({true});
+    PonModo(Boton::BorraTodo);
+    EXPECT_EQ(
+        Avisos(),
+        (Cajas{{"Error Nro. 75 ,Error de acceso a la ruta o al archivoVerifique.", "", Icono::Ninguno}}));
+    EXPECT_EQ(s.ColUEHs.Cuenta(), 3);
+    EXPECT_EQ(s.NroCauces, 3);
+}
+
+TEST_F(EdicionBorra, BorrarTodoDejaCaerElTrazo)
+{
+    PonModo(Boton::Cauce);
+    Clic(5, 5);
+    Responde({true});
+    PonModo(Boton::BorraTodo);
+    EXPECT_EQ(f.ClicsCauce, 0);
+    EXPECT_EQ(s.NroCauces, 0);
+    EXPECT_EQ(Faltas(), std::vector<std::string>{});
+}
+
+}  // namespace
