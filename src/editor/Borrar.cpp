@@ -6,6 +6,7 @@
 #include "editor/Cauces.h"
 #include "editor/ClasesConIcono.h"
 #include "editor/Edicion.h"
+#include "editor/TextosEdicion.h"
 #include "editor/frmUEHs.h"
 #include "engine/ComponenteFinal.h"
 #include "model/Avisos.h"
@@ -21,14 +22,6 @@ using model::Siro;
 
 namespace {
 
-constexpr std::string_view TituloCauceTributario = "Desacoplar el Cauce a eliminar";
-constexpr std::string_view CauceTributario = "Para eliminar el Cauce <";
-constexpr std::string_view FinTributario =
-    "> debe desacoplarse primero todo componente tributario (UEH o Cauce)";
-constexpr std::string_view VerifiqueRepresas =  // kept as it stands
-    "Se recomienda verificar los parámestros de carga del formulario Represas y sus Tablas";
-constexpr std::string_view TituloBorraTodo = "ADVERTENCIA ! ";
-constexpr std::string_view PreguntaBorraTodo = "¿Desea borrar todos los componentes de UEHs ?:";
 constexpr std::string_view SufijoRHQ = "_RHQ.vlm";
 
 // --- who drains into a component ---
@@ -52,7 +45,7 @@ bool DrenaAlguno(const Siro& s, const std::string& nombre)
 
 void Rechaza(const Siro& s, std::string_view titulo, std::string_view texto, const std::string& nombre)
 {
-    model::Advierte(s, std::string(texto) + nombre + std::string(FinTributario), titulo);
+    model::Advierte(s, Texto(texto, nombre, FinTributario), titulo);
 }
 
 // --- reaches ---
@@ -130,7 +123,7 @@ void BorraRepresa(frmUEHs& f, Siro& s)
 {
     if (!BorraElegido(f, s, ClaseRepresa) || s.NroRepresas == 0) return;
     // The tables are kept by number, and the numbers have moved.
-    model::Advierte(s, std::string(VerifiqueRepresas), {});
+    model::Advierte(s, Texto(VerifiqueRepresas), {});
     f.pedidos.push_back(Pedido::FormaRepresa);
 }
 
@@ -155,7 +148,7 @@ void BorraSeleccionados(frmUEHs& f, Siro& s)
 
 void BorraTodo(frmUEHs& f, Siro& s)
 {
-    if (!model::Consulta(s, std::string(PreguntaBorraTodo), TituloBorraTodo)) return;
+    if (!model::Consulta(s, Texto(PreguntaBorraTodo), TituloBorraTodo)) return;
     LimpiaSeleccion(s);
     s.ColCauces.Vacia();
     PorClase([&](const auto& clase) {

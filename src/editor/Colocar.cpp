@@ -4,6 +4,7 @@
 
 #include "editor/ClasesConIcono.h"
 #include "editor/Edicion.h"
+#include "editor/TextosEdicion.h"
 #include "editor/frmUEHs.h"
 #include "model/Avisos.h"
 #include "model/Falla.h"
@@ -15,8 +16,6 @@ namespace editor {
 using model::Siro;
 
 namespace {
-
-constexpr std::string_view EnEsaPosicion = "> en esa posición. Cambie la posición con el mouse";
 
 /// Name of the first component at exactly this position.
 template <typename T, int Limite>
@@ -50,7 +49,7 @@ void Coloca(frmUEHs& f, Siro& s, const ClaseConIcono<T, Limite>& clase, Punto en
 
     std::optional<std::string> nombre;
     if (otro) {
-        model::Advierte(s, std::string(clase.yaExiste) + *otro + std::string(EnEsaPosicion), {});
+        model::Advierte(s, Texto(clase.yaExiste, *otro, EnEsaPosicion), {});
     } else {
         nombre = PideNombre(s, clase.pide, coleccion, clase.nombre);
     }

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <string>
-#include <string_view>
 
 #include "editor/Cauces.h"
 #include "editor/ClasesConIcono.h"
 #include "editor/Destinos.h"
 #include "editor/Edicion.h"
+#include "editor/TextosEdicion.h"
 #include "editor/frmUEHs.h"
 #include "engine/ComponenteFinal.h"
 #include "model/Avisos.h"
@@ -16,13 +16,6 @@ namespace editor {
 using model::Siro;
 
 namespace {
-
-constexpr std::string_view TituloConsulta = "Consulta";
-constexpr std::string_view YaAcoplada = "> ya está acoplada al cauce <";
-constexpr std::string_view ConElCauce = "> con el cauce <";
-constexpr std::string_view TituloInversion = "Operación Inconsistente";
-constexpr std::string_view Inversion =
-    "No se puede acoplar un componente a su tributario; quite primero el acople";
 
 void Termina(frmUEHs& f, Siro& s)
 {
@@ -37,10 +30,9 @@ void AcoplaACauce(frmUEHs& f, Siro& s, const ClaseConIcono<T, Limite>& clase)
     const std::string& nombre = componente.*clase.nombre;
     const std::string& cauce = s.Cauces(s.CauceSel).NombreCauce;
     if (engine::DrenaA(componente.Cauce_aa, cauce)) {
-        model::Advierte(s, std::string(clase.yaAcoplado) + nombre + std::string(YaAcoplada) + cauce, {});
-    } else if (model::Consulta(
-                   s, std::string(clase.confirmaMenu) + nombre + std::string(ConElCauce) + cauce + ">",
-                   TituloConsulta)) {
+        model::Advierte(s, Texto(clase.yaAcoplado, nombre, YaAcoplada, cauce), {});
+    } else if (model::Consulta(s, Texto(clase.confirmaMenu, nombre, ConElCauce, cauce, CierraNombre),
+                               TituloConsulta)) {
         Acopla(componente, cauce, UltimoVertice(s, s.CauceSel));
     }
     Termina(f, s);
@@ -114,7 +106,7 @@ void mnu_acoplaCauce1aCauce2(frmUEHs& f, Siro& s)
     const model::Cauce& segundo = s.Cauces(s.CauceSel);
     // A longer cycle isn't looked for: kept as it stands.
     if (engine::DrenaA(segundo.Cauce_aa, primero.NombreCauce)) {
-        model::Advierte(s, std::string(Inversion), TituloInversion);
+        model::Advierte(s, Texto(Inversion), TituloInversion);
     } else {
         primero.Cauce_aa = segundo.NombreCauce;
     }

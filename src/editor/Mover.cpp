@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <algorithm>
 #include <string>
-#include <string_view>
 
 #include "editor/Alcance.h"
 #include "editor/Cauces.h"
@@ -9,6 +7,7 @@
 #include "editor/Destinos.h"
 #include "editor/Edicion.h"
 #include "editor/Tender.h"
+#include "editor/TextosEdicion.h"
 #include "editor/frmUEHs.h"
 #include "engine/ComponenteFinal.h"
 #include "model/Avisos.h"
@@ -21,12 +20,6 @@ using model::Siro;
 
 namespace {
 
-constexpr std::string_view TituloConsulta = "Consulta";
-constexpr std::string_view ElTramo = "El tramo de cauce ";
-constexpr std::string_view PreguntaElTramo = "¿El tramo de cauce ";
-constexpr std::string_view EsTributario = " es tributario del tramo ";
-constexpr std::string_view DeseaRedefinir = " , Desea redefinir el destino final del tramo ? ";
-
 // --- vertices ---
 
 /// The mouth of a reach is grabbed: asks whether it shall drain no longer where it does. Returns false where
@@ -34,8 +27,7 @@ constexpr std::string_view DeseaRedefinir = " , Desea redefinir el destino final
 bool DejaSuDestino(const Siro& s, model::Cauce& cauce)
 {
     if (cauce.Cauce_aa.empty() || cauce.Cauce_aa == "0") return true;
-    const std::string texto = std::string(ElTramo) + cauce.NombreCauce + std::string(EsTributario) +
-                              cauce.Cauce_aa + std::string(DeseaRedefinir);
+    const std::string texto = Texto(ElTramo, cauce.NombreCauce, EsTributario, cauce.Cauce_aa, DeseaRedefinir);
     if (!model::Consulta(s, texto, TituloConsulta)) return false;
     cauce.Cauce_aa = "0";
     return true;
@@ -79,7 +71,7 @@ void BuscaDestino(const frmUEHs& f, Siro& s, int cauce)
         if (i == cauce || !Cerca(boca, cabecera, f.ToleranciaVertice)) continue;
         const std::string& otro = s.Cauces(i).NombreCauce;
         const std::string texto =
-            std::string(PreguntaElTramo) + este.NombreCauce + std::string(EsTributario) + otro + " ?";
+            Texto(PreguntaElTramo, este.NombreCauce, EsTributario, otro, FinPreguntaElTramo);
         if (!model::Consulta(s, texto, TituloConsulta)) continue;
         PonVertice(s, cauce, 1, cabecera);
         este.Cauce_aa = otro;

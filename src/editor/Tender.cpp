@@ -8,6 +8,7 @@
 #include "editor/Cauces.h"
 #include "editor/ClasesConIcono.h"
 #include "editor/Destinos.h"
+#include "editor/TextosEdicion.h"
 #include "engine/ComponenteFinal.h"
 #include "model/Avisos.h"
 
@@ -17,8 +18,6 @@ using model::Siro;
 
 namespace {
 
-constexpr std::string_view TituloConsulta = "Consulta";
-constexpr std::string_view ConElCauce = "> con el cauce <";
 constexpr double InicioBandaX = 1.5, InicioBandaY = 0.25;  // from the position of the icon [sizes s]
 
 /// What a link has come to.
@@ -71,10 +70,10 @@ void AcoplaSiConfirma(Siro& s, const ClaseConIcono<T, Limite>& clase, const Lleg
     T& componente = Elegido(s, clase);
     const std::string& nombre = componente.*clase.nombre;
     const std::string texto =
-        std::string(clase.confirmaArrastre) + nombre + std::string(llegada.clase) + llegada.nombre + ">";
+        Texto(clase.confirmaArrastre, nombre, llegada.clase, llegada.nombre, CierraNombre);
     if (!model::Consulta(s, texto, TituloConsulta)) return;
     if (!clase.otroAcople.empty() && OtroDrena(s, componente, llegada.nombre)) {
-        model::Informa(s, std::string(clase.otroAcople) + (clase.nombraOtroAcople ? nombre : std::string()));
+        model::Informa(s, Texto(clase.otroAcople, clase.nombraOtroAcople ? nombre : std::string()));
         return;
     }
     Acopla(componente, llegada.nombre, llegada.en);
