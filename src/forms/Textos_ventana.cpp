@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QRadioButton>
 #include <QSignalBlocker>
 
 namespace forms {
@@ -88,6 +89,27 @@ void Pon(QComboBox& lista, const std::vector<std::string>& items, std::string_vi
     const QString nuevo = Q(texto);
     lista.setCurrentIndex(lista.findText(nuevo, Qt::MatchExactly | Qt::MatchCaseSensitive));
     if (lista.currentText() != nuevo) lista.setEditText(nuevo);
+}
+
+void PonOpcion(QRadioButton& opcion, bool marcada)
+{
+    const QSignalBlocker silencio(opcion);
+    // An option that excludes the others refuses to be cleared, and none of them may be ticked.
+    opcion.setAutoExclusive(false);
+    opcion.setChecked(marcada);
+    opcion.setAutoExclusive(true);
+}
+
+void Refleja(QLineEdit& campo, std::string& texto)
+{
+    QObject::connect(&campo, &QLineEdit::textEdited, &campo,
+                     [&texto](const QString& nuevo) { texto = DeQ(nuevo); });
+}
+
+void Refleja(QComboBox& lista, std::string& texto)
+{
+    QObject::connect(&lista, &QComboBox::editTextChanged, &lista,
+                     [&texto](const QString& nuevo) { texto = DeQ(nuevo); });
 }
 
 }  // namespace forms

@@ -3,6 +3,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,6 +13,7 @@ class QComboBox;
 class QLabel;
 class QLineEdit;
 class QListWidget;
+class QRadioButton;
 
 // From what a form's record holds to what its controls show. A control takes only what differs, so that the
 // cursor stays where the user has it, and tells nobody, so that what the program sets calls no handler.
@@ -30,5 +32,19 @@ void Pon(QListWidget& lista, const std::vector<std::string>& items, int indice);
 void Pon(QComboBox& lista, const std::vector<std::string>& items, int indice);
 /// Items and the text of a list that can be typed into.
 void Pon(QComboBox& lista, const std::vector<std::string>& items, std::string_view texto);
+
+/// Options of which one at most is ticked; `marcada` tells of each whether it is.
+void PonOpcion(QRadioButton& opcion, bool marcada);
+template <typename Opciones, typename Marcas>
+void PonOpciones(const Opciones& opciones, const Marcas& marcadas)
+{
+    for (std::size_t i = 0; i < marcadas.size(); ++i)
+        PonOpcion(*opciones[i], marcadas[i]);
+}
+
+/// From the control to the record: each edit of the user is in the text at once, so that showing the record
+/// never wipes what is being typed.
+void Refleja(QLineEdit& campo, std::string& texto);
+void Refleja(QComboBox& lista, std::string& texto);
 
 }  // namespace forms

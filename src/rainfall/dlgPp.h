@@ -19,6 +19,13 @@ namespace rainfall {
 
 inline constexpr std::string_view TituloDlgPp = "Carga de Datos de Precipitación";
 
+/// Caption of the options of the form, and of the two steps; both frames are always shown.
+inline constexpr std::string_view MarcoFormas = "Forma de ingreso de la lluvia";
+inline constexpr std::string_view MarcoPasos = "Pasos de tiempo";
+
+/// What a button says whose window nobody opens.
+inline constexpr std::string_view VentanaNoDisponible = "Esta ventana todavía no está disponible.";
+
 /// Controls of the dialog. An indexed control that is enabled as a whole is one of them.
 enum class Control : std::uint8_t {
     optformaPp,
@@ -56,25 +63,27 @@ enum class Control : std::uint8_t {
     lblMiFilePpReal,
 };
 
-/// A control, its object name, and the caption that it shows; none where its text comes from the record.
+/// A control, its object name, and its caption: what a button, an option's frame or a label shows, and the
+/// label beside a field. None where it takes several or its text comes from the record.
 struct FilaControl {
     Control control;
     std::string_view nombre;
     std::string_view leyenda;
+    std::string_view ayuda = {};  ///< hint shown under the pointer
 };
 
 // clang-format off
 inline constexpr auto ControlesDlgPp = std::to_array<FilaControl>({
     {Control::optformaPp,            "optformaPp",            ""},
-    {Control::txtPp,                 "txtPp",                 ""},
-    {Control::txtDur,                "txtDur",                ""},
-    {Control::cmbRec,                "cmbRec",                ""},
-    {Control::cmbPDR,                "cmbPDR",                ""},
+    {Control::txtPp,                 "txtPp",                 "&Precipitación Pp [mm]:"},
+    {Control::txtDur,                "txtDur",                "&Duración D [min]:"},
+    {Control::cmbRec,                "cmbRec",                "&Recurrencia R [años]:"},
+    {Control::cmbPDR,                "cmbPDR",                "&Lista de tormentas archivadas:"},
     {Control::optDistriPp,           "optDistriPp",           ""},
     {Control::optTablaPDR,           "optTablaPDR",           ""},
-    {Control::cmbPasoPp,             "cmbPasoPp",             ""},
-    {Control::cmbPasoQ,              "cmbPasoQ",              ""},
-    {Control::FilePpReal,            "FilePpReal",            ""},
+    {Control::cmbPasoPp,             "cmbPasoPp",             "Paso de &entrada (Precipitación) [min]:"},
+    {Control::cmbPasoQ,              "cmbPasoQ",              "Paso de &salida (Caudales) [min]:"},
+    {Control::FilePpReal,            "FilePpReal",            "Archi&vos de tormentas:"},
     {Control::cmdAplicar,            "cmdAplicar",            "&Aplicar"},
     {Control::OKButton,              "OKButton",              "&Aceptar"},
     {Control::CancelButton,          "CancelButton",          "&Cancelar"},
@@ -85,19 +94,20 @@ inline constexpr auto ControlesDlgPp = std::to_array<FilaControl>({
     {Control::cmdTablaPDR,           "cmdTablaPDR",           "Cargar Tabla Pp-D-R"},
     {Control::cmdPpPerso,            "cmdPpPerso",            "Cargar Tabla Personalizada "},
     {Control::cmdPpReal,             "cmdPpReal",             "Cargar lluvia Real (P-t)"},
-    {Control::cmdCargaPDRnoUniforme, "cmdCargaPDRnoUniforme", "Cargar datos"},
-    {Control::Frame2,                "Frame2",                ""},
-    {Control::Frame3,                "Frame3",                ""},
-    {Control::Frame4,                "Frame4",                ""},
-    {Control::Frame5,                "Frame5",                ""},
+    {Control::cmdCargaPDRnoUniforme, "cmdCargaPDRnoUniforme", "Cargar datos",
+     "Abre la Tabla para carga de datos de lluvia por SubCuenca o UEH (Lluvias No uniformes en el área)"},
+    {Control::Frame2,                "Frame2",                "a) Lluvia (Pp), Duración (D) y Recurrencia (R)"},
+    {Control::Frame3,                "Frame3",                "c) Tabla de Pp-D-R"},
+    {Control::Frame4,                "Frame4",                "b) Lista archivada"},
+    {Control::Frame5,                "Frame5",                "Distribución temporal"},
     {Control::Frame7,                "Frame7",                "Lluvias Reales"},
     {Control::lblValidez,            "lblValidez",            "Validez: Duración [minutos]    Min        -    Máxima"},
     {Control::lblDurMin,             "lblDurMin",             ""},
     {Control::lblDurMax,             "lblDurMax",             ""},
     {Control::Label9_0,              "Label9_0",              "Lluvias Sintéticas de distribución areal UNIFORME"},
     {Control::Label9_1,              "Label9_1",              "Lluvias Sintéticas de distribución areal NO UNIFORME"},
-    {Control::lblNumPer,             "lblNumPer",             ""},
-    {Control::lblMiFilePpReal,       "lblMiFilePpReal",       ""},
+    {Control::lblNumPer,             "lblNumPer",             "Intervalos:"},
+    {Control::lblMiFilePpReal,       "lblMiFilePpReal",       "Tormenta:"},
 });
 // clang-format on
 

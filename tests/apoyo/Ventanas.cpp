@@ -4,11 +4,13 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAccessible>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPlainTextEdit>
+#include <QRadioButton>
 #include <QSettings>
 #include <QStyleFactory>
 #include <QTemporaryDir>
@@ -78,7 +80,11 @@ void Escribe(QWidget& campo, const char* texto)
 
 void Pulsa(QWidget& control)
 {
-    QTest::mouseClick(&control, Qt::LeftButton, {}, control.rect().center());
+    const QPoint medio = control.rect().center();
+    // A box or an option hears clicks on itself and its caption alone, however wide its place is.
+    const bool conMarca = qobject_cast<QCheckBox*>(&control) != nullptr ||
+                          qobject_cast<QRadioButton*>(&control) != nullptr;
+    QTest::mouseClick(&control, Qt::LeftButton, {}, conMarca ? QPoint(medio.y(), medio.y()) : medio);
 }
 
 Usuario::Usuario()

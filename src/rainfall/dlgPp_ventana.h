@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <functional>
+#include <string_view>
+#include <vector>
+
+#include "forms/Formulario_ventana.h"
+#include "rainfall/dlgPp.h"
+
+class QComboBox;
+class QGridLayout;
+class QGroupBox;
+class QLabel;
+class QLayout;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+
+namespace forms {
+class ListaParaElegir;
+}
+
+namespace rainfall {
+
+/// The storm dialog. The record outlives it and serves as its hidden instance.
+class dlgPp_ventana : public forms::Formulario {
+  public:
+    dlgPp_ventana(forms::Entorno& alrededor, dlgPp& registro, QWidget* padre = nullptr);
+
+    /// Opens the form and shows it until it is closed. Runs inside an event. Throws FinDelPrograma where the
+    /// program was ended meanwhile.
+    void Abre();
+    void Muestra() override;
+
+    /// What the shell opens for the form. Each of the last four returns once its window is closed.
+    std::function<void(const PedidoHietograma&)> AbreHietograma = [](const PedidoHietograma&) {};
+    std::function<void()> AbreDisPer;      ///< personal distributions
+    std::function<void()> AbreTablasPDRs;  ///< P-D-R tables
+    std::function<void()> AbrePpReal;      ///< real storms
+    std::function<void()> AbrePpUEHs;      ///< rainfall of each UEH
+
+  protected:
+    void AlCerrar() override;
+
+  private:
+    // Each makes a part of the form, with its events.
+    QWidget* MarcoDeFormas();
+    QWidget* MarcoDeTormenta();
+    QWidget* MarcoDePasos();
+    QWidget* MarcoDeDistribuciones();
+    QLayout* Validez(QWidget& padre);
+    QWidget* MarcoDeLista();
+    QWidget* MarcoDeTablas();
+    QWidget* MarcoDeTormentaReal();
+    QLayout* Botones();
+
+    QGroupBox* Marco(Control control);
+    QLabel* Rotulo(Control control, QWidget& padre);
+    QPushButton* Boton(Control control, QWidget& padre, std::function<void()> rutina);
+    void Renglon(QGridLayout& grilla, Control control, QWidget& campo);
+    QComboBox* ListaConTextoDe(Control control, QWidget& padre, std::string& texto);
+    template <std::size_t N>
+    void Opciones(Control control, const std::array<std::string_view, N>& leyendas,
+                  std::array<QRadioButton*, N>& opciones, QWidget& padre);
+    void AlPulsarOpciones();
+    void AbreOtra(const std::function<void()>& abre);
+    /// The control is shown as the record tells of `control`.
+    template <typename T>
+    T* Toma(Control control, T* widget);
+
+    struct Mostrado {
+        Control control;
+        QWidget* widget;
+    };
+
+    dlgPp& f;
+    std::vector<Mostrado> mostrados{};
+    std::array<QRadioButton*, FormasPp.size()> optformaPp{};
+    std::array<QRadioButton*, DistribucionesPp.size()> optDistriPp{};
+    std::array<QRadioButton*, TablasPDR.size()> optTablaPDR{};
+    QLineEdit *txtPp = nullptr, *txtDur = nullptr;
+    QComboBox *cmbRec = nullptr, *cmbPDR = nullptr, *cmbPasoPp = nullptr, *cmbPasoQ = nullptr;
+    forms::ListaParaElegir* FilePpReal = nullptr;
+    QLabel *lblDurMin = nullptr, *lblDurMax = nullptr, *lblNumPer = nullptr, *lblMiFilePpReal = nullptr;
+};
+
+}  // namespace rainfall
