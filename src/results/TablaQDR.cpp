@@ -1,0 +1,288 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "results/TablaQDR.h"
+
+#include <algorithm>
+#include <numeric>
+#include <optional>
+
+#include "forms/Csv.h"
+#include "model/Falla.h"
+#include "model/Numeros.h"
+#include "model/Texto.h"
+#include "results/SerieDeTormentas.h"
+
+namespace results {
+
+using model::NumeroATexto;
+using model::Siro;
+
+namespace {
+
+/// Columns by what they hold, from 0.
+enum Columna : std::size_t { Nombre, Numero, P, D, R, Q, E, C };
+
+constexpr int Decimales = 2;
+constexpr std::int16_t MinimoDeTormentas = 2;
+constexpr std::string_view RotuloTotal = "Escorrentía total ";  // its blank is part of it
+
+std::string Entero(std::int16_t n)
+{
+    return NumeroATexto(std::int32_t{n});
+}
+
+template <typename T>
+std::string Redondeado(const std::optional<T>& valor)
+{
+    return valor ? NumeroATexto(model::Redondea(*valor, Decimales)) : std::string{};
+}
+
+std::string Volumen(const std::optional<std::int32_t>& valor)
+{
+    return valor ? NumeroATexto(*valor) : std::string{};
+}
+
+/// The day of the present date and time, which stands before the first blank.
+std::string FechaDelDia(const Siro& s)
+{
+    const std::string fechaHora = s.Anfitrion.FechaHora();
+    return fechaHora.substr(0, fechaHora.find(' '));
+}
+
+void AgregaTitulo(TablaQDR& t, const std::string& texto)
+{
+    FilaQDR fila{ClaseFila::Titulo, {}};
+    fila.celdas.fill(texto);
+    t.filas.push_back(std::move(fila));
+}
+
+void PonTitulos(TablaQDR& t, const Siro& s)
+{
+    AgregaTitulo(t, ArchivoDeProyecto(s));
+    AgregaTitulo(t, s.TituloProyecto);
+    AgregaTitulo(t, "Ubicación: " + s.Ubicacion + " - Cuenca: " + s.Cuenca);
+    AgregaTitulo(t, "SubCuenca: " + s.Subcuenca);
+    AgregaTitulo(t, "Operador: " + s.Operador + " - " + FechaDelDia(s));
+}
+
+void PonTormenta(FilaQDR& fila, const Siro& s)
+{
+    fila.celdas[P] = NumeroATexto(s.PpTormenta);
+    fila.celdas[D] = Entero(s.DurTormenta);
+    fila.celdas[R] = Entero(s.RecTormenta);
+}
+
+FilaQDR FilaDeComponente(const Siro& s)
+{
+    if (s.IndComp < 0 || static_cast<std::size_t>(s.IndComp) >= s.Secuencia.size())
+        throw model::Falla{model::NumeroFalla::Subindice};
+    FilaQDR fila{ClaseFila::Componente, {}};
+    fila.celdas[Nombre] = s.Secuencia[static_cast<std::size_t>(s.IndComp)];
+    fila.celdas[Numero] = Entero(s.IndComp);
+    PonTormenta(fila, s);
+    fila.celdas[Q] = Redondeado(Resultado(s.QMax, s.IndComp, s.IndSerie));
+    if (s.IndComp <= s.NroUEHs) {
+        fila.celdas[E] = Volumen(Resultado(s.EscUEH, s.IndComp, s.IndSerie));
+        fila.celdas[C] = Redondeado(Resultado(s.CoefEscUEH, s.IndComp, s.IndSerie));
+    }
+    return fila;
+}
+
+/// Goes through the storms of the series: `antes` for each, then `pasa` for one that the filter lets pass.
+/// Returns false where a storm of depth or duration 0 ends the filling.
+template <typename Antes, typename Pasa>
+bool RecorreSerie(Siro& s, Antes&& antes, Pasa&& pasa)
+{
+    bool excluida = false;
+    for (s.IndSerie = 1; s.IndSerie <= s.NroSeriePDR; s.IndSerie = model::Suma16(s.IndSerie, 1)) {
+        antes();
+        FiltroTormenta(s, excluida);
+        if (TormentaNula(s)) return false;
+        if (!excluida) pasa();
+    }
+    return true;
+}
+
+/// Rows of the component IndComp. Returns false where the filling ends.
+bool AgregaComponente(TablaQDR& t, Siro& s)
+{
+    return RecorreSerie(
+        s, [] {}, [&] { t.filas.push_back(FilaDeComponente(s)); });
+}
+
+/// Rows of the basin. The label comes before the filter, so that a last storm left out leaves it alone.
+void AgregaTotales(TablaQDR& t, Siro& s)
+{
+    t.filas.push_back({ClaseFila::Cierre, {}});
+    RecorreSerie(
+        s, [&] { t.filas.back().celdas[Nombre] = RotuloTotal; },
+        [&] {
+            FilaQDR& fila = t.filas.back();
+            fila.clase = ClaseFila::Total;
+            PonTormenta(fila, s);
+            fila.celdas[E] = Volumen(Resultado(s.EscTotal, s.IndSerie));
+            fila.celdas[C] = Redondeado(Resultado(s.CoefEscTotal, s.IndSerie));
+            t.filas.push_back({ClaseFila::Cierre, {}});
+        });
+}
+
+// --- order
+// -----------------------------------------------------------------------------------------------
+
+bool SeOrdena(ClaseFila clase)
+{
+    return clase == ClaseFila::Componente || clase == ClaseFila::Total;
+}
+
+/// What a cell is sorted by: the number that it is, else its text.
+struct Clave {
+    bool vacia = true;
+    double numero = 0;
+    std::string_view texto{};
+};
+
+Clave ClaveDe(const FilaQDR& fila, std::size_t columna)
+{
+    const std::string& celda = fila.celdas[columna];
+    if (celda.empty()) return {};
+    if (columna == Nombre) return {false, 0, celda};
+    return {false, model::Val(celda), {}};
+}
+
+/// Whether `a` stands before `b`; an empty cell before none.
+bool Precede(const Clave& a, const Clave& b, Sentido sentido)
+{
+    if (a.vacia || b.vacia) return !a.vacia && b.vacia;
+    const Clave& menor = sentido == Sentido::Ascendente ? a : b;
+    const Clave& mayor = sentido == Sentido::Ascendente ? b : a;
+    if (menor.numero != mayor.numero) return menor.numero < mayor.numero;
+    return menor.texto < mayor.texto;
+}
+
+void Ordena(TablaQDR& t)
+{
+    t.mostradas.resize(t.filas.size());
+    std::iota(t.mostradas.begin(), t.mostradas.end(), std::size_t{0});
+    if (t.columnaOrden < 0) return;
+
+    std::vector<Clave> claves;
+    claves.reserve(t.filas.size());
+    for (const FilaQDR& fila : t.filas)
+        claves.push_back(ClaveDe(fila, static_cast<std::size_t>(t.columnaOrden)));
+    for (auto desde = t.mostradas.begin(); desde != t.mostradas.end();) {
+        const ClaseFila clase = t.filas[*desde].clase;
+        const auto hasta =
+            std::find_if(desde, t.mostradas.end(), [&](std::size_t i) { return t.filas[i].clase != clase; });
+        if (SeOrdena(clase))
+            std::stable_sort(desde, hasta, [&](std::size_t a, std::size_t b) {
+                return Precede(claves[a], claves[b], t.sentido);
+            });
+        desde = hasta;
+    }
+}
+
+/// Fills the table by `cuerpo`; whatever there is then is put on show, after a fault too.
+template <typename Cuerpo>
+void Llena(TablaQDR& t, const Siro& s, Cuerpo&& cuerpo)
+{
+    t.filas.clear();
+    try {
+        if (s.NroComponentes >= 1) {
+            PonTitulos(t, s);
+            cuerpo();
+        }
+    } catch (const model::Falla&) {
+        Ordena(t);
+        throw;
+    }
+    Ordena(t);
+}
+
+// --- text
+// ------------------------------------------------------------------------------------------------
+
+/// Writes the table: titles as one field each, headings, rows with a result. The first field of a line is a
+/// text, the others are numbers.
+template <typename Campo>
+std::string Escribe(const TablaQDR& t, char separador, Campo&& campo)
+{
+    std::string texto, cuerpo;
+    for (const std::size_t i : t.mostradas) {
+        const FilaQDR& fila = t.filas[i];
+        if (fila.clase == ClaseFila::Titulo)
+            texto.append(campo(fila.celdas[Nombre])).append(model::SaltoLinea);
+        if (!SeOrdena(fila.clase)) continue;
+        cuerpo += campo(fila.celdas[Nombre]);
+        for (std::size_t c = Nombre + 1; c < NroColumnasQDR; ++c)
+            cuerpo.append(1, separador).append(fila.celdas[c]);
+        cuerpo += model::SaltoLinea;
+    }
+    const auto encabezados = EncabezadosQDR();
+    texto += campo(encabezados[Nombre]);
+    for (std::size_t c = Nombre + 1; c < NroColumnasQDR; ++c)
+        texto.append(1, separador).append(campo(encabezados[c]));
+    return texto.append(model::SaltoLinea).append(cuerpo);
+}
+
+}  // namespace
+
+std::array<std::string_view, NroColumnasQDR> EncabezadosQDR()
+{
+    std::array<std::string_view, NroColumnasQDR> encabezados;
+    std::string_view resto = FormatoTablaQDR;
+    for (std::string_view& encabezado : encabezados) {
+        const std::size_t fin = std::min(resto.find('|'), resto.size());
+        encabezado = resto.substr(1, fin - 1);  // the first character tells how the column is aligned
+        resto.remove_prefix(std::min(fin + 1, resto.size()));
+    }
+    return encabezados;
+}
+
+void LlenaTodas(TablaQDR& t, Siro& s)
+{
+    Llena(t, s, [&] {
+        for (s.IndComp = 1; s.IndComp <= s.NroComponentes; s.IndComp = model::Suma16(s.IndComp, 1))
+            if (!AgregaComponente(t, s)) return;
+        AgregaTotales(t, s);
+    });
+}
+
+void LlenaUna(TablaQDR& t, Siro& s)
+{
+    Llena(t, s, [&] {
+        if (!AgregaComponente(t, s)) return;
+        t.filas.push_back({ClaseFila::Separacion, {}});
+        AgregaTotales(t, s);
+    });
+}
+
+void PulsaEncabezado(TablaQDR& t, int columna)
+{
+    if (columna < 0 || static_cast<std::size_t>(columna) >= NroColumnasQDR) return;
+    if (t.columnaOrden != columna) {
+        t.columnaOrden = columna;
+        t.sentido = Sentido::Ascendente;
+    } else if (t.sentido == Sentido::Ascendente)
+        t.sentido = Sentido::Descendente;
+    else {
+        t.columnaOrden = -1;
+        t.sentido = Sentido::Ascendente;
+    }
+    Ordena(t);
+}
+
+std::string ComoCsv(const TablaQDR& t)
+{
+    return Escribe(t, ',', [](std::string_view texto) { return forms::CampoCsv(texto); });
+}
+
+std::string ComoTexto(const TablaQDR& t)
+{
+    return Escribe(t, '\t', [](std::string_view texto) { return std::string(texto); });
+}
+
+bool HayPlanillaPDR(const Siro& s)
+{
+    return s.NroSeriePDR >= MinimoDeTormentas;
+}
+
+}  // namespace results

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "model/Siro.h"
+
+// The grid of a series' results, MSFlexGridTablaSaleQDR: what it holds, how it is filled, sorted and taken
+// elsewhere.
+namespace results {
+
+inline constexpr std::size_t NroColumnasQDR = 8;
+
+/// Headings of the columns; "^" centres a column, "|" parts them.
+inline constexpr std::string_view FormatoTablaQDR =
+    "^Componente |^Nro.|^P[mm]|^D[min]|^R[años]|^Qp[m3/s]|^E[m3]|^C[%]";
+
+/// The headings one by one.
+std::array<std::string_view, NroColumnasQDR> EncabezadosQDR();
+
+enum class ClaseFila : std::uint8_t {
+    Titulo,      ///< one text merged across all columns; it stands in each cell
+    Componente,  ///< a component and a storm
+    Separacion,  ///< empty
+    Total,       ///< the basin and a storm
+    Cierre,      ///< the last row of all: empty, or with a label that no total followed
+};
+
+struct FilaQDR {
+    ClaseFila clase = ClaseFila::Separacion;
+    std::array<std::string, NroColumnasQDR> celdas{};
+    bool operator==(const FilaQDR&) const = default;
+};
+
+enum class Sentido : std::uint8_t { Ascendente, Descendente };
+
+/// Read only; every cell is a centred text.
+struct TablaQDR {
+    std::vector<FilaQDR> filas{};           ///< rows below the headings, in the order given
+    std::vector<std::size_t> mostradas{};   ///< places in `filas`, in the order on show
+    int columnaOrden = -1;                  ///< column that sorts, from 0; -1: the order given
+    Sentido sentido = Sentido::Ascendente;  ///< of columnaOrden
+    bool operator==(const TablaQDR&) const = default;
+};
+
+/// Empties the table and fills it with every component and the totals; without components it stays empty.
+/// The order that the user chose stays. Moves IndComp, IndSerie and the storm in hand. Throws Falla 9 for a
+/// storm outside the series; the rows so far stay.
+void LlenaTodas(TablaQDR& t, model::Siro& s);
+
+/// The same with the component IndComp alone, and a row between it and the totals.
+void LlenaUna(TablaQDR& t, model::Siro& s);
+
+/// A click on a heading: its column sorts upwards, with the second click downwards, with the third the order
+/// is the one given. Components are sorted among themselves and so are totals; empty cells come last, rows
+/// that are equal keep the order given.
+void PulsaEncabezado(TablaQDR& t, int columna);
+
+/// The table as it is on show, for a spreadsheet: lines ended by CR LF, titles first, then headings, then
+/// rows; rows without a result are left out. Fields are parted by commas, texts in quotes; or by tabs.
+std::string ComoCsv(const TablaQDR& t);
+std::string ComoTexto(const TablaQDR& t);
+
+/// Controls that are hidden and shown together.
+struct VistaTablaQDR {
+    bool botones = true;  ///< cmdAplicarCambios, cmdImprimir, OKButton
+    bool barras = true;   ///< the scroll bars of the grid
+    bool operator==(const VistaTablaQDR&) const = default;
+};
+
+inline constexpr std::string_view LeyendaActualizar = "&Actualizar cambios";
+inline constexpr std::string_view LeyendaImprimirTabla = "Imprimir";
+
+/// The commands of the menu that open a table: whether the series has storms enough.
+bool HayPlanillaPDR(const model::Siro& s);
+
+}  // namespace results

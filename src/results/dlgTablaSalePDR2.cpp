@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "results/dlgTablaSalePDR2.h"
+
+#include <algorithm>
+#include <cstddef>
+
+#include "forms/Evento.h"
+
+namespace results {
+
+using model::Siro;
+
+namespace {
+
+/// Place of the selected name in Secuencia, from 1; 0 where it is nowhere.
+std::ptrdiff_t LugarDelElegido(const dlgTablaSalePDR2& f, const Siro& s)
+{
+    if (f.lstComposIndice < 0 || static_cast<std::size_t>(f.lstComposIndice) >= f.lstCompos.size()) return 0;
+    if (s.Secuencia.empty()) return 0;
+    const auto primero = s.Secuencia.begin() + 1;
+    const auto hallado =
+        std::find(primero, s.Secuencia.end(), f.lstCompos[static_cast<std::size_t>(f.lstComposIndice)]);
+    return hallado == s.Secuencia.end() ? 0 : hallado - primero + 1;
+}
+
+}  // namespace
+
+void Abre(dlgTablaSalePDR2& f, Siro& s)
+{
+    f = dlgTablaSalePDR2{};
+    if (s.NroComponentes < 1) return;
+    f.abierta = true;
+    if (!s.Secuencia.empty()) f.lstCompos.assign(s.Secuencia.begin() + 1, s.Secuencia.end());
+    if (s.IndComp < 1 || s.IndComp > s.NroComponentes) s.IndComp = 1;
+    if (static_cast<std::size_t>(s.IndComp) <= f.lstCompos.size()) f.lstComposIndice = s.IndComp - 1;
+    cmdAplicarCambios(f, s);
+}
+
+void AlActivar(dlgTablaSalePDR2& f, Siro& s)
+{
+    cmdAplicarCambios(f, s);
+}
+
+void cmdAplicarCambios(dlgTablaSalePDR2& f, Siro& s)
+{
+    if (s.NroComponentes < 1) {
+        f.abierta = false;
+        return;
+    }
+    const std::ptrdiff_t lugar = LugarDelElegido(f, s);
+    s.IndComp = lugar > s.NroComponentes || lugar < 1 ? std::int16_t{1} : static_cast<std::int16_t>(lugar);
+    forms::Evento(s, [&] { LlenaUna(f.MSFlexGridTablaSaleQDR, s); });
+}
+
+void lstCompos_Click(dlgTablaSalePDR2& f, Siro& s)
+{
+    if (f.lstComposIndice < 0) return;
+    cmdAplicarCambios(f, s);
+}
+
+void AlPulsarEncabezado(dlgTablaSalePDR2& f, int columna)
+{
+    PulsaEncabezado(f.MSFlexGridTablaSaleQDR, columna);
+}
+
+void OKButton(dlgTablaSalePDR2& f)
+{
+    f.abierta = false;
+}
+
+void AntesDeImprimir(dlgTablaSalePDR2& f)
+{
+    f.vistaGuardada = f.vista;
+    f.vista = {.botones = false, .barras = false};
+}
+
+void DespuesDeImprimir(dlgTablaSalePDR2& f)
+{
+    f.vista = f.vistaGuardada;
+}
+
+}  // namespace results
