@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <algorithm>
 
 #include "forms/Textos_ventana.h"
 
@@ -74,16 +75,35 @@ std::string Pide(Entorno& entorno, const Peticion& peticion)
 }
 
 /// `filtro` is "Description |*pattern"; its description names the pattern itself.
+void PonFiltro(QFileDialog& caja, std::string_view filtro)
+{
+    caja.setOption(QFileDialog::DontUseNativeDialog, true);
+    const std::size_t barra = filtro.find('|');
+    if (barra == std::string_view::npos) return;
+    caja.setNameFilter(Q(filtro.substr(0, std::min(barra, filtro.find('(')))).trimmed() +
+                       QStringLiteral(" (%1)").arg(Q(filtro.substr(barra + 1)).trimmed()));
+}
+
 std::string Elige(Entorno& entorno, std::string_view titulo, std::string_view filtro)
 {
-    const std::size_t barra = filtro.find('|');
     QFileDialog caja(QApplication::activeWindow(), Titulo(titulo), Q(entorno.s.DirProyecto));
     caja.setObjectName(QStringLiteral("EligeArchivo"));
     caja.setFileMode(QFileDialog::ExistingFile);
-    caja.setOption(QFileDialog::DontUseNativeDialog, true);
-    if (barra != std::string_view::npos)
-        caja.setNameFilter(Q(filtro.substr(0, filtro.find('('))).trimmed() +
-                           QStringLiteral(" (%1)").arg(Q(filtro.substr(barra + 1)).trimmed()));
+    PonFiltro(caja, filtro);
+    if (entorno.Ejecuta(caja) != QDialog::Accepted || caja.selectedFiles().isEmpty()) return {};
+    return DeQ(QDir::toNativeSeparators(caja.selectedFiles().constFirst()));
+}
+
+std::string EligeDonde(Entorno& entorno, std::string_view titulo, std::string_view filtro,
+                       std::string_view nombre)
+{
+    QFileDialog caja(QApplication::activeWindow(), Titulo(titulo), Q(entorno.s.DirProyecto));
+    caja.setObjectName(QStringLiteral("EligeDestino"));
+    caja.setAcceptMode(QFileDialog::AcceptSave);
+    PonFiltro(caja, filtro);
+    const std::size_t punto = filtro.rfind("*.");
+    if (punto != std::string_view::npos) caja.setDefaultSuffix(Q(filtro.substr(punto + 2)).trimmed());
+    caja.selectFile(Q(nombre));
     if (entorno.Ejecuta(caja) != QDialog::Accepted || caja.selectedFiles().isEmpty()) return {};
     return DeQ(QDir::toNativeSeparators(caja.selectedFiles().constFirst()));
 }
@@ -103,6 +123,10 @@ void PonCajas(model::Anfitrion& anfitrion, Entorno& entorno)
     anfitrion.PideTexto = [&entorno](const Peticion& p) { return Pide(entorno, p); };
     anfitrion.EligeArchivo = [&entorno](std::string_view titulo, std::string_view filtro) {
         return Elige(entorno, titulo, filtro);
+    };
+    anfitrion.EligeDestino = [&entorno](std::string_view titulo, std::string_view filtro,
+                                        std::string_view nombre) {
+        return EligeDonde(entorno, titulo, filtro, nombre);
     };
     anfitrion.Termina = [] { throw model::FinDelPrograma{}; };
     anfitrion.FechaHora = [] {

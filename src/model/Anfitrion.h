@@ -42,6 +42,11 @@ struct Anfitrion {
     /// chosen, with the platform's separators, or the empty text where the user cancels.
     std::function<std::string(std::string_view titulo, std::string_view filtro)> EligeArchivo =
         [](std::string_view, std::string_view) { return std::string{}; };
+    /// Asks where a file is to be saved; the filter is as above, `nombre` the file name proposed. Returns its
+    /// path, with the ending of the filter where the user typed none, or the empty text where the user
+    /// cancels. That a file is there already has been settled with the user.
+    std::function<std::string(std::string_view titulo, std::string_view filtro, std::string_view nombre)>
+        EligeDestino = [](std::string_view, std::string_view, std::string_view) { return std::string{}; };
     /// Ends the program at once, with nothing more saved. Must not return: it throws FinDelPrograma or
     /// leaves the process.
     std::function<void()> Termina = [] { throw FinDelPrograma{}; };

@@ -81,6 +81,12 @@ void ConectaPreguntas(model::Anfitrion& a, const std::shared_ptr<Estado>& e)
         e->sucesos.push_back({Suceso::Clase::Archivo, {std::string(filtro), std::string(titulo)}, ruta});
         return ruta;
     };
+    a.EligeDestino = [e](std::string_view titulo, std::string_view filtro, std::string_view nombre) {
+        std::string ruta = Saca(e->elegidos, std::string{});
+        e->propuestos.emplace_back(nombre);
+        e->sucesos.push_back({Suceso::Clase::Archivo, {std::string(filtro), std::string(titulo)}, ruta});
+        return ruta;
+    };
     a.Termina = [e] {
         e->sucesos.push_back({Suceso::Clase::Fin, {}, {}});
         throw model::FinDelPrograma{};

@@ -47,6 +47,8 @@ class AnfitrionPrueba {
         bool aceptaDefecto = false;          ///< instead, then the text offered is taken
         std::deque<std::string> elegidos{};  ///< files chosen next; then the choice is cancelled
 
+        std::vector<std::string> propuestos{};  ///< names proposed for what was to be saved
+
         std::vector<Suceso> sucesos{};  ///< all of it, in order
 
         bool marcaPizarra = false;

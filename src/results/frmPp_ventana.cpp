@@ -1,0 +1,288 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "results/frmPp_ventana.h"
+
+#include <QFontDatabase>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QTextBlock>
+#include <utility>
+
+#include "forms/Impresion_ventana.h"
+#include "forms/Textos_ventana.h"
+
+namespace results {
+
+using forms::DeQ;
+using forms::Pon;
+using forms::Q;
+
+namespace {
+
+constexpr int ColumnasALaVista = 100;
+constexpr int RenglonesALaVista = 32;
+
+QPushButton* Boton(std::string_view leyenda, const char* nombre, const char* ayuda = "")
+{
+    auto* const boton = new QPushButton(Q(leyenda));
+    boton->setObjectName(QString::fromUtf8(nombre));
+    boton->setToolTip(QString::fromUtf8(ayuda));
+    boton->setAutoDefault(false);
+    return boton;
+}
+
+QFont LetraFija()
+{
+    QFont letra(QStringLiteral("Courier New"));
+    letra.setStyleHint(QFont::Monospace, QFont::PreferMatch);
+    letra.setFixedPitch(true);
+    letra.setPointSize(QFontDatabase::systemFont(QFontDatabase::FixedFont).pointSize());
+    return letra;
+}
+
+}  // namespace
+
+frmPp_ventana::frmPp_ventana(forms::Entorno& alrededor, frmPp& registro, QWidget* padre)
+    : Ventana(alrededor, "frmPp", padre), f(registro)
+{
+    setWindowTitle(Q(TituloFrmPp));
+    ConstruyeTexto();
+    lineaDeBusqueda = new QWidget;
+    lineaDeBusqueda->setLayout(ConstruyeBusqueda());
+    lineaDeBusqueda->hide();
+
+    auto* const pila = new QVBoxLayout(this);
+    pila->addWidget(Text1, 1);
+    pila->addWidget(lineaDeBusqueda);
+    pila->addLayout(ConstruyeBotones());
+    ConectaTeclas();
+    Muestra();
+}
+
+void frmPp_ventana::ConstruyeTexto()
+{
+    Text1 = new QPlainTextEdit;
+    Text1->setObjectName(QStringLiteral("Text1"));
+    Text1->setAccessibleName(Q(TituloFrmPp));
+    Text1->setReadOnly(true);
+    Text1->setUndoRedoEnabled(false);
+    Text1->setLineWrapMode(QPlainTextEdit::NoWrap);
+    Text1->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    Text1->setFont(LetraFija());
+    // What is found shows while the focus is in the line of the search.
+    QPalette colores = Text1->palette();
+    colores.setBrush(QPalette::Inactive, QPalette::Highlight,
+                     colores.brush(QPalette::Active, QPalette::Highlight));
+    colores.setBrush(QPalette::Inactive, QPalette::HighlightedText,
+                     colores.brush(QPalette::Active, QPalette::HighlightedText));
+    Text1->setPalette(colores);
+    const QFontMetrics medidas(Text1->font());
+    Text1->setMinimumSize(medidas.averageCharWidth() * ColumnasALaVista / 4,
+                          medidas.lineSpacing() * RenglonesALaVista / 4);
+    resize(medidas.averageCharWidth() * ColumnasALaVista, medidas.lineSpacing() * RenglonesALaVista);
+
+    Text1->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(Text1, &QWidget::customContextMenuRequested, this,
+            [this](const QPoint& lugar) { MenuDelTexto(lugar); });
+}
+
+QHBoxLayout* frmPp_ventana::ConstruyeBusqueda()
+{
+    txtBuscar = new QLineEdit;
+    txtBuscar->setObjectName(QStringLiteral("txtBuscar"));
+    txtBuscar->setClearButtonEnabled(true);
+    auto* const lblBuscar = new QLabel(QStringLiteral("&Texto:"));
+    lblBuscar->setBuddy(txtBuscar);
+    cmdBuscaAnterior = Boton("&Anterior", "cmdBuscaAnterior", "Mayúsculas+F3");
+    cmdBuscaSiguiente = Boton("&Siguiente", "cmdBuscaSiguiente", "F3");
+    cmdCierraBusqueda = Boton("Ce&rrar búsqueda", "cmdCierraBusqueda", "Esc");
+    lblBusqueda = new QLabel;
+    lblBusqueda->setObjectName(QStringLiteral("lblBusqueda"));
+
+    connect(txtBuscar, &QLineEdit::textEdited, this,
+            [this](const QString& texto) { Suceso([&] { txtBuscar_Change(f, DeQ(texto)); }); });
+    connect(txtBuscar, &QLineEdit::textChanged, this, [this](const QString& texto) {
+        if (texto.isEmpty() && !f.busqueda.buscado.empty()) Suceso([this] { txtBuscar_Change(f, ""); });
+    });
+    AlPulsar(*cmdBuscaAnterior, [this] { BuscaAnterior(f); });
+    AlPulsar(*cmdBuscaSiguiente, [this] { BuscaSiguiente(f); });
+    AlPulsar(*cmdCierraBusqueda, [this] { CierraBusqueda(f); });
+
+    auto* const fila = new QHBoxLayout;
+    fila->setContentsMargins(0, 0, 0, 0);
+    fila->addWidget(lblBuscar);
+    fila->addWidget(txtBuscar, 2);
+    fila->addWidget(cmdBuscaAnterior);
+    fila->addWidget(cmdBuscaSiguiente);
+    fila->addWidget(lblBusqueda, 1);
+    fila->addWidget(cmdCierraBusqueda);
+    return fila;
+}
+
+QHBoxLayout* frmPp_ventana::ConstruyeBotones()
+{
+    lblLargo = new QLabel;
+    lblLargo->setObjectName(QStringLiteral("lblLargo"));
+    cmdBuscar = Boton("&Buscar...", "cmdBuscar", "Busca un texto en la Pizarra (Ctrl+F)");
+    cmdGuardar = Boton("&Guardar...", "cmdGuardar", "Guarda el texto en un archivo (Ctrl+S)");
+    CmdImprimir = Boton(LeyendaImprimirPizarra, "CmdImprimir", "Imprime la ventana tal como se ve (Ctrl+P)");
+    cmdCerrar = Boton(LeyendaCerrarPizarra, "cmdCerrar");
+
+    AlPulsar(*cmdBuscar, [this] { Busca(); });
+    AlPulsar(*cmdGuardar, [this] { GuardaTexto(f, entorno.s); });
+    AlPulsar(*CmdImprimir, [this] { forms::ImprimeVentana(entorno, *this); });
+    AlPulsar(*cmdCerrar, [this] { results::cmdCerrar(f, entorno.s); });
+
+    auto* const fila = new QHBoxLayout;
+    fila->addWidget(lblLargo, 1);
+    for (QPushButton* boton : {cmdBuscar, cmdGuardar, CmdImprimir, cmdCerrar})
+        fila->addWidget(boton);
+    return fila;
+}
+
+void frmPp_ventana::ConectaTeclas()
+{
+    const auto tecla = [this](const QKeySequence& secuencia, QWidget* donde, auto rutina) {
+        auto* const atajo = new QShortcut(secuencia, donde);
+        atajo->setContext(Qt::WidgetWithChildrenShortcut);
+        connect(atajo, &QShortcut::activated, this, [this, rutina] { Suceso(rutina); });
+    };
+    tecla(QKeySequence::Find, this, [this] { Busca(); });
+    tecla(QKeySequence(Qt::Key_F3), this, [this] { BuscaSiguiente(f); });
+    tecla(QKeySequence(Qt::SHIFT | Qt::Key_F3), this, [this] { BuscaAnterior(f); });
+    tecla(QKeySequence(Qt::CTRL | Qt::Key_S), this, [this] { GuardaTexto(f, entorno.s); });
+    tecla(QKeySequence(Qt::CTRL | Qt::Key_P), this, [this] { forms::ImprimeVentana(entorno, *this); });
+    tecla(QKeySequence(Qt::Key_Return), txtBuscar, [this] { BuscaSiguiente(f); });
+    tecla(QKeySequence(Qt::SHIFT | Qt::Key_Return), txtBuscar, [this] { BuscaAnterior(f); });
+    tecla(QKeySequence(Qt::Key_Escape), lineaDeBusqueda, [this] { CierraBusqueda(f); });
+}
+
+void frmPp_ventana::Abre()
+{
+    results::Abre(f, entorno.s);
+    Muestra();
+    entorno.Presenta(*this);
+}
+
+void frmPp_ventana::AlCerrar()
+{
+    Cierra(f, entorno.s);
+}
+
+void frmPp_ventana::Busca()
+{
+    AbreBusqueda(
+        f, DeQ(Text1->textCursor().selectedText().replace(QChar::ParagraphSeparator, QLatin1Char('\n'))));
+    Muestra();
+    txtBuscar->setFocus(Qt::ShortcutFocusReason);
+    txtBuscar->selectAll();
+}
+
+void frmPp_ventana::MuestraLuego()
+{
+    if (std::exchange(pendiente, true)) return;
+    QMetaObject::invokeMethod(
+        this, [this] { Muestra(); }, Qt::QueuedConnection);
+}
+
+void frmPp_ventana::Muestra()
+{
+    pendiente = false;
+    MuestraTexto();
+    MuestraBusqueda();
+    Pon(*lblLargo, RotuloLargo(f));
+    if (!f.abierta && isVisible()) close();
+}
+
+void frmPp_ventana::MuestraTexto()
+{
+    const bool desdeCero = reemplazos != f.reemplazos || f.Text1.size() < mostrado;
+    if (!desdeCero && f.Text1.size() == mostrado) return;
+    if (desdeCero) {
+        Text1->clear();
+        mostrado = 0;
+        reemplazos = f.reemplazos;
+    }
+    const QString resto = Q(std::string_view(f.Text1).substr(mostrado)).remove(QLatin1Char('\r'));
+    mostrado = f.Text1.size();
+    QTextCursor cursor(Text1->document());
+    cursor.movePosition(QTextCursor::End);
+    cursor.insertText(resto);
+    // A run is read from its beginning; what is listed behind a text is what was asked for.
+    if (desdeCero) Text1->setTextCursor(QTextCursor(Text1->document()));
+    QScrollBar* const barra = Text1->verticalScrollBar();
+    barra->setValue(desdeCero ? 0 : barra->maximum());
+}
+
+void frmPp_ventana::MuestraBusqueda()
+{
+    const Busqueda& b = f.busqueda;
+    const bool seCierra = lineaDeBusqueda->isVisibleTo(this) && !b.abierta;
+    lineaDeBusqueda->setVisible(b.abierta);
+    if (seCierra) Text1->setFocus(Qt::OtherFocusReason);
+    Pon(*txtBuscar, b.buscado);
+    Pon(*lblBusqueda, b.aviso);
+    if (veces == b.veces) return;
+    veces = b.veces;
+    QTextCursor cursor = Text1->textCursor();
+    if (b.hallado.largo == 0) {
+        cursor.clearSelection();
+    } else {
+        const QTextBlock renglon = Text1->document()->findBlockByNumber(static_cast<int>(b.hallado.linea));
+        const auto inicio = renglon.position() + static_cast<int>(b.hallado.columna);
+        cursor.setPosition(inicio);
+        cursor.setPosition(inicio + static_cast<int>(b.hallado.largo), QTextCursor::KeepAnchor);
+    }
+    Text1->setTextCursor(cursor);
+}
+
+void frmPp_ventana::MenuDelTexto(const QPoint& lugar)
+{
+    QMenu menu(this);
+    menu.setObjectName(QStringLiteral("mnuPizarra"));
+    const auto entrada = [&](const char* leyenda, const QKeySequence& tecla, auto rutina) {
+        QAction* const accion = menu.addAction(QString::fromUtf8(leyenda), this, rutina);
+        accion->setShortcut(tecla);
+        return accion;
+    };
+    entrada("&Copiar", QKeySequence::Copy, [this] {
+        Text1->copy();
+    })->setEnabled(Text1->textCursor().hasSelection());
+    entrada("Seleccionar &todo", QKeySequence::SelectAll, [this] { Text1->selectAll(); });
+    menu.addSeparator();
+    entrada("&Buscar...", QKeySequence::Find, [this] { Suceso([this] { Busca(); }); });
+    entrada("&Guardar...", QKeySequence(Qt::CTRL | Qt::Key_S),
+            [this] { Suceso([this] { GuardaTexto(f, entorno.s); }); });
+    menu.exec(Text1->mapToGlobal(lugar));
+}
+
+void PonPizarra(model::Anfitrion& anfitrion, frmPp& registro, frmPp_ventana& ventana, bool& marca,
+                std::function<void()> alMarcar)
+{
+    anfitrion.MarcaPizarra = [&marca] { return marca; };
+    anfitrion.PonMarcaPizarra = [&marca, alMarcar = std::move(alMarcar)](bool nueva) {
+        marca = nueva;
+        alMarcar();
+    };
+    anfitrion.AbrePizarra = [&ventana] { ventana.Abre(); };
+    anfitrion.LeePizarra = [&registro] { return registro.Text1; };
+    anfitrion.PonPizarra = [&](std::string_view texto) {
+        PonTexto(registro, texto);
+        ventana.MuestraLuego();
+    };
+    anfitrion.AmpliaPizarra = [&](const std::string& texto) {
+        AmpliaTexto(registro, texto);
+        ventana.MuestraLuego();
+    };
+    anfitrion.AgregaPizarra = [&](std::string_view texto) {
+        AgregaTexto(registro, texto);
+        ventana.MuestraLuego();
+    };
+}
+
+}  // namespace results

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <functional>
+
+#include "forms/Formulario_ventana.h"
+#include "results/frmPp.h"
+
+class QHBoxLayout;
+class QLabel;
+class QLineEdit;
+class QPlainTextEdit;
+class QPushButton;
+
+namespace results {
+
+/// Window of the Slate. Its text is a view of the record's: what was appended since is appended here, once
+/// the events of the moment are over.
+class frmPp_ventana : public forms::Ventana {
+  public:
+    frmPp_ventana(forms::Entorno& alrededor, frmPp& registro, QWidget* padre = nullptr);
+
+    /// Opens the window, or brings it to the front.
+    void Abre();
+    using forms::Ventana::Muestra;
+    void Muestra() override;
+    /// Shows the record as soon as the events of the moment are over. A run that writes line by line costs
+    /// one look at the text.
+    void MuestraLuego();
+
+  protected:
+    void AlCerrar() override;
+
+  private:
+    void ConstruyeTexto();
+    QHBoxLayout* ConstruyeBusqueda();
+    QHBoxLayout* ConstruyeBotones();
+    void ConectaTeclas();
+    void MuestraTexto();
+    void MuestraBusqueda();
+    void MenuDelTexto(const QPoint& lugar);
+    void Busca();
+
+    frmPp& f;
+    QPlainTextEdit* Text1;
+    QWidget* lineaDeBusqueda;
+    QLineEdit* txtBuscar;
+    QPushButton *cmdBuscaAnterior, *cmdBuscaSiguiente, *cmdCierraBusqueda;
+    QLabel* lblBusqueda;
+    QLabel* lblLargo;
+    QPushButton *cmdBuscar, *cmdGuardar, *CmdImprimir, *cmdCerrar;
+
+    std::size_t mostrado = 0;      ///< bytes of the record's text on show
+    std::uint64_t reemplazos = 0;  ///< of the record, as of the text on show
+    std::uint64_t veces = 0;       ///< searches shown so far
+    bool pendiente = false;
+};
+
+/// Fills in the host's part of the Slate: its window, the text in its box, and the tick of the menu entry,
+/// which stands in `marca`. Record, window and tick live as long as the host.
+/// alMarcar: the tick has changed, and whoever shows it may do so anew.
+void PonPizarra(
+    model::Anfitrion& anfitrion, frmPp& registro, frmPp_ventana& ventana, bool& marca,
+    std::function<void()> alMarcar = [] {});
+
+}  // namespace results
