@@ -129,6 +129,7 @@ bool TomaDeLista(const Forma& f, model::Siro& s, const Reglas& reglas, int indic
 template <typename Forma, typename Reglas>
 bool ArreglaNombre(Forma& f, const model::Siro& s, const Reglas& reglas)
 {
+    f.foco = {};
     std::string& texto = f.*reglas.txtNombre;
     if (texto == NombreInvalido) return true;
     texto = NombreConPrefijo(reglas.prefijo, texto);
@@ -142,8 +143,8 @@ bool ArreglaNombre(Forma& f, const model::Siro& s, const Reglas& reglas)
     return true;
 }
 
-/// Gives the component in hand the name in the field, after the rules of `ArreglaNombre`; destinations
-/// follow. An invalid name isn't stored. Returns false where the name became invalid just now.
+/// Leaving the name: gives the component in hand the name in the field, after the rules of `ArreglaNombre`;
+/// destinations follow. An invalid name isn't stored. Returns false where the name became invalid just now.
 template <typename Forma, typename Reglas>
 bool GuardaNombre(Forma& f, model::Siro& s, const Reglas& reglas, SiguenNombre siguen = {})
 {
@@ -160,12 +161,12 @@ bool GuardaNombre(Forma& f, model::Siro& s, const Reglas& reglas, SiguenNombre s
     return true;
 }
 
-/// Leaving the name: it is stored at once. Returns false where it is refused and the focus stays.
+/// Storing the form: the same for a name that was typed and not left. One that nobody touched stays as it is,
+/// though a file or a division of a reach may have given it no prefix, or more characters than fit.
 template <typename Forma, typename Reglas>
-bool SaleDelNombre(Forma& f, model::Siro& s, const Reglas& reglas, SiguenNombre siguen = {})
+void GuardaNombreTocado(Forma& f, model::Siro& s, const Reglas& reglas, SiguenNombre siguen = {})
 {
-    f.foco = {};
-    return GuardaNombre(f, s, reglas, siguen);
+    if (f.*reglas.txtNombre != EnMano(s, reglas).*reglas.nombre) GuardaNombre(f, s, reglas, siguen);
 }
 
 /// Closes a form and shows in the editor what it has changed.

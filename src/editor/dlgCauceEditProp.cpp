@@ -56,7 +56,7 @@ void MuestraCauce(dlgCauceEditProp& f, Siro& s)
 
 void GuardaCauce(dlgCauceEditProp& f, Siro& s)
 {
-    GuardaNombre(f, s, Reglas, Siguen(s));
+    GuardaNombreTocado(f, s, Reglas, Siguen(s));
     Cauce& cauce = EnMano(s, Reglas);
     forms::Guarda(f, cauce, CamposDlgCauceEditProp);
     cauce.optDirMusk = f.optDirecta;
@@ -90,7 +90,7 @@ bool txtNombreCauce_Cambia(dlgCauceEditProp& f, const Siro& s)
 
 bool AlSalir(dlgCauceEditProp& f, Siro& s, std::string_view control)
 {
-    if (control == Reglas.controlNombre) return SaleDelNombre(f, s, Reglas, Siguen(s));
+    if (control == Reglas.controlNombre) return GuardaNombre(f, s, Reglas, Siguen(s));
     return forms::AlSalir(f, s, CamposDlgCauceEditProp, control);
 }
 

@@ -48,7 +48,7 @@ void MuestraLago(dlgLago& f, Siro& s)
 
 void GuardaLago(dlgLago& f, Siro& s)
 {
-    GuardaNombre(f, s, Reglas);
+    GuardaNombreTocado(f, s, Reglas);
     Lago& lago = EnMano(s, Reglas);
     lago.Referencia = f.txtReferencia;
     TomaDestino(lago, s, f);
@@ -77,7 +77,7 @@ bool txtNombreLAGO_Cambia(dlgLago& f, const Siro& s)
 
 bool AlSalir(dlgLago& f, Siro& s, std::string_view control)
 {
-    if (control == Reglas.controlNombre) return SaleDelNombre(f, s, Reglas);
+    if (control == Reglas.controlNombre) return GuardaNombre(f, s, Reglas);
     if (control == ReglaHInicialEmb.control)
         return SaleDeHInicialEmb(f, s, AlturasDe(s.LagoFilas, s.LagoH, EnMano(s, Reglas).numLAGO));
     return forms::AlSalir(f, s, CamposDlgLago, control);

@@ -77,7 +77,7 @@ void GuardaFunciones(const dlgRepresas& f, Represa& represa)
 
 void GuardaRepresa(dlgRepresas& f, Siro& s)
 {
-    GuardaNombre(f, s, Reglas);
+    GuardaNombreTocado(f, s, Reglas);
     Represa& represa = EnMano(s, Reglas);
     represa.Metodo = f.lblMetodo;
     forms::Guarda(f, represa, CamposDlgRepresas);
@@ -114,7 +114,7 @@ bool txtNombreRepresa_Cambia(dlgRepresas& f, const Siro& s)
 
 bool AlSalir(dlgRepresas& f, Siro& s, std::string_view control)
 {
-    if (control == Reglas.controlNombre) return SaleDelNombre(f, s, Reglas);
+    if (control == Reglas.controlNombre) return GuardaNombre(f, s, Reglas);
     if (control == ReglaHInicialEmb.control) {
         const int numero = EnMano(s, Reglas).numRepresa;
         return SaleDeHInicialEmb(f, s, AlturasDe(s.RepresaFilasHAS, s.RepresaH, numero));

@@ -48,7 +48,7 @@ void PonPunto(UEH& ueh, Punto en)
 
 void GuardaUEH(dlgUEH2& f, Siro& s)
 {
-    GuardaNombre(f, s, Reglas, Siguen);
+    GuardaNombreTocado(f, s, Reglas, Siguen);
     UEH& ueh = EnMano(s, Reglas);
     ueh.Referencia = f.txtReferencia;
     if (f.lstMetodo.indice >= 0) ueh.Metodo = MetodoUEH;
@@ -94,7 +94,7 @@ bool txtNombreUEH_Cambia(dlgUEH2& f, const Siro& s)
 
 bool AlSalir(dlgUEH2& f, Siro& s, std::string_view control)
 {
-    if (control == Reglas.controlNombre) return SaleDelNombre(f, s, Reglas, Siguen);
+    if (control == Reglas.controlNombre) return GuardaNombre(f, s, Reglas, Siguen);
     return forms::AlSalir(f, s, CamposDlgUEH2, control);
 }
 

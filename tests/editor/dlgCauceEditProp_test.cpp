@@ -224,6 +224,27 @@ TEST_F(FormaCauce, NombrarUnCauceSinNombreNoLeAcoplaLosQueNoTienenDestino)
     EXPECT_EQ(s.UEHs(2).Cauce_aa, "");
 }
 
+TEST_F(FormaCauce, UnNombreLargoQueNadieTocaQuedaAlAceptarYSeCortaAlDejarSuCampo)
+{
+    s.Cauces(1).NombreCauce = "c-12345678901-.-b";
+    AbreEn(1);
+    lstCauces_Click(f, s, 1);
+    lstCauces_Click(f, s, 0);
+    OKButton(f, s);
+    EXPECT_EQ(s.Cauces(1).NombreCauce, "c-12345678901-.-b");
+    AbreEn(1);
+    EXPECT_TRUE(AlSalir(f, s, "txtNombreCauce"));
+    EXPECT_EQ(s.Cauces(1).NombreCauce, "c-12345678901-.");
+}
+
+TEST_F(FormaCauce, UnNombreEscritoYNoDejadoSeGuardaAlAceptarYLosTributariosLoSiguen)
+{
+    f.txtNombreCauce = "salida";
+    OKButton(f, s);
+    EXPECT_EQ(s.Cauces(1).NombreCauce, "c-salida");
+    EXPECT_EQ(s.UEHs(1).Cauce_aa, "c-salida");
+}
+
 // --- method ---
 
 TEST_F(FormaCauce, LasDosOpcionesSeExcluyenYNadaMas)

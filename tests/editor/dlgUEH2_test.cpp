@@ -203,6 +203,14 @@ TEST_F(FormaUEH, ElNombreDeOtraRetieneElFocoAlSalir)
     EXPECT_EQ(s.UEHs(1).NombreUEH, "u-1");
 }
 
+TEST_F(FormaUEH, LaTeclaQueSigueAUnInvalidoEmpiezaUnNombreSinVolverASeleccionar)
+{
+    EXPECT_FALSE(Escribe("u-2"));
+    EXPECT_TRUE(Escribe("x"));  // it takes the place of the selected text
+    EXPECT_EQ(f.txtNombreUEH, "u-x");
+    EXPECT_EQ(f.foco, forms::Foco{});
+}
+
 TEST_F(FormaUEH, DosNombresIgualesTrasElCorteChocan)
 {
     s.UEHs(2).NombreUEH = "u-1234567890123";
