@@ -53,8 +53,6 @@ enum class Ventana : std::uint8_t {
     frmConfigura,
     dlgEliminarProyecto,
     frmAcerca,
-    VerificaHSV,
-    VerificaHQ,
 };
 
 /// What the commands ask of the desktop beyond the host. A member that is left as it is does nothing.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <algorithm>
 
+#include "hydraulics/mdlVerifica.h"
 #include "model/VidaProyecto.h"
 #include "shell/MDIForm1.h"
 
@@ -39,10 +40,10 @@ void ConProyecto(MDIForm1& /*f*/, Siro& s, const Mandos& m)
     if (ExigeProyecto(s)) m.Abre(ventana);
 }
 
-template <Ventana ventana>
-void ConRepresas(MDIForm1& /*f*/, Siro& s, const Mandos& m)
+template <Orden verificacion>
+void ConRepresas(MDIForm1& /*f*/, Siro& s, const Mandos& /*m*/)
 {
-    if (s.NroRepresas >= 1) m.Abre(ventana);
+    if (s.NroRepresas >= 1) verificacion(s);
 }
 
 template <Ventana ventana>
@@ -88,8 +89,8 @@ constexpr auto FilasMenu = std::to_array<FilaMenu>({
     {"mnuOpciones",                     "&Opciones",                                       ""},
     {"mnuOpcionesBarra",                "&Barra de Herramientas",                          "mnuOpciones"},
     {"mnuOpcionesConfigurar",           "&Opciones de Configuración",                      "mnuOpciones", mnuOpcionesConfigurar, false, V::Ninguna, "", "Títulos, directorio, imagen, recurrencias y duraciones del proyecto"},
-    {"mnu_prueba_funcionesSHVrepresas", "Verificar Funciones HA&S en Represas",            "mnuOpciones", ConRepresas<Ventana::VerificaHSV>, false, V::mnu_prueba_funcionesSHVrepresas, "", "Lista en la Pizarra alturas, superficies y almacenamientos de una Represa"},
-    {"mnu_prueba_funcionesHQrepresas",  "Verificar Funciones h-&Q de Represas",            "mnuOpciones", ConRepresas<Ventana::VerificaHQ>, false, V::mnu_prueba_funcionesHQrepresas, "", "Lista en la Pizarra alturas y caudales de las Represas"},
+    {"mnu_prueba_funcionesSHVrepresas", "Verificar Funciones HA&S en Represas",            "mnuOpciones", ConRepresas<hydraulics::VerificaHSV>, false, V::mnu_prueba_funcionesSHVrepresas, "", "Lista en la Pizarra alturas, superficies y almacenamientos de una Represa"},
+    {"mnu_prueba_funcionesHQrepresas",  "Verificar Funciones h-&Q de Represas",            "mnuOpciones", ConRepresas<hydraulics::VerificaHQ>, false, V::mnu_prueba_funcionesHQrepresas, "", "Lista en la Pizarra alturas y caudales de las Represas"},
 
     {"mnuEntradas",                     "&Entradas",                                       ""},
     {"mnufrmUEHs",                      "Editor de &UEHs (Gráfico)",                       "mnuEntradas", mnufrmUEHs, true, V::Ninguna, "F3", "Dibuja la red: UEHs, Cauces, Represas y Lagos"},
