@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "editor/frmUEHs.h"
+#include "model/Avisos.h"
 #include "model/Componentes.h"
 #include "model/Disco.h"
 #include "model/Falla.h"
@@ -26,6 +27,25 @@ std::string RutaImagen(const Siro& s)
     return conDirectorio ? s.ArchivoImagen : model::Ruta(s.DirProyecto, s.ArchivoImagen);
 }
 
+namespace {
+
+/// Loads the image. Returns false where that failed, which has been told.
+bool Carga(frmUEHs& f, const Siro& s)
+{
+    const std::string ruta = RutaImagen(s);
+    const auto carga = [&] {
+        static_cast<void>(s.Disco.Lee(ruta));  // names the fault of a file that isn't there
+        const std::optional<Tamano> tamano = f.CargaImagen(ruta);
+        if (!tamano) throw model::Falla{model::NumeroFalla::AccesoRuta};
+        f.imagen = *tamano;
+        f.rutaImagen = ruta;
+    };
+    return model::Sentencia(
+        carga, [&](const model::Falla& falla) { model::Informa(s, model::TextoFallaMotor(falla) + "."); });
+}
+
+}  // namespace
+
 void AlternaImagen(frmUEHs& f, Siro& s)
 {
     if (f.ImagenVisible) {
@@ -33,12 +53,7 @@ void AlternaImagen(frmUEHs& f, Siro& s)
         f.rutaImagen.clear();
         f.cmdImagenUEHs = LeyendaMostrar;
     } else {
-        const std::string ruta = RutaImagen(s);
-        static_cast<void>(s.Disco.Lee(ruta));  // names the fault of a file that isn't there
-        const std::optional<Tamano> tamano = f.CargaImagen(ruta);
-        if (!tamano) throw model::Falla{model::NumeroFalla::AccesoRuta};
-        f.imagen = *tamano;
-        f.rutaImagen = ruta;
+        if (!Carga(f, s)) return;
         f.cmdImagenUEHs = LeyendaQuitar;
     }
     f.ImagenVisible = !f.ImagenVisible;

@@ -14,7 +14,7 @@ struct frmUEHs;
 std::string RutaImagen(const model::Siro& s);
 
 /// Puts the image on or takes it off; either way the components are read from their files again. A file that
-/// can't be read as an image is a fault, and the image stays off. Throws Falla 53, 75, 76.
+/// can't be read as an image is told and the image stays off.
 void AlternaImagen(frmUEHs& f, model::Siro& s);
 
 }  // namespace editor

@@ -158,7 +158,7 @@ void mnu_DibujoSec_Click(frmUEHs& f, Siro& s, std::string_view nombre)
 {
     for (const FilaMenu& entrada : Entradas)
         if (entrada.nombre == nombre && entrada.habilitada(s)) {
-            Evento(f, s, [&] { entrada.hace(f, s); });
+            Orden(f, s, [&] { entrada.hace(f, s); });
             return;
         }
 }

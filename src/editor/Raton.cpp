@@ -109,8 +109,8 @@ void PideSiHay(frmUEHs& f, int cuenta, Pedido forma)
 
 void picDibujo_MouseDown(frmUEHs& f, Siro& s, BotonRaton boton, Punto p)
 {
+    if (boton == BotonRaton::Izquierdo) Orden(f, s, [&] { ClicIzquierdo(f, s, p); });
     f.ultimo = p;
-    if (boton == BotonRaton::Izquierdo) Evento(f, s, [&] { ClicIzquierdo(f, s, p); });
     if (boton == BotonRaton::Derecho) f.pedidos.push_back(Pedido::Menu);
     if (boton == BotonRaton::Medio) {
         f.asidero = p;
@@ -147,7 +147,7 @@ void picDibujo_MouseUp(frmUEHs& f, Siro& s, BotonRaton boton, Punto p)
 
 void picDibujo_DblClick(frmUEHs& f, Siro& s)
 {
-    Evento(f, s, [&] {
+    Orden(f, s, [&] {
         if (s.CauceSel > 0) {
             f.pedidos.push_back(Pedido::FormaCauce);
         } else if (s.UEHSel > 0) {
@@ -181,7 +181,7 @@ void picDibujo_KeyDown(frmUEHs& f, Siro& s, Tecla tecla)
         PideSiHay(f, s.ColLagos.Cuenta(), Pedido::FormaLago);
         break;
     case Tecla::Enter:
-        Evento(f, s, [&] { Entra(f, s); });
+        Orden(f, s, [&] { Entra(f, s); });
         break;
     default:
         break;

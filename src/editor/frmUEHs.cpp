@@ -30,8 +30,21 @@ constexpr std::string_view PreguntaResguardo =
 
 void InformaFalla(const Siro& s, const model::Falla& falla)
 {
-    model::Informa(s, model::TextoFallaMotor(falla) + ".");
+    model::Informa(s, model::TextoFallaMotor(falla));
 }
+
+/// Marks that an event is under way, however it ends.
+class EnEvento {
+  public:
+    explicit EnEvento(frmUEHs& unEditor) : f(unEditor), antes(unEditor.enEvento) { f.enEvento = true; }
+    ~EnEvento() { f.enEvento = antes; }
+    EnEvento(const EnEvento&) = delete;
+    EnEvento& operator=(const EnEvento&) = delete;
+
+  private:
+    frmUEHs& f;
+    bool antes;
+};
 
 void SueltaTodo(frmUEHs& f)
 {
@@ -62,6 +75,7 @@ void Guarda(frmUEHs& f, Siro& s)
 void CierraVentana(frmUEHs& f, Siro& s)
 {
     DescartaTrazo(f, s);
+    LimpiaSeleccion(s);
     f.dibujo.Vacia();
     f.historia = {};
     f.abierta = false;
@@ -126,17 +140,28 @@ void AplicaBoton(frmUEHs& f, Siro& s, Boton boton)
 
 void Evento(frmUEHs& f, Siro& s, const std::function<void()>& cuerpo)
 {
-    f.guardada = false;
-    bool tomado = false;
-    model::Sentencia(cuerpo, [&](const model::Falla& falla) {
-        SueltaTodo(f);
-        Repone(f, s);
-        tomado = true;
+    // A box of an event lets others in, the activation of the window for one: they see the network half
+    // changed.
+    const bool dentroDeOtro = f.enEvento;
+    const EnEvento marca(f);
+    if (!dentroDeOtro) f.guardada = false;
+    const bool bien = model::Sentencia(cuerpo, [&](const model::Falla& falla) {
+        if (!dentroDeOtro) {
+            SueltaTodo(f);
+            Repone(f, s);
+        }
         InformaFalla(s, falla);
     });
-    if (f.abierta && !f.izquierdoAbajo && !tomado && Anota(f, s)) f.cambiada = true;
-    if (f.guardada) f.cambiada = tomado;
     f.lblIndicacion = Indicacion(f, s);
+    if (dentroDeOtro) return;
+    if (f.abierta && !f.izquierdoAbajo && bien && Anota(f, s)) f.cambiada = true;
+    if (f.guardada) f.cambiada = !bien;
+}
+
+void Orden(frmUEHs& f, Siro& s, const std::function<void()>& cuerpo)
+{
+    if (f.izquierdoAbajo) picDibujo_MouseUp(f, s, BotonRaton::Izquierdo, f.ultimo);
+    Evento(f, s, cuerpo);
 }
 
 // --- the window ---
@@ -196,7 +221,7 @@ void Form_Resize(frmUEHs& f, Tamano ventana)
 bool Form_QueryUnload(frmUEHs& f, Siro& s)
 {
     if (!f.abierta) return true;
-    Evento(f, s, [&] {
+    Orden(f, s, [&] {
         if (RedVacia(s)) {
             CierraVentana(f, s);
         } else {
@@ -210,7 +235,7 @@ bool Form_QueryUnload(frmUEHs& f, Siro& s)
 
 void ToolbarUEHs_ButtonClick(frmUEHs& f, Siro& s, Boton boton)
 {
-    Evento(f, s, [&] {
+    Orden(f, s, [&] {
         LimpiaSeleccion(s);
         AplicaBoton(f, s, boton);
         if (f.abierta) Redibuja(f, s);
@@ -219,7 +244,7 @@ void ToolbarUEHs_ButtonClick(frmUEHs& f, Siro& s, Boton boton)
 
 void cmdImagenUEHs_Click(frmUEHs& f, Siro& s)
 {
-    Evento(f, s, [&] { AlternaImagen(f, s); });
+    Orden(f, s, [&] { AlternaImagen(f, s); });
 }
 
 void cmdAnchoLineaDib_Click(frmUEHs& f, Siro& s)
@@ -232,7 +257,7 @@ void cmdAnchoLineaDib_Click(frmUEHs& f, Siro& s)
 
 void cmdOrdenCauce_Click(frmUEHs& f, Siro& s)
 {
-    Evento(f, s, [&] {
+    Orden(f, s, [&] {
         f.OrdenVisible = !f.OrdenVisible;
         model::CalculaOrdenCauces(s);
         Redibuja(f, s);
@@ -244,7 +269,7 @@ void cmdOrdenCauce_Click(frmUEHs& f, Siro& s)
 
 void Form_KeyDown(frmUEHs& f, Siro& s, Tecla tecla)
 {
-    Evento(f, s, [&] {
+    Orden(f, s, [&] {
         switch (tecla) {
         case Tecla::Suprimir:
             f.Pon(Boton::SUEH, false);
@@ -257,10 +282,10 @@ void Form_KeyDown(frmUEHs& f, Siro& s, Tecla tecla)
             Cierra(f, s);
             break;
         case Tecla::Deshacer:
-            if (!f.izquierdoAbajo) Deshace(f, s);
+            Deshace(f, s);
             break;
         case Tecla::Rehacer:
-            if (!f.izquierdoAbajo) Rehace(f, s);
+            Rehace(f, s);
             break;
         default:
             break;

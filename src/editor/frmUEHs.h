@@ -172,6 +172,7 @@ struct frmUEHs {
     editor::Historia historia{};
     bool cambiada = false;  ///< the network in memory differs from the saved one
     bool guardada = false;  ///< the command in hand has saved the network
+    bool enEvento = false;  ///< an event is under way
 
     /// Size of an image file; nothing where it can't be read as an image. The window fills it in.
     std::function<std::optional<Tamano>(const std::string& ruta)> CargaImagen = [](const std::string&) {
@@ -242,6 +243,8 @@ void DescartaTrazo(frmUEHs& f, model::Siro& s);
 /// An event: does it, tells a fault in a box and takes back what it has begun, notes a step of the history
 /// unless a drag is under way.
 void Evento(frmUEHs& f, model::Siro& s, const std::function<void()>& cuerpo);
+/// An event that is no part of a drag: a drag whose release got lost ends first.
+void Orden(frmUEHs& f, model::Siro& s, const std::function<void()>& cuerpo);
 
 // --- between rules and window ---
 

@@ -345,7 +345,7 @@ TEST_F(EdicionBorra, BorrarTodoConLaTablaProtegidaDaLaFallaYReponeLaRed)
     PonModo(Boton::BorraTodo);
     EXPECT_EQ(
         Avisos(),
-        (Cajas{{"Error Nro. 75 ,Error de acceso a la ruta o al archivoVerifique.", "", Icono::Ninguno}}));
+        (Cajas{{"Error Nro. 75 ,Error de acceso a la ruta o al archivoVerifique", "", Icono::Ninguno}}));
     EXPECT_EQ(s.ColUEHs.Cuenta(), 3);
     EXPECT_EQ(s.NroCauces, 3);
 }

@@ -18,7 +18,7 @@ const Mensaje Guardado = {
     "Los datos de componentes de Unidades Hidrológicas del proyecto se han guardado correctamente en el "
     "archivo /proy/Arroyo_VerCau.vlm",
     "", Icono::Ninguno};
-const Mensaje FueraDelArreglo = {"Error Nro. 9 ,El subíndice está fuera del intervaloVerifique.", "",
+const Mensaje FueraDelArreglo = {"Error Nro. 9 ,El subíndice está fuera del intervaloVerifique", "",
                                  Icono::Ninguno};
 
 struct EdicionColoca : EditorDePrueba {

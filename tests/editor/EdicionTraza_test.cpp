@@ -237,7 +237,7 @@ TEST_F(EdicionTraza, ElCauce71FallaAlPrimerClic)
     EXPECT_EQ(s.NroCauces, 70);
     EXPECT_EQ(f.ClicsCauce, 0);
     EXPECT_EQ(Avisos(),
-              (Cajas{{"Error Nro. 9 ,El subíndice está fuera del intervaloVerifique.", "", Icono::Ninguno}}));
+              (Cajas{{"Error Nro. 9 ,El subíndice está fuera del intervaloVerifique", "", Icono::Ninguno}}));
     EXPECT_EQ(Faltas(), std::vector<std::string>{});
 }
 

@@ -125,7 +125,8 @@ inline std::vector<std::string> VerificaRed(const editor::frmUEHs& f, const mode
             const std::string& n = c.*nombre;
             if (n.empty()) continue;  // a reach whose name was cancelled
             exige(vistos.insert(n).second, "twice: " + n);
-            exige(n.starts_with(prefijo), "prefix: " + n);
+            // A part of a reach without a name has the suffix alone.
+            exige(n.starts_with(prefijo) || (prefijo == "c-" && n.starts_with("-.-")), "prefix: " + n);
         }
     };
     unicos(s.ColUEHs, &model::UEH::NombreUEH, "u-");

@@ -1,0 +1,291 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/Historia.h"
+
+#include <string>
+#include <vector>
+
+#include "EditorDePrueba.h"
+
+namespace {
+
+using editor::Boton;
+using editor::Punto;
+using T = editor::Tecla;
+
+struct HistoriaDelEditor : EditorDePrueba {
+    HistoriaDelEditor()
+    {
+        red.Cauce("c-1", {{100, 300}, {200, 200}});
+        red.UEH("u-1", {250, 150});
+        Parte();
+    }
+    /// An editing command, as the rules see it: the network differs after an event.
+    void Edita(const std::function<void()>& cuerpo) { editor::Evento(f, s, cuerpo); }
+};
+
+TEST_F(HistoriaDelEditor, DeshaceYRehacePasoAPaso)
+{
+    Edita([&] { s.ColUEHs.Item(1).Cauce_aa = "c-1"; });
+    Edita([&] { s.XVertice(1, 2) = 222; });
+    EXPECT_TRUE(f.cambiada);
+    Tecla(T::Deshacer);
+    EXPECT_EQ(Vertice(1, 2), (Punto{200, 200}));
+    EXPECT_EQ(s.ColUEHs.Item(1).Cauce_aa, "c-1");
+    Tecla(T::Deshacer);
+    EXPECT_EQ(s.ColUEHs.Item(1).Cauce_aa, "");
+    Tecla(T::Deshacer);
+    EXPECT_EQ(s.NroUEHs, 1);
+    Tecla(T::Rehacer);
+    EXPECT_EQ(s.ColUEHs.Item(1).Cauce_aa, "c-1");
+    EXPECT_EQ(Vertice(1, 2), (Punto{200, 200}));
+    Tecla(T::Rehacer);
+    EXPECT_EQ(Vertice(1, 2), (Punto{222, 200}));
+    Tecla(T::Rehacer);
+    EXPECT_EQ(Vertice(1, 2), (Punto{222, 200}));
+}
+
+TEST_F(HistoriaDelEditor, UnPasoNuevoOlvidaLosQueSeguian)
+{
+    Edita([&] { s.XVertice(1, 2) = 222; });
+    Tecla(T::Deshacer);
+    Edita([&] { s.XVertice(1, 2) = 333; });
+    Tecla(T::Rehacer);
+    EXPECT_EQ(Vertice(1, 2), (Punto{333, 200}));
+    Tecla(T::Deshacer);
+    EXPECT_EQ(Vertice(1, 2), (Punto{200, 200}));
+}
+
+TEST_F(HistoriaDelEditor, LoQueNoCambiaLaRedNoEsUnPaso)
+{
+    Edita([] {});
+    PonModo(Boton::Cauce);
+    PonModo(Boton::Selecciona);
+    editor::cmdAnchoLineaDib_Click(f, s);
+    editor::cmdOrdenCauce_Click(f, s);
+    editor::sldEscala_Mueve(f, s, 50);
+    EXPECT_TRUE(f.historia.anteriores.empty());
+    EXPECT_FALSE(f.cambiada);
+    EXPECT_EQ(s.ColCauces.Item(1).OrdenCauce, 1);
+}
+
+TEST_F(HistoriaDelEditor, GuardarConservaLaHistoria)
+{
+    Edita([&] { s.ColUEHs.Item(1).Area = 12; });
+    editor::ToolbarUEHs_ButtonClick(f, s, Boton::GuardaUEHs);
+    EXPECT_FALSE(f.cambiada);
+    EXPECT_EQ(f.historia.anteriores.size(), 1U);
+    Tecla(T::Deshacer);
+    EXPECT_EQ(s.ColUEHs.Item(1).Area, 0);
+    EXPECT_TRUE(f.cambiada);
+    Tecla(T::Rehacer);
+    EXPECT_EQ(s.ColUEHs.Item(1).Area, 12);
+}
+
+TEST_F(HistoriaDelEditor, GuardarConservaTambienLosPasosHaciaAdelante)
+{
+    Edita([&] { s.ColUEHs.Item(1).Area = 12; });
+    Tecla(T::Deshacer);
+    editor::ToolbarUEHs_ButtonClick(f, s, Boton::GuardaUEHs);
+    Tecla(T::Rehacer);
+    EXPECT_EQ(s.ColUEHs.Item(1).Area, 12);
+}
+
+TEST_F(HistoriaDelEditor, DeshacerLimpiaLaSeleccionYRedibuja)
+{
+    Edita([&] { red.UEH("u-2", {9, 9}); });
+    s.UEHSel = 2;
+    Tecla(T::Deshacer);
+    EXPECT_EQ(s.UEHSel, 0);
+    EXPECT_EQ(Con(editor::Papel::Icono).size(), 1U);
+    EXPECT_EQ(Faltas(), std::vector<std::string>{});
+}
+
+TEST_F(HistoriaDelEditor, VuelvenCuentasVerticesYTodasLasClases)
+{
+    const model::Siro antes = s;
+    Edita([&] {
+        red.Cauce("c-2", {{1, 2}, {3, 4}, {5, 6}}, "c-1");
+        red.Represa("r-1", {7, 7});
+        red.Lago("l-1", {8, 8});
+        editor::Redibuja(f, s);
+    });
+    const model::Siro despues = s;
+    Tecla(T::Deshacer);
+    EXPECT_EQ(s.ColCauces, antes.ColCauces);
+    EXPECT_EQ(s.ColRepresas.Cuenta() + s.ColLagos.Cuenta(), 0);
+    EXPECT_EQ(s.NroCauces + s.NroRepresas + s.NroLagos, 1);
+    EXPECT_EQ(s.NroVertices(2), 0);
+    Tecla(T::Rehacer);
+    EXPECT_EQ(s.ColCauces, despues.ColCauces);
+    EXPECT_EQ(s.ColRepresas, despues.ColRepresas);
+    EXPECT_EQ(s.ColLagos, despues.ColLagos);
+    EXPECT_EQ(s.NroVertices(2), 3);
+    EXPECT_EQ(Vertice(2, 3), (Punto{5, 6}));
+    EXPECT_EQ(Vertice(2, 1), (Punto{200, 200}));  // where c-1 begins
+    EXPECT_EQ(Faltas(), std::vector<std::string>{});
+}
+
+TEST_F(HistoriaDelEditor, UnaFallaDevuelveLaRedComoEstaba)
+{
+    Edita([&] {
+        ++s.NroUEHs;
+        s.ColUEHs.Item(1).Area = 5;
+        throw model::Falla{model::NumeroFalla::Subindice};
+    });
+    EXPECT_EQ(
+        Avisos(),
+        (Cajas{{"Error Nro. 9 ,El subíndice está fuera del intervaloVerifique", "", model::Icono::Ninguno}}));
+    EXPECT_EQ(s.NroUEHs, 1);
+    EXPECT_EQ(s.ColUEHs.Item(1).Area, 0);
+    EXPECT_TRUE(f.historia.anteriores.empty());
+    EXPECT_FALSE(f.cambiada);
+}
+
+TEST_F(HistoriaDelEditor, ElFinDelProgramaPasaDeLargo)
+{
+    EXPECT_THROW(Edita([&] { s.Anfitrion.Termina(); }), model::FinDelPrograma);
+}
+
+TEST_F(HistoriaDelEditor, LoQueCambiaUnaFormaAbiertaEsUnPaso)
+{
+    s.ColUEHs.Item(1).Area = 44;
+    editor::AlActivarse(f, s);
+    Tecla(T::Deshacer);
+    EXPECT_EQ(s.ColUEHs.Item(1).Area, 0);
+}
+
+TEST_F(HistoriaDelEditor, OtroProyectoEmpiezaOtraHistoria)
+{
+    Edita([&] { s.ColUEHs.Item(1).Area = 12; });
+    s.NombreProyecto = "Otro";
+    editor::AlActivarse(f, s);
+    Tecla(T::Deshacer);
+    EXPECT_EQ(s.ColUEHs.Item(1).Area, 12);
+}
+
+TEST_F(HistoriaDelEditor, DuranteUnArrastreNoSeAnota)
+{
+    f.izquierdoAbajo = true;
+    Edita([&] { s.ColUEHs.Item(1).IconoUEHx = 1; });
+    Edita([&] { s.ColUEHs.Item(1).IconoUEHx = 2; });
+    EXPECT_TRUE(f.historia.anteriores.empty());
+    f.izquierdoAbajo = false;
+    Edita([] {});
+    EXPECT_EQ(f.historia.anteriores.size(), 1U);
+    Tecla(T::Deshacer);
+    EXPECT_EQ(s.ColUEHs.Item(1).IconoUEHx, 250);
+}
+
+TEST_F(HistoriaDelEditor, UnaOrdenEnMedioDeUnArrastreLoTermina)
+{
+    f.izquierdoAbajo = true;
+    Edita([&] { s.ColUEHs.Item(1).IconoUEHx = 2; });
+    Tecla(T::Deshacer);
+    EXPECT_FALSE(f.izquierdoAbajo);
+    EXPECT_EQ(s.ColUEHs.Item(1).IconoUEHx, 250);
+    Tecla(T::Rehacer);
+    EXPECT_EQ(s.ColUEHs.Item(1).IconoUEHx, 2);
+}
+
+TEST_F(HistoriaDelEditor, LaActivacionQueTraeUnaCajaNoAnotaLoQueVaPorLaMitad)
+{
+    Edita([&] {
+        s.ColUEHs.Item(1).Area = 1;
+        editor::AlActivarse(f, s);
+        EXPECT_TRUE(f.historia.anteriores.empty());
+        s.ColUEHs.Item(1).Area = 2;
+    });
+    EXPECT_EQ(f.historia.anteriores.size(), 1U);
+    Tecla(T::Deshacer);
+    EXPECT_EQ(s.ColUEHs.Item(1).Area, 0);
+}
+
+/// The clicks of a reach as the rules store them.
+struct TrazoEnHistoria : HistoriaDelEditor {
+    void ClicDeTrazo(Punto p)
+    {
+        Edita([&] {
+            if (f.ClicsCauce++ == 0) {
+                ++s.NroCauces;
+                s.NroVertices(s.NroCauces) = 0;
+            }
+            ++s.NroVertices(s.NroCauces);
+            editor::Redibuja(f, s);
+            s.XVertice(s.NroCauces, s.NroVertices(s.NroCauces)) = p.X;
+            s.YVertice(s.NroCauces, s.NroVertices(s.NroCauces)) = p.Y;
+        });
+    }
+    void Termina()
+    {
+        Edita([&] {
+            f.ClicsCauce = 0;
+            s.ColCauces.Agrega({.numCauce = s.NroCauces,
+                                .numVertices = s.NroVertices(s.NroCauces),
+                                .NombreCauce = "c-nuevo",
+                                .Cauce_aa = "0"});
+            editor::Redibuja(f, s);
+        });
+    }
+};
+
+TEST_F(TrazoEnHistoria, MientrasSeDibujaDeshacerQuitaUnVertice)
+{
+    ClicDeTrazo({1, 1});
+    ClicDeTrazo({2, 2});
+    ClicDeTrazo({3, 3});
+    Tecla(T::Deshacer);
+    EXPECT_EQ(f.ClicsCauce, 2);
+    EXPECT_EQ(s.NroVertices(2), 2);
+    Tecla(T::Deshacer);
+    Tecla(T::Deshacer);
+    EXPECT_EQ(f.ClicsCauce, 0);
+    EXPECT_EQ(s.NroCauces, 1);
+    EXPECT_EQ(Faltas(), std::vector<std::string>{});
+    Tecla(T::Rehacer);
+    EXPECT_EQ(f.ClicsCauce, 1);
+    EXPECT_EQ(Vertice(2, 1), (Punto{1, 1}));
+}
+
+TEST_F(TrazoEnHistoria, TerminadoElCauceEsUnSoloPaso)
+{
+    ClicDeTrazo({1, 1});
+    ClicDeTrazo({2, 2});
+    ClicDeTrazo({3, 3});
+    Termina();
+    EXPECT_EQ(f.historia.anteriores.size(), 1U);
+    Tecla(T::Deshacer);
+    EXPECT_EQ(s.NroCauces, 1);
+    EXPECT_EQ(f.ClicsCauce, 0);
+    Tecla(T::Rehacer);
+    EXPECT_EQ(s.ColCauces.Cuenta(), 2);
+    EXPECT_EQ(Vertice(2, 3), (Punto{3, 3}));
+}
+
+TEST_F(TrazoEnHistoria, LoColocadoEntreDosClicsSigueSiendoUnPasoPropio)
+{
+    ClicDeTrazo({1, 1});
+    ClicDeTrazo({2, 2});
+    Edita([&] { red.UEH("u-2", {9, 9}); });
+    ClicDeTrazo({3, 3});
+    Termina();
+    Tecla(T::Deshacer);  // back before the third click
+    EXPECT_EQ(s.ColCauces.Cuenta(), 1);
+    EXPECT_EQ(f.ClicsCauce, 2);
+    EXPECT_EQ(s.NroUEHs, 2);
+    Tecla(T::Deshacer);
+    EXPECT_EQ(s.NroUEHs, 1);
+    EXPECT_EQ(f.ClicsCauce, 2);
+}
+
+TEST_F(HistoriaDelEditor, LasPartesQueNoCambianSeComparten)
+{
+    for (int i = 1; i <= 50; ++i)
+        Edita([&] { s.ColUEHs.Item(1).Area = static_cast<float>(i); });
+    ASSERT_EQ(f.historia.anteriores.size(), 50U);
+    for (const auto& red : f.historia.anteriores) {
+        EXPECT_EQ(red.vertices, f.historia.presente.vertices);
+        EXPECT_EQ(red.Cauces, f.historia.presente.Cauces);
+    }
+}
+
+}  // namespace

@@ -1,0 +1,582 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/frmUEHs.h"
+
+#include <cmath>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "EditorDePrueba.h"
+#include "editor/Fondo.h"
+
+namespace {
+
+using editor::Boton;
+using editor::Papel;
+using editor::Pedido;
+using editor::Puntero;
+using editor::Punto;
+using editor::Tamano;
+using T = editor::Tecla;
+using model::Icono;
+
+const model::Mensaje PreguntaGuardar{"¿Desea guardar los cambios realizados en los componentes de UEHs ? ",
+                                     "Resguardo de datos de componentes UEHs", Icono::Exclamacion};
+const std::string TextoGuardado =
+    "Los datos de componentes de Unidades Hidrológicas del proyecto se han guardado correctamente en el "
+    "archivo "
+    "/proy/Arroyo_VerCau.vlm";
+
+model::Mensaje Falla(const std::string& texto)
+{
+    return {texto, "", Icono::Ninguno};
+}
+
+struct Editor : EditorDePrueba {
+    /// One outfall and nothing to warn of.
+    void RedSana()
+    {
+        red.Cauce("c-1", {{100, 300}, {200, 200}});
+        red.UEH("u-1", {250, 150}, "c-1", {200, 200});
+    }
+    void EligeTodo()
+    {
+        s.CauceSel = s.CauceAnterior = s.UEHSel = s.RepresaSel = s.LagoSel = s.VerticeSel = 1;
+    }
+    [[nodiscard]] std::vector<int> Seleccion() const
+    {
+        return {s.CauceSel, s.CauceAnterior, s.UEHSel, s.RepresaSel, s.LagoSel, s.VerticeSel};
+    }
+};
+const std::vector<int> Nada(6, 0);
+
+// --- opening ---
+
+TEST_F(Editor, SeLlamaComoSeLlama)
+{
+    EXPECT_EQ(editor::TituloFrmUEHs, "Diagrama de Unidades Hidrológicas de Estudio y sus componentes");
+}
+
+TEST_F(Editor, AbreACuatroQuintosDeLaPantallaConSusValores)
+{
+    editor::frmUEHs otro;
+    editor::Abre(otro, s, {1600, 1001});
+    EXPECT_TRUE(otro.abierta);
+    EXPECT_EQ(otro.ventana, (Tamano{1280, 800}));
+    EXPECT_EQ(otro.AnchoLinea, 4);
+    EXPECT_EQ(otro.TamIcono, 10);
+    EXPECT_EQ(otro.EscalaBase, 800);
+    EXPECT_EQ(otro.sldEscala, 100);
+    EXPECT_EQ(editor::AnchoLogico(otro), 800);
+    EXPECT_EQ(otro.ToleranciaVertice, 16);
+    EXPECT_EQ(otro.cmdImagenUEHs, "Imágen");
+    EXPECT_EQ(editor::Modo(otro), Boton::Selecciona);
+    EXPECT_FALSE(otro.ImagenVisible);
+    EXPECT_FALSE(otro.OrdenVisible);
+    EXPECT_FALSE(otro.cambiada);
+}
+
+TEST_F(Editor, AlReabrirElIconoSaleDelAnchoAnterior)
+{
+    editor::cmdAnchoLineaDib_Click(f, s);
+    editor::cmdAnchoLineaDib_Click(f, s);  // 9
+    Abre();
+    EXPECT_FLOAT_EQ(f.TamIcono, 20.8F);  // 1.2 * 9 + 10
+    EXPECT_EQ(f.AnchoLinea, 4);
+    Abre();
+    EXPECT_FLOAT_EQ(f.TamIcono, 14.8F);
+}
+
+TEST_F(Editor, SinProyectoNoLeeNada)
+{
+    editor::frmUEHs otro;
+    s.NombreProyecto.clear();
+    disco.OlvidaLlamadas();
+    editor::Abre(otro, s, {1000, 1000});
+    EXPECT_TRUE(otro.abierta);
+    EXPECT_EQ(otro.AnchoLinea, 4);
+    EXPECT_TRUE(otro.lblEstado.empty());
+    EXPECT_TRUE(disco.Llamadas().empty());
+}
+
+TEST_F(Editor, LaLineaDeEstadoNombraElProyectoYSuConfiguracionSinGuion)
+{
+    EXPECT_EQ(f.lblEstado,
+              "UEHs : Arroyo_UEHs.vlm     Proyecto: Arroyo     Dir: /proy   Config. : ArroyoConf.vlm");
+}
+
+TEST_F(Editor, LaEscalaBaseEsElAnchoMaximoYSinValorPositivoSon800)
+{
+    struct Fila {
+        std::string texto;
+        int base;
+    };
+    for (const auto& [texto, base] : std::vector<Fila>{
+             {"1024", 1024}, {"1", 1}, {"0", 800}, {"-5", 800}, {"", 800}, {"x", 800}, {"640.4", 640}}) {
+        s.frmConfigura.txtMaxUEHsPixel = texto;
+        model::cmdAplicar(s);
+        Abre();
+        EXPECT_EQ(f.EscalaBase, base) << texto;
+    }
+}
+
+TEST_F(Editor, UnaEscalaBaseFueraDelTipoSeCuentaYSon800)
+{
+    s.frmConfigura.txtMaxUEHsPixel = "1E12";
+    model::cmdAplicar(s);
+    anfitrion->sucesos.clear();
+    Abre();
+    EXPECT_EQ(Avisos(), (Cajas{Falla("Error Nro. 6 ,DesbordamientoVerifique")}));
+    EXPECT_EQ(f.EscalaBase, 800);
+}
+
+TEST_F(Editor, AlAbrirLeeLosComponentesReescalaYCentra)
+{
+    red.Cauce("c-1", {{0, 0}, {1600, 400}});
+    Guarda();
+    s.ColCauces.Vacia();
+    Abre();
+    ASSERT_EQ(s.NroCauces, 1);
+    EXPECT_EQ(f.sldEscala, 220);  // 1600 * 1.1 / 800
+    EXPECT_EQ(f.origen, (Punto{-80, -680}));
+    EXPECT_EQ(Con(Papel::Cauce).size(), 1U);
+    EXPECT_EQ(f.ToleranciaVertice, 35);  // 0.02 * 1760
+}
+
+TEST_F(Editor, UnProyectoSinCaucesAbreAl100SinReescalar)
+{
+    red.UEH("u-1", {10, 10});
+    red.UEH("u-2", {3000, 10});
+    Guarda();
+    Abre();
+    EXPECT_EQ(s.NroUEHs, 2);
+    EXPECT_EQ(f.sldEscala, 100);
+}
+
+TEST_F(Editor, AlAbrirNadaQuedaElegido)
+{
+    EligeTodo();
+    Abre();
+    EXPECT_EQ(Seleccion(), Nada);
+}
+
+// --- window ---
+
+TEST_F(Editor, ActivarseBorraLaMarcaDelAvisoYEscondeLaPrincipal)
+{
+    RedSana();
+    s.AvisoDescargasVisto = true;
+    editor::AlActivarse(f, s);
+    EXPECT_FALSE(s.AvisoDescargasVisto);
+    EXPECT_FALSE(f.principalVisible);
+    EXPECT_EQ(Con(Papel::Icono).size(), 1U);
+    editor::AlPerderFoco(f);
+    EXPECT_TRUE(f.principalVisible);
+}
+
+TEST_F(Editor, ElLienzoEsLaVentanaMenosSusMargenesDesdeCiertoTamano)
+{
+    f.lienzo = {1, 2};
+    editor::Form_Resize(f, {113, 500});  // 1695 by 7500 units of the form
+    EXPECT_EQ(f.lienzo, (Tamano{1, 2}));
+    editor::Form_Resize(f, {500, 60});  // 7500 by 900
+    EXPECT_EQ(f.lienzo, (Tamano{1, 2}));
+    editor::Form_Resize(f, {114, 61});  // 1710 by 915
+    EXPECT_EQ(f.lienzo, (Tamano{14, 14}));
+    editor::Form_Resize(f, {1000, 800});  // 15000 - 1500, 12000 - 700
+    EXPECT_EQ(f.lienzo, (Tamano{900, 753}));
+}
+
+// --- modes ---
+
+TEST_F(Editor, CadaBotonDeModoLevantaLosOtrosYLimpiaLaSeleccion)
+{
+    RedSana();
+    for (const Boton b :
+         {Boton::UEH, Boton::Cauce, Boton::Represa, Boton::LAGO, Boton::LongArea, Boton::Selecciona}) {
+        EligeTodo();
+        PonModo(b);
+        EXPECT_EQ(editor::Modo(f), b);
+        EXPECT_EQ(Faltas(), std::vector<std::string>{});
+        EXPECT_EQ(Seleccion(), Nada);
+        EXPECT_EQ(f.puntero, b == Boton::Selecciona ? Puntero::Flecha : Puntero::Cruz);
+        EXPECT_TRUE(Con(Papel::MarcaVertice).empty());
+    }
+}
+
+TEST_F(Editor, LosDemasBotonesLimpianLaSeleccionYNoCambianElModo)
+{
+    RedSana();
+    for (const Boton b : {Boton::BorraTodo, Boton::SUEH, Boton::GuardaUEHs}) {
+        PonModo(Boton::Cauce);
+        EligeTodo();
+        anfitrion->respuestaDeSiempre = false;
+        editor::ToolbarUEHs_ButtonClick(f, s, b);
+        EXPECT_EQ(Seleccion(), Nada);
+        EXPECT_EQ(editor::Modo(f), Boton::Cauce);
+    }
+}
+
+TEST_F(Editor, SUEHBajaYLaLevantanLosBorrados)
+{
+    editor::ToolbarUEHs_ButtonClick(f, s, Boton::SUEH);
+    EXPECT_TRUE(f.Abajo(Boton::SUEH));
+    Tecla(T::Suprimir);
+    EXPECT_FALSE(f.Abajo(Boton::SUEH));
+    editor::ToolbarUEHs_ButtonClick(f, s, Boton::SUEH);
+    editor::ToolbarUEHs_ButtonClick(f, s, Boton::BorraTodo);
+    EXPECT_FALSE(f.Abajo(Boton::SUEH));
+}
+
+TEST_F(Editor, GuardarEscribeLosArchivosYLevantaElBoton)
+{
+    RedSana();
+    Parte();
+    f.cambiada = true;
+    std::optional<Puntero> alGuardar;
+    auto avisa = s.Anfitrion.Avisa;
+    s.Anfitrion.Avisa = [&, avisa](const model::Mensaje& m) {
+        alGuardar = f.puntero;
+        avisa(m);
+    };
+    editor::ToolbarUEHs_ButtonClick(f, s, Boton::GuardaUEHs);
+    EXPECT_EQ(Avisos(), (Cajas{Falla(TextoGuardado)}));
+    EXPECT_EQ(alGuardar, Puntero::Espera);
+    EXPECT_EQ(f.puntero, Puntero::Flecha);
+    EXPECT_FALSE(f.Abajo(Boton::GuardaUEHs));
+    EXPECT_TRUE(disco.Esta("/proy/Arroyo_UEHs.vlm"));
+    EXPECT_FALSE(f.cambiada);
+    EXPECT_EQ(Faltas(), std::vector<std::string>{});
+}
+
+TEST_F(Editor, CadaModoDiceLoQueHaraElProximoClic)
+{
+    std::vector<std::string> textos;
+    for (const Boton b :
+         {Boton::Selecciona, Boton::UEH, Boton::Cauce, Boton::Represa, Boton::LAGO, Boton::LongArea}) {
+        PonModo(b);
+        textos.push_back(f.lblIndicacion);
+    }
+    EXPECT_EQ(textos, (std::vector<std::string>{
+                          "Clic sobre un componente: lo elige; doble clic: edita sus propiedades.",
+                          "Clic: agrega una UHE en ese punto.",
+                          "Clic: primer vértice del cauce, en su extremo aguas abajo.",
+                          "Clic: agrega una Represa en ese punto.",
+                          "Clic: agrega un Lago/Laguna en ese punto.",
+                          "Clic: primer punto de la línea que se mide.",
+                      }));
+    Clic(1, 1);
+    EXPECT_EQ(f.lblIndicacion, "Clic: punto siguiente; doble clic: termina y calcula.");
+    Clic(2, 2);
+    Clic(3, 3);
+    EXPECT_EQ(f.lblIndicacion, "Clic: punto siguiente; doble clic o Enter: termina y calcula.");
+}
+
+// --- line width, coordinates ---
+
+TEST_F(Editor, ElAnchoDeLineaRecorreSuCiclo)
+{
+    std::vector<int> anchos;
+    std::vector<float> iconos;
+    for (int i = 0; i < 7; ++i) {
+        editor::cmdAnchoLineaDib_Click(f, s);
+        anchos.push_back(f.AnchoLinea);
+        iconos.push_back(f.TamIcono);
+    }
+    EXPECT_EQ(anchos, (std::vector<int>{6, 9, 13, 2, 3, 4, 6}));
+    EXPECT_EQ(iconos, (std::vector<float>{13, 17.5F, 23.5F, 7, 8.5F, 10, 13}));
+}
+
+TEST_F(Editor, LasCoordenadasBajoElPunteroSeVenEnUnidadesDelDibujo)
+{
+    editor::picDibujo_MouseMove(f, s, {123.456F, -7}, false);
+    EXPECT_EQ(f.lblX, "123.5");
+    EXPECT_EQ(f.lblY, "-7");
+}
+
+// --- keys and double click ---
+
+TEST_F(Editor, F2YElBotonDerechoPidenElMenu)
+{
+    Tecla(T::F2);
+    editor::picDibujo_MouseDown(f, s, editor::BotonRaton::Derecho, {5, 5});
+    EXPECT_EQ(f.pedidos, (std::vector<Pedido>{Pedido::Menu, Pedido::Menu}));
+}
+
+TEST_F(Editor, DeF3AF6AbrenSuFormaSoloSiHayDeEsaClase)
+{
+    for (const editor::Tecla t : {T::F3, T::F4, T::F5, T::F6})
+        Tecla(t);
+    EXPECT_TRUE(f.pedidos.empty());
+    red.UEH("u-1", {1, 1});
+    red.Cauce("c-1", {{1, 1}, {2, 2}});
+    red.Represa("r-1", {1, 1});
+    red.Lago("l-1", {1, 1});
+    for (const editor::Tecla t : {T::F3, T::F4, T::F5, T::F6})
+        Tecla(t);
+    EXPECT_EQ(f.pedidos, (std::vector<Pedido>{Pedido::FormaUEH, Pedido::FormaCauce, Pedido::FormaRepresa,
+                                              Pedido::FormaLago}));
+}
+
+TEST_F(Editor, InsertarAbreLaFormaDelCauceElegido)
+{
+    RedSana();
+    Tecla(T::Insertar);
+    EXPECT_TRUE(f.pedidos.empty());
+    s.CauceSel = 1;
+    Tecla(T::Insertar);
+    EXPECT_EQ(f.pedidos, (std::vector<Pedido>{Pedido::FormaCauce}));
+}
+
+TEST_F(Editor, ElDobleClicAbrePrimeroCauceDespuesUEHLagoYRepresa)
+{
+    red.Cauce("c-1", {{1, 1}, {2, 2}});
+    red.UEH("u-1", {1, 1});
+    red.Lago("l-1", {1, 1});
+    red.Represa("r-1", {1, 1});
+    EligeTodo();
+    editor::picDibujo_DblClick(f, s);
+    s.CauceSel = 0;
+    editor::picDibujo_DblClick(f, s);
+    s.UEHSel = 0;
+    editor::picDibujo_DblClick(f, s);
+    s.LagoSel = 0;
+    editor::picDibujo_DblClick(f, s);
+    EXPECT_EQ(f.pedidos, (std::vector<Pedido>{Pedido::FormaCauce, Pedido::FormaUEH, Pedido::FormaLago,
+                                              Pedido::FormaRepresa}));
+}
+
+TEST_F(Editor, ElDobleClicSinNadaElegidoVuelveASeleccionarYRecentra)
+{
+    red.Cauce("c-1", {{100, 50}, {300, 150}});
+    Parte();
+    f.botones.fill(false);
+    f.Pon(Boton::LongArea, true);
+    editor::picDibujo_DblClick(f, s);
+    EXPECT_EQ(editor::Modo(f), Boton::Selecciona);
+    EXPECT_FALSE(f.Abajo(Boton::LongArea));
+    EXPECT_EQ(f.origen, (Punto{-200, -300}));
+}
+
+// --- closing ---
+
+TEST_F(Editor, EscConUnaSolaSalidaPreguntaSiGuardaYCierra)
+{
+    RedSana();
+    Parte();
+    Responde({false});
+    Tecla(T::Esc);
+    EXPECT_EQ(Preguntas(), (Cajas{PreguntaGuardar}));
+    EXPECT_TRUE(Avisos().empty());
+    EXPECT_FALSE(f.abierta);
+    EXPECT_TRUE(f.principalVisible);
+    EXPECT_TRUE(f.dibujo.Primitivas().empty());
+    EXPECT_FALSE(disco.Esta("/proy/Arroyo_UEHs.vlm"));
+}
+
+TEST_F(Editor, AlDecirQueSiGuardaYCierra)
+{
+    RedSana();
+    Parte();
+    Responde({true});
+    editor::ToolbarUEHs_ButtonClick(f, s, Boton::Salir);
+    EXPECT_EQ(Avisos(), (Cajas{Falla(TextoGuardado)}));
+    EXPECT_FALSE(f.abierta);
+    EXPECT_TRUE(f.dibujo.Primitivas().empty());
+    EXPECT_TRUE(disco.Esta("/proy/Arroyo_UEHs.vlm"));
+}
+
+TEST_F(Editor, ConLaRedVaciaEscNoCierraNiPregunta)
+{
+    Tecla(T::Esc);
+    EXPECT_TRUE(f.abierta);
+    EXPECT_TRUE(anfitrion->sucesos.empty());
+    editor::ToolbarUEHs_ButtonClick(f, s, Boton::Salir);
+    EXPECT_TRUE(f.abierta);
+}
+
+TEST_F(Editor, ConLaRedVaciaElBotonDelMarcoCierraSinPreguntar)
+{
+    EXPECT_TRUE(editor::Form_QueryUnload(f, s));
+    EXPECT_FALSE(f.abierta);
+    EXPECT_TRUE(anfitrion->sucesos.empty());
+    EXPECT_TRUE(editor::Form_QueryUnload(f, s));
+}
+
+TEST_F(Editor, ElBotonDelMarcoEsComoEscSiHayRed)
+{
+    red.UEH("u-1", {1, 1});
+    red.UEH("u-2", {50, 1});  // two outfalls
+    Parte();
+    Responde({true});  // back to the editor
+    EXPECT_FALSE(editor::Form_QueryUnload(f, s));
+    EXPECT_TRUE(f.abierta);
+    ASSERT_EQ(Preguntas().size(), 1U);
+    EXPECT_EQ(Preguntas().front().titulo, "Advertencia !!!");
+    Responde({false, false});
+    EXPECT_TRUE(editor::Form_QueryUnload(f, s));
+    EXPECT_FALSE(f.abierta);
+}
+
+TEST_F(Editor, ConUnaSolaSalidaUnAvisoContestadoQueSiCierraIgual)
+{
+    RedSana();
+    red.Cauce("c-2", {{5, 5}, {6, 6}}, "c-1");  // nothing drains into it
+    Parte();
+    Responde({true, false});
+    Tecla(T::Esc);
+    ASSERT_EQ(Preguntas().size(), 2U);
+    EXPECT_EQ(Preguntas()[0].texto,
+              "Hay tramos de Cauces sin aportes de UEHs. Verifique los tramos siguientes y asigne sus UEH o "
+              "componentes de aportes: c-2             ¿Desea volver a la ventana de edición  (SI) o "
+              "continuar (No) ?");
+    EXPECT_EQ(Preguntas()[1], PreguntaGuardar);
+    EXPECT_FALSE(f.abierta);
+}
+
+TEST_F(Editor, UnAvisoContestadoQueNoDejaCerrar)
+{
+    red.UEH("u-1", {1, 1});
+    red.UEH("u-2", {50, 1});  // two outfalls
+    Parte();
+    Responde({false, false});
+    Tecla(T::Esc);
+    ASSERT_EQ(Preguntas().size(), 2U);
+    EXPECT_EQ(
+        Preguntas()[0].texto,
+        "Hay más de un componente de descarga para el sistema (sección final de control). El sistema admite "
+        "esta posibilidad para el cálculo para un máximo de 10 componentes, pero si el sistema es de salida "
+        "final única debe verificar los campos <Drena a> de los siguientes componentes:u-1    u-2            "
+        " "
+        "¿Desea volver a la ventana de edición  (SI) o continuar (No) ?");
+    EXPECT_EQ(Preguntas()[1], PreguntaGuardar);
+    EXPECT_FALSE(f.abierta);
+}
+
+TEST_F(Editor, ElAvisoYaVistoDejaElEditorAbiertoSinPreguntarNada)
+{
+    red.UEH("u-1", {1, 1});
+    red.UEH("u-2", {50, 1});
+    Parte();
+    s.AvisoDescargasVisto = true;
+    Tecla(T::Esc);
+    EXPECT_TRUE(f.abierta);
+    EXPECT_TRUE(anfitrion->sucesos.empty());
+}
+
+TEST_F(Editor, UnNoDeUnCierreAnteriorNoVale)
+{
+    red.UEH("u-1", {1, 1});
+    red.UEH("u-2", {50, 1});
+    Parte();
+    s.ContinuarSinCorregir = s.RedOk = true;
+    Responde({true});
+    Tecla(T::Esc);
+    EXPECT_TRUE(f.abierta);
+}
+
+TEST_F(Editor, AlCerrarElCauceSinTerminarSeAbandona)
+{
+    RedSana();
+    Parte();
+    s.NroCauces = 2;
+    s.NroVertices(2) = 1;
+    f.ClicsCauce = 1;
+    Responde({false});
+    Tecla(T::Esc);
+    EXPECT_FALSE(f.abierta);
+    EXPECT_EQ(s.NroCauces, 1);
+    EXPECT_EQ(f.ClicsCauce, 0);
+}
+
+// --- background image ---
+
+struct Imagen : Editor {
+    std::vector<std::string> pedidas{};
+    Imagen()
+    {
+        f.CargaImagen = [this](const std::string& ruta) {
+            pedidas.push_back(ruta);
+            return std::optional(Tamano{640, 480});
+        };
+        s.ArchivoImagen = "Arroyo.jpg";
+    }
+};
+
+TEST_F(Imagen, UnNombreSueltoSeBuscaEnElDirectorioDelProyecto)
+{
+    EXPECT_EQ(editor::RutaImagen(s), "/proy/Arroyo.jpg");
+    s.ArchivoImagen = "/mapas/Arroyo.jpg";
+    EXPECT_EQ(editor::RutaImagen(s), "/mapas/Arroyo.jpg");
+}
+
+TEST_F(Imagen, SePoneYSeQuitaConSusLeyendasYReleeLosComponentes)
+{
+    RedSana();
+    Guarda();
+    s.ColUEHs.Item(1).Area = 7;  // not saved
+    disco.Pon("/proy/Arroyo.jpg", "x");
+    editor::cmdImagenUEHs_Click(f, s);
+    EXPECT_TRUE(f.ImagenVisible);
+    EXPECT_EQ(f.cmdImagenUEHs, "Quitar Imágen");
+    EXPECT_EQ(f.imagen, (Tamano{640, 480}));
+    EXPECT_EQ(f.rutaImagen, "/proy/Arroyo.jpg");
+    EXPECT_EQ(pedidas, (std::vector<std::string>{"/proy/Arroyo.jpg"}));
+    EXPECT_EQ(Con(Papel::Imagen).size(), 1U);
+    EXPECT_EQ(s.ColUEHs.Item(1).Area, 0);
+    s.ColUEHs.Item(1).Area = 7;
+    editor::cmdImagenUEHs_Click(f, s);
+    EXPECT_FALSE(f.ImagenVisible);
+    EXPECT_EQ(f.cmdImagenUEHs, "Mostrar Imágen");
+    EXPECT_TRUE(Con(Papel::Imagen).empty());
+    EXPECT_EQ(s.ColUEHs.Item(1).Area, 0);
+    editor::cmdImagenUEHs_Click(f, s);
+    EXPECT_EQ(f.cmdImagenUEHs, "Quitar Imágen");
+    EXPECT_TRUE(anfitrion->sucesos.empty());
+}
+
+TEST_F(Imagen, LoQueLaRelecturaQuitoVuelveConDeshacer)
+{
+    RedSana();
+    Guarda();
+    disco.Pon("/proy/Arroyo.jpg", "x");
+    red.UEH("u-2", {9, 9});
+    editor::Anota(f, s);
+    editor::cmdImagenUEHs_Click(f, s);
+    EXPECT_EQ(s.NroUEHs, 1);
+    EXPECT_FALSE(f.cambiada);
+    Tecla(T::Deshacer);
+    EXPECT_EQ(s.NroUEHs, 2);
+    EXPECT_TRUE(f.cambiada);
+}
+
+TEST_F(Imagen, UnArchivoQueNoEstaSeCuentaYLaImagenQuedaQuitada)
+{
+    RedSana();
+    Parte();
+    editor::cmdImagenUEHs_Click(f, s);
+    EXPECT_EQ(Avisos(), (Cajas{Falla("Error Nro. 53 ,No se encontró el archivoVerifique.")}));
+    EXPECT_FALSE(f.ImagenVisible);
+    EXPECT_EQ(f.cmdImagenUEHs, "Imágen");
+    EXPECT_EQ(s.NroCauces, 1);  // nothing was read again
+    EXPECT_TRUE(pedidas.empty());
+}
+
+TEST_F(Imagen, UnDirectorioQueNoEstaTambien)
+{
+    s.ArchivoImagen = "/otra/Arroyo.jpg";
+    editor::cmdImagenUEHs_Click(f, s);
+    EXPECT_EQ(Avisos(), (Cajas{Falla("Error Nro. 76 ,No se encontró la ruta de accesoVerifique.")}));
+    EXPECT_FALSE(f.ImagenVisible);
+}
+
+TEST_F(Imagen, UnArchivoQueNoEsImagenTambien)
+{
+    disco.Pon("/proy/Arroyo.jpg", "no");
+    f.CargaImagen = [](const std::string&) { return std::optional<Tamano>{}; };
+    editor::cmdImagenUEHs_Click(f, s);
+    EXPECT_EQ(Avisos(), (Cajas{Falla("Error Nro. 75 ,Error de acceso a la ruta o al archivoVerifique.")}));
+    EXPECT_FALSE(f.ImagenVisible);
+}
+
+}  // namespace
