@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QHash>
+#include <QPixmap>
+#include <QRectF>
+#include <string>
+
+#include "editor/frmUEHs.h"
+
+class QPainter;
+
+namespace editor {
+
+/// Paints the editor's list of primitives: on the canvas, on paper, into a file. Shapes and colours are
+/// decided here and nothing else is.
+class PintorDibujo {
+  public:
+    /// Paints the drawing as the canvas shows it into a rectangle that has the canvas's proportions.
+    void Pinta(QPainter& pintor, const frmUEHs& f, const QRectF& donde);
+
+    /// The background image of a file, kept until another one is asked for. Returns its size; nothing where
+    /// it can't be read.
+    std::optional<Tamano> CargaFondo(const std::string& ruta);
+
+    /// Lines and letters without steps. Off only while something else counts more.
+    bool suaviza = true;
+
+  private:
+    struct Mapa;
+    void PintaFondo(QPainter& pintor, const QRectF& donde) const;
+    void PintaIcono(QPainter& pintor, const Primitiva& p, const QRectF& caja);
+
+    QPixmap fondo{};
+    std::string rutaFondo{};
+    QHash<quint64, QPixmap> iconos{};  ///< by kind, state, size
+};
+
+/// Paints the icon of a kind of component into a square.
+void PintaIconoDe(QPainter& pintor, Clase clase, bool seleccionado, const QRectF& donde);
+
+}  // namespace editor

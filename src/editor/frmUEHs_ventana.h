@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <functional>
+#include <string>
+
+#include "editor/Lienzo_ventana.h"
+#include "editor/PintaDibujo_ventana.h"
+#include "editor/frmUEHs.h"
+#include "forms/Formulario_ventana.h"
+
+class QAction;
+class QLabel;
+class QMenu;
+class QPushButton;
+class QScrollBar;
+class QSlider;
+class QToolBar;
+
+namespace editor {
+
+/// The graphic editor of the network, a window of its own.
+class frmUEHs_ventana : public forms::Ventana {
+  public:
+    frmUEHs_ventana(forms::Entorno& alrededor, frmUEHs& reglas, QWidget* padre = nullptr);
+
+    /// Reads the project's network and shows it.
+    void Abre();
+    void Muestra() override;
+
+    /// Opens the form of a component; whoever has the forms sets it.
+    std::function<void(Pedido forma)> AbreForma = [](Pedido) {};
+    /// Shows the main window or hides it.
+    std::function<void(bool visible)> MuestraPrincipal = [](bool) {};
+
+  protected:
+    void closeEvent(QCloseEvent* evento) override;
+    void changeEvent(QEvent* evento) override;
+    void keyPressEvent(QKeyEvent* evento) override;
+
+  private:
+    template <typename Rutina>
+    void Hace(Rutina&& rutina);
+    QToolBar* HazBarra();
+    QWidget* HazMandos();
+    QWidget* HazPie();
+    QAction* HazAccion(const char* nombre, const char* leyenda, const char* icono);
+    void ConectaLienzo();
+    bool TeclaDeLienzo(int tecla);
+    void AtiendePedidos();
+    void AbreMenu();
+    /// Into a file of a type, "PNG", "SVG" or "PDF", that the user names.
+    void Exporta(const std::string& tipo);
+    void GuardaDibujo(const QString& ruta);
+    void Imprime();
+    void DejaVentana();
+
+    frmUEHs& f;
+    PintorDibujo pintor{};
+    Lienzo* picDibujo = nullptr;
+    std::array<QAction*, NroBotones> botones{};
+    QAction *deshace = nullptr, *rehace = nullptr;
+    QSlider* sldEscala = nullptr;
+    QScrollBar *ScrEscalaHor = nullptr, *ScrEscalaVer = nullptr;
+    QPushButton *cmdImagenUEHs = nullptr, *cmdAnchoLineaDib = nullptr, *cmdOrdenCauce = nullptr;
+    QLabel *lblX = nullptr, *lblY = nullptr, *lblEstado = nullptr, *lblLongArea = nullptr,
+           *lblIndicacion = nullptr, *lblEscala = nullptr;
+    bool enPedidos = false;
+};
+
+}  // namespace editor
