@@ -20,7 +20,7 @@ using forms::Q;
 
 namespace {
 
-constexpr std::string_view TodaviaNo = "Esta ventana todavía no está disponible.";
+constexpr std::string_view NoDisponible = "Esta ventana todavía no está disponible.";
 
 }  // namespace
 
@@ -28,12 +28,10 @@ Escritorio::Escritorio(const std::string& dirTrabajo)
 {
     s.DirEjecutable = dirTrabajo;
     PonAnfitrion();
-    PonPizarra();
     PonAvance();
     PonMandos();
     entorno.Presenta = [this](QWidget& ventana) { Presenta(ventana); };
-    ventanaPrincipal = std::make_unique<MDIForm1_ventana>(entorno, principal, mandos);
-    ventanaAvance = std::make_unique<frmPp2_ventana>(avance, ventanaPrincipal.get());
+    PonVentanas();
 }
 
 Escritorio::~Escritorio() = default;
@@ -82,18 +80,21 @@ void Escritorio::PonAnfitrion()
     s.Anfitrion.AbreTablaSerie = [this] { Abre(Ventana::dlgTablaSalePDR, false); };
 }
 
-void Escritorio::PonPizarra()
+void Escritorio::PonVentanas()
 {
-    s.Anfitrion.MarcaPizarra = [this] { return principal.Estado(Variable::mnuPizarra1).marcada; };
-    s.Anfitrion.PonMarcaPizarra = [this](bool marca) {
-        principal.Estado(Variable::mnuPizarra1).marcada = marca;
-        ventanaPrincipal->Muestra();
+    ventanaPrincipal = std::make_unique<MDIForm1_ventana>(entorno, principal, mandos);
+    ventanaAvance = std::make_unique<frmPp2_ventana>(avance, ventanaPrincipal.get());
+    ventanaLluvia = std::make_unique<rainfall::dlgPp_ventana>(entorno, lluvia, ventanaPrincipal.get());
+    ventanaLluvia->AbreHietograma = [this](const rainfall::PedidoHietograma& p) {
+        AbreHietograma({p.N, p.paso, p.titulo, p.P, p.D});
     };
-    s.Anfitrion.AbrePizarra = [this] { Abre(Ventana::frmPp, false); };
-    s.Anfitrion.LeePizarra = [this] { return pizarra; };
-    s.Anfitrion.PonPizarra = [this](std::string_view texto) { pizarra = texto; };
-    s.Anfitrion.AmpliaPizarra = [this](const std::string& texto) { pizarra = texto; };
-    s.Anfitrion.AgregaPizarra = [this](std::string_view texto) { pizarra += texto; };
+    for (auto* const abre : {&ventanaLluvia->AbreDisPer, &ventanaLluvia->AbreTablasPDRs,
+                             &ventanaLluvia->AbrePpReal, &ventanaLluvia->AbrePpUEHs})
+        *abre = [this] { TodaviaNo(); };
+    ventanaPizarra = std::make_unique<results::frmPp_ventana>(entorno, pizarra);
+    results::PonPizarra(s.Anfitrion, pizarra, *ventanaPizarra,
+                        principal.Estado(Variable::mnuPizarra1).marcada,
+                        [this] { ventanaPrincipal->Muestra(); });
 }
 
 void Escritorio::PonAvance()
@@ -124,6 +125,7 @@ void Escritorio::PonMandos()
     mandos.Abre = [this](Ventana ventana) { Abre(ventana, true); };
     mandos.AbreSinEsperar = [this](Ventana ventana) { Abre(ventana, false); };
     mandos.Cierra = [this](Ventana ventana) { Cierra(ventana); };
+    mandos.AbreHietograma = [this](const results::Hietograma& pedido) { AbreHietograma(pedido); };
     mandos.NotasDeTormenta = [this] { return rainfall::TituloDeTormenta(lluvia, s); };
     mandos.PunteroDeEspera = [](bool espera) {
         if (espera) {
@@ -145,12 +147,29 @@ void Escritorio::Abre(Ventana ventana, bool /*espera*/)
         return dlgEliminarProyecto_ventana(entorno, eliminar, ventanaPrincipal.get()).Abre();
     case Ventana::frmAcerca:
         return frmAcerca_ventana(entorno, ventanaPrincipal.get()).Abre();
+    case Ventana::dlgPp:
+        return ventanaLluvia->Abre();
+    case Ventana::frmPp:
+        return ventanaPizarra->Abre();
     default:
-        return model::Informa(s, std::string(TodaviaNo));
+        return TodaviaNo();
     }
 }
 
-void Escritorio::Cierra(Ventana /*ventana*/) {}
+void Escritorio::AbreHietograma(const results::Hietograma& /*pedido*/)
+{
+    TodaviaNo();
+}
+
+void Escritorio::TodaviaNo() const
+{
+    model::Informa(s, std::string(NoDisponible));
+}
+
+void Escritorio::Cierra(Ventana ventana)
+{
+    if (ventana == Ventana::frmPp) ventanaPizarra->close();
+}
 
 void Escritorio::Presenta(QWidget& ventana)
 {

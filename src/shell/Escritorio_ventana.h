@@ -8,8 +8,11 @@
 #include "model/Siro.h"
 #include "model/VidaProyecto.h"
 #include "rainfall/dlgPp.h"
+#include "rainfall/dlgPp_ventana.h"
 #include "results/dlgChart1.h"
 #include "results/dlgChart2.h"
+#include "results/frmPp.h"
+#include "results/frmPp_ventana.h"
 #include "shell/Arranque.h"
 #include "shell/MDIForm1.h"
 #include "shell/MDIForm1_ventana.h"
@@ -39,26 +42,31 @@ class Escritorio {
     frmPp2 avance{};
     model::dlgEliminarProyecto eliminar{};
     rainfall::dlgPp lluvia{};
+    results::frmPp pizarra{};
     results::dlgChart1 hietograma{};
     results::dlgChart2 hidrograma{};
 
     MDIForm1_ventana& Principal() { return *ventanaPrincipal; }
+    /// Brings a window up; a modal one is waited for where `espera` says so.
+    void Abre(Ventana ventana, bool espera = true);
 
   private:
     void PonAnfitrion();
-    void PonPizarra();
+    void PonVentanas();
     void PonAvance();
     void PonMandos();
-    void Abre(Ventana ventana, bool espera);
+    void AbreHietograma(const results::Hietograma& pedido);
+    void TodaviaNo() const;
     void Cierra(Ventana ventana);
     void Presenta(QWidget& ventana);
 
-    std::string pizarra{};  ///< text in the Slate's box
     Mandos mandos{};
 
     // The windows below the main one go first.
     std::unique_ptr<MDIForm1_ventana> ventanaPrincipal;
     std::unique_ptr<frmPp2_ventana> ventanaAvance;
+    std::unique_ptr<rainfall::dlgPp_ventana> ventanaLluvia;
+    std::unique_ptr<results::frmPp_ventana> ventanaPizarra;
 };
 
 }  // namespace shell

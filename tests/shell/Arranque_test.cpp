@@ -49,6 +49,7 @@ TEST_F(Arranque, AunqueElUltimoProyectoExistaLosEditoresLoPidenHastaQueSeAbra)
     disco.Pon(Puntero, BytesPuntero(Proyectos, "Mio"));
     PonProyecto();
     s.frmConfigura.lblMiArchivoConf = "Mio_Conf.vlm";
+    s.frmConfigura.Dir1 = Proyectos;
     model::cmdAplicar(s);
     anfitrion->sucesos.clear();
     Arranca();
