@@ -50,7 +50,8 @@ void Rechaza(const Siro& s, std::string_view titulo, std::string_view texto, con
 
 // --- reaches ---
 
-/// Objects and vertices of the reaches above move down one place; each place keeps its number.
+/// Objects and vertices of the reaches above move down one place; each place keeps its number. A reach that
+/// is being drawn gives way.
 void CierraHueco(Siro& s, int hueco)
 {
     const int cuenta = s.ColCauces.Cuenta();
@@ -108,7 +109,6 @@ void BorraCauce(frmUEHs& f, Siro& s)
         Rechaza(s, TituloCauceTributario, CauceTributario, nombre);
         return;
     }
-    DescartaTrazo(f, s);
     CierraHueco(s, n);
     GuardaTrasBorrar(f, s);
     Redibuja(f, s);

@@ -35,8 +35,7 @@ void mnu_DivideCauce(frmUEHs& f, Siro& s)
     const int ultimo = s.NroVertices(c);
     if (corte <= 1 || corte >= ultimo) return;
 
-    DescartaTrazo(f, s);
-    const int n = NumeroDeCauceNuevo(s);
+    const int n = NumeroDeCauceNuevo(s);  // a reach that is being drawn gives way
     const std::string nombre = s.Cauces(c).NombreCauce;
     s.NroVertices(n) = 0;
     for (int j = corte; j <= ultimo; ++j)

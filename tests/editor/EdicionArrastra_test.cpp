@@ -269,6 +269,23 @@ TEST_F(EdicionArrastra, UnaUEHNoSeMueveSiHayOtraCosaElegida)
     EXPECT_EQ(s.Represas(1).IconoRepresaX, 500);
 }
 
+TEST_F(EdicionArrastra, NingunIconoSeMueveConUnCauceElegido)
+{
+    red.Cauce("c-a", {{100, 100}, {200, 200}});
+    red.UEH("u-a", {400, 100});
+    red.Represa("r-a", {500, 100});
+    red.Lago("l-a", {600, 100});
+    Parte();
+    for (const Punto icono : {Punto{400, 100}, {500, 100}, {600, 100}}) {
+        editor::LimpiaSeleccion(s);
+        Clic(200, 200);
+        Arrastra({{icono.X + 5, icono.Y + 5}, {icono.X + 15, icono.Y + 15}});
+    }
+    EXPECT_EQ(s.UEHs(1).IconoUEHx, 400);
+    EXPECT_EQ(s.Represas(1).IconoRepresaX, 500);
+    EXPECT_EQ(s.Lagos(1).IconoLAGOx, 600);
+}
+
 TEST_F(EdicionArrastra, UnaRepresaQuedaAtrasDeUnPunteroRapido)
 {
     red.Represa("r-a", {400, 100});

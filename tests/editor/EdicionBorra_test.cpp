@@ -71,6 +71,10 @@ TEST_F(EdicionBorra, ElCauceDelMedioYLosDeArribaBajanUnLugarConSusVertices)
 TEST_F(EdicionBorra, LoGuardadoEsLoQueQuedaEnMemoria)
 {
     BorraCauce(2);
+    // project, count, and the two reaches, each place with its own number
+    const std::string archivo = disco.Bytes("/proy/Arroyo_UEHs.vlm");
+    EXPECT_TRUE(archivo.starts_with("\"Arroyo\"\r\n2\r\n1\r\n\"c-1\"\r\n2\r\n1\r\n"));
+    EXPECT_NE(archivo.find("2\r\n\"c-3\"\r\n4\r\n3\r\n\"c-1\"\r\n"), std::string::npos);
     const auto cauces = s.ColCauces;
     model::LeeUEHs(s);
     EXPECT_EQ(s.ColCauces, cauces);
@@ -359,6 +363,11 @@ TEST_F(EdicionBorra, BorrarTodoDejaCaerElTrazo)
     EXPECT_EQ(f.ClicsCauce, 0);
     EXPECT_EQ(s.NroCauces, 0);
     EXPECT_EQ(Faltas(), std::vector<std::string>{});
+
+    PonModo(Boton::Cauce);
+    Clic(8, 9);
+    EXPECT_EQ(s.NroVertices(1), 1);
+    EXPECT_EQ(Vertice(1, 1), (Punto{8, 9}));
 }
 
 }  // namespace
