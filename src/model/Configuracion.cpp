@@ -27,17 +27,9 @@ constexpr std::string_view AvisoDanado1 = " El archivo de configuración <";
 constexpr std::string_view AvisoDanado2 =
     "_Conf.vlm > está dañado. Corrija o elimine manualmente este archivo";
 
-// The sets as designed: R 1000 without R 500 is meant.
-constexpr auto RecurrenciasDefecto = std::to_array<std::int16_t>({2, 5, 10, 20, 25, 40, 50, 100, 200, 1000});
-constexpr auto DuracionesDefecto =
-    std::to_array<std::int16_t>({10, 20, 30, 60, 90, 120, 180, 240, 300, 360, 540, 720, 1080, 1440});
-
 constexpr std::int16_t Tildada = 1;
 
 // --- drives ---
-
-/// Drives exist where the backslash separates directories.
-constexpr bool HayUnidades = Separador == '\\';
 
 /// Bytes of the drive at the head of a path: its first two characters, on a platform without drives only
 /// where the second one is a colon.
@@ -52,11 +44,6 @@ std::size_t LargoUnidad(std::string_view ruta)
     const std::size_t segundo = fin(0);
     const bool dosPuntos = segundo < ruta.size() && ruta[segundo] == ':';
     return HayUnidades || dosPuntos ? fin(segundo) : 0;
-}
-
-std::string UnidadDe(std::string_view ruta)
-{
-    return HayUnidades ? std::string(ruta.substr(0, LargoUnidad(ruta))) : std::string{};
 }
 
 std::string_view SinUnidad(std::string_view ruta)
@@ -268,16 +255,6 @@ static_assert(Campos.size() == 28 + Recurrencias.size() + Duraciones.size());
 
 // --- selections ---
 
-template <std::size_t N, std::size_t M>
-void Tilda(std::array<std::int16_t, N>& casillas, const std::array<std::int16_t, N>& valores,
-           const std::array<std::int16_t, M>& elegidos)
-{
-    std::transform(valores.begin(), valores.end(), casillas.begin(), [&](std::int16_t valor) {
-        const bool elegido = std::find(elegidos.begin(), elegidos.end(), valor) != elegidos.end();
-        return elegido ? Tildada : std::int16_t{0};
-    });
-}
-
 /// Lists the values of the ticked boxes from place 1 on and returns how many there are.
 template <std::size_t N>
 std::int16_t ListaTildadas(const std::array<std::int16_t, N>& casillas,
@@ -311,14 +288,19 @@ void LeeArchivo(Siro& s)
 
 }  // namespace
 
+std::string UnidadDe(std::string_view ruta)
+{
+    return HayUnidades ? std::string(ruta.substr(0, LargoUnidad(ruta))) : std::string{};
+}
+
 void BtnRecuDef(ControlesConfigura& controles)
 {
-    Tilda(controles.CheckR, Recurrencias, RecurrenciasDefecto);
+    controles.CheckR = RecurrenciasDefecto;
 }
 
 void BtnDurDef(ControlesConfigura& controles)
 {
-    Tilda(controles.CheckD, Duraciones, DuracionesDefecto);
+    controles.CheckD = DuracionesDefecto;
 }
 
 void leoConf(Siro& s)

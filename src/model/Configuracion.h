@@ -2,8 +2,12 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
+
+#include "model/Disco.h"
 
 namespace model {
 
@@ -15,7 +19,32 @@ inline constexpr auto Recurrencias =
 inline constexpr auto Duraciones = std::to_array<std::int16_t>(
     {5, 10, 15, 20, 30, 60, 90, 120, 180, 240, 300, 360, 540, 720, 1080, 1440, 2880});
 
-/// What the controls of the configuration dialog hold, on screen or hidden. A box is ticked at exactly 1.
+/// Boxes of a selection, in the order of its values: 1 for those that are chosen, else 0.
+template <std::size_t N, std::size_t M>
+consteval std::array<std::int16_t, N> Casillas(const std::array<std::int16_t, N>& valores,
+                                               const std::array<std::int16_t, M>& elegidos)
+{
+    std::array<std::int16_t, N> casillas{};
+    for (std::size_t i = 0; i < N; ++i)
+        for (const std::int16_t elegido : elegidos)
+            if (valores[i] == elegido) casillas[i] = 1;
+    return casillas;
+}
+
+/// The sets as designed: R 1000 without R 500 is meant.
+inline constexpr auto RecurrenciasDefecto =
+    Casillas(Recurrencias, std::to_array<std::int16_t>({2, 5, 10, 20, 25, 40, 50, 100, 200, 1000}));
+inline constexpr auto DuracionesDefecto = Casillas(
+    Duraciones,
+    std::to_array<std::int16_t>({10, 20, 30, 60, 90, 120, 180, 240, 300, 360, 540, 720, 1080, 1440}));
+
+/// Drives exist where the backslash separates directories.
+inline constexpr bool HayUnidades = Separador == '\\';
+/// Drive of a path: its first two characters, the empty text on a platform without drives.
+std::string UnidadDe(std::string_view ruta);
+
+/// What the controls of the configuration dialog hold, on screen or hidden: at first use what
+/// a project without settings of its own begins with. A box is ticked at exactly 1.
 struct ControlesConfigura {
     std::string TextProyecto{}, TextUbica{}, TextCuenca{}, TextSbca{}, TextOpera{};
     std::string txtFecha = "01/02/2006";
@@ -25,15 +54,15 @@ struct ControlesConfigura {
     std::string lblMiArchivoConf{};
     std::int16_t chkImagenDibujo = 0;
     std::string lblImagenDibujo = "Ninguno";
-    std::string TexIMGEscala{}, TexS{};
-    bool Optiona = false, Optionb = false, Optionc = false;
-    std::string TexIMGX0{}, TexIMGY0{};
-    bool OptionMin = false, OptionHr = false, Optionm3 = false, OptionLt = false;
+    std::string TexIMGEscala = "100", TexS{};
+    bool Optiona = true, Optionb = false, Optionc = false;
+    std::string TexIMGX0 = "0", TexIMGY0 = "0";
+    bool OptionMin = true, OptionHr = false, Optionm3 = true, OptionLt = false;
     std::string txtN0Dur = "10";
     std::string txtMaxUEHsPixel = "800";
     std::string txtEscalaImagen = "0";
-    std::array<std::int16_t, Recurrencias.size()> CheckR{};  ///< boxes, in the order of Recurrencias
-    std::array<std::int16_t, Duraciones.size()> CheckD{};    ///< boxes, in the order of Duraciones
+    std::array<std::int16_t, Recurrencias.size()> CheckR = RecurrenciasDefecto;  ///< boxes, as Recurrencias
+    std::array<std::int16_t, Duraciones.size()> CheckD = DuracionesDefecto;      ///< boxes, as Duraciones
 
     bool operator==(const ControlesConfigura&) const = default;
 };

@@ -193,6 +193,7 @@ TEST_F(Configuracion, CadaCampoLlegaASuControl)
     c.TexIMGEscala = "150";
     c.TexS = "nota";
     c.Optiona = c.Optionc = c.OptionHr = c.Optionm3 = true;
+    c.Optionb = c.OptionMin = c.OptionLt = false;
     c.TexIMGX0 = "12.5";
     c.TexIMGY0 = "-3";
     c.txtN0Dur = "45.25";
@@ -801,6 +802,31 @@ TEST(SeleccionPorDefecto, LosCamposSinLeerTienenSuValorDeOrigen)
     EXPECT_EQ(s.EscalaDibujo, "0");
 }
 
+TEST(SeleccionPorDefecto, LosControlesDeUnProyectoSinArchivoTienenSuValorDeOrigen)
+{
+    const ControlesConfigura c;
+    EXPECT_EQ(c.txtFecha, "01/02/2006");
+    EXPECT_EQ(c.CheckDistriPp, 1);
+    EXPECT_EQ(c.chkImagenDibujo, 0);
+    EXPECT_EQ(c.lblImagenDibujo, "Ninguno");
+    EXPECT_EQ(c.TexIMGEscala, "100");
+    EXPECT_EQ(c.TexS, "");
+    EXPECT_EQ(c.TexIMGX0, "0");
+    EXPECT_EQ(c.TexIMGY0, "0");
+    EXPECT_EQ(c.txtN0Dur, "10");
+    EXPECT_EQ(c.txtMaxUEHsPixel, "800");
+    EXPECT_EQ(c.txtEscalaImagen, "0");
+    const std::vector<bool> opciones = {c.Optiona,  c.Optionb,  c.Optionc, c.OptionMin,
+                                        c.OptionHr, c.Optionm3, c.OptionLt};
+    EXPECT_EQ(opciones, (std::vector<bool>{true, false, false, true, false, true, false}));
+    ControlesConfigura porBotones;
+    porBotones.CheckR.fill(0);
+    porBotones.CheckD.fill(0);
+    BtnRecuDef(porBotones);
+    BtnDurDef(porBotones);
+    EXPECT_TRUE(c == porBotones);
+}
+
 // --- round trips ---------------------------------------------------------------------------------------
 
 /// Controls as a user could leave them. Numbers are whole hundredths below 100000: 7 digits tell them.
@@ -844,7 +870,8 @@ RC_GTEST_PROP(ConfiguracionIdaYVuelta, LoGuardadoVuelveIgual, ())
     RC_ASSERT(b.s.ImagenX0 == a.s.ImagenX0);
     RC_ASSERT(b.s.ImagenY0 == a.s.ImagenY0);
     ControlesConfigura leidos = b.s.frmConfigura;
-    leidos.TexIMGX0 = leidos.TexIMGY0 = {};  // shown by the reader, not in the file
+    leidos.TexIMGX0 = a.s.frmConfigura.TexIMGX0;  // shown by the reader, not in the file
+    leidos.TexIMGY0 = a.s.frmConfigura.TexIMGY0;
     leidos.txtN0Dur = a.s.frmConfigura.txtN0Dur;
     RC_ASSERT(leidos == a.s.frmConfigura);
 
