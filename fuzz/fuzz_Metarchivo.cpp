@@ -40,12 +40,11 @@ class Lienzo : public editor::LienzoMeta {
         Marco(r);
         Exige(pincel.trama >= 0 && pincel.trama <= 5);
     }
-    void Arco(editor::ArcoMeta, const editor::RectanguloMeta& r, editor::PuntoMeta desde,
-              editor::PuntoMeta hasta, const editor::PlumaMeta&, const editor::PincelMeta&) override
+    void Arco(const editor::ArcoMeta& arco, const editor::PlumaMeta&, const editor::PincelMeta&) override
     {
-        Marco(r);
-        Punto(desde);
-        Punto(hasta);
+        Marco(arco.marco);
+        Punto(arco.desde);
+        Punto(arco.hasta);
     }
     void Texto(const editor::TextoMeta& texto) override
     {

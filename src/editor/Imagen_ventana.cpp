@@ -110,20 +110,19 @@ class LienzoPintor : public LienzoMeta {
         Prepara(pluma, pincel);
         pintor.drawEllipse(Rect(r));
     }
-    void Arco(ArcoMeta clase, const RectanguloMeta& r, PuntoMeta desde, PuntoMeta hasta,
-              const PlumaMeta& pluma, const PincelMeta& pincel) override
+    void Arco(const ArcoMeta& arco, const PlumaMeta& pluma, const PincelMeta& pincel) override
     {
         constexpr int Vuelta = 360, PasosPorGrado = 16;
         Prepara(pluma, pincel);
-        const QRectF marco = Rect(r);
-        const double inicio = Angulo(marco, desde);
-        double giro = Angulo(marco, hasta) - inicio;
+        const QRectF marco = Rect(arco.marco);
+        const double inicio = Angulo(marco, arco.desde);
+        double giro = Angulo(marco, arco.hasta) - inicio;
         if (giro <= 0) giro += Vuelta;
         const int a = static_cast<int>(std::lround(inicio * PasosPorGrado));
         const int b = static_cast<int>(std::lround(giro * PasosPorGrado));
-        if (clase == ArcoMeta::Porcion)
+        if (arco.clase == ClaseArco::Porcion)
             pintor.drawPie(marco, a, b);
-        else if (clase == ArcoMeta::Cuerda)
+        else if (arco.clase == ClaseArco::Cuerda)
             pintor.drawChord(marco, a, b);
         else
             pintor.drawArc(marco, a, b);

@@ -241,7 +241,7 @@ class Tocador {
     void Restaura(int cual);
     void Poligono(const Palabras& p);
     void VariosPoligonos(const Palabras& p);
-    void Arco(ArcoMeta clase, const Palabras& p);
+    void Arco(ClaseArco clase, const Palabras& p);
     void Escribe(std::string_view bytes, PuntoMeta lugar);
     void TextoCorto(const Palabras& p);
     void TextoLargo(const Palabras& p);
@@ -342,9 +342,9 @@ void Tocador::VariosPoligonos(const Palabras& p)
     lienzo.Poligonos(poligonos, estado.alterna, estado.pluma, estado.pincel);
 }
 
-void Tocador::Arco(ArcoMeta clase, const Palabras& p)
+void Tocador::Arco(ClaseArco clase, const Palabras& p)
 {
-    lienzo.Arco(clase, p.Rectangulo(8), p.PuntoYX(4), p.PuntoYX(0), estado.pluma, estado.pincel);
+    lienzo.Arco({clase, p.Rectangulo(8), p.PuntoYX(4), p.PuntoYX(0)}, estado.pluma, estado.pincel);
 }
 
 void Tocador::Escribe(std::string_view bytes, PuntoMeta lugar)
@@ -470,11 +470,11 @@ void Tocador::EjecutaFigura(std::uint16_t funcion, const Palabras& p)
     case Ellipse:
         return lienzo.Elipse(p.Rectangulo(0), estado.pluma, estado.pincel);
     case Arc:
-        return Arco(ArcoMeta::Abierto, p);
+        return Arco(ClaseArco::Abierto, p);
     case Pie:
-        return Arco(ArcoMeta::Porcion, p);
+        return Arco(ClaseArco::Porcion, p);
     case Chord:
-        return Arco(ArcoMeta::Cuerda, p);
+        return Arco(ClaseArco::Cuerda, p);
     default:
         return;
     }

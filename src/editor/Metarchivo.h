@@ -66,7 +66,14 @@ struct TextoMeta {
     std::optional<ColorMeta> fondo{};
 };
 
-enum class ArcoMeta : std::uint8_t { Abierto, Porcion, Cuerda };
+enum class ClaseArco : std::uint8_t { Abierto, Porcion, Cuerda };
+
+/// Part of an ellipse, counterclockwise from the direction of one point to that of another.
+struct ArcoMeta {
+    ClaseArco clase = ClaseArco::Abierto;
+    RectanguloMeta marco{};
+    PuntoMeta desde{}, hasta{};
+};
 
 /// Who draws. All points are in logical units; a closed figure is filled and then outlined.
 class LienzoMeta {
@@ -79,9 +86,7 @@ class LienzoMeta {
     virtual void Rectangulo(const RectanguloMeta& r, double radioX, double radioY, const PlumaMeta& pluma,
                             const PincelMeta& pincel) = 0;
     virtual void Elipse(const RectanguloMeta& r, const PlumaMeta& pluma, const PincelMeta& pincel) = 0;
-    /// Part of an ellipse, counterclockwise from the direction of one point to that of another.
-    virtual void Arco(ArcoMeta clase, const RectanguloMeta& r, PuntoMeta desde, PuntoMeta hasta,
-                      const PlumaMeta& pluma, const PincelMeta& pincel) = 0;
+    virtual void Arco(const ArcoMeta& arco, const PlumaMeta& pluma, const PincelMeta& pincel) = 0;
     virtual void Texto(const TextoMeta& texto) = 0;
     /// A bitmap, as the bytes of a .bmp file, its part `origen` [pixels] stretched over `destino`.
     virtual void Imagen(const std::string& bmp, const RectanguloMeta& origen,

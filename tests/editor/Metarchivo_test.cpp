@@ -49,14 +49,13 @@ struct Recuerda : LienzoMeta {
         marcos.push_back(r);
         pinceles.push_back(pincel);
     }
-    void Arco(ArcoMeta clase, const RectanguloMeta& r, PuntoMeta desde, PuntoMeta hasta, const PlumaMeta&,
-              const PincelMeta&) override
+    void Arco(const ArcoMeta& arco, const PlumaMeta&, const PincelMeta&) override
     {
-        orden.emplace_back(clase == ArcoMeta::Porcion  ? "porcion"
-                           : clase == ArcoMeta::Cuerda ? "cuerda"
-                                                       : "arco");
-        marcos.push_back(r);
-        puntos.push_back({desde, hasta});
+        orden.emplace_back(arco.clase == ClaseArco::Porcion  ? "porcion"
+                           : arco.clase == ClaseArco::Cuerda ? "cuerda"
+                                                             : "arco");
+        marcos.push_back(arco.marco);
+        puntos.push_back({arco.desde, arco.hasta});
     }
     void Texto(const TextoMeta& texto) override
     {
