@@ -77,9 +77,19 @@ bool Area::eventFilter(QObject* objeto, QEvent* evento)
     auto* const ventana = qobject_cast<QWidget*>(objeto);
     if (evento->type() == QEvent::Hide && ventana != nullptr && ventana->isHidden()) {
         QMdiSubWindow* const hija = Hija(*ventana);
-        if (hija != nullptr && !hija->isMinimized() && !hija->isShaded()) hija->hide();
+        if (hija != nullptr && !hija->isMinimized() && !hija->isShaded()) {
+            hija->hide();
+            ActivaLaUltima();
+        }
     }
     return QMdiArea::eventFilter(objeto, evento);
+}
+
+void Area::ActivaLaUltima()
+{
+    QList<QMdiSubWindow*> hijas = subWindowList(QMdiArea::ActivationHistoryOrder);
+    hijas.removeIf([](const QMdiSubWindow* hija) { return hija->isHidden(); });
+    if (!hijas.isEmpty()) setActiveSubWindow(hijas.constLast());
 }
 
 void Area::LlenaMenu(QMenu& menu)

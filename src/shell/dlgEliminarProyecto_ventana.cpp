@@ -4,10 +4,10 @@
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QLabel>
-#include <QListWidget>
 #include <QPushButton>
 #include <algorithm>
 
+#include "forms/Lista_ventana.h"
 #include "forms/Textos_ventana.h"
 
 namespace shell {
@@ -35,7 +35,8 @@ dlgEliminarProyecto_ventana::dlgEliminarProyecto_ventana(forms::Entorno& alreded
     lblDirProyecto = new QLabel(this);
     lblDirProyecto->setObjectName(QStringLiteral("lblDirProyecto"));
     lblDirProyecto->setWordWrap(true);
-    filProyectoEliminar = new QListWidget(this);
+    filProyectoEliminar = new forms::ListaParaElegir(this);
+    filProyectoEliminar->conFlechas = true;
     filProyectoEliminar->setObjectName(QStringLiteral("filProyectoEliminar"));
     filProyectoEliminar->setMinimumWidth(fontMetrics().averageCharWidth() * LetrasDeAncho);
     lblProyectoAEliminar = new QLabel(this);
@@ -55,12 +56,11 @@ dlgEliminarProyecto_ventana::dlgEliminarProyecto_ventana(forms::Entorno& alreded
     CancelButton->setDefault(true);  // what is deleted doesn't come back
     filas->addRow(botones);
 
-    connect(filProyectoEliminar, &QListWidget::currentRowChanged, this, [this](int fila) {
-        if (fila < 0) return;
+    filProyectoEliminar->AlElegir = [this](int fila) {
         Suceso([this, fila] {
             f.filProyectoEliminar_AlPulsar(f.filProyectoEliminar[static_cast<std::size_t>(fila)]);
         });
-    });
+    };
     AlPulsar(*OKButton, [this] { f.OKButton(entorno.s); });
     connect(CancelButton, &QPushButton::clicked, this, &QDialog::reject);
 }

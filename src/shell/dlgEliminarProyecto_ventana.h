@@ -5,7 +5,10 @@
 #include "model/VidaProyecto.h"
 
 class QLabel;
-class QListWidget;
+
+namespace forms {
+class ListaParaElegir;
+}
 
 namespace shell {
 
@@ -21,7 +24,7 @@ class dlgEliminarProyecto_ventana : public forms::Formulario {
   private:
     model::dlgEliminarProyecto& f;
     QLabel* lblDirProyecto;
-    QListWidget* filProyectoEliminar;
+    forms::ListaParaElegir* filProyectoEliminar;
     QLabel* lblProyectoAEliminar;
 };
 

@@ -156,7 +156,7 @@ std::vector<std::string> SinNombre(QWidget& ventana)
         if (padre != nullptr &&
             (padre->inherits("QComboBox") || padre->inherits("QAbstractItemView") ||
              padre->inherits("QAbstractSpinBox") || padre->inherits("QComboBoxPrivateContainer") ||
-             padre->inherits("QLineEdit") || padre->inherits("QToolBar") ||
+             padre->inherits("QLineEdit") || padre->inherits("QToolBar") || padre->inherits("QMenuBar") ||
              padre->inherits("QMdiSubWindow") || padre->inherits("QTabBar")))
             continue;
         if (w->objectName().isEmpty() || w->objectName().startsWith(QLatin1String("qt_"))) {

@@ -1,0 +1,318 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QDialog>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QToolButton>
+
+#include "apoyo/Ventanas.h"
+#include "forms/Textos_ventana.h"
+#include "shell/Escritorio_ventana.h"
+#include "shell/RotuloProyecto_ventana.h"
+#include "shell/dlgEliminarProyecto_ventana.h"
+#include "shell/frmAcerca_ventana.h"
+#include "shell/frmInicio_ventana.h"
+
+namespace shell {
+namespace {
+
+using apoyo::Control;
+using forms::DeQ;
+using forms::Q;
+
+/// A copy of what is delivered, so that a test may write to it.
+struct Instalacion {
+    Instalacion()
+    {
+        const QString datos = QString::fromUtf8(SIRO_DATA_DIR);
+        QDir(carpeta.path()).mkdir(QStringLiteral("Proyectos"));
+        for (const char* const sub : {"", "/Proyectos"})
+            for (const QFileInfo& archivo : QDir(datos + QLatin1String(sub)).entryInfoList(QDir::Files))
+                QFile::copy(archivo.filePath(),
+                            carpeta.path() + QLatin1String(sub) + QLatin1Char('/') + archivo.fileName());
+    }
+    [[nodiscard]] std::string Dir() const { return DeQ(QFileInfo(carpeta.path()).canonicalFilePath()); }
+    [[nodiscard]] std::string Proyectos() const { return Dir() + "/Proyectos"; }
+    [[nodiscard]] std::string Quelmar() const { return Proyectos() + "/Quelmar_Conf.vlm"; }
+    QTemporaryDir carpeta{};
+};
+
+/// The whole program, with the boxes of a scripted user.
+struct EscritorioDePrueba : testing::Test {
+    EscritorioDePrueba()
+    {
+        model::Anfitrion& a = escritorio.s.Anfitrion;
+        const model::Anfitrion prueba = anfitrion.Puerta();
+        a.Avisa = prueba.Avisa;
+        a.Pregunta = prueba.Pregunta;
+        a.Confirma = prueba.Confirma;
+        a.PideTexto = prueba.PideTexto;
+        a.EligeArchivo = prueba.EligeArchivo;
+    }
+    void Arranca(const std::string& archivo = {})
+    {
+        escritorio.Arranca(0, archivo);
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&escritorio.Principal()));
+    }
+    QAction& Accion(std::string_view nombre)
+    {
+        auto* const accion = escritorio.Principal().findChild<QAction*>(Q(nombre));
+        if (accion == nullptr) throw std::runtime_error(std::string(nombre));
+        return *accion;
+    }
+    std::string Rotulo(const char* nombre)
+    {
+        return DeQ(Control<RotuloProyecto>(escritorio.Principal(), nombre).Texto());
+    }
+    std::string BytesPuntero() const { return escritorio.s.Disco.Lee(instalacion.Dir() + "/VelmirDir.vlm"); }
+
+    Instalacion instalacion{};
+    apoyo::AnfitrionPrueba anfitrion{};
+    Escritorio escritorio{instalacion.Dir()};
+};
+
+TEST_F(EscritorioDePrueba, ArrancaSinProyectoConElDirectorioPorDefecto)
+{
+    Arranca();
+    EXPECT_EQ(escritorio.s.NombreProyecto, "");
+    EXPECT_EQ(Rotulo("lblProyecto"), "");
+    EXPECT_EQ(BytesPuntero(), "\"" + instalacion.Proyectos() + "\"\r\n\"\"\r\n");
+    EXPECT_FALSE(Accion("mnu_ultimoarchivo1").isVisible());
+}
+
+TEST_F(EscritorioDePrueba, AbrirLlenaLosRotulosAnotaElProyectoYHabilitaGuardarComo)
+{
+    Arranca();
+    anfitrion->elegidos = {instalacion.Quelmar()};
+    Accion("mnuAbrirProyecto").trigger();
+    EXPECT_EQ(escritorio.s.NombreProyecto, "Quelmar");
+    EXPECT_EQ(Rotulo("lblProyecto"), "Quelmar");
+    EXPECT_EQ(Rotulo("lblMiDirTrabajo"), instalacion.Proyectos());
+    EXPECT_EQ(BytesPuntero(), "\"" + instalacion.Proyectos() + "\"\r\n\"Quelmar\"\r\n");
+    EXPECT_TRUE(Accion("mnuGuardarProyectoComo").isEnabled());
+    // The labels are filled before the configuration is read.
+    EXPECT_EQ(Rotulo("lblTitulo"), "");
+}
+
+TEST_F(EscritorioDePrueba, ElUltimoProyectoSeOfreceEnElMenuYSeReabre)
+{
+    {
+        QFile puntero(Q(instalacion.Dir() + "/VelmirDir.vlm"));
+        ASSERT_TRUE(puntero.open(QIODevice::WriteOnly));
+        puntero.write(QByteArray::fromStdString("\"" + instalacion.Proyectos() + "\"\r\n\"Quelmar\"\r\n"));
+    }
+    Arranca();
+    EXPECT_EQ(escritorio.s.NombreProyecto, "");
+    EXPECT_EQ(DeQ(Accion("mnu_ultimoarchivo1").text()), instalacion.Quelmar());
+    Accion("mnu_ultimoarchivo1").trigger();
+    EXPECT_EQ(escritorio.s.NombreProyecto, "Quelmar");
+    EXPECT_EQ(Rotulo("lblTitulo"), escritorio.s.TituloProyecto);
+    EXPECT_FALSE(Rotulo("lblTitulo").empty());
+}
+
+TEST_F(EscritorioDePrueba, UnaCorridaTerminaConResultadosYHabilitaLasVerificaciones)
+{
+    Arranca(instalacion.Quelmar());
+    escritorio.s.PpTormenta = 80;
+    escritorio.s.DurTormenta = 120;
+    Accion("mnuCorre1").trigger();
+    EXPECT_GT(escritorio.s.NroPasosQ, 0);
+    EXPECT_GT(escritorio.s.NroRepresas, 0);
+    EXPECT_TRUE(Accion("mnu_prueba_funcionesHQrepresas").isEnabled());
+    EXPECT_TRUE(Accion("mnu_prueba_funcionesSHVrepresas").isEnabled());
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    EXPECT_TRUE(escritorio.s.Disco.Lee(instalacion.Dir() + "/SalePizarra1_tem.txt").starts_with("\""));
+}
+
+TEST_F(EscritorioDePrueba, LaPizarraAbiertaRecibeElTextoDeLaCorrida)
+{
+    Arranca(instalacion.Quelmar());
+    Accion("mnuPizarra1").trigger();
+    EXPECT_TRUE(escritorio.pizarra.abierta);
+    EXPECT_TRUE(Accion("mnuPizarra1").isChecked());
+    escritorio.s.PpTormenta = 80;
+    escritorio.s.DurTormenta = 120;
+    Accion("mnuCorre1").trigger();
+    EXPECT_TRUE(escritorio.pizarra.Text1.starts_with("SIRO - Modelo de Simulación Hidrológica\r\n"));
+    EXPECT_EQ(escritorio.pizarra.Text1, escritorio.s.TextoPizarra);
+    Accion("mnuPizarra1").trigger();
+    EXPECT_FALSE(escritorio.pizarra.abierta);
+    EXPECT_FALSE(Accion("mnuPizarra1").isChecked());
+    EXPECT_FALSE(escritorio.s.SalidaPizarra);
+}
+
+TEST_F(EscritorioDePrueba, CerrarLaPizarraPorSuMarcoQuitaLaMarcaDelMenu)
+{
+    Arranca(instalacion.Quelmar());
+    Accion("mnuPizarra1").trigger();
+    QWidget& pizarra = Control<QWidget>(escritorio.Principal(), "frmPp");
+    pizarra.parentWidget()->close();
+    EXPECT_FALSE(Accion("mnuPizarra1").isChecked());
+    EXPECT_FALSE(escritorio.s.SalidaPizarra);
+}
+
+TEST_F(EscritorioDePrueba, ElAvanceSeVeConSusTextosYSePuedeCerrarPorSuMarco)
+{
+    Arranca();
+    model::Anfitrion& a = escritorio.s.Anfitrion;
+    a.AbreAvance("SIRO procesando...");
+    a.TextosAvance("Un momento...", "");
+    QWidget& avance = Control<QWidget>(escritorio.Principal(), "frmPp2");
+    EXPECT_TRUE(avance.isVisible());
+    EXPECT_EQ(avance.windowTitle(), QStringLiteral("SIRO procesando..."));
+    EXPECT_EQ(Control<QLabel>(avance, "lblPrimero").text(), QStringLiteral("Un momento..."));
+    avance.close();
+    EXPECT_FALSE(escritorio.avance.abierta);
+    a.BarraAvance(50);  // a run that goes on doesn't bring it back
+    EXPECT_FALSE(avance.isVisible());
+    a.AbreAvance("otra");
+    EXPECT_TRUE(avance.isVisible());
+    a.CierraAvance();
+    EXPECT_FALSE(avance.isVisible());
+}
+
+TEST_F(EscritorioDePrueba, LoQueTodaviaNoEstaLoDice)
+{
+    Arranca();
+    Accion("mnuEmpiricos").trigger();
+    EXPECT_EQ(anfitrion->Avisos(),
+              (std::vector<model::Mensaje>{{"Esta ventana todavía no está disponible."}}));
+}
+
+TEST_F(EscritorioDePrueba, UnaVentanaPedidaDesdeUnFormularioModalEsSuyaYSeCierraConEl)
+{
+    Arranca();
+    QWidget grafico;
+    grafico.setObjectName(QStringLiteral("grafico"));
+    escritorio.entorno.Presenta(grafico);
+    EXPECT_TRUE(escritorio.Principal().isAncestorOf(&grafico));
+    QDialog formulario;
+    QTimer::singleShot(0, &formulario, [&] {
+        escritorio.entorno.Presenta(grafico);
+        EXPECT_EQ(grafico.parentWidget(), &formulario);
+        EXPECT_TRUE(grafico.isWindow());
+        EXPECT_TRUE(grafico.isVisible());
+        formulario.accept();
+    });
+    formulario.exec();
+    EXPECT_FALSE(grafico.isVisible());
+    EXPECT_EQ(grafico.parentWidget(), nullptr);
+    escritorio.entorno.Presenta(grafico);
+    EXPECT_TRUE(escritorio.Principal().isAncestorOf(&grafico));
+}
+
+TEST_F(EscritorioDePrueba, SalirAnotaElProyectoYTermina)
+{
+    Arranca(instalacion.Quelmar());
+    Accion("mnuSalir").trigger();
+    EXPECT_TRUE(escritorio.entorno.Terminando());
+    EXPECT_EQ(escritorio.Atiende(), 0);
+    EXPECT_EQ(BytesPuntero(), "\"" + instalacion.Proyectos() + "\"\r\n\"Quelmar\"\r\n");
+}
+
+// --- splash, About, delete -----------------------------------------------------------------------------
+
+TEST(Portada, DiceProductoYVersion)
+{
+    frmInicio_ventana portada;
+    portada.Abre("Version 1.2.3");
+    EXPECT_EQ(Control<QLabel>(portada, "lblProducto").text(), QStringLiteral("SIRO"));
+    EXPECT_EQ(Control<QLabel>(portada, "lblVersion").text(), QStringLiteral("Version 1.2.3"));
+}
+
+TEST(Acerca, DiceVersionYMuestraElSistema)
+{
+    apoyo::Mundo mundo;
+    frmAcerca_ventana acerca(mundo.entorno);
+    apoyo::Muestra(acerca);
+    EXPECT_EQ(apoyo::SinNombre(acerca), std::vector<std::string>{});
+    EXPECT_TRUE(Control<QLabel>(acerca, "lblVersion").text().startsWith(QStringLiteral("Version ")));
+    apoyo::Pulsa(Control<QPushButton>(acerca, "cmdSysInfo"));
+    ASSERT_EQ(mundo.anfitrion->Avisos().size(), 1U);
+    EXPECT_NE(mundo.anfitrion->Avisos()[0].texto.find("Qt "), std::string::npos);
+    apoyo::Pulsa(Control<QPushButton>(acerca, "OKButton"));
+    EXPECT_FALSE(acerca.isVisible());
+}
+
+struct Eliminar : testing::Test {
+    Eliminar()
+    {
+        mundo.s.DirProyecto = instalacion.Proyectos();
+        mundo.s.NombreProyecto = "Abierto";
+        QFile::copy(Q(instalacion.Quelmar()), Q(instalacion.Proyectos() + "/Otro_Conf.vlm"));
+        QFile::copy(Q(instalacion.Quelmar()), Q(instalacion.Proyectos() + "/Otros_UEHs.vlm"));
+        f.Abre(mundo.s);
+        ventana.Muestra();
+        apoyo::Muestra(ventana);
+    }
+    bool Esta(const char* nombre) const { return QFile::exists(Q(instalacion.Proyectos() + "/" + nombre)); }
+
+    Instalacion instalacion{};
+    apoyo::Mundo mundo{};
+    model::dlgEliminarProyecto f{};
+    dlgEliminarProyecto_ventana ventana{mundo.entorno, f};
+    const std::vector<model::Mensaje> pregunta{
+        {"¿Está seguro de borrar los archivos del Proyecto <Abierto> ? ", "Consulta",
+         model::Icono::Pregunta}};
+};
+
+TEST_F(Eliminar, TodoTieneNombre)
+{
+    EXPECT_EQ(apoyo::SinNombre(ventana), std::vector<std::string>{});
+}
+
+TEST_F(Eliminar, MuestraElDirectorioLosProyectosYNinguno)
+{
+    EXPECT_EQ(DeQ(Control<QLabel>(ventana, "lblDirProyecto").text()), instalacion.Proyectos());
+    EXPECT_EQ(Control<QLabel>(ventana, "lblProyectoAEliminar").text(), QStringLiteral("Ninguno"));
+    auto& lista = Control<QListWidget>(ventana, "filProyectoEliminar");
+    ASSERT_EQ(lista.count(), 2);
+    EXPECT_EQ(lista.item(0)->text(), QStringLiteral("Otro_Conf.vlm"));
+    EXPECT_TRUE(lista.selectedItems().isEmpty());
+}
+
+TEST_F(Eliminar, ConNingunoPreguntaIgualYNoBorraNada)
+{
+    apoyo::Pulsa(Control<QPushButton>(ventana, "OKButton"));
+    EXPECT_EQ(mundo.anfitrion->Preguntas(), pregunta);
+    EXPECT_TRUE(Esta("Otro_Conf.vlm"));
+    EXPECT_TRUE(ventana.isVisible());
+}
+
+TEST_F(Eliminar, ElElegidoSeVaConLosQueEmpiezanIgualYElDialogoSeCierra)
+{
+    auto& lista = Control<QListWidget>(ventana, "filProyectoEliminar");
+    QTest::mouseClick(lista.viewport(), Qt::LeftButton, {}, lista.visualItemRect(lista.item(0)).center());
+    EXPECT_EQ(Control<QLabel>(ventana, "lblProyectoAEliminar").text(), QStringLiteral("Otro_Conf.vlm"));
+    apoyo::Pulsa(Control<QPushButton>(ventana, "OKButton"));
+    EXPECT_EQ(mundo.anfitrion->Preguntas(), pregunta);
+    EXPECT_FALSE(Esta("Otro_Conf.vlm"));
+    EXPECT_FALSE(Esta("Otros_UEHs.vlm"));
+    EXPECT_TRUE(Esta("Quelmar_Conf.vlm"));
+    EXPECT_FALSE(ventana.isVisible());
+    EXPECT_EQ(mundo.s.NombreProyecto, "Abierto");
+}
+
+TEST_F(Eliminar, UnNoDejaTodo)
+{
+    mundo.anfitrion->respuestas = {false};
+    auto& lista = Control<QListWidget>(ventana, "filProyectoEliminar");
+    lista.setFocus();
+    QTest::keyClick(&lista, Qt::Key_Down);
+    EXPECT_EQ(Control<QLabel>(ventana, "lblProyectoAEliminar").text(), QStringLiteral("Quelmar_Conf.vlm"));
+    apoyo::Pulsa(Control<QPushButton>(ventana, "OKButton"));
+    EXPECT_TRUE(Esta("Quelmar_Conf.vlm"));
+    EXPECT_TRUE(ventana.isVisible());
+    apoyo::Pulsa(Control<QPushButton>(ventana, "CancelButton"));
+    EXPECT_FALSE(ventana.isVisible());
+}
+
+}  // namespace
+}  // namespace shell
