@@ -1,0 +1,376 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/frmConfigura.h"
+
+#include <algorithm>
+
+#include "forms/Evento.h"
+#include "model/Avisos.h"
+#include "model/Numeros.h"
+#include "model/VidaProyecto.h"
+
+namespace shell {
+
+using forms::Evento;
+using model::ControlesConfigura;
+using model::Falla;
+using model::Informa;
+using model::NumeroATexto;
+using model::NumeroFalla;
+using model::Simple;
+using model::Siro;
+using model::Val;
+
+namespace {
+
+constexpr std::string_view TerminacionConfigura = "Conf.vlm";
+constexpr auto TerminacionesImagen = std::to_array<std::string_view>({".jpg", ".gif", ".bmp", ".wmf"});
+constexpr std::string_view SinImagen = "Ninguno";
+constexpr std::size_t LargoFecha = 10;
+
+constexpr std::string_view Cargado1 = "Se han cargado los datos de configuración del archivo ";
+constexpr std::string_view Cargado2 = " del proyecto ";
+constexpr std::string_view NoEsConf1 = "El archivo ";
+constexpr std::string_view NoEsConf2 =
+    " no es un archivo de configuración válido. Los archivos de configuración tienen el formato nnConf.vlm, "
+    "donde nn es el nombre del proyecto";
+constexpr std::string_view DebeCargarConf = "debe cargar el archivo Conf.";
+constexpr std::string_view NoEsImagen2 =  // kept as it stands
+    " no es un archivo de Imágen válido. Los archivos de Imágen son extensión .bmp .gif .jpg y.wmf";
+constexpr std::string_view YaHayDirectorio = "Verifique. Puede que ya exista un Directorio con ese nombre...";
+/// The two fields that refuse share the message of one of them: kept as it stands.
+constexpr std::string_view EntreDiezYTreintaMil = "Ingrese un valor numérico entre 10 y 30000";
+
+// --- directories ---
+
+std::string Dentro(const std::string& directorio, std::string_view nombre)
+{
+    const bool raiz = !directorio.empty() && directorio.back() == model::Separador;
+    return raiz ? directorio + std::string(nombre) : model::Ruta(directorio, nombre);
+}
+
+void Entra(const Siro& s, const std::string& directorio)
+{
+    if (!s.Disco.HayDirectorio(directorio)) throw Falla{NumeroFalla::RutaNoEsta};
+}
+
+/// Creates a directory unless it is there.
+void Asegura(const Siro& s, const std::string& directorio)
+{
+    if (!s.Disco.HayDirectorio(directorio)) s.Disco.CreaDirectorio(directorio);
+}
+
+bool TerminaEnConf(std::string nombre)
+{
+    const auto minuscula = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
+    std::transform(nombre.begin(), nombre.end(), nombre.begin(), minuscula);
+    return nombre.ends_with("conf.vlm");
+}
+
+/// Other items; the one selected stays so where it is still there.
+void PonItems(ListaArchivos& lista, std::vector<std::string> items)
+{
+    const std::string elegido =
+        lista.indice < 0 ? std::string{} : lista.items[static_cast<std::size_t>(lista.indice)];
+    lista.items = std::move(items);
+    const auto lugar = std::find(lista.items.begin(), lista.items.end(), elegido);
+    lista.indice = lugar == lista.items.end() ? -1 : static_cast<int>(lugar - lista.items.begin());
+}
+
+/// The pattern of the first list is "*Conf.vlm", whatever the case; what is loaded goes by the exact ending.
+void ListaLosDe(frmConfigura& f, const Siro& s, const std::string& directorio)
+{
+    std::vector<std::string> archivos = s.Disco.Lista(directorio);
+    PonItems(f.filArchivoImagenDib, archivos);
+    std::erase_if(archivos, [](const std::string& nombre) { return !TerminaEnConf(nombre); });
+    PonItems(f.filArchivoConfigura, std::move(archivos));
+}
+
+/// A directory that has gone lists nothing.
+void Relista(frmConfigura& f, const Siro& s)
+{
+    const bool listado =
+        model::Sentencia([&] { ListaLosDe(f, s, s.frmConfigura.Dir1); }, [](const Falla&) {});
+    if (!listado) f.filArchivoConfigura = f.filArchivoImagenDib = {};
+}
+
+/// Picks a directory. Throws Falla, nothing being changed.
+void Elige(frmConfigura& f, Siro& s, const std::string& directorio, const std::string& unidad)
+{
+    ListaLosDe(f, s, directorio);
+    s.frmConfigura.Dir1 = directorio;
+    s.frmConfigura.Drive1 = unidad;
+}
+
+std::string ArchivoConf(const Siro& s)
+{
+    return s.NombreProyecto + std::string(model::TerminacionConf);
+}
+
+// --- number fields ---
+
+/// Size of the drawing at 100 % [pixels].
+double EscalaBase(const Siro& s)
+{
+    std::int32_t base = 0;
+    model::Sentencia([&] { base = model::Entero32(Val(s.MaxUEHsPixel)); }, [](const Falla&) {});
+    constexpr double PorDefecto = 800;
+    return base > 0 ? base : PorDefecto;
+}
+
+double BordeDelDibujo(const Siro& s)
+{
+    return EscalaBase(s) - 1;
+}
+
+template <int N>
+double Tope(const Siro& /*s*/)
+{
+    return N;
+}
+
+void Recorta(Siro& s, const CampoRecortado& campo)
+{
+    std::string& texto = s.frmConfigura.*campo.texto;
+    double x = Val(texto);
+    if (x > campo.maximo(s)) {
+        x = campo.enSuLugar(s);
+        texto = NumeroATexto(x);
+    } else if (campo.cortaEnCero && x <= 0) {
+        x = 0;
+        texto = NumeroATexto(x);
+    }
+    campo.toma(s, x);
+}
+
+}  // namespace
+
+// clang-format off
+const std::array<CampoRecortado, 4> CamposRecortados = {{
+    {"TexIMGEscala", &ControlesConfigura::TexIMGEscala, Tope<1000>, Tope<1000>, true,
+     [](Siro& s, double x) { s.EscalaImagen = x; }},
+    {"TexIMGX0", &ControlesConfigura::TexIMGX0, BordeDelDibujo, EscalaBase, false,
+     [](Siro& s, double x) { s.ImagenX0 = Simple(x); }},
+    {"TexIMGY0", &ControlesConfigura::TexIMGY0, BordeDelDibujo, EscalaBase, false,
+     [](Siro& s, double x) { s.ImagenY0 = Simple(x); }},
+    // The run-wide value is taken at the next reading of the file.
+    {"txtMaxUEHsPixel", &ControlesConfigura::txtMaxUEHsPixel, Tope<1024>, Tope<1024>, false,
+     [](Siro&, double) {}},
+}};
+
+const std::array<CampoRechazado, 2> CamposRechazados = {{
+    {{.control = "txtEscalaImagen", .maximo = 50000, .mensaje = EntreDiezYTreintaMil,
+      .caja = forms::CajaRechazo::Llana},
+     &ControlesConfigura::txtEscalaImagen, [](Siro& s, double x) { s.EscalaDibujo = NumeroATexto(x); }},
+    {{.control = "txtN0Dur", .minimo = 10, .maximo = 30000, .mensaje = EntreDiezYTreintaMil,
+      .caja = forms::CajaRechazo::Llana},
+     &ControlesConfigura::txtN0Dur, [](Siro& s, double x) { s.N0Dur = Simple(x); }},
+}};
+// clang-format on
+
+const RotuloConfigura& RotuloDe(std::string_view control)
+{
+    const auto* const fila =
+        std::find_if(RotulosConfigura.begin(), RotulosConfigura.end(),
+                     [control](const RotuloConfigura& r) { return r.control == control; });
+    if (fila == RotulosConfigura.end()) throw Falla{NumeroFalla::Subindice};
+    return *fila;
+}
+
+bool HayImagen(const Siro& s)
+{
+    return Tildada(s.frmConfigura.chkImagenDibujo);
+}
+
+bool AlSalir(frmConfigura& f, Siro& s, std::string_view control)
+{
+    for (const CampoRechazado& campo : CamposRechazados) {
+        if (campo.regla.control != control) continue;
+        std::string& texto = s.frmConfigura.*campo.texto;
+        if (!forms::AlSalir(f, s, campo.regla, texto)) return false;
+        campo.toma(s, Val(texto));
+    }
+    for (const CampoRecortado& campo : CamposRecortados)
+        if (campo.control == control) Evento(s, [&] { Recorta(s, campo); });
+    return true;
+}
+
+void txtMaxUEHsPixel_Change(frmConfigura& f, Siro& s)
+{
+    AlSalir(f, s, "txtMaxUEHsPixel");
+}
+
+void txtFecha_DblClick(Siro& s)
+{
+    s.frmConfigura.txtFecha = s.Anfitrion.FechaHora().substr(0, LargoFecha);
+}
+
+// --- opening and activation
+// ---------------------------------------------------------------------------------
+
+void Abre(frmConfigura& f, Siro& s)
+{
+    ControlesConfigura& c = s.frmConfigura;
+    c.Dir1 = s.DirProyecto;
+    c.Drive1 = model::UnidadDe(s.DirProyecto);
+    Relista(f, s);
+    f.filArchivoConfigura.indice = f.filArchivoImagenDib.indice = -1;
+    if (!s.NombreProyecto.empty()) {
+        f.lblnombreproyecto = s.NombreProyecto;
+        c.lblMiArchivoConf = ArchivoConf(s);
+    }
+    f.SSTab1 = 0;
+    if (s.ProyectoNuevo) {
+        OKButton(f, s);
+        f.SSTab1 = FichaImagen;
+        model::Sentencia([&] { ListaLosDe(f, s, s.DirProyectoConf); }, [](const Falla&) {});
+        const auto& items = f.filArchivoConfigura.items;
+        const auto lugar = std::find(items.begin(), items.end(), ArchivoConf(s));
+        f.filArchivoConfigura.indice = lugar == items.end() ? -1 : static_cast<int>(lugar - items.begin());
+        c.lblMiArchivoConf = ArchivoConf(s);
+    }
+    if (!f.CheckDirNv) c.TextDirNv.clear();
+    f.foco = {};
+    f.abierta = true;
+}
+
+void AlActivarse(frmConfigura& f, const Siro& s)
+{
+    Relista(f, s);
+}
+
+// --- directories
+// --------------------------------------------------------------------------------------------
+
+void Dir1_Change(frmConfigura& f, Siro& s, const std::string& directorio)
+{
+    Evento(s, [&] { Elige(f, s, directorio, model::UnidadDe(directorio)); });
+}
+
+void Drive1_Change(frmConfigura& f, Siro& s, const std::string& unidad)
+{
+    Dir1_Change(f, s, unidad + model::Separador);
+}
+
+void BtnDefecto(frmConfigura& f, Siro& s)
+{
+    Evento(s, [&] {
+        const std::string base = model::HayUnidades ? "c:\\SIRO" : model::Ruta(f.DirPersonal, "SIRO");
+        const std::string proyectos = model::Ruta(base, "Proyectos");
+        Asegura(s, base);
+        Asegura(s, proyectos);
+        Elige(f, s, proyectos, model::HayUnidades ? "C: [Disco C]" : "");
+        s.DirProyecto = proyectos;
+        s.frmConfigura.CheckDistriPp = 1;
+        f.CheckDirNv = false;
+    });
+}
+
+void CheckDirNv_Click(frmConfigura& f, Siro& s, bool tildada)
+{
+    f.CheckDirNv = tildada;
+    if (!tildada) s.frmConfigura.TextDirNv.clear();
+}
+
+void BtnDirNv(frmConfigura& f, Siro& s)
+{
+    Evento(s, [&] {
+        const std::string& nombre = s.frmConfigura.TextDirNv;
+        const std::string directorio = Dentro(s.frmConfigura.Dir1, nombre);
+        if (nombre.empty() || s.Disco.HayDirectorio(directorio))
+            return Informa(s, std::string(YaHayDirectorio));
+        s.Disco.CreaDirectorio(directorio);
+        Entra(s, directorio);
+        Elige(f, s, directorio, model::UnidadDe(directorio));
+        s.DirProyecto = directorio;
+    });
+}
+
+// --- boxes and options
+// --------------------------------------------------------------------------------------
+
+bool Tildada(std::int16_t casilla)
+{
+    return casilla == 1;
+}
+
+void Casilla_Click(std::int16_t& casilla, bool tildada)
+{
+    casilla = tildada ? 1 : 0;
+}
+
+void chkImagenDibujo_Click(Siro& s, bool tildada)
+{
+    Casilla_Click(s.frmConfigura.chkImagenDibujo, tildada);
+    if (!tildada) s.frmConfigura.lblImagenDibujo = SinImagen;
+}
+
+void Opcion_Click(Siro& s, std::size_t i)
+{
+    for (const OpcionConfigura& otra : OpcionesConfigura)
+        if (otra.pregunta == OpcionesConfigura[i].pregunta) s.frmConfigura.*otra.marcada = false;
+    s.frmConfigura.*OpcionesConfigura[i].marcada = true;
+}
+
+// --- files
+// --------------------------------------------------------------------------------------------------
+
+void filArchivoConfigura_Click(frmConfigura& f, Siro& s)
+{
+    if (f.filArchivoConfigura.indice < 0) return;
+    const std::string archivo =
+        f.filArchivoConfigura.items[static_cast<std::size_t>(f.filArchivoConfigura.indice)];
+    if (!archivo.ends_with(TerminacionConfigura)) {
+        Informa(s, std::string(NoEsConf1).append(archivo).append(NoEsConf2));
+        s.frmConfigura.lblMiArchivoConf = DebeCargarConf;
+        return;
+    }
+    std::string proyecto = archivo.substr(0, archivo.size() - TerminacionConfigura.size());
+    if (proyecto.ends_with('_')) proyecto.pop_back();
+    s.DirProyecto = s.frmConfigura.Dir1;
+    s.NombreProyecto = proyecto;
+    model::leoConf(s);
+    f.lblnombreproyecto = s.NombreProyecto;
+    Relista(f, s);
+    // A pointer that can't be written keeps no project from being loaded.
+    model::Sentencia([&] { model::carga_lbl_proyecto(s); }, [](const Falla&) {});
+    Informa(s, std::string(Cargado1).append(archivo).append(Cargado2).append(s.NombreProyecto));
+}
+
+void filArchivoImagenDib_Click(frmConfigura& f, Siro& s)
+{
+    if (f.filArchivoImagenDib.indice < 0) return;
+    const std::string& archivo =
+        f.filArchivoImagenDib.items[static_cast<std::size_t>(f.filArchivoImagenDib.indice)];
+    const bool esImagen = std::any_of(TerminacionesImagen.begin(), TerminacionesImagen.end(),
+                                      [&](std::string_view fin) { return archivo.ends_with(fin); });
+    if (esImagen) {
+        s.frmConfigura.lblImagenDibujo = Dentro(s.frmConfigura.Dir1, archivo);
+        return;
+    }
+    Informa(s, std::string(NoEsConf1).append(archivo).append(NoEsImagen2));
+    s.frmConfigura.lblImagenDibujo = SinImagen;
+}
+
+// --- commands
+// -----------------------------------------------------------------------------------------------
+
+void cmdAplicar(frmConfigura& f, Siro& s)
+{
+    Evento(s, [&] { model::cmdAplicar(s); });
+    Relista(f, s);
+}
+
+void OKButton(frmConfigura& f, Siro& s)
+{
+    if (!Evento(s, [&] { model::cmdAplicar(s); })) return;
+    Relista(f, s);
+    f.abierta = false;
+    s.Anfitrion.carga_lbl_proyecto();
+}
+
+void CancelButton(frmConfigura& f)
+{
+    f.abierta = false;
+}
+
+}  // namespace shell

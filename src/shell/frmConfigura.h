@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "forms/CampoNumerico.h"
+#include "model/Configuracion.h"
+#include "model/Siro.h"
+
+// Rules of the configuration dialog. The controls that the project's file is read into and written from are
+// `Siro::frmConfigura`; the record below holds what else the dialog shows. Its fields write to the run-wide
+// variables as they are left, its commands to the file.
+namespace shell {
+
+inline constexpr std::string_view TituloConfigura = "Configurar";
+
+/// Captions of the tabs of SSTab1.
+inline constexpr auto FichasConfigura = std::to_array<std::string_view>({
+    "Seleccione el Directorio y Archivos de trabajo",
+    "Ingrese los títulos del proyecto para la redacción de informes",
+    "Recurrencias y DuracionPp",
+    "Imagen, unidades y dibujo",
+});
+inline constexpr int FichaImagen = 3;
+
+/// A control's object name, its caption or that of the label beside it, and its hint.
+struct RotuloConfigura {
+    std::string_view control;
+    std::string_view leyenda;
+    std::string_view ayuda = {};
+};
+
+// clang-format off
+inline constexpr auto RotulosConfigura = std::to_array<RotuloConfigura>({
+    {"Drive1",              "&Unidad:"},
+    {"Dir1",                "&Directorio:"},
+    {"filArchivoConfigura", "Archivos de c&onfiguración:", "Pulse sobre un archivo para cargar los datos de su proyecto"},
+    {"lblMiArchivoConf",    "Archivo:"},
+    {"lblnombreproyecto",   "Proyecto:"},
+    {"CheckDirNv",          "Crear un directorio &nuevo:"},
+    {"TextDirNv",           "Nombre del directorio nuevo", "El directorio nuevo se crea dentro del elegido"},
+    {"BtnDirNv",            "Crear"},
+    {"BtnDefecto",          "Configurar  por defecto", "Crea y elige el directorio de proyectos de SIRO"},
+    {"CheckDistriPp",       "Distribución Areal de Lluvias Uniforme"},
+    {"chkImagenDibujo",     "&Imagen de fondo del dibujo:"},
+    {"filArchivoImagenDib", "Archivos de imágenes", "Pulse sobre un archivo .bmp .gif .jpg o .wmf para elegirlo"},
+    {"lblImagenDibujo",     "Imagen:"},
+    {"TextProyecto",        "&Título:"},
+    {"TextUbica",           "&Ubicación:"},
+    {"TextCuenca",          "&Cuenca/UEH:"},
+    {"TextSbca",            "&SubCuenca/UEH:"},
+    {"TextOpera",           "&Operador:"},
+    {"txtFecha",            "&Fecha:", "Con un doble clic se pone la fecha de hoy"},
+    {"BtnRecuDef",          "Selección por defecto"},
+    {"BtnDurDef",           "Selección por defecto"},
+    {"TexIMGEscala",        "&Zoom de la imagen [%]:"},
+    {"TexIMGX0",            "Corrimiento &X [píxeles]:"},
+    {"TexIMGY0",            "Corrimiento &Y [píxeles]:"},
+    {"TexS",                "&Texto libre:"},
+    {"txtN0Dur",            "Tiempo &agregado a la duración de la tormenta [min]:", "Similar al tiempo de concentración o un poco mayor"},
+    {"txtMaxUEHsPixel",     "Ancho &máximo del dibujo [píxeles]:", "Sugerido: 800. Máximo: 1024"},
+    {"txtEscalaImagen",     "&Escala de la imagen [metros por píxel]:", "0: sin escala"},
+    {"OKButton",            "Aceptar"},
+    {"cmdAplicar",          "Aplicar"},
+    {"CancelButton",        "Cancelar"},
+});
+
+/// Options; of those with the same question one is ticked.
+struct OpcionConfigura {
+    std::string_view control;
+    std::string_view leyenda;
+    bool model::ControlesConfigura::*marcada;
+    std::string_view pregunta;
+};
+inline constexpr auto OpcionesConfigura = std::to_array<OpcionConfigura>({
+    {"Optiona",   "Opción a",           &model::ControlesConfigura::Optiona,   "Opciones"},
+    {"Optionb",   "Opción b",           &model::ControlesConfigura::Optionb,   "Opciones"},
+    {"Optionc",   "Opción c",           &model::ControlesConfigura::Optionc,   "Opciones"},
+    {"OptionMin", "Minutos",            &model::ControlesConfigura::OptionMin, "Tiempo"},
+    {"OptionHr",  "Horas",              &model::ControlesConfigura::OptionHr,  "Tiempo"},
+    {"Optionm3",  "Metros cúbicos [m3]", &model::ControlesConfigura::Optionm3, "Volúmenes"},
+    {"OptionLt",  "Litros [l]",         &model::ControlesConfigura::OptionLt,  "Volúmenes"},
+});
+// clang-format on
+
+/// The row of a control that has one.
+const RotuloConfigura& RotuloDe(std::string_view control);
+
+/// Names of the files of a directory, of which one can be picked.
+struct ListaArchivos {
+    std::vector<std::string> items{};
+    int indice = -1;  ///< from 0; -1: none
+};
+
+/// What the dialog shows beside `Siro::frmConfigura`. It lives as long as the program.
+struct frmConfigura {
+    int SSTab1 = 0;             ///< tab in front, from 0
+    std::string DirPersonal{};  ///< home directory of the user; the window sets it
+    std::string lblnombreproyecto{};
+    bool CheckDirNv = false;              ///< TextDirNv is available
+    ListaArchivos filArchivoConfigura{};  ///< configuration files of Dir1
+    ListaArchivos filArchivoImagenDib{};  ///< all files of Dir1
+    forms::Foco foco{};
+    bool abierta = false;
+};
+
+/// filArchivoImagenDib is available.
+bool HayImagen(const model::Siro& s);
+
+// --- number fields ---
+
+/// A field whose number is cut to its limits without a word.
+struct CampoRecortado {
+    std::string_view control;
+    std::string model::ControlesConfigura::*texto;
+    double (*maximo)(const model::Siro& s);     ///< largest number that stays
+    double (*enSuLugar)(const model::Siro& s);  ///< what a larger one becomes
+    bool cortaEnCero;                           ///< a negative number becomes 0
+    void (*toma)(model::Siro& s, double x);     ///< to the run-wide variable
+};
+
+/// A field that refuses what lies beyond its limits, saying so.
+struct CampoRechazado {
+    forms::ReglaNumero regla;
+    std::string model::ControlesConfigura::*texto;
+    void (*toma)(model::Siro& s, double x);
+};
+
+extern const std::array<CampoRecortado, 4> CamposRecortados;
+extern const std::array<CampoRechazado, 2> CamposRechazados;
+
+/// Leaving a field: its number goes to its run-wide variable. Returns false where it is refused: the message
+/// was shown, the variable is as it was, and the focus stays. Any other control passes.
+bool AlSalir(frmConfigura& f, model::Siro& s, std::string_view control);
+
+/// At each edit of the field.
+void txtMaxUEHsPixel_Change(frmConfigura& f, model::Siro& s);
+/// Puts today's date.
+void txtFecha_DblClick(model::Siro& s);
+
+// --- events; a fault is told in a box and ends the event, the dialog staying as it is ---
+
+/// Opening. A new project is stored at once, which is told.
+void Abre(frmConfigura& f, model::Siro& s);
+/// The window becomes active: what came and went meanwhile shows in the lists of files.
+void AlActivarse(frmConfigura& f, const model::Siro& s);
+
+/// Another directory is picked. Where it can't be listed the old one stays.
+void Dir1_Change(frmConfigura& f, model::Siro& s, const std::string& directorio);
+/// Another drive is picked: its root.
+void Drive1_Change(frmConfigura& f, model::Siro& s, const std::string& unidad);
+
+/// Makes the program's standard directories and picks that of the projects.
+void BtnDefecto(frmConfigura& f, model::Siro& s);
+void CheckDirNv_Click(frmConfigura& f, model::Siro& s, bool tildada);
+/// Makes the directory TextDirNv inside the one picked, and picks it.
+void BtnDirNv(frmConfigura& f, model::Siro& s);
+
+/// A box that is only stored.
+void Casilla_Click(std::int16_t& casilla, bool tildada);
+/// Whether a box shows as ticked.
+bool Tildada(std::int16_t casilla);
+void chkImagenDibujo_Click(model::Siro& s, bool tildada);
+/// i: place in OpcionesConfigura.
+void Opcion_Click(model::Siro& s, std::size_t i);
+
+// Clicks in lists act on the item selected; with none they do nothing.
+
+/// Loads the configuration of another project, which becomes the current one in the directory picked.
+void filArchivoConfigura_Click(frmConfigura& f, model::Siro& s);
+void filArchivoImagenDib_Click(frmConfigura& f, model::Siro& s);
+
+void cmdAplicar(frmConfigura& f, model::Siro& s);
+void OKButton(frmConfigura& f, model::Siro& s);
+void CancelButton(frmConfigura& f);
+
+}  // namespace shell
