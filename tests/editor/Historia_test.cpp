@@ -282,10 +282,78 @@ TEST_F(HistoriaDelEditor, LasPartesQueNoCambianSeComparten)
     for (int i = 1; i <= 50; ++i)
         Edita([&] { s.ColUEHs.Item(1).Area = static_cast<float>(i); });
     ASSERT_EQ(f.historia.anteriores.size(), 50U);
-    for (const auto& red : f.historia.anteriores) {
-        EXPECT_EQ(red.vertices, f.historia.presente.vertices);
-        EXPECT_EQ(red.Cauces, f.historia.presente.Cauces);
+    for (const auto& guardada : f.historia.anteriores) {
+        EXPECT_EQ(guardada.vertices, f.historia.presente.vertices);
+        EXPECT_EQ(guardada.Cauces, f.historia.presente.Cauces);
     }
+}
+
+// --- with the user's own commands ---
+
+TEST_F(HistoriaDelEditor, UnArrastreEsUnSoloPaso)
+{
+    s.UEHSel = 1;
+    Arrastra({{255, 155}, {260, 160}, {300, 200}, {400, 300}});
+    EXPECT_NE(s.ColUEHs.Item(1).IconoUEHx, 250);
+    EXPECT_EQ(f.historia.anteriores.size(), 1U);
+    Tecla(T::Deshacer);
+    EXPECT_EQ(s.ColUEHs.Item(1).IconoUEHx, 250);
+    EXPECT_EQ(s.ColUEHs.Item(1).IconoUEHy, 150);
+}
+
+TEST_F(HistoriaDelEditor, UnCauceDibujadoEsUnSoloPaso)
+{
+    PonModo(Boton::Cauce);
+    Clic(10, 10);
+    Clic(20, 20);
+    Escribe({"nuevo"});
+    DobleClic(30, 30);
+    ASSERT_EQ(s.ColCauces.Cuenta(), 2);
+    EXPECT_EQ(s.ColCauces.Item(2).NombreCauce, "c-nuevo");
+    EXPECT_EQ(f.historia.anteriores.size(), 1U);
+    Tecla(T::Deshacer);
+    EXPECT_EQ(s.NroCauces, 1);
+    Tecla(T::Rehacer);
+    EXPECT_EQ(s.NroVertices(2), 3);
+    EXPECT_EQ(Faltas(), std::vector<std::string>{});
+}
+
+TEST_F(HistoriaDelEditor, DeshacerUnBorradoQueSeGuardoMarcaLaRedComoCambiada)
+{
+    s.UEHSel = 1;
+    Tecla(T::Suprimir);
+    EXPECT_EQ(s.NroUEHs, 0);
+    EXPECT_FALSE(f.cambiada);
+    const std::string enDisco = disco.Bytes("/proy/Arroyo_UEHs.vlm");
+    Tecla(T::Deshacer);
+    EXPECT_EQ(s.NroUEHs, 1);
+    EXPECT_EQ(s.ColUEHs.Item(1).NombreUEH, "u-1");
+    EXPECT_TRUE(f.cambiada);
+    EXPECT_EQ(disco.Bytes("/proy/Arroyo_UEHs.vlm"), enDisco);
+}
+
+TEST_F(HistoriaDelEditor, BorrarTodoSeDeshace)
+{
+    editor::ToolbarUEHs_ButtonClick(f, s, Boton::BorraTodo);
+    EXPECT_EQ(s.NroUEHs + s.NroCauces, 0);
+    Tecla(T::Deshacer);
+    EXPECT_EQ(s.NroUEHs + s.NroCauces, 2);
+    EXPECT_EQ(Vertice(1, 2), (Punto{200, 200}));
+}
+
+TEST_F(HistoriaDelEditor, ColocarPasadoElLimiteDejaLaRedComoEstaba)
+{
+    while (s.NroRepresas < model::MaxRepresas)
+        red.Represa("r-" + std::to_string(s.NroRepresas), {static_cast<float>(s.NroRepresas), 5});
+    Parte();
+    PonModo(Boton::Represa);
+    Escribe({"una mas"});
+    Clic(500, 500);
+    EXPECT_EQ(s.NroRepresas, model::MaxRepresas);
+    EXPECT_EQ(s.ColRepresas.Cuenta(), model::MaxRepresas);
+    EXPECT_EQ(
+        Avisos(),
+        (Cajas{{"Error Nro. 9 ,El subíndice está fuera del intervaloVerifique", "", model::Icono::Ninguno}}));
 }
 
 }  // namespace

@@ -2,11 +2,13 @@
 #include "editor/frmUEHs.h"
 
 #include <cmath>
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "EditorDePrueba.h"
+#include "apoyo/Compara.h"
 #include "editor/Fondo.h"
 
 namespace {
@@ -356,6 +358,117 @@ TEST_F(Editor, ElDobleClicSinNadaElegidoVuelveASeleccionarYRecentra)
     EXPECT_EQ(editor::Modo(f), Boton::Selecciona);
     EXPECT_FALSE(f.Abajo(Boton::LongArea));
     EXPECT_EQ(f.origen, (Punto{-200, -300}));
+}
+
+// --- Enter ---
+
+TEST_F(Editor, EnterColocaALaMitadDeLaExtensionYNoEnElCentro)
+{
+    red.Cauce("c-1", {{100, 50}, {300, 650}});
+    Parte();
+    Escribe({"una", "una", "una"});
+    PonModo(Boton::UEH);
+    Tecla(T::Enter);
+    PonModo(Boton::Represa);
+    Tecla(T::Enter);
+    PonModo(Boton::LAGO);
+    Tecla(T::Enter);
+    ASSERT_EQ(s.NroUEHs + s.NroRepresas + s.NroLagos, 3);
+    EXPECT_EQ(s.ColUEHs.Item(1).IconoUEHx, 100);  // (300 - 100)/2
+    EXPECT_EQ(s.ColUEHs.Item(1).IconoUEHy, 300);  // (650 - 50)/2
+    EXPECT_EQ(s.ColRepresas.Item(1).IconoRepresaX, 100);
+    EXPECT_EQ(s.ColLagos.Item(1).IconoLAGOy, 300);
+}
+
+TEST_F(Editor, EnterEnUnDibujoVacioColocaALaMitadDeLaExtensionAlReves)
+{
+    Escribe({"una"});
+    PonModo(Boton::UEH);
+    Tecla(T::Enter);
+    ASSERT_EQ(s.NroUEHs, 1);
+    EXPECT_EQ(s.ColUEHs.Item(1).IconoUEHx, -99999);  // (-99999 - 99999)/2
+    EXPECT_EQ(s.ColUEHs.Item(1).IconoUEHy, -99999);
+}
+
+TEST_F(Editor, EnterTerminaElCauceConMasDeUnClic)
+{
+    PonModo(Boton::Cauce);
+    Clic(10, 20);
+    Tecla(T::Enter);
+    EXPECT_EQ(f.ClicsCauce, 1);
+    EXPECT_EQ(s.ColCauces.Cuenta(), 0);
+    Clic(30, 40);
+    Escribe({"uno"});
+    Tecla(T::Enter);
+    EXPECT_EQ(f.ClicsCauce, 0);
+    ASSERT_EQ(s.ColCauces.Cuenta(), 1);
+    EXPECT_EQ(editor::Modo(f), Boton::Cauce);
+}
+
+TEST_F(Editor, ElDobleClicTerminaElCauceYVuelveASeleccionar)
+{
+    PonModo(Boton::Cauce);
+    Clic(10, 20);
+    Escribe({"uno"});
+    DobleClic(30, 40);
+    ASSERT_EQ(s.ColCauces.Cuenta(), 1);
+    EXPECT_EQ(s.NroVertices(1), 2);
+    EXPECT_EQ(editor::Modo(f), Boton::Selecciona);
+}
+
+TEST_F(Editor, ElDobleClicConUnSoloClicDejaElCauceSinTerminar)
+{
+    PonModo(Boton::Cauce);
+    DobleClic(30, 40);
+    EXPECT_EQ(s.ColCauces.Cuenta(), 0);
+    EXPECT_EQ(f.ClicsCauce, 1);
+    EXPECT_EQ(editor::Modo(f), Boton::Selecciona);
+    PonModo(Boton::Cauce);
+    Clic(50, 60);
+    Escribe({"uno"});
+    Tecla(T::Enter);
+    EXPECT_EQ(s.ColCauces.Cuenta(), 1);
+    EXPECT_EQ(Vertice(1, 1), (Punto{30, 40}));
+}
+
+// --- zoom and hits ---
+
+TEST_F(Editor, ElMismoPuntoLogicoEligeLoMismoEnTodaEscala)
+{
+    RedSana();
+    Parte();
+    for (const int escala : {20, 100, 370, 1000}) {
+        editor::sldEscala_Mueve(f, s, escala);
+        const editor::Pixel p = editor::APixel(f, {255, 155});
+        const Punto bajoElPuntero = editor::DePixel(f, p.x, p.y);
+        editor::LimpiaSeleccion(s);
+        Clic(bajoElPuntero.X, bajoElPuntero.Y);
+        EXPECT_EQ(s.UEHSel, 1) << escala;
+    }
+}
+
+// --- the sample project ---
+
+TEST_F(Editor, ElProyectoDeMuestraSeVeEntero)
+{
+    const std::filesystem::path muestra = std::filesystem::path(SIRO_DATA_DIR) / "Proyectos";
+    for (const std::string sufijo : {"_Conf.vlm", "_UEHs.vlm", "_VerCau.vlm"})
+        disco.Pon("/proy/Quelmar" + sufijo, apoyo::BytesDeArchivo(muestra / ("Quelmar" + sufijo)));
+    disco.Pon("/proy/Quelmar.jpg", apoyo::BytesDeArchivo(muestra / "Quelmar.jpg"));
+    s.NombreProyecto = "Quelmar";
+    Abre();
+    ASSERT_GT(s.NroUEHs * s.NroCauces * s.NroRepresas * s.NroLagos, 0);
+    EXPECT_EQ(Faltas(), std::vector<std::string>{});
+    EXPECT_EQ(Con(Papel::EnlaceUEH).size(), static_cast<std::size_t>(s.NroUEHs));
+    for (const Punto esquina :
+         {Punto{f.extension.XMin, f.extension.YMin}, Punto{f.extension.XMax, f.extension.YMax}}) {
+        const editor::Pixel p = editor::APixel(f, esquina);
+        EXPECT_TRUE(p.x >= 0 && p.x <= f.lienzo.ancho && p.y >= 0 && p.y <= f.lienzo.alto);
+    }
+    EXPECT_EQ(editor::RutaImagen(s), "/proy/Quelmar.jpg");
+    f.CargaImagen = [](const std::string&) { return std::optional(Tamano{800, 600}); };
+    editor::cmdImagenUEHs_Click(f, s);
+    EXPECT_TRUE(f.ImagenVisible);
 }
 
 // --- closing ---
