@@ -91,6 +91,7 @@ void Escritorio::PonVentanas()
     for (auto* const abre : {&ventanaLluvia->AbreDisPer, &ventanaLluvia->AbreTablasPDRs,
                              &ventanaLluvia->AbrePpReal, &ventanaLluvia->AbrePpUEHs})
         *abre = [this] { TodaviaNo(); };
+    ventanaAyuda = std::make_unique<Ayuda_ventana>(entorno);
     ventanaPizarra = std::make_unique<results::frmPp_ventana>(entorno, pizarra);
     results::PonPizarra(s.Anfitrion, pizarra, *ventanaPizarra,
                         principal.Estado(Variable::mnuPizarra1).marcada,
@@ -135,6 +136,7 @@ void Escritorio::PonMandos()
             QGuiApplication::restoreOverrideCursor();
         }
     };
+    mandos.AbrePaginaDeAyuda = [this](const std::string& ruta) { ventanaAyuda->Abre(ruta); };
     mandos.AbreConElSistema = [](const std::string& ruta) {
         return QDesktopServices::openUrl(QUrl::fromLocalFile(QDir::fromNativeSeparators(Q(ruta))));
     };

@@ -14,6 +14,7 @@
 #include "results/frmPp.h"
 #include "results/frmPp_ventana.h"
 #include "shell/Arranque.h"
+#include "shell/Ayuda_ventana.h"
 #include "shell/MDIForm1.h"
 #include "shell/MDIForm1_ventana.h"
 #include "shell/frmPp2.h"
@@ -67,6 +68,7 @@ class Escritorio {
     std::unique_ptr<frmPp2_ventana> ventanaAvance;
     std::unique_ptr<rainfall::dlgPp_ventana> ventanaLluvia;
     std::unique_ptr<results::frmPp_ventana> ventanaPizarra;
+    std::unique_ptr<Ayuda_ventana> ventanaAyuda;
 };
 
 }  // namespace shell

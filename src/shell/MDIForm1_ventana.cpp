@@ -156,6 +156,7 @@ QWidget* MDIForm1_ventana::ArmaRotulos(QWidget* padre)
     panel->setObjectName(QStringLiteral("PanelDelProyecto"));
     auto* const rejilla = new QGridLayout(panel);
     rejilla->setVerticalSpacing(2);
+    const int altoRenglon = RotuloProyecto(1, {}, panel).sizeHint().height();
     for (const LugarRotulo& lugar : LugaresRotulos) {
         const FilaRotulo& fila = RotulosMDIForm1[static_cast<std::size_t>(lugar.rotulo)];
         auto* const leyenda = new QLabel(Q(fila.leyenda), panel);
@@ -165,6 +166,7 @@ QWidget* MDIForm1_ventana::ArmaRotulos(QWidget* padre)
             renglones, fila.crece ? RotuloCrece : std::function<bool(double, double)>(), panel);
         valor->setObjectName(Q(fila.nombre));
         valor->setAccessibleName(Q(fila.leyenda));
+        leyenda->setFixedHeight(altoRenglon);
         rejilla->addWidget(leyenda, lugar.fila, 2 * lugar.columna, Qt::AlignRight | Qt::AlignTop);
         rejilla->addWidget(valor, lugar.fila, 2 * lugar.columna + 1, Qt::AlignTop);
         rotulos[static_cast<std::size_t>(lugar.rotulo)] = valor;

@@ -9,6 +9,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QTemporaryDir>
+#include <QTextBrowser>
 #include <QTimer>
 #include <QToolButton>
 
@@ -33,7 +34,8 @@ struct Instalacion {
     {
         const QString datos = QString::fromUtf8(SIRO_DATA_DIR);
         QDir(carpeta.path()).mkdir(QStringLiteral("Proyectos"));
-        for (const char* const sub : {"", "/Proyectos"})
+        QDir(carpeta.path()).mkdir(QStringLiteral("Ayuda"));
+        for (const char* const sub : {"", "/Proyectos", "/Ayuda"})
             for (const QFileInfo& archivo : QDir(datos + QLatin1String(sub)).entryInfoList(QDir::Files))
                 QFile::copy(archivo.filePath(),
                             carpeta.path() + QLatin1String(sub) + QLatin1Char('/') + archivo.fileName());
@@ -206,6 +208,17 @@ TEST_F(EscritorioDePrueba, UnaVentanaPedidaDesdeUnFormularioModalEsSuyaYSeCierra
     EXPECT_EQ(grafico.parentWidget(), nullptr);
     escritorio.entorno.Presenta(grafico);
     EXPECT_TRUE(escritorio.Principal().isAncestorOf(&grafico));
+}
+
+TEST_F(EscritorioDePrueba, LaAyudaEntregadaSeAbreEntreLasVentanas)
+{
+    Arranca();
+    QTest::keyClick(&escritorio.Principal(), Qt::Key_F1);
+    auto& paginas = Control<QTextBrowser>(escritorio.Principal(), "Paginas");
+    EXPECT_TRUE(paginas.isVisible());
+    EXPECT_TRUE(paginas.toPlainText().contains(QStringLiteral("Un primer cálculo")));
+    EXPECT_EQ(apoyo::SinNombre(*paginas.window()), std::vector<std::string>{});
+    EXPECT_FALSE(escritorio.entorno.Terminando());
 }
 
 TEST_F(EscritorioDePrueba, SalirAnotaElProyectoYTermina)
