@@ -22,9 +22,9 @@ namespace editor {
 using Textos = std::vector<std::string>;
 using Cajas = std::vector<model::Mensaje>;
 
-/// Reaches c-1 (vertices 10,10; 13,14; 16,18), c-2 (20,20; 30,20) and c-3 (no destination), units u-1 to u-3,
-/// dams r-1 (table from 100.1 to 110.5 m) and r-2 (no table), lakes l-1 (from 1 to 2.5 m) and l-2 (no table).
-/// u-1, r-1, l-1 and c-2 drain to c-1.
+/// Reaches c-1 (vertices 10,10; 13,14; 16,18), c-2 (16,18; 30,20) and c-3 (no destination), units u-1 to u-3,
+/// dams r-1 (table from 100.3 to 110.7 m, whose 32-bit floats lie inside both decimals) and r-2 (no table),
+/// lakes l-1 (from 1 to 2.5 m) and l-2 (no table). u-1, r-1, l-1 and c-2 drain to c-1.
 struct RedDeFichas : testing::Test {
     RedDeFichas()
     {
@@ -33,7 +33,7 @@ struct RedDeFichas : testing::Test {
         s.NombreProyecto = "Arroyo";
         s.DirProyecto = s.frmConfigura.Dir1 = "/proy";
         disco.PonDirectorio("/proy");
-        disco.Pon("/proy/Arroyo_RHAS.vlm", "\"*r-1\",3,\"*\"\r\n100.1,1,0\r\n105,2,1000\r\n110.5,3,2000\r\n");
+        disco.Pon("/proy/Arroyo_RHAS.vlm", "\"*r-1\",3,\"*\"\r\n100.3,1,0\r\n105,2,1000\r\n110.7,3,2000\r\n");
         disco.Pon("/proy/Arroyo_LHASQ.vlm", "\"*l-1\",2,\"*\",\"*\"\r\n1,10,0,0\r\n2.5,20,5000,3\r\n");
         s.XVertice.Dimensiona(70, 10);
         s.YVertice.Dimensiona(70, 10);

@@ -248,17 +248,17 @@ INSTANTIATE_TEST_SUITE_P(Campos, LimiteRepresa, testing::ValuesIn(LimitesRepresa
 
 TEST_F(FormaRepresa, LaAlturaInicialEsCeroOEstaEntreLosExtremosDeLaTabla)
 {
-    for (const char* texto : {"0", "0.0", "100.1", "100.2", "105", "110.4", "110.5", "110,5"}) {
+    for (const char* texto : {"0", "0.0", "100.3", "100.31", "105", "110.69", "110.7", "110,7"}) {
         EXPECT_TRUE(PonAltura(texto)) << texto;
         EXPECT_TRUE(Avisos().empty()) << texto;
         EXPECT_EQ(f.foco, forms::Foco{}) << texto;
     }
-    EXPECT_EQ(f.txtHInicialEmb, "110.5") << "the comma became a point";
+    EXPECT_EQ(f.txtHInicialEmb, "110.7") << "the comma became a point";
     const Cajas caja = {
-        {"Ingrese '0' o un valor numérico entre la altura H mímima=100.1y la altura H "
-         "máxima=110.5 dadas en la 'Tabla SHV'",
+        {"Ingrese '0' o un valor numérico entre la altura H mímima=100.3y la altura H "
+         "máxima=110.7 dadas en la 'Tabla SHV'",
          "", model::Icono::Ninguno}};
-    for (const char* texto : {"100", "100.09", "110.51", "-105", "1E39", "1E999", "", "abc", "105m"}) {
+    for (const char* texto : {"100", "100.29", "110.71", "-105", "1E39", "1E999", "", "abc", "105m"}) {
         EXPECT_FALSE(PonAltura(texto)) << texto;
         EXPECT_EQ(Avisos(), caja) << texto;
         EXPECT_EQ(f.txtHInicialEmb, "0") << texto;
