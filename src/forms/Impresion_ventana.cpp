@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "forms/Impresion_ventana.h"
 
+#include <QApplication>
 #include <QPageLayout>
 #include <QPainter>
 #include <QPixmap>
 #include <QPrinter>
+#include <QStyle>
 #include <QWidget>
 
 #include "model/Avisos.h"
@@ -16,8 +18,29 @@ constexpr char SinImpresora[] =
     "No hay ninguna impresora instalada. Instale una impresora y elíjala como predeterminada.";
 constexpr char NoImprime[] = "La impresora no acepta el trabajo. Verifique que esté encendida y conectada.";
 
-/// Dots of the image per dot of the screen: sharp on paper, and no more than a few megabytes.
-constexpr qreal Finura = 3;
+/// The colours of paper for a window, while the object lives.
+class EnPapel {
+  public:
+    explicit EnPapel(QWidget& unaVentana)
+        : ventana(unaVentana),
+          antes(unaVentana.palette()),
+          propios(unaVentana.testAttribute(Qt::WA_SetPalette)),
+          cambia(antes.color(QPalette::Window).lightness() < antes.color(QPalette::WindowText).lightness())
+    {
+        if (cambia) ventana.setPalette(QApplication::style()->standardPalette());
+    }
+    ~EnPapel()
+    {
+        if (cambia) ventana.setPalette(propios ? antes : QPalette());
+    }
+    EnPapel(const EnPapel&) = delete;
+    EnPapel& operator=(const EnPapel&) = delete;
+
+  private:
+    QWidget& ventana;
+    QPalette antes;
+    bool propios, cambia;
+};
 
 }  // namespace
 
@@ -35,8 +58,9 @@ void Imprime(Entorno& entorno, const Pintor& pinta, bool apaisada)
 
 void ImprimeVentana(Entorno& entorno, QWidget& ventana)
 {
-    QPixmap imagen(ventana.size() * Finura);
-    imagen.setDevicePixelRatio(Finura);
+    const EnPapel papel(ventana);
+    QPixmap imagen(ventana.size() * PuntosDeImpresion);
+    imagen.setDevicePixelRatio(PuntosDeImpresion);
     ventana.render(&imagen);
     const auto pinta = [&](QPainter& pintor, const QRectF& hoja) {
         const QSizeF lugar = QSizeF(ventana.size()).scaled(hoja.size(), Qt::KeepAspectRatio);

@@ -11,6 +11,9 @@ class QWidget;
 
 namespace forms {
 
+/// Dots of a printed image per dot of the screen: sharp on paper, and no more than a few megabytes.
+inline constexpr double PuntosDeImpresion = 3;
+
 /// Paints a page into the rectangle that it is given.
 using Pintor = std::function<void(QPainter& pintor, const QRectF& hoja)>;
 
@@ -18,7 +21,7 @@ using Pintor = std::function<void(QPainter& pintor, const QRectF& hoja)>;
 /// installed, or it refuses, the user reads why.
 void Imprime(Entorno& entorno, const Pintor& pinta, bool apaisada);
 
-/// Prints the image of a window as it stands, as large as the page takes it.
+/// Prints the image of a window as it stands, as large as the page takes it; dark colours are light on paper.
 void ImprimeVentana(Entorno& entorno, QWidget& ventana);
 
 }  // namespace forms

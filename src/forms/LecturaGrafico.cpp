@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "forms/LecturaGrafico.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string_view>
+
+#include "model/Numeros.h"
+
+namespace forms {
+namespace {
+
+const std::string& TituloDelEje(const Grafico& grafico, const Serie& serie)
+{
+    return serie.ejeSecundario ? grafico.ejeYSecundario : grafico.ejeY;
+}
+
+/// The unit in the square brackets of an axis title, with the blank ahead of it; none: nothing.
+std::string Unidad(std::string_view titulo)
+{
+    const std::size_t abre = titulo.rfind('[');
+    const std::size_t cierra = titulo.rfind(']');
+    if (abre == std::string_view::npos || cierra == std::string_view::npos || cierra < abre + 2) return {};
+    return " " + std::string(titulo.substr(abre + 1, cierra - abre - 1));
+}
+
+/// Name of a series: its legend, or else the title of its axis without the unit.
+std::string NombreDe(const Grafico& grafico, const Serie& serie)
+{
+    if (!serie.leyenda.empty()) return serie.leyenda;
+    std::string_view nombre = TituloDelEje(grafico, serie);
+    nombre = nombre.substr(0, nombre.rfind('['));
+    while (nombre.ends_with(' '))
+        nombre.remove_suffix(1);
+    return std::string(nombre);
+}
+
+/// With the seven digits of the arrays that the cells come from.
+std::string Valor(const Grafico& grafico, const Serie& serie, double celda)
+{
+    return model::NumeroATexto(static_cast<float>(celda)) + Unidad(TituloDelEje(grafico, serie));
+}
+
+std::string Abscisa(const Grafico& grafico, std::size_t fila)
+{
+    const std::string& categoria = grafico.categorias[fila];
+    return grafico.ejeX.empty() ? categoria : categoria + " " + grafico.ejeX;
+}
+
+/// Digits that a label shows, zeros at its end and the point apart: what makes it look round.
+std::size_t CifrasSignificativas(std::string_view rotulo)
+{
+    const std::size_t fin = rotulo.find_last_not_of("0.");
+    if (fin == std::string_view::npos) return 1;
+    const std::size_t inicio = rotulo.find_first_not_of("0.");
+    return fin - inicio + 1;
+}
+
+}  // namespace
+
+std::string LecturaDeFila(const Grafico& grafico, std::size_t fila)
+{
+    if (fila >= grafico.categorias.size()) return {};
+    std::string lectura = Abscisa(grafico, fila);
+    for (const Serie& serie : grafico.series) {
+        if (fila >= serie.celdas.size() || EstaVacia(serie.celdas[fila])) continue;
+        lectura.append("\n")
+            .append(NombreDe(grafico, serie))
+            .append(" = ")
+            .append(Valor(grafico, serie, serie.celdas[fila]));
+    }
+    return lectura;
+}
+
+std::string Descripcion(const Grafico& grafico)
+{
+    std::string texto = model::NumeroATexto(static_cast<std::int32_t>(grafico.categorias.size())) + " filas.";
+    for (const Serie& serie : grafico.series) {
+        std::size_t pico = serie.celdas.size();
+        for (std::size_t i = 0; i < serie.celdas.size() && i < grafico.categorias.size(); ++i)
+            if (!EstaVacia(serie.celdas[i]) &&
+                (pico == serie.celdas.size() || serie.celdas[i] > serie.celdas[pico]))
+                pico = i;
+        if (pico == serie.celdas.size()) continue;
+        texto.append(" ")
+            .append(NombreDe(grafico, serie))
+            .append(": máximo ")
+            .append(Valor(grafico, serie, serie.celdas[pico]))
+            .append(" en ")
+            .append(Abscisa(grafico, pico))
+            .append(".");
+    }
+    return texto;
+}
+
+std::size_t PasoDeRotulos(const std::vector<std::string>& categorias, std::size_t visibles, std::size_t caben)
+{
+    constexpr std::size_t Holgura = 3;       // steps tried: up to so many times the least one
+    constexpr double PesoDeLaDistancia = 1;  // digits that a step twice as long has to save
+    const std::size_t minimo = std::max<std::size_t>(1, (visibles + caben - 1) / caben);
+    if (minimo == 1) return 1;
+    std::size_t mejor = minimo;
+    double menor = HUGE_VAL;
+    for (std::size_t paso = minimo; paso < Holgura * minimo && paso <= visibles; ++paso) {
+        double cifras = 0;
+        std::size_t n = 0;
+        for (std::size_t i = paso; i <= categorias.size(); i += paso, ++n)
+            cifras += static_cast<double>(CifrasSignificativas(categorias[i - 1]));
+        if (n == 0) break;
+        const double puntos =
+            cifras / static_cast<double>(n) +
+            PesoDeLaDistancia * std::log2(static_cast<double>(paso) / static_cast<double>(minimo));
+        if (puntos < menor) {
+            menor = puntos;
+            mejor = paso;
+        }
+    }
+    return mejor;
+}
+
+bool MismaEstructura(const Grafico& a, const Grafico& b)
+{
+    const auto iguales = [](const Serie& x, const Serie& y) {
+        return x.tipo == y.tipo && x.leyenda == y.leyenda && x.ejeSecundario == y.ejeSecundario;
+    };
+    return a.tipo == b.tipo && a.titulo == b.titulo && a.notaAlPie == b.notaAlPie && a.ejeX == b.ejeX &&
+           a.ejeY == b.ejeY && a.ejeYSecundario == b.ejeYSecundario && a.leyendaVisible == b.leyendaVisible &&
+           a.marcasEjeX == b.marcasEjeX && a.escala == b.escala && a.marcas.size() == b.marcas.size() &&
+           std::equal(a.series.begin(), a.series.end(), b.series.begin(), b.series.end(), iguales);
+}
+
+bool CuelgaDeArriba(const Grafico& grafico, const Serie& serie)
+{
+    return grafico.tipo == TipoGrafico::Combinacion && serie.tipo == TipoSerie::Escalon2D &&
+           serie.ejeSecundario;
+}
+
+}  // namespace forms

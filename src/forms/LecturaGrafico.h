@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "forms/Grafico.h"
+
+// What a chart says in words, and which of its categories are labelled.
+namespace forms {
+
+/// The row under the pointer: its category, then a line per series with a value there, as
+/// "Qsale = 1.25 m3/s". Rows from 0; one outside the table gives no text.
+std::string LecturaDeFila(const Grafico& grafico, std::size_t fila);
+
+/// What a reader of the screen says of a chart: number of rows, and the peak of each series and where it is.
+std::string Descripcion(const Grafico& grafico);
+
+/// Every how many rows a label stands where no more than `caben` (at least 1) have room over `visibles`
+/// rows. Of the steps that fit, one of the shortest whose labels are round: 1, 2, 3 rather than 0.83, 1.66.
+std::size_t PasoDeRotulos(const std::vector<std::string>& categorias, std::size_t visibles,
+                          std::size_t caben);
+
+/// The two are drawn alike but for what stands in their cells and categories.
+bool MismaEstructura(const Grafico& a, const Grafico& b);
+
+/// Rain of a combination chart on its secondary axis hangs from the top.
+bool CuelgaDeArriba(const Grafico& grafico, const Serie& serie);
+
+}  // namespace forms

@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "forms/RotulosDeEje_ventana.h"
+
+#include <qcustomplot.h>
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+#include "forms/LecturaGrafico.h"
+#include "forms/Textos_ventana.h"
+
+namespace forms {
+namespace {
+
+constexpr int Separacion = 12;         // pixels between two labels
+constexpr double PixelesPorFila = 10;  // least distance of the marks of an automatic scale
+
+/// Labels and marks of the categories, in rows from 1.
+class RotulosDeCategorias : public QCPAxisTicker {
+  public:
+    RotulosDeCategorias(const QCPAxis& unEje, const Grafico& unGrafico) : eje(unEje), grafico(unGrafico) {}
+
+    void generate(const QCPRange& tramo, const QLocale& /*idioma*/, QChar /*formato*/, int /*decimales*/,
+                  QVector<double>& marcas, QVector<double>* submarcas, QVector<QString>* rotulos) override
+    {
+        marcas.clear();
+        if (submarcas != nullptr) submarcas->clear();
+        if (rotulos != nullptr) rotulos->clear();
+        const auto filas = static_cast<double>(grafico.categorias.size());
+        const double desde = std::max(1.0, std::ceil(tramo.lower));
+        const double hasta = std::min(filas, std::floor(tramo.upper));
+        if (hasta < desde) return;
+
+        const auto visibles = static_cast<std::size_t>(hasta - desde) + 1;
+        const std::size_t paso = Paso(tramo, visibles);
+        const auto primera = static_cast<std::size_t>(desde), ultima = static_cast<std::size_t>(hasta);
+        for (std::size_t i = (primera + paso - 1) / paso * paso; i <= ultima; i += paso)
+            Agrega(i, marcas, rotulos);
+        // A scale that is coarser than what is in sight still tells where one is.
+        if (marcas.isEmpty()) Agrega(primera, marcas, rotulos);
+        if (submarcas == nullptr) return;
+        const std::size_t cada = PasoDeMarcas(tramo);
+        for (std::size_t i = primera; cada > 0 && i <= ultima; ++i)
+            if (i % cada == 0 && i % paso != 0) submarcas->append(static_cast<double>(i));
+    }
+
+  private:
+    void Agrega(std::size_t fila, QVector<double>& marcas, QVector<QString>* rotulos) const
+    {
+        marcas.append(static_cast<double>(fila));
+        if (rotulos != nullptr) rotulos->append(Q(grafico.categorias[fila - 1]));
+    }
+
+    [[nodiscard]] double Ancho() const { return std::max(1, eje.axisRect()->width()); }
+
+    /// Labels for which there is room over the axis.
+    [[nodiscard]] std::size_t Caben() const
+    {
+        const auto& largo =
+            *std::max_element(grafico.categorias.begin(), grafico.categorias.end(),
+                              [](const std::string& a, const std::string& b) { return a.size() < b.size(); });
+        const int ancho = QFontMetrics(eje.tickLabelFont()).horizontalAdvance(Q(largo)) + Separacion;
+        return static_cast<std::size_t>(std::max(1.0, Ancho() / ancho));
+    }
+
+    [[nodiscard]] std::size_t Paso(const QCPRange& tramo, std::size_t visibles) const
+    {
+        // Rows that the whole length of the axis would hold.
+        const auto enTodoElEje = std::max<std::size_t>(visibles, static_cast<std::size_t>(tramo.size()));
+        const std::size_t caben = Caben();
+        if (grafico.escala.automatica) return PasoDeRotulos(grafico.categorias, enTodoElEje, caben);
+        const auto pedido = static_cast<std::size_t>(std::max(1, grafico.escala.divisionesPorRotulo));
+        const std::size_t minimo = (enTodoElEje + caben - 1) / caben;
+        return pedido * ((minimo + pedido - 1) / pedido);
+    }
+
+    [[nodiscard]] std::size_t PasoDeMarcas(const QCPRange& tramo) const
+    {
+        if (!grafico.marcasEjeX) return 0;
+        if (!grafico.escala.automatica)
+            return static_cast<std::size_t>(std::max(0, grafico.escala.divisionesPorMarca));
+        return Ancho() / tramo.size() >= PixelesPorFila ? 1 : 0;
+    }
+
+    const QCPAxis& eje;
+    const Grafico& grafico;
+};
+
+class RotulosHasta : public QCPAxisTicker {
+  public:
+    explicit RotulosHasta(double unTope) : tope(unTope)
+    {
+        constexpr int EnTodoElEje = 12;  // a third of them is in use
+        setTickCount(EnTodoElEje);
+    }
+
+  protected:
+    QVector<double> createTickVector(double paso, const QCPRange& tramo) override
+    {
+        constexpr double Holgura = 1.001;
+        QVector<double> marcas = QCPAxisTicker::createTickVector(paso, tramo);
+        const auto fin =
+            std::remove_if(marcas.begin(), marcas.end(), [this](double m) { return m > tope * Holgura; });
+        marcas.erase(fin, marcas.end());
+        return marcas;
+    }
+    int getSubTickCount(double /*paso*/) override { return 0; }
+
+  private:
+    double tope;
+};
+
+}  // namespace
+
+void RotulaCategorias(QCPAxis& eje, const Grafico& grafico)
+{
+    eje.setTicker(QSharedPointer<RotulosDeCategorias>::create(eje, grafico));
+}
+
+void RotulaHasta(QCPAxis& eje, double tope)
+{
+    eje.setTicker(QSharedPointer<RotulosHasta>::create(tope));
+}
+
+void RotulaValores(QCPAxis& eje)
+{
+    eje.setTicker(QSharedPointer<QCPAxisTicker>::create());
+}
+
+}  // namespace forms

@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <qcustomplot.h>
+
+#include <array>
+
+#include "forms/Trazo_ventana.h"
+
+namespace forms {
+namespace {
+
+/// Colours that people who don't see all of them tell apart too (Okabe and Ito, 2008), on paper and on a dark
+/// ground, and how the line is dashed, so that none is told by its colour alone.
+struct Trama {
+    QRgb claro, oscuro;
+    Qt::PenStyle trazo;
+};
+constexpr auto Tramas = std::to_array<Trama>({
+    {0xff0072b2, 0xff5db3e6, Qt::SolidLine},
+    {0xffd55e00, 0xffff9a4d, Qt::DashLine},
+    {0xff009e73, 0xff3fd0a4, Qt::DashDotLine},
+    {0xffb0508a, 0xffe59ac6, Qt::SolidLine},
+    {0xffb27a00, 0xfff2c14e, Qt::DashLine},
+    {0xff4b6478, 0xffa9bccb, Qt::DashDotLine},
+    {0xff7a3fb0, 0xffc29bf0, Qt::DotLine},
+});
+constexpr Trama Lluvia = {0xff4a90c4, 0xff6fb6e8, Qt::SolidLine};
+constexpr int OpacidadDeLluvia = 110;  // of 255
+
+constexpr double Grueso = 2;     // of a line [pixels]
+constexpr int PocosPuntos = 40;  // up to so many rows each one has a dot
+
+QColor Mezcla(const QColor& a, const QColor& b, double parteDeB)
+{
+    return QColor::fromRgbF(static_cast<float>(a.redF() + (b.redF() - a.redF()) * parteDeB),
+                            static_cast<float>(a.greenF() + (b.greenF() - a.greenF()) * parteDeB),
+                            static_cast<float>(a.blueF() + (b.blueF() - a.blueF()) * parteDeB));
+}
+
+Tinta TintaSobre(const QColor& fondo, const QColor& texto)
+{
+    constexpr double DeLosEjes = 0.45, DeLaGrilla = 0.12;
+    return {fondo, texto, Mezcla(fondo, texto, DeLosEjes), Mezcla(fondo, texto, DeLaGrilla),
+            fondo.lightness() < texto.lightness()};
+}
+
+}  // namespace
+
+Tinta TintaDe(const QPalette& colores)
+{
+    return TintaSobre(colores.color(QPalette::Base), colores.color(QPalette::Text));
+}
+
+Tinta TintaDePapel()
+{
+    return TintaSobre(Qt::white, QColor(0x20, 0x20, 0x20));
+}
+
+void Trazo::PonTinta(const Tinta& nueva)
+{
+    tinta = nueva;
+    Colorea();
+}
+
+void Trazo::PonLetra(const QFont& base)
+{
+    constexpr double Reducida = 0.85, DelTitulo = 1.15;
+    // In pixels: the same letters on the screen, in a file and on paper.
+    letra = base;
+    const double alto = QFontInfo(base).pixelSize() * (compacto ? Reducida : 1);
+    letra.setPixelSize(qRound(alto));
+    QFont chica = letra, fuerte = letra;
+    chica.setPixelSize(qRound(alto * (compacto ? 1 : 0.92)));
+    fuerte.setPixelSize(qRound(alto * DelTitulo));
+    fuerte.setBold(true);
+    for (QCPAxis* const eje : {plano.xAxis, plano.yAxis, plano.yAxis2}) {
+        eje->setTickLabelFont(chica);
+        eje->setLabelFont(letra);
+    }
+    plano.legend->setFont(letra);
+    titulo->setFont(fuerte);
+    nota->setFont(chica);
+    lectura->setFont(letra);
+    Colorea();
+}
+
+void Trazo::Colorea()
+{
+    plano.setBackground(QBrush(tinta.fondo));
+    for (QCPAxis* const eje : {plano.xAxis, plano.yAxis, plano.xAxis2, plano.yAxis2})
+        ColoreaEje(*eje);
+    plano.xAxis->setTickLengthIn(0);
+    const bool marcas = grafico.marcasEjeX || grafico.escala.marcaDeRotulo;
+    constexpr int LargoDeMarca = 5, LargoDeSubmarca = 3;
+    plano.xAxis->setTickLength(0, marcas ? LargoDeMarca : 0);
+    plano.xAxis->setSubTickLength(0, grafico.marcasEjeX ? LargoDeSubmarca : 0);
+    plano.legend->setTextColor(tinta.texto);
+    titulo->setTextColor(tinta.texto);
+    nota->setTextColor(tinta.texto);
+    hilo->setPen(QPen(tinta.ejes, 1, Qt::DashLine));
+    constexpr int Opacidad = 235;
+    QColor papel = tinta.fondo;
+    papel.setAlpha(Opacidad);
+    lectura->setBrush(papel);
+    lectura->setPen(QPen(tinta.ejes));
+    lectura->setColor(tinta.texto);
+    ColoreaSeries();
+}
+
+void Trazo::ColoreaEje(QCPAxis& eje) const
+{
+    constexpr int LargoDeMarca = 5;
+    const QPen pluma(tinta.ejes, 1);
+    eje.setBasePen(pluma);
+    eje.setTickPen(pluma);
+    eje.setSubTickPen(pluma);
+    eje.setTickLength(0, LargoDeMarca);
+    eje.setSubTickLength(0, 0);
+    eje.setTickLabelColor(tinta.texto);
+    eje.setLabelColor(tinta.texto);
+    eje.setLabelPadding(compacto ? 2 : 6);
+    eje.grid()->setPen(QPen(tinta.grilla, 1));
+    eje.grid()->setZeroLinePen(Qt::NoPen);
+    eje.grid()->setSubGridVisible(false);
+}
+
+void Trazo::ColoreaSeries()
+{
+    std::size_t nroLinea = 0;
+    for (std::size_t i = 0; i < lineas.size(); ++i) {
+        QCPGraph& linea = *lineas[i];
+        const bool escalon = EscalonEn(i);
+        const Trama& trama = escalon ? Lluvia : Tramas[nroLinea++ % Tramas.size()];
+        const QColor color = QColor::fromRgba(tinta.oscura ? trama.oscuro : trama.claro);
+        QPen pluma(color, escalon ? 1 : Grueso, trama.trazo);
+        pluma.setCapStyle(Qt::FlatCap);
+        pluma.setJoinStyle(escalon ? Qt::MiterJoin : Qt::RoundJoin);
+        linea.setPen(pluma);
+        QColor relleno = color;
+        relleno.setAlpha(OpacidadDeLluvia);
+        linea.setBrush(escalon ? QBrush(relleno) : QBrush(Qt::NoBrush));
+        constexpr double Punto = 5;
+        const bool pocos = grafico.categorias.size() <= PocosPuntos;
+        linea.setScatterStyle(!escalon && pocos
+                                  ? QCPScatterStyle(QCPScatterStyle::ssDisc, color, color, Punto)
+                                  : QCPScatterStyle());
+        puntosLeidos[i]->setPen(QPen(color, Grueso));
+        puntosLeidos[i]->setBrush(tinta.fondo);
+        constexpr double PuntoLeido = 8;
+        puntosLeidos[i]->setSize(PuntoLeido);
+    }
+    for (std::size_t i = 0; i < puntosMarcados.size() && i < grafico.marcas.size(); ++i) {
+        constexpr double PuntoMarcado = 9;
+        const std::size_t serie = grafico.marcas[i].serie;
+        const QColor color = serie < lineas.size() ? lineas[serie]->pen().color() : tinta.texto;
+        puntosMarcados[i]->setPen(QPen(color, Grueso));
+        puntosMarcados[i]->setBrush(tinta.fondo);
+        puntosMarcados[i]->setSize(PuntoMarcado);
+        rotulosMarcados[i]->setColor(tinta.texto);
+        rotulosMarcados[i]->setFont(plano.xAxis->tickLabelFont());
+    }
+}
+
+}  // namespace forms

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "forms/Formulario_ventana.h"
+#include "results/dlgChart1.h"
+
+class QPushButton;
+
+namespace forms {
+class Lamina;
+}
+
+namespace results {
+
+/// Window of the hyetograph.
+class dlgChart1_ventana : public forms::Ventana {
+  public:
+    dlgChart1_ventana(forms::Entorno& alrededor, dlgChart1& registro, QWidget* padre = nullptr);
+
+    /// Opens the window with nothing to show yet. In a series it closes itself.
+    void Abre();
+    /// Shows a hyetograph and brings the window to the front, opening it where it is closed.
+    void Muestra(const Hietograma& pedido);
+    void Muestra() override;
+
+  protected:
+    void AlCerrar() override;
+
+  private:
+    void Presenta();
+
+    dlgChart1& f;
+    forms::Lamina* Grafico;
+    QPushButton *cmdHsMin, *cmdImprimir, *OKButton;
+};
+
+}  // namespace results

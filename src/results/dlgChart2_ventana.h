@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <optional>
+
+#include "forms/Formulario_ventana.h"
+#include "results/dlgChart2.h"
+
+class QBoxLayout;
+class QLabel;
+class QListWidget;
+class QPushButton;
+class QSlider;
+
+namespace forms {
+class Lamina;
+}
+
+namespace results {
+
+/// Window of the hydrographs. While a slider is dragged each of its values that the runs keep up with is run;
+/// of those that come in during a run the newest alone counts.
+class dlgChart2_ventana : public forms::Ventana {
+  public:
+    dlgChart2_ventana(forms::Entorno& alrededor, dlgChart2& registro, QWidget* padre = nullptr);
+
+    /// Opens the window on the results in hand and brings it to the front. Without any it closes itself.
+    void Abre();
+    using forms::Ventana::Muestra;
+    void Muestra() override;
+
+  protected:
+    void AlCerrar() override;
+
+  private:
+    /// A slider with its caption, its value and the rule that takes it.
+    struct Mando {
+        QLabel* rotulo = nullptr;
+        QSlider* deslizador = nullptr;
+        QLabel* valor = nullptr;
+        std::string_view unidad{};
+        void (*mueve)(dlgChart2&, model::Siro&, int) = nullptr;
+        std::optional<int> pedido{};  ///< not run yet
+    };
+
+    void Construye();
+    QBoxLayout* ConstruyeMandos();
+    QBoxLayout* ConstruyeBotones();
+    void PonMando(Mando& mando, const char* nombre, std::string_view ayuda);
+    void MuestraMando(Mando& mando, const Deslizador& estado, const std::string& rotulo) const;
+    void Pide(Mando& mando, int valor);
+    void CorrePedidos();
+    void Imprime();
+
+    dlgChart2& f;
+    QLabel *lblTitulo, *lblNota;
+    forms::Lamina* Grafico;
+    QListWidget* lstCompos;
+    Mando Pp{}, Dur{};
+    QPushButton *cmdHsMin, *cmdXmas, *cmdXmenos, *cmdImprimir, *OKButton;
+    bool programada = false;  ///< a run waits for the events of the moment
+    bool corriendo = false;
+};
+
+}  // namespace results
