@@ -14,10 +14,10 @@
 namespace forms {
 namespace {
 
-constexpr double Aire = 0.08;        // part of a value axis left free beyond the data
-constexpr double LugarDeLluvia = 3;  // rain that hangs from the top takes one part in so many
-constexpr double SobreElPico = 1.5;  // the values' axis leaves that part to it
-constexpr double PocasFilas = 30;    // up to so many each row is a point of its own, half a row from the edge
+constexpr double Aire = 0.08;          // part of a value axis left free beyond the data
+constexpr double LugarDeLluvia = 3.2;  // rain that hangs from the top takes one part in so many
+constexpr double SobreElPico = 1.6;    // how far the values' axis goes beyond them, to leave that part free
+constexpr double PocasFilas = 30;  // up to so many each row is a point of its own, half a row from the edge
 
 /// Least and greatest of the cells of some series; nothing without any.
 struct Extremos {
@@ -72,6 +72,7 @@ Trazo::Trazo(QCustomPlot& superficie, bool reducido)
       compacto(reducido),
       titulo(new QCPTextElement(&superficie)),
       nota(new QCPTextElement(&superficie)),
+      faja(new QCPLayoutGrid),
       hilo(new QCPItemStraightLine(&superficie)),
       lectura(new QCPItemText(&superficie))
 {
@@ -95,6 +96,11 @@ Trazo::Trazo(QCustomPlot& superficie, bool reducido)
     plano.legend->setBrush(Qt::NoBrush);
     plano.legend->setMargins({0, 0, 0, 0});
     plano.plotLayout()->setRowSpacing(compacto ? 2 : 6);
+    constexpr QMargins BordeInferior(0, 0, 0, 5);
+    nota->setMargins(BordeInferior);
+    constexpr QMargins LugarParaElUltimoRotulo(0, 0, 16, 0);
+    plano.axisRect()->setMinimumMargins(LugarParaElUltimoRotulo);
+    PonFajaDeLeyenda();
 
     for (QCPAbstractItem* const item :
          {static_cast<QCPAbstractItem*>(hilo), static_cast<QCPAbstractItem*>(lectura)}) {
@@ -108,6 +114,23 @@ Trazo::Trazo(QCustomPlot& superficie, bool reducido)
     lectura->setPadding(Orla);
     lectura->setClipToAxisRect(false);
     Arma();
+}
+
+/// The legend in the middle of a strip, its entries side by side.
+void Trazo::PonFajaDeLeyenda()
+{
+    constexpr double LoMenos = 0.001;
+    constexpr QMargins BordeInferior(0, 0, 0, 6);
+    QCPLegend* const leyenda = plano.legend;
+    plano.plotLayout()->addElement(1, 0, faja);
+    leyenda->layout()->take(leyenda);
+    faja->setMargins(BordeInferior);
+    faja->addElement(0, 0, new QCPLayoutElement(&plano));
+    faja->addElement(0, 1, leyenda);
+    faja->addElement(0, 2, new QCPLayoutElement(&plano));
+    faja->setColumnStretchFactor(1, LoMenos);
+    constexpr int EntreSeries = 24;
+    leyenda->setColumnSpacing(EntreSeries);
 }
 
 void Trazo::Pon(const Grafico& nuevo)
@@ -159,10 +182,9 @@ void Trazo::ArmaFilas()
     nota->setText(Q(grafico.notaAlPie));
     nota->setVisible(!compacto && !grafico.notaAlPie.empty());
 
-    if (leyenda->layout() != nullptr) leyenda->layout()->take(leyenda);
     for (QCPLayoutElement* const pieza :
          {static_cast<QCPLayoutElement*>(titulo), static_cast<QCPLayoutElement*>(marco),
-          static_cast<QCPLayoutElement*>(nota)})
+          static_cast<QCPLayoutElement*>(faja), static_cast<QCPLayoutElement*>(nota)})
         if (pieza->layout() != nullptr) pieza->layout()->take(pieza);
     filas.simplify();
     int fila = 0;
@@ -173,7 +195,7 @@ void Trazo::ArmaFilas()
     constexpr double LoMenos = 0.001;
     if (titulo->visible()) agrega(titulo, LoMenos);
     agrega(marco, 1);
-    if (leyenda->visible()) agrega(leyenda, LoMenos);
+    if (leyenda->visible()) agrega(faja, LoMenos);
     if (nota->visible()) agrega(nota, LoMenos);
 }
 

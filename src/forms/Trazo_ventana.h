@@ -15,6 +15,7 @@ class QCPGraph;
 class QCPItemStraightLine;
 class QCPItemText;
 class QCPItemTracer;
+class QCPLayoutGrid;
 class QCPTextElement;
 class QCustomPlot;
 class QPalette;
@@ -63,6 +64,7 @@ class Trazo {
     [[nodiscard]] std::optional<std::size_t> FilaLeida() const { return leida; }
 
   private:
+    void PonFajaDeLeyenda();
     void Arma();
     void ArmaFilas();
     void ArmaSeries();
@@ -94,6 +96,7 @@ class Trazo {
     std::vector<QCPItemTracer*> puntosLeidos{};
     QCPTextElement* titulo;
     QCPTextElement* nota;
+    QCPLayoutGrid* faja;  ///< of the legend
     QCPItemStraightLine* hilo;
     QCPItemText* lectura;
 };
