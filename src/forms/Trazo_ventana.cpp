@@ -98,7 +98,7 @@ Trazo::Trazo(QCustomPlot& superficie, bool reducido)
     plano.plotLayout()->setRowSpacing(compacto ? 2 : 6);
     constexpr QMargins BordeInferior(0, 0, 0, 5);
     nota->setMargins(BordeInferior);
-    constexpr QMargins LugarParaElUltimoRotulo(0, 0, 16, 0);
+    constexpr QMargins LugarParaElUltimoRotulo(4, 10, 16, 4);
     plano.axisRect()->setMinimumMargins(LugarParaElUltimoRotulo);
     PonFajaDeLeyenda();
 
