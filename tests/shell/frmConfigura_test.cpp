@@ -34,9 +34,9 @@ class Configura : public testing::Test {
         s.Disco = disco.Puerta();
         s.DirTrabajo = s.DirEjecutable = "/siro";
         s.DirProyecto = "/proy";
-        f.DirPersonal = "/home/ana";
+        f.DirPersonal = "/casas/ana";
         disco.PonDirectorio("/siro");
-        disco.PonDirectorio("/home/ana");
+        disco.PonDirectorio("/casas/ana");
         disco.PonDirectorio("/otro");
         for (const char* proyecto : {"Otro", "Mio"}) {
             s.NombreProyecto = proyecto;
@@ -246,9 +246,9 @@ TEST_F(Configura, ConfigurarPorDefectoCreaSusDosDirectoriosYEligeElDeProyectos)
     s.frmConfigura.CheckDistriPp = 0;
     f.CheckDirNv = true;
     BtnDefecto(f, s);
-    EXPECT_TRUE(s.Disco.HayDirectorio("/home/ana/SIRO/Proyectos"));
-    EXPECT_EQ(s.frmConfigura.Dir1, "/home/ana/SIRO/Proyectos");
-    EXPECT_EQ(s.DirProyecto, "/home/ana/SIRO/Proyectos");
+    EXPECT_TRUE(s.Disco.HayDirectorio("/casas/ana/SIRO/Proyectos"));
+    EXPECT_EQ(s.frmConfigura.Dir1, "/casas/ana/SIRO/Proyectos");
+    EXPECT_EQ(s.DirProyecto, "/casas/ana/SIRO/Proyectos");
     EXPECT_EQ(s.frmConfigura.Drive1, "");
     EXPECT_EQ(s.frmConfigura.CheckDistriPp, 1);
     EXPECT_FALSE(f.CheckDirNv);
@@ -258,12 +258,12 @@ TEST_F(Configura, ConfigurarPorDefectoCreaSusDosDirectoriosYEligeElDeProyectos)
     Abre(f, s);
     BtnDefecto(f, s);
     EXPECT_TRUE(Avisos().empty());
-    EXPECT_EQ(s.DirProyecto, "/home/ana/SIRO/Proyectos");
+    EXPECT_EQ(s.DirProyecto, "/casas/ana/SIRO/Proyectos");
 }
 
 TEST_F(Configura, ConfigurarPorDefectoSinPermisoAvisaYNadaCambia)
 {
-    disco.Protege("/home/ana");
+    disco.Protege("/casas/ana");
     s.frmConfigura.CheckDistriPp = 0;
     BtnDefecto(f, s);
     EXPECT_EQ(Avisos(), std::vector<Mensaje>{SinAcceso});
