@@ -91,6 +91,8 @@ void Escritorio::PonVentanas()
     for (auto* const abre : {&ventanaLluvia->AbreDisPer, &ventanaLluvia->AbreTablasPDRs,
                              &ventanaLluvia->AbrePpReal, &ventanaLluvia->AbrePpUEHs})
         *abre = [this] { TodaviaNo(); };
+    ventanaHietograma = std::make_unique<results::dlgChart1_ventana>(entorno, hietograma);
+    ventanaHidrograma = std::make_unique<results::dlgChart2_ventana>(entorno, hidrograma);
     ventanaAyuda = std::make_unique<Ayuda_ventana>(entorno);
     ventanaPizarra = std::make_unique<results::frmPp_ventana>(entorno, pizarra);
     results::PonPizarra(s.Anfitrion, pizarra, *ventanaPizarra,
@@ -153,14 +155,16 @@ void Escritorio::Abre(Ventana ventana, bool /*espera*/)
         return ventanaLluvia->Abre();
     case Ventana::frmPp:
         return ventanaPizarra->Abre();
+    case Ventana::dlgChart2:
+        return ventanaHidrograma->Abre();
     default:
         return TodaviaNo();
     }
 }
 
-void Escritorio::AbreHietograma(const results::Hietograma& /*pedido*/)
+void Escritorio::AbreHietograma(const results::Hietograma& pedido)
 {
-    TodaviaNo();
+    ventanaHietograma->Muestra(pedido);
 }
 
 void Escritorio::TodaviaNo() const

@@ -10,7 +10,9 @@
 #include "rainfall/dlgPp.h"
 #include "rainfall/dlgPp_ventana.h"
 #include "results/dlgChart1.h"
+#include "results/dlgChart1_ventana.h"
 #include "results/dlgChart2.h"
+#include "results/dlgChart2_ventana.h"
 #include "results/frmPp.h"
 #include "results/frmPp_ventana.h"
 #include "shell/Arranque.h"
@@ -68,6 +70,8 @@ class Escritorio {
     std::unique_ptr<frmPp2_ventana> ventanaAvance;
     std::unique_ptr<rainfall::dlgPp_ventana> ventanaLluvia;
     std::unique_ptr<results::frmPp_ventana> ventanaPizarra;
+    std::unique_ptr<results::dlgChart1_ventana> ventanaHietograma;
+    std::unique_ptr<results::dlgChart2_ventana> ventanaHidrograma;
     std::unique_ptr<Ayuda_ventana> ventanaAyuda;
 };
 
