@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/Cauces.h"
 
+#include "editor/Alcance.h"
+#include "editor/Destinos.h"
 #include "model/Falla.h"
 #include "model/Numeros.h"
 
@@ -39,6 +41,11 @@ void AgregaVertice(Siro& s, int cauce, Punto en)
     AmpliaVertices(s, vertice);
     PonVertice(s, cauce, vertice, en);
     s.NroVertices(cauce) = vertice;
+}
+
+bool CabeceraCerca(const Siro& s, int cauce, Punto p, double distancia)
+{
+    return s.NroVertices(cauce) >= 1 && Cerca(p, UltimoVertice(s, cauce), distancia);
 }
 
 int NumeroDeCauceNuevo(const Siro& s)

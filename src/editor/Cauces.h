@@ -13,6 +13,10 @@ void PonVertice(model::Siro& s, int cauce, int vertice, Punto en);
 /// Adds a vertex upstream of the last one; the bound of the vertices grows as needed. Throws Falla 6, 9.
 void AgregaVertice(model::Siro& s, int cauce, Punto en);
 
+/// Whether the upstream end of a reach is within a distance of a point, on both axes. A reach without
+/// vertices has none. Throws Falla 9.
+bool CabeceraCerca(const model::Siro& s, int cauce, Punto p, double distancia);
+
 /// Number of the next reach. Throws Falla 9 where the array has no slot for it.
 int NumeroDeCauceNuevo(const model::Siro& s);
 /// Makes the object of a reach that has its vertices already, without a name, draining nowhere.

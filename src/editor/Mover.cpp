@@ -67,13 +67,12 @@ void BuscaDestino(const frmUEHs& f, Siro& s, int cauce)
     model::Cauce& este = s.Cauces(cauce);
     const Punto boca = Vertice(s, cauce, 1);
     for (int i = 1; i <= CaucesEnteros(s); ++i) {
-        const Punto cabecera = UltimoVertice(s, i);
-        if (i == cauce || !Cerca(boca, cabecera, f.ToleranciaVertice)) continue;
+        if (i == cauce || !CabeceraCerca(s, i, boca, f.ToleranciaVertice)) continue;
         const std::string& otro = s.Cauces(i).NombreCauce;
         const std::string texto =
             Texto(PreguntaElTramo, este.NombreCauce, EsTributario, otro, FinPreguntaElTramo);
         if (!model::Consulta(s, texto, TituloConsulta)) continue;
-        PonVertice(s, cauce, 1, cabecera);
+        PonVertice(s, cauce, 1, UltimoVertice(s, i));
         este.Cauce_aa = otro;
         return;
     }

@@ -31,9 +31,8 @@ struct Llegada {
 bool LlegaACauce(const frmUEHs& f, const Siro& s, Punto p, Llegada& llegada)
 {
     for (int i = 1; i <= CaucesEnteros(s); ++i) {
-        const Punto cabecera = UltimoVertice(s, i);
-        if (!Cerca(p, cabecera, AlcanceDeDestino * f.TamIcono)) continue;
-        llegada = {s.ColCauces.Item(i).NombreCauce, cabecera, ConElCauce};
+        if (!CabeceraCerca(s, i, p, AlcanceDeDestino * f.TamIcono)) continue;
+        llegada = {s.ColCauces.Item(i).NombreCauce, UltimoVertice(s, i), ConElCauce};
         return true;
     }
     return false;

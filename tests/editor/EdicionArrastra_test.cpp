@@ -371,6 +371,19 @@ TEST_F(EdicionEnlaceArrastrado, LaBocaDelCauceNoEsDestino)
     EXPECT_TRUE(Preguntas().empty());
 }
 
+TEST_F(EdicionEnlaceArrastrado, UnCauceSinVerticesNoTieneCabeceraEnNingunLado)
+{
+    red.Cauce("c-vacio", {});
+    Parte();
+    TomaAsa({400, 100});
+    Mueve(0, 0);
+    Suelta(0, 0);
+    s.CauceSel = 1;
+    Arrastra({{300, 300}, {1, 1}});
+    EXPECT_TRUE(Preguntas().empty());
+    EXPECT_EQ(Vertice(1, 1), (Punto{1, 1}));
+}
+
 TEST_F(EdicionEnlaceArrastrado, ConNoNadaCambiaYLaSeleccionSeSuelta)
 {
     Responde({false});
