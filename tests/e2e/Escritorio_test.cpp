@@ -18,9 +18,18 @@ namespace {
 
 namespace fs = std::filesystem;
 using apoyo::BytesDeArchivo;
+using apoyo::MismoTexto;
+using e2e::Lote;
+using e2e::Salida;
 
 constexpr const char* Principal = "SIRO - Modelo Hidrológico de  simulación de crecidas";
 
+/// The Slate tells when it was written; two runs tell it differently.
+std::string SinHora(const std::string& texto)
+{
+    return std::regex_replace(texto, std::regex("[0-9]{2}/[0-9]{2}/[0-9]{4} [0-9]{2}:[0-9]{2}:[0-9]{2}"),
+                              "dd/mm/aaaa hh:mm:ss");
+}
 
 class Escritorio : public testing::Test {
   protected:
@@ -79,6 +88,38 @@ class Escritorio : public testing::Test {
     std::string raiz, dir;
     std::unique_ptr<e2e::Pantalla> pantalla;
 };
+
+TEST_F(Escritorio, UnaTormentaEscribeLoMismoQueSiroLote)
+{
+    AbreMuestra();
+    pantalla->Teclas({"F7"});  // the Slate
+    FijaTormenta("80", "120");
+    pantalla->Teclas({"F5"});
+    pantalla->EsperaVentana("La tabla de resultados es muy extensa");
+    pantalla->Teclas({"Return"});
+    pantalla->EsperaVentana(Principal);
+    const std::string archivo = dir + "/SalePizarra1_tem.txt";
+    pantalla->EsperaA("the text file", [&] { return fs::exists(archivo); });
+
+    // The chart has come up over the Slate: closed and opened again it is in front, with the text of the run.
+    pantalla->Teclas({"F7", "F7", "ctrl+s"});
+    pantalla->EsperaVentana("Guardar el texto de la Pizarra");
+    pantalla->Teclea(raiz + "/pizarra.txt");
+    pantalla->Teclas({"Return"});
+    pantalla->EsperaVentana(Principal);
+    pantalla->EsperaA("the saved Slate", [&] { return fs::exists(raiz + "/pizarra.txt"); });
+    Termina();
+
+    const std::string lote = raiz + "/lote";
+    fs::copy(SIRO_DATA_DIR, lote, fs::copy_options::recursive);
+    const Salida salida =
+        Lote({"una", Conf(), "--trabajo", lote, "--pp", "80", "--dur", "120", "--pizarra"}, "/");
+    ASSERT_EQ(salida.estado, 0) << salida.errores;
+    EXPECT_TRUE(MismoTexto(SinHora(BytesDeArchivo(lote + "/SalePizarra1_tem.txt")),
+                           SinHora(BytesDeArchivo(archivo))));
+    EXPECT_TRUE(MismoTexto(SinHora(salida.estandar),
+                           SinHora(model::DeWindows1252(BytesDeArchivo(raiz + "/pizarra.txt")))));
+}
 
 TEST_F(Escritorio, ElUltimoProyectoSeRecuerdaYSeOfreceEnElMenu)
 {
