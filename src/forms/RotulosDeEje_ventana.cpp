@@ -52,7 +52,12 @@ class RotulosDeCategorias : public QCPAxisTicker {
         if (rotulos != nullptr) rotulos->append(Q(grafico.categorias[fila - 1]));
     }
 
-    [[nodiscard]] double Ancho() const { return std::max(1, eje.axisRect()->width()); }
+    /// Length of the axis. The surface's size is new by now, the frame's is still that of the last painting.
+    [[nodiscard]] double Ancho() const
+    {
+        const QMargins margenes = eje.axisRect()->margins();
+        return std::max(1, eje.parentPlot()->viewport().width() - margenes.left() - margenes.right());
+    }
 
     /// Labels for which there is room over the axis.
     [[nodiscard]] std::size_t Caben() const
