@@ -1,0 +1,289 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "rainfall/dlgDisPpPer.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <utility>
+
+#include "forms/Evento.h"
+#include "model/ArchivosTormenta.h"
+#include "model/Avisos.h"
+#include "model/Numeros.h"
+#include "rainfall/VistaLluvia.h"
+
+namespace rainfall {
+
+using forms::Evento;
+using model::NumeroATexto;
+using model::Siro;
+
+namespace {
+
+constexpr int NroTablas = 3;
+constexpr std::size_t PrimeraPersonal = 5;  // distributions 5 to 7 are personal tables 1 to 3
+
+constexpr int ColumnaTiempo = 1;
+constexpr int ColumnaParcial = 2;
+constexpr int ColumnaAcumulada = 3;
+constexpr auto Editables = std::to_array<int>({ColumnaParcial});
+constexpr forms::ReglasGrilla ReglasTabla{
+    .encabezado = "^Período  |> T acumulado[%]  |>P parcial[%]  |>P acumulada[%]  ",
+    .editables = Editables,
+    .columnasFijas = 1};
+
+constexpr double CierreMinimo = 99.99;   // [%]
+constexpr double CierreMaximo = 100.01;  // [%]
+
+// What an emptied table holds for.
+constexpr std::int16_t DurMinVacia = 5;     // [min]
+constexpr std::int16_t DurMaxVacia = 1440;  // [min]
+
+constexpr std::string_view MinimaMayor =  // kept as it stands
+    "El Límite inferior elegido es mayor al límite inferior seleccionado.";
+constexpr std::string_view MaximaMenor =
+    "El Límite superior elegido es menor al límite inferior seleccionado.";
+constexpr std::string_view ErrorDeCierre =
+    "Error de Cierre, la suma de Precipitaciones parciales debe ser 100%. Verifique los datos ingresados";
+
+constexpr forms::ReglaNumero ReglaNroPer{.control = "txtNroPer",
+                                         .maximo = 999,
+                                         .mensaje = "Ingrese un valor numérico entero entre 0 y 999 ",
+                                         .clase = forms::ClaseNumero::Entero,
+                                         .caja = forms::CajaRechazo::Llana};
+
+std::string Texto(std::int16_t n)
+{
+    return NumeroATexto(std::int32_t{n});
+}
+
+std::size_t Ranura(const dlgDisPpPer& f)
+{
+    return static_cast<std::size_t>(f.Tabla());
+}
+
+// --- limits ---
+
+template <std::size_t N>
+Lista NuevaLista(const std::array<std::int16_t, N>& duraciones)
+{
+    Lista lista;
+    for (const std::int16_t d : duraciones)
+        lista.items.push_back(Texto(d));
+    return lista;
+}
+
+template <std::size_t N>
+void Elige(Lista& lista, const std::array<std::int16_t, N>& duraciones, std::int16_t d)
+{
+    const auto lugar = std::find(duraciones.begin(), duraciones.end(), d);
+    lista.indice = lugar == duraciones.end() ? 0 : static_cast<int>(lugar - duraciones.begin());
+}
+
+std::int16_t Minima(const dlgDisPpPer& f)
+{
+    return DuracionesMinimas[static_cast<std::size_t>(std::max(f.cmbDurMin.indice, 0))];
+}
+
+std::int16_t Maxima(const dlgDisPpPer& f)
+{
+    return DuracionesMaximas[static_cast<std::size_t>(std::max(f.cmbDurMax.indice, 0))];
+}
+
+// --- table ---
+
+/// Room for n periods of any table.
+void Ensancha(Siro& s, int n)
+{
+    if (s.DisPerso.TopeColumna() < 0)
+        s.DisPerso.Dimensiona(NroTablas, n + 1);
+    else if (s.DisPerso.TopeColumna() < n + 1)
+        s.DisPerso.Redimensiona(n + 1);
+}
+
+/// Time at the end of period j of n in percent of the duration, cut to two decimals.
+double TiempoAcumulado(int j, int n)
+{
+    constexpr double Centesimos = 100;
+    return std::floor(j * 100.0 / n * Centesimos) / Centesimos;
+}
+
+/// Periods and their times. Shares that were there stay.
+void PonFilas(dlgDisPpPer& f, std::int16_t n)
+{
+    forms::Grilla& g = f.MSFlexGridDisPerso;
+    forms::PonNroFilas(g, n);
+    for (int j = 1; j <= n; ++j) {
+        g.Pon({j, 0}, NumeroATexto(j));
+        g.Pon({j, ColumnaTiempo}, NumeroATexto(TiempoAcumulado(j, n)));
+    }
+}
+
+void Suma(dlgDisPpPer& f)
+{
+    forms::Grilla& g = f.MSFlexGridDisPerso;
+    float suma = 0;
+    for (int j = 1; j <= g.NroFilas(); ++j) {
+        suma = model::Simple(double{suma} + double{model::Simple(g.Numero({j, ColumnaParcial}))});
+        g.Pon({j, ColumnaAcumulada}, NumeroATexto(suma));
+    }
+}
+
+void TomaCeldas(dlgDisPpPer& f, Siro& s, const forms::Efecto& efecto)
+{
+    for (const forms::Celda c : efecto.asentadas)
+        if (c.columna == ColumnaParcial)
+            s.DisPerso(f.Tabla(), c.fila) = model::Simple(f.MSFlexGridDisPerso.Numero(c));
+    if (!efecto.asentadas.empty()) Suma(f);
+}
+
+/// Takes up the cell that is still being typed.
+void Asienta(dlgDisPpPer& f, Siro& s)
+{
+    TomaCeldas(f, s, forms::Deja(f.MSFlexGridDisPerso));
+}
+
+void MuestraTabla(dlgDisPpPer& f, Siro& s)
+{
+    const std::int16_t n = s.NroFilasTabla[Ranura(f)];
+    f.txtNotas = s.NotasDisPer[Ranura(f)];
+    f.txtNroPer = Texto(n);
+    Elige(f.cmbDurMin, DuracionesMinimas, s.DurMinPer[Ranura(f)]);
+    Elige(f.cmbDurMax, DuracionesMaximas, s.DurMaxPer[Ranura(f)]);
+    f.MSFlexGridDisPerso = forms::NuevaGrilla(ReglasTabla);
+    Ensancha(s, n);
+    PonFilas(f, n);
+    for (int j = 1; j <= n; ++j)
+        f.MSFlexGridDisPerso.Pon({j, ColumnaParcial}, NumeroATexto(s.DisPerso(f.Tabla(), j)));
+    Suma(f);
+}
+
+/// Whether the table in hand may be written. What is wrong is told, and the cursor stands on it.
+bool Cierra(dlgDisPpPer& f, const Siro& s)
+{
+    forms::Grilla& g = f.MSFlexGridDisPerso;
+    const int n = g.NroFilas();
+    int mala = 1;
+    while (mala <= n && g.EsNumero({mala, ColumnaParcial}))
+        ++mala;
+    const bool numerica = mala > n;
+    const double total = n == 0 ? 0 : g.Numero({n, ColumnaAcumulada});
+    const bool cierra = n == 0 || (total >= CierreMinimo && total <= CierreMaximo);
+    if (!cierra) model::Advierte(s, std::string(ErrorDeCierre), {});
+    if (numerica && cierra) return true;
+    forms::Mueve(g, {numerica ? 1 : mala, ColumnaParcial});
+    f.foco.control = "MSFlexGridDisPerso";
+    return false;
+}
+
+void Aplica(dlgDisPpPer& f, Siro& s)
+{
+    Asienta(f, s);
+    if (Cierra(f, s)) model::GuardaTablaDisPer(s);
+}
+
+}  // namespace
+
+void Abre(dlgDisPpPer& f, const dlgPp& pp, Siro& s)
+{
+    Evento(s, [&] {
+        f = dlgDisPpPer{.abierta = true};
+        model::LeeTablaDisTemPer(s);
+        f.cmbDurMin = NuevaLista(DuracionesMinimas);
+        f.cmbDurMax = NuevaLista(DuracionesMaximas);
+        f.cmbNroTablaDisPpPer = {{"1", "2", "3"}, 0};
+        for (std::size_t i = 0; i < NroTablas; ++i)
+            if (pp.optDistriPp[PrimeraPersonal + i]) f.cmbNroTablaDisPpPer.indice = static_cast<int>(i);
+        MuestraTabla(f, s);
+    });
+}
+
+void cmbNroTablaDisPpPer_Click(dlgDisPpPer& f, dlgPp& pp, Siro& s)
+{
+    optDistriPp_Click(pp, s, PrimeraPersonal + Ranura(f) - 1);
+    Evento(s, [&] { MuestraTabla(f, s); });
+}
+
+void txtNotas_Change(const dlgDisPpPer& f, Siro& s)
+{
+    s.NotasDisPer[Ranura(f)] = f.txtNotas;
+}
+
+void cmbDurMin_Click(const dlgDisPpPer& f, Siro& s)
+{
+    if (Minima(f) > Maxima(f)) model::Advierte(s, std::string(MinimaMayor), {});
+    s.DurMinPer[Ranura(f)] = Minima(f);
+}
+
+void cmbDurMax_Click(const dlgDisPpPer& f, Siro& s)
+{
+    s.DurMaxPer[Ranura(f)] = Maxima(f);
+}
+
+bool cmbDurMax_AlSalir(dlgDisPpPer& f, const Siro& s)
+{
+    const bool pasa = Minima(f) <= Maxima(f);
+    if (!pasa) model::Advierte(s, std::string(MaximaMenor), {});
+    f.foco = pasa ? forms::Foco{} : forms::Foco{"cmbDurMax", true};
+    return pasa;
+}
+
+bool txtNroPer_AlSalir(dlgDisPpPer& f, Siro& s)
+{
+    if (!forms::AlSalir(f, s, ReglaNroPer, f.txtNroPer)) return false;
+    Evento(s, [&] {
+        Asienta(f, s);
+        const std::int16_t n = model::Entero16(model::Val(f.txtNroPer));
+        s.NroFilasTabla[Ranura(f)] = n;
+        Ensancha(s, n);
+        PonFilas(f, n);
+        Suma(f);
+    });
+    return true;
+}
+
+void AlAsentar(dlgDisPpPer& f, Siro& s, const forms::Efecto& efecto)
+{
+    Evento(s, [&] { TomaCeldas(f, s, efecto); });
+}
+
+void cmdBorraTablaDisPer(dlgDisPpPer& f, Siro& s)
+{
+    Evento(s, [&] {
+        const std::size_t k = Ranura(f);
+        s.NroFilasTabla[k] = 0;
+        s.NotasDisPer[k].clear();
+        s.DurMinPer[k] = DurMinVacia;
+        s.DurMaxPer[k] = DurMaxVacia;
+        MuestraTabla(f, s);
+        f.cmbDurMin.indice = 0;
+        f.cmbDurMax.indice = static_cast<int>(DuracionesMaximas.size()) - 1;
+        model::GuardaTablaDisPer(s);
+    });
+}
+
+void cmdAplicar(dlgDisPpPer& f, Siro& s)
+{
+    Evento(s, [&] { Aplica(f, s); });
+}
+
+void OKButton(dlgDisPpPer& f, Siro& s)
+{
+    Evento(s, [&] { Aplica(f, s); });
+    f.abierta = false;
+}
+
+void CancelButton(dlgDisPpPer& f)
+{
+    f.abierta = false;
+}
+
+forms::Grafico Vista(const dlgDisPpPer& f)
+{
+    return GraficoDeTabla(f.MSFlexGridDisPerso, {.columnaX = ColumnaTiempo,
+                                                 .columnaY = ColumnaParcial,
+                                                 .ejeX = "T acumulado [%]",
+                                                 .ejeY = "P parcial [%]"});
+}
+
+}  // namespace rainfall

@@ -1,0 +1,505 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "rainfall/dlgPpReal.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+#include "forms/Evento.h"
+#include "model/Avisos.h"
+#include "model/Numeros.h"
+#include "model/Texto.h"
+#include "rainfall/Calendario.h"
+#include "rainfall/VistaLluvia.h"
+
+namespace rainfall {
+
+using forms::Evento;
+using model::Advierte;
+using model::NumeroATexto;
+using model::Siro;
+using model::Val;
+
+namespace {
+
+constexpr std::size_t FormaReal = 4;
+
+constexpr int ColumnaFecha = 1;
+constexpr int ColumnaMinutos = 2;
+constexpr int ColumnaParcial = 3;
+constexpr int ColumnaAcumulada = 4;
+constexpr auto Editables = std::to_array<int>({ColumnaParcial});
+constexpr forms::ReglasGrilla ReglasTabla{
+    .encabezado = "^Nro.  |^                    t [hs:min]  |^  t [min] |^Pp Parcial |^Pp Acumulada ",
+    .editables = Editables,
+    .columnasFijas = 1};
+
+constexpr std::string_view SinFecha = "01/01/1001";
+constexpr std::string_view FechaBorrada = "01/01/0001";
+constexpr std::string_view SinHora = "00:00";
+constexpr std::string_view NotasNuevas = "describa brevemente aquí la tormenta ";
+constexpr std::string_view PasoSinLista = "10";  // [min]
+
+constexpr std::string_view FechaMala = "Ingrese una fecha formato dd/mm/aaaa, Ej: 01/04/2004 ";
+constexpr std::string_view HoraMala = "Ingrese una hora formato <hh:nn>, Ej:  <01:20>   ";
+constexpr std::string_view FinalAntes = "El tiempo final ingresado es menor al inicial, Verifique";
+constexpr std::string_view PideNombre = "Ingrese un nombre de archivo para la nueva tormenta";
+constexpr std::string_view TituloNombre = "Asignar un nombre de archivo para la tormenta a ingresar";
+constexpr std::string_view TituloBorrar = "¿Eliminar el archivo?";
+constexpr std::string_view PreguntaBorrar1 = "La Tabla ha sido borrada. ¿Desea borrar tambien el archivo ";
+constexpr std::string_view PreguntaBorrar2 = " ?";
+constexpr std::string_view NoSeEncuentra = "No se encuentra el archivo ";
+constexpr std::string_view TituloError = "Error...";
+
+constexpr forms::ReglaNumero ReglaNroPpReal{.control = "txtNroPpReal",
+                                            .maximo = 999,
+                                            .mensaje = "Ingrese un valor numérico entero entre 0 y 999 ",
+                                            .clase = forms::ClaseNumero::Entero,
+                                            .caja = forms::CajaRechazo::Llana};
+
+std::string Texto(std::int16_t n)
+{
+    return NumeroATexto(std::int32_t{n});
+}
+
+/// Runs an event whose check may refuse. Returns false where it did; a fault refuses nothing.
+template <typename Cuerpo>
+bool Revisa(const Siro& s, Cuerpo&& cuerpo)
+{
+    bool pasa = true;
+    Evento(s, [&] { pasa = cuerpo(); });
+    return pasa;
+}
+
+/// Runs a command that writes the storm. Returns false where it came to a fault, which is told.
+template <typename Cuerpo>
+bool Escritura(const dlgPpReal& f, const Siro& s, Cuerpo&& cuerpo)
+{
+    return model::Sentencia(std::forward<Cuerpo>(cuerpo), [&](const model::Falla& falla) {
+        if (falla.numero == model::NumeroFalla::ArchivoNoEsta)
+            Advierte(s, std::string(NoSeEncuentra).append(f.tormenta.nombre), TituloError);
+        else
+            model::Informa(s, model::TextoFallaArchivo(falla));
+    });
+}
+
+// --- table ---
+
+/// Room for depths 1..n. It never shrinks while the window is open, so that a number of intervals lowered and
+/// raised again brings the old depths back.
+void Ensancha(Siro& s, std::int16_t n)
+{
+    if (s.PpReal.Tope() < n + 1) s.PpReal.Redimensiona(n + 1);
+}
+
+void Suma(dlgPpReal& f, Siro& s)
+{
+    float suma = 0;
+    for (int j = 1; j <= s.NroPpReal; ++j) {
+        suma = model::Simple(double{suma} + double{s.PpReal(j)});
+        f.MSFlexGridTablaPpReal.Pon({j, ColumnaAcumulada}, NumeroATexto(suma));
+    }
+    s.PpTormenta = suma;
+    s.DurTormenta = model::Producto16(s.NroPpReal, f.tormenta.PasoPpReal);
+}
+
+/// Start of the storm; nothing where its file tells no date.
+std::optional<Instante> Comienzo(const dlgPpReal& f)
+{
+    const auto dia = FechaDeTexto(f.tormenta.txtDateI);
+    const auto minuto = HoraDeTexto(f.tormenta.txtTimeI);
+    return dia && minuto ? std::optional(*dia + *minuto) : std::nullopt;
+}
+
+void Redibuja(dlgPpReal& f, Siro& s)
+{
+    forms::Grilla& g = f.MSFlexGridTablaPpReal;
+    forms::PonEditable(g, ColumnaParcial, !f.Protegida);
+    forms::PonNroFilas(g, s.NroPpReal);
+    Ensancha(s, s.NroPpReal);
+    const auto comienzo = Comienzo(f);
+    for (int j = 1; j <= s.NroPpReal; ++j) {
+        const std::int32_t minutos = j * std::int32_t{f.tormenta.PasoPpReal};
+        g.Pon({j, 0}, NumeroATexto(j));
+        g.Pon({j, ColumnaFecha}, comienzo
+                                     ? TextoFecha(*comienzo + minutos) + ' ' + TextoHora(*comienzo + minutos)
+                                     : std::string{});
+        g.Pon({j, ColumnaMinutos}, NumeroATexto(minutos));
+        g.Pon({j, ColumnaParcial}, NumeroATexto(s.PpReal(j)));
+    }
+    g.agrega = g.editada = false;
+    Suma(f, s);
+}
+
+void TomaCeldas(dlgPpReal& f, Siro& s, const forms::Efecto& efecto)
+{
+    for (const forms::Celda c : efecto.asentadas)
+        if (c.columna == ColumnaParcial) s.PpReal(c.fila) = model::Simple(f.MSFlexGridTablaPpReal.Numero(c));
+    if (!efecto.asentadas.empty()) Suma(f, s);
+}
+
+/// Takes up the cell that is still being typed.
+void Asienta(dlgPpReal& f, Siro& s)
+{
+    TomaCeldas(f, s, forms::Deja(f.MSFlexGridTablaPpReal));
+}
+
+// --- step, number of intervals, end ---
+
+void LlenaPasos(dlgPpReal& f, const Siro& s)
+{
+    f.cmbPasot.items.clear();
+    const std::size_t n = s.ListaDur.empty() ? 0 : std::min(s.ListaDur.size() - 1, MaxPasosTormenta);
+    for (std::size_t i = 1; i <= n; ++i)
+        f.cmbPasot.items.push_back(Texto(s.ListaDur[i]));
+}
+
+void EligeSegundoPaso(dlgPpReal& f)
+{
+    const auto& items = f.cmbPasot.items;
+    f.cmbPasot.texto =
+        items.empty() ? std::string(PasoSinLista) : items[std::min<std::size_t>(1, items.size() - 1)];
+    f.tormenta.PasoPpReal = model::Entero16(Val(f.cmbPasot.texto));
+}
+
+void PonSinFechas(dlgPpReal& f, std::string_view fecha)
+{
+    f.tormenta.txtDateI = f.tormenta.txtDateF = fecha;
+    f.tormenta.txtTimeI = f.tormenta.txtTimeF = SinHora;
+}
+
+void PonNro(dlgPpReal& f, Siro& s, std::int16_t n)
+{
+    Ensancha(s, n);
+    s.NroPpReal = n;
+    f.txtNroPpReal = Texto(n);
+}
+
+void CalculaFinal(dlgPpReal& f, const Siro& s)
+{
+    const Instante fin = InstanteDeTextos(f.tormenta.txtDateI, f.tormenta.txtTimeI) +
+                         Instante{s.NroPpReal} * f.tormenta.PasoPpReal;
+    f.tormenta.txtDateF = TextoFecha(fin);
+    f.tormenta.txtTimeF = TextoHora(fin);
+}
+
+/// The number of intervals that fit up to the end. Returns false, and leaves it as it is, where there are too
+/// many.
+bool CalculaNro(dlgPpReal& f, Siro& s)
+{
+    const Instante minutos = InstanteDeTextos(f.tormenta.txtDateF, f.tormenta.txtTimeF) -
+                             InstanteDeTextos(f.tormenta.txtDateI, f.tormenta.txtTimeI);
+    std::int16_t n = model::Entero16(model::Cociente(static_cast<double>(minutos), f.tormenta.PasoPpReal));
+    if (n < 0) {
+        Advierte(s, std::string(FinalAntes));
+        n = 0;
+    }
+    if (!forms::Cabe(ReglaNroPpReal, n)) {
+        forms::MuestraRechazo(s, ReglaNroPpReal.caja, std::string(ReglaNroPpReal.mensaje));
+        return false;
+    }
+    PonNro(f, s, n);
+    return true;
+}
+
+// --- storm in hand ---
+
+/// Items of FilePpReal, the storm's own selected. A directory that isn't there holds no storm.
+void LlenaLista(dlgPpReal& f, const Siro& s)
+{
+    auto& [items, indice] = f.FilePpReal;
+    items.clear();
+    model::Sentencia([&] { f.FilePpReal.items = model::ListaTormentas(s); }, [](const model::Falla&) {});
+    const auto lugar = std::find(items.begin(), items.end(), f.tormenta.nombre);
+    indice = lugar == items.end() ? -1 : static_cast<int>(lugar - items.begin());
+}
+
+void PonNombre(dlgPpReal& f, const Siro& s, std::string nombre)
+{
+    f.tormenta.nombre = std::move(nombre);
+    f.Protegida = model::TormentaProtegida(f.tormenta.nombre);
+    f.lblMiFilePpReal = model::EtiquetaTormenta(s, f.tormenta.nombre);
+    LlenaLista(f, s);
+}
+
+void Lee(dlgPpReal& f, Siro& s)
+{
+    model::LeePpReal(s, f.tormenta);
+    f.cmbPasot.texto = Texto(f.tormenta.PasoPpReal);
+    f.txtNroPpReal = Texto(s.NroPpReal);
+    Redibuja(f, s);
+}
+
+void AbreForma(dlgPpReal& f, const dlgPp& pp, Siro& s)
+{
+    f = dlgPpReal{.abierta = true, .MSFlexGridTablaPpReal = forms::NuevaGrilla(ReglasTabla)};
+    PonNombre(f, s, model::NombreTormenta(pp.lblMiFilePpReal));
+    // The storm that dlgPp shows may just have been deleted here.
+    if (f.FilePpReal.indice < 0) PonNombre(f, s, std::string(model::TormentaPorDefecto));
+    LlenaPasos(f, s);
+    EligeSegundoPaso(f);
+    PonSinFechas(f, SinFecha);
+    s.NroPpReal = 0;
+    optNroPpReal_Click(f, OpcionFijaNro);
+    Lee(f, s);
+}
+
+/// The storm becomes the one of dlgPp.
+void LlevaNombre(const dlgPpReal& f, dlgPp& pp)
+{
+    pp.tormenta.nombre = pp.lblMiFilePpReal = f.tormenta.nombre;
+    const auto& items = pp.FilePpReal.items;
+    const auto lugar = std::find(items.begin(), items.end(), f.tormenta.nombre);
+    if (lugar != items.end()) pp.FilePpReal.indice = static_cast<int>(lugar - items.begin());
+}
+
+void Aplica(dlgPpReal& f, dlgPp& pp, Siro& s)
+{
+    Asienta(f, s);
+    LlevaNombre(f, pp);
+    if (!f.Protegida) model::GuardaPpReal(s, f.tormenta);
+}
+
+}  // namespace
+
+// --- opening, activation, list ---
+
+void Abre(dlgPpReal& f, const dlgPp& pp, Siro& s)
+{
+    Evento(s, [&] { AbreForma(f, pp, s); });
+}
+
+void AlActivarse(dlgPpReal& f, dlgPp& pp, Siro& s)
+{
+    if (!pp.optformaPp[FormaReal]) optformaPp_Click(pp, s, FormaReal);
+    s.FormaPp = static_cast<std::int16_t>(FormaReal);
+    const auto& items = f.FilePpReal.items;
+    const auto lugar = std::find(items.begin(), items.end(), pp.lblMiFilePpReal);
+    if (lugar != items.end()) f.FilePpReal.indice = static_cast<int>(lugar - items.begin());
+    FilePpReal_Click(f, s);
+}
+
+void FilePpReal_Click(dlgPpReal& f, Siro& s)
+{
+    Evento(s, [&] {
+        if (f.FilePpReal.indice >= 0)
+            PonNombre(f, s, f.FilePpReal.items[static_cast<std::size_t>(f.FilePpReal.indice)]);
+        Lee(f, s);
+    });
+}
+
+void cmdNuevaPpReal(dlgPpReal& f, Siro& s)
+{
+    Escritura(f, s, [&] {
+        const std::string respuesta = s.Anfitrion.PideTexto(
+            {std::string(PideNombre), std::string(TituloNombre), model::NombreTormentaNueva(s)});
+        if (respuesta.empty()) return;
+        f.tormenta.nombre = model::ArchivoTormentaNueva(respuesta);
+        f.tormenta.Notas = NotasNuevas;
+        PonSinFechas(f, SinFecha);
+        EligeSegundoPaso(f);
+        PonNro(f, s, 0);
+        model::GuardaPpReal(s, f.tormenta);
+        PonNombre(f, s, f.tormenta.nombre);
+        Redibuja(f, s);
+    });
+}
+
+// --- fields ---
+
+bool controlMiFecha(std::string& texto)
+{
+    constexpr std::size_t SinBarras = 8;
+    constexpr std::size_t Largo = 10;
+    if (model::CuentaCaracteres(texto) == SinBarras && texto.size() == SinBarras)
+        texto = texto.substr(0, 2) + '/' + texto.substr(2, 2) + '/' + texto.substr(4);
+    if (texto.empty() || texto == "0" || texto == "00/00/0000") texto = SinFecha;
+    if (texto == FechaBorrada) return false;
+    if (texto.size() != Largo || texto[2] != '/' || texto[5] != '/') return true;
+    const double anno = Val(std::string_view(texto).substr(6));
+    return anno < 100 || anno > 2099 || !FechaDeTexto(texto);
+}
+
+bool controlMiHora(std::string& texto)
+{
+    constexpr std::size_t SinDosPuntos = 4;
+    constexpr std::size_t Largo = 5;
+    if (texto.size() == SinDosPuntos) texto.insert(2, 1, ':');
+    if (texto.empty() || texto == "0" || texto == "00/00" || texto == "24:00") texto = SinHora;
+    return texto.size() != Largo || texto[2] != ':' || !HoraDeTexto(texto);
+}
+
+namespace {
+
+/// Leaving a date or a time. `toma` goes on with one that is good and may still refuse it.
+template <typename Toma>
+bool AlSalirFecha(dlgPpReal& f, const Siro& s, std::string& texto, std::string_view control, Toma&& toma)
+{
+    const bool mala = controlMiFecha(texto);
+    if (mala) Advierte(s, std::string(FechaMala));
+    const bool pasa = !mala && Revisa(s, toma);
+    f.foco = pasa ? forms::Foco{} : forms::Foco{control, true};
+    return pasa;
+}
+
+template <typename Toma>
+bool AlSalirHora(dlgPpReal& f, const Siro& s, std::string& texto, std::string_view control, Toma&& toma)
+{
+    const bool mala = controlMiHora(texto);
+    if (mala) {
+        Advierte(s, std::string(HoraMala));
+        texto = SinHora;
+    }
+    const bool pasa = !mala && Revisa(s, toma);
+    f.foco = pasa ? forms::Foco{} : forms::Foco{control, true};
+    return pasa;
+}
+
+/// The table's times follow the start.
+bool TomaComienzo(dlgPpReal& f, Siro& s)
+{
+    Asienta(f, s);
+    Redibuja(f, s);
+    return true;
+}
+
+bool TomaFinal(dlgPpReal& f, Siro& s)
+{
+    Asienta(f, s);
+    if (!CalculaNro(f, s)) return false;
+    Redibuja(f, s);
+    return true;
+}
+
+}  // namespace
+
+bool txtDateI_AlSalir(dlgPpReal& f, Siro& s)
+{
+    return AlSalirFecha(f, s, f.tormenta.txtDateI, "txtDateI", [&] { return TomaComienzo(f, s); });
+}
+
+bool txtTimeI_AlSalir(dlgPpReal& f, Siro& s)
+{
+    return AlSalirHora(f, s, f.tormenta.txtTimeI, "txtTimeI", [&] { return TomaComienzo(f, s); });
+}
+
+bool txtDateF_AlSalir(dlgPpReal& f, Siro& s)
+{
+    return AlSalirFecha(f, s, f.tormenta.txtDateF, "txtDateF", [&] { return TomaFinal(f, s); });
+}
+
+bool txtTimeF_AlSalir(dlgPpReal& f, Siro& s)
+{
+    return AlSalirHora(f, s, f.tormenta.txtTimeF, "txtTimeF", [&] { return TomaFinal(f, s); });
+}
+
+bool txtNroPpReal_AlSalir(dlgPpReal& f, Siro& s)
+{
+    if (!forms::AlSalir(f, s, ReglaNroPpReal, f.txtNroPpReal)) return false;
+    Evento(s, [&] {
+        Asienta(f, s);
+        PonNro(f, s, model::Entero16(Val(f.txtNroPpReal)));
+        Redibuja(f, s);
+        CalculaFinal(f, s);
+    });
+    return true;
+}
+
+void cmbPasot_Click(dlgPpReal& f, Siro& s)
+{
+    Evento(s, [&] {
+        Asienta(f, s);
+        f.tormenta.PasoPpReal = model::Entero16(Val(f.cmbPasot.texto));
+        if (f.finalEditable)
+            CalculaNro(f, s);
+        else
+            CalculaFinal(f, s);
+        Redibuja(f, s);
+    });
+}
+
+void optNroPpReal_Click(dlgPpReal& f, std::size_t i)
+{
+    f.optNroPpReal = {i == OpcionFijaFinal, i == OpcionFijaNro};
+    f.finalEditable = i == OpcionFijaFinal;
+}
+
+// --- table and commands ---
+
+void AlAsentar(dlgPpReal& f, Siro& s, const forms::Efecto& efecto)
+{
+    Evento(s, [&] { TomaCeldas(f, s, efecto); });
+}
+
+PedidoHietograma cmdVerGrafico(dlgPpReal& f, Siro& s)
+{
+    Evento(s, [&] { Asienta(f, s); });
+    return {s.NroPpReal, f.tormenta.PasoPpReal, f.tormenta.Notas, s.PpTormenta, s.DurTormenta};
+}
+
+void cmdBorraTablaDisPer(dlgPpReal& f, const dlgPp& pp, Siro& s)
+{
+    Escritura(f, s, [&] {
+        PonNro(f, s, 0);
+        f.tormenta.Notas.clear();
+        PonSinFechas(f, FechaBorrada);
+        EligeSegundoPaso(f);
+        Redibuja(f, s);
+        const bool borra = s.Anfitrion.Pregunta(
+            {std::string(PreguntaBorrar1).append(f.tormenta.nombre).append(PreguntaBorrar2),
+             std::string(TituloBorrar), model::Icono::Pregunta});
+        if (borra) {
+            s.Disco.Borra(model::Ruta(s.DirProyecto, f.tormenta.nombre));
+            AbreForma(f, pp, s);
+        }
+        // After a deletion this writes the storm that the opening came to.
+        model::GuardaPpReal(s, f.tormenta);
+        LlenaLista(f, s);
+        Redibuja(f, s);
+    });
+}
+
+void cmdAplicar(dlgPpReal& f, dlgPp& pp, Siro& s)
+{
+    Escritura(f, s, [&] { Aplica(f, pp, s); });
+}
+
+void OKButton(dlgPpReal& f, dlgPp& pp, Siro& s)
+{
+    Escritura(f, s, [&] {
+        Aplica(f, pp, s);
+        model::GuardaPpReal(s, f.tormenta);
+        f.abierta = false;
+    });
+}
+
+void CancelButton(dlgPpReal& f)
+{
+    f.abierta = false;
+}
+
+void TomaImportada(dlgPpReal& f, Siro& s, const TormentaImportada& importada)
+{
+    Evento(s, [&] {
+        const auto n = static_cast<std::int16_t>(importada.laminas.size());
+        f.tormenta.Notas = importada.notas;
+        f.tormenta.PasoPpReal = importada.paso;
+        f.cmbPasot.texto = Texto(importada.paso);
+        f.tormenta.txtDateI = TextoFecha(importada.comienzo);
+        f.tormenta.txtTimeI = TextoHora(importada.comienzo);
+        PonNro(f, s, n);
+        for (int j = 1; j <= n; ++j)
+            s.PpReal(j) = importada.laminas[static_cast<std::size_t>(j) - 1];
+        CalculaFinal(f, s);
+        Redibuja(f, s);
+    });
+}
+
+forms::Grafico Vista(const dlgPpReal& f)
+{
+    return GraficoDeTabla(
+        f.MSFlexGridTablaPpReal,
+        {.columnaX = ColumnaMinutos, .columnaY = ColumnaParcial, .ejeX = "t [min]", .ejeY = "Pp [mm]"});
+}
+
+}  // namespace rainfall

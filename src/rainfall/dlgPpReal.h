@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "forms/CampoNumerico.h"
+#include "forms/Grafico.h"
+#include "forms/Grilla.h"
+#include "model/ArchivosTormenta.h"
+#include "model/Siro.h"
+#include "rainfall/ImportaTormenta.h"
+#include "rainfall/Leyendas.h"
+#include "rainfall/dlgPp.h"
+
+// Rules of the editor of recorded storms: depths at a constant step with their calendar time, a file each.
+// What it holds of a storm's depths are the run-wide PpReal and NroPpReal.
+namespace rainfall {
+
+inline constexpr std::string_view TituloDlgPpReal = "Edición de Tormentas Reales (Pp-t)";
+
+// clang-format off
+inline constexpr auto LeyendasDlgPpReal = std::to_array<Leyenda>({
+    {"FilePpReal",            "", "Pulse en el cuadro de lista para seleccionar otra tormenta "},
+    {"lblMiFilePpReal",       "Tormenta:"},
+    {"cmdNuevaPpReal",        "Agregar una  tormenta nueva"},
+    {"txtNotas",              "Notas:"},
+    {"txtDateI",              "Inicial:", "Formato dd/mm/aaaa  - Ingrese 0 ó nulo para \"01/01/1001\", se interpretará sin fecha válida"},
+    {"txtTimeI",              "", "Formato hh:mm"},
+    {"txtDateF",              "Final:", "Formato dd/mm/aaaa  "},
+    {"txtTimeF",              "", "Formato hh:mm"},
+    {"cmbPasot",              "Paso t [min]:", "Elija un paso de tiempo adecuado [minutos]"},
+    {"txtNroPpReal",          "Nro. de intervalos:"},
+    {"optNroPpReal_0",        "Opción de fijar fecha y hora final (calcula nro. intervalos...)"},
+    {"optNroPpReal_1",        "Opción fijar nro. intervalos (calcula fecha y hora final...)"},
+    {"MSFlexGridTablaPpReal", "Tormenta Pp[mm] - t [min]", "Cargue los datos de precipitación siguiendo el orden de entradas (columna 3)"},
+    {"cmdVerGrafico",         "Gráfico"},
+    {"cmdBorraTablaDisPer",   "Borrar Tabla"},
+    {"cmdImporta",            "Importar CSV...", "Toma fecha, hora y lámina de un registro de lluvia, como el de un pluviógrafo"},
+    {"cmdAplicar",            "&Aplicar"},
+    {"OKButton",              "Ce&rrar"},
+    {"CancelButton",          "&Cancelar"},
+});
+// clang-format on
+
+/// Items of cmbPasot at most.
+inline constexpr std::size_t MaxPasosTormenta = 16;
+
+/// Options of what follows from what.
+enum : std::size_t { OpcionFijaFinal = 0, OpcionFijaNro = 1 };
+
+struct dlgPpReal {
+    bool abierta = false;
+    model::TormentaReal tormenta{};  ///< file name, notes, step, dates and times
+    bool Protegida = false;          ///< one of the delivered storms
+    Lista FilePpReal{};
+    std::string lblMiFilePpReal{};
+    ListaConTexto cmbPasot{};  ///< its text may be a step of the file that no item has
+    std::string txtNroPpReal{};
+    std::array<bool, 2> optNroPpReal{};
+    bool finalEditable = false;  ///< the end is typed; otherwise the number of intervals is
+    forms::Grilla MSFlexGridTablaPpReal{};
+    forms::Foco foco{};
+};
+
+// Each command takes up first the cell that is still being typed. A fault in an event is told in a box and
+// ends it.
+
+/// Opening, on the storm that dlgPp shows, or on the default one.
+void Abre(dlgPpReal& f, const dlgPp& pp, model::Siro& s);
+
+/// The window becomes active: the form of the rain is that of real storms, and the storm that dlgPp shows is
+/// read again.
+void AlActivarse(dlgPpReal& f, dlgPp& pp, model::Siro& s);
+
+/// Reads the storm selected.
+void FilePpReal_Click(dlgPpReal& f, model::Siro& s);
+
+/// Asks for a name and makes a storm without intervals; a storm of that name is overwritten.
+void cmdNuevaPpReal(dlgPpReal& f, model::Siro& s);
+
+// Leaving a field. Returns false where the text is refused and the focus stays.
+bool txtDateI_AlSalir(dlgPpReal& f, model::Siro& s);
+bool txtTimeI_AlSalir(dlgPpReal& f, model::Siro& s);
+bool txtDateF_AlSalir(dlgPpReal& f, model::Siro& s);
+bool txtTimeF_AlSalir(dlgPpReal& f, model::Siro& s);
+bool txtNroPpReal_AlSalir(dlgPpReal& f, model::Siro& s);
+
+/// A step was picked; it is the list's text.
+void cmbPasot_Click(dlgPpReal& f, model::Siro& s);
+void optNroPpReal_Click(dlgPpReal& f, std::size_t i);
+
+/// Cells of the table have settled.
+void AlAsentar(dlgPpReal& f, model::Siro& s, const forms::Efecto& efecto);
+
+/// The chart of the table: blocks, step, notes, depth and duration.
+PedidoHietograma cmdVerGrafico(dlgPpReal& f, model::Siro& s);
+
+/// Empties the storm, deletes its file where the user says so, and writes the storm that is in hand then.
+void cmdBorraTablaDisPer(dlgPpReal& f, const dlgPp& pp, model::Siro& s);
+
+/// The storm becomes that of dlgPp, and is written unless it is protected.
+void cmdAplicar(dlgPpReal& f, dlgPp& pp, model::Siro& s);
+/// Applies, writes once more, protected or not, and closes: kept as it stands.
+void OKButton(dlgPpReal& f, dlgPp& pp, model::Siro& s);
+/// Nothing is written; the arrays keep what was typed.
+void CancelButton(dlgPpReal& f);
+
+/// An imported record takes the place of the storm's dates, step and depths. Nothing is written yet.
+void TomaImportada(dlgPpReal& f, model::Siro& s, const TormentaImportada& importada);
+
+/// Hyetograph of the table as it is typed.
+forms::Grafico Vista(const dlgPpReal& f);
+
+/// Returns true on a bad date. A date of eight digits gets its bars; no date is "01/01/1001".
+bool controlMiFecha(std::string& texto);
+/// Returns true on a bad time. A time of four digits gets its colon; no time is "00:00".
+bool controlMiHora(std::string& texto);
+
+}  // namespace rainfall

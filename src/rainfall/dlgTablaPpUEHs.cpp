@@ -1,0 +1,166 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "rainfall/dlgTablaPpUEHs.h"
+
+#include <algorithm>
+#include <cstdint>
+
+#include "forms/Evento.h"
+#include "model/Avisos.h"
+#include "model/Componentes.h"
+#include "model/Numeros.h"
+#include "model/Texto.h"
+#include "rainfall/VistaLluvia.h"
+
+namespace rainfall {
+
+using forms::Evento;
+using model::NumeroATexto;
+using model::Siro;
+
+namespace {
+
+constexpr int ColumnaNombre = 1;
+constexpr int ColumnaP = 2;
+constexpr auto Editables = std::to_array<int>({ColumnaP});
+constexpr forms::ReglasGrilla ReglasTabla{
+    .encabezado = "^Nro. UEH|>Nombre UEH      |> P[mm]         ", .editables = Editables, .columnasFijas = 1};
+
+constexpr std::string_view NoHayUEHs = "No existen UEHs cargadas, no hay un proyecto asociado";
+constexpr std::string_view SinDuracion =
+    "Si la Duración de la Tormenta es '0' se anularan los datos de Pp cargados";
+constexpr std::string_view SinRecurrencia =
+    "Si la Recurrencia 'R' de la Tormenta es '0' se interpreta como de Período de Retorno desconocido";
+
+// The limit that the message tells is neither field's: kept as it stands.
+constexpr std::string_view EnteroFueraDeLimites = "Ingrese un valor numérico entero entre 0 y 1440 ";
+constexpr forms::ReglaNumero ReglaD{.control = "txtDPpUEHs",
+                                    .unidad = "min",
+                                    .maximo = 2880,
+                                    .mensaje = EnteroFueraDeLimites,
+                                    .clase = forms::ClaseNumero::Entero};
+constexpr forms::ReglaNumero ReglaR{.control = "txtRPpUEHs",
+                                    .unidad = "años",
+                                    .maximo = 10000,
+                                    .mensaje = EnteroFueraDeLimites,
+                                    .clase = forms::ClaseNumero::Entero};
+
+bool AlSalirCorto(dlgTablaPpUEHs& f, const Siro& s, const forms::ReglaNumero& regla, std::string& texto)
+{
+    texto = model::PrimerosCaracteres(texto, LargoCampoPpUEHs);
+    return forms::AlSalir(f, s, regla, texto);
+}
+
+void LlenaTabla(dlgTablaPpUEHs& f, Siro& s)
+{
+    forms::Grilla& g = f.MSFlexGridPpUEHs;
+    const int n = s.ColUEHs.Cuenta();
+    forms::PonNroFilas(g, n);
+    for (int j = 1; j <= n; ++j) {
+        const auto ueh = std::find_if(s.ColUEHs.begin(), s.ColUEHs.end(),
+                                      [&](const model::UEH& u) { return u.numUEH == j; });
+        if (ueh == s.ColUEHs.end()) continue;
+        g.Pon({j, 0}, NumeroATexto(std::int32_t{ueh->numUEH}));
+        g.Pon({j, ColumnaNombre}, ueh->NombreUEH);
+        g.Pon({j, ColumnaP}, NumeroATexto(s.PpUEH(ueh->numUEH)));
+    }
+}
+
+/// Whether every depth is a number; the cursor goes to the first that is none.
+bool Numerica(dlgTablaPpUEHs& f)
+{
+    forms::Grilla& g = f.MSFlexGridPpUEHs;
+    for (int j = 1; j <= g.NroFilas(); ++j) {
+        if (g.EsNumero({j, ColumnaP})) continue;
+        forms::Mueve(g, {j, ColumnaP});
+        f.foco = {"MSFlexGridPpUEHs", false};
+        return false;
+    }
+    return true;
+}
+
+/// Duration, recurrence and the first depth above 0 become those of the storm in hand.
+void LlevaTormenta(const dlgTablaPpUEHs& f, dlgPp& pp, Siro& s)
+{
+    pp.txtDur = f.txtDPpUEHs;
+    pp.Estado(Control::txtDur).habilitado = false;
+    for (s.IndUEH = 1; s.IndUEH <= s.NroUEHs; ++s.IndUEH) {
+        if (!(s.PpUEH(s.IndUEH) > 0)) continue;
+        s.PpTormenta = s.PpUEH(s.IndUEH);
+        pp.txtPp = NumeroATexto(s.PpTormenta);
+        pp.Estado(Control::txtPp).habilitado = false;
+        break;
+    }
+    s.DurTormenta = model::Entero16(model::Val(f.txtDPpUEHs));
+    s.RecTormenta = model::Entero16(model::Val(f.txtRPpUEHs));
+    pp.cmbRec.texto = f.txtRPpUEHs;
+}
+
+void Aplica(dlgTablaPpUEHs& f, dlgPp& pp, Siro& s)
+{
+    forms::Deja(f.MSFlexGridPpUEHs);
+    f.foco = {};
+    if (model::Val(f.txtDPpUEHs) == 0) {
+        model::Advierte(s, std::string(SinDuracion), {});
+        f.foco.control = ReglaD.control;
+    }
+    if (model::Val(f.txtRPpUEHs) == 0) model::Advierte(s, std::string(SinRecurrencia), {});
+    if (!Numerica(f)) return;
+    for (int j = 1; j <= f.MSFlexGridPpUEHs.NroFilas(); ++j)
+        s.PpUEH(j) = model::Simple(f.MSFlexGridPpUEHs.Numero({j, ColumnaP}));
+    LlevaTormenta(f, pp, s);
+}
+
+}  // namespace
+
+void Abre(dlgTablaPpUEHs& f, Siro& s)
+{
+    Evento(s, [&] {
+        f.abierta = true;
+        f.foco = {};
+        f.MSFlexGridPpUEHs = forms::NuevaGrilla(ReglasTabla);
+        model::LeeUEHs(s);
+        if (s.ColUEHs.Cuenta() == 0) model::Advierte(s, std::string(NoHayUEHs), {});
+        LlenaTabla(f, s);
+    });
+}
+
+bool txtDPpUEHs_AlSalir(dlgTablaPpUEHs& f, const Siro& s)
+{
+    return AlSalirCorto(f, s, ReglaD, f.txtDPpUEHs);
+}
+
+bool txtRPpUEHs_AlSalir(dlgTablaPpUEHs& f, const Siro& s)
+{
+    return AlSalirCorto(f, s, ReglaR, f.txtRPpUEHs);
+}
+
+void cmdBorraTablaHQ(dlgTablaPpUEHs& f, const Siro& s)
+{
+    forms::PonNroFilas(f.MSFlexGridPpUEHs, s.ColUEHs.Cuenta());
+    forms::VaciaDatos(f.MSFlexGridPpUEHs);
+}
+
+void cmdAplicar(dlgTablaPpUEHs& f, dlgPp& pp, Siro& s)
+{
+    Evento(s, [&] { Aplica(f, pp, s); });
+}
+
+void OKButton(dlgTablaPpUEHs& f, dlgPp& pp, Siro& s)
+{
+    Evento(s, [&] { Aplica(f, pp, s); });
+    f.abierta = false;
+}
+
+void CancelButton(dlgTablaPpUEHs& f)
+{
+    f.abierta = false;
+}
+
+forms::Grafico Vista(const dlgTablaPpUEHs& f)
+{
+    return GraficoDeTabla(
+        f.MSFlexGridPpUEHs,
+        {.columnaX = ColumnaNombre, .columnaY = ColumnaP, .ejeX = "UEH", .ejeY = "Pp [mm]"});
+}
+
+}  // namespace rainfall

@@ -1,0 +1,330 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "rainfall/dlgTablasPDRs.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <optional>
+#include <span>
+#include <utility>
+
+#include "engine/modDistriPp.h"
+#include "forms/Evento.h"
+#include "model/ArchivosTormenta.h"
+#include "model/Avisos.h"
+#include "model/Numeros.h"
+
+namespace rainfall {
+
+using forms::Evento;
+using model::Entero16;
+using model::NumeroATexto;
+using model::Simple;
+using model::Siro;
+
+namespace {
+
+constexpr int UltimaFilaTablas = 4;  // of the arrays of the tables; none is kept in it
+constexpr double MaximaP = 9999;     // [mm]
+
+constexpr int ColumnaP = 1;
+constexpr int ColumnaD = 2;
+constexpr int ColumnaR = 3;
+constexpr auto Editables = std::to_array<int>({ColumnaP, ColumnaD, ColumnaR});
+constexpr forms::ReglasGrilla ReglasTabla{
+    .encabezado = "^Nro.  |> Pp [mm]  |>D [min]  |>R [años]  ", .editables = Editables, .columnasFijas = 1};
+
+constexpr std::string_view TituloInconsistentes = "Advertencia !!!";
+constexpr std::string_view Inconsistentes =  // it lacks durations that pass: kept as it stands
+    "Hay datos inconsistentes. Las filas de tormentas PDR deben ser crecientes en P, D y R. Las Duraciones: "
+    "5, 10, 15, 20, 30, 60, 90, 120, 180, 300, 360, 540, 720 ó 1440). Las Recurrrencias: 2, 5, 10, 20, 25, "
+    "40, 50, 100, 200, 500, 1000, 2000, 5000, 10000). Verifique";
+
+constexpr forms::ReglaNumero ReglaNroPDRs{.control = "txtNroPDRs",
+                                          .maximo = 999,
+                                          .mensaje = "Ingrese un valor numérico entero entre 0 y 999 ",
+                                          .clase = forms::ClaseNumero::Entero,
+                                          .caja = forms::CajaRechazo::Llana};
+
+std::string Texto(std::int16_t n)
+{
+    return NumeroATexto(std::int32_t{n});
+}
+
+std::size_t Ranura(const dlgTablasPDRs& f)
+{
+    return static_cast<std::size_t>(f.Tabla());
+}
+
+/// Room for n storms of any table.
+void Ensancha(Siro& s, int n)
+{
+    for (auto* tabla : {&s.TablasP, &s.TablasD, &s.TablasR}) {
+        if (tabla->TopeColumna() < 0)
+            tabla->Dimensiona(UltimaFilaTablas, n + 1);
+        else if (tabla->TopeColumna() < n + 1)
+            tabla->Redimensiona(n + 1);
+    }
+}
+
+void PonFilas(dlgTablasPDRs& f, std::int16_t n)
+{
+    forms::PonNroFilas(f.MSFlexGridTablaPDRs, n);
+    for (int j = 1; j <= n; ++j)
+        f.MSFlexGridTablaPDRs.Pon({j, 0}, NumeroATexto(j));
+}
+
+void MuestraTabla(dlgTablasPDRs& f, Siro& s)
+{
+    const std::int16_t n = s.NroFilasTabla[Ranura(f)];
+    f.editable = f.Tabla() != 0;
+    f.txtNotas = s.NotasPDR[Ranura(f)];
+    f.txtNroPDRs = Texto(n);
+    forms::Grilla& g = f.MSFlexGridTablaPDRs = forms::NuevaGrilla(ReglasTabla);
+    for (const int columna : Editables)
+        forms::PonEditable(g, columna, f.editable);
+    Ensancha(s, n);
+    PonFilas(f, n);
+    for (int j = 1; j <= n; ++j) {
+        g.Pon({j, ColumnaP}, Texto(s.TablasP(f.Tabla(), j)));
+        g.Pon({j, ColumnaD}, Texto(s.TablasD(f.Tabla(), j)));
+        g.Pon({j, ColumnaR}, Texto(s.TablasR(f.Tabla(), j)));
+    }
+}
+
+// --- apply ---
+
+/// What is wrong with a table so far.
+struct Revision {
+    bool error = false;
+    std::optional<forms::Celda> celda{};  ///< remembered last
+};
+
+/// Rows that the storms of the run are taken from.
+void CargaDefecto(const dlgTablasPDRs& f, Siro& s)
+{
+    const forms::Grilla& g = f.MSFlexGridTablaPDRs;
+    for (int j = 1; j <= s.NroSeriePDR; ++j) {
+        s.SerieP(j) = Simple(g.Numero({j, ColumnaP}));
+        s.SerieD(j) = Entero16(g.Numero({j, ColumnaD}));
+        s.SerieR(j) = Entero16(g.Numero({j, ColumnaR}));
+    }
+}
+
+void CargaP(const dlgTablasPDRs& f, Siro& s, Revision& revision)
+{
+    const forms::Grilla& g = f.MSFlexGridTablaPDRs;
+    for (int j = 1; j <= s.NroSeriePDR; ++j) {
+        const forms::Celda c{j, ColumnaP};
+        const double p = g.Numero(c);
+        if (!g.EsNumero(c) || p < 0 || p > MaximaP) revision = {true, c};
+        s.SerieP(j) = Simple(p);
+    }
+}
+
+/// Durations or recurrences: one of a list each. Only a cell that is no number is remembered.
+void CargaDeLista(const dlgTablasPDRs& f, int columna, std::span<const std::int16_t> validos,
+                  model::Arreglo<std::int16_t>& serie, Revision& revision)
+{
+    const forms::Grilla& g = f.MSFlexGridTablaPDRs;
+    for (int j = 1; j <= g.NroFilas(); ++j) {
+        const forms::Celda c{j, columna};
+        const double valor = g.Numero(c);
+        if (!g.EsNumero(c)) revision = {true, c};
+        if (std::none_of(validos.begin(), validos.end(), [&](std::int16_t v) { return v == valor; }))
+            revision.error = true;
+        serie(j) = Entero16(valor);
+    }
+}
+
+/// The table as it is kept: whole numbers, depths too.
+void GuardaEnTablas(const dlgTablasPDRs& f, Siro& s)
+{
+    const forms::Grilla& g = f.MSFlexGridTablaPDRs;
+    const int k = f.Tabla();
+    Ensancha(s, *std::max_element(s.NroFilasTabla.begin(), s.NroFilasTabla.end()));
+    for (int j = 1; j <= g.NroFilas(); ++j) {
+        s.TablasP(k, j) = Entero16(g.Numero({j, ColumnaP}));
+        s.TablasD(k, j) = Entero16(g.Numero({j, ColumnaD}));
+        s.TablasR(k, j) = Entero16(g.Numero({j, ColumnaR}));
+    }
+}
+
+/// Whether depths and durations don't fall among storms of one recurrence. A lower recurrence after a higher
+/// one is no fault: kept as it stands.
+bool Crece(const Siro& s, int k, int n)
+{
+    for (int j = 2; j <= n; ++j) {
+        if (s.TablasR(k, j) != s.TablasR(k, j - 1)) continue;
+        if (s.TablasP(k, j) < s.TablasP(k, j - 1) || s.TablasD(k, j) < s.TablasD(k, j - 1)) return false;
+    }
+    return true;
+}
+
+/// Loads and checks a personal table. Returns false where it is at fault.
+bool CargaPersonal(dlgTablasPDRs& f, Siro& s)
+{
+    Revision revision;
+    CargaP(f, s, revision);
+    CargaDeLista(f, ColumnaD, DuracionesPDR, s.SerieD, revision);
+    CargaDeLista(f, ColumnaR, RecurrenciasPDR, s.SerieR, revision);
+    GuardaEnTablas(f, s);
+    if (!Crece(s, f.Tabla(), f.MSFlexGridTablaPDRs.NroFilas())) revision.error = true;
+    if (!revision.error) return true;
+    model::Advierte(s, std::string(Inconsistentes), TituloInconsistentes);
+    if (revision.celda) forms::Mueve(f.MSFlexGridTablaPDRs, *revision.celda);
+    f.foco.control = "MSFlexGridTablaPDRs";
+    return false;
+}
+
+void LlevaPrimera(dlgPp& pp, Siro& s)
+{
+    pp.txtPp = NumeroATexto(s.SerieP(1));
+    pp.txtDur = Texto(s.SerieD(1));
+    pp.cmbRec.texto = Texto(s.SerieR(1));
+    s.PpTormenta = s.SerieP(1);
+    s.DurTormenta = s.SerieD(1);
+    s.RecTormenta = s.SerieR(1);
+}
+
+void Aplica(dlgTablasPDRs& f, dlgPp& pp, Siro& s)
+{
+    forms::Deja(f.MSFlexGridTablaPDRs);
+    const auto n = static_cast<std::int16_t>(f.MSFlexGridTablaPDRs.NroFilas());
+    s.NroSeriePDR = n;
+    s.SerieP.Dimensiona(n);
+    s.SerieD.Dimensiona(n);
+    s.SerieR.Dimensiona(n);
+    if (f.Tabla() == 0) {
+        CargaDefecto(f, s);
+    } else {
+        if (!CargaPersonal(f, s)) return;
+        model::GuardaTablaPDRs(s);
+    }
+    if (s.NroSeriePDR >= 1) LlevaPrimera(pp, s);
+}
+
+}  // namespace
+
+void Abre(dlgTablasPDRs& f, const dlgPp& pp, Siro& s)
+{
+    Evento(s, [&] {
+        f = dlgTablasPDRs{.abierta = true};
+        model::LeeTablaPDRs(s);
+        f.cmbNroTablaPDRs = {{"0", "1", "2", "3"}, 0};
+        for (std::size_t i = 0; i < pp.optTablaPDR.size(); ++i)
+            if (pp.optTablaPDR[i]) f.cmbNroTablaPDRs.indice = static_cast<int>(i);
+        MuestraTabla(f, s);
+    });
+}
+
+void cmbNroTablaPDRs_Click(dlgTablasPDRs& f, dlgPp& pp, Siro& s)
+{
+    optTablaPDR_Click(pp, Ranura(f));
+    Evento(s, [&] { MuestraTabla(f, s); });
+}
+
+void txtNotas_Change(const dlgTablasPDRs& f, Siro& s)
+{
+    if (f.editable) s.NotasPDR[Ranura(f)] = f.txtNotas;
+}
+
+bool txtNroPDRs_AlSalir(dlgTablasPDRs& f, Siro& s)
+{
+    if (!f.editable) return true;
+    if (!forms::AlSalir(f, s, ReglaNroPDRs, f.txtNroPDRs)) return false;
+    Evento(s, [&] {
+        const std::int16_t n = Entero16(model::Val(f.txtNroPDRs));
+        PonFilas(f, n);
+        s.NroFilasTabla[Ranura(f)] = n;
+        Ensancha(s, n);
+    });
+    return true;
+}
+
+void cmdBorraTablaDisPer(dlgTablasPDRs& f, Siro& s)
+{
+    if (!f.editable) return;
+    Evento(s, [&] {
+        s.NroFilasTabla[Ranura(f)] = 0;
+        s.NotasPDR[Ranura(f)].clear();
+        MuestraTabla(f, s);
+        model::GuardaTablaPDRs(s);
+    });
+}
+
+void cmdAplicar(dlgTablasPDRs& f, dlgPp& pp, Siro& s)
+{
+    Evento(s, [&] { Aplica(f, pp, s); });
+}
+
+void OKButton(dlgTablasPDRs& f, dlgPp& pp, Siro& s)
+{
+    Evento(s, [&] { Aplica(f, pp, s); });
+    f.abierta = false;
+}
+
+void CancelButton(dlgTablasPDRs& f)
+{
+    f.abierta = false;
+}
+
+// --- chart ---
+
+namespace {
+
+constexpr std::string_view EjeTiempo = "t [min]";
+constexpr std::string_view EjeLamina = "Pp [mm]";
+
+/// Builds the hyetograph of a storm in a state of its own, so that the one in use stays as it is.
+Siro Ensayo(const Siro& s, double p, double d)
+{
+    Siro ensayo;
+    ensayo.Disco = s.Disco;
+    ensayo.DirTrabajo = s.DirTrabajo;
+    ensayo.DirProyecto = s.DirProyecto;
+    ensayo.DistriPp = s.DistriPp;
+    ensayo.PasoPp = s.PasoPp;
+    ensayo.PpTormenta = Simple(p);
+    ensayo.DurTormenta = Entero16(d);
+    engine::ConstruyeHietograma(ensayo);
+    return ensayo;
+}
+
+forms::Grafico Hietograma(const Siro& ensayo)
+{
+    forms::Grafico grafico;
+    forms::Serie lluvia;
+    for (int j = 1; j <= ensayo.NroPpReal; ++j) {
+        grafico.categorias.push_back(
+            NumeroATexto(model::Redondea(1.0 * ensayo.DurTormenta * j / ensayo.NroPpReal, 1)));
+        lluvia.celdas.push_back(ensayo.PpReal(j));
+    }
+    grafico.series.push_back(std::move(lluvia));
+    return grafico;
+}
+
+}  // namespace
+
+forms::Grafico Vista(const dlgTablasPDRs& f, const Siro& s)
+{
+    forms::Grafico grafico;
+    const forms::Grilla& g = f.MSFlexGridTablaPDRs;
+    const int fila = g.actual.fila;
+    if (g.Esta({fila, ColumnaP})) {
+        const auto p = forms::NumeroDeCampo(g.Texto({fila, ColumnaP}));
+        const auto d = forms::NumeroDeCampo(g.Texto({fila, ColumnaD}));
+        const bool hay = p && d && *p > 0 && *d > 0;
+        // A number outside its type is told when the table is applied.
+        if (hay)
+            model::Sentencia([&] { grafico = Hietograma(Ensayo(s, *p, *d)); }, [](const model::Falla&) {});
+        if (hay)
+            grafico.titulo = "P= " + g.Texto({fila, ColumnaP}) + " mm   D= " + g.Texto({fila, ColumnaD}) +
+                             " min   R= " + g.Texto({fila, ColumnaR}) + " años";
+    }
+    if (grafico.series.empty()) grafico.series.emplace_back();
+    grafico.ejeX = EjeTiempo;
+    grafico.ejeY = EjeLamina;
+    return grafico;
+}
+
+}  // namespace rainfall
