@@ -94,6 +94,8 @@ void Escritorio::PonVentanas()
     ventanaHietograma = std::make_unique<results::dlgChart1_ventana>(entorno, hietograma);
     ventanaHidrograma = std::make_unique<results::dlgChart2_ventana>(entorno, hidrograma);
     ventanaAyuda = std::make_unique<Ayuda_ventana>(entorno);
+    ventanasEditor = std::make_unique<editor::VentanasDelEditor>(
+        entorno, [this](bool visible) { ventanaPrincipal->setVisible(visible); });
     ventanaPizarra = std::make_unique<results::frmPp_ventana>(entorno, pizarra);
     results::PonPizarra(s.Anfitrion, pizarra, *ventanaPizarra,
                         principal.Estado(Variable::mnuPizarra1).marcada,
@@ -147,6 +149,8 @@ void Escritorio::PonMandos()
 void Escritorio::Abre(Ventana ventana, bool /*espera*/)
 {
     switch (ventana) {
+    case Ventana::frmUEHs:
+        return ventanasEditor->AbreEditor();
     case Ventana::dlgEliminarProyecto:
         return dlgEliminarProyecto_ventana(entorno, eliminar, ventanaPrincipal.get()).Abre();
     case Ventana::frmAcerca:
@@ -175,6 +179,7 @@ void Escritorio::TodaviaNo() const
 void Escritorio::Cierra(Ventana ventana)
 {
     if (ventana == Ventana::frmPp) ventanaPizarra->close();
+    if (ventana == Ventana::frmUEHs) ventanasEditor->CierraEditor();
 }
 
 void Escritorio::Presenta(QWidget& ventana)

@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 
+#include "editor/VentanasDelEditor_ventana.h"
 #include "forms/Entorno_ventana.h"
 #include "model/Siro.h"
 #include "model/VidaProyecto.h"
@@ -73,6 +74,7 @@ class Escritorio {
     std::unique_ptr<results::dlgChart1_ventana> ventanaHietograma;
     std::unique_ptr<results::dlgChart2_ventana> ventanaHidrograma;
     std::unique_ptr<Ayuda_ventana> ventanaAyuda;
+    std::unique_ptr<editor::VentanasDelEditor> ventanasEditor;
 };
 
 }  // namespace shell

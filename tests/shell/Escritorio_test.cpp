@@ -188,6 +188,33 @@ TEST_F(EscritorioDePrueba, LoQueTodaviaNoEstaLoDice)
               (std::vector<model::Mensaje>{{"Esta ventana todavía no está disponible."}}));
 }
 
+TEST_F(EscritorioDePrueba, ElEditorDeLaRedTomaElLugarDeLaVentanaPrincipalYLoDevuelve)
+{
+    Arranca(instalacion.Quelmar());
+    QWidget* editor = nullptr;
+    for (QWidget* const w : QApplication::topLevelWidgets())
+        if (w->objectName() == QStringLiteral("frmUEHs")) editor = w;
+    ASSERT_NE(editor, nullptr);
+    Accion("mnufrmUEHs").trigger();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(editor));
+    EXPECT_FALSE(escritorio.Principal().isVisible());
+    EXPECT_GT(escritorio.s.ColUEHs.Cuenta(), 0);
+    editor->close();
+    EXPECT_FALSE(editor->isVisible());
+    EXPECT_TRUE(escritorio.Principal().isVisible());
+}
+
+TEST_F(EscritorioDePrueba, SinProyectoElEditorSeCierraYLaVentanaPrincipalVuelve)
+{
+    Arranca(instalacion.Quelmar());
+    Accion("mnufrmUEHs").trigger();
+    EXPECT_FALSE(escritorio.Principal().isVisible());
+    escritorio.s.NombreProyecto.clear();
+    Accion("mnufrmUEHs").trigger();
+    EXPECT_EQ(anfitrion->Avisos().back().titulo, TituloSinProyecto);
+    EXPECT_TRUE(escritorio.Principal().isVisible());
+}
+
 TEST_F(EscritorioDePrueba, UnaVentanaPedidaDesdeUnFormularioModalEsSuyaYSeCierraConEl)
 {
     Arranca();
