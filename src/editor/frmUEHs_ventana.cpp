@@ -75,6 +75,32 @@ std::optional<Tecla> Busca(const std::array<FilaTecla, N>& filas, int tecla)
     return {};
 }
 
+/// Keys of the toolbar; the canvas has its own.
+struct FilaAtajo {
+    Boton boton;
+    Qt::Key tecla;  ///< with Ctrl
+};
+
+constexpr auto Atajos = std::to_array<FilaAtajo>({
+    {Boton::Selecciona, Qt::Key_1},
+    {Boton::UEH, Qt::Key_2},
+    {Boton::Cauce, Qt::Key_3},
+    {Boton::Represa, Qt::Key_4},
+    {Boton::LAGO, Qt::Key_5},
+    {Boton::LongArea, Qt::Key_6},
+    {Boton::GuardaUEHs, Qt::Key_S},
+});
+
+void PonAtajo(QAction& accion, Boton boton)
+{
+    for (const FilaAtajo& fila : Atajos) {
+        if (fila.boton != boton) continue;
+        accion.setShortcut(QKeySequence(Qt::CTRL | fila.tecla));
+        accion.setToolTip(accion.text() + QStringLiteral(" (") +
+                          accion.shortcut().toString(QKeySequence::NativeText) + QLatin1Char(')'));
+    }
+}
+
 QIcon Icono(const QString& nombre)
 {
     RegistraIconosDelEditor();
@@ -170,6 +196,7 @@ QToolBar* frmUEHs_ventana::HazBarra()
         accion->setObjectName(clave);
         accion->setCheckable(true);
         accion->setVisible(!fila.ayuda.empty());
+        PonAtajo(*accion, fila.boton);
         connect(accion, &QAction::triggered, this, [this, boton = fila.boton] {
             Hace([this, boton] { ToolbarUEHs_ButtonClick(f, entorno.s, boton); });
         });

@@ -146,6 +146,18 @@ TEST_F(VentanaDelEditor, ColocaCadaClaseDondeSeHaceClic)
     EXPECT_EQ(s.ColLagos.Item(1).NombreLAGO, "l-Chico");
 }
 
+TEST_F(VentanaDelEditor, LosModosTienenTeclas)
+{
+    Abre("Vacio");
+    const std::vector<std::pair<Qt::Key, Boton>> teclas = {
+        {Qt::Key_2, Boton::UEH},  {Qt::Key_3, Boton::Cauce},    {Qt::Key_4, Boton::Represa},
+        {Qt::Key_5, Boton::LAGO}, {Qt::Key_6, Boton::LongArea}, {Qt::Key_1, Boton::Selecciona}};
+    for (const auto& [tecla, boton] : teclas) {
+        QTest::keyClick(&Canvas(), tecla, Qt::ControlModifier);
+        EXPECT_EQ(editor::Modo(f), boton);
+    }
+}
+
 TEST_F(VentanaDelEditor, DibujaUnCauceYLoTerminaConDobleClic)
 {
     Abre("Vacio");
