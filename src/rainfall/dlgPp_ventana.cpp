@@ -344,6 +344,8 @@ void dlgPp_ventana::Abre()
 {
     rainfall::Abre(f, entorno.s);
     Muestra();
+    for (QRadioButton* opcion : optformaPp)
+        if (opcion->isChecked()) opcion->setFocus();
     entorno.Ejecuta(*this);
 }
 

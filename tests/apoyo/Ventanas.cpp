@@ -44,6 +44,16 @@ void AlAvisarQt(QtMsgType clase, const QMessageLogContext& /*lugar*/, const QStr
     ADD_FAILURE() << "Qt: " << texto;
 }
 
+/// A test that ended the program leaves a toolkit in which no dialog waits any more: the next one begins
+/// anew.
+class EmpiezaDeNuevo : public testing::EmptyTestEventListener {
+    void OnTestEnd(const testing::TestInfo& /*prueba*/) override
+    {
+        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+        QApplication::exec();
+    }
+};
+
 }  // namespace
 
 bool Espera(const std::function<bool()>& vale)
@@ -82,8 +92,8 @@ void Pulsa(QWidget& control)
 {
     const QPoint medio = control.rect().center();
     // A box or an option hears clicks on itself and its caption alone, however wide its place is.
-    const bool conMarca = qobject_cast<QCheckBox*>(&control) != nullptr ||
-                          qobject_cast<QRadioButton*>(&control) != nullptr;
+    const bool conMarca =
+        qobject_cast<QCheckBox*>(&control) != nullptr || qobject_cast<QRadioButton*>(&control) != nullptr;
     QTest::mouseClick(&control, Qt::LeftButton, {}, conMarca ? QPoint(medio.y(), medio.y()) : medio);
 }
 
@@ -186,5 +196,6 @@ int main(int argc, char** argv)
     QApplication programa(argc, argv);
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     qInstallMessageHandler(apoyo::AlAvisarQt);
+    testing::UnitTest::GetInstance()->listeners().Append(new apoyo::EmpiezaDeNuevo);  // which owns it
     return RUN_ALL_TESTS();
 }

@@ -81,10 +81,13 @@ TEST_F(VentanaPp, LasLeyendasEstanEnterasYCaben)
     EXPECT_EQ(DeQ(C<QGroupBox>("Frame7").title()), "Lluvias Reales");
     for (const auto forma : std::to_array<std::int16_t>({0, 2, 4})) {
         Abre(forma);
-        for (const QWidget* w : v.findChildren<QWidget*>())
-            if (w->isVisible() && (qobject_cast<const QAbstractButton*>(w) != nullptr ||
-                                   qobject_cast<const QLabel*>(w) != nullptr))
+        for (const QWidget* w : v.findChildren<QWidget*>()) {
+            const bool conTexto = qobject_cast<const QAbstractButton*>(w) != nullptr ||
+                                  qobject_cast<const QLabel*>(w) != nullptr;
+            if (w->isVisible() && conTexto) {
                 EXPECT_GE(w->width(), w->sizeHint().width()) << DeQ(w->objectName());
+            }
+        }
     }
     EXPECT_LE(v.minimumSizeHint().width(), 1300);
     EXPECT_LE(v.minimumSizeHint().height(), 700);
@@ -432,6 +435,14 @@ TEST_F(VentanaPp, AbreEsModalYVuelveAlCerrarse)
     v.Abre();
     EXPECT_FALSE(v.isVisible());
     EXPECT_FALSE(f.abierta);
+
+    // Opened again it begins anew, and not on the button that closed it.
+    mundo.s.FormaPp = 2;
+    QTimer::singleShot(0, &v, [this] {
+        EXPECT_TRUE(Espera([&] { return C("optformaPp_2").hasFocus(); }));
+        QTest::keyClick(&C("optformaPp_2"), Qt::Key_Escape);
+    });
+    v.Abre();
 }
 
 TEST_F(VentanaPp, ElTabRecorreLaVentanaEnElOrdenDeLectura)

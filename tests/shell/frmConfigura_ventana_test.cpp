@@ -349,6 +349,7 @@ TEST_F(VentanaConfigura, DesdeElMenuEsModalTambienSiYaEstabaALaVista)
     Abre();
     EXPECT_FALSE(v.isModal());
     EXPECT_EQ(FichaActual(), 0);
+    EXPECT_TRUE(C<QTabWidget>("SSTab1").tabBar()->hasFocus());  // and not the button that closed it
 }
 
 }  // namespace
