@@ -345,8 +345,11 @@ void frmUEHs_ventana::Hace(Rutina&& rutina)
 void frmUEHs_ventana::Abre()
 {
     entorno.Atiende([this] {
-        const QSize pantalla = screen()->availableSize();
-        if (!isVisible()) resize(pantalla * 4 / 5);
+        const QRect pantalla = screen()->availableGeometry();
+        if (!isVisible()) {
+            resize(pantalla.size() * 4 / 5);
+            move(pantalla.center() - rect().center());
+        }
         editor::Abre(f, entorno.s, {pantalla.width(), pantalla.height()});
         show();
         raise();
