@@ -290,6 +290,8 @@ void Abre(dlgPp& f, Siro& s)
     f.abierta = true;
     // Enabled by the one form that uses it.
     f.Estado(Control::cmdCargaPDRnoUniforme).habilitado = false;
+    // Shown with a personal distribution only.
+    Pon(f, Validez, &EstadoControl::visible, false);
     LlenaListas(f, s);
     f.cmbRec.texto = Texto(s.RecTormenta);
     TomaPasos(f, s);

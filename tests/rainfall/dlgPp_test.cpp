@@ -283,6 +283,18 @@ INSTANTIATE_TEST_SUITE_P(
                    "cmdVerTablaPt optDistriPp",
                    "Frame2 Frame7 Label9_0", "Frame3 Frame4 Frame5 Label9_1"}));
 
+TEST_F(DialogoPp, AlAbrirLaValidezNoSeVeSinUnaPersonal)
+{
+    for (const auto forma : std::to_array<std::int16_t>({0, 1, 2, 3, 4})) {
+        s.FormaPp = forma;
+        s.DistriPp = 0;
+        Abre(f, s);
+        EXPECT_FALSE(f.Visible(Control::lblValidez)) << forma;
+        EXPECT_FALSE(f.Visible(Control::lblDurMin)) << forma;
+        EXPECT_FALSE(f.Visible(Control::lblDurMax)) << forma;
+    }
+}
+
 TEST_F(DialogoPp, LaCargaPorUEHSeHabilitaConSuForma)
 {
     Abre(f, s);
