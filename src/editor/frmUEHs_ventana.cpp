@@ -14,6 +14,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QSlider>
 #include <QSvgGenerator>
 #include <QToolBar>
@@ -130,11 +131,17 @@ QLabel* Rotulo(const char* nombre)
     return rotulo;
 }
 
-QPushButton* BotonDe(const char* nombre, const char* leyenda, const char* ayuda)
+/// `ventana`: where the key works.
+QPushButton* BotonDe(const char* nombre, const char* leyenda, const char* ayuda, const QKeySequence& tecla,
+                     QWidget* ventana)
 {
     auto* const boton = new QPushButton(QString::fromUtf8(leyenda));
     boton->setObjectName(QString::fromUtf8(nombre));
     boton->setToolTip(QString::fromUtf8(ayuda));
+    boton->setAccessibleDescription(tecla.toString(QKeySequence::NativeText));
+    // Not the button's own: it would lose it whenever its caption changes.
+    auto* const atajo = new QShortcut(tecla, ventana);
+    QObject::connect(atajo, &QShortcut::activated, boton, &QPushButton::click);
     boton->setFocusPolicy(Qt::TabFocus);  // a click leaves the keys to the canvas
     return boton;
 }
@@ -234,12 +241,15 @@ QToolBar* frmUEHs_ventana::HazBarra()
 
 QWidget* frmUEHs_ventana::HazMandos()
 {
-    cmdImagenUEHs = BotonDe("cmdImagenUEHs", "Imágen", "Cargar o Descargar la Imágen de fondo ");
+    cmdImagenUEHs = BotonDe("cmdImagenUEHs", "Imágen", "Cargar o Descargar la Imágen de fondo ",
+                            QKeySequence(Qt::CTRL | Qt::Key_I), this);
     // Its caption changes; its place doesn't.
     cmdImagenUEHs->setText(QStringLiteral("Mostrar Imágen"));
     cmdImagenUEHs->setMinimumWidth(cmdImagenUEHs->sizeHint().width());
-    cmdAnchoLineaDib = BotonDe("cmdAnchoLineaDib", "Espesor", "Modificar espesor de línea de dibujo");
-    cmdOrdenCauce = BotonDe("cmdOrdenCauce", "Orden Cauce", "Mostrar / No Mostrar Orden de Cauces");
+    cmdAnchoLineaDib = BotonDe("cmdAnchoLineaDib", "Espesor", "Modificar espesor de línea de dibujo",
+                               QKeySequence(Qt::CTRL | Qt::Key_E), this);
+    cmdOrdenCauce = BotonDe("cmdOrdenCauce", "Orden Cauce", "Mostrar / No Mostrar Orden de Cauces",
+                            QKeySequence(Qt::CTRL | Qt::Key_R), this);
     AlPulsar(*cmdImagenUEHs, [this] { cmdImagenUEHs_Click(f, entorno.s); });
     AlPulsar(*cmdAnchoLineaDib, [this] { cmdAnchoLineaDib_Click(f, entorno.s); });
     AlPulsar(*cmdOrdenCauce, [this] { cmdOrdenCauce_Click(f, entorno.s); });
