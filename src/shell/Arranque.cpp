@@ -94,7 +94,7 @@ void AlAbrirse(MDIForm1& f, Siro& s)
 std::string PreparaDirTrabajo(const Disco& disco, const std::string& dirEjecutable,
                               const std::string& dirUsuario, const std::string& dirEntregado)
 {
-    const std::string directorio = SePuedeEscribir(disco, dirEjecutable) ? dirEjecutable : dirUsuario;
+    std::string directorio = SePuedeEscribir(disco, dirEjecutable) ? dirEjecutable : dirUsuario;
     if (dirEntregado.empty() || Esta(disco, directorio, model::ArchivoPuntero)) return directorio;
     for (const std::string_view carpeta : CarpetasEntregadas) {
         if (carpeta.empty())

@@ -12,7 +12,7 @@ namespace shell {
 /// The delivered pages of help.
 class Ayuda_ventana : public forms::Ventana {
   public:
-    explicit Ayuda_ventana(forms::Entorno& entorno, QWidget* padre = nullptr);
+    explicit Ayuda_ventana(forms::Entorno& alrededor, QWidget* padre = nullptr);
     /// Opens the window, or brings it to the front, at a page.
     void Abre(const std::string& ruta);
     using forms::Ventana::Muestra;

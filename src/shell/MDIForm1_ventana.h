@@ -19,7 +19,7 @@ class RotuloProyecto;
 /// The main window: menu, toolbar, labels of the project, and the room where its other windows stand.
 class MDIForm1_ventana : public QMainWindow, protected forms::Sucesos {
   public:
-    MDIForm1_ventana(forms::Entorno& entorno, MDIForm1& reglas, const Mandos& mandos);
+    MDIForm1_ventana(forms::Entorno& alrededor, MDIForm1& reglas, const Mandos& unosMandos);
 
     /// Shows the window as it was left the last time; the record has been opened before.
     void Abre();

@@ -11,9 +11,9 @@ namespace shell {
 class RotuloProyecto : public QFrame {
   public:
     /// `crece` takes a place in 1/15 pixel from the label's corner; empty for a label that never grows.
-    RotuloProyecto(int renglones, std::function<bool(double x, double y)> crece, QWidget* padre);
+    RotuloProyecto(int unosRenglones, std::function<bool(double x, double y)> crece, QWidget* padre);
 
-    void PonTexto(const QString& texto);
+    void PonTexto(const QString& nuevo);
     [[nodiscard]] QString Texto() const { return texto; }
     [[nodiscard]] bool Crecido() const { return crecido; }
     [[nodiscard]] QSize sizeHint() const override;

@@ -12,8 +12,6 @@
 
 namespace shell {
 
-using forms::Q;
-
 namespace {
 
 constexpr int LetrasDeAncho = 60;

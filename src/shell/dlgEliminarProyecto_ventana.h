@@ -15,7 +15,7 @@ namespace shell {
 /// Choice of the project whose files are to be deleted.
 class dlgEliminarProyecto_ventana : public forms::Formulario {
   public:
-    dlgEliminarProyecto_ventana(forms::Entorno& entorno, model::dlgEliminarProyecto& reglas,
+    dlgEliminarProyecto_ventana(forms::Entorno& alrededor, model::dlgEliminarProyecto& reglas,
                                 QWidget* padre = nullptr);
     /// Shows the dialog until it is closed.
     void Abre();

@@ -10,7 +10,7 @@ namespace shell {
 /// The About box: product and version, and a button that opens the system's information tool.
 class frmAcerca_ventana : public forms::Formulario {
   public:
-    explicit frmAcerca_ventana(forms::Entorno& entorno, QWidget* padre = nullptr);
+    explicit frmAcerca_ventana(forms::Entorno& alrededor, QWidget* padre = nullptr);
     /// Shows the box until it is closed.
     void Abre();
     void Muestra() override {}

@@ -237,6 +237,38 @@ TEST_F(EscritorioDePrueba, UnaVentanaPedidaDesdeUnFormularioModalEsSuyaYSeCierra
     EXPECT_TRUE(escritorio.Principal().isAncestorOf(&grafico));
 }
 
+TEST_F(EscritorioDePrueba, ElHidrogramaSeAbreAlTerminarLaCorrida)
+{
+    Arranca(instalacion.Quelmar());
+    escritorio.s.PpTormenta = 80;
+    escritorio.s.DurTormenta = 120;
+    QTest::keyClick(&escritorio.Principal(), Qt::Key_F5);
+    EXPECT_TRUE(escritorio.hidrograma.abierta);
+    EXPECT_TRUE(Control<QWidget>(escritorio.Principal(), "dlgChart2").isVisible());
+}
+
+TEST_F(EscritorioDePrueba, ElEditorEscondeLaVentanaPrincipalMientrasEstaAbierto)
+{
+    Arranca(instalacion.Quelmar());
+    Accion("mnufrmUEHs").trigger();
+    ASSERT_TRUE(escritorio.red.abierta);
+    EXPECT_FALSE(escritorio.Principal().isVisible());
+    EXPECT_GT(escritorio.s.NroUEHs, 0);
+    for (QWidget* ventana : QApplication::topLevelWidgets())
+        if (ventana->objectName() == QStringLiteral("frmUEHs")) ventana->close();
+    EXPECT_TRUE(escritorio.Principal().isVisible());
+    EXPECT_FALSE(escritorio.entorno.Terminando());
+}
+
+TEST_F(EscritorioDePrueba, SinProyectoElEditorNoSeAbre)
+{
+    Arranca();
+    Accion("mnufrmUEHs").trigger();
+    EXPECT_FALSE(escritorio.red.abierta);
+    EXPECT_TRUE(escritorio.Principal().isVisible());
+    EXPECT_EQ(anfitrion->Avisos().size(), 1U);
+}
+
 TEST_F(EscritorioDePrueba, LaAyudaEntregadaSeAbreEntreLasVentanas)
 {
     Arranca();
