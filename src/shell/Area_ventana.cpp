@@ -5,6 +5,7 @@
 #include <QActionGroup>
 #include <QEvent>
 #include <QMenu>
+#include <algorithm>
 
 namespace shell {
 namespace {
@@ -46,6 +47,13 @@ QMdiSubWindow* Area::Hija(const QWidget& ventana) const
     return nullptr;
 }
 
+/// What the window asks for, and a good part of the room unless it has a size already.
+QSize Area::PrimerTamano(const QWidget& ventana) const
+{
+    const QSize pedido = ventana.testAttribute(Qt::WA_Resized) ? ventana.size() : viewport()->size() * 2 / 3;
+    return pedido.expandedTo(ventana.sizeHint()).boundedTo(viewport()->size());
+}
+
 void Area::Presenta(QWidget& ventana)
 {
     QMdiSubWindow* hija = Hija(ventana);
@@ -54,10 +62,16 @@ void Area::Presenta(QWidget& ventana)
         hija->setAttribute(Qt::WA_DeleteOnClose, false);  // its window belongs to someone else
         hija->setObjectName(QStringLiteral("marco_") + ventana.objectName());
         ventana.installEventFilter(this);
+        hija->resize(PrimerTamano(ventana));
     }
     ventana.show();
     if (hija->isMinimized() || hija->isShaded()) hija->showNormal();
     hija->show();
+    // Where it was left may be outside by now, and a new one is put beside the others though it doesn't fit.
+    const QPoint ultimo(viewport()->width() - hija->width(), viewport()->height() - hija->height());
+    if (!hija->isMaximized())
+        hija->move(std::clamp(hija->x(), 0, std::max(0, ultimo.x())),
+                   std::clamp(hija->y(), 0, std::max(0, ultimo.y())));
     setActiveSubWindow(hija);
 }
 

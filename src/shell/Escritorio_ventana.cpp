@@ -84,13 +84,8 @@ void Escritorio::PonVentanas()
 {
     ventanaPrincipal = std::make_unique<MDIForm1_ventana>(entorno, principal, mandos);
     ventanaAvance = std::make_unique<frmPp2_ventana>(avance, ventanaPrincipal.get());
-    ventanaLluvia = std::make_unique<rainfall::dlgPp_ventana>(entorno, lluvia, ventanaPrincipal.get());
-    ventanaLluvia->AbreHietograma = [this](const rainfall::PedidoHietograma& p) {
-        AbreHietograma({p.N, p.paso, p.titulo, p.P, p.D});
-    };
-    for (auto* const abre : {&ventanaLluvia->AbreDisPer, &ventanaLluvia->AbreTablasPDRs,
-                             &ventanaLluvia->AbrePpReal, &ventanaLluvia->AbrePpUEHs})
-        *abre = [this] { TodaviaNo(); };
+    ventanaConfigura = std::make_unique<frmConfigura_ventana>(entorno, configura, ventanaPrincipal.get());
+    PonLluvia();
     ventanaHietograma = std::make_unique<results::dlgChart1_ventana>(entorno, hietograma);
     ventanaHidrograma = std::make_unique<results::dlgChart2_ventana>(entorno, hidrograma);
     ventanaAyuda = std::make_unique<Ayuda_ventana>(entorno);
@@ -100,6 +95,17 @@ void Escritorio::PonVentanas()
     results::PonPizarra(s.Anfitrion, pizarra, *ventanaPizarra,
                         principal.Estado(Variable::mnuPizarra1).marcada,
                         [this] { ventanaPrincipal->Muestra(); });
+}
+
+void Escritorio::PonLluvia()
+{
+    ventanaLluvia = std::make_unique<rainfall::dlgPp_ventana>(entorno, lluvia, ventanaPrincipal.get());
+    ventanaLluvia->AbreHietograma = [this](const rainfall::PedidoHietograma& p) {
+        AbreHietograma({p.N, p.paso, p.titulo, p.P, p.D});
+    };
+    for (auto* const abre : {&ventanaLluvia->AbreDisPer, &ventanaLluvia->AbreTablasPDRs,
+                             &ventanaLluvia->AbrePpReal, &ventanaLluvia->AbrePpUEHs})
+        *abre = [this] { TodaviaNo(); };
 }
 
 void Escritorio::PonAvance()
@@ -146,7 +152,7 @@ void Escritorio::PonMandos()
     };
 }
 
-void Escritorio::Abre(Ventana ventana, bool /*espera*/)
+void Escritorio::Abre(Ventana ventana, bool espera)
 {
     switch (ventana) {
     case Ventana::frmUEHs:
@@ -155,6 +161,8 @@ void Escritorio::Abre(Ventana ventana, bool /*espera*/)
         return dlgEliminarProyecto_ventana(entorno, eliminar, ventanaPrincipal.get()).Abre();
     case Ventana::frmAcerca:
         return frmAcerca_ventana(entorno, ventanaPrincipal.get()).Abre();
+    case Ventana::frmConfigura:
+        return espera ? ventanaConfigura->Abre() : ventanaConfigura->AbreSinEsperar();
     case Ventana::dlgPp:
         return ventanaLluvia->Abre();
     case Ventana::frmPp:

@@ -20,6 +20,8 @@
 #include "shell/Ayuda_ventana.h"
 #include "shell/MDIForm1.h"
 #include "shell/MDIForm1_ventana.h"
+#include "shell/frmConfigura.h"
+#include "shell/frmConfigura_ventana.h"
 #include "shell/frmPp2.h"
 #include "shell/frmPp2_ventana.h"
 
@@ -47,6 +49,7 @@ class Escritorio {
     model::dlgEliminarProyecto eliminar{};
     rainfall::dlgPp lluvia{};
     results::frmPp pizarra{};
+    frmConfigura configura{};
     results::dlgChart1 hietograma{};
     results::dlgChart2 hidrograma{};
 
@@ -57,6 +60,7 @@ class Escritorio {
   private:
     void PonAnfitrion();
     void PonVentanas();
+    void PonLluvia();
     void PonAvance();
     void PonMandos();
     void AbreHietograma(const results::Hietograma& pedido);
@@ -69,6 +73,7 @@ class Escritorio {
     // The windows below the main one go first.
     std::unique_ptr<MDIForm1_ventana> ventanaPrincipal;
     std::unique_ptr<frmPp2_ventana> ventanaAvance;
+    std::unique_ptr<frmConfigura_ventana> ventanaConfigura;
     std::unique_ptr<rainfall::dlgPp_ventana> ventanaLluvia;
     std::unique_ptr<results::frmPp_ventana> ventanaPizarra;
     std::unique_ptr<results::dlgChart1_ventana> ventanaHietograma;

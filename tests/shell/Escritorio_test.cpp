@@ -73,6 +73,12 @@ struct EscritorioDePrueba : testing::Test {
     {
         return DeQ(Control<RotuloProyecto>(escritorio.Principal(), nombre).Texto());
     }
+    static QWidget* Editor()
+    {
+        for (QWidget* ventana : QApplication::topLevelWidgets())
+            if (ventana->objectName() == QStringLiteral("frmUEHs")) return ventana;
+        return nullptr;
+    }
     std::string BytesPuntero() const { return escritorio.s.Disco.Lee(instalacion.Dir() + "/VelmirDir.vlm"); }
 
     Instalacion instalacion{};
@@ -251,11 +257,11 @@ TEST_F(EscritorioDePrueba, ElEditorEscondeLaVentanaPrincipalMientrasEstaAbierto)
 {
     Arranca(instalacion.Quelmar());
     Accion("mnufrmUEHs").trigger();
-    ASSERT_TRUE(escritorio.red.abierta);
+    ASSERT_NE(Editor(), nullptr);
+    EXPECT_TRUE(Editor()->isVisible());
     EXPECT_FALSE(escritorio.Principal().isVisible());
     EXPECT_GT(escritorio.s.NroUEHs, 0);
-    for (QWidget* ventana : QApplication::topLevelWidgets())
-        if (ventana->objectName() == QStringLiteral("frmUEHs")) ventana->close();
+    Editor()->close();
     EXPECT_TRUE(escritorio.Principal().isVisible());
     EXPECT_FALSE(escritorio.entorno.Terminando());
 }
@@ -264,9 +270,33 @@ TEST_F(EscritorioDePrueba, SinProyectoElEditorNoSeAbre)
 {
     Arranca();
     Accion("mnufrmUEHs").trigger();
-    EXPECT_FALSE(escritorio.red.abierta);
+    EXPECT_FALSE(Editor()->isVisible());
     EXPECT_TRUE(escritorio.Principal().isVisible());
     EXPECT_EQ(anfitrion->Avisos().size(), 1U);
+}
+
+TEST_F(EscritorioDePrueba, LaConfiguracionDelMenuEsperaYDespuesRefrescaLosRotulos)
+{
+    Arranca(instalacion.Quelmar());
+    EXPECT_EQ(Rotulo("lblTitulo"), "");
+    apoyo::Usuario usuario;
+    usuario.Hace([](QWidget& caja) {
+        EXPECT_EQ(caja.objectName(), QStringLiteral("frmConfigura"));
+        caja.close();
+    });
+    Accion("mnuOpcionesConfigurar").trigger();
+    EXPECT_EQ(Rotulo("lblTitulo"), escritorio.s.frmConfigura.TextProyecto);
+    EXPECT_FALSE(Rotulo("lblTitulo").empty());
+}
+
+TEST_F(EscritorioDePrueba, LaConfiguracionDeLaBarraNoEsperaNiRefresca)
+{
+    Arranca(instalacion.Quelmar());
+    apoyo::Pulsa(Control<QToolButton>(escritorio.Principal(), "Configurar"));
+    auto& dialogo = Control<QDialog>(escritorio.Principal(), "frmConfigura");
+    EXPECT_TRUE(dialogo.isVisible());
+    EXPECT_FALSE(dialogo.isModal());
+    EXPECT_EQ(Rotulo("lblTitulo"), "");
 }
 
 TEST_F(EscritorioDePrueba, LaAyudaEntregadaSeAbreEntreLasVentanas)
