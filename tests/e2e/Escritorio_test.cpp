@@ -12,6 +12,9 @@
 #include "apoyo/Compara.h"
 #include "e2e/Pantalla.h"
 #include "e2e/Programa.h"
+#include "model/Componentes.h"
+#include "model/Siro.h"
+#include "model/TablasEmbalse.h"
 #include "model/Texto.h"
 
 namespace {
@@ -132,6 +135,136 @@ TEST_F(Escritorio, ElUltimoProyectoSeRecuerdaYSeOfreceEnElMenu)
     FijaTormenta("60", "60");            // refused without a project
     Termina();
     EXPECT_TRUE(BytesDeArchivo(dir + "/VelmirDir.vlm").ends_with("\"Quelmar\"\r\n"));
+}
+
+/// The graphic editor, with keys for its modes and clicks at points of its window.
+class EditorEnPantalla : public Escritorio {
+  protected:
+    void CreaProyecto(const char* nombre)
+    {
+        pantalla->Arranca(dir + "/siro");
+        pantalla->EsperaVentana(Principal);
+        pantalla->Teclas({"ctrl+n"});
+        pantalla->EsperaVentana("Proyecto Nuevo");
+        pantalla->Teclea(nombre);
+        pantalla->Teclas({"Return"});
+        pantalla->EsperaVentana(Principal);
+        pantalla->Teclas({"alt+o", "o"});  // its configuration: confirming it makes the project
+        Acepta("SIRO");
+        pantalla->EsperaVentana("Configurar");
+        pantalla->Teclas({"Return"});
+        Acepta("SIRO");
+        pantalla->EsperaVentana(Principal);
+    }
+    void Acepta(const char* titulo)
+    {
+        pantalla->EsperaVentana(titulo);
+        pantalla->Teclas({"Return"});
+    }
+    void Nombra(const char* titulo, const char* nombre)
+    {
+        pantalla->EsperaVentana(titulo);
+        pantalla->Teclea(nombre);
+        pantalla->Teclas({"Return"});
+        pantalla->EsperaVentana(Editor);
+    }
+    /// What the drawing doesn't say: properties of the UEHs and the reaches, tables of the dam.
+    void DaDatos(const char* nombre) const
+    {
+        model::Siro s;
+        s.NombreProyecto = nombre;
+        s.DirProyecto = s.DirProyectoConf = dir + "/Proyectos";
+        model::LeeUEHs(s);
+        for (model::UEH& u : s.ColUEHs) {
+            u.Area = 250;
+            u.LongitudMax = 900;
+            u.VelMedia = 0.5F;
+        }
+        for (model::Cauce& c : s.ColCauces) {
+            c.LongCauce = 1200;
+            c.VelMediaCauce = 1;
+        }
+        model::mnu_btn_toolbarGuardaUEHs(s);
+        s.RepresaFilasHAS.Dimensiona(1);
+        s.RepresaFilasHQ.Dimensiona(1);
+        s.RepresaFilasHAS(1) = s.RepresaFilasHQ(1) = 2;
+        s.RepresaH.Dimensiona(1, 2);
+        s.RepresaA.Dimensiona(1, 2);
+        s.RepresaS.Dimensiona(1, 2);
+        s.RepresaQH.Dimensiona(1, 2);
+        s.RepresaQQ.Dimensiona(1, 2);
+        s.RepresaH(1, 2) = s.RepresaQH(1, 2) = 20;
+        s.RepresaA(1, 2) = 80;
+        s.RepresaS(1, 2) = 8000000;
+        s.RepresaQQ(1, 2) = 150;
+        model::GuardaTablaHSVRepresa(s);
+        model::GuardaTablaHQRepresa(s);
+    }
+    void Coloca(const char* modo, int x, int y, const char* titulo, const char* nombre)
+    {
+        pantalla->Teclas({modo});
+        pantalla->Pulsa(x, y);
+        Nombra(titulo, nombre);
+    }
+    static constexpr const char* Editor = "Diagrama de Unidades Hidrológicas de Estudio y sus componentes";
+};
+
+TEST_F(EditorEnPantalla, UnaCuencaDibujadaDesdeUnProyectoVacioCorreConSiroLote)
+{
+    CreaProyecto("Arroyo");
+    pantalla->Teclas({"F3"});
+    pantalla->EsperaVentana(Editor);
+
+    // Two reaches, each from its mouth upwards; the dam between them; three hillsides.
+    pantalla->Teclas({"ctrl+3"});
+    pantalla->Pulsa(900, 420);
+    pantalla->Pulsa(700, 340);
+    pantalla->Teclas({"Return"});
+    Nombra("Agrega un nuevo Cauce", "Abajo");
+    pantalla->Pulsa(600, 300);
+    pantalla->Pulsa(350, 180);
+    pantalla->Teclas({"Return"});
+    Nombra("Agrega un nuevo Cauce", "Arriba");
+    Coloca("ctrl+4", 640, 320, "Agregar una Represa", "Grande");
+    Coloca("ctrl+2", 150, 120, "Agregar una UEH", "Norte");
+    Coloca("ctrl+2", 200, 300, "Agregar una UEH", "Oeste");
+    Coloca("ctrl+2", 850, 200, "Agregar una UEH", "Este");
+
+    // Links: a click on the reach, one on the other component, then the entry of the pop-up.
+    pantalla->Teclas({"ctrl+1"});
+    const auto acopla = [&](int xCauce, int yCauce, int xIcono, int yIcono, int entrada, bool pregunta) {
+        pantalla->Pulsa(xCauce, yCauce);
+        pantalla->Pulsa(xIcono + 8, yIcono + 4);
+        pantalla->Teclas({"F2"});
+        pantalla->Teclas(std::vector<std::string>(static_cast<std::size_t>(entrada), "Down"));
+        pantalla->Teclas({"Return"});
+        if (pregunta) Acepta("Consulta");
+        pantalla->EsperaVentana(Editor);
+    };
+    constexpr int UEHaCauce = 3, CauceARepresa = 3, RepresaACauce = 4;
+    acopla(350, 180, 150, 120, UEHaCauce, true);
+    acopla(350, 180, 200, 300, UEHaCauce, true);
+    acopla(700, 340, 850, 200, UEHaCauce, true);
+    acopla(700, 340, 640, 320, RepresaACauce, true);
+    acopla(350, 180, 640, 320, CauceARepresa, false);
+
+    pantalla->Teclas({"Escape"});
+    Acepta("Resguardo de datos de componentes UEHs");
+    Acepta("SIRO");  // what was saved, and where
+    pantalla->EsperaVentana(Principal);
+    Termina();
+    DaDatos("Arroyo");
+
+    const Salida salida = Lote({"una", dir + "/Proyectos/Arroyo_Conf.vlm", "--trabajo", dir, "--resultados",
+                                raiz + "/r.csv", "--pizarra"},
+                               "/");
+    EXPECT_EQ(salida.estado, 0) << salida.errores;
+    const std::string csv = BytesDeArchivo(raiz + "/r.csv");
+    for (const char* nombre : {"u-Norte,", "u-Oeste,", "u-Este,", "c-Arriba,", "r-Grande,", "c-Abajo,"})
+        EXPECT_NE(csv.find(std::string("\n") + nombre), std::string::npos) << nombre;
+    // Upstream to downstream.
+    EXPECT_LT(csv.find("\nc-Arriba,"), csv.find("\nr-Grande,"));
+    EXPECT_LT(csv.find("\nr-Grande,"), csv.find("\nc-Abajo,"));
 }
 
 }  // namespace
