@@ -19,8 +19,6 @@ namespace {
 
 using forms::DeQ;
 
-constexpr char SinPortada[] = "--sin-portada";
-
 /// What came with the program: beside it, or where an installation puts it; empty where there is none.
 QString DirEntregado(const QString& dirEjecutable)
 {
@@ -49,21 +47,11 @@ void PonAspecto(QApplication& programa, QTranslator& castellano)
         programa.installTranslator(&castellano);
 }
 
-struct Palabras {
-    double segundosPortada = SegundosPortada;
-    std::string archivoConf{};
-};
-
-Palabras LeePalabras(const QStringList& argumentos)
+/// The configuration file that the program was started on; empty where it was started on none.
+std::string ArchivoPedido(const QStringList& argumentos)
 {
-    Palabras palabras;
-    for (const QString& palabra : argumentos.mid(1)) {
-        if (palabra == QLatin1String(SinPortada))
-            palabras.segundosPortada = 0;
-        else
-            palabras.archivoConf = DeQ(QDir::toNativeSeparators(QFileInfo(palabra).absoluteFilePath()));
-    }
-    return palabras;
+    if (argumentos.size() < 2) return {};
+    return DeQ(QDir::toNativeSeparators(QFileInfo(argumentos.at(1)).absoluteFilePath()));
 }
 
 }  // namespace
@@ -80,8 +68,7 @@ int Programa(int& argc, char** argv)
     PonAspecto(programa, castellano);
 
     Escritorio escritorio(DirTrabajo());
-    const Palabras palabras = LeePalabras(QCoreApplication::arguments());
-    escritorio.Arranca(palabras.segundosPortada, palabras.archivoConf);
+    escritorio.Arranca(SegundosPortada, ArchivoPedido(QCoreApplication::arguments()));
     return escritorio.Atiende();
 }
 

@@ -4,7 +4,7 @@
 namespace shell {
 
 /// The program: style, language, its own directory, the desktop. Returns its exit status.
-/// Words: a configuration file to be opened, "--sin-portada" to start without the splash's wait.
+/// It takes no options; a configuration file that it is started on is opened.
 int Programa(int& argc, char** argv);
 
 }  // namespace shell
