@@ -193,6 +193,7 @@ TEST_F(Configuracion, CadaCampoLlegaASuControl)
     c.TexIMGEscala = "150";
     c.TexS = "nota";
     c.Optiona = c.Optionc = c.OptionHr = c.Optionm3 = true;
+    c.OptionMin = false;
     c.Optionb = c.OptionMin = c.OptionLt = false;
     c.TexIMGX0 = "12.5";
     c.TexIMGY0 = "-3";
@@ -696,6 +697,7 @@ TEST_F(Configuracion, AplicarEscribeLos59CamposDeLosControles)
     c.TexIMGEscala = "150";
     c.TexS = "nota";
     c.Optiona = c.Optionc = c.OptionHr = c.Optionm3 = true;
+    c.OptionMin = false;
     c.txtMaxUEHsPixel = "900";
     c.txtEscalaImagen = "2.5";
     c.CheckR = {1, 0, 1, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 1};
