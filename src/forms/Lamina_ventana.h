@@ -38,7 +38,7 @@ class Lamina : public QWidget {
     /// the events of the moment, so that several changes in a row cost one.
     void Muestra(const Grafico& nuevo);
     /// What is on show, as a reader of the screen gets it ahead of rows and peaks: component, storm.
-    void PonTema(std::string_view tema);
+    void PonTema(std::string_view nuevo);
 
     /// The text of the row under the pointer; none: no row.
     [[nodiscard]] std::string Lectura() const;
@@ -81,7 +81,7 @@ class Lamina : public QWidget {
     void Lee(std::size_t fila);
     void DejaDeLeer();
     void Describe();
-    void Guarda(std::string_view titulo, std::string_view filtro, std::string_view extension,
+    void Guarda(std::string_view pregunta, std::string_view filtro, std::string_view extension,
                 const std::function<std::string()>& bytes) const;
 
     Entorno& entorno;

@@ -5,7 +5,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <vector>
+#include <cstddef>
+#include <string>
+#include <utility>
 
 #include "forms/LecturaGrafico.h"
 #include "forms/Textos_ventana.h"
@@ -21,35 +23,51 @@ class RotulosDeCategorias : public QCPAxisTicker {
   public:
     RotulosDeCategorias(const QCPAxis& unEje, const Grafico& unGrafico) : eje(unEje), grafico(unGrafico) {}
 
-    void generate(const QCPRange& tramo, const QLocale& /*idioma*/, QChar /*formato*/, int /*decimales*/,
-                  QVector<double>& marcas, QVector<double>* submarcas, QVector<QString>* rotulos) override
+  protected:
+    double getTickStep(const QCPRange& tramo) override
     {
-        marcas.clear();
-        if (submarcas != nullptr) submarcas->clear();
-        if (rotulos != nullptr) rotulos->clear();
-        const auto filas = static_cast<double>(grafico.categorias.size());
-        const double desde = std::max(1.0, std::ceil(tramo.lower));
-        const double hasta = std::min(filas, std::floor(tramo.upper));
-        if (hasta < desde) return;
+        const auto [primera, ultima] = FilasEn(tramo);
+        return primera > ultima ? 1 : static_cast<double>(Paso(tramo, ultima - primera + 1));
+    }
 
-        const auto visibles = static_cast<std::size_t>(hasta - desde) + 1;
-        const std::size_t paso = Paso(tramo, visibles);
-        const auto primera = static_cast<std::size_t>(desde), ultima = static_cast<std::size_t>(hasta);
+    QVector<double> createTickVector(double cada, const QCPRange& tramo) override
+    {
+        enVista = tramo;
+        paso = static_cast<std::size_t>(cada);
+        QVector<double> marcas;
+        const auto [primera, ultima] = FilasEn(tramo);
         for (std::size_t i = (primera + paso - 1) / paso * paso; i <= ultima; i += paso)
-            Agrega(i, marcas, rotulos);
+            marcas.append(static_cast<double>(i));
         // A scale that is coarser than what is in sight still tells where one is.
-        if (marcas.isEmpty()) Agrega(primera, marcas, rotulos);
-        if (submarcas == nullptr) return;
-        const std::size_t cada = PasoDeMarcas(tramo);
+        if (marcas.isEmpty() && primera <= ultima) marcas.append(static_cast<double>(primera));
+        return marcas;
+    }
+
+    QVector<double> createSubTickVector(int /*cuantas*/, const QVector<double>& /*marcas*/) override
+    {
+        QVector<double> submarcas;
+        const auto [primera, ultima] = FilasEn(enVista);
+        const std::size_t cada = PasoDeMarcas(enVista);
         for (std::size_t i = primera; cada > 0 && i <= ultima; ++i)
-            if (i % cada == 0 && i % paso != 0) submarcas->append(static_cast<double>(i));
+            if (i % cada == 0 && i % paso != 0) submarcas.append(static_cast<double>(i));
+        return submarcas;
+    }
+
+    QString getTickLabel(double marca, const QLocale& /*idioma*/, QChar /*formato*/,
+                         int /*decimales*/) override
+    {
+        return Q(grafico.categorias[static_cast<std::size_t>(marca) - 1]);
     }
 
   private:
-    void Agrega(std::size_t fila, QVector<double>& marcas, QVector<QString>* rotulos) const
+    /// First and last row in sight, from 1; the first behind the last where there is none.
+    [[nodiscard]] std::pair<std::size_t, std::size_t> FilasEn(const QCPRange& tramo) const
     {
-        marcas.append(static_cast<double>(fila));
-        if (rotulos != nullptr) rotulos->append(Q(grafico.categorias[fila - 1]));
+        const auto filas = static_cast<double>(grafico.categorias.size());
+        const double primera = std::max(1.0, std::ceil(tramo.lower));
+        const double ultima = std::min(filas, std::floor(tramo.upper));
+        if (ultima < primera) return {1, 0};
+        return {static_cast<std::size_t>(primera), static_cast<std::size_t>(ultima)};
     }
 
     /// Length of the axis. The surface's size is new by now, the frame's is still that of the last painting.
@@ -90,6 +108,8 @@ class RotulosDeCategorias : public QCPAxisTicker {
 
     const QCPAxis& eje;
     const Grafico& grafico;
+    QCPRange enVista{};
+    std::size_t paso = 1;
 };
 
 class RotulosHasta : public QCPAxisTicker {

@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// From the command to the painted hydrograph, and from the move of a slider to its chart.
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QSlider>
+#include <QStyleFactory>
+#include <filesystem>
+#include <memory>
+#include <stdexcept>
+#include <string>
+
+#include "ProyectoLimite.h"
+#include "engine/modProceso0.h"
+#include "forms/Entorno_ventana.h"
+#include "model/VidaProyecto.h"
+#include "results/dlgChart2_ventana.h"
+#include "results/frmPp_ventana.h"
+
+namespace {
+
+using model::Siro;
+namespace fs = std::filesystem;
+
+void Exige(bool cumple, const char* que)
+{
+    if (!cumple) throw std::runtime_error(que);
+}
+
+/// A copy of the delivered data in a directory that goes with the object.
+class Muestra {
+  public:
+    Muestra() : dir(fs::temp_directory_path() / "siro-banco-ventanas")
+    {
+        fs::remove_all(dir);
+        fs::copy(SIRO_DATA_DIR, dir, fs::copy_options::recursive);
+    }
+    ~Muestra()
+    {
+        std::error_code error;
+        fs::remove_all(dir, error);
+    }
+    Muestra(const Muestra&) = delete;
+    Muestra& operator=(const Muestra&) = delete;
+
+    /// Its project open, 80 mm in 120 min in hand.
+    [[nodiscard]] Siro Abierta() const
+    {
+        Siro s;
+        s.DirTrabajo = s.DirEjecutable = dir.string();
+        model::AbreProyectoDe(s, (dir / "Proyectos" / "Quelmar_Conf.vlm").string());
+        s.PpTormenta = 80;
+        s.DurTormenta = 120;
+        s.DistriPp = 2;
+        s.PasoPp = 10;
+        s.PasoQ = 5;
+        return s;
+    }
+
+  private:
+    fs::path dir;
+};
+
+/// The windows over a project, as the desktop has them.
+struct Escritorio {
+    Escritorio(Siro estado, bool conPizarra) : s(std::move(estado)), marca(conPizarra)
+    {
+        results::PonPizarra(s.Anfitrion, pizarra, ventanaPizarra, marca);
+        hidrogramas.resize(1000, 620);
+    }
+    /// Run, chart, paint.
+    void Corre()
+    {
+        Exige(engine::CorreUnaTormenta(s), "a check ended the run");
+        hidrogramas.Abre();
+        Pinta();
+    }
+    static void Pinta()
+    {
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+    }
+
+    Siro s;
+    bool marca;
+    forms::Entorno entorno{s};
+    results::frmPp pizarra{};
+    results::frmPp_ventana ventanaPizarra{entorno, pizarra};
+    results::dlgChart2 f{};
+    results::dlgChart2_ventana hidrogramas{entorno, f};
+};
+
+void Corrida(benchmark::State& estado, const Siro& proyecto)
+{
+    Escritorio escritorio(proyecto, estado.range(0) != 0);
+    for (auto _ : estado)
+        escritorio.Corre();
+}
+
+void MovimientoDe(benchmark::State& estado, const Siro& proyecto)
+{
+    Escritorio escritorio(proyecto, estado.range(0) != 0);
+    escritorio.Corre();
+    auto& deslizador = *escritorio.hidrogramas.findChild<QSlider*>(QStringLiteral("sldPp"));
+    int paso = 1;
+    for (auto _ : estado) {
+        const int valor = deslizador.value() + paso;
+        paso = -paso;
+        deslizador.setValue(valor);
+        while (escritorio.f.sldPp.valor != valor)
+            QCoreApplication::processEvents();
+        Escritorio::Pinta();
+    }
+}
+
+// From the click to the painted hydrograph of the sample project. Argument: Slate on.
+void CorridaDeMuestra(benchmark::State& estado)
+{
+    const Muestra muestra;
+    Corrida(estado, muestra.Abierta());
+}
+BENCHMARK(CorridaDeMuestra)->ArgName("pizarra")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+
+// A slider's move on it.
+void Movimiento(benchmark::State& estado)
+{
+    const Muestra muestra;
+    MovimientoDe(estado, muestra.Abierta());
+}
+BENCHMARK(Movimiento)->ArgName("pizarra")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+
+// The same on the network at the limits, a storm of 24 h.
+void CorridaDeLimite(benchmark::State& estado)
+{
+    const bench::ProyectoTemporal proyecto;
+    Corrida(estado, bench::ProyectoAbierto(proyecto.Dir()));
+}
+BENCHMARK(CorridaDeLimite)->ArgName("pizarra")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+
+void MovimientoDeLimite(benchmark::State& estado)
+{
+    const bench::ProyectoTemporal proyecto;
+    MovimientoDe(estado, bench::ProyectoAbierto(proyecto.Dir()));
+}
+BENCHMARK(MovimientoDeLimite)->ArgName("pizarra")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication programa(argc, argv);
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
