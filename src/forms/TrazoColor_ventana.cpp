@@ -114,7 +114,7 @@ void Trazo::ColoreaEje(QCPAxis& eje) const
     eje.setTickPen(pluma);
     eje.setSubTickPen(pluma);
     eje.setTickLength(0, LargoDeMarca);
-    eje.setSubTickLength(0, 0);
+    eje.setSubTicks(&eje == plano.xAxis);
     eje.setTickLabelColor(tinta.texto);
     eje.setLabelColor(tinta.texto);
     eje.setLabelPadding(compacto ? 2 : 6);
