@@ -129,8 +129,8 @@ void Trazo::PonFajaDeLeyenda()
     faja->addElement(0, 1, leyenda);
     faja->addElement(0, 2, new QCPLayoutElement(&plano));
     faja->setColumnStretchFactor(1, LoMenos);
-    constexpr int EntreSeries = 24;
-    leyenda->setColumnSpacing(EntreSeries);
+    const int entreSeries = compacto ? 10 : 24;
+    leyenda->setColumnSpacing(entreSeries);
 }
 
 void Trazo::Pon(const Grafico& nuevo)
