@@ -5,12 +5,13 @@
 
 namespace rainfall {
 
-/// A control of a form by its object name, its caption (of a field: that of the label beside it) and the hint
-/// shown under the pointer.
+/// A control of a form by its object name, its caption (of a field: that of the label beside it), the hint
+/// shown under the pointer, and what a reader of the screen says where that is neither of them.
 struct Leyenda {
     std::string_view nombre;
     std::string_view leyenda;
     std::string_view ayuda = {};
+    std::string_view lector = {};
 };
 
 /// The row of a control; an empty one where the table has none.

@@ -30,6 +30,7 @@ inline constexpr auto LeyendasDlgDisPpPer = std::to_array<Leyenda>({
     {"cmbDurMin",           "Duración Mínima:"},
     {"cmbDurMax",           "Duración Máxima:"},
     {"MSFlexGridDisPerso",  "Ppción. parcial  P[%], en período t [%], (Duración D=100%)"},
+    {"laminaDisPpPer",      "Hietograma de la tabla"},
     {"cmdBorraTablaDisPer", "Borrar Tabla"},
     {"cmdAplicar",          "&Aplicar"},
     {"OKButton",            "Ce&rrar"},

@@ -24,6 +24,7 @@ inline constexpr auto LeyendasDlgImportaTormenta = std::to_array<Leyenda>({
     {"cmbPaso",           "&Paso t [min]:", "Cada lámina se reparte por igual desde la lectura anterior; el total se conserva"},
     {"lblResultado",      "Resultado:"},
     {"grillaImportada",   "Vista previa: tormenta Pp[mm] - t [min]"},
+    {"laminaImportada",   "Hietograma de la vista previa"},
     {"OKButton",          "&Importar"},
     {"CancelButton",      "&Cancelar"},
 });

@@ -23,9 +23,6 @@ inline constexpr std::string_view TituloDlgPp = "Carga de Datos de Precipitació
 inline constexpr std::string_view MarcoFormas = "Forma de ingreso de la lluvia";
 inline constexpr std::string_view MarcoPasos = "Pasos de tiempo";
 
-/// What a button says whose window nobody opens.
-inline constexpr std::string_view VentanaNoDisponible = "Esta ventana todavía no está disponible.";
-
 /// Controls of the dialog. An indexed control that is enabled as a whole is one of them.
 enum class Control : std::uint8_t {
     optformaPp,

@@ -23,14 +23,14 @@ inline constexpr std::string_view TituloDlgPpReal = "Edición de Tormentas Reale
 
 // clang-format off
 inline constexpr auto LeyendasDlgPpReal = std::to_array<Leyenda>({
-    {"FilePpReal",            "", "Pulse en el cuadro de lista para seleccionar otra tormenta "},
+    {"FilePpReal",            "", "Pulse en el cuadro de lista para seleccionar otra tormenta ", "Archivos de tormentas"},
     {"lblMiFilePpReal",       "Tormenta:"},
     {"cmdNuevaPpReal",        "Agregar una  tormenta nueva"},
     {"txtNotas",              "Notas:"},
     {"txtDateI",              "Inicial:", "Formato dd/mm/aaaa  - Ingrese 0 ó nulo para \"01/01/1001\", se interpretará sin fecha válida"},
-    {"txtTimeI",              "", "Formato hh:mm"},
+    {"txtTimeI",              "", "Formato hh:mm", "Hora inicial"},
     {"txtDateF",              "Final:", "Formato dd/mm/aaaa  "},
-    {"txtTimeF",              "", "Formato hh:mm"},
+    {"txtTimeF",              "", "Formato hh:mm", "Hora final"},
     {"cmbPasot",              "Paso t [min]:", "Elija un paso de tiempo adecuado [minutos]"},
     {"txtNroPpReal",          "Nro. de intervalos:"},
     {"optNroPpReal_0",        "Opción de fijar fecha y hora final (calcula nro. intervalos...)"},
@@ -38,6 +38,7 @@ inline constexpr auto LeyendasDlgPpReal = std::to_array<Leyenda>({
     {"MSFlexGridTablaPpReal", "Tormenta Pp[mm] - t [min]", "Cargue los datos de precipitación siguiendo el orden de entradas (columna 3)"},
     {"cmdVerGrafico",         "Gráfico"},
     {"cmdBorraTablaDisPer",   "Borrar Tabla"},
+    {"laminaPpReal",          "Hietograma de la tabla"},
     {"cmdImporta",            "Importar CSV...", "Toma fecha, hora y lámina de un registro de lluvia, como el de un pluviógrafo"},
     {"cmdAplicar",            "&Aplicar"},
     {"OKButton",              "Ce&rrar"},

@@ -10,11 +10,15 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
+#include <type_traits>
 #include <utility>
 
 #include "forms/Lista_ventana.h"
 #include "forms/Textos_ventana.h"
-#include "model/Avisos.h"
+#include "rainfall/dlgDisPpPer_ventana.h"
+#include "rainfall/dlgPpReal_ventana.h"
+#include "rainfall/dlgTablaPpUEHs_ventana.h"
+#include "rainfall/dlgTablasPDRs_ventana.h"
 
 namespace rainfall {
 
@@ -44,8 +48,7 @@ dlgPp_ventana::dlgPp_ventana(forms::Entorno& alrededor, dlgPp& registro, QWidget
     : Formulario(alrededor, "dlgPp", padre), f(registro)
 {
     setWindowTitle(Q(TituloDlgPp));
-    const auto noEsta = [this] { model::Informa(entorno.s, std::string(VentanaNoDisponible)); };
-    AbreDisPer = AbreTablasPDRs = AbrePpReal = AbrePpUEHs = noEsta;
+    ConectaVentanas();
 
     // Made in reading order, which is the order of the Tab key.
     auto* const pila = new QVBoxLayout(this);
@@ -74,6 +77,29 @@ dlgPp_ventana::dlgPp_ventana(forms::Entorno& alrededor, dlgPp& registro, QWidget
         rainfall::AlActivarse(f, entorno.s);
         Muestra();
     });
+}
+
+dlgPp_ventana::~dlgPp_ventana() = default;
+
+void dlgPp_ventana::ConectaVentanas()
+{
+    const auto conecta = [this](std::function<void()>& abre, auto& ventana, auto& registro) {
+        abre = [this, &ventana, &registro] {
+            using Ventana = typename std::remove_reference_t<decltype(ventana)>::element_type;
+            if (!ventana) ventana = std::make_unique<Ventana>(entorno, registro, f, this);
+            ventana->Abre();
+        };
+    };
+    conecta(AbreDisPer, ventanaDisPer, disPer);
+    conecta(AbreTablasPDRs, ventanaTablasPDRs, tablasPDRs);
+    conecta(AbrePpUEHs, ventanaPpUEHs, ppUEHs);
+    AbrePpReal = [this] {
+        if (!ventanaPpReal) {
+            ventanaPpReal = std::make_unique<dlgPpReal_ventana>(entorno, ppReal, f, this);
+            ventanaPpReal->AbreHietograma = [this](const PedidoHietograma& p) { AbreHietograma(p); };
+        }
+        ventanaPpReal->Abre();
+    };
 }
 
 QWidget* dlgPp_ventana::MarcoDeFormas()

@@ -3,11 +3,16 @@
 
 #include <array>
 #include <functional>
+#include <memory>
 #include <string_view>
 #include <vector>
 
 #include "forms/Formulario_ventana.h"
+#include "rainfall/dlgDisPpPer.h"
 #include "rainfall/dlgPp.h"
+#include "rainfall/dlgPpReal.h"
+#include "rainfall/dlgTablaPpUEHs.h"
+#include "rainfall/dlgTablasPDRs.h"
 
 class QComboBox;
 class QGridLayout;
@@ -24,18 +29,25 @@ class ListaParaElegir;
 
 namespace rainfall {
 
+class dlgDisPpPer_ventana;
+class dlgPpReal_ventana;
+class dlgTablaPpUEHs_ventana;
+class dlgTablasPDRs_ventana;
+
 /// The storm dialog. The record outlives it and serves as its hidden instance.
 class dlgPp_ventana : public forms::Formulario {
   public:
     dlgPp_ventana(forms::Entorno& alrededor, dlgPp& registro, QWidget* padre = nullptr);
+    ~dlgPp_ventana() override;
 
     /// Opens the form and shows it until it is closed. Runs inside an event. Throws FinDelPrograma where the
     /// program was ended meanwhile.
     void Abre();
     void Muestra() override;
 
-    /// What the shell opens for the form. Each of the last four returns once its window is closed.
+    /// What the shell opens for the form.
     std::function<void(const PedidoHietograma&)> AbreHietograma = [](const PedidoHietograma&) {};
+    /// The forms opened from here. Each returns once its window is closed.
     std::function<void()> AbreDisPer;      ///< personal distributions
     std::function<void()> AbreTablasPDRs;  ///< P-D-R tables
     std::function<void()> AbrePpReal;      ///< real storms
@@ -65,6 +77,7 @@ class dlgPp_ventana : public forms::Formulario {
     void Opciones(Control control, const std::array<std::string_view, N>& leyendas,
                   std::array<QRadioButton*, N>& opciones, QWidget& padre);
     void AlPulsarOpciones();
+    void ConectaVentanas();
     void AbreOtra(const std::function<void()>& abre);
     /// The control is shown as the record tells of `control`.
     template <typename T>
@@ -76,6 +89,16 @@ class dlgPp_ventana : public forms::Formulario {
     };
 
     dlgPp& f;
+    // The forms opened from here and their windows, each made at its first use.
+    dlgDisPpPer disPer{};
+    dlgTablasPDRs tablasPDRs{};
+    dlgPpReal ppReal{};
+    dlgTablaPpUEHs ppUEHs{};
+    std::unique_ptr<dlgDisPpPer_ventana> ventanaDisPer;
+    std::unique_ptr<dlgTablasPDRs_ventana> ventanaTablasPDRs;
+    std::unique_ptr<dlgPpReal_ventana> ventanaPpReal;
+    std::unique_ptr<dlgTablaPpUEHs_ventana> ventanaPpUEHs;
+
     std::vector<Mostrado> mostrados{};
     std::array<QRadioButton*, FormasPp.size()> optformaPp{};
     std::array<QRadioButton*, DistribucionesPp.size()> optDistriPp{};

@@ -25,6 +25,7 @@ inline constexpr auto LeyendasDlgTablaPpUEHs = std::to_array<Leyenda>({
     {"txtRPpUEHs",       "Recurrencia [años]:"},
     {"MSFlexGridPpUEHs", "Datos de Precipitación P[mm], Duración D[min] y Recurrencia R[años] ",
      "Ingresar los datos tabulados para la función de descarga en la forma H[m]-Q[m3/s]"},  // kept as it stands
+    {"laminaPpUEHs",     "Precipitación de cada UEH"},
     {"cmdBorraTablaHQ",  "Borrar Tabla"},
     {"cmdAplicar",       "&Aplicar"},
     {"OKButton",         "Ce&rrar"},

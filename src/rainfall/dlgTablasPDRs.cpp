@@ -322,7 +322,9 @@ forms::Grafico Vista(const dlgTablasPDRs& f, const Siro& s)
                              " min   R= " + g.Texto({fila, ColumnaR}) + " años";
     }
     if (grafico.series.empty()) grafico.series.emplace_back();
-    grafico.ejeX = EjeTiempo;
+    // Beside a table a chart shows no title.
+    grafico.ejeX = grafico.titulo.empty() ? std::string(EjeTiempo)
+                                          : std::string(EjeTiempo).append("   -   ").append(grafico.titulo);
     grafico.ejeY = EjeLamina;
     return grafico;
 }

@@ -27,6 +27,7 @@ inline constexpr auto LeyendasDlgTablasPDRs = std::to_array<Leyenda>({
     {"txtNotas",            "Observaciones / Notas:"},
     {"lblNotas",            "Observaciones / Notas:"},
     {"MSFlexGridTablaPDRs", "Precipitación  P[mm], Duración D[min], Recurrencia R[años]", "Cargue los datos siguiendo en forma ordenada y creciente segun el ejemplo de la Tabla '0'"},
+    {"laminaTablasPDRs",    "Hietograma de la tormenta de la fila"},
     {"cmdBorraTablaDisPer", "Borrar Tabla"},
     {"MarcoNotas",          "Notas:"},
     {"cmdAplicar",          "&Aplicar"},

@@ -30,7 +30,6 @@ using Ctrl = rainfall::Control;
 
 const Mensaje PpFueraDeLimites = {"Ingrese un valor numérico, entero o decimal, entre 0 y 999",
                                   "Advertencia !", Icono::Exclamacion};
-const Mensaje NoDisponible = {"Esta ventana todavía no está disponible.", "", Icono::Ninguno};
 
 class VentanaPp : public testing::Test {
   protected:
@@ -323,22 +322,29 @@ TEST_F(VentanaPp, ElGraficoSePideConLaTormentaEscrita)
     EXPECT_TRUE(v.isVisible());
 }
 
-TEST_F(VentanaPp, LasVentanasQueFaltanLoDicenYLasQueEstanSeAbren)
+TEST_F(VentanaPp, CadaBotonAbreSuVentana)
 {
     Abre();
+    std::vector<std::string> abiertas;
+    apoyo::Usuario usuario;
+    for (int i = 0; i < 4; ++i)
+        usuario.Hace([&](QWidget& ventana) {
+            abiertas.push_back(DeQ(ventana.objectName()));
+            Pulsa(Control<QPushButton>(ventana, "CancelButton"));
+        });
     Pulsa(C<QRadioButton>("optDistriPp_5"));
     Pulsa(C<QPushButton>("cmdPpPerso"));
-    EXPECT_EQ(Avisos(), std::vector<Mensaje>{NoDisponible});
     Pulsa(C<QRadioButton>("optformaPp_3"));
     Pulsa(C<QPushButton>("cmdCargaPDRnoUniforme"));
-    EXPECT_EQ(Avisos().size(), 2U);
     Pulsa(C<QRadioButton>("optformaPp_2"));
     Pulsa(C<QRadioButton>("optTablaPDR_1"));
     Pulsa(C<QPushButton>("cmdTablaPDR"));
-    EXPECT_EQ(Avisos().size(), 3U);
     Pulsa(C<QRadioButton>("optformaPp_4"));
     Pulsa(C<QPushButton>("cmdPpReal"));
-    EXPECT_EQ(Avisos(), (std::vector<Mensaje>(4, NoDisponible)));
+    EXPECT_EQ(abiertas,
+              (std::vector<std::string>{"dlgDisPpPer", "dlgTablaPpUEHs", "dlgTablasPDRs", "dlgPpReal"}));
+    EXPECT_EQ(Avisos(), (std::vector<Mensaje>{{"No existen UEHs cargadas, no hay un proyecto asociado", "",
+                                               Icono::Exclamacion}}));
 }
 
 TEST_F(VentanaPp, LoQueOtraVentanaPoneEnLosCamposQueda)

@@ -392,6 +392,7 @@ TEST_F(DialogoTablasPDRs, LaVistaEsElHietogramaDeLaFilaDelCursor)
     forms::Mueve(G(), {2, 1});  // 40 mm in 90 min
     const forms::Grafico vista = Vista(f, s);
     EXPECT_EQ(vista.titulo, "P= 40 mm   D= 90 min   R= 5 años");
+    EXPECT_EQ(vista.ejeX, "t [min]   -   P= 40 mm   D= 90 min   R= 5 años");
     EXPECT_EQ(vista.categorias, (Textos{"18", "36", "54", "72", "90"}));
     ASSERT_EQ(vista.series.at(0).celdas.size(), 5U);
     EXPECT_FLOAT_EQ(static_cast<float>(vista.series[0].celdas[0]), 13.6F);

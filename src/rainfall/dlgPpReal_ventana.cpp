@@ -1,0 +1,196 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "rainfall/dlgPpReal_ventana.h"
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+#include <string>
+
+#include "forms/Textos_ventana.h"
+#include "rainfall/dlgImportaTormenta_ventana.h"
+
+namespace rainfall {
+
+using forms::Pon;
+using forms::Q;
+
+dlgPpReal_ventana::dlgPpReal_ventana(forms::Entorno& alrededor, dlgPpReal& registro, dlgPp& tormenta,
+                                     QWidget* padre)
+    : Formulario(alrededor, "dlgPpReal", padre), f(registro), pp(tormenta)
+{
+    setWindowTitle(Q(TituloDlgPpReal));
+    // Made in reading order, which is the order of the Tab key.
+    auto* const pila = new QVBoxLayout(this);
+    auto* const arriba = new QHBoxLayout;
+    arriba->addLayout(Archivos(), 1);
+    arriba->addLayout(Datos(), 1);
+    pila->addLayout(arriba);
+
+    tabla = new forms::TablaGrilla(entorno, f.MSFlexGridTablaPpReal, "MSFlexGridTablaPpReal",
+                                   piezas.De("MSFlexGridTablaPpReal").leyenda);
+    tabla->AlCambiar = [this](const forms::Efecto& efecto) {
+        AlAsentar(f, entorno.s, efecto);
+        Muestra();
+    };
+    lamina = new forms::Lamina(entorno, "laminaPpReal", piezas.De("laminaPpReal").leyenda,
+                               forms::Lamina::Modo::Compacta);
+    pila->addWidget(piezas.TablaConLamina(*tabla, *lamina), 1);
+    pila->addLayout(Botones());
+
+    entorno.AlActivarse(*this, [this] {
+        rainfall::AlActivarse(f, pp, entorno.s);
+        Muestra();
+    });
+}
+
+QLayout* dlgPpReal_ventana::Archivos()
+{
+    auto* const grilla = new QGridLayout;
+    lblMiFilePpReal = piezas.Texto("lblMiFilePpReal");
+    lblMiFilePpReal->setWordWrap(false);
+    QFont negrita = lblMiFilePpReal->font();
+    negrita.setBold(true);
+    lblMiFilePpReal->setFont(negrita);
+    FilePpReal = new forms::ListaParaElegir(this);
+    piezas.Nombra(*FilePpReal, "FilePpReal");
+    FilePpReal->AlElegir = [this](int i) {
+        Suceso([this, i] {
+            f.FilePpReal.indice = i;
+            FilePpReal_Click(f, entorno.s);
+        });
+    };
+    grilla->addWidget(piezas.Rotulo("lblMiFilePpReal", *FilePpReal), 0, 0);
+    grilla->addWidget(lblMiFilePpReal, 0, 1);
+    grilla->addWidget(FilePpReal, 1, 0, 1, 2);
+    grilla->setColumnStretch(1, 1);
+
+    auto* const fila = new QHBoxLayout;
+    QPushButton* const nueva = piezas.Boton("cmdNuevaPpReal");
+    AlPulsar(*nueva, [this] { cmdNuevaPpReal(f, entorno.s); });
+    cmdImporta = piezas.Boton("cmdImporta");
+    AlPulsar(*cmdImporta, [this] { Importa(); });
+    fila->addWidget(nueva);
+    fila->addWidget(cmdImporta);
+    fila->addStretch(1);
+    grilla->addLayout(fila, 2, 0, 1, 2);
+    return grilla;
+}
+
+QLayout* dlgPpReal_ventana::Datos()
+{
+    auto* const grilla = new QGridLayout;
+    const auto campo = [this](std::string_view nombre, std::string& texto) {
+        QLineEdit* const linea = piezas.Campo(nombre);
+        forms::Refleja(*linea, texto);
+        return linea;
+    };
+    const auto revisado = [this, &campo](std::string_view nombre, std::string& texto,
+                                         bool (*alSalir)(dlgPpReal&, model::Siro&)) {
+        QLineEdit* const linea = campo(nombre, texto);
+        campos.Agrega(*linea, [this, alSalir] { return alSalir(f, entorno.s); });
+        return linea;
+    };
+    const auto renglon = [&](int fila, std::string_view nombre, QWidget* control, QWidget* otro = nullptr) {
+        grilla->addWidget(piezas.Rotulo(nombre, *control), fila, 0);
+        grilla->addWidget(control, fila, 1, 1, otro == nullptr ? 2 : 1);
+        if (otro != nullptr) grilla->addWidget(otro, fila, 2);
+    };
+    txtNotas = campo("txtNotas", f.tormenta.Notas);
+    txtDateI = revisado("txtDateI", f.tormenta.txtDateI, txtDateI_AlSalir);
+    txtTimeI = revisado("txtTimeI", f.tormenta.txtTimeI, txtTimeI_AlSalir);
+    optNroPpReal = {piezas.Opcion("optNroPpReal_0"), piezas.Opcion("optNroPpReal_1")};
+    for (std::size_t i = 0; i < optNroPpReal.size(); ++i)
+        AlPulsar(*optNroPpReal[i], [this, i] { optNroPpReal_Click(f, i); });
+    txtDateF = revisado("txtDateF", f.tormenta.txtDateF, txtDateF_AlSalir);
+    txtTimeF = revisado("txtTimeF", f.tormenta.txtTimeF, txtTimeF_AlSalir);
+    cmbPasot = piezas.Lista("cmbPasot", true);
+    cmbPasot->lineEdit()->setReadOnly(true);
+    connect(cmbPasot, &QComboBox::activated, this, [this](int i) {
+        Suceso([this, i] {
+            f.cmbPasot.texto = f.cmbPasot.items[static_cast<std::size_t>(i)];
+            cmbPasot_Click(f, entorno.s);
+        });
+    });
+    txtNroPpReal = revisado("txtNroPpReal", f.txtNroPpReal, txtNroPpReal_AlSalir);
+    renglon(0, "txtNotas", txtNotas);
+    renglon(1, "txtDateI", txtDateI, txtTimeI);
+    grilla->addWidget(optNroPpReal[0], 2, 0, 1, 3);
+    grilla->addWidget(optNroPpReal[1], 3, 0, 1, 3);
+    renglon(4, "txtDateF", txtDateF, txtTimeF);
+    renglon(5, "cmbPasot", cmbPasot);
+    renglon(6, "txtNroPpReal", txtNroPpReal);
+    grilla->setRowStretch(7, 1);
+    return grilla;
+}
+
+QLayout* dlgPpReal_ventana::Botones()
+{
+    auto* const fila = new QHBoxLayout;
+    const auto boton = [&](std::string_view nombre, auto rutina) {
+        QPushButton* const b = piezas.Boton(nombre);
+        AlPulsar(*b, rutina);
+        fila->addWidget(b);
+    };
+    boton("cmdVerGrafico", [this] { AbreHietograma(cmdVerGrafico(f, entorno.s)); });
+    boton("cmdBorraTablaDisPer", [this] { cmdBorraTablaDisPer(f, pp, entorno.s); });
+    fila->addStretch(1);
+    boton("cmdAplicar", [this] { cmdAplicar(f, pp, entorno.s); });
+    boton("OKButton", [this] { OKButton(f, pp, entorno.s); });
+    QPushButton* const cancela = piezas.Boton("CancelButton");
+    connect(cancela, &QPushButton::clicked, this, [this] { reject(); });
+    fila->addWidget(cancela);
+    return fila;
+}
+
+void dlgPpReal_ventana::Importa()
+{
+    dlgImportaTormenta importa;
+    if (!rainfall::Abre(importa, entorno.s)) return;
+    dlgImportaTormenta_ventana ventana(entorno, importa, this);
+    ventana.Abre();
+    if (importa.aceptada) TomaImportada(f, entorno.s, importa.tormenta);
+}
+
+void dlgPpReal_ventana::Abre()
+{
+    rainfall::Abre(f, pp, entorno.s);
+    Muestra();
+    Acomoda(*this, *tabla);
+    entorno.Ejecuta(*this);
+}
+
+void dlgPpReal_ventana::AlCerrar()
+{
+    CancelButton(f);
+    Muestra();
+}
+
+void dlgPpReal_ventana::Muestra()
+{
+    Pon(*FilePpReal, f.FilePpReal.items, f.FilePpReal.indice);
+    Pon(*lblMiFilePpReal, f.lblMiFilePpReal);
+    Pon(*txtNotas, f.tormenta.Notas);
+    Pon(*txtDateI, f.tormenta.txtDateI);
+    Pon(*txtTimeI, f.tormenta.txtTimeI);
+    Pon(*txtDateF, f.tormenta.txtDateF);
+    Pon(*txtTimeF, f.tormenta.txtTimeF);
+    Pon(*cmbPasot, f.cmbPasot.items, f.cmbPasot.texto);
+    Pon(*txtNroPpReal, f.txtNroPpReal);
+    forms::PonOpciones(optNroPpReal, f.optNroPpReal);
+    for (QLineEdit* campo : {txtDateF, txtTimeF})
+        campo->setEnabled(f.finalEditable);
+    txtNroPpReal->setEnabled(!f.finalEditable);
+    cmdImporta->setEnabled(!f.Protegida);
+    tabla->Muestra();
+    lamina->Muestra(Vista(f));
+    LlevaFoco(*this, f.foco);
+    if (!f.abierta && isVisible()) done(QDialog::Accepted);
+}
+
+}  // namespace rainfall
