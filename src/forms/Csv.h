@@ -6,6 +6,9 @@
 
 namespace forms {
 
+/// Tells a spreadsheet that a file is UTF-8.
+inline constexpr std::string_view MarcaUtf8 = "\xEF\xBB\xBF";
+
 /// A text as a field of a file of fields parted by commas: in quotes, its own quotes doubled.
 inline std::string CampoCsv(std::string_view texto)
 {

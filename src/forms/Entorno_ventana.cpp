@@ -3,6 +3,11 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMessageBox>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QWindow>
@@ -43,6 +48,23 @@ QWidget* VentanaDe(const QWindow* ventana)
     return nullptr;
 }
 
+/// The one at the front of the windows that stand in a window; without any, it itself.
+QWidget* AlFrente(QWidget* ventana)
+{
+    const auto* const area = ventana == nullptr ? nullptr : ventana->findChild<QMdiArea*>();
+    const QMdiSubWindow* const hija = area == nullptr ? nullptr : area->currentSubWindow();
+    const bool aLaVista = hija != nullptr && hija->isVisible() && hija->widget() != nullptr;
+    return aLaVista ? hija->widget() : ventana;
+}
+
+/// A box belongs to the window that was active before it, whatever window it stands over.
+bool EsCaja(const QWidget& ventana)
+{
+    return qobject_cast<const QMessageBox*>(&ventana) != nullptr ||
+           qobject_cast<const QFileDialog*>(&ventana) != nullptr ||
+           qobject_cast<const QInputDialog*>(&ventana) != nullptr;
+}
+
 }  // namespace
 
 Entorno::Entorno(model::Siro& estadoSiro)
@@ -52,7 +74,7 @@ Entorno::Entorno(model::Siro& estadoSiro)
       ajustes(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("SIRO"), QStringLiteral("siro"))
 {
     connect(qApp, &QGuiApplication::focusWindowChanged, this,
-            [this](QWindow* ventana) { CambioDeVentana(VentanaDe(ventana)); });
+            [this](QWindow* ventana) { CambioDeVentana(AlFrente(VentanaDe(ventana))); });
 }
 
 int Entorno::Ejecuta(QDialog& dialogo)
@@ -80,9 +102,18 @@ void Entorno::AlActivarse(QWidget& ventana, std::function<void()> rutina)
     vigiladas.push_back({&ventana, std::move(rutina)});
 }
 
+void Entorno::VigilaHijas(QMdiArea& area)
+{
+    connect(&area, &QMdiArea::subWindowActivated, this, [this, &area](const QMdiSubWindow* hija) {
+        if (hija != nullptr && QApplication::activeWindow() == area.window())
+            CambioDeVentana(AlFrente(area.window()));
+    });
+}
+
 void Entorno::CambioDeVentana(QWidget* activa)
 {
     if (activa == nullptr || activa->windowType() == Qt::Popup || activa->windowType() == Qt::ToolTip) return;
+    if (EsCaja(*activa)) return;
     const bool deLoSuyo = std::find(ultima.begin(), ultima.end(), activa) != ultima.end();
     const bool hayAnterior = !ultima.empty();
     ultima.clear();

@@ -12,6 +12,7 @@
 #include "model/Siro.h"
 
 class QDialog;
+class QMdiArea;
 class QPrinter;
 class QWidget;
 
@@ -61,6 +62,10 @@ class Entorno : public QObject {
     /// Runs a routine whenever the window becomes active coming from another window of this program that
     /// isn't its own box or child. Coming from another program is no activation.
     void AlActivarse(QWidget& ventana, std::function<void()> rutina);
+
+    /// The windows that stand in this room become active too: the one at the front, whenever the room's own
+    /// window is active.
+    void VigilaHijas(QMdiArea& area);
 
     /// What is remembered from one session to the next.
     QSettings& Ajustes() { return ajustes; }

@@ -5,7 +5,6 @@
 #include <numeric>
 #include <optional>
 
-#include "forms/Csv.h"
 #include "model/Falla.h"
 #include "model/Numeros.h"
 #include "model/Texto.h"
@@ -125,8 +124,7 @@ void AgregaTotales(TablaQDR& t, Siro& s)
         });
 }
 
-// --- order
-// -----------------------------------------------------------------------------------------------
+// --- order ---------------------------------------------------------------------------------------------
 
 bool SeOrdena(ClaseFila clase)
 {
@@ -197,32 +195,6 @@ void Llena(TablaQDR& t, const Siro& s, Cuerpo&& cuerpo)
     Ordena(t);
 }
 
-// --- text
-// ------------------------------------------------------------------------------------------------
-
-/// Writes the table: titles as one field each, headings, rows with a result. The first field of a line is a
-/// text, the others are numbers.
-template <typename Campo>
-std::string Escribe(const TablaQDR& t, char separador, Campo&& campo)
-{
-    std::string texto, cuerpo;
-    for (const std::size_t i : t.mostradas) {
-        const FilaQDR& fila = t.filas[i];
-        if (fila.clase == ClaseFila::Titulo)
-            texto.append(campo(fila.celdas[Nombre])).append(model::SaltoLinea);
-        if (!SeOrdena(fila.clase)) continue;
-        cuerpo += campo(fila.celdas[Nombre]);
-        for (std::size_t c = Nombre + 1; c < NroColumnasQDR; ++c)
-            cuerpo.append(1, separador).append(fila.celdas[c]);
-        cuerpo += model::SaltoLinea;
-    }
-    const auto encabezados = EncabezadosQDR();
-    texto += campo(encabezados[Nombre]);
-    for (std::size_t c = Nombre + 1; c < NroColumnasQDR; ++c)
-        texto.append(1, separador).append(campo(encabezados[c]));
-    return texto.append(model::SaltoLinea).append(cuerpo);
-}
-
 }  // namespace
 
 std::array<std::string_view, NroColumnasQDR> EncabezadosQDR()
@@ -270,14 +242,34 @@ void PulsaEncabezado(TablaQDR& t, int columna)
     Ordena(t);
 }
 
-std::string ComoCsv(const TablaQDR& t)
+forms::Planilla ComoPlanilla(const TablaQDR& t)
 {
-    return Escribe(t, ',', [](std::string_view texto) { return forms::CampoCsv(texto); });
+    forms::Planilla planilla;
+    for (const std::string_view encabezado : EncabezadosQDR())
+        planilla.columnas.push_back({std::string(encabezado), planilla.columnas.size() == Nombre});
+    for (const std::size_t i : t.mostradas) {
+        const FilaQDR& fila = t.filas[i];
+        if (fila.clase == ClaseFila::Titulo) planilla.titulos.push_back(fila.celdas[Nombre]);
+        if (SeOrdena(fila.clase)) planilla.filas.emplace_back(fila.celdas.begin(), fila.celdas.end());
+    }
+    return planilla;
 }
 
-std::string ComoTexto(const TablaQDR& t)
+std::string BloqueComoTexto(const TablaQDR& t, const BloqueQDR& bloque)
 {
-    return Escribe(t, '\t', [](std::string_view texto) { return std::string(texto); });
+    std::string texto;
+    const std::size_t finColumnas = std::min(bloque.ultimaColumna + 1, NroColumnasQDR);
+    for (std::size_t i = bloque.primeraFila; i <= bloque.ultimaFila && i < t.mostradas.size(); ++i) {
+        const FilaQDR& fila = t.filas[t.mostradas[i]];
+        const std::size_t fin =
+            fila.clase == ClaseFila::Titulo ? std::min(bloque.primeraColumna + 1, finColumnas) : finColumnas;
+        for (std::size_t c = bloque.primeraColumna; c < fin; ++c) {
+            if (c > bloque.primeraColumna) texto += '\t';
+            texto += fila.celdas[c];
+        }
+        texto += model::SaltoLinea;
+    }
+    return texto;
 }
 
 bool HayPlanillaPDR(const Siro& s)

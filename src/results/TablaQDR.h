@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "forms/Planilla.h"
 #include "model/Siro.h"
 
 // The grid of a series' results, MSFlexGridTablaSaleQDR: what it holds, how it is filled, sorted and taken
@@ -61,10 +62,18 @@ void LlenaUna(TablaQDR& t, model::Siro& s);
 /// that are equal keep the order given.
 void PulsaEncabezado(TablaQDR& t, int columna);
 
-/// The table as it is on show, for a spreadsheet: lines ended by CR LF, titles first, then headings, then
-/// rows; rows without a result are left out. Fields are parted by commas, texts in quotes; or by tabs.
-std::string ComoCsv(const TablaQDR& t);
-std::string ComoTexto(const TablaQDR& t);
+/// The table as it is on show, for a spreadsheet; rows without a result are left out.
+forms::Planilla ComoPlanilla(const TablaQDR& t);
+
+/// A block of cells: rows by their place on show, columns from 0, the last ones included.
+struct BloqueQDR {
+    std::size_t primeraFila = 0, ultimaFila = 0;
+    std::size_t primeraColumna = 0, ultimaColumna = 0;
+};
+
+/// A block as text: cells parted by tabs, lines ended by CR LF; of a title its text once. What lies outside
+/// the table is left out.
+std::string BloqueComoTexto(const TablaQDR& t, const BloqueQDR& bloque);
 
 /// Controls that are hidden and shown together.
 struct VistaTablaQDR {

@@ -83,11 +83,14 @@ void Escritorio::PonAnfitrion()
 void Escritorio::PonVentanas()
 {
     ventanaPrincipal = std::make_unique<MDIForm1_ventana>(entorno, principal, mandos);
+    entorno.VigilaHijas(ventanaPrincipal->Ventanas());
     ventanaAvance = std::make_unique<frmPp2_ventana>(avance, ventanaPrincipal.get());
     ventanaConfigura = std::make_unique<frmConfigura_ventana>(entorno, configura, ventanaPrincipal.get());
     PonLluvia();
     ventanaHietograma = std::make_unique<results::dlgChart1_ventana>(entorno, hietograma);
     ventanaHidrograma = std::make_unique<results::dlgChart2_ventana>(entorno, hidrograma);
+    ventanasSerie = std::make_unique<results::VentanasDeSerie>(entorno);
+    ventanaEmpiricas = std::make_unique<empirical::dlgEmpiricas_ventana>(entorno, empiricas);
     ventanaAyuda = std::make_unique<Ayuda_ventana>(entorno);
     ventanasEditor = std::make_unique<editor::VentanasDelEditor>(
         entorno, [this](bool visible) { ventanaPrincipal->setVisible(visible); });
@@ -169,6 +172,14 @@ void Escritorio::Abre(Ventana ventana, bool espera)
         return ventanaPizarra->Abre();
     case Ventana::dlgChart2:
         return ventanaHidrograma->Abre();
+    case Ventana::dlgChart3:
+        return ventanasSerie->ventanaAbaco.Abre();
+    case Ventana::dlgTablaSalePDR:
+        return ventanasSerie->ventanaTablaCompleta.Abre();
+    case Ventana::dlgTablaSalePDR2:
+        return ventanasSerie->ventanaTablaComponente.Abre();
+    case Ventana::dlgEmpiricas:
+        return ventanaEmpiricas->Abre();
     default:
         return TodaviaNo();
     }

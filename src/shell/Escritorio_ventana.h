@@ -5,11 +5,14 @@
 #include <string>
 
 #include "editor/VentanasDelEditor_ventana.h"
+#include "empirical/dlgEmpiricas.h"
+#include "empirical/dlgEmpiricas_ventana.h"
 #include "forms/Entorno_ventana.h"
 #include "model/Siro.h"
 #include "model/VidaProyecto.h"
 #include "rainfall/dlgPp.h"
 #include "rainfall/dlgPp_ventana.h"
+#include "results/VentanasDeSerie_ventana.h"
 #include "results/dlgChart1.h"
 #include "results/dlgChart1_ventana.h"
 #include "results/dlgChart2.h"
@@ -52,6 +55,7 @@ class Escritorio {
     frmConfigura configura{};
     results::dlgChart1 hietograma{};
     results::dlgChart2 hidrograma{};
+    empirical::dlgEmpiricas empiricas{};
 
     MDIForm1_ventana& Principal() { return *ventanaPrincipal; }
     /// Brings a window up; a modal one is waited for where `espera` says so.
@@ -78,6 +82,8 @@ class Escritorio {
     std::unique_ptr<results::frmPp_ventana> ventanaPizarra;
     std::unique_ptr<results::dlgChart1_ventana> ventanaHietograma;
     std::unique_ptr<results::dlgChart2_ventana> ventanaHidrograma;
+    std::unique_ptr<results::VentanasDeSerie> ventanasSerie;
+    std::unique_ptr<empirical::dlgEmpiricas_ventana> ventanaEmpiricas;
     std::unique_ptr<Ayuda_ventana> ventanaAyuda;
     std::unique_ptr<editor::VentanasDelEditor> ventanasEditor;
 };

@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QDialog>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QMessageBox>
 #include <QPrinter>
 
@@ -49,6 +52,45 @@ TEST_F(EntornoDePrueba, LaActivacionValeViniendoDeOtraVentanaDelProgramaYNoDeLaP
     caja.close();
     apoyo::Muestra(una);
     EXPECT_EQ(veces, 1);
+}
+
+TEST_F(EntornoDePrueba, UnaVentanaHijaSeActivaAlPasarAElla)
+{
+    QMainWindow principal;
+    auto* const area = new QMdiArea;
+    principal.setCentralWidget(area);
+    mundo.entorno.VigilaHijas(*area);
+    auto* const una = new QWidget;
+    auto* const otra = new QWidget;
+    QMdiSubWindow* const marcoUna = area->addSubWindow(una);
+    QMdiSubWindow* const marcoOtra = area->addSubWindow(otra);
+    int veces = 0;
+    mundo.entorno.AlActivarse(*una, [&] { ++veces; });
+    apoyo::Muestra(principal);
+    area->setActiveSubWindow(marcoOtra);
+    veces = 0;
+    area->setActiveSubWindow(marcoUna);
+    EXPECT_TRUE(apoyo::Espera([&] { return veces == 1; }));
+
+    // A box over the main window is nobody's leaving; a form is.
+    QMessageBox caja(&principal);
+    caja.setText(QStringLiteral("x"));
+    apoyo::Muestra(caja);
+    caja.close();
+    apoyo::Muestra(principal);
+    EXPECT_EQ(veces, 1);
+    QDialog formulario(&principal);
+    apoyo::Muestra(formulario);
+    formulario.close();
+    apoyo::Muestra(principal);
+    EXPECT_TRUE(apoyo::Espera([&] { return veces == 2; }));
+
+    // What isn't at the front hears nothing.
+    area->setActiveSubWindow(marcoOtra);
+    apoyo::Muestra(formulario);
+    formulario.close();
+    apoyo::Muestra(principal);
+    EXPECT_EQ(veces, 2);
 }
 
 TEST_F(EntornoDePrueba, SinImpresoraSeDicePorQueNoImprime)

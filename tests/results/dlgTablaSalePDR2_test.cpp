@@ -178,7 +178,7 @@ TEST_F(TablaDeUno, SeOrdenaConLaSeparacionEnSuSitioYSigueAsiConOtroComponente)
 TEST_F(TablaDeUno, LaSeparacionNoSeGuarda)
 {
     AbreEn(3);
-    const std::string texto = ComoTexto(f.MSFlexGridTablaSaleQDR);
+    const std::string texto = ComoTexto(ComoPlanilla(f.MSFlexGridTablaSaleQDR));
     EXPECT_NE(texto.find("c-1\t3\t35\t120\t25\t34.12\t\t\r\nEscorrentía total \t\t20"), std::string::npos);
 }
 

@@ -364,7 +364,7 @@ TEST_F(OrdenDeTabla, SeGuardaYSeCopiaEnElOrdenALaVista)
     s.NroUEHs = 1;
     cmdAplicarCambios(f, s);
     AlPulsarEncabezado(f, P);
-    EXPECT_EQ(ComoCsv(Tabla()),
+    EXPECT_EQ(ComoCsv(ComoPlanilla(Tabla())),
               "\"/proyectos/Prueba_Conf.vlm\"\r\n"
               "\"El \"\"gran\"\" río\"\r\n"
               "\"Ubicación: Un lugar - Cuenca: Un río\"\r\n"
@@ -380,7 +380,7 @@ TEST_F(OrdenDeTabla, SeGuardaYSeCopiaEnElOrdenALaVista)
               "\"Escorrentía total \",,100,60,10,,5001,50.12\r\n");
     AlPulsarEncabezado(f, P);
     AlPulsarEncabezado(f, P);
-    EXPECT_EQ(ComoTexto(Tabla()),
+    EXPECT_EQ(ComoTexto(ComoPlanilla(Tabla())),
               "/proyectos/Prueba_Conf.vlm\r\n"
               "El \"gran\" río\r\n"
               "Ubicación: Un lugar - Cuenca: Un río\r\n"
@@ -400,14 +400,26 @@ TEST_F(OrdenDeTabla, UnRotuloSinTotalNoSeGuarda)
     s.frmConfigura.CheckR.fill(0);
     s.NroComponentes = 3;
     AlActivar(f, s);
-    const std::string csv = ComoCsv(Tabla());
+    const std::string csv = ComoCsv(ComoPlanilla(Tabla()));
     EXPECT_EQ(csv.find("total"), std::string::npos);
     EXPECT_TRUE(csv.ends_with("\"C[%]\"\r\n"));
 }
 
 TEST_F(OrdenDeTabla, UnaTablaVaciaEsSuEncabezado)
 {
-    EXPECT_EQ(ComoTexto(TablaQDR{}), "Componente \tNro.\tP[mm]\tD[min]\tR[años]\tQp[m3/s]\tE[m3]\tC[%]\r\n");
+    EXPECT_EQ(ComoTexto(ComoPlanilla(TablaQDR{})),
+              "Componente \tNro.\tP[mm]\tD[min]\tR[años]\tQp[m3/s]\tE[m3]\tC[%]\r\n");
+}
+
+TEST_F(OrdenDeTabla, DeUnBloqueSeCopianSusCeldasYDeUnTituloSuTextoUnaVez)
+{
+    EXPECT_EQ(BloqueComoTexto(Tabla(),
+                              {.primeraFila = 3, .ultimaFila = 6, .primeraColumna = 0, .ultimaColumna = 3}),
+              "SubCuenca: Un arroyo\r\nOperador: Yo - 03/04/2011\r\nu-1\t1\t100\t60\r\nu-1\t1\t30\t120\r\n");
+    EXPECT_EQ(BloqueComoTexto(Tabla(),
+                              {.primeraFila = 5, .ultimaFila = 5, .primeraColumna = 5, .ultimaColumna = 99}),
+              "11.12\t1001\t41.12\r\n");
+    EXPECT_EQ(BloqueComoTexto(Tabla(), {.primeraFila = 9999, .ultimaFila = 9999}), "");
 }
 
 }  // namespace

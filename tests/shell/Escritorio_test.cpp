@@ -189,7 +189,8 @@ TEST_F(EscritorioDePrueba, ElAvanceSeVeConSusTextosYSePuedeCerrarPorSuMarco)
 TEST_F(EscritorioDePrueba, LoQueTodaviaNoEstaLoDice)
 {
     Arranca();
-    Accion("mnuEmpiricos").trigger();
+    escritorio.s.NombreProyecto = "Uno";
+    Accion("mnufrmUEHsTabla").trigger();
     EXPECT_EQ(anfitrion->Avisos(),
               (std::vector<model::Mensaje>{{"Esta ventana todavía no está disponible."}}));
 }

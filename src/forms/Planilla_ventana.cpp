@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "forms/Planilla_ventana.h"
+
+#include <xlsxwriter.h>
+
+#include <QClipboard>
+#include <QFile>
+#include <QGuiApplication>
+#include <QMenu>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <vector>
+
+#include "forms/Csv.h"
+#include "forms/Textos_ventana.h"
+#include "model/Avisos.h"
+#include "model/Falla.h"
+#include "model/Numeros.h"
+
+namespace forms {
+
+namespace {
+
+constexpr char NombreDeHoja[] = "SIRO";
+
+void Exige(lxw_error resultado)
+{
+    if (resultado != LXW_NO_ERROR) throw model::Falla{model::NumeroFalla::AccesoRuta};
+}
+
+/// A workbook in the making; one that isn't closed leaves no file.
+class Libro {
+  public:
+    Libro(const Planilla& una, const std::string& archivo, std::string carpeta)
+        : planilla(una), temporales(std::move(carpeta))
+    {
+        lxw_workbook_options opciones{};
+        opciones.tmpdir = temporales.data();
+        libro = workbook_new_opt(archivo.c_str(), &opciones);
+        hoja = workbook_add_worksheet(libro, NombreDeHoja);
+        centrado = workbook_add_format(libro);
+        encabezado = workbook_add_format(libro);
+        format_set_bold(encabezado);
+        format_set_bottom(encabezado, LXW_BORDER_THIN);
+        for (lxw_format* const formato : {centrado, encabezado})
+            format_set_align(formato, LXW_ALIGN_CENTER);
+    }
+    ~Libro()
+    {
+        if (libro != nullptr) lxw_workbook_free(libro);
+    }
+    Libro(const Libro&) = delete;
+    Libro& operator=(const Libro&) = delete;
+
+    void Llena()
+    {
+        lxw_row_t fila = 0;
+        for (const std::string& t : planilla.titulos)
+            PonTitulo(fila++, t);
+        for (std::size_t c = 0; c < planilla.columnas.size(); ++c)
+            Exige(worksheet_write_string(hoja, fila, Columna(c), planilla.columnas[c].encabezado.c_str(),
+                                         encabezado));
+        worksheet_freeze_panes(hoja, ++fila, 0);
+        PonAnchos();
+        for (const std::vector<std::string>& celdas : planilla.filas)
+            PonFila(fila++, celdas);
+    }
+    void Cierra()
+    {
+        lxw_workbook* const cerrado = libro;
+        libro = nullptr;
+        Exige(workbook_close(cerrado));
+    }
+
+  private:
+    static lxw_col_t Columna(std::size_t c) { return static_cast<lxw_col_t>(c); }
+
+    void PonTitulo(lxw_row_t fila, const std::string& t)
+    {
+        if (planilla.columnas.size() < 2)
+            Exige(worksheet_write_string(hoja, fila, 0, t.c_str(), centrado));
+        else
+            Exige(worksheet_merge_range(hoja, fila, 0, fila, Columna(planilla.columnas.size() - 1), t.c_str(),
+                                        centrado));
+    }
+    void PonFila(lxw_row_t fila, const std::vector<std::string>& celdas)
+    {
+        for (std::size_t c = 0; c < planilla.columnas.size(); ++c) {
+            const std::string& celda = celdas[c];
+            if (EsNumero(planilla.columnas[c], celda))
+                Exige(worksheet_write_number(hoja, fila, Columna(c), model::Val(celda), centrado));
+            else if (!celda.empty())
+                Exige(worksheet_write_string(hoja, fila, Columna(c), celda.c_str(), nullptr));
+        }
+    }
+    /// Each column as wide as its widest cell [characters].
+    void PonAnchos()
+    {
+        constexpr qsizetype LoMenos = 10, LoMas = 60, Aire = 2;
+        for (std::size_t c = 0; c < planilla.columnas.size(); ++c) {
+            qsizetype ancho = Q(planilla.columnas[c].encabezado).size();
+            for (const std::vector<std::string>& celdas : planilla.filas)
+                ancho = std::max(ancho, Q(celdas[c]).size());
+            Exige(worksheet_set_column(hoja, Columna(c), Columna(c),
+                                       static_cast<double>(std::clamp(ancho + Aire, LoMenos, LoMas)),
+                                       nullptr));
+        }
+    }
+
+    const Planilla& planilla;
+    std::string temporales;
+    lxw_workbook* libro = nullptr;
+    lxw_worksheet* hoja = nullptr;
+    lxw_format *centrado = nullptr, *encabezado = nullptr;
+};
+
+void Guarda(Entorno& entorno, std::string_view pregunta, std::string_view filtro, const std::string& nombre,
+            const std::function<std::string()>& bytes)
+{
+    const std::string ruta = entorno.s.Anfitrion.EligeDestino(pregunta, filtro, nombre);
+    if (ruta.empty()) return;
+    model::Sentencia(
+        [&] { entorno.s.Disco.Escribe(ruta, bytes()); },
+        [&](const model::Falla& falla) { model::Informa(entorno.s, model::TextoFallaArchivo(falla)); });
+}
+
+}  // namespace
+
+std::string ComoXlsx(const Planilla& planilla)
+{
+    const QTemporaryDir carpeta;
+    const QString archivo = carpeta.filePath(QStringLiteral("planilla.xlsx"));
+    Libro libro(planilla, QFile::encodeName(archivo).toStdString(),
+                QFile::encodeName(carpeta.path()).toStdString());
+    libro.Llena();
+    libro.Cierra();
+    QFile escrito(archivo);
+    if (!escrito.open(QIODevice::ReadOnly)) throw model::Falla{model::NumeroFalla::AccesoRuta};
+    return escrito.readAll().toStdString();
+}
+
+void CopiaPlanilla(const Planilla& planilla)
+{
+    QGuiApplication::clipboard()->setText(Q(ComoTexto(planilla)));
+}
+
+void GuardaCsv(Entorno& entorno, std::string_view nombre, const DaPlanilla& planilla)
+{
+    Guarda(entorno, "Guardar la tabla como CSV", "Tabla CSV |*.csv", std::string(nombre).append(".csv"),
+           [&] { return std::string(MarcaUtf8).append(ComoCsv(planilla())); });
+}
+
+void GuardaXlsx(Entorno& entorno, std::string_view nombre, const DaPlanilla& planilla)
+{
+    Guarda(entorno, "Guardar la tabla como XLSX", "Libro XLSX |*.xlsx", std::string(nombre).append(".xlsx"),
+           [&] { return ComoXlsx(planilla()); });
+}
+
+void AgregaPlanilla(QMenu& menu, Entorno& entorno, std::string_view nombre, const DaPlanilla& planilla)
+{
+    const auto entrada = [&](const char* leyenda, const char* control, auto rutina) {
+        QAction* const accion = menu.addAction(QString::fromUtf8(leyenda));
+        accion->setObjectName(QString::fromUtf8(control));
+        QObject::connect(accion, &QAction::triggered, &menu, [&entorno, rutina] { entorno.Atiende(rutina); });
+        return accion;
+    };
+    const std::string propuesto(nombre);
+    entrada("Copiar la &tabla entera", "mnuCopiaTabla", [planilla] { CopiaPlanilla(planilla()); });
+    entrada("Guardar como C&SV...", "mnuGuardaCsv",
+            [&entorno, propuesto, planilla] { GuardaCsv(entorno, propuesto, planilla); });
+    entrada("Guardar como &XLSX...", "mnuGuardaXlsx",
+            [&entorno, propuesto, planilla] { GuardaXlsx(entorno, propuesto, planilla); });
+}
+
+}  // namespace forms

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "forms/Entorno_ventana.h"
+#include "forms/Planilla.h"
+
+class QMenu;
+
+// Taking a table of results to a spreadsheet, alike in every window that shows one.
+namespace forms {
+
+/// Bytes of an .xlsx file with one sheet: titles merged across the columns, headings bold and always in
+/// sight, numbers as numbers. Throws Falla 75 where the table has more rows or columns than a sheet, or the
+/// disk has no room for the library's working files.
+std::string ComoXlsx(const Planilla& planilla);
+
+/// The table as it is on show when it is asked for.
+using DaPlanilla = std::function<Planilla()>;
+
+/// Puts the table on the clipboard as text.
+void CopiaPlanilla(const Planilla& planilla);
+/// Asks where, proposing a name without its ending, and saves. A disk that refuses is told.
+void GuardaCsv(Entorno& entorno, std::string_view nombre, const DaPlanilla& planilla);
+void GuardaXlsx(Entorno& entorno, std::string_view nombre, const DaPlanilla& planilla);
+
+/// Entries of a menu for all three, below those that it has.
+void AgregaPlanilla(QMenu& menu, Entorno& entorno, std::string_view nombre, const DaPlanilla& planilla);
+
+}  // namespace forms

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "forms/Formulario_ventana.h"
+#include "results/dlgChart3.h"
+
+class QBoxLayout;
+class QLabel;
+class QPushButton;
+
+namespace forms {
+class Lamina;
+class ListaParaElegir;
+}  // namespace forms
+
+namespace results {
+
+/// Window of the abacus of a series.
+class dlgChart3_ventana : public forms::Ventana {
+  public:
+    dlgChart3_ventana(forms::Entorno& alrededor, dlgChart3& registro, QWidget* padre = nullptr);
+
+    /// Opens the window on the series in hand and brings it to the front. Without components it closes
+    /// itself.
+    void Abre();
+    void Muestra() override;
+
+  protected:
+    void AlCerrar() override;
+
+  private:
+    void Construye();
+    QBoxLayout* ConstruyeListas();
+    QBoxLayout* ConstruyeBotones();
+    void Conecta();
+    void Imprime();
+
+    dlgChart3& f;
+    QLabel *lblTitulo, *lblNota, *lblNotaVelmir;
+    QLabel *leyendaCompos, *leyendaPQEC;
+    forms::Lamina* Grafico;
+    forms::ListaParaElegir *lstCompos, *lstPQEC;
+    QPushButton *cmdXmas, *cmdXmenos, *cmdImprimir, *OKButton;
+};
+
+}  // namespace results

@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "results/dlgChart3_ventana.h"
+
+#include <QLabel>
+#include <QPrinter>
+#include <QPushButton>
+#include <QTemporaryDir>
+
+#include "apoyo/Compara.h"
+#include "apoyo/Ventanas.h"
+#include "forms/Lamina_ventana.h"
+#include "forms/Lista_ventana.h"
+#include "forms/Textos_ventana.h"
+#include "results/SerieDePrueba.h"
+
+namespace results {
+namespace {
+
+using apoyo::Control;
+using apoyo::Pulsa;
+using forms::DeQ;
+using forms::ListaParaElegir;
+
+class VentanaAbaco : public pruebas::SerieDePrueba {
+  protected:
+    ListaParaElegir& Lista(const char* nombre) { return Control<ListaParaElegir>(ventana, nombre); }
+    void Elige(const char* nombre, int item)
+    {
+        ListaParaElegir& lista = Lista(nombre);
+        QTest::mouseClick(lista.viewport(), Qt::LeftButton, {},
+                          lista.visualItemRect(lista.item(item)).center());
+    }
+    forms::Lamina& Grafico() { return Control<forms::Lamina>(ventana, "Grafico"); }
+    /// What the chart tells of its first category.
+    std::string PrimeraFila()
+    {
+        Grafico().setFocus();
+        QTest::keyClick(&Grafico(), Qt::Key_Home);
+        return Grafico().Lectura();
+    }
+    std::string Rotulo(const char* nombre) { return DeQ(Control<QLabel>(ventana, nombre).text()); }
+
+    forms::Entorno entorno{s};
+    dlgChart3 f{};
+    dlgChart3_ventana ventana{entorno, f};
+};
+
+TEST_F(VentanaAbaco, AbreConSusListasRotulosYBotones)
+{
+    s.IndComp = 2;
+    ventana.Abre();
+    EXPECT_TRUE(ventana.isVisible());
+    EXPECT_EQ(apoyo::SinNombre(ventana), std::vector<std::string>{});
+    EXPECT_EQ(DeQ(ventana.windowTitle()), TituloDlgChart3);
+    EXPECT_EQ(Lista("lstCompos").count(), 3);
+    EXPECT_EQ(Lista("lstCompos").currentRow(), 1);
+    EXPECT_EQ(DeQ(Lista("lstPQEC").item(1)->text()), "Escorrentía");
+    EXPECT_EQ(Lista("lstPQEC").currentRow(), 0);
+    EXPECT_EQ(Rotulo("lblTitulo"), "Serie de Tormentas Sintéticas: Gráficos Qp-D-R  -  E-D-R  -  CE-D-R");
+    EXPECT_EQ(Rotulo("lblNota"), "Un título  /proyectos/Prueba_Conf.vlm");
+    EXPECT_EQ(Rotulo("lblNotaVelmir"), "SIRO: Modelo hidrológico de simulación lluvia-caudal");
+    EXPECT_EQ(DeQ(Control<QPushButton>(ventana, "cmdXmas").text()), "+DivideEjeX");
+    EXPECT_EQ(DeQ(Control<QPushButton>(ventana, "cmdXmenos").text()), "-DivideEjeX");
+    EXPECT_EQ(DeQ(Control<QPushButton>(ventana, "cmdImprimir").text()), "&Imprimir");
+    EXPECT_EQ(DeQ(Control<QPushButton>(ventana, "OKButton").text()), "&Cerrar");
+}
+
+TEST_F(VentanaAbaco, DibujaElComponenteElegido)
+{
+    s.IndComp = 1;
+    ventana.Abre();
+    const std::string antes = PrimeraFila();
+    EXPECT_NE(antes.find("= 11.12 m3/s"), std::string::npos) << antes;  // storm 1
+    EXPECT_NE(antes.find("= 13.12 m3/s"), std::string::npos) << antes;  // storm 3
+    Elige("lstCompos", 2);
+    EXPECT_EQ(f.lstComposIndice, 2);
+    const std::string despues = PrimeraFila();
+    EXPECT_NE(despues.find("= 31.12 m3/s"), std::string::npos) << despues;
+    Lista("lstCompos").setFocus();
+    QTest::keyClick(&Lista("lstCompos"), Qt::Key_Up);
+    EXPECT_EQ(f.lstComposIndice, 1);
+    EXPECT_NE(PrimeraFila().find("= 21.12 m3/s"), std::string::npos);
+}
+
+TEST_F(VentanaAbaco, ElMismoComponenteOtraVezSigueALasCasillas)
+{
+    s.IndComp = 1;
+    ventana.Abre();
+    DestildaR(R10);
+    Elige("lstCompos", 0);
+    EXPECT_EQ(f.Grafico.series.size(), 1U);
+    const std::string lectura = PrimeraFila();
+    EXPECT_EQ(lectura.find("= 11.12 m3/s"), std::string::npos) << lectura;
+    EXPECT_NE(lectura.find("= 13.12 m3/s"), std::string::npos) << lectura;
+}
+
+TEST_F(VentanaAbaco, LaEscorrentiaDejaEnLaListaSoloLasUEHs)
+{
+    s.IndComp = 3;
+    ventana.Abre();
+    Elige("lstPQEC", 1);
+    EXPECT_EQ(Lista("lstCompos").count(), 2);
+    EXPECT_EQ(Lista("lstCompos").currentRow(), 1);
+    EXPECT_NE(PrimeraFila().find("= 2001 m3"), std::string::npos);
+    Elige("lstPQEC", 0);
+    EXPECT_EQ(Lista("lstCompos").count(), 3);
+    EXPECT_EQ(Lista("lstCompos").currentRow(), 1);
+}
+
+TEST_F(VentanaAbaco, DivideElEjeYSeCierra)
+{
+    ventana.Abre();
+    Pulsa(Control<QPushButton>(ventana, "cmdXmas"));
+    EXPECT_EQ(f.Grafico.escala.divisionesPorRotulo, 2);
+    Pulsa(Control<QPushButton>(ventana, "cmdXmenos"));
+    EXPECT_EQ(f.Grafico.escala.divisionesPorRotulo, 1);
+    Pulsa(Control<QPushButton>(ventana, "OKButton"));
+    EXPECT_FALSE(ventana.isVisible());
+    ventana.Abre();
+    ventana.close();
+    EXPECT_FALSE(f.abierta);
+}
+
+TEST_F(VentanaAbaco, SeImprimeSinComandosNiListasYTodoVuelve)
+{
+    const QTemporaryDir carpeta;
+    const QString ruta = carpeta.filePath(QStringLiteral("abaco.pdf"));
+    bool conControles = true;
+    entorno.Impresora = [&] {
+        conControles = Lista("lstCompos").isVisible() || Lista("lstPQEC").isVisible() ||
+                       Control<QPushButton>(ventana, "OKButton").isVisible();
+        auto impresora = std::make_unique<QPrinter>();
+        impresora->setOutputFormat(QPrinter::PdfFormat);
+        impresora->setOutputFileName(ruta);
+        return impresora;
+    };
+    ventana.Abre();
+    Pulsa(Control<QPushButton>(ventana, "cmdImprimir"));
+    EXPECT_FALSE(conControles);
+    EXPECT_TRUE(apoyo::BytesDeArchivo(DeQ(ruta)).starts_with("%PDF"));
+    EXPECT_TRUE(Lista("lstCompos").isVisible());
+    EXPECT_TRUE(Control<QPushButton>(ventana, "OKButton").isVisible());
+}
+
+TEST_F(VentanaAbaco, SinSerieQuedaVaciaYSinComponentesNoSeAbre)
+{
+    s.NroSeriePDR = 0;
+    ventana.Abre();
+    EXPECT_TRUE(ventana.isVisible());
+    EXPECT_EQ(Lista("lstCompos").count(), 0);
+    EXPECT_EQ(PrimeraFila(), "");
+    ventana.close();
+    s.NroSeriePDR = 4;
+    s.NroComponentes = 0;
+    ventana.Abre();
+    EXPECT_FALSE(ventana.isVisible());
+}
+
+}  // namespace
+}  // namespace results
