@@ -70,6 +70,7 @@ bool EsCaja(const QWidget& ventana)
 Entorno::Entorno(model::Siro& estadoSiro)
     : s(estadoSiro),
       Presenta(PresentaEnEscritorio),
+      AbreAyuda([](const std::string&) {}),
       Impresora(ImpresoraDelSistema),
       ajustes(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("SIRO"), QStringLiteral("siro"))
 {

@@ -5,6 +5,7 @@
 #include <QSettings>
 #include <functional>
 #include <memory>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -55,6 +56,9 @@ class Entorno : public QObject {
     /// Opens a window beside the others and brings it to the front. Asked for from a modal form, it opens as
     /// that form's own child. Until the main window is there it opens on the desktop.
     std::function<void(QWidget& ventana)> Presenta;
+
+    /// Opens the page of help of a window, by the window's object name.
+    std::function<void(const std::string& ventana)> AbreAyuda;
 
     /// The default printer, nothing where none is installed.
     std::function<std::unique_ptr<QPrinter>()> Impresora;

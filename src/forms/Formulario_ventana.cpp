@@ -2,6 +2,7 @@
 #include "forms/Formulario_ventana.h"
 
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QMdiSubWindow>
 
 #include "forms/Textos_ventana.h"
@@ -38,6 +39,18 @@ void GuardaLugar(const QWidget& ventana, QSettings& ajustes)
     ajustes.setValue(Clave(ventana), Marco(ventana).saveGeometry());
 }
 
+bool Sucesos::AtiendeF1(const QWidget& ventana, QEvent& evento)
+{
+    const bool esTecla = evento.type() == QEvent::KeyPress;
+    if (!esTecla && evento.type() != QEvent::ShortcutOverride) return false;
+    const auto& tecla = static_cast<const QKeyEvent&>(evento);
+    if (tecla.key() != Qt::Key_F1 || tecla.modifiers() != Qt::NoModifier) return false;
+    evento.accept();  // of the two, the first keeps the main window's shortcut from taking the key
+    if (esTecla && !tecla.isAutoRepeat())
+        entorno.Atiende([&] { entorno.AbreAyuda(DeQ(ventana.objectName())); });
+    return true;
+}
+
 Formulario::Formulario(Entorno& alrededor, std::string_view nombre, QWidget* padre)
     : QDialog(padre), Sucesos(alrededor)
 {
@@ -49,6 +62,11 @@ void Formulario::reject()
     if (entorno.Terminando()) return QDialog::reject();
     campos.Olvida();
     entorno.Atiende([this] { AlCerrar(); });
+}
+
+bool Formulario::event(QEvent* evento)
+{
+    return AtiendeF1(*this, *evento) || QDialog::event(evento);
 }
 
 void Formulario::showEvent(QShowEvent* evento)
@@ -67,6 +85,11 @@ Ventana::Ventana(Entorno& alrededor, std::string_view nombre, QWidget* padre)
     : QWidget(padre), Sucesos(alrededor)
 {
     setObjectName(Q(nombre));
+}
+
+bool Ventana::event(QEvent* evento)
+{
+    return AtiendeF1(*this, *evento) || QWidget::event(evento);
 }
 
 void Ventana::closeEvent(QCloseEvent* evento)

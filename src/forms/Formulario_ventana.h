@@ -14,7 +14,7 @@
 namespace forms {
 
 /// What all windows have in common: each event of the user is handed to the form's rules, then the window
-/// shows the record anew.
+/// shows the record anew. F1 opens the window's page of help where none of its controls takes that key.
 class Sucesos {
   public:
     Sucesos(const Sucesos&) = delete;
@@ -58,6 +58,9 @@ class Sucesos {
         QObject::connect(&boton, &QAbstractButton::clicked, &boton, [this, rutina] { Suceso(rutina); });
     }
 
+    /// Takes F1 in whatever the window's controls let pass. Returns whether the event was that key.
+    bool AtiendeF1(const QWidget& ventana, QEvent& evento);
+
     Entorno& entorno;
     Campos campos;
 };
@@ -74,6 +77,7 @@ class Formulario : public QDialog, protected Sucesos {
 
   protected:
     virtual void AlCerrar() { done(QDialog::Rejected); }
+    bool event(QEvent* evento) override;
     void showEvent(QShowEvent* evento) override;
     void hideEvent(QHideEvent* evento) override;
 };
@@ -87,6 +91,7 @@ class Ventana : public QWidget, protected Sucesos {
   protected:
     /// The frame's button, or the program closes the window.
     virtual void AlCerrar() {}
+    bool event(QEvent* evento) override;
     void closeEvent(QCloseEvent* evento) override;
     void showEvent(QShowEvent* evento) override;
     void hideEvent(QHideEvent* evento) override;

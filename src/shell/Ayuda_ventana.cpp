@@ -1,9 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/Ayuda_ventana.h"
 
+#include <QAction>
 #include <QDir>
+#include <QFile>
 #include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
+#include <QRegularExpression>
+#include <QShortcut>
+#include <QSplitter>
 #include <QTextBrowser>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -14,8 +22,27 @@
 namespace shell {
 namespace {
 
-constexpr int LetrasDeAncho = 90;
-constexpr int RenglonesDeAlto = 30;
+constexpr int LetrasDeAncho = 120;
+constexpr int RenglonesDeAlto = 36;
+constexpr int LetrasDeContenido = 30;
+constexpr char PaginaInicial[] = "indice.html";
+constexpr char NoEsta[] = "No está en esta página";
+constexpr char DesdeElPrincipio[] = "Sigue desde el principio";
+constexpr char DesdeElFin[] = "Sigue desde el final";
+
+template <typename T>
+T* Nombra(T* control, const char* nombre)
+{
+    control->setObjectName(QString::fromUtf8(nombre));
+    return control;
+}
+
+QPushButton* Boton(const char* leyenda, const char* nombre, QWidget* padre)
+{
+    auto* const boton = Nombra(new QPushButton(QString::fromUtf8(leyenda), padre), nombre);
+    boton->setAutoDefault(false);
+    return boton;
+}
 
 }  // namespace
 
@@ -23,38 +50,143 @@ Ayuda_ventana::Ayuda_ventana(forms::Entorno& alrededor, QWidget* padre) : Ventan
 {
     setWindowTitle(QStringLiteral("Ayuda de SIRO"));
     setWindowIcon(IconoDeBoton("Ayuda"));
-    auto* const cmdInicio = new QPushButton(QStringLiteral("&Inicio"), this);
-    auto* const cmdAtras = new QPushButton(QStringLiteral("A&trás"), this);
-    auto* const cmdCerrar = new QPushButton(QStringLiteral("&Cerrar"), this);
-    cmdInicio->setObjectName(QStringLiteral("cmdInicio"));
-    cmdAtras->setObjectName(QStringLiteral("cmdAtras"));
-    cmdCerrar->setObjectName(QStringLiteral("cmdCerrar"));
-    cmdAtras->setEnabled(false);
-    Paginas = new QTextBrowser(this);
-    Paginas->setObjectName(QStringLiteral("Paginas"));
+    Contenido = Nombra(new QListWidget(this), "Contenido");
+    Contenido->setAccessibleName(QStringLiteral("Contenido de la ayuda"));
+    Paginas = Nombra(new QTextBrowser(this), "Paginas");
     Paginas->setAccessibleName(QStringLiteral("Páginas de ayuda"));
     Paginas->setOpenExternalLinks(true);
 
-    auto* const botones = new QHBoxLayout;
-    botones->addWidget(cmdInicio);
-    botones->addWidget(cmdAtras);
-    botones->addStretch(1);
-    botones->addWidget(cmdCerrar);
+    auto* const partes = new QSplitter(this);
+    partes->setObjectName(QStringLiteral("Partes"));
+    partes->setChildrenCollapsible(false);
+    partes->addWidget(Contenido);
+    partes->addWidget(Paginas);
+    partes->setStretchFactor(1, 1);
+    const int letra = fontMetrics().averageCharWidth();
+    partes->setSizes({letra * LetrasDeContenido, letra * (LetrasDeAncho - LetrasDeContenido)});
     auto* const pila = new QVBoxLayout(this);
-    pila->addWidget(Paginas, 1);
-    pila->addLayout(botones);
+    pila->addWidget(partes, 1);
+    pila->addLayout(HazBotones());
+    PonTeclas();
+
+    // Not at each change of the current row: the list makes one current by itself as it gets the focus.
+    const auto abre = [this](const QListWidgetItem* elegida) {
+        Paginas->setSource(elegida->data(Qt::UserRole).toUrl());
+    };
+    connect(Contenido, &QListWidget::itemClicked, this, abre);
+    connect(Contenido, &QListWidget::itemActivated, this, abre);
+    connect(Paginas, &QTextBrowser::sourceChanged, this, [this](const QUrl& pagina) {
+        MarcaContenido(pagina);
+        lblBusqueda->clear();
+    });
+    resize(letra * LetrasDeAncho, fontMetrics().lineSpacing() * RenglonesDeAlto);
+}
+
+QBoxLayout* Ayuda_ventana::HazBotones()
+{
+    cmdInicio = Boton("&Inicio", "cmdInicio", this);
+    cmdAtras = Boton("A&trás", "cmdAtras", this);
+    cmdAdelante = Boton("A&delante", "cmdAdelante", this);
+    cmdCerrar = Boton("&Cerrar", "cmdCerrar", this);
+    cmdAtras->setEnabled(false);
+    cmdAdelante->setEnabled(false);
+    txtBuscar = Nombra(new QLineEdit(this), "txtBuscar");
+    txtBuscar->setClearButtonEnabled(true);
+    auto* const rotulo = new QLabel(QStringLiteral("&Buscar en la página:"), this);
+    rotulo->setBuddy(txtBuscar);
+    lblBusqueda = Nombra(new QLabel(this), "lblBusqueda");
+
+    auto* const fila = new QHBoxLayout;
+    for (QWidget* const control : std::initializer_list<QWidget*>{cmdInicio, cmdAtras, cmdAdelante})
+        fila->addWidget(control);
+    fila->addSpacing(fontMetrics().averageCharWidth() * 2);
+    fila->addWidget(rotulo);
+    fila->addWidget(txtBuscar, 1);
+    fila->addWidget(lblBusqueda);
+    fila->addStretch(1);
+    fila->addWidget(cmdCerrar);
 
     AlPulsar(*cmdInicio, [this] { Paginas->home(); });
     AlPulsar(*cmdAtras, [this] { Paginas->backward(); });
+    AlPulsar(*cmdAdelante, [this] { Paginas->forward(); });
     AlPulsar(*cmdCerrar, [this] { close(); });
     connect(Paginas, &QTextBrowser::backwardAvailable, cmdAtras, &QPushButton::setEnabled);
-    resize(fontMetrics().averageCharWidth() * LetrasDeAncho, fontMetrics().lineSpacing() * RenglonesDeAlto);
+    connect(Paginas, &QTextBrowser::forwardAvailable, cmdAdelante, &QPushButton::setEnabled);
+    connect(txtBuscar, &QLineEdit::returnPressed, this, [this] { Busca(false); });
+    return fila;
+}
+
+void Ayuda_ventana::PonTeclas()
+{
+    const auto tecla = [this](const QKeySequence& secuencia, auto rutina) {
+        auto* const atajo = new QShortcut(secuencia, this);
+        atajo->setContext(Qt::WidgetWithChildrenShortcut);
+        connect(atajo, &QShortcut::activated, this, rutina);
+    };
+    tecla(QKeySequence::Find, [this] {
+        txtBuscar->setFocus();
+        txtBuscar->selectAll();
+    });
+    tecla(QKeySequence(Qt::ALT | Qt::Key_Left), [this] { Paginas->backward(); });
+    tecla(QKeySequence(Qt::ALT | Qt::Key_Right), [this] { Paginas->forward(); });
+    tecla(QKeySequence(Qt::Key_Escape), [this] { close(); });
+    // Not F3, which is the main window's for its editor.
+    tecla(QKeySequence(Qt::CTRL | Qt::Key_G), [this] { Busca(false); });
+    tecla(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_G), [this] { Busca(true); });
 }
 
 void Ayuda_ventana::Abre(const std::string& ruta)
 {
-    Paginas->setSource(QUrl::fromLocalFile(QDir::fromNativeSeparators(forms::Q(ruta))));
+    const QUrl pagina = QUrl::fromLocalFile(QDir::fromNativeSeparators(forms::Q(ruta)));
+    if (Contenido->count() == 0) {
+        // The first source is the home that its button goes to.
+        Paginas->setSource(pagina.resolved(QUrl(QString::fromUtf8(PaginaInicial))));
+        LlenaContenido();
+    }
+    Paginas->setSource(pagina);
+    MarcaContenido(pagina);
     entorno.Presenta(*this);
+    Paginas->setFocus();
+}
+
+void Ayuda_ventana::LlenaContenido()
+{
+    static const QRegularExpression enlace(QStringLiteral("<a href=\"([^\"#:]+)\">([^<]*)</a>"));
+    const QUrl indice = Paginas->source();
+    QFile archivo(indice.toLocalFile());
+    if (!archivo.open(QIODevice::ReadOnly)) return;
+    const auto agrega = [this](const QString& titulo, const QUrl& pagina) {
+        (new QListWidgetItem(titulo, Contenido))->setData(Qt::UserRole, pagina);
+    };
+    agrega(QStringLiteral("Índice"), indice);
+    auto enlaces = enlace.globalMatch(QString::fromUtf8(archivo.readAll()));
+    while (enlaces.hasNext()) {
+        const QRegularExpressionMatch hallado = enlaces.next();
+        agrega(hallado.captured(2), indice.resolved(QUrl(hallado.captured(1))));
+    }
+}
+
+void Ayuda_ventana::MarcaContenido(const QUrl& pagina)
+{
+    const QUrl sinLugar = pagina.adjusted(QUrl::RemoveFragment);
+    Contenido->setCurrentItem(nullptr);
+    for (int i = 0; i < Contenido->count(); ++i)
+        if (Contenido->item(i)->data(Qt::UserRole).toUrl() == sinLugar) Contenido->setCurrentRow(i);
+}
+
+void Ayuda_ventana::Busca(bool haciaAtras)
+{
+    const QString texto = txtBuscar->text();
+    if (texto.isEmpty()) return;
+    const auto hacia = haciaAtras ? QTextDocument::FindBackward : QTextDocument::FindFlags();
+    lblBusqueda->clear();
+    if (Paginas->find(texto, hacia)) return;
+    const QTextCursor lugar = Paginas->textCursor();
+    Paginas->moveCursor(haciaAtras ? QTextCursor::End : QTextCursor::Start);
+    if (Paginas->find(texto, hacia))
+        return lblBusqueda->setText(QString::fromUtf8(haciaAtras ? DesdeElFin : DesdeElPrincipio));
+    Paginas->setTextCursor(lugar);
+    lblBusqueda->setText(QString::fromUtf8(NoEsta));
 }
 
 }  // namespace shell

@@ -5,11 +5,17 @@
 
 #include "forms/Formulario_ventana.h"
 
+class QBoxLayout;
+class QLabel;
+class QLineEdit;
+class QListWidget;
+class QPushButton;
 class QTextBrowser;
+class QUrl;
 
 namespace shell {
 
-/// The delivered pages of help.
+/// The delivered pages of help: beside the page the contents, below it a search in the page.
 class Ayuda_ventana : public forms::Ventana {
   public:
     explicit Ayuda_ventana(forms::Entorno& alrededor, QWidget* padre = nullptr);
@@ -19,7 +25,22 @@ class Ayuda_ventana : public forms::Ventana {
     void Muestra() override {}
 
   private:
+    QBoxLayout* HazBotones();
+    void PonTeclas();
+    /// The links of the first page are the contents.
+    void LlenaContenido();
+    void MarcaContenido(const QUrl& pagina);
+    /// Finds the text typed, from the selection on; beyond an end the search goes on at the other.
+    void Busca(bool haciaAtras);
+
+    QListWidget* Contenido;
     QTextBrowser* Paginas;
+    QPushButton* cmdInicio;
+    QPushButton* cmdAtras;
+    QPushButton* cmdAdelante;
+    QPushButton* cmdCerrar;
+    QLineEdit* txtBuscar;
+    QLabel* lblBusqueda;
 };
 
 }  // namespace shell

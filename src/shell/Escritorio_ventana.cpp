@@ -31,10 +31,15 @@ Escritorio::Escritorio(const std::string& dirTrabajo)
     PonAvance();
     PonMandos();
     entorno.Presenta = [this](QWidget& ventana) { Presenta(ventana); };
+    entorno.AbreAyuda = [this](const std::string& ventana) { AyudaDeVentana(s, mandos, ventana); };
     PonVentanas();
 }
 
-Escritorio::~Escritorio() = default;
+Escritorio::~Escritorio()
+{
+    // It may still be the child of the window that asked for it last.
+    ventanaAyuda.reset();
+}
 
 void Escritorio::Arranca(double segundosPortada, const std::string& archivoConf)
 {
@@ -203,16 +208,22 @@ void Escritorio::Cierra(Ventana ventana)
 
 void Escritorio::Presenta(QWidget& ventana)
 {
-    auto* const dueno = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    QWidget* dueno = QApplication::activeModalWidget();
+    // The editor hides the main window, and whatever stands in it, for as long as it is at the front.
+    if (dueno == nullptr && !ventanaPrincipal->isVisible()) dueno = QApplication::activeWindow();
     if (dueno == nullptr) return ventanaPrincipal->Ventanas().Presenta(ventana);
-    if (ventana.parentWidget() != dueno) {
+    if (dueno != &ventana && ventana.parentWidget() != dueno) {
         ventanaPrincipal->Ventanas().Saca(ventana);
         ventana.setParent(dueno, Qt::Window);
         // It goes with the form that asked for it, and can then stand elsewhere.
-        QObject::connect(dueno, &QDialog::finished, &ventana, [&ventana] {
-            ventana.close();
-            ventana.setParent(nullptr);
-        });
+        if (const auto* const formulario = qobject_cast<QDialog*>(dueno))
+            QObject::connect(
+                formulario, &QDialog::finished, &ventana,
+                [&ventana] {
+                    ventana.close();
+                    ventana.setParent(nullptr);
+                },
+                Qt::SingleShotConnection);
     }
     ventana.show();
     ventana.raise();

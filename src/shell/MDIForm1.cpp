@@ -2,6 +2,7 @@
 #include "shell/MDIForm1.h"
 
 #include <algorithm>
+#include <array>
 #include <optional>
 
 #include "engine/mdlSeriePDR.h"
@@ -24,6 +25,21 @@ constexpr std::string_view FiltroExplora = "Todos los archivos (*) |*";
 constexpr std::string_view CarpetaAyuda = "Ayuda";
 constexpr std::string_view AyudaCompilada = "AyudaSIRO.chm";
 constexpr std::string_view PaginaInicial = "indice.html";
+constexpr std::string_view TerminacionPagina = ".html";
+
+/// Windows that share a page with another one.
+struct PaginaComun {
+    std::string_view ventana, pagina;
+};
+constexpr auto PaginasComunes = std::to_array<PaginaComun>({
+    {"dlgTablaSHV", "dlgTabla"},
+    {"dlgTablaFQ", "dlgTabla"},
+    {"dlgTablaSHVQ", "dlgTabla"},
+    {"dlgTablaSalePDR2", "dlgTablaSalePDR"},
+    {"dlgImportaTormenta", "dlgPpReal"},
+    {"dlgEliminarProyecto", "MDIForm1"},
+    {"frmAcerca", "MDIForm1"},
+});
 
 /// The wait pointer for as long as it lives, whatever ends the run.
 struct Espera {
@@ -54,15 +70,24 @@ bool HayArchivoDeAyuda(const Siro& s, std::string_view nombre)
     }
 }
 
+std::string RutaDeAyuda(const Siro& s, std::string_view nombre)
+{
+    return model::Ruta(model::Ruta(s.DirTrabajo, CarpetaAyuda), nombre);
+}
+
 /// Shows the help. Throws Falla 53 where there is none.
 void AbreAyuda(const Siro& s, const Mandos& m)
 {
-    const auto ruta = [&](std::string_view nombre) {
-        return model::Ruta(model::Ruta(s.DirTrabajo, CarpetaAyuda), nombre);
-    };
-    if (HayArchivoDeAyuda(s, AyudaCompilada) && m.AbreConElSistema(ruta(AyudaCompilada))) return;
+    if (HayArchivoDeAyuda(s, AyudaCompilada) && m.AbreConElSistema(RutaDeAyuda(s, AyudaCompilada))) return;
     if (!HayArchivoDeAyuda(s, PaginaInicial)) throw model::Falla{model::NumeroFalla::ArchivoNoEsta};
-    m.AbrePaginaDeAyuda(ruta(PaginaInicial));
+    m.AbrePaginaDeAyuda(RutaDeAyuda(s, PaginaInicial));
+}
+
+std::string PaginaDe(std::string_view ventana)
+{
+    const auto* const comun = std::find_if(PaginasComunes.begin(), PaginasComunes.end(),
+                                           [&](const PaginaComun& p) { return p.ventana == ventana; });
+    return std::string(comun == PaginasComunes.end() ? ventana : comun->pagina).append(TerminacionPagina);
 }
 
 }  // namespace
@@ -229,6 +254,13 @@ void mnuHelpContents(MDIForm1& /*f*/, Siro& s, const Mandos& m)
         s.Anfitrion.Termina();
     };
     model::Sentencia([&] { AbreAyuda(s, m); }, informa);
+}
+
+void AyudaDeVentana(const Siro& s, const Mandos& m, std::string_view ventana)
+{
+    const std::string pagina = PaginaDe(ventana);
+    for (const std::string_view nombre : {std::string_view(pagina), PaginaInicial})
+        if (HayArchivoDeAyuda(s, nombre)) return m.AbrePaginaDeAyuda(RutaDeAyuda(s, nombre));
 }
 
 }  // namespace shell

@@ -209,5 +209,8 @@ void mnuHidrogramas(MDIForm1& f, model::Siro& s, const Mandos& m);
 /// The compiled help through the system's viewer, or else the delivered pages; with neither it tells the
 /// fault and ends the program.
 void mnuHelpContents(MDIForm1& f, model::Siro& s, const Mandos& m);
+/// The delivered page of a window, by the window's object name, or else the first page. Nothing where there
+/// is neither: a key that has nothing to show must not cost the user his work.
+void AyudaDeVentana(const model::Siro& s, const Mandos& m, std::string_view ventana);
 
 }  // namespace shell

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <QAction>
 #include <QDialog>
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -8,6 +10,7 @@
 
 #include "apoyo/Ventanas.h"
 #include "forms/Entorno_ventana.h"
+#include "forms/Formulario_ventana.h"
 #include "forms/Impresion_ventana.h"
 #include "model/Falla.h"
 
@@ -91,6 +94,67 @@ TEST_F(EntornoDePrueba, UnaVentanaHijaSeActivaAlPasarAElla)
     formulario.close();
     apoyo::Muestra(principal);
     EXPECT_EQ(veces, 2);
+}
+
+// --- F1 ------------------------------------------------------------------------------------------------
+
+struct FormularioConCampo : Formulario {
+    explicit FormularioConCampo(Entorno& alrededor) : Formulario(alrededor, "dlgDePrueba") {}
+    void Muestra() override {}
+    QLineEdit campo{this};
+};
+
+struct VentanaConCampo : Ventana {
+    explicit VentanaConCampo(Entorno& alrededor) : Ventana(alrededor, "frmDePrueba") {}
+    void Muestra() override {}
+    QLineEdit campo{this};
+};
+
+struct AyudaDePrueba : EntornoDePrueba {
+    AyudaDePrueba()
+    {
+        mundo.entorno.AbreAyuda = [this](const std::string& ventana) { pedidas.push_back(ventana); };
+    }
+    std::vector<std::string> pedidas{};
+};
+
+TEST_F(AyudaDePrueba, F1PideLaPaginaDelFormularioDesdeCualquieraDeSusCampos)
+{
+    FormularioConCampo formulario(mundo.entorno);
+    apoyo::Muestra(formulario);
+    formulario.campo.setFocus();
+    QTest::keyClick(&formulario.campo, Qt::Key_F1);
+    EXPECT_EQ(pedidas, std::vector<std::string>{"dlgDePrueba"});
+    EXPECT_TRUE(formulario.isVisible());
+    QTest::keyClick(&formulario.campo, Qt::Key_F1, Qt::ShiftModifier);
+    QTest::keyClick(&formulario.campo, Qt::Key_F2);
+    EXPECT_EQ(pedidas.size(), 1U);
+}
+
+TEST_F(AyudaDePrueba, F1DeUnaVentanaVaAntesQueElAtajoDeLaQueLaContiene)
+{
+    QMainWindow principal;
+    QAction indice(&principal);
+    indice.setShortcut(Qt::Key_F1);
+    principal.addAction(&indice);
+    int veces = 0;
+    QObject::connect(&indice, &QAction::triggered, &principal, [&] { ++veces; });
+    auto* const centro = new QWidget(&principal);
+    principal.setCentralWidget(centro);
+    VentanaConCampo ventana(mundo.entorno);
+    ventana.setParent(centro);
+    QLineEdit deAfuera(centro);
+    apoyo::Muestra(principal);
+    ventana.campo.setFocus();
+    QTest::keyClick(&ventana.campo, Qt::Key_F1);
+    EXPECT_EQ(pedidas, std::vector<std::string>{"frmDePrueba"});
+    EXPECT_EQ(veces, 0);
+    deAfuera.setFocus();
+    QTest::keyClick(&deAfuera, Qt::Key_F1);
+    EXPECT_EQ(pedidas.size(), 1U);
+    EXPECT_EQ(veces, 1);
+    ventana.setParent(nullptr);
+    deAfuera.setParent(nullptr);
 }
 
 TEST_F(EntornoDePrueba, SinImpresoraSeDicePorQueNoImprime)

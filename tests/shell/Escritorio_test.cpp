@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFile>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -309,6 +310,78 @@ TEST_F(EscritorioDePrueba, LaAyudaEntregadaSeAbreEntreLasVentanas)
     EXPECT_TRUE(paginas.toPlainText().contains(QStringLiteral("Un primer cálculo")));
     EXPECT_EQ(apoyo::SinNombre(*paginas.window()), std::vector<std::string>{});
     EXPECT_FALSE(escritorio.entorno.Terminando());
+}
+
+TEST_F(EscritorioDePrueba, F1EnUnaVentanaAbreSuPaginaYNoElIndice)
+{
+    Arranca(instalacion.Quelmar());
+    Accion("mnuPizarra1").trigger();
+    auto& pizarra = Control<QWidget>(escritorio.Principal(), "frmPp");
+    auto& texto = Control<QWidget>(pizarra, "Text1");
+    texto.setFocus();
+    QTest::keyClick(&texto, Qt::Key_F1);
+    auto& paginas = Control<QTextBrowser>(escritorio.Principal(), "Paginas");
+    EXPECT_TRUE(paginas.isVisible());
+    EXPECT_EQ(paginas.source().fileName(), QStringLiteral("frmPp.html"));
+    EXPECT_TRUE(paginas.toPlainText().contains(QStringLiteral("Pizarra")));
+}
+
+TEST_F(EscritorioDePrueba, LaAyudaRecorreSusPaginasYBuscaEnEllas)
+{
+    Arranca();
+    Accion("mnuHelpContents").trigger();
+    QMainWindow& principal = escritorio.Principal();
+    auto& paginas = Control<QTextBrowser>(principal, "Paginas");
+    auto& contenido = Control<QListWidget>(principal, "Contenido");
+    auto& atras = Control<QPushButton>(principal, "cmdAtras");
+    auto& adelante = Control<QPushButton>(principal, "cmdAdelante");
+    const auto pagina = [&] { return DeQ(paginas.source().fileName()); };
+    EXPECT_EQ(pagina(), "indice.html");
+    EXPECT_GT(contenido.count(), 20);
+    EXPECT_FALSE(atras.isEnabled());
+
+    const auto tutorial = contenido.findItems(QStringLiteral("Tutorial"), Qt::MatchStartsWith);
+    ASSERT_EQ(tutorial.size(), 1);
+    QTest::mouseClick(contenido.viewport(), Qt::LeftButton, {},
+                      contenido.visualItemRect(tutorial[0]).center());
+    EXPECT_EQ(pagina(), "tutorial.html");
+    apoyo::Pulsa(atras);
+    EXPECT_EQ(pagina(), "indice.html");
+    apoyo::Pulsa(adelante);
+    EXPECT_EQ(pagina(), "tutorial.html");
+    EXPECT_EQ(contenido.currentItem(), tutorial[0]);
+
+    auto& buscado = Control<QLineEdit>(principal, "txtBuscar");
+    auto& aviso = Control<QLabel>(principal, "lblBusqueda");
+    apoyo::Escribe(buscado, "muskingum");
+    QTest::keyClick(&buscado, Qt::Key_Return);
+    EXPECT_EQ(paginas.textCursor().selectedText().toLower(), QStringLiteral("muskingum"));
+    EXPECT_EQ(aviso.text(), QString());
+    apoyo::Escribe(buscado, "xyzzy");
+    QTest::keyClick(&buscado, Qt::Key_Return);
+    EXPECT_EQ(aviso.text(), QStringLiteral("No está en esta página"));
+    apoyo::Pulsa(Control<QPushButton>(principal, "cmdInicio"));
+    EXPECT_EQ(pagina(), "indice.html");
+    EXPECT_EQ(aviso.text(), QString());
+}
+
+TEST_F(EscritorioDePrueba, ConLaPrincipalOcultaLaAyudaSeVeIgual)
+{
+    Arranca();
+    QWidget editor;
+    editor.setObjectName(QStringLiteral("frmUEHs"));
+    escritorio.Principal().hide();
+    apoyo::Muestra(editor);
+    escritorio.entorno.AbreAyuda("frmUEHs");
+    auto& paginas = Control<QTextBrowser>(editor, "Paginas");
+    EXPECT_TRUE(paginas.isVisible());
+    EXPECT_TRUE(paginas.window()->isWindow());
+    EXPECT_EQ(paginas.source().fileName(), QStringLiteral("frmUEHs.html"));
+    editor.close();
+    escritorio.Principal().show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&escritorio.Principal()));
+    escritorio.entorno.AbreAyuda("frmPp");
+    EXPECT_TRUE(escritorio.Principal().isAncestorOf(&paginas));
 }
 
 TEST_F(EscritorioDePrueba, SalirAnotaElProyectoYTermina)

@@ -593,6 +593,32 @@ TEST_F(Ayuda, SinNingunaSeDiceLaFallaYElProgramaTermina)
     EXPECT_TRUE(anfitrion->Termino());
 }
 
+TEST_F(Ayuda, UnaVentanaTieneSuPaginaPorSuNombre)
+{
+    disco.Pon(pagina, "x");
+    disco.Pon(compilada, "x");
+    disco.Pon(model::Ruta(carpeta, "dlgPp.html"), "x");
+    disco.Pon(model::Ruta(carpeta, "dlgTabla.html"), "x");
+    AyudaDeVentana(s, m, "dlgPp");
+    EXPECT_EQ(pedidos, Lista{"pagina " + model::Ruta(carpeta, "dlgPp.html")});
+    pedidos.clear();
+    AyudaDeVentana(s, m, "dlgTablaSHVQ");  // its two twins and it share one
+    EXPECT_EQ(pedidos, Lista{"pagina " + model::Ruta(carpeta, "dlgTabla.html")});
+}
+
+TEST_F(Ayuda, UnaVentanaSinPaginaAbreLaPrimeraYSinNingunaNada)
+{
+    disco.Pon(pagina, "x");
+    AyudaDeVentana(s, m, "dlgPp");
+    EXPECT_EQ(pedidos, Lista{"pagina " + pagina});
+    pedidos.clear();
+    disco.Quita(pagina);
+    AyudaDeVentana(s, m, "dlgPp");
+    EXPECT_EQ(pedidos, Lista{});
+    EXPECT_EQ(anfitrion->Avisos(), Cajas{});
+    EXPECT_FALSE(anfitrion->Termino());
+}
+
 TEST_F(MarcoDePrueba, SalirAnotaElProyectoYTerminaSinPreguntar)
 {
     PonProyecto();
