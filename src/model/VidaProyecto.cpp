@@ -217,14 +217,18 @@ bool NombreProyectoValido(std::string_view nombre)
     });
 }
 
-void mnuNuevoProyecto(Siro& s)
+bool mnuNuevoProyecto(Siro& s)
 {
     LimpiaProyecto(s);
     const std::string nombre = PideNombre(s, TituloNuevo);
-    if (nombre.empty()) return;
+    if (nombre.empty()) return false;
+    bool hayNuevo = false;
     ConFallaFatal(s, [&] {
-        if (TomaNombreNuevo(s, nombre)) carga_lbl_proyecto(s);
+        if (!TomaNombreNuevo(s, nombre)) return;
+        carga_lbl_proyecto(s);
+        hayNuevo = true;
     });
+    return hayNuevo;
 }
 
 void mnuAbrirProyecto(Siro& s)

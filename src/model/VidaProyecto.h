@@ -40,8 +40,9 @@ bool NombreProyectoValido(std::string_view nombre);
 
 /// Asks for a name and makes it the current project's. Nothing of the project is written here: that is done
 /// when its configuration, which ProyectoNuevo announces, is confirmed. A name that exists is told and stays
-/// the current one. A file fault other than a missing file is told and ends the program.
-void mnuNuevoProyecto(Siro& s);
+/// the current one. A file fault other than a missing file is told and ends the program. Returns whether
+/// there is a new project, whose configuration is to be opened.
+bool mnuNuevoProyecto(Siro& s);
 
 /// Asks for a configuration file and opens its project. Faults never end the program.
 void mnuAbrirProyecto(Siro& s);

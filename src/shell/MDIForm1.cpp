@@ -144,6 +144,11 @@ bool ExigeProyecto(const Siro& s)
     return false;
 }
 
+void mnuNuevoProyecto(MDIForm1& /*f*/, Siro& s, const Mandos& m)
+{
+    if (model::mnuNuevoProyecto(s)) m.Abre(Ventana::frmConfigura);
+}
+
 void mnuDirCrea(MDIForm1& /*f*/, Siro& s, const Mandos& /*m*/)
 {
     s.Anfitrion.EligeArchivo(TituloExplora, FiltroExplora);

@@ -190,6 +190,8 @@ void Cierra(model::Siro& s);
 
 /// Whether a project is named; without one it tells so.
 bool ExigeProyecto(const model::Siro& s);
+/// Names a new project and opens its configuration, which stores it; nothing opens where the name is refused.
+void mnuNuevoProyecto(MDIForm1& f, model::Siro& s, const Mandos& m);
 void mnuDirCrea(MDIForm1& f, model::Siro& s, const Mandos& m);
 /// The configuration until it is closed, then the labels.
 void mnuOpcionesConfigurar(MDIForm1& f, model::Siro& s, const Mandos& m);

@@ -52,7 +52,7 @@ void ConSerie(MDIForm1& /*f*/, Siro& s, const Mandos& m)
     if (s.NroSeriePDR > 1) m.Abre(ventana);
 }
 
-constexpr Rutina Nuevo = DelProyecto<model::mnuNuevoProyecto>;
+constexpr Rutina Nuevo = mnuNuevoProyecto;
 constexpr Rutina Abrir = DelProyecto<model::mnuAbrirProyecto>;
 constexpr Rutina Salir = DelProyecto<Cierra>;
 constexpr Rutina EditorTabla = ConProyecto<Ventana::dlgUEHsEditTabla>;

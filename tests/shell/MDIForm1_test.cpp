@@ -333,6 +333,25 @@ TEST_F(MarcoDePrueba, LaConfiguracionDelMenuEsperaYRefrescaYLaDeLaBarraNo)
 
 // --- Slate ---------------------------------------------------------------------------------------------
 
+TEST_F(MarcoDePrueba, NuevoAbreLaConfiguracionDelProyectoNuevo)
+{
+    for (const bool porLaBarra : {false, true}) {
+        anfitrion->textos.emplace_back(porLaBarra ? "Otro" : "Uno");
+        EXPECT_EQ(porLaBarra ? Pulsa("Nuevo") : Elige("mnuNuevoProyecto"), Lista{"abre frmConfigura"});
+        EXPECT_TRUE(s.ProyectoNuevo) << "the configuration stores the project as it opens";
+    }
+}
+
+TEST_F(MarcoDePrueba, NuevoSinNombreOConUnoRechazadoNoAbreLaConfiguracion)
+{
+    disco.Pon(model::Ruta(Proyectos, "Viejo_Conf.vlm"), "");
+    s.ProyectoNuevo = true;  // of a project that could not be stored
+    for (const char* nombre : {"", "con_guion", "Viejo"}) {
+        anfitrion->textos.emplace_back(nombre);
+        EXPECT_EQ(Elige("mnuNuevoProyecto"), Lista{}) << nombre;
+    }
+}
+
 TEST_F(MarcoDePrueba, LaPizarraSeAbreConElTextoDeLaUltimaCorrida)
 {
     PonProyecto();
