@@ -177,6 +177,7 @@ frmUEHs_ventana::frmUEHs_ventana(forms::Entorno& alrededor, frmUEHs& reglas, QWi
     ConectaLienzo();
     entorno.AlActivarse(*this, [this] {
         AlActivarse(f, entorno.s);
+        MuestraPrincipal(f.principalVisible);
         Muestra();
     });
 }

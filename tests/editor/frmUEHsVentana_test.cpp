@@ -331,6 +331,22 @@ TEST_F(VentanaDelEditor, EscPreguntaSiGuardaYVuelveLaPrincipal)
     EXPECT_EQ(mundo.anfitrion->Preguntas().back().titulo, "Resguardo de datos de componentes UEHs");
 }
 
+TEST_F(VentanaDelEditor, AlPerderElFocoVuelveLaPrincipalYAlRecuperarloSeEscondeOtraVez)
+{
+    Abre("Quelmar");
+    EXPECT_FALSE(principal);
+    QWidget otra;
+    otra.show();
+    otra.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&otra));
+    EXPECT_TRUE(principal);
+    s.AvisoDescargasVisto = true;
+    ventana->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(ventana.get()));
+    EXPECT_FALSE(principal);
+    EXPECT_FALSE(s.AvisoDescargasVisto);
+}
+
 TEST_F(VentanaDelEditor, ElMarcoCierraUnaRedVaciaSinPreguntarYEscLaDejaAbierta)
 {
     Abre("Vacio");
