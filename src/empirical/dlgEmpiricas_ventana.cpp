@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <cstddef>
 
+#include "empirical/FormulaDibujada_ventana.h"
 #include "forms/Textos_ventana.h"
 
 namespace empirical {
@@ -21,10 +22,7 @@ using forms::Q;
 namespace {
 
 constexpr int LetrasDeUnDato = 10;
-constexpr int LetrasDeUnResultado = 14;  // seven digits, point, sign and exponent
-
-constexpr std::string_view AbreExponente = "^{";
-constexpr char CierraExponente = '}';
+constexpr char16_t ResultadoMasLargo[] = u"0.000000E+00  ";  // seven digits and an exponent
 
 QString Nombre(std::string_view prefijo, std::string_view control)
 {
@@ -40,13 +38,11 @@ QLabel* Leyenda(std::string_view texto, std::string_view ayuda)
     return leyenda;
 }
 
-QLabel* Formula(std::string_view expresion, std::string_view control, std::string_view ayuda)
+FormulaDibujada* Formula(std::string_view expresion, std::string_view control, std::string_view ayuda)
 {
-    auto* const formula = new QLabel(Dibuja(expresion));
+    auto* const formula = new FormulaDibujada(expresion);
     formula->setObjectName(Nombre("formula_", control));
-    formula->setTextFormat(Qt::RichText);
     formula->setToolTip(Q(ayuda));
-    formula->setForegroundRole(QPalette::WindowText);
     return formula;
 }
 
@@ -66,32 +62,6 @@ QGroupBox* Marco(std::string_view titulo, const char* nombre)
 }
 
 }  // namespace
-
-QString Dibuja(std::string_view expresion)
-{
-    QString dibujo;
-    bool elevado = false;
-    for (std::size_t i = 0; i < expresion.size();) {
-        if (expresion.substr(i).starts_with(AbreExponente)) {
-            dibujo += QStringLiteral("<sup>");
-            elevado = true;
-            i += AbreExponente.size();
-        } else if (elevado && expresion[i] == CierraExponente) {
-            dibujo += QStringLiteral("</sup>");
-            elevado = false;
-            ++i;
-        } else {
-            const std::size_t fin = std::min(expresion.find_first_of("^}SLHi", i + 1), expresion.size());
-            const std::string_view trozo = expresion.substr(i, fin - i);
-            const bool variable = std::string_view("SLHi").find(trozo.front()) != std::string_view::npos;
-            const QString texto = Q(trozo).toHtmlEscaped();
-            dibujo += variable ? QStringLiteral("<i>") + texto.left(1) + QStringLiteral("</i>") + texto.mid(1)
-                               : texto;
-            i = fin;
-        }
-    }
-    return dibujo;
-}
 
 dlgEmpiricas_ventana::dlgEmpiricas_ventana(forms::Entorno& alrededor, dlgEmpiricas& registro, QWidget* padre)
     : Ventana(alrededor, "dlgEmpiricas", padre), f(registro)
@@ -116,8 +86,6 @@ dlgEmpiricas_ventana::dlgEmpiricas_ventana(forms::Entorno& alrededor, dlgEmpiric
     auto* const lados = new QHBoxLayout(this);
     lados->addLayout(izquierda);
     lados->addWidget(ConstruyeQp(), 1);
-    for (QWidget* const ultimo : {static_cast<QWidget*>(cmdCopiar), static_cast<QWidget*>(btnCerrar)})
-        ultimo->raise();
     setTabOrder(Qp.back(), cmdCopiar);
     setTabOrder(cmdCopiar, btnCerrar);
 
@@ -166,6 +134,7 @@ QGroupBox* dlgEmpiricas_ventana::ConstruyeDatosTc()
     lblSup->setObjectName(QStringLiteral("lblSup"));
     lblSup->setTextFormat(Qt::PlainText);
     lblSup->setFrameShape(QFrame::StyledPanel);
+    lblSup->setMinimumHeight(entradas.front()->sizeHint().height());
     lblSup->setAccessibleName(Q(LeyendaLblSup));
     rejilla->addWidget(Leyenda(LeyendaLblSup, ""), 0, 0);
     rejilla->addWidget(lblSup, 0, 1);
@@ -188,7 +157,8 @@ QGroupBox* dlgEmpiricas_ventana::ConstruyeTc()
         Tc.at(k)->setTextInteractionFlags(Qt::TextSelectableByMouse);
         Tc.at(k)->setFrameShape(QFrame::StyledPanel);
         Tc.at(k)->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        Tc.at(k)->setMinimumWidth(fontMetrics().averageCharWidth() * LetrasDeUnDato);
+        Tc.at(k)->setMinimumSize(fontMetrics().averageCharWidth() * LetrasDeUnDato,
+                                 entradas.front()->sizeHint().height());
         Tc.at(k)->setToolTip(Q(formula.ayuda));
         Tc.at(k)->setAccessibleName(Q(formula.leyenda));
         const int fila = static_cast<int>(k);
@@ -212,7 +182,7 @@ QGroupBox* dlgEmpiricas_ventana::ConstruyeQp()
         Qp.at(k)->setObjectName(Q(formula.control));
         Qp.at(k)->setReadOnly(true);
         Qp.at(k)->setAlignment(Qt::AlignRight);
-        Qp.at(k)->setFixedWidth(fontMetrics().averageCharWidth() * LetrasDeUnResultado);
+        Qp.at(k)->setFixedWidth(fontMetrics().horizontalAdvance(QString::fromUtf16(ResultadoMasLargo)));
         Qp.at(k)->setToolTip(Q(formula.ayuda));
         auto* const leyenda = Leyenda(formula.leyenda, formula.ayudaRotulo);
         leyenda->setObjectName(Nombre("leyenda_", formula.control));

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QString>
 #include <array>
-#include <string_view>
 
 #include "empirical/dlgEmpiricas.h"
 #include "forms/Formulario_ventana.h"
@@ -15,9 +13,6 @@ class QLineEdit;
 class QPushButton;
 
 namespace empirical {
-
-/// A formula as rich text: its exponents raised, its variables slanted.
-QString Dibuja(std::string_view expresion);
 
 /// Window of the calculator.
 class dlgEmpiricas_ventana : public forms::Ventana {

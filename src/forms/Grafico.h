@@ -56,6 +56,7 @@ struct Grafico {
     std::string titulo{}, notaAlPie{};
     std::string ejeX{}, ejeY{}, ejeYSecundario{};
     bool leyendaVisible = false;
+    std::string tituloLeyenda{};  ///< what the names of the series are
     bool marcasEjeX = true;
     EscalaCategorias escala{};
     bool operator==(const Grafico&) const = default;

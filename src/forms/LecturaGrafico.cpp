@@ -27,7 +27,8 @@ std::string Unidad(std::string_view titulo)
 /// Name of a series: its legend, or else the title of its axis without the unit.
 std::string NombreDe(const Grafico& grafico, const Serie& serie)
 {
-    if (!serie.leyenda.empty()) return serie.leyenda;
+    if (!serie.leyenda.empty())
+        return grafico.tituloLeyenda.empty() ? serie.leyenda : grafico.tituloLeyenda + " " + serie.leyenda;
     std::string_view nombre = TituloDelEje(grafico, serie);
     nombre = nombre.substr(0, nombre.rfind('['));
     while (nombre.ends_with(' '))
@@ -125,7 +126,8 @@ bool MismaEstructura(const Grafico& a, const Grafico& b)
     };
     return a.tipo == b.tipo && a.titulo == b.titulo && a.notaAlPie == b.notaAlPie && a.ejeX == b.ejeX &&
            a.ejeY == b.ejeY && a.ejeYSecundario == b.ejeYSecundario && a.leyendaVisible == b.leyendaVisible &&
-           a.marcasEjeX == b.marcasEjeX && a.escala == b.escala && a.marcas.size() == b.marcas.size() &&
+           a.tituloLeyenda == b.tituloLeyenda && a.marcasEjeX == b.marcasEjeX && a.escala == b.escala &&
+           a.marcas.size() == b.marcas.size() &&
            std::equal(a.series.begin(), a.series.end(), b.series.begin(), b.series.end(), iguales);
 }
 

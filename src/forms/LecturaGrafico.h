@@ -11,7 +11,8 @@
 namespace forms {
 
 /// The row under the pointer: its category, then a line per series with a value there, as
-/// "Qsale = 1.25 m3/s". Rows from 0; one outside the table gives no text.
+/// "Qsale = 1.25 m3/s", after the title of the legend where it has one. Rows from 0; one outside the table
+/// gives no text.
 std::string LecturaDeFila(const Grafico& grafico, std::size_t fila);
 
 /// What a reader of the screen says of a chart: number of rows, and the peak of each series and where it is.

@@ -23,6 +23,21 @@ constexpr auto Tramas = std::to_array<Trama>({
     {0xff4b6478, 0xffa9bccb, Qt::DashDotLine},
     {0xff7a3fb0, 0xffc29bf0, Qt::DotLine},
 });
+/// The colours come round again for further lines, dashed otherwise, their dots square.
+Qt::PenStyle TrazoDeVuelta(Qt::PenStyle trazo)
+{
+    switch (trazo) {
+    case Qt::SolidLine:
+        return Qt::DashDotDotLine;
+    case Qt::DashLine:
+        return Qt::DotLine;
+    case Qt::DashDotLine:
+        return Qt::SolidLine;
+    default:
+        return Qt::DashLine;
+    }
+}
+
 constexpr Trama Lluvia = {0xff4a90c4, 0xff6fb6e8, Qt::SolidLine};
 constexpr int OpacidadDeLluvia = 110;  // of 255
 
@@ -77,6 +92,7 @@ void Trazo::PonLetra(const QFont& base)
         eje->setLabelFont(letra);
     }
     plano.legend->setFont(letra);
+    tituloLeyenda->setFont(letra);
     titulo->setFont(fuerte);
     nota->setFont(chica);
     lectura->setFont(letra);
@@ -94,6 +110,7 @@ void Trazo::Colorea()
     plano.xAxis->setTickLength(0, marcas ? LargoDeMarca : 0);
     plano.xAxis->setSubTickLength(0, grafico.marcasEjeX ? LargoDeSubmarca : 0);
     plano.legend->setTextColor(tinta.texto);
+    tituloLeyenda->setTextColor(tinta.texto);
     titulo->setTextColor(tinta.texto);
     nota->setTextColor(tinta.texto);
     hilo->setPen(QPen(tinta.ejes, 1, Qt::DashLine));
@@ -129,9 +146,11 @@ void Trazo::ColoreaSeries()
     for (std::size_t i = 0; i < lineas.size(); ++i) {
         QCPGraph& linea = *lineas[i];
         const bool escalon = EscalonEn(i);
-        const Trama& trama = escalon ? Lluvia : Tramas[nroLinea++ % Tramas.size()];
+        const Trama& trama = escalon ? Lluvia : Tramas[nroLinea % Tramas.size()];
+        const bool otraVuelta = !escalon && nroLinea >= Tramas.size();
+        if (!escalon) ++nroLinea;
         const QColor color = QColor::fromRgba(tinta.oscura ? trama.oscuro : trama.claro);
-        QPen pluma(color, escalon ? 1 : Grueso, trama.trazo);
+        QPen pluma(color, escalon ? 1 : Grueso, otraVuelta ? TrazoDeVuelta(trama.trazo) : trama.trazo);
         pluma.setCapStyle(Qt::FlatCap);
         pluma.setJoinStyle(escalon ? Qt::MiterJoin : Qt::RoundJoin);
         linea.setPen(pluma);
@@ -140,9 +159,10 @@ void Trazo::ColoreaSeries()
         linea.setBrush(escalon ? QBrush(relleno) : QBrush(Qt::NoBrush));
         constexpr double Punto = 5;
         const bool pocos = grafico.categorias.size() <= PocosPuntos;
-        linea.setScatterStyle(!escalon && pocos
-                                  ? QCPScatterStyle(QCPScatterStyle::ssDisc, color, color, Punto)
-                                  : QCPScatterStyle());
+        linea.setScatterStyle(!escalon && pocos ? QCPScatterStyle(otraVuelta ? QCPScatterStyle::ssSquare
+                                                                             : QCPScatterStyle::ssDisc,
+                                                                  color, color, Punto)
+                                                : QCPScatterStyle());
         puntosLeidos[i]->setPen(QPen(color, Grueso));
         puntosLeidos[i]->setBrush(tinta.fondo);
         constexpr double PuntoLeido = 8;
@@ -156,6 +176,10 @@ void Trazo::ColoreaSeries()
         puntosMarcados[i]->setBrush(tinta.fondo);
         puntosMarcados[i]->setSize(PuntoMarcado);
         rotulosMarcados[i]->setColor(tinta.texto);
+        QColor papel = tinta.fondo;
+        constexpr int OpacidadDeRotulo = 190;
+        papel.setAlpha(OpacidadDeRotulo);
+        rotulosMarcados[i]->setBrush(papel);
         rotulosMarcados[i]->setFont(plano.xAxis->tickLabelFont());
     }
 }

@@ -73,6 +73,7 @@ Trazo::Trazo(QCustomPlot& superficie, bool reducido)
       titulo(new QCPTextElement(&superficie)),
       nota(new QCPTextElement(&superficie)),
       faja(new QCPLayoutGrid),
+      tituloLeyenda(new QCPTextElement(&superficie)),
       hilo(new QCPItemStraightLine(&superficie)),
       lectura(new QCPItemText(&superficie))
 {
@@ -101,6 +102,7 @@ Trazo::Trazo(QCustomPlot& superficie, bool reducido)
     constexpr QMargins LugarParaElUltimoRotulo(4, 10, 16, 4);
     plano.axisRect()->setMinimumMargins(LugarParaElUltimoRotulo);
     PonFajaDeLeyenda();
+    QObject::connect(&plano, &QCustomPlot::afterLayout, &plano, [this] { AcomodaMarcas(); });
 
     for (QCPAbstractItem* const item :
          {static_cast<QCPAbstractItem*>(hilo), static_cast<QCPAbstractItem*>(lectura)}) {
@@ -125,7 +127,8 @@ void Trazo::PonFajaDeLeyenda()
     plano.plotLayout()->addElement(1, 0, faja);
     leyenda->layout()->take(leyenda);
     faja->setMargins(BordeInferior);
-    faja->addElement(0, 0, new QCPLayoutElement(&plano));
+    faja->addElement(0, 0, tituloLeyenda);
+    tituloLeyenda->setTextFlags(Qt::AlignRight | Qt::AlignVCenter);
     faja->addElement(0, 1, leyenda);
     faja->addElement(0, 2, new QCPLayoutElement(&plano));
     faja->setColumnStretchFactor(1, LoMenos);
@@ -177,6 +180,7 @@ void Trazo::ArmaFilas()
     leyenda->setVisible(grafico.leyendaVisible &&
                         std::any_of(grafico.series.begin(), grafico.series.end(),
                                     [](const Serie& s) { return !s.leyenda.empty(); }));
+    tituloLeyenda->setText(Q(grafico.tituloLeyenda));
     titulo->setText(Q(grafico.titulo));
     titulo->setVisible(!compacto && !grafico.titulo.empty());
     nota->setText(Q(grafico.notaAlPie));
@@ -266,9 +270,7 @@ void Trazo::PonMarcas()
     }
     for (std::size_t i = 0; i < grafico.marcas.size(); ++i) {
         const Marca& marca = grafico.marcas[i];
-        const bool hay = marca.serie < lineas.size() &&
-                         marca.fila < grafico.series[marca.serie].celdas.size() &&
-                         !EstaVacia(grafico.series[marca.serie].celdas[marca.fila]);
+        const bool hay = HayMarca(i);
         puntosMarcados[i]->setVisible(hay);
         rotulosMarcados[i]->setVisible(hay);
         if (!hay) continue;
@@ -285,6 +287,36 @@ void Trazo::PonMarcas()
                                                  (aLaDerecha ? Qt::AlignRight : Qt::AlignLeft));
     }
     ColoreaSeries();
+}
+
+bool Trazo::HayMarca(std::size_t cual) const
+{
+    const Marca& marca = grafico.marcas[cual];
+    if (marca.serie >= lineas.size()) return false;
+    const std::vector<double>& celdas = grafico.series[marca.serie].celdas;
+    return marca.fila < celdas.size() && !EstaVacia(celdas[marca.fila]);
+}
+
+/// Of labels that would stand over one another the topmost stays; each point keeps its ring.
+void Trazo::AcomodaMarcas()
+{
+    std::vector<std::size_t> deArribaAbajo;
+    for (std::size_t i = 0; i < rotulosMarcados.size() && i < grafico.marcas.size(); ++i)
+        if (HayMarca(i)) deArribaAbajo.push_back(i);
+    const auto lugar = [&](std::size_t i) { return rotulosMarcados[i]->position->pixelPosition(); };
+    std::stable_sort(deArribaAbajo.begin(), deArribaAbajo.end(),
+                     [&](std::size_t a, std::size_t b) { return lugar(a).y() < lugar(b).y(); });
+    QList<QRectF> ocupados;
+    for (const std::size_t i : deArribaAbajo) {
+        QCPItemText& rotulo = *rotulosMarcados[i];
+        QRectF sitio = QFontMetricsF(rotulo.font()).boundingRect(rotulo.text());
+        sitio.moveBottomLeft(lugar(i));
+        if (rotulo.positionAlignment().testFlag(Qt::AlignRight)) sitio.moveRight(lugar(i).x());
+        const bool libre = std::none_of(ocupados.cbegin(), ocupados.cend(),
+                                        [&](const QRectF& otro) { return otro.intersects(sitio); });
+        rotulo.setVisible(libre);
+        if (libre) ocupados.append(sitio);
+    }
 }
 
 // --- scales --------------------------------------------------------------------------------------------

@@ -70,6 +70,8 @@ class Trazo {
     void ArmaSeries();
     void PonDatos();
     void PonMarcas();
+    void AcomodaMarcas();
+    [[nodiscard]] bool HayMarca(std::size_t cual) const;
     void PonEscalas();
     void PonEscalaSecundaria();
     void Colorea();
@@ -97,6 +99,7 @@ class Trazo {
     QCPTextElement* titulo;
     QCPTextElement* nota;
     QCPLayoutGrid* faja;  ///< of the legend
+    QCPTextElement* tituloLeyenda;
     QCPItemStraightLine* hilo;
     QCPItemText* lectura;
 };

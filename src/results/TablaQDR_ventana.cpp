@@ -59,7 +59,7 @@ class VistaQDR::Modelo : public QAbstractTableModel {
         case Qt::TextAlignmentRole:
             return static_cast<int>(Qt::AlignCenter);
         case Qt::FontRole:
-            if (fila.clase == ClaseFila::Total) return fuerte;
+            if (fila.clase == ClaseFila::Total && indice.column() == 0) return fuerte;
             return {};
         case Qt::BackgroundRole:
             if (fila.clase == ClaseFila::Titulo)

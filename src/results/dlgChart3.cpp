@@ -23,6 +23,7 @@ constexpr int Decimales = 2;
 constexpr std::int16_t PasoDelEje = 1;
 constexpr std::int16_t MinimoDeTormentas = 2;  ///< a curve needs two points
 
+constexpr std::string_view TituloRecurrencia = "R[años]";
 constexpr std::string_view EjeDuracion = "Duración Tormenta D[minutos]";
 constexpr std::string_view Titulo = "Serie de Tormentas Sintéticas: Gráficos Qp-D-R  -  E-D-R  -  CE-D-R";
 constexpr std::string_view NotaVelmirAlAbrir = "SIRO: Simulación lluvia-caudal";
@@ -191,6 +192,7 @@ void Abre(dlgChart3& f, Siro& s)
     }
     f.Grafico.tipo = forms::TipoGrafico::Linea;
     f.Grafico.leyendaVisible = true;
+    f.Grafico.tituloLeyenda = TituloRecurrencia;
     f.Grafico.ejeY = Magnitudes.front().ejeY;
     f.Grafico.ejeX = EjeDuracion;
     f.lblNotaVelmir = NotaVelmirAlAbrir;

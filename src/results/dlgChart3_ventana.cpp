@@ -66,13 +66,11 @@ void dlgChart3_ventana::Construye()
     auto* const centro = new QHBoxLayout;
     centro->addWidget(Grafico, 1);
     centro->addLayout(ConstruyeListas());
-    auto* const notas = new QHBoxLayout;
-    notas->addWidget(lblNota, 1);
-    notas->addWidget(lblNotaVelmir);
     auto* const pila = new QVBoxLayout(this);
     pila->addWidget(lblTitulo);
     pila->addLayout(centro, 1);
-    pila->addLayout(notas);
+    pila->addWidget(lblNota);
+    pila->addWidget(lblNotaVelmir);
     pila->addLayout(ConstruyeBotones());
 }
 

@@ -3,11 +3,13 @@
 
 #include <QClipboard>
 #include <QGroupBox>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 
 #include "apoyo/Ventanas.h"
+#include "empirical/FormulaDibujada_ventana.h"
 #include "forms/Textos_ventana.h"
 
 namespace empirical {
@@ -107,20 +109,46 @@ TEST_F(VentanaEmpiricas, LasAyudasYLeyendasEstanALaLetra)
     EXPECT_EQ(DeQ(Control<QPushButton>(ventana, "btnCerrar").text()), "&Cerrar");
 }
 
-TEST_F(VentanaEmpiricas, LasFormulasSeDibujanConSusExponentes)
+TEST_F(VentanaEmpiricas, CadaResultadoTieneSuFormulaEnteraAlLado)
 {
-    EXPECT_EQ(DeQ(Dibuja("0.55 · 30 · S^{S − 0.05}")), "0.55 · 30 · <i>S</i><sup><i>S</i> − 0.05</sup>");
-    EXPECT_EQ(DeQ(Dibuja("60 · (0.87 · L^{3} / H)^{0.385}")),
-              "60 · (0.87 · <i>L</i><sup>3</sup> / <i>H</i>)<sup>0.385</sup>");
-    EXPECT_EQ(DeQ(Dibuja("S < 1 & i")), "<i>S</i> &lt; 1 &amp; <i>i</i>");
-    EXPECT_EQ(DeQ(Dibuja("")), "");
-    for (const FormulaQp& formula : FormulasQp()) {
-        const QString nombre = QStringLiteral("formula_") + forms::Q(formula.control);
-        const auto* const dibujo = ventana.findChild<QLabel*>(nombre);
-        ASSERT_NE(dibujo, nullptr) << formula.control;
-        EXPECT_EQ(dibujo->text(), Dibuja(formula.expresion));
-        EXPECT_FALSE(dibujo->text().contains(QLatin1Char('^')));
-    }
+    const auto revisa = [&](std::string_view control, std::string_view expresion) {
+        const QString nombre = QStringLiteral("formula_") + forms::Q(control);
+        const auto* const dibujo = ventana.findChild<FormulaDibujada*>(nombre);
+        ASSERT_NE(dibujo, nullptr) << control;
+        EXPECT_EQ(DeQ(dibujo->accessibleName()), expresion);
+        EXPECT_GE(dibujo->width(), dibujo->sizeHint().width()) << control;
+        EXPECT_GE(dibujo->height(), dibujo->sizeHint().height()) << control;
+    };
+    for (const FormulaQp& formula : FormulasQp())
+        revisa(formula.control, formula.expresion);
+    for (const FormulaTc& formula : FormulasTc())
+        revisa(formula.control, formula.expresion);
+}
+
+TEST(FormulaDibujada, SusTrazosQuedanDentroYUnExponenteLosEleva)
+{
+    const auto filasConTinta = [](const char* expresion) {
+        FormulaDibujada formula(expresion);
+        formula.resize(formula.sizeHint() + QSize(0, 12));
+        QImage imagen(formula.size(), QImage::Format_ARGB32);
+        imagen.fill(Qt::transparent);
+        formula.render(&imagen, {}, {}, {});
+        std::vector<int> filas;
+        for (int y = 0; y < imagen.height(); ++y)
+            for (int x = 0; x < imagen.width(); ++x)
+                if (imagen.pixelColor(x, y).alpha() > 0) {
+                    filas.push_back(y);
+                    break;
+                }
+        return filas;
+    };
+    const std::vector<int> llana = filasConTinta("1");
+    const std::vector<int> elevada = filasConTinta("1^{1}");
+    ASSERT_FALSE(llana.empty());
+    ASSERT_FALSE(elevada.empty());
+    EXPECT_LT(elevada.front(), llana.front());
+    EXPECT_EQ(elevada.back(), llana.back());
+    EXPECT_GE(elevada.front(), 6);  // half of what is more than the formula needs
 }
 
 TEST_F(VentanaEmpiricas, CopiaTodoDeUnaVez)

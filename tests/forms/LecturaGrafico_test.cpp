@@ -42,6 +42,14 @@ TEST(LecturaGrafico, UnaSerieSinLeyendaSeLlamaComoSuEje)
     EXPECT_EQ(LecturaDeFila(g, 1), "1\nNivel = 5");
 }
 
+TEST(LecturaGrafico, ElTituloDeLaLeyendaVaAnteElNombre)
+{
+    Grafico g = Hidrograma();
+    g.tituloLeyenda = "R[años]";
+    g.series = {{TipoSerie::Linea2D, "25", false, {1, 2, 3}}};
+    EXPECT_EQ(LecturaDeFila(g, 0), "0.5 horas\nR[años] 25 = 1 m3/s");
+}
+
 TEST(LecturaGrafico, LosValoresTienenLasSieteCifrasDeSusArreglos)
 {
     Grafico g = Hidrograma();
