@@ -206,25 +206,30 @@ void Escritorio::Cierra(Ventana ventana)
     if (ventana == Ventana::frmUEHs) ventanasEditor->CierraEditor();
 }
 
+/// A chart goes with the form that asked for it, and can then stand elsewhere. The Slate, whose switch is
+/// that of the runs to come, goes back to the main window.
+void Escritorio::PonBajo(QWidget& ventana, QWidget& dueno)
+{
+    ventanaPrincipal->Ventanas().Saca(ventana);
+    ventana.setParent(&dueno, Qt::Window);
+    const auto* const formulario = qobject_cast<QDialog*>(&dueno);
+    if (formulario == nullptr) return;
+    const auto alTerminar = [this, &ventana] {
+        const bool queda = &ventana == ventanaPizarra.get() && pizarra.abierta && !entorno.Terminando();
+        if (!queda) ventana.close();
+        ventana.setParent(nullptr);
+        if (queda) Presenta(ventana);
+    };
+    QObject::connect(formulario, &QDialog::finished, &ventana, alTerminar, Qt::SingleShotConnection);
+}
+
 void Escritorio::Presenta(QWidget& ventana)
 {
     QWidget* dueno = QApplication::activeModalWidget();
     // The editor hides the main window, and whatever stands in it, for as long as it is at the front.
     if (dueno == nullptr && !ventanaPrincipal->isVisible()) dueno = QApplication::activeWindow();
     if (dueno == nullptr) return ventanaPrincipal->Ventanas().Presenta(ventana);
-    if (dueno != &ventana && ventana.parentWidget() != dueno) {
-        ventanaPrincipal->Ventanas().Saca(ventana);
-        ventana.setParent(dueno, Qt::Window);
-        // It goes with the form that asked for it, and can then stand elsewhere.
-        if (const auto* const formulario = qobject_cast<QDialog*>(dueno))
-            QObject::connect(
-                formulario, &QDialog::finished, &ventana,
-                [&ventana] {
-                    ventana.close();
-                    ventana.setParent(nullptr);
-                },
-                Qt::SingleShotConnection);
-    }
+    if (dueno != &ventana && ventana.parentWidget() != dueno) PonBajo(ventana, *dueno);
     ventana.show();
     ventana.raise();
     ventana.activateWindow();

@@ -71,6 +71,7 @@ class Escritorio {
     void TodaviaNo() const;
     void Cierra(Ventana ventana);
     void Presenta(QWidget& ventana);
+    void PonBajo(QWidget& ventana, QWidget& dueno);
 
     Mandos mandos{};
 

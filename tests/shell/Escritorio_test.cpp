@@ -245,6 +245,59 @@ TEST_F(EscritorioDePrueba, UnaVentanaPedidaDesdeUnFormularioModalEsSuyaYSeCierra
     EXPECT_TRUE(escritorio.Principal().isAncestorOf(&grafico));
 }
 
+TEST_F(EscritorioDePrueba, LoQueUnaVezPidioUnFormularioModalNoSeCierraConElOtraVez)
+{
+    Arranca();
+    QWidget grafico;
+    QDialog formulario;
+    QTimer::singleShot(0, &formulario, [&] {
+        escritorio.entorno.Presenta(grafico);
+        formulario.accept();
+    });
+    formulario.exec();
+    EXPECT_FALSE(grafico.isVisible());
+    escritorio.entorno.Presenta(grafico);
+    QTimer::singleShot(0, &formulario, &QDialog::accept);
+    formulario.exec();
+    EXPECT_TRUE(grafico.isVisible());
+    EXPECT_TRUE(escritorio.Principal().isAncestorOf(&grafico));
+}
+
+TEST_F(EscritorioDePrueba, LaPizarraAbiertaSobreviveAlFormularioQueLaTrajoAlFrente)
+{
+    Arranca(instalacion.Quelmar());
+    Accion("mnuPizarra1").trigger();
+    auto& pizarra = Control<QWidget>(escritorio.Principal(), "frmPp");
+    QDialog formulario;
+    QTimer::singleShot(0, &formulario, [&] {
+        escritorio.s.Anfitrion.AbrePizarra();
+        EXPECT_EQ(pizarra.parentWidget(), &formulario);
+        formulario.accept();
+    });
+    formulario.exec();
+    EXPECT_TRUE(pizarra.isVisible());
+    EXPECT_TRUE(escritorio.Principal().isAncestorOf(&pizarra));
+    EXPECT_TRUE(escritorio.s.SalidaPizarra);
+    EXPECT_TRUE(Accion("mnuPizarra1").isChecked());
+}
+
+TEST_F(EscritorioDePrueba, LaPizarraQueSeCerroEnElFormularioNoVuelveAAbrirse)
+{
+    Arranca(instalacion.Quelmar());
+    Accion("mnuPizarra1").trigger();
+    auto& pizarra = Control<QWidget>(escritorio.Principal(), "frmPp");
+    QDialog formulario;
+    QTimer::singleShot(0, &formulario, [&] {
+        escritorio.s.Anfitrion.AbrePizarra();
+        pizarra.close();
+        formulario.accept();
+    });
+    formulario.exec();
+    EXPECT_FALSE(pizarra.isVisible());
+    EXPECT_FALSE(escritorio.s.SalidaPizarra);
+    EXPECT_FALSE(Accion("mnuPizarra1").isChecked());
+}
+
 TEST_F(EscritorioDePrueba, ElHidrogramaSeAbreAlTerminarLaCorrida)
 {
     Arranca(instalacion.Quelmar());
