@@ -178,22 +178,80 @@ void TablasDeRepresas(Siro& s)
     }
 }
 
-/// Three vertices for each reach, somewhere on the drawing.
-void Dibuja(Siro& s)
+/// A place on the drawing [drawing units].
+struct Lugar {
+    double x = 0, y = 0;
+};
+
+/// Where the nodes stand: the outlet on the right, what drains to it further to the left, no two at one
+/// height.
+class Planta {
+  public:
+    explicit Planta(int nudos) : lugares(static_cast<std::size_t>(nudos)) { Ubica(0, 0); }
+    [[nodiscard]] Lugar Boca(int i) const { return lugares[static_cast<std::size_t>(i)]; }
+    /// Cabeza of the reach of a node.
+    [[nodiscard]] Lugar Cabeza(int i) const { return {Boca(i).x - Tramo, Boca(i).y}; }
+
+    static constexpr double Tramo = 48;  ///< length of a reach on the drawing
+
+  private:
+    void Ubica(std::size_t i, int profundidad)
+    {
+        constexpr double Borde = 760, PorNivel = 112, PorNudo = 11;
+        if (i >= lugares.size()) return;
+        Ubica(2 * i + 1, profundidad + 1);
+        lugares[i] = {Borde - PorNivel * profundidad, 20 + PorNudo * rango++};
+        Ubica(2 * i + 2, profundidad + 1);
+    }
+    std::vector<Lugar> lugares;
+    int rango = 0;
+};
+
+/// The vertices of each reach, winding from its mouth to its head, and the icons of what drains to it.
+void Dibuja(Siro& s, const Medidas& medidas)
 {
-    constexpr int Vertices = 3;
-    s.XVertice.Dimensiona(model::MaxCauces, Vertices);
-    s.YVertice.Dimensiona(model::MaxCauces, Vertices);
+    const int vertices = medidas.vertices;
+    const Planta planta(medidas.nudos);
+    s.XVertice.Dimensiona(model::MaxCauces, vertices);
+    s.YVertice.Dimensiona(model::MaxCauces, vertices);
     std::int16_t par = 1;
     for (auto& cauce : s.ColCauces) {
-        cauce.numVertices = Vertices;
+        cauce.numVertices = static_cast<std::int16_t>(vertices);
         cauce.IndiceParInicial = par;
-        par = static_cast<std::int16_t>(par + Vertices);
-        s.NroVertices(cauce.numCauce) = Vertices;
-        for (int v = 1; v <= Vertices; ++v) {
-            s.XVertice(cauce.numCauce, v) = static_cast<float>(cauce.numCauce * 10 + v);
-            s.YVertice(cauce.numCauce, v) = static_cast<float>(cauce.numCauce * 8 - v);
+        par = static_cast<std::int16_t>(par + vertices);
+        s.NroVertices(cauce.numCauce) = cauce.numVertices;
+        const Lugar boca = planta.Boca(cauce.numCauce - 1);
+        for (int v = 1; v <= vertices; ++v) {
+            const double parte = static_cast<double>(v - 1) / (vertices - 1);
+            s.XVertice(cauce.numCauce, v) = static_cast<float>(boca.x - Planta::Tramo * parte);
+            s.YVertice(cauce.numCauce, v) = static_cast<float>(boca.y + 2 * std::sin(parte * 6.25));
         }
+    }
+}
+
+void DibujaIconos(Siro& s, const Medidas& medidas)
+{
+    constexpr double PasoDeIcono = 16;
+    const Planta planta(medidas.nudos);
+    const auto pon = [](float& x, float& y, Lugar lugar) {
+        x = static_cast<float>(lugar.x);
+        y = static_cast<float>(lugar.y);
+    };
+    const int conRepresa = PrimeroConRepresa(medidas.nudos);
+    for (int i = 0; i < medidas.nudos; ++i) {
+        const Lugar cabeza = planta.Cabeza(i);
+        const bool represa = i >= conRepresa;
+        model::UEH& u = s.UEHs(i + 1);
+        model::Lago& l = s.Lagos(i + 1);
+        const double lejos = represa ? 2 : 1;
+        pon(u.IconoUEHx, u.IconoUEHy, {cabeza.x - lejos * PasoDeIcono, cabeza.y - 7});
+        pon(u.XCauce, u.YCauce, cabeza);
+        pon(l.IconoLAGOx, l.IconoLAGOy, {planta.Boca(i).x + 4, planta.Boca(i).y});
+        pon(l.XCauce, l.YCauce, i == 0 ? Lugar{} : planta.Cabeza((i - 1) / 2));
+        if (!represa) continue;
+        model::Represa& r = s.Represas(i - conRepresa + 1);
+        pon(r.IconoRepresaX, r.IconoRepresaY, {cabeza.x - PasoDeIcono, cabeza.y - 7});
+        pon(r.XCauce, r.YCauce, cabeza);
     }
 }
 
@@ -256,7 +314,8 @@ void ArmaRed(Siro& s, const Medidas& medidas)
     s.NroRepresas = static_cast<std::int16_t>(medidas.nudos - conRepresa);
     TablasDeLagos(s, aguasArriba);
     TablasDeRepresas(s);
-    Dibuja(s);
+    Dibuja(s, medidas);
+    DibujaIconos(s, medidas);
 }
 
 void PonTormenta(Siro& s, const TormentaLimite& tormenta)
@@ -273,6 +332,8 @@ void GuardaProyecto(const std::string& dir, const Medidas& medidas)
 {
     if (medidas.nudos < 1 || medidas.nudos > model::MaxUEHs)
         throw std::runtime_error("A project has 1 to 70 nodes");
+    if (medidas.vertices < 2 || medidas.vertices > model::MaxNroVertices)
+        throw std::runtime_error("A reach has 2 to 100 vertices");
     fs::create_directories(dir);
     const std::string absoluto = fs::canonical(dir).string();
     Siro s;

@@ -21,6 +21,7 @@ inline constexpr const char* NombreProyecto = "Limite";
 /// The size of a project.
 struct Medidas {
     int nudos = 70;     ///< UEHs, Cauces and Lagos each, 1 to 70; Represas are 2/7 of them
+    int vertices = 3;   ///< of each reach, 2 to 100
     bool base = false;  ///< the UEHs bring base flow in recession
     std::string metodo = "Piscina Nivelada";  ///< routing of Lagos and Represas
 };

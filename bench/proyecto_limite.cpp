@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-//   proyecto_limite DIR [--base] [--metodo METHOD] [--nudos N]
+//   proyecto_limite DIR [--base] [--metodo METHOD] [--nudos N] [--vertices N]
 //
 // Writes the project Limite, as large as the program admits, and its table of storms to a directory, and says
 // on standard output how siro-lote runs it.
@@ -14,7 +14,8 @@
 
 namespace {
 
-constexpr std::string_view Uso = "proyecto_limite DIR [--base] [--metodo METHOD] [--nudos N]\n";
+constexpr std::string_view Uso =
+    "proyecto_limite DIR [--base] [--metodo METHOD] [--nudos N] [--vertices N]\n";
 
 bool Lee(int argc, char** argv, std::string& dir, bench::Medidas& medidas)
 {
@@ -26,6 +27,8 @@ bool Lee(int argc, char** argv, std::string& dir, bench::Medidas& medidas)
             medidas.metodo = argv[++i];
         else if (palabra == "--nudos" && i + 1 < argc)
             medidas.nudos = std::stoi(argv[++i]);
+        else if (palabra == "--vertices" && i + 1 < argc)
+            medidas.vertices = std::stoi(argv[++i]);
         else if (dir.empty() && !palabra.starts_with("--"))
             dir = palabra;
         else

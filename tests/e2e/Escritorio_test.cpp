@@ -148,9 +148,7 @@ class EditorEnPantalla : public Escritorio {
         pantalla->EsperaVentana("Proyecto Nuevo");
         pantalla->Teclea(nombre);
         pantalla->Teclas({"Return"});
-        pantalla->EsperaVentana(Principal);
-        pantalla->Teclas({"alt+o", "o"});  // its configuration: confirming it makes the project
-        Acepta("SIRO");
+        Acepta("SIRO");  // its configuration, as it begins, is on disk; confirming it settles it
         pantalla->EsperaVentana("Configurar");
         pantalla->Teclas({"Return"});
         Acepta("SIRO");

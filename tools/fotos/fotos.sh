@@ -14,8 +14,9 @@ construye release siro
 construye bench proyecto_limite
 mkdir -p "$destino"
 
-taller=$(mktemp -d)
-chmod 700 "$taller"
+taller=/var/tmp/SIRO
+rm -rf "$taller"
+mkdir -m 700 "$taller"
 procesos=()
 cierra() {
     [[ ${#procesos[@]} -eq 0 ]] || kill "${procesos[@]}" 2>/dev/null || true
@@ -34,7 +35,7 @@ sleep 1
 
 cp -R data "$taller/siro"
 cp build/release/src/shell/siro "$taller/siro/siro"
-build/bench/bench/proyecto_limite "$taller/limite" >/dev/null
+build/bench/bench/proyecto_limite "$taller/limite" --vertices 100 >/dev/null
 
 activa() { xdotool getactivewindow getwindowname 2>/dev/null || true; }
 # espera TITLE: until the window of this title has the focus.
@@ -49,11 +50,12 @@ espera() {
 }
 tecla() { xdotool key --delay 60 "$@"; sleep 0.4; }
 teclea() { xdotool type --delay 10 "$1"; }
-# Few colours, so that a picture is small; the maps keep more.
+# foto NAME [WIDTH]: few colours, so that a picture is small; those with a map are smaller in size too.
 foto() {
     sleep 0.6
     import -window root "$taller/foto.png"
-    convert "$taller/foto.png" -trim +repage -colors "${2:-128}" -define png:compression-level=9 "$destino/$1.png"
+    convert "$taller/foto.png" -trim +repage ${2:+-resize "$2"} +dither -colors 96 -define png:compression-level=9 \
+        "$destino/$1.png"
     echo "$1 $(stat -c %s "$destino/$1.png")"
 }
 principal="SIRO - Modelo Hidrológico de  simulación de crecidas"
@@ -70,7 +72,7 @@ abre() {
 "$taller/siro/siro" >/dev/null 2>&1 &
 procesos+=($!)
 espera "$principal"
-xdotool getactivewindow windowsize 1366 740 windowmove 0 0
+xdotool getactivewindow windowsize 1340 700 windowmove 12 30
 abre "$taller/siro/Proyectos/Quelmar_Conf.vlm"
 
 # The storm, 80 mm in 120 min.
@@ -104,9 +106,9 @@ espera "$editor"
 foto editor
 xdotool mousemove 700 380
 tecla ctrl+i
-foto editor_mapa 256
+foto editor_mapa 800
 xdotool click --repeat 8 --delay 60 4
-foto editor_cerca 256
+foto editor_cerca 800
 tecla Escape
 espera "Resguardo de datos de componentes UEHs"
 tecla n
