@@ -4,7 +4,6 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QListWidget>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QSlider>
@@ -13,6 +12,7 @@
 #include <utility>
 
 #include "forms/Lamina_ventana.h"
+#include "forms/Lista_ventana.h"
 #include "forms/Textos_ventana.h"
 #include "results/dlgChart1.h"
 
@@ -41,12 +41,12 @@ dlgChart2_ventana::dlgChart2_ventana(forms::Entorno& alrededor, dlgChart2& regis
 {
     setWindowTitle(Q(TituloDlgChart2));
     Construye();
-    connect(lstCompos, &QListWidget::currentRowChanged, this, [this](int indice) {
+    lstCompos->AlElegir = [this](int indice) {
         Suceso([&] {
             f.lstComposIndice = indice;
             lstCompos_Click(f, entorno.s);
         });
-    });
+    };
     for (Mando* const mando : {&Pp, &Dur})
         connect(mando->deslizador, &QSlider::valueChanged, this,
                 [this, mando](int valor) { Pide(*mando, valor); });
@@ -72,7 +72,8 @@ void dlgChart2_ventana::Construye()
     lblNota->setTextFormat(Qt::PlainText);
 
     Grafico = new forms::Lamina(entorno, "Grafico", TituloDlgChart2);
-    lstCompos = new QListWidget;
+    lstCompos = new forms::ListaParaElegir;
+    lstCompos->conFlechas = true;
     lstCompos->setObjectName(QStringLiteral("lstCompos"));
     lstCompos->setAccessibleName(QStringLiteral("Componente"));
     lstCompos->setFixedWidth(fontMetrics().averageCharWidth() * (LargoDeNombre + 5));

@@ -8,13 +8,13 @@
 
 class QBoxLayout;
 class QLabel;
-class QListWidget;
 class QPushButton;
 class QSlider;
 
 namespace forms {
 class Lamina;
-}
+class ListaParaElegir;
+}  // namespace forms
 
 namespace results {
 
@@ -55,7 +55,7 @@ class dlgChart2_ventana : public forms::Ventana {
     dlgChart2& f;
     QLabel *lblTitulo, *lblNota;
     forms::Lamina* Grafico;
-    QListWidget* lstCompos;
+    forms::ListaParaElegir* lstCompos;
     Mando Pp{}, Dur{};
     QPushButton *cmdHsMin, *cmdXmas, *cmdXmenos, *cmdImprimir, *OKButton;
     bool programada = false;  ///< a run waits for the events of the moment

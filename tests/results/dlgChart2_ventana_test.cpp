@@ -116,6 +116,17 @@ TEST_F(VentanaHidrogramas, CadaComponenteElegidoSeDibuja)
     EXPECT_EQ(mundo.s.IndComp, Control<QListWidget>(ventana, "lstCompos").currentRow() + 1);
 }
 
+TEST_F(VentanaHidrogramas, PulsarElComponenteElegidoLoDibujaDeNuevo)
+{
+    Abre();
+    ASSERT_TRUE(Elige("u-"));
+    EXPECT_TRUE(Pp().isVisible());
+    mundo.s.FormaPp = 3;  // settled elsewhere while the window is open
+    ASSERT_TRUE(Elige("u-"));
+    EXPECT_FALSE(Pp().isVisible());
+    EXPECT_FALSE(Dur().isVisible());
+}
+
 TEST_F(VentanaHidrogramas, HorasYMinutosYLasDivisionesDelEje)
 {
     Abre();
