@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
 #
-#   tools/fotos/fotos.sh [DIRECTORY]    takes the pictures of docs/img anew, from the program as it is built in build/release
+#   tools/fotos/fotos.sh [DIRECTORY]    takes the pictures of docs/img and of the help anew, from the program as it is built in build/release
 #
 # Starts a screen of its own (Xvfb, openbox), opens the sample project and does with the keyboard what the pictures show.
 
@@ -117,3 +117,11 @@ abre "$taller/limite/Limite_Conf.vlm"
 tecla F3
 espera "$editor"
 foto editor_limite
+
+# The manual's, as wide as a page of the help.
+if [[ $destino == "$PWD/docs/img" ]]; then
+    for nombre in editor tormenta hidrograma pizarra; do
+        convert "docs/img/$nombre.png" -resize 680 +dither -colors 64 -strip -define png:compression-level=9 \
+            "data/Ayuda/$nombre.png"
+    done
+fi
