@@ -10,6 +10,7 @@
 #include <cmath>
 
 #include "editor/Imagen_ventana.h"
+#include "editor/Polilinea_ventana.h"
 #include "forms/Textos_ventana.h"
 
 namespace editor {
@@ -271,10 +272,7 @@ void PintorDibujo::Pinta(QPainter& pintor, const frmUEHs& f, const QRectF& donde
             pintor.setPen(
                 QPen(QColor(fila.color), std::max<int>(1, p.ancho), fila.trazo, Qt::RoundCap, Qt::RoundJoin));
             pintor.setBrush(Qt::NoBrush);
-            if (puntos.size() == 1)
-                pintor.drawPoint(puntos.first());
-            else
-                pintor.drawPolyline(puntos);
+            PintaPolilinea(pintor, puntos);
             break;
         case Primitiva::Forma::Cuadrado:
             pintor.fillRect(
