@@ -111,9 +111,6 @@ void Escritorio::PonLluvia()
     ventanaLluvia->AbreHietograma = [this](const rainfall::PedidoHietograma& p) {
         AbreHietograma({p.N, p.paso, p.titulo, p.P, p.D});
     };
-    for (auto* const abre : {&ventanaLluvia->AbreDisPer, &ventanaLluvia->AbreTablasPDRs,
-                             &ventanaLluvia->AbrePpReal, &ventanaLluvia->AbrePpUEHs})
-        *abre = [this] { TodaviaNo(); };
 }
 
 void Escritorio::PonAvance()
