@@ -50,7 +50,7 @@ QGridLayout* Rejilla(QGroupBox& marco)
 {
     auto* const rejilla = new QGridLayout(&marco);
     rejilla->setHorizontalSpacing(12);
-    rejilla->setVerticalSpacing(3);
+    rejilla->setVerticalSpacing(2);
     return rejilla;
 }
 

@@ -176,11 +176,6 @@ void Trazo::ColoreaSeries()
         puntosMarcados[i]->setBrush(tinta.fondo);
         puntosMarcados[i]->setSize(PuntoMarcado);
         rotulosMarcados[i]->setColor(tinta.texto);
-        QColor papel = tinta.fondo;
-        constexpr int OpacidadDeRotulo = 190;
-        papel.setAlpha(OpacidadDeRotulo);
-        rotulosMarcados[i]->setBrush(papel);
-        rotulosMarcados[i]->setFont(plano.xAxis->tickLabelFont());
     }
 }
 

@@ -297,7 +297,7 @@ bool Trazo::HayMarca(std::size_t cual) const
     return marca.fila < celdas.size() && !EstaVacia(celdas[marca.fila]);
 }
 
-/// Of labels that would stand over one another the topmost stays; each point keeps its ring.
+/// A label that would stand over a ring, or over a label above it, goes; the rings stay.
 void Trazo::AcomodaMarcas()
 {
     std::vector<std::size_t> deArribaAbajo;
@@ -308,10 +308,15 @@ void Trazo::AcomodaMarcas()
                      [&](std::size_t a, std::size_t b) { return lugar(a).y() < lugar(b).y(); });
     QList<QRectF> ocupados;
     for (const std::size_t i : deArribaAbajo) {
+        const QSizeF anillo(puntosMarcados[i]->size(), puntosMarcados[i]->size());
+        ocupados.append({lugar(i) - QPointF(anillo.width(), anillo.height()) / 2, anillo});
+    }
+    for (const std::size_t i : deArribaAbajo) {
         QCPItemText& rotulo = *rotulosMarcados[i];
         QRectF sitio = QFontMetricsF(rotulo.font()).boundingRect(rotulo.text());
-        sitio.moveBottomLeft(lugar(i));
-        if (rotulo.positionAlignment().testFlag(Qt::AlignRight)) sitio.moveRight(lugar(i).x());
+        const QMarginsF orla(rotulo.padding());
+        sitio.moveBottomLeft(lugar(i) + QPointF(orla.left(), -orla.bottom()));
+        if (rotulo.positionAlignment().testFlag(Qt::AlignRight)) sitio.moveRight(lugar(i).x() - orla.right());
         const bool libre = std::none_of(ocupados.cbegin(), ocupados.cend(),
                                         [&](const QRectF& otro) { return otro.intersects(sitio); });
         rotulo.setVisible(libre);

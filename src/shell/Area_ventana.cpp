@@ -67,6 +67,8 @@ void Area::Presenta(QWidget& ventana)
     ventana.show();
     if (hija->isMinimized() || hija->isShaded()) hija->showNormal();
     hija->show();
+    // How much room its controls take is known for sure only once they are on show.
+    if (!hija->isMaximized()) hija->resize(hija->size().expandedTo(hija->minimumSizeHint()));
     // Where it was left may be outside by now, and a new one is put beside the others though it doesn't fit.
     const QPoint ultimo(viewport()->width() - hija->width(), viewport()->height() - hija->height());
     if (!hija->isMaximized())
