@@ -127,6 +127,11 @@ QStringList Lamina::RotulosEnVista() const
     return trazo->RotulosEnVista();
 }
 
+QStringList Lamina::MarcasRotuladas() const
+{
+    return trazo->MarcasRotuladas();
+}
+
 // --- reading and zooming -------------------------------------------------------------------------------
 
 void Lamina::Lee(std::size_t fila)

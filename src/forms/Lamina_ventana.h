@@ -49,6 +49,8 @@ class Lamina : public QWidget {
     [[nodiscard]] Tramo EnVista() const;
     /// Labels of the categories in sight, as they stand on the axis.
     [[nodiscard]] QStringList RotulosEnVista() const;
+    /// Labels of the marks that have room beside their rings.
+    [[nodiscard]] QStringList MarcasRotuladas() const;
 
     // --- the commands of the menu ---
     void Acerca(double veces);  ///< above 1: nearer

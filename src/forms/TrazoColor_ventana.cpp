@@ -176,6 +176,7 @@ void Trazo::ColoreaSeries()
         puntosMarcados[i]->setBrush(tinta.fondo);
         puntosMarcados[i]->setSize(PuntoMarcado);
         rotulosMarcados[i]->setColor(tinta.texto);
+        rotulosMarcados[i]->setFont(plano.xAxis->tickLabelFont());
     }
 }
 

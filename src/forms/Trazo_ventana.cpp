@@ -14,9 +14,10 @@
 namespace forms {
 namespace {
 
-constexpr double Aire = 0.08;          // part of a value axis left free beyond the data
-constexpr double LugarDeLluvia = 3.2;  // rain that hangs from the top takes one part in so many
-constexpr double SobreElPico = 1.6;    // how far the values' axis goes beyond them, to leave that part free
+constexpr double Aire = 0.08;           // part of a value axis left free beyond the data
+constexpr double AireConMarcas = 0.14;  // the same where a label may stand over the peak
+constexpr double LugarDeLluvia = 3.2;   // rain that hangs from the top takes one part in so many
+constexpr double SobreElPico = 1.6;     // how far the values' axis goes beyond them, to leave that part free
 constexpr double PocasFilas = 30;  // up to so many each row is a point of its own, half a row from the edge
 
 /// Least and greatest of the cells of some series; nothing without any.
@@ -306,21 +307,22 @@ void Trazo::AcomodaMarcas()
     const auto lugar = [&](std::size_t i) { return rotulosMarcados[i]->position->pixelPosition(); };
     std::stable_sort(deArribaAbajo.begin(), deArribaAbajo.end(),
                      [&](std::size_t a, std::size_t b) { return lugar(a).y() < lugar(b).y(); });
-    QList<QRectF> ocupados;
-    for (const std::size_t i : deArribaAbajo) {
-        const QSizeF anillo(puntosMarcados[i]->size(), puntosMarcados[i]->size());
-        ocupados.append({lugar(i) - QPointF(anillo.width(), anillo.height()) / 2, anillo});
-    }
+    QList<QRectF> puestos;
     for (const std::size_t i : deArribaAbajo) {
         QCPItemText& rotulo = *rotulosMarcados[i];
-        QRectF sitio = QFontMetricsF(rotulo.font()).boundingRect(rotulo.text());
         const QMarginsF orla(rotulo.padding());
+        QRectF sitio = QFontMetricsF(rotulo.font()).boundingRect(rotulo.text());
         sitio.moveBottomLeft(lugar(i) + QPointF(orla.left(), -orla.bottom()));
         if (rotulo.positionAlignment().testFlag(Qt::AlignRight)) sitio.moveRight(lugar(i).x() - orla.right());
-        const bool libre = std::none_of(ocupados.cbegin(), ocupados.cend(),
-                                        [&](const QRectF& otro) { return otro.intersects(sitio); });
-        rotulo.setVisible(libre);
-        if (libre) ocupados.append(sitio);
+        const bool sobreRotulo = std::any_of(puestos.cbegin(), puestos.cend(),
+                                             [&](const QRectF& otro) { return otro.intersects(sitio); });
+        const bool sobreAnillo =
+            std::any_of(deArribaAbajo.begin(), deArribaAbajo.end(), [&](std::size_t otra) {
+                const double radio = puntosMarcados[otra]->size() / 2;
+                return otra != i && sitio.marginsAdded({radio, radio, radio, radio}).contains(lugar(otra));
+            });
+        rotulo.setVisible(!sobreRotulo && !sobreAnillo);
+        if (rotulo.visible()) puestos.append(sitio);
     }
 }
 
@@ -343,7 +345,8 @@ void Trazo::PonEscalas()
     if (!e.Hay()) e = {0, 1};
     const double base = std::min(0.0, e.menor);
     const double alto = e.mayor > base ? e.mayor - base : 1;
-    todoY = {base < 0 ? base - Aire * alto : 0, base + alto * (HayColgada() ? SobreElPico : 1 + Aire)};
+    const double aireArriba = grafico.marcas.empty() ? Aire : AireConMarcas;
+    todoY = {base < 0 ? base - Aire * alto : 0, base + alto * (HayColgada() ? SobreElPico : 1 + aireArriba)};
     PonEscalaSecundaria();
 }
 
@@ -379,6 +382,14 @@ QStringList Trazo::RotulosEnVista() const
     QStringList rotulos;
     for (const QString& rotulo : plano.xAxis->tickVectorLabels())
         rotulos.append(rotulo);
+    return rotulos;
+}
+
+QStringList Trazo::MarcasRotuladas() const
+{
+    QStringList rotulos;
+    for (const QCPItemText* const rotulo : rotulosMarcados)
+        if (rotulo->visible()) rotulos.append(rotulo->text());
     return rotulos;
 }
 

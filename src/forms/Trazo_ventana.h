@@ -50,6 +50,7 @@ class Trazo {
     };
     [[nodiscard]] Tramo EnVista() const;
     [[nodiscard]] QStringList RotulosEnVista() const;
+    [[nodiscard]] QStringList MarcasRotuladas() const;
     /// Zooms the categories around one of them; above 1: nearer.
     void Acerca(double veces, double centro);
     void VeTodo();

@@ -376,6 +376,26 @@ TEST_F(LaminaEnVentana, AguantaGraficosVaciosDeUnaFilaYConHuecos)
     QCoreApplication::processEvents();
 }
 
+TEST_F(LaminaEnVentana, DeLosRotulosDeMarcasQueSePisanQuedaElDeArriba)
+{
+    Grafico g;
+    g.categorias = {"10", "20", "30", "60"};
+    g.series = {{TipoSerie::Linea2D, "2", false, {1, 2, 1, 1}},
+                {TipoSerie::Linea2D, "5", false, {1, 3, 1, 1}},
+                {TipoSerie::Linea2D, "10", false, {1, 1, 1, 500}},
+                {TipoSerie::Linea2D, "25", false, {CeldaVacia, CeldaVacia, 250, CeldaVacia}}};
+    g.marcas = {{0, 1, "dos"}, {1, 1, "cinco"}, {2, 3, "diez"}, {3, 2, "veinticinco"}, {3, 1, "vacía"}};
+    lamina->Muestra(g);
+    EXPECT_TRUE(apoyo::Espera([&] {
+        return lamina->MarcasRotuladas() ==
+               QStringList({QStringLiteral("cinco"), QStringLiteral("diez"), QStringLiteral("veinticinco")});
+    }));
+    // With room between them both stand.
+    g.series[1].celdas[1] = 400;
+    lamina->Muestra(g);
+    EXPECT_TRUE(apoyo::Espera([&] { return lamina->MarcasRotuladas().size() == 4; }));
+}
+
 TEST_F(LaminaEnVentana, LaCompactaNoTieneTituloYCabeEnPocoLugar)
 {
     auto* const chica = new Lamina(mundo.entorno, "Chica", "Curva", Lamina::Modo::Compacta);
