@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <algorithm>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -136,12 +137,12 @@ void BorraSeleccionados(frmUEHs& f, Siro& s)
 {
     const std::int16_t UEH = s.UEHSel, represa = s.RepresaSel, lago = s.LagoSel;
     BorraCauce(f, s);
-    // The save of a deletion clears the selection.
-    s.UEHSel = UEH;
+    // The save of a deletion clears the selection, and what it couldn't read again is there no longer.
+    s.UEHSel = UEH <= s.ColUEHs.Cuenta() ? UEH : std::int16_t{0};
     BorraUEH(f, s);
-    s.RepresaSel = represa;
+    s.RepresaSel = represa <= s.ColRepresas.Cuenta() ? represa : std::int16_t{0};
     BorraRepresa(f, s);
-    s.LagoSel = lago;
+    s.LagoSel = lago <= s.ColLagos.Cuenta() ? lago : std::int16_t{0};
     BorraLago(f, s);
     Redibuja(f, s);
 }
