@@ -237,6 +237,7 @@ void Deslizador::Pon(int nuevo)
 
 void Abre(dlgChart2& f, Siro& s)
 {
+    if (f.abierta) return;
     f = dlgChart2{};
     if (s.NroPasosQ == 0 || s.NroComponentes < 1 || s.FormaPp == FormaSerie) return;
     f.abierta = true;

@@ -52,7 +52,8 @@ struct dlgChart2 {
     engine::Memoria memoria{.VariasCorridas = true};  ///< what the sliders' runs have in common
 };
 
-/// Opening. Without results, without components or in a series the window closes itself.
+/// Opening. Without results, without components or in a series the window closes itself. One that is open
+/// stays as it is: a new run refreshes it only through its own controls.
 void Abre(dlgChart2& f, model::Siro& s);
 
 /// Draws the component IndComp, 1 where that is none; without results closes the window.

@@ -147,10 +147,12 @@ QBoxLayout* dlgChart2_ventana::ConstruyeBotones()
 
 void dlgChart2_ventana::Abre()
 {
-    results::Abre(f, entorno.s);
-    Pp.pedido.reset();
-    Dur.pedido.reset();
-    Muestra();
+    if (!f.abierta) {
+        results::Abre(f, entorno.s);
+        Pp.pedido.reset();
+        Dur.pedido.reset();
+        Muestra();
+    }
     if (f.abierta) entorno.Presenta(*this);
 }
 

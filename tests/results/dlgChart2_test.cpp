@@ -79,6 +79,7 @@ class GraficoQ : public testing::Test {
     void AbreEn(std::int16_t componente)
     {
         s.IndComp = componente;
+        OKButton(f);
         Abre(f, s);
     }
     const Serie& SerieNro(std::size_t n) const { return f.Grafico.series.at(n - 1); }
@@ -299,6 +300,21 @@ TEST_F(GraficoQ, UnComponenteFueraDeLaListaEsElPrimero)
     }
     AbreEn(4);
     EXPECT_EQ(s.IndComp, 4);
+}
+
+TEST_F(GraficoQ, UnaCorridaNuevaNoRefrescaLaVentanaAbiertaSinoPorSusMandos)
+{
+    AbreEn(1);
+    cmdHsMin(f, s);
+    const Grafico antes = f.Grafico;
+    s.PpTormenta = 99;
+    s.QSale(1, 1) = 12345;
+    Abre(f, s);
+    EXPECT_EQ(f.Grafico, antes);
+    EXPECT_TRUE(f.MinutosEjeX);
+    lstCompos_Click(f, s);
+    EXPECT_NE(f.Grafico, antes);
+    EXPECT_NE(f.lblTitulo.find("Pp= 99mm"), std::string::npos);
 }
 
 TEST_F(GraficoQ, SeCierraAlAbrirSinResultadosSinComponentesOEnUnaSerie)
