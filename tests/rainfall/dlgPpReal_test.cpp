@@ -518,7 +518,9 @@ TEST(ControlDeFecha, AceptaReescribeYRechaza)
                                   {"ab/cd/efgh", true, "ab/cd/efgh"}}) {
         std::string texto = caso.antes;
         EXPECT_EQ(controlMiFecha(texto), caso.malo) << caso.antes;
-        if (!caso.malo) EXPECT_EQ(texto, caso.despues) << caso.antes;
+        if (!caso.malo) {
+            EXPECT_EQ(texto, caso.despues) << caso.antes;
+        }
     }
 }
 
@@ -541,7 +543,9 @@ TEST(ControlDeHora, AceptaReescribeYRechaza)
                                   {"ab:cd", true, ""}}) {
         std::string texto = caso.antes;
         EXPECT_EQ(controlMiHora(texto), caso.malo) << caso.antes;
-        if (!caso.malo) EXPECT_EQ(texto, caso.despues) << caso.antes;
+        if (!caso.malo) {
+            EXPECT_EQ(texto, caso.despues) << caso.antes;
+        }
     }
 }
 
