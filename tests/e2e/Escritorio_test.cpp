@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstddef>
 #include <filesystem>
 #include <regex>
 #include <string>
@@ -32,6 +34,12 @@ std::string SinHora(const std::string& texto)
 {
     return std::regex_replace(texto, std::regex("[0-9]{2}/[0-9]{2}/[0-9]{4} [0-9]{2}:[0-9]{2}:[0-9]{2}"),
                               "dd/mm/aaaa hh:mm:ss");
+}
+
+std::ptrdiff_t Renglones(const std::string& archivo)
+{
+    const std::string texto = BytesDeArchivo(archivo);
+    return std::count(texto.begin(), texto.end(), '\n');
 }
 
 class Escritorio : public testing::Test {
@@ -81,6 +89,17 @@ class Escritorio : public testing::Test {
         pantalla->Teclas({"Return"});
         pantalla->EsperaVentana(Principal);
     }
+    /// Saves by an entry of the menu of what has the focus.
+    void GuardaDelMenu(const char* entrada, const char* titulo, const std::string& ruta)
+    {
+        pantalla->Teclas({"Menu", entrada});
+        pantalla->EsperaVentana(titulo);
+        pantalla->Teclas({"ctrl+a"});
+        pantalla->Teclea(ruta);
+        pantalla->Teclas({"Return"});
+        pantalla->EsperaVentana(Principal);
+        pantalla->EsperaA("the file " + ruta, [&] { return fs::exists(ruta); });
+    }
     void Termina()
     {
         pantalla->Teclas({"ctrl+q"});
@@ -122,6 +141,45 @@ TEST_F(Escritorio, UnaTormentaEscribeLoMismoQueSiroLote)
                            SinHora(BytesDeArchivo(archivo))));
     EXPECT_TRUE(MismoTexto(SinHora(salida.estandar),
                            SinHora(model::DeWindows1252(BytesDeArchivo(raiz + "/pizarra.txt")))));
+}
+
+TEST_F(Escritorio, UnaSerieEscribeLoMismoQueSiroLoteYAbreElAbacoSobreLaTabla)
+{
+    AbreMuestra();
+    pantalla->Teclas({"F4"});
+    pantalla->EsperaVentana("Carga de Datos de Precipitación");
+    // From the depth back to the forms of input, and to the third of them: a table of storms.
+    pantalla->Teclas({"alt+p", "shift+Tab", "Down", "Down", "Return"});
+    pantalla->EsperaVentana(Principal);
+    pantalla->Teclas({"F6"});
+    pantalla->EsperaVentana("Desea continuar ?");
+    pantalla->Teclas({"Return"});
+    pantalla->EsperaVentana(
+        "La tabla de resultados se guarda en archivo el temporal <SaleTablasQDRs_tem.txt>");
+    pantalla->Teclas({"Return"});
+    pantalla->EsperaVentana(Principal);
+    const std::string archivo = dir + "/SaleTablasQDRs_tem.txt";
+    pantalla->EsperaA("the results of the series", [&] { return fs::exists(archivo); });
+
+    // The abacus stands in front; the menu brings the table over it. Both save what they show.
+    GuardaDelMenu("g", "Guardar las celdas como CSV", raiz + "/abaco.csv");
+    pantalla->Teclas({"alt+s", "Down", "Down", "Down", "Return"});
+    GuardaDelMenu("s", "Guardar la tabla como CSV", raiz + "/tabla.csv");
+    GuardaDelMenu("x", "Guardar la tabla como XLSX", raiz + "/tabla.xlsx");
+    Termina();
+
+    const std::string lote = raiz + "/lote";
+    fs::copy(SIRO_DATA_DIR, lote, fs::copy_options::recursive);
+    const Salida salida = Lote({"serie", Conf(), "--trabajo", lote}, "/");
+    ASSERT_EQ(salida.estado, 0) << salida.errores;
+    EXPECT_TRUE(MismoTexto(SinHora(BytesDeArchivo(lote + "/SaleTablasQDRs_tem.txt")),
+                           SinHora(BytesDeArchivo(archivo))));
+    EXPECT_TRUE(BytesDeArchivo(raiz + "/abaco.csv")
+                    .starts_with("\"Duración Tormenta D[minutos]\",\"2\",\"5\",\"10\""));
+    // The file has nine lines of heads, the table six, and a line per storm for the basin.
+    constexpr std::ptrdiff_t Tormentas = 10 * 14;  // recurrences and durations
+    EXPECT_EQ(Renglones(raiz + "/tabla.csv") - 6, Renglones(archivo) - 9 + Tormentas);
+    EXPECT_TRUE(BytesDeArchivo(raiz + "/tabla.xlsx").starts_with("PK"));
 }
 
 TEST_F(Escritorio, ElUltimoProyectoSeRecuerdaYSeOfreceEnElMenu)
