@@ -167,7 +167,19 @@ void Pantalla::EsperaA(const std::string& que, const std::function<bool()>& vale
 
 void Pantalla::EsperaVentana(const std::string& titulo)
 {
-    EsperaA("the window \"" + titulo + '"', [&] { return Activa() == titulo; });
+    // When two boxes close at once, the window manager of a busy machine may leave nobody with the focus. A
+    // user would click on the window that there is.
+    constexpr int MiradasSinNadie = 25;
+    int sinNadie = 0;
+    EsperaA("the window \"" + titulo + '"', [&] {
+        const std::string activa = Activa();
+        sinNadie = activa.empty() ? sinNadie + 1 : 0;
+        if (sinNadie == MiradasSinNadie) {
+            Xdotool({"search", "--onlyvisible", "--name", '^' + titulo + '$', "windowactivate"});
+            sinNadie = 0;
+        }
+        return activa == titulo;
+    });
 }
 
 void Pantalla::Teclas(const std::vector<std::string>& teclas)
