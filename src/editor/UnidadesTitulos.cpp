@@ -48,4 +48,18 @@ std::string_view UnidadDeTitulo(std::string_view titulo)
     return fila == Unidades.end() ? std::string_view{} : fila->unidad;
 }
 
+std::string AyudaDeCelda(const forms::Grilla& g, forms::Celda celda)
+{
+    std::string_view titulo =
+        celda.columna < g.NroColumnas() ? g.Texto({0, celda.columna}) : std::string_view{};
+    for (int fila = 1; fila <= celda.fila && g.Esta({fila, celda.columna}); ++fila)
+        if (const std::string_view otro = g.Texto({fila, celda.columna});
+            g.filas[static_cast<std::size_t>(fila) - 1].esTitulo && !otro.empty())
+            titulo = otro;
+    std::string ayuda(forms::SinBlancos(titulo));
+    if (const std::string_view unidad = UnidadDeTitulo(titulo); !unidad.empty())
+        ayuda += " [" + std::string(unidad) + "]";
+    return ayuda;
+}
+
 }  // namespace editor

@@ -3,13 +3,23 @@
 
 #include <utility>
 
+#include "editor/dlgUEHsEditTabla_ventana.h"
+
 namespace editor {
 
 VentanasDelEditor::VentanasDelEditor(forms::Entorno& alrededor,
                                      std::function<void(bool visible)> muestraPrincipal)
-    : entorno(alrededor), ventanaRed(alrededor, red)
+    : entorno(alrededor),
+      ventanaRed(alrededor, red),
+      ventanaTabla(alrededor, tabla),
+      formas(alrededor, ventanaRed)
 {
     ventanaRed.MuestraPrincipal = std::move(muestraPrincipal);
+    ventanaRed.AbreForma = [this](Pedido forma) {
+        formas.Abre(forma);
+        // What the form has changed is one step of the history.
+        AlActivarse(red, entorno.s);
+    };
     entorno.s.Anfitrion.RedibujaEditor = [this] {
         if (!red.abierta) return;
         Redibuja(red, entorno.s);
@@ -20,6 +30,11 @@ VentanasDelEditor::VentanasDelEditor(forms::Entorno& alrededor,
 VentanasDelEditor::~VentanasDelEditor()
 {
     entorno.s.Anfitrion.RedibujaEditor = [] {};
+}
+
+void VentanasDelEditor::AbreEditorDeTabla(QWidget& padre)
+{
+    dlgUEHsEditTabla_ventana(entorno, editorDeTabla, &padre).Abre();
 }
 
 void VentanasDelEditor::CierraEditor()

@@ -3,6 +3,10 @@
 
 #include <functional>
 
+#include "editor/FormasDeComponentes_ventana.h"
+#include "editor/dlgUEHsEditTabla.h"
+#include "editor/dlgUEHsTabla.h"
+#include "editor/dlgUEHsTabla_ventana.h"
 #include "editor/frmUEHs.h"
 #include "editor/frmUEHs_ventana.h"
 #include "forms/Entorno_ventana.h"
@@ -24,11 +28,23 @@ class VentanasDelEditor {
     /// Closes it without a question; the main window comes back.
     void CierraEditor();
 
+    /// The tabular editor, until it is closed; `padre` is the window that it belongs to. Runs inside an
+    /// event.
+    void AbreEditorDeTabla(QWidget& padre);
+    /// The overview of all parameters, beside the other windows. Runs inside an event.
+    void AbreTabla() { ventanaTabla.Abre(); }
+
     frmUEHs red{};
+    dlgUEHsEditTabla editorDeTabla{};
+    dlgUEHsTabla tabla{};
 
   private:
     forms::Entorno& entorno;
     frmUEHs_ventana ventanaRed;
+    dlgUEHsTabla_ventana ventanaTabla;
+
+  public:
+    FormasDeComponentes formas;
 };
 
 }  // namespace editor

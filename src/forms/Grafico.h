@@ -45,6 +45,8 @@ struct EscalaCategorias {
     std::int32_t divisionesPorRotulo = 1;
     std::int32_t divisionesPorMarca = 1;  ///< 0: no mark
     bool marcaDeRotulo = false;
+    /// Number of row 1, the others following on; labels stand at the numbers that their distance divides.
+    std::int32_t primeraFila = 1;
     bool operator==(const EscalaCategorias&) const = default;
 };
 

@@ -22,7 +22,7 @@ namespace forms {
 /// The grid as the toolkit's views want it. Row 0 of the model is row 1 of the grid.
 class TablaGrilla::Modelo : public QAbstractTableModel {
   public:
-    explicit Modelo(const Grilla& mostrada) : grilla(mostrada) {}
+    Modelo(const Grilla& mostrada, const TablaGrilla& suVista) : grilla(mostrada), vista(suVista) {}
 
     int rowCount(const QModelIndex& padre = {}) const override { return padre.isValid() ? 0 : filas; }
     int columnCount(const QModelIndex& padre = {}) const override { return padre.isValid() ? 0 : columnas; }
@@ -41,6 +41,8 @@ class TablaGrilla::Modelo : public QAbstractTableModel {
         case Qt::BackgroundRole:
             return QApplication::palette().brush(columna.editable && !fila.esTitulo ? QPalette::Base
                                                                                     : QPalette::Window);
+        case Qt::ToolTipRole:
+            return Ayuda(celda);
         default:
             return {};
         }
@@ -52,6 +54,7 @@ class TablaGrilla::Modelo : public QAbstractTableModel {
         const auto& columna = grilla.columnas[static_cast<std::size_t>(seccion)];
         if (papel == Qt::DisplayRole) return Q(columna.titulo);
         if (papel == Qt::TextAlignmentRole) return static_cast<int>(Alinea(columna.alineacion));
+        if (papel == Qt::ToolTipRole) return Ayuda({0, seccion});
         return {};
     }
 
@@ -69,6 +72,12 @@ class TablaGrilla::Modelo : public QAbstractTableModel {
     }
 
   private:
+    QVariant Ayuda(Celda celda) const
+    {
+        const std::string ayuda = vista.AyudaDe(celda);
+        return ayuda.empty() ? QVariant() : QVariant(Q(ayuda));
+    }
+
     static Qt::Alignment Alinea(Alineacion alineacion)
     {
         switch (alineacion) {
@@ -83,6 +92,7 @@ class TablaGrilla::Modelo : public QAbstractTableModel {
     }
 
     const Grilla& grilla;
+    const TablaGrilla& vista;
     int filas = 0, columnas = 0;
 };
 
@@ -109,7 +119,7 @@ constexpr auto TeclasDeGrilla = std::to_array<FilaTecla>({
 
 TablaGrilla::TablaGrilla(Entorno& alrededor, Grilla& mostrada, std::string_view nombre,
                          std::string_view titulo)
-    : entorno(alrededor), grilla(mostrada), modelo(std::make_unique<Modelo>(mostrada))
+    : entorno(alrededor), grilla(mostrada), modelo(std::make_unique<Modelo>(mostrada, *this))
 {
     setObjectName(Q(nombre));
     setAccessibleName(Q(titulo));

@@ -4,6 +4,7 @@
 #include <QTableView>
 #include <functional>
 #include <memory>
+#include <string>
 #include <string_view>
 
 #include "forms/Entorno_ventana.h"
@@ -21,6 +22,9 @@ class TablaGrilla : public QTableView {
 
     /// Runs behind every event that may have changed a cell, with what it settled.
     std::function<void(const Efecto&)> AlCambiar = [](const Efecto&) {};
+
+    /// Tip of a cell, or of a column's title in row 0; an empty one: that of the view.
+    std::function<std::string(Celda)> AyudaDe = [](Celda) { return std::string(); };
 
     /// Shows the grid as it stands now.
     void Muestra();

@@ -94,7 +94,15 @@ std::string Descripcion(const Grafico& grafico)
     return texto;
 }
 
-std::size_t PasoDeRotulos(const std::vector<std::string>& categorias, std::size_t visibles, std::size_t caben)
+std::size_t PrimeraRotulada(std::size_t desde, std::size_t paso, std::int32_t primeraFila)
+{
+    const auto n = static_cast<std::int64_t>(paso);
+    const std::int64_t resto = (static_cast<std::int64_t>(desde) + primeraFila - 1) % n;
+    return desde + static_cast<std::size_t>((n - resto) % n);
+}
+
+std::size_t PasoDeRotulos(const std::vector<std::string>& categorias, std::size_t visibles, std::size_t caben,
+                          std::int32_t primeraFila)
 {
     constexpr std::size_t Holgura = 3;       // steps tried: up to so many times the least one
     constexpr double PesoDeLaDistancia = 1;  // digits that a step twice as long has to save
@@ -105,7 +113,7 @@ std::size_t PasoDeRotulos(const std::vector<std::string>& categorias, std::size_
     for (std::size_t paso = minimo; paso < Holgura * minimo && paso <= visibles; ++paso) {
         double cifras = 0;
         std::size_t n = 0;
-        for (std::size_t i = paso; i <= categorias.size(); i += paso, ++n)
+        for (std::size_t i = PrimeraRotulada(1, paso, primeraFila); i <= categorias.size(); i += paso, ++n)
             cifras += static_cast<double>(CifrasSignificativas(categorias[i - 1]));
         if (n == 0) break;
         const double puntos =

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -20,8 +21,12 @@ std::string Descripcion(const Grafico& grafico);
 
 /// Every how many rows a label stands where no more than `caben` (at least 1) have room over `visibles`
 /// rows. Of the steps that fit, one of the shortest whose labels are round: 1, 2, 3 rather than 0.83, 1.66.
-std::size_t PasoDeRotulos(const std::vector<std::string>& categorias, std::size_t visibles,
-                          std::size_t caben);
+/// `primeraFila` is the number of row 1.
+std::size_t PasoDeRotulos(const std::vector<std::string>& categorias, std::size_t visibles, std::size_t caben,
+                          std::int32_t primeraFila = 1);
+
+/// First row from `desde` on whose number, row 1 having `primeraFila`, is a multiple of `paso`.
+std::size_t PrimeraRotulada(std::size_t desde, std::size_t paso, std::int32_t primeraFila);
 
 /// The two are drawn alike but for what stands in their cells and categories.
 bool MismaEstructura(const Grafico& a, const Grafico& b);

@@ -36,7 +36,8 @@ class RotulosDeCategorias : public QCPAxisTicker {
         paso = static_cast<std::size_t>(cada);
         QVector<double> marcas;
         const auto [primera, ultima] = FilasEn(tramo);
-        for (std::size_t i = (primera + paso - 1) / paso * paso; i <= ultima; i += paso)
+        for (std::size_t i = PrimeraRotulada(primera, paso, grafico.escala.primeraFila); i <= ultima;
+             i += paso)
             marcas.append(static_cast<double>(i));
         // A scale that is coarser than what is in sight still tells where one is.
         if (marcas.isEmpty() && primera <= ultima) marcas.append(static_cast<double>(primera));
@@ -92,7 +93,8 @@ class RotulosDeCategorias : public QCPAxisTicker {
         // Rows that the whole length of the axis would hold.
         const auto enTodoElEje = std::max<std::size_t>(visibles, static_cast<std::size_t>(tramo.size()));
         const std::size_t caben = Caben();
-        if (grafico.escala.automatica) return PasoDeRotulos(grafico.categorias, enTodoElEje, caben);
+        if (grafico.escala.automatica)
+            return PasoDeRotulos(grafico.categorias, enTodoElEje, caben, grafico.escala.primeraFila);
         const auto pedido = static_cast<std::size_t>(std::max(1, grafico.escala.divisionesPorRotulo));
         const std::size_t minimo = (enTodoElEje + caben - 1) / caben;
         return pedido * ((minimo + pedido - 1) / pedido);

@@ -162,6 +162,10 @@ void Escritorio::Abre(Ventana ventana, bool espera)
     switch (ventana) {
     case Ventana::frmUEHs:
         return ventanasEditor->AbreEditor();
+    case Ventana::dlgUEHsEditTabla:
+        return ventanasEditor->AbreEditorDeTabla(*ventanaPrincipal);
+    case Ventana::dlgUEHsTabla:
+        return ventanasEditor->AbreTabla();
     case Ventana::dlgEliminarProyecto:
         return dlgEliminarProyecto_ventana(entorno, eliminar, ventanaPrincipal.get()).Abre();
     case Ventana::frmAcerca:

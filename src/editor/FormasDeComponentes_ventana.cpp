@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/FormasDeComponentes_ventana.h"
+
+#include "editor/dlgCauceEditProp_ventana.h"
+#include "editor/dlgLago_ventana.h"
+#include "editor/dlgRepresas_ventana.h"
+#include "editor/dlgTabla_ventana.h"
+#include "editor/dlgUEH2_ventana.h"
+
+namespace editor {
+
+void FormasDeComponentes::Abre(Pedido forma)
+{
+    switch (forma) {
+    case Pedido::FormaUEH:
+        return dlgUEH2_ventana(entorno, ueh, &padre).Abre();
+    case Pedido::FormaCauce:
+        return dlgCauceEditProp_ventana(entorno, cauce, &padre).Abre();
+    case Pedido::FormaRepresa:
+        return AbreRepresa();
+    case Pedido::FormaLago:
+        return AbreLago();
+    case Pedido::Menu:
+        return;
+    }
+}
+
+void FormasDeComponentes::AbreRepresa()
+{
+    dlgRepresas_ventana ventana(entorno, represa, &padre);
+    ventana.AbreTabla = [&](PedidoFicha pedido) {
+        if (pedido == PedidoFicha::Nada) return;
+        const TipoTabla tipo = pedido == PedidoFicha::dlgTablaFQ ? TipoTabla::FQ : TipoTabla::SHV;
+        dlgTabla_ventana(entorno, tabla, tipo, &ventana)
+            .Abre(represa.lblNroRepresa, represa.lblNombreRepresa);
+    };
+    ventana.Abre();
+}
+
+void FormasDeComponentes::AbreLago()
+{
+    dlgLago_ventana ventana(entorno, lago, &padre);
+    ventana.AbreTabla = [&](PedidoFicha pedido) {
+        if (pedido == PedidoFicha::Nada) return;
+        dlgTabla_ventana deTabla(entorno, tabla, TipoTabla::SHVQ, &ventana);
+        deTabla.AlCambiarTablas = [&] {
+            AlVolver(lago, entorno.s);
+            ventana.Muestra();
+        };
+        deTabla.Abre(lago.lblNroLago, lago.lblNombreLago);
+    };
+    ventana.Abre();
+}
+
+}  // namespace editor
