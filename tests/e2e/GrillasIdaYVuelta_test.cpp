@@ -100,7 +100,9 @@ TEST_F(GrillasIdaYVuelta, ElAreaTecladaEnLaTablaCambiaEsaUEHYNoOtra)
     ASSERT_EQ(antes.size(), despues.size());
     EXPECT_GT(despues.at(nombre), 1.5F * antes.at(nombre));
     for (const auto& [otro, pico] : antes)
-        if (otro.starts_with("u-") && otro != nombre) EXPECT_EQ(despues.at(otro), pico) << otro;
+        if (otro.starts_with("u-") && otro != nombre) {
+            EXPECT_EQ(despues.at(otro), pico) << otro;
+        }
 }
 
 TEST_F(GrillasIdaYVuelta, ElDobleDeCaudalEnLaTablaDelLagoSubeSuPico)

@@ -51,8 +51,9 @@ TEST(FormulasDeCaudal, SusTextosALaLetraYEnOrden)
 TEST(FormulasDeCaudal, ElRotuloDeKuicklingOrdinariasTieneLaAyudaDeZapataYLosDemasLaSuya)
 {
     for (const FormulaQp& formula : FormulasQp()) {
-        if (formula.control == "txtQpKuicklingO")
+        if (formula.control == "txtQpKuicklingO") {
             EXPECT_EQ(formula.ayudaRotulo, "Qp = 21 * S^0,6  ; S= Superficie [Km2]  ; Coeficiente C= 30");
+        }
         else
             EXPECT_EQ(formula.ayudaRotulo, formula.ayuda) << formula.control;
     }

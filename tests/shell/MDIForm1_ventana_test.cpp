@@ -70,7 +70,9 @@ TEST_F(MarcoEnPantalla, MuestraTituloMenuYBarraDeLasTablas)
         }
         const QAction& accion = Accion(fila.nombre);
         EXPECT_EQ(accion.isSeparator(), fila.leyenda == "-") << fila.nombre;
-        if (!accion.isSeparator()) EXPECT_EQ(forms::DeQ(accion.text()), fila.leyenda);
+        if (!accion.isSeparator()) {
+            EXPECT_EQ(forms::DeQ(accion.text()), fila.leyenda);
+        }
     }
     auto& barra = Control<QToolBar>(ventana, "tbToolBar");
     ASSERT_EQ(static_cast<std::size_t>(barra.actions().size()), tbToolBar().size());
