@@ -53,8 +53,7 @@ TEST(FormulasDeCaudal, ElRotuloDeKuicklingOrdinariasTieneLaAyudaDeZapataYLosDema
     for (const FormulaQp& formula : FormulasQp()) {
         if (formula.control == "txtQpKuicklingO") {
             EXPECT_EQ(formula.ayudaRotulo, "Qp = 21 * S^0,6  ; S= Superficie [Km2]  ; Coeficiente C= 30");
-        }
-        else
+        } else
             EXPECT_EQ(formula.ayudaRotulo, formula.ayuda) << formula.control;
     }
 }
