@@ -51,11 +51,11 @@ void ConservaLugar(QWidget& widget)
     widget.setSizePolicy(politica);
 }
 
-PartesDeFicha::PartesDeFicha(forms::Entorno& alrededor, std::string_view nombre, std::string_view titulo,
-                             std::span<const FilaRotulo> rotulos, Ficha& registro, QWidget* padre)
-    : Formulario(alrededor, nombre, padre), leyendas(rotulos), ficha(registro)
+PartesDeFicha::PartesDeFicha(forms::Entorno& alrededor, const DescripcionFicha& descripcion, Ficha& registro,
+                             QWidget* padre)
+    : Formulario(alrededor, descripcion.nombre, padre), leyendas(descripcion.leyendas), ficha(registro)
 {
-    setWindowTitle(Q(titulo));
+    setWindowTitle(Q(descripcion.titulo));
 }
 
 std::string_view PartesDeFicha::Leyenda(std::string_view control) const

@@ -30,6 +30,13 @@ namespace editor {
 /// Keeps the place of what a form hides, so that nothing jumps.
 void ConservaLugar(QWidget& widget);
 
+/// What tells the window of one property form from another's.
+struct DescripcionFicha {
+    std::string_view nombre;  ///< object name of the window
+    std::string_view titulo;
+    std::span<const FilaRotulo> leyendas;
+};
+
 /// What the windows of the property forms are built of. Controls are made with their captions from the form's
 /// table, and each remembers how it is shown from the record.
 class PartesDeFicha : public forms::Formulario {
@@ -38,8 +45,8 @@ class PartesDeFicha : public forms::Formulario {
     bool eventFilter(QObject* objeto, QEvent* evento) override;
 
   protected:
-    PartesDeFicha(forms::Entorno& alrededor, std::string_view nombre, std::string_view titulo,
-                  std::span<const FilaRotulo> leyendas, Ficha& registro, QWidget* padre);
+    PartesDeFicha(forms::Entorno& alrededor, const DescripcionFicha& descripcion, Ficha& registro,
+                  QWidget* padre);
 
     /// The caption of a control; empty where it has none.
     [[nodiscard]] std::string_view Leyenda(std::string_view control) const;
@@ -116,9 +123,9 @@ class Ficha_ventana : public PartesDeFicha {
     }
 
   protected:
-    Ficha_ventana(forms::Entorno& alrededor, std::string_view nombre, std::string_view titulo,
-                  std::span<const FilaRotulo> rotulos, Forma& registro, QWidget* padre)
-        : PartesDeFicha(alrededor, nombre, titulo, rotulos, registro, padre), f(registro)
+    Ficha_ventana(forms::Entorno& alrededor, const DescripcionFicha& descripcion, Forma& registro,
+                  QWidget* padre)
+        : PartesDeFicha(alrededor, descripcion, registro, padre), f(registro)
     {
     }
 

@@ -29,8 +29,8 @@ void Raya(QGridLayout& grilla)
 
 dlgCauceEditProp_ventana::dlgCauceEditProp_ventana(forms::Entorno& alrededor, dlgCauceEditProp& registro,
                                                    QWidget* padre)
-    : Ficha_ventana(alrededor, "dlgCauceEditProp", TituloDlgCauceEditProp, RotulosDlgCauceEditProp, registro,
-                    padre)
+    : Ficha_ventana(alrededor, {"dlgCauceEditProp", TituloDlgCauceEditProp, RotulosDlgCauceEditProp},
+                    registro, padre)
 {
     auto* const pila = new QVBoxLayout(this);
     auto* const cuerpo = new QHBoxLayout;

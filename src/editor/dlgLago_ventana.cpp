@@ -9,7 +9,7 @@
 namespace editor {
 
 dlgLago_ventana::dlgLago_ventana(forms::Entorno& alrededor, dlgLago& registro, QWidget* padre)
-    : FichaEmbalse_ventana(alrededor, "dlgLago", TituloDlgLago, RotulosDlgLago, registro, padre)
+    : FichaEmbalse_ventana(alrededor, {"dlgLago", TituloDlgLago, RotulosDlgLago}, registro, padre)
 {
     auto* const pila = new QVBoxLayout(this);
     auto* const cuerpo = new QHBoxLayout;

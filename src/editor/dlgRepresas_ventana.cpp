@@ -24,7 +24,7 @@ QString Indexado(std::string_view control, int funcion)
 }  // namespace
 
 dlgRepresas_ventana::dlgRepresas_ventana(forms::Entorno& alrededor, dlgRepresas& registro, QWidget* padre)
-    : FichaEmbalse_ventana(alrededor, "dlgRepresas", TituloDlgRepresas, RotulosDlgRepresas, registro, padre)
+    : FichaEmbalse_ventana(alrededor, {"dlgRepresas", TituloDlgRepresas, RotulosDlgRepresas}, registro, padre)
 {
     auto* const pila = new QVBoxLayout(this);
     auto* const cuerpo = new QHBoxLayout;

@@ -17,7 +17,7 @@ namespace editor {
 using forms::Q;
 
 dlgUEH2_ventana::dlgUEH2_ventana(forms::Entorno& alrededor, dlgUEH2& registro, QWidget* padre)
-    : Ficha_ventana(alrededor, "dlgUEH2", TituloDlgUEH2, RotulosDlgUEH2, registro, padre)
+    : Ficha_ventana(alrededor, {"dlgUEH2", TituloDlgUEH2, RotulosDlgUEH2}, registro, padre)
 {
     // Made in reading order, which is the order of the Tab key.
     auto* const pila = new QVBoxLayout(this);
@@ -65,13 +65,13 @@ QWidget* dlgUEH2_ventana::MarcoDeArea()
     return marco;
 }
 
-QWidget* dlgUEH2_ventana::MarcoDe(std::string_view control, std::initializer_list<std::string_view> numeros)
+QWidget* dlgUEH2_ventana::MarcoDe(std::string_view marco, std::initializer_list<std::string_view> numeros)
 {
-    QGroupBox* const marco = Marco(control);
-    auto* const grilla = new QGridLayout(marco);
+    QGroupBox* const grupo = Marco(marco);
+    auto* const grilla = new QGridLayout(grupo);
     for (const std::string_view numero : numeros)
         Numero(*grilla, CamposDlgUEH2, numero);
-    return marco;
+    return grupo;
 }
 
 QWidget* dlgUEH2_ventana::MarcoDeInfiltracion()

@@ -51,5 +51,22 @@ TEST_F(TitulosDeTablas, UnTituloDesconocidoNoTieneUnidad)
     EXPECT_EQ(UnidadDeTitulo(""), "");
 }
 
+TEST_F(TitulosDeTablas, LaAyudaDeUnaCeldaDiceQueHayEnElla)
+{
+    Agrega(model::Cauce{.NombreCauce = "c-1"});
+    Agrega(model::UEH{.NombreUEH = "u-1"});
+    Guarda();
+    dlgUEHsTabla f;
+    Abre(f, s);
+    const forms::Grilla& g = f.MSFlexGridTablaUEHs;
+    // Rows: titles of the reaches, c-1, titles of the UEHs, u-1.
+    EXPECT_EQ(AyudaDeCelda(g, {2, 7}), "Vel.Media [m/s]");
+    EXPECT_EQ(AyudaDeCelda(g, {2, 5}), "Vértices");
+    EXPECT_EQ(AyudaDeCelda(g, {4, 5}), "Area [has]");
+    EXPECT_EQ(AyudaDeCelda(g, {4, 2}), "Nombre");
+    EXPECT_EQ(AyudaDeCelda(g, {0, 5}), "");
+    EXPECT_EQ(AyudaDeCelda(g, {2, 99}), "");
+}
+
 }  // namespace
 }  // namespace editor

@@ -151,5 +151,15 @@ TEST(EstructuraDeGrafico, SoloLaLluviaEnElEjeSecundarioDeUnaCombinacionCuelga)
     EXPECT_FALSE(CuelgaDeArriba(g, g.series[1]));
 }
 
+TEST(LecturaGrafico, LosRotulosCaenEnLosMultiplosDelNumeroDeFila)
+{
+    EXPECT_EQ(PrimeraRotulada(1, 5, 1), 5U);  // rows numbered from 1
+    EXPECT_EQ(PrimeraRotulada(6, 5, 1), 10U);
+    EXPECT_EQ(PrimeraRotulada(1, 5, 0), 1U);  // row 1 has the number 0
+    EXPECT_EQ(PrimeraRotulada(2, 5, 0), 6U);
+    EXPECT_EQ(PrimeraRotulada(1, 5, 502), 4U);
+    EXPECT_EQ(PrimeraRotulada(1, 5, -3), 4U);
+}
+
 }  // namespace
 }  // namespace forms

@@ -152,6 +152,26 @@ TEST_F(EscritorioDePrueba, ElEditorDeLaRedTomaElLugarDeLaVentanaPrincipalYLoDevu
     EXPECT_TRUE(escritorio.Principal().isVisible());
 }
 
+TEST_F(EscritorioDePrueba, LaTablaDeParametrosEstaJuntoALasOtrasVentanasYElEditorDeTablaEsModal)
+{
+    Arranca(instalacion.Quelmar());
+    Accion("mnufrmUEHsTabla").trigger();
+    auto* const tabla = escritorio.Principal().findChild<QWidget*>(QStringLiteral("dlgUEHsTabla"));
+    ASSERT_NE(tabla, nullptr);
+    EXPECT_TRUE(tabla->isVisible());
+    bool vista = false;
+    QTimer mira;
+    QObject::connect(&mira, &QTimer::timeout, &mira, [&] {
+        auto* const forma = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (forma == nullptr) return;
+        vista = forma->objectName() == QStringLiteral("dlgUEHsEditTabla");
+        forma->reject();
+    });
+    mira.start(5);
+    Accion("mnuEditfrmUEHsTabla").trigger();
+    EXPECT_TRUE(vista);
+}
+
 TEST_F(EscritorioDePrueba, SinProyectoElEditorSeCierraYLaVentanaPrincipalVuelve)
 {
     Arranca(instalacion.Quelmar());
