@@ -39,8 +39,14 @@ class TablaGrilla::Modelo : public QAbstractTableModel {
         case Qt::TextAlignmentRole:
             return static_cast<int>(Alinea(columna.alineacion));
         case Qt::BackgroundRole:
-            return QApplication::palette().brush(columna.editable && !fila.esTitulo ? QPalette::Base
-                                                                                    : QPalette::Window);
+            // Between grey rows of titles the data are light, though nothing in them can be edited.
+            return QApplication::palette().brush(
+                (columna.editable || conTitulos) && !fila.esTitulo ? QPalette::Base : QPalette::Window);
+        case Qt::FontRole: {
+            QFont letra;
+            letra.setBold(fila.esTitulo);
+            return fila.esTitulo ? QVariant(letra) : QVariant();
+        }
         case Qt::ToolTipRole:
             return Ayuda(celda);
         default:
@@ -61,6 +67,8 @@ class TablaGrilla::Modelo : public QAbstractTableModel {
     /// Takes over the number of rows and columns; the cells are read as they are painted.
     void Actualiza()
     {
+        conTitulos = std::any_of(grilla.filas.begin(), grilla.filas.end(),
+                                 [](const FilaGrilla& fila) { return fila.esTitulo; });
         if (filas != grilla.NroFilas() || columnas != grilla.NroColumnas()) {
             beginResetModel();
             filas = grilla.NroFilas();
@@ -94,6 +102,7 @@ class TablaGrilla::Modelo : public QAbstractTableModel {
     const Grilla& grilla;
     const TablaGrilla& vista;
     int filas = 0, columnas = 0;
+    bool conTitulos = false;  ///< some rows give the columns below them other titles
 };
 
 namespace {
@@ -169,8 +178,11 @@ void TablaGrilla::AjustaColumnas()
     const QFontMetrics letra(horizontalHeader()->font());
     for (int c = 0; c < grilla.NroColumnas(); ++c) {
         const QString titulo = Q(grilla.columnas[static_cast<std::size_t>(c)].titulo);
-        setColumnWidth(
-            c, std::max(letra.horizontalAdvance(titulo), letra.horizontalAdvance(titulo.trimmed())) + Margen);
+        // One whose titles stand in its rows is as wide as the widest of its cells.
+        const int celdas = titulo.isEmpty() ? sizeHintForColumn(c) : 0;
+        setColumnWidth(c, std::max({letra.horizontalAdvance(titulo),
+                                    letra.horizontalAdvance(titulo.trimmed()), celdas}) +
+                              Margen);
     }
 }
 

@@ -9,7 +9,6 @@
 
 #include "forms/Cajas_ventana.h"
 #include "forms/Textos_ventana.h"
-#include "model/Avisos.h"
 #include "shell/dlgEliminarProyecto_ventana.h"
 #include "shell/frmAcerca_ventana.h"
 #include "shell/frmInicio_ventana.h"
@@ -17,12 +16,6 @@
 namespace shell {
 
 using forms::Q;
-
-namespace {
-
-constexpr std::string_view NoDisponible = "Esta ventana todavía no está disponible.";
-
-}  // namespace
 
 Escritorio::Escritorio(const std::string& dirTrabajo)
 {
@@ -186,19 +179,12 @@ void Escritorio::Abre(Ventana ventana, bool espera)
         return ventanasSerie->ventanaTablaComponente.Abre();
     case Ventana::dlgEmpiricas:
         return ventanaEmpiricas->Abre();
-    default:
-        return TodaviaNo();
     }
 }
 
 void Escritorio::AbreHietograma(const results::Hietograma& pedido)
 {
     ventanaHietograma->Muestra(pedido);
-}
-
-void Escritorio::TodaviaNo() const
-{
-    model::Informa(s, std::string(NoDisponible));
 }
 
 void Escritorio::Cierra(Ventana ventana)

@@ -68,7 +68,6 @@ class Escritorio {
     void PonAvance();
     void PonMandos();
     void AbreHietograma(const results::Hietograma& pedido);
-    void TodaviaNo() const;
     void Cierra(Ventana ventana);
     void Presenta(QWidget& ventana);
     void PonBajo(QWidget& ventana, QWidget& dueno);

@@ -127,15 +127,6 @@ TEST_F(EscritorioDePrueba, ElAvanceSeVeConSusTextosYSePuedeCerrarPorSuMarco)
     EXPECT_FALSE(avance.isVisible());
 }
 
-TEST_F(EscritorioDePrueba, LoQueTodaviaNoEstaLoDice)
-{
-    Arranca();
-    escritorio.s.NombreProyecto = "Uno";
-    Accion("mnufrmUEHsTabla").trigger();
-    EXPECT_EQ(anfitrion->Avisos(),
-              (std::vector<model::Mensaje>{{"Esta ventana todavía no está disponible."}}));
-}
-
 TEST_F(EscritorioDePrueba, ElEditorDeLaRedTomaElLugarDeLaVentanaPrincipalYLoDevuelve)
 {
     Arranca(instalacion.Quelmar());
