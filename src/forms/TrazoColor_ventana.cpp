@@ -140,6 +140,17 @@ void Trazo::ColoreaEje(QCPAxis& eje) const
     eje.grid()->setSubGridVisible(false);
 }
 
+namespace {
+
+/// Points of a curve; those of the second round of colours are square.
+QCPScatterStyle PuntoDeCurva(const QColor& color, bool otraVuelta)
+{
+    constexpr double Punto = 5;
+    return {otraVuelta ? QCPScatterStyle::ssSquare : QCPScatterStyle::ssDisc, color, color, Punto};
+}
+
+}  // namespace
+
 void Trazo::ColoreaSeries()
 {
     std::size_t nroLinea = 0;
@@ -157,17 +168,18 @@ void Trazo::ColoreaSeries()
         QColor relleno = color;
         relleno.setAlpha(OpacidadDeLluvia);
         linea.setBrush(escalon ? QBrush(relleno) : QBrush(Qt::NoBrush));
-        constexpr double Punto = 5;
         const bool pocos = grafico.categorias.size() <= PocosPuntos;
-        linea.setScatterStyle(!escalon && pocos ? QCPScatterStyle(otraVuelta ? QCPScatterStyle::ssSquare
-                                                                             : QCPScatterStyle::ssDisc,
-                                                                  color, color, Punto)
-                                                : QCPScatterStyle());
+        linea.setScatterStyle(!escalon && pocos ? PuntoDeCurva(color, otraVuelta) : QCPScatterStyle());
         puntosLeidos[i]->setPen(QPen(color, Grueso));
         puntosLeidos[i]->setBrush(tinta.fondo);
         constexpr double PuntoLeido = 8;
         puntosLeidos[i]->setSize(PuntoLeido);
     }
+    ColoreaMarcas();
+}
+
+void Trazo::ColoreaMarcas()
+{
     for (std::size_t i = 0; i < puntosMarcados.size() && i < grafico.marcas.size(); ++i) {
         constexpr double PuntoMarcado = 9;
         const std::size_t serie = grafico.marcas[i].serie;

@@ -78,6 +78,7 @@ class Trazo {
     void Colorea();
     void ColoreaEje(QCPAxis& eje) const;
     void ColoreaSeries();
+    void ColoreaMarcas();
     [[nodiscard]] bool EscalonEn(std::size_t serie) const;
     [[nodiscard]] double Abscisa(std::size_t serie, std::size_t fila) const;
     [[nodiscard]] bool HayColgada() const;
