@@ -12,6 +12,7 @@
 #include "model/ArchivosTormenta.h"
 #include "model/Avisos.h"
 #include "model/Configuracion.h"
+#include "model/DirPropio.h"
 #include "model/Falla.h"
 #include "model/VidaProyecto.h"
 
@@ -133,7 +134,7 @@ int Corre(const Opciones& o, const std::string& dirEjecutable, const Salidas& sa
     Siro s;
     s.Anfitrion = anfitrion.Anfitrion();
     s.DirEjecutable = dirEjecutable;
-    s.DirTrabajo = o.trabajo.empty() ? dirEjecutable : Absoluta(o.trabajo);
+    s.DirTrabajo = o.trabajo.empty() ? model::DirTrabajoDe(dirEjecutable) : Absoluta(o.trabajo);
     bool completa = false;
     try {
         completa = CorreOrden(s, o);

@@ -18,7 +18,8 @@ inline constexpr int EstadoOrdenErronea = 2;  ///< the command line is wrong
 int Lote(int argc, const char* const* argv, const Salidas& salidas);
 
 /// Runs a project: opens it, settles the storm, runs it or the series, hands over the Slate's text and writes
-/// the CSV. `dirEjecutable` stands for DirTrabajo where the options name none. Returns the exit status.
+/// the CSV. Where the options name no DirTrabajo it is the program's own directory, by `dirEjecutable`.
+/// Returns the exit status.
 int Corre(const Opciones& opciones, const std::string& dirEjecutable, const Salidas& salidas);
 
 /// Opens the project of a configuration file given by its absolute path, as the menu's Open does, and reads

@@ -7,7 +7,7 @@
 
 #include "shell/MDIForm1.h"
 
-// How the program starts: its own directory, the splash, the project of the last time.
+// How the program starts: its state, the splash, the project of the last time.
 namespace shell {
 
 inline constexpr std::string_view ProyectoPorDefecto = "Quelmar";
@@ -31,12 +31,5 @@ void Prepara(model::Siro& s, const Portada& portada, std::string_view version,
 
 /// With the main window: it opens, offers the last project in its menu, and there is no project.
 void AlAbrirse(MDIForm1& f, model::Siro& s);
-
-/// The program's own directory: that of the executable, or `dirUsuario` where the user may not write there.
-/// At its first start, which finds no pointer file, the delivered tables, storms, sample project and help
-/// that it lacks are copied there from `dirEntregado`. `dirUsuario` must be there. What can't be copied is
-/// left out.
-std::string PreparaDirTrabajo(const model::Disco& disco, const std::string& dirEjecutable,
-                              const std::string& dirUsuario, const std::string& dirEntregado);
 
 }  // namespace shell

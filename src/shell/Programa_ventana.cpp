@@ -5,12 +5,12 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLibraryInfo>
-#include <QStandardPaths>
 #include <QStyleFactory>
 #include <QTranslator>
 
 #include "forms/Cajas_ventana.h"
 #include "forms/Textos_ventana.h"
+#include "model/DirPropio.h"
 #include "shell/Escritorio_ventana.h"
 #include "shell/Iconos_ventana.h"
 
@@ -19,24 +19,9 @@ namespace {
 
 using forms::DeQ;
 
-/// What came with the program: beside it, or where an installation puts it; empty where there is none.
-QString DirEntregado(const QString& dirEjecutable)
-{
-    for (const char* const lugar : {"/data", "/../share/siro"}) {
-        const QDir directorio(dirEjecutable + QLatin1String(lugar));
-        if (directorio.exists()) return directorio.absolutePath();
-    }
-    return {};
-}
-
 std::string DirTrabajo()
 {
-    const QString dirEjecutable = QCoreApplication::applicationDirPath();
-    const QString dirUsuario = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
-    const auto nativa = [](const QString& ruta) { return DeQ(QDir::toNativeSeparators(ruta)); };
-    if (!QFileInfo(dirEjecutable).isWritable()) QDir().mkpath(dirUsuario);
-    return PreparaDirTrabajo(model::DiscoDelSistema(), nativa(dirEjecutable), nativa(dirUsuario),
-                             nativa(DirEntregado(dirEjecutable)));
+    return model::DirTrabajoDe(DeQ(QDir::toNativeSeparators(QCoreApplication::applicationDirPath())));
 }
 
 void PonAspecto(QApplication& programa, QTranslator& castellano)

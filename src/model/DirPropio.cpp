@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "model/DirPropio.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <filesystem>
+#include <string_view>
+
+#include "model/Avisos.h"
+#include "model/VidaProyecto.h"
+
+namespace model {
+namespace {
+
+constexpr std::string_view ArchivoDePrueba = "siro_prueba.tmp";
+constexpr std::string_view CarpetaDeAyuda = "Ayuda";
+/// Folders of what is delivered, the root first.
+constexpr auto CarpetasEntregadas = std::to_array<std::string_view>({"", "Proyectos", CarpetaDeAyuda});
+
+bool Intenta(const std::function<void()>& cuerpo)
+{
+    return Sentencia(cuerpo, [](const Falla&) {});
+}
+
+bool SePuedeEscribir(const Disco& disco, const std::string& directorio)
+{
+    const std::string prueba = Ruta(directorio, ArchivoDePrueba);
+    if (!Intenta([&] { disco.Escribe(prueba, ""); })) return false;
+    // Gone already where another program that starts at the same time has tried the same.
+    Intenta([&] { disco.Borra(prueba); });
+    return true;
+}
+
+bool Esta(const Disco& disco, const std::string& directorio, std::string_view nombre)
+{
+    bool esta = false;
+    Intenta([&] {
+        const auto nombres = disco.Lista(directorio);
+        esta = std::find(nombres.begin(), nombres.end(), nombre) != nombres.end();
+    });
+    return esta;
+}
+
+/// Creates a directory and those above it that are missing.
+void CreaCamino(const Disco& disco, const std::string& directorio)
+{
+    if (directorio.empty() || disco.HayDirectorio(directorio)) return;
+    const std::size_t separador = directorio.rfind(Separador);
+    if (separador != std::string::npos) CreaCamino(disco, directorio.substr(0, separador));
+    Intenta([&] { disco.CreaDirectorio(directorio); });
+}
+
+void CopiaLoQueFalta(const Disco& disco, const std::string& origen, const std::string& destino)
+{
+    if (!disco.HayDirectorio(origen)) return;
+    CreaCamino(disco, destino);
+    Intenta([&] {
+        for (const std::string& nombre : disco.Lista(origen))
+            if (!Esta(disco, destino, nombre))
+                Intenta([&] { disco.Copia(Ruta(origen, nombre), Ruta(destino, nombre)); });
+    });
+}
+
+/// Where the system keeps the data of a user's programs.
+std::string DatosDelUsuario(const Ambiente& ambiente)
+{
+#if defined(_WIN32)
+    return ambiente("LOCALAPPDATA");
+#else
+    const std::string hogar = ambiente("HOME");
+#if defined(__APPLE__)
+    return hogar.empty() ? hogar : hogar + "/Library/Application Support";
+#else
+    // A relative path there is void by the rules of the desktops.
+    const std::string datos = ambiente("XDG_DATA_HOME");
+    if (std::filesystem::path(datos).is_absolute()) return datos;
+    return hogar.empty() ? hogar : hogar + "/.local/share";
+#endif
+#endif
+}
+
+}  // namespace
+
+Ambiente AmbienteDelProceso()
+{
+    return [](const std::string& nombre) {
+        const char* const valor = std::getenv(nombre.c_str());
+        return std::string(valor == nullptr ? "" : valor);
+    };
+}
+
+std::string DirDelUsuario(const Ambiente& ambiente)
+{
+    const std::string datos = DatosDelUsuario(ambiente);
+    return datos.empty() ? datos : Ruta(Ruta(datos, "SIRO"), "siro");
+}
+
+std::string DirEntregado(const Disco& disco, const std::string& dirEjecutable)
+{
+    const std::string compartido = Ruta(Ruta(Ruta(dirEjecutable, ".."), "share"), "siro");
+    for (const std::string& lugar : {Ruta(dirEjecutable, "data"), compartido, dirEjecutable})
+        if (disco.HayDirectorio(Ruta(lugar, CarpetaDeAyuda))) return lugar;
+    return {};
+}
+
+std::string PreparaDirTrabajo(const Disco& disco, const std::string& dirEjecutable,
+                              const std::string& dirUsuario, const std::string& dirEntregado)
+{
+    const bool propio = dirUsuario.empty() || SePuedeEscribir(disco, dirEjecutable);
+    std::string directorio = propio ? dirEjecutable : dirUsuario;
+    CreaCamino(disco, directorio);
+    if (dirEntregado.empty() || Esta(disco, directorio, ArchivoPuntero)) return directorio;
+    for (const std::string_view carpeta : CarpetasEntregadas) {
+        if (carpeta.empty())
+            CopiaLoQueFalta(disco, dirEntregado, directorio);
+        else
+            CopiaLoQueFalta(disco, Ruta(dirEntregado, carpeta), Ruta(directorio, carpeta));
+    }
+    return directorio;
+}
+
+std::string DirTrabajoDe(const std::string& dirEjecutable)
+{
+    const Disco disco = DiscoDelSistema();
+    return PreparaDirTrabajo(disco, dirEjecutable, DirDelUsuario(AmbienteDelProceso()),
+                             DirEntregado(disco, dirEjecutable));
+}
+
+}  // namespace model

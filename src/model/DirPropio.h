@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "model/Disco.h"
+
+// The program's own directory, where the shared tables are read and the result files written, and what an
+// installation delivers to it. The same for every program that is installed together.
+namespace model {
+
+/// Value of a variable of the process's environment; empty where it isn't set.
+using Ambiente = std::function<std::string(const std::string& nombre)>;
+
+/// The real environment.
+Ambiente AmbienteDelProceso();
+
+/// The user's own data directory for SIRO, whether it is there or not; empty where the system tells none.
+std::string DirDelUsuario(const Ambiente& ambiente);
+
+/// What came with the program of this directory: in "data" under it, in "share/siro" beside it, or in the
+/// directory itself. It is known by its folder of help. Empty where there is none.
+std::string DirEntregado(const Disco& disco, const std::string& dirEjecutable);
+
+/// The program's own directory: that of the executable, or `dirUsuario` where the user may not write there.
+/// At its first start, which finds no pointer file, the delivered tables, storms, sample project and help
+/// that it lacks are copied there from `dirEntregado`. What can't be made or copied is left out.
+std::string PreparaDirTrabajo(const Disco& disco, const std::string& dirEjecutable,
+                              const std::string& dirUsuario, const std::string& dirEntregado);
+
+/// The same with all of it as the system tells it, for the program that lies in this directory.
+std::string DirTrabajoDe(const std::string& dirEjecutable);
+
+}  // namespace model
