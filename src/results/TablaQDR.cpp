@@ -124,7 +124,7 @@ void AgregaTotales(TablaQDR& t, Siro& s)
         });
 }
 
-// --- order ---------------------------------------------------------------------------------------------
+// --- order ---
 
 bool SeOrdena(ClaseFila clase)
 {
@@ -270,6 +270,27 @@ std::string BloqueComoTexto(const TablaQDR& t, const BloqueQDR& bloque)
         texto += model::SaltoLinea;
     }
     return texto;
+}
+
+void AlPulsarEncabezado(FormaTablaQDR& f, int columna)
+{
+    PulsaEncabezado(f.MSFlexGridTablaSaleQDR, columna);
+}
+
+void OKButton(FormaTablaQDR& f)
+{
+    f.abierta = false;
+}
+
+void AntesDeImprimir(FormaTablaQDR& f)
+{
+    f.vistaGuardada = f.vista;
+    f.vista = {.botones = false, .barras = false};
+}
+
+void DespuesDeImprimir(FormaTablaQDR& f)
+{
+    f.vista = f.vistaGuardada;
 }
 
 bool HayPlanillaPDR(const Siro& s)

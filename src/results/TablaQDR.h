@@ -82,6 +82,22 @@ struct VistaTablaQDR {
     bool operator==(const VistaTablaQDR&) const = default;
 };
 
+/// What the forms of both tables hold alike.
+struct FormaTablaQDR {
+    bool abierta = false;
+    TablaQDR MSFlexGridTablaSaleQDR{};
+    VistaTablaQDR vista{}, vistaGuardada{};
+};
+
+/// A heading was clicked.
+void AlPulsarEncabezado(FormaTablaQDR& f, int columna);
+
+void OKButton(FormaTablaQDR& f);
+
+/// What is printed is the grid without buttons and scroll bars; afterwards every control is as it was.
+void AntesDeImprimir(FormaTablaQDR& f);
+void DespuesDeImprimir(FormaTablaQDR& f);
+
 inline constexpr std::string_view LeyendaActualizar = "&Actualizar cambios";
 inline constexpr std::string_view LeyendaImprimirTabla = "Imprimir";
 

@@ -39,8 +39,7 @@ std::string Texto(std::int16_t n)
     return NumeroATexto(std::int32_t{n});
 }
 
-// --- kinds of component
-// -------------------------------------------------------------------------------------
+// --- kinds of component ---
 
 /// What a series shows.
 enum class Dato : std::uint8_t { QSale, QEntra, PpUEHPaso, HRepresa, HLago };
@@ -94,8 +93,7 @@ std::int16_t Numero(const Siro& s, std::string_view nombre)
     return 0;
 }
 
-// --- cells
-// --------------------------------------------------------------------------------------------------
+// --- cells ---
 
 /// The rows of one component.
 struct Filas {

@@ -190,7 +190,7 @@ void dlgChart2_ventana::MuestraMando(Mando& mando, const Deslizador& estado, con
         w->setVisible(f.vista.deslizadores);
 }
 
-// --- the runs of the sliders ---------------------------------------------------------------------------
+// --- the runs of the sliders ---
 
 void dlgChart2_ventana::Pide(Mando& mando, int valor)
 {

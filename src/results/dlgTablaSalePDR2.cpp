@@ -36,11 +36,6 @@ void Abre(dlgTablaSalePDR2& f, Siro& s)
     cmdAplicarCambios(f, s);
 }
 
-void AlActivar(dlgTablaSalePDR2& f, Siro& s)
-{
-    cmdAplicarCambios(f, s);
-}
-
 void cmdAplicarCambios(dlgTablaSalePDR2& f, Siro& s)
 {
     if (s.NroComponentes < 1) {
@@ -56,27 +51,6 @@ void lstCompos_Click(dlgTablaSalePDR2& f, Siro& s)
 {
     if (f.lstComposIndice < 0) return;
     cmdAplicarCambios(f, s);
-}
-
-void AlPulsarEncabezado(dlgTablaSalePDR2& f, int columna)
-{
-    PulsaEncabezado(f.MSFlexGridTablaSaleQDR, columna);
-}
-
-void OKButton(dlgTablaSalePDR2& f)
-{
-    f.abierta = false;
-}
-
-void AntesDeImprimir(dlgTablaSalePDR2& f)
-{
-    f.vistaGuardada = f.vista;
-    f.vista = {.botones = false, .barras = false};
-}
-
-void DespuesDeImprimir(dlgTablaSalePDR2& f)
-{
-    f.vista = f.vistaGuardada;
 }
 
 }  // namespace results

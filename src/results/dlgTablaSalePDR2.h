@@ -13,34 +13,20 @@ namespace results {
 inline constexpr std::string_view TituloDlgTablaSalePDR2 =
     "Serie de Tormentas Sintéticas: Resumen Qp-D-R - E-D-R - CE-D-R por Componente";
 
-struct dlgTablaSalePDR2 {
-    bool abierta = false;
+struct dlgTablaSalePDR2 : FormaTablaQDR {
     std::vector<std::string> lstCompos{};  ///< Secuencia from 1 on
     int lstComposIndice = -1;              ///< item selected, from 0; -1: none
-    TablaQDR MSFlexGridTablaSaleQDR{};
-    VistaTablaQDR vista{}, vistaGuardada{};
 };
 
 /// Opening. Without components the window closes itself.
 void Abre(dlgTablaSalePDR2& f, model::Siro& s);
 
-/// The window came to the front: the table follows the boxes of the configuration.
-void AlActivar(dlgTablaSalePDR2& f, model::Siro& s);
-
-/// Fills the table again: the component is the one that has the selected name by now, the first one where
-/// none has. Without components the window closes itself.
+/// Fills the table again, also as the window comes to the front: it follows the boxes of the configuration.
+/// The component is the one that has the selected name by now, the first one where none has. Without
+/// components the window closes itself.
 void cmdAplicarCambios(dlgTablaSalePDR2& f, model::Siro& s);
 
 /// A component was picked; with none selected nothing happens.
 void lstCompos_Click(dlgTablaSalePDR2& f, model::Siro& s);
-
-/// A heading was clicked.
-void AlPulsarEncabezado(dlgTablaSalePDR2& f, int columna);
-
-void OKButton(dlgTablaSalePDR2& f);
-
-/// What is printed is the grid and its list; afterwards every control is as it was.
-void AntesDeImprimir(dlgTablaSalePDR2& f);
-void DespuesDeImprimir(dlgTablaSalePDR2& f);
 
 }  // namespace results

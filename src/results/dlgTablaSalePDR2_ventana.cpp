@@ -2,21 +2,11 @@
 #include "results/dlgTablaSalePDR2_ventana.h"
 
 #include <QHBoxLayout>
-#include <QLayout>
-#include <QPushButton>
-#include <QVBoxLayout>
 
-#include "forms/Impresion_ventana.h"
 #include "forms/Lista_ventana.h"
 #include "forms/Textos_ventana.h"
-#include "results/TablaQDR_ventana.h"
-#include "results/dlgChart1.h"
 
 namespace results {
-
-using forms::Pon;
-using forms::Q;
-
 namespace {
 
 constexpr int LargoDeNombre = 15;  // characters of a component's name, without a scroll bar
@@ -25,11 +15,9 @@ constexpr int LargoDeNombre = 15;  // characters of a component's name, without 
 
 dlgTablaSalePDR2_ventana::dlgTablaSalePDR2_ventana(forms::Entorno& alrededor, dlgTablaSalePDR2& registro,
                                                    QWidget* padre)
-    : Ventana(alrededor, "dlgTablaSalePDR2", padre), f(registro)
+    : FormaTablaQDR_ventana(alrededor, "dlgTablaSalePDR2", TituloDlgTablaSalePDR2, registro, padre),
+      f(registro)
 {
-    setWindowTitle(Q(TituloDlgTablaSalePDR2));
-    tabla = new VistaQDR(entorno, f.MSFlexGridTablaSaleQDR, TituloDlgTablaSalePDR2);
-    tabla->AlPulsarEncabezado = [this](int columna) { Suceso([&] { AlPulsarEncabezado(f, columna); }); };
     lstCompos = new forms::ListaParaElegir;
     lstCompos->setObjectName(QStringLiteral("lstCompos"));
     lstCompos->setAccessibleName(QStringLiteral("Componente"));
@@ -41,61 +29,23 @@ dlgTablaSalePDR2_ventana::dlgTablaSalePDR2_ventana(forms::Entorno& alrededor, dl
             lstCompos_Click(f, entorno.s);
         });
     };
-    cmdAplicarCambios = BotonDeTabla(LeyendaActualizar, "cmdAplicarCambios");
-    cmdImprimir = BotonDeTabla(LeyendaImprimirTabla, "cmdImprimir");
-    OKButton = BotonDeTabla(LeyendaCerrar, "OKButton");
-    AlPulsar(*cmdAplicarCambios, [this] { results::cmdAplicarCambios(f, entorno.s); });
-    AlPulsar(*cmdImprimir, [this] { Imprime(); });
-    AlPulsar(*OKButton, [this] { results::OKButton(f); });
-    entorno.AlActivarse(*this, [this] {
-        if (!f.abierta) return;
-        AlActivar(f, entorno.s);
-        Muestra();
-    });
-
-    auto* const botones = new QHBoxLayout;
-    botones->addWidget(cmdAplicarCambios);
-    botones->addStretch(1);
-    botones->addWidget(cmdImprimir);
-    botones->addWidget(OKButton);
-    auto* const pila = new QVBoxLayout(this);
-    auto* const centro = new QHBoxLayout;
-    centro->addWidget(lstCompos);
-    centro->addWidget(tabla, 1);
-    pila->addLayout(centro, 1);
-    pila->addLayout(botones);
+    centro->insertWidget(0, lstCompos);
 }
 
-void dlgTablaSalePDR2_ventana::Abre()
+void dlgTablaSalePDR2_ventana::AbreForma()
 {
     results::Abre(f, entorno.s);
-    Muestra();
-    if (f.abierta) entorno.Presenta(*this);
 }
 
-void dlgTablaSalePDR2_ventana::AlCerrar()
+void dlgTablaSalePDR2_ventana::Llena()
 {
-    results::OKButton(f);
+    results::cmdAplicarCambios(f, entorno.s);
 }
 
 void dlgTablaSalePDR2_ventana::Muestra()
 {
-    tabla->Muestra();
-    tabla->MuestraBarras(f.vista.barras);
-    Pon(*lstCompos, f.lstCompos, f.lstComposIndice);
-    for (QPushButton* const boton : {cmdAplicarCambios, cmdImprimir, OKButton})
-        boton->setVisible(f.vista.botones);
-    if (!f.abierta && isVisible()) close();
-}
-
-void dlgTablaSalePDR2_ventana::Imprime()
-{
-    AntesDeImprimir(f);
-    Muestra();
-    layout()->activate();
-    forms::ImprimeVentana(entorno, *this);
-    DespuesDeImprimir(f);
-    Muestra();
+    forms::Pon(*lstCompos, f.lstCompos, f.lstComposIndice);
+    FormaTablaQDR_ventana::Muestra();
 }
 
 }  // namespace results

@@ -50,7 +50,7 @@ void Abre(frmPp& f, model::Siro& s);
 void Cierra(frmPp& f, model::Siro& s);
 void cmdCerrar(frmPp& f, model::Siro& s);
 
-// --- text ----------------------------------------------------------------------------------------------
+// --- text ---
 
 /// Puts a text in place of the one that is there.
 void PonTexto(frmPp& f, std::string_view texto);
@@ -65,7 +65,7 @@ std::string RotuloLargo(const frmPp& f);
 /// Asks for a file and writes the text to it, as Windows-1252. A fault is told.
 void GuardaTexto(const frmPp& f, const model::Siro& s);
 
-// --- search --------------------------------------------------------------------------------------------
+// --- search ---
 
 /// Opens the line of the search; the text that is selected, where it lies in one line, is what is looked for.
 void AbreBusqueda(frmPp& f, std::string_view seleccionado);

@@ -196,7 +196,7 @@ TEST_F(SerieDeMuestra, UnTildeQueSeQuitaSeNotaAlVolver)
     dlgTablaSalePDR f;
     Abre(f, s);
     s.frmConfigura.CheckD[5] = 0;  // 60 min
-    AlActivar(f, s);
+    cmdAplicarCambios(f, s);
     std::vector<Campos> quedan;
     for (const Campos& r : renglones)
         if (r[3] != "60") quedan.push_back(r);

@@ -22,8 +22,7 @@ using model::Mensaje;
 using model::Siro;
 using Textos = std::vector<std::string>;
 
-// --- table of cells
-// -----------------------------------------------------------------------------------------
+// --- table of cells ---
 
 struct CasoTiempo {
     std::int16_t i, paso;
@@ -52,8 +51,7 @@ TEST(CategoriaDeFila, ElTiempoEsUnProductoDe16Bits)
     EXPECT_THROW(Categoria(16384, 2, false), model::Falla);
 }
 
-// --- hyetograph
-// ---------------------------------------------------------------------------------------------
+// --- hyetograph ---
 
 /// 100 mm in 180 min by the distribution of three blocks: 20, 60 and 20 mm.
 class GraficoPp : public testing::Test {
@@ -158,8 +156,7 @@ TEST_F(GraficoPp, UnBloqueQueYaNoEstaSeDiceYElGraficoQueda)
     EXPECT_EQ(f.Grafico, antes);
 }
 
-// --- the menu's command
-// -------------------------------------------------------------------------------------
+// --- the menu's command ---
 
 TEST_F(GraficoPp, ElMenuConstruyeElHietogramaConElPasoDeLosBloques)
 {

@@ -28,8 +28,7 @@ using model::Siro;
 using Celdas = std::vector<double>;
 using Textos = std::vector<std::string>;
 
-// --- results written by hand
-// --------------------------------------------------------------------------------
+// --- results written by hand ---
 
 /// Five output steps of 10 min in model steps of 20 min, so r = 2; a storm of 30 mm in 30 min. Rows: u-1,
 /// c-1, l-1, r-2, of which r-2 is the second Represa and the outfall.
@@ -235,8 +234,7 @@ TEST_F(GraficoQ, UnaSecuenciaMasCortaQueSuCuentaEsUnaFallaYNoMas)
                   {"Error Nro. 9 ,El subíndice está fuera del intervaloVerifique", "", Icono::Ninguno}}));
 }
 
-// --- titles
-// -------------------------------------------------------------------------------------------------
+// --- titles ---
 
 TEST_F(GraficoQ, ElTituloDiceElComponenteYLaTormenta)
 {
@@ -260,8 +258,7 @@ TEST_F(GraficoQ, UnaSalidaMasAllaDeSuCuentaNoEsFinal)
     EXPECT_TRUE(f.lblTitulo.starts_with("Componente: 4, r-2"));
 }
 
-// --- opening, list, closing
-// ---------------------------------------------------------------------------------
+// --- opening, list, closing ---
 
 TEST_F(GraficoQ, AlAbrirLlenaLaListaYLosDeslizadores)
 {
@@ -401,8 +398,7 @@ TEST_F(GraficoQ, ImprimirOcultaLosMandosYLosDevuelve)
     EXPECT_FALSE(f.abierta);
 }
 
-// --- the menu's command
-// -------------------------------------------------------------------------------------
+// --- the menu's command ---
 
 TEST_F(GraficoQ, ElMenuPideTormentaBloquesYPasos)
 {
@@ -423,8 +419,7 @@ TEST_F(GraficoQ, ElMenuPideTormentaBloquesYPasos)
     EXPECT_FALSE(mnuHidrogramas(s));
 }
 
-// --- sliders
-// ------------------------------------------------------------------------------------------------
+// --- sliders ---
 
 /// One UEH of 6 ha, whole runoff, one step of delay: 60 mm in 30 min are 20 mm in each step of 10 min, and
 /// 20/10·0.166667·6 = 2.000004 m3/s, 2 in the cells.

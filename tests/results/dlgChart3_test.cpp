@@ -49,8 +49,7 @@ class Abaco : public pruebas::SerieDePrueba {
     dlgChart3 f;
 };
 
-// --- opening
-// --------------------------------------------------------------------------------------------------
+// --- opening ---
 
 TEST_F(Abaco, AbreConElCaudalMaximoDelComponenteDeMano)
 {
@@ -158,8 +157,7 @@ TEST_F(Abaco, ElFiltroCambiaLaTormentaDeManoYLosBuclesElIndice)
     EXPECT_EQ(s.IndSerie, 5);
 }
 
-// --- durations, recurrences, cells
-// ----------------------------------------------------------------------------
+// --- durations, recurrences, cells ---
 
 TEST_F(Abaco, SinElTildeDeUnaRecurrenciaSuCurvaDesapareceYLasOtrasQuedan)
 {
@@ -276,8 +274,7 @@ TEST_F(Abaco, UnaSerieQueNoEstaSeAvisa)
     EXPECT_TRUE(f.Grafico.series.empty());
 }
 
-// --- the two entries
-// --------------------------------------------------------------------------------------------
+// --- the two entries ---
 
 TEST_F(Abaco, AlGraficoPpTomaLasPrimerasDuracionesPorElPaso)
 {
@@ -311,8 +308,7 @@ TEST_F(Abaco, InicializaPoneTantasColumnasComoRecurrencias)
     EXPECT_EQ(f.Grafico.series.size(), 3U);  // stops before the columns
 }
 
-// --- lists
-// ------------------------------------------------------------------------------------------------------
+// --- lists ---
 
 TEST_F(Abaco, ElegirUnComponenteLoDibuja)
 {
@@ -416,8 +412,7 @@ TEST_F(Abaco, SiLaListaYElComponenteNoCoincidenNoHayCeldas)
     EXPECT_EQ(f.Grafico.categorias, (Textos{"60", "120"}));
 }
 
-// --- critical durations
-// ---------------------------------------------------------------------------------------
+// --- critical durations ---
 
 TEST_F(Abaco, MarcaLaDuracionCriticaDeCadaRecurrencia)
 {
@@ -434,8 +429,7 @@ TEST_F(Abaco, DeDosMaximosIgualesMarcaElPrimeroYDeUnaCurvaEnCeroNinguno)
     EXPECT_EQ(f.Grafico.marcas, (std::vector<Marca>{{0, 0, "D= 60 min"}}));
 }
 
-// --- commands
-// -------------------------------------------------------------------------------------------------
+// --- commands ---
 
 TEST_F(Abaco, DivideElEjeYSeCierra)
 {

@@ -113,7 +113,7 @@ TEST_F(TablaDeUno, AlVolverMuestraElDeLaListaYSigueALasCasillas)
     AbreEn(2);
     s.IndComp = 4;  // where the table of all components leaves it
     DestildaR(R25);
-    AlActivar(f, s);
+    cmdAplicarCambios(f, s);
     EXPECT_EQ(s.IndComp, 2);
     EXPECT_EQ(Mostradas(),
               (Textos{DeU2[0], DeU2[1], Totales[0], Totales[1], Totales[2], "Escorrentía total ||||||||"}));

@@ -193,7 +193,7 @@ TEST_F(TablaCompleta, AlVolverSigueALasCasillas)
     Abre(f, s);
     DestildaR(R10);
     EXPECT_EQ(Mostradas().size(), 17U);
-    AlActivar(f, s);
+    cmdAplicarCambios(f, s);
     EXPECT_EQ(Mostradas().size(), 9U);
     s.frmConfigura.CheckR[R10] = 1;
     cmdAplicarCambios(f, s);
@@ -248,8 +248,7 @@ TEST_F(TablaCompleta, ImprimeSinBotonesNiBarrasYLosDevuelve)
     EXPECT_FALSE(f.abierta);
 }
 
-// --- order
-// ----------------------------------------------------------------------------------------------------
+// --- order ---
 
 class OrdenDeTabla : public TablaCompleta {
   protected:
@@ -349,7 +348,7 @@ TEST_F(OrdenDeTabla, ElOrdenElegidoSigueAlVolverALlenar)
     AlPulsarEncabezado(f, Nro);
     AlPulsarEncabezado(f, Nro);
     DestildaR(R10);
-    AlActivar(f, s);
+    cmdAplicarCambios(f, s);
     EXPECT_EQ(Mostradas(), (Textos{"c-1|3|25|60|25|33.12|||", "u-2|2|25|60|25|23.12|2003|42.38|",
                                    "u-1|1|25|60|25|13.12|1003|41.38|",
                                    "Escorrentía total ||25|60|25||5003|50.38|", "||||||||"}));
@@ -399,7 +398,7 @@ TEST_F(OrdenDeTabla, UnRotuloSinTotalNoSeGuarda)
 {
     s.frmConfigura.CheckR.fill(0);
     s.NroComponentes = 3;
-    AlActivar(f, s);
+    cmdAplicarCambios(f, s);
     const std::string csv = ComoCsv(ComoPlanilla(Tabla()));
     EXPECT_EQ(csv.find("total"), std::string::npos);
     EXPECT_TRUE(csv.ends_with("\"C[%]\"\r\n"));

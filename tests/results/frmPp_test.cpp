@@ -116,8 +116,7 @@ TEST_F(Pizarra, GuardarDondeNoSePuedeLoDice)
               std::vector<Mensaje>{{"Error Nro. 76No se encontró la ruta de acceso ,Verifique"}});
 }
 
-// --- search
-// -------------------------------------------------------------------------------------------------
+// --- search ---
 
 struct BusquedaEnPizarra : Pizarra {
     BusquedaEnPizarra()

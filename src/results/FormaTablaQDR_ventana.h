@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string_view>
+
+#include "forms/Formulario_ventana.h"
+#include "results/TablaQDR.h"
+
+class QHBoxLayout;
+class QPushButton;
+
+namespace results {
+
+class VistaQDR;
+
+/// What the windows of both tables of a series' results have in common: the grid, below it three buttons.
+class FormaTablaQDR_ventana : public forms::Ventana {
+  public:
+    /// Opens the window on the results in hand and brings it to the front. Where the form closes itself, no
+    /// window comes.
+    void Abre();
+    void Muestra() override;
+
+  protected:
+    FormaTablaQDR_ventana(forms::Entorno& alrededor, std::string_view nombre, std::string_view titulo,
+                          FormaTablaQDR& registro, QWidget* padre);
+
+    void AlCerrar() override;
+    /// The form's own opening, and its filling of the table.
+    virtual void AbreForma() = 0;
+    virtual void Llena() = 0;
+
+    QHBoxLayout* centro;  ///< the grid, and what stands beside it
+
+  private:
+    void Imprime();
+
+    FormaTablaQDR& f;
+    VistaQDR* tabla;
+    QPushButton *cmdAplicarCambios, *cmdImprimir, *OKButton;
+};
+
+}  // namespace results
