@@ -19,22 +19,20 @@ using forms::Q;
 
 dlgDisPpPer_ventana::dlgDisPpPer_ventana(forms::Entorno& alrededor, dlgDisPpPer& registro, dlgPp& tormenta,
                                          QWidget* padre)
-    : Formulario(alrededor, "dlgDisPpPer", padre), f(registro), pp(tormenta)
+    : FormaDeTabla_ventana(alrededor, "dlgDisPpPer", TituloDlgDisPpPer, LeyendasDlgDisPpPer, padre),
+      f(registro),
+      pp(tormenta)
 {
-    setWindowTitle(Q(TituloDlgDisPpPer));
     // Made in reading order, which is the order of the Tab key.
     auto* const pila = new QVBoxLayout(this);
     pila->addLayout(Datos());
     pila->addWidget(Validez());
-    tabla = new forms::TablaGrilla(entorno, f.MSFlexGridDisPerso, "MSFlexGridDisPerso",
-                                   piezas.De("MSFlexGridDisPerso").leyenda);
+    QGroupBox* const marco = HazTabla(f.MSFlexGridDisPerso, "MSFlexGridDisPerso", "laminaDisPpPer");
     tabla->AlCambiar = [this](const forms::Efecto& efecto) {
         AlAsentar(f, entorno.s, efecto);
         Muestra();
     };
-    lamina = new forms::Lamina(entorno, "laminaDisPpPer", piezas.De("laminaDisPpPer").leyenda,
-                               forms::Lamina::Modo::Compacta);
-    pila->addWidget(piezas.TablaConLamina(*tabla, *lamina), 1);
+    pila->addWidget(marco, 1);
     pila->addLayout(Botones());
 }
 
@@ -106,33 +104,20 @@ QWidget* dlgDisPpPer_ventana::Validez()
 QLayout* dlgDisPpPer_ventana::Botones()
 {
     auto* const fila = new QHBoxLayout;
-    const auto boton = [&](std::string_view nombre, auto rutina) {
-        QPushButton* const b = piezas.Boton(nombre);
-        AlPulsar(*b, rutina);
-        fila->addWidget(b);
-    };
-    boton("cmdBorraTablaDisPer", [this] { cmdBorraTablaDisPer(f, entorno.s); });
-    fila->addStretch(1);
-    boton("cmdAplicar", [this] { cmdAplicar(f, entorno.s); });
-    boton("OKButton", [this] { OKButton(f, entorno.s); });
-    QPushButton* const cancela = piezas.Boton("CancelButton");
-    connect(cancela, &QPushButton::clicked, this, [this] { reject(); });
-    fila->addWidget(cancela);
+    Agrega(*fila, "cmdBorraTablaDisPer", [this] { cmdBorraTablaDisPer(f, entorno.s); });
+    AgregaFinales(
+        *fila, [this] { cmdAplicar(f, entorno.s); }, [this] { OKButton(f, entorno.s); });
     return fila;
 }
 
-void dlgDisPpPer_ventana::Abre()
+void dlgDisPpPer_ventana::AbreForma()
 {
     rainfall::Abre(f, pp, entorno.s);
-    Muestra();
-    Acomoda(*this, *tabla);
-    entorno.Ejecuta(*this);
 }
 
-void dlgDisPpPer_ventana::AlCerrar()
+void dlgDisPpPer_ventana::Cancela()
 {
     CancelButton(f);
-    Muestra();
 }
 
 void dlgDisPpPer_ventana::Muestra()
@@ -142,10 +127,7 @@ void dlgDisPpPer_ventana::Muestra()
     Pon(*txtNroPer, f.txtNroPer);
     Pon(*cmbDurMin, f.cmbDurMin.items, f.cmbDurMin.indice);
     Pon(*cmbDurMax, f.cmbDurMax.items, f.cmbDurMax.indice);
-    tabla->Muestra();
-    lamina->Muestra(Vista(f));
-    LlevaFoco(*this, f.foco);
-    if (!f.abierta && isVisible()) done(QDialog::Accepted);
+    MuestraTabla(Vista(f), f.foco, f.abierta);
 }
 
 }  // namespace rainfall

@@ -6,12 +6,14 @@
 #include <initializer_list>
 
 #include "engine/modDistriPp.h"
+#include "forms/Evento.h"
 #include "model/Avisos.h"
 #include "model/Numeros.h"
 #include "model/Texto.h"
 
 namespace rainfall {
 
+using forms::Evento;
 using model::Advierte;
 using model::Entero16;
 using model::NumeroATexto;
@@ -44,8 +46,7 @@ constexpr std::string_view PasoQNoCabe =  // kept as it stands
     "Elija un paso de tiempo para las salidas (Caudales) igual, o múlitplo menor, al paso de entradas "
     "(precipitaciones)";
 
-// --- state per form
-// -----------------------------------------------------------------------------------------
+// --- state per form ---
 
 /// A set of controls, a bit each.
 using Conjunto = std::uint64_t;
@@ -156,15 +157,6 @@ void MuestraTormenta(dlgPp& f, const Siro& s)
     f.txtDur = Texto(s.DurTormenta);
 }
 
-/// Runs an event. A fault has no handler of its own here: it is told once and the event ends.
-template <typename Cuerpo>
-bool Evento(const Siro& s, Cuerpo&& cuerpo)
-{
-    return model::Sentencia(std::forward<Cuerpo>(cuerpo), [&](const model::Falla& falla) {
-        model::Informa(s, model::TextoFallaMotor(falla));
-    });
-}
-
 // --- real storm ---
 
 /// Items of FilePpReal. A directory that isn't there holds no storm.
@@ -253,8 +245,7 @@ void EstadoFormaPp(dlgPp& f, Siro& s)
     if (forma == FormaReal) EstadoReal(f, s);
 }
 
-// --- opening and activation
-// ---------------------------------------------------------------------------------
+// --- opening and activation ---
 
 namespace {
 
@@ -320,8 +311,7 @@ void AlVolver(dlgPp& f, Siro& s)
     AlActivarse(f, s);
 }
 
-// --- clicks
-// -------------------------------------------------------------------------------------------------
+// --- clicks ---
 
 void optformaPp_Click(dlgPp& f, Siro& s, std::size_t i)
 {
@@ -363,8 +353,7 @@ void FilePpReal_Click(dlgPp& f, Siro& s)
     Evento(s, [&] { LeeTormenta(f, s); });
 }
 
-// --- leaving a field
-// ----------------------------------------------------------------------------------------
+// --- leaving a field ---
 
 namespace {
 
@@ -383,27 +372,18 @@ bool Suelta(dlgPp& f)
     return true;
 }
 
-/// The leading number of a field; nothing where the text is neither empty nor wholly a number, or is a number
-/// beyond any float.
-std::optional<double> NumeroDeCampo(std::string_view texto)
-{
-    if (texto.find_first_not_of(' ') == std::string_view::npos) return 0;
-    std::optional<double> x;
-    model::Sentencia([&] { x = model::NumeroEntero(texto); }, [](const model::Falla&) {});
-    return x;
-}
-
-/// `toma` puts the number into its run-wide value, where it fits there.
+/// `toma` puts the number into its run-wide value, where it fits there; one that is refused too.
 template <typename Toma>
 bool AlSalir(dlgPp& f, const Siro& s, const CampoPp& campo, Toma&& toma)
 {
     std::string& texto = f.*campo.texto;
     texto = model::ComasAPuntos(texto);
-    const std::optional<double> x = NumeroDeCampo(texto);
+    const bool vacio = texto.find_first_not_of(' ') == std::string::npos;
+    const std::optional<double> x = vacio ? 0 : forms::NumeroDeCampo(texto);
     if (x) model::Sentencia([&] { toma(*x); }, [](const model::Falla&) {});
-    if (x && *x >= 0 && *x <= campo.limite) return Suelta(f);
-    Advierte(s, std::string(campo.mensaje));
-    if (!campo.alRechazar.empty()) texto = campo.alRechazar;
+    if (forms::Vale(campo.regla, texto)) return Suelta(f);
+    forms::MuestraRechazo(s, campo.regla.caja, std::string(campo.regla.mensaje));
+    if (!campo.regla.alRechazar.empty()) texto = campo.regla.alRechazar;
     return Retiene(f, campo.control);
 }
 
@@ -449,8 +429,7 @@ bool cmbPasoQ_AlSalir(dlgPp& f, Siro& s)
     return Suelta(f);
 }
 
-// --- commands
-// -----------------------------------------------------------------------------------------------
+// --- commands ---
 
 namespace {
 

@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "forms/CampoNumerico.h"
 #include "model/ArchivosTormenta.h"
 #include "model/Siro.h"
 
@@ -202,17 +203,24 @@ struct dlgPp {
 struct CampoPp {
     Control control;
     std::string dlgPp::*texto;
-    double limite;  ///< largest value accepted, itself included; the smallest is 0
-    std::string_view mensaje;
-    std::string_view alRechazar;  ///< text that takes the place of a refused one; empty: it stays
+    forms::ReglaNumero regla;
 };
 
-// clang-format off
 inline constexpr auto CamposPp = std::to_array<CampoPp>({
-    {Control::txtPp,  &dlgPp::txtPp,  999,   "Ingrese un valor numérico, entero o decimal, entre 0 y 999",   ""},
-    {Control::txtDur, &dlgPp::txtDur, 14400, "Ingrese un valor numérico, entero o decimal, entre 0 y 14400", "1440"},
+    {Control::txtPp,
+     &dlgPp::txtPp,
+     {.maximo = 999,
+      .mensaje = "Ingrese un valor numérico, entero o decimal, entre 0 y 999",
+      .vacioEsCero = true,
+      .caja = forms::CajaRechazo::Advertencia}},
+    {Control::txtDur,
+     &dlgPp::txtDur,
+     {.maximo = 14400,
+      .mensaje = "Ingrese un valor numérico, entero o decimal, entre 0 y 14400",
+      .vacioEsCero = true,
+      .caja = forms::CajaRechazo::Advertencia,
+      .alRechazar = "1440"}},
 });
-// clang-format on
 
 /// The hyetograph that a chart is asked for.
 struct PedidoHietograma {

@@ -22,9 +22,10 @@ using forms::Q;
 
 dlgPpReal_ventana::dlgPpReal_ventana(forms::Entorno& alrededor, dlgPpReal& registro, dlgPp& tormenta,
                                      QWidget* padre)
-    : Formulario(alrededor, "dlgPpReal", padre), f(registro), pp(tormenta)
+    : FormaDeTabla_ventana(alrededor, "dlgPpReal", TituloDlgPpReal, LeyendasDlgPpReal, padre),
+      f(registro),
+      pp(tormenta)
 {
-    setWindowTitle(Q(TituloDlgPpReal));
     // Made in reading order, which is the order of the Tab key.
     auto* const pila = new QVBoxLayout(this);
     auto* const arriba = new QHBoxLayout;
@@ -32,15 +33,12 @@ dlgPpReal_ventana::dlgPpReal_ventana(forms::Entorno& alrededor, dlgPpReal& regis
     arriba->addLayout(Datos(), 1);
     pila->addLayout(arriba);
 
-    tabla = new forms::TablaGrilla(entorno, f.MSFlexGridTablaPpReal, "MSFlexGridTablaPpReal",
-                                   piezas.De("MSFlexGridTablaPpReal").leyenda);
+    QGroupBox* const marco = HazTabla(f.MSFlexGridTablaPpReal, "MSFlexGridTablaPpReal", "laminaPpReal");
     tabla->AlCambiar = [this](const forms::Efecto& efecto) {
         AlAsentar(f, entorno.s, efecto);
         Muestra();
     };
-    lamina = new forms::Lamina(entorno, "laminaPpReal", piezas.De("laminaPpReal").leyenda,
-                               forms::Lamina::Modo::Compacta);
-    pila->addWidget(piezas.TablaConLamina(*tabla, *lamina), 1);
+    pila->addWidget(marco, 1);
     pila->addLayout(Botones());
 
     entorno.AlActivarse(*this, [this] {
@@ -132,19 +130,10 @@ QLayout* dlgPpReal_ventana::Datos()
 QLayout* dlgPpReal_ventana::Botones()
 {
     auto* const fila = new QHBoxLayout;
-    const auto boton = [&](std::string_view nombre, auto rutina) {
-        QPushButton* const b = piezas.Boton(nombre);
-        AlPulsar(*b, rutina);
-        fila->addWidget(b);
-    };
-    boton("cmdVerGrafico", [this] { AbreHietograma(cmdVerGrafico(f, entorno.s)); });
-    boton("cmdBorraTablaDisPer", [this] { cmdBorraTablaDisPer(f, pp, entorno.s); });
-    fila->addStretch(1);
-    boton("cmdAplicar", [this] { cmdAplicar(f, pp, entorno.s); });
-    boton("OKButton", [this] { OKButton(f, pp, entorno.s); });
-    QPushButton* const cancela = piezas.Boton("CancelButton");
-    connect(cancela, &QPushButton::clicked, this, [this] { reject(); });
-    fila->addWidget(cancela);
+    Agrega(*fila, "cmdVerGrafico", [this] { AbreHietograma(cmdVerGrafico(f, entorno.s)); });
+    Agrega(*fila, "cmdBorraTablaDisPer", [this] { cmdBorraTablaDisPer(f, pp, entorno.s); });
+    AgregaFinales(
+        *fila, [this] { cmdAplicar(f, pp, entorno.s); }, [this] { OKButton(f, pp, entorno.s); });
     return fila;
 }
 
@@ -157,18 +146,14 @@ void dlgPpReal_ventana::Importa()
     if (importa.aceptada) TomaImportada(f, entorno.s, importa.tormenta);
 }
 
-void dlgPpReal_ventana::Abre()
+void dlgPpReal_ventana::AbreForma()
 {
     rainfall::Abre(f, pp, entorno.s);
-    Muestra();
-    Acomoda(*this, *tabla);
-    entorno.Ejecuta(*this);
 }
 
-void dlgPpReal_ventana::AlCerrar()
+void dlgPpReal_ventana::Cancela()
 {
     CancelButton(f);
-    Muestra();
 }
 
 void dlgPpReal_ventana::Muestra()
@@ -187,10 +172,7 @@ void dlgPpReal_ventana::Muestra()
         campo->setEnabled(f.finalEditable);
     txtNroPpReal->setEnabled(!f.finalEditable);
     cmdImporta->setEnabled(!f.Protegida);
-    tabla->Muestra();
-    lamina->Muestra(Vista(f));
-    LlevaFoco(*this, f.foco);
-    if (!f.abierta && isVisible()) done(QDialog::Accepted);
+    MuestraTabla(Vista(f), f.foco, f.abierta);
 }
 
 }  // namespace rainfall

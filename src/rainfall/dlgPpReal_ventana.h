@@ -4,11 +4,8 @@
 #include <array>
 #include <functional>
 
-#include "forms/Formulario_ventana.h"
-#include "forms/Grilla_ventana.h"
-#include "forms/Lamina_ventana.h"
 #include "forms/Lista_ventana.h"
-#include "rainfall/Piezas_ventana.h"
+#include "rainfall/FormaDeTabla_ventana.h"
 #include "rainfall/dlgImportaTormenta.h"
 #include "rainfall/dlgPpReal.h"
 
@@ -17,22 +14,18 @@ class QLayout;
 namespace rainfall {
 
 /// The editor of recorded storms, opened from the storm dialog whose record it is handed.
-class dlgPpReal_ventana : public forms::Formulario {
+class dlgPpReal_ventana : public FormaDeTabla_ventana {
   public:
     dlgPpReal_ventana(forms::Entorno& alrededor, dlgPpReal& registro, dlgPp& tormenta,
                       QWidget* padre = nullptr);
 
-    /// Opens the form and shows it until it is closed. Runs inside an event. Throws FinDelPrograma where the
-    /// program was ended meanwhile.
-    void Abre();
     void Muestra() override;
 
     std::function<void(const PedidoHietograma&)> AbreHietograma = [](const PedidoHietograma&) {};
 
-  protected:
-    void AlCerrar() override;
-
   private:
+    void AbreForma() override;
+    void Cancela() override;
     // Each makes a part of the form, with its events.
     QLayout* Archivos();
     QLayout* Datos();
@@ -41,7 +34,6 @@ class dlgPpReal_ventana : public forms::Formulario {
 
     dlgPpReal& f;
     dlgPp& pp;
-    Piezas piezas{*this, LeyendasDlgPpReal};
     forms::ListaParaElegir* FilePpReal = nullptr;
     QLabel* lblMiFilePpReal = nullptr;
     QPushButton* cmdImporta = nullptr;
@@ -49,8 +41,6 @@ class dlgPpReal_ventana : public forms::Formulario {
               *txtTimeF = nullptr, *txtNroPpReal = nullptr;
     QComboBox* cmbPasot = nullptr;
     std::array<QRadioButton*, 2> optNroPpReal{};
-    forms::TablaGrilla* tabla = nullptr;
-    forms::Lamina* lamina = nullptr;
 };
 
 }  // namespace rainfall

@@ -17,18 +17,14 @@ using forms::Q;
 
 dlgTablaPpUEHs_ventana::dlgTablaPpUEHs_ventana(forms::Entorno& alrededor, dlgTablaPpUEHs& registro,
                                                dlgPp& tormenta, QWidget* padre)
-    : Formulario(alrededor, "dlgTablaPpUEHs", padre), f(registro), pp(tormenta)
+    : FormaDeTabla_ventana(alrededor, "dlgTablaPpUEHs", TituloDlgTablaPpUEHs, LeyendasDlgTablaPpUEHs, padre),
+      f(registro),
+      pp(tormenta)
 {
-    setWindowTitle(Q(TituloDlgTablaPpUEHs));
     // Made in reading order, which is the order of the Tab key.
     auto* const pila = new QVBoxLayout(this);
     pila->addLayout(Datos());
-    tabla = new forms::TablaGrilla(entorno, f.MSFlexGridPpUEHs, "MSFlexGridPpUEHs",
-                                   piezas.De("MSFlexGridPpUEHs").leyenda);
-    tabla->AlCambiar = [this](const forms::Efecto&) { Muestra(); };
-    lamina = new forms::Lamina(entorno, "laminaPpUEHs", piezas.De("laminaPpUEHs").leyenda,
-                               forms::Lamina::Modo::Compacta);
-    QGroupBox* const marco = piezas.TablaConLamina(*tabla, *lamina);
+    QGroupBox* const marco = HazTabla(f.MSFlexGridPpUEHs, "MSFlexGridPpUEHs", "laminaPpUEHs");
     marco->setToolTip(tabla->toolTip());
     tabla->setToolTip({});
     pila->addWidget(marco, 1);
@@ -58,43 +54,27 @@ QLayout* dlgTablaPpUEHs_ventana::Datos()
 QLayout* dlgTablaPpUEHs_ventana::Botones()
 {
     auto* const fila = new QHBoxLayout;
-    const auto boton = [&](std::string_view nombre, auto rutina) {
-        QPushButton* const b = piezas.Boton(nombre);
-        AlPulsar(*b, rutina);
-        fila->addWidget(b);
-    };
-    boton("cmdBorraTablaHQ", [this] { cmdBorraTablaHQ(f, entorno.s); });
-    fila->addStretch(1);
-    boton("cmdAplicar", [this] { cmdAplicar(f, pp, entorno.s); });
-    boton("OKButton", [this] { OKButton(f, pp, entorno.s); });
-    QPushButton* const cancela = piezas.Boton("CancelButton");
-    connect(cancela, &QPushButton::clicked, this, [this] { reject(); });
-    fila->addWidget(cancela);
+    Agrega(*fila, "cmdBorraTablaHQ", [this] { cmdBorraTablaHQ(f, entorno.s); });
+    AgregaFinales(
+        *fila, [this] { cmdAplicar(f, pp, entorno.s); }, [this] { OKButton(f, pp, entorno.s); });
     return fila;
 }
 
-void dlgTablaPpUEHs_ventana::Abre()
+void dlgTablaPpUEHs_ventana::AbreForma()
 {
     rainfall::Abre(f, entorno.s);
-    Muestra();
-    Acomoda(*this, *tabla);
-    entorno.Ejecuta(*this);
 }
 
-void dlgTablaPpUEHs_ventana::AlCerrar()
+void dlgTablaPpUEHs_ventana::Cancela()
 {
     CancelButton(f);
-    Muestra();
 }
 
 void dlgTablaPpUEHs_ventana::Muestra()
 {
     Pon(*txtDPpUEHs, f.txtDPpUEHs);
     Pon(*txtRPpUEHs, f.txtRPpUEHs);
-    tabla->Muestra();
-    lamina->Muestra(Vista(f));
-    LlevaFoco(*this, f.foco);
-    if (!f.abierta && isVisible()) done(QDialog::Accepted);
+    MuestraTabla(Vista(f), f.foco, f.abierta);
 }
 
 }  // namespace rainfall

@@ -19,18 +19,15 @@ using forms::Q;
 
 dlgTablasPDRs_ventana::dlgTablasPDRs_ventana(forms::Entorno& alrededor, dlgTablasPDRs& registro,
                                              dlgPp& tormenta, QWidget* padre)
-    : Formulario(alrededor, "dlgTablasPDRs", padre), f(registro), pp(tormenta)
+    : FormaDeTabla_ventana(alrededor, "dlgTablasPDRs", TituloDlgTablasPDRs, LeyendasDlgTablasPDRs, padre),
+      f(registro),
+      pp(tormenta)
 {
-    setWindowTitle(Q(TituloDlgTablasPDRs));
     // Made in reading order, which is the order of the Tab key.
     auto* const pila = new QVBoxLayout(this);
     pila->addLayout(Datos());
-    tabla = new forms::TablaGrilla(entorno, f.MSFlexGridTablaPDRs, "MSFlexGridTablaPDRs",
-                                   piezas.De("MSFlexGridTablaPDRs").leyenda);
-    tabla->AlCambiar = [this](const forms::Efecto&) { Muestra(); };
-    lamina = new forms::Lamina(entorno, "laminaTablasPDRs", piezas.De("laminaTablasPDRs").leyenda,
-                               forms::Lamina::Modo::Compacta);
-    pila->addWidget(piezas.TablaConLamina(*tabla, *lamina), 1);
+    QGroupBox* const marco = HazTabla(f.MSFlexGridTablaPDRs, "MSFlexGridTablaPDRs", "laminaTablasPDRs");
+    pila->addWidget(marco, 1);
     pila->addWidget(Notas());
     pila->addLayout(Botones());
 }
@@ -85,34 +82,20 @@ QWidget* dlgTablasPDRs_ventana::Notas()
 QLayout* dlgTablasPDRs_ventana::Botones()
 {
     auto* const fila = new QHBoxLayout;
-    const auto boton = [&](std::string_view nombre, auto rutina) {
-        QPushButton* const b = piezas.Boton(nombre);
-        AlPulsar(*b, rutina);
-        fila->addWidget(b);
-        return b;
-    };
-    cmdBorra = boton("cmdBorraTablaDisPer", [this] { cmdBorraTablaDisPer(f, entorno.s); });
-    fila->addStretch(1);
-    boton("cmdAplicar", [this] { cmdAplicar(f, pp, entorno.s); });
-    boton("OKButton", [this] { OKButton(f, pp, entorno.s); });
-    QPushButton* const cancela = piezas.Boton("CancelButton");
-    connect(cancela, &QPushButton::clicked, this, [this] { reject(); });
-    fila->addWidget(cancela);
+    cmdBorra = Agrega(*fila, "cmdBorraTablaDisPer", [this] { cmdBorraTablaDisPer(f, entorno.s); });
+    AgregaFinales(
+        *fila, [this] { cmdAplicar(f, pp, entorno.s); }, [this] { OKButton(f, pp, entorno.s); });
     return fila;
 }
 
-void dlgTablasPDRs_ventana::Abre()
+void dlgTablasPDRs_ventana::AbreForma()
 {
     rainfall::Abre(f, pp, entorno.s);
-    Muestra();
-    Acomoda(*this, *tabla);
-    entorno.Ejecuta(*this);
 }
 
-void dlgTablasPDRs_ventana::AlCerrar()
+void dlgTablasPDRs_ventana::Cancela()
 {
     CancelButton(f);
-    Muestra();
 }
 
 void dlgTablasPDRs_ventana::Muestra()
@@ -127,10 +110,7 @@ void dlgTablasPDRs_ventana::Muestra()
     for (QWidget* w : {lblNotas, rotuloLblNotas})
         w->setVisible(!f.editable);
     cmdBorra->setEnabled(f.editable);
-    tabla->Muestra();
-    lamina->Muestra(Vista(f, entorno.s));
-    LlevaFoco(*this, f.foco);
-    if (!f.abierta && isVisible()) done(QDialog::Accepted);
+    MuestraTabla(Vista(f, entorno.s), f.foco, f.abierta);
 }
 
 }  // namespace rainfall

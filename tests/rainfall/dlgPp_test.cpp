@@ -64,8 +64,7 @@ class DialogoPp : public testing::Test {
 
 using Textos = std::vector<std::string>;
 
-// --- texts
-// --------------------------------------------------------------------------------------------------
+// --- texts ---
 
 TEST(TextosDeDlgPp, LasLeyendasEstanLetraPorLetra)
 {
@@ -103,8 +102,7 @@ TEST(TextosDeDlgPp, CadaControlTieneUnNombrePropio)
         EXPECT_TRUE(nombres.insert(fila.nombre).second) << fila.nombre;
 }
 
-// --- opening
-// ------------------------------------------------------------------------------------------------
+// --- opening ---
 
 TEST_F(DialogoPp, AlAbrirMuestraLaTormentaYLosPasosDeLaCorrida)
 {
@@ -207,8 +205,7 @@ TEST_F(DialogoPp, ReabreComoSeLoDejoAlAplicar)
     EXPECT_TRUE(otra.optDistriPp[1]);
 }
 
-// --- state per form
-// -----------------------------------------------------------------------------------------
+// --- state per form ---
 
 struct CasoEstado {
     std::int16_t forma;
@@ -396,8 +393,7 @@ TEST_F(DialogoPp, UnaFormaDeMemoriaFueraDeLaTablaValeComo0)
     EXPECT_EQ(s.DistriPp, 9);  // no option is ticked, so none is taken
 }
 
-// --- real storm
-// ---------------------------------------------------------------------------------------------
+// --- real storm ---
 
 TEST_F(DialogoPp, LaFormaRealLeeLaTormentaPorDefecto)
 {
@@ -556,8 +552,7 @@ TEST_F(DialogoPp, DejarLaFormaRealAvisaSoloConLasPersonales2Y3)
     }
 }
 
-// --- distributions
-// ------------------------------------------------------------------------------------------
+// --- distributions ---
 
 TEST_F(DialogoPp, LasTresTormentasDeMuestraPonen1440Minutos)
 {
@@ -570,8 +565,7 @@ TEST_F(DialogoPp, LasTresTormentasDeMuestraPonen1440Minutos)
     }
 }
 
-// --- applying
-// -----------------------------------------------------------------------------------------------
+// --- applying ---
 
 TEST_F(DialogoPp, AplicarTomaTormentaDistribucionYPasosRedondeados)
 {
@@ -747,8 +741,7 @@ TEST_F(DialogoPp, CancelarDejaLaFormaElegidaYLoDemasComoSeAplico)
     EXPECT_EQ(s.PasoQ, 10);
 }
 
-// --- leaving a field
-// ----------------------------------------------------------------------------------------
+// --- leaving a field ---
 
 struct CasoCampo {
     const char* escrito;
@@ -925,8 +918,7 @@ TEST_F(DialogoPp, UnPasoQMayorNoSePuedeDejarPeroUnPasoPpCambiadoDespuesSi)
     EXPECT_EQ(s.PasoQ, 30);  // a run lowers it
 }
 
-// --- list of storms
-// -----------------------------------------------------------------------------------------
+// --- list of storms ---
 
 TEST_F(DialogoPp, ElegirUnaTormentaDeLaListaLaMuestra)
 {
@@ -1004,8 +996,7 @@ TEST_F(DialogoPp, UnaListaQueNoSePuedeGuardarSeDiceYElDialogoQueda)
     EXPECT_EQ(f.cmbPDR.items.size(), 3U);
 }
 
-// --- hyetograph
-// ---------------------------------------------------------------------------------------------
+// --- hyetograph ---
 
 TEST_F(DialogoPp, VerElGraficoPideElHietogramaDeLoAplicado)
 {

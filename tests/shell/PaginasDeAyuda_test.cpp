@@ -73,7 +73,7 @@ TEST(PaginasDeAyuda, LosLimitesDeLosCamposSonLosDelPrograma)
         DiceLimites(cauce, campo.regla);
     const std::string lluvia = Pagina("dlgPp");
     for (const rainfall::CampoPp& campo : rainfall::CamposPp)
-        DiceLimites(lluvia, {.maximo = campo.limite});
+        DiceLimites(lluvia, {.maximo = campo.regla.maximo});
     const std::string configuracion = Pagina("frmConfigura");
     for (const CampoRechazado& campo : CamposRechazados)
         DiceLimites(configuracion, {.minimo = campo.regla.minimo, .maximo = campo.regla.maximo});
