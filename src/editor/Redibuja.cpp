@@ -3,6 +3,7 @@
 #include <cmath>
 #include <string>
 
+#include "editor/ClasesConIcono.h"
 #include "editor/frmUEHs.h"
 #include "engine/ComponenteFinal.h"
 #include "model/Numeros.h"
@@ -79,12 +80,10 @@ Extension Extiende(const frmUEHs& f, const Siro& s)
         for (int j = 1; j <= s.NroVertices(i); ++j)
             e.Abarca({x[j], y[j]});
     }
-    for (const auto& u : s.ColUEHs)
-        e.Abarca({u.IconoUEHx, u.IconoUEHy});
-    for (const auto& r : s.ColRepresas)
-        e.Abarca({r.IconoRepresaX, r.IconoRepresaY});
-    for (const auto& l : s.ColLagos)
-        e.Abarca({l.IconoLAGOx, l.IconoLAGOy});
+    PorClase([&](const auto& clase) {
+        for (const auto& c : s.*clase.coleccion)
+            e.Abarca(Icono(clase, c));
+    });
     return e;
 }
 
@@ -193,41 +192,28 @@ void PintaComponente(frmUEHs& f, const Siro& s, const ConIcono& c)
     if (c.seleccionado) f.dibujo.Cuadrado(Papel::Asa, {c.en.X, c.en.Y + PasoDelAsa * t}, LadoDeMarca(f));
 }
 
-void PintaComponentes(frmUEHs& f, const Siro& s)
+template <typename T, int Limite>
+void PintaClase(frmUEHs& f, const Siro& s, const ClaseConIcono<T, Limite>& filas, Clase clase, Papel enlace,
+                float bajoElIcono)
 {
     int n = 0;
-    for (const auto& u : s.ColUEHs)
+    for (const T& c : s.*filas.coleccion)
         PintaComponente(f, s,
-                        {Clase::UEH,
-                         Papel::EnlaceUEH,
-                         {u.IconoUEHx, u.IconoUEHy},
-                         {u.XCauce, u.YCauce},
-                         u.NombreUEH,
-                         u.Cauce_aa,
-                         ++n == s.UEHSel,
-                         BajoUEH});
-    n = 0;
-    for (const auto& r : s.ColRepresas)
-        PintaComponente(f, s,
-                        {Clase::Represa,
-                         Papel::EnlaceRepresa,
-                         {r.IconoRepresaX, r.IconoRepresaY},
-                         {r.XCauce, r.YCauce},
-                         r.NombreRepresa,
-                         r.Cauce_aa,
-                         ++n == s.RepresaSel,
-                         BajoRepresa});
-    n = 0;
-    for (const auto& l : s.ColLagos)
-        PintaComponente(f, s,
-                        {Clase::Lago,
-                         Papel::EnlaceLago,
-                         {l.IconoLAGOx, l.IconoLAGOy},
-                         {l.XCauce, l.YCauce},
-                         l.NombreLAGO,
-                         l.Cauce_aa,
-                         ++n == s.LagoSel,
-                         BajoLago});
+                        {.clase = clase,
+                         .enlace = enlace,
+                         .en = Icono(filas, c),
+                         .drena = {c.XCauce, c.YCauce},
+                         .nombre = c.*filas.nombre,
+                         .destino = c.Cauce_aa,
+                         .seleccionado = ++n == s.*filas.elegido,
+                         .bajoElIcono = bajoElIcono});
+}
+
+void PintaComponentes(frmUEHs& f, const Siro& s)
+{
+    PintaClase(f, s, ClaseUEH, Clase::UEH, Papel::EnlaceUEH, BajoUEH);
+    PintaClase(f, s, ClaseRepresa, Clase::Represa, Papel::EnlaceRepresa, BajoRepresa);
+    PintaClase(f, s, ClaseLago, Clase::Lago, Papel::EnlaceLago, BajoLago);
 }
 
 void MarcaCauceElegido(frmUEHs& f, const Siro& s)
