@@ -48,7 +48,7 @@ constexpr ClaseEmbalse ClaseLago = {
     hydraulics::HdeQalmaLago,
 };
 
-// --- inflow -----------------------------------------------------------------------------------------------
+// --- inflow ---
 
 void SumaAfluente(Corrida& c, const EmbalseEnMano& e, int afluente)
 {
@@ -70,8 +70,7 @@ void JuntaAfluentes(Corrida& c, const EmbalseEnMano& e)
         SumaAfluente(c, e, f);
 }
 
-// --- methods
-// ------------------------------------------------------------------------------------------------
+// --- methods ---
 
 bool PropagaMuskingum(Corrida& c, const EmbalseEnMano& e)
 {

@@ -39,7 +39,7 @@ double CaudalBase(const Siro& s, const model::UEH& u, std::int16_t p)
     return u.Q0Recesion * model::Potencia(BaseAbatimiento, Cociente(t, double{u.KRecesion} * 60));
 }
 
-// --- recession, statement by statement ---------------------------------------------------------------
+// --- recession, statement by statement ---
 
 void RecesionDeUEH(Corrida& c, std::int16_t p, int i, float& Qb)
 {
@@ -65,7 +65,7 @@ void RecesionUnaPorUna(Corrida& c)
             RecesionDeUEH(c, static_cast<std::int16_t>(p), i, Qb);
 }
 
-// --- recession, proved beforehand ---------------------------------------------------------------------
+// --- recession, proved beforehand ---
 
 /// No statement of the recession can be at fault: minutes within 16 bits, volumes within 32.
 bool RecesionSegura(Corrida& c)
@@ -128,7 +128,7 @@ void RecesionRapida(Corrida& c)
     c.VolBaseTotal = static_cast<std::int32_t>(total);
 }
 
-// --- hydrographs ----------------------------------------------------------------------------------------
+// --- hydrographs ---
 
 /// Makes room for the text that is to come, as far as it can be told, so that it seldom has to move.
 void ReservaTexto(const Corrida& c)
@@ -231,7 +231,7 @@ void HidrogramasSinTexto(Corrida& c)
     }
 }
 
-// --- volumes ----------------------------------------------------------------------------------------------
+// --- volumes ---
 
 /// An expression written as a 64-bit number rounded to n decimals, a variable by its type.
 template <typename Numero>

@@ -85,7 +85,7 @@ bool Prepara(Corrida& c, const Cauce& cauce)
     return bien || Rechaza(c, TextoMuskingum(cauce.NombreCauce));
 }
 
-// --- Direct ---------------------------------------------------------------------------------------------
+// --- Direct ---
 
 void PropagaDirecta(Corrida& c, int fila)
 {
@@ -108,7 +108,7 @@ void PropagaDirecta(Corrida& c, int fila)
         });
 }
 
-// --- Muskingum --------------------------------------------------------------------------------------------
+// --- Muskingum ---
 
 /// The recursion without a check per step, into a row of its own; used only if every flow stays in the type.
 bool MuskingumRapido(Corrida& c, int fila)
@@ -152,8 +152,7 @@ void PropagaMuskingum(Corrida& c, int fila)
         });
 }
 
-// --- table and summary
-// --------------------------------------------------------------------------------------
+// --- table and summary ---
 
 void ResumePasoAPaso(Corrida& c, int fila)
 {

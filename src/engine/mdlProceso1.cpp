@@ -65,8 +65,7 @@ bool Rechaza(const Siro& s, std::string texto)
     return false;
 }
 
-// --- checks and set-up
-// --------------------------------------------------------------------------------------
+// --- checks and set-up ---
 
 bool CompruebaUEH(Corrida& c, int i)
 {
@@ -172,8 +171,7 @@ bool PreparaCorrida(Corrida& c)
     return PreparaUEHs(c);
 }
 
-// --- second half: reaches, Lagos, Represas
-// ----------------------------------------------------------------------
+// --- second half: reaches, Lagos, Represas ---
 
 void AbreSegundaParte(Corrida& c)
 {

@@ -132,7 +132,7 @@ QStringList Lamina::MarcasRotuladas() const
     return trazo->MarcasRotuladas();
 }
 
-// --- reading and zooming -------------------------------------------------------------------------------
+// --- reading and zooming ---
 
 void Lamina::Lee(std::size_t fila)
 {
@@ -162,7 +162,7 @@ void Lamina::VeTodo()
     plano->replot(QCustomPlot::rpQueuedReplot);
 }
 
-// --- events --------------------------------------------------------------------------------------------
+// --- events ---
 
 bool Lamina::eventFilter(QObject* objeto, QEvent* evento)
 {
@@ -260,7 +260,7 @@ void Lamina::contextMenuEvent(QContextMenuEvent* evento)
     menu.exec(porTeclado ? mapToGlobal(rect().center()) : evento->globalPos());
 }
 
-// --- image and files -----------------------------------------------------------------------------------
+// --- image and files ---
 
 QSize Lamina::TamanoDeImagen() const
 {

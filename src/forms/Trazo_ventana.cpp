@@ -153,7 +153,7 @@ void Trazo::Pon(const Grafico& nuevo)
         DejaDeLeer();
 }
 
-// --- structure -----------------------------------------------------------------------------------------
+// --- structure ---
 
 void Trazo::Arma()
 {
@@ -247,7 +247,7 @@ bool Trazo::HayColgada() const
                        [this](const Serie& s) { return CuelgaDeArriba(grafico, s); });
 }
 
-// --- data ----------------------------------------------------------------------------------------------
+// --- data ---
 
 void Trazo::PonDatos()
 {
@@ -326,7 +326,7 @@ void Trazo::AcomodaMarcas()
     }
 }
 
-// --- scales --------------------------------------------------------------------------------------------
+// --- scales ---
 
 void Trazo::PonEscalas()
 {
@@ -370,7 +370,7 @@ void Trazo::PonEscalaSecundaria()
     RotulaValores(*plano.yAxis2);
 }
 
-// --- what is in sight ----------------------------------------------------------------------------------
+// --- what is in sight ---
 
 Trazo::Tramo Trazo::EnVista() const
 {
@@ -426,7 +426,7 @@ void Trazo::Acota()
                plano.yAxis2->range() != Rango(todoYSecundario);
 }
 
-// --- reading -------------------------------------------------------------------------------------------
+// --- reading ---
 
 std::optional<std::size_t> Trazo::FilaEn(const QPoint& punto) const
 {

@@ -252,7 +252,7 @@ bool Corta(std::string_view& resto, std::string_view& numero)
 
 }  // namespace
 
-// --- real storms ---------------------------------------------------------------------------------------
+// --- real storms ---
 
 std::string NombreTormenta(std::string_view nombre)
 {
@@ -328,7 +328,7 @@ void GuardaPpReal(Siro& s, TormentaReal& tormenta)
     escritor.Cierra();
 }
 
-// --- personal distributions ----------------------------------------------------------------------------
+// --- personal distributions ---
 
 void LeeTablaDisTemPer(Siro& s)
 {
@@ -364,7 +364,7 @@ void GuardaTablaDisPer(Siro& s)
     escritor.Cierra();
 }
 
-// --- tables of synthetic storms ------------------------------------------------------------------------
+// --- tables of synthetic storms ---
 
 void LeeTablaPDRs(Siro& s)
 {
@@ -402,7 +402,7 @@ void GuardaTablaPDRs(Siro& s)
     escritor.Cierra();
 }
 
-// --- list of single storms -----------------------------------------------------------------------------
+// --- list of single storms ---
 
 std::string TextoPDR(std::string_view p, std::string_view d, std::string_view r)
 {

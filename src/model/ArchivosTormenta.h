@@ -14,7 +14,7 @@ namespace model {
 
 struct Siro;
 
-// --- real storms, <name>_pt.vlm -----------------------------------------------------------------------
+// --- real storms, <name>_pt.vlm ---
 
 inline constexpr std::string_view TerminacionTormenta = "_pt.vlm";
 inline constexpr std::string_view TormentaPorDefecto = "Velmir_pt.vlm";
@@ -70,7 +70,7 @@ void LeePpReal(Siro& s, TormentaReal& tormenta);
 /// first. Throws Falla 76, 75; Falla 9 where NroPpReal is negative.
 void GuardaPpReal(Siro& s, TormentaReal& tormenta);
 
-// --- personal distributions, distriPp_dpt.vlm -----------------------------------------------------------
+// --- personal distributions, distriPp_dpt.vlm ---
 
 /// Reads the three personal distributions from DirTrabajo into NroFilasTabla 1..3, NotasDisPer, DurMinPer,
 /// DurMaxPer and DisPerso. Percentages are read as whole numbers although they are written with decimals:
@@ -80,7 +80,7 @@ void LeeTablaDisTemPer(Siro& s);
 /// Writes the three tables. A fault shows one box and ends the writing; the tables in memory stay.
 void GuardaTablaDisPer(Siro& s);
 
-// --- tables of synthetic storms, TablasPDRs_pdr.vlm -----------------------------------------------------
+// --- tables of synthetic storms, TablasPDRs_pdr.vlm ---
 
 /// Reads the four tables from DirTrabajo into NroFilasTabla, NotasPDR, TablasP, TablasD, TablasR, and the
 /// rows of table TablaPDR (0 where it is none of 1, 2, 3) into the series. A failure is silent, leaves slots
@@ -90,7 +90,7 @@ void LeeTablaPDRs(Siro& s);
 /// Writes the four tables. A fault shows one box and ends the writing; the tables in memory stay.
 void GuardaTablaPDRs(Siro& s);
 
-// --- list of single storms, ListaPDR.vlm ----------------------------------------------------------------
+// --- list of single storms, ListaPDR.vlm ---
 
 /// Text of a storm in the list `cmbPDR`: "Pp= 60 - Dur = 60 - Rec = 10".
 std::string TextoPDR(std::string_view p, std::string_view d, std::string_view r);

@@ -55,7 +55,7 @@ Decimal Redondeado(std::uint64_t cortadas, bool sube, int orden)
     return {cifras, orden};
 }
 
-// --- 32-bit floats ----------------------------------------------------------------------------------
+// --- 32-bit floats ---
 
 // 24 bits of mantissa times 5^17 fill a 64-bit word, which reaches down to 1E-11.
 constexpr int Cifras32 = 7;
@@ -93,7 +93,7 @@ Decimal DecimalEntero(std::uint64_t mantisa, int binario)
     return Redondeado<Cifras32>(cifras, 2 * resto + (cifras & 1) > divisor, orden);
 }
 
-// --- 64-bit floats ----------------------------------------------------------------------------------
+// --- 64-bit floats ---
 
 /// Whole number of 128 bits, as far as a product and its digits need one.
 struct Ancho {
@@ -149,7 +149,7 @@ Decimal DecimalAncho(std::uint64_t mantisa, int binario)
                                 orden);
 }
 
-// --- layout -----------------------------------------------------------------------------------------
+// --- layout ---
 
 /// Eight decimal digits in the bytes of a word, the first in the lowest. Each step halves the groups: the
 /// number into two of four digits, these into pairs, the pairs into digits. 10486/2^20 and 103/2^10 stand

@@ -52,7 +52,7 @@ float Trunca2(float x)
     return centesimos / 100.0F;
 }
 
-// --- text to number ---------------------------------------------------------------------------------
+// --- text to number ---
 
 namespace {
 

@@ -76,7 +76,7 @@ float Redondea(float x, int decimales);
 /// Int(x·100)/100, each operation rounded to 32 bits. Throws Falla 6 where x·100 is outside the type.
 float Trunca2(float x);
 
-// --- text -------------------------------------------------------------------------------------------
+// --- text ---
 
 /// Longest text of a number in characters.
 inline constexpr int LargoNumero = 32;

@@ -21,7 +21,7 @@ constexpr std::size_t Pieza = std::size_t{1} << 16;
 
 }  // namespace
 
-// --- fields -----------------------------------------------------------------------------------------
+// --- fields ---
 
 Campo LectorRegistros::Siguiente()
 {
@@ -98,7 +98,7 @@ bool LectorRegistros::Logico()
     return CampoLogico(Siguiente());
 }
 
-// --- writer -----------------------------------------------------------------------------------------
+// --- writer ---
 
 void EscritorRegistros::Abre(const std::string& unaRuta)
 {

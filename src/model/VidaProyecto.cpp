@@ -161,7 +161,7 @@ void ConFallaFatal(const Siro& s, F&& cuerpo)
 
 }  // namespace
 
-// --- the pointer to the last project -------------------------------------------------------------------
+// --- the pointer to the last project ---
 
 void LeePuntero(Siro& s)
 {
@@ -206,7 +206,7 @@ void LimpiaProyecto(Siro& s)
     LeePuntero(s);
 }
 
-// --- the commands of the main menu ---------------------------------------------------------------------
+// --- the commands of the main menu ---
 
 bool NombreProyectoValido(std::string_view nombre)
 {
@@ -284,7 +284,7 @@ void mnuGuardarProyectoComo(Siro& s)
     });
 }
 
-// --- deleting ------------------------------------------------------------------------------------------
+// --- deleting ---
 
 void dlgEliminarProyecto::Abre(const Siro& s)
 {

@@ -14,7 +14,7 @@ struct Siro;
 inline constexpr std::string_view TerminacionConf = "_Conf.vlm";
 inline constexpr std::string_view ArchivoPuntero = "VelmirDir.vlm";
 
-// --- the pointer to the last project -------------------------------------------------------------------
+// --- the pointer to the last project ---
 
 /// Sets DirTrabajo from DirEjecutable, takes DirProyecto and NombreProyecto from the pointer file and writes
 /// it anew. With ConfPendiente set the project must have its configuration there. Whatever fails is silent
@@ -33,7 +33,7 @@ void carga_lbl_proyecto(Siro& s);
 /// so the last project's name is the current one.
 void LimpiaProyecto(Siro& s);
 
-// --- the commands of the main menu ---------------------------------------------------------------------
+// --- the commands of the main menu ---
 
 /// A project's name holds digits, letters without accents, and "@". The empty one passes.
 bool NombreProyectoValido(std::string_view nombre);
@@ -61,7 +61,7 @@ void mnu_ultimoarchivo1(Siro& s);
 /// Files that the project hasn't got are passed over. Faults as in mnuNuevoProyecto.
 void mnuGuardarProyectoComo(Siro& s);
 
-// --- deleting ------------------------------------------------------------------------------------------
+// --- deleting ---
 
 /// What the dialog's controls hold.
 struct dlgEliminarProyecto {

@@ -57,7 +57,7 @@ int Escritorio::Atiende()
     return estado;
 }
 
-// --- what the rules ask of the world -------------------------------------------------------------------
+// --- what the rules ask of the world ---
 
 void Escritorio::PonAnfitrion()
 {
@@ -127,7 +127,7 @@ void Escritorio::PonAvance()
     };
 }
 
-// --- what the commands of the main window ask for ------------------------------------------------------
+// --- what the commands of the main window ask for ---
 
 void Escritorio::PonMandos()
 {

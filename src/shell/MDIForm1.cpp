@@ -92,7 +92,7 @@ std::string PaginaDe(std::string_view ventana)
 
 }  // namespace
 
-// --- opening, labels, closing --------------------------------------------------------------------------
+// --- opening, labels, closing ---
 
 void Abre(MDIForm1& f)
 {
@@ -135,7 +135,7 @@ void Cierra(Siro& s)
     s.Anfitrion.Termina();
 }
 
-// --- commands ------------------------------------------------------------------------------------------
+// --- commands ---
 
 bool ExigeProyecto(const Siro& s)
 {

@@ -175,7 +175,7 @@ std::string SinTecla(std::string_view leyenda);
 /// Tip of a button.
 std::string AyudaDeBoton(const FilaBarra& boton);
 
-// --- opening, labels, closing --------------------------------------------------------------------------
+// --- opening, labels, closing ---
 
 /// Opening: title, and which entries are available.
 void Abre(MDIForm1& f);
@@ -186,7 +186,7 @@ bool RotuloCrece(double x, double y);
 /// Records the project as the last one and ends the program. Never returns.
 void Cierra(model::Siro& s);
 
-// --- commands ------------------------------------------------------------------------------------------
+// --- commands ---
 
 /// Whether a project is named; without one it tells so.
 bool ExigeProyecto(const model::Siro& s);

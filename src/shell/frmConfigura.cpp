@@ -204,8 +204,7 @@ void txtFecha_DblClick(Siro& s)
     s.frmConfigura.txtFecha = s.Anfitrion.FechaHora().substr(0, LargoFecha);
 }
 
-// --- opening and activation
-// ---------------------------------------------------------------------------------
+// --- opening and activation ---
 
 void Abre(frmConfigura& f, Siro& s)
 {
@@ -238,8 +237,7 @@ void AlActivarse(frmConfigura& f, const Siro& s)
     Relista(f, s);
 }
 
-// --- directories
-// --------------------------------------------------------------------------------------------
+// --- directories ---
 
 void Dir1_Change(frmConfigura& f, Siro& s, const std::string& directorio)
 {
@@ -285,8 +283,7 @@ void BtnDirNv(frmConfigura& f, Siro& s)
     });
 }
 
-// --- boxes and options
-// --------------------------------------------------------------------------------------
+// --- boxes and options ---
 
 bool Tildada(std::int16_t casilla)
 {
@@ -311,8 +308,7 @@ void Opcion_Click(Siro& s, std::size_t i)
     s.frmConfigura.*OpcionesConfigura[i].marcada = true;
 }
 
-// --- files
-// --------------------------------------------------------------------------------------------------
+// --- files ---
 
 void filArchivoConfigura_Click(frmConfigura& f, Siro& s)
 {
@@ -351,8 +347,7 @@ void filArchivoImagenDib_Click(frmConfigura& f, Siro& s)
     s.frmConfigura.lblImagenDibujo = SinImagen;
 }
 
-// --- commands
-// -----------------------------------------------------------------------------------------------
+// --- commands ---
 
 void cmdAplicar(frmConfigura& f, Siro& s)
 {

@@ -69,7 +69,7 @@ bool Contiene(const std::string& texto, std::string_view trozo)
     return texto.find(trozo) != std::string::npos;
 }
 
-// --- command line ---------------------------------------------------------------------------------------
+// --- command line ---
 
 TEST(LineaDeOrdenes, ErroneaSaleConDosDiciendoPorQueYElUso)
 {
@@ -88,7 +88,7 @@ TEST(LineaDeOrdenes, LaAyudaVaALaSalidaEstandarConEstadoCero)
     EXPECT_EQ(r.errores, "");
 }
 
-// --- opening --------------------------------------------------------------------------------------------
+// --- opening ---
 
 TEST_F(CorridaLote, AbrirTomaDirectorioNombreYConfiguracion)
 {
@@ -119,7 +119,7 @@ TEST_F(CorridaLote, UnProyectoMovidoSeReescribeYLoDiceUnaVez)
     EXPECT_TRUE(Contiene(proyecto.Lee("Mio_Conf.vlm"), proyecto.Dir()));
 }
 
-// --- the storm ------------------------------------------------------------------------------------------
+// --- the storm ---
 
 TEST(FijaTormenta, FormaEscritaTomaLasOpciones)
 {
@@ -292,7 +292,7 @@ TEST_F(CorridaLote, UnaTormentaRealQueNoSeLeeCuentaComoNinguna)
     }
 }
 
-// --- one storm: status, outputs ---------------------------------------------------------------------------
+// --- one storm: status, outputs ---
 
 TEST_F(CorridaLote, UnaTormentaHastaElFinDaCeroYElCsv)
 {
@@ -424,7 +424,7 @@ TEST_F(CorridaLote, UnCsvQueNoSePuedeEscribirSeDiceYDaUno)
     EXPECT_EQ(r.errores, "[SIRO] Error Nro. 76No se encontró la ruta de acceso ,Verifique\n");
 }
 
-// --- series ---------------------------------------------------------------------------------------------
+// --- series ---
 
 // 60 mm in 60 min is the storm of the project's head; 5 min are shorter than the step and skipped; 120 mm in
 // 60 min give twice the flow of the first.

@@ -54,8 +54,7 @@ class Calculadora : public testing::Test {
     dlgEmpiricas f;
 };
 
-// --- opening and captions
-// ---------------------------------------------------------------------------------------
+// --- opening and captions ---
 
 TEST_F(Calculadora, AbreConSusValoresYSinResultados)
 {
@@ -98,8 +97,7 @@ TEST_F(Calculadora, LosRotulosALaLetra)
     }
 }
 
-// --- peak discharges
-// --------------------------------------------------------------------------------------------
+// --- peak discharges ---
 
 /// What a box shows at an area, and the working; a formula that overflows or is out of its range has none.
 struct Cuenta {
@@ -293,8 +291,7 @@ TEST_F(Calculadora, ScimeniYPagliaroFueraDeSuRangoQuedanVacios)
     }
 }
 
-// --- the field of the area
-// ---------------------------------------------------------------------------------------
+// --- the field of the area ---
 
 TEST_F(Calculadora, LaSuperficieSeCorrigeEnElCampo)
 {
@@ -345,8 +342,7 @@ TEST_F(Calculadora, AlSalirDeLaSuperficieElCeroEsUnoYSeCalcula)
     EXPECT_EQ(f.txtSup, "20000");
 }
 
-// --- times of concentration
-// --------------------------------------------------------------------------------------
+// --- times of concentration ---
 
 TEST_F(Calculadora, LosTresTiemposConLosValoresDeEntrada)
 {
@@ -492,8 +488,7 @@ TEST_F(Calculadora, CadaCampoSeMandaPorSuFila)
     }
 }
 
-// --- copying
-// ----------------------------------------------------------------------------------------------------
+// --- copying ---
 
 TEST_F(Calculadora, SeCopiaTodoDeUnaVez)
 {

@@ -158,7 +158,7 @@ INSTANTIATE_TEST_SUITE_P(Embalses, Embalses, testing::ValuesIn(Clases),
 
 using V = std::vector<float>;
 
-// --- level pool -------------------------------------------------------------------------------------------
+// --- level pool ---
 
 // Step 1: W = 0 + 1024, met at d = 1/2, a midpoint of the third halving; the bracket then closes from above
 // down to 129/256: Q = 516, U = 1032, T = 1024 - 2·516 = -8.
@@ -385,7 +385,7 @@ TEST(EmbalsesRepresa, LaBiseccionDaMilVueltasAntesDeRendirse)
     EXPECT_EQ(red.anfitrion->Avisos(), esperados);
 }
 
-// --- Muskingum --------------------------------------------------------------------------------------------
+// --- Muskingum ---
 
 // K = 15, dt = 10: denominator 20, C0 = C1 = 1/4, C2 = 1/2. Outflows 1024, 128 + 256 + 512 = 896 and
 // 0 + 128 + 448 = 576. Heights: d = Q/1024 lies on the grid of the halvings of 4 m down to 4/4096 m, at an
@@ -491,7 +491,7 @@ TEST(EmbalsesRepresa, ElPesoDeMuskingumDeLaRepresaNoTieneEfecto)
     EXPECT_EQ(red.s.QSale(2, 3), 576);
 }
 
-// --- Runge-Kutta ------------------------------------------------------------------------------------------
+// --- Runge-Kutta ---
 
 // dH = (I - Q)/100 for 6 ha and 10 min. Step 1: I from 150 to 300: 150, 200, 250 at the three stages.
 //   dH1 = 1.5 at 100 m; dH2 = (200 - 125)/100 = 0.75 at 100.5; dH3 = (250 - 125)/100 = 1.25 at 100.5;
@@ -612,7 +612,7 @@ TEST_P(Embalses, SuperficieCeroRespondidaNoTerminaElPrograma)
     EXPECT_EQ(anfitrion->Preguntas().size(), 2U);
 }
 
-// --- frame ------------------------------------------------------------------------------------------------
+// --- frame ---
 
 TEST_P(Embalses, SinMetodoAvisaYNoPropaga)
 {
@@ -765,7 +765,7 @@ TEST(EmbalsesLago, DespuesDeUnaRepresaMuestraElAlmacenamientoDeElla)
     }
 }
 
-// --- prepared against plain -------------------------------------------------------------------------------
+// --- prepared against plain ---
 
 /// A pool with random walls, outlets and flood. With `repetida` its last row stands twice: that alters no
 /// reading, and keeps the lookups from being prepared beforehand.

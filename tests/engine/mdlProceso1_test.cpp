@@ -49,7 +49,7 @@ class Proceso : public testing::Test, public pruebas::RedDeUEHs {
     }
 };
 
-// --- UEHs ------------------------------------------------------------------------------------------------
+// --- UEHs ---
 
 TEST_F(Proceso, UnaUEHAMano)
 {
@@ -309,8 +309,7 @@ TEST_F(Proceso, LaConstanteDeLaRecesionSeQuedaHastaLaProximaCarga)
     EXPECT_EQ(s.UEHs(1).KRecesion, 999999);
 }
 
-// --- checks
-// -------------------------------------------------------------------------------------------------
+// --- checks ---
 
 TEST_F(Proceso, SinUEHsSeRechaza)
 {
@@ -403,8 +402,7 @@ TEST_F(Proceso, UnCicloTerminaLaCorrida)
         "Error en la carga de datos de UEHS. Revise desde Menú Principal: Entradas\\Editor de UEHS...");
 }
 
-// --- limits and faults
-// ----------------------------------------------------------------------------------------
+// --- limits and faults ---
 
 TEST_F(Proceso, LaUEH71FallaEnCadaAcceso)
 {
@@ -452,8 +450,7 @@ TEST_F(Proceso, UnaBaseNegativaDeKostiakovConservaLaInfiltracionAnterior)
     EXPECT_EQ(s.PasosInfiltra(1), 4);          // and the clock went on
 }
 
-// --- fast way against the one step by step
-// -----------------------------------------------------------------------
+// --- fast way against the one step by step ---
 
 TEST_F(Proceso, ConPizarraOSinEllaLosResultadosSonLosMismosBits)
 {
@@ -493,8 +490,7 @@ TEST_F(Proceso, ConPizarraOSinEllaLosResultadosSonLosMismosBits)
     EXPECT_EQ(s.NroPasosQ, conPizarra.NroPasosQ);
 }
 
-// --- file
-// -----------------------------------------------------------------------------------------------------------
+// --- file ---
 
 TEST_F(Proceso, ConLaPizarraApagadaElArchivoTieneSoloLaTabla)
 {

@@ -68,7 +68,7 @@ TEST_F(Hietograma, IntensidadConstanteEsUnSoloBloque)
     EXPECT_EQ(s.PpReal(1), 60);
 }
 
-// --- López Cadenas: blocks by duration ---------------------------------------------------------------------
+// --- López Cadenas: blocks by duration ---
 
 struct CasoLopez {
     std::int16_t D;
@@ -126,7 +126,7 @@ TEST_F(Hietograma, SinTablaQuedaLoQueTeniaUnaTormentaAnterior)
     EXPECT_NEAR(s.IntensidadPp(1), 50 * (100 / 60.0) * 288 / 2881 / 100, 1e-6);
 }
 
-// --- sample storms and out of range ------------------------------------------------------------------------
+// --- sample storms and out of range ---
 
 struct CasoFijo {
     std::int16_t distribucion;
@@ -159,8 +159,7 @@ TEST_F(Hietograma, DistribucionFueraDeRangoNoLlueve)
     EXPECT_TRUE(anfitrion->sucesos.empty());
 }
 
-// --- personal tables
-// -----------------------------------------------------------------------------------------
+// --- personal tables ---
 
 TEST_F(Hietograma, PersonalSeLeeJustoAntesDeUsarse)
 {
@@ -191,8 +190,7 @@ TEST_F(Hietograma, PersonalVaciaEnUnaTormentaMasCortaQueElPasoFalla)
     EXPECT_EQ(anfitrion->Avisos()[0].icono, model::Icono::Ninguno);
 }
 
-// --- real storm
-// -----------------------------------------------------------------------------------------------
+// --- real storm ---
 
 TEST_F(Hietograma, RealNoCambiaLasLaminasYSusBloquesSonElPaso)
 {
@@ -213,8 +211,7 @@ TEST_F(Hietograma, RealNoCambiaLasLaminasYSusBloquesSonElPaso)
     EXPECT_FLOAT_EQ(static_cast<float>(pp[2]), 2);
 }
 
-// --- rain by step
-// ---------------------------------------------------------------------------------------------
+// --- rain by step ---
 
 TEST_F(Hietograma, PasoDe10En25MinutosSirveElTramoFinal)
 {
@@ -275,8 +272,7 @@ TEST_F(Hietograma, MinutosQueNoCabenEn16BitsFallan)
     EXPECT_EQ(apoyo::NumeroDeFalla([&] { PpDelPaso(s, 200); }), 6);
 }
 
-// --- Slate
-// ------------------------------------------------------------------------------------------------------
+// --- Slate ---
 
 TEST_F(Hietograma, TextoDeLaPizarraALaLetra)
 {

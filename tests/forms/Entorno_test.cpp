@@ -96,7 +96,7 @@ TEST_F(EntornoDePrueba, UnaVentanaHijaSeActivaAlPasarAElla)
     EXPECT_EQ(veces, 2);
 }
 
-// --- F1 ------------------------------------------------------------------------------------------------
+// --- F1 ---
 
 struct FormularioConCampo : Formulario {
     explicit FormularioConCampo(Entorno& alrededor) : Formulario(alrededor, "dlgDePrueba") {}

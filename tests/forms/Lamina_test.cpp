@@ -241,8 +241,7 @@ TEST_F(LaminaEnVentana, TieneNombreYDescripcionConTemaFilasYPicos)
     EXPECT_EQ(apoyo::SinNombre(ventana), std::vector<std::string>{});
 }
 
-// --- image and files
-// -----------------------------------------------------------------------------------------
+// --- image and files ---
 
 TEST_F(LaminaEnVentana, ElMenuGuardaLasCeldasComoCsv)
 {
@@ -315,8 +314,7 @@ TEST_F(LaminaEnVentana, LoQueSeLeeNoSaleEnLaImagen)
     EXPECT_NE(lamina->Lectura(), "");
 }
 
-// --- drawing
-// -------------------------------------------------------------------------------------------------
+// --- drawing ---
 
 /// Pixels of the chart that are bluish, top half and bottom half.
 std::pair<int, int> Lluvia(QWidget& w)

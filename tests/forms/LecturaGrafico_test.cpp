@@ -72,8 +72,7 @@ TEST(DescripcionDeGrafico, DeDosPicosIgualesElPrimeroYDeSerieVaciaNinguno)
     EXPECT_EQ(Descripcion(g), "3 filas. Qsale: máximo 3 m3/s en 0.5 horas.");
 }
 
-// --- labels of the categories
-// --------------------------------------------------------------------------------
+// --- labels of the categories ---
 
 /// Categories of n rows of so many minutes, in hours cut to two decimals.
 std::vector<std::string> Horas(int n, int paso)
@@ -116,8 +115,7 @@ TEST(RotulosDeCategorias, PrefiereHorasEnterasALasQueSalganPrimero)
     EXPECT_EQ(PasoDeRotulos(Horas(120, 5), 120, 11), 12U);
 }
 
-// --- structure
-// -----------------------------------------------------------------------------------------------
+// --- structure ---
 
 TEST(EstructuraDeGrafico, LasCeldasNoLaCambianYLoDemasSi)
 {

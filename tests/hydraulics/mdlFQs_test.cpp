@@ -47,7 +47,7 @@ class mdlFQs : public testing::Test, public EstadoConEmbalses {
     }
 };
 
-// --- outflow by functions ---------------------------------------------------------------------------------
+// --- outflow by functions ---
 
 TEST_F(mdlFQs, EnLosDosLimitesDeUnaFuncionVale)
 {
@@ -194,7 +194,7 @@ TEST_F(mdlFQs, ConFuncionesLaTablaNoSeMira)
     EXPECT_TRUE(Callado());
 }
 
-// --- outflow by table -------------------------------------------------------------------------------------
+// --- outflow by table ---
 
 TEST_F(mdlFQs, TablaEnLosRenglonesYEntreEllos)
 {
@@ -334,7 +334,7 @@ TEST_F(mdlFQs, LasFallasDeLaTablaSeInformanYDanCero)
     EXPECT_TRUE(anfitrion->Preguntas().empty());
 }
 
-// --- height from outflow ----------------------------------------------------------------------------------
+// --- height from outflow ---
 
 // From a bracket of 1 m ten halvings are made: after nine it is 1/512 m wide, after ten 1/1024 m, which isn't
 // above 0.001 m. The last midpoint is a bound of the last bracket.
@@ -489,7 +489,7 @@ TEST_F(mdlFQs, UnaFallaDelCaudalSeInformaEnCadaVuelta)
               std::vector<Mensaje>(12, Informe("Error Nro. 6Desbordamiento ,Verifique")));
 }
 
-// --- copy of the coefficients -----------------------------------------------------------------------------
+// --- copy of the coefficients ---
 
 TEST_F(mdlFQs, CargaFQsCopiaLasFuncionesDeTodasLasRepresas)
 {

@@ -349,7 +349,7 @@ TEST_F(Componentes, UnaFraccionEnUnEnteroSeRedondeaAlPar)
     EXPECT_EQ(s.Cauces(2).OrdenCauce, 4);
 }
 
-// --- limits --------------------------------------------------------------------------------------------
+// --- limits ---
 
 template <typename F>
 std::vector<Renglones> Muchos(int n, F registro)
@@ -437,7 +437,7 @@ TEST_F(Componentes, UnaCuentaDeVerticesEnormeEnsanchaElDibujo)
     EXPECT_EQ(s.XVertice(1, 1), 1);
 }
 
-// --- fields at fault -----------------------------------------------------------------------------------
+// --- fields at fault ---
 
 TEST_F(Componentes, UnCampoEnFallaQuedaSinEfectoYLaCargaSigueConElSiguiente)
 {
@@ -509,7 +509,7 @@ TEST_F(Componentes, UnParEnFallaSeConsumeEnteroYNoGuardaNada)
     EXPECT_EQ(s.XVertice(1, 4), 7);
 }
 
-// --- damaged and unreadable files ----------------------------------------------------------------------
+// --- damaged and unreadable files ---
 
 TEST_F(Componentes, UnArchivoTruncadoAvisaUnaVezYDejaUnaRedParcial)
 {

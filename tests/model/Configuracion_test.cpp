@@ -140,7 +140,7 @@ struct Configuracion : ::testing::Test, ProyectoDePrueba {
     std::string Conf() { return Bytes("_Conf.vlm"); }
 };
 
-// --- reading -------------------------------------------------------------------------------------------
+// --- reading ---
 
 TEST_F(Configuracion, CadaCampoLlegaASuVariable)
 {
@@ -291,7 +291,7 @@ TEST_F(Configuracion, CamposVaciosSonCeroFalsoYTextoVacio)
     EXPECT_EQ(s.NroDur, 0);
 }
 
-// --- numbers in texts ----------------------------------------------------------------------------------
+// --- numbers in texts ---
 
 TEST_F(Configuracion, N0DurVuelveComoFueEscrita)
 {
@@ -345,7 +345,7 @@ TEST_F(Configuracion, LaEscalaDelDibujoEsUnNumeroDe64Bits)
     EXPECT_EQ(s.EscalaDibujo, "0.123456789012");  // a 32-bit float would end after 7 digits
 }
 
-// --- R 5000 --------------------------------------------------------------------------------------------
+// --- R 5000 ---
 
 struct CasoR5000 {
     const char* campo500;
@@ -392,7 +392,7 @@ TEST_F(Configuracion, LasCasillasDeR500YR5000VuelvenDelGuardadoComoSeCargaron)
     EXPECT_EQ(s.frmConfigura.CheckR[12], 1);
 }
 
-// --- a project that has moved --------------------------------------------------------------------------
+// --- a project that has moved ---
 
 TEST_F(Configuracion, UnProyectoEnOtraRutaSeReescribeEnElActo)
 {
@@ -505,7 +505,7 @@ TEST_F(Configuracion, UnProyectoMudadoSinNombreNoEscribeNada)
     EXPECT_EQ(s.DirProyectoConf, "/proy");
 }
 
-// --- failures of the reading ---------------------------------------------------------------------------
+// --- failures of the reading ---
 
 TEST_F(Configuracion, UnArchivoDe58RenglonesEstaDanado)
 {
@@ -661,7 +661,7 @@ TEST_F(Configuracion, UnArchivoBinarioNoHaceDano)
     EXPECT_EQ(Avisos().size(), 1U);
 }
 
-// --- writing -------------------------------------------------------------------------------------------
+// --- writing ---
 
 TEST_F(Configuracion, SinNombreDeProyectoAplicarSoloTomaElDirectorio)
 {
@@ -770,7 +770,7 @@ TEST_F(Configuracion, LeerYAplicarDejaLosMismosBytes)
     EXPECT_EQ(Conf(), Junta(Ejemplo()));
 }
 
-// --- selections by default -----------------------------------------------------------------------------
+// --- selections by default ---
 
 TEST(SeleccionPorDefecto, LasRecurrenciasSonLasDelDiseno)
 {
@@ -829,7 +829,7 @@ TEST(SeleccionPorDefecto, LosControlesDeUnProyectoSinArchivoTienenSuValorDeOrige
     EXPECT_TRUE(c == porBotones);
 }
 
-// --- round trips ---------------------------------------------------------------------------------------
+// --- round trips ---
 
 /// Controls as a user could leave them. Numbers are whole hundredths below 100000: 7 digits tell them.
 ControlesConfigura ControlesAlAzar()
@@ -881,7 +881,7 @@ RC_GTEST_PROP(ConfiguracionIdaYVuelta, LoGuardadoVuelveIgual, ())
     RC_ASSERT(b.Bytes("_Conf.vlm") == bytes);
 }
 
-// --- the disk gives way --------------------------------------------------------------------------------
+// --- the disk gives way ---
 
 TEST(ConfiguracionSinDisco, CadaLlamadaQueFallaDaSuAvisoYNadaMas)
 {

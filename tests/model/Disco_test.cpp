@@ -166,7 +166,7 @@ TYPED_TEST(ContratoDeDisco, UnaCopiaDeLaPuertaVeElMismoDisco)
     EXPECT_EQ(this->disco.Lee(this->En("a")), "x");
 }
 
-// --- the real disk alone ----------------------------------------------------------------------------
+// --- the real disk alone ---
 
 struct DiscoReal : ::testing::Test, TallerReal {
     std::string En(std::string_view nombre) const { return Ruta(raiz, nombre); }

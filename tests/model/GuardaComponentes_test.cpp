@@ -134,7 +134,7 @@ TEST_F(GuardaComponentes, ElOrdenSeCalculaAntesDeGuardar)
     EXPECT_EQ(s.Cauces(3).OrdenCauce, 2);
 }
 
-// --- an empty network ----------------------------------------------------------------------------------
+// --- an empty network ---
 
 TEST_F(GuardaComponentes, SinComponentesSeBorranLosDosArchivosSinAviso)
 {
@@ -180,7 +180,7 @@ TEST_F(GuardaComponentes, LasCuentasDecidenYNoLasColecciones)
     EXPECT_TRUE(disco.Archivos().empty());
 }
 
-// --- a disk that gives way -----------------------------------------------------------------------------
+// --- a disk that gives way ---
 
 TEST_F(GuardaComponentes, SiNoSePuedenAbrirCadaEscrituraAvisa)
 {

@@ -28,7 +28,7 @@ constexpr float MayorSimple = std::numeric_limits<float>::max();
 constexpr double MayorDoble = std::numeric_limits<double>::max();
 const double NoEsNumero = std::nan("");
 
-// --- storing ----------------------------------------------------------------------------------------
+// --- storing ---
 
 TEST(Numeros, SimpleLlegaHastaDondeElRedondeoQuedaDentroDelTipo)
 {
@@ -152,7 +152,7 @@ TEST(Numeros, Suma16DesbordaAunqueQuepaEnTreintaYDosBits)
     }
 }
 
-// --- arithmetic -------------------------------------------------------------------------------------
+// --- arithmetic ---
 
 TEST(Numeros, DividirPorCeroEsFallaTambienConFlotantes)
 {
@@ -235,7 +235,7 @@ TEST(Numeros, Trunca2RedondeaCadaOperacionATreintaYDosBits)
     EXPECT_EQ(NumeroDeFalla([] { Trunca2(3.5e36F); }), 6);  // 3.5E+38
 }
 
-// --- number to text ---------------------------------------------------------------------------------
+// --- number to text ---
 
 /// What C writes, but for negative zero.
 template <typename T>
@@ -419,7 +419,7 @@ TEST(Numeros, EscribeNumeroCabeEnSuLargo)
     }
 }
 
-// --- text to number ---------------------------------------------------------------------------------
+// --- text to number ---
 
 TEST(Numeros, ValTomaElNumeroConQueEmpiezaElTexto)
 {

@@ -40,7 +40,7 @@ inline model::Mensaje CajaGuardado(const std::string& ruta)
         ruta);
 }
 
-// --- records as they stand in the file -----------------------------------------------------------------
+// --- records as they stand in the file ---
 
 // clang-format off
 inline Renglones RegistroCauce(const std::string& nombre, int vertices = 0, const std::string& destino = "",

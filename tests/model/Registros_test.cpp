@@ -38,7 +38,7 @@ std::vector<std::string> Campos(std::string_view bytes)
 
 using Lista = std::vector<std::string>;
 
-// --- where fields end -------------------------------------------------------------------------------
+// --- where fields end ---
 
 TEST(LectorRegistros, ComaYFinDeLineaCierranElCampo)
 {
@@ -132,7 +132,7 @@ TEST(LectorRegistros, LosBytesNulosSonTexto)
     EXPECT_EQ(Campos(std::string_view("a\0b,\0", 5)), (Lista{std::string("a\0b", 3), std::string(1, '\0')}));
 }
 
-// --- what a field is --------------------------------------------------------------------------------
+// --- what a field is ---
 
 TEST(LectorRegistros, TextoEsCualquierCampoComoUtf8)
 {
@@ -249,7 +249,7 @@ TEST(LectorRegistros, Logico)
     }
 }
 
-// --- records and places -----------------------------------------------------------------------------
+// --- records and places ---
 
 TEST(LectorRegistros, VuelveAUnLugar)
 {
@@ -331,7 +331,7 @@ TEST(LectorRegistros, UnRegistroSinFallaTomaLoQueSeLee)
     EXPECT_EQ(lector.Numero16(), 2);
 }
 
-// --- writer -----------------------------------------------------------------------------------------
+// --- writer ---
 
 const std::string Archivo = Ruta("proy", "a.vlm");
 
@@ -455,7 +455,7 @@ TEST_F(Escritor, UnaPiezaQueFallaEsFallaDelRegistroEnCurso)
     EXPECT_EQ(disco.Bytes(Archivo).size(), 14U * (10000 - 4682));
 }
 
-// --- both together ----------------------------------------------------------------------------------
+// --- both together ---
 
 std::string TextoSinComillas()
 {

@@ -298,7 +298,7 @@ TEST_F(TablasEmbalse, LosArreglosLleganHastaElMayorNumero)
     EXPECT_EQ(s.RepresaH(7, 2), 5.5F);
 }
 
-// --- a block that isn't there --------------------------------------------------------------------------
+// --- a block that isn't there ---
 
 TEST_F(TablasEmbalse, SinElBloqueDeLaPrimeraNingunaTieneTabla)
 {
@@ -368,7 +368,7 @@ TEST_F(TablasEmbalse, UnRenglonDeOtraCantidadDeCamposDesplazaLaBusqueda)
     EXPECT_EQ(Todos(s.RepresaFilasHAS), (std::vector<int>{0, 1, 0}));
 }
 
-// --- the scan over earlier blocks ----------------------------------------------------------------------
+// --- the scan over earlier blocks ---
 
 TEST_F(TablasEmbalse, UnAreaMayorDe32767AvisaPorFilaYPorComponenteQueLaPasa)
 {
@@ -441,7 +441,7 @@ TEST_F(TablasEmbalse, UnaFilaEnFallaSeConsumeEnteraYNoGuardaNada)
     EXPECT_EQ(Fila(s.RepresaS, 1, 4), (std::vector<std::int32_t>{3, 0, 0, 0}));
 }
 
-// --- files that can't be read --------------------------------------------------------------------------
+// --- files that can't be read ---
 
 TEST_F(TablasEmbalse, UnArchivoIlegibleAvisaAlAbrirYAlBuscarPorCadaComponente)
 {

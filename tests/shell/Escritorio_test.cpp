@@ -397,7 +397,7 @@ TEST_F(EscritorioDePrueba, SalirAnotaElProyectoYTermina)
     EXPECT_EQ(BytesPuntero(), "\"" + instalacion.Proyectos() + "\"\r\n\"Quelmar\"\r\n");
 }
 
-// --- splash, About, delete -----------------------------------------------------------------------------
+// --- splash, About, delete ---
 
 TEST(Portada, DiceProductoYVersion)
 {

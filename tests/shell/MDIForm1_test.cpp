@@ -20,7 +20,7 @@ const Mensaje SinProyecto{
 
 struct MarcoDePrueba : EscenaDePrueba {};
 
-// --- opening, labels -----------------------------------------------------------------------------------
+// --- opening, labels ---
 
 TEST_F(MarcoDePrueba, AlAbrirseLlevaSuTituloYTresEntradasNoEstanDisponibles)
 {
@@ -97,7 +97,7 @@ TEST_F(MarcoDePrueba, UnRotuloCreceSoloLejosDeSuBorde)
     EXPECT_FALSE(RotuloCrece(300, 110));
 }
 
-// --- tables --------------------------------------------------------------------------------------------
+// --- tables ---
 
 TEST_F(MarcoDePrueba, ElMenuTieneSusEntradasEnOrden)
 {
@@ -241,7 +241,7 @@ TEST_F(MarcoDePrueba, CincoEntradasDelMenuNoTienenAccion)
         EXPECT_EQ(Entrada(nombre).rutina, nullptr) << nombre;
 }
 
-// --- guards --------------------------------------------------------------------------------------------
+// --- guards ---
 
 TEST_F(MarcoDePrueba, SinProyectoSusCuatroComandosLoDicenYNoAbrenNada)
 {
@@ -331,7 +331,7 @@ TEST_F(MarcoDePrueba, LaConfiguracionDelMenuEsperaYRefrescaYLaDeLaBarraNo)
     EXPECT_EQ(anfitrion->rotulosProyecto, 1);
 }
 
-// --- Slate ---------------------------------------------------------------------------------------------
+// --- Slate ---
 
 TEST_F(MarcoDePrueba, NuevoAbreLaConfiguracionDelProyectoNuevo)
 {
@@ -392,7 +392,7 @@ TEST_F(MarcoDePrueba, SinProyectoLaPizarraPierdeSuMarcaYSuBoton)
     EXPECT_EQ(anfitrion->Avisos(), Cajas{SinProyecto});
 }
 
-// --- runs ----------------------------------------------------------------------------------------------
+// --- runs ---
 
 struct CorreUna : EscenaDePrueba {
     CorreUna()
@@ -531,7 +531,7 @@ TEST_F(CorreSerie, SinProyectoOSinSerieCalla)
     EXPECT_TRUE(anfitrion->sucesos.empty());
 }
 
-// --- charts --------------------------------------------------------------------------------------------
+// --- charts ---
 
 struct Graficos : EscenaDePrueba {
     Graficos()
@@ -581,7 +581,7 @@ TEST_F(Graficos, SinBloquesOSinPasosNoHayHidrograma)
     EXPECT_EQ(Elige("mnuHidrogramas"), Lista{});
 }
 
-// --- help, shut-down -----------------------------------------------------------------------------------
+// --- help, shut-down ---
 
 struct Ayuda : EscenaDePrueba {
     const std::string carpeta = model::Ruta(Programa, "Ayuda");

@@ -225,7 +225,7 @@ TEST_F(MarcoEnPantalla, CerrarLaVentanaTerminaElPrograma)
     EXPECT_TRUE(mundo.anfitrion->Preguntas().empty());
 }
 
-// --- the windows inside it -----------------------------------------------------------------------------
+// --- the windows inside it ---
 
 struct VentanasDelArea : MarcoEnPantalla {
     QWidget una{}, otra{};
