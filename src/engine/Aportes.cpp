@@ -26,13 +26,22 @@ Aportes::Aportes(const model::Siro& s)
     std::unordered_map<std::string_view, Afluentes> porDestino;
     const FilasPorNombre filasUEH = NumeraFilas(s, 1, s.NroUEHs);
     const FilasPorNombre filasResto = NumeraFilas(s, s.NroUEHs + 1, s.NroComponentes);
-    const auto anota = [&](const FilasPorNombre& filas, const auto& nombre, const auto& destino, auto lista) {
+    const auto conFila = [&](const FilasPorNombre& filas, const auto& nombre, const auto& destino,
+                             auto hace) {
         if (destino.empty() || destino == "0") return;
         if (const auto fila = filas.find(nombre); fila != filas.end())
-            (porDestino[destino].*lista).push_back(fila->second);
+            hace(porDestino[destino], fila->second);
     };
-    for (const auto& u : s.ColUEHs)
-        anota(filasUEH, u.NombreUEH, u.Cauce_aa, &Afluentes::UEHs);
+    const auto anota = [&](const FilasPorNombre& filas, const auto& nombre, const auto& destino, auto lista) {
+        conFila(filas, nombre, destino, [&](Afluentes& a, int fila) { (a.*lista).push_back(fila); });
+    };
+    int item = 0;
+    for (const auto& u : s.ColUEHs) {
+        ++item;
+        conFila(filasUEH, u.NombreUEH, u.Cauce_aa, [&](Afluentes& a, int fila) {
+            a.UEHs.push_back({fila, item});
+        });
+    }
     for (const auto& c : s.ColCauces)
         anota(filasResto, c.NombreCauce, c.Cauce_aa, &Afluentes::Cauces);
     for (const auto& r : s.ColRepresas)

@@ -10,9 +10,15 @@ namespace engine {
 /// Who drains into whom, names resolved to rows of Secuencia once per network.
 class Aportes {
   public:
-    /// Rows of the components that drain into one, each kind in collection order.
+    /// A UEH that drains into a component. Of UEHs with one name all give the flow of the first one's row.
+    struct AfluenteUEH {
+        int fila;  ///< row of its name
+        int item;  ///< its own place in the collection, from 1
+    };
+    /// What drains into a component, each kind in collection order; of all but the UEHs the rows.
     struct Afluentes {
-        std::vector<int> UEHs, Cauces, Represas, Lagos;
+        std::vector<AfluenteUEH> UEHs;
+        std::vector<int> Cauces, Represas, Lagos;
     };
 
     Aportes() = default;

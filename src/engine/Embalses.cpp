@@ -62,9 +62,10 @@ void SumaAfluente(Corrida& c, const EmbalseEnMano& e, int afluente)
 void JuntaAfluentes(Corrida& c, const EmbalseEnMano& e)
 {
     const Aportes::Afluentes& afluentes = c.Afluentes->De(e.fila);
-    for (const int u : afluentes.UEHs) {
-        SumaAfluente(c, e, u);
-        c.QBaseEntra = Simple(double{c.QBaseEntra} + c.s.UEHs(u).Q0Recesion);
+    for (const Aportes::AfluenteUEH& u : afluentes.UEHs) {
+        SumaAfluente(c, e, u.fila);
+        // that of the row's UEH, unlike in a reach: kept as it stands
+        c.QBaseEntra = Simple(double{c.QBaseEntra} + c.s.UEHs(u.fila).Q0Recesion);
     }
     for (const int f : afluentes.Cauces)
         SumaAfluente(c, e, f);

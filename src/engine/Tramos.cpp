@@ -42,9 +42,9 @@ void SumaAfluente(Corrida& c, int fila, int afluente)
 void JuntaAfluentes(Corrida& c, int fila)
 {
     const Aportes::Afluentes& afluentes = c.Afluentes->De(fila);
-    for (const int u : afluentes.UEHs) {
-        SumaAfluente(c, fila, u);
-        c.Intenta([&] { c.QBaseEntra = Simple(double{c.QBaseEntra} + c.s.ColUEHs.Item(u).Q0Recesion); });
+    for (const Aportes::AfluenteUEH& u : afluentes.UEHs) {
+        SumaAfluente(c, fila, u.fila);
+        c.Intenta([&] { c.QBaseEntra = Simple(double{c.QBaseEntra} + c.s.ColUEHs.Item(u.item).Q0Recesion); });
     }
     for (const auto* filas : {&afluentes.Cauces, &afluentes.Represas, &afluentes.Lagos})
         for (const int f : *filas)

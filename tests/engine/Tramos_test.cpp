@@ -76,6 +76,18 @@ TEST_F(Tramos, AlimentadoSoloPorCaucesEmpiezaEnCero)
     EXPECT_EQ(Salida(3), (std::vector<float>{0, 0.5F, Caudal, Caudal, Caudal}));
 }
 
+// Two UEHs of one name give each the flow of the first one's row, but their own initial flow.
+TEST_F(Tramos, CadaUEHDeNombreRepetidoTraeSuPropioCaudalInicial)
+{
+    PonUEH("u-1", "c-1").Q0Recesion = 0.5F;
+    PonUEH("u-1", "c-2").Q0Recesion = 0.25F;
+    PonCauce("c-1", "0").LongCauce = 1200;  // 20 min: two steps
+    PonCauce("c-2", "0").LongCauce = 1200;
+    EXPECT_TRUE(Corre());
+    EXPECT_EQ(Salida(3), (std::vector<float>{0.5F, 0.5F, Caudal, Caudal, Caudal}));
+    EXPECT_EQ(Salida(4), (std::vector<float>{0.25F, 0.25F, Caudal, Caudal, Caudal}));
+}
+
 TEST_F(Tramos, ViajeMenorQueMedioPasoNoDemora)
 {
     PonUEH("u-1", "c-1");
