@@ -217,8 +217,11 @@ def _nombre_csv(nombre):
 
 def _filas_de_una(s):
     yield ["componente", "p", "minutos", "qentra", "qsale", "h", "s"]
-    represas = {r.NombreRepresa: r.numRepresa for r in s.ColRepresas}
-    lagos = {lago.NombreLAGO: lago.numLAGO for lago in s.ColLagos}
+    represas, lagos = {}, {}  # of equal names the first
+    for represa in s.ColRepresas:
+        represas.setdefault(represa.NombreRepresa, represa.numRepresa)
+    for lago in s.ColLagos:
+        lagos.setdefault(lago.NombreLAGO, lago.numLAGO)
     cauces = {cauce.NombreCauce for cauce in s.ColCauces}
     for c in range(1, s.NroComponentes + 1):
         nombre = s.Secuencia[c]
