@@ -29,8 +29,7 @@ constexpr forms::ReglaNumero ReglaNroFilas{.control = "txtNroFilas",
 
 constexpr std::string_view Recordatorio =  // kept as it stands
     "Asegurar los cambios producidos pulsando <Guardar> desde el formulario gráfico de de UEHs. De lo "
-    "contrario "
-    "se perderá la información cargada.";
+    "contrario se perderá la información cargada.";
 
 // --- descriptions ---
 

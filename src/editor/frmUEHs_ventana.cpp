@@ -210,34 +210,42 @@ QToolBar* frmUEHs_ventana::HazBarra()
         });
         botones[i] = accion;
         if (fila.boton == Boton::BorraTodo || fila.boton == Boton::Salir) barra->addSeparator();
-        if (fila.boton == Boton::Salir) {
-            deshace = HazAccion("Deshace", "Deshacer (Ctrl+Z)", "Deshace");
-            rehace = HazAccion("Rehace", "Rehacer (Ctrl+Y)", "Rehace");
-            auto* const exporta = HazAccion("Exporta", "Exportar o imprimir el dibujo", "Exporta");
-            connect(deshace, &QAction::triggered, this,
-                    [this] { Hace([this] { Form_KeyDown(f, entorno.s, Tecla::Deshacer); }); });
-            connect(rehace, &QAction::triggered, this,
-                    [this] { Hace([this] { Form_KeyDown(f, entorno.s, Tecla::Rehacer); }); });
-            deshace->setShortcut(QKeySequence::Undo);
-            rehace->setShortcuts(
-                {QKeySequence(Qt::CTRL | Qt::Key_Y), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)});
-            auto* const destinos = new QMenu(this);
-            for (const char* tipo : {"PNG", "SVG", "PDF"})
-                destinos
-                    ->addAction(QStringLiteral("Guardar el dibujo como &%1...").arg(QLatin1String(tipo)),
-                                this, [this, tipo] { Exporta(tipo); })
-                    ->setObjectName(QStringLiteral("GuardaDibujo%1").arg(QLatin1String(tipo)));
-            destinos->addAction(QStringLiteral("&Imprimir el dibujo"), this, [this] { Imprime(); })
-                ->setObjectName(QStringLiteral("ImprimeDibujo"));
-            exporta->setMenu(destinos);
-            barra->addActions({deshace, rehace, exporta});
-            if (auto* const boton = qobject_cast<QToolButton*>(barra->widgetForAction(exporta)))
-                boton->setPopupMode(QToolButton::InstantPopup);
-            barra->addSeparator();
-        }
+        if (fila.boton == Boton::Salir) AgregaPropias(*barra);
         barra->addAction(accion);
     }
     return barra;
+}
+
+void frmUEHs_ventana::AgregaPropias(QToolBar& barra)
+{
+    deshace = HazAccion("Deshace", "Deshacer (Ctrl+Z)", "Deshace");
+    rehace = HazAccion("Rehace", "Rehacer (Ctrl+Y)", "Rehace");
+    auto* const exporta = HazAccion("Exporta", "Exportar o imprimir el dibujo", "Exporta");
+    connect(deshace, &QAction::triggered, this,
+            [this] { Hace([this] { Form_KeyDown(f, entorno.s, Tecla::Deshacer); }); });
+    connect(rehace, &QAction::triggered, this,
+            [this] { Hace([this] { Form_KeyDown(f, entorno.s, Tecla::Rehacer); }); });
+    deshace->setShortcut(QKeySequence::Undo);
+    rehace->setShortcuts(
+        {QKeySequence(Qt::CTRL | Qt::Key_Y), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)});
+    exporta->setMenu(HazDestinos());
+    barra.addActions({deshace, rehace, exporta});
+    if (auto* const boton = qobject_cast<QToolButton*>(barra.widgetForAction(exporta)))
+        boton->setPopupMode(QToolButton::InstantPopup);
+    barra.addSeparator();
+}
+
+QMenu* frmUEHs_ventana::HazDestinos()
+{
+    auto* const destinos = new QMenu(this);
+    for (const char* tipo : {"PNG", "SVG", "PDF"})
+        destinos
+            ->addAction(QStringLiteral("Guardar el dibujo como &%1...").arg(QLatin1String(tipo)), this,
+                        [this, tipo] { Exporta(tipo); })
+            ->setObjectName(QStringLiteral("GuardaDibujo%1").arg(QLatin1String(tipo)));
+    destinos->addAction(QStringLiteral("&Imprimir el dibujo"), this, [this] { Imprime(); })
+        ->setObjectName(QStringLiteral("ImprimeDibujo"));
+    return destinos;
 }
 
 QWidget* frmUEHs_ventana::HazMandos()

@@ -43,6 +43,9 @@ class frmUEHs_ventana : public forms::Ventana {
     template <typename Rutina>
     void Hace(Rutina&& rutina);
     QToolBar* HazBarra();
+    /// Keys that the toolbar has beside those of its table: undo, redo, export.
+    void AgregaPropias(QToolBar& barra);
+    QMenu* HazDestinos();
     QWidget* HazMandos();
     QWidget* HazPie();
     QAction* HazAccion(const char* nombre, const char* leyenda, const char* icono);

@@ -24,8 +24,7 @@ constexpr double BaseAbatimiento = 2.7183;
 constexpr float KDeReserva = 999999;
 constexpr std::string_view KIncorrecto =
     "El parámetro de Singh (K de abatimiento) elegido es incorrecto, debe corregirlo. Se adopta "
-    "transitoriamente "
-    "K=999999 ó 1/K cercano a '0'. Verifique...";
+    "transitoriamente K=999999 ó 1/K cercano a '0'. Verifique...";
 constexpr double VolumenDespreciable = 0.001;  // [m3]
 
 bool TieneRecesion(const model::UEH& u)

@@ -30,8 +30,7 @@ constexpr std::int16_t FormaPorUEH = static_cast<std::int16_t>(model::FormaLluvi
 
 constexpr std::string_view SinUEHs =
     "Debe haber al menos una Unidad de Estudios Hidrólógicos (UEH) Cargada en el sistema. (Ingresar UEHs "
-    "desde el "
-    "Menú Principal  \\Entradas\\Editor UEHs (Gráfico)...";
+    "desde el Menú Principal  \\Entradas\\Editor UEHs (Gráfico)...";
 constexpr std::string_view SinArea =
     "Error en la carga de datos de UEHS, posiblemente no ha cargado correctamente las superficies y demás "
     "parámetros, ...";
@@ -51,12 +50,9 @@ constexpr std::string_view RedConErrores =
 constexpr std::string_view TituloTextoExtenso = "La tabla de resultados es muy extensa";
 constexpr std::string_view TextoExtenso =
     "La tabla de resultados es muy extensa para ser presentada completa en la Pizarra. Los datos se guardan "
-    "completos "
-    "en el archivo de texto <SalePizarra1_tem.txt> del directorio de trabajo. Puede leer directamente este "
-    "archivo con "
-    "un editor de texto o bien importar archivo desde Excel como <delimitado>, con separador <espacio> y "
-    "formato "
-    "<general>";
+    "completos en el archivo de texto <SalePizarra1_tem.txt> del directorio de trabajo. Puede leer "
+    "directamente este archivo con un editor de texto o bien importar archivo desde Excel como <delimitado>, "
+    "con separador <espacio> y formato <general>";
 constexpr std::size_t LargoExtenso = 60000;  // characters
 
 bool Rechaza(const Siro& s, std::string texto)

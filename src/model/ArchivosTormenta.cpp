@@ -22,8 +22,7 @@ constexpr std::string_view RaizTormenta = "Velmir";
 constexpr std::string_view NombreInadecuado1 = "El archivo ";
 constexpr std::string_view NombreInadecuado2 =
     " no es un archivo de configuración válido. Los archivos de configuración tienen el formato nn_pt.vlm, "
-    "donde "
-    "nn es el nombre del archivo";
+    "donde nn es el nombre del archivo";
 constexpr std::string_view EtiquetaSinTormenta = "debe cargar o recomponer un archivo tipo <nn_pt.vlm>";
 
 constexpr std::string_view PrefijoPp = "Pp= ";

@@ -39,8 +39,7 @@ constexpr std::string_view VerifiqueDistribucion = "Verifique la Distribución t
 constexpr std::string_view TituloPasoPp = "Corrección de selección del paso de entrada (Precipitación)";
 constexpr std::string_view PasoPpLargo =  // kept as it stands
     "Elija un paso de tiempo para las entradas (Precipitaciones)  múlitplo menor, o al menos igual, a la "
-    "Duración de "
-    "la Tormenta. (Sugerido: 1/3 del tiempo de concentración de la cuenca)";
+    "Duración de la Tormenta. (Sugerido: 1/3 del tiempo de concentración de la cuenca)";
 constexpr std::string_view TituloPasoQ = "Corrección de selección del paso de salida";
 constexpr std::string_view PasoQNoCabe =  // kept as it stands
     "Elija un paso de tiempo para las salidas (Caudales) igual, o múlitplo menor, al paso de entradas "

@@ -41,9 +41,8 @@ inline constexpr auto NotasFijasPDRs = std::to_array<std::string_view>({
     "Las Tablas Pp-D-R o tablas de Precipitación, Duración, Recurrencia, caractérizan una región en estudio.",
     "Permiten ingresar como entradas un conjunto de tormentas sintéticas, de duración y recurrencia "
     "crecientes. El modelo efectúa corridas integradas para estimar los hidrogramas de cada tormenta. "
-    "Produce "
-    "como resultados tablas resúmenes y gráficos de Caudales máximos y Escorrentías en  función de la "
-    "Duración D y de la Recurrencia R. (Gráficos Qp-D-R  y  E-D-R)",
+    "Produce como resultados tablas resúmenes y gráficos de Caudales máximos y Escorrentías en  función de "
+    "la Duración D y de la Recurrencia R. (Gráficos Qp-D-R  y  E-D-R)",
     "Dispone en la Opción '0' la Tabla para la región del Valle Inferior del Río Sorelo, VIRSo  (Ruvera, "
     "Argentina),  y puede construir hasta 3 tablas personalizadas.",
 });
