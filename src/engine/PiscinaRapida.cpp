@@ -53,6 +53,8 @@ class Curvas {
         const auto menorS = static_cast<float>(*menor), mayorS = static_cast<float>(*mayor), S0 = s.SActual;
         return sinPreguntas.Abarca(std::min(menorS, S0), std::max(mayorS, S0));
     }
+    /// A bound of the absolute outflow between two heights that Prepara has been given [m3/s].
+    double CotaDescarga(float base, float tope) const { return descarga.Cota(base, tope); }
     Nodo En(float h, double paso)
     {
         Nodo n{h, static_cast<float>(almacenamiento.Valor(h, filaS)), descarga.Valor(h, filaQ), 0};
@@ -277,6 +279,8 @@ bool PiscinaRapida(Corrida& c, const EmbalseEnMano& e, float T)
         return false;
     Curvas curvas;
     if (!curvas.Prepara(s, e, base, tope)) return false;
+    // T falls by twice the outflow in every step.
+    if (!(std::fabs(T) + s.NroPasosQ * 2 * curvas.CotaDescarga(base, tope) < CaudalModerado)) return false;
     if (c.memoria.VariasCorridas) {
         const NodosPiscina& nodos = NodosDe(c, e, curvas, base, tope);
         if (nodos.sirve) {

@@ -90,12 +90,13 @@ double MayorAporte(const FuncionFQ& f, float minimo, float maximo)
     return std::fabs(double{f.a}) * std::pow(f.b < 0 ? desde : hasta, double{f.b});
 }
 
-bool FuncionesSinFalla(const FuncionesEnUso& funciones, float minimo, float maximo)
+double SumaDeAportes(const FuncionesEnUso& funciones, float minimo, float maximo)
 {
     double suma = 0;
     for (const FuncionFQ& f : funciones)
         suma += MayorAporte(f, minimo, maximo);
-    return suma <= MaximaSuma;  // false also where a power times 0 is no number
+    // A power that is infinite times 0 is no number.
+    return std::isnan(suma) ? std::numeric_limits<double>::infinity() : suma;
 }
 
 }  // namespace
@@ -132,6 +133,14 @@ Intervalo CurvaLineal::Alturas() const
 {
     if (tramos.empty()) return {};
     return {alturas.front(), alturas[tramos.size() - 1]};
+}
+
+double CurvaLineal::MayorAbsoluto() const
+{
+    double mayor = 0;
+    for (const Tramo& tramo : tramos)
+        mayor = std::max(mayor, std::fabs(tramo.valor));
+    return mayor;
 }
 
 CurvaLineal CurvaAlmacenamiento(const Siro& s)
@@ -197,8 +206,16 @@ bool CurvaDescarga::SinPreguntas(float minimo, float maximo) const
 {
     if (const auto* tabla = std::get_if<CurvaLineal>(&forma)) return tabla->Alturas().Abarca(minimo, maximo);
     if (const auto* funciones = std::get_if<FuncionesEnUso>(&forma))
-        return FuncionesSinFalla(*funciones, minimo, maximo);
+        return SumaDeAportes(*funciones, minimo, maximo) <= MaximaSuma;
     return std::holds_alternative<SinTabla>(forma);
+}
+
+double CurvaDescarga::Cota(float minimo, float maximo) const
+{
+    if (const auto* tabla = std::get_if<CurvaLineal>(&forma)) return tabla->MayorAbsoluto();
+    if (const auto* funciones = std::get_if<FuncionesEnUso>(&forma))
+        return SumaDeAportes(*funciones, minimo, maximo);
+    return 0;
 }
 
 CurvaInversa::CurvaInversa(const Siro& s) : descarga(s)

@@ -39,6 +39,8 @@ class CurvaLineal {
     [[nodiscard]] int Filas() const { return static_cast<int>(tramos.size()); }
     /// Heights that Valor takes.
     [[nodiscard]] Intervalo Alturas() const;
+    /// The greatest absolute reading of any row, and so of any height; 0 without rows.
+    [[nodiscard]] double MayorAbsoluto() const;
 
     /// Row, from 0, whose height is the greatest that isn't above x. Requires x within Alturas().
     [[nodiscard]] int Fila(float x) const
@@ -109,6 +111,10 @@ class CurvaDescarga {
 
     /// Whether no height from one to the other, ends included, can bring about a question or a fault.
     [[nodiscard]] bool SinPreguntas(float minimo, float maximo) const;
+
+    /// A bound of the absolute outflow at any height from one to the other, ends included [m3/s]; infinite
+    /// where a function can fault. Requires SinPreguntas for a table.
+    [[nodiscard]] double Cota(float minimo, float maximo) const;
 
     /// Outflow at height h [m3/s]. Requires h within a range that SinPreguntas has proved.
     [[nodiscard]] float Valor(float h) const

@@ -284,6 +284,28 @@ TEST_P(Embalses, ObjetivoSobreElTechoSePierdeSinPreguntar)
               std::string::npos);
 }
 
+// T = 2S/dt - Q begins at 0; the first step leaves W - 2·Q = 0 - 6E+38, outside the type: height and storage
+// of that step stand, its outflow doesn't, and the component ends.
+TEST_P(Embalses, CaudalCuyoDobleDesbordaTerminaElComponente)
+{
+    Pon("Piscina Nivelada", {{100, 6, 0, 3e38F}, {104, 6, 1228800, 3e38F}}, 100);
+    EXPECT_FALSE(corrida.Intenta([&] { Corre({0, 0}); }));
+    EXPECT_EQ(anfitrion->Avisos(),
+              (std::vector<Mensaje>{{"Error Nro. 6 ,DesbordamientoVerifique", "", Icono::Ninguno}}));
+    EXPECT_EQ(Sale(), (V{3e38F, 0, 0}));
+    EXPECT_EQ(H(), (V{100, 100.00390625F, 0}));
+    EXPECT_EQ(QMax(), 0);
+}
+
+// Each step takes 2·1E+38 from T: -2E+38 behind the first, outside the type behind the second.
+TEST_P(Embalses, CaudalQueDesbordaAlSegundoPasoTerminaElComponente)
+{
+    Pon("Piscina Nivelada", {{100, 6, 0, 1e38F}, {104, 6, 1228800, 1e38F}}, 100);
+    EXPECT_FALSE(corrida.Intenta([&] { Corre({0, 0, 0}); }));
+    EXPECT_EQ(anfitrion->Avisos().size(), 1U);
+    EXPECT_EQ(Sale(), (V{1e38F, 1e38F, 0, 0}));
+}
+
 TEST_P(Embalses, TablaMasAngostaQueLaToleranciaNoSeBiseca)
 {
     Pon("Piscina Nivelada", {{100, 6, 3000, 7}, {100.004F, 6, 3600, 8}}, 100);
