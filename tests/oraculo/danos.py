@@ -28,10 +28,6 @@ class Dano:
         self.en_archivos = en_archivos or (lambda p: None)
 
 
-def elige(p):
-    return [p.uno_de(DANOS) for _ in range(p.uno_de((1, 1, 2)))]
-
-
 def directorios_vacios(p):
     return p.directorios if p.sin_trabajo else p.directorios + [p.trabajo]
 

@@ -5,7 +5,7 @@
     generador.py SEED DIR
 
 writes a project's files into DIR, which becomes its project directory, and prints the command line that runs it. The same
-seed and directory give the same bytes. About seven projects in ten are sound; the others carry one or two faults.
+seed and directory give the same bytes. About six projects in ten are sound; the others carry one to three faults.
 """
 import os
 import random
@@ -13,6 +13,7 @@ import shlex
 import sys
 
 import danos
+import extremos
 from numeros import f32, texto32
 from registros import a_1252
 
@@ -514,7 +515,7 @@ def genera(semilla, directorio):
     if p.modo == "serie" and p.suerte(0.7):
         p.opciones["--hilos"] = p.uno_de(("0", "1", "2", "3"))
     p.conf_relativa = p.suerte(0.05)
-    elegidos = danos.elige(p) if p.suerte(0.33) else []
+    elegidos = extremos.elige(p) if p.suerte(0.4) else []
     for dano in elegidos:
         dano.en_modelo(p)
     arma_configuracion(p)
