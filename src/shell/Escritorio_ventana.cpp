@@ -2,20 +2,15 @@
 #include "shell/Escritorio_ventana.h"
 
 #include <QApplication>
-#include <QDesktopServices>
 #include <QDialog>
-#include <QDir>
-#include <QUrl>
 
 #include "forms/Cajas_ventana.h"
-#include "forms/Textos_ventana.h"
+#include "shell/VisorDeAyuda_ventana.h"
 #include "shell/dlgEliminarProyecto_ventana.h"
 #include "shell/frmAcerca_ventana.h"
 #include "shell/frmInicio_ventana.h"
 
 namespace shell {
-
-using forms::Q;
 
 Escritorio::Escritorio(const std::string& dirTrabajo)
 {
@@ -145,9 +140,7 @@ void Escritorio::PonMandos()
         }
     };
     mandos.AbrePaginaDeAyuda = [this](const std::string& ruta) { ventanaAyuda->Abre(ruta); };
-    mandos.AbreConElSistema = [](const std::string& ruta) {
-        return QDesktopServices::openUrl(QUrl::fromLocalFile(QDir::fromNativeSeparators(Q(ruta))));
-    };
+    mandos.AbreConElSistema = AbreConVisorDeAyuda;
 }
 
 void Escritorio::Abre(Ventana ventana, bool espera)
