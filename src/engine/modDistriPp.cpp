@@ -185,21 +185,22 @@ void Construye(Siro& s)
 }
 
 /// Block in which the minute PasoPp·k falls, one above the whole blocks gone by. Every operation is rounded
-/// to 32 bits: the width decides at the boundaries of the blocks.
-int BloqueDelPaso(const Siro& s, std::int16_t k)
+/// to 32 bits: the width decides at the boundaries of the blocks. Throws Falla 6 above 16 bits.
+std::int16_t BloqueDelPaso(const Siro& s, std::int16_t k)
 {
     const float producto = static_cast<float>(s.PasoPp) * static_cast<float>(s.NroBloquesPp);
     const float bloques = producto * static_cast<float>(k) / static_cast<float>(s.DurTormenta);
-    return static_cast<int>(std::floor(bloques)) + 1;
+    return model::Suma16(model::Piso16(bloques), 1);
 }
 
 double PpInterpolada(Siro& s, std::int16_t k, std::int16_t t)
 {
     const bool ultimoPaso = k == std::floor(double{1} * s.DurTormenta / s.PasoPp) + 1;
-    const int b = BloqueDelPaso(s, k);
-    if (b + 1 > s.NroBloquesPp) {
-        s.PpAcum.Redimensiona(b + 2);
-        s.IntensidadPp.Redimensiona(b + 2);
+    const std::int16_t b = BloqueDelPaso(s, k);
+    if (model::Suma16(b, 1) > s.NroBloquesPp) {
+        const std::int16_t tope = model::Suma16(b, 2);
+        s.PpAcum.Redimensiona(tope);
+        s.IntensidadPp.Redimensiona(tope);
     }
     if (b > s.NroBloquesPp + 1) return 0;
     const float u = Simple(t - (b - 1) * Cociente(1, s.NroBloquesPp) * s.DurTormenta);

@@ -274,6 +274,18 @@ TEST_F(Hietograma, MinutosQueNoCabenEn16BitsFallan)
 
 // --- Slate ---
 
+// 10 min a step, 30000 blocks in 15 min: minute 20 lies in block 10·30000·2/15 + 1 = 40001.
+TEST_F(Hietograma, BloqueQueNoCabeEn16BitsFalla)
+{
+    s.DistriPp = 5;
+    s.PasoPp = 10;
+    s.DurTormenta = 15;
+    s.NroBloquesPp = 30000;
+    s.PpAcum.Dimensiona(30000);
+    s.IntensidadPp.Dimensiona(30000);
+    EXPECT_EQ(apoyo::NumeroDeFalla([&] { PpDelPaso(s, 2); }), 6);
+}
+
 TEST_F(Hietograma, TextoDeLaPizarraALaLetra)
 {
     s.SalidaPizarra = true;
