@@ -203,8 +203,9 @@ bool HidrogramasSeguros(Corrida& c)
     Siro& s = c.s;
     if (s.PasoQ < 1 || s.NroPasosQ < 1 || s.NroPasosQ * s.PasoQ > INT16_MAX) return false;
     if (s.PasoPp + s.DurTormenta > INT16_MAX || s.NroPasosQ + c.RelacionPasos > INT16_MAX) return false;
-    if (s.NroUEHs > s.ColUEHs.Cuenta() || s.QSale.UltimaFila() < s.NroUEHs) return false;
-    if (s.QSale.TopeColumna() < s.NroPasosQ || s.VolUEH.Tope() < s.NroUEHs) return false;
+    if (s.NroUEHs > s.ColUEHs.Cuenta() || s.NroUEHs > model::MaxUEHs) return false;
+    if (s.QSale.UltimaFila() < s.NroUEHs || s.QSale.TopeColumna() < s.NroPasosQ) return false;
+    if (s.VolUEH.Tope() < s.NroUEHs) return false;
     if (s.QMax.UltimaFila() < s.NroUEHs || s.IndSerie < 0 || s.QMax.TopeColumna() < s.IndSerie) return false;
     const int ultimoConLluvia = (s.PasoPp + s.DurTormenta - 1) / s.PasoQ;
     const int m = (std::min<int>(ultimoConLluvia, s.NroPasosQ) + c.RelacionPasos - 1) / c.RelacionPasos;

@@ -20,6 +20,7 @@ constexpr float Moderado = 1e9F;
 constexpr float PpModerada = 1e6F;
 constexpr float TiempoModerado = 1e6F;
 constexpr float ExponenteModerado = 4;
+constexpr double VecesModeradas = 1e25;  // a UEH's area by that of all, which nearly cancel out
 
 bool EnLimite(float x, float limite)
 {
@@ -73,6 +74,7 @@ bool UEHModerada(const Corrida& c, const UEH& u)
     const Siro& s = c.s;
     for (const float x : {u.Area, u.RetensionZ, u.KostiakovA, u.LongitudMax, u.VelMedia})
         if (!EnLimite(x, Moderado)) return false;
+    if (std::fabs(double{u.Area}) > VecesModeradas * std::fabs(double{c.AreaTotal})) return false;
     if (u.KostiakovB < 0 || u.KostiakovB > ExponenteModerado) return false;
     if (u.KostiakovI < 0 || u.KostiakovI > TiempoModerado || u.VelMedia == 0) return false;
     const double T = TiempoDeLadera(u);

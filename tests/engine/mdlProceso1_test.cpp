@@ -421,6 +421,45 @@ TEST_F(Proceso, LaUEH71FallaEnCadaAcceso)
     EXPECT_NEAR(s.QSale(70, 1), 60 / 20.0 * 0.166667 * 6, 1e-5);  // the others are done
 }
 
+TEST_F(Proceso, LaUEH71FallaLasMismasVecesSinTexto)
+{
+    for (int i = 1; i <= 71; ++i)
+        PonUEH("u-" + std::to_string(i), "");
+    s.AvisoDescargasVisto = true;
+    std::vector<std::vector<Mensaje>> avisos;
+    for (const bool conTexto : {true, false}) {
+        s.NroSeriePDR = 0;
+        anfitrion->sucesos.clear();
+        ConstruyeHietograma(s);
+        Memoria memoria;
+        EXPECT_TRUE(ProcesoPrincipal(s, {.GuardaTexto = false, .ConTexto = conTexto}, memoria));
+        avisos.push_back(anfitrion->Avisos());
+    }
+    EXPECT_EQ(avisos[1], avisos[0]);
+}
+
+// Areas that nearly cancel out: each takes away the sum so far but for its last bit, 2^-24 of a power of two.
+// 1e9, 64, 2^-18, 2^-42, 2^-66, 2^-90, 2^-114 ha are left, and 20 mm on 1e9 ha by that sum are no 32-bit
+// float.
+TEST_F(Proceso, UnaSuperficieTotalCasiNulaDesbordaLaLluviaMedia)
+{
+    float suma = 1e9F;
+    PonUEH("u-1", "").Area = suma;
+    for (int i = 2; i <= 7; ++i) {
+        const float area = i == 2 ? 999999936.0F : std::nextafter(suma, 0.0F);
+        PonUEH("u-" + std::to_string(i), "").Area = -area;
+        suma -= area;
+    }
+    EXPECT_EQ(suma, std::ldexp(1.0F, -114));
+    for (model::UEH& u : s.ColUEHs)
+        u.RetensionZ = 100;  // nothing runs off
+    s.AvisoDescargasVisto = true;
+    EXPECT_TRUE(Corre());
+    // three steps of rain, the two UEHs of 1e9 ha
+    EXPECT_EQ(anfitrion->Avisos(),
+              (std::vector<Mensaje>(6, {"Error Nro. 6 ,DesbordamientoVerifique", "", Icono::Ninguno})));
+}
+
 TEST_F(Proceso, MinutosFueraDe16BitsSeInformanYLaCorridaSigue)
 {
     PonUEH("u-1", "");
