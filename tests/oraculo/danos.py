@@ -479,95 +479,6 @@ def unidad_en_el_directorio(p):
     p.conf[8] = ['"D:' + p.directorio + '"']
 
 
-def _renombra(p, componente, nombre):
-    """A new name, with all that drain there."""
-    viejo = componente["nombre"]
-    for otro in p.UEHs + p.cauces + p.represas + p.lagos:
-        if otro["aa"] == viejo:
-            otro["aa"] = nombre
-    componente["nombre"] = nombre
-
-
-def nombres_repetidos(p):
-    """Two UEHs, or two reaches, of one name; whoever drains there stays."""
-    lista = p.uno_de((p.UEHs, p.UEHs, p.UEHs, p.cauces))
-    if len(lista) > 1:
-        uno, otro = p.azar.sample(lista, 2)
-        uno["q0"], otro["q0"] = 0.25, 0.75
-        otro["nombre"] = uno["nombre"]
-
-
-def nombre_de_otra_clase(p):
-    nodos = p.cauces + p.represas + p.lagos
-    if len(nodos) > 1:
-        uno, otro = p.azar.sample(nodos, 2)
-        if p.suerte(0.3) and p.UEHs:
-            uno = p.uno_de(p.UEHs)
-        elif uno in p.cauces and otro in p.cauces or uno in p.lagos and otro in p.lagos:
-            return
-        elif uno in p.represas and otro in p.represas:
-            return
-        otro["nombre"] = uno["nombre"]
-
-
-def nombres_raros(p):
-    todos = p.UEHs + p.cauces + p.represas + p.lagos
-    for n, componente in enumerate(p.azar.sample(todos, min(len(todos), 3))):
-        prefijo = componente["nombre"][:2]
-        raro = p.uno_de(
-            (prefijo, prefijo + " ", " " + prefijo + "1", prefijo + "x" * 60, "", "0", prefijo + "*", "*" + prefijo)
-            + (prefijo + "a, b, c", prefijo + "l\u00ed\r\nnea", prefijo + "\u0081\u20ac", prefijo.upper() + "1")
-        )
-        if all(otro["nombre"] != raro for otro in todos):
-            _renombra(p, componente, raro)
-
-
-def numeros_diminutos(p):
-    diminuto = p.uno_de((1e-45, 1.4e-44, 1e-38, 1e-30, 5e-324, 1e-9))
-    for componente in p.UEHs + p.cauces:
-        for campo in ("area", "longitud", "velocidad", "a", "b", "i", "q0", "k", "z", "K", "x"):
-            if campo in componente and p.suerte(0.15):
-                componente[campo] = diminuto
-
-
-def lluvia_rara(p):
-    if p.modo != "una":
-        return
-    valores = ("-5", "1E-30", "0.001", "32768.125", "1E+30", "3E+38", "1E-45", "16777217", "0.1", "1D1", ".5", "7.")
-    if p.opciones["--forma"] == "3":
-        laminas = [p.uno_de(valores + ("0", "60")) for _ in range(p.azar.randint(1, 70))]
-        p.opciones["--pp-ueh"] = ",".join(laminas)
-    p.opciones["--pp"] = p.uno_de(valores)
-
-
-def pasos_extremos(p):
-    paso_pp, paso_q, duracion = p.uno_de(
-        (("32767", "32767", "32767"), ("32767", "10", "60"), ("16384", "8192", "32767"), ("1", "1", "7"))
-        + (("30000", "15000", "30000"), ("1", "1", "1"), ("7", "7", "1"), ("120", "120", "32767"), ("999", "333", "998"))
-    )
-    p.opciones["--paso-pp"], p.opciones["--paso-q"] = paso_pp, paso_q
-    if p.modo == "una":
-        p.opciones["--dur"] = duracion
-    p.N0Dur = p.uno_de((0, p.N0Dur, 32767, 1))
-    if int(paso_q) < 10 and p.N0Dur > 400:
-        p.N0Dur = 5
-
-
-def N0Dur_negativo(p):
-    """Fewer steps than none."""
-    duracion = int(p.opciones.get("--dur", "60"))
-    p.N0Dur = p.uno_de((-duracion, -duracion - 1, -duracion + 1, -2.0 * duracion, -32768, -40000, -1))
-
-
-def tabla_negativa(p):
-    for embalse, tabla in _todas_las_tablas(p):
-        columna = p.uno_de((0, 1, 2, 3))
-        bajada = p.uno_de((10, 1000, 3e9, 1e-40))
-        for fila in embalse[tabla]:
-            if columna < len(fila):
-                fila[columna] = texto32(f32(float(fila[columna]) - bajada))
-
-
 def caudal_que_baja(p):
     """An outflow that falls with the height."""
     for embalse, tabla in _todas_las_tablas(p):
@@ -575,32 +486,6 @@ def caudal_que_baja(p):
             caudales = [fila[-1] for fila in embalse[tabla]]
             for fila, caudal in zip(embalse[tabla], p.uno_de((caudales[::-1], p.azar.sample(caudales, len(caudales))))):
                 fila[-1] = caudal
-
-
-def serie_rara(p):
-    registros = p.archivos_trabajo.get("TablasPDRs_pdr.vlm", [[]])
-    for registro in registros[1:]:
-        if len(registro) == 3 and p.suerte(0.3):
-            n = p.azar.randrange(3)
-            registro[n] = p.uno_de((("-5", "12.7", "0.4", "32767"), ("-60", "1", "9.5", "32767", "2881"), ("-2", "4.5", "32767"))[n])
-
-
-def tormenta_real_rara(p):
-    for nombre, registros in p.archivos.items():
-        if nombre.endswith("_pt.vlm"):
-            n, paso = registros[1]
-            registros[1] = p.uno_de(
-                (["0", paso], ["-1", paso], [n, "0"], [n, "-10"], [n, "32767"], [n, "1"], ["1", paso], [n, "7"], [n, "10.5"])
-            )
-            if p.suerte(0.3) and len(registros) > 4:
-                registros[4] = [p.uno_de(("-3", "1E38", "1E-40", "", "-1E38"))]
-
-
-def distribucion_rara(p):
-    registros = p.archivos_trabajo.get("distriPp_dpt.vlm", [[]])
-    for registro in registros[1:]:
-        if len(registro) == 1 and not registro[0].startswith('"') and p.suerte(0.3):
-            registro[0] = p.uno_de(("-5", "0.5", "1.5", "200", "32767", "100"))
 
 
 def cabeceras_raras(p):
@@ -722,14 +607,6 @@ DANOS = (
             sin_UEHs,
             lluvia_cero,
             mal_llamado,
-            nombres_repetidos,
-            nombre_de_otra_clase,
-            nombres_raros,
-            numeros_diminutos,
-            lluvia_rara,
-            pasos_extremos,
-            N0Dur_negativo,
-            tabla_negativa,
             caudal_que_baja,
             muskingum_inestable,
             caudales_enormes,
@@ -757,9 +634,6 @@ DANOS = (
             nombre_de_adentro,
             sin_directorio_de_trabajo,
             unidad_en_el_directorio,
-            serie_rara,
-            tormenta_real_rara,
-            distribucion_rara,
             cabeceras_raras,
             bloque_doble,
             orden_de_lineas,
