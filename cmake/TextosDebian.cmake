@@ -1,12 +1,17 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 #
-# Run by CPack over the files of a Debian package before they are packed: texts as that distribution keeps them.
+# Run by CPack over the files of a Debian package before they are packed: programs and texts as that distribution keeps
+# them.
 
 if(NOT CPACK_GENERATOR STREQUAL "DEB")
     return()
 endif()
 set(raiz ${CPACK_TEMPORARY_DIRECTORY}/usr/share)
 find_program(gzip gzip REQUIRED)
+find_program(strip strip REQUIRED)
+
+file(GLOB programas ${CPACK_TEMPORARY_DIRECTORY}/usr/bin/*)
+execute_process(COMMAND ${strip} --remove-section=.comment ${programas} COMMAND_ERROR_IS_FATAL ANY)
 
 # The licence is on every Debian; `copyright` says where.
 file(REMOVE ${raiz}/doc/siro/LICENSE)

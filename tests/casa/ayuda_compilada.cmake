@@ -29,11 +29,12 @@ file(MAKE_DIRECTORY ${lugar}/sacada)
 execute_process(COMMAND ${CHMLS} extractall ${lugar}/hecha/AyudaSIRO.chm ${lugar}/sacada
     OUTPUT_QUIET ERROR_QUIET COMMAND_ERROR_IS_FATAL ANY)
 
-# As UTF-8 again, but for the line that tells the encoding a page is what it was; anything else is the same bytes.
+# As UTF-8 again, but for the line that tells the encoding and the marks of its headings, a page is what it was; anything else is the same bytes.
 function(en_utf8 archivo salida)
     execute_process(COMMAND ${ICONV} -f CP1252 -t UTF-8 ${archivo} OUTPUT_VARIABLE texto COMMAND_ERROR_IS_FATAL ANY)
     string(REPLACE "<meta http-equiv=\"Content-Type\" content=\"text/html; charset=windows-1252\">" "<meta charset=\"utf-8\">"
         texto "${texto}")
+    string(REGEX REPLACE "<h2><a name=\"s[0-9]+\"></a>" "<h2>" texto "${texto}")
     set(${salida} "${texto}" PARENT_SCOPE)
 endfunction()
 file(GLOB nombres RELATIVE ${paginas} ${paginas}/*)
@@ -62,6 +63,10 @@ foreach(nombre IN ITEMS "La cuenca" "Editor gráfico de la red" "Ábaco Q-D-R de
     endif()
 endforeach()
 en_utf8(${lugar}/sacada/AyudaSIRO.hhk indice)
+string(FIND "${indice}" "value=\"Lluvia (Formatos de archivo)\">\n<param name=\"Local\" value=\"formatos.html#s2\">" donde)
+if(donde EQUAL -1)
+    message(FATAL_ERROR "the index doesn't lead to the second heading of a page")
+endif()
 foreach(nombre IN ITEMS "Órdenes (Pizarra)" "Caudal máximo [m3/s], con S en km2 (Métodos empíricos)")
     string(FIND "${indice}" "<param name=\"Name\" value=\"${nombre}\">" donde)
     if(donde EQUAL -1)

@@ -172,13 +172,13 @@ vale "siro starts as a user without rights" espera ventana "$principal"
 vale "its first start has filled the user's directory" \
     test -s "$raiz$datos/Proyectos/Quelmar_Conf.vlm" -a -s "$raiz$datos/Ayuda/indice.html" -a -s "$raiz$datos/distriPp_dpt.vlm"
 vale "and written nothing where it is installed" test ! -e "$raiz/usr/bin/VelmirDir.vlm"
-en_pantalla xdotool search --onlyvisible --name "$principal" windowactivate --sync
+en_pantalla xdotool search --onlyvisible --name "$principal" windowactivate --sync 2>/dev/null
 sleep 1
 tecla F1
 sleep 3
 foto ayuda
 vale "without a viewer of compiled help the program goes on, its pages open" kill -0 $programa
-en_pantalla xdotool search --onlyvisible --name "$principal" windowactivate --sync
+en_pantalla xdotool search --onlyvisible --name "$principal" windowactivate --sync 2>/dev/null
 tecla ctrl+q
 vale "and ends" espera no kill -0 $programa
 
@@ -199,14 +199,14 @@ vale "the window is the menu entry's: $clase" test "${clase#*\"siro\"}" != "$cla
 
 mv "$lugar/xchm.desktop" "$visor"
 dentro update-desktop-database
-en_pantalla xdotool search --onlyvisible --name "$principal" windowactivate --sync
+en_pantalla xdotool search --onlyvisible --name "$principal" windowactivate --sync 2>/dev/null
 tecla F1
 vale "with a viewer the compiled help opens in it" espera ventana 'Ayuda de SIRO'
 sleep 1
 foto ayuda_compilada
 suya=$(ventana 'Ayuda de SIRO' | head -n 1)
-[[ -z $suya ]] || en_pantalla xdotool windowclose "$suya"
-en_pantalla xdotool search --onlyvisible --name "$principal" windowactivate --sync
+[[ -z $suya ]] || en_pantalla xdotool windowclose "$suya" 2>/dev/null
+en_pantalla xdotool search --onlyvisible --name "$principal" windowactivate --sync 2>/dev/null
 tecla ctrl+q
 vale "siro ends" espera no ventana "$principal"
 
