@@ -70,6 +70,25 @@ TEST_F(EmbalsesEnCorrida, VacioYSinEntradaQuedaApenasSobreElFondo)
     EXPECT_TRUE(anfitrion->sucesos.empty());
 }
 
+// Two UEHs of one name: the second drains here, and what counts is the initial flow of the first, whose row
+// it is.
+TEST_F(EmbalsesEnCorrida, DeUnNombreRepetidoCuentaElCaudalInicialDeLaPrimera)
+{
+    PonUEHSeca("c-1");
+    model::Cauce& tramo = PonCauce("c-1", "0");
+    tramo.LongCauce = 600;
+    tramo.VelMediaCauce = 1;
+    tramo.optDirMusk = true;
+    s.ColUEHs.Agrega(s.UEHs(1)).Cauce_aa = "r-uno";
+    s.ColUEHs.Item(1).Q0Recesion = 0.5F;
+    s.ColUEHs.Item(2).Q0Recesion = 0.25F;
+    PonRepresa("r-uno", "Piscina Nivelada", Pileta).HInicialEmb = 100;
+    s.AvisoDescargasVisto = true;
+    ASSERT_TRUE(Corre());
+    ASSERT_EQ(s.Secuencia[4], "r-uno");
+    EXPECT_EQ(s.QEntra(4, 0), 0.5F);
+}
+
 TEST_F(EmbalsesEnCorrida, LaPlanillaLlegaAlArchivoConLaPizarraApagada)
 {
     PonUEHSeca("r-uno");
