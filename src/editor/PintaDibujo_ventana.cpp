@@ -45,11 +45,13 @@ constexpr auto Papeles = std::to_array<FilaPapel>({
     {Papel::Icono,         0xFF37474F, Qt::SolidLine},
 });
 // clang-format on
-static_assert([] {
+constexpr bool UnaFilaPorPapel()
+{
     for (std::size_t i = 0; i < Papeles.size(); ++i)
         if (Papeles[i].papel != static_cast<Papel>(i)) return false;
     return Papeles.size() == static_cast<std::size_t>(Papel::Icono) + 1;
-}());
+}
+static_assert(UnaFilaPorPapel());
 
 const FilaPapel& De(Papel papel)
 {

@@ -115,11 +115,13 @@ constexpr auto Descripciones = std::to_array<DescripcionTabla>({
      .lee = model::LeeTablaHSVQLago,
      .guarda = model::GuardaTablaHSVQLago},
 });
-static_assert([] {
+constexpr bool EnOrdenDeTipos()
+{
     for (std::size_t i = 0; i < Descripciones.size(); ++i)
         if (Descripciones[i].tipo != static_cast<TipoTabla>(i)) return false;
     return true;
-}());
+}
+static_assert(EnOrdenDeTipos());
 
 // --- grid ---
 

@@ -35,6 +35,8 @@ Tinta TintaDePapel();
 class Trazo {
   public:
     Trazo(QCustomPlot& superficie, bool reducido);
+    Trazo(const Trazo&) = delete;
+    Trazo& operator=(const Trazo&) = delete;
 
     /// Takes a chart; builds anew only what differs from the one before.
     void Pon(const Grafico& nuevo);

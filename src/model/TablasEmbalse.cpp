@@ -44,10 +44,9 @@ struct ArchivoTabla {
     std::span<const Columna> columnas;
 };
 
-constexpr auto ColumnasRHAS = std::to_array<Columna>({&Siro::RepresaH, &Siro::RepresaA, &Siro::RepresaS});
-constexpr auto ColumnasRHQ = std::to_array<Columna>({&Siro::RepresaQH, &Siro::RepresaQQ});
-constexpr auto ColumnasLHASQ =
-    std::to_array<Columna>({&Siro::LagoH, &Siro::LagoA, &Siro::LagoS, &Siro::LagoQ});
+constexpr std::array<Columna, 3> ColumnasRHAS{&Siro::RepresaH, &Siro::RepresaA, &Siro::RepresaS};
+constexpr std::array<Columna, 2> ColumnasRHQ{&Siro::RepresaQH, &Siro::RepresaQQ};
+constexpr std::array<Columna, 4> ColumnasLHASQ{&Siro::LagoH, &Siro::LagoA, &Siro::LagoS, &Siro::LagoQ};
 static_assert(ColumnasLHASQ.size() <= MaxColumnas);
 
 constexpr ArchivoTabla<Represa, MaxRepresas> ArchivoRHAS{

@@ -312,7 +312,7 @@ bool controlMiFecha(std::string& texto)
     constexpr std::size_t SinBarras = 8;
     constexpr std::size_t Largo = 10;
     if (model::CuentaCaracteres(texto) == SinBarras && texto.size() == SinBarras)
-        texto = texto.substr(0, 2) + '/' + texto.substr(2, 2) + '/' + texto.substr(4);
+        texto.insert(4, 1, '/').insert(2, 1, '/');
     if (texto.empty() || texto == "0" || texto == "00/00/0000") texto = SinFecha;
     if (texto == FechaBorrada) return false;
     if (texto.size() != Largo || texto[2] != '/' || texto[5] != '/') return true;

@@ -313,13 +313,12 @@ forms::Grafico Vista(const dlgTablasPDRs& f, const Siro& s)
     if (g.Esta({fila, ColumnaP})) {
         const auto p = forms::NumeroDeCampo(g.Texto({fila, ColumnaP}));
         const auto d = forms::NumeroDeCampo(g.Texto({fila, ColumnaD}));
-        const bool hay = p && d && *p > 0 && *d > 0;
-        // A number outside its type is told when the table is applied.
-        if (hay)
+        if (p && d && *p > 0 && *d > 0) {
+            // A number outside its type is told when the table is applied.
             model::Sentencia([&] { grafico = Hietograma(Ensayo(s, *p, *d)); }, [](const model::Falla&) {});
-        if (hay)
             grafico.titulo = "P= " + g.Texto({fila, ColumnaP}) + " mm   D= " + g.Texto({fila, ColumnaD}) +
                              " min   R= " + g.Texto({fila, ColumnaR}) + " años";
+        }
     }
     if (grafico.series.empty()) grafico.series.emplace_back();
     // Beside a table a chart shows no title.

@@ -61,7 +61,7 @@ frmPp_ventana::frmPp_ventana(forms::Entorno& alrededor, frmPp& registro, QWidget
     pila->addWidget(lineaDeBusqueda);
     pila->addLayout(ConstruyeBotones());
     ConectaTeclas();
-    Muestra();
+    frmPp_ventana::Muestra();
 }
 
 void frmPp_ventana::ConstruyeTexto()
