@@ -73,7 +73,7 @@ std::string DatosDelUsuario(const Ambiente& ambiente)
     return hogar.empty() ? hogar : hogar + "/Library/Application Support";
 #else
     // A relative path there is void by the rules of the desktops.
-    const std::string datos = ambiente("XDG_DATA_HOME");
+    std::string datos = ambiente("XDG_DATA_HOME");
     if (std::filesystem::path(datos).is_absolute()) return datos;
     return hogar.empty() ? hogar : hogar + "/.local/share";
 #endif

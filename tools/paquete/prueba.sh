@@ -177,7 +177,7 @@ sleep 1
 tecla F1
 sleep 3
 foto ayuda
-vale "without a viewer of compiled help the program goes on, its pages open" kill -0 $programa
+vale "without a viewer of compiled help the program goes on" kill -0 $programa
 en_pantalla xdotool search --onlyvisible --name "$principal" windowactivate --sync 2>/dev/null
 tecla ctrl+q
 vale "and ends" espera no kill -0 $programa
