@@ -14,7 +14,7 @@ function(siro_instala dir_programas dir_datos dir_textos)
     install(TARGETS siro-lote RUNTIME DESTINATION ${dir_programas} ${ARGN})
     install(DIRECTORY data/ DESTINATION ${dir_datos} ${ARGN} 
         PATTERN README.md EXCLUDE PATTERN .gitattributes EXCLUDE)
-    install(FILES README.md CHANGELOG.md LICENSE paquete/copyright DESTINATION ${dir_textos} ${ARGN})
+    install(FILES README.md README.es.md CHANGELOG.md LICENSE paquete/copyright DESTINATION ${dir_textos} ${ARGN})
     install(FILES data/README.md DESTINATION ${dir_textos} RENAME datos.md ${ARGN})
     if(SIRO_GUI)
         install(TARGETS siro RUNTIME DESTINATION ${dir_programas} ${ARGN})

@@ -120,11 +120,35 @@ std::string PreparaDirTrabajo(const Disco& disco, const std::string& dirEjecutab
     return directorio;
 }
 
+void RenuevaAyuda(const Disco& disco, const std::string& dirTrabajo, const std::string& dirEntregado)
+{
+    if (dirEntregado.empty() || dirEntregado == dirTrabajo) return;
+    const std::string origen = Ruta(dirEntregado, CarpetaDeAyuda);
+    const std::string destino = Ruta(dirTrabajo, CarpetaDeAyuda);
+    if (!disco.HayDirectorio(origen) || !disco.HayDirectorio(destino)) return;
+    Intenta([&] {
+        for (const std::string& nombre : disco.Lista(origen)) {
+            const std::string entregada = Ruta(origen, nombre), propia = Ruta(destino, nombre);
+            bool igual = false;
+            Intenta([&] { igual = disco.Lee(propia) == disco.Lee(entregada); });
+            if (!igual) Intenta([&] { disco.Copia(entregada, propia); });
+        }
+    });
+}
+
 std::string DirTrabajoDe(const std::string& dirEjecutable)
 {
     const Disco disco = DiscoDelSistema();
     return PreparaDirTrabajo(disco, dirEjecutable, DirDelUsuario(AmbienteDelProceso()),
                              DirEntregado(disco, dirEjecutable));
+}
+
+std::string DirTrabajoConAyuda(const std::string& dirEjecutable)
+{
+    const Disco disco = DiscoDelSistema();
+    const std::string directorio = DirTrabajoDe(dirEjecutable);
+    RenuevaAyuda(disco, directorio, DirEntregado(disco, dirEjecutable));
+    return directorio;
 }
 
 }  // namespace model

@@ -29,7 +29,14 @@ std::string DirEntregado(const Disco& disco, const std::string& dirEjecutable);
 std::string PreparaDirTrabajo(const Disco& disco, const std::string& dirEjecutable,
                               const std::string& dirUsuario, const std::string& dirEntregado);
 
-/// The same with all of it as the system tells it, for the program that lies in this directory.
+/// Brings the help of the program's own directory up to what was delivered: an upgrade's pages replace those
+/// that an earlier start has copied. What can't be read or copied is left as it is.
+void RenuevaAyuda(const Disco& disco, const std::string& dirTrabajo, const std::string& dirEntregado);
+
+/// The program's own directory as the system tells it, for the program that lies in this directory.
 std::string DirTrabajoDe(const std::string& dirEjecutable);
+
+/// The same for a program that shows help: its pages are the delivered ones.
+std::string DirTrabajoConAyuda(const std::string& dirEjecutable);
 
 }  // namespace model

@@ -21,7 +21,7 @@ using forms::DeQ;
 
 std::string DirTrabajo()
 {
-    return model::DirTrabajoDe(DeQ(QDir::toNativeSeparators(QCoreApplication::applicationDirPath())));
+    return model::DirTrabajoConAyuda(DeQ(QDir::toNativeSeparators(QCoreApplication::applicationDirPath())));
 }
 
 void PonAspecto(QApplication& programa, QTranslator& castellano)

@@ -92,7 +92,7 @@ TEST_F(DirectorioPropio, LaPruebaDeEscrituraNoDependeDePoderBorrarla)
     EXPECT_EQ(PreparaDirTrabajo(puerta, programa, usuario, ""), programa);
 }
 
-// --- what an installation delivers ---------------------------------------------------------------------
+// --- what an installation delivers ---
 
 struct LugarEntregado : testing::Test {
     apoyo::DiscoPrueba disco{};
@@ -132,7 +132,64 @@ TEST_F(LugarEntregado, DeUnaCarpetaProtegidaSeCopiaAlUsuario)
     EXPECT_EQ(disco.Bytes(Ruta(Ruta(usuario, "Ayuda"), "indice.html")), "ayuda");
 }
 
-// --- the user's own directory --------------------------------------------------------------------------
+// --- help after an upgrade ---
+
+struct AyudaRenovada : testing::Test {
+    apoyo::DiscoPrueba disco{};
+    const std::string propio = Ruta("", "usuario"), entregado = Ruta("", "entregado");
+    const std::string indice = Ruta(Ruta(propio, "Ayuda"), "indice.html");
+    AyudaRenovada()
+    {
+        disco.Pon(Ruta(Ruta(entregado, "Ayuda"), "indice.html"), "nueva");
+        disco.Pon(indice, "vieja");
+    }
+    void Renueva() { RenuevaAyuda(disco.Puerta(), propio, entregado); }
+};
+
+TEST_F(AyudaRenovada, LoEntregadoReemplazaALoCopiadoAntes)
+{
+    disco.Pon(Ruta(Ruta(entregado, "Ayuda"), "teclas.html"), "otra");
+    Renueva();
+    EXPECT_EQ(disco.Bytes(indice), "nueva");
+    EXPECT_EQ(disco.Bytes(Ruta(Ruta(propio, "Ayuda"), "teclas.html")), "otra");
+}
+
+TEST_F(AyudaRenovada, LoQueEsIgualNoSeEscribe)
+{
+    disco.Pon(indice, "nueva");
+    Disco puerta = disco.Puerta();
+    int copias = 0;
+    puerta.Copia = [&](const std::string&, const std::string&) { ++copias; };
+    RenuevaAyuda(puerta, propio, entregado);
+    EXPECT_EQ(copias, 0);
+}
+
+TEST_F(AyudaRenovada, LosDatosDelUsuarioNoSeTocan)
+{
+    disco.Pon(Ruta(entregado, "distriPp_dpt.vlm"), "tabla");
+    disco.Pon(Ruta(propio, "distriPp_dpt.vlm"), "la mía");
+    Renueva();
+    EXPECT_EQ(disco.Bytes(Ruta(propio, "distriPp_dpt.vlm")), "la mía");
+}
+
+TEST_F(AyudaRenovada, SinLugarOSinEntregaTodoQueda)
+{
+    RenuevaAyuda(disco.Puerta(), propio, "");
+    RenuevaAyuda(disco.Puerta(), propio, Ruta("", "nada"));
+    EXPECT_EQ(disco.Bytes(indice), "vieja");
+    disco.PonDirectorio(Ruta("", "otro"));
+    RenuevaAyuda(disco.Puerta(), Ruta("", "otro"), entregado);
+    EXPECT_FALSE(disco.Esta(Ruta(Ruta(Ruta("", "otro"), "Ayuda"), "indice.html")));
+}
+
+TEST_F(AyudaRenovada, LoQueNoSePuedeEscribirSeDejaSinDecirNada)
+{
+    disco.Protege(Ruta(propio, "Ayuda"));
+    EXPECT_NO_THROW(Renueva());
+    EXPECT_EQ(disco.Bytes(indice), "vieja");
+}
+
+// --- the user's own directory ---
 
 std::string DirDe(const std::map<std::string, std::string>& variables)
 {
