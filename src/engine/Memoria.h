@@ -24,12 +24,22 @@ struct TablaAbatimiento {
     std::vector<double> potencia{1};
 };
 
+/// What the level pool gives at a height, bit for bit that of the lookups.
+struct Nodo {
+    float h = 0;  ///< height [m]
+    float s = 0;  ///< storage [m3]
+    float q = 0;  ///< outflow [m3/s]
+    float u = 0;  ///< 2S/dt + Q [m3/s]
+};
+
 /// Midpoints that the bisection of one level pool can visit, in rising height from 1, and what it finds
 /// there.
 struct NodosPiscina {
     std::vector<float> clave{};  ///< what they were worked out from
     bool sirve = false;          ///< U rises with the height, so that they can stand for the bisection
-    std::vector<float> H{}, S{}, Q{}, U{};  ///< height [m], storage [m3], outflow and 2S/dt + Q [m3/s]
+    double cotaDescarga = 0;     ///< bound of the absolute outflow [m3/s]
+    std::vector<Nodo> nodo{};
+    std::vector<float> U{};  ///< u of each, side by side for the search
 };
 
 /// A network that was found in order without a question: its sequence, outfalls, and who drains into whom.
@@ -51,6 +61,7 @@ struct Memoria {
     bool VariasCorridas = false;
     RedOrdenada red{};
     std::vector<NodosPiscina> piscinas{};           ///< by row of Secuencia
+    std::vector<float> clave{};                     ///< room for what a pool's midpoints are worked out from
     std::vector<TablaInfiltracion> infiltracion{};  ///< by UEH from 0
     std::vector<TablaAbatimiento> abatimiento{};    ///< one per constant
     std::vector<double> columna{};                  ///< room for one value per output step

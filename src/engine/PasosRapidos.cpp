@@ -56,7 +56,8 @@ bool PasosEnRango(const Corrida& c)
     if (s.NroUEHs < 1 || s.NroUEHs > model::MaxUEHs || s.ColUEHs.Cuenta() < s.NroUEHs) return false;
     if (s.PasoQ < 1 || s.PasoPp < s.PasoQ || s.DurTormenta < 1 || c.RelacionPasos < 1) return false;
     if (s.DurTormenta + s.PasoPp > INT16_MAX || c.NroPasosPp * s.PasoPp > INT16_MAX) return false;
-    return c.NroPasosPp >= 1 && c.NroPasosPp * c.RelacionPasos <= INT16_MAX;
+    return s.PasoPp == c.RelacionPasos * s.PasoQ && c.NroPasosPp >= 1 &&
+           c.NroPasosPp * c.RelacionPasos <= INT16_MAX;
 }
 
 bool ArreglosAlcanzan(const Corrida& c)
@@ -131,49 +132,31 @@ void CaudalesDelExceso(Corrida& c, int i, std::span<float> caudales)
     s.PasosInfiltra(i) = static_cast<float>(reloj);
 }
 
-/// Translation on one slope: the minutes of each point of the trapezoid, and where its three pieces meet.
-struct Ladera {
-    int T = 0;
-    int puntos = 0;
-    int antesDeT = 0;   ///< points that still rise
-    int antesDePp = 0;  ///< points before the falling curve sets in
-    std::vector<double> subida, bajada;
-};
-
-Ladera PreparaLadera(const Siro& s, const UEH& u)
+Ladera PreparaLadera(const Corrida& c, const UEH& u)
 {
+    const Siro& s = c.s;
     Ladera l;
     l.T = static_cast<int>(TiempoDeLadera(u));
     l.puntos = PuntosDelTrapecio(s, l.T);
-    l.antesDeT = l.T > 0 ? std::min((l.T - 1) / s.PasoQ, l.puntos) : 0;
-    l.antesDePp = std::min(s.PasoPp / s.PasoQ, l.puntos);
-    for (int j = 0; j <= l.puntos; ++j) {
-        l.subida.push_back(j * s.PasoQ);
-        l.bajada.push_back(j * s.PasoQ - s.PasoPp);
-    }
+    l.subida = l.T > 0 ? std::min((l.T - 1) / s.PasoQ, l.puntos) : 0;
+    for (int j = 0; j <= l.subida; ++j)
+        l.minutos.push_back(j * s.PasoQ);
+    l.curva.resize(static_cast<std::size_t>(c.RelacionPasos + l.puntos + 1));
     return l;
 }
 
 /// Adds the trapezoid of one step to the hydrograph; `q` stands one point before the first.
-void SumaTrapecio(const Ladera& l, float caudal, float* q)
+void SumaTrapecio(const Corrida& c, Ladera& l, float caudal, float* __restrict q)
 {
     const double pendiente = l.T > 0 ? double{caudal} / l.T : 0;
-    const double* subida = l.subida.data();
-    const double* bajada = l.bajada.data();
-    const auto A = [&](int j) { return static_cast<float>(pendiente * subida[j]); };
-    const auto B = [&](int j) { return static_cast<float>(pendiente * bajada[j]); };
-    const int primero = std::min(l.antesDeT, l.antesDePp);
-    const int segundo = std::max(l.antesDeT, l.antesDePp);
-    for (int j = 1; j <= primero; ++j)
-        q[j] = static_cast<float>(double{q[j]} + A(j));
-    if (l.antesDeT <= l.antesDePp)
-        for (int j = primero + 1; j <= segundo; ++j)
-            q[j] = static_cast<float>(double{q[j]} + caudal);
-    else
-        for (int j = primero + 1; j <= segundo; ++j)
-            q[j] = static_cast<float>(double{q[j]} + A(j) - B(j));
-    for (int j = segundo + 1; j <= l.puntos; ++j)
-        q[j] = static_cast<float>(double{q[j]} + caudal - B(j));
+    const double* minutos = l.minutos.data();
+    const float* __restrict antes = l.curva.data();  // the curve a model step before
+    float* __restrict curva = l.curva.data() + c.RelacionPasos;
+    for (int j = 1; j <= l.subida; ++j)
+        curva[j] = static_cast<float>(pendiente * minutos[j]);
+    std::fill(curva + l.subida + 1, curva + l.puntos + 1, caudal);
+    for (int j = 1; j <= l.puntos; ++j)
+        q[j] = static_cast<float>(double{q[j]} + curva[j] - antes[j]);
 }
 
 /// Rain of all steps where every UEH gets the same: worked out for the first, copied to the others.
@@ -194,19 +177,24 @@ void LluviaPareja(Corrida& c, int pasos)
     }
 }
 
-/// Output step to which the run grows: a point beyond NroPasosQ + 1 makes itself the last step, in the order
-/// of the steps and, within a step, of the UEHs.
+/// Output step to which a trapezoid lets a run grow that goes to `ultimo`; `antes` is the step ahead of the
+/// trapezoid's first point. A point beyond ultimo + 1 makes itself the last step.
+int UltimoPasoCon(const Ladera& l, int antes, int ultimo)
+{
+    for (int p = std::max(antes + 1, ultimo + 2); p <= antes + l.puntos; p = ultimo + 2)
+        ultimo = p;
+    return ultimo;
+}
+
+/// Output step to which the run grows, in the order of the steps and, within a step, of the UEHs.
 int UltimoPasoQ(const Corrida& c, std::span<const Ladera> laderas,
                 std::span<const std::vector<float>> caudales)
 {
     int ultimo = c.s.NroPasosQ;
     for (std::size_t k = 1; k < caudales[0].size(); ++k) {
         const int antes = static_cast<int>(k - 1) * c.RelacionPasos;
-        for (std::size_t u = 0; u < laderas.size(); ++u) {
-            if (caudales[u][k] == 0) continue;
-            for (int p = std::max(antes + 1, ultimo + 2); p <= antes + laderas[u].puntos; p = ultimo + 2)
-                ultimo = p;
-        }
+        for (std::size_t u = 0; u < laderas.size(); ++u)
+            if (caudales[u][k] != 0) ultimo = UltimoPasoCon(laderas[u], antes, ultimo);
     }
     return ultimo;
 }
@@ -226,6 +214,23 @@ bool PasosSeguros(Corrida& c)
     return true;
 }
 
+std::vector<Ladera> PreparaLaderas(Corrida& c)
+{
+    std::vector<Ladera> laderas;
+    for (int i = 1; i <= c.s.NroUEHs; ++i)
+        laderas.push_back(PreparaLadera(c, c.s.UEHs(i)));
+    return laderas;
+}
+
+void SumaTrapecioDelPaso(Corrida& c, Ladera& l, std::int16_t k, int i, float caudal)
+{
+    Siro& s = c.s;
+    const int antes = (k - 1) * c.RelacionPasos;
+    if (const int ultimo = UltimoPasoCon(l, antes, s.NroPasosQ); ultimo != s.NroPasosQ)
+        Alarga(c, static_cast<std::int16_t>(ultimo));
+    SumaTrapecio(c, l, caudal, s.QSale.Fila(i) + antes);
+}
+
 void PasosRapidos(Corrida& c)
 {
     Siro& s = c.s;
@@ -238,20 +243,19 @@ void PasosRapidos(Corrida& c)
     }
 
     std::vector<std::vector<float>> caudales(static_cast<std::size_t>(s.NroUEHs));
-    std::vector<Ladera> laderas;
     for (int i = 1; i <= s.NroUEHs; ++i) {
         auto& fila = caudales[static_cast<std::size_t>(i) - 1];
         fila.resize(static_cast<std::size_t>(conLluvia) + 1);
         CaudalesDelExceso(c, i, fila);
-        laderas.push_back(PreparaLadera(s, s.UEHs(i)));
     }
+    std::vector<Ladera> laderas = PreparaLaderas(c);
     if (const int ultimo = UltimoPasoQ(c, laderas, caudales); ultimo != s.NroPasosQ)
         Alarga(c, static_cast<std::int16_t>(ultimo));
     for (int i = 1; i <= s.NroUEHs; ++i) {
         const auto& fila = caudales[static_cast<std::size_t>(i) - 1];
         for (std::size_t k = 1; k < fila.size(); ++k)
             if (fila[k] != 0)
-                SumaTrapecio(laderas[static_cast<std::size_t>(i) - 1], fila[k],
+                SumaTrapecio(c, laderas[static_cast<std::size_t>(i) - 1], fila[k],
                              s.QSale.Fila(i) + (k - 1) * static_cast<std::size_t>(c.RelacionPasos));
     }
 }

@@ -137,7 +137,8 @@ void Traslada(Corrida& c, std::int16_t k, int i, Paso& v)
     }
 }
 
-void PasoDeUEH(Corrida& c, std::int16_t k, int i, Paso& v)
+/// One step of one UEH; `ladera`, its slope, only where no point of a trapezoid can be at fault.
+void PasoDeUEH(Corrida& c, std::int16_t k, int i, Ladera* ladera, Paso& v)
 {
     Siro& s = c.s;
     if (HayLluvia(c, k))
@@ -156,7 +157,11 @@ void PasoDeUEH(Corrida& c, std::int16_t k, int i, Paso& v)
         v.E = 0;
     c.Intenta([&] { v.CaudalPp = Simple(Cociente(v.E, s.PasoPp) * FactorCaudal * s.UEHs(i).Area); });
     EscribePaso(c, k, i, v);
-    if (v.CaudalPp != 0) Traslada(c, k, i, v);
+    if (v.CaudalPp == 0) return;
+    if (ladera != nullptr)
+        SumaTrapecioDelPaso(c, *ladera, k, i, v.CaudalPp);
+    else
+        Traslada(c, k, i, v);
 }
 
 }  // namespace
@@ -181,11 +186,14 @@ void LluviaDelPaso(Corrida& c, std::int16_t k)
 void PasosUnoPorUno(Corrida& c)
 {
     Siro& s = c.s;
+    std::vector<Ladera> laderas = PasosSeguros(c) ? PreparaLaderas(c) : std::vector<Ladera>{};
     Paso valores;
     for (std::int16_t k = 1; k < c.NroPasosPp; ++k) {
         LluviaDelPaso(c, k);
-        for (int i = 1; i <= s.NroUEHs; ++i)
-            PasoDeUEH(c, k, i, valores);
+        for (int i = 1; i <= s.NroUEHs; ++i) {
+            Ladera* ladera = laderas.empty() ? nullptr : &laderas[static_cast<std::size_t>(i) - 1];
+            PasoDeUEH(c, k, i, ladera, valores);
+        }
     }
 }
 

@@ -19,14 +19,6 @@ namespace {
 constexpr float AlturaModerada = 16384;  // below it 32-bit heights are finer than the last bracket
 constexpr double CaudalModerado = 1e30;
 
-/// What the level pool gives at a height, bit for bit that of the lookups.
-struct Nodo {
-    float h = 0;  ///< height [m]
-    float s = 0;  ///< storage [m3]
-    float q = 0;  ///< outflow [m3/s]
-    float u = 0;  ///< 2S/dt + Q [m3/s]
-};
-
 float Medio(float hi, float lo)
 {
     return static_cast<float>((double{hi} - lo) / 2 + lo);
@@ -106,14 +98,17 @@ class PorNodos {
         : nodos(losNodos), ultimo(static_cast<int>(losNodos.U.size()) - 1)
     {
     }
-    Nodo Busca(float W)
+    const Nodo& Busca(float W)
     {
+        // The level goes on as it went in the step before, more or less.
+        const int antes = lugar;
+        lugar = std::clamp(lugar + recorrido, 0, ultimo);
         if (lugar < ultimo && !(nodos.U[Indice(lugar + 1)] > W))
             Sube(W);
         else if (lugar > 0 && nodos.U[Indice(lugar)] > W)
             Baja(W);
-        const std::size_t n = Indice(lugar | 1);  // the bracket's last midpoint stands at its odd end
-        return {nodos.H[n], nodos.S[n], nodos.Q[n], nodos.U[n]};
+        recorrido = lugar - antes;
+        return nodos.nodo[Indice(lugar | 1)];  // the bracket's last midpoint stands at its odd end
     }
 
   private:
@@ -142,8 +137,9 @@ class PorNodos {
         lugar = debajo;
     }
     const NodosPiscina& nodos;
-    int ultimo;     ///< greatest place of a midpoint
-    int lugar = 0;  ///< last midpoint that isn't above the target; 0: none
+    int ultimo;         ///< greatest place of a midpoint
+    int lugar = 0;      ///< last midpoint that isn't above the target; 0: none
+    int recorrido = 0;  ///< places that the last search moved on
 };
 
 /// Walks all steps with one way to find the height for a target.
@@ -158,7 +154,7 @@ void Recorre(Corrida& c, const EmbalseEnMano& e, float T, Buscador busca)
     for (int k = 1; k <= s.NroPasosQ; ++k) {
         const auto I = static_cast<float>(double{entra[k]} + entra[k - 1]);
         const auto W = static_cast<float>(double{T} + I);
-        const Nodo n = busca.Busca(W);
+        const Nodo& n = busca.Busca(W);
         H[k] = n.h;
         S[k] = n.s;
         sale[k] = n.q;
@@ -208,61 +204,64 @@ std::vector<float> PuntosMedios(float base, float tope)
     return puntos;
 }
 
-void TablaNodos(NodosPiscina& nodos, Curvas& curvas, float base, float tope, double paso)
+/// Works out all midpoints. Returns whether they can stand for the bisection.
+bool TablaNodos(NodosPiscina& nodos, Curvas& curvas, float base, float tope, double paso)
 {
-    nodos.H = PuntosMedios(base, tope);
-    const std::size_t n = nodos.H.size();
-    nodos.S.resize(n);
-    nodos.Q.resize(n);
+    const std::vector<float> alturas = PuntosMedios(base, tope);
+    const std::size_t n = alturas.size();
+    nodos.nodo.resize(n);
     nodos.U.resize(n);
     for (std::size_t i = 1; i < n; ++i) {
-        const Nodo nodo = curvas.En(nodos.H[i], paso);
-        nodos.S[i] = nodo.s;
-        nodos.Q[i] = nodo.q;
-        nodos.U[i] = nodo.u;
+        nodos.nodo[i] = curvas.En(alturas[i], paso);
+        nodos.U[i] = nodos.nodo[i].u;
     }
-    nodos.sirve = n > 1 && std::is_sorted(nodos.U.begin() + 1, nodos.U.end());
+    return n > 1 && std::is_sorted(nodos.U.begin() + 1, nodos.U.end());
 }
 
-void AgregaFilas(std::vector<float>& clave, const auto& tabla, int numero, int filas)
+/// Appends the rows of a column of a table behind their count, unless the array is too short for them.
+void AgregaColumna(std::vector<float>& clave, const auto& columna, int numero,
+                   const model::Arreglo<std::int16_t>& filas)
 {
-    for (int k = 1; k <= filas; ++k)
-        clave.push_back(static_cast<float>(tabla(numero, k)));
+    const int n = numero <= filas.Tope() ? filas(numero) : 0;
+    clave.push_back(static_cast<float>(n));
+    if (n < 1 || numero > columna.UltimaFila() || n > columna.TopeColumna()) return;
+    const auto* primera = columna.Fila(numero) + 1;
+    clave.insert(clave.end(), primera, primera + n);
 }
 
-/// All that the midpoints of the component in hand are worked out from.
-std::vector<float> ClaveDe(const Siro& s, const EmbalseEnMano& e)
+/// All that the midpoints of the component in hand are worked out from, and whether they may be.
+void ArmaClave(const Siro& s, const EmbalseEnMano& e, std::vector<float>& clave)
 {
-    std::vector<float> clave{static_cast<float>(s.PasoQ)};
-    AgregaFilas(clave, e.tablaH, e.numero, e.filasTabla(e.numero));
-    AgregaFilas(clave, e.tablaS, e.numero, e.filasTabla(e.numero));
+    clave.assign({static_cast<float>(s.PasoQ), s.SActual});
+    AgregaColumna(clave, e.tablaH, e.numero, e.filasTabla);
+    AgregaColumna(clave, e.tablaS, e.numero, e.filasTabla);
     if (s.CompActual.clase == model::ComponenteActual::Clase::Lago) {
-        AgregaFilas(clave, s.LagoQ, e.numero, s.LagoFilas(e.numero));
-        return clave;
+        AgregaColumna(clave, s.LagoQ, e.numero, s.LagoFilas);
+        return;
     }
     const model::Represa& r = s.ColRepresas.Item(s.CompActual.item);
     if (r.optTabla) {
-        AgregaFilas(clave, s.RepresaQH, e.numero, s.RepresaFilasHQ(e.numero));
-        AgregaFilas(clave, s.RepresaQQ, e.numero, s.RepresaFilasHQ(e.numero));
-        return clave;
+        AgregaColumna(clave, s.RepresaQH, e.numero, s.RepresaFilasHQ);
+        AgregaColumna(clave, s.RepresaQQ, e.numero, s.RepresaFilasHQ);
+        return;
     }
     for (const auto* coeficientes : {&r.FQa, &r.FQb, &r.FQc, &r.FQmin, &r.FQMax})
         clave.insert(clave.end(), coeficientes->begin(), coeficientes->end());
-    for (const std::int16_t enUso : r.chkFQ)
-        clave.push_back(enUso);
-    return clave;
+    clave.insert(clave.end(), r.chkFQ.begin(), r.chkFQ.end());
 }
 
 /// The table of midpoints of the component in hand, from the memory where its curves are still the same.
-const NodosPiscina& NodosDe(Corrida& c, const EmbalseEnMano& e, Curvas& curvas, float base, float tope)
+const NodosPiscina& NodosDe(Corrida& c, const EmbalseEnMano& e, float base, float tope)
 {
     auto& tablas = c.memoria.piscinas;
     if (tablas.size() < c.s.Secuencia.size()) tablas.resize(c.s.Secuencia.size());
     NodosPiscina& nodos = tablas[static_cast<std::size_t>(e.fila)];
-    std::vector<float> clave = ClaveDe(c.s, e);
-    if (nodos.clave == clave) return nodos;
-    nodos.clave = std::move(clave);
-    TablaNodos(nodos, curvas, base, tope, c.s.PasoQ);
+    ArmaClave(c.s, e, c.memoria.clave);
+    if (nodos.clave == c.memoria.clave) return nodos;
+    nodos.clave = c.memoria.clave;
+    Curvas curvas;
+    nodos.sirve = curvas.Prepara(c.s, e, base, tope) && TablaNodos(nodos, curvas, base, tope, c.s.PasoQ);
+    if (nodos.sirve) nodos.cotaDescarga = curvas.CotaDescarga(base, tope);
     return nodos;
 }
 
@@ -277,17 +276,18 @@ bool PiscinaRapida(Corrida& c, const EmbalseEnMano& e, float T)
     if (!ArreglosAlcanzan(c, e)) return false;
     if (!((s.NroPasosQ + 1) * double{MayorAbsoluto(s.QEntra.Fila(e.fila), 0, s.NroPasosQ)} < CaudalModerado))
         return false;
-    Curvas curvas;
-    if (!curvas.Prepara(s, e, base, tope)) return false;
     // T falls by twice the outflow in every step.
-    if (!(std::fabs(T) + s.NroPasosQ * 2 * curvas.CotaDescarga(base, tope) < CaudalModerado)) return false;
+    const auto moderada = [&](double cota) { return std::fabs(T) + s.NroPasosQ * 2 * cota < CaudalModerado; };
     if (c.memoria.VariasCorridas) {
-        const NodosPiscina& nodos = NodosDe(c, e, curvas, base, tope);
+        const NodosPiscina& nodos = NodosDe(c, e, base, tope);
         if (nodos.sirve) {
+            if (!moderada(nodos.cotaDescarga)) return false;
             Recorre(c, e, T, PorNodos(nodos));
             return true;
         }
     }
+    Curvas curvas;
+    if (!curvas.Prepara(s, e, base, tope) || !moderada(curvas.CotaDescarga(base, tope))) return false;
     Recorre(c, e, T, PorCamino(curvas, base, tope, s.PasoQ));
     return true;
 }

@@ -531,6 +531,40 @@ TEST_F(Proceso, ConPizarraOSinEllaLosResultadosSonLosMismosBits)
 
 // --- file ---
 
+// A UEH that retains more than is taken for a moderate depth sends its run down the way that checks each
+// point of each trapezoid; it gives no flow itself. Slopes of 0 to 7 h, so that some runs grow.
+TEST_F(Proceso, ElTrapecioPuntoPorPuntoDaLosMismosBits)
+{
+    int crecidas = 0, alargadas = 0;
+    for (const float longitud : {1.0F, 59.0F, 290.0F, 620.0F, 3141.0F, 9999.0F, 25000.0F}) {
+        for (const int paso : {1, 2, 5, 10}) {
+            for (const bool pizarra : {false, true}) {
+                const auto corre = [&](float retencion) {
+                    pruebas::RedDeUEHs red;
+                    red.PonUEH("u-1", "").LongitudMax = longitud;
+                    red.PonUEH("u-2", "").RetensionZ = retencion;
+                    red.s.PpTormenta = 73.3F;
+                    red.s.PasoQ = static_cast<std::int16_t>(paso);
+                    red.s.SalidaPizarra = pizarra;
+                    ConstruyeHietograma(red.s);
+                    EXPECT_TRUE(ProcesoPrincipal(red.s, false));
+                    return std::move(red.s);
+                };
+                const model::Siro rapida = corre(9e8F), comprobada = corre(2e9F);
+                EXPECT_EQ(rapida.QSale, comprobada.QSale) << longitud << " m, " << paso << " min";
+                EXPECT_EQ(rapida.NroPasosQ, comprobada.NroPasosQ) << longitud << " m, " << paso << " min";
+                EXPECT_EQ(rapida.QMax(2, 1), 0);
+                crecidas += rapida.QMax(1, 1) > 0 ? 1 : 0;
+                alargadas += rapida.NroPasosQ > 50 / paso ? 1 : 0;
+            }
+        }
+    }
+    EXPECT_EQ(crecidas, 54);  // of 56: a slope of 1 m gives none with equal steps
+    // Of the last rain, from minute 20 on, 52, 167 and 417 min of travel and 10 of rain outlast the 50
+    // simulated.
+    EXPECT_EQ(alargadas, 24);
+}
+
 TEST_F(Proceso, ConLaPizarraApagadaElArchivoTieneSoloLaTabla)
 {
     PonUEH("u-1", "");
