@@ -151,22 +151,26 @@ FilaCsv& FilaCsv::Texto(std::string_view texto)
     return *this;
 }
 
+/// A number with the comma ahead of it, in one piece.
+template <typename T>
+FilaCsv& FilaCsv::Cifras(T x)
+{
+    std::array<char, 32> texto;
+    texto[0] = ',';
+    const auto fin = std::to_chars(texto.data() + 1, texto.data() + texto.size(), x);
+    fila.append(texto.data() + (primero ? 1 : 0), fin.ptr);
+    primero = false;
+    return *this;
+}
+
 FilaCsv& FilaCsv::Numero(float x)
 {
-    Separa();
-    std::array<char, 32> cifras{};
-    const auto fin = std::to_chars(cifras.data(), cifras.data() + cifras.size(), x);
-    fila.append(cifras.data(), fin.ptr);
-    return *this;
+    return Cifras(x);
 }
 
 FilaCsv& FilaCsv::Numero(std::int32_t n)
 {
-    Separa();
-    std::array<char, 16> cifras{};
-    const auto fin = std::to_chars(cifras.data(), cifras.data() + cifras.size(), n);
-    fila.append(cifras.data(), fin.ptr);
-    return *this;
+    return Cifras(n);
 }
 
 FilaCsv& FilaCsv::Vacio()

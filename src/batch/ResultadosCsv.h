@@ -32,6 +32,8 @@ class FilaCsv {
     void Termina(std::string& destino);
 
   private:
+    template <typename T>
+    FilaCsv& Cifras(T x);
     void Separa();
     std::string fila;
     bool primero = true;

@@ -129,20 +129,6 @@ void RecesionRapida(Corrida& c)
 
 // --- hydrographs ---
 
-/// Makes room for the text that is to come, as far as it can be told, so that it seldom has to move.
-void ReservaTexto(const Corrida& c)
-{
-    Siro& s = c.s;
-    constexpr std::size_t PorUEH = 29, PorPaso = 30, DeDetalle = 90, DeTabla = 50, Tope = 64 << 20;  // bytes
-    const auto pasos = static_cast<std::size_t>(std::max<int>(s.NroPasosQ, 0)) + 1;
-    const auto UEHs = static_cast<std::size_t>(std::max<int>(s.NroUEHs, 0));
-    const auto embalses =
-        static_cast<std::size_t>(s.ColRepresas.Cuenta()) + static_cast<std::size_t>(s.ColLagos.Cuenta());
-    const auto tablas = s.SalidaPizarra ? embalses + static_cast<std::size_t>(s.ColCauces.Cuenta()) : 0;
-    const std::size_t porPaso = PorPaso + PorUEH * UEHs + DeDetalle * embalses + DeTabla * tablas;
-    s.TextoPizarra.reserve(s.TextoPizarra.size() + std::min(Tope, pasos * porPaso));
-}
-
 void EncabezaHidrogramas(Corrida& c)
 {
     Siro& s = c.s;
@@ -305,7 +291,6 @@ void SumaRecesion(Corrida& c)
 void HidrogramasDeUEHs(Corrida& c)
 {
     if (!c.ConTexto && HidrogramasSeguros(c)) return HidrogramasSinTexto(c);
-    ReservaTexto(c);
     EncabezaHidrogramas(c);
     HidrogramasUnoPorUno(c);
 }

@@ -167,6 +167,24 @@ bool PreparaCorrida(Corrida& c)
     return PreparaUEHs(c);
 }
 
+/// Makes room for the text of the run, as far as it can be told, so that it seldom has to move.
+void ReservaTexto(const Corrida& c)
+{
+    Siro& s = c.s;
+    // Bytes of a line where its numbers are everyday ones, and of a component's titles and summaries.
+    constexpr std::size_t DePaso = 78, PorUEH = 29, DeDetalle = 106, DeEmbalse = 61, DeCauce = 38;
+    constexpr std::size_t DeResumen = 512, Tope = 64 << 20;
+    const auto cuenta = [](int n) { return static_cast<std::size_t>(std::max(n, 0)); };
+    const std::size_t UEHs = cuenta(s.NroUEHs), pasosQ = cuenta(s.NroPasosQ) + 1;
+    const std::size_t embalses = cuenta(s.ColRepresas.Cuenta()) + cuenta(s.ColLagos.Cuenta());
+    std::size_t bytes = pasosQ * (PorUEH * UEHs + DeDetalle * embalses);
+    if (s.SalidaPizarra)
+        bytes += cuenta(c.NroPasosPp) * UEHs * DePaso + cuenta(s.NroComponentes) * DeResumen +
+                 pasosQ * (DeEmbalse * embalses + DeCauce * cuenta(s.ColCauces.Cuenta()));
+    bytes += bytes / 8;  // the last slopes may lengthen the run
+    s.TextoPizarra.reserve(s.TextoPizarra.size() + std::min(Tope, bytes));
+}
+
 // --- second half: reaches, Lagos, Represas ---
 
 void AbreSegundaParte(Corrida& c)
@@ -243,6 +261,7 @@ bool ProcesoPrincipal(Siro& s, ModoCorrida modo, Memoria& memoria)
     s.SActual = 0;
     s.ACalc = 0;
     if (!PreparaCorrida(c)) return false;
+    if (c.ConTexto) ReservaTexto(c);
     PasosDeLasUEHs(c);
     SumaRecesion(c);
     HidrogramasDeUEHs(c);

@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
+#include <cstring>
 
 namespace model {
 
@@ -24,8 +26,16 @@ unsigned Byte(char c)
 /// Bytes at the head of a text that hold nothing but ASCII.
 std::size_t LargoAscii(std::string_view texto)
 {
-    const auto alto = std::find_if(texto.begin(), texto.end(), [](char c) { return Byte(c) >= 0x80; });
-    return static_cast<std::size_t>(alto - texto.begin());
+    constexpr std::uint64_t BitsAltos = 0x8080808080808080;
+    std::uint64_t palabra = 0;
+    std::size_t n = 0;
+    for (; n + sizeof palabra <= texto.size(); n += sizeof palabra) {
+        std::memcpy(&palabra, texto.data() + n, sizeof palabra);
+        if ((palabra & BitsAltos) != 0) break;
+    }
+    while (n < texto.size() && Byte(texto[n]) < 0x80)
+        ++n;
+    return n;
 }
 
 struct Caracter {

@@ -121,6 +121,19 @@ TEST(Texto, CuentaCaracteresYNoBytes)
     EXPECT_EQ(CuentaCaracteres("\xE2\x82"), 2U);
 }
 
+// Plain characters are passed over a word at a time: the one that isn't is found wherever it stands.
+TEST(Texto, UnaLetraConTildeSeEncuentraEnCualquierLugar)
+{
+    for (std::size_t largo = 0; largo <= 20; ++largo) {
+        for (std::size_t lugar = 0; lugar <= largo; ++lugar) {
+            const std::string antes(lugar, 'a'), despues(largo - lugar, 'z');
+            EXPECT_EQ(AWindows1252(antes + "ó" + despues), antes + "\xF3" + despues);
+            EXPECT_EQ(DeWindows1252(antes + "\xF3" + despues), antes + "ó" + despues);
+            EXPECT_EQ(CuentaCaracteres(antes + "ó" + despues), largo + 1);
+        }
+    }
+}
+
 TEST(Texto, AjustaPorCaracteres)
 {
     EXPECT_EQ(AjustaIzquierda("ab", 5), "ab   ");
