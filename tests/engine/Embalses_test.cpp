@@ -882,26 +882,40 @@ RC_GTEST_PROP(EmbalsesPreparados, LaMemoriaDeVariasCorridasNoCambiaNada, (std::u
         CorreSolo(varias, caudales);
         RC_ASSERT(MismosBits(varias, simple));
     }
-    // an outlet edited between two runs, and edited back
-    varias.EscalaDescarga(2);
-    CorreSolo(varias, caudales);
-    varias.EscalaDescarga(0.5F);
-    CorreSolo(varias, caudales);
+    // an outlet edited between two runs, edited back, and closed
+    for (const float factor : {2.0F, 0.5F}) {
+        for (RedAMano* red : {&varias, &simple}) {
+            red->EscalaDescarga(factor);
+            CorreSolo(*red, caudales);
+        }
+        RC_ASSERT(MismosBits(varias, simple));
+    }
+    for (RedAMano* red : {&varias, &simple}) {
+        for (model::Represa& r : red->s.ColRepresas)
+            r.chkFQ.fill(0);
+        CorreSolo(*red, caudales);
+    }
     RC_ASSERT(MismosBits(varias, simple));
 }
 
 // W = 1024 twice, then 1528 twice: U of a midpoint exactly, at which the pool already stands the second time.
 // T is -8 after the first two steps and 0 after a step at 191/256 m: I = 1032, 1536, 1528.
-TEST(EmbalsesPreparados, ElObjetivoIgualAUnPuntoMedioConocido)
+// A row twice at the top keeps the pool from being prepared, and changes nothing else.
+TEST(EmbalsesPreparados, ElObjetivoIgualAUnPuntoMedio)
 {
-    RedAMano red;
-    red.memoria.VariasCorridas = true;
-    red.PonUEH("u-1", "r-uno");
-    red.PonRepresa("r-uno", "Piscina Nivelada", Pileta).HInicialEmb = 100;
-    CorreSolo(red, {1024, 8, 1528, 0});
-    ASSERT_TRUE(red.memoria.piscinas[2].sirve);
-    const V H(red.s.HRepresa.Fila(1), red.s.HRepresa.Fila(1) + 5);
-    EXPECT_EQ(H, (V{100, 100 + 129 / 256.0F, 100 + 129 / 256.0F, 100 + 191 / 256.0F, 100 + 191 / 256.0F}));
+    auto repetida = Pileta;
+    repetida.push_back(repetida.back());
+    for (const bool conocido : {true, false}) {
+        RedAMano red;
+        red.memoria.VariasCorridas = true;
+        red.PonUEH("u-1", "r-uno");
+        red.PonRepresa("r-uno", "Piscina Nivelada", conocido ? Pileta : repetida).HInicialEmb = 100;
+        CorreSolo(red, {1024, 8, 1528, 0});
+        ASSERT_EQ(!red.memoria.piscinas.empty() && red.memoria.piscinas[2].sirve, conocido);
+        const V H(red.s.HRepresa.Fila(1), red.s.HRepresa.Fila(1) + 5);
+        EXPECT_EQ(H,
+                  (V{100, 100 + 129 / 256.0F, 100 + 129 / 256.0F, 100 + 191 / 256.0F, 100 + 191 / 256.0F}));
+    }
 }
 
 // All midpoints of 4 m of vertical walls are known beforehand. Floods of all sizes take the pool from its

@@ -184,6 +184,31 @@ TEST_F(Proceso, SinExcesoSoloHayRecesion)
     EXPECT_EQ(s.EscUEH(1, 1), std::nearbyint(s.VolUEH(1) - base));
 }
 
+// 0.125 m3/s are 7.5 m3 a minute, ties all: 8, 15.5 -> 16, 23.5 -> 24, 31.5 -> 32. The constant takes 1.7e-10
+// of it a minute, which the 32-bit flow loses; as a 64-bit one it would leave 7.49 ... and 7, 14, 21, 28. The
+// basin takes the shares by steps, 7.5 m3 and 1 m3 in turn: 8, 9; 16.5 -> 16, 17; 24.5 -> 24, 25; 32.5 ->
+// 32, 33. By UEHs they would be 32 and 4 more.
+TEST_F(Proceso, ElVolumenDeBaseSeRedondeaConCadaAporte)
+{
+    PonUEH("u-1", "").Q0Recesion = 0.125F;
+    PonUEH("u-2", "").Q0Recesion = 1 / 60.0F;
+    for (model::UEH& u : s.ColUEHs) {
+        u.KRecesion = 1e8F;
+        u.KostiakovA = 1000;  // no excess
+        u.KostiakovB = 1;
+    }
+    s.PasoPp = s.PasoQ = 1;
+    s.DurTormenta = 2;
+    s.N0Dur = 2;
+    s.AvisoDescargasVisto = true;
+    s.SalidaPizarra = true;
+    EXPECT_TRUE(Corre());
+    EXPECT_EQ(s.NroPasosQ, 4);
+    EXPECT_EQ(s.VolBaseUEH(1), 32);
+    EXPECT_EQ(s.VolBaseUEH(2), 4);
+    EXPECT_NE(s.TextoPizarra.find("Volumen de Base          = 33 m3"), std::string::npos);
+}
+
 TEST_F(Proceso, SinQ0OSinKNoHayRecesionNiAviso)
 {
     PonUEH("u-1", "").Q0Recesion = 2;
@@ -246,10 +271,13 @@ TEST_F(Proceso, ElUltimoPuntoPuedeQuedarFueraDelVolumen)
     s.DurTormenta = 10;
     s.PpTormenta = 20;
     s.N0Dur = 10;
-    EXPECT_TRUE(Corre());
-    EXPECT_EQ(s.NroPasosQ, 2);
-    EXPECT_NEAR(s.QSale(1, 3), Caudal / 3, 1e-6);
-    EXPECT_NEAR(s.VolUEH(1), 2 * 600 * Caudal / 3, 0.01);
+    for (const bool pizarra : {false, true}) {
+        s.SalidaPizarra = pizarra;
+        EXPECT_TRUE(Corre());
+        EXPECT_EQ(s.NroPasosQ, 2);
+        EXPECT_NEAR(s.QSale(1, 3), Caudal / 3, 1e-6);
+        EXPECT_NEAR(s.VolUEH(1), 2 * 600 * Caudal / 3, 0.01);
+    }
 }
 
 TEST_F(Proceso, SinTiempoAgregadoSePierdeLaLluviaDelUltimoPaso)
@@ -490,6 +518,25 @@ TEST_F(Proceso, UnaBaseNegativaDeKostiakovConservaLaInfiltracionAnterior)
 }
 
 // --- fast way against the one step by step ---
+
+// 10 mm of 20 infiltrate in 10 min, 5 mm of 10 in 5 min: in both steps the excess is 1 mm/min, half of the
+// rain's flow. With the infiltration of the longer step nothing would be left of the shorter one.
+TEST_F(Proceso, LoRecordadoDeUnPasoNoSirveParaOtro)
+{
+    model::UEH& u = PonUEH("u-1", "");
+    u.KostiakovA = 1;
+    u.KostiakovB = 1;
+    u.Q0Recesion = 2;
+    u.KRecesion = 1;
+    Memoria memoria;
+    for (const std::int16_t paso : {std::int16_t{10}, std::int16_t{5}}) {
+        s.PasoPp = s.PasoQ = paso;
+        ConstruyeHietograma(s);
+        EXPECT_TRUE(ProcesoPrincipal(s, {.GuardaTexto = false, .ConTexto = false}, memoria));
+        const int p = 30 / paso;
+        EXPECT_NEAR(s.QSale(1, p), Caudal / 2 + 2 * std::pow(2.7183, -30 / 60.0), 1e-5) << paso;
+    }
+}
 
 TEST_F(Proceso, ConPizarraOSinEllaLosResultadosSonLosMismosBits)
 {
