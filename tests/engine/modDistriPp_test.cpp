@@ -334,5 +334,22 @@ TEST_F(Hietograma, PasoCeroSeInforma)
     EXPECT_EQ(anfitrion->Avisos()[0].texto, "Error Nro. 11 ,División por ceroVerifique");
 }
 
+// Minute 9619 of 10000 in 2021 blocks: 2021·9619 = 19439999 is odd and above 2^24, halfway between two 32-bit
+// floats; the even one, 19440000, over 10000 is 1944. So the step falls in block 1945, by a clock that stands
+// 1/2021 min before it: -1/2021 min at 100 mm/min. In 64 bits 1943.9999 is still block 1944, where it doesn't
+// rain.
+TEST_F(Hietograma, ElBloqueDeUnPasoSeBuscaEn32Bits)
+{
+    s.PasoPp = 1;
+    s.DistriPp = 5;
+    s.DurTormenta = 10000;
+    s.NroBloquesPp = 2021;
+    s.PpAcum.Dimensiona(2021);
+    s.IntensidadPp.Dimensiona(2021);
+    s.IntensidadPp(1945) = 100;
+    s.PpAcumPrevia = 0;
+    EXPECT_NEAR(PpDelPaso(s, 9619), -100 / 2021.0, 1e-6);
+}
+
 }  // namespace
 }  // namespace engine
