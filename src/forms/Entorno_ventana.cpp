@@ -81,8 +81,11 @@ Entorno::Entorno(model::Siro& estadoSiro)
 int Entorno::Ejecuta(QDialog& dialogo)
 {
     if (terminando) throw model::FinDelPrograma{estado};
+    const QPointer<QWidget> anterior = QApplication::activeWindow();
     const int resultado = dialogo.exec();
     if (terminando) throw model::FinDelPrograma{estado};
+    // Where a form closes together with its box, a window manager may leave no window with the keyboard.
+    if (!anterior.isNull() && anterior->isVisible()) anterior->activateWindow();
     return resultado;
 }
 

@@ -44,8 +44,8 @@ class Entorno : public QObject {
         }
     }
 
-    /// Shows a dialog until it is closed and returns its result. Throws FinDelPrograma where the program was
-    /// ended meanwhile, so that nothing after it runs.
+    /// Shows a dialog until it is closed and returns its result; the keyboard goes back to the window that
+    /// had it. Throws FinDelPrograma where the program was ended meanwhile, so that nothing after it runs.
     int Ejecuta(QDialog& dialogo);
 
     /// Leaves every event loop with this status.

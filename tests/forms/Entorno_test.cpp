@@ -7,6 +7,7 @@
 #include <QMdiSubWindow>
 #include <QMessageBox>
 #include <QPrinter>
+#include <QTimer>
 
 #include "apoyo/Ventanas.h"
 #include "forms/Entorno_ventana.h"
@@ -55,6 +56,32 @@ TEST_F(EntornoDePrueba, LaActivacionValeViniendoDeOtraVentanaDelProgramaYNoDeLaP
     caja.close();
     apoyo::Muestra(una);
     EXPECT_EQ(veces, 1);
+}
+
+TEST_F(EntornoDePrueba, AlCerrarUnDialogoElTecladoVuelveALaVentanaQueLoTenia)
+{
+    QWidget duena;
+    QWidget otra;
+    apoyo::Muestra(otra);
+    apoyo::Muestra(duena);
+    QDialog dialogo;
+    QTimer::singleShot(0, &dialogo, [&] {
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&dialogo));
+        otra.activateWindow();  // as a window manager may choose
+        dialogo.accept();
+    });
+    EXPECT_EQ(mundo.entorno.Ejecuta(dialogo), QDialog::Accepted);
+    EXPECT_TRUE(apoyo::Espera([&] { return duena.isActiveWindow(); }));
+
+    // One that is gone gets nothing.
+    QDialog segundo;
+    QTimer::singleShot(0, &segundo, [&] {
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&segundo));
+        duena.hide();
+        segundo.accept();
+    });
+    EXPECT_EQ(mundo.entorno.Ejecuta(segundo), QDialog::Accepted);
+    EXPECT_FALSE(duena.isVisible());
 }
 
 TEST_F(EntornoDePrueba, UnaVentanaHijaSeActivaAlPasarAElla)
