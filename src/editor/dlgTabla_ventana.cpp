@@ -50,7 +50,6 @@ dlgTabla_ventana::dlgTabla_ventana(forms::Entorno& alrededor, dlgTabla& registro
     }
     pila->addLayout(Botones());
     resize(TamanoInicial());
-    tabla->setFocus();
 }
 
 /// Wide enough for all columns and a readable curve, high enough for a table of usual length.
@@ -138,6 +137,8 @@ void dlgTabla_ventana::Abre(std::string nro, std::string nombre)
     editor::Abre(f, entorno.s, tipo, std::move(nro), std::move(nombre));
     AlCambiarTablas();
     Muestra();
+    // Without rows there is nothing to type into but their number.
+    (f.grilla.NroFilas() == 0 ? static_cast<QWidget*>(txtNroFilas) : tabla)->setFocus();
     entorno.Ejecuta(*this);
 }
 

@@ -65,6 +65,20 @@ TEST_F(TablasEnPantalla, TodosLosControlesTienenNombreYLeyenda)
     ventanas->AbreEditorDeTabla(padre);
 }
 
+TEST_F(TablasEnPantalla, EmpiezaEnLaGrillaYSinFilasEnSuNumero)
+{
+    EnTabla("dlgTablaSHV", [](QDialog& forma) { EXPECT_TRUE(Grilla(forma).hasFocus()); });
+    s.RepresaFilasHAS.Dimensiona(2);
+    s.RepresaFilasHAS(1) = s.RepresaFilasHAS(2) = 0;
+    model::GuardaTablaHSVRepresa(s);
+    EnTabla("dlgTablaSHV", [](QDialog& forma) {
+        EXPECT_EQ(Grilla(forma).model()->rowCount(), 0);
+        EXPECT_TRUE(Campo(forma, "txtNroFilas").hasFocus());
+        QTest::keyClick(&Campo(forma, "txtNroFilas"), Qt::Key_3);
+        EXPECT_EQ(Grilla(forma).model()->rowCount(), 3);
+    });
+}
+
 TEST_F(TablasEnPantalla, LaPrimeraTeclaReemplazaLasSiguientesAgreganYUnaLetraVacia)
 {
     EnTabla("dlgTablaSHV", [](QDialog& forma) {
