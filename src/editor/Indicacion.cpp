@@ -13,6 +13,8 @@ constexpr int ClicsAntesDelUltimo = 20;  // the click after them finishes the re
 
 std::string_view DeSeleccion(const Siro& s)
 {
+    if (RedVacia(s))
+        return "La red está vacía: elija en la barra qué dibujar. Para salir, cierre la ventana (Alt+F4).";
     const bool icono = s.UEHSel > 0 || s.RepresaSel > 0 || s.LagoSel > 0;
     if (s.CauceSel > 0 && icono) return "Dos componentes elegidos: clic derecho o F2 para acoplarlos.";
     if (s.CauceSel > 0 && s.VerticeSel > 0)

@@ -60,11 +60,6 @@ std::string Estado(const Siro& s)
            "     Dir: " + s.DirProyectoConf + "   Config. : " + s.NombreProyecto + "Conf.vlm";
 }
 
-bool RedVacia(const Siro& s)
-{
-    return s.ColUEHs.Cuenta() + s.ColCauces.Cuenta() + s.ColLagos.Cuenta() + s.ColRepresas.Cuenta() == 0;
-}
-
 void Guarda(frmUEHs& f, Siro& s)
 {
     model::mnu_btn_toolbarGuardaUEHs(s);
@@ -216,6 +211,11 @@ void Form_Resize(frmUEHs& f, Tamano ventana)
     const int alto = ventana.alto * UnidadesPorPixel;
     if (ancho > AnchoMinimo && alto > AltoMinimo)
         f.lienzo = {(ancho - MargenAncho) / UnidadesPorPixel, (alto - MargenAlto) / UnidadesPorPixel};
+}
+
+bool RedVacia(const Siro& s)
+{
+    return s.ColUEHs.Cuenta() + s.ColCauces.Cuenta() + s.ColLagos.Cuenta() + s.ColRepresas.Cuenta() == 0;
 }
 
 bool Form_QueryUnload(frmUEHs& f, Siro& s)

@@ -192,6 +192,8 @@ void AlActivarse(frmUEHs& f, model::Siro& s);
 void AlPerderFoco(frmUEHs& f);
 /// The window takes another size [pixels].
 void Form_Resize(frmUEHs& f, Tamano ventana);
+/// Nothing has been drawn.
+bool RedVacia(const model::Siro& s);
 /// The frame's close button: as Esc, but an empty network closes with no question. Returns whether the
 /// window may close.
 bool Form_QueryUnload(frmUEHs& f, model::Siro& s);

@@ -251,8 +251,16 @@ TEST_F(Editor, GuardarEscribeLosArchivosYLevantaElBoton)
     EXPECT_EQ(Faltas(), std::vector<std::string>{});
 }
 
+TEST_F(Editor, UnaRedVaciaDicePorDondeEmpezarYComoSalir)
+{
+    PonModo(Boton::Selecciona);
+    EXPECT_EQ(f.lblIndicacion,
+              "La red está vacía: elija en la barra qué dibujar. Para salir, cierre la ventana (Alt+F4).");
+}
+
 TEST_F(Editor, CadaModoDiceLoQueHaraElProximoClic)
 {
+    red.Cauce("c-Bajo", {{500, 500}, {400, 400}});
     std::vector<std::string> textos;
     for (const Boton b :
          {Boton::Selecciona, Boton::UEH, Boton::Cauce, Boton::Represa, Boton::LAGO, Boton::LongArea}) {
