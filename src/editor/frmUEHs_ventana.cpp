@@ -173,7 +173,7 @@ frmUEHs_ventana::frmUEHs_ventana(forms::Entorno& alrededor, frmUEHs& reglas, QWi
     pila->addLayout(arriba);
     pila->addLayout(dibujo, 1);
     pila->addWidget(HazPie());
-    setMinimumSize(860, 420);
+    setMinimumSize(minimumSizeHint().expandedTo({860, 420}));
     ConectaLienzo();
     entorno.AlActivarse(*this, [this] {
         AlActivarse(f, entorno.s);
@@ -195,7 +195,7 @@ QToolBar* frmUEHs_ventana::HazBarra()
 {
     auto* const barra = new QToolBar;
     barra->setObjectName(QStringLiteral("ToolbarUEHs"));
-    barra->setIconSize({26, 26});
+    barra->setIconSize({24, 24});
     for (std::size_t i = 0; i < NroBotones; ++i) {
         const FilaBoton& fila = BotonesUEHs[i];
         const QString clave = Q(fila.clave);
@@ -213,6 +213,7 @@ QToolBar* frmUEHs_ventana::HazBarra()
         if (fila.boton == Boton::Salir) AgregaPropias(*barra);
         barra->addAction(accion);
     }
+    barra->setMinimumWidth(barra->sizeHint().width());  // no button is ever out of sight
     return barra;
 }
 
@@ -220,7 +221,8 @@ void frmUEHs_ventana::AgregaPropias(QToolBar& barra)
 {
     deshace = HazAccion("Deshace", "Deshacer (Ctrl+Z)", "Deshace");
     rehace = HazAccion("Rehace", "Rehacer (Ctrl+Y)", "Rehace");
-    auto* const exporta = HazAccion("Exporta", "Exportar o imprimir el dibujo", "Exporta");
+    auto* const exporta = HazAccion("Exporta", "Exportar o imprimir el dibujo (Ctrl+P)", "Exporta");
+    exporta->setShortcut(QKeySequence::Print);
     connect(deshace, &QAction::triggered, this,
             [this] { Hace([this] { Form_KeyDown(f, entorno.s, Tecla::Deshacer); }); });
     connect(rehace, &QAction::triggered, this,
@@ -230,8 +232,10 @@ void frmUEHs_ventana::AgregaPropias(QToolBar& barra)
         {QKeySequence(Qt::CTRL | Qt::Key_Y), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)});
     exporta->setMenu(HazDestinos());
     barra.addActions({deshace, rehace, exporta});
-    if (auto* const boton = qobject_cast<QToolButton*>(barra.widgetForAction(exporta)))
+    if (auto* const boton = qobject_cast<QToolButton*>(barra.widgetForAction(exporta))) {
         boton->setPopupMode(QToolButton::InstantPopup);
+        connect(exporta, &QAction::triggered, boton, &QToolButton::showMenu);
+    }
     barra.addSeparator();
 }
 
@@ -268,7 +272,8 @@ QWidget* frmUEHs_ventana::HazMandos()
     sldEscala->setToolTip(QStringLiteral("Variador de la Escala de Dibujo"));
     sldEscala->setAccessibleName(sldEscala->toolTip());
     sldEscala->setRange(EscalaMinima, EscalaMaxima);
-    sldEscala->setFixedWidth(160);
+    sldEscala->setMinimumWidth(60);
+    sldEscala->setMaximumWidth(160);
     connect(sldEscala, &QSlider::valueChanged, this,
             [this](int valor) { Hace([this, valor] { sldEscala_Mueve(f, entorno.s, valor); }); });
     for (QScrollBar* barra : {ScrEscalaHor, ScrEscalaVer})

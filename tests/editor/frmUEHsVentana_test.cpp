@@ -373,6 +373,37 @@ TEST_F(VentanaDelEditor, ElDibujoSeGuardaEnLosTresFormatos)
         ADD_FAILURE() << aviso.texto;
 }
 
+TEST_F(VentanaDelEditor, PorAngostaQueSeaSeVenTodosLosBotones)
+{
+    Abre("Quelmar");
+    ventana->resize(ventana->minimumSize());
+    QCoreApplication::processEvents();
+    auto& barra = apoyo::Control<QToolBar>(*ventana, "ToolbarUEHs");
+    for (const char* const ultimo : {"Exporta", "btn_toolbarSalir"})
+        EXPECT_TRUE(barra.widgetForAction(&Accion(ultimo))->isVisible()) << ultimo;
+    EXPECT_LE(ventana->width(), 920);
+}
+
+TEST_F(VentanaDelEditor, CtrlPDespliegaLosDestinosDelDibujo)
+{
+    Abre("Quelmar");
+    QStringList entradas;
+    QTimer mira;
+    QObject::connect(&mira, &QTimer::timeout, &mira, [&] {
+        auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        if (menu == nullptr) return;
+        mira.stop();
+        for (const QAction* accion : menu->actions())
+            entradas << accion->objectName();
+        menu->close();
+    });
+    mira.start(5);
+    QTest::keyClick(&Canvas(), Qt::Key_P, Qt::ControlModifier);
+    EXPECT_TRUE(apoyo::Espera([&] { return !entradas.isEmpty(); }));
+    EXPECT_EQ(entradas, QStringList({QStringLiteral("GuardaDibujoPNG"), QStringLiteral("GuardaDibujoSVG"),
+                                     QStringLiteral("GuardaDibujoPDF"), QStringLiteral("ImprimeDibujo")}));
+}
+
 TEST_F(VentanaDelEditor, CadaControlTieneNombre)
 {
     Abre("Quelmar");
