@@ -87,14 +87,14 @@ void Muestrea(forms::Grafico& grafico, const std::vector<PuntoCurva>& puntos)
     }
 }
 
-/// Marks the row that is nearest to an abscissa.
+/// Marks the row that is nearest to an abscissa, on a growing curve.
 void Marca(forms::Grafico& grafico, double x, std::string rotulo)
 {
     std::size_t mejor = 0;
     const auto lejania = [&](std::size_t fila) { return std::abs(model::Val(grafico.categorias[fila]) - x); };
     for (std::size_t fila = 1; fila < grafico.categorias.size(); ++fila)
         if (lejania(fila) < lejania(mejor)) mejor = fila;
-    grafico.marcas.push_back({0, mejor, std::move(rotulo)});
+    grafico.marcas.push_back({.serie = 0, .fila = mejor, .rotulo = std::move(rotulo), .debajo = true});
 }
 
 }  // namespace

@@ -36,6 +36,7 @@ struct Serie {
 struct Marca {
     std::size_t serie = 0, fila = 0;
     std::string rotulo{};
+    bool debajo = false;  ///< the label stands under the point, where a growing curve leaves room
     bool operator==(const Marca&) const = default;
 };
 

@@ -267,7 +267,6 @@ void Trazo::PonMarcas()
         puntosMarcados.push_back(new QCPItemTracer(&plano));
         puntosMarcados.back()->setStyle(QCPItemTracer::tsCircle);
         rotulosMarcados.push_back(new QCPItemText(&plano));
-        rotulosMarcados.back()->setPadding({4, 2, 4, 4});
     }
     for (std::size_t i = 0; i < grafico.marcas.size(); ++i) {
         const Marca& marca = grafico.marcas[i];
@@ -282,9 +281,11 @@ void Trazo::PonMarcas()
             lugar->setCoords(x, y);
         }
         rotulosMarcados[i]->setText(Q(marca.rotulo));
+        // Under its ring a label stands beside it too.
+        rotulosMarcados[i]->setPadding(marca.debajo ? QMargins(8, 1, 8, 4) : QMargins(4, 2, 4, 4));
         // Written towards the middle of the chart.
         const bool aLaDerecha = 2 * x > todo.desde + todo.hasta;
-        rotulosMarcados[i]->setPositionAlignment(Qt::AlignBottom |
+        rotulosMarcados[i]->setPositionAlignment((marca.debajo ? Qt::AlignTop : Qt::AlignBottom) |
                                                  (aLaDerecha ? Qt::AlignRight : Qt::AlignLeft));
     }
     ColoreaSeries();
@@ -312,7 +313,10 @@ void Trazo::AcomodaMarcas()
         QCPItemText& rotulo = *rotulosMarcados[i];
         const QMarginsF orla(rotulo.padding());
         QRectF sitio = QFontMetricsF(rotulo.font()).boundingRect(rotulo.text());
-        sitio.moveBottomLeft(lugar(i) + QPointF(orla.left(), -orla.bottom()));
+        if (grafico.marcas[i].debajo)
+            sitio.moveTopLeft(lugar(i) + QPointF(orla.left(), orla.top()));
+        else
+            sitio.moveBottomLeft(lugar(i) + QPointF(orla.left(), -orla.bottom()));
         if (rotulo.positionAlignment().testFlag(Qt::AlignRight)) sitio.moveRight(lugar(i).x() - orla.right());
         const bool sobreRotulo = std::any_of(puestos.cbegin(), puestos.cend(),
                                              [&](const QRectF& otro) { return otro.intersects(sitio); });

@@ -76,7 +76,7 @@ TEST(GraficosDeFichas, LaInfiltracionMarcaDondeEmpiezaLaTormenta)
     // 190 min in steps of 2.5 too; 10 min is row 4.
     const forms::Grafico mojado = GraficoDe(CurvaKostiakov(2, 1, 10));
     ASSERT_EQ(mojado.marcas.size(), 1U);
-    EXPECT_EQ(mojado.marcas[0], (forms::Marca{0, 4, "T inicial"}));
+    EXPECT_EQ(mojado.marcas[0], (forms::Marca{0, 4, "T inicial", true}));
     EXPECT_EQ(mojado.categorias[4], "10");
 }
 

@@ -388,6 +388,11 @@ TEST_F(LaminaEnVentana, DeLosRotulosDeMarcasQueSePisanQuedaElDeArriba)
         return lamina->MarcasRotuladas() ==
                QStringList({QStringLiteral("cinco"), QStringLiteral("diez"), QStringLiteral("veinticinco")});
     }));
+    // A label under its point keeps clear of those above theirs.
+    g.marcas[0].debajo = true;
+    lamina->Muestra(g);
+    EXPECT_TRUE(apoyo::Espera([&] { return lamina->MarcasRotuladas().size() == 4; }));
+    g.marcas[0].debajo = false;
     // With room between them both stand.
     g.series[1].celdas[1] = 400;
     lamina->Muestra(g);
