@@ -67,7 +67,7 @@ dlgEmpiricas_ventana::dlgEmpiricas_ventana(forms::Entorno& alrededor, dlgEmpiric
     : Ventana(alrededor, "dlgEmpiricas", padre), f(registro)
 {
     setWindowTitle(Q(TituloDlgEmpiricas));
-    cmdCopiar = new QPushButton(QStringLiteral("C&opiar todo"));
+    cmdCopiar = new QPushButton(QStringLiteral("Copiar &todo"));
     cmdCopiar->setObjectName(QStringLiteral("cmdCopiar"));
     cmdCopiar->setToolTip(QStringLiteral("Copia datos y resultados, para una planilla de cálculo"));
     btnCerrar = new QPushButton(Q(LeyendaBtnCerrar));

@@ -79,7 +79,7 @@ QBoxLayout* dlgChart3_ventana::ConstruyeListas()
     leyendaPQEC = new QLabel(QStringLiteral("&Magnitud:"));
     lstPQEC = Lista("lstPQEC", *leyendaPQEC);
     lstPQEC->setFixedHeight(NroMagnitudes * (fontMetrics().height() + 4) + 2 * lstPQEC->frameWidth() + 4);
-    leyendaCompos = new QLabel(QStringLiteral("C&omponente:"));
+    leyendaCompos = new QLabel(QStringLiteral("Compo&nente:"));
     lstCompos = Lista("lstCompos", *leyendaCompos);
     auto* const listas = new QVBoxLayout;
     listas->addWidget(leyendaPQEC);

@@ -98,8 +98,8 @@ QHBoxLayout* frmPp_ventana::ConstruyeBusqueda()
     txtBuscar->setClearButtonEnabled(true);
     auto* const lblBuscar = new QLabel(QStringLiteral("&Texto:"));
     lblBuscar->setBuddy(txtBuscar);
-    cmdBuscaAnterior = Boton("&Anterior", "cmdBuscaAnterior", "Mayúsculas+F3");
-    cmdBuscaSiguiente = Boton("&Siguiente", "cmdBuscaSiguiente", "F3");
+    cmdBuscaAnterior = Boton("A&nterior", "cmdBuscaAnterior", "Mayúsculas+F3");
+    cmdBuscaSiguiente = Boton("Sig&uiente", "cmdBuscaSiguiente", "F3");
     cmdCierraBusqueda = Boton("Ce&rrar búsqueda", "cmdCierraBusqueda", "Esc");
     lblBusqueda = new QLabel;
     lblBusqueda->setObjectName(QStringLiteral("lblBusqueda"));

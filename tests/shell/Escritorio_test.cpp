@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QDialog>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QTextBrowser>
 #include <QTimer>
@@ -303,6 +305,32 @@ TEST_F(EscritorioDePrueba, LaConfiguracionDeLaBarraNoEsperaNiRefresca)
     EXPECT_TRUE(dialogo.isVisible());
     EXPECT_FALSE(dialogo.isModal());
     EXPECT_EQ(Rotulo("lblTitulo"), "");
+}
+
+TEST_F(EscritorioDePrueba, NingunaVentanaDelAreaTomaLaLetraDeUnMenu)
+{
+    Arranca(instalacion.Quelmar());
+    QStringList delMenu;
+    for (const QAction* menu : escritorio.Principal().menuBar()->actions())
+        delMenu << QKeySequence::mnemonic(menu->text()).toString();
+    EXPECT_EQ(delMenu.removeAll(QString()), 0);
+    escritorio.s.PpTormenta = 80;
+    escritorio.s.DurTormenta = 120;
+    for (const char* const entrada :
+         {"mnuPizarra1", "mnuEmpiricos", "mnuGraficoPDRComponente", "mnuGráficoPp"})
+        Accion(entrada).trigger();
+    for (const char* const nombre : {"frmPp", "dlgEmpiricas", "dlgChart3", "dlgChart1"}) {
+        QStringList leyendas;
+        const auto& ventana = Control<QWidget>(escritorio.Principal(), nombre);
+        for (const QAbstractButton* boton : ventana.findChildren<QAbstractButton*>())
+            leyendas << boton->text();
+        for (const QLabel* rotulo : ventana.findChildren<QLabel*>())
+            if (rotulo->buddy() != nullptr) leyendas << rotulo->text();
+        EXPECT_FALSE(leyendas.isEmpty()) << nombre;
+        for (const QString& leyenda : leyendas)
+            EXPECT_FALSE(delMenu.contains(QKeySequence::mnemonic(leyenda).toString()))
+                << nombre << ": " << DeQ(leyenda);
+    }
 }
 
 TEST_F(EscritorioDePrueba, LaAyudaEntregadaSeAbreEntreLasVentanas)
