@@ -8,11 +8,10 @@
 #include <algorithm>
 #include <cstddef>
 #include <filesystem>
-#include <regex>
 #include <string>
 
 #include "apoyo/Compara.h"
-#include "e2e/Pantalla.h"
+#include "e2e/EscritorioDePrueba.h"
 #include "e2e/Programa.h"
 #include "model/Componentes.h"
 #include "model/Siro.h"
@@ -24,17 +23,11 @@ namespace {
 namespace fs = std::filesystem;
 using apoyo::BytesDeArchivo;
 using apoyo::MismoTexto;
+using e2e::Editor;
 using e2e::Lote;
+using e2e::Principal;
 using e2e::Salida;
-
-constexpr const char* Principal = "SIRO - Modelo Hidrológico de  simulación de crecidas";
-
-/// The Slate tells when it was written; two runs tell it differently.
-std::string SinHora(const std::string& texto)
-{
-    return std::regex_replace(texto, std::regex("[0-9]{2}/[0-9]{2}/[0-9]{4} [0-9]{2}:[0-9]{2}:[0-9]{2}"),
-                              "dd/mm/aaaa hh:mm:ss");
-}
+using e2e::SinHora;
 
 std::ptrdiff_t Renglones(const std::string& archivo)
 {
@@ -42,26 +35,8 @@ std::ptrdiff_t Renglones(const std::string& archivo)
     return std::count(texto.begin(), texto.end(), '\n');
 }
 
-class Escritorio : public testing::Test {
+class Escritorio : public e2e::EscritorioDePrueba {
   protected:
-    void SetUp() override
-    {
-        std::string plantilla = (fs::temp_directory_path() / "siro-escritorio-XXXXXX").string();
-        ASSERT_NE(mkdtemp(plantilla.data()), nullptr);
-        raiz = fs::canonical(plantilla).string();
-        dir = raiz + "/siro";
-        fs::copy(SIRO_DATA_DIR, dir, fs::copy_options::recursive);
-        // The program takes the directory that it lies in for its own.
-        fs::copy_file(SIRO_ESCRITORIO, dir + "/siro");
-        pantalla = std::make_unique<e2e::Pantalla>(raiz + "/casa");
-    }
-    void TearDown() override
-    {
-        if (HasFailure()) std::cerr << BytesDeArchivo(pantalla->Diario());
-        pantalla.reset();
-        std::error_code error;
-        fs::remove_all(raiz, error);
-    }
     [[nodiscard]] std::string Conf() const { return dir + "/Proyectos/Quelmar_Conf.vlm"; }
 
     /// Starts the program and opens the sample project from the menu.
@@ -78,37 +53,6 @@ class Escritorio : public testing::Test {
         pantalla->Teclas({"Return"});
         pantalla->EsperaVentana(Principal);
     }
-    void FijaTormenta(const char* pp, const char* dur)
-    {
-        pantalla->Teclas({"F4"});
-        pantalla->EsperaVentana("Carga de Datos de Precipitación");
-        pantalla->Teclas({"alt+p", "ctrl+a"});
-        pantalla->Teclea(pp);
-        pantalla->Teclas({"alt+d", "ctrl+a"});
-        pantalla->Teclea(dur);
-        pantalla->Teclas({"Return"});
-        pantalla->EsperaVentana(Principal);
-    }
-    /// Saves by an entry of the menu of what has the focus.
-    void GuardaDelMenu(const char* entrada, const char* titulo, const std::string& ruta)
-    {
-        pantalla->Teclas({"Menu", entrada});
-        pantalla->EsperaVentana(titulo);
-        pantalla->Teclas({"ctrl+a"});
-        pantalla->Teclea(ruta);
-        pantalla->Teclas({"Return"});
-        pantalla->EsperaVentana(Principal);
-        pantalla->EsperaA("the file " + ruta, [&] { return fs::exists(ruta); });
-    }
-    void Termina()
-    {
-        pantalla->Teclas({"ctrl+q"});
-        pantalla->EsperaA("the end of the program", [&] { return pantalla->Programa().Termino(); });
-        EXPECT_EQ(pantalla->Programa().Estado(), 0);
-    }
-
-    std::string raiz, dir;
-    std::unique_ptr<e2e::Pantalla> pantalla;
 };
 
 TEST_F(Escritorio, UnaTormentaEscribeLoMismoQueSiroLote)
@@ -125,11 +69,7 @@ TEST_F(Escritorio, UnaTormentaEscribeLoMismoQueSiroLote)
 
     // The chart has come up over the Slate: closed and opened again it is in front, with the text of the run.
     pantalla->Teclas({"F7", "F7", "ctrl+s"});
-    pantalla->EsperaVentana("Guardar el texto de la Pizarra");
-    pantalla->Teclea(raiz + "/pizarra.txt");
-    pantalla->Teclas({"Return"});
-    pantalla->EsperaVentana(Principal);
-    pantalla->EsperaA("the saved Slate", [&] { return fs::exists(raiz + "/pizarra.txt"); });
+    GuardaEn("Guardar el texto de la Pizarra", raiz + "/pizarra.txt");
     Termina();
 
     const std::string lote = raiz + "/lote";
@@ -212,11 +152,6 @@ class EditorEnPantalla : public Escritorio {
         Acepta("SIRO");
         pantalla->EsperaVentana(Principal);
     }
-    void Acepta(const char* titulo)
-    {
-        pantalla->EsperaVentana(titulo);
-        pantalla->Teclas({"Return"});
-    }
     void Nombra(const char* titulo, const char* nombre)
     {
         pantalla->EsperaVentana(titulo);
@@ -262,7 +197,6 @@ class EditorEnPantalla : public Escritorio {
         pantalla->Pulsa(x, y);
         Nombra(titulo, nombre);
     }
-    static constexpr const char* Editor = "Diagrama de Unidades Hidrológicas de Estudio y sus componentes";
 };
 
 TEST_F(EditorEnPantalla, UnaCuencaDibujadaDesdeUnProyectoVacioCorreConSiroLote)

@@ -24,6 +24,7 @@ namespace fs = std::filesystem;
 
 constexpr std::chrono::seconds Paciencia{20};
 constexpr std::chrono::milliseconds EntreMiradas{20};
+constexpr std::chrono::milliseconds ParaPintarse{600};
 
 /// Descriptor through which the server tells the number of its screen.
 constexpr int DescriptorDeNumero = 9;
@@ -199,6 +200,42 @@ void Pantalla::Pulsa(int x, int y, int boton)
     const std::string ventana = Xdotool({"getactivewindow"});
     Xdotool({"mousemove", "--window", ventana, std::to_string(x), std::to_string(y), "click",
              std::to_string(boton)});
+}
+
+void Pantalla::Arrastra(int x, int y, int hastaX, int hastaY)
+{
+    const std::string ventana = Xdotool({"getactivewindow"});
+    const auto mueve = [&](int aX, int aY) {
+        Xdotool({"mousemove", "--window", ventana, std::to_string(aX), std::to_string(aY)});
+    };
+    mueve(x, y);
+    Xdotool({"mousedown", "1"});
+    constexpr int Tramos = 4;
+    for (int i = 1; i <= Tramos; ++i)
+        mueve(x + (hastaX - x) * i / Tramos, y + (hastaY - y) * i / Tramos);
+}
+
+void Pantalla::Suelta()
+{
+    Xdotool({"mouseup", "1"});
+}
+
+void Pantalla::Mide(int ancho, int alto)
+{
+    const std::string ventana = Xdotool({"getactivewindow"});
+    const std::string medida = std::to_string(ancho) + 'x' + std::to_string(alto);
+    Xdotool({"windowsize", ventana, std::to_string(ancho), std::to_string(alto), "windowmove", ventana, "40",
+             "40"});
+    EsperaA("a window of " + medida, [&] {
+        return Xdotool({"getwindowgeometry", ventana}).find(" " + medida) != std::string::npos;
+    });
+}
+
+void Pantalla::FotoDeVentana(const std::string& archivo) const
+{
+    const std::string ventana = Xdotool({"getactivewindow"});
+    std::this_thread::sleep_for(ParaPintarse);
+    Ejecuta("/usr/bin/env", {entorno[0], "import", "-frame", "-window", ventana, archivo}, "/");
 }
 
 void Pantalla::Foto(const std::string& archivo) const

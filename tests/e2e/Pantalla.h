@@ -60,8 +60,16 @@ class Pantalla {
     /// Clicks at a point of the active window.
     void Pulsa(int x, int y, int boton = 1);
 
+    /// Presses the left button at a point of the active window and moves, the button held, to another.
+    void Arrastra(int x, int y, int hastaX, int hastaY);
+    void Suelta();
+    /// Gives the active window a place near the screen's corner and this size, and waits for it.
+    void Mide(int ancho, int alto);
+
     /// Picture of the whole screen.
     void Foto(const std::string& archivo) const;
+    /// Picture of the active window in its frame, and of what stands over it.
+    void FotoDeVentana(const std::string& archivo) const;
     [[nodiscard]] const std::string& Diario() const { return diario; }
 
   private:
