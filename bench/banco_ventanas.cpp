@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// From the command to the painted hydrograph, and from the move of a slider to its chart.
+// From the command to the painted hydrograph, from the move of a slider to its chart, and from nothing to the
+// main window.
 
 #include <benchmark/benchmark.h>
 
@@ -19,6 +20,7 @@
 #include "model/VidaProyecto.h"
 #include "results/dlgChart2_ventana.h"
 #include "results/frmPp_ventana.h"
+#include "shell/Escritorio_ventana.h"
 
 namespace {
 
@@ -46,6 +48,7 @@ class Muestra {
     Muestra(const Muestra&) = delete;
     Muestra& operator=(const Muestra&) = delete;
 
+    [[nodiscard]] std::string Dir() const { return dir.string(); }
     /// Its project open, 80 mm in 120 min in hand.
     [[nodiscard]] Siro Abierta() const
     {
@@ -172,6 +175,19 @@ void MovimientoDeLimite(benchmark::State& estado)
     MovimientoDe(estado, bench::ProyectoAbierto(proyecto.Dir()));
 }
 BENCHMARK(MovimientoDeLimite)->ArgName("pizarra")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+
+// All windows made, the main one shown. Argument: milliseconds of splash, which should cost no processor
+// time.
+void Arranque(benchmark::State& estado)
+{
+    const Muestra muestra;
+    for (auto _ : estado) {
+        shell::Escritorio escritorio(muestra.Dir());
+        escritorio.Arranca(static_cast<double>(estado.range(0)) / 1000, {});
+        QCoreApplication::processEvents();
+    }
+}
+BENCHMARK(Arranque)->ArgName("portada")->Arg(0)->Arg(500)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

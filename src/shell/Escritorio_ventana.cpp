@@ -3,6 +3,8 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QTimer>
+#include <chrono>
 
 #include "forms/Cajas_ventana.h"
 #include "shell/VisorDeAyuda_ventana.h"
@@ -11,6 +13,11 @@
 #include "shell/frmInicio_ventana.h"
 
 namespace shell {
+namespace {
+
+constexpr std::chrono::milliseconds LatidoPortada{10};
+
+}  // namespace
 
 Escritorio::Escritorio(const std::string& dirTrabajo)
 {
@@ -33,9 +40,11 @@ void Escritorio::Arranca(double segundosPortada, const std::string& archivoConf)
 {
     entorno.Atiende([&] {
         frmInicio_ventana portada;
+        QTimer latido;  // so that a wait for events ends in time, and leaves the processor alone meanwhile
+        latido.start(LatidoPortada);
         const Portada pasos{
             .Abre = [&](const std::string& version) { portada.Abre(version); },
-            .AtiendeSucesos = [] { QCoreApplication::processEvents(QEventLoop::AllEvents); },
+            .AtiendeSucesos = [] { QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents); },
             .Cierra = [&] { portada.close(); },
         };
         Prepara(s, pasos, SIRO_VERSION, segundosPortada);

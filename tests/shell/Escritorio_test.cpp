@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QAbstractEventDispatcher>
 #include <QAction>
 #include <QDialog>
 #include <QFile>
@@ -426,6 +427,19 @@ TEST_F(EscritorioDePrueba, SalirAnotaElProyectoYTermina)
 }
 
 // --- splash, About, delete ---
+
+// As long as the splash stands, the program sleeps until there are events and doesn't go round and round for
+// them.
+TEST_F(EscritorioDePrueba, LaPortadaEsperaSinOcuparElProcesador)
+{
+    int esperas = 0;
+    const auto cuenta = QObject::connect(QAbstractEventDispatcher::instance(),
+                                         &QAbstractEventDispatcher::aboutToBlock, [&] { ++esperas; });
+    escritorio.Arranca(0.1, {});
+    QObject::disconnect(cuenta);
+    EXPECT_GT(esperas, 0);
+    EXPECT_TRUE(escritorio.Principal().isVisible());
+}
 
 TEST(Portada, DiceProductoYVersion)
 {
