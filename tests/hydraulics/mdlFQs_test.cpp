@@ -405,6 +405,8 @@ TEST_F(mdlFQs, LosLimitesSalenDeLasFuncionesEnUso)
 
 TEST_F(mdlFQs, SinLaPrimeraFuncionElCeroEntraEnLosLimites)
 {
+    s.Represas(1).FQmin[0] = 90;  // not in use
+    s.Represas(1).FQMax[0] = 200;
     PonFuncion(2, 1, 1, 0, 100, 110);
     EXPECT_EQ(RangoFunciones(s.Represas(1)).minimo, 0);
     EXPECT_EQ(RangoFunciones(s.Represas(1)).maximo, 110);
