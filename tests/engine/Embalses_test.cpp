@@ -613,6 +613,16 @@ TEST_P(Embalses, SuperficieNegativaPreguntaComoLaNula)
     EXPECT_EQ(s.ACalc, 0);
 }
 
+// 25/2048 m3/s in 10 min are 7.32421875 m3: 0.75 m on 2^-10 ha, which are 9.765625 m2. Nothing flows out.
+TEST_P(Embalses, UnaSuperficieDePocosMetrosNoPregunta)
+{
+    constexpr float Caudal = 25 / 2048.0F, Area = 1 / 1024.0F;
+    Pon("Runge Kutta", {{100, Area, 0, 0}, {104, Area, 40, 0}}, 100, Caudal);
+    Corre({Caudal});
+    EXPECT_TRUE(anfitrion->Preguntas().empty());
+    EXPECT_EQ(H(), (V{100, 100.75F}));
+}
+
 TEST_P(Embalses, SuperficieCeroEnLaSegundaEtapaSolamente)
 {
     // dH1 = 150/100; the second stage stands at 100.5 m, where the surface is 0: dH2 = 0, so that the third
