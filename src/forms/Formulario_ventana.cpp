@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMdiSubWindow>
+#include <utility>
 
 #include "forms/Textos_ventana.h"
 
@@ -22,6 +23,13 @@ const QWidget& Marco(const QWidget& ventana)
     return hija == nullptr ? ventana : *hija;
 }
 
+/// Whether it fills the main window, or lies in it as an icon or a mere title.
+bool ConMarcoEspecial(const QWidget& ventana)
+{
+    const auto* const hija = qobject_cast<const QMdiSubWindow*>(ventana.parentWidget());
+    return hija != nullptr && (hija->isMaximized() || hija->isMinimized() || hija->isShaded());
+}
+
 }  // namespace
 
 void RecuperaLugar(QWidget& ventana, QSettings& ajustes)
@@ -36,6 +44,7 @@ void RecuperaLugar(QWidget& ventana, QSettings& ajustes)
 
 void GuardaLugar(const QWidget& ventana, QSettings& ajustes)
 {
+    if (ConMarcoEspecial(ventana)) return;
     ajustes.setValue(Clave(ventana), Marco(ventana).saveGeometry());
 }
 
@@ -100,13 +109,16 @@ void Ventana::closeEvent(QCloseEvent* evento)
 
 void Ventana::showEvent(QShowEvent* evento)
 {
-    if (!evento->spontaneous()) RecuperaLugar(*this, entorno.Ajustes());
+    if (!evento->spontaneous() && !std::exchange(enSuLugar, true)) RecuperaLugar(*this, entorno.Ajustes());
     QWidget::showEvent(evento);
 }
 
 void Ventana::hideEvent(QHideEvent* evento)
 {
-    if (!evento->spontaneous()) GuardaLugar(*this, entorno.Ajustes());
+    if (!evento->spontaneous()) {
+        GuardaLugar(*this, entorno.Ajustes());
+        if (isHidden() && !ConMarcoEspecial(*this)) enSuLugar = false;
+    }
     QWidget::hideEvent(evento);
 }
 

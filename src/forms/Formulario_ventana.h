@@ -95,10 +95,13 @@ class Ventana : public QWidget, protected Sucesos {
     void closeEvent(QCloseEvent* evento) override;
     void showEvent(QShowEvent* evento) override;
     void hideEvent(QHideEvent* evento) override;
+
+  private:
+    bool enSuLugar = false;  ///< since it was opened; it comes and goes as its frame takes another state too
 };
 
 /// Puts a window where it was when it was last closed, inside the screens that there are now; the first time
-/// it keeps the size that it has. `Guarda` remembers it.
+/// it keeps the size that it has. `Guarda` remembers it, unless it fills the main window or is an icon there.
 void RecuperaLugar(QWidget& ventana, QSettings& ajustes);
 void GuardaLugar(const QWidget& ventana, QSettings& ajustes);
 

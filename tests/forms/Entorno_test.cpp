@@ -137,6 +137,34 @@ struct VentanaConCampo : Ventana {
     QLineEdit campo{this};
 };
 
+TEST_F(EntornoDePrueba, UnaVentanaMaximizadaLlenaElAreaYVuelveASuTamano)
+{
+    QMainWindow principal;
+    auto* const area = new QMdiArea;
+    principal.setCentralWidget(area);
+    principal.resize(900, 700);
+    auto* const ventana = new VentanaConCampo(mundo.entorno);
+    QMdiSubWindow* const marco = area->addSubWindow(ventana);
+    apoyo::Muestra(principal);
+    marco->show();
+    marco->resize(320, 240);
+    QCoreApplication::processEvents();
+    for (int vez = 1; vez <= 2; ++vez) {
+        marco->showMaximized();
+        EXPECT_TRUE(apoyo::Espera([&] { return marco->size() == area->viewport()->size(); })) << vez;
+        marco->showNormal();
+        EXPECT_TRUE(apoyo::Espera([&] { return marco->size() == QSize(320, 240); })) << vez;
+        marco->showMinimized();
+        marco->showNormal();
+        EXPECT_TRUE(apoyo::Espera([&] { return marco->size() == QSize(320, 240); })) << vez;
+    }
+    // Closed and opened again it stands where it was.
+    ventana->hide();
+    marco->resize(500, 400);
+    ventana->show();
+    EXPECT_TRUE(apoyo::Espera([&] { return marco->size() == QSize(320, 240); }));
+}
+
 struct AyudaDePrueba : EntornoDePrueba {
     AyudaDePrueba()
     {
