@@ -5,7 +5,7 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "editor/Metarchivo.h"
+#include "editor/lienzo/Metarchivo.h"
 
 namespace {
 

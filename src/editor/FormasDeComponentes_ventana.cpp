@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/FormasDeComponentes_ventana.h"
 
-#include "editor/dlgCauceEditProp_ventana.h"
-#include "editor/dlgLago_ventana.h"
-#include "editor/dlgRepresas_ventana.h"
-#include "editor/dlgTabla_ventana.h"
-#include "editor/dlgUEH2_ventana.h"
+#include "editor/fichas/dlgCauceEditProp_ventana.h"
+#include "editor/fichas/dlgLago_ventana.h"
+#include "editor/fichas/dlgRepresas_ventana.h"
+#include "editor/fichas/dlgTabla_ventana.h"
+#include "editor/fichas/dlgUEH2_ventana.h"
 
 namespace editor {
 

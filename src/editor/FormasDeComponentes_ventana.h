@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "editor/Ficha.h"
-#include "editor/dlgCauceEditProp.h"
-#include "editor/dlgLago.h"
-#include "editor/dlgRepresas.h"
-#include "editor/dlgTabla.h"
-#include "editor/dlgUEH2.h"
+#include "editor/fichas/Ficha.h"
+#include "editor/fichas/dlgCauceEditProp.h"
+#include "editor/fichas/dlgLago.h"
+#include "editor/fichas/dlgRepresas.h"
+#include "editor/fichas/dlgTabla.h"
+#include "editor/fichas/dlgUEH2.h"
 #include "editor/frmUEHs.h"
 #include "forms/Entorno_ventana.h"
 

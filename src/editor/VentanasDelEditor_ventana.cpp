@@ -3,7 +3,7 @@
 
 #include <utility>
 
-#include "editor/dlgUEHsEditTabla_ventana.h"
+#include "editor/fichas/dlgUEHsEditTabla_ventana.h"
 
 namespace editor {
 

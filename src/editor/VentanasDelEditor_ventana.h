@@ -4,9 +4,9 @@
 #include <functional>
 
 #include "editor/FormasDeComponentes_ventana.h"
-#include "editor/dlgUEHsEditTabla.h"
-#include "editor/dlgUEHsTabla.h"
-#include "editor/dlgUEHsTabla_ventana.h"
+#include "editor/fichas/dlgUEHsEditTabla.h"
+#include "editor/fichas/dlgUEHsTabla.h"
+#include "editor/fichas/dlgUEHsTabla_ventana.h"
 #include "editor/frmUEHs.h"
 #include "editor/frmUEHs_ventana.h"
 #include "forms/Entorno_ventana.h"

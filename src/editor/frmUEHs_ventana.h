@@ -5,9 +5,9 @@
 #include <functional>
 #include <string>
 
-#include "editor/Lienzo_ventana.h"
-#include "editor/PintaDibujo_ventana.h"
 #include "editor/frmUEHs.h"
+#include "editor/lienzo/Lienzo_ventana.h"
+#include "editor/lienzo/PintaDibujo_ventana.h"
 #include "forms/Formulario_ventana.h"
 
 class QAction;

@@ -23,7 +23,7 @@ set(sin_pagina_propia
     dlgTablaSalePDR2               # with its twin
     dlgImportaTormenta)            # with the storm that it makes
 set(ventanas dlgTabla)
-file(GLOB fuentes RELATIVE ${RAIZ} ${RAIZ}/src/*/frm*.h ${RAIZ}/src/*/dlg*.h ${RAIZ}/src/*/MDIForm1.h)
+file(GLOB_RECURSE fuentes RELATIVE ${RAIZ} ${RAIZ}/src/frm*.h ${RAIZ}/src/dlg*.h ${RAIZ}/src/MDIForm1.h)
 foreach(fuente IN LISTS fuentes)
     get_filename_component(ventana ${fuente} NAME_WE)
     string(REGEX REPLACE "_ventana$" "" ventana ${ventana})

@@ -16,8 +16,8 @@
 #include "apoyo/Compara.h"
 #include "batch/CorridaLote.h"
 #include "e2e/Programa.h"
-#include "editor/dlgTabla.h"
-#include "editor/dlgUEHsEditTabla.h"
+#include "editor/fichas/dlgTabla.h"
+#include "editor/fichas/dlgUEHsEditTabla.h"
 #include "model/Componentes.h"
 #include "model/Numeros.h"
 

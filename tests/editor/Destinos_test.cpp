@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/Destinos.h"
 
-#include "FichasDePrueba.h"
 #include "apoyo/Compara.h"
+#include "editor/fichas/FichasDePrueba.h"
 
 namespace editor {
 namespace {

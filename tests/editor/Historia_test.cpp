@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "EditorDePrueba.h"
+#include "editor/EditorDePrueba.h"
 
 namespace {
 

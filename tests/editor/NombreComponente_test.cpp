@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/NombreComponente.h"
 
-#include "FichasDePrueba.h"
+#include "editor/fichas/FichasDePrueba.h"
 
 namespace editor {
 namespace {

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "EditorDePrueba.h"
+#include "editor/EditorDePrueba.h"
 
 namespace {
 

@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-#include "EditorDePrueba.h"
+#include "editor/EditorDePrueba.h"
 #include "editor/MenuDibujo.h"
 
 // The editor as a machine: whatever the user clicks, drags, types and answers, the network stays whole, goes

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "EditorDePrueba.h"
 #include "apoyo/Compara.h"
+#include "editor/EditorDePrueba.h"
 #include "editor/Fondo.h"
 
 namespace {

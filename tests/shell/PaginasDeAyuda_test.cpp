@@ -8,9 +8,9 @@
 
 #include "apoyo/AnfitrionPrueba.h"
 #include "apoyo/DiscoPrueba.h"
-#include "editor/dlgCauceEditProp.h"
-#include "editor/dlgUEH2.h"
-#include "editor/dlgUEHsEditTabla.h"
+#include "editor/fichas/dlgCauceEditProp.h"
+#include "editor/fichas/dlgUEH2.h"
+#include "editor/fichas/dlgUEHsEditTabla.h"
 #include "empirical/Formulas.h"
 #include "model/Numeros.h"
 #include "rainfall/dlgPp.h"

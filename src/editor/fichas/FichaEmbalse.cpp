@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/fichas/FichaEmbalse.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+#include "model/Numeros.h"
+
+namespace editor {
+
+namespace {
+
+// Kept as they stand.
+constexpr std::string_view HastaHMinima = "Ingrese '0' o un valor numérico entre la altura H mímima=";
+constexpr std::string_view HastaHMaxima = "y la altura H máxima=";
+constexpr std::string_view TrasHMaxima = " dadas en la 'Tabla SHV'";
+
+std::string MensajeHInicialEmb(AlturasTabla alturas)
+{
+    return std::string(HastaHMinima) + model::NumeroATexto(alturas.minima) + std::string(HastaHMaxima) +
+           model::NumeroATexto(alturas.maxima) + std::string(TrasHMaxima);
+}
+
+}  // namespace
+
+void MuestraMetodo(FichaEmbalse& f, std::string& Metodo)
+{
+    if (std::find(MetodosEmbalse.begin(), MetodosEmbalse.end(), Metodo) == MetodosEmbalse.end())
+        Metodo = PiscinaNivelada;
+    f.lstMetodo.items.assign(MetodosEmbalse.begin(), MetodosEmbalse.end());
+    f.lblMetodo = Metodo;
+    f.lstMetodo.indice = static_cast<int>(std::find(MetodosEmbalse.begin(), MetodosEmbalse.end(), Metodo) -
+                                          MetodosEmbalse.begin());
+}
+
+bool EligeMetodo(FichaEmbalse& f, int indice)
+{
+    if (indice < 0 || indice >= static_cast<int>(MetodosEmbalse.size())) return false;
+    f.lstMetodo.indice = indice;
+    f.lblMetodo = MetodosEmbalse[static_cast<std::size_t>(indice)];
+    return true;
+}
+
+std::string RotuloDeK(const FichaEmbalse& f)
+{
+    return f.MuskingumVisible() ? std::string(RotuloK) : f.lblMetodo;
+}
+
+AlturasTabla AlturasDe(const model::Arreglo<std::int16_t>& filas, const model::Matriz<float>& H, int numero)
+{
+    return {H(numero, 1), H(numero, filas(numero))};
+}
+
+bool SaleDeHInicialEmb(FichaEmbalse& f, const model::Siro& s, AlturasTabla alturas)
+{
+    forms::ReglaNumero regla = ReglaHInicialEmb;
+    regla.minimo = double{alturas.minima};
+    regla.maximo = double{alturas.maxima};
+    // Compared as it is stored: 100.1 isn't above a table that ends at the 32-bit float of 100.1.
+    const std::optional<double> x = forms::NumeroDeCampo(f.txtHInicialEmb);
+    const auto altura = static_cast<float>(x.value_or(0));
+    if (x && (*x == 0 || (std::isfinite(altura) && forms::Cabe(regla, double{altura})))) {
+        f.txtHInicialEmb = model::ComasAPuntos(f.txtHInicialEmb);
+        f.foco = {};
+        return true;
+    }
+    forms::MuestraRechazo(s, regla.caja, MensajeHInicialEmb(alturas));
+    f.txtHInicialEmb = regla.alRechazar;
+    forms::Retiene(f, regla.control);
+    return false;
+}
+
+void CierraConSeleccion(FichaEmbalse& f, model::Siro& s)
+{
+    s.RepresaSel = s.LagoSel = s.UEHSel = 0;
+    s.CauceSel = s.CauceAnterior = s.VerticeSel = 0;
+    CierraFicha(f, s);
+}
+
+}  // namespace editor

@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "editor/fichas/FichaEmbalse.h"
+#include "forms/CampoNumerico.h"
+#include "model/Represa.h"
+#include "model/Siro.h"
+
+// Rules of the form with the properties of the Represas, one at a time. Name and destination are taken at
+// once, the other fields on moving to another Represa and on "Aceptar". Faults go to the caller.
+namespace editor {
+
+inline constexpr std::string_view TituloDlgRepresas = "Propiedades de Represas";
+
+// clang-format off
+/// Captions; an empty one is told by the record.
+inline constexpr auto RotulosDlgRepresas = std::to_array<FilaRotulo>({
+    {"lstRepresas",       "Represa:"},
+    {"lblNroRepresa",     "Nro. Represa:"},
+    {"lblNombreRepresa",  "Nombre Represa:"},
+    {"txtNombreRepresa",  "Modificar Nombre:"},
+    {"lstCauceAA",        "Drena al Cauce:"},
+    {"lstMetodo",         "Propagación:"},
+    {"txtRepresa_k",      ""},
+    {"txtRepresa_n",      ""},
+    {"cmdHSV",            "Editar Tabla HAS"},
+    {"fraSeleccion",      "Selección:"},
+    {"optTablaQ",         "Tabla"},
+    {"optFunciones",      "Funciones"},
+    {"cmdTablaQ",         "Edit"},
+    {"fraFunciones",      "        Descargas:           Q=f(H),   para  H  min <= H <= H Máx"},
+    {"txtFQa",            "a"},
+    {"txtFQb",            "b"},
+    {"txtFQc",            "c"},
+    {"txtFQHmin",         "H min"},
+    {"txtFQHMax",         "H Máx"},
+    {"txtHInicialEmb",    "Altura Inicial Embalse"},
+    {"lblReferencia",     "Ref.: Hidrología Aplicada, (Chow, 1994), pg. 249"},  ///< beside k and x
+    {"OKButton",          LeyendaAceptar},
+    {"CancelButton",      LeyendaCancelar},
+});
+
+/// Captions of chkFQ; function 1 at index 0.
+inline constexpr auto RotulosFunciones = std::to_array<std::string_view>({
+    "Función 1: Q =  a * H^b",
+    "Función 2: Q =  a * H^b",
+    "Función 3: Q =  a * H^b",
+    "Función 4: Q =  a * H^b",
+    "Función 5: Q =  a + b*H + c*H^2",
+    "Función 6: Q =  a + b*H + c*H^2",
+    "Función 7: Q =  a + b*H + c*H^2",
+    "Función 8: Q =  a + b*H + c*H^2",
+});
+// clang-format on
+static_assert(RotulosFunciones.size() == std::size_t{model::NroFuncionesFQ});
+
+/// Texts of a field of the outflow functions; function 1 at index 0.
+using TextosFQ = std::array<std::string, model::NroFuncionesFQ>;
+
+inline constexpr int PrimeraConC = 5;  ///< the functions before it have no c
+
+/// What the form's controls hold.
+struct dlgRepresas : FichaEmbalse {
+    Lista lstRepresas{};
+    std::string lblNroRepresa{}, lblNombreRepresa{};
+    std::string txtNombreRepresa{};
+    std::string lblDrenaCauceAA{};
+    std::string txtRepresa_k{}, lblRepresaCofk{};  ///< [min]
+    std::string txtRepresa_n{}, lblRepresaCofn{};  ///< x [-]; no run reads it
+    bool optTablaQ = false, optFunciones = false;
+    std::array<bool, model::NroFuncionesFQ> chkFQ{};
+    TextosFQ txtFQa{}, txtFQb{}, txtFQc{};  ///< of c only those of functions 5 to 8 exist
+    TextosFQ txtFQHmin{}, txtFQHMax{};      ///< [m]
+
+    [[nodiscard]] bool cmdTablaQHabilitado() const { return optTablaQ; }
+    [[nodiscard]] bool chkFQHabilitado() const { return optFunciones; }
+    /// Whether the fields of a function, from 1, can be edited.
+    [[nodiscard]] bool FuncionHabilitada(int funcion) const
+    {
+        return optFunciones && chkFQ[static_cast<std::size_t>(funcion) - 1];
+    }
+};
+
+// clang-format off
+inline constexpr auto CamposDlgRepresas = std::to_array<forms::CampoNumerico<dlgRepresas, model::Represa>>({
+    {{.control = "txtRepresa_k", .unidad = "min", .maximo = MaximoK, .mensaje = MensajeK,
+      .caja = forms::CajaRechazo::Llana},
+     &dlgRepresas::txtRepresa_k, &model::Represa::Represa_k_Musk},
+    {{.control = "txtRepresa_n", .maximo = 0.5,
+      .mensaje = "Ingrese un valor numérico decimal entre 0 y 0,5 (0 y 0.5, para separador de punto)",
+      .caja = forms::CajaRechazo::Llana},
+     &dlgRepresas::txtRepresa_n, &model::Represa::Represa_n_Musk},
+});
+
+/// A field that each outflow function has. It has no limits.
+struct CampoFQ {
+    std::string_view control;  ///< object name without its index
+    std::string_view unidad;
+    TextosFQ dlgRepresas::*textos;
+    std::array<float, model::NroFuncionesFQ> model::Represa::*valores;
+    int primera;  ///< first function that has it
+};
+inline constexpr auto CamposFQ = std::to_array<CampoFQ>({
+    {"txtFQa",    "",  &dlgRepresas::txtFQa,    &model::Represa::FQa,   1},
+    {"txtFQb",    "",  &dlgRepresas::txtFQb,    &model::Represa::FQb,   1},
+    {"txtFQc",    "",  &dlgRepresas::txtFQc,    &model::Represa::FQc,   PrimeraConC},
+    {"txtFQHmin", "m", &dlgRepresas::txtFQHmin, &model::Represa::FQmin, 1},
+    {"txtFQHMax", "m", &dlgRepresas::txtFQHMax, &model::Represa::FQMax, 1},
+});
+// clang-format on
+
+/// Opening, on the selected Represa or the first one; reads the tables of all. With no Represa the form stays
+/// closed.
+void Abre(dlgRepresas& f, model::Siro& s);
+
+/// Another Represa is picked, from 0: the fields are stored in the one in hand first.
+void lstRepresas_Click(dlgRepresas& f, model::Siro& s, int indice);
+
+/// The name is being typed. Returns false where it became invalid.
+bool txtNombreRepresa_Cambia(dlgRepresas& f, const model::Siro& s);
+
+/// Leaving a field, by its control's name. Returns false where its text is refused and the focus stays.
+/// The fields of the outflow functions bear no index here and refuse nothing.
+bool AlSalir(dlgRepresas& f, model::Siro& s, std::string_view control);
+
+/// A destination is picked, from 0: it takes effect at once.
+void lstCauceAA_Click(dlgRepresas& f, model::Siro& s, int indice);
+
+/// A method is picked, from 0; it is stored with the fields.
+void lstMetodo_Click(dlgRepresas& f, int indice);
+
+// The outflow: by table or by functions, and which of these.
+void optTablaQ_Click(dlgRepresas& f);
+void optFunciones_Click(dlgRepresas& f);
+/// `funcion` from 1.
+void chkFQ_Click(dlgRepresas& f, int funcion, bool marcada);
+
+// Buttons that open a table.
+PedidoFicha cmdHSV(const dlgRepresas& f);
+/// Nothing while the outflow is given by functions.
+PedidoFicha cmdTablaQ(const dlgRepresas& f);
+
+/// Stores the fields, clears the selection and closes.
+void OKButton(dlgRepresas& f, model::Siro& s);
+/// Closes without storing: name and destination already taken stay, and so does the selection.
+void CancelButton(dlgRepresas& f, model::Siro& s);
+
+}  // namespace editor

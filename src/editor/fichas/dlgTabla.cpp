@@ -1,0 +1,326 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/fichas/dlgTabla.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <utility>
+
+#include "forms/Evento.h"
+#include "model/Avisos.h"
+#include "model/Numeros.h"
+#include "model/TablasEmbalse.h"
+
+namespace editor {
+
+using model::NumeroATexto;
+using model::Siro;
+
+namespace {
+
+constexpr int ColumnaIndice = 0;
+constexpr int PrimeraColumna = 1;
+
+constexpr forms::ReglaNumero ReglaNroFilas{.control = "txtNroFilas",
+                                           .maximo = MaxFilasTabla,
+                                           .mensaje = "Ingrese un valor numérico entero entre 0 y 999 ",
+                                           .clase = forms::ClaseNumero::Entero,
+                                           .caja = forms::CajaRechazo::Llana};
+
+constexpr std::string_view Recordatorio =  // kept as it stands
+    "Asegurar los cambios producidos pulsando <Guardar> desde el formulario gráfico de de UEHs. De lo "
+    "contrario se perderá la información cargada.";
+
+// --- descriptions ---
+
+// The words of the columns are the user's: A is the surface, S the volume.
+constexpr auto PruebasHAS = std::to_array<PruebaOrden>({
+    {true, "Error, la altura H debe ser creciente, Verifique la fila "},
+    {false, "Error, la Superficie S debe ser creciente, Verifique la fila "},
+    {true, "Error, el Volumen V debe ser creciente, Verifique la fila "},
+});
+
+constexpr auto ArreglosSHV = std::to_array<ArregloTabla>({&Siro::RepresaH, &Siro::RepresaA, &Siro::RepresaS});
+constexpr auto ArreglosFQ = std::to_array<ArregloTabla>({&Siro::RepresaQH, &Siro::RepresaQQ});
+constexpr auto ArreglosSHVQ =
+    std::to_array<ArregloTabla>({&Siro::LagoH, &Siro::LagoA, &Siro::LagoS, &Siro::LagoQ});
+
+constexpr auto Editables = std::to_array({1, 2, 3, 4});
+
+constexpr forms::ReglasGrilla ReglasDe(std::string_view encabezado, std::size_t columnas)
+{
+    return {.encabezado = encabezado,
+            .editables = std::span(Editables).first(columnas),
+            .columnasFijas = PrimeraColumna};
+}
+
+int CuentaRepresas(const Siro& s)
+{
+    return s.ColRepresas.Cuenta();
+}
+
+int CuentaLagos(const Siro& s)
+{
+    return s.ColLagos.Cuenta();
+}
+
+constexpr auto Descripciones = std::to_array<DescripcionTabla>({
+    {.tipo = TipoTabla::SHV,
+     .nombre = "dlgTablaSHV",
+     .titulo = "Tabla Altura H[m]- Area A[has] - Almacenamiento S[m3], en Represa",
+     .nombreGrilla = "MSFlexGridFQ",
+     .nombreLblNro = "lblNroRepresa",
+     .nombreLblNombre = "lblNombreRepresa",
+     .grilla = ReglasDe("^Indice|>H [m]          |> Area A[has]          |> Almacenamiento S[m3]",
+                        ArreglosSHV.size()),
+     .arreglos = ArreglosSHV,
+     .pruebas = PruebasHAS,
+     .seleccion = &Siro::RepresaSel,
+     .cuenta = &Siro::NroRepresas,
+     .cuentaEnColeccion = CuentaRepresas,
+     .filas = &Siro::RepresaFilasHAS,
+     .lee = model::LeeTablaHSVRepresa,
+     .guarda = model::GuardaTablaHSVRepresa},
+    {.tipo = TipoTabla::FQ,
+     .nombre = "dlgTablaFQ",
+     .titulo = "Tabla Altura H[m]- Caudal Q[m3/s], en Represa",
+     .nombreGrilla = "MSFlexGridFQ",
+     .nombreLblNro = "lblNroRepresa",
+     .nombreLblNombre = "lblNombreRepresa",
+     .grilla = ReglasDe("^Indice|>H [m]          |> Q[m]          ", ArreglosFQ.size()),  // kept as it stands
+     .arreglos = ArreglosFQ,
+     .pruebas = std::span(PruebasHAS).first(1),
+     .seleccion = &Siro::RepresaSel,
+     .cuenta = &Siro::NroRepresas,
+     .cuentaEnColeccion = CuentaRepresas,
+     .filas = &Siro::RepresaFilasHQ,
+     .lee = model::LeeTablaHQRepresa,
+     .guarda = model::GuardaTablaHQRepresa},
+    {.tipo = TipoTabla::SHVQ,
+     .nombre = "dlgTablaSHVQ",
+     .titulo =
+         "Tabla Altura H[m]- Area A[has]-Almacenamiento S[m3]- Caudal Q[m3/s] en Lago / Laguna / Mallin",
+     .nombreGrilla = "MSFlexGridHSVQ",
+     .nombreLblNro = "lblNroLago",
+     .nombreLblNombre = "lblNombreLago",
+     .grilla = ReglasDe(
+         "^Indice|>H [m]          |> Area A[has]          |> Almacenamiento S[m3] |> Q[m3/s]          ",
+         ArreglosSHVQ.size()),
+     .arreglos = ArreglosSHVQ,
+     .pruebas = PruebasHAS,
+     .seleccion = &Siro::LagoSel,
+     .cuenta = &Siro::NroLagos,
+     .cuentaEnColeccion = CuentaLagos,
+     .filas = &Siro::LagoFilas,
+     .lee = model::LeeTablaHSVQLago,
+     .guarda = model::GuardaTablaHSVQLago},
+});
+constexpr bool EnOrdenDeTipos()
+{
+    for (std::size_t i = 0; i < Descripciones.size(); ++i)
+        if (Descripciones[i].tipo != static_cast<TipoTabla>(i)) return false;
+    return true;
+}
+static_assert(EnOrdenDeTipos());
+
+// --- grid ---
+
+void PonFilas(dlgTabla& f, std::int16_t filas)
+{
+    f.NroFilas = std::max<std::int16_t>(filas, 0);
+    forms::PonNroFilas(f.grilla, f.NroFilas);
+    for (std::int32_t k = 1; k <= f.NroFilas; ++k)
+        f.grilla.Pon({k, ColumnaIndice}, NumeroATexto(k));
+}
+
+void MuestraTabla(dlgTabla& f, const Siro& s)
+{
+    const DescripcionTabla& d = *f.descripcion;
+    const int numero = s.*d.seleccion;
+    PonFilas(f, (s.*d.filas)(numero));
+    f.txtNroFilas = NumeroATexto(std::int32_t{f.NroFilas});
+    for (std::size_t c = 0; c < d.arreglos.size(); ++c)
+        for (int k = 1; k <= f.NroFilas; ++k)
+            std::visit(
+                [&](auto arreglo) {
+                    f.grilla.Pon({k, PrimeraColumna + static_cast<int>(c)},
+                                 NumeroATexto((s.*arreglo)(numero, k)));
+                },
+                d.arreglos[c]);
+}
+
+}  // namespace
+
+const DescripcionTabla& DescripcionDe(TipoTabla tipo)
+{
+    return Descripciones[static_cast<std::size_t>(tipo)];
+}
+
+void Abre(dlgTabla& f, Siro& s, TipoTabla tipo, std::string lblNro, std::string lblNombre)
+{
+    const DescripcionTabla& d = DescripcionDe(tipo);
+    f = {.descripcion = &d, .abierta = true, .grilla = forms::NuevaGrilla(d.grilla)};
+    forms::Evento(s, [&] {
+        s.*d.cuenta = model::Entero16(d.cuentaEnColeccion(s));
+        f.hayComponente = s.*d.cuenta > 0;
+        if (!f.hayComponente) return;
+        if (s.*d.seleccion == 0) s.*d.seleccion = 1;
+        f.lblNro = std::move(lblNro);
+        f.lblNombre = std::move(lblNombre);
+        d.lee(s);
+        MuestraTabla(f, s);
+    });
+}
+
+void txtNroFilas_Change(dlgTabla& f, const Siro& s, std::string texto)
+{
+    if (!forms::Vale(ReglaNroFilas, texto)) {
+        forms::MuestraRechazo(s, ReglaNroFilas.caja, std::string(ReglaNroFilas.mensaje));
+        forms::Retiene(f, ReglaNroFilas.control);
+        return;
+    }
+    f.foco = {};
+    PonFilas(f, model::Entero16(model::Val(texto)));
+    f.txtNroFilas = std::move(texto);
+}
+
+void cmdBorraTablaHQ(dlgTabla& f)
+{
+    forms::VaciaDatos(f.grilla);
+}
+
+// --- applying ---
+
+namespace {
+
+/// Makes room for the rows of every component, so that nobody's are cut.
+void HaceLugar(const dlgTabla& f, Siro& s)
+{
+    const DescripcionTabla& d = *f.descripcion;
+    s.*d.cuenta = model::Entero16(d.cuentaEnColeccion(s));
+    int mayor = f.NroFilas;
+    for (int numero = 0; numero <= (s.*d.filas).Tope(); ++numero)
+        mayor = std::max(mayor, int{(s.*d.filas)(numero)});
+    for (const ArregloTabla& arreglo : d.arreglos)
+        std::visit([&](auto a) { (s.*a).Redimensiona(std::max(mayor, (s.*a).TopeColumna())); }, arreglo);
+}
+
+/// Returns whether every data cell is numeric; no message says which isn't, but the cursor goes to the last
+/// one.
+bool SonNumeros(dlgTabla& f)
+{
+    bool todas = true;
+    for (int columna = PrimeraColumna; columna < f.grilla.NroColumnas(); ++columna)
+        for (int fila = 1; fila <= f.NroFilas; ++fila)
+            if (!f.grilla.EsNumero({fila, columna})) {
+                forms::Mueve(f.grilla, {fila, columna});
+                todas = false;
+            }
+    return todas;
+}
+
+/// Returns whether a column rises as it must; each row that doesn't has its message.
+bool Crece(dlgTabla& f, const Siro& s, int columna, const PruebaOrden& prueba)
+{
+    bool crece = true;
+    for (int fila = 2; fila <= f.NroFilas; ++fila) {
+        const float antes = model::Simple(f.grilla.Numero({fila - 1, columna}));
+        const float x = model::Simple(f.grilla.Numero({fila, columna}));
+        if (prueba.estricta ? x > antes : x >= antes) continue;
+        crece = false;
+        forms::Mueve(f.grilla, {fila, columna});
+        model::Advierte(s, std::string(prueba.mensaje) + NumeroATexto(std::int32_t{fila}));
+    }
+    return crece;
+}
+
+void Guarda(float& lugar, double valor)
+{
+    lugar = model::Simple(valor);
+}
+
+// Without the step of a 32-bit float that the reader makes.
+void Guarda(std::int32_t& lugar, double valor)
+{
+    lugar = model::Entero32(valor);
+}
+
+/// Takes the cells into the arrays; a number outside its type leaves the arrays as they are.
+void Toma(const dlgTabla& f, Siro& s)
+{
+    const DescripcionTabla& d = *f.descripcion;
+    const int numero = s.*d.seleccion;
+    static_cast<void>((s.*d.filas)(numero));
+    for (const bool enSerio : {false, true})
+        for (std::size_t c = 0; c < d.arreglos.size(); ++c)
+            for (int k = 1; k <= f.NroFilas; ++k)
+                std::visit(
+                    [&](auto arreglo) {
+                        auto lugar = (s.*arreglo)(numero, k);
+                        Guarda(lugar, f.grilla.Numero({k, PrimeraColumna + static_cast<int>(c)}));
+                        if (enSerio) (s.*arreglo)(numero, k) = lugar;
+                    },
+                    d.arreglos[c]);
+    (s.*d.filas)(numero) = f.NroFilas;
+}
+
+void Aplica(dlgTabla& f, Siro& s)
+{
+    if (!f.hayComponente) return;
+    const DescripcionTabla& d = *f.descripcion;
+    HaceLugar(f, s);
+    bool bien = SonNumeros(f);
+    for (std::size_t i = 0; i < d.pruebas.size(); ++i)
+        bien = Crece(f, s, PrimeraColumna + static_cast<int>(i), d.pruebas[i]) && bien;
+    if (!bien) return;
+    Toma(f, s);
+    d.guarda(s);
+    if (f.NroFilas >= 1) forms::Mueve(f.grilla, {1, PrimeraColumna});
+}
+
+}  // namespace
+
+void cmdAplicar(dlgTabla& f, Siro& s)
+{
+    forms::Evento(s, [&] { Aplica(f, s); });
+}
+
+void OKButton(dlgTabla& f, Siro& s)
+{
+    cmdAplicar(f, s);
+    model::Advierte(s, std::string(Recordatorio), {});
+    f.abierta = false;
+}
+
+void CancelButton(dlgTabla& f)
+{
+    f.abierta = false;
+}
+
+// --- plot ---
+
+namespace {
+
+std::vector<PuntoCurva> Puntos(const forms::Grilla& g, int columna)
+{
+    std::vector<PuntoCurva> puntos;
+    for (int fila = 1; fila <= g.NroFilas(); ++fila)
+        if (g.EsNumero({fila, PrimeraColumna}) && g.EsNumero({fila, columna}))
+            puntos.push_back({g.Numero({fila, PrimeraColumna}), g.Numero({fila, columna})});
+    return puntos;
+}
+
+}  // namespace
+
+std::vector<CurvaTabla> Curvas(const dlgTabla& f)
+{
+    constexpr int ColumnaS = 3;
+    const int ultima = f.grilla.NroColumnas() - 1;
+    std::vector<CurvaTabla> curvas;
+    if (ultima >= ColumnaS) curvas.push_back({"H [m]", "S [m3]", Puntos(f.grilla, ColumnaS)});
+    if (ultima >= PrimeraColumna && ultima != ColumnaS)
+        curvas.push_back({"H [m]", "Q [m3/s]", Puntos(f.grilla, ultima)});
+    return curvas;
+}
+
+}  // namespace editor

@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "editor/fichas/Ficha.h"
+#include "editor/fichas/Kostiakov.h"
+#include "forms/CampoNumerico.h"
+#include "model/Siro.h"
+
+// Rules of the form with the properties of the UEHs, one at a time. Names and destinations are taken at once,
+// the other fields on moving to another UEH and on "Aceptar". Faults go to the caller.
+namespace editor {
+
+inline constexpr std::string_view TituloDlgUEH2 = "Propiedades de UHE (Unidad Hidrológica Elemental)";
+
+/// The only entry of lstMetodo.
+inline constexpr std::string_view MetodoUEH = "Directo";
+
+// clang-format off
+/// Captions; that of a label or field stands beside it, that of a frame above it.
+inline constexpr auto RotulosDlgUEH2 = std::to_array<FilaRotulo>({
+    {"lblNroUEH",           "Nro. UEH:"},
+    {"lblNombreUEH",        "Nombre UEH:"},
+    {"txtNombreUEH",        "Modificar Nombre UEH:"},
+    {"txtArea",             "Area [has]:"},
+    {"lstMetodo",           "Propagación/Método:"},
+    {"lstCauceAA",          "Drena a:"},
+    {"txtReferencia",       "Referencias:"},
+    {"txtLongMax",          "Longitud Máxima al Cauce [m]: "},
+    {"txtVelMedia",         "Velocidad Media  \"gota\" en ladera:"},
+    {"lblDrenaCauceAA",     "Drena al Cauce:"},
+    {"txtRetension_Z",      "Retensión Superficial Z [mm]:"},
+    {"txtKostiakov_a",      "I [mm] = a * t[min]^"},
+    {"txtKostiakov_b",      ""},
+    {"txtKostiakov_i",      "T inicial [min]"},
+    {"txtQ0Recesion",       "Qinicial ="},
+    {"txtKRecesion",        "k [hs]="},
+    {"OKButton",            LeyendaAceptar},
+    {"CancelButton",        LeyendaCancelar},
+    {"fraIdentificacion",   "Identificación de la Unidad de Estudios Hidrológicos"},
+    {"fraAreaMetodo",       "Area de aportes y método de cálculo / propagación"},
+    {"fraPropagacion",      "Parámetros de propagación"},
+    {"fraRetencion",        "Intercepción - Almacenamiento superficial "},
+    {"fraInfiltracion",     "Infiltración: Parámetros de Kostiakov"},
+    {"fraRecesion",         "Abatimiento o Recesión: Parámetros de Singh y Stall"},
+    {"lblFormulaRecesion",  "Q [m3/s] = Qi [m3/s]* e "},
+    {"lblExponenteRecesion", "- t/k"},  ///< raised, behind the formula
+});
+// clang-format on
+
+/// What the form's controls hold.
+struct dlgUEH2 : Ficha {
+    Lista lstUEHs{};
+    std::string lblNroUEH{}, lblNombreUEH{};
+    std::string txtNombreUEH{};
+    std::string txtArea{};  ///< [ha]
+    Lista lstMetodo{};
+    Lista lstCauceAA{};
+    std::string lblDrenaCauceAA{}, lblMetodo{};  ///< copies for reading
+    std::string txtReferencia{};
+    std::string txtLongMax{};      ///< [m]
+    std::string txtVelMedia{};     ///< [m/s]
+    std::string txtRetension_Z{};  ///< [mm]
+    std::string txtKostiakov_a{};  ///< [mm/min^b]
+    std::string txtKostiakov_b{};  ///< [-]
+    std::string txtKostiakov_i{};  ///< [min]
+    std::string txtQ0Recesion{};   ///< [m3/s]
+    std::string txtKRecesion{};    ///< [h]
+};
+
+// clang-format off
+inline constexpr auto CamposDlgUEH2 = std::to_array<forms::CampoNumerico<dlgUEH2, model::UEH>>({
+    {{.control = "txtArea", .unidad = "has", .maximo = 99999,
+      .mensaje = "Ingrese un valor numérico entero o decimal menor de 99999"},
+     &dlgUEH2::txtArea, &model::UEH::Area},
+    {{.control = "txtLongMax", .unidad = "m", .maximo = 50000,
+      .mensaje = "Ingrese un valor numérico menor de 50000"},
+     &dlgUEH2::txtLongMax, &model::UEH::LongitudMax},
+    {{.control = "txtVelMedia", .unidad = "m/s", .maximo = 15,
+      .mensaje = "Ingrese un valor numérico entero o decimal menor de 15"},
+     &dlgUEH2::txtVelMedia, &model::UEH::VelMedia},
+    {{.control = "txtRetension_Z", .unidad = "mm", .maximo = 40,
+      .mensaje = "Ingrese un valor numérico entero o decimal menor de 40"},
+     &dlgUEH2::txtRetension_Z, &model::UEH::RetensionZ},
+    {{.control = "txtKostiakov_a", .maximo = 30,
+      .mensaje = "Ingrese un valor numérico entero o decimal menor de 30"},
+     &dlgUEH2::txtKostiakov_a, &model::UEH::KostiakovA},
+    {{.control = "txtKostiakov_b", .maximo = 1,
+      .mensaje = "Ingrese un valor numérico decimal entre 0 y 1"},
+     &dlgUEH2::txtKostiakov_b, &model::UEH::KostiakovB},
+    {{.control = "txtKostiakov_i", .unidad = "min", .maximo = 1000,
+      .mensaje = "Ingrese un valor numérico decimal entre 0 y 1000"},
+     &dlgUEH2::txtKostiakov_i, &model::UEH::KostiakovI},
+    {{.control = "txtQ0Recesion", .unidad = "m3/s", .maximo = 1000,
+      .mensaje = "Ingrese un valor numérico entero o decimal menor de 1000"},
+     &dlgUEH2::txtQ0Recesion, &model::UEH::Q0Recesion},
+    {{.control = "txtKRecesion", .unidad = "hs", .maximo = 9999,
+      .mensaje = "Ingrese un valor numérico decimal entre 0 y 9999"},
+     &dlgUEH2::txtKRecesion, &model::UEH::KRecesion},
+});
+// clang-format on
+
+/// Opening, on the selected UEH or the first one. With no UEH the form stays closed.
+void Abre(dlgUEH2& f, model::Siro& s);
+
+/// Another UEH is picked, from 0: the fields are stored in the one in hand first.
+void lstUEHs_Click(dlgUEH2& f, model::Siro& s, int indice);
+
+/// The name is being typed. Returns false where it became invalid.
+bool txtNombreUEH_Cambia(dlgUEH2& f, const model::Siro& s);
+
+/// Leaving a field, by its control's name. Returns false where its text is refused and the focus stays.
+bool AlSalir(dlgUEH2& f, model::Siro& s, std::string_view control);
+
+/// A destination is picked, from 0: it takes effect at once, the point on a reach only when the form is
+/// stored.
+void lstCauceAA_Click(dlgUEH2& f, model::Siro& s, int indice);
+
+/// A method is picked, from 0; it is stored with the fields.
+void lstMetodo_Click(dlgUEH2& f, int indice);
+
+/// Stores the fields, clears the selection of UEH and Cauce and closes.
+void OKButton(dlgUEH2& f, model::Siro& s);
+/// The same without storing: name and destination already taken stay.
+void CancelButton(dlgUEH2& f, model::Siro& s);
+
+/// The infiltration curve of the fields as they stand; nothing where one of them is refused.
+std::optional<CurvaInfiltracion> CurvaDeCampos(const dlgUEH2& f);
+
+}  // namespace editor

@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/fichas/dlgUEHsEditTabla.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <utility>
+#include <vector>
+
+#include "forms/Evento.h"
+#include "model/Avisos.h"
+#include "model/Componentes.h"
+#include "model/Numeros.h"
+
+namespace editor {
+
+using model::Cauce;
+using model::NumeroATexto;
+using model::Siro;
+using model::UEH;
+
+namespace {
+
+constexpr std::string_view TituloConsulta = "Consulta de validación de cambios";
+constexpr std::string_view ConfirmaCambios =
+    "Confirma los cambios producidos en la tabla de datos de Entradas ?";
+constexpr int ColumnaNumero = 1;
+
+/// A column that can be edited: what it takes and where its value is kept.
+template <typename T>
+struct ColumnaEditable {
+    forms::LimiteColumna limite;
+    float T::*valor;
+};
+
+// clang-format off
+constexpr auto EditablesCauces = std::to_array<ColumnaEditable<Cauce>>({
+    {{7,  15,    "Ingrese un valor numérico entero o decimal menor de 15"},   &Cauce::VelMediaCauce},
+    {{8,  50000, "Ingrese un valor numérico entero menor de 50000"},          &Cauce::LongCauce},
+    {{10, 9999,  "Ingrese un valor numérico entero o decimal menor de 9999"}, &Cauce::Cauce_k_Musk},
+    {{11, 0.5,   "Ingrese un valor numérico decimal entre 0 y 0.5"},          &Cauce::Cauce_n_Musk},
+});
+
+constexpr auto EditablesUEHs = std::to_array<ColumnaEditable<UEH>>({
+    {{5,  99999, "Ingrese un valor numérico entero o decimal menor de 99999"}, &UEH::Area},
+    {{6,  10000, "Ingrese un valor numérico entero menor de 10000"},           &UEH::LongitudMax},
+    {{7,  15,    "Ingrese un valor numérico entero o decimal menor de 15"},    &UEH::VelMedia},
+    {{8,  9999,  "Ingrese un valor numérico entero o decimal menor de 9999"},  &UEH::KostiakovA},
+    {{9,  1,     "Ingrese un valor numérico decimal entre 0 y 1"},             &UEH::KostiakovB},
+    {{10, 1000,  "Ingrese un valor numérico decimal entre 0 y 1000"},          &UEH::KostiakovI},
+    {{11, 9999,  "Ingrese un valor numérico entero o decimal menor de 9999"},  &UEH::Q0Recesion},
+    {{12, 1,     "Ingrese un valor numérico decimal entre 0 y 1"},             &UEH::KRecesion},
+    {{13, 40,    "Ingrese un valor numérico entero o decimal menor de 40"},    &UEH::RetensionZ},
+});
+// clang-format on
+
+template <typename T, std::size_t N>
+constexpr std::array<forms::LimiteColumna, N> LimitesDe(const std::array<ColumnaEditable<T>, N>& editables)
+{
+    std::array<forms::LimiteColumna, N> limites{};
+    for (std::size_t i = 0; i < N; ++i)
+        limites[i] = editables[i].limite;
+    return limites;
+}
+
+template <typename T, std::size_t N>
+constexpr std::array<int, N> NumerosDe(const std::array<ColumnaEditable<T>, N>& editables)
+{
+    std::array<int, N> numeros{};
+    for (std::size_t i = 0; i < N; ++i)
+        numeros[i] = editables[i].limite.columna;
+    return numeros;
+}
+
+constexpr auto LimitesCauces = LimitesDe(EditablesCauces);
+constexpr auto NumerosCauces = NumerosDe(EditablesCauces);
+constexpr auto LimitesUEHs = LimitesDe(EditablesUEHs);
+constexpr auto NumerosUEHs = NumerosDe(EditablesUEHs);
+
+/// Codes 42 to 57 and 64 to 122: the digits, the signs, and letters too.
+bool TomaTecla(char c)
+{
+    return (c >= '*' && c <= '9') || (c >= '@' && c <= 'z');
+}
+
+constexpr forms::ReglasGrilla ReglasDe(std::string_view encabezado, std::span<const int> editables,
+                                       std::span<const forms::LimiteColumna> limites)
+{
+    return {.encabezado = encabezado,
+            .editables = editables,
+            .sinNumero = forms::SinNumero::Queda,
+            .enterPoneCero = false,
+            .tomaCaracter = TomaTecla,
+            .limites = limites};
+}
+
+constexpr forms::ReglasGrilla ReglasCauces = ReglasDe(
+    "^Componente|^Nro.|^       Nombre      |^     Afluente de     |^    Método    |^Vértices|^ Ind.Vért.|"
+    "^Vel.Media|^Longitud|^Orden|^K Musk.|^x Musk.",
+    NumerosCauces, LimitesCauces);
+constexpr forms::ReglasGrilla ReglasUEHs = ReglasDe(
+    "^Componente|^Nro.|^       Nombre      |^     Afluente de     |^    Método    |^  Area   |^ Long.Máx.|"
+    "^Vel.Media|^'a' Kost.|^'b' Kost.|^H Ini[min]|^Q inicio|^'K' Rec.|^Z Ret.",
+    NumerosUEHs, LimitesUEHs);
+
+std::string Texto(std::int16_t n)
+{
+    return NumeroATexto(std::int32_t{n});
+}
+
+/// The columns on the left, which can't be edited; in the grid of the reaches the order is in their midst.
+void PonDatos(forms::Grilla& g, int fila, const Cauce& c)
+{
+    constexpr int ColumnaOrden = 9;
+    const auto textos = std::to_array<std::string>({"Cauce", Texto(c.numCauce), c.NombreCauce, c.Cauce_aa,
+                                                    c.optDirMusk ? "Directo" : "Muskingum",
+                                                    Texto(c.numVertices), Texto(c.IndiceParInicial)});
+    for (std::size_t i = 0; i < textos.size(); ++i)
+        g.Pon({fila, static_cast<int>(i)}, textos[i]);
+    g.Pon({fila, ColumnaOrden}, Texto(c.OrdenCauce));
+}
+
+void PonDatos(forms::Grilla& g, int fila, const UEH& u)
+{
+    const auto textos =
+        std::to_array<std::string>({"UEH", Texto(u.numUEH), u.NombreUEH, u.Cauce_aa, u.Metodo});
+    for (std::size_t i = 0; i < textos.size(); ++i)
+        g.Pon({fila, static_cast<int>(i)}, textos[i]);
+}
+
+template <typename Componentes, typename Editables>
+forms::Grilla Llena(const forms::ReglasGrilla& reglas, const Componentes& componentes,
+                    const Editables& editables)
+{
+    forms::Grilla g = forms::NuevaGrilla(reglas);
+    forms::PonNroFilas(g, componentes.Cuenta());
+    int fila = 0;
+    for (const auto& componente : componentes) {
+        ++fila;
+        PonDatos(g, fila, componente);
+        for (const auto& [limite, valor] : editables)
+            g.Pon({fila, limite.columna}, NumeroATexto(componente.*valor));
+    }
+    return g;
+}
+
+/// Takes a grid into its components, each row's found by its number.
+template <typename Componentes, typename Editables>
+void Toma(const forms::Grilla& g, Componentes& componentes, const Editables& editables)
+{
+    for (int fila = 1; fila <= g.NroFilas(); ++fila) {
+        auto& componente = componentes.Ranura(model::Entero16(g.Numero({fila, ColumnaNumero})));
+        for (const auto& [limite, valor] : editables)
+            componente.*valor = model::Simple(g.Numero({fila, limite.columna}));
+    }
+}
+
+}  // namespace
+
+void Abre(dlgUEHsEditTabla& f, Siro& s)
+{
+    model::LeeUEHs(s);
+    f.abierta = true;
+    f.lblProyecto = s.NombreProyecto;
+    f.lblFileProyecto = s.NombreProyecto + "_Conf.vlm";
+    f.MSFlexGridEditCauces = Llena(ReglasCauces, s.ColCauces, EditablesCauces);
+    f.MSFlexGridEditUEHs = Llena(ReglasUEHs, s.ColUEHs, EditablesUEHs);
+}
+
+void OKButton(dlgUEHsEditTabla& f, Siro& s)
+{
+    const bool tomadas = forms::Evento(s, [&] {
+        Toma(f.MSFlexGridEditCauces, s.ColCauces, EditablesCauces);
+        Toma(f.MSFlexGridEditUEHs, s.ColUEHs, EditablesUEHs);
+    });
+    if (!tomadas) return;
+    if (model::Consulta(s, std::string(ConfirmaCambios), TituloConsulta)) model::mnu_btn_toolbarGuardaUEHs(s);
+    f.abierta = false;
+}
+
+void cmdCancel(dlgUEHsEditTabla& f)
+{
+    f.abierta = false;
+}
+
+}  // namespace editor

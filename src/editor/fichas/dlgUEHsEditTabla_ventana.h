@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "editor/fichas/dlgUEHsEditTabla.h"
+#include "forms/Formulario_ventana.h"
+
+class QLabel;
+
+namespace forms {
+class TablaGrilla;
+}
+
+namespace editor {
+
+/// The tabular editor of all reaches and all UEHs.
+class dlgUEHsEditTabla_ventana : public forms::Formulario {
+  public:
+    dlgUEHsEditTabla_ventana(forms::Entorno& alrededor, dlgUEHsEditTabla& registro, QWidget* padre = nullptr);
+
+    /// Reads the network and shows it until the form is closed. Runs inside an event.
+    void Abre();
+    void Muestra() override;
+
+  protected:
+    void AlCerrar() override;
+
+  private:
+    forms::TablaGrilla* Tabla(forms::Grilla& grilla, const char* nombre, const char* titulo);
+
+    dlgUEHsEditTabla& f;
+    QLabel *lblProyecto = nullptr, *lblFileProyecto = nullptr;
+    forms::TablaGrilla *cauces = nullptr, *uehs = nullptr;
+};
+
+}  // namespace editor

@@ -1,0 +1,368 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <QAction>
+#include <QCheckBox>
+#include <QLabel>
+#include <QProcess>
+#include <QRadioButton>
+
+#include "editor/fichas/FormasDePrueba.h"
+#include "forms/Lamina_ventana.h"
+
+// The property forms with real keys and clicks.
+namespace editor {
+namespace {
+
+using apoyo::Control;
+using Cajas = std::vector<model::Mensaje>;
+
+struct FichasEnPantalla : FormasDePrueba {};
+
+TEST_F(FichasEnPantalla, TodosLosControlesTienenNombreYLeyenda)
+{
+    const auto revisa = [](QDialog& forma) {
+        EXPECT_EQ(apoyo::SinNombre(forma), std::vector<std::string>{});
+    };
+    EnForma("dlgUEH2", revisa).Abre(Pedido::FormaUEH);
+    EnForma("dlgCauceEditProp", revisa).Abre(Pedido::FormaCauce);
+    EnForma("dlgRepresas", revisa).Abre(Pedido::FormaRepresa);
+    EnForma("dlgLago", revisa).Abre(Pedido::FormaLago);
+    EXPECT_EQ(relojes.findChildren<QTimer*>().size(), 4);
+    for (const QTimer* reloj : relojes.findChildren<QTimer*>())
+        EXPECT_FALSE(reloj->isActive());
+}
+
+TEST_F(FichasEnPantalla, SeAbreEnElComponenteSeleccionadoYSinComponentesNoSeAbre)
+{
+    s.UEHSel = 2;
+    EnForma("dlgUEH2", [this](QDialog& forma) {
+        EXPECT_EQ(Control<QLabel>(forma, "lblNroUEH").text(), QStringLiteral("2"));
+        EXPECT_EQ(TextoDe(forma, "txtNombreUEH"), s.UEHs(2).NombreUEH);
+        EXPECT_EQ(Control<QListWidget>(forma, "lstUEHs").currentRow(), 1);
+    }).Abre(Pedido::FormaUEH);
+    s.ColUEHs.Vacia();
+    Abre(Pedido::FormaUEH);
+    EXPECT_FALSE(ventanas->formas.ueh.abierta);
+}
+
+TEST_F(FichasEnPantalla, UnCampoRechazadoRetieneElFocoConTodoSeleccionado)
+{
+    EnForma("dlgUEH2", [this](QDialog& forma) {
+        Llena(forma, "txtArea", "99999.5");
+        EXPECT_EQ(mundo.anfitrion->Avisos(),
+                  (Cajas{{"Ingrese un valor numérico entero o decimal menor de 99999", "",
+                          model::Icono::Exclamacion}}));
+        EXPECT_TRUE(Campo(forma, "txtArea").hasFocus());
+        EXPECT_EQ(Campo(forma, "txtArea").selectedText(), QStringLiteral("99999.5"));
+        // The next key replaces it: the limit itself passes.
+        apoyo::Teclea(Campo(forma, "txtArea"), "99999");
+        QTest::keyClick(&Campo(forma, "txtArea"), Qt::Key_Tab);
+        EXPECT_TRUE(apoyo::Espera([&] { return !Campo(forma, "txtArea").hasFocus(); }));
+        EXPECT_EQ(mundo.anfitrion->Avisos().size(), 1U);
+        Boton(forma, "OKButton");
+        EXPECT_FALSE(forma.isVisible());
+    }).Abre(Pedido::FormaUEH);
+    EXPECT_EQ(s.UEHs(1).Area, 99999);
+}
+
+TEST_F(FichasEnPantalla, AceptarConUnCampoRechazadoNoCierraYCancelarNoMira)
+{
+    const float area = s.UEHs(1).Area;
+    EnForma("dlgUEH2", [this](QDialog& forma) {
+        apoyo::Escribe(Campo(forma, "txtArea"), "abc");
+        Boton(forma, "OKButton");
+        EXPECT_TRUE(forma.isVisible());
+        EXPECT_EQ(mundo.anfitrion->Avisos().size(), 1U);
+        Boton(forma, "CancelButton");
+        EXPECT_FALSE(forma.isVisible());
+        EXPECT_EQ(mundo.anfitrion->Avisos().size(), 1U);
+    }).Abre(Pedido::FormaUEH);
+    EXPECT_EQ(s.UEHs(1).Area, area);
+}
+
+TEST_F(FichasEnPantalla, EntrarEnUnCampoConElRatonSeleccionaTodo)
+{
+    EnForma("dlgCauceEditProp", [](QDialog& forma) {
+        Control<QListWidget>(forma, "lstCauces").setFocus();
+        apoyo::Pulsa(Campo(forma, "txtVelMediaCauce"));
+        EXPECT_TRUE(apoyo::Espera([&] {
+            return Campo(forma, "txtVelMediaCauce").selectedText() == Campo(forma, "txtVelMediaCauce").text();
+        }));
+    }).Abre(Pedido::FormaCauce);
+}
+
+TEST_F(FichasEnPantalla, ElNombreTomaSuPrefijoMientrasSeEscribeYSeCorta)
+{
+    EnForma("dlgUEH2", [this](QDialog& forma) {
+        apoyo::Escribe(Campo(forma, "txtNombreUEH"), "x");
+        EXPECT_EQ(TextoDe(forma, "txtNombreUEH"), "u-x");
+        apoyo::Teclea(Campo(forma, "txtNombreUEH"), "23456789012345");
+        EXPECT_EQ(TextoDe(forma, "txtNombreUEH"), "u-x234567890123");
+        QTest::keyClick(&Campo(forma, "txtNombreUEH"), Qt::Key_Tab);
+        // Taken on leaving, before "Aceptar".
+        EXPECT_TRUE(apoyo::Espera([this] { return s.UEHs(1).NombreUEH == "u-x234567890123"; }));
+        EXPECT_EQ(Control<QListWidget>(forma, "lstUEHs").item(0)->text(), QStringLiteral("u-x234567890123"));
+    }).Abre(Pedido::FormaUEH);
+}
+
+TEST_F(FichasEnPantalla, UnNombreEnUsoQuedaInvalidoConTodoSeleccionadoYNoSeGuarda)
+{
+    const std::string antes = s.UEHs(1).NombreUEH, usado = s.UEHs(2).NombreUEH.substr(2);
+    EnForma("dlgUEH2", [&](QDialog& forma) {
+        apoyo::Escribe(Campo(forma, "txtNombreUEH"), usado.c_str());
+        EXPECT_EQ(TextoDe(forma, "txtNombreUEH"), "Invalido");
+        EXPECT_EQ(Campo(forma, "txtNombreUEH").selectedText(), QStringLiteral("Invalido"));
+        Boton(forma, "OKButton");
+    }).Abre(Pedido::FormaUEH);
+    EXPECT_EQ(s.UEHs(1).NombreUEH, antes);
+}
+
+TEST_F(FichasEnPantalla, UnDestinoElegidoQuedaAunqueSeCancele)
+{
+    EnForma("dlgUEH2", [](QDialog& forma) {
+        Elige(forma, "lstCauceAA", "Ninguno");
+        EXPECT_EQ(Control<QLabel>(forma, "lblDrenaCauceAA").text(), QString());
+    }).Abre(Pedido::FormaUEH);
+    EXPECT_EQ(s.UEHs(1).Cauce_aa, "");
+    EXPECT_EQ(s.UEHs(1).XCauce, 0);
+}
+
+TEST_F(FichasEnPantalla, PasarAOtraUEHGuardaLosCamposDeLaAnterior)
+{
+    EnForma("dlgUEH2", [this](QDialog& forma) {
+        Llena(forma, "txtRetension_Z", "12,5");
+        EXPECT_EQ(TextoDe(forma, "txtRetension_Z"), "12.5");
+        Elige(forma, "lstUEHs", s.UEHs(4).NombreUEH.c_str());
+        EXPECT_EQ(Control<QLabel>(forma, "lblNroUEH").text(), QStringLiteral("4"));
+        EXPECT_EQ(s.UEHs(1).RetensionZ, 12.5F);
+        // The arrows look through the list too.
+        QTest::keyClick(&Control<QListWidget>(forma, "lstUEHs"), Qt::Key_Down);
+        EXPECT_EQ(Control<QLabel>(forma, "lblNroUEH").text(), QStringLiteral("5"));
+    }).Abre(Pedido::FormaUEH);
+}
+
+TEST_F(FichasEnPantalla, LaCurvaDeInfiltracionSigueALosTresCamposMientrasSeEscriben)
+{
+    EnForma("dlgUEH2", [](QDialog& forma) {
+        auto& curva = Control<forms::Lamina>(forma, "CurvaInfiltracion");
+        const QString antes = curva.accessibleDescription();
+        apoyo::Escribe(Campo(forma, "txtKostiakov_a"), "1");
+        apoyo::Escribe(Campo(forma, "txtKostiakov_b"), "1");
+        apoyo::Escribe(Campo(forma, "txtKostiakov_i"), "20");
+        EXPECT_NE(curva.accessibleDescription(), antes);
+        EXPECT_TRUE(curva.accessibleDescription().contains(QStringLiteral("máximo 200 mm en 200")))
+            << forms::DeQ(curva.accessibleDescription());
+        Boton(forma, "CancelButton");
+    }).Abre(Pedido::FormaUEH);
+}
+
+TEST_F(FichasEnPantalla, ElCauceElijeEntreMuskingumYDirectaSinDeshabilitarCampos)
+{
+    EnForma("dlgCauceEditProp", [](QDialog& forma) {
+        Boton(forma, "optDirecta");
+        EXPECT_TRUE(Control<QRadioButton>(forma, "optDirecta").isChecked());
+        EXPECT_FALSE(Control<QRadioButton>(forma, "optMusk").isChecked());
+        EXPECT_TRUE(Campo(forma, "txtCauce_k_Musk").isEnabled());
+        Boton(forma, "OKButton");
+    }).Abre(Pedido::FormaCauce);
+    EXPECT_TRUE(s.Cauces(1).optDirMusk);
+}
+
+TEST_F(FichasEnPantalla, ElCampoXDelCauceRechazaMasDeMedio)
+{
+    EnForma("dlgCauceEditProp", [this](QDialog& forma) {
+        Llena(forma, "txtCauce_n_Musk", "0.5");
+        EXPECT_TRUE(mundo.anfitrion->sucesos.empty());
+        Llena(forma, "txtCauce_n_Musk", "0.51");
+        EXPECT_EQ(
+            mundo.anfitrion->Avisos(),
+            (Cajas{{"Ingrese un valor numérico decimal, entre 0 y 0.5", "", model::Icono::Exclamacion}}));
+        EXPECT_EQ(forms::DeQ(Campo(forma, "txtCauce_n_Musk").toolTip()),
+                  "Coeficiente 'x' de Muskingum. 0<=x>0,5 ");
+    }).Abre(Pedido::FormaCauce);
+}
+
+TEST_F(FichasEnPantalla, LasGemelasMuestranElCoeficienteSoloConMuskingum)
+{
+    const auto prueba = [](const char* campo, const char* rotulo) {
+        return [campo, rotulo](QDialog& forma) {
+            Elige(forma, "lstMetodo", "Muskingum");
+            EXPECT_TRUE(Campo(forma, campo).isVisible());
+            EXPECT_EQ(Control<QLabel>(forma, rotulo).text(), QStringLiteral("k[min]="));
+            Elige(forma, "lstMetodo", "Runge Kutta");
+            EXPECT_FALSE(Campo(forma, campo).isVisible());
+            EXPECT_EQ(Control<QLabel>(forma, rotulo).text(), QStringLiteral("Runge Kutta"));
+            Boton(forma, "OKButton");
+        };
+    };
+    EnForma("dlgRepresas", prueba("txtRepresa_k", "lblRepresaCofk")).Abre(Pedido::FormaRepresa);
+    EnForma("dlgLago", prueba("txtLago_k", "lblLagoCofk")).Abre(Pedido::FormaLago);
+    EXPECT_EQ(s.Represas(1).Metodo, "Runge Kutta");
+    EXPECT_EQ(s.Lagos(1).Metodo, "Runge Kutta");
+}
+
+TEST_F(FichasEnPantalla, LaAlturaInicialFueraDeLaTablaSeRechazaYQuedaEnCero)
+{
+    // The sample's tables reach from 0 to 24 m and from 0 to 8 m.
+    const auto prueba = [this](const char* valor, const char* mensaje) {
+        return [this, valor, mensaje](QDialog& forma) {
+            mundo.anfitrion->sucesos.clear();
+            Llena(forma, "txtHInicialEmb", valor);
+            EXPECT_EQ(mundo.anfitrion->Avisos(), (Cajas{{mensaje}}));
+            EXPECT_EQ(TextoDe(forma, "txtHInicialEmb"), "0");
+            EXPECT_TRUE(Campo(forma, "txtHInicialEmb").hasFocus());
+            EXPECT_EQ(Campo(forma, "txtHInicialEmb").selectedText(), QStringLiteral("0"));
+        };
+    };
+    EnForma("dlgRepresas", prueba("24.5",
+                                  "Ingrese '0' o un valor numérico entre la altura H mímima=0y la "
+                                  "altura H máxima=24 dadas en la 'Tabla SHV'"))
+        .Abre(Pedido::FormaRepresa);
+    EnForma("dlgLago", prueba("-1",
+                              "Ingrese '0' o un valor numérico entre la altura H mímima=0y la "
+                              "altura H máxima=8 dadas en la 'Tabla SHV'"))
+        .Abre(Pedido::FormaLago);
+}
+
+TEST_F(FichasEnPantalla, LasFuncionesDeDescargaSeHabilitanUnaPorUna)
+{
+    EnForma("dlgRepresas", [](QDialog& forma) {
+        Boton(forma, "optTablaQ");
+        EXPECT_TRUE(Control<QPushButton>(forma, "cmdTablaQ").isEnabled());
+        EXPECT_FALSE(Campo(forma, "txtFQa_1").isEnabled());
+        EXPECT_FALSE(Control<QCheckBox>(forma, "chkFQ_5").isEnabled());
+        Boton(forma, "optFunciones");
+        EXPECT_FALSE(Control<QPushButton>(forma, "cmdTablaQ").isEnabled());
+        EXPECT_TRUE(Campo(forma, "txtFQa_1").isEnabled());
+        EXPECT_FALSE(Campo(forma, "txtFQc_5").isEnabled());
+        Boton(forma, "chkFQ_5");
+        EXPECT_TRUE(Campo(forma, "txtFQc_5").isEnabled());
+        EXPECT_EQ(forma.findChild<QLineEdit*>(QStringLiteral("txtFQc_4")), nullptr);
+        Llena(forma, "txtFQc_5", "1,25");
+        EXPECT_EQ(TextoDe(forma, "txtFQc_5"), "1.25");
+        Boton(forma, "OKButton");
+    }).Abre(Pedido::FormaRepresa);
+    EXPECT_EQ(s.Represas(1).chkFQ[4], 1);
+    EXPECT_EQ(s.Represas(1).FQc[4], 1.25F);
+    EXPECT_FALSE(s.Represas(1).optTabla);
+}
+
+TEST_F(FichasEnPantalla, UnLagoSinTablaLoDiceAlVolverDeSuEditor)
+{
+    EnForma("dlgLago", [this](QDialog& forma) {
+        EXPECT_EQ(Control<QLabel>(forma, "lblParametros").text(), QStringLiteral("Datos HSVQ en Tabla"));
+        EnForma("dlgTablaSHVQ", [](QDialog& tabla) {
+            Campo(tabla, "txtNroFilas").selectAll();
+            apoyo::Teclea(Campo(tabla, "txtNroFilas"), "0");
+            Boton(tabla, "cmdAplicar");
+        });
+        Boton(forma, "cmdParametros");
+        EXPECT_EQ(Control<QLabel>(forma, "lblParametros").text(), QStringLiteral("---"));
+    }).Abre(Pedido::FormaLago);
+}
+
+// --- from the editor, and as far as the results ---
+
+QWidget& Editor()
+{
+    for (QWidget* const w : QApplication::topLevelWidgets())
+        if (w->objectName() == QStringLiteral("frmUEHs")) return *w;
+    throw std::runtime_error("frmUEHs");
+}
+
+TEST_F(FichasEnPantalla, LosCambiosDeUnaFormaSonUnPasoDeLaHistoriaDelEditor)
+{
+    const std::size_t pasos = ventanas->red.historia.anteriores.size();
+    const float area = s.UEHs(1).Area;
+    s.UEHSel = 1;
+    EnForma("dlgUEH2", [](QDialog& forma) {
+        Llena(forma, "txtArea", "123");
+        Llena(forma, "txtNombreUEH", "otra");
+        Boton(forma, "OKButton");
+    });
+    QTest::keyClick(&Control<QWidget>(Editor(), "picDibujo"), Qt::Key_F3);
+    EXPECT_EQ(s.UEHs(1).Area, 123);
+    EXPECT_EQ(ventanas->red.historia.anteriores.size(), pasos + 1);
+    EXPECT_TRUE(ventanas->red.cambiada);
+    auto* const deshace = Editor().findChild<QAction*>(QStringLiteral("Deshace"));
+    ASSERT_NE(deshace, nullptr);
+    deshace->trigger();
+    EXPECT_EQ(s.UEHs(1).Area, area);
+    EXPECT_NE(s.UEHs(1).NombreUEH, "u-otra");
+}
+
+/// Runs the saved project with the batch companion and returns its results.
+std::string Corre(const std::string& dir)
+{
+    const QString resultados = forms::Q(dir + "/r.csv");
+    QProcess lote;
+    lote.start(QStringLiteral(SIRO_LOTE),
+               {QStringLiteral("una"), forms::Q(dir + "/Proyectos/Quelmar_Conf.vlm"),
+                QStringLiteral("--trabajo"), forms::Q(dir), QStringLiteral("--pp"), QStringLiteral("80"),
+                QStringLiteral("--dur"), QStringLiteral("120"), QStringLiteral("--resultados"), resultados});
+    EXPECT_TRUE(lote.waitForFinished());
+    EXPECT_EQ(lote.exitCode(), 0) << lote.readAllStandardError().toStdString();
+    QFile archivo(resultados);
+    EXPECT_TRUE(archivo.open(QIODevice::ReadOnly));
+    return archivo.readAll().toStdString();
+}
+
+/// Greatest outflow of a component in the results.
+double Pico(const std::string& csv, const std::string& componente)
+{
+    double pico = -1;
+    for (const QString& linea : forms::Q(csv).split(QLatin1Char('\n'))) {
+        const QStringList campos = linea.split(QLatin1Char(','));
+        if (campos.size() > 4 && forms::DeQ(campos[0]) == componente)
+            pico = std::max(pico, campos[4].toDouble());
+    }
+    return pico;
+}
+
+TEST_F(FichasEnPantalla, LoQueSeEscribeSeGuardaYCambiaLosResultadosDeSiroLote)
+{
+    const std::string ueh = s.UEHs(1).NombreUEH, represa = s.Represas(1).NombreRepresa;
+    const std::string antes = Corre(Dir());
+    ASSERT_GT(Pico(antes, ueh), 0);
+    const float area = s.UEHs(1).Area;
+
+    EnForma("dlgUEH2", [area](QDialog& forma) {
+        Llena(forma, "txtArea", std::to_string(2 * static_cast<int>(area)).c_str());
+        Llena(forma, "txtQ0Recesion", "0");
+        Boton(forma, "OKButton");
+    }).Abre(Pedido::FormaUEH);
+    EnForma("dlgCauceEditProp", [](QDialog& forma) {
+        Boton(forma, "optDirecta");
+        Llena(forma, "txtVelMediaCauce", "0.1");
+        Boton(forma, "OKButton");
+    }).Abre(Pedido::FormaCauce);
+    EnForma("dlgRepresas", [](QDialog& forma) {
+        Llena(forma, "txtFQa_1", "3");
+        Boton(forma, "OKButton");
+    }).Abre(Pedido::FormaRepresa);
+    EnForma("dlgLago", [](QDialog& forma) {
+        Llena(forma, "txtHInicialEmb", "0");
+        Boton(forma, "OKButton");
+    }).Abre(Pedido::FormaLago);
+    auto* const guarda = Editor().findChild<QAction*>(QStringLiteral("btn_toolbarGuardaUEHs"));
+    ASSERT_NE(guarda, nullptr);
+    guarda->trigger();
+
+    model::Siro otro;
+    otro.NombreProyecto = "Quelmar";
+    otro.DirProyecto = s.DirProyecto;
+    model::LeeUEHs(otro);
+    EXPECT_EQ(otro.UEHs(1).Area, static_cast<float>(2 * static_cast<int>(area)));
+    EXPECT_EQ(otro.Cauces(1).VelMediaCauce, 0.1F);
+    EXPECT_TRUE(otro.Cauces(1).optDirMusk);
+    EXPECT_EQ(otro.Represas(1).FQa[0], 3);
+    EXPECT_EQ(otro.Lagos(1).HInicialEmb, 0);
+
+    const std::string despues = Corre(Dir());
+    EXPECT_GT(Pico(despues, ueh), 1.5 * Pico(antes, ueh));
+    EXPECT_NE(Pico(despues, represa), Pico(antes, represa));
+    EXPECT_NE(Pico(despues, s.Cauces(1).NombreCauce), Pico(antes, s.Cauces(1).NombreCauce));
+    EXPECT_NE(Pico(despues, s.Lagos(1).NombreLAGO), Pico(antes, s.Lagos(1).NombreLAGO));
+}
+
+}  // namespace
+}  // namespace editor
