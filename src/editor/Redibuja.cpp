@@ -192,28 +192,34 @@ void PintaComponente(frmUEHs& f, const Siro& s, const ConIcono& c)
     if (c.seleccionado) f.dibujo.Cuadrado(Papel::Asa, {c.en.X, c.en.Y + PasoDelAsa * t}, LadoDeMarca(f));
 }
 
+/// What the components of one kind have in common on the paper.
+struct Aspecto {
+    Clase clase;
+    Papel enlace;
+    float bajoElIcono;  ///< of the name, in sizes of the icon
+};
+
 template <typename T, int Limite>
-void PintaClase(frmUEHs& f, const Siro& s, const ClaseConIcono<T, Limite>& filas, Clase clase, Papel enlace,
-                float bajoElIcono)
+void PintaClase(frmUEHs& f, const Siro& s, const ClaseConIcono<T, Limite>& filas, const Aspecto& aspecto)
 {
     int n = 0;
     for (const T& c : s.*filas.coleccion)
         PintaComponente(f, s,
-                        {.clase = clase,
-                         .enlace = enlace,
+                        {.clase = aspecto.clase,
+                         .enlace = aspecto.enlace,
                          .en = Icono(filas, c),
                          .drena = {c.XCauce, c.YCauce},
                          .nombre = c.*filas.nombre,
                          .destino = c.Cauce_aa,
                          .seleccionado = ++n == s.*filas.elegido,
-                         .bajoElIcono = bajoElIcono});
+                         .bajoElIcono = aspecto.bajoElIcono});
 }
 
 void PintaComponentes(frmUEHs& f, const Siro& s)
 {
-    PintaClase(f, s, ClaseUEH, Clase::UEH, Papel::EnlaceUEH, BajoUEH);
-    PintaClase(f, s, ClaseRepresa, Clase::Represa, Papel::EnlaceRepresa, BajoRepresa);
-    PintaClase(f, s, ClaseLago, Clase::Lago, Papel::EnlaceLago, BajoLago);
+    PintaClase(f, s, ClaseUEH, {Clase::UEH, Papel::EnlaceUEH, BajoUEH});
+    PintaClase(f, s, ClaseRepresa, {Clase::Represa, Papel::EnlaceRepresa, BajoRepresa});
+    PintaClase(f, s, ClaseLago, {Clase::Lago, Papel::EnlaceLago, BajoLago});
 }
 
 void MarcaCauceElegido(frmUEHs& f, const Siro& s)

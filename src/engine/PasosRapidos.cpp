@@ -141,7 +141,7 @@ Ladera PreparaLadera(const Corrida& c, const UEH& u)
     l.subida = l.T > 0 ? std::min((l.T - 1) / s.PasoQ, l.puntos) : 0;
     for (int j = 0; j <= l.subida; ++j)
         l.minutos.push_back(j * s.PasoQ);
-    l.curva.resize(static_cast<std::size_t>(c.RelacionPasos + l.puntos + 1));
+    l.curva.resize(static_cast<std::size_t>(c.RelacionPasos) + static_cast<std::size_t>(l.puntos) + 1);
     return l;
 }
 

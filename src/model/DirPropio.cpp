@@ -146,7 +146,7 @@ std::string DirTrabajoDe(const std::string& dirEjecutable)
 std::string DirTrabajoConAyuda(const std::string& dirEjecutable)
 {
     const Disco disco = DiscoDelSistema();
-    const std::string directorio = DirTrabajoDe(dirEjecutable);
+    std::string directorio = DirTrabajoDe(dirEjecutable);
     RenuevaAyuda(disco, directorio, DirEntregado(disco, dirEjecutable));
     return directorio;
 }
