@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "results/frmPp_ventana.h"
 
+#include <QEvent>
 #include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -11,6 +12,7 @@
 #include <QScrollBar>
 #include <QShortcut>
 #include <QTextBlock>
+#include <QTimer>
 #include <utility>
 
 #include "forms/Impresion_ventana.h"
@@ -86,6 +88,7 @@ void frmPp_ventana::ConstruyeTexto()
                           medidas.lineSpacing() * RenglonesALaVista / 4);
     resize(medidas.averageCharWidth() * ColumnasALaVista, medidas.lineSpacing() * RenglonesALaVista);
 
+    Text1->installEventFilter(this);
     Text1->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(Text1, &QWidget::customContextMenuRequested, this,
             [this](const QPoint& lugar) { MenuDelTexto(lugar); });
@@ -201,22 +204,55 @@ void frmPp_ventana::Muestra()
 
 void frmPp_ventana::MuestraTexto()
 {
-    const bool desdeCero = reemplazos != f.reemplazos || f.Text1.size() < mostrado;
-    if (!desdeCero && f.Text1.size() == mostrado) return;
-    if (desdeCero) {
+    if (reemplazos != f.reemplazos || f.Text1.size() < mostrado) {
         Text1->clear();
         mostrado = 0;
+        deUnaVez = f.Text1.size();
         reemplazos = f.reemplazos;
     }
-    const QString resto = Q(std::string_view(f.Text1).substr(mostrado)).remove(QLatin1Char('\r'));
-    mostrado = f.Text1.size();
+    MuestraTrozo();
+}
+
+void frmPp_ventana::MuestraTrozo()
+{
+    constexpr std::size_t Trozo = 1 << 18;
+    if (f.Text1.size() == mostrado) return;
+    std::size_t hasta = f.Text1.size();
+    if (hasta - mostrado > Trozo) {
+        const std::size_t salto = f.Text1.find('\n', mostrado + Trozo);
+        if (salto != std::string::npos) hasta = salto + 1;
+    }
+    // A run is read from its beginning; what is listed behind a text is what was asked for.
+    const bool seLee = mostrado < deUnaVez;
+    const bool alPrincipio = mostrado == 0;
+    QScrollBar* const barra = Text1->verticalScrollBar();
+    const int lugar = barra->value();
     QTextCursor cursor(Text1->document());
     cursor.movePosition(QTextCursor::End);
-    cursor.insertText(resto);
-    // A run is read from its beginning; what is listed behind a text is what was asked for.
-    if (desdeCero) Text1->setTextCursor(QTextCursor(Text1->document()));
-    QScrollBar* const barra = Text1->verticalScrollBar();
-    barra->setValue(desdeCero ? 0 : barra->maximum());
+    cursor.insertText(
+        Q(std::string_view(f.Text1).substr(mostrado, hasta - mostrado)).remove(QLatin1Char('\r')));
+    mostrado = hasta;
+    if (alPrincipio) Text1->setTextCursor(QTextCursor(Text1->document()));
+    barra->setValue(seLee ? lugar : barra->maximum());
+    if (mostrado < f.Text1.size() && !std::exchange(faltaResto, true))
+        QTimer::singleShot(0, this, [this] {
+            faltaResto = false;
+            MuestraTexto();
+        });
+}
+
+void frmPp_ventana::MuestraElResto()
+{
+    MuestraTexto();
+    while (mostrado < f.Text1.size())
+        MuestraTrozo();
+}
+
+/// A key in the text finds it whole: Ctrl+A, Ctrl+End.
+bool frmPp_ventana::eventFilter(QObject* donde, QEvent* evento)
+{
+    if (donde == Text1 && evento->type() == QEvent::KeyPress) MuestraElResto();
+    return Ventana::eventFilter(donde, evento);
 }
 
 void frmPp_ventana::MuestraBusqueda()
@@ -233,6 +269,7 @@ void frmPp_ventana::MuestraBusqueda()
     if (b.hallado.largo == 0) {
         cursor.clearSelection();
     } else {
+        MuestraElResto();
         const QTextBlock renglon = Text1->document()->findBlockByNumber(static_cast<int>(b.hallado.linea));
         const auto inicio = renglon.position() + static_cast<int>(b.hallado.columna);
         cursor.setPosition(inicio);
@@ -253,7 +290,10 @@ void frmPp_ventana::MenuDelTexto(const QPoint& lugar)
     entrada("&Copiar", QKeySequence::Copy, [this] {
         Text1->copy();
     })->setEnabled(Text1->textCursor().hasSelection());
-    entrada("Seleccionar &todo", QKeySequence::SelectAll, [this] { Text1->selectAll(); });
+    entrada("Seleccionar &todo", QKeySequence::SelectAll, [this] {
+        MuestraElResto();
+        Text1->selectAll();
+    });
     menu.addSeparator();
     entrada("&Buscar...", QKeySequence::Find, [this] { Suceso([this] { Busca(); }); });
     entrada("&Guardar...", QKeySequence(Qt::CTRL | Qt::Key_S),

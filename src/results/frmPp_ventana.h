@@ -30,13 +30,18 @@ class frmPp_ventana : public forms::Ventana {
 
   protected:
     void AlCerrar() override;
+    bool eventFilter(QObject* donde, QEvent* evento) override;
 
   private:
     void ConstruyeTexto();
     QHBoxLayout* ConstruyeBusqueda();
     QHBoxLayout* ConstruyeBotones();
     void ConectaTeclas();
+    /// A long text is shown piece by piece, what the user sees first of all, with the events between two
+    /// pieces handled; whoever needs it whole asks for the rest.
     void MuestraTexto();
+    void MuestraTrozo();
+    void MuestraElResto();
     void MuestraBusqueda();
     void MenuDelTexto(const QPoint& lugar);
     void Busca();
@@ -51,9 +56,10 @@ class frmPp_ventana : public forms::Ventana {
     QPushButton *cmdBuscar, *cmdGuardar, *CmdImprimir, *cmdCerrar;
 
     std::size_t mostrado = 0;      ///< bytes of the record's text on show
+    std::size_t deUnaVez = 0;      ///< bytes that came together: the view stays at their beginning
     std::uint64_t reemplazos = 0;  ///< of the record, as of the text on show
     std::uint64_t veces = 0;       ///< searches shown so far
-    bool pendiente = false;
+    bool pendiente = false, faltaResto = false;
 };
 
 /// Fills in the host's part of the Slate: its window, the text in its box, and the tick of the menu entry,

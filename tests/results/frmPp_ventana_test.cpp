@@ -11,7 +11,10 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTemporaryDir>
+#include <QTextBlock>
 #include <QTimer>
+#include <algorithm>
+#include <string>
 
 #include "apoyo/Compara.h"
 #include "apoyo/DiscoPrueba.h"
@@ -109,6 +112,90 @@ TEST_F(VentanaPizarra, UnaCorridaSeLeeDesdeElPrincipioYLoAgregadoDespuesQuedaALa
     mundo.s.Anfitrion.AgregaPizarra("lista pedida");
     EXPECT_TRUE(Espera([&] { return barra.value() == barra.maximum() && barra.maximum() > 0; }));
 }
+
+// --- a text of several pieces: 40,000 lines of 40 letters, 1.6 MB ---
+
+struct PizarraLarga : VentanaPizarra {
+    static constexpr int Lineas = 40000;
+    PizarraLarga()
+    {
+        for (int i = 1; i <= Lineas; ++i) {
+            std::string linea = "renglon " + std::to_string(i);
+            linea.resize(40, '.');
+            texto += linea + "\r\n";
+        }
+        texto += "fin";
+    }
+    int EnPantalla() { return Texto().document()->blockCount(); }
+    bool LlegaEntera()
+    {
+        return Espera([&] { return EnPantalla() == Lineas + 1; });
+    }
+
+    std::string texto{};
+};
+
+TEST_F(PizarraLarga, SeVePrimeroElPrincipioYLuegoElResto)
+{
+    mundo.s.Anfitrion.PonPizarra(texto);
+    ventana.Muestra();
+    EXPECT_GT(EnPantalla(), 1000);
+    EXPECT_LT(EnPantalla(), Lineas);
+    EXPECT_TRUE(LlegaEntera());
+    EXPECT_EQ(Texto().verticalScrollBar()->value(), 0);
+    std::string entero = DeQ(Texto().toPlainText());
+    texto.erase(std::remove(texto.begin(), texto.end(), '\r'), texto.end());
+    EXPECT_TRUE(entero == texto);
+}
+
+TEST_F(PizarraLarga, ElLugarDeQuienYaLeeNoSeMueve)
+{
+    mundo.s.Anfitrion.PonPizarra(texto);
+    ventana.Muestra();
+    Texto().verticalScrollBar()->setValue(500);
+    EXPECT_TRUE(LlegaEntera());
+    EXPECT_EQ(Texto().verticalScrollBar()->value(), 500);
+}
+
+TEST_F(PizarraLarga, OtroTextoDejaSinEfectoLoQueFaltaba)
+{
+    mundo.s.Anfitrion.PonPizarra(texto);
+    ventana.Muestra();
+    mundo.s.Anfitrion.PonPizarra("otro\r\ntexto");
+    EXPECT_TRUE(Muestra("otro\ntexto"));
+    QTest::qWait(50);
+    EXPECT_EQ(DeQ(Texto().toPlainText()), "otro\ntexto");
+}
+
+TEST_F(PizarraLarga, LoBuscadoSeHallaAunqueNoHayaLlegado)
+{
+    mundo.s.Anfitrion.PonPizarra(texto);
+    ventana.Muestra();
+    AbreBusqueda(f, "renglon 39999.");
+    BuscaSiguiente(f);
+    ventana.Muestra();
+    EXPECT_EQ(Seleccion(), "renglon 39999.");
+}
+
+TEST_F(PizarraLarga, UnaTeclaLaEncuentraEntera)
+{
+    mundo.s.Anfitrion.PonPizarra(texto);
+    ventana.Muestra();
+    QTest::keyClick(&Texto(), Qt::Key_End, Qt::ControlModifier);
+    EXPECT_EQ(EnPantalla(), Lineas + 1);
+    EXPECT_GT(Texto().verticalScrollBar()->value(), Lineas - 200);
+}
+
+TEST_F(PizarraLarga, LoAgregadoDespuesQuedaALaVista)
+{
+    mundo.s.Anfitrion.PonPizarra(texto);
+    EXPECT_TRUE(LlegaEntera());
+    mundo.s.Anfitrion.AgregaPizarra("\r\nagregado");
+    EXPECT_TRUE(Espera([&] { return DeQ(Texto().document()->lastBlock().text()) == "agregado"; }));
+    EXPECT_EQ(Texto().verticalScrollBar()->value(), Texto().verticalScrollBar()->maximum());
+}
+
+// --- closing, search, menu ---
 
 TEST_F(VentanaPizarra, CerrarConElBotonQuitaSalidaYMarcaYAlReabrirEstaElTexto)
 {
