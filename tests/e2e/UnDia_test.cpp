@@ -507,11 +507,15 @@ class UnDia : public e2e::EscritorioDePrueba {
         pantalla->Arranca(dir + "/siro");
         pantalla->EsperaVentana(Principal);
         pantalla->Mide(1040, 790);
+        const std::string puntero = dir + "/VelmirDir.vlm";
+        fs::remove(puntero);
         pantalla->Teclas({"ctrl+o"});
         pantalla->EsperaVentana("Abrir");
         pantalla->Teclea(Archivo("_Conf.vlm"));
         pantalla->Teclas({"Return"});
         pantalla->EsperaVentana(Principal);
+        // The dialog goes before the project is read; once it has been, it is noted as the last one.
+        pantalla->EsperaA("the project to be open", [&] { return fs::exists(puntero); });
         const std::map<std::string, std::string> antes = Guardados("Arroyo1");
         ASSERT_EQ(antes.size(), 4U);
         pantalla->Teclas({"ctrl+shift+s"});
