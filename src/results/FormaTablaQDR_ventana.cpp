@@ -14,7 +14,8 @@
 namespace results {
 
 FormaTablaQDR_ventana::FormaTablaQDR_ventana(forms::Entorno& alrededor, std::string_view nombre,
-                                             std::string_view titulo, FormaTablaQDR& registro, QWidget* padre)
+                                             std::string_view titulo, FormaTablaQDR& registro, QWidget* antes,
+                                             QWidget* padre)
     : Ventana(alrededor, nombre, padre), f(registro)
 {
     setWindowTitle(forms::Q(titulo));
@@ -32,7 +33,8 @@ FormaTablaQDR_ventana::FormaTablaQDR_ventana(forms::Entorno& alrededor, std::str
         Muestra();
     });
 
-    centro = new QHBoxLayout;
+    auto* const centro = new QHBoxLayout;
+    if (antes != nullptr) centro->addWidget(antes);
     centro->addWidget(tabla, 1);
     auto* const botones = new QHBoxLayout;
     botones->addWidget(cmdAplicarCambios);

@@ -6,7 +6,6 @@
 #include "forms/Formulario_ventana.h"
 #include "results/TablaQDR.h"
 
-class QHBoxLayout;
 class QPushButton;
 
 namespace results {
@@ -22,15 +21,14 @@ class FormaTablaQDR_ventana : public forms::Ventana {
     void Muestra() override;
 
   protected:
+    /// `antes`: a control that stands beside the grid, ahead of it for the Tab key too; none: null.
     FormaTablaQDR_ventana(forms::Entorno& alrededor, std::string_view nombre, std::string_view titulo,
-                          FormaTablaQDR& registro, QWidget* padre);
+                          FormaTablaQDR& registro, QWidget* antes, QWidget* padre);
 
     void AlCerrar() override;
     /// The form's own opening, and its filling of the table.
     virtual void AbreForma() = 0;
     virtual void Llena() = 0;
-
-    QHBoxLayout* centro;  ///< the grid, and what stands beside it
 
   private:
     void Imprime();

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "results/dlgTablaSalePDR2_ventana.h"
 
-#include <QHBoxLayout>
-
 #include "forms/Lista_ventana.h"
 #include "forms/Textos_ventana.h"
 
@@ -15,10 +13,16 @@ constexpr int LargoDeNombre = 15;  // characters of a component's name, without 
 
 dlgTablaSalePDR2_ventana::dlgTablaSalePDR2_ventana(forms::Entorno& alrededor, dlgTablaSalePDR2& registro,
                                                    QWidget* padre)
-    : FormaTablaQDR_ventana(alrededor, "dlgTablaSalePDR2", TituloDlgTablaSalePDR2, registro, padre),
-      f(registro)
+    : dlgTablaSalePDR2_ventana(alrededor, registro, new forms::ListaParaElegir, padre)
 {
-    lstCompos = new forms::ListaParaElegir;
+}
+
+dlgTablaSalePDR2_ventana::dlgTablaSalePDR2_ventana(forms::Entorno& alrededor, dlgTablaSalePDR2& registro,
+                                                   forms::ListaParaElegir* lista, QWidget* padre)
+    : FormaTablaQDR_ventana(alrededor, "dlgTablaSalePDR2", TituloDlgTablaSalePDR2, registro, lista, padre),
+      f(registro),
+      lstCompos(lista)
+{
     lstCompos->setObjectName(QStringLiteral("lstCompos"));
     lstCompos->setAccessibleName(QStringLiteral("Componente"));
     lstCompos->setFixedWidth(fontMetrics().averageCharWidth() * (LargoDeNombre + 5));
@@ -29,7 +33,6 @@ dlgTablaSalePDR2_ventana::dlgTablaSalePDR2_ventana(forms::Entorno& alrededor, dl
             lstCompos_Click(f, entorno.s);
         });
     };
-    centro->insertWidget(0, lstCompos);
 }
 
 void dlgTablaSalePDR2_ventana::AbreForma()

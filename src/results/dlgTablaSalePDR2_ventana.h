@@ -18,6 +18,8 @@ class dlgTablaSalePDR2_ventana : public FormaTablaQDR_ventana {
     void Muestra() override;
 
   private:
+    dlgTablaSalePDR2_ventana(forms::Entorno& alrededor, dlgTablaSalePDR2& registro,
+                             forms::ListaParaElegir* lista, QWidget* padre);
     void AbreForma() override;
     void Llena() override;
 

@@ -5,7 +5,8 @@ namespace results {
 
 dlgTablaSalePDR_ventana::dlgTablaSalePDR_ventana(forms::Entorno& alrededor, dlgTablaSalePDR& registro,
                                                  QWidget* padre)
-    : FormaTablaQDR_ventana(alrededor, "dlgTablaSalePDR", TituloDlgTablaSalePDR, registro, padre), f(registro)
+    : FormaTablaQDR_ventana(alrededor, "dlgTablaSalePDR", TituloDlgTablaSalePDR, registro, nullptr, padre),
+      f(registro)
 {
 }
 

@@ -248,6 +248,17 @@ TEST_F(TablasDeSerie, LaTablaDeUnComponenteSigueALaLista)
     EXPECT_EQ(Celda(deUno, 5, 5), "24.12");
 }
 
+TEST_F(TablasDeSerie, ElTabRecorreLaDeUnComponenteEnElOrdenDeLectura)
+{
+    deUno.Abre();
+    Textos orden;
+    for (const QWidget* w = deUno.nextInFocusChain(); w != &deUno; w = w->nextInFocusChain())
+        if (!w->objectName().startsWith(QLatin1String("qt_")) && w->focusPolicy() != Qt::NoFocus)
+            orden.push_back(DeQ(w->objectName()));
+    EXPECT_EQ(orden, (Textos{"lstCompos", "MSFlexGridTablaSaleQDR", "cmdAplicarCambios", "cmdImprimir",
+                             "OKButton"}));
+}
+
 TEST_F(TablasDeSerie, SinComponentesLaDeUnComponenteNoSeAbre)
 {
     s.NroComponentes = 0;
