@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <iterator>
 #include <utility>
 
 #include "forms/Evento.h"
@@ -125,10 +126,31 @@ static_assert(EnOrdenDeTipos());
 
 // --- grid ---
 
+/// Keeps the rows that the grid is about to lose.
+void CortaFilas(dlgTabla& f)
+{
+    auto& filas = f.grilla.filas;
+    const auto corte = filas.begin() + std::min(int{f.NroFilas}, f.grilla.NroFilas());
+    f.cortadas.insert(f.cortadas.begin(), corte, filas.end());
+}
+
+/// Puts the rows that were cut where the grid has room for them again.
+void DevuelveFilas(dlgTabla& f, int desde)
+{
+    const auto n = std::min<std::ptrdiff_t>(f.NroFilas - desde, std::ssize(f.cortadas));
+    if (n <= 0) return;
+    const auto hasta = f.cortadas.begin() + n;
+    std::move(f.cortadas.begin(), hasta, f.grilla.filas.begin() + desde);
+    f.cortadas.erase(f.cortadas.begin(), hasta);
+}
+
 void PonFilas(dlgTabla& f, std::int16_t filas)
 {
     f.NroFilas = std::max<std::int16_t>(filas, 0);
+    const int antes = f.grilla.NroFilas();
+    CortaFilas(f);
     forms::PonNroFilas(f.grilla, f.NroFilas);
+    DevuelveFilas(f, antes);
     for (std::int32_t k = 1; k <= f.NroFilas; ++k)
         f.grilla.Pon({k, ColumnaIndice}, NumeroATexto(k));
 }
@@ -187,6 +209,7 @@ void txtNroFilas_Change(dlgTabla& f, const Siro& s, std::string texto)
 void cmdBorraTablaHQ(dlgTabla& f)
 {
     forms::VaciaDatos(f.grilla);
+    f.cortadas.clear();
 }
 
 // --- applying ---
@@ -275,6 +298,7 @@ void Aplica(dlgTabla& f, Siro& s)
     if (!bien) return;
     Toma(f, s);
     d.guarda(s);
+    f.cortadas.clear();
     if (f.NroFilas >= 1) forms::Mueve(f.grilla, {1, PrimeraColumna});
 }
 

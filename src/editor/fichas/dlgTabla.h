@@ -66,6 +66,9 @@ struct dlgTabla {
     std::string txtNroFilas{};
     std::string lblNro{}, lblNombre{};
     forms::Grilla grilla{};
+    /// Rows that a smaller number has cut, the one next to the grid's last first. A number is typed digit by
+    /// digit, "12" by way of "1": they come back as it grows, until the table is applied.
+    std::vector<forms::FilaGrilla> cortadas{};
     forms::Foco foco{};
 };
 
@@ -74,10 +77,10 @@ struct dlgTabla {
 void Abre(dlgTabla& f, model::Siro& s, TipoTabla tipo, std::string lblNro, std::string lblNombre);
 
 /// The text of the number of rows has changed. A text that is no whole number from 0 to 999 is told and the
-/// text before it comes back; otherwise the grid takes the rows.
+/// text before it comes back; otherwise the grid takes the rows, those that were cut before the new ones.
 void txtNroFilas_Change(dlgTabla& f, const model::Siro& s, std::string texto);
 
-/// Empties every data cell; the rows stay.
+/// Empties every data cell; the rows stay, those that were cut are forgotten.
 void cmdBorraTablaHQ(dlgTabla& f);
 
 /// Checks the cells, and where nothing is wrong takes them into the arrays and writes the file. The cursor

@@ -141,6 +141,26 @@ TEST_F(TablasEnPantalla, ElNumeroDeFilasSeTomaHasta999YLoDemasSeRechaza)
     });
 }
 
+TEST_F(TablasEnPantalla, EscribirElNumeroDeFilasCifraPorCifraNoPierdeNinguna)
+{
+    EnTabla("dlgTablaSHV", [](QDialog& forma) {
+        constexpr int Filas = 12;
+        forms::TablaGrilla& grilla = Grilla(forma);
+        ASSERT_GE(grilla.model()->rowCount(), Filas);
+        const std::string ultima = Celda(grilla, Filas, 3);
+        ASSERT_NE(ultima, "");
+        QLineEdit& campo = Campo(forma, "txtNroFilas");
+        campo.setFocus();
+        campo.selectAll();
+        QTest::keyClick(&campo, Qt::Key_1);
+        EXPECT_EQ(grilla.model()->rowCount(), 1);
+        QTest::keyClick(&campo, Qt::Key_2);
+        EXPECT_EQ(grilla.model()->rowCount(), Filas);
+        EXPECT_EQ(Celda(grilla, Filas, 3), ultima);
+        EXPECT_EQ(Celda(grilla, Filas, 0), "12");
+    });
+}
+
 TEST_F(TablasEnPantalla, LaCurvaSigueALaTablaMientrasSeEscribe)
 {
     EnTabla("dlgTablaSHVQ", [](QDialog& forma) {

@@ -198,9 +198,46 @@ TEST_F(EditorDeTablas, LasFilasQueQuedanConservanSuTextoYLasNuevasSeNumeran)
     txtNroFilas_Change(f, s, "2");
     txtNroFilas_Change(f, s, "4");
     EXPECT_EQ(T(2, 1), "11");
-    EXPECT_EQ(T(3, 1), "");
     EXPECT_EQ(T(4, 0), "4");
+    EXPECT_EQ(T(4, 1), "");
     EXPECT_EQ(f.txtNroFilas, "4");
+}
+
+TEST_F(EditorDeTablas, LasFilasCortadasVuelvenAlCrecerElNumero)
+{
+    AbreTabla();
+    f.grilla.Pon({3, 2}, "2.75");
+    for (const char* texto : {"1", "12", "0", "2", "3"})  // "12" is typed by way of "1"
+        txtNroFilas_Change(f, s, texto);
+    EXPECT_EQ(f.grilla.filas[1].celdas, (std::vector<std::string>{"2", "11", "2.5", "2000"}));
+    EXPECT_EQ(f.grilla.filas[2].celdas, (std::vector<std::string>{"3", "12", "2.75", "3000"}));
+    txtNroFilas_Change(f, s, "x");
+    EXPECT_EQ(T(3, 2), "2.75");
+}
+
+TEST_F(EditorDeTablas, AplicadasLasFilasCortadasNoVuelven)
+{
+    AbreTabla();
+    txtNroFilas_Change(f, s, "2");
+    Fila(1, {"12", "1", "1"});
+    cmdAplicar(f, s);  // refused: the heights fall
+    txtNroFilas_Change(f, s, "3");
+    EXPECT_EQ(T(3, 3), "3000");
+    txtNroFilas_Change(f, s, "2");
+    Fila(1, {"10", "1", "1"});
+    cmdAplicar(f, s);
+    txtNroFilas_Change(f, s, "3");
+    EXPECT_EQ(T(3, 0), "3");
+    EXPECT_EQ(T(3, 3), "");
+}
+
+TEST_F(EditorDeTablas, BorrarTablaVaciaTambienLasFilasCortadas)
+{
+    AbreTabla();
+    txtNroFilas_Change(f, s, "1");
+    cmdBorraTablaHQ(f);
+    txtNroFilas_Change(f, s, "3");
+    EXPECT_EQ(T(3, 3), "");
 }
 
 TEST_F(EditorDeTablas, BorrarTablaVaciaLosDatosYDejaLasFilas)
