@@ -167,6 +167,11 @@ void Lamina::VeTodo()
 bool Lamina::eventFilter(QObject* objeto, QEvent* evento)
 {
     if (evento->type() == QEvent::Leave) DejaDeLeer();
+    if (evento->type() == QEvent::ContextMenu) {
+        // The surface keeps all that the mouse does to itself; this widget would never hear of it.
+        contextMenuEvent(static_cast<QContextMenuEvent*>(evento));
+        return true;
+    }
     return QWidget::eventFilter(objeto, evento);
 }
 

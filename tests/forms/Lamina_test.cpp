@@ -70,6 +70,20 @@ struct LaminaEnVentana : testing::Test {
                            Qt::NoModifier);
         QApplication::sendEvent(&Plano(), &evento);
     }
+    /// A right click as the window system brings it. Returns whether the menu came up.
+    bool ClicDerecho(const Lamina& en) const
+    {
+        bool vino = false;
+        QTimer::singleShot(0, lamina, [&vino] {
+            QWidget* const menu = QApplication::activePopupWidget();
+            vino = menu != nullptr && menu->objectName() == QStringLiteral("mnuLamina");
+            if (menu != nullptr) menu->close();
+        });
+        QTest::mouseClick(ventana.windowHandle(), Qt::RightButton, {},
+                          en.mapTo(&ventana, en.rect().center()));
+        QCoreApplication::processEvents();
+        return vino;
+    }
     void Elige(const char* leyenda) const
     {
         QTimer::singleShot(0, lamina, [leyenda] {
@@ -242,6 +256,18 @@ TEST_F(LaminaEnVentana, TieneNombreYDescripcionConTemaFilasYPicos)
 }
 
 // --- image and files ---
+
+TEST_F(LaminaEnVentana, ElBotonDerechoAbreElMenu)
+{
+    EXPECT_TRUE(ClicDerecho(*lamina));
+    auto* const chica = new Lamina(mundo.entorno, "Chica", "Curva", Lamina::Modo::Compacta);
+    ventana.layout()->addWidget(chica);
+    chica->Muestra(Hidrograma(20));
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(ClicDerecho(*chica));
+    // The click neither zooms nor moves anything.
+    EXPECT_EQ(Ancho(), 100);
+}
 
 TEST_F(LaminaEnVentana, ElMenuGuardaLasCeldasComoCsv)
 {
