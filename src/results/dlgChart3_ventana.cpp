@@ -65,7 +65,7 @@ void dlgChart3_ventana::Construye()
 
     auto* const centro = new QHBoxLayout;
     centro->addWidget(Grafico, 1);
-    centro->addLayout(ConstruyeListas());
+    centro->addWidget(ConstruyeListas());
     auto* const pila = new QVBoxLayout(this);
     pila->addWidget(lblTitulo);
     pila->addLayout(centro, 1);
@@ -74,18 +74,22 @@ void dlgChart3_ventana::Construye()
     pila->addLayout(ConstruyeBotones());
 }
 
-QBoxLayout* dlgChart3_ventana::ConstruyeListas()
+/// A widget of its own: hidden it takes no part in the layout, while rows without anything to show would keep
+/// the chart low.
+QWidget* dlgChart3_ventana::ConstruyeListas()
 {
-    leyendaPQEC = new QLabel(QStringLiteral("&Magnitud:"));
+    auto* const leyendaPQEC = new QLabel(QStringLiteral("&Magnitud:"));
     lstPQEC = Lista("lstPQEC", *leyendaPQEC);
     lstPQEC->setFixedHeight(NroMagnitudes * (fontMetrics().height() + 4) + 2 * lstPQEC->frameWidth() + 4);
-    leyendaCompos = new QLabel(QStringLiteral("Compo&nente:"));
+    auto* const leyendaCompos = new QLabel(QStringLiteral("Compo&nente:"));
     lstCompos = Lista("lstCompos", *leyendaCompos);
-    auto* const listas = new QVBoxLayout;
-    listas->addWidget(leyendaPQEC);
-    listas->addWidget(lstPQEC);
-    listas->addWidget(leyendaCompos);
-    listas->addWidget(lstCompos, 1);
+    listas = new QWidget;
+    auto* const pila = new QVBoxLayout(listas);
+    pila->setContentsMargins({});
+    pila->addWidget(leyendaPQEC);
+    pila->addWidget(lstPQEC);
+    pila->addWidget(leyendaCompos);
+    pila->addWidget(lstCompos, 1);
     return listas;
 }
 
@@ -152,9 +156,7 @@ void dlgChart3_ventana::Muestra()
     Pon(*lstPQEC, f.lstPQEC, f.lstPQECIndice);
     for (QPushButton* const boton : {cmdXmas, cmdXmenos, cmdImprimir, OKButton})
         boton->setVisible(f.vista.comandos);
-    for (QWidget* const w : {static_cast<QWidget*>(lstCompos), static_cast<QWidget*>(lstPQEC),
-                             static_cast<QWidget*>(leyendaCompos), static_cast<QWidget*>(leyendaPQEC)})
-        w->setVisible(f.vista.listas);
+    listas->setVisible(f.vista.listas);
     if (!f.abierta && isVisible()) close();
 }
 

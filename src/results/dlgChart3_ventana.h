@@ -30,14 +30,14 @@ class dlgChart3_ventana : public forms::Ventana {
 
   private:
     void Construye();
-    QBoxLayout* ConstruyeListas();
+    QWidget* ConstruyeListas();
     QBoxLayout* ConstruyeBotones();
     void Conecta();
     void Imprime();
 
     dlgChart3& f;
     QLabel *lblTitulo, *lblNota, *lblNotaVelmir;
-    QLabel *leyendaCompos, *leyendaPQEC;
+    QWidget* listas;
     forms::Lamina* Grafico;
     forms::ListaParaElegir *lstCompos, *lstPQEC;
     QPushButton *cmdXmas, *cmdXmenos, *cmdImprimir, *OKButton;

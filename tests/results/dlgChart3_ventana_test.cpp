@@ -126,7 +126,9 @@ TEST_F(VentanaAbaco, SeImprimeSinComandosNiListasYTodoVuelve)
     const QTemporaryDir carpeta;
     const QString ruta = carpeta.filePath(QStringLiteral("abaco.pdf"));
     bool conControles = true;
+    QSize alImprimir;
     entorno.Impresora = [&] {
+        alImprimir = Grafico().size();
         conControles = Lista("lstCompos").isVisible() || Lista("lstPQEC").isVisible() ||
                        Control<QPushButton>(ventana, "OKButton").isVisible();
         auto impresora = std::make_unique<QPrinter>();
@@ -135,8 +137,12 @@ TEST_F(VentanaAbaco, SeImprimeSinComandosNiListasYTodoVuelve)
         return impresora;
     };
     ventana.Abre();
+    const QSize antes = Grafico().size();
     Pulsa(Control<QPushButton>(ventana, "cmdImprimir"));
     EXPECT_FALSE(conControles);
+    // The room of what is hidden is the chart's.
+    EXPECT_GT(alImprimir.width(), antes.width());
+    EXPECT_GT(alImprimir.height(), antes.height());
     EXPECT_TRUE(apoyo::BytesDeArchivo(DeQ(ruta)).starts_with("%PDF"));
     EXPECT_TRUE(Lista("lstCompos").isVisible());
     EXPECT_TRUE(Control<QPushButton>(ventana, "OKButton").isVisible());
