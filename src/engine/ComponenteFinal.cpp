@@ -93,9 +93,11 @@ void BuscaSalidas(Siro& s, const Destinos& d)
         AnotaSalida(s, d, r.NombreRepresa, r.Cauce_aa);
 }
 
-void PreguntaPorLaRed(Siro& s, std::string texto, std::string_view titulo)
+/// `lista`: what stands behind the words of the question, the names of components first.
+void PreguntaPorLaRed(Siro& s, std::string_view texto, const std::string& lista, std::string_view titulo)
 {
-    if (!model::Consulta(s, std::move(texto), titulo)) s.ContinuarSinCorregir = true;
+    std::string palabras(texto);
+    if (!model::Consulta(s, palabras + lista, titulo, palabras)) s.ContinuarSinCorregir = true;
 }
 
 /// Asks about the components of one kind that nothing drains into.
@@ -108,16 +110,16 @@ void CompruebaAportes(Siro& s, const Destinos& d, const Componentes& componentes
         if (!EsDestino(nombre(c)) || !d.alimentados.contains(nombre(c)))
             lista.append(nombre(c)).append(Separacion);
     if (lista.empty()) return;
-    PreguntaPorLaRed(s, std::string(texto) + lista + std::string(Cola), TituloAportes);
+    PreguntaPorLaRed(s, texto, lista.append(Cola), TituloAportes);
     s.ErrorRed = true;
 }
 
 void PreguntaPorSalidas(Siro& s)
 {
-    std::string texto(VariasSalidas);
+    std::string lista;
     for (int i = 1; i <= s.NroSalidas && i <= model::MaxSalidas; ++i)
-        texto.append(s.Salidas[static_cast<std::size_t>(i)]).append(Separacion);
-    PreguntaPorLaRed(s, texto.append(Cola), TituloAportes);
+        lista.append(s.Salidas[static_cast<std::size_t>(i)]).append(Separacion);
+    PreguntaPorLaRed(s, VariasSalidas, lista.append(Cola), TituloAportes);
 }
 
 }  // namespace
@@ -153,7 +155,7 @@ void ComponenteFinal(Siro& s)
     BuscaSalidas(s, d);
 
     if (s.NroSalidas == 0 && s.NroComponentes > 0) {
-        PreguntaPorLaRed(s, std::string(TextoSinSalida), TituloSinSalida);
+        PreguntaPorLaRed(s, TextoSinSalida, {}, TituloSinSalida);
         s.ErrorRed = true;
     }
     CompruebaAportes(

@@ -19,7 +19,8 @@ void PreguntaPorArea(const Siro& s, const EmbalseEnMano& e, std::string_view fin
     const std::string texto = "La superficie a(h) obtenida para h= " + NumeroATexto(s.HActual) +
                               std::string(e.clase.areaDe) + e.nombre + " es CERO. ¿Desea continuar?" +
                               std::string(final);
-    if (!model::Consulta(s, texto, e.clase.tituloArea)) s.Anfitrion.Termina();
+    const std::string repetida = std::string(e.clase.areaDe).append(final);
+    if (!model::Consulta(s, texto, e.clase.tituloArea, repetida)) s.Anfitrion.Termina();
 }
 
 /// One stage of the scheme: rise of the water [m] in a whole step at height h under the inflow I.

@@ -139,7 +139,7 @@ double ValorOConsulta(const model::Siro& s, Funcion funcion, const std::string& 
     if (lectura.lugar == Lectura::Lugar::Dentro) return lectura.valor;
     const TextoConsulta& t =
         TextoDe(funcion, lectura.lugar == Lectura::Lugar::Encima ? Caso::Encima : Caso::Debajo);
-    if (!model::Consulta(s, Une(t, nombre), t.titulo)) s.Anfitrion.Termina();
+    if (!model::Consulta(s, Une(t, nombre), t.titulo, Une(t, {}))) s.Anfitrion.Termina();
     return 0;
 }
 

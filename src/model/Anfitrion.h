@@ -17,7 +17,13 @@ struct Mensaje {
     std::string texto{};
     std::string titulo{};
     Icono icono = Icono::Ninguno;
-    bool operator==(const Mensaje&) const = default;
+    /// Of a question that a run may ask many times: its words without the names and numbers in them, the same
+    /// for all components. Nothing of it is shown, and it makes no message another one.
+    std::string repetida{};
+    bool operator==(const Mensaje& otro) const
+    {
+        return texto == otro.texto && titulo == otro.titulo && icono == otro.icono;
+    }
 };
 
 /// A box that asks for a line of text.

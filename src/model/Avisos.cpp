@@ -22,9 +22,10 @@ void Informa(const Siro& s, std::string texto)
     s.Anfitrion.Avisa({std::move(texto), {}, Icono::Ninguno});
 }
 
-bool Consulta(const Siro& s, std::string texto, std::string_view titulo)
+bool Consulta(const Siro& s, std::string texto, std::string_view titulo, std::string repetida)
 {
-    return s.Anfitrion.Pregunta({std::move(texto), std::string(titulo), Icono::Exclamacion});
+    return s.Anfitrion.Pregunta(
+        {std::move(texto), std::string(titulo), Icono::Exclamacion, std::move(repetida)});
 }
 
 std::string TextoFallaMotor(const Falla& falla)

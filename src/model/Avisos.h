@@ -18,8 +18,9 @@ void Advierte(const Siro& s, std::string texto, std::string_view titulo = Titulo
 /// Shows a box with OK in the plain style, without a title of its own.
 void Informa(const Siro& s, std::string texto);
 
-/// Asks with Yes and No and the exclamation icon. Returns true for Yes.
-bool Consulta(const Siro& s, std::string texto, std::string_view titulo);
+/// Asks with Yes and No and the exclamation icon. Returns true for Yes. `repetida`: of a question that a run
+/// may ask many times, what it is known by whatever component it is about.
+bool Consulta(const Siro& s, std::string texto, std::string_view titulo, std::string repetida = {});
 
 /// The engine's report of a fault: "Error Nro. 6 ,DesbordamientoVerifique".
 std::string TextoFallaMotor(const Falla& falla);

@@ -132,6 +132,24 @@ TEST_F(Validacion, CaucesSinAporteSeNombranConCuatroBlancos)
     EXPECT_TRUE(s.RedOk);  // one outfall and no answer of No
 }
 
+// The same gap in two networks.
+TEST_F(Validacion, LaPreguntaPorLosAportesEsUnaNombreAQuienNombre)
+{
+    UEH("u-1", "c-2");
+    Cauce("c-1", "c-2");
+    Cauce("c-2", "0");
+    ComponenteFinal(s);
+    Cauce("c-3", "c-2");
+    ComponenteFinal(s);
+    const auto preguntas = anfitrion->Preguntas();
+    ASSERT_EQ(preguntas.size(), 2U);
+    EXPECT_NE(preguntas[0], preguntas[1]);
+    EXPECT_EQ(preguntas[0].repetida,
+              "Hay tramos de Cauces sin aportes de UEHs. Verifique los tramos "
+              "siguientes y asigne sus UEH o componentes de aportes: ");
+    EXPECT_EQ(preguntas[1].repetida, preguntas[0].repetida);
+}
+
 TEST_F(Validacion, RepresasYLagosSinAporteTienenSuPropioTexto)
 {
     UEH("u-1", "c-1");

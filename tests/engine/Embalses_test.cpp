@@ -604,6 +604,19 @@ TEST_P(Embalses, SuperficieCeroPreguntaEnCadaEtapaYSiNoSube)
     EXPECT_EQ(s.ACalc, 0);
 }
 
+// Its name and height apart, the question of two steps is one; that of the second stage has other blanks.
+TEST_P(Embalses, LaPreguntaPorLaSuperficieEsLaMismaEnCadaPaso)
+{
+    Pon("Runge Kutta", {{100, 0, 0, 0}, {104, 0, 1000, 5}}, 100);
+    Corre({30, 60});
+    const std::vector<Mensaje> preguntas = anfitrion->Preguntas();
+    ASSERT_EQ(preguntas.size(), 6U);
+    EXPECT_EQ(preguntas[0].repetida.find(Nombre()), std::string::npos);
+    EXPECT_FALSE(preguntas[0].repetida.empty());
+    EXPECT_EQ(preguntas[0].repetida, preguntas[3].repetida);
+    EXPECT_NE(preguntas[0].repetida, preguntas[1].repetida);
+}
+
 TEST_P(Embalses, SuperficieNegativaPreguntaComoLaNula)
 {
     Pon("Runge Kutta", {{100, -2, 0, 0}, {104, -2, 1000, 5}}, 100);

@@ -158,6 +158,20 @@ TEST_P(LasSiete, PreguntaEnCadaLlamada)
     EXPECT_EQ(anfitrion->Preguntas(), (std::vector<Mensaje>{Encima(), Encima(), Encima()}));
 }
 
+// The name, "r-uno" or "l-uno", is all that one question has of a component.
+TEST_P(LasSiete, LaPreguntaSeConocePorSusPalabrasSinElNombre)
+{
+    Busca(50);
+    Busca(5);
+    std::vector<std::string> repetidas;
+    for (std::string texto : {GetParam().textoEncima, GetParam().textoDebajo})
+        repetidas.push_back(texto.erase(texto.find("-uno") - 1, 5));
+    const auto preguntas = anfitrion->Preguntas();
+    ASSERT_EQ(preguntas.size(), 2U);
+    EXPECT_EQ(preguntas[0].repetida, repetidas[0]);
+    EXPECT_EQ(preguntas[1].repetida, repetidas[1]);
+}
+
 TEST_P(LasSiete, ConUnSoloRenglonSoloElSeDa)
 {
     PonHAS({{10, 10, 10}});
