@@ -52,7 +52,7 @@ void Rechaza(const Siro& s, std::string_view titulo, std::string_view texto, con
 // --- reaches ---
 
 /// Objects and vertices of the reaches above move down one place; each place keeps its number. A reach that
-/// is being drawn gives way.
+/// is being drawn gives way, for its caller to put back.
 void CierraHueco(Siro& s, int hueco)
 {
     const int cuenta = s.ColCauces.Cuenta();
@@ -93,8 +93,10 @@ bool BorraElegido(frmUEHs& f, Siro& s, const ClaseConIcono<T, Limite>& clase)
     }
     coleccion.Quita(n);
     s.*clase.cuenta = Entero16(coleccion.Cuenta());
-    GuardaTrasBorrar(f, s);
-    model::LeeUEHs(s);  // numbers them anew even where nothing could be saved
+    ConservaTrazo(f, s, [&] {
+        GuardaTrasBorrar(f, s);
+        model::LeeUEHs(s);  // numbers them anew even where nothing could be saved
+    });
     Redibuja(f, s);
     return true;
 }
@@ -110,8 +112,10 @@ void BorraCauce(frmUEHs& f, Siro& s)
         Rechaza(s, TituloCauceTributario, CauceTributario, nombre);
         return;
     }
-    CierraHueco(s, n);
-    GuardaTrasBorrar(f, s);
+    ConservaTrazo(f, s, [&] {
+        CierraHueco(s, n);
+        GuardaTrasBorrar(f, s);
+    });
     Redibuja(f, s);
 }
 

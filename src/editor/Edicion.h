@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
+
 #include "editor/Dibujo.h"
 #include "model/Siro.h"
 
@@ -24,6 +26,9 @@ void ClicCauce(frmUEHs& f, model::Siro& s, Punto en);
 /// Finishes the reach being drawn: object, name, defaults. A reach whose name is cancelled stays without a
 /// name and sets marcaCauce. Requires ClicsCauce above 1.
 void TerminaCauce(frmUEHs& f, model::Siro& s);
+/// Does something that saves the network and reads it again; the reach being drawn, which no file holds, is
+/// in hand afterwards as it was. Throws what `cuerpo` throws.
+void ConservaTrazo(frmUEHs& f, model::Siro& s, const std::function<void()>& cuerpo);
 
 // --- selecting and dragging ---
 

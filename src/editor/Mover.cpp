@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <cmath>
 #include <string>
 
 #include "editor/Alcance.h"
@@ -44,6 +45,14 @@ void LlevaTributarios(Siro& s, int cauce, Punto en)
                 componente.YCauce = en.Y;
             }
     });
+}
+
+/// A hand that clicks moves the pointer a little; below this it is no drag [pixels].
+bool EsClic(const frmUEHs& f, Punto p)
+{
+    constexpr double Umbral = 3, Redondeo = 1e-3;  // of points of 32 bits
+    const Pixel desde = APixel(f, f.presion), hasta = APixel(f, p);
+    return std::hypot(hasta.x - desde.x, hasta.y - desde.y) < Umbral - Redondeo;
 }
 
 bool EsCabecera(const Siro& s)
@@ -102,12 +111,31 @@ void MueveIcono(frmUEHs& f, Siro& s, const ClaseConIcono<T, Limite>& clase, Punt
     Redibuja(f, s);
 }
 
+bool EnElLienzo(const frmUEHs& f, Punto p)
+{
+    const Pixel lugar = APixel(f, p);
+    return lugar.x >= 0 && lugar.y >= 0 && lugar.x <= f.lienzo.ancho && lugar.y <= f.lienzo.alto;
+}
+
+/// An icon that is dropped where nobody would see it goes back to where it was.
+void SueltaIcono(frmUEHs& f, Siro& s, Punto p)
+{
+    if (!f.arrastrado || EnElLienzo(f, p)) return;
+    PorClase([&](const auto& clase) {
+        if (f.arrastra != clase.mueve) return;
+        auto& componente = Elegido(s, clase);
+        componente.*clase.x = f.iconoAntes.X;
+        componente.*clase.y = f.iconoAntes.Y;
+        Redibuja(f, s);
+    });
+}
+
 }  // namespace
 
 void MueveArrastre(frmUEHs& f, Siro& s, Punto p)
 {
     if (!f.izquierdoAbajo || f.arrastra == Arrastra::Nada) return;
-    if (!f.arrastrado && p == f.presion) return;  // a click
+    if (!f.arrastrado && EsClic(f, p)) return;
     const bool empieza = !f.arrastrado;
     f.arrastrado = true;
     if (f.arrastra == Arrastra::Vertice) {
@@ -129,6 +157,7 @@ void TerminaArrastre(frmUEHs& f, Siro& s, Punto p)
     const bool vertice = f.arrastra == Arrastra::Vertice && f.arrastrado;
     const bool banda = !f.banda.empty();
     f.banda.clear();
+    SueltaIcono(f, s, p);
     if (vertice) {
         SueltaVertice(f, s, p);
     } else if (banda) {

@@ -31,17 +31,19 @@ bool EnUso(const model::Coleccion<T, Limite>& coleccion, std::string T::*nombre,
 }
 
 /// Asks for a name until one is given that no component of the collection bears: the prefix and what is
-/// typed, 15 characters at most. Nothing where the user cancels or types nothing.
+/// typed, 15 characters at most; the box that asks again says why. Nothing where the user cancels or types
+/// nothing.
 template <typename T, int Limite>
 std::optional<std::string> PideNombre(const model::Siro& s, const PeticionDeNombre& pide,
                                       const model::Coleccion<T, Limite>& coleccion, std::string T::*nombre)
 {
+    std::string texto(pide.texto);
     for (;;) {
-        const std::string tecleado =
-            s.Anfitrion.PideTexto({std::string(pide.texto), std::string(pide.titulo)});
+        const std::string tecleado = s.Anfitrion.PideTexto({texto, std::string(pide.titulo)});
         if (tecleado.empty()) return {};
         std::string dado = model::PrimerosCaracteres(std::string(pide.prefijo) + tecleado, LargoNombre);
         if (!EnUso(coleccion, nombre, dado)) return dado;
+        texto = std::string(pide.texto) + "\nEl nombre «" + dado + "» ya está en uso.";
     }
 }
 

@@ -52,9 +52,12 @@ std::string Coordenada(float x)
     return model::NumeroATexto(model::Redondea(x, 1));
 }
 
-/// The point where Enter places a component: half the span, not the centre of the drawing.
-Punto PuntoDeEnter(const Extension& e)
+/// The point where Enter places a component: half the span, not the centre of the drawing; where nothing is
+/// drawn, the middle of what is seen.
+Punto PuntoDeEnter(const frmUEHs& f)
 {
+    const Extension& e = f.extension;
+    if (!e.HayAlgo()) return DePixel(f, f.lienzo.ancho / 2.0, f.lienzo.alto / 2.0);
     return {model::Simple((double{1} * e.XMax - e.XMin) / 2),
             model::Simple((double{1} * e.YMax - e.YMin) / 2)};
 }
@@ -77,13 +80,13 @@ void Entra(frmUEHs& f, Siro& s)
         TerminaCauceSiHay(f, s);
         break;
     case Boton::UEH:
-        ColocaUEH(f, s, PuntoDeEnter(f.extension));
+        ColocaUEH(f, s, PuntoDeEnter(f));
         break;
     case Boton::Represa:
-        ColocaRepresa(f, s, PuntoDeEnter(f.extension));
+        ColocaRepresa(f, s, PuntoDeEnter(f));
         break;
     case Boton::LAGO:
-        ColocaLago(f, s, PuntoDeEnter(f.extension));
+        ColocaLago(f, s, PuntoDeEnter(f));
         break;
     default:
         break;
@@ -100,6 +103,21 @@ void TerminaModo(frmUEHs& f, Siro& s)
     Redibuja(f, s);
 }
 
+bool NadaElegido(const Siro& s)
+{
+    return s.CauceSel == 0 && s.UEHSel == 0 && s.RepresaSel == 0 && s.LagoSel == 0;
+}
+
+/// The menu comes for what it is opened on; the two ends of a link, named before, stay selected.
+void EligeParaElMenu(frmUEHs& f, Siro& s, Punto p)
+{
+    if (Modo(f) != Boton::Selecciona || !NadaElegido(s)) return;
+    Orden(f, s, [&] {
+        Selecciona(f, s, p);
+        f.arrastra = Arrastra::Nada;
+    });
+}
+
 void PideSiHay(frmUEHs& f, int cuenta, Pedido forma)
 {
     if (cuenta > 0) f.pedidos.push_back(forma);
@@ -111,7 +129,10 @@ void picDibujo_MouseDown(frmUEHs& f, Siro& s, BotonRaton boton, Punto p)
 {
     if (boton == BotonRaton::Izquierdo) Orden(f, s, [&] { ClicIzquierdo(f, s, p); });
     f.ultimo = p;
-    if (boton == BotonRaton::Derecho) f.pedidos.push_back(Pedido::Menu);
+    if (boton == BotonRaton::Derecho) {
+        EligeParaElMenu(f, s, p);
+        f.pedidos.push_back(Pedido::Menu);
+    }
     if (boton == BotonRaton::Medio) {
         f.asidero = p;
         f.puntero = Puntero::Mano;

@@ -107,6 +107,7 @@ void ArmaArrastre(frmUEHs& f, Siro& s, Punto p, const Armados& armados)
         const Punto icono = Icono(clase, Elegido(s, clase));
         f.arrastra = clase.mueve;
         f.agarre = {p.X - icono.X, p.Y - icono.Y};
+        f.iconoAntes = icono;
     });
 }
 

@@ -2,6 +2,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "editor/Cauces.h"
 #include "editor/Edicion.h"
@@ -59,6 +60,23 @@ void TerminaCauce(frmUEHs& f, Siro& s)
     if (nombre) s.Cauces(n).NombreCauce = *nombre;
     f.marcaCauce = nombre ? std::string_view{} : MarcaDeCauceSinNombre;
     Redibuja(f, s);
+}
+
+void ConservaTrazo(frmUEHs& f, Siro& s, const std::function<void()>& cuerpo)
+{
+    const std::int16_t clics = f.ClicsCauce;
+    std::vector<Punto> trazo;
+    if (clics > 0)
+        for (int j = 1; j <= s.NroVertices(s.NroCauces); ++j)
+            trazo.push_back(Vertice(s, s.NroCauces, j));
+    cuerpo();
+    if (clics == 0) return;
+    const int n = NumeroDeCauceNuevo(s);
+    s.NroVertices(n) = 0;
+    for (const Punto p : trazo)
+        AgregaVertice(s, n, p);
+    s.NroCauces = model::Entero16(n);
+    f.ClicsCauce = clics;
 }
 
 }  // namespace editor

@@ -62,7 +62,7 @@ std::string Estado(const Siro& s)
 
 void Guarda(frmUEHs& f, Siro& s)
 {
-    model::mnu_btn_toolbarGuardaUEHs(s);
+    ConservaTrazo(f, s, [&] { model::mnu_btn_toolbarGuardaUEHs(s); });
     f.guardada = true;
     Redibuja(f, s);
 }
@@ -75,6 +75,15 @@ void CierraVentana(frmUEHs& f, Siro& s)
     f.historia = {};
     f.abierta = false;
     f.principalVisible = true;
+}
+
+/// Esc with measured points in hand drops them and does nothing else.
+bool SueltaMedicion(frmUEHs& f, Siro& s)
+{
+    if (f.NroPuntosMedida == 0) return false;
+    f.NroPuntosMedida = 0;
+    Redibuja(f, s);
+    return true;
 }
 
 /// Esc and btn_toolbarSalir.
@@ -150,7 +159,7 @@ void Evento(frmUEHs& f, Siro& s, const std::function<void()>& cuerpo)
     f.lblIndicacion = Indicacion(f, s);
     if (dentroDeOtro) return;
     if (f.abierta && !f.izquierdoAbajo && bien && Anota(f, s)) f.cambiada = true;
-    if (f.guardada) f.cambiada = !bien;
+    if (f.guardada) f.cambiada = !bien || f.ClicsCauce > 0;
 }
 
 void Orden(frmUEHs& f, Siro& s, const std::function<void()>& cuerpo)
@@ -279,7 +288,7 @@ void Form_KeyDown(frmUEHs& f, Siro& s, Tecla tecla)
             if (s.CauceSel > 0) f.pedidos.push_back(Pedido::FormaCauce);
             break;
         case Tecla::Esc:
-            Cierra(f, s);
+            if (!SueltaMedicion(f, s)) Cierra(f, s);
             break;
         case Tecla::Deshacer:
             Deshace(f, s);
@@ -306,6 +315,7 @@ void PonModo(frmUEHs& f, Boton modo)
 {
     for (const FilaBoton& fila : BotonesUEHs)
         if (fila.modo) f.Pon(fila.boton, fila.boton == modo);
+    if (modo != Boton::LongArea) f.NroPuntosMedida = 0;
     f.puntero = modo == Boton::Selecciona ? Puntero::Flecha : Puntero::Cruz;
 }
 

@@ -158,6 +158,7 @@ struct frmUEHs {
     bool arrastrado = false;         ///< the pointer has moved since then
     Punto presion{};                 ///< where the left button went down
     Punto agarre{};                  ///< there, from the position of the icon that the drag moves
+    Punto iconoAntes{};              ///< position of that icon before the drag
     Punto ultimo{};                  ///< where the pointer was last
     std::vector<Punto> banda{};      ///< rubber band, a polyline; empty: none
     std::optional<Punto> asidero{};  ///< point that a pan with the middle button keeps under the pointer

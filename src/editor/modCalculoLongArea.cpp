@@ -68,7 +68,7 @@ void CalculaLongArea(frmUEHs& f, Siro& s)
     const bool cerrada = model::Consulta(s, std::string(PreguntaCierre), TituloCierre);
     if (cerrada) {
         AgregaPuntoMedida(f, {f.XMedida[1], f.YMedida[1]});
-        Redibuja(f, s);
+        s.Anfitrion.RedibujaEditor();  // the box stands over the closed figure
     }
     const double escala = model::Val(s.EscalaDibujo);  // [m per drawing unit]
     f.LongitudMedida = Simple(SumaDeLados(f, Largo) * escala);

@@ -75,6 +75,24 @@ TEST_F(EdicionArrastra, UnClicQueTomaUnVerticeNoLoMueve)
     EXPECT_EQ(s.VerticeSel, 2);
 }
 
+TEST_F(EdicionArrastra, UnArrastreEmpiezaALosTresPixeles)
+{
+    red.Cauce("c-a", {{100, 100}, {200, 200}, {300, 100}});
+    red.UEH("u-a", {400, 100});
+    Parte();
+    f.lienzo = {1600, 1600};  // a unit is two pixels
+    Clic(200, 200);
+    Arrastra({{200, 200}, {201, 201}});  // 2.8 pixels
+    EXPECT_EQ(Vertice(1, 2), (Punto{200, 200}));
+    Arrastra({{200, 200}, {201.5F, 200}, {201, 200}});  // 3, and then it follows however near
+    EXPECT_EQ(Vertice(1, 2), (Punto{201, 200}));
+    editor::LimpiaSeleccion(s);
+    Arrastra({{405, 105}, {406, 105}});
+    EXPECT_EQ(s.UEHs(1).IconoUEHx, 400);
+    Arrastra({{405, 105}, {407, 105}});
+    EXPECT_EQ(s.UEHs(1).IconoUEHx, 402);
+}
+
 const std::string PreguntaRedefinir =
     "El tramo de cauce c-b es tributario del tramo c-a , Desea redefinir el destino final del tramo ? ";
 
@@ -312,6 +330,28 @@ TEST_F(EdicionArrastra, UnLagoTambien)
     Mueve(430, 131);
     EXPECT_EQ(s.Lagos(1).IconoLAGOy, 100);
     Suelta(430, 131);
+}
+
+TEST_F(EdicionArrastra, UnIconoSoltadoFueraDelLienzoVuelveADondeEstaba)
+{
+    red.UEH("u-a", {400.3F, 100.7F});
+    red.Represa("r-a", {790, 300});
+    Parte();
+    Aprieta(405, 110);
+    Mueve(700, 700);
+    Mueve(700, 801);  // the canvas ends at 800
+    Suelta(700, 801);
+    EXPECT_EQ(s.UEHs(1).IconoUEHx, 400.3F);
+    EXPECT_EQ(s.UEHs(1).IconoUEHy, 100.7F);
+    EXPECT_EQ(Con(editor::Papel::Icono)[0].en, (Punto{400.3F, 100.7F}));
+    EXPECT_FALSE(f.cambiada);
+    EXPECT_TRUE(f.historia.anteriores.empty());
+    editor::LimpiaSeleccion(s);
+    Arrastra({{795, 305}, {805, 305}});
+    EXPECT_EQ(s.Represas(1).IconoRepresaX, 790);
+    editor::LimpiaSeleccion(s);
+    Arrastra({{405, 110}, {2, 798}});  // inside, however near the border
+    EXPECT_NEAR(s.UEHs(1).IconoUEHx, -2.7, 0.01);
 }
 
 // --- links ---

@@ -129,14 +129,16 @@ TEST_F(EdicionBorra, QuienDrenabaAOtroNoCambia)
     EXPECT_EQ(s.UEHs(1).XCauce, 70);
 }
 
-TEST_F(EdicionBorra, BorrarUnCauceDejaCaerElTrazoSinTerminar)
+TEST_F(EdicionBorra, BorrarUnCauceConservaElTrazoSinTerminar)
 {
     PonModo(Boton::Cauce);
     Clic(5, 5);
     Clic(6, 6);
     BorraCauce(2);
-    EXPECT_EQ(f.ClicsCauce, 0);
-    EXPECT_EQ(s.NroCauces, 2);
+    EXPECT_EQ(s.ColCauces.Cuenta(), 2);
+    EXPECT_EQ(f.ClicsCauce, 2);
+    EXPECT_EQ(s.NroCauces, 3);
+    EXPECT_EQ(Vertice(3, 2), (editor::Punto{6, 6}));
     EXPECT_EQ(Faltas(), std::vector<std::string>{});
 }
 

@@ -133,7 +133,12 @@ TEST_F(EdicionColoca, DosNombresLargosQueDifierenAlFinalChocanYSeVuelveAPedir)
     ASSERT_EQ(s.ColUEHs.Cuenta(), 2);
     EXPECT_EQ(s.UEHs(1).NombreUEH, "u-Cuenca alta e");
     EXPECT_EQ(s.UEHs(2).NombreUEH, "u-otra");
-    EXPECT_EQ(Peticiones().size(), 3U);
+    // The box that asks again says why.
+    EXPECT_EQ(
+        Peticiones(),
+        (Pares{{"Nombre de la UEH ?", "Agregar una UEH"},
+               {"Nombre de la UEH ?", "Agregar una UEH"},
+               {"Nombre de la UEH ?\nEl nombre «u-Cuenca alta e» ya está en uso.", "Agregar una UEH"}}));
 }
 
 TEST_F(EdicionColoca, ElNombreDeOtraClaseNoChoca)

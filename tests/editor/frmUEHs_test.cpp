@@ -251,6 +251,62 @@ TEST_F(Editor, GuardarEscribeLosArchivosYLevantaElBoton)
     EXPECT_EQ(Faltas(), std::vector<std::string>{});
 }
 
+TEST_F(Editor, GuardarConservaElCauceQueSeEstaDibujando)
+{
+    RedSana();
+    Parte();
+    const int cauces = s.ColCauces.Cuenta(), n = cauces + 1;
+    PonModo(Boton::Cauce);
+    Clic(700, 700);
+    Clic(710, 690);
+    Clic(720, 650);
+    PonModo(Boton::GuardaUEHs);
+    EXPECT_EQ(Avisos(), (Cajas{Falla(TextoGuardado)}));
+    EXPECT_EQ(editor::Modo(f), Boton::Cauce);
+    EXPECT_EQ(f.ClicsCauce, 3);
+    EXPECT_EQ(s.ColCauces.Cuenta(), cauces);
+    ASSERT_EQ(s.NroVertices(n), 3);
+    EXPECT_EQ(Vertice(n, 1), (editor::Punto{700, 700}));
+    EXPECT_EQ(Vertice(n, 3), (editor::Punto{720, 650}));
+    EXPECT_TRUE(f.cambiada);  // the reach in hand isn't on disk
+    EXPECT_EQ(Faltas(), std::vector<std::string>{});
+    Clic(730, 640);
+    Escribe({"sigue"});
+    Tecla(T::Enter);
+    ASSERT_EQ(s.ColCauces.Cuenta(), n);
+    EXPECT_EQ(s.Cauces(n).NombreCauce, "c-sigue");
+    EXPECT_EQ(s.NroVertices(n), 4);
+}
+
+TEST_F(Editor, ElPrimerCauceDeLaRedSigueEnManoTrasGuardar)
+{
+    PonModo(Boton::Cauce);
+    Clic(100, 100);
+    Clic(200, 50);
+    PonModo(Boton::GuardaUEHs);
+    EXPECT_EQ(f.ClicsCauce, 2);
+    EXPECT_EQ(s.NroCauces, 1);
+    ASSERT_EQ(s.NroVertices(1), 2);
+    EXPECT_EQ(Vertice(1, 2), (editor::Punto{200, 50}));
+}
+
+TEST_F(Editor, BorrarUnaUEHTambienConservaElCauceEnMano)
+{
+    RedSana();
+    red.UEH("u-sobra", {500, 700});
+    Parte();
+    const int n = s.ColCauces.Cuenta() + 1;
+    PonModo(Boton::Cauce);
+    Clic(700, 700);
+    Clic(710, 690);
+    PonModo(Boton::UEH);
+    Clic(600, 600);  // its name is cancelled: it is deleted, and the network saved
+    EXPECT_EQ(f.ClicsCauce, 2);
+    ASSERT_EQ(s.NroVertices(n), 2);
+    EXPECT_EQ(Vertice(n, 2), (editor::Punto{710, 690}));
+    EXPECT_EQ(Faltas(), std::vector<std::string>{});
+}
+
 TEST_F(Editor, UnaRedVaciaDicePorDondeEmpezarYComoSalir)
 {
     PonModo(Boton::Selecciona);
@@ -311,6 +367,38 @@ TEST_F(Editor, F2YElBotonDerechoPidenElMenu)
     Tecla(T::F2);
     editor::picDibujo_MouseDown(f, s, editor::BotonRaton::Derecho, {5, 5});
     EXPECT_EQ(f.pedidos, (std::vector<Pedido>{Pedido::Menu, Pedido::Menu}));
+}
+
+TEST_F(Editor, ElBotonDerechoEligeLoQueHayDebajoSiNadaEstaElegido)
+{
+    red.Cauce("c-a", {{100, 100}, {200, 200}});
+    red.UEH("u-a", {400, 100});
+    red.Lago("l-a", {600, 100});
+    Parte();
+    const auto derecho = [this](float x, float y) {
+        editor::picDibujo_MouseDown(f, s, editor::BotonRaton::Derecho, {x, y});
+        editor::picDibujo_MouseUp(f, s, editor::BotonRaton::Derecho, {x, y});
+    };
+    derecho(405, 105);
+    EXPECT_EQ(s.UEHSel, 1);
+    EXPECT_EQ(f.pedidos, std::vector<Pedido>{Pedido::Menu});
+    // What is selected stays: two ends of a link have been named with the left button.
+    derecho(600, 100);
+    EXPECT_EQ(s.UEHSel, 1);
+    EXPECT_EQ(s.LagoSel, 0);
+    editor::LimpiaSeleccion(s);
+    derecho(200, 200);
+    EXPECT_EQ(s.CauceSel, 1);
+    EXPECT_EQ(s.VerticeSel, 0);
+    Mueve(300, 300);  // nothing is dragged
+    EXPECT_EQ(Vertice(1, 2), (editor::Punto{200, 200}));
+    editor::LimpiaSeleccion(s);
+    derecho(700, 700);
+    EXPECT_EQ(s.CauceSel + s.UEHSel + s.LagoSel, 0);
+    PonModo(Boton::Cauce);  // a click there would be a vertex, and a double click ends the reach
+    derecho(405, 105);
+    EXPECT_EQ(s.UEHSel, 0);
+    EXPECT_EQ(f.pedidos.size(), 5U);
 }
 
 TEST_F(Editor, DeF3AF6AbrenSuFormaSoloSiHayDeEsaClase)
@@ -388,14 +476,16 @@ TEST_F(Editor, EnterColocaALaMitadDeLaExtensionYNoEnElCentro)
     EXPECT_EQ(s.ColLagos.Item(1).IconoLAGOy, 300);
 }
 
-TEST_F(Editor, EnterEnUnDibujoVacioColocaALaMitadDeLaExtensionAlReves)
+TEST_F(Editor, EnterEnUnDibujoVacioColocaEnElMedioDeLoQueSeVe)
 {
     Escribe({"una"});
+    f.origen = {1000, 2000};
     PonModo(Boton::UEH);
     Tecla(T::Enter);
     ASSERT_EQ(s.NroUEHs, 1);
-    EXPECT_EQ(s.ColUEHs.Item(1).IconoUEHx, -99999);  // (-99999 - 99999)/2
-    EXPECT_EQ(s.ColUEHs.Item(1).IconoUEHy, -99999);
+    // The canvas of 800 by 800 shows the units from 1000 and from 2000 on.
+    EXPECT_EQ(s.ColUEHs.Item(1).IconoUEHx, 1400);
+    EXPECT_EQ(s.ColUEHs.Item(1).IconoUEHy, 2400);
 }
 
 TEST_F(Editor, EnterTerminaElCauceConMasDeUnClic)

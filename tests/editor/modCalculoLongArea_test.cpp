@@ -148,6 +148,51 @@ TEST_F(Medicion, AlCerrarSeVeElLadoQueCierraMientrasSeMuestraElResultado)
     EXPECT_EQ(puntosALaVista, 5U);
 }
 
+TEST_F(Medicion, ElLadoQueCierraSePintaAntesDeLaCaja)
+{
+    std::vector<std::string> orden;
+    s.Anfitrion.RedibujaEditor = [&] {
+        editor::Redibuja(f, s);
+        const auto lineas = Con(Papel::Medida);
+        orden.push_back("pinta " + std::to_string(lineas.empty() ? 0 : lineas[0].cuantos));
+    };
+    s.Anfitrion.Avisa = [&](const model::Mensaje&) { orden.emplace_back("caja"); };
+    Marca(Rectangulo);
+    Responde({true});
+    Tecla(Tecla::Enter);
+    EXPECT_EQ(orden, (std::vector<std::string>{"pinta 5", "caja"}));
+}
+
+TEST_F(Medicion, EscSueltaLosPuntosYDejaElEditorAbierto)
+{
+    Marca({{0, 0}, {30, 40}});
+    Tecla(Tecla::Esc);
+    EXPECT_EQ(f.NroPuntosMedida, 0);
+    EXPECT_TRUE(Con(Papel::Medida).empty());
+    EXPECT_TRUE(f.abierta);
+    EXPECT_EQ(editor::Modo(f), Boton::LongArea);
+    EXPECT_TRUE(anfitrion->sucesos.empty());
+    red.UEH("u-a", {400, 100});
+    Parte();
+    Tecla(Tecla::Esc);  // with nothing in hand it closes as ever
+    EXPECT_FALSE(f.abierta);
+}
+
+TEST_F(Medicion, DejarElModoSueltaLosPuntos)
+{
+    Marca({{0, 0}, {30, 40}});
+    PonModo(Boton::LongArea);  // the same mode goes on
+    EXPECT_EQ(f.NroPuntosMedida, 2);
+    PonModo(Boton::GuardaUEHs);
+    EXPECT_EQ(f.NroPuntosMedida, 2);
+    PonModo(Boton::Selecciona);
+    EXPECT_EQ(f.NroPuntosMedida, 0);
+    EXPECT_TRUE(Con(Papel::Medida).empty());
+    PonModo(Boton::LongArea);
+    Marca({{50, 0}});
+    EXPECT_EQ(f.NroPuntosMedida, 1);
+}
+
 TEST_F(Medicion, NoCambiaLaRedNiSuHistoria)
 {
     Marca(Rectangulo);
