@@ -12,6 +12,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <algorithm>
+#include <initializer_list>
 
 #include "forms/Textos_ventana.h"
 
@@ -40,24 +41,33 @@ QMessageBox::Icon Dibujo(Icono icono)
     return QMessageBox::NoIcon;
 }
 
-/// Shows a box. Returns whether its first button was chosen; with one button closing the frame chooses it,
-/// with two the second.
-bool Caja(Entorno& entorno, const Mensaje& mensaje, const QString& primero, const QString& segundo = {})
+/// Between the first button and the one that cancels stands what does without the first.
+QMessageBox::ButtonRole Papel(qsizetype lugar, std::size_t cuantos)
+{
+    if (lugar == 0) return QMessageBox::AcceptRole;
+    return lugar + 1 == static_cast<qsizetype>(cuantos) ? QMessageBox::RejectRole
+                                                        : QMessageBox::DestructiveRole;
+}
+
+/// Shows a box. Returns the place of the button chosen, from 0; the first one is the default, and closing the
+/// frame chooses the last.
+int Caja(Entorno& entorno, const Mensaje& mensaje, std::initializer_list<QString> leyendas)
 {
     QMessageBox caja(Dibujo(mensaje.icono), Titulo(mensaje.titulo), Q(mensaje.texto), QMessageBox::NoButton,
                      QApplication::activeWindow());
     caja.setObjectName(QStringLiteral("Mensaje"));
     caja.setTextFormat(Qt::PlainText);
-    QPushButton* const acepta = caja.addButton(primero, QMessageBox::AcceptRole);
-    caja.setDefaultButton(acepta);
-    if (segundo.isEmpty())
-        caja.setEscapeButton(acepta);
-    else
-        caja.setEscapeButton(caja.addButton(segundo, QMessageBox::RejectRole));
-    for (QAbstractButton* boton : caja.buttons())
+    QList<QPushButton*> botones;
+    for (const QString& leyenda : leyendas)
+        botones.append(caja.addButton(leyenda, Papel(botones.size(), leyendas.size())));
+    caja.setDefaultButton(botones.constFirst());
+    caja.setEscapeButton(botones.constLast());
+    for (QPushButton* boton : botones)
         boton->setIcon({});
     entorno.Ejecuta(caja);
-    return caja.clickedButton() == acepta;
+    for (int i = 0; i < botones.size(); ++i)
+        if (caja.clickedButton() == botones.at(i)) return i;
+    return static_cast<int>(botones.size()) - 1;
 }
 
 std::string Pide(Entorno& entorno, const Peticion& peticion)
@@ -113,12 +123,15 @@ std::string EligeDonde(Entorno& entorno, std::string_view titulo, std::string_vi
 void PonCajas(model::Anfitrion& anfitrion, Entorno& entorno)
 {
     static constexpr char Si[] = "&Sí";
-    anfitrion.Avisa = [&entorno](const Mensaje& m) { Caja(entorno, m, QStringLiteral("&Aceptar")); };
+    static const QString acepta = QStringLiteral("&Aceptar"), cancela = QStringLiteral("&Cancelar");
+    anfitrion.Avisa = [&entorno](const Mensaje& m) { Caja(entorno, m, {acepta}); };
     anfitrion.Pregunta = [&entorno](const Mensaje& m) {
-        return Caja(entorno, m, QString::fromUtf8(Si), QStringLiteral("&No"));
+        return Caja(entorno, m, {QString::fromUtf8(Si), QStringLiteral("&No")}) == 0;
     };
-    anfitrion.Confirma = [&entorno](const Mensaje& m) {
-        return Caja(entorno, m, QStringLiteral("&Aceptar"), QStringLiteral("&Cancelar"));
+    anfitrion.Confirma = [&entorno](const Mensaje& m) { return Caja(entorno, m, {acepta, cancela}) == 0; };
+    anfitrion.PideResguardo = [&entorno](const Mensaje& m) {
+        return static_cast<model::Resguardo>(
+            Caja(entorno, m, {QStringLiteral("&Guardar"), QStringLiteral("&Seguir sin guardar"), cancela}));
     };
     anfitrion.PideTexto = [&entorno](const Peticion& p) { return Pide(entorno, p); };
     anfitrion.EligeArchivo = [&entorno](std::string_view titulo, std::string_view filtro) {

@@ -33,6 +33,16 @@ struct Peticion {
     std::string defecto{};
 };
 
+/// What the user wants of unsaved work before a command that could lose it.
+enum class Resguardo { Guardar, SeguirSinGuardar, Cancelar };
+
+/// What a command is about to do to the network, which may stand unsaved in the editor.
+enum class Riesgo {
+    OtroProyecto,   ///< takes another project: the editor closes
+    ReleeRed,       ///< reads the network from its files again
+    MueveProyecto,  ///< deletes the project's files or takes them to another directory
+};
+
 /// All that rules and runs ask of the world. The desktop, the batch program and the tests each fill it in;
 /// a member that is left as it is does nothing, but that `Termina` throws.
 struct Anfitrion {
@@ -42,6 +52,10 @@ struct Anfitrion {
     std::function<bool(const Mensaje&)> Pregunta = [](const Mensaje&) { return true; };
     /// Asks with OK and Cancel. Returns true for OK.
     std::function<bool(const Mensaje&)> Confirma = [](const Mensaje&) { return true; };
+    /// Asks with "Guardar", "Seguir sin guardar" and "Cancelar"; closing the box cancels.
+    std::function<Resguardo(const Mensaje&)> PideResguardo = [](const Mensaje&) {
+        return Resguardo::SeguirSinGuardar;
+    };
     /// Asks for a text. Returns the empty text where the user cancels.
     std::function<std::string(const Peticion&)> PideTexto = [](const Peticion&) { return std::string{}; };
     /// Offers the files that a filter lets through, "Description |*pattern". Returns the path of the one
@@ -87,6 +101,17 @@ struct Anfitrion {
     std::function<void()> HabilitaGuardarComo = [] {};
     /// Makes the two verification commands of the main menu available.
     std::function<void()> HabilitaVerificacion = [] {};
+    /// Settles with the user, where need be, what becomes of a drawing that isn't saved. Returns whether the
+    /// command may go on; where not, nothing must have happened yet.
+    std::function<bool(Riesgo)> ResguardaDibujo = [](Riesgo) { return true; };
+    /// Claims a project, told by the path of its configuration file, for this program in place of the one
+    /// claimed before. Returns who else has it open, or the empty text.
+    std::function<std::string(const std::string& conf)> ReclamaProyecto = [](const std::string&) {
+        return std::string{};
+    };
+    /// Puts a file into the desktop's trash. Returns false where it has none that takes it: the file is then
+    /// still there.
+    std::function<bool(const std::string& ruta)> TiraAPapelera = [](const std::string&) { return false; };
     /// Draws the editor anew.
     std::function<void()> RedibujaEditor = [] {};
 

@@ -15,6 +15,7 @@
 #include "model/Lago.h"
 #include "model/Represa.h"
 #include "model/UEH.h"
+#include "model/Vigilancia.h"
 
 namespace model {
 
@@ -167,6 +168,8 @@ struct Siro {
     bool ProyectoNuevo = false;  ///< a new project waits for its configuration to be confirmed
     bool ConfPendiente = false;  ///< start-up is over: a read of the pointer tests that its project is there
     ControlesConfigura frmConfigura{};
+
+    model::Vigilancia Vigilancia{};  ///< what is known of the project's files on disk
 
     // --- control ---
     bool SalidaPizarra = false;  ///< the Slate is on

@@ -24,7 +24,7 @@ namespace apoyo {
 
 void PrintTo(const Suceso& suceso, std::ostream* salida)
 {
-    constexpr std::array<const char*, 6> Clases = {"Aviso",    "Pregunta", "Confirmacion",
+    constexpr std::array<const char*, 7> Clases = {"Aviso",    "Pregunta", "Confirmacion", "Resguardo",
                                                    "Peticion", "Archivo",  "Fin"};
     *salida << Clases[static_cast<std::size_t>(suceso.clase)] << ' ';
     PrintTo(suceso.mensaje, salida);
@@ -70,6 +70,12 @@ void ConectaPreguntas(model::Anfitrion& a, const std::shared_ptr<Estado>& e)
         const bool acepta = Saca(e->respuestas, e->respuestaDeSiempre);
         e->sucesos.push_back({Suceso::Clase::Confirmacion, m, acepta ? "Aceptar" : "Cancelar"});
         return acepta;
+    };
+    a.PideResguardo = [e](const model::Mensaje& m) {
+        constexpr std::array<const char*, 3> Respuestas = {"Guardar", "Seguir sin guardar", "Cancelar"};
+        const model::Resguardo elegido = Saca(e->resguardos, model::Resguardo::Cancelar);
+        e->sucesos.push_back({Suceso::Clase::Resguardo, m, Respuestas[static_cast<std::size_t>(elegido)]});
+        return elegido;
     };
     a.PideTexto = [e](const model::Peticion& p) {
         std::string texto = Saca(e->textos, e->aceptaDefecto ? p.defecto : std::string{});
@@ -137,6 +143,14 @@ model::Anfitrion AnfitrionPrueba::Puerta() const
     a.carga_lbl_proyecto = [e] { ++e->rotulosProyecto; };
     a.HabilitaGuardarComo = [e] { ++e->guardarComoHabilitado; };
     a.HabilitaVerificacion = [e] { ++e->verificacionHabilitada; };
+    a.ReclamaProyecto = [e](const std::string& conf) {
+        e->reclamados.push_back(conf);
+        return e->ocupante;
+    };
+    a.TiraAPapelera = [e](const std::string& ruta) {
+        if (e->hayPapelera) e->tirados.push_back(ruta);
+        return e->hayPapelera;
+    };
     a.RedibujaEditor = [e] { ++e->redibujos; };
     a.FechaHora = [e] { return e->fechaHora; };
     a.Reloj = [e] {

@@ -21,7 +21,7 @@ namespace apoyo {
 
 /// Something that the user saw or was asked.
 struct Suceso {
-    enum class Clase { Aviso, Pregunta, Confirmacion, Peticion, Archivo, Fin };
+    enum class Clase { Aviso, Pregunta, Confirmacion, Resguardo, Peticion, Archivo, Fin };
     Clase clase = Clase::Aviso;
     model::Mensaje mensaje{};  ///< of a request its text and title; of a choice of file its filter and title
     std::string respuesta{};   ///< "Sí" or "No", the text typed, the file chosen
@@ -41,8 +41,10 @@ void PrintTo(const Suceso& suceso, std::ostream* salida);
 class AnfitrionPrueba {
   public:
     struct Estado {
-        std::deque<bool> respuestas{};       ///< to the next questions
-        bool respuestaDeSiempre = true;      ///< to all after them
+        std::deque<bool> respuestas{};   ///< to the next questions
+        bool respuestaDeSiempre = true;  ///< to all after them
+        std::deque<model::Resguardo>
+            resguardos{};                    ///< what becomes of unsaved work next; then all is cancelled
         std::deque<std::string> textos{};    ///< to the next requests for a text; then it is cancelled
         bool aceptaDefecto = false;          ///< instead, then the text offered is taken
         std::deque<std::string> elegidos{};  ///< files chosen next; then the choice is cancelled
@@ -64,6 +66,10 @@ class AnfitrionPrueba {
         int guardarComoHabilitado = 0;
         int verificacionHabilitada = 0;
         int redibujos = 0;
+        std::vector<std::string> reclamados{};  ///< projects claimed, by their configuration files
+        std::string ocupante{};                 ///< who else has the next ones open
+        bool hayPapelera = false;               ///< what is thrown away goes to `tirados` and off no disk
+        std::vector<std::string> tirados{};
 
         std::string fechaHora = "03/04/2011 10:20:30";
         double reloj = 1000;   ///< [s], what the clock shows next

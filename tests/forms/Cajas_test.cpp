@@ -54,6 +54,21 @@ TEST_F(Cajas, PreguntanConSiYNoYConAceptarYCancelar)
     EXPECT_FALSE(mundo.s.Anfitrion.Confirma(pregunta));
 }
 
+TEST_F(Cajas, LoNoGuardadoSeGuardaSeDejaOSeCancela)
+{
+    using model::Resguardo;
+    Usuario usuario;
+    usuario.Elige("Guardar").Elige("Seguir sin guardar").Elige("Cancelar");
+    usuario.Hace([](QWidget& caja) { QTest::keyClick(&caja, Qt::Key_Return); });
+    usuario.Hace([](QWidget& caja) { QTest::keyClick(&caja, Qt::Key_Escape); });
+    usuario.Hace([](QWidget& caja) { caja.close(); });
+    for (const Resguardo elegido : {Resguardo::Guardar, Resguardo::SeguirSinGuardar, Resguardo::Cancelar,
+                                    Resguardo::Guardar, Resguardo::Cancelar, Resguardo::Cancelar})
+        EXPECT_EQ(mundo.s.Anfitrion.PideResguardo({"¿Desea guardar?", "Resguardo", Icono::Exclamacion}),
+                  elegido);
+    EXPECT_EQ(usuario.Cajas(), std::vector<std::string>(6, "Resguardo|¿Desea guardar?"));
+}
+
 TEST_F(Cajas, EscEsNoYEnterEsSi)
 {
     Usuario usuario;
