@@ -18,8 +18,10 @@ using model::Siro;
 
 namespace {
 
+/// Changes the cell in hand. All of the typing in it is one step.
 void Cambia(Grilla& g, std::string texto)
 {
+    if (!g.editada) Anota(g, {{g.actual, g.Texto(g.actual)}});
     g.Pon(g.actual, std::move(texto));
     g.editada = true;
 }
@@ -83,6 +85,8 @@ void PonNroFilas(Grilla& g, int n)
 {
     const FilaGrilla vacia{std::vector<std::string>(g.columnas.size()), false};
     g.filas.resize(static_cast<std::size_t>(std::max(n, 0)), vacia);
+    g.hechos.clear();
+    g.deshechos.clear();
     const int ultima = std::max(1, g.NroFilas());
     if (g.actual.fila > ultima) g.agrega = g.editada = false;
     g.actual.fila = std::min(g.actual.fila, ultima);
@@ -97,9 +101,14 @@ void PonEditable(Grilla& g, int columna, bool editable)
 
 void VaciaDatos(Grilla& g)
 {
+    PasoEdicion paso;
     for (int fila = 1; fila <= g.NroFilas(); ++fila)
         for (int columna = 0; columna < g.NroColumnas(); ++columna)
-            if (SePuedeEditar(g, {fila, columna})) g.Pon({fila, columna}, {});
+            if (const Celda c{fila, columna}; SePuedeEditar(g, c)) {
+                paso.push_back({c, g.Texto(c)});
+                g.Pon(c, {});
+            }
+    Anota(g, std::move(paso));
     g.agrega = g.editada = false;
 }
 
@@ -210,11 +219,11 @@ Efecto Teclea(Grilla& g, Tecla tecla, bool extiende)
     return {};
 }
 
-void Escribe(Grilla& g, const Siro& s, std::string_view caracter)
+namespace {
+
+/// Puts what a key has made of the cell's text, as far as the description lets it.
+void PonTecleado(Grilla& g, const Siro& s, std::string texto)
 {
-    if (EsControl(caracter) || !SePuedeEditar(g, g.actual) || !TomaTodos(*g.reglas, caracter)) return;
-    std::string texto = g.agrega ? g.Texto(g.actual) : std::string{};
-    texto += model::ComasAPuntos(caracter);
     g.agrega = true;
     if (g.reglas->sinNumero == SinNumero::SeVacia && !NumeroDeCampo(texto)) texto.clear();
     if (const LimiteColumna* limite = LimiteRoto(*g.reglas, g.actual.columna, texto)) {
@@ -222,6 +231,70 @@ void Escribe(Grilla& g, const Siro& s, std::string_view caracter)
         texto = "0";
     }
     Cambia(g, std::move(texto));
+}
+
+}  // namespace
+
+void Escribe(Grilla& g, const Siro& s, std::string_view caracter)
+{
+    if (EsControl(caracter) || !SePuedeEditar(g, g.actual) || !TomaTodos(*g.reglas, caracter)) return;
+    std::string texto = g.agrega ? g.Texto(g.actual) : std::string{};
+    PonTecleado(g, s, texto += model::ComasAPuntos(caracter));
+}
+
+void Retrocede(Grilla& g, const Siro& s)
+{
+    if (!SePuedeEditar(g, g.actual) || g.Texto(g.actual).empty()) return;
+    const std::string& texto = g.Texto(g.actual);
+    PonTecleado(g, s, model::PrimerosCaracteres(texto, model::CuentaCaracteres(texto) - 1));
+}
+
+// --- undo ---
+
+void Anota(Grilla& g, PasoEdicion paso)
+{
+    if (paso.empty()) return;
+    g.hechos.push_back(std::move(paso));
+    g.deshechos.clear();
+}
+
+namespace {
+
+/// Goes a step from one pile to the other; steps that changed nothing are dropped on the way.
+Efecto Camina(Grilla& g, std::vector<PasoEdicion>& de, std::vector<PasoEdicion>& a)
+{
+    Efecto efecto = Deja(g);
+    const auto esInutil = [&](const PasoEdicion& paso) {
+        return std::all_of(paso.begin(), paso.end(),
+                           [&](const TextoAnterior& t) { return g.Texto(t.celda) == t.texto; });
+    };
+    while (!de.empty() && esInutil(de.back()))
+        de.pop_back();
+    if (de.empty()) return efecto;
+    PasoEdicion paso = std::move(de.back());
+    de.pop_back();
+    for (auto& [celda, texto] : paso) {
+        std::string ahora = g.Texto(celda);
+        g.Pon(celda, std::move(texto));
+        texto = std::move(ahora);
+        efecto.asentadas.push_back(celda);
+    }
+    g.actual = paso.front().celda;
+    g.ancla = paso.back().celda;
+    a.push_back(std::move(paso));
+    return efecto;
+}
+
+}  // namespace
+
+Efecto Deshace(Grilla& g)
+{
+    return Camina(g, g.hechos, g.deshechos);
+}
+
+Efecto Rehace(Grilla& g)
+{
+    return Camina(g, g.deshechos, g.hechos);
 }
 
 }  // namespace forms

@@ -50,6 +50,8 @@ struct ReglasGrilla {
     /// Whether a byte of a character's UTF-8 is taken as a key; nothing: all are.
     bool (*tomaCaracter)(char) = nullptr;
     std::span<const LimiteColumna> limites{};
+    /// Esc ends the typing in a cell, whose text stays, before it is the form's.
+    bool escDejaLaCelda = false;
 };
 
 struct FilaGrilla {
@@ -57,6 +59,16 @@ struct FilaGrilla {
     bool esTitulo = false;  ///< a grey row that gives the columns below it other titles
     bool operator==(const FilaGrilla&) const = default;
 };
+
+/// A cell and the text that a step of editing took the place of.
+struct TextoAnterior {
+    Celda celda;
+    std::string texto;
+    bool operator==(const TextoAnterior&) const = default;
+};
+
+/// What is undone at once: the typing in a cell, a block pasted, a table emptied.
+using PasoEdicion = std::vector<TextoAnterior>;
 
 /// State of a grid. A plain value; the description must outlive it.
 struct Grilla {
@@ -67,6 +79,7 @@ struct Grilla {
     Celda ancla{1, 0};                ///< the selected block reaches from here to the cursor
     bool agrega = false;   ///< the cell has taken a key since the cursor came to it: the next one is appended
     bool editada = false;  ///< its text has changed since then
+    std::vector<PasoEdicion> hechos{}, deshechos{};  ///< steps to be undone, to be done again; the last first
 
     [[nodiscard]] int NroFilas() const { return static_cast<int>(filas.size()); }
     [[nodiscard]] int NroColumnas() const { return static_cast<int>(columnas.size()); }
@@ -99,7 +112,7 @@ Grilla NuevaGrilla(const ReglasGrilla& reglas);
 std::vector<ColumnaGrilla> ColumnasDeEncabezado(std::string_view encabezado);
 
 /// Gives the grid n rows. Rows that remain keep their texts, new ones are empty; the cursor is brought
-/// inside.
+/// inside. What was done before can't be undone.
 void PonNroFilas(Grilla& g, int n);
 
 /// Makes a column one that can be edited, or not.
@@ -146,15 +159,31 @@ Efecto Teclea(Grilla& g, Tecla tecla, bool extiende = false);
 /// nothing.
 void Escribe(Grilla& g, const model::Siro& s, std::string_view caracter);
 
+/// Backspace: takes the last character off the cell's text, which is then checked as after a key.
+void Retrocede(Grilla& g, const model::Siro& s);
+
+/// Takes the last step of editing back, or does it again; the cursor goes there, and the cells are settled.
+Efecto Deshace(Grilla& g);
+Efecto Rehace(Grilla& g);
+
 // --- spreadsheet ---
 
 /// The selected block with tabs between cells and a line feed behind each row, with the columns' titles ahead
 /// where asked for. Whatever would break a cell apart is a blank.
 std::string Copia(const Grilla& g, bool conTitulos);
 
+/// Whose hand wrote a block.
+enum class OrigenBloque : std::uint8_t {
+    Ajeno,   ///< another program's: its numbers may have marks of thousands
+    Propio,  ///< this program's
+};
+
 /// Puts a block of cells, tabs and line breaks between them, in the grid with its top left cell in that of
-/// the selection. Each text obeys the rules of the column that it comes to; the first one that doesn't fit is
-/// told with its row and column, and nothing is pasted. Decimal commas become points.
-Efecto Pega(Grilla& g, const model::Siro& s, std::string_view bloque);
+/// the selection. A first row without a number is the block's heading: it is left out, which is told. Cells
+/// that can't be edited are passed over. Each number obeys the rules of the column that it comes to and isn't
+/// negative; the first text that doesn't fit is told with its row and column, and nothing is pasted. Where
+/// only the user knows what a point or a comma means, a question settles it. Decimal commas become points.
+Efecto Pega(Grilla& g, const model::Siro& s, std::string_view bloque,
+            OrigenBloque origen = OrigenBloque::Ajeno);
 
 }  // namespace forms

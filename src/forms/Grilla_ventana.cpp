@@ -10,6 +10,7 @@
 #include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <algorithm>
 #include <array>
@@ -124,6 +125,20 @@ constexpr auto TeclasDeGrilla = std::to_array<FilaTecla>({
     {Qt::Key_Backtab, Tecla::TabAtras},
 });
 
+/// Commands that are the grid's wherever it has the focus.
+constexpr auto Ordenes =
+    std::to_array({QKeySequence::Copy, QKeySequence::Paste, QKeySequence::SelectAll, QKeySequence::Undo});
+
+/// Ctrl+Y and what else the platform has for it.
+bool EsRehacer(const QKeyEvent& evento)
+{
+    return evento.matches(QKeySequence::Redo) ||
+           (evento.modifiers() == Qt::ControlModifier && evento.key() == Qt::Key_Y);
+}
+
+/// Marks a block in the clipboard as this program's.
+constexpr char FormatoPropio[] = "application/x-siro-grilla";
+
 }  // namespace
 
 TablaGrilla::TablaGrilla(Entorno& alrededor, Grilla& mostrada, std::string_view nombre,
@@ -215,13 +230,31 @@ void TablaGrilla::Escribe(const QString& texto)
 
 void TablaGrilla::Copia(bool conTitulos)
 {
-    QApplication::clipboard()->setText(Q(forms::Copia(grilla, conTitulos)));
+    auto* const datos = new QMimeData;  // the clipboard's
+    datos->setText(Q(forms::Copia(grilla, conTitulos)));
+    datos->setData(QString::fromLatin1(FormatoPropio), {});
+    QApplication::clipboard()->setMimeData(datos);
 }
 
 void TablaGrilla::Pega()
 {
-    const std::string bloque = DeQ(QApplication::clipboard()->text());
-    Suceso([&] { return forms::Pega(grilla, entorno.s, bloque); });
+    const QMimeData* const datos = QApplication::clipboard()->mimeData();
+    if (datos == nullptr) return;
+    const std::string bloque = DeQ(datos->text());
+    const bool esPropio = datos->hasFormat(QString::fromLatin1(FormatoPropio));
+    Suceso([&] {
+        return forms::Pega(grilla, entorno.s, bloque, esPropio ? OrigenBloque::Propio : OrigenBloque::Ajeno);
+    });
+}
+
+void TablaGrilla::Deshace()
+{
+    Suceso([&] { return forms::Deshace(grilla); });
+}
+
+void TablaGrilla::Rehace()
+{
+    Suceso([&] { return forms::Rehace(grilla); });
 }
 
 void TablaGrilla::SeleccionaTodo()
@@ -237,8 +270,10 @@ bool TablaGrilla::event(QEvent* evento)
     // Otherwise the window would take them for its own before the grid sees them.
     if (evento->type() == QEvent::ShortcutOverride) {
         const auto& tecla = static_cast<QKeyEvent&>(*evento);
-        if (tecla.matches(QKeySequence::Copy) || tecla.matches(QKeySequence::Paste) ||
-            tecla.matches(QKeySequence::SelectAll) || tecla.key() == Qt::Key_Delete) {
+        const bool esOrden = std::any_of(Ordenes.begin(), Ordenes.end(),
+                                         [&](QKeySequence::StandardKey o) { return tecla.matches(o); });
+        if (esOrden || EsRehacer(tecla) || tecla.key() == Qt::Key_Delete ||
+            tecla.key() == Qt::Key_Backspace) {
             evento->accept();
             return true;
         }
@@ -288,11 +323,42 @@ bool TablaGrilla::TeclaDeHoja(const QKeyEvent& evento)
     return true;
 }
 
+bool TablaGrilla::TeclaDeOrden(const QKeyEvent& evento)
+{
+    if (evento.matches(QKeySequence::Copy))
+        Copia(false);
+    else if (evento.matches(QKeySequence::Paste))
+        Pega();
+    else if (evento.matches(QKeySequence::SelectAll))
+        SeleccionaTodo();
+    else if (evento.matches(QKeySequence::Undo))
+        Deshace();
+    else if (EsRehacer(evento))
+        Rehace();
+    else
+        return false;
+    return true;
+}
+
+/// Backspace, and Esc where it ends the typing in a cell.
+bool TablaGrilla::TeclaDeCelda(const QKeyEvent& evento)
+{
+    if (evento.key() == Qt::Key_Backspace && evento.modifiers() == Qt::NoModifier) {
+        Suceso([&] {
+            Retrocede(grilla, entorno.s);
+            return Efecto{};
+        });
+        return true;
+    }
+    const bool dejaLaCelda = evento.key() == Qt::Key_Escape && grilla.editada && grilla.reglas != nullptr &&
+                             grilla.reglas->escDejaLaCelda;
+    if (dejaLaCelda) Suceso([&] { return Deja(grilla); });
+    return dejaLaCelda;
+}
+
 void TablaGrilla::keyPressEvent(QKeyEvent* evento)
 {
-    if (evento->matches(QKeySequence::Copy)) return Copia(false);
-    if (evento->matches(QKeySequence::Paste)) return Pega();
-    if (evento->matches(QKeySequence::SelectAll)) return SeleccionaTodo();
+    if (TeclaDeOrden(*evento) || TeclaDeCelda(*evento)) return;
     const auto* const fila = std::find_if(TeclasDeGrilla.begin(), TeclasDeGrilla.end(),
                                           [&](const FilaTecla& f) { return f.tecla == evento->key(); });
     if (fila != TeclasDeGrilla.end())
@@ -343,6 +409,11 @@ void TablaGrilla::focusOutEvent(QFocusEvent* evento)
 void TablaGrilla::contextMenuEvent(QContextMenuEvent* evento)
 {
     QMenu menu(this);
+    menu.addAction(QStringLiteral("&Deshacer"), QKeySequence::Undo, this, [this] { Deshace(); })
+        ->setEnabled(!grilla.hechos.empty());
+    menu.addAction(QStringLiteral("&Rehacer"), QKeySequence(Qt::CTRL | Qt::Key_Y), this, [this] { Rehace(); })
+        ->setEnabled(!grilla.deshechos.empty());
+    menu.addSeparator();
     menu.addAction(QStringLiteral("&Copiar"), QKeySequence::Copy, this, [this] { Copia(false); });
     menu.addAction(QStringLiteral("Copiar con &títulos"), this, [this] { Copia(true); });
     QAction* const pega =

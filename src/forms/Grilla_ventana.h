@@ -47,10 +47,14 @@ class TablaGrilla : public QTableView {
     bool Suceso(Cuerpo&& cuerpo);
     void Mueve(Celda celda, bool extiende);
     void Escribe(const QString& texto);
+    bool TeclaDeOrden(const QKeyEvent& evento);
+    bool TeclaDeCelda(const QKeyEvent& evento);
     bool TeclaDeHoja(const QKeyEvent& evento);
     void TeclaDeGrilla(Tecla tecla, bool extiende);
     void Copia(bool conTitulos);
     void Pega();
+    void Deshace();
+    void Rehace();
     void SeleccionaTodo();
     void PonSeleccion();
     void AjustaColumnas();

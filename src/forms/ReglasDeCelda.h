@@ -24,4 +24,7 @@ const LimiteColumna* LimiteRoto(const ReglasGrilla& reglas, int columna, std::st
 /// Whether a cell is there and can be edited.
 bool SePuedeEditar(const Grilla& g, Celda c);
 
+/// Remembers what a step takes the place of; what was undone before can't be done again.
+void Anota(Grilla& g, PasoEdicion paso);
+
 }  // namespace forms

@@ -465,13 +465,23 @@ TEST_F(UnaGrilla, LaCeldaEditadaSeAsientaTambienAlPegarEnOtra)
     EXPECT_EQ(T(1, 1), "7");
 }
 
-TEST_F(GrillaDeComponentes, UnaColumnaQueNoSeEditaNoAceptaOtroTexto)
+TEST_F(GrillaDeComponentes, UnaColumnaQueNoSeEditaSePasaPorAlto)
+{
+    Mueve(g, {1, 0});
+    Pega(g, s, "c-9\t1\t0.1");
+    EXPECT_EQ(T(1, 0), "c-1");
+    EXPECT_EQ(T(1, 1), "1");
+    EXPECT_EQ(T(1, 2), "0.1");
+    EXPECT_TRUE(anfitrion->sucesos.empty());
+}
+
+TEST_F(GrillaDeComponentes, UnBloqueSinNadaQueEditarSeRechaza)
 {
     Mueve(g, {1, 0});
     const Grilla antes = g;
-    Pega(g, s, "c-9\t1\t0.1");
+    Pega(g, s, "c-1\nc-9");
     EXPECT_EQ(UltimoAviso(),
-              "No se pegó ningún dato. Fila 1, columna \"Nombre\": la celda no puede modificarse");
+              "No se pegó ningún dato. Fila 2, columna \"Nombre\": la celda no puede modificarse");
     EXPECT_EQ(g, antes);
 }
 
@@ -495,12 +505,224 @@ TEST_F(GrillaDeComponentes, PegadoPasadoDelLimiteSeRechazaConElMensajeDeLaColumn
     EXPECT_EQ(g, antes);
 }
 
-TEST_F(GrillaDeComponentes, PegarLetrasPasaDondeTeclearlasPasa)
+TEST_F(GrillaDeComponentes, PegarLetrasNoPasaAunqueTeclearlasPase)
 {
+    const Grilla antes = g;
     Pega(g, s, "abc");
-    EXPECT_EQ(T(1, 1), "abc");
-    Pega(g, s, "a?c");
-    EXPECT_EQ(UltimoAviso(), "No se pegó ningún dato. Fila 1, columna \"Vel.\": \"a?c\" no es un número");
+    EXPECT_EQ(UltimoAviso(), "No se pegó ningún dato. Fila 1, columna \"Vel.\": \"abc\" no es un número");
+    EXPECT_EQ(g, antes);
+}
+
+TEST_F(GrillaDeComponentes, UnEncabezadoPegadoNoCorreLosValores)
+{
+    Mueve(g, {1, 0});
+    Pega(g, s, "Componente\tVel. [m/s]\tx\nc-1\t1\t0.1\nc-2\t2\t0.2\n");
+    EXPECT_EQ(T(1, 1), "1");
+    EXPECT_EQ(T(2, 2), "0.2");
+    EXPECT_EQ(T(3, 1), "");
+    EXPECT_EQ(
+        anfitrion->Avisos(),
+        (std::vector<Mensaje>{{"Se pegaron 2 filas. La primera fila del bloque no tiene números: se tomó "
+                               "como encabezado y no se pegó.",
+                               "", Icono::Ninguno}}));
+}
+
+TEST_F(UnaGrilla, SoloLaPrimeraFilaEsEncabezadoYSiNoTieneNumeros)
+{
+    const Grilla antes = g;
+    Pega(g, s, "H\tQ\n[m]\t[m3/s]\n1\t2\n");
+    EXPECT_EQ(UltimoAviso(), "No se pegó ningún dato. Fila 1, columna \"H [m]\": \"[m]\" no es un número");
+    Pega(g, s, "H\t2\n1\t2\n");
+    EXPECT_EQ(UltimoAviso(), "No se pegó ningún dato. Fila 1, columna \"H [m]\": \"H\" no es un número");
+    Pega(g, s, "H\n1\n2\n3\n4\n");  // without the heading one too many
+    EXPECT_EQ(UltimoAviso(), "No se pegó ningún dato. Fila 4, columna \"H [m]\": la tabla no tiene esa fila");
+    EXPECT_EQ(g, antes);
+    Pega(g, s, "H\n1,5\n");
+    EXPECT_EQ(T(1, 1), "1.5");
+    EXPECT_EQ(
+        UltimoAviso(),
+        "Se pegó 1 fila. La primera fila del bloque no tiene números: se tomó como encabezado y no se pegó.");
+}
+
+TEST_F(UnaGrilla, UnaFilaVaciaNoEsEncabezado)
+{
+    g.Pon({1, 1}, "7");
+    Pega(g, s, "\n5");
+    EXPECT_EQ(T(1, 1), "");
+    EXPECT_EQ(T(2, 1), "5");
+    EXPECT_TRUE(anfitrion->sucesos.empty());
+}
+
+TEST_F(UnaGrilla, UnNegativoNoSePegaComoNoSeTeclea)
+{
+    const Grilla antes = g;
+    Pega(g, s, "1\n-30");
+    EXPECT_EQ(UltimoAviso(), "No se pegó ningún dato. Fila 2, columna \"H [m]\": \"-30\" es negativo");
+    EXPECT_EQ(g, antes);
+}
+
+TEST_F(UnaGrilla, LoQueLaCeldaYaTieneVuelveAElla)
+{
+    g.Pon({1, 1}, "-2");  // a height of a file
+    g.Pon({2, 1}, "2.345");
+    Pega(g, s, "-2\t1\n2.345\t2\n");
+    EXPECT_TRUE(anfitrion->sucesos.empty());
+    EXPECT_EQ(T(1, 1), "-2");
+    EXPECT_EQ(T(2, 1), "2.345");
+    EXPECT_EQ(T(2, 2), "2");
+}
+
+// --- marks of thousands ---
+
+TEST_F(UnaGrilla, ElPuntoAnteTresCifrasSePreguntaUnaVez)
+{
+    for (const bool deMiles : {true, false}) {
+        anfitrion->sucesos.clear();
+        anfitrion->respuestas = {deMiles};
+        Pega(g, s, "2.300\t5\n12.450\t0,5\n");
+        EXPECT_EQ(T(1, 1), deMiles ? "2300" : "2.300");
+        EXPECT_EQ(T(2, 1), deMiles ? "12450" : "12.450");
+        EXPECT_EQ(T(1, 2), "5");
+        EXPECT_EQ(T(2, 2), "0.5");
+        ASSERT_EQ(anfitrion->sucesos.size(), 1U);
+        EXPECT_EQ(anfitrion->Preguntas(),
+                  (std::vector<Mensaje>{
+                      {"Los números del bloque pueden leerse de dos maneras. ¿Separa el punto los "
+                       "miles?\n\nSí:  2.300 es 2300;   12.450 es 12450\nNo:  2.300 es 2.3;   "
+                       "12.450 es 12.45",
+                       "Números pegados", Icono::Pregunta}}));
+    }
+}
+
+TEST_F(UnaGrilla, ConUnaSolaCeldaDudosaElOtroEjemploEsDeLasDemas)
+{
+    Pega(g, s, "2.300\n1,5\n7\n");
+    EXPECT_EQ(anfitrion->Preguntas().at(0).texto,
+              "Los números del bloque pueden leerse de dos maneras. ¿Separa el punto los miles?\n\n"
+              "Sí:  2.300 es 2300;   1,5 es 1.5\nNo:  2.300 es 2.3;   1,5 es 1.5");
+}
+
+TEST_F(UnaGrilla, LoQueNoEsDelBloqueEditableNoSePregunta)
+{
+    PonEditable(g, 1, false);
+    Pega(g, s, "2.300\t1,5\n");
+    EXPECT_TRUE(anfitrion->sucesos.empty());
+    EXPECT_EQ(T(1, 1), "");
+    EXPECT_EQ(T(1, 2), "1.5");
+}
+
+TEST_F(UnaGrilla, LoPropioNoSePregunta)
+{
+    Pega(g, s, "2.300\n", OrigenBloque::Propio);
+    EXPECT_EQ(T(1, 1), "2.300");
+    EXPECT_TRUE(anfitrion->sucesos.empty());
+}
+
+TEST_F(UnaGrilla, LoQueNoCabeDeNingunaManeraNoSePregunta)
+{
+    Pega(g, s, "2.300\n-1\n");
+    EXPECT_TRUE(anfitrion->Preguntas().empty());
+    EXPECT_EQ(UltimoAviso(), "No se pegó ningún dato. Fila 2, columna \"H [m]\": \"-1\" es negativo");
+}
+
+TEST_F(GrillaDeComponentes, LoQueLaRespuestaHaceDemasiadoGrandeSeRechaza)
+{
+    const Grilla antes = g;
+    anfitrion->respuestas = {true, false};
+    Pega(g, s, "2.300\n");
+    EXPECT_EQ(UltimoAviso(), "No se pegó ningún dato. Fila 1, columna \"Vel.\": menor de 15");
+    EXPECT_EQ(g, antes);
+    Pega(g, s, "2.300\n");
+    EXPECT_EQ(T(1, 1), "2.300");
+}
+
+// --- backspace and undo ---
+
+TEST_F(UnaGrilla, RetrocesoQuitaUnCaracterYDejaAgregar)
+{
+    g.Pon({1, 1}, "1.25");
+    Retrocede(g, s);
+    EXPECT_EQ(T(1, 1), "1.2");
+    Teclas("7");
+    EXPECT_EQ(T(1, 1), "1.27");
+    g.Pon({2, 1}, "4e1");
+    Mueve(g, {2, 1});
+    Retrocede(g, s);  // "4e" is no number
+    EXPECT_EQ(T(2, 1), "");
+    Retrocede(g, s);
+    EXPECT_EQ(T(2, 1), "");
+    PonEditable(g, 2, false);
+    g.Pon({1, 2}, "7");
+    Mueve(g, {1, 2});
+    Retrocede(g, s);
+    EXPECT_EQ(T(1, 2), "7");
+}
+
+TEST_F(GrillaDeComponentes, TrasRetrocesoSePruebaElLimite)
+{
+    g.Pon({1, 1}, "añ");
+    Retrocede(g, s);
+    EXPECT_EQ(T(1, 1), "a");
+    g.Pon({1, 1}, "16x");
+    Retrocede(g, s);
+    EXPECT_EQ(UltimoAviso(), "menor de 15");
+    EXPECT_EQ(T(1, 1), "0");
+}
+
+TEST_F(UnaGrilla, DeshacerVuelveUnaCeldaEnteraYRehacerLaRepite)
+{
+    g.Pon({1, 1}, "77");
+    Teclas("12.5");
+    Teclea(g, Tecla::Abajo);
+    Teclas("3");
+    EXPECT_EQ(Deshace(g).asentadas, (std::vector<Celda>{{2, 1}, {2, 1}}));
+    EXPECT_EQ(T(2, 1), "");
+    EXPECT_EQ(Deshace(g).asentadas, (std::vector<Celda>{{1, 1}}));
+    EXPECT_EQ(T(1, 1), "77");
+    EXPECT_EQ(g.actual, (Celda{1, 1}));
+    EXPECT_TRUE(Deshace(g).asentadas.empty());
+    Rehace(g);
+    EXPECT_EQ(T(1, 1), "12.5");
+    Rehace(g);
+    EXPECT_EQ(T(2, 1), "3");
+    EXPECT_EQ(g.actual, (Celda{2, 1}));
+    EXPECT_TRUE(Rehace(g).asentadas.empty());
+    Deshace(g);
+    Teclas("9");
+    EXPECT_TRUE(Rehace(g).asentadas.size() ==
+                1);  // the cell in hand settles; nothing else is left to be done
+    EXPECT_EQ(T(2, 1), "9");
+}
+
+TEST_F(UnaGrilla, LaLetraQueVaciaUnaCeldaSeDeshace)
+{
+    g.Pon({1, 1}, "77");
+    Teclas("x");
+    EXPECT_EQ(T(1, 1), "");
+    Deshace(g);
+    EXPECT_EQ(T(1, 1), "77");
+}
+
+TEST_F(UnaGrilla, UnBloquePegadoYUnaTablaVaciadaSeDeshacenDeUnaVez)
+{
+    g.Pon({2, 2}, "8");
+    Pega(g, s, "1\t2\n3\t4\n");
+    VaciaDatos(g);
+    Deshace(g);
+    EXPECT_EQ(T(2, 2), "4");
+    const Efecto efecto = Deshace(g);
+    EXPECT_EQ(efecto.asentadas.size(), 4U);
+    EXPECT_EQ(T(1, 1), "");
+    EXPECT_EQ(T(2, 2), "8");
+    EXPECT_EQ(Seleccion(g), (Bloque{{1, 1}, {2, 2}}));
+}
+
+TEST_F(UnaGrilla, OtrasFilasNoSeDeshacen)
+{
+    Teclas("5");
+    PonNroFilas(g, 2);
+    Deshace(g);
+    EXPECT_EQ(T(1, 1), "5");
 }
 
 // --- whatever is done ---
@@ -511,9 +733,9 @@ std::string UnoDe(const std::vector<std::string>& textos)
     return textos[*rc::gen::inRange<std::size_t>(0, textos.size())];
 }
 
-void HaceAlgo(Grilla& g, const model::Siro& s)
+void HaceAlgo(Grilla& g, const model::Siro& s, bool otrasFilas = true)
 {
-    switch (*rc::gen::inRange(0, 6)) {
+    switch (*rc::gen::inRange(0, 8)) {
     case 0:
         Teclea(g, static_cast<Tecla>(*rc::gen::inRange(0, 8)), *rc::gen::arbitrary<bool>());
         break;
@@ -524,7 +746,13 @@ void HaceAlgo(Grilla& g, const model::Siro& s)
         Pega(g, s, UnoDe({"1", "x", "1\t2", "1,5\n-2\n", "\t\n3", "1\t2\t3\n4\t5\t6\n"}));
         break;
     case 3:
-        PonNroFilas(g, *rc::gen::inRange(0, 5));
+        if (otrasFilas) PonNroFilas(g, *rc::gen::inRange(0, 5));
+        break;
+    case 4:
+        *rc::gen::arbitrary<bool>() ? Deshace(g) : Rehace(g);
+        break;
+    case 5:
+        Retrocede(g, s);
         break;
     default:
         Escribe(g, s, UnoDe({"0", "1", "9", ".", ",", "-", "e", "a", " ", "ñ"}));
@@ -572,9 +800,9 @@ RC_GTEST_PROP(PropiedadesGrilla, UnBloqueSePegaEnteroOSeDicePorQueNo, ())
     model::Siro s;
     s.Anfitrion = anfitrion.Puerta();
     Grilla g = NuevaGrilla(DeTabla);
-    PonNroFilas(g, 3);
+    PonNroFilas(g, 4);
     Mueve(g, {*rc::gen::inRange(1, 4), *rc::gen::inRange(1, 3)});
-    std::string bloque;
+    std::string bloque;  // behind a number: a block without any may be a heading
     int celdas = 0;
     for (int filas = *rc::gen::inRange(1, 4); filas > 0; --filas) {
         for (int columnas = *rc::gen::inRange(1, 3); columnas > 0; --columnas, ++celdas)
@@ -582,11 +810,31 @@ RC_GTEST_PROP(PropiedadesGrilla, UnBloqueSePegaEnteroOSeDicePorQueNo, ())
         bloque += "\n";
     }
     const Grilla antes = g;
-    const Efecto efecto = Pega(g, s, bloque);
+    const Efecto efecto = Pega(g, s, "1\n" + bloque);
     if (anfitrion->Avisos().empty())
-        RC_ASSERT(efecto.asentadas.size() == static_cast<std::size_t>(celdas));
+        RC_ASSERT(efecto.asentadas.size() == static_cast<std::size_t>(celdas) + 1);
     else
         RC_ASSERT(g == antes && anfitrion->Avisos().size() == 1U);
+}
+
+RC_GTEST_PROP(PropiedadesGrilla, DeshacerTodoDejaComoEstabaYRehacerTodoComoQuedo, ())
+{
+    const model::Siro s;
+    Grilla g = NuevaGrilla(DeTabla);
+    PonNroFilas(g, 3);
+    g.Pon({1, 1}, "77");
+    const auto antes = g.filas;
+    for (int n = *rc::gen::inRange(0, 40); n > 0; --n)
+        HaceAlgo(g, s, false);
+    while (!g.deshechos.empty())
+        Rehace(g);
+    const auto despues = g.filas;
+    while (!g.hechos.empty())
+        Deshace(g);
+    RC_ASSERT(g.filas == antes);
+    while (!g.deshechos.empty())
+        Rehace(g);
+    RC_ASSERT(g.filas == despues);
 }
 
 }  // namespace

@@ -106,6 +106,57 @@ TEST_F(TablaDePrueba, LoQueNoCabeSeDiceYNoSePegaNada)
     EXPECT_EQ(Mostrado(1, 1), "");
 }
 
+TEST_F(TablaDePrueba, UnEncabezadoPegadoNoCorreLasFilas)
+{
+    QApplication::clipboard()->setText(QStringLiteral("P\tD\r\n1,5\t60\r\n2\t120\r\n"));
+    QTest::keyClick(tabla, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(Mostrado(1, 1), "1.5");
+    EXPECT_EQ(Mostrado(2, 2), "120");
+    EXPECT_EQ(Mostrado(3, 1), "");
+    ASSERT_EQ(mundo.anfitrion->Avisos().size(), 1U);
+}
+
+TEST_F(TablaDePrueba, LosMilesDeUnaPlanillaSePreguntanYLosPropiosNo)
+{
+    QApplication::clipboard()->setText(QStringLiteral("2.300\n"));
+    QTest::keyClick(tabla, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(Mostrado(1, 1), "2300");
+    EXPECT_EQ(mundo.anfitrion->Preguntas().size(), 1U);
+
+    Pulsa(2, 1);
+    QTest::keyClicks(tabla, QStringLiteral("4.125"));
+    QTest::keyClick(tabla, Qt::Key_C, Qt::ControlModifier);
+    Pulsa(3, 1);
+    QTest::keyClick(tabla, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(Mostrado(3, 1), "4.125");
+    EXPECT_EQ(mundo.anfitrion->Preguntas().size(), 1U);
+}
+
+TEST_F(TablaDePrueba, RetrocesoQuitaUnCaracter)
+{
+    QTest::keyClicks(tabla, QStringLiteral("12.5"));
+    QTest::keyClick(tabla, Qt::Key_Backspace);
+    EXPECT_EQ(Mostrado(1, 1), "12.");
+    QTest::keyClick(tabla, Qt::Key_Backspace);
+    QTest::keyClick(tabla, Qt::Key_Backspace);
+    EXPECT_EQ(Mostrado(1, 1), "1");
+    QTest::keyClicks(tabla, QStringLiteral("7"));
+    EXPECT_EQ(Mostrado(1, 1), "17");
+}
+
+TEST_F(TablaDePrueba, ControlZDeshaceYControlYRehace)
+{
+    grilla.Pon({1, 1}, "99");
+    QTest::keyClicks(tabla, QStringLiteral("12x"));
+    EXPECT_EQ(Mostrado(1, 1), "");
+    asentadas.clear();
+    QTest::keyClick(tabla, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Mostrado(1, 1), "99");
+    EXPECT_EQ(asentadas.back(), (Celda{1, 1}));
+    QTest::keyClick(tabla, Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(Mostrado(1, 1), "");
+}
+
 TEST_F(TablaDePrueba, TabRecorreLasCeldasYAlFinalSigue)
 {
     Pulsa(3, 1);

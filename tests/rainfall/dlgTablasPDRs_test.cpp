@@ -58,6 +58,10 @@ class DialogoTablasPDRs : public testing::Test {
         Abre(2);
         PonNro(std::to_string(n));
         forms::Pega(G(), s, filas);
+        Aplica();
+    }
+    void Aplica()
+    {
         disco.OlvidaLlamadas();
         cmdAplicar(f, pp, s);
         escrito = !disco.Llamadas().empty();
@@ -266,6 +270,15 @@ TEST_F(DialogoTablasPDRs, DoceCon7QuedaEnLaSerieYTreceEnElArchivo)
     EXPECT_EQ(Fila(1), (Textos{"13", "60", "2"}));
 }
 
+TEST_F(DialogoTablasPDRs, UnaLaminaNegativaQueYaEstabaNoPasa)
+{
+    Aplica(1, "1\t60\t2");
+    G().Pon({1, 1}, "-1");
+    Aplica();
+    EXPECT_FALSE(escrito);
+    EXPECT_EQ(Avisos(), std::vector<Mensaje>{Inconsistentes});
+}
+
 struct CasoCelda {
     const char* fila;
     bool pasa;
@@ -278,7 +291,6 @@ TEST_F(DialogoTablasPDRs, CadaColumnaTieneSusLimites)
                                   {"9999\t60\t2", true, 0},
                                   {"10000\t60\t2", false, 1},
                                   {"9999.5\t60\t2", false, 1},
-                                  {"-1\t60\t2", false, 1},
                                   {"\t60\t2", false, 1},
                                   {"10\t61\t2", false, 0},
                                   {"10\t60.5\t2", false, 0},

@@ -91,7 +91,8 @@ constexpr forms::ReglasGrilla ReglasDe(std::string_view encabezado, std::span<co
             .sinNumero = forms::SinNumero::Queda,
             .enterPoneCero = false,
             .tomaCaracter = TomaTecla,
-            .limites = limites};
+            .limites = limites,
+            .escDejaLaCelda = true};
 }
 
 constexpr forms::ReglasGrilla ReglasCauces = ReglasDe(

@@ -300,6 +300,43 @@ TEST_F(EditorDeTabla, UnaLetraPasaSeGuardaComoCeroYLasColumnasGrisesNoSeTocan)
     EXPECT_EQ(s.UEHs(1).Area, 0);
 }
 
+TEST_F(EditorDeTabla, EscDejaLaCeldaYDespuesLaForma)
+{
+    Abre([](QDialog& forma) {
+        forms::TablaGrilla& uehs = Grilla(forma, "MSFlexGridEditUEHs");
+        Clic(uehs, 1, 5);
+        QTest::keyClicks(&uehs, QStringLiteral("12"));
+        QTest::keyClick(&uehs, Qt::Key_Escape);
+        EXPECT_TRUE(forma.isVisible());
+        EXPECT_EQ(Celda(uehs, 1, 5), "12");
+        QTest::keyClicks(&uehs, QStringLiteral("3"));  // come to anew
+        EXPECT_EQ(Celda(uehs, 1, 5), "3");
+    });
+}
+
+TEST_F(EditorDeTabla, LosTitulosPegadosNoCorrenLosValores)
+{
+    Abre([this](QDialog& forma) {
+        forms::TablaGrilla& uehs = Grilla(forma, "MSFlexGridEditUEHs");
+        const std::string tercera = Celda(uehs, 3, 5);
+        QApplication::clipboard()->setText(QStringLiteral("Area [ha]\tLong.\r\n11\t12\r\n21\t22\r\n"));
+        Clic(uehs, 1, 5);
+        QTest::keyClick(&uehs, Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(Celda(uehs, 1, 5), "11");
+        EXPECT_EQ(Celda(uehs, 2, 6), "22");
+        EXPECT_EQ(Celda(uehs, 3, 5), tercera);
+        EXPECT_EQ(mundo.anfitrion->Avisos().size(), 1U);
+        QTest::keyClick(&uehs, Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_NE(Celda(uehs, 1, 5), "11");
+        mundo.anfitrion->sucesos.clear();
+        QApplication::clipboard()->setText(QStringLiteral("11\r\nonce\r\n"));
+        QTest::keyClick(&uehs, Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(mundo.anfitrion->Avisos().at(0).texto,
+                  "No se pegó ningún dato. Fila 2, columna \"Area\": \"once\" no es un número");
+        EXPECT_NE(Celda(uehs, 1, 5), "11");
+    });
+}
+
 TEST_F(EditorDeTabla, CancelarNoGuardaNada)
 {
     const float area = s.UEHs(1).Area;
