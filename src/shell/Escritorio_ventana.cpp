@@ -17,6 +17,14 @@ namespace {
 
 constexpr std::chrono::milliseconds LatidoPortada{10};
 
+/// Whether a window is another one, or is owned by it, at however many removes.
+bool EstaBajo(const QObject& ventana, const QObject& otra)
+{
+    for (const QObject* una = &ventana; una != nullptr; una = una->parent())
+        if (una == &otra) return true;
+    return false;
+}
+
 }  // namespace
 
 Escritorio::Escritorio(const std::string& dirTrabajo)
@@ -200,10 +208,14 @@ void Escritorio::Cierra(Ventana ventana)
 void Escritorio::PonBajo(QWidget& ventana, QWidget& dueno)
 {
     ventanaPrincipal->Ventanas().Saca(ventana);
+    if (ventana.parent() != nullptr) QObject::disconnect(ventana.parent(), nullptr, &ventana, nullptr);
     ventana.setParent(&dueno, Qt::Window);
+    // The window isn't its owner's: an owner that goes without having been closed must not delete it.
+    QObject::connect(&dueno, &QObject::destroyed, &ventana, [&ventana] { ventana.setParent(nullptr); });
     const auto* const formulario = qobject_cast<QDialog*>(&dueno);
     if (formulario == nullptr) return;
-    const auto alTerminar = [this, &ventana] {
+    const auto alTerminar = [this, &ventana, &dueno] {
+        QObject::disconnect(&dueno, nullptr, &ventana, nullptr);
         const bool queda = &ventana == ventanaPizarra.get() && pizarra.abierta && !entorno.Terminando();
         if (!queda) ventana.close();
         ventana.setParent(nullptr);
@@ -218,7 +230,8 @@ void Escritorio::Presenta(QWidget& ventana)
     // The editor hides the main window, and whatever stands in it, for as long as it is at the front.
     if (dueno == nullptr && !ventanaPrincipal->isVisible()) dueno = QApplication::activeWindow();
     if (dueno == nullptr) return ventanaPrincipal->Ventanas().Presenta(ventana);
-    if (dueno != &ventana && ventana.parentWidget() != dueno) PonBajo(ventana, *dueno);
+    // What is at the front may be the window itself or stand under it, and then it stays where it is.
+    if (!EstaBajo(*dueno, ventana) && ventana.parentWidget() != dueno) PonBajo(ventana, *dueno);
     ventana.show();
     ventana.raise();
     ventana.activateWindow();

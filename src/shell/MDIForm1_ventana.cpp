@@ -181,6 +181,7 @@ void MDIForm1_ventana::Abre()
     Muestra();
     restoreGeometry(entorno.Ajustes().value(QLatin1String(ClaveLugar)).toByteArray());
     restoreState(entorno.Ajustes().value(QLatin1String(ClaveBarras)).toByteArray());
+    abierta = true;
     show();
 }
 
@@ -208,6 +209,7 @@ void MDIForm1_ventana::Muestra()
 
 void MDIForm1_ventana::Ejecuta(Rutina rutina)
 {
+    if (!abierta) return;
     Suceso([this, rutina] { rutina(f, entorno.s, mandos); });
 }
 

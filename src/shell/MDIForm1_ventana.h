@@ -45,6 +45,7 @@ class MDIForm1_ventana : public QMainWindow, protected forms::Sucesos {
     MDIForm1& f;
     const Mandos& mandos;
     Area* area = nullptr;
+    bool abierta = false;  ///< it has come up: the splash is over, and commands are taken
     std::array<QAction*, NroVariables> variables{};
     std::array<RotuloProyecto*, NroRotulos> rotulos{};
 };

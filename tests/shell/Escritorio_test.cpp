@@ -177,6 +177,55 @@ TEST_F(EscritorioDePrueba, SinProyectoElEditorSeCierraYLaVentanaPrincipalVuelve)
     EXPECT_TRUE(escritorio.Principal().isVisible());
 }
 
+// The window would become the splash's own and go with it, long before whoever has it lets it go.
+TEST_F(EscritorioDePrueba, DuranteLaPortadaNoCorreNingunaOrdenDelMenu)
+{
+    QTimer::singleShot(50, &escritorio.entorno, [&] { Accion("mnuEmpiricos").trigger(); });
+    escritorio.Arranca(0.3, {});
+    QTest::qWait(1);
+    for (const QWidget* const ventana : QApplication::topLevelWidgets())
+        EXPECT_TRUE(!ventana->isVisible() || ventana == &escritorio.Principal())
+            << DeQ(ventana->objectName());
+    EXPECT_EQ(escritorio.Principal().Ventanas().subWindowList().size(), 0);
+    Accion("mnuEmpiricos").trigger();
+    EXPECT_EQ(escritorio.Principal().Ventanas().subWindowList().size(), 1);
+}
+
+TEST_F(EscritorioDePrueba, DosVentanasQueSePidenUnaAOtraNoSonDuenasUnaDeOtra)
+{
+    Arranca(instalacion.Quelmar());
+    Accion("mnufrmUEHs").trigger();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(Editor()));
+    QWidget una;
+    QWidget otra;
+    escritorio.entorno.Presenta(una);
+    ASSERT_TRUE(apoyo::Espera([&] { return QApplication::activeWindow() == &una; }));
+    escritorio.entorno.Presenta(otra);
+    ASSERT_TRUE(apoyo::Espera([&] { return QApplication::activeWindow() == &otra; }));
+    EXPECT_EQ(otra.parentWidget(), &una);
+    escritorio.entorno.Presenta(una);
+    EXPECT_EQ(una.parentWidget(), Editor());
+    EXPECT_EQ(otra.parentWidget(), &una);
+    EXPECT_TRUE(apoyo::Espera([&] { return QApplication::activeWindow() == &una; }));
+}
+
+// As when the program ends while the form is open.
+TEST_F(EscritorioDePrueba, UnFormularioQueDesapareceSinTerminarNoSeLlevaLaVentanaQuePidio)
+{
+    Arranca();
+    QWidget grafico;
+    {
+        QDialog formulario;
+        formulario.setModal(true);
+        formulario.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&formulario));
+        escritorio.entorno.Presenta(grafico);
+        ASSERT_EQ(grafico.parentWidget(), &formulario);
+    }
+    EXPECT_EQ(grafico.parentWidget(), nullptr);
+    EXPECT_FALSE(grafico.isVisible());
+}
+
 TEST_F(EscritorioDePrueba, UnaVentanaPedidaDesdeUnFormularioModalEsSuyaYSeCierraConEl)
 {
     Arranca();
