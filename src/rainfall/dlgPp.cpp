@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <initializer_list>
+#include <utility>
 
 #include "engine/modDistriPp.h"
 #include "forms/Evento.h"
@@ -175,13 +176,18 @@ void SeleccionaTormenta(dlgPp& f)
     if (indice >= 0) f.tormenta.nombre = items[static_cast<std::size_t>(indice)];
 }
 
+/// Reads the storm. Its step becomes that of the model, but where its file tells none: the step then stays.
 void LeeTormenta(dlgPp& f, Siro& s)
 {
+    constexpr std::int16_t SinLeer = -1;  // [min]
+    const std::int16_t paso = std::exchange(f.tormenta.PasoPpReal, SinLeer);
     model::LeePpReal(s, f.tormenta);
+    const bool conPaso = f.tormenta.PasoPpReal != SinLeer;
+    if (!conPaso) f.tormenta.PasoPpReal = paso;
     f.lblNumPer = Texto(s.NroPpReal);
     f.lblMiFilePpReal = model::EtiquetaTormenta(s, f.tormenta.nombre);
     MuestraTormenta(f, s);
-    s.PasoPp = f.tormenta.PasoPpReal;
+    if (conPaso) s.PasoPp = f.tormenta.PasoPpReal;
     f.cmbPasoPp.texto = Texto(s.PasoPp);
 }
 

@@ -224,6 +224,8 @@ void PonNombre(dlgPpReal& f, const Siro& s, std::string nombre)
 
 void Lee(dlgPpReal& f, Siro& s)
 {
+    // Where there is no storm to be read, what the last hyetograph has left isn't one either.
+    s.PpReal.Dimensiona(0);
     model::LeePpReal(s, f.tormenta);
     f.cmbPasot.texto = Texto(f.tormenta.PasoPpReal);
     f.txtNroPpReal = Texto(s.NroPpReal);
@@ -290,7 +292,10 @@ void FilePpReal_Click(dlgPpReal& f, Siro& s)
 
 void cmdNuevaPpReal(dlgPpReal& f, Siro& s)
 {
-    Escritura(f, s, [&] {
+    const dlgPpReal forma = f;
+    const auto laminas = s.PpReal;
+    const std::int16_t n = s.NroPpReal;
+    const bool hecha = Escritura(f, s, [&] {
         const std::string respuesta = s.Anfitrion.PideTexto(
             {std::string(PideNombre), std::string(TituloNombre), model::NombreTormentaNueva(s)});
         if (respuesta.empty()) return;
@@ -303,6 +308,10 @@ void cmdNuevaPpReal(dlgPpReal& f, Siro& s)
         PonNombre(f, s, f.tormenta.nombre);
         Redibuja(f, s);
     });
+    if (hecha) return;
+    f = forma;
+    s.PpReal = laminas;
+    s.NroPpReal = n;
 }
 
 // --- fields ---

@@ -79,7 +79,8 @@ void AlActivarse(dlgPpReal& f, dlgPp& pp, model::Siro& s);
 /// Reads the storm selected.
 void FilePpReal_Click(dlgPpReal& f, model::Siro& s);
 
-/// Asks for a name and makes a storm without intervals; a storm of that name is overwritten.
+/// Asks for a name and makes a storm without intervals; a storm of that name is overwritten. Where it can't
+/// be written, the form stays as it was.
 void cmdNuevaPpReal(dlgPpReal& f, model::Siro& s);
 
 // Leaving a field. Returns false where the text is refused and the focus stays.

@@ -44,10 +44,13 @@ constexpr forms::ReglaNumero ReglaR{.control = "txtRPpUEHs",
                                     .mensaje = EnteroFueraDeLimites,
                                     .clase = forms::ClaseNumero::Entero};
 
-bool AlSalirCorto(dlgTablaPpUEHs& f, const Siro& s, const forms::ReglaNumero& regla, std::string& texto)
+bool AlSalirCorto(dlgTablaPpUEHs& f, const Siro& s, const forms::ReglaNumero& regla, std::string& texto,
+                  std::string& valida)
 {
     texto = model::PrimerosCaracteres(texto, LargoCampoPpUEHs);
-    return forms::AlSalir(f, s, regla, texto);
+    const bool pasa = forms::AlSalir(f, s, regla, texto);
+    if (pasa) valida = texto;
+    return pasa;
 }
 
 void LlenaTabla(dlgTablaPpUEHs& f, Siro& s)
@@ -126,12 +129,12 @@ void Abre(dlgTablaPpUEHs& f, Siro& s)
 
 bool txtDPpUEHs_AlSalir(dlgTablaPpUEHs& f, const Siro& s)
 {
-    return AlSalirCorto(f, s, ReglaD, f.txtDPpUEHs);
+    return AlSalirCorto(f, s, ReglaD, f.txtDPpUEHs, f.DValida);
 }
 
 bool txtRPpUEHs_AlSalir(dlgTablaPpUEHs& f, const Siro& s)
 {
-    return AlSalirCorto(f, s, ReglaR, f.txtRPpUEHs);
+    return AlSalirCorto(f, s, ReglaR, f.txtRPpUEHs, f.RValida);
 }
 
 void cmdBorraTablaHQ(dlgTablaPpUEHs& f, const Siro& s)
@@ -153,6 +156,8 @@ void OKButton(dlgTablaPpUEHs& f, dlgPp& pp, Siro& s)
 
 void CancelButton(dlgTablaPpUEHs& f)
 {
+    if (!forms::Vale(ReglaD, f.txtDPpUEHs)) f.txtDPpUEHs = f.DValida;
+    if (!forms::Vale(ReglaR, f.txtRPpUEHs)) f.txtRPpUEHs = f.RValida;
     f.abierta = false;
 }
 

@@ -40,6 +40,7 @@ struct dlgTablaPpUEHs {
     bool abierta = false;
     /// Duration [min] and recurrence [years]. They outlive the closing of the window.
     std::string txtDPpUEHs = "0", txtRPpUEHs = "0";
+    std::string DValida = "0", RValida = "0";  ///< what the two held when they were last left
     forms::Grilla MSFlexGridPpUEHs{};
     forms::Foco foco{};
 };
@@ -61,6 +62,7 @@ void cmdBorraTablaHQ(dlgTablaPpUEHs& f, const model::Siro& s);
 void cmdAplicar(dlgTablaPpUEHs& f, dlgPp& pp, model::Siro& s);
 /// Applies, and closes whatever came of it.
 void OKButton(dlgTablaPpUEHs& f, dlgPp& pp, model::Siro& s);
+/// A duration or a recurrence that its field would refuse is given up.
 void CancelButton(dlgTablaPpUEHs& f);
 
 /// Depth of each UEH as it is typed.

@@ -768,6 +768,37 @@ TEST_F(DialogoPpReal, ElFinalDelNombreSeAgregaSiempre)
     EXPECT_TRUE(disco.Esta("/proyectos/tormenta_pt.vlm_pt.vlm"));
 }
 
+TEST_F(DialogoPpReal, UnaNuevaQueNoSePuedeEscribirDejaTodoComoEstaba)
+{
+    Abre();
+    PonNro("2");
+    const dlgPpReal antes = f;
+    anfitrion->textos = {"12/5/92"};
+    anfitrion->sucesos.clear();
+    cmdNuevaPpReal(f, s);
+    EXPECT_EQ(Avisos().size(), 1U);
+    EXPECT_EQ(f.tormenta, antes.tormenta);
+    EXPECT_EQ(f.lblMiFilePpReal, "Velmir_pt.vlm");
+    EXPECT_EQ(f.txtNroPpReal, "2");
+    EXPECT_EQ(G(), antes.MSFlexGridTablaPpReal);
+    EXPECT_EQ(s.NroPpReal, 2);
+    PonNro("3");
+    EXPECT_EQ(Columna(3), (Textos{"5", "10", "2.5"}));
+    EXPECT_EQ(Bytes("Velmir_pt.vlm"), Llovizna);
+}
+
+TEST_F(DialogoPpReal, SinTormentaQueLeerLasFilasNuevasNoSonLasDelUltimoHietograma)
+{
+    disco.Quita("/proyectos/Velmir_pt.vlm");
+    s.PpReal.Dimensiona(4);
+    for (int j = 1; j <= 4; ++j)
+        s.PpReal(j) = 9;
+    Abre();
+    PonNro("3");
+    EXPECT_EQ(Columna(3), (Textos{"0", "0", "0"}));
+    EXPECT_EQ(Columna(4), (Textos{"0", "0", "0"}));
+}
+
 TEST_F(DialogoPpReal, UnaNuevaConNombreUsadoPisaLaAnterior)
 {
     Abre();

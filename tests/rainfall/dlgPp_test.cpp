@@ -440,6 +440,20 @@ TEST_F(DialogoPp, SinTormentasEnElDirectorioNoHayIntervalos)
     EXPECT_EQ(f.lblNumPer, "0");
 }
 
+TEST_F(DialogoPp, SinTormentaQueLeerElPasoQueda)
+{
+    s.PasoPp = 30;
+    disco.Quita("/proyectos/Velmir_pt.vlm");
+    Abre(f, s);
+    optformaPp_Click(f, s, 4);
+    EXPECT_EQ(s.PasoPp, 30);
+    EXPECT_EQ(f.cmbPasoPp.texto, "30");
+    // The step that a storm tells is taken, 0 too.
+    PonTormenta("Velmir_pt.vlm", "Llovizna", 1, 0, "8\r\n");
+    optformaPp_Click(f, s, 4);
+    EXPECT_EQ(s.PasoPp, 0);
+}
+
 TEST_F(DialogoPp, ElegirOtraTormentaRealLaMuestra)
 {
     PonTormenta("Zeta_pt.vlm", "Temporal", 1, 30, "4\r\n");

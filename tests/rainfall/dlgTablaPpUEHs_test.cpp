@@ -305,5 +305,24 @@ TEST_F(DialogoPpUEHs, LaVistaMuestraLaLaminaDeCadaUEH)
     EXPECT_EQ(vista.series.at(0).celdas, (std::vector<double>{1, 2, 3}));
 }
 
+TEST_F(DialogoPpUEHs, UnaDuracionRechazadaNoSobreviveAlCancelar)
+{
+    Abre();
+    f.txtDPpUEHs = "240";
+    f.txtRPpUEHs = "50";
+    EXPECT_TRUE(txtDPpUEHs_AlSalir(f, s));
+    EXPECT_TRUE(txtRPpUEHs_AlSalir(f, s));
+    f.txtDPpUEHs = "2881";
+    EXPECT_FALSE(txtDPpUEHs_AlSalir(f, s));
+    f.txtRPpUEHs = "x";
+    CancelButton(f);
+    Abre();
+    EXPECT_EQ(f.txtDPpUEHs, "240");
+    EXPECT_EQ(f.txtRPpUEHs, "50");
+    f.txtDPpUEHs = "300";  // one that is right stays, as it did
+    CancelButton(f);
+    EXPECT_EQ(f.txtDPpUEHs, "300");
+}
+
 }  // namespace
 }  // namespace rainfall
