@@ -13,6 +13,7 @@
 #include <QWindow>
 #include <algorithm>
 
+#include "forms/SinComillas_ventana.h"
 #include "model/Avisos.h"
 
 namespace forms {
@@ -74,6 +75,7 @@ Entorno::Entorno(model::Siro& estadoSiro)
       Impresora(ImpresoraDelSistema),
       ajustes(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("SIRO"), QStringLiteral("siro"))
 {
+    new SinComillas(*this);  // which it owns
     connect(qApp, &QGuiApplication::focusWindowChanged, this,
             [this](QWindow* ventana) { CambioDeVentana(AlFrente(VentanaDe(ventana))); });
 }
