@@ -93,6 +93,7 @@ bool GuardaResultados(Siro& s, const Opciones& o)
 void AbreProyecto(Siro& s, const std::string& conf)
 {
     model::TomaRutaProyecto(s, conf);
+    model::RecuperaGuardado(s, s.DirProyecto);
     s.Anfitrion.carga_lbl_proyecto();
     model::leoConf(s);
 }

@@ -70,11 +70,19 @@ void CierraHueco(Siro& s, int hueco)
     RehaceIndices(s);
 }
 
-void GuardaTrasBorrar(frmUEHs& f, Siro& s)
+/// Saves what is left. Where that fails the deletion holds in memory, and the numbers close up as a load
+/// would have them. Returns whether it was saved.
+bool GuardaTrasBorrar(frmUEHs& f, Siro& s)
 {
     LimpiaSeleccion(s);
-    model::mnu_btn_toolbarGuardaUEHs(s);
-    f.guardada = true;
+    if (!f.fallida && model::mnu_btn_toolbarGuardaUEHs(s)) {
+        f.guardada = true;
+        return true;
+    }
+    f.fallida = true;
+    f.guardada = false;
+    model::RenumeraComponentes(s);
+    return false;
 }
 
 // --- components with an icon ---
@@ -94,8 +102,7 @@ bool BorraElegido(frmUEHs& f, Siro& s, const ClaseConIcono<T, Limite>& clase)
     coleccion.Quita(n);
     s.*clase.cuenta = Entero16(coleccion.Cuenta());
     ConservaTrazo(f, s, [&] {
-        GuardaTrasBorrar(f, s);
-        model::LeeUEHs(s);  // numbers them anew even where nothing could be saved
+        if (GuardaTrasBorrar(f, s)) model::ReleeUEHs(s);
     });
     Redibuja(f, s);
     return true;
@@ -161,6 +168,7 @@ void BorraTodo(frmUEHs& f, Siro& s)
         s.*clase.cuenta = 0;
     });
     s.NroCauces = f.ClicsCauce = 0;
+    s.CargaFallida = false;  // the user has seen the network, and wants none
     try {
         s.Disco.Borra(model::Ruta(s.DirProyecto, s.NombreProyecto + std::string(SufijoRHQ)));
     } catch (const model::Falla& falla) {

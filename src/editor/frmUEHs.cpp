@@ -60,11 +60,14 @@ std::string Estado(const Siro& s)
            "     Dir: " + s.DirProyectoConf + "   Config. : " + s.NombreProyecto + "Conf.vlm";
 }
 
-void Guarda(frmUEHs& f, Siro& s)
+/// Returns whether the network was saved; if not, memory and undo are as they were.
+bool Guarda(frmUEHs& f, Siro& s)
 {
-    ConservaTrazo(f, s, [&] { model::mnu_btn_toolbarGuardaUEHs(s); });
-    f.guardada = true;
+    bool bien = false;
+    ConservaTrazo(f, s, [&] { bien = model::mnu_btn_toolbarGuardaUEHs(s); });
+    if (bien) f.guardada = true;
     Redibuja(f, s);
+    return bien;
 }
 
 void CierraVentana(frmUEHs& f, Siro& s)
@@ -91,7 +94,7 @@ void Cierra(frmUEHs& f, Siro& s)
 {
     engine::ComponenteFinal(s);
     if (!s.ContinuarSinCorregir && !s.RedOk) return;
-    if (model::Consulta(s, std::string(PreguntaResguardo), TituloResguardo)) Guarda(f, s);
+    if (model::Consulta(s, std::string(PreguntaResguardo), TituloResguardo) && !Guarda(f, s)) return;
     CierraVentana(f, s);
 }
 
@@ -127,8 +130,7 @@ void AplicaBoton(frmUEHs& f, Siro& s, Boton boton)
     case Boton::GuardaUEHs:
         f.Pon(boton, true);
         f.puntero = Puntero::Espera;
-        Guarda(f, s);
-        Asienta(f, s);
+        if (Guarda(f, s)) Asienta(f, s);
         f.Pon(boton, false);
         PonModo(f, Modo(f));
         return;
@@ -148,7 +150,7 @@ void Evento(frmUEHs& f, Siro& s, const std::function<void()>& cuerpo)
     // changed.
     const bool dentroDeOtro = f.enEvento;
     const EnEvento marca(f);
-    if (!dentroDeOtro) f.guardada = false;
+    if (!dentroDeOtro) f.guardada = f.fallida = false;
     const bool bien = model::Sentencia(cuerpo, [&](const model::Falla& falla) {
         if (!dentroDeOtro) {
             SueltaTodo(f);

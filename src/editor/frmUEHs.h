@@ -173,6 +173,7 @@ struct frmUEHs {
     editor::Historia historia{};
     bool cambiada = false;  ///< the network in memory differs from the saved one
     bool guardada = false;  ///< the command in hand has saved the network
+    bool fallida = false;   ///< the command in hand couldn't save it, and has told so
     bool enEvento = false;  ///< an event is under way
 
     /// Size of an image file; nothing where it can't be read as an image. The window fills it in.

@@ -172,7 +172,7 @@ bool EscribeResultados(Siro& s, model::EscritorRegistros& archivo)
 void EscribeTablaQDR(Siro& s)
 {
     s.ArchivoTemp = ArchivoTablaQDR;
-    model::EscritorRegistros archivo(s.Disco);
+    model::EscritorRegistros archivo(s.Disco, model::Salida::PorPiezas);
     archivo.Abre(model::Ruta(s.DirTrabajo, ArchivoTablaQDR));
     EscribeEncabezado(s, archivo);
     const bool completa = EscribeResultados(s, archivo);

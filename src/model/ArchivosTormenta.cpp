@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "model/Avisos.h"
+#include "model/EscrituraInformada.h"
 #include "model/Falla.h"
 #include "model/Numeros.h"
 #include "model/Registros.h"
@@ -51,51 +52,6 @@ void AnulaFilas(Siro& s)
 {
     std::fill(s.NroFilasTabla.begin() + 1, s.NroFilasTabla.end(), std::int16_t{0});
 }
-
-/// Writes a file whose handler passes over a file that isn't there and goes on, and at any other fault shows
-/// one box and ends. Either way the file is closed.
-class EscritorConAviso {
-  public:
-    EscritorConAviso(const Siro& unSiro, const std::string& ruta) : s(unSiro), escritor(unSiro.Disco)
-    {
-        Paso([&] { escritor.Abre(ruta); });
-    }
-    /// One statement of the writer.
-    template <typename F>
-    void Paso(F&& cuerpo)
-    {
-        if (!sigue) return;
-        Sentencia(std::forward<F>(cuerpo), [&](const Falla& falla) {
-            if (falla.numero == NumeroFalla::ArchivoNoEsta) return;
-            Informa(s, TextoFallaArchivo(falla));
-            sigue = false;
-        });
-    }
-    /// A record: `campos` puts its fields, the line end follows.
-    template <typename F>
-    void Registro(F&& campos)
-    {
-        Paso([&] {
-            campos(escritor);
-            escritor.FinRegistro();
-        });
-    }
-    /// Returns whether the writer came to its end without a box.
-    bool Cierra()
-    {
-        if (sigue) {
-            Paso([&] { escritor.Cierra(); });
-        } else {
-            Sentencia([&] { escritor.Cierra(); }, [](const Falla&) {});
-        }
-        return sigue;
-    }
-
-  private:
-    const Siro& s;
-    EscritorRegistros escritor;
-    bool sigue = true;
-};
 
 // --- real storms ---
 
@@ -162,7 +118,7 @@ void LeeUnaDisPer(Siro& s, LectorRegistros& lector, int k)
         s.DisPerso(k, j) = lector.Numero16();
 }
 
-void EscribeUnaDisPer(Siro& s, EscritorConAviso& escritor, int k)
+void EscribeUnaDisPer(Siro& s, EscrituraInformada& escritor, int k)
 {
     const auto ranura = static_cast<std::size_t>(k);
     escritor.Registro([&](EscritorRegistros& e) { e.Texto(s.NotasDisPer[ranura]); });
@@ -187,7 +143,7 @@ void LeeUnaTablaPDR(Siro& s, LectorRegistros& lector, int k)
         });
 }
 
-void EscribeUnaTablaPDR(Siro& s, EscritorConAviso& escritor, int k)
+void EscribeUnaTablaPDR(Siro& s, EscrituraInformada& escritor, int k)
 {
     escritor.Registro([&](EscritorRegistros& e) { e.Texto(s.NotasPDR[static_cast<std::size_t>(k)]); });
     for (int j = 1; j <= Filas(s, k); ++j)
@@ -352,15 +308,15 @@ void LeeTablaDisTemPer(Siro& s)
     }
 }
 
-void GuardaTablaDisPer(Siro& s)
+bool GuardaTablaDisPer(Siro& s)
 {
     s.ArchivoTemp = Ruta(s.DirTrabajo, ArchivoDisPer);
-    EscritorConAviso escritor(s, s.ArchivoTemp);
+    EscrituraInformada escritor(s, s.ArchivoTemp, NumeroFalla::ArchivoNoEsta);
     escritor.Registro(
         [&](EscritorRegistros& e) { e.Numero(Filas(s, 1)).Numero(Filas(s, 2)).Numero(Filas(s, 3)); });
     for (int k = 1; k <= 3; ++k)
         EscribeUnaDisPer(s, escritor, k);
-    escritor.Cierra();
+    return escritor.Cierra();
 }
 
 // --- tables of synthetic storms ---
@@ -388,17 +344,17 @@ void LeeTablaPDRs(Siro& s)
     }
 }
 
-void GuardaTablaPDRs(Siro& s)
+bool GuardaTablaPDRs(Siro& s)
 {
     s.ArchivoTemp = Ruta(s.DirTrabajo, ArchivoPDRs);
-    EscritorConAviso escritor(s, s.ArchivoTemp);
+    EscrituraInformada escritor(s, s.ArchivoTemp, NumeroFalla::ArchivoNoEsta);
     escritor.Registro([&](EscritorRegistros& e) {
         for (const auto n : s.NroFilasTabla)
             e.Numero(n);
     });
     for (int k = 0; k <= 3; ++k)
         EscribeUnaTablaPDR(s, escritor, k);
-    escritor.Cierra();
+    return escritor.Cierra();
 }
 
 // --- list of single storms ---
@@ -443,13 +399,13 @@ void leeListaPpDurRec(Siro& s, std::vector<std::string>& cmbPDR)
     }
 }
 
-void GuardaListaPDR(Siro& s, const std::vector<std::string>& cmbPDR, const CamposTormenta& campos)
+bool GuardaListaPDR(Siro& s, const std::vector<std::string>& cmbPDR, const CamposTormenta& campos)
 {
     const auto p = s.PpTormenta;
     const auto d = s.DurTormenta;
     const auto r = s.RecTormenta;
     s.ArchivoTemp = Ruta(s.DirProyecto, ArchivoListaPDR);
-    EscritorConAviso escritor(s, s.ArchivoTemp);
+    EscrituraInformada escritor(s, s.ArchivoTemp, NumeroFalla::ArchivoNoEsta);
     for (const std::string& item : cmbPDR) {
         if (item.empty()) continue;
         escritor.Paso([&] { ParsePDR(s, item); });
@@ -457,15 +413,17 @@ void GuardaListaPDR(Siro& s, const std::vector<std::string>& cmbPDR, const Campo
             e.Numero(s.PpTormenta).Numero(std::int32_t{s.DurTormenta}).Numero(std::int32_t{s.RecTormenta});
         });
     }
-    if (!escritor.Cierra()) {
+    const bool guardada = escritor.Cierra();
+    if (!escritor.Sigue()) {
         s.PpTormenta = p;
         s.DurTormenta = d;
         s.RecTormenta = r;
-        return;
+        return false;
     }
     escritor.Paso([&] { s.PpTormenta = Simple(Val(campos.txtPp)); });
     escritor.Paso([&] { s.DurTormenta = Entero16(Val(campos.txtDur)); });
     escritor.Paso([&] { s.RecTormenta = Entero16(Val(campos.cmbRec)); });
+    return guardada;
 }
 
 }  // namespace model

@@ -77,8 +77,9 @@ void GuardaPpReal(Siro& s, TormentaReal& tormenta);
 /// kept as it stands. A failure is silent and leaves slots 1 to 3 of NroFilasTabla at 0.
 void LeeTablaDisTemPer(Siro& s);
 
-/// Writes the three tables. A fault shows one box and ends the writing; the tables in memory stay.
-void GuardaTablaDisPer(Siro& s);
+/// Writes the three tables. A fault shows one box and leaves the file and the tables in memory as they are.
+/// Returns whether they were written.
+bool GuardaTablaDisPer(Siro& s);
 
 // --- tables of synthetic storms, TablasPDRs_pdr.vlm ---
 
@@ -87,8 +88,8 @@ void GuardaTablaDisPer(Siro& s);
 /// 1 to 3 of NroFilasTabla at 0, slot 0 as it is, and the series as it was.
 void LeeTablaPDRs(Siro& s);
 
-/// Writes the four tables. A fault shows one box and ends the writing; the tables in memory stay.
-void GuardaTablaPDRs(Siro& s);
+/// Writes the four tables, as GuardaTablaDisPer does.
+bool GuardaTablaPDRs(Siro& s);
 
 // --- list of single storms, ListaPDR.vlm ---
 
@@ -113,8 +114,8 @@ struct CamposTormenta {
 };
 
 /// Writes the items of `cmbPDR` that aren't empty over the project's list, then takes PpTormenta,
-/// DurTormenta and RecTormenta from the form's fields. A fault shows one box and ends the writing; the storm
-/// in hand is then as it was.
-void GuardaListaPDR(Siro& s, const std::vector<std::string>& cmbPDR, const CamposTormenta& campos);
+/// DurTormenta and RecTormenta from the form's fields. A fault shows one box and leaves the file and the
+/// storm in hand as they were. Returns whether the list was written.
+bool GuardaListaPDR(Siro& s, const std::vector<std::string>& cmbPDR, const CamposTormenta& campos);
 
 }  // namespace model

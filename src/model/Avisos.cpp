@@ -10,6 +10,11 @@ std::string Numero(const Falla& falla)
     return std::to_string(static_cast<int>(falla.numero));
 }
 
+std::string Nota(const Falla& falla)
+{
+    return falla.nota.empty() ? std::string() : "\r\n\r\n" + std::string(falla.nota);
+}
+
 }  // namespace
 
 void Advierte(const Siro& s, std::string texto, std::string_view titulo)
@@ -30,12 +35,14 @@ bool Consulta(const Siro& s, std::string texto, std::string_view titulo, std::st
 
 std::string TextoFallaMotor(const Falla& falla)
 {
-    return "Error Nro. " + Numero(falla) + " ," + std::string(DescripcionFalla(falla.numero)) + "Verifique";
+    return "Error Nro. " + Numero(falla) + " ," + std::string(DescripcionFalla(falla.numero)) + "Verifique" +
+           Nota(falla);
 }
 
 std::string TextoFallaArchivo(const Falla& falla)
 {
-    return "Error Nro. " + Numero(falla) + std::string(DescripcionFalla(falla.numero)) + " ,Verifique";
+    return "Error Nro. " + Numero(falla) + std::string(DescripcionFalla(falla.numero)) + " ,Verifique" +
+           Nota(falla);
 }
 
 }  // namespace model

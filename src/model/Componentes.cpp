@@ -35,6 +35,8 @@ constexpr std::string_view AvisoDanado =
 constexpr std::string_view AvisoGuardado =
     "Los datos de componentes de Unidades Hidrológicas del proyecto se han guardado correctamente en el "
     "archivo ";
+constexpr std::string_view AvisoNoSeBorra =
+    "La red está vacía porque no se pudieron leer sus archivos. Los archivos quedan como están.";
 
 constexpr int PasadasOrden = 10;
 
@@ -201,7 +203,8 @@ void InformaSinLugar(const Siro& s, int vertices)
 /// there and the end of the file go on their way and end the load.
 class Carga {
   public:
-    explicit Carga(Siro& unSiro) : s(unSiro) {}
+    /// `unosSabidos`: files whose bytes are known; the others are read from the disk.
+    Carga(Siro& unSiro, const std::vector<CambioArchivo>& unosSabidos) : s(unSiro), sabidos(unosSabidos) {}
 
     void Abre(std::string_view sufijo)
     {
@@ -209,7 +212,7 @@ class Carga {
         const std::string ruta = Compone(s, sufijo);
         Paso([&] {
             try {
-                lector.emplace(s.Disco.Lee(ruta));
+                lector.emplace(Bytes(ruta));
             } catch (const Falla& falla) {
                 causa = falla.numero;
                 throw;
@@ -228,6 +231,7 @@ class Carga {
     {
         return Sentencia(std::forward<F>(cuerpo), [&](const Falla& falla) {
             if (TerminaLaCarga(falla)) throw falla;
+            s.CargaFallida = true;
             Informa(s, TextoFallaArchivo(falla));
         });
     }
@@ -238,6 +242,13 @@ class Carga {
     Siro& s;
 
   private:
+    [[nodiscard]] std::string Bytes(const std::string& ruta) const
+    {
+        const auto sabido = std::find_if(sabidos.begin(), sabidos.end(),
+                                         [&](const CambioArchivo& a) { return a.ruta == ruta; });
+        return sabido == sabidos.end() ? s.Disco.Lee(ruta) : sabido->bytes;
+    }
+    const std::vector<CambioArchivo>& sabidos;
     std::optional<LectorRegistros> lector;
     NumeroFalla causa = NumeroFalla::AccesoRuta;
 };
@@ -423,20 +434,18 @@ void EscribeGrupo(EscrituraInformada& archivo, const Siro& s, const Grupo<T, Lim
             EscribeCampo(archivo, campo, componente);
 }
 
-void EscribeArchivoUEHs(Siro& s)
+std::optional<CambioArchivo> ArchivoUEHs(Siro& s)
 {
-    EscrituraInformada archivo(s);
-    archivo.Abre(Compone(s, SufijoUEHs));
+    EscrituraInformada archivo(s, Compone(s, SufijoUEHs));
     EscribeValor(archivo, s.NombreProyecto);
     PorGrupo([&](const auto& grupo) { EscribeGrupo(archivo, s, grupo); });
-    archivo.Cierra();
+    return archivo.Toma();
 }
 
 /// The vertices come from the drawing by reach number, not from the collection.
-void EscribeArchivoVerCau(Siro& s)
+std::optional<CambioArchivo> ArchivoVerCau(Siro& s)
 {
-    EscrituraInformada archivo(s);
-    archivo.Abre(Compone(s, SufijoVerCau));
+    EscrituraInformada archivo(s, Compone(s, SufijoVerCau));
     for (int i = 1; i <= s.NroCauces; ++i) {
         int vertices = 0;
         archivo.Paso([&] { vertices = s.NroVertices(i); });
@@ -445,26 +454,67 @@ void EscribeArchivoVerCau(Siro& s)
             archivo.Registro([&](EscritorRegistros& escritor) {
                 escritor.Numero(s.XVertice(i, j)).Numero(s.YVertice(i, j));
             });
-        if (vertices <= conLugar) continue;
-        archivo.Paso([] { throw Falla{NumeroFalla::Subindice}; });  // closes the file
-        InformaSinLugar(s, vertices - conLugar - 1);
+        if (vertices > conLugar) archivo.Paso([] { throw Falla{NumeroFalla::Subindice}; });
     }
-    archivo.Cierra();
+    return archivo.Toma();
 }
 
-/// Deletes both files of a network without components. One that isn't there ends the command quietly.
-void BorraArchivos(Siro& s)
+/// Puts both files in place. Returns false after a fault, which is told; the disk is then as it was.
+bool ReemplazaArchivos(Siro& s, std::vector<CambioArchivo>& escritos)
 {
-    for (const std::string_view sufijo : {SufijoUEHs, SufijoVerCau}) {
-        const std::string ruta = Compone(s, sufijo);
-        bool esta = true;
-        Sentencia([&] { s.Disco.Borra(ruta); },
-                  [&](const Falla& falla) {
-                      esta = falla.numero != NumeroFalla::ArchivoNoEsta;
-                      if (esta) Informa(s, TextoFallaArchivo(falla));
-                  });
-        if (!esta) return;
+    auto uehs = ArchivoUEHs(s), vertices = ArchivoVerCau(s);
+    if (!uehs || !vertices) return false;
+    std::vector<CambioArchivo> cambios{std::move(*uehs), std::move(*vertices)};
+    if (!Sentencia([&] { s.Disco.Reemplaza(cambios); },
+                   [&](const Falla& falla) { Informa(s, TextoFallaArchivo(falla)); }))
+        return false;
+    escritos = std::move(cambios);
+    return true;
+}
+
+/// Deletes both files of a network without components, or none. One that isn't there ends the command
+/// quietly. Returns false after a fault, which is told.
+bool BorraArchivos(Siro& s)
+{
+    const std::string ruta = Compone(s, SufijoUEHs);
+    std::optional<CambioArchivo> borrado;
+    try {
+        std::string bytes = s.Disco.Lee(ruta);
+        s.Disco.Borra(ruta);
+        borrado = {ruta, std::move(bytes)};
+        s.Disco.Borra(Compone(s, SufijoVerCau));
+    } catch (const Falla& falla) {
+        if (falla.numero == NumeroFalla::ArchivoNoEsta) return true;
+        Informa(s, TextoFallaArchivo(falla));
+        if (borrado) Sentencia([&] { s.Disco.Reemplaza({*borrado}); }, [](const Falla&) {});
+        return false;
     }
+    return true;
+}
+
+/// Reads the network. `sabidos`: files whose bytes needn't be asked of the disk.
+void Lee(Siro& s, const std::vector<CambioArchivo>& sabidos)
+{
+    VaciaComponentes(s);
+    s.CargaFallida = false;
+    try {
+        Carga carga(s, sabidos);
+        LeeArchivoUEHs(carga);
+        LeeArchivoVerCau(carga);
+        if (s.NroRepresas > 0) s.Anfitrion.HabilitaVerificacion();
+    } catch (const Falla& falla) {
+        if (falla.numero == NumeroFalla::ArchivoNoEsta) {
+            s.NroCauces = 0;
+        } else {
+            s.CargaFallida = true;
+            Advierte(s, std::string(AvisoDanado), {});
+        }
+    }
+}
+
+bool SinComponentes(const Siro& s)
+{
+    return s.NroCauces == 0 && s.NroUEHs == 0 && s.NroRepresas == 0 && s.NroLagos == 0;
 }
 
 // --- stream orders ---
@@ -512,35 +562,67 @@ struct OrdenCreciente {
 
 void LeeUEHs(Siro& s)
 {
-    VaciaComponentes(s);
-    try {
-        Carga carga(s);
-        LeeArchivoUEHs(carga);
-        LeeArchivoVerCau(carga);
-        if (s.NroRepresas > 0) s.Anfitrion.HabilitaVerificacion();
-    } catch (const Falla& falla) {
-        if (falla.numero == NumeroFalla::ArchivoNoEsta) {
-            s.NroCauces = 0;
-        } else {
-            Advierte(s, std::string(AvisoDanado), {});
-        }
-    }
+    Lee(s, {});
 }
 
-void mnu_btn_toolbarGuardaUEHs(Siro& s)
+void ReleeUEHs(Siro& s)
+{
+    std::vector<CambioArchivo> leidos;
+    for (const std::string_view sufijo : {SufijoUEHs, SufijoVerCau}) {
+        const std::string ruta = Compone(s, sufijo);
+        try {
+            leidos.push_back({ruta, s.Disco.Lee(ruta)});
+        } catch (const Falla& falla) {
+            if (falla.numero == NumeroFalla::ArchivoNoEsta) break;
+            Informa(s, TextoFallaArchivo(falla));
+            return RenumeraComponentes(s);
+        }
+    }
+    Lee(s, leidos);
+}
+
+void RenumeraComponentes(Siro& s)
+{
+    PorGrupo([&](const auto& grupo) {
+        std::int16_t numero = 0;
+        for (auto& componente : s.*grupo.coleccion)
+            componente.*grupo.numero = ++numero;
+    });
+}
+
+bool EscribeRed(Siro& s, std::vector<CambioArchivo>& escritos)
 {
     const auto informa = [&](const Falla& falla) { Informa(s, TextoFallaArchivo(falla)); };
+    const auto cauces = s.ColCauces;
+    const std::int16_t nroCauces = s.NroCauces;
+    escritos.clear();
     Sentencia([&] { CalculaOrdenCauces(s); }, informa);
-    if (s.NroCauces == 0 && s.NroUEHs == 0 && s.NroRepresas == 0 && s.NroLagos == 0) {
-        BorraArchivos(s);
-        return;
+    if (SinComponentes(s)) {
+        if (!s.CargaFallida) return BorraArchivos(s);
+        Advierte(s, std::string(AvisoNoSeBorra));
+        return false;
     }
-    Sentencia([&] { s.NroCauces = Entero16(s.ColCauces.Cuenta()); }, informa);
-    EscribeArchivoUEHs(s);
-    EscribeArchivoVerCau(s);
-    LeeUEHs(s);
+    const bool contados = Sentencia([&] { s.NroCauces = Entero16(s.ColCauces.Cuenta()); }, informa);
+    if (contados && ReemplazaArchivos(s, escritos)) return true;
+    s.ColCauces = cauces;
+    s.NroCauces = nroCauces;
+    return false;
+}
+
+void AlGuardarse(Siro& s, const std::vector<CambioArchivo>& escritos)
+{
+    if (escritos.empty()) return;
+    Lee(s, escritos);
     s.Anfitrion.RedibujaEditor();
     Informa(s, std::string(AvisoGuardado) + s.ArchivoTemp);
+}
+
+bool mnu_btn_toolbarGuardaUEHs(Siro& s)
+{
+    std::vector<CambioArchivo> escritos;
+    if (!EscribeRed(s, escritos)) return false;
+    AlGuardarse(s, escritos);
+    return true;
 }
 
 void CalculaOrdenCauces(Siro& s)

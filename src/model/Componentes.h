@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <vector>
+
+#include "model/Disco.h"
+
 namespace model {
 
 struct Siro;
@@ -10,9 +14,24 @@ struct Siro;
 /// The name found inside the component file becomes NombreProyecto and rules from there on.
 void LeeUEHs(Siro& s);
 
+/// The same once more behind a save: where the files can't be read now, which is told, the network in memory
+/// stays and is only numbered anew.
+void ReleeUEHs(Siro& s);
+
+/// Numbers the components in the order of their collections, as a load does.
+void RenumeraComponentes(Siro& s);
+
 /// "Guardar" of the basin editor: stream orders, both files, a fresh read and the message that tells so.
-/// Without any component both files are deleted instead. Failures are reported, never thrown.
-void mnu_btn_toolbarGuardaUEHs(Siro& s);
+/// Without any component both files are deleted instead, unless it is their reading that failed. Returns
+/// false after a fault: it is told, both files and the network in memory are as they were.
+bool mnu_btn_toolbarGuardaUEHs(Siro& s);
+
+// Its two halves, for who writes other files together with the network.
+
+/// Writes or deletes both files and gives what was written. Returns false as above.
+bool EscribeRed(Siro& s, std::vector<CambioArchivo>& escritos);
+/// The fresh read, from what was written, and the message; nothing where both files were deleted.
+void AlGuardarse(Siro& s, const std::vector<CambioArchivo>& escritos);
 
 /// Sets OrdenCauce of every reach: a rule in the manner of Strahler (1952), in ten passes over the
 /// collection. Lagos and Represas pass on the orders of the reaches that they gather.

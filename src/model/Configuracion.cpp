@@ -319,14 +319,9 @@ void leoConf(Siro& s)
     }
 }
 
-void cmdAplicar(Siro& s)
+void EscribeConf(Siro& s)
 {
     Controles& controles = s.frmConfigura;
-    if (s.NombreProyecto.empty()) {
-        s.DirProyectoConf = controles.Dir1;
-        s.DriveProyecto = controles.Drive1;
-        return;
-    }
     if (controles.chkImagenDibujo == Tildada && controles.lblImagenDibujo == SinImagen) {
         controles.chkImagenDibujo = 0;
         s.ArchivoImagen.clear();
@@ -340,8 +335,31 @@ void cmdAplicar(Siro& s)
         escritor.FinRegistro();
     }
     escritor.Cierra();
-    s.DirProyecto = controles.Dir1;
-    Informa(s, std::string(AvisoGuardado) + s.ArchivoTemp);
+}
+
+void AvisaConfGuardada(const Siro& s, const std::string& ruta)
+{
+    Informa(s, std::string(AvisoGuardado) + ruta);
+}
+
+void cmdAplicar(Siro& s)
+{
+    if (s.NombreProyecto.empty()) {
+        s.DirProyectoConf = s.frmConfigura.Dir1;
+        s.DriveProyecto = s.frmConfigura.Drive1;
+        return;
+    }
+    const std::string directorio = s.DirProyecto, imagen = s.ArchivoImagen;
+    const std::int16_t conImagen = s.frmConfigura.chkImagenDibujo;
+    try {
+        EscribeConf(s);
+    } catch (const Falla&) {
+        s.DirProyecto = directorio;
+        s.ArchivoImagen = imagen;
+        s.frmConfigura.chkImagenDibujo = conImagen;
+        throw;
+    }
+    AvisaConfGuardada(s, s.ArchivoTemp);
     s.ProyectoNuevo = false;
 }
 

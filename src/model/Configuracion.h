@@ -77,7 +77,14 @@ void BtnDurDef(ControlesConfigura& controles);
 /// once. A damaged file empties NombreProyecto. Failures are reported through the host and never thrown.
 void leoConf(Siro& s);
 
-/// Writes the configuration from the dialog's controls and tells so. Throws Falla 76, 75.
+/// Writes the configuration from the dialog's controls and tells so. Throws Falla 76, 75; memory and disk are
+/// then as they were.
 void cmdAplicar(Siro& s);
+
+// Its two halves, for who writes other files together with the configuration.
+
+/// Writes the file and makes the controls' directory the project's. Throws Falla 76, 75.
+void EscribeConf(Siro& s);
+void AvisaConfGuardada(const Siro& s, const std::string& ruta);
 
 }  // namespace model

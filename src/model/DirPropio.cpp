@@ -14,6 +14,8 @@ namespace model {
 namespace {
 
 constexpr std::string_view ArchivoDePrueba = "siro_prueba.tmp";
+/// Empty file that stands in the program's directory while not all that is delivered has been copied there.
+constexpr std::string_view MarcaDeEntrega = "siro_entrega.tmp";
 constexpr std::string_view CarpetaDeAyuda = "Ayuda";
 /// Folders of what is delivered, the root first.
 constexpr auto CarpetasEntregadas = std::to_array<std::string_view>({"", "Proyectos", CarpetaDeAyuda});
@@ -51,15 +53,39 @@ void CreaCamino(const Disco& disco, const std::string& directorio)
     Intenta([&] { disco.CreaDirectorio(directorio); });
 }
 
-void CopiaLoQueFalta(const Disco& disco, const std::string& origen, const std::string& destino)
+/// Copies each file whole or not at all. Returns whether nothing is missing afterwards.
+bool CopiaLoQueFalta(const Disco& disco, const std::string& origen, const std::string& destino)
 {
-    if (!disco.HayDirectorio(origen)) return;
+    std::vector<std::string> entregados;
+    bool hayCarpeta = true;  // not every delivery has each
+    const bool leida =
+        Sentencia([&] { entregados = disco.Lista(origen); },
+                  [&](const Falla& falla) { hayCarpeta = falla.numero != NumeroFalla::RutaNoEsta; });
+    if (!leida) return !hayCarpeta;
     CreaCamino(disco, destino);
-    Intenta([&] {
-        for (const std::string& nombre : disco.Lista(origen))
-            if (!Esta(disco, destino, nombre))
-                Intenta([&] { disco.Copia(Ruta(origen, nombre), Ruta(destino, nombre)); });
+    bool todo = true;
+    const bool listado = Intenta([&] {
+        const auto propios = disco.Lista(destino);
+        for (const std::string& nombre : entregados)
+            if (std::find(propios.begin(), propios.end(), nombre) == propios.end())
+                todo = Intenta([&] { disco.Copia(Ruta(origen, nombre), Ruta(destino, nombre)); }) && todo;
     });
+    return listado && todo;
+}
+
+/// Copies what is delivered and missing. The mark stands meanwhile, and for as long as something is missing.
+void Entrega(const Disco& disco, const std::string& dirEntregado, const std::string& directorio)
+{
+    const std::string marca = Ruta(directorio, MarcaDeEntrega);
+    Intenta([&] { disco.Escribe(marca, ""); });
+    bool todo = true;
+    for (const std::string_view carpeta : CarpetasEntregadas) {
+        const bool raiz = carpeta.empty();
+        const bool toda = CopiaLoQueFalta(disco, raiz ? dirEntregado : Ruta(dirEntregado, carpeta),
+                                          raiz ? directorio : Ruta(directorio, carpeta));
+        todo = toda && todo;
+    }
+    if (todo) Intenta([&] { disco.Borra(marca); });
 }
 
 /// Where the system keeps the data of a user's programs.
@@ -110,14 +136,14 @@ std::string PreparaDirTrabajo(const Disco& disco, const std::string& dirEjecutab
     const bool propio = dirUsuario.empty() || SePuedeEscribir(disco, dirEjecutable);
     std::string directorio = propio ? dirEjecutable : dirUsuario;
     CreaCamino(disco, directorio);
-    if (dirEntregado.empty() || Esta(disco, directorio, ArchivoPuntero)) return directorio;
-    for (const std::string_view carpeta : CarpetasEntregadas) {
-        if (carpeta.empty())
-            CopiaLoQueFalta(disco, dirEntregado, directorio);
-        else
-            CopiaLoQueFalta(disco, Ruta(dirEntregado, carpeta), Ruta(directorio, carpeta));
-    }
+    const bool entregado = Esta(disco, directorio, ArchivoPuntero) && !EntregaPendiente(disco, directorio);
+    if (!dirEntregado.empty() && !entregado) Entrega(disco, dirEntregado, directorio);
     return directorio;
+}
+
+bool EntregaPendiente(const Disco& disco, const std::string& dirTrabajo)
+{
+    return Esta(disco, dirTrabajo, MarcaDeEntrega);
 }
 
 void RenuevaAyuda(const Disco& disco, const std::string& dirTrabajo, const std::string& dirEntregado)

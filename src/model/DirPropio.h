@@ -25,9 +25,13 @@ std::string DirEntregado(const Disco& disco, const std::string& dirEjecutable);
 
 /// The program's own directory: that of the executable, or `dirUsuario` where the user may not write there.
 /// At its first start, which finds no pointer file, the delivered tables, storms, sample project and help
-/// that it lacks are copied there from `dirEntregado`. What can't be made or copied is left out.
+/// that it lacks are copied there from `dirEntregado`, each whole or not at all. What can't be copied, on a
+/// full disk for one, is tried again at the next start.
 std::string PreparaDirTrabajo(const Disco& disco, const std::string& dirEjecutable,
                               const std::string& dirUsuario, const std::string& dirEntregado);
+
+/// Whether something of what is delivered couldn't be copied yet.
+bool EntregaPendiente(const Disco& disco, const std::string& dirTrabajo);
 
 /// Brings the help of the program's own directory up to what was delivered: an upgrade's pages replace those
 /// that an earlier start has copied. What can't be read or copied is left as it is.

@@ -6,68 +6,18 @@
 #include <filesystem>
 #include <fstream>
 #include <system_error>
+#include <utility>
 
+#include "model/Camino.h"
 #include "model/Falla.h"
+#include "model/LlamadasDisco.h"
+#include "model/Reemplazo.h"
 
 namespace model {
 
 namespace {
 
 namespace fs = std::filesystem;
-
-/// No file of a project comes near; a larger one is read as little as a directory is.
-constexpr std::uintmax_t MaximoBytes = std::uintmax_t{256} << 20;
-
-fs::path Camino(const std::string& ruta)
-{
-    // The system would take such a path only as far as its NUL, hence for another file.
-    if (ruta.find('\0') != std::string::npos) throw Falla{NumeroFalla::AccesoRuta};
-    return {std::u8string(ruta.begin(), ruta.end())};
-}
-
-std::string TextoDe(const fs::path& camino)
-{
-    const std::u8string utf8 = camino.u8string();
-    return {utf8.begin(), utf8.end()};
-}
-
-bool EsDirectorio(const fs::path& camino)
-{
-    std::error_code error;
-    return fs::is_directory(camino, error);
-}
-
-bool HayDirectorioDe(const fs::path& camino)
-{
-    const fs::path padre = camino.parent_path();
-    return padre.empty() || EsDirectorio(padre);
-}
-
-/// Throws unless there is a plain file to be read or deleted.
-void ExigeArchivo(const fs::path& camino)
-{
-    std::error_code error;
-    const fs::file_status estado = fs::status(camino, error);
-    if (estado.type() == fs::file_type::not_found)
-        throw Falla{HayDirectorioDe(camino) ? NumeroFalla::ArchivoNoEsta : NumeroFalla::RutaNoEsta};
-    if (!fs::is_regular_file(estado)) throw Falla{NumeroFalla::AccesoRuta};
-}
-
-std::string LeeArchivo(const fs::path& camino)
-{
-    ExigeArchivo(camino);
-    std::error_code error;
-    const std::uintmax_t largo = fs::file_size(camino, error);
-    if (error || largo > MaximoBytes) throw Falla{NumeroFalla::AccesoRuta};
-
-    std::ifstream archivo(camino, std::ios::binary);
-    if (!archivo) throw Falla{NumeroFalla::AccesoRuta};
-    std::string bytes(static_cast<std::size_t>(largo), '\0');
-    archivo.read(bytes.data(), static_cast<std::streamsize>(largo));
-    if (archivo.bad()) throw Falla{NumeroFalla::AccesoRuta};
-    bytes.resize(static_cast<std::size_t>(archivo.gcount()));
-    return bytes;
-}
 
 void Vuelca(const fs::path& camino, std::string_view bytes, std::ios::openmode modo)
 {
@@ -92,13 +42,13 @@ std::vector<std::string> ListaDirectorio(const fs::path& camino)
     return nombres;
 }
 
-void CopiaArchivo(const fs::path& origen, const fs::path& destino)
+void CopiaArchivo(const LlamadasDisco& llamadas, const std::string& origen, const std::string& destino)
 {
     // By way of the contents: the copy of a write-protected file can be written.
-    const std::string bytes = LeeArchivo(origen);
+    std::string bytes = LeeArchivo(Camino(origen));
     std::error_code error;
-    if (fs::equivalent(origen, destino, error)) throw Falla{NumeroFalla::AccesoRuta};
-    Vuelca(destino, bytes, std::ios::trunc);
+    if (fs::equivalent(Camino(origen), Camino(destino), error)) throw Falla{NumeroFalla::AccesoRuta};
+    ReemplazaArchivos(llamadas, {{destino, std::move(bytes)}});
 }
 
 void BorraArchivo(const fs::path& camino)
@@ -118,10 +68,21 @@ void CreaUnDirectorio(const fs::path& camino)
 
 Disco DiscoDelSistema()
 {
+    return DiscoDelSistema(std::make_shared<const LlamadasDisco>(LlamadasDelSistema()));
+}
+
+Disco DiscoDelSistema(std::shared_ptr<const LlamadasDisco> llamadas)
+{
     Disco disco;
     disco.Lee = [](const std::string& ruta) { return LeeArchivo(Camino(ruta)); };
     disco.Escribe = [](const std::string& ruta, std::string_view bytes) {
         Vuelca(Camino(ruta), bytes, std::ios::trunc);
+    };
+    disco.Reemplaza = [llamadas](const std::vector<CambioArchivo>& cambios) {
+        ReemplazaArchivos(*llamadas, cambios);
+    };
+    disco.Recupera = [llamadas](const std::string& directorio) {
+        return RecuperaCarpeta(*llamadas, directorio);
     };
     disco.Agrega = [](const std::string& ruta, std::string_view bytes) {
         Vuelca(Camino(ruta), bytes, std::ios::app);
@@ -132,8 +93,8 @@ Disco DiscoDelSistema()
     disco.CreaDirectorio = [](const std::string& ruta) { CreaUnDirectorio(Camino(ruta)); };
     disco.Lista = [](const std::string& directorio) { return ListaDirectorio(Camino(directorio)); };
     disco.Borra = [](const std::string& ruta) { BorraArchivo(Camino(ruta)); };
-    disco.Copia = [](const std::string& origen, const std::string& destino) {
-        CopiaArchivo(Camino(origen), Camino(destino));
+    disco.Copia = [llamadas](const std::string& origen, const std::string& destino) {
+        CopiaArchivo(*llamadas, origen, destino);
     };
     return disco;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,14 +16,36 @@ inline constexpr char Separador = '\\';
 inline constexpr char Separador = '/';
 #endif
 
+/// A file as it is to be.
+struct CambioArchivo {
+    std::string ruta{};
+    std::string bytes{};
+    bool operator==(const CambioArchivo&) const = default;
+};
+
+/// What was found of a Reemplaza whose program was killed: file names in the folder that was looked at.
+struct Recuperacion {
+    std::vector<std::string> completados{};  ///< now hold what that program had to write
+    std::vector<std::string> pendientes{};   ///< could not be replaced; the next look tries again
+    bool operator==(const Recuperacion&) const = default;
+};
+
 /// The disk behind one door, so that a test can stand in for it and let the n-th call fail. Paths are UTF-8,
 /// contents are bytes. Faults: 53 the file isn't in its directory, 76 its directory isn't there, 75 the
 /// path can't be read or written.
 struct Disco {
     /// Returns the whole file. Throws Falla 53, 76, 75; 75 also for what is no plain file or above 256 MB.
     std::function<std::string(const std::string& ruta)> Lee;
-    /// Replaces the file by these bytes; an empty text makes an empty file. Throws Falla 76, 75.
+    /// Writes a file anew from its beginning, where it stands: for results, which Agrega goes on with, and
+    /// for what goes out of the program. At a fault the file is cut. Throws Falla 76, 75.
     std::function<void(const std::string& ruta, std::string_view bytes)> Escribe;
+    /// Replaces files that belong together, all of them or none: whatever fails, and whenever the program is
+    /// killed, each is as it was or as it is to be. A link is followed inside its own folder only. Throws
+    /// Falla 76, 75 and leaves all of them as they were.
+    std::function<void(const std::vector<CambioArchivo>& cambios)> Reemplaza;
+    /// Brings a folder in order after a program that was killed in Reemplaza: finishes what it had begun, and
+    /// removes what else it left. Throws Falla 76, 75.
+    std::function<Recuperacion(const std::string& directorio)> Recupera;
     /// Appends to a file that this program is writing. Throws Falla 76, 75.
     std::function<void(const std::string& ruta, std::string_view bytes)> Agrega;
     /// Returns whether a directory is there.
@@ -33,12 +56,16 @@ struct Disco {
     std::function<std::vector<std::string>(const std::string& directorio)> Lista;
     /// Deletes a file. Throws Falla 53, 76, 75.
     std::function<void(const std::string& ruta)> Borra;
-    /// Copies a file over another. Throws Falla 53, 76, 75; 75 also for a copy onto itself.
+    /// Copies a file over another, which is replaced as by Reemplaza. Throws Falla 53, 76, 75; 75 also for a
+    /// copy onto itself.
     std::function<void(const std::string& origen, const std::string& destino)> Copia;
 };
 
-/// The real disk.
+struct LlamadasDisco;
+
+/// The real disk; a test may put its own calls of the system in.
 Disco DiscoDelSistema();
+Disco DiscoDelSistema(std::shared_ptr<const LlamadasDisco> llamadas);
 
 /// Directory + separator + name.
 std::string Ruta(std::string_view directorio, std::string_view nombre);

@@ -12,31 +12,24 @@
 
 namespace model {
 
-/// The writing of a file whose handler reports a fault, closes the file and resumes at the next statement: so
-/// what was written before stays, a shortened file, and each later record fails in its turn with a box of its
-/// own. Faults never leave it.
+/// The writing of a file whose first fault is told and ends it: the file on the disk is then as it was, and
+/// no later statement has any effect. Faults never leave it.
 class EscrituraInformada {
   public:
-    /// `sinAviso`: a fault that closes the file without a box.
-    explicit EscrituraInformada(const Siro& unSiro, std::optional<NumeroFalla> unaSinAviso = {})
+    /// `sinAviso`: a fault that is passed over in silence.
+    EscrituraInformada(const Siro& unSiro, const std::string& ruta,
+                       std::optional<NumeroFalla> unaSinAviso = {})
         : s(unSiro), escritor(unSiro.Disco), sinAviso(unaSinAviso)
     {
+        escritor.Abre(ruta);
     }
-    void Abre(const std::string& ruta)
-    {
-        Paso([&] { escritor.Abre(ruta); });
-    }
-    void Cierra()
-    {
-        Paso([&] { escritor.Cierra(); });
-    }
-    /// One statement. Returns false where it was at fault.
+    /// One statement. Returns false where it was at fault, or the writing has ended before.
     template <typename F>
     bool Paso(F&& cuerpo)
     {
-        return Sentencia(std::forward<F>(cuerpo), [&](const Falla& falla) { Atiende(falla); });
+        return sigue && Sentencia(std::forward<F>(cuerpo), [&](const Falla& falla) { Atiende(falla); });
     }
-    /// A record: `campos` puts its fields, the line end follows. What `campos` can't give leaves no record.
+    /// A record: `campos` puts its fields, the line end follows.
     template <typename F>
     bool Registro(F&& campos)
     {
@@ -45,17 +38,32 @@ class EscrituraInformada {
             escritor.FinRegistro();
         });
     }
+    /// Replaces the file. Returns whether it did.
+    bool Cierra()
+    {
+        return Paso([&] { escritor.Cierra(); });
+    }
+    /// Instead of `Cierra`, for files that are replaced together: the file; nothing after a fault.
+    std::optional<CambioArchivo> Toma()
+    {
+        if (!sigue) return {};
+        return escritor.Toma();
+    }
+
+    /// Whether no fault has been told.
+    [[nodiscard]] bool Sigue() const { return sigue; }
 
   private:
     void Atiende(const Falla& falla)
     {
-        if (falla.numero != sinAviso) Informa(s, TextoFallaArchivo(falla));
-        // Closing what has already failed may fail again: that adds nothing to what the user has read.
-        Sentencia([&] { escritor.Cierra(); }, [](const Falla&) {});
+        if (falla.numero == sinAviso) return;
+        Informa(s, TextoFallaArchivo(falla));
+        sigue = false;
     }
     const Siro& s;
     EscritorRegistros escritor;
     std::optional<NumeroFalla> sinAviso;
+    bool sigue = true;
 };
 
 }  // namespace model

@@ -24,6 +24,7 @@ enum class NumeroFalla : std::int16_t {
 /// components only; an expected failure is never a Falla.
 struct Falla {
     NumeroFalla numero;
+    std::string_view nota{};  ///< what the box says besides, a text of the program's; most faults have none
     bool operator==(const Falla&) const = default;
 };
 

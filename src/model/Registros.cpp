@@ -108,7 +108,7 @@ void EscritorRegistros::Abre(const std::string& unaRuta)
     primero = true;
     abierto = false;
     try {
-        disco.Escribe(ruta, {});
+        if (salida == Salida::PorPiezas) disco.Escribe(ruta, {});
         abierto = true;
     } catch (const Falla& falla) {
         causa = falla.numero;
@@ -167,7 +167,8 @@ void EscritorRegistros::FinRegistro()
     if (!abierto) throw Falla{causa};
     pendiente += completo;
     pendiente += SaltoLinea;
-    if (pendiente.size() >= Pieza) disco.Agrega(ruta, std::exchange(pendiente, {}));
+    if (salida == Salida::PorPiezas && pendiente.size() >= Pieza)
+        disco.Agrega(ruta, std::exchange(pendiente, {}));
 }
 
 void EscritorRegistros::Cierra()
@@ -177,8 +178,15 @@ void EscritorRegistros::Cierra()
     if (!abierto) return;  // the cause of a failed open stays
     abierto = false;
     causa = NumeroFalla::AccesoRuta;
+    if (salida == Salida::Entera) return disco.Reemplaza({Toma()});
     const std::string resto = std::exchange(pendiente, {});
     if (!resto.empty()) disco.Agrega(ruta, resto);
+}
+
+CambioArchivo EscritorRegistros::Toma()
+{
+    abierto = false;
+    return {ruta, std::exchange(pendiente, {})};
 }
 
 }  // namespace model

@@ -76,13 +76,22 @@ void LectorRegistros::Registro(int campos, F lee)
     }
 }
 
-/// Writes records. `Abre` replaces the file at once, as an open for writing does; after a failed open every
-/// record fails in its turn with the same fault. What is written reaches the disk at `Cierra` at the latest.
+/// How a writer's file comes to be.
+enum class Salida {
+    Entera,    ///< gathered, and put in place of the old file at the end, all of it or nothing
+    PorPiezas  ///< the old file is emptied at once and the new one grows: for results of any length
+};
+
+/// Writes records. What is written reaches the disk at `Cierra` at the latest. By pieces, every record after
+/// a failed open fails in its turn with the same fault.
 class EscritorRegistros {
   public:
-    explicit EscritorRegistros(const Disco& unDisco) : disco(unDisco) {}
+    explicit EscritorRegistros(const Disco& unDisco, Salida unaSalida = Salida::Entera)
+        : disco(unDisco), salida(unaSalida)
+    {
+    }
 
-    /// Throws Falla 76, 75.
+    /// By pieces, throws Falla 76, 75.
     void Abre(const std::string& unaRuta);
     /// Fields of the record in hand. A text is written in double quotes as it stands.
     EscritorRegistros& Texto(std::string_view texto);
@@ -94,10 +103,13 @@ class EscritorRegistros {
     void FinRegistro();
     /// Sends what is pending to the disk. Throws Falla 76, 75.
     void Cierra();
+    /// Instead of `Cierra`: the whole file, for who replaces several together.
+    CambioArchivo Toma();
 
   private:
     void Separa();
     const Disco& disco;
+    Salida salida;
     std::string ruta;
     std::string pendiente;
     std::string registro;

@@ -176,6 +176,7 @@ struct Siro {
     std::string TextoPizarra{};  ///< the Slate's text while a run builds it; UTF-8, CR LF
     bool ErrorRed = false;       ///< the validation of the network found a problem
     bool AvisoDescargasVisto = false;
+    bool CargaFallida = false;  ///< the network isn't all that its files hold: their reading was at fault
     bool ContinuarSinCorregir = false;
     bool RedOk = false;
     bool SaltarTormenta = false;  ///< the storm in hand is deselected

@@ -70,13 +70,12 @@ void VaADirectorio(const Siro& s)
     if (!s.Disco.HayDirectorio(s.DirProyecto)) throw Falla{NumeroFalla::RutaNoEsta};
 }
 
-/// What readers and writers begin with: the count, the directory, the name of the file. Returns its path.
+/// Takes the count from the collection, and composes the name of the file. Returns its path.
 template <typename T, int Limite>
-std::string Prepara(Siro& s, const ArchivoTabla<T, Limite>& archivo)
+std::string Compone(Siro& s, const ArchivoTabla<T, Limite>& archivo)
 {
-    const auto informa = [&](const Falla& falla) { InformaFalla(s, falla); };
-    Sentencia([&] { s.*archivo.cuenta = Entero16((s.*archivo.coleccion).Cuenta()); }, informa);
-    Sentencia([&] { VaADirectorio(s); }, informa);
+    Sentencia([&] { s.*archivo.cuenta = Entero16((s.*archivo.coleccion).Cuenta()); },
+              [&](const Falla& falla) { InformaFalla(s, falla); });
     s.ArchivoTemp = s.NombreProyecto + std::string(archivo.sufijo);
     return Ruta(s.DirProyecto, s.ArchivoTemp);
 }
@@ -176,8 +175,9 @@ template <typename T, int Limite>
 class LecturaTabla {
   public:
     LecturaTabla(Siro& unSiro, const ArchivoTabla<T, Limite>& unArchivo)
-        : s(unSiro), archivo(unArchivo), ruta(Prepara(unSiro, unArchivo))
+        : s(unSiro), archivo(unArchivo), ruta(Compone(unSiro, unArchivo))
     {
+        Sentencia([&] { VaADirectorio(s); }, [&](const Falla& falla) { InformaFalla(s, falla); });
         for (const T& componente : s.*archivo.coleccion)
             mayorNumero = std::max(mayorNumero, int{componente.*archivo.numero});
         (s.*archivo.filas).Dimensiona(mayorNumero);
@@ -309,11 +309,10 @@ void PonFila(EscritorRegistros& escritor, const Siro& s, std::span<const Columna
 }
 
 template <typename T, int Limite>
-void GuardaTabla(Siro& s, const ArchivoTabla<T, Limite>& archivo)
+bool GuardaTabla(Siro& s, const ArchivoTabla<T, Limite>& archivo)
 {
-    const std::string ruta = Prepara(s, archivo);
-    EscrituraInformada salida(s, NumeroFalla::ArchivoNoEsta);
-    salida.Abre(ruta);
+    EscrituraInformada salida(s, Compone(s, archivo), NumeroFalla::ArchivoNoEsta);
+    salida.Paso([&] { VaADirectorio(s); });
     for (const T& componente : s.*archivo.coleccion) {
         EscribeCabecera(salida, s, archivo, componente);
         const int numero = componente.*archivo.numero;
@@ -323,7 +322,7 @@ void GuardaTabla(Siro& s, const ArchivoTabla<T, Limite>& archivo)
             salida.Registro(
                 [&](EscritorRegistros& escritor) { PonFila(escritor, s, archivo.columnas, numero, k); });
     }
-    salida.Cierra();
+    return salida.Cierra();
 }
 
 }  // namespace
@@ -343,19 +342,19 @@ void LeeTablaHSVQLago(Siro& s)
     LeeTabla(s, ArchivoLHASQ);
 }
 
-void GuardaTablaHSVRepresa(Siro& s)
+bool GuardaTablaHSVRepresa(Siro& s)
 {
-    GuardaTabla(s, ArchivoRHAS);
+    return GuardaTabla(s, ArchivoRHAS);
 }
 
-void GuardaTablaHQRepresa(Siro& s)
+bool GuardaTablaHQRepresa(Siro& s)
 {
-    GuardaTabla(s, ArchivoRHQ);
+    return GuardaTabla(s, ArchivoRHQ);
 }
 
-void GuardaTablaHSVQLago(Siro& s)
+bool GuardaTablaHSVQLago(Siro& s)
 {
-    GuardaTabla(s, ArchivoLHASQ);
+    return GuardaTabla(s, ArchivoLHASQ);
 }
 
 }  // namespace model

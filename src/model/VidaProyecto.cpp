@@ -2,10 +2,12 @@
 #include "model/VidaProyecto.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "model/Avisos.h"
 #include "model/Componentes.h"
 #include "model/Configuracion.h"
+#include "model/EscriturasEnEspera.h"
 #include "model/Falla.h"
 #include "model/Registros.h"
 #include "model/Siro.h"
@@ -31,6 +33,11 @@ constexpr std::string_view FiltroAbrir = "Archivos de Proyecto (*_Conf.vlm) |*_C
 constexpr std::string_view TituloEliminar = "Consulta";
 constexpr std::string_view Eliminar1 = "¿Está seguro de borrar los archivos del Proyecto <";
 constexpr std::string_view Eliminar2 = "> ? ";
+constexpr std::string_view Completado1 =
+    "Un guardado anterior quedó interrumpido. Se lo completó ahora con los archivos: ";
+constexpr std::string_view Pendiente1 =
+    "Un guardado anterior quedó interrumpido y no se pudo completar. Se intentará otra vez en la próxima "
+    "apertura. Archivos: ";
 constexpr std::string_view SinProyectoElegido = "Ninguno";
 
 std::string ArchivoConf(std::string_view proyecto)
@@ -117,29 +124,57 @@ bool TomaNombreNuevo(Siro& s, const std::string& nombre)
     return false;
 }
 
+/// Runs something that works on another disk, and puts the disk back however it ends.
+template <typename F>
+void EnOtroDisco(Siro& s, Disco disco, F&& cuerpo)
+{
+    std::swap(s.Disco, disco);
+    try {
+        cuerpo();
+    } catch (...) {
+        std::swap(s.Disco, disco);
+        throw;
+    }
+    std::swap(s.Disco, disco);
+}
+
+/// Copies every file of the project, or none: what is written waits until all of it is there. The messages
+/// come when it is on the disk. Throws Falla.
 void CopiaProyecto(Siro& s, const std::string& viejo, const std::string& nuevo)
 {
+    const EscriturasEnEspera espera(s.Disco);
+    std::vector<CambioArchivo> red;
+    std::string conf;
     const auto copia = [&](std::string_view terminacion) {
         SiEsta([&] {
             s.ArchivoTemp = Ruta(s.DirProyecto, std::string(nuevo).append(terminacion));
             s.Disco.Copia(Ruta(s.DirProyecto, std::string(viejo).append(terminacion)), s.ArchivoTemp);
         });
     };
-    copia(TerminacionConf);
-    s.frmConfigura.lblMiArchivoConf = ArchivoConf(nuevo);
-    cmdAplicar(s);
-    copia("_VerCau.vlm");
-    copia("_UEHs.vlm");
-    mnu_btn_toolbarGuardaUEHs(s);
-    copia("_RHQ.vlm");
-    copia("_RHAS.vlm");
-    copia("_LHASQ.vlm");
+    EnOtroDisco(s, espera.Puerta(), [&] {
+        copia(TerminacionConf);
+        s.frmConfigura.lblMiArchivoConf = ArchivoConf(nuevo);
+        EscribeConf(s);
+        conf = s.ArchivoTemp;
+        copia("_VerCau.vlm");
+        copia("_UEHs.vlm");
+        // A network that couldn't be read is copied as it is; any other one must be written anew.
+        if (!EscribeRed(s, red) && !s.CargaFallida) throw Falla{NumeroFalla::AccesoRuta};
+        copia("_RHQ.vlm");
+        copia("_RHAS.vlm");
+        copia("_LHASQ.vlm");
+    });
+    espera.Cumple();
+    s.ProyectoNuevo = false;
+    AvisaConfGuardada(s, conf);
+    AlGuardarse(s, red);
 }
 
 /// Opens the project of a configuration file; of any other file, none.
 void AbreRuta(Siro& s, std::string_view ruta)
 {
     if (!TomaRutaProyecto(s, ruta)) return;
+    RecuperaGuardado(s, s.DirProyecto);
     // The labels come before the configuration and so show the earlier titles: kept as it stands. A pointer
     // that can't be written keeps no project from being opened.
     Sentencia([&] { carga_lbl_proyecto(s); }, [](const Falla&) {});
@@ -189,6 +224,23 @@ void carga_lbl_proyecto(Siro& s)
 {
     s.Anfitrion.carga_lbl_proyecto();
     GuardaPuntero(s);
+}
+
+void RecuperaGuardado(const Siro& s, const std::string& directorio)
+{
+    const auto avisa = [&](std::string_view texto, const std::vector<std::string>& nombres) {
+        std::string lista;
+        for (const std::string& nombre : nombres)
+            lista.append(lista.empty() ? "" : ", ").append(nombre);
+        if (!nombres.empty()) Advierte(s, std::string(texto) + lista);
+    };
+    Sentencia(
+        [&] {
+            const Recuperacion hecha = s.Disco.Recupera(directorio);
+            avisa(Completado1, hecha.completados);
+            avisa(Pendiente1, hecha.pendientes);
+        },
+        [](const Falla&) {});  // whoever opens the folder next will meet it
 }
 
 void LimpiaProyecto(Siro& s)
@@ -267,6 +319,7 @@ bool TomaRutaProyecto(Siro& s, std::string_view ruta)
 void mnu_ultimoarchivo1(Siro& s)
 {
     LimpiaProyecto(s);
+    RecuperaGuardado(s, s.DirProyecto);
     leoConf(s);
     Sentencia([&] { carga_lbl_proyecto(s); }, [](const Falla&) {});
     if (!s.NombreProyecto.empty()) s.Anfitrion.HabilitaGuardarComo();

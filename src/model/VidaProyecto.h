@@ -29,6 +29,10 @@ void GuardaPuntero(Siro& s);
 /// 76, 75.
 void carga_lbl_proyecto(Siro& s);
 
+/// Finishes what a program that was killed in a save has begun in a folder, removes what else it left there,
+/// and tells which files it finished. Before the folder's files are read.
+void RecuperaGuardado(const Siro& s, const std::string& directorio);
+
 /// Empties components, selection, counts and the names of project and directories, then reads the pointer:
 /// so the last project's name is the current one.
 void LimpiaProyecto(Siro& s);
@@ -57,7 +61,8 @@ bool TomaRutaProyecto(Siro& s, std::string_view ruta);
 /// Opens the project that the pointer names.
 void mnu_ultimoarchivo1(Siro& s);
 
-/// Asks for a name and copies the current project's files to it; from then on it is the current project.
+/// Asks for a name and copies the current project's files to it, all of them or none; from then on it is the
+/// current project.
 /// Files that the project hasn't got are passed over. Faults as in mnuNuevoProyecto.
 void mnuGuardarProyectoComo(Siro& s);
 

@@ -176,10 +176,11 @@ bool Cierra(dlgDisPpPer& f, const Siro& s)
     return false;
 }
 
-void Aplica(dlgDisPpPer& f, Siro& s)
+/// Returns false where the tables had to be written and couldn't be, which has been told.
+bool Aplica(dlgDisPpPer& f, Siro& s)
 {
     Asienta(f, s);
-    if (Cierra(f, s)) model::GuardaTablaDisPer(s);
+    return !Cierra(f, s) || model::GuardaTablaDisPer(s);
 }
 
 }  // namespace
@@ -269,8 +270,9 @@ void cmdAplicar(dlgDisPpPer& f, Siro& s)
 
 void OKButton(dlgDisPpPer& f, Siro& s)
 {
-    Evento(s, [&] { Aplica(f, s); });
-    f.abierta = false;
+    bool guardada = true;
+    Evento(s, [&] { guardada = Aplica(f, s); });
+    f.abierta = !guardada;  // what couldn't be saved is nowhere but here
 }
 
 void CancelButton(dlgDisPpPer& f)

@@ -186,8 +186,10 @@ void LlevaPrimera(dlgPp& pp, Siro& s)
     s.RecTormenta = s.SerieR(1);
 }
 
-void Aplica(dlgTablasPDRs& f, dlgPp& pp, Siro& s)
+/// Returns false where the tables had to be written and couldn't be, which has been told.
+bool Aplica(dlgTablasPDRs& f, dlgPp& pp, Siro& s)
 {
+    bool guardada = true;
     forms::Deja(f.MSFlexGridTablaPDRs);
     const auto n = static_cast<std::int16_t>(f.MSFlexGridTablaPDRs.NroFilas());
     s.NroSeriePDR = n;
@@ -197,10 +199,11 @@ void Aplica(dlgTablasPDRs& f, dlgPp& pp, Siro& s)
     if (f.Tabla() == 0) {
         CargaDefecto(f, s);
     } else {
-        if (!CargaPersonal(f, s)) return;
-        model::GuardaTablaPDRs(s);
+        if (!CargaPersonal(f, s)) return true;
+        guardada = model::GuardaTablaPDRs(s);
     }
     if (s.NroSeriePDR >= 1) LlevaPrimera(pp, s);
+    return guardada;
 }
 
 }  // namespace
@@ -259,8 +262,9 @@ void cmdAplicar(dlgTablasPDRs& f, dlgPp& pp, Siro& s)
 
 void OKButton(dlgTablasPDRs& f, dlgPp& pp, Siro& s)
 {
-    Evento(s, [&] { Aplica(f, pp, s); });
-    f.abierta = false;
+    bool guardada = true;
+    Evento(s, [&] { guardada = Aplica(f, pp, s); });
+    f.abierta = !guardada;  // what couldn't be saved is nowhere but here
 }
 
 void CancelButton(dlgTablasPDRs& f)

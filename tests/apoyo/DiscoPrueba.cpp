@@ -86,6 +86,18 @@ struct DiscoPrueba::Estado {
         archivo += bytes.substr(0, cabe);
         if (bytes.size() > cabe) throw Falla{NumeroFalla::AccesoRuta};
     }
+    void Reemplaza(const std::vector<model::CambioArchivo>& cambios)
+    {
+        const auto antes = archivos;
+        for (const model::CambioArchivo& cambio : cambios) {
+            try {
+                Escribe(cambio.ruta, cambio.bytes, false);
+            } catch (const Falla&) {
+                archivos = antes;
+                throw;
+            }
+        }
+    }
     void CreaDirectorio(const std::string& ruta)
     {
         const bool ocupado = directorios.contains(ruta) || archivos.contains(ruta);
@@ -153,7 +165,16 @@ model::Disco DiscoPrueba::Puerta() const
         e->Cuenta(Clase::Copia, origen);
         const std::string bytes = e->ExigeArchivo(origen);
         if (origen == destino) throw Falla{NumeroFalla::AccesoRuta};
-        e->Escribe(destino, bytes, false);
+        e->Reemplaza({{destino, bytes}});
+    };
+    disco.Reemplaza = [e](const std::vector<model::CambioArchivo>& cambios) {
+        e->Cuenta(Clase::Reemplaza, cambios.front().ruta);
+        e->Reemplaza(cambios);
+    };
+    disco.Recupera = [e](const std::string& directorio) {
+        e->Cuenta(Clase::Recupera, directorio);
+        e->Lista(SinBarraFinal(directorio));
+        return model::Recuperacion{};
     };
     return disco;
 }

@@ -21,8 +21,19 @@ namespace apoyo {
 ///     disco.FallaEn(3, NumeroFalla::AccesoRuta);  // the third call from now on
 class DiscoPrueba {
   public:
-    enum class Clase { Lee, Escribe, Agrega, HayDirectorio, CreaDirectorio, Lista, Borra, Copia };
-    /// A call as it came through the door, the failed ones too.
+    enum class Clase {
+        Lee,
+        Escribe,
+        Agrega,
+        HayDirectorio,
+        CreaDirectorio,
+        Lista,
+        Borra,
+        Copia,
+        Reemplaza,
+        Recupera
+    };
+    /// A call as it came through the door, the failed ones too; of a replacement the first file.
     struct Llamada {
         Clase clase;
         std::string ruta;
@@ -44,7 +55,8 @@ class DiscoPrueba {
 
     /// Write-protects a file, or a directory: nothing in it is made, written or deleted.
     void Protege(const std::string& ruta, bool protegido = true);
-    /// Bytes that all files together can take. A write beyond stores what fits and is Falla 75.
+    /// Bytes that all files together can take. A write beyond is Falla 75 and stores what fits, but nothing
+    /// where it replaces a file whole.
     void LimitaEspacio(std::size_t bytes);
 
     /// The n-th call from now on fails, n from 1, and leaves the disk as it is. HayDirectorio can't raise a

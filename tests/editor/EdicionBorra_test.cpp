@@ -269,21 +269,6 @@ TEST_F(EdicionBorra, ElRechazoDeUnoNoDetieneALosSiguientes)
     EXPECT_EQ(s.ColUEHs.Cuenta(), 2);
 }
 
-TEST_F(EdicionBorra, LoQueLaRelecturaNoTrajoDejaDeEstarElegido)
-{
-    disco.Quita("/proy");  // nothing can be saved nor read again
-    s.CauceSel = 2;
-    s.UEHSel = 3;
-    s.RepresaSel = 2;
-    s.LagoSel = 2;
-    Tecla(editor::Tecla::Suprimir);
-    EXPECT_FALSE(Avisos().empty());
-    EXPECT_EQ(s.ColUEHs.Cuenta() + s.ColRepresas.Cuenta() + s.ColLagos.Cuenta(), 0);
-    EXPECT_EQ(s.UEHSel, 0);
-    EXPECT_EQ(s.RepresaSel, 0);
-    EXPECT_EQ(s.LagoSel, 0);
-}
-
 TEST_F(EdicionBorra, SinNadaElegidoSuprimirNoHaceNada)
 {
     Tecla(editor::Tecla::Suprimir);

@@ -84,6 +84,72 @@ TEST_F(DirectorioPropio, SinDirectorioDeUsuarioQuedaElDelEjecutable)
     EXPECT_EQ(PreparaDirTrabajo(disco.Puerta(), programa, "", entregado), programa);
 }
 
+// --- a first start on a full disk ---
+
+struct PrimerArranque : DirectorioPropio {
+    PrimerArranque()
+    {
+        for (const char* const nombre : {"TablasPDRs_pdr.vlm", "Velmir_pt.vlm"})
+            disco.Pon(Ruta(entregado, nombre), std::string(100, 't'));
+        disco.Pon(Ruta(Ruta(entregado, "Proyectos"), "Quelmar_UEHs.vlm"), std::string(100, 'q'));
+        for (const std::string& ruta : disco.Archivos())
+            todo.push_back(programa + ruta.substr(entregado.size()));
+    }
+    bool Pendiente() { return EntregaPendiente(disco.Puerta(), programa); }
+    /// What is delivered and is there; each must be whole.
+    std::size_t Copiados()
+    {
+        std::size_t copiados = 0;
+        for (const std::string& ruta : todo) {
+            if (!disco.Esta(ruta)) continue;
+            EXPECT_EQ(disco.Bytes(ruta), disco.Bytes(entregado + ruta.substr(programa.size()))) << ruta;
+            ++copiados;
+        }
+        return copiados;
+    }
+    std::vector<std::string> todo{};
+};
+
+TEST_F(PrimerArranque, SinLugarCadaArchivoEstaEnteroONoEstaYElProximoLosTrae)
+{
+    disco.LimitaEspacio(2 * (300 + 5 + 4) - 1);  // a byte less than what is delivered takes twice
+    EXPECT_EQ(Prepara(), programa);
+    EXPECT_EQ(Copiados(), todo.size() - 1);
+    EXPECT_TRUE(Pendiente());
+    disco.Pon(Ruta(programa, "VelmirDir.vlm"), "");  // the pointer is written at every start
+    disco.LimitaEspacio(std::string::npos);
+    EXPECT_EQ(Prepara(), programa);
+    EXPECT_EQ(Copiados(), todo.size());
+    EXPECT_FALSE(Pendiente());
+    // From then on what the user deletes stays deleted.
+    disco.Quita(todo.front());
+    Prepara();
+    EXPECT_FALSE(disco.Esta(todo.front()));
+}
+
+TEST_F(PrimerArranque, CadaLlamadaQueFallaDejaArchivosEnterosYElProximoArranqueLosTraeTodos)
+{
+    int n = 0;
+    for (bool hubo = true; hubo;) {
+        ASSERT_LT(++n, 200);
+        disco.Quita(programa);
+        disco.PonDirectorio(programa);
+        disco.FallaEn(n, NumeroFalla::AccesoRuta);
+        const std::string donde = Prepara();
+        hubo = disco.HuboFalla();
+        disco.DejaDeFallar();
+        if (donde != programa) continue;  // the very first call decides where
+        static_cast<void>(Copiados());
+        disco.Pon(Ruta(programa, "VelmirDir.vlm"), "");
+        const bool completo = Copiados() == todo.size();
+        EXPECT_TRUE(completo || Pendiente()) << "call " << n;
+        Prepara();
+        EXPECT_EQ(Copiados(), todo.size()) << "call " << n;
+        EXPECT_FALSE(Pendiente()) << "call " << n;
+    }
+    EXPECT_GE(n, 10);
+}
+
 // Two programs that start at once: the other one has taken the probe away already.
 TEST_F(DirectorioPropio, LaPruebaDeEscrituraNoDependeDePoderBorrarla)
 {

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // Storms and projects on a real disk that fails: the process killed in the middle of a write, the disk full,
-// the directory write-protected. No crash, the box that belongs to it and no other, and memory as it was.
+// the directory write-protected. No crash, the box that belongs to it and no other, memory as it was, and
+// every file the old one or the new one.
 
 #include <gtest/gtest.h>
 #include <sys/mount.h>
@@ -9,16 +10,16 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <functional>
-#include <memory>
 #include <string>
-#include <utility>
 #include <vector>
 
+#include "LlamadasQueFallan.h"
 #include "MundoDeProyecto.h"
 #include "apoyo/Compara.h"
 #include "model/ArchivosTormenta.h"
@@ -152,12 +153,12 @@ struct FallasDeDisco : ::testing::Test, MundoDeProyecto {
     }
     std::string EnRaiz(const std::string& nombre) const { return Ruta(raiz, nombre); }
     /// Runs a writer that must fail with number `numero`; what it shows and throws must be that and no more.
-    void EsperaFalla(const Escritor& escritor, int numero)
+    void EsperaFalla(const Escritor& escritor, int numero, const std::string& nota = "")
     {
         const Datos antes = DatosDe(s);
         const int falla = NumeroDeFalla([&] { escritor.guarda(s); });
         EXPECT_EQ(falla, escritor.avisa ? 0 : numero) << escritor.archivo;
-        const std::string caja = numero == 75 ? CajaAcceso : CajaSinRuta;
+        const std::string caja = (numero == 75 ? CajaAcceso : CajaSinRuta) + nota;
         EXPECT_EQ(TomaSucesos(), escritor.avisa ? Sucesos{caja} : Sucesos{}) << escritor.archivo;
         EXPECT_EQ(DatosDe(s), antes) << escritor.archivo;
     }
@@ -166,29 +167,6 @@ struct FallasDeDisco : ::testing::Test, MundoDeProyecto {
 };
 
 // --- killed in the middle of a write ---
-
-/// A disk that kills its process at the n-th write, half of whose bytes have gone out.
-Disco DiscoQueMata(int n)
-{
-    Disco disco = DiscoDelSistema();
-    const auto cuenta = std::make_shared<int>(n);
-    const auto mata = [cuenta](const auto& escribe) {
-        return [cuenta, escribe](const std::string& ruta, std::string_view bytes) {
-            const bool ultima = --*cuenta == 0;
-            escribe(ruta, ultima ? bytes.substr(0, bytes.size() / 2) : bytes);
-            if (ultima) kill(getpid(), SIGKILL);
-        };
-    };
-    disco.Escribe = mata(disco.Escribe);
-    disco.Agrega = mata(disco.Agrega);
-    disco.Copia = [copia = disco.Copia, cuenta](const std::string& origen, const std::string& destino) {
-        copia(origen, destino);  // a file that isn't there is no write
-        if (--*cuenta > 0) return;
-        fs::resize_file(destino, fs::file_size(destino) / 2);
-        kill(getpid(), SIGKILL);
-    };
-    return disco;
-}
 
 /// What the readers leave of a directory: it must be all or nothing, and silent.
 void EsperaLecturaCallada(MundoDeProyecto& mundo, const std::string& raiz, const std::string& que)
@@ -214,29 +192,53 @@ void EsperaLecturaCallada(MundoDeProyecto& mundo, const std::string& raiz, const
     EXPECT_EQ(mundo.TomaSucesos(), Sucesos{}) << que;
 }
 
-TEST_F(FallasDeDisco, MatadoEnMedioDeCadaEscrituraLoQueQuedaSeLeeEnSilencio)
+constexpr auto PartesHechas = std::to_array<double>({0, 0.5, 1});
+constexpr int MuchasLlamadas = 60;
+
+/// Each writer's file after it has written all over again.
+std::vector<std::string> EscribeTodo(Siro& s, const std::string& raiz)
 {
-    for (const Escritor& escritor : Escritores) {
-        int muertes = 0;
-        for (int n = 1; n <= 20; ++n) {
-            for (const Escritor& otro : Escritores)
-                otro.guarda(s);
-            const FinDeProceso fin = EnOtroProceso([&] {
-                s.Disco = DiscoQueMata(n);
-                escritor.guarda(s);
-                return std::string("al fin");
-            });
-            ASSERT_TRUE(fin.matado || fin.texto == "al fin") << escritor.archivo << ", write " << n;
-            MundoDeProyecto nuevo;
-            nuevo.s.Disco = DiscoDelSistema();
-            nuevo.s.DirEjecutable = nuevo.s.DirTrabajo = nuevo.s.DirProyecto = raiz;
-            EsperaLecturaCallada(nuevo, raiz, escritor.archivo + std::string(", write ") + std::to_string(n));
-            if (!fin.matado) break;
-            ++muertes;
+    std::vector<std::string> bytes;
+    for (const Escritor& escritor : Escritores)
+        escritor.guarda(s);
+    for (const Escritor& escritor : Escritores)
+        bytes.push_back(BytesDeArchivo(Ruta(raiz, escritor.archivo)));
+    return bytes;
+}
+
+TEST_F(FallasDeDisco, MatadoEnCadaLlamadaDeCadaEscrituraElArchivoEsElViejoOElNuevo)
+{
+    for (std::size_t i = 0; i < Escritores.size(); ++i)
+        for (const double hecha : PartesHechas) {
+            const Escritor& escritor = Escritores[i];
+            const std::string nuevo = EscribeTodo(s, raiz)[i];
+            int muertes = 0;
+            for (int n = 1; n <= MuchasLlamadas; ++n) {
+                std::ofstream(EnRaiz(escritor.archivo), std::ios::binary) << "viejo";
+                const FinDeProceso fin = EnOtroProceso([&] {
+                    s.Disco = fallas::Disco({.llamada = n, .hecha = hecha});
+                    escritor.guarda(s);
+                    return std::string("al fin");
+                });
+                ASSERT_TRUE(fin.matado || fin.texto == "al fin") << escritor.archivo << ", call " << n;
+                const std::string queda = BytesDeArchivo(EnRaiz(escritor.archivo));
+                EXPECT_TRUE(queda == "viejo" || queda == nuevo) << escritor.archivo << ", call " << n;
+                if (!fin.matado) EXPECT_EQ(queda, nuevo) << escritor.archivo;
+                MundoDeProyecto otro;
+                otro.s.Disco = DiscoDelSistema();
+                RecuperaGuardado(otro.s, raiz);
+                EXPECT_EQ(otro.TomaSucesos(), Sucesos{}) << "of a single file there is nothing to finish";
+                EXPECT_EQ(fallas::ContenidoDe(raiz).size(), Escritores.size()) << escritor.archivo;
+                if (!fin.matado) break;
+                ++muertes;
+            }
+            EXPECT_EQ(muertes, 3) << escritor.archivo << ": the new file, its name, the folder";
+            EscribeTodo(s, raiz);
         }
-        EXPECT_GE(muertes, 2) << escritor.archivo << ": at the opening and behind it";
-        EXPECT_LT(muertes, 20) << escritor.archivo;
-    }
+    MundoDeProyecto nuevo;
+    nuevo.s.Disco = DiscoDelSistema();
+    nuevo.s.DirEjecutable = nuevo.s.DirTrabajo = nuevo.s.DirProyecto = raiz;
+    EsperaLecturaCallada(nuevo, raiz, "after all of it");
 }
 
 std::string BytesConf(const std::string& directorio)
@@ -253,66 +255,165 @@ std::string BytesConf(const std::string& directorio)
     return bytes;
 }
 
-TEST_F(FallasDeDisco, MatadoEnMedioDeUnaCopiaElProyectoViejoQueda)
+/// A project with components and a table in a folder of its own.
+fallas::Contenido ProyectoEntero(const std::string& directorio)
 {
-    const std::string conf = BytesConf(raiz);
-    int muertes = 0;
-    for (int n = 1; n <= 20; ++n) {
-        for (const char* parte : {"_Conf.vlm", "_UEHs.vlm", "_VerCau.vlm", "_RHQ.vlm"})
-            fs::remove(EnRaiz(std::string("Copia") + parte));
-        std::ofstream(EnRaiz("Quelmar_Conf.vlm"), std::ios::binary) << conf;
-        std::ofstream(EnRaiz("Quelmar_RHQ.vlm"), std::ios::binary) << "tabla";
-        const FinDeProceso fin = EnOtroProceso([&] {
-            TomaRutaProyecto(s, EnRaiz("Quelmar_Conf.vlm"));
-            s.Disco = DiscoQueMata(n);
-            leoConf(s);
-            Responde("Copia");
+    return {{"Quelmar_Conf.vlm", BytesConf(directorio)},
+            {"Quelmar_UEHs.vlm",
+             "\"Quelmar\"\r\n0\r\n1\r\n1\r\n\"u-1\"\r\n250\r\n\"\"\r\n0\r\n0\r\n\r\n0\r\n0\r\n0"
+             "\r\n0\r\n\"\"\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n"},
+            {"Quelmar_VerCau.vlm", ""},
+            {"Quelmar_RHQ.vlm", "tabla"},
+            {"Quelmar_LHASQ.vlm", "otra"}};
+}
+
+struct GuardarComo : FallasDeDisco {
+    /// Opens the project and saves it under another name on a disk of the test's.
+    void Guarda(const Disco& disco)
+    {
+        TomaRutaProyecto(s, EnRaiz("Quelmar_Conf.vlm"));
+        leoConf(s);
+        Responde("Copia");
+        s.Disco = disco;
+        try {
             mnuGuardarProyectoComo(s);
-            return std::string("al fin");
-        });
-        ASSERT_TRUE(fin.matado || fin.texto == "al fin") << "write " << n << ": " << fin.texto;
-        EXPECT_EQ(BytesDeArchivo(EnRaiz("Quelmar_Conf.vlm")), conf) << "write " << n;
-        EXPECT_EQ(BytesDeArchivo(EnRaiz("Quelmar_RHQ.vlm")), "tabla") << "write " << n;
-        if (!fin.matado) break;
-        ++muertes;
+        } catch (const FinDelPrograma&) {
+            termino = true;
+        }
     }
-    EXPECT_GE(muertes, 4) << "the copy of the configuration, its two writes, the copy of the table";
-    EXPECT_LT(muertes, 20);
-    EXPECT_EQ(BytesDeArchivo(EnRaiz("Copia_RHQ.vlm")), "tabla");
+    /// What a folder holds beside the old project, which must be as it was.
+    fallas::Contenido Copia()
+    {
+        fallas::Contenido queda = fallas::ContenidoDe(raiz);
+        for (const auto& [nombre, bytes] : ProyectoEntero(raiz)) {
+            EXPECT_EQ(queda[nombre], bytes) << nombre;
+            queda.erase(nombre);
+        }
+        return queda;
+    }
+    void Empieza()
+    {
+        fallas::PonContenido(raiz, ProyectoEntero(raiz));
+        termino = false;
+        TomaSucesos();
+    }
+    bool termino = false;
+};
+
+TEST_F(GuardarComo, LlevaCadaArchivo)
+{
+    Empieza();
+    Guarda(DiscoDelSistema());
+    const fallas::Contenido copia = Copia();
+    EXPECT_EQ(copia.size(), 5U);
+    EXPECT_EQ(copia.at("Copia_UEHs.vlm").substr(0, 9), "\"Copia\"\r\n");
+    EXPECT_EQ(copia.at("Copia_UEHs.vlm").substr(9), ProyectoEntero(raiz)["Quelmar_UEHs.vlm"].substr(11));
+    EXPECT_EQ(copia.at("Copia_RHQ.vlm"), "tabla");
+    EXPECT_EQ(copia.at("Copia_LHASQ.vlm"), "otra");
+}
+
+TEST_F(GuardarComo, CadaLlamadaNegadaDejaTodoONada)
+{
+    Empieza();
+    Guarda(DiscoDelSistema());
+    const fallas::Contenido entera = Copia();
+    for (const std::errc error : {std::errc::no_space_on_device, std::errc::permission_denied,
+                                  std::errc::no_such_file_or_directory, std::errc::io_error}) {
+        int n = 1, nadas = 0;
+        for (; n < MuchasLlamadas; ++n) {
+            Empieza();
+            const fallas::Golpe golpe{.llamada = n, .error = error};
+            Guarda(fallas::Disco(golpe));
+            s.Disco = DiscoDelSistema();
+            RecuperaGuardado(s, raiz);  // a temporary whose removal was refused
+            EXPECT_EQ(Copia(), termino ? fallas::Contenido{} : entera) << "call " << n;
+            const Sucesos vistos = TomaSucesos();
+            const auto dice = [&](const std::string& que) {
+                return std::count_if(vistos.begin(), vistos.end(), [&](const std::string& suceso) {
+                    return suceso.find(que) != std::string::npos;
+                });
+            };
+            EXPECT_EQ(dice("correctamente"), termino ? 0 : 2) << "call " << n;
+            EXPECT_EQ(dice("Error de archivo desconocido"), termino ? 1 : 0) << "call " << n;
+            nadas += termino ? 1 : 0;
+            if (*golpe.cuenta < n) break;
+        }
+        EXPECT_GE(nadas, 6) << "five new files and their list at least";
+        EXPECT_LT(n, MuchasLlamadas);
+    }
+}
+
+TEST_F(GuardarComo, MatadoEnCadaLlamadaQuedaTodoONadaTrasLaProximaApertura)
+{
+    Empieza();
+    Guarda(DiscoDelSistema());
+    const fallas::Contenido entera = Copia();
+    for (const double hecha : PartesHechas) {
+        int muertes = 0, enteras = 0, completadas = 0;
+        for (int n = 1; n < MuchasLlamadas; ++n) {
+            Empieza();
+            const FinDeProceso fin = EnOtroProceso([&] {
+                Guarda(fallas::Disco({.llamada = n, .hecha = hecha}));
+                return std::string("al fin");
+            });
+            ASSERT_TRUE(fin.matado || fin.texto == "al fin") << "call " << n << ": " << fin.texto;
+            s.Disco = DiscoDelSistema();
+            AbreProyectoDe(s, EnRaiz("Quelmar_Conf.vlm"));
+            // The user is told of what was finished.
+            for (const std::string& suceso : TomaSucesos())
+                completadas +=
+                    suceso.find("Se lo completó ahora con los archivos: Copia_") != std::string::npos;
+            fs::remove(EnRaiz("VelmirDir.vlm"));
+            fs::remove(EnRaiz("Proyectos"));
+            const fallas::Contenido copia = Copia();
+            EXPECT_TRUE(copia.empty() || copia == entera) << "call " << n << ", part " << hecha;
+            enteras += copia.empty() ? 0 : 1;
+            if (!fin.matado) break;
+            ++muertes;
+        }
+        EXPECT_GE(muertes, 12) << "five files, a list, five names, the list's end";
+        EXPECT_LT(muertes, MuchasLlamadas - 2);
+        EXPECT_GE(enteras, 5);
+        EXPECT_GE(completadas, 5);
+    }
 }
 
 // --- full disk ---
 
-TEST_F(FallasDeDisco, UnDiscoLlenoSeDiceUnaVezYLaMemoriaQueda)
+TEST_F(FallasDeDisco, UnEnlaceQueSaleDeLaCarpetaSeNiegaYSeDice)
 {
-    // What is written through these links finds no room, as on a full disk: the opening still passes.
-    if (!fs::exists("/dev/full")) GTEST_SKIP() << "this system has no /dev/full";
+    const std::string nota =
+        "\r\n\r\nEl archivo es un enlace que lleva fuera de su carpeta: no se escribe a través de él.";
+    const apoyo::CarpetaTemporal ajena;
     for (const Escritor& escritor : Escritores) {
-        fs::create_symlink("/dev/full", EnRaiz(escritor.archivo));
-        EsperaFalla(escritor, 75);
+        std::ofstream(ajena.Ruta("meta"), std::ios::binary) << "ajeno";
+        fs::create_symlink(ajena.Ruta("meta"), EnRaiz(escritor.archivo));
+        EsperaFalla(escritor, 75, nota);
+        EXPECT_EQ(BytesDeArchivo(ajena.Ruta("meta")), "ajeno") << escritor.archivo;
     }
 }
 
-TEST_F(FallasDeDisco, UnSistemaDeArchivosLlenoSeDiceUnaVezYLoEscritoQuedaCorto)
+TEST_F(FallasDeDisco, UnSistemaDeArchivosLlenoSeDiceUnaVezYCadaArchivoQueda)
 {
     const std::string chico = EnRaiz("chico");
     fs::create_directory(chico);
     if (mount("tmpfs", chico.c_str(), "tmpfs", 0, "size=64k") != 0)
-        GTEST_SKIP() << "only a privileged user can mount; the full disk is tried with /dev/full as well";
+        GTEST_SKIP()
+            << "only a privileged user can mount; what fails is tried with every call refused as well";
     Monta(chico);
-    for (const Escritor& escritor : Escritores)
-        escritor.guarda(s);
+    EscribeTodo(s, chico);
     TomaSucesos();
-    Monta(chico);
+    for (const Escritor& escritor : Escritores)
+        std::ofstream(Ruta(chico, escritor.archivo), std::ios::binary) << "viejo";
     std::ofstream(Ruta(chico, "relleno"), std::ios::binary)
         << std::string(1 << 20, 'x');  // as far as it goes
+    const std::size_t archivos = fallas::ContenidoDe(chico).size();
+    Monta(chico);
     for (const Escritor& escritor : Escritores) {
-        // The file that is replaced gives its page back: the filler takes it.
-        std::ofstream(Ruta(chico, escritor.archivo), std::ios::binary | std::ios::trunc).close();
-        std::ofstream(Ruta(chico, "relleno"), std::ios::binary | std::ios::app) << std::string(1 << 16, 'x');
         EsperaFalla(escritor, 75);
-        EXPECT_EQ(BytesDeArchivo(Ruta(chico, escritor.archivo)), "") << escritor.archivo;
+        EXPECT_EQ(BytesDeArchivo(Ruta(chico, escritor.archivo)), "viejo") << escritor.archivo;
     }
+    EXPECT_EQ(fallas::ContenidoDe(chico).size(), archivos) << "a temporary is left";
     EXPECT_EQ(umount2(chico.c_str(), MNT_DETACH), 0);
 }
 

@@ -365,7 +365,14 @@ TEST_F(Escritor, CadaTipoComoSeEscribe)
                    disco.Bytes(Archivo)));
 }
 
-TEST_F(Escritor, AbrirReemplazaElArchivoEnseguida)
+struct EscritorPorPiezas : ::testing::Test {
+    EscritorPorPiezas() { disco.PonDirectorio("proy"); }
+    DiscoPrueba disco;
+    const model::Disco puerta = disco.Puerta();
+    EscritorRegistros escritor{puerta, Salida::PorPiezas};
+};
+
+TEST_F(EscritorPorPiezas, AbrirReemplazaElArchivoEnseguida)
 {
     disco.Pon(Archivo, "viejo");
     escritor.Abre(Archivo);
@@ -374,7 +381,7 @@ TEST_F(Escritor, AbrirReemplazaElArchivoEnseguida)
     EXPECT_EQ(disco.Bytes(Archivo), "");
 }
 
-TEST_F(Escritor, TrasAbrirEnFalsoCadaRegistroFallaIgual)
+TEST_F(EscritorPorPiezas, TrasAbrirEnFalsoCadaRegistroFallaIgual)
 {
     const std::string lejos = Ruta("otro", "a.vlm");
     EXPECT_EQ(NumeroDeFalla([&] { escritor.Abre(lejos); }), 76);
@@ -416,7 +423,7 @@ TEST_F(Escritor, TrasCerrarCadaRegistroFalla)
     EXPECT_EQ(disco.Bytes(Archivo), "");
 }
 
-TEST_F(Escritor, UnArchivoLargoSaleEnPiezasYEntero)
+TEST_F(EscritorPorPiezas, UnArchivoLargoSaleEnPiezasYEntero)
 {
     escritor.Abre(Archivo);
     std::string esperado;
@@ -430,7 +437,7 @@ TEST_F(Escritor, UnArchivoLargoSaleEnPiezasYEntero)
     EXPECT_TRUE(MismoTexto(esperado, disco.Bytes(Archivo)));
 }
 
-TEST_F(Escritor, ConElDiscoLlenoQuedaUnArchivoAcortado)
+TEST_F(EscritorPorPiezas, ConElDiscoLlenoQuedaUnArchivoAcortado)
 {
     disco.LimitaEspacio(5);
     escritor.Abre(Archivo);
@@ -441,7 +448,7 @@ TEST_F(Escritor, ConElDiscoLlenoQuedaUnArchivoAcortado)
     EXPECT_EQ(disco.Bytes(Archivo), "\"abcd");
 }
 
-TEST_F(Escritor, UnaPiezaQueFallaEsFallaDelRegistroEnCurso)
+TEST_F(EscritorPorPiezas, UnaPiezaQueFallaEsFallaDelRegistroEnCurso)
 {
     escritor.Abre(Archivo);
     disco.FallaEn(1, NumeroFalla::AccesoRuta);
@@ -453,6 +460,19 @@ TEST_F(Escritor, UnaPiezaQueFallaEsFallaDelRegistroEnCurso)
     // 14 bytes a record; what the failed piece held is gone: 4682 records are the first that pass 65536
     // bytes.
     EXPECT_EQ(disco.Bytes(Archivo).size(), 14U * (10000 - 4682));
+}
+
+TEST_F(Escritor, EnteroNadaSaleAntesDelCierreYElViejoQuedaSiFalla)
+{
+    disco.Pon(Archivo, "viejo");
+    escritor.Abre(Archivo);
+    escritor.Texto(std::string(100000, 'x')).FinRegistro();
+    EXPECT_TRUE(disco.Llamadas().empty());
+    disco.LimitaEspacio(50000);
+    EXPECT_EQ(NumeroDeFalla([&] { escritor.Cierra(); }), 75);
+    EXPECT_EQ(disco.Bytes(Archivo), "viejo");
+    EXPECT_EQ(NumeroDeFalla([&] { escritor.Cierra(); }), 0);  // nothing is sent twice
+    EXPECT_EQ(disco.Bytes(Archivo), "viejo");
 }
 
 // --- both together ---

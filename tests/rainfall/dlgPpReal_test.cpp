@@ -682,7 +682,7 @@ TEST_F(DialogoPpReal, CerrarEscribeDosVecesYAplicarUna)
     const auto escrituras = [&] {
         int n = 0;
         for (const auto& llamada : disco.Llamadas())
-            if (llamada.clase == apoyo::DiscoPrueba::Clase::Escribe) ++n;
+            if (llamada.clase == apoyo::DiscoPrueba::Clase::Reemplaza) ++n;
         return n;
     };
     disco.OlvidaLlamadas();

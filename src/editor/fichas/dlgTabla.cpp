@@ -287,19 +287,21 @@ void Toma(const dlgTabla& f, Siro& s)
     (s.*d.filas)(numero) = f.NroFilas;
 }
 
-void Aplica(dlgTabla& f, Siro& s)
+/// Returns false where the table had to be written and couldn't be, which has been told.
+bool Aplica(dlgTabla& f, Siro& s)
 {
-    if (!f.hayComponente) return;
+    if (!f.hayComponente) return true;
     const DescripcionTabla& d = *f.descripcion;
     HaceLugar(f, s);
     bool bien = SonNumeros(f);
     for (std::size_t i = 0; i < d.pruebas.size(); ++i)
         bien = Crece(f, s, PrimeraColumna + static_cast<int>(i), d.pruebas[i]) && bien;
-    if (!bien) return;
+    if (!bien) return true;
     Toma(f, s);
-    d.guarda(s);
-    f.cortadas.clear();
+    const bool guardada = d.guarda(s);
+    if (guardada) f.cortadas.clear();
     if (f.NroFilas >= 1) forms::Mueve(f.grilla, {1, PrimeraColumna});
+    return guardada;
 }
 
 }  // namespace
@@ -311,7 +313,9 @@ void cmdAplicar(dlgTabla& f, Siro& s)
 
 void OKButton(dlgTabla& f, Siro& s)
 {
-    cmdAplicar(f, s);
+    bool guardada = true;
+    forms::Evento(s, [&] { guardada = Aplica(f, s); });
+    if (!guardada) return;  // what couldn't be saved is nowhere but here
     model::Advierte(s, std::string(Recordatorio), {});
     f.abierta = false;
 }

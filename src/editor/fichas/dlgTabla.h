@@ -49,7 +49,7 @@ struct DescripcionTabla {
     int (*cuentaEnColeccion)(const model::Siro&);
     model::Arreglo<std::int16_t> model::Siro::*filas;  ///< rows of each component's table
     void (*lee)(model::Siro&);
-    void (*guarda)(model::Siro&);
+    bool (*guarda)(model::Siro&);
 };
 
 const DescripcionTabla& DescripcionDe(TipoTabla tipo);

@@ -175,8 +175,9 @@ void OKButton(dlgUEHsEditTabla& f, Siro& s)
         Toma(f.MSFlexGridEditUEHs, s.ColUEHs, EditablesUEHs);
     });
     if (!tomadas) return;
-    if (model::Consulta(s, std::string(ConfirmaCambios), TituloConsulta)) model::mnu_btn_toolbarGuardaUEHs(s);
-    f.abierta = false;
+    const bool guarda = model::Consulta(s, std::string(ConfirmaCambios), TituloConsulta);
+    // What couldn't be saved is nowhere but here.
+    f.abierta = guarda && !model::mnu_btn_toolbarGuardaUEHs(s);
 }
 
 void cmdCancel(dlgUEHsEditTabla& f)

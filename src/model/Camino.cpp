@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "model/Camino.h"
+
+#include <cstdint>
+#include <fstream>
+#include <system_error>
+
+#include "model/Falla.h"
+
+namespace model {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// No file of a project comes near; a larger one is read as little as a directory is.
+constexpr std::uintmax_t MaximoBytes = std::uintmax_t{256} << 20;
+
+}  // namespace
+
+fs::path Camino(const std::string& ruta)
+{
+    // The system would take such a path only as far as its NUL, hence for another file.
+    if (ruta.find('\0') != std::string::npos) throw Falla{NumeroFalla::AccesoRuta};
+    return {std::u8string(ruta.begin(), ruta.end())};
+}
+
+std::string TextoDe(const fs::path& camino)
+{
+    const std::u8string utf8 = camino.u8string();
+    return {utf8.begin(), utf8.end()};
+}
+
+bool EsDirectorio(const fs::path& camino)
+{
+    std::error_code error;
+    return fs::is_directory(camino, error);
+}
+
+bool HayDirectorioDe(const fs::path& camino)
+{
+    const fs::path padre = camino.parent_path();
+    return padre.empty() || EsDirectorio(padre);
+}
+
+void ExigeArchivo(const fs::path& camino)
+{
+    std::error_code error;
+    const fs::file_status estado = fs::status(camino, error);
+    if (estado.type() == fs::file_type::not_found)
+        throw Falla{HayDirectorioDe(camino) ? NumeroFalla::ArchivoNoEsta : NumeroFalla::RutaNoEsta};
+    if (!fs::is_regular_file(estado)) throw Falla{NumeroFalla::AccesoRuta};
+}
+
+std::string LeeArchivo(const fs::path& camino)
+{
+    ExigeArchivo(camino);
+    std::error_code error;
+    const std::uintmax_t largo = fs::file_size(camino, error);
+    if (error || largo > MaximoBytes) throw Falla{NumeroFalla::AccesoRuta};
+
+    std::ifstream archivo(camino, std::ios::binary);
+    if (!archivo) throw Falla{NumeroFalla::AccesoRuta};
+    std::string bytes(static_cast<std::size_t>(largo), '\0');
+    archivo.read(bytes.data(), static_cast<std::streamsize>(largo));
+    if (archivo.bad()) throw Falla{NumeroFalla::AccesoRuta};
+    bytes.resize(static_cast<std::size_t>(archivo.gcount()));
+    return bytes;
+}
+
+}  // namespace model

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+// Paths of the real disk: UTF-8 outside, the system's own kind here.
+namespace model {
+
+/// Throws Falla 75 for a path that the system would take for another one.
+std::filesystem::path Camino(const std::string& ruta);
+std::string TextoDe(const std::filesystem::path& camino);
+
+bool EsDirectorio(const std::filesystem::path& camino);
+/// Whether the directory that a path names its file in is there.
+bool HayDirectorioDe(const std::filesystem::path& camino);
+
+/// Throws Falla 53, 76, 75 unless there is a plain file to be read or deleted.
+void ExigeArchivo(const std::filesystem::path& camino);
+
+/// The whole file. Throws Falla 53, 76, 75.
+std::string LeeArchivo(const std::filesystem::path& camino);
+
+}  // namespace model

@@ -1,0 +1,346 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// Files replaced on the real disk while every call of the system fails in its turn, in each way, or the
+// process is killed at it: each file is the old one or the new one, never less, and files that belong
+// together are all old or all new.
+
+#include "model/Reemplazo.h"
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <vector>
+
+#include "LlamadasQueFallan.h"
+#include "model/Falla.h"
+#include "model/RestosDeReemplazo.h"
+
+using namespace model;
+using fallas::Contenido;
+using fallas::ContenidoDe;
+using fallas::Fin;
+using fallas::Golpe;
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr auto Errores = std::to_array<std::errc>(
+    {std::errc::no_space_on_device, std::errc::permission_denied, std::errc::no_such_file_or_directory,
+     std::errc::io_error, std::errc::read_only_file_system});
+constexpr auto PartesHechas = std::to_array<double>({0, 0.5, 1});
+constexpr int MuchasLlamadas = 100;
+
+struct ReemplazoReal : ::testing::Test {
+    fs::path En(const std::string& nombre) const { return carpeta.Camino() / nombre; }
+    void Reemplaza(const Contenido& nuevo, const LlamadasDisco& llamadas) const
+    {
+        std::vector<CambioArchivo> cambios;
+        for (const auto& [nombre, bytes] : nuevo)
+            cambios.push_back({En(nombre).string(), bytes});
+        ReemplazaArchivos(llamadas, cambios);
+    }
+    Contenido Queda() const { return ContenidoDe(carpeta.Camino()); }
+    void Recupera() const { RecuperaCarpeta(LlamadasDelSistema(), carpeta.Camino().string()); }
+    apoyo::CarpetaTemporal carpeta;
+};
+
+/// What is there before and what is to be there; "nuevo" and "tercero" come in with the replacement.
+struct Caso {
+    const char* que;
+    Contenido viejo, nuevo;
+};
+
+const std::vector<Caso> Casos{
+    {"one file", {{"a", "viejo"}}, {{"a", "mucho más nuevo"}}},
+    {"a file that isn't there", {}, {{"nuevo", "x"}}},
+    {"two files", {{"a", "viejo a"}, {"b", "viejo b"}}, {{"a", "nuevo a"}, {"b", ""}}},
+    {"three files, two of them new",
+     {{"a", "viejo a"}},
+     {{"a", "nuevo a"}, {"nuevo", "x"}, {"tercero", std::string(100000, 'z')}}}};
+
+TEST_F(ReemplazoReal, PoneLoNuevoYNoDejaNadaMas)
+{
+    for (const Caso& caso : Casos) {
+        fallas::PonContenido(carpeta.Camino(), caso.viejo);
+        Reemplaza(caso.nuevo, LlamadasDelSistema());
+        EXPECT_EQ(Queda(), caso.nuevo) << caso.que;
+    }
+}
+
+TEST_F(ReemplazoReal, CadaLlamadaNegadaDejaTodoViejoOTodoNuevo)
+{
+    for (const Caso& caso : Casos)
+        for (const std::errc error : Errores) {
+            int n = 1, fallidas = 0;
+            for (; n < MuchasLlamadas; ++n) {
+                fallas::PonContenido(carpeta.Camino(), caso.viejo);
+                const Golpe golpe{.llamada = n, .error = error};
+                const int falla =
+                    apoyo::NumeroDeFalla([&] { Reemplaza(caso.nuevo, fallas::Llamadas(golpe)); });
+                if (falla != 0) ++fallidas;
+                Recupera();  // a temporary whose removal was refused
+                EXPECT_EQ(Queda(), falla == 0 ? caso.nuevo : caso.viejo)
+                    << caso.que << ", call " << n << ", " << std::make_error_code(error).message();
+                if (*golpe.cuenta < n) break;
+            }
+            EXPECT_LT(n, MuchasLlamadas) << caso.que;
+            EXPECT_GE(n, 4) << caso.que << ": create, rename, settle, and none more";
+            EXPECT_GE(fallidas, 1) << caso.que;
+        }
+}
+
+// The disk goes for good at the n-th call: nothing can be taken back any more, so that what has begun waits.
+TEST_F(ReemplazoReal, DesdeUnaLlamadaTodasNegadasYLaProximaAperturaLoArregla)
+{
+    for (const Caso& caso : Casos)
+        for (int n = 1; n < MuchasLlamadas; ++n) {
+            fallas::PonContenido(carpeta.Camino(), caso.viejo);
+            const Golpe golpe{.llamada = n, .error = std::errc::io_error, .sigue = true};
+            const int falla = apoyo::NumeroDeFalla([&] { Reemplaza(caso.nuevo, fallas::Llamadas(golpe)); });
+            Recupera();
+            const Contenido queda = Queda();
+            EXPECT_TRUE(queda == caso.nuevo || (falla != 0 && queda == caso.viejo)) << caso.que << ", " << n;
+            if (*golpe.cuenta < n) break;
+        }
+}
+
+TEST_F(ReemplazoReal, MatadoEnCadaLlamadaQuedaTodoViejoOTodoNuevoTrasLaProximaApertura)
+{
+    for (const Caso& caso : Casos)
+        for (const double hecha : PartesHechas) {
+            int muertes = 0, nuevos = 0;
+            for (int n = 1; n < MuchasLlamadas; ++n) {
+                fallas::PonContenido(carpeta.Camino(), caso.viejo);
+                const Fin fin = fallas::EnOtroProceso(
+                    [&] { Reemplaza(caso.nuevo, fallas::Llamadas({.llamada = n, .hecha = hecha})); });
+                ASSERT_NE(fin, Fin::Mal);
+                for (const auto& [nombre, bytes] : Queda())
+                    if (!nombre.starts_with(".siro-"))
+                        EXPECT_TRUE((caso.viejo.contains(nombre) && caso.viejo.at(nombre) == bytes) ||
+                                    caso.nuevo.at(nombre) == bytes)
+                            << nombre << " before the next opening";
+                Recupera();
+                const Contenido queda = Queda();
+                EXPECT_TRUE(queda == caso.viejo || queda == caso.nuevo)
+                    << caso.que << ", call " << n << ", part " << hecha;
+                if (queda == caso.nuevo) ++nuevos;
+                if (fin == Fin::Entero) break;
+                ++muertes;
+            }
+            EXPECT_GE(muertes, 3) << caso.que;
+            EXPECT_LT(muertes, MuchasLlamadas - 2) << caso.que;
+            EXPECT_GE(nuevos, 1) << caso.que;
+        }
+}
+
+TEST_F(ReemplazoReal, MatadoEntreDosNombresSeCompletaYSeDiceCuales)
+{
+    const Caso& caso = Casos[2];
+    fallas::PonContenido(carpeta.Camino(), caso.viejo);
+    // Two temporaries, the list, its settling, the first rename; killed at the second.
+    EXPECT_EQ(fallas::EnOtroProceso([&] { Reemplaza(caso.nuevo, fallas::Llamadas({.llamada = 6})); }),
+              Fin::Matado);
+    const Recuperacion hecha = RecuperaCarpeta(LlamadasDelSistema(), carpeta.Camino().string());
+    EXPECT_EQ(hecha, (Recuperacion{{"b"}, {}}));
+    EXPECT_EQ(Queda(), caso.nuevo);
+    EXPECT_EQ(RecuperaCarpeta(LlamadasDelSistema(), carpeta.Camino().string()), Recuperacion{});
+}
+
+TEST_F(ReemplazoReal, LoQueNoSePuedeCompletarQuedaParaLaProximaVez)
+{
+    const Caso& caso = Casos[2];
+    fallas::PonContenido(carpeta.Camino(), caso.viejo);
+    EXPECT_EQ(fallas::EnOtroProceso([&] { Reemplaza(caso.nuevo, fallas::Llamadas({.llamada = 5})); }),
+              Fin::Matado);
+    const auto negada = fallas::Llamadas({.llamada = 1, .error = std::errc::permission_denied});
+    EXPECT_EQ(RecuperaCarpeta(negada, carpeta.Camino().string()), (Recuperacion{{"b"}, {"a"}}));
+    EXPECT_EQ(RecuperaCarpeta(LlamadasDelSistema(), carpeta.Camino().string()), (Recuperacion{{"a"}, {}}));
+    EXPECT_EQ(Queda(), caso.nuevo);
+}
+
+TEST_F(ReemplazoReal, LosDerechosDelArchivoQuedan)
+{
+    fallas::PonContenido(carpeta.Camino(), {{"a", "viejo"}});
+    for (const mode_t derechos : {0600U, 0640U, 0664U, 0666U}) {
+        chmod(En("a").c_str(), derechos);
+        Reemplaza({{"a", "nuevo"}}, LlamadasDelSistema());
+        EXPECT_EQ(static_cast<mode_t>(fs::status(En("a")).permissions()), derechos);
+    }
+}
+
+// --- where a folder takes no new file ---
+
+/// Gives up the rights of the administrator, who may write everywhere.
+bool SinPrivilegios()
+{
+    constexpr uid_t nadie = 65534;
+    return geteuid() != 0 || (setgid(nadie) == 0 && setuid(nadie) == 0);
+}
+
+TEST_F(ReemplazoReal, EnUnaCarpetaSinArchivosNuevosSeEscribeEnSitio)
+{
+    fallas::PonContenido(carpeta.Camino(), {{"a", "viejo"}, {"b", "otro"}});
+    chmod(En("a").c_str(), 0666);
+    chmod(En("b").c_str(), 0666);
+    chmod(carpeta.Camino().c_str(), 0555);
+    const Fin fin = fallas::EnOtroProceso([&] {
+        if (!SinPrivilegios()) _exit(2);
+        Reemplaza({{"a", "nuevo y más largo"}, {"b", "x"}}, LlamadasDelSistema());
+        // What isn't there can't come in.
+        if (apoyo::NumeroDeFalla([&] { Reemplaza({{"c", "x"}}, LlamadasDelSistema()); }) != 75) _exit(3);
+    });
+    chmod(carpeta.Camino().c_str(), 0755);
+    EXPECT_EQ(fin, Fin::Entero);
+    EXPECT_EQ(Queda(), (Contenido{{"a", "nuevo y más largo"}, {"b", "x"}}));
+}
+
+TEST_F(ReemplazoReal, EnSitioUnDiscoLlenoDejaLoViejo)
+{
+    const Contenido viejo{{"a", "viejo"}, {"b", "otro"}};
+    fallas::PonContenido(carpeta.Camino(), viejo);
+    chmod(En("a").c_str(), 0666);
+    chmod(En("b").c_str(), 0666);
+    chmod(carpeta.Camino().c_str(), 0555);
+    const Fin fin = fallas::EnOtroProceso([&] {
+        if (!SinPrivilegios()) _exit(2);
+        std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit limite{100, 100};
+        setrlimit(RLIMIT_FSIZE, &limite);
+        const Contenido nuevo{{"a", "nuevo"}, {"b", std::string(1000, 'x')}};
+        if (apoyo::NumeroDeFalla([&] { Reemplaza(nuevo, LlamadasDelSistema()); }) != 75) _exit(3);
+    });
+    chmod(carpeta.Camino().c_str(), 0755);
+    EXPECT_EQ(fin, Fin::Entero);
+    EXPECT_EQ(Queda(), viejo);
+}
+
+TEST_F(ReemplazoReal, UnArchivoProtegidoNoSeReemplaza)
+{
+    fallas::PonContenido(carpeta.Camino(), {{"a", "viejo"}});
+    chmod(En("a").c_str(), 0444);
+    chmod(carpeta.Camino().c_str(), 0777);
+    const Fin fin = fallas::EnOtroProceso([&] {
+        if (!SinPrivilegios()) _exit(2);
+        if (apoyo::NumeroDeFalla([&] { Reemplaza({{"a", "x"}}, LlamadasDelSistema()); }) != 75) _exit(3);
+    });
+    EXPECT_EQ(fin, Fin::Entero);
+    EXPECT_EQ(Queda(), (Contenido{{"a", "viejo"}}));
+}
+
+// --- links ---
+
+struct Enlaces : ReemplazoReal {
+    Enlaces()
+    {
+        fs::create_directory(En("dentro"));
+        std::ofstream(En("dentro") / "meta", std::ios::binary) << "viejo";
+        std::ofstream(fuera.Ruta("meta"), std::ios::binary) << "ajeno";
+    }
+    int Escribe(const std::string& nombre) const
+    {
+        return apoyo::NumeroDeFalla([&] { Reemplaza({{nombre, "nuevo"}}, LlamadasDelSistema()); });
+    }
+    apoyo::CarpetaTemporal fuera;
+};
+
+TEST_F(Enlaces, DentroDeLaCarpetaSeSiguen)
+{
+    fs::create_symlink("dentro/meta", En("a"));
+    fs::create_symlink("a", En("b"));
+    fs::create_symlink("todavia_no", En("c"));
+    EXPECT_EQ(Escribe("b"), 0);
+    EXPECT_EQ(apoyo::BytesDeArchivo(En("dentro") / "meta"), "nuevo");
+    EXPECT_TRUE(fs::is_symlink(En("a")) && fs::is_symlink(En("b")));
+    EXPECT_EQ(Escribe("c"), 0);
+    EXPECT_EQ(apoyo::BytesDeArchivo(En("todavia_no")), "nuevo");
+}
+
+TEST_F(Enlaces, FueraDeLaCarpetaNoSeSiguenYSeDicePorQue)
+{
+    fs::create_symlink(fuera.Camino() / "meta", En("a"));
+    fs::create_symlink(fuera.Camino() / "todavia_no", En("b"));
+    fs::create_symlink("../otra", En("c"));
+    fs::create_symlink("d", En("d"));
+    fs::create_symlink(fuera.Camino(), En("puente"));
+    fs::create_symlink("puente/meta", En("e"));
+    for (const char* nombre : {"a", "b", "c", "e"}) {
+        try {
+            Reemplaza({{nombre, "nuevo"}}, LlamadasDelSistema());
+            ADD_FAILURE() << nombre << " was written";
+        } catch (const Falla& falla) {
+            EXPECT_EQ(falla, (Falla{NumeroFalla::AccesoRuta, NotaEnlace})) << nombre;
+        }
+    }
+    EXPECT_EQ(Escribe("d"), 75);
+    EXPECT_EQ(apoyo::BytesDeArchivo(fuera.Camino() / "meta"), "ajeno");
+    EXPECT_FALSE(fs::exists(fuera.Camino() / "todavia_no"));
+    EXPECT_FALSE(fs::exists(carpeta.Camino().parent_path() / "otra"));
+}
+
+TEST_F(Enlaces, UnaCarpetaQueEsEnlaceEsLaDelProyecto)
+{
+    const fs::path atajo = fuera.Camino() / "atajo";
+    fs::create_directory_symlink(carpeta.Camino(), atajo);
+    fs::create_symlink("dentro/meta", En("a"));
+    ReemplazaArchivos(LlamadasDelSistema(), {{(atajo / "a").string(), "nuevo"}});
+    EXPECT_EQ(apoyo::BytesDeArchivo(En("dentro") / "meta"), "nuevo");
+}
+
+// --- what is found in a folder ---
+
+TEST_F(ReemplazoReal, LoDeOtroProgramaQueCorreSeDeja)
+{
+    LlamadasDisco llamadas = LlamadasDelSistema();
+    llamadas.Vive = [](long proceso) { return proceso == 4711; };
+    fallas::PonContenido(
+        carpeta.Camino(),
+        {{".siro-4711-1-0.tmp", "x"}, {".siro-4711-1.lista", "a\nfin\n"}, {".siro-4712-1-0.tmp", "y"}});
+    EXPECT_EQ(RecuperaCarpeta(llamadas, carpeta.Camino().string()), Recuperacion{});
+    EXPECT_EQ(Queda(), (Contenido{{".siro-4711-1-0.tmp", "x"}, {".siro-4711-1.lista", "a\nfin\n"}}));
+    // Numbers of processes come again: what is hours old is nobody's.
+    for (const auto& entrada : fs::directory_iterator(carpeta.Camino()))
+        fs::last_write_time(entrada.path(), fs::file_time_type::clock::now() - std::chrono::hours(2));
+    EXPECT_EQ(RecuperaCarpeta(llamadas, carpeta.Camino().string()), (Recuperacion{{"a"}, {}}));
+    EXPECT_EQ(Queda(), (Contenido{{"a", "x"}}));
+}
+
+TEST_F(ReemplazoReal, UnaListaQueNombraLoAjenoNoHaceNada)
+{
+    fs::create_directory(En("sub"));
+    for (const char* lista : {"../x\nfin\n", "sub/x\nfin\n", "a\nb\\c\nfin\n", "..\nfin\n", "a\n", "", "a",
+                              ".siro-1-1-0.tmp\nfin\n", "a\rb\nfin\n"}) {
+        fallas::PonContenido(carpeta.Camino(), {{".siro-0-1-0.tmp", "mal"}, {".siro-0-1.lista", lista}});
+        fs::create_directory(En("sub"));
+        Recupera();
+        EXPECT_EQ(Queda(), Contenido{}) << lista;
+        EXPECT_TRUE(fs::is_empty(En("sub"))) << lista;
+    }
+    EXPECT_FALSE(fs::exists(carpeta.Camino().parent_path() / "x"));
+}
+
+TEST_F(ReemplazoReal, LoQueSoloSePareceQueda)
+{
+    const Contenido parecidos{{".siro-1.tmp", ""},
+                              {".siro-a-1-0.tmp", ""},
+                              {".siro-1-1-0.tmpx", ""},
+                              {".siro-1-1-0.lista", ""},
+                              {"siro-1-1-0.tmp", ""},
+                              {".siro-", ""},
+                              {".siro-99999999999999999999-1-0.tmp", ""}};
+    fallas::PonContenido(carpeta.Camino(), parecidos);
+    Recupera();
+    EXPECT_EQ(Queda(), parecidos);
+}
+
+TEST(NombreResto, IdaYVuelta)
+{
+    EXPECT_EQ((NombreResto{4711, 1, 0}.Texto()), ".siro-4711-1-0.tmp");
+    EXPECT_EQ((NombreResto{4711, 12, -1}.Texto()), ".siro-4711-12.lista");
+    EXPECT_EQ(LeeNombreResto(".siro-4711-1-0.tmp"), (NombreResto{4711, 1, 0}));
+    EXPECT_EQ(LeeNombreResto(".siro-4711-12.lista"), (NombreResto{4711, 12, -1}));
+}
+
+}  // namespace
