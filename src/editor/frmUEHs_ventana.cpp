@@ -10,13 +10,11 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPainter>
-#include <QPdfWriter>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QSlider>
-#include <QSvgGenerator>
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -26,7 +24,7 @@
 #include <utility>
 
 #include "editor/MenuDibujo.h"
-#include "forms/Impresion_ventana.h"
+#include "editor/lienzo/SalidaDibujo_ventana.h"
 #include "forms/Textos_ventana.h"
 #include "model/Avisos.h"
 
@@ -241,13 +239,17 @@ void frmUEHs_ventana::AgregaPropias(QToolBar& barra)
 
 QMenu* frmUEHs_ventana::HazDestinos()
 {
+    const auto dibujo = [this] { return DibujoALaVista{f, pintor, picDibujo->size()}; };
     auto* const destinos = new QMenu(this);
     for (const char* tipo : {"PNG", "SVG", "PDF"})
         destinos
-            ->addAction(QStringLiteral("Guardar el dibujo como &%1...").arg(QLatin1String(tipo)), this,
-                        [this, tipo] { Exporta(tipo); })
+            ->addAction(
+                QStringLiteral("Guardar el dibujo como &%1...").arg(QLatin1String(tipo)), this,
+                [this, tipo, dibujo] { entorno.Atiende([&] { ExportaDibujo(entorno, dibujo(), tipo); }); })
             ->setObjectName(QStringLiteral("GuardaDibujo%1").arg(QLatin1String(tipo)));
-    destinos->addAction(QStringLiteral("&Imprimir el dibujo"), this, [this] { Imprime(); })
+    destinos
+        ->addAction(QStringLiteral("&Imprimir el dibujo"), this,
+                    [this, dibujo] { entorno.Atiende([&] { ImprimeDibujo(entorno, dibujo()); }); })
         ->setObjectName(QStringLiteral("ImprimeDibujo"));
     return destinos;
 }
@@ -514,66 +516,6 @@ void frmUEHs_ventana::AbreMenu()
                               : picDibujo->rect().center();
     const QAction* const elegida = menu.exec(picDibujo->mapToGlobal(dentro));
     if (elegida != nullptr) mnu_DibujoSec_Click(f, entorno.s, DeQ(elegida->objectName()));
-}
-
-// --- the drawing on paper and in files ---
-
-void frmUEHs_ventana::Imprime()
-{
-    entorno.Atiende([this] {
-        forms::Imprime(
-            entorno,
-            [this](QPainter& papel, const QRectF& hoja) {
-                const QSizeF lugar = QSizeF(picDibujo->size()).scaled(hoja.size(), Qt::KeepAspectRatio);
-                papel.scale(lugar.width() / picDibujo->width(), lugar.height() / picDibujo->height());
-                pintor.Pinta(papel, f, picDibujo->rect());
-            },
-            picDibujo->width() > picDibujo->height());
-    });
-}
-
-void frmUEHs_ventana::Exporta(const std::string& tipo)
-{
-    entorno.Atiende([&] {
-        const std::string terminacion = "." + DeQ(Q(tipo).toLower());
-        const std::string ruta =
-            entorno.s.Anfitrion.EligeDestino("Guardar el dibujo", "Dibujo " + tipo + " |*" + terminacion,
-                                             entorno.s.NombreProyecto + terminacion);
-        if (!ruta.empty()) GuardaDibujo(Q(ruta));
-    });
-}
-
-void frmUEHs_ventana::GuardaDibujo(const QString& ruta)
-{
-    constexpr int Finura = 2, PuntosPorPulgada = 96;
-    const QRect marco = picDibujo->rect();
-    bool guardado = false;
-    if (ruta.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive)) {
-        QSvgGenerator archivo;
-        archivo.setFileName(ruta);
-        archivo.setSize(marco.size());
-        archivo.setViewBox(marco);
-        archivo.setTitle(Q(entorno.s.NombreProyecto));
-        QPainter papel;
-        guardado = papel.begin(&archivo);
-        if (guardado) pintor.Pinta(papel, f, marco);
-    } else if (ruta.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive)) {
-        QPdfWriter archivo(ruta);
-        archivo.setResolution(PuntosPorPulgada);
-        archivo.setPageMargins({});
-        archivo.setPageSize(QPageSize(QSizeF(marco.size()) / PuntosPorPulgada, QPageSize::Inch));
-        QPainter papel;
-        guardado = papel.begin(&archivo);
-        if (guardado) pintor.Pinta(papel, f, marco);
-    } else {
-        QImage imagen(marco.size() * Finura, QImage::Format_RGB32);
-        imagen.setDevicePixelRatio(Finura);
-        QPainter papel(&imagen);
-        pintor.Pinta(papel, f, marco);
-        papel.end();
-        guardado = imagen.save(ruta);
-    }
-    if (!guardado) throw model::Falla{model::NumeroFalla::AccesoRuta};
 }
 
 }  // namespace editor

@@ -54,9 +54,6 @@ class frmUEHs_ventana : public forms::Ventana {
     void AtiendePedidos();
     void AbreMenu();
     /// Into a file of a type, "PNG", "SVG" or "PDF", that the user names.
-    void Exporta(const std::string& tipo);
-    void GuardaDibujo(const QString& ruta);
-    void Imprime();
     void DejaVentana();
 
     frmUEHs& f;

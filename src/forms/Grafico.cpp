@@ -3,9 +3,8 @@
 
 #include <algorithm>
 
-#include "forms/Csv.h"
+#include "forms/LecturaGrafico.h"
 #include "model/Numeros.h"
-#include "model/Texto.h"
 
 namespace forms {
 
@@ -21,7 +20,7 @@ void PonDivisiones(EscalaCategorias& escala, std::int32_t divisiones)
     escala.marcaDeRotulo = true;
 }
 
-std::string CeldaComoCsv(double celda)
+std::string TextoDeCelda(double celda)
 {
     if (EstaVacia(celda)) return {};
     if (celda == std::floor(celda)) return model::NumeroATexto(celda);
@@ -48,19 +47,19 @@ void MenosDivisiones(EscalaCategorias& escala)
     PonDivisiones(escala, std::max(escala.divisionesPorRotulo / 2, 1));
 }
 
-std::string CeldasComoCsv(const Grafico& grafico)
+Planilla CeldasComoPlanilla(const Grafico& grafico)
 {
-    std::string csv = CampoCsv(grafico.ejeX);
+    Planilla planilla;
+    planilla.columnas.push_back({EncabezadoDeCategorias(grafico)});
     for (const Serie& serie : grafico.series)
-        csv.append(",").append(CampoCsv(serie.leyenda));
-    csv += model::SaltoLinea;
+        planilla.columnas.push_back({EncabezadoDe(grafico, serie)});
     for (std::size_t i = 0; i < grafico.categorias.size(); ++i) {
-        csv += grafico.categorias[i];
+        std::vector<std::string>& fila = planilla.filas.emplace_back();
+        fila.push_back(grafico.categorias[i]);
         for (const Serie& serie : grafico.series)
-            csv.append(",").append(CeldaComoCsv(serie.celdas[i]));
-        csv += model::SaltoLinea;
+            fila.push_back(TextoDeCelda(serie.celdas[i]));
     }
-    return csv;
+    return planilla;
 }
 
 }  // namespace forms

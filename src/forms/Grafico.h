@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "forms/Planilla.h"
+
 // A chart as a table of cells: the first column holds the category of each row as text, each further column
 // is a series. Whoever paints it decides nothing.
 namespace forms {
@@ -58,6 +60,8 @@ struct Grafico {
     std::vector<Marca> marcas{};
     std::string titulo{}, notaAlPie{};
     std::string ejeX{}, ejeY{}, ejeYSecundario{};
+    std::string magnitudX{};  ///< what the categories are, where ejeX tells their unit alone
+    std::string salvedad{};   ///< what a picture or file of the chart has to say besides; not on the screen
     bool leyendaVisible = false;
     std::string tituloLeyenda{};  ///< what the names of the series are
     bool marcasEjeX = true;
@@ -69,9 +73,9 @@ struct Grafico {
 void MasDivisiones(EscalaCategorias& escala);
 void MenosDivisiones(EscalaCategorias& escala);
 
-/// The cells as text for a spreadsheet: a line of titles, then a line per row, fields parted by commas and
-/// lines ended by CR LF. Whole numbers have all their digits, other cells the seven of the arrays that they
-/// come from; nothing stands for an empty cell.
-std::string CeldasComoCsv(const Grafico& grafico);
+/// The cells as a table: the categories and a column per series, each with its unit in the heading. Whole
+/// numbers have all their digits, other cells the seven of the arrays that they come from; nothing stands for
+/// an empty cell. Titles are left to whoever knows them.
+Planilla CeldasComoPlanilla(const Grafico& grafico);
 
 }  // namespace forms

@@ -16,6 +16,7 @@
 #include <array>
 #include <utility>
 
+#include "forms/SignoDecimal_ventana.h"
 #include "forms/Textos_ventana.h"
 
 namespace forms {
@@ -136,7 +137,7 @@ bool EsRehacer(const QKeyEvent& evento)
            (evento.modifiers() == Qt::ControlModifier && evento.key() == Qt::Key_Y);
 }
 
-/// Marks a block in the clipboard as this program's.
+/// A block in the clipboard as this program's grids hold it, whatever sign its text has for others.
 constexpr char FormatoPropio[] = "application/x-siro-grilla";
 
 }  // namespace
@@ -230,9 +231,10 @@ void TablaGrilla::Escribe(const QString& texto)
 
 void TablaGrilla::Copia(bool conTitulos)
 {
+    const std::string bloque = forms::Copia(grilla, conTitulos);
     auto* const datos = new QMimeData;  // the clipboard's
-    datos->setText(Q(forms::Copia(grilla, conTitulos)));
-    datos->setData(QString::fromLatin1(FormatoPropio), {});
+    datos->setText(Q(ConSigno(bloque, SignoElegido(entorno))));
+    datos->setData(QString::fromLatin1(FormatoPropio), QByteArray::fromStdString(bloque));
     QApplication::clipboard()->setMimeData(datos);
 }
 
@@ -240,8 +242,9 @@ void TablaGrilla::Pega()
 {
     const QMimeData* const datos = QApplication::clipboard()->mimeData();
     if (datos == nullptr) return;
-    const std::string bloque = DeQ(datos->text());
     const bool esPropio = datos->hasFormat(QString::fromLatin1(FormatoPropio));
+    const std::string bloque =
+        esPropio ? datos->data(QString::fromLatin1(FormatoPropio)).toStdString() : DeQ(datos->text());
     Suceso([&] {
         return forms::Pega(grilla, entorno.s, bloque, esPropio ? OrigenBloque::Propio : OrigenBloque::Ajeno);
     });
@@ -424,6 +427,7 @@ void TablaGrilla::contextMenuEvent(QContextMenuEvent* evento)
     menu.addSeparator();
     menu.addAction(QStringLiteral("&Seleccionar todo"), QKeySequence::SelectAll, this,
                    [this] { SeleccionaTodo(); });
+    AgregaSignoDecimal(menu, entorno);
     menu.exec(evento->reason() == QContextMenuEvent::Keyboard
                   ? viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft())
                   : evento->globalPos());

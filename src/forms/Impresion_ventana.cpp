@@ -9,6 +9,7 @@
 #include <QStyle>
 #include <QWidget>
 
+#include "forms/Textos_ventana.h"
 #include "model/Avisos.h"
 
 namespace forms {
@@ -44,30 +45,43 @@ class EnPapel {
 
 }  // namespace
 
-void Imprime(Entorno& entorno, const Pintor& pinta, bool apaisada)
+void Imprime(Entorno& entorno, const Trabajo& trabajo, const PintorDeHojas& pinta)
 {
     const std::unique_ptr<QPrinter> impresora = entorno.Impresora();
     if (impresora == nullptr) return model::Informa(entorno.s, SinImpresora);
-    impresora->setPageOrientation(apaisada ? QPageLayout::Landscape : QPageLayout::Portrait);
+    impresora->setDocName(Q(trabajo.nombre));
+    impresora->setPageOrientation(trabajo.apaisado ? QPageLayout::Landscape : QPageLayout::Portrait);
     QPainter pintor;
     if (!pintor.begin(impresora.get())) return model::Informa(entorno.s, NoImprime);
     pintor.setRenderHint(QPainter::LosslessImageRendering);
     const QRectF hoja = impresora->pageLayout().paintRectPixels(impresora->resolution());
-    pinta(pintor, QRectF({0, 0}, hoja.size()));
+    pinta(pintor, QRectF({0, 0}, hoja.size()), *impresora);
 }
 
-void ImprimeVentana(Entorno& entorno, QWidget& ventana)
+void ImprimeVentana(Entorno& entorno, QWidget& ventana, const Impreso& impreso)
 {
     const EnPapel papel(ventana);
     QPixmap imagen(ventana.size() * PuntosDeImpresion);
     imagen.setDevicePixelRatio(PuntosDeImpresion);
     ventana.render(&imagen);
-    const auto pinta = [&](QPainter& pintor, const QRectF& hoja) {
-        const QSizeF lugar = QSizeF(ventana.size()).scaled(hoja.size(), Qt::KeepAspectRatio);
-        pintor.drawPixmap(QRectF({(hoja.width() - lugar.width()) / 2, 0}, lugar), imagen,
-                          QRectF({0, 0}, QSizeF(imagen.size())));
+    const auto pinta = [&](QPainter& pintor, const QRectF& hoja, QPrinter& /*impresora*/) {
+        constexpr int LetraChica = 8;  // [points]
+        QFont letra = ventana.font();
+        letra.setPointSize(LetraChica);
+        pintor.setFont(letra);
+        const double renglon = pintor.fontMetrics().lineSpacing();
+        const double alPie = renglon * static_cast<double>(impreso.alPie.size());
+        const QSizeF lugar =
+            QSizeF(ventana.size()).scaled({hoja.width(), hoja.height() - alPie}, Qt::KeepAspectRatio);
+        const double izquierda = (hoja.width() - lugar.width()) / 2;
+        pintor.drawPixmap(QRectF({izquierda, 0}, lugar), imagen, QRectF({0, 0}, QSizeF(imagen.size())));
+        QRectF debajo(izquierda, lugar.height(), lugar.width(), renglon);
+        for (const std::string& texto : impreso.alPie) {
+            pintor.drawText(debajo, Qt::AlignVCenter | Qt::AlignLeft, Q(texto));
+            debajo.translate(0, renglon);
+        }
     };
-    Imprime(entorno, pinta, ventana.width() > ventana.height());
+    Imprime(entorno, {impreso.nombre, ventana.width() > ventana.height()}, pinta);
 }
 
 }  // namespace forms

@@ -3,38 +3,25 @@
 
 #include <qcustomplot.h>
 
-#include <QBuffer>
-#include <QClipboard>
 #include <QContextMenuEvent>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMenu>
-#include <QPageSize>
-#include <QPdfWriter>
 #include <QStyle>
 #include <QStyleOptionFocusRect>
-#include <QSvgGenerator>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
 
-#include "forms/Impresion_ventana.h"
 #include "forms/LecturaGrafico.h"
+#include "forms/SignoDecimal_ventana.h"
 #include "forms/Textos_ventana.h"
 #include "forms/Trazo_ventana.h"
-#include "model/Avisos.h"
 
 namespace forms {
 namespace {
 
 constexpr double PorPaso = 1.25;  // of the zoom, by wheel or key
 constexpr std::size_t FilasPorPagina = 10;
-constexpr double PuntosDelPng = 2;  // dots of the image per dot of the screen
-
-std::string Bytes(const QByteArray& bytes)
-{
-    return bytes.toStdString();
-}
 
 }  // namespace
 
@@ -95,9 +82,10 @@ void Lamina::Muestra(const Grafico& nuevo)
     plano->replot(QCustomPlot::rpQueuedReplot);
 }
 
-void Lamina::PonTema(std::string_view nuevo)
+void Lamina::PonTema(std::string_view nuevo, std::string_view nombre)
 {
     tema = Q(nuevo);
+    componente = nombre;
     Describe();
 }
 
@@ -130,6 +118,27 @@ QStringList Lamina::RotulosEnVista() const
 QStringList Lamina::MarcasRotuladas() const
 {
     return trazo->MarcasRotuladas();
+}
+
+namespace {
+
+QList<QRectF> Corridos(QList<QRectF> lugares, QPoint cuanto)
+{
+    for (QRectF& lugar : lugares)
+        lugar.translate(cuanto);
+    return lugares;
+}
+
+}  // namespace
+
+QList<QRectF> Lamina::LugaresDeMarcas() const
+{
+    return Corridos(trazo->LugaresDeMarcas(), plano->pos());
+}
+
+QList<QRectF> Lamina::LugaresDeLeyenda() const
+{
+    return Corridos(trazo->LugaresDeLeyenda(), plano->pos());
 }
 
 // --- reading and zooming ---
@@ -261,124 +270,9 @@ void Lamina::contextMenuEvent(QContextMenuEvent* evento)
     entrada("Guardar como &SVG...", "", [this] { GuardaSvg(); });
     entrada("Guardar como P&DF...", "", [this] { GuardaPdf(); });
     entrada("&Guardar celdas como CSV...", "", [this] { GuardaCsv(); });
+    AgregaSignoDecimal(menu, entorno);
     const bool porTeclado = evento->reason() == QContextMenuEvent::Keyboard;
     menu.exec(porTeclado ? mapToGlobal(rect().center()) : evento->globalPos());
-}
-
-// --- image and files ---
-
-QSize Lamina::TamanoDeImagen() const
-{
-    constexpr int LoMenos = 900;  // pixels across; the height as on the screen
-    if (modo == Modo::Compacta || width() >= LoMenos) return size();
-    return {LoMenos, LoMenos * std::max(1, height()) / std::max(1, width())};
-}
-
-/// Paints with the colours of paper and without the row that is being read.
-std::string Lamina::EnPapel(const std::function<std::string(QSize)>& pinta) const
-{
-    const Tinta antes = trazo->TintaPuesta();
-    const auto fila = trazo->FilaLeida();
-    trazo->DejaDeLeer();
-    trazo->PonTinta(TintaDePapel());
-    std::string bytes = pinta(TamanoDeImagen());
-    trazo->PonTinta(antes);
-    if (fila) trazo->Lee(*fila);
-    return bytes;
-}
-
-namespace {
-
-template <typename Dispositivo>
-void PintaEn(QCustomPlot& plano, Dispositivo& dispositivo, QSize tamano)
-{
-    QCPPainter pintor;
-    if (pintor.begin(&dispositivo)) plano.toPainter(&pintor, tamano.width(), tamano.height());
-}
-
-std::string Png(QCustomPlot& plano, QSize tamano)
-{
-    QBuffer archivo;
-    archivo.open(QIODevice::WriteOnly);
-    plano.toPixmap(tamano.width(), tamano.height(), PuntosDelPng).save(&archivo, "PNG");
-    return Bytes(archivo.data());
-}
-
-std::string Svg(QCustomPlot& plano, const QString& titulo, QSize tamano)
-{
-    QBuffer archivo;
-    archivo.open(QIODevice::WriteOnly);
-    {
-        QSvgGenerator dispositivo;
-        dispositivo.setOutputDevice(&archivo);
-        dispositivo.setSize(tamano);
-        dispositivo.setViewBox(QRect({0, 0}, tamano));
-        dispositivo.setTitle(titulo);
-        PintaEn(plano, dispositivo, tamano);
-    }
-    return Bytes(archivo.data());
-}
-
-std::string Pdf(QCustomPlot& plano, const QString& titulo, QSize tamano)
-{
-    constexpr int PuntosPorPulgada = 96;  // of the screen's letters
-    QBuffer archivo;
-    archivo.open(QIODevice::WriteOnly);
-    {
-        QPdfWriter dispositivo(&archivo);
-        dispositivo.setTitle(titulo);
-        dispositivo.setResolution(PuntosPorPulgada);
-        dispositivo.setPageSize(QPageSize(QSizeF(tamano) / PuntosPorPulgada, QPageSize::Inch));
-        dispositivo.setPageMargins({});
-        PintaEn(plano, dispositivo, tamano);
-    }
-    return Bytes(archivo.data());
-}
-
-}  // namespace
-
-void Lamina::CopiaImagen() const
-{
-    EnPapel([&](QSize tamano) {
-        QGuiApplication::clipboard()->setPixmap(
-            plano->toPixmap(tamano.width(), tamano.height(), PuntosDelPng));
-        return std::string();
-    });
-}
-
-void Lamina::Guarda(std::string_view pregunta, std::string_view filtro, std::string_view extension,
-                    const std::function<std::string()>& bytes) const
-{
-    const std::string ruta =
-        entorno.s.Anfitrion.EligeDestino(pregunta, filtro, DeQ(titulo).append(extension));
-    if (ruta.empty()) return;
-    model::Sentencia(
-        [&] { entorno.s.Disco.Escribe(ruta, bytes()); },
-        [&](const model::Falla& falla) { model::Informa(entorno.s, model::TextoFallaArchivo(falla)); });
-}
-
-void Lamina::GuardaPng() const
-{
-    Guarda("Guardar el gráfico como PNG", "Imagen PNG |*.png", ".png",
-           [this] { return EnPapel([this](QSize tamano) { return Png(*plano, tamano); }); });
-}
-
-void Lamina::GuardaSvg() const
-{
-    Guarda("Guardar el gráfico como SVG", "Dibujo SVG |*.svg", ".svg",
-           [this] { return EnPapel([this](QSize tamano) { return Svg(*plano, titulo, tamano); }); });
-}
-
-void Lamina::GuardaPdf() const
-{
-    Guarda("Guardar el gráfico como PDF", "Documento PDF |*.pdf", ".pdf",
-           [this] { return EnPapel([this](QSize tamano) { return Pdf(*plano, titulo, tamano); }); });
-}
-
-void Lamina::GuardaCsv() const
-{
-    Guarda("Guardar las celdas como CSV", "Celdas CSV |*.csv", ".csv",
-           [this] { return CeldasComoCsv(trazo->Mostrado()); });
 }
 
 void Lamina::Afina(double puntos)
@@ -397,15 +291,6 @@ QSize Lamina::minimumSizeHint() const
 {
     const int alto = fontMetrics().height();
     return modo == Modo::Compacta ? QSize(12 * alto, 8 * alto) : QSize(22 * alto, 14 * alto);
-}
-
-void ImprimeConLaminas(Entorno& entorno, QWidget& ventana, std::initializer_list<Lamina*> laminas)
-{
-    for (Lamina* const lamina : laminas)
-        lamina->Afina(PuntosDeImpresion);
-    ImprimeVentana(entorno, ventana);
-    for (Lamina* const lamina : laminas)
-        lamina->Afina(0);
 }
 
 }  // namespace forms

@@ -1,17 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QRectF>
 #include <QStringList>
 #include <QWidget>
 #include <cstdint>
 #include <functional>
-#include <initializer_list>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "forms/Entorno_ventana.h"
 #include "forms/Grafico.h"
+#include "forms/Procedencia.h"
 
 class QCustomPlot;
 
@@ -37,8 +39,9 @@ class Lamina : public QWidget {
     /// Shows a chart; what the user has zoomed stays so while the number of rows does. Painting waits for
     /// the events of the moment, so that several changes in a row cost one.
     void Muestra(const Grafico& nuevo);
-    /// What is on show, as a reader of the screen gets it ahead of rows and peaks: component, storm.
-    void PonTema(std::string_view nuevo);
+    /// What is on show, as a reader of the screen gets it ahead of rows and peaks and as pictures and files
+    /// bear it: component, storm; and the component's name, for the names of files.
+    void PonTema(std::string_view nuevo, std::string_view nombre = {});
 
     /// The text of the row under the pointer; none: no row.
     [[nodiscard]] std::string Lectura() const;
@@ -51,6 +54,13 @@ class Lamina : public QWidget {
     [[nodiscard]] QStringList RotulosEnVista() const;
     /// Labels of the marks that have room beside their rings.
     [[nodiscard]] QStringList MarcasRotuladas() const;
+    /// Where these labels and the entries of the legend stand in this widget.
+    [[nodiscard]] QList<QRectF> LugaresDeMarcas() const;
+    [[nodiscard]] QList<QRectF> LugaresDeLeyenda() const;
+    /// Where the chart comes from: title, component, storm, project, day.
+    [[nodiscard]] Procedencia DeDonde() const;
+    /// What a printed page says below the chart.
+    [[nodiscard]] std::vector<std::string> AlPie() const;
 
     // --- the commands of the menu ---
     void Acerca(double veces);  ///< above 1: nearer
@@ -79,6 +89,7 @@ class Lamina : public QWidget {
   private:
     void ConectaRaton();
     [[nodiscard]] QSize TamanoDeImagen() const;
+    [[nodiscard]] std::vector<std::string> Rotulos(bool todo) const;
     std::string EnPapel(const std::function<std::string(QSize)>& pinta) const;
     void Lee(std::size_t fila);
     void DejaDeLeer();
@@ -88,12 +99,14 @@ class Lamina : public QWidget {
 
     Entorno& entorno;
     QString titulo, tema;
+    std::string componente{};
     Modo modo;
     QCustomPlot* plano;
     std::unique_ptr<Trazo> trazo;
 };
 
-/// Prints the image of a window with its charts as sharp as the paper takes them.
-void ImprimeConLaminas(Entorno& entorno, QWidget& ventana, std::initializer_list<Lamina*> laminas);
+/// Prints the image of a window with its chart as sharp as the paper takes it; below it project, day and what
+/// the chart has to say besides.
+void ImprimeConLamina(Entorno& entorno, QWidget& ventana, Lamina& lamina);
 
 }  // namespace forms

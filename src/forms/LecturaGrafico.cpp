@@ -15,13 +15,29 @@ const std::string& TituloDelEje(const Grafico& grafico, const Serie& serie)
     return serie.ejeSecundario ? grafico.ejeYSecundario : grafico.ejeY;
 }
 
-/// The unit in the square brackets of an axis title, with the blank ahead of it; none: nothing.
-std::string Unidad(std::string_view titulo)
+/// The unit in the square brackets of a title; none: nothing.
+std::string_view SoloUnidad(std::string_view titulo)
 {
     const std::size_t abre = titulo.rfind('[');
     const std::size_t cierra = titulo.rfind(']');
     if (abre == std::string_view::npos || cierra == std::string_view::npos || cierra < abre + 2) return {};
-    return " " + std::string(titulo.substr(abre + 1, cierra - abre - 1));
+    return titulo.substr(abre + 1, cierra - abre - 1);
+}
+
+/// The same with the blank ahead of it.
+std::string Unidad(std::string_view titulo)
+{
+    const std::string_view unidad = SoloUnidad(titulo);
+    return unidad.empty() ? std::string{} : " " + std::string(unidad);
+}
+
+/// A title without its unit.
+std::string SinUnidad(std::string_view titulo)
+{
+    titulo = titulo.substr(0, titulo.rfind('['));
+    while (titulo.ends_with(' '))
+        titulo.remove_suffix(1);
+    return std::string(titulo);
 }
 
 /// Name of a series: its legend, or else the title of its axis without the unit.
@@ -29,11 +45,7 @@ std::string NombreDe(const Grafico& grafico, const Serie& serie)
 {
     if (!serie.leyenda.empty())
         return grafico.tituloLeyenda.empty() ? serie.leyenda : grafico.tituloLeyenda + " " + serie.leyenda;
-    std::string_view nombre = TituloDelEje(grafico, serie);
-    nombre = nombre.substr(0, nombre.rfind('['));
-    while (nombre.ends_with(' '))
-        nombre.remove_suffix(1);
-    return std::string(nombre);
+    return SinUnidad(TituloDelEje(grafico, serie));
 }
 
 /// With the seven digits of the arrays that the cells come from.
@@ -71,6 +83,24 @@ std::string LecturaDeFila(const Grafico& grafico, std::size_t fila)
             .append(Valor(grafico, serie, serie.celdas[fila]));
     }
     return lectura;
+}
+
+std::string EncabezadoDeCategorias(const Grafico& grafico)
+{
+    if (grafico.ejeX.empty()) return "Fila";
+    return grafico.magnitudX.empty() ? grafico.ejeX : grafico.magnitudX + " [" + grafico.ejeX + "]";
+}
+
+std::string EncabezadoDe(const Grafico& grafico, const Serie& serie)
+{
+    const std::string& eje = TituloDelEje(grafico, serie);
+    if (serie.leyenda.empty()) return eje.empty() ? "Valor" : eje;
+    const std::string_view unidad = SoloUnidad(eje);
+    std::string encabezado = serie.leyenda;
+    if (!grafico.tituloLeyenda.empty())
+        encabezado = SinUnidad(grafico.tituloLeyenda) + "= " + serie.leyenda + Unidad(grafico.tituloLeyenda);
+    if (!unidad.empty()) encabezado.append(" [").append(unidad).append("]");
+    return encabezado;
 }
 
 std::string Descripcion(const Grafico& grafico)

@@ -16,6 +16,11 @@ namespace forms {
 /// gives no text.
 std::string LecturaDeFila(const Grafico& grafico, std::size_t fila);
 
+/// Headings of the columns of its cells, with units: "t [horas]", "Qsale [m3/s]", "R= 2 años [m3/s]". None is
+/// empty.
+std::string EncabezadoDeCategorias(const Grafico& grafico);
+std::string EncabezadoDe(const Grafico& grafico, const Serie& serie);
+
 /// What a reader of the screen says of a chart: number of rows, and the peak of each series and where it is.
 std::string Descripcion(const Grafico& grafico);
 

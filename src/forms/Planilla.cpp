@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "forms/Planilla.h"
 
+#include <algorithm>
 #include <cstddef>
-#include <string_view>
 
 #include "forms/Csv.h"
 #include "model/Numeros.h"
@@ -12,9 +12,15 @@ namespace forms {
 
 namespace {
 
+std::string Numero(std::string numero, SignoDecimal decimal)
+{
+    std::replace(numero.begin(), numero.end(), '.', decimal.signo);
+    return numero;
+}
+
 /// Writes the table: `texto` gives the form of what is no number.
 template <typename Texto>
-std::string Escribe(const Planilla& planilla, char separador, Texto&& texto)
+std::string Escribe(const Planilla& planilla, char separador, SignoDecimal decimal, Texto&& texto)
 {
     std::string todo;
     for (const std::string& titulo : planilla.titulos)
@@ -29,8 +35,8 @@ std::string Escribe(const Planilla& planilla, char separador, Texto&& texto)
     renglon([&](std::size_t c) { return texto(planilla.columnas[c].encabezado); });
     for (const std::vector<std::string>& fila : planilla.filas)
         renglon([&](std::size_t c) {
-            const std::string& celda = fila[c];
-            return celda.empty() || EsNumero(planilla.columnas[c], celda) ? celda : texto(celda);
+            if (fila[c].empty()) return std::string{};
+            return EsNumero(planilla.columnas[c], fila[c]) ? Numero(fila[c], decimal) : texto(fila[c]);
         });
     return todo;
 }
@@ -42,14 +48,29 @@ bool EsNumero(const ColumnaPlanilla& columna, const std::string& celda)
     return !columna.deTexto && model::EsNumerico(celda);
 }
 
-std::string ComoCsv(const Planilla& planilla)
+std::string ComoCsv(const Planilla& planilla, SignoDecimal decimal)
 {
-    return Escribe(planilla, ',', [](std::string_view texto) { return CampoCsv(texto); });
+    return Escribe(planilla, decimal.Separador(), decimal,
+                   [](std::string_view texto) { return CampoCsv(texto); });
 }
 
-std::string ComoTexto(const Planilla& planilla)
+std::string ComoTexto(const Planilla& planilla, SignoDecimal decimal)
 {
-    return Escribe(planilla, '\t', [](std::string_view texto) { return std::string(texto); });
+    return Escribe(planilla, '\t', decimal, [](std::string_view texto) { return std::string(texto); });
+}
+
+std::string ConSigno(std::string_view texto, SignoDecimal decimal)
+{
+    constexpr std::string_view Finales = "\t\r\n";
+    std::string todo;
+    while (!texto.empty()) {
+        const std::size_t fin = std::min(texto.find_first_of(Finales), texto.size());
+        const std::string campo(texto.substr(0, fin));
+        todo += model::EsNumerico(campo) ? Numero(campo, decimal) : campo;
+        if (fin < texto.size()) todo += texto[fin];
+        texto.remove_prefix(std::min(fin + 1, texto.size()));
+    }
+    return todo;
 }
 
 }  // namespace forms

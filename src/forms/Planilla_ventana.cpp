@@ -9,9 +9,11 @@
 #include <QMenu>
 #include <QTemporaryDir>
 #include <algorithm>
+#include <map>
 #include <vector>
 
 #include "forms/Csv.h"
+#include "forms/SignoDecimal_ventana.h"
 #include "forms/Textos_ventana.h"
 #include "model/Avisos.h"
 #include "model/Falla.h"
@@ -44,6 +46,8 @@ class Libro {
         format_set_bottom(encabezado, LXW_BORDER_THIN);
         for (lxw_format* const formato : {centrado, encabezado})
             format_set_align(formato, LXW_ALIGN_CENTER);
+        for (const ColumnaPlanilla& columna : planilla.columnas)
+            deNumero.push_back(columna.formato.empty() ? centrado : DeNumero(columna.formato));
     }
     ~Libro()
     {
@@ -60,6 +64,7 @@ class Libro {
         for (std::size_t c = 0; c < planilla.columnas.size(); ++c)
             Exige(worksheet_write_string(hoja, fila, Columna(c), planilla.columnas[c].encabezado.c_str(),
                                          encabezado));
+        PonPagina(fila);
         worksheet_freeze_panes(hoja, ++fila, 0);
         PonAnchos();
         for (const std::vector<std::string>& celdas : planilla.filas)
@@ -75,6 +80,26 @@ class Libro {
   private:
     static lxw_col_t Columna(std::size_t c) { return static_cast<lxw_col_t>(c); }
 
+    /// Centred numbers in a form of their own; columns of the same form share it.
+    lxw_format* DeNumero(const std::string& forma)
+    {
+        lxw_format*& formato = formatos[forma];
+        if (formato == nullptr) {
+            formato = workbook_add_format(libro);
+            format_set_align(formato, LXW_ALIGN_CENTER);
+            format_set_num_format(formato, forma.c_str());
+        }
+        return formato;
+    }
+    /// On paper as wide as a page, as long as it takes, the headings on each.
+    void PonPagina(lxw_row_t encabezados)
+    {
+        constexpr std::uint8_t A4 = 9;
+        worksheet_set_paper(hoja, A4);
+        worksheet_fit_to_pages(hoja, 1, 0);
+        Exige(worksheet_repeat_rows(hoja, encabezados, encabezados));
+        Exige(worksheet_set_footer(hoja, "&RPágina &P de &N"));
+    }
     void PonTitulo(lxw_row_t fila, const std::string& t)
     {
         if (planilla.columnas.size() < 2)
@@ -88,7 +113,7 @@ class Libro {
         for (std::size_t c = 0; c < planilla.columnas.size(); ++c) {
             const std::string& celda = celdas[c];
             if (EsNumero(planilla.columnas[c], celda))
-                Exige(worksheet_write_number(hoja, fila, Columna(c), model::Val(celda), centrado));
+                Exige(worksheet_write_number(hoja, fila, Columna(c), model::Val(celda), deNumero[c]));
             else if (!celda.empty())
                 Exige(worksheet_write_string(hoja, fila, Columna(c), celda.c_str(), nullptr));
         }
@@ -112,6 +137,8 @@ class Libro {
     lxw_workbook* libro = nullptr;
     lxw_worksheet* hoja = nullptr;
     lxw_format *centrado = nullptr, *encabezado = nullptr;
+    std::map<std::string, lxw_format*> formatos{};
+    std::vector<lxw_format*> deNumero{};  ///< by column
 };
 
 void Guarda(Entorno& entorno, std::string_view pregunta, std::string_view filtro, const std::string& nombre,
@@ -139,15 +166,15 @@ std::string ComoXlsx(const Planilla& planilla)
     return escrito.readAll().toStdString();
 }
 
-void CopiaPlanilla(const Planilla& planilla)
+void CopiaPlanilla(Entorno& entorno, const Planilla& planilla)
 {
-    QGuiApplication::clipboard()->setText(Q(ComoTexto(planilla)));
+    QGuiApplication::clipboard()->setText(Q(ComoTexto(planilla, SignoElegido(entorno))));
 }
 
 void GuardaCsv(Entorno& entorno, std::string_view nombre, const DaPlanilla& planilla)
 {
     Guarda(entorno, "Guardar la tabla como CSV", "Tabla CSV |*.csv", std::string(nombre).append(".csv"),
-           [&] { return std::string(MarcaUtf8).append(ComoCsv(planilla())); });
+           [&] { return std::string(MarcaUtf8).append(ComoCsv(planilla(), SignoElegido(entorno))); });
 }
 
 void GuardaXlsx(Entorno& entorno, std::string_view nombre, const DaPlanilla& planilla)
@@ -165,11 +192,13 @@ void AgregaPlanilla(QMenu& menu, Entorno& entorno, std::string_view nombre, cons
         return accion;
     };
     const std::string propuesto(nombre);
-    entrada("Copiar la &tabla entera", "mnuCopiaTabla", [planilla] { CopiaPlanilla(planilla()); });
+    entrada("Copiar la &tabla entera", "mnuCopiaTabla",
+            [&entorno, planilla] { CopiaPlanilla(entorno, planilla()); });
     entrada("Guardar como C&SV...", "mnuGuardaCsv",
             [&entorno, propuesto, planilla] { GuardaCsv(entorno, propuesto, planilla); });
     entrada("Guardar como &XLSX...", "mnuGuardaXlsx",
             [&entorno, propuesto, planilla] { GuardaXlsx(entorno, propuesto, planilla); });
+    AgregaSignoDecimal(menu, entorno);
 }
 
 }  // namespace forms

@@ -14,15 +14,16 @@ class QMenu;
 namespace forms {
 
 /// Bytes of an .xlsx file with one sheet: titles merged across the columns, headings bold and always in
-/// sight, numbers as numbers. Throws Falla 75 where the table has more rows or columns than a sheet, or the
-/// disk has no room for the library's working files.
+/// sight, numbers as numbers in the form of their columns; it prints as wide as a page, headings on each.
+/// Throws Falla 75 where the table has more rows or columns than a sheet, or the disk has no room for the
+/// library's working files.
 std::string ComoXlsx(const Planilla& planilla);
 
 /// The table as it is on show when it is asked for.
 using DaPlanilla = std::function<Planilla()>;
 
 /// Puts the table on the clipboard as text.
-void CopiaPlanilla(const Planilla& planilla);
+void CopiaPlanilla(Entorno& entorno, const Planilla& planilla);
 /// Asks where, proposing a name without its ending, and saves. A disk that refuses is told.
 void GuardaCsv(Entorno& entorno, std::string_view nombre, const DaPlanilla& planilla);
 void GuardaXlsx(Entorno& entorno, std::string_view nombre, const DaPlanilla& planilla);

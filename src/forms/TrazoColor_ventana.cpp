@@ -23,7 +23,7 @@ constexpr auto Tramas = std::to_array<Trama>({
     {0xff4b6478, 0xffa9bccb, Qt::DashDotLine},
     {0xff7a3fb0, 0xffc29bf0, Qt::DotLine},
 });
-/// The colours come round again for further lines, dashed otherwise, their dots square.
+/// The colours come round again for further lines, dashed otherwise, their dots of another shape.
 Qt::PenStyle TrazoDeVuelta(Qt::PenStyle trazo)
 {
     switch (trazo) {
@@ -142,11 +142,23 @@ void Trazo::ColoreaEje(QCPAxis& eje) const
 
 namespace {
 
-/// Points of a curve; those of the second round of colours are square.
-QCPScatterStyle PuntoDeCurva(const QColor& color, bool otraVuelta)
+/// Dots of the curves by the round of colours that they are in; empty ones have the ground's colour inside.
+struct Punto {
+    QCPScatterStyle::ScatterShape forma;
+    double tamano;  ///< [pixels]
+    bool lleno;
+};
+constexpr auto Puntos = std::to_array<Punto>({
+    {QCPScatterStyle::ssDisc, 5, true},
+    {QCPScatterStyle::ssTriangle, 9, false},
+    {QCPScatterStyle::ssDiamond, 9, true},
+    {QCPScatterStyle::ssSquare, 7, false},
+});
+
+QCPScatterStyle PuntoDeCurva(const QColor& color, const QColor& fondo, std::size_t vuelta)
 {
-    constexpr double Punto = 5;
-    return {otraVuelta ? QCPScatterStyle::ssSquare : QCPScatterStyle::ssDisc, color, color, Punto};
+    const Punto& punto = Puntos[vuelta % Puntos.size()];
+    return {punto.forma, color, punto.lleno ? color : fondo, punto.tamano};
 }
 
 }  // namespace
@@ -158,10 +170,10 @@ void Trazo::ColoreaSeries()
         QCPGraph& linea = *lineas[i];
         const bool escalon = EscalonEn(i);
         const Trama& trama = escalon ? Lluvia : Tramas[nroLinea % Tramas.size()];
-        const bool otraVuelta = !escalon && nroLinea >= Tramas.size();
+        const std::size_t vuelta = escalon ? 0 : nroLinea / Tramas.size();
         if (!escalon) ++nroLinea;
         const QColor color = QColor::fromRgba(tinta.oscura ? trama.oscuro : trama.claro);
-        QPen pluma(color, escalon ? 1 : Grueso, otraVuelta ? TrazoDeVuelta(trama.trazo) : trama.trazo);
+        QPen pluma(color, escalon ? 1 : Grueso, vuelta % 2 == 1 ? TrazoDeVuelta(trama.trazo) : trama.trazo);
         pluma.setCapStyle(Qt::FlatCap);
         pluma.setJoinStyle(escalon ? Qt::MiterJoin : Qt::RoundJoin);
         linea.setPen(pluma);
@@ -169,7 +181,8 @@ void Trazo::ColoreaSeries()
         relleno.setAlpha(OpacidadDeLluvia);
         linea.setBrush(escalon ? QBrush(relleno) : QBrush(Qt::NoBrush));
         const bool pocos = grafico.categorias.size() <= PocosPuntos;
-        linea.setScatterStyle(!escalon && pocos ? PuntoDeCurva(color, otraVuelta) : QCPScatterStyle());
+        linea.setScatterStyle(!escalon && pocos ? PuntoDeCurva(color, tinta.fondo, vuelta)
+                                                : QCPScatterStyle());
         puntosLeidos[i]->setPen(QPen(color, Grueso));
         puntosLeidos[i]->setBrush(tinta.fondo);
         constexpr double PuntoLeido = 8;

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <utility>
 
+#include "forms/FajaDeLeyenda_ventana.h"
 #include "forms/LecturaGrafico.h"
 #include "forms/RotulosDeEje_ventana.h"
 #include "forms/Textos_ventana.h"
@@ -73,8 +74,9 @@ Trazo::Trazo(QCustomPlot& superficie, bool reducido)
       compacto(reducido),
       titulo(new QCPTextElement(&superficie)),
       nota(new QCPTextElement(&superficie)),
-      faja(new QCPLayoutGrid),
       tituloLeyenda(new QCPTextElement(&superficie)),
+      faja(new FajaDeLeyenda(superficie, *tituloLeyenda, reducido)),
+      salvedad(new QCPTextElement(&superficie)),
       hilo(new QCPItemStraightLine(&superficie)),
       lectura(new QCPItemText(&superficie))
 {
@@ -93,16 +95,13 @@ Trazo::Trazo(QCustomPlot& superficie, bool reducido)
         constexpr int Cifras = 7;
         eje->setNumberPrecision(Cifras);
     }
-    plano.legend->setFillOrder(QCPLegend::foColumnsFirst);
-    plano.legend->setBorderPen(Qt::NoPen);
-    plano.legend->setBrush(Qt::NoBrush);
-    plano.legend->setMargins({0, 0, 0, 0});
     plano.plotLayout()->setRowSpacing(compacto ? 2 : 6);
     constexpr QMargins BordeInferior(0, 0, 0, 5);
     nota->setMargins(BordeInferior);
+    salvedad->setMargins(BordeInferior);
+    salvedad->setVisible(false);
     constexpr QMargins LugarParaElUltimoRotulo(4, 10, 16, 4);
     plano.axisRect()->setMinimumMargins(LugarParaElUltimoRotulo);
-    PonFajaDeLeyenda();
     QObject::connect(&plano, &QCustomPlot::afterLayout, &plano, [this] { AcomodaMarcas(); });
 
     for (QCPAbstractItem* const item :
@@ -117,24 +116,6 @@ Trazo::Trazo(QCustomPlot& superficie, bool reducido)
     lectura->setPadding(Orla);
     lectura->setClipToAxisRect(false);
     Arma();
-}
-
-/// The legend in the middle of a strip, its entries side by side.
-void Trazo::PonFajaDeLeyenda()
-{
-    constexpr double LoMenos = 0.001;
-    constexpr QMargins BordeInferior(0, 0, 0, 6);
-    QCPLegend* const leyenda = plano.legend;
-    plano.plotLayout()->addElement(1, 0, faja);
-    leyenda->layout()->take(leyenda);
-    faja->setMargins(BordeInferior);
-    faja->addElement(0, 0, tituloLeyenda);
-    tituloLeyenda->setTextFlags(Qt::AlignRight | Qt::AlignVCenter);
-    faja->addElement(0, 1, leyenda);
-    faja->addElement(0, 2, new QCPLayoutElement(&plano));
-    faja->setColumnStretchFactor(1, LoMenos);
-    const int entreSeries = compacto ? 10 : 24;
-    leyenda->setColumnSpacing(entreSeries);
 }
 
 void Trazo::Pon(const Grafico& nuevo)
@@ -172,38 +153,6 @@ void Trazo::Arma()
     Colorea();
 }
 
-/// From top to bottom: title, chart, legend, footnote, those that there are.
-void Trazo::ArmaFilas()
-{
-    QCPLayoutGrid& filas = *plano.plotLayout();
-    QCPAxisRect* const marco = plano.axisRect();
-    QCPLegend* const leyenda = plano.legend;
-    leyenda->setVisible(grafico.leyendaVisible &&
-                        std::any_of(grafico.series.begin(), grafico.series.end(),
-                                    [](const Serie& s) { return !s.leyenda.empty(); }));
-    tituloLeyenda->setText(Q(grafico.tituloLeyenda));
-    titulo->setText(Q(grafico.titulo));
-    titulo->setVisible(!compacto && !grafico.titulo.empty());
-    nota->setText(Q(grafico.notaAlPie));
-    nota->setVisible(!compacto && !grafico.notaAlPie.empty());
-
-    for (QCPLayoutElement* const pieza :
-         {static_cast<QCPLayoutElement*>(titulo), static_cast<QCPLayoutElement*>(marco),
-          static_cast<QCPLayoutElement*>(faja), static_cast<QCPLayoutElement*>(nota)})
-        if (pieza->layout() != nullptr) pieza->layout()->take(pieza);
-    filas.simplify();
-    int fila = 0;
-    const auto agrega = [&](QCPLayoutElement* pieza, double parte) {
-        filas.addElement(fila, 0, pieza);
-        filas.setRowStretchFactor(fila++, parte);
-    };
-    constexpr double LoMenos = 0.001;
-    if (titulo->visible()) agrega(titulo, LoMenos);
-    agrega(marco, 1);
-    if (leyenda->visible()) agrega(faja, LoMenos);
-    if (nota->visible()) agrega(nota, LoMenos);
-}
-
 void Trazo::ArmaSeries()
 {
     plano.clearGraphs();
@@ -211,8 +160,6 @@ void Trazo::ArmaSeries()
     for (QCPItemTracer* const punto : puntosLeidos)
         plano.removeItem(punto);
     puntosLeidos.clear();
-    constexpr int PorRenglon = 8;
-    plano.legend->setWrap(PorRenglon);
     for (const Serie& serie : grafico.series) {
         QCPGraph* const linea = plano.addGraph(plano.xAxis, serie.ejeSecundario ? plano.yAxis2 : plano.yAxis);
         linea->setName(Q(serie.leyenda));
@@ -253,81 +200,6 @@ void Trazo::PonDatos()
 {
     for (std::size_t i = 0; i < lineas.size(); ++i)
         lineas[i]->data()->set(DatosDe(grafico.series[i]), true);
-}
-
-void Trazo::PonMarcas()
-{
-    while (puntosMarcados.size() > grafico.marcas.size()) {
-        plano.removeItem(puntosMarcados.back());
-        plano.removeItem(rotulosMarcados.back());
-        puntosMarcados.pop_back();
-        rotulosMarcados.pop_back();
-    }
-    while (puntosMarcados.size() < grafico.marcas.size()) {
-        puntosMarcados.push_back(new QCPItemTracer(&plano));
-        puntosMarcados.back()->setStyle(QCPItemTracer::tsCircle);
-        rotulosMarcados.push_back(new QCPItemText(&plano));
-    }
-    for (std::size_t i = 0; i < grafico.marcas.size(); ++i) {
-        const Marca& marca = grafico.marcas[i];
-        const bool hay = HayMarca(i);
-        puntosMarcados[i]->setVisible(hay);
-        rotulosMarcados[i]->setVisible(hay);
-        if (!hay) continue;
-        const double x = Abscisa(marca.serie, marca.fila);
-        const double y = grafico.series[marca.serie].celdas[marca.fila];
-        for (QCPItemPosition* const lugar : {puntosMarcados[i]->position, rotulosMarcados[i]->position}) {
-            lugar->setAxes(plano.xAxis, lineas[marca.serie]->valueAxis());
-            lugar->setCoords(x, y);
-        }
-        rotulosMarcados[i]->setText(Q(marca.rotulo));
-        // Under its ring a label stands beside it too.
-        rotulosMarcados[i]->setPadding(marca.debajo ? QMargins(8, 1, 8, 4) : QMargins(4, 2, 4, 4));
-        // Written towards the middle of the chart.
-        const bool aLaDerecha = 2 * x > todo.desde + todo.hasta;
-        rotulosMarcados[i]->setPositionAlignment((marca.debajo ? Qt::AlignTop : Qt::AlignBottom) |
-                                                 (aLaDerecha ? Qt::AlignRight : Qt::AlignLeft));
-    }
-    ColoreaSeries();
-}
-
-bool Trazo::HayMarca(std::size_t cual) const
-{
-    const Marca& marca = grafico.marcas[cual];
-    if (marca.serie >= lineas.size()) return false;
-    const std::vector<double>& celdas = grafico.series[marca.serie].celdas;
-    return marca.fila < celdas.size() && !EstaVacia(celdas[marca.fila]);
-}
-
-/// A label that would stand over a ring, or over a label above it, goes; the rings stay.
-void Trazo::AcomodaMarcas()
-{
-    std::vector<std::size_t> deArribaAbajo;
-    for (std::size_t i = 0; i < rotulosMarcados.size() && i < grafico.marcas.size(); ++i)
-        if (HayMarca(i)) deArribaAbajo.push_back(i);
-    const auto lugar = [&](std::size_t i) { return rotulosMarcados[i]->position->pixelPosition(); };
-    std::stable_sort(deArribaAbajo.begin(), deArribaAbajo.end(),
-                     [&](std::size_t a, std::size_t b) { return lugar(a).y() < lugar(b).y(); });
-    QList<QRectF> puestos;
-    for (const std::size_t i : deArribaAbajo) {
-        QCPItemText& rotulo = *rotulosMarcados[i];
-        const QMarginsF orla(rotulo.padding());
-        QRectF sitio = QFontMetricsF(rotulo.font()).boundingRect(rotulo.text());
-        if (grafico.marcas[i].debajo)
-            sitio.moveTopLeft(lugar(i) + QPointF(orla.left(), orla.top()));
-        else
-            sitio.moveBottomLeft(lugar(i) + QPointF(orla.left(), -orla.bottom()));
-        if (rotulo.positionAlignment().testFlag(Qt::AlignRight)) sitio.moveRight(lugar(i).x() - orla.right());
-        const bool sobreRotulo = std::any_of(puestos.cbegin(), puestos.cend(),
-                                             [&](const QRectF& otro) { return otro.intersects(sitio); });
-        const bool sobreAnillo =
-            std::any_of(deArribaAbajo.begin(), deArribaAbajo.end(), [&](std::size_t otra) {
-                const double radio = puntosMarcados[otra]->size() / 2;
-                return otra != i && sitio.marginsAdded({radio, radio, radio, radio}).contains(lugar(otra));
-            });
-        rotulo.setVisible(!sobreRotulo && !sobreAnillo);
-        if (rotulo.visible()) puestos.append(sitio);
-    }
 }
 
 // --- scales ---
@@ -386,14 +258,6 @@ QStringList Trazo::RotulosEnVista() const
     QStringList rotulos;
     for (const QString& rotulo : plano.xAxis->tickVectorLabels())
         rotulos.append(rotulo);
-    return rotulos;
-}
-
-QStringList Trazo::MarcasRotuladas() const
-{
-    QStringList rotulos;
-    for (const QCPItemText* const rotulo : rotulosMarcados)
-        if (rotulo->visible()) rotulos.append(rotulo->text());
     return rotulos;
 }
 

@@ -3,6 +3,8 @@
 
 #include <QColor>
 #include <QFont>
+#include <QLineF>
+#include <QRectF>
 #include <QStringList>
 #include <cstddef>
 #include <optional>
@@ -15,13 +17,14 @@ class QCPGraph;
 class QCPItemStraightLine;
 class QCPItemText;
 class QCPItemTracer;
-class QCPLayoutGrid;
 class QCPTextElement;
 class QCustomPlot;
 class QPalette;
 class QPoint;
 
 namespace forms {
+
+class FajaDeLeyenda;
 
 /// Colours of what isn't a series.
 struct Tinta {
@@ -53,6 +56,12 @@ class Trazo {
     [[nodiscard]] Tramo EnVista() const;
     [[nodiscard]] QStringList RotulosEnVista() const;
     [[nodiscard]] QStringList MarcasRotuladas() const;
+    /// Where they stand on the surface.
+    [[nodiscard]] QList<QRectF> LugaresDeMarcas() const;
+    [[nodiscard]] QList<QRectF> LugaresDeLeyenda() const;
+    /// What it bears on its way out: lines above it, the first one its title, no wider than `ancho` [pixels],
+    /// and its caveat below. Returns the height that they take. Without lines: as on the screen.
+    int PonEncabezado(const QStringList& textos, int ancho);
     /// Zooms the categories around one of them; above 1: nearer.
     void Acerca(double veces, double centro);
     void VeTodo();
@@ -67,7 +76,6 @@ class Trazo {
     [[nodiscard]] std::optional<std::size_t> FilaLeida() const { return leida; }
 
   private:
-    void PonFajaDeLeyenda();
     void Arma();
     void ArmaFilas();
     void ArmaSeries();
@@ -75,6 +83,9 @@ class Trazo {
     void PonMarcas();
     void AcomodaMarcas();
     [[nodiscard]] bool HayMarca(std::size_t cual) const;
+    [[nodiscard]] QPointF LugarDeMarca(std::size_t cual) const;
+    [[nodiscard]] QList<QLineF> Curvas() const;
+    [[nodiscard]] bool PisaAnillo(const QRectF& sitio) const;
     void PonEscalas();
     void PonEscalaSecundaria();
     void Colorea();
@@ -102,8 +113,10 @@ class Trazo {
     std::vector<QCPItemTracer*> puntosLeidos{};
     QCPTextElement* titulo;
     QCPTextElement* nota;
-    QCPLayoutGrid* faja;  ///< of the legend
     QCPTextElement* tituloLeyenda;
+    FajaDeLeyenda* faja;
+    QCPTextElement* salvedad;
+    std::vector<QCPTextElement*> encabezado{};
     QCPItemStraightLine* hilo;
     QCPItemText* lectura;
 };

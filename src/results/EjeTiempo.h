@@ -11,6 +11,9 @@ namespace results {
 inline constexpr std::string_view EjePrecipitacion = "Precipitación [mm]";
 inline constexpr std::string_view EjeCaudal = "Caudal [m3/s]";
 
+/// What the time axis shows, as the heading of a column names it; its title tells the unit alone.
+inline constexpr std::string_view MagnitudEjeX = "t";
+
 /// Title of the time axis.
 std::string_view TituloEjeX(bool minutos);
 

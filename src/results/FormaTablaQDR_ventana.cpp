@@ -6,7 +6,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "forms/Impresion_ventana.h"
+#include "forms/ImpresionTabla_ventana.h"
+#include "forms/Procedencia.h"
 #include "forms/Textos_ventana.h"
 #include "results/TablaQDR_ventana.h"
 #include "results/dlgChart1.h"
@@ -20,6 +21,7 @@ FormaTablaQDR_ventana::FormaTablaQDR_ventana(forms::Entorno& alrededor, std::str
 {
     setWindowTitle(forms::Q(titulo));
     tabla = new VistaQDR(entorno, f.MSFlexGridTablaSaleQDR, titulo);
+    tabla->Componente = [this] { return Componente(); };
     tabla->AlPulsarEncabezado = [this](int columna) { Suceso([&] { AlPulsarEncabezado(f, columna); }); };
     cmdAplicarCambios = BotonDeTabla(LeyendaActualizar, "cmdAplicarCambios");
     cmdImprimir = BotonDeTabla(LeyendaImprimirTabla, "cmdImprimir");
@@ -61,20 +63,14 @@ void FormaTablaQDR_ventana::AlCerrar()
 void FormaTablaQDR_ventana::Muestra()
 {
     tabla->Muestra();
-    tabla->MuestraBarras(f.vista.barras);
-    for (QPushButton* const boton : {cmdAplicarCambios, cmdImprimir, OKButton})
-        boton->setVisible(f.vista.botones);
     if (!f.abierta && isVisible()) close();
 }
 
 void FormaTablaQDR_ventana::Imprime()
 {
-    AntesDeImprimir(f);
-    Muestra();
-    layout()->activate();
-    forms::ImprimeVentana(entorno, *this);
-    DespuesDeImprimir(f);
-    Muestra();
+    forms::ImprimePlanilla(
+        entorno, forms::NombreDeArchivo({.titulo = forms::DeQ(windowTitle()), .componente = Componente()}),
+        ComoPlanilla(f.MSFlexGridTablaSaleQDR));
 }
 
 }  // namespace results

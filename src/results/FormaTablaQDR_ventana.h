@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "forms/Formulario_ventana.h"
@@ -29,6 +30,8 @@ class FormaTablaQDR_ventana : public forms::Ventana {
     /// The form's own opening, and its filling of the table.
     virtual void AbreForma() = 0;
     virtual void Llena() = 0;
+    /// Name of the component that the table is of; empty: of all.
+    [[nodiscard]] virtual std::string Componente() const { return {}; }
 
   private:
     void Imprime();

@@ -5,6 +5,7 @@
 #include <numeric>
 #include <optional>
 
+#include "forms/Procedencia.h"
 #include "model/Falla.h"
 #include "model/Numeros.h"
 #include "model/Texto.h"
@@ -21,6 +22,11 @@ namespace {
 enum Columna : std::size_t { Nombre, Numero, P, D, R, Q, E, C };
 
 constexpr int Decimales = 2;
+
+/// How a workbook shows the numbers of each column: peaks and coefficients are rounded to two decimals,
+/// volumes to none.
+constexpr std::array<std::string_view, NroColumnasQDR> FormatosQDR = {"",  "0",    "0.0##", "0",
+                                                                      "0", "0.00", "#,##0", "0.00"};
 constexpr std::int16_t MinimoDeTormentas = 2;
 constexpr std::string_view RotuloTotal = "Escorrentía total ";  // its blank is part of it
 
@@ -40,13 +46,6 @@ std::string Volumen(const std::optional<std::int32_t>& valor)
     return valor ? NumeroATexto(*valor) : std::string{};
 }
 
-/// The day of the present date and time, which stands before the first blank.
-std::string FechaDelDia(const Siro& s)
-{
-    const std::string fechaHora = s.Anfitrion.FechaHora();
-    return fechaHora.substr(0, fechaHora.find(' '));
-}
-
 void AgregaTitulo(TablaQDR& t, const std::string& texto)
 {
     FilaQDR fila{ClaseFila::Titulo, {}};
@@ -60,7 +59,7 @@ void PonTitulos(TablaQDR& t, const Siro& s)
     AgregaTitulo(t, s.TituloProyecto);
     AgregaTitulo(t, "Ubicación: " + s.Ubicacion + " - Cuenca: " + s.Cuenca);
     AgregaTitulo(t, "SubCuenca: " + s.Subcuenca);
-    AgregaTitulo(t, "Operador: " + s.Operador + " - " + FechaDelDia(s));
+    AgregaTitulo(t, "Operador: " + s.Operador + " - " + forms::FechaDelDia(s));
 }
 
 void PonTormenta(FilaQDR& fila, const Siro& s)
@@ -245,8 +244,9 @@ void PulsaEncabezado(TablaQDR& t, int columna)
 forms::Planilla ComoPlanilla(const TablaQDR& t)
 {
     forms::Planilla planilla;
-    for (const std::string_view encabezado : EncabezadosQDR())
-        planilla.columnas.push_back({std::string(encabezado), planilla.columnas.size() == Nombre});
+    for (std::size_t c = 0; c < NroColumnasQDR; ++c)
+        planilla.columnas.push_back(
+            {std::string(EncabezadosQDR()[c]), c == Nombre, std::string(FormatosQDR[c])});
     for (const std::size_t i : t.mostradas) {
         const FilaQDR& fila = t.filas[i];
         if (fila.clase == ClaseFila::Titulo) planilla.titulos.push_back(fila.celdas[Nombre]);
@@ -280,17 +280,6 @@ void AlPulsarEncabezado(FormaTablaQDR& f, int columna)
 void OKButton(FormaTablaQDR& f)
 {
     f.abierta = false;
-}
-
-void AntesDeImprimir(FormaTablaQDR& f)
-{
-    f.vistaGuardada = f.vista;
-    f.vista = {.botones = false, .barras = false};
-}
-
-void DespuesDeImprimir(FormaTablaQDR& f)
-{
-    f.vista = f.vistaGuardada;
 }
 
 bool HayPlanillaPDR(const Siro& s)

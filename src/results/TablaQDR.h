@@ -75,28 +75,16 @@ struct BloqueQDR {
 /// the table is left out.
 std::string BloqueComoTexto(const TablaQDR& t, const BloqueQDR& bloque);
 
-/// Controls that are hidden and shown together.
-struct VistaTablaQDR {
-    bool botones = true;  ///< cmdAplicarCambios, cmdImprimir, OKButton
-    bool barras = true;   ///< the scroll bars of the grid
-    bool operator==(const VistaTablaQDR&) const = default;
-};
-
 /// What the forms of both tables hold alike.
 struct FormaTablaQDR {
     bool abierta = false;
     TablaQDR MSFlexGridTablaSaleQDR{};
-    VistaTablaQDR vista{}, vistaGuardada{};
 };
 
 /// A heading was clicked.
 void AlPulsarEncabezado(FormaTablaQDR& f, int columna);
 
 void OKButton(FormaTablaQDR& f);
-
-/// What is printed is the grid without buttons and scroll bars; afterwards every control is as it was.
-void AntesDeImprimir(FormaTablaQDR& f);
-void DespuesDeImprimir(FormaTablaQDR& f);
 
 inline constexpr std::string_view LeyendaActualizar = "&Actualizar cambios";
 inline constexpr std::string_view LeyendaImprimirTabla = "Imprimir";

@@ -11,6 +11,8 @@
 #include <QScrollBar>
 
 #include "forms/Planilla_ventana.h"
+#include "forms/Procedencia.h"
+#include "forms/SignoDecimal_ventana.h"
 #include "forms/Textos_ventana.h"
 
 namespace results {
@@ -152,13 +154,6 @@ void VistaQDR::UneTitulos()
         setSpan(fila, 0, 1, NroColumnas);
 }
 
-void VistaQDR::MuestraBarras(bool visibles)
-{
-    const Qt::ScrollBarPolicy cuando = visibles ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff;
-    setHorizontalScrollBarPolicy(cuando);
-    setVerticalScrollBarPolicy(cuando);
-}
-
 QSize VistaQDR::sizeHint() const
 {
     const int letra = fontMetrics().averageCharWidth();
@@ -171,11 +166,11 @@ void VistaQDR::CopiaSeleccion() const
     const QItemSelection elegido = selectionModel()->selection();
     if (elegido.isEmpty()) return;
     const QItemSelectionRange& bloque = elegido.constFirst();
-    QGuiApplication::clipboard()->setText(
-        Q(BloqueComoTexto(t, {.primeraFila = static_cast<std::size_t>(bloque.top()),
-                              .ultimaFila = static_cast<std::size_t>(bloque.bottom()),
-                              .primeraColumna = static_cast<std::size_t>(bloque.left()),
-                              .ultimaColumna = static_cast<std::size_t>(bloque.right())})));
+    const std::string texto = BloqueComoTexto(t, {.primeraFila = static_cast<std::size_t>(bloque.top()),
+                                                  .ultimaFila = static_cast<std::size_t>(bloque.bottom()),
+                                                  .primeraColumna = static_cast<std::size_t>(bloque.left()),
+                                                  .ultimaColumna = static_cast<std::size_t>(bloque.right())});
+    QGuiApplication::clipboard()->setText(Q(forms::ConSigno(texto, forms::SignoElegido(entorno))));
 }
 
 void VistaQDR::keyPressEvent(QKeyEvent* evento)
@@ -196,7 +191,9 @@ void VistaQDR::contextMenuEvent(QContextMenuEvent* evento)
     copia->setShortcut(QKeySequence::Copy);
     copia->setEnabled(selectionModel()->hasSelection());
     connect(copia, &QAction::triggered, this, [this] { entorno.Atiende([this] { CopiaSeleccion(); }); });
-    forms::AgregaPlanilla(menu, entorno, titulo, [this] { return ComoPlanilla(t); });
+    forms::AgregaPlanilla(menu, entorno,
+                          forms::NombreDeArchivo({.titulo = std::string(titulo), .componente = Componente()}),
+                          [this] { return ComoPlanilla(t); });
     menu.addSeparator();
     QAction* const ordena = menu.addAction(QStringLiteral("&Ordenar por esta columna"));
     ordena->setObjectName(QStringLiteral("mnuOrdena"));

@@ -4,6 +4,7 @@
 #include <QTableView>
 #include <functional>
 #include <memory>
+#include <string>
 #include <string_view>
 
 #include "forms/Entorno_ventana.h"
@@ -23,9 +24,11 @@ class VistaQDR : public QTableView {
     /// A heading was clicked; columns from 0.
     std::function<void(int columna)> AlPulsarEncabezado = [](int) {};
 
+    /// Name of the component that the table is of; empty: of all.
+    std::function<std::string()> Componente = [] { return std::string{}; };
+
     /// Shows the table as it stands now; what the user looks at stays in sight.
     void Muestra();
-    void MuestraBarras(bool visibles);
 
     [[nodiscard]] QSize sizeHint() const override;
 

@@ -43,6 +43,7 @@ Grafico Llena(const dlgChart1& f, const Siro& s, std::int16_t N, std::int16_t pa
     }
     grafico.series.clear();
     grafico.series.push_back(std::move(lluvia));
+    grafico.magnitudX = MagnitudEjeX;
     grafico.ejeX = TituloEjeX(f.MinutosEjeX);
     grafico.ejeY = EjePrecipitacion;
     grafico.titulo = "  " + f.pedido.titulo + "  ";

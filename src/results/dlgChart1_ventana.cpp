@@ -26,7 +26,7 @@ dlgChart1_ventana::dlgChart1_ventana(forms::Entorno& alrededor, dlgChart1& regis
     cmdImprimir = boton(LeyendaImprimir, "cmdImprimir");
     OKButton = boton(LeyendaCerrar, "OKButton");
     AlPulsar(*cmdHsMin, [this] { results::cmdHsMin(f, entorno.s); });
-    AlPulsar(*cmdImprimir, [this] { forms::ImprimeConLaminas(entorno, *this, {Grafico}); });
+    AlPulsar(*cmdImprimir, [this] { forms::ImprimeConLamina(entorno, *this, *Grafico); });
     AlPulsar(*OKButton, [this] { results::OKButton(f); });
 
     auto* const botones = new QHBoxLayout;

@@ -33,6 +33,8 @@ constexpr std::string_view PasosDesiguales =  // kept as it stands
     "\\Entradas\\Preicpitaciones...";
 constexpr std::string_view Nota = "SIRO: Modelo hidrológico de simulación lluvia-caudal";
 constexpr std::string_view TextoInicia = "inicia";
+constexpr std::string_view NombresCambiados =
+    "Los nombres Qentra y Qsale de la leyenda están cambiados: la curva llamada Qentra es la salida.";
 
 std::string Texto(std::int16_t n)
 {
@@ -57,6 +59,7 @@ struct FilaClase {
     std::string_view ejeYSecundario;
     std::size_t nroSeries;
     std::array<FilaSerie, 3> series;
+    std::string_view salvedad = {};  ///< what its picture or file has to say besides
 };
 
 // clang-format off
@@ -67,9 +70,11 @@ constexpr auto Clases = std::to_array<FilaClase>({
     {"c-", TipoGrafico::Linea, EjeCaudal, 2,
      {{{Dato::QSale, "Qsale", false}, {Dato::QEntra, "Qentra", false}, {}}}},
     {"r-", TipoGrafico::Linea, "H Embalse [m]", 3,
-     {{{Dato::QSale, "Qentra", false}, {Dato::HRepresa, "HEmbalse", true}, {Dato::QEntra, "Qsale", false}}}},
+     {{{Dato::QSale, "Qentra", false}, {Dato::HRepresa, "HEmbalse", true}, {Dato::QEntra, "Qsale", false}}},
+     NombresCambiados},
     {"l-", TipoGrafico::Linea, "H Embalse [m]", 3,
-     {{{Dato::QSale, "Qentra", false}, {Dato::HLago, "HEmbalse", true}, {Dato::QEntra, "Qsale", false}}}},
+     {{{Dato::QSale, "Qentra", false}, {Dato::HLago, "HEmbalse", true}, {Dato::QEntra, "Qsale", false}}},
+     NombresCambiados},
 });
 // A name without one of these prefixes is never computed: its outflow stands alone.
 constexpr FilaClase SinClase = {"", TipoGrafico::Linea, "", 1, {{{Dato::QSale, "Qsale", false}, {}, {}}}};
@@ -182,6 +187,7 @@ void Dibuja(dlgChart2& f, const Siro& s, std::int16_t N, std::int16_t paso)
 
     Grafico grafico = f.Grafico;
     grafico.tipo = clase.tipo;
+    grafico.magnitudX = MagnitudEjeX;
     grafico.ejeX = TituloEjeX(f.MinutosEjeX);
     grafico.ejeY = EjeCaudal;
     grafico.ejeYSecundario = clase.ejeYSecundario;
@@ -198,7 +204,9 @@ void Dibuja(dlgChart2& f, const Siro& s, std::int16_t N, std::int16_t paso)
         for (std::size_t k = 1; k < clase.nroSeries; ++k)
             grafico.series[k].tipo = TipoSerie::Escalon2D;
 
+    grafico.salvedad = clase.salvedad;
     f.Grafico = std::move(grafico);
+    f.componente = nombre;
     f.lblTitulo = Titulo(s, nombre);
     f.lblNota = Nota;
 }
@@ -235,7 +243,10 @@ void Deslizador::Pon(int nuevo)
 
 void Abre(dlgChart2& f, Siro& s)
 {
-    if (f.abierta) return;
+    if (f.abierta) {
+        f.vista.deslizadores = s.FormaPp <= UltimaFormaConDeslizadores;
+        return;
+    }
     f = dlgChart2{};
     if (s.NroPasosQ == 0 || s.NroComponentes < 1 || s.FormaPp == FormaSerie) return;
     f.abierta = true;
@@ -265,7 +276,7 @@ void lstCompos_Click(dlgChart2& f, Siro& s)
 void Redibuja(dlgChart2& f, Siro& s)
 {
     AcotaIndComp(s);
-    if (s.FormaPp > UltimaFormaConDeslizadores) f.vista.deslizadores = false;
+    f.vista.deslizadores = s.FormaPp <= UltimaFormaConDeslizadores;
     if (s.NroPasosQ <= 0) {
         f.abierta = false;
         return;

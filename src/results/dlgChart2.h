@@ -47,13 +47,15 @@ struct dlgChart2 {
     Deslizador sldDur{.minimo = 5, .maximo = 2880, .pasoChico = 1, .pasoGrande = 5};  ///< [min]
     Deslizador sldPp{.minimo = 0, .maximo = 999, .pasoChico = 1, .pasoGrande = 5};    ///< [mm]
     std::string lblPp{}, lblDur{}, lblTitulo{}, lblNota{};
+    std::string componente{};  ///< name of the one that is drawn
     VistaChart2 vista{}, vistaGuardada{};
     forms::Grafico Grafico{};
     engine::Memoria memoria{.VariasCorridas = true};  ///< what the sliders' runs have in common
 };
 
 /// Opening. Without results, without components or in a series the window closes itself. One that is open
-/// stays as it is: a new run refreshes it only through its own controls.
+/// stays as it is: a new run refreshes it only through its own controls, but its sliders come and go with
+/// what the storm in hand is.
 void Abre(dlgChart2& f, model::Siro& s);
 
 /// Draws the component IndComp, 1 where that is none; without results closes the window.

@@ -147,12 +147,13 @@ QBoxLayout* dlgChart2_ventana::ConstruyeBotones()
 
 void dlgChart2_ventana::Abre()
 {
-    if (!f.abierta) {
-        results::Abre(f, entorno.s);
+    const bool estaba = f.abierta;
+    results::Abre(f, entorno.s);
+    if (!estaba) {
         Pp.pedido.reset();
         Dur.pedido.reset();
-        Muestra();
     }
+    Muestra();
     if (f.abierta) entorno.Presenta(*this);
 }
 
@@ -164,7 +165,7 @@ void dlgChart2_ventana::AlCerrar()
 void dlgChart2_ventana::Muestra()
 {
     Grafico->Muestra(f.Grafico);
-    Grafico->PonTema(f.lblTitulo);
+    Grafico->PonTema(f.lblTitulo, f.componente);
     Pon(*lblTitulo, f.lblTitulo);
     Pon(*lblNota, f.lblNota);
     Pon(*lstCompos, f.lstCompos, f.lstComposIndice);
@@ -224,7 +225,7 @@ void dlgChart2_ventana::Imprime()
     AntesDeImprimir(f);
     Muestra();
     layout()->activate();
-    forms::ImprimeConLaminas(entorno, *this, {Grafico});
+    forms::ImprimeConLamina(entorno, *this, *Grafico);
     DespuesDeImprimir(f);
     Muestra();
 }

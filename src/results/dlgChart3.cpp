@@ -157,6 +157,7 @@ void EligeComponente(dlgChart3& f, Siro& s, int indice)
     const auto lugar = std::find(f.lstCompos.begin(), f.lstCompos.end(), elegido) - f.lstCompos.begin();
     s.IndComp = static_cast<std::int16_t>(
         std::max<std::ptrdiff_t>(std::min<std::ptrdiff_t>(lugar + 1, s.NroComponentes), 1));
+    f.componente = s.IndComp;
 }
 
 void ListaComponentes(dlgChart3& f, const Siro& s)
@@ -267,7 +268,7 @@ void lstPQEC_Click(dlgChart3& f, Siro& s)
             ListaUEHs(f, s);
         else {
             ListaComponentes(f, s);
-            EligeComponente(f, s, s.IndComp - 1);
+            EligeComponente(f, s, f.componente - 1);
         }
         Dibuja(f, s);
     });

@@ -29,6 +29,7 @@ struct dlgChart3 {
     int lstComposIndice = -1;              ///< item selected, from 0; -1: none
     std::vector<std::string> lstPQEC{};    ///< magnitudes
     int lstPQECIndice = -1;
+    std::int16_t componente = 0;  ///< place in Secuencia of the one on show: tables move IndComp meanwhile
     std::vector<std::int16_t> ListaD{};  ///< durations of the storms that pass, by first appearance [min]
     std::vector<std::int16_t> ListaR{};  ///< their recurrences, likewise [years]
     bool Excluida = false;               ///< the storm looked at last is left out

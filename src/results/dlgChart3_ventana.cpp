@@ -148,7 +148,7 @@ void dlgChart3_ventana::AlCerrar()
 void dlgChart3_ventana::Muestra()
 {
     Grafico->Muestra(f.Grafico);
-    Grafico->PonTema(f.Grafico.titulo);
+    Grafico->PonTema(f.Grafico.titulo, f.Grafico.titulo);
     Pon(*lblTitulo, f.lblTitulo);
     Pon(*lblNota, f.lblNota);
     Pon(*lblNotaVelmir, f.lblNotaVelmir);
@@ -165,7 +165,7 @@ void dlgChart3_ventana::Imprime()
     AntesDeImprimir(f);
     Muestra();
     layout()->activate();
-    forms::ImprimeConLaminas(entorno, *this, {Grafico});
+    forms::ImprimeConLamina(entorno, *this, *Grafico);
     DespuesDeImprimir(f);
     Muestra();
 }

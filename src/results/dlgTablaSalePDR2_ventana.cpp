@@ -45,6 +45,11 @@ void dlgTablaSalePDR2_ventana::Llena()
     results::cmdAplicarCambios(f, entorno.s);
 }
 
+std::string dlgTablaSalePDR2_ventana::Componente() const
+{
+    return f.lstComposIndice < 0 ? std::string{} : f.lstCompos[static_cast<std::size_t>(f.lstComposIndice)];
+}
+
 void dlgTablaSalePDR2_ventana::Muestra()
 {
     forms::Pon(*lstCompos, f.lstCompos, f.lstComposIndice);

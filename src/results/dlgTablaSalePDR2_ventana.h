@@ -22,6 +22,7 @@ class dlgTablaSalePDR2_ventana : public FormaTablaQDR_ventana {
                              forms::ListaParaElegir* lista, QWidget* padre);
     void AbreForma() override;
     void Llena() override;
+    [[nodiscard]] std::string Componente() const override;
 
     dlgTablaSalePDR2& f;
     forms::ListaParaElegir* lstCompos;

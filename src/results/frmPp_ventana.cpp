@@ -138,7 +138,7 @@ QHBoxLayout* frmPp_ventana::ConstruyeBotones()
 
     AlPulsar(*cmdBuscar, [this] { Busca(); });
     AlPulsar(*cmdGuardar, [this] { GuardaTexto(f, entorno.s); });
-    AlPulsar(*CmdImprimir, [this] { forms::ImprimeVentana(entorno, *this); });
+    AlPulsar(*CmdImprimir, [this] { Imprime(); });
     AlPulsar(*cmdCerrar, [this] { results::cmdCerrar(f, entorno.s); });
 
     auto* const fila = new QHBoxLayout;
@@ -146,6 +146,11 @@ QHBoxLayout* frmPp_ventana::ConstruyeBotones()
     for (QPushButton* boton : {cmdBuscar, cmdGuardar, CmdImprimir, cmdCerrar})
         fila->addWidget(boton);
     return fila;
+}
+
+void frmPp_ventana::Imprime()
+{
+    forms::ImprimeVentana(entorno, *this, {.nombre = forms::DeQ(windowTitle())});
 }
 
 void frmPp_ventana::ConectaTeclas()
@@ -159,7 +164,7 @@ void frmPp_ventana::ConectaTeclas()
     tecla(QKeySequence(Qt::Key_F3), this, [this] { BuscaSiguiente(f); });
     tecla(QKeySequence(Qt::SHIFT | Qt::Key_F3), this, [this] { BuscaAnterior(f); });
     tecla(QKeySequence(Qt::CTRL | Qt::Key_S), this, [this] { GuardaTexto(f, entorno.s); });
-    tecla(QKeySequence(Qt::CTRL | Qt::Key_P), this, [this] { forms::ImprimeVentana(entorno, *this); });
+    tecla(QKeySequence(Qt::CTRL | Qt::Key_P), this, [this] { Imprime(); });
     tecla(QKeySequence(Qt::Key_Return), txtBuscar, [this] { BuscaSiguiente(f); });
     tecla(QKeySequence(Qt::SHIFT | Qt::Key_Return), txtBuscar, [this] { BuscaAnterior(f); });
     tecla(QKeySequence(Qt::Key_Escape), lineaDeBusqueda, [this] { CierraBusqueda(f); });

@@ -45,6 +45,7 @@ class frmPp_ventana : public forms::Ventana {
     void MuestraBusqueda();
     void MenuDelTexto(const QPoint& lugar);
     void Busca();
+    void Imprime();
 
     frmPp& f;
     QPlainTextEdit* Text1;

@@ -216,7 +216,7 @@ TEST_F(EntornoDePrueba, SinImpresoraSeDicePorQueNoImprime)
 {
     mundo.entorno.Impresora = [] { return nullptr; };
     QWidget ventana;
-    ImprimeVentana(mundo.entorno, ventana);
+    ImprimeVentana(mundo.entorno, ventana, {});
     ASSERT_EQ(mundo.anfitrion->Avisos().size(), 1U);
     EXPECT_NE(mundo.anfitrion->Avisos()[0].texto.find("impresora"), std::string::npos);
 }

@@ -1,18 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QClipboard>
 #include <QImage>
+#include <QLocale>
 #include <QMenu>
-#include <QPrinter>
 #include <QSvgRenderer>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <QWheelEvent>
+#include <algorithm>
+#include <cmath>
 
 #include "apoyo/Compara.h"
 #include "apoyo/DiscoPrueba.h"
+#include "apoyo/Papel.h"
 #include "apoyo/Ventanas.h"
 #include "forms/Lamina_ventana.h"
+#include "forms/SignoDecimal_ventana.h"
 #include "forms/Textos_ventana.h"
 
 namespace forms {
@@ -69,6 +73,14 @@ struct LaminaEnVentana : testing::Test {
         QMouseEvent evento(QEvent::MouseMove, punto, Plano().mapToGlobal(punto), Qt::NoButton, Qt::NoButton,
                            Qt::NoModifier);
         QApplication::sendEvent(&Plano(), &evento);
+    }
+    /// What the windows tell their chart of the dam's hydrograph.
+    void PonProcedencia()
+    {
+        mundo.s.NombreProyecto = "Quelmar";
+        mundo.s.TituloProyecto = "Crecidas";
+        mundo.anfitrion->fechaHora = "03/04/2011 10:20:30";
+        lamina->PonTema("Componente: 3, r-Dique   Pp= 60mm", "r-Dique");
     }
     /// A right click as the window system brings it. Returns whether the menu came up.
     bool ClicDerecho(const Lamina& en) const
@@ -272,9 +284,78 @@ TEST_F(LaminaEnVentana, ElBotonDerechoAbreElMenu)
 TEST_F(LaminaEnVentana, ElMenuGuardaLasCeldasComoCsv)
 {
     mundo.anfitrion->elegidos = {"/salida/h.csv"};
+    mundo.anfitrion->fechaHora.clear();
     Elige("&Guardar celdas como CSV...");
-    EXPECT_EQ(disco.Bytes("/salida/h.csv"), CeldasComoCsv(Hidrograma(100)));
+    EXPECT_EQ(disco.Bytes("/salida/h.csv"),
+              "\xEF\xBB\xBF\"Hidrograma\"\r\n" + ComoCsv(CeldasComoPlanilla(Hidrograma(100))));
     EXPECT_EQ(mundo.anfitrion->propuestos, std::vector<std::string>{"Hidrograma.csv"});
+}
+
+TEST_F(LaminaEnVentana, LoQueSaleDiceQueEs)
+{
+    PonProcedencia();
+    Grafico g = Hidrograma(8);
+    g.titulo = "  Un título  ";
+    g.notaAlPie = " Pp= 60mm ";
+    g.salvedad = "Los nombres están cambiados";
+    lamina->Muestra(g);
+    mundo.anfitrion->elegidos = {"/salida/h.csv", "/salida/h.svg", "/salida/h.pdf"};
+    lamina->GuardaCsv();
+    EXPECT_EQ(disco.Bytes("/salida/h.csv"),
+              "\xEF\xBB\xBF\"Hidrograma\"\r\n\"Un título\"\r\n\"Pp= 60mm\"\r\n"
+              "\"Componente: 3, r-Dique   Pp= 60mm\"\r\n\"Proyecto: Quelmar - Crecidas\"\r\n"
+              "\"Fecha: 03/04/2011\"\r\n\"Los nombres están cambiados\"\r\n" +
+                  ComoCsv(CeldasComoPlanilla(g)));
+    EXPECT_EQ(mundo.anfitrion->propuestos, std::vector<std::string>{"Hidrograma - r-Dique.csv"});
+
+    lamina->GuardaSvg();
+    lamina->GuardaPdf();
+    const QTemporaryDir carpeta;
+    const QString pdf = carpeta.filePath(QStringLiteral("h.pdf"));
+    QFile archivo(pdf);
+    ASSERT_TRUE(archivo.open(QIODevice::WriteOnly));
+    archivo.write(QByteArray::fromStdString(disco.Bytes("/salida/h.pdf")));
+    archivo.close();
+    const std::string svg = disco.Bytes("/salida/h.svg");
+    const std::string texto = apoyo::SalidaDe(QStringLiteral("pdftotext"), {pdf, QStringLiteral("-")});
+    for (const char* dice : {"Hidrograma", "Un título", "Componente: 3, r-Dique", "Quelmar - Crecidas",
+                             "Fecha: 03/04/2011", "Los nombres están cambiados"}) {
+        EXPECT_NE(svg.find(dice), std::string::npos) << dice;
+        EXPECT_NE(texto.find(dice), std::string::npos) << dice << "\nin " << texto;
+    }
+    // On the screen the chart is as it was.
+    EXPECT_EQ(lamina->EnVista().hasta, 8);
+}
+
+TEST_F(LaminaEnVentana, LaImagenCrecePorLoQueDiceYElGraficoNoSeAchica)
+{
+    PonProcedencia();
+    lamina->CopiaImagen();
+    const QImage imagen = QApplication::clipboard()->image();
+    // Twice as many dots as the screen has, 900 across.
+    EXPECT_EQ(imagen.width(), 1800);
+    const int delGrafico = 1800 * lamina->height() / lamina->width();
+    EXPECT_GT(imagen.height(), delGrafico + 2 * 2 * lamina->fontMetrics().height());
+}
+
+TEST_F(LaminaEnVentana, ElSignoDecimalSeEligeUnaVezYVale)
+{
+    EXPECT_EQ(SignoElegido(mundo.entorno).signo, '.');
+    QMenu menu;
+    AgregaSignoDecimal(menu, mundo.entorno);
+    const auto elige = [&](const char* nombre) {
+        auto* const accion = menu.findChild<QAction*>(QString::fromUtf8(nombre));
+        ASSERT_NE(accion, nullptr);
+        accion->trigger();
+    };
+    const char delEscritorio = QLocale::system().decimalPoint() == QLatin1String(",") ? ',' : '.';
+    elige("mnuSignoEscritorio");
+    EXPECT_EQ(SignoElegido(mundo.entorno).signo, delEscritorio);
+    // Whoever asks later finds the choice.
+    apoyo::Mundo otro;
+    EXPECT_EQ(SignoElegido(otro.entorno).signo, delEscritorio);
+    elige("mnuSignoPunto");
+    EXPECT_EQ(SignoElegido(mundo.entorno).signo, '.');
 }
 
 TEST_F(LaminaEnVentana, ElPngEsUnaImagenConElFondoDelPapel)
@@ -400,29 +481,125 @@ TEST_F(LaminaEnVentana, AguantaGraficosVaciosDeUnaFilaYConHuecos)
     QCoreApplication::processEvents();
 }
 
-TEST_F(LaminaEnVentana, DeLosRotulosDeMarcasQueSePisanQuedaElDeArriba)
+/// Curves like an abacus's, a recurrence each: they rise and fall, close to one another, their peaks marked.
+Grafico Abaco(int curvas)
 {
     Grafico g;
-    g.categorias = {"10", "20", "30", "60"};
-    g.series = {{TipoSerie::Linea2D, "2", false, {1, 2, 1, 1}},
-                {TipoSerie::Linea2D, "5", false, {1, 3, 1, 1}},
-                {TipoSerie::Linea2D, "10", false, {1, 1, 1, 500}},
-                {TipoSerie::Linea2D, "25", false, {CeldaVacia, CeldaVacia, 250, CeldaVacia}}};
-    g.marcas = {{0, 1, "dos"}, {1, 1, "cinco"}, {2, 3, "diez"}, {3, 2, "veinticinco"}, {3, 1, "vacía"}};
+    g.tipo = TipoGrafico::Linea;
+    g.ejeX = "Duración Tormenta D[minutos]";
+    g.ejeY = "Caudal Máximo [m3/s]";
+    g.leyendaVisible = true;
+    g.tituloLeyenda = "R[años]";
+    for (int i = 1; i <= 14; ++i)
+        g.categorias.push_back(std::to_string(30 * i));
+    for (int c = 0; c < curvas; ++c) {
+        Serie& curva =
+            g.series.emplace_back(Serie{TipoSerie::Linea2D, std::to_string(1000 * (c + 1)), false, {}});
+        for (int i = 0; i < 14; ++i)
+            curva.celdas.push_back(20 * std::pow(1.35, c) * (i + 2) * std::exp(-i / 4.0));
+        const auto pico = static_cast<std::size_t>(
+            std::max_element(curva.celdas.begin(), curva.celdas.end()) - curva.celdas.begin());
+        g.marcas.push_back({static_cast<std::size_t>(c), pico, "D= " + g.categorias[pico] + " min"});
+    }
+    return g;
+}
+
+/// Dots of a picture with a colour of their own: letters, axes and ground have none.
+int Coloreados(const QImage& imagen)
+{
+    constexpr int Gris = 40;
+    int n = 0;
+    for (int y = 0; y < imagen.height(); ++y)
+        for (int x = 0; x < imagen.width(); ++x) {
+            const QColor c = imagen.pixelColor(x, y);
+            n += std::max({c.red(), c.green(), c.blue()}) - std::min({c.red(), c.green(), c.blue()}) > Gris;
+        }
+    return n;
+}
+
+TEST_F(LaminaEnVentana, NingunRotuloDeMarcaTocaUnaCurvaUnAnilloNiOtroRotulo)
+{
+    for (const int curvas : {3, 10, 14}) {
+        lamina->Muestra(Abaco(curvas));
+        QCoreApplication::processEvents();
+        ASSERT_EQ(lamina->LugaresDeLeyenda().size(), curvas);
+        const QImage imagen = lamina->grab().toImage();
+        const QList<QRectF> lugares = lamina->LugaresDeMarcas();
+        EXPECT_GE(lugares.size(), 2) << curvas;
+        for (const QRectF& lugar : lugares) {
+            EXPECT_EQ(Coloreados(imagen.copy(lugar.toAlignedRect())), 0) << curvas;
+            EXPECT_TRUE(QRectF(lamina->rect()).contains(lugar));
+            EXPECT_EQ(std::count_if(lugares.begin(), lugares.end(),
+                                    [&](const QRectF& otro) { return otro.intersects(lugar); }),
+                      1);
+        }
+        // The picture has what is looked for where there is a curve.
+        EXPECT_GT(Coloreados(imagen), 1000);
+    }
+}
+
+TEST_F(LaminaEnVentana, DeDosAnillosEnElMismoLugarCadaRotuloVaASuLadoYElTerceroSeVa)
+{
+    Grafico g = Abaco(1);
+    g.series.resize(3, g.series[0]);
+    g.marcas.resize(3, g.marcas[0]);
+    for (std::size_t i = 0; i < 3; ++i) {
+        g.marcas[i].serie = i;
+        g.marcas[i].rotulo = std::string(12, static_cast<char>('a' + i));
+    }
     lamina->Muestra(g);
-    EXPECT_TRUE(apoyo::Espera([&] {
-        return lamina->MarcasRotuladas() ==
-               QStringList({QStringLiteral("cinco"), QStringLiteral("diez"), QStringLiteral("veinticinco")});
-    }));
-    // A label under its point keeps clear of those above theirs.
-    g.marcas[0].debajo = true;
+    EXPECT_TRUE(apoyo::Espera([&] { return lamina->MarcasRotuladas().size() == 2; }));
+    // One that stands alone finds its place; where its ring is out of sight it goes.
+    g.series.resize(1);
+    g.marcas.resize(1);
     lamina->Muestra(g);
-    EXPECT_TRUE(apoyo::Espera([&] { return lamina->MarcasRotuladas().size() == 4; }));
-    g.marcas[0].debajo = false;
-    // With room between them both stand.
-    g.series[1].celdas[1] = 400;
+    EXPECT_TRUE(apoyo::Espera([&] { return lamina->MarcasRotuladas().size() == 1; }));
+    g.series[0].celdas.assign(14, CeldaVacia);
     lamina->Muestra(g);
-    EXPECT_TRUE(apoyo::Espera([&] { return lamina->MarcasRotuladas().size() == 4; }));
+    EXPECT_TRUE(apoyo::Espera([&] { return lamina->MarcasRotuladas().isEmpty(); }));
+}
+
+TEST_F(LaminaEnVentana, LaLeyendaSeVeEnteraEnCualquierAncho)
+{
+    lamina->Muestra(Abaco(14));
+    for (const int ancho : {300, 500, 700, 1100}) {
+        ventana.resize(ancho, Tamano.height());
+        QCoreApplication::processEvents();
+        lamina->grab();
+        const QList<QRectF> lugares = lamina->LugaresDeLeyenda();
+        ASSERT_EQ(lugares.size(), 14) << ancho;
+        for (const QRectF& lugar : lugares) {
+            EXPECT_TRUE(QRectF(lamina->rect()).contains(lugar)) << ancho << ": " << lugar.right();
+            EXPECT_EQ(std::count_if(lugares.begin(), lugares.end(),
+                                    [&](const QRectF& otro) { return otro.intersects(lugar); }),
+                      1)
+                << ancho;
+        }
+    }
+}
+
+/// The dot and dashes of an entry of the legend, its colours taken out.
+QImage Muestra(const QImage& imagen, const QRectF& entrada)
+{
+    constexpr int AnchoDeLaMuestra = 32;
+    QRect lugar = entrada.toAlignedRect();
+    lugar.setWidth(AnchoDeLaMuestra);
+    return imagen.copy(lugar).convertToFormat(QImage::Format_Mono, Qt::ThresholdDither | Qt::AvoidDither);
+}
+
+TEST_F(LaminaEnVentana, LasRecurrenciasDelMismoColorTienenOtraMarca)
+{
+    lamina->Muestra(Abaco(14));
+    QCoreApplication::processEvents();
+    ASSERT_EQ(lamina->LugaresDeLeyenda().size(), 14);
+    const QImage imagen = lamina->grab().toImage();
+    const QList<QRectF> lugares = lamina->LugaresDeLeyenda();
+    for (qsizetype i = 0; i < 7; ++i) {
+        const QImage una = Muestra(imagen, lugares[i]), otra = Muestra(imagen, lugares[i + 7]);
+        // The dot stands in the middle of the sample: seven dots across it.
+        const QRect punto(una.width() / 2 - 3, una.height() / 2 - 4, 7, 8);
+        EXPECT_NE(una.copy(punto), otra.copy(punto)) << i;
+    }
 }
 
 TEST_F(LaminaEnVentana, LaCompactaNoTieneTituloYCabeEnPocoLugar)
@@ -434,24 +611,44 @@ TEST_F(LaminaEnVentana, LaCompactaNoTieneTituloYCabeEnPocoLugar)
     chica->Muestra(g);
     QCoreApplication::processEvents();
     EXPECT_LT(chica->minimumSizeHint().width(), lamina->minimumSizeHint().width());
+    // On its way out it bears the title all the same.
+    const QImage con = chica->grab().toImage();
+    g.titulo.clear();
+    chica->Muestra(g);
+    EXPECT_TRUE(apoyo::Espera([&] { return chica->grab().toImage() == con; }));
+    g.titulo = "Título";
+    chica->Muestra(g);
     mundo.anfitrion->elegidos = {"/salida/c.svg"};
     chica->GuardaSvg();
-    EXPECT_EQ(disco.Bytes("/salida/c.svg").find("Título"), std::string::npos);
+    EXPECT_NE(disco.Bytes("/salida/c.svg").find("Título"), std::string::npos);
 }
 
 TEST_F(LaminaEnVentana, ImprimeLaVentanaConSuGrafico)
 {
-    const QTemporaryDir carpeta;
-    const QString ruta = carpeta.filePath(QStringLiteral("h.pdf"));
-    mundo.entorno.Impresora = [&] {
-        auto impresora = std::make_unique<QPrinter>();
-        impresora->setOutputFormat(QPrinter::PdfFormat);
-        impresora->setOutputFileName(ruta);
-        return impresora;
-    };
-    ImprimeConLaminas(mundo.entorno, ventana, {lamina});
-    EXPECT_TRUE(apoyo::BytesDeArchivo(DeQ(ruta)).starts_with("%PDF"));
+    apoyo::ImpresoraDePrueba impresora;
+    mundo.entorno.Impresora = impresora.Puerta();
+    PonProcedencia();
+    Grafico g = Hidrograma(100);
+    g.salvedad = "Los nombres están cambiados";
+    lamina->Muestra(g);
+    ImprimeConLamina(mundo.entorno, ventana, *lamina);
     EXPECT_TRUE(mundo.anfitrion->Avisos().empty());
+    ASSERT_TRUE(impresora.Imprimio());
+    EXPECT_EQ(impresora.Titulo(), "Hidrograma - r-Dique");
+    const std::string texto = impresora.Texto(1);
+    for (const char* dice :
+         {"Proyecto: Quelmar - Crecidas", "Fecha: 03/04/2011", "Los nombres están cambiados"})
+        EXPECT_NE(texto.find(dice), std::string::npos) << dice << "\nin " << texto;
+    // The image of the window takes the page's width, and has its proportions.
+    constexpr int PuntosPorPulgada = 50;
+    const QImage hoja = impresora.Hoja(1, PuntosPorPulgada);
+    const QRect pintable = impresora.Pintable(PuntosPorPulgada);
+    EXPECT_GT(hoja.width(), hoja.height());
+    const QColor fondo = ventana.palette().color(QPalette::Window);
+    const int alto = pintable.width() * Tamano.height() / Tamano.width();
+    EXPECT_EQ(hoja.pixelColor(pintable.right() - 4, pintable.top() + 4), fondo);
+    EXPECT_EQ(hoja.pixelColor(pintable.left() + 4, pintable.top() + std::min(alto, pintable.height()) / 2),
+              fondo);
 }
 
 }  // namespace

@@ -30,5 +30,23 @@ TEST(Planilla, ElTextoVaConTabulacionesYSinComillas)
     EXPECT_EQ(ComoTexto(Ejemplo), "Uno, \"dos\"\r\nNombre\tQ[m3/s]\r\n12\t3.5\r\na-1\t\r\nb\tsin dato\r\n");
 }
 
+TEST(Planilla, ConComaDecimalLosCamposSeSeparanConPuntoYComa)
+{
+    constexpr SignoDecimal Coma{','};
+    // Only numbers take it: neither a text with a point nor a name of digits does.
+    EXPECT_EQ(ComoCsv({{}, {{"Nombre", true}, {"Q"}, {"Nota"}}, {{"1.2", "-3.5", "a.b"}}}, Coma),
+              "\"Nombre\";\"Q\";\"Nota\"\r\n\"1.2\";-3,5;\"a.b\"\r\n");
+    EXPECT_EQ(ComoTexto(Ejemplo, Coma),
+              "Uno, \"dos\"\r\nNombre\tQ[m3/s]\r\n12\t3,5\r\na-1\t\r\nb\tsin dato\r\n");
+}
+
+TEST(Planilla, UnTextoCopiadoTomaElSignoEnSusNumeros)
+{
+    EXPECT_EQ(ConSigno("1.5\ta.b\t\r\n-2\t1E-05\n", {','}), "1,5\ta.b\t\r\n-2\t1E-05\n");
+    EXPECT_EQ(ConSigno("0.5\r\n.25", {','}), "0,5\r\n,25");
+    EXPECT_EQ(ConSigno("1.5\t2.5", {}), "1.5\t2.5");
+    EXPECT_EQ(ConSigno("", {','}), "");
+}
+
 }  // namespace
 }  // namespace forms

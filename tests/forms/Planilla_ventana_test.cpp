@@ -118,7 +118,8 @@ TEST_F(Guardar, UnDiscoQueSeNiegaSeDice)
 
 TEST(CopiarPlanilla, QuedaEnElPortapapelesComoTexto)
 {
-    CopiaPlanilla(Ejemplo);
+    apoyo::Mundo mundo;
+    CopiaPlanilla(mundo.entorno, Ejemplo);
     EXPECT_EQ(DeQ(QApplication::clipboard()->text()), ComoTexto(Ejemplo));
 }
 

@@ -8,12 +8,10 @@
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QMenu>
-#include <QPrinter>
 #include <QPushButton>
-#include <QTemporaryDir>
 #include <QTimer>
 
-#include "apoyo/Compara.h"
+#include "apoyo/Papel.h"
 #include "apoyo/Ventanas.h"
 #include "forms/Lista_ventana.h"
 #include "forms/Textos_ventana.h"
@@ -194,28 +192,96 @@ TEST_F(TablasDeSerie, ElMenuGuardaCsvYXlsx)
     EXPECT_EQ(disco.Bytes("/salida/t.csv"), "\xEF\xBB\xBF" + ComoCsv(ComoPlanilla(f.MSFlexGridTablaSaleQDR)));
     EligeDelMenu(ventana, 6, 2, "mnuGuardaXlsx");
     EXPECT_TRUE(disco.Bytes("/salida/t.xlsx").starts_with("PK"));
-    EXPECT_EQ(anfitrion->propuestos.front(), std::string(TituloDlgTablaSalePDR) + ".csv");
+    EXPECT_EQ(anfitrion->propuestos.front(),
+              "Serie de Tormentas Sintéticas - Resumen de Qpico, Escorrentía y Coef. Esc.csv");
+
+    const std::string libro = apoyo::LeePlanilla(disco.Bytes("/salida/t.xlsx"), "xlsx");
+    for (const char* dice :
+         {"_xlnm.Print_Titles SIRO!$6:$6\n", "fitToPage 1 height 0 paper 9\n", "footer &RPágina &P de &N\n",
+          "A6 text Componente \n", "A7 text u-1\n", "B7 number 1.0 0\n", "C7 number 20.0 0.0##\n",
+          "F7 number 11.12 0.00\n", "G7 number 1001.0 #,##0\n", "H7 number 41.12 0.00\n"})
+        EXPECT_NE(libro.find(dice), std::string::npos) << dice << "in\n" << libro;
+    const std::string csv = apoyo::LeePlanilla(disco.Bytes("/salida/t.csv"), "csv");
+    EXPECT_NE(csv.find("\nComponente |Nro.|P[mm]|D[min]|R[años]|Qp[m3/s]|E[m3]|C[%]\n"
+                       "u-1|1.0|20.0|60.0|10.0|11.12|1001.0|41.12\n"),
+              std::string::npos)
+        << csv;
 }
 
-TEST_F(TablasDeSerie, SeImprimeSinBotonesNiBarrasYTodoVuelve)
+TEST_F(TablasDeSerie, SeImprimeEnteraConEncabezadoYNumeroEnCadaHoja)
 {
-    const QTemporaryDir carpeta;
-    const QString ruta = carpeta.filePath(QStringLiteral("tabla.pdf"));
-    bool conBotones = true;
-    entorno.Impresora = [&] {
-        conBotones = Control<QPushButton>(ventana, "OKButton").isVisible() ||
-                     Tabla(ventana).verticalScrollBarPolicy() != Qt::ScrollBarAlwaysOff;
-        auto impresora = std::make_unique<QPrinter>();
-        impresora->setOutputFormat(QPrinter::PdfFormat);
-        impresora->setOutputFileName(ruta);
-        return impresora;
-    };
+    // Sixty storms of three components and the basin: 240 rows, more than four pages.
+    std::vector<pruebas::Tormenta> tormentas;
+    for (std::int16_t i = 1; i <= 60; ++i)
+        tormentas.push_back({static_cast<float>(100 + i), static_cast<std::int16_t>(1000 + i), 10});
+    Carga(tormentas);
+    LlenaResultados();
+    apoyo::ImpresoraDePrueba impresora;
+    entorno.Impresora = impresora.Puerta();
+    ventana.Abre();
+    Tabla(ventana).selectAll();  // what is selected is none of the paper's business
+    Pulsa(Control<QPushButton>(ventana, "cmdImprimir"));
+    ASSERT_TRUE(impresora.Imprimio());
+    EXPECT_EQ(impresora.Titulo(),
+              "Serie de Tormentas Sintéticas - Resumen de Qpico, Escorrentía y Coef. Esc");
+
+    const int paginas = impresora.Paginas();
+    EXPECT_GE(paginas, 4);
+    std::string todo;
+    for (int pagina = 1; pagina <= paginas; ++pagina) {
+        const std::string texto = impresora.Texto(pagina);
+        for (const std::string_view encabezado : EncabezadosQDR())
+            EXPECT_NE(texto.find(encabezado.substr(0, encabezado.find_last_not_of(' ') + 1)),
+                      std::string::npos)
+                << encabezado << " on page " << pagina;
+        EXPECT_NE(texto.find("Página " + std::to_string(pagina) + " de " + std::to_string(paginas)),
+                  std::string::npos);
+        EXPECT_EQ(texto.find("Ubicación: Un lugar") != std::string::npos, pagina == 1);
+        todo += texto;
+    }
+    // Each row once: durations 1001 to 1060, of three components and of the basin.
+    for (int d = 1001; d <= 1060; ++d) {
+        int veces = 0;
+        for (std::size_t i = todo.find(std::to_string(d)); i != std::string::npos;
+             i = todo.find(std::to_string(d), i + 1))
+            veces += todo[i - 1] == ' ' && todo[i + 4] == ' ';
+        EXPECT_GE(veces, 4) << d;
+    }
+    // Ink is black: no cell is painted as selected.
+    const QImage hoja = impresora.Hoja(1, 60);
+    int conColor = 0;
+    for (int y = 0; y < hoja.height(); ++y)
+        for (int x = 0; x < hoja.width(); ++x)
+            conColor += hoja.pixelColor(x, y).saturation() > 40;
+    EXPECT_EQ(conColor, 0);
+    EXPECT_TRUE(Control<QPushButton>(ventana, "OKButton").isVisible());
+}
+
+TEST_F(TablasDeSerie, UnaTablaVaciaSeImprimeEnUnaHoja)
+{
+    apoyo::ImpresoraDePrueba impresora;
+    entorno.Impresora = impresora.Puerta();
+    s.NroComponentes = 0;
     ventana.Abre();
     Pulsa(Control<QPushButton>(ventana, "cmdImprimir"));
-    EXPECT_FALSE(conBotones);
-    EXPECT_TRUE(apoyo::BytesDeArchivo(DeQ(ruta)).starts_with("%PDF"));
-    EXPECT_TRUE(Control<QPushButton>(ventana, "OKButton").isVisible());
-    EXPECT_EQ(Tabla(ventana).verticalScrollBarPolicy(), Qt::ScrollBarAsNeeded);
+    EXPECT_EQ(impresora.Paginas(), 1);
+    EXPECT_NE(impresora.Texto(1).find("Página 1 de 1"), std::string::npos);
+}
+
+TEST_F(TablasDeSerie, LaDeUnComponenteLlevaSuNombreEnArchivosYPapel)
+{
+    apoyo::ImpresoraDePrueba impresora;
+    entorno.Impresora = impresora.Puerta();
+    disco.PonDirectorio("/salida");
+    anfitrion->elegidos = {"/salida/t.csv"};
+    s.IndComp = 3;
+    deUno.Abre();
+    EligeDelMenu(deUno, 6, 2, "mnuGuardaCsv");
+    const char* const nombre =
+        "Serie de Tormentas Sintéticas - Resumen Qp-D-R - E-D-R - CE-D-R por Componente - c-1";
+    EXPECT_EQ(anfitrion->propuestos.front(), std::string(nombre) + ".csv");
+    Pulsa(Control<QPushButton>(deUno, "cmdImprimir"));
+    EXPECT_EQ(impresora.Titulo(), nombre);
 }
 
 TEST_F(TablasDeSerie, SeCierraConElBotonYConElMarco)

@@ -11,6 +11,7 @@
 #include <filesystem>
 
 #include "apoyo/Compara.h"
+#include "apoyo/Papel.h"
 #include "apoyo/Ventanas.h"
 #include "engine/modProceso0.h"
 #include "forms/Lamina_ventana.h"
@@ -216,6 +217,42 @@ TEST_F(VentanaHidrogramas, ConLluviaPorUEHNoHayDeslizadores)
     for (const char* nombre : {"sldPp", "sldDur", "lblPp", "lblDur", "lblValorPp", "lblValorDur"})
         EXPECT_FALSE(Control<QWidget>(ventana, nombre).isVisible()) << nombre;
     EXPECT_TRUE(Control<QPushButton>(ventana, "cmdHsMin").isVisible());
+}
+
+TEST_F(VentanaHidrogramas, LosDeslizadoresVuelvenConLaProximaTormentaUnica)
+{
+    Abre();
+    mundo.s.FormaPp = 2;  // a series is run while the window is open
+    ASSERT_TRUE(Elige("c-"));
+    EXPECT_FALSE(Pp().isVisible());
+    mundo.s.FormaPp = 0;
+    ventana.Abre();  // as a run of one storm does at its end
+    EXPECT_TRUE(Pp().isVisible());
+    EXPECT_TRUE(Dur().isVisible());
+    mundo.s.FormaPp = 3;
+    ASSERT_TRUE(Elige("u-"));
+    EXPECT_FALSE(Pp().isVisible());
+    mundo.s.FormaPp = 1;
+    ASSERT_TRUE(Elige("u-"));
+    EXPECT_TRUE(Pp().isVisible());
+}
+
+TEST_F(VentanaHidrogramas, DeUnaRepresaSaleLaNotaDeLosNombresCambiados)
+{
+    Abre();
+    const char* const nota =
+        "Los nombres Qentra y Qsale de la leyenda están cambiados: la curva llamada Qentra es la salida.";
+    ASSERT_TRUE(Elige("r-"));
+    EXPECT_EQ(f.Grafico.salvedad, nota);
+    apoyo::ImpresoraDePrueba impresora;
+    mundo.entorno.Impresora = impresora.Puerta();
+    Pulsa(Control<QPushButton>(ventana, "cmdImprimir"));
+    EXPECT_NE(impresora.Texto(1).find(nota), std::string::npos) << impresora.Texto(1);
+    EXPECT_EQ(impresora.Titulo(), "Hidrograma - " + f.componente);
+    ASSERT_TRUE(Elige("l-"));
+    EXPECT_EQ(f.Grafico.salvedad, nota);
+    ASSERT_TRUE(Elige("c-"));
+    EXPECT_EQ(f.Grafico.salvedad, "");
 }
 
 TEST_F(VentanaHidrogramas, SinResultadosOEnSerieSeCierraSola)

@@ -462,8 +462,9 @@ TEST_F(Abaco, SeGuardaComoTextoDeCampos)
     LlenaResultados();
     AbreEn(1);
     EligeMagnitud(1);
-    EXPECT_EQ(forms::CeldasComoCsv(f.Grafico),
-              "\"Duración Tormenta D[minutos]\",\"10\",\"25\"\r\n60,2001,2003\r\n120,2002,\r\n");
+    EXPECT_EQ(forms::ComoCsv(forms::CeldasComoPlanilla(f.Grafico)),
+              "\"Duración Tormenta D[minutos]\",\"R= 10 años [m3]\",\"R= 25 años "
+              "[m3]\"\r\n60,2001,2003\r\n120,2002,\r\n");
 }
 
 }  // namespace

@@ -2,16 +2,15 @@
 #include "results/dlgChart3_ventana.h"
 
 #include <QLabel>
-#include <QPrinter>
 #include <QPushButton>
-#include <QTemporaryDir>
 
-#include "apoyo/Compara.h"
+#include "apoyo/Papel.h"
 #include "apoyo/Ventanas.h"
 #include "forms/Lamina_ventana.h"
 #include "forms/Lista_ventana.h"
 #include "forms/Textos_ventana.h"
 #include "results/SerieDePrueba.h"
+#include "results/dlgTablaSalePDR_ventana.h"
 
 namespace results {
 namespace {
@@ -123,19 +122,16 @@ TEST_F(VentanaAbaco, DivideElEjeYSeCierra)
 
 TEST_F(VentanaAbaco, SeImprimeSinComandosNiListasYTodoVuelve)
 {
-    const QTemporaryDir carpeta;
-    const QString ruta = carpeta.filePath(QStringLiteral("abaco.pdf"));
+    apoyo::ImpresoraDePrueba impresora;
     bool conControles = true;
     QSize alImprimir;
     entorno.Impresora = [&] {
         alImprimir = Grafico().size();
         conControles = Lista("lstCompos").isVisible() || Lista("lstPQEC").isVisible() ||
                        Control<QPushButton>(ventana, "OKButton").isVisible();
-        auto impresora = std::make_unique<QPrinter>();
-        impresora->setOutputFormat(QPrinter::PdfFormat);
-        impresora->setOutputFileName(ruta);
-        return impresora;
+        return impresora.Puerta()();
     };
+    s.IndComp = 1;
     ventana.Abre();
     const QSize antes = Grafico().size();
     Pulsa(Control<QPushButton>(ventana, "cmdImprimir"));
@@ -143,9 +139,33 @@ TEST_F(VentanaAbaco, SeImprimeSinComandosNiListasYTodoVuelve)
     // The room of what is hidden is the chart's.
     EXPECT_GT(alImprimir.width(), antes.width());
     EXPECT_GT(alImprimir.height(), antes.height());
-    EXPECT_TRUE(apoyo::BytesDeArchivo(DeQ(ruta)).starts_with("%PDF"));
+    ASSERT_TRUE(impresora.Imprimio());
+    EXPECT_EQ(impresora.Titulo(),
+              "Serie de Tormentas Sintéticas - Resumen de Qpico, Escorrentía y Coef.Esc. - u-1");
+    EXPECT_NE(impresora.Texto(1).find("Proyecto: Prueba - Un título"), std::string::npos);
+    // White, as the chart's ground is, takes most of the page.
+    const QImage hoja = impresora.Hoja(1, 40);
+    int blancos = 0;
+    const QRect pintable = impresora.Pintable(40);
+    for (int y = pintable.top(); y < pintable.bottom(); ++y)
+        blancos += hoja.pixelColor(pintable.center().x() + 7, y).lightness() > 250;
+    EXPECT_GT(blancos, pintable.height() / 2);
     EXPECT_TRUE(Lista("lstCompos").isVisible());
     EXPECT_TRUE(Control<QPushButton>(ventana, "OKButton").isVisible());
+}
+
+TEST_F(VentanaAbaco, LaSeleccionQuedaCuandoUnaPlanillaMovioElComponente)
+{
+    s.IndComp = 2;
+    ventana.Abre();
+    dlgTablaSalePDR registro;
+    dlgTablaSalePDR_ventana tabla(entorno, registro);
+    tabla.Abre();  // goes through all components, and beyond the last
+    ASSERT_NE(s.IndComp, 2);
+    Elige("lstPQEC", 0);
+    EXPECT_EQ(Lista("lstCompos").currentRow(), 1);
+    EXPECT_EQ(f.Grafico.titulo, "u-2");
+    EXPECT_EQ(s.IndComp, 2);
 }
 
 TEST_F(VentanaAbaco, SinSerieQuedaVaciaYSinComponentesNoSeAbre)

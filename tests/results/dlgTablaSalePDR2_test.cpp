@@ -182,16 +182,5 @@ TEST_F(TablaDeUno, LaSeparacionNoSeGuarda)
     EXPECT_NE(texto.find("c-1\t3\t35\t120\t25\t34.12\t\t\r\nEscorrentía total \t\t20"), std::string::npos);
 }
 
-TEST_F(TablaDeUno, ImprimeSinBotonesNiBarrasYLosDevuelve)
-{
-    AbreEn(1);
-    AntesDeImprimir(f);
-    EXPECT_EQ(f.vista, (VistaTablaQDR{.botones = false, .barras = false}));
-    DespuesDeImprimir(f);
-    EXPECT_EQ(f.vista, (VistaTablaQDR{.botones = true, .barras = true}));
-    OKButton(f);
-    EXPECT_FALSE(f.abierta);
-}
-
 }  // namespace
 }  // namespace results

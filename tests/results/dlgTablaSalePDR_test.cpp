@@ -236,18 +236,6 @@ TEST_F(TablaCompleta, LasEntradasPidenMasDeUnaTormenta)
     EXPECT_TRUE(HayPlanillaPDR(s));
 }
 
-TEST_F(TablaCompleta, ImprimeSinBotonesNiBarrasYLosDevuelve)
-{
-    Abre(f, s);
-    EXPECT_EQ(f.vista, (VistaTablaQDR{.botones = true, .barras = true}));
-    AntesDeImprimir(f);
-    EXPECT_EQ(f.vista, (VistaTablaQDR{.botones = false, .barras = false}));
-    DespuesDeImprimir(f);
-    EXPECT_EQ(f.vista, (VistaTablaQDR{.botones = true, .barras = true}));
-    OKButton(f);
-    EXPECT_FALSE(f.abierta);
-}
-
 // --- order ---
 
 class OrdenDeTabla : public TablaCompleta {

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/lienzo/PintaDibujo_ventana.h"
 
+#include <QFontInfo>
 #include <QFontMetricsF>
+#include <QGuiApplication>
 #include <QPaintDevice>
 #include <QPainter>
 #include <QPainterPath>
@@ -250,12 +252,20 @@ void PintaTexto(QPainter& pintor, QPointF en, const QString& texto, const QColor
 
 }  // namespace
 
+QFont LetraDelDibujo()
+{
+    QFont letra = QGuiApplication::font();
+    letra.setPixelSize(QFontInfo(letra).pixelSize());
+    return letra;
+}
+
 void PintorDibujo::Pinta(QPainter& pintor, const frmUEHs& f, const QRectF& donde)
 {
     constexpr qsizetype IconosGuardados = 200;
     if (iconos.size() > IconosGuardados) iconos.clear();
     const Mapa mapa(f, donde);
     pintor.save();
+    pintor.setFont(LetraDelDibujo());
     pintor.setClipRect(donde);
     pintor.fillRect(donde, QColor(Hoja));
     pintor.setRenderHint(QPainter::Antialiasing, suaviza);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QFont>
 #include <QHash>
 #include <QPixmap>
 #include <QRectF>
@@ -35,6 +36,10 @@ class PintorDibujo {
     std::string rutaFondo{};
     QHash<quint64, QPixmap> iconos{};  ///< by kind, state, size
 };
+
+/// Letters of the drawing, in the canvas's pixels: points would be reckoned by the dots of the paper once
+/// more where the painter is scaled up to them.
+QFont LetraDelDibujo();
 
 /// Paints the icon of a kind of component into a square.
 void PintaIconoDe(QPainter& pintor, Clase clase, bool seleccionado, const QRectF& donde);
