@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "model/Disco.h"
 #include "model/Falla.h"
@@ -27,6 +28,11 @@ struct DiscoPorTerminacion {
             return archivo->second;
         };
         disco.Escribe = [a](const std::string& ruta, std::string_view bytes) { (*a)[Clave(ruta)] = bytes; };
+        disco.Reemplaza = [a](const std::vector<model::CambioArchivo>& cambios) {
+            for (const model::CambioArchivo& cambio : cambios)
+                (*a)[Clave(cambio.ruta)] = cambio.bytes;
+        };
+        disco.Recupera = [](const std::string&) { return model::Recuperacion{}; };
         disco.Agrega = [a](const std::string& ruta, std::string_view bytes) { (*a)[Clave(ruta)] += bytes; };
         disco.HayDirectorio = [](const std::string&) { return true; };
         disco.Borra = [a](const std::string& ruta) {

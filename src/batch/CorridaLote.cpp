@@ -136,6 +136,7 @@ int Corre(const Opciones& o, const std::string& dirEjecutable, const Salidas& sa
     s.Anfitrion = anfitrion.Anfitrion();
     s.DirEjecutable = dirEjecutable;
     s.DirTrabajo = o.trabajo.empty() ? model::DirTrabajoDe(dirEjecutable) : Absoluta(o.trabajo);
+    model::AvisaEntregaPendiente(s);
     bool completa = false;
     try {
         completa = CorreOrden(s, o);

@@ -271,6 +271,7 @@ void LeePpReal(Siro& s, TormentaReal& tormenta)
 void GuardaPpReal(Siro& s, TormentaReal& tormenta)
 {
     AbreTormenta(s, tormenta);
+    const auto antes = s.PpReal;
     s.PpReal.Redimensiona(s.NroPpReal);
     EscritorRegistros escritor(s.Disco);
     escritor.Abre(s.ArchivoTemp);
@@ -280,7 +281,12 @@ void GuardaPpReal(Siro& s, TormentaReal& tormenta)
     escritor.Texto(tormenta.txtDateF).Texto(tormenta.txtTimeF).FinRegistro();
     for (int j = 1; j <= s.NroPpReal; ++j)
         escritor.Numero(s.PpReal(j)).FinRegistro();
-    escritor.Cierra();
+    try {
+        escritor.Cierra();
+    } catch (const Falla&) {
+        s.PpReal = antes;
+        throw;
+    }
 }
 
 // --- personal distributions ---

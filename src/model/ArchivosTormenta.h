@@ -67,7 +67,7 @@ std::string ArchivoTormentaNueva(std::string_view respuesta);
 void LeePpReal(Siro& s, TormentaReal& tormenta);
 
 /// Writes the storm in hand over its file, or over the default one's; PpReal is cut or filled up to NroPpReal
-/// first. Throws Falla 76, 75; Falla 9 where NroPpReal is negative.
+/// first. Throws Falla 76, 75 and leaves file and depths as they were; Falla 9 where NroPpReal is negative.
 void GuardaPpReal(Siro& s, TormentaReal& tormenta);
 
 // --- personal distributions, distriPp_dpt.vlm ---

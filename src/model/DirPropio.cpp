@@ -17,6 +17,10 @@ constexpr std::string_view ArchivoDePrueba = "siro_prueba.tmp";
 /// Empty file that stands in the program's directory while not all that is delivered has been copied there.
 constexpr std::string_view MarcaDeEntrega = "siro_entrega.tmp";
 constexpr std::string_view CarpetaDeAyuda = "Ayuda";
+constexpr std::string_view AvisoEntrega =
+    "No se pudieron copiar todos los archivos que trae el programa, tal vez por falta de lugar en el disco. "
+    "Se "
+    "intentará otra vez en el próximo arranque. Carpeta: ";
 /// Folders of what is delivered, the root first.
 constexpr auto CarpetasEntregadas = std::to_array<std::string_view>({"", "Proyectos", CarpetaDeAyuda});
 
@@ -144,6 +148,11 @@ std::string PreparaDirTrabajo(const Disco& disco, const std::string& dirEjecutab
 bool EntregaPendiente(const Disco& disco, const std::string& dirTrabajo)
 {
     return Esta(disco, dirTrabajo, MarcaDeEntrega);
+}
+
+void AvisaEntregaPendiente(const Siro& s)
+{
+    if (EntregaPendiente(s.Disco, s.DirTrabajo)) Advierte(s, std::string(AvisoEntrega) + s.DirTrabajo);
 }
 
 void RenuevaAyuda(const Disco& disco, const std::string& dirTrabajo, const std::string& dirEntregado)

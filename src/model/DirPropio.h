@@ -10,6 +10,8 @@
 // installation delivers to it. The same for every program that is installed together.
 namespace model {
 
+struct Siro;
+
 /// Value of a variable of the process's environment; empty where it isn't set.
 using Ambiente = std::function<std::string(const std::string& nombre)>;
 
@@ -32,6 +34,8 @@ std::string PreparaDirTrabajo(const Disco& disco, const std::string& dirEjecutab
 
 /// Whether something of what is delivered couldn't be copied yet.
 bool EntregaPendiente(const Disco& disco, const std::string& dirTrabajo);
+/// Tells so, if so.
+void AvisaEntregaPendiente(const Siro& s);
 
 /// Brings the help of the program's own directory up to what was delivered: an upgrade's pages replace those
 /// that an earlier start has copied. What can't be read or copied is left as it is.

@@ -1,22 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/Arranque.h"
 
-#include "model/Avisos.h"
 #include "model/DirPropio.h"
 #include "model/VidaProyecto.h"
 
 namespace shell {
 
 using model::Siro;
-
-namespace {
-
-constexpr std::string_view EntregaIncompleta =
-    "No se pudieron copiar todos los archivos que trae el programa, tal vez por falta de lugar en el disco. "
-    "Se "
-    "intentará otra vez en el próximo arranque. Carpeta: ";
-
-}  // namespace
 
 std::string TextoVersion(std::string_view version)
 {
@@ -46,8 +36,7 @@ void AlAbrirse(MDIForm1& f, Siro& s)
 {
     Abre(f);
     model::RecuperaGuardado(s, s.DirTrabajo);
-    if (model::EntregaPendiente(s.Disco, s.DirTrabajo))
-        model::Advierte(s, std::string(EntregaIncompleta) + s.DirTrabajo);
+    model::AvisaEntregaPendiente(s);
     if (s.NombreProyecto.empty()) return;
     f.Estado(Variable::mnu_ultimoarchivo1).leyenda =
         model::Ruta(s.DirProyecto, s.NombreProyecto).append(model::TerminacionConf);

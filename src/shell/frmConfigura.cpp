@@ -324,6 +324,7 @@ void filArchivoConfigura_Click(frmConfigura& f, Siro& s)
     if (proyecto.ends_with('_')) proyecto.pop_back();
     s.DirProyecto = s.frmConfigura.Dir1;
     s.NombreProyecto = proyecto;
+    model::RecuperaGuardado(s, s.DirProyecto);
     model::leoConf(s);
     f.lblnombreproyecto = s.NombreProyecto;
     Relista(f, s);

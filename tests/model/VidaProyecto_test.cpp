@@ -750,6 +750,12 @@ TEST_F(VidaProyecto, AbrirYReabrirNuncaTerminanFalleLaLlamadaQueFalle)
             const Sucesos vistos = TomaSucesos();
             EXPECT_EQ(std::count(vistos.begin(), vistos.end(), SucesoTermina()), 0) << "call " << n;
             EXPECT_EQ(std::count(vistos.begin(), vistos.end(), ErrorDesconocido), 0) << "call " << n;
+            // What was opened is as it was, and the pointer whole.
+            EXPECT_EQ(disco.Bytes(Ruta(Otros, "Quelmar_Conf.vlm")), BytesConf(Otros, "Quelmar")) << n;
+            EXPECT_EQ(disco.Bytes(Ruta(Otros, "Quelmar_UEHs.vlm")), BytesUEHs("Quelmar")) << n;
+            const std::string puntero = disco.Bytes(Puntero);
+            EXPECT_TRUE(puntero == BytesPuntero(Otros, "Quelmar") || puntero == BytesPuntero(Proyectos, ""))
+                << n << puntero;
             if (!fallo) break;
             ++fallidas;
         }

@@ -9,6 +9,7 @@
 #include "ProyectoDeLluvia.h"
 #include "apoyo/AnfitrionPrueba.h"
 #include "apoyo/DiscoPrueba.h"
+#include "rainfall/dlgImportaTormenta.h"
 
 namespace rainfall {
 namespace {
@@ -891,6 +892,38 @@ TEST_F(DialogoPpReal, LaTormentaImportadaTomaLosCamposYNadaSeEscribe)
     EXPECT_EQ(Bytes("Velmir_pt.vlm"),
               "\"Importada de r.csv\"\r\n3,15\r\n\"29/02/1992\",\"01:00\"\r\n\"29/02/1992\","
               "\"01:45\"\r\n1.5\r\n0\r\n2\r\n");
+}
+
+// What was imported stands in the form until it is written; the file is the old storm or the new one.
+TEST_F(DialogoPpReal, AlImportarYAplicarCadaLlamadaQueFallaDejaLaTormentaViejaOLaNueva)
+{
+    disco.Pon("/datos/r.csv", "01/03/2004 00:10;1\n01/03/2004 00:20;2\n");
+    int n = 0;
+    for (bool hubo = true; hubo;) {
+        ASSERT_LT(++n, 20);
+        disco.Pon("/proyectos/Velmir_pt.vlm", Llovizna);
+        Abre();
+        anfitrion->sucesos.clear();
+        anfitrion->elegidos = {"/datos/r.csv"};
+        disco.FallaEn(n, NumeroFalla::AccesoRuta);
+        dlgImportaTormenta importa;
+        const bool leida = rainfall::Abre(importa, s);
+        if (leida) {
+            OKButton(importa);
+            TomaImportada(f, s, importa.tormenta);
+            cmdAplicar(f, pp, s);
+        }
+        hubo = disco.HuboFalla();
+        disco.DejaDeFallar();
+        EXPECT_EQ(Avisos().size(), hubo ? 1U : 0U) << "call " << n;
+        EXPECT_EQ(Bytes("Velmir_pt.vlm") == Llovizna, hubo) << "call " << n;
+        EXPECT_EQ(f.txtNroPpReal, leida ? "2" : "3") << "call " << n;
+        if (leida) EXPECT_EQ(Columna(3), (Textos{"1", "2"})) << "call " << n;
+        // The next attempt goes through.
+        cmdAplicar(f, pp, s);
+        EXPECT_EQ(Bytes("Velmir_pt.vlm") == Llovizna, !leida) << "call " << n;
+    }
+    EXPECT_EQ(n, 3);  // the record, the storm
 }
 
 }  // namespace

@@ -102,6 +102,15 @@ void Encierra(model::Disco& disco, const std::string& carpeta)
         exige(ruta);
         hace(ruta, bytes);
     };
+    disco.Reemplaza = [exige, hace = disco.Reemplaza](const std::vector<model::CambioArchivo>& cambios) {
+        for (const model::CambioArchivo& cambio : cambios)
+            exige(cambio.ruta);
+        hace(cambios);
+    };
+    disco.Recupera = [exige, hace = disco.Recupera](const std::string& directorio) {
+        exige(directorio);
+        return hace(directorio);
+    };
     disco.Agrega = [exige, hace = disco.Agrega](const std::string& ruta, std::string_view bytes) {
         exige(ruta);
         hace(ruta, bytes);
