@@ -69,14 +69,15 @@ std::string EntreComillas(std::string_view texto, std::string_view queEs)
     return '"' + std::string(texto) + "\" " + std::string(queEs);
 }
 
-/// Why a text can't come to a cell; nothing where it can. What a cell holds already may come back to it, and
-/// one that can't be edited is passed over.
+/// Why a text can't come to a cell; nothing where it can. What a cell holds already may stay in it, and one
+/// that can't be edited is passed over.
 std::optional<std::string> PorQueNoCabe(const Grilla& g, const Pedido& p, LecturaNumeros lectura)
 {
     if (p.celda.fila > g.NroFilas()) return std::string(FilaNoEsta);
     if (p.celda.columna >= g.NroColumnas()) return std::string(ColumnaNoEsta);
-    if (p.texto.empty() || !SePuedeEditar(g, p.celda) || EsElMismo(g, p)) return {};
+    if (p.texto.empty() || !SePuedeEditar(g, p.celda)) return {};
     const auto numero = LeeNumero(p.texto, lectura);
+    if (EsElMismo(g, p) && numero.value_or(std::string(p.texto)) == p.texto) return {};
     if (!numero) return EntreComillas(p.texto, NoEsNumero);
     if (const LimiteColumna* limite = LimiteRoto(*g.reglas, p.celda.columna, *numero))
         return std::string(limite->mensaje);
@@ -144,13 +145,13 @@ bool Rechaza(const Grilla& g, const Siro& s, const std::vector<Pedido>& pedidos,
     return false;
 }
 
-/// The readings of what is new in the cells that can be edited; this program's own numbers have one.
+/// The readings of what comes to cells that can be edited; this program's own numbers have one.
 std::vector<LecturaNumeros> LecturasDe(const Grilla& g, const std::vector<Pedido>& pedidos,
                                        OrigenBloque origen, std::vector<std::string_view>& textos)
 {
     if (origen == OrigenBloque::Propio) return {LecturaNumeros::SinMiles};
     for (const Pedido& p : pedidos)
-        if (SePuedeEditar(g, p.celda) && !EsElMismo(g, p)) textos.push_back(p.texto);
+        if (SePuedeEditar(g, p.celda)) textos.push_back(p.texto);
     return LecturasPosibles(textos);
 }
 
@@ -222,7 +223,7 @@ Efecto Pega(Grilla& g, const Siro& s, std::string_view bloque, OrigenBloque orig
         hasta = {std::max(hasta.fila, p.celda.fila), std::max(hasta.columna, p.celda.columna)};
         if (!SePuedeEditar(g, p.celda)) continue;
         paso.push_back({p.celda, g.Texto(p.celda)});
-        if (!EsElMismo(g, p)) g.Pon(p.celda, LeeNumero(p.texto, *lectura).value_or(std::string{}));
+        g.Pon(p.celda, LeeNumero(p.texto, *lectura).value_or(std::string(p.texto)));
         efecto.asentadas.push_back(p.celda);
     }
     Anota(g, std::move(paso));

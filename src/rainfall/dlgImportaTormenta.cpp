@@ -21,13 +21,20 @@ namespace {
 constexpr std::string_view TituloElige = "Elegir un registro de lluvia";
 constexpr std::string_view FiltroRegistro = "Registros de lluvia (*.csv) |*.csv";
 constexpr std::string_view NotasImportada = "Importada de ";
-constexpr std::string_view MarcaUtf8 = "\xEF\xBB\xBF";
+constexpr std::string_view UnDudoso = "; 1 renglón dudoso";
+constexpr std::string_view Dudosos = " renglones dudosos";
 
 constexpr int ColumnaFecha = 1;
 constexpr int ColumnaMinutos = 2;
 constexpr int ColumnaLamina = 3;
 constexpr forms::ReglasGrilla ReglasTabla{
     .encabezado = "^Nro.  |^                    t [hs:min]  |^  t [min] |^Pp Parcial ", .columnasFijas = 1};
+
+// The blanks give the columns their width.
+constexpr forms::ReglasGrilla ReglasDudosos{
+    .encabezado =
+        "^Renglón  |Texto                                             |"
+        "Qué tiene y qué se hace                                                "};
 
 /// Decimals of the totals that are shown.
 constexpr int DecimalesTotal = 2;
@@ -45,6 +52,12 @@ std::string TextoInstante(std::int64_t segundo)
 {
     const Instante t = segundo / MinutosPorHora;  // as many seconds in a minute
     return TextoFecha(t) + ' ' + TextoHora(t);
+}
+
+std::string CuentaDudosos(std::size_t n)
+{
+    if (n == 0) return {};
+    return n == 1 ? std::string(UnDudoso) : "; " + std::to_string(n) + std::string(Dudosos);
 }
 
 std::string DescribeRegistro(const std::vector<LecturaLluvia>& lecturas)
@@ -85,6 +98,13 @@ void LlenaGrilla(dlgImportaTormenta& f)
     }
 }
 
+void LlenaDudosos(dlgImportaTormenta& f)
+{
+    f.grillaDudosos = forms::NuevaGrilla(ReglasDudosos);
+    for (const auto& [nro, texto, hecho] : f.registro.dudosos)
+        f.grillaDudosos.filas.push_back({{std::to_string(nro), texto, hecho}});
+}
+
 /// Items: the steps of the model and the usual one of the record, in order.
 void LlenaPasos(dlgImportaTormenta& f)
 {
@@ -109,7 +129,6 @@ bool Abre(dlgImportaTormenta& f, const model::Siro& s)
         [&] { bytes = s.Disco.Lee(ruta); },
         [&](const model::Falla& falla) { model::Informa(s, model::TextoFallaArchivo(falla)); });
     if (!leido) return false;
-    if (bytes.starts_with(MarcaUtf8)) bytes.erase(0, MarcaUtf8.size());
     f.registro = LeeRegistroLluvia(bytes);
     if (!f.registro.motivo.empty()) {
         model::Advierte(s, f.registro.motivo);
@@ -117,8 +136,9 @@ bool Abre(dlgImportaTormenta& f, const model::Siro& s)
     }
     f.abierta = true;
     f.lblArchivo = NombreDeArchivo(ruta);
-    f.lblRegistro = DescribeRegistro(f.registro.lecturas);
+    f.lblRegistro = DescribeRegistro(f.registro.lecturas) + CuentaDudosos(f.registro.dudosos.size());
     f.grillaImportada = forms::NuevaGrilla(ReglasTabla);
+    LlenaDudosos(f);
     LlenaPasos(f);
     cmbPaso_Change(f);
     return true;

@@ -23,6 +23,7 @@ inline constexpr auto LeyendasDlgImportaTormenta = std::to_array<Leyenda>({
     {"lblRegistro",       "Registro:"},
     {"cmbPaso",           "&Paso t [min]:", "Cada lámina se reparte por igual desde la lectura anterior; el total se conserva"},
     {"lblResultado",      "Resultado:"},
+    {"grillaDudosos",     "Renglones dudosos del archivo"},
     {"grillaImportada",   "Vista previa: tormenta Pp[mm] - t [min]"},
     {"laminaImportada",   "Hietograma de la vista previa"},
     {"OKButton",          "&Importar"},
@@ -37,6 +38,7 @@ struct dlgImportaTormenta {
     ListaConTexto cmbPaso{};
     bool puedeImportar = false;  ///< the step does; otherwise lblResultado tells why not
     forms::Grilla grillaImportada{};
+    forms::Grilla grillaDudosos{};  ///< lines of the record that need a look, and what is made of each
     RegistroLluvia registro{};
     TormentaImportada tormenta{};
 };

@@ -5,6 +5,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -41,6 +42,7 @@ dlgImportaTormenta_ventana::dlgImportaTormenta_ventana(forms::Entorno& alrededor
     forms::Refleja(*cmbPaso, f.cmbPaso.texto);
     connect(cmbPaso, &QComboBox::editTextChanged, this, [this] { Suceso([this] { cmbPaso_Change(f); }); });
     lblResultado = dato("lblResultado");
+    pila->addWidget(MarcoDeDudosos());
 
     tabla = new forms::TablaGrilla(entorno, f.grillaImportada, "grillaImportada",
                                    piezas.De("grillaImportada").leyenda);
@@ -58,6 +60,23 @@ dlgImportaTormenta_ventana::dlgImportaTormenta_ventana(forms::Entorno& alrededor
     connect(cancela, &QPushButton::clicked, this, [this] { reject(); });
     botones->addWidget(cancela);
     pila->addLayout(botones);
+}
+
+/// What the user should look at before the storm is taken; hidden where there is nothing.
+QGroupBox* dlgImportaTormenta_ventana::MarcoDeDudosos()
+{
+    constexpr int Filas = 4;
+    QGroupBox* const marco = piezas.Marco("grillaDudosos");
+    dudosos =
+        new forms::TablaGrilla(entorno, f.grillaDudosos, "grillaDudosos", piezas.De("grillaDudosos").leyenda);
+    dudosos->horizontalHeader()->setStretchLastSection(true);
+    const int alto = dudosos->fontMetrics().height();
+    dudosos->verticalHeader()->setDefaultSectionSize(alto * 3 / 2);
+    dudosos->setFixedHeight(dudosos->horizontalHeader()->sizeHint().height() + 2 * dudosos->frameWidth() +
+                            Filas * dudosos->verticalHeader()->defaultSectionSize());
+    (new QVBoxLayout(marco))->addWidget(dudosos);
+    marco->setVisible(f.grillaDudosos.NroFilas() > 0);
+    return marco;
 }
 
 void dlgImportaTormenta_ventana::Abre()
@@ -80,6 +99,7 @@ void dlgImportaTormenta_ventana::Muestra()
     Pon(*cmbPaso, f.cmbPaso.items, f.cmbPaso.texto);
     Pon(*lblResultado, f.lblResultado);
     acepta->setEnabled(f.puedeImportar);
+    dudosos->Muestra();
     tabla->Muestra();
     lamina->Muestra(Vista(f));
     if (!f.abierta && isVisible()) done(f.aceptada ? QDialog::Accepted : QDialog::Rejected);

@@ -26,10 +26,12 @@ class dlgImportaTormenta_ventana : public forms::Formulario {
   private:
     dlgImportaTormenta& f;
     Piezas piezas{*this, LeyendasDlgImportaTormenta};
+    QGroupBox* MarcoDeDudosos();
+
     QLabel *lblArchivo = nullptr, *lblRegistro = nullptr, *lblResultado = nullptr;
     QComboBox* cmbPaso = nullptr;
     QPushButton* acepta = nullptr;
-    forms::TablaGrilla* tabla = nullptr;
+    forms::TablaGrilla *tabla = nullptr, *dudosos = nullptr;
     forms::Lamina* lamina = nullptr;
 };
 

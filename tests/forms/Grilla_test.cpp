@@ -564,12 +564,10 @@ TEST_F(UnaGrilla, UnNegativoNoSePegaComoNoSeTeclea)
 TEST_F(UnaGrilla, LoQueLaCeldaYaTieneVuelveAElla)
 {
     g.Pon({1, 1}, "-2");  // a height of a file
-    g.Pon({2, 1}, "2.345");
-    Pega(g, s, "-2\t1\n2.345\t2\n");
+    Pega(g, s, "-2\t1\n3\t2\n");
     EXPECT_TRUE(anfitrion->sucesos.empty());
     EXPECT_EQ(T(1, 1), "-2");
-    EXPECT_EQ(T(2, 1), "2.345");
-    EXPECT_EQ(T(2, 2), "2");
+    EXPECT_EQ(T(2, 1), "3");
 }
 
 // --- marks of thousands ---
@@ -592,6 +590,16 @@ TEST_F(UnaGrilla, ElPuntoAnteTresCifrasSePreguntaUnaVez)
                        "12.450 es 12.45",
                        "Números pegados", Icono::Pregunta}}));
     }
+}
+
+TEST_F(UnaGrilla, PegarDeNuevoPreguntaDeNuevo)
+{
+    anfitrion->respuestas = {false, true};
+    Pega(g, s, "2.300\n");
+    EXPECT_EQ(T(1, 1), "2.300");
+    Pega(g, s, "2.300\n");
+    EXPECT_EQ(T(1, 1), "2300");
+    EXPECT_EQ(anfitrion->Preguntas().size(), 2U);
 }
 
 TEST_F(UnaGrilla, ConUnaSolaCeldaDudosaElOtroEjemploEsDeLasDemas)
@@ -789,7 +797,7 @@ RC_GTEST_PROP(PropiedadesGrilla, LoCopiadoSePegaComoEstaba, ())
             std::erase(celda, ' ');
     const std::string bloque = Copia(g, false);
     const auto antes = g.filas;
-    Pega(g, s, bloque);
+    Pega(g, s, bloque, OrigenBloque::Propio);
     RC_ASSERT(g.filas == antes);
     RC_ASSERT(Copia(g, false) == bloque);
 }

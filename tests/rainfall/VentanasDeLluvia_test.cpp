@@ -263,6 +263,26 @@ TEST_F(VentanaPpReal, ElGraficoSePideConLoQueSeEscribe)
     EXPECT_EQ(pedidos, (std::vector<PedidoHietograma>{{3, 20, "Llovizna", 18.5F, 60}}));
 }
 
+TEST_F(VentanaPpReal, LaVistaPreviaMuestraLosRenglonesDudosos)
+{
+    disco.Pon("/proyectos/r.csv",
+              "t;P\n0x/03/2004 00:05;9\n01/03/2004 00:10;1\n01/03/2004 00:10;1\n01/03/2004 00:20;2\n");
+    mundo.anfitrion->elegidos = {"/proyectos/r.csv"};
+    Abre();
+    apoyo::Usuario usuario;
+    usuario.Hace([](QWidget& previa) {
+        auto& dudosos = Control<QTableView>(previa, "grillaDudosos");
+        EXPECT_TRUE(dudosos.isVisible());
+        ASSERT_EQ(dudosos.model()->rowCount(), 2);
+        EXPECT_EQ(DeQ(dudosos.model()->index(1, 0).data().toString()), "4");
+        EXPECT_EQ(DeQ(dudosos.model()->index(1, 2).data().toString()),
+                  "repite la hora y la lámina del anterior: no se toma");
+        Pulsa(Control<QPushButton>(previa, "OKButton"));
+    });
+    Pulsa(C<QPushButton>("cmdImporta"));
+    EXPECT_EQ(Texto("txtNroPpReal"), "2");
+}
+
 TEST_F(VentanaPpReal, UnRegistroSeImportaConVistaPrevia)
 {
     disco.Pon("/datos/r.csv", "fecha;mm\n17/02/1976 17:00;13\n17/02/1976 18:00;3,5\n");

@@ -769,6 +769,17 @@ TEST_F(DialogoPpReal, ElFinalDelNombreSeAgregaSiempre)
     EXPECT_TRUE(disco.Esta("/proyectos/tormenta_pt.vlm_pt.vlm"));
 }
 
+TEST_F(DialogoPpReal, LoDeshechoVuelveALaTormentaYALaSuma)
+{
+    Abre();
+    Teclea("9\n");
+    EXPECT_EQ(s.PpReal(1), 9.0F);
+    AlAsentar(f, s, forms::Deshace(G()));
+    EXPECT_EQ(s.PpReal(1), 5.0F);
+    EXPECT_EQ(Columna(4), (Textos{"5", "15", "17.5"}));
+    EXPECT_EQ(s.PpTormenta, 17.5F);
+}
+
 TEST_F(DialogoPpReal, UnaNuevaQueNoSePuedeEscribirDejaTodoComoEstaba)
 {
     Abre();

@@ -1,0 +1,229 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "rainfall/RegistroLluvia.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <limits>
+#include <optional>
+#include <utility>
+
+#include "model/Falla.h"
+#include "model/Numeros.h"
+#include "model/Texto.h"
+#include "rainfall/Calendario.h"
+#include "rainfall/RenglonesDeRegistro.h"
+
+namespace rainfall {
+namespace {
+
+constexpr std::int64_t SegundosPorMinuto = 60;
+constexpr std::int64_t SegundosPorHora = 3600;
+
+/// Where several part as many readings, the first.
+constexpr auto Separadores = std::to_array({';', '\t', ',', ' '});
+
+constexpr std::string_view Renglon = "Renglón ";
+constexpr std::string_view LaminaNegativa = ": la lámina es negativa.";
+constexpr std::string_view VuelveAtras = ": el tiempo es anterior al del renglón previo.";
+
+constexpr std::string_view SinFechaOLamina = "no tiene fecha, hora y lámina: no se toma";
+constexpr std::string_view Repetido = "repite la hora y la lámina del anterior: no se toma";
+constexpr std::string_view MismaHora = "repite la hora del anterior con otra lámina: se suman";
+
+bool EsCifra(char c)
+{
+    return c >= '0' && c <= '9';
+}
+
+bool SonCifras(std::string_view texto)
+{
+    return !texto.empty() && std::all_of(texto.begin(), texto.end(), EsCifra);
+}
+
+// --- date and time ---
+
+/// d/m/yyyy, d/m/yy or yyyy-m-d, with either mark.
+std::optional<Instante> Dia(std::string_view texto)
+{
+    constexpr std::size_t CifrasAnno = 4, CifrasCortas = 2;
+    std::string fecha(texto);
+    std::replace(fecha.begin(), fecha.end(), '-', '/');
+    const auto partes = CamposDeRenglon(fecha, '/');
+    if (partes.size() != 3) return {};
+    if (partes[0].size() == CifrasAnno)
+        return FechaDeTexto(
+            std::string(partes[2]).append("/").append(partes[1]).append("/").append(partes[0]));
+    if (partes[2].size() == CifrasAnno) return FechaDeTexto(fecha);
+    if (partes[2].size() != CifrasCortas) return {};
+    const char* const siglo = partes[2] < "50" ? "20" : "19";
+    return FechaDeTexto(
+        std::string(partes[0]).append("/").append(partes[1]).append("/").append(siglo).append(partes[2]));
+}
+
+/// A time without "Z" or "-03:00" at its end: it is taken as it was written where it was measured.
+std::string_view SinZona(std::string_view texto)
+{
+    constexpr std::size_t MinimoHora = 4;  // "h:mm"
+    if (texto.ends_with('Z')) return texto.substr(0, texto.size() - 1);
+    const std::size_t signo = texto.find_last_of("+-");
+    return signo == std::string_view::npos || signo < MinimoHora ? texto : texto.substr(0, signo);
+}
+
+/// Seconds since midnight of h:mm or h:mm:ss; 24:00 is the end of the day.
+std::optional<std::int64_t> HoraLlana(std::string_view texto)
+{
+    constexpr std::string_view FinDelDia = "24:00";
+    constexpr std::size_t LargoSegundos = 3;  // ":ss"
+    std::int64_t segundos = 0;
+    const std::size_t marca = texto.find(':');
+    const std::size_t otra = marca == std::string_view::npos ? marca : texto.find(':', marca + 1);
+    if (otra != std::string_view::npos) {
+        const std::string_view fraccion = texto.substr(std::min(otra + LargoSegundos, texto.size()));
+        const bool bienHecha =
+            fraccion.empty() || ((fraccion[0] == '.' || fraccion[0] == ',') && SonCifras(fraccion.substr(1)));
+        // Seconds have the limits of minutes.
+        const auto valor = HoraDeTexto(std::string("0").append(texto.substr(otra, LargoSegundos)));
+        if (!valor || !bienHecha) return {};
+        segundos = *valor;
+        texto = texto.substr(0, otra);
+    }
+    if (texto == FinDelDia && segundos == 0) return MinutosPorDia * SegundosPorMinuto;
+    const auto minutos = HoraDeTexto(texto);
+    if (!minutos) return {};
+    return *minutos * SegundosPorMinuto + segundos;
+}
+
+/// The same with "am" or "pm" behind it, and a time zone.
+std::optional<std::int64_t> Hora(std::string_view texto)
+{
+    constexpr std::int64_t MedioDia = 12 * SegundosPorHora;
+    texto = SinZona(texto);
+    const bool esAm = texto.ends_with("am"), esPm = texto.ends_with("pm");
+    if (!esAm && !esPm) return HoraLlana(texto);
+    texto.remove_suffix(2);
+    const auto segundos = HoraLlana(texto);
+    if (!segundos || *segundos < SegundosPorHora || *segundos >= MedioDia + SegundosPorHora) return {};
+    return *segundos % MedioDia + (esPm ? MedioDia : 0);
+}
+
+std::optional<std::int64_t> Momento(std::string_view fecha, std::string_view hora)
+{
+    const auto dia = Dia(fecha);
+    const auto segundos = Hora(hora);
+    if (!dia || !segundos) return {};
+    return *dia * SegundosPorMinuto + *segundos;
+}
+
+// --- readings ---
+
+std::optional<double> Lamina(std::string_view texto)
+{
+    std::optional<double> x;
+    try {
+        x = model::NumeroEntero(model::ComasAPuntos(texto));
+    } catch (const model::Falla&) {
+        return {};
+    }
+    const bool esSimple = x && std::fabs(*x) <= double{std::numeric_limits<float>::max()};
+    return esSimple ? x : std::nullopt;
+}
+
+/// The field where the reading begins: a number of the line may stand ahead.
+std::size_t Primero(const std::vector<std::string>& campos)
+{
+    return campos.size() > 1 && SonCifras(campos[0]) ? 1 : 0;
+}
+
+/// A reading; nothing where the line is none.
+std::optional<LecturaLluvia> Lectura(const std::vector<std::string>& campos)
+{
+    const std::size_t primero = Primero(campos);
+    const std::string_view fecha = campos[primero];
+    const std::size_t corte = fecha.find_first_of(" T");
+    const bool juntas = corte != std::string_view::npos;
+    const std::size_t campoLamina = primero + (juntas ? 1 : 2);
+    if (campos.size() <= campoLamina) return {};
+    const std::string_view resto = juntas ? fecha.substr(corte + 1) : std::string_view(campos[primero + 1]);
+    const auto segundo =
+        Momento(fecha.substr(0, corte), resto.substr(std::min(resto.find_first_not_of(' '), resto.size())));
+    const auto lamina = Lamina(campos[campoLamina]);
+    if (!segundo || !lamina) return {};
+    return LecturaLluvia{*segundo, *lamina};
+}
+
+/// Whether a line ahead of all readings has a date or a time where a reading has them.
+bool PareceLectura(const std::vector<std::string>& campos)
+{
+    const auto conMarca = [](std::string_view campo) {
+        for (std::size_t i = 1; i + 1 < campo.size(); ++i)
+            if (EsCifra(campo[i - 1]) && EsCifra(campo[i + 1]) &&
+                std::string_view("/-:").find(campo[i]) != std::string_view::npos)
+                return true;
+        return false;
+    };
+    const std::size_t primero = Primero(campos);
+    return primero + 1 < campos.size() && (conMarca(campos[primero]) || conMarca(campos[primero + 1]));
+}
+
+char SeparadorDe(const std::vector<std::string>& renglones)
+{
+    const auto cuenta = [&](char separador) {
+        return std::count_if(renglones.begin(), renglones.end(), [separador](const std::string& renglon) {
+            return Lectura(CamposDeRenglon(renglon, separador)).has_value();
+        });
+    };
+    std::pair mejor{Separadores.front(), cuenta(Separadores.front())};
+    for (const char separador : Separadores)
+        if (const auto n = cuenta(separador); n > mejor.second) mejor = {separador, n};
+    return mejor.first;
+}
+
+/// Why a reading can't follow those before it; nothing where it can.
+std::string_view Reparo(const LecturaLluvia& lectura, const std::vector<LecturaLluvia>& previas)
+{
+    if (lectura.lamina < 0) return LaminaNegativa;
+    if (!previas.empty() && lectura.segundo < previas.back().segundo) return VuelveAtras;
+    return {};
+}
+
+}  // namespace
+
+RegistroLluvia LeeRegistroLluvia(std::string_view bytes)
+{
+    constexpr std::size_t LargoMostrado = 80;
+    const std::string texto = TextoDeBytes(bytes);
+    std::vector<std::string> renglones;
+    for (const std::string_view renglon : Renglones(texto))
+        renglones.push_back(ConMeridianoPegado(renglon));
+    const char separador = SeparadorDe(renglones);
+
+    RegistroLluvia registro;
+    int nro = 0;
+    for (const std::string& renglon : renglones) {
+        ++nro;
+        if (renglon.find_first_not_of(" \t,;\"") == std::string::npos) continue;
+        const auto duda = [&](std::string_view hecho) {
+            registro.dudosos.push_back(
+                {nro, model::PrimerosCaracteres(renglon, LargoMostrado), std::string(hecho)});
+        };
+        const auto campos = CamposDeRenglon(renglon, separador);
+        const auto lectura = Lectura(campos);
+        if (!lectura) {
+            if (!registro.lecturas.empty() || PareceLectura(campos)) duda(SinFechaOLamina);
+            continue;
+        }
+        const std::string_view reparo = Reparo(*lectura, registro.lecturas);
+        if (!reparo.empty()) return {{}, {}, std::string(Renglon).append(std::to_string(nro)).append(reparo)};
+        const bool mismaHora =
+            !registro.lecturas.empty() && lectura->segundo == registro.lecturas.back().segundo;
+        const bool repetido = mismaHora && *lectura == registro.lecturas.back();
+        if (mismaHora) duda(repetido ? Repetido : MismaHora);
+        if (!repetido) registro.lecturas.push_back(*lectura);
+    }
+    if (registro.lecturas.empty()) registro.motivo = SinLecturas;
+    return registro;
+}
+
+}  // namespace rainfall

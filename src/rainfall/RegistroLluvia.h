@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// A record of rain, such as a rain gauge's logger writes it.
+//
+// The record is text with a reading per line: date and time, in one field or two, and the depth fallen since
+// the reading before; a number of the reading may stand ahead. Fields are parted by semicolons, tabs, commas
+// or blanks, whichever makes most readings of the text, and may stand in double quotes. Dates are dd/mm/yyyy,
+// dd/mm/yy (1950 to 2049) or yyyy-mm-dd, times hh:mm or hh:mm:ss, with AM or PM; fractions of a second and a
+// time zone are passed over. What stands ahead of the first reading is a heading; further fields and empty
+// lines are passed over.
+namespace rainfall {
+
+struct LecturaLluvia {
+    std::int64_t segundo = 0;  ///< since 01/01/0001 00:00
+    double lamina = 0;         ///< fallen since the reading before [mm]
+    bool operator==(const LecturaLluvia&) const = default;
+};
+
+/// A line that is no reading but looks like one, or one that the user should look at.
+struct RenglonDudoso {
+    int nro = 0;  ///< of the line, from 1
+    std::string texto{};
+    std::string hecho{};  ///< what is doubtful, and what is made of it
+    bool operator==(const RenglonDudoso&) const = default;
+};
+
+struct RegistroLluvia {
+    std::vector<LecturaLluvia> lecturas{};
+    std::vector<RenglonDudoso> dudosos{};
+    std::string motivo{};  ///< why the text is no record, with the line; empty: it is one
+};
+
+/// Reads the bytes of a record: UTF-8, Windows-1252 or UTF-16, with the line ends of any platform. Readings
+/// must not go back in time nor be below 0; where one is at fault there are none.
+RegistroLluvia LeeRegistroLluvia(std::string_view bytes);
+
+/// What there is to be said of a text without any reading.
+inline constexpr std::string_view SinLecturas =
+    "El archivo no tiene ningún renglón con fecha, hora y lámina.";
+
+}  // namespace rainfall
