@@ -306,7 +306,7 @@ TEST_F(EditorDeTabla, EscDejaLaCeldaYDespuesLaForma)
         forms::TablaGrilla& uehs = Grilla(forma, "MSFlexGridEditUEHs");
         Clic(uehs, 1, 5);
         QTest::keyClicks(&uehs, QStringLiteral("12"));
-        QTest::keyClick(&uehs, Qt::Key_Escape);
+        QTest::keyClick(forma.windowHandle(), Qt::Key_Escape);
         EXPECT_TRUE(forma.isVisible());
         EXPECT_EQ(Celda(uehs, 1, 5), "12");
         QTest::keyClicks(&uehs, QStringLiteral("3"));  // come to anew
