@@ -82,10 +82,12 @@ dlgEmpiricas_ventana::dlgEmpiricas_ventana(forms::Entorno& alrededor, dlgEmpiric
     izquierda->addWidget(ConstruyeDatosTc());
     izquierda->addWidget(ConstruyeTc());
     izquierda->addStretch(1);
-    izquierda->addLayout(botones);
-    auto* const lados = new QHBoxLayout(this);
+    auto* const lados = new QHBoxLayout;
     lados->addLayout(izquierda);
     lados->addWidget(ConstruyeQp(), 1);
+    auto* const pila = new QVBoxLayout(this);
+    pila->addLayout(lados, 1);
+    pila->addLayout(botones);
     setTabOrder(Qp.back(), cmdCopiar);
     setTabOrder(cmdCopiar, btnCerrar);
 

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "forms/Formulario_ventana.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMdiSubWindow>
 #include <utility>
 
+#include "forms/Pantalla_ventana.h"
 #include "forms/Textos_ventana.h"
 
 namespace forms {
@@ -48,6 +50,15 @@ void GuardaLugar(const QWidget& ventana, QSettings& ajustes)
     ajustes.setValue(Clave(ventana), Marco(ventana).saveGeometry());
 }
 
+void GuardaLugares(QSettings& ajustes)
+{
+    for (const QWidget* const ventana : QApplication::allWidgets()) {
+        const bool deEstas = dynamic_cast<const Ventana*>(ventana) != nullptr ||
+                             dynamic_cast<const Formulario*>(ventana) != nullptr;
+        if (deEstas && ventana->isVisible()) GuardaLugar(*ventana, ajustes);
+    }
+}
+
 bool Sucesos::AtiendeF1(const QWidget& ventana, QEvent& evento)
 {
     const bool esTecla = evento.type() == QEvent::KeyPress;
@@ -78,9 +89,18 @@ bool Formulario::event(QEvent* evento)
     return AtiendeF1(*this, *evento) || QDialog::event(evento);
 }
 
+void Formulario::setVisible(bool visible)
+{
+    if (visible && !isVisible()) CabeEnPantalla(*this);
+    QDialog::setVisible(visible);
+}
+
 void Formulario::showEvent(QShowEvent* evento)
 {
-    if (!evento->spontaneous()) RecuperaLugar(*this, entorno.Ajustes());
+    if (!evento->spontaneous()) {
+        RecuperaLugar(*this, entorno.Ajustes());
+        TraeALaPantalla(*this);
+    }
     QDialog::showEvent(evento);
 }
 
@@ -107,9 +127,18 @@ void Ventana::closeEvent(QCloseEvent* evento)
     evento->accept();
 }
 
+void Ventana::setVisible(bool visible)
+{
+    if (visible && !isVisible() && isWindow()) CabeEnPantalla(*this);
+    QWidget::setVisible(visible);
+}
+
 void Ventana::showEvent(QShowEvent* evento)
 {
-    if (!evento->spontaneous() && !std::exchange(enSuLugar, true)) RecuperaLugar(*this, entorno.Ajustes());
+    if (!evento->spontaneous() && !std::exchange(enSuLugar, true)) {
+        RecuperaLugar(*this, entorno.Ajustes());
+        TraeALaPantalla(*this);
+    }
     QWidget::showEvent(evento);
 }
 

@@ -66,7 +66,8 @@ class Sucesos {
 };
 
 /// A dialog: modal while `Entorno::Ejecuta` shows it. Where the window was and how large, it is again at its
-/// next opening. Esc and the frame do what `AlCerrar` says, by default close it.
+/// next opening, as far as the screen has room for it. Esc and the frame do what `AlCerrar` says, by default
+/// close it.
 class Formulario : public QDialog, protected Sucesos {
   public:
     /// `nombre`: object name, by which tests find the window and its place is remembered.
@@ -74,6 +75,7 @@ class Formulario : public QDialog, protected Sucesos {
     using Sucesos::Muestra;
 
     void reject() override;
+    void setVisible(bool visible) override;
 
   protected:
     virtual void AlCerrar() { done(QDialog::Rejected); }
@@ -87,6 +89,8 @@ class Ventana : public QWidget, protected Sucesos {
   public:
     Ventana(Entorno& alrededor, std::string_view nombre, QWidget* padre = nullptr);
     using Sucesos::Muestra;
+
+    void setVisible(bool visible) override;
 
   protected:
     /// The frame's button, or the program closes the window.
@@ -104,5 +108,7 @@ class Ventana : public QWidget, protected Sucesos {
 /// it keeps the size that it has. `Guarda` remembers it, unless it fills the main window or is an icon there.
 void RecuperaLugar(QWidget& ventana, QSettings& ajustes);
 void GuardaLugar(const QWidget& ventana, QSettings& ajustes);
+/// The same for all forms and windows on show, as the program ends.
+void GuardaLugares(QSettings& ajustes);
 
 }  // namespace forms

@@ -5,7 +5,10 @@
 #include <QActionGroup>
 #include <QEvent>
 #include <QMenu>
+#include <QStyle>
 #include <algorithm>
+
+#include "forms/Pantalla_ventana.h"
 
 namespace shell {
 namespace {
@@ -54,9 +57,17 @@ QSize Area::PrimerTamano(const QWidget& ventana) const
     return pedido.expandedTo(ventana.sizeHint()).boundedTo(viewport()->size());
 }
 
+/// Room for a window within its frame [pixels].
+QSize Area::Lugar() const
+{
+    const int borde = style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
+    return viewport()->size() - QSize(2 * borde, borde + style()->pixelMetric(QStyle::PM_TitleBarHeight));
+}
+
 void Area::Presenta(QWidget& ventana)
 {
     QMdiSubWindow* hija = Hija(ventana);
+    forms::CabeEn(ventana, Lugar());
     if (hija == nullptr) {
         hija = addSubWindow(&ventana);
         hija->setAttribute(Qt::WA_DeleteOnClose, false);  // its window belongs to someone else
@@ -68,7 +79,8 @@ void Area::Presenta(QWidget& ventana)
     if (hija->isMinimized() || hija->isShaded()) hija->showNormal();
     hija->show();
     // How much room its controls take is known for sure only once they are on show.
-    if (!hija->isMaximized()) hija->resize(hija->size().expandedTo(hija->minimumSizeHint()));
+    if (!hija->isMaximized())
+        hija->resize(hija->size().boundedTo(viewport()->size()).expandedTo(hija->minimumSizeHint()));
     // Where it was left may be outside by now, and a new one is put beside the others though it doesn't fit.
     const QPoint ultimo(viewport()->width() - hija->width(), viewport()->height() - hija->height());
     if (!hija->isMaximized())

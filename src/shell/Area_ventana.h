@@ -24,6 +24,7 @@ class Area : public QMdiArea {
 
   private:
     [[nodiscard]] QMdiSubWindow* Hija(const QWidget& ventana) const;
+    [[nodiscard]] QSize Lugar() const;
     [[nodiscard]] QSize PrimerTamano(const QWidget& ventana) const;
     /// The window that was at the front before the one that has gone.
     void ActivaLaUltima();

@@ -66,6 +66,7 @@ int Escritorio::Atiende()
 {
     const int estado = entorno.Terminando() ? entorno.Estado() : QApplication::exec();
     ventanaPrincipal->GuardaLugar();
+    forms::GuardaLugares(entorno.Ajustes());
     return estado;
 }
 

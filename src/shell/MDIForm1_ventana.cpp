@@ -19,6 +19,7 @@
 #include <QVBoxLayout>
 #include <map>
 
+#include "forms/Pantalla_ventana.h"
 #include "forms/Textos_ventana.h"
 #include "model/VidaProyecto.h"
 #include "shell/Iconos_ventana.h"
@@ -182,6 +183,7 @@ void MDIForm1_ventana::Abre()
     restoreGeometry(entorno.Ajustes().value(QLatin1String(ClaveLugar)).toByteArray());
     restoreState(entorno.Ajustes().value(QLatin1String(ClaveBarras)).toByteArray());
     abierta = true;
+    forms::TraeALaPantalla(*this);
     show();
 }
 

@@ -7,10 +7,15 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QRadioButton>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QStyleFactory>
 #include <QTemporaryDir>
@@ -182,15 +187,42 @@ std::vector<std::string> SinNombre(QWidget& ventana)
 
 }  // namespace apoyo
 
+namespace {
+
+/// The screen that SIRO_PANTALLA asks for, its pixels and what is told of their density, "1920x1080@2";
+/// without it the platform's own.
+QByteArray Plataforma(const QString& carpeta)
+{
+    static const QRegularExpression forma(QStringLiteral("^([0-9]+)x([0-9]+)(?:@([0-9.]+))?$"));
+    const QRegularExpressionMatch pedida = forma.match(qEnvironmentVariable("SIRO_PANTALLA"));
+    if (!pedida.hasMatch()) return "offscreen";
+    // By the density alone: the platform's own factor would come on top of it.
+    const double escala = pedida.captured(3).isEmpty() ? 1 : pedida.captured(3).toDouble();
+    const QJsonObject pantalla{{QStringLiteral("name"), QStringLiteral("una")},
+                               {QStringLiteral("x"), 0},
+                               {QStringLiteral("y"), 0},
+                               {QStringLiteral("width"), pedida.captured(1).toInt()},
+                               {QStringLiteral("height"), pedida.captured(2).toInt()},
+                               {QStringLiteral("logicalDpi"), static_cast<int>(96 * escala)},
+                               {QStringLiteral("logicalBaseDpi"), 96},
+                               {QStringLiteral("dpr"), 1}};
+    QFile archivo(carpeta + QStringLiteral("/pantalla.json"));
+    if (archivo.open(QIODevice::WriteOnly))
+        archivo.write(QJsonDocument(QJsonObject{{QStringLiteral("screens"), QJsonArray{pantalla}}}).toJson());
+    return "offscreen:configfile=" + archivo.fileName().toUtf8();
+}
+
+}  // namespace
+
 int main(int argc, char** argv)
 {
     // Set here, so that a test program behaves the same from a shell, a debugger and ctest.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("LC_ALL", "C.UTF-8");
     testing::InitGoogleTest(&argc, argv);
     // What ctest asks for the list of the cases needs no screen.
     if (testing::GTEST_FLAG(list_tests)) return RUN_ALL_TESTS();
     const QTemporaryDir ajustes;
+    qputenv("QT_QPA_PLATFORM", Plataforma(ajustes.path()));
     qputenv("XDG_RUNTIME_DIR", ajustes.path().toUtf8());
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, ajustes.path());
     QApplication programa(argc, argv);

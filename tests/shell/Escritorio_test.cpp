@@ -209,6 +209,18 @@ TEST_F(EscritorioDePrueba, DosVentanasQueSePidenUnaAOtraNoSonDuenasUnaDeOtra)
     EXPECT_TRUE(apoyo::Espera([&] { return QApplication::activeWindow() == &una; }));
 }
 
+TEST_F(EscritorioDePrueba, LaVentanaQueSigueAbiertaAlTerminarTambienRecuerdaSuLugar)
+{
+    Arranca(instalacion.Quelmar());
+    Accion("mnuEmpiricos").trigger();
+    QTimer::singleShot(0, &escritorio.entorno, [&] { Accion("mnuSalir").trigger(); });
+    escritorio.s.Anfitrion.Termina = [] { throw model::FinDelPrograma{}; };
+    EXPECT_FALSE(escritorio.entorno.Ajustes().contains(QStringLiteral("ventanas/dlgEmpiricas")));
+    escritorio.Atiende();
+    EXPECT_TRUE(escritorio.entorno.Ajustes().contains(QStringLiteral("ventanas/dlgEmpiricas")));
+    escritorio.entorno.Ajustes().clear();
+}
+
 // As when the program ends while the form is open.
 TEST_F(EscritorioDePrueba, UnFormularioQueDesapareceSinTerminarNoSeLlevaLaVentanaQuePidio)
 {
