@@ -187,7 +187,7 @@ TEST_F(GuardadoFallido, CadaLlamadaAlDiscoQueFallaDejaLosArchivosEnterosYElDibuj
                 EXPECT_EQ(s.ColRepresas.Cuenta(), 2) << orden.que << ", call " << n;
                 EXPECT_EQ(Faltas(), Nombres{}) << orden.que << ", call " << n;
                 EXPECT_EQ(Avisos().size(), n > 1 && hubo ? 2U : 1U) << orden.que << ", call " << n;
-                if (n == 1) EXPECT_EQ(Archivos(), viejo) << orden.que;
+                EXPECT_TRUE(n > 1 || Archivos() == viejo) << orden.que;
                 // What is in memory can be saved as it is.
                 editor::ToolbarUEHs_ButtonClick(f, s, Boton::GuardaUEHs);
                 model::LeeUEHs(s);

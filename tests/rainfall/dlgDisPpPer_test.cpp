@@ -396,11 +396,12 @@ TEST_F(DialogoDisPpPer, BorrarVaciaLaTablaYEscribeEnseguidaSinPreguntar)
               "2,0,0\r\n\"n1\"\r\n30,120\r\n40\r\n60\r\n\"\"\r\n5,1440\r\n\"n3\"\r\n0,0\r\n");
 }
 
-TEST_F(DialogoDisPpPer, UnaFallaAlEscribirSeInformaUnaVez)
+TEST_F(DialogoDisPpPer, UnaFallaAlEscribirSeInformaUnaVezYAceptarNoCierra)
 {
     Abre(1);
     disco.Protege(Ruta);
-    cmdAplicar(f, s);
+    OKButton(f, s);
+    EXPECT_TRUE(f.abierta);
     EXPECT_EQ(Avisos(),
               (std::vector<Mensaje>{
                   {"Error Nro. 75Error de acceso a la ruta o al archivo ,Verifique", "", Icono::Ninguno}}));

@@ -172,6 +172,20 @@ TEST_F(DialogoTablasPDRs, LaTablaCeroNoSeEdita)
     EXPECT_TRUE(Avisos().empty());
 }
 
+TEST_F(DialogoTablasPDRs, AceptarNoCierraSiElDiscoRechazaLaTabla)
+{
+    Aplica(1, "10\t5\t2");
+    const std::string antes = disco.Bytes(Ruta);
+    disco.Protege(Ruta);
+    OKButton(f, pp, s);
+    EXPECT_TRUE(f.abierta);
+    EXPECT_EQ(Avisos().size(), 1U);
+    EXPECT_EQ(disco.Bytes(Ruta), antes);
+    disco.Protege(Ruta, false);
+    OKButton(f, pp, s);
+    EXPECT_FALSE(f.abierta);
+}
+
 TEST_F(DialogoTablasPDRs, AplicarLaTablaCeroCargaLaSerieYNoEscribe)
 {
     Abre(0);

@@ -35,6 +35,21 @@ TEST_F(Arranque, SinPunteroNoHayProyectoNiUltimoArchivoYSeEscribeElDirectorioPor
     EXPECT_EQ(disco.Bytes(Puntero), BytesPuntero(Proyectos, ""));
 }
 
+// The mark of a delivery that found no room.
+TEST_F(Arranque, LoQueNoSePudoCopiarSeDice)
+{
+    Arranca();
+    EXPECT_TRUE(anfitrion->Avisos().empty());
+    disco.Pon(model::Ruta(s.DirTrabajo, "siro_entrega.tmp"), "");
+    Arranca();
+    ASSERT_EQ(anfitrion->Avisos().size(), 1U);
+    EXPECT_EQ(
+        anfitrion->Avisos()[0].texto,
+        "No se pudieron copiar todos los archivos que trae el programa, tal vez por falta de lugar en el "
+        "disco. Se intentará otra vez en el próximo arranque. Carpeta: " +
+            s.DirTrabajo);
+}
+
 TEST_F(Arranque, ElUltimoProyectoSeOfreceYNoSeAbre)
 {
     disco.Pon(Puntero, BytesPuntero(Proyectos, "Mio"));

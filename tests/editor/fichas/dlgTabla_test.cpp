@@ -473,6 +473,22 @@ TEST_F(EditorDeTablas, AceptarAplicaRecuerdaGuardarYCierra)
                                      "", Icono::Exclamacion}}));
 }
 
+TEST_F(EditorDeTablas, AceptarNoCierraSiElDiscoRechazaLaTabla)
+{
+    AbreTabla();
+    Fila(1, {"9", "1", "900"});
+    disco.FallaEn(2, model::NumeroFalla::AccesoRuta);  // 1: the directory
+    OKButton(f, s);
+    EXPECT_TRUE(f.abierta);
+    EXPECT_EQ(Textos(),
+              (std::vector<std::string>{"Error Nro. 75Error de acceso a la ruta o al archivo ,Verifique"}));
+    EXPECT_EQ(Archivo("_RHAS.vlm"), RHAS);
+    EXPECT_EQ(T(1, 1), "9");
+    OKButton(f, s);
+    EXPECT_FALSE(f.abierta);
+    EXPECT_NE(Archivo("_RHAS.vlm"), RHAS);
+}
+
 TEST_F(EditorDeTablas, AceptarCierraAunqueLaTablaSeRechace)
 {
     AbreTabla();
