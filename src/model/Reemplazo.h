@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <filesystem>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 #include "model/Disco.h"
@@ -24,6 +26,11 @@ inline constexpr std::string_view NotaEnlace =
 /// See Disco::Reemplaza. Where a folder takes no new file, but lets the old ones be written, they are written
 /// in place; so is what is no plain file, a device for one.
 void ReemplazaArchivos(const LlamadasDisco& llamadas, const std::vector<CambioArchivo>& cambios);
+
+/// Puts a temporary in the place of a file. Where the folder lets the file's name be given to nothing else,
+/// as a shared one does with what another user owns, the bytes go into the file where it stands.
+std::error_code PoneTemporal(const LlamadasDisco& llamadas, const std::filesystem::path& temporal,
+                             const std::filesystem::path& destino);
 
 /// See Disco::Recupera. What belongs to another program that is running is left to it.
 Recuperacion RecuperaCarpeta(const LlamadasDisco& llamadas, const std::string& directorio);

@@ -103,7 +103,7 @@ class Recuperador {
             std::error_code error;
             if (!fs::is_regular_file(fs::symlink_status(temporal, error))) continue;
             const std::string& nombre = (*nombres)[i];
-            const bool puesto = !llamadas.Renombra(temporal, carpeta / Camino(nombre));
+            const bool puesto = !PoneTemporal(llamadas, temporal, carpeta / Camino(nombre));
             (puesto ? hecho.completados : hecho.pendientes).push_back(nombre);
             completa = completa && puesto;
         }

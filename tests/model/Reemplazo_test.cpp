@@ -88,7 +88,8 @@ TEST_F(ReemplazoReal, CadaLlamadaNegadaDejaTodoViejoOTodoNuevo)
             }
             EXPECT_LT(n, MuchasLlamadas) << caso.que;
             EXPECT_GE(n, 4) << caso.que << ": create, rename, settle, and none more";
-            EXPECT_GE(fallidas, 1) << caso.que;
+            // What may not be made or renamed is written in place.
+            EXPECT_TRUE(fallidas >= 1 || error == std::errc::permission_denied) << caso.que;
         }
 }
 
@@ -155,7 +156,7 @@ TEST_F(ReemplazoReal, LoQueNoSePuedeCompletarQuedaParaLaProximaVez)
     fallas::PonContenido(carpeta.Camino(), caso.viejo);
     EXPECT_EQ(fallas::EnOtroProceso([&] { Reemplaza(caso.nuevo, fallas::Llamadas({.llamada = 5})); }),
               Fin::Matado);
-    const auto negada = fallas::Llamadas({.llamada = 1, .error = std::errc::permission_denied});
+    const auto negada = fallas::Llamadas({.llamada = 1, .error = std::errc::io_error});
     EXPECT_EQ(RecuperaCarpeta(negada, carpeta.Camino().string()), (Recuperacion{{"b"}, {"a"}}));
     EXPECT_EQ(RecuperaCarpeta(LlamadasDelSistema(), carpeta.Camino().string()), (Recuperacion{{"a"}, {}}));
     EXPECT_EQ(Queda(), caso.nuevo);
@@ -215,6 +216,23 @@ TEST_F(ReemplazoReal, EnSitioUnDiscoLlenoDejaLoViejo)
     chmod(carpeta.Camino().c_str(), 0755);
     EXPECT_EQ(fin, Fin::Entero);
     EXPECT_EQ(Queda(), viejo);
+}
+
+// A folder for all, where nobody may take another's file away.
+TEST_F(ReemplazoReal, EnUnaCarpetaCompartidaElArchivoDeOtroSeEscribeEnSitio)
+{
+    if (geteuid() != 0) GTEST_SKIP() << "only an administrator can make a file of another user's";
+    fallas::PonContenido(carpeta.Camino(), {{"a", "viejo"}, {"b", "otro"}});
+    chmod(En("a").c_str(), 0666);
+    chmod(En("b").c_str(), 0666);
+    chmod(carpeta.Camino().c_str(), 01777);
+    const Contenido nuevo{{"a", "nuevo y más largo"}, {"b", "x"}, {"c", "propio"}};
+    const Fin fin = fallas::EnOtroProceso([&] {
+        if (!SinPrivilegios()) _exit(2);
+        Reemplaza(nuevo, LlamadasDelSistema());
+    });
+    EXPECT_EQ(fin, Fin::Entero);
+    EXPECT_EQ(Queda(), nuevo);
 }
 
 TEST_F(ReemplazoReal, UnArchivoProtegidoNoSeReemplaza)
