@@ -33,6 +33,8 @@ void FormasDeComponentes::AbreRepresa()
         const TipoTabla tipo = pedido == PedidoFicha::dlgTablaFQ ? TipoTabla::FQ : TipoTabla::SHV;
         dlgTabla_ventana(entorno, tabla, tipo, &ventana)
             .Abre(represa.lblNroRepresa, represa.lblNombreRepresa);
+        AlVolver(represa, entorno.s);
+        ventana.Muestra();
     };
     ventana.Abre();
 }

@@ -5,13 +5,19 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMdiSubWindow>
+#include <string>
 #include <utility>
 
 #include "forms/Pantalla_ventana.h"
 #include "forms/Textos_ventana.h"
+#include "model/Avisos.h"
 
 namespace forms {
 namespace {
+
+constexpr std::string_view TituloSinAplicar = "Cambios sin aplicar";
+constexpr std::string_view PreguntaSinAplicar =
+    "Lo que se escribió en esta ventana no se ha aplicado y se perdería. ¿Desea cerrarla igual ?";
 
 QString Clave(const QWidget& ventana)
 {
@@ -59,6 +65,17 @@ void GuardaLugares(QSettings& ajustes)
     }
 }
 
+void MarcaTitulo(QWidget& ventana, bool conTrabajo)
+{
+    if (ventana.isWindowModified() == conTrabajo) return;
+    const QString marca = QStringLiteral("[*]");
+    QString titulo = ventana.windowTitle();
+    // The toolkit warns of a mark for which the title has no place.
+    if (conTrabajo) ventana.setWindowTitle(titulo + marca);
+    ventana.setWindowModified(conTrabajo);
+    if (!conTrabajo) ventana.setWindowTitle(titulo.remove(marca));
+}
+
 bool Sucesos::AtiendeF1(const QWidget& ventana, QEvent& evento)
 {
     const bool esTecla = evento.type() == QEvent::KeyPress;
@@ -81,11 +98,24 @@ void Formulario::reject()
 {
     if (entorno.Terminando()) return QDialog::reject();
     campos.Olvida();
-    entorno.Atiende([this] { AlCerrar(); });
+    entorno.Atiende([this] {
+        if (HayTrabajo() && !model::Consulta(entorno.s, std::string(PreguntaSinAplicar), TituloSinAplicar))
+            return;
+        AlCerrar();
+    });
+}
+
+bool Formulario::HayTrabajo()
+{
+    bool hay = false;
+    model::Sentencia([&] { hay = isVisible() && SinAplicar(); }, [](const model::Falla&) {});
+    return hay;
 }
 
 bool Formulario::event(QEvent* evento)
 {
+    // Whatever is typed is painted: the mark follows.
+    if (evento->type() == QEvent::UpdateRequest && !entorno.Terminando()) MarcaTitulo(*this, HayTrabajo());
     return AtiendeF1(*this, *evento) || QDialog::event(evento);
 }
 

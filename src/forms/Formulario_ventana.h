@@ -65,9 +65,13 @@ class Sucesos {
     Campos campos;
 };
 
+/// Shows in a window's title, by the desktop's own mark, that it holds unsaved work; without any it bears its
+/// title and nothing else.
+void MarcaTitulo(QWidget& ventana, bool conTrabajo);
+
 /// A dialog: modal while `Entorno::Ejecuta` shows it. Where the window was and how large, it is again at its
 /// next opening, as far as the screen has room for it. Esc and the frame do what `AlCerrar` says, by default
-/// close it.
+/// close it; work that wasn't applied is asked about first, and the title marks it.
 class Formulario : public QDialog, protected Sucesos {
   public:
     /// `nombre`: object name, by which tests find the window and its place is remembered.
@@ -79,9 +83,14 @@ class Formulario : public QDialog, protected Sucesos {
 
   protected:
     virtual void AlCerrar() { done(QDialog::Rejected); }
+    /// Whether it holds what was typed and not applied. May throw Falla.
+    virtual bool SinAplicar() { return false; }
     bool event(QEvent* evento) override;
     void showEvent(QShowEvent* evento) override;
     void hideEvent(QHideEvent* evento) override;
+
+  private:
+    bool HayTrabajo();
 };
 
 /// A window that stands beside the others.

@@ -7,7 +7,7 @@ namespace forms {
 
 ListaParaElegir::ListaParaElegir(QWidget* padre) : QListWidget(padre)
 {
-    connect(this, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) { AlElegir(row(item)); });
+    connect(this, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) { Elige(row(item)); });
 }
 
 void ListaParaElegir::keyPressEvent(QKeyEvent* evento)
@@ -17,14 +17,24 @@ void ListaParaElegir::keyPressEvent(QKeyEvent* evento)
     case Qt::Key_Return:
     case Qt::Key_Space:
         evento->accept();
-        if (currentRow() >= 0) AlElegir(currentRow());
+        if (currentRow() >= 0) Elige(currentRow());
         return;
     default:
         break;
     }
     const int antes = currentRow();
     QListWidget::keyPressEvent(evento);
-    if (conFlechas && currentRow() >= 0 && currentRow() != antes) AlElegir(currentRow());
+    if (currentRow() < 0 || currentRow() == antes) return;
+    if (conFlechas)
+        Elige(currentRow());
+    else
+        porElegir = currentRow();
+}
+
+void ListaParaElegir::Elige(int fila)
+{
+    porElegir = -1;
+    AlElegir(fila);
 }
 
 }  // namespace forms

@@ -3,6 +3,7 @@
 
 #include <QListWidget>
 #include <functional>
+#include <utility>
 
 namespace forms {
 
@@ -18,8 +19,17 @@ class ListaParaElegir : public QListWidget {
     /// The arrows pick too, and not only move to an item: for lists whose items may be looked through.
     bool conFlechas = false;
 
+    /// The row that the arrows have come to and nobody has picked yet; -1: none. `TomaPorElegir` forgets it.
+    [[nodiscard]] int PorElegir() const { return porElegir; }
+    int TomaPorElegir() { return std::exchange(porElegir, -1); }
+
   protected:
     void keyPressEvent(QKeyEvent* evento) override;
+
+  private:
+    void Elige(int fila);
+
+    int porElegir = -1;
 };
 
 }  // namespace forms

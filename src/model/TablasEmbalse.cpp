@@ -129,6 +129,8 @@ class Registros {
         }
         return nullptr;
     }
+    /// The headers, and what is at fault, in the order of the file.
+    [[nodiscard]] const std::vector<Hallazgo>& Hallazgos() const { return hallazgos; }
     /// The numbers of a data line. Throws Falla 13, 6, and 62 where the file ends first.
     [[nodiscard]] std::array<float, MaxColumnas> Numeros(std::size_t registro) const
     {
@@ -325,7 +327,98 @@ bool GuardaTabla(Siro& s, const ArchivoTabla<T, Limite>& archivo)
     return salida.Cierra();
 }
 
+// --- blocks by name ---
+
+/// Does something with the description of a file.
+template <typename F>
+auto ConArchivo(ArchivoDeTablas archivo, F hace)
+{
+    switch (archivo) {
+    case ArchivoDeTablas::RHQ:
+        return hace(ArchivoRHQ);
+    case ArchivoDeTablas::LHASQ:
+        return hace(ArchivoLHASQ);
+    case ArchivoDeTablas::RHAS:
+        break;
+    }
+    return hace(ArchivoRHAS);
+}
+
+std::size_t CamposPorRegistro(ArchivoDeTablas archivo)
+{
+    return ConArchivo(archivo, [](const auto& a) { return a.columnas.size(); });
+}
+
+std::vector<BloqueDeTabla> Bloques(std::string bytes, std::size_t camposPorRegistro)
+{
+    const Registros registros(std::move(bytes), camposPorRegistro);
+    std::vector<BloqueDeTabla> bloques;
+    for (const auto& hallazgo : registros.Hallazgos())
+        if (!hallazgo.falla) bloques.push_back({hallazgo.marcador.substr(1), hallazgo.filas});
+    return bloques;
+}
+
 }  // namespace
+
+std::string NombreDeArchivo(const Siro& s, ArchivoDeTablas archivo)
+{
+    return s.NombreProyecto + ConArchivo(archivo, [](const auto& a) { return std::string(a.sufijo); });
+}
+
+std::vector<BloqueDeTabla> BloquesDe(const Siro& s, ArchivoDeTablas archivo)
+{
+    std::vector<BloqueDeTabla> bloques;
+    Sentencia(
+        [&] {
+            bloques = Bloques(s.Disco.Lee(Ruta(s.DirProyecto, NombreDeArchivo(s, archivo))),
+                              CamposPorRegistro(archivo));
+        },
+        [](const Falla&) {});
+    return bloques;
+}
+
+namespace {
+
+/// The bytes of a file with one header changed; nothing where there is nothing to change.
+std::optional<std::string> Renombrado(std::string bytes, std::size_t campos, std::string_view viejo,
+                                      std::string_view nuevo)
+{
+    for (const BloqueDeTabla& bloque : Bloques(bytes, campos))
+        if (bloque.nombre == nuevo) return {};
+    const std::string cabecera = AWindows1252(Marca + std::string(viejo));
+    LectorRegistros lector(bytes);
+    for (std::size_t n = 0; !lector.Fin(); ++n) {
+        const std::size_t desde = lector.Lugar();
+        const Campo campo = lector.Siguiente();
+        if (n % campos != 0 || campo.bytes != cabecera) continue;
+        // Between the field's beginning and its text stand blanks and a quote at the most.
+        bytes.replace(bytes.find(cabecera, desde), cabecera.size(), AWindows1252(Marca + std::string(nuevo)));
+        return bytes;
+    }
+    return {};
+}
+
+}  // namespace
+
+bool RenombraBloques(const Siro& s, std::span<const ArchivoDeTablas> archivos, std::string_view viejo,
+                     std::string_view nuevo)
+{
+    std::vector<CambioArchivo> cambios;
+    for (const ArchivoDeTablas archivo : archivos) {
+        const std::string ruta = Ruta(s.DirProyecto, NombreDeArchivo(s, archivo));
+        std::string bytes;
+        try {
+            bytes = s.Disco.Lee(ruta);
+        } catch (const Falla& falla) {
+            if (falla.numero != NumeroFalla::ArchivoNoEsta) throw;  // not every component has all its tables
+            continue;
+        }
+        if (auto otros = Renombrado(std::move(bytes), CamposPorRegistro(archivo), viejo, nuevo))
+            cambios.push_back({ruta, *std::move(otros)});
+    }
+    if (!cambios.empty()) s.Disco.Reemplaza(cambios);
+    return !cambios.empty();
+}
 
 void LeeTablaHSVRepresa(Siro& s)
 {

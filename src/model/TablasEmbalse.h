@@ -1,6 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
 namespace model {
 
 struct Siro;
@@ -17,5 +23,27 @@ void LeeTablaHSVQLago(Siro& s);    ///< LagoFilas, LagoH, LagoA, LagoS, LagoQ fr
 bool GuardaTablaHSVRepresa(Siro& s);
 bool GuardaTablaHQRepresa(Siro& s);
 bool GuardaTablaHSVQLago(Siro& s);
+
+/// A table file of the project.
+enum class ArchivoDeTablas : std::uint8_t { RHAS, RHQ, LHASQ };
+
+/// A block as its header in the file tells it.
+struct BloqueDeTabla {
+    std::string nombre{};
+    std::int16_t filas = 0;
+    bool operator==(const BloqueDeTabla&) const = default;
+};
+
+/// Name of the file in the project's directory.
+std::string NombreDeArchivo(const Siro& s, ArchivoDeTablas archivo);
+
+/// The blocks of a file in its order, nothing where it can't be read: its reader has told why.
+std::vector<BloqueDeTabla> BloquesDe(const Siro& s, ArchivoDeTablas archivo);
+
+/// Gives the first block of a name in each of these files another one, all of them or none; every other byte
+/// stays. A file that isn't there, has no such block, or one of the new name already, is left alone. Returns
+/// whether any was changed. Throws Falla 76, 75.
+bool RenombraBloques(const Siro& s, std::span<const ArchivoDeTablas> archivos, std::string_view viejo,
+                     std::string_view nuevo);
 
 }  // namespace model

@@ -176,10 +176,10 @@ void Pantalla::EsperaVentana(const std::string& titulo)
         const std::string activa = Activa();
         sinNadie = activa.empty() ? sinNadie + 1 : 0;
         if (sinNadie == MiradasSinNadie) {
-            Xdotool({"search", "--onlyvisible", "--name", '^' + titulo + '$', "windowactivate"});
+            Xdotool({"search", "--onlyvisible", "--name", '^' + titulo + "[*]?$", "windowactivate"});
             sinNadie = 0;
         }
-        return activa == titulo;
+        return activa == titulo || activa == titulo + '*';
     });
 }
 

@@ -49,7 +49,8 @@ class Pantalla {
 
     /// Title of the window that has the focus; empty where none has.
     [[nodiscard]] std::string Activa() const;
-    /// Waits for the window of this title; the test fails, with a picture, where it doesn't come.
+    /// Waits for the window of this title, be it marked for unsaved work; the test fails, with a picture,
+    /// where it doesn't come.
     void EsperaVentana(const std::string& titulo);
     /// Waits until something holds; the test fails, with a picture, where it doesn't come to hold.
     void EsperaA(const std::string& que, const std::function<bool()>& vale);

@@ -5,6 +5,7 @@
 #include <rapidcheck/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -325,6 +326,41 @@ TEST_F(TablasEmbalse, RenombrarSinReescribirDejaLasTablasHuerfanas)
     s.ColRepresas.Item(1).NombreRepresa = "r-nueva";
     LeeTablaHSVRepresa(s);
     EXPECT_EQ(s.RepresaFilasHAS(1), 0);
+}
+
+TEST_F(TablasEmbalse, LosBloquesDeUnArchivoSeNombranEnSuOrden)
+{
+    using Bloques = std::vector<BloqueDeTabla>;
+    Pon(RHAS, DosRepresas);
+    EXPECT_EQ(BloquesDe(s, ArchivoDeTablas::RHAS), (Bloques{{"r-1", 2}, {"r-2", 1}}));
+    EXPECT_EQ(BloquesDe(s, ArchivoDeTablas::RHQ), Bloques{});
+    EXPECT_EQ(Avisos(), Cajas{});
+}
+
+TEST_F(TablasEmbalse, UnBloqueCambiaDeNombreYNingunOtroByteCambia)
+{
+    constexpr auto Las = std::to_array({ArchivoDeTablas::RHAS, ArchivoDeTablas::RHQ});
+    const auto renombra = [&](std::string_view viejo, std::string_view nuevo) {
+        return RenombraBloques(s, Las, viejo, nuevo);
+    };
+    Pon(RHAS, DosRepresas);
+    EXPECT_TRUE(renombra("r-2", "r-Peña"));  // there is no other file
+    EXPECT_EQ(Bytes(RHAS),
+              "\"*r-1\",2,\"*\"\r\n0,0,0\r\n5.5,12.25,300000\r\n\"*r-Pe\xF1"
+              "a\",1,\"*\"\r\n7,8,9\r\n");
+    const std::string antes = Bytes(RHAS);
+    EXPECT_FALSE(renombra("r-2", "r-3"));     // there is none
+    EXPECT_FALSE(renombra("r-1", "r-Peña"));  // in use
+    EXPECT_EQ(Bytes(RHAS), antes);
+    // By hand: unquoted, blanks, the name once more in a place of its own.
+    Pon(RHQ, "  *r-1 ,1\n*r-1,2\n");
+    disco.Protege(RutaDe(RHQ));
+    EXPECT_THROW(renombra("r-1", "r-9"), Falla);  // both or none
+    EXPECT_EQ(Bytes(RHAS), antes);
+    disco.Protege(RutaDe(RHQ), false);
+    EXPECT_TRUE(renombra("r-1", "r-9"));
+    EXPECT_EQ(Bytes(RHQ), "  *r-9 ,1\n*r-1,2\n");
+    EXPECT_EQ(Bytes(RHAS).substr(0, 6), "\"*r-9\"");
 }
 
 TEST_F(TablasEmbalse, ElFinalDentroDeUnBloqueEsUnBloqueQueFalta)

@@ -24,6 +24,7 @@ namespace editor {
 struct Ficha {
     bool abierta = false;
     forms::Foco foco{};
+    bool operator==(const Ficha&) const = default;
 };
 
 /// Another form that this one asks for. The window opens it modally and comes back with `AlVolver`.
@@ -110,6 +111,17 @@ void MuestraIdentidad(Forma& f, model::Siro& s, const Reglas& reglas)
     f.*reglas.txtNombre = componente.*reglas.nombre;
     f.*reglas.listaDestinos = ListaDestinos(s, reglas.destinos, componente.Cauce_aa);
     (f.*reglas.lista).indice = s.*reglas.seleccion - 1;
+}
+
+/// Whether a form holds what its component doesn't: `muestra` shows a form the component anew.
+template <typename Forma, typename Muestra>
+bool Difiere(const Forma& f, Muestra muestra)
+{
+    if (!f.abierta) return false;
+    Forma limpia = f;
+    muestra(limpia);
+    limpia.foco = f.foco;
+    return !(limpia == f);
 }
 
 /// Takes the component of a line of the list in hand. Returns false where there is no such line.

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <optional>
 
+#include "model/Avisos.h"
 #include "model/Numeros.h"
 
 namespace editor {
@@ -69,6 +70,20 @@ bool SaleDeHInicialEmb(FichaEmbalse& f, const model::Siro& s, AlturasTabla altur
     f.txtHInicialEmb = regla.alRechazar;
     forms::Retiene(f, regla.control);
     return false;
+}
+
+void LlevaTablas(FichaEmbalse& f, const model::Siro& s, const TablasDeEmbalse& tablas,
+                 const std::string& nombre)
+{
+    const auto lleva = [&] {
+        const bool alguna = model::RenombraBloques(s, tablas.archivos, f.tablasDe, nombre);
+        f.tablasDe.clear();
+        f.lblTablas.clear();
+        if (alguna)
+            f.lblTablas = "Las tablas llevan ahora el nombre «" + nombre + "»: guarde la red en el editor.";
+    };
+    model::Sentencia(lleva,
+                     [&](const model::Falla& falla) { model::Informa(s, model::TextoFallaArchivo(falla)); });
 }
 
 void CierraConSeleccion(FichaEmbalse& f, model::Siro& s)

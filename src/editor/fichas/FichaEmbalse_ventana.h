@@ -6,6 +6,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QVBoxLayout>
 #include <functional>
 #include <string>
@@ -14,6 +15,7 @@
 
 #include "editor/fichas/FichaEmbalse.h"
 #include "editor/fichas/Ficha_ventana.h"
+#include "forms/Textos_ventana.h"
 
 namespace editor {
 
@@ -42,6 +44,24 @@ class FichaEmbalse_ventana : public Ficha_ventana<Forma> {
         this->Dato(grilla, c.lblNumero, c.numero);
         this->Dato(grilla, c.lblNombre, c.nombre);
         this->CampoNombre(grilla, c.txtNombre, c.texto, std::move(cambia), this->Sale(c.txtNombre));
+        Tablas(grilla);
+    }
+
+    /// Under the name, while there is something to say: what a rename has done to the tables, and the key
+    /// that takes them along.
+    void Tablas(QGridLayout& grilla)
+    {
+        QLabel* const linea = this->Texto("lblTablas", f.lblTablas);
+        linea->setWordWrap(true);
+        QPushButton* const lleva = this->Boton("cmdLlevaTablas", [this] { cmdLlevaTablas(f, entorno.s); });
+        lleva->setToolTip(forms::Q(AyudaLlevaTablas));
+        const int fila = grilla.rowCount();
+        grilla.addWidget(linea, fila, 0, 1, 2);
+        grilla.addWidget(lleva, fila, 2);
+        this->AlMostrar([this, linea, lleva] {
+            linea->setVisible(!f.lblTablas.empty());
+            lleva->setVisible(!f.tablasDe.empty());
+        });
     }
 
     /// `actual`: label of the destination in force, where the form has one.
@@ -56,7 +76,7 @@ class FichaEmbalse_ventana : public Ficha_ventana<Forma> {
     void Metodo(QGridLayout& grilla)
     {
         constexpr int Lineas = static_cast<int>(MetodosEmbalse.size());
-        this->RenglonDeLista(grilla, {"lstMetodo", f.lstMetodo, Lineas, "lblMetodo", &f.lblMetodo},
+        this->RenglonDeLista(grilla, {"lstMetodo", f.lstMetodo, Lineas, "lblMetodo", &f.lblMetodo, true},
                              [this](int linea) { lstMetodo_Click(f, linea); });
     }
 

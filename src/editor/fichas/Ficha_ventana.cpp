@@ -153,18 +153,27 @@ void PartesDeFicha::EsNumero(QLineEdit& campo, std::function<bool()> revisa)
 }
 
 forms::ListaParaElegir* PartesDeFicha::NuevaLista(std::string_view control, const Lista& lista,
-                                                  std::function<void(int)> elige)
+                                                  bool conFlechas, std::function<void(int)> elige)
 {
     auto* const visible = Nombra(new forms::ListaParaElegir, control);
-    visible->AlElegir = [this, elige = std::move(elige)](int linea) { Suceso([&] { elige(linea); }); };
-    AlMostrar([visible, &lista] { Pon(*visible, lista.items, lista.indice); });
+    visible->conFlechas = conFlechas;
+    visible->AlElegir = [this, elige](int linea) { Suceso([&] { elige(linea); }); };
+    if (!conFlechas)
+        campos.Agrega(*visible, [visible, elige] {
+            if (const int linea = visible->TomaPorElegir(); linea >= 0) elige(linea);
+            return true;
+        });
+    AlMostrar([visible, &lista] {
+        if (visible->PorElegir() < 0) Pon(*visible, lista.items, lista.indice);
+    });
     return visible;
 }
 
 void PartesDeFicha::RenglonDeLista(QGridLayout& grilla, const RenglonLista& renglon,
                                    std::function<void(int)> elige)
 {
-    forms::ListaParaElegir* const visible = NuevaLista(renglon.control, renglon.lista, std::move(elige));
+    forms::ListaParaElegir* const visible =
+        NuevaLista(renglon.control, renglon.lista, renglon.conFlechas, std::move(elige));
     const int alto = renglon.lineas * (visible->fontMetrics().height() + 2) + 2 * visible->frameWidth() + 2;
     visible->setMinimumHeight(alto);
     if (renglon.lineas <= LineasFijas) visible->setMaximumHeight(alto);
@@ -186,8 +195,7 @@ QWidget* PartesDeFicha::ListaDeComponentes(std::string_view control, const Lista
     auto* const cuadro = new QWidget;
     auto* const pila = new QVBoxLayout(cuadro);
     pila->setContentsMargins(0, 0, 0, 0);
-    forms::ListaParaElegir* const visible = NuevaLista(control, lista, std::move(elige));
-    visible->conFlechas = true;
+    forms::ListaParaElegir* const visible = NuevaLista(control, lista, true, std::move(elige));
     if (const QString leyenda = Q(Leyenda(control)); !leyenda.isEmpty()) {
         auto* const rotulo = new QLabel(leyenda);
         rotulo->setBuddy(visible);

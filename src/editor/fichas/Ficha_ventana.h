@@ -80,6 +80,8 @@ class PartesDeFicha : public forms::Formulario {
         int lineas;  ///< in sight at least; the list of few lines has just these
         std::string_view controlActual{};
         const std::string* actual = nullptr;
+        /// The arrows pick at once; otherwise what they have come to is picked when the list is left.
+        bool conFlechas = false;
     };
     /// The same at the end of a grid; picking an entry is an event, with its line from 0.
     void RenglonDeLista(QGridLayout& grilla, const RenglonLista& renglon, std::function<void(int)> elige);
@@ -91,7 +93,7 @@ class PartesDeFicha : public forms::Formulario {
     void Cierre(QVBoxLayout& pila, std::function<void()> acepta);
 
   private:
-    forms::ListaParaElegir* NuevaLista(std::string_view control, const Lista& lista,
+    forms::ListaParaElegir* NuevaLista(std::string_view control, const Lista& lista, bool conFlechas,
                                        std::function<void(int)> elige);
     void NombraWidget(QWidget& widget, std::string_view control) const;
     void PonFoco();
@@ -101,11 +103,16 @@ class PartesDeFicha : public forms::Formulario {
     std::vector<std::function<void()>> muestran{};
 };
 
-/// The opening of a form by its record's type, from where a window's own `Abre` hides it.
+/// Routines of a form by its record's type, from where a window's own ones of the same name hide them.
 template <typename Forma>
 void AbreRegistro(Forma& f, model::Siro& s)
 {
     Abre(f, s);
+}
+template <typename Forma>
+bool RegistroSinAplicar(const Forma& f, model::Siro& s)
+{
+    return SinAplicar(f, s);
 }
 
 /// The window of a property form: the record's routines are found by its type.
@@ -134,6 +141,8 @@ class Ficha_ventana : public PartesDeFicha {
         CancelButton(f, entorno.s);
         Muestra();
     }
+
+    bool SinAplicar() override { return RegistroSinAplicar(f, entorno.s); }
 
     /// Leaving a control.
     auto Sale(std::string_view control)

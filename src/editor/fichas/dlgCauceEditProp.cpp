@@ -119,6 +119,11 @@ void optMusk_Click(dlgCauceEditProp& f)
     f.optDirecta = false;
 }
 
+bool SinAplicar(const dlgCauceEditProp& f, Siro& s)
+{
+    return Difiere(f, [&](dlgCauceEditProp& limpia) { MuestraCauce(limpia, s); });
+}
+
 void OKButton(dlgCauceEditProp& f, Siro& s)
 {
     GuardaCauce(f, s);

@@ -60,6 +60,7 @@ struct dlgCauceEditProp : Ficha {
     std::string txtVelMediaCauce{};  ///< [m/s]
     std::string txtCauce_k_Musk{};   ///< [min]
     std::string txtCauce_n_Musk{};   ///< [-]
+    bool operator==(const dlgCauceEditProp&) const = default;
 };
 
 // clang-format off
@@ -99,6 +100,9 @@ void lstTributaCauce_Click(dlgCauceEditProp& f, model::Siro& s, int indice);
 // Routing of the reach. The Muskingum fields can be edited with either.
 void optDirecta_Click(dlgCauceEditProp& f);
 void optMusk_Click(dlgCauceEditProp& f);
+
+/// Whether the form holds what "Aceptar" would still have to store.
+bool SinAplicar(const dlgCauceEditProp& f, model::Siro& s);
 
 /// Stores the fields, clears the selection of UEH and Cauce and closes.
 void OKButton(dlgCauceEditProp& f, model::Siro& s);

@@ -33,9 +33,13 @@ void MuestraParametros(dlgLago& f, const Siro& s, int numero, std::string_view s
     f.lblParametros = s.LagoFilas(numero) >= 1 ? ConDatosEnTabla : sinDatos;
 }
 
-void MuestraLago(dlgLago& f, Siro& s)
+void BuscaSusTablas(dlgLago& f, const Siro& s)
 {
-    model::LeeTablaHSVQLago(s);
+    BuscaTablas(f, s, TablasDeLago, s.ColLagos, &Lago::NombreLAGO, s.LagoSel);
+}
+
+void MuestraCampos(dlgLago& f, Siro& s)
+{
     MuestraIdentidad(f, s, Reglas);
     Lago& lago = EnMano(s, Reglas);
     f.txtReferencia = lago.Referencia;
@@ -43,7 +47,14 @@ void MuestraLago(dlgLago& f, Siro& s)
     f.lblLagoCofk = RotuloDeK(f);
     forms::Muestra(f, lago, CamposDlgLago);
     f.txtHInicialEmb = model::NumeroATexto(lago.HInicialEmb);
-    MuestraParametros(f, s, lago.numLAGO, SinDatosEnTabla);
+}
+
+void MuestraLago(dlgLago& f, Siro& s)
+{
+    model::LeeTablaHSVQLago(s);
+    MuestraCampos(f, s);
+    MuestraParametros(f, s, EnMano(s, Reglas).numLAGO, SinDatosEnTabla);
+    BuscaSusTablas(f, s);
 }
 
 void GuardaLago(dlgLago& f, Siro& s)
@@ -77,7 +88,12 @@ bool txtNombreLAGO_Cambia(dlgLago& f, const Siro& s)
 
 bool AlSalir(dlgLago& f, Siro& s, std::string_view control)
 {
-    if (control == Reglas.controlNombre) return GuardaNombre(f, s, Reglas);
+    if (control == Reglas.controlNombre) {
+        const std::string antes = f.lblNombreLago;
+        const bool vale = GuardaNombre(f, s, Reglas);
+        if (f.lblNombreLago != antes) BuscaSusTablas(f, s);
+        return vale;
+    }
     if (control == ReglaHInicialEmb.control)
         return SaleDeHInicialEmb(f, s, AlturasDe(s.LagoFilas, s.LagoH, EnMano(s, Reglas).numLAGO));
     return forms::AlSalir(f, s, CamposDlgLago, control);
@@ -94,6 +110,14 @@ void lstMetodo_Click(dlgLago& f, int indice)
     if (EligeMetodo(f, indice)) f.lblLagoCofk = RotuloDeK(f);
 }
 
+void cmdLlevaTablas(dlgLago& f, Siro& s)
+{
+    const Lago& lago = EnMano(s, Reglas);
+    LlevaTablas(f, s, TablasDeLago, lago.NombreLAGO);
+    model::LeeTablaHSVQLago(s);
+    MuestraParametros(f, s, lago.numLAGO, SinDatosEnTabla);
+}
+
 PedidoFicha cmdParametros(const dlgLago& f)
 {
     return f.abierta ? PedidoFicha::dlgTablaSHVQ : PedidoFicha::Nada;
@@ -103,6 +127,12 @@ void AlVolver(dlgLago& f, const Siro& s)
 {
     if (!f.abierta || s.LagoSel <= 0) return;
     MuestraParametros(f, s, s.ColLagos.Ranura(s.LagoSel).numLAGO, SinDatosLeidos);
+    BuscaSusTablas(f, s);
+}
+
+bool SinAplicar(const dlgLago& f, Siro& s)
+{
+    return Difiere(f, [&](dlgLago& limpia) { MuestraCampos(limpia, s); });
 }
 
 void OKButton(dlgLago& f, Siro& s)

@@ -31,6 +31,7 @@ inline constexpr auto RotulosDlgLago = std::to_array<FilaRotulo>({
     {"cmdParametros",     "Cargar Parámetros Físicos"},
     {"fraIdentificacion", "Identificación de la depresión, mallín, laguna, lago"},
     {"fraAreaMetodo",     "Area de aportes y método de cálculo / propagación"},
+    {"cmdLlevaTablas",    LeyendaLlevaTablas},
     {"OKButton",          LeyendaAceptar},
     {"CancelButton",      LeyendaCancelar},
 });
@@ -49,6 +50,7 @@ struct dlgLago : FichaEmbalse {
     std::string txtReferencia{};
     std::string txtLago_k{}, lblLagoCofk{};  ///< [min]
     std::string lblParametros{};
+    bool operator==(const dlgLago&) const = default;
 };
 
 // clang-format off
@@ -79,11 +81,17 @@ void lstCauceAA_Click(dlgLago& f, model::Siro& s, int indice);
 /// A method is picked, from 0; it is stored with the fields.
 void lstMetodo_Click(dlgLago& f, int indice);
 
+/// The table that a rename has left behind takes the name of the Lago in hand.
+void cmdLlevaTablas(dlgLago& f, model::Siro& s);
+
 /// The button that opens the table.
 PedidoFicha cmdParametros(const dlgLago& f);
 
 /// The tables have been read with the form open: the form of the table does so.
 void AlVolver(dlgLago& f, const model::Siro& s);
+
+/// Whether the form holds what "Aceptar" would still have to store.
+bool SinAplicar(const dlgLago& f, model::Siro& s);
 
 /// Stores the fields, clears the selection and closes.
 void OKButton(dlgLago& f, model::Siro& s);

@@ -60,6 +60,11 @@ void MuestraRepresa(dlgRepresas& f, Siro& s)
     MuestraFunciones(f, represa);
 }
 
+void BuscaSusTablas(dlgRepresas& f, const Siro& s)
+{
+    BuscaTablas(f, s, TablasDeRepresa, s.ColRepresas, &Represa::NombreRepresa, s.RepresaSel);
+}
+
 float NumeroInicial(const std::string& texto)
 {
     return model::Simple(model::Val(model::ComasAPuntos(texto)));
@@ -99,12 +104,15 @@ void Abre(dlgRepresas& f, Siro& s)
     if (!AbreFicha(f, s, Reglas)) return;
     model::LeeTablaHSVRepresa(s);
     MuestraRepresa(f, s);
+    BuscaSusTablas(f, s);
 }
 
 void lstRepresas_Click(dlgRepresas& f, Siro& s, int indice)
 {
     GuardaRepresa(f, s);
-    if (TomaDeLista(f, s, Reglas, indice)) MuestraRepresa(f, s);
+    if (!TomaDeLista(f, s, Reglas, indice)) return;
+    MuestraRepresa(f, s);
+    BuscaSusTablas(f, s);
 }
 
 bool txtNombreRepresa_Cambia(dlgRepresas& f, const Siro& s)
@@ -114,7 +122,12 @@ bool txtNombreRepresa_Cambia(dlgRepresas& f, const Siro& s)
 
 bool AlSalir(dlgRepresas& f, Siro& s, std::string_view control)
 {
-    if (control == Reglas.controlNombre) return GuardaNombre(f, s, Reglas);
+    if (control == Reglas.controlNombre) {
+        const std::string antes = f.lblNombreRepresa;
+        const bool vale = GuardaNombre(f, s, Reglas);
+        if (f.lblNombreRepresa != antes) BuscaSusTablas(f, s);
+        return vale;
+    }
     if (control == ReglaHInicialEmb.control) {
         const int numero = EnMano(s, Reglas).numRepresa;
         return SaleDeHInicialEmb(f, s, AlturasDe(s.RepresaFilasHAS, s.RepresaH, numero));
@@ -155,6 +168,17 @@ void chkFQ_Click(dlgRepresas& f, int funcion, bool marcada)
     f.chkFQ[static_cast<std::size_t>(funcion) - 1] = marcada;
 }
 
+void cmdLlevaTablas(dlgRepresas& f, Siro& s)
+{
+    LlevaTablas(f, s, TablasDeRepresa, EnMano(s, Reglas).NombreRepresa);
+    model::LeeTablaHSVRepresa(s);
+}
+
+void AlVolver(dlgRepresas& f, const Siro& s)
+{
+    if (f.abierta && s.RepresaSel > 0) BuscaSusTablas(f, s);
+}
+
 PedidoFicha cmdHSV(const dlgRepresas& f)
 {
     return f.abierta ? PedidoFicha::dlgTablaSHV : PedidoFicha::Nada;
@@ -163,6 +187,11 @@ PedidoFicha cmdHSV(const dlgRepresas& f)
 PedidoFicha cmdTablaQ(const dlgRepresas& f)
 {
     return f.cmdTablaQHabilitado() ? PedidoFicha::dlgTablaFQ : PedidoFicha::Nada;
+}
+
+bool SinAplicar(const dlgRepresas& f, Siro& s)
+{
+    return Difiere(f, [&](dlgRepresas& limpia) { MuestraRepresa(limpia, s); });
 }
 
 void OKButton(dlgRepresas& f, Siro& s)

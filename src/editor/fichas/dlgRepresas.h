@@ -41,6 +41,7 @@ inline constexpr auto RotulosDlgRepresas = std::to_array<FilaRotulo>({
     {"txtFQHMax",         "H Máx"},
     {"txtHInicialEmb",    "Altura Inicial Embalse"},
     {"lblReferencia",     "Ref.: Hidrología Aplicada, (Chow, 1994), pg. 249"},  ///< beside k and x
+    {"cmdLlevaTablas",    LeyendaLlevaTablas},
     {"OKButton",          LeyendaAceptar},
     {"CancelButton",      LeyendaCancelar},
 });
@@ -76,6 +77,7 @@ struct dlgRepresas : FichaEmbalse {
     std::array<bool, model::NroFuncionesFQ> chkFQ{};
     TextosFQ txtFQa{}, txtFQb{}, txtFQc{};  ///< of c only those of functions 5 to 8 exist
     TextosFQ txtFQHmin{}, txtFQHMax{};      ///< [m]
+    bool operator==(const dlgRepresas&) const = default;
 
     [[nodiscard]] bool cmdTablaQHabilitado() const { return optTablaQ; }
     [[nodiscard]] bool chkFQHabilitado() const { return optFunciones; }
@@ -140,10 +142,19 @@ void optFunciones_Click(dlgRepresas& f);
 /// `funcion` from 1.
 void chkFQ_Click(dlgRepresas& f, int funcion, bool marcada);
 
+/// The tables that a rename has left behind take the name of the Represa in hand.
+void cmdLlevaTablas(dlgRepresas& f, model::Siro& s);
+
+/// The form of a table has closed, which may have written them.
+void AlVolver(dlgRepresas& f, const model::Siro& s);
+
 // Buttons that open a table.
 PedidoFicha cmdHSV(const dlgRepresas& f);
 /// Nothing while the outflow is given by functions.
 PedidoFicha cmdTablaQ(const dlgRepresas& f);
+
+/// Whether the form holds what "Aceptar" would still have to store.
+bool SinAplicar(const dlgRepresas& f, model::Siro& s);
 
 /// Stores the fields, clears the selection and closes.
 void OKButton(dlgRepresas& f, model::Siro& s);

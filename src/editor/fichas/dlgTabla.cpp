@@ -32,6 +32,8 @@ constexpr std::string_view Recordatorio =  // kept as it stands
     "Asegurar los cambios producidos pulsando <Guardar> desde el formulario gráfico de de UEHs. De lo "
     "contrario se perderá la información cargada.";
 
+constexpr std::string_view TituloSePerderian = "Tablas que se perderían";
+
 // --- descriptions ---
 
 // The words of the columns are the user's: A is the surface, S the volume.
@@ -65,6 +67,27 @@ int CuentaLagos(const Siro& s)
     return s.ColLagos.Cuenta();
 }
 
+template <typename Coleccion, typename Registro>
+int LugarDe(const Coleccion& coleccion, std::string Registro::*nombre, std::string_view buscado)
+{
+    int numero = 0;
+    for (const Registro& componente : coleccion) {
+        ++numero;
+        if (componente.*nombre == buscado) return numero;
+    }
+    return 0;
+}
+
+int NumeroDeRepresa(const Siro& s, std::string_view nombre)
+{
+    return LugarDe(s.ColRepresas, &model::Represa::NombreRepresa, nombre);
+}
+
+int NumeroDeLago(const Siro& s, std::string_view nombre)
+{
+    return LugarDe(s.ColLagos, &model::Lago::NombreLAGO, nombre);
+}
+
 constexpr auto Descripciones = std::to_array<DescripcionTabla>({
     {.tipo = TipoTabla::SHV,
      .nombre = "dlgTablaSHV",
@@ -80,6 +103,8 @@ constexpr auto Descripciones = std::to_array<DescripcionTabla>({
      .cuenta = &Siro::NroRepresas,
      .cuentaEnColeccion = CuentaRepresas,
      .filas = &Siro::RepresaFilasHAS,
+     .numeroDe = NumeroDeRepresa,
+     .archivo = model::ArchivoDeTablas::RHAS,
      .lee = model::LeeTablaHSVRepresa,
      .guarda = model::GuardaTablaHSVRepresa},
     {.tipo = TipoTabla::FQ,
@@ -95,6 +120,8 @@ constexpr auto Descripciones = std::to_array<DescripcionTabla>({
      .cuenta = &Siro::NroRepresas,
      .cuentaEnColeccion = CuentaRepresas,
      .filas = &Siro::RepresaFilasHQ,
+     .numeroDe = NumeroDeRepresa,
+     .archivo = model::ArchivoDeTablas::RHQ,
      .lee = model::LeeTablaHQRepresa,
      .guarda = model::GuardaTablaHQRepresa},
     {.tipo = TipoTabla::SHVQ,
@@ -113,6 +140,8 @@ constexpr auto Descripciones = std::to_array<DescripcionTabla>({
      .cuenta = &Siro::NroLagos,
      .cuentaEnColeccion = CuentaLagos,
      .filas = &Siro::LagoFilas,
+     .numeroDe = NumeroDeLago,
+     .archivo = model::ArchivoDeTablas::LHASQ,
      .lee = model::LeeTablaHSVQLago,
      .guarda = model::GuardaTablaHSVQLago},
 });
@@ -169,6 +198,7 @@ void MuestraTabla(dlgTabla& f, const Siro& s)
                                  NumeroATexto((s.*arreglo)(numero, k)));
                 },
                 d.arreglos[c]);
+    f.aplicadas = f.grilla.filas;
 }
 
 }  // namespace
@@ -287,7 +317,34 @@ void Toma(const dlgTabla& f, Siro& s)
     (s.*d.filas)(numero) = f.NroFilas;
 }
 
-/// Returns false where the table had to be written and couldn't be, which has been told.
+/// Names of the blocks with rows that the file has and won't have once it is written: nobody bears the name,
+/// or its component has no rows in memory. A rename does both, since the reader stops at a block that it
+/// misses.
+std::string SePerderian(const dlgTabla& f, const Siro& s)
+{
+    const DescripcionTabla& d = *f.descripcion;
+    std::string nombres;
+    for (const model::BloqueDeTabla& bloque : model::BloquesDe(s, d.archivo)) {
+        const int numero = d.numeroDe(s, bloque.nombre);
+        const bool queda = numero == s.*d.seleccion || (numero > 0 && (s.*d.filas)(numero) > 0);
+        if (bloque.filas > 0 && !queda) nombres += (nombres.empty() ? "" : ", ") + bloque.nombre;
+    }
+    return nombres;
+}
+
+/// Returns whether nothing would be lost, or the user lets it go.
+bool Conviene(const dlgTabla& f, const Siro& s)
+{
+    const std::string nombres = SePerderian(f, s);
+    return nombres.empty() ||
+           model::Consulta(s,
+                           "Al escribir el archivo " + model::NombreDeArchivo(s, f.descripcion->archivo) +
+                               " se perderían las tablas de: " + nombres + ". ¿Desea aplicar igual ?",
+                           TituloSePerderian);
+}
+
+/// Returns false where the table had to be written and wasn't: it couldn't be, which has been told, or the
+/// user keeps what would be lost.
 bool Aplica(dlgTabla& f, Siro& s)
 {
     if (!f.hayComponente) return true;
@@ -297,25 +354,34 @@ bool Aplica(dlgTabla& f, Siro& s)
     for (std::size_t i = 0; i < d.pruebas.size(); ++i)
         bien = Crece(f, s, PrimeraColumna + static_cast<int>(i), d.pruebas[i]) && bien;
     if (!bien) return true;
+    if (!Conviene(f, s)) return false;
     Toma(f, s);
     const bool guardada = d.guarda(s);
-    if (guardada) f.cortadas.clear();
+    if (guardada) {
+        f.cortadas.clear();
+        f.aplicadas = f.grilla.filas;
+    }
     if (f.NroFilas >= 1) forms::Mueve(f.grilla, {1, PrimeraColumna});
     return guardada;
 }
 
 }  // namespace
 
-void cmdAplicar(dlgTabla& f, Siro& s)
+bool cmdAplicar(dlgTabla& f, Siro& s)
 {
-    forms::Evento(s, [&] { Aplica(f, s); });
+    bool hecho = true;
+    forms::Evento(s, [&] { hecho = Aplica(f, s); });
+    return hecho;
+}
+
+bool SinAplicar(const dlgTabla& f)
+{
+    return f.abierta && f.grilla.filas != f.aplicadas;
 }
 
 void OKButton(dlgTabla& f, Siro& s)
 {
-    bool guardada = true;
-    forms::Evento(s, [&] { guardada = Aplica(f, s); });
-    if (!guardada) return;  // what couldn't be saved is nowhere but here
+    if (!cmdAplicar(f, s)) return;  // what wasn't saved is nowhere but here
     model::Advierte(s, std::string(Recordatorio), {});
     f.abierta = false;
 }

@@ -11,6 +11,7 @@
 #include "forms/CampoNumerico.h"
 #include "forms/Grilla.h"
 #include "model/Siro.h"
+#include "model/TablasEmbalse.h"
 
 // Rules of the editors of the tables of Represas and Lagos: dlgTablaSHV, dlgTablaFQ and dlgTablaSHVQ are one
 // form with a description each. A form works on the Represa or Lago that is selected in the form behind it,
@@ -48,6 +49,9 @@ struct DescripcionTabla {
     std::int16_t model::Siro::*cuenta;
     int (*cuentaEnColeccion)(const model::Siro&);
     model::Arreglo<std::int16_t> model::Siro::*filas;  ///< rows of each component's table
+    /// Number of the component that bears a name; 0 where none does.
+    int (*numeroDe)(const model::Siro&, std::string_view nombre);
+    model::ArchivoDeTablas archivo;
     void (*lee)(model::Siro&);
     bool (*guarda)(model::Siro&);
 };
@@ -69,6 +73,7 @@ struct dlgTabla {
     /// Rows that a smaller number has cut, the one next to the grid's last first. A number is typed digit by
     /// digit, "12" by way of "1": they come back as it grows, until the table is applied.
     std::vector<forms::FilaGrilla> cortadas{};
+    std::vector<forms::FilaGrilla> aplicadas{};  ///< rows as they were read or last applied
     forms::Foco foco{};
 };
 
@@ -84,10 +89,15 @@ void txtNroFilas_Change(dlgTabla& f, const model::Siro& s, std::string texto);
 void cmdBorraTablaHQ(dlgTabla& f);
 
 /// Checks the cells, and where nothing is wrong takes them into the arrays and writes the file. The cursor
-/// stands on what was refused last.
-void cmdAplicar(dlgTabla& f, model::Siro& s);
+/// stands on what was refused last. Blocks of other components that the file would lose, having been left
+/// behind by a rename, are asked about first; returns false where the user keeps them, and nothing is done.
+bool cmdAplicar(dlgTabla& f, model::Siro& s);
 
-/// Applies, and closes whatever came of it, with a reminder to save.
+/// Whether the grid holds what hasn't been applied.
+bool SinAplicar(const dlgTabla& f);
+
+/// Applies, and closes whatever came of it, with a reminder to save; but not where the user has kept what the
+/// file would lose.
 void OKButton(dlgTabla& f, model::Siro& s);
 
 /// What was applied stays written.

@@ -36,6 +36,7 @@ class dlgTabla_ventana : public forms::Formulario {
 
   protected:
     void AlCerrar() override;
+    bool SinAplicar() override { return editor::SinAplicar(f); }
 
   private:
     QLabel* Dato(QGridLayout& grilla, std::string_view nombre, const char* leyenda);

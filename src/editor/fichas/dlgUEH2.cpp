@@ -116,6 +116,11 @@ void lstMetodo_Click(dlgUEH2& f, int indice)
     f.lblMetodo = MetodoUEH;
 }
 
+bool SinAplicar(const dlgUEH2& f, Siro& s)
+{
+    return Difiere(f, [&](dlgUEH2& limpia) { MuestraUEH(limpia, s); });
+}
+
 void OKButton(dlgUEH2& f, Siro& s)
 {
     GuardaUEH(f, s);

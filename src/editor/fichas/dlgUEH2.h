@@ -70,6 +70,7 @@ struct dlgUEH2 : Ficha {
     std::string txtKostiakov_i{};  ///< [min]
     std::string txtQ0Recesion{};   ///< [m3/s]
     std::string txtKRecesion{};    ///< [h]
+    bool operator==(const dlgUEH2&) const = default;
 };
 
 // clang-format off
@@ -122,6 +123,9 @@ void lstCauceAA_Click(dlgUEH2& f, model::Siro& s, int indice);
 
 /// A method is picked, from 0; it is stored with the fields.
 void lstMetodo_Click(dlgUEH2& f, int indice);
+
+/// Whether the form holds what "Aceptar" would still have to store.
+bool SinAplicar(const dlgUEH2& f, model::Siro& s);
 
 /// Stores the fields, clears the selection of UEH and Cauce and closes.
 void OKButton(dlgUEH2& f, model::Siro& s);

@@ -56,7 +56,7 @@ QWidget* dlgUEH2_ventana::MarcoDeArea()
     QGroupBox* const marco = Marco("fraAreaMetodo");
     auto* const grilla = new QGridLayout(marco);
     Numero(*grilla, CamposDlgUEH2, "txtArea");
-    RenglonDeLista(*grilla, {"lstMetodo", f.lstMetodo, 1, "lblMetodo", &f.lblMetodo},
+    RenglonDeLista(*grilla, {"lstMetodo", f.lstMetodo, 1, "lblMetodo", &f.lblMetodo, true},
                    [this](int linea) { lstMetodo_Click(f, linea); });
     constexpr int LineasDeDestinos = 5;
     RenglonDeLista(*grilla, {"lstCauceAA", f.lstCauceAA, LineasDeDestinos},

@@ -166,6 +166,8 @@ void Abre(dlgUEHsEditTabla& f, Siro& s)
     f.lblFileProyecto = s.NombreProyecto + "_Conf.vlm";
     f.MSFlexGridEditCauces = Llena(ReglasCauces, s.ColCauces, EditablesCauces);
     f.MSFlexGridEditUEHs = Llena(ReglasUEHs, s.ColUEHs, EditablesUEHs);
+    f.caucesLeidos = f.MSFlexGridEditCauces.filas;
+    f.UEHsLeidas = f.MSFlexGridEditUEHs.filas;
 }
 
 void OKButton(dlgUEHsEditTabla& f, Siro& s)
@@ -183,6 +185,12 @@ void OKButton(dlgUEHsEditTabla& f, Siro& s)
 void cmdCancel(dlgUEHsEditTabla& f)
 {
     f.abierta = false;
+}
+
+bool SinAplicar(const dlgUEHsEditTabla& f)
+{
+    return f.abierta &&
+           (f.MSFlexGridEditCauces.filas != f.caucesLeidos || f.MSFlexGridEditUEHs.filas != f.UEHsLeidas);
 }
 
 }  // namespace editor

@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "forms/Grilla.h"
 #include "model/Siro.h"
@@ -25,6 +26,7 @@ struct dlgUEHsEditTabla {
     bool abierta = false;
     std::string lblProyecto{}, lblFileProyecto{};
     forms::Grilla MSFlexGridEditCauces{}, MSFlexGridEditUEHs{};
+    std::vector<forms::FilaGrilla> caucesLeidos{}, UEHsLeidas{};  ///< rows of the grids as they were read
 };
 
 /// Opening and every activation: reads the components anew from disk and fills both grids, the cursor of each
@@ -36,5 +38,8 @@ void Abre(dlgUEHsEditTabla& f, model::Siro& s);
 void OKButton(dlgUEHsEditTabla& f, model::Siro& s);
 
 void cmdCancel(dlgUEHsEditTabla& f);
+
+/// Whether the grids hold what hasn't been taken into the components.
+bool SinAplicar(const dlgUEHsEditTabla& f);
 
 }  // namespace editor

@@ -23,6 +23,7 @@ class dlgUEHsEditTabla_ventana : public forms::Formulario {
 
   protected:
     void AlCerrar() override;
+    bool SinAplicar() override { return editor::SinAplicar(f); }
 
   private:
     forms::TablaGrilla* Tabla(forms::Grilla& grilla, const char* nombre, const char* titulo);

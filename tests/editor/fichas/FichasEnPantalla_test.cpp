@@ -126,6 +126,116 @@ TEST_F(FichasEnPantalla, UnDestinoElegidoQuedaAunqueSeCancele)
     EXPECT_EQ(s.UEHs(1).XCauce, 0);
 }
 
+/// A list whose entries are chosen with the keys alone.
+struct ListaPorTeclado {
+    QDialog& forma;
+    QListWidget& lista;
+
+    ListaPorTeclado(QDialog& unaForma, const char* nombre)
+        : forma(unaForma), lista(Control<QListWidget>(unaForma, nombre))
+    {
+        lista.setFocus(Qt::TabFocusReason);
+    }
+    void Tecla(Qt::Key tecla) const
+    {
+        QTest::keyClick(forma.windowHandle(), tecla);
+        QTest::qWait(0);
+    }
+    /// Goes with the arrows to the entry of this text, past all between.
+    void Va(const std::string& texto) const
+    {
+        const auto items = lista.findItems(forms::Q(texto), Qt::MatchExactly);
+        ASSERT_EQ(items.size(), 1) << texto;
+        const int hasta = lista.row(items.front());
+        while (lista.currentRow() != hasta)
+            Tecla(lista.currentRow() < hasta ? Qt::Key_Down : Qt::Key_Up);
+    }
+};
+
+TEST_F(FichasEnPantalla, UnDestinoElegidoConFlechasSeTomaAlDejarLaLista)
+{
+    const std::string nuevo = s.Cauces(1).NombreCauce;
+    s.UEHs(1).Cauce_aa = s.Cauces(2).NombreCauce;
+    EnForma("dlgUEH2", [&](QDialog& forma) {
+        const ListaPorTeclado destinos(forma, "lstCauceAA");
+        destinos.Va(nuevo);
+        EXPECT_NE(s.UEHs(1).Cauce_aa, nuevo);
+        destinos.Tecla(Qt::Key_Tab);
+        EXPECT_TRUE(apoyo::Espera([&] { return s.UEHs(1).Cauce_aa == nuevo; }));
+        EXPECT_EQ(destinos.lista.currentItem()->text(), forms::Q(nuevo));
+        Boton(forma, "OKButton");
+    }).Abre(Pedido::FormaUEH);
+    EXPECT_EQ(s.UEHs(1).Cauce_aa, nuevo);
+}
+
+TEST_F(FichasEnPantalla, AceptarConElFocoEnLosDestinosTomaElQueSeVe)
+{
+    const auto prueba = [](const char* boton) {
+        return [boton](QDialog& forma) {
+            ListaPorTeclado(forma, "lstCauceAA").Va("Ninguno");
+            Boton(forma, boton);
+        };
+    };
+    EnForma("dlgRepresas", prueba("OKButton")).Abre(Pedido::FormaRepresa);
+    EXPECT_EQ(s.Represas(1).Cauce_aa, "");
+    EnForma("dlgLago", prueba("OKButton")).Abre(Pedido::FormaLago);
+    EXPECT_EQ(s.Lagos(1).Cauce_aa, "");
+    EnForma("dlgUEH2", prueba("OKButton")).Abre(Pedido::FormaUEH);
+    EXPECT_EQ(s.UEHs(1).Cauce_aa, "");
+}
+
+TEST_F(FichasEnPantalla, EnterEnLosDestinosTomaUnaSolaVez)
+{
+    int redibujos = 0;
+    const auto redibuja = s.Anfitrion.RedibujaEditor;
+    s.Anfitrion.RedibujaEditor = [&, redibuja] {
+        ++redibujos;
+        redibuja();
+    };
+    EnForma("dlgUEH2", [&](QDialog& forma) {
+        const ListaPorTeclado destinos(forma, "lstCauceAA");
+        destinos.Va("Ninguno");
+        EXPECT_EQ(redibujos, 0);
+        destinos.Tecla(Qt::Key_Return);
+        EXPECT_EQ(s.UEHs(1).Cauce_aa, "");
+        EXPECT_TRUE(forma.isVisible());
+        destinos.Tecla(Qt::Key_Tab);
+        EXPECT_EQ(redibujos, 1);
+        Elige(forma, "lstCauceAA", "0");  // a click, at once
+        EXPECT_EQ(s.UEHs(1).Cauce_aa, "0");
+        EXPECT_EQ(redibujos, 2);
+    }).Abre(Pedido::FormaUEH);
+}
+
+TEST_F(FichasEnPantalla, PasarConFlechasSobreUnaRepresaNoArrastraElCauce)
+{
+    const std::string destino = s.Cauces(1).Cauce_aa;
+    const Punto boca{s.XVertice(1, 1), s.YVertice(1, 1)};
+    EnForma("dlgCauceEditProp", [&](QDialog& forma) {
+        const ListaPorTeclado destinos(forma, "lstTributaCauce");
+        destinos.Va("Ninguno");  // beyond all Represas and Lagos
+        destinos.Tecla(Qt::Key_Tab);
+        EXPECT_TRUE(apoyo::Espera([&] { return s.Cauces(1).Cauce_aa.empty(); })) << destino;
+        EXPECT_EQ((Punto{s.XVertice(1, 1), s.YVertice(1, 1)}), boca);
+    }).Abre(Pedido::FormaCauce);
+}
+
+TEST_F(FichasEnPantalla, UnMetodoElegidoConFlechasSeToma)
+{
+    s.Represas(1).Metodo = s.Lagos(1).Metodo = "Piscina Nivelada";
+    const auto prueba = [](QDialog& forma) {
+        const ListaPorTeclado metodos(forma, "lstMetodo");
+        metodos.Tecla(Qt::Key_Down);
+        EXPECT_EQ(Control<QLabel>(forma, "lblMetodo").text(), QStringLiteral("Muskingum"));
+        metodos.Tecla(Qt::Key_Tab);
+        Boton(forma, "OKButton");
+    };
+    EnForma("dlgRepresas", prueba).Abre(Pedido::FormaRepresa);
+    EnForma("dlgLago", prueba).Abre(Pedido::FormaLago);
+    EXPECT_EQ(s.Represas(1).Metodo, "Muskingum");
+    EXPECT_EQ(s.Lagos(1).Metodo, "Muskingum");
+}
+
 TEST_F(FichasEnPantalla, PasarAOtraUEHGuardaLosCamposDeLaAnterior)
 {
     EnForma("dlgUEH2", [this](QDialog& forma) {
@@ -258,6 +368,116 @@ TEST_F(FichasEnPantalla, UnLagoSinTablaLoDiceAlVolverDeSuEditor)
         Boton(forma, "cmdParametros");
         EXPECT_EQ(Control<QLabel>(forma, "lblParametros").text(), QStringLiteral("---"));
     }).Abre(Pedido::FormaLago);
+}
+
+TEST_F(FichasEnPantalla, CambiarElNombreDeUnaRepresaOfreceLlevarSusTablas)
+{
+    const std::string viejo = s.Represas(1).NombreRepresa;
+    EnForma("dlgRepresas", [&](QDialog& forma) {
+        auto& linea = Control<QLabel>(forma, "lblTablas");
+        auto& tecla = Control<QPushButton>(forma, "cmdLlevaTablas");
+        EXPECT_FALSE(linea.isVisible());
+        EXPECT_FALSE(tecla.isVisible());
+        Llena(forma, "txtNombreRepresa", "Nueva");
+        EXPECT_TRUE(apoyo::Espera([&] { return linea.isVisible() && tecla.isVisible(); }));
+        EXPECT_NE(forms::DeQ(linea.text()).find("«" + viejo + "»"), std::string::npos);
+        Boton(forma, "cmdLlevaTablas");
+        EXPECT_FALSE(tecla.isVisible());
+        EXPECT_TRUE(linea.isVisible());
+        Boton(forma, "OKButton");
+    }).Abre(Pedido::FormaRepresa);
+    EXPECT_EQ(mundo.anfitrion->sucesos, std::vector<apoyo::Suceso>{});
+    for (const auto archivo : {model::ArchivoDeTablas::RHAS, model::ArchivoDeTablas::RHQ})
+        EXPECT_EQ(model::BloquesDe(s, archivo)[0].nombre, "r-Nueva");
+}
+
+// --- work that hasn't been applied ---
+
+const model::Mensaje PreguntaSinAplicar{
+    "Lo que se escribió en esta ventana no se ha aplicado y se perdería. ¿Desea cerrarla igual ?",
+    "Cambios sin aplicar", model::Icono::Exclamacion};
+
+TEST_F(FichasEnPantalla, EscYElMarcoPreguntanAntesDePerderLoEscrito)
+{
+    const float area = s.UEHs(1).Area;
+    EnForma("dlgUEH2", [this](QDialog& forma) {
+        apoyo::Escribe(Campo(forma, "txtArea"), "77");
+        mundo.anfitrion->respuestas = {false};
+        QTest::keyClick(forma.windowHandle(), Qt::Key_Escape);
+        EXPECT_TRUE(forma.isVisible());
+        EXPECT_EQ(TextoDe(forma, "txtArea"), "77");
+        EXPECT_EQ(mundo.anfitrion->Preguntas(), Cajas{PreguntaSinAplicar});
+        mundo.anfitrion->respuestas = {false, true};
+        forma.close();
+        EXPECT_TRUE(forma.isVisible());
+        forma.close();
+        EXPECT_FALSE(forma.isVisible());
+        EXPECT_EQ(mundo.anfitrion->Preguntas(), Cajas(3, PreguntaSinAplicar));
+    }).Abre(Pedido::FormaUEH);
+    EXPECT_EQ(s.UEHs(1).Area, area);
+}
+
+TEST_F(FichasEnPantalla, CancelarNoPreguntaYSinNadaEscritoEscTampoco)
+{
+    const auto prueba = [](const char* campo) {
+        return [campo](QDialog& forma) {
+            apoyo::Escribe(Campo(forma, campo), "1");
+            Boton(forma, "CancelButton");
+            EXPECT_FALSE(forma.isVisible());
+        };
+    };
+    const auto nada = [](QDialog& forma) {
+        QTest::keyClick(forma.windowHandle(), Qt::Key_Escape);
+        EXPECT_FALSE(forma.isVisible());
+    };
+    struct Fila {
+        Pedido pedido;
+        const char *forma, *campo;
+    };
+    for (const Fila& fila : {Fila{Pedido::FormaUEH, "dlgUEH2", "txtVelMedia"},
+                             {Pedido::FormaCauce, "dlgCauceEditProp", "txtLongCauce"},
+                             {Pedido::FormaRepresa, "dlgRepresas", "txtHInicialEmb"},
+                             {Pedido::FormaLago, "dlgLago", "txtReferencia"}}) {
+        EnForma(fila.forma, prueba(fila.campo)).Abre(fila.pedido);
+        EnForma(fila.forma, nada).Abre(fila.pedido);
+        EXPECT_EQ(mundo.anfitrion->Preguntas(), Cajas{}) << fila.forma;
+        EnForma(fila.forma, [&](QDialog& forma) {
+            apoyo::Escribe(Campo(forma, fila.campo), "1");
+            QTest::keyClick(forma.windowHandle(), Qt::Key_Escape);
+            EXPECT_FALSE(forma.isVisible());
+        }).Abre(fila.pedido);
+        EXPECT_EQ(mundo.anfitrion->Preguntas(), Cajas{PreguntaSinAplicar}) << fila.forma;
+        mundo.anfitrion->sucesos.clear();
+    }
+}
+
+TEST_F(FichasEnPantalla, LoYaTomadoNoEsTrabajoSinAplicar)
+{
+    EnForma("dlgUEH2", [](QDialog& forma) {
+        Elige(forma, "lstCauceAA", "Ninguno");
+        Llena(forma, "txtNombreUEH", "Otra");
+        apoyo::Escribe(Campo(forma, "txtArea"), "77");
+        Elige(forma, "lstUEHs", forms::DeQ(Control<QListWidget>(forma, "lstUEHs").item(1)->text()).c_str());
+        QTest::keyClick(forma.windowHandle(), Qt::Key_Escape);
+        EXPECT_FALSE(forma.isVisible());
+    }).Abre(Pedido::FormaUEH);
+    EXPECT_EQ(mundo.anfitrion->Preguntas(), Cajas{});
+    EXPECT_EQ(s.UEHs(1).Area, 77);
+}
+
+TEST_F(FichasEnPantalla, ElTituloMarcaLoQueNoSeHaAplicado)
+{
+    EnForma("dlgUEH2", [](QDialog& forma) {
+        const QString titulo = QStringLiteral("Propiedades de UHE (Unidad Hidrológica Elemental)");
+        EXPECT_EQ(forma.windowTitle(), titulo);
+        const QString area = Campo(forma, "txtArea").text();
+        apoyo::Escribe(Campo(forma, "txtArea"), "77");
+        EXPECT_TRUE(apoyo::Espera([&] { return forma.isWindowModified(); }));
+        EXPECT_EQ(forma.windowTitle(), titulo + QStringLiteral("[*]"));
+        apoyo::Escribe(Campo(forma, "txtArea"), forms::DeQ(area).c_str());
+        EXPECT_TRUE(apoyo::Espera([&] { return !forma.isWindowModified(); }));
+        EXPECT_EQ(forma.windowTitle(), titulo);
+    }).Abre(Pedido::FormaUEH);
 }
 
 // --- from the editor, and as far as the results ---

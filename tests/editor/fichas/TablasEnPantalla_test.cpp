@@ -216,6 +216,39 @@ TEST_F(TablasEnPantalla, AceptarGuardaRecuerdaGuardarYCierra)
     EXPECT_EQ(s.RepresaS(1, 2), 31000);
 }
 
+TEST_F(TablasEnPantalla, EscPreguntaMientrasHayaCeldasSinAplicar)
+{
+    EnTabla("dlgTablaSHV", [this](QDialog& forma) {
+        Clic(Grilla(forma), 2, 1);
+        QTest::keyClicks(&Grilla(forma), QStringLiteral("1.5"));
+        EXPECT_TRUE(apoyo::Espera([&] { return forma.isWindowModified(); }));
+        mundo.anfitrion->respuestas = {false};
+        QTest::keyClick(forma.windowHandle(), Qt::Key_Escape);
+        EXPECT_TRUE(forma.isVisible());
+        EXPECT_EQ(mundo.anfitrion->Preguntas().size(), 1U);
+        Boton(forma, "cmdAplicar");
+        EXPECT_TRUE(apoyo::Espera([&] { return !forma.isWindowModified(); }));
+        EXPECT_EQ(forma.windowTitle(),
+                  QStringLiteral("Tabla Altura H[m]- Area A[has] - Almacenamiento S[m3], en Represa"));
+        QTest::keyClick(forma.windowHandle(), Qt::Key_Escape);
+        EXPECT_FALSE(forma.isVisible());
+        EXPECT_EQ(mundo.anfitrion->Preguntas().size(), 1U);
+    });
+}
+
+TEST_F(TablasEnPantalla, UnAplicarRechazadoSigueSinAplicar)
+{
+    EnTabla("dlgTablaSHV", [this](QDialog& forma) {
+        Clic(Grilla(forma), 2, 1);
+        QTest::keyClicks(&Grilla(forma), QStringLiteral("0"));  // not above the row before
+        Boton(forma, "cmdAplicar");
+        EXPECT_TRUE(forma.isWindowModified());
+        Boton(forma, "CancelButton");
+        EXPECT_FALSE(forma.isVisible());
+        EXPECT_EQ(mundo.anfitrion->Preguntas(), Cajas{});
+    });
+}
+
 TEST_F(TablasEnPantalla, UnBloqueVaAUnaPlanillaYVuelve)
 {
     EnTabla("dlgTablaFQ", [](QDialog& forma) {
@@ -334,6 +367,23 @@ TEST_F(EditorDeTabla, LosTitulosPegadosNoCorrenLosValores)
         EXPECT_EQ(mundo.anfitrion->Avisos().at(0).texto,
                   "No se pegó ningún dato. Fila 2, columna \"Area\": \"once\" no es un número");
         EXPECT_NE(Celda(uehs, 1, 5), "11");
+    });
+}
+
+TEST_F(EditorDeTabla, ElMarcoPreguntaMientrasHayaCeldasSinAplicar)
+{
+    Abre([this](QDialog& forma) {
+        auto& uehs = Grilla(forma, "MSFlexGridEditUEHs");
+        Clic(uehs, 1, 5);
+        QTest::keyClicks(&uehs, QStringLiteral("9"));
+        EXPECT_TRUE(apoyo::Espera([&] { return forma.isWindowModified(); }));
+        mundo.anfitrion->respuestas = {false};
+        forma.close();
+        EXPECT_TRUE(forma.isVisible());
+        EXPECT_EQ(mundo.anfitrion->Preguntas().size(), 1U);
+        Boton(forma, "cmdCancel");
+        EXPECT_FALSE(forma.isVisible());
+        EXPECT_EQ(mundo.anfitrion->Preguntas().size(), 1U);
     });
 }
 

@@ -339,5 +339,17 @@ TEST_F(FormaLago, UnTextoSinNumeroGuardaCero)
     EXPECT_EQ(s.Lagos(1).Lago_k_Musk, 0);
 }
 
+TEST_F(FormaLago, LaTablaDeUnNombreCambiadoSeLlevaConSuTecla)
+{
+    f.txtNombreLAGO = "l-nuevo";
+    EXPECT_TRUE(AlSalir(f, s, "txtNombreLAGO"));
+    EXPECT_EQ(f.lblTablas, "Las tablas guardadas con el nombre «l-1» ya no son de ningún Lago.");
+    cmdLlevaTablas(f, s);
+    EXPECT_EQ(disco.Bytes("/proy/Arroyo_LHASQ.vlm"),
+              "\"*l-nuevo\",2,\"*\",\"*\"\r\n1,10,0,0\r\n2.5,20,5000,3\r\n");
+    EXPECT_EQ(f.lblParametros, ConDatosEnTabla);
+    EXPECT_EQ(f.tablasDe, "");
+}
+
 }  // namespace
 }  // namespace editor

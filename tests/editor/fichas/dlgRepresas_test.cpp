@@ -66,6 +66,65 @@ TEST(TextosDeDlgRepresas, TituloYLeyendasEstanLetraPorLetra)
         EXPECT_EQ(RotulosFunciones[i][9], static_cast<char>('1' + i)) << "ó takes two bytes";
 }
 
+// --- tables after a rename ---
+
+const std::string LineaDeTablas = "Las tablas guardadas con el nombre «r-1» ya no son de ninguna Represa.";
+
+TEST_F(FormaRepresa, TrasCambiarElNombreUnaLineaDiceQueSusTablasQuedaronAtras)
+{
+    EXPECT_EQ(f.lblTablas, "");
+    EXPECT_TRUE(Nombra("r-nueva"));
+    EXPECT_EQ(f.lblTablas, LineaDeTablas);
+    EXPECT_EQ(f.tablasDe, "r-1");
+    lstRepresas_Click(f, s, 1);  // r-2 never had any
+    EXPECT_EQ(f.lblTablas, "");
+    CancelButton(f, s);
+    AbreEn(1);  // still so the next time
+    EXPECT_EQ(f.lblTablas, LineaDeTablas);
+    EXPECT_TRUE(Nombra("r-1"));
+    EXPECT_EQ(f.lblTablas, "");
+    EXPECT_EQ(f.tablasDe, "");
+}
+
+TEST_F(FormaRepresa, LaTeclaLlevaLasTablasAlNombreNuevo)
+{
+    disco.Pon("/proy/Arroyo_RHQ.vlm", "\"*r-1\",1\r\n1,2\r\n\"*r-2\",1\r\n4,5\r\n");
+    Nombra("r-ñandú");
+    cmdLlevaTablas(f, s);
+    EXPECT_EQ(disco.Bytes("/proy/Arroyo_RHAS.vlm"),
+              "\"*r-\xF1"
+              "and\xFA\",3,\"*\"\r\n100.3,1,0\r\n105,2,1000\r\n110.7,3,2000\r\n");
+    EXPECT_EQ(disco.Bytes("/proy/Arroyo_RHQ.vlm"),
+              "\"*r-\xF1"
+              "and\xFA\",1\r\n1,2\r\n\"*r-2\",1\r\n4,5\r\n");
+    EXPECT_EQ(f.tablasDe, "");
+    EXPECT_EQ(f.lblTablas, "Las tablas llevan ahora el nombre «r-ñandú»: guarde la red en el editor.");
+    EXPECT_EQ(s.RepresaFilasHAS(1), 3);  // read again
+    EXPECT_TRUE(Avisos().empty());
+    AbreEn(1);
+    EXPECT_EQ(f.lblTablas, "");
+}
+
+TEST_F(FormaRepresa, UnDiscoQueFallaDejaLasTablasParaOtraVez)
+{
+    Nombra("r-nueva");
+    disco.Protege("/proy/Arroyo_RHAS.vlm");
+    const std::string antes = disco.Bytes("/proy/Arroyo_RHAS.vlm");
+    cmdLlevaTablas(f, s);
+    EXPECT_EQ(Avisos().size(), 1U);
+    EXPECT_EQ(disco.Bytes("/proy/Arroyo_RHAS.vlm"), antes);
+    EXPECT_EQ(f.tablasDe, "r-1");
+    EXPECT_EQ(f.lblTablas, LineaDeTablas);
+}
+
+TEST_F(FormaRepresa, LaTablaDeOtraRepresaNoSeOfrece)
+{
+    s.ColRepresas.Item(1).NombreRepresa = "r-otra";
+    s.ColRepresas.Item(2).NombreRepresa = "r-1";
+    AbreEn(1);
+    EXPECT_EQ(f.tablasDe, "");
+}
+
 // --- opening ---
 
 TEST_F(FormaRepresa, SinSeleccionMuestraLaPrimeraYLeeLasTablas)

@@ -459,6 +459,57 @@ TEST_F(EditorDeTablas, UnNumeroFueraDelTipoSeDiceYNadaSeGuarda)
 
 // --- closing ---
 
+// --- blocks that a rename has left behind ---
+
+model::Mensaje SePierden(const std::string& archivo, const std::string& nombres)
+{
+    return {"Al escribir el archivo " + archivo + " se perderían las tablas de: " + nombres +
+                ". ¿Desea aplicar igual ?",
+            "Tablas que se perderían", Icono::Exclamacion};
+}
+
+TEST_F(EditorDeTablas, TrasUnCambioDeNombrePreguntaPorLasTablasQueElArchivoPerderia)
+{
+    // The reader misses the block of the first Represa and stops there: the second one's would go too.
+    s.ColRepresas.Item(1).NombreRepresa = "r-nueva";
+    AbreTabla();
+    txtNroFilas_Change(f, s, "1");
+    Fila(1, {"5", "6", "7"});
+    anfitrion->respuestas = {false};
+    cmdAplicar(f, s);
+    EXPECT_EQ(anfitrion->Preguntas(), (std::vector{SePierden("Arroyo_RHAS.vlm", "r-1, r-2")}));
+    EXPECT_EQ(Archivo("_RHAS.vlm"), RHAS);
+    EXPECT_EQ(s.RepresaFilasHAS(1), 0);
+    EXPECT_EQ(T(1, 1), "5");
+    anfitrion->respuestas = {true};
+    cmdAplicar(f, s);
+    EXPECT_EQ(Archivo("_RHAS.vlm"), "\"*r-nueva\",1,\"*\"\r\n5,6,7\r\n\"*r-2\",0,\"*\"\r\n");
+    anfitrion->sucesos.clear();
+    cmdAplicar(f, s);  // nothing more to lose
+    EXPECT_EQ(anfitrion->Preguntas(), std::vector<Mensaje>{});
+}
+
+TEST_F(EditorDeTablas, ConNoAceptarNoCierraNiRecuerda)
+{
+    s.ColLagos.Item(2).NombreLAGO = "l-otro";
+    AbreTabla(TipoTabla::SHVQ);
+    anfitrion->respuestas = {false};
+    OKButton(f, s);
+    EXPECT_EQ(anfitrion->Preguntas(), (std::vector{SePierden("Arroyo_LHASQ.vlm", "l-2")}));
+    EXPECT_EQ(Textos(), std::vector<std::string>{});
+    EXPECT_TRUE(f.abierta);
+}
+
+TEST_F(EditorDeTablas, SuPropiaTablaYLasVaciasNoSePreguntan)
+{
+    disco.Pon("/proy/Arroyo_RHQ.vlm", "\"*r-1\",1\r\n1,2\r\n\"*r-2\",1\r\n4,5\r\n\"*r-vieja\",0\r\n");
+    AbreTabla(TipoTabla::FQ);
+    txtNroFilas_Change(f, s, "0");
+    cmdAplicar(f, s);
+    EXPECT_EQ(anfitrion->sucesos, std::vector<apoyo::Suceso>{});
+    EXPECT_EQ(Archivo("_RHQ.vlm"), "\"*r-1\",0\r\n\"*r-2\",1\r\n4,5\r\n");
+}
+
 TEST_F(EditorDeTablas, AceptarAplicaRecuerdaGuardarYCierra)
 {
     AbreTabla();
