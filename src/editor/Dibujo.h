@@ -29,6 +29,9 @@ enum class Papel : std::uint8_t {
     EnlaceLago,     ///< the same of a Lago
     Nombre,         ///< name of a component
     Orden,          ///< order of a reach
+    NombreCauce,    ///< name of a reach
+    Sentido,        ///< arrow of a reach's flow
+    SinAcople,      ///< ends of two reaches that touch without a link
     MarcaVertice,   ///< vertex of the selected reach: grey
     VerticeTomado,  ///< the grabbed vertex: red
     Asa,            ///< handle from which a link is drawn

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/Indicacion.h"
 
+#include <algorithm>
+
 #include "editor/frmUEHs.h"
 
 namespace editor {
@@ -28,8 +30,18 @@ std::string_view DeSeleccion(const Siro& s)
     return "Clic sobre un componente: lo elige; doble clic: edita sus propiedades.";
 }
 
-std::string_view DeTrazo(int clics)
+bool HayMarcas(const frmUEHs& f)
 {
+    const auto& primitivas = f.dibujo.Primitivas();
+    return std::any_of(primitivas.begin(), primitivas.end(),
+                       [](const Primitiva& p) { return p.papel == Papel::SinAcople; });
+}
+
+std::string_view DeTrazo(const frmUEHs& f)
+{
+    const int clics = f.ClicsCauce;
+    if (clics == 0 && HayMarcas(f))
+        return "Clic: primer vértice, aguas abajo. Marca naranja: extremos que se tocan sin estar acoplados.";
     if (clics == 0) return "Clic: primer vértice del cauce, en su extremo aguas abajo.";
     if (clics == 1) return "Clic: vértice siguiente del cauce, hacia aguas arriba.";
     if (clics < ClicsAntesDelUltimo)
@@ -56,7 +68,7 @@ std::string_view Indicacion(const frmUEHs& f, const Siro& s)
     case Boton::LAGO:
         return "Clic: agrega un Lago/Laguna en ese punto.";
     case Boton::Cauce:
-        return DeTrazo(f.ClicsCauce);
+        return DeTrazo(f);
     case Boton::LongArea:
         return DeMedicion(f.NroPuntosMedida);
     default:

@@ -1,4 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+
+#include "editor/Cauces.h"
 #include "editor/Edicion.h"
 #include "editor/frmUEHs.h"
 #include "editor/modCalculoLongArea.h"
@@ -118,6 +123,35 @@ void EligeParaElMenu(frmUEHs& f, Siro& s, Punto p)
     });
 }
 
+/// Whether the cross stands on the last point of the reach that is being drawn, or of what is measured.
+bool CruzEnElUltimo(const frmUEHs& f, const Siro& s)
+{
+    if (Modo(f) == Boton::Cauce && f.ClicsCauce > 0)
+        return *f.cruz == Vertice(s, s.NroCauces, s.NroVertices(s.NroCauces));
+    const auto n = static_cast<std::size_t>(f.NroPuntosMedida);
+    return Modo(f) == Boton::LongArea && n > 0 && *f.cruz == Punto{f.XMedida[n], f.YMedida[n]};
+}
+
+/// Enter or the blank with a cross on the canvas.
+void ClicaCruz(frmUEHs& f, Siro& s)
+{
+    const Punto p = *f.cruz;
+    if (CruzEnElUltimo(f, s)) {
+        if (Modo(f) != Boton::Cauce || f.ClicsCauce > 1) picDibujo_DblClick(f, s);
+        return;
+    }
+    picDibujo_MouseDown(f, s, BotonRaton::Izquierdo, p);
+    picDibujo_MouseUp(f, s, BotonRaton::Izquierdo, p);
+    f.cruz = p;
+}
+
+void MuestraLugar(frmUEHs& f, Punto p)
+{
+    f.ultimo = p;
+    f.lblX = Coordenada(p.X);
+    f.lblY = Coordenada(p.Y);
+}
+
 void PideSiHay(frmUEHs& f, int cuenta, Pedido forma)
 {
     if (cuenta > 0) f.pedidos.push_back(forma);
@@ -127,6 +161,7 @@ void PideSiHay(frmUEHs& f, int cuenta, Pedido forma)
 
 void picDibujo_MouseDown(frmUEHs& f, Siro& s, BotonRaton boton, Punto p)
 {
+    f.cruz.reset();  // the hand is on the mouse
     if (boton == BotonRaton::Izquierdo) Orden(f, s, [&] { ClicIzquierdo(f, s, p); });
     f.ultimo = p;
     if (boton == BotonRaton::Derecho) {
@@ -141,9 +176,7 @@ void picDibujo_MouseDown(frmUEHs& f, Siro& s, BotonRaton boton, Punto p)
 
 void picDibujo_MouseMove(frmUEHs& f, Siro& s, Punto p, bool izquierdo)
 {
-    f.ultimo = p;
-    f.lblX = Coordenada(p.X);
-    f.lblY = Coordenada(p.Y);
+    MuestraLugar(f, p);
     if (f.asidero) {
         f.origen.X += f.asidero->X - p.X;
         f.origen.Y += f.asidero->Y - p.Y;
@@ -183,6 +216,26 @@ void picDibujo_DblClick(frmUEHs& f, Siro& s)
     });
 }
 
+void picDibujo_Flecha(frmUEHs& f, Siro& s, int derecha, int abajo, bool largo)
+{
+    constexpr int Paso = 5, PasoLargo = 50;  // [pixels]
+    if (f.izquierdoAbajo) picDibujo_MouseUp(f, s, BotonRaton::Izquierdo, f.ultimo);
+    Pixel lugar{f.lienzo.ancho / 2.0, f.lienzo.alto / 2.0};
+    if (f.cruz) {
+        const int paso = largo ? PasoLargo : Paso;
+        lugar = APixel(f, *f.cruz);
+        lugar.x = std::round(lugar.x) + derecha * paso;
+        lugar.y = std::round(lugar.y) + abajo * paso;
+    }
+    f.cruz = DePixel(f, lugar.x, lugar.y);
+    const Punto dentro = DePixel(f, std::clamp<double>(lugar.x, 0, f.lienzo.ancho),
+                                 std::clamp<double>(lugar.y, 0, f.lienzo.alto));
+    f.origen.X += f.cruz->X - dentro.X;
+    f.origen.Y += f.cruz->Y - dentro.Y;
+    MuestraLugar(f, *f.cruz);
+    Redibuja(f, s);
+}
+
 void picDibujo_KeyDown(frmUEHs& f, Siro& s, Tecla tecla)
 {
     switch (tecla) {
@@ -202,7 +255,13 @@ void picDibujo_KeyDown(frmUEHs& f, Siro& s, Tecla tecla)
         PideSiHay(f, s.ColLagos.Cuenta(), Pedido::FormaLago);
         break;
     case Tecla::Enter:
-        Orden(f, s, [&] { Entra(f, s); });
+        if (f.cruz)
+            ClicaCruz(f, s);
+        else
+            Orden(f, s, [&] { Entra(f, s); });
+        break;
+    case Tecla::Espacio:
+        if (f.cruz) ClicaCruz(f, s);
         break;
     default:
         break;

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "editor/ClasesConIcono.h"
+#include "editor/RotulosDeCauces.h"
 #include "editor/frmUEHs.h"
 #include "engine/ComponenteFinal.h"
 #include "model/Numeros.h"
@@ -289,6 +290,7 @@ void Redibuja(frmUEHs& f, Siro& s)
     PintaImagen(f, s);
     PintaCauces(f, s);
     PintaComponentes(f, s);
+    RotulaCauces(f, s);
     MarcaCauceElegido(f, s);
     EscribeOrdenes(f, s);
     PintaMedicion(f);

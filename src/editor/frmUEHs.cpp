@@ -113,6 +113,7 @@ void EmpiezaControles(frmUEHs& f)
     f.lblLongArea.clear();
     f.pedidos.clear();
     f.asidero.reset();
+    f.cruz.reset();
     f.cambiada = false;
     SueltaTodo(f);
 }
@@ -274,6 +275,12 @@ void cmdOrdenCauce_Click(frmUEHs& f, Siro& s)
         Redibuja(f, s);
         Asienta(f, s);  // orders are worked out, not edited
     });
+}
+
+void NombresDeCauces_Click(frmUEHs& f, Siro& s)
+{
+    f.NombresVisibles = !f.NombresVisibles;
+    Redibuja(f, s);
 }
 
 // --- keys of the form ---

@@ -74,7 +74,20 @@ enum class Pedido : std::uint8_t {
 };
 
 /// Keys that the editor knows.
-enum class Tecla : std::uint8_t { F2, F3, F4, F5, F6, Enter, Suprimir, Insertar, Esc, Deshacer, Rehacer };
+enum class Tecla : std::uint8_t {
+    F2,
+    F3,
+    F4,
+    F5,
+    F6,
+    Espacio,
+    Enter,
+    Suprimir,
+    Insertar,
+    Esc,
+    Deshacer,
+    Rehacer
+};
 
 enum class BotonRaton : std::uint8_t { Ninguno, Izquierdo, Derecho, Medio };
 
@@ -145,6 +158,7 @@ struct frmUEHs {
     bool recentra = false, reescala = false;  ///< what the next drawing does first; it clears them
     int movidoHor = 0, movidoVer = 0;         ///< movement of the scroll bars not yet applied [%]
     bool OrdenVisible = false;
+    bool NombresVisibles = true;  ///< of the reaches
     bool ImagenVisible = false;
     Tamano imagen{};           ///< size of the image that is on [pixels]
     std::string rutaImagen{};  ///< its path
@@ -154,13 +168,14 @@ struct frmUEHs {
     /// "borrarCauce" from the cancelled name of a reach until the next one is named, else empty.
     std::string marcaCauce{};
     Arrastra arrastra = Arrastra::Nada;
-    bool izquierdoAbajo = false;     ///< the left button is held since it went down on the canvas
-    bool arrastrado = false;         ///< the pointer has moved since then
-    Punto presion{};                 ///< where the left button went down
-    Punto agarre{};                  ///< there, from the position of the icon that the drag moves
-    Punto iconoAntes{};              ///< position of that icon before the drag
-    Punto ultimo{};                  ///< where the pointer was last
-    std::vector<Punto> banda{};      ///< rubber band, a polyline; empty: none
+    bool izquierdoAbajo = false;  ///< the left button is held since it went down on the canvas
+    bool arrastrado = false;      ///< the pointer has moved since then
+    Punto presion{};              ///< where the left button went down
+    Punto agarre{};               ///< there, from the position of the icon that the drag moves
+    Punto iconoAntes{};           ///< position of that icon before the drag
+    Punto ultimo{};               ///< where the pointer was last
+    std::vector<Punto> banda{};   ///< rubber band, a polyline; empty: none
+    std::optional<Punto> cruz{};  ///< cross that the arrow keys move in place of the pointer; nothing: none
     std::optional<Punto> asidero{};  ///< point that a pan with the middle button keeps under the pointer
 
     // --- measuring ---
@@ -210,7 +225,11 @@ void picDibujo_DblClick(frmUEHs& f, model::Siro& s);
 /// pointer.
 void picDibujo_Rueda(frmUEHs& f, model::Siro& s, double vueltas, Punto p);
 
-/// F2 to F6 and Enter.
+/// An arrow key moves the cross a step, right and down positive, or a long one; the first one shows it in the
+/// middle of the canvas. The drawing moves along where the cross would leave the canvas.
+void picDibujo_Flecha(frmUEHs& f, model::Siro& s, int derecha, int abajo, bool largo);
+/// F2 to F6, the blank and Enter. With a cross the last two click there; on the last point of what is being
+/// drawn or measured they double click, which finishes it.
 void picDibujo_KeyDown(frmUEHs& f, model::Siro& s, Tecla tecla);
 /// Delete, Insert, Esc; undo and redo.
 void Form_KeyDown(frmUEHs& f, model::Siro& s, Tecla tecla);
@@ -222,6 +241,8 @@ void ScrEscalaVer_Mueve(frmUEHs& f, model::Siro& s, int valor);
 void cmdImagenUEHs_Click(frmUEHs& f, model::Siro& s);
 void cmdAnchoLineaDib_Click(frmUEHs& f, model::Siro& s);
 void cmdOrdenCauce_Click(frmUEHs& f, model::Siro& s);
+/// Shows the names of the reaches, or hides them.
+void NombresDeCauces_Click(frmUEHs& f, model::Siro& s);
 
 // --- between the halves of the rules ---
 

@@ -58,6 +58,20 @@ constexpr auto TeclasDeLienzo = std::to_array<FilaTecla>({
     {Qt::Key_F6, Tecla::F6},
     {Qt::Key_Return, Tecla::Enter},
     {Qt::Key_Enter, Tecla::Enter},
+    {Qt::Key_Space, Tecla::Espacio},
+});
+
+/// Arrow keys, which move the cross.
+struct FilaFlecha {
+    int tecla;
+    int derecha, abajo;
+};
+
+constexpr auto Flechas = std::to_array<FilaFlecha>({
+    {Qt::Key_Right, 1, 0},
+    {Qt::Key_Left, -1, 0},
+    {Qt::Key_Down, 0, 1},
+    {Qt::Key_Up, 0, -1},
 });
 
 constexpr auto TeclasDeForma = std::to_array<FilaTecla>({
@@ -219,6 +233,11 @@ void frmUEHs_ventana::AgregaPropias(QToolBar& barra)
 {
     deshace = HazAccion("Deshace", "Deshacer (Ctrl+Z)", "Deshace");
     rehace = HazAccion("Rehace", "Rehacer (Ctrl+Y)", "Rehace");
+    nombres = HazAccion("NombresCauces", "Mostrar los nombres de los cauces (Ctrl+T)", "NombresCauces");
+    nombres->setCheckable(true);
+    nombres->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_T));
+    connect(nombres, &QAction::triggered, this,
+            [this] { Hace([this] { NombresDeCauces_Click(f, entorno.s); }); });
     auto* const exporta = HazAccion("Exporta", "Exportar o imprimir el dibujo (Ctrl+P)", "Exporta");
     exporta->setShortcut(QKeySequence::Print);
     connect(deshace, &QAction::triggered, this,
@@ -229,7 +248,7 @@ void frmUEHs_ventana::AgregaPropias(QToolBar& barra)
     rehace->setShortcuts(
         {QKeySequence(Qt::CTRL | Qt::Key_Y), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)});
     exporta->setMenu(HazDestinos());
-    barra.addActions({deshace, rehace, exporta});
+    barra.addActions({deshace, rehace, nombres, exporta});
     if (auto* const boton = qobject_cast<QToolButton*>(barra.widgetForAction(exporta))) {
         boton->setPopupMode(QToolButton::InstantPopup);
         connect(exporta, &QAction::triggered, boton, &QToolButton::showMenu);
@@ -346,7 +365,7 @@ void frmUEHs_ventana::ConectaLienzo()
     picDibujo->AlGirar = [this](double vueltas, Punto p) {
         Hace([&] { picDibujo_Rueda(f, entorno.s, vueltas, p); });
     };
-    picDibujo->AlTeclear = [this](int tecla) { return TeclaDeLienzo(tecla); };
+    picDibujo->AlTeclear = [this](const QKeyEvent& evento) { return TeclaDeLienzo(evento); };
     picDibujo->AlCambiarDeTamano = [this](QSize tamano) {
         Hace([&] {
             Form_Resize(f, {tamano.width() + MargenAncho, tamano.height() + MargenAlto});
@@ -399,8 +418,10 @@ void frmUEHs_ventana::Muestra()
         }
         return;
     }
+    forms::MarcaTitulo(*this, f.cambiada);
     for (std::size_t i = 0; i < NroBotones; ++i)
         botones[i]->setChecked(f.botones[i]);
+    nombres->setChecked(f.NombresVisibles);
     deshace->setEnabled(!f.historia.anteriores.empty());
     rehace->setEnabled(!f.historia.siguientes.empty());
     const auto pon = [](QAbstractSlider& mando, int valor) {
@@ -464,10 +485,17 @@ void frmUEHs_ventana::DejaVentana()
 
 // --- keys, menu, forms ---
 
-bool frmUEHs_ventana::TeclaDeLienzo(int tecla)
+bool frmUEHs_ventana::TeclaDeLienzo(const QKeyEvent& evento)
 {
-    const std::optional<Tecla> regla = Busca(TeclasDeLienzo, tecla);
-    if (regla) Hace([&] { picDibujo_KeyDown(f, entorno.s, *regla); });
+    for (const FilaFlecha& flecha : Flechas) {
+        if (flecha.tecla != evento.key()) continue;
+        const bool largo = evento.modifiers().testFlag(Qt::ShiftModifier);
+        Hace([&] { picDibujo_Flecha(f, entorno.s, flecha.derecha, flecha.abajo, largo); });
+        return true;
+    }
+    const std::optional<Tecla> regla = Busca(TeclasDeLienzo, evento.key());
+    // A key that is held moves the cross on, but it clicks once.
+    if (regla && !(f.cruz && evento.isAutoRepeat())) Hace([&] { picDibujo_KeyDown(f, entorno.s, *regla); });
     return regla.has_value();
 }
 

@@ -50,7 +50,7 @@ class frmUEHs_ventana : public forms::Ventana {
     QWidget* HazPie();
     QAction* HazAccion(const char* nombre, const char* leyenda, const char* icono);
     void ConectaLienzo();
-    bool TeclaDeLienzo(int tecla);
+    bool TeclaDeLienzo(const QKeyEvent& evento);
     void AtiendePedidos();
     void AbreMenu();
     /// Into a file of a type, "PNG", "SVG" or "PDF", that the user names.
@@ -60,7 +60,7 @@ class frmUEHs_ventana : public forms::Ventana {
     PintorDibujo pintor{};
     Lienzo* picDibujo = nullptr;
     std::array<QAction*, NroBotones> botones{};
-    QAction *deshace = nullptr, *rehace = nullptr;
+    QAction *deshace = nullptr, *rehace = nullptr, *nombres = nullptr;
     QSlider* sldEscala = nullptr;
     QScrollBar *ScrEscalaHor = nullptr, *ScrEscalaVer = nullptr;
     QPushButton *cmdImagenUEHs = nullptr, *cmdAnchoLineaDib = nullptr, *cmdOrdenCauce = nullptr;

@@ -486,6 +486,53 @@ TEST_F(Redibuja, UnCauceDeUnSoloVerticeNoMuestraSuOrden)
     EXPECT_TRUE(Avisos().empty());
 }
 
+TEST_F(Redibuja, CadaCauceMuestraSuNombreYElSentidoDelAgua)
+{
+    // 300 pixels long: its middle is 50 beyond the second vertex. The water runs to the mouth, at the left.
+    red.Cauce("c-1", {{100, 300}, {200, 300}, {400, 300}});
+    red.Cauce("c-corto", {{600, 600}, {610, 610}});
+    Dibuja();
+    ASSERT_EQ(Con(Papel::Sentido).size(), 1U);
+    // The wings stand 5 out of a line of 4.
+    EXPECT_EQ(PuntosDe(Con(Papel::Sentido)[0]), (Puntos{{255, 293}, {245, 300}, {255, 307}}));
+    ASSERT_EQ(Con(Papel::NombreCauce).size(), 1U);
+    EXPECT_EQ(f.dibujo.Letras(Con(Papel::NombreCauce)[0]), "c-1");
+    EXPECT_EQ(Con(Papel::NombreCauce)[0].en, (Punto{260, 306}));
+    editor::NombresDeCauces_Click(f, s);
+    EXPECT_TRUE(Con(Papel::NombreCauce).empty());
+    EXPECT_EQ(Con(Papel::Sentido).size(), 1U);
+    editor::NombresDeCauces_Click(f, s);
+    ASSERT_EQ(Con(Papel::NombreCauce).size(), 1U);
+    red.Cauce("c-2", {{400, 500}, {200, 400}});  // down to the right: three letters left of its middle
+    Dibuja();
+    ASSERT_EQ(Con(Papel::NombreCauce).size(), 2U);
+    EXPECT_EQ(Con(Papel::NombreCauce)[1].en, (Punto{270.5F, 456}));  // 300 - 10 - 3*6.5
+}
+
+TEST_F(Redibuja, MientrasSeDibujaSeMarcanLosExtremosQueSeTocanSinAcople)
+{
+    red.Cauce("c-1", {{100, 300}, {200, 300}});
+    red.Cauce("c-2", {{205, 305}, {300, 300}});         // at the head of c-1, and not linked
+    red.Cauce("c-3", {{200, 300}, {200, 100}}, "c-1");  // linked
+    red.Cauce("c-4", {{220, 300}, {300, 500}});         // 20 away: beyond a fiftieth of 800
+    red.Represa("r-1", {600, 600});
+    red.Cauce("c-5", {{605, 605}, {700, 700}});
+    red.Cauce("c-6", {{605, 605}, {700, 500}}, "r-1");
+    Dibuja();
+    EXPECT_TRUE(Con(Papel::SinAcople).empty());
+    PonModo(editor::Boton::Cauce);
+    ASSERT_EQ(Con(Papel::SinAcople).size(), 2U);
+    EXPECT_EQ(Con(Papel::SinAcople)[0].en, (Punto{205, 305}));
+    EXPECT_EQ(Con(Papel::SinAcople)[1].en, (Punto{605, 605}));
+    EXPECT_EQ(f.lblIndicacion,
+              "Clic: primer vértice, aguas abajo. Marca naranja: extremos que se tocan sin estar acoplados.");
+    Clic(300, 300);  // the reach in hand too, at the head of c-2
+    ASSERT_EQ(Con(Papel::SinAcople).size(), 3U);
+    EXPECT_EQ(Con(Papel::SinAcople)[2].en, (Punto{300, 300}));
+    PonModo(editor::Boton::Selecciona);
+    EXPECT_TRUE(Con(Papel::SinAcople).empty());
+}
+
 TEST_F(Redibuja, LaMedicionTieneLaMitadMayorDelAncho)
 {
     PonModo(Boton::LongArea);
@@ -517,7 +564,8 @@ TEST_F(Redibuja, ElOrdenDePintadoEsImagenCaucesUEHsRepresasLagosMarcasYBanda)
         papeles.push_back(p.papel);
     EXPECT_EQ(papeles, (std::vector<Papel>{Papel::Imagen, Papel::Cauce, Papel::Icono, Papel::Nombre,
                                            Papel::Icono, Papel::Nombre, Papel::Icono, Papel::Nombre,
-                                           Papel::MarcaVertice, Papel::MarcaVertice, Papel::Banda}));
+                                           Papel::Sentido, Papel::NombreCauce, Papel::MarcaVertice,
+                                           Papel::MarcaVertice, Papel::Banda}));
     EXPECT_EQ(Con(Papel::Icono)[0].clase, editor::Clase::UEH);
     EXPECT_EQ(Con(Papel::Icono)[1].clase, editor::Clase::Represa);
     EXPECT_EQ(Con(Papel::Icono)[2].clase, editor::Clase::Lago);

@@ -146,6 +146,70 @@ TEST_F(VentanaDelEditor, ColocaCadaClaseDondeSeHaceClic)
     EXPECT_EQ(s.ColLagos.Item(1).NombreLAGO, "l-Chico");
 }
 
+TEST_F(VentanaDelEditor, UnCauceSeDibujaConElTeclado)
+{
+    Abre("Vacio");
+    const auto tecla = [this](Qt::Key k, Qt::KeyboardModifiers con = {}) {
+        QTest::keyClick(ventana->windowHandle(), k, con);
+    };
+    tecla(Qt::Key_3, Qt::ControlModifier);
+    const QImage sinCruz = Canvas().grab().toImage();
+    tecla(Qt::Key_Left);
+    EXPECT_TRUE(f.cruz);
+    const QImage conCruz = Canvas().grab().toImage();
+    const QPointF medio(Canvas().width() / 2.0, Canvas().height() / 2.0);
+    const auto rojo = [&](const QImage& imagen) {
+        const QColor c = imagen.pixelColor((medio * imagen.devicePixelRatio() + QPointF(8, 0)).toPoint());
+        return c.red() > 150 && c.green() < 100;
+    };
+    EXPECT_FALSE(rojo(sinCruz));
+    EXPECT_TRUE(rojo(conCruz));
+    tecla(Qt::Key_Return);
+    for (int i = 0; i < 3; ++i)
+        tecla(Qt::Key_Left, Qt::ShiftModifier);
+    tecla(Qt::Key_Up);
+    tecla(Qt::Key_Space);
+    EXPECT_EQ(f.ClicsCauce, 2);
+    Nombra({"solo"});
+    tecla(Qt::Key_Return);
+    ASSERT_EQ(s.ColCauces.Cuenta(), 1);
+    EXPECT_EQ(s.Cauces(1).NombreCauce, "c-solo");
+    const auto boca = APixel(f, {s.XVertice(1, 1), s.YVertice(1, 1)});
+    const auto cabecera = APixel(f, {s.XVertice(1, 2), s.YVertice(1, 2)});
+    EXPECT_LT(cabecera.x, boca.x);
+    EXPECT_LT(cabecera.y, boca.y);
+}
+
+TEST_F(VentanaDelEditor, ElTituloMarcaLoQueNoSeHaGuardado)
+{
+    Abre("Vacio");
+    const QString titulo = QStringLiteral("Diagrama de Unidades Hidrológicas de Estudio y sus componentes");
+    EXPECT_EQ(ventana->windowTitle(), titulo);
+    EXPECT_FALSE(ventana->isWindowModified());
+    Nombra({"Alta"});
+    Modo("btn_toolbarUEH");
+    Clic(200, 200);
+    EXPECT_TRUE(ventana->isWindowModified());
+    EXPECT_EQ(ventana->windowTitle(), titulo + QStringLiteral("[*]"));
+    QTest::keyClick(ventana->windowHandle(), Qt::Key_S, Qt::ControlModifier);
+    EXPECT_FALSE(ventana->isWindowModified());
+    EXPECT_EQ(ventana->windowTitle(), titulo);
+}
+
+TEST_F(VentanaDelEditor, LosNombresDeLosCaucesSeMuestranYSeOcultan)
+{
+    Abre("Quelmar");
+    const auto nombres = [this] {
+        return std::count_if(f.dibujo.Primitivas().begin(), f.dibujo.Primitivas().end(),
+                             [](const Primitiva& p) { return p.papel == Papel::NombreCauce; });
+    };
+    EXPECT_GT(nombres(), 0);
+    EXPECT_TRUE(Accion("NombresCauces").isChecked());
+    QTest::keyClick(ventana->windowHandle(), Qt::Key_T, Qt::ControlModifier);
+    EXPECT_EQ(nombres(), 0);
+    EXPECT_FALSE(Accion("NombresCauces").isChecked());
+}
+
 TEST_F(VentanaDelEditor, LosModosTienenTeclas)
 {
     Abre("Vacio");

@@ -2,6 +2,7 @@
 #include "editor/frmUEHs.h"
 
 #include <cmath>
+#include <cstdlib>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -486,6 +487,110 @@ TEST_F(Editor, EnterEnUnDibujoVacioColocaEnElMedioDeLoQueSeVe)
     // The canvas of 800 by 800 shows the units from 1000 and from 2000 on.
     EXPECT_EQ(s.ColUEHs.Item(1).IconoUEHx, 1400);
     EXPECT_EQ(s.ColUEHs.Item(1).IconoUEHy, 2400);
+}
+
+// --- the keyboard alone ---
+
+struct EditorConTeclado : Editor {
+    /// Moves the cross to a pixel with long and short steps, as far as steps of 5 lead.
+    void Cruz(int x, int y)
+    {
+        if (!f.cruz) editor::picDibujo_Flecha(f, s, 1, 0, false);
+        const auto va = [this](int cuanto, bool alLado) {
+            for (; cuanto != 0;) {
+                const bool largo = std::abs(cuanto) >= 50;
+                const int signo = cuanto > 0 ? 1 : -1;
+                editor::picDibujo_Flecha(f, s, alLado ? signo : 0, alLado ? 0 : signo, largo);
+                cuanto -= signo * (largo ? 50 : 5);
+            }
+        };
+        const editor::Pixel en = editor::APixel(f, *f.cruz);
+        va(x - static_cast<int>(std::lround(en.x)), true);
+        va(y - static_cast<int>(std::lround(en.y)), false);
+    }
+};
+
+TEST_F(EditorConTeclado, LasFlechasMuevenLaCruzDesdeElMedioDelLienzo)
+{
+    EXPECT_FALSE(f.cruz);
+    editor::picDibujo_Flecha(f, s, 1, 0, false);
+    EXPECT_EQ(f.cruz, (Punto{400, 400}));
+    editor::picDibujo_Flecha(f, s, 1, 0, false);
+    editor::picDibujo_Flecha(f, s, 0, -1, true);
+    EXPECT_EQ(f.cruz, (Punto{405, 350}));
+    EXPECT_EQ(f.lblX, "405");
+    EXPECT_EQ(f.lblY, "350");
+    Aprieta(10, 10);  // the mouse takes over
+    EXPECT_FALSE(f.cruz);
+}
+
+TEST_F(EditorConTeclado, AlBordeElDibujoAcompana)
+{
+    Cruz(790, 400);
+    editor::picDibujo_Flecha(f, s, 1, 0, true);
+    EXPECT_EQ(f.cruz, (Punto{840, 400}));
+    EXPECT_EQ(f.origen, (Punto{40, 0}));
+    EXPECT_EQ(editor::APixel(f, *f.cruz), (editor::Pixel{800, 400}));
+}
+
+TEST_F(EditorConTeclado, UnCauceSeDibujaYSeTerminaSinRaton)
+{
+    PonModo(Boton::Cauce);
+    Cruz(100, 300);
+    Tecla(T::Enter);
+    Tecla(T::Enter);  // on its only vertex: nothing
+    EXPECT_EQ(f.ClicsCauce, 1);
+    Cruz(200, 250);
+    Tecla(T::Espacio);
+    Cruz(300, 100);
+    Tecla(T::Enter);
+    EXPECT_EQ(f.ClicsCauce, 3);
+    Escribe({"solo"});
+    Tecla(T::Enter);  // on the last one: as a double click
+    ASSERT_EQ(s.ColCauces.Cuenta(), 1);
+    EXPECT_EQ(s.Cauces(1).NombreCauce, "c-solo");
+    EXPECT_EQ(s.NroVertices(1), 3);
+    EXPECT_EQ(Vertice(1, 1), (Punto{100, 300}));
+    EXPECT_EQ(Vertice(1, 2), (Punto{200, 250}));
+    EXPECT_EQ(Vertice(1, 3), (Punto{300, 100}));
+    EXPECT_EQ(editor::Modo(f), Boton::Selecciona);
+    EXPECT_EQ(Faltas(), std::vector<std::string>{});
+}
+
+TEST_F(EditorConTeclado, LaCruzColocaMideYElige)
+{
+    PonModo(Boton::UEH);
+    Cruz(250, 150);
+    Escribe({"una"});
+    Tecla(T::Enter);
+    ASSERT_EQ(s.NroUEHs, 1);
+    EXPECT_EQ(s.UEHs(1).IconoUEHx, 250);
+    EXPECT_EQ(s.UEHs(1).IconoUEHy, 150);
+    EXPECT_EQ(f.cruz, (Punto{250, 150}));
+    PonModo(Boton::Selecciona);
+    Cruz(255, 155);
+    Tecla(T::Espacio);
+    EXPECT_EQ(s.UEHSel, 1);
+    EXPECT_FALSE(f.izquierdoAbajo);
+    s.EscalaDibujo = "1";
+    PonModo(Boton::LongArea);
+    Cruz(100, 100);
+    Tecla(T::Enter);
+    Cruz(100, 200);
+    Tecla(T::Enter);
+    Responde({false});
+    anfitrion->sucesos.clear();
+    Tecla(T::Enter);
+    ASSERT_EQ(Avisos().size(), 1U);
+    EXPECT_EQ(Avisos()[0].texto, "Perímetro=100 metros");
+}
+
+TEST_F(EditorConTeclado, SinCruzElEspacioNoHaceNada)
+{
+    PonModo(Boton::UEH);
+    Tecla(T::Espacio);
+    EXPECT_EQ(s.NroUEHs, 0);
+    EXPECT_TRUE(anfitrion->sucesos.empty());
 }
 
 TEST_F(Editor, EnterTerminaElCauceConMasDeUnClic)

@@ -55,9 +55,10 @@ class FichaEmbalse_ventana : public Ficha_ventana<Forma> {
         linea->setWordWrap(true);
         QPushButton* const lleva = this->Boton("cmdLlevaTablas", [this] { cmdLlevaTablas(f, entorno.s); });
         lleva->setToolTip(forms::Q(AyudaLlevaTablas));
-        const int fila = grilla.rowCount();
-        grilla.addWidget(linea, fila, 0, 1, 2);
-        grilla.addWidget(lleva, fila, 2);
+        auto* const fila = new QHBoxLayout;
+        fila->addWidget(linea, 1);
+        fila->addWidget(lleva);
+        grilla.addLayout(fila, grilla.rowCount(), 0, 1, -1);
         this->AlMostrar([this, linea, lleva] {
             linea->setVisible(!f.lblTablas.empty());
             lleva->setVisible(!f.tablasDe.empty());

@@ -90,7 +90,8 @@ void cmdBorraTablaHQ(dlgTabla& f);
 
 /// Checks the cells, and where nothing is wrong takes them into the arrays and writes the file. The cursor
 /// stands on what was refused last. Blocks of other components that the file would lose, having been left
-/// behind by a rename, are asked about first; returns false where the user keeps them, and nothing is done.
+/// behind by a rename, are asked about first. Returns false where the table had to be written and wasn't: the
+/// user keeps them, or the file couldn't be written, which has been told.
 bool cmdAplicar(dlgTabla& f, model::Siro& s);
 
 /// Whether the grid holds what hasn't been applied.

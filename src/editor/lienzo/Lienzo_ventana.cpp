@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QResizeEvent>
 #include <QWheelEvent>
+#include <utility>
 
 namespace editor {
 namespace {
@@ -21,6 +22,20 @@ BotonRaton De(Qt::MouseButton boton)
         return BotonRaton::Medio;
     default:
         return BotonRaton::Ninguno;
+    }
+}
+
+/// Dark on light, so that it is seen over lines and over an image; the point itself stays free.
+void PintaCruz(QPainter& pintor, Pixel en)
+{
+    constexpr double Brazo = 14, Hueco = 3;
+    constexpr int Ancho = 2, Halo = 5;
+    const QPointF centro(en.x, en.y);
+    for (const auto& [color, ancho] :
+         {std::pair(QColor(Qt::white), Halo), std::pair(QColor(0xC62828), Ancho)}) {
+        pintor.setPen(QPen(color, ancho, Qt::SolidLine, Qt::RoundCap));
+        for (const QPointF hacia : {QPointF(1, 0), QPointF(-1, 0), QPointF(0, 1), QPointF(0, -1)})
+            pintor.drawLine(centro + hacia * Hueco, centro + hacia * Brazo);
     }
 }
 
@@ -45,6 +60,7 @@ void Lienzo::paintEvent(QPaintEvent* /*evento*/)
 {
     QPainter pintor(this);
     pintorDibujo.Pinta(pintor, f, rect());
+    if (f.cruz) PintaCruz(pintor, APixel(f, *f.cruz));
 }
 
 void Lienzo::mousePressEvent(QMouseEvent* evento)
@@ -79,7 +95,7 @@ void Lienzo::wheelEvent(QWheelEvent* evento)
 
 void Lienzo::keyPressEvent(QKeyEvent* evento)
 {
-    if (!AlTeclear(evento->key())) QWidget::keyPressEvent(evento);
+    if (!AlTeclear(*evento)) QWidget::keyPressEvent(evento);
 }
 
 void Lienzo::resizeEvent(QResizeEvent* evento)

@@ -20,7 +20,7 @@ class Lienzo : public QWidget {
     std::function<void()> AlDobleClic;
     std::function<void(double vueltas, Punto p)> AlGirar;
     /// Returns whether the key was one of the canvas's.
-    std::function<bool(int tecla)> AlTeclear;
+    std::function<bool(const QKeyEvent& evento)> AlTeclear;
     std::function<void(QSize tamano)> AlCambiarDeTamano;
 
     QSize sizeHint() const override;
