@@ -30,6 +30,7 @@ struct LlamadasDisco {
     long proceso = 0;  ///< number of this process
 };
 
+/// The real ones. From then on a file beyond the limit of the process is refused as on a full disk.
 LlamadasDisco LlamadasDelSistema();
 
 }  // namespace model

@@ -3,6 +3,7 @@
 // siro-lote killed while it rewrites the configuration of a project that has moved.
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -19,10 +20,13 @@ namespace {
 namespace fs = std::filesystem;
 using prueba::ProyectoDePrueba;
 
-pid_t Arranca(const ProyectoDePrueba& p)
+/// Starts it on the project; `limite`: bytes that none of its files may grow beyond.
+pid_t Arranca(const ProyectoDePrueba& p, rlim_t limite = RLIM_INFINITY)
 {
     const pid_t hijo = fork();
     if (hijo != 0) return hijo;
+    const rlimit archivos{limite, limite};
+    setrlimit(RLIMIT_FSIZE, &archivos);
     if (freopen("/dev/null", "w", stdout) == nullptr || freopen("/dev/null", "w", stderr) == nullptr)
         _exit(1);
     execl(SIRO_LOTE, SIRO_LOTE, "una", p.Conf().c_str(), "--trabajo", p.Dir().c_str(), nullptr);
@@ -62,6 +66,17 @@ TEST(LoteMatado, LaConfiguracionEsLaViejaOLaNuevaYElProximoNoDejaRestos)
     EXPECT_GE(muertes, 1);
     EXPECT_FALSE(Matado(Arranca(p)));
     EXPECT_EQ(p.Lee("Mio_Conf.vlm"), nueva);
+    EXPECT_FALSE(HayRestos(p.Dir()));
+}
+
+// The system would end a program that writes beyond the limit of its shell: it must be a refusal like others.
+TEST(LoteMatado, ElLimiteDeArchivosDelSistemaNoLoMata)
+{
+    const ProyectoDePrueba p;
+    p.Cambia("Mio_Conf.vlm", "\"" + p.Dir() + "\"", "\"/en otra parte\"");
+    const std::string vieja = p.Lee("Mio_Conf.vlm");
+    EXPECT_FALSE(Matado(Arranca(p, 100)));
+    EXPECT_EQ(p.Lee("Mio_Conf.vlm"), vieja);
     EXPECT_FALSE(HayRestos(p.Dir()));
 }
 
