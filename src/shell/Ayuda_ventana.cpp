@@ -10,11 +10,14 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QSplitter>
 #include <QTextBrowser>
+#include <QTextDocument>
 #include <QUrl>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "forms/Textos_ventana.h"
 #include "shell/Iconos_ventana.h"
@@ -24,9 +27,8 @@ namespace {
 
 constexpr int LetrasDeAncho = 120;
 constexpr int RenglonesDeAlto = 36;
-constexpr int LetrasDeContenido = 30;
 constexpr char PaginaInicial[] = "indice.html";
-constexpr char NoEsta[] = "No está en esta página";
+constexpr char NoEsta[] = "No está en la ayuda";
 constexpr char DesdeElPrincipio[] = "Sigue desde el principio";
 constexpr char DesdeElFin[] = "Sigue desde el final";
 
@@ -44,6 +46,16 @@ QPushButton* Boton(const char* leyenda, const char* nombre, QWidget* padre)
     return boton;
 }
 
+/// Whether what a page shows holds a text, capitals or not.
+bool Contiene(const QUrl& pagina, const QString& texto)
+{
+    QFile archivo(pagina.toLocalFile());
+    if (!archivo.open(QIODevice::ReadOnly)) return false;
+    QTextDocument documento;
+    documento.setHtml(QString::fromUtf8(archivo.readAll()));
+    return !documento.find(texto).isNull();
+}
+
 }  // namespace
 
 Ayuda_ventana::Ayuda_ventana(forms::Entorno& alrededor, QWidget* padre) : Ventana(alrededor, "Ayuda", padre)
@@ -56,16 +68,17 @@ Ayuda_ventana::Ayuda_ventana(forms::Entorno& alrededor, QWidget* padre) : Ventan
     Paginas->setAccessibleName(QStringLiteral("Páginas de ayuda"));
     Paginas->setOpenExternalLinks(true);
 
-    auto* const partes = new QSplitter(this);
-    partes->setObjectName(QStringLiteral("Partes"));
-    partes->setChildrenCollapsible(false);
-    partes->addWidget(Contenido);
-    partes->addWidget(Paginas);
-    partes->setStretchFactor(1, 1);
+    Partes = new QSplitter(this);
+    Partes->setObjectName(QStringLiteral("Partes"));
+    Partes->setChildrenCollapsible(false);
+    Partes->addWidget(Contenido);
+    Partes->addWidget(Paginas);
+    Partes->setStretchFactor(1, 1);
+    Contenido->setTextElideMode(Qt::ElideRight);
+    Contenido->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     const int letra = fontMetrics().averageCharWidth();
-    partes->setSizes({letra * LetrasDeContenido, letra * (LetrasDeAncho - LetrasDeContenido)});
     auto* const pila = new QVBoxLayout(this);
-    pila->addWidget(partes, 1);
+    pila->addWidget(Partes, 1);
     pila->addLayout(HazBotones());
     PonTeclas();
 
@@ -92,7 +105,7 @@ QBoxLayout* Ayuda_ventana::HazBotones()
     cmdAdelante->setEnabled(false);
     txtBuscar = Nombra(new QLineEdit(this), "txtBuscar");
     txtBuscar->setClearButtonEnabled(true);
-    auto* const rotulo = new QLabel(QStringLiteral("&Buscar en la página:"), this);
+    auto* const rotulo = new QLabel(QStringLiteral("&Buscar:"), this);
     rotulo->setBuddy(txtBuscar);
     lblBusqueda = Nombra(new QLabel(this), "lblBusqueda");
 
@@ -156,7 +169,9 @@ void Ayuda_ventana::LlenaContenido()
     QFile archivo(indice.toLocalFile());
     if (!archivo.open(QIODevice::ReadOnly)) return;
     const auto agrega = [this](const QString& titulo, const QUrl& pagina) {
-        (new QListWidgetItem(titulo, Contenido))->setData(Qt::UserRole, pagina);
+        auto* const renglon = new QListWidgetItem(titulo, Contenido);
+        renglon->setData(Qt::UserRole, pagina);
+        renglon->setToolTip(titulo);
     };
     agrega(QStringLiteral("Índice"), indice);
     auto enlaces = enlace.globalMatch(QString::fromUtf8(archivo.readAll()));
@@ -164,6 +179,11 @@ void Ayuda_ventana::LlenaContenido()
         const QRegularExpressionMatch hallado = enlaces.next();
         agrega(hallado.captured(2), indice.resolved(QUrl(hallado.captured(1))));
     }
+    // As wide as the longest title, its scroll bar beside it; a narrow window cuts them short and the tip
+    // tells the rest.
+    const int ancho = Contenido->sizeHintForColumn(0) + Contenido->verticalScrollBar()->sizeHint().width() +
+                      2 * Contenido->frameWidth();
+    Partes->setSizes({ancho, std::max(ancho, width() - ancho)});
 }
 
 void Ayuda_ventana::MarcaContenido(const QUrl& pagina)
@@ -174,6 +194,7 @@ void Ayuda_ventana::MarcaContenido(const QUrl& pagina)
         if (Contenido->item(i)->data(Qt::UserRole).toUrl() == sinLugar) Contenido->setCurrentRow(i);
 }
 
+/// Goes on in the pages behind the one on show, and comes back to it from the other side.
 void Ayuda_ventana::Busca(bool haciaAtras)
 {
     const QString texto = txtBuscar->text();
@@ -181,11 +202,23 @@ void Ayuda_ventana::Busca(bool haciaAtras)
     const auto hacia = haciaAtras ? QTextDocument::FindBackward : QTextDocument::FindFlags();
     lblBusqueda->clear();
     if (Paginas->find(texto, hacia)) return;
-    const QTextCursor lugar = Paginas->textCursor();
-    Paginas->moveCursor(haciaAtras ? QTextCursor::End : QTextCursor::Start);
-    if (Paginas->find(texto, hacia))
-        return lblBusqueda->setText(QString::fromUtf8(haciaAtras ? DesdeElFin : DesdeElPrincipio));
-    Paginas->setTextCursor(lugar);
+    const int paginas = Contenido->count();
+    const int primera = std::max(0, Contenido->currentRow());
+    for (int salto = 1; salto <= paginas; ++salto) {
+        const int cual = (primera + (haciaAtras ? paginas - salto : salto)) % paginas;
+        const QUrl pagina = Contenido->item(cual)->data(Qt::UserRole).toUrl();
+        if (salto < paginas && !Contiene(pagina, texto)) continue;
+        if (salto < paginas) Paginas->setSource(pagina);
+        const QTextCursor lugar = Paginas->textCursor();
+        Paginas->moveCursor(haciaAtras ? QTextCursor::End : QTextCursor::Start);
+        if (!Paginas->find(texto, hacia)) {
+            Paginas->setTextCursor(lugar);
+            continue;
+        }
+        const bool pasoElBorde = haciaAtras ? cual >= primera : cual <= primera;
+        if (pasoElBorde) lblBusqueda->setText(QString::fromUtf8(haciaAtras ? DesdeElFin : DesdeElPrincipio));
+        return;
+    }
     lblBusqueda->setText(QString::fromUtf8(NoEsta));
 }
 

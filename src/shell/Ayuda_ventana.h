@@ -10,12 +10,13 @@ class QLabel;
 class QLineEdit;
 class QListWidget;
 class QPushButton;
+class QSplitter;
 class QTextBrowser;
 class QUrl;
 
 namespace shell {
 
-/// The delivered pages of help: beside the page the contents, below it a search in the page.
+/// The delivered pages of help: beside the page the contents, below it a search through all pages.
 class Ayuda_ventana : public forms::Ventana {
   public:
     explicit Ayuda_ventana(forms::Entorno& alrededor, QWidget* padre = nullptr);
@@ -30,9 +31,10 @@ class Ayuda_ventana : public forms::Ventana {
     /// The links of the first page are the contents.
     void LlenaContenido();
     void MarcaContenido(const QUrl& pagina);
-    /// Finds the text typed, from the selection on; beyond an end the search goes on at the other.
+    /// Finds the text typed, from the selection on, in this page and in those behind it.
     void Busca(bool haciaAtras);
 
+    QSplitter* Partes;
     QListWidget* Contenido;
     QTextBrowser* Paginas;
     QPushButton* cmdInicio;

@@ -453,10 +453,40 @@ TEST_F(EscritorioDePrueba, LaAyudaRecorreSusPaginasYBuscaEnEllas)
     EXPECT_EQ(aviso.text(), QString());
     apoyo::Escribe(buscado, "xyzzy");
     QTest::keyClick(&buscado, Qt::Key_Return);
-    EXPECT_EQ(aviso.text(), QStringLiteral("No está en esta página"));
+    EXPECT_EQ(aviso.text(), QStringLiteral("No está en la ayuda"));
+    EXPECT_EQ(pagina(), "tutorial.html");
     apoyo::Pulsa(Control<QPushButton>(principal, "cmdInicio"));
     EXPECT_EQ(pagina(), "indice.html");
     EXPECT_EQ(aviso.text(), QString());
+}
+
+// "Gauguillet" is a formula of the calculator, and no other page names it.
+TEST_F(EscritorioDePrueba, LaAyudaBuscaEnTodasSusPaginas)
+{
+    Arranca();
+    Accion("mnuHelpContents").trigger();
+    QMainWindow& principal = escritorio.Principal();
+    auto& paginas = Control<QTextBrowser>(principal, "Paginas");
+    auto& buscado = Control<QLineEdit>(principal, "txtBuscar");
+    auto& aviso = Control<QLabel>(principal, "lblBusqueda");
+    apoyo::Escribe(buscado, "gauguillet");
+    QTest::keyClick(&buscado, Qt::Key_Return);
+    EXPECT_EQ(DeQ(paginas.source().fileName()), "dlgEmpiricas.html");
+    EXPECT_EQ(paginas.textCursor().selectedText().toLower(), QStringLiteral("gauguillet"));
+    EXPECT_EQ(aviso.text(), QString());
+    // A word of the first page, from a page behind it: around the end of the contents.
+    apoyo::Escribe(buscado, "Un primer cálculo");
+    QTest::keyClick(&buscado, Qt::Key_Return);
+    EXPECT_EQ(DeQ(paginas.source().fileName()), "indice.html");
+    EXPECT_EQ(aviso.text(), QStringLiteral("Sigue desde el principio"));
+}
+
+TEST_F(EscritorioDePrueba, ElContenidoDeLaAyudaSeLeeEntero)
+{
+    Arranca();
+    Accion("mnuHelpContents").trigger();
+    auto& contenido = Control<QListWidget>(escritorio.Principal(), "Contenido");
+    EXPECT_GE(contenido.viewport()->width(), contenido.sizeHintForColumn(0));
 }
 
 TEST_F(EscritorioDePrueba, ConLaPrincipalOcultaLaAyudaSeVeIgual)
