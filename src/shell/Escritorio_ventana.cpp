@@ -99,6 +99,7 @@ void Escritorio::PonVentanas()
     ventanaConfigura = std::make_unique<frmConfigura_ventana>(entorno, configura, ventanaPrincipal.get());
     PonLluvia();
     ventanaHietograma = std::make_unique<results::dlgChart1_ventana>(entorno, hietograma);
+    ventanaHietogramaDeLluvia = std::make_unique<results::dlgChart1_ventana>(entorno, hietogramaDeLluvia);
     ventanaHidrograma = std::make_unique<results::dlgChart2_ventana>(entorno, hidrograma);
     ventanasSerie = std::make_unique<results::VentanasDeSerie>(entorno);
     ventanaEmpiricas = std::make_unique<empirical::dlgEmpiricas_ventana>(entorno, empiricas);
@@ -115,7 +116,7 @@ void Escritorio::PonLluvia()
 {
     ventanaLluvia = std::make_unique<rainfall::dlgPp_ventana>(entorno, lluvia, ventanaPrincipal.get());
     ventanaLluvia->AbreHietograma = [this](const rainfall::PedidoHietograma& p) {
-        AbreHietograma({p.N, p.paso, p.titulo, p.P, p.D});
+        ventanaHietogramaDeLluvia->Muestra({p.N, p.paso, p.titulo, p.P, p.D});
     };
 }
 
@@ -147,7 +148,7 @@ void Escritorio::PonMandos()
     mandos.Abre = [this](Ventana ventana) { Abre(ventana, true); };
     mandos.AbreSinEsperar = [this](Ventana ventana) { Abre(ventana, false); };
     mandos.Cierra = [this](Ventana ventana) { Cierra(ventana); };
-    mandos.AbreHietograma = [this](const results::Hietograma& pedido) { AbreHietograma(pedido); };
+    mandos.AbreHietograma = [this](const results::Hietograma& pedido) { ventanaHietograma->Muestra(pedido); };
     mandos.NotasDeTormenta = [this] { return rainfall::TituloDeTormenta(lluvia, s); };
     mandos.PunteroDeEspera = [](bool espera) {
         if (espera) {
@@ -191,11 +192,6 @@ void Escritorio::Abre(Ventana ventana, bool espera)
     case Ventana::dlgEmpiricas:
         return ventanaEmpiricas->Abre();
     }
-}
-
-void Escritorio::AbreHietograma(const results::Hietograma& pedido)
-{
-    ventanaHietograma->Muestra(pedido);
 }
 
 void Escritorio::Cierra(Ventana ventana)

@@ -54,6 +54,7 @@ class Escritorio {
     results::frmPp pizarra{};
     frmConfigura configura{};
     results::dlgChart1 hietograma{};
+    results::dlgChart1 hietogramaDeLluvia{};  ///< the storm dialog's own
     results::dlgChart2 hidrograma{};
     empirical::dlgEmpiricas empiricas{};
 
@@ -67,7 +68,6 @@ class Escritorio {
     void PonLluvia();
     void PonAvance();
     void PonMandos();
-    void AbreHietograma(const results::Hietograma& pedido);
     void Cierra(Ventana ventana);
     void Presenta(QWidget& ventana);
     void PonBajo(QWidget& ventana, QWidget& dueno);
@@ -80,7 +80,7 @@ class Escritorio {
     std::unique_ptr<frmConfigura_ventana> ventanaConfigura;
     std::unique_ptr<rainfall::dlgPp_ventana> ventanaLluvia;
     std::unique_ptr<results::frmPp_ventana> ventanaPizarra;
-    std::unique_ptr<results::dlgChart1_ventana> ventanaHietograma;
+    std::unique_ptr<results::dlgChart1_ventana> ventanaHietograma, ventanaHietogramaDeLluvia;
     std::unique_ptr<results::dlgChart2_ventana> ventanaHidrograma;
     std::unique_ptr<results::VentanasDeSerie> ventanasSerie;
     std::unique_ptr<empirical::dlgEmpiricas_ventana> ventanaEmpiricas;

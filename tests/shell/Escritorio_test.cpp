@@ -323,6 +323,31 @@ TEST_F(EscritorioDePrueba, ElHidrogramaSeAbreAlTerminarLaCorrida)
     EXPECT_TRUE(Control<QWidget>(escritorio.Principal(), "dlgChart2").isVisible());
 }
 
+TEST_F(EscritorioDePrueba, ElHietogramaAbiertoQuedaCuandoLaTormentaPideElSuyo)
+{
+    Arranca(instalacion.Quelmar());
+    escritorio.s.PpTormenta = 80;
+    escritorio.s.DurTormenta = 120;
+    QTest::keyClick(&escritorio.Principal(), Qt::Key_F8);
+    auto& delMenu = Control<QWidget>(escritorio.Principal(), "dlgChart1");
+    ASSERT_TRUE(delMenu.isVisible());
+    apoyo::Usuario usuario;
+    usuario.Hace([&](QWidget& dialogo) {
+        ASSERT_EQ(dialogo.objectName(), QStringLiteral("dlgPp"));
+        apoyo::Pulsa(Control<QWidget>(dialogo, "cmdVerGrafico"));
+        // The dialog's own stands over it; the other one is still where it was.
+        const auto* const suyo = dialogo.findChild<QWidget*>(QStringLiteral("dlgChart1"));
+        EXPECT_TRUE(suyo != nullptr && suyo->isVisible());
+        EXPECT_TRUE(escritorio.Principal().isAncestorOf(&delMenu));
+        EXPECT_TRUE(delMenu.isVisible());
+        dialogo.close();
+    });
+    QTest::keyClick(&escritorio.Principal(), Qt::Key_F4);
+    EXPECT_TRUE(delMenu.isVisible());
+    EXPECT_TRUE(escritorio.hietograma.abierta);
+    EXPECT_FALSE(escritorio.hietogramaDeLluvia.abierta);
+}
+
 TEST_F(EscritorioDePrueba, ElEditorEscondeLaVentanaPrincipalMientrasEstaAbierto)
 {
     Arranca(instalacion.Quelmar());
