@@ -151,8 +151,10 @@ void dlgTabla_ventana::AlCerrar()
 void dlgTabla_ventana::PonCurvas()
 {
     const std::vector<CurvaTabla> nuevas = Curvas(f);
-    for (std::size_t i = 0; i < curvas.size() && i < nuevas.size(); ++i)
+    for (std::size_t i = 0; i < curvas.size() && i < nuevas.size(); ++i) {
+        curvas[i]->PonTema(f.lblNombre, f.lblNombre);
         curvas[i]->Muestra(GraficoDe(nuevas[i]));
+    }
 }
 
 void dlgTabla_ventana::Muestra()

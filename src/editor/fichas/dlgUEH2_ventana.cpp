@@ -122,6 +122,7 @@ QWidget* dlgUEH2_ventana::MarcoDeRecesion()
 
 void dlgUEH2_ventana::MuestraCurva()
 {
+    curva->PonTema(f.lblNombreUEH, f.lblNombreUEH);
     curva->Muestra(GraficoDe(CurvaDeCampos(f)));
 }
 
