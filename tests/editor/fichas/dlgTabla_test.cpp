@@ -528,7 +528,7 @@ TEST_F(EditorDeTablas, AceptarNoCierraSiElDiscoRechazaLaTabla)
 {
     AbreTabla();
     Fila(1, {"9", "1", "900"});
-    disco.FallaEn(2, model::NumeroFalla::AccesoRuta);  // 1: the directory
+    disco.FallaEn(3, model::NumeroFalla::AccesoRuta);  // 1: what the file would lose, 2: the directory
     OKButton(f, s);
     EXPECT_TRUE(f.abierta);
     EXPECT_EQ(Textos(),
