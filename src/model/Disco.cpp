@@ -51,11 +51,12 @@ void CopiaArchivo(const LlamadasDisco& llamadas, const std::string& origen, cons
     ReemplazaArchivos(llamadas, {{destino, std::move(bytes)}});
 }
 
-void BorraArchivo(const fs::path& camino)
+void BorraArchivo(const LlamadasDisco& llamadas, const fs::path& camino)
 {
     ExigeArchivo(camino);
     std::error_code error;
     if (!fs::remove(camino, error)) throw Falla{NumeroFalla::AccesoRuta};
+    OlvidaPendientes(llamadas, camino.parent_path(), {TextoDe(camino.filename())});
 }
 
 void CreaUnDirectorio(const fs::path& camino)
@@ -92,7 +93,7 @@ Disco DiscoDelSistema(std::shared_ptr<const LlamadasDisco> llamadas)
     };
     disco.CreaDirectorio = [](const std::string& ruta) { CreaUnDirectorio(Camino(ruta)); };
     disco.Lista = [](const std::string& directorio) { return ListaDirectorio(Camino(directorio)); };
-    disco.Borra = [](const std::string& ruta) { BorraArchivo(Camino(ruta)); };
+    disco.Borra = [llamadas](const std::string& ruta) { BorraArchivo(*llamadas, Camino(ruta)); };
     disco.Copia = [llamadas](const std::string& origen, const std::string& destino) {
         CopiaArchivo(*llamadas, origen, destino);
     };

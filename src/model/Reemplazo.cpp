@@ -81,6 +81,7 @@ class Grupo {
     void Pone();
     void CumpleEnSitio();
     void Limpia();
+    void Olvida() const;
     fs::path EnCarpeta(const std::string& nombre) const { return carpeta / Camino(nombre); }
 
     const LlamadasDisco& llamadas;
@@ -161,6 +162,7 @@ void Grupo::Pone()
     }
     llamadas.Asienta(carpeta);
     Limpia();
+    Olvida();
 }
 
 void Grupo::Cumple(bool conVuelta)
@@ -184,6 +186,14 @@ void Grupo::Limpia()
     if (!lista.empty()) llamadas.Borra(std::exchange(lista, {}));
     for (Pieza& pieza : piezas)
         if (!pieza.temporal.empty()) llamadas.Borra(std::exchange(pieza.temporal, {}));
+}
+
+void Grupo::Olvida() const
+{
+    std::vector<std::string> nombres;
+    for (const Pieza& pieza : piezas)
+        nombres.push_back(TextoDe(pieza.destino.filename()));
+    OlvidaPendientes(llamadas, carpeta, nombres);
 }
 
 void Grupo::Vuelve()
@@ -223,6 +233,7 @@ void Grupo::CumpleEnSitio()
             if (escrita.puesta && escrita.viejo) llamadas.Sobrescribe(escrita.destino, *escrita.viejo);
         throw FallaDe(pieza.destino);
     }
+    Olvida();
 }
 
 }  // namespace

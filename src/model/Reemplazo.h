@@ -32,6 +32,11 @@ void ReemplazaArchivos(const LlamadasDisco& llamadas, const std::vector<CambioAr
 std::error_code PoneTemporal(const LlamadasDisco& llamadas, const std::filesystem::path& temporal,
                              const std::filesystem::path& destino);
 
+/// Takes names out of what an earlier replacement left unfinished, once they hold what is newer: finishing it
+/// would put the older bytes over them. What belongs to another program that is running is left to it.
+void OlvidaPendientes(const LlamadasDisco& llamadas, const std::filesystem::path& carpeta,
+                      const std::vector<std::string>& nombres);
+
 /// See Disco::Recupera. What belongs to another program that is running is left to it.
 Recuperacion RecuperaCarpeta(const LlamadasDisco& llamadas, const std::string& directorio);
 

@@ -60,6 +60,13 @@ class Recuperador {
         return hecho;
     }
 
+    void Olvida(const std::vector<std::string>& nombres)
+    {
+        Busca();
+        for (const NombreResto& resto : restos)
+            if (resto.pieza < 0) Olvida(resto, nombres);
+    }
+
   private:
     fs::path EnCarpeta(const NombreResto& resto) const { return carpeta / Camino(resto.Texto()); }
 
@@ -113,6 +120,23 @@ class Recuperador {
         }
         if (nombres) llamadas.Asienta(carpeta);
         llamadas.Borra(EnCarpeta(lista));
+    }
+
+    /// Removes the temporaries of such names, and the list with the last one.
+    void Olvida(const NombreResto& lista, const std::vector<std::string>& nombres) const
+    {
+        std::optional<std::vector<std::string>> suyos;
+        Lee(lista, suyos);
+        if (!suyos) return;
+        bool queda = false;
+        for (std::size_t i = 0; i < suyos->size(); ++i) {
+            const fs::path temporal = EnCarpeta({lista.proceso, lista.turno, static_cast<long>(i)});
+            std::error_code error;
+            if (!fs::exists(fs::symlink_status(temporal, error))) continue;
+            const bool olvida = std::find(nombres.begin(), nombres.end(), (*suyos)[i]) != nombres.end();
+            queda = !olvida || llamadas.Borra(temporal) || queda;
+        }
+        if (!queda) llamadas.Borra(EnCarpeta(lista));
     }
 
     /// Takes the names of a list; none where its program was killed while it wrote it. Returns false where it
@@ -184,6 +208,16 @@ std::optional<std::vector<std::string>> LeeLista(std::string_view bytes)
         bytes.remove_prefix(fin + 1);
     }
     return nombres;
+}
+
+void OlvidaPendientes(const LlamadasDisco& llamadas, const fs::path& carpeta,
+                      const std::vector<std::string>& nombres)
+{
+    try {
+        Recuperador(llamadas, carpeta).Olvida(nombres);
+    } catch (const Falla&) {
+        return;  // a folder that can't be looked through keeps nothing that could be finished
+    }
 }
 
 Recuperacion RecuperaCarpeta(const LlamadasDisco& llamadas, const std::string& directorio)

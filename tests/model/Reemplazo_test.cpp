@@ -162,6 +162,44 @@ TEST_F(ReemplazoReal, LoQueNoSePuedeCompletarQuedaParaLaProximaVez)
     EXPECT_EQ(Queda(), caso.nuevo);
 }
 
+// A replacement that could neither end nor go back waits in the folder; what is saved after it is newer.
+TEST_F(ReemplazoReal, LoQueEsperaDeUnGuardadoNoTapaLoGuardadoDespues)
+{
+    const Caso& caso = Casos[2];
+    const Contenido despues{{"a", "después a"}, {"b", "después b"}}, soloUno{{"b", "después b"}};
+    int esperaron = 0;
+    for (const Contenido& otro : {despues, soloUno})
+        for (int n = 1; n < MuchasLlamadas; ++n) {
+            fallas::PonContenido(carpeta.Camino(), caso.viejo);
+            const Golpe golpe{.llamada = n, .error = std::errc::io_error, .sigue = true};
+            apoyo::NumeroDeFalla([&] { Reemplaza(caso.nuevo, fallas::Llamadas(golpe)); });
+            esperaron += Queda().size() > caso.viejo.size() ? 1 : 0;
+            Reemplaza(otro, LlamadasDelSistema());
+            Recupera();
+            const Contenido queda = Queda();
+            EXPECT_EQ(queda.size(), caso.viejo.size()) << n;
+            for (const auto& [nombre, bytes] : otro)
+                EXPECT_EQ(queda.at(nombre), bytes) << nombre << ", " << n;
+            if (*golpe.cuenta < n) break;
+        }
+    EXPECT_GE(esperaron, 2);
+}
+
+TEST_F(ReemplazoReal, LoBorradoNoVuelveConLoQueEspera)
+{
+    fallas::PonContenido(carpeta.Camino(), {{".siro-0-1-1.tmp", "nuevo b"},
+                                            {".siro-0-1.lista", "a\nb\nfin\n"},
+                                            {"a", "nuevo a"},
+                                            {"b", "viejo b"}});
+    const Disco disco = DiscoDelSistema();
+    disco.Borra(En("a").string());
+    EXPECT_EQ(Queda().size(), 3U) << "b still waits";
+    disco.Borra(En("b").string());
+    EXPECT_EQ(Queda(), Contenido{});
+    Recupera();
+    EXPECT_EQ(Queda(), Contenido{});
+}
+
 TEST_F(ReemplazoReal, LosDerechosDelArchivoQuedan)
 {
     fallas::PonContenido(carpeta.Camino(), {{"a", "viejo"}});
