@@ -30,10 +30,11 @@ constexpr std::size_t LargoTrozo = std::size_t{1} << 16;  // bytes of a piece of
 constexpr int AnchoBarra = 30;                       // characters between the brackets
 constexpr std::string_view BorraLinea = "\r\x1b[K";  // back to the margin, erase to the end of the line
 
-void Escribe(std::FILE* archivo, std::string_view texto)
+constexpr long IgualesEscritas = 999;  // lines of the same words; the rest are only counted
+
+bool Escribe(std::FILE* archivo, std::string_view texto)
 {
-    std::fwrite(texto.data(), 1, texto.size(), archivo);
-    std::fflush(archivo);
+    return std::fwrite(texto.data(), 1, texto.size(), archivo) == texto.size() && std::fflush(archivo) == 0;
 }
 
 bool EsTerminal(std::FILE* archivo)
@@ -79,8 +80,10 @@ void AgregaDosCifras(std::string& texto, int n)
 
 Salidas SalidasDelProceso()
 {
-    return {[](std::string_view texto) { Escribe(stdout, texto); },
-            [](std::string_view texto) { Escribe(stderr, texto); }, EsTerminal(stderr)};
+    const auto estandar = [](std::string_view texto) {
+        if (!Escribe(stdout, texto)) throw model::Falla{model::NumeroFalla::AccesoRuta};
+    };
+    return {estandar, [](std::string_view texto) { Escribe(stderr, texto); }, EsTerminal(stderr)};
 }
 
 std::string LineaDeAviso(std::string_view titulo, std::string_view texto, std::string_view respuesta)
@@ -190,8 +193,23 @@ void AnfitrionLote::MuestraPizarra() const
 
 void AnfitrionLote::Linea(std::string_view titulo, std::string_view texto, std::string_view respuesta)
 {
+    const std::string linea = LineaDeAviso(titulo, texto, respuesta);
+    const long esta = ++veces[linea];
+    if (esta > IgualesEscritas) {
+        if (esta == IgualesEscritas + 1) muchas.push_back(linea);
+        return;
+    }
     BorraAvance();
-    salidas.Errores(LineaDeAviso(titulo, texto, respuesta));
+    salidas.Errores(linea);
+}
+
+void AnfitrionLote::CuentaRepetidas()
+{
+    for (const std::string& linea : muchas)
+        salidas.Errores(linea.substr(0, linea.size() - 1) + " (" +
+                        std::to_string(veces[linea] - IgualesEscritas) + " veces más)\n");
+    muchas.clear();
+    veces.clear();
 }
 
 // One drawing per percent: a series' storms may be over faster than a terminal shows them.

@@ -5,13 +5,15 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "model/Anfitrion.h"
 
 namespace batch {
 
-/// Where the batch program's texts go; the tests put buffers in their place. Bytes are UTF-8.
+/// Where the batch program's texts go; the tests put buffers in their place. Bytes are UTF-8. Estandar throws
+/// Falla 75 where it can't be written.
 struct Salidas {
     std::function<void(std::string_view)> Estandar = [](std::string_view) {};
     std::function<void(std::string_view)> Errores = [](std::string_view) {};
@@ -54,6 +56,8 @@ class AnfitrionLote {
     void MuestraPizarra() const;
     /// Takes the progress bar off the terminal.
     void BorraAvance();
+    /// Tells of each line that came a thousand times or more how often it wasn't written any more.
+    void CuentaRepetidas();
 
   private:
     void PonPizarraYAvance(model::Anfitrion& anfitrion);
@@ -64,8 +68,10 @@ class AnfitrionLote {
     bool marcaPizarra;
     bool responde;
     TextoPorTrozos pizarra;
-    int porcentaje = 0;         ///< of the series' storms, done
-    int porcentajeVisible = 0;  ///< what the bar on the terminal shows
+    std::unordered_map<std::string, long> veces;  ///< that a line of a box or question came
+    std::vector<std::string> muchas;              ///< lines that have come too often to be written
+    int porcentaje = 0;                           ///< of the series' storms, done
+    int porcentajeVisible = 0;                    ///< what the bar on the terminal shows
     bool avanceVisible = false;
 };
 

@@ -4,9 +4,13 @@
 #include <algorithm>
 #include <cstddef>
 #include <filesystem>
+#include <functional>
+#include <new>
+#include <optional>
 #include <system_error>
 
 #include "batch/ResultadosCsv.h"
+#include "engine/mdlProceso1.h"
 #include "engine/mdlSeriePDR.h"
 #include "engine/modProceso0.h"
 #include "model/ArchivosTormenta.h"
@@ -61,6 +65,41 @@ void CargaPpUEH(Siro& s, const std::vector<float>& laminas)
         s.PpUEH(static_cast<int>(i) + 1) = laminas[i];
     const auto primera = std::find_if(laminas.begin(), laminas.end(), [](float p) { return p > 0; });
     if (primera != laminas.end()) s.PpTormenta = *primera;
+}
+
+bool SeAbre(const model::Disco& disco, const std::string& ruta)
+{
+    return model::Sentencia([&] { disco.Lee(ruta); }, [](const model::Falla&) {});
+}
+
+/// A disk that notes whether the text files of a run couldn't be written. That they couldn't has been told
+/// where it arose, and the run goes on.
+model::Disco Vigilado(model::Disco disco, const std::string& dirTrabajo, bool& escritos)
+{
+    using Escritura = std::function<void(const std::string& ruta, std::string_view bytes)>;
+    const auto vigila = [&](Escritura& escribe) {
+        escribe = [dirTrabajo, &escritos, sin = escribe](const std::string& ruta, std::string_view bytes) {
+            try {
+                sin(ruta, bytes);
+            } catch (const model::Falla&) {
+                if (ruta == model::Ruta(dirTrabajo, engine::ArchivoPizarra) ||
+                    ruta == model::Ruta(dirTrabajo, engine::ArchivoTablaQDR))
+                    escritos = false;
+                throw;
+            }
+        };
+    };
+    vigila(disco.Escribe);
+    vigila(disco.Agrega);
+    return disco;
+}
+
+/// Writes to standard output. Returns whether that went well; a fault is told.
+bool Muestra(const Salidas& salidas, const std::function<void()>& escribe)
+{
+    return model::Sentencia(escribe, [&](const model::Falla&) {
+        salidas.Errores("siro-lote: no se puede escribir en la salida estándar\n");
+    });
 }
 
 /// Runs what was settled. Returns whether the run went to its end.
@@ -133,20 +172,30 @@ int Corre(const Opciones& o, const std::string& dirEjecutable, const Salidas& sa
 {
     AnfitrionLote anfitrion(salidas, o.pizarra, o.respondeSi);
     Siro s;
+    if (!SeAbre(s.Disco, Absoluta(o.conf))) {
+        salidas.Errores("siro-lote: no se puede abrir " + Absoluta(o.conf) + "\n");
+        return EstadoInterrumpido;
+    }
     s.Anfitrion = anfitrion.Anfitrion();
     s.DirEjecutable = dirEjecutable;
     s.DirTrabajo = o.trabajo.empty() ? model::DirTrabajoDe(dirEjecutable) : Absoluta(o.trabajo);
     model::AvisaEntregaPendiente(s);
-    bool completa = false;
+    bool completa = false, escritos = true;
+    s.Disco = Vigilado(s.Disco, s.DirTrabajo, escritos);
+    std::optional<int> fin;
     try {
         completa = CorreOrden(s, o);
-    } catch (const model::FinDelPrograma& fin) {
-        anfitrion.BorraAvance();
-        return fin.estado;
+    } catch (const model::FinDelPrograma& terminada) {
+        fin = terminada.estado;
+    } catch (const std::bad_alloc&) {
+        salidas.Errores("siro-lote: no hay memoria suficiente\n");
+        fin = EstadoInterrumpido;
     }
     anfitrion.BorraAvance();
-    anfitrion.MuestraPizarra();
-    return completa && GuardaResultados(s, o) ? EstadoCompleto : EstadoInterrumpido;
+    anfitrion.CuentaRepetidas();
+    if (fin) return *fin;
+    escritos = Muestra(salidas, [&] { anfitrion.MuestraPizarra(); }) && escritos;
+    return completa && escritos && GuardaResultados(s, o) ? EstadoCompleto : EstadoInterrumpido;
 }
 
 int Lote(int argc, const char* const* argv, const Salidas& salidas)
@@ -155,8 +204,7 @@ int Lote(int argc, const char* const* argv, const Salidas& salidas)
     if (lectura.opciones)
         return Corre(*lectura.opciones, DirectorioDelEjecutable(argc > 0 ? argv[0] : ""), salidas);
     if (lectura.motivo.empty()) {
-        salidas.Estandar(Uso());
-        return EstadoCompleto;
+        return Muestra(salidas, [&] { salidas.Estandar(Uso()); }) ? EstadoCompleto : EstadoInterrumpido;
     }
     salidas.Errores("siro-lote: " + lectura.motivo + "\n\n");
     salidas.Errores(Uso());

@@ -6,7 +6,6 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
-#include <limits>
 
 #include "model/Falla.h"
 #include "model/Numeros.h"
@@ -76,6 +75,7 @@ std::int16_t Entero(std::string_view texto, double menor, double mayor)
 float Lamina(std::string_view texto)
 {
     const double x = Numero(texto);
+    if (x < 0) throw ValorErroneo{"debe ser 0 o más"};
     try {
         return model::Simple(x);
     } catch (const model::Falla&) {
@@ -112,7 +112,8 @@ bool RespondeSi(std::string_view texto)
 
 int Hilos(std::string_view texto)
 {
-    return static_cast<int>(NumeroEnteroEntre(texto, 0, std::numeric_limits<int>::max()));
+    constexpr double MaximoHilos = 1024;
+    return static_cast<int>(NumeroEnteroEntre(texto, 0, MaximoHilos));
 }
 
 /// An option with a value: how it is written and where its value goes.

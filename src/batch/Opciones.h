@@ -23,12 +23,12 @@ struct Opciones {
     std::int16_t distribucion = 0;  ///< temporal distribution 0..7
     std::int16_t pasoPp = 10;       ///< model step [min], from 1
     std::int16_t pasoQ = 10;        ///< output step [min], from 1
-    std::vector<float> ppUEH{};     ///< depth of each UEH in file order [mm], 70 at most
+    std::vector<float> ppUEH{};     ///< depth of each UEH in file order [mm], not negative, 70 at most
     std::string tormenta{};         ///< file name of the real storm, in the project's directory
     std::int16_t tabla = 0;         ///< P-D-R table 0..3
     bool pizarra = false;           ///< the Slate is on
     bool respondeSi = true;         ///< answer to every question
-    int hilos = 0;                  ///< threads of a series; 0: all cores
+    int hilos = 0;                  ///< threads of a series, 1024 at most; 0: all cores
     std::string resultados{};       ///< path of the CSV file; empty: none
 
     bool operator==(const Opciones&) const = default;

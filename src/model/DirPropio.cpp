@@ -92,6 +92,19 @@ void Entrega(const Disco& disco, const std::string& dirEntregado, const std::str
     if (todo) Intenta([&] { disco.Borra(marca); });
 }
 
+/// Where an installation puts the data beside the programs.
+std::string Compartido(const std::string& dirEjecutable)
+{
+    return Ruta(Ruta(Ruta(dirEjecutable, ".."), "share"), "siro");
+}
+
+/// Whether the program stands in the folder of all programs, where nobody's data belong, root's neither.
+bool EsInstalacion(const std::string& dirEjecutable, const std::string& dirEntregado)
+{
+    return std::filesystem::path(dirEjecutable).filename() == "bin" &&
+           dirEntregado == Compartido(dirEjecutable);
+}
+
 /// Where the system keeps the data of a user's programs.
 std::string DatosDelUsuario(const Ambiente& ambiente)
 {
@@ -128,8 +141,7 @@ std::string DirDelUsuario(const Ambiente& ambiente)
 
 std::string DirEntregado(const Disco& disco, const std::string& dirEjecutable)
 {
-    const std::string compartido = Ruta(Ruta(Ruta(dirEjecutable, ".."), "share"), "siro");
-    for (const std::string& lugar : {Ruta(dirEjecutable, "data"), compartido, dirEjecutable})
+    for (const std::string& lugar : {Ruta(dirEjecutable, "data"), Compartido(dirEjecutable), dirEjecutable})
         if (disco.HayDirectorio(Ruta(lugar, CarpetaDeAyuda))) return lugar;
     return {};
 }
@@ -137,11 +149,13 @@ std::string DirEntregado(const Disco& disco, const std::string& dirEjecutable)
 std::string PreparaDirTrabajo(const Disco& disco, const std::string& dirEjecutable,
                               const std::string& dirUsuario, const std::string& dirEntregado)
 {
-    const bool propio = dirUsuario.empty() || SePuedeEscribir(disco, dirEjecutable);
+    const bool instalado = EsInstalacion(dirEjecutable, dirEntregado);
+    const bool propio = dirUsuario.empty() || (!instalado && SePuedeEscribir(disco, dirEjecutable));
     std::string directorio = propio ? dirEjecutable : dirUsuario;
     CreaCamino(disco, directorio);
     const bool entregado = Esta(disco, directorio, ArchivoPuntero) && !EntregaPendiente(disco, directorio);
-    if (!dirEntregado.empty() && !entregado) Entrega(disco, dirEntregado, directorio);
+    if (!dirEntregado.empty() && !entregado && !(instalado && propio))
+        Entrega(disco, dirEntregado, directorio);
     return directorio;
 }
 

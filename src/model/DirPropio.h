@@ -25,7 +25,8 @@ std::string DirDelUsuario(const Ambiente& ambiente);
 /// directory itself. It is known by its folder of help. Empty where there is none.
 std::string DirEntregado(const Disco& disco, const std::string& dirEjecutable);
 
-/// The program's own directory: that of the executable, or `dirUsuario` where the user may not write there.
+/// The program's own directory: that of the executable, or `dirUsuario` where the user may not write there or
+/// the executable stands in a "bin" with "share/siro" beside it.
 /// At its first start, which finds no pointer file, the delivered tables, storms, sample project and help
 /// that it lacks are copied there from `dirEntregado`, each whole or not at all. What can't be copied, on a
 /// full disk for one, is tried again at the next start.

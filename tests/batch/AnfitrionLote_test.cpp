@@ -62,6 +62,32 @@ TEST(AnfitrionLote, LaRespuestaVaDetrasDeLaPregunta)
     EXPECT_EQ(no.errores, "[SIRO] ¿Seguir? -> No\n");
 }
 
+// 999 of a kind are written, the rest counted; other lines between them change nothing.
+TEST(AnfitrionLote, DesdeLaMilesimaLineaIgualSoloSeCuenta)
+{
+    Captura c;
+    AnfitrionLote lote(c.Hacia(false), false, true);
+    const auto anfitrion = lote.Anfitrion();
+    for (int i = 1; i <= 32767; ++i)
+        anfitrion.Avisa({"igual"});
+    anfitrion.Avisa({"otra"});
+    for (int i = 1; i <= 1000; ++i)
+        EXPECT_TRUE(anfitrion.Pregunta({"¿Sigue?"}));
+    for (int i = 1; i <= 999; ++i)
+        anfitrion.Avisa({"justo"});
+    std::string esperado;
+    for (int i = 1; i <= 999; ++i)
+        esperado += "[SIRO] igual\n";
+    esperado += "[SIRO] otra\n";
+    for (int i = 1; i <= 999; ++i)
+        esperado += "[SIRO] ¿Sigue? -> Sí\n";
+    for (int i = 1; i <= 999; ++i)
+        esperado += "[SIRO] justo\n";
+    EXPECT_EQ(c.errores, esperado);
+    lote.CuentaRepetidas();
+    EXPECT_EQ(c.errores, esperado + "[SIRO] igual (31768 veces más)\n[SIRO] ¿Sigue? -> Sí (1 veces más)\n");
+}
+
 TEST(AnfitrionLote, TerminarSaleConEstadoTres)
 {
     Captura c;

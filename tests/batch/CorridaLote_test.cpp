@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -99,6 +100,39 @@ TEST_F(CorridaLote, AbrirTomaDirectorioNombreYConfiguracion)
     EXPECT_EQ(s.TituloProyecto, "Titulo");
     EXPECT_EQ(s.N0Dur, 10.0F);
     EXPECT_EQ(s.ColUEHs.Cuenta(), 0);  // the components wait for the run
+}
+
+TEST_F(CorridaLote, UnaConfiguracionQueNoSePuedeAbrirEsUnaLineaConEstadoUno)
+{
+    const std::string ausente = proyecto.Ruta("Otro_Conf.vlm"), carpeta = proyecto.Ruta("Dir_Conf.vlm");
+    std::filesystem::create_directory(carpeta);
+    for (const std::string& conf : {ausente, carpeta})
+        for (const char* orden : {"una", "serie"}) {
+            const Respuesta r = Lote({orden, conf, "--trabajo", proyecto.Dir(), "--pizarra"});
+            EXPECT_EQ(r.estado, 1);
+            EXPECT_EQ(r.errores, "siro-lote: no se puede abrir " + conf + "\n");
+            EXPECT_EQ(r.estandar, "");
+        }
+    EXPECT_FALSE(proyecto.Esta("SalePizarra1_tem.txt"));
+}
+
+TEST_F(CorridaLote, UnTextoDeResultadosQueNoSePuedeEscribirDaEstadoUno)
+{
+    Tablas("2,0,0,0", "60,60,10\r\n120,60,25\r\n");
+    std::filesystem::create_directory(proyecto.Ruta("SalePizarra1_tem.txt"));
+    const Respuesta una = Una();
+    EXPECT_EQ(una.estado, 1);
+    EXPECT_EQ(una.errores, "[SIRO] Error Nro. 75 ,Error de acceso a la ruta o al archivoVerifique\n");
+    EXPECT_FALSE(proyecto.Esta("r.csv"));
+
+    EXPECT_EQ(Serie().estado, 0) << "a series doesn't write that file";
+    std::filesystem::remove(proyecto.Ruta("r.csv"));
+    std::filesystem::remove(proyecto.Ruta("SaleTablasQDRs_tem.txt"));
+    std::filesystem::create_directory(proyecto.Ruta("SaleTablasQDRs_tem.txt"));
+    const Respuesta serie = Serie();
+    EXPECT_EQ(serie.estado, 1);
+    EXPECT_TRUE(Contiene(serie.errores, "<SaleTablasQDRs_tem.txt> ha fallado")) << serie.errores;
+    EXPECT_FALSE(proyecto.Esta("r.csv"));
 }
 
 TEST_F(CorridaLote, AbrirNoTocaElPunteroDelEscritorio)
@@ -370,14 +404,6 @@ TEST_F(CorridaLote, PasosQueNoSonMultiplosDanUno)
     const Respuesta r = Una({"--paso-pp", "10", "--paso-q", "4"});
     EXPECT_EQ(r.estado, 1);
     EXPECT_TRUE(Contiene(r.errores, "debe ser múltiplo del paso de cálculo")) << r.errores;
-}
-
-TEST_F(CorridaLote, UnaConfiguracionQueFaltaDaUno)
-{
-    const Respuesta r = Lote({"una", proyecto.Ruta("Otro_Conf.vlm"), "--trabajo", proyecto.Dir()});
-    EXPECT_EQ(r.estado, 1);
-    EXPECT_TRUE(r.errores.starts_with("[SIRO] Error Nro. 53 ,No se encontró el archivoVerifique.\n"))
-        << r.errores;
 }
 
 // 58 fields: the project has no name any more, and nothing runs.

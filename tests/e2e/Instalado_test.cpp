@@ -25,11 +25,12 @@ using apoyo::BytesDeArchivo;
 using apoyo::MismoTexto;
 using e2e::Salida;
 
-/// One way to install, and where it puts things.
+/// One way to install, and where it puts things; the program's own directory is its folder or the user's.
 struct Disposicion {
     const char* nombre;
     std::vector<std::string> opciones;
     const char *programas, *datos;
+    bool delUsuario;
 };
 
 void PrintTo(const Disposicion& d, std::ostream* salida)
@@ -52,6 +53,8 @@ class Instalado : public testing::TestWithParam<Disposicion> {
         fs::rename(raiz + "/antes", lugar);
         programas = fs::path(lugar + "/" + GetParam().programas).lexically_normal().string();
         datos = fs::path(lugar + "/" + GetParam().datos).lexically_normal().string();
+        propio = GetParam().delUsuario ? raiz + "/casa/SIRO/siro" : programas;
+        fs::create_directory(raiz + "/casa");
     }
     void TearDown() override
     {
@@ -66,7 +69,16 @@ class Instalado : public testing::TestWithParam<Disposicion> {
                fs::exists(directorio + "/Ayuda/indice.html");
     }
 
-    std::string raiz, lugar, programas, datos;
+    /// What stands in the folder of the programs.
+    [[nodiscard]] std::vector<std::string> Programas() const
+    {
+        std::vector<std::string> nombres;
+        for (const auto& i : fs::directory_iterator(programas))
+            nombres.push_back(i.path().filename().string());
+        return nombres;
+    }
+
+    std::string raiz, lugar, programas, datos, propio;
 };
 
 // The delivered tables have come to the program's own directory, and the result files lie there.
@@ -80,14 +92,17 @@ TEST_P(Instalado, SiroLoteHallaSusTablasYDaLoMismo)
                                   "/");
     ASSERT_EQ(aqui.estado, 0) << aqui.errores;
 
-    const Salida alla = e2e::Ejecuta(programas + "/siro-lote",
-                                     {"una", datos + "/Proyectos/Quelmar_Conf.vlm", "--distribucion", "5",
-                                      "--resultados", raiz + "/alla.csv"},
-                                     "/");
+    const std::vector<std::string> instalados = Programas();
+    const Salida alla = e2e::Ejecuta(
+        "/usr/bin/env",
+        {"XDG_DATA_HOME=" + raiz + "/casa", programas + "/siro-lote", "una",
+         datos + "/Proyectos/Quelmar_Conf.vlm", "--distribucion", "5", "--resultados", raiz + "/alla.csv"},
+        "/");
     ASSERT_EQ(alla.estado, 0) << alla.errores;
     EXPECT_TRUE(MismoTexto(BytesDeArchivo(raiz + "/aqui.csv"), BytesDeArchivo(raiz + "/alla.csv")));
-    EXPECT_TRUE(EstaLoEntregadoEn(programas));
-    EXPECT_TRUE(fs::exists(programas + "/SalePizarra1_tem.txt"));
+    EXPECT_TRUE(EstaLoEntregadoEn(propio));
+    EXPECT_TRUE(fs::exists(propio + "/SalePizarra1_tem.txt"));
+    if (GetParam().delUsuario) EXPECT_EQ(Programas(), instalados) << "nothing is copied there, root or not";
 }
 
 #ifdef SIRO_ESCRITORIO
@@ -96,19 +111,18 @@ TEST_P(Instalado, ElProgramaArrancaConLoQueSeEntrega)
     e2e::Pantalla pantalla(raiz + "/casa");
     pantalla.Arranca(programas + "/siro");
     pantalla.EsperaVentana("SIRO - Modelo Hidrológico de  simulación de crecidas");
-    EXPECT_TRUE(EstaLoEntregadoEn(programas));
-    EXPECT_TRUE(fs::exists(programas + "/VelmirDir.vlm"));
+    EXPECT_TRUE(EstaLoEntregadoEn(propio));
+    EXPECT_TRUE(fs::exists(propio + "/VelmirDir.vlm"));
     pantalla.Teclas({"ctrl+q"});
     pantalla.EsperaA("the end of the program", [&] { return pantalla.Programa().Termino(); });
     EXPECT_EQ(pantalla.Programa().Estado(), 0);
 }
 #endif
 
-INSTANTIATE_TEST_SUITE_P(Lugares, Instalado,
-                         testing::Values(Disposicion{"Prefijo", {}, "bin", "share/siro"},
-                                         Disposicion{"Portatil", {"--component", "portatil"}, ".", "."}),
-                         [](const testing::TestParamInfo<Disposicion>& caso) {
-                             return std::string(caso.param.nombre);
-                         });
+INSTANTIATE_TEST_SUITE_P(
+    Lugares, Instalado,
+    testing::Values(Disposicion{"Prefijo", {}, "bin", "share/siro", true},
+                    Disposicion{"Portatil", {"--component", "portatil"}, ".", ".", false}),
+    [](const testing::TestParamInfo<Disposicion>& caso) { return std::string(caso.param.nombre); });
 
 }  // namespace

@@ -121,6 +121,42 @@ TEST(LoteProceso, UnControlTerminaConUno)
     EXPECT_FALSE(p.Esta("r.csv"));
 }
 
+#if defined(__linux__)
+TEST(LoteProceso, LaSalidaEstandarLlenaTerminaConUno)
+{
+    const ProyectoDePrueba p;
+    const auto llena = [&](const std::string& palabras) {
+        return e2e::Ejecuta("/bin/sh", {"-c", std::string(SIRO_LOTE) + " " + palabras + " >/dev/full"},
+                            p.Dir());
+    };
+    const Salida corrida = llena("una Mio_Conf.vlm --trabajo . --pizarra --resultados r.csv");
+    EXPECT_EQ(corrida.estado, 1);
+    EXPECT_EQ(corrida.errores, "siro-lote: no se puede escribir en la salida estándar\n");
+    EXPECT_FALSE(p.Esta("r.csv"));
+    EXPECT_EQ(llena("--ayuda").estado, 1);
+    EXPECT_EQ(llena("una Mio_Conf.vlm --trabajo .").estado, 0) << "nothing was to be written there";
+}
+
+// Threads that the system refuses aren't missed: fewer give the same.
+TEST(LoteProceso, SinLugarParaMasHilosUnaSerieSigueConMenos)
+{
+    const ProyectoDePrueba p;
+    std::string tormentas;
+    for (int i = 1; i <= 200; ++i)
+        tormentas += std::to_string(i) + ",60,10\r\n";
+    p.Escribe("TablasPDRs_pdr.vlm", "200,0,0,0\r\n\"\"\r\n" + tormentas + "\"\"\r\n\"\"\r\n\"\"\r\n");
+    EXPECT_EQ(Lote({"serie", p.Conf(), "--trabajo", p.Dir(), "--resultados", p.Ruta("r.csv")}, "/").estado,
+              0);
+    const Salida s =
+        e2e::Ejecuta("/bin/sh",
+                     {"-c", std::string("ulimit -v 400000; exec ") + SIRO_LOTE +
+                                " serie Mio_Conf.vlm --trabajo . --hilos 1024 --resultados poca.csv"},
+                     p.Dir());
+    EXPECT_EQ(s.estado, 0) << s.errores;
+    EXPECT_EQ(p.Lee("poca.csv"), p.Lee("r.csv"));
+}
+#endif
+
 TEST(LoteProceso, UnNoTerminaConTres)
 {
     const ProyectoDePrueba p;

@@ -198,6 +198,24 @@ TEST_F(LugarEntregado, DeUnaCarpetaProtegidaSeCopiaAlUsuario)
     EXPECT_EQ(disco.Bytes(Ruta(Ruta(usuario, "Ayuda"), "indice.html")), "ayuda");
 }
 
+// Root may write there, and must not.
+TEST_F(LugarEntregado, DeUnaInstalacionSeCopiaAlUsuarioYNadaABin)
+{
+    const std::string usuario = Ruta("", "usuario");
+    disco.Pon(Ruta(alLado, "distriPp_dpt.vlm"), "tabla");
+    disco.Pon(Ruta(Ruta(alLado, "Ayuda"), "indice.html"), "ayuda");
+    const std::string entregado = Halla();
+    ASSERT_EQ(entregado, alLado);
+    EXPECT_EQ(PreparaDirTrabajo(disco.Puerta(), programa, usuario, entregado), usuario);
+    EXPECT_EQ(disco.Bytes(Ruta(usuario, "distriPp_dpt.vlm")), "tabla");
+    for (const std::string& archivo : disco.Archivos())
+        EXPECT_FALSE(archivo.starts_with(Ruta(programa, "")) && !archivo.starts_with(alLado)) << archivo;
+
+    // Where the system tells no place for the user's data, nothing is copied at all.
+    EXPECT_EQ(PreparaDirTrabajo(disco.Puerta(), programa, "", entregado), programa);
+    EXPECT_FALSE(disco.Esta(Ruta(programa, "distriPp_dpt.vlm")));
+}
+
 // --- help after an upgrade ---
 
 struct AyudaRenovada : testing::Test {

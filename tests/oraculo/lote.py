@@ -23,9 +23,12 @@ def _flotante(texto):
     if valor is None:
         raise MalLlamado("no es un número: " + texto)
     try:
-        return f32(valor)
+        lamina = f32(valor)
     except Falla:
         raise MalLlamado("fuera de rango: " + texto) from None
+    if valor < 0:
+        raise MalLlamado("negativo: " + texto)
+    return lamina
 
 
 def _entero(minimo, maximo):
@@ -75,7 +78,7 @@ _OPCIONES = {
     "--tabla": (_entero(0, 3), 0),
     "--pizarra": (None, False),
     "--responde": (_responde, True),
-    "--hilos": (_entero(0, 32767), 0),
+    "--hilos": (_entero(0, 1024), 0),
     "--resultados": (_ruta, None),
 }
 
@@ -118,12 +121,17 @@ def corre(argumentos):
     except MalLlamado as motivo:
         sys.stderr.write(str(motivo) + "\n" + USO + "\n")
         return MAL_LLAMADO
+    if not os.path.isfile(conf):
+        sys.stderr.write("siro-lote: no se puede abrir " + conf + "\n")
+        return DETENIDO
     s = Siro(Anfitrion(opciones["--responde"]))
     s.DirTrabajo = opciones["--trabajo"] or os.path.dirname(os.path.abspath(__file__))
     try:
         return _corre_una(s, conf, opciones) if modo == "una" else _corre_serie(s, conf, opciones)
     except FinDelPrograma:
         return CORTADO
+    finally:
+        s.anfitrion.cuenta_repetidas()
 
 
 def _abre_proyecto(s, conf):

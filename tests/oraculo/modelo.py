@@ -120,17 +120,30 @@ class FinDelPrograma(Exception):
 
 
 class Anfitrion:
-    """Message boxes and questions, a line each on standard error; the Slate's text box."""
+    """Message boxes and questions, a line each on standard error, equal ones 999 times; the Slate's text box."""
 
     def __init__(self, responde_si=True, salida=None):
         self.responde_si = responde_si
         self.salida = salida if salida is not None else sys.stderr.buffer
         self.Text1 = ""
+        self._veces = {}  # by line; a line comes in at its 1000th time
+        self._muchas = []
 
     def _linea(self, titulo, texto, cola=""):
-        linea = "[" + titulo + "] " + re.sub("\r\n|\r|\n", " / ", texto) + cola + "\n"
-        self.salida.write(linea.encode("utf-8", "surrogateescape"))
+        linea = "[" + titulo + "] " + re.sub("\r\n|\r|\n", " / ", texto) + cola
+        veces = self._veces[linea] = self._veces.get(linea, 0) + 1
+        if veces < 1000:
+            self._escribe(linea)
+        elif veces == 1000:
+            self._muchas.append(linea)
+
+    def _escribe(self, linea):
+        self.salida.write((linea + "\n").encode("utf-8", "surrogateescape"))
         self.salida.flush()
+
+    def cuenta_repetidas(self):
+        for linea in self._muchas:
+            self._escribe("%s (%d veces más)" % (linea, self._veces[linea] - 999))
 
     def avisa(self, texto, titulo="SIRO"):
         self._linea(titulo, texto)
