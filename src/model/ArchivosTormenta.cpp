@@ -26,6 +26,8 @@ constexpr std::string_view NombreInadecuado2 =
     "donde nn es el nombre del archivo";
 constexpr std::string_view EtiquetaSinTormenta = "debe cargar o recomponer un archivo tipo <nn_pt.vlm>";
 
+constexpr std::size_t MaximoDeLista = 32767;  ///< single storms that a list takes
+
 constexpr std::string_view PrefijoPp = "Pp= ";
 constexpr std::string_view PrefijoDur = " - Dur = ";
 constexpr std::string_view PrefijoRec = " - Rec = ";
@@ -390,7 +392,7 @@ void leeListaPpDurRec(Siro& s, std::vector<std::string>& cmbPDR)
     cmbPDR.clear();
     try {
         LectorRegistros lector(s.Disco.Lee(s.ArchivoTemp));
-        while (!lector.Fin()) {
+        while (!lector.Fin() && cmbPDR.size() < MaximoDeLista) {
             lector.Registro(3, [&] {
                 const auto p = lector.NumeroSimple();
                 const auto d = lector.Numero16();

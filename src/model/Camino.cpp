@@ -11,13 +11,6 @@ namespace model {
 
 namespace fs = std::filesystem;
 
-namespace {
-
-/// No file of a project comes near; a larger one is read as little as a directory is.
-constexpr std::uintmax_t MaximoBytes = std::uintmax_t{256} << 20;
-
-}  // namespace
-
 fs::path Camino(const std::string& ruta)
 {
     // The system would take such a path only as far as its NUL, hence for another file.
@@ -52,12 +45,12 @@ void ExigeArchivo(const fs::path& camino)
     if (!fs::is_regular_file(estado)) throw Falla{NumeroFalla::AccesoRuta};
 }
 
-std::string LeeArchivo(const fs::path& camino)
+std::string LeeArchivo(const fs::path& camino, std::uintmax_t maximo)
 {
     ExigeArchivo(camino);
     std::error_code error;
     const std::uintmax_t largo = fs::file_size(camino, error);
-    if (error || largo > MaximoBytes) throw Falla{NumeroFalla::AccesoRuta};
+    if (error || largo > maximo) throw Falla{NumeroFalla::AccesoRuta};
 
     std::ifstream archivo(camino, std::ios::binary);
     if (!archivo) throw Falla{NumeroFalla::AccesoRuta};

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <string>
 
@@ -18,7 +19,12 @@ bool HayDirectorioDe(const std::filesystem::path& camino);
 /// Throws Falla 53, 76, 75 unless there is a plain file to be read or deleted.
 void ExigeArchivo(const std::filesystem::path& camino);
 
-/// The whole file. Throws Falla 53, 76, 75.
-std::string LeeArchivo(const std::filesystem::path& camino);
+/// No file of a project comes near the first; a larger one is read as little as a directory is. What is
+/// copied may be an image. [bytes]
+inline constexpr std::uintmax_t MaximoLeido = std::uintmax_t{64} << 20,
+                                MaximoCopiado = std::uintmax_t{256} << 20;
+
+/// The whole file. Throws Falla 53, 76, 75; 75 also for one above `maximo`.
+std::string LeeArchivo(const std::filesystem::path& camino, std::uintmax_t maximo = MaximoCopiado);
 
 }  // namespace model

@@ -75,7 +75,7 @@ Disco DiscoDelSistema()
 Disco DiscoDelSistema(std::shared_ptr<const LlamadasDisco> llamadas)
 {
     Disco disco;
-    disco.Lee = [](const std::string& ruta) { return LeeArchivo(Camino(ruta)); };
+    disco.Lee = [](const std::string& ruta) { return LeeArchivo(Camino(ruta), MaximoLeido); };
     disco.Escribe = [](const std::string& ruta, std::string_view bytes) {
         Vuelca(Camino(ruta), bytes, std::ios::trunc);
     };

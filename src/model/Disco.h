@@ -34,7 +34,7 @@ struct Recuperacion {
 /// contents are bytes. Faults: 53 the file isn't in its directory, 76 its directory isn't there, 75 the
 /// path can't be read or written.
 struct Disco {
-    /// Returns the whole file. Throws Falla 53, 76, 75; 75 also for what is no plain file or above 256 MB.
+    /// Returns the whole file. Throws Falla 53, 76, 75; 75 also for what is no plain file or above 64 MiB.
     std::function<std::string(const std::string& ruta)> Lee;
     /// Writes a file anew from its beginning, where it stands: for results, which Agrega goes on with, and
     /// for what goes out of the program. At a fault the file is cut. Throws Falla 76, 75.
@@ -56,8 +56,8 @@ struct Disco {
     std::function<std::vector<std::string>(const std::string& directorio)> Lista;
     /// Deletes a file. Throws Falla 53, 76, 75.
     std::function<void(const std::string& ruta)> Borra;
-    /// Copies a file over another, which is replaced as by Reemplaza. Throws Falla 53, 76, 75; 75 also for a
-    /// copy onto itself.
+    /// Copies a file of up to 256 MiB over another, which is replaced as by Reemplaza. Throws Falla 53, 76,
+    /// 75; 75 also for a copy onto itself.
     std::function<void(const std::string& origen, const std::string& destino)> Copia;
 };
 

@@ -16,6 +16,9 @@ constexpr std::string_view Falso = "#FALSE#";
 constexpr std::string_view FinesDeCampo = ",\r\n";
 constexpr std::string_view Blancos = " \t";
 
+/// Bytes of the longest field: no text of a project comes near.
+constexpr std::size_t MaximoCampo = std::size_t{1} << 20;
+
 /// Bytes that a writer gathers before it goes to the disk.
 constexpr std::size_t Pieza = std::size_t{1} << 16;
 
@@ -42,6 +45,10 @@ Campo LectorRegistros::Siguiente()
         fin = hasta(FinesDeCampo, inicio);
         campo.bytes = resto.substr(inicio, fin - inicio);
         campo.bytes.remove_suffix(campo.bytes.size() - (campo.bytes.find_last_not_of(Blancos) + 1));
+    }
+    if (campo.bytes.size() > MaximoCampo) {
+        lugar = contenido.size() + 1;
+        throw Falla{NumeroFalla::FinDeArchivo};
     }
     const std::size_t largoFin = resto.substr(fin, 2) == SaltoLinea ? 2 : 1;
     const bool hayMas = fin + largoFin < resto.size() || (fin < resto.size() && resto[fin] == ',');

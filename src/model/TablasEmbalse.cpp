@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <new>
 #include <optional>
 #include <span>
 #include <string>
@@ -97,24 +98,30 @@ bool EsNumeroChico(const Campo& campo)
 /// A table file in records of as many fields as a data line has, which is how a scan for a block takes it,
 /// whatever a line holds. A scan begins at the head of the file for every component, so that the records are
 /// the same for all: one look finds the headers, and the records whose second field is no 16-bit number.
+///
+/// No table has more than MaximoFilas rows: where so many records have gone by without a header, and where so
+/// many headers and records at fault have been found, the file is damaged, and it is taken to end there.
 class Registros {
   public:
     struct Hallazgo {
         std::string marcador{};        ///< first field of a header
         std::int16_t filas = 0;        ///< second field
         std::optional<Falla> falla{};  ///< what the second field is at fault for
-        std::size_t registro = 0;      ///< its place in the file, from 0
+        std::size_t datos = 0;         ///< where in the file the next record begins
     };
 
     Registros(std::string bytes, std::size_t camposPorRegistro)
         : lector(std::move(bytes)), porRegistro(camposPorRegistro)
     {
-        while (!lector.Fin())
-            campos.push_back(lector.Siguiente());
-        for (std::size_t registro = 0; Mira(registro);)
-            ++registro;
+        // A field that no reader takes ends the file, as it does for whoever reads it.
+        Sentencia(
+            [&] {
+                while (sinCabecera <= MaximoFilas && hallazgos.size() < MaximoFilas && Mira()) {
+                }
+            },
+            [](const Falla&) {});
     }
-    Registros(const Registros&) = delete;  // the fields are views into the reader
+    Registros(const Registros&) = delete;
     Registros& operator=(const Registros&) = delete;
 
     /// The block of a component, each record at fault on the way reported; nothing where it isn't there.
@@ -131,44 +138,49 @@ class Registros {
     }
     /// The headers, and what is at fault, in the order of the file.
     [[nodiscard]] const std::vector<Hallazgo>& Hallazgos() const { return hallazgos; }
-    /// The numbers of a data line. Throws Falla 13, 6, and 62 where the file ends first.
-    [[nodiscard]] std::array<float, MaxColumnas> Numeros(std::size_t registro) const
+    /// Goes to the first data line of a block.
+    void Va(const Hallazgo& bloque) { lector.Vuelve(bloque.datos); }
+    /// The numbers of the next data line. Throws Falla 13, 6, and 62 where the file ends first.
+    std::array<float, MaxColumnas> Numeros()
     {
         std::array<float, MaxColumnas> numeros{};
-        for (std::size_t c = 0; c < porRegistro; ++c)
-            numeros[c] = CampoSimple(Lugar(registro, c));
+        lector.Registro(static_cast<int>(porRegistro), [&] {
+            for (std::size_t c = 0; c < porRegistro; ++c)
+                numeros[c] = lector.NumeroSimple();
+        });
         return numeros;
     }
 
   private:
-    [[nodiscard]] const Campo& Lugar(std::size_t registro, std::size_t campo) const
+    static constexpr std::size_t MaximoFilas = 32767;
+
+    /// Looks at the next record as at a header. Returns false where the file ends inside it.
+    bool Mira()
     {
-        const std::size_t lugar = registro * porRegistro + campo;
-        if (lugar >= campos.size()) throw Falla{NumeroFalla::FinDeArchivo};
-        return campos[lugar];
-    }
-    /// Looks at a record as at a header. Returns false where the file ends inside it.
-    bool Mira(std::size_t registro)
-    {
-        if (registro * porRegistro + 1 >= campos.size()) return false;
-        const Campo& primero = Lugar(registro, 0);
-        const Campo& segundo = Lugar(registro, 1);
+        if (lector.Fin()) return false;
+        const Campo primero = lector.Siguiente();
+        if (lector.Fin()) return false;
+        const Campo segundo = lector.Siguiente();
+        std::size_t leidos = 2;
+        for (; leidos < porRegistro && !lector.Fin(); ++leidos)
+            lector.Siguiente();
+        const bool entero = leidos == porRegistro;
         const bool cabecera = primero.bytes.starts_with(Marca);
+        sinCabecera = cabecera ? 0 : sinCabecera + 1;
         Hallazgo hallazgo;
         if (cabecera || !EsNumeroChico(segundo))
             Sentencia([&] { hallazgo.filas = CampoNumero16(segundo); },
                       [&](const Falla& falla) { hallazgo.falla = falla; });
-        const bool entero = (registro + 1) * porRegistro <= campos.size();
         if (hallazgo.falla || (cabecera && entero)) {
             if (cabecera) hallazgo.marcador = DeWindows1252(primero.bytes);
-            hallazgo.registro = registro;
+            hallazgo.datos = lector.Lugar();
             hallazgos.push_back(std::move(hallazgo));
         }
         return entero;
     }
     LectorRegistros lector;
     std::size_t porRegistro;
-    std::vector<Campo> campos;
+    std::size_t sinCabecera = 0;  ///< records since the last header
     std::vector<Hallazgo> hallazgos;
 };
 
@@ -229,8 +241,9 @@ class LecturaTabla {
         Paso([&] { (s.*archivo.filas)(numero) = bloque.filas; });
         Ensancha(bloque.filas);
         try {
+            registros->Va(bloque);
             for (int k = 1; k <= bloque.filas; ++k)
-                LeeFila(bloque.registro + static_cast<std::size_t>(k), numero, k);
+                LeeFila(numero, k);
         } catch (const Falla&) {
             return false;  // the end of the file: all else is reported where it arises
         }
@@ -240,13 +253,17 @@ class LecturaTabla {
     {
         mayorCuenta = std::max(mayorCuenta, filas);
         const int tope = std::max(TopeMinimo, mayorCuenta + 1);
+        // A damaged network has components by the thousand: no table of theirs is worth the whole memory.
+        constexpr std::size_t MaximoCeldas = std::size_t{1} << 23;
+        if (static_cast<std::size_t>(mayorNumero) * static_cast<std::size_t>(tope) > MaximoCeldas)
+            throw std::bad_alloc{};
         for (const Columna& columna : archivo.columnas)
             std::visit([&](auto matriz) { (s.*matriz).Redimensiona(tope); }, columna);
     }
-    void LeeFila(std::size_t registro, int numero, int k)
+    void LeeFila(int numero, int k)
     {
         std::array<float, MaxColumnas> leidos{};
-        const bool leida = Paso([&] { leidos = registros->Numeros(registro); });
+        const bool leida = Paso([&] { leidos = registros->Numeros(); });
         for (std::size_t c = 0; leida && c < archivo.columnas.size(); ++c)
             std::visit([&](auto matriz) { Paso([&] { Guarda((s.*matriz)(numero, k), leidos[c]); }); },
                        archivo.columnas[c]);

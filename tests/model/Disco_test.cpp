@@ -204,15 +204,26 @@ TEST_F(DiscoReal, UnaRutaConUnNuloNoEsLaDeOtroArchivo)
 TEST_F(DiscoReal, UnArchivoEnormeNoSeLee)
 {
     disco.Escribe(En("enorme"), "");
-    fs::resize_file(En("enorme"), (std::uintmax_t{256} << 20) + 1);  // a hole, no bytes on the disk
+    fs::resize_file(En("enorme"), (std::uintmax_t{64} << 20) + 1);  // a hole, no bytes on the disk
     EXPECT_EQ(NumeroDeFalla([&] { disco.Lee(En("enorme")); }), 75);
 }
 
 TEST_F(DiscoReal, ElUltimoTamanoQueSeLee)
 {
     disco.Escribe(En("grande"), "");
-    fs::resize_file(En("grande"), std::uintmax_t{256} << 20);
-    EXPECT_EQ(disco.Lee(En("grande")).size(), std::size_t{256} << 20);
+    fs::resize_file(En("grande"), std::uintmax_t{64} << 20);
+    EXPECT_EQ(disco.Lee(En("grande")).size(), std::size_t{64} << 20);
+}
+
+// An image may be larger than any file that a reader takes.
+TEST_F(DiscoReal, UnaCopiaPuedeSerMayorQueLoQueSeLee)
+{
+    disco.Escribe(En("imagen"), "");
+    fs::resize_file(En("imagen"), (std::uintmax_t{64} << 20) + 1);
+    disco.Copia(En("imagen"), En("copia"));
+    EXPECT_EQ(fs::file_size(En("copia")), (std::uintmax_t{64} << 20) + 1);
+    fs::resize_file(En("imagen"), (std::uintmax_t{256} << 20) + 1);
+    EXPECT_EQ(NumeroDeFalla([&] { disco.Copia(En("imagen"), En("otra")); }), 75);
 }
 
 #if defined(__unix__)

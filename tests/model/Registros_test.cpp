@@ -127,6 +127,22 @@ TEST(LectorRegistros, UnaComillaSinCierreTomaElRestoDelArchivo)
     EXPECT_EQ(Campos("a,\""), (Lista{"a", "«»"}));
 }
 
+// 1 MiB is the last length that a field has; behind a longer one there is no more file.
+TEST(LectorRegistros, UnCampoDeMasDeUnMegaEsElFinDelArchivo)
+{
+    const std::string mega(std::size_t{1} << 20, 'x');
+    for (const std::string comilla : {"", "\""}) {
+        LectorRegistros cabe(comilla + mega + comilla + ",b");
+        EXPECT_EQ(cabe.Siguiente().bytes.size(), mega.size());
+        EXPECT_EQ(cabe.Texto(), "b");
+        LectorRegistros largo("a," + comilla + mega + "x" + comilla + ",b");
+        EXPECT_EQ(largo.Texto(), "a");
+        EXPECT_EQ(NumeroDeFalla([&] { largo.Siguiente(); }), 62);
+        EXPECT_TRUE(largo.Fin());
+        EXPECT_EQ(NumeroDeFalla([&] { largo.Siguiente(); }), 62);
+    }
+}
+
 TEST(LectorRegistros, LosBytesNulosSonTexto)
 {
     EXPECT_EQ(Campos(std::string_view("a\0b,\0", 5)), (Lista{std::string("a\0b", 3), std::string(1, '\0')}));

@@ -8,6 +8,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <new>
 #include <string>
 #include <string_view>
 #include <tuple>
@@ -99,6 +100,50 @@ TEST_F(TablasEmbalse, LasTablasHASLleganALaRepresaDeSuNombre)
     EXPECT_EQ(Fila(s.RepresaH, 2, 2), (std::vector<float>{0, 5.5F}));
     EXPECT_EQ(Fila(s.RepresaA, 2, 2), (std::vector<float>{0, 12.25F}));
     EXPECT_EQ(Fila(s.RepresaS, 2, 2), (std::vector<std::int32_t>{0, 300000}));
+}
+
+/// Records of two fields, n of them.
+std::string Renglones(int n, const char* renglon)
+{
+    std::string texto;
+    for (int i = 0; i < n; ++i)
+        texto += renglon;
+    return texto;
+}
+
+// A table has 32767 rows at most, so that no block lies farther than that from the header ahead of it.
+TEST_F(TablasEmbalse, ElLargoMayorDeUnaTabla)
+{
+    PonRepresas({"r-1", "r-2"});
+    Pon(RHQ, "\"*r-1\",32767\r\n" + Renglones(32767, "1,2\r\n") + "\"*r-2\",1\r\n3,4\r\n");
+    LeeTablaHQRepresa(s);
+    EXPECT_EQ(Todos(s.RepresaFilasHQ), (std::vector<int>{0, 32767, 1}));
+    EXPECT_EQ(s.RepresaQQ(1, 32767), 2);
+    EXPECT_EQ(s.RepresaQQ(2, 1), 4);
+
+    Pon(RHQ, "\"*r-1\",1\r\n" + Renglones(32768, "1,2\r\n") + "\"*r-2\",1\r\n3,4\r\n");
+    LeeTablaHQRepresa(s);
+    EXPECT_EQ(Todos(s.RepresaFilasHQ), (std::vector<int>{0, 1, 0}));
+    EXPECT_EQ(Avisos(), Cajas{});
+}
+
+// Each record at fault on the way to a block is told, for each component that looks for one, but no more of
+// them than a table has rows.
+TEST_F(TablasEmbalse, LosRenglonesEnFallaTienenUnTope)
+{
+    PonRepresas({"r-1"});
+    Pon(RHQ, Renglones(40000, "1,x\r\n") + "\"*r-1\",1\r\n1,2\r\n");
+    LeeTablaHQRepresa(s);
+    EXPECT_EQ(Avisos(), Cajas(32767, CajaTipos));
+    EXPECT_EQ(Todos(s.RepresaFilasHQ), (std::vector<int>{0, 0}));
+}
+
+// 300 components and 32767 rows would be 40 MB a column: no network of 20 Represas asks for it.
+TEST_F(TablasEmbalse, MasTablasDeLasQueHayComponentesNoSePidenAlSistema)
+{
+    PonRepresas(std::vector<std::string>(300, "r-1"));
+    Pon(RHQ, "\"*r-1\",32767\r\n" + Renglones(32767, "1,2\r\n"));
+    EXPECT_THROW(LeeTablaHQRepresa(s), std::bad_alloc);
 }
 
 TEST_F(TablasEmbalse, LasTablasHQLleganALaRepresaDeSuNombre)
