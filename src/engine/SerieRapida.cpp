@@ -3,6 +3,9 @@
 
 #include <algorithm>
 #include <atomic>
+#include <deque>
+#include <new>
+#include <system_error>
 #include <thread>
 
 #include "engine/Memoria.h"
@@ -107,7 +110,7 @@ void TraeColumna(Siro& a, const Siro& de, int numero)
     a.CoefEscTotal(numero) = de.CoefEscTotal(numero);
 }
 
-/// Runs one storm in a state of its own. Returns false where it isn't silent.
+/// Runs one storm in a state of its own. Returns false where it isn't silent, or there is no memory for it.
 bool CorreEnSilencio(Siro& s, Memoria& memoria, int numero, const Hietograma& hietograma)
 {
     TomaTormenta(s, numero);
@@ -116,6 +119,8 @@ bool CorreEnSilencio(Siro& s, Memoria& memoria, int numero, const Hietograma& hi
         ProcesoPrincipal(s, {.GuardaTexto = false, .ConTexto = false, .ConVolumenes = false}, memoria);
         return true;
     } catch (const FinDelPrograma&) {
+        return false;
+    } catch (const std::bad_alloc&) {
         return false;
     }
 }
@@ -126,6 +131,7 @@ std::vector<std::size_t> Trabaja(Siro& s, Reparto& reparto, const std::function<
     Memoria memoria;
     memoria.VariasCorridas = reparto.cuantas > 1;
     std::vector<std::size_t> hechas;
+    hechas.reserve(reparto.cuantas);
     for (std::size_t i = reparto.siguiente++; i < reparto.tope; i = reparto.siguiente++) {
         if (avisa) avisa(reparto.numeros[i]);
         if (CorreEnSilencio(s, memoria, reparto.numeros[i], reparto.hietogramas[i])) {
@@ -137,6 +143,41 @@ std::vector<std::size_t> Trabaja(Siro& s, Reparto& reparto, const std::function<
         }
     }
     return hechas;
+}
+
+/// A state of its own to run storms in, and the places of those that it ran.
+struct Obrero {
+    Siro estado;
+    std::vector<std::size_t> hechas{};
+};
+
+void Contrata(std::deque<Obrero>& obreros, const Siro& s)
+{
+    obreros.push_back({s});
+    obreros.back().estado.Anfitrion = AnfitrionMudo();
+}
+
+/// One more thread. Returns false where the system has none, or no memory for its state: those that run
+/// already do the work.
+bool EmpiezaOtro(std::deque<Obrero>& obreros, const Siro& s, std::vector<std::jthread>& ayudantes,
+                 Reparto& reparto)
+{
+    const std::size_t antes = obreros.size();
+    try {
+        Contrata(obreros, s);
+        Obrero& nuevo = obreros.back();
+        ayudantes.emplace_back([&nuevo, &reparto] {
+            try {
+                nuevo.hechas = Trabaja(nuevo.estado, reparto, {});
+            } catch (const std::bad_alloc&) {  // ahead of its first storm: the others take them
+            }
+        });
+        return true;
+    } catch (const std::system_error&) {
+    } catch (const std::bad_alloc&) {
+    }
+    if (obreros.size() > antes) obreros.pop_back();
+    return false;
 }
 
 /// Leaves in `s` what the storm ahead of place `i` leaves behind in a run one after another.
@@ -163,20 +204,19 @@ std::size_t CorreTormentasSinAvisos(Siro& s, const std::vector<int>& numeros, in
     Reparto reparto{numeros, hietogramas, std::min(hietogramas.size(), numeros.size() - 1)};
     const auto cuantos = std::clamp<std::size_t>(static_cast<std::size_t>(std::max(hilos, 1)), 1,
                                                  std::max<std::size_t>(reparto.cuantas, 1));
-    std::vector<Siro> estados(cuantos, s);
-    for (Siro& estado : estados)
-        estado.Anfitrion = AnfitrionMudo();
-    std::vector<std::vector<std::size_t>> hechas(cuantos);
+    std::deque<Obrero> obreros;
     {
         std::vector<std::jthread> ayudantes;
-        for (std::size_t h = 1; h < cuantos; ++h)
-            ayudantes.emplace_back([&, h] { hechas[h] = Trabaja(estados[h], reparto, {}); });
-        hechas[0] = Trabaja(estados[0], reparto, avisa);
+        ayudantes.reserve(cuantos);
+        Contrata(obreros, s);
+        while (obreros.size() < cuantos && EmpiezaOtro(obreros, s, ayudantes, reparto)) {
+        }
+        obreros.front().hechas = Trabaja(obreros.front().estado, reparto, avisa);
     }
     const std::size_t completas = reparto.tope;
-    for (std::size_t h = 0; h < cuantos; ++h)
-        for (const std::size_t i : hechas[h])
-            if (i < completas) TraeColumna(s, estados[h], numeros[i]);
+    for (const Obrero& obrero : obreros)
+        for (const std::size_t i : obrero.hechas)
+            if (i < completas) TraeColumna(s, obrero.estado, numeros[i]);
     PonEstadoAnterior(s, numeros, hietogramas, completas);
     return completas;
 }

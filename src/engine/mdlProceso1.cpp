@@ -117,7 +117,7 @@ void DimensionaTrabajo(Corrida& c)
     c.Intenta([&] { s.CoefUEH.Dimensiona(Suma16(s.NroUEHs, 1)); });
     c.Intenta([&] { s.VolUEH.Dimensiona(Suma16(s.NroUEHs, 1)); });
     c.Intenta([&] { c.PpMediaPaso.Dimensiona(s.NroPasosQ); });
-    c.Intenta([&] { s.PpUEHPaso.Dimensiona(s.NroUEHs, Piso16(Cociente(s.DurTormenta, s.PasoQ) + 1)); });
+    c.Intenta([&] { s.PpUEHPaso.Dimensiona(s.NroUEHs, Piso16(Cociente(s.DurTormenta, s.PasoQ)) + 1); });
     c.Intenta([&] { s.HRepresa.Dimensiona(s.NroRepresas, Suma16(s.NroPasosQ, 1)); });
     c.Intenta([&] { s.SRepresa.Dimensiona(s.NroRepresas, Suma16(s.NroPasosQ, 1)); });
     c.Intenta([&] { s.HLago.Dimensiona(s.NroLagos, Suma16(s.NroPasosQ, 1)); });

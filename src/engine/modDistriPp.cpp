@@ -147,14 +147,14 @@ void LlenaPorcentajes(Siro& s)
 
 /// Turns block j from percentages into depth and intensity and writes its line. The line is built in any
 /// case: its minutes can be at fault.
-void TerminaBloque(Siro& s, std::int16_t j, Renglon& linea)
+void TerminaBloque(Siro& s, int j, Renglon& linea)
 {
     const double P = s.PpTormenta;
     s.PpAcum(j) = Simple(P * s.PpAcum(j) / 100);
     s.IntensidadPp(j) = Simple(Cociente(P * s.IntensidadPp(j) / (1.0 / s.NroBloquesPp), s.DurTormenta) / 100);
     if (s.FormaPp != FormaReal) s.PpReal(j) = Simple(double{s.PpAcum(j)} - s.PpAcum(j - 1));
 
-    const std::int16_t minutos = model::Producto16(s.PasoPp, j);
+    const std::int16_t minutos = model::Producto16(s.PasoPp, static_cast<std::int16_t>(j));
     linea.Vacia();
     linea.Pone("\r\n ").Izquierda(std::int32_t{j}, 5).Izquierda(std::int32_t{minutos}, 6);
     linea.Izquierda(model::Trunca2(s.PpReal(j)), 11).Izquierda(model::Trunca2(s.PpAcum(j)), 25);
@@ -178,7 +178,7 @@ void Construye(Siro& s)
         s.Anfitrion.AgregaPizarra("\r\nPer.k t[min] Pp[mm]  Pp Acumulada[mm]  Intensidad de Pp[mm/min]");
     }
     Renglon linea;
-    for (std::int16_t j = 1; j <= s.NroBloquesPp; ++j)
+    for (int j = 1; j <= s.NroBloquesPp; ++j)  // there may be 32767
         TerminaBloque(s, j, linea);
     s.NroPpReal = s.NroBloquesPp;
     s.PpAcumPrevia = 0;

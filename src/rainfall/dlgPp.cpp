@@ -516,8 +516,8 @@ void ListaBloques(const Siro& s)
     constexpr std::size_t AnchoPp = 6;     // "Pp[mm]"
     constexpr std::size_t AnchoAcum = 10;  // "PpAcum[mm]"
     AgregaRenglon(s, "Per. Pp[mm] PpAcum[mm] Int.Pp[mm/min]");
-    for (std::int16_t j = 1; j <= s.NroPpReal; ++j)
-        AgregaRenglon(s, model::AjustaIzquierda(Texto(j), AnchoPer) + ' ' +
+    for (int j = 1; j <= s.NroPpReal; ++j)
+        AgregaRenglon(s, model::AjustaIzquierda(NumeroATexto(j), AnchoPer) + ' ' +
                              model::AjustaIzquierda(NumeroATexto(s.PpReal(j)), AnchoPp) + ' ' +
                              model::AjustaIzquierda(NumeroATexto(s.PpAcum(j)), AnchoAcum) + ' ' +
                              NumeroATexto(s.IntensidadPp(j)));

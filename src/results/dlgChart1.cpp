@@ -37,8 +37,8 @@ Grafico Llena(const dlgChart1& f, const Siro& s, std::int16_t N, std::int16_t pa
     Grafico grafico = f.Grafico;
     Serie lluvia;
     grafico.categorias.clear();
-    for (std::int16_t i = 1; i <= N; ++i) {
-        grafico.categorias.push_back(Categoria(i, paso, f.MinutosEjeX));
+    for (int i = 1; i <= N; ++i) {
+        grafico.categorias.push_back(Categoria(static_cast<std::int16_t>(i), paso, f.MinutosEjeX));
         lluvia.celdas.push_back(s.PpReal(i));
     }
     grafico.series.clear();

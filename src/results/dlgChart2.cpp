@@ -142,8 +142,8 @@ Serie Columna(const Filas& filas, const FilaSerie& fila, std::int16_t N)
     Serie serie{TipoSerie::Linea2D, std::string(fila.leyenda), fila.ejeSecundario, {}};
     const std::int16_t conocidas = fila.dato == Dato::QSale ? std::min(N, filas.s.NroPasosQ) : N;
     serie.celdas.resize(static_cast<std::size_t>(N));
-    for (std::int16_t i = 1; i <= conocidas; ++i)
-        serie.celdas[static_cast<std::size_t>(i) - 1] = Celda(filas, fila.dato, i);
+    for (int i = 1; i <= conocidas; ++i)
+        serie.celdas[static_cast<std::size_t>(i) - 1] = Celda(filas, fila.dato, static_cast<std::int16_t>(i));
     return serie;
 }
 
@@ -193,8 +193,8 @@ void Dibuja(dlgChart2& f, const Siro& s, std::int16_t N, std::int16_t paso)
     grafico.ejeYSecundario = clase.ejeYSecundario;
     grafico.marcasEjeX = false;
     grafico.categorias.clear();
-    for (std::int16_t i = 1; i <= N; ++i)
-        grafico.categorias.push_back(Categoria(i, paso, f.MinutosEjeX));
+    for (int i = 1; i <= N; ++i)
+        grafico.categorias.push_back(Categoria(static_cast<std::int16_t>(i), paso, f.MinutosEjeX));
 
     const Filas filas{s, s.IndComp, Numero(s, nombre), *r};
     grafico.series.clear();

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -501,6 +502,24 @@ TEST_F(Proceso, MinutosFueraDe16BitsSeInformanYLaCorridaSigue)
         EXPECT_EQ(aviso.texto.substr(0, 10), "Error Nro.");
     EXPECT_EQ(anfitrion->Avisos().front(), desborda);
     EXPECT_GT(s.QSale(1, 1), 0);
+}
+
+// Columns 0..Int(32767/1 + 1): one more than 16 bits can count. The end of the rain is beyond them too, and
+// its sum is at fault at each step; no index is.
+TEST_F(Proceso, LaLluviaDe32767PasosTieneSuLugar)
+{
+    PonUEH("u-1", "");
+    s.PasoPp = s.PasoQ = 1;
+    s.DurTormenta = 32767;
+    s.N0Dur = -1;
+    EXPECT_TRUE(Corre());
+    EXPECT_EQ(s.PpUEHPaso.TopeColumna(), 32768);
+    EXPECT_EQ(s.NroPasosQ, 32766);
+    std::map<std::string, int> avisos;
+    for (const Mensaje& aviso : anfitrion->Avisos())
+        ++avisos[aviso.texto];
+    EXPECT_EQ(avisos.size(), 1U);
+    EXPECT_EQ(avisos.begin()->first, "Error Nro. 6 ,DesbordamientoVerifique");
 }
 
 TEST_F(Proceso, UnaBaseNegativaDeKostiakovConservaLaInfiltracionAnterior)

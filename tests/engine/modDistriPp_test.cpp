@@ -126,6 +126,16 @@ TEST_F(Hietograma, SinTablaQuedaLoQueTeniaUnaTormentaAnterior)
     EXPECT_NEAR(s.IntensidadPp(1), 50 * (100 / 60.0) * 288 / 2881 / 100, 1e-6);
 }
 
+// One minute less than 16 bits can count: each block is built, the last one too.
+TEST_F(Hietograma, Los32767BloquesDeUnMinuto)
+{
+    s.PasoPp = 1;
+    Tormenta(100, 32767, 1);
+    EXPECT_TRUE(anfitrion->sucesos.empty());
+    EXPECT_EQ(s.NroBloquesPp, 32767);
+    EXPECT_EQ(s.NroPpReal, 32767);
+}
+
 // --- sample storms and out of range ---
 
 struct CasoFijo {

@@ -165,7 +165,7 @@ class _Proceso:
         with m:
             self.PpMediaPaso = vector_f32(s.NroPasosQ)
         with m:
-            s.PpUEHPaso = matriz_f32(s.NroUEHs, piso_i16(div(s.DurTormenta, s.PasoQ) + 1))
+            s.PpUEHPaso = matriz_f32(s.NroUEHs, piso_i16(div(s.DurTormenta, s.PasoQ)) + 1)
         with m:
             s.HRepresa = matriz_f32(s.NroRepresas, suma16(s.NroPasosQ, 1))
         with m:
