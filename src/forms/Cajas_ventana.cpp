@@ -2,12 +2,14 @@
 #include "forms/Cajas_ventana.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QDateTime>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -41,6 +43,37 @@ QMessageBox::Icon Dibujo(Icono icono)
     return QMessageBox::NoIcon;
 }
 
+constexpr char Aceptar[] = "&Aceptar", Cancelar[] = "&Cancelar";
+constexpr char Si[] = "&Sí", SiATodas[] = "Sí a &todas", No[] = "&No";
+
+/// A firm box takes its buttons and nothing else: neither Esc nor the frame answers for the user.
+class Caja : public QMessageBox {
+  public:
+    Caja(const Mensaje& mensaje, bool esFirme)
+        : QMessageBox(Dibujo(mensaje.icono), Titulo(mensaje.titulo), Q(mensaje.texto), QMessageBox::NoButton,
+                      QApplication::activeWindow()),
+          firme(esFirme)
+    {
+        setObjectName(QStringLiteral("Mensaje"));
+        setTextFormat(Qt::PlainText);
+        if (firme) setWindowFlag(Qt::WindowCloseButtonHint, false);
+    }
+
+  protected:
+    void closeEvent(QCloseEvent* suceso) override
+    {
+        if (firme) return suceso->ignore();
+        QMessageBox::closeEvent(suceso);
+    }
+    void keyPressEvent(QKeyEvent* suceso) override
+    {
+        if (!firme || !suceso->matches(QKeySequence::Cancel)) QMessageBox::keyPressEvent(suceso);
+    }
+
+  private:
+    bool firme;
+};
+
 /// Between the first button and the one that cancels stands what does without the first.
 QMessageBox::ButtonRole Papel(qsizetype lugar, std::size_t cuantos)
 {
@@ -50,18 +83,16 @@ QMessageBox::ButtonRole Papel(qsizetype lugar, std::size_t cuantos)
 }
 
 /// Shows a box. Returns the place of the button chosen, from 0; the first one is the default, and closing the
-/// frame chooses the last.
-int Caja(Entorno& entorno, const Mensaje& mensaje, std::initializer_list<QString> leyendas)
+/// frame of one that isn't firm chooses the last.
+int MuestraCaja(Entorno& entorno, const Mensaje& mensaje, std::initializer_list<const char*> leyendas,
+                bool firme = false)
 {
-    QMessageBox caja(Dibujo(mensaje.icono), Titulo(mensaje.titulo), Q(mensaje.texto), QMessageBox::NoButton,
-                     QApplication::activeWindow());
-    caja.setObjectName(QStringLiteral("Mensaje"));
-    caja.setTextFormat(Qt::PlainText);
+    Caja caja(mensaje, firme);
     QList<QPushButton*> botones;
-    for (const QString& leyenda : leyendas)
-        botones.append(caja.addButton(leyenda, Papel(botones.size(), leyendas.size())));
+    for (const char* leyenda : leyendas)
+        botones.append(caja.addButton(QString::fromUtf8(leyenda), Papel(botones.size(), leyendas.size())));
     caja.setDefaultButton(botones.constFirst());
-    caja.setEscapeButton(botones.constLast());
+    if (!firme) caja.setEscapeButton(botones.constLast());
     for (QPushButton* boton : botones)
         boton->setIcon({});
     entorno.Ejecuta(caja);
@@ -70,15 +101,35 @@ int Caja(Entorno& entorno, const Mensaje& mensaje, std::initializer_list<QString
     return static_cast<int>(botones.size()) - 1;
 }
 
+void Avisa(Entorno& entorno, const Mensaje& mensaje)
+{
+    Recogida* const recogida = entorno.Recoge();
+    if (recogida == nullptr || recogida->SeMuestra(mensaje)) MuestraCaja(entorno, mensaje, {Aceptar});
+}
+
+/// A No may end the program or throw work away, so that nothing but the button says it.
+bool Pregunta(Entorno& entorno, const Mensaje& mensaje)
+{
+    constexpr bool Firme = true;
+    Recogida* const recogida = entorno.Recoge();
+    if (recogida != nullptr && recogida->RespondidaATodas(mensaje)) return true;
+    if (recogida == nullptr || !recogida->OfreceTodas(mensaje))
+        return MuestraCaja(entorno, mensaje, {Si, No}, Firme) == 0;
+    const int elegido = MuestraCaja(entorno, mensaje, {Si, SiATodas, No}, Firme);
+    if (elegido == 1) recogida->RespondeSiATodas(mensaje);
+    return elegido != 2;
+}
+
 std::string Pide(Entorno& entorno, const Peticion& peticion)
 {
     QInputDialog caja(QApplication::activeWindow());
     caja.setObjectName(QStringLiteral("Peticion"));
     caja.setWindowTitle(Titulo(peticion.titulo));
-    caja.setLabelText(Q(peticion.texto));
+    // The label belongs to the field: a lone "&" would vanish as the mark of a shortcut.
+    caja.setLabelText(Q(peticion.texto).replace(QLatin1Char('&'), QLatin1String("&&")));
     caja.setTextValue(Q(peticion.defecto));
-    caja.setOkButtonText(QStringLiteral("&Aceptar"));
-    caja.setCancelButtonText(QStringLiteral("&Cancelar"));
+    caja.setOkButtonText(QString::fromUtf8(Aceptar));
+    caja.setCancelButtonText(QString::fromUtf8(Cancelar));
     for (QPushButton* boton : caja.findChildren<QPushButton*>())
         boton->setIcon({});
     return entorno.Ejecuta(caja) == QDialog::Accepted ? DeQ(caja.textValue()) : std::string{};
@@ -122,16 +173,14 @@ std::string EligeDonde(Entorno& entorno, std::string_view titulo, std::string_vi
 
 void PonCajas(model::Anfitrion& anfitrion, Entorno& entorno)
 {
-    static constexpr char Si[] = "&Sí";
-    static const QString acepta = QStringLiteral("&Aceptar"), cancela = QStringLiteral("&Cancelar");
-    anfitrion.Avisa = [&entorno](const Mensaje& m) { Caja(entorno, m, {acepta}); };
-    anfitrion.Pregunta = [&entorno](const Mensaje& m) {
-        return Caja(entorno, m, {QString::fromUtf8(Si), QStringLiteral("&No")}) == 0;
+    anfitrion.Avisa = [&entorno](const Mensaje& m) { Avisa(entorno, m); };
+    anfitrion.Pregunta = [&entorno](const Mensaje& m) { return Pregunta(entorno, m); };
+    anfitrion.Confirma = [&entorno](const Mensaje& m) {
+        return MuestraCaja(entorno, m, {Aceptar, Cancelar}) == 0;
     };
-    anfitrion.Confirma = [&entorno](const Mensaje& m) { return Caja(entorno, m, {acepta, cancela}) == 0; };
     anfitrion.PideResguardo = [&entorno](const Mensaje& m) {
         return static_cast<model::Resguardo>(
-            Caja(entorno, m, {QStringLiteral("&Guardar"), QStringLiteral("&Seguir sin guardar"), cancela}));
+            MuestraCaja(entorno, m, {"&Guardar", "&Seguir sin guardar", Cancelar}));
     };
     anfitrion.PideTexto = [&entorno](const Peticion& p) { return Pide(entorno, p); };
     anfitrion.EligeArchivo = [&entorno](std::string_view titulo, std::string_view filtro) {

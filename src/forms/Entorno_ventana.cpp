@@ -5,6 +5,7 @@
 #include <QDialog>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMessageBox>
@@ -12,12 +13,19 @@
 #include <QPrinterInfo>
 #include <QWindow>
 #include <algorithm>
+#include <new>
+#include <string_view>
 
+#include "forms/ListaDeAvisos_ventana.h"
 #include "forms/SinComillas_ventana.h"
 #include "model/Avisos.h"
 
 namespace forms {
 namespace {
+
+constexpr std::string_view SinMemoria =
+    "No hay memoria suficiente para terminar la orden. Cierre otros programas o reduzca los datos del "
+    "proyecto";
 
 /// The modal dialog on show, where there is one.
 QDialog* FormularioModal()
@@ -63,7 +71,8 @@ bool EsCaja(const QWidget& ventana)
 {
     return qobject_cast<const QMessageBox*>(&ventana) != nullptr ||
            qobject_cast<const QFileDialog*>(&ventana) != nullptr ||
-           qobject_cast<const QInputDialog*>(&ventana) != nullptr;
+           qobject_cast<const QInputDialog*>(&ventana) != nullptr ||
+           dynamic_cast<const ListaDeAvisos*>(&ventana) != nullptr;
 }
 
 }  // namespace
@@ -78,13 +87,65 @@ Entorno::Entorno(model::Siro& estadoSiro)
     new SinComillas(*this);  // which it owns
     connect(qApp, &QGuiApplication::focusWindowChanged, this,
             [this](QWindow* ventana) { CambioDeVentana(AlFrente(VentanaDe(ventana))); });
+    qApp->installEventFilter(this);
+}
+
+bool Entorno::eventFilter(QObject* objeto, QEvent* suceso)
+{
+    if (suceso->type() != QEvent::Polish) return false;
+    auto* const rotulo = qobject_cast<QLabel*>(objeto);
+    if (rotulo != nullptr && rotulo->textFormat() == Qt::AutoText) rotulo->setTextFormat(Qt::PlainText);
+    return false;
+}
+
+void Entorno::Atiende(const std::function<void()>& cuerpo)
+{
+    if (terminando) return;
+    const bool propia = orden == nullptr || orden->dialogos != dialogos;
+    Orden nueva{dialogos};
+    Orden* const anterior = orden;
+    if (propia) orden = &nueva;
+    std::optional<int> fin = Corre(cuerpo);
+    if (!terminando && (propia || fin)) {
+        const std::optional<int> mientras = Corre([this] { MuestraRecogidos(); });
+        if (!fin) fin = mientras;
+    }
+    orden = anterior;
+    if (fin) Termina(*fin);
+}
+
+/// Returns the status with which the program is to end, where it is.
+std::optional<int> Entorno::Corre(const std::function<void()>& cuerpo)
+{
+    try {
+        try {
+            cuerpo();
+        } catch (const model::Falla& falla) {
+            Informa(falla);
+        } catch (const std::bad_alloc&) {
+            model::Advierte(s, std::string(SinMemoria));
+        }
+    } catch (const model::FinDelPrograma& fin) {
+        return fin.estado;
+    }
+    return {};
+}
+
+void Entorno::MuestraRecogidos()
+{
+    if (orden == nullptr || !orden->recogida.HayRecogidos()) return;
+    ListaDeAvisos lista(*this, orden->recogida.Saca(), QApplication::activeWindow());
+    Ejecuta(lista);
 }
 
 int Entorno::Ejecuta(QDialog& dialogo)
 {
     if (terminando) throw model::FinDelPrograma{estado};
+    MuestraRecogidos();
     const QPointer<QWidget> anterior = QApplication::activeWindow();
+    ++dialogos;
     const int resultado = dialogo.exec();
+    --dialogos;
     if (terminando) throw model::FinDelPrograma{estado};
     // Where a form closes together with its box, a window manager may leave no window with the keyboard.
     if (!anterior.isNull() && anterior->isVisible()) anterior->activateWindow();

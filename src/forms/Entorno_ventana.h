@@ -5,10 +5,11 @@
 #include <QSettings>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
+#include "forms/Recogida.h"
 #include "model/Falla.h"
 #include "model/Siro.h"
 
@@ -28,25 +29,20 @@ class Entorno : public QObject {
     model::Siro& s;
 
     /// Runs the handler of an event. Where it ends the program, the event loops are left, those of boxes and
-    /// dialogs included, and no further event is handled. A fault that got this far is told.
-    template <typename Cuerpo>
-    void Atiende(Cuerpo&& cuerpo)
-    {
-        if (terminando) return;
-        try {
-            try {
-                std::forward<Cuerpo>(cuerpo)();
-            } catch (const model::Falla& falla) {
-                Informa(falla);
-            }
-        } catch (const model::FinDelPrograma& fin) {
-            Termina(fin.estado);
-        }
-    }
+    /// dialogs included, and no further event is handled. A fault that got this far is told, and so is that
+    /// the system had no memory for it.
+    ///
+    /// One event of the user's is one command: what it calls in its turn belongs to it, what happens in a
+    /// dialog that it opens doesn't. Messages that it has gathered are shown when it ends.
+    void Atiende(const std::function<void()>& cuerpo);
 
     /// Shows a dialog until it is closed and returns its result; the keyboard goes back to the window that
-    /// had it. Throws FinDelPrograma where the program was ended meanwhile, so that nothing after it runs.
+    /// had it. Messages that have been gathered are shown first. Throws FinDelPrograma where the program was
+    /// ended meanwhile, so that nothing after it runs.
     int Ejecuta(QDialog& dialogo);
+
+    /// Messages and questions of the command in hand; nothing outside of any.
+    Recogida* Recoge() { return orden == nullptr ? nullptr : &orden->recogida; }
 
     /// Leaves every event loop with this status.
     void Termina(int estado);
@@ -74,8 +70,19 @@ class Entorno : public QObject {
     /// What is remembered from one session to the next.
     QSettings& Ajustes() { return ajustes; }
 
+  protected:
+    /// Every label, tooltips and those of boxes included, shows its text as it stands: what a user or a file
+    /// calls itself is no mark-up, whatever it looks like.
+    bool eventFilter(QObject* objeto, QEvent* suceso) override;
+
   private:
+    struct Orden {
+        int dialogos = 0;  ///< on show when it began
+        Recogida recogida{};
+    };
     void Informa(const model::Falla& falla);
+    std::optional<int> Corre(const std::function<void()>& cuerpo);
+    void MuestraRecogidos();
     void CambioDeVentana(QWidget* activa);
 
     struct Vigilada {
@@ -85,6 +92,8 @@ class Entorno : public QObject {
     std::vector<Vigilada> vigiladas;
     std::vector<QPointer<QWidget>> ultima;  ///< the window active last and those that it belongs to
     QSettings ajustes;
+    Orden* orden = nullptr;  ///< the command in hand
+    int dialogos = 0;        ///< on show
     bool terminando = false;
     int estado = 0;
 };

@@ -39,6 +39,7 @@ constexpr auto PaginasComunes = std::to_array<PaginaComun>({
     {"dlgImportaTormenta", "dlgPpReal"},
     {"dlgEliminarProyecto", "MDIForm1"},
     {"frmAcerca", "MDIForm1"},
+    {"ListaDeAvisos", "mensajes"},
 });
 
 /// The wait pointer for as long as it lives, whatever ends the run.
