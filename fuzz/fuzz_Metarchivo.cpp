@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <string_view>
 
+#include "editor/lienzo/FormatoDeImagen.h"
 #include "editor/lienzo/Metarchivo.h"
 
 namespace {
@@ -80,5 +81,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t lar
     }
     Lienzo lienzo;
     Exige(editor::Toca(bytes, lienzo) == editor::EsMetarchivo(bytes));
+    Exige(!editor::EsMetarchivoMejorado(bytes) || !editor::EsMetarchivo(bytes));
+    Exige(!editor::EsMetarchivo(bytes) || editor::EstaIncompleta(bytes) != editor::TieneFin(bytes));
     return 0;
 }

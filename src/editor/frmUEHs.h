@@ -112,6 +112,21 @@ struct Tamano {
     bool operator==(const Tamano&) const = default;
 };
 
+/// What became of loading an image file.
+enum class CargaDeImagen {
+    Entera,
+    Incompleta,  ///< the file ends before its picture does: there is what it holds of it, be it nothing
+    Ilegible,
+    MetarchivoMejorado,  ///< an .emf that is called .wmf
+    Excesiva,            ///< a drawing of so many records, or so slow ones, that it was given up
+    Cancelada,           ///< by the user
+};
+
+struct ImagenCargada {
+    CargaDeImagen fin = CargaDeImagen::Ilegible;
+    Tamano tamano{};  ///< 0 by 0 where there is no picture
+};
+
 /// A place on the canvas [pixels].
 struct Pixel {
     double x = 0, y = 0;
@@ -191,9 +206,9 @@ struct frmUEHs {
     bool fallida = false;   ///< the command in hand couldn't save it, and has told so
     bool enEvento = false;  ///< an event is under way
 
-    /// Size of an image file; nothing where it can't be read as an image. The window fills it in.
-    std::function<std::optional<Tamano>(const std::string& ruta)> CargaImagen = [](const std::string&) {
-        return std::optional<Tamano>{};
+    /// Loads an image file. The window fills it in.
+    std::function<ImagenCargada(const std::string& ruta)> CargaImagen = [](const std::string&) {
+        return ImagenCargada{};
     };
 
     [[nodiscard]] bool Abajo(Boton b) const { return botones[static_cast<std::size_t>(b)]; }

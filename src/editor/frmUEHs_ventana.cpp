@@ -165,7 +165,7 @@ frmUEHs_ventana::frmUEHs_ventana(forms::Entorno& alrededor, frmUEHs& reglas, QWi
 {
     setWindowFlag(Qt::Window);
     setWindowTitle(Q(TituloFrmUEHs));
-    f.CargaImagen = [this](const std::string& ruta) { return pintor.CargaFondo(ruta); };
+    f.CargaImagen = [this](const std::string& ruta) { return pintor.CargaFondo(entorno, ruta); };
     picDibujo = new Lienzo(f, pintor);
     ScrEscalaHor = new QScrollBar(Qt::Horizontal);
     ScrEscalaVer = new QScrollBar(Qt::Vertical);

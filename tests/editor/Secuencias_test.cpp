@@ -85,7 +85,9 @@ struct Maquina : EditorDePrueba {
             if (azar.Uno(8)) return "nombre muy largo " + std::to_string(azar.Hasta(9));
             return std::to_string(azar.Hasta(60));
         };
-        f.CargaImagen = [](const std::string&) { return std::optional(editor::Tamano{500, 400}); };
+        f.CargaImagen = [](const std::string&) {
+            return editor::ImagenCargada{editor::CargaDeImagen::Entera, {500, 400}};
+        };
         s.frmConfigura.chkImagenDibujo = 1;
         s.frmConfigura.lblImagenDibujo = "fondo.jpg";
         model::cmdAplicar(s);

@@ -669,7 +669,9 @@ TEST_F(Editor, ElProyectoDeMuestraSeVeEntero)
         EXPECT_TRUE(p.x >= 0 && p.x <= f.lienzo.ancho && p.y >= 0 && p.y <= f.lienzo.alto);
     }
     EXPECT_EQ(editor::RutaImagen(s), "/proy/Quelmar.jpg");
-    f.CargaImagen = [](const std::string&) { return std::optional(Tamano{800, 600}); };
+    f.CargaImagen = [](const std::string&) {
+        return editor::ImagenCargada{editor::CargaDeImagen::Entera, {800, 600}};
+    };
     editor::cmdImagenUEHs_Click(f, s);
     EXPECT_TRUE(f.ImagenVisible);
 }
@@ -813,7 +815,7 @@ struct Imagen : Editor {
     {
         f.CargaImagen = [this](const std::string& ruta) {
             pedidas.push_back(ruta);
-            return std::optional(Tamano{640, 480});
+            return editor::ImagenCargada{editor::CargaDeImagen::Entera, {640, 480}};
         };
         s.ArchivoImagen = "Arroyo.jpg";
     }
@@ -889,10 +891,62 @@ TEST_F(Imagen, UnDirectorioQueNoEstaTambien)
 TEST_F(Imagen, UnArchivoQueNoEsImagenTambien)
 {
     disco.Pon("/proy/Arroyo.jpg", "no");
-    f.CargaImagen = [](const std::string&) { return std::optional<Tamano>{}; };
+    f.CargaImagen = [](const std::string&) { return editor::ImagenCargada{}; };
     editor::cmdImagenUEHs_Click(f, s);
     EXPECT_EQ(Avisos(), (Cajas{Falla("Error Nro. 75 ,Error de acceso a la ruta o al archivoVerifique.")}));
     EXPECT_FALSE(f.ImagenVisible);
+}
+
+// The file behind the name, what became of it, what of it is shown, and what the user reads.
+TEST_F(Imagen, LoQueLeFaltaAUnaImagenSeDice)
+{
+    using editor::CargaDeImagen;
+    disco.Pon("/proy/Arroyo.jpg", "x");
+    const struct {
+        CargaDeImagen fin;
+        Tamano tamano;
+        std::string aviso;
+    } casos[] = {
+        {CargaDeImagen::Incompleta,
+         {640, 480},
+         "El archivo de imagen /proy/Arroyo.jpg está incompleto: termina antes que su imagen. Cópielo otra "
+         "vez del original."},
+        {CargaDeImagen::Incompleta,
+         {},
+         "El archivo de imagen /proy/Arroyo.jpg está incompleto: termina antes que su imagen. Cópielo otra "
+         "vez del original."},
+        {CargaDeImagen::MetarchivoMejorado,
+         {},
+         "El archivo /proy/Arroyo.jpg es un metarchivo mejorado (EMF) aunque su nombre termine en .wmf. "
+         "Guárdelo como .png, .jpg o .wmf con el programa que lo hizo."},
+        {CargaDeImagen::Excesiva,
+         {},
+         "El dibujo del archivo /proy/Arroyo.jpg tiene demasiados elementos para servir de fondo. Guárdelo "
+         "como .png o .jpg con el programa que lo hizo."},
+        {CargaDeImagen::Cancelada, {}, ""},
+    };
+    for (const auto& caso : casos) {
+        anfitrion->sucesos.clear();
+        f.ImagenVisible = false;
+        f.CargaImagen = [&](const std::string&) { return editor::ImagenCargada{caso.fin, caso.tamano}; };
+        editor::cmdImagenUEHs_Click(f, s);
+        Cajas esperadas;
+        if (!caso.aviso.empty())
+            esperadas.push_back({caso.aviso, "Advertencia !", model::Icono::Exclamacion});
+        EXPECT_EQ(Avisos(), esperadas);
+        EXPECT_EQ(f.ImagenVisible, caso.tamano.ancho > 0);
+    }
+}
+
+// A map of 100 MB is no file of a project: that it isn't read as one keeps nobody from seeing it.
+TEST_F(Imagen, UnaImagenMayorQueLosArchivosDelProyectoSeMuestra)
+{
+    s.Disco.Lee = [](const std::string&) -> std::string {
+        throw model::Falla{model::NumeroFalla::AccesoRuta};
+    };
+    editor::cmdImagenUEHs_Click(f, s);
+    EXPECT_EQ(pedidas, (std::vector<std::string>{"/proy/Arroyo.jpg"}));
+    EXPECT_EQ(f.imagen, (Tamano{640, 480}));
 }
 
 }  // namespace

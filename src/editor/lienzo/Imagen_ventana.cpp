@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/lienzo/Imagen_ventana.h"
 
+#include <QBuffer>
 #include <QFile>
 #include <QFont>
 #include <QFontMetricsF>
@@ -12,6 +13,7 @@
 #include <numbers>
 #include <string_view>
 
+#include "editor/lienzo/FormatoDeImagen.h"
 #include "editor/lienzo/Metarchivo.h"
 #include "forms/Textos_ventana.h"
 
@@ -20,6 +22,7 @@ namespace {
 
 constexpr qint64 ArchivoMaximo = 256LL << 20U;  // [bytes]
 constexpr double LadoMaximo = 4096;             // of a metafile's image [pixels]
+constexpr int RegistrosMaximos = 1'000'000;     // that a metafile may draw
 
 QColor Color(ColorMeta c)
 {
@@ -179,8 +182,10 @@ void LienzoPintor::Texto(const TextoMeta& texto)
     pintor.restore();
 }
 
-QImage Metarchivo(std::string_view bytes)
+/// Plays a metafile on an image; an empty one where it is none, or was given up.
+ImagenLeida Metarchivo(std::string_view bytes, const std::function<bool()>& sigue)
 {
+    if (EsMetarchivoMejorado(bytes)) return {{}, CargaDeImagen::MetarchivoMejorado};
     const std::optional<MarcoMeta> marco = MarcoDe(bytes);
     if (!marco) return {};
     const double reduce = std::min(1.0, LadoMaximo / std::max(marco->ancho, marco->alto));
@@ -192,25 +197,37 @@ QImage Metarchivo(std::string_view bytes)
     pintor.scale(imagen.width() / marco->ventana.ancho, imagen.height() / marco->ventana.alto);
     pintor.translate(-marco->ventana.x, -marco->ventana.y);
     LienzoPintor lienzo(pintor);
-    Toca(bytes, lienzo);
-    return imagen;
+    int registros = 0;
+    bool entera = true;
+    Toca(bytes, lienzo, [&] { return entera = ++registros <= RegistrosMaximos && sigue(); });
+    pintor.end();
+    if (!entera) return {{}, CargaDeImagen::Excesiva};
+    return {imagen, CargaDeImagen::Entera};
 }
 
 }  // namespace
 
-QImage CargaImagen(const std::string& ruta)
+ImagenLeida LeeImagen(const std::string& ruta, const std::function<bool()>& sigue)
 {
     const QString camino = forms::Q(ruta);
-    if (!camino.endsWith(QLatin1String(".wmf"), Qt::CaseInsensitive)) {
-        QImageReader lector(camino);
-        lector.setAutoTransform(true);
-        lector.setDecideFormatFromContent(true);
-        return lector.read();
-    }
     QFile archivo(camino);
     if (archivo.size() > ArchivoMaximo || !archivo.open(QIODevice::ReadOnly)) return {};
-    const QByteArray bytes = archivo.readAll();
-    return Metarchivo({bytes.constData(), static_cast<std::size_t>(bytes.size())});
+    QByteArray bytes = archivo.readAll();
+    const std::string_view vista(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    ImagenLeida leida;
+    if (camino.endsWith(QLatin1String(".wmf"), Qt::CaseInsensitive)) {
+        leida = Metarchivo(vista, sigue);
+    } else {
+        QBuffer memoria(&bytes);
+        QImageReader lector(&memoria);
+        lector.setAutoTransform(true);
+        lector.setDecideFormatFromContent(true);
+        leida.imagen = lector.read();
+        if (!leida.imagen.isNull()) leida.fin = CargaDeImagen::Entera;
+    }
+    const bool sirve = leida.fin == CargaDeImagen::Entera || leida.fin == CargaDeImagen::Ilegible;
+    if (sirve && EstaIncompleta(vista)) leida.fin = CargaDeImagen::Incompleta;
+    return leida;
 }
 
 }  // namespace editor

@@ -139,9 +139,11 @@ class Registros {
         funcion = cabeza.Sin(4);
         datos = bytes.substr(6, largo - 6);
         bytes.remove_prefix(largo);
-        return funcion != 0;
+        fin = funcion == 0;
+        return !fin;
     }
     std::uint16_t funcion = 0;
+    bool fin = false;  ///< the record that ends the file has been read
     std::string_view datos{};
 
   private:
@@ -531,14 +533,23 @@ std::optional<MarcoMeta> MarcoDe(std::string_view bytes)
     return marco;
 }
 
-bool Toca(std::string_view bytes, LienzoMeta& lienzo)
+bool Toca(std::string_view bytes, LienzoMeta& lienzo, const std::function<bool()>& sigue)
 {
     if (!EsMetarchivo(bytes)) return false;
     Tocador tocador(lienzo);
     Registros registros(Cuerpo(bytes).substr(LargoCabeza));
-    while (registros.Siguiente())
+    while (registros.Siguiente() && sigue())
         tocador.Ejecuta(registros.funcion, registros.datos);
     return true;
+}
+
+bool TieneFin(std::string_view bytes)
+{
+    if (!EsMetarchivo(bytes)) return false;
+    Registros registros(Cuerpo(bytes).substr(LargoCabeza));
+    while (registros.Siguiente()) {
+    }
+    return registros.fin;
 }
 
 }  // namespace editor

@@ -105,8 +105,13 @@ bool EsMetarchivo(std::string_view bytes);
 /// Returns the frame of a metafile; nothing for what is none, or tells no size.
 std::optional<MarcoMeta> MarcoDe(std::string_view bytes);
 
-/// Plays a metafile from its first record to its last, or to the first damaged one. Records that draw nothing
-/// that a picture shows are passed over. Returns false where the bytes are no metafile.
-bool Toca(std::string_view bytes, LienzoMeta& lienzo);
+/// Plays a metafile from its first record to its last, or to the first damaged one, as long as `sigue`, asked
+/// ahead of each, says so. Records that draw nothing that a picture shows are passed over. Returns false
+/// where the bytes are no metafile.
+bool Toca(
+    std::string_view bytes, LienzoMeta& lienzo, const std::function<bool()>& sigue = [] { return true; });
+
+/// Whether the records of a metafile come to the one that ends it.
+bool TieneFin(std::string_view bytes);
 
 }  // namespace editor

@@ -180,14 +180,15 @@ struct PintorDibujo::Mapa {
     double px, py;  ///< [pixels per drawing unit]
 };
 
-std::optional<Tamano> PintorDibujo::CargaFondo(const std::string& ruta)
+ImagenCargada PintorDibujo::CargaFondo(forms::Entorno& entorno, const std::string& ruta)
 {
     if (ruta != rutaFondo || fondo.isNull()) {
-        fondo = QPixmap::fromImage(CargaImagen(ruta));
+        const ImagenLeida leida = cargador.Lee(entorno, ruta);
+        fondo = QPixmap::fromImage(leida.imagen);
         rutaFondo = ruta;
+        finFondo = leida.fin;
     }
-    if (fondo.isNull()) return {};
-    return Tamano{fondo.width(), fondo.height()};
+    return {finFondo, {fondo.width(), fondo.height()}};
 }
 
 void PintorDibujo::PintaFondo(QPainter& pintor, const QRectF& donde) const

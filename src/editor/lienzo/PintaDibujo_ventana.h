@@ -8,6 +8,7 @@
 #include <string>
 
 #include "editor/frmUEHs.h"
+#include "editor/lienzo/CargaImagen_ventana.h"
 
 class QPainter;
 
@@ -20,9 +21,8 @@ class PintorDibujo {
     /// Paints the drawing as the canvas shows it into a rectangle that has the canvas's proportions.
     void Pinta(QPainter& pintor, const frmUEHs& f, const QRectF& donde);
 
-    /// The background image of a file, kept until another one is asked for. Returns its size; nothing where
-    /// it can't be read.
-    std::optional<Tamano> CargaFondo(const std::string& ruta);
+    /// The background image of a file, kept until another one is asked for.
+    ImagenCargada CargaFondo(forms::Entorno& entorno, const std::string& ruta);
 
     /// Lines and letters without steps. Off only while something else counts more.
     bool suaviza = true;
@@ -32,8 +32,10 @@ class PintorDibujo {
     void PintaFondo(QPainter& pintor, const QRectF& donde) const;
     void PintaIcono(QPainter& pintor, const Primitiva& p, const QRectF& caja);
 
+    CargadorDeImagenes cargador{};
     QPixmap fondo{};
     std::string rutaFondo{};
+    CargaDeImagen finFondo = CargaDeImagen::Ilegible;
     QHash<quint64, QPixmap> iconos{};  ///< by kind, state, size
 };
 
