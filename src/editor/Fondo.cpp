@@ -92,6 +92,7 @@ void AlternaImagen(frmUEHs& f, Siro& s)
         f.cmdImagenUEHs = LeyendaQuitar;
     }
     f.ImagenVisible = !f.ImagenVisible;
+    DescartaTrazo(f, s);
     LimpiaSeleccion(s);
     model::LeeUEHs(s);
     f.guardada = true;  // memory and files agree again

@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "editor/Resguardo.h"
 #include "editor/fichas/dlgUEHsEditTabla_ventana.h"
 
 namespace editor {
@@ -25,11 +26,27 @@ VentanasDelEditor::VentanasDelEditor(forms::Entorno& alrededor,
         Redibuja(red, entorno.s);
         ventanaRed.Muestra();
     };
+    entorno.s.Anfitrion.ResguardaDibujo = [this](model::Riesgo riesgo) {
+        const bool sigue = Resguarda(red, entorno.s, riesgo);
+        ventanaRed.Muestra();
+        if (!sigue) AlzaEditor();
+        return sigue;
+    };
 }
 
 VentanasDelEditor::~VentanasDelEditor()
 {
     entorno.s.Anfitrion.RedibujaEditor = [] {};
+    entorno.s.Anfitrion.ResguardaDibujo = [](model::Riesgo) { return true; };
+}
+
+bool VentanasDelEditor::AlzaEditor()
+{
+    if (!red.abierta) return false;
+    ventanaRed.setWindowState(ventanaRed.windowState() & ~Qt::WindowMinimized);
+    ventanaRed.raise();
+    ventanaRed.activateWindow();
+    return true;
 }
 
 void VentanasDelEditor::AbreEditorDeTabla(QWidget& padre)

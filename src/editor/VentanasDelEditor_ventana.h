@@ -16,13 +16,15 @@ namespace editor {
 /// The windows of this room and the records behind them, which outlive them.
 class VentanasDelEditor {
   public:
-    /// `muestraPrincipal` shows the main window or hides it. Takes over the redrawing of the editor that the
-    /// host is asked for.
+    /// `muestraPrincipal` shows the main window or hides it. Takes over the redrawing of the editor and the
+    /// guarding of its drawing that the host is asked for.
     VentanasDelEditor(forms::Entorno& alrededor, std::function<void(bool visible)> muestraPrincipal);
     ~VentanasDelEditor();
     VentanasDelEditor(const VentanasDelEditor&) = delete;
     VentanasDelEditor& operator=(const VentanasDelEditor&) = delete;
 
+    /// Brings the graphic editor to the front where it is open, as it is. Returns whether it was.
+    bool AlzaEditor();
     /// The graphic editor. Runs inside an event.
     void AbreEditor() { ventanaRed.Abre(); }
     /// Closes it without a question; the main window comes back.

@@ -7,6 +7,7 @@
 #include "editor/Edicion.h"
 #include "editor/Fondo.h"
 #include "editor/Indicacion.h"
+#include "editor/Resguardo.h"
 #include "engine/ComponenteFinal.h"
 #include "model/Avisos.h"
 #include "model/Componentes.h"
@@ -68,16 +69,6 @@ bool Guarda(frmUEHs& f, Siro& s)
     if (bien) f.guardada = true;
     Redibuja(f, s);
     return bien;
-}
-
-void CierraVentana(frmUEHs& f, Siro& s)
-{
-    DescartaTrazo(f, s);
-    LimpiaSeleccion(s);
-    f.dibujo.Vacia();
-    f.historia = {};
-    f.abierta = false;
-    f.principalVisible = true;
 }
 
 /// Esc with measured points in hand drops them and does nothing else.
@@ -206,7 +197,10 @@ void AlActivarse(frmUEHs& f, Siro& s)
 {
     s.AvisoDescargasVisto = false;
     f.principalVisible = false;
-    if (f.historia.proyecto != s.NombreProyecto) EmpiezaHistoria(f, s);
+    if (f.historia.proyecto != s.NombreProyecto) {
+        EmpiezaHistoria(f, s);
+        f.lblEstado = Estado(s);
+    }
     Evento(f, s, [&] { Redibuja(f, s); });
 }
 
@@ -256,6 +250,7 @@ void ToolbarUEHs_ButtonClick(frmUEHs& f, Siro& s, Boton boton)
 
 void cmdImagenUEHs_Click(frmUEHs& f, Siro& s)
 {
+    if (!Resguarda(f, s, model::Riesgo::MueveProyecto)) return;  // it reads the network itself
     Orden(f, s, [&] { AlternaImagen(f, s); });
 }
 
@@ -336,6 +331,16 @@ std::int16_t ToleranciaPresente(const frmUEHs& f)
 void LimpiaSeleccion(Siro& s)
 {
     s.CauceSel = s.CauceAnterior = s.UEHSel = s.RepresaSel = s.LagoSel = s.VerticeSel = 0;
+}
+
+void CierraVentana(frmUEHs& f, Siro& s)
+{
+    DescartaTrazo(f, s);
+    LimpiaSeleccion(s);
+    f.dibujo.Vacia();
+    f.historia = {};
+    f.cambiada = f.abierta = false;
+    f.principalVisible = true;
 }
 
 void DescartaTrazo(frmUEHs& f, Siro& s)

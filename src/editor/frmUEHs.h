@@ -277,6 +277,8 @@ void Redibuja(frmUEHs& f, model::Siro& s);
 /// Reaches that have both an object and vertices: numbers 1 to this one. A reach that is being drawn has
 /// vertices under NroCauces and no object yet.
 int CaucesEnteros(const model::Siro& s);
+/// Closes the editor as it is, what isn't saved being lost.
+void CierraVentana(frmUEHs& f, model::Siro& s);
 /// Gives up the reach that is being drawn, if any.
 void DescartaTrazo(frmUEHs& f, model::Siro& s);
 

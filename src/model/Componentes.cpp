@@ -11,14 +11,17 @@
 #include <string_view>
 #include <type_traits>
 #include <unordered_map>
+#include <utility>
 #include <variant>
 #include <vector>
 
 #include "model/Avisos.h"
+#include "model/Candado.h"
 #include "model/EscrituraInformada.h"
 #include "model/Falla.h"
 #include "model/Numeros.h"
 #include "model/Registros.h"
+#include "model/RutaProyecto.h"
 #include "model/Siro.h"
 
 namespace model {
@@ -176,9 +179,14 @@ void PorGrupo(F hace)
     hace(GrupoLagos);
 }
 
+std::string RutaDe(const Siro& s, std::string_view sufijo)
+{
+    return Ruta(s.DirProyecto, s.NombreProyecto + std::string(sufijo));
+}
+
 std::string Compone(Siro& s, std::string_view sufijo)
 {
-    return s.ArchivoTemp = Ruta(s.DirProyecto, s.NombreProyecto + std::string(sufijo));
+    return s.ArchivoTemp = RutaDe(s, sufijo);
 }
 
 /// How many of a reach's vertices, the first ones, have a place in the drawing's arrays.
@@ -246,7 +254,9 @@ class Carga {
     {
         const auto sabido = std::find_if(sabidos.begin(), sabidos.end(),
                                          [&](const CambioArchivo& a) { return a.ruta == ruta; });
-        return sabido == sabidos.end() ? s.Disco.Lee(ruta) : sabido->bytes;
+        if (sabido == sabidos.end()) return LeeVigilado(s, ruta);
+        AnotaLeido(s, ruta, sabido->bytes);
+        return sabido->bytes;
     }
     const std::vector<CambioArchivo>& sabidos;
     std::optional<LectorRegistros> lector;
@@ -316,10 +326,19 @@ void LeeGrupo(Carga& carga, const Grupo<T, Limite>& grupo)
     }
 }
 
+/// A name that leads out of the project's directory makes the file a damaged one.
+void LeeNombre(Carga& carga)
+{
+    std::string nombre = carga.s.NombreProyecto;
+    LeeValor(carga, nombre);
+    if (!SirveDeNombre(nombre)) throw Falla{NumeroFalla::FinDeArchivo};
+    carga.s.NombreProyecto = std::move(nombre);
+}
+
 void LeeArchivoUEHs(Carga& carga)
 {
     carga.Abre(SufijoUEHs);
-    LeeValor(carga, carga.s.NombreProyecto);
+    LeeNombre(carga);
     PorGrupo([&](const auto& grupo) { LeeGrupo(carga, grupo); });
     carga.Cierra();
 }
@@ -619,6 +638,7 @@ void AlGuardarse(Siro& s, const std::vector<CambioArchivo>& escritos)
 
 bool mnu_btn_toolbarGuardaUEHs(Siro& s)
 {
+    if (!PuedeGuardar(s, {RutaDe(s, SufijoUEHs), RutaDe(s, SufijoVerCau)})) return false;
     std::vector<CambioArchivo> escritos;
     if (!EscribeRed(s, escritos)) return false;
     AlGuardarse(s, escritos);

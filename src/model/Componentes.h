@@ -23,7 +23,8 @@ void RenumeraComponentes(Siro& s);
 
 /// "Guardar" of the basin editor: stream orders, both files, a fresh read and the message that tells so.
 /// Without any component both files are deleted instead, unless it is their reading that failed. Returns
-/// false after a fault: it is told, both files and the network in memory are as they were.
+/// false where the user, asked about files that another program has changed, keeps them, and after a fault:
+/// it is told, both files and the network in memory are as they were.
 bool mnu_btn_toolbarGuardaUEHs(Siro& s);
 
 // Its two halves, for who writes other files together with the network.

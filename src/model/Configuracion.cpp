@@ -4,11 +4,14 @@
 #include <algorithm>
 #include <cstddef>
 #include <string_view>
+#include <utility>
 
 #include "model/Avisos.h"
+#include "model/Candado.h"
 #include "model/Falla.h"
 #include "model/Numeros.h"
 #include "model/Registros.h"
+#include "model/RutaProyecto.h"
 #include "model/Siro.h"
 #include "model/Texto.h"
 
@@ -26,6 +29,11 @@ constexpr std::string_view AvisoGuardado =
 constexpr std::string_view AvisoDanado1 = " El archivo de configuración <";
 constexpr std::string_view AvisoDanado2 =
     "_Conf.vlm > está dañado. Corrija o elimine manualmente este archivo";
+
+constexpr std::string_view TituloDeOtro = "Archivo de otro proyecto";
+constexpr std::string_view PreguntaDeOtro1 = "El archivo ";
+constexpr std::string_view PreguntaDeOtro2 =
+    " ya existe y no es el del proyecto que se abrió. ¿Desea reemplazarlo?";
 
 constexpr std::int16_t Tildada = 1;
 
@@ -64,6 +72,7 @@ struct Lectura {
     Siro& s;
     LectorRegistros& lector;
     bool mudado = false;  ///< the project stands elsewhere than its file says
+    bool deOtro = false;  ///< the file bears another name than it tells
 };
 
 /// A field of the file: how it reaches variable and control, and how it is written.
@@ -153,9 +162,13 @@ consteval CampoConf Dur()
     return Seleccion<&Siro::CheckD, &Controles::CheckD, Lugar(Duraciones, D), Lugar(Duraciones, D)>();
 }
 
+/// A name that leads out of the project's directory makes the file a damaged one.
 void LeeNombre(Lectura& l)
 {
-    l.s.NombreProyecto = l.lector.Texto();
+    std::string nombre = l.lector.Texto();
+    if (!SirveDeNombre(nombre)) throw Falla{NumeroFalla::FinDeArchivo};
+    l.deOtro = nombre != l.s.NombreProyecto;
+    l.s.NombreProyecto = std::move(nombre);
 }
 
 void EscribeNombre(EscritorRegistros& e, const Siro& s)
@@ -169,14 +182,18 @@ void LeeUnidad(Lectura& l)
     PonUnidad(l.s, l.s.DriveProyecto);
 }
 
-/// The directory, and with it the question whether the project has moved: then it keeps the present one.
+/// The directory, and with it the question whether the project has moved: then it keeps the present one, and
+/// so it does where the file can't hold its characters.
 void LeeDirectorio(Lectura& l)
 {
     Siro& s = l.s;
-    s.DirProyectoConf = l.lector.Texto();
-    l.mudado =
-        s.DriveProyecto != s.frmConfigura.Drive1 || SinUnidad(s.DirProyecto) != SinUnidad(s.DirProyectoConf);
-    if (l.mudado) s.DirProyectoConf = s.DirProyecto;
+    s.DirProyectoConf = RutaLlana(l.lector.Texto());
+    s.DirProyecto = RutaLlana(s.DirProyecto);
+    const std::string_view dicho = SinUnidad(s.DirProyectoConf);
+    const bool igual = SinUnidad(s.DirProyecto) == dicho;
+    const bool parecido = igual || SinUnidad(ComoVuelve(s.DirProyecto)) == dicho;
+    l.mudado = s.DriveProyecto != s.frmConfigura.Drive1 || !parecido;
+    if (l.mudado || !igual) s.DirProyectoConf = s.DirProyecto;
     s.frmConfigura.Dir1 = s.DirProyectoConf;
     s.DirProyecto = s.DirProyectoConf;
 }
@@ -266,9 +283,47 @@ std::int16_t ListaTildadas(const std::array<std::int16_t, N>& casillas,
     return static_cast<std::int16_t>(lista.size() - 1);
 }
 
+std::string RutaConf(const Siro& s, const std::string& directorio)
+{
+    return Ruta(directorio, s.NombreProyecto + std::string(SufijoConf));
+}
+
 void ComponeArchivo(Siro& s)
 {
-    s.ArchivoTemp = Ruta(s.DirProyecto, s.NombreProyecto + std::string(SufijoConf));
+    s.ArchivoTemp = RutaConf(s, s.DirProyecto);
+}
+
+/// What can't be read is there too.
+bool HayArchivo(const Siro& s, const std::string& ruta)
+{
+    try {
+        static_cast<void>(s.Disco.Lee(ruta));
+        return true;
+    } catch (const Falla& falla) {
+        return falla.numero == NumeroFalla::AccesoRuta;
+    }
+}
+
+/// Writes the file with no question, and tells so. Throws Falla 76, 75; memory is then as it was.
+void GuardaConf(Siro& s)
+{
+    if (s.NombreProyecto.empty()) {
+        s.DirProyectoConf = s.frmConfigura.Dir1;
+        s.DriveProyecto = s.frmConfigura.Drive1;
+        return;
+    }
+    const std::string directorio = s.DirProyecto, imagen = s.ArchivoImagen;
+    const std::int16_t conImagen = s.frmConfigura.chkImagenDibujo;
+    try {
+        EscribeConf(s);
+    } catch (const Falla&) {
+        s.DirProyecto = directorio;
+        s.ArchivoImagen = imagen;
+        s.frmConfigura.chkImagenDibujo = conImagen;
+        throw;
+    }
+    AvisaConfGuardada(s, s.ArchivoTemp);
+    s.ProyectoNuevo = false;
 }
 
 void LeeArchivo(Siro& s)
@@ -276,12 +331,14 @@ void LeeArchivo(Siro& s)
     s.frmConfigura.Dir1 = s.DirProyecto;
     s.frmConfigura.Drive1 = UnidadDe(s.DirProyecto);
     ComponeArchivo(s);
-    LectorRegistros lector(s.Disco.Lee(s.ArchivoTemp));
+    LectorRegistros lector(LeeVigilado(s, s.ArchivoTemp));
+    s.Vigilancia.archivoConf = s.ArchivoTemp;
     Lectura l{s, lector};
     for (const CampoConf& campo : Campos)
         campo.Lee(l);
 
-    if (l.mudado) cmdAplicar(s);
+    // Under the name that the file tells stands another project's, or none.
+    if (l.mudado && !l.deOtro && PuedeGuardar(s, {s.ArchivoTemp})) GuardaConf(s);
     s.NroRec = ListaTildadas(s.frmConfigura.CheckR, Recurrencias, s.ListaRec);
     s.NroDur = ListaTildadas(s.frmConfigura.CheckD, Duraciones, s.ListaDur);
 }
@@ -335,6 +392,8 @@ void EscribeConf(Siro& s)
         escritor.FinRegistro();
     }
     escritor.Cierra();
+    s.Vigilancia.archivoConf = s.ArchivoTemp;
+    AnotaGuardado(s, s.ArchivoTemp);
 }
 
 void AvisaConfGuardada(const Siro& s, const std::string& ruta)
@@ -342,25 +401,17 @@ void AvisaConfGuardada(const Siro& s, const std::string& ruta)
     Informa(s, std::string(AvisoGuardado) + ruta);
 }
 
-void cmdAplicar(Siro& s)
+bool cmdAplicar(Siro& s)
 {
-    if (s.NombreProyecto.empty()) {
-        s.DirProyectoConf = s.frmConfigura.Dir1;
-        s.DriveProyecto = s.frmConfigura.Drive1;
-        return;
-    }
-    const std::string directorio = s.DirProyecto, imagen = s.ArchivoImagen;
-    const std::int16_t conImagen = s.frmConfigura.chkImagenDibujo;
-    try {
-        EscribeConf(s);
-    } catch (const Falla&) {
-        s.DirProyecto = directorio;
-        s.ArchivoImagen = imagen;
-        s.frmConfigura.chkImagenDibujo = conImagen;
-        throw;
-    }
-    AvisaConfGuardada(s, s.ArchivoTemp);
-    s.ProyectoNuevo = false;
+    const std::string ruta = RutaConf(s, s.frmConfigura.Dir1);
+    const bool deOtro = !s.NombreProyecto.empty() && ruta != s.Vigilancia.archivoConf && HayArchivo(s, ruta);
+    if (deOtro &&
+        !Consulta(s, std::string(PreguntaDeOtro1).append(ruta).append(PreguntaDeOtro2), TituloDeOtro))
+        return false;
+    if (deOtro) AnotaGuardado(s, ruta);  // what is there has been asked about
+    if (!PuedeGuardar(s, {ruta})) return false;
+    GuardaConf(s);
+    return true;
 }
 
 }  // namespace model

@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "model/Avisos.h"
+#include "model/Candado.h"
 #include "model/EscrituraInformada.h"
 #include "model/Falla.h"
 #include "model/Numeros.h"
@@ -225,7 +226,7 @@ class LecturaTabla {
     {
         if (registros) return Apertura::Abierto;
         Apertura apertura = Apertura::Abierto;
-        Sentencia([&] { registros.emplace(s.Disco.Lee(ruta), archivo.columnas.size()); },
+        Sentencia([&] { registros.emplace(LeeVigilado(s, ruta), archivo.columnas.size()); },
                   [&](const Falla& falla) {
                       apertura =
                           falla.numero == NumeroFalla::ArchivoNoEsta ? Apertura::NoEsta : Apertura::EnFalla;
@@ -330,7 +331,9 @@ void PonFila(EscritorRegistros& escritor, const Siro& s, std::span<const Columna
 template <typename T, int Limite>
 bool GuardaTabla(Siro& s, const ArchivoTabla<T, Limite>& archivo)
 {
-    EscrituraInformada salida(s, Compone(s, archivo), NumeroFalla::ArchivoNoEsta);
+    const std::string ruta = Compone(s, archivo);
+    if (!PuedeGuardar(s, {ruta})) return false;
+    EscrituraInformada salida(s, ruta, NumeroFalla::ArchivoNoEsta);
     salida.Paso([&] { VaADirectorio(s); });
     for (const T& componente : s.*archivo.coleccion) {
         EscribeCabecera(salida, s, archivo, componente);
@@ -341,7 +344,9 @@ bool GuardaTabla(Siro& s, const ArchivoTabla<T, Limite>& archivo)
             salida.Registro(
                 [&](EscritorRegistros& escritor) { PonFila(escritor, s, archivo.columnas, numero, k); });
     }
-    return salida.Cierra();
+    const bool guardada = salida.Cierra();
+    if (guardada) AnotaGuardado(s, ruta);
+    return guardada;
 }
 
 // --- blocks by name ---

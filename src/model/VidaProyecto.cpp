@@ -5,11 +5,13 @@
 #include <utility>
 
 #include "model/Avisos.h"
+#include "model/Candado.h"
 #include "model/Componentes.h"
 #include "model/Configuracion.h"
 #include "model/EscriturasEnEspera.h"
 #include "model/Falla.h"
 #include "model/Registros.h"
+#include "model/RutaProyecto.h"
 #include "model/Siro.h"
 
 namespace model {
@@ -38,6 +40,8 @@ constexpr std::string_view Completado1 =
 constexpr std::string_view Pendiente1 =
     "Un guardado anterior quedó interrumpido y no se pudo completar. Se intentará otra vez en la próxima "
     "apertura. Archivos: ";
+constexpr std::string_view SinNombre =
+    "El archivo elegido no lleva nombre de proyecto: no se borra ningún archivo.";
 constexpr std::string_view SinProyectoElegido = "Ninguno";
 
 std::string ArchivoConf(std::string_view proyecto)
@@ -94,6 +98,7 @@ void BuscaProyecto(Siro& s)
     LectorRegistros lector(s.Disco.Lee(Ruta(s.DirTrabajo, ArchivoPuntero)));
     s.DirProyecto = lector.Texto();
     s.NombreProyecto = lector.Texto();
+    if (!SirveDeNombre(s.NombreProyecto)) throw Falla{NumeroFalla::AccesoRuta};
     if (s.DirProyecto.empty()) s.DirProyecto = ProyectosPorDefecto(s);
     Entra(s, s.DirProyecto);
     if (s.ConfPendiente) s.Disco.Lee(Ruta(s.DirProyecto, ArchivoConf(s.NombreProyecto)));
@@ -178,7 +183,7 @@ void AbreRuta(Siro& s, std::string_view ruta)
     // The labels come before the configuration and so show the earlier titles: kept as it stands. A pointer
     // that can't be written keeps no project from being opened.
     Sentencia([&] { carga_lbl_proyecto(s); }, [](const Falla&) {});
-    leoConf(s);
+    LeeConfReclamada(s);
     s.Anfitrion.HabilitaGuardarComo();
 }
 
@@ -271,6 +276,7 @@ bool NombreProyectoValido(std::string_view nombre)
 
 bool mnuNuevoProyecto(Siro& s)
 {
+    if (!s.Anfitrion.ResguardaDibujo(Riesgo::OtroProyecto)) return false;
     LimpiaProyecto(s);
     const std::string nombre = PideNombre(s, TituloNuevo);
     if (nombre.empty()) return false;
@@ -285,13 +291,23 @@ bool mnuNuevoProyecto(Siro& s)
 
 void mnuAbrirProyecto(Siro& s)
 {
+    if (!s.Anfitrion.ResguardaDibujo(Riesgo::OtroProyecto)) return;
     LimpiaProyecto(s);
     const std::string ruta = s.Anfitrion.EligeArchivo(TituloAbrir, FiltroAbrir);
     if (!ruta.empty()) AbreRuta(s, ruta);
 }
 
+void LeeConfReclamada(Siro& s)
+{
+    ReclamaProyecto(s);
+    const std::string nombre = s.NombreProyecto;
+    leoConf(s);
+    if (s.NombreProyecto != nombre) ReclamaProyecto(s);
+}
+
 void AbreProyectoDe(Siro& s, std::string_view ruta)
 {
+    if (!s.Anfitrion.ResguardaDibujo(Riesgo::OtroProyecto)) return;
     LimpiaProyecto(s);
     AbreRuta(s, ruta);
 }
@@ -303,8 +319,9 @@ bool TomaRutaProyecto(Siro& s, std::string_view ruta)
         s.NombreProyecto.clear();
         return false;
     }
-    s.ArchivoTemp = ruta;
-    const std::string_view resto = ruta.substr(0, ruta.size() - TerminacionConf.size());
+    s.ArchivoTemp = RutaLlana(ruta);
+    const std::string_view llana = s.ArchivoTemp;
+    const std::string_view resto = llana.substr(0, llana.size() - TerminacionConf.size());
     const std::size_t ultimo = resto.rfind(Separador);
     if (ultimo == std::string_view::npos) {
         s.NombreProyecto = resto;
@@ -318,9 +335,10 @@ bool TomaRutaProyecto(Siro& s, std::string_view ruta)
 
 void mnu_ultimoarchivo1(Siro& s)
 {
+    if (!s.Anfitrion.ResguardaDibujo(Riesgo::OtroProyecto)) return;
     LimpiaProyecto(s);
     RecuperaGuardado(s, s.DirProyecto);
-    leoConf(s);
+    LeeConfReclamada(s);
     Sentencia([&] { carga_lbl_proyecto(s); }, [](const Falla&) {});
     if (!s.NombreProyecto.empty()) s.Anfitrion.HabilitaGuardarComo();
 }
@@ -328,6 +346,7 @@ void mnu_ultimoarchivo1(Siro& s)
 void mnuGuardarProyectoComo(Siro& s)
 {
     if (s.NombreProyecto.empty()) return;
+    if (!s.Anfitrion.ResguardaDibujo(Riesgo::ReleeRed)) return;
     const std::string viejo = s.NombreProyecto;  // the load takes the name from inside the file
     LeeUEHs(s);
     const std::string nuevo = PideNombre(s, TituloGuardarComo);
@@ -338,6 +357,16 @@ void mnuGuardarProyectoComo(Siro& s)
 }
 
 // --- deleting ---
+
+namespace {
+
+/// Into the trash, or off the disk where there is none. Throws Falla 53, 76, 75.
+void Tira(const Siro& s, const std::string& ruta)
+{
+    if (!s.Anfitrion.TiraAPapelera(ruta)) s.Disco.Borra(ruta);
+}
+
+}  // namespace
 
 void dlgEliminarProyecto::Abre(const Siro& s)
 {
@@ -358,14 +387,17 @@ void dlgEliminarProyecto::OKButton(Siro& s)
     const std::string texto = std::string(Eliminar1).append(s.NombreProyecto).append(Eliminar2);
     if (!s.Anfitrion.Pregunta({texto, std::string(TituloEliminar), Icono::Pregunta})) return;
     if (lblProyectoAEliminar.empty() || lblProyectoAEliminar == SinProyectoElegido) return;
-    Entra(s, s.DirProyecto);
-    s.Disco.Borra(Ruta(s.DirProyecto, lblProyectoAEliminar));
     const std::string prefijo = lblProyectoAEliminar.substr(0, lblProyectoAEliminar.find('_'));
+    const bool elPresente = !s.NombreProyecto.empty() && ArchivoConf(s.NombreProyecto).starts_with(prefijo);
+    if (prefijo.empty()) return Advierte(s, std::string(SinNombre), TituloEliminar);
+    if (elPresente && !s.Anfitrion.ResguardaDibujo(Riesgo::MueveProyecto)) return;
+    Entra(s, s.DirProyecto);
+    Tira(s, Ruta(s.DirProyecto, lblProyectoAEliminar));
     constexpr std::string_view terminacion = ".vlm";
     for (const std::string& nombre : s.Disco.Lista(s.DirProyecto)) {
         const bool coincide = nombre.size() >= prefijo.size() + terminacion.size() &&
                               nombre.starts_with(prefijo) && nombre.ends_with(terminacion);
-        if (coincide) s.Disco.Borra(Ruta(s.DirProyecto, nombre));
+        if (coincide) Tira(s, Ruta(s.DirProyecto, nombre));
     }
     abierto = false;
 }

@@ -54,6 +54,10 @@ void mnuAbrirProyecto(Siro& s);
 /// The same with a file that has been chosen already. Its path is whole and has the platform's separators.
 void AbreProyectoDe(Siro& s, std::string_view ruta);
 
+/// Claims the project in hand for this program and reads its configuration, which may name another one in its
+/// place: then that one is claimed. Faults are told.
+void LeeConfReclamada(Siro& s);
+
 /// What a path says of a project: DirProyecto, NombreProyecto, and DirProyectoConf, the path up to its first
 /// separator. Returns false, with no project, where the path doesn't end in "_Conf.vlm".
 bool TomaRutaProyecto(Siro& s, std::string_view ruta);
@@ -80,8 +84,9 @@ struct dlgEliminarProyecto {
     /// A click on a file of the list.
     void filProyectoEliminar_AlPulsar(std::string_view archivo);
     /// Asks, then deletes the file picked and every file whose name begins with what stands before the
-    /// picked one's first "_" and ends in ".vlm", those of other projects included. Only then the dialog
-    /// closes; NombreProyecto stays. Throws Falla 53, 76, 75 and leaves the dialog open.
+    /// picked one's first "_" and ends in ".vlm", those of other projects included; where nothing stands
+    /// there it tells so and deletes nothing. What is deleted goes to the trash where there is one. Only then
+    /// the dialog closes; NombreProyecto stays. Throws Falla 53, 76, 75 and leaves the dialog open.
     void OKButton(Siro& s);
 };
 

@@ -49,7 +49,7 @@ void FormaDeTabla_ventana::AgregaFinales(QBoxLayout& fila, Rutina aplicar, Rutin
 
 void FormaDeTabla_ventana::Abre()
 {
-    AbreForma();
+    if (!AbreForma()) return;
     Muestra();
     Acomoda(*this, *tabla);
     entorno.Ejecuta(*this);

@@ -31,8 +31,8 @@ class FormaDeTabla_ventana : public forms::Formulario {
     FormaDeTabla_ventana(forms::Entorno& alrededor, std::string_view nombre, std::string_view titulo,
                          std::span<const Leyenda> leyendas, QWidget* padre);
 
-    /// The form's own opening, and its closing without an effect.
-    virtual void AbreForma() = 0;
+    /// The form's own opening, which returns whether it is open, and its closing without an effect.
+    virtual bool AbreForma() = 0;
     virtual void Cancela() = 0;
     void AlCerrar() override;
 

@@ -110,9 +110,10 @@ QLayout* dlgDisPpPer_ventana::Botones()
     return fila;
 }
 
-void dlgDisPpPer_ventana::AbreForma()
+bool dlgDisPpPer_ventana::AbreForma()
 {
     rainfall::Abre(f, pp, entorno.s);
+    return f.abierta;
 }
 
 void dlgDisPpPer_ventana::Cancela()

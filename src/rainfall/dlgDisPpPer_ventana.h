@@ -17,7 +17,7 @@ class dlgDisPpPer_ventana : public FormaDeTabla_ventana {
     void Muestra() override;
 
   private:
-    void AbreForma() override;
+    bool AbreForma() override;
     void Cancela() override;
     // Each makes a part of the form, with its events.
     QLayout* Datos();

@@ -146,9 +146,10 @@ void dlgPpReal_ventana::Importa()
     if (importa.aceptada) TomaImportada(f, entorno.s, importa.tormenta);
 }
 
-void dlgPpReal_ventana::AbreForma()
+bool dlgPpReal_ventana::AbreForma()
 {
     rainfall::Abre(f, pp, entorno.s);
+    return f.abierta;
 }
 
 void dlgPpReal_ventana::Cancela()

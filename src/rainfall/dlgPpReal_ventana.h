@@ -24,7 +24,7 @@ class dlgPpReal_ventana : public FormaDeTabla_ventana {
     std::function<void(const PedidoHietograma&)> AbreHietograma = [](const PedidoHietograma&) {};
 
   private:
-    void AbreForma() override;
+    bool AbreForma() override;
     void Cancela() override;
     // Each makes a part of the form, with its events.
     QLayout* Archivos();

@@ -118,7 +118,8 @@ void Aplica(dlgTablaPpUEHs& f, dlgPp& pp, Siro& s)
 void Abre(dlgTablaPpUEHs& f, Siro& s)
 {
     Evento(s, [&] {
-        f.abierta = true;
+        f.abierta = s.Anfitrion.ResguardaDibujo(model::Riesgo::ReleeRed);
+        if (!f.abierta) return;
         f.foco = {};
         f.MSFlexGridPpUEHs = forms::NuevaGrilla(ReglasTabla);
         model::LeeUEHs(s);

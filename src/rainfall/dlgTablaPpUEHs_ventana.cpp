@@ -60,9 +60,10 @@ QLayout* dlgTablaPpUEHs_ventana::Botones()
     return fila;
 }
 
-void dlgTablaPpUEHs_ventana::AbreForma()
+bool dlgTablaPpUEHs_ventana::AbreForma()
 {
     rainfall::Abre(f, entorno.s);
+    return f.abierta;
 }
 
 void dlgTablaPpUEHs_ventana::Cancela()

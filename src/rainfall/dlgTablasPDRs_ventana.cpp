@@ -88,9 +88,10 @@ QLayout* dlgTablasPDRs_ventana::Botones()
     return fila;
 }
 
-void dlgTablasPDRs_ventana::AbreForma()
+bool dlgTablasPDRs_ventana::AbreForma()
 {
     rainfall::Abre(f, pp, entorno.s);
+    return f.abierta;
 }
 
 void dlgTablasPDRs_ventana::Cancela()

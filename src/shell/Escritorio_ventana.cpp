@@ -3,10 +3,12 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QFile>
 #include <QTimer>
 #include <chrono>
 
 #include "forms/Cajas_ventana.h"
+#include "forms/Textos_ventana.h"
 #include "shell/VisorDeAyuda_ventana.h"
 #include "shell/dlgEliminarProyecto_ventana.h"
 #include "shell/frmAcerca_ventana.h"
@@ -88,6 +90,9 @@ void Escritorio::PonAnfitrion()
         habilita(Variable::mnu_prueba_funcionesSHVrepresas);
         habilita(Variable::mnu_prueba_funcionesHQrepresas);
     };
+    s.Vigilancia.activa = true;
+    s.Anfitrion.ReclamaProyecto = [this](const std::string& conf) { return candado.Toma(conf); };
+    s.Anfitrion.TiraAPapelera = [](const std::string& ruta) { return QFile::moveToTrash(forms::Q(ruta)); };
     s.Anfitrion.AbreTablaSerie = [this] { Abre(Ventana::dlgTablaSalePDR, false); };
 }
 
@@ -148,6 +153,7 @@ void Escritorio::PonMandos()
     mandos.Abre = [this](Ventana ventana) { Abre(ventana, true); };
     mandos.AbreSinEsperar = [this](Ventana ventana) { Abre(ventana, false); };
     mandos.Cierra = [this](Ventana ventana) { Cierra(ventana); };
+    mandos.AlzaEditor = [this] { return ventanasEditor->AlzaEditor(); };
     mandos.AbreHietograma = [this](const results::Hietograma& pedido) { ventanaHietograma->Muestra(pedido); };
     mandos.NotasDeTormenta = [this] { return rainfall::TituloDeTormenta(lluvia, s); };
     mandos.PunteroDeEspera = [](bool espera) {

@@ -21,6 +21,7 @@
 #include "results/frmPp_ventana.h"
 #include "shell/Arranque.h"
 #include "shell/Ayuda_ventana.h"
+#include "shell/Candado_ventana.h"
 #include "shell/MDIForm1.h"
 #include "shell/MDIForm1_ventana.h"
 #include "shell/frmConfigura.h"
@@ -73,6 +74,7 @@ class Escritorio {
     void PonBajo(QWidget& ventana, QWidget& dueno);
 
     Mandos mandos{};
+    Candado candado{};
 
     // The windows below the main one go first.
     std::unique_ptr<MDIForm1_ventana> ventanaPrincipal;

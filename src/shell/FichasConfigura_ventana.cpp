@@ -246,6 +246,13 @@ void frmConfigura_ventana::ColumnaDeImagenes(QWidget& padre, QGridLayout& column
     auto* const datos = new QGridLayout;
     columnas.addLayout(datos, 2, 2, Qt::AlignTop);
     lblImagenDibujo = Dato(*datos, padre, "lblImagenDibujo");
+    lblAvisoImagen = new QLabel(&padre);
+    lblAvisoImagen->setObjectName(QStringLiteral("lblAvisoImagen"));
+    lblAvisoImagen->setTextFormat(Qt::PlainText);
+    lblAvisoImagen->setWordWrap(true);
+    cmdTraeImagen = Boton("cmdTraeImagen", padre, [this] { shell::cmdTraeImagen(f, entorno.s); });
+    datos->addWidget(lblAvisoImagen, datos->rowCount(), 0, 1, -1);
+    datos->addWidget(cmdTraeImagen, datos->rowCount(), 0, 1, -1);
 }
 
 // --- titles ---

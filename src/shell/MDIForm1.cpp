@@ -14,6 +14,7 @@
 
 namespace shell {
 
+using model::Riesgo;
 using model::Siro;
 
 namespace {
@@ -163,6 +164,8 @@ void mnuOpcionesConfigurar(MDIForm1& /*f*/, Siro& s, const Mandos& m)
 
 void mnufrmUEHs(MDIForm1& /*f*/, Siro& s, const Mandos& m)
 {
+    if (!s.NombreProyecto.empty() && m.AlzaEditor()) return;
+    if (!s.Anfitrion.ResguardaDibujo(Riesgo::MueveProyecto)) return;
     s.ColCauces.Vacia();
     s.ColUEHs.Vacia();
     s.ColLagos.Vacia();
@@ -182,6 +185,7 @@ void mnufrmPp(MDIForm1& /*f*/, Siro& s, const Mandos& m)
 void mnuCorre1(MDIForm1& /*f*/, Siro& s, const Mandos& m)
 {
     if (!ProyectoParaCorrer(s) || s.FormaPp == FormaSerie) return;
+    if (!s.Anfitrion.ResguardaDibujo(Riesgo::ReleeRed)) return;
     s.PasoQ = std::min(s.PasoQ, s.PasoPp);
     const Espera espera(m);
     if (CorridaLarga(s)) {
@@ -206,6 +210,7 @@ void mnuCorre2(MDIForm1& f, Siro& s, const Mandos& m)
     if (!s.Anfitrion.Confirma(
             {std::string(TextoContinuar), std::string(TituloContinuar), model::Icono::Pregunta}))
         return;
+    if (!s.Anfitrion.ResguardaDibujo(Riesgo::ReleeRed)) return;
     const Espera espera(m);
     s.SalidaPizarra = false;
     f.Estado(Variable::mnuPizarra1).marcada = false;

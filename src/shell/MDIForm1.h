@@ -62,6 +62,8 @@ struct Mandos {
     /// The same without waiting for a modal one.
     std::function<void(Ventana)> AbreSinEsperar = [](Ventana) {};
     std::function<void(Ventana)> Cierra = [](Ventana) {};
+    /// Brings the editor of the network to the front where it is open. Returns whether it was.
+    std::function<bool()> AlzaEditor = [] { return false; };
     std::function<void(const results::Hietograma&)> AbreHietograma = [](const results::Hietograma&) {};
     /// Notes of the real storm in hand.
     std::function<std::string()> NotasDeTormenta = [] { return std::string{}; };
@@ -195,7 +197,8 @@ void mnuNuevoProyecto(MDIForm1& f, model::Siro& s, const Mandos& m);
 void mnuDirCrea(MDIForm1& f, model::Siro& s, const Mandos& m);
 /// The configuration until it is closed, then the labels.
 void mnuOpcionesConfigurar(MDIForm1& f, model::Siro& s, const Mandos& m);
-/// Empties the network and opens the editor; without a project the network is emptied all the same.
+/// Brings an open editor to the front. Else empties the network and opens the editor; without a project the
+/// network is emptied all the same, and the editor closes.
 void mnufrmUEHs(MDIForm1& f, model::Siro& s, const Mandos& m);
 void mnufrmPp(MDIForm1& f, model::Siro& s, const Mandos& m);
 /// Runs the storm in hand and opens its hydrographs; nothing without a project or in a series.

@@ -5,6 +5,7 @@
 
 #include "forms/Evento.h"
 #include "model/Avisos.h"
+#include "model/Candado.h"
 #include "model/Numeros.h"
 #include "model/VidaProyecto.h"
 
@@ -16,6 +17,7 @@ using model::Falla;
 using model::Informa;
 using model::NumeroATexto;
 using model::NumeroFalla;
+using model::Riesgo;
 using model::Simple;
 using model::Siro;
 using model::Val;
@@ -36,6 +38,13 @@ constexpr std::string_view NoEsConf2 =
 constexpr std::string_view DebeCargarConf = "debe cargar el archivo Conf.";
 constexpr std::string_view NoEsImagen2 =  // kept as it stands
     " no es un archivo de Imágen válido. Los archivos de Imágen son extensión .bmp .gif .jpg y.wmf";
+constexpr std::string_view ImagenAfuera = "La imagen está en otra carpeta. Al aplicar, el proyecto pasa a ";
+constexpr std::string_view RedVacia = ", donde no tiene red.";
+constexpr std::string_view SeMudo1 = "El proyecto pasó a la carpeta de su imagen, ";
+constexpr std::string_view SeMudo2 = ". Su red quedó en ";
+constexpr std::string_view TituloHayImagen = "Imagen de fondo";
+constexpr std::string_view HayImagen1 = "En la carpeta del proyecto ya hay otro archivo ";
+constexpr std::string_view HayImagen2 = ". ¿Desea reemplazarlo?";
 constexpr std::string_view YaHayDirectorio = "Verifique. Puede que ya exista un Directorio con ese nombre...";
 /// The two fields that refuse share the message of one of them: kept as it stands.
 constexpr std::string_view EntreDiezYTreintaMil = "Ingrese un valor numérico entre 10 y 30000";
@@ -59,11 +68,16 @@ void Asegura(const Siro& s, const std::string& directorio)
     if (!s.Disco.HayDirectorio(directorio)) s.Disco.CreaDirectorio(directorio);
 }
 
-bool TerminaEnConf(std::string nombre)
+std::string EnMinusculas(std::string nombre)
 {
     const auto minuscula = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
     std::transform(nombre.begin(), nombre.end(), nombre.begin(), minuscula);
-    return nombre.ends_with("conf.vlm");
+    return nombre;
+}
+
+bool TerminaEnConf(const std::string& nombre)
+{
+    return EnMinusculas(nombre).ends_with("conf.vlm");
 }
 
 /// Other items; the one selected stays so where it is still there.
@@ -80,6 +94,7 @@ void PonItems(ListaArchivos& lista, std::vector<std::string> items)
 void ListaLosDe(frmConfigura& f, const Siro& s, const std::string& directorio)
 {
     std::vector<std::string> archivos = s.Disco.Lista(directorio);
+    std::erase_if(archivos, model::EsCandado);
     PonItems(f.filArchivoImagenDib, archivos);
     std::erase_if(archivos, [](const std::string& nombre) { return !TerminaEnConf(nombre); });
     PonItems(f.filArchivoConfigura, std::move(archivos));
@@ -104,6 +119,20 @@ void Elige(frmConfigura& f, Siro& s, const std::string& directorio, const std::s
 std::string ArchivoConf(const Siro& s)
 {
     return s.NombreProyecto + std::string(model::TerminacionConf);
+}
+
+/// Whether the image chosen is one of the directory picked.
+bool ImagenDeDir1(const Siro& s)
+{
+    const ControlesConfigura& c = s.frmConfigura;
+    const std::size_t separador = c.lblImagenDibujo.rfind(model::Separador);
+    if (c.chkImagenDibujo != 1 || separador == std::string::npos) return false;
+    return Dentro(c.Dir1, c.lblImagenDibujo.substr(separador + 1)) == c.lblImagenDibujo;
+}
+
+std::string RutaConf(const Siro& s, const std::string& directorio)
+{
+    return model::Ruta(directorio, ArchivoConf(s));
 }
 
 // --- number fields ---
@@ -252,6 +281,7 @@ void Drive1_Change(frmConfigura& f, Siro& s, const std::string& unidad)
 void BtnDefecto(frmConfigura& f, Siro& s)
 {
     Evento(s, [&] {
+        if (!s.Anfitrion.ResguardaDibujo(Riesgo::MueveProyecto)) return;
         const std::string base = model::HayUnidades ? "c:\\SIRO" : model::Ruta(f.DirPersonal, "SIRO");
         const std::string proyectos = model::Ruta(base, "Proyectos");
         Asegura(s, base);
@@ -276,6 +306,7 @@ void BtnDirNv(frmConfigura& f, Siro& s)
         const std::string directorio = Dentro(s.frmConfigura.Dir1, nombre);
         if (nombre.empty() || s.Disco.HayDirectorio(directorio))
             return Informa(s, std::string(YaHayDirectorio));
+        if (!s.Anfitrion.ResguardaDibujo(Riesgo::MueveProyecto)) return;
         s.Disco.CreaDirectorio(directorio);
         Entra(s, directorio);
         Elige(f, s, directorio, model::UnidadDe(directorio));
@@ -322,10 +353,12 @@ void filArchivoConfigura_Click(frmConfigura& f, Siro& s)
     }
     std::string proyecto = archivo.substr(0, archivo.size() - TerminacionConfigura.size());
     if (proyecto.ends_with('_')) proyecto.pop_back();
+    const bool esOtro = proyecto != s.NombreProyecto || s.DirProyecto != s.frmConfigura.Dir1;
+    if (esOtro && !s.Anfitrion.ResguardaDibujo(Riesgo::OtroProyecto)) return;
     s.DirProyecto = s.frmConfigura.Dir1;
     s.NombreProyecto = proyecto;
     model::RecuperaGuardado(s, s.DirProyecto);
-    model::leoConf(s);
+    model::LeeConfReclamada(s);
     f.lblnombreproyecto = s.NombreProyecto;
     Relista(f, s);
     // A pointer that can't be written keeps no project from being loaded.
@@ -338,8 +371,9 @@ void filArchivoImagenDib_Click(frmConfigura& f, Siro& s)
     if (f.filArchivoImagenDib.indice < 0) return;
     const std::string& archivo =
         f.filArchivoImagenDib.items[static_cast<std::size_t>(f.filArchivoImagenDib.indice)];
+    const std::string minuscula = EnMinusculas(archivo);
     const bool esImagen = std::any_of(TerminacionesImagen.begin(), TerminacionesImagen.end(),
-                                      [&](std::string_view fin) { return archivo.ends_with(fin); });
+                                      [&](std::string_view fin) { return minuscula.ends_with(fin); });
     if (esImagen) {
         s.frmConfigura.lblImagenDibujo = Dentro(s.frmConfigura.Dir1, archivo);
         return;
@@ -350,15 +384,104 @@ void filArchivoImagenDib_Click(frmConfigura& f, Siro& s)
 
 // --- commands ---
 
+namespace {
+
+/// Whether a file of a directory is there; one that can't be listed has none.
+bool Esta(const Siro& s, const std::string& directorio, std::string_view nombre)
+{
+    bool esta = false;
+    model::Sentencia(
+        [&] {
+            const auto nombres = s.Disco.Lista(directorio);
+            esta = std::find(nombres.begin(), nombres.end(), nombre) != nombres.end();
+        },
+        [](const Falla&) {});
+    return esta;
+}
+
+/// Stores the configuration. Returns false where the user or a fault, which was told, kept it from that.
+bool Aplica(frmConfigura& f, Siro& s)
+{
+    const std::string antes = s.DirProyecto;
+    const bool semuda = !s.NombreProyecto.empty() && s.frmConfigura.Dir1 != antes;
+    const bool porLaImagen = semuda && ImagenDeDir1(s);
+    const bool habiaConf = Esta(s, s.frmConfigura.Dir1, ArchivoConf(s));
+    if (semuda && !s.Anfitrion.ResguardaDibujo(Riesgo::MueveProyecto)) return false;
+    bool guardada = false;
+    Evento(s, [&] { guardada = model::cmdAplicar(s); });
+    if (!guardada || !semuda) return guardada;
+    f.mudanza = porLaImagen ? Mudanza{antes, RutaConf(s, s.DirProyecto), !habiaConf} : Mudanza{};
+    return true;
+}
+
+/// Whether the project in hand is the one that went to the folder of its image.
+bool SeMudo(const frmConfigura& f, const Siro& s)
+{
+    return !f.mudanza.desde.empty() && f.mudanza.conf == RutaConf(s, s.DirProyecto);
+}
+
+/// Copies a file into the project's folder, over another one only where the user wants that. Returns whether
+/// it is there. Throws Falla.
+bool CopiaACasa(const Siro& s, const std::string& casa, const std::string& ruta, const std::string& nombre)
+{
+    const std::string destino = Dentro(casa, nombre);
+    if (Esta(s, casa, nombre)) {
+        if (s.Disco.Lee(destino) == s.Disco.Lee(ruta)) return true;
+        const std::string pregunta = std::string(HayImagen1).append(nombre).append(HayImagen2);
+        if (!model::Consulta(s, pregunta, TituloHayImagen)) return false;
+    }
+    s.Disco.Copia(ruta, destino);
+    return true;
+}
+
+/// The project that the choice has left in the image's folder is none: its one file goes.
+void QuitaLoDejado(const Mudanza& mudanza, const Siro& s)
+{
+    if (!mudanza.nueva) return;
+    if (!s.Anfitrion.TiraAPapelera(mudanza.conf)) s.Disco.Borra(mudanza.conf);
+}
+
+}  // namespace
+
+std::string AvisoImagen(const frmConfigura& f, const Siro& s)
+{
+    if (s.NombreProyecto.empty()) return {};
+    if (s.frmConfigura.Dir1 != s.DirProyecto && ImagenDeDir1(s))
+        return std::string(ImagenAfuera).append(s.frmConfigura.Dir1).append(RedVacia);
+    if (!SeMudo(f, s) || s.frmConfigura.Dir1 != s.DirProyecto || !ImagenDeDir1(s)) return {};
+    return std::string(SeMudo1).append(s.DirProyecto).append(SeMudo2).append(f.mudanza.desde);
+}
+
+void cmdTraeImagen(frmConfigura& f, Siro& s)
+{
+    Evento(s, [&] {
+        if (AvisoImagen(f, s).empty()) return;
+        const std::string casa = SeMudo(f, s) ? f.mudanza.desde : s.DirProyecto;
+        const std::string ruta = s.frmConfigura.lblImagenDibujo;
+        const std::string nombre = ruta.substr(ruta.rfind(model::Separador) + 1);
+        if (!s.Anfitrion.ResguardaDibujo(Riesgo::MueveProyecto)) return;
+        if (!CopiaACasa(s, casa, ruta, nombre)) return;
+        Elige(f, s, casa, model::UnidadDe(casa));
+        s.frmConfigura.lblImagenDibujo = Dentro(casa, nombre);
+        if (casa == s.DirProyecto) return;
+        s.Vigilancia.archivoConf = RutaConf(s, casa);  // the project's own, left as it was
+        if (!model::cmdAplicar(s)) return;
+        QuitaLoDejado(f.mudanza, s);
+        f.mudanza = {};
+        s.Anfitrion.carga_lbl_proyecto();
+        Relista(f, s);
+    });
+}
+
 void cmdAplicar(frmConfigura& f, Siro& s)
 {
-    Evento(s, [&] { model::cmdAplicar(s); });
+    Aplica(f, s);
     Relista(f, s);
 }
 
 void OKButton(frmConfigura& f, Siro& s)
 {
-    if (!Evento(s, [&] { model::cmdAplicar(s); })) return;
+    if (!Aplica(f, s)) return;
     Relista(f, s);
     f.abierta = false;
     s.Anfitrion.carga_lbl_proyecto();

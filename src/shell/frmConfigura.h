@@ -50,6 +50,7 @@ inline constexpr auto RotulosConfigura = std::to_array<RotuloConfigura>({
     {"chkImagenDibujo",     "&Imagen de fondo del dibujo:"},
     {"filArchivoImagenDib", "Archivos de imágenes", "Pulse sobre un archivo .bmp .gif .jpg o .wmf para elegirlo"},
     {"lblImagenDibujo",     "Imagen:"},
+    {"cmdTraeImagen",       "Copiar la imagen a la carpeta del proyecto", "El proyecto queda, o vuelve, donde estaba"},
     {"TextProyecto",        "&Título:"},
     {"TextUbica",           "&Ubicación:"},
     {"TextCuenca",          "&Cuenca/UEH:"},
@@ -97,6 +98,13 @@ struct ListaArchivos {
     int indice = -1;  ///< from 0; -1: none
 };
 
+/// How a project went to the folder of its image.
+struct Mudanza {
+    std::string desde{};  ///< the folder where its network has stayed; empty: it hasn't gone anywhere
+    std::string conf{};   ///< its configuration file in the image's folder
+    bool nueva = false;   ///< that file wasn't there before
+};
+
 /// What the dialog shows beside `Siro::frmConfigura`. It lives as long as the program.
 struct frmConfigura {
     int SSTab1 = 0;             ///< tab in front, from 0
@@ -105,9 +113,15 @@ struct frmConfigura {
     bool CheckDirNv = false;              ///< TextDirNv is available
     ListaArchivos filArchivoConfigura{};  ///< configuration files of Dir1
     ListaArchivos filArchivoImagenDib{};  ///< all files of Dir1
+    Mudanza mudanza{};
     forms::Foco foco{};
     bool abierta = false;
 };
+
+/// What a choice of image in another folder does, or has done, to the project; else nothing.
+std::string AvisoImagen(const frmConfigura& f, const model::Siro& s);
+/// Brings the project back to its folder and its image with it, as a copy.
+void cmdTraeImagen(frmConfigura& f, model::Siro& s);
 
 /// filArchivoImagenDib is available.
 bool HayImagen(const model::Siro& s);

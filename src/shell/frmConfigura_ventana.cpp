@@ -160,6 +160,9 @@ void frmConfigura_ventana::Muestra()
     Pon(*lblnombreproyecto, f.lblnombreproyecto);
     Pon(*lblImagenDibujo, c.lblImagenDibujo);
     lblImagenDibujo->setToolTip(lblImagenDibujo->text());
+    Pon(*lblAvisoImagen, AvisoImagen(f, entorno.s));
+    lblAvisoImagen->setVisible(!lblAvisoImagen->text().isEmpty());
+    cmdTraeImagen->setVisible(!lblAvisoImagen->text().isEmpty());
     if (!f.abierta && isVisible()) done(QDialog::Accepted);
 }
 

@@ -87,7 +87,8 @@ class frmConfigura_ventana : public forms::Formulario {
     QFileSystemModel* directorios = nullptr;  ///< made at the first opening
     forms::ListaParaElegir *filArchivoConfigura = nullptr, *filArchivoImagenDib = nullptr;
     QLabel *lblDir1 = nullptr, *lblMiArchivoConf = nullptr, *lblnombreproyecto = nullptr,
-           *lblImagenDibujo = nullptr;
+           *lblImagenDibujo = nullptr, *lblAvisoImagen = nullptr;
+    QPushButton* cmdTraeImagen = nullptr;
     QCheckBox *CheckDirNv = nullptr, *chkImagenDibujo = nullptr;
     QLineEdit* TextDirNv = nullptr;
     std::array<QRadioButton*, OpcionesConfigura.size()> opciones{};

@@ -22,6 +22,27 @@ namespace {
 struct Componentes : ConRed {};
 
 // =======================================================================================================
+// The name inside
+// =======================================================================================================
+
+TEST_F(Componentes, UnNombreQueSaleDeLaCarpetaEsUnArchivoDanado)
+{
+    for (const char* const nombre : {"../X", "a/b", "a\\b", "..", "a\x02", "a\x81"}) {
+        OlvidaAvisos();
+        Pon("_UEHs.vlm", Junta({"\"" + std::string(nombre) + "\"", "0", "0", "0", "0"}));
+        LeeUEHs(s);
+        EXPECT_EQ(s.NombreProyecto, "Arroyo") << nombre;
+        EXPECT_EQ(Avisos(),
+                  (std::vector<Mensaje>{
+                      {"Hay problemas con el archivo de datos o el archivo está dañado. Si es un "
+                       "prorgamador avanzado, intente ingresar directamente al archivo y corregir el "
+                       "problema",
+                       "", Icono::Exclamacion}}))
+            << nombre;
+    }
+}
+
+// =======================================================================================================
 // Containers
 // =======================================================================================================
 

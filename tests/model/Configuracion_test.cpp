@@ -457,15 +457,94 @@ TEST_F(Configuracion, UnDirectorioDeMenosDeDosLetrasSeComparaEntero)
     }
 }
 
-TEST_F(Configuracion, LaReescrituraVaAlNombreDeAdentro)
+TEST_F(Configuracion, UnaCopiaQueDiceOtroNombreNoSeReescribeSola)
 {
+    disco.Pon("/proy/Otro_Conf.vlm", "ajeno");
     Renglones r = Con(1, "\"Otro\"");
     r[8] = "\"/antes\"";
     Lee(r);
-    EXPECT_EQ(Avisos(), Cajas{CajaGuardado("/proy/Otro_Conf.vlm")});
-    Renglones nueva = Con(1, "\"Otro\"");
-    EXPECT_EQ(disco.Bytes("/proy/Otro_Conf.vlm"), Junta(nueva));
+    EXPECT_EQ(Avisos(), Cajas{});
+    EXPECT_EQ(disco.Bytes("/proy/Otro_Conf.vlm"), "ajeno");
     EXPECT_EQ(disco.Bytes("/proy/Arroyo_Conf.vlm"), Junta(r));
+    EXPECT_EQ(s.NombreProyecto, "Otro");
+    EXPECT_EQ(s.DirProyecto, "/proy");
+    EXPECT_EQ(s.NroRec, 4);
+}
+
+TEST_F(Configuracion, AplicarEnUnaCopiaPreguntaAntesDePisarElArchivoDeOtroProyecto)
+{
+    disco.Pon("/proy/Otro_Conf.vlm", "ajeno");
+    Lee(Con(1, "\"Otro\""));
+    anfitrion->respuestas = {false, true};
+    EXPECT_FALSE(cmdAplicar(s));
+    EXPECT_EQ(disco.Bytes("/proy/Otro_Conf.vlm"), "ajeno");
+    EXPECT_EQ(Avisos(), Cajas{});
+    EXPECT_TRUE(cmdAplicar(s));
+    EXPECT_EQ(disco.Bytes("/proy/Otro_Conf.vlm"), Junta(Con(1, "\"Otro\"")));
+    EXPECT_TRUE(cmdAplicar(s));
+    const Mensaje pregunta{
+        "El archivo /proy/Otro_Conf.vlm ya existe y no es el del proyecto que se abrió. "
+        "¿Desea reemplazarlo?",
+        "Archivo de otro proyecto", Icono::Exclamacion};
+    EXPECT_EQ(anfitrion->Preguntas(), (Cajas{pregunta, pregunta}))
+        << "once it is its own it isn't asked about";
+}
+
+TEST_F(Configuracion, AplicarEnElArchivoLeidoONuevoNoPregunta)
+{
+    Lee(Ejemplo());
+    EXPECT_TRUE(cmdAplicar(s));
+    s.NombreProyecto = "Nuevo";
+    EXPECT_TRUE(cmdAplicar(s));
+    EXPECT_TRUE(cmdAplicar(s));
+    EXPECT_EQ(anfitrion->Preguntas(), Cajas{});
+}
+
+TEST_F(Configuracion, UnaCarpetaQueElArchivoNoPuedeNombrarNoEsUnaMudanza)
+{
+    // Windows-1252 has the i with its accent and not the alpha: the file says "?" for it.
+    disco.PonDirectorio("/río-α");
+    s.DirProyecto = "/río-α";
+    const std::string bytes = Junta(Con(9, "\"/r\xEDo-?\""));
+    disco.Pon("/río-α/Arroyo_Conf.vlm", bytes);
+    leoConf(s);
+    EXPECT_EQ(Avisos(), Cajas{});
+    EXPECT_EQ(s.DirProyecto, "/río-α");
+    EXPECT_EQ(s.DirProyectoConf, "/río-α");
+    EXPECT_EQ(s.frmConfigura.Dir1, "/río-α");
+    EXPECT_EQ(disco.Bytes("/río-α/Arroyo_Conf.vlm"), bytes);
+}
+
+TEST_F(Configuracion, DosSeparadoresSonUnoSalvoAlComienzo)
+{
+    disco.PonDirectorio("/a/b");
+    disco.Pon("/a/b/Arroyo_Conf.vlm", Junta(Con(9, "\"/a//b\"")));
+    s.DirProyecto = "/a/b";
+    leoConf(s);
+    EXPECT_EQ(Avisos(), Cajas{});
+    EXPECT_EQ(s.DirProyecto, "/a/b");
+    disco.Pon("/a/b/Arroyo_Conf.vlm", Junta(Con(9, "\"//a/b\"")));
+    leoConf(s);
+    EXPECT_EQ(Avisos(), Cajas{CajaGuardado("/a/b/Arroyo_Conf.vlm")}) << "a network path is another place";
+}
+
+TEST_F(Configuracion, UnNombreQueSaleDeLaCarpetaEsUnArchivoDanado)
+{
+    for (const char* const nombre : {"../otro/X", "a/b", "a\\b", "..", "a..b", "a\tb", "a\x7F", "a\x81"}) {
+        OlvidaAvisos();
+        s.NombreProyecto = "Arroyo";
+        s.NroRec = 11;
+        Lee(Con(1, "\"" + std::string(nombre) + "\""));
+        EXPECT_EQ(Avisos(), Cajas{CajaDanado("Arroyo")}) << nombre;
+        EXPECT_EQ(s.NombreProyecto, "") << nombre;
+        EXPECT_EQ(s.NroRec, 11) << nombre;
+    }
+    for (const char* const nombre : {"Arroyo", "con espacio", "R\xEDo", "a.b"}) {
+        OlvidaAvisos();
+        s.NombreProyecto = "Arroyo";
+        Lee(Con(1, "\"" + std::string(nombre) + "\""));
+        EXPECT_EQ(Avisos(), Cajas{}) << nombre;
+    }
 }
 
 TEST_F(Configuracion, LaReescrituraGuardaCadaCampoASuManera)
@@ -757,7 +836,7 @@ TEST_F(Configuracion, AplicarSinDondeEscribirEsUnaFalla)
     s.ProyectoNuevo = true;
     EXPECT_EQ(apoyo::NumeroDeFalla([&] { cmdAplicar(s); }), 76);
     s.frmConfigura.Dir1 = "/proy";
-    disco.FallaEn(1, NumeroFalla::AccesoRuta);
+    disco.FallaEn(2, NumeroFalla::AccesoRuta);  // 1: the look whether another's file is there
     EXPECT_EQ(apoyo::NumeroDeFalla([&] { cmdAplicar(s); }), 75);
     EXPECT_EQ(Avisos(), Cajas{});
     EXPECT_TRUE(s.ProyectoNuevo);

@@ -9,6 +9,7 @@
 
 #include "MundoDeProyecto.h"
 #include "apoyo/Compara.h"
+#include "model/Componentes.h"
 #include "model/Configuracion.h"
 
 using namespace model;
@@ -320,6 +321,62 @@ TEST_F(VidaProyecto, LimpiarVaciaComponentesSeleccionCuentasYNombresYLeeElPunter
     EXPECT_EQ(s.DirProyecto, Otros);
     EXPECT_EQ(s.NombreProyecto, "Quelmar");
     EXPECT_EQ(s.NroFilasTabla[3], 4) << "the tables that all projects share stay";
+}
+
+TEST_F(VidaProyecto, UnPunteroConUnNombreQueSaleDeLaCarpetaDejaSinProyecto)
+{
+    for (const char* nombre : {"../x", "a\\b", "a/b", "a\x01"}) {
+        PonPuntero(Otros, nombre);
+        LeePuntero(s);
+        EXPECT_EQ(s.DirProyecto, Proyectos) << nombre;
+        EXPECT_EQ(s.NombreProyecto, "") << nombre;
+        EXPECT_TRUE(TomaSucesos().empty()) << nombre;
+    }
+}
+
+TEST_F(VidaProyecto, LaRutaElegidaSeTomaLlana)
+{
+    const std::string sep(1, Separador);
+    EXPECT_TRUE(TomaRutaProyecto(s, sep + "a" + sep + sep + "b" + sep + "Q_Conf.vlm"));
+    EXPECT_EQ(s.DirProyecto, sep + "a" + sep + "b");
+    EXPECT_EQ(s.NombreProyecto, "Q");
+    EXPECT_TRUE(TomaRutaProyecto(s, sep + sep + "red" + sep + "Q_Conf.vlm"));
+    EXPECT_EQ(s.DirProyecto, sep + sep + "red");
+}
+
+TEST_F(VidaProyecto, LoQueElDibujoDetieneNoHaEmpezado)
+{
+    struct Caso {
+        const char* orden;
+        void (*corre)(Siro& s);
+        Riesgo riesgo;
+    };
+    const std::vector<Caso> casos = {
+        {"nuevo", [](Siro& t) { static_cast<void>(mnuNuevoProyecto(t)); }, Riesgo::OtroProyecto},
+        {"abrir", mnuAbrirProyecto, Riesgo::OtroProyecto},
+        {"soltar", [](Siro& t) { AbreProyectoDe(t, Ruta(Otros, "Q_Conf.vlm")); }, Riesgo::OtroProyecto},
+        {"ultimo", mnu_ultimoarchivo1, Riesgo::OtroProyecto},
+        {"copiar", mnuGuardarProyectoComo, Riesgo::ReleeRed}};
+    PonProyecto(Otros, "Quelmar");
+    AbreProyecto(Otros, "Quelmar");
+    LeeUEHs(s);
+    Responde("Nuevo1");
+    EligeRuta(Ruta(Otros, "Quelmar_Conf.vlm"));
+    TomaSucesos();
+    const Sucesos antes = disco.Archivos();
+    for (const Caso& caso : casos) {
+        std::vector<Riesgo> riesgos;
+        s.Anfitrion.ResguardaDibujo = [&](Riesgo riesgo) {
+            riesgos.push_back(riesgo);
+            return false;
+        };
+        caso.corre(s);
+        EXPECT_EQ(riesgos, std::vector<Riesgo>{caso.riesgo}) << caso.orden;
+        EXPECT_EQ(s.NombreProyecto, "Quelmar") << caso.orden;
+        EXPECT_EQ(s.ColUEHs.Cuenta(), 1) << caso.orden;
+        EXPECT_TRUE(TomaSucesos().empty()) << caso.orden;
+        EXPECT_EQ(disco.Archivos(), antes) << caso.orden;
+    }
 }
 
 // =======================================================================================================
@@ -849,6 +906,64 @@ TEST_F(EliminarProyecto, ElDialogoMuestraElDirectorioYSusConfiguraciones)
     EXPECT_TRUE(dlg.filProyectoEliminar.empty());
 }
 
+TEST_F(EliminarProyecto, UnNombreVacioNoBorraNada)
+{
+    disco.Pon(Ruta(Otros, "_Conf.vlm"), "");
+    const Sucesos antes = disco.Archivos();
+    dlg.filProyectoEliminar_AlPulsar("_Conf.vlm");
+    RespondeSi(true);
+    TomaCajas();
+    dlg.OKButton(s);
+    EXPECT_EQ(disco.Archivos(), antes);
+    EXPECT_TRUE(dlg.abierto);
+    EXPECT_EQ(
+        TomaCajas(),
+        (std::vector<Mensaje>{{"El archivo elegido no lleva nombre de proyecto: no se borra ningún archivo.",
+                               "Consulta", Icono::Exclamacion}}));
+}
+
+TEST_F(EliminarProyecto, LoEliminadoVaALaPapeleraDondeLaHay)
+{
+    std::vector<std::string> tirados;
+    s.Anfitrion.TiraAPapelera = [&](const std::string& ruta) {
+        tirados.push_back(ruta);
+        disco.Quita(ruta);
+        return true;
+    };
+    disco.OlvidaLlamadas();
+    dlg.filProyectoEliminar_AlPulsar("Ara_Conf.vlm");
+    RespondeSi(true);
+    dlg.OKButton(s);
+    EXPECT_EQ(tirados,
+              (Sucesos{Ruta(Otros, "Ara_Conf.vlm"), Ruta(Otros, "Ara.vlm"), Ruta(Otros, "Ara1_pt.vlm"),
+                       Ruta(Otros, "Ara_RHQ.vlm"), Ruta(Otros, "Ara_UEHs.vlm"), Ruta(Otros, "Ara_conf.vlm"),
+                       Ruta(Otros, "Arauco_Conf.vlm"), Ruta(Otros, "Arauco_UEHs.vlm")}));
+    EXPECT_FALSE(dlg.abierto);
+    for (const auto& llamada : disco.Llamadas())
+        EXPECT_NE(llamada.clase, apoyo::DiscoPrueba::Clase::Borra) << llamada.ruta;
+}
+
+TEST_F(EliminarProyecto, ElDibujoSinGuardarDelProyectoQueSeBorraLoDetiene)
+{
+    std::vector<Riesgo> riesgos;
+    s.Anfitrion.ResguardaDibujo = [&](Riesgo riesgo) {
+        riesgos.push_back(riesgo);
+        return false;
+    };
+    RespondeSi(true);
+    s.NombreProyecto = "Quelmar";
+    const Sucesos antes = disco.Archivos();
+    dlg.filProyectoEliminar_AlPulsar("Quelmar_Conf.vlm");
+    dlg.OKButton(s);
+    EXPECT_EQ(disco.Archivos(), antes);
+    EXPECT_EQ(riesgos, std::vector<Riesgo>{Riesgo::MueveProyecto});
+    dlg.filProyectoEliminar_AlPulsar("LaAra_Conf.vlm");
+    dlg.OKButton(s);
+    EXPECT_LT(disco.Archivos().size(), antes.size())
+        << "another project's files are no matter of the drawing";
+    EXPECT_EQ(riesgos.size(), 1U);
+}
+
 TEST_F(EliminarProyecto, EliminarBorraTambienLosProyectosCuyoNombreEmpiezaIgual)
 {
     dlg.filProyectoEliminar_AlPulsar("Ara_Conf.vlm");
@@ -923,15 +1038,6 @@ TEST_F(EliminarProyecto, PrefijoYTerminacionNoSeSuperponen)
     dlg.OKButton(s);
     EXPECT_FALSE(disco.Esta(Ruta(Otros, "Ara.vlm_Conf.vlm")));
     EXPECT_TRUE(disco.Esta(Ruta(Otros, "Ara.vlm"))) << "the pattern is Ara.vlm*.vlm";
-}
-
-TEST_F(EliminarProyecto, UnNombreVacioSeLlevaTodosLosArchivosDelPrograma)
-{
-    disco.Pon(Ruta(Otros, "_Conf.vlm"), "x");
-    dlg.filProyectoEliminar_AlPulsar("_Conf.vlm");
-    RespondeSi(true);
-    dlg.OKButton(s);
-    EXPECT_EQ(Quedan(), (Sucesos{"Ara.txt", "Ara_UEHs.VLM"})) << "the pattern is *.vlm";
 }
 
 TEST_F(EliminarProyecto, UnaFallaDejaElDialogoAbierto)

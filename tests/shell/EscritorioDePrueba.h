@@ -49,6 +49,7 @@ struct EscritorioDePrueba : testing::Test {
         a.Avisa = prueba.Avisa;
         a.Pregunta = prueba.Pregunta;
         a.Confirma = prueba.Confirma;
+        a.PideResguardo = prueba.PideResguardo;
         a.PideTexto = prueba.PideTexto;
         a.EligeArchivo = prueba.EligeArchivo;
     }

@@ -265,6 +265,22 @@ TEST_F(MarcoDePrueba, ConProyectoAbrenSuVentanaSinDecirNada)
     EXPECT_TRUE(anfitrion->sucesos.empty());
 }
 
+TEST_F(MarcoDePrueba, UnEditorAbiertoSaleAlFrenteYNadaSeRelee)
+{
+    PonProyecto();
+    s.ColUEHs.Agrega({.NombreUEH = "u-1"});
+    m.AlzaEditor = [this] {
+        pedidos.emplace_back("alza");
+        return true;
+    };
+    EXPECT_EQ(Elige("mnufrmUEHs"), Lista{"alza"});
+    EXPECT_EQ(s.ColUEHs.Cuenta(), 1);
+    s.NombreProyecto.clear();
+    s.Anfitrion.ResguardaDibujo = [](model::Riesgo) { return false; };
+    EXPECT_EQ(Elige("mnufrmUEHs"), Lista{});
+    EXPECT_EQ(s.ColUEHs.Cuenta(), 1) << "without a project the network would be emptied";
+}
+
 TEST_F(MarcoDePrueba, ElEditorVaciaLaRedAunqueNoHayaProyecto)
 {
     s.ColUEHs.Agrega({.NombreUEH = "u-1"});
@@ -402,6 +418,15 @@ struct CorreUna : EscenaDePrueba {
         s.DurTormenta = 60;
     }
 };
+
+TEST_F(CorreUna, LoQueElDibujoDetieneNoCorre)
+{
+    s.Anfitrion.ResguardaDibujo = [](model::Riesgo riesgo) { return riesgo != model::Riesgo::ReleeRed; };
+    s.PasoPp = 10;
+    s.PasoQ = 30;
+    EXPECT_EQ(Elige("mnuCorre1"), Lista{});
+    EXPECT_EQ(s.PasoQ, 30);
+}
 
 TEST_F(CorreUna, CorreYAbreElHidrogramaConElPunteroDeEspera)
 {

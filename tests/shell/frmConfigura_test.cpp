@@ -385,7 +385,8 @@ TEST_F(Configura, SinArchivoElegidoElClicNoHaceNada)
 
 TEST_F(Configura, LasCuatroTerminacionesDeImagenPasanConSuRutaEntera)
 {
-    for (const char* archivo : {"mapa.jpg", "mapa.gif", "mapa.bmp", "mapa.wmf"}) {
+    for (const char* archivo :
+         {"mapa.jpg", "mapa.gif", "mapa.bmp", "mapa.wmf", "MAPA.JPG", "mapa.Gif", "MAPA.BMP", "Mapa.WMF"}) {
         PulsaImagen(archivo);
         EXPECT_EQ(s.frmConfigura.lblImagenDibujo, std::string("/proy/") + archivo);
     }
@@ -394,7 +395,7 @@ TEST_F(Configura, LasCuatroTerminacionesDeImagenPasanConSuRutaEntera)
 
 TEST_F(Configura, OtraTerminacionNoEsImagen)
 {
-    for (const char* archivo : {"mapa.png", "mapa.JPG", "notas.txt"}) {
+    for (const char* archivo : {"mapa.png", "mapajpg", "notas.txt"}) {
         s.frmConfigura.lblImagenDibujo = "/proy/mapa.jpg";
         anfitrion->sucesos.clear();
         PulsaImagen(archivo);
@@ -405,6 +406,152 @@ TEST_F(Configura, OtraTerminacionNoEsImagen)
                                    ".bmp .gif .jpg y.wmf"}}));
         EXPECT_EQ(s.frmConfigura.lblImagenDibujo, "Ninguno");
     }
+}
+
+// --- an image in another folder ---
+
+struct ImagenAfuera : Configura {
+    ImagenAfuera()
+    {
+        disco.Pon("/otro/foto.JPG", "foto");
+        disco.Pon("/proy/Mio_UEHs.vlm", "red");
+        chkImagenDibujo_Click(s, true);
+        Dir1_Change(f, s, "/otro");
+        PulsaImagen("foto.JPG");
+    }
+};
+
+TEST_F(ImagenAfuera, LaLineaDiceLoQuePasaraYLaTeclaTraeLaImagen)
+{
+    EXPECT_EQ(AvisoImagen(f, s),
+              "La imagen está en otra carpeta. Al aplicar, el proyecto pasa a /otro, donde no tiene red.");
+    cmdTraeImagen(f, s);
+    EXPECT_EQ(AvisoImagen(f, s), "");
+    EXPECT_EQ(disco.Bytes("/proy/foto.JPG"), "foto");
+    EXPECT_EQ(s.frmConfigura.lblImagenDibujo, "/proy/foto.JPG");
+    EXPECT_EQ(s.frmConfigura.Dir1, "/proy");
+    EXPECT_EQ(s.DirProyecto, "/proy");
+    cmdAplicar(f, s);
+    EXPECT_FALSE(disco.Esta("/otro/Mio_Conf.vlm"));
+    EXPECT_NE(disco.Bytes("/proy/Mio_Conf.vlm").find("\"/proy/foto.JPG\""), std::string::npos);
+}
+
+TEST_F(ImagenAfuera, DespuesDeAplicarDiceLoQuePasoYLaTeclaVuelve)
+{
+    OKButton(f, s);
+    ASSERT_EQ(s.DirProyecto, "/otro");
+    ASSERT_TRUE(disco.Esta("/otro/Mio_Conf.vlm"));
+    Abre(f, s);
+    EXPECT_EQ(AvisoImagen(f, s), "El proyecto pasó a la carpeta de su imagen, /otro. Su red quedó en /proy");
+    anfitrion->sucesos.clear();
+    anfitrion->rotulosProyecto = 0;
+    cmdTraeImagen(f, s);
+    EXPECT_EQ(Avisos(), std::vector<Mensaje>{Guardado});
+    EXPECT_EQ(anfitrion->Preguntas(), std::vector<Mensaje>{}) << "it is the project's own file";
+    EXPECT_EQ(s.DirProyecto, "/proy");
+    EXPECT_EQ(disco.Bytes("/proy/foto.JPG"), "foto");
+    EXPECT_NE(disco.Bytes("/proy/Mio_Conf.vlm").find("\"/proy/foto.JPG\""), std::string::npos);
+    EXPECT_FALSE(disco.Esta("/otro/Mio_Conf.vlm")) << "what the move had made";
+    EXPECT_TRUE(disco.Esta("/otro/foto.JPG"));
+    EXPECT_EQ(AvisoImagen(f, s), "");
+    EXPECT_EQ(anfitrion->rotulosProyecto, 1);
+}
+
+TEST_F(ImagenAfuera, UnaConfiguracionQueYaEstabaAllaSeQueda)
+{
+    disco.Pon("/otro/Mio_Conf.vlm", "de antes");
+    anfitrion->respuestas = {true};  // over that one
+    cmdAplicar(f, s);
+    ASSERT_EQ(s.DirProyecto, "/otro");
+    cmdTraeImagen(f, s);
+    EXPECT_EQ(s.DirProyecto, "/proy");
+    EXPECT_TRUE(disco.Esta("/otro/Mio_Conf.vlm"));
+}
+
+TEST_F(ImagenAfuera, OtraImagenDelMismoNombreNoSePisaSinPreguntar)
+{
+    disco.Pon("/proy/foto.JPG", "otra foto");
+    anfitrion->respuestas = {false, true};
+    cmdTraeImagen(f, s);
+    EXPECT_EQ(disco.Bytes("/proy/foto.JPG"), "otra foto");
+    EXPECT_EQ(s.frmConfigura.Dir1, "/otro");
+    EXPECT_EQ(anfitrion->Preguntas(),
+              (std::vector<Mensaje>{
+                  {"En la carpeta del proyecto ya hay otro archivo foto.JPG. ¿Desea reemplazarlo?",
+                   "Imagen de fondo", model::Icono::Exclamacion}}));
+    cmdTraeImagen(f, s);
+    EXPECT_EQ(disco.Bytes("/proy/foto.JPG"), "foto");
+}
+
+TEST_F(ImagenAfuera, SinEspacioElProyectoQuedaDondeEsta)
+{
+    cmdAplicar(f, s);
+    disco.Protege("/proy");
+    anfitrion->sucesos.clear();
+    cmdTraeImagen(f, s);
+    EXPECT_EQ(Avisos(), std::vector<Mensaje>{SinAcceso});
+    EXPECT_EQ(s.DirProyecto, "/otro");
+    EXPECT_NE(AvisoImagen(f, s), "");
+}
+
+TEST_F(ImagenAfuera, UnaImagenDeLaCarpetaDelProyectoNoDiceNada)
+{
+    Dir1_Change(f, s, "/proy");
+    PulsaImagen("mapa.jpg");
+    EXPECT_EQ(AvisoImagen(f, s), "");
+    Dir1_Change(f, s, "/otro");
+    EXPECT_EQ(AvisoImagen(f, s), "") << "the project moves, but not for its image";
+    cmdAplicar(f, s);
+    EXPECT_EQ(AvisoImagen(f, s), "");
+}
+
+// --- a drawing that isn't saved ---
+
+TEST_F(Configura, LoQueElDibujoDetieneNoCambiaNiProyectoNiCarpeta)
+{
+    std::vector<model::Riesgo> riesgos;
+    s.Anfitrion.ResguardaDibujo = [&](model::Riesgo riesgo) {
+        riesgos.push_back(riesgo);
+        return false;
+    };
+    const Textos antes = disco.Archivos();
+    PulsaArchivo("Otro_Conf.vlm");
+    EXPECT_EQ(riesgos, std::vector<model::Riesgo>{model::Riesgo::OtroProyecto});
+    PulsaArchivo("Mio_Conf.vlm");
+    EXPECT_EQ(riesgos.size(), 1U) << "its own file is no other project";
+    BtnDefecto(f, s);
+    s.frmConfigura.TextDirNv = "nueva";
+    BtnDirNv(f, s);
+    Dir1_Change(f, s, "/otro");
+    cmdAplicar(f, s);
+    f.abierta = true;
+    OKButton(f, s);
+    EXPECT_TRUE(f.abierta);
+    EXPECT_EQ(riesgos.size(), 5U);
+    EXPECT_EQ(riesgos.back(), model::Riesgo::MueveProyecto);
+    EXPECT_EQ(s.NombreProyecto, "Mio");
+    EXPECT_EQ(s.DirProyecto, "/proy");
+    EXPECT_EQ(disco.Archivos(), antes);
+    EXPECT_FALSE(s.Disco.HayDirectorio("/proy/nueva"));
+}
+
+TEST_F(Configura, AceptarSinPisarElArchivoDeOtroSigueAbierto)
+{
+    disco.Pon("/otro/Mio_Conf.vlm", "ajeno");
+    Dir1_Change(f, s, "/otro");
+    anfitrion->respuestas = {false};
+    OKButton(f, s);
+    EXPECT_TRUE(f.abierta);
+    EXPECT_EQ(disco.Bytes("/otro/Mio_Conf.vlm"), "ajeno");
+    EXPECT_EQ(s.DirProyecto, "/proy");
+}
+
+TEST_F(Configura, ElCandadoDeUnProyectoNoEstaEntreLasImagenes)
+{
+    disco.Pon("/proy/.Mio_Conf.vlm.lock", "");
+    AlActivarse(f, s);
+    EXPECT_EQ(f.filArchivoImagenDib.items,
+              (Textos{"Mio_Conf.vlm", "Otro_Conf.vlm", "mapa.jpg", "notas.txt"}));
 }
 
 TEST_F(Configura, SinLaTildeNoHayImagen)

@@ -160,8 +160,9 @@ void Toma(const forms::Grilla& g, Componentes& componentes, const Editables& edi
 
 void Abre(dlgUEHsEditTabla& f, Siro& s)
 {
+    f.abierta = s.Anfitrion.ResguardaDibujo(model::Riesgo::ReleeRed);
+    if (!f.abierta) return;
     model::LeeUEHs(s);
-    f.abierta = true;
     f.lblProyecto = s.NombreProyecto;
     f.lblFileProyecto = s.NombreProyecto + "_Conf.vlm";
     f.MSFlexGridEditCauces = Llena(ReglasCauces, s.ColCauces, EditablesCauces);

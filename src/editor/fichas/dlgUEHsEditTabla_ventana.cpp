@@ -72,6 +72,7 @@ forms::TablaGrilla* dlgUEHsEditTabla_ventana::Tabla(forms::Grilla& grilla, const
 void dlgUEHsEditTabla_ventana::Abre()
 {
     editor::Abre(f, entorno.s);
+    if (!f.abierta) return;
     const QSize pantalla = screen()->availableSize();
     resize(static_cast<int>(pantalla.width() * AnchoEditTabla),
            static_cast<int>(pantalla.height() * AltoEditTabla));

@@ -129,15 +129,7 @@ void LeeTodo(Siro& s)
     hydraulics::CargaFQs(s);
 }
 
-}  // namespace
-
-void Abre(dlgUEHsTabla& f, Siro& s)
-{
-    f.abierta = true;
-    cmdActualizar(f, s);
-}
-
-void cmdActualizar(dlgUEHsTabla& f, Siro& s)
+void Llena(dlgUEHsTabla& f, Siro& s)
 {
     forms::Grilla& g = f.MSFlexGridTablaUEHs;
     g = forms::NuevaGrilla(Reglas);
@@ -147,6 +139,20 @@ void cmdActualizar(dlgUEHsTabla& f, Siro& s)
     f.lblFileProyecto = s.NombreProyecto + "_Conf.vlm";
     for (const auto agrega : {AgregaCauces, AgregaUEHs, AgregaLagos, AgregaRepresas})
         forms::Evento(s, [&] { agrega(g, s); });
+}
+
+}  // namespace
+
+void Abre(dlgUEHsTabla& f, Siro& s)
+{
+    if (!s.Anfitrion.ResguardaDibujo(model::Riesgo::ReleeRed)) return;
+    f.abierta = true;
+    Llena(f, s);
+}
+
+void cmdActualizar(dlgUEHsTabla& f, Siro& s)
+{
+    if (s.Anfitrion.ResguardaDibujo(model::Riesgo::ReleeRed)) Llena(f, s);
 }
 
 void OKButton(dlgUEHsTabla& f)

@@ -59,9 +59,11 @@ void dlgUEHsTabla_ventana::Abre()
 {
     leyendo = true;  // the opening is an activation itself
     editor::Abre(f, entorno.s);
-    Muestra();
-    entorno.Presenta(*this);
-    tabla->setFocus();
+    if (f.abierta) {
+        Muestra();
+        entorno.Presenta(*this);
+        tabla->setFocus();
+    }
     leyendo = false;
 }
 

@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "model/Candado.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <functional>
+#include <optional>
+
+#include "model/Avisos.h"
+#include "model/Disco.h"
+#include "model/Falla.h"
+#include "model/Siro.h"
+
+namespace model {
+
+namespace {
+
+constexpr std::string_view Terminacion = "_Conf.vlm.lock";
+constexpr std::string_view Titulo = "Proyecto abierto dos veces";
+constexpr std::string_view Abierto1 = "El proyecto ";
+constexpr std::string_view Abierto2 = " está abierto también en otro SIRO (";
+constexpr std::string_view AvisaDespues =
+    "). Si los dos lo guardan, queda lo que guarde el último. Antes de guardar se le preguntará.";
+constexpr std::string_view PreguntaAbierto =
+    "). Lo que guarde aquí puede reemplazar lo que se haya hecho allí. ¿Desea guardar igual?";
+constexpr std::string_view TituloCambiado = "Archivo cambiado";
+constexpr std::string_view Cambiado1 = "El archivo ";
+constexpr std::string_view Cambiado2 =
+    " no es el que este programa leyó o guardó: otro lo ha cambiado. ¿Desea reemplazarlo?";
+
+constexpr std::size_t SinArchivo = 0;
+
+std::size_t HuellaDe(std::string_view bytes)
+{
+    return std::max<std::size_t>(std::hash<std::string_view>{}(bytes), SinArchivo + 1);
+}
+
+/// What a file holds now; nothing where it can't be read, so that nobody can tell.
+std::optional<std::size_t> HuellaEnDisco(const Siro& s, const std::string& ruta)
+{
+    try {
+        return HuellaDe(s.Disco.Lee(ruta));
+    } catch (const Falla& falla) {
+        if (falla.numero == NumeroFalla::AccesoRuta) return {};
+        return SinArchivo;
+    }
+}
+
+/// A file that has gone takes nobody's work with it.
+bool EsAjeno(const Siro& s, const std::string& ruta)
+{
+    const std::optional<std::size_t> ahora = HuellaEnDisco(s, ruta);
+    if (!ahora || *ahora == SinArchivo) return false;
+    const auto conocida = s.Vigilancia.huellas.find(ruta);
+    return conocida == s.Vigilancia.huellas.end() || conocida->second != *ahora;
+}
+
+std::string ConfEnMano(const Siro& s)
+{
+    return s.NombreProyecto.empty() ? std::string{} : Ruta(s.DirProyecto, s.NombreProyecto + "_Conf.vlm");
+}
+
+void Reclama(Siro& s)
+{
+    s.Vigilancia.reclamado = ConfEnMano(s);
+    s.Vigilancia.ocupante = s.Anfitrion.ReclamaProyecto(s.Vigilancia.reclamado);
+}
+
+std::string Ocupado(const Siro& s, std::string_view fin)
+{
+    return std::string(Abierto1)
+        .append(s.NombreProyecto)
+        .append(Abierto2)
+        .append(s.Vigilancia.ocupante)
+        .append(fin);
+}
+
+bool PuedeSerDeDos(Siro& s)
+{
+    Vigilancia& v = s.Vigilancia;
+    // Who had it open may have gone meanwhile.
+    if (v.reclamado != ConfEnMano(s) || !v.ocupante.empty()) Reclama(s);
+    if (v.ocupante.empty()) return true;
+    if (!Consulta(s, Ocupado(s, PreguntaAbierto), Titulo)) return false;
+    v.ocupante.clear();
+    return true;
+}
+
+}  // namespace
+
+std::string RutaDeCandado(std::string_view conf)
+{
+    const std::size_t separador = conf.rfind(Separador);
+    const std::size_t nombre = separador == std::string_view::npos ? 0 : separador + 1;
+    return std::string(conf.substr(0, nombre)).append(".").append(conf.substr(nombre)).append(".lock");
+}
+
+bool EsCandado(std::string_view nombre)
+{
+    return nombre.starts_with('.') && nombre.ends_with(Terminacion);
+}
+
+void ReclamaProyecto(Siro& s)
+{
+    if (!s.Vigilancia.activa) return;
+    Reclama(s);
+    if (!s.Vigilancia.ocupante.empty()) Advierte(s, Ocupado(s, AvisaDespues), Titulo);
+}
+
+std::string LeeVigilado(Siro& s, const std::string& ruta)
+{
+    if (!s.Vigilancia.activa) return s.Disco.Lee(ruta);
+    s.Vigilancia.huellas[ruta] = SinArchivo;
+    std::string bytes = s.Disco.Lee(ruta);
+    AnotaLeido(s, ruta, bytes);
+    return bytes;
+}
+
+void AnotaLeido(Siro& s, const std::string& ruta, std::string_view bytes)
+{
+    if (s.Vigilancia.activa) s.Vigilancia.huellas[ruta] = HuellaDe(bytes);
+}
+
+void AnotaGuardado(Siro& s, const std::string& ruta)
+{
+    if (!s.Vigilancia.activa) return;
+    if (const auto huella = HuellaEnDisco(s, ruta)) s.Vigilancia.huellas[ruta] = *huella;
+}
+
+bool PuedeGuardar(Siro& s, std::initializer_list<std::string> rutas)
+{
+    if (!s.Vigilancia.activa || s.NombreProyecto.empty()) return true;
+    if (!PuedeSerDeDos(s)) return false;
+    return std::all_of(rutas.begin(), rutas.end(), [&](const std::string& ruta) {
+        return !EsAjeno(s, ruta) ||
+               Consulta(s, std::string(Cambiado1).append(ruta).append(Cambiado2), TituloCambiado);
+    });
+}
+
+}  // namespace model

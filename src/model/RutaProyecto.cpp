@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "model/RutaProyecto.h"
+
+#include <algorithm>
+#include <cstddef>
+
+#include "model/Disco.h"
+#include "model/Texto.h"
+
+namespace model {
+
+bool SirveDeNombre(std::string_view nombre)
+{
+    constexpr unsigned char PrimeroImpreso = 0x20, Borrado = 0x7F;
+    // U+0080 to U+009F in UTF-8: this byte and one below the limit.
+    constexpr unsigned char AntesDeControl = 0xC2, FinDeControl = 0xA0;
+    unsigned char anterior = 0;
+    const auto malo = [&](char letra) {
+        const auto byte = static_cast<unsigned char>(letra);
+        const bool control =
+            byte < PrimeroImpreso || byte == Borrado || (anterior == AntesDeControl && byte < FinDeControl);
+        anterior = byte;
+        return control || letra == '/' || letra == '\\';
+    };
+    return std::none_of(nombre.begin(), nombre.end(), malo) && nombre.find("..") == std::string_view::npos;
+}
+
+std::string RutaLlana(std::string_view ruta)
+{
+    const std::size_t cabeza = std::min(ruta.find_first_not_of(Separador), ruta.size());
+    constexpr std::size_t DeRed = 2;
+    std::string llana(cabeza == DeRed ? DeRed : std::min<std::size_t>(cabeza, 1), Separador);
+    for (std::size_t i = cabeza; i < ruta.size(); ++i)
+        if (ruta[i] != Separador || llana.empty() || llana.back() != Separador) llana += ruta[i];
+    return llana;
+}
+
+std::string ComoVuelve(std::string_view texto)
+{
+    return DeWindows1252(AWindows1252(texto));
+}
+
+}  // namespace model

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+#include <string_view>
+
+// What the paths of a project's files are composed of, as far as it comes from files that anybody may have
+// written.
+namespace model {
+
+/// Whether a project's name, as a file tells it, leads to files of the project's own directory: no separator
+/// of any platform, no "..", no control character. The empty one passes.
+bool SirveDeNombre(std::string_view nombre);
+
+/// A path without repeated separators. Two at its beginning are a network path's and stay.
+std::string RutaLlana(std::string_view ruta);
+
+/// A text as it comes back from a file: what Windows-1252 can't hold is "?".
+std::string ComoVuelve(std::string_view texto);
+
+}  // namespace model
