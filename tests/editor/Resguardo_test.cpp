@@ -23,6 +23,7 @@ struct DibujoEnPeligro : EditorDePrueba {
         red.Cauce("c-1", {{100, 300}, {200, 200}});
         red.UEH("u-1", {250, 150}, "c-1", {200, 200});
         Guarda();
+        anfitrion->respuestaDeSiempre = false;  // what the validation finds keeps nobody back
         s.Anfitrion.ResguardaDibujo = [this](Riesgo riesgo) { return editor::Resguarda(f, s, riesgo); };
     }
     void Cambia()
@@ -149,7 +150,6 @@ TEST_F(DibujoEnPeligro, OtroProyectoCierraElEditorSinGuardarSiAsiSePide)
 {
     Cambia();
     anfitrion->resguardos = {Resguardo::SeguirSinGuardar};
-    anfitrion->respuestaDeSiempre = false;  // goes on in spite of what the validation finds
     EXPECT_TRUE(editor::Resguarda(f, s, Riesgo::OtroProyecto));
     EXPECT_FALSE(f.abierta);
     EXPECT_EQ(EnDisco(), 1);

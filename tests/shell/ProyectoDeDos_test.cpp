@@ -28,6 +28,7 @@ using model::Resguardo;
 struct BajoElEditor : EscritorioDePrueba {
     BajoElEditor()
     {
+        anfitrion->respuestaDeSiempre = false;  // what the validation finds keeps nobody back
         for (const char* const fin : {"_Conf.vlm", "_UEHs.vlm"}) {
             std::string bytes = Lee("Quelmar", fin);
             bytes.replace(bytes.find("Quelmar"), 7, "Otro");
@@ -147,7 +148,16 @@ TEST_F(BajoElEditor, LaLluviaPorUEHSePregunta)
 // --- another program ---
 
 struct ConCandado : EscritorioDePrueba {
-    ConCandado() { qputenv("XDG_DATA_HOME", datos.path().toLocal8Bit()); }
+    ConCandado()
+    {
+        qputenv("XDG_DATA_HOME", datos.path().toLocal8Bit());
+        // At home already: its first opening would store it anew.
+        model::Siro deAntes;
+        deAntes.Disco = escritorio.s.Disco;
+        deAntes.DirProyecto = instalacion.Proyectos();
+        deAntes.NombreProyecto = "Quelmar";
+        model::leoConf(deAntes);
+    }
     ~ConCandado() override { qputenv("XDG_DATA_HOME", antes); }
     std::string Lugar() const { return model::RutaDeCandado(instalacion.Quelmar()); }
     QByteArray antes = qgetenv("XDG_DATA_HOME");

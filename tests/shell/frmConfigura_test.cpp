@@ -514,11 +514,12 @@ TEST_F(Configura, LoQueElDibujoDetieneNoCambiaNiProyectoNiCarpeta)
         riesgos.push_back(riesgo);
         return false;
     };
-    const Textos antes = disco.Archivos();
     PulsaArchivo("Otro_Conf.vlm");
     EXPECT_EQ(riesgos, std::vector<model::Riesgo>{model::Riesgo::OtroProyecto});
+    EXPECT_EQ(s.NombreProyecto, "Mio");
     PulsaArchivo("Mio_Conf.vlm");
     EXPECT_EQ(riesgos.size(), 1U) << "its own file is no other project";
+    const Textos antes = disco.Archivos();
     BtnDefecto(f, s);
     s.frmConfigura.TextDirNv = "nueva";
     BtnDirNv(f, s);
