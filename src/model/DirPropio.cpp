@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "model/Avisos.h"
+#include "model/RestosDeReemplazo.h"
 #include "model/VidaProyecto.h"
 
 namespace model {
@@ -57,6 +58,20 @@ void CreaCamino(const Disco& disco, const std::string& directorio)
     Intenta([&] { disco.CreaDirectorio(directorio); });
 }
 
+/// Removes what a copy that was cut short has left. A save that was cut short waits for the opening of its
+/// project, which tells.
+void QuitaRestosDeCopia(const Disco& disco, const std::string& directorio)
+{
+    Intenta([&] {
+        const auto nombres = disco.Lista(directorio);
+        const auto esLista = [](const std::string& nombre) {
+            const auto resto = LeeNombreResto(nombre);
+            return resto && resto->pieza < 0;
+        };
+        if (std::none_of(nombres.begin(), nombres.end(), esLista)) disco.Recupera(directorio);
+    });
+}
+
 /// Copies each file whole or not at all. Returns whether nothing is missing afterwards.
 bool CopiaLoQueFalta(const Disco& disco, const std::string& origen, const std::string& destino)
 {
@@ -67,6 +82,7 @@ bool CopiaLoQueFalta(const Disco& disco, const std::string& origen, const std::s
                   [&](const Falla& falla) { hayCarpeta = falla.numero != NumeroFalla::RutaNoEsta; });
     if (!leida) return !hayCarpeta;
     CreaCamino(disco, destino);
+    QuitaRestosDeCopia(disco, destino);
     bool todo = true;
     const bool listado = Intenta([&] {
         const auto propios = disco.Lista(destino);
@@ -175,6 +191,7 @@ void RenuevaAyuda(const Disco& disco, const std::string& dirTrabajo, const std::
     const std::string origen = Ruta(dirEntregado, CarpetaDeAyuda);
     const std::string destino = Ruta(dirTrabajo, CarpetaDeAyuda);
     if (!disco.HayDirectorio(origen) || !disco.HayDirectorio(destino)) return;
+    QuitaRestosDeCopia(disco, destino);
     Intenta([&] {
         for (const std::string& nombre : disco.Lista(origen)) {
             const std::string entregada = Ruta(origen, nombre), propia = Ruta(destino, nombre);

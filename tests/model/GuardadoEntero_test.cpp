@@ -214,4 +214,58 @@ TEST(PrimerArranqueEnUnDiscoLleno, CadaArchivoEstaEnteroONoEstaYElProximoTraeLos
     EXPECT_EQ(cortos, 8) << "all but the large one";
 }
 
+TEST(PrimerArranqueMatado, ElProximoTraeLosDemasYNoDejaNadaDeLoQueQuedoAMedias)
+{
+    const apoyo::CarpetaTemporal entregado, propio;
+    const auto carpetas = {"", "Proyectos", "Ayuda"};
+    for (const fs::path carpeta : carpetas) {
+        fs::create_directories(entregado.Camino() / carpeta);
+        std::ofstream(entregado.Camino() / carpeta / "entregado") << "de " << carpeta;
+    }
+    const auto prepara = [&](const Disco& disco) {
+        PreparaDirTrabajo(disco, propio.Camino().string(), "", entregado.Camino().string());
+    };
+    int muertes = 0;
+    for (int n = 1;; ++n) {
+        fallas::PonContenido(propio.Camino(), {});
+        const fallas::Fin fin =
+            fallas::EnOtroProceso([&] { prepara(fallas::Disco({.llamada = n, .hecha = 0.5})); });
+        ASSERT_NE(fin, fallas::Fin::Mal);
+        prepara(DiscoDelSistema());
+        for (const fs::path carpeta : carpetas)
+            EXPECT_EQ(fallas::ContenidoDe(propio.Camino() / carpeta),
+                      fallas::ContenidoDe(entregado.Camino() / carpeta))
+                << carpeta << ", call " << n;
+        if (fin == fallas::Fin::Entero) break;
+        ++muertes;
+    }
+    EXPECT_GE(muertes, 6) << "each of the three is made and renamed";
+}
+
+// The help is renewed at every start, not at the first alone.
+TEST(AyudaMatada, QuitaLoQueDejoUnaRenovacionMatada)
+{
+    const apoyo::CarpetaTemporal entregado, propio;
+    for (const auto* carpeta : {&entregado, &propio}) {
+        fs::create_directory(carpeta->Camino() / "Ayuda");
+        std::ofstream(carpeta->Camino() / "Ayuda" / "indice.html") << "igual";
+    }
+    std::ofstream(propio.Camino() / "Ayuda" / ".siro-0-1-0.tmp") << "a medias";
+    RenuevaAyuda(DiscoDelSistema(), propio.Camino().string(), entregado.Camino().string());
+    EXPECT_EQ(fallas::ContenidoDe(propio.Camino() / "Ayuda"), (fallas::Contenido{{"indice.html", "igual"}}));
+}
+
+// A save that was cut short is finished where the user is told: by the opening of its project.
+TEST(PrimerArranqueMatado, UnGuardadoAMediasEsperaASuProyecto)
+{
+    const apoyo::CarpetaTemporal entregado, propio;
+    fs::create_directory(entregado.Camino() / "Proyectos");
+    fs::create_directory(propio.Camino() / "Proyectos");
+    const fallas::Contenido espera{
+        {".siro-0-1-0.tmp", "nuevo"}, {".siro-0-1.lista", "a\nfin\n"}, {"a", "viejo"}};
+    fallas::PonContenido(propio.Camino() / "Proyectos", espera);
+    PreparaDirTrabajo(DiscoDelSistema(), propio.Camino().string(), "", entregado.Camino().string());
+    EXPECT_EQ(fallas::ContenidoDe(propio.Camino() / "Proyectos"), espera);
+}
+
 }  // namespace
