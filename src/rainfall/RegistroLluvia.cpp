@@ -164,7 +164,10 @@ bool PareceLectura(const std::vector<std::string>& campos)
         return false;
     };
     const std::size_t primero = Primero(campos);
-    return primero + 1 < campos.size() && (conMarca(campos[primero]) || conMarca(campos[primero + 1]));
+    const std::string_view comienzo = campos[primero];
+    if (primero + 1 == campos.size())  // a title with a date seldom begins with it
+        return !comienzo.empty() && EsCifra(comienzo.front()) && conMarca(comienzo);
+    return conMarca(comienzo) || conMarca(campos[primero + 1]);
 }
 
 char SeparadorDe(const std::vector<std::string>& renglones)

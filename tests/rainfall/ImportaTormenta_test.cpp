@@ -199,6 +199,19 @@ TEST(RegistroDeLluvia, LoDudosoSeCuentaConSuRenglonYLoQueSeHace)
                        {11, "Total;10", Falta}}));
 }
 
+// A first reading that lost its depth, or its quote, leaves one field only: it is no heading for that.
+TEST(RegistroDeLluvia, LaPrimeraLecturaDannadaNoPasaPorEncabezado)
+{
+    for (const std::string primera : {"05/03/2024 10:00", "05/03/2024", "7;05/03/2024 10:00",
+                                      "2024-03-05T10:00Z", "\"05/03/2024 10:00;1.5"}) {
+        const RegistroLluvia r = LeeRegistroLluvia("Fecha;mm\n" + primera + "\n05/03/2024 10:10;2.5\n");
+        EXPECT_EQ(r.lecturas, (std::vector<LecturaLluvia>{{Segundo("05/03/2024", "10:10"), 2.5}})) << primera;
+        ASSERT_EQ(r.dudosos.size(), 1U) << primera;
+        EXPECT_EQ(r.dudosos[0].nro, 2) << primera;
+        EXPECT_EQ(r.dudosos[0].texto, primera);
+    }
+}
+
 TEST(RegistroDeLluvia, UnArchivoDeTextoCualquieraNoTieneLecturas)
 {
     EXPECT_EQ(LeeRegistroLluvia(std::string(100000, '"')).motivo,
