@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "forms/Planilla_ventana.h"
 
+#include <locale.h>
 #include <xlsxwriter.h>
 
 #include <QClipboard>
@@ -29,6 +30,26 @@ void Exige(lxw_error resultado)
 {
     if (resultado != LXW_NO_ERROR) throw model::Falla{model::NumeroFalla::AccesoRuta};
 }
+
+/// The library writes numbers with the decimal sign of the process, which the toolkit takes from the desktop;
+/// a workbook has a point wherever it is written.
+class NumerosConPunto {
+  public:
+    NumerosConPunto()
+        : conPunto(newlocale(LC_NUMERIC_MASK, "C", duplocale(LC_GLOBAL_LOCALE))), antes(uselocale(conPunto))
+    {
+    }
+    ~NumerosConPunto()
+    {
+        uselocale(antes);
+        freelocale(conPunto);
+    }
+    NumerosConPunto(const NumerosConPunto&) = delete;
+    NumerosConPunto& operator=(const NumerosConPunto&) = delete;
+
+  private:
+    locale_t conPunto, antes;
+};
 
 /// A workbook in the making; one that isn't closed leaves no file.
 class Libro {
@@ -155,6 +176,7 @@ void Guarda(Entorno& entorno, std::string_view pregunta, std::string_view filtro
 
 std::string ComoXlsx(const Planilla& planilla)
 {
+    const NumerosConPunto conPunto;
     const QTemporaryDir carpeta;
     const QString archivo = carpeta.filePath(QStringLiteral("planilla.xlsx"));
     Libro libro(planilla, QFile::encodeName(archivo).toStdString(),

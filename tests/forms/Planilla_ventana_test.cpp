@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "forms/Planilla_ventana.h"
 
+#include <locale.h>
+
 #include <QClipboard>
 #include <QFile>
 #include <QProcess>
@@ -56,6 +58,45 @@ TEST(Xlsx, EsUnLibroConUnaHojaConLosNumerosComoNumerosYLosTextosComoTextos)
     // Titles and headings stay in sight.
     hay(hoja, "ySplit=\"2\"");
     hay(Pieza(libro, "xl/styles.xml"), "<b/>");
+}
+
+/// A desktop that writes 1,5, while the object lives; made here, since a machine needs no such language.
+class ConComaDecimal {
+  public:
+    ConComaDecimal()
+    {
+        QProcess::execute(QStringLiteral("localedef"),
+                          {QStringLiteral("-i"), QStringLiteral("es_AR"), QStringLiteral("-f"),
+                           QStringLiteral("UTF-8"), carpeta.filePath(QStringLiteral("es_AR.UTF-8"))});
+        qputenv("LOCPATH", carpeta.path().toLocal8Bit());
+        con = newlocale(LC_NUMERIC_MASK, "es_AR.UTF-8", nullptr);
+        qunsetenv("LOCPATH");
+        if (con != nullptr) antes = uselocale(con);
+    }
+    ~ConComaDecimal()
+    {
+        if (con == nullptr) return;
+        uselocale(antes);
+        freelocale(con);
+    }
+    ConComaDecimal(const ConComaDecimal&) = delete;
+    ConComaDecimal& operator=(const ConComaDecimal&) = delete;
+    [[nodiscard]] bool Vale() const { return con != nullptr && *localeconv()->decimal_point == ','; }
+
+  private:
+    QTemporaryDir carpeta{};
+    locale_t con = nullptr, antes = nullptr;
+};
+
+TEST(Xlsx, LlevaPuntoEnSusNumerosAunqueElEscritorioEscribaComa)
+{
+    const std::string conPunto = Pieza(ComoXlsx(Ejemplo), "xl/worksheets/sheet1.xml");
+    const ConComaDecimal coma;
+    ASSERT_TRUE(coma.Vale());
+    const std::string hoja = Pieza(ComoXlsx(Ejemplo), "xl/worksheets/sheet1.xml");
+    EXPECT_NE(hoja.find("<v>12.35</v>"), std::string::npos) << hoja;
+    EXPECT_EQ(hoja, conPunto);
+    EXPECT_TRUE(coma.Vale()) << "the desktop's sign has gone";
 }
 
 TEST(Xlsx, UnaTablaVaciaEsSuEncabezado)
