@@ -127,11 +127,9 @@ void Formulario::setVisible(bool visible)
 
 void Formulario::showEvent(QShowEvent* evento)
 {
-    if (!evento->spontaneous()) {
-        RecuperaLugar(*this, entorno.Ajustes());
-        TraeALaPantalla(*this);
-    }
-    QDialog::showEvent(evento);
+    if (!evento->spontaneous()) RecuperaLugar(*this, entorno.Ajustes());
+    QDialog::showEvent(evento);  // one without a place is put over its owner
+    if (!evento->spontaneous()) TraeALaPantalla(*this);
 }
 
 void Formulario::hideEvent(QHideEvent* evento)

@@ -2,6 +2,7 @@
 #include "forms/Pantalla_ventana.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -128,6 +129,8 @@ void TraeALaPantalla(QWidget& ventana)
     const QRect lugar = ventana.screen()->availableGeometry().marginsRemoved(Marco(ventana));
     const QSize tamano = ventana.size().boundedTo(lugar.size());
     if (tamano != ventana.size()) ventana.resize(tamano);
+    // Without a place of its own yet, the desktop gives it one. A dialog is over its owner by now.
+    if (!ventana.testAttribute(Qt::WA_Moved) && qobject_cast<QDialog*>(&ventana) == nullptr) return;
     const QRect ahora = ventana.geometry();
     const QPoint ultimo = lugar.bottomRight() - QPoint(ahora.width() - 1, ahora.height() - 1);
     const QPoint donde(std::clamp(ahora.x(), lugar.x(), std::max(lugar.x(), ultimo.x())),

@@ -17,7 +17,8 @@ namespace {
 
 /// A form of so many fields, each 40 pixels high, above its two buttons.
 struct FormaAlta : Formulario {
-    FormaAlta(Entorno& alrededor, int campos) : Formulario(alrededor, "FormaAlta")
+    FormaAlta(Entorno& alrededor, int campos, QWidget* padre = nullptr)
+        : Formulario(alrededor, "FormaAlta", padre)
     {
         auto* const pila = new QVBoxLayout(this);
         for (int i = 0; i < campos; ++i) {
@@ -49,6 +50,19 @@ TEST_F(Pantalla, LoQueCabeQuedaComoEs)
     FormaAlta forma(mundo.entorno, 3);
     apoyo::Muestra(forma);
     EXPECT_EQ(forma.findChild<QScrollArea*>(), nullptr);
+}
+
+// Nobody has given it a place yet: it opens over the window that it belongs to, not in the screen's corner.
+TEST_F(Pantalla, LaPrimeraVezSeAbreEnMedioDeSuVentana)
+{
+    QWidget principal;
+    principal.setGeometry(150, 120, 500, 450);
+    apoyo::Muestra(principal);
+    FormaAlta forma(mundo.entorno, 3, &principal);
+    apoyo::Muestra(forma);
+    constexpr int Marco = 40;  // as thick as a frame may be
+    EXPECT_NEAR(forma.geometry().center().x(), principal.geometry().center().x(), Marco);
+    EXPECT_NEAR(forma.geometry().center().y(), principal.geometry().center().y(), Marco);
 }
 
 // 40 fields of 40 pixels are 1600, twice as high as the screen.
