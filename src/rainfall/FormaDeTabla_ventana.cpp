@@ -66,6 +66,7 @@ void FormaDeTabla_ventana::MuestraTabla(const forms::Grafico& vista, forms::Foco
     tabla->Muestra();
     lamina->Muestra(vista);
     LlevaFoco(*this, foco);
+    AlMostrarse();
     if (!abierta && isVisible()) done(QDialog::Accepted);
 }
 

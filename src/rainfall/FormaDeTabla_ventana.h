@@ -25,6 +25,9 @@ class FormaDeTabla_ventana : public forms::Formulario {
     /// program was ended meanwhile.
     void Abre();
 
+    /// The form has shown what an event made of it; the dialog behind it shows what that has changed there.
+    std::function<void()> AlMostrarse = [] {};
+
   protected:
     using Rutina = std::function<void()>;
 

@@ -193,17 +193,6 @@ void LeeTormenta(dlgPp& f, Siro& s)
 
 // --- besides the table, per form ---
 
-void MuestraValidez(dlgPp& f, const Siro& s)
-{
-    if (!PersonalMarcada(f)) return;
-    const std::size_t k = Marcada(f.optDistriPp) - (PrimeraPersonal - 1);
-    f.Estado(Control::lblValidez).visible = true;
-    f.Estado(Control::lblDurMin).visible = s.DurMinPer[k] > 0;
-    f.Estado(Control::lblDurMax).visible = s.DurMaxPer[k] > 0;
-    f.lblDurMin = Texto(s.DurMinPer[k]);
-    f.lblDurMax = Texto(s.DurMaxPer[k]);
-}
-
 void HabilitaTablaPDR(dlgPp& f)
 {
     const std::size_t tabla = Marcada(f.optTablaPDR);
@@ -227,6 +216,26 @@ void LeeLista(dlgPp& f, Siro& s)
 
 }  // namespace
 
+void MuestraValidez(dlgPp& f, const Siro& s)
+{
+    if (MarcadaOCero(f.optformaPp) != 0 || !PersonalMarcada(f)) return;
+    const std::size_t k = Marcada(f.optDistriPp) - (PrimeraPersonal - 1);
+    f.Estado(Control::lblValidez).visible = true;
+    f.Estado(Control::lblDurMin).visible = s.DurMinPer[k] > 0;
+    f.Estado(Control::lblDurMax).visible = s.DurMaxPer[k] > 0;
+    f.lblDurMin = Texto(s.DurMinPer[k]);
+    f.lblDurMax = Texto(s.DurMaxPer[k]);
+}
+
+void TomaTormentas(dlgPp& f, const std::vector<std::string>& archivos)
+{
+    auto& [items, indice] = f.FilePpReal;
+    const std::string elegida = indice < 0 ? std::string() : items[static_cast<std::size_t>(indice)];
+    items = archivos;
+    const auto lugar = std::find(items.begin(), items.end(), elegida);
+    indice = lugar == items.end() ? -1 : static_cast<int>(lugar - items.begin());
+}
+
 void EstadoFormaPp(dlgPp& f, Siro& s)
 {
     const std::size_t forma = MarcadaOCero(f.optformaPp);
@@ -243,7 +252,7 @@ void EstadoFormaPp(dlgPp& f, Siro& s)
     Pon(f, fila.oculta, &EstadoControl::visible, false);
 
     if (forma <= FormaSerie && PersonalMarcada(f)) f.Estado(Control::cmdPpPerso).habilitado = true;
-    if (forma == 0) MuestraValidez(f, s);
+    MuestraValidez(f, s);
     if (forma == FormaSerie) HabilitaTablaPDR(f);
     // Storms per UEH are always of constant intensity. The click comes back here with the option ticked.
     if (forma == FormaPorUEH && Marcada(f.optDistriPp) != 0) optDistriPp_Click(f, s, 0);

@@ -245,6 +245,12 @@ void AlActivarse(dlgPp& f, model::Siro& s);
 /// One of the forms opened from here was closed. What it put into the three fields of the storm stays.
 void AlVolver(dlgPp& f, model::Siro& s);
 
+// While one of those forms is open, what it changes beside this record is followed here.
+/// Limits of the personal distribution in use, which form 0 shows.
+void MuestraValidez(dlgPp& f, const model::Siro& s);
+/// Files of real storms; the one selected stays so while it is there.
+void TomaTormentas(dlgPp& f, const std::vector<std::string>& archivos);
+
 /// Shows the dialog's state for the first ticked form, which becomes FormaPp.
 void EstadoFormaPp(dlgPp& f, model::Siro& s);
 

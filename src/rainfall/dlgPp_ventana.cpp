@@ -86,7 +86,10 @@ void dlgPp_ventana::ConectaVentanas()
     const auto conecta = [this](std::function<void()>& abre, auto& ventana, auto& registro) {
         abre = [this, &ventana, &registro] {
             using Ventana = typename std::remove_reference_t<decltype(ventana)>::element_type;
-            if (!ventana) ventana = std::make_unique<Ventana>(entorno, registro, f, this);
+            if (!ventana) {
+                ventana = std::make_unique<Ventana>(entorno, registro, f, this);
+                ventana->AlMostrarse = [this] { MuestraDetras(); };
+            }
             ventana->Abre();
         };
     };
@@ -97,6 +100,10 @@ void dlgPp_ventana::ConectaVentanas()
         if (!ventanaPpReal) {
             ventanaPpReal = std::make_unique<dlgPpReal_ventana>(entorno, ppReal, f, this);
             ventanaPpReal->AbreHietograma = [this](const PedidoHietograma& p) { AbreHietograma(p); };
+            ventanaPpReal->AlMostrarse = [this] {
+                TomaTormentas(f, ppReal.FilePpReal.items);
+                MuestraDetras();
+            };
         }
         ventanaPpReal->Abre();
     };
@@ -373,6 +380,12 @@ void dlgPp_ventana::Abre()
     for (QRadioButton* opcion : optformaPp)
         if (opcion->isChecked()) opcion->setFocus();
     entorno.Ejecuta(*this);
+}
+
+void dlgPp_ventana::MuestraDetras()
+{
+    MuestraValidez(f, entorno.s);
+    Muestra();
 }
 
 void dlgPp_ventana::AlCerrar()

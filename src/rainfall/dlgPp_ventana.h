@@ -79,6 +79,8 @@ class dlgPp_ventana : public forms::Formulario {
     void AlPulsarOpciones();
     void ConectaVentanas();
     void AbreOtra(const std::function<void()>& abre);
+    /// Shows what the form opened from here has changed so far.
+    void MuestraDetras();
     /// The control is shown as the record tells of `control`.
     template <typename T>
     T* Toma(Control control, T* widget);

@@ -206,6 +206,111 @@ TEST_F(LluviaEnElEscritorio, UnaSerieDeTablaPersonalCorreComoLaDeSiroLote)
     EXPECT_TRUE(MismoTexto(SinHora(BytesDeArchivo(Copia() + "/SaleTablasQDRs_tem.txt")), SinHora(texto)));
 }
 
+// The first row of the delivered table: 14 mm in 10 min, 2 years.
+TEST_F(LluviaEnElEscritorio, LaTablaQueSeEligeYSeAplicaYaSeVeDetras)
+{
+    QWidget* detras = nullptr;
+    Hace([&](QWidget& lluvia) {
+        detras = &lluvia;
+        Pulsa(Control<QRadioButton>(lluvia, "optformaPp_2"));
+        Pulsa(Control<QRadioButton>(lluvia, "optTablaPDR_1"));
+        PulsaDespues(lluvia, "cmdTablaPDR");
+    });
+    Hace([&](QWidget& tablas) {
+        EXPECT_EQ(DeQ(tablas.objectName()), "dlgTablasPDRs");
+        QTest::keyClick(&Control<QComboBox>(tablas, "cmbNroTablaPDRs"), Qt::Key_Up);
+        EXPECT_TRUE(Control<QRadioButton>(*detras, "optTablaPDR_0").isChecked());
+        EXPECT_FALSE(Control<QPushButton>(*detras, "cmdTablaPDR").isEnabled());
+        EXPECT_NE(DeQ(Control<QLineEdit>(*detras, "txtPp").text()), "14");
+        Pulsa(Control<QPushButton>(tablas, "cmdAplicar"));
+        EXPECT_TRUE(tablas.isVisible());
+        EXPECT_EQ(DeQ(Control<QLineEdit>(*detras, "txtPp").text()), "14");
+        EXPECT_EQ(DeQ(Control<QLineEdit>(*detras, "txtDur").text()), "10");
+        EXPECT_EQ(DeQ(Control<QComboBox>(*detras, "cmbRec").currentText()), "2");
+        Pulsa(Control<QPushButton>(tablas, "OKButton"));
+    });
+    Hace([](QWidget& lluvia) { Pulsa(Control<QPushButton>(lluvia, "OKButton")); });
+    Accion("mnufrmPp").trigger();
+}
+
+TEST_F(LluviaEnElEscritorio, LaDistribucionQueSeEligeYSusLimitesYaSeVenDetras)
+{
+    QWidget* detras = nullptr;
+    Hace([&](QWidget& lluvia) {
+        detras = &lluvia;
+        Pulsa(Control<QRadioButton>(lluvia, "optformaPp_0"));
+        Pulsa(Control<QRadioButton>(lluvia, "optDistriPp_7"));
+        PulsaDespues(lluvia, "cmdPpPerso");
+    });
+    Hace([&](QWidget& editor) {
+        EXPECT_EQ(DeQ(editor.objectName()), "dlgDisPpPer");
+        QTest::keyClick(&Control<QComboBox>(editor, "cmbNroTablaDisPpPer"), Qt::Key_Up);
+        EXPECT_TRUE(Control<QRadioButton>(*detras, "optDistriPp_6").isChecked());
+        auto& minima = Control<QComboBox>(editor, "cmbDurMin");
+        const std::string antes = DeQ(minima.currentText());
+        EXPECT_EQ(DeQ(Control<QLabel>(*detras, "lblDurMin").text()), antes);
+        QTest::keyClick(&minima, Qt::Key_Down);
+        EXPECT_NE(DeQ(minima.currentText()), antes);
+        EXPECT_EQ(DeQ(Control<QLabel>(*detras, "lblDurMin").text()), DeQ(minima.currentText()));
+        Pulsa(Control<QPushButton>(editor, "CancelButton"));
+    });
+    Hace([](QWidget& lluvia) { Pulsa(Control<QPushButton>(lluvia, "CancelButton")); });
+    Accion("mnufrmPp").trigger();
+}
+
+TEST_F(LluviaEnElEscritorio, LaTormentaNuevaYaSeVeEnLaListaDeDetras)
+{
+    anfitrion->textos = {"Temporal"};
+    QWidget* detras = nullptr;
+    Hace([&](QWidget& lluvia) {
+        detras = &lluvia;
+        Pulsa(Control<QRadioButton>(lluvia, "optformaPp_4"));
+        PulsaDespues(lluvia, "cmdPpReal");
+    });
+    Hace([&](QWidget& editor) {
+        EXPECT_EQ(DeQ(editor.objectName()), "dlgPpReal");
+        auto& lista = Control<QListWidget>(*detras, "FilePpReal");
+        const int archivos = lista.count();
+        const std::string elegida = DeQ(lista.currentItem()->text());
+        Pulsa(Control<QPushButton>(editor, "cmdNuevaPpReal"));
+        EXPECT_EQ(lista.count(), archivos + 1);
+        EXPECT_EQ(DeQ(lista.currentItem()->text()), elegida);
+        Pulsa(Control<QPushButton>(editor, "cmdAplicar"));
+        EXPECT_TRUE(editor.isVisible());
+        EXPECT_EQ(DeQ(Control<QLabel>(*detras, "lblMiFilePpReal").text()), "Temporal_pt.vlm");
+        EXPECT_EQ(DeQ(lista.currentItem()->text()), "Temporal_pt.vlm");
+        Pulsa(Control<QPushButton>(editor, "CancelButton"));
+    });
+    Hace([](QWidget& lluvia) { Pulsa(Control<QPushButton>(lluvia, "CancelButton")); });
+    Accion("mnufrmPp").trigger();
+}
+
+TEST_F(LluviaEnElEscritorio, LaLluviaPorUEHYaSeVeDetras)
+{
+    QWidget* detras = nullptr;
+    Hace([&](QWidget& lluvia) {
+        detras = &lluvia;
+        Pulsa(Control<QRadioButton>(lluvia, "optformaPp_3"));
+        PulsaDespues(lluvia, "cmdCargaPDRnoUniforme");
+    });
+    Hace([&](QWidget& editor) {
+        EXPECT_EQ(DeQ(editor.objectName()), "dlgTablaPpUEHs");
+        Escribe(Control<QLineEdit>(editor, "txtDPpUEHs"), "120");
+        Escribe(Control<QLineEdit>(editor, "txtRPpUEHs"), "25");
+        auto& tabla = Control<QTableView>(editor, "MSFlexGridPpUEHs");
+        tabla.setFocus(Qt::TabFocusReason);
+        Teclea(tabla, "37.5");
+        QTest::keyClick(&tabla, Qt::Key_Return);
+        Pulsa(Control<QPushButton>(editor, "cmdAplicar"));
+        EXPECT_TRUE(editor.isVisible());
+        EXPECT_EQ(DeQ(Control<QLineEdit>(*detras, "txtPp").text()), "37.5");
+        EXPECT_EQ(DeQ(Control<QLineEdit>(*detras, "txtDur").text()), "120");
+        Pulsa(Control<QPushButton>(editor, "CancelButton"));
+    });
+    Hace([](QWidget& lluvia) { Pulsa(Control<QPushButton>(lluvia, "CancelButton")); });
+    Accion("mnufrmPp").trigger();
+}
+
 TEST_F(LluviaEnElEscritorio, LaLluviaPorUEHCorreComoLaDeSiroLote)
 {
     Hace([](QWidget& lluvia) {
