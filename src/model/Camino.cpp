@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/Camino.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <fstream>
 #include <system_error>
@@ -34,6 +35,11 @@ bool HayDirectorioDe(const fs::path& camino)
 {
     const fs::path padre = camino.parent_path();
     return padre.empty() || EsDirectorio(padre);
+}
+
+bool EstaDentro(const fs::path& dentro, const fs::path& carpeta)
+{
+    return std::mismatch(carpeta.begin(), carpeta.end(), dentro.begin(), dentro.end()).first == carpeta.end();
 }
 
 void ExigeArchivo(const fs::path& camino)

@@ -16,6 +16,9 @@ bool EsDirectorio(const std::filesystem::path& camino);
 /// Whether the directory that a path names its file in is there.
 bool HayDirectorioDe(const std::filesystem::path& camino);
 
+/// Whether a folder lies inside another or is the same one; both without links.
+bool EstaDentro(const std::filesystem::path& dentro, const std::filesystem::path& carpeta);
+
 /// Throws Falla 53, 76, 75 unless there is a plain file to be read or deleted.
 void ExigeArchivo(const std::filesystem::path& camino);
 

@@ -22,12 +22,6 @@ Falla FallaDe(const fs::path& camino)
     return {HayDirectorioDe(camino) ? NumeroFalla::AccesoRuta : NumeroFalla::RutaNoEsta};
 }
 
-/// Whether a folder lies inside another or is the same one; both without links.
-bool EstaDentro(const fs::path& dentro, const fs::path& carpeta)
-{
-    return std::mismatch(carpeta.begin(), carpeta.end(), dentro.begin(), dentro.end()).first == carpeta.end();
-}
-
 /// The file that a path leads to: through links as long as they stay inside the folder of the first one.
 fs::path Destino(const std::string& ruta)
 {

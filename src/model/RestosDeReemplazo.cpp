@@ -5,6 +5,7 @@
 #include <charconv>
 #include <chrono>
 #include <filesystem>
+#include <set>
 #include <system_error>
 #include <tuple>
 #include <utility>
@@ -158,6 +159,33 @@ class Recuperador {
     Recuperacion hecho{};
 };
 
+/// Folders inside a folder where files stand that links of it lead to: they are replaced there.
+std::set<fs::path> CarpetasDeEnlaces(const fs::path& carpeta)
+{
+    std::set<fs::path> otras;
+    std::error_code error;
+    const fs::path raiz = fs::canonical(carpeta, error);
+    for (fs::directory_iterator i(carpeta, error), fin; !error && i != fin; i.increment(error)) {
+        std::error_code sinMeta;
+        if (!i->is_symlink(sinMeta)) continue;
+        const fs::path otra = fs::weakly_canonical(i->path(), sinMeta).parent_path();
+        if (!sinMeta && otra != raiz && EstaDentro(otra, raiz)) otras.insert(otra);
+    }
+    return otras;
+}
+
+/// Adds to what was found what is found in a folder, if it can be looked through.
+void RecuperaTambien(const LlamadasDisco& llamadas, const fs::path& carpeta, Recuperacion& hecha)
+{
+    try {
+        const Recuperacion otra = Recuperador(llamadas, carpeta).Hace();
+        hecha.completados.insert(hecha.completados.end(), otra.completados.begin(), otra.completados.end());
+        hecha.pendientes.insert(hecha.pendientes.end(), otra.pendientes.begin(), otra.pendientes.end());
+    } catch (const Falla&) {
+        return;
+    }
+}
+
 }  // namespace
 
 std::string NombreResto::Texto() const
@@ -222,7 +250,11 @@ void OlvidaPendientes(const LlamadasDisco& llamadas, const fs::path& carpeta,
 
 Recuperacion RecuperaCarpeta(const LlamadasDisco& llamadas, const std::string& directorio)
 {
-    return Recuperador(llamadas, Camino(directorio)).Hace();
+    const fs::path carpeta = Camino(directorio);
+    Recuperacion hecha = Recuperador(llamadas, carpeta).Hace();
+    for (const fs::path& otra : CarpetasDeEnlaces(carpeta))
+        RecuperaTambien(llamadas, otra, hecha);
+    return hecha;
 }
 
 }  // namespace model

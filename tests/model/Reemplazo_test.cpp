@@ -336,6 +336,26 @@ TEST_F(Enlaces, FueraDeLaCarpetaNoSeSiguenYSeDicePorQue)
     EXPECT_FALSE(fs::exists(carpeta.Camino().parent_path() / "otra"));
 }
 
+// Two files of a project that stand in a folder of it, and links in their place.
+TEST_F(Enlaces, LoQueQuedoDondeLlevanSeArreglaConLaCarpeta)
+{
+    const fs::path dentro = En("dentro");
+    std::ofstream(dentro / "otro", std::ios::binary) << "viejo";
+    fs::create_symlink("dentro/meta", En("a"));
+    fs::create_symlink("dentro/otro", En("b"));
+    fs::create_symlink("dentro/ninguno", En("c"));
+    fs::create_symlink(fuera.Camino() / "meta", En("d"));
+    std::ofstream(fuera.Ruta(".siro-0-1-0.tmp"), std::ios::binary) << "ajeno";
+    // Two temporaries, the list, its settling, the first rename; killed at the second.
+    ASSERT_EQ(fallas::EnOtroProceso([&] {
+                  Reemplaza({{"a", "nuevo a"}, {"b", "nuevo b"}}, fallas::Llamadas({.llamada = 6}));
+              }),
+              Fin::Matado);
+    EXPECT_EQ(RecuperaCarpeta(LlamadasDelSistema(), carpeta.Camino().string()), (Recuperacion{{"otro"}, {}}));
+    EXPECT_EQ(fallas::ContenidoDe(dentro), (Contenido{{"meta", "nuevo a"}, {"otro", "nuevo b"}}));
+    EXPECT_TRUE(fs::exists(fuera.Ruta(".siro-0-1-0.tmp"))) << "no link leads out";
+}
+
 TEST_F(Enlaces, UnaCarpetaQueEsEnlaceEsLaDelProyecto)
 {
     const fs::path atajo = fuera.Camino() / "atajo";
