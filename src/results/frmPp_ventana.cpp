@@ -4,6 +4,7 @@
 #include <QEvent>
 #include <QFontDatabase>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -161,7 +162,6 @@ void frmPp_ventana::ConectaTeclas()
         connect(atajo, &QShortcut::activated, this, [this, rutina] { Suceso(rutina); });
     };
     tecla(QKeySequence::Find, this, [this] { Busca(); });
-    tecla(QKeySequence(Qt::Key_F3), this, [this] { BuscaSiguiente(f); });
     tecla(QKeySequence(Qt::SHIFT | Qt::Key_F3), this, [this] { BuscaAnterior(f); });
     tecla(QKeySequence(Qt::CTRL | Qt::Key_S), this, [this] { GuardaTexto(f, entorno.s); });
     tecla(QKeySequence(Qt::CTRL | Qt::Key_P), this, [this] { Imprime(); });
@@ -251,6 +251,22 @@ void frmPp_ventana::MuestraElResto()
     MuestraTexto();
     while (mostrado < f.Text1.size())
         MuestraTrozo();
+}
+
+bool frmPp_ventana::AtiendeF3(QEvent& evento)
+{
+    const bool esTecla = evento.type() == QEvent::KeyPress;
+    if (!f.busqueda.abierta || (!esTecla && evento.type() != QEvent::ShortcutOverride)) return false;
+    const auto& tecla = static_cast<const QKeyEvent&>(evento);
+    if (tecla.key() != Qt::Key_F3 || tecla.modifiers() != Qt::NoModifier) return false;
+    evento.accept();
+    if (esTecla) Suceso([this] { BuscaSiguiente(f); });
+    return true;
+}
+
+bool frmPp_ventana::event(QEvent* evento)
+{
+    return AtiendeF3(*evento) || Ventana::event(evento);
 }
 
 /// A key in the text finds it whole: Ctrl+A, Ctrl+End.

@@ -30,6 +30,7 @@ class frmPp_ventana : public forms::Ventana {
 
   protected:
     void AlCerrar() override;
+    bool event(QEvent* evento) override;
     bool eventFilter(QObject* donde, QEvent* evento) override;
 
   private:
@@ -37,6 +38,9 @@ class frmPp_ventana : public forms::Ventana {
     QHBoxLayout* ConstruyeBusqueda();
     QHBoxLayout* ConstruyeBotones();
     void ConectaTeclas();
+    /// F3 goes on with the search while its line is on show; otherwise it is the main window's, whose
+    /// shortcut a second one of this window's would only get in the way of. Returns whether it was that key.
+    bool AtiendeF3(QEvent& evento);
     /// A long text is shown piece by piece, what the user sees first of all, with the events between two
     /// pieces handled; whoever needs it whole asks for the rest.
     void MuestraTexto();

@@ -10,10 +10,12 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenuBar>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTextBrowser>
 #include <QTimer>
 #include <QToolButton>
+#include <QWindow>
 
 #include "EscritorioDePrueba.h"
 #include "apoyo/Ventanas.h"
@@ -27,6 +29,7 @@ namespace shell {
 namespace {
 
 using apoyo::Control;
+using apoyo::Espera;
 using forms::DeQ;
 using forms::Q;
 
@@ -98,6 +101,34 @@ TEST_F(EscritorioDePrueba, LaPizarraAbiertaRecibeElTextoDeLaCorrida)
     EXPECT_FALSE(escritorio.pizarra.abierta);
     EXPECT_FALSE(Accion("mnuPizarra1").isChecked());
     EXPECT_FALSE(escritorio.s.SalidaPizarra);
+}
+
+TEST_F(EscritorioDePrueba, F3SigueLaBusquedaDeLaPizarraYSinEllaAbreElEditor)
+{
+    Arranca(instalacion.Quelmar());
+    Accion("mnuPizarra1").trigger();
+    escritorio.s.Anfitrion.PonPizarra("Qsale 1\r\nde la qsale 2");
+    auto& texto = Control<QPlainTextEdit>(escritorio.Principal(), "Text1");
+    ASSERT_TRUE(Espera([&] { return texto.toPlainText() == QStringLiteral("Qsale 1\nde la qsale 2"); }));
+    QWindow* const ventana = escritorio.Principal().windowHandle();
+    const auto elegido = [&] { return DeQ(texto.textCursor().selectedText()); };
+    texto.setFocus();
+    QTest::keyClick(ventana, Qt::Key_F, Qt::ControlModifier);
+    auto& campo = Control<QLineEdit>(escritorio.Principal(), "txtBuscar");
+    ASSERT_TRUE(Espera([&] { return campo.hasFocus(); }));
+    apoyo::Teclea(campo, "qsale");
+    EXPECT_EQ(elegido(), "Qsale");
+    QTest::keyClick(ventana, Qt::Key_F3);
+    EXPECT_TRUE(Espera([&] { return elegido() == "qsale"; }));
+    texto.setFocus();
+    QTest::keyClick(ventana, Qt::Key_F3);
+    EXPECT_TRUE(Espera([&] { return elegido() == "Qsale"; }));
+    EXPECT_TRUE(Editor() == nullptr || !Editor()->isVisible());
+    campo.setFocus();
+    QTest::keyClick(ventana, Qt::Key_Escape);
+    ASSERT_TRUE(Espera([&] { return texto.hasFocus(); }));
+    QTest::keyClick(ventana, Qt::Key_F3);
+    EXPECT_TRUE(Espera([&] { return Editor() != nullptr && Editor()->isVisible(); }));
 }
 
 TEST_F(EscritorioDePrueba, CerrarLaPizarraPorSuMarcoQuitaLaMarcaDelMenu)
