@@ -43,7 +43,7 @@ void FormaDeTabla_ventana::AgregaFinales(QBoxLayout& fila, Rutina aplicar, Rutin
     Agrega(fila, "OKButton", std::move(aceptar));
     // Without looking at the fields: what is wrong in them must not keep the user here.
     QPushButton* const cancela = piezas.Boton("CancelButton");
-    connect(cancela, &QPushButton::clicked, this, [this] { reject(); });
+    connect(cancela, &QPushButton::clicked, this, [this] { SucesoSinRevisar([this] { AlCerrar(); }); });
     fila.addWidget(cancela);
 }
 

@@ -143,6 +143,23 @@ void Asienta(dlgDisPpPer& f, Siro& s)
     TomaCeldas(f, s, forms::Deja(f.MSFlexGridDisPerso));
 }
 
+std::array<DistribucionesLeidas::Tabla, NroTablas> EnMemoria(const Siro& s)
+{
+    std::array<DistribucionesLeidas::Tabla, NroTablas> tablas;
+    for (std::size_t k = 1; k <= NroTablas; ++k) {
+        auto& tabla = tablas[k - 1] = {s.NotasDisPer[k], s.DurMinPer[k], s.DurMaxPer[k], {}};
+        for (int j = 1; j <= s.NroFilasTabla[k]; ++j)
+            tabla.partes.push_back(s.DisPerso(static_cast<int>(k), j));
+    }
+    return tablas;
+}
+
+/// What the tables hold now is what their file holds.
+void RecuerdaTablas(dlgDisPpPer& f, const Siro& s)
+{
+    f.leidas = {EnMemoria(s), f.MSFlexGridDisPerso.filas};
+}
+
 void MuestraTabla(dlgDisPpPer& f, Siro& s)
 {
     const std::int16_t n = s.NroFilasTabla[Ranura(f)];
@@ -156,6 +173,7 @@ void MuestraTabla(dlgDisPpPer& f, Siro& s)
     for (int j = 1; j <= n; ++j)
         f.MSFlexGridDisPerso.Pon({j, ColumnaParcial}, NumeroATexto(s.DisPerso(f.Tabla(), j)));
     Suma(f);
+    f.leidas.filas = f.MSFlexGridDisPerso.filas;
 }
 
 /// Whether the table in hand may be written. What is wrong is told, and the cursor stands on it.
@@ -180,7 +198,10 @@ bool Cierra(dlgDisPpPer& f, const Siro& s)
 bool Aplica(dlgDisPpPer& f, Siro& s)
 {
     Asienta(f, s);
-    return !Cierra(f, s) || model::GuardaTablaDisPer(s);
+    if (!Cierra(f, s)) return true;
+    if (!model::GuardaTablaDisPer(s)) return false;
+    RecuerdaTablas(f, s);
+    return true;
 }
 
 }  // namespace
@@ -196,6 +217,7 @@ void Abre(dlgDisPpPer& f, const dlgPp& pp, Siro& s)
         for (std::size_t i = 0; i < NroTablas; ++i)
             if (pp.optDistriPp[PrimeraPersonal + i]) f.cmbNroTablaDisPpPer.indice = static_cast<int>(i);
         MuestraTabla(f, s);
+        RecuerdaTablas(f, s);
     });
 }
 
@@ -259,7 +281,7 @@ void cmdBorraTablaDisPer(dlgDisPpPer& f, Siro& s)
         MuestraTabla(f, s);
         f.cmbDurMin.indice = 0;
         f.cmbDurMax.indice = static_cast<int>(DuracionesMaximas.size()) - 1;
-        model::GuardaTablaDisPer(s);
+        if (model::GuardaTablaDisPer(s)) RecuerdaTablas(f, s);
     });
 }
 
@@ -278,6 +300,12 @@ void OKButton(dlgDisPpPer& f, Siro& s)
 void CancelButton(dlgDisPpPer& f)
 {
     f.abierta = false;
+}
+
+bool SinAplicar(const dlgDisPpPer& f, const Siro& s)
+{
+    return f.abierta && (f.MSFlexGridDisPerso.filas != f.leidas.filas ||
+                         f.txtNroPer != Texto(s.NroFilasTabla[Ranura(f)]) || f.leidas.tablas != EnMemoria(s));
 }
 
 forms::Grafico Vista(const dlgDisPpPer& f)

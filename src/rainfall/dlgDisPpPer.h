@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "forms/CampoNumerico.h"
 #include "forms/Grafico.h"
@@ -44,6 +45,18 @@ inline constexpr auto DuracionesMinimas =
 inline constexpr auto DuracionesMaximas =
     std::to_array<std::int16_t>({10, 15, 20, 30, 60, 120, 180, 240, 300, 360, 540, 720, 1440, 1440});
 
+/// The three tables and the rows in sight, as they were read or written last.
+struct DistribucionesLeidas {
+    struct Tabla {
+        std::string notas{};
+        std::int16_t durMin = 0, durMax = 0;  ///< [min]
+        std::vector<float> partes{};          ///< of each period [% of P]
+        bool operator==(const Tabla&) const = default;
+    };
+    std::array<Tabla, 3> tablas{};
+    std::vector<forms::FilaGrilla> filas{};
+};
+
 struct dlgDisPpPer {
     bool abierta = false;
     Lista cmbNroTablaDisPpPer{};  ///< item i is table i + 1
@@ -51,6 +64,7 @@ struct dlgDisPpPer {
     std::string txtNroPer{};
     Lista cmbDurMin{}, cmbDurMax{};
     forms::Grilla MSFlexGridDisPerso{};
+    DistribucionesLeidas leidas{};
     forms::Foco foco{};
 
     /// Table in hand, 1 to 3.
@@ -88,6 +102,9 @@ void cmdAplicar(dlgDisPpPer& f, model::Siro& s);
 void OKButton(dlgDisPpPer& f, model::Siro& s);
 /// What was typed stays in memory until the tables are read again.
 void CancelButton(dlgDisPpPer& f);
+
+/// Whether the file doesn't hold what the form and the tables in memory do.
+bool SinAplicar(const dlgDisPpPer& f, const model::Siro& s);
 
 /// Hyetograph of the table as it is typed.
 forms::Grafico Vista(const dlgDisPpPer& f);

@@ -19,6 +19,7 @@ class dlgDisPpPer_ventana : public FormaDeTabla_ventana {
   private:
     bool AbreForma() override;
     void Cancela() override;
+    bool SinAplicar() override { return rainfall::SinAplicar(f, entorno.s); }
     // Each makes a part of the form, with its events.
     QLayout* Datos();
     QWidget* Validez();

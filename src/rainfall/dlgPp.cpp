@@ -153,8 +153,19 @@ std::string EnCampo(std::string_view texto)
 
 void MuestraTormenta(dlgPp& f, const Siro& s)
 {
-    f.txtPp = EnCampo(NumeroATexto(s.PpTormenta));
-    f.txtDur = Texto(s.DurTormenta);
+    f.txtPp = f.mostrados.txtPp = EnCampo(NumeroATexto(s.PpTormenta));
+    f.txtDur = f.mostrados.txtDur = Texto(s.DurTormenta);
+}
+
+void MuestraConRecurrencia(dlgPp& f, const Siro& s)
+{
+    MuestraTormenta(f, s);
+    f.cmbRec.texto = f.mostrados.cmbRec = Texto(s.RecTormenta);
+}
+
+void RecuerdaCampos(dlgPp& f)
+{
+    f.mostrados = {f.txtPp, f.txtDur, f.cmbRec.texto, f.cmbPasoPp.texto, f.cmbPasoQ.texto};
 }
 
 // --- real storm ---
@@ -306,6 +317,7 @@ void Abre(dlgPp& f, Siro& s)
     Marca(f.optformaPp, static_cast<std::size_t>(s.FormaPp));
     Marca(f.optDistriPp, static_cast<std::size_t>(s.DistriPp));
     Marca(f.optTablaPDR, static_cast<std::size_t>(s.TablaPDR));
+    RecuerdaCampos(f);
     if (MarcadaOCero(f.optformaPp) == 0) LeeLista(f, s);  // form 1 reads it with its state
     Evento(s, [&] { EstadoFormaPp(f, s); });
 }
@@ -355,8 +367,7 @@ void cmbPDR_Click(dlgPp& f, Siro& s)
     if (f.cmbPDR.indice < 0) return;
     Evento(s, [&] {
         model::ParsePDR(s, f.cmbPDR.items[static_cast<std::size_t>(f.cmbPDR.indice)]);
-        MuestraTormenta(f, s);
-        f.cmbRec.texto = Texto(s.RecTormenta);
+        MuestraConRecurrencia(f, s);
     });
 }
 
@@ -488,6 +499,17 @@ void Aplica(dlgPp& f, Siro& s)
     CorrigePasos(f, s);
     s.PasoPp = Entero16(Val(f.cmbPasoPp.texto));
     s.PasoQ = Entero16(Val(f.cmbPasoQ.texto));
+    RecuerdaCampos(f);
+}
+
+/// Whether a field holds another number than the value in use. One that this can't hold is another.
+template <typename T, typename Toma>
+bool Otro(const std::string& texto, const std::string& mostrado, T enUso, Toma toma)
+{
+    if (texto == mostrado) return false;
+    bool otro = true;
+    model::Sentencia([&] { otro = toma(Val(texto)) != enUso; }, [](const model::Falla&) {});
+    return otro;
 }
 
 /// Applies. Returns false where there is nothing to show: no storm, or a fault on the way.
@@ -544,6 +566,18 @@ void OKButton(dlgPp& f, Siro& s)
     if (Evento(s, [&] { Aplica(f, s); })) f.abierta = false;
 }
 
+bool SinAplicar(const dlgPp& f, const Siro& s)
+{
+    if (!f.abierta) return false;
+    const auto tabla = static_cast<std::int16_t>(MarcadaOCero(f.optTablaPDR));
+    return Otro(f.txtPp, f.mostrados.txtPp, s.PpTormenta, Simple) ||
+           Otro(f.txtDur, f.mostrados.txtDur, s.DurTormenta, Entero16) ||
+           Otro(f.cmbRec.texto, f.mostrados.cmbRec, s.RecTormenta, Entero16) ||
+           Otro(f.cmbPasoPp.texto, f.mostrados.cmbPasoPp, s.PasoPp, Entero16) ||
+           Otro(f.cmbPasoQ.texto, f.mostrados.cmbPasoQ, s.PasoQ, Entero16) ||
+           (f.optformaPp[FormaSerie] && tabla != s.TablaPDR);
+}
+
 void CancelButton(dlgPp& f)
 {
     f.abierta = false;
@@ -562,8 +596,7 @@ void cmdBorraPDR(dlgPp& f, Siro& s)
     f.cmbPDR.items.erase(f.cmbPDR.items.begin() + f.cmbPDR.indice);
     f.cmbPDR.indice = -1;
     model::GuardaListaPDR(s, f.cmbPDR.items, Campos(f));
-    MuestraTormenta(f, s);
-    f.cmbRec.texto = Texto(s.RecTormenta);
+    MuestraConRecurrencia(f, s);
 }
 
 std::optional<PedidoHietograma> cmdVerGrafico(dlgPp& f, Siro& s)

@@ -168,6 +168,11 @@ struct ListaConTexto {
     std::string texto{};
 };
 
+/// Fields whose text waits for cmdAplicar, as it was shown or applied last.
+struct CamposMostrados {
+    std::string txtPp{}, txtDur{}, cmbRec{}, cmbPasoPp{}, cmbPasoQ{};
+};
+
 /// What the dialog's controls hold, and with it the hidden instance of the form.
 struct dlgPp {
     std::array<EstadoControl, NroControles> estados{};
@@ -186,6 +191,7 @@ struct dlgPp {
     /// file and the charts ask for its notes.
     model::TormentaReal tormenta{};
 
+    CamposMostrados mostrados{};
     std::optional<Control> foco{};  ///< control that a refusal keeps the focus in
     bool todoSeleccionado = false;  ///< with all of its text selected
     bool abierta = false;
@@ -275,6 +281,10 @@ bool cmbPasoQ_AlSalir(dlgPp& f, model::Siro& s);
 void cmdAplicar(dlgPp& f, model::Siro& s);
 void OKButton(dlgPp& f, model::Siro& s);
 void CancelButton(dlgPp& f);
+
+/// Whether it holds what neither was shown nor is in use, and would be lost with the dialog. Form and
+/// distribution are in use from the click on.
+bool SinAplicar(const dlgPp& f, const model::Siro& s);
 
 /// Adds the storm of the three fields to the list and stores the list.
 void cmdPDR(dlgPp& f, model::Siro& s);

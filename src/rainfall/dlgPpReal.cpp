@@ -138,6 +138,11 @@ void TomaCeldas(dlgPpReal& f, Siro& s, const forms::Efecto& efecto)
     if (!efecto.asentadas.empty()) Suma(f, s);
 }
 
+TormentaLeida EnLaForma(const dlgPpReal& f)
+{
+    return {f.tormenta, f.txtNroPpReal, f.MSFlexGridTablaPpReal.filas};
+}
+
 /// Takes up the cell that is still being typed.
 void Asienta(dlgPpReal& f, Siro& s)
 {
@@ -230,6 +235,7 @@ void Lee(dlgPpReal& f, Siro& s)
     f.cmbPasot.texto = Texto(f.tormenta.PasoPpReal);
     f.txtNroPpReal = Texto(s.NroPpReal);
     Redibuja(f, s);
+    f.leida = EnLaForma(f);
 }
 
 void AbreForma(dlgPpReal& f, const dlgPp& pp, Siro& s)
@@ -259,7 +265,9 @@ void Aplica(dlgPpReal& f, dlgPp& pp, Siro& s)
 {
     Asienta(f, s);
     LlevaNombre(f, pp);
-    if (!f.Protegida) model::GuardaPpReal(s, f.tormenta);
+    if (f.Protegida) return;
+    model::GuardaPpReal(s, f.tormenta);
+    f.leida = EnLaForma(f);
 }
 
 }  // namespace
@@ -307,6 +315,7 @@ void cmdNuevaPpReal(dlgPpReal& f, Siro& s)
         model::GuardaPpReal(s, f.tormenta);
         PonNombre(f, s, f.tormenta.nombre);
         Redibuja(f, s);
+        f.leida = EnLaForma(f);
     });
     if (hecha) return;
     f = forma;
@@ -465,6 +474,7 @@ void cmdBorraTablaDisPer(dlgPpReal& f, const dlgPp& pp, Siro& s)
         model::GuardaPpReal(s, f.tormenta);
         LlenaLista(f, s);
         Redibuja(f, s);
+        f.leida = EnLaForma(f);
     });
 }
 
@@ -485,6 +495,11 @@ void OKButton(dlgPpReal& f, dlgPp& pp, Siro& s)
 void CancelButton(dlgPpReal& f)
 {
     f.abierta = false;
+}
+
+bool SinAplicar(const dlgPpReal& f)
+{
+    return f.abierta && !(f.leida == EnLaForma(f));
 }
 
 void TomaImportada(dlgPpReal& f, Siro& s, const TormentaImportada& importada)

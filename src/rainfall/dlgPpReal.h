@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "forms/CampoNumerico.h"
 #include "forms/Grafico.h"
@@ -52,6 +53,14 @@ inline constexpr std::size_t MaxPasosTormenta = 16;
 /// Options of what follows from what.
 enum : std::size_t { OpcionFijaFinal = 0, OpcionFijaNro = 1 };
 
+/// What the file of a storm holds, as it was read or written last.
+struct TormentaLeida {
+    model::TormentaReal tormenta{};
+    std::string txtNroPpReal{};
+    std::vector<forms::FilaGrilla> filas{};
+    bool operator==(const TormentaLeida&) const = default;
+};
+
 struct dlgPpReal {
     bool abierta = false;
     model::TormentaReal tormenta{};  ///< file name, notes, step, dates and times
@@ -63,6 +72,7 @@ struct dlgPpReal {
     std::array<bool, 2> optNroPpReal{};
     bool finalEditable = false;  ///< the end is typed; otherwise the number of intervals is
     forms::Grilla MSFlexGridTablaPpReal{};
+    TormentaLeida leida{};
     forms::Foco foco{};
 };
 
@@ -109,6 +119,9 @@ void cmdAplicar(dlgPpReal& f, dlgPp& pp, model::Siro& s);
 void OKButton(dlgPpReal& f, dlgPp& pp, model::Siro& s);
 /// Nothing is written; the arrays keep what was typed.
 void CancelButton(dlgPpReal& f);
+
+/// Whether the file in hand doesn't hold what the form does.
+bool SinAplicar(const dlgPpReal& f);
 
 /// An imported record takes the place of the storm's dates, step and depths. Nothing is written yet.
 void TomaImportada(dlgPpReal& f, model::Siro& s, const TormentaImportada& importada);

@@ -287,7 +287,7 @@ QLayout* dlgPp_ventana::Botones()
     fila->addWidget(acepta);
     auto* const cancela = Toma(Control::CancelButton, new QPushButton(this));
     cancela->setText(Q(Fila(Control::CancelButton).leyenda));
-    connect(cancela, &QPushButton::clicked, this, [this] { reject(); });
+    connect(cancela, &QPushButton::clicked, this, [this] { SucesoSinRevisar([this] { AlCerrar(); }); });
     fila->addWidget(cancela);
     return fila;
 }

@@ -55,6 +55,7 @@ class dlgPp_ventana : public forms::Formulario {
 
   protected:
     void AlCerrar() override;
+    bool SinAplicar() override { return rainfall::SinAplicar(f, entorno.s); }
 
   private:
     // Each makes a part of the form, with its events.

@@ -98,6 +98,11 @@ void LlevaTormenta(const dlgTablaPpUEHs& f, dlgPp& pp, Siro& s)
     pp.cmbRec.texto = f.txtRPpUEHs;
 }
 
+PpUEHsAplicadas EnLaForma(const dlgTablaPpUEHs& f)
+{
+    return {f.txtDPpUEHs, f.txtRPpUEHs, f.MSFlexGridPpUEHs.filas};
+}
+
 void Aplica(dlgTablaPpUEHs& f, dlgPp& pp, Siro& s)
 {
     forms::Deja(f.MSFlexGridPpUEHs);
@@ -111,6 +116,7 @@ void Aplica(dlgTablaPpUEHs& f, dlgPp& pp, Siro& s)
     for (int j = 1; j <= f.MSFlexGridPpUEHs.NroFilas(); ++j)
         s.PpUEH(j) = model::Simple(f.MSFlexGridPpUEHs.Numero({j, ColumnaP}));
     LlevaTormenta(f, pp, s);
+    f.aplicadas = EnLaForma(f);
 }
 
 }  // namespace
@@ -125,6 +131,7 @@ void Abre(dlgTablaPpUEHs& f, Siro& s)
         model::LeeUEHs(s);
         if (s.ColUEHs.Cuenta() == 0) model::Advierte(s, std::string(NoHayUEHs), {});
         LlenaTabla(f, s);
+        f.aplicadas = EnLaForma(f);
     });
 }
 
@@ -160,6 +167,11 @@ void CancelButton(dlgTablaPpUEHs& f)
     if (!forms::Vale(ReglaD, f.txtDPpUEHs)) f.txtDPpUEHs = f.DValida;
     if (!forms::Vale(ReglaR, f.txtRPpUEHs)) f.txtRPpUEHs = f.RValida;
     f.abierta = false;
+}
+
+bool SinAplicar(const dlgTablaPpUEHs& f)
+{
+    return f.abierta && !(f.aplicadas == EnLaForma(f));
 }
 
 forms::Grafico Vista(const dlgTablaPpUEHs& f)

@@ -4,6 +4,7 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "forms/CampoNumerico.h"
 #include "forms/Grafico.h"
@@ -36,12 +37,20 @@ inline constexpr auto LeyendasDlgTablaPpUEHs = std::to_array<Leyenda>({
 /// Characters that the two fields keep.
 inline constexpr int LargoCampoPpUEHs = 5;
 
+/// What the form showed as it opened, or was applied last.
+struct PpUEHsAplicadas {
+    std::string D{}, R{};
+    std::vector<forms::FilaGrilla> filas{};
+    bool operator==(const PpUEHsAplicadas&) const = default;
+};
+
 struct dlgTablaPpUEHs {
     bool abierta = false;
     /// Duration [min] and recurrence [years]. They outlive the closing of the window.
     std::string txtDPpUEHs = "0", txtRPpUEHs = "0";
     std::string DValida = "0", RValida = "0";  ///< what the two held when they were last left
     forms::Grilla MSFlexGridPpUEHs{};
+    PpUEHsAplicadas aplicadas{};
     forms::Foco foco{};
 };
 
@@ -64,6 +73,9 @@ void cmdAplicar(dlgTablaPpUEHs& f, dlgPp& pp, model::Siro& s);
 void OKButton(dlgTablaPpUEHs& f, dlgPp& pp, model::Siro& s);
 /// A duration or a recurrence that its field would refuse is given up.
 void CancelButton(dlgTablaPpUEHs& f);
+
+/// Whether it holds what wasn't applied.
+bool SinAplicar(const dlgTablaPpUEHs& f);
 
 /// Depth of each UEH as it is typed.
 forms::Grafico Vista(const dlgTablaPpUEHs& f);

@@ -19,6 +19,7 @@ class dlgTablaPpUEHs_ventana : public FormaDeTabla_ventana {
   private:
     bool AbreForma() override;
     void Cancela() override;
+    bool SinAplicar() override { return rainfall::SinAplicar(f); }
     // Each makes a part of the form, with its events.
     QLayout* Datos();
     QLayout* Botones();

@@ -73,6 +73,24 @@ void PonFilas(dlgTablasPDRs& f, std::int16_t n)
         f.MSFlexGridTablaPDRs.Pon({j, 0}, NumeroATexto(j));
 }
 
+auto EnMemoria(const Siro& s)
+{
+    decltype(TablasPDRLeidas::tablas) tablas;
+    for (std::size_t k = 0; k < tablas.size(); ++k) {
+        tablas[k].notas = s.NotasPDR[k];
+        const int fila = static_cast<int>(k);
+        for (int j = 1; j <= s.NroFilasTabla[k]; ++j)
+            tablas[k].tormentas.push_back({s.TablasP(fila, j), s.TablasD(fila, j), s.TablasR(fila, j)});
+    }
+    return tablas;
+}
+
+/// What the tables hold now is what their file holds.
+void RecuerdaTablas(dlgTablasPDRs& f, const Siro& s)
+{
+    f.leidas = {EnMemoria(s), f.MSFlexGridTablaPDRs.filas};
+}
+
 void MuestraTabla(dlgTablasPDRs& f, Siro& s)
 {
     const std::int16_t n = s.NroFilasTabla[Ranura(f)];
@@ -89,6 +107,7 @@ void MuestraTabla(dlgTablasPDRs& f, Siro& s)
         g.Pon({j, ColumnaD}, Texto(s.TablasD(f.Tabla(), j)));
         g.Pon({j, ColumnaR}, Texto(s.TablasR(f.Tabla(), j)));
     }
+    f.leidas.filas = g.filas;
 }
 
 // --- apply ---
@@ -201,6 +220,7 @@ bool Aplica(dlgTablasPDRs& f, dlgPp& pp, Siro& s)
     } else {
         if (!CargaPersonal(f, s)) return true;
         guardada = model::GuardaTablaPDRs(s);
+        if (guardada) RecuerdaTablas(f, s);
     }
     if (s.NroSeriePDR >= 1) LlevaPrimera(pp, s);
     return guardada;
@@ -217,6 +237,7 @@ void Abre(dlgTablasPDRs& f, const dlgPp& pp, Siro& s)
         for (std::size_t i = 0; i < pp.optTablaPDR.size(); ++i)
             if (pp.optTablaPDR[i]) f.cmbNroTablaPDRs.indice = static_cast<int>(i);
         MuestraTabla(f, s);
+        RecuerdaTablas(f, s);
     });
 }
 
@@ -270,6 +291,13 @@ void OKButton(dlgTablasPDRs& f, dlgPp& pp, Siro& s)
 void CancelButton(dlgTablasPDRs& f)
 {
     f.abierta = false;
+}
+
+bool SinAplicar(const dlgTablasPDRs& f, const Siro& s)
+{
+    return f.abierta &&
+           (f.MSFlexGridTablaPDRs.filas != f.leidas.filas ||
+            f.txtNroPDRs != Texto(s.NroFilasTabla[Ranura(f)]) || f.leidas.tablas != EnMemoria(s));
 }
 
 // --- chart ---

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "forms/CampoNumerico.h"
 #include "forms/Grafico.h"
@@ -53,6 +54,17 @@ inline constexpr auto DuracionesPDR = std::to_array<std::int16_t>(
 inline constexpr auto RecurrenciasPDR =
     std::to_array<std::int16_t>({2, 5, 10, 20, 25, 40, 50, 100, 200, 500, 1000, 2000, 5000, 10000});
 
+/// The tables and the rows in sight, as they were read or written last.
+struct TablasPDRLeidas {
+    struct Tabla {
+        std::string notas{};
+        std::vector<std::array<std::int16_t, 3>> tormentas{};  ///< P [mm], D [min], R [years]
+        bool operator==(const Tabla&) const = default;
+    };
+    std::array<Tabla, 4> tablas{};
+    std::vector<forms::FilaGrilla> filas{};
+};
+
 struct dlgTablasPDRs {
     bool abierta = false;
     Lista cmbNroTablaPDRs{};  ///< item i is table i
@@ -60,6 +72,7 @@ struct dlgTablasPDRs {
     std::string txtNroPDRs{};
     std::string txtNotas{};
     forms::Grilla MSFlexGridTablaPDRs{};
+    TablasPDRLeidas leidas{};
     forms::Foco foco{};
 
     /// Table in hand, 0 to 3.
@@ -89,6 +102,9 @@ void cmdAplicar(dlgTablasPDRs& f, dlgPp& pp, model::Siro& s);
 /// Applies, and closes whatever came of it.
 void OKButton(dlgTablasPDRs& f, dlgPp& pp, model::Siro& s);
 void CancelButton(dlgTablasPDRs& f);
+
+/// Whether the file doesn't hold what the form and the tables in memory do.
+bool SinAplicar(const dlgTablasPDRs& f, const model::Siro& s);
 
 /// Hyetograph of the storm that the cursor is on, by the temporal distribution and at the step in use; an
 /// empty chart where the row tells no storm.

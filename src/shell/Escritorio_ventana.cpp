@@ -78,6 +78,7 @@ void Escritorio::PonAnfitrion()
 {
     forms::PonCajas(s.Anfitrion, entorno);
     s.Anfitrion.carga_lbl_proyecto = [this] {
+        AlCargarProyecto(configura, s);
         carga_lbl_proyecto(principal, s);
         ventanaPrincipal->Muestra();
     };

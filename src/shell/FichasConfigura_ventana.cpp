@@ -394,7 +394,7 @@ QLayout* frmConfigura_ventana::Botones()
     fila->addWidget(acepta);
     fila->addWidget(Boton("cmdAplicar", *this, [this] { cmdAplicar(f, entorno.s); }));
     auto* const cancela = Nombra(new QPushButton(this), "CancelButton");
-    connect(cancela, &QPushButton::clicked, this, [this] { reject(); });
+    connect(cancela, &QPushButton::clicked, this, [this] { SucesoSinRevisar([this] { AlCerrar(); }); });
     fila->addWidget(cancela);
     return fila;
 }

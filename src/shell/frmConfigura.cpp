@@ -233,6 +233,33 @@ void txtFecha_DblClick(Siro& s)
     s.frmConfigura.txtFecha = s.Anfitrion.FechaHora().substr(0, LargoFecha);
 }
 
+// --- what was applied ---
+
+namespace {
+
+void RecuerdaControles(frmConfigura& f, const Siro& s)
+{
+    f.guardados = s.frmConfigura;
+    f.archivoGuardado = s.Vigilancia.archivoConf;
+}
+
+}  // namespace
+
+void AlCargarProyecto(frmConfigura& f, const Siro& s)
+{
+    if (f.archivoGuardado != s.Vigilancia.archivoConf) RecuerdaControles(f, s);
+}
+
+bool SinAplicar(const frmConfigura& f, const Siro& s)
+{
+    if (!f.abierta) return false;
+    ControlesConfigura ahora = s.frmConfigura;
+    ahora.Drive1 = f.guardados.Drive1;
+    ahora.Dir1 = f.guardados.Dir1;
+    ahora.lblMiArchivoConf = f.guardados.lblMiArchivoConf;
+    return !(ahora == f.guardados);
+}
+
 // --- opening and activation ---
 
 void Abre(frmConfigura& f, Siro& s)
@@ -257,6 +284,7 @@ void Abre(frmConfigura& f, Siro& s)
         c.lblMiArchivoConf = ArchivoConf(s);
     }
     if (!f.CheckDirNv) c.TextDirNv.clear();
+    RecuerdaControles(f, s);
     f.foco = {};
     f.abierta = true;
 }
@@ -359,6 +387,7 @@ void filArchivoConfigura_Click(frmConfigura& f, Siro& s)
     s.NombreProyecto = proyecto;
     model::RecuperaGuardado(s, s.DirProyecto);
     model::LeeConfReclamada(s);
+    RecuerdaControles(f, s);
     f.lblnombreproyecto = s.NombreProyecto;
     Relista(f, s);
     // A pointer that can't be written keeps no project from being loaded.
@@ -409,6 +438,7 @@ bool Aplica(frmConfigura& f, Siro& s)
     if (semuda && !s.Anfitrion.ResguardaDibujo(Riesgo::MueveProyecto)) return false;
     bool guardada = false;
     Evento(s, [&] { guardada = model::cmdAplicar(s); });
+    if (guardada) RecuerdaControles(f, s);
     if (!guardada || !semuda) return guardada;
     f.mudanza = porLaImagen ? Mudanza{antes, RutaConf(s, s.DirProyecto), !habiaConf} : Mudanza{};
     return true;
@@ -466,6 +496,7 @@ void cmdTraeImagen(frmConfigura& f, Siro& s)
         if (casa == s.DirProyecto) return;
         s.Vigilancia.archivoConf = RutaConf(s, casa);  // the project's own, left as it was
         if (!model::cmdAplicar(s)) return;
+        RecuerdaControles(f, s);
         QuitaLoDejado(f.mudanza, s);
         f.mudanza = {};
         s.Anfitrion.carga_lbl_proyecto();

@@ -114,6 +114,8 @@ struct frmConfigura {
     ListaArchivos filArchivoConfigura{};  ///< configuration files of Dir1
     ListaArchivos filArchivoImagenDib{};  ///< all files of Dir1
     Mudanza mudanza{};
+    model::ControlesConfigura guardados{};  ///< as the dialog opened, or they were read or written last
+    std::string archivoGuardado{};          ///< the file that they were of
     forms::Foco foco{};
     bool abierta = false;
 };
@@ -192,5 +194,10 @@ void filArchivoImagenDib_Click(frmConfigura& f, model::Siro& s);
 void cmdAplicar(frmConfigura& f, model::Siro& s);
 void OKButton(frmConfigura& f, model::Siro& s);
 void CancelButton(frmConfigura& f);
+
+/// The current project may have become another one, whose file was read into the controls.
+void AlCargarProyecto(frmConfigura& f, const model::Siro& s);
+/// Whether it holds what wasn't applied. To go through directories is no work.
+bool SinAplicar(const frmConfigura& f, const model::Siro& s);
 
 }  // namespace shell

@@ -43,6 +43,7 @@ class frmConfigura_ventana : public forms::Formulario {
 
   protected:
     void AlCerrar() override;
+    bool SinAplicar() override { return shell::SinAplicar(f, entorno.s); }
 
   private:
     QWidget* FichaDeArchivos();

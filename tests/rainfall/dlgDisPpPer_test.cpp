@@ -382,6 +382,44 @@ TEST_F(DialogoDisPpPer, CancelarNoEscribeYLosValoresQuedanEnMemoria)
     EXPECT_EQ(Columna(2), (Textos{"40", "60"}));
 }
 
+TEST_F(DialogoDisPpPer, SinAplicarEstaLoQueElArchivoNoTiene)
+{
+    for (const std::size_t tabla : {1U, 2U, 3U}) {
+        Abre(tabla);
+        EXPECT_FALSE(SinAplicar(f, s));
+    }
+    Abre(1);
+    f.txtNroPer = "3";
+    EXPECT_TRUE(SinAplicar(f, s));
+    PonNro("3");
+    EXPECT_TRUE(SinAplicar(f, s));
+    PonNro("2");
+    forms::Escribe(G(), s, "1");
+    EXPECT_TRUE(SinAplicar(f, s));
+    Pega("50\n40\n");
+    cmdAplicar(f, s);
+    EXPECT_EQ(Avisos(), std::vector<Mensaje>{ErrorDeCierre});
+    EXPECT_TRUE(SinAplicar(f, s));
+    f.cmbNroTablaDisPpPer.indice = 1;  // the first table's shares wait while the second is in sight
+    cmbNroTablaDisPpPer_Click(f, pp, s);
+    EXPECT_TRUE(SinAplicar(f, s));
+    cmdAplicar(f, s);
+    EXPECT_FALSE(SinAplicar(f, s));
+    f.cmbDurMin.indice = 1;
+    cmbDurMin_Click(f, s);
+    EXPECT_TRUE(SinAplicar(f, s));
+    disco.FallaDesde(1, model::NumeroFalla::AccesoRuta);
+    cmdAplicar(f, s);
+    EXPECT_TRUE(SinAplicar(f, s));
+    cmdBorraTablaDisPer(f, s);
+    EXPECT_TRUE(SinAplicar(f, s));
+    disco.DejaDeFallar();
+    cmdBorraTablaDisPer(f, s);
+    EXPECT_FALSE(SinAplicar(f, s));
+    Abre(1);
+    EXPECT_FALSE(SinAplicar(f, s));
+}
+
 TEST_F(DialogoDisPpPer, BorrarVaciaLaTablaYEscribeEnseguidaSinPreguntar)
 {
     Abre(2);

@@ -719,6 +719,47 @@ TEST_F(DialogoPpReal, OtraFallaAlEscribirSeInforma)
     EXPECT_EQ(Bytes("Velmir_pt.vlm"), Llovizna);
 }
 
+TEST_F(DialogoPpReal, SinAplicarEstaLoQueElArchivoNoTiene)
+{
+    Abre();
+    EXPECT_FALSE(SinAplicar(f));
+    optNroPpReal_Click(f, OpcionFijaFinal);
+    EXPECT_FALSE(SinAplicar(f));
+    Teclea("9");
+    EXPECT_TRUE(SinAplicar(f));
+    cmdAplicar(f, pp, s);
+    EXPECT_FALSE(SinAplicar(f));
+    EligePaso("60");
+    EXPECT_TRUE(SinAplicar(f));
+    FilePpReal_Click(f, s);  // read anew
+    EXPECT_FALSE(SinAplicar(f));
+    f.txtNroPpReal = "7";
+    EXPECT_TRUE(SinAplicar(f));
+    anfitrion->textos = {"Otra"};
+    cmdNuevaPpReal(f, s);
+    EXPECT_FALSE(SinAplicar(f));
+    f.tormenta.Notas = "otras";
+    disco.FallaDesde(1, NumeroFalla::AccesoRuta);
+    cmdAplicar(f, pp, s);
+    EXPECT_TRUE(SinAplicar(f));
+    OKButton(f, pp, s);
+    EXPECT_TRUE(SinAplicar(f));
+    disco.DejaDeFallar();
+    cmdBorraTablaDisPer(f, pp, s);
+    EXPECT_FALSE(SinAplicar(f));
+}
+
+TEST_F(DialogoPpReal, EnUnaProtegidaAplicarNoEscribeYSigueSinAplicar)
+{
+    PonTormenta(disco, Protegida, "medida", 2, 10, "1\r\n2\r\n");
+    pp.lblMiFilePpReal = Protegida;
+    Abre();
+    EXPECT_FALSE(SinAplicar(f));
+    f.tormenta.Notas = "otras";
+    cmdAplicar(f, pp, s);
+    EXPECT_TRUE(SinAplicar(f));
+}
+
 TEST_F(DialogoPpReal, CancelarDejaLosArreglosComoSeEscribieron)
 {
     Abre();

@@ -8,6 +8,7 @@
 #include <set>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "ProyectoDeLluvia.h"
@@ -735,6 +736,52 @@ TEST_F(DialogoPp, UnaRecurrenciaQueNoCabeSeDiceYElDialogoQueda)
     OKButton(f, s);
     EXPECT_EQ(s.RecTormenta, 32767);
     EXPECT_FALSE(f.abierta);
+}
+
+TEST_F(DialogoPp, SinAplicarEstaLoQueNiSeMostroNiSeUsa)
+{
+    s.PasoPp = 20;
+    s.PasoQ = 10;
+    AbreConTormenta(60, 60, 10);  // the list's last storm, 80 mm, comes into use: what is shown stays shown
+    EXPECT_FALSE(SinAplicar(f, s));
+    for (std::string* campo : {&f.txtPp, &f.txtDur, &f.cmbRec.texto, &f.cmbPasoPp.texto, &f.cmbPasoQ.texto}) {
+        const std::string antes = std::exchange(*campo, "15");
+        EXPECT_TRUE(SinAplicar(f, s));
+        *campo = "99999999999";
+        EXPECT_TRUE(SinAplicar(f, s));
+        *campo = antes;
+        EXPECT_FALSE(SinAplicar(f, s));
+    }
+    f.cmbRec.texto = "25";
+    cmdAplicar(f, s);
+    EXPECT_FALSE(SinAplicar(f, s));
+    f.cmbRec.texto = "10";  // as it opened, and no longer in use
+    EXPECT_TRUE(SinAplicar(f, s));
+    CancelButton(f);
+    EXPECT_FALSE(SinAplicar(f, s));
+}
+
+TEST_F(DialogoPp, LoQueSeTomaAlElegirNoQuedaSinAplicar)
+{
+    Abre(f, s);
+    optformaPp_Click(f, s, 1);
+    optDistriPp_Click(f, s, 1);
+    f.cmbPDR.indice = 0;  // 30 mm, 20 min, 5 years
+    cmbPDR_Click(f, s);
+    EXPECT_EQ(f.txtPp, "30");
+    EXPECT_FALSE(SinAplicar(f, s));
+    optformaPp_Click(f, s, 4);
+    EXPECT_FALSE(SinAplicar(f, s));
+    optformaPp_Click(f, s, 0);
+    EXPECT_FALSE(SinAplicar(f, s));
+    optTablaPDR_Click(f, 1);  // no form of the rain uses it yet
+    EXPECT_FALSE(SinAplicar(f, s));
+    optformaPp_Click(f, s, 2);
+    EXPECT_TRUE(SinAplicar(f, s));
+    cmdAplicar(f, s);
+    EXPECT_FALSE(SinAplicar(f, s));
+    optDistriPp_Click(f, s, 2);  // its duration, 1440 min, waits
+    EXPECT_TRUE(SinAplicar(f, s));
 }
 
 TEST_F(DialogoPp, CancelarDejaLaFormaElegidaYLoDemasComoSeAplico)

@@ -324,5 +324,26 @@ TEST_F(DialogoPpUEHs, UnaDuracionRechazadaNoSobreviveAlCancelar)
     EXPECT_EQ(f.txtDPpUEHs, "300");
 }
 
+TEST_F(DialogoPpUEHs, SinAplicarEstaLoQueNoSeTomo)
+{
+    Abre();
+    EXPECT_FALSE(SinAplicar(f));
+    f.txtRPpUEHs = "50";
+    EXPECT_TRUE(SinAplicar(f));
+    cmdAplicar(f, pp, s);
+    EXPECT_FALSE(SinAplicar(f));
+    Pega("1\n2\n3\n");
+    EXPECT_TRUE(SinAplicar(f));
+    cmdBorraTablaHQ(f, s);
+    cmdAplicar(f, pp, s);  // no depth is a number
+    EXPECT_TRUE(SinAplicar(f));
+    Pega("1\n2\n3\n");
+    cmdAplicar(f, pp, s);
+    EXPECT_FALSE(SinAplicar(f));
+    CancelButton(f);
+    Abre();
+    EXPECT_FALSE(SinAplicar(f));
+}
+
 }  // namespace
 }  // namespace rainfall

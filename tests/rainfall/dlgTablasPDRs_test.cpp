@@ -408,6 +408,37 @@ TEST_F(DialogoTablasPDRs, CerrarCierraTambienConErrorYCancelarNoEscribe)
     EXPECT_EQ(disco.Bytes(Ruta), antes);
 }
 
+TEST_F(DialogoTablasPDRs, SinAplicarEstaLoQueElArchivoNoTiene)
+{
+    for (const std::size_t tabla : {0U, 1U, 2U, 3U}) {
+        Abre(tabla);
+        EXPECT_FALSE(SinAplicar(f, s));
+    }
+    Abre(1);
+    forms::Pega(G(), s, "26\t45\t10\n");  // 45 min is none of the durations
+    EXPECT_TRUE(SinAplicar(f, s));
+    cmdAplicar(f, pp, s);
+    EXPECT_EQ(Avisos(), std::vector<Mensaje>{Inconsistentes});
+    EXPECT_TRUE(SinAplicar(f, s));
+    for (const int tabla : {0, 1}) {  // the refused rows are in memory, whichever table is in sight
+        f.cmbNroTablaPDRs.indice = tabla;
+        cmbNroTablaPDRs_Click(f, pp, s);
+        EXPECT_TRUE(SinAplicar(f, s));
+    }
+    forms::Pega(G(), s, "26\t60\t10\n");
+    cmdAplicar(f, pp, s);
+    EXPECT_FALSE(SinAplicar(f, s));
+    f.txtNotas = "otras";
+    txtNotas_Change(f, s);
+    EXPECT_TRUE(SinAplicar(f, s));
+    f.cmbNroTablaPDRs.indice = 0;  // applying it loads the run and writes nothing
+    cmbNroTablaPDRs_Click(f, pp, s);
+    cmdAplicar(f, pp, s);
+    EXPECT_TRUE(SinAplicar(f, s));
+    CancelButton(f);
+    EXPECT_FALSE(SinAplicar(f, s));
+}
+
 // --- chart ---
 
 TEST_F(DialogoTablasPDRs, LaVistaEsElHietogramaDeLaFilaDelCursor)

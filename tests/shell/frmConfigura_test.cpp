@@ -787,5 +787,35 @@ TEST_F(Configura, CancelarNoTocaElArchivoYLoTomadoDeUnCampoQueda)
     EXPECT_EQ(s.N0Dur, 10);
 }
 
+TEST_F(Configura, SinAplicarEstaLoQueElArchivoNoTiene)
+{
+    EXPECT_FALSE(SinAplicar(f, s));
+    Dir1_Change(f, s, "/otro");  // a look around is no work
+    Dir1_Change(f, s, "/proy");
+    EXPECT_FALSE(SinAplicar(f, s));
+    Deja("txtN0Dur", &C::txtN0Dur, "90");  // in use, and not in the file
+    EXPECT_TRUE(SinAplicar(f, s));
+    cmdAplicar(f, s);
+    EXPECT_FALSE(SinAplicar(f, s));
+    s.frmConfigura.TextOpera = "Ana";
+    EXPECT_TRUE(SinAplicar(f, s));
+    disco.FallaDesde(1, model::NumeroFalla::AccesoRuta);
+    cmdAplicar(f, s);
+    EXPECT_TRUE(SinAplicar(f, s));
+    disco.DejaDeFallar();
+    AlCargarProyecto(f, s);  // still the same one
+    EXPECT_TRUE(SinAplicar(f, s));
+    s.NombreProyecto = "Otro";
+    model::leoConf(s);
+    AlCargarProyecto(f, s);
+    EXPECT_FALSE(SinAplicar(f, s));
+    s.frmConfigura.TextOpera = "Ana";
+    EXPECT_TRUE(SinAplicar(f, s));
+    CancelButton(f);
+    EXPECT_FALSE(SinAplicar(f, s));
+    Abre(f, s);
+    EXPECT_FALSE(SinAplicar(f, s));
+}
+
 }  // namespace
 }  // namespace shell

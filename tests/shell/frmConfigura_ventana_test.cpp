@@ -3,6 +3,7 @@
 
 #include <QCheckBox>
 #include <QDir>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -318,10 +319,56 @@ TEST_F(VentanaConfigura, EscCancelaSinRevisarNiEscribir)
     Escribe(C("txtN0Dur"), "5");
     QTest::keyClick(&C("txtN0Dur"), Qt::Key_Escape);
     QTest::qWait(50);
-    EXPECT_FALSE(v.isVisible());
+    EXPECT_FALSE(v.isVisible());  // the one question, whether to give it up, was answered so
     EXPECT_TRUE(Avisos().empty());
     EXPECT_EQ(s.N0Dur, 10);
     EXPECT_EQ(s.Disco.Lee(Dir() + "/Mio_Conf.vlm"), antes);
+}
+
+const Mensaje PreguntaSinAplicar{
+    "Lo que se escribió en esta ventana no se ha aplicado y se perdería. ¿Desea cerrarla igual ?",
+    "Cambios sin aplicar", model::Icono::Exclamacion};
+
+TEST_F(VentanaConfigura, EscPreguntaPorUnTituloEscritoHastaQueSeAplica)
+{
+    Abre();
+    EXPECT_EQ(DeQ(v.windowTitle()), "Configurar");
+    Ficha(1);
+    Escribe(C("TextCuenca"), "Arroyo Hondo");
+    EXPECT_TRUE(Espera([&] { return v.isWindowModified(); }));
+    EXPECT_EQ(DeQ(v.windowTitle()), "Configurar[*]");
+    mundo.anfitrion->respuestas = {false, false};
+    QTest::keyClick(v.windowHandle(), Qt::Key_Escape);
+    v.close();
+    EXPECT_TRUE(v.isVisible());
+    EXPECT_EQ(mundo.anfitrion->Preguntas(), (std::vector<Mensaje>(2, PreguntaSinAplicar)));
+    EXPECT_EQ(DeQ(C<QLineEdit>("TextCuenca").text()), "Arroyo Hondo");
+    Pulsa(C("cmdAplicar"));
+    EXPECT_TRUE(Espera([&] { return !v.isWindowModified(); }));
+    EXPECT_EQ(DeQ(v.windowTitle()), "Configurar");
+    QTest::keyClick(v.windowHandle(), Qt::Key_Escape);
+    EXPECT_FALSE(v.isVisible());
+    EXPECT_EQ(mundo.anfitrion->Preguntas().size(), 2U);
+}
+
+TEST_F(VentanaConfigura, CancelarNoPreguntaYUnAplicarFallidoSigueMarcado)
+{
+    Abre();
+    Ficha(2);
+    Pulsa(C("CheckR2"));
+    EXPECT_TRUE(Espera([&] { return v.isWindowModified(); }));
+    const QString archivo = Q(Dir() + "/Mio_Conf.vlm");
+    QFile::remove(archivo);
+    QDir().mkpath(archivo);  // a directory takes the file's place: it can't be written
+    Pulsa(C("cmdAplicar"));
+    QTest::qWait(50);
+    EXPECT_TRUE(v.isWindowModified());
+    mundo.anfitrion->sucesos.clear();
+    Pulsa(C("CancelButton"));
+    EXPECT_FALSE(v.isVisible());
+    EXPECT_EQ(mundo.anfitrion->Preguntas(), std::vector<Mensaje>{});
+    Abre();
+    EXPECT_EQ(DeQ(v.windowTitle()), "Configurar");
 }
 
 TEST_F(VentanaConfigura, UnProyectoNuevoSeGuardaAlAbrirYMuestraLaFichaDeImagen)
