@@ -194,11 +194,17 @@ void Grupo::Vuelve()
 {
     Grupo anterior(llamadas, carpeta);
     anterior.turno = turno;
+    const bool hayPuestas =
+        std::any_of(piezas.begin(), piezas.end(), [](const Pieza& pieza) { return pieza.puesta; });
+    // Those not replaced as well: whoever finds both lists finishes the one, and then goes all the way back.
     for (const Pieza& pieza : piezas)
-        if (pieza.puesta && pieza.viejo) anterior.Agrega(pieza.destino, *pieza.viejo);
+        if (hayPuestas && pieza.viejo) anterior.Agrega(pieza.destino, *pieza.viejo);
     if (!anterior.piezas.empty()) {
         try {
-            if (!anterior.Prepara()) return anterior.CumpleEnSitio();
+            if (!anterior.Prepara()) {
+                anterior.CumpleEnSitio();
+                return Limpia();
+            }
             anterior.EscribeLista();
         } catch (const Falla&) {
             anterior.Limpia();

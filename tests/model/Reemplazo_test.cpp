@@ -162,6 +162,30 @@ TEST_F(ReemplazoReal, LoQueNoSePuedeCompletarQuedaParaLaProximaVez)
     EXPECT_EQ(Queda(), caso.nuevo);
 }
 
+// The second file is refused, and the program killed while it takes the first one back.
+TEST_F(ReemplazoReal, MatadoMientrasVuelveQuedaTodoViejoOTodoNuevo)
+{
+    const Caso& caso = Casos[2];
+    int muertes = 0;
+    for (int n = 1; n < MuchasLlamadas; ++n) {
+        fallas::PonContenido(carpeta.Camino(), caso.viejo);
+        const Fin fin = fallas::EnOtroProceso([&] {
+            LlamadasDisco l = fallas::Llamadas({.llamada = n});
+            const auto cuenta = std::make_shared<int>(0);
+            l.Renombra = [cuenta, renombra = l.Renombra](const fs::path& de, const fs::path& a) {
+                return ++*cuenta == 2 ? std::make_error_code(std::errc::io_error) : renombra(de, a);
+            };
+            apoyo::NumeroDeFalla([&] { Reemplaza(caso.nuevo, l); });
+        });
+        ASSERT_NE(fin, Fin::Mal);
+        Recupera();
+        EXPECT_TRUE(Queda() == caso.viejo || Queda() == caso.nuevo) << "call " << n;
+        if (fin == Fin::Entero) break;
+        ++muertes;
+    }
+    EXPECT_GE(muertes, 10);
+}
+
 // A replacement that could neither end nor go back waits in the folder; what is saved after it is newer.
 TEST_F(ReemplazoReal, LoQueEsperaDeUnGuardadoNoTapaLoGuardadoDespues)
 {
