@@ -170,8 +170,15 @@ bool PareceLectura(const std::vector<std::string>& campos)
     return conMarca(comienzo) || conMarca(campos[primero + 1]);
 }
 
-char SeparadorDe(const std::vector<std::string>& renglones)
+/// What parts most readings of a text; nothing where it has none. A record has one among its first lines, so
+/// that a long text that is none costs little.
+std::optional<char> SeparadorDe(std::string_view texto)
 {
+    constexpr std::size_t Muestra = 10'000;
+    std::vector<std::string> renglones;
+    while (!texto.empty() && renglones.size() < Muestra)
+        if (const auto renglon = SacaRenglon(texto); !EsVacio(renglon))
+            renglones.push_back(ConMeridianoPegado(renglon));
     const auto cuenta = [&](char separador) {
         return std::count_if(renglones.begin(), renglones.end(), [separador](const std::string& renglon) {
             return Lectura(CamposDeRenglon(renglon, separador)).has_value();
@@ -180,6 +187,7 @@ char SeparadorDe(const std::vector<std::string>& renglones)
     std::pair mejor{Separadores.front(), cuenta(Separadores.front())};
     for (const char separador : Separadores)
         if (const auto n = cuenta(separador); n > mejor.second) mejor = {separador, n};
+    if (mejor.second == 0) return {};
     return mejor.first;
 }
 
@@ -197,21 +205,21 @@ RegistroLluvia LeeRegistroLluvia(std::string_view bytes)
 {
     constexpr std::size_t LargoMostrado = 80;
     const std::string texto = TextoDeBytes(bytes);
-    std::vector<std::string> renglones;
-    for (const std::string_view renglon : Renglones(texto))
-        renglones.push_back(ConMeridianoPegado(renglon));
-    const char separador = SeparadorDe(renglones);
+    const auto separador = SeparadorDe(texto);
+    if (!separador) return {{}, {}, std::string(SinLecturas)};
 
     RegistroLluvia registro;
     int nro = 0;
-    for (const std::string& renglon : renglones) {
+    for (std::string_view resto = texto; !resto.empty();) {
+        const std::string_view leido = SacaRenglon(resto);
         ++nro;
-        if (renglon.find_first_not_of(" \t,;\"") == std::string::npos) continue;
+        if (EsVacio(leido)) continue;
+        const std::string renglon = ConMeridianoPegado(leido);
         const auto duda = [&](std::string_view hecho) {
             registro.dudosos.push_back(
                 {nro, model::PrimerosCaracteres(renglon, LargoMostrado), std::string(hecho)});
         };
-        const auto campos = CamposDeRenglon(renglon, separador);
+        const auto campos = CamposDeRenglon(renglon, *separador);
         const auto lectura = Lectura(campos);
         if (!lectura) {
             if (!registro.lecturas.empty() || PareceLectura(campos)) duda(SinFechaOLamina);
@@ -225,7 +233,6 @@ RegistroLluvia LeeRegistroLluvia(std::string_view bytes)
         if (mismaHora) duda(repetido ? Repetido : MismaHora);
         if (!repetido) registro.lecturas.push_back(*lectura);
     }
-    if (registro.lecturas.empty()) registro.motivo = SinLecturas;
     return registro;
 }
 

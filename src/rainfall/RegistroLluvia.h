@@ -10,10 +10,10 @@
 //
 // The record is text with a reading per line: date and time, in one field or two, and the depth fallen since
 // the reading before; a number of the reading may stand ahead. Fields are parted by semicolons, tabs, commas
-// or blanks, whichever makes most readings of the text, and may stand in double quotes. Dates are dd/mm/yyyy,
-// dd/mm/yy (1950 to 2049) or yyyy-mm-dd, times hh:mm or hh:mm:ss, with AM or PM; fractions of a second and a
-// time zone are passed over. What stands ahead of the first reading is a heading; further fields and empty
-// lines are passed over.
+// or blanks, whichever makes most readings of the first 10,000 lines with text, and may stand in double
+// quotes. Dates are dd/mm/yyyy, dd/mm/yy (1950 to 2049) or yyyy-mm-dd, times hh:mm or hh:mm:ss, with AM or
+// PM; fractions of a second and a time zone are passed over. What stands ahead of the first reading is a
+// heading; further fields and empty lines are passed over.
 namespace rainfall {
 
 struct LecturaLluvia {

@@ -114,16 +114,18 @@ std::string TextoDeBytes(std::string_view bytes)
     return EsUtf8(bytes) ? std::string(bytes) : model::DeWindows1252(bytes);
 }
 
-std::vector<std::string_view> Renglones(std::string_view texto)
+std::string_view SacaRenglon(std::string_view& texto)
 {
-    std::vector<std::string_view> renglones;
-    while (!texto.empty()) {
-        const std::size_t fin = std::min(texto.find_first_of("\r\n"), texto.size());
-        renglones.push_back(texto.substr(0, fin));
-        const bool esDoble = texto.substr(fin).starts_with("\r\n");
-        texto.remove_prefix(std::min(fin + (esDoble ? 2 : 1), texto.size()));
-    }
-    return renglones;
+    const std::size_t fin = std::min(texto.find_first_of("\r\n"), texto.size());
+    const std::string_view renglon = texto.substr(0, fin);
+    const bool esDoble = texto.substr(fin).starts_with("\r\n");
+    texto.remove_prefix(std::min(fin + (esDoble ? 2 : 1), texto.size()));
+    return renglon;
+}
+
+bool EsVacio(std::string_view renglon)
+{
+    return renglon.find_first_not_of(" \t,;\"") == std::string_view::npos;
 }
 
 std::string ConMeridianoPegado(std::string_view renglon)

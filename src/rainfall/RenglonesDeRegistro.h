@@ -12,8 +12,11 @@ namespace rainfall {
 /// "?".
 std::string TextoDeBytes(std::string_view bytes);
 
-/// Lines of a text; LF, CR LF and CR end one.
-std::vector<std::string_view> Renglones(std::string_view texto);
+/// Takes the first line off a text that isn't empty; LF, CR LF and CR end one.
+std::string_view SacaRenglon(std::string_view& texto);
+
+/// Whether a line holds nothing but blanks, separators and quotes.
+bool EsVacio(std::string_view renglon);
 
 /// A line with every "p. m." and its like, however it is written, joined as "pm" to the time ahead of it, and
 /// with plain blanks.

@@ -212,6 +212,24 @@ TEST(RegistroDeLluvia, LaPrimeraLecturaDannadaNoPasaPorEncabezado)
     }
 }
 
+// What is no record is known by its first 10,000 lines with text; empty ones count for their numbers alone.
+TEST(RegistroDeLluvia, UnTextoLargoSeJuzgaPorSuComienzo)
+{
+    const std::string lectura = "05/03/2024;10:00;1.5\n", malo = "05/03/2024;10:10;x\n";
+    std::string titulos;
+    for (int i = 1; i < 10000; ++i)
+        titulos += "Estacion\n";
+    const auto conTitulos = LeeRegistroLluvia(titulos + lectura);
+    EXPECT_EQ(conTitulos.motivo, "");
+    EXPECT_EQ(conTitulos.lecturas.size(), 1U);
+    EXPECT_EQ(LeeRegistroLluvia(titulos + "Otra\n" + lectura).motivo, SinLecturas);
+
+    const auto conVacios = LeeRegistroLluvia(std::string(200000, '\n') + lectura + malo);
+    EXPECT_EQ(conVacios.lecturas.size(), 1U);
+    ASSERT_EQ(conVacios.dudosos.size(), 1U);
+    EXPECT_EQ(conVacios.dudosos[0].nro, 200002);
+}
+
 TEST(RegistroDeLluvia, UnArchivoDeTextoCualquieraNoTieneLecturas)
 {
     EXPECT_EQ(LeeRegistroLluvia(std::string(100000, '"')).motivo,
