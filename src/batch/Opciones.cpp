@@ -34,11 +34,12 @@ CONF es el archivo <Proyecto>_Conf.vlm de un proyecto.
   --tabla K               tabla P-D-R de la serie, 0 a 3 (0)
   --pizarra               el texto de la Pizarra va a la salida estándar
   --responde si|no        respuesta a toda pregunta (si)
-  --hilos N               hilos de una serie; 0: todos los núcleos (0)
+  --hilos N               hilos de una serie, hasta 1024; 0: todos los núcleos (0)
   --resultados ARCHIVO    resultados en CSV
   --ayuda, --help         este texto
 
-Estado de salida: 0 la corrida llegó a su fin; 1 un control o la entrada dañada la terminó;
+Estado de salida: 0 la corrida llegó a su fin; 1 un control o la entrada dañada la terminó, o no se pudo
+                  escribir un resultado;
                   2 la línea de órdenes es errónea; 3 una respuesta No o un mensaje fatal terminó el programa.
 )";
 
