@@ -17,11 +17,11 @@ namespace {
 
 /// A form of so many fields, each 40 pixels high, above its two buttons.
 struct FormaAlta : Formulario {
-    FormaAlta(Entorno& alrededor, int campos, QWidget* padre = nullptr)
+    FormaAlta(Entorno& alrededor, int cuantos, QWidget* padre = nullptr)
         : Formulario(alrededor, "FormaAlta", padre)
     {
         auto* const pila = new QVBoxLayout(this);
-        for (int i = 0; i < campos; ++i) {
+        for (int i = 0; i < cuantos; ++i) {
             auto* const campo = new QLineEdit;
             campo->setObjectName(QStringLiteral("campo_%1").arg(i));
             campo->setMinimumHeight(40);
