@@ -411,6 +411,7 @@ bool cmdAplicar(Siro& s)
     if (deOtro) AnotaGuardado(s, ruta);  // what is there has been asked about
     if (!PuedeGuardar(s, {ruta})) return false;
     GuardaConf(s);
+    if (!s.NombreProyecto.empty() && s.Vigilancia.reclamado != ruta) ReclamaProyecto(s);
     return true;
 }
 

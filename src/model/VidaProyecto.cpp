@@ -171,6 +171,7 @@ void CopiaProyecto(Siro& s, const std::string& viejo, const std::string& nuevo)
     });
     espera.Cumple();
     s.ProyectoNuevo = false;
+    ReclamaProyecto(s);
     AvisaConfGuardada(s, conf);
     AlGuardarse(s, red);
 }

@@ -168,6 +168,22 @@ TEST_F(DosProgramas, ElNombreDeAdentroEsElQueSeReclama)
               (std::vector<std::string>{"/proy/Copia_Conf.vlm", "/proy/Arroyo_Conf.vlm"}));
 }
 
+TEST_F(DosProgramas, ElProyectoQuePasaAOtraCarpetaSeReclamaAlli)
+{
+    disco.PonDirectorio("/fotos");
+    s.frmConfigura.Dir1 = "/fotos";
+    EXPECT_TRUE(cmdAplicar(s));
+    EXPECT_EQ(anfitrion->reclamados.back(), "/fotos/Arroyo_Conf.vlm");
+}
+
+TEST_F(DosProgramas, LaCopiaConOtroNombreSeReclamaEnLugarDelOriginal)
+{
+    anfitrion->textos = {"Copia"};
+    mnuGuardarProyectoComo(s);
+    EXPECT_TRUE(disco.Esta("/proy/Copia_Conf.vlm"));
+    EXPECT_EQ(anfitrion->reclamados.back(), "/proy/Copia_Conf.vlm");
+}
+
 TEST_F(DosProgramas, SinVentanasNadaSeReclamaNiSePregunta)
 {
     s.Vigilancia = {};
