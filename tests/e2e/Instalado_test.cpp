@@ -102,7 +102,9 @@ TEST_P(Instalado, SiroLoteHallaSusTablasYDaLoMismo)
     EXPECT_TRUE(MismoTexto(BytesDeArchivo(raiz + "/aqui.csv"), BytesDeArchivo(raiz + "/alla.csv")));
     EXPECT_TRUE(EstaLoEntregadoEn(propio));
     EXPECT_TRUE(fs::exists(propio + "/SalePizarra1_tem.txt"));
-    if (GetParam().delUsuario) EXPECT_EQ(Programas(), instalados) << "nothing is copied there, root or not";
+    if (GetParam().delUsuario) {
+        EXPECT_EQ(Programas(), instalados) << "nothing is copied there, root or not";
+    }
 }
 
 #ifdef SIRO_ESCRITORIO

@@ -181,11 +181,11 @@ TEST_F(ConCandado, ConElProyectoEnOtroProgramaSeAvisaYSePreguntaAntesDeGuardar)
     ASSERT_EQ(anfitrion->Avisos().size(), 1U);
     EXPECT_EQ(anfitrion->Avisos()[0].titulo, "Proyecto abierto dos veces");
     EXPECT_NE(anfitrion->Avisos()[0].texto.find(DeQ(QSysInfo::machineHostName())), std::string::npos);
-    const std::string antes = escritorio.s.Disco.Lee(instalacion.Quelmar());
+    const std::string guardada = escritorio.s.Disco.Lee(instalacion.Quelmar());
     anfitrion->respuestas = {false};
     escritorio.s.frmConfigura.TextProyecto = "otro título";
     EXPECT_FALSE(model::cmdAplicar(escritorio.s));
-    EXPECT_EQ(escritorio.s.Disco.Lee(instalacion.Quelmar()), antes);
+    EXPECT_EQ(escritorio.s.Disco.Lee(instalacion.Quelmar()), guardada);
     EXPECT_EQ(anfitrion->Preguntas().size(), 1U);
     primero.Toma("");
     EXPECT_TRUE(model::cmdAplicar(escritorio.s));

@@ -7,6 +7,7 @@
 #include <future>
 #include <stop_token>
 #include <system_error>
+#include <thread>
 #include <utility>
 
 #include "forms/Textos_ventana.h"
@@ -43,23 +44,24 @@ bool Espera(forms::Entorno& entorno, const std::string& ruta, const std::future<
 
 }  // namespace
 
-ImagenLeida CargadorDeImagenes::Lee(forms::Entorno& entorno, const std::string& ruta,
-                                    std::chrono::milliseconds plazo)
+ImagenLeida CargaImagen(forms::Entorno& entorno, const std::string& ruta, std::chrono::milliseconds plazo)
 {
     const Reloj::time_point hasta = Reloj::now() + plazo;
     std::packaged_task<ImagenLeida(std::stop_token)> tarea([ruta](const std::stop_token& alto) {
         return LeeImagen(ruta, [alto] { return !alto.stop_requested(); });
     });
     std::future<ImagenLeida> leida = tarea.get_future();
+    std::jthread hilo;
     try {
         hilo = std::jthread(std::move(tarea));
     } catch (const std::system_error&) {  // no thread to be had: here, then, and no longer than the time
         return LeeImagen(ruta, [hasta] { return Reloj::now() < hasta; });
     }
-    if (Lista(leida, std::min<Reloj::duration>(Silencio, plazo))) return leida.get();
+    if (Lista(leida, std::min<Reloj::duration>(SilencioDeCarga, plazo))) return leida.get();
     const bool sigue = Espera(entorno, ruta, leida, hasta);
     if (sigue && Lista(leida)) return leida.get();
     hilo.request_stop();
+    hilo.detach();  // one record alone may take minutes: nobody waits for it
     return {{}, sigue ? CargaDeImagen::Excesiva : CargaDeImagen::Cancelada};
 }
 

@@ -3,25 +3,19 @@
 
 #include <chrono>
 #include <string>
-#include <thread>
 
 #include "editor/lienzo/Imagen_ventana.h"
 #include "forms/Entorno_ventana.h"
 
 namespace editor {
 
-/// Reads images on a thread of its own, so that a drawing of thousands of records leaves the windows alive.
-class CargadorDeImagenes {
-  public:
-    static constexpr std::chrono::milliseconds Silencio{300};  ///< before a box offers to cancel
-    static constexpr std::chrono::seconds Plazo{20};           ///< after which a drawing is given up
+inline constexpr std::chrono::milliseconds SilencioDeCarga{300};  ///< before a box offers to cancel
+inline constexpr std::chrono::seconds PlazoDeCarga{20};           ///< after which a drawing is given up
 
-    /// Returns when the image is there, the user has cancelled, or `plazo` is over.
-    ImagenLeida Lee(forms::Entorno& entorno, const std::string& ruta,
-                    std::chrono::milliseconds plazo = Plazo);
-
-  private:
-    std::jthread hilo{};  ///< of the last image; one that was given up ends with the record that it plays
-};
+/// Reads an image on a thread of its own, so that a drawing of thousands of records leaves the windows alive.
+/// Returns when the image is there, the user has cancelled, or `plazo` is over; a thread that was given up
+/// ends by itself behind the record that it plays.
+ImagenLeida CargaImagen(forms::Entorno& entorno, const std::string& ruta,
+                        std::chrono::milliseconds plazo = PlazoDeCarga);
 
 }  // namespace editor

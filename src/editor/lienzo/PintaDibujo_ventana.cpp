@@ -183,7 +183,7 @@ struct PintorDibujo::Mapa {
 ImagenCargada PintorDibujo::CargaFondo(forms::Entorno& entorno, const std::string& ruta)
 {
     if (ruta != rutaFondo || fondo.isNull()) {
-        const ImagenLeida leida = cargador.Lee(entorno, ruta);
+        const ImagenLeida leida = CargaImagen(entorno, ruta);
         fondo = QPixmap::fromImage(leida.imagen);
         rutaFondo = ruta;
         finFondo = leida.fin;

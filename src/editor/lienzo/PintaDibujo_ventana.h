@@ -32,7 +32,6 @@ class PintorDibujo {
     void PintaFondo(QPainter& pintor, const QRectF& donde) const;
     void PintaIcono(QPainter& pintor, const Primitiva& p, const QRectF& caja);
 
-    CargadorDeImagenes cargador{};
     QPixmap fondo{};
     std::string rutaFondo{};
     CargaDeImagen finFondo = CargaDeImagen::Ilegible;

@@ -122,7 +122,6 @@ std::string DibujoLento()
 
 struct CargaLenta : ImagenDePrueba {
     apoyo::Mundo mundo{};
-    CargadorDeImagenes cargador{};
     const std::string ruta = Archivo("lento.wmf", DibujoLento());
 };
 
@@ -138,7 +137,7 @@ TEST_F(CargaLenta, ElUsuarioLaCancelaYLasVentanasVivenMientras)
         });
         reloj->start(10);
     });
-    const ImagenLeida leida = cargador.Lee(mundo.entorno, ruta);
+    const ImagenLeida leida = CargaImagen(mundo.entorno, ruta);
     EXPECT_EQ(leida.fin, CargaDeImagen::Cancelada);
     EXPECT_TRUE(leida.imagen.isNull());
     EXPECT_EQ(latidos, 10);
@@ -148,7 +147,7 @@ TEST_F(CargaLenta, PasadoSuPlazoSeAbandona)
 {
     apoyo::Usuario usuario;
     usuario.Hace([](QWidget&) {});
-    const ImagenLeida leida = cargador.Lee(mundo.entorno, ruta, std::chrono::milliseconds(600));
+    const ImagenLeida leida = CargaImagen(mundo.entorno, ruta, std::chrono::milliseconds(600));
     EXPECT_EQ(leida.fin, CargaDeImagen::Excesiva);
     EXPECT_TRUE(leida.imagen.isNull());
 }
@@ -156,7 +155,7 @@ TEST_F(CargaLenta, PasadoSuPlazoSeAbandona)
 TEST_F(CargaLenta, UnaCorrienteNoMuestraNada)
 {
     const ImagenLeida leida =
-        cargador.Lee(mundo.entorno, Archivo("mapa.wmf", DibujoDeMuestra().Bytes(100, 100, 48)));
+        CargaImagen(mundo.entorno, Archivo("mapa.wmf", DibujoDeMuestra().Bytes(100, 100, 48)));
     EXPECT_EQ(leida.fin, CargaDeImagen::Entera);
     EXPECT_EQ(leida.imagen.size(), QSize(200, 200));
 }
