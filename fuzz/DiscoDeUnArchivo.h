@@ -19,7 +19,9 @@ struct DiscoDeUnArchivo {
         model::Disco disco;
         disco.Lee = [b](const std::string&) { return *b; };
         disco.Escribe = [b](const std::string&, std::string_view nuevos) { *b = nuevos; };
-        disco.Reemplaza = [b](const std::vector<model::CambioArchivo>& cambios) { *b = cambios.back().bytes; };
+        disco.Reemplaza = [b](const std::vector<model::CambioArchivo>& cambios) {
+            *b = cambios.back().bytes;
+        };
         disco.Recupera = [](const std::string&) { return model::Recuperacion{}; };
         disco.Agrega = [b](const std::string&, std::string_view nuevos) { b->append(nuevos); };
         disco.HayDirectorio = [](const std::string&) { return true; };

@@ -123,7 +123,8 @@ std::error_code Asienta(const Camino& directorio)
 
 LlamadasDisco LlamadasDelSistema()
 {
-    // Where the user's shell limits the size of files, a write beyond must be refused and not end the program.
+    // Where the user's shell limits the size of files, a write beyond must be refused and not end the
+    // program.
     static_cast<void>(signal(SIGXFSZ, SIG_IGN));
     const auto deLlamada = [](int salida) { return salida == 0 ? Error(0) : Error(errno); };
     LlamadasDisco llamadas;
