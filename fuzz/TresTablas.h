@@ -19,13 +19,13 @@ void PruebaTabla(const std::string& clave, const std::string& bytes, Lee lee, Gu
     model::Siro s;
     s.Disco = disco.Disco();
     s.Anfitrion.Avisa = [&](const model::Mensaje&) { ++avisos; };
-    s.NombreProyecto = "A";
-    s.DirProyecto = "/proy";
+    s.Proyecto.NombreProyecto = "A";
+    s.Proyecto.DirProyecto = "/proy";
     std::int16_t n = 0;
     for (const char* const nombre : {"a", "b", "*a"}) {
         ++n;
-        s.ColRepresas.Agrega({.NombreRepresa = nombre, .numRepresa = n});
-        s.ColLagos.Agrega({.NombreLAGO = nombre, .numLAGO = n});
+        s.Red.ColRepresas.Agrega({.NombreRepresa = nombre, .numRepresa = n});
+        s.Red.ColLagos.Agrega({.NombreLAGO = nombre, .numLAGO = n});
     }
     lee(s);
     if (avisos > 0) return;

@@ -33,20 +33,21 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t lar
     model::Siro s;
     s.Disco = disco.Disco();
     s.Anfitrion.Avisa = [&](const model::Mensaje&) { ++avisos; };
-    s.NombreProyecto = "A";
-    s.DirProyecto = "/proy";
+    s.Proyecto.NombreProyecto = "A";
+    s.Proyecto.DirProyecto = "/proy";
     model::leoConf(s);
     Exige(avisos <= 1);
-    Exige(s.ListaRec.size() == static_cast<std::size_t>(s.NroRec) + 1);
-    Exige(s.ListaDur.size() == static_cast<std::size_t>(s.NroDur) + 1);
+    Exige(s.Configuracion.ListaRec.size() == static_cast<std::size_t>(s.Configuracion.NroRec) + 1);
+    Exige(s.Configuracion.ListaDur.size() == static_cast<std::size_t>(s.Configuracion.NroDur) + 1);
     const bool mudado =
-        avisos == 1 && s.NombreProyecto == "A" && (*disco.archivos)["Conf.vlm"].size() != largo;
-    if ((avisos > 0 && !mudado) || s.NombreProyecto.empty() || std::fabs(s.EscalaImagen) > EscalaSegura)
+        avisos == 1 && s.Proyecto.NombreProyecto == "A" && (*disco.archivos)["Conf.vlm"].size() != largo;
+    if ((avisos > 0 && !mudado) || s.Proyecto.NombreProyecto.empty() ||
+        std::fabs(s.Configuracion.EscalaImagen) > EscalaSegura)
         return 0;
 
     // The first round may lose what follows a double quote inside a text.
     OtraVuelta(s, disco);
-    if (s.NombreProyecto.empty()) return 0;
+    if (s.Proyecto.NombreProyecto.empty()) return 0;
     const std::string segunda = OtraVuelta(s, disco);
     Exige(OtraVuelta(s, disco) == segunda);
     return 0;

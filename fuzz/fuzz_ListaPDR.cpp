@@ -45,7 +45,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t lar
     for (const std::string& item : cmbPDR)
         if (!Vuelve(item)) return 0;
     model::GuardaListaPDR(s, cmbPDR, {"60", "30", "10"});
-    Exige(s.PpTormenta == 60 && s.DurTormenta == 30 && s.RecTormenta == 10);
+    Exige(s.Tormenta.PpTormenta == 60 && s.Tormenta.DurTormenta == 30 && s.Tormenta.RecTormenta == 10);
     std::vector<std::string> otra{"vieja"};
     model::leeListaPpDurRec(s, otra);
     Exige(otra == cmbPDR);

@@ -17,22 +17,23 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t lar
     s.Disco = archivo.Disco();
     model::TormentaReal leida;
     model::LeePpReal(s, leida);
-    Exige(s.NroPpReal >= 0 && s.NroPpReal <= s.PpReal.Tope());
-    if (s.NroPpReal == 0) return 0;
-    Exige(s.DurTormenta == s.NroPpReal * leida.PasoPpReal);
+    Exige(s.Tormenta.NroPpReal >= 0 && s.Tormenta.NroPpReal <= s.Tormenta.PpReal.Tope());
+    if (s.Tormenta.NroPpReal == 0) return 0;
+    Exige(s.Tormenta.DurTormenta == s.Tormenta.NroPpReal * leida.PasoPpReal);
 
     // A double quote inside a text isn't escaped: such a file isn't expected to come back.
     for (const std::string* texto :
          {&leida.Notas, &leida.txtDateI, &leida.txtTimeI, &leida.txtDateF, &leida.txtTimeF})
         if (texto->find('"') != std::string::npos) return 0;
     // Seven digits are written: a depth at the end of the type could come back beyond it in the sum.
-    for (int j = 1; j <= s.NroPpReal; ++j)
-        if (std::fabs(s.PpReal(j)) > 1e30F) return 0;
+    for (int j = 1; j <= s.Tormenta.NroPpReal; ++j)
+        if (std::fabs(s.Tormenta.PpReal(j)) > 1e30F) return 0;
     model::Siro otro = s;
     model::TormentaReal escrita = leida;
     model::GuardaPpReal(otro, escrita);
     model::TormentaReal vuelta;
     model::LeePpReal(otro, vuelta);
-    Exige(vuelta == leida && otro.NroPpReal == s.NroPpReal && otro.DurTormenta == s.DurTormenta);
+    Exige(vuelta == leida && otro.Tormenta.NroPpReal == s.Tormenta.NroPpReal &&
+          otro.Tormenta.DurTormenta == s.Tormenta.DurTormenta);
     return 0;
 }

@@ -16,20 +16,21 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t lar
     const std::string texto = *archivo.bytes;
     model::Siro s;
     s.Disco = archivo.Disco();
-    s.DirEjecutable = "siro";
+    s.Proyecto.DirEjecutable = "siro";
     model::LimpiaProyecto(s);
-    Exige(!s.DirProyecto.empty() && s.DirTrabajo == "siro");
-    if ((s.DirProyecto + s.NombreProyecto).find('"') == std::string::npos) {
+    Exige(!s.Proyecto.DirProyecto.empty() && s.Proyecto.DirTrabajo == "siro");
+    if ((s.Proyecto.DirProyecto + s.Proyecto.NombreProyecto).find('"') == std::string::npos) {
         model::Siro otro = s;
         model::LeePuntero(otro);
-        Exige(otro.DirProyecto == s.DirProyecto && otro.NombreProyecto == s.NombreProyecto);
+        Exige(otro.Proyecto.DirProyecto == s.Proyecto.DirProyecto &&
+              otro.Proyecto.NombreProyecto == s.Proyecto.NombreProyecto);
     }
 
     if (model::NombreProyectoValido(texto)) Exige(texto.find_first_of(" _/\\.") == std::string::npos);
     if (model::TomaRutaProyecto(s, texto)) {
-        Exige(texto.ends_with(s.NombreProyecto + "_Conf.vlm"));
+        Exige(texto.ends_with(s.Proyecto.NombreProyecto + "_Conf.vlm"));
     } else {
-        Exige(s.NombreProyecto.empty() && s.ArchivoTemp.empty());
+        Exige(s.Proyecto.NombreProyecto.empty() && s.Proyecto.ArchivoTemp.empty());
     }
     return 0;
 }

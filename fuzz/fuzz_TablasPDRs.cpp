@@ -14,23 +14,29 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t lar
     archivo.bytes->assign(datos, datos + largo);
     model::Siro s;
     s.Disco = archivo.Disco();
-    s.TablaPDR = 2;
+    s.Tormenta.TablaPDR = 2;
     model::LeeTablaPDRs(s);
-    Exige(s.NroSeriePDR >= 0);
-    bool entero = s.NroSeriePDR > 0;
+    Exige(s.Serie.NroSeriePDR >= 0);
+    bool entero = s.Serie.NroSeriePDR > 0;
     for (std::size_t k = 1; k <= 3; ++k)
-        Exige(s.NroFilasTabla[k] <= 0 || s.NroFilasTabla[k] < s.TablasP.TopeColumna());
-    for (const std::string& notas : s.NotasPDR)
+        Exige(s.TablasDeLluvia.NroFilasTabla[k] <= 0 ||
+              s.TablasDeLluvia.NroFilasTabla[k] < s.TablasDeLluvia.TablasP.TopeColumna());
+    for (const std::string& notas : s.TablasDeLluvia.NotasPDR)
         entero = entero && notas.find('"') == std::string::npos;
     if (!entero) return 0;
-    Exige(s.NroSeriePDR == s.NroFilasTabla[2] && s.SerieP.Tope() == s.NroSeriePDR);
-    for (int j = 1; j <= s.NroSeriePDR; ++j)
-        Exige(s.SerieD(j) == s.TablasD(2, j) && s.SerieR(j) == s.TablasR(2, j));
+    Exige(s.Serie.NroSeriePDR == s.TablasDeLluvia.NroFilasTabla[2] &&
+          s.Serie.SerieP.Tope() == s.Serie.NroSeriePDR);
+    for (int j = 1; j <= s.Serie.NroSeriePDR; ++j)
+        Exige(s.Serie.SerieD(j) == s.TablasDeLluvia.TablasD(2, j) &&
+              s.Serie.SerieR(j) == s.TablasDeLluvia.TablasR(2, j));
 
     model::Siro otro = s;
     model::GuardaTablaPDRs(otro);
     model::LeeTablaPDRs(otro);
-    Exige(otro.NroFilasTabla == s.NroFilasTabla && otro.NotasPDR == s.NotasPDR);
-    Exige(otro.TablasP == s.TablasP && otro.TablasD == s.TablasD && otro.TablasR == s.TablasR);
+    Exige(otro.TablasDeLluvia.NroFilasTabla == s.TablasDeLluvia.NroFilasTabla &&
+          otro.TablasDeLluvia.NotasPDR == s.TablasDeLluvia.NotasPDR);
+    Exige(otro.TablasDeLluvia.TablasP == s.TablasDeLluvia.TablasP &&
+          otro.TablasDeLluvia.TablasD == s.TablasDeLluvia.TablasD &&
+          otro.TablasDeLluvia.TablasR == s.TablasDeLluvia.TablasR);
     return 0;
 }

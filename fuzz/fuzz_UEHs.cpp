@@ -37,14 +37,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t lar
     model::Siro s;
     s.Disco = disco.Disco();
     s.Anfitrion.Avisa = [&](const model::Mensaje&) { ++avisos; };
-    s.NombreProyecto = "A";
-    s.DirProyecto = "/proy";
+    s.Proyecto.NombreProyecto = "A";
+    s.Proyecto.DirProyecto = "/proy";
     model::LeeUEHs(s);
-    Exige(s.ColUEHs.Cuenta() <= 32767 && s.ColCauces.Cuenta() <= 32767);
-    if (s.XVertice.TopeColumna() > VerticesDeSobra) return 0;
+    Exige(s.Red.ColUEHs.Cuenta() <= 32767 && s.Red.ColCauces.Cuenta() <= 32767);
+    if (s.Red.XVertice.TopeColumna() > VerticesDeSobra) return 0;
     if (avisos > 0) {
         // A save of what was read in part may fail in many places, none of them with harm.
-        if (s.NroCauces <= model::MaxCauces) OtraVuelta(s, disco);
+        if (s.Red.NroCauces <= model::MaxCauces) OtraVuelta(s, disco);
         return 0;
     }
     // The first round may lose what follows a double quote inside a text.

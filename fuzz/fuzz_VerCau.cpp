@@ -32,18 +32,18 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t lar
     model::Siro s;
     s.Disco = disco.Disco();
     s.Anfitrion.Avisa = [&](const model::Mensaje&) { ++avisos; };
-    s.NombreProyecto = "A";
-    s.DirProyecto = "/proy";
+    s.Proyecto.NombreProyecto = "A";
+    s.Proyecto.DirProyecto = "/proy";
     model::LeeUEHs(s);
     Exige(avisos <= 13 + 1);  // a box for each pair, and that of the end
-    Exige(s.NroCauces == 3 && s.XVertice.UltimaFila() == 70 && s.XVertice.TopeColumna() <= 9);
+    Exige(s.Red.NroCauces == 3 && s.Red.XVertice.UltimaFila() == 70 && s.Red.XVertice.TopeColumna() <= 9);
     if (avisos > 0) return 0;
 
     // Seven digits tell a number; from then on it is the same.
     model::mnu_btn_toolbarGuardaUEHs(s);
-    const auto x = s.XVertice;
-    const auto y = s.YVertice;
+    const auto x = s.Red.XVertice;
+    const auto y = s.Red.YVertice;
     model::mnu_btn_toolbarGuardaUEHs(s);
-    Exige(s.XVertice == x && s.YVertice == y);
+    Exige(s.Red.XVertice == x && s.Red.YVertice == y);
     return 0;
 }

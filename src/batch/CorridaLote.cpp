@@ -53,18 +53,18 @@ void LeeTormentaReal(Siro& s, const std::string& nombre)
     model::TormentaReal tormenta;
     tormenta.nombre = nombre;
     model::LeePpReal(s, tormenta);
-    s.PasoPp = tormenta.PasoPpReal;
-    if (s.NroPpReal != 0) return;
-    s.PpTormenta = 0;
-    s.DurTormenta = 0;
+    s.Pasos.PasoPp = tormenta.PasoPpReal;
+    if (s.Tormenta.NroPpReal != 0) return;
+    s.Tormenta.PpTormenta = 0;
+    s.Tormenta.DurTormenta = 0;
 }
 
 void CargaPpUEH(Siro& s, const std::vector<float>& laminas)
 {
     for (std::size_t i = 0; i < laminas.size(); ++i)
-        s.PpUEH(static_cast<int>(i) + 1) = laminas[i];
+        s.Tormenta.PpUEH(static_cast<int>(i) + 1) = laminas[i];
     const auto primera = std::find_if(laminas.begin(), laminas.end(), [](float p) { return p > 0; });
-    if (primera != laminas.end()) s.PpTormenta = *primera;
+    if (primera != laminas.end()) s.Tormenta.PpTormenta = *primera;
 }
 
 bool SeAbre(const model::Disco& disco, const std::string& ruta)
@@ -106,7 +106,7 @@ bool Muestra(const Salidas& salidas, const std::function<void()>& escribe)
 bool CorreOrden(Siro& s, const Opciones& o)
 {
     AbreProyecto(s, Absoluta(o.conf));
-    if (s.NombreProyecto.empty() || s.DirProyecto.empty()) return false;
+    if (s.Proyecto.NombreProyecto.empty() || s.Proyecto.DirProyecto.empty()) return false;
     FijaTormenta(s, o);
     if (o.orden == Opciones::Orden::Serie)
         return engine::CorreSeriePDR(s, o.hilos) == engine::FinSerie::Completa;
@@ -132,7 +132,7 @@ bool GuardaResultados(Siro& s, const Opciones& o)
 void AbreProyecto(Siro& s, const std::string& conf)
 {
     model::TomaRutaProyecto(s, conf);
-    model::RecuperaGuardado(s, s.DirProyecto);
+    model::RecuperaGuardado(s, s.Proyecto.DirProyecto);
     s.Anfitrion.carga_lbl_proyecto();
     model::leoConf(s);
 }
@@ -140,32 +140,32 @@ void AbreProyecto(Siro& s, const std::string& conf)
 void FijaTormenta(Siro& s, const Opciones& o)
 {
     const auto forma = o.orden == Opciones::Orden::Serie ? FormaLluvia::SeriePDR : FormaLluvia{o.forma};
-    s.FormaPp = static_cast<std::int16_t>(forma);
-    s.PpTormenta = o.pp;
-    s.DurTormenta = o.dur;
-    s.RecTormenta = o.rec;
-    s.DistriPp = o.distribucion;
-    s.PasoPp = o.pasoPp;
-    s.PasoQ = o.pasoQ;
+    s.Tormenta.FormaPp = static_cast<std::int16_t>(forma);
+    s.Tormenta.PpTormenta = o.pp;
+    s.Tormenta.DurTormenta = o.dur;
+    s.Tormenta.RecTormenta = o.rec;
+    s.Tormenta.DistriPp = o.distribucion;
+    s.Pasos.PasoPp = o.pasoPp;
+    s.Pasos.PasoQ = o.pasoQ;
     switch (forma) {
     case FormaLluvia::SeriePDR:
-        s.TablaPDR = o.tabla;
+        s.Tormenta.TablaPDR = o.tabla;
         model::LeeTablaPDRs(s);
         break;
     case FormaLluvia::Real:
-        s.DistriPp = DistriPpReal;
+        s.Tormenta.DistriPp = DistriPpReal;
         LeeTormentaReal(s, o.tormenta);
         break;
     case FormaLluvia::PorUEH:
-        s.DistriPp = 0;
+        s.Tormenta.DistriPp = 0;
         CargaPpUEH(s, o.ppUEH);
         [[fallthrough]];
     case FormaLluvia::Escrita:
     case FormaLluvia::DeLista:
-        if (s.DurTormenta > 0) s.PasoPp = std::min(s.PasoPp, s.DurTormenta);
+        if (s.Tormenta.DurTormenta > 0) s.Pasos.PasoPp = std::min(s.Pasos.PasoPp, s.Tormenta.DurTormenta);
         break;
     }
-    s.PasoQ = std::min(s.PasoQ, s.PasoPp);
+    s.Pasos.PasoQ = std::min(s.Pasos.PasoQ, s.Pasos.PasoPp);
 }
 
 int Corre(const Opciones& o, const std::string& dirEjecutable, const Salidas& salidas)
@@ -177,11 +177,11 @@ int Corre(const Opciones& o, const std::string& dirEjecutable, const Salidas& sa
         return EstadoInterrumpido;
     }
     s.Anfitrion = anfitrion.Anfitrion();
-    s.DirEjecutable = dirEjecutable;
-    s.DirTrabajo = o.trabajo.empty() ? model::DirTrabajoDe(dirEjecutable) : Absoluta(o.trabajo);
+    s.Proyecto.DirEjecutable = dirEjecutable;
+    s.Proyecto.DirTrabajo = o.trabajo.empty() ? model::DirTrabajoDe(dirEjecutable) : Absoluta(o.trabajo);
     model::AvisaEntregaPendiente(s);
     bool completa = false, escritos = true;
-    s.Disco = Vigilado(s.Disco, s.DirTrabajo, escritos);
+    s.Disco = Vigilado(s.Disco, s.Proyecto.DirTrabajo, escritos);
     std::optional<int> fin;
     try {
         completa = CorreOrden(s, o);

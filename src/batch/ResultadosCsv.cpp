@@ -53,7 +53,7 @@ struct Embalse {
 
 bool EsCauce(const model::Siro& s, const std::string& nombre)
 {
-    for (const auto& cauce : s.ColCauces)
+    for (const auto& cauce : s.Red.ColCauces)
         if (cauce.NombreCauce == nombre) return true;
     return false;
 }
@@ -63,10 +63,11 @@ bool EsCauce(const model::Siro& s, const std::string& nombre)
 Embalse EmbalseDe(const model::Siro& s, const std::string& nombre)
 {
     if (EsCauce(s, nombre)) return {};
-    for (const auto& lago : s.ColLagos)
-        if (lago.NombreLAGO == nombre) return Embalse{&s.HLago, &s.SLago, lago.numLAGO};
-    for (const auto& represa : s.ColRepresas)
-        if (represa.NombreRepresa == nombre) return Embalse{&s.HRepresa, &s.SRepresa, represa.numRepresa};
+    for (const auto& lago : s.Red.ColLagos)
+        if (lago.NombreLAGO == nombre) return Embalse{&s.Resultados.HLago, &s.Resultados.SLago, lago.numLAGO};
+    for (const auto& represa : s.Red.ColRepresas)
+        if (represa.NombreRepresa == nombre)
+            return Embalse{&s.Resultados.HRepresa, &s.Resultados.SRepresa, represa.numRepresa};
     return {};
 }
 
@@ -93,17 +94,17 @@ void Elemento(FilaCsv& fila, const model::Arreglo<T>& arreglo, int indice)
 
 void Componente(const model::Siro& s, int c, ArchivoCsv& archivo)
 {
-    const std::string& nombre = s.Secuencia[static_cast<std::size_t>(c)];
-    const bool esUEH = c <= s.NroUEHs;
+    const std::string& nombre = s.Resultados.Secuencia[static_cast<std::size_t>(c)];
+    const bool esUEH = c <= s.Red.NroUEHs;
     const Embalse embalse = esUEH ? Embalse{} : EmbalseDe(s, nombre);
     FilaCsv fila;
-    for (int p = 0; p <= s.NroPasosQ; ++p) {
-        fila.Texto(nombre).Numero(p).Numero(p * s.PasoQ);
+    for (int p = 0; p <= s.Resultados.NroPasosQ; ++p) {
+        fila.Texto(nombre).Numero(p).Numero(p * s.Pasos.PasoQ);
         if (esUEH)
             fila.Vacio();
         else
-            Elemento(fila, s.QEntra, c, p);
-        Elemento(fila, s.QSale, c, p);
+            Elemento(fila, s.Resultados.QEntra, c, p);
+        Elemento(fila, s.Resultados.QSale, c, p);
         if (embalse.altura != nullptr) {
             Elemento(fila, *embalse.altura, embalse.numero, p);
             Elemento(fila, *embalse.volumen, embalse.numero, p);
@@ -117,20 +118,24 @@ void Componente(const model::Siro& s, int c, ArchivoCsv& archivo)
 /// Numbers of the storms of the series that weren't skipped.
 std::vector<int> TormentasCorridas(model::Siro& s)
 {
-    const std::int16_t ultimo = s.IndSerie;
+    const std::int16_t ultimo = s.Serie.IndSerie;
     std::vector<int> corridas;
-    for (int n = 1; n <= s.NroSeriePDR; ++n) {
-        s.IndSerie = static_cast<std::int16_t>(n);
+    for (int n = 1; n <= s.Serie.NroSeriePDR; ++n) {
+        s.Serie.IndSerie = static_cast<std::int16_t>(n);
         engine::SaltaTormenta(s);
-        if (!s.SaltarTormenta) corridas.push_back(n);
+        if (!s.Serie.SaltarTormenta) corridas.push_back(n);
     }
-    s.IndSerie = ultimo;
+    s.Serie.IndSerie = ultimo;
     return corridas;
 }
 
 void Tormenta(FilaCsv& fila, const model::Siro& s, std::string_view nombre, int n)
 {
-    fila.Texto(nombre).Numero(n).Numero(s.SerieP(n)).Numero(s.SerieD(n)).Numero(s.SerieR(n));
+    fila.Texto(nombre)
+        .Numero(n)
+        .Numero(s.Serie.SerieP(n))
+        .Numero(s.Serie.SerieD(n))
+        .Numero(s.Serie.SerieR(n));
 }
 
 }  // namespace
@@ -196,7 +201,7 @@ void FilaCsv::Separa()
 void GuardaCsvTormenta(const model::Siro& s, const std::string& ruta)
 {
     ArchivoCsv archivo(s.Disco, ruta, CabezaTormenta);
-    for (int c = 1; c <= s.NroComponentes; ++c)
+    for (int c = 1; c <= s.Resultados.NroComponentes; ++c)
         Componente(s, c, archivo);
     archivo.Vuelca();
 }
@@ -206,13 +211,13 @@ void GuardaCsvSerie(model::Siro& s, const std::string& ruta)
     ArchivoCsv archivo(s.Disco, ruta, CabezaSerie);
     const auto corridas = TormentasCorridas(s);
     FilaCsv fila;
-    for (int c = 1; c <= s.NroComponentes; ++c) {
+    for (int c = 1; c <= s.Resultados.NroComponentes; ++c) {
         for (const int n : corridas) {
-            Tormenta(fila, s, s.Secuencia[static_cast<std::size_t>(c)], n);
-            Elemento(fila, s.QMax, c, n);
-            if (c <= s.NroUEHs) {
-                Elemento(fila, s.EscUEH, c, n);
-                Elemento(fila, s.CoefEscUEH, c, n);
+            Tormenta(fila, s, s.Resultados.Secuencia[static_cast<std::size_t>(c)], n);
+            Elemento(fila, s.Resultados.QMax, c, n);
+            if (c <= s.Red.NroUEHs) {
+                Elemento(fila, s.Resultados.EscUEH, c, n);
+                Elemento(fila, s.Resultados.CoefEscUEH, c, n);
             } else {
                 fila.Vacio().Vacio();
             }
@@ -222,8 +227,8 @@ void GuardaCsvSerie(model::Siro& s, const std::string& ruta)
     for (const int n : corridas) {
         Tormenta(fila, s, NombreCuenca, n);
         fila.Vacio();
-        Elemento(fila, s.EscTotal, n);
-        Elemento(fila, s.CoefEscTotal, n);
+        Elemento(fila, s.Resultados.EscTotal, n);
+        Elemento(fila, s.Resultados.CoefEscTotal, n);
         archivo.Fila(fila);
     }
     archivo.Vuelca();

@@ -41,7 +41,7 @@ template <typename T, int Limite>
 int Bajo(const frmUEHs& f, const model::Siro& s, const ClaseConIcono<T, Limite>& clase, Punto p)
 {
     int n = 0;
-    for (const T& componente : s.*clase.coleccion) {
+    for (const T& componente : s.Red.*clase.coleccion) {
         ++n;
         if (Contiene(clase.caja, Icono(clase, componente), f.TamIcono, p)) return n;
     }

@@ -36,12 +36,13 @@ bool AlgunoDrena(const Coleccion& coleccion, const std::string& nombre)
 
 bool DrenaUEHoCauce(const Siro& s, const std::string& nombre)
 {
-    return AlgunoDrena(s.ColUEHs, nombre) || AlgunoDrena(s.ColCauces, nombre);
+    return AlgunoDrena(s.Red.ColUEHs, nombre) || AlgunoDrena(s.Red.ColCauces, nombre);
 }
 
 bool DrenaAlguno(const Siro& s, const std::string& nombre)
 {
-    return DrenaUEHoCauce(s, nombre) || AlgunoDrena(s.ColLagos, nombre) || AlgunoDrena(s.ColRepresas, nombre);
+    return DrenaUEHoCauce(s, nombre) || AlgunoDrena(s.Red.ColLagos, nombre) ||
+           AlgunoDrena(s.Red.ColRepresas, nombre);
 }
 
 void Rechaza(const Siro& s, std::string_view titulo, std::string_view texto, const std::string& nombre)
@@ -55,18 +56,18 @@ void Rechaza(const Siro& s, std::string_view titulo, std::string_view texto, con
 /// is being drawn gives way, for its caller to put back.
 void CierraHueco(Siro& s, int hueco)
 {
-    const int cuenta = s.ColCauces.Cuenta();
+    const int cuenta = s.Red.ColCauces.Cuenta();
     for (int i = hueco; i < cuenta; ++i) {
-        const std::int16_t numero = s.Cauces(i).numCauce;
-        s.Cauces(i) = s.Cauces(i + 1);
-        s.Cauces(i).numCauce = numero;
-        s.NroVertices(i) = s.NroVertices(i + 1);
-        for (int j = 1; j <= s.NroVertices(i); ++j)
+        const std::int16_t numero = s.Red.Cauces(i).numCauce;
+        s.Red.Cauces(i) = s.Red.Cauces(i + 1);
+        s.Red.Cauces(i).numCauce = numero;
+        s.Red.NroVertices(i) = s.Red.NroVertices(i + 1);
+        for (int j = 1; j <= s.Red.NroVertices(i); ++j)
             PonVertice(s, i, j, Vertice(s, i + 1, j));
     }
-    s.ColCauces.Quita(cuenta);
-    s.NroVertices(cuenta) = 0;
-    s.NroCauces = Entero16(s.ColCauces.Cuenta());
+    s.Red.ColCauces.Quita(cuenta);
+    s.Red.NroVertices(cuenta) = 0;
+    s.Red.NroCauces = Entero16(s.Red.ColCauces.Cuenta());
     RehaceIndices(s);
 }
 
@@ -91,8 +92,8 @@ bool GuardaTrasBorrar(frmUEHs& f, Siro& s)
 template <typename T, int Limite>
 bool BorraElegido(frmUEHs& f, Siro& s, const ClaseConIcono<T, Limite>& clase)
 {
-    const int n = s.*clase.elegido;
-    auto& coleccion = s.*clase.coleccion;
+    const int n = s.Seleccion.*clase.elegido;
+    auto& coleccion = s.Red.*clase.coleccion;
     if (n < 1 || n > coleccion.Cuenta()) return false;
     const std::string nombre = coleccion.Item(n).*clase.nombre;
     if (!clase.tituloTributario.empty() && DrenaUEHoCauce(s, nombre)) {
@@ -100,7 +101,7 @@ bool BorraElegido(frmUEHs& f, Siro& s, const ClaseConIcono<T, Limite>& clase)
         return false;
     }
     coleccion.Quita(n);
-    s.*clase.cuenta = Entero16(coleccion.Cuenta());
+    s.Red.*clase.cuenta = Entero16(coleccion.Cuenta());
     ConservaTrazo(f, s, [&] {
         if (GuardaTrasBorrar(f, s)) model::ReleeUEHs(s);
     });
@@ -112,9 +113,9 @@ bool BorraElegido(frmUEHs& f, Siro& s, const ClaseConIcono<T, Limite>& clase)
 
 void BorraCauce(frmUEHs& f, Siro& s)
 {
-    const int n = s.CauceSel;
+    const int n = s.Seleccion.CauceSel;
     if (!f.marcaCauce.empty() || n < 1 || n > CaucesEnteros(s)) return;
-    const std::string nombre = s.Cauces(n).NombreCauce;
+    const std::string nombre = s.Red.Cauces(n).NombreCauce;
     if (DrenaAlguno(s, nombre)) {
         Rechaza(s, TituloCauceTributario, CauceTributario, nombre);
         return;
@@ -133,7 +134,7 @@ void BorraUEH(frmUEHs& f, Siro& s)
 
 void BorraRepresa(frmUEHs& f, Siro& s)
 {
-    if (!BorraElegido(f, s, ClaseRepresa) || s.NroRepresas == 0) return;
+    if (!BorraElegido(f, s, ClaseRepresa) || s.Red.NroRepresas == 0) return;
     // The tables are kept by number, and the numbers have moved.
     model::Advierte(s, Texto(VerifiqueRepresas), {});
     f.pedidos.push_back(Pedido::FormaRepresa);
@@ -146,14 +147,14 @@ void BorraLago(frmUEHs& f, Siro& s)
 
 void BorraSeleccionados(frmUEHs& f, Siro& s)
 {
-    const std::int16_t UEH = s.UEHSel, represa = s.RepresaSel, lago = s.LagoSel;
+    const std::int16_t UEH = s.Seleccion.UEHSel, represa = s.Seleccion.RepresaSel, lago = s.Seleccion.LagoSel;
     BorraCauce(f, s);
     // The save of a deletion clears the selection, and what it couldn't read again is there no longer.
-    s.UEHSel = UEH <= s.ColUEHs.Cuenta() ? UEH : std::int16_t{0};
+    s.Seleccion.UEHSel = UEH <= s.Red.ColUEHs.Cuenta() ? UEH : std::int16_t{0};
     BorraUEH(f, s);
-    s.RepresaSel = represa <= s.ColRepresas.Cuenta() ? represa : std::int16_t{0};
+    s.Seleccion.RepresaSel = represa <= s.Red.ColRepresas.Cuenta() ? represa : std::int16_t{0};
     BorraRepresa(f, s);
-    s.LagoSel = lago <= s.ColLagos.Cuenta() ? lago : std::int16_t{0};
+    s.Seleccion.LagoSel = lago <= s.Red.ColLagos.Cuenta() ? lago : std::int16_t{0};
     BorraLago(f, s);
     Redibuja(f, s);
 }
@@ -162,15 +163,16 @@ void BorraTodo(frmUEHs& f, Siro& s)
 {
     if (!model::Consulta(s, Texto(PreguntaBorraTodo), TituloBorraTodo)) return;
     LimpiaSeleccion(s);
-    s.ColCauces.Vacia();
+    s.Red.ColCauces.Vacia();
     PorClase([&](const auto& clase) {
-        (s.*clase.coleccion).Vacia();
-        s.*clase.cuenta = 0;
+        (s.Red.*clase.coleccion).Vacia();
+        s.Red.*clase.cuenta = 0;
     });
-    s.NroCauces = f.ClicsCauce = 0;
-    s.CargaFallida = false;  // the user has seen the network, and wants none
+    s.Red.NroCauces = f.ClicsCauce = 0;
+    s.Control.CargaFallida = false;  // the user has seen the network, and wants none
     try {
-        s.Disco.Borra(model::Ruta(s.DirProyecto, s.NombreProyecto + std::string(SufijoRHQ)));
+        s.Disco.Borra(
+            model::Ruta(s.Proyecto.DirProyecto, s.Proyecto.NombreProyecto + std::string(SufijoRHQ)));
     } catch (const model::Falla& falla) {
         if (falla.numero != model::NumeroFalla::ArchivoNoEsta) throw;  // most networks have none
     }

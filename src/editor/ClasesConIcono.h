@@ -22,9 +22,9 @@ struct CajaDeIcono {
 
 template <typename T, int Limite>
 struct ClaseConIcono {
-    model::Coleccion<T, Limite> model::Siro::*coleccion;
-    std::int16_t model::Siro::*cuenta;
-    std::int16_t model::Siro::*elegido;  ///< number of the selected one
+    model::Coleccion<T, Limite> model::Red::*coleccion;
+    std::int16_t model::Red::*cuenta;
+    std::int16_t model::Seleccion::*elegido;  ///< number of the selected one
     std::int16_t T::*numero;
     std::string T::*nombre;
     float T::*x;  ///< position of the icon
@@ -63,9 +63,9 @@ inline model::Lago LagoNuevo()
 }
 
 inline constexpr ClaseConIcono<model::UEH, model::MaxUEHs> ClaseUEH{
-    .coleccion = &model::Siro::ColUEHs,
-    .cuenta = &model::Siro::NroUEHs,
-    .elegido = &model::Siro::UEHSel,
+    .coleccion = &model::Red::ColUEHs,
+    .cuenta = &model::Red::NroUEHs,
+    .elegido = &model::Seleccion::UEHSel,
     .numero = &model::UEH::numUEH,
     .nombre = &model::UEH::NombreUEH,
     .x = &model::UEH::IconoUEHx,
@@ -91,9 +91,9 @@ inline constexpr ClaseConIcono<model::UEH, model::MaxUEHs> ClaseUEH{
 };
 
 inline constexpr ClaseConIcono<model::Represa, model::MaxRepresas> ClaseRepresa{
-    .coleccion = &model::Siro::ColRepresas,
-    .cuenta = &model::Siro::NroRepresas,
-    .elegido = &model::Siro::RepresaSel,
+    .coleccion = &model::Red::ColRepresas,
+    .cuenta = &model::Red::NroRepresas,
+    .elegido = &model::Seleccion::RepresaSel,
     .numero = &model::Represa::numRepresa,
     .nombre = &model::Represa::NombreRepresa,
     .x = &model::Represa::IconoRepresaX,
@@ -119,9 +119,9 @@ inline constexpr ClaseConIcono<model::Represa, model::MaxRepresas> ClaseRepresa{
 };
 
 inline constexpr ClaseConIcono<model::Lago, model::MaxLagos> ClaseLago{
-    .coleccion = &model::Siro::ColLagos,
-    .cuenta = &model::Siro::NroLagos,
-    .elegido = &model::Siro::LagoSel,
+    .coleccion = &model::Red::ColLagos,
+    .cuenta = &model::Red::NroLagos,
+    .elegido = &model::Seleccion::LagoSel,
     .numero = &model::Lago::numLAGO,
     .nombre = &model::Lago::NombreLAGO,
     .x = &model::Lago::IconoLAGOx,
@@ -159,7 +159,7 @@ void PorClase(F hace)
 template <typename T, int Limite>
 T& Elegido(model::Siro& s, const ClaseConIcono<T, Limite>& clase)
 {
-    return (s.*clase.coleccion).Ranura(s.*clase.elegido);
+    return (s.Red.*clase.coleccion).Ranura(s.Seleccion.*clase.elegido);
 }
 
 template <typename T, int Limite>

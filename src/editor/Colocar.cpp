@@ -21,7 +21,7 @@ namespace {
 template <typename T, int Limite>
 std::optional<std::string> NombreEn(const Siro& s, const ClaseConIcono<T, Limite>& clase, Punto en)
 {
-    for (const T& componente : s.*clase.coleccion)
+    for (const T& componente : s.Red.*clase.coleccion)
         if (Icono(clase, componente) == en) return componente.*clase.nombre;
     return {};
 }
@@ -40,12 +40,12 @@ T Nuevo(const ClaseConIcono<T, Limite>& clase, int n, Punto en)
 template <typename T, int Limite>
 void Coloca(frmUEHs& f, Siro& s, const ClaseConIcono<T, Limite>& clase, Punto en)
 {
-    auto& coleccion = s.*clase.coleccion;
+    auto& coleccion = s.Red.*clase.coleccion;
     const int n = coleccion.Cuenta() + 1;
     if (n > Limite) throw model::Falla{model::NumeroFalla::Subindice};
     const std::optional<std::string> otro = NombreEn(s, clase, en);
     coleccion.Agrega(Nuevo(clase, n, en));
-    s.*clase.cuenta = model::Entero16(n);
+    s.Red.*clase.cuenta = model::Entero16(n);
 
     std::optional<std::string> nombre;
     if (otro) {
@@ -54,7 +54,7 @@ void Coloca(frmUEHs& f, Siro& s, const ClaseConIcono<T, Limite>& clase, Punto en
         nombre = PideNombre(s, clase.pide, coleccion, clase.nombre);
     }
     if (!nombre) {
-        s.*clase.elegido = model::Entero16(n);
+        s.Seleccion.*clase.elegido = model::Entero16(n);
         clase.borra(f, s);
         return;
     }

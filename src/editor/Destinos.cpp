@@ -29,10 +29,10 @@ std::vector<Destino> Destinos(const model::Siro& s, OrdenDestinos orden)
 {
     std::vector<Destino> destinos;
     if (orden == OrdenDestinos::SoloCauces) AgregaSinDestino(destinos);
-    Agrega(destinos, s.ColCauces, Destino::Clase::Cauce, &model::Cauce::NombreCauce);
+    Agrega(destinos, s.Red.ColCauces, Destino::Clase::Cauce, &model::Cauce::NombreCauce);
     if (orden == OrdenDestinos::SoloCauces) return destinos;
-    Agrega(destinos, s.ColRepresas, Destino::Clase::Represa, &model::Represa::NombreRepresa);
-    Agrega(destinos, s.ColLagos, Destino::Clase::Lago, &model::Lago::NombreLAGO);
+    Agrega(destinos, s.Red.ColRepresas, Destino::Clase::Represa, &model::Represa::NombreRepresa);
+    Agrega(destinos, s.Red.ColLagos, Destino::Clase::Lago, &model::Lago::NombreLAGO);
     AgregaSinDestino(destinos);
     return destinos;
 }
@@ -62,11 +62,11 @@ Punto PuntoDestino(model::Siro& s, const Destino& destino)
     case Destino::Clase::Cauce:
         return UltimoVertice(s, destino.numero);
     case Destino::Clase::Represa: {
-        const model::Represa& represa = s.Represas(destino.numero);
+        const model::Represa& represa = s.Red.Represas(destino.numero);
         return {represa.IconoRepresaX, represa.IconoRepresaY};
     }
     case Destino::Clase::Lago: {
-        const model::Lago& lago = s.Lagos(destino.numero);
+        const model::Lago& lago = s.Red.Lagos(destino.numero);
         return {lago.IconoLAGOx, lago.IconoLAGOy};
     }
     case Destino::Clase::Ninguno:
@@ -78,23 +78,23 @@ Punto PuntoDestino(model::Siro& s, const Destino& destino)
 
 Punto UltimoVertice(const model::Siro& s, int numCauce)
 {
-    const int ultimo = s.NroVertices(numCauce);
+    const int ultimo = s.Red.NroVertices(numCauce);
     if (ultimo < 1) return {};
-    return {s.XVertice(numCauce, ultimo), s.YVertice(numCauce, ultimo)};
+    return {s.Red.XVertice(numCauce, ultimo), s.Red.YVertice(numCauce, ultimo)};
 }
 
 int NumeroDeCauce(const model::Siro& s, std::string_view nombre)
 {
-    const auto lugar = std::find_if(s.ColCauces.begin(), s.ColCauces.end(),
+    const auto lugar = std::find_if(s.Red.ColCauces.begin(), s.Red.ColCauces.end(),
                                     [&](const model::Cauce& cauce) { return cauce.NombreCauce == nombre; });
-    return lugar == s.ColCauces.end() ? 0 : static_cast<int>(lugar - s.ColCauces.begin()) + 1;
+    return lugar == s.Red.ColCauces.end() ? 0 : static_cast<int>(lugar - s.Red.ColCauces.begin()) + 1;
 }
 
 void PonPrimerVertice(model::Siro& s, int numCauce, Punto en)
 {
-    if (s.NroVertices(numCauce) < 1) return;
-    s.XVertice(numCauce, 1) = en.X;
-    s.YVertice(numCauce, 1) = en.Y;
+    if (s.Red.NroVertices(numCauce) < 1) return;
+    s.Red.XVertice(numCauce, 1) = en.X;
+    s.Red.YVertice(numCauce, 1) = en.Y;
 }
 
 }  // namespace editor

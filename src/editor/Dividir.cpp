@@ -21,7 +21,7 @@ std::string NombreDeParte(const Siro& s, std::string nombre, std::string_view su
 {
     do
         nombre += sufijo;
-    while (EnUso(s.ColCauces, &model::Cauce::NombreCauce, nombre));
+    while (EnUso(s.Red.ColCauces, &model::Cauce::NombreCauce, nombre));
     return nombre;
 }
 
@@ -29,23 +29,23 @@ std::string NombreDeParte(const Siro& s, std::string nombre, std::string_view su
 
 void mnu_DivideCauce(frmUEHs& f, Siro& s)
 {
-    const int c = s.CauceSel;
-    const int corte = s.VerticeSel;
+    const int c = s.Seleccion.CauceSel;
+    const int corte = s.Seleccion.VerticeSel;
     if (c < 1 || c > CaucesEnteros(s)) return;
-    const int ultimo = s.NroVertices(c);
+    const int ultimo = s.Red.NroVertices(c);
     if (corte <= 1 || corte >= ultimo) return;
 
     const int n = NumeroDeCauceNuevo(s);  // a reach that is being drawn gives way
-    const std::string nombre = s.Cauces(c).NombreCauce;
-    s.NroVertices(n) = 0;
+    const std::string nombre = s.Red.Cauces(c).NombreCauce;
+    s.Red.NroVertices(n) = 0;
     for (int j = corte; j <= ultimo; ++j)
         AgregaVertice(s, n, Vertice(s, c, j));
     CreaCauce(s);
-    s.Cauces(n).NombreCauce = NombreDeParte(s, nombre, SufijoDeArriba);
+    s.Red.Cauces(n).NombreCauce = NombreDeParte(s, nombre, SufijoDeArriba);
     // Whatever drained into the whole keeps its name, which no reach bears any longer: kept as it stands.
-    s.Cauces(c).NombreCauce = NombreDeParte(s, nombre, SufijoDeAbajo);
-    s.Cauces(n).Cauce_aa = s.Cauces(c).NombreCauce;
-    s.NroVertices(c) = static_cast<std::int16_t>(corte);
+    s.Red.Cauces(c).NombreCauce = NombreDeParte(s, nombre, SufijoDeAbajo);
+    s.Red.Cauces(n).Cauce_aa = s.Red.Cauces(c).NombreCauce;
+    s.Red.NroVertices(c) = static_cast<std::int16_t>(corte);
     RehaceIndices(s);
     f.marcaCauce.clear();
     LimpiaSeleccion(s);

@@ -28,12 +28,12 @@ void AcoplaACauce(frmUEHs& f, Siro& s, const ClaseConIcono<T, Limite>& clase)
 {
     T& componente = Elegido(s, clase);
     const std::string& nombre = componente.*clase.nombre;
-    const std::string& cauce = s.Cauces(s.CauceSel).NombreCauce;
+    const std::string& cauce = s.Red.Cauces(s.Seleccion.CauceSel).NombreCauce;
     if (engine::DrenaA(componente.Cauce_aa, cauce)) {
         model::Advierte(s, Texto(clase.yaAcoplado, nombre, YaAcoplada, cauce), {});
     } else if (model::Consulta(s, Texto(clase.confirmaMenu, nombre, ConElCauce, cauce, CierraNombre),
                                TituloConsulta)) {
-        Acopla(componente, cauce, UltimoVertice(s, s.CauceSel));
+        Acopla(componente, cauce, UltimoVertice(s, s.Seleccion.CauceSel));
     }
     Termina(f, s);
 }
@@ -50,8 +50,8 @@ template <typename T, int Limite>
 void AcoplaCauceA(frmUEHs& f, Siro& s, const ClaseConIcono<T, Limite>& clase)
 {
     const T& destino = Elegido(s, clase);
-    model::Cauce& cauce = s.Cauces(s.CauceSel);
-    PonVertice(s, s.CauceSel, 1, Icono(clase, destino));
+    model::Cauce& cauce = s.Red.Cauces(s.Seleccion.CauceSel);
+    PonVertice(s, s.Seleccion.CauceSel, 1, Icono(clase, destino));
     cauce.Cauce_aa = destino.*clase.nombre;
     Termina(f, s);
 }
@@ -102,8 +102,8 @@ void mnu_acoplaCauceaLago(frmUEHs& f, Siro& s)
 
 void mnu_acoplaCauce1aCauce2(frmUEHs& f, Siro& s)
 {
-    model::Cauce& primero = s.Cauces(s.CauceAnterior);
-    const model::Cauce& segundo = s.Cauces(s.CauceSel);
+    model::Cauce& primero = s.Red.Cauces(s.Seleccion.CauceAnterior);
+    const model::Cauce& segundo = s.Red.Cauces(s.Seleccion.CauceSel);
     // A longer cycle isn't looked for: kept as it stands.
     if (engine::DrenaA(segundo.Cauce_aa, primero.NombreCauce)) {
         model::Advierte(s, Texto(Inversion), TituloInversion);
@@ -130,7 +130,7 @@ void mnu_desacoplaLAGO(frmUEHs& f, Siro& s)
 
 void mnu_desacoplaCauce(frmUEHs& f, Siro& s)
 {
-    s.Cauces(s.CauceSel).Cauce_aa = "0";
+    s.Red.Cauces(s.Seleccion.CauceSel).Cauce_aa = "0";
     Termina(f, s);
 }
 

@@ -67,7 +67,7 @@ void ScrEscalaVer_Mueve(frmUEHs& f, Siro& s, int valor)
 
 void picDibujo_Rueda(frmUEHs& f, Siro& s, double vueltas, Punto p)
 {
-    if (s.NroCauces == 0 || vueltas == 0) return;  // a drawing without reaches stays at 100 %
+    if (s.Red.NroCauces == 0 || vueltas == 0) return;  // a drawing without reaches stays at 100 %
     const int anterior = f.sldEscala;
     const double deseada = std::round(anterior / std::pow(FactorDeVuelta, std::clamp(vueltas, -100., 100.)));
     // From a small zoom a tenth would round to nothing.

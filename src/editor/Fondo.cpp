@@ -32,8 +32,9 @@ constexpr auto ImagenExcesiva =
 
 std::string RutaImagen(const Siro& s)
 {
-    const bool conDirectorio = s.ArchivoImagen.find_first_of("/\\") != std::string::npos;
-    return conDirectorio ? s.ArchivoImagen : model::Ruta(s.DirProyecto, s.ArchivoImagen);
+    const bool conDirectorio = s.Configuracion.ArchivoImagen.find_first_of("/\\") != std::string::npos;
+    return conDirectorio ? s.Configuracion.ArchivoImagen
+                         : model::Ruta(s.Proyecto.DirProyecto, s.Configuracion.ArchivoImagen);
 }
 
 namespace {

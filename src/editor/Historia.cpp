@@ -30,14 +30,15 @@ bool Iguales(const std::shared_ptr<const T>& a, const std::shared_ptr<const T>& 
 VerticesDeRed TomaVertices(const Siro& s)
 {
     VerticesDeRed v;
-    const int cauces = std::clamp(std::max<int>(s.NroCauces, s.ColCauces.Cuenta()), 0, model::MaxCauces);
-    const int columnas = std::max(0, std::min(s.XVertice.TopeColumna(), s.YVertice.TopeColumna()));
+    const int cauces =
+        std::clamp(std::max<int>(s.Red.NroCauces, s.Red.ColCauces.Cuenta()), 0, model::MaxCauces);
+    const int columnas = std::max(0, std::min(s.Red.XVertice.TopeColumna(), s.Red.YVertice.TopeColumna()));
     for (int i = 1; i <= cauces; ++i) {
-        const int vertices = std::clamp<int>(s.NroVertices(i), 0, columnas);
+        const int vertices = std::clamp<int>(s.Red.NroVertices(i), 0, columnas);
         v.cuentas.push_back(static_cast<std::int16_t>(vertices));
         if (vertices == 0) continue;
-        const float* x = s.XVertice.Fila(i);
-        const float* y = s.YVertice.Fila(i);
+        const float* x = s.Red.XVertice.Fila(i);
+        const float* y = s.Red.YVertice.Fila(i);
         v.X.insert(v.X.end(), x + 1, x + 1 + vertices);
         v.Y.insert(v.Y.end(), y + 1, y + 1 + vertices);
     }
@@ -49,15 +50,15 @@ void PonVertices(Siro& s, const VerticesDeRed& v)
     int mayor = 0;
     for (const std::int16_t cuenta : v.cuentas)
         mayor = std::max<int>(mayor, cuenta);
-    s.NroVertices.Dimensiona(s.NroVertices.Tope());
-    s.XVertice.Dimensiona(model::MaxCauces, mayor);
-    s.YVertice.Dimensiona(model::MaxCauces, mayor);
+    s.Red.NroVertices.Dimensiona(s.Red.NroVertices.Tope());
+    s.Red.XVertice.Dimensiona(model::MaxCauces, mayor);
+    s.Red.YVertice.Dimensiona(model::MaxCauces, mayor);
     std::size_t desde = 0;
     for (std::size_t k = 0; k < v.cuentas.size(); ++k) {
         const int i = static_cast<int>(k) + 1;
-        s.NroVertices(i) = v.cuentas[k];
-        std::copy_n(v.X.data() + desde, v.cuentas[k], s.XVertice.Fila(i) + 1);
-        std::copy_n(v.Y.data() + desde, v.cuentas[k], s.YVertice.Fila(i) + 1);
+        s.Red.NroVertices(i) = v.cuentas[k];
+        std::copy_n(v.X.data() + desde, v.cuentas[k], s.Red.XVertice.Fila(i) + 1);
+        std::copy_n(v.Y.data() + desde, v.cuentas[k], s.Red.YVertice.Fila(i) + 1);
         desde += static_cast<std::size_t>(v.cuentas[k]);
     }
 }
@@ -65,30 +66,30 @@ void PonVertices(Siro& s, const VerticesDeRed& v)
 RedGuardada Toma(const frmUEHs& f, const Siro& s)
 {
     const RedGuardada& presente = f.historia.presente;
-    return {.UEHs = Comparte(presente.UEHs, s.ColUEHs),
-            .Cauces = Comparte(presente.Cauces, s.ColCauces),
-            .Lagos = Comparte(presente.Lagos, s.ColLagos),
-            .Represas = Comparte(presente.Represas, s.ColRepresas),
+    return {.UEHs = Comparte(presente.UEHs, s.Red.ColUEHs),
+            .Cauces = Comparte(presente.Cauces, s.Red.ColCauces),
+            .Lagos = Comparte(presente.Lagos, s.Red.ColLagos),
+            .Represas = Comparte(presente.Represas, s.Red.ColRepresas),
             .vertices = Comparte(presente.vertices, TomaVertices(s)),
-            .NroUEHs = s.NroUEHs,
-            .NroCauces = s.NroCauces,
-            .NroLagos = s.NroLagos,
-            .NroRepresas = s.NroRepresas,
+            .NroUEHs = s.Red.NroUEHs,
+            .NroCauces = s.Red.NroCauces,
+            .NroLagos = s.Red.NroLagos,
+            .NroRepresas = s.Red.NroRepresas,
             .ClicsCauce = f.ClicsCauce,
             .marcaCauce = f.marcaCauce};
 }
 
 void Pon(frmUEHs& f, Siro& s, const RedGuardada& red)
 {
-    s.ColUEHs = *red.UEHs;
-    s.ColCauces = *red.Cauces;
-    s.ColLagos = *red.Lagos;
-    s.ColRepresas = *red.Represas;
+    s.Red.ColUEHs = *red.UEHs;
+    s.Red.ColCauces = *red.Cauces;
+    s.Red.ColLagos = *red.Lagos;
+    s.Red.ColRepresas = *red.Represas;
     PonVertices(s, *red.vertices);
-    s.NroUEHs = red.NroUEHs;
-    s.NroCauces = red.NroCauces;
-    s.NroLagos = red.NroLagos;
-    s.NroRepresas = red.NroRepresas;
+    s.Red.NroUEHs = red.NroUEHs;
+    s.Red.NroCauces = red.NroCauces;
+    s.Red.NroLagos = red.NroLagos;
+    s.Red.NroRepresas = red.NroRepresas;
     f.ClicsCauce = red.ClicsCauce;
     f.marcaCauce = red.marcaCauce;
     LimpiaSeleccion(s);
@@ -136,7 +137,7 @@ bool RedGuardada::operator==(const RedGuardada& otra) const
 void EmpiezaHistoria(frmUEHs& f, const Siro& s)
 {
     f.historia = {};
-    f.historia.proyecto = s.NombreProyecto;
+    f.historia.proyecto = s.Proyecto.NombreProyecto;
     f.historia.presente = Toma(f, s);
 }
 

@@ -22,10 +22,10 @@ struct VerticesDeRed {
 ///
 /// The parts are shared between the copies that have them in common, so that a long history stays small.
 struct RedGuardada {
-    std::shared_ptr<const decltype(model::Siro::ColUEHs)> UEHs{};
-    std::shared_ptr<const decltype(model::Siro::ColCauces)> Cauces{};
-    std::shared_ptr<const decltype(model::Siro::ColLagos)> Lagos{};
-    std::shared_ptr<const decltype(model::Siro::ColRepresas)> Represas{};
+    std::shared_ptr<const decltype(model::Red::ColUEHs)> UEHs{};
+    std::shared_ptr<const decltype(model::Red::ColCauces)> Cauces{};
+    std::shared_ptr<const decltype(model::Red::ColLagos)> Lagos{};
+    std::shared_ptr<const decltype(model::Red::ColRepresas)> Represas{};
     std::shared_ptr<const VerticesDeRed> vertices{};
     std::int16_t NroUEHs = 0, NroCauces = 0, NroLagos = 0, NroRepresas = 0;
     std::int16_t ClicsCauce = 0;

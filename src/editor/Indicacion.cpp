@@ -17,13 +17,15 @@ std::string_view DeSeleccion(const Siro& s)
 {
     if (RedVacia(s))
         return "La red está vacía: elija en la barra qué dibujar. Para salir, cierre la ventana (Alt+F4).";
-    const bool icono = s.UEHSel > 0 || s.RepresaSel > 0 || s.LagoSel > 0;
-    if (s.CauceSel > 0 && icono) return "Dos componentes elegidos: clic derecho o F2 para acoplarlos.";
-    if (s.CauceSel > 0 && s.VerticeSel > 0)
+    const bool icono = s.Seleccion.UEHSel > 0 || s.Seleccion.RepresaSel > 0 || s.Seleccion.LagoSel > 0;
+    if (s.Seleccion.CauceSel > 0 && icono)
+        return "Dos componentes elegidos: clic derecho o F2 para acoplarlos.";
+    if (s.Seleccion.CauceSel > 0 && s.Seleccion.VerticeSel > 0)
         return "Arrastre el vértice para moverlo; clic derecho o F2 para dividir el cauce en ese punto.";
-    if (s.CauceSel > 0 && s.CauceAnterior > 0 && s.CauceAnterior != s.CauceSel)
+    if (s.Seleccion.CauceSel > 0 && s.Seleccion.CauceAnterior > 0 &&
+        s.Seleccion.CauceAnterior != s.Seleccion.CauceSel)
         return "Dos cauces elegidos: clic derecho o F2 para acoplar el primero al segundo.";
-    if (s.CauceSel > 0)
+    if (s.Seleccion.CauceSel > 0)
         return "Clic en un vértice del cauce: lo toma; clic en otro componente: lo elige para acoplarlos.";
     if (icono)
         return "Arrastre el ícono para moverlo, o la marca debajo de él hasta el destino para acoplarlo.";

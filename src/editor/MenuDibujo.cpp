@@ -22,35 +22,35 @@ bool Siempre(const Siro& /*s*/)
 }
 bool HayUEH(const Siro& s)
 {
-    return s.UEHSel > 0 && s.UEHSel <= s.ColUEHs.Cuenta();
+    return s.Seleccion.UEHSel > 0 && s.Seleccion.UEHSel <= s.Red.ColUEHs.Cuenta();
 }
 bool HayCauce(const Siro& s)
 {
-    return s.CauceSel > 0 && s.CauceSel <= CaucesEnteros(s);
+    return s.Seleccion.CauceSel > 0 && s.Seleccion.CauceSel <= CaucesEnteros(s);
 }
 bool HayRepresa(const Siro& s)
 {
-    return s.RepresaSel > 0 && s.RepresaSel <= s.ColRepresas.Cuenta();
+    return s.Seleccion.RepresaSel > 0 && s.Seleccion.RepresaSel <= s.Red.ColRepresas.Cuenta();
 }
 bool HayLago(const Siro& s)
 {
-    return s.LagoSel > 0 && s.LagoSel <= s.ColLagos.Cuenta();
+    return s.Seleccion.LagoSel > 0 && s.Seleccion.LagoSel <= s.Red.ColLagos.Cuenta();
 }
 bool SoloUEH(const Siro& s)
 {
-    return HayUEH(s) && s.CauceSel == 0 && s.RepresaSel == 0 && s.LagoSel == 0;
+    return HayUEH(s) && s.Seleccion.CauceSel == 0 && s.Seleccion.RepresaSel == 0 && s.Seleccion.LagoSel == 0;
 }
 bool SoloCauce(const Siro& s)
 {
-    return HayCauce(s) && s.UEHSel == 0 && s.RepresaSel == 0 && s.LagoSel == 0;
+    return HayCauce(s) && s.Seleccion.UEHSel == 0 && s.Seleccion.RepresaSel == 0 && s.Seleccion.LagoSel == 0;
 }
 bool SoloRepresa(const Siro& s)
 {
-    return HayRepresa(s) && s.UEHSel == 0 && s.CauceSel == 0 && s.LagoSel == 0;
+    return HayRepresa(s) && s.Seleccion.UEHSel == 0 && s.Seleccion.CauceSel == 0 && s.Seleccion.LagoSel == 0;
 }
 bool SoloLago(const Siro& s)
 {
-    return HayLago(s) && s.UEHSel == 0 && s.CauceSel == 0 && s.RepresaSel == 0;
+    return HayLago(s) && s.Seleccion.UEHSel == 0 && s.Seleccion.CauceSel == 0 && s.Seleccion.RepresaSel == 0;
 }
 bool UEHyCauce(const Siro& s)
 {
@@ -78,29 +78,31 @@ bool TieneDestino(const std::string& Cauce_aa)
 }
 bool UEHConDestino(const Siro& s)
 {
-    return HayUEH(s) && TieneDestino(s.ColUEHs.Item(s.UEHSel).Cauce_aa);
+    return HayUEH(s) && TieneDestino(s.Red.ColUEHs.Item(s.Seleccion.UEHSel).Cauce_aa);
 }
 bool CauceConDestino(const Siro& s)
 {
-    return HayCauce(s) && TieneDestino(s.ColCauces.Item(s.CauceSel).Cauce_aa);
+    return HayCauce(s) && TieneDestino(s.Red.ColCauces.Item(s.Seleccion.CauceSel).Cauce_aa);
 }
 bool RepresaConDestino(const Siro& s)
 {
-    return HayRepresa(s) && TieneDestino(s.ColRepresas.Item(s.RepresaSel).Cauce_aa);
+    return HayRepresa(s) && TieneDestino(s.Red.ColRepresas.Item(s.Seleccion.RepresaSel).Cauce_aa);
 }
 bool LagoConDestino(const Siro& s)
 {
-    return HayLago(s) && TieneDestino(s.ColLagos.Item(s.LagoSel).Cauce_aa);
+    return HayLago(s) && TieneDestino(s.Red.ColLagos.Item(s.Seleccion.LagoSel).Cauce_aa);
 }
 bool VerticeParaDividir(const Siro& s)
 {
-    return HayCauce(s) && s.VerticeSel > 0 && s.UEHSel == 0 && s.RepresaSel == 0;
+    return HayCauce(s) && s.Seleccion.VerticeSel > 0 && s.Seleccion.UEHSel == 0 &&
+           s.Seleccion.RepresaSel == 0;
 }
 bool DosCauces(const Siro& s)
 {
-    const int primero = s.CauceAnterior;
-    return HayCauce(s) && primero > 0 && primero <= CaucesEnteros(s) && primero != s.CauceSel &&
-           !engine::DrenaA(s.ColCauces.Item(primero).Cauce_aa, s.ColCauces.Item(s.CauceSel).NombreCauce);
+    const int primero = s.Seleccion.CauceAnterior;
+    return HayCauce(s) && primero > 0 && primero <= CaucesEnteros(s) && primero != s.Seleccion.CauceSel &&
+           !engine::DrenaA(s.Red.ColCauces.Item(primero).Cauce_aa,
+                           s.Red.ColCauces.Item(s.Seleccion.CauceSel).NombreCauce);
 }
 
 // --- commands of the canvas itself ---

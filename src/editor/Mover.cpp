@@ -37,9 +37,9 @@ bool DejaSuDestino(const Siro& s, model::Cauce& cauce)
 /// The drain points of what drains into a reach go along with its head.
 void LlevaTributarios(Siro& s, int cauce, Punto en)
 {
-    const std::string& nombre = s.Cauces(cauce).NombreCauce;
+    const std::string& nombre = s.Red.Cauces(cauce).NombreCauce;
     PorClase([&](const auto& clase) {
-        for (auto& componente : s.*clase.coleccion)
+        for (auto& componente : s.Red.*clase.coleccion)
             if (engine::DrenaA(componente.Cauce_aa, nombre)) {
                 componente.XCauce = en.X;
                 componente.YCauce = en.Y;
@@ -57,27 +57,28 @@ bool EsClic(const frmUEHs& f, Punto p)
 
 bool EsCabecera(const Siro& s)
 {
-    return s.VerticeSel == s.NroVertices(s.CauceSel);
+    return s.Seleccion.VerticeSel == s.Red.NroVertices(s.Seleccion.CauceSel);
 }
 
 void MueveVertice(frmUEHs& f, Siro& s, Punto p)
 {
     f.banda.clear();
-    if (s.VerticeSel > 1) f.banda.push_back(Vertice(s, s.CauceSel, s.VerticeSel - 1));
+    if (s.Seleccion.VerticeSel > 1)
+        f.banda.push_back(Vertice(s, s.Seleccion.CauceSel, s.Seleccion.VerticeSel - 1));
     f.banda.push_back(p);
-    if (!EsCabecera(s)) f.banda.push_back(Vertice(s, s.CauceSel, s.VerticeSel + 1));
-    if (EsCabecera(s)) LlevaTributarios(s, s.CauceSel, p);
+    if (!EsCabecera(s)) f.banda.push_back(Vertice(s, s.Seleccion.CauceSel, s.Seleccion.VerticeSel + 1));
+    if (EsCabecera(s)) LlevaTributarios(s, s.Seleccion.CauceSel, p);
     Redibuja(f, s);
 }
 
 /// Asks of each reach on whose head the mouth has been put whether it is the destination, until a Yes.
 void BuscaDestino(const frmUEHs& f, Siro& s, int cauce)
 {
-    model::Cauce& este = s.Cauces(cauce);
+    model::Cauce& este = s.Red.Cauces(cauce);
     const Punto boca = Vertice(s, cauce, 1);
     for (int i = 1; i <= CaucesEnteros(s); ++i) {
         if (i == cauce || !CabeceraCerca(s, i, boca, f.ToleranciaVertice)) continue;
-        const std::string& otro = s.Cauces(i).NombreCauce;
+        const std::string& otro = s.Red.Cauces(i).NombreCauce;
         const std::string texto =
             Texto(PreguntaElTramo, este.NombreCauce, EsTributario, otro, FinPreguntaElTramo);
         if (!model::Consulta(s, texto, TituloConsulta)) continue;
@@ -89,12 +90,12 @@ void BuscaDestino(const frmUEHs& f, Siro& s, int cauce)
 
 void SueltaVertice(frmUEHs& f, Siro& s, Punto p)
 {
-    const int cauce = s.CauceSel;
-    PonVertice(s, cauce, s.VerticeSel, p);
+    const int cauce = s.Seleccion.CauceSel;
+    PonVertice(s, cauce, s.Seleccion.VerticeSel, p);
     if (EsCabecera(s)) LlevaTributarios(s, cauce, p);
     f.banda.clear();
     Redibuja(f, s);  // the questions are asked over the reach as it now is
-    if (s.VerticeSel == 1) BuscaDestino(f, s, cauce);
+    if (s.Seleccion.VerticeSel == 1) BuscaDestino(f, s, cauce);
     Redibuja(f, s);
 }
 
@@ -139,7 +140,7 @@ void MueveArrastre(frmUEHs& f, Siro& s, Punto p)
     const bool empieza = !f.arrastrado;
     f.arrastrado = true;
     if (f.arrastra == Arrastra::Vertice) {
-        if (empieza && s.VerticeSel == 1 && !DejaSuDestino(s, s.Cauces(s.CauceSel))) {
+        if (empieza && s.Seleccion.VerticeSel == 1 && !DejaSuDestino(s, s.Red.Cauces(s.Seleccion.CauceSel))) {
             AbandonaArrastre(f, s);
         } else {
             MueveVertice(f, s, p);

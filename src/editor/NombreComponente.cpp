@@ -27,10 +27,10 @@ std::string NombreConPrefijo(std::string_view prefijo, std::string_view texto)
 void RenombraDestinos(model::Siro& s, std::string_view viejo, std::string_view nuevo, SiguenNombre siguen)
 {
     if (viejo.empty() || viejo == SinDestino) return;
-    if (siguen.UEHs) Renombra(s.ColUEHs, viejo, nuevo);
-    if (siguen.Cauces) Renombra(s.ColCauces, viejo, nuevo, siguen.salvoCauce);
-    Renombra(s.ColRepresas, viejo, nuevo);
-    Renombra(s.ColLagos, viejo, nuevo);
+    if (siguen.UEHs) Renombra(s.Red.ColUEHs, viejo, nuevo);
+    if (siguen.Cauces) Renombra(s.Red.ColCauces, viejo, nuevo, siguen.salvoCauce);
+    Renombra(s.Red.ColRepresas, viejo, nuevo);
+    Renombra(s.Red.ColLagos, viejo, nuevo);
 }
 
 }  // namespace editor

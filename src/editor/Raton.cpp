@@ -110,7 +110,8 @@ void TerminaModo(frmUEHs& f, Siro& s)
 
 bool NadaElegido(const Siro& s)
 {
-    return s.CauceSel == 0 && s.UEHSel == 0 && s.RepresaSel == 0 && s.LagoSel == 0;
+    return s.Seleccion.CauceSel == 0 && s.Seleccion.UEHSel == 0 && s.Seleccion.RepresaSel == 0 &&
+           s.Seleccion.LagoSel == 0;
 }
 
 /// The menu comes for what it is opened on; the two ends of a link, named before, stay selected.
@@ -127,7 +128,7 @@ void EligeParaElMenu(frmUEHs& f, Siro& s, Punto p)
 bool CruzEnElUltimo(const frmUEHs& f, const Siro& s)
 {
     if (Modo(f) == Boton::Cauce && f.ClicsCauce > 0)
-        return *f.cruz == Vertice(s, s.NroCauces, s.NroVertices(s.NroCauces));
+        return *f.cruz == Vertice(s, s.Red.NroCauces, s.Red.NroVertices(s.Red.NroCauces));
     const auto n = static_cast<std::size_t>(f.NroPuntosMedida);
     return Modo(f) == Boton::LongArea && n > 0 && *f.cruz == Punto{f.XMedida[n], f.YMedida[n]};
 }
@@ -202,13 +203,13 @@ void picDibujo_MouseUp(frmUEHs& f, Siro& s, BotonRaton boton, Punto p)
 void picDibujo_DblClick(frmUEHs& f, Siro& s)
 {
     Orden(f, s, [&] {
-        if (s.CauceSel > 0) {
+        if (s.Seleccion.CauceSel > 0) {
             f.pedidos.push_back(Pedido::FormaCauce);
-        } else if (s.UEHSel > 0) {
+        } else if (s.Seleccion.UEHSel > 0) {
             f.pedidos.push_back(Pedido::FormaUEH);
-        } else if (s.LagoSel > 0) {
+        } else if (s.Seleccion.LagoSel > 0) {
             f.pedidos.push_back(Pedido::FormaLago);
-        } else if (s.RepresaSel > 0) {
+        } else if (s.Seleccion.RepresaSel > 0) {
             f.pedidos.push_back(Pedido::FormaRepresa);
         } else {
             TerminaModo(f, s);
@@ -243,16 +244,16 @@ void picDibujo_KeyDown(frmUEHs& f, Siro& s, Tecla tecla)
         f.pedidos.push_back(Pedido::Menu);
         break;
     case Tecla::F3:
-        PideSiHay(f, s.ColUEHs.Cuenta(), Pedido::FormaUEH);
+        PideSiHay(f, s.Red.ColUEHs.Cuenta(), Pedido::FormaUEH);
         break;
     case Tecla::F4:
-        PideSiHay(f, s.ColCauces.Cuenta(), Pedido::FormaCauce);
+        PideSiHay(f, s.Red.ColCauces.Cuenta(), Pedido::FormaCauce);
         break;
     case Tecla::F5:
-        PideSiHay(f, s.ColRepresas.Cuenta(), Pedido::FormaRepresa);
+        PideSiHay(f, s.Red.ColRepresas.Cuenta(), Pedido::FormaRepresa);
         break;
     case Tecla::F6:
-        PideSiHay(f, s.ColLagos.Cuenta(), Pedido::FormaLago);
+        PideSiHay(f, s.Red.ColLagos.Cuenta(), Pedido::FormaLago);
         break;
     case Tecla::Enter:
         if (f.cruz)

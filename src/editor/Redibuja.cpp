@@ -28,12 +28,12 @@ constexpr float CorrimientoOrden = 1.5F;  // order left of vertex 2 [tolerances]
 /// Reaches with vertices, the one being drawn included.
 int CaucesDibujados(const Siro& s)
 {
-    return std::clamp<int>(s.NroCauces, 0, model::MaxCauces);
+    return std::clamp<int>(s.Red.NroCauces, 0, model::MaxCauces);
 }
 
 Punto Vertice(const Siro& s, int cauce, int vertice)
 {
-    return {s.XVertice(cauce, vertice), s.YVertice(cauce, vertice)};
+    return {s.Red.XVertice(cauce, vertice), s.Red.YVertice(cauce, vertice)};
 }
 
 // --- the steps before the painting ---
@@ -42,8 +42,8 @@ void AmpliaVertices(Siro& s)
 {
     int mayor = 0;
     for (int i = 1; i <= CaucesDibujados(s); ++i)
-        mayor = std::max<int>(mayor, s.NroVertices(i));
-    for (auto* vertices : {&s.XVertice, &s.YVertice}) {
+        mayor = std::max<int>(mayor, s.Red.NroVertices(i));
+    for (auto* vertices : {&s.Red.XVertice, &s.Red.YVertice}) {
         if (vertices->UltimaFila() < model::MaxCauces) vertices->Dimensiona(model::MaxCauces, mayor);
         if (vertices->TopeColumna() < mayor) vertices->Redimensiona(mayor);
     }
@@ -54,13 +54,13 @@ void AjustaDesembocaduras(Siro& s)
 {
     const int enteros = CaucesEnteros(s);
     for (int i = 1; i <= enteros; ++i) {
-        const std::string& destino = s.ColCauces.Item(i).Cauce_aa;
+        const std::string& destino = s.Red.ColCauces.Item(i).Cauce_aa;
         for (int k = 1; k <= enteros; ++k) {
-            if (!engine::DrenaA(destino, s.ColCauces.Item(k).NombreCauce)) continue;
-            const int ultimo = s.NroVertices(k);
-            if (ultimo >= 1 && s.NroVertices(i) >= 1) {
-                s.XVertice(i, 1) = s.XVertice(k, ultimo);
-                s.YVertice(i, 1) = s.YVertice(k, ultimo);
+            if (!engine::DrenaA(destino, s.Red.ColCauces.Item(k).NombreCauce)) continue;
+            const int ultimo = s.Red.NroVertices(k);
+            if (ultimo >= 1 && s.Red.NroVertices(i) >= 1) {
+                s.Red.XVertice(i, 1) = s.Red.XVertice(k, ultimo);
+                s.Red.YVertice(i, 1) = s.Red.YVertice(k, ultimo);
             }
             break;
         }
@@ -71,18 +71,18 @@ Extension Extiende(const frmUEHs& f, const Siro& s)
 {
     Extension e;
     // An image without reaches is the drawing: it is what will be traced.
-    if (f.ImagenVisible && s.NroCauces == 0) {
+    if (f.ImagenVisible && s.Red.NroCauces == 0) {
         e.Abarca({1, 1});
         e.Abarca({static_cast<float>(f.imagen.ancho), static_cast<float>(f.imagen.alto)});
     }
     for (int i = 1; i <= CaucesDibujados(s); ++i) {
-        const float* x = s.XVertice.Fila(i);
-        const float* y = s.YVertice.Fila(i);
-        for (int j = 1; j <= s.NroVertices(i); ++j)
+        const float* x = s.Red.XVertice.Fila(i);
+        const float* y = s.Red.YVertice.Fila(i);
+        for (int j = 1; j <= s.Red.NroVertices(i); ++j)
             e.Abarca({x[j], y[j]});
     }
     PorClase([&](const auto& clase) {
-        for (const auto& c : s.*clase.coleccion)
+        for (const auto& c : s.Red.*clase.coleccion)
             e.Abarca(Icono(clase, c));
     });
     return e;
@@ -97,7 +97,7 @@ void AjustaEscala(frmUEHs& f, const Siro& s)
         const double escala = std::max(ancho, alto) * HolguraEscala / f.EscalaBase * 100;
         f.sldEscala = static_cast<int>(std::clamp<double>(std::trunc(escala), EscalaMinima, EscalaMaxima));
     }
-    if (s.NroCauces == 0) f.sldEscala = 100;
+    if (s.Red.NroCauces == 0) f.sldEscala = 100;
     f.reescala = false;
 }
 
@@ -124,21 +124,22 @@ void PintaImagen(frmUEHs& f, const Siro& s)
     if (!f.ImagenVisible) return;
     double ancho = f.imagen.ancho;
     double alto = AlturaDePixel * f.imagen.alto;
-    if (s.EscalaImagen != 0) {
-        ancho *= s.EscalaImagen / 100;
-        alto *= s.EscalaImagen / 100;
+    if (s.Configuracion.EscalaImagen != 0) {
+        ancho *= s.Configuracion.EscalaImagen / 100;
+        alto *= s.Configuracion.EscalaImagen / 100;
     }
-    f.dibujo.Imagen({s.ImagenX0, s.ImagenY0}, static_cast<float>(ancho), static_cast<float>(alto));
+    f.dibujo.Imagen({s.Configuracion.ImagenX0, s.Configuracion.ImagenY0}, static_cast<float>(ancho),
+                    static_cast<float>(alto));
 }
 
 void PintaCauces(frmUEHs& f, const Siro& s)
 {
     for (int i = 1; i <= CaucesDibujados(s); ++i) {
-        const int vertices = s.NroVertices(i);
+        const int vertices = s.Red.NroVertices(i);
         if (vertices < 1) continue;
         f.dibujo.Polilinea(Papel::Cauce, f.AnchoLinea);
-        const float* x = s.XVertice.Fila(i);
-        const float* y = s.YVertice.Fila(i);
+        const float* x = s.Red.XVertice.Fila(i);
+        const float* y = s.Red.YVertice.Fila(i);
         for (int j = 1; j <= vertices; ++j)
             f.dibujo.Agrega({x[j], y[j]});
     }
@@ -164,10 +165,10 @@ Punto Centro(Clase clase, Punto en, float s)
 /// its drain point.
 Punto FinDelEnlace(const frmUEHs& f, const Siro& s, const ConIcono& c)
 {
-    for (const auto& r : s.ColRepresas)
+    for (const auto& r : s.Red.ColRepresas)
         if (engine::DrenaA(c.destino, r.NombreRepresa))
             return Centro(Clase::Represa, {r.IconoRepresaX, r.IconoRepresaY}, f.TamIcono);
-    for (const auto& l : s.ColLagos)
+    for (const auto& l : s.Red.ColLagos)
         if (engine::DrenaA(c.destino, l.NombreLAGO)) return {l.IconoLAGOx, l.IconoLAGOy};
     return c.drena;
 }
@@ -204,7 +205,7 @@ template <typename T, int Limite>
 void PintaClase(frmUEHs& f, const Siro& s, const ClaseConIcono<T, Limite>& filas, const Aspecto& aspecto)
 {
     int n = 0;
-    for (const T& c : s.*filas.coleccion)
+    for (const T& c : s.Red.*filas.coleccion)
         PintaComponente(f, s,
                         {.clase = aspecto.clase,
                          .enlace = aspecto.enlace,
@@ -212,7 +213,7 @@ void PintaClase(frmUEHs& f, const Siro& s, const ClaseConIcono<T, Limite>& filas
                          .drena = {c.XCauce, c.YCauce},
                          .nombre = c.*filas.nombre,
                          .destino = c.Cauce_aa,
-                         .seleccionado = ++n == s.*filas.elegido,
+                         .seleccionado = ++n == s.Seleccion.*filas.elegido,
                          .bajoElIcono = aspecto.bajoElIcono});
 }
 
@@ -225,22 +226,22 @@ void PintaComponentes(frmUEHs& f, const Siro& s)
 
 void MarcaCauceElegido(frmUEHs& f, const Siro& s)
 {
-    if (s.CauceSel < 1 || s.CauceSel > CaucesDibujados(s)) return;
+    if (s.Seleccion.CauceSel < 1 || s.Seleccion.CauceSel > CaucesDibujados(s)) return;
     const float lado = LadoDeMarca(f);
-    for (int j = 1; j <= s.NroVertices(s.CauceSel); ++j)
-        f.dibujo.Cuadrado(j == s.VerticeSel ? Papel::VerticeTomado : Papel::MarcaVertice,
-                          Vertice(s, s.CauceSel, j), lado);
+    for (int j = 1; j <= s.Red.NroVertices(s.Seleccion.CauceSel); ++j)
+        f.dibujo.Cuadrado(j == s.Seleccion.VerticeSel ? Papel::VerticeTomado : Papel::MarcaVertice,
+                          Vertice(s, s.Seleccion.CauceSel, j), lado);
 }
 
 void EscribeOrdenes(frmUEHs& f, const Siro& s)
 {
     if (!f.OrdenVisible) return;
     for (int i = 1; i <= CaucesEnteros(s); ++i) {
-        if (s.NroVertices(i) < 2) continue;
+        if (s.Red.NroVertices(i) < 2) continue;
         const Punto p = Vertice(s, i, 2);
         const float corrido = CorrimientoOrden * static_cast<float>(f.ToleranciaVertice);
         f.dibujo.Texto(Papel::Orden, {p.X - corrido, p.Y},
-                       model::NumeroATexto(std::int32_t{s.ColCauces.Item(i).OrdenCauce}));
+                       model::NumeroATexto(std::int32_t{s.Red.ColCauces.Item(i).OrdenCauce}));
     }
 }
 
@@ -273,13 +274,13 @@ void Extension::Abarca(Punto p)
 
 int CaucesEnteros(const Siro& s)
 {
-    return std::min(CaucesDibujados(s), s.ColCauces.Cuenta());
+    return std::min(CaucesDibujados(s), s.Red.ColCauces.Cuenta());
 }
 
 void Redibuja(frmUEHs& f, Siro& s)
 {
     // A save or a fresh read has taken away the reach that was being drawn.
-    if (f.ClicsCauce > 0 && s.NroCauces != s.ColCauces.Cuenta() + 1) f.ClicsCauce = 0;
+    if (f.ClicsCauce > 0 && s.Red.NroCauces != s.Red.ColCauces.Cuenta() + 1) f.ClicsCauce = 0;
     AmpliaVertices(s);
     AjustaDesembocaduras(s);
     f.dibujo.Vacia();

@@ -62,7 +62,7 @@ bool PasaLaValidacion(frmUEHs& f, Siro& s)
     bool pasa = false;
     Orden(f, s, [&] {
         engine::ComponenteFinal(s);
-        pasa = s.ContinuarSinCorregir || s.RedOk;
+        pasa = s.Control.ContinuarSinCorregir || s.Control.RedOk;
     });
     return pasa;
 }

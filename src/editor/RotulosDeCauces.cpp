@@ -39,7 +39,7 @@ std::optional<Medio> MedioDe(const frmUEHs& f, const Siro& s, int cauce)
         const Pixel a = lugar(j - 1), b = lugar(j);
         return std::hypot(b.x - a.x, b.y - a.y);
     };
-    const int vertices = s.NroVertices(cauce);
+    const int vertices = s.Red.NroVertices(cauce);
     double largo = 0;
     for (int j = 2; j <= vertices; ++j)
         largo += tramo(j);
@@ -74,9 +74,9 @@ void PintaSentido(frmUEHs& f, const Medio& m)
 void PintaNombre(frmUEHs& f, const Siro& s, int cauce, const Medio& m)
 {
     constexpr double AnchoDeLetra = 6.5;  // about so much; the canvas alone knows the font [pixels]
-    const std::string& nombre = s.ColCauces.Item(cauce).NombreCauce;
+    const std::string& nombre = s.Red.ColCauces.Item(cauce).NombreCauce;
     const Pixel boca = APixel(f, Vertice(s, cauce, 1));
-    const Pixel cabecera = APixel(f, Vertice(s, cauce, s.NroVertices(cauce)));
+    const Pixel cabecera = APixel(f, Vertice(s, cauce, s.Red.NroVertices(cauce)));
     const double dx = boca.x - cabecera.x, dy = boca.y - cabecera.y;
     const bool baja = std::fabs(dx) > std::fabs(dy) && dx * dy > 0;
     const double aparte = f.AnchoLinea / 2.0 + JuntoALaLinea;
@@ -87,7 +87,7 @@ void PintaNombre(frmUEHs& f, const Siro& s, int cauce, const Medio& m)
 /// Destination of a reach; one that is being drawn has none yet.
 std::string DestinoDe(const Siro& s, int cauce)
 {
-    return cauce <= CaucesEnteros(s) ? s.ColCauces.Item(cauce).Cauce_aa : std::string();
+    return cauce <= CaucesEnteros(s) ? s.Red.ColCauces.Item(cauce).Cauce_aa : std::string();
 }
 
 /// Whether a point touches the head of a reach other than this one, into which it doesn't drain.
@@ -95,10 +95,10 @@ bool TocaOtroCauce(const frmUEHs& f, const Siro& s, int cauce, Punto boca)
 {
     const double alcance = ParteDeToque * AnchoLogico(f);
     const std::string destino = DestinoDe(s, cauce);
-    for (int k = 1; k <= s.NroCauces; ++k) {
+    for (int k = 1; k <= s.Red.NroCauces; ++k) {
         if (k == cauce || !CabeceraCerca(s, k, boca, alcance)) continue;
         const bool acoplado =
-            k <= CaucesEnteros(s) && engine::DrenaA(destino, s.ColCauces.Item(k).NombreCauce);
+            k <= CaucesEnteros(s) && engine::DrenaA(destino, s.Red.ColCauces.Item(k).NombreCauce);
         if (!acoplado) return true;
     }
     return false;
@@ -110,7 +110,7 @@ bool TocaEmbalse(const frmUEHs& f, const Siro& s, const ClaseConIcono<T, Limite>
                  Punto boca)
 {
     const int n = Bajo(f, s, clase, boca);
-    return n > 0 && !engine::DrenaA(DestinoDe(s, cauce), (s.*clase.coleccion).Item(n).*clase.nombre);
+    return n > 0 && !engine::DrenaA(DestinoDe(s, cauce), (s.Red.*clase.coleccion).Item(n).*clase.nombre);
 }
 
 void MarcaSinAcople(frmUEHs& f, const Siro& s, int cauce)
@@ -125,8 +125,8 @@ void MarcaSinAcople(frmUEHs& f, const Siro& s, int cauce)
 
 void RotulaCauces(frmUEHs& f, const Siro& s)
 {
-    for (int i = 1; i <= s.NroCauces; ++i) {
-        if (s.NroVertices(i) < 1) continue;
+    for (int i = 1; i <= s.Red.NroCauces; ++i) {
+        if (s.Red.NroVertices(i) < 1) continue;
         if (Modo(f) == Boton::Cauce) MarcaSinAcople(f, s, i);
         const std::optional<Medio> medio = MedioDe(f, s, i);
         if (!medio) continue;

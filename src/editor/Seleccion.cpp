@@ -20,11 +20,11 @@ namespace {
 /// Grabs the first vertex of the selected reach that lies within the tolerance.
 bool TomaVertice(const frmUEHs& f, Siro& s, Punto p)
 {
-    s.VerticeSel = 0;
-    if (s.CauceSel < 1 || s.CauceSel > CaucesEnteros(s)) return false;
-    for (std::int16_t j = 1; j <= s.NroVertices(s.CauceSel); ++j)
-        if (Cerca(p, Vertice(s, s.CauceSel, j), f.ToleranciaVertice)) {
-            s.VerticeSel = j;
+    s.Seleccion.VerticeSel = 0;
+    if (s.Seleccion.CauceSel < 1 || s.Seleccion.CauceSel > CaucesEnteros(s)) return false;
+    for (std::int16_t j = 1; j <= s.Red.NroVertices(s.Seleccion.CauceSel); ++j)
+        if (Cerca(p, Vertice(s, s.Seleccion.CauceSel, j), f.ToleranciaVertice)) {
+            s.Seleccion.VerticeSel = j;
             return true;
         }
     return false;
@@ -32,7 +32,7 @@ bool TomaVertice(const frmUEHs& f, Siro& s, Punto p)
 
 bool TocaCauce(const Siro& s, int cauce, Punto p, double distancia)
 {
-    for (int j = 1; j <= s.NroVertices(cauce); ++j)
+    for (int j = 1; j <= s.Red.NroVertices(cauce); ++j)
         if (Cerca(p, Vertice(s, cauce, j), distancia)) return true;
     return false;
 }
@@ -42,7 +42,7 @@ bool EligeCauce(const frmUEHs& f, Siro& s, Punto p)
 {
     for (int i = CaucesEnteros(s); i >= 1; --i)
         if (TocaCauce(s, i, p, f.ToleranciaVertice / 2.0)) {
-            s.CauceSel = model::Entero16(i);
+            s.Seleccion.CauceSel = model::Entero16(i);
             return true;
         }
     return false;
@@ -54,15 +54,15 @@ using Armados = std::array<std::int16_t, 3>;
 template <typename T, int Limite>
 std::int16_t Armado(const frmUEHs& f, Siro& s, const ClaseConIcono<T, Limite>& clase, Punto p)
 {
-    const std::int16_t n = s.*clase.elegido;
-    if (n < 1 || n > (s.*clase.coleccion).Cuenta()) return 0;
+    const std::int16_t n = s.Seleccion.*clase.elegido;
+    if (n < 1 || n > (s.Red.*clase.coleccion).Cuenta()) return 0;
     const Punto asa = Asa(Icono(clase, Elegido(s, clase)), f.TamIcono);
     return Cerca(p, asa, AlcanceDelAsa * f.TamIcono) ? n : std::int16_t{0};
 }
 
 bool CercaDeLaUEHElegida(const frmUEHs& f, Siro& s, Punto p)
 {
-    return s.UEHSel >= 1 && s.UEHSel <= s.ColUEHs.Cuenta() &&
+    return s.Seleccion.UEHSel >= 1 && s.Seleccion.UEHSel <= s.Red.ColUEHs.Cuenta() &&
            Cerca(p, Icono(ClaseUEH, Elegido(s, ClaseUEH)), AlcanceDeUEH * f.TamIcono);
 }
 
@@ -74,21 +74,22 @@ bool EligeIconos(const frmUEHs& f, Siro& s, Punto p)
     const auto elige = [&](const auto& clase) {
         const int n = Bajo(f, s, clase, p);
         if (n == 0) return false;
-        s.*clase.elegido = model::Entero16(n);
+        s.Seleccion.*clase.elegido = model::Entero16(n);
         return alguno = true;
     };
     if (!alguno) elige(ClaseUEH);
     elige(ClaseRepresa);
     if (elige(ClaseLago)) {
-        s.RepresaSel = 0;
-        if (s.CauceSel > 0) s.UEHSel = 0;
+        s.Seleccion.RepresaSel = 0;
+        if (s.Seleccion.CauceSel > 0) s.Seleccion.UEHSel = 0;
     }
     return alguno;
 }
 
 int CuantosElegidos(const Siro& s)
 {
-    return (s.CauceSel > 0) + (s.UEHSel > 0) + (s.RepresaSel > 0) + (s.LagoSel > 0);
+    return (s.Seleccion.CauceSel > 0) + (s.Seleccion.UEHSel > 0) + (s.Seleccion.RepresaSel > 0) +
+           (s.Seleccion.LagoSel > 0);
 }
 
 /// Settles what a drag from this press would do: draw the link of a component that is still selected, or
@@ -98,12 +99,12 @@ void ArmaArrastre(frmUEHs& f, Siro& s, Punto p, const Armados& armados)
     std::size_t i = 0;
     PorClase([&](const auto& clase) {
         const std::int16_t armado = armados[i++];
-        if (f.arrastra == Arrastra::Nada && armado > 0 && s.*clase.elegido == armado)
+        if (f.arrastra == Arrastra::Nada && armado > 0 && s.Seleccion.*clase.elegido == armado)
             f.arrastra = clase.enlaza;
     });
     if (f.arrastra != Arrastra::Nada || CuantosElegidos(s) != 1) return;
     PorClase([&](const auto& clase) {
-        if (s.*clase.elegido == 0) return;
+        if (s.Seleccion.*clase.elegido == 0) return;
         const Punto icono = Icono(clase, Elegido(s, clase));
         f.arrastra = clase.mueve;
         f.agarre = {p.X - icono.X, p.Y - icono.Y};
@@ -121,9 +122,9 @@ void Selecciona(frmUEHs& f, Siro& s, Punto p)
     f.banda.clear();
 
     const bool vertice = TomaVertice(f, s, p);
-    if (s.CauceSel > 0) {
-        s.CauceAnterior = s.CauceSel;
-        s.UEHSel = s.RepresaSel = s.LagoSel = 0;
+    if (s.Seleccion.CauceSel > 0) {
+        s.Seleccion.CauceAnterior = s.Seleccion.CauceSel;
+        s.Seleccion.UEHSel = s.Seleccion.RepresaSel = s.Seleccion.LagoSel = 0;
     }
     f.ToleranciaVertice = ToleranciaPresente(f);
     const bool cauce = !vertice && EligeCauce(f, s, p);

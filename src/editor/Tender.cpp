@@ -32,7 +32,7 @@ bool LlegaACauce(const frmUEHs& f, const Siro& s, Punto p, Llegada& llegada)
 {
     for (int i = 1; i <= CaucesEnteros(s); ++i) {
         if (!CabeceraCerca(s, i, p, AlcanceDeDestino * f.TamIcono)) continue;
-        llegada = {s.ColCauces.Item(i).NombreCauce, UltimoVertice(s, i), ConElCauce};
+        llegada = {s.Red.ColCauces.Item(i).NombreCauce, UltimoVertice(s, i), ConElCauce};
         return true;
     }
     return false;
@@ -44,7 +44,7 @@ bool LlegaAEmbalse(const frmUEHs& f, const Siro& s, Punto p, Llegada& llegada)
     const auto llega = [&](const auto& clase) {
         const int n = Bajo(f, s, clase, p);
         if (n == 0) return false;
-        const auto& componente = (s.*clase.coleccion).Item(n);
+        const auto& componente = (s.Red.*clase.coleccion).Item(n);
         llegada = {componente.*clase.nombre, Icono(clase, componente), clase.conDestino};
         return true;
     };
@@ -60,7 +60,7 @@ bool OtroDrena(const Siro& s, const T& este, const std::string& cauce)
             if (static_cast<const void*>(&otro) != &este && engine::DrenaA(otro.Cauce_aa, cauce)) return true;
         return false;
     };
-    return drena(s.ColRepresas) || drena(s.ColLagos);
+    return drena(s.Red.ColRepresas) || drena(s.Red.ColLagos);
 }
 
 template <typename T, int Limite>

@@ -57,8 +57,9 @@ void SueltaTodo(frmUEHs& f)
 std::string Estado(const Siro& s)
 {
     // "Conf.vlm" without its underscore: kept as it stands.
-    return "UEHs : " + s.NombreProyecto + "_UEHs.vlm" + "     Proyecto: " + s.NombreProyecto +
-           "     Dir: " + s.DirProyectoConf + "   Config. : " + s.NombreProyecto + "Conf.vlm";
+    return "UEHs : " + s.Proyecto.NombreProyecto + "_UEHs.vlm" +
+           "     Proyecto: " + s.Proyecto.NombreProyecto + "     Dir: " + s.Proyecto.DirProyectoConf +
+           "   Config. : " + s.Proyecto.NombreProyecto + "Conf.vlm";
 }
 
 /// Returns whether the network was saved; if not, memory and undo are as they were.
@@ -84,7 +85,7 @@ bool SueltaMedicion(frmUEHs& f, Siro& s)
 void Cierra(frmUEHs& f, Siro& s)
 {
     engine::ComponenteFinal(s);
-    if (!s.ContinuarSinCorregir && !s.RedOk) return;
+    if (!s.Control.ContinuarSinCorregir && !s.Control.RedOk) return;
     if (model::Consulta(s, std::string(PreguntaResguardo), TituloResguardo) && !Guarda(f, s)) return;
     CierraVentana(f, s);
 }
@@ -171,7 +172,7 @@ void Abre(frmUEHs& f, Siro& s, Tamano pantalla)
     f.TamIcono = model::Simple(1.2 * f.AnchoLinea + 10);
     f.AnchoLinea = AnchoAlAbrir;
     f.abierta = true;
-    if (s.NombreProyecto.empty()) return;
+    if (s.Proyecto.NombreProyecto.empty()) return;
 
     model::leoConf(s);
     LimpiaSeleccion(s);
@@ -180,7 +181,7 @@ void Abre(frmUEHs& f, Siro& s, Tamano pantalla)
     const auto informa = [&](const model::Falla& falla) { InformaFalla(s, falla); };
     model::Sentencia(
         [&] {
-            const std::int32_t base = model::Entero32(model::Val(s.MaxUEHsPixel));
+            const std::int32_t base = model::Entero32(model::Val(s.Configuracion.MaxUEHsPixel));
             if (base > 0) f.EscalaBase = base;
         },
         informa);
@@ -195,9 +196,9 @@ void Abre(frmUEHs& f, Siro& s, Tamano pantalla)
 
 void AlActivarse(frmUEHs& f, Siro& s)
 {
-    s.AvisoDescargasVisto = false;
+    s.Control.AvisoDescargasVisto = false;
     f.principalVisible = false;
-    if (f.historia.proyecto != s.NombreProyecto) {
+    if (f.historia.proyecto != s.Proyecto.NombreProyecto) {
         EmpiezaHistoria(f, s);
         f.lblEstado = Estado(s);
     }
@@ -221,7 +222,9 @@ void Form_Resize(frmUEHs& f, Tamano ventana)
 
 bool RedVacia(const Siro& s)
 {
-    return s.ColUEHs.Cuenta() + s.ColCauces.Cuenta() + s.ColLagos.Cuenta() + s.ColRepresas.Cuenta() == 0;
+    return s.Red.ColUEHs.Cuenta() + s.Red.ColCauces.Cuenta() + s.Red.ColLagos.Cuenta() +
+               s.Red.ColRepresas.Cuenta() ==
+           0;
 }
 
 bool Form_QueryUnload(frmUEHs& f, Siro& s)
@@ -289,7 +292,7 @@ void Form_KeyDown(frmUEHs& f, Siro& s, Tecla tecla)
             BorraSeleccionados(f, s);
             break;
         case Tecla::Insertar:
-            if (s.CauceSel > 0) f.pedidos.push_back(Pedido::FormaCauce);
+            if (s.Seleccion.CauceSel > 0) f.pedidos.push_back(Pedido::FormaCauce);
             break;
         case Tecla::Esc:
             if (!SueltaMedicion(f, s)) Cierra(f, s);
@@ -330,7 +333,8 @@ std::int16_t ToleranciaPresente(const frmUEHs& f)
 
 void LimpiaSeleccion(Siro& s)
 {
-    s.CauceSel = s.CauceAnterior = s.UEHSel = s.RepresaSel = s.LagoSel = s.VerticeSel = 0;
+    s.Seleccion.CauceSel = s.Seleccion.CauceAnterior = s.Seleccion.UEHSel = s.Seleccion.RepresaSel =
+        s.Seleccion.LagoSel = s.Seleccion.VerticeSel = 0;
 }
 
 void CierraVentana(frmUEHs& f, Siro& s)
@@ -347,7 +351,7 @@ void DescartaTrazo(frmUEHs& f, Siro& s)
 {
     if (f.ClicsCauce == 0) return;
     f.ClicsCauce = 0;
-    s.NroCauces = model::Entero16(s.ColCauces.Cuenta());
+    s.Red.NroCauces = model::Entero16(s.Red.ColCauces.Cuenta());
 }
 
 }  // namespace editor

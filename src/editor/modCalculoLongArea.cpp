@@ -70,7 +70,7 @@ void CalculaLongArea(frmUEHs& f, Siro& s)
         AgregaPuntoMedida(f, {f.XMedida[1], f.YMedida[1]});
         s.Anfitrion.RedibujaEditor();  // the box stands over the closed figure
     }
-    const double escala = model::Val(s.EscalaDibujo);  // [m per drawing unit]
+    const double escala = model::Val(s.Configuracion.EscalaDibujo);  // [m per drawing unit]
     f.LongitudMedida = Simple(SumaDeLados(f, Largo) * escala);
     f.AreaMedida = cerrada ? Simple(escala * escala * SumaDeLados(f, DobleTrapecio) / 2 / M2PorHa) : 0;
     f.NroPuntosMedida = 0;

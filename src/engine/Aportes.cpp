@@ -14,8 +14,8 @@ using FilasPorNombre = std::unordered_map<std::string_view, int>;
 FilasPorNombre NumeraFilas(const model::Siro& s, int desde, int hasta)
 {
     FilasPorNombre filas;
-    for (int i = std::max(desde, 1); i <= hasta && i <= s.NroComponentes; ++i)
-        filas.try_emplace(s.Secuencia[static_cast<std::size_t>(i)], i);
+    for (int i = std::max(desde, 1); i <= hasta && i <= s.Resultados.NroComponentes; ++i)
+        filas.try_emplace(s.Resultados.Secuencia[static_cast<std::size_t>(i)], i);
     return filas;
 }
 
@@ -24,8 +24,8 @@ FilasPorNombre NumeraFilas(const model::Siro& s, int desde, int hasta)
 Aportes::Aportes(const model::Siro& s)
 {
     std::unordered_map<std::string_view, Afluentes> porDestino;
-    const FilasPorNombre filasUEH = NumeraFilas(s, 1, s.NroUEHs);
-    const FilasPorNombre filasResto = NumeraFilas(s, s.NroUEHs + 1, s.NroComponentes);
+    const FilasPorNombre filasUEH = NumeraFilas(s, 1, s.Red.NroUEHs);
+    const FilasPorNombre filasResto = NumeraFilas(s, s.Red.NroUEHs + 1, s.Resultados.NroComponentes);
     const auto conFila = [&](const FilasPorNombre& filas, const auto& nombre, const auto& destino,
                              auto hace) {
         if (destino.empty() || destino == "0") return;
@@ -36,22 +36,22 @@ Aportes::Aportes(const model::Siro& s)
         conFila(filas, nombre, destino, [&](Afluentes& a, int fila) { (a.*lista).push_back(fila); });
     };
     int item = 0;
-    for (const auto& u : s.ColUEHs) {
+    for (const auto& u : s.Red.ColUEHs) {
         ++item;
         conFila(filasUEH, u.NombreUEH, u.Cauce_aa, [&](Afluentes& a, int fila) {
             a.UEHs.push_back({fila, item});
         });
     }
-    for (const auto& c : s.ColCauces)
+    for (const auto& c : s.Red.ColCauces)
         anota(filasResto, c.NombreCauce, c.Cauce_aa, &Afluentes::Cauces);
-    for (const auto& r : s.ColRepresas)
+    for (const auto& r : s.Red.ColRepresas)
         anota(filasResto, r.NombreRepresa, r.Cauce_aa, &Afluentes::Represas);
-    for (const auto& l : s.ColLagos)
+    for (const auto& l : s.Red.ColLagos)
         anota(filasResto, l.NombreLAGO, l.Cauce_aa, &Afluentes::Lagos);
 
-    porFila.resize(s.Secuencia.size());
+    porFila.resize(s.Resultados.Secuencia.size());
     for (std::size_t fila = 0; fila < porFila.size(); ++fila)
-        if (const auto hallado = porDestino.find(s.Secuencia[fila]); hallado != porDestino.end())
+        if (const auto hallado = porDestino.find(s.Resultados.Secuencia[fila]); hallado != porDestino.end())
             porFila[fila] = hallado->second;
 }
 

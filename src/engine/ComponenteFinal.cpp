@@ -51,19 +51,19 @@ struct Destinos {
 Destinos BuscaDestinos(const Siro& s)
 {
     Destinos d;
-    for (const auto& c : s.ColCauces)
+    for (const auto& c : s.Red.ColCauces)
         d.posibles.insert(c.NombreCauce);
-    for (const auto& l : s.ColLagos)
+    for (const auto& l : s.Red.ColLagos)
         d.posibles.insert(l.NombreLAGO);
-    for (const auto& r : s.ColRepresas)
+    for (const auto& r : s.Red.ColRepresas)
         d.posibles.insert(r.NombreRepresa);
-    for (const auto& u : s.ColUEHs)
+    for (const auto& u : s.Red.ColUEHs)
         d.alimentados.insert(u.Cauce_aa);
-    for (const auto& c : s.ColCauces)
+    for (const auto& c : s.Red.ColCauces)
         d.alimentados.insert(c.Cauce_aa);
-    for (const auto& l : s.ColLagos)
+    for (const auto& l : s.Red.ColLagos)
         d.alimentados.insert(l.Cauce_aa);
-    for (const auto& r : s.ColRepresas)
+    for (const auto& r : s.Red.ColRepresas)
         d.alimentados.insert(r.Cauce_aa);
     return d;
 }
@@ -71,25 +71,25 @@ Destinos BuscaDestinos(const Siro& s)
 void AnotaSalida(Siro& s, const Destinos& d, const std::string& nombre, const std::string& Cauce_aa)
 {
     if (EsDestino(Cauce_aa) && d.posibles.contains(Cauce_aa)) return;
-    s.NroSalidas = model::Suma16(s.NroSalidas, 1);
+    s.Resultados.NroSalidas = model::Suma16(s.Resultados.NroSalidas, 1);
     model::Sentencia(
         [&] {
-            if (s.NroSalidas > model::MaxSalidas) throw Falla{model::NumeroFalla::Subindice};
-            s.Salidas[static_cast<std::size_t>(s.NroSalidas)] = nombre;
+            if (s.Resultados.NroSalidas > model::MaxSalidas) throw Falla{model::NumeroFalla::Subindice};
+            s.Resultados.Salidas[static_cast<std::size_t>(s.Resultados.NroSalidas)] = nombre;
         },
         [&](const Falla& falla) { model::Informa(s, model::TextoFallaMotor(falla)); });
 }
 
 void BuscaSalidas(Siro& s, const Destinos& d)
 {
-    s.NroSalidas = 0;
-    for (const auto& u : s.ColUEHs)
+    s.Resultados.NroSalidas = 0;
+    for (const auto& u : s.Red.ColUEHs)
         AnotaSalida(s, d, u.NombreUEH, u.Cauce_aa);
-    for (const auto& c : s.ColCauces)
+    for (const auto& c : s.Red.ColCauces)
         AnotaSalida(s, d, c.NombreCauce, c.Cauce_aa);
-    for (const auto& l : s.ColLagos)
+    for (const auto& l : s.Red.ColLagos)
         AnotaSalida(s, d, l.NombreLAGO, l.Cauce_aa);
-    for (const auto& r : s.ColRepresas)
+    for (const auto& r : s.Red.ColRepresas)
         AnotaSalida(s, d, r.NombreRepresa, r.Cauce_aa);
 }
 
@@ -97,7 +97,7 @@ void BuscaSalidas(Siro& s, const Destinos& d)
 void PreguntaPorLaRed(Siro& s, std::string_view texto, const std::string& lista, std::string_view titulo)
 {
     std::string palabras(texto);
-    if (!model::Consulta(s, palabras + lista, titulo, palabras)) s.ContinuarSinCorregir = true;
+    if (!model::Consulta(s, palabras + lista, titulo, palabras)) s.Control.ContinuarSinCorregir = true;
 }
 
 /// Asks about the components of one kind that nothing drains into.
@@ -111,14 +111,14 @@ void CompruebaAportes(Siro& s, const Destinos& d, const Componentes& componentes
             lista.append(nombre(c)).append(Separacion);
     if (lista.empty()) return;
     PreguntaPorLaRed(s, texto, lista.append(Cola), TituloAportes);
-    s.ErrorRed = true;
+    s.Control.ErrorRed = true;
 }
 
 void PreguntaPorSalidas(Siro& s)
 {
     std::string lista;
-    for (int i = 1; i <= s.NroSalidas && i <= model::MaxSalidas; ++i)
-        lista.append(s.Salidas[static_cast<std::size_t>(i)]).append(Separacion);
+    for (int i = 1; i <= s.Resultados.NroSalidas && i <= model::MaxSalidas; ++i)
+        lista.append(s.Resultados.Salidas[static_cast<std::size_t>(i)]).append(Separacion);
     PreguntaPorLaRed(s, VariasSalidas, lista.append(Cola), TituloAportes);
 }
 
@@ -131,45 +131,46 @@ bool DrenaA(const std::string& Cauce_aa, const std::string& nombre)
 
 void RehaceSecuencia(Siro& s)
 {
-    const int cuenta =
-        s.ColUEHs.Cuenta() + s.ColCauces.Cuenta() + s.ColLagos.Cuenta() + s.ColRepresas.Cuenta();
-    s.NroComponentes = model::Entero16(cuenta);
-    s.Secuencia.assign(1, {});
-    for (const auto& u : s.ColUEHs)
-        s.Secuencia.push_back(u.NombreUEH);
-    for (const auto& c : s.ColCauces)
-        s.Secuencia.push_back(c.NombreCauce);
-    for (const auto& l : s.ColLagos)
-        s.Secuencia.push_back(l.NombreLAGO);
-    for (const auto& r : s.ColRepresas)
-        s.Secuencia.push_back(r.NombreRepresa);
+    const int cuenta = s.Red.ColUEHs.Cuenta() + s.Red.ColCauces.Cuenta() + s.Red.ColLagos.Cuenta() +
+                       s.Red.ColRepresas.Cuenta();
+    s.Resultados.NroComponentes = model::Entero16(cuenta);
+    s.Resultados.Secuencia.assign(1, {});
+    for (const auto& u : s.Red.ColUEHs)
+        s.Resultados.Secuencia.push_back(u.NombreUEH);
+    for (const auto& c : s.Red.ColCauces)
+        s.Resultados.Secuencia.push_back(c.NombreCauce);
+    for (const auto& l : s.Red.ColLagos)
+        s.Resultados.Secuencia.push_back(l.NombreLAGO);
+    for (const auto& r : s.Red.ColRepresas)
+        s.Resultados.Secuencia.push_back(r.NombreRepresa);
 }
 
 void ComponenteFinal(Siro& s)
 {
-    s.ErrorRed = false;
-    s.ContinuarSinCorregir = false;
-    s.RedOk = false;
+    s.Control.ErrorRed = false;
+    s.Control.ContinuarSinCorregir = false;
+    s.Control.RedOk = false;
     RehaceSecuencia(s);
     const Destinos d = BuscaDestinos(s);
     BuscaSalidas(s, d);
 
-    if (s.NroSalidas == 0 && s.NroComponentes > 0) {
+    if (s.Resultados.NroSalidas == 0 && s.Resultados.NroComponentes > 0) {
         PreguntaPorLaRed(s, TextoSinSalida, {}, TituloSinSalida);
-        s.ErrorRed = true;
+        s.Control.ErrorRed = true;
     }
     CompruebaAportes(
-        s, d, s.ColCauces, [](const auto& c) -> const auto& { return c.NombreCauce; }, CaucesSinAporte);
+        s, d, s.Red.ColCauces, [](const auto& c) -> const auto& { return c.NombreCauce; }, CaucesSinAporte);
     CompruebaAportes(
-        s, d, s.ColRepresas, [](const auto& r) -> const auto& { return r.NombreRepresa; }, RepresasSinAporte);
+        s, d, s.Red.ColRepresas, [](const auto& r) -> const auto& { return r.NombreRepresa; },
+        RepresasSinAporte);
     CompruebaAportes(
-        s, d, s.ColLagos, [](const auto& l) -> const auto& { return l.NombreLAGO; }, LagosSinAporte);
-    if (s.NroSalidas == 1) {
-        s.RedOk = !s.ContinuarSinCorregir;
+        s, d, s.Red.ColLagos, [](const auto& l) -> const auto& { return l.NombreLAGO; }, LagosSinAporte);
+    if (s.Resultados.NroSalidas == 1) {
+        s.Control.RedOk = !s.Control.ContinuarSinCorregir;
         return;
     }
-    if (s.NroComponentes < 2) return;
-    if (!s.AvisoDescargasVisto) PreguntaPorSalidas(s);
+    if (s.Resultados.NroComponentes < 2) return;
+    if (!s.Control.AvisoDescargasVisto) PreguntaPorSalidas(s);
 }
 
 }  // namespace engine

@@ -53,10 +53,12 @@ constexpr ClaseEmbalse ClaseLago = {
 void SumaAfluente(Corrida& c, const EmbalseEnMano& e, int afluente)
 {
     Siro& s = c.s;
-    if (SumaSegura(s.QEntra, e.fila, s.QSale, afluente, s.NroPasosQ))
-        return SumaFila(s.QEntra.Fila(e.fila), s.QSale.Fila(afluente), {1, s.NroPasosQ});
-    for (int k = 1; k <= s.NroPasosQ; ++k)
-        s.QEntra(e.fila, k) = Simple(double{s.QSale(afluente, k)} + s.QEntra(e.fila, k));
+    if (SumaSegura(s.Resultados.QEntra, e.fila, s.Resultados.QSale, afluente, s.Resultados.NroPasosQ))
+        return SumaFila(s.Resultados.QEntra.Fila(e.fila), s.Resultados.QSale.Fila(afluente),
+                        {1, s.Resultados.NroPasosQ});
+    for (int k = 1; k <= s.Resultados.NroPasosQ; ++k)
+        s.Resultados.QEntra(e.fila, k) =
+            Simple(double{s.Resultados.QSale(afluente, k)} + s.Resultados.QEntra(e.fila, k));
 }
 
 void JuntaAfluentes(Corrida& c, const EmbalseEnMano& e)
@@ -65,7 +67,7 @@ void JuntaAfluentes(Corrida& c, const EmbalseEnMano& e)
     for (const Aportes::AfluenteUEH& u : afluentes.UEHs) {
         SumaAfluente(c, e, u.fila);
         // that of the row's UEH, unlike in a reach: kept as it stands
-        c.QBaseEntra = Simple(double{c.QBaseEntra} + c.s.UEHs(u.fila).Q0Recesion);
+        c.QBaseEntra = Simple(double{c.QBaseEntra} + c.s.Red.UEHs(u.fila).Q0Recesion);
     }
     for (const int f : afluentes.Cauces)
         SumaAfluente(c, e, f);
@@ -81,17 +83,18 @@ bool PropagaMuskingum(Corrida& c, const EmbalseEnMano& e)
         model::Advierte(s, TextoMuskingum(e.nombre));
         return false;
     }
-    for (int k = 1; k <= s.NroPasosQ; ++k) {
-        s.IndPaso = static_cast<std::int16_t>(k);
+    for (int k = 1; k <= s.Resultados.NroPasosQ; ++k) {
+        s.Resultados.IndPaso = static_cast<std::int16_t>(k);
         if (k == 1)
-            s.QSale(e.fila, 1) = s.QEntra(e.fila, 1);
+            s.Resultados.QSale(e.fila, 1) = s.Resultados.QEntra(e.fila, 1);
         else
-            s.QSale(e.fila, k) = Simple(s.QSale(e.fila, k) + double{c.C0Musk} * s.QEntra(e.fila, k) +
-                                        double{c.C1Musk} * s.QEntra(e.fila, k - 1) +
-                                        double{c.C2Musk} * s.QSale(e.fila, k - 1));
-        e.H(e.numero, k) = e.clase.HdeQalma(s, s.QSale(e.fila, k));
-        s.HActual = e.H(e.numero, k);
-        e.S(e.numero, k) = Simple(e.clase.SdeH(s, s.HActual));
+            s.Resultados.QSale(e.fila, k) =
+                Simple(s.Resultados.QSale(e.fila, k) + double{c.C0Musk} * s.Resultados.QEntra(e.fila, k) +
+                       double{c.C1Musk} * s.Resultados.QEntra(e.fila, k - 1) +
+                       double{c.C2Musk} * s.Resultados.QSale(e.fila, k - 1));
+        e.H(e.numero, k) = e.clase.HdeQalma(s, s.Resultados.QSale(e.fila, k));
+        s.Resultados.HActual = e.H(e.numero, k);
+        e.S(e.numero, k) = Simple(e.clase.SdeH(s, s.Resultados.HActual));
     }
     return true;
 }
@@ -130,15 +133,16 @@ void Proceso_en_Represa(Corrida& c, int fila)
 {
     Siro& s = c.s;
     int item = 0;
-    for (model::Represa& r : s.ColRepresas) {
+    for (model::Represa& r : s.Red.ColRepresas) {
         s.CompActual = {ComponenteActual::Clase::Represa, ++item};
         // An earlier Represa without a method stops this one too: kept as it stands.
         if (!MetodoConocido(r.Metodo)) return AvisaMetodo(s, r.NombreRepresa);
         c.QBaseEntra = 0;
-        if (r.NombreRepresa != s.Secuencia[static_cast<std::size_t>(fila)]) continue;
-        const bool sigue = PropagaEmbalse(
-            c, {ClaseRepresa, r.NombreRepresa, r.Metodo, r.numRepresa, fila, r.Represa_k_Musk, r.HInicialEmb,
-                s.HRepresa, s.SRepresa, s.RepresaH, s.RepresaS, s.RepresaFilasHAS});
+        if (r.NombreRepresa != s.Resultados.Secuencia[static_cast<std::size_t>(fila)]) continue;
+        const bool sigue =
+            PropagaEmbalse(c, {ClaseRepresa, r.NombreRepresa, r.Metodo, r.numRepresa, fila, r.Represa_k_Musk,
+                               r.HInicialEmb, s.Resultados.HRepresa, s.Resultados.SRepresa, s.Red.RepresaH,
+                               s.Red.RepresaS, s.Red.RepresaFilasHAS});
         if (!sigue) return;
     }
 }
@@ -147,14 +151,14 @@ void Proceso_en_Lago(Corrida& c, int fila)
 {
     Siro& s = c.s;
     int item = 0;
-    for (model::Lago& l : s.ColLagos) {
+    for (model::Lago& l : s.Red.ColLagos) {
         s.CompActual = {ComponenteActual::Clase::Lago, ++item};
         if (!MetodoConocido(l.Metodo)) return AvisaMetodo(s, l.NombreLAGO);
         c.QBaseEntra = 0;
-        if (l.NombreLAGO != s.Secuencia[static_cast<std::size_t>(fila)]) continue;
-        const bool sigue =
-            PropagaEmbalse(c, {ClaseLago, l.NombreLAGO, l.Metodo, l.numLAGO, fila, l.Lago_k_Musk,
-                               l.HInicialEmb, s.HLago, s.SLago, s.LagoH, s.LagoS, s.LagoFilas});
+        if (l.NombreLAGO != s.Resultados.Secuencia[static_cast<std::size_t>(fila)]) continue;
+        const bool sigue = PropagaEmbalse(
+            c, {ClaseLago, l.NombreLAGO, l.Metodo, l.numLAGO, fila, l.Lago_k_Musk, l.HInicialEmb,
+                s.Resultados.HLago, s.Resultados.SLago, s.Red.LagoH, s.Red.LagoS, s.Red.LagoFilas});
         if (!sigue) return;
     }
 }

@@ -34,7 +34,7 @@ bool TieneRecesion(const model::UEH& u)
 
 double CaudalBase(const Siro& s, const model::UEH& u, std::int16_t p)
 {
-    const double t = -1.0 * Minutos(p, s.PasoQ);
+    const double t = -1.0 * Minutos(p, s.Pasos.PasoQ);
     return u.Q0Recesion * model::Potencia(BaseAbatimiento, Cociente(t, double{u.KRecesion} * 60));
 }
 
@@ -43,24 +43,24 @@ double CaudalBase(const Siro& s, const model::UEH& u, std::int16_t p)
 void RecesionDeUEH(Corrida& c, std::int16_t p, int i, float& Qb)
 {
     Siro& s = c.s;
-    if (!c.Vale([&] { return TieneRecesion(s.UEHs(i)); })) return;
-    c.Intenta([&] { Qb = Simple(CaudalBase(s, s.UEHs(i), p)); });
+    if (!c.Vale([&] { return TieneRecesion(s.Red.UEHs(i)); })) return;
+    c.Intenta([&] { Qb = Simple(CaudalBase(s, s.Red.UEHs(i), p)); });
     if (Qb < 0) {
         model::Advierte(s, std::string(KIncorrecto));
-        c.Intenta([&] { s.UEHs(i).KRecesion = KDeReserva; });
-        c.Intenta([&] { Qb = Simple(CaudalBase(s, s.UEHs(i), p)); });
+        c.Intenta([&] { s.Red.UEHs(i).KRecesion = KDeReserva; });
+        c.Intenta([&] { Qb = Simple(CaudalBase(s, s.Red.UEHs(i), p)); });
     }
-    const double volumen = double{Qb} * s.PasoQ * 60;
-    c.Intenta([&] { s.QSale(i, p) = Simple(double{s.QSale(i, p)} + Qb); });
-    c.Intenta([&] { s.VolBaseUEH(i) = Entero32(s.VolBaseUEH(i) + volumen); });
+    const double volumen = double{Qb} * s.Pasos.PasoQ * 60;
+    c.Intenta([&] { s.Resultados.QSale(i, p) = Simple(double{s.Resultados.QSale(i, p)} + Qb); });
+    c.Intenta([&] { s.Resultados.VolBaseUEH(i) = Entero32(s.Resultados.VolBaseUEH(i) + volumen); });
     c.Intenta([&] { c.VolBaseTotal = Entero32(c.VolBaseTotal + volumen); });
 }
 
 void RecesionUnaPorUna(Corrida& c)
 {
     float Qb = 0;
-    for (int p = 1; p <= c.s.NroPasosQ; ++p)
-        for (int i = 1; i <= c.s.NroUEHs; ++i)
+    for (int p = 1; p <= c.s.Resultados.NroPasosQ; ++p)
+        for (int i = 1; i <= c.s.Red.NroUEHs; ++i)
             RecesionDeUEH(c, static_cast<std::int16_t>(p), i, Qb);
 }
 
@@ -70,30 +70,33 @@ void RecesionUnaPorUna(Corrida& c)
 bool RecesionSegura(Corrida& c)
 {
     Siro& s = c.s;
-    if (s.PasoQ < 1 || s.NroPasosQ < 1 || s.NroPasosQ * s.PasoQ > INT16_MAX) return false;
-    if (s.NroUEHs > s.ColUEHs.Cuenta() || s.NroUEHs > model::MaxUEHs) return false;
-    if (s.QSale.UltimaFila() < s.NroUEHs || s.QSale.TopeColumna() < s.NroPasosQ) return false;
-    if (s.VolBaseUEH.Tope() < s.NroUEHs) return false;
+    if (s.Pasos.PasoQ < 1 || s.Resultados.NroPasosQ < 1 || s.Resultados.NroPasosQ * s.Pasos.PasoQ > INT16_MAX)
+        return false;
+    if (s.Red.NroUEHs > s.Red.ColUEHs.Cuenta() || s.Red.NroUEHs > model::MaxUEHs) return false;
+    if (s.Resultados.QSale.UltimaFila() < s.Red.NroUEHs ||
+        s.Resultados.QSale.TopeColumna() < s.Resultados.NroPasosQ)
+        return false;
+    if (s.Resultados.VolBaseUEH.Tope() < s.Red.NroUEHs) return false;
     double total = 0;
-    for (int i = 1; i <= s.NroUEHs; ++i) {
-        const model::UEH& u = s.UEHs(i);
+    for (int i = 1; i <= s.Red.NroUEHs; ++i) {
+        const model::UEH& u = s.Red.UEHs(i);
         // a constant this short would make powers too small for the type
         if (!TieneRecesion(u)) continue;
         if (u.KRecesion < 0.001F || u.Q0Recesion > 1e6F) return false;
-        if (!(Mayor(s.QSale.Fila(i), 1, s.NroPasosQ) < 1e30F)) return false;
-        total += (double{u.Q0Recesion} * s.PasoQ * 60 + 1) * s.NroPasosQ;
+        if (!(Mayor(s.Resultados.QSale.Fila(i), 1, s.Resultados.NroPasosQ) < 1e30F)) return false;
+        total += (double{u.Q0Recesion} * s.Pasos.PasoQ * 60 + 1) * s.Resultados.NroPasosQ;
     }
     return total < INT32_MAX;
 }
 
 TablaAbatimiento& AbatimientoDe(Corrida& c, float K)
 {
-    const std::int16_t paso = c.s.PasoQ;
+    const std::int16_t paso = c.s.Pasos.PasoQ;
     auto& tablas = c.memoria.abatimiento;
     auto tabla = std::find_if(tablas.begin(), tablas.end(),
                               [&](const TablaAbatimiento& t) { return t.K == K && t.paso == paso; });
     if (tabla == tablas.end()) tabla = tablas.insert(tablas.end(), {K, paso, {1}});
-    for (auto p = tabla->potencia.size(); p <= static_cast<std::size_t>(c.s.NroPasosQ); ++p)
+    for (auto p = tabla->potencia.size(); p <= static_cast<std::size_t>(c.s.Resultados.NroPasosQ); ++p)
         tabla->potencia.push_back(
             std::pow(BaseAbatimiento, -static_cast<double>(p) * paso / (double{K} * 60)));
     return *tabla;
@@ -102,20 +105,20 @@ TablaAbatimiento& AbatimientoDe(Corrida& c, float K)
 void RecesionRapida(Corrida& c)
 {
     Siro& s = c.s;
-    const auto pasos = static_cast<std::size_t>(s.NroPasosQ);
+    const auto pasos = static_cast<std::size_t>(s.Resultados.NroPasosQ);
     std::vector<float> Qb;  // one run of steps per UEH with recession
     std::vector<int> conRecesion;
-    for (int i = 1; i <= s.NroUEHs; ++i) {
-        const model::UEH& u = s.UEHs(i);
+    for (int i = 1; i <= s.Red.NroUEHs; ++i) {
+        const model::UEH& u = s.Red.UEHs(i);
         if (!TieneRecesion(u)) continue;
         const double* potencia = AbatimientoDe(c, u.KRecesion).potencia.data();
-        float* q = s.QSale.Fila(i);
-        std::int32_t& volumen = s.VolBaseUEH(i);
+        float* q = s.Resultados.QSale.Fila(i);
+        std::int32_t& volumen = s.Resultados.VolBaseUEH(i);
         conRecesion.push_back(i);
         for (std::size_t p = 1; p <= pasos; ++p) {
             const auto base = static_cast<float>(u.Q0Recesion * potencia[p]);
             q[p] = static_cast<float>(double{q[p]} + base);
-            volumen = static_cast<std::int32_t>(std::nearbyint(volumen + double{base} * s.PasoQ * 60));
+            volumen = static_cast<std::int32_t>(std::nearbyint(volumen + double{base} * s.Pasos.PasoQ * 60));
             Qb.push_back(base);
         }
     }
@@ -123,7 +126,7 @@ void RecesionRapida(Corrida& c)
     double total = c.VolBaseTotal;
     for (std::size_t p = 0; p < pasos; ++p)
         for (std::size_t n = 0; n < conRecesion.size(); ++n)
-            total = std::nearbyint(total + double{Qb[n * pasos + p]} * s.PasoQ * 60);
+            total = std::nearbyint(total + double{Qb[n * pasos + p]} * s.Pasos.PasoQ * 60);
     c.VolBaseTotal = static_cast<std::int32_t>(total);
 }
 
@@ -132,15 +135,16 @@ void RecesionRapida(Corrida& c)
 void EncabezaHidrogramas(Corrida& c)
 {
     Siro& s = c.s;
-    std::string& texto = s.TextoPizarra;
-    if (s.SalidaPizarra) texto.append("\r\n\r\nCaudales propagados al pié de cada UEH:\r\n").append(12, ' ');
-    for (int i = 1; i <= s.NroUEHs; ++i)
+    std::string& texto = s.Control.TextoPizarra;
+    if (s.Control.SalidaPizarra)
+        texto.append("\r\n\r\nCaudales propagados al pié de cada UEH:\r\n").append(12, ' ');
+    for (int i = 1; i <= s.Red.NroUEHs; ++i)
         c.Intenta([&] {
-            const std::string& nombre = s.UEHs(i).NombreUEH;
+            const std::string& nombre = s.Red.UEHs(i).NombreUEH;
             texto.append(8, ' ').append(nombre).append(7, ' ');
         });
-    if (s.SalidaPizarra) texto.append(7, ' ').append("\r\nPer.k  t[min]");
-    for (int i = 1; i <= s.NroUEHs; ++i)
+    if (s.Control.SalidaPizarra) texto.append(7, ' ').append("\r\nPer.k  t[min]");
+    for (int i = 1; i <= s.Red.NroUEHs; ++i)
         texto.append("- Pp[mm] Q[m3/s] ");
 }
 
@@ -148,15 +152,16 @@ void EncabezaHidrogramas(Corrida& c)
 void EscribeParte(Corrida& c, std::int16_t p, int i)
 {
     Siro& s = c.s;
-    const bool yaNoLlueve = c.Vale([&] { return Minutos(p, s.PasoQ) >= Suma16(s.PasoPp, s.DurTormenta); });
+    const bool yaNoLlueve =
+        c.Vale([&] { return Minutos(p, s.Pasos.PasoQ) >= Suma16(s.Pasos.PasoPp, s.Tormenta.DurTormenta); });
     c.Intenta([&] {
-        const float caudal = Redondea(s.QSale(i, p), 2);
+        const float caudal = Redondea(s.Resultados.QSale(i, p), 2);
         if (yaNoLlueve) {
             c.Linea.Pone("    0").Derecha(caudal, 8).Blancos(4);
             return;
         }
         const std::int16_t m = model::Piso16(Cociente(Suma16(p, c.RelacionPasos) - 1, c.RelacionPasos));
-        const double pp = Redondea(Cociente(s.PpUEHPaso(i, m), c.RelacionPasos), 2);
+        const double pp = Redondea(Cociente(s.Resultados.PpUEHPaso(i, m), c.RelacionPasos), 2);
         c.Linea.Derecha(pp, 5).Derecha(caudal, 8).Blancos(4);
     });
 }
@@ -165,39 +170,52 @@ void HidrogramasUnoPorUno(Corrida& c)
 {
     Siro& s = c.s;
     c.Linea.Vacia();
-    for (int paso = 1; paso <= s.NroPasosQ; ++paso) {
+    for (int paso = 1; paso <= s.Resultados.NroPasosQ; ++paso) {
         const auto p = static_cast<std::int16_t>(paso);
         c.Intenta([&] {
-            const std::int16_t t = Minutos(p, s.PasoQ);
+            const std::int16_t t = Minutos(p, s.Pasos.PasoQ);
             c.Linea.Vacia();
             c.Linea.Izquierda(std::int32_t{p}, 7).Izquierda(std::int32_t{t}, 7);
         });
-        for (int i = 1; i <= s.NroUEHs; ++i) {
+        for (int i = 1; i <= s.Red.NroUEHs; ++i) {
             EscribeParte(c, p, i);
-            s.TextoPizarra.append(12, ' ');
-            c.Intenta([&] { s.VolUEH(i) = Simple(1.0 * s.PasoQ * s.QSale(i, p) * 60 + s.VolUEH(i)); });
+            s.Control.TextoPizarra.append(12, ' ');
             c.Intenta([&] {
-                if (s.QSale(i, p) > s.QMax(i, s.IndSerie)) s.QMax(i, s.IndSerie) = s.QSale(i, p);
+                s.Resultados.VolUEH(i) =
+                    Simple(1.0 * s.Pasos.PasoQ * s.Resultados.QSale(i, p) * 60 + s.Resultados.VolUEH(i));
+            });
+            c.Intenta([&] {
+                if (s.Resultados.QSale(i, p) > s.Resultados.QMax(i, s.Serie.IndSerie))
+                    s.Resultados.QMax(i, s.Serie.IndSerie) = s.Resultados.QSale(i, p);
             });
         }
-        s.TextoPizarra.append("\r\n ").append(c.Linea.Texto());
+        s.Control.TextoPizarra.append("\r\n ").append(c.Linea.Texto());
     }
 }
 
 bool HidrogramasSeguros(Corrida& c)
 {
     Siro& s = c.s;
-    if (s.PasoQ < 1 || s.NroPasosQ < 1 || s.NroPasosQ * s.PasoQ > INT16_MAX) return false;
-    if (s.PasoPp + s.DurTormenta > INT16_MAX || s.NroPasosQ + c.RelacionPasos > INT16_MAX) return false;
-    if (s.NroUEHs > s.ColUEHs.Cuenta() || s.NroUEHs > model::MaxUEHs) return false;
-    if (s.QSale.UltimaFila() < s.NroUEHs || s.QSale.TopeColumna() < s.NroPasosQ) return false;
-    if (s.VolUEH.Tope() < s.NroUEHs) return false;
-    if (s.QMax.UltimaFila() < s.NroUEHs || s.IndSerie < 0 || s.QMax.TopeColumna() < s.IndSerie) return false;
-    const int ultimoConLluvia = (s.PasoPp + s.DurTormenta - 1) / s.PasoQ;
-    const int m = (std::min<int>(ultimoConLluvia, s.NroPasosQ) + c.RelacionPasos - 1) / c.RelacionPasos;
-    if (s.PpUEHPaso.UltimaFila() < s.NroUEHs || s.PpUEHPaso.TopeColumna() < m) return false;
-    for (int i = 1; i <= s.NroUEHs; ++i)
-        if (!VolumenSeguro(s.QSale.Fila(i), s.NroPasosQ, s.PasoQ)) return false;
+    if (s.Pasos.PasoQ < 1 || s.Resultados.NroPasosQ < 1 || s.Resultados.NroPasosQ * s.Pasos.PasoQ > INT16_MAX)
+        return false;
+    if (s.Pasos.PasoPp + s.Tormenta.DurTormenta > INT16_MAX ||
+        s.Resultados.NroPasosQ + c.RelacionPasos > INT16_MAX)
+        return false;
+    if (s.Red.NroUEHs > s.Red.ColUEHs.Cuenta() || s.Red.NroUEHs > model::MaxUEHs) return false;
+    if (s.Resultados.QSale.UltimaFila() < s.Red.NroUEHs ||
+        s.Resultados.QSale.TopeColumna() < s.Resultados.NroPasosQ)
+        return false;
+    if (s.Resultados.VolUEH.Tope() < s.Red.NroUEHs) return false;
+    if (s.Resultados.QMax.UltimaFila() < s.Red.NroUEHs || s.Serie.IndSerie < 0 ||
+        s.Resultados.QMax.TopeColumna() < s.Serie.IndSerie)
+        return false;
+    const int ultimoConLluvia = (s.Pasos.PasoPp + s.Tormenta.DurTormenta - 1) / s.Pasos.PasoQ;
+    const int m =
+        (std::min<int>(ultimoConLluvia, s.Resultados.NroPasosQ) + c.RelacionPasos - 1) / c.RelacionPasos;
+    if (s.Resultados.PpUEHPaso.UltimaFila() < s.Red.NroUEHs || s.Resultados.PpUEHPaso.TopeColumna() < m)
+        return false;
+    for (int i = 1; i <= s.Red.NroUEHs; ++i)
+        if (!VolumenSeguro(s.Resultados.QSale.Fila(i), s.Resultados.NroPasosQ, s.Pasos.PasoQ)) return false;
     return true;
 }
 
@@ -206,14 +224,14 @@ void HidrogramasSinTexto(Corrida& c)
 {
     Siro& s = c.s;
     std::vector<const float*> filas;
-    for (int i = 1; i <= s.NroUEHs; ++i)
-        filas.push_back(s.QSale.Fila(i));
+    for (int i = 1; i <= s.Red.NroUEHs; ++i)
+        filas.push_back(s.Resultados.QSale.Fila(i));
     std::vector<float> volumenes(filas.size());
-    SumaVolumenes(filas, {1, s.NroPasosQ}, s.PasoQ, volumenes);
-    for (int i = 1; i <= s.NroUEHs; ++i) {
-        s.VolUEH(i) = volumenes[static_cast<std::size_t>(i) - 1];
-        float& maximo = s.QMax(i, s.IndSerie);
-        maximo = std::max(maximo, Mayor(s.QSale.Fila(i), 1, s.NroPasosQ));
+    SumaVolumenes(filas, {1, s.Resultados.NroPasosQ}, s.Pasos.PasoQ, volumenes);
+    for (int i = 1; i <= s.Red.NroUEHs; ++i) {
+        s.Resultados.VolUEH(i) = volumenes[static_cast<std::size_t>(i) - 1];
+        float& maximo = s.Resultados.QMax(i, s.Serie.IndSerie);
+        maximo = std::max(maximo, Mayor(s.Resultados.QSale.Fila(i), 1, s.Resultados.NroPasosQ));
     }
 }
 
@@ -229,43 +247,54 @@ std::string Redondeado(Numero x, int decimales)
 void EscribeVolumenes(Corrida& c, int i)
 {
     Siro& s = c.s;
-    std::string& texto = s.TextoPizarra;
-    const auto nombre = [&] { return NumeroATexto(i) + " " + s.UEHs(i).NombreUEH + "   "; };
-    c.Intenta([&] { texto += "\r\nPrecipitación   UEH " + nombre() + Redondeado(s.PpUEH(i), 1) + " mm"; });
+    std::string& texto = s.Control.TextoPizarra;
+    const auto nombre = [&] { return NumeroATexto(i) + " " + s.Red.UEHs(i).NombreUEH + "   "; };
+    c.Intenta(
+        [&] { texto += "\r\nPrecipitación   UEH " + nombre() + Redondeado(s.Tormenta.PpUEH(i), 1) + " mm"; });
     // "m3" is kept as it stands
     c.Intenta([&] {
-        texto += "\r\nCaudal Máximo   UEH " + nombre() + Redondeado(s.QMax(i, s.IndSerie), 2) + " m3";
+        texto += "\r\nCaudal Máximo   UEH " + nombre() +
+                 Redondeado(s.Resultados.QMax(i, s.Serie.IndSerie), 2) + " m3";
     });
     c.Intenta([&] {
         texto += "\r\nEscorrentía     UEH " + nombre() +
-                 Redondeado(double{s.VolUEH(i)} - s.VolBaseUEH(i), 0) + " m3";
+                 Redondeado(double{s.Resultados.VolUEH(i)} - s.Resultados.VolBaseUEH(i), 0) + " m3";
     });
-    c.Intenta([&] { texto += "\r\nCoef.Escorrent. UEH " + nombre() + Redondeado(s.CoefUEH(i), 1) + " %"; });
-    c.Intenta(
-        [&] { texto += "\r\nVolumen de Base UEH " + nombre() + NumeroATexto(s.VolBaseUEH(i)) + " m3"; });
+    c.Intenta([&] {
+        texto += "\r\nCoef.Escorrent. UEH " + nombre() + Redondeado(s.Resultados.CoefUEH(i), 1) + " %";
+    });
+    c.Intenta([&] {
+        texto += "\r\nVolumen de Base UEH " + nombre() + NumeroATexto(s.Resultados.VolBaseUEH(i)) + " m3";
+    });
 }
 
 void VolumenDeUEH(Corrida& c, int i)
 {
     Siro& s = c.s;
-    c.Intenta([&] { c.EscTotalCalc = Entero32(double{s.VolUEH(i)} + c.EscTotalCalc); });
-    const bool sinEscorrentia =
-        c.Vale([&] { return s.VolUEH(i) <= VolumenDespreciable || s.UEHs(i).Area <= 0 || s.PpUEH(i) <= 0; });
+    c.Intenta([&] { c.EscTotalCalc = Entero32(double{s.Resultados.VolUEH(i)} + c.EscTotalCalc); });
+    const bool sinEscorrentia = c.Vale([&] {
+        return s.Resultados.VolUEH(i) <= VolumenDespreciable || s.Red.UEHs(i).Area <= 0 ||
+               s.Tormenta.PpUEH(i) <= 0;
+    });
     if (sinEscorrentia)
-        c.Intenta([&] { s.CoefUEH(i) = 0; });
+        c.Intenta([&] { s.Resultados.CoefUEH(i) = 0; });
     else
         c.Intenta([&] {
-            const double volumen = double{s.VolUEH(i)} - s.VolBaseUEH(i);
-            s.CoefUEH(i) = Simple(Cociente(Cociente(volumen, s.UEHs(i).Area) / 10 * 100, s.PpUEH(i)));
+            const double volumen = double{s.Resultados.VolUEH(i)} - s.Resultados.VolBaseUEH(i);
+            s.Resultados.CoefUEH(i) =
+                Simple(Cociente(Cociente(volumen, s.Red.UEHs(i).Area) / 10 * 100, s.Tormenta.PpUEH(i)));
         });
-    if (s.SalidaPizarra) EscribeVolumenes(c, i);
-    c.Intenta([&] { s.EscUEH(i, s.IndSerie) = Entero32(double{s.VolUEH(i)} - s.VolBaseUEH(i)); });
-    c.Intenta([&] { s.CoefEscUEH(i, s.IndSerie) = s.CoefUEH(i); });
+    if (s.Control.SalidaPizarra) EscribeVolumenes(c, i);
+    c.Intenta([&] {
+        s.Resultados.EscUEH(i, s.Serie.IndSerie) =
+            Entero32(double{s.Resultados.VolUEH(i)} - s.Resultados.VolBaseUEH(i));
+    });
+    c.Intenta([&] { s.Resultados.CoefEscUEH(i, s.Serie.IndSerie) = s.Resultados.CoefUEH(i); });
 }
 
 void EscribeTotales(Corrida& c)
 {
-    std::string& texto = c.s.TextoPizarra;
+    std::string& texto = c.s.Control.TextoPizarra;
     texto += "\r\n";
     texto += "\r\nEscorrentía total[m3]    = " + NumeroATexto(c.EscTotalCalc) + " m3";
     c.Intenta([&] {
@@ -299,7 +328,7 @@ void VolumenesDeUEHs(Corrida& c)
 {
     Siro& s = c.s;
     c.EscTotalCalc = 0;
-    for (int i = 1; i <= s.NroUEHs; ++i)
+    for (int i = 1; i <= s.Red.NroUEHs; ++i)
         VolumenDeUEH(c, i);
     c.Intenta([&] { c.EscTotalCalc = Entero32(double{1} * c.EscTotalCalc - c.VolBaseTotal); });
     if (c.EscTotalCalc <= VolumenDespreciable || c.AreaTotal <= 0)
@@ -308,9 +337,9 @@ void VolumenesDeUEHs(Corrida& c)
         c.Intenta([&] {
             c.CoefTotal = Simple(Cociente(Cociente(c.EscTotalCalc, c.AreaTotal) / 10 * 100, c.SumaPp));
         });
-    c.Intenta([&] { s.CoefEscTotal(s.IndSerie) = c.CoefTotal; });
-    c.Intenta([&] { s.EscTotal(s.IndSerie) = c.EscTotalCalc; });
-    if (s.SalidaPizarra) EscribeTotales(c);
+    c.Intenta([&] { s.Resultados.CoefEscTotal(s.Serie.IndSerie) = c.CoefTotal; });
+    c.Intenta([&] { s.Resultados.EscTotal(s.Serie.IndSerie) = c.EscTotalCalc; });
+    if (s.Control.SalidaPizarra) EscribeTotales(c);
 }
 
 }  // namespace engine

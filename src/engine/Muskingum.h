@@ -12,7 +12,7 @@ namespace engine {
 template <typename Intenta>
 bool CoeficientesMuskingum(Corrida& c, double K, double x, Intenta intenta)
 {
-    const double medioPaso = 0.5 * c.s.PasoQ;
+    const double medioPaso = 0.5 * c.s.Pasos.PasoQ;
     intenta([&] { c.DenMusk = model::Simple(K - K * x + medioPaso); });
     if (c.DenMusk == 0) return false;
     intenta([&] { c.C0Musk = model::Simple((medioPaso - K * x) / c.DenMusk); });

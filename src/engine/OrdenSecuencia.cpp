@@ -19,11 +19,11 @@ namespace {
 std::unordered_map<std::string_view, std::string_view> BuscaDestinos(const Siro& s)
 {
     std::unordered_map<std::string_view, std::string_view> destinos;
-    for (const auto& c : s.ColCauces)
+    for (const auto& c : s.Red.ColCauces)
         destinos.try_emplace(c.NombreCauce, c.Cauce_aa);
-    for (const auto& l : s.ColLagos)
+    for (const auto& l : s.Red.ColLagos)
         destinos.try_emplace(l.NombreLAGO, l.Cauce_aa);
-    for (const auto& r : s.ColRepresas)
+    for (const auto& r : s.Red.ColRepresas)
         destinos.try_emplace(r.NombreRepresa, r.Cauce_aa);
     return destinos;
 }
@@ -39,11 +39,12 @@ std::vector<Lugar> NumeraNombres(const Siro& s, int primero)
 {
     const auto destinos = BuscaDestinos(s);
     std::unordered_map<std::string_view, int> numeros;
-    for (int i = primero; i <= s.NroComponentes; ++i)
-        numeros.try_emplace(s.Secuencia[static_cast<std::size_t>(i)], static_cast<int>(numeros.size()));
-    std::vector<Lugar> lugares(s.Secuencia.size());
-    for (int i = primero; i <= s.NroComponentes; ++i) {
-        const std::string& nombre = s.Secuencia[static_cast<std::size_t>(i)];
+    for (int i = primero; i <= s.Resultados.NroComponentes; ++i)
+        numeros.try_emplace(s.Resultados.Secuencia[static_cast<std::size_t>(i)],
+                            static_cast<int>(numeros.size()));
+    std::vector<Lugar> lugares(s.Resultados.Secuencia.size());
+    for (int i = primero; i <= s.Resultados.NroComponentes; ++i) {
+        const std::string& nombre = s.Resultados.Secuencia[static_cast<std::size_t>(i)];
         Lugar& lugar = lugares[static_cast<std::size_t>(i)];
         lugar.nombre = numeros.at(nombre);
         const auto destino = destinos.find(nombre);
@@ -68,13 +69,14 @@ int BuscaAfluente(const std::vector<Lugar>& lugares, int i, int ultimo)
 /// tried again, except that the last but one is tried once.
 bool Ordena(Siro& s, int primero)
 {
-    const int ultimo = s.NroComponentes;
+    const int ultimo = s.Resultados.NroComponentes;
     std::vector<Lugar> lugares = NumeraNombres(s, primero);
     for (int i = primero; i <= ultimo - 1; ++i) {
         int cambios = 0;
         while (const int j = BuscaAfluente(lugares, i, ultimo)) {
             std::swap(lugares[static_cast<std::size_t>(i)], lugares[static_cast<std::size_t>(j)]);
-            std::swap(s.Secuencia[static_cast<std::size_t>(i)], s.Secuencia[static_cast<std::size_t>(j)]);
+            std::swap(s.Resultados.Secuencia[static_cast<std::size_t>(i)],
+                      s.Resultados.Secuencia[static_cast<std::size_t>(j)]);
             if (i == ultimo - 1) return true;
             if (++cambios > ultimo) return false;
         }
@@ -84,13 +86,13 @@ bool Ordena(Siro& s, int primero)
 
 void EscribeSecuencia(Siro& s)
 {
-    if (!s.SalidaPizarra) return;
+    if (!s.Control.SalidaPizarra) return;
     std::string texto = "\r\n\r\nComponentes y Secuencia de cálculo\r\nNroUEH   Nombre UEH";
-    for (int i = 1; i <= s.NroComponentes; ++i)
+    for (int i = 1; i <= s.Resultados.NroComponentes; ++i)
         texto.append("\r\n    ")
             .append(model::NumeroATexto(i))
             .append("          ")
-            .append(s.Secuencia[static_cast<std::size_t>(i)]);
+            .append(s.Resultados.Secuencia[static_cast<std::size_t>(i)]);
     s.Anfitrion.AgregaPizarra(texto);
 }
 
@@ -98,7 +100,7 @@ void EscribeSecuencia(Siro& s)
 
 bool OrdenSecuencia(Siro& s)
 {
-    const bool ordenada = Ordena(s, s.ColUEHs.Cuenta() + 1);
+    const bool ordenada = Ordena(s, s.Red.ColUEHs.Cuenta() + 1);
     if (ordenada) EscribeSecuencia(s);
     return ordenada;
 }

@@ -36,7 +36,7 @@ bool TodosEnLimite(const model::Arreglo<float>& a, float limite)
 int UltimoPasoConLluvia(const Corrida& c)
 {
     const Siro& s = c.s;
-    return std::min((s.DurTormenta + s.PasoPp - 1) / s.PasoPp, c.NroPasosPp - 1);
+    return std::min((s.Tormenta.DurTormenta + s.Pasos.PasoPp - 1) / s.Pasos.PasoPp, c.NroPasosPp - 1);
 }
 
 double TiempoDeLadera(const UEH& u)
@@ -47,26 +47,32 @@ double TiempoDeLadera(const UEH& u)
 /// Points of a trapezoid: the output steps before T + PasoPp.
 int PuntosDelTrapecio(const Siro& s, int T)
 {
-    return (T + s.PasoPp - 1) / s.PasoQ;
+    return (T + s.Pasos.PasoPp - 1) / s.Pasos.PasoQ;
 }
 
 bool PasosEnRango(const Corrida& c)
 {
     const Siro& s = c.s;
-    if (s.NroUEHs < 1 || s.NroUEHs > model::MaxUEHs || s.ColUEHs.Cuenta() < s.NroUEHs) return false;
-    if (s.PasoQ < 1 || s.PasoPp < s.PasoQ || s.DurTormenta < 1 || c.RelacionPasos < 1) return false;
-    if (s.DurTormenta + s.PasoPp > INT16_MAX || c.NroPasosPp * s.PasoPp > INT16_MAX) return false;
-    return s.PasoPp == c.RelacionPasos * s.PasoQ && c.NroPasosPp >= 1 &&
+    if (s.Red.NroUEHs < 1 || s.Red.NroUEHs > model::MaxUEHs || s.Red.ColUEHs.Cuenta() < s.Red.NroUEHs)
+        return false;
+    if (s.Pasos.PasoQ < 1 || s.Pasos.PasoPp < s.Pasos.PasoQ || s.Tormenta.DurTormenta < 1 ||
+        c.RelacionPasos < 1)
+        return false;
+    if (s.Tormenta.DurTormenta + s.Pasos.PasoPp > INT16_MAX || c.NroPasosPp * s.Pasos.PasoPp > INT16_MAX)
+        return false;
+    return s.Pasos.PasoPp == c.RelacionPasos * s.Pasos.PasoQ && c.NroPasosPp >= 1 &&
            c.NroPasosPp * c.RelacionPasos <= INT16_MAX;
 }
 
 bool ArreglosAlcanzan(const Corrida& c)
 {
     const Siro& s = c.s;
-    const int n = s.NroUEHs;
-    return s.PpUEHPaso.UltimaFila() >= n && s.PpUEHPaso.TopeColumna() >= UltimoPasoConLluvia(c) &&
-           s.QSale.UltimaFila() >= n && s.NroPasosQ >= 1 && s.QSale.TopeColumna() == s.NroPasosQ + 1 &&
-           s.PasosInfiltra.Tope() >= n && c.RetencionRestante.Tope() >= n &&
+    const int n = s.Red.NroUEHs;
+    return s.Resultados.PpUEHPaso.UltimaFila() >= n &&
+           s.Resultados.PpUEHPaso.TopeColumna() >= UltimoPasoConLluvia(c) &&
+           s.Resultados.QSale.UltimaFila() >= n && s.Resultados.NroPasosQ >= 1 &&
+           s.Resultados.QSale.TopeColumna() == s.Resultados.NroPasosQ + 1 &&
+           s.Resultados.PasosInfiltra.Tope() >= n && c.RetencionRestante.Tope() >= n &&
            c.PpMediaPaso.Tope() >= c.NroPasosPp - 1;
 }
 
@@ -79,7 +85,7 @@ bool UEHModerada(const Corrida& c, const UEH& u)
     if (u.KostiakovB < 0 || u.KostiakovB > ExponenteModerado) return false;
     if (u.KostiakovI < 0 || u.KostiakovI > TiempoModerado || u.VelMedia == 0) return false;
     const double T = TiempoDeLadera(u);
-    if (!(T >= 0 && T + s.PasoPp + s.PasoQ <= INT16_MAX)) return false;
+    if (!(T >= 0 && T + s.Pasos.PasoPp + s.Pasos.PasoQ <= INT16_MAX)) return false;
     const int puntos = PuntosDelTrapecio(s, static_cast<int>(T));
     return c.NroPasosPp * c.RelacionPasos + puntos < INT16_MAX;
 }
@@ -100,10 +106,10 @@ TablaInfiltracion& TablaDe(Corrida& c, int i)
     auto& tablas = c.memoria.infiltracion;
     if (tablas.size() < static_cast<std::size_t>(i)) tablas.resize(static_cast<std::size_t>(i));
     TablaInfiltracion& tabla = tablas[static_cast<std::size_t>(i) - 1];
-    const UEH& u = c.s.UEHs(i);
+    const UEH& u = c.s.Red.UEHs(i);
     if (tabla.a != u.KostiakovA || tabla.b != u.KostiakovB || tabla.inicial != u.KostiakovI ||
-        tabla.paso != c.s.PasoPp)
-        tabla = {u.KostiakovA, u.KostiakovB, u.KostiakovI, c.s.PasoPp, {0}};
+        tabla.paso != c.s.Pasos.PasoPp)
+        tabla = {u.KostiakovA, u.KostiakovB, u.KostiakovI, c.s.Pasos.PasoPp, {0}};
     return tabla;
 }
 
@@ -111,9 +117,9 @@ TablaInfiltracion& TablaDe(Corrida& c, int i)
 void CaudalesDelExceso(Corrida& c, int i, std::span<float> caudales)
 {
     Siro& s = c.s;
-    const UEH& u = s.UEHs(i);
+    const UEH& u = s.Red.UEHs(i);
     TablaInfiltracion& tabla = TablaDe(c, i);
-    const float* lluvia = s.PpUEHPaso.Fila(i);
+    const float* lluvia = s.Resultados.PpUEHPaso.Fila(i);
     float restante = c.RetencionRestante(i);
     std::size_t reloj = 1;
     for (std::size_t k = 1; k < caudales.size(); ++k) {
@@ -126,10 +132,10 @@ void CaudalesDelExceso(Corrida& c, int i, std::span<float> caudales)
         const float N = Pp - R;
         const float I = N != 0 ? LaminaInfiltrada(tabla, reloj++) : 0;
         const float E = N > I ? N - I : 0;
-        caudales[k] = static_cast<float>(double{E} / s.PasoPp * FactorCaudal * u.Area);
+        caudales[k] = static_cast<float>(double{E} / s.Pasos.PasoPp * FactorCaudal * u.Area);
     }
     c.RetencionRestante(i) = restante;
-    s.PasosInfiltra(i) = static_cast<float>(reloj);
+    s.Resultados.PasosInfiltra(i) = static_cast<float>(reloj);
 }
 
 Ladera PreparaLadera(const Corrida& c, const UEH& u)
@@ -138,9 +144,9 @@ Ladera PreparaLadera(const Corrida& c, const UEH& u)
     Ladera l;
     l.T = static_cast<int>(TiempoDeLadera(u));
     l.puntos = PuntosDelTrapecio(s, l.T);
-    l.subida = l.T > 0 ? std::min((l.T - 1) / s.PasoQ, l.puntos) : 0;
+    l.subida = l.T > 0 ? std::min((l.T - 1) / s.Pasos.PasoQ, l.puntos) : 0;
     for (int j = 0; j <= l.subida; ++j)
-        l.minutos.push_back(j * s.PasoQ);
+        l.minutos.push_back(j * s.Pasos.PasoQ);
     l.curva.resize(static_cast<std::size_t>(c.RelacionPasos) + static_cast<std::size_t>(l.puntos) + 1);
     return l;
 }
@@ -163,17 +169,17 @@ void SumaTrapecio(const Corrida& c, Ladera& l, float caudal, float* __restrict q
 void LluviaPareja(Corrida& c, int pasos)
 {
     Siro& s = c.s;
-    float* lluvia = s.PpUEHPaso.Fila(1);
-    float total = s.PpUEH(1);
+    float* lluvia = s.Resultados.PpUEHPaso.Fila(1);
+    float total = s.Tormenta.PpUEH(1);
     for (int k = 1; k <= pasos; ++k) {
         c.Intenta([&] { lluvia[k] = static_cast<float>(PpDelPaso(s, static_cast<std::int16_t>(k))); });
         c.SumaPp += lluvia[k];
         total += lluvia[k];
     }
-    s.PpUEH(1) = total;
-    for (int i = 2; i <= s.NroUEHs; ++i) {
-        std::copy_n(lluvia + 1, pasos, s.PpUEHPaso.Fila(i) + 1);
-        s.PpUEH(i) = total;
+    s.Tormenta.PpUEH(1) = total;
+    for (int i = 2; i <= s.Red.NroUEHs; ++i) {
+        std::copy_n(lluvia + 1, pasos, s.Resultados.PpUEHPaso.Fila(i) + 1);
+        s.Tormenta.PpUEH(i) = total;
     }
 }
 
@@ -190,7 +196,7 @@ int UltimoPasoCon(const Ladera& l, int antes, int ultimo)
 int UltimoPasoQ(const Corrida& c, std::span<const Ladera> laderas,
                 std::span<const std::vector<float>> caudales)
 {
-    int ultimo = c.s.NroPasosQ;
+    int ultimo = c.s.Resultados.NroPasosQ;
     for (std::size_t k = 1; k < caudales[0].size(); ++k) {
         const int antes = static_cast<int>(k - 1) * c.RelacionPasos;
         for (std::size_t u = 0; u < laderas.size(); ++u)
@@ -205,20 +211,20 @@ bool PasosSeguros(Corrida& c)
 {
     Siro& s = c.s;
     if (!PasosEnRango(c) || !ArreglosAlcanzan(c)) return false;
-    if (c.AreaTotal == 0 || !EnLimite(s.PpTormenta, PpModerada)) return false;
-    if (!TodosEnLimite(s.PpUEH, PpModerada) || !TodosEnLimite(s.PpAcum, PpModerada) ||
-        !TodosEnLimite(s.IntensidadPp, PpModerada))
+    if (c.AreaTotal == 0 || !EnLimite(s.Tormenta.PpTormenta, PpModerada)) return false;
+    if (!TodosEnLimite(s.Tormenta.PpUEH, PpModerada) || !TodosEnLimite(s.Hietograma.PpAcum, PpModerada) ||
+        !TodosEnLimite(s.Hietograma.IntensidadPp, PpModerada))
         return false;
-    for (int i = 1; i <= s.NroUEHs; ++i)
-        if (!UEHModerada(c, s.UEHs(i))) return false;
+    for (int i = 1; i <= s.Red.NroUEHs; ++i)
+        if (!UEHModerada(c, s.Red.UEHs(i))) return false;
     return true;
 }
 
 std::vector<Ladera> PreparaLaderas(Corrida& c)
 {
     std::vector<Ladera> laderas;
-    for (int i = 1; i <= c.s.NroUEHs; ++i)
-        laderas.push_back(PreparaLadera(c, c.s.UEHs(i)));
+    for (int i = 1; i <= c.s.Red.NroUEHs; ++i)
+        laderas.push_back(PreparaLadera(c, c.s.Red.UEHs(i)));
     return laderas;
 }
 
@@ -226,37 +232,38 @@ void SumaTrapecioDelPaso(Corrida& c, Ladera& l, std::int16_t k, int i, float cau
 {
     Siro& s = c.s;
     const int antes = (k - 1) * c.RelacionPasos;
-    if (const int ultimo = UltimoPasoCon(l, antes, s.NroPasosQ); ultimo != s.NroPasosQ)
+    if (const int ultimo = UltimoPasoCon(l, antes, s.Resultados.NroPasosQ); ultimo != s.Resultados.NroPasosQ)
         Alarga(c, static_cast<std::int16_t>(ultimo));
-    SumaTrapecio(c, l, caudal, s.QSale.Fila(i) + antes);
+    SumaTrapecio(c, l, caudal, s.Resultados.QSale.Fila(i) + antes);
 }
 
 void PasosRapidos(Corrida& c)
 {
     Siro& s = c.s;
     const int conLluvia = UltimoPasoConLluvia(c);
-    if (s.FormaPp == static_cast<std::int16_t>(model::FormaLluvia::PorUEH)) {
+    if (s.Tormenta.FormaPp == static_cast<std::int16_t>(model::FormaLluvia::PorUEH)) {
         for (int k = 1; k <= conLluvia; ++k)
             LluviaDelPaso(c, static_cast<std::int16_t>(k));
     } else {
         LluviaPareja(c, conLluvia);
     }
 
-    std::vector<std::vector<float>> caudales(static_cast<std::size_t>(s.NroUEHs));
-    for (int i = 1; i <= s.NroUEHs; ++i) {
+    std::vector<std::vector<float>> caudales(static_cast<std::size_t>(s.Red.NroUEHs));
+    for (int i = 1; i <= s.Red.NroUEHs; ++i) {
         auto& fila = caudales[static_cast<std::size_t>(i) - 1];
         fila.resize(static_cast<std::size_t>(conLluvia) + 1);
         CaudalesDelExceso(c, i, fila);
     }
     std::vector<Ladera> laderas = PreparaLaderas(c);
-    if (const int ultimo = UltimoPasoQ(c, laderas, caudales); ultimo != s.NroPasosQ)
+    if (const int ultimo = UltimoPasoQ(c, laderas, caudales); ultimo != s.Resultados.NroPasosQ)
         Alarga(c, static_cast<std::int16_t>(ultimo));
-    for (int i = 1; i <= s.NroUEHs; ++i) {
+    for (int i = 1; i <= s.Red.NroUEHs; ++i) {
         const auto& fila = caudales[static_cast<std::size_t>(i) - 1];
         for (std::size_t k = 1; k < fila.size(); ++k)
             if (fila[k] != 0)
-                SumaTrapecio(c, laderas[static_cast<std::size_t>(i) - 1], fila[k],
-                             s.QSale.Fila(i) + (k - 1) * static_cast<std::size_t>(c.RelacionPasos));
+                SumaTrapecio(
+                    c, laderas[static_cast<std::size_t>(i) - 1], fila[k],
+                    s.Resultados.QSale.Fila(i) + (k - 1) * static_cast<std::size_t>(c.RelacionPasos));
     }
 }
 

@@ -36,17 +36,19 @@ struct Paso {
 
 bool HayLluvia(Corrida& c, std::int16_t k)
 {
-    return c.Vale([&] { return Minutos(k, c.s.PasoPp) < Suma16(c.s.DurTormenta, c.s.PasoPp); });
+    return c.Vale(
+        [&] { return Minutos(k, c.s.Pasos.PasoPp) < Suma16(c.s.Tormenta.DurTormenta, c.s.Pasos.PasoPp); });
 }
 
 void LluviaPorUEH(Corrida& c, std::int16_t k)
 {
     Siro& s = c.s;
-    for (int i = 1; i <= s.NroUEHs; ++i) {
-        c.Intenta([&] { s.PpTormenta = s.PpUEH(i); });
-        c.Intenta([&] { s.PpUEHPaso(i, k) = Simple(PpDelPaso(s, k)); });
+    for (int i = 1; i <= s.Red.NroUEHs; ++i) {
+        c.Intenta([&] { s.Tormenta.PpTormenta = s.Tormenta.PpUEH(i); });
+        c.Intenta([&] { s.Resultados.PpUEHPaso(i, k) = Simple(PpDelPaso(s, k)); });
         c.Intenta([&] {
-            c.SumaPp = Simple(c.SumaPp + Cociente(double{s.UEHs(i).Area} * s.PpUEHPaso(i, k), c.AreaTotal));
+            c.SumaPp = Simple(
+                c.SumaPp + Cociente(double{s.Red.UEHs(i).Area} * s.Resultados.PpUEHPaso(i, k), c.AreaTotal));
         });
     }
 }
@@ -54,11 +56,13 @@ void LluviaPorUEH(Corrida& c, std::int16_t k)
 void LluviaPareja(Corrida& c, std::int16_t k)
 {
     Siro& s = c.s;
-    c.Intenta([&] { s.PpUEHPaso(1, k) = Simple(PpDelPaso(s, k)); });
-    c.Intenta([&] { c.SumaPp = Simple(double{c.SumaPp} + s.PpUEHPaso(1, k)); });
-    for (int i = 1; i <= s.NroUEHs; ++i) {
-        c.Intenta([&] { s.PpUEHPaso(i, k) = s.PpUEHPaso(1, k); });
-        c.Intenta([&] { s.PpUEH(i) = Simple(double{s.PpUEH(i)} + s.PpUEHPaso(i, k)); });
+    c.Intenta([&] { s.Resultados.PpUEHPaso(1, k) = Simple(PpDelPaso(s, k)); });
+    c.Intenta([&] { c.SumaPp = Simple(double{c.SumaPp} + s.Resultados.PpUEHPaso(1, k)); });
+    for (int i = 1; i <= s.Red.NroUEHs; ++i) {
+        c.Intenta([&] { s.Resultados.PpUEHPaso(i, k) = s.Resultados.PpUEHPaso(1, k); });
+        c.Intenta([&] {
+            s.Tormenta.PpUEH(i) = Simple(double{s.Tormenta.PpUEH(i)} + s.Resultados.PpUEHPaso(i, k));
+        });
     }
 }
 
@@ -84,28 +88,28 @@ void Infiltra(Corrida& c, int i, Paso& v)
         return;
     }
     c.Intenta([&] {
-        const model::UEH& u = s.UEHs(i);
-        const double t = double{s.PasosInfiltra(i)} * s.PasoPp + u.KostiakovI;
+        const model::UEH& u = s.Red.UEHs(i);
+        const double t = double{s.Resultados.PasosInfiltra(i)} * s.Pasos.PasoPp + u.KostiakovI;
         v.I = Simple(u.KostiakovA *
-                     (model::Potencia(t, u.KostiakovB) - model::Potencia(t - s.PasoPp, u.KostiakovB)));
+                     (model::Potencia(t, u.KostiakovB) - model::Potencia(t - s.Pasos.PasoPp, u.KostiakovB)));
     });
     if (v.I < 0) v.I = 0;
-    c.Intenta([&] { s.PasosInfiltra(i) = Simple(double{s.PasosInfiltra(i)} + 1); });
+    c.Intenta([&] { s.Resultados.PasosInfiltra(i) = Simple(double{s.Resultados.PasosInfiltra(i)} + 1); });
 }
 
 void EscribePaso(Corrida& c, std::int16_t k, int i, const Paso& v)
 {
     Siro& s = c.s;
     c.Intenta([&] {
-        const std::int16_t t = Minutos(k, s.PasoPp);
+        const std::int16_t t = Minutos(k, s.Pasos.PasoPp);
         const float pp = model::Trunca2(v.Pp), r = model::Trunca2(v.R), in = model::Trunca2(v.I);
-        const std::string& nombre = s.UEHs(i).NombreUEH;
+        const std::string& nombre = s.Red.UEHs(i).NombreUEH;
         c.Linea.Vacia();
         c.Linea.Derecha(std::int32_t{k}, 5).Derecha(std::int32_t{t}, 6).DerechaTexto(nombre, 8);
         c.Linea.Derecha(pp, 10).Derecha(r, 13).Derecha(in, 17);
         c.Linea.Derecha(model::Redondea(double{v.CaudalPp} * 1000 / 1000, 2), 17);
     });
-    if (s.SalidaPizarra) s.TextoPizarra.append("\r\n").append(c.Linea.Texto());
+    if (s.Control.SalidaPizarra) s.Control.TextoPizarra.append("\r\n").append(c.Linea.Texto());
 }
 
 void PuntoDelTrapecio(Corrida& c, std::int16_t k, int i, Paso& v)
@@ -113,27 +117,29 @@ void PuntoDelTrapecio(Corrida& c, std::int16_t k, int i, Paso& v)
     Siro& s = c.s;
     c.Intenta([&] { v.A = v.T <= v.tj ? v.CaudalPp : Simple(Cociente(v.CaudalPp, v.T) * v.tj); });
     c.Intenta([&] {
-        v.B = v.tj <= s.PasoPp ? 0 : Simple(Cociente(v.CaudalPp, v.T) * model::Entero16(v.tj - s.PasoPp));
+        v.B = v.tj <= s.Pasos.PasoPp
+                  ? 0
+                  : Simple(Cociente(v.CaudalPp, v.T) * model::Entero16(v.tj - s.Pasos.PasoPp));
     });
     c.Intenta([&] { v.p = model::Entero16(Suma16(Producto16(k, c.RelacionPasos), v.j) - c.RelacionPasos); });
-    if (c.Vale([&] { return v.p > Suma16(s.NroPasosQ, 1); })) Alarga(c, v.p);
-    c.Intenta([&] { s.QSale(i, v.p) = Simple(double{s.QSale(i, v.p)} + v.A - v.B); });
+    if (c.Vale([&] { return v.p > Suma16(s.Resultados.NroPasosQ, 1); })) Alarga(c, v.p);
+    c.Intenta([&] { s.Resultados.QSale(i, v.p) = Simple(double{s.Resultados.QSale(i, v.p)} + v.A - v.B); });
 }
 
 void Traslada(Corrida& c, std::int16_t k, int i, Paso& v)
 {
     Siro& s = c.s;
     c.Intenta([&] {
-        const model::UEH& u = s.UEHs(i);
+        const model::UEH& u = s.Red.UEHs(i);
         v.T = model::Entero16(Cociente(u.LongitudMax, u.VelMedia) / 60);
     });
     v.j = 1;
-    v.tj = s.PasoQ;
-    while (c.Vale([&] { return v.tj < Suma16(v.T, s.PasoPp); })) {
+    v.tj = s.Pasos.PasoQ;
+    while (c.Vale([&] { return v.tj < Suma16(v.T, s.Pasos.PasoPp); })) {
         PuntoDelTrapecio(c, k, i, v);
         // A clock that stands still would never end the loop.
         if (!c.Intenta([&] { v.j = Suma16(v.j, 1); })) return;
-        if (!c.Intenta([&] { v.tj = Minutos(v.j, s.PasoQ); })) return;
+        if (!c.Intenta([&] { v.tj = Minutos(v.j, s.Pasos.PasoQ); })) return;
     }
 }
 
@@ -142,11 +148,12 @@ void PasoDeUEH(Corrida& c, std::int16_t k, int i, Ladera* ladera, Paso& v)
 {
     Siro& s = c.s;
     if (HayLluvia(c, k))
-        c.Intenta([&] { v.Pp = s.PpUEHPaso(i, k); });
+        c.Intenta([&] { v.Pp = s.Resultados.PpUEHPaso(i, k); });
     else
         v.Pp = 0;
     c.Intenta([&] {
-        c.PpMediaPaso(k) = Simple(c.PpMediaPaso(k) + Cociente(double{v.Pp} * s.UEHs(i).Area, c.AreaTotal));
+        c.PpMediaPaso(k) =
+            Simple(c.PpMediaPaso(k) + Cociente(double{v.Pp} * s.Red.UEHs(i).Area, c.AreaTotal));
     });
     c.Intenta([&] { Retiene(c, i, v); });
     c.Intenta([&] { v.N = Simple(double{v.Pp} - v.R); });
@@ -155,7 +162,8 @@ void PasoDeUEH(Corrida& c, std::int16_t k, int i, Ladera* ladera, Paso& v)
         c.Intenta([&] { v.E = Simple(double{v.N} - v.I); });
     else
         v.E = 0;
-    c.Intenta([&] { v.CaudalPp = Simple(Cociente(v.E, s.PasoPp) * FactorCaudal * s.UEHs(i).Area); });
+    c.Intenta(
+        [&] { v.CaudalPp = Simple(Cociente(v.E, s.Pasos.PasoPp) * FactorCaudal * s.Red.UEHs(i).Area); });
     EscribePaso(c, k, i, v);
     if (v.CaudalPp == 0) return;
     if (ladera != nullptr)
@@ -169,15 +177,16 @@ void PasoDeUEH(Corrida& c, std::int16_t k, int i, Ladera* ladera, Paso& v)
 void Alarga(Corrida& c, std::int16_t p)
 {
     Siro& s = c.s;
-    s.NroPasosQ = p;
-    for (model::Matriz<float>* m : {&s.QSale, &s.HRepresa, &s.SRepresa, &s.HLago, &s.SLago, &s.QEntra})
+    s.Resultados.NroPasosQ = p;
+    for (model::Matriz<float>* m : {&s.Resultados.QSale, &s.Resultados.HRepresa, &s.Resultados.SRepresa,
+                                    &s.Resultados.HLago, &s.Resultados.SLago, &s.Resultados.QEntra})
         c.Intenta([&] { m->Redimensiona(Suma16(p, 1)); });
 }
 
 void LluviaDelPaso(Corrida& c, std::int16_t k)
 {
     if (!HayLluvia(c, k)) return;
-    if (c.s.FormaPp == FormaPorUEH)
+    if (c.s.Tormenta.FormaPp == FormaPorUEH)
         LluviaPorUEH(c, k);
     else
         LluviaPareja(c, k);
@@ -190,7 +199,7 @@ void PasosUnoPorUno(Corrida& c)
     Paso valores;
     for (std::int16_t k = 1; k < c.NroPasosPp; ++k) {
         LluviaDelPaso(c, k);
-        for (int i = 1; i <= s.NroUEHs; ++i) {
+        for (int i = 1; i <= s.Red.NroUEHs; ++i) {
             Ladera* ladera = laderas.empty() ? nullptr : &laderas[static_cast<std::size_t>(i) - 1];
             PasoDeUEH(c, k, i, ladera, valores);
         }
@@ -199,11 +208,11 @@ void PasosUnoPorUno(Corrida& c)
 
 void PasosDeLasUEHs(Corrida& c)
 {
-    if (c.s.SalidaPizarra)
-        c.s.TextoPizarra.append(
+    if (c.s.Control.SalidaPizarra)
+        c.s.Control.TextoPizarra.append(
             "\r\n\r\nI- SIMULACION EN UEHs\r\n"
             "Per.k  t[min]   UEH     Pp[mm]  Retensión Z[mm]   Infiltra I[mm]   CaudalPp[m3/s]");
-    if (!c.s.SalidaPizarra && PasosSeguros(c))
+    if (!c.s.Control.SalidaPizarra && PasosSeguros(c))
         PasosRapidos(c);
     else
         PasosUnoPorUno(c);

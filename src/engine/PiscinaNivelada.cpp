@@ -20,7 +20,7 @@ constexpr int MaximoVueltas = 1000;
 /// 2S/dt [m3/s]: two divisions, each rounded to 32 bits.
 float DobleAlmacenamiento(const Siro& s, float S)
 {
-    return Simple(double{Simple(Cociente(2.0 * S, s.PasoQ))} / 60);
+    return Simple(double{Simple(Cociente(2.0 * S, s.Pasos.PasoQ))} / 60);
 }
 
 void NoConverge(const Siro& s, const EmbalseEnMano& e)
@@ -51,14 +51,14 @@ void Biseca(Corrida& c, const EmbalseEnMano& e, float W, Piscina& v)
     int vueltas = 0;
     while (Simple(std::fabs(double{hi} - lo)) > AnchoFinal) {
         if (++vueltas > MaximoVueltas) NoConverge(s, e);
-        s.HActual = Simple((double{hi} - lo) / 2 + lo);
-        s.SActual = Simple(e.clase.SdeH(s, s.HActual));
-        v.Q = e.clase.QdeH(s, s.HActual);
-        v.U = Simple(double{DobleAlmacenamiento(s, s.SActual)} + v.Q);
+        s.Resultados.HActual = Simple((double{hi} - lo) / 2 + lo);
+        s.Resultados.SActual = Simple(e.clase.SdeH(s, s.Resultados.HActual));
+        v.Q = e.clase.QdeH(s, s.Resultados.HActual);
+        v.U = Simple(double{DobleAlmacenamiento(s, s.Resultados.SActual)} + v.Q);
         if (v.U > W)
-            hi = s.HActual;
+            hi = s.Resultados.HActual;
         else
-            lo = s.HActual;
+            lo = s.Resultados.HActual;
     }
 }
 
@@ -68,32 +68,32 @@ void PropagaPiscina(Corrida& c, const EmbalseEnMano& e)
 {
     Siro& s = c.s;
     Piscina v;
-    s.HActual = e.HInicial;
-    s.SActual = Simple(e.clase.SdeH(s, s.HActual));
-    s.QEntra(e.fila, 0) = c.QBaseEntra;
-    v.T = Simple(double{DobleAlmacenamiento(s, s.SActual)} - s.QSale(e.fila, 0));
+    s.Resultados.HActual = e.HInicial;
+    s.Resultados.SActual = Simple(e.clase.SdeH(s, s.Resultados.HActual));
+    s.Resultados.QEntra(e.fila, 0) = c.QBaseEntra;
+    v.T = Simple(double{DobleAlmacenamiento(s, s.Resultados.SActual)} - s.Resultados.QSale(e.fila, 0));
     (void)e.tablaH(e.numero, e.filasTabla(e.numero));  // top and bottom have to be there
     (void)e.tablaH(e.numero, 1);
     AbreDetalle(c, e, EncabezadoPiscina);
-    v.Q = e.clase.QdeH(s, s.HActual);
-    s.IndPaso = 0;
-    e.H(e.numero, 0) = s.HActual;
-    e.S(e.numero, 0) = s.SActual;
-    s.QSale(e.fila, 0) = v.Q;
+    v.Q = e.clase.QdeH(s, s.Resultados.HActual);
+    s.Resultados.IndPaso = 0;
+    e.H(e.numero, 0) = s.Resultados.HActual;
+    e.S(e.numero, 0) = s.Resultados.SActual;
+    s.Resultados.QSale(e.fila, 0) = v.Q;
     EscribeDetalle(c, e, 0, {v.I, v.T, v.U});
     if (!PiscinaRapida(c, e, v.T)) {
-        for (int k = 1; k <= s.NroPasosQ; ++k) {
-            s.IndPaso = static_cast<std::int16_t>(k);
-            v.I = Simple(double{s.QEntra(e.fila, k)} + s.QEntra(e.fila, k - 1));
+        for (int k = 1; k <= s.Resultados.NroPasosQ; ++k) {
+            s.Resultados.IndPaso = static_cast<std::int16_t>(k);
+            v.I = Simple(double{s.Resultados.QEntra(e.fila, k)} + s.Resultados.QEntra(e.fila, k - 1));
             const float W = Simple(double{v.T} + v.I);
             // asked for its questions alone, where the last storage lies outside the table
-            (void)e.clase.HdeS(s, s.SActual);
+            (void)e.clase.HdeS(s, s.Resultados.SActual);
             Biseca(c, e, W, v);
-            e.H(e.numero, k) = s.HActual;
-            e.S(e.numero, k) = s.SActual;
+            e.H(e.numero, k) = s.Resultados.HActual;
+            e.S(e.numero, k) = s.Resultados.SActual;
             v.T = Simple(W - 2.0 * v.Q);
-            s.QSale(e.fila, k) = v.Q;
-            EscribeDetalle(c, e, s.IndPaso, {v.I, v.T, v.U});
+            s.Resultados.QSale(e.fila, k) = v.Q;
+            EscribeDetalle(c, e, s.Resultados.IndPaso, {v.I, v.T, v.U});
         }
     }
     CierraDetalle(c, e);

@@ -42,7 +42,8 @@ class Curvas {
         const auto sinPreguntas = hydraulics::AlmacenamientosSinPreguntas(s);
         const std::int32_t* S = e.tablaS.Fila(e.numero) + 1;
         const auto [menor, mayor] = std::minmax_element(S, S + almacenamiento.Filas());
-        const auto menorS = static_cast<float>(*menor), mayorS = static_cast<float>(*mayor), S0 = s.SActual;
+        const auto menorS = static_cast<float>(*menor), mayorS = static_cast<float>(*mayor),
+                   S0 = s.Resultados.SActual;
         return sinPreguntas.Abarca(std::min(menorS, S0), std::max(mayorS, S0));
     }
     /// A bound of the absolute outflow between two heights that Prepara has been given [m3/s].
@@ -147,11 +148,11 @@ template <typename Buscador>
 void Recorre(Corrida& c, const EmbalseEnMano& e, float T, Buscador busca)
 {
     Siro& s = c.s;
-    const float* entra = s.QEntra.Fila(e.fila);
-    float* sale = s.QSale.Fila(e.fila);
+    const float* entra = s.Resultados.QEntra.Fila(e.fila);
+    float* sale = s.Resultados.QSale.Fila(e.fila);
     float* H = e.H.Fila(e.numero);
     float* S = e.S.Fila(e.numero);
-    for (int k = 1; k <= s.NroPasosQ; ++k) {
+    for (int k = 1; k <= s.Resultados.NroPasosQ; ++k) {
         const auto I = static_cast<float>(double{entra[k]} + entra[k - 1]);
         const auto W = static_cast<float>(double{T} + I);
         const Nodo& n = busca.Busca(W);
@@ -160,22 +161,23 @@ void Recorre(Corrida& c, const EmbalseEnMano& e, float T, Buscador busca)
         sale[k] = n.q;
         T = static_cast<float>(W - 2.0 * n.q);
         if (!c.ConTexto) continue;
-        s.HActual = n.h;
-        s.SActual = n.s;
+        s.Resultados.HActual = n.h;
+        s.Resultados.SActual = n.s;
         EscribeDetalle(c, e, static_cast<std::int16_t>(k), {I, T, n.u});
     }
-    s.IndPaso = s.NroPasosQ;
-    s.HActual = H[s.NroPasosQ];
-    s.SActual = S[s.NroPasosQ];
+    s.Resultados.IndPaso = s.Resultados.NroPasosQ;
+    s.Resultados.HActual = H[s.Resultados.NroPasosQ];
+    s.Resultados.SActual = S[s.Resultados.NroPasosQ];
 }
 
 bool ArreglosAlcanzan(const Corrida& c, const EmbalseEnMano& e)
 {
     const Siro& s = c.s;
-    const int n = s.NroPasosQ;
-    return s.PasoQ >= 1 && n >= 1 && n * s.PasoQ <= INT16_MAX && e.fila >= s.QEntra.PrimeraFila() &&
-           e.fila <= s.QEntra.UltimaFila() && e.fila <= s.QSale.UltimaFila() && s.QEntra.TopeColumna() >= n &&
-           s.QSale.TopeColumna() >= n && e.H.UltimaFila() >= e.numero && e.H.TopeColumna() >= n &&
+    const int n = s.Resultados.NroPasosQ;
+    return s.Pasos.PasoQ >= 1 && n >= 1 && n * s.Pasos.PasoQ <= INT16_MAX &&
+           e.fila >= s.Resultados.QEntra.PrimeraFila() && e.fila <= s.Resultados.QEntra.UltimaFila() &&
+           e.fila <= s.Resultados.QSale.UltimaFila() && s.Resultados.QEntra.TopeColumna() >= n &&
+           s.Resultados.QSale.TopeColumna() >= n && e.H.UltimaFila() >= e.numero && e.H.TopeColumna() >= n &&
            e.S.UltimaFila() >= e.numero && e.S.TopeColumna() >= n;
 }
 
@@ -232,17 +234,17 @@ void AgregaColumna(std::vector<float>& clave, const auto& columna, int numero,
 /// All that the midpoints of the component in hand are worked out from, and whether they may be.
 void ArmaClave(const Siro& s, const EmbalseEnMano& e, std::vector<float>& clave)
 {
-    clave.assign({static_cast<float>(s.PasoQ), s.SActual});
+    clave.assign({static_cast<float>(s.Pasos.PasoQ), s.Resultados.SActual});
     AgregaColumna(clave, e.tablaH, e.numero, e.filasTabla);
     AgregaColumna(clave, e.tablaS, e.numero, e.filasTabla);
     if (s.CompActual.clase == model::ComponenteActual::Clase::Lago) {
-        AgregaColumna(clave, s.LagoQ, e.numero, s.LagoFilas);
+        AgregaColumna(clave, s.Red.LagoQ, e.numero, s.Red.LagoFilas);
         return;
     }
-    const model::Represa& r = s.ColRepresas.Item(s.CompActual.item);
+    const model::Represa& r = s.Red.ColRepresas.Item(s.CompActual.item);
     if (r.optTabla) {
-        AgregaColumna(clave, s.RepresaQH, e.numero, s.RepresaFilasHQ);
-        AgregaColumna(clave, s.RepresaQQ, e.numero, s.RepresaFilasHQ);
+        AgregaColumna(clave, s.Red.RepresaQH, e.numero, s.Red.RepresaFilasHQ);
+        AgregaColumna(clave, s.Red.RepresaQQ, e.numero, s.Red.RepresaFilasHQ);
         return;
     }
     for (const auto* coeficientes : {&r.FQa, &r.FQb, &r.FQc, &r.FQmin, &r.FQMax})
@@ -254,13 +256,14 @@ void ArmaClave(const Siro& s, const EmbalseEnMano& e, std::vector<float>& clave)
 const NodosPiscina& NodosDe(Corrida& c, const EmbalseEnMano& e, float base, float tope)
 {
     auto& tablas = c.memoria.piscinas;
-    if (tablas.size() < c.s.Secuencia.size()) tablas.resize(c.s.Secuencia.size());
+    if (tablas.size() < c.s.Resultados.Secuencia.size()) tablas.resize(c.s.Resultados.Secuencia.size());
     NodosPiscina& nodos = tablas[static_cast<std::size_t>(e.fila)];
     ArmaClave(c.s, e, c.memoria.clave);
     if (nodos.clave == c.memoria.clave) return nodos;
     nodos.clave = c.memoria.clave;
     Curvas curvas;
-    nodos.sirve = curvas.Prepara(c.s, e, base, tope) && TablaNodos(nodos, curvas, base, tope, c.s.PasoQ);
+    nodos.sirve =
+        curvas.Prepara(c.s, e, base, tope) && TablaNodos(nodos, curvas, base, tope, c.s.Pasos.PasoQ);
     if (nodos.sirve) nodos.cotaDescarga = curvas.CotaDescarga(base, tope);
     return nodos;
 }
@@ -274,10 +277,14 @@ bool PiscinaRapida(Corrida& c, const EmbalseEnMano& e, float T)
     if (!(base >= -AlturaModerada && tope <= AlturaModerada && base < tope && SigueAbierto(tope, base)))
         return false;
     if (!ArreglosAlcanzan(c, e)) return false;
-    if (!((s.NroPasosQ + 1) * double{MayorAbsoluto(s.QEntra.Fila(e.fila), 0, s.NroPasosQ)} < CaudalModerado))
+    if (!((s.Resultados.NroPasosQ + 1) *
+              double{MayorAbsoluto(s.Resultados.QEntra.Fila(e.fila), 0, s.Resultados.NroPasosQ)} <
+          CaudalModerado))
         return false;
     // T falls by twice the outflow in every step.
-    const auto moderada = [&](double cota) { return std::fabs(T) + s.NroPasosQ * 2 * cota < CaudalModerado; };
+    const auto moderada = [&](double cota) {
+        return std::fabs(T) + s.Resultados.NroPasosQ * 2 * cota < CaudalModerado;
+    };
     if (c.memoria.VariasCorridas) {
         const NodosPiscina& nodos = NodosDe(c, e, base, tope);
         if (nodos.sirve) {
@@ -288,7 +295,7 @@ bool PiscinaRapida(Corrida& c, const EmbalseEnMano& e, float T)
     }
     Curvas curvas;
     if (!curvas.Prepara(s, e, base, tope) || !moderada(curvas.CotaDescarga(base, tope))) return false;
-    Recorre(c, e, T, PorCamino(curvas, base, tope, s.PasoQ));
+    Recorre(c, e, T, PorCamino(curvas, base, tope, s.Pasos.PasoQ));
     return true;
 }
 

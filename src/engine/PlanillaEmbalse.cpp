@@ -17,27 +17,29 @@ namespace {
 std::string LineaMetodo(const Corrida& c, const EmbalseEnMano& e)
 {
     return "Componente: " + std::string(e.clase.nombre) + " " +
-           c.s.Secuencia[static_cast<std::size_t>(e.fila)] + "     Método de Propagación: " + e.metodo;
+           c.s.Resultados.Secuencia[static_cast<std::size_t>(e.fila)] +
+           "     Método de Propagación: " + e.metodo;
 }
 
 /// Table, peak and volumes, row by row from step 0.
 void ResumePasoAPaso(Corrida& c, const EmbalseEnMano& e)
 {
     Siro& s = c.s;
-    for (int paso = 0; paso <= s.NroPasosQ; ++paso) {
+    for (int paso = 0; paso <= s.Resultados.NroPasosQ; ++paso) {
         const auto k = static_cast<std::int16_t>(paso);
-        const std::int16_t t = Minutos(k, s.PasoQ);
-        const float entra = s.QEntra(e.fila, k), sale = s.QSale(e.fila, k);
-        if (s.SalidaPizarra) {
+        const std::int16_t t = Minutos(k, s.Pasos.PasoQ);
+        const float entra = s.Resultados.QEntra(e.fila, k), sale = s.Resultados.QSale(e.fila, k);
+        if (s.Control.SalidaPizarra) {
             c.Linea.Vacia();
             c.Linea.Pone("\r\n ").Izquierda(std::int32_t{k}, 7).Izquierda(std::int32_t{t}, 7);
             c.Linea.Izquierda(Redondea(entra, 3), 11).Izquierda(Redondea(sale, 3), 13);
             c.Linea.Izquierda(Redondea(e.H(e.numero, k), 2), 10).Izquierda(Redondea(e.S(e.numero, k), 0), 10);
-            s.TextoPizarra.append(c.Linea.Texto());
+            s.Control.TextoPizarra.append(c.Linea.Texto());
         }
-        if (sale > s.QMax(e.fila, s.IndSerie)) s.QMax(e.fila, s.IndSerie) = sale;
-        s.VolEntra = Simple(1.0 * s.PasoQ * entra * 60 + s.VolEntra);
-        s.VolSale = Simple(1.0 * s.PasoQ * sale * 60 + s.VolSale);
+        if (sale > s.Resultados.QMax(e.fila, s.Serie.IndSerie))
+            s.Resultados.QMax(e.fila, s.Serie.IndSerie) = sale;
+        s.Resultados.VolEntra = Simple(1.0 * s.Pasos.PasoQ * entra * 60 + s.Resultados.VolEntra);
+        s.Resultados.VolSale = Simple(1.0 * s.Pasos.PasoQ * sale * 60 + s.Resultados.VolSale);
     }
 }
 
@@ -46,7 +48,7 @@ void ResumePasoAPaso(Corrida& c, const EmbalseEnMano& e)
 void AbreDetalle(Corrida& c, const EmbalseEnMano& e, std::string_view encabezado)
 {
     if (!c.ConTexto) return;
-    c.s.TextoPizarra.append("\r\nPlanilla detallada de cálculo de propagación en ")
+    c.s.Control.TextoPizarra.append("\r\nPlanilla detallada de cálculo de propagación en ")
         .append(e.clase.nombre)
         .append(" \r\n")
         .append(encabezado)
@@ -57,37 +59,42 @@ void AbreDetalle(Corrida& c, const EmbalseEnMano& e, std::string_view encabezado
 void CierraDetalle(Corrida& c, const EmbalseEnMano& e)
 {
     if (c.ConTexto)
-        c.s.TextoPizarra.append("\r\n Fin detalle cálculo proaga en ").append(e.clase.nombre).append(" ");
+        c.s.Control.TextoPizarra.append("\r\n Fin detalle cálculo proaga en ")
+            .append(e.clase.nombre)
+            .append(" ");
 }
 
 void EscribeDetalle(Corrida& c, const EmbalseEnMano& e, std::int16_t k, const ColumnasDelMetodo& columnas)
 {
     Siro& s = c.s;
-    const std::int16_t t = Minutos(k, s.PasoQ);
-    const float entra = s.QEntra(e.fila, k), sale = s.QSale(e.fila, k);
+    const std::int16_t t = Minutos(k, s.Pasos.PasoQ);
+    const float entra = s.Resultados.QEntra(e.fila, k), sale = s.Resultados.QSale(e.fila, k);
     if (!c.ConTexto) return;
     c.Linea.Vacia();
     c.Linea.Pone("\r\n").Detalle(std::int32_t{k}, 3).Detalle(std::int32_t{t}, 3).Detalle(entra, 3);
     c.Linea.Detalle(columnas[0], 3).Detalle(columnas[1], 3).Detalle(columnas[2], 8).Detalle(sale, 2);
-    c.Linea.Detalle(s.HActual, 2).Detalle(s.SActual, 0);
-    s.TextoPizarra.append(c.Linea.Texto());
+    c.Linea.Detalle(s.Resultados.HActual, 2).Detalle(s.Resultados.SActual, 0);
+    s.Control.TextoPizarra.append(c.Linea.Texto());
 }
 
 void EscribeTabla(Corrida& c, const EmbalseEnMano& e)
 {
     Siro& s = c.s;
-    s.VolEntra = 0;
-    s.VolSale = 0;
-    if (s.SalidaPizarra)
-        s.TextoPizarra.append("\r\n\r\n").append(LineaMetodo(c, e)).append("\r\n").append(e.clase.columnas);
-    if (!s.SalidaPizarra && ResumenSeguro(c, e.fila))
-        Resume(c, e.fila, {0, s.NroPasosQ});
+    s.Resultados.VolEntra = 0;
+    s.Resultados.VolSale = 0;
+    if (s.Control.SalidaPizarra)
+        s.Control.TextoPizarra.append("\r\n\r\n")
+            .append(LineaMetodo(c, e))
+            .append("\r\n")
+            .append(e.clase.columnas);
+    if (!s.Control.SalidaPizarra && ResumenSeguro(c, e.fila))
+        Resume(c, e.fila, {0, s.Resultados.NroPasosQ});
     else
         ResumePasoAPaso(c, e);
-    if (!s.SalidaPizarra) return;
+    if (!s.Control.SalidaPizarra) return;
     EscribeResumen(c, e.fila);
-    s.TextoPizarra += "\r\n";
-    s.Anfitrion.AmpliaPizarra(s.TextoPizarra);
+    s.Control.TextoPizarra += "\r\n";
+    s.Anfitrion.AmpliaPizarra(s.Control.TextoPizarra);
 }
 
 }  // namespace engine

@@ -14,13 +14,13 @@ namespace {
 template <typename Mira>
 bool RecorreEnlaces(const Siro& s, Mira mira)
 {
-    for (const auto& u : s.ColUEHs)
+    for (const auto& u : s.Red.ColUEHs)
         if (!mira(u.NombreUEH) || !mira(u.Cauce_aa)) return false;
-    for (const auto& c : s.ColCauces)
+    for (const auto& c : s.Red.ColCauces)
         if (!mira(c.NombreCauce) || !mira(c.Cauce_aa)) return false;
-    for (const auto& l : s.ColLagos)
+    for (const auto& l : s.Red.ColLagos)
         if (!mira(l.NombreLAGO) || !mira(l.Cauce_aa)) return false;
-    for (const auto& r : s.ColRepresas)
+    for (const auto& r : s.Red.ColRepresas)
         if (!mira(r.NombreRepresa) || !mira(r.Cauce_aa)) return false;
     return true;
 }
@@ -29,7 +29,9 @@ bool EsLaRecordada(const Corrida& c)
 {
     const RedOrdenada& red = c.memoria.red;
     const Siro& s = c.s;
-    if (!red.sirve || s.SalidaPizarra || !s.AvisoDescargasVisto || red.NroUEHs != s.NroUEHs) return false;
+    if (!red.sirve || s.Control.SalidaPizarra || !s.Control.AvisoDescargasVisto ||
+        red.NroUEHs != s.Red.NroUEHs)
+        return false;
     std::size_t i = 0;
     const bool iguales = RecorreEnlaces(
         s, [&](const std::string& t) { return i < red.enlaces.size() && red.enlaces[i++] == t; });
@@ -40,18 +42,20 @@ bool EsLaRecordada(const Corrida& c)
 void Recuerda(Corrida& c)
 {
     const Siro& s = c.s;
-    if (!c.memoria.VariasCorridas || !s.AvisoDescargasVisto || s.NroSalidas > model::MaxSalidas) return;
+    if (!c.memoria.VariasCorridas || !s.Control.AvisoDescargasVisto ||
+        s.Resultados.NroSalidas > model::MaxSalidas)
+        return;
     RedOrdenada& red = c.memoria.red;
     red.enlaces.clear();
     RecorreEnlaces(s, [&](const std::string& t) {
         red.enlaces.push_back(t);
         return true;
     });
-    red.NroUEHs = s.NroUEHs;
-    red.Secuencia = s.Secuencia;
-    red.Salidas = s.Salidas;
-    red.NroSalidas = s.NroSalidas;
-    red.RedOk = s.RedOk;
+    red.NroUEHs = s.Red.NroUEHs;
+    red.Secuencia = s.Resultados.Secuencia;
+    red.Salidas = s.Resultados.Salidas;
+    red.NroSalidas = s.Resultados.NroSalidas;
+    red.RedOk = s.Control.RedOk;
     red.sirve = true;
 }
 
@@ -62,17 +66,17 @@ void ValidaRed(Corrida& c)
     Siro& s = c.s;
     if (EsLaRecordada(c)) {
         const RedOrdenada& red = c.memoria.red;
-        s.ErrorRed = false;
-        s.ContinuarSinCorregir = false;
-        s.RedOk = red.RedOk;
-        s.NroComponentes = static_cast<std::int16_t>(red.Secuencia.size() - 1);
-        s.Secuencia = red.Secuencia;
-        s.NroSalidas = red.NroSalidas;
-        s.Salidas = red.Salidas;
+        s.Control.ErrorRed = false;
+        s.Control.ContinuarSinCorregir = false;
+        s.Control.RedOk = red.RedOk;
+        s.Resultados.NroComponentes = static_cast<std::int16_t>(red.Secuencia.size() - 1);
+        s.Resultados.Secuencia = red.Secuencia;
+        s.Resultados.NroSalidas = red.NroSalidas;
+        s.Resultados.Salidas = red.Salidas;
         c.Afluentes = &red.afluentes;
         return;
     }
-    const int veces = s.NroSeriePDR == 1 ? 2 : 1;
+    const int veces = s.Serie.NroSeriePDR == 1 ? 2 : 1;
     for (int v = 0; v < veces; ++v)
         c.Intenta([&] { ComponenteFinal(s); });
 }
@@ -84,7 +88,7 @@ bool OrdenaRed(Corrida& c)
     bool ordenada = true;
     c.Intenta([&] { ordenada = OrdenSecuencia(s); });
     if (!ordenada) return false;
-    if (s.SalidaPizarra) s.TextoPizarra = s.Anfitrion.LeePizarra();
+    if (s.Control.SalidaPizarra) s.Control.TextoPizarra = s.Anfitrion.LeePizarra();
     c.memoria.red.afluentes = Aportes(s);
     c.memoria.red.sirve = false;
     c.Afluentes = &c.memoria.red.afluentes;

@@ -14,32 +14,39 @@ using model::Siro;
 void EscribeResumen(Corrida& c, int fila)
 {
     Siro& s = c.s;
-    s.TextoPizarra += "\r\nVolumen Escurrido. Entra = " + NumeroATexto(Redondea(s.VolEntra, 0)) +
-                      " m3 ; Sale = " + NumeroATexto(Redondea(s.VolSale, 0)) + " m3";
-    const float maximo = s.QMax(fila, s.IndSerie);
-    s.TextoPizarra += "\r\nCaudal Máximo = " + NumeroATexto(Redondea(maximo, 2)) + " m3/s ";
+    s.Control.TextoPizarra +=
+        "\r\nVolumen Escurrido. Entra = " + NumeroATexto(Redondea(s.Resultados.VolEntra, 0)) +
+        " m3 ; Sale = " + NumeroATexto(Redondea(s.Resultados.VolSale, 0)) + " m3";
+    const float maximo = s.Resultados.QMax(fila, s.Serie.IndSerie);
+    s.Control.TextoPizarra += "\r\nCaudal Máximo = " + NumeroATexto(Redondea(maximo, 2)) + " m3/s ";
 }
 
 bool ResumenSeguro(const Corrida& c, int fila)
 {
     const Siro& s = c.s;
-    if (s.PasoQ < 1 || s.NroPasosQ < 1 || s.NroPasosQ * s.PasoQ > INT16_MAX) return false;
-    if (fila < s.QEntra.PrimeraFila() || fila > s.QEntra.UltimaFila() || fila > s.QSale.UltimaFila())
+    if (s.Pasos.PasoQ < 1 || s.Resultados.NroPasosQ < 1 || s.Resultados.NroPasosQ * s.Pasos.PasoQ > INT16_MAX)
         return false;
-    if (s.QEntra.TopeColumna() < s.NroPasosQ || s.QSale.TopeColumna() < s.NroPasosQ) return false;
-    if (s.QMax.UltimaFila() < fila || s.IndSerie < 0 || s.QMax.TopeColumna() < s.IndSerie) return false;
-    return VolumenSeguro(s.QEntra.Fila(fila), s.NroPasosQ, s.PasoQ) &&
-           VolumenSeguro(s.QSale.Fila(fila), s.NroPasosQ, s.PasoQ);
+    if (fila < s.Resultados.QEntra.PrimeraFila() || fila > s.Resultados.QEntra.UltimaFila() ||
+        fila > s.Resultados.QSale.UltimaFila())
+        return false;
+    if (s.Resultados.QEntra.TopeColumna() < s.Resultados.NroPasosQ ||
+        s.Resultados.QSale.TopeColumna() < s.Resultados.NroPasosQ)
+        return false;
+    if (s.Resultados.QMax.UltimaFila() < fila || s.Serie.IndSerie < 0 ||
+        s.Resultados.QMax.TopeColumna() < s.Serie.IndSerie)
+        return false;
+    return VolumenSeguro(s.Resultados.QEntra.Fila(fila), s.Resultados.NroPasosQ, s.Pasos.PasoQ) &&
+           VolumenSeguro(s.Resultados.QSale.Fila(fila), s.Resultados.NroPasosQ, s.Pasos.PasoQ);
 }
 
 void Resume(Corrida& c, int fila, Tramo tramo)
 {
     Siro& s = c.s;
-    float& maximo = s.QMax(fila, s.IndSerie);
-    maximo = std::max(maximo, Mayor(s.QSale.Fila(fila), tramo.desde, tramo.hasta));
+    float& maximo = s.Resultados.QMax(fila, s.Serie.IndSerie);
+    maximo = std::max(maximo, Mayor(s.Resultados.QSale.Fila(fila), tramo.desde, tramo.hasta));
     if (!c.ConVolumenes) return;
-    s.VolEntra = Volumen(s.QEntra.Fila(fila), tramo, s.PasoQ);
-    s.VolSale = Volumen(s.QSale.Fila(fila), tramo, s.PasoQ);
+    s.Resultados.VolEntra = Volumen(s.Resultados.QEntra.Fila(fila), tramo, s.Pasos.PasoQ);
+    s.Resultados.VolSale = Volumen(s.Resultados.QSale.Fila(fila), tramo, s.Pasos.PasoQ);
 }
 
 }  // namespace engine

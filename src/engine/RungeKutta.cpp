@@ -16,7 +16,7 @@ constexpr std::string_view EncabezadoRungeKutta = "k    t     qe(i, k)    dH1   
 /// the end of the question differ by stage.
 void PreguntaPorArea(const Siro& s, const EmbalseEnMano& e, std::string_view final)
 {
-    const std::string texto = "La superficie a(h) obtenida para h= " + NumeroATexto(s.HActual) +
+    const std::string texto = "La superficie a(h) obtenida para h= " + NumeroATexto(s.Resultados.HActual) +
                               std::string(e.clase.areaDe) + e.nombre + " es CERO. ¿Desea continuar?" +
                               std::string(final);
     const std::string repetida = std::string(e.clase.areaDe).append(final);
@@ -26,13 +26,14 @@ void PreguntaPorArea(const Siro& s, const EmbalseEnMano& e, std::string_view fin
 /// One stage of the scheme: rise of the water [m] in a whole step at height h under the inflow I.
 float EtapaRungeKutta(Siro& s, const EmbalseEnMano& e, float h, float I, std::string_view finalPregunta)
 {
-    s.HActual = h;
-    const float Q = e.clase.QdeH(s, s.HActual);
-    s.ACalc = Simple(e.clase.AdeH(s, s.HActual));
+    s.Resultados.HActual = h;
+    const float Q = e.clase.QdeH(s, s.Resultados.HActual);
+    s.Resultados.ACalc = Simple(e.clase.AdeH(s, s.Resultados.HActual));
     constexpr double MetrosPorHectarea = 10000.0;
-    if (s.ACalc > 0) return Simple((double{I} - Q) / (s.ACalc * MetrosPorHectarea) * s.PasoQ * 60.0);
+    if (s.Resultados.ACalc > 0)
+        return Simple((double{I} - Q) / (s.Resultados.ACalc * MetrosPorHectarea) * s.Pasos.PasoQ * 60.0);
     PreguntaPorArea(s, e, finalPregunta);
-    s.ACalc = 0;
+    s.Resultados.ACalc = 0;
     return 0;
 }
 
@@ -41,20 +42,20 @@ float EtapaRungeKutta(Siro& s, const EmbalseEnMano& e, float h, float I, std::st
 void PropagaRungeKutta(Corrida& c, const EmbalseEnMano& e)
 {
     Siro& s = c.s;
-    s.IndPaso = 0;
-    s.HActual = e.HInicial;
-    float Hk = s.HActual;
-    s.QEntra(e.fila, 0) = c.QBaseEntra;
+    s.Resultados.IndPaso = 0;
+    s.Resultados.HActual = e.HInicial;
+    float Hk = s.Resultados.HActual;
+    s.Resultados.QEntra(e.fila, 0) = c.QBaseEntra;
     (void)e.tablaH(e.numero, e.filasTabla(e.numero));  // top and bottom have to be there, though unused
     (void)e.tablaH(e.numero, 1);
     AbreDetalle(c, e, EncabezadoRungeKutta);
-    e.H(e.numero, 0) = s.HActual;
-    e.S(e.numero, 0) = s.SActual;  // of the last routing of the run: kept as it stands
+    e.H(e.numero, 0) = s.Resultados.HActual;
+    e.S(e.numero, 0) = s.Resultados.SActual;  // of the last routing of the run: kept as it stands
     EscribeDetalle(c, e, 0, {0, 0, 0});
-    for (int k = 1; k <= s.NroPasosQ; ++k) {
-        s.IndPaso = static_cast<std::int16_t>(k);
-        const float I1 = s.QEntra(e.fila, k - 1);
-        const float d = Simple(double{s.QEntra(e.fila, k)} - s.QEntra(e.fila, k - 1));
+    for (int k = 1; k <= s.Resultados.NroPasosQ; ++k) {
+        s.Resultados.IndPaso = static_cast<std::int16_t>(k);
+        const float I1 = s.Resultados.QEntra(e.fila, k - 1);
+        const float d = Simple(double{s.Resultados.QEntra(e.fila, k)} - s.Resultados.QEntra(e.fila, k - 1));
         const float I2 = Simple(double{d} / 3 + I1);
         const float I3 = Simple(2.0 * d / 3 + I1);
         const float dH1 = EtapaRungeKutta(s, e, Hk, I1, "  ");
@@ -62,12 +63,12 @@ void PropagaRungeKutta(Corrida& c, const EmbalseEnMano& e)
         const float dH3 = EtapaRungeKutta(s, e, Simple(2.0 * dH2 / 3 + Hk), I3, "  ");
         const float dH = Simple(double{dH3} * 3 / 4 + double{dH1} / 4);
         Hk = Simple(double{Hk} + dH);
-        s.HActual = Hk;
-        s.QSale(e.fila, k) = e.clase.QdeH(s, s.HActual);
-        e.H(e.numero, k) = s.HActual;
-        s.SActual = Simple(e.clase.SdeH(s, s.HActual));
-        e.S(e.numero, k) = s.SActual;
-        EscribeDetalle(c, e, s.IndPaso, {dH1, dH2, dH3});
+        s.Resultados.HActual = Hk;
+        s.Resultados.QSale(e.fila, k) = e.clase.QdeH(s, s.Resultados.HActual);
+        e.H(e.numero, k) = s.Resultados.HActual;
+        s.Resultados.SActual = Simple(e.clase.SdeH(s, s.Resultados.HActual));
+        e.S(e.numero, k) = s.Resultados.SActual;
+        EscribeDetalle(c, e, s.Resultados.IndPaso, {dH1, dH2, dH3});
     }
     CierraDetalle(c, e);
 }

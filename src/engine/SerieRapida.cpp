@@ -39,33 +39,34 @@ struct Hietograma {
 
 Hietograma Copia(const Siro& s)
 {
-    return {s.NroBloquesPp, s.NroPpReal, s.PpAcum, s.IntensidadPp, s.PpReal};
+    return {s.Hietograma.NroBloquesPp, s.Tormenta.NroPpReal, s.Hietograma.PpAcum, s.Hietograma.IntensidadPp,
+            s.Tormenta.PpReal};
 }
 
 void Pone(Siro& s, const Hietograma& h)
 {
-    s.NroBloquesPp = h.NroBloquesPp;
-    s.NroPpReal = h.NroPpReal;
-    s.PpAcum = h.PpAcum;
-    s.IntensidadPp = h.IntensidadPp;
-    s.PpReal = h.PpReal;
-    s.PpAcumPrevia = 0;
+    s.Hietograma.NroBloquesPp = h.NroBloquesPp;
+    s.Tormenta.NroPpReal = h.NroPpReal;
+    s.Hietograma.PpAcum = h.PpAcum;
+    s.Hietograma.IntensidadPp = h.IntensidadPp;
+    s.Tormenta.PpReal = h.PpReal;
+    s.Hietograma.PpAcumPrevia = 0;
 }
 
 void TomaTormenta(Siro& s, int numero)
 {
-    s.IndSerie = static_cast<std::int16_t>(numero);
-    s.PpTormenta = s.SerieP(numero);
-    s.DurTormenta = s.SerieD(numero);
-    s.RecTormenta = s.SerieR(numero);
+    s.Serie.IndSerie = static_cast<std::int16_t>(numero);
+    s.Tormenta.PpTormenta = s.Serie.SerieP(numero);
+    s.Tormenta.DurTormenta = s.Serie.SerieD(numero);
+    s.Tormenta.RecTormenta = s.Serie.SerieR(numero);
 }
 
 /// Asks for the rain of each model step, as the run does: that can cut or lengthen the hyetograph's arrays.
 void GastaLluvia(Siro& s)
 {
-    const double x = model::Cociente(s.DurTormenta + double{s.N0Dur}, s.PasoPp);
+    const double x = model::Cociente(s.Tormenta.DurTormenta + double{s.Pasos.N0Dur}, s.Pasos.PasoPp);
     const double pasos = std::min(std::ceil(x), 32767.0);
-    for (std::int16_t k = 1; k < pasos && k * s.PasoPp < s.DurTormenta + s.PasoPp; ++k)
+    for (std::int16_t k = 1; k < pasos && k * s.Pasos.PasoPp < s.Tormenta.DurTormenta + s.Pasos.PasoPp; ++k)
         PpDelPaso(s, k);
 }
 
@@ -100,14 +101,14 @@ struct Reparto {
 /// Makes the column of one storm in all results equal to that of another state.
 void TraeColumna(Siro& a, const Siro& de, int numero)
 {
-    for (int fila = 0; fila <= a.QMax.UltimaFila(); ++fila)
-        a.QMax(fila, numero) = de.QMax(fila, numero);
-    for (int u = 0; u <= a.EscUEH.UltimaFila(); ++u) {
-        a.EscUEH(u, numero) = de.EscUEH(u, numero);
-        a.CoefEscUEH(u, numero) = de.CoefEscUEH(u, numero);
+    for (int fila = 0; fila <= a.Resultados.QMax.UltimaFila(); ++fila)
+        a.Resultados.QMax(fila, numero) = de.Resultados.QMax(fila, numero);
+    for (int u = 0; u <= a.Resultados.EscUEH.UltimaFila(); ++u) {
+        a.Resultados.EscUEH(u, numero) = de.Resultados.EscUEH(u, numero);
+        a.Resultados.CoefEscUEH(u, numero) = de.Resultados.CoefEscUEH(u, numero);
     }
-    a.EscTotal(numero) = de.EscTotal(numero);
-    a.CoefEscTotal(numero) = de.CoefEscTotal(numero);
+    a.Resultados.EscTotal(numero) = de.Resultados.EscTotal(numero);
+    a.Resultados.CoefEscTotal(numero) = de.Resultados.CoefEscTotal(numero);
 }
 
 /// Runs one storm in a state of its own. Returns false where it isn't silent, or there is no memory for it.
@@ -199,7 +200,7 @@ void PonEstadoAnterior(Siro& s, const std::vector<int>& numeros, const std::vect
 std::size_t CorreTormentasSinAvisos(Siro& s, const std::vector<int>& numeros, int hilos,
                                     const std::function<void(int)>& avisa)
 {
-    if (numeros.size() < 2 || s.NroSeriePDR < 2) return 0;
+    if (numeros.size() < 2 || s.Serie.NroSeriePDR < 2) return 0;
     const std::vector<Hietograma> hietogramas = Hietogramas(s, numeros);
     Reparto reparto{numeros, hietogramas, std::min(hietogramas.size(), numeros.size() - 1)};
     const auto cuantos = std::clamp<std::size_t>(static_cast<std::size_t>(std::max(hilos, 1)), 1,

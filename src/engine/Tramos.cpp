@@ -33,10 +33,14 @@ constexpr float SumaModerada = 1e36F;  // sums of a few hundred such flows stay 
 void SumaAfluente(Corrida& c, int fila, int afluente)
 {
     Siro& s = c.s;
-    if (SumaSegura(s.QEntra, fila, s.QSale, afluente, s.NroPasosQ))
-        return SumaFila(s.QEntra.Fila(fila), s.QSale.Fila(afluente), {1, s.NroPasosQ});
-    for (int p = 1; p <= s.NroPasosQ; ++p)
-        c.Intenta([&] { s.QEntra(fila, p) = Simple(double{s.QEntra(fila, p)} + s.QSale(afluente, p)); });
+    if (SumaSegura(s.Resultados.QEntra, fila, s.Resultados.QSale, afluente, s.Resultados.NroPasosQ))
+        return SumaFila(s.Resultados.QEntra.Fila(fila), s.Resultados.QSale.Fila(afluente),
+                        {1, s.Resultados.NroPasosQ});
+    for (int p = 1; p <= s.Resultados.NroPasosQ; ++p)
+        c.Intenta([&] {
+            s.Resultados.QEntra(fila, p) =
+                Simple(double{s.Resultados.QEntra(fila, p)} + s.Resultados.QSale(afluente, p));
+        });
 }
 
 void JuntaAfluentes(Corrida& c, int fila)
@@ -44,7 +48,8 @@ void JuntaAfluentes(Corrida& c, int fila)
     const Aportes::Afluentes& afluentes = c.Afluentes->De(fila);
     for (const Aportes::AfluenteUEH& u : afluentes.UEHs) {
         SumaAfluente(c, fila, u.fila);
-        c.Intenta([&] { c.QBaseEntra = Simple(double{c.QBaseEntra} + c.s.ColUEHs.Item(u.item).Q0Recesion); });
+        c.Intenta(
+            [&] { c.QBaseEntra = Simple(double{c.QBaseEntra} + c.s.Red.ColUEHs.Item(u.item).Q0Recesion); });
     }
     for (const auto* filas : {&afluentes.Cauces, &afluentes.Represas, &afluentes.Lagos})
         for (const int f : *filas)
@@ -69,10 +74,12 @@ bool PreparaDirecta(Corrida& c, const Cauce& cauce)
     if (cauce.LongCauce == 0) return Rechaza(c, SinLongitud, cauce);
     if (cauce.VelMediaCauce == 0) return Rechaza(c, SinVelocidad, cauce);
     c.Intenta([&] { c.TiempoViaje = Entero16(Cociente(cauce.LongCauce, cauce.VelMediaCauce) / 60); });
-    c.Intenta([&] { c.RetardoPasos = Entero16(Cociente(c.TiempoViaje, s.PasoQ)); });
+    c.Intenta([&] { c.RetardoPasos = Entero16(Cociente(c.TiempoViaje, s.Pasos.PasoQ)); });
     if (c.RetardoMax < c.RetardoPasos) {
         c.RetardoMax = c.RetardoPasos;
-        c.Intenta([&] { s.QSale.Redimensiona(Suma16(Suma16(s.NroPasosQ, 1), c.RetardoMax)); });
+        c.Intenta([&] {
+            s.Resultados.QSale.Redimensiona(Suma16(Suma16(s.Resultados.NroPasosQ, 1), c.RetardoMax));
+        });
     }
     return true;
 }
@@ -92,19 +99,23 @@ void PropagaDirecta(Corrida& c, int fila)
     Siro& s = c.s;
     // Until the flood gets to the end of the reach the flow there is the initial one.
     for (int j = 1; j <= c.RetardoPasos; ++j)
-        c.Intenta([&] { s.QSale(fila, j) = c.QBaseEntra; });
+        c.Intenta([&] { s.Resultados.QSale(fila, j) = c.QBaseEntra; });
 
-    const bool segura = s.NroPasosQ >= 1 && c.RetardoPasos >= 0 && fila <= s.QSale.UltimaFila() &&
-                        s.QSale.TopeColumna() >= s.NroPasosQ + c.RetardoPasos &&
-                        fila >= s.QEntra.PrimeraFila() && fila <= s.QEntra.UltimaFila() &&
-                        s.QEntra.TopeColumna() >= s.NroPasosQ &&
-                        MayorAbsoluto(s.QEntra.Fila(fila), 1, s.NroPasosQ) < SumaModerada &&
-                        MayorAbsoluto(s.QSale.Fila(fila), 0, s.QSale.TopeColumna()) < SumaModerada;
-    if (segura) return SumaFila(s.QSale.Fila(fila) + c.RetardoPasos, s.QEntra.Fila(fila), {1, s.NroPasosQ});
-    for (int paso = 1; paso <= s.NroPasosQ; ++paso)
+    const bool segura =
+        s.Resultados.NroPasosQ >= 1 && c.RetardoPasos >= 0 && fila <= s.Resultados.QSale.UltimaFila() &&
+        s.Resultados.QSale.TopeColumna() >= s.Resultados.NroPasosQ + c.RetardoPasos &&
+        fila >= s.Resultados.QEntra.PrimeraFila() && fila <= s.Resultados.QEntra.UltimaFila() &&
+        s.Resultados.QEntra.TopeColumna() >= s.Resultados.NroPasosQ &&
+        MayorAbsoluto(s.Resultados.QEntra.Fila(fila), 1, s.Resultados.NroPasosQ) < SumaModerada &&
+        MayorAbsoluto(s.Resultados.QSale.Fila(fila), 0, s.Resultados.QSale.TopeColumna()) < SumaModerada;
+    if (segura)
+        return SumaFila(s.Resultados.QSale.Fila(fila) + c.RetardoPasos, s.Resultados.QEntra.Fila(fila),
+                        {1, s.Resultados.NroPasosQ});
+    for (int paso = 1; paso <= s.Resultados.NroPasosQ; ++paso)
         c.Intenta([&] {
             const std::int16_t q = Suma16(static_cast<std::int16_t>(paso), c.RetardoPasos);
-            s.QSale(fila, q) = Simple(double{s.QSale(fila, q)} + s.QEntra(fila, paso));
+            s.Resultados.QSale(fila, q) =
+                Simple(double{s.Resultados.QSale(fila, q)} + s.Resultados.QEntra(fila, paso));
         });
 }
 
@@ -114,12 +125,13 @@ void PropagaDirecta(Corrida& c, int fila)
 bool MuskingumRapido(Corrida& c, int fila)
 {
     Siro& s = c.s;
-    const int n = s.NroPasosQ;
-    if (n < 1 || fila < s.QEntra.PrimeraFila() || fila > s.QEntra.UltimaFila() ||
-        fila > s.QSale.UltimaFila() || s.QEntra.TopeColumna() < n || s.QSale.TopeColumna() < n)
+    const int n = s.Resultados.NroPasosQ;
+    if (n < 1 || fila < s.Resultados.QEntra.PrimeraFila() || fila > s.Resultados.QEntra.UltimaFila() ||
+        fila > s.Resultados.QSale.UltimaFila() || s.Resultados.QEntra.TopeColumna() < n ||
+        s.Resultados.QSale.TopeColumna() < n)
         return false;
-    const float* __restrict entra = s.QEntra.Fila(fila);
-    float* sale = s.QSale.Fila(fila);
+    const float* __restrict entra = s.Resultados.QEntra.Fila(fila);
+    float* sale = s.Resultados.QSale.Fila(fila);
     std::vector<double>& parte = c.memoria.columna;
     parte.resize(static_cast<std::size_t>(n) + 1);
     const double C0 = c.C0Musk, C1 = c.C1Musk, C2 = c.C2Musk;
@@ -143,12 +155,14 @@ void PropagaMuskingum(Corrida& c, int fila)
 {
     Siro& s = c.s;
     if (MuskingumRapido(c, fila)) return;
-    if (s.NroPasosQ >= 1) c.Intenta([&] { s.QSale(fila, 1) = s.QEntra(fila, 1); });
-    for (int p = 2; p <= s.NroPasosQ; ++p)
+    if (s.Resultados.NroPasosQ >= 1)
+        c.Intenta([&] { s.Resultados.QSale(fila, 1) = s.Resultados.QEntra(fila, 1); });
+    for (int p = 2; p <= s.Resultados.NroPasosQ; ++p)
         c.Intenta([&] {
-            s.QSale(fila, p) =
-                Simple(s.QSale(fila, p) + double{c.C0Musk} * s.QEntra(fila, p) +
-                       double{c.C1Musk} * s.QEntra(fila, p - 1) + double{c.C2Musk} * s.QSale(fila, p - 1));
+            s.Resultados.QSale(fila, p) =
+                Simple(s.Resultados.QSale(fila, p) + double{c.C0Musk} * s.Resultados.QEntra(fila, p) +
+                       double{c.C1Musk} * s.Resultados.QEntra(fila, p - 1) +
+                       double{c.C2Musk} * s.Resultados.QSale(fila, p - 1));
         });
 }
 
@@ -157,46 +171,54 @@ void PropagaMuskingum(Corrida& c, int fila)
 void ResumePasoAPaso(Corrida& c, int fila)
 {
     Siro& s = c.s;
-    s.VolEntra = 0;
-    s.VolSale = 0;
-    for (int paso = 1; paso <= s.NroPasosQ; ++paso) {
+    s.Resultados.VolEntra = 0;
+    s.Resultados.VolSale = 0;
+    for (int paso = 1; paso <= s.Resultados.NroPasosQ; ++paso) {
         const auto p = static_cast<std::int16_t>(paso);
         c.Intenta([&] {
-            const std::int16_t t = Minutos(p, s.PasoQ);
-            const float entra = Redondea(s.QEntra(fila, p), 3), sale = Redondea(s.QSale(fila, p), 3);
+            const std::int16_t t = Minutos(p, s.Pasos.PasoQ);
+            const float entra = Redondea(s.Resultados.QEntra(fila, p), 3),
+                        sale = Redondea(s.Resultados.QSale(fila, p), 3);
             c.Linea.Vacia();
             c.Linea.Izquierda(std::int32_t{p}, 7).Izquierda(std::int32_t{t}, 7);
             c.Linea.Izquierda(entra, 11).Izquierda(sale, 10);
         });
-        if (s.SalidaPizarra) s.TextoPizarra.append("\r\n ").append(c.Linea.Texto());
+        if (s.Control.SalidaPizarra) s.Control.TextoPizarra.append("\r\n ").append(c.Linea.Texto());
         c.Intenta([&] {
-            if (s.QSale(fila, p) > s.QMax(fila, s.IndSerie)) s.QMax(fila, s.IndSerie) = s.QSale(fila, p);
+            if (s.Resultados.QSale(fila, p) > s.Resultados.QMax(fila, s.Serie.IndSerie))
+                s.Resultados.QMax(fila, s.Serie.IndSerie) = s.Resultados.QSale(fila, p);
         });
-        c.Intenta([&] { s.VolEntra = Simple(s.VolEntra + 1.0 * s.PasoQ * s.QEntra(fila, p) * 60); });
-        c.Intenta([&] { s.VolSale = Simple(s.VolSale + 1.0 * s.PasoQ * s.QSale(fila, p) * 60); });
+        c.Intenta([&] {
+            s.Resultados.VolEntra =
+                Simple(s.Resultados.VolEntra + 1.0 * s.Pasos.PasoQ * s.Resultados.QEntra(fila, p) * 60);
+        });
+        c.Intenta([&] {
+            s.Resultados.VolSale =
+                Simple(s.Resultados.VolSale + 1.0 * s.Pasos.PasoQ * s.Resultados.QSale(fila, p) * 60);
+        });
     }
 }
 
 bool PropagaTramo(Corrida& c, int fila, const Cauce& cauce)
 {
     Siro& s = c.s;
-    if (s.SalidaPizarra)
-        s.TextoPizarra += "\r\nComponente: Tramo de Cauce " + cauce.NombreCauce +
-                          "\r\nPer.k  t[min]  Qentra[m3/s] Qsale[m3/s] ";
+    if (s.Control.SalidaPizarra)
+        s.Control.TextoPizarra += "\r\nComponente: Tramo de Cauce " + cauce.NombreCauce +
+                                  "\r\nPer.k  t[min]  Qentra[m3/s] Qsale[m3/s] ";
     JuntaAfluentes(c, fila);
     if (!Prepara(c, cauce)) return false;
     if (cauce.optDirMusk)
         PropagaDirecta(c, fila);
     else
         PropagaMuskingum(c, fila);
-    if (!s.SalidaPizarra && ResumenSeguro(c, fila))
-        Resume(c, fila, {1, s.NroPasosQ});
+    if (!s.Control.SalidaPizarra && ResumenSeguro(c, fila))
+        Resume(c, fila, {1, s.Resultados.NroPasosQ});
     else
         ResumePasoAPaso(c, fila);
-    if (s.SalidaPizarra) {
+    if (s.Control.SalidaPizarra) {
         c.Intenta([&] { EscribeResumen(c, fila); });
-        s.TextoPizarra += "\r\n";
-        s.Anfitrion.AmpliaPizarra(s.TextoPizarra);
+        s.Control.TextoPizarra += "\r\n";
+        s.Anfitrion.AmpliaPizarra(s.Control.TextoPizarra);
     }
     return true;
 }
@@ -205,8 +227,8 @@ bool PropagaTramo(Corrida& c, int fila, const Cauce& cauce)
 
 bool ProcesoEnCauce(Corrida& c, int fila)
 {
-    const std::string& nombre = c.s.Secuencia[static_cast<std::size_t>(fila)];
-    for (const Cauce& cauce : c.s.ColCauces) {
+    const std::string& nombre = c.s.Resultados.Secuencia[static_cast<std::size_t>(fila)];
+    for (const Cauce& cauce : c.s.Red.ColCauces) {
         c.QBaseEntra = 0;
         if (cauce.NombreCauce == nombre && !PropagaTramo(c, fila, cauce)) return false;
     }

@@ -66,12 +66,12 @@ bool Rechaza(const Siro& s, std::string texto)
 bool CompruebaUEH(Corrida& c, int i)
 {
     Siro& s = c.s;
-    c.Intenta([&] { c.AreaTotal = Simple(double{c.AreaTotal} + s.UEHs(i).Area); });
+    c.Intenta([&] { c.AreaTotal = Simple(double{c.AreaTotal} + s.Red.UEHs(i).Area); });
     if (c.AreaTotal == 0) return Rechaza(s, std::string(SinArea));
-    c.Intenta([&] { s.PasosInfiltra(i) = 1; });
-    if (c.Vale([&] { return s.UEHs(i).VelMedia == 0; }))
+    c.Intenta([&] { s.Resultados.PasosInfiltra(i) = 1; });
+    if (c.Vale([&] { return s.Red.UEHs(i).VelMedia == 0; }))
         return Rechaza(s, std::string(ErrorEnUEH) + NumeroATexto(i) + std::string(SinVelocidad));
-    if (c.Vale([&] { return s.UEHs(i).LongitudMax == 0; }))
+    if (c.Vale([&] { return s.Red.UEHs(i).LongitudMax == 0; }))
         return Rechaza(s, std::string(ErrorEnUEH) + NumeroATexto(i) + std::string(SinLongitud));
     return true;
 }
@@ -79,10 +79,10 @@ bool CompruebaUEH(Corrida& c, int i)
 bool CompruebaUEHs(Corrida& c)
 {
     Siro& s = c.s;
-    c.Intenta([&] { s.PasosInfiltra.Redimensiona(s.NroUEHs); });
-    s.TextoPizarra = s.Anfitrion.LeePizarra();
-    if (s.NroUEHs == 0) return Rechaza(s, std::string(SinUEHs));
-    for (int i = 1; i <= s.NroUEHs; ++i)
+    c.Intenta([&] { s.Resultados.PasosInfiltra.Redimensiona(s.Red.NroUEHs); });
+    s.Control.TextoPizarra = s.Anfitrion.LeePizarra();
+    if (s.Red.NroUEHs == 0) return Rechaza(s, std::string(SinUEHs));
+    for (int i = 1; i <= s.Red.NroUEHs; ++i)
         if (!CompruebaUEH(c, i)) return false;
     return true;
 }
@@ -92,7 +92,7 @@ void CuentaPasos(Corrida& c, std::int16_t paso, std::int16_t& pasos)
 {
     const Siro& s = c.s;
     c.Intenta([&] {
-        const double x = Cociente(s.DurTormenta + double{s.N0Dur}, paso);
+        const double x = Cociente(s.Tormenta.DurTormenta + double{s.Pasos.N0Dur}, paso);
         const std::int16_t enteros = Piso16(x);
         pasos = Simple(x) > static_cast<float>(enteros) ? Suma16(enteros, 1) : enteros;
     });
@@ -101,59 +101,67 @@ void CuentaPasos(Corrida& c, std::int16_t paso, std::int16_t& pasos)
 bool CompruebaPasos(Corrida& c)
 {
     Siro& s = c.s;
-    c.Intenta([&] { c.RelacionPasos = Piso16(Cociente(s.PasoPp, s.PasoQ)); });
-    if (c.Vale([&] { return Cociente(s.PasoPp, s.PasoQ) != c.RelacionPasos; }))
+    c.Intenta([&] { c.RelacionPasos = Piso16(Cociente(s.Pasos.PasoPp, s.Pasos.PasoQ)); });
+    if (c.Vale([&] { return Cociente(s.Pasos.PasoPp, s.Pasos.PasoQ) != c.RelacionPasos; }))
         return Rechaza(s, std::string(PasosDesiguales));
-    CuentaPasos(c, s.PasoPp, c.NroPasosPp);
-    CuentaPasos(c, s.PasoQ, s.NroPasosQ);
+    CuentaPasos(c, s.Pasos.PasoPp, c.NroPasosPp);
+    CuentaPasos(c, s.Pasos.PasoQ, s.Resultados.NroPasosQ);
     return true;
 }
 
 void DimensionaTrabajo(Corrida& c)
 {
     Siro& s = c.s;
-    c.Intenta([&] { c.RetencionRestante.Dimensiona(s.NroUEHs); });
-    c.Intenta([&] { s.VolBaseUEH.Dimensiona(Suma16(s.NroUEHs, 1)); });
-    c.Intenta([&] { s.CoefUEH.Dimensiona(Suma16(s.NroUEHs, 1)); });
-    c.Intenta([&] { s.VolUEH.Dimensiona(Suma16(s.NroUEHs, 1)); });
-    c.Intenta([&] { c.PpMediaPaso.Dimensiona(s.NroPasosQ); });
-    c.Intenta([&] { s.PpUEHPaso.Dimensiona(s.NroUEHs, Piso16(Cociente(s.DurTormenta, s.PasoQ)) + 1); });
-    c.Intenta([&] { s.HRepresa.Dimensiona(s.NroRepresas, Suma16(s.NroPasosQ, 1)); });
-    c.Intenta([&] { s.SRepresa.Dimensiona(s.NroRepresas, Suma16(s.NroPasosQ, 1)); });
-    c.Intenta([&] { s.HLago.Dimensiona(s.NroLagos, Suma16(s.NroPasosQ, 1)); });
-    c.Intenta([&] { s.SLago.Dimensiona(s.NroLagos, Suma16(s.NroPasosQ, 1)); });
-    if (s.FormaPp == FormaPorUEH) return;
-    for (int i = 1; i <= s.NroUEHs; ++i)
-        c.Intenta([&] { s.PpUEH(i) = 0; });
+    c.Intenta([&] { c.RetencionRestante.Dimensiona(s.Red.NroUEHs); });
+    c.Intenta([&] { s.Resultados.VolBaseUEH.Dimensiona(Suma16(s.Red.NroUEHs, 1)); });
+    c.Intenta([&] { s.Resultados.CoefUEH.Dimensiona(Suma16(s.Red.NroUEHs, 1)); });
+    c.Intenta([&] { s.Resultados.VolUEH.Dimensiona(Suma16(s.Red.NroUEHs, 1)); });
+    c.Intenta([&] { c.PpMediaPaso.Dimensiona(s.Resultados.NroPasosQ); });
+    c.Intenta([&] {
+        s.Resultados.PpUEHPaso.Dimensiona(s.Red.NroUEHs,
+                                          Piso16(Cociente(s.Tormenta.DurTormenta, s.Pasos.PasoQ)) + 1);
+    });
+    c.Intenta(
+        [&] { s.Resultados.HRepresa.Dimensiona(s.Red.NroRepresas, Suma16(s.Resultados.NroPasosQ, 1)); });
+    c.Intenta(
+        [&] { s.Resultados.SRepresa.Dimensiona(s.Red.NroRepresas, Suma16(s.Resultados.NroPasosQ, 1)); });
+    c.Intenta([&] { s.Resultados.HLago.Dimensiona(s.Red.NroLagos, Suma16(s.Resultados.NroPasosQ, 1)); });
+    c.Intenta([&] { s.Resultados.SLago.Dimensiona(s.Red.NroLagos, Suma16(s.Resultados.NroPasosQ, 1)); });
+    if (s.Tormenta.FormaPp == FormaPorUEH) return;
+    for (int i = 1; i <= s.Red.NroUEHs; ++i)
+        c.Intenta([&] { s.Tormenta.PpUEH(i) = 0; });
 }
 
 void DimensionaResultados(Corrida& c)
 {
     Siro& s = c.s;
-    c.Intenta([&] { s.QSale.Dimensiona(s.NroComponentes, Suma16(s.NroPasosQ, 1)); });
     c.Intenta([&] {
-        s.QEntra.Dimensiona(Suma16(s.NroUEHs, 1), Suma16(s.NroComponentes, 1), Suma16(s.NroPasosQ, 1));
+        s.Resultados.QSale.Dimensiona(s.Resultados.NroComponentes, Suma16(s.Resultados.NroPasosQ, 1));
     });
-    if (s.FormaPp != FormaSerie) {
-        s.NroSeriePDR = 1;
-        s.IndSerie = 1;
+    c.Intenta([&] {
+        s.Resultados.QEntra.Dimensiona(Suma16(s.Red.NroUEHs, 1), Suma16(s.Resultados.NroComponentes, 1),
+                                       Suma16(s.Resultados.NroPasosQ, 1));
+    });
+    if (s.Tormenta.FormaPp != FormaSerie) {
+        s.Serie.NroSeriePDR = 1;
+        s.Serie.IndSerie = 1;
     }
-    if (s.NroSeriePDR != 1) return;
-    c.Intenta([&] { s.QMax.Dimensiona(s.NroComponentes, 1); });
-    c.Intenta([&] { s.EscUEH.Dimensiona(s.NroUEHs, 1); });
-    c.Intenta([&] { s.CoefEscUEH.Dimensiona(s.NroUEHs, 1); });
-    c.Intenta([&] { s.CoefEscTotal.Dimensiona(1); });
-    c.Intenta([&] { s.EscTotal.Dimensiona(1); });
+    if (s.Serie.NroSeriePDR != 1) return;
+    c.Intenta([&] { s.Resultados.QMax.Dimensiona(s.Resultados.NroComponentes, 1); });
+    c.Intenta([&] { s.Resultados.EscUEH.Dimensiona(s.Red.NroUEHs, 1); });
+    c.Intenta([&] { s.Resultados.CoefEscUEH.Dimensiona(s.Red.NroUEHs, 1); });
+    c.Intenta([&] { s.Resultados.CoefEscTotal.Dimensiona(1); });
+    c.Intenta([&] { s.Resultados.EscTotal.Dimensiona(1); });
 }
 
 bool PreparaUEHs(Corrida& c)
 {
     Siro& s = c.s;
-    if (s.ErrorRed || !OrdenaRed(c)) return Rechaza(s, std::string(RedConErrores));
-    for (int i = 1; i <= s.NroUEHs; ++i) {
-        c.Intenta([&] { c.RetencionRestante(i) = s.UEHs(i).RetensionZ; });
-        c.Intenta([&] { s.PasosInfiltra(i) = 1; });
-        c.Intenta([&] { s.VolUEH(i) = 0; });
+    if (s.Control.ErrorRed || !OrdenaRed(c)) return Rechaza(s, std::string(RedConErrores));
+    for (int i = 1; i <= s.Red.NroUEHs; ++i) {
+        c.Intenta([&] { c.RetencionRestante(i) = s.Red.UEHs(i).RetensionZ; });
+        c.Intenta([&] { s.Resultados.PasosInfiltra(i) = 1; });
+        c.Intenta([&] { s.Resultados.VolUEH(i) = 0; });
     }
     return true;
 }
@@ -175,14 +183,14 @@ void ReservaTexto(const Corrida& c)
     constexpr std::size_t DePaso = 78, PorUEH = 29, DeDetalle = 106, DeEmbalse = 61, DeCauce = 38;
     constexpr std::size_t DeResumen = 512, Tope = 64 << 20;
     const auto cuenta = [](int n) { return static_cast<std::size_t>(std::max(n, 0)); };
-    const std::size_t UEHs = cuenta(s.NroUEHs), pasosQ = cuenta(s.NroPasosQ) + 1;
-    const std::size_t embalses = cuenta(s.ColRepresas.Cuenta()) + cuenta(s.ColLagos.Cuenta());
+    const std::size_t UEHs = cuenta(s.Red.NroUEHs), pasosQ = cuenta(s.Resultados.NroPasosQ) + 1;
+    const std::size_t embalses = cuenta(s.Red.ColRepresas.Cuenta()) + cuenta(s.Red.ColLagos.Cuenta());
     std::size_t bytes = pasosQ * (PorUEH * UEHs + DeDetalle * embalses);
-    if (s.SalidaPizarra)
-        bytes += cuenta(c.NroPasosPp) * UEHs * DePaso + cuenta(s.NroComponentes) * DeResumen +
-                 pasosQ * (DeEmbalse * embalses + DeCauce * cuenta(s.ColCauces.Cuenta()));
+    if (s.Control.SalidaPizarra)
+        bytes += cuenta(c.NroPasosPp) * UEHs * DePaso + cuenta(s.Resultados.NroComponentes) * DeResumen +
+                 pasosQ * (DeEmbalse * embalses + DeCauce * cuenta(s.Red.ColCauces.Cuenta()));
     bytes += bytes / 8;  // the last slopes may lengthen the run
-    s.TextoPizarra.reserve(s.TextoPizarra.size() + std::min(Tope, bytes));
+    s.Control.TextoPizarra.reserve(s.Control.TextoPizarra.size() + std::min(Tope, bytes));
 }
 
 // --- second half: reaches, Lagos, Represas ---
@@ -191,19 +199,19 @@ void AbreSegundaParte(Corrida& c)
 {
     Siro& s = c.s;
     c.RetardoMax = 0;
-    if (!s.SalidaPizarra) return;
-    s.TextoPizarra +=
+    if (!s.Control.SalidaPizarra) return;
+    s.Control.TextoPizarra +=
         "\r\n\r\nII- SIMULACION EN COMPONENTES RESTANTES"
         "\r\n    (Cauces, Lagos y Represas)";
     // The block ahead of any component shows what the last one of an earlier run left: kept as it stands.
     c.Intenta([&] { EscribeResumen(c, 0); });
-    s.TextoPizarra += "\r\n";
-    s.Anfitrion.AmpliaPizarra(s.TextoPizarra);
+    s.Control.TextoPizarra += "\r\n";
+    s.Anfitrion.AmpliaPizarra(s.Control.TextoPizarra);
 }
 
 bool ProcesaComponente(Corrida& c, int fila)
 {
-    const std::string_view nombre = c.s.Secuencia[static_cast<std::size_t>(fila)];
+    const std::string_view nombre = c.s.Resultados.Secuencia[static_cast<std::size_t>(fila)];
     if (nombre.starts_with("l-")) {
         c.Intenta([&] { Proceso_en_Lago(c, fila); });
     } else if (nombre.starts_with("r-")) {
@@ -216,7 +224,7 @@ bool ProcesaComponente(Corrida& c, int fila)
 
 bool RecorreSecuencia(Corrida& c)
 {
-    for (int fila = std::max(c.s.NroUEHs + 1, 0); fila <= c.s.NroComponentes; ++fila)
+    for (int fila = std::max(c.s.Red.NroUEHs + 1, 0); fila <= c.s.Resultados.NroComponentes; ++fila)
         if (!ProcesaComponente(c, fila)) return false;
     return true;
 }
@@ -224,11 +232,11 @@ bool RecorreSecuencia(Corrida& c)
 /// Writes the text as one record: quotes inside it are not escaped.
 void GuardaTextoPizarra(Siro& s)
 {
-    s.ArchivoTemp = ArchivoPizarra;
-    const std::string ruta = model::Ruta(s.DirTrabajo, ArchivoPizarra);
+    s.Proyecto.ArchivoTemp = ArchivoPizarra;
+    const std::string ruta = model::Ruta(s.Proyecto.DirTrabajo, ArchivoPizarra);
     s.Disco.Escribe(ruta, "\"");
     constexpr std::size_t Trozo = 1 << 18;
-    const std::string_view texto = s.TextoPizarra;
+    const std::string_view texto = s.Control.TextoPizarra;
     for (std::size_t desde = 0; desde < texto.size();) {
         std::size_t hasta = std::min(desde + Trozo, texto.size());
         while (hasta < texto.size() && (texto[hasta] & 0xC0) == 0x80)
@@ -242,7 +250,7 @@ void GuardaTextoPizarra(Siro& s)
 void CierraCorrida(Corrida& c)
 {
     Siro& s = c.s;
-    const std::string& texto = s.TextoPizarra;
+    const std::string& texto = s.Control.TextoPizarra;
     constexpr std::size_t BytesPorCaracter = 4;  // at most
     if (texto.size() > BytesPorCaracter * LargoExtenso ||
         (texto.size() > LargoExtenso && model::CuentaCaracteres(texto) > LargoExtenso))
@@ -255,11 +263,11 @@ void CierraCorrida(Corrida& c)
 bool ProcesoPrincipal(Siro& s, ModoCorrida modo, Memoria& memoria)
 {
     Corrida c(s, memoria);
-    c.ConTexto = modo.ConTexto || modo.GuardaTexto || s.SalidaPizarra;
+    c.ConTexto = modo.ConTexto || modo.GuardaTexto || s.Control.SalidaPizarra;
     c.ConVolumenes = c.ConTexto || modo.ConVolumenes;
-    s.HActual = 0;
-    s.SActual = 0;
-    s.ACalc = 0;
+    s.Resultados.HActual = 0;
+    s.Resultados.SActual = 0;
+    s.Resultados.ACalc = 0;
     if (!PreparaCorrida(c)) return false;
     if (c.ConTexto) ReservaTexto(c);
     PasosDeLasUEHs(c);

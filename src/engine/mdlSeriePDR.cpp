@@ -41,28 +41,28 @@ constexpr std::string_view FallaTabla =
 /// Time since the series began, hours, minutes and seconds without leading zeros.
 std::string TiempoDeProceso(const Siro& s)
 {
-    const int segundos = std::max(0, static_cast<int>(s.Anfitrion.Reloj() - s.HoraInicio));
+    const int segundos = std::max(0, static_cast<int>(s.Anfitrion.Reloj() - s.Serie.HoraInicio));
     return NumeroATexto(segundos / 3600) + ":" + NumeroATexto(segundos / 60 % 60) + ":" +
            NumeroATexto(segundos % 60);
 }
 
 bool TormentaNula(const Siro& s, int numero)
 {
-    return s.SerieP(numero) == 0 || s.SerieD(numero) == 0;
+    return s.Serie.SerieP(numero) == 0 || s.Serie.SerieD(numero) == 0;
 }
 
 void MuestraAvance(Siro& s, int numero)
 {
-    s.Anfitrion.TextosAvance("P=" + NumeroATexto(s.SerieP(numero)) +
-                                 "mm  -   D=" + NumeroATexto(std::int32_t{s.SerieD(numero)}) +
-                                 "min  -   R=" + NumeroATexto(std::int32_t{s.SerieR(numero)}) + "años",
+    s.Anfitrion.TextosAvance("P=" + NumeroATexto(s.Serie.SerieP(numero)) +
+                                 "mm  -   D=" + NumeroATexto(std::int32_t{s.Serie.SerieD(numero)}) +
+                                 "min  -   R=" + NumeroATexto(std::int32_t{s.Serie.SerieR(numero)}) + "años",
                              "Tiempo de proceso: " + TiempoDeProceso(s));
 }
 
 void MueveBarra(Siro& s, int numero)
 {
-    if (numero < s.NroSeriePDR)
-        s.Anfitrion.BarraAvance(static_cast<int>(std::nearbyint((numero + 1) * 100.0 / s.NroSeriePDR)));
+    if (numero < s.Serie.NroSeriePDR)
+        s.Anfitrion.BarraAvance(static_cast<int>(std::nearbyint((numero + 1) * 100.0 / s.Serie.NroSeriePDR)));
 }
 
 void AbreSerie(Siro& s)
@@ -70,31 +70,31 @@ void AbreSerie(Siro& s)
     s.Anfitrion.AbreAvance(TituloAvance);
     s.Anfitrion.BarraAvance(0);
     s.Anfitrion.TextosAvance("", "PDR");
-    s.HoraInicio = s.Anfitrion.Reloj();
+    s.Serie.HoraInicio = s.Anfitrion.Reloj();
     s.Anfitrion.PonMarcaPizarra(false);
-    s.SalidaPizarra = false;
+    s.Control.SalidaPizarra = false;
     CargaProyecto(s);
     RehaceSecuencia(s);
-    s.AvisoDescargasVisto = true;
+    s.Control.AvisoDescargasVisto = true;
 }
 
 void DimensionaSerie(Siro& s)
 {
-    s.QMax.Dimensiona(s.NroComponentes, s.NroSeriePDR);
-    s.EscUEH.Dimensiona(s.NroUEHs, s.NroSeriePDR);
-    s.CoefEscUEH.Dimensiona(s.NroUEHs, s.NroSeriePDR);
-    s.CoefEscTotal.Dimensiona(s.NroSeriePDR);
-    s.EscTotal.Dimensiona(s.NroSeriePDR);
+    s.Resultados.QMax.Dimensiona(s.Resultados.NroComponentes, s.Serie.NroSeriePDR);
+    s.Resultados.EscUEH.Dimensiona(s.Red.NroUEHs, s.Serie.NroSeriePDR);
+    s.Resultados.CoefEscUEH.Dimensiona(s.Red.NroUEHs, s.Serie.NroSeriePDR);
+    s.Resultados.CoefEscTotal.Dimensiona(s.Serie.NroSeriePDR);
+    s.Resultados.EscTotal.Dimensiona(s.Serie.NroSeriePDR);
 }
 
 /// Storms that the series runs, in order, up to the first of depth or duration 0.
 std::vector<int> TormentasElegidas(Siro& s)
 {
     std::vector<int> numeros;
-    for (int numero = 1; numero <= s.NroSeriePDR && !TormentaNula(s, numero); ++numero) {
-        s.IndSerie = static_cast<std::int16_t>(numero);
+    for (int numero = 1; numero <= s.Serie.NroSeriePDR && !TormentaNula(s, numero); ++numero) {
+        s.Serie.IndSerie = static_cast<std::int16_t>(numero);
         SaltaTormenta(s);
-        if (!s.SaltarTormenta) numeros.push_back(numero);
+        if (!s.Serie.SaltarTormenta) numeros.push_back(numero);
     }
     return numeros;
 }
@@ -105,7 +105,7 @@ void CorreUnaTrasOtra(Siro& s, const std::vector<int>& numeros, std::size_t desd
     Memoria memoria;
     memoria.VariasCorridas = numeros.size() - desde > 1;
     for (std::size_t i = desde; i < numeros.size(); ++i) {
-        s.IndSerie = static_cast<std::int16_t>(numeros[i]);
+        s.Serie.IndSerie = static_cast<std::int16_t>(numeros[i]);
         SaltaTormenta(s);
         MuestraAvance(s, numeros[i]);
         ConstruyeHietograma(s);
@@ -118,23 +118,24 @@ void CorreUnaTrasOtra(Siro& s, const std::vector<int>& numeros, std::size_t desd
 /// of depth or duration 0 ends it.
 bool TerminaSerie(Siro& s)
 {
-    for (int numero = 1; numero <= s.NroSeriePDR; ++numero) {
-        s.IndSerie = static_cast<std::int16_t>(numero);
+    for (int numero = 1; numero <= s.Serie.NroSeriePDR; ++numero) {
+        s.Serie.IndSerie = static_cast<std::int16_t>(numero);
         SaltaTormenta(s);
         if (TormentaNula(s, numero)) return false;
     }
-    s.IndSerie = model::Suma16(s.NroSeriePDR, 1);
+    s.Serie.IndSerie = model::Suma16(s.Serie.NroSeriePDR, 1);
     return true;
 }
 
 void EscribeEncabezado(Siro& s, model::EscritorRegistros& archivo)
 {
-    const std::string conf = model::Ruta(s.DirProyecto, s.NombreProyecto) + "_Conf.vlm";
-    const std::string operador = s.Operador + " - " + s.Anfitrion.FechaHora();
+    const std::string conf = model::Ruta(s.Proyecto.DirProyecto, s.Proyecto.NombreProyecto) + "_Conf.vlm";
+    const std::string operador = s.Configuracion.Operador + " - " + s.Anfitrion.FechaHora();
     for (const std::string_view texto :
          {std::string_view("SIRO - Modelo de Simulación Hidrológica"), std::string_view(conf),
-          std::string_view(s.TituloProyecto), std::string_view(s.Ubicacion), std::string_view(s.Cuenca),
-          std::string_view(s.Subcuenca), std::string_view(operador),
+          std::string_view(s.Configuracion.TituloProyecto), std::string_view(s.Configuracion.Ubicacion),
+          std::string_view(s.Configuracion.Cuenca), std::string_view(s.Configuracion.Subcuenca),
+          std::string_view(operador),
           std::string_view("SIMULACION PARA SERIE PDR DE TORMENTAS SINTETICAS  ")})
         archivo.Texto(texto).FinRegistro();
     for (const std::string_view columna :
@@ -145,25 +146,27 @@ void EscribeEncabezado(Siro& s, model::EscritorRegistros& archivo)
 
 void EscribeResultado(Siro& s, model::EscritorRegistros& archivo, int fila)
 {
-    const int numero = s.IndSerie;
-    archivo.Texto(s.Secuencia[static_cast<std::size_t>(fila)])
+    const int numero = s.Serie.IndSerie;
+    archivo.Texto(s.Resultados.Secuencia[static_cast<std::size_t>(fila)])
         .Numero(std::int32_t{fila})
-        .Numero(s.SerieP(numero));
-    archivo.Numero(std::int32_t{s.SerieD(numero)}).Numero(std::int32_t{s.SerieR(numero)});
-    archivo.Numero(model::Redondea(s.QMax(fila, numero), 2));
-    if (fila <= s.NroUEHs)
-        archivo.Numero(s.EscUEH(fila, numero)).Numero(model::Redondea(s.CoefEscUEH(fila, numero), 2));
+        .Numero(s.Serie.SerieP(numero));
+    archivo.Numero(std::int32_t{s.Serie.SerieD(numero)}).Numero(std::int32_t{s.Serie.SerieR(numero)});
+    archivo.Numero(model::Redondea(s.Resultados.QMax(fila, numero), 2));
+    if (fila <= s.Red.NroUEHs)
+        archivo.Numero(s.Resultados.EscUEH(fila, numero))
+            .Numero(model::Redondea(s.Resultados.CoefEscUEH(fila, numero), 2));
     archivo.FinRegistro();
 }
 
 /// Returns false where a storm of depth or duration 0 ends the table.
 bool EscribeResultados(Siro& s, model::EscritorRegistros& archivo)
 {
-    for (int fila = 1; fila <= s.NroComponentes; ++fila) {
-        for (s.IndSerie = 1; s.IndSerie <= s.NroSeriePDR; s.IndSerie = model::Suma16(s.IndSerie, 1)) {
+    for (int fila = 1; fila <= s.Resultados.NroComponentes; ++fila) {
+        for (s.Serie.IndSerie = 1; s.Serie.IndSerie <= s.Serie.NroSeriePDR;
+             s.Serie.IndSerie = model::Suma16(s.Serie.IndSerie, 1)) {
             SaltaTormenta(s);
-            if (s.PpTormenta == 0 || s.DurTormenta == 0) return false;
-            if (!s.SaltarTormenta) EscribeResultado(s, archivo, fila);
+            if (s.Tormenta.PpTormenta == 0 || s.Tormenta.DurTormenta == 0) return false;
+            if (!s.Serie.SaltarTormenta) EscribeResultado(s, archivo, fila);
         }
     }
     return true;
@@ -171,9 +174,9 @@ bool EscribeResultados(Siro& s, model::EscritorRegistros& archivo)
 
 void EscribeTablaQDR(Siro& s)
 {
-    s.ArchivoTemp = ArchivoTablaQDR;
+    s.Proyecto.ArchivoTemp = ArchivoTablaQDR;
     model::EscritorRegistros archivo(s.Disco, model::Salida::PorPiezas);
-    archivo.Abre(model::Ruta(s.DirTrabajo, ArchivoTablaQDR));
+    archivo.Abre(model::Ruta(s.Proyecto.DirTrabajo, ArchivoTablaQDR));
     EscribeEncabezado(s, archivo);
     const bool completa = EscribeResultados(s, archivo);
     archivo.Cierra();
@@ -195,8 +198,8 @@ bool Deseleccionada(const std::array<std::int16_t, N>& valores, const std::array
 FinSerie CorreSerie(Siro& s, int hilos)
 {
     AbreSerie(s);
-    if (s.NroSeriePDR >= 0) DimensionaSerie(s);
-    if (s.NroSeriePDR < 1) {
+    if (s.Serie.NroSeriePDR >= 0) DimensionaSerie(s);
+    if (s.Serie.NroSeriePDR < 1) {
         model::Advierte(s, std::string(SinTormentasPDR));
         s.Anfitrion.CierraAvance();
         return FinSerie::SinTormentas;
@@ -219,13 +222,14 @@ FinSerie CorreSerie(Siro& s, int hilos)
 
 void SaltaTormenta(Siro& s)
 {
-    s.PpTormenta = s.SerieP(s.IndSerie);
-    s.DurTormenta = s.SerieD(s.IndSerie);
-    s.RecTormenta = s.SerieR(s.IndSerie);
-    if (s.PpTormenta == 0 || s.DurTormenta == 0) return;
-    s.SaltarTormenta = s.DurTormenta < s.PasoPp ||
-                       Deseleccionada(model::Duraciones, s.CheckD, s.DurTormenta) ||
-                       Deseleccionada(model::Recurrencias, s.CheckR, s.RecTormenta);
+    s.Tormenta.PpTormenta = s.Serie.SerieP(s.Serie.IndSerie);
+    s.Tormenta.DurTormenta = s.Serie.SerieD(s.Serie.IndSerie);
+    s.Tormenta.RecTormenta = s.Serie.SerieR(s.Serie.IndSerie);
+    if (s.Tormenta.PpTormenta == 0 || s.Tormenta.DurTormenta == 0) return;
+    s.Serie.SaltarTormenta =
+        s.Tormenta.DurTormenta < s.Pasos.PasoPp ||
+        Deseleccionada(model::Duraciones, s.Configuracion.CheckD, s.Tormenta.DurTormenta) ||
+        Deseleccionada(model::Recurrencias, s.Configuracion.CheckR, s.Tormenta.RecTormenta);
 }
 
 void GuardaTablaQDR(Siro& s)

@@ -63,11 +63,11 @@ Distribucion LopezCadenas(double horas)
 /// The fixed distribution of the storm in hand; empty where there is no table for it.
 Distribucion DistribucionFija(const Siro& s)
 {
-    switch (s.DistriPp) {
+    switch (s.Tormenta.DistriPp) {
     case 0:
         return {UnBloque, UnBloque};
     case 1:
-        return LopezCadenas(s.DurTormenta / 60.0);
+        return LopezCadenas(s.Tormenta.DurTormenta / 60.0);
     case 2:
         return {Ruvera1, Ruvera1Acum};
     case 3:
@@ -81,29 +81,29 @@ Distribucion DistribucionFija(const Siro& s)
 
 void RedimensionaBloques(Siro& s, int tope)
 {
-    s.PpAcum.Redimensiona(tope);
-    s.IntensidadPp.Redimensiona(tope);
-    s.PpReal.Redimensiona(tope);
+    s.Hietograma.PpAcum.Redimensiona(tope);
+    s.Hietograma.IntensidadPp.Redimensiona(tope);
+    s.Tormenta.PpReal.Redimensiona(tope);
 }
 
 /// Makes room for a table of n blocks; arrays that are longer keep their length and what stands there.
 void LugarParaTabla(Siro& s, std::int16_t bloques)
 {
-    if (s.NroBloquesPp < bloques) RedimensionaBloques(s, bloques);
+    if (s.Hietograma.NroBloquesPp < bloques) RedimensionaBloques(s, bloques);
 }
 
 void AcumulaPorcentajes(Siro& s)
 {
-    s.PpAcum(1) = s.IntensidadPp(1);
-    for (int j = 2; j <= s.NroBloquesPp; ++j)
-        s.PpAcum(j) = Simple(double{s.IntensidadPp(j)} + s.PpAcum(j - 1));
+    s.Hietograma.PpAcum(1) = s.Hietograma.IntensidadPp(1);
+    for (int j = 2; j <= s.Hietograma.NroBloquesPp; ++j)
+        s.Hietograma.PpAcum(j) = Simple(double{s.Hietograma.IntensidadPp(j)} + s.Hietograma.PpAcum(j - 1));
 }
 
 void LlenaReal(Siro& s)
 {
-    s.NroBloquesPp = model::Piso16(Cociente(s.DurTormenta, s.PasoPp));
-    for (int j = 1; j <= s.NroBloquesPp; ++j)
-        s.IntensidadPp(j) = Simple(Cociente(s.PpReal(j), s.PpTormenta) * 100);
+    s.Hietograma.NroBloquesPp = model::Piso16(Cociente(s.Tormenta.DurTormenta, s.Pasos.PasoPp));
+    for (int j = 1; j <= s.Hietograma.NroBloquesPp; ++j)
+        s.Hietograma.IntensidadPp(j) = Simple(Cociente(s.Tormenta.PpReal(j), s.Tormenta.PpTormenta) * 100);
     AcumulaPorcentajes(s);
 }
 
@@ -112,36 +112,37 @@ void LlenaFija(Siro& s, const Distribucion& tabla)
     if (tabla.porcentajes.empty()) return;
     const auto bloques = static_cast<std::int16_t>(tabla.porcentajes.size());
     LugarParaTabla(s, bloques);
-    s.NroBloquesPp = bloques;
+    s.Hietograma.NroBloquesPp = bloques;
     for (int j = 1; j <= bloques; ++j)
-        s.IntensidadPp(j) = tabla.porcentajes[static_cast<std::size_t>(j) - 1];
+        s.Hietograma.IntensidadPp(j) = tabla.porcentajes[static_cast<std::size_t>(j) - 1];
     if (tabla.acumulados.empty()) return AcumulaPorcentajes(s);
     for (int j = 1; j <= bloques; ++j)
-        s.PpAcum(j) = tabla.acumulados[static_cast<std::size_t>(j) - 1];
+        s.Hietograma.PpAcum(j) = tabla.acumulados[static_cast<std::size_t>(j) - 1];
 }
 
 /// Personal table: its counts are read just before use, since another reader may have replaced them.
 void LlenaPersonal(Siro& s)
 {
-    const int tabla = s.DistriPp - (PrimeraPersonal - 1);
+    const int tabla = s.Tormenta.DistriPp - (PrimeraPersonal - 1);
     model::LeeTablaDisTemPer(s);
-    const std::int16_t periodos = s.NroFilasTabla[static_cast<std::size_t>(tabla)];
+    const std::int16_t periodos = s.TablasDeLluvia.NroFilasTabla[static_cast<std::size_t>(tabla)];
     LugarParaTabla(s, periodos);
-    s.NroBloquesPp = periodos;
+    s.Hietograma.NroBloquesPp = periodos;
     const int tope = model::Suma16(periodos, 1);
-    if (s.DisPerso.UltimaFila() < 0) s.DisPerso.Dimensiona(3, tope);
-    s.DisPerso.Redimensiona(tope);
+    if (s.TablasDeLluvia.DisPerso.UltimaFila() < 0) s.TablasDeLluvia.DisPerso.Dimensiona(3, tope);
+    s.TablasDeLluvia.DisPerso.Redimensiona(tope);
     for (int j = 1; j <= periodos; ++j)
-        s.IntensidadPp(j) = s.DisPerso(tabla, j);
-    s.PpAcum(1) = s.IntensidadPp(1);
+        s.Hietograma.IntensidadPp(j) = s.TablasDeLluvia.DisPerso(tabla, j);
+    s.Hietograma.PpAcum(1) = s.Hietograma.IntensidadPp(1);
     for (int j = 1; j <= periodos; ++j)
-        s.PpAcum(j) = Simple(double{s.IntensidadPp(j)} + s.PpAcum(j - 1));
+        s.Hietograma.PpAcum(j) = Simple(double{s.Hietograma.IntensidadPp(j)} + s.Hietograma.PpAcum(j - 1));
 }
 
 void LlenaPorcentajes(Siro& s)
 {
-    if (s.FormaPp >= FormaReal) return LlenaReal(s);
-    if (s.DistriPp >= PrimeraPersonal && s.DistriPp <= UltimaPersonal) return LlenaPersonal(s);
+    if (s.Tormenta.FormaPp >= FormaReal) return LlenaReal(s);
+    if (s.Tormenta.DistriPp >= PrimeraPersonal && s.Tormenta.DistriPp <= UltimaPersonal)
+        return LlenaPersonal(s);
     LlenaFija(s, DistribucionFija(s));
 }
 
@@ -149,65 +150,71 @@ void LlenaPorcentajes(Siro& s)
 /// case: its minutes can be at fault.
 void TerminaBloque(Siro& s, int j, Renglon& linea)
 {
-    const double P = s.PpTormenta;
-    s.PpAcum(j) = Simple(P * s.PpAcum(j) / 100);
-    s.IntensidadPp(j) = Simple(Cociente(P * s.IntensidadPp(j) / (1.0 / s.NroBloquesPp), s.DurTormenta) / 100);
-    if (s.FormaPp != FormaReal) s.PpReal(j) = Simple(double{s.PpAcum(j)} - s.PpAcum(j - 1));
+    const double P = s.Tormenta.PpTormenta;
+    s.Hietograma.PpAcum(j) = Simple(P * s.Hietograma.PpAcum(j) / 100);
+    s.Hietograma.IntensidadPp(j) =
+        Simple(Cociente(P * s.Hietograma.IntensidadPp(j) / (1.0 / s.Hietograma.NroBloquesPp),
+                        s.Tormenta.DurTormenta) /
+               100);
+    if (s.Tormenta.FormaPp != FormaReal)
+        s.Tormenta.PpReal(j) = Simple(double{s.Hietograma.PpAcum(j)} - s.Hietograma.PpAcum(j - 1));
 
-    const std::int16_t minutos = model::Producto16(s.PasoPp, static_cast<std::int16_t>(j));
+    const std::int16_t minutos = model::Producto16(s.Pasos.PasoPp, static_cast<std::int16_t>(j));
     linea.Vacia();
     linea.Pone("\r\n ").Izquierda(std::int32_t{j}, 5).Izquierda(std::int32_t{minutos}, 6);
-    linea.Izquierda(model::Trunca2(s.PpReal(j)), 11).Izquierda(model::Trunca2(s.PpAcum(j)), 25);
-    linea.Izquierda(model::Trunca2(s.IntensidadPp(j)), 0);
-    if (s.SalidaPizarra) s.Anfitrion.AgregaPizarra(linea.Texto());
+    linea.Izquierda(model::Trunca2(s.Tormenta.PpReal(j)), 11)
+        .Izquierda(model::Trunca2(s.Hietograma.PpAcum(j)), 25);
+    linea.Izquierda(model::Trunca2(s.Hietograma.IntensidadPp(j)), 0);
+    if (s.Control.SalidaPizarra) s.Anfitrion.AgregaPizarra(linea.Texto());
 }
 
 void Construye(Siro& s)
 {
-    s.NroBloquesPp = model::Piso16(Cociente(s.DurTormenta, s.PasoPp));
-    RedimensionaBloques(s, s.NroBloquesPp);
-    if (s.PpTormenta == 0 || s.DurTormenta == 0) return;
-    if (s.SalidaPizarra) s.Anfitrion.AgregaPizarra("\r\nEntrada: PRECIPITACION");
+    s.Hietograma.NroBloquesPp = model::Piso16(Cociente(s.Tormenta.DurTormenta, s.Pasos.PasoPp));
+    RedimensionaBloques(s, s.Hietograma.NroBloquesPp);
+    if (s.Tormenta.PpTormenta == 0 || s.Tormenta.DurTormenta == 0) return;
+    if (s.Control.SalidaPizarra) s.Anfitrion.AgregaPizarra("\r\nEntrada: PRECIPITACION");
     LlenaPorcentajes(s);
-    if (s.SalidaPizarra)
-        s.Anfitrion.AgregaPizarra("\r\nPp= " + model::NumeroATexto(s.PpTormenta) + " [mm]  " +
-                                  model::NumeroATexto(std::int32_t{s.DurTormenta}) + " [min]");
-    if (s.FormaPp != FormaReal) s.PpReal(0) = 0;
-    if (s.SalidaPizarra) {
+    if (s.Control.SalidaPizarra)
+        s.Anfitrion.AgregaPizarra("\r\nPp= " + model::NumeroATexto(s.Tormenta.PpTormenta) + " [mm]  " +
+                                  model::NumeroATexto(std::int32_t{s.Tormenta.DurTormenta}) + " [min]");
+    if (s.Tormenta.FormaPp != FormaReal) s.Tormenta.PpReal(0) = 0;
+    if (s.Control.SalidaPizarra) {
         s.Anfitrion.AgregaPizarra("\r\nDistribución temporal de la Pp:");
         s.Anfitrion.AgregaPizarra("\r\nPer.k t[min] Pp[mm]  Pp Acumulada[mm]  Intensidad de Pp[mm/min]");
     }
     Renglon linea;
-    for (int j = 1; j <= s.NroBloquesPp; ++j)  // there may be 32767
+    for (int j = 1; j <= s.Hietograma.NroBloquesPp; ++j)  // there may be 32767
         TerminaBloque(s, j, linea);
-    s.NroPpReal = s.NroBloquesPp;
-    s.PpAcumPrevia = 0;
+    s.Tormenta.NroPpReal = s.Hietograma.NroBloquesPp;
+    s.Hietograma.PpAcumPrevia = 0;
 }
 
 /// Block in which the minute PasoPp·k falls, one above the whole blocks gone by. Every operation is rounded
 /// to 32 bits: the width decides at the boundaries of the blocks. Throws Falla 6 above 16 bits.
 std::int16_t BloqueDelPaso(const Siro& s, std::int16_t k)
 {
-    const float producto = static_cast<float>(s.PasoPp) * static_cast<float>(s.NroBloquesPp);
-    const float bloques = producto * static_cast<float>(k) / static_cast<float>(s.DurTormenta);
+    const float producto = static_cast<float>(s.Pasos.PasoPp) * static_cast<float>(s.Hietograma.NroBloquesPp);
+    const float bloques = producto * static_cast<float>(k) / static_cast<float>(s.Tormenta.DurTormenta);
     return model::Suma16(model::Piso16(bloques), 1);
 }
 
 double PpInterpolada(Siro& s, std::int16_t k, std::int16_t t)
 {
-    const bool ultimoPaso = k == std::floor(double{1} * s.DurTormenta / s.PasoPp) + 1;
+    const bool ultimoPaso = k == std::floor(double{1} * s.Tormenta.DurTormenta / s.Pasos.PasoPp) + 1;
     const std::int16_t b = BloqueDelPaso(s, k);
-    if (model::Suma16(b, 1) > s.NroBloquesPp) {
+    if (model::Suma16(b, 1) > s.Hietograma.NroBloquesPp) {
         const std::int16_t tope = model::Suma16(b, 2);
-        s.PpAcum.Redimensiona(tope);
-        s.IntensidadPp.Redimensiona(tope);
+        s.Hietograma.PpAcum.Redimensiona(tope);
+        s.Hietograma.IntensidadPp.Redimensiona(tope);
     }
-    if (b > s.NroBloquesPp + 1) return 0;
-    const float u = Simple(t - (b - 1) * Cociente(1, s.NroBloquesPp) * s.DurTormenta);
-    const float c = Simple(double{u} * s.IntensidadPp(b) + s.PpAcum(b - 1));
-    double pp = double{c} - s.PpAcumPrevia;
-    if (ultimoPaso && pp + s.PpAcumPrevia > s.PpTormenta) pp = double{s.PpTormenta} - s.PpAcumPrevia;
-    if (b <= s.NroBloquesPp) s.PpAcumPrevia = c;
+    if (b > s.Hietograma.NroBloquesPp + 1) return 0;
+    const float u = Simple(t - (b - 1) * Cociente(1, s.Hietograma.NroBloquesPp) * s.Tormenta.DurTormenta);
+    const float c = Simple(double{u} * s.Hietograma.IntensidadPp(b) + s.Hietograma.PpAcum(b - 1));
+    double pp = double{c} - s.Hietograma.PpAcumPrevia;
+    if (ultimoPaso && pp + s.Hietograma.PpAcumPrevia > s.Tormenta.PpTormenta)
+        pp = double{s.Tormenta.PpTormenta} - s.Hietograma.PpAcumPrevia;
+    if (b <= s.Hietograma.NroBloquesPp) s.Hietograma.PpAcumPrevia = c;
     return pp;
 }
 
@@ -221,17 +228,18 @@ void ConstruyeHietograma(Siro& s)
 
 double PpDelPaso(Siro& s, std::int16_t k)
 {
-    const std::int16_t t = model::Producto16(s.PasoPp, k);
-    s.PpAcum(0) = 0;
-    s.IntensidadPp(0) = 0;
-    const int D = s.DurTormenta;
-    if (t - D >= s.PasoPp) return 0;
-    if (s.DistriPp == 0) {
-        const double intensidad = Cociente(1, D) * s.PpTormenta;
-        if (k == std::floor(Cociente(D, s.PasoPp)) + 1) return intensidad * (D - (k - 1) * s.PasoPp);
-        return intensidad * s.PasoPp;
+    const std::int16_t t = model::Producto16(s.Pasos.PasoPp, k);
+    s.Hietograma.PpAcum(0) = 0;
+    s.Hietograma.IntensidadPp(0) = 0;
+    const int D = s.Tormenta.DurTormenta;
+    if (t - D >= s.Pasos.PasoPp) return 0;
+    if (s.Tormenta.DistriPp == 0) {
+        const double intensidad = Cociente(1, D) * s.Tormenta.PpTormenta;
+        if (k == std::floor(Cociente(D, s.Pasos.PasoPp)) + 1)
+            return intensidad * (D - (k - 1) * s.Pasos.PasoPp);
+        return intensidad * s.Pasos.PasoPp;
     }
-    if (s.DistriPp < 1 || s.DistriPp > UltimaPersonal) return 0;
+    if (s.Tormenta.DistriPp < 1 || s.Tormenta.DistriPp > UltimaPersonal) return 0;
     return PpInterpolada(s, k, t);
 }
 

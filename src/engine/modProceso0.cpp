@@ -22,12 +22,12 @@ void AbrePizarra(Siro& s)
     std::string texto;
     const auto renglon = [&](std::string_view t) { texto.append(t).append(model::SaltoLinea); };
     renglon("SIRO - Modelo de Simulación Hidrológica");
-    renglon(model::Ruta(s.DirProyecto, s.NombreProyecto));
-    renglon(s.TituloProyecto);
-    renglon(s.Ubicacion);
-    renglon(s.Cuenca);
-    renglon(s.Subcuenca);
-    renglon(s.Operador + " - " + s.Anfitrion.FechaHora());
+    renglon(model::Ruta(s.Proyecto.DirProyecto, s.Proyecto.NombreProyecto));
+    renglon(s.Configuracion.TituloProyecto);
+    renglon(s.Configuracion.Ubicacion);
+    renglon(s.Configuracion.Cuenca);
+    renglon(s.Configuracion.Subcuenca);
+    renglon(s.Configuracion.Operador + " - " + s.Anfitrion.FechaHora());
     renglon("");
     renglon("SIMULACION LLUVIA-CAUDAL PARA UNA TORMENTA");
     s.Anfitrion.PonPizarra(texto);
@@ -39,25 +39,25 @@ void CargaProyecto(Siro& s)
 {
     model::leoConf(s);
     model::LeeUEHs(s);
-    if (s.NroRepresas > 0) {
+    if (s.Red.NroRepresas > 0) {
         model::LeeTablaHQRepresa(s);
         model::LeeTablaHSVRepresa(s);
     }
-    if (s.NroLagos > 0) model::LeeTablaHSVQLago(s);
+    if (s.Red.NroLagos > 0) model::LeeTablaHSVQLago(s);
     s.Anfitrion.carga_lbl_proyecto();
     model::Sentencia([&] { hydraulics::CargaFQs(s); },
                      [&](const model::Falla& falla) { model::Informa(s, model::TextoFallaMotor(falla)); });
-    if (s.NroRepresas >= 1) s.Anfitrion.HabilitaVerificacion();
+    if (s.Red.NroRepresas >= 1) s.Anfitrion.HabilitaVerificacion();
 }
 
 bool CorreUnaTormenta(Siro& s)
 {
     s.Anfitrion.PonPizarra("");
-    s.SalidaPizarra = s.Anfitrion.MarcaPizarra();
-    if (s.SalidaPizarra) AbrePizarra(s);
-    if (s.PpTormenta == 0 || s.DurTormenta == 0) return false;
+    s.Control.SalidaPizarra = s.Anfitrion.MarcaPizarra();
+    if (s.Control.SalidaPizarra) AbrePizarra(s);
+    if (s.Tormenta.PpTormenta == 0 || s.Tormenta.DurTormenta == 0) return false;
     CargaProyecto(s);
-    s.AvisoDescargasVisto = true;
+    s.Control.AvisoDescargasVisto = true;
     ConstruyeHietograma(s);
     return ProcesoPrincipal(s, true);
 }

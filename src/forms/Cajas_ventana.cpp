@@ -147,7 +147,7 @@ void PonFiltro(QFileDialog& caja, std::string_view filtro)
 
 std::string Elige(Entorno& entorno, std::string_view titulo, std::string_view filtro)
 {
-    QFileDialog caja(QApplication::activeWindow(), Titulo(titulo), Q(entorno.s.DirProyecto));
+    QFileDialog caja(QApplication::activeWindow(), Titulo(titulo), Q(entorno.s.Proyecto.DirProyecto));
     caja.setObjectName(QStringLiteral("EligeArchivo"));
     caja.setFileMode(QFileDialog::ExistingFile);
     PonFiltro(caja, filtro);
@@ -158,7 +158,7 @@ std::string Elige(Entorno& entorno, std::string_view titulo, std::string_view fi
 std::string EligeDonde(Entorno& entorno, std::string_view titulo, std::string_view filtro,
                        std::string_view nombre)
 {
-    QFileDialog caja(QApplication::activeWindow(), Titulo(titulo), Q(entorno.s.DirProyecto));
+    QFileDialog caja(QApplication::activeWindow(), Titulo(titulo), Q(entorno.s.Proyecto.DirProyecto));
     caja.setObjectName(QStringLiteral("EligeDestino"));
     caja.setAcceptMode(QFileDialog::AcceptSave);
     PonFiltro(caja, filtro);

@@ -22,7 +22,7 @@ std::string Unidos(const std::string& uno, const std::string& otro)
 
 Procedencia DeHoy(const model::Siro& s, Procedencia procedencia)
 {
-    procedencia.proyecto = Unidos(s.NombreProyecto, s.TituloProyecto);
+    procedencia.proyecto = Unidos(s.Proyecto.NombreProyecto, s.Configuracion.TituloProyecto);
     procedencia.fecha = FechaDelDia(s);
     return procedencia;
 }

@@ -9,18 +9,18 @@ namespace hydraulics {
 inline const model::Represa& RepresaEnMano(const model::Siro& s)
 {
     const bool hay = s.CompActual.clase == model::ComponenteActual::Clase::Represa &&
-                     s.CompActual.item >= 1 && s.CompActual.item <= s.ColRepresas.Cuenta();
+                     s.CompActual.item >= 1 && s.CompActual.item <= s.Red.ColRepresas.Cuenta();
     if (!hay) throw model::Falla{model::NumeroFalla::ObjetoNoEstablecido};
-    return s.ColRepresas.Item(s.CompActual.item);
+    return s.Red.ColRepresas.Item(s.CompActual.item);
 }
 
 /// Returns the Lago in s.CompActual. Throws Falla 91 where it holds none.
 inline const model::Lago& LagoEnMano(const model::Siro& s)
 {
     const bool hay = s.CompActual.clase == model::ComponenteActual::Clase::Lago && s.CompActual.item >= 1 &&
-                     s.CompActual.item <= s.ColLagos.Cuenta();
+                     s.CompActual.item <= s.Red.ColLagos.Cuenta();
     if (!hay) throw model::Falla{model::NumeroFalla::ObjetoNoEstablecido};
-    return s.ColLagos.Item(s.CompActual.item);
+    return s.Red.ColLagos.Item(s.CompActual.item);
 }
 
 }  // namespace hydraulics

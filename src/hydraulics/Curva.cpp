@@ -61,8 +61,8 @@ CurvaLineal CurvaDe(const Columnas<float, T>& t)
 Columnas<float, float> TablaDescarga(const Siro& s)
 {
     if (s.CompActual.clase == Clase::Lago)
-        return ColumnasDe(s.LagoH, s.LagoQ, s.LagoFilas, LagoEnMano(s).numLAGO);
-    return ColumnasDe(s.RepresaQH, s.RepresaQQ, s.RepresaFilasHQ, RepresaEnMano(s).numRepresa);
+        return ColumnasDe(s.Red.LagoH, s.Red.LagoQ, s.Red.LagoFilas, LagoEnMano(s).numLAGO);
+    return ColumnasDe(s.Red.RepresaQH, s.Red.RepresaQQ, s.Red.RepresaFilasHQ, RepresaEnMano(s).numRepresa);
 }
 
 /// Works out something for the component in hand. A fault on the way gives `nada`: the plain lookup meets it
@@ -148,9 +148,9 @@ CurvaLineal CurvaAlmacenamiento(const Siro& s)
     return ONada(
         [&] {
             if (s.CompActual.clase == Clase::Lago)
-                return CurvaDe(ColumnasDe(s.LagoH, s.LagoS, s.LagoFilas, LagoEnMano(s).numLAGO));
-            return CurvaDe(
-                ColumnasDe(s.RepresaH, s.RepresaS, s.RepresaFilasHAS, RepresaEnMano(s).numRepresa));
+                return CurvaDe(ColumnasDe(s.Red.LagoH, s.Red.LagoS, s.Red.LagoFilas, LagoEnMano(s).numLAGO));
+            return CurvaDe(ColumnasDe(s.Red.RepresaH, s.Red.RepresaS, s.Red.RepresaFilasHAS,
+                                      RepresaEnMano(s).numRepresa));
         },
         CurvaLineal());
 }
@@ -160,9 +160,9 @@ CurvaLineal CurvaArea(const Siro& s)
     return ONada(
         [&] {
             if (s.CompActual.clase == Clase::Lago)
-                return CurvaDe(ColumnasDe(s.LagoH, s.LagoA, s.LagoFilas, LagoEnMano(s).numLAGO));
-            return CurvaDe(
-                ColumnasDe(s.RepresaH, s.RepresaA, s.RepresaFilasHAS, RepresaEnMano(s).numRepresa));
+                return CurvaDe(ColumnasDe(s.Red.LagoH, s.Red.LagoA, s.Red.LagoFilas, LagoEnMano(s).numLAGO));
+            return CurvaDe(ColumnasDe(s.Red.RepresaH, s.Red.RepresaA, s.Red.RepresaFilasHAS,
+                                      RepresaEnMano(s).numRepresa));
         },
         CurvaLineal());
 }
@@ -172,9 +172,10 @@ Intervalo AlmacenamientosSinPreguntas(const Siro& s)
     return ONada(
         [&]() -> Intervalo {
             const bool esLago = s.CompActual.clase == Clase::Lago;
-            const auto t =
-                esLago ? ColumnasDe(s.LagoS, s.LagoH, s.LagoFilas, LagoEnMano(s).numLAGO)
-                       : ColumnasDe(s.RepresaS, s.RepresaH, s.RepresaFilasHAS, RepresaEnMano(s).numRepresa);
+            const auto t = esLago
+                               ? ColumnasDe(s.Red.LagoS, s.Red.LagoH, s.Red.LagoFilas, LagoEnMano(s).numLAGO)
+                               : ColumnasDe(s.Red.RepresaS, s.Red.RepresaH, s.Red.RepresaFilasHAS,
+                                            RepresaEnMano(s).numRepresa);
             for (int k = 2; k <= t.n; ++k) {  // each difference that a lookup may take is taken here
                 (void)Resta(RenglonDe(t.X, k), RenglonDe(t.X, k - 1));
                 (void)RestaSimple(RenglonDe(t.Y, k), RenglonDe(t.Y, k - 1));

@@ -51,8 +51,8 @@ float AlturaOFin(const Siro& s, Funcion funcion, const std::string& nombre,
 void CopiaFQs(Siro& s, const Represa& r)
 {
     for (int i = 1; i <= NroFuncionesFQ; ++i)
-        s.FQActiva(r.numRepresa, i) = r.chkFQ[static_cast<std::size_t>(i) - 1];
-    auto& coeficientes = s.FQCoef[static_cast<std::size_t>(r.numRepresa)];
+        s.Red.FQActiva(r.numRepresa, i) = r.chkFQ[static_cast<std::size_t>(i) - 1];
+    auto& coeficientes = s.Red.FQCoef[static_cast<std::size_t>(r.numRepresa)];
     for (std::size_t i = 0; i < NroFuncionesFQ; ++i) {
         auto& c = coeficientes[i + 1];
         c[CoefA] = r.FQa[i];
@@ -67,9 +67,9 @@ void CopiaFQs(Siro& s, const Represa& r)
 
 void CargaFQs(Siro& s)
 {
-    s.FQActiva.Dimensiona(s.NroRepresas, NroFuncionesFQ);
-    s.FQCoef.assign(static_cast<std::size_t>(s.NroRepresas) + 1, {});
-    for (const Represa& r : s.ColRepresas)
+    s.Red.FQActiva.Dimensiona(s.Red.NroRepresas, NroFuncionesFQ);
+    s.Red.FQCoef.assign(static_cast<std::size_t>(s.Red.NroRepresas) + 1, {});
+    for (const Represa& r : s.Red.ColRepresas)
         CopiaFQs(s, r);
 }
 
@@ -78,8 +78,9 @@ float QdeHRepresa(Siro& s, float h)
     return OCeroConInforme(s, [&] {
         const Represa& r = RepresaEnMano(s);
         if (!r.optTabla) return FuncionesEnUso(r).Descarga(h);
-        return DescargaDeTabla(s, Funcion::QdeHRepresa, r.NombreRepresa,
-                               ColumnasDe(s.RepresaQH, s.RepresaQQ, s.RepresaFilasHQ, r.numRepresa), h);
+        return DescargaDeTabla(
+            s, Funcion::QdeHRepresa, r.NombreRepresa,
+            ColumnasDe(s.Red.RepresaQH, s.Red.RepresaQQ, s.Red.RepresaFilasHQ, r.numRepresa), h);
     });
 }
 
@@ -88,7 +89,7 @@ float QdeHLago(Siro& s, float h)
     return OCeroConInforme(s, [&] {
         const Lago& l = LagoEnMano(s);
         return DescargaDeTabla(s, Funcion::QdeHLago, l.NombreLAGO,
-                               ColumnasDe(s.LagoH, s.LagoQ, s.LagoFilas, l.numLAGO), h);
+                               ColumnasDe(s.Red.LagoH, s.Red.LagoQ, s.Red.LagoFilas, l.numLAGO), h);
     });
 }
 
@@ -110,9 +111,9 @@ float HdeQalmaRepresa(Siro& s, float q)
         const Represa& r = RepresaEnMano(s);
         RangoAlturas rango = RangoFunciones(r);
         if (r.optTabla) {
-            const int n = s.RepresaFilasHQ(r.numRepresa);
+            const int n = s.Red.RepresaFilasHQ(r.numRepresa);
             if (n < 1) return 0.0F;
-            rango = {s.RepresaQH(r.numRepresa, 1), s.RepresaQH(r.numRepresa, n)};
+            rango = {s.Red.RepresaQH(r.numRepresa, 1), s.Red.RepresaQH(r.numRepresa, n)};
         }
         return AlturaOFin(
             s, Funcion::HdeQalmaRepresa, r.NombreRepresa,
@@ -124,10 +125,10 @@ float HdeQalmaLago(Siro& s, float q)
 {
     return OCeroConInforme(s, [&] {
         const Lago& l = LagoEnMano(s);
-        const int n = s.LagoFilas(l.numLAGO);
+        const int n = s.Red.LagoFilas(l.numLAGO);
         if (n < 1) return 0.0F;
         return AlturaOFin(s, Funcion::HdeQalmaLago, l.NombreLAGO,
-                          BisecaAltura(s.LagoH(l.numLAGO, 1), s.LagoH(l.numLAGO, n), q,
+                          BisecaAltura(s.Red.LagoH(l.numLAGO, 1), s.Red.LagoH(l.numLAGO, n), q,
                                        [&](float h) { return QdeHLago(s, h); }));
     });
 }

@@ -59,7 +59,7 @@ constexpr std::string_view TituloPasoChico = "Elija un intervalo mayor";
 
 void AgregaRenglon(Siro& s, std::string_view renglon)
 {
-    s.TextoPizarra.append(model::SaltoLinea).append(renglon);
+    s.Control.TextoPizarra.append(model::SaltoLinea).append(renglon);
 }
 
 /// A number with a blank ahead unless it is negative, then blanks up to the width.
@@ -73,10 +73,10 @@ std::string Columna(Numero x, std::size_t ancho)
 
 void MuestraPizarra(Siro& s)
 {
-    s.SalidaPizarra = true;
+    s.Control.SalidaPizarra = true;
     s.Anfitrion.PonMarcaPizarra(true);
     s.Anfitrion.AbrePizarra();
-    s.Anfitrion.PonPizarra(s.TextoPizarra);
+    s.Anfitrion.PonPizarra(s.Control.TextoPizarra);
 }
 
 /// Runs a command: a fault is told and ends it.
@@ -105,13 +105,13 @@ void RecorreAlturas(const RangoAlturas& rango, float paso, Renglon&& renglon)
 /// Takes the Represa with a number in hand, by way of its name. Throws Falla 6, 9, 91 where there is none.
 const Represa& TomaEnMano(Siro& s, double numero)
 {
-    const Represa& ranura = s.Represas(model::Entero16(numero));
-    for (int i = 1; i <= s.ColRepresas.Cuenta(); ++i)
-        if (s.ColRepresas.Item(i).NombreRepresa == ranura.NombreRepresa) {
+    const Represa& ranura = s.Red.Represas(model::Entero16(numero));
+    for (int i = 1; i <= s.Red.ColRepresas.Cuenta(); ++i)
+        if (s.Red.ColRepresas.Item(i).NombreRepresa == ranura.NombreRepresa) {
             s.CompActual = {model::ComponenteActual::Clase::Represa, i};
             break;
         }
-    return s.ColRepresas.Item(s.CompActual.item);
+    return s.Red.ColRepresas.Item(s.CompActual.item);
 }
 
 /// A column of the table of the Represa in hand from its first to its last row, and a fiftieth of it.
@@ -155,9 +155,9 @@ class Inversas {
 
 void ListaTodas(Siro& s, const Represa& r)
 {
-    const int filas = s.RepresaFilasHAS(r.numRepresa);
-    const Rango H(s.RepresaH, r.numRepresa, filas);
-    Inversas inversas(s, {s.RepresaA, r.numRepresa, filas}, {s.RepresaS, r.numRepresa, filas});
+    const int filas = s.Red.RepresaFilasHAS(r.numRepresa);
+    const Rango H(s.Red.RepresaH, r.numRepresa, filas);
+    Inversas inversas(s, {s.Red.RepresaA, r.numRepresa, filas}, {s.Red.RepresaS, r.numRepresa, filas});
     AgregaRenglon(s, std::string(TituloTodas) + r.NombreRepresa);
     AgregaRenglon(s, ColumnasTodas);
     RecorreAlturas({H.minimo, H.maximo}, H.paso, [&](float h) {
@@ -173,7 +173,7 @@ void ListaTabla(Siro& s, const Represa& r)
     AgregaRenglon(s, TituloTabla);
     AgregaRenglon(s, "Represa: " + r.NombreRepresa);
     AgregaRenglon(s, ColumnasTabla);
-    const Rango H(s.RepresaH, r.numRepresa, s.RepresaFilasHAS(r.numRepresa));
+    const Rango H(s.Red.RepresaH, r.numRepresa, s.Red.RepresaFilasHAS(r.numRepresa));
     std::string defecto = NumeroATexto(H.paso);
     NormalizaDecimal(defecto);
     const float paso =
@@ -189,7 +189,8 @@ void ListaTabla(Siro& s, const Represa& r)
 RangoAlturas RangoDe(const Siro& s, const Represa& r)
 {
     if (!r.optTabla) return RangoFunciones(r);
-    return {s.RepresaQH(r.numRepresa, 1), s.RepresaQH(r.numRepresa, s.RepresaFilasHQ(r.numRepresa))};
+    return {s.Red.RepresaQH(r.numRepresa, 1),
+            s.Red.RepresaQH(r.numRepresa, s.Red.RepresaFilasHQ(r.numRepresa))};
 }
 
 /// Asks for the step of the heights [m], once more where it makes too many lines; the second answer is taken
@@ -239,7 +240,7 @@ void ListaHQ(Siro& s, const Represa& r)
 
 void VerificaHSV(Siro& s)
 {
-    if (s.NroRepresas == 0) return;
+    if (s.Red.NroRepresas == 0) return;
     Comando(s, [&] {
         model::LeeTablaHSVRepresa(s);
         const double numero =
@@ -256,13 +257,13 @@ void VerificaHSV(Siro& s)
 
 void VerificaHQ(Siro& s)
 {
-    if (s.NroRepresas == 0) return;
+    if (s.Red.NroRepresas == 0) return;
     Comando(s, [&] {
         model::LeeTablaHQRepresa(s);
         AgregaRenglon(s, TituloHQ);
-        for (int i = 1; i <= s.ColRepresas.Cuenta(); ++i) {
+        for (int i = 1; i <= s.Red.ColRepresas.Cuenta(); ++i) {
             s.CompActual = {model::ComponenteActual::Clase::Represa, i};
-            ListaHQ(s, s.ColRepresas.Item(i));
+            ListaHQ(s, s.Red.ColRepresas.Item(i));
         }
         MuestraPizarra(s);
     });

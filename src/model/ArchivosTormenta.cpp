@@ -45,14 +45,15 @@ void Ajusta(Matriz<T>& tabla, int ultimaFila, int columnas)
 
 std::int16_t& Filas(Siro& s, int k)
 {
-    return s.NroFilasTabla[static_cast<std::size_t>(k)];
+    return s.TablasDeLluvia.NroFilasTabla[static_cast<std::size_t>(k)];
 }
 
 // Both table files leave nothing to be seen of tables 1 to 3 where they can't be read to their end. Slot 0
 // is no concern of a failure.
 void AnulaFilas(Siro& s)
 {
-    std::fill(s.NroFilasTabla.begin() + 1, s.NroFilasTabla.end(), std::int16_t{0});
+    std::fill(s.TablasDeLluvia.NroFilasTabla.begin() + 1, s.TablasDeLluvia.NroFilasTabla.end(),
+              std::int16_t{0});
 }
 
 // --- real storms ---
@@ -72,7 +73,7 @@ std::int16_t NumeroTormenta(std::string_view nombre)
 void AbreTormenta(Siro& s, TormentaReal& tormenta)
 {
     tormenta.nombre = NombreTormenta(tormenta.nombre);
-    s.ArchivoTemp = Ruta(s.DirProyecto, tormenta.nombre);
+    s.Proyecto.ArchivoTemp = Ruta(s.Proyecto.DirProyecto, tormenta.nombre);
 }
 
 void LeeCabeceraPpReal(Siro& s, TormentaReal& tormenta, LectorRegistros& lector)
@@ -81,7 +82,7 @@ void LeeCabeceraPpReal(Siro& s, TormentaReal& tormenta, LectorRegistros& lector)
     lector.Registro(2, [&] {
         const auto n = lector.Numero16();
         tormenta.PasoPpReal = lector.Numero16();
-        s.NroPpReal = n;
+        s.Tormenta.NroPpReal = n;
     });
     lector.Registro(2, [&] {
         std::string fecha = lector.Texto();
@@ -97,11 +98,11 @@ void LeeCabeceraPpReal(Siro& s, TormentaReal& tormenta, LectorRegistros& lector)
 
 void LeeIntervalos(Siro& s, LectorRegistros& lector)
 {
-    s.PpReal.Redimensiona(s.NroPpReal);
-    for (int j = 0; j <= s.NroPpReal; ++j)
-        s.PpReal(j) = 0;
-    for (int j = 1; j <= s.NroPpReal; ++j)
-        s.PpReal(j) = lector.NumeroSimple();
+    s.Tormenta.PpReal.Redimensiona(s.Tormenta.NroPpReal);
+    for (int j = 0; j <= s.Tormenta.NroPpReal; ++j)
+        s.Tormenta.PpReal(j) = 0;
+    for (int j = 1; j <= s.Tormenta.NroPpReal; ++j)
+        s.Tormenta.PpReal(j) = lector.NumeroSimple();
 }
 
 // --- personal distributions ---
@@ -109,64 +110,68 @@ void LeeIntervalos(Siro& s, LectorRegistros& lector)
 void LeeUnaDisPer(Siro& s, LectorRegistros& lector, int k)
 {
     const auto ranura = static_cast<std::size_t>(k);
-    s.NotasDisPer[ranura] = lector.Texto();
+    s.TablasDeLluvia.NotasDisPer[ranura] = lector.Texto();
     lector.Registro(2, [&] {
         const auto minima = lector.Numero16();
-        s.DurMaxPer[ranura] = lector.Numero16();
-        s.DurMinPer[ranura] = minima;
+        s.TablasDeLluvia.DurMaxPer[ranura] = lector.Numero16();
+        s.TablasDeLluvia.DurMinPer[ranura] = minima;
     });
     // The decimals that the file holds end here: the variable that takes the field is a whole number.
     for (int j = 1; j <= Filas(s, k); ++j)
-        s.DisPerso(k, j) = lector.Numero16();
+        s.TablasDeLluvia.DisPerso(k, j) = lector.Numero16();
 }
 
 void EscribeUnaDisPer(Siro& s, EscrituraInformada& escritor, int k)
 {
     const auto ranura = static_cast<std::size_t>(k);
-    escritor.Registro([&](EscritorRegistros& e) { e.Texto(s.NotasDisPer[ranura]); });
-    escritor.Registro(
-        [&](EscritorRegistros& e) { e.Numero(s.DurMinPer[ranura]).Numero(s.DurMaxPer[ranura]); });
+    escritor.Registro([&](EscritorRegistros& e) { e.Texto(s.TablasDeLluvia.NotasDisPer[ranura]); });
+    escritor.Registro([&](EscritorRegistros& e) {
+        e.Numero(s.TablasDeLluvia.DurMinPer[ranura]).Numero(s.TablasDeLluvia.DurMaxPer[ranura]);
+    });
     for (int j = 1; j <= Filas(s, k); ++j)
-        escritor.Registro([&](EscritorRegistros& e) { e.Numero(s.DisPerso(k, j)); });
+        escritor.Registro([&](EscritorRegistros& e) { e.Numero(s.TablasDeLluvia.DisPerso(k, j)); });
 }
 
 // --- tables of synthetic storms ---
 
 void LeeUnaTablaPDR(Siro& s, LectorRegistros& lector, int k)
 {
-    s.NotasPDR[static_cast<std::size_t>(k)] = lector.Texto();
+    s.TablasDeLluvia.NotasPDR[static_cast<std::size_t>(k)] = lector.Texto();
     for (int j = 1; j <= Filas(s, k); ++j)
         lector.Registro(3, [&] {
             const auto p = lector.Numero16();
             const auto d = lector.Numero16();
-            s.TablasR(k, j) = lector.Numero16();
-            s.TablasP(k, j) = p;
-            s.TablasD(k, j) = d;
+            s.TablasDeLluvia.TablasR(k, j) = lector.Numero16();
+            s.TablasDeLluvia.TablasP(k, j) = p;
+            s.TablasDeLluvia.TablasD(k, j) = d;
         });
 }
 
 void EscribeUnaTablaPDR(Siro& s, EscrituraInformada& escritor, int k)
 {
-    escritor.Registro([&](EscritorRegistros& e) { e.Texto(s.NotasPDR[static_cast<std::size_t>(k)]); });
+    escritor.Registro(
+        [&](EscritorRegistros& e) { e.Texto(s.TablasDeLluvia.NotasPDR[static_cast<std::size_t>(k)]); });
     for (int j = 1; j <= Filas(s, k); ++j)
         escritor.Registro([&](EscritorRegistros& e) {
-            e.Numero(s.TablasP(k, j)).Numero(s.TablasD(k, j)).Numero(s.TablasR(k, j));
+            e.Numero(s.TablasDeLluvia.TablasP(k, j))
+                .Numero(s.TablasDeLluvia.TablasD(k, j))
+                .Numero(s.TablasDeLluvia.TablasR(k, j));
         });
 }
 
 /// Copies the rows of the table in use into the series of the run.
 void CargaSerie(Siro& s)
 {
-    if (s.TablaPDR < 1 || s.TablaPDR > 3) s.TablaPDR = 0;
-    const auto n = Filas(s, s.TablaPDR);
-    s.SerieP.Dimensiona(n);
-    s.SerieD.Dimensiona(n);
-    s.SerieR.Dimensiona(n);
-    s.NroSeriePDR = n;
+    if (s.Tormenta.TablaPDR < 1 || s.Tormenta.TablaPDR > 3) s.Tormenta.TablaPDR = 0;
+    const auto n = Filas(s, s.Tormenta.TablaPDR);
+    s.Serie.SerieP.Dimensiona(n);
+    s.Serie.SerieD.Dimensiona(n);
+    s.Serie.SerieR.Dimensiona(n);
+    s.Serie.NroSeriePDR = n;
     for (int j = 1; j <= n; ++j) {
-        s.SerieP(j) = s.TablasP(s.TablaPDR, j);
-        s.SerieD(j) = s.TablasD(s.TablaPDR, j);
-        s.SerieR(j) = s.TablasR(s.TablaPDR, j);
+        s.Serie.SerieP(j) = s.TablasDeLluvia.TablasP(s.Tormenta.TablaPDR, j);
+        s.Serie.SerieD(j) = s.TablasDeLluvia.TablasD(s.Tormenta.TablaPDR, j);
+        s.Serie.SerieR(j) = s.TablasDeLluvia.TablasR(s.Tormenta.TablaPDR, j);
     }
 }
 
@@ -224,7 +229,7 @@ bool TormentaProtegida(std::string_view nombre)
 
 std::vector<std::string> ListaTormentas(const Siro& s)
 {
-    std::vector<std::string> nombres = s.Disco.Lista(s.DirProyecto);
+    std::vector<std::string> nombres = s.Disco.Lista(s.Proyecto.DirProyecto);
     std::erase_if(nombres, [](const std::string& nombre) { return !EsTormenta(nombre); });
     return nombres;
 }
@@ -258,35 +263,37 @@ void LeePpReal(Siro& s, TormentaReal& tormenta)
 {
     AbreTormenta(s, tormenta);
     try {
-        LectorRegistros lector(s.Disco.Lee(s.ArchivoTemp));
+        LectorRegistros lector(s.Disco.Lee(s.Proyecto.ArchivoTemp));
         LeeCabeceraPpReal(s, tormenta, lector);
         LeeIntervalos(s, lector);
-        s.DurTormenta = Producto16(s.NroPpReal, tormenta.PasoPpReal);
-        s.PpTormenta = 0;
-        for (int j = 1; j <= s.NroPpReal; ++j)
-            s.PpTormenta = Simple(double{s.PpTormenta} + double{s.PpReal(j)});
+        s.Tormenta.DurTormenta = Producto16(s.Tormenta.NroPpReal, tormenta.PasoPpReal);
+        s.Tormenta.PpTormenta = 0;
+        for (int j = 1; j <= s.Tormenta.NroPpReal; ++j)
+            s.Tormenta.PpTormenta = Simple(double{s.Tormenta.PpTormenta} + double{s.Tormenta.PpReal(j)});
     } catch (const Falla&) {
-        s.NroPpReal = 0;
+        s.Tormenta.NroPpReal = 0;
     }
 }
 
 void GuardaPpReal(Siro& s, TormentaReal& tormenta)
 {
     AbreTormenta(s, tormenta);
-    const auto antes = s.PpReal;
-    s.PpReal.Redimensiona(s.NroPpReal);
+    const auto antes = s.Tormenta.PpReal;
+    s.Tormenta.PpReal.Redimensiona(s.Tormenta.NroPpReal);
     EscritorRegistros escritor(s.Disco);
-    escritor.Abre(s.ArchivoTemp);
+    escritor.Abre(s.Proyecto.ArchivoTemp);
     escritor.Texto(tormenta.Notas).FinRegistro();
-    escritor.Numero(std::int32_t{s.NroPpReal}).Numero(std::int32_t{tormenta.PasoPpReal}).FinRegistro();
+    escritor.Numero(std::int32_t{s.Tormenta.NroPpReal})
+        .Numero(std::int32_t{tormenta.PasoPpReal})
+        .FinRegistro();
     escritor.Texto(tormenta.txtDateI).Texto(tormenta.txtTimeI).FinRegistro();
     escritor.Texto(tormenta.txtDateF).Texto(tormenta.txtTimeF).FinRegistro();
-    for (int j = 1; j <= s.NroPpReal; ++j)
-        escritor.Numero(s.PpReal(j)).FinRegistro();
+    for (int j = 1; j <= s.Tormenta.NroPpReal; ++j)
+        escritor.Numero(s.Tormenta.PpReal(j)).FinRegistro();
     try {
         escritor.Cierra();
     } catch (const Falla&) {
-        s.PpReal = antes;
+        s.Tormenta.PpReal = antes;
         throw;
     }
 }
@@ -295,9 +302,9 @@ void GuardaPpReal(Siro& s, TormentaReal& tormenta)
 
 void LeeTablaDisTemPer(Siro& s)
 {
-    s.ArchivoTemp = Ruta(s.DirTrabajo, ArchivoDisPer);
+    s.Proyecto.ArchivoTemp = Ruta(s.Proyecto.DirTrabajo, ArchivoDisPer);
     try {
-        LectorRegistros lector(s.Disco.Lee(s.ArchivoTemp));
+        LectorRegistros lector(s.Disco.Lee(s.Proyecto.ArchivoTemp));
         lector.Registro(3, [&] {
             const auto n1 = lector.Numero16();
             const auto n2 = lector.Numero16();
@@ -305,10 +312,10 @@ void LeeTablaDisTemPer(Siro& s)
             Filas(s, 1) = n1;
             Filas(s, 2) = n2;
         });
-        Ajusta(s.DisPerso, 3, Suma16(std::max({Filas(s, 1), Filas(s, 2), Filas(s, 3)}), 1));
+        Ajusta(s.TablasDeLluvia.DisPerso, 3, Suma16(std::max({Filas(s, 1), Filas(s, 2), Filas(s, 3)}), 1));
         for (int k = 1; k <= 3; ++k)
             for (int j = 1; j <= Filas(s, k); ++j)
-                s.DisPerso(k, j) = 0;
+                s.TablasDeLluvia.DisPerso(k, j) = 0;
         for (int k = 1; k <= 3; ++k)
             LeeUnaDisPer(s, lector, k);
     } catch (const Falla&) {
@@ -318,8 +325,8 @@ void LeeTablaDisTemPer(Siro& s)
 
 bool GuardaTablaDisPer(Siro& s)
 {
-    s.ArchivoTemp = Ruta(s.DirTrabajo, ArchivoDisPer);
-    EscrituraInformada escritor(s, s.ArchivoTemp, NumeroFalla::ArchivoNoEsta);
+    s.Proyecto.ArchivoTemp = Ruta(s.Proyecto.DirTrabajo, ArchivoDisPer);
+    EscrituraInformada escritor(s, s.Proyecto.ArchivoTemp, NumeroFalla::ArchivoNoEsta);
     escritor.Registro(
         [&](EscritorRegistros& e) { e.Numero(Filas(s, 1)).Numero(Filas(s, 2)).Numero(Filas(s, 3)); });
     for (int k = 1; k <= 3; ++k)
@@ -331,19 +338,21 @@ bool GuardaTablaDisPer(Siro& s)
 
 void LeeTablaPDRs(Siro& s)
 {
-    s.ArchivoTemp = Ruta(s.DirTrabajo, ArchivoPDRs);
+    s.Proyecto.ArchivoTemp = Ruta(s.Proyecto.DirTrabajo, ArchivoPDRs);
     try {
-        LectorRegistros lector(s.Disco.Lee(s.ArchivoTemp));
+        LectorRegistros lector(s.Disco.Lee(s.Proyecto.ArchivoTemp));
         lector.Registro(4, [&] {
             std::array<std::int16_t, 4> filas{};
             for (auto& n : filas)
                 n = lector.Numero16();
-            s.NroFilasTabla = filas;
+            s.TablasDeLluvia.NroFilasTabla = filas;
         });
-        const auto tope = Suma16(*std::max_element(s.NroFilasTabla.begin(), s.NroFilasTabla.end()), 1);
-        Ajusta(s.TablasP, 4, tope);
-        Ajusta(s.TablasD, 4, tope);
-        Ajusta(s.TablasR, 4, tope);
+        const auto tope = Suma16(
+            *std::max_element(s.TablasDeLluvia.NroFilasTabla.begin(), s.TablasDeLluvia.NroFilasTabla.end()),
+            1);
+        Ajusta(s.TablasDeLluvia.TablasP, 4, tope);
+        Ajusta(s.TablasDeLluvia.TablasD, 4, tope);
+        Ajusta(s.TablasDeLluvia.TablasR, 4, tope);
         for (int k = 0; k <= 3; ++k)
             LeeUnaTablaPDR(s, lector, k);
         CargaSerie(s);
@@ -354,10 +363,10 @@ void LeeTablaPDRs(Siro& s)
 
 bool GuardaTablaPDRs(Siro& s)
 {
-    s.ArchivoTemp = Ruta(s.DirTrabajo, ArchivoPDRs);
-    EscrituraInformada escritor(s, s.ArchivoTemp, NumeroFalla::ArchivoNoEsta);
+    s.Proyecto.ArchivoTemp = Ruta(s.Proyecto.DirTrabajo, ArchivoPDRs);
+    EscrituraInformada escritor(s, s.Proyecto.ArchivoTemp, NumeroFalla::ArchivoNoEsta);
     escritor.Registro([&](EscritorRegistros& e) {
-        for (const auto n : s.NroFilasTabla)
+        for (const auto n : s.TablasDeLluvia.NroFilasTabla)
             e.Numero(n);
     });
     for (int k = 0; k <= 3; ++k)
@@ -381,26 +390,26 @@ void ParsePDR(Siro& s, std::string_view item)
 {
     std::string_view resto = SinPrimeros(item, PrefijoPp.size());
     std::string_view numero;
-    if (Corta(resto, numero)) s.PpTormenta = Simple(Val(numero));
-    if (Corta(resto, numero)) s.DurTormenta = Entero16(Val(numero));
-    s.RecTormenta = Entero16(Val(resto));
+    if (Corta(resto, numero)) s.Tormenta.PpTormenta = Simple(Val(numero));
+    if (Corta(resto, numero)) s.Tormenta.DurTormenta = Entero16(Val(numero));
+    s.Tormenta.RecTormenta = Entero16(Val(resto));
 }
 
 void leeListaPpDurRec(Siro& s, std::vector<std::string>& cmbPDR)
 {
-    s.ArchivoTemp = Ruta(s.DirProyecto, ArchivoListaPDR);
+    s.Proyecto.ArchivoTemp = Ruta(s.Proyecto.DirProyecto, ArchivoListaPDR);
     cmbPDR.clear();
     try {
-        LectorRegistros lector(s.Disco.Lee(s.ArchivoTemp));
+        LectorRegistros lector(s.Disco.Lee(s.Proyecto.ArchivoTemp));
         while (!lector.Fin() && cmbPDR.size() < MaximoDeLista) {
             lector.Registro(3, [&] {
                 const auto p = lector.NumeroSimple();
                 const auto d = lector.Numero16();
-                s.RecTormenta = lector.Numero16();
-                s.PpTormenta = p;
-                s.DurTormenta = d;
+                s.Tormenta.RecTormenta = lector.Numero16();
+                s.Tormenta.PpTormenta = p;
+                s.Tormenta.DurTormenta = d;
             });
-            cmbPDR.push_back(TextoPDR(s.PpTormenta, s.DurTormenta, s.RecTormenta));
+            cmbPDR.push_back(TextoPDR(s.Tormenta.PpTormenta, s.Tormenta.DurTormenta, s.Tormenta.RecTormenta));
         }
     } catch (const Falla&) {
         return;  // a project without a list has an empty one
@@ -409,28 +418,30 @@ void leeListaPpDurRec(Siro& s, std::vector<std::string>& cmbPDR)
 
 bool GuardaListaPDR(Siro& s, const std::vector<std::string>& cmbPDR, const CamposTormenta& campos)
 {
-    const auto p = s.PpTormenta;
-    const auto d = s.DurTormenta;
-    const auto r = s.RecTormenta;
-    s.ArchivoTemp = Ruta(s.DirProyecto, ArchivoListaPDR);
-    EscrituraInformada escritor(s, s.ArchivoTemp, NumeroFalla::ArchivoNoEsta);
+    const auto p = s.Tormenta.PpTormenta;
+    const auto d = s.Tormenta.DurTormenta;
+    const auto r = s.Tormenta.RecTormenta;
+    s.Proyecto.ArchivoTemp = Ruta(s.Proyecto.DirProyecto, ArchivoListaPDR);
+    EscrituraInformada escritor(s, s.Proyecto.ArchivoTemp, NumeroFalla::ArchivoNoEsta);
     for (const std::string& item : cmbPDR) {
         if (item.empty()) continue;
         escritor.Paso([&] { ParsePDR(s, item); });
         escritor.Registro([&](EscritorRegistros& e) {
-            e.Numero(s.PpTormenta).Numero(std::int32_t{s.DurTormenta}).Numero(std::int32_t{s.RecTormenta});
+            e.Numero(s.Tormenta.PpTormenta)
+                .Numero(std::int32_t{s.Tormenta.DurTormenta})
+                .Numero(std::int32_t{s.Tormenta.RecTormenta});
         });
     }
     const bool guardada = escritor.Cierra();
     if (!escritor.Sigue()) {
-        s.PpTormenta = p;
-        s.DurTormenta = d;
-        s.RecTormenta = r;
+        s.Tormenta.PpTormenta = p;
+        s.Tormenta.DurTormenta = d;
+        s.Tormenta.RecTormenta = r;
         return false;
     }
-    escritor.Paso([&] { s.PpTormenta = Simple(Val(campos.txtPp)); });
-    escritor.Paso([&] { s.DurTormenta = Entero16(Val(campos.txtDur)); });
-    escritor.Paso([&] { s.RecTormenta = Entero16(Val(campos.cmbRec)); });
+    escritor.Paso([&] { s.Tormenta.PpTormenta = Simple(Val(campos.txtPp)); });
+    escritor.Paso([&] { s.Tormenta.DurTormenta = Entero16(Val(campos.txtDur)); });
+    escritor.Paso([&] { s.Tormenta.RecTormenta = Entero16(Val(campos.cmbRec)); });
     return guardada;
 }
 

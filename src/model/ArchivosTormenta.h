@@ -24,7 +24,7 @@ inline constexpr auto TormentasProtegidas =
     std::to_array<std::string_view>({"Ruvera 100592_pt.vlm", "Ruvera 170276 _pt.vlm",  // kept as it stands
                                      "Ruvera 230498_pt.vlm", "Ruvera 060402_pt.vlm"});
 
-/// A recorded storm as a form holds it. Its depths are Siro::PpReal, their number is Siro::NroPpReal.
+/// A recorded storm as a form holds it. Its depths are Tormenta::PpReal, their number is Tormenta::NroPpReal.
 struct TormentaReal {
     std::string nombre{};         ///< file name in DirProyecto
     std::string Notas{};          ///< description

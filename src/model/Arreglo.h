@@ -50,6 +50,15 @@ class Arreglo {
     std::vector<T> datos;
 };
 
+/// An array with bounds 0..tope, all zero.
+template <typename T>
+Arreglo<T> Ceros(int tope)
+{
+    Arreglo<T> a;
+    a.Dimensiona(tope);
+    return a;
+}
+
 /// Two-dimensional array: rows PrimeraFila()..UltimaFila(), columns 0..TopeColumna(). A row is contiguous.
 template <typename T>
 class Matriz {

@@ -57,7 +57,9 @@ bool EsAjeno(const Siro& s, const std::string& ruta)
 
 std::string ConfEnMano(const Siro& s)
 {
-    return s.NombreProyecto.empty() ? std::string{} : Ruta(s.DirProyecto, s.NombreProyecto + "_Conf.vlm");
+    return s.Proyecto.NombreProyecto.empty()
+               ? std::string{}
+               : Ruta(s.Proyecto.DirProyecto, s.Proyecto.NombreProyecto + "_Conf.vlm");
 }
 
 void Reclama(Siro& s)
@@ -69,7 +71,7 @@ void Reclama(Siro& s)
 std::string Ocupado(const Siro& s, std::string_view fin)
 {
     return std::string(Abierto1)
-        .append(s.NombreProyecto)
+        .append(s.Proyecto.NombreProyecto)
         .append(Abierto2)
         .append(s.Vigilancia.ocupante)
         .append(fin);
@@ -129,7 +131,7 @@ void AnotaGuardado(Siro& s, const std::string& ruta)
 
 bool PuedeGuardar(Siro& s, std::initializer_list<std::string> rutas)
 {
-    if (!s.Vigilancia.activa || s.NombreProyecto.empty()) return true;
+    if (!s.Vigilancia.activa || s.Proyecto.NombreProyecto.empty()) return true;
     if (!PuedeSerDeDos(s)) return false;
     return std::all_of(rutas.begin(), rutas.end(), [&](const std::string& ruta) {
         return !EsAjeno(s, ruta) ||

@@ -77,7 +77,7 @@ struct CampoComponente {
 /// The drawing keeps the vertex count apart from the reach.
 void AnotaVertices(Siro& s, const Cauce& cauce)
 {
-    s.NroVertices(cauce.numCauce) = cauce.numVertices;
+    s.Red.NroVertices(cauce.numCauce) = cauce.numVertices;
 }
 
 // The fields in the order of the file, a line each.
@@ -156,18 +156,18 @@ constexpr auto CamposLago = std::to_array<CampoComponente<Lago>>({
 /// A kind of component as the file holds it: its count, then its records.
 template <typename T, int Limite>
 struct Grupo {
-    Coleccion<T, Limite> Siro::*coleccion;
-    std::int16_t Siro::*cuenta;
+    Coleccion<T, Limite> Red::*coleccion;
+    std::int16_t Red::*cuenta;
     std::int16_t T::*numero;
     std::span<const CampoComponente<T>> campos;
 };
 
-constexpr Grupo<Cauce, MaxCauces> GrupoCauces{&Siro::ColCauces, &Siro::NroCauces, &Cauce::numCauce,
+constexpr Grupo<Cauce, MaxCauces> GrupoCauces{&Red::ColCauces, &Red::NroCauces, &Cauce::numCauce,
                                               CamposCauce};
-constexpr Grupo<UEH, MaxUEHs> GrupoUEHs{&Siro::ColUEHs, &Siro::NroUEHs, &UEH::numUEH, CamposUEH};
-constexpr Grupo<Represa, MaxRepresas> GrupoRepresas{&Siro::ColRepresas, &Siro::NroRepresas,
+constexpr Grupo<UEH, MaxUEHs> GrupoUEHs{&Red::ColUEHs, &Red::NroUEHs, &UEH::numUEH, CamposUEH};
+constexpr Grupo<Represa, MaxRepresas> GrupoRepresas{&Red::ColRepresas, &Red::NroRepresas,
                                                     &Represa::numRepresa, CamposRepresa};
-constexpr Grupo<Lago, MaxLagos> GrupoLagos{&Siro::ColLagos, &Siro::NroLagos, &Lago::numLAGO, CamposLago};
+constexpr Grupo<Lago, MaxLagos> GrupoLagos{&Red::ColLagos, &Red::NroLagos, &Lago::numLAGO, CamposLago};
 
 /// Does something with each kind, in the order of the file.
 template <typename F>
@@ -181,19 +181,19 @@ void PorGrupo(F hace)
 
 std::string RutaDe(const Siro& s, std::string_view sufijo)
 {
-    return Ruta(s.DirProyecto, s.NombreProyecto + std::string(sufijo));
+    return Ruta(s.Proyecto.DirProyecto, s.Proyecto.NombreProyecto + std::string(sufijo));
 }
 
 std::string Compone(Siro& s, std::string_view sufijo)
 {
-    return s.ArchivoTemp = RutaDe(s, sufijo);
+    return s.Proyecto.ArchivoTemp = RutaDe(s, sufijo);
 }
 
 /// How many of a reach's vertices, the first ones, have a place in the drawing's arrays.
 int VerticesConLugar(const Siro& s, int cauce, int vertices)
 {
-    const int columnas = std::min(s.XVertice.TopeColumna(), s.YVertice.TopeColumna());
-    const int filas = std::min(s.XVertice.UltimaFila(), s.YVertice.UltimaFila());
+    const int columnas = std::min(s.Red.XVertice.TopeColumna(), s.Red.YVertice.TopeColumna());
+    const int filas = std::min(s.Red.XVertice.UltimaFila(), s.Red.YVertice.UltimaFila());
     return cauce > filas ? 0 : std::clamp(vertices, 0, std::max(columnas, 0));
 }
 
@@ -239,7 +239,7 @@ class Carga {
     {
         return Sentencia(std::forward<F>(cuerpo), [&](const Falla& falla) {
             if (TerminaLaCarga(falla)) throw falla;
-            s.CargaFallida = true;
+            s.Control.CargaFallida = true;
             Informa(s, TextoFallaArchivo(falla));
         });
     }
@@ -312,10 +312,10 @@ void LeeCampo(Carga& carga, const CampoComponente<T>& campo, T& componente)
 template <typename T, int Limite>
 void LeeGrupo(Carga& carga, const Grupo<T, Limite>& grupo)
 {
-    Coleccion<T, Limite>& coleccion = carga.s.*grupo.coleccion;
+    Coleccion<T, Limite>& coleccion = carga.s.Red.*grupo.coleccion;
     coleccion.Vacia();
-    LeeValor(carga, carga.s.*grupo.cuenta);
-    const int cuenta = carga.s.*grupo.cuenta;
+    LeeValor(carga, carga.s.Red.*grupo.cuenta);
+    const int cuenta = carga.s.Red.*grupo.cuenta;
     for (int n = 1; n <= cuenta; ++n) {
         T& componente = coleccion.Agrega(T{});
         carga.Paso(
@@ -329,10 +329,10 @@ void LeeGrupo(Carga& carga, const Grupo<T, Limite>& grupo)
 /// A name that leads out of the project's directory makes the file a damaged one.
 void LeeNombre(Carga& carga)
 {
-    std::string nombre = carga.s.NombreProyecto;
+    std::string nombre = carga.s.Proyecto.NombreProyecto;
     LeeValor(carga, nombre);
     if (!SirveDeNombre(nombre)) throw Falla{NumeroFalla::FinDeArchivo};
-    carga.s.NombreProyecto = std::move(nombre);
+    carga.s.Proyecto.NombreProyecto = std::move(nombre);
 }
 
 void LeeArchivoUEHs(Carga& carga)
@@ -346,8 +346,8 @@ void LeeArchivoUEHs(Carga& carga)
 void LeePar(Carga& carga, int cauce, int vertice)
 {
     carga.Paso([&] {
-        float& x = carga.s.XVertice(cauce, vertice);
-        float& y = carga.s.YVertice(cauce, vertice);
+        float& x = carga.s.Red.XVertice(cauce, vertice);
+        float& y = carga.s.Red.YVertice(cauce, vertice);
         LectorRegistros& lector = carga.Archivo();
         lector.Registro(2, [&] {
             const float leidaX = lector.NumeroSimple();
@@ -361,19 +361,19 @@ void LeeArchivoVerCau(Carga& carga)
 {
     Siro& s = carga.s;
     int mayor = 0;
-    s.XVertice.Dimensiona(MaxCauces, mayor);
-    s.YVertice.Dimensiona(MaxCauces, mayor);
+    s.Red.XVertice.Dimensiona(MaxCauces, mayor);
+    s.Red.YVertice.Dimensiona(MaxCauces, mayor);
     carga.Abre(SufijoVerCau);
-    for (int i = 1; i <= s.NroCauces; ++i) {
+    for (int i = 1; i <= s.Red.NroCauces; ++i) {
         bool ensancha = false;
-        carga.Paso([&] { ensancha = s.NroVertices(i) > mayor; });
+        carga.Paso([&] { ensancha = s.Red.NroVertices(i) > mayor; });
         if (ensancha) {
-            mayor = s.NroVertices(i);
-            s.XVertice.Redimensiona(mayor);
-            s.YVertice.Redimensiona(mayor);
+            mayor = s.Red.NroVertices(i);
+            s.Red.XVertice.Redimensiona(mayor);
+            s.Red.YVertice.Redimensiona(mayor);
         }
         int vertices = 0;
-        carga.Paso([&] { vertices = s.NroVertices(i); });
+        carga.Paso([&] { vertices = s.Red.NroVertices(i); });
         const int conLugar = VerticesConLugar(s, i, vertices);
         for (int j = 1; j <= conLugar; ++j)
             LeePar(carga, i, j);
@@ -385,10 +385,11 @@ void LeeArchivoVerCau(Carga& carga)
 void VaciaComponentes(Siro& s)
 {
     PorGrupo([&](const auto& grupo) {
-        (s.*grupo.coleccion).Vacia();
-        s.*grupo.cuenta = 0;
+        (s.Red.*grupo.coleccion).Vacia();
+        s.Red.*grupo.cuenta = 0;
     });
-    s.CauceSel = s.CauceAnterior = s.UEHSel = s.RepresaSel = s.LagoSel = 0;
+    s.Seleccion.CauceSel = s.Seleccion.CauceAnterior = s.Seleccion.UEHSel = s.Seleccion.RepresaSel =
+        s.Seleccion.LagoSel = 0;
 }
 
 // --- writing ---
@@ -447,8 +448,8 @@ void EscribeCampo(EscrituraInformada& archivo, const CampoComponente<T>& campo, 
 template <typename T, int Limite>
 void EscribeGrupo(EscrituraInformada& archivo, const Siro& s, const Grupo<T, Limite>& grupo)
 {
-    EscribeValor(archivo, s.*grupo.cuenta);
-    for (const T& componente : s.*grupo.coleccion)
+    EscribeValor(archivo, s.Red.*grupo.cuenta);
+    for (const T& componente : s.Red.*grupo.coleccion)
         for (const CampoComponente<T>& campo : grupo.campos)
             EscribeCampo(archivo, campo, componente);
 }
@@ -456,7 +457,7 @@ void EscribeGrupo(EscrituraInformada& archivo, const Siro& s, const Grupo<T, Lim
 std::optional<CambioArchivo> ArchivoUEHs(Siro& s)
 {
     EscrituraInformada archivo(s, Compone(s, SufijoUEHs));
-    EscribeValor(archivo, s.NombreProyecto);
+    EscribeValor(archivo, s.Proyecto.NombreProyecto);
     PorGrupo([&](const auto& grupo) { EscribeGrupo(archivo, s, grupo); });
     return archivo.Toma();
 }
@@ -465,13 +466,13 @@ std::optional<CambioArchivo> ArchivoUEHs(Siro& s)
 std::optional<CambioArchivo> ArchivoVerCau(Siro& s)
 {
     EscrituraInformada archivo(s, Compone(s, SufijoVerCau));
-    for (int i = 1; i <= s.NroCauces; ++i) {
+    for (int i = 1; i <= s.Red.NroCauces; ++i) {
         int vertices = 0;
-        archivo.Paso([&] { vertices = s.NroVertices(i); });
+        archivo.Paso([&] { vertices = s.Red.NroVertices(i); });
         const int conLugar = VerticesConLugar(s, i, vertices);
         for (int j = 1; j <= conLugar; ++j)
             archivo.Registro([&](EscritorRegistros& escritor) {
-                escritor.Numero(s.XVertice(i, j)).Numero(s.YVertice(i, j));
+                escritor.Numero(s.Red.XVertice(i, j)).Numero(s.Red.YVertice(i, j));
             });
         if (vertices > conLugar) archivo.Paso([] { throw Falla{NumeroFalla::Subindice}; });
     }
@@ -515,17 +516,17 @@ bool BorraArchivos(Siro& s)
 void Lee(Siro& s, const std::vector<CambioArchivo>& sabidos)
 {
     VaciaComponentes(s);
-    s.CargaFallida = false;
+    s.Control.CargaFallida = false;
     try {
         Carga carga(s, sabidos);
         LeeArchivoUEHs(carga);
         LeeArchivoVerCau(carga);
-        if (s.NroRepresas > 0) s.Anfitrion.HabilitaVerificacion();
+        if (s.Red.NroRepresas > 0) s.Anfitrion.HabilitaVerificacion();
     } catch (const Falla& falla) {
         if (falla.numero == NumeroFalla::ArchivoNoEsta) {
-            s.NroCauces = 0;
+            s.Red.NroCauces = 0;
         } else {
-            s.CargaFallida = true;
+            s.Control.CargaFallida = true;
             Advierte(s, std::string(AvisoDanado), {});
         }
     }
@@ -533,7 +534,7 @@ void Lee(Siro& s, const std::vector<CambioArchivo>& sabidos)
 
 bool SinComponentes(const Siro& s)
 {
-    return s.NroCauces == 0 && s.NroUEHs == 0 && s.NroRepresas == 0 && s.NroLagos == 0;
+    return s.Red.NroCauces == 0 && s.Red.NroUEHs == 0 && s.Red.NroRepresas == 0 && s.Red.NroLagos == 0;
 }
 
 // --- stream orders ---
@@ -604,7 +605,7 @@ void RenumeraComponentes(Siro& s)
 {
     PorGrupo([&](const auto& grupo) {
         std::int16_t numero = 0;
-        for (auto& componente : s.*grupo.coleccion)
+        for (auto& componente : s.Red.*grupo.coleccion)
             componente.*grupo.numero = ++numero;
     });
 }
@@ -612,19 +613,19 @@ void RenumeraComponentes(Siro& s)
 bool EscribeRed(Siro& s, std::vector<CambioArchivo>& escritos)
 {
     const auto informa = [&](const Falla& falla) { Informa(s, TextoFallaArchivo(falla)); };
-    const auto cauces = s.ColCauces;
-    const std::int16_t nroCauces = s.NroCauces;
+    const auto cauces = s.Red.ColCauces;
+    const std::int16_t nroCauces = s.Red.NroCauces;
     escritos.clear();
     Sentencia([&] { CalculaOrdenCauces(s); }, informa);
     if (SinComponentes(s)) {
-        if (!s.CargaFallida) return BorraArchivos(s);
+        if (!s.Control.CargaFallida) return BorraArchivos(s);
         Advierte(s, std::string(AvisoNoSeBorra));
         return false;
     }
-    const bool contados = Sentencia([&] { s.NroCauces = Entero16(s.ColCauces.Cuenta()); }, informa);
+    const bool contados = Sentencia([&] { s.Red.NroCauces = Entero16(s.Red.ColCauces.Cuenta()); }, informa);
     if (contados && ReemplazaArchivos(s, escritos)) return true;
-    s.ColCauces = cauces;
-    s.NroCauces = nroCauces;
+    s.Red.ColCauces = cauces;
+    s.Red.NroCauces = nroCauces;
     return false;
 }
 
@@ -633,7 +634,7 @@ void AlGuardarse(Siro& s, const std::vector<CambioArchivo>& escritos)
     if (escritos.empty()) return;
     Lee(s, escritos);
     s.Anfitrion.RedibujaEditor();
-    Informa(s, std::string(AvisoGuardado) + s.ArchivoTemp);
+    Informa(s, std::string(AvisoGuardado) + s.Proyecto.ArchivoTemp);
 }
 
 bool mnu_btn_toolbarGuardaUEHs(Siro& s)
@@ -647,14 +648,14 @@ bool mnu_btn_toolbarGuardaUEHs(Siro& s)
 
 void CalculaOrdenCauces(Siro& s)
 {
-    for (Cauce& cauce : s.ColCauces)
+    for (Cauce& cauce : s.Red.ColCauces)
         cauce.OrdenCauce = 0;
-    const PorDestino<Cauce> cauces = Agrupa(s.ColCauces);
-    const PorDestino<Lago> lagos = Agrupa(s.ColLagos);
-    const PorDestino<Represa> represas = Agrupa(s.ColRepresas);
+    const PorDestino<Cauce> cauces = Agrupa(s.Red.ColCauces);
+    const PorDestino<Lago> lagos = Agrupa(s.Red.ColLagos);
+    const PorDestino<Represa> represas = Agrupa(s.Red.ColRepresas);
 
     for (int pasada = 0; pasada < PasadasOrden; ++pasada) {
-        for (Cauce& cauce : s.ColCauces) {
+        for (Cauce& cauce : s.Red.ColCauces) {
             OrdenCreciente creciente;
             const auto recibe = [&](const Cauce& afluente) { creciente.Recibe(afluente); };
             PorAfluente(cauces, cauce.NombreCauce, [&](const Cauce& afluente) {

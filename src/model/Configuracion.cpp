@@ -92,8 +92,8 @@ template <auto Variable, auto Control>
 consteval CampoConf Texto()
 {
     return {[](Lectura& l) {
-                l.s.*Variable = l.lector.Texto();
-                l.s.frmConfigura.*Control = l.s.*Variable;
+                l.s.Configuracion.*Variable = l.lector.Texto();
+                l.s.frmConfigura.*Control = l.s.Configuracion.*Variable;
             },
             EscribeTexto<Control>};
 }
@@ -102,8 +102,8 @@ template <auto Variable, auto Control>
 consteval CampoConf Marca()
 {
     return {[](Lectura& l) {
-                l.s.*Variable = l.lector.Numero16();
-                l.s.frmConfigura.*Control = l.s.*Variable;
+                l.s.Configuracion.*Variable = l.lector.Numero16();
+                l.s.frmConfigura.*Control = l.s.Configuracion.*Variable;
             },
             [](EscritorRegistros& e, const Siro& s) { e.Numero(s.frmConfigura.*Control); }};
 }
@@ -112,8 +112,8 @@ template <auto Variable, auto Control>
 consteval CampoConf Opcion()
 {
     return {[](Lectura& l) {
-                l.s.*Variable = l.lector.Logico();
-                l.s.frmConfigura.*Control = l.s.*Variable;
+                l.s.Configuracion.*Variable = l.lector.Logico();
+                l.s.frmConfigura.*Control = l.s.Configuracion.*Variable;
             },
             [](EscritorRegistros& e, const Siro& s) { e.Logico(s.frmConfigura.*Control); }};
 }
@@ -123,10 +123,10 @@ template <auto Variable, auto Control>
 consteval CampoConf Corrimiento()
 {
     return {[](Lectura& l) {
-                l.s.*Variable = Simple(Val(l.lector.Texto()));
-                l.s.frmConfigura.*Control = NumeroATexto(l.s.*Variable);
+                l.s.Configuracion.*Variable = Simple(Val(l.lector.Texto()));
+                l.s.frmConfigura.*Control = NumeroATexto(l.s.Configuracion.*Variable);
             },
-            [](EscritorRegistros& e, const Siro& s) { e.Numero(s.*Variable); }};
+            [](EscritorRegistros& e, const Siro& s) { e.Numero(s.Configuracion.*Variable); }};
 }
 
 template <std::size_t N>
@@ -143,8 +143,8 @@ template <auto Variables, auto Casillas, std::size_t Casilla, std::size_t Bander
 consteval CampoConf Seleccion()
 {
     return {[](Lectura& l) {
-                (l.s.*Variables)[Bandera] = l.lector.Numero16();
-                (l.s.frmConfigura.*Casillas)[Casilla] = (l.s.*Variables)[Bandera];
+                (l.s.Configuracion.*Variables)[Bandera] = l.lector.Numero16();
+                (l.s.frmConfigura.*Casillas)[Casilla] = (l.s.Configuracion.*Variables)[Bandera];
             },
             [](EscritorRegistros& e, const Siro& s) { e.Numero((s.frmConfigura.*Casillas)[Casilla]); }};
 }
@@ -152,14 +152,15 @@ consteval CampoConf Seleccion()
 template <std::int16_t R, std::int16_t RBandera = R>
 consteval CampoConf Rec()
 {
-    return Seleccion<&Siro::CheckR, &Controles::CheckR, Lugar(Recurrencias, R),
+    return Seleccion<&Configuracion::CheckR, &Controles::CheckR, Lugar(Recurrencias, R),
                      Lugar(Recurrencias, RBandera)>();
 }
 
 template <std::int16_t D>
 consteval CampoConf Dur()
 {
-    return Seleccion<&Siro::CheckD, &Controles::CheckD, Lugar(Duraciones, D), Lugar(Duraciones, D)>();
+    return Seleccion<&Configuracion::CheckD, &Controles::CheckD, Lugar(Duraciones, D),
+                     Lugar(Duraciones, D)>();
 }
 
 /// A name that leads out of the project's directory makes the file a damaged one.
@@ -167,19 +168,19 @@ void LeeNombre(Lectura& l)
 {
     std::string nombre = l.lector.Texto();
     if (!SirveDeNombre(nombre)) throw Falla{NumeroFalla::FinDeArchivo};
-    l.deOtro = nombre != l.s.NombreProyecto;
-    l.s.NombreProyecto = std::move(nombre);
+    l.deOtro = nombre != l.s.Proyecto.NombreProyecto;
+    l.s.Proyecto.NombreProyecto = std::move(nombre);
 }
 
 void EscribeNombre(EscritorRegistros& e, const Siro& s)
 {
-    e.Texto(s.NombreProyecto);
+    e.Texto(s.Proyecto.NombreProyecto);
 }
 
 void LeeUnidad(Lectura& l)
 {
-    l.s.DriveProyecto = l.lector.Texto();
-    PonUnidad(l.s, l.s.DriveProyecto);
+    l.s.Proyecto.DriveProyecto = l.lector.Texto();
+    PonUnidad(l.s, l.s.Proyecto.DriveProyecto);
 }
 
 /// The directory, and with it the question whether the project has moved: then it keeps the present one, and
@@ -187,78 +188,78 @@ void LeeUnidad(Lectura& l)
 void LeeDirectorio(Lectura& l)
 {
     Siro& s = l.s;
-    s.DirProyectoConf = RutaLlana(l.lector.Texto());
-    s.DirProyecto = RutaLlana(s.DirProyecto);
-    const std::string_view dicho = SinUnidad(s.DirProyectoConf);
-    const bool igual = SinUnidad(s.DirProyecto) == dicho;
-    const bool parecido = igual || SinUnidad(ComoVuelve(s.DirProyecto)) == dicho;
-    l.mudado = s.DriveProyecto != s.frmConfigura.Drive1 || !parecido;
-    if (l.mudado || !igual) s.DirProyectoConf = s.DirProyecto;
-    s.frmConfigura.Dir1 = s.DirProyectoConf;
-    s.DirProyecto = s.DirProyectoConf;
+    s.Proyecto.DirProyectoConf = RutaLlana(l.lector.Texto());
+    s.Proyecto.DirProyecto = RutaLlana(s.Proyecto.DirProyecto);
+    const std::string_view dicho = SinUnidad(s.Proyecto.DirProyectoConf);
+    const bool igual = SinUnidad(s.Proyecto.DirProyecto) == dicho;
+    const bool parecido = igual || SinUnidad(ComoVuelve(s.Proyecto.DirProyecto)) == dicho;
+    l.mudado = s.Proyecto.DriveProyecto != s.frmConfigura.Drive1 || !parecido;
+    if (l.mudado || !igual) s.Proyecto.DirProyectoConf = s.Proyecto.DirProyecto;
+    s.frmConfigura.Dir1 = s.Proyecto.DirProyectoConf;
+    s.Proyecto.DirProyecto = s.Proyecto.DirProyectoConf;
 }
 
 void LeeImagen(Lectura& l)
 {
-    l.s.ArchivoImagenDibujo = l.lector.Texto();
-    l.s.frmConfigura.lblImagenDibujo = l.s.ArchivoImagenDibujo;
-    l.s.ArchivoImagen = l.s.ArchivoImagenDibujo;
+    l.s.Configuracion.ArchivoImagenDibujo = l.lector.Texto();
+    l.s.frmConfigura.lblImagenDibujo = l.s.Configuracion.ArchivoImagenDibujo;
+    l.s.Configuracion.ArchivoImagen = l.s.Configuracion.ArchivoImagenDibujo;
 }
 
 void LeeEscalaImagen(Lectura& l)
 {
-    l.s.EscalaImagen = Val(l.lector.Texto());
-    l.s.frmConfigura.TexIMGEscala = NumeroATexto(l.s.EscalaImagen);
+    l.s.Configuracion.EscalaImagen = Val(l.lector.Texto());
+    l.s.frmConfigura.TexIMGEscala = NumeroATexto(l.s.Configuracion.EscalaImagen);
 }
 
 void LeeN0Dur(Lectura& l)
 {
-    l.s.N0Dur = l.lector.NumeroSimple();
-    l.s.frmConfigura.txtN0Dur = NumeroATexto(l.s.N0Dur);
+    l.s.Pasos.N0Dur = l.lector.NumeroSimple();
+    l.s.frmConfigura.txtN0Dur = NumeroATexto(l.s.Pasos.N0Dur);
 }
 
 void EscribeN0Dur(EscritorRegistros& e, const Siro& s)
 {
-    e.Numero(s.N0Dur);
+    e.Numero(s.Pasos.N0Dur);
 }
 
 /// The control keeps what was typed, with points; the variable is the text of its leading number.
 void LeeEscalaDibujo(Lectura& l)
 {
     l.s.frmConfigura.txtEscalaImagen = ComasAPuntos(l.lector.Texto());
-    l.s.EscalaDibujo = NumeroATexto(Val(l.s.frmConfigura.txtEscalaImagen));
+    l.s.Configuracion.EscalaDibujo = NumeroATexto(Val(l.s.frmConfigura.txtEscalaImagen));
 }
 
 /// The fields in the order of the file, a line each.
 // clang-format off
 constexpr auto Campos = std::to_array<CampoConf>({
     {LeeNombre, EscribeNombre},
-    Texto<&Siro::TituloProyecto, &Controles::TextProyecto>(),
-    Texto<&Siro::Ubicacion, &Controles::TextUbica>(),
-    Texto<&Siro::Cuenca, &Controles::TextCuenca>(),
-    Texto<&Siro::Subcuenca, &Controles::TextSbca>(),
-    Texto<&Siro::Operador, &Controles::TextOpera>(),
-    Texto<&Siro::FechaProyecto, &Controles::txtFecha>(),
+    Texto<&Configuracion::TituloProyecto, &Controles::TextProyecto>(),
+    Texto<&Configuracion::Ubicacion, &Controles::TextUbica>(),
+    Texto<&Configuracion::Cuenca, &Controles::TextCuenca>(),
+    Texto<&Configuracion::Subcuenca, &Controles::TextSbca>(),
+    Texto<&Configuracion::Operador, &Controles::TextOpera>(),
+    Texto<&Configuracion::FechaProyecto, &Controles::txtFecha>(),
     {LeeUnidad, EscribeTexto<&Controles::Drive1>},
     {LeeDirectorio, EscribeTexto<&Controles::Dir1>},
-    Texto<&Siro::DirNv, &Controles::TextDirNv>(),
-    Marca<&Siro::CheckDistriPp, &Controles::CheckDistriPp>(),
-    Texto<&Siro::NombreArchivoConf, &Controles::lblMiArchivoConf>(),
-    Marca<&Siro::ImagenDibujo, &Controles::chkImagenDibujo>(),
+    Texto<&Configuracion::DirNv, &Controles::TextDirNv>(),
+    Marca<&Configuracion::CheckDistriPp, &Controles::CheckDistriPp>(),
+    Texto<&Configuracion::NombreArchivoConf, &Controles::lblMiArchivoConf>(),
+    Marca<&Configuracion::ImagenDibujo, &Controles::chkImagenDibujo>(),
     {LeeImagen, EscribeTexto<&Controles::lblImagenDibujo>},
     {LeeEscalaImagen, EscribeTexto<&Controles::TexIMGEscala>},
-    Texto<&Siro::TextoS, &Controles::TexS>(),
-    Opcion<&Siro::Optiona, &Controles::Optiona>(),
-    Opcion<&Siro::Optionb, &Controles::Optionb>(),
-    Opcion<&Siro::Optionc, &Controles::Optionc>(),
-    Corrimiento<&Siro::ImagenX0, &Controles::TexIMGX0>(),
-    Corrimiento<&Siro::ImagenY0, &Controles::TexIMGY0>(),
-    Opcion<&Siro::OptionMin, &Controles::OptionMin>(),
-    Opcion<&Siro::OptionHr, &Controles::OptionHr>(),
-    Opcion<&Siro::Optionm3, &Controles::Optionm3>(),
-    Opcion<&Siro::OptionLt, &Controles::OptionLt>(),
+    Texto<&Configuracion::TextoS, &Controles::TexS>(),
+    Opcion<&Configuracion::Optiona, &Controles::Optiona>(),
+    Opcion<&Configuracion::Optionb, &Controles::Optionb>(),
+    Opcion<&Configuracion::Optionc, &Controles::Optionc>(),
+    Corrimiento<&Configuracion::ImagenX0, &Controles::TexIMGX0>(),
+    Corrimiento<&Configuracion::ImagenY0, &Controles::TexIMGY0>(),
+    Opcion<&Configuracion::OptionMin, &Controles::OptionMin>(),
+    Opcion<&Configuracion::OptionHr, &Controles::OptionHr>(),
+    Opcion<&Configuracion::Optionm3, &Controles::Optionm3>(),
+    Opcion<&Configuracion::OptionLt, &Controles::OptionLt>(),
     {LeeN0Dur, EscribeN0Dur},
-    Texto<&Siro::MaxUEHsPixel, &Controles::txtMaxUEHsPixel>(),
+    Texto<&Configuracion::MaxUEHsPixel, &Controles::txtMaxUEHsPixel>(),
     {LeeEscalaDibujo, EscribeTexto<&Controles::txtEscalaImagen>},
     Rec<2>(), Rec<5>(), Rec<10>(), Rec<20>(), Rec<25>(), Rec<40>(), Rec<50>(), Rec<100>(), Rec<200>(), Rec<500>(),
     Rec<1000>(), Rec<2000>(),
@@ -285,12 +286,12 @@ std::int16_t ListaTildadas(const std::array<std::int16_t, N>& casillas,
 
 std::string RutaConf(const Siro& s, const std::string& directorio)
 {
-    return Ruta(directorio, s.NombreProyecto + std::string(SufijoConf));
+    return Ruta(directorio, s.Proyecto.NombreProyecto + std::string(SufijoConf));
 }
 
 void ComponeArchivo(Siro& s)
 {
-    s.ArchivoTemp = RutaConf(s, s.DirProyecto);
+    s.Proyecto.ArchivoTemp = RutaConf(s, s.Proyecto.DirProyecto);
 }
 
 /// What can't be read is there too.
@@ -307,40 +308,40 @@ bool HayArchivo(const Siro& s, const std::string& ruta)
 /// Writes the file with no question, and tells so. Throws Falla 76, 75; memory is then as it was.
 void GuardaConf(Siro& s)
 {
-    if (s.NombreProyecto.empty()) {
-        s.DirProyectoConf = s.frmConfigura.Dir1;
-        s.DriveProyecto = s.frmConfigura.Drive1;
+    if (s.Proyecto.NombreProyecto.empty()) {
+        s.Proyecto.DirProyectoConf = s.frmConfigura.Dir1;
+        s.Proyecto.DriveProyecto = s.frmConfigura.Drive1;
         return;
     }
-    const std::string directorio = s.DirProyecto, imagen = s.ArchivoImagen;
+    const std::string directorio = s.Proyecto.DirProyecto, imagen = s.Configuracion.ArchivoImagen;
     const std::int16_t conImagen = s.frmConfigura.chkImagenDibujo;
     try {
         EscribeConf(s);
     } catch (const Falla&) {
-        s.DirProyecto = directorio;
-        s.ArchivoImagen = imagen;
+        s.Proyecto.DirProyecto = directorio;
+        s.Configuracion.ArchivoImagen = imagen;
         s.frmConfigura.chkImagenDibujo = conImagen;
         throw;
     }
-    AvisaConfGuardada(s, s.ArchivoTemp);
-    s.ProyectoNuevo = false;
+    AvisaConfGuardada(s, s.Proyecto.ArchivoTemp);
+    s.Proyecto.ProyectoNuevo = false;
 }
 
 void LeeArchivo(Siro& s)
 {
-    s.frmConfigura.Dir1 = s.DirProyecto;
-    s.frmConfigura.Drive1 = UnidadDe(s.DirProyecto);
+    s.frmConfigura.Dir1 = s.Proyecto.DirProyecto;
+    s.frmConfigura.Drive1 = UnidadDe(s.Proyecto.DirProyecto);
     ComponeArchivo(s);
-    LectorRegistros lector(LeeVigilado(s, s.ArchivoTemp));
-    s.Vigilancia.archivoConf = s.ArchivoTemp;
+    LectorRegistros lector(LeeVigilado(s, s.Proyecto.ArchivoTemp));
+    s.Vigilancia.archivoConf = s.Proyecto.ArchivoTemp;
     Lectura l{s, lector};
     for (const CampoConf& campo : Campos)
         campo.Lee(l);
 
     // Under the name that the file tells stands another project's, or none.
-    if (l.mudado && !l.deOtro && PuedeGuardar(s, {s.ArchivoTemp})) GuardaConf(s);
-    s.NroRec = ListaTildadas(s.frmConfigura.CheckR, Recurrencias, s.ListaRec);
-    s.NroDur = ListaTildadas(s.frmConfigura.CheckD, Duraciones, s.ListaDur);
+    if (l.mudado && !l.deOtro && PuedeGuardar(s, {s.Proyecto.ArchivoTemp})) GuardaConf(s);
+    s.Configuracion.NroRec = ListaTildadas(s.frmConfigura.CheckR, Recurrencias, s.Configuracion.ListaRec);
+    s.Configuracion.NroDur = ListaTildadas(s.frmConfigura.CheckD, Duraciones, s.Configuracion.ListaDur);
 }
 
 }  // namespace
@@ -370,9 +371,9 @@ void leoConf(Siro& s)
             Informa(s, std::move(texto));
             return;
         }
-        texto.append(AvisoDanado1).append(s.NombreProyecto).append(AvisoDanado2);
+        texto.append(AvisoDanado1).append(s.Proyecto.NombreProyecto).append(AvisoDanado2);
         Informa(s, std::move(texto));
-        s.NombreProyecto.clear();
+        s.Proyecto.NombreProyecto.clear();
     }
 }
 
@@ -381,19 +382,19 @@ void EscribeConf(Siro& s)
     Controles& controles = s.frmConfigura;
     if (controles.chkImagenDibujo == Tildada && controles.lblImagenDibujo == SinImagen) {
         controles.chkImagenDibujo = 0;
-        s.ArchivoImagen.clear();
+        s.Configuracion.ArchivoImagen.clear();
     }
-    s.DirProyecto = controles.Dir1;
+    s.Proyecto.DirProyecto = controles.Dir1;
     ComponeArchivo(s);
     EscritorRegistros escritor(s.Disco);
-    escritor.Abre(s.ArchivoTemp);
+    escritor.Abre(s.Proyecto.ArchivoTemp);
     for (const CampoConf& campo : Campos) {
         campo.Escribe(escritor, s);
         escritor.FinRegistro();
     }
     escritor.Cierra();
-    s.Vigilancia.archivoConf = s.ArchivoTemp;
-    AnotaGuardado(s, s.ArchivoTemp);
+    s.Vigilancia.archivoConf = s.Proyecto.ArchivoTemp;
+    AnotaGuardado(s, s.Proyecto.ArchivoTemp);
 }
 
 void AvisaConfGuardada(const Siro& s, const std::string& ruta)
@@ -404,14 +405,15 @@ void AvisaConfGuardada(const Siro& s, const std::string& ruta)
 bool cmdAplicar(Siro& s)
 {
     const std::string ruta = RutaConf(s, s.frmConfigura.Dir1);
-    const bool deOtro = !s.NombreProyecto.empty() && ruta != s.Vigilancia.archivoConf && HayArchivo(s, ruta);
+    const bool deOtro =
+        !s.Proyecto.NombreProyecto.empty() && ruta != s.Vigilancia.archivoConf && HayArchivo(s, ruta);
     if (deOtro &&
         !Consulta(s, std::string(PreguntaDeOtro1).append(ruta).append(PreguntaDeOtro2), TituloDeOtro))
         return false;
     if (deOtro) AnotaGuardado(s, ruta);  // what is there has been asked about
     if (!PuedeGuardar(s, {ruta})) return false;
     GuardaConf(s);
-    if (!s.NombreProyecto.empty() && s.Vigilancia.reclamado != ruta) ReclamaProyecto(s);
+    if (!s.Proyecto.NombreProyecto.empty() && s.Vigilancia.reclamado != ruta) ReclamaProyecto(s);
     return true;
 }
 

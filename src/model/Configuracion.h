@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "model/Disco.h"
 
@@ -65,6 +66,44 @@ struct ControlesConfigura {
     std::array<std::int16_t, Duraciones.size()> CheckD = DuracionesDefecto;      ///< boxes, as Duraciones
 
     bool operator==(const ControlesConfigura&) const = default;
+};
+
+/// Where the program and the project stand on the disk.
+struct Proyecto {
+    /// Directory of the executable, or the user's own where that one can't be written; the host sets it.
+    std::string DirEjecutable{};
+    std::string DirTrabajo{};       ///< the program's own directory: shared tables, result files
+    std::string DirProyecto{};      ///< directory of the project's files
+    std::string DirProyectoConf{};  ///< the same as the configuration tells it
+    std::string DriveProyecto{};
+    std::string NombreProyecto{};  ///< empty: no project open
+    std::string ArchivoTemp{};     ///< file name last composed by a file operation
+    bool ProyectoNuevo = false;    ///< a new project waits for its configuration to be confirmed
+    bool ConfPendiente = false;  ///< start-up is over: a read of the pointer tests that its project is there
+};
+
+/// What a project's configuration says.
+struct Configuracion {
+    std::string TituloProyecto{}, Ubicacion{}, Cuenca{}, Subcuenca{}, Operador{};
+    std::string FechaProyecto = "01/02/2006";
+    std::string DirNv{};
+    std::int16_t CheckDistriPp = 1;
+    std::string NombreArchivoConf{};
+    std::int16_t ImagenDibujo = 0;
+    std::string ArchivoImagenDibujo = "Ninguno";  ///< background image of the project
+    std::string ArchivoImagen{};                  ///< the editor's copy
+    double EscalaImagen = 0;                      ///< zoom of the image [%]
+    std::string TextoS{};
+    bool Optiona = false, Optionb = false, Optionc = false;
+    float ImagenX0 = 0, ImagenY0 = 0;  ///< shift of the image [pixels]
+    bool OptionMin = false, OptionHr = false, Optionm3 = false, OptionLt = false;
+    std::string MaxUEHsPixel = "800";
+    std::string EscalaDibujo = "0";                                     ///< scale of the image [m/pixel]
+    std::array<std::int16_t, Recurrencias.size()> CheckR{};             ///< flags; not those of the boxes
+    std::array<std::int16_t, Duraciones.size()> CheckD{};               ///< flags
+    std::vector<std::int16_t> ListaRec = std::vector<std::int16_t>(1);  ///< ticked recurrences, from 1
+    std::vector<std::int16_t> ListaDur = std::vector<std::int16_t>(1);  ///< ticked durations, from 1
+    std::int16_t NroRec = 0, NroDur = 0;
 };
 
 /// Ticks the designed set of recurrences: 2 to 200 and 1000, not 500, 2000, 5000, 10000.

@@ -182,7 +182,8 @@ bool EntregaPendiente(const Disco& disco, const std::string& dirTrabajo)
 
 void AvisaEntregaPendiente(const Siro& s)
 {
-    if (EntregaPendiente(s.Disco, s.DirTrabajo)) Advierte(s, std::string(AvisoEntrega) + s.DirTrabajo);
+    if (EntregaPendiente(s.Disco, s.Proyecto.DirTrabajo))
+        Advierte(s, std::string(AvisoEntrega) + s.Proyecto.DirTrabajo);
 }
 
 void RenuevaAyuda(const Disco& disco, const std::string& dirTrabajo, const std::string& dirEntregado)

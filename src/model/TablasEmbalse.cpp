@@ -32,33 +32,33 @@ constexpr int TopeMinimo = 10;             ///< rows that the arrays have at lea
 constexpr std::size_t MaxColumnas = 4;
 
 /// A column of a table: an array by component number and row of the table.
-using Columna = std::variant<Matriz<float> Siro::*, Matriz<std::int32_t> Siro::*>;
+using Columna = std::variant<Matriz<float> Red::*, Matriz<std::int32_t> Red::*>;
 
 /// A table file: whose it is and, in the order of a data line, what it holds.
 template <typename T, int Limite>
 struct ArchivoTabla {
     std::string_view sufijo;
-    Coleccion<T, Limite> Siro::*coleccion;
-    std::int16_t Siro::*cuenta;
+    Coleccion<T, Limite> Red::*coleccion;
+    std::int16_t Red::*cuenta;
     std::string T::*nombre;
     std::int16_t T::*numero;
-    Arreglo<std::int16_t> Siro::*filas;
+    Arreglo<std::int16_t> Red::*filas;
     std::span<const Columna> columnas;
 };
 
-constexpr std::array<Columna, 3> ColumnasRHAS{&Siro::RepresaH, &Siro::RepresaA, &Siro::RepresaS};
-constexpr std::array<Columna, 2> ColumnasRHQ{&Siro::RepresaQH, &Siro::RepresaQQ};
-constexpr std::array<Columna, 4> ColumnasLHASQ{&Siro::LagoH, &Siro::LagoA, &Siro::LagoS, &Siro::LagoQ};
+constexpr std::array<Columna, 3> ColumnasRHAS{&Red::RepresaH, &Red::RepresaA, &Red::RepresaS};
+constexpr std::array<Columna, 2> ColumnasRHQ{&Red::RepresaQH, &Red::RepresaQQ};
+constexpr std::array<Columna, 4> ColumnasLHASQ{&Red::LagoH, &Red::LagoA, &Red::LagoS, &Red::LagoQ};
 static_assert(ColumnasLHASQ.size() <= MaxColumnas);
 
 constexpr ArchivoTabla<Represa, MaxRepresas> ArchivoRHAS{
-    "_RHAS.vlm",          &Siro::ColRepresas,     &Siro::NroRepresas, &Represa::NombreRepresa,
-    &Represa::numRepresa, &Siro::RepresaFilasHAS, ColumnasRHAS};
+    "_RHAS.vlm",          &Red::ColRepresas,     &Red::NroRepresas, &Represa::NombreRepresa,
+    &Represa::numRepresa, &Red::RepresaFilasHAS, ColumnasRHAS};
 constexpr ArchivoTabla<Represa, MaxRepresas> ArchivoRHQ{
-    "_RHQ.vlm",           &Siro::ColRepresas,    &Siro::NroRepresas, &Represa::NombreRepresa,
-    &Represa::numRepresa, &Siro::RepresaFilasHQ, ColumnasRHQ};
-constexpr ArchivoTabla<Lago, MaxLagos> ArchivoLHASQ{"_LHASQ.vlm",      &Siro::ColLagos, &Siro::NroLagos,
-                                                    &Lago::NombreLAGO, &Lago::numLAGO,  &Siro::LagoFilas,
+    "_RHQ.vlm",           &Red::ColRepresas,    &Red::NroRepresas, &Represa::NombreRepresa,
+    &Represa::numRepresa, &Red::RepresaFilasHQ, ColumnasRHQ};
+constexpr ArchivoTabla<Lago, MaxLagos> ArchivoLHASQ{"_LHASQ.vlm",      &Red::ColLagos, &Red::NroLagos,
+                                                    &Lago::NombreLAGO, &Lago::numLAGO, &Red::LagoFilas,
                                                     ColumnasLHASQ};
 
 void InformaFalla(const Siro& s, const Falla& falla)
@@ -69,17 +69,17 @@ void InformaFalla(const Siro& s, const Falla& falla)
 /// Goes to the project's directory as far as a program does that composes its paths.
 void VaADirectorio(const Siro& s)
 {
-    if (!s.Disco.HayDirectorio(s.DirProyecto)) throw Falla{NumeroFalla::RutaNoEsta};
+    if (!s.Disco.HayDirectorio(s.Proyecto.DirProyecto)) throw Falla{NumeroFalla::RutaNoEsta};
 }
 
 /// Takes the count from the collection, and composes the name of the file. Returns its path.
 template <typename T, int Limite>
 std::string Compone(Siro& s, const ArchivoTabla<T, Limite>& archivo)
 {
-    Sentencia([&] { s.*archivo.cuenta = Entero16((s.*archivo.coleccion).Cuenta()); },
+    Sentencia([&] { s.Red.*archivo.cuenta = Entero16((s.Red.*archivo.coleccion).Cuenta()); },
               [&](const Falla& falla) { InformaFalla(s, falla); });
-    s.ArchivoTemp = s.NombreProyecto + std::string(archivo.sufijo);
-    return Ruta(s.DirProyecto, s.ArchivoTemp);
+    s.Proyecto.ArchivoTemp = s.Proyecto.NombreProyecto + std::string(archivo.sufijo);
+    return Ruta(s.Proyecto.DirProyecto, s.Proyecto.ArchivoTemp);
 }
 
 // --- reading ---
@@ -193,16 +193,16 @@ class LecturaTabla {
         : s(unSiro), archivo(unArchivo), ruta(Compone(unSiro, unArchivo))
     {
         Sentencia([&] { VaADirectorio(s); }, [&](const Falla& falla) { InformaFalla(s, falla); });
-        for (const T& componente : s.*archivo.coleccion)
+        for (const T& componente : s.Red.*archivo.coleccion)
             mayorNumero = std::max(mayorNumero, int{componente.*archivo.numero});
-        (s.*archivo.filas).Dimensiona(mayorNumero);
+        (s.Red.*archivo.filas).Dimensiona(mayorNumero);
         for (const Columna& columna : archivo.columnas)
-            std::visit([&](auto matriz) { (s.*matriz).Dimensiona(mayorNumero, TopeMinimo); }, columna);
+            std::visit([&](auto matriz) { (s.Red.*matriz).Dimensiona(mayorNumero, TopeMinimo); }, columna);
     }
     /// A missing file or block leaves its component and all that follow without rows.
     void Lee()
     {
-        for (const T& componente : s.*archivo.coleccion)
+        for (const T& componente : s.Red.*archivo.coleccion)
             if (!LeeComponente(componente)) return;
     }
 
@@ -217,7 +217,7 @@ class LecturaTabla {
             apertura == Apertura::NoEsta ? nullptr : registros->Busca(s, Marca + componente.*archivo.nombre);
         const int numero = componente.*archivo.numero;
         if (bloque != nullptr && LeeBloque(*bloque, numero)) return true;
-        Paso([&] { (s.*archivo.filas)(numero) = 0; });
+        Paso([&] { (s.Red.*archivo.filas)(numero) = 0; });
         return false;
     }
     // The file is opened anew for every component until it has been read; what can't be opened can't be
@@ -239,7 +239,7 @@ class LecturaTabla {
     /// Returns false where the file ends inside the block.
     bool LeeBloque(const Registros::Hallazgo& bloque, int numero)
     {
-        Paso([&] { (s.*archivo.filas)(numero) = bloque.filas; });
+        Paso([&] { (s.Red.*archivo.filas)(numero) = bloque.filas; });
         Ensancha(bloque.filas);
         try {
             registros->Va(bloque);
@@ -259,14 +259,14 @@ class LecturaTabla {
         if (static_cast<std::size_t>(mayorNumero) * static_cast<std::size_t>(tope) > MaximoCeldas)
             throw std::bad_alloc{};
         for (const Columna& columna : archivo.columnas)
-            std::visit([&](auto matriz) { (s.*matriz).Redimensiona(tope); }, columna);
+            std::visit([&](auto matriz) { (s.Red.*matriz).Redimensiona(tope); }, columna);
     }
     void LeeFila(int numero, int k)
     {
         std::array<float, MaxColumnas> leidos{};
         const bool leida = Paso([&] { leidos = registros->Numeros(); });
         for (std::size_t c = 0; leida && c < archivo.columnas.size(); ++c)
-            std::visit([&](auto matriz) { Paso([&] { Guarda((s.*matriz)(numero, k), leidos[c]); }); },
+            std::visit([&](auto matriz) { Paso([&] { Guarda((s.Red.*matriz)(numero, k), leidos[c]); }); },
                        archivo.columnas[c]);
     }
     static void Guarda(float& lugar, float valor) { lugar = valor; }
@@ -312,7 +312,7 @@ void EscribeCabecera(EscrituraInformada& salida, const Siro& s, const ArchivoTab
                      const T& componente)
 {
     salida.Registro([&](EscritorRegistros& escritor) {
-        const std::int16_t filas = (s.*archivo.filas)(componente.*archivo.numero);
+        const std::int16_t filas = (s.Red.*archivo.filas)(componente.*archivo.numero);
         escritor.Texto(Marca + componente.*archivo.nombre).Numero(std::int32_t{filas});
         for (std::size_t c = 2; c < archivo.columnas.size(); ++c)
             escritor.Texto(Relleno);
@@ -323,9 +323,9 @@ void EscribeCabecera(EscrituraInformada& salida, const Siro& s, const ArchivoTab
 void PonFila(EscritorRegistros& escritor, const Siro& s, std::span<const Columna> columnas, int numero, int k)
 {
     for (const Columna& columna : columnas)
-        std::visit([&](auto matriz) { static_cast<void>((s.*matriz)(numero, k)); }, columna);
+        std::visit([&](auto matriz) { static_cast<void>((s.Red.*matriz)(numero, k)); }, columna);
     for (const Columna& columna : columnas)
-        std::visit([&](auto matriz) { Pon(escritor, (s.*matriz)(numero, k)); }, columna);
+        std::visit([&](auto matriz) { Pon(escritor, (s.Red.*matriz)(numero, k)); }, columna);
 }
 
 template <typename T, int Limite>
@@ -335,11 +335,11 @@ bool GuardaTabla(Siro& s, const ArchivoTabla<T, Limite>& archivo)
     if (!PuedeGuardar(s, {ruta})) return false;
     EscrituraInformada salida(s, ruta, NumeroFalla::ArchivoNoEsta);
     salida.Paso([&] { VaADirectorio(s); });
-    for (const T& componente : s.*archivo.coleccion) {
+    for (const T& componente : s.Red.*archivo.coleccion) {
         EscribeCabecera(salida, s, archivo, componente);
         const int numero = componente.*archivo.numero;
         int filas = 0;
-        salida.Paso([&] { filas = (s.*archivo.filas)(numero); });
+        salida.Paso([&] { filas = (s.Red.*archivo.filas)(numero); });
         for (int k = 1; k <= filas; ++k)
             salida.Registro(
                 [&](EscritorRegistros& escritor) { PonFila(escritor, s, archivo.columnas, numero, k); });
@@ -384,7 +384,8 @@ std::vector<BloqueDeTabla> Bloques(std::string bytes, std::size_t camposPorRegis
 
 std::string NombreDeArchivo(const Siro& s, ArchivoDeTablas archivo)
 {
-    return s.NombreProyecto + ConArchivo(archivo, [](const auto& a) { return std::string(a.sufijo); });
+    return s.Proyecto.NombreProyecto +
+           ConArchivo(archivo, [](const auto& a) { return std::string(a.sufijo); });
 }
 
 std::vector<BloqueDeTabla> BloquesDe(const Siro& s, ArchivoDeTablas archivo)
@@ -392,7 +393,7 @@ std::vector<BloqueDeTabla> BloquesDe(const Siro& s, ArchivoDeTablas archivo)
     std::vector<BloqueDeTabla> bloques;
     Sentencia(
         [&] {
-            bloques = Bloques(s.Disco.Lee(Ruta(s.DirProyecto, NombreDeArchivo(s, archivo))),
+            bloques = Bloques(s.Disco.Lee(Ruta(s.Proyecto.DirProyecto, NombreDeArchivo(s, archivo))),
                               CamposPorRegistro(archivo));
         },
         [](const Falla&) {});
@@ -427,7 +428,7 @@ bool RenombraBloques(const Siro& s, std::span<const ArchivoDeTablas> archivos, s
 {
     std::vector<CambioArchivo> cambios;
     for (const ArchivoDeTablas archivo : archivos) {
-        const std::string ruta = Ruta(s.DirProyecto, NombreDeArchivo(s, archivo));
+        const std::string ruta = Ruta(s.Proyecto.DirProyecto, NombreDeArchivo(s, archivo));
         std::string bytes;
         try {
             bytes = s.Disco.Lee(ruta);

@@ -86,22 +86,23 @@ bool SiEsta(F&& cuerpo)
 
 std::string ProyectosPorDefecto(const Siro& s)
 {
-    return Ruta(s.DirTrabajo, CarpetaProyectos);
+    return Ruta(s.Proyecto.DirTrabajo, CarpetaProyectos);
 }
 
 /// Steps of the pointer's reading. Throws Falla where one of them fails.
 void BuscaProyecto(Siro& s)
 {
-    s.DirTrabajo = s.DirEjecutable;
-    Entra(s, s.DirTrabajo);
+    s.Proyecto.DirTrabajo = s.Proyecto.DirEjecutable;
+    Entra(s, s.Proyecto.DirTrabajo);
     AseguraDirectorio(s, ProyectosPorDefecto(s));
-    LectorRegistros lector(s.Disco.Lee(Ruta(s.DirTrabajo, ArchivoPuntero)));
-    s.DirProyecto = lector.Texto();
-    s.NombreProyecto = lector.Texto();
-    if (!SirveDeNombre(s.NombreProyecto)) throw Falla{NumeroFalla::AccesoRuta};
-    if (s.DirProyecto.empty()) s.DirProyecto = ProyectosPorDefecto(s);
-    Entra(s, s.DirProyecto);
-    if (s.ConfPendiente) s.Disco.Lee(Ruta(s.DirProyecto, ArchivoConf(s.NombreProyecto)));
+    LectorRegistros lector(s.Disco.Lee(Ruta(s.Proyecto.DirTrabajo, ArchivoPuntero)));
+    s.Proyecto.DirProyecto = lector.Texto();
+    s.Proyecto.NombreProyecto = lector.Texto();
+    if (!SirveDeNombre(s.Proyecto.NombreProyecto)) throw Falla{NumeroFalla::AccesoRuta};
+    if (s.Proyecto.DirProyecto.empty()) s.Proyecto.DirProyecto = ProyectosPorDefecto(s);
+    Entra(s, s.Proyecto.DirProyecto);
+    if (s.Proyecto.ConfPendiente)
+        s.Disco.Lee(Ruta(s.Proyecto.DirProyecto, ArchivoConf(s.Proyecto.NombreProyecto)));
 }
 
 /// Asks for the name of a project. Returns the empty text where the user cancels or the name is refused.
@@ -117,14 +118,14 @@ std::string PideNombre(const Siro& s, std::string_view titulo)
 /// stays all the same. Throws Falla.
 bool TomaNombreNuevo(Siro& s, const std::string& nombre)
 {
-    s.NombreProyecto = nombre;
-    s.ProyectoNuevo = true;
-    if (s.DirProyectoConf.empty()) s.DirProyectoConf = s.DirProyecto;
-    Entra(s, s.DirProyectoConf);
-    s.ArchivoTemp = Ruta(s.DirProyectoConf, ArchivoConf(nombre));
-    if (!SiEsta([&] { s.Disco.Lee(s.ArchivoTemp); })) return true;
+    s.Proyecto.NombreProyecto = nombre;
+    s.Proyecto.ProyectoNuevo = true;
+    if (s.Proyecto.DirProyectoConf.empty()) s.Proyecto.DirProyectoConf = s.Proyecto.DirProyecto;
+    Entra(s, s.Proyecto.DirProyectoConf);
+    s.Proyecto.ArchivoTemp = Ruta(s.Proyecto.DirProyectoConf, ArchivoConf(nombre));
+    if (!SiEsta([&] { s.Disco.Lee(s.Proyecto.ArchivoTemp); })) return true;
     // The next opening of the configuration would otherwise write over the project that exists.
-    s.ProyectoNuevo = false;
+    s.Proyecto.ProyectoNuevo = false;
     Informa(s, std::string(YaExiste1).append(ArchivoConf(nombre)).append(YaExiste2));
     return false;
 }
@@ -152,25 +153,26 @@ void CopiaProyecto(Siro& s, const std::string& viejo, const std::string& nuevo)
     std::string conf;
     const auto copia = [&](std::string_view terminacion) {
         SiEsta([&] {
-            s.ArchivoTemp = Ruta(s.DirProyecto, std::string(nuevo).append(terminacion));
-            s.Disco.Copia(Ruta(s.DirProyecto, std::string(viejo).append(terminacion)), s.ArchivoTemp);
+            s.Proyecto.ArchivoTemp = Ruta(s.Proyecto.DirProyecto, std::string(nuevo).append(terminacion));
+            s.Disco.Copia(Ruta(s.Proyecto.DirProyecto, std::string(viejo).append(terminacion)),
+                          s.Proyecto.ArchivoTemp);
         });
     };
     EnOtroDisco(s, espera.Puerta(), [&] {
         copia(TerminacionConf);
         s.frmConfigura.lblMiArchivoConf = ArchivoConf(nuevo);
         EscribeConf(s);
-        conf = s.ArchivoTemp;
+        conf = s.Proyecto.ArchivoTemp;
         copia("_VerCau.vlm");
         copia("_UEHs.vlm");
         // A network that couldn't be read is copied as it is; any other one must be written anew.
-        if (!EscribeRed(s, red) && !s.CargaFallida) throw Falla{NumeroFalla::AccesoRuta};
+        if (!EscribeRed(s, red) && !s.Control.CargaFallida) throw Falla{NumeroFalla::AccesoRuta};
         copia("_RHQ.vlm");
         copia("_RHAS.vlm");
         copia("_LHASQ.vlm");
     });
     espera.Cumple();
-    s.ProyectoNuevo = false;
+    s.Proyecto.ProyectoNuevo = false;
     ReclamaProyecto(s);
     AvisaConfGuardada(s, conf);
     AlGuardarse(s, red);
@@ -180,7 +182,7 @@ void CopiaProyecto(Siro& s, const std::string& viejo, const std::string& nuevo)
 void AbreRuta(Siro& s, std::string_view ruta)
 {
     if (!TomaRutaProyecto(s, ruta)) return;
-    RecuperaGuardado(s, s.DirProyecto);
+    RecuperaGuardado(s, s.Proyecto.DirProyecto);
     // The labels come before the configuration and so show the earlier titles: kept as it stands. A pointer
     // that can't be written keeps no project from being opened.
     Sentencia([&] { carga_lbl_proyecto(s); }, [](const Falla&) {});
@@ -207,22 +209,22 @@ void ConFallaFatal(const Siro& s, F&& cuerpo)
 void LeePuntero(Siro& s)
 {
     try {
-        if (!RutaDeRed(s.DirEjecutable)) BuscaProyecto(s);
+        if (!RutaDeRed(s.Proyecto.DirEjecutable)) BuscaProyecto(s);
         GuardaPuntero(s);
     } catch (const Falla&) {
-        s.DirProyecto = ProyectosPorDefecto(s);
-        s.NombreProyecto.clear();
+        s.Proyecto.DirProyecto = ProyectosPorDefecto(s);
+        s.Proyecto.NombreProyecto.clear();
         Sentencia([&] { GuardaPuntero(s); }, [](const Falla&) {});
     }
 }
 
 void GuardaPuntero(Siro& s)
 {
-    Entra(s, s.DirTrabajo);
+    Entra(s, s.Proyecto.DirTrabajo);
     EscritorRegistros escritor(s.Disco);
-    escritor.Abre(Ruta(s.DirTrabajo, ArchivoPuntero));
-    escritor.Texto(s.DirProyecto).FinRegistro();
-    escritor.Texto(s.NombreProyecto).FinRegistro();
+    escritor.Abre(Ruta(s.Proyecto.DirTrabajo, ArchivoPuntero));
+    escritor.Texto(s.Proyecto.DirProyecto).FinRegistro();
+    escritor.Texto(s.Proyecto.NombreProyecto).FinRegistro();
     escritor.Cierra();
 }
 
@@ -251,16 +253,17 @@ void RecuperaGuardado(const Siro& s, const std::string& directorio)
 
 void LimpiaProyecto(Siro& s)
 {
-    s.ColCauces.Vacia();
-    s.ColUEHs.Vacia();
-    s.ColLagos.Vacia();
-    s.ColRepresas.Vacia();
-    s.CauceSel = s.CauceAnterior = s.UEHSel = s.RepresaSel = s.LagoSel = s.VerticeSel = 0;
-    s.NroCauces = s.NroUEHs = s.NroLagos = s.NroRepresas = 0;
-    s.NombreProyecto.clear();
-    s.DirProyecto.clear();
-    s.DirProyectoConf.clear();
-    s.ArchivoTemp.clear();
+    s.Red.ColCauces.Vacia();
+    s.Red.ColUEHs.Vacia();
+    s.Red.ColLagos.Vacia();
+    s.Red.ColRepresas.Vacia();
+    s.Seleccion.CauceSel = s.Seleccion.CauceAnterior = s.Seleccion.UEHSel = s.Seleccion.RepresaSel =
+        s.Seleccion.LagoSel = s.Seleccion.VerticeSel = 0;
+    s.Red.NroCauces = s.Red.NroUEHs = s.Red.NroLagos = s.Red.NroRepresas = 0;
+    s.Proyecto.NombreProyecto.clear();
+    s.Proyecto.DirProyecto.clear();
+    s.Proyecto.DirProyectoConf.clear();
+    s.Proyecto.ArchivoTemp.clear();
     LeePuntero(s);
 }
 
@@ -301,9 +304,9 @@ void mnuAbrirProyecto(Siro& s)
 void LeeConfReclamada(Siro& s)
 {
     ReclamaProyecto(s);
-    const std::string nombre = s.NombreProyecto;
+    const std::string nombre = s.Proyecto.NombreProyecto;
     leoConf(s);
-    if (s.NombreProyecto != nombre) ReclamaProyecto(s);
+    if (s.Proyecto.NombreProyecto != nombre) ReclamaProyecto(s);
 }
 
 void AbreProyectoDe(Siro& s, std::string_view ruta)
@@ -316,21 +319,21 @@ void AbreProyectoDe(Siro& s, std::string_view ruta)
 bool TomaRutaProyecto(Siro& s, std::string_view ruta)
 {
     if (!ruta.ends_with(TerminacionConf)) {
-        s.ArchivoTemp.clear();
-        s.NombreProyecto.clear();
+        s.Proyecto.ArchivoTemp.clear();
+        s.Proyecto.NombreProyecto.clear();
         return false;
     }
-    s.ArchivoTemp = RutaLlana(ruta);
-    const std::string_view llana = s.ArchivoTemp;
+    s.Proyecto.ArchivoTemp = RutaLlana(ruta);
+    const std::string_view llana = s.Proyecto.ArchivoTemp;
     const std::string_view resto = llana.substr(0, llana.size() - TerminacionConf.size());
     const std::size_t ultimo = resto.rfind(Separador);
     if (ultimo == std::string_view::npos) {
-        s.NombreProyecto = resto;
+        s.Proyecto.NombreProyecto = resto;
         return true;
     }
-    s.DirProyecto = resto.substr(0, ultimo);
-    s.NombreProyecto = resto.substr(ultimo + 1);
-    s.DirProyectoConf = resto.substr(0, resto.find(Separador) + 1);
+    s.Proyecto.DirProyecto = resto.substr(0, ultimo);
+    s.Proyecto.NombreProyecto = resto.substr(ultimo + 1);
+    s.Proyecto.DirProyectoConf = resto.substr(0, resto.find(Separador) + 1);
     return true;
 }
 
@@ -338,17 +341,17 @@ void mnu_ultimoarchivo1(Siro& s)
 {
     if (!s.Anfitrion.ResguardaDibujo(Riesgo::OtroProyecto)) return;
     LimpiaProyecto(s);
-    RecuperaGuardado(s, s.DirProyecto);
+    RecuperaGuardado(s, s.Proyecto.DirProyecto);
     LeeConfReclamada(s);
     Sentencia([&] { carga_lbl_proyecto(s); }, [](const Falla&) {});
-    if (!s.NombreProyecto.empty()) s.Anfitrion.HabilitaGuardarComo();
+    if (!s.Proyecto.NombreProyecto.empty()) s.Anfitrion.HabilitaGuardarComo();
 }
 
 void mnuGuardarProyectoComo(Siro& s)
 {
-    if (s.NombreProyecto.empty()) return;
+    if (s.Proyecto.NombreProyecto.empty()) return;
     if (!s.Anfitrion.ResguardaDibujo(Riesgo::ReleeRed)) return;
-    const std::string viejo = s.NombreProyecto;  // the load takes the name from inside the file
+    const std::string viejo = s.Proyecto.NombreProyecto;  // the load takes the name from inside the file
     LeeUEHs(s);
     const std::string nuevo = PideNombre(s, TituloGuardarComo);
     if (nuevo.empty()) return;
@@ -372,8 +375,8 @@ void Tira(const Siro& s, const std::string& ruta)
 void dlgEliminarProyecto::Abre(const Siro& s)
 {
     *this = {};
-    DirProyecto = s.DirProyecto;
-    Sentencia([&] { filProyectoEliminar = s.Disco.Lista(s.DirProyecto); }, [](const Falla&) {});
+    DirProyecto = s.Proyecto.DirProyecto;
+    Sentencia([&] { filProyectoEliminar = s.Disco.Lista(s.Proyecto.DirProyecto); }, [](const Falla&) {});
     std::erase_if(filProyectoEliminar, [](const std::string& n) { return !n.ends_with(TerminacionConf); });
 }
 
@@ -385,20 +388,21 @@ void dlgEliminarProyecto::filProyectoEliminar_AlPulsar(std::string_view archivo)
 void dlgEliminarProyecto::OKButton(Siro& s)
 {
     // The name asked about is the current project's and not that of the file picked: kept as it stands.
-    const std::string texto = std::string(Eliminar1).append(s.NombreProyecto).append(Eliminar2);
+    const std::string texto = std::string(Eliminar1).append(s.Proyecto.NombreProyecto).append(Eliminar2);
     if (!s.Anfitrion.Pregunta({texto, std::string(TituloEliminar), Icono::Pregunta})) return;
     if (lblProyectoAEliminar.empty() || lblProyectoAEliminar == SinProyectoElegido) return;
     const std::string prefijo = lblProyectoAEliminar.substr(0, lblProyectoAEliminar.find('_'));
-    const bool elPresente = !s.NombreProyecto.empty() && ArchivoConf(s.NombreProyecto).starts_with(prefijo);
+    const bool elPresente =
+        !s.Proyecto.NombreProyecto.empty() && ArchivoConf(s.Proyecto.NombreProyecto).starts_with(prefijo);
     if (prefijo.empty()) return Advierte(s, std::string(SinNombre), TituloEliminar);
     if (elPresente && !s.Anfitrion.ResguardaDibujo(Riesgo::MueveProyecto)) return;
-    Entra(s, s.DirProyecto);
-    Tira(s, Ruta(s.DirProyecto, lblProyectoAEliminar));
+    Entra(s, s.Proyecto.DirProyecto);
+    Tira(s, Ruta(s.Proyecto.DirProyecto, lblProyectoAEliminar));
     constexpr std::string_view terminacion = ".vlm";
-    for (const std::string& nombre : s.Disco.Lista(s.DirProyecto)) {
+    for (const std::string& nombre : s.Disco.Lista(s.Proyecto.DirProyecto)) {
         const bool coincide = nombre.size() >= prefijo.size() + terminacion.size() &&
                               nombre.starts_with(prefijo) && nombre.ends_with(terminacion);
-        if (coincide) Tira(s, Ruta(s.DirProyecto, nombre));
+        if (coincide) Tira(s, Ruta(s.Proyecto.DirProyecto, nombre));
     }
     abierto = false;
 }

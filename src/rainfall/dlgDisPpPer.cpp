@@ -95,10 +95,10 @@ std::int16_t Maxima(const dlgDisPpPer& f)
 /// Room for n periods of any table.
 void Ensancha(Siro& s, int n)
 {
-    if (s.DisPerso.TopeColumna() < 0)
-        s.DisPerso.Dimensiona(NroTablas, n + 1);
-    else if (s.DisPerso.TopeColumna() < n + 1)
-        s.DisPerso.Redimensiona(n + 1);
+    if (s.TablasDeLluvia.DisPerso.TopeColumna() < 0)
+        s.TablasDeLluvia.DisPerso.Dimensiona(NroTablas, n + 1);
+    else if (s.TablasDeLluvia.DisPerso.TopeColumna() < n + 1)
+        s.TablasDeLluvia.DisPerso.Redimensiona(n + 1);
 }
 
 /// Time at the end of period j of n in percent of the duration, cut to two decimals.
@@ -133,7 +133,7 @@ void TomaCeldas(dlgDisPpPer& f, Siro& s, const forms::Efecto& efecto)
 {
     for (const forms::Celda c : efecto.asentadas)
         if (c.columna == ColumnaParcial)
-            s.DisPerso(f.Tabla(), c.fila) = model::Simple(f.MSFlexGridDisPerso.Numero(c));
+            s.TablasDeLluvia.DisPerso(f.Tabla(), c.fila) = model::Simple(f.MSFlexGridDisPerso.Numero(c));
     if (!efecto.asentadas.empty()) Suma(f);
 }
 
@@ -147,9 +147,12 @@ std::array<DistribucionesLeidas::Tabla, NroTablas> EnMemoria(const Siro& s)
 {
     std::array<DistribucionesLeidas::Tabla, NroTablas> tablas;
     for (std::size_t k = 1; k <= NroTablas; ++k) {
-        auto& tabla = tablas[k - 1] = {s.NotasDisPer[k], s.DurMinPer[k], s.DurMaxPer[k], {}};
-        for (int j = 1; j <= s.NroFilasTabla[k]; ++j)
-            tabla.partes.push_back(s.DisPerso(static_cast<int>(k), j));
+        auto& tabla = tablas[k - 1] = {s.TablasDeLluvia.NotasDisPer[k],
+                                       s.TablasDeLluvia.DurMinPer[k],
+                                       s.TablasDeLluvia.DurMaxPer[k],
+                                       {}};
+        for (int j = 1; j <= s.TablasDeLluvia.NroFilasTabla[k]; ++j)
+            tabla.partes.push_back(s.TablasDeLluvia.DisPerso(static_cast<int>(k), j));
     }
     return tablas;
 }
@@ -162,16 +165,16 @@ void RecuerdaTablas(dlgDisPpPer& f, const Siro& s)
 
 void MuestraTabla(dlgDisPpPer& f, Siro& s)
 {
-    const std::int16_t n = s.NroFilasTabla[Ranura(f)];
-    f.txtNotas = s.NotasDisPer[Ranura(f)];
+    const std::int16_t n = s.TablasDeLluvia.NroFilasTabla[Ranura(f)];
+    f.txtNotas = s.TablasDeLluvia.NotasDisPer[Ranura(f)];
     f.txtNroPer = Texto(n);
-    Elige(f.cmbDurMin, DuracionesMinimas, s.DurMinPer[Ranura(f)]);
-    Elige(f.cmbDurMax, DuracionesMaximas, s.DurMaxPer[Ranura(f)]);
+    Elige(f.cmbDurMin, DuracionesMinimas, s.TablasDeLluvia.DurMinPer[Ranura(f)]);
+    Elige(f.cmbDurMax, DuracionesMaximas, s.TablasDeLluvia.DurMaxPer[Ranura(f)]);
     f.MSFlexGridDisPerso = forms::NuevaGrilla(ReglasTabla);
     Ensancha(s, n);
     PonFilas(f, n);
     for (int j = 1; j <= n; ++j)
-        f.MSFlexGridDisPerso.Pon({j, ColumnaParcial}, NumeroATexto(s.DisPerso(f.Tabla(), j)));
+        f.MSFlexGridDisPerso.Pon({j, ColumnaParcial}, NumeroATexto(s.TablasDeLluvia.DisPerso(f.Tabla(), j)));
     Suma(f);
     f.leidas.filas = f.MSFlexGridDisPerso.filas;
 }
@@ -229,18 +232,18 @@ void cmbNroTablaDisPpPer_Click(dlgDisPpPer& f, dlgPp& pp, Siro& s)
 
 void txtNotas_Change(const dlgDisPpPer& f, Siro& s)
 {
-    s.NotasDisPer[Ranura(f)] = f.txtNotas;
+    s.TablasDeLluvia.NotasDisPer[Ranura(f)] = f.txtNotas;
 }
 
 void cmbDurMin_Click(const dlgDisPpPer& f, Siro& s)
 {
     if (Minima(f) > Maxima(f)) model::Advierte(s, std::string(MinimaMayor), {});
-    s.DurMinPer[Ranura(f)] = Minima(f);
+    s.TablasDeLluvia.DurMinPer[Ranura(f)] = Minima(f);
 }
 
 void cmbDurMax_Click(const dlgDisPpPer& f, Siro& s)
 {
-    s.DurMaxPer[Ranura(f)] = Maxima(f);
+    s.TablasDeLluvia.DurMaxPer[Ranura(f)] = Maxima(f);
 }
 
 bool cmbDurMax_AlSalir(dlgDisPpPer& f, const Siro& s)
@@ -257,7 +260,7 @@ bool txtNroPer_AlSalir(dlgDisPpPer& f, Siro& s)
     Evento(s, [&] {
         Asienta(f, s);
         const std::int16_t n = model::Entero16(model::Val(f.txtNroPer));
-        s.NroFilasTabla[Ranura(f)] = n;
+        s.TablasDeLluvia.NroFilasTabla[Ranura(f)] = n;
         Ensancha(s, n);
         PonFilas(f, n);
         Suma(f);
@@ -274,10 +277,10 @@ void cmdBorraTablaDisPer(dlgDisPpPer& f, Siro& s)
 {
     Evento(s, [&] {
         const std::size_t k = Ranura(f);
-        s.NroFilasTabla[k] = 0;
-        s.NotasDisPer[k].clear();
-        s.DurMinPer[k] = DurMinVacia;
-        s.DurMaxPer[k] = DurMaxVacia;
+        s.TablasDeLluvia.NroFilasTabla[k] = 0;
+        s.TablasDeLluvia.NotasDisPer[k].clear();
+        s.TablasDeLluvia.DurMinPer[k] = DurMinVacia;
+        s.TablasDeLluvia.DurMaxPer[k] = DurMaxVacia;
         MuestraTabla(f, s);
         f.cmbDurMin.indice = 0;
         f.cmbDurMax.indice = static_cast<int>(DuracionesMaximas.size()) - 1;
@@ -305,7 +308,8 @@ void CancelButton(dlgDisPpPer& f)
 bool SinAplicar(const dlgDisPpPer& f, const Siro& s)
 {
     return f.abierta && (f.MSFlexGridDisPerso.filas != f.leidas.filas ||
-                         f.txtNroPer != Texto(s.NroFilasTabla[Ranura(f)]) || f.leidas.tablas != EnMemoria(s));
+                         f.txtNroPer != Texto(s.TablasDeLluvia.NroFilasTabla[Ranura(f)]) ||
+                         f.leidas.tablas != EnMemoria(s));
 }
 
 forms::Grafico Vista(const dlgDisPpPer& f)

@@ -136,7 +136,7 @@ bool PersonalMarcada(const dlgPp& f)
 void TomaDistribucion(const dlgPp& f, Siro& s)
 {
     const std::size_t i = Marcada(f.optDistriPp);
-    if (i < f.optDistriPp.size()) s.DistriPp = static_cast<std::int16_t>(i);
+    if (i < f.optDistriPp.size()) s.Tormenta.DistriPp = static_cast<std::int16_t>(i);
 }
 
 // --- texts ---
@@ -153,14 +153,14 @@ std::string EnCampo(std::string_view texto)
 
 void MuestraTormenta(dlgPp& f, const Siro& s)
 {
-    f.txtPp = f.mostrados.txtPp = EnCampo(NumeroATexto(s.PpTormenta));
-    f.txtDur = f.mostrados.txtDur = Texto(s.DurTormenta);
+    f.txtPp = f.mostrados.txtPp = EnCampo(NumeroATexto(s.Tormenta.PpTormenta));
+    f.txtDur = f.mostrados.txtDur = Texto(s.Tormenta.DurTormenta);
 }
 
 void MuestraConRecurrencia(dlgPp& f, const Siro& s)
 {
     MuestraTormenta(f, s);
-    f.cmbRec.texto = f.mostrados.cmbRec = Texto(s.RecTormenta);
+    f.cmbRec.texto = f.mostrados.cmbRec = Texto(s.Tormenta.RecTormenta);
 }
 
 void RecuerdaCampos(dlgPp& f)
@@ -195,11 +195,11 @@ void LeeTormenta(dlgPp& f, Siro& s)
     model::LeePpReal(s, f.tormenta);
     const bool conPaso = f.tormenta.PasoPpReal != SinLeer;
     if (!conPaso) f.tormenta.PasoPpReal = paso;
-    f.lblNumPer = Texto(s.NroPpReal);
+    f.lblNumPer = Texto(s.Tormenta.NroPpReal);
     f.lblMiFilePpReal = model::EtiquetaTormenta(s, f.tormenta.nombre);
     MuestraTormenta(f, s);
-    if (conPaso) s.PasoPp = f.tormenta.PasoPpReal;
-    f.cmbPasoPp.texto = Texto(s.PasoPp);
+    if (conPaso) s.Pasos.PasoPp = f.tormenta.PasoPpReal;
+    f.cmbPasoPp.texto = Texto(s.Pasos.PasoPp);
 }
 
 // --- besides the table, per form ---
@@ -232,10 +232,10 @@ void MuestraValidez(dlgPp& f, const Siro& s)
     if (MarcadaOCero(f.optformaPp) != 0 || !PersonalMarcada(f)) return;
     const std::size_t k = Marcada(f.optDistriPp) - (PrimeraPersonal - 1);
     f.Estado(Control::lblValidez).visible = true;
-    f.Estado(Control::lblDurMin).visible = s.DurMinPer[k] > 0;
-    f.Estado(Control::lblDurMax).visible = s.DurMaxPer[k] > 0;
-    f.lblDurMin = Texto(s.DurMinPer[k]);
-    f.lblDurMax = Texto(s.DurMaxPer[k]);
+    f.Estado(Control::lblDurMin).visible = s.TablasDeLluvia.DurMinPer[k] > 0;
+    f.Estado(Control::lblDurMax).visible = s.TablasDeLluvia.DurMaxPer[k] > 0;
+    f.lblDurMin = Texto(s.TablasDeLluvia.DurMinPer[k]);
+    f.lblDurMax = Texto(s.TablasDeLluvia.DurMaxPer[k]);
 }
 
 void TomaTormentas(dlgPp& f, const std::vector<std::string>& archivos)
@@ -250,7 +250,7 @@ void TomaTormentas(dlgPp& f, const std::vector<std::string>& archivos)
 void EstadoFormaPp(dlgPp& f, Siro& s)
 {
     const std::size_t forma = MarcadaOCero(f.optformaPp);
-    s.FormaPp = static_cast<std::int16_t>(forma);
+    s.Tormenta.FormaPp = static_cast<std::int16_t>(forma);
     Pon(f, DesdeElComienzo, &EstadoControl::habilitado, false);
     f.Estado(Control::optDistriPp).habilitado = forma < FormaPorUEH;
     TomaDistribucion(f, s);
@@ -276,10 +276,11 @@ namespace {
 
 void LlenaListas(dlgPp& f, const Siro& s)
 {
-    const std::size_t nroRec = std::min(static_cast<std::size_t>(std::max<std::int16_t>(s.NroRec, 0)),
-                                        s.ListaRec.empty() ? 0 : s.ListaRec.size() - 1);
+    const std::size_t nroRec =
+        std::min(static_cast<std::size_t>(std::max<std::int16_t>(s.Configuracion.NroRec, 0)),
+                 s.Configuracion.ListaRec.empty() ? 0 : s.Configuracion.ListaRec.size() - 1);
     for (std::size_t i = 1; i <= nroRec; ++i)
-        f.cmbRec.items.push_back(Texto(s.ListaRec[i]));
+        f.cmbRec.items.push_back(Texto(s.Configuracion.ListaRec[i]));
     for (const std::int16_t paso : PasosDeTiempo)
         f.cmbPasoPp.items.push_back(Texto(paso));
     f.cmbPasoQ.items = f.cmbPasoPp.items;
@@ -292,10 +293,10 @@ std::string PasoMostrado(std::int16_t paso)
 
 void TomaPasos(dlgPp& f, Siro& s)
 {
-    f.cmbPasoPp.texto = PasoMostrado(s.PasoPp);
-    f.cmbPasoQ.texto = PasoMostrado(s.PasoQ);
-    s.PasoPp = Entero16(Val(f.cmbPasoPp.texto));
-    s.PasoQ = std::min(Entero16(Val(f.cmbPasoQ.texto)), s.PasoPp);
+    f.cmbPasoPp.texto = PasoMostrado(s.Pasos.PasoPp);
+    f.cmbPasoQ.texto = PasoMostrado(s.Pasos.PasoQ);
+    s.Pasos.PasoPp = Entero16(Val(f.cmbPasoPp.texto));
+    s.Pasos.PasoQ = std::min(Entero16(Val(f.cmbPasoQ.texto)), s.Pasos.PasoPp);
 }
 
 }  // namespace
@@ -309,14 +310,14 @@ void Abre(dlgPp& f, Siro& s)
     // Shown with a personal distribution only.
     Pon(f, Validez, &EstadoControl::visible, false);
     LlenaListas(f, s);
-    f.cmbRec.texto = Texto(s.RecTormenta);
+    f.cmbRec.texto = Texto(s.Tormenta.RecTormenta);
     TomaPasos(f, s);
     MuestraTormenta(f, s);
-    if (s.PpTormenta == 0) f.txtPp = PorDefecto;
-    if (s.DurTormenta == 0) f.txtDur = PorDefecto;
-    Marca(f.optformaPp, static_cast<std::size_t>(s.FormaPp));
-    Marca(f.optDistriPp, static_cast<std::size_t>(s.DistriPp));
-    Marca(f.optTablaPDR, static_cast<std::size_t>(s.TablaPDR));
+    if (s.Tormenta.PpTormenta == 0) f.txtPp = PorDefecto;
+    if (s.Tormenta.DurTormenta == 0) f.txtDur = PorDefecto;
+    Marca(f.optformaPp, static_cast<std::size_t>(s.Tormenta.FormaPp));
+    Marca(f.optDistriPp, static_cast<std::size_t>(s.Tormenta.DistriPp));
+    Marca(f.optTablaPDR, static_cast<std::size_t>(s.Tormenta.TablaPDR));
     RecuerdaCampos(f);
     if (MarcadaOCero(f.optformaPp) == 0) LeeLista(f, s);  // form 1 reads it with its state
     Evento(s, [&] { EstadoFormaPp(f, s); });
@@ -343,7 +344,7 @@ void optformaPp_Click(dlgPp& f, Siro& s, std::size_t i)
 {
     const bool dejaLaReal = f.optformaPp[FormaReal] && i != FormaReal;
     Marca(f.optformaPp, i);
-    if (dejaLaReal && s.DistriPp > static_cast<std::int16_t>(PrimeraPersonal))
+    if (dejaLaReal && s.Tormenta.DistriPp > static_cast<std::int16_t>(PrimeraPersonal))
         Advierte(s, std::string(VerifiqueDistribucion), TituloAtencion);
     Evento(s, [&] { EstadoFormaPp(f, s); });
 }
@@ -416,12 +417,12 @@ bool AlSalir(dlgPp& f, const Siro& s, const CampoPp& campo, Toma&& toma)
 
 bool txtPp_AlSalir(dlgPp& f, Siro& s)
 {
-    return AlSalir(f, s, CamposPp[0], [&](double x) { s.PpTormenta = Simple(x); });
+    return AlSalir(f, s, CamposPp[0], [&](double x) { s.Tormenta.PpTormenta = Simple(x); });
 }
 
 bool txtDur_AlSalir(dlgPp& f, Siro& s)
 {
-    return AlSalir(f, s, CamposPp[1], [&](double x) { s.DurTormenta = Entero16(x); });
+    return AlSalir(f, s, CamposPp[1], [&](double x) { s.Tormenta.DurTormenta = Entero16(x); });
 }
 
 bool cmbPasoPp_AlSalir(dlgPp& f, const Siro& s)
@@ -449,7 +450,7 @@ bool cmbPasoQ_AlSalir(dlgPp& f, Siro& s)
     if (noCabe) {
         Advierte(s, std::string(PasoQNoCabe), TituloPasoQ);
         f.cmbPasoQ.texto = f.cmbPasoPp.texto;
-        s.PasoQ = s.PasoPp;
+        s.Pasos.PasoQ = s.Pasos.PasoPp;
     }
     return Suelta(f);
 }
@@ -460,35 +461,35 @@ namespace {
 
 void TomaSerie(dlgPp& f, Siro& s)
 {
-    s.TablaPDR = static_cast<std::int16_t>(MarcadaOCero(f.optTablaPDR));
+    s.Tormenta.TablaPDR = static_cast<std::int16_t>(MarcadaOCero(f.optTablaPDR));
     model::LeeTablaPDRs(s);
-    if (s.NroSeriePDR <= 0) return;
-    f.txtPp = EnCampo(NumeroATexto(s.SerieP(1)));
-    f.txtDur = Texto(s.SerieD(1));
-    f.cmbRec.texto = Texto(s.SerieR(1));
+    if (s.Serie.NroSeriePDR <= 0) return;
+    f.txtPp = EnCampo(NumeroATexto(s.Serie.SerieP(1)));
+    f.txtDur = Texto(s.Serie.SerieD(1));
+    f.cmbRec.texto = Texto(s.Serie.SerieR(1));
 }
 
 /// A step may not outlast the storm, and none is 0. The two steps aren't compared here.
 void CorrigePasos(dlgPp& f, const Siro& s)
 {
-    if (Val(f.cmbPasoPp.texto) > s.DurTormenta) f.cmbPasoPp.texto = Texto(s.DurTormenta);
+    if (Val(f.cmbPasoPp.texto) > s.Tormenta.DurTormenta) f.cmbPasoPp.texto = Texto(s.Tormenta.DurTormenta);
     for (ListaConTexto* lista : {&f.cmbPasoPp, &f.cmbPasoQ})
         if (Val(lista->texto) == 0 && !lista->items.empty()) lista->texto = lista->items.front();
 }
 
 bool HayTormenta(const Siro& s)
 {
-    return s.PpTormenta != 0 && s.DurTormenta != 0;
+    return s.Tormenta.PpTormenta != 0 && s.Tormenta.DurTormenta != 0;
 }
 
 void Aplica(dlgPp& f, Siro& s)
 {
     const std::size_t forma = MarcadaOCero(f.optformaPp);
-    s.FormaPp = static_cast<std::int16_t>(forma);
+    s.Tormenta.FormaPp = static_cast<std::int16_t>(forma);
     if (forma == FormaSerie) TomaSerie(f, s);
-    s.PpTormenta = Simple(Val(f.txtPp));
-    s.DurTormenta = Entero16(Val(f.txtDur));
-    s.RecTormenta = Entero16(Val(f.cmbRec.texto));
+    s.Tormenta.PpTormenta = Simple(Val(f.txtPp));
+    s.Tormenta.DurTormenta = Entero16(Val(f.txtDur));
+    s.Tormenta.RecTormenta = Entero16(Val(f.cmbRec.texto));
     if (!HayTormenta(s)) {
         Advierte(s, std::string(SinTormenta));
         f.abierta = false;
@@ -497,8 +498,8 @@ void Aplica(dlgPp& f, Siro& s)
     Pon(f, Validez, &EstadoControl::visible, false);
     TomaDistribucion(f, s);
     CorrigePasos(f, s);
-    s.PasoPp = Entero16(Val(f.cmbPasoPp.texto));
-    s.PasoQ = Entero16(Val(f.cmbPasoQ.texto));
+    s.Pasos.PasoPp = Entero16(Val(f.cmbPasoPp.texto));
+    s.Pasos.PasoQ = Entero16(Val(f.cmbPasoQ.texto));
     RecuerdaCampos(f);
 }
 
@@ -532,12 +533,13 @@ void ListaTormenta(const Siro& s)
 {
     s.Anfitrion.AbrePizarra();
     AgregaRenglon(s, "Entrada: PRECIPITACION");
-    AgregaRenglon(s, "Pp Total= " + NumeroATexto(s.PpTormenta) + " [mm]");
-    AgregaRenglon(s, "Duración= " + Texto(s.DurTormenta) + " [min]");
-    if (s.RecTormenta != 0) AgregaRenglon(s, "Recurrencia= " + Texto(s.RecTormenta) + " [años]");
-    AgregaRenglon(s, "paso Pp= " + Texto(s.PasoPp) + " [min]");
-    AgregaRenglon(s, "paso Q = " + Texto(s.PasoQ) + " [min]");
-    AgregaRenglon(s, "Distribución Pp(t)= " + Texto(s.DistriPp) + " [índice]");
+    AgregaRenglon(s, "Pp Total= " + NumeroATexto(s.Tormenta.PpTormenta) + " [mm]");
+    AgregaRenglon(s, "Duración= " + Texto(s.Tormenta.DurTormenta) + " [min]");
+    if (s.Tormenta.RecTormenta != 0)
+        AgregaRenglon(s, "Recurrencia= " + Texto(s.Tormenta.RecTormenta) + " [años]");
+    AgregaRenglon(s, "paso Pp= " + Texto(s.Pasos.PasoPp) + " [min]");
+    AgregaRenglon(s, "paso Q = " + Texto(s.Pasos.PasoQ) + " [min]");
+    AgregaRenglon(s, "Distribución Pp(t)= " + Texto(s.Tormenta.DistriPp) + " [índice]");
 }
 
 /// A column of each block under each piece of the heading, the blank ahead of a piece being its own.
@@ -547,11 +549,11 @@ void ListaBloques(const Siro& s)
     constexpr std::size_t AnchoPp = 6;     // "Pp[mm]"
     constexpr std::size_t AnchoAcum = 10;  // "PpAcum[mm]"
     AgregaRenglon(s, "Per. Pp[mm] PpAcum[mm] Int.Pp[mm/min]");
-    for (int j = 1; j <= s.NroPpReal; ++j)
+    for (int j = 1; j <= s.Tormenta.NroPpReal; ++j)
         AgregaRenglon(s, model::AjustaIzquierda(NumeroATexto(j), AnchoPer) + ' ' +
-                             model::AjustaIzquierda(NumeroATexto(s.PpReal(j)), AnchoPp) + ' ' +
-                             model::AjustaIzquierda(NumeroATexto(s.PpAcum(j)), AnchoAcum) + ' ' +
-                             NumeroATexto(s.IntensidadPp(j)));
+                             model::AjustaIzquierda(NumeroATexto(s.Tormenta.PpReal(j)), AnchoPp) + ' ' +
+                             model::AjustaIzquierda(NumeroATexto(s.Hietograma.PpAcum(j)), AnchoAcum) + ' ' +
+                             NumeroATexto(s.Hietograma.IntensidadPp(j)));
 }
 
 }  // namespace
@@ -570,12 +572,12 @@ bool SinAplicar(const dlgPp& f, const Siro& s)
 {
     if (!f.abierta) return false;
     const auto tabla = static_cast<std::int16_t>(MarcadaOCero(f.optTablaPDR));
-    return Otro(f.txtPp, f.mostrados.txtPp, s.PpTormenta, Simple) ||
-           Otro(f.txtDur, f.mostrados.txtDur, s.DurTormenta, Entero16) ||
-           Otro(f.cmbRec.texto, f.mostrados.cmbRec, s.RecTormenta, Entero16) ||
-           Otro(f.cmbPasoPp.texto, f.mostrados.cmbPasoPp, s.PasoPp, Entero16) ||
-           Otro(f.cmbPasoQ.texto, f.mostrados.cmbPasoQ, s.PasoQ, Entero16) ||
-           (f.optformaPp[FormaSerie] && tabla != s.TablaPDR);
+    return Otro(f.txtPp, f.mostrados.txtPp, s.Tormenta.PpTormenta, Simple) ||
+           Otro(f.txtDur, f.mostrados.txtDur, s.Tormenta.DurTormenta, Entero16) ||
+           Otro(f.cmbRec.texto, f.mostrados.cmbRec, s.Tormenta.RecTormenta, Entero16) ||
+           Otro(f.cmbPasoPp.texto, f.mostrados.cmbPasoPp, s.Pasos.PasoPp, Entero16) ||
+           Otro(f.cmbPasoQ.texto, f.mostrados.cmbPasoQ, s.Pasos.PasoQ, Entero16) ||
+           (f.optformaPp[FormaSerie] && tabla != s.Tormenta.TablaPDR);
 }
 
 void CancelButton(dlgPp& f)
@@ -603,21 +605,23 @@ std::optional<PedidoHietograma> cmdVerGrafico(dlgPp& f, Siro& s)
 {
     if (!AplicaYHayTormenta(f, s)) return {};
     engine::ConstruyeHietograma(s);
-    if (s.NroPpReal == 0) return {};
-    return PedidoHietograma{s.NroPpReal, s.PasoPp, TituloDeTormenta(f, s), s.PpTormenta, s.DurTormenta};
+    if (s.Tormenta.NroPpReal == 0) return {};
+    return PedidoHietograma{s.Tormenta.NroPpReal, s.Pasos.PasoPp, TituloDeTormenta(f, s),
+                            s.Tormenta.PpTormenta, s.Tormenta.DurTormenta};
 }
 
 void cmdVerTablaPt(dlgPp& f, Siro& s)
 {
     if (!AplicaYHayTormenta(f, s)) return;
-    if (s.SalidaPizarra) ListaTormenta(s);
+    if (s.Control.SalidaPizarra) ListaTormenta(s);
     engine::ConstruyeHietograma(s);
-    if (s.NroPpReal != 0 && s.SalidaPizarra) Evento(s, [&] { ListaBloques(s); });
+    if (s.Tormenta.NroPpReal != 0 && s.Control.SalidaPizarra) Evento(s, [&] { ListaBloques(s); });
 }
 
 std::string TituloDeTormenta(const dlgPp& f, const Siro& s)
 {
-    return s.FormaPp == static_cast<std::int16_t>(FormaReal) ? f.tormenta.Notas : s.TituloProyecto;
+    return s.Tormenta.FormaPp == static_cast<std::int16_t>(FormaReal) ? f.tormenta.Notas
+                                                                      : s.Configuracion.TituloProyecto;
 }
 
 }  // namespace rainfall

@@ -89,18 +89,18 @@ bool Escritura(const dlgPpReal& f, const Siro& s, Cuerpo&& cuerpo)
 /// raised again brings the old depths back.
 void Ensancha(Siro& s, std::int16_t n)
 {
-    if (s.PpReal.Tope() < n + 1) s.PpReal.Redimensiona(n + 1);
+    if (s.Tormenta.PpReal.Tope() < n + 1) s.Tormenta.PpReal.Redimensiona(n + 1);
 }
 
 void Suma(dlgPpReal& f, Siro& s)
 {
     float suma = 0;
-    for (int j = 1; j <= s.NroPpReal; ++j) {
-        suma = model::Simple(double{suma} + double{s.PpReal(j)});
+    for (int j = 1; j <= s.Tormenta.NroPpReal; ++j) {
+        suma = model::Simple(double{suma} + double{s.Tormenta.PpReal(j)});
         f.MSFlexGridTablaPpReal.Pon({j, ColumnaAcumulada}, NumeroATexto(suma));
     }
-    s.PpTormenta = suma;
-    s.DurTormenta = model::Producto16(s.NroPpReal, f.tormenta.PasoPpReal);
+    s.Tormenta.PpTormenta = suma;
+    s.Tormenta.DurTormenta = model::Producto16(s.Tormenta.NroPpReal, f.tormenta.PasoPpReal);
 }
 
 /// Start of the storm; nothing where its file tells no date.
@@ -115,17 +115,17 @@ void Redibuja(dlgPpReal& f, Siro& s)
 {
     forms::Grilla& g = f.MSFlexGridTablaPpReal;
     forms::PonEditable(g, ColumnaParcial, !f.Protegida);
-    forms::PonNroFilas(g, s.NroPpReal);
-    Ensancha(s, s.NroPpReal);
+    forms::PonNroFilas(g, s.Tormenta.NroPpReal);
+    Ensancha(s, s.Tormenta.NroPpReal);
     const auto comienzo = Comienzo(f);
-    for (int j = 1; j <= s.NroPpReal; ++j) {
+    for (int j = 1; j <= s.Tormenta.NroPpReal; ++j) {
         const std::int32_t minutos = j * std::int32_t{f.tormenta.PasoPpReal};
         g.Pon({j, 0}, NumeroATexto(j));
         g.Pon({j, ColumnaFecha}, comienzo
                                      ? TextoFecha(*comienzo + minutos) + ' ' + TextoHora(*comienzo + minutos)
                                      : std::string{});
         g.Pon({j, ColumnaMinutos}, NumeroATexto(minutos));
-        g.Pon({j, ColumnaParcial}, NumeroATexto(s.PpReal(j)));
+        g.Pon({j, ColumnaParcial}, NumeroATexto(s.Tormenta.PpReal(j)));
     }
     g.agrega = g.editada = false;
     Suma(f, s);
@@ -134,7 +134,8 @@ void Redibuja(dlgPpReal& f, Siro& s)
 void TomaCeldas(dlgPpReal& f, Siro& s, const forms::Efecto& efecto)
 {
     for (const forms::Celda c : efecto.asentadas)
-        if (c.columna == ColumnaParcial) s.PpReal(c.fila) = model::Simple(f.MSFlexGridTablaPpReal.Numero(c));
+        if (c.columna == ColumnaParcial)
+            s.Tormenta.PpReal(c.fila) = model::Simple(f.MSFlexGridTablaPpReal.Numero(c));
     if (!efecto.asentadas.empty()) Suma(f, s);
 }
 
@@ -154,9 +155,11 @@ void Asienta(dlgPpReal& f, Siro& s)
 void LlenaPasos(dlgPpReal& f, const Siro& s)
 {
     f.cmbPasot.items.clear();
-    const std::size_t n = s.ListaDur.empty() ? 0 : std::min(s.ListaDur.size() - 1, MaxPasosTormenta);
+    const std::size_t n = s.Configuracion.ListaDur.empty()
+                              ? 0
+                              : std::min(s.Configuracion.ListaDur.size() - 1, MaxPasosTormenta);
     for (std::size_t i = 1; i <= n; ++i)
-        f.cmbPasot.items.push_back(Texto(s.ListaDur[i]));
+        f.cmbPasot.items.push_back(Texto(s.Configuracion.ListaDur[i]));
 }
 
 void EligeSegundoPaso(dlgPpReal& f)
@@ -176,14 +179,14 @@ void PonSinFechas(dlgPpReal& f, std::string_view fecha)
 void PonNro(dlgPpReal& f, Siro& s, std::int16_t n)
 {
     Ensancha(s, n);
-    s.NroPpReal = n;
+    s.Tormenta.NroPpReal = n;
     f.txtNroPpReal = Texto(n);
 }
 
 void CalculaFinal(dlgPpReal& f, const Siro& s)
 {
     const Instante fin = InstanteDeTextos(f.tormenta.txtDateI, f.tormenta.txtTimeI) +
-                         Instante{s.NroPpReal} * f.tormenta.PasoPpReal;
+                         Instante{s.Tormenta.NroPpReal} * f.tormenta.PasoPpReal;
     f.tormenta.txtDateF = TextoFecha(fin);
     f.tormenta.txtTimeF = TextoHora(fin);
 }
@@ -230,10 +233,10 @@ void PonNombre(dlgPpReal& f, const Siro& s, std::string nombre)
 void Lee(dlgPpReal& f, Siro& s)
 {
     // Where there is no storm to be read, what the last hyetograph has left isn't one either.
-    s.PpReal.Dimensiona(0);
+    s.Tormenta.PpReal.Dimensiona(0);
     model::LeePpReal(s, f.tormenta);
     f.cmbPasot.texto = Texto(f.tormenta.PasoPpReal);
-    f.txtNroPpReal = Texto(s.NroPpReal);
+    f.txtNroPpReal = Texto(s.Tormenta.NroPpReal);
     Redibuja(f, s);
     f.leida = EnLaForma(f);
 }
@@ -247,7 +250,7 @@ void AbreForma(dlgPpReal& f, const dlgPp& pp, Siro& s)
     LlenaPasos(f, s);
     EligeSegundoPaso(f);
     PonSinFechas(f, SinFecha);
-    s.NroPpReal = 0;
+    s.Tormenta.NroPpReal = 0;
     optNroPpReal_Click(f, OpcionFijaNro);
     Lee(f, s);
 }
@@ -282,7 +285,7 @@ void Abre(dlgPpReal& f, const dlgPp& pp, Siro& s)
 void AlActivarse(dlgPpReal& f, dlgPp& pp, Siro& s)
 {
     if (!pp.optformaPp[FormaReal]) optformaPp_Click(pp, s, FormaReal);
-    s.FormaPp = static_cast<std::int16_t>(FormaReal);
+    s.Tormenta.FormaPp = static_cast<std::int16_t>(FormaReal);
     const auto& items = f.FilePpReal.items;
     const auto lugar = std::find(items.begin(), items.end(), pp.lblMiFilePpReal);
     if (lugar != items.end()) f.FilePpReal.indice = static_cast<int>(lugar - items.begin());
@@ -301,8 +304,8 @@ void FilePpReal_Click(dlgPpReal& f, Siro& s)
 void cmdNuevaPpReal(dlgPpReal& f, Siro& s)
 {
     const dlgPpReal forma = f;
-    const auto laminas = s.PpReal;
-    const std::int16_t n = s.NroPpReal;
+    const auto laminas = s.Tormenta.PpReal;
+    const std::int16_t n = s.Tormenta.NroPpReal;
     const bool hecha = Escritura(f, s, [&] {
         const std::string respuesta = s.Anfitrion.PideTexto(
             {std::string(PideNombre), std::string(TituloNombre), model::NombreTormentaNueva(s)});
@@ -319,8 +322,8 @@ void cmdNuevaPpReal(dlgPpReal& f, Siro& s)
     });
     if (hecha) return;
     f = forma;
-    s.PpReal = laminas;
-    s.NroPpReal = n;
+    s.Tormenta.PpReal = laminas;
+    s.Tormenta.NroPpReal = n;
 }
 
 // --- fields ---
@@ -452,7 +455,8 @@ void AlAsentar(dlgPpReal& f, Siro& s, const forms::Efecto& efecto)
 PedidoHietograma cmdVerGrafico(dlgPpReal& f, Siro& s)
 {
     Evento(s, [&] { Asienta(f, s); });
-    return {s.NroPpReal, f.tormenta.PasoPpReal, f.tormenta.Notas, s.PpTormenta, s.DurTormenta};
+    return {s.Tormenta.NroPpReal, f.tormenta.PasoPpReal, f.tormenta.Notas, s.Tormenta.PpTormenta,
+            s.Tormenta.DurTormenta};
 }
 
 void cmdBorraTablaDisPer(dlgPpReal& f, const dlgPp& pp, Siro& s)
@@ -467,7 +471,7 @@ void cmdBorraTablaDisPer(dlgPpReal& f, const dlgPp& pp, Siro& s)
             {std::string(PreguntaBorrar1).append(f.tormenta.nombre).append(PreguntaBorrar2),
              std::string(TituloBorrar), model::Icono::Pregunta});
         if (borra) {
-            s.Disco.Borra(model::Ruta(s.DirProyecto, f.tormenta.nombre));
+            s.Disco.Borra(model::Ruta(s.Proyecto.DirProyecto, f.tormenta.nombre));
             AbreForma(f, pp, s);
         }
         // After a deletion this writes the storm that the opening came to.
@@ -513,7 +517,7 @@ void TomaImportada(dlgPpReal& f, Siro& s, const TormentaImportada& importada)
         f.tormenta.txtTimeI = TextoHora(importada.comienzo);
         PonNro(f, s, n);
         for (int j = 1; j <= n; ++j)
-            s.PpReal(j) = importada.laminas[static_cast<std::size_t>(j) - 1];
+            s.Tormenta.PpReal(j) = importada.laminas[static_cast<std::size_t>(j) - 1];
         CalculaFinal(f, s);
         Redibuja(f, s);
     });

@@ -56,15 +56,15 @@ bool AlSalirCorto(dlgTablaPpUEHs& f, const Siro& s, const forms::ReglaNumero& re
 void LlenaTabla(dlgTablaPpUEHs& f, Siro& s)
 {
     forms::Grilla& g = f.MSFlexGridPpUEHs;
-    const int n = s.ColUEHs.Cuenta();
+    const int n = s.Red.ColUEHs.Cuenta();
     forms::PonNroFilas(g, n);
     for (int j = 1; j <= n; ++j) {
-        const auto ueh = std::find_if(s.ColUEHs.begin(), s.ColUEHs.end(),
+        const auto ueh = std::find_if(s.Red.ColUEHs.begin(), s.Red.ColUEHs.end(),
                                       [&](const model::UEH& u) { return u.numUEH == j; });
-        if (ueh == s.ColUEHs.end()) continue;
+        if (ueh == s.Red.ColUEHs.end()) continue;
         g.Pon({j, 0}, NumeroATexto(std::int32_t{ueh->numUEH}));
         g.Pon({j, ColumnaNombre}, ueh->NombreUEH);
-        g.Pon({j, ColumnaP}, NumeroATexto(s.PpUEH(ueh->numUEH)));
+        g.Pon({j, ColumnaP}, NumeroATexto(s.Tormenta.PpUEH(ueh->numUEH)));
     }
 }
 
@@ -86,15 +86,15 @@ void LlevaTormenta(const dlgTablaPpUEHs& f, dlgPp& pp, Siro& s)
 {
     pp.txtDur = f.txtDPpUEHs;
     pp.Estado(Control::txtDur).habilitado = false;
-    for (s.IndUEH = 1; s.IndUEH <= s.NroUEHs; ++s.IndUEH) {
-        if (!(s.PpUEH(s.IndUEH) > 0)) continue;
-        s.PpTormenta = s.PpUEH(s.IndUEH);
-        pp.txtPp = NumeroATexto(s.PpTormenta);
+    for (s.Control.IndUEH = 1; s.Control.IndUEH <= s.Red.NroUEHs; ++s.Control.IndUEH) {
+        if (!(s.Tormenta.PpUEH(s.Control.IndUEH) > 0)) continue;
+        s.Tormenta.PpTormenta = s.Tormenta.PpUEH(s.Control.IndUEH);
+        pp.txtPp = NumeroATexto(s.Tormenta.PpTormenta);
         pp.Estado(Control::txtPp).habilitado = false;
         break;
     }
-    s.DurTormenta = model::Entero16(model::Val(f.txtDPpUEHs));
-    s.RecTormenta = model::Entero16(model::Val(f.txtRPpUEHs));
+    s.Tormenta.DurTormenta = model::Entero16(model::Val(f.txtDPpUEHs));
+    s.Tormenta.RecTormenta = model::Entero16(model::Val(f.txtRPpUEHs));
     pp.cmbRec.texto = f.txtRPpUEHs;
 }
 
@@ -114,7 +114,7 @@ void Aplica(dlgTablaPpUEHs& f, dlgPp& pp, Siro& s)
     if (model::Val(f.txtRPpUEHs) == 0) model::Advierte(s, std::string(SinRecurrencia), {});
     if (!Numerica(f)) return;
     for (int j = 1; j <= f.MSFlexGridPpUEHs.NroFilas(); ++j)
-        s.PpUEH(j) = model::Simple(f.MSFlexGridPpUEHs.Numero({j, ColumnaP}));
+        s.Tormenta.PpUEH(j) = model::Simple(f.MSFlexGridPpUEHs.Numero({j, ColumnaP}));
     LlevaTormenta(f, pp, s);
     f.aplicadas = EnLaForma(f);
 }
@@ -129,7 +129,7 @@ void Abre(dlgTablaPpUEHs& f, Siro& s)
         f.foco = {};
         f.MSFlexGridPpUEHs = forms::NuevaGrilla(ReglasTabla);
         model::LeeUEHs(s);
-        if (s.ColUEHs.Cuenta() == 0) model::Advierte(s, std::string(NoHayUEHs), {});
+        if (s.Red.ColUEHs.Cuenta() == 0) model::Advierte(s, std::string(NoHayUEHs), {});
         LlenaTabla(f, s);
         f.aplicadas = EnLaForma(f);
     });
@@ -147,7 +147,7 @@ bool txtRPpUEHs_AlSalir(dlgTablaPpUEHs& f, const Siro& s)
 
 void cmdBorraTablaHQ(dlgTablaPpUEHs& f, const Siro& s)
 {
-    forms::PonNroFilas(f.MSFlexGridPpUEHs, s.ColUEHs.Cuenta());
+    forms::PonNroFilas(f.MSFlexGridPpUEHs, s.Red.ColUEHs.Cuenta());
     forms::VaciaDatos(f.MSFlexGridPpUEHs);
 }
 

@@ -58,7 +58,7 @@ std::size_t Ranura(const dlgTablasPDRs& f)
 /// Room for n storms of any table.
 void Ensancha(Siro& s, int n)
 {
-    for (auto* tabla : {&s.TablasP, &s.TablasD, &s.TablasR}) {
+    for (auto* tabla : {&s.TablasDeLluvia.TablasP, &s.TablasDeLluvia.TablasD, &s.TablasDeLluvia.TablasR}) {
         if (tabla->TopeColumna() < 0)
             tabla->Dimensiona(UltimaFilaTablas, n + 1);
         else if (tabla->TopeColumna() < n + 1)
@@ -77,10 +77,12 @@ auto EnMemoria(const Siro& s)
 {
     decltype(TablasPDRLeidas::tablas) tablas;
     for (std::size_t k = 0; k < tablas.size(); ++k) {
-        tablas[k].notas = s.NotasPDR[k];
+        tablas[k].notas = s.TablasDeLluvia.NotasPDR[k];
         const int fila = static_cast<int>(k);
-        for (int j = 1; j <= s.NroFilasTabla[k]; ++j)
-            tablas[k].tormentas.push_back({s.TablasP(fila, j), s.TablasD(fila, j), s.TablasR(fila, j)});
+        for (int j = 1; j <= s.TablasDeLluvia.NroFilasTabla[k]; ++j)
+            tablas[k].tormentas.push_back({s.TablasDeLluvia.TablasP(fila, j),
+                                           s.TablasDeLluvia.TablasD(fila, j),
+                                           s.TablasDeLluvia.TablasR(fila, j)});
     }
     return tablas;
 }
@@ -93,9 +95,9 @@ void RecuerdaTablas(dlgTablasPDRs& f, const Siro& s)
 
 void MuestraTabla(dlgTablasPDRs& f, Siro& s)
 {
-    const std::int16_t n = s.NroFilasTabla[Ranura(f)];
+    const std::int16_t n = s.TablasDeLluvia.NroFilasTabla[Ranura(f)];
     f.editable = f.Tabla() != 0;
-    f.txtNotas = s.NotasPDR[Ranura(f)];
+    f.txtNotas = s.TablasDeLluvia.NotasPDR[Ranura(f)];
     f.txtNroPDRs = Texto(n);
     forms::Grilla& g = f.MSFlexGridTablaPDRs = forms::NuevaGrilla(ReglasTabla);
     for (const int columna : Editables)
@@ -103,9 +105,9 @@ void MuestraTabla(dlgTablasPDRs& f, Siro& s)
     Ensancha(s, n);
     PonFilas(f, n);
     for (int j = 1; j <= n; ++j) {
-        g.Pon({j, ColumnaP}, Texto(s.TablasP(f.Tabla(), j)));
-        g.Pon({j, ColumnaD}, Texto(s.TablasD(f.Tabla(), j)));
-        g.Pon({j, ColumnaR}, Texto(s.TablasR(f.Tabla(), j)));
+        g.Pon({j, ColumnaP}, Texto(s.TablasDeLluvia.TablasP(f.Tabla(), j)));
+        g.Pon({j, ColumnaD}, Texto(s.TablasDeLluvia.TablasD(f.Tabla(), j)));
+        g.Pon({j, ColumnaR}, Texto(s.TablasDeLluvia.TablasR(f.Tabla(), j)));
     }
     f.leidas.filas = g.filas;
 }
@@ -122,21 +124,21 @@ struct Revision {
 void CargaDefecto(const dlgTablasPDRs& f, Siro& s)
 {
     const forms::Grilla& g = f.MSFlexGridTablaPDRs;
-    for (int j = 1; j <= s.NroSeriePDR; ++j) {
-        s.SerieP(j) = Simple(g.Numero({j, ColumnaP}));
-        s.SerieD(j) = Entero16(g.Numero({j, ColumnaD}));
-        s.SerieR(j) = Entero16(g.Numero({j, ColumnaR}));
+    for (int j = 1; j <= s.Serie.NroSeriePDR; ++j) {
+        s.Serie.SerieP(j) = Simple(g.Numero({j, ColumnaP}));
+        s.Serie.SerieD(j) = Entero16(g.Numero({j, ColumnaD}));
+        s.Serie.SerieR(j) = Entero16(g.Numero({j, ColumnaR}));
     }
 }
 
 void CargaP(const dlgTablasPDRs& f, Siro& s, Revision& revision)
 {
     const forms::Grilla& g = f.MSFlexGridTablaPDRs;
-    for (int j = 1; j <= s.NroSeriePDR; ++j) {
+    for (int j = 1; j <= s.Serie.NroSeriePDR; ++j) {
         const forms::Celda c{j, ColumnaP};
         const double p = g.Numero(c);
         if (!g.EsNumero(c) || p < 0 || p > MaximaP) revision = {true, c};
-        s.SerieP(j) = Simple(p);
+        s.Serie.SerieP(j) = Simple(p);
     }
 }
 
@@ -160,11 +162,12 @@ void GuardaEnTablas(const dlgTablasPDRs& f, Siro& s)
 {
     const forms::Grilla& g = f.MSFlexGridTablaPDRs;
     const int k = f.Tabla();
-    Ensancha(s, *std::max_element(s.NroFilasTabla.begin(), s.NroFilasTabla.end()));
+    Ensancha(s,
+             *std::max_element(s.TablasDeLluvia.NroFilasTabla.begin(), s.TablasDeLluvia.NroFilasTabla.end()));
     for (int j = 1; j <= g.NroFilas(); ++j) {
-        s.TablasP(k, j) = Entero16(g.Numero({j, ColumnaP}));
-        s.TablasD(k, j) = Entero16(g.Numero({j, ColumnaD}));
-        s.TablasR(k, j) = Entero16(g.Numero({j, ColumnaR}));
+        s.TablasDeLluvia.TablasP(k, j) = Entero16(g.Numero({j, ColumnaP}));
+        s.TablasDeLluvia.TablasD(k, j) = Entero16(g.Numero({j, ColumnaD}));
+        s.TablasDeLluvia.TablasR(k, j) = Entero16(g.Numero({j, ColumnaR}));
     }
 }
 
@@ -173,8 +176,10 @@ void GuardaEnTablas(const dlgTablasPDRs& f, Siro& s)
 bool Crece(const Siro& s, int k, int n)
 {
     for (int j = 2; j <= n; ++j) {
-        if (s.TablasR(k, j) != s.TablasR(k, j - 1)) continue;
-        if (s.TablasP(k, j) < s.TablasP(k, j - 1) || s.TablasD(k, j) < s.TablasD(k, j - 1)) return false;
+        if (s.TablasDeLluvia.TablasR(k, j) != s.TablasDeLluvia.TablasR(k, j - 1)) continue;
+        if (s.TablasDeLluvia.TablasP(k, j) < s.TablasDeLluvia.TablasP(k, j - 1) ||
+            s.TablasDeLluvia.TablasD(k, j) < s.TablasDeLluvia.TablasD(k, j - 1))
+            return false;
     }
     return true;
 }
@@ -184,8 +189,8 @@ bool CargaPersonal(dlgTablasPDRs& f, Siro& s)
 {
     Revision revision;
     CargaP(f, s, revision);
-    CargaDeLista(f, ColumnaD, DuracionesPDR, s.SerieD, revision);
-    CargaDeLista(f, ColumnaR, RecurrenciasPDR, s.SerieR, revision);
+    CargaDeLista(f, ColumnaD, DuracionesPDR, s.Serie.SerieD, revision);
+    CargaDeLista(f, ColumnaR, RecurrenciasPDR, s.Serie.SerieR, revision);
     GuardaEnTablas(f, s);
     if (!Crece(s, f.Tabla(), f.MSFlexGridTablaPDRs.NroFilas())) revision.error = true;
     if (!revision.error) return true;
@@ -197,12 +202,12 @@ bool CargaPersonal(dlgTablasPDRs& f, Siro& s)
 
 void LlevaPrimera(dlgPp& pp, Siro& s)
 {
-    pp.txtPp = NumeroATexto(s.SerieP(1));
-    pp.txtDur = Texto(s.SerieD(1));
-    pp.cmbRec.texto = Texto(s.SerieR(1));
-    s.PpTormenta = s.SerieP(1);
-    s.DurTormenta = s.SerieD(1);
-    s.RecTormenta = s.SerieR(1);
+    pp.txtPp = NumeroATexto(s.Serie.SerieP(1));
+    pp.txtDur = Texto(s.Serie.SerieD(1));
+    pp.cmbRec.texto = Texto(s.Serie.SerieR(1));
+    s.Tormenta.PpTormenta = s.Serie.SerieP(1);
+    s.Tormenta.DurTormenta = s.Serie.SerieD(1);
+    s.Tormenta.RecTormenta = s.Serie.SerieR(1);
 }
 
 /// Returns false where the tables had to be written and couldn't be, which has been told.
@@ -211,10 +216,10 @@ bool Aplica(dlgTablasPDRs& f, dlgPp& pp, Siro& s)
     bool guardada = true;
     forms::Deja(f.MSFlexGridTablaPDRs);
     const auto n = static_cast<std::int16_t>(f.MSFlexGridTablaPDRs.NroFilas());
-    s.NroSeriePDR = n;
-    s.SerieP.Dimensiona(n);
-    s.SerieD.Dimensiona(n);
-    s.SerieR.Dimensiona(n);
+    s.Serie.NroSeriePDR = n;
+    s.Serie.SerieP.Dimensiona(n);
+    s.Serie.SerieD.Dimensiona(n);
+    s.Serie.SerieR.Dimensiona(n);
     if (f.Tabla() == 0) {
         CargaDefecto(f, s);
     } else {
@@ -222,7 +227,7 @@ bool Aplica(dlgTablasPDRs& f, dlgPp& pp, Siro& s)
         guardada = model::GuardaTablaPDRs(s);
         if (guardada) RecuerdaTablas(f, s);
     }
-    if (s.NroSeriePDR >= 1) LlevaPrimera(pp, s);
+    if (s.Serie.NroSeriePDR >= 1) LlevaPrimera(pp, s);
     return guardada;
 }
 
@@ -249,7 +254,7 @@ void cmbNroTablaPDRs_Click(dlgTablasPDRs& f, dlgPp& pp, Siro& s)
 
 void txtNotas_Change(const dlgTablasPDRs& f, Siro& s)
 {
-    if (f.editable) s.NotasPDR[Ranura(f)] = f.txtNotas;
+    if (f.editable) s.TablasDeLluvia.NotasPDR[Ranura(f)] = f.txtNotas;
 }
 
 bool txtNroPDRs_AlSalir(dlgTablasPDRs& f, Siro& s)
@@ -259,7 +264,7 @@ bool txtNroPDRs_AlSalir(dlgTablasPDRs& f, Siro& s)
     Evento(s, [&] {
         const std::int16_t n = Entero16(model::Val(f.txtNroPDRs));
         PonFilas(f, n);
-        s.NroFilasTabla[Ranura(f)] = n;
+        s.TablasDeLluvia.NroFilasTabla[Ranura(f)] = n;
         Ensancha(s, n);
     });
     return true;
@@ -269,8 +274,8 @@ void cmdBorraTablaDisPer(dlgTablasPDRs& f, Siro& s)
 {
     if (!f.editable) return;
     Evento(s, [&] {
-        s.NroFilasTabla[Ranura(f)] = 0;
-        s.NotasPDR[Ranura(f)].clear();
+        s.TablasDeLluvia.NroFilasTabla[Ranura(f)] = 0;
+        s.TablasDeLluvia.NotasPDR[Ranura(f)].clear();
         MuestraTabla(f, s);
         model::GuardaTablaPDRs(s);
     });
@@ -295,9 +300,9 @@ void CancelButton(dlgTablasPDRs& f)
 
 bool SinAplicar(const dlgTablasPDRs& f, const Siro& s)
 {
-    return f.abierta &&
-           (f.MSFlexGridTablaPDRs.filas != f.leidas.filas ||
-            f.txtNroPDRs != Texto(s.NroFilasTabla[Ranura(f)]) || f.leidas.tablas != EnMemoria(s));
+    return f.abierta && (f.MSFlexGridTablaPDRs.filas != f.leidas.filas ||
+                         f.txtNroPDRs != Texto(s.TablasDeLluvia.NroFilasTabla[Ranura(f)]) ||
+                         f.leidas.tablas != EnMemoria(s));
 }
 
 // --- chart ---
@@ -312,12 +317,12 @@ Siro Ensayo(const Siro& s, double p, double d)
 {
     Siro ensayo;
     ensayo.Disco = s.Disco;
-    ensayo.DirTrabajo = s.DirTrabajo;
-    ensayo.DirProyecto = s.DirProyecto;
-    ensayo.DistriPp = s.DistriPp;
-    ensayo.PasoPp = s.PasoPp;
-    ensayo.PpTormenta = Simple(p);
-    ensayo.DurTormenta = Entero16(d);
+    ensayo.Proyecto.DirTrabajo = s.Proyecto.DirTrabajo;
+    ensayo.Proyecto.DirProyecto = s.Proyecto.DirProyecto;
+    ensayo.Tormenta.DistriPp = s.Tormenta.DistriPp;
+    ensayo.Pasos.PasoPp = s.Pasos.PasoPp;
+    ensayo.Tormenta.PpTormenta = Simple(p);
+    ensayo.Tormenta.DurTormenta = Entero16(d);
     engine::ConstruyeHietograma(ensayo);
     return ensayo;
 }
@@ -326,10 +331,10 @@ forms::Grafico Hietograma(const Siro& ensayo)
 {
     forms::Grafico grafico;
     forms::Serie lluvia;
-    for (int j = 1; j <= ensayo.NroPpReal; ++j) {
-        grafico.categorias.push_back(
-            NumeroATexto(model::Redondea(1.0 * ensayo.DurTormenta * j / ensayo.NroPpReal, 1)));
-        lluvia.celdas.push_back(ensayo.PpReal(j));
+    for (int j = 1; j <= ensayo.Tormenta.NroPpReal; ++j) {
+        grafico.categorias.push_back(NumeroATexto(
+            model::Redondea(1.0 * ensayo.Tormenta.DurTormenta * j / ensayo.Tormenta.NroPpReal, 1)));
+        lluvia.celdas.push_back(ensayo.Tormenta.PpReal(j));
     }
     grafico.series.push_back(std::move(lluvia));
     return grafico;

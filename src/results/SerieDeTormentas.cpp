@@ -27,23 +27,23 @@ bool SinTilde(const std::array<std::int16_t, N>& valores, const std::array<std::
 
 void FiltroTormenta(model::Siro& s, bool& Excluida)
 {
-    s.PpTormenta = s.SerieP(s.IndSerie);
-    s.DurTormenta = s.SerieD(s.IndSerie);
-    s.RecTormenta = s.SerieR(s.IndSerie);
+    s.Tormenta.PpTormenta = s.Serie.SerieP(s.Serie.IndSerie);
+    s.Tormenta.DurTormenta = s.Serie.SerieD(s.Serie.IndSerie);
+    s.Tormenta.RecTormenta = s.Serie.SerieR(s.Serie.IndSerie);
     if (TormentaNula(s)) return;
-    Excluida = s.DurTormenta < s.PasoPp ||
-               SinTilde(model::Duraciones, s.frmConfigura.CheckD, s.DurTormenta) ||
-               SinTilde(model::Recurrencias, s.frmConfigura.CheckR, s.RecTormenta);
+    Excluida = s.Tormenta.DurTormenta < s.Pasos.PasoPp ||
+               SinTilde(model::Duraciones, s.frmConfigura.CheckD, s.Tormenta.DurTormenta) ||
+               SinTilde(model::Recurrencias, s.frmConfigura.CheckR, s.Tormenta.RecTormenta);
 }
 
 bool TormentaNula(const model::Siro& s)
 {
-    return s.PpTormenta == 0 || s.DurTormenta == 0;
+    return s.Tormenta.PpTormenta == 0 || s.Tormenta.DurTormenta == 0;
 }
 
 std::string ArchivoDeProyecto(const model::Siro& s)
 {
-    return model::Ruta(s.DirProyecto, s.NombreProyecto).append(model::TerminacionConf);
+    return model::Ruta(s.Proyecto.DirProyecto, s.Proyecto.NombreProyecto).append(model::TerminacionConf);
 }
 
 }  // namespace results

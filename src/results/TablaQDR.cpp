@@ -56,31 +56,31 @@ void AgregaTitulo(TablaQDR& t, const std::string& texto)
 void PonTitulos(TablaQDR& t, const Siro& s)
 {
     AgregaTitulo(t, ArchivoDeProyecto(s));
-    AgregaTitulo(t, s.TituloProyecto);
-    AgregaTitulo(t, "Ubicación: " + s.Ubicacion + " - Cuenca: " + s.Cuenca);
-    AgregaTitulo(t, "SubCuenca: " + s.Subcuenca);
-    AgregaTitulo(t, "Operador: " + s.Operador + " - " + forms::FechaDelDia(s));
+    AgregaTitulo(t, s.Configuracion.TituloProyecto);
+    AgregaTitulo(t, "Ubicación: " + s.Configuracion.Ubicacion + " - Cuenca: " + s.Configuracion.Cuenca);
+    AgregaTitulo(t, "SubCuenca: " + s.Configuracion.Subcuenca);
+    AgregaTitulo(t, "Operador: " + s.Configuracion.Operador + " - " + forms::FechaDelDia(s));
 }
 
 void PonTormenta(FilaQDR& fila, const Siro& s)
 {
-    fila.celdas[P] = NumeroATexto(s.PpTormenta);
-    fila.celdas[D] = Entero(s.DurTormenta);
-    fila.celdas[R] = Entero(s.RecTormenta);
+    fila.celdas[P] = NumeroATexto(s.Tormenta.PpTormenta);
+    fila.celdas[D] = Entero(s.Tormenta.DurTormenta);
+    fila.celdas[R] = Entero(s.Tormenta.RecTormenta);
 }
 
 FilaQDR FilaDeComponente(const Siro& s)
 {
-    if (s.IndComp < 0 || static_cast<std::size_t>(s.IndComp) >= s.Secuencia.size())
+    if (s.Control.IndComp < 0 || static_cast<std::size_t>(s.Control.IndComp) >= s.Resultados.Secuencia.size())
         throw model::Falla{model::NumeroFalla::Subindice};
     FilaQDR fila{ClaseFila::Componente, {}};
-    fila.celdas[Nombre] = s.Secuencia[static_cast<std::size_t>(s.IndComp)];
-    fila.celdas[Numero] = Entero(s.IndComp);
+    fila.celdas[Nombre] = s.Resultados.Secuencia[static_cast<std::size_t>(s.Control.IndComp)];
+    fila.celdas[Numero] = Entero(s.Control.IndComp);
     PonTormenta(fila, s);
-    fila.celdas[Q] = Redondeado(Resultado(s.QMax, s.IndComp, s.IndSerie));
-    if (s.IndComp <= s.NroUEHs) {
-        fila.celdas[E] = Volumen(Resultado(s.EscUEH, s.IndComp, s.IndSerie));
-        fila.celdas[C] = Redondeado(Resultado(s.CoefEscUEH, s.IndComp, s.IndSerie));
+    fila.celdas[Q] = Redondeado(Resultado(s.Resultados.QMax, s.Control.IndComp, s.Serie.IndSerie));
+    if (s.Control.IndComp <= s.Red.NroUEHs) {
+        fila.celdas[E] = Volumen(Resultado(s.Resultados.EscUEH, s.Control.IndComp, s.Serie.IndSerie));
+        fila.celdas[C] = Redondeado(Resultado(s.Resultados.CoefEscUEH, s.Control.IndComp, s.Serie.IndSerie));
     }
     return fila;
 }
@@ -91,7 +91,8 @@ template <typename Antes, typename Pasa>
 bool RecorreSerie(Siro& s, Antes&& antes, Pasa&& pasa)
 {
     bool excluida = false;
-    for (s.IndSerie = 1; s.IndSerie <= s.NroSeriePDR; s.IndSerie = model::Suma16(s.IndSerie, 1)) {
+    for (s.Serie.IndSerie = 1; s.Serie.IndSerie <= s.Serie.NroSeriePDR;
+         s.Serie.IndSerie = model::Suma16(s.Serie.IndSerie, 1)) {
         antes();
         FiltroTormenta(s, excluida);
         if (TormentaNula(s)) return false;
@@ -117,8 +118,8 @@ void AgregaTotales(TablaQDR& t, Siro& s)
             FilaQDR& fila = t.filas.back();
             fila.clase = ClaseFila::Total;
             PonTormenta(fila, s);
-            fila.celdas[E] = Volumen(Resultado(s.EscTotal, s.IndSerie));
-            fila.celdas[C] = Redondeado(Resultado(s.CoefEscTotal, s.IndSerie));
+            fila.celdas[E] = Volumen(Resultado(s.Resultados.EscTotal, s.Serie.IndSerie));
+            fila.celdas[C] = Redondeado(Resultado(s.Resultados.CoefEscTotal, s.Serie.IndSerie));
             t.filas.push_back({ClaseFila::Cierre, {}});
         });
 }
@@ -183,7 +184,7 @@ void Llena(TablaQDR& t, const Siro& s, Cuerpo&& cuerpo)
 {
     t.filas.clear();
     try {
-        if (s.NroComponentes >= 1) {
+        if (s.Resultados.NroComponentes >= 1) {
             PonTitulos(t, s);
             cuerpo();
         }
@@ -211,7 +212,8 @@ std::array<std::string_view, NroColumnasQDR> EncabezadosQDR()
 void LlenaTodas(TablaQDR& t, Siro& s)
 {
     Llena(t, s, [&] {
-        for (s.IndComp = 1; s.IndComp <= s.NroComponentes; s.IndComp = model::Suma16(s.IndComp, 1))
+        for (s.Control.IndComp = 1; s.Control.IndComp <= s.Resultados.NroComponentes;
+             s.Control.IndComp = model::Suma16(s.Control.IndComp, 1))
             if (!AgregaComponente(t, s)) return;
         AgregaTotales(t, s);
     });
@@ -284,7 +286,7 @@ void OKButton(FormaTablaQDR& f)
 
 bool HayPlanillaPDR(const Siro& s)
 {
-    return s.NroSeriePDR >= MinimoDeTormentas;
+    return s.Serie.NroSeriePDR >= MinimoDeTormentas;
 }
 
 }  // namespace results

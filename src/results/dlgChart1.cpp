@@ -29,7 +29,7 @@ std::string NotaAlPie(const Hietograma& pedido, std::int16_t paso)
 /// Length of a block, a tie going to the even minute.
 std::int16_t MinutosPorBloque(const Siro& s)
 {
-    return model::Entero16(model::Cociente(s.DurTormenta, s.NroPpReal));
+    return model::Entero16(model::Cociente(s.Tormenta.DurTormenta, s.Tormenta.NroPpReal));
 }
 
 Grafico Llena(const dlgChart1& f, const Siro& s, std::int16_t N, std::int16_t paso)
@@ -39,7 +39,7 @@ Grafico Llena(const dlgChart1& f, const Siro& s, std::int16_t N, std::int16_t pa
     grafico.categorias.clear();
     for (int i = 1; i <= N; ++i) {
         grafico.categorias.push_back(Categoria(static_cast<std::int16_t>(i), paso, f.MinutosEjeX));
-        lluvia.celdas.push_back(s.PpReal(i));
+        lluvia.celdas.push_back(s.Tormenta.PpReal(i));
     }
     grafico.series.clear();
     grafico.series.push_back(std::move(lluvia));
@@ -57,7 +57,7 @@ void Abre(dlgChart1& f, const Siro& s)
 {
     f = dlgChart1{.abierta = true};
     cmdHsMin(f, s);
-    if (s.FormaPp == FormaSerie) f.abierta = false;
+    if (s.Tormenta.FormaPp == FormaSerie) f.abierta = false;
 }
 
 void Muestra(dlgChart1& f, const Siro& s, const Hietograma& pedido)
@@ -88,19 +88,19 @@ void OKButton(dlgChart1& f)
 
 bool HayTormentaConBloques(const Siro& s)
 {
-    if (s.PpTormenta == 0 || s.DurTormenta == 0 || s.NroPpReal == 0) return false;
+    if (s.Tormenta.PpTormenta == 0 || s.Tormenta.DurTormenta == 0 || s.Tormenta.NroPpReal == 0) return false;
     return MinutosPorBloque(s) != 0;
 }
 
 std::optional<Hietograma> mnuGraficoPp(Siro& s, std::string_view notas)
 {
-    if (s.PpTormenta == 0 || s.DurTormenta == 0) return {};
+    if (s.Tormenta.PpTormenta == 0 || s.Tormenta.DurTormenta == 0) return {};
     engine::ConstruyeHietograma(s);
     if (!HayTormentaConBloques(s)) return {};
-    if (s.SalidaPizarra) s.Anfitrion.AbrePizarra();
-    return Hietograma{s.NroPpReal, MinutosPorBloque(s),
-                      std::string(s.FormaPp == FormaReal ? notas : s.TituloProyecto), s.PpTormenta,
-                      s.DurTormenta};
+    if (s.Control.SalidaPizarra) s.Anfitrion.AbrePizarra();
+    return Hietograma{s.Tormenta.NroPpReal, MinutosPorBloque(s),
+                      std::string(s.Tormenta.FormaPp == FormaReal ? notas : s.Configuracion.TituloProyecto),
+                      s.Tormenta.PpTormenta, s.Tormenta.DurTormenta};
 }
 
 }  // namespace results

@@ -19,7 +19,7 @@ inline constexpr std::string_view LeyendaHsMin = "Ver t [Horas] / Ver t [Minutos
 inline constexpr std::string_view LeyendaImprimir = "&Imprimir";
 inline constexpr std::string_view LeyendaCerrar = "&Cerrar";
 
-/// The hyetograph to be shown; its depths are Siro::PpReal.
+/// The hyetograph to be shown; its depths are Tormenta::PpReal.
 struct Hietograma {
     std::int16_t N = 0;     ///< blocks
     std::int16_t paso = 0;  ///< length of a block [min]

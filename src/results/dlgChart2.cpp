@@ -91,9 +91,9 @@ const FilaClase& ClaseDe(std::string_view nombre)
 /// another project may have been opened since the run.
 std::int16_t Numero(const Siro& s, std::string_view nombre)
 {
-    for (const model::Represa& r : s.ColRepresas)
+    for (const model::Represa& r : s.Red.ColRepresas)
         if (r.NombreRepresa == nombre) return r.numRepresa;
-    for (const model::Lago& l : s.ColLagos)
+    for (const model::Lago& l : s.Red.ColLagos)
         if (l.NombreLAGO == nombre) return l.numLAGO;
     return 0;
 }
@@ -112,9 +112,10 @@ struct Filas {
 double Lluvia(const Filas& filas, std::int16_t i)
 {
     const Siro& s = filas.s;
-    if (model::Producto16(i, s.PasoQ) >= model::Suma16(s.DurTormenta, s.PasoPp)) return 0;
+    if (model::Producto16(i, s.Pasos.PasoQ) >= model::Suma16(s.Tormenta.DurTormenta, s.Pasos.PasoPp))
+        return 0;
     const std::int16_t b = model::Piso16(model::Cociente(filas.r + i - 1, filas.r));
-    return double{s.PpUEHPaso(filas.componente, b)} / filas.r;
+    return double{s.Resultados.PpUEHPaso(filas.componente, b)} / filas.r;
 }
 
 double Celda(const Filas& filas, Dato dato, std::int16_t i)
@@ -123,15 +124,15 @@ double Celda(const Filas& filas, Dato dato, std::int16_t i)
     const Siro& s = filas.s;
     switch (dato) {
     case Dato::QSale:
-        return model::Redondea(s.QSale(filas.componente, i), Decimales);
+        return model::Redondea(s.Resultados.QSale(filas.componente, i), Decimales);
     case Dato::QEntra:
-        return s.QEntra(filas.componente, i);
+        return s.Resultados.QEntra(filas.componente, i);
     case Dato::PpUEHPaso:
         return Lluvia(filas, i);
     case Dato::HRepresa:
-        return s.HRepresa(filas.embalse, i);
+        return s.Resultados.HRepresa(filas.embalse, i);
     case Dato::HLago:
-        return s.HLago(filas.embalse, i);
+        return s.Resultados.HLago(filas.embalse, i);
     }
     return 0;
 }
@@ -140,7 +141,7 @@ double Celda(const Filas& filas, Dato dato, std::int16_t i)
 Serie Columna(const Filas& filas, const FilaSerie& fila, std::int16_t N)
 {
     Serie serie{TipoSerie::Linea2D, std::string(fila.leyenda), fila.ejeSecundario, {}};
-    const std::int16_t conocidas = fila.dato == Dato::QSale ? std::min(N, filas.s.NroPasosQ) : N;
+    const std::int16_t conocidas = fila.dato == Dato::QSale ? std::min(N, filas.s.Resultados.NroPasosQ) : N;
     serie.celdas.resize(static_cast<std::size_t>(N));
     for (int i = 1; i <= conocidas; ++i)
         serie.celdas[static_cast<std::size_t>(i) - 1] = Celda(filas, fila.dato, static_cast<std::int16_t>(i));
@@ -150,31 +151,33 @@ Serie Columna(const Filas& filas, const FilaSerie& fila, std::int16_t N)
 /// Output steps in a model step; nothing where that isn't a whole number. Throws Falla 11 for a PasoQ of 0.
 std::optional<std::int16_t> RelacionDePasos(const Siro& s)
 {
-    const double r = model::Cociente(s.PasoPp, s.PasoQ);
+    const double r = model::Cociente(s.Pasos.PasoPp, s.Pasos.PasoQ);
     if (r != std::floor(r)) return {};
     return model::Entero16(r);
 }
 
 const std::string& NombreComponente(const Siro& s)
 {
-    if (s.IndComp < 0 || static_cast<std::size_t>(s.IndComp) >= s.Secuencia.size())
+    if (s.Control.IndComp < 0 || static_cast<std::size_t>(s.Control.IndComp) >= s.Resultados.Secuencia.size())
         throw model::Falla{model::NumeroFalla::Subindice};
-    return s.Secuencia[static_cast<std::size_t>(s.IndComp)];
+    return s.Resultados.Secuencia[static_cast<std::size_t>(s.Control.IndComp)];
 }
 
 std::string Titulo(const Siro& s, const std::string& nombre)
 {
-    const auto fin = s.Salidas.begin() + 1 + std::clamp<std::int16_t>(s.NroSalidas, 0, model::MaxSalidas);
-    const bool esSalida = std::find(s.Salidas.begin() + 1, fin, nombre) != fin;
+    const auto fin = s.Resultados.Salidas.begin() + 1 +
+                     std::clamp<std::int16_t>(s.Resultados.NroSalidas, 0, model::MaxSalidas);
+    const bool esSalida = std::find(s.Resultados.Salidas.begin() + 1, fin, nombre) != fin;
     std::string titulo = esSalida ? "Componente Final: " : "Componente: ";
-    titulo.append(Texto(s.IndComp)).append(", ").append(nombre);
+    titulo.append(Texto(s.Control.IndComp)).append(", ").append(nombre);
     titulo.append("   Pp= ")
-        .append(NumeroATexto(s.PpTormenta))
+        .append(NumeroATexto(s.Tormenta.PpTormenta))
         .append("mm;  D= ")
-        .append(Texto(s.DurTormenta));
+        .append(Texto(s.Tormenta.DurTormenta));
     titulo.append(" min ;   ");
-    if (s.RecTormenta != 0) titulo.append("Recurrencia = ").append(Texto(s.RecTormenta)).append(" años   ");
-    return titulo.append("paso = ").append(Texto(s.PasoQ)).append(" min");
+    if (s.Tormenta.RecTormenta != 0)
+        titulo.append("Recurrencia = ").append(Texto(s.Tormenta.RecTormenta)).append(" años   ");
+    return titulo.append("paso = ").append(Texto(s.Pasos.PasoQ)).append(" min");
 }
 
 /// Draws the component, or tells why not.
@@ -196,7 +199,7 @@ void Dibuja(dlgChart2& f, const Siro& s, std::int16_t N, std::int16_t paso)
     for (int i = 1; i <= N; ++i)
         grafico.categorias.push_back(Categoria(static_cast<std::int16_t>(i), paso, f.MinutosEjeX));
 
-    const Filas filas{s, s.IndComp, Numero(s, nombre), *r};
+    const Filas filas{s, s.Control.IndComp, Numero(s, nombre), *r};
     grafico.series.clear();
     for (std::size_t k = 0; k < clase.nroSeries; ++k)
         grafico.series.push_back(Columna(filas, clase.series[k], N));
@@ -213,7 +216,7 @@ void Dibuja(dlgChart2& f, const Siro& s, std::int16_t N, std::int16_t paso)
 
 void AcotaIndComp(Siro& s)
 {
-    if (s.IndComp < 1 || s.IndComp > s.NroComponentes) s.IndComp = 1;
+    if (s.Control.IndComp < 1 || s.Control.IndComp > s.Resultados.NroComponentes) s.Control.IndComp = 1;
 }
 
 template <typename Cuerpo>
@@ -227,9 +230,9 @@ bool Evento(const Siro& s, Cuerpo&& cuerpo)
 /// Runs the storm in hand over the network in memory.
 void Corre(dlgChart2& f, Siro& s)
 {
-    if (s.SalidaPizarra) s.Anfitrion.PonPizarra(TextoInicia);
+    if (s.Control.SalidaPizarra) s.Anfitrion.PonPizarra(TextoInicia);
     engine::ConstruyeHietograma(s);
-    if (s.PpTormenta == 0 && s.DurTormenta == 0) return s.Anfitrion.Termina();
+    if (s.Tormenta.PpTormenta == 0 && s.Tormenta.DurTormenta == 0) return s.Anfitrion.Termina();
     engine::ProcesoPrincipal(s, {.GuardaTexto = true}, f.memoria);
     Redibuja(f, s);
 }
@@ -244,44 +247,48 @@ void Deslizador::Pon(int nuevo)
 void Abre(dlgChart2& f, Siro& s)
 {
     if (f.abierta) {
-        f.vista.deslizadores = s.FormaPp <= UltimaFormaConDeslizadores;
+        f.vista.deslizadores = s.Tormenta.FormaPp <= UltimaFormaConDeslizadores;
         return;
     }
     f = dlgChart2{};
-    if (s.NroPasosQ == 0 || s.NroComponentes < 1 || s.FormaPp == FormaSerie) return;
+    if (s.Resultados.NroPasosQ == 0 || s.Resultados.NroComponentes < 1 || s.Tormenta.FormaPp == FormaSerie)
+        return;
     f.abierta = true;
     f.lblPp = "Pp";
     f.lblDur = "D ";
     f.Grafico.leyendaVisible = true;
     f.Grafico.ejeY = EjeCaudal;
     f.Grafico.ejeYSecundario = EjePrecipitacion;
-    if (!s.Secuencia.empty()) f.lstCompos.assign(s.Secuencia.begin() + 1, s.Secuencia.end());
-    if (s.IndComp < 1 || s.IndComp > s.NroComponentes) s.IndComp = 1;
-    if (static_cast<std::size_t>(s.IndComp) <= f.lstCompos.size()) f.lstComposIndice = s.IndComp - 1;
+    if (!s.Resultados.Secuencia.empty())
+        f.lstCompos.assign(s.Resultados.Secuencia.begin() + 1, s.Resultados.Secuencia.end());
+    if (s.Control.IndComp < 1 || s.Control.IndComp > s.Resultados.NroComponentes) s.Control.IndComp = 1;
+    if (static_cast<std::size_t>(s.Control.IndComp) <= f.lstCompos.size())
+        f.lstComposIndice = s.Control.IndComp - 1;
     lstCompos_Click(f, s);
-    Evento(s, [&] { f.sldPp.Pon(model::Entero32(s.PpTormenta)); });
-    f.sldDur.Pon(s.DurTormenta);
+    Evento(s, [&] { f.sldPp.Pon(model::Entero32(s.Tormenta.PpTormenta)); });
+    f.sldDur.Pon(s.Tormenta.DurTormenta);
 }
 
 void lstCompos_Click(dlgChart2& f, Siro& s)
 {
-    if (s.NroComponentes < 1) f.abierta = false;
+    if (s.Resultados.NroComponentes < 1) f.abierta = false;
     if (!f.abierta || f.lstComposIndice < 0) return;
     const std::string& elegido = f.lstCompos[static_cast<std::size_t>(f.lstComposIndice)];
     const auto lugar = std::find(f.lstCompos.begin(), f.lstCompos.end(), elegido) - f.lstCompos.begin();
-    s.IndComp = static_cast<std::int16_t>(std::clamp<std::ptrdiff_t>(lugar + 1, 1, s.NroComponentes));
+    s.Control.IndComp =
+        static_cast<std::int16_t>(std::clamp<std::ptrdiff_t>(lugar + 1, 1, s.Resultados.NroComponentes));
     Redibuja(f, s);
 }
 
 void Redibuja(dlgChart2& f, Siro& s)
 {
     AcotaIndComp(s);
-    f.vista.deslizadores = s.FormaPp <= UltimaFormaConDeslizadores;
-    if (s.NroPasosQ <= 0) {
+    f.vista.deslizadores = s.Tormenta.FormaPp <= UltimaFormaConDeslizadores;
+    if (s.Resultados.NroPasosQ <= 0) {
         f.abierta = false;
         return;
     }
-    AlGraficoPp(f, s, s.NroPasosQ, s.PasoQ);
+    AlGraficoPp(f, s, s.Resultados.NroPasosQ, s.Pasos.PasoQ);
 }
 
 void AlGraficoPp(dlgChart2& f, const Siro& s, std::int16_t N, std::int16_t paso)
@@ -295,14 +302,14 @@ void AlGraficoPp(dlgChart2& f, const Siro& s, std::int16_t N, std::int16_t paso)
 void sldDur_Mueve(dlgChart2& f, Siro& s, int valor)
 {
     f.sldDur.Pon(valor);
-    s.DurTormenta = static_cast<std::int16_t>(f.sldDur.valor);
+    s.Tormenta.DurTormenta = static_cast<std::int16_t>(f.sldDur.valor);
     Corre(f, s);
 }
 
 void sldPp_Mueve(dlgChart2& f, Siro& s, int valor)
 {
-    f.sldPp.Pon(std::max<int>(valor, s.PasoPp));
-    s.PpTormenta = static_cast<float>(f.sldPp.valor);
+    f.sldPp.Pon(std::max<int>(valor, s.Pasos.PasoPp));
+    s.Tormenta.PpTormenta = static_cast<float>(f.sldPp.valor);
     Corre(f, s);
 }
 
@@ -343,9 +350,9 @@ bool mnuHidrogramas(Siro& s)
     bool hay = false;
     Evento(s, [&] { hay = HayTormentaConBloques(s); });
     if (!hay) return false;
-    if (s.SalidaPizarra) s.Anfitrion.AbrePizarra();
+    if (s.Control.SalidaPizarra) s.Anfitrion.AbrePizarra();
     AcotaIndComp(s);
-    return s.NroPasosQ > 0;
+    return s.Resultados.NroPasosQ > 0;
 }
 
 }  // namespace results

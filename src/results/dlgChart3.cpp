@@ -43,7 +43,7 @@ double Redondeado(std::int32_t valor)
 template <auto Matriz>
 double Celda(const Siro& s, int componente, int tormenta)
 {
-    const auto valor = Resultado(s.*Matriz, componente, tormenta);
+    const auto valor = Resultado(s.Resultados.*Matriz, componente, tormenta);
     return valor ? Redondeado(*valor) : forms::CeldaVacia;
 }
 
@@ -55,9 +55,9 @@ struct FilaMagnitud {
 
 // clang-format off
 constexpr auto Magnitudes = std::to_array<FilaMagnitud>({
-    {"Caudal Máximo", "Caudal Máximo [m3/s]",       false, Celda<&Siro::QMax>},
-    {"Escorrentía",   "Escorrentía [m3]",           true,  Celda<&Siro::EscUEH>},
-    {"Coef.Escorr.",  "Coeficiente Escorrentía [%]", true, Celda<&Siro::CoefEscUEH>},
+    {"Caudal Máximo", "Caudal Máximo [m3/s]",       false, Celda<&model::Resultados::QMax>},
+    {"Escorrentía",   "Escorrentía [m3]",           true,  Celda<&model::Resultados::EscUEH>},
+    {"Coef.Escorr.",  "Coeficiente Escorrentía [%]", true, Celda<&model::Resultados::CoefEscUEH>},
 });
 // clang-format on
 
@@ -71,7 +71,8 @@ const FilaMagnitud* MagnitudElegida(const dlgChart3& f)
 template <typename Cuerpo>
 void ParaCadaTormenta(dlgChart3& f, Siro& s, Cuerpo&& cuerpo)
 {
-    for (s.IndSerie = 1; s.IndSerie <= s.NroSeriePDR; s.IndSerie = model::Suma16(s.IndSerie, 1)) {
+    for (s.Serie.IndSerie = 1; s.Serie.IndSerie <= s.Serie.NroSeriePDR;
+         s.Serie.IndSerie = model::Suma16(s.Serie.IndSerie, 1)) {
         FiltroTormenta(s, f.Excluida);
         if (!f.Excluida) cuerpo();
     }
@@ -121,24 +122,25 @@ std::vector<forms::Marca> DuracionesCriticas(const forms::Grafico& grafico)
 
 std::string NotaDelProyecto(const Siro& s)
 {
-    return s.TituloProyecto + "  " + ArchivoDeProyecto(s);
+    return s.Configuracion.TituloProyecto + "  " + ArchivoDeProyecto(s);
 }
 
 /// Name of the component on show: what is printed and saved has no list to tell it.
 std::string NombreComponente(const Siro& s)
 {
-    if (s.IndComp < 0 || static_cast<std::size_t>(s.IndComp) >= s.Secuencia.size()) return {};
-    return s.Secuencia[static_cast<std::size_t>(s.IndComp)];
+    if (s.Control.IndComp < 0 || static_cast<std::size_t>(s.Control.IndComp) >= s.Resultados.Secuencia.size())
+        return {};
+    return s.Resultados.Secuencia[static_cast<std::size_t>(s.Control.IndComp)];
 }
 
 void LlenaCeldas(dlgChart3& f, Siro& s, const FilaMagnitud& magnitud, std::vector<forms::Serie>& curvas)
 {
     ParaCadaTormenta(f, s, [&] {
-        if (magnitud.soloUEHs && s.IndComp > s.NroUEHs) return;
-        const auto serie = Lugar(f.ListaR, s.RecTormenta);
-        const auto fila = Lugar(f.ListaD, s.DurTormenta);
+        if (magnitud.soloUEHs && s.Control.IndComp > s.Red.NroUEHs) return;
+        const auto serie = Lugar(f.ListaR, s.Tormenta.RecTormenta);
+        const auto fila = Lugar(f.ListaD, s.Tormenta.DurTormenta);
         if (serie && fila && *fila < curvas[*serie].celdas.size())
-            curvas[*serie].celdas[*fila] = magnitud.celda(s, s.IndComp, s.IndSerie);
+            curvas[*serie].celdas[*fila] = magnitud.celda(s, s.Control.IndComp, s.Serie.IndSerie);
     });
 }
 
@@ -155,16 +157,17 @@ void EligeComponente(dlgChart3& f, Siro& s, int indice)
     f.lstComposIndice = indice;
     const std::string& elegido = f.lstCompos[static_cast<std::size_t>(indice)];
     const auto lugar = std::find(f.lstCompos.begin(), f.lstCompos.end(), elegido) - f.lstCompos.begin();
-    s.IndComp = static_cast<std::int16_t>(
-        std::max<std::ptrdiff_t>(std::min<std::ptrdiff_t>(lugar + 1, s.NroComponentes), 1));
-    f.componente = s.IndComp;
+    s.Control.IndComp = static_cast<std::int16_t>(
+        std::max<std::ptrdiff_t>(std::min<std::ptrdiff_t>(lugar + 1, s.Resultados.NroComponentes), 1));
+    f.componente = s.Control.IndComp;
 }
 
 void ListaComponentes(dlgChart3& f, const Siro& s)
 {
     f.lstCompos.clear();
     f.lstComposIndice = -1;
-    if (!s.Secuencia.empty()) f.lstCompos.assign(s.Secuencia.begin() + 1, s.Secuencia.end());
+    if (!s.Resultados.Secuencia.empty())
+        f.lstCompos.assign(s.Resultados.Secuencia.begin() + 1, s.Resultados.Secuencia.end());
 }
 
 /// Each UEH that comes into the list is picked at once, so that the last one stays.
@@ -172,11 +175,12 @@ void ListaUEHs(dlgChart3& f, Siro& s)
 {
     f.lstCompos.clear();
     f.lstComposIndice = -1;
-    for (s.IndUEH = 1; s.IndUEH <= s.NroUEHs; s.IndUEH = model::Suma16(s.IndUEH, 1)) {
-        if (static_cast<std::size_t>(s.IndUEH) >= s.Secuencia.size())
+    for (s.Control.IndUEH = 1; s.Control.IndUEH <= s.Red.NroUEHs;
+         s.Control.IndUEH = model::Suma16(s.Control.IndUEH, 1)) {
+        if (static_cast<std::size_t>(s.Control.IndUEH) >= s.Resultados.Secuencia.size())
             throw model::Falla{model::NumeroFalla::Subindice};
-        f.lstCompos.push_back(s.Secuencia[static_cast<std::size_t>(s.IndUEH)]);
-        EligeComponente(f, s, s.IndUEH - 1);
+        f.lstCompos.push_back(s.Resultados.Secuencia[static_cast<std::size_t>(s.Control.IndUEH)]);
+        EligeComponente(f, s, s.Control.IndUEH - 1);
     }
 }
 
@@ -186,8 +190,8 @@ void Abre(dlgChart3& f, Siro& s)
 {
     f = dlgChart3{};
     f.abierta = true;
-    if (s.NroSeriePDR == 0) return;
-    if (s.NroComponentes < 1) {
+    if (s.Serie.NroSeriePDR == 0) return;
+    if (s.Resultados.NroComponentes < 1) {
         f.abierta = false;
         return;
     }
@@ -199,13 +203,13 @@ void Abre(dlgChart3& f, Siro& s)
     f.lblNotaVelmir = NotaVelmirAlAbrir;
     f.lblNota = NotaDelProyecto(s);
     ListaComponentes(f, s);
-    if (s.IndComp == 0) s.IndComp = 1;
-    s.IndComp = std::min(s.IndComp, s.NroComponentes);
+    if (s.Control.IndComp == 0) s.Control.IndComp = 1;
+    s.Control.IndComp = std::min(s.Control.IndComp, s.Resultados.NroComponentes);
     for (const FilaMagnitud& magnitud : Magnitudes)
         f.lstPQEC.emplace_back(magnitud.nombre);
     f.lstPQECIndice = 0;
     Evento(s, [&] {
-        EligeComponente(f, s, s.IndComp - 1);
+        EligeComponente(f, s, s.Control.IndComp - 1);
         Dibuja(f, s);
     });
 }
@@ -213,13 +217,13 @@ void Abre(dlgChart3& f, Siro& s)
 void Inicializa(dlgChart3& f, Siro& s)
 {
     f.Notas = "Notas en Inicializa";
-    if (s.IndComp < 1 || s.IndComp > s.NroComponentes) s.IndComp = 1;
+    if (s.Control.IndComp < 1 || s.Control.IndComp > s.Resultados.NroComponentes) s.Control.IndComp = 1;
     f.ListaD.clear();
     f.ListaR.clear();
-    if (s.NroSeriePDR < MinimoDeTormentas) return;
+    if (s.Serie.NroSeriePDR < MinimoDeTormentas) return;
     ParaCadaTormenta(f, s, [&] {
-        AgregaSiFalta(f.ListaD, s.DurTormenta);
-        AgregaSiFalta(f.ListaR, s.RecTormenta);
+        AgregaSiFalta(f.ListaD, s.Tormenta.DurTormenta);
+        AgregaSiFalta(f.ListaR, s.Tormenta.RecTormenta);
     });
     // The rows stay as drawn last, and so do the columns that there are already.
     f.Grafico.series.resize(f.ListaR.size(),

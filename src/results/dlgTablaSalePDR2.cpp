@@ -16,11 +16,11 @@ namespace {
 std::ptrdiff_t LugarDelElegido(const dlgTablaSalePDR2& f, const Siro& s)
 {
     if (f.lstComposIndice < 0 || static_cast<std::size_t>(f.lstComposIndice) >= f.lstCompos.size()) return 0;
-    if (s.Secuencia.empty()) return 0;
-    const auto primero = s.Secuencia.begin() + 1;
-    const auto hallado =
-        std::find(primero, s.Secuencia.end(), f.lstCompos[static_cast<std::size_t>(f.lstComposIndice)]);
-    return hallado == s.Secuencia.end() ? 0 : hallado - primero + 1;
+    if (s.Resultados.Secuencia.empty()) return 0;
+    const auto primero = s.Resultados.Secuencia.begin() + 1;
+    const auto hallado = std::find(primero, s.Resultados.Secuencia.end(),
+                                   f.lstCompos[static_cast<std::size_t>(f.lstComposIndice)]);
+    return hallado == s.Resultados.Secuencia.end() ? 0 : hallado - primero + 1;
 }
 
 }  // namespace
@@ -28,22 +28,25 @@ std::ptrdiff_t LugarDelElegido(const dlgTablaSalePDR2& f, const Siro& s)
 void Abre(dlgTablaSalePDR2& f, Siro& s)
 {
     f = dlgTablaSalePDR2{};
-    if (s.NroComponentes < 1) return;
+    if (s.Resultados.NroComponentes < 1) return;
     f.abierta = true;
-    if (!s.Secuencia.empty()) f.lstCompos.assign(s.Secuencia.begin() + 1, s.Secuencia.end());
-    if (s.IndComp < 1 || s.IndComp > s.NroComponentes) s.IndComp = 1;
-    if (static_cast<std::size_t>(s.IndComp) <= f.lstCompos.size()) f.lstComposIndice = s.IndComp - 1;
+    if (!s.Resultados.Secuencia.empty())
+        f.lstCompos.assign(s.Resultados.Secuencia.begin() + 1, s.Resultados.Secuencia.end());
+    if (s.Control.IndComp < 1 || s.Control.IndComp > s.Resultados.NroComponentes) s.Control.IndComp = 1;
+    if (static_cast<std::size_t>(s.Control.IndComp) <= f.lstCompos.size())
+        f.lstComposIndice = s.Control.IndComp - 1;
     cmdAplicarCambios(f, s);
 }
 
 void cmdAplicarCambios(dlgTablaSalePDR2& f, Siro& s)
 {
-    if (s.NroComponentes < 1) {
+    if (s.Resultados.NroComponentes < 1) {
         f.abierta = false;
         return;
     }
     const std::ptrdiff_t lugar = LugarDelElegido(f, s);
-    s.IndComp = lugar > s.NroComponentes || lugar < 1 ? std::int16_t{1} : static_cast<std::int16_t>(lugar);
+    s.Control.IndComp =
+        lugar > s.Resultados.NroComponentes || lugar < 1 ? std::int16_t{1} : static_cast<std::int16_t>(lugar);
     forms::Evento(s, [&] { LlenaUna(f.MSFlexGridTablaSaleQDR, s); });
 }
 

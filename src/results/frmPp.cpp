@@ -83,7 +83,7 @@ void BuscaDesde(frmPp& f, std::size_t desde)
 void Abre(frmPp& f, Siro& s)
 {
     f.abierta = true;
-    s.SalidaPizarra = true;
+    s.Control.SalidaPizarra = true;
     s.Anfitrion.PonMarcaPizarra(true);
 }
 
@@ -91,7 +91,7 @@ void Cierra(frmPp& f, Siro& s)
 {
     if (!f.abierta) return;
     f.abierta = false;
-    s.SalidaPizarra = false;
+    s.Control.SalidaPizarra = false;
     s.Anfitrion.PonMarcaPizarra(false);
 }
 

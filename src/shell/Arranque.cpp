@@ -15,12 +15,12 @@ std::string TextoVersion(std::string_view version)
 
 void Prepara(Siro& s, const Portada& portada, std::string_view version, double segundosPortada)
 {
-    s.SalidaPizarra = false;
-    s.ErrorRed = s.RedOk = s.SaltarTormenta = false;
-    s.AvisoDescargasVisto = s.ContinuarSinCorregir = false;
-    s.ProyectoNuevo = s.ConfPendiente = false;
+    s.Control.SalidaPizarra = false;
+    s.Control.ErrorRed = s.Control.RedOk = s.Serie.SaltarTormenta = false;
+    s.Control.AvisoDescargasVisto = s.Control.ContinuarSinCorregir = false;
+    s.Proyecto.ProyectoNuevo = s.Proyecto.ConfPendiente = false;
     model::LimpiaProyecto(s);
-    s.NombreProyecto = ProyectoPorDefecto;
+    s.Proyecto.NombreProyecto = ProyectoPorDefecto;
 
     portada.Abre(TextoVersion(version));
     const double desde = s.Anfitrion.Reloj();
@@ -35,13 +35,13 @@ void Prepara(Siro& s, const Portada& portada, std::string_view version, double s
 void AlAbrirse(MDIForm1& f, Siro& s)
 {
     Abre(f);
-    model::RecuperaGuardado(s, s.DirTrabajo);
+    model::RecuperaGuardado(s, s.Proyecto.DirTrabajo);
     model::AvisaEntregaPendiente(s);
-    if (s.NombreProyecto.empty()) return;
+    if (s.Proyecto.NombreProyecto.empty()) return;
     f.Estado(Variable::mnu_ultimoarchivo1).leyenda =
-        model::Ruta(s.DirProyecto, s.NombreProyecto).append(model::TerminacionConf);
-    s.ConfPendiente = true;
-    s.NombreProyecto.clear();
+        model::Ruta(s.Proyecto.DirProyecto, s.Proyecto.NombreProyecto).append(model::TerminacionConf);
+    s.Proyecto.ConfPendiente = true;
+    s.Proyecto.NombreProyecto.clear();
 }
 
 }  // namespace shell

@@ -31,7 +31,7 @@ bool EstaBajo(const QObject& ventana, const QObject& otra)
 
 Escritorio::Escritorio(const std::string& dirTrabajo)
 {
-    s.DirEjecutable = dirTrabajo;
+    s.Proyecto.DirEjecutable = dirTrabajo;
     PonAnfitrion();
     PonAvance();
     PonMandos();

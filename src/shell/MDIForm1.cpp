@@ -54,18 +54,18 @@ struct Espera {
 
 bool ProyectoParaCorrer(const Siro& s)
 {
-    return !s.NombreProyecto.empty() && !s.DirProyecto.empty();
+    return !s.Proyecto.NombreProyecto.empty() && !s.Proyecto.DirProyecto.empty();
 }
 
 bool CorridaLarga(const Siro& s)
 {
-    return s.DurTormenta > DurCorridaLarga || s.NroPasosQ >= PasosCorridaLarga;
+    return s.Tormenta.DurTormenta > DurCorridaLarga || s.Resultados.NroPasosQ >= PasosCorridaLarga;
 }
 
 bool HayArchivoDeAyuda(const Siro& s, std::string_view nombre)
 {
     try {
-        const auto archivos = s.Disco.Lista(model::Ruta(s.DirTrabajo, CarpetaAyuda));
+        const auto archivos = s.Disco.Lista(model::Ruta(s.Proyecto.DirTrabajo, CarpetaAyuda));
         return std::find(archivos.begin(), archivos.end(), nombre) != archivos.end();
     } catch (const model::Falla&) {
         return false;
@@ -74,7 +74,7 @@ bool HayArchivoDeAyuda(const Siro& s, std::string_view nombre)
 
 std::string RutaDeAyuda(const Siro& s, std::string_view nombre)
 {
-    return model::Ruta(model::Ruta(s.DirTrabajo, CarpetaAyuda), nombre);
+    return model::Ruta(model::Ruta(s.Proyecto.DirTrabajo, CarpetaAyuda), nombre);
 }
 
 /// Shows the help. Throws Falla 53 where there is none.
@@ -110,15 +110,16 @@ void carga_lbl_proyecto(MDIForm1& f, Siro& s)
     const auto pon = [&](Rotulo r, std::string texto) {
         f.rotulos[static_cast<std::size_t>(r)] = std::move(texto);
     };
-    pon(Rotulo::lblProyecto, s.NombreProyecto);
+    pon(Rotulo::lblProyecto, s.Proyecto.NombreProyecto);
     pon(Rotulo::lblTitulo, s.frmConfigura.TextProyecto);
-    pon(Rotulo::lblMiDirTrabajo, s.DirProyecto);
-    pon(Rotulo::lblFileProyecto, s.NombreProyecto + "_Conf.vlm");
+    pon(Rotulo::lblMiDirTrabajo, s.Proyecto.DirProyecto);
+    pon(Rotulo::lblFileProyecto, s.Proyecto.NombreProyecto + "_Conf.vlm");
     pon(Rotulo::lblCuenca, s.frmConfigura.TextCuenca);
     pon(Rotulo::lblSubCuenca, s.frmConfigura.TextSbca);
     pon(Rotulo::lblUbicacion, s.frmConfigura.TextUbica);
     // The first name lacks the "s" of the file on disk: kept as it stands.
-    pon(Rotulo::lblFilesTrabajo, s.NombreProyecto + "_UEH.vlm\r" + s.NombreProyecto + "_VerCau.vlm");
+    pon(Rotulo::lblFilesTrabajo,
+        s.Proyecto.NombreProyecto + "_UEH.vlm\r" + s.Proyecto.NombreProyecto + "_VerCau.vlm");
     model::Sentencia([&] { model::GuardaPuntero(s); }, [](const model::Falla&) {});
 }
 
@@ -141,7 +142,7 @@ void Cierra(Siro& s)
 
 bool ExigeProyecto(const Siro& s)
 {
-    if (!s.NombreProyecto.empty()) return true;
+    if (!s.Proyecto.NombreProyecto.empty()) return true;
     model::Advierte(s, std::string(TextoSinProyecto), TituloSinProyecto);
     return false;
 }
@@ -164,12 +165,12 @@ void mnuOpcionesConfigurar(MDIForm1& /*f*/, Siro& s, const Mandos& m)
 
 void mnufrmUEHs(MDIForm1& /*f*/, Siro& s, const Mandos& m)
 {
-    if (!s.NombreProyecto.empty() && m.AlzaEditor()) return;
+    if (!s.Proyecto.NombreProyecto.empty() && m.AlzaEditor()) return;
     if (!s.Anfitrion.ResguardaDibujo(Riesgo::MueveProyecto)) return;
-    s.ColCauces.Vacia();
-    s.ColUEHs.Vacia();
-    s.ColLagos.Vacia();
-    s.ColRepresas.Vacia();
+    s.Red.ColCauces.Vacia();
+    s.Red.ColUEHs.Vacia();
+    s.Red.ColLagos.Vacia();
+    s.Red.ColRepresas.Vacia();
     if (ExigeProyecto(s))
         m.Abre(Ventana::frmUEHs);
     else
@@ -178,15 +179,15 @@ void mnufrmUEHs(MDIForm1& /*f*/, Siro& s, const Mandos& m)
 
 void mnufrmPp(MDIForm1& /*f*/, Siro& s, const Mandos& m)
 {
-    if (s.NombreProyecto.empty() && s.ArchivoTemp.empty()) return;
+    if (s.Proyecto.NombreProyecto.empty() && s.Proyecto.ArchivoTemp.empty()) return;
     m.Abre(Ventana::dlgPp);
 }
 
 void mnuCorre1(MDIForm1& /*f*/, Siro& s, const Mandos& m)
 {
-    if (!ProyectoParaCorrer(s) || s.FormaPp == FormaSerie) return;
+    if (!ProyectoParaCorrer(s) || s.Tormenta.FormaPp == FormaSerie) return;
     if (!s.Anfitrion.ResguardaDibujo(Riesgo::ReleeRed)) return;
-    s.PasoQ = std::min(s.PasoQ, s.PasoPp);
+    s.Pasos.PasoQ = std::min(s.Pasos.PasoQ, s.Pasos.PasoPp);
     const Espera espera(m);
     if (CorridaLarga(s)) {
         s.Anfitrion.AbreAvance(TituloAvanceUna);
@@ -201,9 +202,9 @@ void mnuCorre1(MDIForm1& /*f*/, Siro& s, const Mandos& m)
 
 void mnuCorre2(MDIForm1& f, Siro& s, const Mandos& m)
 {
-    if (!ProyectoParaCorrer(s) || s.FormaPp != FormaSerie) return;
-    s.PasoQ = std::min(s.PasoQ, s.PasoPp);
-    if (s.NroSeriePDR < 1) {
+    if (!ProyectoParaCorrer(s) || s.Tormenta.FormaPp != FormaSerie) return;
+    s.Pasos.PasoQ = std::min(s.Pasos.PasoQ, s.Pasos.PasoPp);
+    if (s.Serie.NroSeriePDR < 1) {
         m.PunteroDeEspera(false);
         return;
     }
@@ -212,7 +213,7 @@ void mnuCorre2(MDIForm1& f, Siro& s, const Mandos& m)
         return;
     if (!s.Anfitrion.ResguardaDibujo(Riesgo::ReleeRed)) return;
     const Espera espera(m);
-    s.SalidaPizarra = false;
+    s.Control.SalidaPizarra = false;
     f.Estado(Variable::mnuPizarra1).marcada = false;
     engine::CorreSeriePDR(s, TodosLosNucleos);
     m.Abre(Ventana::dlgChart3);
@@ -228,14 +229,14 @@ void mnuPizarra1(MDIForm1& f, Siro& s, const Mandos& m)
     }
     if (marcada) {
         marcada = false;
-        s.SalidaPizarra = false;
+        s.Control.SalidaPizarra = false;
         m.Cierra(Ventana::frmPp);
         return;
     }
     marcada = true;
-    s.SalidaPizarra = true;
+    s.Control.SalidaPizarra = true;
     m.Abre(Ventana::frmPp);
-    s.Anfitrion.PonPizarra(s.TextoPizarra);
+    s.Anfitrion.PonPizarra(s.Control.TextoPizarra);
 }
 
 void VerPizarra(MDIForm1& f, Siro& s, const Mandos& m)
@@ -246,10 +247,10 @@ void VerPizarra(MDIForm1& f, Siro& s, const Mandos& m)
 
 void mnuGraficoPp(MDIForm1& /*f*/, Siro& s, const Mandos& m)
 {
-    if (s.PpTormenta == 0 || s.DurTormenta == 0) return;
+    if (s.Tormenta.PpTormenta == 0 || s.Tormenta.DurTormenta == 0) return;
     const std::optional<results::Hietograma> pedido = results::mnuGraficoPp(s, m.NotasDeTormenta());
     // Building it may find the storm to be none.
-    if (s.PpTormenta == 0 || s.DurTormenta == 0) s.Anfitrion.Termina();
+    if (s.Tormenta.PpTormenta == 0 || s.Tormenta.DurTormenta == 0) s.Anfitrion.Termina();
     if (pedido) m.AbreHietograma(*pedido);
 }
 

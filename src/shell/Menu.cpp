@@ -43,13 +43,13 @@ void ConProyecto(MDIForm1& /*f*/, Siro& s, const Mandos& m)
 template <Orden verificacion>
 void ConRepresas(MDIForm1& /*f*/, Siro& s, const Mandos& /*m*/)
 {
-    if (s.NroRepresas >= 1) verificacion(s);
+    if (s.Red.NroRepresas >= 1) verificacion(s);
 }
 
 template <Ventana ventana>
 void ConSerie(MDIForm1& /*f*/, Siro& s, const Mandos& m)
 {
-    if (s.NroSeriePDR > 1) m.Abre(ventana);
+    if (s.Serie.NroSeriePDR > 1) m.Abre(ventana);
 }
 
 constexpr Rutina Nuevo = mnuNuevoProyecto;

@@ -118,7 +118,7 @@ void Elige(frmConfigura& f, Siro& s, const std::string& directorio, const std::s
 
 std::string ArchivoConf(const Siro& s)
 {
-    return s.NombreProyecto + std::string(model::TerminacionConf);
+    return s.Proyecto.NombreProyecto + std::string(model::TerminacionConf);
 }
 
 /// Whether the image chosen is one of the directory picked.
@@ -141,7 +141,7 @@ std::string RutaConf(const Siro& s, const std::string& directorio)
 double EscalaBase(const Siro& s)
 {
     std::int32_t base = 0;
-    model::Sentencia([&] { base = model::Entero32(Val(s.MaxUEHsPixel)); }, [](const Falla&) {});
+    model::Sentencia([&] { base = model::Entero32(Val(s.Configuracion.MaxUEHsPixel)); }, [](const Falla&) {});
     constexpr double PorDefecto = 800;
     return base > 0 ? base : PorDefecto;
 }
@@ -176,11 +176,11 @@ void Recorta(Siro& s, const CampoRecortado& campo)
 // clang-format off
 const std::array<CampoRecortado, 4> CamposRecortados = {{
     {"TexIMGEscala", &ControlesConfigura::TexIMGEscala, Tope<1000>, Tope<1000>, true,
-     [](Siro& s, double x) { s.EscalaImagen = x; }},
+     [](Siro& s, double x) { s.Configuracion.EscalaImagen = x; }},
     {"TexIMGX0", &ControlesConfigura::TexIMGX0, BordeDelDibujo, EscalaBase, false,
-     [](Siro& s, double x) { s.ImagenX0 = Simple(x); }},
+     [](Siro& s, double x) { s.Configuracion.ImagenX0 = Simple(x); }},
     {"TexIMGY0", &ControlesConfigura::TexIMGY0, BordeDelDibujo, EscalaBase, false,
-     [](Siro& s, double x) { s.ImagenY0 = Simple(x); }},
+     [](Siro& s, double x) { s.Configuracion.ImagenY0 = Simple(x); }},
     // The run-wide value is taken at the next reading of the file.
     {"txtMaxUEHsPixel", &ControlesConfigura::txtMaxUEHsPixel, Tope<1024>, Tope<1024>, false,
      [](Siro&, double) {}},
@@ -189,10 +189,10 @@ const std::array<CampoRecortado, 4> CamposRecortados = {{
 const std::array<CampoRechazado, 2> CamposRechazados = {{
     {{.control = "txtEscalaImagen", .maximo = 50000, .mensaje = EntreDiezYTreintaMil,
       .caja = forms::CajaRechazo::Llana},
-     &ControlesConfigura::txtEscalaImagen, [](Siro& s, double x) { s.EscalaDibujo = NumeroATexto(x); }},
+     &ControlesConfigura::txtEscalaImagen, [](Siro& s, double x) { s.Configuracion.EscalaDibujo = NumeroATexto(x); }},
     {{.control = "txtN0Dur", .minimo = 10, .maximo = 30000, .mensaje = EntreDiezYTreintaMil,
       .caja = forms::CajaRechazo::Llana},
-     &ControlesConfigura::txtN0Dur, [](Siro& s, double x) { s.N0Dur = Simple(x); }},
+     &ControlesConfigura::txtN0Dur, [](Siro& s, double x) { s.Pasos.N0Dur = Simple(x); }},
 }};
 // clang-format on
 
@@ -265,19 +265,19 @@ bool SinAplicar(const frmConfigura& f, const Siro& s)
 void Abre(frmConfigura& f, Siro& s)
 {
     ControlesConfigura& c = s.frmConfigura;
-    c.Dir1 = s.DirProyecto;
-    c.Drive1 = model::UnidadDe(s.DirProyecto);
+    c.Dir1 = s.Proyecto.DirProyecto;
+    c.Drive1 = model::UnidadDe(s.Proyecto.DirProyecto);
     Relista(f, s);
     f.filArchivoConfigura.indice = f.filArchivoImagenDib.indice = -1;
-    if (!s.NombreProyecto.empty()) {
-        f.lblnombreproyecto = s.NombreProyecto;
+    if (!s.Proyecto.NombreProyecto.empty()) {
+        f.lblnombreproyecto = s.Proyecto.NombreProyecto;
         c.lblMiArchivoConf = ArchivoConf(s);
     }
     f.SSTab1 = 0;
-    if (s.ProyectoNuevo) {
+    if (s.Proyecto.ProyectoNuevo) {
         OKButton(f, s);
         f.SSTab1 = FichaImagen;
-        model::Sentencia([&] { ListaLosDe(f, s, s.DirProyectoConf); }, [](const Falla&) {});
+        model::Sentencia([&] { ListaLosDe(f, s, s.Proyecto.DirProyectoConf); }, [](const Falla&) {});
         const auto& items = f.filArchivoConfigura.items;
         const auto lugar = std::find(items.begin(), items.end(), ArchivoConf(s));
         f.filArchivoConfigura.indice = lugar == items.end() ? -1 : static_cast<int>(lugar - items.begin());
@@ -315,7 +315,7 @@ void BtnDefecto(frmConfigura& f, Siro& s)
         Asegura(s, base);
         Asegura(s, proyectos);
         Elige(f, s, proyectos, model::HayUnidades ? "C: [Disco C]" : "");
-        s.DirProyecto = proyectos;
+        s.Proyecto.DirProyecto = proyectos;
         s.frmConfigura.CheckDistriPp = 1;
         f.CheckDirNv = false;
     });
@@ -338,7 +338,7 @@ void BtnDirNv(frmConfigura& f, Siro& s)
         s.Disco.CreaDirectorio(directorio);
         Entra(s, directorio);
         Elige(f, s, directorio, model::UnidadDe(directorio));
-        s.DirProyecto = directorio;
+        s.Proyecto.DirProyecto = directorio;
     });
 }
 
@@ -381,18 +381,19 @@ void filArchivoConfigura_Click(frmConfigura& f, Siro& s)
     }
     std::string proyecto = archivo.substr(0, archivo.size() - TerminacionConfigura.size());
     if (proyecto.ends_with('_')) proyecto.pop_back();
-    const bool esOtro = proyecto != s.NombreProyecto || s.DirProyecto != s.frmConfigura.Dir1;
+    const bool esOtro =
+        proyecto != s.Proyecto.NombreProyecto || s.Proyecto.DirProyecto != s.frmConfigura.Dir1;
     if (esOtro && !s.Anfitrion.ResguardaDibujo(Riesgo::OtroProyecto)) return;
-    s.DirProyecto = s.frmConfigura.Dir1;
-    s.NombreProyecto = proyecto;
-    model::RecuperaGuardado(s, s.DirProyecto);
+    s.Proyecto.DirProyecto = s.frmConfigura.Dir1;
+    s.Proyecto.NombreProyecto = proyecto;
+    model::RecuperaGuardado(s, s.Proyecto.DirProyecto);
     model::LeeConfReclamada(s);
     RecuerdaControles(f, s);
-    f.lblnombreproyecto = s.NombreProyecto;
+    f.lblnombreproyecto = s.Proyecto.NombreProyecto;
     Relista(f, s);
     // A pointer that can't be written keeps no project from being loaded.
     model::Sentencia([&] { model::carga_lbl_proyecto(s); }, [](const Falla&) {});
-    Informa(s, std::string(Cargado1).append(archivo).append(Cargado2).append(s.NombreProyecto));
+    Informa(s, std::string(Cargado1).append(archivo).append(Cargado2).append(s.Proyecto.NombreProyecto));
 }
 
 void filArchivoImagenDib_Click(frmConfigura& f, Siro& s)
@@ -431,8 +432,8 @@ bool Esta(const Siro& s, const std::string& directorio, std::string_view nombre)
 /// Stores the configuration. Returns false where the user or a fault, which was told, kept it from that.
 bool Aplica(frmConfigura& f, Siro& s)
 {
-    const std::string antes = s.DirProyecto;
-    const bool semuda = !s.NombreProyecto.empty() && s.frmConfigura.Dir1 != antes;
+    const std::string antes = s.Proyecto.DirProyecto;
+    const bool semuda = !s.Proyecto.NombreProyecto.empty() && s.frmConfigura.Dir1 != antes;
     const bool porLaImagen = semuda && ImagenDeDir1(s);
     const bool habiaConf = Esta(s, s.frmConfigura.Dir1, ArchivoConf(s));
     if (semuda && !s.Anfitrion.ResguardaDibujo(Riesgo::MueveProyecto)) return false;
@@ -440,14 +441,14 @@ bool Aplica(frmConfigura& f, Siro& s)
     Evento(s, [&] { guardada = model::cmdAplicar(s); });
     if (guardada) RecuerdaControles(f, s);
     if (!guardada || !semuda) return guardada;
-    f.mudanza = porLaImagen ? Mudanza{antes, RutaConf(s, s.DirProyecto), !habiaConf} : Mudanza{};
+    f.mudanza = porLaImagen ? Mudanza{antes, RutaConf(s, s.Proyecto.DirProyecto), !habiaConf} : Mudanza{};
     return true;
 }
 
 /// Whether the project in hand is the one that went to the folder of its image.
 bool SeMudo(const frmConfigura& f, const Siro& s)
 {
-    return !f.mudanza.desde.empty() && f.mudanza.conf == RutaConf(s, s.DirProyecto);
+    return !f.mudanza.desde.empty() && f.mudanza.conf == RutaConf(s, s.Proyecto.DirProyecto);
 }
 
 /// Copies a file into the project's folder, over another one only where the user wants that. Returns whether
@@ -475,25 +476,25 @@ void QuitaLoDejado(const Mudanza& mudanza, const Siro& s)
 
 std::string AvisoImagen(const frmConfigura& f, const Siro& s)
 {
-    if (s.NombreProyecto.empty()) return {};
-    if (s.frmConfigura.Dir1 != s.DirProyecto && ImagenDeDir1(s))
+    if (s.Proyecto.NombreProyecto.empty()) return {};
+    if (s.frmConfigura.Dir1 != s.Proyecto.DirProyecto && ImagenDeDir1(s))
         return std::string(ImagenAfuera).append(s.frmConfigura.Dir1).append(RedVacia);
-    if (!SeMudo(f, s) || s.frmConfigura.Dir1 != s.DirProyecto || !ImagenDeDir1(s)) return {};
-    return std::string(SeMudo1).append(s.DirProyecto).append(SeMudo2).append(f.mudanza.desde);
+    if (!SeMudo(f, s) || s.frmConfigura.Dir1 != s.Proyecto.DirProyecto || !ImagenDeDir1(s)) return {};
+    return std::string(SeMudo1).append(s.Proyecto.DirProyecto).append(SeMudo2).append(f.mudanza.desde);
 }
 
 void cmdTraeImagen(frmConfigura& f, Siro& s)
 {
     Evento(s, [&] {
         if (AvisoImagen(f, s).empty()) return;
-        const std::string casa = SeMudo(f, s) ? f.mudanza.desde : s.DirProyecto;
+        const std::string casa = SeMudo(f, s) ? f.mudanza.desde : s.Proyecto.DirProyecto;
         const std::string ruta = s.frmConfigura.lblImagenDibujo;
         const std::string nombre = ruta.substr(ruta.rfind(model::Separador) + 1);
         if (!s.Anfitrion.ResguardaDibujo(Riesgo::MueveProyecto)) return;
         if (!CopiaACasa(s, casa, ruta, nombre)) return;
         Elige(f, s, casa, model::UnidadDe(casa));
         s.frmConfigura.lblImagenDibujo = Dentro(casa, nombre);
-        if (casa == s.DirProyecto) return;
+        if (casa == s.Proyecto.DirProyecto) return;
         s.Vigilancia.archivoConf = RutaConf(s, casa);  // the project's own, left as it was
         if (!model::cmdAplicar(s)) return;
         RecuerdaControles(f, s);

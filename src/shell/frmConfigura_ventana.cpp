@@ -56,7 +56,7 @@ frmConfigura_ventana::frmConfigura_ventana(forms::Entorno& alrededor, frmConfigu
 void frmConfigura_ventana::EmpiezaAbertura()
 {
     if (directorios == nullptr) PonDirectorios();
-    if (!isVisible() || entorno.s.ProyectoNuevo) {
+    if (!isVisible() || entorno.s.Proyecto.ProyectoNuevo) {
         shell::Abre(f, entorno.s);
         SSTab1->tabBar()->setFocus();
     }

@@ -95,11 +95,11 @@ TEST_F(CorridaLote, AbrirTomaDirectorioNombreYConfiguracion)
 {
     Siro s;
     batch::AbreProyecto(s, proyecto.Conf());
-    EXPECT_EQ(s.DirProyecto, proyecto.Dir());
-    EXPECT_EQ(s.NombreProyecto, "Mio");
-    EXPECT_EQ(s.TituloProyecto, "Titulo");
-    EXPECT_EQ(s.N0Dur, 10.0F);
-    EXPECT_EQ(s.ColUEHs.Cuenta(), 0);  // the components wait for the run
+    EXPECT_EQ(s.Proyecto.DirProyecto, proyecto.Dir());
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "Mio");
+    EXPECT_EQ(s.Configuracion.TituloProyecto, "Titulo");
+    EXPECT_EQ(s.Pasos.N0Dur, 10.0F);
+    EXPECT_EQ(s.Red.ColUEHs.Cuenta(), 0);  // the components wait for the run
 }
 
 TEST_F(CorridaLote, UnaConfiguracionQueNoSePuedeAbrirEsUnaLineaConEstadoUno)
@@ -167,13 +167,13 @@ TEST(FijaTormenta, FormaEscritaTomaLasOpciones)
     o.pasoPp = 30;
     o.pasoQ = 15;
     batch::FijaTormenta(s, o);
-    EXPECT_EQ(s.FormaPp, 1);
-    EXPECT_EQ(s.PpTormenta, 33.5F);
-    EXPECT_EQ(s.DurTormenta, 90);
-    EXPECT_EQ(s.RecTormenta, 25);
-    EXPECT_EQ(s.DistriPp, 4);
-    EXPECT_EQ(s.PasoPp, 30);
-    EXPECT_EQ(s.PasoQ, 15);
+    EXPECT_EQ(s.Tormenta.FormaPp, 1);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 33.5F);
+    EXPECT_EQ(s.Tormenta.DurTormenta, 90);
+    EXPECT_EQ(s.Tormenta.RecTormenta, 25);
+    EXPECT_EQ(s.Tormenta.DistriPp, 4);
+    EXPECT_EQ(s.Pasos.PasoPp, 30);
+    EXPECT_EQ(s.Pasos.PasoQ, 15);
 }
 
 /// Steps as they were typed and as the run gets them.
@@ -193,8 +193,8 @@ TEST_P(PasosDeLaTormenta, SeBajanALaDuracionYAlPasoDelModelo)
     o.pasoPp = caso.pasoPp;
     o.pasoQ = caso.pasoQ;
     batch::FijaTormenta(s, o);
-    EXPECT_EQ(s.PasoPp, caso.pasoPpCorre);
-    EXPECT_EQ(s.PasoQ, caso.pasoQCorre);
+    EXPECT_EQ(s.Pasos.PasoPp, caso.pasoPpCorre);
+    EXPECT_EQ(s.Pasos.PasoQ, caso.pasoQCorre);
 }
 
 INSTANTIATE_TEST_SUITE_P(Filas, PasosDeLaTormenta,
@@ -222,12 +222,12 @@ TEST(FijaTormenta, EnUnaSerieElPasoNoSeBajaALaDuracion)
     o.tabla = 2;
     o.forma = 3;
     batch::FijaTormenta(s, o);
-    EXPECT_EQ(s.FormaPp, 2);
-    EXPECT_EQ(s.TablaPDR, 2);
-    EXPECT_EQ(s.DistriPp, 3);
-    EXPECT_EQ(s.PasoPp, 30);
-    EXPECT_EQ(s.PasoQ, 30);
-    EXPECT_EQ(s.NroSeriePDR, 0);
+    EXPECT_EQ(s.Tormenta.FormaPp, 2);
+    EXPECT_EQ(s.Tormenta.TablaPDR, 2);
+    EXPECT_EQ(s.Tormenta.DistriPp, 3);
+    EXPECT_EQ(s.Pasos.PasoPp, 30);
+    EXPECT_EQ(s.Pasos.PasoQ, 30);
+    EXPECT_EQ(s.Serie.NroSeriePDR, 0);
 }
 
 TEST(FijaTormenta, LaminasPorUEHVanConDistribucionCeroYLaPrimeraMayorQueCero)
@@ -239,13 +239,13 @@ TEST(FijaTormenta, LaminasPorUEHVanConDistribucionCeroYLaPrimeraMayorQueCero)
     o.distribucion = 5;
     o.ppUEH = {0, 12.5F, 30};
     batch::FijaTormenta(s, o);
-    EXPECT_EQ(s.FormaPp, 3);
-    EXPECT_EQ(s.DistriPp, 0);
-    EXPECT_EQ(s.PpTormenta, 12.5F);
-    EXPECT_EQ(s.PpUEH(1), 0.0F);
-    EXPECT_EQ(s.PpUEH(2), 12.5F);
-    EXPECT_EQ(s.PpUEH(3), 30.0F);
-    EXPECT_EQ(s.PpUEH(4), 0.0F);
+    EXPECT_EQ(s.Tormenta.FormaPp, 3);
+    EXPECT_EQ(s.Tormenta.DistriPp, 0);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 12.5F);
+    EXPECT_EQ(s.Tormenta.PpUEH(1), 0.0F);
+    EXPECT_EQ(s.Tormenta.PpUEH(2), 12.5F);
+    EXPECT_EQ(s.Tormenta.PpUEH(3), 30.0F);
+    EXPECT_EQ(s.Tormenta.PpUEH(4), 0.0F);
 }
 
 TEST(FijaTormenta, SinLaminasPorUEHValeLaPrecipitacionEscrita)
@@ -257,9 +257,9 @@ TEST(FijaTormenta, SinLaminasPorUEHValeLaPrecipitacionEscrita)
         o.pp = 99;
         o.ppUEH = laminas;
         batch::FijaTormenta(s, o);
-        EXPECT_EQ(s.PpTormenta, 99.0F);
+        EXPECT_EQ(s.Tormenta.PpTormenta, 99.0F);
         for (int i = 0; i <= model::MaxUEHs; ++i)
-            EXPECT_EQ(s.PpUEH(i), 0.0F) << i;
+            EXPECT_EQ(s.Tormenta.PpUEH(i), 0.0F) << i;
     }
 }
 
@@ -271,7 +271,7 @@ TEST_F(CorridaLote, UnaTormentaRealTraeLaminaDuracionYPaso)
 {
     proyecto.Escribe("Vieja_pt.vlm", TormentaDeTres);
     Siro s;
-    s.DirProyecto = proyecto.Dir();
+    s.Proyecto.DirProyecto = proyecto.Dir();
     Opciones o;
     o.forma = 4;
     o.tormenta = "Vieja_pt.vlm";
@@ -280,15 +280,15 @@ TEST_F(CorridaLote, UnaTormentaRealTraeLaminaDuracionYPaso)
     o.pasoPp = 7;
     o.pasoQ = 30;
     batch::FijaTormenta(s, o);
-    EXPECT_EQ(s.FormaPp, 4);
-    EXPECT_EQ(s.DistriPp, 7);
-    EXPECT_EQ(s.PpTormenta, 5.5F);
-    EXPECT_EQ(s.DurTormenta, 60);
-    EXPECT_EQ(s.RecTormenta, 5);
-    EXPECT_EQ(s.PasoPp, 20);
-    EXPECT_EQ(s.PasoQ, 20);
-    ASSERT_EQ(s.NroPpReal, 3);
-    EXPECT_EQ(s.PpReal(3), 4.0F);
+    EXPECT_EQ(s.Tormenta.FormaPp, 4);
+    EXPECT_EQ(s.Tormenta.DistriPp, 7);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 5.5F);
+    EXPECT_EQ(s.Tormenta.DurTormenta, 60);
+    EXPECT_EQ(s.Tormenta.RecTormenta, 5);
+    EXPECT_EQ(s.Pasos.PasoPp, 20);
+    EXPECT_EQ(s.Pasos.PasoQ, 20);
+    ASSERT_EQ(s.Tormenta.NroPpReal, 3);
+    EXPECT_EQ(s.Tormenta.PpReal(3), 4.0F);
 }
 
 TEST_F(CorridaLote, SinNombreLaTormentaRealEsLaPorDefecto)
@@ -296,12 +296,12 @@ TEST_F(CorridaLote, SinNombreLaTormentaRealEsLaPorDefecto)
     proyecto.Escribe(model::TormentaPorDefecto, TormentaDeTres);
     for (const char* nombre : {"", "Vieja.vlm"}) {
         Siro s;
-        s.DirProyecto = proyecto.Dir();
+        s.Proyecto.DirProyecto = proyecto.Dir();
         Opciones o;
         o.forma = 4;
         o.tormenta = nombre;
         batch::FijaTormenta(s, o);
-        EXPECT_EQ(s.DurTormenta, 60) << nombre;
+        EXPECT_EQ(s.Tormenta.DurTormenta, 60) << nombre;
     }
 }
 
@@ -312,13 +312,13 @@ TEST_F(CorridaLote, UnaTormentaRealQueNoSeLeeCuentaComoNinguna)
     proyecto.Escribe("Nula_pt.vlm", "\"\"\r\n0,10\r\n\"\",\"\"\r\n\"\",\"\"\r\n");
     for (const char* nombre : {"Falta_pt.vlm", "Corta_pt.vlm", "Nula_pt.vlm"}) {
         Siro s;
-        s.DirProyecto = proyecto.Dir();
+        s.Proyecto.DirProyecto = proyecto.Dir();
         Opciones o;
         o.forma = 4;
         o.tormenta = nombre;
         batch::FijaTormenta(s, o);
-        EXPECT_EQ(s.PpTormenta, 0.0F) << nombre;
-        EXPECT_EQ(s.DurTormenta, 0) << nombre;
+        EXPECT_EQ(s.Tormenta.PpTormenta, 0.0F) << nombre;
+        EXPECT_EQ(s.Tormenta.DurTormenta, 0) << nombre;
         const Respuesta r = Una({"--forma", "4", "--tormenta", nombre});
         EXPECT_EQ(r.estado, 1) << nombre;
         EXPECT_EQ(r.errores, "") << nombre;

@@ -101,40 +101,41 @@ Siro UnoDeCada()
     model::UEH ueh;
     ueh.NombreUEH = "u-1";
     ueh.numUEH = 1;
-    s.ColUEHs.Agrega(ueh);
+    s.Red.ColUEHs.Agrega(ueh);
     model::Cauce cauce;
     cauce.NombreCauce = "c-1,a";
     cauce.numCauce = 1;
-    s.ColCauces.Agrega(cauce);
+    s.Red.ColCauces.Agrega(cauce);
     model::Lago lago;
     lago.NombreLAGO = "l-1";
     lago.numLAGO = 1;
-    s.ColLagos.Agrega(lago);
+    s.Red.ColLagos.Agrega(lago);
     model::Represa represa;
     represa.NombreRepresa = "r-1";
     represa.numRepresa = 1;
-    s.ColRepresas.Agrega(represa);
-    s.NroUEHs = s.NroCauces = s.NroLagos = s.NroRepresas = 1;
-    s.NroComponentes = 4;
-    s.Secuencia = {"", "u-1", "r-1", "c-1,a", "l-1"};  // an order of computation, not that of the kinds
-    s.NroPasosQ = 2;
-    s.PasoQ = 5;
-    s.QSale.Dimensiona(4, 3);
-    s.QEntra.Dimensiona(2, 5, 3);
-    s.HRepresa.Dimensiona(1, 3);
-    s.SRepresa.Dimensiona(1, 3);
-    s.HLago.Dimensiona(1, 3);
-    s.SLago.Dimensiona(1, 3);
+    s.Red.ColRepresas.Agrega(represa);
+    s.Red.NroUEHs = s.Red.NroCauces = s.Red.NroLagos = s.Red.NroRepresas = 1;
+    s.Resultados.NroComponentes = 4;
+    s.Resultados.Secuencia = {"", "u-1", "r-1", "c-1,a",
+                              "l-1"};  // an order of computation, not that of the kinds
+    s.Resultados.NroPasosQ = 2;
+    s.Pasos.PasoQ = 5;
+    s.Resultados.QSale.Dimensiona(4, 3);
+    s.Resultados.QEntra.Dimensiona(2, 5, 3);
+    s.Resultados.HRepresa.Dimensiona(1, 3);
+    s.Resultados.SRepresa.Dimensiona(1, 3);
+    s.Resultados.HLago.Dimensiona(1, 3);
+    s.Resultados.SLago.Dimensiona(1, 3);
     for (int p = 0; p <= 2; ++p) {
         const auto x = static_cast<float>(p);
         for (int c = 1; c <= 4; ++c)
-            s.QSale(c, p) = x + static_cast<float>(c) / 4;
+            s.Resultados.QSale(c, p) = x + static_cast<float>(c) / 4;
         for (int c = 2; c <= 4; ++c)
-            s.QEntra(c, p) = x + 100;
-        s.HRepresa(1, p) = x + 10;
-        s.SRepresa(1, p) = x + 1000;
-        s.HLago(1, p) = x + 20;
-        s.SLago(1, p) = x + 2000;
+            s.Resultados.QEntra(c, p) = x + 100;
+        s.Resultados.HRepresa(1, p) = x + 10;
+        s.Resultados.SRepresa(1, p) = x + 1000;
+        s.Resultados.HLago(1, p) = x + 20;
+        s.Resultados.SLago(1, p) = x + 2000;
     }
     return s;
 }
@@ -175,7 +176,7 @@ TEST(CsvTormenta, SinComponentesQuedaLaCabeza)
 TEST(CsvTormenta, LosMinutosPasanDe16Bits)
 {
     Siro s = UnoDeCada();
-    s.PasoQ = 20000;
+    s.Pasos.PasoQ = 20000;
     DiscoDePrueba disco;
     disco.PonEn(s);
     batch::GuardaCsvTormenta(s, "/r.csv");
@@ -185,9 +186,9 @@ TEST(CsvTormenta, LosMinutosPasanDe16Bits)
 TEST(CsvTormenta, LoQueUnArregloNoTieneQuedaVacio)
 {
     Siro s = UnoDeCada();
-    s.HLago.Dimensiona(1, 1);      // no step 2
-    s.SLago = {};                  // never allocated
-    s.QEntra.Dimensiona(2, 3, 3);  // no row of l-1
+    s.Resultados.HLago.Dimensiona(1, 1);      // no step 2
+    s.Resultados.SLago = {};                  // never allocated
+    s.Resultados.QEntra.Dimensiona(2, 3, 3);  // no row of l-1
     DiscoDePrueba disco;
     disco.PonEn(s);
     batch::GuardaCsvTormenta(s, "/r.csv");
@@ -200,15 +201,15 @@ TEST(CsvTormenta, LoQueUnArregloNoTieneQuedaVacio)
 TEST(CsvTormenta, UnArchivoLargoVaPorTrozosYEntero)
 {
     Siro s = UnoDeCada();
-    s.NroPasosQ = 8999;
-    s.PasoQ = 1;
-    s.QSale.Dimensiona(4, 9000);
+    s.Resultados.NroPasosQ = 8999;
+    s.Pasos.PasoQ = 1;
+    s.Resultados.QSale.Dimensiona(4, 9000);
     for (int p = 0; p <= 8999; ++p)
-        s.QSale(1, p) = static_cast<float>(p) / 3;
-    s.NroComponentes = 1;
+        s.Resultados.QSale(1, p) = static_cast<float>(p) / 3;
+    s.Resultados.NroComponentes = 1;
     DiscoDePrueba disco;
     disco.PonEn(s);
-    s.Secuencia[1] = "u-con un nombre";
+    s.Resultados.Secuencia[1] = "u-con un nombre";
     batch::GuardaCsvTormenta(s, "/r.csv");
     const std::string& csv = disco.archivos["/r.csv"];
     EXPECT_EQ(std::count(csv.begin(), csv.end(), '\n'), 9001);
@@ -231,32 +232,32 @@ TEST(CsvTormenta, UnDiscoQueFallaDaSuFalla)
 Siro SerieDeTres()
 {
     Siro s = UnoDeCada();
-    s.FormaPp = 2;
-    s.PasoPp = 10;
-    s.NroSeriePDR = 3;
-    s.SerieP.Dimensiona(3);
-    s.SerieD.Dimensiona(3);
-    s.SerieR.Dimensiona(3);
+    s.Tormenta.FormaPp = 2;
+    s.Pasos.PasoPp = 10;
+    s.Serie.NroSeriePDR = 3;
+    s.Serie.SerieP.Dimensiona(3);
+    s.Serie.SerieD.Dimensiona(3);
+    s.Serie.SerieR.Dimensiona(3);
     const float p[] = {0, 60, 61, 62.5F};
     const std::int16_t d[] = {0, 45, 7, 75};
     const std::int16_t r[] = {0, 3, 4, 7};
-    s.QMax.Dimensiona(4, 3);
-    s.EscUEH.Dimensiona(1, 3);
-    s.CoefEscUEH.Dimensiona(1, 3);
-    s.EscTotal.Dimensiona(3);
-    s.CoefEscTotal.Dimensiona(3);
+    s.Resultados.QMax.Dimensiona(4, 3);
+    s.Resultados.EscUEH.Dimensiona(1, 3);
+    s.Resultados.CoefEscUEH.Dimensiona(1, 3);
+    s.Resultados.EscTotal.Dimensiona(3);
+    s.Resultados.CoefEscTotal.Dimensiona(3);
     for (int n = 1; n <= 3; ++n) {
-        s.SerieP(n) = p[n];
-        s.SerieD(n) = d[n];
-        s.SerieR(n) = r[n];
+        s.Serie.SerieP(n) = p[n];
+        s.Serie.SerieD(n) = d[n];
+        s.Serie.SerieR(n) = r[n];
         for (int c = 1; c <= 4; ++c)
-            s.QMax(c, n) = static_cast<float>(10 * n) + static_cast<float>(c) / 10;
-        s.EscUEH(1, n) = 20000000 + n;
-        s.CoefEscUEH(1, n) = 30.5F;
-        s.EscTotal(n) = -n;
-        s.CoefEscTotal(n) = 40.25F;
+            s.Resultados.QMax(c, n) = static_cast<float>(10 * n) + static_cast<float>(c) / 10;
+        s.Resultados.EscUEH(1, n) = 20000000 + n;
+        s.Resultados.CoefEscUEH(1, n) = 30.5F;
+        s.Resultados.EscTotal(n) = -n;
+        s.Resultados.CoefEscTotal(n) = 40.25F;
     }
-    s.IndSerie = 4;
+    s.Serie.IndSerie = 4;
     return s;
 }
 
@@ -288,13 +289,13 @@ TEST(CsvSerie, DejaElIndiceDeLaSerieComoEstaba)
     DiscoDePrueba disco;
     disco.PonEn(s);
     batch::GuardaCsvSerie(s, "/r.csv");
-    EXPECT_EQ(s.IndSerie, 4);
+    EXPECT_EQ(s.Serie.IndSerie, 4);
 }
 
 TEST(CsvSerie, TodasSaltadasDejanLaCabeza)
 {
     Siro s = SerieDeTres();
-    s.PasoPp = 100;
+    s.Pasos.PasoPp = 100;
     DiscoDePrueba disco;
     disco.PonEn(s);
     batch::GuardaCsvSerie(s, "/r.csv");

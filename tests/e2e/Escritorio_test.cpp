@@ -164,31 +164,31 @@ class EditorEnPantalla : public Escritorio {
     void DaDatos(const char* nombre) const
     {
         model::Siro s;
-        s.NombreProyecto = nombre;
-        s.DirProyecto = s.DirProyectoConf = dir + "/Proyectos";
+        s.Proyecto.NombreProyecto = nombre;
+        s.Proyecto.DirProyecto = s.Proyecto.DirProyectoConf = dir + "/Proyectos";
         model::LeeUEHs(s);
-        for (model::UEH& u : s.ColUEHs) {
+        for (model::UEH& u : s.Red.ColUEHs) {
             u.Area = 250;
             u.LongitudMax = 900;
             u.VelMedia = 0.5F;
         }
-        for (model::Cauce& c : s.ColCauces) {
+        for (model::Cauce& c : s.Red.ColCauces) {
             c.LongCauce = 1200;
             c.VelMediaCauce = 1;
         }
         model::mnu_btn_toolbarGuardaUEHs(s);
-        s.RepresaFilasHAS.Dimensiona(1);
-        s.RepresaFilasHQ.Dimensiona(1);
-        s.RepresaFilasHAS(1) = s.RepresaFilasHQ(1) = 2;
-        s.RepresaH.Dimensiona(1, 2);
-        s.RepresaA.Dimensiona(1, 2);
-        s.RepresaS.Dimensiona(1, 2);
-        s.RepresaQH.Dimensiona(1, 2);
-        s.RepresaQQ.Dimensiona(1, 2);
-        s.RepresaH(1, 2) = s.RepresaQH(1, 2) = 20;
-        s.RepresaA(1, 2) = 80;
-        s.RepresaS(1, 2) = 8000000;
-        s.RepresaQQ(1, 2) = 150;
+        s.Red.RepresaFilasHAS.Dimensiona(1);
+        s.Red.RepresaFilasHQ.Dimensiona(1);
+        s.Red.RepresaFilasHAS(1) = s.Red.RepresaFilasHQ(1) = 2;
+        s.Red.RepresaH.Dimensiona(1, 2);
+        s.Red.RepresaA.Dimensiona(1, 2);
+        s.Red.RepresaS.Dimensiona(1, 2);
+        s.Red.RepresaQH.Dimensiona(1, 2);
+        s.Red.RepresaQQ.Dimensiona(1, 2);
+        s.Red.RepresaH(1, 2) = s.Red.RepresaQH(1, 2) = 20;
+        s.Red.RepresaA(1, 2) = 80;
+        s.Red.RepresaS(1, 2) = 8000000;
+        s.Red.RepresaQQ(1, 2) = 150;
         model::GuardaTablaHSVRepresa(s);
         model::GuardaTablaHQRepresa(s);
     }

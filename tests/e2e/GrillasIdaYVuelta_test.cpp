@@ -38,7 +38,7 @@ class GrillasIdaYVuelta : public testing::Test {
     {
         fs::copy(SIRO_DATA_DIR, dir, fs::copy_options::recursive);
         s.Anfitrion = anfitrion.Puerta();
-        s.DirTrabajo = dir;
+        s.Proyecto.DirTrabajo = dir;
         batch::AbreProyecto(s, conf);
         model::LeeUEHs(s);
         anfitrion->sucesos.clear();
@@ -115,7 +115,7 @@ TEST_F(GrillasIdaYVuelta, ElDobleDeCaudalEnLaTablaDelLagoSubeSuPico)
 TEST_F(GrillasIdaYVuelta, ElDobleDeCaudalEnLaTablaHQSubeElPicoDeLaRepresa)
 {
     const Picos antes = Corre();
-    s.RepresaSel = 2;
+    s.Seleccion.RepresaSel = 2;
     Multiplica(TipoTabla::FQ, 2, 2);
     const Picos despues = Corre();
     EXPECT_GT(despues.at("r-Calfún"), 1.05F * antes.at("r-Calfún"));
@@ -124,7 +124,7 @@ TEST_F(GrillasIdaYVuelta, ElDobleDeCaudalEnLaTablaHQSubeElPicoDeLaRepresa)
 TEST_F(GrillasIdaYVuelta, ElDobleDeVolumenEnLaTablaHASBajaElPicoDeLaRepresa)
 {
     const Picos antes = Corre();
-    s.RepresaSel = 1;
+    s.Seleccion.RepresaSel = 1;
     Multiplica(TipoTabla::SHV, 3, 2);
     const Picos despues = Corre();
     EXPECT_LT(despues.at("r-Quelmar"), 0.95F * antes.at("r-Quelmar"));

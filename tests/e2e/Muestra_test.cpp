@@ -89,12 +89,12 @@ TEST_F(Muestra, DaLoMismoQueLaCorridaDelMenu)
 {
     ASSERT_EQ(Corre("una", {"--pp", "75.5", "--dur", "90", "--paso-q", "5"}).estado, 0);
     model::Siro s;
-    s.DirTrabajo = dir;
+    s.Proyecto.DirTrabajo = dir;
     batch::AbreProyecto(s, conf);
-    s.PpTormenta = 75.5F;
-    s.DurTormenta = 90;
-    s.PasoPp = 10;
-    s.PasoQ = 5;
+    s.Tormenta.PpTormenta = 75.5F;
+    s.Tormenta.DurTormenta = 90;
+    s.Pasos.PasoPp = 10;
+    s.Pasos.PasoQ = 5;
     ASSERT_TRUE(engine::CorreUnaTormenta(s));
     batch::GuardaCsvTormenta(s, dir + "/menu.csv");
     EXPECT_TRUE(MismoTexto(BytesDeArchivo(dir + "/menu.csv"), Csv()));

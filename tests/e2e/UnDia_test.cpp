@@ -342,21 +342,21 @@ class UnDia : public e2e::EscritorioDePrueba {
     void CompruebaLaRed()
     {
         model::Siro s;
-        s.NombreProyecto = "Arroyo1";
-        s.DirProyecto = s.DirProyectoConf = Proyectos();
+        s.Proyecto.NombreProyecto = "Arroyo1";
+        s.Proyecto.DirProyecto = s.Proyecto.DirProyectoConf = Proyectos();
         model::LeeUEHs(s);
-        ASSERT_EQ(s.ColCauces.Cuenta(), 2);
-        ASSERT_EQ(s.ColUEHs.Cuenta(), 2);
-        ASSERT_EQ(s.ColRepresas.Cuenta(), 1);
-        EXPECT_EQ(s.ColLagos.Cuenta(), 0);
+        ASSERT_EQ(s.Red.ColCauces.Cuenta(), 2);
+        ASSERT_EQ(s.Red.ColUEHs.Cuenta(), 2);
+        ASSERT_EQ(s.Red.ColRepresas.Cuenta(), 1);
+        EXPECT_EQ(s.Red.ColLagos.Cuenta(), 0);
 
-        const model::Cauce& bajo = s.ColCauces.Item(1);
+        const model::Cauce& bajo = s.Red.ColCauces.Item(1);
         EXPECT_EQ(bajo.NombreCauce + ' ' + bajo.Cauce_aa, "c-Bajo 0");
         EXPECT_FALSE(bajo.optDirMusk);
         EXPECT_EQ((std::vector<float>{bajo.LongCauce, bajo.Cauce_k_Musk, bajo.Cauce_n_Musk}),
                   (std::vector<float>{1700, 10, 0.25F}));
         EXPECT_EQ(bajo.numVertices, 9);
-        const model::Cauce& alto = s.ColCauces.Item(2);
+        const model::Cauce& alto = s.Red.ColCauces.Item(2);
         EXPECT_EQ(alto.NombreCauce + ' ' + alto.Cauce_aa, "c-Alto r-Dique");
         EXPECT_TRUE(alto.optDirMusk);
         EXPECT_EQ((std::vector<float>{alto.LongCauce, alto.VelMediaCauce}), (std::vector<float>{1900, 2.1F}));
@@ -366,16 +366,16 @@ class UnDia : public e2e::EscritorioDePrueba {
             return std::vector<float>{u.Area,       u.LongitudMax, u.VelMedia,   u.RetensionZ, u.KostiakovA,
                                       u.KostiakovB, u.KostiakovI,  u.Q0Recesion, u.KRecesion};
         };
-        const model::UEH& cabecera = s.ColUEHs.Item(1);
+        const model::UEH& cabecera = s.Red.ColUEHs.Item(1);
         EXPECT_EQ(cabecera.NombreUEH + ' ' + cabecera.Cauce_aa, "u-Cabecera c-Alto");
         EXPECT_EQ(datos(cabecera), (std::vector<float>{450, 2300, 0.85F, 3, 13.5F, 0.36F, 10, 0.06F, 60}));
         EXPECT_NEAR(cabecera.IconoUEHx, Cabecera.x, 1);
         EXPECT_NEAR(cabecera.IconoUEHy, Cabecera.y, 1);
-        const model::UEH& lateral = s.ColUEHs.Item(2);
+        const model::UEH& lateral = s.Red.ColUEHs.Item(2);
         EXPECT_EQ(lateral.NombreUEH + ' ' + lateral.Cauce_aa, "u-Lateral c-Bajo");
         EXPECT_EQ(datos(lateral), (std::vector<float>{260, 1900, 0.65F, 4, 12.8F, 0.4F, 10, 0.02F, 60}));
 
-        const model::Represa& dique = s.ColRepresas.Item(1);
+        const model::Represa& dique = s.Red.ColRepresas.Item(1);
         EXPECT_EQ(dique.NombreRepresa + ' ' + dique.Cauce_aa + ' ' + dique.Metodo,
                   "r-Dique c-Bajo Piscina Nivelada");
         EXPECT_EQ(dique.HInicialEmb, 6);

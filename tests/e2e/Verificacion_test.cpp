@@ -48,15 +48,15 @@ class VerificacionDeLaMuestra : public testing::Test {
     VerificacionDeLaMuestra()
     {
         s.Anfitrion = anfitrion.Puerta();
-        s.DirProyecto = std::string(SIRO_DATA_DIR) + "/Proyectos";
-        s.NombreProyecto = "Quelmar";
+        s.Proyecto.DirProyecto = std::string(SIRO_DATA_DIR) + "/Proyectos";
+        s.Proyecto.NombreProyecto = "Quelmar";
         model::LeeUEHs(s);
     }
     void NadaSeDijo() const
     {
         EXPECT_TRUE(anfitrion->Avisos().empty());
         EXPECT_TRUE(anfitrion->Preguntas().empty());
-        EXPECT_EQ(anfitrion->pizarra, s.TextoPizarra);
+        EXPECT_EQ(anfitrion->pizarra, s.Control.TextoPizarra);
     }
     apoyo::AnfitrionPrueba anfitrion;
     model::Siro s;
@@ -64,7 +64,7 @@ class VerificacionDeLaMuestra : public testing::Test {
 
 TEST_F(VerificacionDeLaMuestra, HayDosRepresasYLosComandosSeHabilitan)
 {
-    EXPECT_EQ(s.NroRepresas, 2);
+    EXPECT_EQ(s.Red.NroRepresas, 2);
     EXPECT_EQ(anfitrion->verificacionHabilitada, 1);
 }
 
@@ -81,7 +81,7 @@ TEST_F(VerificacionDeLaMuestra, LaTablaDeQuelmarCadaCuatroMetros)
         RenglonHAS("8", "12.5", "504000") + RenglonHAS("12", "20.9", "1170000") +
         RenglonHAS("16", "30.6", "2197500") + RenglonHAS("20", "41.3", "3632000") +
         RenglonHAS("24", "52.8", "5511000");
-    EXPECT_TRUE(MismoTexto(esperado, s.TextoPizarra));
+    EXPECT_TRUE(MismoTexto(esperado, s.Control.TextoPizarra));
     NadaSeDijo();
 }
 
@@ -102,7 +102,7 @@ TEST_F(VerificacionDeLaMuestra, TodasLasFuncionesDeCalfun)
                  {"0.73", 15},
                  {"40965", 10},
                  {"1.81", 15}});
-    EXPECT_TRUE(MismoTexto(comienzo, std::string_view(s.TextoPizarra).substr(0, comienzo.size())));
+    EXPECT_TRUE(MismoTexto(comienzo, std::string_view(s.Control.TextoPizarra).substr(0, comienzo.size())));
     NadaSeDijo();
 }
 
@@ -125,7 +125,7 @@ TEST_F(VerificacionDeLaMuestra, LosCaudalesDeLasDos)
         RenglonHQ("3", "3", "0.031") + RenglonHQ("4", "4", "0.036") + RenglonHQ("5", "5", "0.04") +
         RenglonHQ("6", "6", "0.044") + RenglonHQ("7", "7", "16.048") + RenglonHQ("8", "8", "45.306") +
         RenglonHQ("9", "9", "83.192") + RenglonHQ("10", "10", "128.057") + RenglonHQ("11", "11", "178.945");
-    EXPECT_TRUE(MismoTexto(esperado, s.TextoPizarra));
+    EXPECT_TRUE(MismoTexto(esperado, s.Control.TextoPizarra));
     NadaSeDijo();
     ASSERT_EQ(anfitrion->Mensajes(apoyo::Suceso::Clase::Peticion).size(), 2U);
     EXPECT_EQ(anfitrion->Mensajes(apoyo::Suceso::Clase::Peticion)[0].texto,

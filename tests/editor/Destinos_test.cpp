@@ -58,13 +58,13 @@ TEST_F(ListasDeDestinos, UnCauceSeBuscaPorSuNombreElPrimeroVale)
 {
     EXPECT_EQ(NumeroDeCauce(s, "c-2"), 2);
     EXPECT_EQ(NumeroDeCauce(s, "c-9"), 0);
-    s.Cauces(3).NombreCauce = "c-2";
+    s.Red.Cauces(3).NombreCauce = "c-2";
     EXPECT_EQ(NumeroDeCauce(s, "c-2"), 2);
 }
 
 TEST_F(ListasDeDestinos, UnCauceSinVerticesAcabaEnElOrigenYNoTienePrimero)
 {
-    s.NroVertices(3) = 0;
+    s.Red.NroVertices(3) = 0;
     EXPECT_EQ(UltimoVertice(s, 3), (Punto{0, 0}));
     PonPrimerVertice(s, 3, {5, 6});
     EXPECT_EQ(PrimerVertice(3), (std::pair<float, float>{50, 50}));
@@ -74,7 +74,7 @@ TEST_F(ListasDeDestinos, UnCauceSinVerticesAcabaEnElOrigenYNoTienePrimero)
 
 TEST_F(ListasDeDestinos, VerticesQueNoEstanEnMemoriaSonFalla9)
 {
-    s.XVertice.Dimensiona(70, 1);
+    s.Red.XVertice.Dimensiona(70, 1);
     EXPECT_EQ(apoyo::NumeroDeFalla([&] { UltimoVertice(s, 1); }), 9);
 }
 

@@ -40,15 +40,15 @@ TEST_F(EdicionColoca, UnaUEHNaceConSusValores)
     Escribe({"alta"});
     Clic(120.5F, 80);
 
-    ASSERT_EQ(s.ColUEHs.Cuenta(), 1);
+    ASSERT_EQ(s.Red.ColUEHs.Cuenta(), 1);
     model::UEH esperada;
     esperada.NombreUEH = "u-alta";
     esperada.numUEH = 1;
     esperada.Metodo = "Directo";
     esperada.IconoUEHx = 120.5F;
     esperada.IconoUEHy = 80;
-    EXPECT_EQ(s.UEHs(1), esperada);
-    EXPECT_EQ(s.NroUEHs, 1);
+    EXPECT_EQ(s.Red.UEHs(1), esperada);
+    EXPECT_EQ(s.Red.NroUEHs, 1);
     EXPECT_EQ(Peticiones(), (Pares{{"Nombre de la UEH ?", "Agregar una UEH"}}));
     EXPECT_TRUE(Avisos().empty());
     EXPECT_EQ(Con(editor::Papel::Icono).size(), 1U);
@@ -61,7 +61,7 @@ TEST_F(EdicionColoca, UnaRepresaNaceConPiscinaNiveladaYTabla)
     Escribe({"Dique"});
     Clic(10, 20);
 
-    ASSERT_EQ(s.ColRepresas.Cuenta(), 1);
+    ASSERT_EQ(s.Red.ColRepresas.Cuenta(), 1);
     model::Represa esperada;
     esperada.NombreRepresa = "r-Dique";
     esperada.numRepresa = 1;
@@ -69,8 +69,8 @@ TEST_F(EdicionColoca, UnaRepresaNaceConPiscinaNiveladaYTabla)
     esperada.IconoRepresaY = 20;
     esperada.Metodo = "Piscina Nivelada";
     esperada.optTabla = true;
-    EXPECT_EQ(s.Represas(1), esperada);
-    EXPECT_EQ(s.NroRepresas, 1);
+    EXPECT_EQ(s.Red.Represas(1), esperada);
+    EXPECT_EQ(s.Red.NroRepresas, 1);
     EXPECT_EQ(Peticiones(), (Pares{{"Nombre de la Represa ?", "Agregar una Represa"}}));
 }
 
@@ -80,15 +80,15 @@ TEST_F(EdicionColoca, UnLagoNaceConMetodoDirecto)
     Escribe({"Azul"});
     Clic(30, 40);
 
-    ASSERT_EQ(s.ColLagos.Cuenta(), 1);
+    ASSERT_EQ(s.Red.ColLagos.Cuenta(), 1);
     model::Lago esperado;
     esperado.NombreLAGO = "l-Azul";
     esperado.numLAGO = 1;
     esperado.IconoLAGOx = 30;
     esperado.IconoLAGOy = 40;
     esperado.Metodo = "Directo";
-    EXPECT_EQ(s.Lagos(1), esperado);
-    EXPECT_EQ(s.NroLagos, 1);
+    EXPECT_EQ(s.Red.Lagos(1), esperado);
+    EXPECT_EQ(s.Red.NroLagos, 1);
     EXPECT_EQ(Peticiones(),
               (Pares{{"Nombre de la depresión lagunar/lago/mallin ?", "Agregar una depresión lagunar"}}));
 }
@@ -100,9 +100,9 @@ TEST_F(EdicionColoca, CadaClicColocaOtraYLasNumeraEnOrden)
     Clic(10, 10);
     Clic(20, 10);
     Clic(30, 10);
-    ASSERT_EQ(s.ColUEHs.Cuenta(), 3);
-    EXPECT_EQ(s.UEHs(3).NombreUEH, "u-c");
-    EXPECT_EQ(s.UEHs(3).numUEH, 3);
+    ASSERT_EQ(s.Red.ColUEHs.Cuenta(), 3);
+    EXPECT_EQ(s.Red.UEHs(3).NombreUEH, "u-c");
+    EXPECT_EQ(s.Red.UEHs(3).numUEH, 3);
     EXPECT_EQ(Faltas(), std::vector<std::string>{});
 }
 
@@ -112,8 +112,8 @@ TEST_F(EdicionColoca, UnNombreDe13LetrasCabeEnteroYElDe14PierdeLaUltima)
     Escribe({"abcdefghijklm", "nopqrstuvwxyzA"});
     Clic(10, 10);
     Clic(20, 10);
-    EXPECT_EQ(s.UEHs(1).NombreUEH, "u-abcdefghijklm");
-    EXPECT_EQ(s.UEHs(2).NombreUEH, "u-nopqrstuvwxyz");
+    EXPECT_EQ(s.Red.UEHs(1).NombreUEH, "u-abcdefghijklm");
+    EXPECT_EQ(s.Red.UEHs(2).NombreUEH, "u-nopqrstuvwxyz");
 }
 
 TEST_F(EdicionColoca, ElCorteCuentaLetrasYNoBytes)
@@ -121,7 +121,7 @@ TEST_F(EdicionColoca, ElCorteCuentaLetrasYNoBytes)
     PonModo(Boton::LAGO);
     Escribe({"ñññññññññññññá"});
     Clic(10, 10);
-    EXPECT_EQ(s.Lagos(1).NombreLAGO, "l-ñññññññññññññ");
+    EXPECT_EQ(s.Red.Lagos(1).NombreLAGO, "l-ñññññññññññññ");
 }
 
 TEST_F(EdicionColoca, DosNombresLargosQueDifierenAlFinalChocanYSeVuelveAPedir)
@@ -130,9 +130,9 @@ TEST_F(EdicionColoca, DosNombresLargosQueDifierenAlFinalChocanYSeVuelveAPedir)
     Escribe({"Cuenca alta este", "Cuenca alta este 2", "otra"});
     Clic(10, 10);
     Clic(20, 10);
-    ASSERT_EQ(s.ColUEHs.Cuenta(), 2);
-    EXPECT_EQ(s.UEHs(1).NombreUEH, "u-Cuenca alta e");
-    EXPECT_EQ(s.UEHs(2).NombreUEH, "u-otra");
+    ASSERT_EQ(s.Red.ColUEHs.Cuenta(), 2);
+    EXPECT_EQ(s.Red.UEHs(1).NombreUEH, "u-Cuenca alta e");
+    EXPECT_EQ(s.Red.UEHs(2).NombreUEH, "u-otra");
     // The box that asks again says why.
     EXPECT_EQ(
         Peticiones(),
@@ -148,7 +148,7 @@ TEST_F(EdicionColoca, ElNombreDeOtraClaseNoChoca)
     PonModo(Boton::UEH);
     Escribe({"x"});
     Clic(10, 10);
-    EXPECT_EQ(s.UEHs(1).NombreUEH, "u-x");
+    EXPECT_EQ(s.Red.UEHs(1).NombreUEH, "u-x");
     EXPECT_EQ(Peticiones().size(), 1U);
 }
 
@@ -160,10 +160,10 @@ TEST_F(EdicionColoca, CancelarElNombreDeUnaUEHLaQuitaYGuardaLaRed)
     Escribe({""});
     Clic(10, 10);
 
-    ASSERT_EQ(s.ColUEHs.Cuenta(), 1);
-    EXPECT_EQ(s.UEHs(1).NombreUEH, "u-a");
-    EXPECT_EQ(s.NroUEHs, 1);
-    EXPECT_EQ(s.UEHSel, 0);
+    ASSERT_EQ(s.Red.ColUEHs.Cuenta(), 1);
+    EXPECT_EQ(s.Red.UEHs(1).NombreUEH, "u-a");
+    EXPECT_EQ(s.Red.NroUEHs, 1);
+    EXPECT_EQ(s.Seleccion.UEHSel, 0);
     EXPECT_EQ(Avisos(), Cajas{Guardado});
     EXPECT_NE(disco.Bytes("/proy/Arroyo_UEHs.vlm").find("\"u-a\""), std::string::npos);
     EXPECT_EQ(disco.Bytes("/proy/Arroyo_UEHs.vlm").find("borrar"), std::string::npos);
@@ -175,8 +175,8 @@ TEST_F(EdicionColoca, CancelarLaUnicaUEHBorraLosArchivosSinMensaje)
     PonModo(Boton::UEH);
     Escribe({""});
     Clic(10, 10);
-    EXPECT_EQ(s.ColUEHs.Cuenta(), 0);
-    EXPECT_EQ(s.NroUEHs, 0);
+    EXPECT_EQ(s.Red.ColUEHs.Cuenta(), 0);
+    EXPECT_EQ(s.Red.NroUEHs, 0);
     EXPECT_TRUE(Avisos().empty());
     EXPECT_FALSE(disco.Esta("/proy/Arroyo_UEHs.vlm"));
 }
@@ -189,8 +189,8 @@ TEST_F(EdicionColoca, CancelarElNombreDeUnaRepresaSigueLaReglaDeSuBorrado)
     Escribe({""});
     Clic(10, 10);
 
-    ASSERT_EQ(s.ColRepresas.Cuenta(), 1);
-    EXPECT_EQ(s.Represas(1).NombreRepresa, "r-a");
+    ASSERT_EQ(s.Red.ColRepresas.Cuenta(), 1);
+    EXPECT_EQ(s.Red.Represas(1).NombreRepresa, "r-a");
     EXPECT_EQ(Avisos(),
               (Cajas{Guardado,
                      {"Se recomienda verificar los parámestros de carga del formulario Represas y sus Tablas",
@@ -205,8 +205,8 @@ TEST_F(EdicionColoca, CancelarElNombreDeUnLagoLoQuita)
     PonModo(Boton::LAGO);
     Escribe({""});
     Clic(10, 10);
-    ASSERT_EQ(s.ColLagos.Cuenta(), 1);
-    EXPECT_EQ(s.Lagos(1).NombreLAGO, "l-a");
+    ASSERT_EQ(s.Red.ColLagos.Cuenta(), 1);
+    EXPECT_EQ(s.Red.Lagos(1).NombreLAGO, "l-a");
     EXPECT_EQ(Avisos(), Cajas{Guardado});
 }
 
@@ -236,9 +236,9 @@ TEST_F(EdicionColoca, EnLaPosicionDeOtraDeSuClaseAvisaYNoPideNombre)
                       Icono::Exclamacion},
                      Guardado}));
     EXPECT_TRUE(Peticiones().empty());
-    EXPECT_EQ(s.ColUEHs.Cuenta(), 1);
-    EXPECT_EQ(s.ColRepresas.Cuenta(), 1);
-    EXPECT_EQ(s.ColLagos.Cuenta(), 1);
+    EXPECT_EQ(s.Red.ColUEHs.Cuenta(), 1);
+    EXPECT_EQ(s.Red.ColRepresas.Cuenta(), 1);
+    EXPECT_EQ(s.Red.ColLagos.Cuenta(), 1);
 }
 
 TEST_F(EdicionColoca, LaPosicionDeOtraClaseYLaVecinaEstanLibres)
@@ -252,8 +252,8 @@ TEST_F(EdicionColoca, LaPosicionDeOtraClaseYLaVecinaEstanLibres)
     Escribe({"b"});
     Clic(10, 20.001F);
     EXPECT_TRUE(Avisos().empty());
-    EXPECT_EQ(s.ColRepresas.Cuenta(), 1);
-    EXPECT_EQ(s.ColUEHs.Cuenta(), 2);
+    EXPECT_EQ(s.Red.ColRepresas.Cuenta(), 1);
+    EXPECT_EQ(s.Red.ColUEHs.Cuenta(), 2);
 }
 
 TEST_F(EdicionColoca, LaUEH71EsUnaFallaDeSubindiceYNoQuedaNada)
@@ -261,12 +261,12 @@ TEST_F(EdicionColoca, LaUEH71EsUnaFallaDeSubindiceYNoQuedaNada)
     for (int i = 1; i <= 70; ++i)
         red.UEH("u-" + std::to_string(i), {static_cast<float>(10 * i), 5});
     Parte();
-    const auto antes = s.ColUEHs;
+    const auto antes = s.Red.ColUEHs;
     PonModo(Boton::UEH);
     Escribe({"x"});
     Clic(3, 3);
-    EXPECT_EQ(s.ColUEHs, antes);
-    EXPECT_EQ(s.NroUEHs, 70);
+    EXPECT_EQ(s.Red.ColUEHs, antes);
+    EXPECT_EQ(s.Red.NroUEHs, 70);
     EXPECT_EQ(Avisos(), Cajas{FueraDelArreglo});
     EXPECT_TRUE(Peticiones().empty());
 }
@@ -279,10 +279,10 @@ TEST_F(EdicionColoca, LaRepresa20EntraYLa21No)
     PonModo(Boton::Represa);
     Escribe({"veinte", "x"});
     Clic(3, 3);
-    EXPECT_EQ(s.ColRepresas.Cuenta(), 20);
+    EXPECT_EQ(s.Red.ColRepresas.Cuenta(), 20);
     EXPECT_TRUE(Avisos().empty());
     Clic(6, 6);
-    EXPECT_EQ(s.ColRepresas.Cuenta(), 20);
+    EXPECT_EQ(s.Red.ColRepresas.Cuenta(), 20);
     EXPECT_EQ(Avisos(), Cajas{FueraDelArreglo});
 }
 
@@ -292,8 +292,8 @@ TEST_F(EdicionColoca, ElLago71NoEntra)
         red.Lago("l-" + std::to_string(i), {static_cast<float>(10 * i), 5});
     Parte();
     EXPECT_EQ(apoyo::NumeroDeFalla([&] { editor::ColocaLago(f, s, {3, 3}); }), 9);
-    EXPECT_EQ(s.ColLagos.Cuenta(), 70);
-    EXPECT_EQ(s.NroLagos, 70);
+    EXPECT_EQ(s.Red.ColLagos.Cuenta(), 70);
+    EXPECT_EQ(s.Red.NroLagos, 70);
 }
 
 }  // namespace

@@ -19,7 +19,8 @@ struct EdicionSelecciona : EditorDePrueba {
     using Seis = std::array<std::int16_t, 6>;
     [[nodiscard]] Seis Elegidos() const
     {
-        return {s.CauceSel, s.CauceAnterior, s.UEHSel, s.RepresaSel, s.LagoSel, s.VerticeSel};
+        return {s.Seleccion.CauceSel,   s.Seleccion.CauceAnterior, s.Seleccion.UEHSel,
+                s.Seleccion.RepresaSel, s.Seleccion.LagoSel,       s.Seleccion.VerticeSel};
     }
     /// What a press selects when nothing was selected before.
     Seis Desde0(float x, float y)
@@ -53,7 +54,7 @@ TEST_F(EdicionSelecciona, LaToleranciaEsElDosPorCientoDelAnchoTruncado)
     f.sldEscala = 99;  // 792 wide: 15.84
     Clic(107.5F, 100);
     EXPECT_EQ(f.ToleranciaVertice, 15);
-    EXPECT_EQ(s.CauceSel, 1);
+    EXPECT_EQ(s.Seleccion.CauceSel, 1);
     EXPECT_EQ(Desde0(107.51F, 100), Nada);
     f.sldEscala = 200;
     EXPECT_EQ(Desde0(116, 100), (EdicionSelecciona::Seis{1, 0, 0, 0, 0, 0}));
@@ -98,11 +99,11 @@ TEST_F(EdicionSelecciona, TomaElPrimerVerticeEnSuOrden)
 {
     red.Cauce("c-a", {{100, 100}, {110, 100}, {120, 100}});
     Parte();
-    s.CauceSel = 1;
+    s.Seleccion.CauceSel = 1;
     Clic(118, 100);
-    EXPECT_EQ(s.VerticeSel, 2);
+    EXPECT_EQ(s.Seleccion.VerticeSel, 2);
     Clic(112, 100);
-    EXPECT_EQ(s.VerticeSel, 1);
+    EXPECT_EQ(s.Seleccion.VerticeSel, 1);
 }
 
 TEST_F(EdicionSelecciona, ElVerticeTomadoSeMarcaEnRojo)
@@ -290,12 +291,12 @@ TEST_F(EdicionSelecciona, ApretarElAsaArmaElEnlaceYConservaLaSeleccion)
     EXPECT_EQ(arma(105, 105, 100, 135), QueArrastra::EnlaceUEH);
     EXPECT_EQ(arma(105, 105, 120, 155), QueArrastra::EnlaceUEH);
     EXPECT_EQ(arma(105, 105, 120.01F, 150), QueArrastra::Nada);
-    EXPECT_EQ(s.UEHSel, 0);
+    EXPECT_EQ(s.Seleccion.UEHSel, 0);
     EXPECT_EQ(arma(305, 105, 280, 120), QueArrastra::EnlaceRepresa);
     EXPECT_EQ(arma(305, 105, 300, 155.01F), QueArrastra::Nada);
     EXPECT_EQ(arma(500, 105, 500, 135), QueArrastra::EnlaceLago);
     EXPECT_EQ(arma(500, 105, 505, 119), QueArrastra::EnlaceLago);  // in its own box too
-    EXPECT_EQ(s.LagoSel, 1);
+    EXPECT_EQ(s.Seleccion.LagoSel, 1);
 }
 
 TEST_F(EdicionSelecciona, ElAsaDeLaUEHVaAntesQueMoverla)
@@ -314,7 +315,7 @@ TEST_F(EdicionSelecciona, OtraUEHBajoElAsaSeEligeYNoHeredaElEnlace)
     Parte();
     Clic(105, 105);
     Aprieta(100, 135);
-    EXPECT_EQ(s.UEHSel, 2);
+    EXPECT_EQ(s.Seleccion.UEHSel, 2);
     EXPECT_EQ(f.arrastra, QueArrastra::IconoUEH);
 }
 

@@ -35,10 +35,10 @@ TEST_F(EdicionTraza, ElPrimerClicEmpiezaUnCauceConUnVertice)
     PonModo(Boton::Cauce);
     Clic(100, 200);
     EXPECT_EQ(f.ClicsCauce, 1);
-    EXPECT_EQ(s.NroCauces, 1);
-    EXPECT_EQ(s.NroVertices(1), 1);
+    EXPECT_EQ(s.Red.NroCauces, 1);
+    EXPECT_EQ(s.Red.NroVertices(1), 1);
     EXPECT_EQ(Vertice(1, 1), (Punto{100, 200}));
-    EXPECT_EQ(s.ColCauces.Cuenta(), 0);
+    EXPECT_EQ(s.Red.ColCauces.Cuenta(), 0);
     EXPECT_EQ(NroPeticiones(), 0U);
     ASSERT_EQ(Con(editor::Papel::Cauce).size(), 1U);
     EXPECT_EQ(PuntosDe(Con(editor::Papel::Cauce)[0]), (std::vector<Punto>{{100, 200}}));
@@ -49,7 +49,7 @@ TEST_F(EdicionTraza, CadaClicAgregaUnVerticeYSeDibuja)
     PonModo(Boton::Cauce);
     Traza(3, 50);
     EXPECT_EQ(f.ClicsCauce, 3);
-    EXPECT_EQ(s.NroVertices(1), 3);
+    EXPECT_EQ(s.Red.NroVertices(1), 3);
     ASSERT_EQ(Con(editor::Papel::Cauce).size(), 1U);
     EXPECT_EQ(PuntosDe(Con(editor::Papel::Cauce)[0]), (std::vector<Punto>{{10, 50}, {20, 50}, {30, 50}}));
 }
@@ -62,7 +62,7 @@ TEST_F(EdicionTraza, EnterLoTerminaConSusValores)
     Tecla(editor::Tecla::Enter);
 
     EXPECT_EQ(f.ClicsCauce, 0);
-    ASSERT_EQ(s.ColCauces.Cuenta(), 1);
+    ASSERT_EQ(s.Red.ColCauces.Cuenta(), 1);
     model::Cauce esperado;
     esperado.numCauce = 1;
     esperado.numVertices = 3;
@@ -70,8 +70,8 @@ TEST_F(EdicionTraza, EnterLoTerminaConSusValores)
     esperado.NombreCauce = "c-Hondo";
     esperado.Cauce_aa = "0";
     esperado.optDirMusk = true;
-    EXPECT_EQ(s.Cauces(1), esperado);
-    EXPECT_EQ(s.NroCauces, 1);
+    EXPECT_EQ(s.Red.Cauces(1), esperado);
+    EXPECT_EQ(s.Red.NroCauces, 1);
     ASSERT_EQ(NroPeticiones(), 1U);
     EXPECT_EQ(anfitrion->Mensajes(Suceso::Clase::Peticion)[0],
               (Mensaje{"Nombre del cauce ?", "Agrega un nuevo Cauce", Icono::Ninguno}));
@@ -88,10 +88,10 @@ TEST_F(EdicionTraza, ElIndiceDelSegundoSigueALosVerticesDelPrimero)
     Tecla(editor::Tecla::Enter);
     Traza(2, 250);
     Tecla(editor::Tecla::Enter);
-    ASSERT_EQ(s.ColCauces.Cuenta(), 3);
-    EXPECT_EQ(s.Cauces(1).IndiceParInicial, 1);
-    EXPECT_EQ(s.Cauces(2).IndiceParInicial, 4);
-    EXPECT_EQ(s.Cauces(3).IndiceParInicial, 9);
+    ASSERT_EQ(s.Red.ColCauces.Cuenta(), 3);
+    EXPECT_EQ(s.Red.Cauces(1).IndiceParInicial, 1);
+    EXPECT_EQ(s.Red.Cauces(2).IndiceParInicial, 4);
+    EXPECT_EQ(s.Red.Cauces(3).IndiceParInicial, 9);
     EXPECT_EQ(Vertice(1, 3), (Punto{30, 50}));  // the bound has grown and kept them
 }
 
@@ -101,7 +101,7 @@ TEST_F(EdicionTraza, EnterConUnSoloClicNoTermina)
     Clic(10, 10);
     Tecla(editor::Tecla::Enter);
     EXPECT_EQ(f.ClicsCauce, 1);
-    EXPECT_EQ(s.ColCauces.Cuenta(), 0);
+    EXPECT_EQ(s.Red.ColCauces.Cuenta(), 0);
 }
 
 TEST_F(EdicionTraza, ElDobleClicLoTermina)
@@ -110,8 +110,8 @@ TEST_F(EdicionTraza, ElDobleClicLoTermina)
     Escribe({"a"});
     Clic(10, 10);
     DobleClic(60, 10);
-    ASSERT_EQ(s.ColCauces.Cuenta(), 1);
-    EXPECT_EQ(s.Cauces(1).numVertices, 2);
+    ASSERT_EQ(s.Red.ColCauces.Cuenta(), 1);
+    EXPECT_EQ(s.Red.Cauces(1).numVertices, 2);
     EXPECT_TRUE(f.Abajo(Boton::Selecciona));
 }
 
@@ -120,8 +120,8 @@ TEST_F(EdicionTraza, VeinteClicsNoLoTerminan)
     PonModo(Boton::Cauce);
     Traza(20, 50);
     EXPECT_EQ(f.ClicsCauce, 20);
-    EXPECT_EQ(s.NroVertices(1), 20);
-    EXPECT_EQ(s.ColCauces.Cuenta(), 0);
+    EXPECT_EQ(s.Red.NroVertices(1), 20);
+    EXPECT_EQ(s.Red.ColCauces.Cuenta(), 0);
 }
 
 TEST_F(EdicionTraza, ElClic21LoTerminaYEsSuVertice21)
@@ -130,11 +130,11 @@ TEST_F(EdicionTraza, ElClic21LoTerminaYEsSuVertice21)
     Escribe({"largo"});
     Traza(21, 50);
     EXPECT_EQ(f.ClicsCauce, 0);
-    ASSERT_EQ(s.ColCauces.Cuenta(), 1);
-    EXPECT_EQ(s.Cauces(1).NombreCauce, "c-largo");
-    EXPECT_EQ(s.Cauces(1).numVertices, 21);
-    EXPECT_EQ(s.NroVertices(1), 21);
-    EXPECT_EQ(s.NroCauces, 1);
+    ASSERT_EQ(s.Red.ColCauces.Cuenta(), 1);
+    EXPECT_EQ(s.Red.Cauces(1).NombreCauce, "c-largo");
+    EXPECT_EQ(s.Red.Cauces(1).numVertices, 21);
+    EXPECT_EQ(s.Red.NroVertices(1), 21);
+    EXPECT_EQ(s.Red.NroCauces, 1);
     EXPECT_EQ(Vertice(1, 20), (Punto{200, 50}));
     EXPECT_EQ(Vertice(1, 21), (Punto{210, 50}));
     EXPECT_EQ(Faltas(), std::vector<std::string>{});
@@ -147,12 +147,12 @@ TEST_F(EdicionTraza, ElClic22EmpiezaOtroCauce)
     Traza(21, 50);
     Clic(10, 400);
     EXPECT_EQ(f.ClicsCauce, 1);
-    EXPECT_EQ(s.NroCauces, 2);
+    EXPECT_EQ(s.Red.NroCauces, 2);
     EXPECT_EQ(Vertice(2, 1), (Punto{10, 400}));
     Clic(20, 400);
     Tecla(editor::Tecla::Enter);
-    ASSERT_EQ(s.ColCauces.Cuenta(), 2);
-    EXPECT_EQ(s.Cauces(2).IndiceParInicial, 22);
+    ASSERT_EQ(s.Red.ColCauces.Cuenta(), 2);
+    EXPECT_EQ(s.Red.Cauces(2).IndiceParInicial, 22);
 }
 
 TEST_F(EdicionTraza, UnNombreEnUsoSeVuelveAPedir)
@@ -163,7 +163,7 @@ TEST_F(EdicionTraza, UnNombreEnUsoSeVuelveAPedir)
     Escribe({"a", "b"});
     Traza(2, 50);
     Tecla(editor::Tecla::Enter);
-    EXPECT_EQ(s.Cauces(2).NombreCauce, "c-b");
+    EXPECT_EQ(s.Red.Cauces(2).NombreCauce, "c-b");
     EXPECT_EQ(NroPeticiones(), 2U);
 }
 
@@ -173,11 +173,11 @@ TEST_F(EdicionTraza, CancelarElNombreDejaElCauceSinNombreYNoGuarda)
     Escribe({""});
     Traza(4, 50);
     Tecla(editor::Tecla::Enter);
-    ASSERT_EQ(s.ColCauces.Cuenta(), 1);
-    EXPECT_EQ(s.Cauces(1).NombreCauce, "");
-    EXPECT_EQ(s.Cauces(1).Cauce_aa, "0");
-    EXPECT_TRUE(s.Cauces(1).optDirMusk);
-    EXPECT_EQ(s.Cauces(1).numVertices, 4);
+    ASSERT_EQ(s.Red.ColCauces.Cuenta(), 1);
+    EXPECT_EQ(s.Red.Cauces(1).NombreCauce, "");
+    EXPECT_EQ(s.Red.Cauces(1).Cauce_aa, "0");
+    EXPECT_TRUE(s.Red.Cauces(1).optDirMusk);
+    EXPECT_EQ(s.Red.Cauces(1).numVertices, 4);
     EXPECT_EQ(f.marcaCauce, "borrarCauce");
     EXPECT_TRUE(Avisos().empty());
     EXPECT_FALSE(disco.Esta("/proy/Arroyo_UEHs.vlm"));
@@ -194,9 +194,9 @@ TEST_F(EdicionTraza, LaMarcaImpideBorrarCualquierCauceHastaQueSeNombraOtro)
 
     PonModo(Boton::Selecciona);
     Clic(600, 600);
-    ASSERT_EQ(s.CauceSel, 1);
+    ASSERT_EQ(s.Seleccion.CauceSel, 1);
     Tecla(editor::Tecla::Suprimir);
-    EXPECT_EQ(s.ColCauces.Cuenta(), 2);
+    EXPECT_EQ(s.Red.ColCauces.Cuenta(), 2);
     EXPECT_TRUE(Avisos().empty());
 
     PonModo(Boton::Cauce);
@@ -206,7 +206,7 @@ TEST_F(EdicionTraza, LaMarcaImpideBorrarCualquierCauceHastaQueSeNombraOtro)
     PonModo(Boton::Selecciona);
     Clic(600, 600);
     Tecla(editor::Tecla::Suprimir);
-    EXPECT_EQ(s.ColCauces.Cuenta(), 2);  // the one without a name and the new one
+    EXPECT_EQ(s.Red.ColCauces.Cuenta(), 2);  // the one without a name and the new one
 }
 
 TEST_F(EdicionTraza, ElCauceSinNombreNoEsDestinoDeNadieYSeBorra)
@@ -221,10 +221,10 @@ TEST_F(EdicionTraza, ElCauceSinNombreNoEsDestinoDeNadieYSeBorra)
     Tecla(editor::Tecla::Enter);
     PonModo(Boton::Selecciona);
     Clic(10, 50);
-    ASSERT_EQ(s.CauceSel, 1);
+    ASSERT_EQ(s.Seleccion.CauceSel, 1);
     Tecla(editor::Tecla::Suprimir);
-    ASSERT_EQ(s.ColCauces.Cuenta(), 1);
-    EXPECT_EQ(s.Cauces(1).NombreCauce, "c-b");
+    ASSERT_EQ(s.Red.ColCauces.Cuenta(), 1);
+    EXPECT_EQ(s.Red.Cauces(1).NombreCauce, "c-b");
 }
 
 TEST_F(EdicionTraza, ElCauce71FallaAlPrimerClic)
@@ -234,7 +234,7 @@ TEST_F(EdicionTraza, ElCauce71FallaAlPrimerClic)
     Parte();
     PonModo(Boton::Cauce);
     Clic(3, 3);
-    EXPECT_EQ(s.NroCauces, 70);
+    EXPECT_EQ(s.Red.NroCauces, 70);
     EXPECT_EQ(f.ClicsCauce, 0);
     EXPECT_EQ(Avisos(),
               (Cajas{{"Error Nro. 9 ,El subíndice está fuera del intervaloVerifique", "", Icono::Ninguno}}));
@@ -250,13 +250,13 @@ struct EdicionDivide : EditorDePrueba {
         red.Cauce("c-x", {{600, 600}, {500, 600}, {400, 600}, {300, 600}}, "c-bajo");
         red.Cauce("c-alto", {{300, 600}, {300, 500}}, "c-x");
         red.UEH("u-a", {100, 100}, "c-x", {300, 600});
-        s.Cauces(2).LongCauce = 1200;
+        s.Red.Cauces(2).LongCauce = 1200;
         Parte();
     }
     void Divide(int cauce, int vertice)
     {
-        s.CauceSel = static_cast<std::int16_t>(cauce);
-        s.VerticeSel = static_cast<std::int16_t>(vertice);
+        s.Seleccion.CauceSel = static_cast<std::int16_t>(cauce);
+        s.Seleccion.VerticeSel = static_cast<std::int16_t>(vertice);
         editor::mnu_DivideCauce(f, s);
     }
 };
@@ -264,12 +264,12 @@ struct EdicionDivide : EditorDePrueba {
 TEST_F(EdicionDivide, ReparteLosVerticesYCadaParteTieneElDeCorte)
 {
     Divide(2, 3);
-    ASSERT_EQ(s.ColCauces.Cuenta(), 4);
-    EXPECT_EQ(s.NroCauces, 4);
-    EXPECT_EQ(s.NroVertices(2), 3);
+    ASSERT_EQ(s.Red.ColCauces.Cuenta(), 4);
+    EXPECT_EQ(s.Red.NroCauces, 4);
+    EXPECT_EQ(s.Red.NroVertices(2), 3);
     EXPECT_EQ(Vertice(2, 1), (Punto{600, 600}));
     EXPECT_EQ(Vertice(2, 3), (Punto{400, 600}));
-    EXPECT_EQ(s.NroVertices(4), 2);
+    EXPECT_EQ(s.Red.NroVertices(4), 2);
     EXPECT_EQ(Vertice(4, 1), (Punto{400, 600}));
     EXPECT_EQ(Vertice(4, 2), (Punto{300, 600}));
     EXPECT_EQ(Faltas(), std::vector<std::string>{});
@@ -278,63 +278,63 @@ TEST_F(EdicionDivide, ReparteLosVerticesYCadaParteTieneElDeCorte)
 TEST_F(EdicionDivide, LaNuevaDrenaALaViejaQueConservaSuDestinoYSusDatos)
 {
     Divide(2, 2);
-    EXPECT_EQ(s.Cauces(4).NombreCauce, "c-x-.-a");
-    EXPECT_EQ(s.Cauces(4).Cauce_aa, "c-x-.-b");
-    EXPECT_EQ(s.Cauces(4).LongCauce, 0);
-    EXPECT_TRUE(s.Cauces(4).optDirMusk);
-    EXPECT_EQ(s.Cauces(4).numVertices, 3);
-    EXPECT_EQ(s.Cauces(2).NombreCauce, "c-x-.-b");
-    EXPECT_EQ(s.Cauces(2).Cauce_aa, "c-bajo");
-    EXPECT_EQ(s.Cauces(2).LongCauce, 1200);
-    EXPECT_EQ(s.Cauces(2).numVertices, 2);
+    EXPECT_EQ(s.Red.Cauces(4).NombreCauce, "c-x-.-a");
+    EXPECT_EQ(s.Red.Cauces(4).Cauce_aa, "c-x-.-b");
+    EXPECT_EQ(s.Red.Cauces(4).LongCauce, 0);
+    EXPECT_TRUE(s.Red.Cauces(4).optDirMusk);
+    EXPECT_EQ(s.Red.Cauces(4).numVertices, 3);
+    EXPECT_EQ(s.Red.Cauces(2).NombreCauce, "c-x-.-b");
+    EXPECT_EQ(s.Red.Cauces(2).Cauce_aa, "c-bajo");
+    EXPECT_EQ(s.Red.Cauces(2).LongCauce, 1200);
+    EXPECT_EQ(s.Red.Cauces(2).numVertices, 2);
 }
 
 TEST_F(EdicionDivide, LosIndicesSiguenALosVertices)
 {
     Divide(2, 2);
     // vertices: 2, 2, 2, 3
-    EXPECT_EQ(s.Cauces(1).IndiceParInicial, 1);
-    EXPECT_EQ(s.Cauces(2).IndiceParInicial, 3);
-    EXPECT_EQ(s.Cauces(3).IndiceParInicial, 5);
-    EXPECT_EQ(s.Cauces(4).IndiceParInicial, 7);
+    EXPECT_EQ(s.Red.Cauces(1).IndiceParInicial, 1);
+    EXPECT_EQ(s.Red.Cauces(2).IndiceParInicial, 3);
+    EXPECT_EQ(s.Red.Cauces(3).IndiceParInicial, 5);
+    EXPECT_EQ(s.Red.Cauces(4).IndiceParInicial, 7);
 }
 
 TEST_F(EdicionDivide, LosTributariosQuedanConElNombreQueYaNoExiste)
 {
     Divide(2, 2);
-    EXPECT_EQ(s.Cauces(3).Cauce_aa, "c-x");
-    EXPECT_EQ(s.UEHs(1).Cauce_aa, "c-x");
+    EXPECT_EQ(s.Red.Cauces(3).Cauce_aa, "c-x");
+    EXPECT_EQ(s.Red.UEHs(1).Cauce_aa, "c-x");
 }
 
 TEST_F(EdicionDivide, NoPreguntaNiGuardaYLimpiaLaSeleccion)
 {
-    s.CauceAnterior = 1;
+    s.Seleccion.CauceAnterior = 1;
     Divide(2, 2);
     EXPECT_TRUE(anfitrion->sucesos.empty());
-    EXPECT_EQ(s.CauceSel, 0);
-    EXPECT_EQ(s.CauceAnterior, 0);
-    EXPECT_EQ(s.VerticeSel, 0);
+    EXPECT_EQ(s.Seleccion.CauceSel, 0);
+    EXPECT_EQ(s.Seleccion.CauceAnterior, 0);
+    EXPECT_EQ(s.Seleccion.VerticeSel, 0);
     EXPECT_FALSE(disco.Esta("/proy/Arroyo_UEHs.vlm"));
 }
 
 TEST_F(EdicionDivide, EnElPrimeroElUltimoONingunVerticeNoPasaNada)
 {
-    const auto antes = s.ColCauces;
+    const auto antes = s.Red.ColCauces;
     for (const int vertice : {0, 1, 4, 5}) {
         Divide(2, vertice);
-        EXPECT_EQ(s.ColCauces, antes) << vertice;
-        EXPECT_EQ(s.NroVertices(2), 4) << vertice;
-        EXPECT_EQ(s.NroCauces, 3) << vertice;
-        EXPECT_EQ(s.CauceSel, 2) << vertice;
+        EXPECT_EQ(s.Red.ColCauces, antes) << vertice;
+        EXPECT_EQ(s.Red.NroVertices(2), 4) << vertice;
+        EXPECT_EQ(s.Red.NroCauces, 3) << vertice;
+        EXPECT_EQ(s.Seleccion.CauceSel, 2) << vertice;
     }
 }
 
 TEST_F(EdicionDivide, LosNombresConSufijoNoSeCortan)
 {
-    s.Cauces(2).NombreCauce = "c-abcdefghijklm";  // 15 letters
+    s.Red.Cauces(2).NombreCauce = "c-abcdefghijklm";  // 15 letters
     Divide(2, 2);
-    EXPECT_EQ(s.Cauces(4).NombreCauce, "c-abcdefghijklm-.-a");
-    EXPECT_EQ(s.Cauces(2).NombreCauce, "c-abcdefghijklm-.-b");
+    EXPECT_EQ(s.Red.Cauces(4).NombreCauce, "c-abcdefghijklm-.-a");
+    EXPECT_EQ(s.Red.Cauces(2).NombreCauce, "c-abcdefghijklm-.-b");
 }
 
 TEST_F(EdicionDivide, UnNombreEnUsoLlevaElSufijoOtraVez)
@@ -344,18 +344,18 @@ TEST_F(EdicionDivide, UnNombreEnUsoLlevaElSufijoOtraVez)
     red.Cauce("c-x-.-b-.-b", {{10, 50}, {20, 60}});
     Parte();
     Divide(2, 2);
-    EXPECT_EQ(s.Cauces(7).NombreCauce, "c-x-.-a-.-a");
-    EXPECT_EQ(s.Cauces(2).NombreCauce, "c-x-.-b-.-b-.-b");
-    EXPECT_EQ(s.Cauces(7).Cauce_aa, "c-x-.-b-.-b-.-b");
+    EXPECT_EQ(s.Red.Cauces(7).NombreCauce, "c-x-.-a-.-a");
+    EXPECT_EQ(s.Red.Cauces(2).NombreCauce, "c-x-.-b-.-b-.-b");
+    EXPECT_EQ(s.Red.Cauces(7).Cauce_aa, "c-x-.-b-.-b-.-b");
 }
 
 TEST_F(EdicionDivide, PorElMenuConElVerticeTomadoDeUnClic)
 {
     Clic(500, 600);  // selects the reach
     Clic(500, 600);  // grabs its vertex 2
-    ASSERT_EQ(s.VerticeSel, 2);
+    ASSERT_EQ(s.Seleccion.VerticeSel, 2);
     editor::mnu_DibujoSec_Click(f, s, "mnu_DivideCauce");
-    EXPECT_EQ(s.ColCauces.Cuenta(), 4);
+    EXPECT_EQ(s.Red.ColCauces.Cuenta(), 4);
 }
 
 TEST_F(EdicionDivide, DejaCaerElTrazoQueSeDibujaba)
@@ -365,7 +365,7 @@ TEST_F(EdicionDivide, DejaCaerElTrazoQueSeDibujaba)
     Clic(20, 20);
     Divide(2, 2);
     EXPECT_EQ(f.ClicsCauce, 0);
-    EXPECT_EQ(s.ColCauces.Cuenta(), 4);
+    EXPECT_EQ(s.Red.ColCauces.Cuenta(), 4);
     EXPECT_EQ(Vertice(4, 1), (Punto{500, 600}));
     EXPECT_EQ(Faltas(), std::vector<std::string>{});
 }
@@ -382,19 +382,19 @@ TEST_F(EdicionDivide, Con70CaucesEsUnaFallaYNadaCambia)
     for (int i = 4; i <= 70; ++i)
         red.Cauce("c-" + std::to_string(i), {{5, static_cast<float>(i)}, {9, static_cast<float>(i)}});
     Parte();
-    s.CauceSel = 2;
-    s.VerticeSel = 2;
+    s.Seleccion.CauceSel = 2;
+    s.Seleccion.VerticeSel = 2;
     EXPECT_EQ(apoyo::NumeroDeFalla([&] { editor::mnu_DivideCauce(f, s); }), 9);
-    EXPECT_EQ(s.Cauces(2).NombreCauce, "c-x");
-    EXPECT_EQ(s.NroVertices(2), 4);
+    EXPECT_EQ(s.Red.Cauces(2).NombreCauce, "c-x");
+    EXPECT_EQ(s.Red.NroVertices(2), 4);
 }
 
 TEST_F(EdicionDivide, LaRedDivididaSeGuardaYSeLeeIgual)
 {
     Divide(2, 3);
     Guarda();
-    EXPECT_EQ(s.ColCauces.Cuenta(), 4);
-    EXPECT_EQ(s.Cauces(4).NombreCauce, "c-x-.-a");
+    EXPECT_EQ(s.Red.ColCauces.Cuenta(), 4);
+    EXPECT_EQ(s.Red.Cauces(4).NombreCauce, "c-x-.-a");
     EXPECT_EQ(Vertice(4, 1), (Punto{400, 600}));
     EXPECT_EQ(Vertice(3, 2), (Punto{300, 500}));
     EXPECT_EQ(Faltas(), std::vector<std::string>{});

@@ -39,25 +39,25 @@ struct RedHecha {
     void Cauce(const std::string& nombre, std::vector<editor::Punto> vertices,
                const std::string& destino = "0")
     {
-        const int n = s.ColCauces.Cuenta() + 1;
+        const int n = s.Red.ColCauces.Cuenta() + 1;
         const int cuenta = static_cast<int>(vertices.size());
-        s.ColCauces.Agrega({.numCauce = static_cast<std::int16_t>(n),
-                            .numVertices = static_cast<std::int16_t>(cuenta),
-                            .NombreCauce = nombre,
-                            .Cauce_aa = destino,
-                            .optDirMusk = true});
-        s.NroCauces = static_cast<std::int16_t>(n);
-        s.NroVertices(n) = static_cast<std::int16_t>(cuenta);
-        for (auto* v : {&s.XVertice, &s.YVertice}) {
+        s.Red.ColCauces.Agrega({.numCauce = static_cast<std::int16_t>(n),
+                                .numVertices = static_cast<std::int16_t>(cuenta),
+                                .NombreCauce = nombre,
+                                .Cauce_aa = destino,
+                                .optDirMusk = true});
+        s.Red.NroCauces = static_cast<std::int16_t>(n);
+        s.Red.NroVertices(n) = static_cast<std::int16_t>(cuenta);
+        for (auto* v : {&s.Red.XVertice, &s.Red.YVertice}) {
             if (v->UltimaFila() < model::MaxCauces) v->Dimensiona(model::MaxCauces, cuenta);
             if (v->TopeColumna() < cuenta) v->Redimensiona(cuenta);
         }
         for (int j = 1; j <= cuenta; ++j) {
-            s.XVertice(n, j) = vertices[static_cast<std::size_t>(j) - 1].X;
-            s.YVertice(n, j) = vertices[static_cast<std::size_t>(j) - 1].Y;
+            s.Red.XVertice(n, j) = vertices[static_cast<std::size_t>(j) - 1].X;
+            s.Red.YVertice(n, j) = vertices[static_cast<std::size_t>(j) - 1].Y;
         }
         std::int16_t indice = 1;
-        for (auto& c : s.ColCauces) {
+        for (auto& c : s.Red.ColCauces) {
             c.IndiceParInicial = indice;
             indice = static_cast<std::int16_t>(indice + c.numVertices);
         }
@@ -65,42 +65,42 @@ struct RedHecha {
     void UEH(const std::string& nombre, editor::Punto en, const std::string& destino = "",
              editor::Punto drena = {})
     {
-        s.ColUEHs.Agrega({.NombreUEH = nombre,
-                          .Metodo = "Directo",
-                          .numUEH = static_cast<std::int16_t>(s.ColUEHs.Cuenta() + 1),
-                          .IconoUEHx = en.X,
-                          .IconoUEHy = en.Y,
-                          .XCauce = drena.X,
-                          .YCauce = drena.Y,
-                          .Cauce_aa = destino});
-        s.NroUEHs = static_cast<std::int16_t>(s.ColUEHs.Cuenta());
+        s.Red.ColUEHs.Agrega({.NombreUEH = nombre,
+                              .Metodo = "Directo",
+                              .numUEH = static_cast<std::int16_t>(s.Red.ColUEHs.Cuenta() + 1),
+                              .IconoUEHx = en.X,
+                              .IconoUEHy = en.Y,
+                              .XCauce = drena.X,
+                              .YCauce = drena.Y,
+                              .Cauce_aa = destino});
+        s.Red.NroUEHs = static_cast<std::int16_t>(s.Red.ColUEHs.Cuenta());
     }
     void Represa(const std::string& nombre, editor::Punto en, const std::string& destino = "",
                  editor::Punto drena = {})
     {
-        s.ColRepresas.Agrega({.NombreRepresa = nombre,
-                              .numRepresa = static_cast<std::int16_t>(s.ColRepresas.Cuenta() + 1),
-                              .IconoRepresaX = en.X,
-                              .IconoRepresaY = en.Y,
-                              .Metodo = "Piscina Nivelada",
-                              .XCauce = drena.X,
-                              .YCauce = drena.Y,
-                              .Cauce_aa = destino,
-                              .optTabla = true});
-        s.NroRepresas = static_cast<std::int16_t>(s.ColRepresas.Cuenta());
+        s.Red.ColRepresas.Agrega({.NombreRepresa = nombre,
+                                  .numRepresa = static_cast<std::int16_t>(s.Red.ColRepresas.Cuenta() + 1),
+                                  .IconoRepresaX = en.X,
+                                  .IconoRepresaY = en.Y,
+                                  .Metodo = "Piscina Nivelada",
+                                  .XCauce = drena.X,
+                                  .YCauce = drena.Y,
+                                  .Cauce_aa = destino,
+                                  .optTabla = true});
+        s.Red.NroRepresas = static_cast<std::int16_t>(s.Red.ColRepresas.Cuenta());
     }
     void Lago(const std::string& nombre, editor::Punto en, const std::string& destino = "",
               editor::Punto drena = {})
     {
-        s.ColLagos.Agrega({.NombreLAGO = nombre,
-                           .numLAGO = static_cast<std::int16_t>(s.ColLagos.Cuenta() + 1),
-                           .IconoLAGOx = en.X,
-                           .IconoLAGOy = en.Y,
-                           .XCauce = drena.X,
-                           .YCauce = drena.Y,
-                           .Metodo = "Directo",
-                           .Cauce_aa = destino});
-        s.NroLagos = static_cast<std::int16_t>(s.ColLagos.Cuenta());
+        s.Red.ColLagos.Agrega({.NombreLAGO = nombre,
+                               .numLAGO = static_cast<std::int16_t>(s.Red.ColLagos.Cuenta() + 1),
+                               .IconoLAGOx = en.X,
+                               .IconoLAGOy = en.Y,
+                               .XCauce = drena.X,
+                               .YCauce = drena.Y,
+                               .Metodo = "Directo",
+                               .Cauce_aa = destino});
+        s.Red.NroLagos = static_cast<std::int16_t>(s.Red.ColLagos.Cuenta());
     }
 };
 
@@ -111,12 +111,12 @@ inline std::vector<std::string> VerificaRed(const editor::frmUEHs& f, const mode
     const auto exige = [&](bool vale, const std::string& que) {
         if (!vale) faltas.push_back(que);
     };
-    exige(s.NroUEHs == s.ColUEHs.Cuenta(), "NroUEHs");
-    exige(s.NroLagos == s.ColLagos.Cuenta(), "NroLagos");
-    exige(s.NroRepresas == s.ColRepresas.Cuenta(), "NroRepresas");
-    exige(s.NroCauces == s.ColCauces.Cuenta() + (f.ClicsCauce > 0 ? 1 : 0), "NroCauces");
-    exige(s.ColUEHs.Cuenta() <= model::MaxUEHs && s.ColCauces.Cuenta() <= model::MaxCauces &&
-              s.ColLagos.Cuenta() <= model::MaxLagos && s.ColRepresas.Cuenta() <= model::MaxRepresas,
+    exige(s.Red.NroUEHs == s.Red.ColUEHs.Cuenta(), "NroUEHs");
+    exige(s.Red.NroLagos == s.Red.ColLagos.Cuenta(), "NroLagos");
+    exige(s.Red.NroRepresas == s.Red.ColRepresas.Cuenta(), "NroRepresas");
+    exige(s.Red.NroCauces == s.Red.ColCauces.Cuenta() + (f.ClicsCauce > 0 ? 1 : 0), "NroCauces");
+    exige(s.Red.ColUEHs.Cuenta() <= model::MaxUEHs && s.Red.ColCauces.Cuenta() <= model::MaxCauces &&
+              s.Red.ColLagos.Cuenta() <= model::MaxLagos && s.Red.ColRepresas.Cuenta() <= model::MaxRepresas,
           "limits");
 
     const auto unicos = [&](const auto& coleccion, auto nombre, std::string_view prefijo) {
@@ -129,41 +129,44 @@ inline std::vector<std::string> VerificaRed(const editor::frmUEHs& f, const mode
             exige(n.starts_with(prefijo) || (prefijo == "c-" && n.starts_with("-.-")), "prefix: " + n);
         }
     };
-    unicos(s.ColUEHs, &model::UEH::NombreUEH, "u-");
-    unicos(s.ColCauces, &model::Cauce::NombreCauce, "c-");
-    unicos(s.ColRepresas, &model::Represa::NombreRepresa, "r-");
-    unicos(s.ColLagos, &model::Lago::NombreLAGO, "l-");
-    for (const auto& u : s.ColUEHs)
+    unicos(s.Red.ColUEHs, &model::UEH::NombreUEH, "u-");
+    unicos(s.Red.ColCauces, &model::Cauce::NombreCauce, "c-");
+    unicos(s.Red.ColRepresas, &model::Represa::NombreRepresa, "r-");
+    unicos(s.Red.ColLagos, &model::Lago::NombreLAGO, "l-");
+    for (const auto& u : s.Red.ColUEHs)
         exige(!u.NombreUEH.empty(), "a UEH without a name");
-    for (const auto& r : s.ColRepresas)
+    for (const auto& r : s.Red.ColRepresas)
         exige(!r.NombreRepresa.empty(), "a Represa without a name");
-    for (const auto& l : s.ColLagos)
+    for (const auto& l : s.Red.ColLagos)
         exige(!l.NombreLAGO.empty(), "a Lago without a name");
 
     int n = 0;
-    for (const auto& u : s.ColUEHs)
+    for (const auto& u : s.Red.ColUEHs)
         exige(u.numUEH == ++n, "numUEH of " + u.NombreUEH);
     n = 0;
-    for (const auto& r : s.ColRepresas)
+    for (const auto& r : s.Red.ColRepresas)
         exige(r.numRepresa == ++n, "numRepresa of " + r.NombreRepresa);
     n = 0;
-    for (const auto& l : s.ColLagos)
+    for (const auto& l : s.Red.ColLagos)
         exige(l.numLAGO == ++n, "numLAGO of " + l.NombreLAGO);
     n = 0;
-    for (const auto& c : s.ColCauces) {
+    for (const auto& c : s.Red.ColCauces) {
         exige(c.numCauce == ++n, "numCauce of " + c.NombreCauce);
-        exige(c.numVertices == s.NroVertices(n), "vertices of " + c.NombreCauce);
+        exige(c.numVertices == s.Red.NroVertices(n), "vertices of " + c.NombreCauce);
         exige(c.numVertices >= 2, "less than two vertices: " + c.NombreCauce);
-        exige(s.XVertice.TopeColumna() >= c.numVertices && s.YVertice.TopeColumna() >= c.numVertices,
+        exige(s.Red.XVertice.TopeColumna() >= c.numVertices && s.Red.YVertice.TopeColumna() >= c.numVertices,
               "vertex bound of " + c.NombreCauce);
     }
 
-    exige(s.UEHSel >= 0 && s.UEHSel <= s.ColUEHs.Cuenta(), "UEHSel");
-    exige(s.LagoSel >= 0 && s.LagoSel <= s.ColLagos.Cuenta(), "LagoSel");
-    exige(s.RepresaSel >= 0 && s.RepresaSel <= s.ColRepresas.Cuenta(), "RepresaSel");
-    exige(s.CauceSel >= 0 && s.CauceSel <= s.ColCauces.Cuenta(), "CauceSel");
-    exige(s.CauceAnterior >= 0 && s.CauceAnterior <= s.ColCauces.Cuenta(), "CauceAnterior");
-    exige(s.VerticeSel == 0 || (s.CauceSel > 0 && s.VerticeSel <= s.NroVertices(s.CauceSel)), "VerticeSel");
+    exige(s.Seleccion.UEHSel >= 0 && s.Seleccion.UEHSel <= s.Red.ColUEHs.Cuenta(), "UEHSel");
+    exige(s.Seleccion.LagoSel >= 0 && s.Seleccion.LagoSel <= s.Red.ColLagos.Cuenta(), "LagoSel");
+    exige(s.Seleccion.RepresaSel >= 0 && s.Seleccion.RepresaSel <= s.Red.ColRepresas.Cuenta(), "RepresaSel");
+    exige(s.Seleccion.CauceSel >= 0 && s.Seleccion.CauceSel <= s.Red.ColCauces.Cuenta(), "CauceSel");
+    exige(s.Seleccion.CauceAnterior >= 0 && s.Seleccion.CauceAnterior <= s.Red.ColCauces.Cuenta(),
+          "CauceAnterior");
+    exige(s.Seleccion.VerticeSel == 0 ||
+              (s.Seleccion.CauceSel > 0 && s.Seleccion.VerticeSel <= s.Red.NroVertices(s.Seleccion.CauceSel)),
+          "VerticeSel");
 
     int modos = 0;
     for (const auto& fila : editor::BotonesUEHs)
@@ -176,8 +179,8 @@ inline std::vector<std::string> VerificaRed(const editor::frmUEHs& f, const mode
             if (p.papel == editor::Papel::Icono) ++iconos;
             if (p.papel == editor::Papel::Cauce) ++cauces;
         }
-        exige(iconos == s.NroUEHs + s.NroLagos + s.NroRepresas, "icons drawn");
-        exige(cauces == s.NroCauces, "reaches drawn");
+        exige(iconos == s.Red.NroUEHs + s.Red.NroLagos + s.Red.NroRepresas, "icons drawn");
+        exige(cauces == s.Red.NroCauces, "reaches drawn");
     }
     return faltas;
 }
@@ -194,8 +197,8 @@ struct EditorDePrueba : ::testing::Test {
     EditorDePrueba()
     {
         disco.PonDirectorio("/proy");
-        s.NombreProyecto = s.frmConfigura.TextProyecto = "Arroyo";
-        s.DirProyecto = s.frmConfigura.Dir1 = "/proy";
+        s.Proyecto.NombreProyecto = s.frmConfigura.TextProyecto = "Arroyo";
+        s.Proyecto.DirProyecto = s.frmConfigura.Dir1 = "/proy";
         s.Disco = disco.Puerta();
         s.Anfitrion = anfitrion.Puerta();
         s.Anfitrion.RedibujaEditor = [this] { editor::Redibuja(f, s); };
@@ -269,7 +272,7 @@ struct EditorDePrueba : ::testing::Test {
     [[nodiscard]] std::vector<std::string> Faltas() const { return VerificaRed(f, s); }
     [[nodiscard]] editor::Punto Vertice(int cauce, int vertice) const
     {
-        return {s.XVertice(cauce, vertice), s.YVertice(cauce, vertice)};
+        return {s.Red.XVertice(cauce, vertice), s.Red.YVertice(cauce, vertice)};
     }
     /// Primitives that play a part.
     [[nodiscard]] std::vector<editor::Primitiva> Con(editor::Papel papel) const

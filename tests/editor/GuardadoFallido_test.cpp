@@ -39,7 +39,7 @@ struct GuardadoFallido : EditorDePrueba {
     [[nodiscard]] Nombres NombresUEH() const
     {
         Nombres nombres;
-        for (const auto& u : s.ColUEHs)
+        for (const auto& u : s.Red.ColUEHs)
             nombres.push_back(u.NombreUEH);
         return nombres;
     }
@@ -53,29 +53,29 @@ struct GuardadoFallido : EditorDePrueba {
 
 TEST_F(GuardadoFallido, ElBotonDejaArchivosMemoriaYDeshacer)
 {
-    editor::Evento(f, s, [&] { s.ColUEHs.Item(1).Area = 12; });
-    editor::Evento(f, s, [&] { s.ColUEHs.Item(2).Area = 34; });
-    s.ColCauces.Item(1).OrdenCauce = 9;  // a save works it out anew
+    editor::Evento(f, s, [&] { s.Red.ColUEHs.Item(1).Area = 12; });
+    editor::Evento(f, s, [&] { s.Red.ColUEHs.Item(2).Area = 34; });
+    s.Red.ColCauces.Item(1).OrdenCauce = 9;  // a save works it out anew
     editor::Asienta(f, s);
-    const auto cauces = s.ColCauces;
+    const auto cauces = s.Red.ColCauces;
     Niega();
     editor::ToolbarUEHs_ButtonClick(f, s, Boton::GuardaUEHs);
     EXPECT_EQ(Avisos(), Cajas{SinAcceso});
     EXPECT_EQ(Archivos(), viejo);
     EXPECT_TRUE(f.cambiada);
-    EXPECT_TRUE(s.ColCauces == cauces);
+    EXPECT_TRUE(s.Red.ColCauces == cauces);
     EXPECT_EQ(f.historia.anteriores.size(), 2U);
     Tecla(T::Deshacer);
-    EXPECT_EQ(s.ColUEHs.Item(2).Area, 0);
-    EXPECT_EQ(s.ColUEHs.Item(1).Area, 12);
+    EXPECT_EQ(s.Red.ColUEHs.Item(2).Area, 0);
+    EXPECT_EQ(s.Red.ColUEHs.Item(1).Area, 12);
     Tecla(T::Rehacer);
     Permite();
     anfitrion->sucesos.clear();
     editor::ToolbarUEHs_ButtonClick(f, s, Boton::GuardaUEHs);
     EXPECT_FALSE(f.cambiada);
     EXPECT_NE(Archivos(), viejo);
-    EXPECT_EQ(s.ColUEHs.Item(1).Area, 12);
-    EXPECT_EQ(s.ColUEHs.Item(2).Area, 34);
+    EXPECT_EQ(s.Red.ColUEHs.Item(1).Area, 12);
+    EXPECT_EQ(s.Red.ColUEHs.Item(2).Area, 34);
     EXPECT_EQ(Faltas(), Nombres{});
 }
 
@@ -87,14 +87,14 @@ TEST_F(GuardadoFallido, ElTrazoSinTerminarSigueEnLaMano)
     Niega();
     PonModo(Boton::GuardaUEHs);
     EXPECT_EQ(f.ClicsCauce, 2);
-    EXPECT_EQ(s.NroCauces, 3);
+    EXPECT_EQ(s.Red.NroCauces, 3);
     EXPECT_EQ(Vertice(3, 2), (editor::Punto{710, 690}));
     EXPECT_EQ(Faltas(), Nombres{});
 }
 
 TEST_F(GuardadoFallido, AlCerrarLaVentanaQueda)
 {
-    editor::Evento(f, s, [&] { s.ColUEHs.Item(1).Area = 12; });
+    editor::Evento(f, s, [&] { s.Red.ColUEHs.Item(1).Area = 12; });
     Niega();
     // No to what the network lacks, yes to the save.
     s.Anfitrion.Pregunta = [](const Mensaje& m) {
@@ -102,7 +102,7 @@ TEST_F(GuardadoFallido, AlCerrarLaVentanaQueda)
     };
     Tecla(T::Esc);
     EXPECT_TRUE(f.abierta);
-    EXPECT_EQ(s.ColUEHs.Item(1).Area, 12);
+    EXPECT_EQ(s.Red.ColUEHs.Item(1).Area, 12);
     EXPECT_TRUE(f.cambiada);
     EXPECT_EQ(Archivos(), viejo);
     const Cajas vistas = Avisos();
@@ -112,13 +112,13 @@ TEST_F(GuardadoFallido, AlCerrarLaVentanaQueda)
 TEST_F(GuardadoFallido, LoBorradoQuedaBorradoConLosNumerosCerradosYSeDeshace)
 {
     Niega();
-    s.UEHSel = 1;
+    s.Seleccion.UEHSel = 1;
     Tecla(T::Suprimir);
     EXPECT_EQ(Avisos(), Cajas{SinAcceso});
     EXPECT_EQ(NombresUEH(), (Nombres{"u-2", "u-3"}));
-    EXPECT_EQ(s.UEHs(1).NombreUEH, "u-2");
-    EXPECT_EQ(s.UEHs(1).numUEH, 1);
-    EXPECT_EQ(s.NroUEHs, 2);
+    EXPECT_EQ(s.Red.UEHs(1).NombreUEH, "u-2");
+    EXPECT_EQ(s.Red.UEHs(1).numUEH, 1);
+    EXPECT_EQ(s.Red.NroUEHs, 2);
     EXPECT_EQ(Archivos(), viejo);
     EXPECT_TRUE(f.cambiada);
     EXPECT_EQ(Faltas(), Nombres{});
@@ -130,17 +130,17 @@ TEST_F(GuardadoFallido, LoBorradoQuedaBorradoConLosNumerosCerradosYSeDeshace)
 TEST_F(GuardadoFallido, VariosBorradosALaVezSeDicenUnaVez)
 {
     Niega();
-    s.CauceSel = 1;
-    s.UEHSel = 3;
-    s.RepresaSel = 2;
-    s.LagoSel = 1;
+    s.Seleccion.CauceSel = 1;
+    s.Seleccion.UEHSel = 3;
+    s.Seleccion.RepresaSel = 2;
+    s.Seleccion.LagoSel = 1;
     Tecla(T::Suprimir);
     const Cajas vistas = Avisos();
     EXPECT_EQ(std::count(vistas.begin(), vistas.end(), SinAcceso), 1);
-    EXPECT_EQ(s.ColCauces.Cuenta(), 1);
+    EXPECT_EQ(s.Red.ColCauces.Cuenta(), 1);
     EXPECT_EQ(NombresUEH(), (Nombres{"u-1", "u-2"}));
-    EXPECT_EQ(s.ColRepresas.Cuenta(), 1);
-    EXPECT_EQ(s.ColLagos.Cuenta(), 0);
+    EXPECT_EQ(s.Red.ColRepresas.Cuenta(), 1);
+    EXPECT_EQ(s.Red.ColLagos.Cuenta(), 0);
     EXPECT_EQ(Archivos(), viejo);
     EXPECT_EQ(Faltas(), Nombres{});
 }
@@ -156,13 +156,13 @@ const std::vector<Orden> Ordenes{
     {"save", [](GuardadoFallido& e) { editor::ToolbarUEHs_ButtonClick(e.f, e.s, Boton::GuardaUEHs); }, 3},
     {"delete a UEH",
      [](GuardadoFallido& e) {
-         e.s.UEHSel = 2;
+         e.s.Seleccion.UEHSel = 2;
          e.Tecla(T::Suprimir);
      },
      2},
     {"delete a reach",
      [](GuardadoFallido& e) {
-         e.s.CauceSel = 1;
+         e.s.Seleccion.CauceSel = 1;
          e.Tecla(T::Suprimir);
      },
      3}};
@@ -183,16 +183,16 @@ TEST_F(GuardadoFallido, CadaLlamadaAlDiscoQueFallaDejaLosArchivosEnterosYElDibuj
                 orden.hace(*this);
                 hubo = disco.HuboFalla();
                 disco.DejaDeFallar();
-                EXPECT_EQ(s.ColUEHs.Cuenta(), orden.uehs) << orden.que << ", call " << n;
-                EXPECT_EQ(s.ColRepresas.Cuenta(), 2) << orden.que << ", call " << n;
+                EXPECT_EQ(s.Red.ColUEHs.Cuenta(), orden.uehs) << orden.que << ", call " << n;
+                EXPECT_EQ(s.Red.ColRepresas.Cuenta(), 2) << orden.que << ", call " << n;
                 EXPECT_EQ(Faltas(), Nombres{}) << orden.que << ", call " << n;
                 EXPECT_EQ(Avisos().size(), n > 1 && hubo ? 2U : 1U) << orden.que << ", call " << n;
                 EXPECT_TRUE(n > 1 || Archivos() == viejo) << orden.que;
                 // What is in memory can be saved as it is.
                 editor::ToolbarUEHs_ButtonClick(f, s, Boton::GuardaUEHs);
                 model::LeeUEHs(s);
-                EXPECT_EQ(s.ColUEHs.Cuenta(), orden.uehs) << orden.que << ", call " << n;
-                EXPECT_EQ(s.ColCauces.Cuenta(), s.NroCauces);
+                EXPECT_EQ(s.Red.ColUEHs.Cuenta(), orden.uehs) << orden.que << ", call " << n;
+                EXPECT_EQ(s.Red.ColCauces.Cuenta(), s.Red.NroCauces);
             }
             EXPECT_GE(n, 2) << orden.que;
         }

@@ -25,18 +25,18 @@ struct HistoriaDelEditor : EditorDePrueba {
 
 TEST_F(HistoriaDelEditor, DeshaceYRehacePasoAPaso)
 {
-    Edita([&] { s.ColUEHs.Item(1).Cauce_aa = "c-1"; });
-    Edita([&] { s.XVertice(1, 2) = 222; });
+    Edita([&] { s.Red.ColUEHs.Item(1).Cauce_aa = "c-1"; });
+    Edita([&] { s.Red.XVertice(1, 2) = 222; });
     EXPECT_TRUE(f.cambiada);
     Tecla(T::Deshacer);
     EXPECT_EQ(Vertice(1, 2), (Punto{200, 200}));
-    EXPECT_EQ(s.ColUEHs.Item(1).Cauce_aa, "c-1");
+    EXPECT_EQ(s.Red.ColUEHs.Item(1).Cauce_aa, "c-1");
     Tecla(T::Deshacer);
-    EXPECT_EQ(s.ColUEHs.Item(1).Cauce_aa, "");
+    EXPECT_EQ(s.Red.ColUEHs.Item(1).Cauce_aa, "");
     Tecla(T::Deshacer);
-    EXPECT_EQ(s.NroUEHs, 1);
+    EXPECT_EQ(s.Red.NroUEHs, 1);
     Tecla(T::Rehacer);
-    EXPECT_EQ(s.ColUEHs.Item(1).Cauce_aa, "c-1");
+    EXPECT_EQ(s.Red.ColUEHs.Item(1).Cauce_aa, "c-1");
     EXPECT_EQ(Vertice(1, 2), (Punto{200, 200}));
     Tecla(T::Rehacer);
     EXPECT_EQ(Vertice(1, 2), (Punto{222, 200}));
@@ -46,9 +46,9 @@ TEST_F(HistoriaDelEditor, DeshaceYRehacePasoAPaso)
 
 TEST_F(HistoriaDelEditor, UnPasoNuevoOlvidaLosQueSeguian)
 {
-    Edita([&] { s.XVertice(1, 2) = 222; });
+    Edita([&] { s.Red.XVertice(1, 2) = 222; });
     Tecla(T::Deshacer);
-    Edita([&] { s.XVertice(1, 2) = 333; });
+    Edita([&] { s.Red.XVertice(1, 2) = 333; });
     Tecla(T::Rehacer);
     EXPECT_EQ(Vertice(1, 2), (Punto{333, 200}));
     Tecla(T::Deshacer);
@@ -65,37 +65,37 @@ TEST_F(HistoriaDelEditor, LoQueNoCambiaLaRedNoEsUnPaso)
     editor::sldEscala_Mueve(f, s, 50);
     EXPECT_TRUE(f.historia.anteriores.empty());
     EXPECT_FALSE(f.cambiada);
-    EXPECT_EQ(s.ColCauces.Item(1).OrdenCauce, 1);
+    EXPECT_EQ(s.Red.ColCauces.Item(1).OrdenCauce, 1);
 }
 
 TEST_F(HistoriaDelEditor, GuardarConservaLaHistoria)
 {
-    Edita([&] { s.ColUEHs.Item(1).Area = 12; });
+    Edita([&] { s.Red.ColUEHs.Item(1).Area = 12; });
     editor::ToolbarUEHs_ButtonClick(f, s, Boton::GuardaUEHs);
     EXPECT_FALSE(f.cambiada);
     EXPECT_EQ(f.historia.anteriores.size(), 1U);
     Tecla(T::Deshacer);
-    EXPECT_EQ(s.ColUEHs.Item(1).Area, 0);
+    EXPECT_EQ(s.Red.ColUEHs.Item(1).Area, 0);
     EXPECT_TRUE(f.cambiada);
     Tecla(T::Rehacer);
-    EXPECT_EQ(s.ColUEHs.Item(1).Area, 12);
+    EXPECT_EQ(s.Red.ColUEHs.Item(1).Area, 12);
 }
 
 TEST_F(HistoriaDelEditor, GuardarConservaTambienLosPasosHaciaAdelante)
 {
-    Edita([&] { s.ColUEHs.Item(1).Area = 12; });
+    Edita([&] { s.Red.ColUEHs.Item(1).Area = 12; });
     Tecla(T::Deshacer);
     editor::ToolbarUEHs_ButtonClick(f, s, Boton::GuardaUEHs);
     Tecla(T::Rehacer);
-    EXPECT_EQ(s.ColUEHs.Item(1).Area, 12);
+    EXPECT_EQ(s.Red.ColUEHs.Item(1).Area, 12);
 }
 
 TEST_F(HistoriaDelEditor, DeshacerLimpiaLaSeleccionYRedibuja)
 {
     Edita([&] { red.UEH("u-2", {9, 9}); });
-    s.UEHSel = 2;
+    s.Seleccion.UEHSel = 2;
     Tecla(T::Deshacer);
-    EXPECT_EQ(s.UEHSel, 0);
+    EXPECT_EQ(s.Seleccion.UEHSel, 0);
     EXPECT_EQ(Con(editor::Papel::Icono).size(), 1U);
     EXPECT_EQ(Faltas(), std::vector<std::string>{});
 }
@@ -111,15 +111,15 @@ TEST_F(HistoriaDelEditor, VuelvenCuentasVerticesYTodasLasClases)
     });
     const model::Siro despues = s;
     Tecla(T::Deshacer);
-    EXPECT_EQ(s.ColCauces, antes.ColCauces);
-    EXPECT_EQ(s.ColRepresas.Cuenta() + s.ColLagos.Cuenta(), 0);
-    EXPECT_EQ(s.NroCauces + s.NroRepresas + s.NroLagos, 1);
-    EXPECT_EQ(s.NroVertices(2), 0);
+    EXPECT_EQ(s.Red.ColCauces, antes.Red.ColCauces);
+    EXPECT_EQ(s.Red.ColRepresas.Cuenta() + s.Red.ColLagos.Cuenta(), 0);
+    EXPECT_EQ(s.Red.NroCauces + s.Red.NroRepresas + s.Red.NroLagos, 1);
+    EXPECT_EQ(s.Red.NroVertices(2), 0);
     Tecla(T::Rehacer);
-    EXPECT_EQ(s.ColCauces, despues.ColCauces);
-    EXPECT_EQ(s.ColRepresas, despues.ColRepresas);
-    EXPECT_EQ(s.ColLagos, despues.ColLagos);
-    EXPECT_EQ(s.NroVertices(2), 3);
+    EXPECT_EQ(s.Red.ColCauces, despues.Red.ColCauces);
+    EXPECT_EQ(s.Red.ColRepresas, despues.Red.ColRepresas);
+    EXPECT_EQ(s.Red.ColLagos, despues.Red.ColLagos);
+    EXPECT_EQ(s.Red.NroVertices(2), 3);
     EXPECT_EQ(Vertice(2, 3), (Punto{5, 6}));
     EXPECT_EQ(Vertice(2, 1), (Punto{200, 200}));  // where c-1 begins
     EXPECT_EQ(Faltas(), std::vector<std::string>{});
@@ -128,15 +128,15 @@ TEST_F(HistoriaDelEditor, VuelvenCuentasVerticesYTodasLasClases)
 TEST_F(HistoriaDelEditor, UnaFallaDevuelveLaRedComoEstaba)
 {
     Edita([&] {
-        ++s.NroUEHs;
-        s.ColUEHs.Item(1).Area = 5;
+        ++s.Red.NroUEHs;
+        s.Red.ColUEHs.Item(1).Area = 5;
         throw model::Falla{model::NumeroFalla::Subindice};
     });
     EXPECT_EQ(
         Avisos(),
         (Cajas{{"Error Nro. 9 ,El subíndice está fuera del intervaloVerifique", "", model::Icono::Ninguno}}));
-    EXPECT_EQ(s.NroUEHs, 1);
-    EXPECT_EQ(s.ColUEHs.Item(1).Area, 0);
+    EXPECT_EQ(s.Red.NroUEHs, 1);
+    EXPECT_EQ(s.Red.ColUEHs.Item(1).Area, 0);
     EXPECT_TRUE(f.historia.anteriores.empty());
     EXPECT_FALSE(f.cambiada);
 }
@@ -148,56 +148,56 @@ TEST_F(HistoriaDelEditor, ElFinDelProgramaPasaDeLargo)
 
 TEST_F(HistoriaDelEditor, LoQueCambiaUnaFormaAbiertaEsUnPaso)
 {
-    s.ColUEHs.Item(1).Area = 44;
+    s.Red.ColUEHs.Item(1).Area = 44;
     editor::AlActivarse(f, s);
     Tecla(T::Deshacer);
-    EXPECT_EQ(s.ColUEHs.Item(1).Area, 0);
+    EXPECT_EQ(s.Red.ColUEHs.Item(1).Area, 0);
 }
 
 TEST_F(HistoriaDelEditor, OtroProyectoEmpiezaOtraHistoria)
 {
-    Edita([&] { s.ColUEHs.Item(1).Area = 12; });
-    s.NombreProyecto = "Otro";
+    Edita([&] { s.Red.ColUEHs.Item(1).Area = 12; });
+    s.Proyecto.NombreProyecto = "Otro";
     editor::AlActivarse(f, s);
     Tecla(T::Deshacer);
-    EXPECT_EQ(s.ColUEHs.Item(1).Area, 12);
+    EXPECT_EQ(s.Red.ColUEHs.Item(1).Area, 12);
 }
 
 TEST_F(HistoriaDelEditor, DuranteUnArrastreNoSeAnota)
 {
     f.izquierdoAbajo = true;
-    Edita([&] { s.ColUEHs.Item(1).IconoUEHx = 1; });
-    Edita([&] { s.ColUEHs.Item(1).IconoUEHx = 2; });
+    Edita([&] { s.Red.ColUEHs.Item(1).IconoUEHx = 1; });
+    Edita([&] { s.Red.ColUEHs.Item(1).IconoUEHx = 2; });
     EXPECT_TRUE(f.historia.anteriores.empty());
     f.izquierdoAbajo = false;
     Edita([] {});
     EXPECT_EQ(f.historia.anteriores.size(), 1U);
     Tecla(T::Deshacer);
-    EXPECT_EQ(s.ColUEHs.Item(1).IconoUEHx, 250);
+    EXPECT_EQ(s.Red.ColUEHs.Item(1).IconoUEHx, 250);
 }
 
 TEST_F(HistoriaDelEditor, UnaOrdenEnMedioDeUnArrastreLoTermina)
 {
     f.izquierdoAbajo = true;
-    Edita([&] { s.ColUEHs.Item(1).IconoUEHx = 2; });
+    Edita([&] { s.Red.ColUEHs.Item(1).IconoUEHx = 2; });
     Tecla(T::Deshacer);
     EXPECT_FALSE(f.izquierdoAbajo);
-    EXPECT_EQ(s.ColUEHs.Item(1).IconoUEHx, 250);
+    EXPECT_EQ(s.Red.ColUEHs.Item(1).IconoUEHx, 250);
     Tecla(T::Rehacer);
-    EXPECT_EQ(s.ColUEHs.Item(1).IconoUEHx, 2);
+    EXPECT_EQ(s.Red.ColUEHs.Item(1).IconoUEHx, 2);
 }
 
 TEST_F(HistoriaDelEditor, LaActivacionQueTraeUnaCajaNoAnotaLoQueVaPorLaMitad)
 {
     Edita([&] {
-        s.ColUEHs.Item(1).Area = 1;
+        s.Red.ColUEHs.Item(1).Area = 1;
         editor::AlActivarse(f, s);
         EXPECT_TRUE(f.historia.anteriores.empty());
-        s.ColUEHs.Item(1).Area = 2;
+        s.Red.ColUEHs.Item(1).Area = 2;
     });
     EXPECT_EQ(f.historia.anteriores.size(), 1U);
     Tecla(T::Deshacer);
-    EXPECT_EQ(s.ColUEHs.Item(1).Area, 0);
+    EXPECT_EQ(s.Red.ColUEHs.Item(1).Area, 0);
 }
 
 /// The clicks of a reach as the rules store them.
@@ -206,23 +206,23 @@ struct TrazoEnHistoria : HistoriaDelEditor {
     {
         Edita([&] {
             if (f.ClicsCauce++ == 0) {
-                ++s.NroCauces;
-                s.NroVertices(s.NroCauces) = 0;
+                ++s.Red.NroCauces;
+                s.Red.NroVertices(s.Red.NroCauces) = 0;
             }
-            ++s.NroVertices(s.NroCauces);
+            ++s.Red.NroVertices(s.Red.NroCauces);
             editor::Redibuja(f, s);
-            s.XVertice(s.NroCauces, s.NroVertices(s.NroCauces)) = p.X;
-            s.YVertice(s.NroCauces, s.NroVertices(s.NroCauces)) = p.Y;
+            s.Red.XVertice(s.Red.NroCauces, s.Red.NroVertices(s.Red.NroCauces)) = p.X;
+            s.Red.YVertice(s.Red.NroCauces, s.Red.NroVertices(s.Red.NroCauces)) = p.Y;
         });
     }
     void Termina()
     {
         Edita([&] {
             f.ClicsCauce = 0;
-            s.ColCauces.Agrega({.numCauce = s.NroCauces,
-                                .numVertices = s.NroVertices(s.NroCauces),
-                                .NombreCauce = "c-nuevo",
-                                .Cauce_aa = "0"});
+            s.Red.ColCauces.Agrega({.numCauce = s.Red.NroCauces,
+                                    .numVertices = s.Red.NroVertices(s.Red.NroCauces),
+                                    .NombreCauce = "c-nuevo",
+                                    .Cauce_aa = "0"});
             editor::Redibuja(f, s);
         });
     }
@@ -235,11 +235,11 @@ TEST_F(TrazoEnHistoria, MientrasSeDibujaDeshacerQuitaUnVertice)
     ClicDeTrazo({3, 3});
     Tecla(T::Deshacer);
     EXPECT_EQ(f.ClicsCauce, 2);
-    EXPECT_EQ(s.NroVertices(2), 2);
+    EXPECT_EQ(s.Red.NroVertices(2), 2);
     Tecla(T::Deshacer);
     Tecla(T::Deshacer);
     EXPECT_EQ(f.ClicsCauce, 0);
-    EXPECT_EQ(s.NroCauces, 1);
+    EXPECT_EQ(s.Red.NroCauces, 1);
     EXPECT_EQ(Faltas(), std::vector<std::string>{});
     Tecla(T::Rehacer);
     EXPECT_EQ(f.ClicsCauce, 1);
@@ -254,10 +254,10 @@ TEST_F(TrazoEnHistoria, TerminadoElCauceEsUnSoloPaso)
     Termina();
     EXPECT_EQ(f.historia.anteriores.size(), 1U);
     Tecla(T::Deshacer);
-    EXPECT_EQ(s.NroCauces, 1);
+    EXPECT_EQ(s.Red.NroCauces, 1);
     EXPECT_EQ(f.ClicsCauce, 0);
     Tecla(T::Rehacer);
-    EXPECT_EQ(s.ColCauces.Cuenta(), 2);
+    EXPECT_EQ(s.Red.ColCauces.Cuenta(), 2);
     EXPECT_EQ(Vertice(2, 3), (Punto{3, 3}));
 }
 
@@ -269,18 +269,18 @@ TEST_F(TrazoEnHistoria, LoColocadoEntreDosClicsSigueSiendoUnPasoPropio)
     ClicDeTrazo({3, 3});
     Termina();
     Tecla(T::Deshacer);  // back before the third click
-    EXPECT_EQ(s.ColCauces.Cuenta(), 1);
+    EXPECT_EQ(s.Red.ColCauces.Cuenta(), 1);
     EXPECT_EQ(f.ClicsCauce, 2);
-    EXPECT_EQ(s.NroUEHs, 2);
+    EXPECT_EQ(s.Red.NroUEHs, 2);
     Tecla(T::Deshacer);
-    EXPECT_EQ(s.NroUEHs, 1);
+    EXPECT_EQ(s.Red.NroUEHs, 1);
     EXPECT_EQ(f.ClicsCauce, 2);
 }
 
 TEST_F(HistoriaDelEditor, LasPartesQueNoCambianSeComparten)
 {
     for (int i = 1; i <= 50; ++i)
-        Edita([&] { s.ColUEHs.Item(1).Area = static_cast<float>(i); });
+        Edita([&] { s.Red.ColUEHs.Item(1).Area = static_cast<float>(i); });
     ASSERT_EQ(f.historia.anteriores.size(), 50U);
     for (const auto& guardada : f.historia.anteriores) {
         EXPECT_EQ(guardada.vertices, f.historia.presente.vertices);
@@ -292,13 +292,13 @@ TEST_F(HistoriaDelEditor, LasPartesQueNoCambianSeComparten)
 
 TEST_F(HistoriaDelEditor, UnArrastreEsUnSoloPaso)
 {
-    s.UEHSel = 1;
+    s.Seleccion.UEHSel = 1;
     Arrastra({{255, 155}, {260, 160}, {300, 200}, {400, 300}});
-    EXPECT_NE(s.ColUEHs.Item(1).IconoUEHx, 250);
+    EXPECT_NE(s.Red.ColUEHs.Item(1).IconoUEHx, 250);
     EXPECT_EQ(f.historia.anteriores.size(), 1U);
     Tecla(T::Deshacer);
-    EXPECT_EQ(s.ColUEHs.Item(1).IconoUEHx, 250);
-    EXPECT_EQ(s.ColUEHs.Item(1).IconoUEHy, 150);
+    EXPECT_EQ(s.Red.ColUEHs.Item(1).IconoUEHx, 250);
+    EXPECT_EQ(s.Red.ColUEHs.Item(1).IconoUEHy, 150);
 }
 
 TEST_F(HistoriaDelEditor, UnCauceDibujadoEsUnSoloPaso)
@@ -308,26 +308,26 @@ TEST_F(HistoriaDelEditor, UnCauceDibujadoEsUnSoloPaso)
     Clic(20, 20);
     Escribe({"nuevo"});
     DobleClic(30, 30);
-    ASSERT_EQ(s.ColCauces.Cuenta(), 2);
-    EXPECT_EQ(s.ColCauces.Item(2).NombreCauce, "c-nuevo");
+    ASSERT_EQ(s.Red.ColCauces.Cuenta(), 2);
+    EXPECT_EQ(s.Red.ColCauces.Item(2).NombreCauce, "c-nuevo");
     EXPECT_EQ(f.historia.anteriores.size(), 1U);
     Tecla(T::Deshacer);
-    EXPECT_EQ(s.NroCauces, 1);
+    EXPECT_EQ(s.Red.NroCauces, 1);
     Tecla(T::Rehacer);
-    EXPECT_EQ(s.NroVertices(2), 3);
+    EXPECT_EQ(s.Red.NroVertices(2), 3);
     EXPECT_EQ(Faltas(), std::vector<std::string>{});
 }
 
 TEST_F(HistoriaDelEditor, DeshacerUnBorradoQueSeGuardoMarcaLaRedComoCambiada)
 {
-    s.UEHSel = 1;
+    s.Seleccion.UEHSel = 1;
     Tecla(T::Suprimir);
-    EXPECT_EQ(s.NroUEHs, 0);
+    EXPECT_EQ(s.Red.NroUEHs, 0);
     EXPECT_FALSE(f.cambiada);
     const std::string enDisco = disco.Bytes("/proy/Arroyo_UEHs.vlm");
     Tecla(T::Deshacer);
-    EXPECT_EQ(s.NroUEHs, 1);
-    EXPECT_EQ(s.ColUEHs.Item(1).NombreUEH, "u-1");
+    EXPECT_EQ(s.Red.NroUEHs, 1);
+    EXPECT_EQ(s.Red.ColUEHs.Item(1).NombreUEH, "u-1");
     EXPECT_TRUE(f.cambiada);
     EXPECT_EQ(disco.Bytes("/proy/Arroyo_UEHs.vlm"), enDisco);
 }
@@ -335,22 +335,22 @@ TEST_F(HistoriaDelEditor, DeshacerUnBorradoQueSeGuardoMarcaLaRedComoCambiada)
 TEST_F(HistoriaDelEditor, BorrarTodoSeDeshace)
 {
     editor::ToolbarUEHs_ButtonClick(f, s, Boton::BorraTodo);
-    EXPECT_EQ(s.NroUEHs + s.NroCauces, 0);
+    EXPECT_EQ(s.Red.NroUEHs + s.Red.NroCauces, 0);
     Tecla(T::Deshacer);
-    EXPECT_EQ(s.NroUEHs + s.NroCauces, 2);
+    EXPECT_EQ(s.Red.NroUEHs + s.Red.NroCauces, 2);
     EXPECT_EQ(Vertice(1, 2), (Punto{200, 200}));
 }
 
 TEST_F(HistoriaDelEditor, ColocarPasadoElLimiteDejaLaRedComoEstaba)
 {
-    while (s.NroRepresas < model::MaxRepresas)
-        red.Represa("r-" + std::to_string(s.NroRepresas), {static_cast<float>(s.NroRepresas), 5});
+    while (s.Red.NroRepresas < model::MaxRepresas)
+        red.Represa("r-" + std::to_string(s.Red.NroRepresas), {static_cast<float>(s.Red.NroRepresas), 5});
     Parte();
     PonModo(Boton::Represa);
     Escribe({"una mas"});
     Clic(500, 500);
-    EXPECT_EQ(s.NroRepresas, model::MaxRepresas);
-    EXPECT_EQ(s.ColRepresas.Cuenta(), model::MaxRepresas);
+    EXPECT_EQ(s.Red.NroRepresas, model::MaxRepresas);
+    EXPECT_EQ(s.Red.ColRepresas.Cuenta(), model::MaxRepresas);
     EXPECT_EQ(
         Avisos(),
         (Cajas{{"Error Nro. 9 ,El subíndice está fuera del intervaloVerifique", "", model::Icono::Ninguno}}));

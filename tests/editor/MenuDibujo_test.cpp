@@ -24,10 +24,10 @@ struct Menu : EditorDePrueba {
     }
     void Elige(int cauce, int ueh, int represa, int lago)
     {
-        s.CauceSel = static_cast<std::int16_t>(cauce);
-        s.UEHSel = static_cast<std::int16_t>(ueh);
-        s.RepresaSel = static_cast<std::int16_t>(represa);
-        s.LagoSel = static_cast<std::int16_t>(lago);
+        s.Seleccion.CauceSel = static_cast<std::int16_t>(cauce);
+        s.Seleccion.UEHSel = static_cast<std::int16_t>(ueh);
+        s.Seleccion.RepresaSel = static_cast<std::int16_t>(represa);
+        s.Seleccion.LagoSel = static_cast<std::int16_t>(lago);
     }
     /// Names of the enabled entries, the two that always are apart.
     std::set<std::string> Habilitadas()
@@ -109,8 +109,8 @@ TEST_F(Menu, DesacoplarPideUnDestinoQueNoSeaVacioNi0)
     };
     for (const auto& [destino, habilita] :
          std::vector<Fila>{{"", false}, {"0", false}, {"c-2", true}, {"c-borrado", true}}) {
-        s.ColUEHs.Item(1).Cauce_aa = s.ColCauces.Item(1).Cauce_aa = s.ColLagos.Item(1).Cauce_aa =
-            s.ColRepresas.Item(1).Cauce_aa = destino;
+        s.Red.ColUEHs.Item(1).Cauce_aa = s.Red.ColCauces.Item(1).Cauce_aa = s.Red.ColLagos.Item(1).Cauce_aa =
+            s.Red.ColRepresas.Item(1).Cauce_aa = destino;
         Elige(0, 1, 0, 0);
         EXPECT_EQ(Habilitadas().contains("mnu_desacoplaUEH"), habilita) << destino;
         Elige(1, 0, 0, 0);
@@ -127,7 +127,7 @@ TEST_F(Menu, DividirPideUnVerticeTomadoSinUEHNiRepresa)
     const auto divide = [&] { return Habilitadas().contains("mnu_DivideCauce"); };
     Elige(1, 0, 0, 0);
     EXPECT_FALSE(divide());
-    s.VerticeSel = 2;
+    s.Seleccion.VerticeSel = 2;
     EXPECT_TRUE(divide());
     Elige(1, 0, 0, 1);
     EXPECT_TRUE(divide());  // a Lago doesn't matter
@@ -144,14 +144,14 @@ TEST_F(Menu, AcoplarDosCaucesPideDosYQueElPrimeroNoDreneYaAlSegundo)
     const auto acopla = [&] { return Habilitadas().contains("mnu_acoplaCauce1aCauce2"); };
     Elige(2, 0, 0, 0);
     EXPECT_FALSE(acopla());
-    s.CauceAnterior = 1;
+    s.Seleccion.CauceAnterior = 1;
     EXPECT_TRUE(acopla());
-    s.ColCauces.Item(1).Cauce_aa = "c-2";
+    s.Red.ColCauces.Item(1).Cauce_aa = "c-2";
     EXPECT_FALSE(acopla());
-    s.ColCauces.Item(1).Cauce_aa = "0";
-    s.ColCauces.Item(2).Cauce_aa = "c-1";  // the inversion is the command's to refuse
+    s.Red.ColCauces.Item(1).Cauce_aa = "0";
+    s.Red.ColCauces.Item(2).Cauce_aa = "c-1";  // the inversion is the command's to refuse
     EXPECT_TRUE(acopla());
-    s.CauceAnterior = 2;
+    s.Seleccion.CauceAnterior = 2;
     EXPECT_FALSE(acopla());
 }
 
@@ -159,12 +159,12 @@ TEST_F(Menu, CentrarYZoomAllLimpianLaSeleccion)
 {
     Elige(1, 1, 1, 1);
     editor::mnu_DibujoSec_Click(f, s, "mnu_CentrarDibujo");
-    EXPECT_EQ(s.CauceSel + s.UEHSel + s.RepresaSel + s.LagoSel, 0);
+    EXPECT_EQ(s.Seleccion.CauceSel + s.Seleccion.UEHSel + s.Seleccion.RepresaSel + s.Seleccion.LagoSel, 0);
     EXPECT_EQ(f.sldEscala, 100);
     EXPECT_EQ(f.origen, (Punto{-140, -175}));  // 100..420 and 150..300 in 800
     Elige(1, 1, 1, 1);
     editor::mnu_DibujoSec_Click(f, s, "mnu_ZoomAll");
-    EXPECT_EQ(s.CauceSel + s.UEHSel + s.RepresaSel + s.LagoSel, 0);
+    EXPECT_EQ(s.Seleccion.CauceSel + s.Seleccion.UEHSel + s.Seleccion.RepresaSel + s.Seleccion.LagoSel, 0);
     EXPECT_EQ(f.sldEscala, 44);  // 320 * 1.1 / 800
     EXPECT_EQ(f.origen, (Punto{84, 49}));
 }

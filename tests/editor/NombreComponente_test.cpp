@@ -33,13 +33,13 @@ struct Renombre : RedDeFichas {
     Textos Destinos() const
     {
         Textos t;
-        for (const auto& u : s.ColUEHs)
+        for (const auto& u : s.Red.ColUEHs)
             t.push_back(u.Cauce_aa);
-        for (const auto& c : s.ColCauces)
+        for (const auto& c : s.Red.ColCauces)
             t.push_back(c.Cauce_aa);
-        for (const auto& r : s.ColRepresas)
+        for (const auto& r : s.Red.ColRepresas)
             t.push_back(r.Cauce_aa);
-        for (const auto& l : s.ColLagos)
+        for (const auto& l : s.Red.ColLagos)
             t.push_back(l.Cauce_aa);
         return t;
     }
@@ -61,10 +61,10 @@ TEST_F(Renombre, LosDeUEHsOCaucesQuedanSiNoSiguen)
 
 TEST_F(Renombre, UnCauceExceptuadoQueda)
 {
-    s.Cauces(3).Cauce_aa = "c-1";
+    s.Red.Cauces(3).Cauce_aa = "c-1";
     RenombraDestinos(s, "c-1", "c-x", {.salvoCauce = 3});
-    EXPECT_EQ(s.Cauces(2).Cauce_aa, "c-x");
-    EXPECT_EQ(s.Cauces(3).Cauce_aa, "c-1");
+    EXPECT_EQ(s.Red.Cauces(2).Cauce_aa, "c-x");
+    EXPECT_EQ(s.Red.Cauces(3).Cauce_aa, "c-1");
 }
 
 TEST_F(Renombre, ElNombreVacioYElCeroNoLosTieneNadie)
@@ -77,9 +77,9 @@ TEST_F(Renombre, ElNombreVacioYElCeroNoLosTieneNadie)
 
 TEST_F(Renombre, SoloElNombreEntero)
 {
-    s.UEHs(2).Cauce_aa = "c-11";
+    s.Red.UEHs(2).Cauce_aa = "c-11";
     RenombraDestinos(s, "c-1", "c-x", {});
-    EXPECT_EQ(s.UEHs(2).Cauce_aa, "c-11");
+    EXPECT_EQ(s.Red.UEHs(2).Cauce_aa, "c-11");
 }
 
 }  // namespace

@@ -18,36 +18,36 @@ class ProyectoGuardado {
     {
         s.Anfitrion = anfitrion.Puerta();
         s.Disco = disco.Puerta();
-        s.NombreProyecto = "Arroyo";
-        s.DirProyecto = s.frmConfigura.Dir1 = "/proy";
+        s.Proyecto.NombreProyecto = "Arroyo";
+        s.Proyecto.DirProyecto = s.frmConfigura.Dir1 = "/proy";
         disco.PonDirectorio("/proy");
-        s.XVertice.Dimensiona(model::MaxCauces, model::MaxNroVertices);
-        s.YVertice.Dimensiona(model::MaxCauces, model::MaxNroVertices);
+        s.Red.XVertice.Dimensiona(model::MaxCauces, model::MaxNroVertices);
+        s.Red.YVertice.Dimensiona(model::MaxCauces, model::MaxNroVertices);
     }
     /// Adds a reach of two vertices.
     void Agrega(model::Cauce c)
     {
-        const auto n = static_cast<std::int16_t>(s.ColCauces.Cuenta() + 1);
+        const auto n = static_cast<std::int16_t>(s.Red.ColCauces.Cuenta() + 1);
         c.numCauce = n;
-        c.numVertices = s.NroVertices(n) = 2;
+        c.numVertices = s.Red.NroVertices(n) = 2;
         c.IndiceParInicial = static_cast<std::int16_t>(2 * n - 1);
-        s.NroCauces = n;
-        s.ColCauces.Agrega(std::move(c));
+        s.Red.NroCauces = n;
+        s.Red.ColCauces.Agrega(std::move(c));
     }
     void Agrega(model::UEH u)
     {
-        u.numUEH = s.NroUEHs = static_cast<std::int16_t>(s.ColUEHs.Cuenta() + 1);
-        s.ColUEHs.Agrega(std::move(u));
+        u.numUEH = s.Red.NroUEHs = static_cast<std::int16_t>(s.Red.ColUEHs.Cuenta() + 1);
+        s.Red.ColUEHs.Agrega(std::move(u));
     }
     void Agrega(model::Represa r)
     {
-        r.numRepresa = s.NroRepresas = static_cast<std::int16_t>(s.ColRepresas.Cuenta() + 1);
-        s.ColRepresas.Agrega(std::move(r));
+        r.numRepresa = s.Red.NroRepresas = static_cast<std::int16_t>(s.Red.ColRepresas.Cuenta() + 1);
+        s.Red.ColRepresas.Agrega(std::move(r));
     }
     void Agrega(model::Lago l)
     {
-        l.numLAGO = s.NroLagos = static_cast<std::int16_t>(s.ColLagos.Cuenta() + 1);
-        s.ColLagos.Agrega(std::move(l));
+        l.numLAGO = s.Red.NroLagos = static_cast<std::int16_t>(s.Red.ColLagos.Cuenta() + 1);
+        s.Red.ColLagos.Agrega(std::move(l));
     }
     /// Puts the network on the disk and forgets what was said about it.
     void Guarda()

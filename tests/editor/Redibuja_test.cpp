@@ -38,14 +38,14 @@ struct Redibuja : EditorDePrueba {
 TEST_F(Redibuja, LaCotaDeVerticesSubeHastaLaMayorYConservaLoQueHay)
 {
     red.Cauce("c-1", {{1, 2}, {3, 4}});
-    s.NroVertices(1) = 5;
+    s.Red.NroVertices(1) = 5;
     Dibuja();
-    EXPECT_EQ(s.XVertice.TopeColumna(), 5);
-    EXPECT_EQ(s.YVertice.TopeColumna(), 5);
+    EXPECT_EQ(s.Red.XVertice.TopeColumna(), 5);
+    EXPECT_EQ(s.Red.YVertice.TopeColumna(), 5);
     EXPECT_EQ(Vertice(1, 2), (Punto{3, 4}));
-    s.NroVertices(1) = 2;
+    s.Red.NroVertices(1) = 2;
     Dibuja();
-    EXPECT_EQ(s.XVertice.TopeColumna(), 5);
+    EXPECT_EQ(s.Red.XVertice.TopeColumna(), 5);
 }
 
 TEST_F(Redibuja, LaDesembocaduraTomaElUltimoVerticeDelCauceReceptor)
@@ -56,7 +56,7 @@ TEST_F(Redibuja, LaDesembocaduraTomaElUltimoVerticeDelCauceReceptor)
     EXPECT_EQ(Vertice(2, 1), (Punto{300, 40}));
     EXPECT_EQ(Vertice(2, 2), (Punto{500, 10}));
     EXPECT_EQ(Vertice(1, 1), (Punto{100, 100}));
-    s.XVertice(1, 3) = 310;
+    s.Red.XVertice(1, 3) = 310;
     Dibuja();
     EXPECT_EQ(Vertice(2, 1), (Punto{310, 40}));
 }
@@ -139,7 +139,7 @@ TEST_F(Redibuja, LaEscalaSeQuedaEntre1Y1000)
     f.reescala = true;
     Dibuja();
     EXPECT_EQ(f.sldEscala, 1);
-    s.XVertice(1, 2) = 90000;
+    s.Red.XVertice(1, 2) = 90000;
     f.reescala = true;
     Dibuja();
     EXPECT_EQ(f.sldEscala, 1000);
@@ -162,7 +162,7 @@ TEST_F(Redibuja, RecentraLaExtensionUnaSolaVez)
     Dibuja();
     EXPECT_EQ(f.origen, (Punto{-200, -300}));  // 100 - (800 - 200)/2, 50 - (800 - 100)/2
     EXPECT_FALSE(f.recentra);
-    s.XVertice(1, 2) = 700;
+    s.Red.XVertice(1, 2) = 700;
     Dibuja();
     EXPECT_EQ(f.origen, (Punto{-200, -300}));
 }
@@ -298,16 +298,16 @@ TEST_F(Redibuja, LaImagenVaPrimeroConSuAltoPor133333333)
     red.Cauce("c-1", {{100, 50}, {300, 150}});
     f.ImagenVisible = true;
     f.imagen = {640, 300};
-    s.ImagenX0 = 12;
-    s.ImagenY0 = -7;
-    s.EscalaImagen = 0;
+    s.Configuracion.ImagenX0 = 12;
+    s.Configuracion.ImagenY0 = -7;
+    s.Configuracion.EscalaImagen = 0;
     Dibuja();
     const Primitiva imagen = f.dibujo.Primitivas().front();
     EXPECT_EQ(imagen.forma, Forma::Imagen);
     EXPECT_EQ(imagen.en, (Punto{12, -7}));
     EXPECT_FLOAT_EQ(imagen.tamano, 640);
     EXPECT_FLOAT_EQ(imagen.alto, 400);  // 300 * 1.33333333
-    s.EscalaImagen = 50;
+    s.Configuracion.EscalaImagen = 50;
     Dibuja();
     EXPECT_FLOAT_EQ(f.dibujo.Primitivas().front().tamano, 320);
     EXPECT_FLOAT_EQ(f.dibujo.Primitivas().front().alto, 200);
@@ -341,11 +341,11 @@ TEST_F(Redibuja, LosCaucesSonPolilineasDesdeElVertice1ConElAnchoDeLinea)
 
 TEST_F(Redibuja, ElCauceQueSeEstaDibujandoSeVeAunqueNoTengaObjeto)
 {
-    s.NroCauces = 1;
-    s.NroVertices(1) = 1;
+    s.Red.NroCauces = 1;
+    s.Red.NroVertices(1) = 1;
     Dibuja();
-    s.XVertice(1, 1) = 30;
-    s.YVertice(1, 1) = 40;
+    s.Red.XVertice(1, 1) = 30;
+    s.Red.YVertice(1, 1) = 40;
     f.ClicsCauce = 1;
     Dibuja();
     ASSERT_EQ(Con(Papel::Cauce).size(), 1U);
@@ -382,7 +382,7 @@ TEST_F(Redibuja, CadaIconoOcupaSuLugarYSoloElElegidoCambiaDeColor)
     red.UEH("u-2", {150, 200});
     red.Represa("r-1", {300, 400});
     red.Lago("l-1", {500, 600});
-    s.UEHSel = 2;
+    s.Seleccion.UEHSel = 2;
     Dibuja();
     const auto iconos = Con(Papel::Icono);
     ASSERT_EQ(iconos.size(), 4U);
@@ -399,8 +399,8 @@ TEST_F(Redibuja, CadaIconoOcupaSuLugarYSoloElElegidoCambiaDeColor)
     EXPECT_FALSE(iconos[3].seleccionado);
     ASSERT_EQ(Con(Papel::Asa).size(), 1U);
     EXPECT_EQ(Con(Papel::Asa).front().en, (Punto{150, 235}));  // 3.5 s under the icon
-    s.UEHSel = 0;
-    s.RepresaSel = s.LagoSel = 1;
+    s.Seleccion.UEHSel = 0;
+    s.Seleccion.RepresaSel = s.Seleccion.LagoSel = 1;
     Dibuja();
     EXPECT_FALSE(Con(Papel::Icono)[1].seleccionado);
     EXPECT_TRUE(Con(Papel::Icono)[2].seleccionado);
@@ -430,7 +430,7 @@ TEST_F(Redibuja, ConDestinoRepresaOLagoLaLineaTerminaEnSuIcono)
     EXPECT_EQ(Enlace(Papel::EnlaceUEH).back(), (Punto{307.5F, 407.5F}));
     EXPECT_EQ(Enlace(Papel::EnlaceRepresa).back(), (Punto{500, 600}));
     EXPECT_EQ(Enlace(Papel::EnlaceLago).back(), (Punto{307.5F, 407.5F}));
-    s.ColUEHs.Item(1).Cauce_aa = "l-1";
+    s.Red.ColUEHs.Item(1).Cauce_aa = "l-1";
     Dibuja();
     EXPECT_EQ(Enlace(Papel::EnlaceUEH).back(), (Punto{500, 600}));
 }
@@ -450,10 +450,10 @@ TEST_F(Redibuja, ElCauceElegidoMuestraSusVerticesYElTomadoEnRojo)
 {
     red.Cauce("c-1", {{100, 50}, {300, 150}, {320, 170}});
     red.Cauce("c-2", {{5, 5}, {6, 6}});
-    s.CauceSel = 1;
+    s.Seleccion.CauceSel = 1;
     Dibuja();
     EXPECT_EQ(Con(Papel::MarcaVertice).size(), 3U);
-    s.VerticeSel = 2;
+    s.Seleccion.VerticeSel = 2;
     Dibuja();
     EXPECT_EQ(Con(Papel::MarcaVertice).size(), 2U);
     ASSERT_EQ(Con(Papel::VerticeTomado).size(), 1U);
@@ -471,11 +471,11 @@ TEST_F(Redibuja, LosOrdenesVanALaIzquierdaDelVertice2)
     EXPECT_EQ(Textos(Papel::Orden), (std::vector<std::string>{"2", "1", "1"}));
     EXPECT_EQ(Con(Papel::Orden)[0].en, (Punto{276, 150}));
     EXPECT_EQ(Con(Papel::Orden)[1].en, (Punto{36, 60}));
-    s.ColCauces.Item(3).Cauce_aa = "0";
+    s.Red.ColCauces.Item(3).Cauce_aa = "0";
     editor::cmdOrdenCauce_Click(f, s);
     EXPECT_FALSE(f.OrdenVisible);
     EXPECT_TRUE(Con(Papel::Orden).empty());
-    EXPECT_EQ(s.ColCauces.Item(1).OrdenCauce, 1);  // worked out anew before the flag is looked at
+    EXPECT_EQ(s.Red.ColCauces.Item(1).OrdenCauce, 1);  // worked out anew before the flag is looked at
 }
 
 TEST_F(Redibuja, UnCauceDeUnSoloVerticeNoMuestraSuOrden)
@@ -556,7 +556,7 @@ TEST_F(Redibuja, ElOrdenDePintadoEsImagenCaucesUEHsRepresasLagosMarcasYBanda)
     red.Represa("r-1", {300, 400});
     red.UEH("u-1", {100, 200});
     red.Cauce("c-1", {{100, 50}, {300, 150}});
-    s.CauceSel = 1;
+    s.Seleccion.CauceSel = 1;
     f.banda = {{1, 1}, {2, 2}};
     Dibuja();
     std::vector<Papel> papeles;
@@ -586,7 +586,7 @@ TEST_F(Redibuja, EnLosLimitesConCienVerticesNadaFaltaYOtroDibujoEsElMismo)
     }
     for (int i = 1; i <= model::MaxRepresas; ++i)
         red.Represa("r-" + std::to_string(i), {static_cast<float>(i * 9), 90}, "c-1", {1, 1});
-    s.CauceSel = 70;
+    s.Seleccion.CauceSel = 70;
     Dibuja();
     const auto antes = f.dibujo.Primitivas();
     Dibuja();

@@ -31,7 +31,7 @@ struct DibujoEnPeligro : EditorDePrueba {
         PonModo(Boton::UEH);
         Escribe({"2"});
         Clic(400, 400);
-        ASSERT_EQ(s.ColUEHs.Cuenta(), 2);
+        ASSERT_EQ(s.Red.ColUEHs.Cuenta(), 2);
         ASSERT_TRUE(f.cambiada);
         anfitrion->sucesos.clear();
     }
@@ -41,10 +41,10 @@ struct DibujoEnPeligro : EditorDePrueba {
     {
         model::Siro otro;
         otro.Disco = s.Disco;
-        otro.DirProyecto = s.DirProyecto;
-        otro.NombreProyecto = "Arroyo";
+        otro.Proyecto.DirProyecto = s.Proyecto.DirProyecto;
+        otro.Proyecto.NombreProyecto = "Arroyo";
         model::LeeUEHs(otro);
-        return otro.ColUEHs.Cuenta();
+        return otro.Red.ColUEHs.Cuenta();
     }
     const model::Mensaje Caja{
         "El dibujo de la red tiene cambios sin guardar. ¿Desea guardarlos antes de seguir?",
@@ -71,7 +71,7 @@ TEST_F(DibujoEnPeligro, CancelarDejaTodoComoEstaba)
         EXPECT_EQ(Resguardos(), Cajas{Caja});
         EXPECT_TRUE(f.abierta);
         EXPECT_TRUE(f.cambiada);
-        EXPECT_EQ(s.ColUEHs.Cuenta(), 2);
+        EXPECT_EQ(s.Red.ColUEHs.Cuenta(), 2);
         EXPECT_EQ(EnDisco(), 1);
     }
 }
@@ -85,8 +85,8 @@ TEST_F(DibujoEnPeligro, GuardarGuardaYSigue)
         EXPECT_EQ(EnDisco(), 2);
         EXPECT_FALSE(f.cambiada);
         EXPECT_EQ(f.abierta, riesgo != Riesgo::OtroProyecto);
-        s.ColUEHs.Quita(2);
-        s.NroUEHs = 1;
+        s.Red.ColUEHs.Quita(2);
+        s.Red.NroUEHs = 1;
         Guarda();
     }
 }
@@ -103,7 +103,7 @@ TEST_F(DibujoEnPeligro, LoQueOtroCambioYNoSePisaDetieneLaOrden)
     EXPECT_FALSE(editor::Resguarda(f, s, Riesgo::ReleeRed));
     EXPECT_EQ(disco.Bytes("/proy/Arroyo_UEHs.vlm"), "de otro");
     EXPECT_TRUE(f.cambiada);
-    EXPECT_EQ(s.ColUEHs.Cuenta(), 2);
+    EXPECT_EQ(s.Red.ColUEHs.Cuenta(), 2);
 }
 
 TEST_F(DibujoEnPeligro, SeguirSinGuardarReleeLoGuardadoYDeshacerLoDevuelve)
@@ -111,12 +111,12 @@ TEST_F(DibujoEnPeligro, SeguirSinGuardarReleeLoGuardadoYDeshacerLoDevuelve)
     Cambia();
     anfitrion->resguardos = {Resguardo::SeguirSinGuardar};
     EXPECT_TRUE(editor::Resguarda(f, s, Riesgo::ReleeRed));
-    EXPECT_EQ(s.ColUEHs.Cuenta(), 1);
+    EXPECT_EQ(s.Red.ColUEHs.Cuenta(), 1);
     EXPECT_FALSE(f.cambiada);
     EXPECT_TRUE(editor::Resguarda(f, s, Riesgo::ReleeRed));
     EXPECT_EQ(Resguardos().size(), 1U) << "there is nothing left to ask about";
     Tecla(editor::Tecla::Deshacer);
-    EXPECT_EQ(s.ColUEHs.Cuenta(), 2);
+    EXPECT_EQ(s.Red.ColUEHs.Cuenta(), 2);
     EXPECT_TRUE(f.cambiada);
     EXPECT_EQ(Faltas(), std::vector<std::string>{});
 }
@@ -126,7 +126,7 @@ TEST_F(DibujoEnPeligro, SeguirSinGuardarNoTocaElDibujoDeUnProyectoQueSeMueve)
     Cambia();
     anfitrion->resguardos = {Resguardo::SeguirSinGuardar};
     EXPECT_TRUE(editor::Resguarda(f, s, Riesgo::MueveProyecto));
-    EXPECT_EQ(s.ColUEHs.Cuenta(), 2);
+    EXPECT_EQ(s.Red.ColUEHs.Cuenta(), 2);
     EXPECT_TRUE(f.cambiada);
 }
 
@@ -158,7 +158,7 @@ TEST_F(DibujoEnPeligro, OtroProyectoCierraElEditorSinGuardarSiAsiSePide)
 TEST_F(DibujoEnPeligro, LoQueLaValidacionRetieneDetieneLaOrden)
 {
     // No outfall: the only reach drains into a Lago that drains into the reach.
-    s.ColCauces.Item(1).Cauce_aa = "l-1";
+    s.Red.ColCauces.Item(1).Cauce_aa = "l-1";
     red.Lago("l-1", {100, 320}, "c-1");
     Parte();
     f.cambiada = true;
@@ -194,12 +194,12 @@ TEST_F(DibujoEnPeligro, LaImagenYLasTablasPreguntanAntesDeReleer)
     EXPECT_EQ(Resguardos(), (Cajas{Caja, Caja, Caja}));
     EXPECT_FALSE(editorDeTabla.abierta);
     EXPECT_FALSE(tabla.abierta);
-    EXPECT_EQ(s.ColUEHs.Cuenta(), 2);
+    EXPECT_EQ(s.Red.ColUEHs.Cuenta(), 2);
     EXPECT_EQ(f.cmdImagenUEHs, "Imágen");
     tabla.abierta = true;
     editor::cmdActualizar(tabla, s);
     EXPECT_EQ(Resguardos().size(), 4U);
-    EXPECT_EQ(s.ColUEHs.Cuenta(), 2);
+    EXPECT_EQ(s.Red.ColUEHs.Cuenta(), 2);
     anfitrion->resguardos = {Resguardo::Guardar};
     editor::Abre(editorDeTabla, s);
     EXPECT_TRUE(editorDeTabla.abierta);

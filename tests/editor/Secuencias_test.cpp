@@ -30,7 +30,7 @@ struct RedComparable {
     explicit RedComparable(const model::Siro& de) : s(de)
     {
         int n = 0;
-        for (auto& c : s.ColCauces) {
+        for (auto& c : s.Red.ColCauces) {
             c.numCauce = static_cast<std::int16_t>(++n);
             c.OrdenCauce = 0;
         }
@@ -38,15 +38,15 @@ struct RedComparable {
     [[nodiscard]] std::vector<Punto> Vertices() const
     {
         std::vector<Punto> r;
-        for (int i = 1; i <= s.ColCauces.Cuenta(); ++i)
-            for (int j = 1; j <= s.NroVertices(i); ++j)
-                r.push_back({s.XVertice(i, j), s.YVertice(i, j)});
+        for (int i = 1; i <= s.Red.ColCauces.Cuenta(); ++i)
+            for (int j = 1; j <= s.Red.NroVertices(i); ++j)
+                r.push_back({s.Red.XVertice(i, j), s.Red.YVertice(i, j)});
         return r;
     }
     bool operator==(const RedComparable& otra) const
     {
-        return s.ColUEHs == otra.s.ColUEHs && s.ColCauces == otra.s.ColCauces &&
-               s.ColLagos == otra.s.ColLagos && s.ColRepresas == otra.s.ColRepresas &&
+        return s.Red.ColUEHs == otra.s.Red.ColUEHs && s.Red.ColCauces == otra.s.Red.ColCauces &&
+               s.Red.ColLagos == otra.s.Red.ColLagos && s.Red.ColRepresas == otra.s.Red.ColRepresas &&
                Vertices() == otra.Vertices();
     }
 };
@@ -110,8 +110,8 @@ struct Maquina : EditorDePrueba {
     }
     Punto EnVertice()
     {
-        const int i = 1 + azar.Hasta(s.ColCauces.Cuenta());
-        const int n = s.NroVertices(i);
+        const int i = 1 + azar.Hasta(s.Red.ColCauces.Cuenta());
+        const int n = s.Red.NroVertices(i);
         const int j = azar.Uno(2) ? n : 1 + azar.Hasta(n);
         return Cerca(Vertice(i, j), 3);
     }
@@ -119,22 +119,24 @@ struct Maquina : EditorDePrueba {
     {
         switch (azar.Hasta(6)) {
         case 0:
-            if (s.ColUEHs.Cuenta() > 0)
-                return EnIcono(s.ColUEHs, [](const auto& u) { return Punto{u.IconoUEHx, u.IconoUEHy}; });
+            if (s.Red.ColUEHs.Cuenta() > 0)
+                return EnIcono(s.Red.ColUEHs, [](const auto& u) { return Punto{u.IconoUEHx, u.IconoUEHy}; });
             break;
         case 1:
-            if (s.ColRepresas.Cuenta() > 0)
-                return EnIcono(s.ColRepresas, [](const auto& r) {
+            if (s.Red.ColRepresas.Cuenta() > 0)
+                return EnIcono(s.Red.ColRepresas, [](const auto& r) {
                     return Punto{r.IconoRepresaX, r.IconoRepresaY};
                 });
             break;
         case 2:
-            if (s.ColLagos.Cuenta() > 0)
-                return EnIcono(s.ColLagos, [](const auto& l) { return Punto{l.IconoLAGOx, l.IconoLAGOy}; });
+            if (s.Red.ColLagos.Cuenta() > 0)
+                return EnIcono(s.Red.ColLagos, [](const auto& l) {
+                    return Punto{l.IconoLAGOx, l.IconoLAGOy};
+                });
             break;
         case 3:
         case 4:
-            if (s.ColCauces.Cuenta() > 0) return EnVertice();
+            if (s.Red.ColCauces.Cuenta() > 0) return EnVertice();
             break;
         default:
             break;
@@ -200,13 +202,13 @@ struct Maquina : EditorDePrueba {
     static std::vector<std::string> Destinos(const model::Siro& s)
     {
         std::vector<std::string> r;
-        for (const auto& u : s.ColUEHs)
+        for (const auto& u : s.Red.ColUEHs)
             r.push_back(u.Cauce_aa);
-        for (const auto& c : s.ColCauces)
+        for (const auto& c : s.Red.ColCauces)
             r.push_back(c.Cauce_aa);
-        for (const auto& l : s.ColLagos)
+        for (const auto& l : s.Red.ColLagos)
             r.push_back(l.Cauce_aa);
-        for (const auto& c : s.ColRepresas)
+        for (const auto& c : s.Red.ColRepresas)
             r.push_back(c.Cauce_aa);
         return r;
     }
@@ -319,9 +321,9 @@ struct Maquina : EditorDePrueba {
     /// A fault that is told now has a name: a kind beyond the bound of its array, an eleventh outfall.
     [[nodiscard]] bool ConNombre() const
     {
-        return s.ColRepresas.Cuenta() == model::MaxRepresas || s.ColCauces.Cuenta() == model::MaxCauces ||
-               s.ColUEHs.Cuenta() == model::MaxUEHs || s.ColLagos.Cuenta() == model::MaxLagos ||
-               s.NroSalidas > model::MaxSalidas;
+        return s.Red.ColRepresas.Cuenta() == model::MaxRepresas ||
+               s.Red.ColCauces.Cuenta() == model::MaxCauces || s.Red.ColUEHs.Cuenta() == model::MaxUEHs ||
+               s.Red.ColLagos.Cuenta() == model::MaxLagos || s.Resultados.NroSalidas > model::MaxSalidas;
     }
     void GuardaYRelee()
     {
@@ -332,7 +334,7 @@ struct Maquina : EditorDePrueba {
         EXPECT_TRUE(antes == RedComparable(s)) << "saved and read back";
         Abre();
         EXPECT_TRUE(antes == RedComparable(s)) << "opened again";
-        EXPECT_EQ(s.NroCauces, antes.s.ColCauces.Cuenta());
+        EXPECT_EQ(s.Red.NroCauces, antes.s.Red.ColCauces.Cuenta());
     }
     /// Back to the beginning and forth again.
     void DeshaceYRehaceTodo()
@@ -356,7 +358,7 @@ struct Maquina : EditorDePrueba {
         azar = Azar(static_cast<std::uint32_t>(semilla));
         bitacora.clear();
         fallas.clear();
-        s.NroSalidas = 0;
+        s.Resultados.NroSalidas = 0;
         disco.Quita("/proy/Arroyo_UEHs.vlm");
         disco.Quita("/proy/Arroyo_VerCau.vlm");
         f.marcaCauce.clear();

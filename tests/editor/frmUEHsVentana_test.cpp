@@ -37,10 +37,11 @@ struct VentanaDelEditor : testing::Test {
     void Abre(const char* proyecto)
     {
         fs::copy(SIRO_DATA_DIR, DeQ(dir.path()), fs::copy_options::recursive);
-        s.DirTrabajo = DeQ(dir.path());
-        s.DirProyecto = s.DirProyectoConf = s.frmConfigura.Dir1 = DeQ(dir.path()) + "/Proyectos";
-        s.NombreProyecto = s.frmConfigura.TextProyecto = proyecto;
-        if (!fs::exists(s.DirProyecto + "/" + proyecto + "_Conf.vlm")) {
+        s.Proyecto.DirTrabajo = DeQ(dir.path());
+        s.Proyecto.DirProyecto = s.Proyecto.DirProyectoConf = s.frmConfigura.Dir1 =
+            DeQ(dir.path()) + "/Proyectos";
+        s.Proyecto.NombreProyecto = s.frmConfigura.TextProyecto = proyecto;
+        if (!fs::exists(s.Proyecto.DirProyecto + "/" + proyecto + "_Conf.vlm")) {
             s.frmConfigura.lblMiArchivoConf = std::string(proyecto) + "_Conf.vlm";
             model::cmdAplicar(s);
             mundo.anfitrion->sucesos.clear();
@@ -138,12 +139,12 @@ TEST_F(VentanaDelEditor, ColocaCadaClaseDondeSeHaceClic)
     Clic(200, 500);
     Modo("btn_toolbarLAGO");
     Clic(500, 500);
-    ASSERT_EQ(s.ColUEHs.Cuenta(), 2);
-    EXPECT_EQ(s.ColUEHs.Item(1).NombreUEH, "u-Alta");
-    EXPECT_NEAR(s.ColUEHs.Item(1).IconoUEHx, 200, 2);
-    EXPECT_NEAR(s.ColUEHs.Item(1).IconoUEHy, 200, 2);
-    EXPECT_EQ(s.ColRepresas.Item(1).NombreRepresa, "r-Grande");
-    EXPECT_EQ(s.ColLagos.Item(1).NombreLAGO, "l-Chico");
+    ASSERT_EQ(s.Red.ColUEHs.Cuenta(), 2);
+    EXPECT_EQ(s.Red.ColUEHs.Item(1).NombreUEH, "u-Alta");
+    EXPECT_NEAR(s.Red.ColUEHs.Item(1).IconoUEHx, 200, 2);
+    EXPECT_NEAR(s.Red.ColUEHs.Item(1).IconoUEHy, 200, 2);
+    EXPECT_EQ(s.Red.ColRepresas.Item(1).NombreRepresa, "r-Grande");
+    EXPECT_EQ(s.Red.ColLagos.Item(1).NombreLAGO, "l-Chico");
 }
 
 TEST_F(VentanaDelEditor, UnCauceSeDibujaConElTeclado)
@@ -172,10 +173,10 @@ TEST_F(VentanaDelEditor, UnCauceSeDibujaConElTeclado)
     EXPECT_EQ(f.ClicsCauce, 2);
     Nombra({"solo"});
     tecla(Qt::Key_Return);
-    ASSERT_EQ(s.ColCauces.Cuenta(), 1);
-    EXPECT_EQ(s.Cauces(1).NombreCauce, "c-solo");
-    const auto boca = APixel(f, {s.XVertice(1, 1), s.YVertice(1, 1)});
-    const auto cabecera = APixel(f, {s.XVertice(1, 2), s.YVertice(1, 2)});
+    ASSERT_EQ(s.Red.ColCauces.Cuenta(), 1);
+    EXPECT_EQ(s.Red.Cauces(1).NombreCauce, "c-solo");
+    const auto boca = APixel(f, {s.Red.XVertice(1, 1), s.Red.YVertice(1, 1)});
+    const auto cabecera = APixel(f, {s.Red.XVertice(1, 2), s.Red.YVertice(1, 2)});
     EXPECT_LT(cabecera.x, boca.x);
     EXPECT_LT(cabecera.y, boca.y);
 }
@@ -230,9 +231,9 @@ TEST_F(VentanaDelEditor, DibujaUnCauceYLoTerminaConDobleClic)
     for (const QPoint v : {QPoint(300, 400), QPoint(330, 300), QPoint(300, 200)})
         QTest::mouseClick(&Canvas(), Qt::LeftButton, {}, v);
     QTest::mouseDClick(&Canvas(), Qt::LeftButton, {}, QPoint(300, 200));
-    ASSERT_EQ(s.ColCauces.Cuenta(), 1);
-    EXPECT_EQ(s.ColCauces.Item(1).NombreCauce, "c-Rio");
-    EXPECT_EQ(s.ColCauces.Item(1).numVertices, 3);
+    ASSERT_EQ(s.Red.ColCauces.Cuenta(), 1);
+    EXPECT_EQ(s.Red.ColCauces.Item(1).NombreCauce, "c-Rio");
+    EXPECT_EQ(s.Red.ColCauces.Item(1).numVertices, 3);
     EXPECT_TRUE(Accion("btn_toolbarSelecciona").isChecked());
 }
 
@@ -244,16 +245,16 @@ TEST_F(VentanaDelEditor, AcoplaUnaUEHArrastrandoSuAsaHastaElCauce)
     Modo("btn_toolbarUEH");
     QTest::mouseClick(&Canvas(), Qt::LeftButton, {}, QPoint(200, 150));
     Modo("btn_toolbarSelecciona");
-    const auto& u = s.ColUEHs.Item(1);
+    const auto& u = s.Red.ColUEHs.Item(1);
     const float i = f.TamIcono;
     Clic(u.IconoUEHx + i * 0.7F, u.IconoUEHy + i * 0.7F);
-    ASSERT_EQ(s.UEHSel, 1);
-    Arrastra(Pixel(u.IconoUEHx, u.IconoUEHy + 3.5F * i), Pixel(s.XVertice(1, 2), s.YVertice(1, 2)));
+    ASSERT_EQ(s.Seleccion.UEHSel, 1);
+    Arrastra(Pixel(u.IconoUEHx, u.IconoUEHy + 3.5F * i), Pixel(s.Red.XVertice(1, 2), s.Red.YVertice(1, 2)));
     ASSERT_EQ(mundo.anfitrion->Preguntas().size(), 1U);
     EXPECT_EQ(mundo.anfitrion->Preguntas()[0].texto,
               "Confirma el acople de la UEH <u-Alta> con el cauce <c-Rio>");
-    EXPECT_EQ(s.ColUEHs.Item(1).Cauce_aa, "c-Rio");
-    EXPECT_EQ(s.ColUEHs.Item(1).XCauce, s.XVertice(1, 2));
+    EXPECT_EQ(s.Red.ColUEHs.Item(1).Cauce_aa, "c-Rio");
+    EXPECT_EQ(s.Red.ColUEHs.Item(1).XCauce, s.Red.XVertice(1, 2));
 }
 
 TEST_F(VentanaDelEditor, AcoplaDosCaucesPorElMenu)
@@ -261,14 +262,14 @@ TEST_F(VentanaDelEditor, AcoplaDosCaucesPorElMenu)
     Abre("Vacio");
     DibujaCauce("Abajo", {{400, 430}, {400, 330}});
     DibujaCauce("Arriba", {{300, 250}, {250, 120}});
-    Clic(s.XVertice(2, 2), s.YVertice(2, 2));
-    ASSERT_EQ(s.CauceSel, 2);
-    Clic(s.XVertice(1, 1), s.YVertice(1, 1));
-    ASSERT_EQ(s.CauceSel, 1);
-    ASSERT_EQ(s.CauceAnterior, 2);
+    Clic(s.Red.XVertice(2, 2), s.Red.YVertice(2, 2));
+    ASSERT_EQ(s.Seleccion.CauceSel, 2);
+    Clic(s.Red.XVertice(1, 1), s.Red.YVertice(1, 1));
+    ASSERT_EQ(s.Seleccion.CauceSel, 1);
+    ASSERT_EQ(s.Seleccion.CauceAnterior, 2);
     Menu("mnu_acoplaCauce1aCauce2", {30, 30});
-    EXPECT_EQ(s.ColCauces.Item(2).Cauce_aa, "c-Abajo");
-    EXPECT_EQ(s.XVertice(2, 1), s.XVertice(1, 2));  // its mouth goes to the head of the other
+    EXPECT_EQ(s.Red.ColCauces.Item(2).Cauce_aa, "c-Abajo");
+    EXPECT_EQ(s.Red.XVertice(2, 1), s.Red.XVertice(1, 2));  // its mouth goes to the head of the other
 }
 
 TEST_F(VentanaDelEditor, MueveElUltimoVerticeConSusTributarios)
@@ -279,43 +280,44 @@ TEST_F(VentanaDelEditor, MueveElUltimoVerticeConSusTributarios)
     Modo("btn_toolbarUEH");
     QTest::mouseClick(&Canvas(), Qt::LeftButton, {}, QPoint(200, 150));
     Modo("btn_toolbarSelecciona");
-    Clic(s.XVertice(1, 1), s.YVertice(1, 1));
-    Clic(s.ColUEHs.Item(1).IconoUEHx + f.TamIcono * 0.7F, s.ColUEHs.Item(1).IconoUEHy + f.TamIcono * 0.7F);
+    Clic(s.Red.XVertice(1, 1), s.Red.YVertice(1, 1));
+    Clic(s.Red.ColUEHs.Item(1).IconoUEHx + f.TamIcono * 0.7F,
+         s.Red.ColUEHs.Item(1).IconoUEHy + f.TamIcono * 0.7F);
     Menu("mnu_acoplaUEHaCauce", {30, 30});
-    ASSERT_EQ(s.ColUEHs.Item(1).Cauce_aa, "c-Rio");
+    ASSERT_EQ(s.Red.ColUEHs.Item(1).Cauce_aa, "c-Rio");
 
-    Clic(s.XVertice(1, 2), s.YVertice(1, 2));
-    ASSERT_EQ(s.CauceSel, 1);
-    Clic(s.XVertice(1, 2), s.YVertice(1, 2));
-    ASSERT_EQ(s.VerticeSel, 2);
-    const QPoint desde = Pixel(s.XVertice(1, 2), s.YVertice(1, 2));
+    Clic(s.Red.XVertice(1, 2), s.Red.YVertice(1, 2));
+    ASSERT_EQ(s.Seleccion.CauceSel, 1);
+    Clic(s.Red.XVertice(1, 2), s.Red.YVertice(1, 2));
+    ASSERT_EQ(s.Seleccion.VerticeSel, 2);
+    const QPoint desde = Pixel(s.Red.XVertice(1, 2), s.Red.YVertice(1, 2));
     const Punto meta = DePixel(f, desde.x() + 60, desde.y() - 30);
     Arrastra(desde, desde + QPoint(60, -30));
-    EXPECT_NEAR(s.XVertice(1, 2), meta.X, 1.5);
-    EXPECT_NEAR(s.YVertice(1, 2), meta.Y, 1.5);
-    EXPECT_NEAR(s.ColUEHs.Item(1).XCauce, meta.X, 1.5);
+    EXPECT_NEAR(s.Red.XVertice(1, 2), meta.X, 1.5);
+    EXPECT_NEAR(s.Red.YVertice(1, 2), meta.Y, 1.5);
+    EXPECT_NEAR(s.Red.ColUEHs.Item(1).XCauce, meta.X, 1.5);
 }
 
 TEST_F(VentanaDelEditor, DivideUnCauceYBorraElDeArriba)
 {
     Abre("Vacio");
     DibujaCauce("Rio", {{400, 430}, {380, 300}, {400, 150}});
-    Clic(s.XVertice(1, 2), s.YVertice(1, 2));
-    Clic(s.XVertice(1, 2), s.YVertice(1, 2));
-    ASSERT_EQ(s.VerticeSel, 2);
+    Clic(s.Red.XVertice(1, 2), s.Red.YVertice(1, 2));
+    Clic(s.Red.XVertice(1, 2), s.Red.YVertice(1, 2));
+    ASSERT_EQ(s.Seleccion.VerticeSel, 2);
     Menu("mnu_DivideCauce", {30, 30});
-    ASSERT_EQ(s.ColCauces.Cuenta(), 2);
-    EXPECT_EQ(s.ColCauces.Item(1).NombreCauce, "c-Rio-.-b");
-    EXPECT_EQ(s.ColCauces.Item(2).NombreCauce, "c-Rio-.-a");
-    Clic(s.XVertice(2, 2), s.YVertice(2, 2));
-    ASSERT_EQ(s.CauceSel, 2);
+    ASSERT_EQ(s.Red.ColCauces.Cuenta(), 2);
+    EXPECT_EQ(s.Red.ColCauces.Item(1).NombreCauce, "c-Rio-.-b");
+    EXPECT_EQ(s.Red.ColCauces.Item(2).NombreCauce, "c-Rio-.-a");
+    Clic(s.Red.XVertice(2, 2), s.Red.YVertice(2, 2));
+    ASSERT_EQ(s.Seleccion.CauceSel, 2);
     QTest::keyClick(&Canvas(), Qt::Key_Delete);
-    EXPECT_EQ(s.ColCauces.Cuenta(), 1);
+    EXPECT_EQ(s.Red.ColCauces.Cuenta(), 1);
     EXPECT_TRUE(Accion("Deshace").isEnabled());
     QTest::keyClick(&Canvas(), Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(s.ColCauces.Cuenta(), 2);
+    EXPECT_EQ(s.Red.ColCauces.Cuenta(), 2);
     QTest::keyClick(&Canvas(), Qt::Key_Y, Qt::ControlModifier);
-    EXPECT_EQ(s.ColCauces.Cuenta(), 1);
+    EXPECT_EQ(s.Red.ColCauces.Cuenta(), 1);
 }
 
 TEST_F(VentanaDelEditor, MideUnaSuperficieConClicsYEnter)
@@ -361,10 +363,10 @@ TEST_F(VentanaDelEditor, LasTeclasYElDobleClicPidenLasFormas)
     EXPECT_EQ(formas,
               (std::vector{Pedido::FormaUEH, Pedido::FormaCauce, Pedido::FormaRepresa, Pedido::FormaLago}));
     formas.clear();
-    const QPoint icono = Pixel(s.ColUEHs.Item(1).IconoUEHx + f.TamIcono * 0.7F,
-                               s.ColUEHs.Item(1).IconoUEHy + f.TamIcono * 0.7F);
+    const QPoint icono = Pixel(s.Red.ColUEHs.Item(1).IconoUEHx + f.TamIcono * 0.7F,
+                               s.Red.ColUEHs.Item(1).IconoUEHy + f.TamIcono * 0.7F);
     QTest::mouseClick(&Canvas(), Qt::LeftButton, {}, icono);
-    EXPECT_EQ(s.UEHSel, 1);
+    EXPECT_EQ(s.Seleccion.UEHSel, 1);
     QTest::mouseDClick(&Canvas(), Qt::LeftButton, {}, icono);
     EXPECT_EQ(formas, std::vector{Pedido::FormaUEH});
 }
@@ -404,11 +406,11 @@ TEST_F(VentanaDelEditor, AlPerderElFocoVuelveLaPrincipalYAlRecuperarloSeEscondeO
     otra.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&otra));
     EXPECT_TRUE(principal);
-    s.AvisoDescargasVisto = true;
+    s.Control.AvisoDescargasVisto = true;
     ventana->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(ventana.get()));
     EXPECT_FALSE(principal);
-    EXPECT_FALSE(s.AvisoDescargasVisto);
+    EXPECT_FALSE(s.Control.AvisoDescargasVisto);
 }
 
 TEST_F(VentanaDelEditor, ElMarcoCierraUnaRedVaciaSinPreguntarYEscLaDejaAbierta)

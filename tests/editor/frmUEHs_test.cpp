@@ -44,11 +44,13 @@ struct Editor : EditorDePrueba {
     }
     void EligeTodo()
     {
-        s.CauceSel = s.CauceAnterior = s.UEHSel = s.RepresaSel = s.LagoSel = s.VerticeSel = 1;
+        s.Seleccion.CauceSel = s.Seleccion.CauceAnterior = s.Seleccion.UEHSel = s.Seleccion.RepresaSel =
+            s.Seleccion.LagoSel = s.Seleccion.VerticeSel = 1;
     }
     [[nodiscard]] std::vector<int> Seleccion() const
     {
-        return {s.CauceSel, s.CauceAnterior, s.UEHSel, s.RepresaSel, s.LagoSel, s.VerticeSel};
+        return {s.Seleccion.CauceSel,   s.Seleccion.CauceAnterior, s.Seleccion.UEHSel,
+                s.Seleccion.RepresaSel, s.Seleccion.LagoSel,       s.Seleccion.VerticeSel};
     }
 };
 const std::vector<int> Nada(6, 0);
@@ -93,7 +95,7 @@ TEST_F(Editor, AlReabrirElIconoSaleDelAnchoAnterior)
 TEST_F(Editor, SinProyectoNoLeeNada)
 {
     editor::frmUEHs otro;
-    s.NombreProyecto.clear();
+    s.Proyecto.NombreProyecto.clear();
     disco.OlvidaLlamadas();
     editor::Abre(otro, s, {1000, 1000});
     EXPECT_TRUE(otro.abierta);
@@ -137,9 +139,9 @@ TEST_F(Editor, AlAbrirLeeLosComponentesReescalaYCentra)
 {
     red.Cauce("c-1", {{0, 0}, {1600, 400}});
     Guarda();
-    s.ColCauces.Vacia();
+    s.Red.ColCauces.Vacia();
     Abre();
-    ASSERT_EQ(s.NroCauces, 1);
+    ASSERT_EQ(s.Red.NroCauces, 1);
     EXPECT_EQ(f.sldEscala, 220);  // 1600 * 1.1 / 800
     EXPECT_EQ(f.origen, (Punto{-80, -680}));
     EXPECT_EQ(Con(Papel::Cauce).size(), 1U);
@@ -152,7 +154,7 @@ TEST_F(Editor, UnProyectoSinCaucesAbreAl100SinReescalar)
     red.UEH("u-2", {3000, 10});
     Guarda();
     Abre();
-    EXPECT_EQ(s.NroUEHs, 2);
+    EXPECT_EQ(s.Red.NroUEHs, 2);
     EXPECT_EQ(f.sldEscala, 100);
 }
 
@@ -168,9 +170,9 @@ TEST_F(Editor, AlAbrirNadaQuedaElegido)
 TEST_F(Editor, ActivarseBorraLaMarcaDelAvisoYEscondeLaPrincipal)
 {
     RedSana();
-    s.AvisoDescargasVisto = true;
+    s.Control.AvisoDescargasVisto = true;
     editor::AlActivarse(f, s);
-    EXPECT_FALSE(s.AvisoDescargasVisto);
+    EXPECT_FALSE(s.Control.AvisoDescargasVisto);
     EXPECT_FALSE(f.principalVisible);
     EXPECT_EQ(Con(Papel::Icono).size(), 1U);
     editor::AlPerderFoco(f);
@@ -256,7 +258,7 @@ TEST_F(Editor, GuardarConservaElCauceQueSeEstaDibujando)
 {
     RedSana();
     Parte();
-    const int cauces = s.ColCauces.Cuenta(), n = cauces + 1;
+    const int cauces = s.Red.ColCauces.Cuenta(), n = cauces + 1;
     PonModo(Boton::Cauce);
     Clic(700, 700);
     Clic(710, 690);
@@ -265,8 +267,8 @@ TEST_F(Editor, GuardarConservaElCauceQueSeEstaDibujando)
     EXPECT_EQ(Avisos(), (Cajas{Falla(TextoGuardado)}));
     EXPECT_EQ(editor::Modo(f), Boton::Cauce);
     EXPECT_EQ(f.ClicsCauce, 3);
-    EXPECT_EQ(s.ColCauces.Cuenta(), cauces);
-    ASSERT_EQ(s.NroVertices(n), 3);
+    EXPECT_EQ(s.Red.ColCauces.Cuenta(), cauces);
+    ASSERT_EQ(s.Red.NroVertices(n), 3);
     EXPECT_EQ(Vertice(n, 1), (editor::Punto{700, 700}));
     EXPECT_EQ(Vertice(n, 3), (editor::Punto{720, 650}));
     EXPECT_TRUE(f.cambiada);  // the reach in hand isn't on disk
@@ -274,9 +276,9 @@ TEST_F(Editor, GuardarConservaElCauceQueSeEstaDibujando)
     Clic(730, 640);
     Escribe({"sigue"});
     Tecla(T::Enter);
-    ASSERT_EQ(s.ColCauces.Cuenta(), n);
-    EXPECT_EQ(s.Cauces(n).NombreCauce, "c-sigue");
-    EXPECT_EQ(s.NroVertices(n), 4);
+    ASSERT_EQ(s.Red.ColCauces.Cuenta(), n);
+    EXPECT_EQ(s.Red.Cauces(n).NombreCauce, "c-sigue");
+    EXPECT_EQ(s.Red.NroVertices(n), 4);
 }
 
 TEST_F(Editor, ElPrimerCauceDeLaRedSigueEnManoTrasGuardar)
@@ -286,8 +288,8 @@ TEST_F(Editor, ElPrimerCauceDeLaRedSigueEnManoTrasGuardar)
     Clic(200, 50);
     PonModo(Boton::GuardaUEHs);
     EXPECT_EQ(f.ClicsCauce, 2);
-    EXPECT_EQ(s.NroCauces, 1);
-    ASSERT_EQ(s.NroVertices(1), 2);
+    EXPECT_EQ(s.Red.NroCauces, 1);
+    ASSERT_EQ(s.Red.NroVertices(1), 2);
     EXPECT_EQ(Vertice(1, 2), (editor::Punto{200, 50}));
 }
 
@@ -296,14 +298,14 @@ TEST_F(Editor, BorrarUnaUEHTambienConservaElCauceEnMano)
     RedSana();
     red.UEH("u-sobra", {500, 700});
     Parte();
-    const int n = s.ColCauces.Cuenta() + 1;
+    const int n = s.Red.ColCauces.Cuenta() + 1;
     PonModo(Boton::Cauce);
     Clic(700, 700);
     Clic(710, 690);
     PonModo(Boton::UEH);
     Clic(600, 600);  // its name is cancelled: it is deleted, and the network saved
     EXPECT_EQ(f.ClicsCauce, 2);
-    ASSERT_EQ(s.NroVertices(n), 2);
+    ASSERT_EQ(s.Red.NroVertices(n), 2);
     EXPECT_EQ(Vertice(n, 2), (editor::Punto{710, 690}));
     EXPECT_EQ(Faltas(), std::vector<std::string>{});
 }
@@ -381,24 +383,24 @@ TEST_F(Editor, ElBotonDerechoEligeLoQueHayDebajoSiNadaEstaElegido)
         editor::picDibujo_MouseUp(f, s, editor::BotonRaton::Derecho, {x, y});
     };
     derecho(405, 105);
-    EXPECT_EQ(s.UEHSel, 1);
+    EXPECT_EQ(s.Seleccion.UEHSel, 1);
     EXPECT_EQ(f.pedidos, std::vector<Pedido>{Pedido::Menu});
     // What is selected stays: two ends of a link have been named with the left button.
     derecho(600, 100);
-    EXPECT_EQ(s.UEHSel, 1);
-    EXPECT_EQ(s.LagoSel, 0);
+    EXPECT_EQ(s.Seleccion.UEHSel, 1);
+    EXPECT_EQ(s.Seleccion.LagoSel, 0);
     editor::LimpiaSeleccion(s);
     derecho(200, 200);
-    EXPECT_EQ(s.CauceSel, 1);
-    EXPECT_EQ(s.VerticeSel, 0);
+    EXPECT_EQ(s.Seleccion.CauceSel, 1);
+    EXPECT_EQ(s.Seleccion.VerticeSel, 0);
     Mueve(300, 300);  // nothing is dragged
     EXPECT_EQ(Vertice(1, 2), (editor::Punto{200, 200}));
     editor::LimpiaSeleccion(s);
     derecho(700, 700);
-    EXPECT_EQ(s.CauceSel + s.UEHSel + s.LagoSel, 0);
+    EXPECT_EQ(s.Seleccion.CauceSel + s.Seleccion.UEHSel + s.Seleccion.LagoSel, 0);
     PonModo(Boton::Cauce);  // a click there would be a vertex, and a double click ends the reach
     derecho(405, 105);
-    EXPECT_EQ(s.UEHSel, 0);
+    EXPECT_EQ(s.Seleccion.UEHSel, 0);
     EXPECT_EQ(f.pedidos.size(), 5U);
 }
 
@@ -422,7 +424,7 @@ TEST_F(Editor, InsertarAbreLaFormaDelCauceElegido)
     RedSana();
     Tecla(T::Insertar);
     EXPECT_TRUE(f.pedidos.empty());
-    s.CauceSel = 1;
+    s.Seleccion.CauceSel = 1;
     Tecla(T::Insertar);
     EXPECT_EQ(f.pedidos, (std::vector<Pedido>{Pedido::FormaCauce}));
 }
@@ -435,11 +437,11 @@ TEST_F(Editor, ElDobleClicAbrePrimeroCauceDespuesUEHLagoYRepresa)
     red.Represa("r-1", {1, 1});
     EligeTodo();
     editor::picDibujo_DblClick(f, s);
-    s.CauceSel = 0;
+    s.Seleccion.CauceSel = 0;
     editor::picDibujo_DblClick(f, s);
-    s.UEHSel = 0;
+    s.Seleccion.UEHSel = 0;
     editor::picDibujo_DblClick(f, s);
-    s.LagoSel = 0;
+    s.Seleccion.LagoSel = 0;
     editor::picDibujo_DblClick(f, s);
     EXPECT_EQ(f.pedidos, (std::vector<Pedido>{Pedido::FormaCauce, Pedido::FormaUEH, Pedido::FormaLago,
                                               Pedido::FormaRepresa}));
@@ -470,11 +472,11 @@ TEST_F(Editor, EnterColocaALaMitadDeLaExtensionYNoEnElCentro)
     Tecla(T::Enter);
     PonModo(Boton::LAGO);
     Tecla(T::Enter);
-    ASSERT_EQ(s.NroUEHs + s.NroRepresas + s.NroLagos, 3);
-    EXPECT_EQ(s.ColUEHs.Item(1).IconoUEHx, 100);  // (300 - 100)/2
-    EXPECT_EQ(s.ColUEHs.Item(1).IconoUEHy, 300);  // (650 - 50)/2
-    EXPECT_EQ(s.ColRepresas.Item(1).IconoRepresaX, 100);
-    EXPECT_EQ(s.ColLagos.Item(1).IconoLAGOy, 300);
+    ASSERT_EQ(s.Red.NroUEHs + s.Red.NroRepresas + s.Red.NroLagos, 3);
+    EXPECT_EQ(s.Red.ColUEHs.Item(1).IconoUEHx, 100);  // (300 - 100)/2
+    EXPECT_EQ(s.Red.ColUEHs.Item(1).IconoUEHy, 300);  // (650 - 50)/2
+    EXPECT_EQ(s.Red.ColRepresas.Item(1).IconoRepresaX, 100);
+    EXPECT_EQ(s.Red.ColLagos.Item(1).IconoLAGOy, 300);
 }
 
 TEST_F(Editor, EnterEnUnDibujoVacioColocaEnElMedioDeLoQueSeVe)
@@ -483,10 +485,10 @@ TEST_F(Editor, EnterEnUnDibujoVacioColocaEnElMedioDeLoQueSeVe)
     f.origen = {1000, 2000};
     PonModo(Boton::UEH);
     Tecla(T::Enter);
-    ASSERT_EQ(s.NroUEHs, 1);
+    ASSERT_EQ(s.Red.NroUEHs, 1);
     // The canvas of 800 by 800 shows the units from 1000 and from 2000 on.
-    EXPECT_EQ(s.ColUEHs.Item(1).IconoUEHx, 1400);
-    EXPECT_EQ(s.ColUEHs.Item(1).IconoUEHy, 2400);
+    EXPECT_EQ(s.Red.ColUEHs.Item(1).IconoUEHx, 1400);
+    EXPECT_EQ(s.Red.ColUEHs.Item(1).IconoUEHy, 2400);
 }
 
 // --- the keyboard alone ---
@@ -547,9 +549,9 @@ TEST_F(EditorConTeclado, UnCauceSeDibujaYSeTerminaSinRaton)
     EXPECT_EQ(f.ClicsCauce, 3);
     Escribe({"solo"});
     Tecla(T::Enter);  // on the last one: as a double click
-    ASSERT_EQ(s.ColCauces.Cuenta(), 1);
-    EXPECT_EQ(s.Cauces(1).NombreCauce, "c-solo");
-    EXPECT_EQ(s.NroVertices(1), 3);
+    ASSERT_EQ(s.Red.ColCauces.Cuenta(), 1);
+    EXPECT_EQ(s.Red.Cauces(1).NombreCauce, "c-solo");
+    EXPECT_EQ(s.Red.NroVertices(1), 3);
     EXPECT_EQ(Vertice(1, 1), (Punto{100, 300}));
     EXPECT_EQ(Vertice(1, 2), (Punto{200, 250}));
     EXPECT_EQ(Vertice(1, 3), (Punto{300, 100}));
@@ -563,16 +565,16 @@ TEST_F(EditorConTeclado, LaCruzColocaMideYElige)
     Cruz(250, 150);
     Escribe({"una"});
     Tecla(T::Enter);
-    ASSERT_EQ(s.NroUEHs, 1);
-    EXPECT_EQ(s.UEHs(1).IconoUEHx, 250);
-    EXPECT_EQ(s.UEHs(1).IconoUEHy, 150);
+    ASSERT_EQ(s.Red.NroUEHs, 1);
+    EXPECT_EQ(s.Red.UEHs(1).IconoUEHx, 250);
+    EXPECT_EQ(s.Red.UEHs(1).IconoUEHy, 150);
     EXPECT_EQ(f.cruz, (Punto{250, 150}));
     PonModo(Boton::Selecciona);
     Cruz(255, 155);
     Tecla(T::Espacio);
-    EXPECT_EQ(s.UEHSel, 1);
+    EXPECT_EQ(s.Seleccion.UEHSel, 1);
     EXPECT_FALSE(f.izquierdoAbajo);
-    s.EscalaDibujo = "1";
+    s.Configuracion.EscalaDibujo = "1";
     PonModo(Boton::LongArea);
     Cruz(100, 100);
     Tecla(T::Enter);
@@ -589,7 +591,7 @@ TEST_F(EditorConTeclado, SinCruzElEspacioNoHaceNada)
 {
     PonModo(Boton::UEH);
     Tecla(T::Espacio);
-    EXPECT_EQ(s.NroUEHs, 0);
+    EXPECT_EQ(s.Red.NroUEHs, 0);
     EXPECT_TRUE(anfitrion->sucesos.empty());
 }
 
@@ -599,12 +601,12 @@ TEST_F(Editor, EnterTerminaElCauceConMasDeUnClic)
     Clic(10, 20);
     Tecla(T::Enter);
     EXPECT_EQ(f.ClicsCauce, 1);
-    EXPECT_EQ(s.ColCauces.Cuenta(), 0);
+    EXPECT_EQ(s.Red.ColCauces.Cuenta(), 0);
     Clic(30, 40);
     Escribe({"uno"});
     Tecla(T::Enter);
     EXPECT_EQ(f.ClicsCauce, 0);
-    ASSERT_EQ(s.ColCauces.Cuenta(), 1);
+    ASSERT_EQ(s.Red.ColCauces.Cuenta(), 1);
     EXPECT_EQ(editor::Modo(f), Boton::Cauce);
 }
 
@@ -614,8 +616,8 @@ TEST_F(Editor, ElDobleClicTerminaElCauceYVuelveASeleccionar)
     Clic(10, 20);
     Escribe({"uno"});
     DobleClic(30, 40);
-    ASSERT_EQ(s.ColCauces.Cuenta(), 1);
-    EXPECT_EQ(s.NroVertices(1), 2);
+    ASSERT_EQ(s.Red.ColCauces.Cuenta(), 1);
+    EXPECT_EQ(s.Red.NroVertices(1), 2);
     EXPECT_EQ(editor::Modo(f), Boton::Selecciona);
 }
 
@@ -623,14 +625,14 @@ TEST_F(Editor, ElDobleClicConUnSoloClicDejaElCauceSinTerminar)
 {
     PonModo(Boton::Cauce);
     DobleClic(30, 40);
-    EXPECT_EQ(s.ColCauces.Cuenta(), 0);
+    EXPECT_EQ(s.Red.ColCauces.Cuenta(), 0);
     EXPECT_EQ(f.ClicsCauce, 1);
     EXPECT_EQ(editor::Modo(f), Boton::Selecciona);
     PonModo(Boton::Cauce);
     Clic(50, 60);
     Escribe({"uno"});
     Tecla(T::Enter);
-    EXPECT_EQ(s.ColCauces.Cuenta(), 1);
+    EXPECT_EQ(s.Red.ColCauces.Cuenta(), 1);
     EXPECT_EQ(Vertice(1, 1), (Punto{30, 40}));
 }
 
@@ -646,7 +648,7 @@ TEST_F(Editor, ElMismoPuntoLogicoEligeLoMismoEnTodaEscala)
         const Punto bajoElPuntero = editor::DePixel(f, p.x, p.y);
         editor::LimpiaSeleccion(s);
         Clic(bajoElPuntero.X, bajoElPuntero.Y);
-        EXPECT_EQ(s.UEHSel, 1) << escala;
+        EXPECT_EQ(s.Seleccion.UEHSel, 1) << escala;
     }
 }
 
@@ -658,11 +660,11 @@ TEST_F(Editor, ElProyectoDeMuestraSeVeEntero)
     for (const std::string sufijo : {"_Conf.vlm", "_UEHs.vlm", "_VerCau.vlm"})
         disco.Pon("/proy/Quelmar" + sufijo, apoyo::BytesDeArchivo(muestra / ("Quelmar" + sufijo)));
     disco.Pon("/proy/Quelmar.jpg", apoyo::BytesDeArchivo(muestra / "Quelmar.jpg"));
-    s.NombreProyecto = "Quelmar";
+    s.Proyecto.NombreProyecto = "Quelmar";
     Abre();
-    ASSERT_GT(s.NroUEHs * s.NroCauces * s.NroRepresas * s.NroLagos, 0);
+    ASSERT_GT(s.Red.NroUEHs * s.Red.NroCauces * s.Red.NroRepresas * s.Red.NroLagos, 0);
     EXPECT_EQ(Faltas(), std::vector<std::string>{});
-    EXPECT_EQ(Con(Papel::EnlaceUEH).size(), static_cast<std::size_t>(s.NroUEHs));
+    EXPECT_EQ(Con(Papel::EnlaceUEH).size(), static_cast<std::size_t>(s.Red.NroUEHs));
     for (const Punto esquina :
          {Punto{f.extension.XMin, f.extension.YMin}, Punto{f.extension.XMax, f.extension.YMax}}) {
         const editor::Pixel p = editor::APixel(f, esquina);
@@ -776,7 +778,7 @@ TEST_F(Editor, ElAvisoYaVistoDejaElEditorAbiertoSinPreguntarNada)
     red.UEH("u-1", {1, 1});
     red.UEH("u-2", {50, 1});
     Parte();
-    s.AvisoDescargasVisto = true;
+    s.Control.AvisoDescargasVisto = true;
     Tecla(T::Esc);
     EXPECT_TRUE(f.abierta);
     EXPECT_TRUE(anfitrion->sucesos.empty());
@@ -787,7 +789,7 @@ TEST_F(Editor, UnNoDeUnCierreAnteriorNoVale)
     red.UEH("u-1", {1, 1});
     red.UEH("u-2", {50, 1});
     Parte();
-    s.ContinuarSinCorregir = s.RedOk = true;
+    s.Control.ContinuarSinCorregir = s.Control.RedOk = true;
     Responde({true});
     Tecla(T::Esc);
     EXPECT_TRUE(f.abierta);
@@ -797,13 +799,13 @@ TEST_F(Editor, AlCerrarElCauceSinTerminarSeAbandona)
 {
     RedSana();
     Parte();
-    s.NroCauces = 2;
-    s.NroVertices(2) = 1;
+    s.Red.NroCauces = 2;
+    s.Red.NroVertices(2) = 1;
     f.ClicsCauce = 1;
     Responde({false});
     Tecla(T::Esc);
     EXPECT_FALSE(f.abierta);
-    EXPECT_EQ(s.NroCauces, 1);
+    EXPECT_EQ(s.Red.NroCauces, 1);
     EXPECT_EQ(f.ClicsCauce, 0);
 }
 
@@ -817,14 +819,14 @@ struct Imagen : Editor {
             pedidas.push_back(ruta);
             return editor::ImagenCargada{editor::CargaDeImagen::Entera, {640, 480}};
         };
-        s.ArchivoImagen = "Arroyo.jpg";
+        s.Configuracion.ArchivoImagen = "Arroyo.jpg";
     }
 };
 
 TEST_F(Imagen, UnNombreSueltoSeBuscaEnElDirectorioDelProyecto)
 {
     EXPECT_EQ(editor::RutaImagen(s), "/proy/Arroyo.jpg");
-    s.ArchivoImagen = "/mapas/Arroyo.jpg";
+    s.Configuracion.ArchivoImagen = "/mapas/Arroyo.jpg";
     EXPECT_EQ(editor::RutaImagen(s), "/mapas/Arroyo.jpg");
 }
 
@@ -832,7 +834,7 @@ TEST_F(Imagen, SePoneYSeQuitaConSusLeyendasYReleeLosComponentes)
 {
     RedSana();
     Guarda();
-    s.ColUEHs.Item(1).Area = 7;  // not saved
+    s.Red.ColUEHs.Item(1).Area = 7;  // not saved
     disco.Pon("/proy/Arroyo.jpg", "x");
     editor::cmdImagenUEHs_Click(f, s);
     EXPECT_TRUE(f.ImagenVisible);
@@ -841,13 +843,13 @@ TEST_F(Imagen, SePoneYSeQuitaConSusLeyendasYReleeLosComponentes)
     EXPECT_EQ(f.rutaImagen, "/proy/Arroyo.jpg");
     EXPECT_EQ(pedidas, (std::vector<std::string>{"/proy/Arroyo.jpg"}));
     EXPECT_EQ(Con(Papel::Imagen).size(), 1U);
-    EXPECT_EQ(s.ColUEHs.Item(1).Area, 0);
-    s.ColUEHs.Item(1).Area = 7;
+    EXPECT_EQ(s.Red.ColUEHs.Item(1).Area, 0);
+    s.Red.ColUEHs.Item(1).Area = 7;
     editor::cmdImagenUEHs_Click(f, s);
     EXPECT_FALSE(f.ImagenVisible);
     EXPECT_EQ(f.cmdImagenUEHs, "Mostrar Imágen");
     EXPECT_TRUE(Con(Papel::Imagen).empty());
-    EXPECT_EQ(s.ColUEHs.Item(1).Area, 0);
+    EXPECT_EQ(s.Red.ColUEHs.Item(1).Area, 0);
     editor::cmdImagenUEHs_Click(f, s);
     EXPECT_EQ(f.cmdImagenUEHs, "Quitar Imágen");
     EXPECT_TRUE(anfitrion->sucesos.empty());
@@ -861,10 +863,10 @@ TEST_F(Imagen, LoQueLaRelecturaQuitoVuelveConDeshacer)
     red.UEH("u-2", {9, 9});
     editor::Anota(f, s);
     editor::cmdImagenUEHs_Click(f, s);
-    EXPECT_EQ(s.NroUEHs, 1);
+    EXPECT_EQ(s.Red.NroUEHs, 1);
     EXPECT_FALSE(f.cambiada);
     Tecla(T::Deshacer);
-    EXPECT_EQ(s.NroUEHs, 2);
+    EXPECT_EQ(s.Red.NroUEHs, 2);
     EXPECT_TRUE(f.cambiada);
 }
 
@@ -876,13 +878,13 @@ TEST_F(Imagen, UnArchivoQueNoEstaSeCuentaYLaImagenQuedaQuitada)
     EXPECT_EQ(Avisos(), (Cajas{Falla("Error Nro. 53 ,No se encontró el archivoVerifique.")}));
     EXPECT_FALSE(f.ImagenVisible);
     EXPECT_EQ(f.cmdImagenUEHs, "Imágen");
-    EXPECT_EQ(s.NroCauces, 1);  // nothing was read again
+    EXPECT_EQ(s.Red.NroCauces, 1);  // nothing was read again
     EXPECT_TRUE(pedidas.empty());
 }
 
 TEST_F(Imagen, UnDirectorioQueNoEstaTambien)
 {
-    s.ArchivoImagen = "/otra/Arroyo.jpg";
+    s.Configuracion.ArchivoImagen = "/otra/Arroyo.jpg";
     editor::cmdImagenUEHs_Click(f, s);
     EXPECT_EQ(Avisos(), (Cajas{Falla("Error Nro. 76 ,No se encontró la ruta de accesoVerifique.")}));
     EXPECT_FALSE(f.ImagenVisible);

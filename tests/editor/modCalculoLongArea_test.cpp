@@ -33,7 +33,7 @@ struct Medicion : EditorDePrueba {
     Medicion()
     {
         PonModo(Boton::LongArea);
-        s.EscalaDibujo = "2";
+        s.Configuracion.EscalaDibujo = "2";
     }
     void Marca(const std::vector<Punto>& puntos)
     {
@@ -82,7 +82,7 @@ TEST_F(Medicion, SinEscalaLosDosResultadosSon0)
 {
     for (const std::string escala : {"0", ""}) {
         anfitrion->sucesos.clear();
-        s.EscalaDibujo = escala;
+        s.Configuracion.EscalaDibujo = escala;
         PonModo(Boton::LongArea);
         Marca(RectanguloAlReves);
         Responde({true});
@@ -93,7 +93,7 @@ TEST_F(Medicion, SinEscalaLosDosResultadosSon0)
 
 TEST_F(Medicion, ElLargoSeCortaASuParteEnteraYElAreaNo)
 {
-    s.EscalaDibujo = "1";
+    s.Configuracion.EscalaDibujo = "1";
     Marca({{0, 0}, {10, 0}, {0, 10}});  // 10 + 14.14 + 10
     Responde({true});
     Tecla(Tecla::Enter);
@@ -203,7 +203,7 @@ TEST_F(Medicion, NoCambiaLaRedNiSuHistoria)
 
 TEST_F(Medicion, UnLargoFueraDelTipoEsUnaFallaQueSeCuenta)
 {
-    s.EscalaDibujo = "1E38";
+    s.Configuracion.EscalaDibujo = "1E38";
     Marca({{0, 0}, {300, 0}, {300, 10}});
     Responde({false});
     Tecla(Tecla::Enter);

@@ -25,15 +25,15 @@ class RedAlAzar : public RedAMano {
   public:
     explicit RedAlAzar(unsigned semilla) : azar(semilla)
     {
-        s.DirTrabajo = "/trabajo";
+        s.Proyecto.DirTrabajo = "/trabajo";
         disco.PonDirectorio("/trabajo");
-        s.AvisoDescargasVisto = true;
-        s.PasoQ = Uno(std::vector<std::int16_t>{5, 10});
-        s.PasoPp = static_cast<std::int16_t>(s.PasoQ * Entero(1, 3));
-        s.DurTormenta = static_cast<std::int16_t>(s.PasoPp * Entero(1, 12));
-        s.PpTormenta = Real(5, 120);
-        s.DistriPp = Uno(std::vector<std::int16_t>{0, 1, 2, 3, 4});
-        s.N0Dur = static_cast<float>(Entero(30, 900));
+        s.Control.AvisoDescargasVisto = true;
+        s.Pasos.PasoQ = Uno(std::vector<std::int16_t>{5, 10});
+        s.Pasos.PasoPp = static_cast<std::int16_t>(s.Pasos.PasoQ * Entero(1, 3));
+        s.Tormenta.DurTormenta = static_cast<std::int16_t>(s.Pasos.PasoPp * Entero(1, 12));
+        s.Tormenta.PpTormenta = Real(5, 120);
+        s.Tormenta.DistriPp = Uno(std::vector<std::int16_t>{0, 1, 2, 3, 4});
+        s.Pasos.N0Dur = static_cast<float>(Entero(30, 900));
         const int cauces = Entero(1, 9);
         for (int i = 1; i <= cauces; ++i)
             PonCauceAlAzar(i);
@@ -62,8 +62,8 @@ class RedAlAzar : public RedAMano {
     }
     void PonUEHAlAzar(const std::string& destino)
     {
-        PonUEH("u-" + std::to_string(s.ColUEHs.Cuenta() + 1), destino);
-        model::UEH& u = s.ColUEHs.Item(s.ColUEHs.Cuenta());
+        PonUEH("u-" + std::to_string(s.Red.ColUEHs.Cuenta() + 1), destino);
+        model::UEH& u = s.Red.ColUEHs.Item(s.Red.ColUEHs.Cuenta());
         u.Area = Real(1, 300);
         u.LongitudMax = Real(100, 4000);
         u.VelMedia = Real(0.2F, 3);
@@ -83,7 +83,7 @@ class RedAlAzar : public RedAMano {
     }
     [[nodiscard]] bool SumaUno(double K, double x) const
     {
-        const double m = 0.5 * s.PasoQ;
+        const double m = 0.5 * s.Pasos.PasoQ;
         const auto d = static_cast<float>(K - K * x + m);
         const auto C0 = static_cast<float>((m - K * x) / d), C1 = static_cast<float>((K * x + m) / d),
                    C2 = static_cast<float>((K - K * x - m) / d);
@@ -119,22 +119,23 @@ double Volumen(const model::Siro& s, const model::Matriz<float>& q, int fila, in
 {
     double v = 0;
     for (int p = a; p <= b; ++p)
-        v += double{q(fila, p)} * s.PasoQ * 60;
+        v += double{q(fila, p)} * s.Pasos.PasoQ * 60;
     return v;
 }
 
 /// Half of the first and the last flow of the steps a..b [m3]: what the trapezoid rule leaves of their sum.
 double Extremos(const model::Siro& s, const model::Matriz<float>& q, int fila, int a, int b)
 {
-    return (double{q(fila, a)} + q(fila, b)) / 2 * s.PasoQ * 60;
+    return (double{q(fila, a)} + q(fila, b)) / 2 * s.Pasos.PasoQ * 60;
 }
 
 void BalanceDeUEH(const model::Siro& s, int fila)
 {
-    const model::UEH& u = s.ColUEHs.Item(fila);
-    const double exceso = std::max(0.0, double{s.PpUEH(fila)} - u.RetensionZ);  // [mm] of the steps that ran
-    const double entra = exceso * u.Area * 10 * (0.166667 * 6);                 // the constant isn't 1/6
-    const double sale = Volumen(s, s.QSale, fila, 1, s.NroPasosQ + 1);
+    const model::UEH& u = s.Red.ColUEHs.Item(fila);
+    const double exceso =
+        std::max(0.0, double{s.Tormenta.PpUEH(fila)} - u.RetensionZ);  // [mm] of the steps that ran
+    const double entra = exceso * u.Area * 10 * (0.166667 * 6);        // the constant isn't 1/6
+    const double sale = Volumen(s, s.Resultados.QSale, fila, 1, s.Resultados.NroPasosQ + 1);
     const bool sinTiempo = std::nearbyint(double{u.LongitudMax} / u.VelMedia / 60) == 0;
     if (sinTiempo) return;
     EXPECT_NEAR(sale, entra, 1e-4 * entra + 0.5) << u.NombreUEH;
@@ -143,20 +144,25 @@ void BalanceDeUEH(const model::Siro& s, int fila)
 void BalanceDirecto(const model::Siro& s, int fila, const model::Cauce& c)
 {
     const double minutos = std::nearbyint(double{c.LongCauce} / c.VelMediaCauce / 60);
-    const int retardo = static_cast<int>(std::nearbyint(minutos / s.PasoQ));
-    const double entra = Volumen(s, s.QEntra, fila, 1, s.NroPasosQ);
-    const double cortado = Volumen(s, s.QEntra, fila, std::max(1, s.NroPasosQ - retardo + 1), s.NroPasosQ);
-    const double sale = Volumen(s, s.QSale, fila, 1, s.NroPasosQ);
+    const int retardo = static_cast<int>(std::nearbyint(minutos / s.Pasos.PasoQ));
+    const double entra = Volumen(s, s.Resultados.QEntra, fila, 1, s.Resultados.NroPasosQ);
+    const double cortado = Volumen(s, s.Resultados.QEntra, fila,
+                                   std::max(1, s.Resultados.NroPasosQ - retardo + 1), s.Resultados.NroPasosQ);
+    const double sale = Volumen(s, s.Resultados.QSale, fila, 1, s.Resultados.NroPasosQ);
     EXPECT_NEAR(sale, entra - cortado, 1e-5 * entra + 0.5) << c.NombreCauce;
 }
 
 void BalanceMuskingum(const model::Siro& s, int fila, const model::Cauce& c)
 {
-    const int n = s.NroPasosQ;
+    const int n = s.Resultados.NroPasosQ;
     const double K = double{c.Cauce_k_Musk} * 60, x = c.Cauce_n_Musk;
-    const auto almacenado = [&](int p) { return K * (x * s.QEntra(fila, p) + (1 - x) * s.QSale(fila, p)); };
-    const double entra = Volumen(s, s.QEntra, fila, 1, n) - Extremos(s, s.QEntra, fila, 1, n);
-    const double sale = Volumen(s, s.QSale, fila, 1, n) - Extremos(s, s.QSale, fila, 1, n);
+    const auto almacenado = [&](int p) {
+        return K * (x * s.Resultados.QEntra(fila, p) + (1 - x) * s.Resultados.QSale(fila, p));
+    };
+    const double entra =
+        Volumen(s, s.Resultados.QEntra, fila, 1, n) - Extremos(s, s.Resultados.QEntra, fila, 1, n);
+    const double sale =
+        Volumen(s, s.Resultados.QSale, fila, 1, n) - Extremos(s, s.Resultados.QSale, fila, 1, n);
     EXPECT_NEAR(entra - sale, almacenado(n) - almacenado(1), 1e-4 * entra + 1) << c.NombreCauce;
 }
 
@@ -165,19 +171,21 @@ void BalanceDeEmbalse(const model::Siro& s, int fila, const std::string& nombre)
     const bool esLago = nombre.starts_with("l-");
     int numero = 0;
     std::string metodo;
-    for (const auto& l : s.ColLagos)
+    for (const auto& l : s.Red.ColLagos)
         if (l.NombreLAGO == nombre) numero = l.numLAGO, metodo = l.Metodo;
-    for (const auto& r : s.ColRepresas)
+    for (const auto& r : s.Red.ColRepresas)
         if (r.NombreRepresa == nombre) numero = r.numRepresa, metodo = r.Metodo;
-    const model::Matriz<float>& S = esLago ? s.SLago : s.SRepresa;
-    const int n = s.NroPasosQ;
-    const double entra = Volumen(s, s.QEntra, fila, 0, n) - Extremos(s, s.QEntra, fila, 0, n);
-    const double sale = Volumen(s, s.QSale, fila, 0, n) - Extremos(s, s.QSale, fila, 0, n);
+    const model::Matriz<float>& S = esLago ? s.Resultados.SLago : s.Resultados.SRepresa;
+    const int n = s.Resultados.NroPasosQ;
+    const double entra =
+        Volumen(s, s.Resultados.QEntra, fila, 0, n) - Extremos(s, s.Resultados.QEntra, fila, 0, n);
+    const double sale =
+        Volumen(s, s.Resultados.QSale, fila, 0, n) - Extremos(s, s.Resultados.QSale, fila, 0, n);
     // The level pool stands within 5 mm of its height, and on an empty bottom it lets out in every step what
     // runs at those 5 mm. Runge-Kutta, of the third order, is off by a part of what passes through.
-    const double area = double{(esLago ? s.LagoA : s.RepresaA)(numero, 1)} * 10000;
-    const double caudal5mm = 0.005 * (esLago ? s.LagoQ : s.RepresaQQ)(numero, 2);
-    const double de5mm = 0.005 * area + caudal5mm * n * s.PasoQ * 60;
+    const double area = double{(esLago ? s.Red.LagoA : s.Red.RepresaA)(numero, 1)} * 10000;
+    const double caudal5mm = 0.005 * (esLago ? s.Red.LagoQ : s.Red.RepresaQQ)(numero, 2);
+    const double de5mm = 0.005 * area + caudal5mm * n * s.Pasos.PasoQ * 60;
     const double tolerancia = metodo == "Runge Kutta" ? 0.02 * entra + de5mm : de5mm + 1e-4 * entra;
     EXPECT_NEAR(entra - sale, S(numero, n), tolerancia) << nombre << ", " << metodo;
 }
@@ -190,15 +198,15 @@ TEST_P(BalanceDeAgua, LoQueEntraMenosLoQueQuedaEsLoQueSale)
     ASSERT_TRUE(red.Corre());
     ASSERT_TRUE(red.anfitrion->sucesos.empty());
     const model::Siro& s = red.s;
-    for (int fila = 1; fila <= s.NroUEHs; ++fila)
+    for (int fila = 1; fila <= s.Red.NroUEHs; ++fila)
         BalanceDeUEH(s, fila);
-    for (int fila = s.NroUEHs + 1; fila <= s.NroComponentes; ++fila) {
-        const std::string& nombre = s.Secuencia[static_cast<std::size_t>(fila)];
+    for (int fila = s.Red.NroUEHs + 1; fila <= s.Resultados.NroComponentes; ++fila) {
+        const std::string& nombre = s.Resultados.Secuencia[static_cast<std::size_t>(fila)];
         if (!nombre.starts_with("c-")) {
             BalanceDeEmbalse(s, fila, nombre);
             continue;
         }
-        for (const model::Cauce& c : s.ColCauces) {
+        for (const model::Cauce& c : s.Red.ColCauces) {
             if (c.NombreCauce != nombre) continue;
             if (c.optDirMusk)
                 BalanceDirecto(s, fila, c);

@@ -22,11 +22,11 @@ class Validacion : public testing::Test {
     Validacion() { s.Anfitrion = anfitrion.Puerta(); }
     void UEH(const std::string& nombre, const std::string& destino)
     {
-        s.ColUEHs.Agrega({.NombreUEH = nombre, .Cauce_aa = destino});
+        s.Red.ColUEHs.Agrega({.NombreUEH = nombre, .Cauce_aa = destino});
     }
     void Cauce(const std::string& nombre, const std::string& destino)
     {
-        s.ColCauces.Agrega({.NombreCauce = nombre, .Cauce_aa = destino});
+        s.Red.ColCauces.Agrega({.NombreCauce = nombre, .Cauce_aa = destino});
     }
 
     Siro s;
@@ -37,33 +37,33 @@ TEST_F(Validacion, UnaUEHSolaEsSalidaSinAviso)
 {
     UEH("u-1", "");
     ComponenteFinal(s);
-    EXPECT_EQ(s.NroSalidas, 1);
-    EXPECT_EQ(s.Salidas[1], "u-1");
-    EXPECT_TRUE(s.RedOk);
-    EXPECT_FALSE(s.ErrorRed);
+    EXPECT_EQ(s.Resultados.NroSalidas, 1);
+    EXPECT_EQ(s.Resultados.Salidas[1], "u-1");
+    EXPECT_TRUE(s.Control.RedOk);
+    EXPECT_FALSE(s.Control.ErrorRed);
     EXPECT_TRUE(anfitrion->sucesos.empty());
 }
 
 TEST_F(Validacion, SinComponentesNoSePreguntaNiSeMarcaNada)
 {
-    s.RedOk = s.ErrorRed = s.ContinuarSinCorregir = true;
+    s.Control.RedOk = s.Control.ErrorRed = s.Control.ContinuarSinCorregir = true;
     ComponenteFinal(s);
     EXPECT_TRUE(anfitrion->sucesos.empty());
-    EXPECT_FALSE(s.RedOk || s.ErrorRed || s.ContinuarSinCorregir);
-    EXPECT_EQ(s.NroComponentes, 0);
+    EXPECT_FALSE(s.Control.RedOk || s.Control.ErrorRed || s.Control.ContinuarSinCorregir);
+    EXPECT_EQ(s.Resultados.NroComponentes, 0);
 }
 
 TEST_F(Validacion, LaSecuenciaVaPorClases)
 {
-    s.ColRepresas.Agrega({.NombreRepresa = "r-1", .Cauce_aa = "c-1"});
-    s.ColLagos.Agrega({.NombreLAGO = "l-1", .Cauce_aa = "c-1"});
+    s.Red.ColRepresas.Agrega({.NombreRepresa = "r-1", .Cauce_aa = "c-1"});
+    s.Red.ColLagos.Agrega({.NombreLAGO = "l-1", .Cauce_aa = "c-1"});
     Cauce("c-1", "0");
     UEH("u-1", "l-1");
     UEH("u-2", "r-1");
     ComponenteFinal(s);
-    EXPECT_EQ(s.Secuencia, (std::vector<std::string>{"", "u-1", "u-2", "c-1", "l-1", "r-1"}));
-    EXPECT_EQ(s.NroComponentes, 5);
-    EXPECT_TRUE(s.RedOk);
+    EXPECT_EQ(s.Resultados.Secuencia, (std::vector<std::string>{"", "u-1", "u-2", "c-1", "l-1", "r-1"}));
+    EXPECT_EQ(s.Resultados.NroComponentes, 5);
+    EXPECT_TRUE(s.Control.RedOk);
 }
 
 TEST_F(Validacion, UnCauceAlimentadoSoloPorOtroCauceEstaAlimentado)
@@ -73,7 +73,7 @@ TEST_F(Validacion, UnCauceAlimentadoSoloPorOtroCauceEstaAlimentado)
     Cauce("c-2", "c-1");
     ComponenteFinal(s);
     EXPECT_TRUE(anfitrion->sucesos.empty());
-    EXPECT_TRUE(s.RedOk);
+    EXPECT_TRUE(s.Control.RedOk);
 }
 
 TEST_F(Validacion, UnaUEHQueDrenaAUnNombreBorradoEsSalida)
@@ -81,20 +81,20 @@ TEST_F(Validacion, UnaUEHQueDrenaAUnNombreBorradoEsSalida)
     UEH("u-1", "c-9");
     UEH("u-2", "c-1");
     Cauce("c-1", "0");
-    s.AvisoDescargasVisto = true;
+    s.Control.AvisoDescargasVisto = true;
     ComponenteFinal(s);
-    EXPECT_EQ(s.NroSalidas, 2);
-    EXPECT_EQ(s.Salidas[1], "u-1");
-    EXPECT_EQ(s.Salidas[2], "c-1");
+    EXPECT_EQ(s.Resultados.NroSalidas, 2);
+    EXPECT_EQ(s.Resultados.Salidas[1], "u-1");
+    EXPECT_EQ(s.Resultados.Salidas[2], "c-1");
 }
 
 TEST_F(Validacion, UnDestinoQueEsUEHHaceSalida)
 {
     UEH("u-1", "u-2");
     UEH("u-2", "");
-    s.AvisoDescargasVisto = true;
+    s.Control.AvisoDescargasVisto = true;
     ComponenteFinal(s);
-    EXPECT_EQ(s.NroSalidas, 2);
+    EXPECT_EQ(s.Resultados.NroSalidas, 2);
 }
 
 TEST_F(Validacion, SinSalidaPregunta)
@@ -102,7 +102,7 @@ TEST_F(Validacion, SinSalidaPregunta)
     UEH("u-1", "c-1");
     Cauce("c-1", "c-2");
     Cauce("c-2", "c-1");
-    s.AvisoDescargasVisto = true;
+    s.Control.AvisoDescargasVisto = true;
     ComponenteFinal(s);
     EXPECT_EQ(anfitrion->Preguntas(),
               std::vector<Mensaje>(
@@ -110,9 +110,9 @@ TEST_F(Validacion, SinSalidaPregunta)
                     "del sistema. Al menos un componente debe tener el campo <Drena a< = <0> o "
                     "<cadena nula>. ¿Desea volver a la ventana de edición  (SI) o continuar (No) ?",
                     "Error, Verifique Componente final del sistema", Icono::Exclamacion}}));
-    EXPECT_TRUE(s.ErrorRed);
-    EXPECT_FALSE(s.ContinuarSinCorregir);
-    EXPECT_FALSE(s.RedOk);
+    EXPECT_TRUE(s.Control.ErrorRed);
+    EXPECT_FALSE(s.Control.ContinuarSinCorregir);
+    EXPECT_FALSE(s.Control.RedOk);
 }
 
 TEST_F(Validacion, CaucesSinAporteSeNombranConCuatroBlancos)
@@ -128,8 +128,8 @@ TEST_F(Validacion, CaucesSinAporteSeNombranConCuatroBlancos)
                                "asigne sus UEH o componentes de aportes: c-1    c-2    " +
                                    Cola,
                                "Advertencia !!!", Icono::Exclamacion}}));
-    EXPECT_TRUE(s.ErrorRed);
-    EXPECT_TRUE(s.RedOk);  // one outfall and no answer of No
+    EXPECT_TRUE(s.Control.ErrorRed);
+    EXPECT_TRUE(s.Control.RedOk);  // one outfall and no answer of No
 }
 
 // The same gap in two networks.
@@ -154,8 +154,8 @@ TEST_F(Validacion, RepresasYLagosSinAporteTienenSuPropioTexto)
 {
     UEH("u-1", "c-1");
     Cauce("c-1", "0");
-    s.ColRepresas.Agrega({.NombreRepresa = "r-1", .Cauce_aa = "c-1"});
-    s.ColLagos.Agrega({.NombreLAGO = "l-1", .Cauce_aa = "c-1"});
+    s.Red.ColRepresas.Agrega({.NombreRepresa = "r-1", .Cauce_aa = "c-1"});
+    s.Red.ColLagos.Agrega({.NombreLAGO = "l-1", .Cauce_aa = "c-1"});
     ComponenteFinal(s);
     EXPECT_EQ(
         anfitrion->Preguntas(),
@@ -168,7 +168,7 @@ TEST_F(Validacion, RepresasYLagosSinAporteTienenSuPropioTexto)
               "componentes de aportes: l-1    " +
                   Cola,
               "Advertencia !!!", Icono::Exclamacion}}));
-    EXPECT_TRUE(s.ErrorRed);
+    EXPECT_TRUE(s.Control.ErrorRed);
 }
 
 TEST_F(Validacion, RespondidoNoSeContinuaSinRedOk)
@@ -178,9 +178,9 @@ TEST_F(Validacion, RespondidoNoSeContinuaSinRedOk)
     Cauce("c-2", "c-1");
     anfitrion->respuestaDeSiempre = false;
     ComponenteFinal(s);
-    EXPECT_TRUE(s.ContinuarSinCorregir);
-    EXPECT_FALSE(s.RedOk);
-    EXPECT_TRUE(s.ErrorRed);
+    EXPECT_TRUE(s.Control.ContinuarSinCorregir);
+    EXPECT_FALSE(s.Control.RedOk);
+    EXPECT_TRUE(s.Control.ErrorRed);
 }
 
 TEST_F(Validacion, VariasSalidasSePreguntanSiNoSeAvisaron)
@@ -200,16 +200,16 @@ TEST_F(Validacion, VariasSalidasSePreguntanSiNoSeAvisaron)
               "c-1    " +
                   Cola,
               "Advertencia !!!", Icono::Exclamacion}}));
-    EXPECT_FALSE(s.ErrorRed);
-    EXPECT_FALSE(s.AvisoDescargasVisto);
-    EXPECT_FALSE(s.RedOk);
+    EXPECT_FALSE(s.Control.ErrorRed);
+    EXPECT_FALSE(s.Control.AvisoDescargasVisto);
+    EXPECT_FALSE(s.Control.RedOk);
 }
 
 TEST_F(Validacion, VariasSalidasYaAvisadasCallan)
 {
     UEH("u-1", "");
     UEH("u-2", "");
-    s.AvisoDescargasVisto = true;
+    s.Control.AvisoDescargasVisto = true;
     ComponenteFinal(s);
     EXPECT_TRUE(anfitrion->sucesos.empty());
 }
@@ -218,10 +218,10 @@ TEST_F(Validacion, LaUndecimaSalidaSeCuentaYSeInforma)
 {
     for (int i = 1; i <= 12; ++i)
         UEH("u-" + std::to_string(i), "");
-    s.AvisoDescargasVisto = true;
+    s.Control.AvisoDescargasVisto = true;
     ComponenteFinal(s);
-    EXPECT_EQ(s.NroSalidas, 12);
-    EXPECT_EQ(s.Salidas[10], "u-10");
+    EXPECT_EQ(s.Resultados.NroSalidas, 12);
+    EXPECT_EQ(s.Resultados.Salidas[10], "u-10");
     const Mensaje falla{"Error Nro. 9 ,El subíndice está fuera del intervaloVerifique", "", Icono::Ninguno};
     EXPECT_EQ(anfitrion->Avisos(), (std::vector<Mensaje>{falla, falla}));
 }
@@ -230,9 +230,9 @@ TEST_F(Validacion, ElVacioYElCeroNoNombranANadie)
 {
     UEH("u-1", "0");
     Cauce("0", "");
-    s.AvisoDescargasVisto = true;
+    s.Control.AvisoDescargasVisto = true;
     ComponenteFinal(s);
-    EXPECT_EQ(s.NroSalidas, 2);
+    EXPECT_EQ(s.Resultados.NroSalidas, 2);
     EXPECT_EQ(anfitrion->Preguntas().size(), 1U);  // the reach named "0" is fed by nothing
     EXPECT_FALSE(DrenaA("", ""));
     EXPECT_FALSE(DrenaA("0", "0"));

@@ -54,11 +54,11 @@ struct ReservorioDelLibro : RedAMano {
         const int pasos = static_cast<int>(std::size(Crecida)) - 1;
         Dimensiona(pasos);
         for (int k = 1; k <= pasos; ++k)
-            s.QSale(1, k) = static_cast<float>(Crecida[k] * PieCubico);
+            s.Resultados.QSale(1, k) = static_cast<float>(Crecida[k] * PieCubico);
         Propaga(nombre);
         for (int k = 0; k <= pasos; ++k) {
-            sale.push_back(s.QSale(2, k) / PieCubico);
-            altura.push_back((lago ? s.HLago(1, k) : s.HRepresa(1, k)) / Pie);
+            sale.push_back(s.Resultados.QSale(2, k) / PieCubico);
+            altura.push_back((lago ? s.Resultados.HLago(1, k) : s.Resultados.HRepresa(1, k)) / Pie);
         }
     }
     std::vector<double> sale;    ///< [cfs], from step 0
@@ -108,7 +108,7 @@ struct TramoDelLibro : RedAMano {
     {
         const float entra[] = {93,  137, 208, 320, 442, 546, 630, 678, 691, 675,
                                634, 571, 477, 390, 329, 247, 184, 134, 108, 90};
-        s.PasoQ = s.PasoPp = 60;
+        s.Pasos.PasoQ = s.Pasos.PasoPp = 60;
         PonUEH("u-1", "c-1");
         auto& tramo = PonCauce("c-1", "");
         tramo.Cauce_k_Musk = K;
@@ -137,7 +137,7 @@ TEST(EjemplosDeLibro, MuskingumDeDosHorasYPico)
     EXPECT_NEAR(tramo.corrida.C2Musk, 0.5927, 0.00005);
     for (int j = 1; j <= 20; ++j) {
         const double deMas = (93 - 85) * std::pow(0.5927, j - 1);
-        EXPECT_NEAR(tramo.s.QSale(2, j) - deMas, libro[j - 1], 0.51) << "hour " << j;
+        EXPECT_NEAR(tramo.s.Resultados.QSale(2, j) - deMas, libro[j - 1], 0.51) << "hour " << j;
     }
 }
 

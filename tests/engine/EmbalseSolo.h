@@ -30,70 +30,71 @@ class RedAMano {
     {
         s.Anfitrion = anfitrion.Puerta();
         s.Disco = disco.Puerta();
-        s.PasoPp = s.PasoQ = 10;
+        s.Pasos.PasoPp = s.Pasos.PasoQ = 10;
     }
 
     /// `inicial`: flow when the storm begins [m3/s].
     void PonUEH(const std::string& nombre, const std::string& destino, float inicial = 0)
     {
-        const auto numero = static_cast<std::int16_t>(s.ColUEHs.Cuenta() + 1);
-        s.ColUEHs.Agrega({.NombreUEH = nombre, .numUEH = numero, .Cauce_aa = destino, .Q0Recesion = inicial});
+        const auto numero = static_cast<std::int16_t>(s.Red.ColUEHs.Cuenta() + 1);
+        s.Red.ColUEHs.Agrega(
+            {.NombreUEH = nombre, .numUEH = numero, .Cauce_aa = destino, .Q0Recesion = inicial});
     }
     model::Cauce& PonCauce(const std::string& nombre, const std::string& destino)
     {
-        const auto numero = static_cast<std::int16_t>(s.ColCauces.Cuenta() + 1);
-        return s.ColCauces.Agrega({.numCauce = numero, .NombreCauce = nombre, .Cauce_aa = destino});
+        const auto numero = static_cast<std::int16_t>(s.Red.ColCauces.Cuenta() + 1);
+        return s.Red.ColCauces.Agrega({.numCauce = numero, .NombreCauce = nombre, .Cauce_aa = destino});
     }
     /// Outflow by table, on the heights of the other columns.
     model::Represa& PonRepresa(const std::string& nombre, const std::string& metodo,
                                const std::vector<RenglonHASQ>& tabla)
     {
-        const auto numero = static_cast<std::int16_t>(s.ColRepresas.Cuenta() + 1);
+        const auto numero = static_cast<std::int16_t>(s.Red.ColRepresas.Cuenta() + 1);
         tablasRepresas.push_back(tabla);
-        return s.ColRepresas.Agrega(
+        return s.Red.ColRepresas.Agrega(
             {.NombreRepresa = nombre, .numRepresa = numero, .Metodo = metodo, .optTabla = true});
     }
     model::Lago& PonLago(const std::string& nombre, const std::string& metodo,
                          const std::vector<RenglonHASQ>& tabla)
     {
-        const auto numero = static_cast<std::int16_t>(s.ColLagos.Cuenta() + 1);
+        const auto numero = static_cast<std::int16_t>(s.Red.ColLagos.Cuenta() + 1);
         tablasLagos.push_back(tabla);
-        return s.ColLagos.Agrega({.NombreLAGO = nombre, .numLAGO = numero, .Metodo = metodo});
+        return s.Red.ColLagos.Agrega({.NombreLAGO = nombre, .numLAGO = numero, .Metodo = metodo});
     }
 
     /// Sizes tables and results for `pasos` output steps, as the main process does ahead of the routing.
     void Dimensiona(int pasos)
     {
-        s.NroPasosQ = static_cast<std::int16_t>(pasos);
-        s.IndSerie = 1;
-        s.Secuencia = {""};
-        for (const auto& u : s.ColUEHs)
-            s.Secuencia.push_back(u.NombreUEH);
-        for (const auto& c : s.ColCauces)
-            s.Secuencia.push_back(c.NombreCauce);
-        for (const auto& l : s.ColLagos)
-            s.Secuencia.push_back(l.NombreLAGO);
-        for (const auto& r : s.ColRepresas)
-            s.Secuencia.push_back(r.NombreRepresa);
-        s.NroComponentes = static_cast<std::int16_t>(s.Secuencia.size() - 1);
+        s.Resultados.NroPasosQ = static_cast<std::int16_t>(pasos);
+        s.Serie.IndSerie = 1;
+        s.Resultados.Secuencia = {""};
+        for (const auto& u : s.Red.ColUEHs)
+            s.Resultados.Secuencia.push_back(u.NombreUEH);
+        for (const auto& c : s.Red.ColCauces)
+            s.Resultados.Secuencia.push_back(c.NombreCauce);
+        for (const auto& l : s.Red.ColLagos)
+            s.Resultados.Secuencia.push_back(l.NombreLAGO);
+        for (const auto& r : s.Red.ColRepresas)
+            s.Resultados.Secuencia.push_back(r.NombreRepresa);
+        s.Resultados.NroComponentes = static_cast<std::int16_t>(s.Resultados.Secuencia.size() - 1);
         CuentaComponentes();
         LlenaTablas();
-        s.QSale.Dimensiona(s.NroComponentes, pasos + 1);
-        s.QEntra.Dimensiona(s.NroUEHs + 1, s.NroComponentes + 1, pasos + 1);
-        s.QMax.Dimensiona(s.NroComponentes, 1);
-        for (auto* m : {&s.HRepresa, &s.SRepresa})
-            m->Dimensiona(s.NroRepresas, pasos + 1);
-        for (auto* m : {&s.HLago, &s.SLago})
-            m->Dimensiona(s.NroLagos, pasos + 1);
+        s.Resultados.QSale.Dimensiona(s.Resultados.NroComponentes, pasos + 1);
+        s.Resultados.QEntra.Dimensiona(s.Red.NroUEHs + 1, s.Resultados.NroComponentes + 1, pasos + 1);
+        s.Resultados.QMax.Dimensiona(s.Resultados.NroComponentes, 1);
+        for (auto* m : {&s.Resultados.HRepresa, &s.Resultados.SRepresa})
+            m->Dimensiona(s.Red.NroRepresas, pasos + 1);
+        for (auto* m : {&s.Resultados.HLago, &s.Resultados.SLago})
+            m->Dimensiona(s.Red.NroLagos, pasos + 1);
         aportes = engine::Aportes(s);
         corrida.Afluentes = &aportes;
     }
     void CuentaComponentes()
     {
-        s.NroUEHs = static_cast<std::int16_t>(s.ColUEHs.Cuenta());
-        s.NroCauces = static_cast<std::int16_t>(s.ColCauces.Cuenta());
-        s.NroLagos = static_cast<std::int16_t>(s.ColLagos.Cuenta());
-        s.NroRepresas = static_cast<std::int16_t>(s.ColRepresas.Cuenta());
+        s.Red.NroUEHs = static_cast<std::int16_t>(s.Red.ColUEHs.Cuenta());
+        s.Red.NroCauces = static_cast<std::int16_t>(s.Red.ColCauces.Cuenta());
+        s.Red.NroLagos = static_cast<std::int16_t>(s.Red.ColLagos.Cuenta());
+        s.Red.NroRepresas = static_cast<std::int16_t>(s.Red.ColRepresas.Cuenta());
     }
     /// The tables given so far into the run-wide arrays.
     void LlenaTablas()
@@ -102,36 +103,36 @@ class RedAMano {
         for (const auto* tablas : {&tablasRepresas, &tablasLagos})
             for (const auto& t : *tablas)
                 filas = std::max(filas, static_cast<int>(t.size()) + 1);
-        const int r = s.ColRepresas.Cuenta(), l = s.ColLagos.Cuenta();
-        for (auto* m : {&s.RepresaH, &s.RepresaA, &s.RepresaQH, &s.RepresaQQ})
+        const int r = s.Red.ColRepresas.Cuenta(), l = s.Red.ColLagos.Cuenta();
+        for (auto* m : {&s.Red.RepresaH, &s.Red.RepresaA, &s.Red.RepresaQH, &s.Red.RepresaQQ})
             m->Dimensiona(r, filas);
-        for (auto* m : {&s.LagoH, &s.LagoA, &s.LagoQ})
+        for (auto* m : {&s.Red.LagoH, &s.Red.LagoA, &s.Red.LagoQ})
             m->Dimensiona(l, filas);
-        s.RepresaS.Dimensiona(r, filas);
-        s.LagoS.Dimensiona(l, filas);
-        s.RepresaFilasHAS.Dimensiona(r);
-        s.RepresaFilasHQ.Dimensiona(r);
-        s.LagoFilas.Dimensiona(l);
+        s.Red.RepresaS.Dimensiona(r, filas);
+        s.Red.LagoS.Dimensiona(l, filas);
+        s.Red.RepresaFilasHAS.Dimensiona(r);
+        s.Red.RepresaFilasHQ.Dimensiona(r);
+        s.Red.LagoFilas.Dimensiona(l);
         for (int n = 1; n <= r; ++n) {
             const auto& t = tablasRepresas[static_cast<std::size_t>(n) - 1];
-            s.RepresaFilasHAS(n) = s.RepresaFilasHQ(n) = static_cast<std::int16_t>(t.size());
+            s.Red.RepresaFilasHAS(n) = s.Red.RepresaFilasHQ(n) = static_cast<std::int16_t>(t.size());
             for (int k = 1; k <= static_cast<int>(t.size()); ++k) {
                 const RenglonHASQ& renglon = t[static_cast<std::size_t>(k) - 1];
-                s.RepresaH(n, k) = s.RepresaQH(n, k) = renglon.H;
-                s.RepresaA(n, k) = renglon.A;
-                s.RepresaS(n, k) = renglon.S;
-                s.RepresaQQ(n, k) = renglon.Q;
+                s.Red.RepresaH(n, k) = s.Red.RepresaQH(n, k) = renglon.H;
+                s.Red.RepresaA(n, k) = renglon.A;
+                s.Red.RepresaS(n, k) = renglon.S;
+                s.Red.RepresaQQ(n, k) = renglon.Q;
             }
         }
         for (int n = 1; n <= l; ++n) {
             const auto& t = tablasLagos[static_cast<std::size_t>(n) - 1];
-            s.LagoFilas(n) = static_cast<std::int16_t>(t.size());
+            s.Red.LagoFilas(n) = static_cast<std::int16_t>(t.size());
             for (int k = 1; k <= static_cast<int>(t.size()); ++k) {
                 const RenglonHASQ& renglon = t[static_cast<std::size_t>(k) - 1];
-                s.LagoH(n, k) = renglon.H;
-                s.LagoA(n, k) = renglon.A;
-                s.LagoS(n, k) = renglon.S;
-                s.LagoQ(n, k) = renglon.Q;
+                s.Red.LagoH(n, k) = renglon.H;
+                s.Red.LagoA(n, k) = renglon.A;
+                s.Red.LagoS(n, k) = renglon.S;
+                s.Red.LagoQ(n, k) = renglon.Q;
             }
         }
     }
@@ -143,22 +144,23 @@ class RedAMano {
             if (!tablas->empty())
                 for (RenglonHASQ& r : tablas->front())
                     r.Q *= factor;
-        if (s.ColRepresas.Cuenta() == 0) return;
-        for (auto* coeficientes : {&s.Represas(1).FQa, &s.Represas(1).FQb, &s.Represas(1).FQc})
+        if (s.Red.ColRepresas.Cuenta() == 0) return;
+        for (auto* coeficientes : {&s.Red.Represas(1).FQa, &s.Red.Represas(1).FQb, &s.Red.Represas(1).FQc})
             for (std::size_t i = 0; i < coeficientes->size(); ++i)
-                if (i >= 4 || coeficientes != &s.Represas(1).FQb) (*coeficientes)[i] *= factor;
+                if (i >= 4 || coeficientes != &s.Red.Represas(1).FQb) (*coeficientes)[i] *= factor;
     }
 
     /// Row of a component in Secuencia.
     [[nodiscard]] int Fila(const std::string& nombre) const
     {
-        const auto lugar = std::find(s.Secuencia.begin() + 1, s.Secuencia.end(), nombre);
-        return static_cast<int>(lugar - s.Secuencia.begin());
+        const auto lugar =
+            std::find(s.Resultados.Secuencia.begin() + 1, s.Resultados.Secuencia.end(), nombre);
+        return static_cast<int>(lugar - s.Resultados.Secuencia.begin());
     }
     /// Hydrograph of a component from step 1 [m3/s].
     void PonCaudales(const std::string& nombre, const std::vector<float>& caudales)
     {
-        std::copy(caudales.begin(), caudales.end(), s.QSale.Fila(Fila(nombre)) + 1);
+        std::copy(caudales.begin(), caudales.end(), s.Resultados.QSale.Fila(Fila(nombre)) + 1);
     }
     void Propaga(const std::string& nombre)
     {

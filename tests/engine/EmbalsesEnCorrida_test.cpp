@@ -28,16 +28,16 @@ class EmbalsesEnCorrida : public testing::Test, public RedAMano {
   protected:
     EmbalsesEnCorrida()
     {
-        s.PpTormenta = 30;
-        s.DurTormenta = 30;
-        s.N0Dur = 10;
-        s.DirTrabajo = "/trabajo";
+        s.Tormenta.PpTormenta = 30;
+        s.Tormenta.DurTormenta = 30;
+        s.Pasos.N0Dur = 10;
+        s.Proyecto.DirTrabajo = "/trabajo";
         disco.PonDirectorio("/trabajo");
     }
     void PonUEHSeca(const std::string& destino)
     {
         PonUEH("u-1", destino);
-        model::UEH& u = s.UEHs(1);
+        model::UEH& u = s.Red.UEHs(1);
         u.Area = 100;
         u.LongitudMax = 600;
         u.VelMedia = 1;
@@ -52,7 +52,7 @@ class EmbalsesEnCorrida : public testing::Test, public RedAMano {
     }
     [[nodiscard]] bool Dice(const std::string& texto) const
     {
-        return s.TextoPizarra.find(texto) != std::string::npos;
+        return s.Control.TextoPizarra.find(texto) != std::string::npos;
     }
 };
 
@@ -61,11 +61,11 @@ TEST_F(EmbalsesEnCorrida, VacioYSinEntradaQuedaApenasSobreElFondo)
     PonUEHSeca("r-uno");
     PonRepresa("r-uno", "Piscina Nivelada", Pileta).HInicialEmb = 100;
     ASSERT_TRUE(Corre());
-    ASSERT_EQ(s.NroPasosQ, 4);
-    EXPECT_EQ(s.QSale(1, 2), 0) << "no runoff";
+    ASSERT_EQ(s.Resultados.NroPasosQ, 4);
+    EXPECT_EQ(s.Resultados.QSale(1, 2), 0) << "no runoff";
     for (int k = 1; k <= 4; ++k) {
-        EXPECT_EQ(s.HRepresa(1, k), 100 + 1 / 256.0F);
-        EXPECT_EQ(s.QSale(2, k), 4);
+        EXPECT_EQ(s.Resultados.HRepresa(1, k), 100 + 1 / 256.0F);
+        EXPECT_EQ(s.Resultados.QSale(2, k), 4);
     }
     EXPECT_TRUE(anfitrion->sucesos.empty());
 }
@@ -79,14 +79,14 @@ TEST_F(EmbalsesEnCorrida, DeUnNombreRepetidoCuentaElCaudalInicialDeLaPrimera)
     tramo.LongCauce = 600;
     tramo.VelMediaCauce = 1;
     tramo.optDirMusk = true;
-    s.ColUEHs.Agrega(s.UEHs(1)).Cauce_aa = "r-uno";
-    s.ColUEHs.Item(1).Q0Recesion = 0.5F;
-    s.ColUEHs.Item(2).Q0Recesion = 0.25F;
+    s.Red.ColUEHs.Agrega(s.Red.UEHs(1)).Cauce_aa = "r-uno";
+    s.Red.ColUEHs.Item(1).Q0Recesion = 0.5F;
+    s.Red.ColUEHs.Item(2).Q0Recesion = 0.25F;
     PonRepresa("r-uno", "Piscina Nivelada", Pileta).HInicialEmb = 100;
-    s.AvisoDescargasVisto = true;
+    s.Control.AvisoDescargasVisto = true;
     ASSERT_TRUE(Corre());
-    ASSERT_EQ(s.Secuencia[4], "r-uno");
-    EXPECT_EQ(s.QEntra(4, 0), 0.5F);
+    ASSERT_EQ(s.Resultados.Secuencia[4], "r-uno");
+    EXPECT_EQ(s.Resultados.QEntra(4, 0), 0.5F);
 }
 
 TEST_F(EmbalsesEnCorrida, LaPlanillaLlegaAlArchivoConLaPizarraApagada)
@@ -107,7 +107,7 @@ TEST_F(EmbalsesEnCorrida, LaPlanillaLlegaAlArchivoConLaPizarraApagada)
 
 TEST_F(EmbalsesEnCorrida, MuskingumMuestraLaAlturaCeroEnLaPrimeraFila)
 {
-    s.SalidaPizarra = true;
+    s.Control.SalidaPizarra = true;
     PonUEHSeca("c-1");
     auto& tramo = PonCauce("c-1", "r-uno");
     tramo.LongCauce = 600;
@@ -135,7 +135,7 @@ TEST_F(EmbalsesEnCorrida, MuskingumMuestraLaAlturaCeroEnLaPrimeraFila)
              "\r\nPer.k  t[min]  Qentra[mm] Qsale[m3/s]   H[m]     Vol.Alm.[m3]" +
              primera));
     // From step 1 on Q = 0 is met 1/1024 m above the bottom.
-    EXPECT_EQ(s.HLago(1, 1), 100 + 1 / 1024.0F);
+    EXPECT_EQ(s.Resultados.HLago(1, 1), 100 + 1 / 1024.0F);
 }
 
 TEST_F(EmbalsesEnCorrida, ElAlmacenamientoDeLaCorridaAnteriorNoSeMuestra)
@@ -143,10 +143,10 @@ TEST_F(EmbalsesEnCorrida, ElAlmacenamientoDeLaCorridaAnteriorNoSeMuestra)
     PonUEHSeca("r-uno");
     PonRepresa("r-uno", "Runge Kutta", SinSalida).HInicialEmb = 101;
     for (int vez = 1; vez <= 2; ++vez) {
-        s.TextoPizarra.clear();
+        s.Control.TextoPizarra.clear();
         ASSERT_TRUE(Corre());
         EXPECT_TRUE(Dice("\r\n 0    0    0    0    0    0         0   101   0\r\n 1")) << vez;
-        EXPECT_EQ(s.SActual, 307200);
+        EXPECT_EQ(s.Resultados.SActual, 307200);
     }
 }
 
@@ -162,8 +162,8 @@ TEST_F(EmbalsesEnCorrida, ElLagoMuestraElAlmacenamientoDeLaRepresaDeLaMismaCorri
     tramo.optDirMusk = true;
     PonLago("l-uno", "Runge Kutta", SinSalida).HInicialEmb = 101;
     ASSERT_TRUE(Corre());
-    EXPECT_EQ(s.SRepresa(1, 4), 1200);  // 307200/256
-    EXPECT_EQ(s.SLago(1, 0), 1200);
+    EXPECT_EQ(s.Resultados.SRepresa(1, 4), 1200);  // 307200/256
+    EXPECT_EQ(s.Resultados.SLago(1, 0), 1200);
     EXPECT_TRUE(Dice("\r\n 0    0    0    0    0    0         0   101   1200"));
     EXPECT_TRUE(anfitrion->sucesos.empty());
 }
@@ -189,8 +189,8 @@ TEST_F(EmbalsesEnCorrida, UnaRepresaSinMetodoDetieneATodasLasSiguientesYLaCorrid
         "Error, Seleccione el método de propagación de la represa en el formulario de Propiedadesr-a. ",
         "Advertencia !", Icono::Exclamacion};
     EXPECT_EQ(anfitrion->Avisos(), (std::vector<Mensaje>{aviso, aviso})) << "one for each Represa";
-    EXPECT_EQ(s.HRepresa(2, 0), 0) << "the second isn't routed";
-    EXPECT_EQ(s.HLago(1, 0), 102) << "the Lago is";
+    EXPECT_EQ(s.Resultados.HRepresa(2, 0), 0) << "the second isn't routed";
+    EXPECT_EQ(s.Resultados.HLago(1, 0), 102) << "the Lago is";
 }
 
 TEST_F(EmbalsesEnCorrida, UnaFallaTerminaEseComponenteYSigueElProximo)
@@ -209,7 +209,7 @@ TEST_F(EmbalsesEnCorrida, UnaFallaTerminaEseComponenteYSigueElProximo)
     EXPECT_EQ(anfitrion->Avisos(),
               (std::vector<Mensaje>{{"Error Nro. 6 ,DesbordamientoVerifique", "", Icono::Ninguno}}));
     EXPECT_FALSE(Dice("Componente: Represa"));
-    EXPECT_EQ(s.HLago(1, 0), 102);
+    EXPECT_EQ(s.Resultados.HLago(1, 0), 102);
     EXPECT_TRUE(Dice("\r\n Fin detalle cálculo proaga en Lago "));
 }
 
@@ -218,10 +218,10 @@ TEST_F(EmbalsesEnCorrida, ElMaximoEmpiezaDeNuevoEnCadaTormenta)
     PonUEHSeca("l-uno");
     PonLago("l-uno", "Piscina Nivelada", Pileta).HInicialEmb = 102;
     ASSERT_TRUE(Corre());
-    EXPECT_EQ(s.QMax(2, 1), 2048);
-    s.Lagos(1).HInicialEmb = 100;
+    EXPECT_EQ(s.Resultados.QMax(2, 1), 2048);
+    s.Red.Lagos(1).HInicialEmb = 100;
     ASSERT_TRUE(Corre());
-    EXPECT_EQ(s.QMax(2, 1), 4);
+    EXPECT_EQ(s.Resultados.QMax(2, 1), 4);
 }
 
 TEST_F(EmbalsesEnCorrida, RespondidoNoTerminaLaCorridaSinEscribirElArchivo)

@@ -117,9 +117,9 @@ class Embalses : public testing::TestWithParam<ClaseProbada>, public RedAMano {
     void PonK(float K)
     {
         if (EsLago())
-            s.Lagos(1).Lago_k_Musk = K;
+            s.Red.Lagos(1).Lago_k_Musk = K;
         else
-            s.Represas(1).Represa_k_Musk = K;
+            s.Red.Represas(1).Represa_k_Musk = K;
     }
     /// Sizes for the hydrograph of "u-1" and routes.
     void Corre(const std::vector<float>& caudales)
@@ -129,11 +129,17 @@ class Embalses : public testing::TestWithParam<ClaseProbada>, public RedAMano {
         Propaga(Nombre());
     }
     /// Rows of the component in the result arrays, from step 0.
-    [[nodiscard]] std::vector<float> Sale() const { return De(s.QSale, Fila(Nombre())); }
-    [[nodiscard]] std::vector<float> Entra() const { return De(s.QEntra, Fila(Nombre())); }
-    [[nodiscard]] std::vector<float> H() const { return De(EsLago() ? s.HLago : s.HRepresa, 1); }
-    [[nodiscard]] std::vector<float> S() const { return De(EsLago() ? s.SLago : s.SRepresa, 1); }
-    [[nodiscard]] float QMax() const { return s.QMax(Fila(Nombre()), 1); }
+    [[nodiscard]] std::vector<float> Sale() const { return De(s.Resultados.QSale, Fila(Nombre())); }
+    [[nodiscard]] std::vector<float> Entra() const { return De(s.Resultados.QEntra, Fila(Nombre())); }
+    [[nodiscard]] std::vector<float> H() const
+    {
+        return De(EsLago() ? s.Resultados.HLago : s.Resultados.HRepresa, 1);
+    }
+    [[nodiscard]] std::vector<float> S() const
+    {
+        return De(EsLago() ? s.Resultados.SLago : s.Resultados.SRepresa, 1);
+    }
+    [[nodiscard]] float QMax() const { return s.Resultados.QMax(Fila(Nombre()), 1); }
 
     /// A question of one of the lookups.
     static Mensaje Pregunta(Funcion funcion, Caso caso)
@@ -150,7 +156,7 @@ class Embalses : public testing::TestWithParam<ClaseProbada>, public RedAMano {
   private:
     [[nodiscard]] std::vector<float> De(const model::Matriz<float>& m, int fila) const
     {
-        return {m.Fila(fila), m.Fila(fila) + s.NroPasosQ + 1};
+        return {m.Fila(fila), m.Fila(fila) + s.Resultados.NroPasosQ + 1};
     }
 };
 INSTANTIATE_TEST_SUITE_P(Embalses, Embalses, testing::ValuesIn(Clases),
@@ -166,8 +172,8 @@ using V = std::vector<float>;
 // Step 3: W = 512, met at d = 1/4, closes at 65/256: Q = 260, U = 520, T = 512 - 520.
 TEST_P(Embalses, PiscinaNiveladaAMano)
 {
-    s.SalidaPizarra = true;
-    s.TextoPizarra = "antes";
+    s.Control.SalidaPizarra = true;
+    s.Control.TextoPizarra = "antes";
     Pon("Piscina Nivelada", Pileta, 100);
     Corre({1024, 512, 0});
     EXPECT_EQ(Entra(), (V{0, 1024, 512, 0}));
@@ -175,11 +181,11 @@ TEST_P(Embalses, PiscinaNiveladaAMano)
     EXPECT_EQ(H(), (V{100, 100 + 129 / 256.0F, 100 + 191 / 256.0F, 100 + 65 / 256.0F}));
     EXPECT_EQ(S(), (V{0, 154800, 229200, 78000}));
     EXPECT_EQ(QMax(), 764);
-    EXPECT_EQ(s.VolEntra, 600 * (1024 + 512));
-    EXPECT_EQ(s.VolSale, 600 * (516 + 764 + 260));
-    EXPECT_EQ(s.HActual, 100 + 65 / 256.0F);
-    EXPECT_EQ(s.SActual, 78000);
-    EXPECT_EQ(s.IndPaso, 3);
+    EXPECT_EQ(s.Resultados.VolEntra, 600 * (1024 + 512));
+    EXPECT_EQ(s.Resultados.VolSale, 600 * (516 + 764 + 260));
+    EXPECT_EQ(s.Resultados.HActual, 100 + 65 / 256.0F);
+    EXPECT_EQ(s.Resultados.SActual, 78000);
+    EXPECT_EQ(s.Resultados.IndPaso, 3);
 
     const ClaseProbada& clase = GetParam();
     const std::string esperado = std::string("antes") + clase.abrePiscina +
@@ -196,8 +202,8 @@ TEST_P(Embalses, PiscinaNiveladaAMano)
                                  "\r\nVolumen Escurrido. Entra = 921600 m3 ; Sale = 924000 m3"
                                  "\r\nCaudal Máximo = 764 m3/s "
                                  "\r\n";
-    EXPECT_TRUE(MismoTexto(esperado, s.TextoPizarra));
-    EXPECT_EQ(anfitrion->pizarra, s.TextoPizarra) << "the box has it at once";
+    EXPECT_TRUE(MismoTexto(esperado, s.Control.TextoPizarra));
+    EXPECT_EQ(anfitrion->pizarra, s.Control.TextoPizarra) << "the box has it at once";
     EXPECT_TRUE(anfitrion->sucesos.empty());
 }
 
@@ -212,11 +218,11 @@ TEST_P(Embalses, ConLaPizarraApagadaCreceLaPlanillaYNoHayTabla)
                                  "\r\n 2    20    512    1536    0    1528         764   100.7461   229200"
                                  "\r\n 3    30    0    512   -8    520         260   100.2539   78000" +
                                  GetParam().cierra;
-    EXPECT_TRUE(MismoTexto(esperado, s.TextoPizarra));
+    EXPECT_TRUE(MismoTexto(esperado, s.Control.TextoPizarra));
     EXPECT_EQ(anfitrion->pizarra, "intacta");
     EXPECT_EQ(QMax(), 764);
-    EXPECT_EQ(s.VolEntra, 921600);
-    EXPECT_EQ(s.VolSale, 924000);
+    EXPECT_EQ(s.Resultados.VolEntra, 921600);
+    EXPECT_EQ(s.Resultados.VolSale, 924000);
 }
 
 // T of step 0 takes QSale(i, 0) before it is set: 2·614400/600 - 0 = 2048, not 0. Step 1: W = 2048 + 8, met
@@ -230,22 +236,23 @@ TEST_P(Embalses, PiscinaNiveladaEmpiezaConElCaudalDeBase)
     EXPECT_EQ(H(), (V{102, 101 + 1 / 256.0F}));
     EXPECT_EQ(S(), (V{614400, 308400}));
     EXPECT_EQ(QMax(), 2048) << "step 0 counts";
-    EXPECT_EQ(s.VolEntra, 4800);
-    EXPECT_EQ(s.VolSale, 600 * (2048 + 1028));
-    EXPECT_NE(s.TextoPizarra.find("\r\n 0    0    8    0    2048    0         2048   102   614400"
-                                  "\r\n 1    10    0    8    0    2056         1028   101.0039   308400"),
-              std::string::npos);
+    EXPECT_EQ(s.Resultados.VolEntra, 4800);
+    EXPECT_EQ(s.Resultados.VolSale, 600 * (2048 + 1028));
+    EXPECT_NE(
+        s.Control.TextoPizarra.find("\r\n 0    0    8    0    2048    0         2048   102   614400"
+                                    "\r\n 1    10    0    8    0    2056         1028   101.0039   308400"),
+        std::string::npos);
 }
 
 TEST_P(Embalses, PiscinaNiveladaRestaElCaudalQueElArregloTenia)
 {
     Pon("Piscina Nivelada", Pileta, 102);
     Dimensiona(1);
-    s.QSale(Fila(Nombre()), 0) = 2048;
+    s.Resultados.QSale(Fila(Nombre()), 0) = 2048;
     Propaga(Nombre());
     // T = 2048 - 2048: nothing is to be met, and the bracket closes on the bottom
     EXPECT_EQ(Sale(), (V{2048, 4}));
-    EXPECT_NE(s.TextoPizarra.find("\r\n 0    0    0    0    0    0         2048   102   614400"),
+    EXPECT_NE(s.Control.TextoPizarra.find("\r\n 0    0    0    0    0    0         2048   102   614400"),
               std::string::npos);
 }
 
@@ -274,13 +281,13 @@ TEST_P(Embalses, ObjetivoBajoElFondoConservaElUltimoPuntoMedio)
 
 TEST_P(Embalses, ObjetivoSobreElTechoSePierdeSinPreguntar)
 {
-    s.SalidaPizarra = true;
+    s.Control.SalidaPizarra = true;
     Pon("Piscina Nivelada", Pileta, 100);
     Corre({100000});
     EXPECT_EQ(Sale(), (V{0, 4092}));
     EXPECT_EQ(H(), (V{100, 103.99609375F}));
     EXPECT_TRUE(anfitrion->sucesos.empty());
-    EXPECT_NE(s.TextoPizarra.find("\r\nVolumen Escurrido. Entra = 6E+07 m3 ; Sale = 2455200 m3"),
+    EXPECT_NE(s.Control.TextoPizarra.find("\r\nVolumen Escurrido. Entra = 6E+07 m3 ; Sale = 2455200 m3"),
               std::string::npos);
 }
 
@@ -314,9 +321,9 @@ TEST_P(Embalses, TablaMasAngostaQueLaToleranciaNoSeBiseca)
     EXPECT_EQ(S(), (V{3000, 3000, 3000}));
     EXPECT_EQ(Sale(), (V{7, 7, 7}));
     // T = 2·3000/10/60 = 10; then 10 - 14 = -4 and -4 + 50 - 14 = 32; U is never worked out
-    EXPECT_NE(s.TextoPizarra.find("\r\n 0    0    0    0    10    0         7   100   3000"
-                                  "\r\n 1    10    0    0   -4    0         7   100   3000"
-                                  "\r\n 2    20    50    50    32    0         7   100   3000"),
+    EXPECT_NE(s.Control.TextoPizarra.find("\r\n 0    0    0    0    10    0         7   100   3000"
+                                          "\r\n 1    10    0    0   -4    0         7   100   3000"
+                                          "\r\n 2    20    50    50    32    0         7   100   3000"),
               std::string::npos);
 }
 
@@ -324,10 +331,10 @@ TEST_P(Embalses, TablaMasAngostaQueLaToleranciaNoSeBiseca)
 // 9586980/2^24 = 0.57142854. In one go it'd be 9586981/2^24 = 0.57142860.
 TEST_P(Embalses, LasDosDivisionesSeRedondeanUnaPorUna)
 {
-    s.PasoQ = 7;
+    s.Pasos.PasoQ = 7;
     Pon("Piscina Nivelada", {{100, 6, 120, 1}, {104, 6, 1000, 5}}, 100);
     Corre({0});
-    EXPECT_NE(s.TextoPizarra.find("\r\n 0    0    0    0    0.5714285    0         1   100   120"),
+    EXPECT_NE(s.Control.TextoPizarra.find("\r\n 0    0    0    0    0.5714285    0         1   100   120"),
               std::string::npos);
 }
 
@@ -371,7 +378,7 @@ TEST(EmbalsesRepresa, LaTablaDeCaudalesMasCortaPreguntaEnCadaPuntoMedioQueLaPasa
     red.PonUEH("u-1", "r-uno");
     red.PonRepresa("r-uno", "Piscina Nivelada", Pileta).HInicialEmb = 100;
     red.Dimensiona(1);
-    red.s.RepresaQH(1, 2) = 102;
+    red.s.Red.RepresaQH(1, 2) = 102;
     red.PonCaudales("u-1", {100000});
     red.Propaga("r-uno");
     // The ten midpoints of a target above all: 102, the last row, then nine that ask, for a Q of 0 each.
@@ -379,8 +386,8 @@ TEST(EmbalsesRepresa, LaTablaDeCaudalesMasCortaPreguntaEnCadaPuntoMedioQueLaPasa
     const Mensaje encima{std::string(t.primero) + "r-uno" + std::string(t.segundo), std::string(t.titulo),
                          Icono::Exclamacion};
     EXPECT_EQ(red.anfitrion->Preguntas(), std::vector<Mensaje>(9, encima));
-    EXPECT_EQ(red.s.QSale(2, 1), 0);
-    EXPECT_EQ(red.s.HRepresa(1, 1), 103.99609375F);
+    EXPECT_EQ(red.s.Resultados.QSale(2, 1), 0);
+    EXPECT_EQ(red.s.Resultados.HRepresa(1, 1), 103.99609375F);
 }
 
 TEST(EmbalsesRepresa, LaBiseccionDaMilVueltasAntesDeRendirse)
@@ -414,7 +421,7 @@ TEST(EmbalsesRepresa, LaBiseccionDaMilVueltasAntesDeRendirse)
 // even place, so that the last midpoint is 1/1024 m above it.
 TEST_P(Embalses, MuskingumAMano)
 {
-    s.SalidaPizarra = true;
+    s.Control.SalidaPizarra = true;
     Pon("Muskingum", Pileta, 103, 8);
     PonK(15);
     Corre({1024, 512, 0});
@@ -423,7 +430,7 @@ TEST_P(Embalses, MuskingumAMano)
     EXPECT_EQ(H(), (V{0, 101 + 1 / 1024.0F, 100 + 897 / 1024.0F, 100 + 577 / 1024.0F}));
     EXPECT_EQ(S(), (V{0, 307500, 269100, 173100}));
     EXPECT_EQ(QMax(), 1024);
-    EXPECT_EQ(s.HActual, 100 + 577 / 1024.0F);
+    EXPECT_EQ(s.Resultados.HActual, 100 + 577 / 1024.0F);
 
     const ClaseProbada& clase = GetParam();
     const std::string esperado = std::string("\r\n\r\nComponente: ") + clase.palabra + " " + clase.nombre +
@@ -435,7 +442,7 @@ TEST_P(Embalses, MuskingumAMano)
                                  "\r\nVolumen Escurrido. Entra = 921600 m3 ; Sale = 1497600 m3"
                                  "\r\nCaudal Máximo = 1024 m3/s "
                                  "\r\n";
-    EXPECT_TRUE(MismoTexto(esperado, s.TextoPizarra)) << "no detail sheet, and the first row is 0";
+    EXPECT_TRUE(MismoTexto(esperado, s.Control.TextoPizarra)) << "no detail sheet, and the first row is 0";
 }
 
 TEST_P(Embalses, MuskingumSumaLoQueElArregloTenia)
@@ -460,7 +467,7 @@ TEST_P(Embalses, MuskingumConKCero)
 
 TEST_P(Embalses, MuskingumConDenominadorCero)
 {
-    s.SalidaPizarra = true;
+    s.Control.SalidaPizarra = true;
     Pon("Muskingum", Pileta, 100);
     PonK(-5);
     Corre({1024, 512, 0});
@@ -468,7 +475,7 @@ TEST_P(Embalses, MuskingumConDenominadorCero)
               (std::vector<Mensaje>{{GetParam().muskingum, "Advertencia !", Icono::Exclamacion}}));
     EXPECT_EQ(Entra(), (V{0, 1024, 512, 0})) << "gathered before";
     EXPECT_EQ(Sale(), (V{0, 0, 0, 0}));
-    EXPECT_TRUE(s.TextoPizarra.empty());
+    EXPECT_TRUE(s.Control.TextoPizarra.empty());
 }
 
 // K = 1, dt = 10: 5/6 twice and -2/3. In 32 bits 0.83333331347 twice and -0.66666668653 add up to
@@ -509,8 +516,8 @@ TEST(EmbalsesRepresa, ElPesoDeMuskingumDeLaRepresaNoTieneEfecto)
     red.Dimensiona(3);
     red.PonCaudales("u-1", {1024, 512, 0});
     red.Propaga("r-uno");
-    EXPECT_EQ(red.s.QSale(2, 2), 896);
-    EXPECT_EQ(red.s.QSale(2, 3), 576);
+    EXPECT_EQ(red.s.Resultados.QSale(2, 2), 896);
+    EXPECT_EQ(red.s.Resultados.QSale(2, 3), 576);
 }
 
 // --- Runge-Kutta ---
@@ -523,8 +530,8 @@ TEST(EmbalsesRepresa, ElPesoDeMuskingumDeLaRepresaNoTieneEfecto)
 //   dH3 = (212.5 - 218.75)/100 = -0.0625 at 101.4375; dH = -0.046875 + 0.234375 = 0.1875.
 TEST_P(Embalses, RungeKuttaAMano)
 {
-    s.SalidaPizarra = true;
-    s.SActual = 4321;  // what an earlier routing left
+    s.Control.SalidaPizarra = true;
+    s.Resultados.SActual = 4321;  // what an earlier routing left
     Pon("Runge Kutta", Laguna, 100, 150);
     Corre({300, 168.75F});
     EXPECT_EQ(Entra(), (V{150, 300, 168.75F}));
@@ -532,12 +539,12 @@ TEST_P(Embalses, RungeKuttaAMano)
     EXPECT_EQ(H(), (V{100, 101.3125F, 101.5F}));
     EXPECT_EQ(S(), (V{4321, 78750, 90000}));
     EXPECT_EQ(QMax(), 225);
-    EXPECT_EQ(s.ACalc, 6);
-    EXPECT_EQ(s.HActual, 101.5F);
-    EXPECT_EQ(s.SActual, 90000);
-    EXPECT_EQ(s.IndPaso, 2);
-    EXPECT_EQ(s.VolEntra, 600 * (150 + 300 + 168.75F));
-    EXPECT_EQ(s.VolSale, 600 * (206.25F + 225));
+    EXPECT_EQ(s.Resultados.ACalc, 6);
+    EXPECT_EQ(s.Resultados.HActual, 101.5F);
+    EXPECT_EQ(s.Resultados.SActual, 90000);
+    EXPECT_EQ(s.Resultados.IndPaso, 2);
+    EXPECT_EQ(s.Resultados.VolEntra, 600 * (150 + 300 + 168.75F));
+    EXPECT_EQ(s.Resultados.VolSale, 600 * (206.25F + 225));
 
     const ClaseProbada& clase = GetParam();
     const std::string esperado =
@@ -553,8 +560,8 @@ TEST_P(Embalses, RungeKuttaAMano)
         "\r\nVolumen Escurrido. Entra = 371250 m3 ; Sale = 258750 m3"
         "\r\nCaudal Máximo = 225 m3/s "
         "\r\n";
-    EXPECT_TRUE(MismoTexto(esperado, s.TextoPizarra));
-    EXPECT_EQ(anfitrion->pizarra, s.TextoPizarra);
+    EXPECT_TRUE(MismoTexto(esperado, s.Control.TextoPizarra));
+    EXPECT_EQ(anfitrion->pizarra, s.Control.TextoPizarra);
     EXPECT_TRUE(anfitrion->sucesos.empty());
 }
 
@@ -562,11 +569,11 @@ TEST_P(Embalses, RungeKuttaNoTocaElCaudalDelPasoCero)
 {
     Pon("Runge Kutta", Laguna, 100);
     Dimensiona(1);
-    s.QSale(Fila(Nombre()), 0) = 17;
+    s.Resultados.QSale(Fila(Nombre()), 0) = 17;
     Propaga(Nombre());
     EXPECT_EQ(Sale(), (V{17, 0}));
     EXPECT_EQ(QMax(), 17);
-    EXPECT_EQ(s.VolSale, 600 * 17);
+    EXPECT_EQ(s.Resultados.VolSale, 600 * 17);
 }
 
 TEST_P(Embalses, RungeKuttaConAlturaInicialFueraDeLaTabla)
@@ -601,7 +608,7 @@ TEST_P(Embalses, SuperficieCeroPreguntaEnCadaEtapaYSiNoSube)
             esperadas.push_back(PreguntaArea(texto));
     EXPECT_EQ(anfitrion->Preguntas(), esperadas);
     EXPECT_EQ(H(), (V{100, 100, 100}));
-    EXPECT_EQ(s.ACalc, 0);
+    EXPECT_EQ(s.Resultados.ACalc, 0);
 }
 
 // Its name and height apart, the question of two steps is one; that of the second stage has other blanks.
@@ -623,7 +630,7 @@ TEST_P(Embalses, SuperficieNegativaPreguntaComoLaNula)
     Corre({30});
     EXPECT_EQ(anfitrion->Preguntas().size(), 3U);
     EXPECT_EQ(anfitrion->Preguntas()[0], PreguntaArea(GetParam().areaEn100));
-    EXPECT_EQ(s.ACalc, 0);
+    EXPECT_EQ(s.Resultados.ACalc, 0);
 }
 
 // 25/2048 m3/s in 10 min are 7.32421875 m3: 0.75 m on 2^-10 ha, which are 9.765625 m2. Nothing flows out.
@@ -645,7 +652,7 @@ TEST_P(Embalses, SuperficieCeroEnLaSegundaEtapaSolamente)
     Corre({150});
     EXPECT_EQ(anfitrion->Preguntas(), std::vector<Mensaje>{PreguntaArea(GetParam().areaEn100y5Segunda)});
     EXPECT_EQ(H(), (V{100, 101.5F}));
-    EXPECT_NE(s.TextoPizarra.find("\r\n 1    10    150    1.5    0    1.5         0   101.5   65000"),
+    EXPECT_NE(s.Control.TextoPizarra.find("\r\n 1    10    150    1.5    0    1.5         0   101.5   65000"),
               std::string::npos);
 }
 
@@ -674,8 +681,8 @@ TEST_P(Embalses, SinMetodoAvisaYNoPropaga)
         EXPECT_EQ(red.anfitrion->Avisos(),
                   (std::vector<Mensaje>{{GetParam().sinMetodo, "Advertencia !", Icono::Exclamacion}}))
             << metodo;
-        EXPECT_EQ(red.s.QEntra(2, 1), 0);
-        EXPECT_EQ(red.s.QSale(2, 1), 0);
+        EXPECT_EQ(red.s.Resultados.QEntra(2, 1), 0);
+        EXPECT_EQ(red.s.Resultados.QSale(2, 1), 0);
     }
 }
 
@@ -694,8 +701,8 @@ TEST_P(Embalses, UnoSinMetodoDetieneALosQueLeSiguenEnLaColeccion)
     EXPECT_EQ(anfitrion->Avisos(),
               (std::vector<Mensaje>{{GetParam().sinMetodo, "Advertencia !", Icono::Exclamacion}}))
         << "it names the first";
-    EXPECT_EQ(s.QSale(Fila(otro), 1), 0);
-    EXPECT_TRUE(s.TextoPizarra.empty());
+    EXPECT_EQ(s.Resultados.QSale(Fila(otro), 1), 0);
+    EXPECT_TRUE(s.Control.TextoPizarra.empty());
 }
 
 TEST_P(Embalses, UnoSinMetodoDetrasDelPropagadoAvisaDespues)
@@ -710,7 +717,7 @@ TEST_P(Embalses, UnoSinMetodoDetrasDelPropagadoAvisaDespues)
     Dimensiona(1);
     PonCaudales("u-1", {1024});
     Propaga(primero);
-    EXPECT_EQ(s.QSale(Fila(primero), 1), 516);
+    EXPECT_EQ(s.Resultados.QSale(Fila(primero), 1), 516);
     EXPECT_EQ(anfitrion->Avisos(),
               (std::vector<Mensaje>{{GetParam().sinMetodo, "Advertencia !", Icono::Exclamacion}}));
 }
@@ -742,7 +749,7 @@ TEST_P(Embalses, ElMaximoSoloSube)
     Pon("Piscina Nivelada", Pileta, 100);
     Dimensiona(1);
     PonCaudales("u-1", {1024});
-    s.QMax(Fila(Nombre()), 1) = 5000;
+    s.Resultados.QMax(Fila(Nombre()), 1) = 5000;
     Propaga(Nombre());
     EXPECT_EQ(QMax(), 5000);
 }
@@ -755,7 +762,7 @@ TEST_P(Embalses, LosVolumenesSonDe32BitsEnCadaPaso)
     V caudales(20, 0.0015F);
     caudales[0] = 32768;
     Corre(caudales);
-    EXPECT_EQ(s.VolEntra, 19660800.0F);
+    EXPECT_EQ(s.Resultados.VolEntra, 19660800.0F);
 }
 
 TEST(EmbalsesLago, ElLagoSinTablaCallaEnMuskingum)
@@ -766,9 +773,9 @@ TEST(EmbalsesLago, ElLagoSinTablaCallaEnMuskingum)
     red.Dimensiona(2);
     red.PonCaudales("u-1", {10, 20});
     red.Propaga("l-uno");
-    EXPECT_EQ(red.s.QSale(2, 1), 10);
-    EXPECT_EQ(red.s.HLago(1, 1), 0);
-    EXPECT_EQ(red.s.SLago(1, 1), 0);
+    EXPECT_EQ(red.s.Resultados.QSale(2, 1), 10);
+    EXPECT_EQ(red.s.Resultados.HLago(1, 1), 0);
+    EXPECT_EQ(red.s.Resultados.SLago(1, 1), 0);
     EXPECT_TRUE(red.anfitrion->sucesos.empty());
 }
 
@@ -786,9 +793,9 @@ TEST(EmbalsesLago, ElLagoSinTablaPreguntaEnLaPrimeraAlturaSobreCero)
         red.Propaga("l-uno");
         EXPECT_EQ(red.anfitrion->Preguntas(),
                   altura > 0 ? std::vector<Mensaje>{encima} : std::vector<Mensaje>{});
-        EXPECT_EQ(red.s.QSale(2, 1), 0);
-        EXPECT_EQ(red.s.QSale(2, 2), 0);
-        EXPECT_EQ(red.s.HLago(1, 2), altura);
+        EXPECT_EQ(red.s.Resultados.QSale(2, 1), 0);
+        EXPECT_EQ(red.s.Resultados.QSale(2, 2), 0);
+        EXPECT_EQ(red.s.Resultados.HLago(1, 2), altura);
     }
 }
 
@@ -802,11 +809,11 @@ TEST(EmbalsesLago, DespuesDeUnaRepresaMuestraElAlmacenamientoDeElla)
         red.Dimensiona(2);
         red.PonCaudales("u-1", {300, 168.75F});
         red.Propaga("r-uno");
-        const float ultimo = red.s.SRepresa(1, 2);
+        const float ultimo = red.s.Resultados.SRepresa(1, 2);
         EXPECT_GT(ultimo, 0);
         red.Propaga("l-uno");
-        EXPECT_EQ(red.s.SLago(1, 0), ultimo);
-        EXPECT_NE(red.s.SLago(1, 1), ultimo);
+        EXPECT_EQ(red.s.Resultados.SLago(1, 0), ultimo);
+        EXPECT_NE(red.s.Resultados.SLago(1, 1), ultimo);
     }
 }
 
@@ -832,16 +839,16 @@ V PoneAlAzar(RedAMano& red, std::uint32_t semilla, bool repetida, const std::str
     }
     const float base = tabla.front().H, tope = tabla.back().H;
     if (repetida) tabla.push_back(tabla.back());
-    red.s.PasoQ = static_cast<std::int16_t>(std::uniform_int_distribution<int>(1, 30)(motor));
+    red.s.Pasos.PasoQ = static_cast<std::int16_t>(std::uniform_int_distribution<int>(1, 30)(motor));
     red.PonUEH("u-1", nombre, entre(0, 5));
     if (lago) {
         auto& l = red.PonLago(nombre, metodo, tabla);
         l.HInicialEmb = entre(base, tope);
-        l.Lago_k_Musk = 1.5F * static_cast<float>(red.s.PasoQ);
+        l.Lago_k_Musk = 1.5F * static_cast<float>(red.s.Pasos.PasoQ);
     } else {
         auto& r = red.PonRepresa(nombre, metodo, tabla);
         r.HInicialEmb = entre(base, tope);
-        r.Represa_k_Musk = 1.5F * static_cast<float>(red.s.PasoQ);
+        r.Represa_k_Musk = 1.5F * static_cast<float>(red.s.Pasos.PasoQ);
         if (semilla % 3 == 0) {
             r.optTabla = false;
             r.chkFQ = {1, 1, 0, 0, 1, 0, 0, 0};
@@ -863,26 +870,29 @@ void CorreSolo(RedAMano& red, const V& caudales)
 {
     red.Dimensiona(static_cast<int>(caudales.size()));
     red.PonCaudales("u-1", caudales);
-    red.s.HActual = red.s.SActual = red.s.ACalc = 0;
-    red.s.TextoPizarra = {};
+    red.s.Resultados.HActual = red.s.Resultados.SActual = red.s.Resultados.ACalc = 0;
+    red.s.Control.TextoPizarra = {};
     red.anfitrion->sucesos.clear();
-    red.Propaga(red.s.Secuencia[2]);
+    red.Propaga(red.s.Resultados.Secuencia[2]);
 }
 
 testing::AssertionResult MismosBits(const RedAMano& una, const RedAMano& otra)
 {
     const model::Siro &a = una.s, &b = otra.s;
-    if (a.QSale != b.QSale || a.QEntra != b.QEntra || a.QMax != b.QMax)
+    if (a.Resultados.QSale != b.Resultados.QSale || a.Resultados.QEntra != b.Resultados.QEntra ||
+        a.Resultados.QMax != b.Resultados.QMax)
         return testing::AssertionFailure() << "flows differ";
-    if (a.HRepresa != b.HRepresa || a.HLago != b.HLago || a.SRepresa != b.SRepresa || a.SLago != b.SLago)
+    if (a.Resultados.HRepresa != b.Resultados.HRepresa || a.Resultados.HLago != b.Resultados.HLago ||
+        a.Resultados.SRepresa != b.Resultados.SRepresa || a.Resultados.SLago != b.Resultados.SLago)
         return testing::AssertionFailure() << "heights or storages differ";
-    if (a.VolEntra != b.VolEntra || a.VolSale != b.VolSale)
+    if (a.Resultados.VolEntra != b.Resultados.VolEntra || a.Resultados.VolSale != b.Resultados.VolSale)
         return testing::AssertionFailure() << "volumes differ";
-    if (a.HActual != b.HActual || a.SActual != b.SActual || a.ACalc != b.ACalc || a.IndPaso != b.IndPaso)
+    if (a.Resultados.HActual != b.Resultados.HActual || a.Resultados.SActual != b.Resultados.SActual ||
+        a.Resultados.ACalc != b.Resultados.ACalc || a.Resultados.IndPaso != b.Resultados.IndPaso)
         return testing::AssertionFailure() << "what is left for the next component differs";
     if (una.anfitrion->sucesos != otra.anfitrion->sucesos)
         return testing::AssertionFailure() << "the user was told other things";
-    return MismoTexto(b.TextoPizarra, a.TextoPizarra);
+    return MismoTexto(b.Control.TextoPizarra, a.Control.TextoPizarra);
 }
 
 RC_GTEST_PROP(EmbalsesPreparados, DanLosMismosBitsQueRenglonARenglon, (std::uint32_t semilla))
@@ -914,7 +924,7 @@ RC_GTEST_PROP(EmbalsesPreparados, LaMemoriaDeVariasCorridasNoCambiaNada, (std::u
         RC_ASSERT(MismosBits(varias, simple));
     }
     for (RedAMano* red : {&varias, &simple}) {
-        for (model::Represa& r : red->s.ColRepresas)
+        for (model::Represa& r : red->s.Red.ColRepresas)
             r.chkFQ.fill(0);
         CorreSolo(*red, caudales);
     }
@@ -935,7 +945,7 @@ TEST(EmbalsesPreparados, ElObjetivoIgualAUnPuntoMedio)
         red.PonRepresa("r-uno", "Piscina Nivelada", conocido ? Pileta : repetida).HInicialEmb = 100;
         CorreSolo(red, {1024, 8, 1528, 0});
         ASSERT_EQ(!red.memoria.piscinas.empty() && red.memoria.piscinas[2].sirve, conocido);
-        const V H(red.s.HRepresa.Fila(1), red.s.HRepresa.Fila(1) + 5);
+        const V H(red.s.Resultados.HRepresa.Fila(1), red.s.Resultados.HRepresa.Fila(1) + 5);
         EXPECT_EQ(H,
                   (V{100, 100 + 129 / 256.0F, 100 + 129 / 256.0F, 100 + 191 / 256.0F, 100 + 191 / 256.0F}));
     }
@@ -964,7 +974,7 @@ RC_GTEST_PROP(EmbalsesPreparados, LosPuntosMediosConocidosDanLosMismosBits, (std
     }
     RC_ASSERT(varias.memoria.piscinas[2].sirve);
     RC_ASSERT(MismosBits(varias, simple));
-    const V H(varias.s.HRepresa.Fila(1), varias.s.HRepresa.Fila(1) + 151);
+    const V H(varias.s.Resultados.HRepresa.Fila(1), varias.s.Resultados.HRepresa.Fila(1) + 151);
     const auto [menor, mayor] = std::minmax_element(H.begin(), H.end());
     RC_CLASSIFY(*menor == 100.00390625F, "reaches the bottom");
     RC_CLASSIFY(*mayor == 103.99609375F, "reaches the top");

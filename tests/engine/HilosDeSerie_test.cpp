@@ -19,11 +19,11 @@ class SerieAlAzar : public pruebas::RedDeUEHs {
   public:
     explicit SerieAlAzar(unsigned semilla) : azar(semilla)
     {
-        s.FormaPp = 2;
-        s.PasoQ = Uno<std::int16_t>({5, 10});
-        s.PasoPp = static_cast<std::int16_t>(s.PasoQ * Entero(1, 3));
-        s.DistriPp = static_cast<std::int16_t>(Entero(0, 4));
-        s.N0Dur = static_cast<float>(Entero(0, 300));
+        s.Tormenta.FormaPp = 2;
+        s.Pasos.PasoQ = Uno<std::int16_t>({5, 10});
+        s.Pasos.PasoPp = static_cast<std::int16_t>(s.Pasos.PasoQ * Entero(1, 3));
+        s.Tormenta.DistriPp = static_cast<std::int16_t>(Entero(0, 4));
+        s.Pasos.N0Dur = static_cast<float>(Entero(0, 300));
         const int cauces = Entero(1, 6);
         for (int i = 1; i <= cauces; ++i)
             PonTramo(i);
@@ -53,7 +53,7 @@ class SerieAlAzar : public pruebas::RedDeUEHs {
     }
     void PonUnidad(const std::string& destino)
     {
-        model::UEH& u = PonUEH("u-" + std::to_string(s.ColUEHs.Cuenta() + 1), destino);
+        model::UEH& u = PonUEH("u-" + std::to_string(s.Red.ColUEHs.Cuenta() + 1), destino);
         u.Area = Real(1, 300);
         u.LongitudMax = Real(50, 6000);
         u.KostiakovA = Real(0, 3);
@@ -65,26 +65,26 @@ class SerieAlAzar : public pruebas::RedDeUEHs {
     /// A lake too low for large storms now and then: a question at each height that leaves its table.
     void PonLaguna()
     {
-        s.NroLagos = 1;
-        s.ColLagos.Agrega({.NombreLAGO = "l-1",
-                           .numLAGO = 1,
-                           .Metodo = Uno<std::string>({"Piscina Nivelada", "Runge Kutta", "Muskingum"}),
-                           .Cauce_aa = "c-1",
-                           .Lago_k_Musk = 20,
-                           .HInicialEmb = 100});
+        s.Red.NroLagos = 1;
+        s.Red.ColLagos.Agrega({.NombreLAGO = "l-1",
+                               .numLAGO = 1,
+                               .Metodo = Uno<std::string>({"Piscina Nivelada", "Runge Kutta", "Muskingum"}),
+                               .Cauce_aa = "c-1",
+                               .Lago_k_Musk = 20,
+                               .HInicialEmb = 100});
         PonUnidad("l-1");
         const int filas = Entero(3, 12);
-        s.LagoFilas.Dimensiona(1);
-        s.LagoFilas(1) = static_cast<std::int16_t>(filas);
-        for (auto* m : {&s.LagoH, &s.LagoA, &s.LagoQ})
+        s.Red.LagoFilas.Dimensiona(1);
+        s.Red.LagoFilas(1) = static_cast<std::int16_t>(filas);
+        for (auto* m : {&s.Red.LagoH, &s.Red.LagoA, &s.Red.LagoQ})
             m->Dimensiona(1, 20);
-        s.LagoS.Dimensiona(1, 20);
+        s.Red.LagoS.Dimensiona(1, 20);
         for (int k = 1; k <= filas; ++k) {
             const auto d = static_cast<float>(k - 1);
-            s.LagoH(1, k) = 100 + d;
-            s.LagoA(1, k) = 10;
-            s.LagoS(1, k) = (k - 1) * 100000;
-            s.LagoQ(1, k) = 4 * d;
+            s.Red.LagoH(1, k) = 100 + d;
+            s.Red.LagoA(1, k) = 10;
+            s.Red.LagoS(1, k) = (k - 1) * 100000;
+            s.Red.LagoQ(1, k) = 4 * d;
         }
         model::GuardaTablaHSVQLago(s);
     }
@@ -101,22 +101,22 @@ class SerieAlAzar : public pruebas::RedDeUEHs {
     }
     void PonSerie(int n)
     {
-        s.NroSeriePDR = static_cast<std::int16_t>(n);
-        s.SerieP.Dimensiona(n);
-        s.SerieD.Dimensiona(n);
-        s.SerieR.Dimensiona(n);
+        s.Serie.NroSeriePDR = static_cast<std::int16_t>(n);
+        s.Serie.SerieP.Dimensiona(n);
+        s.Serie.SerieD.Dimensiona(n);
+        s.Serie.SerieR.Dimensiona(n);
         for (int i = 1; i <= n; ++i) {
-            s.SerieP(i) = static_cast<float>(Entero(1, 200));
-            s.SerieD(i) =
+            s.Serie.SerieP(i) = static_cast<float>(Entero(1, 200));
+            s.Serie.SerieD(i) =
                 Entero(0, 3) > 0
                     ? Uno(std::vector<std::int16_t>(model::Duraciones.begin(), model::Duraciones.end()))
                     : static_cast<std::int16_t>(Entero(1, 700));
-            s.SerieR(i) =
+            s.Serie.SerieR(i) =
                 Entero(0, 5) > 0
                     ? Uno(std::vector<std::int16_t>(model::Recurrencias.begin(), model::Recurrencias.end()))
                     : static_cast<std::int16_t>(Entero(1, 300));
         }
-        if (Entero(0, 9) == 0) s.SerieP(Entero(2, n)) = 0;  // stops the series there
+        if (Entero(0, 9) == 0) s.Serie.SerieP(Entero(2, n)) = 0;  // stops the series there
     }
     std::mt19937 azar;
 };
@@ -133,19 +133,19 @@ TEST_P(HilosDeSerie, UnoYDosHilosDanLosMismosBytes)
         EXPECT_TRUE(apoyo::MismoTexto(uno.disco.Bytes(tabla), dos.disco.Bytes(tabla)));
     }
     EXPECT_EQ(uno.anfitrion->sucesos, dos.anfitrion->sucesos);
-    EXPECT_EQ(uno.s.QMax, dos.s.QMax);
-    EXPECT_EQ(uno.s.EscUEH, dos.s.EscUEH);
-    EXPECT_EQ(uno.s.CoefEscUEH, dos.s.CoefEscUEH);
-    EXPECT_EQ(uno.s.EscTotal, dos.s.EscTotal);
-    EXPECT_EQ(uno.s.CoefEscTotal, dos.s.CoefEscTotal);
-    EXPECT_EQ(uno.s.QSale, dos.s.QSale);
-    EXPECT_EQ(uno.s.HLago, dos.s.HLago);
-    EXPECT_EQ(uno.s.PpAcum, dos.s.PpAcum);
-    EXPECT_EQ(uno.s.IntensidadPp, dos.s.IntensidadPp);
-    EXPECT_EQ(uno.s.VolEntra, dos.s.VolEntra);
-    EXPECT_EQ(uno.s.VolSale, dos.s.VolSale);
-    EXPECT_EQ(uno.s.IndSerie, dos.s.IndSerie);
-    EXPECT_TRUE(apoyo::MismoTexto(uno.s.TextoPizarra, dos.s.TextoPizarra));
+    EXPECT_EQ(uno.s.Resultados.QMax, dos.s.Resultados.QMax);
+    EXPECT_EQ(uno.s.Resultados.EscUEH, dos.s.Resultados.EscUEH);
+    EXPECT_EQ(uno.s.Resultados.CoefEscUEH, dos.s.Resultados.CoefEscUEH);
+    EXPECT_EQ(uno.s.Resultados.EscTotal, dos.s.Resultados.EscTotal);
+    EXPECT_EQ(uno.s.Resultados.CoefEscTotal, dos.s.Resultados.CoefEscTotal);
+    EXPECT_EQ(uno.s.Resultados.QSale, dos.s.Resultados.QSale);
+    EXPECT_EQ(uno.s.Resultados.HLago, dos.s.Resultados.HLago);
+    EXPECT_EQ(uno.s.Hietograma.PpAcum, dos.s.Hietograma.PpAcum);
+    EXPECT_EQ(uno.s.Hietograma.IntensidadPp, dos.s.Hietograma.IntensidadPp);
+    EXPECT_EQ(uno.s.Resultados.VolEntra, dos.s.Resultados.VolEntra);
+    EXPECT_EQ(uno.s.Resultados.VolSale, dos.s.Resultados.VolSale);
+    EXPECT_EQ(uno.s.Serie.IndSerie, dos.s.Serie.IndSerie);
+    EXPECT_TRUE(apoyo::MismoTexto(uno.s.Control.TextoPizarra, dos.s.Control.TextoPizarra));
 }
 
 INSTANTIATE_TEST_SUITE_P(Proyectos, HilosDeSerie, testing::Range(1U, 201U));

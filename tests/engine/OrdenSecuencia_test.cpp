@@ -21,15 +21,18 @@ class Orden : public testing::Test {
     Orden() { s.Anfitrion = anfitrion.Puerta(); }
     void Cauce(const std::string& nombre, const std::string& destino)
     {
-        s.ColCauces.Agrega({.NombreCauce = nombre, .Cauce_aa = destino});
+        s.Red.ColCauces.Agrega({.NombreCauce = nombre, .Cauce_aa = destino});
     }
     bool Ordena()
     {
-        s.NroUEHs = static_cast<std::int16_t>(s.ColUEHs.Cuenta());
+        s.Red.NroUEHs = static_cast<std::int16_t>(s.Red.ColUEHs.Cuenta());
         RehaceSecuencia(s);
         return OrdenSecuencia(s);
     }
-    [[nodiscard]] Nombres Secuencia() const { return {s.Secuencia.begin() + 1, s.Secuencia.end()}; }
+    [[nodiscard]] Nombres Secuencia() const
+    {
+        return {s.Resultados.Secuencia.begin() + 1, s.Resultados.Secuencia.end()};
+    }
 
     Siro s;
     apoyo::AnfitrionPrueba anfitrion;
@@ -37,8 +40,8 @@ class Orden : public testing::Test {
 
 TEST_F(Orden, SoloUEHsNoSeTocan)
 {
-    s.ColUEHs.Agrega({.NombreUEH = "u-2", .Cauce_aa = "u-1"});
-    s.ColUEHs.Agrega({.NombreUEH = "u-1"});
+    s.Red.ColUEHs.Agrega({.NombreUEH = "u-2", .Cauce_aa = "u-1"});
+    s.Red.ColUEHs.Agrega({.NombreUEH = "u-1"});
     EXPECT_TRUE(Ordena());
     EXPECT_EQ(Secuencia(), (Nombres{"u-2", "u-1"}));
 }
@@ -76,15 +79,15 @@ TEST_F(Orden, LagosYRepresasEntranEnElOrden)
 {
     Cauce("c-1", "0");
     Cauce("c-2", "l-1");
-    s.ColLagos.Agrega({.NombreLAGO = "l-1", .Cauce_aa = "c-1"});
-    s.ColRepresas.Agrega({.NombreRepresa = "r-1", .Cauce_aa = "c-2"});
+    s.Red.ColLagos.Agrega({.NombreLAGO = "l-1", .Cauce_aa = "c-1"});
+    s.Red.ColRepresas.Agrega({.NombreRepresa = "r-1", .Cauce_aa = "c-2"});
     EXPECT_TRUE(Ordena());
     EXPECT_EQ(Secuencia(), (Nombres{"r-1", "c-2", "l-1", "c-1"}));
 }
 
 TEST_F(Orden, UnDestinoQueEsUEHNoCuenta)
 {
-    s.ColUEHs.Agrega({.NombreUEH = "u-1"});
+    s.Red.ColUEHs.Agrega({.NombreUEH = "u-1"});
     Cauce("c-1", "0");
     Cauce("c-2", "u-1");
     EXPECT_TRUE(Ordena());
@@ -122,16 +125,16 @@ TEST_F(Orden, UnCicloSeDetieneYSeInforma)
     Cauce("c-1", "c-2");
     Cauce("c-2", "c-1");
     Cauce("c-3", "0");
-    s.SalidaPizarra = true;
+    s.Control.SalidaPizarra = true;
     EXPECT_FALSE(Ordena());
     EXPECT_EQ(anfitrion->pizarra, "");
 }
 
 TEST_F(Orden, ListaDeLaPizarraALaLetra)
 {
-    s.ColUEHs.Agrega({.NombreUEH = "u-1", .Cauce_aa = "c-1"});
+    s.Red.ColUEHs.Agrega({.NombreUEH = "u-1", .Cauce_aa = "c-1"});
     Cauce("c-1", "0");
-    s.SalidaPizarra = true;
+    s.Control.SalidaPizarra = true;
     EXPECT_TRUE(Ordena());
     EXPECT_TRUE(
         apoyo::MismoTexto("\r\n\r\nComponentes y Secuencia de cálculo\r\nNroUEH   Nombre UEH"

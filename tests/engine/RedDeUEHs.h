@@ -21,42 +21,42 @@ class RedDeUEHs {
     {
         s.Anfitrion = anfitrion.Puerta();
         s.Disco = disco.Puerta();
-        s.DirTrabajo = "/trabajo";
-        s.DirProyecto = "/proyectos";
-        s.NombreProyecto = "Prueba";
+        s.Proyecto.DirTrabajo = "/trabajo";
+        s.Proyecto.DirProyecto = "/proyectos";
+        s.Proyecto.NombreProyecto = "Prueba";
         disco.PonDirectorio("/trabajo");
         disco.PonDirectorio("/proyectos");
-        s.PasoPp = s.PasoQ = 10;
-        s.PpTormenta = 60;
-        s.DurTormenta = 30;
-        s.N0Dur = 20;
+        s.Pasos.PasoPp = s.Pasos.PasoQ = 10;
+        s.Tormenta.PpTormenta = 60;
+        s.Tormenta.DurTormenta = 30;
+        s.Pasos.N0Dur = 20;
     }
     model::UEH& PonUEH(const std::string& nombre, const std::string& destino)
     {
-        s.NroUEHs = static_cast<std::int16_t>(s.ColUEHs.Cuenta() + 1);
-        return s.ColUEHs.Agrega({.NombreUEH = nombre,
-                                 .Area = 6,
-                                 .LongitudMax = 600,
-                                 .VelMedia = 1,
-                                 .Metodo = "Directo",
-                                 .numUEH = s.NroUEHs,
-                                 .Cauce_aa = destino});
+        s.Red.NroUEHs = static_cast<std::int16_t>(s.Red.ColUEHs.Cuenta() + 1);
+        return s.Red.ColUEHs.Agrega({.NombreUEH = nombre,
+                                     .Area = 6,
+                                     .LongitudMax = 600,
+                                     .VelMedia = 1,
+                                     .Metodo = "Directo",
+                                     .numUEH = s.Red.NroUEHs,
+                                     .Cauce_aa = destino});
     }
     /// Direct, 600 m at 1 m/s: a delay of one step of 10 min.
     model::Cauce& PonCauce(const std::string& nombre, const std::string& destino)
     {
-        s.NroCauces = static_cast<std::int16_t>(s.ColCauces.Cuenta() + 1);
-        return s.ColCauces.Agrega({.numCauce = s.NroCauces,
-                                   .NombreCauce = nombre,
-                                   .Cauce_aa = destino,
-                                   .LongCauce = 600,
-                                   .VelMediaCauce = 1,
-                                   .optDirMusk = true});
+        s.Red.NroCauces = static_cast<std::int16_t>(s.Red.ColCauces.Cuenta() + 1);
+        return s.Red.ColCauces.Agrega({.numCauce = s.Red.NroCauces,
+                                       .NombreCauce = nombre,
+                                       .Cauce_aa = destino,
+                                       .LongCauce = 600,
+                                       .VelMediaCauce = 1,
+                                       .optDirMusk = true});
     }
     /// Writes the project that is in memory to the disk, with all recurrences and durations selected.
     void GuardaProyecto()
     {
-        s.frmConfigura.Dir1 = s.DirProyecto;
+        s.frmConfigura.Dir1 = s.Proyecto.DirProyecto;
         s.frmConfigura.CheckR.fill(1);
         s.frmConfigura.CheckD.fill(1);
         model::cmdAplicar(s);

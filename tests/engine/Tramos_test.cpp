@@ -29,8 +29,8 @@ class Tramos : public testing::Test, public pruebas::RedDeUEHs {
     [[nodiscard]] std::vector<float> Salida(int fila) const
     {
         std::vector<float> q;
-        for (int p = 1; p <= s.NroPasosQ; ++p)
-            q.push_back(s.QSale(fila, p));
+        for (int p = 1; p <= s.Resultados.NroPasosQ; ++p)
+            q.push_back(s.Resultados.QSale(fila, p));
         return q;
     }
     /// One UEH into one Muskingum reach.
@@ -62,9 +62,9 @@ TEST_F(Tramos, DirectaDesplazaYEmpiezaConElCaudalInicialDeSusUEHs)
     PonCauce("c-1", "0").LongCauce = 1200;   // 20 min: two steps
     EXPECT_TRUE(Corre());
     EXPECT_EQ(Salida(2), (std::vector<float>{0.5F, 0.5F, Caudal, Caudal, Caudal}));
-    EXPECT_EQ(s.QSale.TopeColumna(), 5 + 1 + 2);
-    EXPECT_EQ(s.NroPasosQ, 5);
-    EXPECT_EQ(s.QMax(2, 1), Caudal);
+    EXPECT_EQ(s.Resultados.QSale.TopeColumna(), 5 + 1 + 2);
+    EXPECT_EQ(s.Resultados.NroPasosQ, 5);
+    EXPECT_EQ(s.Resultados.QMax(2, 1), Caudal);
 }
 
 TEST_F(Tramos, AlimentadoSoloPorCaucesEmpiezaEnCero)
@@ -110,22 +110,22 @@ TEST_F(Tramos, DemoraMasLargaQueLaCorridaPierdeTodaLaCrecida)
     PonCauce("c-1", "0").LongCauce = 6000;
     EXPECT_TRUE(Corre());
     EXPECT_EQ(Salida(2), (std::vector<float>(5, 0)));
-    EXPECT_NEAR(s.VolEntra, 3600, 0.01);
-    EXPECT_EQ(s.VolSale, 0);
-    EXPECT_EQ(s.QSale(2, 11), Caudal);  // it stands in the array, and nobody reads it
+    EXPECT_NEAR(s.Resultados.VolEntra, 3600, 0.01);
+    EXPECT_EQ(s.Resultados.VolSale, 0);
+    EXPECT_EQ(s.Resultados.QSale(2, 11), Caudal);  // it stands in the array, and nobody reads it
 }
 
 TEST_F(Tramos, SinAfluentesTodoEsCero)
 {
     // The validation stops such a network; the routine by itself goes on.
     PonCauce("c-1", "0");
-    s.NroComponentes = 1;
-    s.Secuencia = {"", "c-1"};
-    s.NroPasosQ = 4;
-    s.IndSerie = 1;
-    s.QSale.Dimensiona(1, 5);
-    s.QEntra.Dimensiona(1, 2, 5);
-    s.QMax.Dimensiona(1, 1);
+    s.Resultados.NroComponentes = 1;
+    s.Resultados.Secuencia = {"", "c-1"};
+    s.Resultados.NroPasosQ = 4;
+    s.Serie.IndSerie = 1;
+    s.Resultados.QSale.Dimensiona(1, 5);
+    s.Resultados.QEntra.Dimensiona(1, 2, 5);
+    s.Resultados.QMax.Dimensiona(1, 1);
     Memoria memoria;
     Corrida c(s, memoria);
     const Aportes afluentes(s);
@@ -181,7 +181,7 @@ TEST_F(Tramos, MuskingumQueDesbordaSeInformaYLaCorridaSigue)
 {
     // K·(1 - x) just above -Δ/2 makes a tiny denominator: flows grow without bound and leave the type.
     PonMuskingum(10, 1.4375F);  // -4.375 + 5 = 0.625: C2 = -9.375/0.625 = -15
-    s.N0Dur = 600;
+    s.Pasos.N0Dur = 600;
     EXPECT_TRUE(Corre());
     ASSERT_FALSE(anfitrion->Avisos().empty());
     EXPECT_EQ(anfitrion->Avisos()[0].texto, "Error Nro. 6 ,DesbordamientoVerifique");
@@ -212,10 +212,10 @@ TEST_F(Tramos, ElRechazoDejaLosComponentesHechosYElTextoHastaElUltimo)
     PonUEH("u-1", "c-1");
     PonCauce("c-1", "c-2");
     PonCauce("c-2", "0").VelMediaCauce = 0;
-    s.SalidaPizarra = true;
+    s.Control.SalidaPizarra = true;
     EXPECT_FALSE(Corre());
-    EXPECT_EQ(s.QMax(2, 1), Caudal);
-    EXPECT_EQ(s.QMax(3, 1), 0);
+    EXPECT_EQ(s.Resultados.QMax(2, 1), Caudal);
+    EXPECT_EQ(s.Resultados.QMax(3, 1), 0);
     EXPECT_NE(anfitrion->pizarra.find("Tramo de Cauce c-1"), std::string::npos);
     EXPECT_EQ(anfitrion->pizarra.find("Tramo de Cauce c-2"), std::string::npos);
 }
@@ -234,7 +234,7 @@ TEST_F(Tramos, UnNombreSinPrefijoNoSeCalcula)
     PonUEH("u-1", "tramo");
     PonCauce("tramo", "0");
     EXPECT_TRUE(Corre());
-    EXPECT_EQ(s.Secuencia[2], "tramo");
+    EXPECT_EQ(s.Resultados.Secuencia[2], "tramo");
     EXPECT_EQ(Salida(2), (std::vector<float>(5, 0)));
 }
 
@@ -243,9 +243,9 @@ TEST_F(Tramos, ElBloqueDelComienzoMuestraLoDeLaCorridaAnterior)
     PonUEH("u-1", "c-1");
     PonCauce("c-1", "0");
     EXPECT_TRUE(Corre());
-    s.SalidaPizarra = true;
+    s.Control.SalidaPizarra = true;
     EXPECT_TRUE(Corre());
-    EXPECT_NE(s.TextoPizarra.find(
+    EXPECT_NE(s.Control.TextoPizarra.find(
                   "    (Cauces, Lagos y Represas)\r\nVolumen Escurrido. Entra = 3600 m3 ; Sale = 3600 "
                   "m3\r\nCaudal Máximo = 0 m3/s \r\n"),
               std::string::npos);
@@ -256,11 +256,11 @@ TEST_F(Tramos, DosCaucesDelMismoNombreSePropaganDosVeces)
     PonUEH("u-1", "c-1");
     PonCauce("c-1", "0").LongCauce = 240;
     PonCauce("c-1", "0").LongCauce = 240;
-    s.AvisoDescargasVisto = true;
+    s.Control.AvisoDescargasVisto = true;
     EXPECT_TRUE(Corre());
     // Each row of that name walks both: the inflow is gathered twice, and the outflow adds up 1 + 2 times.
-    EXPECT_FLOAT_EQ(s.QEntra(2, 1), 2 * Caudal);
-    EXPECT_FLOAT_EQ(s.QSale(2, 1), 3 * Caudal);
+    EXPECT_FLOAT_EQ(s.Resultados.QEntra(2, 1), 2 * Caudal);
+    EXPECT_FLOAT_EQ(s.Resultados.QSale(2, 1), 3 * Caudal);
 }
 
 }  // namespace

@@ -32,8 +32,8 @@ class Proceso : public testing::Test, public pruebas::RedDeUEHs {
     [[nodiscard]] std::vector<float> Salida(int fila) const
     {
         std::vector<float> q;
-        for (int p = 1; p <= s.NroPasosQ; ++p)
-            q.push_back(s.QSale(fila, p));
+        for (int p = 1; p <= s.Resultados.NroPasosQ; ++p)
+            q.push_back(s.Resultados.QSale(fila, p));
         return q;
     }
     void EsperaRechazo(const std::string& texto)
@@ -56,15 +56,15 @@ TEST_F(Proceso, UnaUEHAMano)
 {
     PonUEH("u-1", "");
     EXPECT_TRUE(Corre());
-    EXPECT_EQ(s.NroPasosQ, 5);  // (30 + 20)/10
+    EXPECT_EQ(s.Resultados.NroPasosQ, 5);  // (30 + 20)/10
     EXPECT_EQ(Salida(1), (std::vector<float>{Caudal, Caudal, Caudal, 0, 0}));
-    EXPECT_EQ(s.QMax(1, 1), Caudal);
-    EXPECT_NEAR(s.VolUEH(1), 3600.007, 0.01);  // 3·600·2.000004
-    EXPECT_EQ(s.EscUEH(1, 1), 3600);
-    EXPECT_NEAR(s.CoefEscUEH(1, 1), 100.0002, 1e-4);
-    EXPECT_EQ(s.EscTotal(1), 3600);
-    EXPECT_EQ(s.CoefEscTotal(1), 100);  // of the whole cubic metres
-    EXPECT_EQ(s.PpUEH(1), 60);
+    EXPECT_EQ(s.Resultados.QMax(1, 1), Caudal);
+    EXPECT_NEAR(s.Resultados.VolUEH(1), 3600.007, 0.01);  // 3·600·2.000004
+    EXPECT_EQ(s.Resultados.EscUEH(1, 1), 3600);
+    EXPECT_NEAR(s.Resultados.CoefEscUEH(1, 1), 100.0002, 1e-4);
+    EXPECT_EQ(s.Resultados.EscTotal(1), 3600);
+    EXPECT_EQ(s.Resultados.CoefEscTotal(1), 100);  // of the whole cubic metres
+    EXPECT_EQ(s.Tormenta.PpUEH(1), 60);
     EXPECT_TRUE(anfitrion->sucesos.empty());
 }
 
@@ -73,7 +73,7 @@ TEST_F(Proceso, ElTextoDeUnaUEHYUnCauceALaLetra)
     PonUEH("u-1", "c-1");
     PonCauce("c-1", "0");
     ConstruyeHietograma(s);  // with the Slate off, so that it writes nothing of its own
-    s.SalidaPizarra = true;
+    s.Control.SalidaPizarra = true;
     anfitrion->pizarra = "ya estaba";
     EXPECT_TRUE(ProcesoPrincipal(s, false));
     const std::string doce(12, ' ');
@@ -120,7 +120,7 @@ TEST_F(Proceso, ElTextoDeUnaUEHYUnCauceALaLetra)
         "\r\nVolumen Escurrido. Entra = 3600 m3 ; Sale = 3600 m3"
         "\r\nCaudal Máximo = 2 m3/s "
         "\r\n";
-    EXPECT_TRUE(apoyo::MismoTexto(esperado, s.TextoPizarra));
+    EXPECT_TRUE(apoyo::MismoTexto(esperado, s.Control.TextoPizarra));
     EXPECT_TRUE(apoyo::MismoTexto(esperado, anfitrion->pizarra));
 }
 
@@ -130,8 +130,8 @@ TEST_F(Proceso, SinRetencionTodaLaLluviaLlegaALaInfiltracion)
     u.KostiakovA = 0.5F;  // b = 1: 0.5 mm/min whatever the time, 5 mm a step
     u.KostiakovB = 1;
     EXPECT_TRUE(Corre());
-    EXPECT_EQ(s.PasosInfiltra(1), 4);  // the clock goes on in each step with rain
-    EXPECT_NEAR(s.QSale(1, 1), 15 / 10.0 * 0.166667 * 6, 1e-6);
+    EXPECT_EQ(s.Resultados.PasosInfiltra(1), 4);  // the clock goes on in each step with rain
+    EXPECT_NEAR(s.Resultados.QSale(1, 1), 15 / 10.0 * 0.166667 * 6, 1e-6);
 }
 
 TEST_F(Proceso, LaRetencionQueElPasoJustoLlenaDejaElRelojQuieto)
@@ -141,9 +141,9 @@ TEST_F(Proceso, LaRetencionQueElPasoJustoLlenaDejaElRelojQuieto)
     u.KostiakovA = 0.5F;
     u.KostiakovB = 1;
     EXPECT_TRUE(Corre());
-    EXPECT_EQ(s.PasosInfiltra(1), 3);
-    EXPECT_EQ(s.QSale(1, 1), 0);
-    EXPECT_NEAR(s.QSale(1, 2), 1.5 * 0.166667 * 6, 1e-6);
+    EXPECT_EQ(s.Resultados.PasosInfiltra(1), 3);
+    EXPECT_EQ(s.Resultados.QSale(1, 1), 0);
+    EXPECT_NEAR(s.Resultados.QSale(1, 2), 1.5 * 0.166667 * 6, 1e-6);
 }
 
 TEST_F(Proceso, LaRetencionSeLlenaEnVariosPasos)
@@ -163,7 +163,7 @@ TEST_F(Proceso, KostiakovALaMano)
     // I of step n = 2·(sqrt(10n + 6) - sqrt(10n - 4))
     for (int n = 1; n <= 3; ++n) {
         const double I = 2 * (std::sqrt(10 * n + 6.0) - std::sqrt(10 * n - 4.0));
-        EXPECT_NEAR(s.QSale(1, n), (20 - I) / 10 * 0.166667 * 6, 1e-5) << n;
+        EXPECT_NEAR(s.Resultados.QSale(1, n), (20 - I) / 10 * 0.166667 * 6, 1e-5) << n;
     }
 }
 
@@ -178,11 +178,11 @@ TEST_F(Proceso, SinExcesoSoloHayRecesion)
     double base = 0;
     for (int p = 1; p <= 5; ++p) {
         const double Qb = 2 * std::pow(2.7183, -p * 10 / 60.0);
-        EXPECT_NEAR(s.QSale(1, p), Qb, 1e-6) << p;
+        EXPECT_NEAR(s.Resultados.QSale(1, p), Qb, 1e-6) << p;
         base = std::nearbyint(base + Qb * 600);
     }
-    EXPECT_EQ(s.VolBaseUEH(1), base);
-    EXPECT_EQ(s.EscUEH(1, 1), std::nearbyint(s.VolUEH(1) - base));
+    EXPECT_EQ(s.Resultados.VolBaseUEH(1), base);
+    EXPECT_EQ(s.Resultados.EscUEH(1, 1), std::nearbyint(s.Resultados.VolUEH(1) - base));
 }
 
 // 0.125 m3/s are 7.5 m3 a minute, ties all: 8, 15.5 -> 16, 23.5 -> 24, 31.5 -> 32. The constant takes 1.7e-10
@@ -193,31 +193,31 @@ TEST_F(Proceso, ElVolumenDeBaseSeRedondeaConCadaAporte)
 {
     PonUEH("u-1", "").Q0Recesion = 0.125F;
     PonUEH("u-2", "").Q0Recesion = 1 / 60.0F;
-    for (model::UEH& u : s.ColUEHs) {
+    for (model::UEH& u : s.Red.ColUEHs) {
         u.KRecesion = 1e8F;
         u.KostiakovA = 1000;  // no excess
         u.KostiakovB = 1;
     }
-    s.PasoPp = s.PasoQ = 1;
-    s.DurTormenta = 2;
-    s.N0Dur = 2;
-    s.AvisoDescargasVisto = true;
-    s.SalidaPizarra = true;
+    s.Pasos.PasoPp = s.Pasos.PasoQ = 1;
+    s.Tormenta.DurTormenta = 2;
+    s.Pasos.N0Dur = 2;
+    s.Control.AvisoDescargasVisto = true;
+    s.Control.SalidaPizarra = true;
     EXPECT_TRUE(Corre());
-    EXPECT_EQ(s.NroPasosQ, 4);
-    EXPECT_EQ(s.VolBaseUEH(1), 32);
-    EXPECT_EQ(s.VolBaseUEH(2), 4);
-    EXPECT_NE(s.TextoPizarra.find("Volumen de Base          = 33 m3"), std::string::npos);
+    EXPECT_EQ(s.Resultados.NroPasosQ, 4);
+    EXPECT_EQ(s.Resultados.VolBaseUEH(1), 32);
+    EXPECT_EQ(s.Resultados.VolBaseUEH(2), 4);
+    EXPECT_NE(s.Control.TextoPizarra.find("Volumen de Base          = 33 m3"), std::string::npos);
 }
 
 TEST_F(Proceso, SinQ0OSinKNoHayRecesionNiAviso)
 {
     PonUEH("u-1", "").Q0Recesion = 2;
     PonUEH("u-2", "").KRecesion = 2;
-    s.AvisoDescargasVisto = true;
+    s.Control.AvisoDescargasVisto = true;
     EXPECT_TRUE(Corre());
-    EXPECT_EQ(s.QSale(1, 5), 0);
-    EXPECT_EQ(s.QSale(2, 5), 0);
+    EXPECT_EQ(s.Resultados.QSale(1, 5), 0);
+    EXPECT_EQ(s.Resultados.QSale(2, 5), 0);
     EXPECT_TRUE(anfitrion->sucesos.empty());
 }
 
@@ -231,18 +231,18 @@ TEST_F(Proceso, UnaLaderaDeTiempoCeroConPasosIgualesNoDaCrecida)
 TEST_F(Proceso, UnaLaderaDeTiempoCeroConPasosFinosPierdeElUltimoPunto)
 {
     PonUEH("u-1", "").LongitudMax = 29;
-    s.PasoQ = 5;
+    s.Pasos.PasoQ = 5;
     EXPECT_TRUE(Corre());
-    EXPECT_EQ(s.NroPasosQ, 10);
+    EXPECT_EQ(s.Resultados.NroPasosQ, 10);
     EXPECT_EQ(Salida(1), (std::vector<float>{Caudal, 0, Caudal, 0, Caudal, 0, 0, 0, 0, 0}));
 }
 
 TEST_F(Proceso, ElTrapecioSubeSeQuedaYBaja)
 {
     PonUEH("u-1", "").LongitudMax = 1800;  // T = 30 min, steps of 10: a third of the flow more at each point
-    s.DurTormenta = 10;
-    s.PpTormenta = 20;
-    s.N0Dur = 50;
+    s.Tormenta.DurTormenta = 10;
+    s.Tormenta.PpTormenta = 20;
+    s.Pasos.N0Dur = 50;
     EXPECT_TRUE(Corre());
     // rising c/3·(1, 2), then the flow less the falling c/3·(t - 10)/10
     EsperaCaudales(1, {Caudal / 3, Caudal / 3, Caudal / 3, 0, 0, 0});
@@ -252,16 +252,16 @@ TEST_F(Proceso, UnaLaderaLargaAlargaLaCorridaYOtraLaAlargaMas)
 {
     PonUEH("u-1", "").LongitudMax = 6000;   // T = 100 min: points up to 100 min after a step's start
     PonUEH("u-2", "").LongitudMax = 12000;  // T = 200 min
-    s.AvisoDescargasVisto = true;
+    s.Control.AvisoDescargasVisto = true;
     EXPECT_TRUE(Corre());
     // u-2 has 20 points a block. Block 1 takes the run from 5 by twos to 19, block 2 ends at step 21 and
     // makes it the last one, block 3 ends at 22, which is one beyond and stands there.
-    EXPECT_EQ(s.NroPasosQ, 21);
-    EXPECT_EQ(s.QSale.TopeColumna(), 22);
-    EXPECT_EQ(s.QEntra.TopeColumna(), 22);
+    EXPECT_EQ(s.Resultados.NroPasosQ, 21);
+    EXPECT_EQ(s.Resultados.QSale.TopeColumna(), 22);
+    EXPECT_EQ(s.Resultados.QEntra.TopeColumna(), 22);
     double volumen = 0;
     for (int p = 1; p <= 22; ++p)
-        volumen += s.QSale(2, p) * 600;
+        volumen += s.Resultados.QSale(2, p) * 600;
     EXPECT_NEAR(volumen, 3600, 0.5);  // nothing of the tail is lost
 }
 
@@ -269,24 +269,24 @@ TEST_F(Proceso, ElUltimoPuntoPuedeQuedarFueraDelVolumen)
 {
     // One block of rain, T = 30 min: points at steps 1 to 3; the run has 2 steps, and step 3 doesn't grow it.
     PonUEH("u-1", "").LongitudMax = 1800;
-    s.DurTormenta = 10;
-    s.PpTormenta = 20;
-    s.N0Dur = 10;
+    s.Tormenta.DurTormenta = 10;
+    s.Tormenta.PpTormenta = 20;
+    s.Pasos.N0Dur = 10;
     for (const bool pizarra : {false, true}) {
-        s.SalidaPizarra = pizarra;
+        s.Control.SalidaPizarra = pizarra;
         EXPECT_TRUE(Corre());
-        EXPECT_EQ(s.NroPasosQ, 2);
-        EXPECT_NEAR(s.QSale(1, 3), Caudal / 3, 1e-6);
-        EXPECT_NEAR(s.VolUEH(1), 2 * 600 * Caudal / 3, 0.01);
+        EXPECT_EQ(s.Resultados.NroPasosQ, 2);
+        EXPECT_NEAR(s.Resultados.QSale(1, 3), Caudal / 3, 1e-6);
+        EXPECT_NEAR(s.Resultados.VolUEH(1), 2 * 600 * Caudal / 3, 0.01);
     }
 }
 
 TEST_F(Proceso, SinTiempoAgregadoSePierdeLaLluviaDelUltimoPaso)
 {
     PonUEH("u-1", "");
-    s.N0Dur = 0;
+    s.Pasos.N0Dur = 0;
     EXPECT_TRUE(Corre());
-    EXPECT_EQ(s.PpUEH(1), 40);  // steps 1 and 2 of three
+    EXPECT_EQ(s.Tormenta.PpUEH(1), 40);  // steps 1 and 2 of three
     EsperaCaudales(1, {Caudal, Caudal, 0});
 }
 
@@ -298,44 +298,44 @@ TEST_F(Proceso, LosVolumenesGrandesPierdenSusUltimasUnidades)
     float suma = 0;
     for (int p = 1; p <= 3; ++p)
         suma = static_cast<float>(suma + double{10} * 20000.04F * 60);
-    EXPECT_EQ(s.VolUEH(1), suma);
+    EXPECT_EQ(s.Resultados.VolUEH(1), suma);
     EXPECT_GT(paso, 0);
-    EXPECT_EQ(std::fmod(s.VolUEH(1), 4), 0);  // 32-bit floats above 2^25 go by fours
+    EXPECT_EQ(std::fmod(s.Resultados.VolUEH(1), 4), 0);  // 32-bit floats above 2^25 go by fours
 }
 
 TEST_F(Proceso, EscorrentiaSinLluviaDivideporCero)
 {
     model::UEH& u = PonUEH("u-1", "");
     u.RetensionZ = -5;  // gives water where no rain falls
-    s.FormaPp = 3;
-    s.PpUEH(1) = 0;
+    s.Tormenta.FormaPp = 3;
+    s.Tormenta.PpUEH(1) = 0;
     EXPECT_TRUE(Corre());
     EXPECT_EQ(anfitrion->Avisos(),
               (std::vector<Mensaje>{{"Error Nro. 11 ,División por ceroVerifique", "", Icono::Ninguno}}));
-    EXPECT_EQ(s.CoefEscTotal(1), 0);
+    EXPECT_EQ(s.Resultados.CoefEscTotal(1), 0);
 }
 
 TEST_F(Proceso, PorUEHCadaUnaTieneSuTormentaYQuedaLaUltima)
 {
     PonUEH("u-1", "");
     PonUEH("u-2", "");
-    s.AvisoDescargasVisto = true;
-    s.FormaPp = 3;
-    s.PpUEH(1) = 30;
-    s.PpUEH(2) = 90;
+    s.Control.AvisoDescargasVisto = true;
+    s.Tormenta.FormaPp = 3;
+    s.Tormenta.PpUEH(1) = 30;
+    s.Tormenta.PpUEH(2) = 90;
     EXPECT_TRUE(Corre());
-    EXPECT_EQ(s.PpTormenta, 90);
-    EXPECT_NEAR(s.QSale(1, 1), Caudal / 2, 1e-6);
-    EXPECT_NEAR(s.QSale(2, 1), Caudal * 1.5, 1e-6);
-    EXPECT_EQ(s.PpUEH(1), 30);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 90);
+    EXPECT_NEAR(s.Resultados.QSale(1, 1), Caudal / 2, 1e-6);
+    EXPECT_NEAR(s.Resultados.QSale(2, 1), Caudal * 1.5, 1e-6);
+    EXPECT_EQ(s.Tormenta.PpUEH(1), 30);
 }
 
 TEST_F(Proceso, LaConstanteDeLaRecesionSeQuedaHastaLaProximaCarga)
 {
     PonUEH("u-1", "").KRecesion = 999999;
-    s.UEHs(1).Q0Recesion = 1;
+    s.Red.UEHs(1).Q0Recesion = 1;
     EXPECT_TRUE(Corre());
-    EXPECT_EQ(s.UEHs(1).KRecesion, 999999);
+    EXPECT_EQ(s.Red.UEHs(1).KRecesion, 999999);
 }
 
 // --- checks ---
@@ -362,9 +362,9 @@ TEST_F(Proceso, UnAreaCeroDetrasDeOtraPasa)
 {
     PonUEH("u-1", "");
     PonUEH("u-2", "").Area = 0;
-    s.AvisoDescargasVisto = true;
+    s.Control.AvisoDescargasVisto = true;
     EXPECT_TRUE(Corre());
-    EXPECT_EQ(s.CoefUEH(2), 0);
+    EXPECT_EQ(s.Resultados.CoefUEH(2), 0);
 }
 
 TEST_F(Proceso, SinVelocidadSeRechazaConSuNumero)
@@ -389,7 +389,7 @@ TEST_F(Proceso, SinLongitudSeRechazaConSuNumero)
 TEST_F(Proceso, PasosQueNoSonMultiplosSeRechazan)
 {
     PonUEH("u-1", "");
-    s.PasoQ = 4;
+    s.Pasos.PasoQ = 4;
     EsperaRechazo(
         "Error, el paso de salida (Q) debe ser múltiplo del paso de cálculo (Pp). Verifique la carga en "
         "\\Entradas\\Preicpitaciones...");
@@ -412,7 +412,7 @@ TEST_F(Proceso, DesdeLaSegundaCorridaSePreguntaDosVeces)
     PonCauce("c-1", "0");
     PonCauce("c-2", "c-1");
     Corre();
-    EXPECT_EQ(s.NroSeriePDR, 1);
+    EXPECT_EQ(s.Serie.NroSeriePDR, 1);
     anfitrion->sucesos.clear();
     Corre();
     EXPECT_EQ(anfitrion->Preguntas().size(), 2U);
@@ -425,7 +425,7 @@ TEST_F(Proceso, UnCicloTerminaLaCorrida)
     PonCauce("c-1", "c-2");
     PonCauce("c-2", "c-1");
     PonCauce("c-3", "c-1");
-    s.UEHs(2).Cauce_aa = "c-3";
+    s.Red.UEHs(2).Cauce_aa = "c-3";
     PonUEH("u-3", "");
     EsperaRechazo(
         "Error en la carga de datos de UEHS. Revise desde Menú Principal: Entradas\\Editor de UEHS...");
@@ -437,9 +437,9 @@ TEST_F(Proceso, LaUEH71FallaEnCadaAcceso)
 {
     for (int i = 1; i <= 71; ++i)
         PonUEH("u-" + std::to_string(i), "");
-    s.AvisoDescargasVisto = true;
-    s.N0Dur = 0;
-    s.DurTormenta = 20;  // one model step
+    s.Control.AvisoDescargasVisto = true;
+    s.Pasos.N0Dur = 0;
+    s.Tormenta.DurTormenta = 20;  // one model step
     EXPECT_TRUE(Corre());
     const std::vector<Mensaje> avisos = anfitrion->Avisos();
     const auto subindice = static_cast<std::size_t>(std::count(
@@ -447,17 +447,17 @@ TEST_F(Proceso, LaUEH71FallaEnCadaAcceso)
         Mensaje{"Error Nro. 9 ,El subíndice está fuera del intervaloVerifique", "", Icono::Ninguno}));
     EXPECT_EQ(subindice, avisos.size());
     EXPECT_GT(subindice, 61U);  // beside one for each outfall behind the tenth
-    EXPECT_NEAR(s.QSale(70, 1), 60 / 20.0 * 0.166667 * 6, 1e-5);  // the others are done
+    EXPECT_NEAR(s.Resultados.QSale(70, 1), 60 / 20.0 * 0.166667 * 6, 1e-5);  // the others are done
 }
 
 TEST_F(Proceso, LaUEH71FallaLasMismasVecesSinTexto)
 {
     for (int i = 1; i <= 71; ++i)
         PonUEH("u-" + std::to_string(i), "");
-    s.AvisoDescargasVisto = true;
+    s.Control.AvisoDescargasVisto = true;
     std::vector<std::vector<Mensaje>> avisos;
     for (const bool conTexto : {true, false}) {
-        s.NroSeriePDR = 0;
+        s.Serie.NroSeriePDR = 0;
         anfitrion->sucesos.clear();
         ConstruyeHietograma(s);
         Memoria memoria;
@@ -480,9 +480,9 @@ TEST_F(Proceso, UnaSuperficieTotalCasiNulaDesbordaLaLluviaMedia)
         suma -= area;
     }
     EXPECT_EQ(suma, std::ldexp(1.0F, -114));
-    for (model::UEH& u : s.ColUEHs)
+    for (model::UEH& u : s.Red.ColUEHs)
         u.RetensionZ = 100;  // nothing runs off
-    s.AvisoDescargasVisto = true;
+    s.Control.AvisoDescargasVisto = true;
     EXPECT_TRUE(Corre());
     // three steps of rain, the two UEHs of 1e9 ha
     EXPECT_EQ(anfitrion->Avisos(),
@@ -492,16 +492,16 @@ TEST_F(Proceso, UnaSuperficieTotalCasiNulaDesbordaLaLluviaMedia)
 TEST_F(Proceso, MinutosFueraDe16BitsSeInformanYLaCorridaSigue)
 {
     PonUEH("u-1", "");
-    s.PasoPp = s.PasoQ = 30;
-    s.N0Dur = 32758;  // 1093 steps: step 1093 stands at minute 32790
+    s.Pasos.PasoPp = s.Pasos.PasoQ = 30;
+    s.Pasos.N0Dur = 32758;  // 1093 steps: step 1093 stands at minute 32790
     EXPECT_TRUE(Corre());
-    EXPECT_EQ(s.NroPasosQ, 1093);
+    EXPECT_EQ(s.Resultados.NroPasosQ, 1093);
     const Mensaje desborda{"Error Nro. 6 ,DesbordamientoVerifique", "", Icono::Ninguno};
     EXPECT_FALSE(anfitrion->Avisos().empty());
     for (const Mensaje& aviso : anfitrion->Avisos())
         EXPECT_EQ(aviso.texto.substr(0, 10), "Error Nro.");
     EXPECT_EQ(anfitrion->Avisos().front(), desborda);
-    EXPECT_GT(s.QSale(1, 1), 0);
+    EXPECT_GT(s.Resultados.QSale(1, 1), 0);
 }
 
 // Columns 0..Int(32767/1 + 1): one more than 16 bits can count. The end of the rain is beyond them too, and
@@ -509,12 +509,12 @@ TEST_F(Proceso, MinutosFueraDe16BitsSeInformanYLaCorridaSigue)
 TEST_F(Proceso, LaLluviaDe32767PasosTieneSuLugar)
 {
     PonUEH("u-1", "");
-    s.PasoPp = s.PasoQ = 1;
-    s.DurTormenta = 32767;
-    s.N0Dur = -1;
+    s.Pasos.PasoPp = s.Pasos.PasoQ = 1;
+    s.Tormenta.DurTormenta = 32767;
+    s.Pasos.N0Dur = -1;
     EXPECT_TRUE(Corre());
-    EXPECT_EQ(s.PpUEHPaso.TopeColumna(), 32768);
-    EXPECT_EQ(s.NroPasosQ, 32766);
+    EXPECT_EQ(s.Resultados.PpUEHPaso.TopeColumna(), 32768);
+    EXPECT_EQ(s.Resultados.NroPasosQ, 32766);
     std::map<std::string, int> avisos;
     for (const Mensaje& aviso : anfitrion->Avisos())
         ++avisos[aviso.texto];
@@ -532,8 +532,8 @@ TEST_F(Proceso, UnaBaseNegativaDeKostiakovConservaLaInfiltracionAnterior)
     EXPECT_EQ(anfitrion->Avisos().size(), 2U);  // steps 1 and 2: -5, 5 and 5, -5
     EXPECT_EQ(anfitrion->Avisos()[0].texto,
               "Error Nro. 5 ,Argumento o llamada a procedimiento no válidosVerifique");
-    EXPECT_NEAR(s.QSale(1, 1), Caudal, 1e-6);  // I stayed at 0
-    EXPECT_EQ(s.PasosInfiltra(1), 4);          // and the clock went on
+    EXPECT_NEAR(s.Resultados.QSale(1, 1), Caudal, 1e-6);  // I stayed at 0
+    EXPECT_EQ(s.Resultados.PasosInfiltra(1), 4);          // and the clock went on
 }
 
 // --- fast way against the one step by step ---
@@ -549,11 +549,11 @@ TEST_F(Proceso, LoRecordadoDeUnPasoNoSirveParaOtro)
     u.KRecesion = 1;
     Memoria memoria;
     for (const std::int16_t paso : {std::int16_t{10}, std::int16_t{5}}) {
-        s.PasoPp = s.PasoQ = paso;
+        s.Pasos.PasoPp = s.Pasos.PasoQ = paso;
         ConstruyeHietograma(s);
         EXPECT_TRUE(ProcesoPrincipal(s, {.GuardaTexto = false, .ConTexto = false}, memoria));
         const int p = 30 / paso;
-        EXPECT_NEAR(s.QSale(1, p), Caudal / 2 + 2 * std::pow(2.7183, -30 / 60.0), 1e-5) << paso;
+        EXPECT_NEAR(s.Resultados.QSale(1, p), Caudal / 2 + 2 * std::pow(2.7183, -30 / 60.0), 1e-5) << paso;
     }
 }
 
@@ -573,26 +573,26 @@ TEST_F(Proceso, ConPizarraOSinEllaLosResultadosSonLosMismosBits)
     }
     PonCauce("c-1", "c-2");
     PonCauce("c-2", "c-3").optDirMusk = false;
-    s.Cauces(2).Cauce_k_Musk = 12;
-    s.Cauces(2).Cauce_n_Musk = 0.25F;
+    s.Red.Cauces(2).Cauce_k_Musk = 12;
+    s.Red.Cauces(2).Cauce_n_Musk = 0.25F;
     PonCauce("c-3", "0");
-    s.PasoQ = 5;
-    s.DistriPp = 2;
-    s.DurTormenta = 55;
+    s.Pasos.PasoQ = 5;
+    s.Tormenta.DistriPp = 2;
+    s.Tormenta.DurTormenta = 55;
     model::Siro conPizarra = s;
-    conPizarra.SalidaPizarra = true;
+    conPizarra.Control.SalidaPizarra = true;
     EXPECT_TRUE(Corre());
     ConstruyeHietograma(conPizarra);
     EXPECT_TRUE(ProcesoPrincipal(conPizarra, false));
-    EXPECT_EQ(s.QSale, conPizarra.QSale);
-    EXPECT_EQ(s.QEntra, conPizarra.QEntra);
-    EXPECT_EQ(s.QMax, conPizarra.QMax);
-    EXPECT_EQ(s.VolUEH, conPizarra.VolUEH);
-    EXPECT_EQ(s.PasosInfiltra, conPizarra.PasosInfiltra);
-    EXPECT_EQ(s.EscTotal, conPizarra.EscTotal);
-    EXPECT_EQ(s.VolEntra, conPizarra.VolEntra);
-    EXPECT_EQ(s.VolSale, conPizarra.VolSale);
-    EXPECT_EQ(s.NroPasosQ, conPizarra.NroPasosQ);
+    EXPECT_EQ(s.Resultados.QSale, conPizarra.Resultados.QSale);
+    EXPECT_EQ(s.Resultados.QEntra, conPizarra.Resultados.QEntra);
+    EXPECT_EQ(s.Resultados.QMax, conPizarra.Resultados.QMax);
+    EXPECT_EQ(s.Resultados.VolUEH, conPizarra.Resultados.VolUEH);
+    EXPECT_EQ(s.Resultados.PasosInfiltra, conPizarra.Resultados.PasosInfiltra);
+    EXPECT_EQ(s.Resultados.EscTotal, conPizarra.Resultados.EscTotal);
+    EXPECT_EQ(s.Resultados.VolEntra, conPizarra.Resultados.VolEntra);
+    EXPECT_EQ(s.Resultados.VolSale, conPizarra.Resultados.VolSale);
+    EXPECT_EQ(s.Resultados.NroPasosQ, conPizarra.Resultados.NroPasosQ);
 }
 
 // --- file ---
@@ -609,19 +609,21 @@ TEST_F(Proceso, ElTrapecioPuntoPorPuntoDaLosMismosBits)
                     pruebas::RedDeUEHs red;
                     red.PonUEH("u-1", "").LongitudMax = longitud;
                     red.PonUEH("u-2", "").RetensionZ = retencion;
-                    red.s.PpTormenta = 73.3F;
-                    red.s.PasoQ = static_cast<std::int16_t>(paso);
-                    red.s.SalidaPizarra = pizarra;
+                    red.s.Tormenta.PpTormenta = 73.3F;
+                    red.s.Pasos.PasoQ = static_cast<std::int16_t>(paso);
+                    red.s.Control.SalidaPizarra = pizarra;
                     ConstruyeHietograma(red.s);
                     EXPECT_TRUE(ProcesoPrincipal(red.s, false));
                     return std::move(red.s);
                 };
                 const model::Siro rapida = corre(9e8F), comprobada = corre(2e9F);
-                EXPECT_EQ(rapida.QSale, comprobada.QSale) << longitud << " m, " << paso << " min";
-                EXPECT_EQ(rapida.NroPasosQ, comprobada.NroPasosQ) << longitud << " m, " << paso << " min";
-                EXPECT_EQ(rapida.QMax(2, 1), 0);
-                crecidas += rapida.QMax(1, 1) > 0 ? 1 : 0;
-                alargadas += rapida.NroPasosQ > 50 / paso ? 1 : 0;
+                EXPECT_EQ(rapida.Resultados.QSale, comprobada.Resultados.QSale)
+                    << longitud << " m, " << paso << " min";
+                EXPECT_EQ(rapida.Resultados.NroPasosQ, comprobada.Resultados.NroPasosQ)
+                    << longitud << " m, " << paso << " min";
+                EXPECT_EQ(rapida.Resultados.QMax(2, 1), 0);
+                crecidas += rapida.Resultados.QMax(1, 1) > 0 ? 1 : 0;
+                alargadas += rapida.Resultados.NroPasosQ > 50 / paso ? 1 : 0;
             }
         }
     }
@@ -634,16 +636,16 @@ TEST_F(Proceso, ElTrapecioPuntoPorPuntoDaLosMismosBits)
 TEST_F(Proceso, ConLaPizarraApagadaElArchivoTieneSoloLaTabla)
 {
     PonUEH("u-1", "");
-    s.DurTormenta = 10;
-    s.PpTormenta = 20;
-    s.N0Dur = 10;
+    s.Tormenta.DurTormenta = 10;
+    s.Tormenta.PpTormenta = 20;
+    s.Pasos.N0Dur = 10;
     EXPECT_TRUE(Corre(true));
     const std::string doce(12, ' ');
     EXPECT_TRUE(apoyo::MismoTexto("\"        u-1       - Pp[mm] Q[m3/s] " + doce +
                                       "\r\n 1      10        20       2    " + doce +
                                       "\r\n 2      20         0       0    \"\r\n",
                                   disco.Bytes("/trabajo/SalePizarra1_tem.txt")));
-    EXPECT_EQ(s.ArchivoTemp, "SalePizarra1_tem.txt");
+    EXPECT_EQ(s.Proyecto.ArchivoTemp, "SalePizarra1_tem.txt");
 }
 
 TEST_F(Proceso, SinGuardarNoHayArchivoNiAviso)
@@ -658,22 +660,22 @@ class TextoLargo : public Proceso, public testing::WithParamInterface<int> {};
 TEST_P(TextoLargo, MasDe60000CaracteresAvisan)
 {
     PonUEH("u-1", "");
-    s.SalidaPizarra = true;
+    s.Control.SalidaPizarra = true;
     Corre(false);
     // The rest of the text is as long as ever: what the box holds ahead of it makes up the length. Accented
     // letters take two bytes and count once.
-    s.NroSeriePDR = 0;
+    s.Serie.NroSeriePDR = 0;
     anfitrion->pizarra.clear();
     const std::string ahora = [&] {
         ProcesoPrincipal(s, false);
-        return s.TextoPizarra;
+        return s.Control.TextoPizarra;
     }();
     const std::size_t largo = model::CuentaCaracteres(ahora);
     anfitrion->pizarra = std::string(static_cast<std::size_t>(GetParam()) - largo, 'x');
     anfitrion->sucesos.clear();
-    s.VolEntra = s.VolSale = 0;
+    s.Resultados.VolEntra = s.Resultados.VolSale = 0;
     EXPECT_TRUE(ProcesoPrincipal(s, true));
-    ASSERT_EQ(model::CuentaCaracteres(s.TextoPizarra), static_cast<std::size_t>(GetParam()));
+    ASSERT_EQ(model::CuentaCaracteres(s.Control.TextoPizarra), static_cast<std::size_t>(GetParam()));
     if (GetParam() <= 60000) {
         EXPECT_TRUE(anfitrion->sucesos.empty());
     } else {
@@ -703,12 +705,12 @@ TEST_F(Proceso, UnaComillaEnElTextoNoSeEscapa)
 TEST_F(Proceso, SinDirectorioDeTrabajoSeInformaYLosResultadosQuedan)
 {
     PonUEH("u-1", "");
-    s.DirTrabajo = "/no/esta";
+    s.Proyecto.DirTrabajo = "/no/esta";
     EXPECT_TRUE(Corre(true));
     EXPECT_EQ(anfitrion->Avisos(),
               (std::vector<Mensaje>{
                   {"Error Nro. 76 ,No se encontró la ruta de accesoVerifique", "", Icono::Ninguno}}));
-    EXPECT_EQ(s.QMax(1, 1), Caudal);
+    EXPECT_EQ(s.Resultados.QMax(1, 1), Caudal);
 }
 
 }  // namespace

@@ -36,7 +36,7 @@ class Serie : public testing::Test, public pruebas::RedDeUEHs {
   protected:
     Serie()
     {
-        s.FormaPp = 2;
+        s.Tormenta.FormaPp = 2;
         PonUEH("u-1", "c-1");
         PonCauce("c-1", "0").LongCauce = 240;
         GuardaProyecto();
@@ -44,15 +44,15 @@ class Serie : public testing::Test, public pruebas::RedDeUEHs {
     void Carga(const std::vector<Tormenta>& tormentas)
     {
         const auto n = static_cast<std::int16_t>(tormentas.size());
-        s.NroSeriePDR = n;
-        s.SerieP.Dimensiona(n);
-        s.SerieD.Dimensiona(n);
-        s.SerieR.Dimensiona(n);
+        s.Serie.NroSeriePDR = n;
+        s.Serie.SerieP.Dimensiona(n);
+        s.Serie.SerieD.Dimensiona(n);
+        s.Serie.SerieR.Dimensiona(n);
         for (int i = 1; i <= n; ++i) {
             const Tormenta& t = tormentas[static_cast<std::size_t>(i) - 1];
-            s.SerieP(i) = t.P;
-            s.SerieD(i) = t.D;
-            s.SerieR(i) = t.R;
+            s.Serie.SerieP(i) = t.P;
+            s.Serie.SerieD(i) = t.D;
+            s.Serie.SerieR(i) = t.R;
         }
     }
     /// Changes a flag by the configuration file, as the user's ticks get to a run.
@@ -82,8 +82,8 @@ class Serie : public testing::Test, public pruebas::RedDeUEHs {
 
 TEST_F(Serie, LaTablaALaLetra)
 {
-    s.TituloProyecto = s.frmConfigura.TextProyecto = "Título";
-    s.Operador = s.frmConfigura.TextOpera = "Yo";
+    s.Configuracion.TituloProyecto = s.frmConfigura.TextProyecto = "Título";
+    s.Configuracion.Operador = s.frmConfigura.TextOpera = "Yo";
     GuardaProyecto();
     Carga({{60, 30, 10}, {30, 30, 2}});
     EXPECT_EQ(CorreSeriePDR(s), FinSerie::Completa);
@@ -99,9 +99,9 @@ TEST_F(Serie, LaTablaALaLetra)
     EXPECT_EQ(anfitrion->Avisos(),
               (std::vector<Mensaje>{{Guardada + "0:0:0", TituloGuardada, Icono::Exclamacion}}));
     EXPECT_EQ(anfitrion->tablasSerie, 1);
-    EXPECT_EQ(s.IndSerie, 3);
-    EXPECT_EQ(s.PpTormenta, 30);
-    EXPECT_EQ(s.ArchivoTemp, "SaleTablasQDRs_tem.txt");
+    EXPECT_EQ(s.Serie.IndSerie, 3);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 30);
+    EXPECT_EQ(s.Proyecto.ArchivoTemp, "SaleTablasQDRs_tem.txt");
 }
 
 TEST_F(Serie, ElAvanceALaLetra)
@@ -129,14 +129,14 @@ TEST_F(Serie, ElTiempoVaEnHorasMinutosYSegundosSinCeros)
 TEST_F(Serie, LaPizarraQuedaApagadaYSinMarca)
 {
     anfitrion->marcaPizarra = true;
-    s.SalidaPizarra = true;
+    s.Control.SalidaPizarra = true;
     Carga({{60, 30, 10}});
     CorreSeriePDR(s);
     EXPECT_FALSE(anfitrion->marcaPizarra);
-    EXPECT_FALSE(s.SalidaPizarra);
+    EXPECT_FALSE(s.Control.SalidaPizarra);
     EXPECT_FALSE(disco.Esta("/trabajo/SalePizarra1_tem.txt"));
     // what the Slate, switched on, would show: the last storm's table
-    EXPECT_NE(s.TextoPizarra.find("- Pp[mm] Q[m3/s] "), std::string::npos);
+    EXPECT_NE(s.Control.TextoPizarra.find("- Pp[mm] Q[m3/s] "), std::string::npos);
 }
 
 TEST_F(Serie, TodasDeseleccionadasDejanNueveRenglones)
@@ -145,19 +145,19 @@ TEST_F(Serie, TodasDeseleccionadasDejanNueveRenglones)
     Carga({{60, 30, 10}, {30, 60, 10}});
     EXPECT_EQ(CorreSeriePDR(s), FinSerie::Completa);
     EXPECT_EQ(Renglones().size(), 9U);
-    EXPECT_EQ(s.QMax(1, 1), 0);
+    EXPECT_EQ(s.Resultados.QMax(1, 1), 0);
     EXPECT_EQ(anfitrion->avance.front(), "abre un momento...esta opción puede tardar varios minutos...");
     EXPECT_EQ(anfitrion->avance.back(), "cierra");
 }
 
 TEST_F(Serie, UnaDuracionMenorQueElPasoSeSaltaSinAviso)
 {
-    s.PasoPp = s.PasoQ = 30;
+    s.Pasos.PasoPp = s.Pasos.PasoQ = 30;
     Carga({{60, 20, 10}, {60, 30, 10}});
     CorreSeriePDR(s);
     EXPECT_EQ(Renglones().size(), 11U);
-    EXPECT_EQ(s.QMax(1, 1), 0);
-    EXPECT_GT(s.QMax(1, 2), 0);
+    EXPECT_EQ(s.Resultados.QMax(1, 1), 0);
+    EXPECT_GT(s.Resultados.QMax(1, 2), 0);
     EXPECT_EQ(anfitrion->Avisos().size(), 1U);  // the one of the table
 }
 
@@ -166,8 +166,8 @@ TEST_F(Serie, UnaDuracionFueraDeLaListaNoSePuedeDeseleccionar)
     Desmarca({}, {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16});
     Carga({{60, 45, 10}, {60, 60, 10}});
     CorreSeriePDR(s);
-    EXPECT_GT(s.QMax(1, 1), 0);
-    EXPECT_EQ(s.QMax(1, 2), 0);
+    EXPECT_GT(s.Resultados.QMax(1, 1), 0);
+    EXPECT_EQ(s.Resultados.QMax(1, 2), 0);
     EXPECT_EQ(Renglones().size(), 11U);
 }
 
@@ -177,12 +177,12 @@ TEST_F(Serie, R500SigueLaMarcaDeR5000YR5000NuncaCorre)
     Carga({{60, 30, 500}, {60, 30, 5000}});
     Desmarca({R5000}, {});
     CorreSeriePDR(s);
-    EXPECT_EQ(s.QMax(1, 1), 0);
-    EXPECT_EQ(s.QMax(1, 2), 0);
+    EXPECT_EQ(s.Resultados.QMax(1, 1), 0);
+    EXPECT_EQ(s.Resultados.QMax(1, 2), 0);
     Desmarca({R500}, {});
     CorreSeriePDR(s);
-    EXPECT_GT(s.QMax(1, 1), 0);
-    EXPECT_EQ(s.QMax(1, 2), 0);
+    EXPECT_GT(s.Resultados.QMax(1, 1), 0);
+    EXPECT_EQ(s.Resultados.QMax(1, 2), 0);
     EXPECT_EQ(s.frmConfigura.CheckR[R500], 0);  // the boxes stand as they were loaded
     EXPECT_EQ(s.frmConfigura.CheckR[R5000], 1);
 }
@@ -193,10 +193,10 @@ TEST_F(Serie, UnaLaminaCeroDetieneLaSerieYDejaElAvanceAbierto)
     EXPECT_EQ(CorreSeriePDR(s), FinSerie::TormentaNula);
     EXPECT_FALSE(disco.Esta(Tabla));
     EXPECT_TRUE(anfitrion->avanceAbierto);
-    EXPECT_GT(s.QMax(1, 1), 0);
-    EXPECT_EQ(s.QMax(1, 3), 0);
-    EXPECT_EQ(s.IndSerie, 2);
-    EXPECT_EQ(s.PpTormenta, 0);
+    EXPECT_GT(s.Resultados.QMax(1, 1), 0);
+    EXPECT_EQ(s.Resultados.QMax(1, 3), 0);
+    EXPECT_EQ(s.Serie.IndSerie, 2);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 0);
     EXPECT_TRUE(anfitrion->sucesos.empty());
 }
 
@@ -216,7 +216,7 @@ TEST_F(Serie, SinTormentasSeAvisaYElAvanceSeCierra)
 
 TEST_F(Serie, UnaPruebaRechazadaSeMuestraUnaVezPorTormentaYLaSerieSigue)
 {
-    s.UEHs(1).VelMedia = 0;
+    s.Red.UEHs(1).VelMedia = 0;
     GuardaProyecto();
     Carga({{60, 30, 10}, {30, 30, 10}, {20, 30, 10}});
     EXPECT_EQ(CorreSeriePDR(s, 2), FinSerie::Completa);
@@ -227,77 +227,77 @@ TEST_F(Serie, UnaPruebaRechazadaSeMuestraUnaVezPorTormentaYLaSerieSigue)
 TEST_F(Serie, LaTablaQueNoSePuedeEscribirSeInforma)
 {
     Carga({{60, 30, 10}});
-    s.DirTrabajo = "/no/esta";
+    s.Proyecto.DirTrabajo = "/no/esta";
     EXPECT_EQ(CorreSeriePDR(s), FinSerie::Completa);
     EXPECT_EQ(
         anfitrion->Avisos(),
         (std::vector<Mensaje>{{"El resguardo de resultados en el archivo <SaleTablasQDRs_tem.txt> ha fallado",
                                "Falla en resguardo de archivo", Icono::Exclamacion}}));
-    EXPECT_GT(s.QMax(1, 1), 0);
+    EXPECT_GT(s.Resultados.QMax(1, 1), 0);
 }
 
 TEST_F(Serie, SaltaTormentaConLaminaCeroDejaLaMarcaComoEstaba)
 {
     Carga({{0, 30, 10}, {60, 30, 10}});
-    s.CheckR.fill(1);
-    s.CheckD.fill(1);
-    s.SaltarTormenta = true;
-    s.IndSerie = 1;
+    s.Configuracion.CheckR.fill(1);
+    s.Configuracion.CheckD.fill(1);
+    s.Serie.SaltarTormenta = true;
+    s.Serie.IndSerie = 1;
     SaltaTormenta(s);
-    EXPECT_TRUE(s.SaltarTormenta);
-    s.IndSerie = 2;
+    EXPECT_TRUE(s.Serie.SaltarTormenta);
+    s.Serie.IndSerie = 2;
     SaltaTormenta(s);
-    EXPECT_FALSE(s.SaltarTormenta);
+    EXPECT_FALSE(s.Serie.SaltarTormenta);
 }
 
 TEST_F(Serie, ConUnoOVariosHilosTodoQuedaIgual)
 {
     PonUEH("u-2", "c-1").LongitudMax = 5000;
-    s.UEHs(2).Q0Recesion = 0.3F;
-    s.UEHs(2).KRecesion = 2;
+    s.Red.UEHs(2).Q0Recesion = 0.3F;
+    s.Red.UEHs(2).KRecesion = 2;
     GuardaProyecto();
     std::vector<Tormenta> tormentas;
     for (int i = 1; i <= 40; ++i)
         tormentas.push_back(
             {static_cast<float>(10 + i % 13 * 7), static_cast<std::int16_t>(10 + i * 37 % 170), 20});
     Carga(tormentas);
-    s.DistriPp = 2;
+    s.Tormenta.DistriPp = 2;
     model::Siro uno = s, tres = s;
     EXPECT_EQ(CorreSeriePDR(uno, 1), FinSerie::Completa);
     const std::string tablaUno = disco.Bytes(Tabla);
     EXPECT_EQ(CorreSeriePDR(tres, 3), FinSerie::Completa);
     EXPECT_TRUE(apoyo::MismoTexto(tablaUno, disco.Bytes(Tabla)));
-    EXPECT_EQ(uno.QMax, tres.QMax);
-    EXPECT_EQ(uno.EscUEH, tres.EscUEH);
-    EXPECT_EQ(uno.CoefEscUEH, tres.CoefEscUEH);
-    EXPECT_EQ(uno.EscTotal, tres.EscTotal);
-    EXPECT_EQ(uno.CoefEscTotal, tres.CoefEscTotal);
-    EXPECT_EQ(uno.QSale, tres.QSale);
-    EXPECT_EQ(uno.PpAcum, tres.PpAcum);
-    EXPECT_EQ(uno.IntensidadPp, tres.IntensidadPp);
-    EXPECT_EQ(uno.TextoPizarra, tres.TextoPizarra);
-    EXPECT_EQ(uno.VolSale, tres.VolSale);
-    EXPECT_EQ(uno.IndSerie, tres.IndSerie);
+    EXPECT_EQ(uno.Resultados.QMax, tres.Resultados.QMax);
+    EXPECT_EQ(uno.Resultados.EscUEH, tres.Resultados.EscUEH);
+    EXPECT_EQ(uno.Resultados.CoefEscUEH, tres.Resultados.CoefEscUEH);
+    EXPECT_EQ(uno.Resultados.EscTotal, tres.Resultados.EscTotal);
+    EXPECT_EQ(uno.Resultados.CoefEscTotal, tres.Resultados.CoefEscTotal);
+    EXPECT_EQ(uno.Resultados.QSale, tres.Resultados.QSale);
+    EXPECT_EQ(uno.Hietograma.PpAcum, tres.Hietograma.PpAcum);
+    EXPECT_EQ(uno.Hietograma.IntensidadPp, tres.Hietograma.IntensidadPp);
+    EXPECT_EQ(uno.Control.TextoPizarra, tres.Control.TextoPizarra);
+    EXPECT_EQ(uno.Resultados.VolSale, tres.Resultados.VolSale);
+    EXPECT_EQ(uno.Serie.IndSerie, tres.Serie.IndSerie);
 }
 
 TEST_F(Serie, CadaTormentaDaLoQueDaSola)
 {
     const std::vector<Tormenta> tormentas = {{35, 60, 20}, {50, 90, 20}, {80, 120, 20}, {20, 30, 20}};
     Carga(tormentas);
-    s.DistriPp = 3;
+    s.Tormenta.DistriPp = 3;
     CorreSeriePDR(s, 2);
     for (std::size_t i = 0; i < tormentas.size(); ++i) {
         model::Siro sola = s;
-        sola.NroSeriePDR = 1;
-        sola.SerieP.Dimensiona(1);
-        sola.SerieD.Dimensiona(1);
-        sola.SerieR.Dimensiona(1);
-        sola.SerieP(1) = tormentas[i].P;
-        sola.SerieD(1) = tormentas[i].D;
-        sola.SerieR(1) = tormentas[i].R;
+        sola.Serie.NroSeriePDR = 1;
+        sola.Serie.SerieP.Dimensiona(1);
+        sola.Serie.SerieD.Dimensiona(1);
+        sola.Serie.SerieR.Dimensiona(1);
+        sola.Serie.SerieP(1) = tormentas[i].P;
+        sola.Serie.SerieD(1) = tormentas[i].D;
+        sola.Serie.SerieR(1) = tormentas[i].R;
         CorreSeriePDR(sola);
-        EXPECT_EQ(sola.QMax(1, 1), s.QMax(1, static_cast<int>(i) + 1)) << i;
-        EXPECT_EQ(sola.EscTotal(1), s.EscTotal(static_cast<int>(i) + 1)) << i;
+        EXPECT_EQ(sola.Resultados.QMax(1, 1), s.Resultados.QMax(1, static_cast<int>(i) + 1)) << i;
+        EXPECT_EQ(sola.Resultados.EscTotal(1), s.Resultados.EscTotal(static_cast<int>(i) + 1)) << i;
     }
 }
 

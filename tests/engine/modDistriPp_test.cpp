@@ -24,16 +24,16 @@ class Hietograma : public testing::Test {
     {
         s.Anfitrion = anfitrion.Puerta();
         s.Disco = disco.Puerta();
-        s.DirTrabajo = "/trabajo";
-        s.DirProyecto = "/trabajo/Proyectos";
-        disco.PonDirectorio(s.DirProyecto);
-        s.PasoPp = 10;
+        s.Proyecto.DirTrabajo = "/trabajo";
+        s.Proyecto.DirProyecto = "/trabajo/Proyectos";
+        disco.PonDirectorio(s.Proyecto.DirProyecto);
+        s.Pasos.PasoPp = 10;
     }
     void Tormenta(float P, std::int16_t D, std::int16_t distribucion)
     {
-        s.PpTormenta = P;
-        s.DurTormenta = D;
-        s.DistriPp = distribucion;
+        s.Tormenta.PpTormenta = P;
+        s.Tormenta.DurTormenta = D;
+        s.Tormenta.DistriPp = distribucion;
         ConstruyeHietograma(s);
     }
     /// Rain of the steps 1, 2, 3 ...
@@ -47,8 +47,8 @@ class Hietograma : public testing::Test {
     std::vector<float> Laminas()
     {
         std::vector<float> v;
-        for (int j = 1; j <= s.NroPpReal; ++j)
-            v.push_back(s.PpReal(j));
+        for (int j = 1; j <= s.Tormenta.NroPpReal; ++j)
+            v.push_back(s.Tormenta.PpReal(j));
         return v;
     }
 
@@ -60,12 +60,12 @@ class Hietograma : public testing::Test {
 TEST_F(Hietograma, IntensidadConstanteEsUnSoloBloque)
 {
     Tormenta(60, 60, 0);
-    EXPECT_EQ(s.NroBloquesPp, 1);
-    EXPECT_EQ(s.NroPpReal, 1);
-    EXPECT_EQ(s.PpAcum(1), 60);
-    EXPECT_EQ(s.IntensidadPp(1), 1);  // 60 mm in 60 min
-    EXPECT_EQ(s.PpReal(0), 0);
-    EXPECT_EQ(s.PpReal(1), 60);
+    EXPECT_EQ(s.Hietograma.NroBloquesPp, 1);
+    EXPECT_EQ(s.Tormenta.NroPpReal, 1);
+    EXPECT_EQ(s.Hietograma.PpAcum(1), 60);
+    EXPECT_EQ(s.Hietograma.IntensidadPp(1), 1);  // 60 mm in 60 min
+    EXPECT_EQ(s.Tormenta.PpReal(0), 0);
+    EXPECT_EQ(s.Tormenta.PpReal(1), 60);
 }
 
 // --- López Cadenas: blocks by duration ---
@@ -104,17 +104,17 @@ TEST_F(Hietograma, LopezDe24BloquesSumaAlgoMasQueElTotal)
 {
     // 6·2.5 + 75 + 6·1 + 6·0.6667 = 100.0002 %
     Tormenta(100, 1440, 1);
-    EXPECT_NEAR(s.PpAcum(24), 100.0002, 1e-4);
-    EXPECT_GT(s.PpAcum(24), 100);
+    EXPECT_NEAR(s.Hietograma.PpAcum(24), 100.0002, 1e-4);
+    EXPECT_GT(s.Hietograma.PpAcum(24), 100);
 }
 
 TEST_F(Hietograma, LopezPorEncimaDe48HorasNoTieneTabla)
 {
     Tormenta(100, 2881, 1);
-    EXPECT_EQ(s.NroBloquesPp, 288);  // Int(2881/10)
-    EXPECT_EQ(s.NroPpReal, 288);
-    EXPECT_EQ(s.PpAcum(1), 0);
-    EXPECT_EQ(s.IntensidadPp(288), 0);
+    EXPECT_EQ(s.Hietograma.NroBloquesPp, 288);  // Int(2881/10)
+    EXPECT_EQ(s.Tormenta.NroPpReal, 288);
+    EXPECT_EQ(s.Hietograma.PpAcum(1), 0);
+    EXPECT_EQ(s.Hietograma.IntensidadPp(288), 0);
 }
 
 TEST_F(Hietograma, SinTablaQuedaLoQueTeniaUnaTormentaAnterior)
@@ -122,18 +122,18 @@ TEST_F(Hietograma, SinTablaQuedaLoQueTeniaUnaTormentaAnterior)
     Tormenta(100, 60, 0);  // PpAcum(1) = 100 mm, IntensidadPp(1) = 100/60 mm/min
     Tormenta(50, 2881, 1);
     // What the arrays hold is taken for percentages: 50·100/100, and 50·(100/60)/(1/288)/2881/100.
-    EXPECT_EQ(s.PpAcum(1), 50);
-    EXPECT_NEAR(s.IntensidadPp(1), 50 * (100 / 60.0) * 288 / 2881 / 100, 1e-6);
+    EXPECT_EQ(s.Hietograma.PpAcum(1), 50);
+    EXPECT_NEAR(s.Hietograma.IntensidadPp(1), 50 * (100 / 60.0) * 288 / 2881 / 100, 1e-6);
 }
 
 // One minute less than 16 bits can count: each block is built, the last one too.
 TEST_F(Hietograma, Los32767BloquesDeUnMinuto)
 {
-    s.PasoPp = 1;
+    s.Pasos.PasoPp = 1;
     Tormenta(100, 32767, 1);
     EXPECT_TRUE(anfitrion->sucesos.empty());
-    EXPECT_EQ(s.NroBloquesPp, 32767);
-    EXPECT_EQ(s.NroPpReal, 32767);
+    EXPECT_EQ(s.Hietograma.NroBloquesPp, 32767);
+    EXPECT_EQ(s.Tormenta.NroPpReal, 32767);
 }
 
 // --- sample storms and out of range ---
@@ -148,12 +148,12 @@ class DistribucionFija : public Hietograma, public testing::WithParamInterface<C
 TEST_P(DistribucionFija, BloquesEIntensidades)
 {
     Tormenta(200, 1440, GetParam().distribucion);
-    ASSERT_EQ(s.NroPpReal, 5);
+    ASSERT_EQ(s.Tormenta.NroPpReal, 5);
     for (int j = 1; j <= 5; ++j) {
         const double porcentaje = GetParam().porcentajes[static_cast<std::size_t>(j) - 1];
-        EXPECT_FLOAT_EQ(s.PpReal(j), static_cast<float>(2 * porcentaje)) << j;
+        EXPECT_FLOAT_EQ(s.Tormenta.PpReal(j), static_cast<float>(2 * porcentaje)) << j;
         // depth of the block over its length of 1440/5 = 288 min
-        EXPECT_FLOAT_EQ(s.IntensidadPp(j), static_cast<float>(2 * porcentaje / 288)) << j;
+        EXPECT_FLOAT_EQ(s.Hietograma.IntensidadPp(j), static_cast<float>(2 * porcentaje / 288)) << j;
     }
 }
 
@@ -175,18 +175,18 @@ TEST_F(Hietograma, PersonalSeLeeJustoAntesDeUsarse)
 {
     disco.Pon("/trabajo/distriPp_dpt.vlm",
               "2,0,0\r\n\"una\"\r\n0,0\r\n25\r\n75\r\n\"\"\r\n0,0\r\n\"\"\r\n0,0\r\n");
-    s.NroFilasTabla = {9, 9, 9, 9};  // as another reader left them
+    s.TablasDeLluvia.NroFilasTabla = {9, 9, 9, 9};  // as another reader left them
     Tormenta(80, 40, 5);
-    EXPECT_EQ(s.NroBloquesPp, 2);
+    EXPECT_EQ(s.Hietograma.NroBloquesPp, 2);
     EXPECT_EQ(Laminas(), (std::vector<float>{20, 60}));
-    EXPECT_FLOAT_EQ(s.IntensidadPp(2), 3);  // 60 mm in 20 min
+    EXPECT_FLOAT_EQ(s.Hietograma.IntensidadPp(2), 3);  // 60 mm in 20 min
 }
 
 TEST_F(Hietograma, PersonalSinArchivoNoTieneBloquesYNoAvisa)
 {
     Tormenta(80, 40, 6);
-    EXPECT_EQ(s.NroBloquesPp, 0);
-    EXPECT_EQ(s.NroPpReal, 0);
+    EXPECT_EQ(s.Hietograma.NroBloquesPp, 0);
+    EXPECT_EQ(s.Tormenta.NroPpReal, 0);
     EXPECT_TRUE(anfitrion->sucesos.empty());
 }
 
@@ -204,16 +204,16 @@ TEST_F(Hietograma, PersonalVaciaEnUnaTormentaMasCortaQueElPasoFalla)
 
 TEST_F(Hietograma, RealNoCambiaLasLaminasYSusBloquesSonElPaso)
 {
-    s.FormaPp = Real;
-    s.PpReal.Dimensiona(3);
-    s.PpReal(1) = 2;
-    s.PpReal(2) = 6;
-    s.PpReal(3) = 2;
+    s.Tormenta.FormaPp = Real;
+    s.Tormenta.PpReal.Dimensiona(3);
+    s.Tormenta.PpReal(1) = 2;
+    s.Tormenta.PpReal(2) = 6;
+    s.Tormenta.PpReal(3) = 2;
     Tormenta(10, 30, 7);
-    EXPECT_EQ(s.NroBloquesPp, 3);
+    EXPECT_EQ(s.Hietograma.NroBloquesPp, 3);
     EXPECT_EQ(Laminas(), (std::vector<float>{2, 6, 2}));
-    EXPECT_FLOAT_EQ(s.IntensidadPp(2), 0.6F);
-    EXPECT_EQ(s.PpAcum(3), 10);
+    EXPECT_FLOAT_EQ(s.Hietograma.IntensidadPp(2), 0.6F);
+    EXPECT_EQ(s.Hietograma.PpAcum(3), 10);
     EXPECT_TRUE(disco.Llamadas().empty());  // distribution 7 plays no part
     const std::vector<double> pp = Pasos(3);
     EXPECT_FLOAT_EQ(static_cast<float>(pp[0]), 2);
@@ -238,7 +238,7 @@ TEST_F(Hietograma, DuracionMultiploDelPasoNoLlueveDespuesDelFin)
 TEST_F(Hietograma, LosPasosSumanLaTormentaAunqueNoCoincidanConLosBloques)
 {
     // 3 blocks of 60 min against steps of 50: the fourth step is the last.
-    s.PasoPp = 50;
+    s.Pasos.PasoPp = 50;
     Tormenta(100, 180, 1);
     const std::vector<double> pp = Pasos(4);
     // cumulative at 50 = 20·50/60; at 100 = 20 + 60·40/60; at 150 = 80 + 20·30/60; then up to 100
@@ -270,15 +270,15 @@ TEST_F(Hietograma, CadaTormentaEmpiezaSinLluviaEntregada)
 {
     Tormenta(30, 180, 1);
     Pasos(5);
-    EXPECT_GT(s.PpAcumPrevia, 0);
+    EXPECT_GT(s.Hietograma.PpAcumPrevia, 0);
     Tormenta(30, 180, 1);
-    EXPECT_EQ(s.PpAcumPrevia, 0);
+    EXPECT_EQ(s.Hietograma.PpAcumPrevia, 0);
 }
 
 TEST_F(Hietograma, MinutosQueNoCabenEn16BitsFallan)
 {
     Tormenta(30, 60, 0);
-    s.PasoPp = 200;
+    s.Pasos.PasoPp = 200;
     EXPECT_EQ(apoyo::NumeroDeFalla([&] { PpDelPaso(s, 200); }), 6);
 }
 
@@ -287,18 +287,18 @@ TEST_F(Hietograma, MinutosQueNoCabenEn16BitsFallan)
 // 10 min a step, 30000 blocks in 15 min: minute 20 lies in block 10·30000·2/15 + 1 = 40001.
 TEST_F(Hietograma, BloqueQueNoCabeEn16BitsFalla)
 {
-    s.DistriPp = 5;
-    s.PasoPp = 10;
-    s.DurTormenta = 15;
-    s.NroBloquesPp = 30000;
-    s.PpAcum.Dimensiona(30000);
-    s.IntensidadPp.Dimensiona(30000);
+    s.Tormenta.DistriPp = 5;
+    s.Pasos.PasoPp = 10;
+    s.Tormenta.DurTormenta = 15;
+    s.Hietograma.NroBloquesPp = 30000;
+    s.Hietograma.PpAcum.Dimensiona(30000);
+    s.Hietograma.IntensidadPp.Dimensiona(30000);
     EXPECT_EQ(apoyo::NumeroDeFalla([&] { PpDelPaso(s, 2); }), 6);
 }
 
 TEST_F(Hietograma, TextoDeLaPizarraALaLetra)
 {
-    s.SalidaPizarra = true;
+    s.Control.SalidaPizarra = true;
     Tormenta(10.126F, 180, 1);
     // blocks 20, 60, 20 %: 2.0252, 6.0756, 2.0252 mm; intensities over 60 min; all cut to two decimals
     EXPECT_TRUE(
@@ -315,30 +315,31 @@ TEST_F(Hietograma, TextoDeLaPizarraALaLetra)
 TEST_F(Hietograma, LosMinutosDeLaLineaFallanAunqueNoSeEscriba)
 {
     // PasoPp·j passes 32767 at j = 12: the line can't be built, and the routine ends there.
-    s.PasoPp = 2880;
+    s.Pasos.PasoPp = 2880;
     Tormenta(100, 2880, 1);
     ASSERT_EQ(anfitrion->Avisos().size(), 1U);
     EXPECT_EQ(anfitrion->Avisos()[0].texto, "Error Nro. 6 ,DesbordamientoVerifique");
-    EXPECT_EQ(s.NroPpReal, 0);
-    EXPECT_EQ(s.NroBloquesPp, 24);
-    EXPECT_NEAR(s.PpAcum(12), 90, 1e-4);  // turned into depths as far as it came, block 12 included
-    EXPECT_NEAR(s.PpAcum(13), 91, 1e-4);  // still a percentage, and P is 100: the same figure
-    EXPECT_NEAR(s.PpReal(13), 0, 0);
+    EXPECT_EQ(s.Tormenta.NroPpReal, 0);
+    EXPECT_EQ(s.Hietograma.NroBloquesPp, 24);
+    EXPECT_NEAR(s.Hietograma.PpAcum(12), 90,
+                1e-4);  // turned into depths as far as it came, block 12 included
+    EXPECT_NEAR(s.Hietograma.PpAcum(13), 91, 1e-4);  // still a percentage, and P is 100: the same figure
+    EXPECT_NEAR(s.Tormenta.PpReal(13), 0, 0);
 }
 
 TEST_F(Hietograma, SinLaminaODuracionNoSeConstruyeNada)
 {
-    s.SalidaPizarra = true;
-    s.NroPpReal = 7;
+    s.Control.SalidaPizarra = true;
+    s.Tormenta.NroPpReal = 7;
     Tormenta(0, 60, 0);
-    EXPECT_EQ(s.NroBloquesPp, 6);
-    EXPECT_EQ(s.NroPpReal, 7);
+    EXPECT_EQ(s.Hietograma.NroBloquesPp, 6);
+    EXPECT_EQ(s.Tormenta.NroPpReal, 7);
     EXPECT_EQ(anfitrion->pizarra, "");
 }
 
 TEST_F(Hietograma, PasoCeroSeInforma)
 {
-    s.PasoPp = 0;
+    s.Pasos.PasoPp = 0;
     Tormenta(60, 60, 0);
     ASSERT_EQ(anfitrion->Avisos().size(), 1U);
     EXPECT_EQ(anfitrion->Avisos()[0].texto, "Error Nro. 11 ,División por ceroVerifique");
@@ -350,14 +351,14 @@ TEST_F(Hietograma, PasoCeroSeInforma)
 // rain.
 TEST_F(Hietograma, ElBloqueDeUnPasoSeBuscaEn32Bits)
 {
-    s.PasoPp = 1;
-    s.DistriPp = 5;
-    s.DurTormenta = 10000;
-    s.NroBloquesPp = 2021;
-    s.PpAcum.Dimensiona(2021);
-    s.IntensidadPp.Dimensiona(2021);
-    s.IntensidadPp(1945) = 100;
-    s.PpAcumPrevia = 0;
+    s.Pasos.PasoPp = 1;
+    s.Tormenta.DistriPp = 5;
+    s.Tormenta.DurTormenta = 10000;
+    s.Hietograma.NroBloquesPp = 2021;
+    s.Hietograma.PpAcum.Dimensiona(2021);
+    s.Hietograma.IntensidadPp.Dimensiona(2021);
+    s.Hietograma.IntensidadPp(1945) = 100;
+    s.Hietograma.PpAcumPrevia = 0;
     EXPECT_NEAR(PpDelPaso(s, 9619), -100 / 2021.0, 1e-6);
 }
 

@@ -24,21 +24,21 @@ class UnaTormenta : public testing::Test, public pruebas::RedDeUEHs {
     UnaTormenta()
     {
         PonUEH("u-1", "");
-        s.frmConfigura.TextProyecto = s.TituloProyecto = "Título";
-        s.frmConfigura.TextUbica = s.Ubicacion = "Lugar";
-        s.frmConfigura.TextCuenca = s.Cuenca = "Cuenca";
-        s.frmConfigura.TextSbca = s.Subcuenca = "Sub";
-        s.frmConfigura.TextOpera = s.Operador = "Operador";
+        s.frmConfigura.TextProyecto = s.Configuracion.TituloProyecto = "Título";
+        s.frmConfigura.TextUbica = s.Configuracion.Ubicacion = "Lugar";
+        s.frmConfigura.TextCuenca = s.Configuracion.Cuenca = "Cuenca";
+        s.frmConfigura.TextSbca = s.Configuracion.Subcuenca = "Sub";
+        s.frmConfigura.TextOpera = s.Configuracion.Operador = "Operador";
         GuardaProyecto();
     }
 };
 
 TEST_F(UnaTormenta, LosCambiosSinGuardarNoLleganALaCorrida)
 {
-    s.UEHs(1).Area = 12;
+    s.Red.UEHs(1).Area = 12;
     EXPECT_TRUE(CorreUnaTormenta(s));
-    EXPECT_EQ(s.UEHs(1).Area, 6);
-    EXPECT_EQ(s.EscTotal(1), 3600);
+    EXPECT_EQ(s.Red.UEHs(1).Area, 6);
+    EXPECT_EQ(s.Resultados.EscTotal(1), 3600);
 }
 
 TEST_F(UnaTormenta, SinLaminaSoloQuedaElEncabezado)
@@ -46,18 +46,18 @@ TEST_F(UnaTormenta, SinLaminaSoloQuedaElEncabezado)
     EXPECT_TRUE(CorreUnaTormenta(s));
     const model::Siro antes = s;
     anfitrion->marcaPizarra = true;
-    s.PpTormenta = 0;
+    s.Tormenta.PpTormenta = 0;
     EXPECT_FALSE(CorreUnaTormenta(s));
     EXPECT_TRUE(apoyo::MismoTexto(Encabezado, anfitrion->pizarra));
-    EXPECT_EQ(s.QSale, antes.QSale);
-    EXPECT_EQ(s.QMax, antes.QMax);
-    EXPECT_EQ(s.TextoPizarra, antes.TextoPizarra);
+    EXPECT_EQ(s.Resultados.QSale, antes.Resultados.QSale);
+    EXPECT_EQ(s.Resultados.QMax, antes.Resultados.QMax);
+    EXPECT_EQ(s.Control.TextoPizarra, antes.Control.TextoPizarra);
 }
 
 TEST_F(UnaTormenta, SinDuracionSoloQuedaElEncabezado)
 {
     anfitrion->marcaPizarra = true;
-    s.DurTormenta = 0;
+    s.Tormenta.DurTormenta = 0;
     EXPECT_FALSE(CorreUnaTormenta(s));
     EXPECT_TRUE(apoyo::MismoTexto(Encabezado, anfitrion->pizarra));
     EXPECT_FALSE(disco.Esta("/trabajo/SalePizarra1_tem.txt"));
@@ -81,10 +81,10 @@ TEST_F(UnaTormenta, LaSegundaCorridaEmpiezaConTextoVacio)
     EXPECT_TRUE(CorreUnaTormenta(s));
     EXPECT_EQ(anfitrion->pizarrasAbiertas, 1);
     const std::string primera = anfitrion->pizarra;
-    s.VolEntra = s.VolSale = 0;
+    s.Resultados.VolEntra = s.Resultados.VolSale = 0;
     EXPECT_TRUE(CorreUnaTormenta(s));
     EXPECT_TRUE(apoyo::MismoTexto(primera, anfitrion->pizarra));
-    EXPECT_TRUE(apoyo::MismoTexto(anfitrion->pizarra, s.TextoPizarra));
+    EXPECT_TRUE(apoyo::MismoTexto(anfitrion->pizarra, s.Control.TextoPizarra));
     EXPECT_EQ(primera.substr(0, Encabezado.size()), Encabezado);
     EXPECT_EQ(primera.substr(Encabezado.size(), 26), "\r\nEntrada: PRECIPITACION\r\n");
 }
@@ -93,7 +93,7 @@ TEST_F(UnaTormenta, ElArchivoTieneElTextoEnWindows1252EntreComillas)
 {
     anfitrion->marcaPizarra = true;
     EXPECT_TRUE(CorreUnaTormenta(s));
-    EXPECT_TRUE(apoyo::MismoTexto("\"" + model::AWindows1252(s.TextoPizarra) + "\"\r\n",
+    EXPECT_TRUE(apoyo::MismoTexto("\"" + model::AWindows1252(s.Control.TextoPizarra) + "\"\r\n",
                                   disco.Bytes("/trabajo/SalePizarra1_tem.txt")));
 }
 
@@ -102,12 +102,12 @@ TEST_F(UnaTormenta, CargaRefrescaRotulosYHabilitaLaVerificacionConRepresas)
     CargaProyecto(s);
     EXPECT_EQ(anfitrion->rotulosProyecto, 1);
     EXPECT_EQ(anfitrion->verificacionHabilitada, 0);
-    s.NroRepresas = 1;
-    s.ColRepresas.Agrega({.NombreRepresa = "r-1", .numRepresa = 1, .chkFQ = {1}});
+    s.Red.NroRepresas = 1;
+    s.Red.ColRepresas.Agrega({.NombreRepresa = "r-1", .numRepresa = 1, .chkFQ = {1}});
     GuardaProyecto();
     CargaProyecto(s);
     EXPECT_GT(anfitrion->verificacionHabilitada, 0);
-    EXPECT_EQ(s.FQActiva(1, 1), 1);
+    EXPECT_EQ(s.Red.FQActiva(1, 1), 1);
 }
 
 TEST_F(UnaTormenta, ElAvisoDeVariasSalidasNoInterrumpe)
@@ -116,7 +116,7 @@ TEST_F(UnaTormenta, ElAvisoDeVariasSalidasNoInterrumpe)
     GuardaProyecto();
     EXPECT_TRUE(CorreUnaTormenta(s));
     EXPECT_TRUE(anfitrion->sucesos.empty());
-    EXPECT_TRUE(s.AvisoDescargasVisto);
+    EXPECT_TRUE(s.Control.AvisoDescargasVisto);
 }
 
 }  // namespace

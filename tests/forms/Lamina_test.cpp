@@ -77,8 +77,8 @@ struct LaminaEnVentana : testing::Test {
     /// What the windows tell their chart of the dam's hydrograph.
     void PonProcedencia()
     {
-        mundo.s.NombreProyecto = "Quelmar";
-        mundo.s.TituloProyecto = "Crecidas";
+        mundo.s.Proyecto.NombreProyecto = "Quelmar";
+        mundo.s.Configuracion.TituloProyecto = "Crecidas";
         mundo.anfitrion->fechaHora = "03/04/2011 10:20:30";
         lamina->PonTema("Componente: 3, r-Dique   Pp= 60mm", "r-Dique");
     }

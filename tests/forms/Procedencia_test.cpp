@@ -14,8 +14,8 @@ TEST(Procedencia, DiceElProyectoYElDia)
     anfitrion->fechaHora = "03/04/2011 10:20:30";
     model::Siro s;
     s.Anfitrion = anfitrion.Puerta();
-    s.NombreProyecto = "Quelmar";
-    s.TituloProyecto = "Crecidas";
+    s.Proyecto.NombreProyecto = "Quelmar";
+    s.Configuracion.TituloProyecto = "Crecidas";
     const Procedencia p = DeHoy(s, {.titulo = "Hidrograma", .tema = "Componente: 1, u-1   Pp= 60mm"});
     EXPECT_EQ(Renglones(p), (std::vector<std::string>{"Hidrograma", "Componente: 1, u-1   Pp= 60mm",
                                                       "Proyecto: Quelmar - Crecidas", "Fecha: 03/04/2011"}));
@@ -25,7 +25,7 @@ TEST(Procedencia, LoQueFaltaNoDejaRenglon)
 {
     EXPECT_EQ(Renglones({}), std::vector<std::string>{});
     model::Siro s;
-    s.NombreProyecto = "Quelmar";
+    s.Proyecto.NombreProyecto = "Quelmar";
     EXPECT_EQ(Renglones(DeHoy(s, {.titulo = "Hietograma", .componente = "u-1"})),
               (std::vector<std::string>{"Hietograma", "Proyecto: Quelmar"}));
 }

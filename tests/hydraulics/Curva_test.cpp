@@ -240,10 +240,10 @@ TEST_F(CurvaPreparada, NoSirveSinRenglonesNiSinComponente)
     EXPECT_EQ(CurvaAlmacenamiento(s).Alturas(), Intervalo{});
     PonHAS({{0, 1, 10}, {1, 2, 20}});
     PonHQ({{0, 1}, {1, 2}});
-    s.RepresaFilasHAS(1) = s.RepresaFilasHQ(1) = 500;
+    s.Red.RepresaFilasHAS(1) = s.Red.RepresaFilasHQ(1) = 500;
     EXPECT_EQ(CurvaAlmacenamiento(s).Filas(), 0);
     EXPECT_FALSE(CurvaDescarga(s).SinPreguntas(0, 1));
-    s.RepresaFilasHAS(1) = s.RepresaFilasHQ(1) = 2;
+    s.Red.RepresaFilasHAS(1) = s.Red.RepresaFilasHQ(1) = 2;
     EXPECT_EQ(CurvaAlmacenamiento(s).Filas(), 2);
     EXPECT_TRUE(CurvaDescarga(s).SinPreguntas(0, 1));
     s.CompActual = {};
@@ -277,7 +277,7 @@ TEST_F(CurvaPreparada, ConUnSoloRenglonSirveEnEl)
 
 TEST_F(CurvaPreparada, LaTablaSinRenglonesNoDescargaNiPregunta)
 {
-    s.Represas(1).optTabla = true;
+    s.Red.Represas(1).optTabla = true;
     const CurvaDescarga Q(s);
     EXPECT_TRUE(Q.SinPreguntas(-1e30F, 1e30F));
     EXPECT_EQ(Q.Valor(3), 0);

@@ -34,17 +34,17 @@ class EstadoConEmbalses {
         s.Disco = disco.Puerta();
         for (std::int16_t n = 1; n <= 2; ++n) {
             const std::string nombre = n == 1 ? "uno" : "dos";
-            s.ColRepresas.Agrega({.NombreRepresa = "r-" + nombre, .numRepresa = n});
-            s.ColLagos.Agrega({.NombreLAGO = "l-" + nombre, .numLAGO = n});
+            s.Red.ColRepresas.Agrega({.NombreRepresa = "r-" + nombre, .numRepresa = n});
+            s.Red.ColLagos.Agrega({.NombreLAGO = "l-" + nombre, .numLAGO = n});
         }
-        s.NroRepresas = s.NroLagos = 2;
-        for (auto* filas : {&s.RepresaFilasHAS, &s.RepresaFilasHQ, &s.LagoFilas})
+        s.Red.NroRepresas = s.Red.NroLagos = 2;
+        for (auto* filas : {&s.Red.RepresaFilasHAS, &s.Red.RepresaFilasHQ, &s.Red.LagoFilas})
             filas->Dimensiona(2);
-        for (auto* tabla :
-             {&s.RepresaH, &s.RepresaA, &s.RepresaQH, &s.RepresaQQ, &s.LagoH, &s.LagoA, &s.LagoQ})
+        for (auto* tabla : {&s.Red.RepresaH, &s.Red.RepresaA, &s.Red.RepresaQH, &s.Red.RepresaQQ,
+                            &s.Red.LagoH, &s.Red.LagoA, &s.Red.LagoQ})
             tabla->Dimensiona(2, 10);
-        s.RepresaS.Dimensiona(2, 10);
-        s.LagoS.Dimensiona(2, 10);
+        s.Red.RepresaS.Dimensiona(2, 10);
+        s.Red.LagoS.Dimensiona(2, 10);
         EligeRepresa(1);
     }
 
@@ -55,17 +55,17 @@ class EstadoConEmbalses {
     void PonHAS(const std::vector<RenglonHAS>& renglones, int numero = 1)
     {
         const auto n = static_cast<std::int16_t>(renglones.size());
-        s.RepresaFilasHAS(numero) = s.LagoFilas(numero) = n;
-        for (auto* tabla : {&s.RepresaH, &s.RepresaA, &s.LagoH, &s.LagoA, &s.LagoQ})
+        s.Red.RepresaFilasHAS(numero) = s.Red.LagoFilas(numero) = n;
+        for (auto* tabla : {&s.Red.RepresaH, &s.Red.RepresaA, &s.Red.LagoH, &s.Red.LagoA, &s.Red.LagoQ})
             if (tabla->TopeColumna() <= n) tabla->Redimensiona(n + 1);
-        for (auto* tabla : {&s.RepresaS, &s.LagoS})
+        for (auto* tabla : {&s.Red.RepresaS, &s.Red.LagoS})
             if (tabla->TopeColumna() <= n) tabla->Redimensiona(n + 1);
         int k = 0;
         for (const RenglonHAS& r : renglones) {
             ++k;
-            s.RepresaH(numero, k) = s.LagoH(numero, k) = r.H;
-            s.RepresaA(numero, k) = s.LagoA(numero, k) = r.A;
-            s.RepresaS(numero, k) = s.LagoS(numero, k) = r.S;
+            s.Red.RepresaH(numero, k) = s.Red.LagoH(numero, k) = r.H;
+            s.Red.RepresaA(numero, k) = s.Red.LagoA(numero, k) = r.A;
+            s.Red.RepresaS(numero, k) = s.Red.LagoS(numero, k) = r.S;
         }
     }
 
@@ -73,22 +73,22 @@ class EstadoConEmbalses {
     void PonHQ(const std::vector<RenglonHQ>& renglones, int numero = 1)
     {
         const auto n = static_cast<std::int16_t>(renglones.size());
-        s.RepresaFilasHQ(numero) = s.LagoFilas(numero) = n;
-        for (auto* tabla : {&s.RepresaQH, &s.RepresaQQ, &s.LagoH, &s.LagoQ})
+        s.Red.RepresaFilasHQ(numero) = s.Red.LagoFilas(numero) = n;
+        for (auto* tabla : {&s.Red.RepresaQH, &s.Red.RepresaQQ, &s.Red.LagoH, &s.Red.LagoQ})
             if (tabla->TopeColumna() <= n) tabla->Redimensiona(n + 1);
         int k = 0;
         for (const RenglonHQ& r : renglones) {
             ++k;
-            s.RepresaQH(numero, k) = s.LagoH(numero, k) = r.H;
-            s.RepresaQQ(numero, k) = s.LagoQ(numero, k) = r.Q;
+            s.Red.RepresaQH(numero, k) = s.Red.LagoH(numero, k) = r.H;
+            s.Red.RepresaQQ(numero, k) = s.Red.LagoQ(numero, k) = r.Q;
         }
-        s.Represas(numero).optTabla = true;
+        s.Red.Represas(numero).optTabla = true;
     }
 
     /// Outflow function i, from 1, of the first Represa, in use.
     void PonFuncion(std::size_t i, float a, float b, float c, float minimo, float maximo)
     {
-        model::Represa& r = s.Represas(1);
+        model::Represa& r = s.Red.Represas(1);
         r.chkFQ[i - 1] = 1;
         r.FQa[i - 1] = a;
         r.FQb[i - 1] = b;

@@ -66,7 +66,7 @@ TEST_F(mdlFQs, FuncionSinTildarNoCuentaTengaLosCoeficientesQueTenga)
         PonFuncion(i, 1000, -1, 1000, 0, 100);
     PonFuncion(3, 7, 0, 0, 0, 100);
     for (const std::int16_t tilde : std::initializer_list<std::int16_t>{0, 2, -1}) {
-        s.Represas(1).chkFQ = {tilde, tilde, 1, tilde, tilde, tilde, tilde, tilde};
+        s.Red.Represas(1).chkFQ = {tilde, tilde, 1, tilde, tilde, tilde, tilde, tilde};
         EXPECT_EQ(Q(0), 7) << tilde;  // any of the others would be at fault there
         EXPECT_EQ(Q(50), 7) << tilde;
     }
@@ -135,7 +135,7 @@ TEST_F(mdlFQs, LaSumaSeRedondeaDespuesDeCadaFuncion)
     PonFuncion(3, 1, 0, 0, 0, 10);
     EXPECT_EQ(Q(1), 16777216.0F);
     // Within a function there is no rounding in between: 2^24 + 1 + 1.
-    s.Represas(1).chkFQ = {1, 0, 0, 0, 0, 0, 0, 0};
+    s.Red.Represas(1).chkFQ = {1, 0, 0, 0, 0, 0, 0, 0};
     PonFuncion(5, 1, 1, 0, 0, 10);
     EXPECT_EQ(Q(1), 16777218.0F);
 }
@@ -186,7 +186,7 @@ TEST_F(mdlFQs, DesbordamientoSeInformaYDaCero)
 TEST_F(mdlFQs, ConFuncionesLaTablaNoSeMira)
 {
     PonHQ({{0, 50}, {10, 60}});
-    s.Represas(1).optTabla = false;
+    s.Red.Represas(1).optTabla = false;
     EXPECT_EQ(Q(5), 0);
     PonFuncion(1, 1, 1, 0, 0, 10);
     EXPECT_EQ(Q(5), 5);
@@ -223,7 +223,7 @@ TEST_F(mdlFQs, TablaSeRedondeaUnaVezA32Bits)
 
 TEST_F(mdlFQs, TablaSinRenglonesDaCeroSinPreguntar)
 {
-    s.Represas(1).optTabla = true;
+    s.Red.Represas(1).optTabla = true;
     PonFuncion(1, 1000, 0, 0, 0, 1000);
     for (const bool lago : {false, true}) {
         Elige(lago);
@@ -315,7 +315,7 @@ TEST_F(mdlFQs, LasFallasDeLaTablaSeInformanYDanCero)
     const auto subindice = Informe("Error Nro. 9El subíndice está fuera del intervalo ,Verifique");
     const auto sinObjeto = Informe("Error Nro. 91Variable de objeto no establecida ,Verifique");
     PonHQ({{100, 3}, {110, 12}});
-    s.RepresaFilasHQ(1) = s.LagoFilas(1) = 200;
+    s.Red.RepresaFilasHQ(1) = s.Red.LagoFilas(1) = 200;
     for (const bool lago : {false, true}) {
         Elige(lago);
         anfitrion->sucesos.clear();
@@ -344,7 +344,7 @@ TEST_F(mdlFQs, AlturaDeCaudalEsElUltimoPuntoMedio)
     PonFuncion(1, 1, 1, 0, 0, 1);  // the same outflow
     for (const int forma : {0, 1, 2}) {
         Elige(forma == 2);
-        s.Represas(1).optTabla = forma == 0;
+        s.Red.Represas(1).optTabla = forma == 0;
         EXPECT_EQ(H(0), 0.0009765625F);      // always below: 2^-10
         EXPECT_EQ(H(1), 1 - 0.0009765625F);  // always above
         EXPECT_EQ(H(0.5F), 0.5009765625F);   // an equal outflow moves the lower bound
@@ -394,25 +394,25 @@ TEST_F(mdlFQs, LosLimitesSalenDeLasFuncionesEnUso)
     PonFuncion(1, 0, 0, 0, 5, 7);
     PonFuncion(3, 0, 0, 0, 6, 12);
     PonFuncion(8, 0, 0, 0, 2, 3);
-    s.Represas(1).FQmin[4] = -100;  // not in use
-    s.Represas(1).FQMax[4] = 100;
-    EXPECT_EQ(RangoFunciones(s.Represas(1)).minimo, 2);
-    EXPECT_EQ(RangoFunciones(s.Represas(1)).maximo, 12);
-    s.Represas(1).chkFQ = {1, 0, 0, 0, 0, 0, 0, 0};
-    EXPECT_EQ(RangoFunciones(s.Represas(1)).minimo, 5);
-    EXPECT_EQ(RangoFunciones(s.Represas(1)).maximo, 7);
+    s.Red.Represas(1).FQmin[4] = -100;  // not in use
+    s.Red.Represas(1).FQMax[4] = 100;
+    EXPECT_EQ(RangoFunciones(s.Red.Represas(1)).minimo, 2);
+    EXPECT_EQ(RangoFunciones(s.Red.Represas(1)).maximo, 12);
+    s.Red.Represas(1).chkFQ = {1, 0, 0, 0, 0, 0, 0, 0};
+    EXPECT_EQ(RangoFunciones(s.Red.Represas(1)).minimo, 5);
+    EXPECT_EQ(RangoFunciones(s.Red.Represas(1)).maximo, 7);
 }
 
 TEST_F(mdlFQs, SinLaPrimeraFuncionElCeroEntraEnLosLimites)
 {
-    s.Represas(1).FQmin[0] = 90;  // not in use
-    s.Represas(1).FQMax[0] = 200;
+    s.Red.Represas(1).FQmin[0] = 90;  // not in use
+    s.Red.Represas(1).FQMax[0] = 200;
     PonFuncion(2, 1, 1, 0, 100, 110);
-    EXPECT_EQ(RangoFunciones(s.Represas(1)).minimo, 0);
-    EXPECT_EQ(RangoFunciones(s.Represas(1)).maximo, 110);
+    EXPECT_EQ(RangoFunciones(s.Red.Represas(1)).minimo, 0);
+    EXPECT_EQ(RangoFunciones(s.Red.Represas(1)).maximo, 110);
     PonFuncion(2, 1, 1, 0, -20, -10);
-    EXPECT_EQ(RangoFunciones(s.Represas(1)).minimo, -20);
-    EXPECT_EQ(RangoFunciones(s.Represas(1)).maximo, 0);
+    EXPECT_EQ(RangoFunciones(s.Red.Represas(1)).minimo, -20);
+    EXPECT_EQ(RangoFunciones(s.Red.Represas(1)).maximo, 0);
 }
 
 TEST_F(mdlFQs, ConTablaLosLimitesSonLosDeLaTabla)
@@ -442,7 +442,7 @@ TEST_F(mdlFQs, MasDeMilVueltasTerminaElPrograma)
     EligeLago(1);
     EXPECT_THROW(H(0.3F), model::FinDelPrograma);
     EligeRepresa(1);
-    s.Represas(1).optTabla = false;
+    s.Red.Represas(1).optTabla = false;
     PonFuncion(1, 1, 1, 0, 1000000, 1000001);
     EXPECT_THROW(H(0.3F), model::FinDelPrograma);
     const Mensaje represa{
@@ -496,7 +496,7 @@ TEST_F(mdlFQs, UnaFallaDelCaudalSeInformaEnCadaVuelta)
 TEST_F(mdlFQs, CargaFQsCopiaLasFuncionesDeTodasLasRepresas)
 {
     for (int n = 1; n <= 2; ++n) {
-        model::Represa& r = s.Represas(n);
+        model::Represa& r = s.Red.Represas(n);
         for (std::size_t i = 0; i < 8; ++i) {
             const float base = 100.0F * static_cast<float>(n) + 10.0F * static_cast<float>(i + 1);
             r.FQa[i] = base + 1;
@@ -508,14 +508,14 @@ TEST_F(mdlFQs, CargaFQsCopiaLasFuncionesDeTodasLasRepresas)
         }
     }
     CargaFQs(s);
-    EXPECT_EQ(s.FQActiva.UltimaFila(), 2);
-    EXPECT_EQ(s.FQActiva.TopeColumna(), 8);
-    ASSERT_EQ(s.FQCoef.size(), 3U);
+    EXPECT_EQ(s.Red.FQActiva.UltimaFila(), 2);
+    EXPECT_EQ(s.Red.FQActiva.TopeColumna(), 8);
+    ASSERT_EQ(s.Red.FQCoef.size(), 3U);
     for (int n = 1; n <= 2; ++n) {
         for (int i = 1; i <= 8; ++i) {
-            const auto& c = s.FQCoef[static_cast<std::size_t>(n)][static_cast<std::size_t>(i)];
+            const auto& c = s.Red.FQCoef[static_cast<std::size_t>(n)][static_cast<std::size_t>(i)];
             const auto base = static_cast<float>(100 * n + 10 * i);
-            EXPECT_EQ(s.FQActiva(n, i), i - 1 + 100 * n);
+            EXPECT_EQ(s.Red.FQActiva(n, i), i - 1 + 100 * n);
             EXPECT_EQ(c[1], base + 1);
             EXPECT_EQ(c[2], base + 2);
             EXPECT_EQ(c[3], i < 5 ? 0 : base + 3);  // the first four have none
@@ -524,8 +524,8 @@ TEST_F(mdlFQs, CargaFQsCopiaLasFuncionesDeTodasLasRepresas)
         }
     }
     for (int i = 0; i <= 8; ++i) {
-        EXPECT_EQ(s.FQActiva(0, i), 0);
-        EXPECT_EQ(s.FQCoef[0][static_cast<std::size_t>(i)], (std::array<float, 6>{}));
+        EXPECT_EQ(s.Red.FQActiva(0, i), 0);
+        EXPECT_EQ(s.Red.FQCoef[0][static_cast<std::size_t>(i)], (std::array<float, 6>{}));
     }
 }
 
@@ -533,22 +533,22 @@ TEST_F(mdlFQs, CargaFQsEmpiezaDeNuevo)
 {
     PonFuncion(1, 1, 2, 3, 4, 5);
     CargaFQs(s);
-    EXPECT_EQ(s.FQActiva(1, 1), 1);
-    s.ColRepresas.Vacia();
-    s.NroRepresas = 0;
+    EXPECT_EQ(s.Red.FQActiva(1, 1), 1);
+    s.Red.ColRepresas.Vacia();
+    s.Red.NroRepresas = 0;
     CargaFQs(s);
-    EXPECT_EQ(s.FQActiva.UltimaFila(), 0);
-    EXPECT_EQ(s.FQCoef.size(), 1U);
+    EXPECT_EQ(s.Red.FQActiva.UltimaFila(), 0);
+    EXPECT_EQ(s.Red.FQCoef.size(), 1U);
 }
 
 TEST_F(mdlFQs, CargaFQsConUnNumeroFueraDeLosArreglos)
 {
     PonFuncion(1, 1, 2, 3, 4, 5);
     for (const std::int16_t numero : {std::int16_t{3}, std::int16_t{-1}}) {
-        s.Represas(2).numRepresa = numero;
+        s.Red.Represas(2).numRepresa = numero;
         EXPECT_EQ(NumeroDeFalla([&] { CargaFQs(s); }), 9) << numero;
-        EXPECT_EQ(s.FQActiva(1, 1), 1) << "what came before stays";
-        EXPECT_EQ(s.FQCoef[1][1][5], 5);
+        EXPECT_EQ(s.Red.FQActiva(1, 1), 1) << "what came before stays";
+        EXPECT_EQ(s.Red.FQCoef[1][1][5], 5);
     }
 }
 

@@ -200,7 +200,7 @@ TEST_P(LasSiete, SinRenglonesElCeroCallaYElRestoPregunta)
 TEST_P(LasSiete, SinCuentaPeroConRestosEnElPrimerRenglon)
 {
     PonHAS({{-5, -5, -5}, {8, 8, 8}});
-    s.RepresaFilasHAS(1) = s.LagoFilas(1) = 0;
+    s.Red.RepresaFilasHAS(1) = s.Red.LagoFilas(1) = 0;
     EXPECT_EQ(Busca(-3), 0);  // below row 0, above row 1, and no row to walk: unset
     EXPECT_TRUE(Callado());
     EXPECT_EQ(Busca(-5), -5);
@@ -246,14 +246,14 @@ TEST_P(LasSiete, SinComponenteEnMano)
 
 TEST_P(LasSiete, IndicesFueraDeLosArreglos)
 {
-    s.RepresaFilasHAS(1) = s.LagoFilas(1) = -1;
+    s.Red.RepresaFilasHAS(1) = s.Red.LagoFilas(1) = -1;
     EXPECT_EQ(NumeroDeFalla([&] { Busca(20); }), 9);
-    s.RepresaFilasHAS(1) = s.LagoFilas(1) = static_cast<std::int16_t>(s.LagoH.TopeColumna() + 1);
+    s.Red.RepresaFilasHAS(1) = s.Red.LagoFilas(1) = static_cast<std::int16_t>(s.Red.LagoH.TopeColumna() + 1);
     EXPECT_EQ(NumeroDeFalla([&] { Busca(20); }), 9);
-    s.RepresaFilasHAS(1) = s.LagoFilas(1) = 200;
+    s.Red.RepresaFilasHAS(1) = s.Red.LagoFilas(1) = 200;
     EXPECT_EQ(NumeroDeFalla([&] { Busca(20); }), 9);
-    s.Represas(1).numRepresa = 3;
-    s.Lagos(1).numLAGO = 3;
+    s.Red.Represas(1).numRepresa = 3;
+    s.Red.Lagos(1).numLAGO = 3;
     EXPECT_EQ(NumeroDeFalla([&] { Busca(20); }), 9);
     EXPECT_TRUE(Callado());
 }

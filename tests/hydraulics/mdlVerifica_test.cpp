@@ -31,8 +31,8 @@ class Verificacion : public testing::Test, public pruebas::EstadoConEmbalses {
   protected:
     Verificacion()
     {
-        s.NombreProyecto = "Arroyo";
-        s.DirProyecto = "/proy";
+        s.Proyecto.NombreProyecto = "Arroyo";
+        s.Proyecto.DirProyecto = "/proy";
         s.CompActual = {};
         disco.PonDirectorio("/proy");
         PonRHAS("0,0,0\r\n100,50,1000\r\n", 2);
@@ -51,8 +51,8 @@ class Verificacion : public testing::Test, public pruebas::EstadoConEmbalses {
     /// Only the first Represa is there.
     void DejaUna()
     {
-        s.ColRepresas.Quita(2);
-        s.NroRepresas = 1;
+        s.Red.ColRepresas.Quita(2);
+        s.Red.NroRepresas = 1;
     }
     [[nodiscard]] std::vector<Mensaje> Peticiones() const
     {
@@ -61,7 +61,7 @@ class Verificacion : public testing::Test, public pruebas::EstadoConEmbalses {
     [[nodiscard]] std::vector<std::string> Renglones() const
     {
         std::vector<std::string> renglones;
-        std::string_view texto = s.TextoPizarra;
+        std::string_view texto = s.Control.TextoPizarra;
         while (!texto.empty()) {
             texto.remove_prefix(2);
             const std::size_t fin = std::min(texto.find("\r\n"), texto.size());
@@ -72,8 +72,8 @@ class Verificacion : public testing::Test, public pruebas::EstadoConEmbalses {
     }
     [[nodiscard]] bool PizarraMostrada() const
     {
-        return s.SalidaPizarra && anfitrion->marcaPizarra && anfitrion->pizarrasAbiertas == 1 &&
-               anfitrion->pizarra == s.TextoPizarra;
+        return s.Control.SalidaPizarra && anfitrion->marcaPizarra && anfitrion->pizarrasAbiertas == 1 &&
+               anfitrion->pizarra == s.Control.TextoPizarra;
     }
 };
 
@@ -81,12 +81,12 @@ class Verificacion : public testing::Test, public pruebas::EstadoConEmbalses {
 
 TEST_F(Verificacion, SinRepresasNingunoHaceNada)
 {
-    s.NroRepresas = 0;
+    s.Red.NroRepresas = 0;
     VerificaHSV(s);
     VerificaHQ(s);
     EXPECT_TRUE(Callado());
-    EXPECT_EQ(s.TextoPizarra, "");
-    EXPECT_FALSE(s.SalidaPizarra);
+    EXPECT_EQ(s.Control.TextoPizarra, "");
+    EXPECT_FALSE(s.Control.SalidaPizarra);
 }
 
 TEST_F(Verificacion, LasComasDelPasoSeHacenPuntos)
@@ -116,18 +116,18 @@ TEST_F(Verificacion, LaOpcion0TerminaSinMostrarLaPizarra)
     for (const char* opcion : {"0", "", "x"}) {
         Responde({"1", opcion});
         VerificaHSV(s);
-        EXPECT_EQ(s.TextoPizarra, "");
+        EXPECT_EQ(s.Control.TextoPizarra, "");
         EXPECT_EQ(anfitrion->pizarrasAbiertas, 0);
-        EXPECT_FALSE(s.SalidaPizarra);
+        EXPECT_FALSE(s.Control.SalidaPizarra);
     }
 }
 
 TEST_F(Verificacion, OtraOpcionMuestraLaPizarraComoEsta)
 {
-    s.TextoPizarra = "antes";
+    s.Control.TextoPizarra = "antes";
     Responde({"1", "3"});
     VerificaHSV(s);
-    EXPECT_EQ(s.TextoPizarra, "antes");
+    EXPECT_EQ(s.Control.TextoPizarra, "antes");
     EXPECT_TRUE(PizarraMostrada());
 }
 
@@ -143,7 +143,7 @@ TEST_F(Verificacion, UnNumeroSinRepresaEsFallaYTermina)
         VerificaHSV(s);
         EXPECT_EQ(anfitrion->Avisos(), (std::vector<Mensaje>{{mensaje, "", Icono::Ninguno}}));
         EXPECT_EQ(Peticiones().size(), 1U);
-        EXPECT_EQ(s.TextoPizarra, "");
+        EXPECT_EQ(s.Control.TextoPizarra, "");
     }
 }
 
@@ -163,7 +163,7 @@ TEST_F(Verificacion, LaTablaVaDelMinimoAlMaximoPorElPasoPedido)
                    "\r\n 50        25             500      "
                    "\r\n 75        37.5           750      "
                    "\r\n 100       50             1000     ",
-                   s.TextoPizarra));
+                   s.Control.TextoPizarra));
     EXPECT_TRUE(PizarraMostrada());
     EXPECT_TRUE(anfitrion->Avisos().empty());
 }
@@ -191,7 +191,7 @@ TEST_F(Verificacion, ElUltimoRenglonPuedeQuedarCorto)
 TEST_F(Verificacion, UnPasoCeroDaElPrimerRenglonYSale)
 {
     for (const char* paso : {"0", "", "x", "-5"}) {
-        s.TextoPizarra.clear();
+        s.Control.TextoPizarra.clear();
         anfitrion->pizarrasAbiertas = 0;
         Responde({"1", "1", paso});
         VerificaHSV(s);
@@ -259,7 +259,7 @@ TEST_F(Verificacion, UnaRepresaSinFilasTieneUnRenglonDeCeros)
               " 0      0         0            0            0              0         0             ");
     EXPECT_TRUE(anfitrion->Preguntas().empty());
     EXPECT_EQ(s.CompActual.item, 2);
-    s.TextoPizarra.clear();
+    s.Control.TextoPizarra.clear();
     Responde({"2", "1", ""});
     VerificaHSV(s);
     EXPECT_EQ(Renglones().size(), 4U);
@@ -269,22 +269,22 @@ TEST_F(Verificacion, LaSegundaVezSeAgregaALoQueHay)
 {
     Responde({"1", "1", "50", "1", "1", "50"});
     VerificaHSV(s);
-    const std::string primera = s.TextoPizarra;
+    const std::string primera = s.Control.TextoPizarra;
     VerificaHSV(s);
-    EXPECT_EQ(s.TextoPizarra, primera + primera);
+    EXPECT_EQ(s.Control.TextoPizarra, primera + primera);
 }
 
 TEST_F(Verificacion, LaTablaSeLeeDeNuevoDelDisco)
 {
-    s.RepresaH(1, 1) = 99;
+    s.Red.RepresaH(1, 1) = 99;
     Responde({"1", "1", "100"});
     VerificaHSV(s);
-    EXPECT_EQ(s.RepresaH(1, 1), 0.0F);
+    EXPECT_EQ(s.Red.RepresaH(1, 1), 0.0F);
 }
 
 TEST_F(Verificacion, DosRepresasDelMismoNombreSonLaPrimera)
 {
-    s.Represas(2).NombreRepresa = "r-uno";
+    s.Red.Represas(2).NombreRepresa = "r-uno";
     Responde({"2", "0"});
     VerificaHSV(s);
     EXPECT_EQ(s.CompActual.item, 1);
@@ -295,7 +295,7 @@ TEST_F(Verificacion, DosRepresasDelMismoNombreSonLaPrimera)
 TEST_F(Verificacion, ListaLaTablaDeCaudales)
 {
     PonRHQ("10,0\r\n11,2.5\r\n12,8\r\n", 3);
-    s.Represas(1).optTabla = true;
+    s.Red.Represas(1).optTabla = true;
     DejaUna();
     Responde({"0.5"});
     VerificaHQ(s);
@@ -309,14 +309,14 @@ TEST_F(Verificacion, ListaLaTablaDeCaudales)
         "\r\n     i      H[m]       Q[m]" +
             RenglonHQ("0", "10", "0") + RenglonHQ("1", "10.5", "1.25") + RenglonHQ("2", "11", "2.5") +
             RenglonHQ("3", "11.5", "5.25") + RenglonHQ("4", "12", "8"),
-        s.TextoPizarra));
+        s.Control.TextoPizarra));
     EXPECT_TRUE(PizarraMostrada());
 }
 
 TEST_F(Verificacion, ElIncrementoOfrecidoEsUnDecimo)
 {
     PonRHQ("10,0\r\n10.25,2.5\r\n", 2);
-    s.Represas(1).optTabla = true;
+    s.Red.Represas(1).optTabla = true;
     DejaUna();
     anfitrion->aceptaDefecto = true;
     VerificaHQ(s);
@@ -332,7 +332,7 @@ TEST_F(Verificacion, DeLasFuncionesListaLasExpresionesDeLasActivas)
     PonFuncion(1, 2, 1.5F, 0, 0, 4);
     PonFuncion(5, 1, 0.5F, 0.25F, 2, 6);
     PonFuncion(2, 9, 9, 9, 9, 9);
-    s.Represas(1).chkFQ[1] = 0;
+    s.Red.Represas(1).chkFQ[1] = 0;
     DejaUna();
     Responde({"2"});
     VerificaHQ(s);
@@ -345,7 +345,7 @@ TEST_F(Verificacion, DeLasFuncionesListaLasExpresionesDeLasActivas)
                    "\r\n     i      H[m]       Q[m]" +
                        RenglonHQ("0", "0", "0") + RenglonHQ("1", "2", "6.656854") +
                        RenglonHQ("2", "4", "19") + RenglonHQ("3", "6", "7"),
-                   s.TextoPizarra));
+                   s.Control.TextoPizarra));
 }
 
 TEST_F(Verificacion, SinLaPrimeraFuncionElRangoEmpiezaEnCero)
@@ -406,7 +406,7 @@ TEST_F(Verificacion, CeroComoSegundaRespuestaDaUnSoloRenglon)
 TEST_F(Verificacion, CadaRepresaSePideYSeListaEnSuOrden)
 {
     PonRHQ("10,0\r\n12,8\r\n", 2);
-    s.Represas(1).optTabla = s.Represas(2).optTabla = true;
+    s.Red.Represas(1).optTabla = s.Red.Represas(2).optTabla = true;
     Responde({"2", "1"});
     VerificaHQ(s);
     const std::vector<std::string> renglones = Renglones();

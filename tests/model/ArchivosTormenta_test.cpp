@@ -26,8 +26,8 @@ struct ArchivosTormenta : ::testing::Test, MundoDeProyecto {
     {
         disco.PonDirectorio(Trabajo);
         disco.PonDirectorio(Proyecto);
-        s.DirTrabajo = Trabajo;
-        s.DirProyecto = Proyecto;
+        s.Proyecto.DirTrabajo = Trabajo;
+        s.Proyecto.DirProyecto = Proyecto;
     }
     void PonTormenta(const std::string& nombre, const std::string& bytes)
     {
@@ -78,26 +78,27 @@ TEST_F(ArchivosTormenta, LaTormentaRealLlenaFormaYTormenta)
     const TormentaReal t = Lee(TormentaDeCuatro);
     EXPECT_EQ(t, (TormentaReal{"x_pt.vlm", "Cuatro intervalos, del río", 30, "10/05/1992", "14:00",
                                "10/05/1992", "16:00"}));
-    EXPECT_EQ(s.NroPpReal, 4);
-    EXPECT_EQ(s.PpReal.Tope(), 4);
-    EXPECT_EQ((std::vector<float>{s.PpReal(0), s.PpReal(1), s.PpReal(2), s.PpReal(3), s.PpReal(4)}),
+    EXPECT_EQ(s.Tormenta.NroPpReal, 4);
+    EXPECT_EQ(s.Tormenta.PpReal.Tope(), 4);
+    EXPECT_EQ((std::vector<float>{s.Tormenta.PpReal(0), s.Tormenta.PpReal(1), s.Tormenta.PpReal(2),
+                                  s.Tormenta.PpReal(3), s.Tormenta.PpReal(4)}),
               (std::vector<float>{0, 1.5F, 12.25F, 0, 0.25F}));
-    EXPECT_EQ(s.DurTormenta, 120);  // 4 x 30
-    EXPECT_EQ(s.PpTormenta, 14.0F);
-    EXPECT_EQ(s.ArchivoTemp, Ruta(Proyecto, "x_pt.vlm"));
+    EXPECT_EQ(s.Tormenta.DurTormenta, 120);  // 4 x 30
+    EXPECT_EQ(s.Tormenta.PpTormenta, 14.0F);
+    EXPECT_EQ(s.Proyecto.ArchivoTemp, Ruta(Proyecto, "x_pt.vlm"));
     EXPECT_TRUE(Cajas().empty());
 }
 
 TEST_F(ArchivosTormenta, TormentaSinIntervalosTerminaTrasElCuartoRenglonYDaCero)
 {
-    s.PpTormenta = 60;
-    s.DurTormenta = 60;
-    s.NroPpReal = 5;
+    s.Tormenta.PpTormenta = 60;
+    s.Tormenta.DurTormenta = 60;
+    s.Tormenta.NroPpReal = 5;
     const TormentaReal t =
         Lee("\"nueva\"\r\n0,10\r\n\"01/01/1001\",\"00:00\"\r\n\"01/01/1001\",\"00:00\"\r\n");
-    EXPECT_EQ(s.NroPpReal, 0);
-    EXPECT_EQ(s.PpTormenta, 0.0F);
-    EXPECT_EQ(s.DurTormenta, 0);
+    EXPECT_EQ(s.Tormenta.NroPpReal, 0);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 0.0F);
+    EXPECT_EQ(s.Tormenta.DurTormenta, 0);
     EXPECT_EQ(t.Notas, "nueva");
     EXPECT_EQ(t.txtDateF, "01/01/1001");
     EXPECT_EQ(t.PasoPpReal, 10);
@@ -108,43 +109,43 @@ TEST_F(ArchivosTormenta, LaSumaSeRedondeaA32BitsEnCadaPaso)
     // Above 2^24 a 32-bit float holds even numbers only: 16777216 + 1 is a tie, goes back to 16777216, twice.
     // Added in 64 bits and rounded once it would be 16777218.
     Lee("\"\"\r\n3,10\r\n\"\",\"\"\r\n\"\",\"\"\r\n16777216\r\n1\r\n1\r\n");
-    EXPECT_EQ(s.PpTormenta, 16777216.0F);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 16777216.0F);
 }
 
 TEST_F(ArchivosTormenta, ComaYFinDeRenglonSonLoMismoAlLeer)
 {
     const TormentaReal t = Lee("\"nota\",2\r\n30\r\n\"a\"\r\n\"b\",\"c\"\r\n\"d\",1,2");
     EXPECT_EQ(t, (TormentaReal{"x_pt.vlm", "nota", 30, "a", "b", "c", "d"}));
-    EXPECT_EQ(s.NroPpReal, 2);
-    EXPECT_EQ(s.PpTormenta, 3.0F);
+    EXPECT_EQ(s.Tormenta.NroPpReal, 2);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 3.0F);
 }
 
 TEST_F(ArchivosTormenta, LaCuentaYElPasoSeRedondeanAlEnteroYElEmpateAlPar)
 {
     const TormentaReal t = Lee("\"\"\r\n2.5,29.5\r\n\"\",\"\"\r\n\"\",\"\"\r\n1\r\n1\r\n");
-    EXPECT_EQ(s.NroPpReal, 2);
+    EXPECT_EQ(s.Tormenta.NroPpReal, 2);
     EXPECT_EQ(t.PasoPpReal, 30);
-    EXPECT_EQ(s.DurTormenta, 60);
+    EXPECT_EQ(s.Tormenta.DurTormenta, 60);
 }
 
 TEST_F(ArchivosTormenta, UnaTormentaMasLargaQue32767MinutosNoSeLee)
 {
-    s.DurTormenta = 77;
-    s.PpTormenta = 7;
+    s.Tormenta.DurTormenta = 77;
+    s.Tormenta.PpTormenta = 7;
     Lee("\"\"\r\n2,16383\r\n\"\",\"\"\r\n\"\",\"\"\r\n1\r\n2\r\n");
-    EXPECT_EQ(s.DurTormenta, 32766);
-    EXPECT_EQ(s.NroPpReal, 2);
+    EXPECT_EQ(s.Tormenta.DurTormenta, 32766);
+    EXPECT_EQ(s.Tormenta.NroPpReal, 2);
     Lee("\"\"\r\n2,16384\r\n\"\",\"\"\r\n\"\",\"\"\r\n10\r\n20\r\n");  // 32768
-    EXPECT_EQ(s.NroPpReal, 0);
-    EXPECT_EQ(s.DurTormenta, 32766) << "the storm in hand stays";
-    EXPECT_EQ(s.PpTormenta, 3.0F);
+    EXPECT_EQ(s.Tormenta.NroPpReal, 0);
+    EXPECT_EQ(s.Tormenta.DurTormenta, 32766) << "the storm in hand stays";
+    EXPECT_EQ(s.Tormenta.PpTormenta, 3.0F);
     EXPECT_TRUE(Cajas().empty());
 }
 
 TEST_F(ArchivosTormenta, UnaSumaFueraDelTipoDejaLaTormentaSinIntervalos)
 {
     Lee("\"\"\r\n2,10\r\n\"\",\"\"\r\n\"\",\"\"\r\n3E38\r\n3E38\r\n");
-    EXPECT_EQ(s.NroPpReal, 0);
+    EXPECT_EQ(s.Tormenta.NroPpReal, 0);
     EXPECT_TRUE(Cajas().empty());
 }
 
@@ -172,28 +173,28 @@ TEST_F(ArchivosTormenta, UnaTormentaQueNoSePuedeLeerEsCalladaYQuedaSinIntervalos
              Caso{"a double quote and a comma in the note",
                   "\"un \"dique\", roto\"\r\n1,10\r\n" + fechas + "1\r\n"},
          }) {
-        s.NroPpReal = 3;
+        s.Tormenta.NroPpReal = 3;
         Lee(caso.bytes);
-        EXPECT_EQ(s.NroPpReal, 0) << caso.que;
+        EXPECT_EQ(s.Tormenta.NroPpReal, 0) << caso.que;
         EXPECT_TRUE(Cajas().empty()) << caso.que;
     }
 }
 
 TEST_F(ArchivosTormenta, UnaTormentaQueNoEstaEsCalladaYQuedaSinIntervalos)
 {
-    s.NroPpReal = 3;
+    s.Tormenta.NroPpReal = 3;
     TormentaReal t{.nombre = "nada_pt.vlm"};
     LeePpReal(s, t);
-    EXPECT_EQ(s.NroPpReal, 0);
-    s.NroPpReal = 3;
-    s.DirProyecto = "no hay";
+    EXPECT_EQ(s.Tormenta.NroPpReal, 0);
+    s.Tormenta.NroPpReal = 3;
+    s.Proyecto.DirProyecto = "no hay";
     LeePpReal(s, t);
-    EXPECT_EQ(s.NroPpReal, 0);
-    s.NroPpReal = 3;
-    s.DirProyecto = Proyecto;
+    EXPECT_EQ(s.Tormenta.NroPpReal, 0);
+    s.Tormenta.NroPpReal = 3;
+    s.Proyecto.DirProyecto = Proyecto;
     disco.FallaDesde(1, NumeroFalla::AccesoRuta);
     LeePpReal(s, t);
-    EXPECT_EQ(s.NroPpReal, 0);
+    EXPECT_EQ(s.Tormenta.NroPpReal, 0);
     EXPECT_TRUE(Cajas().empty());
 }
 
@@ -203,7 +204,7 @@ TEST_F(ArchivosTormenta, UnaTormentaCortadaEnCadaByteSeLeeSoloSiLlegaAlUltimoInt
     const std::size_t ultimo = bytes.find("3.25");  // where the last of the fields begins
     for (std::size_t n = 0; n <= bytes.size(); ++n) {
         Lee(bytes.substr(0, n));
-        EXPECT_EQ(s.NroPpReal, n > ultimo ? 2 : 0) << n << " bytes";
+        EXPECT_EQ(s.Tormenta.NroPpReal, n > ultimo ? 2 : 0) << n << " bytes";
         EXPECT_TRUE(Cajas().empty()) << n << " bytes";
     }
 }
@@ -221,14 +222,14 @@ TEST_F(ArchivosTormenta, ElNombrePorDefectoEsElMismoEnTodasPartes)
           Caso{"a_pt.vlm_pt.vlm", "a_pt.vlm_pt.vlm"}}) {
         EXPECT_EQ(NombreTormenta(nombre), espera) << nombre;
         TormentaReal t{.nombre = nombre};
-        s.NroPpReal = 0;
+        s.Tormenta.NroPpReal = 0;
         GuardaPpReal(s, t);
         EXPECT_EQ(t.nombre, espera) << nombre;
         EXPECT_TRUE(disco.Esta(Ruta(Proyecto, espera))) << nombre;
         t.nombre = nombre;
         LeePpReal(s, t);
         EXPECT_EQ(t.nombre, espera) << nombre;
-        EXPECT_EQ(s.ArchivoTemp, Ruta(Proyecto, espera)) << nombre;
+        EXPECT_EQ(s.Proyecto.ArchivoTemp, Ruta(Proyecto, espera)) << nombre;
         EXPECT_EQ(EtiquetaTormenta(s, nombre), espera) << nombre;
     }
     EXPECT_TRUE(Cajas().empty());
@@ -236,11 +237,11 @@ TEST_F(ArchivosTormenta, ElNombrePorDefectoEsElMismoEnTodasPartes)
 
 TEST_F(ArchivosTormenta, GuardarEscribeLaTormentaRenglonPorRenglon)
 {
-    s.NroPpReal = 3;
-    s.PpReal.Dimensiona(3);
-    s.PpReal(1) = 12.5F;
-    s.PpReal(2) = 0.05F;
-    s.PpReal(3) = 12345678.0F;
+    s.Tormenta.NroPpReal = 3;
+    s.Tormenta.PpReal.Dimensiona(3);
+    s.Tormenta.PpReal(1) = 12.5F;
+    s.Tormenta.PpReal(2) = 0.05F;
+    s.Tormenta.PpReal(3) = 12345678.0F;
     TormentaReal t{
         "río_pt.vlm", "creciente del río, \xE2\x82\xAC y \xCE\xB1", 10, "01/01/1001", "00:00", "fin", ""};
     GuardaPpReal(s, t);
@@ -253,7 +254,7 @@ TEST_F(ArchivosTormenta, GuardarEscribeLaTormentaRenglonPorRenglon)
 
 TEST_F(ArchivosTormenta, UnaTormentaNuevaTerminaTrasElCuartoRenglon)
 {
-    s.NroPpReal = 0;
+    s.Tormenta.NroPpReal = 0;
     TormentaReal t{"n_pt.vlm", "describa", 10, "01/01/1001", "00:00", "01/01/1001", "00:00"};
     GuardaPpReal(s, t);
     EXPECT_EQ(disco.Bytes(Ruta(Proyecto, "n_pt.vlm")),
@@ -262,49 +263,49 @@ TEST_F(ArchivosTormenta, UnaTormentaNuevaTerminaTrasElCuartoRenglon)
 
 TEST_F(ArchivosTormenta, SiempreSeEscribenTantosIntervalosComoDiceLaCuenta)
 {
-    s.PpReal.Dimensiona(3);
+    s.Tormenta.PpReal.Dimensiona(3);
     for (int j = 1; j <= 3; ++j)
-        s.PpReal(j) = static_cast<float>(j);
+        s.Tormenta.PpReal(j) = static_cast<float>(j);
     TormentaReal t{.nombre = "x_pt.vlm"};
-    s.NroPpReal = 5;  // two more than there are: zeros
+    s.Tormenta.NroPpReal = 5;  // two more than there are: zeros
     GuardaPpReal(s, t);
     EXPECT_EQ(disco.Bytes(Ruta(Proyecto, "x_pt.vlm")),
               "\"\"\r\n5,0\r\n\"\",\"\"\r\n\"\",\"\"\r\n1\r\n2\r\n3\r\n0\r\n0\r\n");
-    EXPECT_EQ(s.PpReal.Tope(), 5);
-    s.NroPpReal = 1;
+    EXPECT_EQ(s.Tormenta.PpReal.Tope(), 5);
+    s.Tormenta.NroPpReal = 1;
     GuardaPpReal(s, t);
     EXPECT_EQ(disco.Bytes(Ruta(Proyecto, "x_pt.vlm")), "\"\"\r\n1,0\r\n\"\",\"\"\r\n\"\",\"\"\r\n1\r\n");
-    EXPECT_EQ(s.PpReal.Tope(), 1);
+    EXPECT_EQ(s.Tormenta.PpReal.Tope(), 1);
 }
 
 TEST_F(ArchivosTormenta, AlLeerLosIntervalosViejosNoQuedanALaVista)
 {
-    s.PpReal.Dimensiona(9);
+    s.Tormenta.PpReal.Dimensiona(9);
     for (int j = 0; j <= 9; ++j)
-        s.PpReal(j) = 99;
+        s.Tormenta.PpReal(j) = 99;
     Lee(Cabecera + "1\r\nmal\r\n");
-    EXPECT_EQ(s.NroPpReal, 0);
-    EXPECT_EQ(s.PpReal.Tope(), 2);
-    EXPECT_EQ(s.PpReal(0), 0.0F);
-    EXPECT_EQ(s.PpReal(1), 1.0F) << "what was read before the failure stays";
-    EXPECT_EQ(s.PpReal(2), 0.0F) << "and what wasn't is zero";
+    EXPECT_EQ(s.Tormenta.NroPpReal, 0);
+    EXPECT_EQ(s.Tormenta.PpReal.Tope(), 2);
+    EXPECT_EQ(s.Tormenta.PpReal(0), 0.0F);
+    EXPECT_EQ(s.Tormenta.PpReal(1), 1.0F) << "what was read before the failure stays";
+    EXPECT_EQ(s.Tormenta.PpReal(2), 0.0F) << "and what wasn't is zero";
 }
 
 TEST_F(ArchivosTormenta, GuardarLaTormentaEntregaLaFallaAQuienLoPide)
 {
     TormentaReal t{.nombre = "x_pt.vlm", .Notas = "n", .PasoPpReal = 10};
-    s.NroPpReal = 1;
-    s.DirProyecto = "no hay";
+    s.Tormenta.NroPpReal = 1;
+    s.Proyecto.DirProyecto = "no hay";
     EXPECT_EQ(NumeroDeFalla([&] { GuardaPpReal(s, t); }), 76);
-    s.DirProyecto = Proyecto;
-    s.NroPpReal = -1;
+    s.Proyecto.DirProyecto = Proyecto;
+    s.Tormenta.NroPpReal = -1;
     EXPECT_EQ(NumeroDeFalla([&] { GuardaPpReal(s, t); }), 9);
     EXPECT_FALSE(disco.Esta(Ruta(Proyecto, "x_pt.vlm"))) << "the file isn't touched then";
-    s.NroPpReal = 1;
+    s.Tormenta.NroPpReal = 1;
     for (const auto numero : {NumeroFalla::AccesoRuta, NumeroFalla::ArchivoNoEsta}) {
         disco.FallaDesde(1, numero);
         EXPECT_EQ(NumeroDeFalla([&] { GuardaPpReal(s, t); }), static_cast<int>(numero));
-        EXPECT_EQ(s.NroPpReal, 1);
+        EXPECT_EQ(s.Tormenta.NroPpReal, 1);
         EXPECT_EQ(t.Notas, "n");
     }
     EXPECT_TRUE(Cajas().empty());
@@ -327,7 +328,7 @@ TEST_F(ArchivosTormenta, LaListaDeTormentasTieneLasDelDirectorioDelProyecto)
         PonTormenta(nombre, "");
     disco.Pon(Ruta(Trabajo, "c_pt.vlm"), "");
     EXPECT_EQ(ListaTormentas(s), (std::vector<std::string>{"_pt.vlm", "a_pt.vlm", "b_pt.vlm"}));
-    s.DirProyecto = "no hay";
+    s.Proyecto.DirProyecto = "no hay";
     EXPECT_EQ(NumeroDeFalla([&] { ListaTormentas(s); }), 76);
 }
 
@@ -392,16 +393,16 @@ const std::string DosTablas =
 TEST_F(ArchivosTormenta, LasDistribucionesLlenanLasTresTablas)
 {
     PonDisPer(DosTablas);
-    s.NroFilasTabla[0] = 44;
+    s.TablasDeLluvia.NroFilasTabla[0] = 44;
     LeeTablaDisTemPer(s);
-    EXPECT_EQ(s.NroFilasTabla, (std::array<std::int16_t, 4>{44, 2, 0, 3}));
-    EXPECT_EQ(s.NotasDisPer, (std::array<std::string, 4>{"", "corta, 1 h", "", "tres"}));
-    EXPECT_EQ(s.DurMinPer, (std::array<std::int16_t, 4>{0, 30, 5, 60}));
-    EXPECT_EQ(s.DurMaxPer, (std::array<std::int16_t, 4>{0, 60, 10, 1440}));
-    EXPECT_EQ(s.DisPerso.PrimeraFila(), 0);
-    EXPECT_EQ(s.DisPerso.UltimaFila(), 3);
-    EXPECT_EQ(s.DisPerso.TopeColumna(), 4) << "one more than the largest count";
-    EXPECT_EQ(s.ArchivoTemp, Ruta(Trabajo, "distriPp_dpt.vlm"));
+    EXPECT_EQ(s.TablasDeLluvia.NroFilasTabla, (std::array<std::int16_t, 4>{44, 2, 0, 3}));
+    EXPECT_EQ(s.TablasDeLluvia.NotasDisPer, (std::array<std::string, 4>{"", "corta, 1 h", "", "tres"}));
+    EXPECT_EQ(s.TablasDeLluvia.DurMinPer, (std::array<std::int16_t, 4>{0, 30, 5, 60}));
+    EXPECT_EQ(s.TablasDeLluvia.DurMaxPer, (std::array<std::int16_t, 4>{0, 60, 10, 1440}));
+    EXPECT_EQ(s.TablasDeLluvia.DisPerso.PrimeraFila(), 0);
+    EXPECT_EQ(s.TablasDeLluvia.DisPerso.UltimaFila(), 3);
+    EXPECT_EQ(s.TablasDeLluvia.DisPerso.TopeColumna(), 4) << "one more than the largest count";
+    EXPECT_EQ(s.Proyecto.ArchivoTemp, Ruta(Trabajo, "distriPp_dpt.vlm"));
     EXPECT_TRUE(Cajas().empty());
 }
 
@@ -409,25 +410,28 @@ TEST_F(ArchivosTormenta, UnPorcentajeConDecimalesVuelveEntero)
 {
     PonDisPer(DosTablas);
     LeeTablaDisTemPer(s);
-    EXPECT_EQ(s.DisPerso(1, 1), 12.0F);  // a tie goes to the even one
-    EXPECT_EQ(s.DisPerso(1, 2), 88.0F);
-    EXPECT_EQ(s.DisPerso(3, 2), 33.0F);
-    EXPECT_EQ(s.DisPerso(3, 3), 34.0F);
+    EXPECT_EQ(s.TablasDeLluvia.DisPerso(1, 1), 12.0F);  // a tie goes to the even one
+    EXPECT_EQ(s.TablasDeLluvia.DisPerso(1, 2), 88.0F);
+    EXPECT_EQ(s.TablasDeLluvia.DisPerso(3, 2), 33.0F);
+    EXPECT_EQ(s.TablasDeLluvia.DisPerso(3, 3), 34.0F);
 }
 
 TEST_F(ArchivosTormenta, GuardarYLeerPierdeLosDecimalesYElCierre)
 {
     PonDisPer("3,0,0\r\n\"\"\r\n0,0\r\n1\r\n1\r\n1\r\n\"\"\r\n0,0\r\n\"\"\r\n0,0\r\n");
     LeeTablaDisTemPer(s);
-    s.DisPerso(1, 1) = 33.3333F;
-    s.DisPerso(1, 2) = 12.5F;
-    s.DisPerso(1, 3) = 54.1667F;  // 100 in all
+    s.TablasDeLluvia.DisPerso(1, 1) = 33.3333F;
+    s.TablasDeLluvia.DisPerso(1, 2) = 12.5F;
+    s.TablasDeLluvia.DisPerso(1, 3) = 54.1667F;  // 100 in all
     GuardaTablaDisPer(s);
     EXPECT_EQ(DisPer(),
               "3,0,0\r\n\"\"\r\n0,0\r\n33.3333\r\n12.5\r\n54.1667\r\n\"\"\r\n0,0\r\n\"\"\r\n0,0\r\n")
         << "the decimals are in the file";
     LeeTablaDisTemPer(s);
-    EXPECT_EQ(s.DisPerso(1, 1) + s.DisPerso(1, 2) + s.DisPerso(1, 3), 99.0F) << "33 + 12 + 54";
+    EXPECT_EQ(
+        s.TablasDeLluvia.DisPerso(1, 1) + s.TablasDeLluvia.DisPerso(1, 2) + s.TablasDeLluvia.DisPerso(1, 3),
+        99.0F)
+        << "33 + 12 + 54";
 }
 
 TEST_F(ArchivosTormenta, LasCasillasEnUsoSePonenEnCeroAntesDeLeer)
@@ -436,22 +440,22 @@ TEST_F(ArchivosTormenta, LasCasillasEnUsoSePonenEnCeroAntesDeLeer)
     LeeTablaDisTemPer(s);
     PonDisPer("1,0,3\r\n\"otra\"\r\n1,2\r\nmal\r\n");
     LeeTablaDisTemPer(s);
-    EXPECT_EQ(s.NroFilasTabla, (std::array<std::int16_t, 4>{0, 0, 0, 0}));
-    EXPECT_EQ(s.DisPerso(1, 1), 0.0F);
-    EXPECT_EQ(s.DisPerso(3, 1), 0.0F);
-    EXPECT_EQ(s.DisPerso(3, 3), 0.0F);
+    EXPECT_EQ(s.TablasDeLluvia.NroFilasTabla, (std::array<std::int16_t, 4>{0, 0, 0, 0}));
+    EXPECT_EQ(s.TablasDeLluvia.DisPerso(1, 1), 0.0F);
+    EXPECT_EQ(s.TablasDeLluvia.DisPerso(3, 1), 0.0F);
+    EXPECT_EQ(s.TablasDeLluvia.DisPerso(3, 3), 0.0F);
 }
 
 TEST_F(ArchivosTormenta, LoLeidoAntesDeLaFallaQuedaOcultoPorLasCuentas)
 {
     PonDisPer(DosTablas.substr(0, DosTablas.find("33.4")));
-    s.NroFilasTabla = {9, 9, 9, 9};
+    s.TablasDeLluvia.NroFilasTabla = {9, 9, 9, 9};
     LeeTablaDisTemPer(s);
-    EXPECT_EQ(s.NroFilasTabla, (std::array<std::int16_t, 4>{9, 0, 0, 0}));
-    EXPECT_EQ(s.DisPerso(1, 2), 88.0F);
-    EXPECT_EQ(s.DisPerso(3, 1), 33.0F);
-    EXPECT_EQ(s.NotasDisPer[3], "tres");
-    EXPECT_EQ(s.DurMaxPer[3], 1440);
+    EXPECT_EQ(s.TablasDeLluvia.NroFilasTabla, (std::array<std::int16_t, 4>{9, 0, 0, 0}));
+    EXPECT_EQ(s.TablasDeLluvia.DisPerso(1, 2), 88.0F);
+    EXPECT_EQ(s.TablasDeLluvia.DisPerso(3, 1), 33.0F);
+    EXPECT_EQ(s.TablasDeLluvia.NotasDisPer[3], "tres");
+    EXPECT_EQ(s.TablasDeLluvia.DurMaxPer[3], 1440);
 }
 
 TEST_F(ArchivosTormenta, UnasDistribucionesQueNoSePuedenLeerSonCalladasYAnulanTresCuentas)
@@ -476,9 +480,9 @@ TEST_F(ArchivosTormenta, UnasDistribucionesQueNoSePuedenLeerSonCalladasYAnulanTr
              Caso{"binary", std::string("\0\1\2\xFF\"", 5)},
          }) {
         PonDisPer(caso.bytes);
-        s.NroFilasTabla = {5, 6, 7, 8};
+        s.TablasDeLluvia.NroFilasTabla = {5, 6, 7, 8};
         LeeTablaDisTemPer(s);
-        EXPECT_EQ(s.NroFilasTabla, (std::array<std::int16_t, 4>{5, 0, 0, 0})) << caso.que;
+        EXPECT_EQ(s.TablasDeLluvia.NroFilasTabla, (std::array<std::int16_t, 4>{5, 0, 0, 0})) << caso.que;
         EXPECT_TRUE(Cajas().empty()) << caso.que;
     }
 }
@@ -486,10 +490,10 @@ TEST_F(ArchivosTormenta, UnasDistribucionesQueNoSePuedenLeerSonCalladasYAnulanTr
 TEST_F(ArchivosTormenta, SinArchivoDeDistribucionesLasTresCuentasSonCero)
 {
     for (const char* directorio : {"trabajo", "no hay"}) {
-        s.DirTrabajo = directorio;
-        s.NroFilasTabla = {5, 6, 7, 8};
+        s.Proyecto.DirTrabajo = directorio;
+        s.TablasDeLluvia.NroFilasTabla = {5, 6, 7, 8};
         LeeTablaDisTemPer(s);
-        EXPECT_EQ(s.NroFilasTabla, (std::array<std::int16_t, 4>{5, 0, 0, 0})) << directorio;
+        EXPECT_EQ(s.TablasDeLluvia.NroFilasTabla, (std::array<std::int16_t, 4>{5, 0, 0, 0})) << directorio;
         EXPECT_TRUE(Cajas().empty());
     }
 }
@@ -497,11 +501,11 @@ TEST_F(ArchivosTormenta, SinArchivoDeDistribucionesLasTresCuentasSonCero)
 TEST_F(ArchivosTormenta, UnaFallaEnElRegistroDeDuracionesNoGuardaNingunaDeLasDos)
 {
     PonDisPer("0,0,0\r\n\"\"\r\n30,mal\r\n\"\"\r\n0,0\r\n\"\"\r\n0,0\r\n");
-    s.DurMinPer[1] = 7;
-    s.DurMaxPer[1] = 8;
+    s.TablasDeLluvia.DurMinPer[1] = 7;
+    s.TablasDeLluvia.DurMaxPer[1] = 8;
     LeeTablaDisTemPer(s);
-    EXPECT_EQ(s.DurMinPer[1], 7);
-    EXPECT_EQ(s.DurMaxPer[1], 8);
+    EXPECT_EQ(s.TablasDeLluvia.DurMinPer[1], 7);
+    EXPECT_EQ(s.TablasDeLluvia.DurMaxPer[1], 8);
 }
 
 TEST_F(ArchivosTormenta, UnasDistribucionesCortadasEnCadaByteAnulanLasCuentas)
@@ -509,11 +513,11 @@ TEST_F(ArchivosTormenta, UnasDistribucionesCortadasEnCadaByteAnulanLasCuentas)
     const std::size_t ultimo = DosTablas.find("33.6");
     for (std::size_t n = 0; n <= DosTablas.size(); ++n) {
         PonDisPer(DosTablas.substr(0, n));
-        s.NroFilasTabla = {5, 6, 7, 8};
+        s.TablasDeLluvia.NroFilasTabla = {5, 6, 7, 8};
         LeeTablaDisTemPer(s);
         const std::int16_t tercera = n > ultimo ? 3 : 0;
-        EXPECT_EQ(s.NroFilasTabla[0], 5) << n << " bytes";
-        EXPECT_EQ(s.NroFilasTabla[3], tercera) << n << " bytes";
+        EXPECT_EQ(s.TablasDeLluvia.NroFilasTabla[0], 5) << n << " bytes";
+        EXPECT_EQ(s.TablasDeLluvia.NroFilasTabla[3], tercera) << n << " bytes";
         EXPECT_TRUE(Cajas().empty()) << n << " bytes";
     }
 }
@@ -522,25 +526,25 @@ TEST_F(ArchivosTormenta, UnaCuentaNegativaEntreOtrasNoLeeFilas)
 {
     PonDisPer("1,-4,0\r\n\"\"\r\n1,2\r\n100\r\n\"b\"\r\n3,4\r\n\"c\"\r\n5,6\r\n");
     LeeTablaDisTemPer(s);
-    EXPECT_EQ(s.NroFilasTabla, (std::array<std::int16_t, 4>{0, 1, -4, 0}));
-    EXPECT_EQ(s.NotasDisPer[3], "c");
+    EXPECT_EQ(s.TablasDeLluvia.NroFilasTabla, (std::array<std::int16_t, 4>{0, 1, -4, 0}));
+    EXPECT_EQ(s.TablasDeLluvia.NotasDisPer[3], "c");
 }
 
 TEST_F(ArchivosTormenta, GuardarLasDistribucionesEscribeLasTresTablas)
 {
-    s.NroFilasTabla = {44, 2, 0, 1};
-    s.NotasDisPer = {"no se escribe", "del río", "", "tres"};
-    s.DurMinPer = {0, 30, 5, 60};
-    s.DurMaxPer = {0, 60, 10, 1440};
-    s.DisPerso.Dimensiona(3, 3);
-    s.DisPerso(1, 1) = 12.5F;
-    s.DisPerso(1, 2) = 87.5F;
-    s.DisPerso(3, 1) = 100;
+    s.TablasDeLluvia.NroFilasTabla = {44, 2, 0, 1};
+    s.TablasDeLluvia.NotasDisPer = {"no se escribe", "del río", "", "tres"};
+    s.TablasDeLluvia.DurMinPer = {0, 30, 5, 60};
+    s.TablasDeLluvia.DurMaxPer = {0, 60, 10, 1440};
+    s.TablasDeLluvia.DisPerso.Dimensiona(3, 3);
+    s.TablasDeLluvia.DisPerso(1, 1) = 12.5F;
+    s.TablasDeLluvia.DisPerso(1, 2) = 87.5F;
+    s.TablasDeLluvia.DisPerso(3, 1) = 100;
     GuardaTablaDisPer(s);
     EXPECT_EQ(
         DisPer(),
         "2,0,1\r\n\"del r\xEDo\"\r\n30,60\r\n12.5\r\n87.5\r\n\"\"\r\n5,10\r\n\"tres\"\r\n60,1440\r\n100\r\n");
-    EXPECT_EQ(s.ArchivoTemp, Ruta(Trabajo, "distriPp_dpt.vlm"));
+    EXPECT_EQ(s.Proyecto.ArchivoTemp, Ruta(Trabajo, "distriPp_dpt.vlm"));
     EXPECT_TRUE(Cajas().empty());
 }
 
@@ -549,18 +553,19 @@ TEST_F(ArchivosTormenta, LasDistribucionesPisanLasCuentasDeLasTablasPDR)
     PonPDRs("1,2,1,1\r\n\"\"\r\n1,1,1\r\n\"\"\r\n1,1,1\r\n1,1,1\r\n\"\"\r\n1,1,1\r\n\"\"\r\n1,1,1\r\n");
     PonDisPer(DosTablas);
     LeeTablaPDRs(s);
-    EXPECT_EQ(s.NroFilasTabla, (std::array<std::int16_t, 4>{1, 2, 1, 1}));
+    EXPECT_EQ(s.TablasDeLluvia.NroFilasTabla, (std::array<std::int16_t, 4>{1, 2, 1, 1}));
     LeeTablaDisTemPer(s);
-    EXPECT_EQ(s.NroFilasTabla, (std::array<std::int16_t, 4>{1, 2, 0, 3})) << "slot 0 remains";
+    EXPECT_EQ(s.TablasDeLluvia.NroFilasTabla, (std::array<std::int16_t, 4>{1, 2, 0, 3})) << "slot 0 remains";
     LeeTablaPDRs(s);
-    EXPECT_EQ(s.NroFilasTabla, (std::array<std::int16_t, 4>{1, 2, 1, 1})) << "until the next reading";
+    EXPECT_EQ(s.TablasDeLluvia.NroFilasTabla, (std::array<std::int16_t, 4>{1, 2, 1, 1}))
+        << "until the next reading";
 }
 
 TEST_F(ArchivosTormenta, GuardarDistribucionesConLasCuentasDeLaOtraTablaSaleDelIntervalo)
 {
     PonDisPer("1,0,0\r\n\"uno\"\r\n1,2\r\n100\r\n\"\"\r\n0,0\r\n\"\"\r\n0,0\r\n");
     LeeTablaDisTemPer(s);
-    s.NroFilasTabla = {0, 4, 0, 0};  // as the reader of the other file leaves them
+    s.TablasDeLluvia.NroFilasTabla = {0, 4, 0, 0};  // as the reader of the other file leaves them
     GuardaTablaDisPer(s);
     EXPECT_EQ(Cajas(), std::vector<Mensaje>{CajaSubindice}) << "one box, and the writing ends";
     // Columns 0 to 2 are there: the third period is at fault, and the file stays.
@@ -581,21 +586,21 @@ const std::string CuatroTablas =
 TEST_F(ArchivosTormenta, LasTablasPDRLlenanLasCuatroYLaSerie)
 {
     PonPDRs(CuatroTablas);
-    s.TablaPDR = 2;
+    s.Tormenta.TablaPDR = 2;
     LeeTablaPDRs(s);
-    EXPECT_EQ(s.NroFilasTabla, (std::array<std::int16_t, 4>{2, 1, 2, 0}));
-    EXPECT_EQ(s.NotasPDR, (std::array<std::string, 4>{"Región", "una", "dos, y más", ""}));
-    EXPECT_EQ(s.TablasP.UltimaFila(), 4);
-    EXPECT_EQ(s.TablasD.TopeColumna(), 3);
-    EXPECT_EQ(s.TablasR(0, 2), 2);
-    EXPECT_EQ(s.TablasD(1, 1), 5);
-    EXPECT_EQ(s.NroSeriePDR, 2);
-    EXPECT_EQ(s.SerieP.Tope(), 2);
-    EXPECT_EQ(s.SerieP(1), 13.0F) << "a depth is a whole number of millimetres";
-    EXPECT_EQ(s.SerieP(2), 40.0F);
-    EXPECT_EQ(s.SerieD(2), 120);
-    EXPECT_EQ(s.SerieR(2), 10);
-    EXPECT_EQ(s.ArchivoTemp, Ruta(Trabajo, "TablasPDRs_pdr.vlm"));
+    EXPECT_EQ(s.TablasDeLluvia.NroFilasTabla, (std::array<std::int16_t, 4>{2, 1, 2, 0}));
+    EXPECT_EQ(s.TablasDeLluvia.NotasPDR, (std::array<std::string, 4>{"Región", "una", "dos, y más", ""}));
+    EXPECT_EQ(s.TablasDeLluvia.TablasP.UltimaFila(), 4);
+    EXPECT_EQ(s.TablasDeLluvia.TablasD.TopeColumna(), 3);
+    EXPECT_EQ(s.TablasDeLluvia.TablasR(0, 2), 2);
+    EXPECT_EQ(s.TablasDeLluvia.TablasD(1, 1), 5);
+    EXPECT_EQ(s.Serie.NroSeriePDR, 2);
+    EXPECT_EQ(s.Serie.SerieP.Tope(), 2);
+    EXPECT_EQ(s.Serie.SerieP(1), 13.0F) << "a depth is a whole number of millimetres";
+    EXPECT_EQ(s.Serie.SerieP(2), 40.0F);
+    EXPECT_EQ(s.Serie.SerieD(2), 120);
+    EXPECT_EQ(s.Serie.SerieR(2), 10);
+    EXPECT_EQ(s.Proyecto.ArchivoTemp, Ruta(Trabajo, "TablasPDRs_pdr.vlm"));
     EXPECT_TRUE(Cajas().empty());
 }
 
@@ -603,22 +608,22 @@ TEST_F(ArchivosTormenta, UnaTablaElegidaFueraDe1A3EsLa0)
 {
     PonPDRs(CuatroTablas);
     for (const int elegida : {-1, 0, 4, 99}) {
-        s.TablaPDR = static_cast<std::int16_t>(elegida);
+        s.Tormenta.TablaPDR = static_cast<std::int16_t>(elegida);
         LeeTablaPDRs(s);
-        EXPECT_EQ(s.TablaPDR, 0) << elegida;
-        EXPECT_EQ(s.SerieP(2), 30.0F) << elegida;
+        EXPECT_EQ(s.Tormenta.TablaPDR, 0) << elegida;
+        EXPECT_EQ(s.Serie.SerieP(2), 30.0F) << elegida;
     }
-    s.TablaPDR = 3;
+    s.Tormenta.TablaPDR = 3;
     LeeTablaPDRs(s);
-    EXPECT_EQ(s.TablaPDR, 3);
-    EXPECT_EQ(s.NroSeriePDR, 0) << "an empty table is an empty series";
+    EXPECT_EQ(s.Tormenta.TablaPDR, 3);
+    EXPECT_EQ(s.Serie.NroSeriePDR, 0) << "an empty table is an empty series";
 }
 
 TEST_F(ArchivosTormenta, UnaLluviaDe12Coma7SeGuardaEntera)
 {
     PonPDRs(CuatroTablas);
     LeeTablaPDRs(s);
-    s.TablasP(1, 1) = Entero16(Val("12.7"));  // as the grid's text gets into the table
+    s.TablasDeLluvia.TablasP(1, 1) = Entero16(Val("12.7"));  // as the grid's text gets into the table
     GuardaTablaPDRs(s);
     EXPECT_EQ(PDRs(),
               "2,1,2,0\r\n\"Regi\xF3n\"\r\n20,10,2\r\n30,30,2\r\n\"una\"\r\n13,5,5\r\n"
@@ -629,9 +634,9 @@ TEST_F(ArchivosTormenta, LaTabla0VuelveSinCambiosAlEscribir)
 {
     PonPDRs(CuatroTablas);
     LeeTablaPDRs(s);
-    s.NroFilasTabla[1] = 0;
-    s.NroFilasTabla[2] = 0;
-    s.NotasPDR[1] = s.NotasPDR[2] = "";
+    s.TablasDeLluvia.NroFilasTabla[1] = 0;
+    s.TablasDeLluvia.NroFilasTabla[2] = 0;
+    s.TablasDeLluvia.NotasPDR[1] = s.TablasDeLluvia.NotasPDR[2] = "";
     GuardaTablaPDRs(s);
     EXPECT_EQ(PDRs(), "2,0,0,0\r\n\"Regi\xF3n\"\r\n20,10,2\r\n30,30,2\r\n\"\"\r\n\"\"\r\n\"\"\r\n");
     EXPECT_TRUE(Cajas().empty());
@@ -659,16 +664,17 @@ TEST_F(ArchivosTormenta, UnasTablasPDRQueNoSePuedenLeerSonCalladasYDejanLaSerie)
              Caso{"a quoted recurrence", "1,0,0,0\r\n\"\"\r\n1,1,\"1\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n", 1},
          }) {
         PonPDRs(caso.bytes);
-        s.TablaPDR = 2;
-        s.NroFilasTabla = {5, 6, 7, 8};
-        s.NroSeriePDR = 1;
-        s.SerieP.Dimensiona(1);
-        s.SerieP(1) = 77;
+        s.Tormenta.TablaPDR = 2;
+        s.TablasDeLluvia.NroFilasTabla = {5, 6, 7, 8};
+        s.Serie.NroSeriePDR = 1;
+        s.Serie.SerieP.Dimensiona(1);
+        s.Serie.SerieP(1) = 77;
         LeeTablaPDRs(s);
-        EXPECT_EQ(s.NroFilasTabla, (std::array<std::int16_t, 4>{caso.ranura0, 0, 0, 0})) << caso.que;
-        EXPECT_EQ(s.NroSeriePDR, 1) << caso.que;
-        EXPECT_EQ(s.SerieP(1), 77.0F) << caso.que;
-        EXPECT_EQ(s.TablaPDR, 2) << caso.que;
+        EXPECT_EQ(s.TablasDeLluvia.NroFilasTabla, (std::array<std::int16_t, 4>{caso.ranura0, 0, 0, 0}))
+            << caso.que;
+        EXPECT_EQ(s.Serie.NroSeriePDR, 1) << caso.que;
+        EXPECT_EQ(s.Serie.SerieP(1), 77.0F) << caso.que;
+        EXPECT_EQ(s.Tormenta.TablaPDR, 2) << caso.que;
         EXPECT_TRUE(Cajas().empty()) << caso.que;
     }
 }
@@ -676,10 +682,10 @@ TEST_F(ArchivosTormenta, UnasTablasPDRQueNoSePuedenLeerSonCalladasYDejanLaSerie)
 TEST_F(ArchivosTormenta, SinArchivoDeTablasPDRLaRanura0QuedaComoEstaba)
 {
     for (const char* directorio : {"trabajo", "no hay"}) {
-        s.DirTrabajo = directorio;
-        s.NroFilasTabla = {5, 6, 7, 8};
+        s.Proyecto.DirTrabajo = directorio;
+        s.TablasDeLluvia.NroFilasTabla = {5, 6, 7, 8};
         LeeTablaPDRs(s);
-        EXPECT_EQ(s.NroFilasTabla, (std::array<std::int16_t, 4>{5, 0, 0, 0})) << directorio;
+        EXPECT_EQ(s.TablasDeLluvia.NroFilasTabla, (std::array<std::int16_t, 4>{5, 0, 0, 0})) << directorio;
         EXPECT_TRUE(Cajas().empty());
     }
 }
@@ -690,12 +696,12 @@ TEST_F(ArchivosTormenta, UnasTablasPDRCortadasEnCadaByteAnulanLasCuentas)
     const std::size_t ultimo = bytes.size() - 3;  // behind the last comma: an empty recurrence
     for (std::size_t n = 0; n <= bytes.size(); ++n) {
         PonPDRs(bytes.substr(0, n));
-        s.TablaPDR = 3;
-        s.NroFilasTabla = {5, 6, 7, 8};
-        s.NroSeriePDR = 0;
+        s.Tormenta.TablaPDR = 3;
+        s.TablasDeLluvia.NroFilasTabla = {5, 6, 7, 8};
+        s.Serie.NroSeriePDR = 0;
         LeeTablaPDRs(s);
-        EXPECT_EQ(s.NroFilasTabla[3], n >= ultimo ? 1 : 0) << n << " bytes";
-        EXPECT_EQ(s.NroSeriePDR, n >= ultimo ? 1 : 0) << n << " bytes";
+        EXPECT_EQ(s.TablasDeLluvia.NroFilasTabla[3], n >= ultimo ? 1 : 0) << n << " bytes";
+        EXPECT_EQ(s.Serie.NroSeriePDR, n >= ultimo ? 1 : 0) << n << " bytes";
         EXPECT_TRUE(Cajas().empty()) << n << " bytes";
     }
 }
@@ -704,9 +710,9 @@ TEST_F(ArchivosTormenta, UnaFilaConFallaNoGuardaNadaDeElla)
 {
     PonPDRs("2,0,0,0\r\n\"\"\r\n1,2,3\r\n4,5,mal\r\n\"\"\r\n\"\"\r\n\"\"\r\n");
     LeeTablaPDRs(s);
-    EXPECT_EQ(s.TablasP(0, 1), 1) << "what was read before stays";
-    EXPECT_EQ(s.TablasP(0, 2), 0);
-    EXPECT_EQ(s.TablasD(0, 2), 0);
+    EXPECT_EQ(s.TablasDeLluvia.TablasP(0, 1), 1) << "what was read before stays";
+    EXPECT_EQ(s.TablasDeLluvia.TablasP(0, 2), 0);
+    EXPECT_EQ(s.TablasDeLluvia.TablasD(0, 2), 0);
 }
 
 // =======================================================================================================
@@ -739,19 +745,19 @@ struct FallasAlGuardar : ArchivosTormenta {
             "1\r\n");
         LeeTablaPDRs(s);
         LeeTablaDisTemPer(s);
-        s.PpTormenta = 77;
-        s.DurTormenta = 88;
-        s.RecTormenta = 99;
+        s.Tormenta.PpTormenta = 77;
+        s.Tormenta.DurTormenta = 88;
+        s.Tormenta.RecTormenta = 99;
     }
     void EsperaMemoriaIntacta(const Siro& antes, const char* que)
     {
-        EXPECT_EQ(s.NroFilasTabla, antes.NroFilasTabla) << que;
-        EXPECT_EQ(s.DisPerso, antes.DisPerso) << que;
-        EXPECT_EQ(s.TablasP, antes.TablasP) << que;
-        EXPECT_EQ(s.NotasPDR, antes.NotasPDR) << que;
-        EXPECT_EQ(s.PpTormenta, 77.0F) << que;
-        EXPECT_EQ(s.DurTormenta, 88) << que;
-        EXPECT_EQ(s.RecTormenta, 99) << que;
+        EXPECT_EQ(s.TablasDeLluvia.NroFilasTabla, antes.TablasDeLluvia.NroFilasTabla) << que;
+        EXPECT_EQ(s.TablasDeLluvia.DisPerso, antes.TablasDeLluvia.DisPerso) << que;
+        EXPECT_EQ(s.TablasDeLluvia.TablasP, antes.TablasDeLluvia.TablasP) << que;
+        EXPECT_EQ(s.TablasDeLluvia.NotasPDR, antes.TablasDeLluvia.NotasPDR) << que;
+        EXPECT_EQ(s.Tormenta.PpTormenta, 77.0F) << que;
+        EXPECT_EQ(s.Tormenta.DurTormenta, 88) << que;
+        EXPECT_EQ(s.Tormenta.RecTormenta, 99) << que;
     }
 };
 
@@ -769,7 +775,7 @@ TEST_F(FallasAlGuardar, UnArchivoQueNoSePuedeEscribirSeDiceUnaVezYLaMemoriaQueda
 
 TEST_F(FallasAlGuardar, UnDirectorioQueNoEstaSeDiceUnaVez)
 {
-    s.DirTrabajo = s.DirProyecto = "no hay";
+    s.Proyecto.DirTrabajo = s.Proyecto.DirProyecto = "no hay";
     for (const Escritor& escritor : Escritores) {
         const Siro antes = s;
         escritor.guarda(s);
@@ -786,9 +792,9 @@ TEST_F(FallasAlGuardar, UnArchivoQueNoSeEncuentraSePasaPorAltoEnSilencio)
         disco.DejaDeFallar();
         EXPECT_TRUE(TomaCajas().empty()) << escritor.que;
     }
-    EXPECT_EQ(s.PpTormenta, 60.0F) << "the list's writer goes on to its last step";
-    EXPECT_EQ(s.DurTormenta, 60);
-    EXPECT_EQ(s.RecTormenta, 10);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 60.0F) << "the list's writer goes on to its last step";
+    EXPECT_EQ(s.Tormenta.DurTormenta, 60);
+    EXPECT_EQ(s.Tormenta.RecTormenta, 10);
 }
 
 TEST_F(FallasAlGuardar, LaEnesimaLlamadaAlDiscoQueFallaDaUnaSolaCaja)
@@ -809,9 +815,9 @@ TEST_F(FallasAlGuardar, LaEnesimaLlamadaAlDiscoQueFallaDaUnaSolaCaja)
         }
         EXPECT_GE(fallidas, 1) << escritor.que;
         EXPECT_LT(fallidas, 50) << escritor.que;
-        s.PpTormenta = 77;
-        s.DurTormenta = 88;
-        s.RecTormenta = 99;
+        s.Tormenta.PpTormenta = 77;
+        s.Tormenta.DurTormenta = 88;
+        s.Tormenta.RecTormenta = 99;
     }
 }
 
@@ -819,10 +825,10 @@ TEST_F(FallasAlGuardar, LosLectoresCallanEnCadaLlamadaAlDiscoQueFalla)
 {
     disco.FallaDesde(1, NumeroFalla::AccesoRuta);
     LeeTablaDisTemPer(s);
-    EXPECT_EQ(s.NroFilasTabla, (std::array<std::int16_t, 4>{2, 0, 0, 0}));
-    s.NroFilasTabla = {2, 2, 2, 2};
+    EXPECT_EQ(s.TablasDeLluvia.NroFilasTabla, (std::array<std::int16_t, 4>{2, 0, 0, 0}));
+    s.TablasDeLluvia.NroFilasTabla = {2, 2, 2, 2};
     LeeTablaPDRs(s);
-    EXPECT_EQ(s.NroFilasTabla, (std::array<std::int16_t, 4>{2, 0, 0, 0}));
+    EXPECT_EQ(s.TablasDeLluvia.NroFilasTabla, (std::array<std::int16_t, 4>{2, 0, 0, 0}));
     std::vector<std::string> cmbPDR{"vieja"};
     leeListaPpDurRec(s, cmbPDR);
     EXPECT_TRUE(cmbPDR.empty());
@@ -841,10 +847,10 @@ TEST_F(ArchivosTormenta, LaListaSeLeeEnItemsYLaUltimaTormentaQueda)
     EXPECT_EQ(cmbPDR,
               (std::vector<std::string>{"Pp= 60 - Dur = 60 - Rec = 10", "Pp= 12.5 - Dur = 1440 - Rec = 2",
                                         "Pp= 105.25 - Dur = 30 - Rec = 100"}));
-    EXPECT_EQ(s.PpTormenta, 105.25F);
-    EXPECT_EQ(s.DurTormenta, 30);
-    EXPECT_EQ(s.RecTormenta, 100);
-    EXPECT_EQ(s.ArchivoTemp, Ruta(Proyecto, "ListaPDR.vlm"));
+    EXPECT_EQ(s.Tormenta.PpTormenta, 105.25F);
+    EXPECT_EQ(s.Tormenta.DurTormenta, 30);
+    EXPECT_EQ(s.Tormenta.RecTormenta, 100);
+    EXPECT_EQ(s.Proyecto.ArchivoTemp, Ruta(Proyecto, "ListaPDR.vlm"));
 }
 
 TEST_F(ArchivosTormenta, LaListaSeVaciaAntesDeCadaLecturaYNoSeDuplica)
@@ -859,10 +865,10 @@ TEST_F(ArchivosTormenta, LaListaSeVaciaAntesDeCadaLecturaYNoSeDuplica)
 TEST_F(ArchivosTormenta, UnProyectoSinListaLaTieneVacia)
 {
     std::vector<std::string> cmbPDR{"vieja"};
-    s.PpTormenta = 7;
+    s.Tormenta.PpTormenta = 7;
     leeListaPpDurRec(s, cmbPDR);
     EXPECT_TRUE(cmbPDR.empty());
-    EXPECT_EQ(s.PpTormenta, 7.0F);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 7.0F);
     EXPECT_TRUE(Cajas().empty());
 }
 
@@ -881,7 +887,7 @@ TEST_F(ArchivosTormenta, UnaListaDanadaConservaLoLeidoHastaAhi)
         std::vector<std::string> cmbPDR;
         leeListaPpDurRec(s, cmbPDR);
         EXPECT_EQ(cmbPDR, std::vector<std::string>{"Pp= 60 - Dur = 60 - Rec = 10"}) << caso.que;
-        EXPECT_EQ(s.PpTormenta, 60.0F) << caso.que << ": a trio is read whole or not at all";
+        EXPECT_EQ(s.Tormenta.PpTormenta, 60.0F) << caso.que << ": a trio is read whole or not at all";
         EXPECT_TRUE(Cajas().empty()) << caso.que;
     }
 }
@@ -900,14 +906,14 @@ TEST_F(ArchivosTormenta, UnaListaCortadaEnCadaByteDaLosItemsEnteros)
 
 TEST_F(ArchivosTormenta, GuardarLaListaEscribeLosItemsYTomaLaTormentaDeLosCampos)
 {
-    s.PpTormenta = 1;
+    s.Tormenta.PpTormenta = 1;
     GuardaListaPDR(s, {"Pp= 60 - Dur = 60 - Rec = 10", "", "Pp= 12.5 - Dur = 1440 - Rec = 2"},
                    {"33.5", "45.5 min", "25"});
     EXPECT_EQ(Lista(), "60,60,10\r\n12.5,1440,2\r\n");
-    EXPECT_EQ(s.PpTormenta, 33.5F);
-    EXPECT_EQ(s.DurTormenta, 46);  // the leading number, rounded to the even one
-    EXPECT_EQ(s.RecTormenta, 25);
-    EXPECT_EQ(s.ArchivoTemp, Ruta(Proyecto, "ListaPDR.vlm"));
+    EXPECT_EQ(s.Tormenta.PpTormenta, 33.5F);
+    EXPECT_EQ(s.Tormenta.DurTormenta, 46);  // the leading number, rounded to the even one
+    EXPECT_EQ(s.Tormenta.RecTormenta, 25);
+    EXPECT_EQ(s.Proyecto.ArchivoTemp, Ruta(Proyecto, "ListaPDR.vlm"));
     EXPECT_TRUE(Cajas().empty());
 }
 
@@ -916,14 +922,14 @@ TEST_F(ArchivosTormenta, UnaListaVaciaEscribeUnArchivoVacio)
     PonLista("60,60,10\r\n");
     GuardaListaPDR(s, {}, {"", "", ""});
     EXPECT_EQ(Lista(), "");
-    EXPECT_EQ(s.PpTormenta, 0.0F) << "no number there: 0";
+    EXPECT_EQ(s.Tormenta.PpTormenta, 0.0F) << "no number there: 0";
     EXPECT_TRUE(Cajas().empty());
 }
 
 TEST_F(ArchivosTormenta, UnItemSinGuionDejaPYDComoEstabanYEscribeSuRenglon)
 {
-    s.PpTormenta = 9;
-    s.DurTormenta = 8;
+    s.Tormenta.PpTormenta = 9;
+    s.Tormenta.DurTormenta = 8;
     GuardaListaPDR(s, {"sin guion", "Pp= 60 - Dur = 30 - Rec = 10", "Pp= 25 mm", "Pp= 7 - Dur = 45"},
                    {"1", "2", "3"});
     // 1: "guion" holds no number. 3: " the 25 is taken for R, P and D are those of the item before.
@@ -934,9 +940,9 @@ TEST_F(ArchivosTormenta, UnItemSinGuionDejaPYDComoEstabanYEscribeSuRenglon)
 
 TEST_F(ArchivosTormenta, UnItemQueNoCabeEnSuTipoSeDiceYLaTormentaQuedaComoEstaba)
 {
-    s.PpTormenta = 9;
-    s.DurTormenta = 8;
-    s.RecTormenta = 7;
+    s.Tormenta.PpTormenta = 9;
+    s.Tormenta.DurTormenta = 8;
+    s.Tormenta.RecTormenta = 7;
     const std::string antes = "5,5,5\r\n";
     PonLista(antes);
     GuardaListaPDR(
@@ -944,14 +950,14 @@ TEST_F(ArchivosTormenta, UnItemQueNoCabeEnSuTipoSeDiceYLaTormentaQuedaComoEstaba
         {"1", "2", "3"});
     EXPECT_EQ(Cajas(), std::vector<Mensaje>{CajaDesborde});
     EXPECT_EQ(Lista(), antes) << "the list on the disk stays";
-    EXPECT_EQ(s.PpTormenta, 9.0F);
-    EXPECT_EQ(s.DurTormenta, 8);
-    EXPECT_EQ(s.RecTormenta, 7);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 9.0F);
+    EXPECT_EQ(s.Tormenta.DurTormenta, 8);
+    EXPECT_EQ(s.Tormenta.RecTormenta, 7);
 }
 
 TEST_F(ArchivosTormenta, UnCampoQueNoCabeEnSuTipoSeDiceConLaListaYaEscrita)
 {
-    s.DurTormenta = 8;
+    s.Tormenta.DurTormenta = 8;
     GuardaListaPDR(s, {"Pp= 60 - Dur = 30 - Rec = 10"}, {"1", "32768", "3"});
     EXPECT_EQ(Cajas(), std::vector<Mensaje>{CajaDesborde});
     EXPECT_EQ(Lista(), "60,30,10\r\n");
@@ -997,13 +1003,13 @@ TEST_F(ArchivosTormenta, ElItemSePartePorSusGuiones)
              Caso{"Pp= -5 - Dur = 60 - Rec = 10", 0, 0, 10},    // nothing stands before the first
              Caso{"ñú= 60 - ñúñ = 45 - áéí = 10", 60, 45, 10},  // characters, not bytes
          }) {
-        s.PpTormenta = 1;
-        s.DurTormenta = 2;
-        s.RecTormenta = 3;
+        s.Tormenta.PpTormenta = 1;
+        s.Tormenta.DurTormenta = 2;
+        s.Tormenta.RecTormenta = 3;
         ParsePDR(s, caso.item);
-        EXPECT_EQ(s.PpTormenta, caso.p) << caso.item;
-        EXPECT_EQ(s.DurTormenta, caso.d) << caso.item;
-        EXPECT_EQ(s.RecTormenta, caso.r) << caso.item;
+        EXPECT_EQ(s.Tormenta.PpTormenta, caso.p) << caso.item;
+        EXPECT_EQ(s.Tormenta.DurTormenta, caso.d) << caso.item;
+        EXPECT_EQ(s.Tormenta.RecTormenta, caso.r) << caso.item;
     }
 }
 

@@ -23,8 +23,8 @@ struct DosProgramas : ::testing::Test, ProyectoDePrueba {
     DosProgramas()
     {
         s.Vigilancia.activa = true;
-        s.ColUEHs.Agrega({.NombreUEH = "u-1", .Metodo = "Directo", .numUEH = 1});
-        s.NroUEHs = 1;
+        s.Red.ColUEHs.Agrega({.NombreUEH = "u-1", .Metodo = "Directo", .numUEH = 1});
+        s.Red.NroUEHs = 1;
         cmdAplicar(s);
         mnu_btn_toolbarGuardaUEHs(s);
         anfitrion->sucesos.clear();
@@ -77,7 +77,7 @@ TEST_F(DosProgramas, LoQueOtroCambioSePreguntaAntesDePisarlo)
         EXPECT_EQ(Preguntas(), std::vector<std::string>{Cambiado(caso.archivo)}) << caso.archivo;
         EXPECT_EQ(Bytes(caso.archivo), "de otro") << caso.archivo;
         EXPECT_EQ(Avisos(), Cajas{}) << caso.archivo;
-        EXPECT_EQ(s.ColUEHs.Cuenta(), 1) << caso.archivo;
+        EXPECT_EQ(s.Red.ColUEHs.Cuenta(), 1) << caso.archivo;
         caso.guarda(s);
         EXPECT_NE(Bytes(caso.archivo), "de otro") << caso.archivo;
         caso.guarda(s);
@@ -87,7 +87,7 @@ TEST_F(DosProgramas, LoQueOtroCambioSePreguntaAntesDePisarlo)
 
 TEST_F(DosProgramas, UnaTablaQueOtroCambioSePregunta)
 {
-    s.ColRepresas.Agrega({.NombreRepresa = "r-1", .numRepresa = 1});
+    s.Red.ColRepresas.Agrega({.NombreRepresa = "r-1", .numRepresa = 1});
     LeeTablaHQRepresa(s);
     Pon("_RHQ.vlm", "de otro");
     anfitrion->respuestas = {false};
@@ -99,8 +99,8 @@ TEST_F(DosProgramas, UnaTablaQueOtroCambioSePregunta)
 TEST_F(DosProgramas, UnaRedVaciaNoBorraSinPreguntarLaQueOtroDejo)
 {
     Pon("_UEHs.vlm", "de otro");
-    s.ColUEHs.Vacia();
-    s.NroUEHs = 0;
+    s.Red.ColUEHs.Vacia();
+    s.Red.NroUEHs = 0;
     anfitrion->respuestas = {false};
     EXPECT_FALSE(mnu_btn_toolbarGuardaUEHs(s));
     EXPECT_EQ(Bytes("_UEHs.vlm"), "de otro");
@@ -109,7 +109,7 @@ TEST_F(DosProgramas, UnaRedVaciaNoBorraSinPreguntarLaQueOtroDejo)
 TEST_F(DosProgramas, LoQueNuncaSeLeyoTambienSePregunta)
 {
     disco.Pon("/proy/Otro_UEHs.vlm", "ajeno");
-    s.NombreProyecto = "Otro";
+    s.Proyecto.NombreProyecto = "Otro";
     anfitrion->respuestas = {false};
     EXPECT_FALSE(mnu_btn_toolbarGuardaUEHs(s));
     EXPECT_EQ(disco.Bytes("/proy/Otro_UEHs.vlm"), "ajeno");
@@ -127,7 +127,7 @@ TEST_F(DosProgramas, LoQueOtroBorroSeGuardaSinPreguntar)
 TEST_F(DosProgramas, AlAbrirSeDiceQuienLoTieneYSePreguntaAntesDelPrimerGuardado)
 {
     disco.PonDirectorio("/siro");
-    s.DirEjecutable = "/siro";
+    s.Proyecto.DirEjecutable = "/siro";
     anfitrion->ocupante = otro;
     AbreProyectoDe(s, "/proy/Arroyo_Conf.vlm");
     EXPECT_EQ(Avisos(),
@@ -139,7 +139,7 @@ TEST_F(DosProgramas, AlAbrirSeDiceQuienLoTieneYSePreguntaAntesDelPrimerGuardado)
     LeeUEHs(s);
     anfitrion->respuestas = {false, true};
     const std::string antes = Bytes("_UEHs.vlm");
-    s.ColUEHs.Item(1).Area = 5;
+    s.Red.ColUEHs.Item(1).Area = 5;
     EXPECT_FALSE(mnu_btn_toolbarGuardaUEHs(s));
     EXPECT_EQ(Bytes("_UEHs.vlm"), antes);
     EXPECT_TRUE(mnu_btn_toolbarGuardaUEHs(s));
@@ -160,7 +160,7 @@ TEST_F(DosProgramas, SiElOtroYaSeFueNoSePregunta)
 TEST_F(DosProgramas, ElNombreDeAdentroEsElQueSeReclama)
 {
     disco.PonDirectorio("/siro");
-    s.DirEjecutable = "/siro";
+    s.Proyecto.DirEjecutable = "/siro";
     disco.Pon("/proy/Copia_Conf.vlm", Bytes("_Conf.vlm"));
     anfitrion->reclamados.clear();
     AbreProyectoDe(s, "/proy/Copia_Conf.vlm");
@@ -188,7 +188,7 @@ TEST_F(DosProgramas, SinVentanasNadaSeReclamaNiSePregunta)
 {
     s.Vigilancia = {};
     disco.PonDirectorio("/siro");
-    s.DirEjecutable = "/siro";
+    s.Proyecto.DirEjecutable = "/siro";
     anfitrion->reclamados.clear();
     anfitrion->ocupante = otro;
     AbreProyectoDe(s, "/proy/Arroyo_Conf.vlm");

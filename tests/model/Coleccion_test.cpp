@@ -76,33 +76,33 @@ TEST(Siro, LosLimitesDeLasCuatroClases)
 {
     Siro s;
     for (int i = 1; i <= 71; ++i) {
-        s.ColUEHs.Agrega({});
-        s.ColCauces.Agrega({});
-        s.ColLagos.Agrega({});
-        s.ColRepresas.Agrega({});
+        s.Red.ColUEHs.Agrega({});
+        s.Red.ColCauces.Agrega({});
+        s.Red.ColLagos.Agrega({});
+        s.Red.ColRepresas.Agrega({});
     }
-    EXPECT_EQ(NumeroDeFalla([&] { s.UEHs(70); }), 0);
-    EXPECT_EQ(NumeroDeFalla([&] { s.UEHs(71); }), 9);
-    EXPECT_EQ(NumeroDeFalla([&] { s.Cauces(70); }), 0);
-    EXPECT_EQ(NumeroDeFalla([&] { s.Cauces(71); }), 9);
-    EXPECT_EQ(NumeroDeFalla([&] { s.Lagos(70); }), 0);
-    EXPECT_EQ(NumeroDeFalla([&] { s.Lagos(71); }), 9);
-    EXPECT_EQ(NumeroDeFalla([&] { s.Represas(20); }), 0);
-    EXPECT_EQ(NumeroDeFalla([&] { s.Represas(21); }), 9);
-    EXPECT_EQ(s.PpUEH.Tope(), 70);
-    EXPECT_EQ(NumeroDeFalla([&] { s.PpUEH(71) = 1; }), 9);
+    EXPECT_EQ(NumeroDeFalla([&] { s.Red.UEHs(70); }), 0);
+    EXPECT_EQ(NumeroDeFalla([&] { s.Red.UEHs(71); }), 9);
+    EXPECT_EQ(NumeroDeFalla([&] { s.Red.Cauces(70); }), 0);
+    EXPECT_EQ(NumeroDeFalla([&] { s.Red.Cauces(71); }), 9);
+    EXPECT_EQ(NumeroDeFalla([&] { s.Red.Lagos(70); }), 0);
+    EXPECT_EQ(NumeroDeFalla([&] { s.Red.Lagos(71); }), 9);
+    EXPECT_EQ(NumeroDeFalla([&] { s.Red.Represas(20); }), 0);
+    EXPECT_EQ(NumeroDeFalla([&] { s.Red.Represas(21); }), 9);
+    EXPECT_EQ(s.Tormenta.PpUEH.Tope(), 70);
+    EXPECT_EQ(NumeroDeFalla([&] { s.Tormenta.PpUEH(71) = 1; }), 9);
 }
 
 TEST(Siro, UnaCopiaEsOtroPrograma)
 {
     Siro s;
-    s.ColUEHs.Agrega({.NombreUEH = "u-1"});
-    s.PpUEH(1) = 5;
+    s.Red.ColUEHs.Agrega({.NombreUEH = "u-1"});
+    s.Tormenta.PpUEH(1) = 5;
     Siro otro = s;
-    otro.UEHs(1).NombreUEH = "u-2";
-    otro.PpUEH(1) = 6;
-    EXPECT_EQ(s.UEHs(1).NombreUEH, "u-1");
-    EXPECT_EQ(s.PpUEH(1), 5);
+    otro.Red.UEHs(1).NombreUEH = "u-2";
+    otro.Tormenta.PpUEH(1) = 6;
+    EXPECT_EQ(s.Red.UEHs(1).NombreUEH, "u-1");
+    EXPECT_EQ(s.Tormenta.PpUEH(1), 5);
 }
 
 }  // namespace

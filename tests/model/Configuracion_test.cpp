@@ -130,7 +130,7 @@ std::vector<int> Valores(const std::vector<std::int16_t>& lista)
     return {lista.begin() + 1, lista.end()};
 }
 
-struct Configuracion : ::testing::Test, ProyectoDePrueba {
+struct ConfiguracionEnDisco : ::testing::Test, ProyectoDePrueba {
     void PonConf(const Renglones& renglones) { Pon("_Conf.vlm", Junta(renglones)); }
     void Lee(const Renglones& renglones)
     {
@@ -142,39 +142,41 @@ struct Configuracion : ::testing::Test, ProyectoDePrueba {
 
 // --- reading ---
 
-TEST_F(Configuracion, CadaCampoLlegaASuVariable)
+TEST_F(ConfiguracionEnDisco, CadaCampoLlegaASuVariable)
 {
     Lee(Ejemplo());
     EXPECT_EQ(Avisos(), Cajas{});
-    EXPECT_EQ(s.NombreProyecto, "Arroyo");
-    EXPECT_EQ(s.TituloProyecto, "Crecidas, del río");
-    EXPECT_EQ(s.Ubicacion, "Lugar");
-    EXPECT_EQ(s.Cuenca, "Cuenca");
-    EXPECT_EQ(s.Subcuenca, "Subcuenca");
-    EXPECT_EQ(s.Operador, "Operador");
-    EXPECT_EQ(s.FechaProyecto, "03/04/2011");
-    EXPECT_EQ(s.DriveProyecto, "");
-    EXPECT_EQ(s.DirProyectoConf, "/proy");
-    EXPECT_EQ(s.DirProyecto, "/proy");
-    EXPECT_EQ(s.DirNv, "nuevo");
-    EXPECT_EQ(s.CheckDistriPp, 1);
-    EXPECT_EQ(s.NombreArchivoConf, "Arroyo_Conf.vlm");
-    EXPECT_EQ(s.ImagenDibujo, 1);
-    EXPECT_EQ(s.ArchivoImagenDibujo, "/proy/mapa.bmp");
-    EXPECT_EQ(s.ArchivoImagen, "/proy/mapa.bmp");
-    EXPECT_EQ(s.EscalaImagen, 150);
-    EXPECT_EQ(s.TextoS, "nota");
-    EXPECT_TRUE(s.Optiona && !s.Optionb && s.Optionc);
-    EXPECT_EQ(s.ImagenX0, 12.5F);
-    EXPECT_EQ(s.ImagenY0, -3.0F);
-    EXPECT_TRUE(!s.OptionMin && s.OptionHr && s.Optionm3 && !s.OptionLt);
-    EXPECT_EQ(s.N0Dur, 45.25F);
-    EXPECT_EQ(s.MaxUEHsPixel, "900");
-    EXPECT_EQ(s.EscalaDibujo, "2.5");
-    EXPECT_EQ(s.CheckD, (std::array<std::int16_t, 17>{1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1}));
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "Arroyo");
+    EXPECT_EQ(s.Configuracion.TituloProyecto, "Crecidas, del río");
+    EXPECT_EQ(s.Configuracion.Ubicacion, "Lugar");
+    EXPECT_EQ(s.Configuracion.Cuenca, "Cuenca");
+    EXPECT_EQ(s.Configuracion.Subcuenca, "Subcuenca");
+    EXPECT_EQ(s.Configuracion.Operador, "Operador");
+    EXPECT_EQ(s.Configuracion.FechaProyecto, "03/04/2011");
+    EXPECT_EQ(s.Proyecto.DriveProyecto, "");
+    EXPECT_EQ(s.Proyecto.DirProyectoConf, "/proy");
+    EXPECT_EQ(s.Proyecto.DirProyecto, "/proy");
+    EXPECT_EQ(s.Configuracion.DirNv, "nuevo");
+    EXPECT_EQ(s.Configuracion.CheckDistriPp, 1);
+    EXPECT_EQ(s.Configuracion.NombreArchivoConf, "Arroyo_Conf.vlm");
+    EXPECT_EQ(s.Configuracion.ImagenDibujo, 1);
+    EXPECT_EQ(s.Configuracion.ArchivoImagenDibujo, "/proy/mapa.bmp");
+    EXPECT_EQ(s.Configuracion.ArchivoImagen, "/proy/mapa.bmp");
+    EXPECT_EQ(s.Configuracion.EscalaImagen, 150);
+    EXPECT_EQ(s.Configuracion.TextoS, "nota");
+    EXPECT_TRUE(s.Configuracion.Optiona && !s.Configuracion.Optionb && s.Configuracion.Optionc);
+    EXPECT_EQ(s.Configuracion.ImagenX0, 12.5F);
+    EXPECT_EQ(s.Configuracion.ImagenY0, -3.0F);
+    EXPECT_TRUE(!s.Configuracion.OptionMin && s.Configuracion.OptionHr && s.Configuracion.Optionm3 &&
+                !s.Configuracion.OptionLt);
+    EXPECT_EQ(s.Pasos.N0Dur, 45.25F);
+    EXPECT_EQ(s.Configuracion.MaxUEHsPixel, "900");
+    EXPECT_EQ(s.Configuracion.EscalaDibujo, "2.5");
+    EXPECT_EQ(s.Configuracion.CheckD,
+              (std::array<std::int16_t, 17>{1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1}));
 }
 
-TEST_F(Configuracion, CadaCampoLlegaASuControl)
+TEST_F(ConfiguracionEnDisco, CadaCampoLlegaASuControl)
 {
     Lee(Ejemplo());
     ControlesConfigura c;
@@ -205,63 +207,63 @@ TEST_F(Configuracion, CadaCampoLlegaASuControl)
     EXPECT_TRUE(s.frmConfigura == c);
 }
 
-TEST_F(Configuracion, LasListasLlevanLosValoresTildadosEnOrden)
+TEST_F(ConfiguracionEnDisco, LasListasLlevanLosValoresTildadosEnOrden)
 {
     Lee(Ejemplo());
-    EXPECT_EQ(Valores(s.ListaRec), (std::vector<int>{2, 10, 500, 10000}));
-    EXPECT_EQ(s.NroRec, 4);
-    EXPECT_EQ(Valores(s.ListaDur), (std::vector<int>{5, 60, 2880}));
-    EXPECT_EQ(s.NroDur, 3);
+    EXPECT_EQ(Valores(s.Configuracion.ListaRec), (std::vector<int>{2, 10, 500, 10000}));
+    EXPECT_EQ(s.Configuracion.NroRec, 4);
+    EXPECT_EQ(Valores(s.Configuracion.ListaDur), (std::vector<int>{5, 60, 2880}));
+    EXPECT_EQ(s.Configuracion.NroDur, 3);
 }
 
-TEST_F(Configuracion, UnaCasillaCuentaSoloConUnUnoExacto)
+TEST_F(ConfiguracionEnDisco, UnaCasillaCuentaSoloConUnUnoExacto)
 {
     Renglones r = Ejemplo();
     r[28] = "2";   // R 2
     r[29] = "-1";  // R 5
     r[42] = "2";   // D 5
     Lee(r);
-    EXPECT_EQ(Valores(s.ListaRec), (std::vector<int>{10, 500, 10000}));
-    EXPECT_EQ(Valores(s.ListaDur), (std::vector<int>{60, 2880}));
+    EXPECT_EQ(Valores(s.Configuracion.ListaRec), (std::vector<int>{10, 500, 10000}));
+    EXPECT_EQ(Valores(s.Configuracion.ListaDur), (std::vector<int>{60, 2880}));
     EXPECT_EQ(s.frmConfigura.CheckR[0], 2);
-    EXPECT_EQ(s.CheckR[1], -1);
+    EXPECT_EQ(s.Configuracion.CheckR[1], -1);
 }
 
-TEST_F(Configuracion, LasListasTienenLugarParaTodasLasCasillas)
+TEST_F(ConfiguracionEnDisco, LasListasTienenLugarParaTodasLasCasillas)
 {
     Renglones r = Ejemplo();
     for (std::size_t i = 28; i < NroCampos; ++i)
         r[i] = "1";
     Lee(r);
-    EXPECT_EQ(s.NroRec, 14);
-    EXPECT_EQ(s.NroDur, 17);
-    EXPECT_EQ(s.ListaRec.back(), 10000);
-    EXPECT_EQ(s.ListaDur.back(), 2880);
+    EXPECT_EQ(s.Configuracion.NroRec, 14);
+    EXPECT_EQ(s.Configuracion.NroDur, 17);
+    EXPECT_EQ(s.Configuracion.ListaRec.back(), 10000);
+    EXPECT_EQ(s.Configuracion.ListaDur.back(), 2880);
 }
 
-TEST_F(Configuracion, UnaSegundaLecturaHaceLasListasDeNuevo)
+TEST_F(ConfiguracionEnDisco, UnaSegundaLecturaHaceLasListasDeNuevo)
 {
     Lee(Ejemplo());
     Lee(Con(29, "0"));
-    EXPECT_EQ(Valores(s.ListaRec), (std::vector<int>{10, 500, 10000}));
+    EXPECT_EQ(Valores(s.Configuracion.ListaRec), (std::vector<int>{10, 500, 10000}));
 }
 
-TEST_F(Configuracion, ElNombreDentroDelArchivoRigeDesdeAhi)
+TEST_F(ConfiguracionEnDisco, ElNombreDentroDelArchivoRigeDesdeAhi)
 {
     Lee(Con(1, "\"Otro\""));
-    EXPECT_EQ(s.NombreProyecto, "Otro");
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "Otro");
     leoConf(s);  // now /proy/Otro_Conf.vlm, which isn't there
     EXPECT_EQ(Avisos(), Cajas{CajaNoEsta});
-    EXPECT_EQ(s.ArchivoTemp, "/proy/Otro_Conf.vlm");
+    EXPECT_EQ(s.Proyecto.ArchivoTemp, "/proy/Otro_Conf.vlm");
 }
 
-TEST_F(Configuracion, ArchivoTempEsLaRutaDelArchivoLeido)
+TEST_F(ConfiguracionEnDisco, ArchivoTempEsLaRutaDelArchivoLeido)
 {
     Lee(Ejemplo());
-    EXPECT_EQ(s.ArchivoTemp, "/proy/Arroyo_Conf.vlm");
+    EXPECT_EQ(s.Proyecto.ArchivoTemp, "/proy/Arroyo_Conf.vlm");
 }
 
-TEST_F(Configuracion, ComaYFinDeRenglonValenLoMismo)
+TEST_F(ConfiguracionEnDisco, ComaYFinDeRenglonValenLoMismo)
 {
     std::string bytes;
     for (const std::string& r : Ejemplo())
@@ -269,80 +271,80 @@ TEST_F(Configuracion, ComaYFinDeRenglonValenLoMismo)
     Pon("_Conf.vlm", bytes);
     leoConf(s);
     EXPECT_EQ(Avisos(), Cajas{});
-    EXPECT_EQ(s.TituloProyecto, "Crecidas, del río");
-    EXPECT_EQ(s.NroDur, 3);
+    EXPECT_EQ(s.Configuracion.TituloProyecto, "Crecidas, del río");
+    EXPECT_EQ(s.Configuracion.NroDur, 3);
 }
 
-TEST_F(Configuracion, CamposVaciosSonCeroFalsoYTextoVacio)
+TEST_F(ConfiguracionEnDisco, CamposVaciosSonCeroFalsoYTextoVacio)
 {
     Renglones r(NroCampos, "");
     r[0] = "\"Arroyo\"";
     r[8] = "\"/proy\"";
     Lee(r);
     EXPECT_EQ(Avisos(), Cajas{});
-    EXPECT_EQ(s.FechaProyecto, "");
-    EXPECT_EQ(s.CheckDistriPp, 0);
+    EXPECT_EQ(s.Configuracion.FechaProyecto, "");
+    EXPECT_EQ(s.Configuracion.CheckDistriPp, 0);
     EXPECT_EQ(s.frmConfigura.TexIMGEscala, "0");
     EXPECT_EQ(s.frmConfigura.txtN0Dur, "0");
     EXPECT_EQ(s.frmConfigura.txtEscalaImagen, "");
-    EXPECT_EQ(s.EscalaDibujo, "0");
-    EXPECT_FALSE(s.OptionMin);
-    EXPECT_EQ(s.NroRec, 0);
-    EXPECT_EQ(s.NroDur, 0);
+    EXPECT_EQ(s.Configuracion.EscalaDibujo, "0");
+    EXPECT_FALSE(s.Configuracion.OptionMin);
+    EXPECT_EQ(s.Configuracion.NroRec, 0);
+    EXPECT_EQ(s.Configuracion.NroDur, 0);
 }
 
 // --- numbers in texts ---
 
-TEST_F(Configuracion, N0DurVuelveComoFueEscrita)
+TEST_F(ConfiguracionEnDisco, N0DurVuelveComoFueEscrita)
 {
     Lee(Con(26, "0.1"));
-    EXPECT_EQ(s.N0Dur, 0.1F);
+    EXPECT_EQ(s.Pasos.N0Dur, 0.1F);
     EXPECT_EQ(s.frmConfigura.txtN0Dur, "0.1");
     cmdAplicar(s);
     EXPECT_EQ(Conf(), Junta(Con(26, "0.1")));
-    s.N0Dur = 0;
+    s.Pasos.N0Dur = 0;
     leoConf(s);
-    EXPECT_EQ(s.N0Dur, 0.1F);
+    EXPECT_EQ(s.Pasos.N0Dur, 0.1F);
 }
 
-TEST_F(Configuracion, LaEscalaDeImagenSeDetieneEnLaComaDecimal)
+TEST_F(ConfiguracionEnDisco, LaEscalaDeImagenSeDetieneEnLaComaDecimal)
 {
     Lee(Con(15, "\"12,5\""));
-    EXPECT_EQ(s.EscalaImagen, 12);
+    EXPECT_EQ(s.Configuracion.EscalaImagen, 12);
     EXPECT_EQ(s.frmConfigura.TexIMGEscala, "12");
 }
 
-TEST_F(Configuracion, LaEscalaDeImagenTomaElNumeroDelComienzo)
+TEST_F(ConfiguracionEnDisco, LaEscalaDeImagenTomaElNumeroDelComienzo)
 {
     Lee(Con(15, "\" 75.5 % de zoom\""));
-    EXPECT_EQ(s.EscalaImagen, 75.5);
+    EXPECT_EQ(s.Configuracion.EscalaImagen, 75.5);
     EXPECT_EQ(s.frmConfigura.TexIMGEscala, "75.5");
 }
 
-TEST_F(Configuracion, LosCorrimientosSeLeenComoTexto)
+TEST_F(ConfiguracionEnDisco, LosCorrimientosSeLeenComoTexto)
 {
     Renglones r = Ejemplo();
     r[19] = "\"7,5\"";
     r[20] = "abc";
     Lee(r);
     EXPECT_EQ(Avisos(), Cajas{});
-    EXPECT_EQ(s.ImagenX0, 7.0F);
+    EXPECT_EQ(s.Configuracion.ImagenX0, 7.0F);
     EXPECT_EQ(s.frmConfigura.TexIMGX0, "7");
-    EXPECT_EQ(s.ImagenY0, 0.0F);
+    EXPECT_EQ(s.Configuracion.ImagenY0, 0.0F);
     EXPECT_EQ(s.frmConfigura.TexIMGY0, "0");
 }
 
-TEST_F(Configuracion, LaEscalaDelDibujoCambiaSuComaPorPunto)
+TEST_F(ConfiguracionEnDisco, LaEscalaDelDibujoCambiaSuComaPorPunto)
 {
     Lee(Con(28, "\"12,5 m\""));
     EXPECT_EQ(s.frmConfigura.txtEscalaImagen, "12.5 m");
-    EXPECT_EQ(s.EscalaDibujo, "12.5");
+    EXPECT_EQ(s.Configuracion.EscalaDibujo, "12.5");
 }
 
-TEST_F(Configuracion, LaEscalaDelDibujoEsUnNumeroDe64Bits)
+TEST_F(ConfiguracionEnDisco, LaEscalaDelDibujoEsUnNumeroDe64Bits)
 {
     Lee(Con(28, "\"0.123456789012\""));
-    EXPECT_EQ(s.EscalaDibujo, "0.123456789012");  // a 32-bit float would end after 7 digits
+    EXPECT_EQ(s.Configuracion.EscalaDibujo, "0.123456789012");  // a 32-bit float would end after 7 digits
 }
 
 // --- R 5000 ---
@@ -353,7 +355,7 @@ struct CasoR5000 {
     std::vector<int> lista;
 };
 
-TEST_F(Configuracion, ElCampoDeR5000CaeEnLaBanderaDeR500)
+TEST_F(ConfiguracionEnDisco, ElCampoDeR5000CaeEnLaBanderaDeR500)
 {
     // Recurrencias: R 500 stands at index 9, R 5000 at 12.
     for (const auto& [campo500, campo5000, lista] : std::vector<CasoR5000>{
@@ -363,24 +365,24 @@ TEST_F(Configuracion, ElCampoDeR5000CaeEnLaBanderaDeR500)
             r[i] = "0";
         r[37] = campo500;
         r[40] = campo5000;
-        s.CheckR = {};
+        s.Configuracion.CheckR = {};
         Lee(r);
-        EXPECT_EQ(s.CheckR[9], std::stoi(campo5000)) << campo500 << campo5000;
-        EXPECT_EQ(s.CheckR[12], 0);
+        EXPECT_EQ(s.Configuracion.CheckR[9], std::stoi(campo5000)) << campo500 << campo5000;
+        EXPECT_EQ(s.Configuracion.CheckR[12], 0);
         EXPECT_EQ(s.frmConfigura.CheckR[9], std::stoi(campo500));
         EXPECT_EQ(s.frmConfigura.CheckR[12], std::stoi(campo5000));
-        EXPECT_EQ(Valores(s.ListaRec), lista);
+        EXPECT_EQ(Valores(s.Configuracion.ListaRec), lista);
     }
 }
 
-TEST_F(Configuracion, LaLecturaNoTocaLaBanderaDeR5000)
+TEST_F(ConfiguracionEnDisco, LaLecturaNoTocaLaBanderaDeR5000)
 {
-    s.CheckR[12] = 7;
+    s.Configuracion.CheckR[12] = 7;
     Lee(Con(41, "1"));
-    EXPECT_EQ(s.CheckR[12], 7);
+    EXPECT_EQ(s.Configuracion.CheckR[12], 7);
 }
 
-TEST_F(Configuracion, LasCasillasDeR500YR5000VuelvenDelGuardadoComoSeCargaron)
+TEST_F(ConfiguracionEnDisco, LasCasillasDeR500YR5000VuelvenDelGuardadoComoSeCargaron)
 {
     Renglones r = Con(38, "0");
     r[40] = "1";
@@ -394,32 +396,32 @@ TEST_F(Configuracion, LasCasillasDeR500YR5000VuelvenDelGuardadoComoSeCargaron)
 
 // --- a project that has moved ---
 
-TEST_F(Configuracion, UnProyectoEnOtraRutaSeReescribeEnElActo)
+TEST_F(ConfiguracionEnDisco, UnProyectoEnOtraRutaSeReescribeEnElActo)
 {
     Lee(Con(9, "\"/antes/aqui\""));
     EXPECT_EQ(Avisos(), Cajas{CajaGuardado("/proy/Arroyo_Conf.vlm")});
-    EXPECT_EQ(s.DirProyectoConf, "/proy");
-    EXPECT_EQ(s.DirProyecto, "/proy");
+    EXPECT_EQ(s.Proyecto.DirProyectoConf, "/proy");
+    EXPECT_EQ(s.Proyecto.DirProyecto, "/proy");
     EXPECT_EQ(s.frmConfigura.Dir1, "/proy");
     EXPECT_EQ(Conf(), Junta(Ejemplo()));  // fields 8 and 9 tell the present place
-    EXPECT_EQ(s.NroRec, 4);
+    EXPECT_EQ(s.Configuracion.NroRec, 4);
     leoConf(s);
     EXPECT_EQ(Avisos().size(), 1U);  // at home from now on
 }
 
-TEST_F(Configuracion, UnaUnidadEscritaEnOtraPlataformaEsUnaMudanza)
+TEST_F(ConfiguracionEnDisco, UnaUnidadEscritaEnOtraPlataformaEsUnaMudanza)
 {
     Renglones r = Ejemplo();
     r[7] = "\"c: [datos]\"";
     r[8] = "\"C:/proy\"";
     Lee(r);
     EXPECT_EQ(Avisos(), Cajas{CajaGuardado("/proy/Arroyo_Conf.vlm")});
-    EXPECT_EQ(s.DriveProyecto, "c: [datos]");
+    EXPECT_EQ(s.Proyecto.DriveProyecto, "c: [datos]");
     EXPECT_EQ(s.frmConfigura.Drive1, "");  // a drive that isn't there leaves the control as it is
     EXPECT_EQ(Conf(), Junta(Ejemplo()));
 }
 
-TEST_F(Configuracion, SinUnidadEnElCampo8RigeLaRuta)
+TEST_F(ConfiguracionEnDisco, SinUnidadEnElCampo8RigeLaRuta)
 {
     Lee(Con(8, ""));
     EXPECT_EQ(Avisos(), Cajas{});
@@ -427,37 +429,37 @@ TEST_F(Configuracion, SinUnidadEnElCampo8RigeLaRuta)
     EXPECT_EQ(Avisos(), Cajas{CajaGuardado("/proy/Arroyo_Conf.vlm")});
 }
 
-TEST_F(Configuracion, LasRutasSeComparanSinSuUnidad)
+TEST_F(ConfiguracionEnDisco, LasRutasSeComparanSinSuUnidad)
 {
     Lee(Con(9, "\"D:/proy\""));  // the second character is a colon: what stands behind it counts
     EXPECT_EQ(Avisos(), Cajas{});
-    EXPECT_EQ(s.DirProyecto, "D:/proy");
+    EXPECT_EQ(s.Proyecto.DirProyecto, "D:/proy");
 }
 
-TEST_F(Configuracion, SinDosPuntosNadaSeQuitaDeLaRuta)
+TEST_F(ConfiguracionEnDisco, SinDosPuntosNadaSeQuitaDeLaRuta)
 {
     Lee(Con(9, "\"xxroy\""));  // "/proy" and "xxroy" differ in their first two characters alone
     EXPECT_EQ(Avisos(), Cajas{CajaGuardado("/proy/Arroyo_Conf.vlm")});
 }
 
-TEST_F(Configuracion, LaUnidadSeCuentaEnCaracteres)
+TEST_F(ConfiguracionEnDisco, LaUnidadSeCuentaEnCaracteres)
 {
     Lee(Con(9, "\"\xF1:/proy\""));  // ñ is two bytes in memory
     EXPECT_EQ(Avisos(), Cajas{});
-    EXPECT_EQ(s.DirProyecto, "ñ:/proy");
+    EXPECT_EQ(s.Proyecto.DirProyecto, "ñ:/proy");
 }
 
-TEST_F(Configuracion, UnDirectorioDeMenosDeDosLetrasSeComparaEntero)
+TEST_F(ConfiguracionEnDisco, UnDirectorioDeMenosDeDosLetrasSeComparaEntero)
 {
     for (const char* const directorio : {"\"\"", "\"/\"", "\":\""}) {
         OlvidaAvisos();
-        s.NombreProyecto = "Arroyo";
+        s.Proyecto.NombreProyecto = "Arroyo";
         Lee(Con(9, directorio));
         EXPECT_EQ(Avisos(), Cajas{CajaGuardado("/proy/Arroyo_Conf.vlm")}) << directorio;
     }
 }
 
-TEST_F(Configuracion, UnaCopiaQueDiceOtroNombreNoSeReescribeSola)
+TEST_F(ConfiguracionEnDisco, UnaCopiaQueDiceOtroNombreNoSeReescribeSola)
 {
     disco.Pon("/proy/Otro_Conf.vlm", "ajeno");
     Renglones r = Con(1, "\"Otro\"");
@@ -466,12 +468,12 @@ TEST_F(Configuracion, UnaCopiaQueDiceOtroNombreNoSeReescribeSola)
     EXPECT_EQ(Avisos(), Cajas{});
     EXPECT_EQ(disco.Bytes("/proy/Otro_Conf.vlm"), "ajeno");
     EXPECT_EQ(disco.Bytes("/proy/Arroyo_Conf.vlm"), Junta(r));
-    EXPECT_EQ(s.NombreProyecto, "Otro");
-    EXPECT_EQ(s.DirProyecto, "/proy");
-    EXPECT_EQ(s.NroRec, 4);
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "Otro");
+    EXPECT_EQ(s.Proyecto.DirProyecto, "/proy");
+    EXPECT_EQ(s.Configuracion.NroRec, 4);
 }
 
-TEST_F(Configuracion, AplicarEnUnaCopiaPreguntaAntesDePisarElArchivoDeOtroProyecto)
+TEST_F(ConfiguracionEnDisco, AplicarEnUnaCopiaPreguntaAntesDePisarElArchivoDeOtroProyecto)
 {
     disco.Pon("/proy/Otro_Conf.vlm", "ajeno");
     Lee(Con(1, "\"Otro\""));
@@ -490,64 +492,64 @@ TEST_F(Configuracion, AplicarEnUnaCopiaPreguntaAntesDePisarElArchivoDeOtroProyec
         << "once it is its own it isn't asked about";
 }
 
-TEST_F(Configuracion, AplicarEnElArchivoLeidoONuevoNoPregunta)
+TEST_F(ConfiguracionEnDisco, AplicarEnElArchivoLeidoONuevoNoPregunta)
 {
     Lee(Ejemplo());
     EXPECT_TRUE(cmdAplicar(s));
-    s.NombreProyecto = "Nuevo";
+    s.Proyecto.NombreProyecto = "Nuevo";
     EXPECT_TRUE(cmdAplicar(s));
     EXPECT_TRUE(cmdAplicar(s));
     EXPECT_EQ(anfitrion->Preguntas(), Cajas{});
 }
 
-TEST_F(Configuracion, UnaCarpetaQueElArchivoNoPuedeNombrarNoEsUnaMudanza)
+TEST_F(ConfiguracionEnDisco, UnaCarpetaQueElArchivoNoPuedeNombrarNoEsUnaMudanza)
 {
     // Windows-1252 has the i with its accent and not the alpha: the file says "?" for it.
     disco.PonDirectorio("/río-α");
-    s.DirProyecto = "/río-α";
+    s.Proyecto.DirProyecto = "/río-α";
     const std::string bytes = Junta(Con(9, "\"/r\xEDo-?\""));
     disco.Pon("/río-α/Arroyo_Conf.vlm", bytes);
     leoConf(s);
     EXPECT_EQ(Avisos(), Cajas{});
-    EXPECT_EQ(s.DirProyecto, "/río-α");
-    EXPECT_EQ(s.DirProyectoConf, "/río-α");
+    EXPECT_EQ(s.Proyecto.DirProyecto, "/río-α");
+    EXPECT_EQ(s.Proyecto.DirProyectoConf, "/río-α");
     EXPECT_EQ(s.frmConfigura.Dir1, "/río-α");
     EXPECT_EQ(disco.Bytes("/río-α/Arroyo_Conf.vlm"), bytes);
 }
 
-TEST_F(Configuracion, DosSeparadoresSonUnoSalvoAlComienzo)
+TEST_F(ConfiguracionEnDisco, DosSeparadoresSonUnoSalvoAlComienzo)
 {
     disco.PonDirectorio("/a/b");
     disco.Pon("/a/b/Arroyo_Conf.vlm", Junta(Con(9, "\"/a//b\"")));
-    s.DirProyecto = "/a/b";
+    s.Proyecto.DirProyecto = "/a/b";
     leoConf(s);
     EXPECT_EQ(Avisos(), Cajas{});
-    EXPECT_EQ(s.DirProyecto, "/a/b");
+    EXPECT_EQ(s.Proyecto.DirProyecto, "/a/b");
     disco.Pon("/a/b/Arroyo_Conf.vlm", Junta(Con(9, "\"//a/b\"")));
     leoConf(s);
     EXPECT_EQ(Avisos(), Cajas{CajaGuardado("/a/b/Arroyo_Conf.vlm")}) << "a network path is another place";
 }
 
-TEST_F(Configuracion, UnNombreQueSaleDeLaCarpetaEsUnArchivoDanado)
+TEST_F(ConfiguracionEnDisco, UnNombreQueSaleDeLaCarpetaEsUnArchivoDanado)
 {
     for (const char* const nombre : {"../otro/X", "a/b", "a\\b", "..", "a..b", "a\tb", "a\x7F", "a\x81"}) {
         OlvidaAvisos();
-        s.NombreProyecto = "Arroyo";
-        s.NroRec = 11;
+        s.Proyecto.NombreProyecto = "Arroyo";
+        s.Configuracion.NroRec = 11;
         Lee(Con(1, "\"" + std::string(nombre) + "\""));
         EXPECT_EQ(Avisos(), Cajas{CajaDanado("Arroyo")}) << nombre;
-        EXPECT_EQ(s.NombreProyecto, "") << nombre;
-        EXPECT_EQ(s.NroRec, 11) << nombre;
+        EXPECT_EQ(s.Proyecto.NombreProyecto, "") << nombre;
+        EXPECT_EQ(s.Configuracion.NroRec, 11) << nombre;
     }
     for (const char* const nombre : {"Arroyo", "con espacio", "R\xEDo", "a.b"}) {
         OlvidaAvisos();
-        s.NombreProyecto = "Arroyo";
+        s.Proyecto.NombreProyecto = "Arroyo";
         Lee(Con(1, "\"" + std::string(nombre) + "\""));
         EXPECT_EQ(Avisos(), Cajas{}) << nombre;
     }
 }
 
-TEST_F(Configuracion, LaReescrituraGuardaCadaCampoASuManera)
+TEST_F(ConfiguracionEnDisco, LaReescrituraGuardaCadaCampoASuManera)
 {
     Renglones r = Ejemplo();
     r[8] = "\"/antes\"";
@@ -563,103 +565,103 @@ TEST_F(Configuracion, LaReescrituraGuardaCadaCampoASuManera)
     EXPECT_EQ(Conf(), Junta(nueva));
 }
 
-TEST_F(Configuracion, UnaReescrituraFallidaEsUnaFallaDeLaLectura)
+TEST_F(ConfiguracionEnDisco, UnaReescrituraFallidaEsUnaFallaDeLaLectura)
 {
     PonConf(Con(9, "\"/antes\""));
     disco.FallaEn(2, NumeroFalla::AccesoRuta);  // 1: the reading
-    s.NroRec = 11;
+    s.Configuracion.NroRec = 11;
     leoConf(s);
     EXPECT_EQ(Avisos(), Cajas{CajaAcceso});
-    EXPECT_EQ(s.NombreProyecto, "Arroyo");
-    EXPECT_EQ(s.NroRec, 11);
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "Arroyo");
+    EXPECT_EQ(s.Configuracion.NroRec, 11);
 }
 
-TEST_F(Configuracion, UnProyectoMudadoSinNombreNoEscribeNada)
+TEST_F(ConfiguracionEnDisco, UnProyectoMudadoSinNombreNoEscribeNada)
 {
     Renglones r = Con(1, "\"\"");
     r[8] = "\"/antes\"";
     Lee(r);
     EXPECT_EQ(Avisos(), Cajas{});
     EXPECT_EQ(Conf(), Junta(r));
-    EXPECT_EQ(s.DirProyectoConf, "/proy");
+    EXPECT_EQ(s.Proyecto.DirProyectoConf, "/proy");
 }
 
 // --- failures of the reading ---
 
-TEST_F(Configuracion, UnArchivoDe58RenglonesEstaDanado)
+TEST_F(ConfiguracionEnDisco, UnArchivoDe58RenglonesEstaDanado)
 {
     Renglones r = Ejemplo();
     r.pop_back();
-    s.NroRec = 11;
+    s.Configuracion.NroRec = 11;
     Lee(r);
     EXPECT_EQ(Avisos(), Cajas{CajaDanado("Arroyo")});
-    EXPECT_EQ(s.NombreProyecto, "");
-    EXPECT_EQ(s.TituloProyecto, "Crecidas, del río");  // what was read stays
-    EXPECT_EQ(s.CheckD[15], 0);
-    EXPECT_EQ(s.NroRec, 11);
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "");
+    EXPECT_EQ(s.Configuracion.TituloProyecto, "Crecidas, del río");  // what was read stays
+    EXPECT_EQ(s.Configuracion.CheckD[15], 0);
+    EXPECT_EQ(s.Configuracion.NroRec, 11);
     EXPECT_EQ(Conf(), Junta(r));
 }
 
-TEST_F(Configuracion, UnArchivoVacioEstaDanadoYNombraAlProyectoEnMemoria)
+TEST_F(ConfiguracionEnDisco, UnArchivoVacioEstaDanadoYNombraAlProyectoEnMemoria)
 {
     Lee({});
     EXPECT_EQ(Avisos(), Cajas{CajaDanado("Arroyo")});
-    EXPECT_EQ(s.NombreProyecto, "");
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "");
 }
 
-TEST_F(Configuracion, ElAvisoDeDanadoLlevaElNombreDeAdentro)
+TEST_F(ConfiguracionEnDisco, ElAvisoDeDanadoLlevaElNombreDeAdentro)
 {
     Lee({"\"Otro\"", "\"titulo\""});
     EXPECT_EQ(Avisos(), Cajas{CajaDanado("Otro")});
-    EXPECT_EQ(s.TituloProyecto, "titulo");
+    EXPECT_EQ(s.Configuracion.TituloProyecto, "titulo");
 }
 
-TEST_F(Configuracion, UnArchivoDanadoQueSeMudoNoSeReescribe)
+TEST_F(ConfiguracionEnDisco, UnArchivoDanadoQueSeMudoNoSeReescribe)
 {
     Renglones r = Con(9, "\"/antes\"");
     r.pop_back();
     Lee(r);
     EXPECT_EQ(Avisos(), Cajas{CajaDanado("Arroyo")});
     EXPECT_EQ(Conf(), Junta(r));
-    EXPECT_EQ(s.DirProyectoConf, "/proy");
+    EXPECT_EQ(s.Proyecto.DirProyectoConf, "/proy");
 }
 
-TEST_F(Configuracion, SinArchivoSeAvisaYElNombreQueda)
+TEST_F(ConfiguracionEnDisco, SinArchivoSeAvisaYElNombreQueda)
 {
-    s.TituloProyecto = "anterior";
+    s.Configuracion.TituloProyecto = "anterior";
     leoConf(s);
     EXPECT_EQ(Avisos(), Cajas{CajaNoEsta});
-    EXPECT_EQ(s.NombreProyecto, "Arroyo");
-    EXPECT_EQ(s.TituloProyecto, "anterior");
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "Arroyo");
+    EXPECT_EQ(s.Configuracion.TituloProyecto, "anterior");
     EXPECT_EQ(s.frmConfigura.Dir1, "/proy");
 }
 
-TEST_F(Configuracion, SinDirectorioSeAvisaLaRuta)
+TEST_F(ConfiguracionEnDisco, SinDirectorioSeAvisaLaRuta)
 {
-    s.DirProyecto = "/ido";
+    s.Proyecto.DirProyecto = "/ido";
     leoConf(s);
     EXPECT_EQ(Avisos(), Cajas{CajaSinRuta});
 }
 
-TEST_F(Configuracion, UnArchivoIlegibleSeAvisa)
+TEST_F(ConfiguracionEnDisco, UnArchivoIlegibleSeAvisa)
 {
     PonConf(Ejemplo());
     disco.FallaEn(1, NumeroFalla::AccesoRuta);
     leoConf(s);
     EXPECT_EQ(Avisos(), Cajas{CajaAcceso});
-    EXPECT_EQ(s.NombreProyecto, "Arroyo");
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "Arroyo");
 }
 
-TEST_F(Configuracion, UnCampoDeOtroTipoDetieneLaLectura)
+TEST_F(ConfiguracionEnDisco, UnCampoDeOtroTipoDetieneLaLectura)
 {
     s.frmConfigura.TexS = "anterior";
     Lee(Con(13, "\"x\""));
     EXPECT_EQ(Avisos(), Cajas{CajaTipos});
-    EXPECT_EQ(s.NombreProyecto, "Arroyo");
-    EXPECT_EQ(s.NombreArchivoConf, "Arroyo_Conf.vlm");  // field 12
-    EXPECT_EQ(s.ArchivoImagenDibujo, "Ninguno");        // field 14 keeps its value
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "Arroyo");
+    EXPECT_EQ(s.Configuracion.NombreArchivoConf, "Arroyo_Conf.vlm");  // field 12
+    EXPECT_EQ(s.Configuracion.ArchivoImagenDibujo, "Ninguno");        // field 14 keeps its value
     EXPECT_EQ(s.frmConfigura.TexS, "anterior");
-    EXPECT_EQ(s.NroRec, 0);
+    EXPECT_EQ(s.Configuracion.NroRec, 0);
 }
 
 /// What a bad value gives in a field of a class: nothing, or the box of a fault.
@@ -668,7 +670,7 @@ struct MalValor {
     std::array<const Mensaje*, 6> caja;  ///< by Clase
 };
 
-TEST_F(Configuracion, CadaCampoConTextoEnormeONadaDaSuAviso)
+TEST_F(ConfiguracionEnDisco, CadaCampoConTextoEnormeONadaDaSuAviso)
 {
     const Mensaje* const no = nullptr;
     const auto valores = std::to_array<MalValor>({
@@ -694,7 +696,7 @@ TEST_F(Configuracion, CadaCampoConTextoEnormeONadaDaSuAviso)
             const Mensaje* const caja = malo.caja[static_cast<std::size_t>(clase)];
             EXPECT_EQ(otro.Avisos(), caja == nullptr ? Cajas{} : Cajas{*caja}) << campo << ": " << malo.valor;
             EXPECT_EQ(otro.Bytes("_Conf.vlm"), bytes);
-            EXPECT_EQ(otro.s.NroDur,
+            EXPECT_EQ(otro.s.Configuracion.NroDur,
                       caja == nullptr ? (campo == 43 || campo == 48 || campo == 59 ? 2 : 3) : 0)
                 << campo << ": " << malo.valor;
         }
@@ -708,7 +710,7 @@ bool CortaUnLogico(const std::string& bytes, std::size_t largo)
     return comienzo < largo && bytes[comienzo] == '#' && bytes.find('\r', comienzo) > largo;
 }
 
-TEST_F(Configuracion, ElArchivoCortadoEnCadaByteAvisaUnaVezYNoSeToca)
+TEST_F(ConfiguracionEnDisco, ElArchivoCortadoEnCadaByteAvisaUnaVezYNoSeToca)
 {
     const std::string bytes = Junta(Ejemplo());
     for (std::size_t largo = 1; largo < bytes.size(); ++largo) {
@@ -720,17 +722,17 @@ TEST_F(Configuracion, ElArchivoCortadoEnCadaByteAvisaUnaVezYNoSeToca)
             EXPECT_EQ(otro.Avisos(), Cajas{});
         } else if (CortaUnLogico(bytes, largo)) {
             EXPECT_EQ(otro.Avisos(), Cajas{CajaTipos}) << largo;
-            EXPECT_EQ(otro.s.NombreProyecto, "Arroyo");
+            EXPECT_EQ(otro.s.Proyecto.NombreProyecto, "Arroyo");
         } else {
             // The name, quoted, is cut from the second byte to the seventh.
             const std::string nombre = largo < 7 ? bytes.substr(1, largo - 1) : "Arroyo";
             EXPECT_EQ(otro.Avisos(), Cajas{CajaDanado(nombre)}) << largo;
-            EXPECT_EQ(otro.s.NombreProyecto, "");
+            EXPECT_EQ(otro.s.Proyecto.NombreProyecto, "");
         }
     }
 }
 
-TEST_F(Configuracion, UnArchivoBinarioNoHaceDano)
+TEST_F(ConfiguracionEnDisco, UnArchivoBinarioNoHaceDano)
 {
     std::string bytes;
     for (int i = 0; i < 4096; ++i)
@@ -742,24 +744,24 @@ TEST_F(Configuracion, UnArchivoBinarioNoHaceDano)
 
 // --- writing ---
 
-TEST_F(Configuracion, SinNombreDeProyectoAplicarSoloTomaElDirectorio)
+TEST_F(ConfiguracionEnDisco, SinNombreDeProyectoAplicarSoloTomaElDirectorio)
 {
-    s.NombreProyecto.clear();
-    s.ProyectoNuevo = true;
+    s.Proyecto.NombreProyecto.clear();
+    s.Proyecto.ProyectoNuevo = true;
     s.frmConfigura.Dir1 = "/elegido";
     s.frmConfigura.Drive1 = "x:";
     s.frmConfigura.chkImagenDibujo = 1;
     cmdAplicar(s);
-    EXPECT_EQ(s.DirProyectoConf, "/elegido");
-    EXPECT_EQ(s.DriveProyecto, "x:");
-    EXPECT_EQ(s.DirProyecto, "/proy");
+    EXPECT_EQ(s.Proyecto.DirProyectoConf, "/elegido");
+    EXPECT_EQ(s.Proyecto.DriveProyecto, "x:");
+    EXPECT_EQ(s.Proyecto.DirProyecto, "/proy");
     EXPECT_EQ(s.frmConfigura.chkImagenDibujo, 1);
     EXPECT_EQ(Avisos(), Cajas{});
     EXPECT_TRUE(disco.Archivos().empty());
-    EXPECT_TRUE(s.ProyectoNuevo);
+    EXPECT_TRUE(s.Proyecto.ProyectoNuevo);
 }
 
-TEST_F(Configuracion, AplicarEscribeLos59CamposDeLosControles)
+TEST_F(ConfiguracionEnDisco, AplicarEscribeLos59CamposDeLosControles)
 {
     ControlesConfigura& c = s.frmConfigura;
     c.TextProyecto = "Crecidas, del río";
@@ -781,20 +783,20 @@ TEST_F(Configuracion, AplicarEscribeLos59CamposDeLosControles)
     c.txtEscalaImagen = "2.5";
     c.CheckR = {1, 0, 1, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 1};
     c.CheckD = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1};
-    s.ImagenX0 = 12.5F;
-    s.ImagenY0 = -3;
-    s.N0Dur = 45.25F;
-    s.ProyectoNuevo = true;
-    s.DirProyecto = "/otro";
+    s.Configuracion.ImagenX0 = 12.5F;
+    s.Configuracion.ImagenY0 = -3;
+    s.Pasos.N0Dur = 45.25F;
+    s.Proyecto.ProyectoNuevo = true;
+    s.Proyecto.DirProyecto = "/otro";
     cmdAplicar(s);
     EXPECT_EQ(disco.Bytes("/proy/Arroyo_Conf.vlm"), Junta(Ejemplo()));
     EXPECT_EQ(Avisos(), Cajas{CajaGuardado("/proy/Arroyo_Conf.vlm")});
-    EXPECT_EQ(s.ArchivoTemp, "/proy/Arroyo_Conf.vlm");
-    EXPECT_EQ(s.DirProyecto, "/proy");
-    EXPECT_FALSE(s.ProyectoNuevo);
+    EXPECT_EQ(s.Proyecto.ArchivoTemp, "/proy/Arroyo_Conf.vlm");
+    EXPECT_EQ(s.Proyecto.DirProyecto, "/proy");
+    EXPECT_FALSE(s.Proyecto.ProyectoNuevo);
 }
 
-TEST_F(Configuracion, CorrimientosYN0DurSalenDeLasVariablesYNoDeLosControles)
+TEST_F(ConfiguracionEnDisco, CorrimientosYN0DurSalenDeLasVariablesYNoDeLosControles)
 {
     Lee(Ejemplo());
     s.frmConfigura.TexIMGX0 = s.frmConfigura.TexIMGY0 = s.frmConfigura.txtN0Dur = "777";
@@ -802,47 +804,47 @@ TEST_F(Configuracion, CorrimientosYN0DurSalenDeLasVariablesYNoDeLosControles)
     EXPECT_EQ(Conf(), Junta(Ejemplo()));
 }
 
-TEST_F(Configuracion, LaEscalaDeImagenSeEscribeComoElTextoDelControl)
+TEST_F(ConfiguracionEnDisco, LaEscalaDeImagenSeEscribeComoElTextoDelControl)
 {
     Lee(Ejemplo());
-    s.EscalaImagen = 33;
+    s.Configuracion.EscalaImagen = 33;
     s.frmConfigura.TexIMGEscala = "80,5";
     cmdAplicar(s);
     EXPECT_EQ(Conf(), Junta(Con(15, "\"80,5\"")));
 }
 
-TEST_F(Configuracion, UnaImagenTildadaSinArchivoSeDestildaAlAplicar)
+TEST_F(ConfiguracionEnDisco, UnaImagenTildadaSinArchivoSeDestildaAlAplicar)
 {
     Lee(Con(14, "\"Ninguno\""));
     cmdAplicar(s);
     EXPECT_EQ(s.frmConfigura.chkImagenDibujo, 0);
-    EXPECT_EQ(s.ArchivoImagen, "");
+    EXPECT_EQ(s.Configuracion.ArchivoImagen, "");
     EXPECT_EQ(s.frmConfigura.lblImagenDibujo, "Ninguno");
     Renglones r = Con(14, "\"Ninguno\"");
     r[12] = "0";
     EXPECT_EQ(Conf(), Junta(r));
 }
 
-TEST_F(Configuracion, UnaImagenSinTildarConservaSuArchivo)
+TEST_F(ConfiguracionEnDisco, UnaImagenSinTildarConservaSuArchivo)
 {
     Lee(Con(13, "0"));
     cmdAplicar(s);
-    EXPECT_EQ(s.ArchivoImagen, "/proy/mapa.bmp");
+    EXPECT_EQ(s.Configuracion.ArchivoImagen, "/proy/mapa.bmp");
 }
 
-TEST_F(Configuracion, AplicarSinDondeEscribirEsUnaFalla)
+TEST_F(ConfiguracionEnDisco, AplicarSinDondeEscribirEsUnaFalla)
 {
     s.frmConfigura.Dir1 = "/ido";
-    s.ProyectoNuevo = true;
+    s.Proyecto.ProyectoNuevo = true;
     EXPECT_EQ(apoyo::NumeroDeFalla([&] { cmdAplicar(s); }), 76);
     s.frmConfigura.Dir1 = "/proy";
     disco.FallaEn(2, NumeroFalla::AccesoRuta);  // 1: the look whether another's file is there
     EXPECT_EQ(apoyo::NumeroDeFalla([&] { cmdAplicar(s); }), 75);
     EXPECT_EQ(Avisos(), Cajas{});
-    EXPECT_TRUE(s.ProyectoNuevo);
+    EXPECT_TRUE(s.Proyecto.ProyectoNuevo);
 }
 
-TEST_F(Configuracion, LeerYAplicarDejaLosMismosBytes)
+TEST_F(ConfiguracionEnDisco, LeerYAplicarDejaLosMismosBytes)
 {
     Lee(Ejemplo());
     cmdAplicar(s);
@@ -875,12 +877,12 @@ TEST(SeleccionPorDefecto, LasDuracionesSonLasDelDiseno)
 TEST(SeleccionPorDefecto, LosCamposSinLeerTienenSuValorDeOrigen)
 {
     const Siro s;
-    EXPECT_EQ(s.FechaProyecto, "01/02/2006");
-    EXPECT_EQ(s.CheckDistriPp, 1);
-    EXPECT_EQ(s.ArchivoImagenDibujo, "Ninguno");
-    EXPECT_EQ(s.N0Dur, 10);
-    EXPECT_EQ(s.MaxUEHsPixel, "800");
-    EXPECT_EQ(s.EscalaDibujo, "0");
+    EXPECT_EQ(s.Configuracion.FechaProyecto, "01/02/2006");
+    EXPECT_EQ(s.Configuracion.CheckDistriPp, 1);
+    EXPECT_EQ(s.Configuracion.ArchivoImagenDibujo, "Ninguno");
+    EXPECT_EQ(s.Pasos.N0Dur, 10);
+    EXPECT_EQ(s.Configuracion.MaxUEHsPixel, "800");
+    EXPECT_EQ(s.Configuracion.EscalaDibujo, "0");
 }
 
 TEST(SeleccionPorDefecto, LosControlesDeUnProyectoSinArchivoTienenSuValorDeOrigen)
@@ -937,9 +939,9 @@ RC_GTEST_PROP(ConfiguracionIdaYVuelta, LoGuardadoVuelveIgual, ())
 {
     ProyectoDePrueba a;
     a.s.frmConfigura = ControlesAlAzar();
-    a.s.N0Dur = SimpleAlAzar();
-    a.s.ImagenX0 = SimpleAlAzar();
-    a.s.ImagenY0 = SimpleAlAzar();
+    a.s.Pasos.N0Dur = SimpleAlAzar();
+    a.s.Configuracion.ImagenX0 = SimpleAlAzar();
+    a.s.Configuracion.ImagenY0 = SimpleAlAzar();
     cmdAplicar(a.s);
     const std::string bytes = a.Bytes("_Conf.vlm");
 
@@ -947,9 +949,9 @@ RC_GTEST_PROP(ConfiguracionIdaYVuelta, LoGuardadoVuelveIgual, ())
     b.Pon("_Conf.vlm", bytes);
     leoConf(b.s);
     RC_ASSERT(b.Avisos().empty());
-    RC_ASSERT(b.s.N0Dur == a.s.N0Dur);
-    RC_ASSERT(b.s.ImagenX0 == a.s.ImagenX0);
-    RC_ASSERT(b.s.ImagenY0 == a.s.ImagenY0);
+    RC_ASSERT(b.s.Pasos.N0Dur == a.s.Pasos.N0Dur);
+    RC_ASSERT(b.s.Configuracion.ImagenX0 == a.s.Configuracion.ImagenX0);
+    RC_ASSERT(b.s.Configuracion.ImagenY0 == a.s.Configuracion.ImagenY0);
     ControlesConfigura leidos = b.s.frmConfigura;
     leidos.TexIMGX0 = a.s.frmConfigura.TexIMGX0;  // shown by the reader, not in the file
     leidos.TexIMGY0 = a.s.frmConfigura.TexIMGY0;
@@ -975,7 +977,7 @@ TEST(ConfiguracionSinDisco, CadaLlamadaQueFallaDaSuAvisoYNadaMas)
         leoConf(p.s);
         hubo = p.disco.HuboFalla();
         EXPECT_EQ(p.Avisos(), hubo ? Cajas{CajaAcceso} : Cajas{CajaGuardado("/proy/Arroyo_Conf.vlm")});
-        EXPECT_EQ(p.s.NombreProyecto, "Arroyo");
+        EXPECT_EQ(p.s.Proyecto.NombreProyecto, "Arroyo");
     }
     EXPECT_GE(llamada, 3);  // a reading and at least one writing
 }

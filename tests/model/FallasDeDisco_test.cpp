@@ -92,8 +92,11 @@ struct Datos {
 
 Datos DatosDe(const Siro& s)
 {
-    return {s.NroFilasTabla, s.DisPerso,    s.TablasP,        s.PpReal,     s.PpTormenta,
-            s.DurTormenta,   s.RecTormenta, s.NombreProyecto, s.DirProyecto};
+    return {s.TablasDeLluvia.NroFilasTabla, s.TablasDeLluvia.DisPerso,
+            s.TablasDeLluvia.TablasP,       s.Tormenta.PpReal,
+            s.Tormenta.PpTormenta,          s.Tormenta.DurTormenta,
+            s.Tormenta.RecTormenta,         s.Proyecto.NombreProyecto,
+            s.Proyecto.DirProyecto};
 }
 
 /// A writer, its file, whether its directory is the program's, and how it tells of a fault.
@@ -137,19 +140,19 @@ struct FallasDeDisco : ::testing::Test, MundoDeProyecto {
     void Monta(const std::string& directorio)
     {
         s.Disco = DiscoDelSistema();
-        s.DirEjecutable = s.DirTrabajo = s.DirProyecto = directorio;
-        s.NombreProyecto = "Quelmar";
-        s.NroFilasTabla = {2, 2, 1, 3};
-        s.DisPerso.Dimensiona(3, 4);
-        s.DisPerso(1, 1) = 12.5F;
-        s.TablasP.Dimensiona(4, 4);
-        s.TablasD.Dimensiona(4, 4);
-        s.TablasR.Dimensiona(4, 4);
-        s.NroPpReal = 3;
-        s.PpReal.Dimensiona(3);
-        s.PpTormenta = 77;
-        s.DurTormenta = 88;
-        s.RecTormenta = 99;
+        s.Proyecto.DirEjecutable = s.Proyecto.DirTrabajo = s.Proyecto.DirProyecto = directorio;
+        s.Proyecto.NombreProyecto = "Quelmar";
+        s.TablasDeLluvia.NroFilasTabla = {2, 2, 1, 3};
+        s.TablasDeLluvia.DisPerso.Dimensiona(3, 4);
+        s.TablasDeLluvia.DisPerso(1, 1) = 12.5F;
+        s.TablasDeLluvia.TablasP.Dimensiona(4, 4);
+        s.TablasDeLluvia.TablasD.Dimensiona(4, 4);
+        s.TablasDeLluvia.TablasR.Dimensiona(4, 4);
+        s.Tormenta.NroPpReal = 3;
+        s.Tormenta.PpReal.Dimensiona(3);
+        s.Tormenta.PpTormenta = 77;
+        s.Tormenta.DurTormenta = 88;
+        s.Tormenta.RecTormenta = 99;
     }
     std::string EnRaiz(const std::string& nombre) const { return Ruta(raiz, nombre); }
     /// Runs a writer that must fail with number `numero`; what it shows and throws must be that and no more.
@@ -174,21 +177,22 @@ void EsperaLecturaCallada(MundoDeProyecto& mundo, const std::string& raiz, const
     Siro& s = mundo.s;
     TormentaReal t = Tormenta();
     LeePpReal(s, t);
-    EXPECT_TRUE(s.NroPpReal == 0 || s.NroPpReal == 3) << que;
-    s.NroFilasTabla = {9, 9, 9, 9};
+    EXPECT_TRUE(s.Tormenta.NroPpReal == 0 || s.Tormenta.NroPpReal == 3) << que;
+    s.TablasDeLluvia.NroFilasTabla = {9, 9, 9, 9};
     LeeTablaDisTemPer(s);
-    EXPECT_TRUE(s.NroFilasTabla == (std::array<std::int16_t, 4>{9, 0, 0, 0}) ||
-                s.NroFilasTabla == (std::array<std::int16_t, 4>{9, 2, 1, 3}))
+    EXPECT_TRUE(s.TablasDeLluvia.NroFilasTabla == (std::array<std::int16_t, 4>{9, 0, 0, 0}) ||
+                s.TablasDeLluvia.NroFilasTabla == (std::array<std::int16_t, 4>{9, 2, 1, 3}))
         << que;
     LeeTablaPDRs(s);
-    EXPECT_TRUE(s.NroFilasTabla[3] == 0 || s.NroFilasTabla == (std::array<std::int16_t, 4>{2, 2, 1, 3}))
+    EXPECT_TRUE(s.TablasDeLluvia.NroFilasTabla[3] == 0 ||
+                s.TablasDeLluvia.NroFilasTabla == (std::array<std::int16_t, 4>{2, 2, 1, 3}))
         << que;
     std::vector<std::string> cmbPDR;
     leeListaPpDurRec(s, cmbPDR);
     EXPECT_LE(cmbPDR.size(), 2U) << que;
     EXPECT_EQ(mundo.TomaSucesos(), Sucesos{}) << que;
     LeePuntero(s);
-    EXPECT_TRUE(s.DirProyecto == raiz || s.DirProyecto == Ruta(raiz, "Proyectos")) << que;
+    EXPECT_TRUE(s.Proyecto.DirProyecto == raiz || s.Proyecto.DirProyecto == Ruta(raiz, "Proyectos")) << que;
     EXPECT_EQ(mundo.TomaSucesos(), Sucesos{}) << que;
 }
 
@@ -237,7 +241,7 @@ TEST_F(FallasDeDisco, MatadoEnCadaLlamadaDeCadaEscrituraElArchivoEsElViejoOElNue
         }
     MundoDeProyecto nuevo;
     nuevo.s.Disco = DiscoDelSistema();
-    nuevo.s.DirEjecutable = nuevo.s.DirTrabajo = nuevo.s.DirProyecto = raiz;
+    nuevo.s.Proyecto.DirEjecutable = nuevo.s.Proyecto.DirTrabajo = nuevo.s.Proyecto.DirProyecto = raiz;
     EsperaLecturaCallada(nuevo, raiz, "after all of it");
 }
 
@@ -427,9 +431,9 @@ TEST_F(FallasDeDisco, UnaRutaQueEsDirectorioNoSePuedeEscribirNiLeer)
     }
     MundoDeProyecto nuevo;
     nuevo.s.Disco = DiscoDelSistema();
-    nuevo.s.DirEjecutable = nuevo.s.DirTrabajo = nuevo.s.DirProyecto = raiz;
+    nuevo.s.Proyecto.DirEjecutable = nuevo.s.Proyecto.DirTrabajo = nuevo.s.Proyecto.DirProyecto = raiz;
     EsperaLecturaCallada(nuevo, raiz, "a directory in the file's place");
-    EXPECT_EQ(nuevo.s.NombreProyecto, "");
+    EXPECT_EQ(nuevo.s.Proyecto.NombreProyecto, "");
 }
 
 TEST_F(FallasDeDisco, UnDirectorioQueEsArchivoNoEsRuta)
@@ -439,10 +443,10 @@ TEST_F(FallasDeDisco, UnDirectorioQueEsArchivoNoEsRuta)
     Monta(archivo);
     for (const Escritor& escritor : Escritores)
         EsperaFalla(escritor, 76);
-    s.NombreProyecto = "Quelmar";
+    s.Proyecto.NombreProyecto = "Quelmar";
     LeePuntero(s);
-    EXPECT_EQ(s.NombreProyecto, "");
-    EXPECT_EQ(s.DirProyecto, Ruta(archivo, "Proyectos"));
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "");
+    EXPECT_EQ(s.Proyecto.DirProyecto, Ruta(archivo, "Proyectos"));
     EXPECT_EQ(TomaSucesos(), Sucesos{});
     EXPECT_EQ(BytesDeArchivo(archivo), "x");
 }
@@ -502,7 +506,7 @@ TEST_F(FallasDeDisco, EnUnDirectorioProtegidoNuevoYGuardarComoTerminanYAbrirAbre
         if (!SinPrivilegios()) return std::string("con privilegios");
         EligeRuta(EnRaiz("Quelmar_Conf.vlm"));
         mnuAbrirProyecto(s);
-        std::string texto = "open " + s.NombreProyecto + "\n" + Junta(TomaSucesos());
+        std::string texto = "open " + s.Proyecto.NombreProyecto + "\n" + Junta(TomaSucesos());
         Responde("Copia");
         try {
             mnuGuardarProyectoComo(s);

@@ -23,7 +23,7 @@ struct GuardaComponentes : ConRed {};
 
 TEST_F(GuardaComponentes, CargarYGuardarDejaLosMismosBytes)
 {
-    Red red = RedDeEjemplo();
+    ArchivoDeRed red = RedDeEjemplo();
     red.cauces[1][7] = "1";  // c-2 has one tributary of order 1 and takes its order
     Lee(red.Bytes(), VerticesDeEjemplo);
     mnu_btn_toolbarGuardaUEHs(s);
@@ -36,13 +36,13 @@ TEST_F(GuardaComponentes, CargarYGuardarDejaLosMismosBytes)
 
 TEST_F(GuardaComponentes, GuardarUnSoloCauceInformaLaRutaDeLosVertices)
 {
-    s.ColCauces.Agrega({.numCauce = 1, .NombreCauce = "c-1"});
-    s.NroCauces = 1;
-    s.XVertice.Dimensiona(70, 1);
-    s.YVertice.Dimensiona(70, 1);
+    s.Red.ColCauces.Agrega({.numCauce = 1, .NombreCauce = "c-1"});
+    s.Red.NroCauces = 1;
+    s.Red.XVertice.Dimensiona(70, 1);
+    s.Red.YVertice.Dimensiona(70, 1);
     mnu_btn_toolbarGuardaUEHs(s);
     EXPECT_EQ(Avisos(), Cajas{CajaGuardado("/proy/Arroyo_VerCau.vlm")});
-    EXPECT_EQ(s.ArchivoTemp, "/proy/Arroyo_VerCau.vlm");
+    EXPECT_EQ(s.Proyecto.ArchivoTemp, "/proy/Arroyo_VerCau.vlm");
     EXPECT_EQ(Uehs(),
               "\"Arroyo\"\r\n1\r\n"
               "1\r\n\"c-1\"\r\n0\r\n0\r\n\"\"\r\n0\r\n0\r\n1\r\n0\r\n0\r\n#FALSE#\r\n"
@@ -52,74 +52,76 @@ TEST_F(GuardaComponentes, GuardarUnSoloCauceInformaLaRutaDeLosVertices)
 
 TEST_F(GuardaComponentes, UnMetodoSinFijarSeEscribeComoRenglonVacio)
 {
-    s.ColLagos.Agrega({.NombreLAGO = "l-1"});
-    s.NroLagos = 1;
+    s.Red.ColLagos.Agrega({.NombreLAGO = "l-1"});
+    s.Red.NroLagos = 1;
     mnu_btn_toolbarGuardaUEHs(s);
     EXPECT_EQ(Uehs(),
               "\"Arroyo\"\r\n0\r\n0\r\n0\r\n1\r\n"
               "0\r\n\"l-1\"\r\n\"\"\r\n\r\n0\r\n0\r\n0\r\n0\r\n\"\"\r\n0\r\n0\r\n");
-    EXPECT_EQ(s.Lagos(1).Metodo, "");
+    EXPECT_EQ(s.Red.Lagos(1).Metodo, "");
     EXPECT_EQ(Avisos().size(), 1U);
 }
 
 TEST_F(GuardaComponentes, LosNumerosSeEscribenComoEstanEnLosObjetos)
 {
-    s.ColLagos.Agrega({.NombreLAGO = "l-1", .numLAGO = 55, .Metodo = "Muskingum"});
-    s.NroLagos = 1;
+    s.Red.ColLagos.Agrega({.NombreLAGO = "l-1", .numLAGO = 55, .Metodo = "Muskingum"});
+    s.Red.NroLagos = 1;
     mnu_btn_toolbarGuardaUEHs(s);
     EXPECT_NE(Uehs().find("1\r\n55\r\n\"l-1\""), std::string::npos);
-    EXPECT_EQ(s.Lagos(1).numLAGO, 1);  // and the load numbers anew
+    EXPECT_EQ(s.Red.Lagos(1).numLAGO, 1);  // and the load numbers anew
 }
 
 TEST_F(GuardaComponentes, LosFlotantesSeEscribenConSieteDigitos)
 {
-    s.ColUEHs.Agrega({.NombreUEH = "u-1", .Area = 1.0F / 3, .LongitudMax = 12345678, .VelMedia = 1E-5F});
-    s.NroUEHs = 1;
+    s.Red.ColUEHs.Agrega({.NombreUEH = "u-1", .Area = 1.0F / 3, .LongitudMax = 12345678, .VelMedia = 1E-5F});
+    s.Red.NroUEHs = 1;
     mnu_btn_toolbarGuardaUEHs(s);
     EXPECT_NE(Uehs().find("\r\n0.3333333\r\n\"\"\r\n1.234568E+07\r\n1E-05\r\n"), std::string::npos);
 }
 
 TEST_F(GuardaComponentes, UnNombreConComaSobreviveYUnoConComillasNo)
 {
-    s.ColUEHs.Agrega({.NombreUEH = "u-a, b", .Metodo = "Directo"});
-    s.ColUEHs.Agrega({.NombreUEH = "u-\"c\"", .Metodo = "Directo"});
-    s.NroUEHs = 2;
+    s.Red.ColUEHs.Agrega({.NombreUEH = "u-a, b", .Metodo = "Directo"});
+    s.Red.ColUEHs.Agrega({.NombreUEH = "u-\"c\"", .Metodo = "Directo"});
+    s.Red.NroUEHs = 2;
     mnu_btn_toolbarGuardaUEHs(s);
-    EXPECT_EQ(s.UEHs(1).NombreUEH, "u-a, b");
-    EXPECT_EQ(s.UEHs(2).NombreUEH, "u-");
+    EXPECT_EQ(s.Red.UEHs(1).NombreUEH, "u-a, b");
+    EXPECT_EQ(s.Red.UEHs(2).NombreUEH, "u-");
 }
 
 TEST_F(GuardaComponentes, TrasQuitarElCauce2De3ElTerceroEsElSegundo)
 {
-    Lee(Red{.cauces = {RegistroCauce("c-1", 1), RegistroCauce("c-2", 1), RegistroCauce("c-3", 1)}}.Bytes(),
+    Lee(ArchivoDeRed{.cauces = {RegistroCauce("c-1", 1), RegistroCauce("c-2", 1), RegistroCauce("c-3", 1)}}
+            .Bytes(),
         "1,1\r\n2,2\r\n3,3\r\n");
     // The editor's part: the object leaves the collection, the drawing's rows move down.
-    s.ColCauces.Quita(2);
-    s.NroVertices(2) = s.NroVertices(3);
-    s.XVertice(2, 1) = s.XVertice(3, 1);
-    s.YVertice(2, 1) = s.YVertice(3, 1);
+    s.Red.ColCauces.Quita(2);
+    s.Red.NroVertices(2) = s.Red.NroVertices(3);
+    s.Red.XVertice(2, 1) = s.Red.XVertice(3, 1);
+    s.Red.YVertice(2, 1) = s.Red.YVertice(3, 1);
     mnu_btn_toolbarGuardaUEHs(s);
-    EXPECT_EQ(s.NroCauces, 2);  // taken from the collection
+    EXPECT_EQ(s.Red.NroCauces, 2);  // taken from the collection
     EXPECT_NE(Uehs().find("\r\n3\r\n\"c-3\""), std::string::npos);
-    EXPECT_EQ(s.Cauces(2).NombreCauce, "c-3");
-    EXPECT_EQ(s.Cauces(2).numCauce, 2);
-    EXPECT_EQ(s.XVertice(2, 1), 3);
+    EXPECT_EQ(s.Red.Cauces(2).NombreCauce, "c-3");
+    EXPECT_EQ(s.Red.Cauces(2).numCauce, 2);
+    EXPECT_EQ(s.Red.XVertice(2, 1), 3);
 }
 
 TEST_F(GuardaComponentes, LosVerticesSeGuardanPorNumeroYNoPorColeccion)
 {
-    Lee(Red{.cauces = {RegistroCauce("c-1", 1), RegistroCauce("c-2", 2)}}.Bytes(), "1,1\r\n2,2\r\n3,3\r\n");
-    std::swap(s.ColCauces.Item(1), s.ColCauces.Item(2));
+    Lee(ArchivoDeRed{.cauces = {RegistroCauce("c-1", 1), RegistroCauce("c-2", 2)}}.Bytes(),
+        "1,1\r\n2,2\r\n3,3\r\n");
+    std::swap(s.Red.ColCauces.Item(1), s.Red.ColCauces.Item(2));
     mnu_btn_toolbarGuardaUEHs(s);
     EXPECT_EQ(VerCau(), "1,1\r\n2,2\r\n3,3\r\n");
-    EXPECT_EQ(s.XVertice(1, 2), 2);  // c-2, now the first, says that it has two
+    EXPECT_EQ(s.Red.XVertice(1, 2), 2);  // c-2, now the first, says that it has two
 }
 
 TEST_F(GuardaComponentes, LasOtrasCuentasSalenDeSusVariables)
 {
-    s.ColUEHs.Agrega({.NombreUEH = "u-1", .Metodo = "Directo"});
-    s.ColUEHs.Agrega({.NombreUEH = "u-2", .Metodo = "Directo"});
-    s.NroUEHs = 1;
+    s.Red.ColUEHs.Agrega({.NombreUEH = "u-1", .Metodo = "Directo"});
+    s.Red.ColUEHs.Agrega({.NombreUEH = "u-2", .Metodo = "Directo"});
+    s.Red.NroUEHs = 1;
     mnu_btn_toolbarGuardaUEHs(s);
     EXPECT_EQ(Uehs().substr(0, 16), "\"Arroyo\"\r\n0\r\n1\r\n");
     EXPECT_NE(Uehs().find("u-2"), std::string::npos);  // the collection is written whole
@@ -127,11 +129,12 @@ TEST_F(GuardaComponentes, LasOtrasCuentasSalenDeSusVariables)
 
 TEST_F(GuardaComponentes, ElOrdenSeCalculaAntesDeGuardar)
 {
-    Lee(Red{.cauces = {RegistroCauce("c-1", 0, "c-3"), RegistroCauce("c-2", 0, "c-3"), RegistroCauce("c-3")}}
+    Lee(ArchivoDeRed{.cauces = {RegistroCauce("c-1", 0, "c-3"), RegistroCauce("c-2", 0, "c-3"),
+                                RegistroCauce("c-3")}}
             .Bytes(),
         "");
     mnu_btn_toolbarGuardaUEHs(s);
-    EXPECT_EQ(s.Cauces(3).OrdenCauce, 2);
+    EXPECT_EQ(s.Red.Cauces(3).OrdenCauce, 2);
 }
 
 // --- an empty network ---
@@ -195,8 +198,8 @@ TEST_F(GuardaComponentes, UnaRedVaciaPorqueSuCargaFalloNoBorraNada)
     Pon("_UEHs.vlm", RedDeEjemplo().Bytes());
     Pon("_VerCau.vlm", VerticesDeEjemplo);
     LeeUEHs(s);
-    s.ColCauces.Vacia(), s.ColUEHs.Vacia(), s.ColLagos.Vacia(), s.ColRepresas.Vacia();
-    s.NroCauces = s.NroUEHs = s.NroLagos = s.NroRepresas = 0;
+    s.Red.ColCauces.Vacia(), s.Red.ColUEHs.Vacia(), s.Red.ColLagos.Vacia(), s.Red.ColRepresas.Vacia();
+    s.Red.NroCauces = s.Red.NroUEHs = s.Red.NroLagos = s.Red.NroRepresas = 0;
     EXPECT_TRUE(mnu_btn_toolbarGuardaUEHs(s));
     EXPECT_TRUE(disco.Archivos().empty());
 }
@@ -204,7 +207,7 @@ TEST_F(GuardaComponentes, UnaRedVaciaPorqueSuCargaFalloNoBorraNada)
 TEST_F(GuardaComponentes, LasCuentasDecidenYNoLasColecciones)
 {
     Pon("_UEHs.vlm", "viejo");
-    s.ColCauces.Agrega({.NombreCauce = "c-1"});  // as a load without vertices leaves it
+    s.Red.ColCauces.Agrega({.NombreCauce = "c-1"});  // as a load without vertices leaves it
     mnu_btn_toolbarGuardaUEHs(s);
     EXPECT_TRUE(disco.Archivos().empty());
 }
@@ -214,19 +217,19 @@ TEST_F(GuardaComponentes, LasCuentasDecidenYNoLasColecciones)
 /// What a save must leave as it was where it fails.
 struct Memoria {
     explicit Memoria(const Siro& s)
-        : cauces(s.ColCauces),
-          uehs(s.ColUEHs),
-          lagos(s.ColLagos),
-          represas(s.ColRepresas),
-          cuentas{s.NroCauces, s.NroUEHs, s.NroLagos, s.NroRepresas},
-          nombre(s.NombreProyecto)
+        : cauces(s.Red.ColCauces),
+          uehs(s.Red.ColUEHs),
+          lagos(s.Red.ColLagos),
+          represas(s.Red.ColRepresas),
+          cuentas{s.Red.NroCauces, s.Red.NroUEHs, s.Red.NroLagos, s.Red.NroRepresas},
+          nombre(s.Proyecto.NombreProyecto)
     {
     }
     bool operator==(const Memoria&) const = default;
-    decltype(Siro::ColCauces) cauces;
-    decltype(Siro::ColUEHs) uehs;
-    decltype(Siro::ColLagos) lagos;
-    decltype(Siro::ColRepresas) represas;
+    decltype(model::Red::ColCauces) cauces;
+    decltype(model::Red::ColUEHs) uehs;
+    decltype(model::Red::ColLagos) lagos;
+    decltype(model::Red::ColRepresas) represas;
     std::vector<std::int16_t> cuentas;
     std::string nombre;
 };
@@ -235,8 +238,8 @@ TEST_F(GuardaComponentes, UnoDeLosDosArchivosProtegidoDejaLosDosYLaMemoria)
 {
     for (const char* const protegido : {"_UEHs.vlm", "_VerCau.vlm"}) {
         LeeEjemplo();
-        s.ColUEHs.Item(1).Area = 7;
-        s.ColCauces.Item(1).OrdenCauce = 9;  // worked out anew by every save, but not by a failed one
+        s.Red.ColUEHs.Item(1).Area = 7;
+        s.Red.ColCauces.Item(1).OrdenCauce = 9;  // worked out anew by every save, but not by a failed one
         const Memoria antes(s);
         OlvidaAvisos();
         disco.Protege(RutaDe(protegido));
@@ -252,19 +255,19 @@ TEST_F(GuardaComponentes, UnoDeLosDosArchivosProtegidoDejaLosDosYLaMemoria)
 
 TEST_F(GuardaComponentes, SinDirectorioSeAvisaUnaVez)
 {
-    s.ColLagos.Agrega({.NombreLAGO = "l-1"});
-    s.NroLagos = 1;
-    s.DirProyecto = "/ido";
+    s.Red.ColLagos.Agrega({.NombreLAGO = "l-1"});
+    s.Red.NroLagos = 1;
+    s.Proyecto.DirProyecto = "/ido";
     EXPECT_FALSE(mnu_btn_toolbarGuardaUEHs(s));
     EXPECT_EQ(Avisos(), Cajas{CajaSinRuta});
-    EXPECT_EQ(s.NroLagos, 1);
-    EXPECT_EQ(s.ColLagos.Cuenta(), 1);
+    EXPECT_EQ(s.Red.NroLagos, 1);
+    EXPECT_EQ(s.Red.ColLagos.Cuenta(), 1);
 }
 
 TEST_F(GuardaComponentes, UnDiscoLlenoDejaLosArchivosYLaMemoria)
 {
     LeeEjemplo();
-    s.ColUEHs.Item(1).Referencia = "algo más largo que lo de antes, para que no quepa";
+    s.Red.ColUEHs.Item(1).Referencia = "algo más largo que lo de antes, para que no quepa";
     const Memoria antes(s);
     OlvidaAvisos();
     disco.LimitaEspacio(RedDeEjemplo().Bytes().size() + VerticesDeEjemplo.size());
@@ -283,12 +286,12 @@ TEST_F(GuardaComponentes, UnDiscoLlenoDejaLosArchivosYLaMemoria)
 TEST_F(GuardaComponentes, UnVerticeSinLugarSeAvisaUnaVezYNadaSeEscribe)
 {
     for (const char* const nombre : {"c-1", "c-2"})
-        s.ColCauces.Agrega({.NombreCauce = nombre});
-    s.NroCauces = 2;
-    s.NroVertices(1) = 3;
-    s.NroVertices(2) = 1;
-    s.XVertice.Dimensiona(70, 1);
-    s.YVertice.Dimensiona(70, 1);
+        s.Red.ColCauces.Agrega({.NombreCauce = nombre});
+    s.Red.NroCauces = 2;
+    s.Red.NroVertices(1) = 3;
+    s.Red.NroVertices(2) = 1;
+    s.Red.XVertice.Dimensiona(70, 1);
+    s.Red.YVertice.Dimensiona(70, 1);
     Pon("_VerCau.vlm", "viejo");
     EXPECT_FALSE(mnu_btn_toolbarGuardaUEHs(s));
     EXPECT_EQ(Avisos(), Cajas{CajaSubindice});  // pairs (1,2) and (1,3) lie outside
@@ -299,42 +302,42 @@ TEST_F(GuardaComponentes, UnVerticeSinLugarSeAvisaUnaVezYNadaSeEscribe)
 TEST_F(GuardaComponentes, MasCaucesQueUnEnteroDe16BitsNoSeGuardan)
 {
     for (int i = 0; i < 32768; ++i)
-        s.ColCauces.Agrega({});
-    s.NroUEHs = 1;
+        s.Red.ColCauces.Agrega({});
+    s.Red.NroUEHs = 1;
     EXPECT_FALSE(mnu_btn_toolbarGuardaUEHs(s));
     EXPECT_EQ(Avisos(), Cajas{CajaDesborde});
     EXPECT_TRUE(disco.Archivos().empty());
-    EXPECT_EQ(s.ColCauces.Cuenta(), 32768);
+    EXPECT_EQ(s.Red.ColCauces.Cuenta(), 32768);
 }
 
 TEST_F(GuardaComponentes, GuardarMasDe70CaucesConVerticesNoCambiaLosArchivos)
 {
     for (int i = 1; i <= 102; ++i)
-        s.ColCauces.Agrega({.NombreCauce = "c-" + std::to_string(i)});
-    s.NroCauces = 102;
-    s.NroVertices(71) = 2;
-    s.XVertice.Dimensiona(70, 1);
-    s.YVertice.Dimensiona(70, 1);
+        s.Red.ColCauces.Agrega({.NombreCauce = "c-" + std::to_string(i)});
+    s.Red.NroCauces = 102;
+    s.Red.NroVertices(71) = 2;
+    s.Red.XVertice.Dimensiona(70, 1);
+    s.Red.YVertice.Dimensiona(70, 1);
     Pon("_UEHs.vlm", "viejo");
     EXPECT_FALSE(mnu_btn_toolbarGuardaUEHs(s));
     EXPECT_EQ(Avisos(), Cajas{CajaSubindice});
     EXPECT_EQ(Uehs(), "viejo");
-    EXPECT_EQ(s.ColCauces.Cuenta(), 102);
+    EXPECT_EQ(s.Red.ColCauces.Cuenta(), 102);
 }
 
 TEST_F(GuardaComponentes, LaRelecturaQueFallaDejaLaRedYCierraLosNumeros)
 {
     LeeEjemplo();
-    s.ColCauces.Item(2).numCauce = 5;
-    const int cuenta = s.ColCauces.Cuenta();
+    s.Red.ColCauces.Item(2).numCauce = 5;
+    const int cuenta = s.Red.ColCauces.Cuenta();
     for (int llamada = 1; llamada <= 2; ++llamada) {
         OlvidaAvisos();
         disco.FallaEn(llamada, NumeroFalla::AccesoRuta);
         ReleeUEHs(s);
         EXPECT_TRUE(disco.HuboFalla());
         EXPECT_EQ(Avisos(), Cajas{CajaAcceso});
-        EXPECT_EQ(s.ColCauces.Cuenta(), cuenta);
-        EXPECT_EQ(s.ColCauces.Item(2).numCauce, 2);
+        EXPECT_EQ(s.Red.ColCauces.Cuenta(), cuenta);
+        EXPECT_EQ(s.Red.ColCauces.Item(2).numCauce, 2);
     }
 }
 
@@ -412,39 +415,39 @@ RC_GTEST_PROP(ComponentesIdaYVuelta, LoGuardadoVuelveIgual, ())
 {
     ProyectoDePrueba p;
     Siro& s = p.s;
-    s.NroCauces = Llena(s.ColCauces, CauceAlAzar);
-    s.NroUEHs = Llena(s.ColUEHs, UEHAlAzar, 1);
-    s.NroRepresas = Llena(s.ColRepresas, RepresaAlAzar);
-    s.NroLagos = Llena(s.ColLagos, LagoAlAzar);
+    s.Red.NroCauces = Llena(s.Red.ColCauces, CauceAlAzar);
+    s.Red.NroUEHs = Llena(s.Red.ColUEHs, UEHAlAzar, 1);
+    s.Red.NroRepresas = Llena(s.Red.ColRepresas, RepresaAlAzar);
+    s.Red.NroLagos = Llena(s.Red.ColLagos, LagoAlAzar);
     int mayor = 0;
-    for (const Cauce& c : s.ColCauces)
+    for (const Cauce& c : s.Red.ColCauces)
         mayor = std::max(mayor, int{c.numVertices});
-    s.XVertice.Dimensiona(70, mayor);
-    s.YVertice.Dimensiona(70, mayor);
-    for (const Cauce& c : s.ColCauces) {
-        s.NroVertices(c.numCauce) = c.numVertices;
+    s.Red.XVertice.Dimensiona(70, mayor);
+    s.Red.YVertice.Dimensiona(70, mayor);
+    for (const Cauce& c : s.Red.ColCauces) {
+        s.Red.NroVertices(c.numCauce) = c.numVertices;
         for (int j = 1; j <= c.numVertices; ++j) {
-            s.XVertice(c.numCauce, j) = SimpleAlAzar();
-            s.YVertice(c.numCauce, j) = SimpleAlAzar();
+            s.Red.XVertice(c.numCauce, j) = SimpleAlAzar();
+            s.Red.YVertice(c.numCauce, j) = SimpleAlAzar();
         }
     }
-    const auto cauces = s.ColCauces;
-    const auto uehs = s.ColUEHs;
-    const auto represas = s.ColRepresas;
-    const auto lagos = s.ColLagos;
-    const auto x = s.XVertice;
-    const auto y = s.YVertice;
+    const auto cauces = s.Red.ColCauces;
+    const auto uehs = s.Red.ColUEHs;
+    const auto represas = s.Red.ColRepresas;
+    const auto lagos = s.Red.ColLagos;
+    const auto x = s.Red.XVertice;
+    const auto y = s.Red.YVertice;
 
     mnu_btn_toolbarGuardaUEHs(s);  // and reads again
     RC_ASSERT(p.Avisos() == Cajas{CajaGuardado("/proy/Arroyo_VerCau.vlm")});
-    for (Cauce& c : s.ColCauces)
+    for (Cauce& c : s.Red.ColCauces)
         c.OrdenCauce = 0;
-    RC_ASSERT(s.ColCauces == cauces);
-    RC_ASSERT(s.ColUEHs == uehs);
-    RC_ASSERT(s.ColRepresas == represas);
-    RC_ASSERT(s.ColLagos == lagos);
-    RC_ASSERT(s.XVertice == x);
-    RC_ASSERT(s.YVertice == y);
+    RC_ASSERT(s.Red.ColCauces == cauces);
+    RC_ASSERT(s.Red.ColUEHs == uehs);
+    RC_ASSERT(s.Red.ColRepresas == represas);
+    RC_ASSERT(s.Red.ColLagos == lagos);
+    RC_ASSERT(s.Red.XVertice == x);
+    RC_ASSERT(s.Red.YVertice == y);
 
     const std::string bytesUEHs = p.Bytes("_UEHs.vlm");
     const std::string bytesVerCau = p.Bytes("_VerCau.vlm");
@@ -484,7 +487,7 @@ TEST(ComponentesSinDisco, ElGuardadoDejaTodoViejoOTodoNuevoAnteLaFallaDeCadaLlam
             p.Pon("_UEHs.vlm", RedDeEjemplo().Bytes());
             p.Pon("_VerCau.vlm", VerticesDeEjemplo);
             LeeUEHs(p.s);
-            p.s.ColUEHs.Item(1).Area = 7;
+            p.s.Red.ColUEHs.Item(1).Area = 7;
             const Memoria antes(p.s);
             p.disco.FallaEn(llamada, numero);
             const bool guardada = mnu_btn_toolbarGuardaUEHs(p.s);

@@ -68,30 +68,30 @@ struct GuardadoEntero : ::testing::Test, MundoDeProyecto {
     GuardadoEntero()
     {
         s.Disco = DiscoDelSistema();
-        s.DirProyecto = s.DirTrabajo = s.frmConfigura.Dir1 = carpeta.Camino().string();
-        s.NombreProyecto = "Quelmar";
+        s.Proyecto.DirProyecto = s.Proyecto.DirTrabajo = s.frmConfigura.Dir1 = carpeta.Camino().string();
+        s.Proyecto.NombreProyecto = "Quelmar";
         PonUEHs(5);
         mnu_btn_toolbarGuardaUEHs(s);
         TomaSucesos();
     }
     void PonUEHs(int cuantas)
     {
-        s.ColUEHs.Vacia();
+        s.Red.ColUEHs.Vacia();
         for (int i = 1; i <= cuantas; ++i)
-            s.ColUEHs.Agrega({.NombreUEH = "u-" + std::to_string(i), .Area = 250, .numUEH = 0});
-        s.NroUEHs = static_cast<std::int16_t>(cuantas);
+            s.Red.ColUEHs.Agrega({.NombreUEH = "u-" + std::to_string(i), .Area = 250, .numUEH = 0});
+        s.Red.NroUEHs = static_cast<std::int16_t>(cuantas);
     }
     /// Saves 60 UEHs. A failed save must be told once and leave them in memory; the other one must be read
     /// back.
     int GuardaSesenta()
     {
         PonUEHs(60);
-        const auto antes = s.ColUEHs;
+        const auto antes = s.Red.ColUEHs;
         const bool bien = mnu_btn_toolbarGuardaUEHs(s);
         const auto vistos = TomaSucesos();
-        if (s.NroUEHs != 60 || s.ColUEHs.Cuenta() != 60 || vistos.size() != 1) return Mal;
+        if (s.Red.NroUEHs != 60 || s.Red.ColUEHs.Cuenta() != 60 || vistos.size() != 1) return Mal;
         if (bien) return vistos[0].find("correctamente") == std::string::npos ? Mal : Nuevo;
-        return vistos[0] == CajaAcceso && s.ColUEHs == antes ? Viejo : Mal;
+        return vistos[0] == CajaAcceso && s.Red.ColUEHs == antes ? Viejo : Mal;
     }
     std::vector<std::string> Nombres() const
     {
@@ -158,7 +158,7 @@ TEST_F(GuardadoEntero, MatadoEnCadaLlamadaLaRedEsLaViejaOLaNuevaTrasAbrirla)
                 GuardaSesenta();
             });
             ASSERT_NE(fin, fallas::Fin::Mal);
-            RecuperaGuardado(s, s.DirProyecto);
+            RecuperaGuardado(s, s.Proyecto.DirProyecto);
             const fallas::Contenido queda = fallas::ContenidoDe(carpeta.Camino());
             EXPECT_TRUE(queda == vieja || queda == nueva) << "call " << n << ", part " << hecha;
             nuevas += queda == nueva;

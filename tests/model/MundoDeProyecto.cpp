@@ -85,7 +85,7 @@ Anfitrion MundoDeProyecto::Anfitrion()
         if (!terminaVuelve) throw FinDelPrograma{3};
     };
     a.carga_lbl_proyecto = [this] {
-        sucesos.push_back(SucesoEtiquetas(s.NombreProyecto, s.frmConfigura.TextProyecto));
+        sucesos.push_back(SucesoEtiquetas(s.Proyecto.NombreProyecto, s.frmConfigura.TextProyecto));
     };
     a.HabilitaGuardarComo = [this] { sucesos.push_back(SucesoHabilitaGuardarComo()); };
     return a;

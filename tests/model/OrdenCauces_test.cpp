@@ -25,14 +25,14 @@ std::vector<int> Ordenes(const std::vector<Tramo>& tramos, const std::vector<Tra
 {
     Siro s;
     for (const auto& [nombre, destino] : tramos)
-        s.ColCauces.Agrega({.NombreCauce = nombre, .Cauce_aa = destino, .OrdenCauce = 77});
+        s.Red.ColCauces.Agrega({.NombreCauce = nombre, .Cauce_aa = destino, .OrdenCauce = 77});
     for (const auto& [nombre, destino] : lagos)
-        s.ColLagos.Agrega({.NombreLAGO = nombre, .Cauce_aa = destino});
+        s.Red.ColLagos.Agrega({.NombreLAGO = nombre, .Cauce_aa = destino});
     for (const auto& [nombre, destino] : represas)
-        s.ColRepresas.Agrega({.NombreRepresa = nombre, .Cauce_aa = destino});
+        s.Red.ColRepresas.Agrega({.NombreRepresa = nombre, .Cauce_aa = destino});
     CalculaOrdenCauces(s);
     std::vector<int> ordenes;
-    for (const Cauce& cauce : s.ColCauces)
+    for (const Cauce& cauce : s.Red.ColCauces)
         ordenes.push_back(cauce.OrdenCauce);
     return ordenes;
 }
@@ -144,12 +144,12 @@ TEST(OrdenDeCauces, UnOrdenFueraDelTipoEsUnaFalla)
     Siro s;
     for (int i = 1; i <= 32768; ++i) {
         const std::string lago = "l-" + std::to_string(i);
-        s.ColCauces.Agrega({.NombreCauce = "c-" + std::to_string(i), .Cauce_aa = lago});
+        s.Red.ColCauces.Agrega({.NombreCauce = "c-" + std::to_string(i), .Cauce_aa = lago});
         for (int doble = 0; doble < 2; ++doble)
-            s.ColLagos.Agrega({.NombreLAGO = lago, .Cauce_aa = "c-" + std::to_string(i + 1)});
+            s.Red.ColLagos.Agrega({.NombreLAGO = lago, .Cauce_aa = "c-" + std::to_string(i + 1)});
     }
     EXPECT_EQ(apoyo::NumeroDeFalla([&] { CalculaOrdenCauces(s); }), 6);
-    EXPECT_EQ(s.ColCauces.Item(32767).OrdenCauce, 32767);
+    EXPECT_EQ(s.Red.ColCauces.Item(32767).OrdenCauce, 32767);
 }
 
 }  // namespace

@@ -22,8 +22,8 @@ struct ProyectoDePrueba {
     ProyectoDePrueba()
     {
         disco.PonDirectorio("/proy");
-        s.NombreProyecto = "Arroyo";
-        s.DirProyecto = s.frmConfigura.Dir1 = "/proy";
+        s.Proyecto.NombreProyecto = "Arroyo";
+        s.Proyecto.DirProyecto = s.frmConfigura.Dir1 = "/proy";
         s.Disco = disco.Puerta();
         s.Anfitrion = anfitrion.Puerta();
     }

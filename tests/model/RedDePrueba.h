@@ -83,7 +83,7 @@ inline Renglones RegistroRepresa(const std::string& nombre, const std::string& d
 }
 
 /// The groups of a component file in its order.
-struct Red {
+struct ArchivoDeRed {
     std::string nombre = "\"Arroyo\"";
     std::vector<Renglones> cauces{}, uehs{}, represas{}, lagos{};
 
@@ -101,7 +101,7 @@ struct Red {
 };
 
 /// Two reaches of 2 and 3 vertices, a unit, a dam and a lake.
-inline Red RedDeEjemplo()
+inline ArchivoDeRed RedDeEjemplo()
 {
     return {.cauces = {RegistroCauce("c-1", 2, "c-2", 1, 1), RegistroCauce("c-2", 3, "", 2, 3)},
             .uehs = {RegistroUEH("u-1", "c-1")},
@@ -121,9 +121,10 @@ struct ConRed : ::testing::Test, ProyectoDePrueba {
     void LeeEjemplo() { Lee(RedDeEjemplo().Bytes(), VerticesDeEjemplo); }
     std::string Uehs() { return Bytes("_UEHs.vlm"); }
     std::string VerCau() { return Bytes("_VerCau.vlm"); }
-    std::vector<int> Cuentas() { return {s.NroCauces, s.NroUEHs, s.NroRepresas, s.NroLagos}; }
+    std::vector<int> Cuentas() { return {s.Red.NroCauces, s.Red.NroUEHs, s.Red.NroRepresas, s.Red.NroLagos}; }
     std::vector<int> Tamanos()
     {
-        return {s.ColCauces.Cuenta(), s.ColUEHs.Cuenta(), s.ColRepresas.Cuenta(), s.ColLagos.Cuenta()};
+        return {s.Red.ColCauces.Cuenta(), s.Red.ColUEHs.Cuenta(), s.Red.ColRepresas.Cuenta(),
+                s.Red.ColLagos.Cuenta()};
     }
 };

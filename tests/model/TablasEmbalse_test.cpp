@@ -44,17 +44,17 @@ constexpr std::string_view LHASQ = "_LHASQ.vlm";
 struct TablasEmbalse : ::testing::Test, ProyectoDePrueba {
     void PonRepresas(const std::vector<std::string>& nombres)
     {
-        s.ColRepresas.Vacia();
+        s.Red.ColRepresas.Vacia();
         std::int16_t n = 0;
         for (const std::string& nombre : nombres)
-            s.ColRepresas.Agrega({.NombreRepresa = nombre, .numRepresa = ++n});
+            s.Red.ColRepresas.Agrega({.NombreRepresa = nombre, .numRepresa = ++n});
     }
     void PonLagos(const std::vector<std::string>& nombres)
     {
-        s.ColLagos.Vacia();
+        s.Red.ColLagos.Vacia();
         std::int16_t n = 0;
         for (const std::string& nombre : nombres)
-            s.ColLagos.Agrega({.NombreLAGO = nombre, .numLAGO = ++n});
+            s.Red.ColLagos.Agrega({.NombreLAGO = nombre, .numLAGO = ++n});
     }
     void LeeRHAS(std::string_view bytes)
     {
@@ -92,14 +92,14 @@ TEST_F(TablasEmbalse, LasTablasHASLleganALaRepresaDeSuNombre)
     PonRepresas({"r-2", "r-1"});  // the order of the file is nobody's concern
     LeeRHAS(DosRepresas);
     EXPECT_EQ(Avisos(), Cajas{});
-    EXPECT_EQ(s.NroRepresas, 2);
-    EXPECT_EQ(Todos(s.RepresaFilasHAS), (std::vector<int>{0, 1, 2}));
-    EXPECT_EQ(Fila(s.RepresaH, 1, 1), (std::vector<float>{7}));
-    EXPECT_EQ(Fila(s.RepresaA, 1, 1), (std::vector<float>{8}));
-    EXPECT_EQ(Fila(s.RepresaS, 1, 1), (std::vector<std::int32_t>{9}));
-    EXPECT_EQ(Fila(s.RepresaH, 2, 2), (std::vector<float>{0, 5.5F}));
-    EXPECT_EQ(Fila(s.RepresaA, 2, 2), (std::vector<float>{0, 12.25F}));
-    EXPECT_EQ(Fila(s.RepresaS, 2, 2), (std::vector<std::int32_t>{0, 300000}));
+    EXPECT_EQ(s.Red.NroRepresas, 2);
+    EXPECT_EQ(Todos(s.Red.RepresaFilasHAS), (std::vector<int>{0, 1, 2}));
+    EXPECT_EQ(Fila(s.Red.RepresaH, 1, 1), (std::vector<float>{7}));
+    EXPECT_EQ(Fila(s.Red.RepresaA, 1, 1), (std::vector<float>{8}));
+    EXPECT_EQ(Fila(s.Red.RepresaS, 1, 1), (std::vector<std::int32_t>{9}));
+    EXPECT_EQ(Fila(s.Red.RepresaH, 2, 2), (std::vector<float>{0, 5.5F}));
+    EXPECT_EQ(Fila(s.Red.RepresaA, 2, 2), (std::vector<float>{0, 12.25F}));
+    EXPECT_EQ(Fila(s.Red.RepresaS, 2, 2), (std::vector<std::int32_t>{0, 300000}));
 }
 
 /// Records of two fields, n of them.
@@ -117,13 +117,13 @@ TEST_F(TablasEmbalse, ElLargoMayorDeUnaTabla)
     PonRepresas({"r-1", "r-2"});
     Pon(RHQ, "\"*r-1\",32767\r\n" + Renglones(32767, "1,2\r\n") + "\"*r-2\",1\r\n3,4\r\n");
     LeeTablaHQRepresa(s);
-    EXPECT_EQ(Todos(s.RepresaFilasHQ), (std::vector<int>{0, 32767, 1}));
-    EXPECT_EQ(s.RepresaQQ(1, 32767), 2);
-    EXPECT_EQ(s.RepresaQQ(2, 1), 4);
+    EXPECT_EQ(Todos(s.Red.RepresaFilasHQ), (std::vector<int>{0, 32767, 1}));
+    EXPECT_EQ(s.Red.RepresaQQ(1, 32767), 2);
+    EXPECT_EQ(s.Red.RepresaQQ(2, 1), 4);
 
     Pon(RHQ, "\"*r-1\",1\r\n" + Renglones(32768, "1,2\r\n") + "\"*r-2\",1\r\n3,4\r\n");
     LeeTablaHQRepresa(s);
-    EXPECT_EQ(Todos(s.RepresaFilasHQ), (std::vector<int>{0, 1, 0}));
+    EXPECT_EQ(Todos(s.Red.RepresaFilasHQ), (std::vector<int>{0, 1, 0}));
     EXPECT_EQ(Avisos(), Cajas{});
 }
 
@@ -135,7 +135,7 @@ TEST_F(TablasEmbalse, LosRenglonesEnFallaTienenUnTope)
     Pon(RHQ, Renglones(40000, "1,x\r\n") + "\"*r-1\",1\r\n1,2\r\n");
     LeeTablaHQRepresa(s);
     EXPECT_EQ(Avisos(), Cajas(32767, CajaTipos));
-    EXPECT_EQ(Todos(s.RepresaFilasHQ), (std::vector<int>{0, 0}));
+    EXPECT_EQ(Todos(s.Red.RepresaFilasHQ), (std::vector<int>{0, 0}));
 }
 
 // 300 components and 32767 rows would be 40 MB a column: no network of 20 Represas asks for it.
@@ -152,12 +152,12 @@ TEST_F(TablasEmbalse, LasTablasHQLleganALaRepresaDeSuNombre)
     Pon(RHQ, "\"*r-1\",1\r\n1.5,2.5\r\n\"*r-2\",2\r\n0,0\r\n3,44.125\r\n");
     LeeTablaHQRepresa(s);
     EXPECT_EQ(Avisos(), Cajas{});
-    EXPECT_EQ(s.NroRepresas, 2);
-    EXPECT_EQ(Todos(s.RepresaFilasHQ), (std::vector<int>{0, 1, 2}));
-    EXPECT_EQ(Fila(s.RepresaQH, 1, 1), (std::vector<float>{1.5F}));
-    EXPECT_EQ(Fila(s.RepresaQQ, 1, 1), (std::vector<float>{2.5F}));
-    EXPECT_EQ(Fila(s.RepresaQH, 2, 2), (std::vector<float>{0, 3}));
-    EXPECT_EQ(Fila(s.RepresaQQ, 2, 2), (std::vector<float>{0, 44.125F}));
+    EXPECT_EQ(s.Red.NroRepresas, 2);
+    EXPECT_EQ(Todos(s.Red.RepresaFilasHQ), (std::vector<int>{0, 1, 2}));
+    EXPECT_EQ(Fila(s.Red.RepresaQH, 1, 1), (std::vector<float>{1.5F}));
+    EXPECT_EQ(Fila(s.Red.RepresaQQ, 1, 1), (std::vector<float>{2.5F}));
+    EXPECT_EQ(Fila(s.Red.RepresaQH, 2, 2), (std::vector<float>{0, 3}));
+    EXPECT_EQ(Fila(s.Red.RepresaQQ, 2, 2), (std::vector<float>{0, 44.125F}));
 }
 
 TEST_F(TablasEmbalse, LasTablasHASQLleganAlLagoDeSuNombre)
@@ -166,34 +166,34 @@ TEST_F(TablasEmbalse, LasTablasHASQLleganAlLagoDeSuNombre)
     Pon(LHASQ, "\"*l-1\",1,\"*\",\"*\"\r\n1,2,3,4.5\r\n\"*l-2\",2,\"*\",\"*\"\r\n5,6,7,8\r\n9,10,11,12\r\n");
     LeeTablaHSVQLago(s);
     EXPECT_EQ(Avisos(), Cajas{});
-    EXPECT_EQ(s.NroLagos, 2);
-    EXPECT_EQ(Todos(s.LagoFilas), (std::vector<int>{0, 1, 2}));
-    EXPECT_EQ(Fila(s.LagoQ, 1, 1), (std::vector<float>{4.5F}));
-    EXPECT_EQ(Fila(s.LagoH, 2, 2), (std::vector<float>{5, 9}));
-    EXPECT_EQ(Fila(s.LagoA, 2, 2), (std::vector<float>{6, 10}));
-    EXPECT_EQ(Fila(s.LagoS, 2, 2), (std::vector<std::int32_t>{7, 11}));
-    EXPECT_EQ(Fila(s.LagoQ, 2, 2), (std::vector<float>{8, 12}));
+    EXPECT_EQ(s.Red.NroLagos, 2);
+    EXPECT_EQ(Todos(s.Red.LagoFilas), (std::vector<int>{0, 1, 2}));
+    EXPECT_EQ(Fila(s.Red.LagoQ, 1, 1), (std::vector<float>{4.5F}));
+    EXPECT_EQ(Fila(s.Red.LagoH, 2, 2), (std::vector<float>{5, 9}));
+    EXPECT_EQ(Fila(s.Red.LagoA, 2, 2), (std::vector<float>{6, 10}));
+    EXPECT_EQ(Fila(s.Red.LagoS, 2, 2), (std::vector<std::int32_t>{7, 11}));
+    EXPECT_EQ(Fila(s.Red.LagoQ, 2, 2), (std::vector<float>{8, 12}));
 }
 
 TEST_F(TablasEmbalse, ArchivoTempEsElNombreDelArchivo)
 {
     PonRepresas({"r-1"});
     LeeTablaHSVRepresa(s);
-    EXPECT_EQ(s.ArchivoTemp, "Arroyo_RHAS.vlm");
+    EXPECT_EQ(s.Proyecto.ArchivoTemp, "Arroyo_RHAS.vlm");
     LeeTablaHQRepresa(s);
-    EXPECT_EQ(s.ArchivoTemp, "Arroyo_RHQ.vlm");
+    EXPECT_EQ(s.Proyecto.ArchivoTemp, "Arroyo_RHQ.vlm");
     LeeTablaHSVQLago(s);
-    EXPECT_EQ(s.ArchivoTemp, "Arroyo_LHASQ.vlm");
+    EXPECT_EQ(s.Proyecto.ArchivoTemp, "Arroyo_LHASQ.vlm");
 }
 
 TEST_F(TablasEmbalse, SinComponentesQuedanArreglosDeUnaFila)
 {
-    s.NroRepresas = 9;
+    s.Red.NroRepresas = 9;
     LeeRHAS(DosRepresas);
-    EXPECT_EQ(s.NroRepresas, 0);
-    EXPECT_EQ(Todos(s.RepresaFilasHAS), (std::vector<int>{0}));
-    EXPECT_EQ(s.RepresaH.UltimaFila(), 0);
-    EXPECT_EQ(s.RepresaH.TopeColumna(), 10);
+    EXPECT_EQ(s.Red.NroRepresas, 0);
+    EXPECT_EQ(Todos(s.Red.RepresaFilasHAS), (std::vector<int>{0}));
+    EXPECT_EQ(s.Red.RepresaH.UltimaFila(), 0);
+    EXPECT_EQ(s.Red.RepresaH.TopeColumna(), 10);
 }
 
 TEST_F(TablasEmbalse, SinArchivoTodasQuedanConCeroFilasSinAviso)
@@ -206,20 +206,20 @@ TEST_F(TablasEmbalse, SinArchivoTodasQuedanConCeroFilasSinAviso)
     LeeTablaHQRepresa(s);
     LeeTablaHSVQLago(s);
     EXPECT_EQ(Avisos(), Cajas{});
-    EXPECT_EQ(Todos(s.RepresaFilasHAS), (std::vector<int>{0, 0, 0}));
-    EXPECT_EQ(Todos(s.RepresaFilasHQ), (std::vector<int>{0, 0, 0}));
-    EXPECT_EQ(Todos(s.LagoFilas), (std::vector<int>{0, 0}));
-    EXPECT_EQ(s.RepresaH(1, 2), 0);  // the arrays are new
-    EXPECT_EQ(s.RepresaH.TopeColumna(), 10);
+    EXPECT_EQ(Todos(s.Red.RepresaFilasHAS), (std::vector<int>{0, 0, 0}));
+    EXPECT_EQ(Todos(s.Red.RepresaFilasHQ), (std::vector<int>{0, 0, 0}));
+    EXPECT_EQ(Todos(s.Red.LagoFilas), (std::vector<int>{0, 0}));
+    EXPECT_EQ(s.Red.RepresaH(1, 2), 0);  // the arrays are new
+    EXPECT_EQ(s.Red.RepresaH.TopeColumna(), 10);
 }
 
 TEST_F(TablasEmbalse, DosComponentesDelMismoNombreRecibenLaMismaTabla)
 {
     PonRepresas({"r-1", "r-1"});
     LeeRHAS("\"*r-1\",1,\"*\"\r\n1,2,3\r\n\"*r-1\",1,\"*\"\r\n4,5,6\r\n");
-    EXPECT_EQ(Todos(s.RepresaFilasHAS), (std::vector<int>{0, 1, 1}));
-    EXPECT_EQ(s.RepresaH(1, 1), 1);
-    EXPECT_EQ(s.RepresaH(2, 1), 1);
+    EXPECT_EQ(Todos(s.Red.RepresaFilasHAS), (std::vector<int>{0, 1, 1}));
+    EXPECT_EQ(s.Red.RepresaH(1, 1), 1);
+    EXPECT_EQ(s.Red.RepresaH(2, 1), 1);
     GuardaTablaHSVRepresa(s);
     EXPECT_EQ(Bytes(RHAS), "\"*r-1\",1,\"*\"\r\n1,2,3\r\n\"*r-1\",1,\"*\"\r\n1,2,3\r\n");
 }
@@ -229,8 +229,8 @@ TEST_F(TablasEmbalse, UnNombreQueEmpiezaConAsteriscoFunciona)
     PonRepresas({"*r", "r"});
     LeeRHAS("\"*r\",1,\"*\"\r\n1,1,1\r\n\"**r\",1,\"*\"\r\n2,2,2\r\n");
     EXPECT_EQ(Avisos(), Cajas{});
-    EXPECT_EQ(s.RepresaH(1, 1), 2);
-    EXPECT_EQ(s.RepresaH(2, 1), 1);
+    EXPECT_EQ(s.Red.RepresaH(1, 1), 2);
+    EXPECT_EQ(s.Red.RepresaH(2, 1), 1);
 }
 
 TEST_F(TablasEmbalse, ElNombreSeComparaExacto)
@@ -238,17 +238,17 @@ TEST_F(TablasEmbalse, ElNombreSeComparaExacto)
     PonRepresas({"r-1"});
     for (const std::string cabecera : {"\"*R-1\"", "\"*r-1 \"", "\"r-1\"", "\"*r-10\"", "\"* r-1\""}) {
         LeeRHAS(cabecera + ",1,\"*\"\r\n1,1,1\r\n");
-        EXPECT_EQ(s.RepresaFilasHAS(1), 0) << cabecera;
+        EXPECT_EQ(s.Red.RepresaFilasHAS(1), 0) << cabecera;
     }
     LeeRHAS("*r-1,1,*\r\n1,1,1\r\n");  // a text may stand without quotes
-    EXPECT_EQ(s.RepresaFilasHAS(1), 1);
+    EXPECT_EQ(s.Red.RepresaFilasHAS(1), 1);
 }
 
 TEST_F(TablasEmbalse, UnNombreConAcentoSeEncuentra)
 {
     PonRepresas({"r-Ñire"});
     LeeRHAS("\"*r-\xD1ire\",1,\"*\"\r\n1,2,3\r\n");
-    EXPECT_EQ(s.RepresaFilasHAS(1), 1);
+    EXPECT_EQ(s.Red.RepresaFilasHAS(1), 1);
     GuardaTablaHSVRepresa(s);
     EXPECT_EQ(Bytes(RHAS), "\"*r-\xD1ire\",1,\"*\"\r\n1,2,3\r\n");
 }
@@ -259,7 +259,7 @@ TEST_F(TablasEmbalse, UnBloqueDeCeroFilasEsSoloSuCabecera)
     const std::string bytes = "\"*r-1\",0,\"*\"\r\n\"*r-2\",1,\"*\"\r\n1,2,3\r\n";
     LeeRHAS(bytes);
     EXPECT_EQ(Avisos(), Cajas{});
-    EXPECT_EQ(Todos(s.RepresaFilasHAS), (std::vector<int>{0, 0, 1}));
+    EXPECT_EQ(Todos(s.Red.RepresaFilasHAS), (std::vector<int>{0, 0, 1}));
     GuardaTablaHSVRepresa(s);
     EXPECT_EQ(Bytes(RHAS), bytes);
 }
@@ -270,7 +270,7 @@ TEST_F(TablasEmbalse, ElAlmacenamientoPasaPorUnFlotanteDe32Bits)
     LeeRHAS("\"*r-1\",3,\"*\"\r\n1,1,16777217\r\n2,1,16777219\r\n3,1,2000000001\r\n");
     // Above 2^24 a float has even numbers only, ties to the even mantissa: 16777218 is half of an odd one.
     // Above 2^30 its step is 128: 2000000001 -> 2000000000.
-    EXPECT_EQ(Fila(s.RepresaS, 1, 3), (std::vector<std::int32_t>{16777216, 16777220, 2000000000}));
+    EXPECT_EQ(Fila(s.Red.RepresaS, 1, 3), (std::vector<std::int32_t>{16777216, 16777220, 2000000000}));
     GuardaTablaHSVRepresa(s);
     EXPECT_EQ(Bytes(RHAS), "\"*r-1\",3,\"*\"\r\n1,1,16777216\r\n2,1,16777220\r\n3,1,2000000000\r\n");
 }
@@ -280,7 +280,7 @@ TEST_F(TablasEmbalse, ElAlmacenamientoSeRedondeaAlPar)
     PonLagos({"l-1"});
     Pon(LHASQ, "\"*l-1\",4,\"*\",\"*\"\r\n1,1,2.5,1\r\n2,1,3.5,1\r\n3,1,-0.5,1\r\n4,1,1E3,1\r\n");
     LeeTablaHSVQLago(s);
-    EXPECT_EQ(Fila(s.LagoS, 1, 4), (std::vector<std::int32_t>{2, 4, 0, 1000}));
+    EXPECT_EQ(Fila(s.Red.LagoS, 1, 4), (std::vector<std::int32_t>{2, 4, 0, 1000}));
 }
 
 TEST_F(TablasEmbalse, UnAlmacenamientoFueraDelTipoAvisaYElRestoDeLaFilaQueda)
@@ -289,9 +289,9 @@ TEST_F(TablasEmbalse, UnAlmacenamientoFueraDelTipoAvisaYElRestoDeLaFilaQueda)
     Pon(LHASQ, "\"*l-1\",2,\"*\",\"*\"\r\n1,2,3E9,4\r\n5,6,-3E9,8\r\n");
     LeeTablaHSVQLago(s);
     EXPECT_EQ(Avisos(), Veces(2, CajaDesborde));
-    EXPECT_EQ(Fila(s.LagoS, 1, 2), (std::vector<std::int32_t>{0, 0}));
-    EXPECT_EQ(Fila(s.LagoH, 1, 2), (std::vector<float>{1, 5}));
-    EXPECT_EQ(Fila(s.LagoQ, 1, 2), (std::vector<float>{4, 8}));
+    EXPECT_EQ(Fila(s.Red.LagoS, 1, 2), (std::vector<std::int32_t>{0, 0}));
+    EXPECT_EQ(Fila(s.Red.LagoH, 1, 2), (std::vector<float>{1, 5}));
+    EXPECT_EQ(Fila(s.Red.LagoQ, 1, 2), (std::vector<float>{4, 8}));
 }
 
 /// A block of so many rows: k, 1, 1.
@@ -307,16 +307,16 @@ TEST_F(TablasEmbalse, UnaTablaDeMasDe10FilasEnsanchaLosArreglosParaTodas)
 {
     PonRepresas({"r-1", "r-2", "r-3"});
     LeeRHAS(Bloque("r-1", 3) + Bloque("r-2", 14) + Bloque("r-3", 12));
-    EXPECT_EQ(Todos(s.RepresaFilasHAS), (std::vector<int>{0, 3, 14, 12}));
-    for (const Matriz<float>* m : {&s.RepresaH, &s.RepresaA}) {
+    EXPECT_EQ(Todos(s.Red.RepresaFilasHAS), (std::vector<int>{0, 3, 14, 12}));
+    for (const Matriz<float>* m : {&s.Red.RepresaH, &s.Red.RepresaA}) {
         EXPECT_EQ(m->UltimaFila(), 3);
         EXPECT_EQ(m->TopeColumna(), 15);  // the largest count and one more
     }
-    EXPECT_EQ(s.RepresaS.TopeColumna(), 15);
-    EXPECT_EQ(s.RepresaH(1, 3), 3);  // kept while the arrays grew
-    EXPECT_EQ(s.RepresaH(1, 4), 0);
-    EXPECT_EQ(s.RepresaH(2, 14), 14);
-    EXPECT_EQ(s.RepresaH(3, 12), 12);
+    EXPECT_EQ(s.Red.RepresaS.TopeColumna(), 15);
+    EXPECT_EQ(s.Red.RepresaH(1, 3), 3);  // kept while the arrays grew
+    EXPECT_EQ(s.Red.RepresaH(1, 4), 0);
+    EXPECT_EQ(s.Red.RepresaH(2, 14), 14);
+    EXPECT_EQ(s.Red.RepresaH(3, 12), 12);
 }
 
 TEST_F(TablasEmbalse, UnaTablaDe10FilasOMenosDejaAlMenos11Filas)
@@ -324,24 +324,24 @@ TEST_F(TablasEmbalse, UnaTablaDe10FilasOMenosDejaAlMenos11Filas)
     PonRepresas({"r-1"});
     for (const int filas : {0, 1, 9, 10}) {
         LeeRHAS(Bloque("r-1", filas));
-        EXPECT_GE(s.RepresaH.TopeColumna(), 10) << filas;
-        EXPECT_GE(s.RepresaH.TopeColumna(), filas + (filas > 0 ? 1 : 0)) << filas;
+        EXPECT_GE(s.Red.RepresaH.TopeColumna(), 10) << filas;
+        EXPECT_GE(s.Red.RepresaH.TopeColumna(), filas + (filas > 0 ? 1 : 0)) << filas;
         for (int k = filas + 1; k <= 10; ++k)
-            EXPECT_EQ(s.RepresaH(1, k), 0);
-        EXPECT_EQ(s.RepresaH(1, 0), 0);
-        EXPECT_EQ(s.RepresaH(0, 1), 0);
+            EXPECT_EQ(s.Red.RepresaH(1, k), 0);
+        EXPECT_EQ(s.Red.RepresaH(1, 0), 0);
+        EXPECT_EQ(s.Red.RepresaH(0, 1), 0);
     }
 }
 
 TEST_F(TablasEmbalse, LosArreglosLleganHastaElMayorNumero)
 {
     PonRepresas({"r-1", "r-2"});
-    s.ColRepresas.Item(1).numRepresa = 7;
+    s.Red.ColRepresas.Item(1).numRepresa = 7;
     LeeRHAS(DosRepresas);
-    EXPECT_EQ(s.NroRepresas, 2);
-    EXPECT_EQ(s.RepresaFilasHAS.Tope(), 7);
-    EXPECT_EQ(s.RepresaFilasHAS(7), 2);
-    EXPECT_EQ(s.RepresaH(7, 2), 5.5F);
+    EXPECT_EQ(s.Red.NroRepresas, 2);
+    EXPECT_EQ(s.Red.RepresaFilasHAS.Tope(), 7);
+    EXPECT_EQ(s.Red.RepresaFilasHAS(7), 2);
+    EXPECT_EQ(s.Red.RepresaH(7, 2), 5.5F);
 }
 
 // --- a block that isn't there ---
@@ -351,7 +351,7 @@ TEST_F(TablasEmbalse, SinElBloqueDeLaPrimeraNingunaTieneTabla)
     PonRepresas({"r-0", "r-1", "r-2"});
     LeeRHAS(DosRepresas);
     EXPECT_EQ(Avisos(), Cajas{});
-    EXPECT_EQ(Todos(s.RepresaFilasHAS), (std::vector<int>{0, 0, 0, 0}));
+    EXPECT_EQ(Todos(s.Red.RepresaFilasHAS), (std::vector<int>{0, 0, 0, 0}));
 }
 
 TEST_F(TablasEmbalse, UnBloqueQueFaltaTerminaLaCargaDeLasSiguientes)
@@ -359,18 +359,18 @@ TEST_F(TablasEmbalse, UnBloqueQueFaltaTerminaLaCargaDeLasSiguientes)
     PonRepresas({"r-1", "r-falta", "r-2"});
     LeeRHAS(DosRepresas);
     EXPECT_EQ(Avisos(), Cajas{});
-    EXPECT_EQ(Todos(s.RepresaFilasHAS), (std::vector<int>{0, 2, 0, 0}));
-    EXPECT_EQ(s.RepresaH(1, 2), 5.5F);
+    EXPECT_EQ(Todos(s.Red.RepresaFilasHAS), (std::vector<int>{0, 2, 0, 0}));
+    EXPECT_EQ(s.Red.RepresaH(1, 2), 5.5F);
 }
 
 TEST_F(TablasEmbalse, RenombrarSinReescribirDejaLasTablasHuerfanas)
 {
     PonRepresas({"r-1"});
     LeeRHAS(DosRepresas);
-    EXPECT_EQ(s.RepresaFilasHAS(1), 2);
-    s.ColRepresas.Item(1).NombreRepresa = "r-nueva";
+    EXPECT_EQ(s.Red.RepresaFilasHAS(1), 2);
+    s.Red.ColRepresas.Item(1).NombreRepresa = "r-nueva";
     LeeTablaHSVRepresa(s);
-    EXPECT_EQ(s.RepresaFilasHAS(1), 0);
+    EXPECT_EQ(s.Red.RepresaFilasHAS(1), 0);
 }
 
 TEST_F(TablasEmbalse, LosBloquesDeUnArchivoSeNombranEnSuOrden)
@@ -413,7 +413,7 @@ TEST_F(TablasEmbalse, ElFinalDentroDeUnBloqueEsUnBloqueQueFalta)
     PonRepresas({"r-1", "r-2"});
     LeeRHAS("\"*r-2\",1,\"*\"\r\n1,2,3\r\n\"*r-1\",3,\"*\"\r\n4,5,6\r\n7,8");
     EXPECT_EQ(Avisos(), Cajas{});
-    EXPECT_EQ(Todos(s.RepresaFilasHAS), (std::vector<int>{0, 0, 0}));  // r-2 comes after it
+    EXPECT_EQ(Todos(s.Red.RepresaFilasHAS), (std::vector<int>{0, 0, 0}));  // r-2 comes after it
 }
 
 TEST_F(TablasEmbalse, UnaCuentaQueMienteEsUnBloqueQueFalta)
@@ -421,7 +421,7 @@ TEST_F(TablasEmbalse, UnaCuentaQueMienteEsUnBloqueQueFalta)
     PonRepresas({"r-1", "r-2"});
     LeeRHAS("\"*r-1\",32767,\"*\"\r\n1,2,3\r\n");
     EXPECT_EQ(Avisos(), Cajas{});
-    EXPECT_EQ(Todos(s.RepresaFilasHAS), (std::vector<int>{0, 0, 0}));
+    EXPECT_EQ(Todos(s.Red.RepresaFilasHAS), (std::vector<int>{0, 0, 0}));
 }
 
 TEST_F(TablasEmbalse, UnaCuentaNegativaNoLeeFilas)
@@ -429,15 +429,15 @@ TEST_F(TablasEmbalse, UnaCuentaNegativaNoLeeFilas)
     PonRepresas({"r-1", "r-2"});
     LeeRHAS("\"*r-1\",-2,\"*\"\r\n\"*r-2\",1,\"*\"\r\n1,2,3\r\n");
     EXPECT_EQ(Avisos(), Cajas{});
-    EXPECT_EQ(Todos(s.RepresaFilasHAS), (std::vector<int>{0, -2, 1}));
+    EXPECT_EQ(Todos(s.Red.RepresaFilasHAS), (std::vector<int>{0, -2, 1}));
 }
 
 TEST_F(TablasEmbalse, UnaCuentaCortaTomaElRestoPorCabeceras)
 {
     PonRepresas({"r-1", "r-2"});
     LeeRHAS("\"*r-1\",1,\"*\"\r\n1,2,3\r\n4,5,6\r\n\"*r-2\",1,\"*\"\r\n7,8,9\r\n");
-    EXPECT_EQ(Todos(s.RepresaFilasHAS), (std::vector<int>{0, 1, 1}));
-    EXPECT_EQ(s.RepresaH(2, 1), 7);
+    EXPECT_EQ(Todos(s.Red.RepresaFilasHAS), (std::vector<int>{0, 1, 1}));
+    EXPECT_EQ(s.Red.RepresaH(2, 1), 7);
 }
 
 TEST_F(TablasEmbalse, UnRenglonDeOtraCantidadDeCamposDesplazaLaBusqueda)
@@ -446,7 +446,7 @@ TEST_F(TablasEmbalse, UnRenglonDeOtraCantidadDeCamposDesplazaLaBusqueda)
     // The line "4" has one field: records of three from there on are "4","*r-2",1 and so on.
     LeeRHAS("\"*r-1\",1,\"*\"\r\n1,2,3\r\n4\r\n\"*r-2\",1,\"*\"\r\n7,8,9\r\n");
     EXPECT_EQ(Avisos(), Cajas{CajaTipos});  // "*r-2" as a count
-    EXPECT_EQ(Todos(s.RepresaFilasHAS), (std::vector<int>{0, 1, 0}));
+    EXPECT_EQ(Todos(s.Red.RepresaFilasHAS), (std::vector<int>{0, 1, 0}));
 }
 
 // --- the scan over earlier blocks ---
@@ -460,10 +460,10 @@ TEST_F(TablasEmbalse, UnAreaMayorDe32767AvisaPorFilaYPorComponenteQueLaPasa)
         "\"*r-3\",1,\"*\"\r\n5,5,5\r\n");
     // r-1 passes no row; r-2 two of r-1; r-3 those and one of r-2. All load all the same.
     EXPECT_EQ(Avisos(), Veces(0 + 2 + 3, CajaDesborde));
-    EXPECT_EQ(Todos(s.RepresaFilasHAS), (std::vector<int>{0, 3, 1, 1}));
-    EXPECT_EQ(Fila(s.RepresaA, 1, 3), (std::vector<float>{32767, 32768, 40000}));
-    EXPECT_EQ(s.RepresaA(2, 1), 50000);
-    EXPECT_EQ(s.RepresaH(3, 1), 5);
+    EXPECT_EQ(Todos(s.Red.RepresaFilasHAS), (std::vector<int>{0, 3, 1, 1}));
+    EXPECT_EQ(Fila(s.Red.RepresaA, 1, 3), (std::vector<float>{32767, 32768, 40000}));
+    EXPECT_EQ(s.Red.RepresaA(2, 1), 50000);
+    EXPECT_EQ(s.Red.RepresaH(3, 1), 5);
 }
 
 TEST_F(TablasEmbalse, ElRedondeoDecideSiUnAreaPasaDe32767)
@@ -479,13 +479,13 @@ TEST_F(TablasEmbalse, EnHQEsElCaudalElQueAvisaYEnHASQElArea)
     Pon(RHQ, "\"*r-1\",1\r\n1,40000\r\n\"*r-2\",1\r\n2,2\r\n");
     LeeTablaHQRepresa(s);
     EXPECT_EQ(Avisos(), Cajas{CajaDesborde});
-    EXPECT_EQ(s.RepresaQQ(1, 1), 40000);
+    EXPECT_EQ(s.Red.RepresaQQ(1, 1), 40000);
     PonLagos({"l-1", "l-2"});
     Pon(LHASQ,
         "\"*l-1\",2,\"*\",\"*\"\r\n1,40000,1,1\r\n2,1,99999,99999\r\n\"*l-2\",1,\"*\",\"*\"\r\n2,2,2,2\r\n");
     LeeTablaHSVQLago(s);
     EXPECT_EQ(Avisos(), Veces(2, CajaDesborde));  // S and Q aren't looked at
-    EXPECT_EQ(s.LagoQ(2, 1), 2);
+    EXPECT_EQ(s.Red.LagoQ(2, 1), 2);
 }
 
 TEST_F(TablasEmbalse, UnBloqueQueFaltaAvisaPrimeroPorTodoElArchivo)
@@ -493,7 +493,7 @@ TEST_F(TablasEmbalse, UnBloqueQueFaltaAvisaPrimeroPorTodoElArchivo)
     PonRepresas({"r-falta"});
     LeeRHAS("\"*r-1\",2,\"*\"\r\n1,40000,1\r\n2,50000,2\r\n");
     EXPECT_EQ(Avisos(), Veces(2, CajaDesborde));
-    EXPECT_EQ(s.RepresaFilasHAS(1), 0);
+    EXPECT_EQ(s.Red.RepresaFilasHAS(1), 0);
 }
 
 TEST_F(TablasEmbalse, UnaCabeceraConCuentaEnFallaNoSeReconoce)
@@ -501,8 +501,8 @@ TEST_F(TablasEmbalse, UnaCabeceraConCuentaEnFallaNoSeReconoce)
     PonRepresas({"r-1"});
     LeeRHAS("\"*r-1\",muchas,\"*\"\r\n1,2,3\r\n\"*r-1\",1,\"*\"\r\n4,5,6\r\n");
     EXPECT_EQ(Avisos(), Cajas{CajaTipos});
-    EXPECT_EQ(s.RepresaFilasHAS(1), 1);
-    EXPECT_EQ(s.RepresaH(1, 1), 4);
+    EXPECT_EQ(s.Red.RepresaFilasHAS(1), 1);
+    EXPECT_EQ(s.Red.RepresaH(1, 1), 4);
 }
 
 TEST_F(TablasEmbalse, UnNumeroEntreComillasEsUnTextoParaLaBusqueda)
@@ -517,9 +517,9 @@ TEST_F(TablasEmbalse, UnaFilaEnFallaSeConsumeEnteraYNoGuardaNada)
     PonRepresas({"r-1"});
     LeeRHAS("\"*r-1\",4,\"*\"\r\n1,2,3\r\n4,5,\"x\"\r\ny,8,9\r\n10,1E39,12\r\n");
     EXPECT_EQ(Avisos(), (Cajas{CajaTipos, CajaTipos, CajaDesborde}));
-    EXPECT_EQ(s.RepresaFilasHAS(1), 4);
-    EXPECT_EQ(Fila(s.RepresaH, 1, 4), (std::vector<float>{1, 0, 0, 0}));
-    EXPECT_EQ(Fila(s.RepresaS, 1, 4), (std::vector<std::int32_t>{3, 0, 0, 0}));
+    EXPECT_EQ(s.Red.RepresaFilasHAS(1), 4);
+    EXPECT_EQ(Fila(s.Red.RepresaH, 1, 4), (std::vector<float>{1, 0, 0, 0}));
+    EXPECT_EQ(Fila(s.Red.RepresaS, 1, 4), (std::vector<std::int32_t>{3, 0, 0, 0}));
 }
 
 // --- files that can't be read ---
@@ -530,13 +530,13 @@ TEST_F(TablasEmbalse, UnArchivoIlegibleAvisaAlAbrirYAlBuscarPorCadaComponente)
     disco.PonDirectorio(RutaDe(RHAS));
     LeeTablaHSVRepresa(s);
     EXPECT_EQ(Avisos(), Veces(2 * 2, CajaAcceso));
-    EXPECT_EQ(Todos(s.RepresaFilasHAS), (std::vector<int>{0, 0, 0}));
+    EXPECT_EQ(Todos(s.Red.RepresaFilasHAS), (std::vector<int>{0, 0, 0}));
 }
 
 TEST_F(TablasEmbalse, SinDirectorioAvisaTambienElCambioDeDirectorio)
 {
     PonRepresas({"r-1"});
-    s.DirProyecto = "/ido";
+    s.Proyecto.DirProyecto = "/ido";
     LeeTablaHSVRepresa(s);
     EXPECT_EQ(Avisos(), Veces(1 + 2, CajaSinRuta));
 }
@@ -548,7 +548,7 @@ TEST_F(TablasEmbalse, UnaAperturaQueFallaUnaVezDejaSinFilasSoloASuComponente)
     disco.FallaEn(2, NumeroFalla::AccesoRuta);  // 1: the directory
     LeeTablaHSVRepresa(s);
     EXPECT_EQ(Avisos(), Veces(2, CajaAcceso));
-    EXPECT_EQ(Todos(s.RepresaFilasHAS), (std::vector<int>{0, 0, 1}));
+    EXPECT_EQ(Todos(s.Red.RepresaFilasHAS), (std::vector<int>{0, 0, 1}));
 }
 
 TEST_F(TablasEmbalse, UnArchivoVacioNoTieneBloques)
@@ -556,7 +556,7 @@ TEST_F(TablasEmbalse, UnArchivoVacioNoTieneBloques)
     PonRepresas({"r-1"});
     LeeRHAS("");
     EXPECT_EQ(Avisos(), Cajas{});
-    EXPECT_EQ(s.RepresaFilasHAS(1), 0);
+    EXPECT_EQ(s.Red.RepresaFilasHAS(1), 0);
 }
 
 TEST_F(TablasEmbalse, CadaByteDeCorteDejaFilasEnterasONinguna)
@@ -570,8 +570,8 @@ TEST_F(TablasEmbalse, CadaByteDeCorteDejaFilasEnterasONinguna)
         EXPECT_EQ(Avisos(), Cajas{}) << largo;
         // The last field of r-1 is 300000: cut, it is a smaller number, or nothing behind its comma, and the
         // block is whole.
-        EXPECT_EQ(s.RepresaFilasHAS(1), largo >= finDeR1 - 6 ? 2 : 0) << largo;
-        EXPECT_EQ(s.RepresaFilasHAS(2), largo >= DosRepresas.size() - 3 ? 1 : 0) << largo;
+        EXPECT_EQ(s.Red.RepresaFilasHAS(1), largo >= finDeR1 - 6 ? 2 : 0) << largo;
+        EXPECT_EQ(s.Red.RepresaFilasHAS(2), largo >= DosRepresas.size() - 3 ? 1 : 0) << largo;
     }
 }
 
@@ -608,7 +608,7 @@ TEST_F(TablasEmbalse, CadaCampoConTextoEnormeONadaAvisaLoSuyo)
             LeeRHAS(Junta(otros));
             EXPECT_EQ(Avisos(), cajas) << campo << ": " << valor;
             filas.insert(filas.begin(), 0);
-            EXPECT_EQ(Todos(s.RepresaFilasHAS), filas) << campo << ": " << valor;
+            EXPECT_EQ(Todos(s.Red.RepresaFilasHAS), filas) << campo << ": " << valor;
             EXPECT_EQ(Bytes(RHAS), Junta(otros));
         };
         const Esperado& e = esperados[campo];
@@ -638,11 +638,11 @@ TEST_F(TablasEmbalse, LeerYGuardarDejaLosMismosBytes)
     LeeTablaHQRepresa(s);
     LeeTablaHSVQLago(s);
     GuardaTablaHSVRepresa(s);
-    EXPECT_EQ(s.ArchivoTemp, "Arroyo_RHAS.vlm");
+    EXPECT_EQ(s.Proyecto.ArchivoTemp, "Arroyo_RHAS.vlm");
     GuardaTablaHQRepresa(s);
-    EXPECT_EQ(s.ArchivoTemp, "Arroyo_RHQ.vlm");
+    EXPECT_EQ(s.Proyecto.ArchivoTemp, "Arroyo_RHQ.vlm");
     GuardaTablaHSVQLago(s);
-    EXPECT_EQ(s.ArchivoTemp, "Arroyo_LHASQ.vlm");
+    EXPECT_EQ(s.Proyecto.ArchivoTemp, "Arroyo_LHASQ.vlm");
     EXPECT_EQ(Bytes(RHAS), DosRepresas);
     EXPECT_EQ(Bytes(RHQ), hq);
     EXPECT_EQ(Bytes(LHASQ), hasq);
@@ -653,9 +653,9 @@ TEST_F(TablasEmbalse, ElGuardadoTomaLaCuentaDeLaColeccionYReemplazaElArchivo)
 {
     PonRepresas({"r-1", "r-2"});
     LeeRHAS(DosRepresas);
-    s.ColRepresas.Quita(2);
+    s.Red.ColRepresas.Quita(2);
     GuardaTablaHSVRepresa(s);
-    EXPECT_EQ(s.NroRepresas, 1);
+    EXPECT_EQ(s.Red.NroRepresas, 1);
     EXPECT_EQ(Bytes(RHAS), DosRepresas.substr(0, DosRepresas.find("\"*r-2\"")));
 }
 
@@ -663,7 +663,7 @@ TEST_F(TablasEmbalse, LosBloquesSalenPorNumeroYEnElOrdenDeLaColeccion)
 {
     PonRepresas({"r-1", "r-2"});
     LeeRHAS(DosRepresas);
-    std::swap(s.ColRepresas.Item(1), s.ColRepresas.Item(2));
+    std::swap(s.Red.ColRepresas.Item(1), s.Red.ColRepresas.Item(2));
     GuardaTablaHSVRepresa(s);
     EXPECT_EQ(Bytes(RHAS), "\"*r-2\",1,\"*\"\r\n7,8,9\r\n\"*r-1\",2,\"*\"\r\n0,0,0\r\n5.5,12.25,300000\r\n");
 }
@@ -700,7 +700,7 @@ TEST_F(TablasEmbalse, SinDirectorioElGuardadoAvisaUnaVez)
 {
     PonRepresas({"r-1"});
     LeeRHAS(DosRepresas);
-    s.DirProyecto = "/ido";
+    s.Proyecto.DirProyecto = "/ido";
     EXPECT_FALSE(GuardaTablaHSVRepresa(s));
     EXPECT_EQ(Avisos(), Cajas{CajaSinRuta});
     EXPECT_EQ(Bytes(RHAS), DosRepresas);
@@ -710,7 +710,7 @@ TEST_F(TablasEmbalse, UnComponenteSinTablaEnMemoriaDejaElArchivo)
 {
     PonRepresas({"r-1", "r-2"});
     LeeRHAS(DosRepresas);
-    s.ColRepresas.Item(1).numRepresa = 9;  // outside the arrays
+    s.Red.ColRepresas.Item(1).numRepresa = 9;  // outside the arrays
     EXPECT_FALSE(GuardaTablaHSVRepresa(s));
     EXPECT_EQ(Avisos(), Cajas{CajaSubindice});
     EXPECT_EQ(Bytes(RHAS), DosRepresas);
@@ -720,7 +720,7 @@ TEST_F(TablasEmbalse, UnaFilaFueraDeLosArreglosDejaElArchivo)
 {
     PonRepresas({"r-1"});
     LeeRHAS(DosRepresas);
-    s.RepresaFilasHAS(1) = 13;  // the arrays end at 10
+    s.Red.RepresaFilasHAS(1) = 13;  // the arrays end at 10
     EXPECT_FALSE(GuardaTablaHSVRepresa(s));
     EXPECT_EQ(Avisos(), Cajas{CajaSubindice});
     EXPECT_EQ(Bytes(RHAS), DosRepresas);
@@ -734,7 +734,7 @@ TEST_F(TablasEmbalse, UnDiscoLlenoSeInformaYDejaElArchivo)
     EXPECT_FALSE(GuardaTablaHSVRepresa(s));
     EXPECT_EQ(Avisos(), Cajas{CajaAcceso});
     EXPECT_EQ(Bytes(RHAS), DosRepresas);
-    EXPECT_EQ(s.RepresaFilasHAS(1), 2);  // memory is as it was
+    EXPECT_EQ(s.Red.RepresaFilasHAS(1), 2);  // memory is as it was
 }
 
 // =======================================================================================================
@@ -765,38 +765,39 @@ RC_GTEST_PROP(TablasEmbalseIdaYVuelta, LasDeRepresasVuelvenIguales, ())
     Siro& s = p.s;
     const int n = *rc::gen::inRange(1, 5);
     for (int i = 1; i <= n; ++i)
-        s.ColRepresas.Agrega({.NombreRepresa = NombreAlAzar(i), .numRepresa = static_cast<std::int16_t>(i)});
+        s.Red.ColRepresas.Agrega(
+            {.NombreRepresa = NombreAlAzar(i), .numRepresa = static_cast<std::int16_t>(i)});
     LeeTablaHSVRepresa(s);  // no files: arrays of the right size
     LeeTablaHQRepresa(s);
     int mayorHAS = 9;
     int mayorHQ = 9;
     for (int i = 1; i <= n; ++i) {
-        s.RepresaFilasHAS(i) = *rc::gen::inRange<std::int16_t>(0, 25);
-        s.RepresaFilasHQ(i) = *rc::gen::inRange<std::int16_t>(0, 25);
-        mayorHAS = std::max(mayorHAS, int{s.RepresaFilasHAS(i)});
-        mayorHQ = std::max(mayorHQ, int{s.RepresaFilasHQ(i)});
+        s.Red.RepresaFilasHAS(i) = *rc::gen::inRange<std::int16_t>(0, 25);
+        s.Red.RepresaFilasHQ(i) = *rc::gen::inRange<std::int16_t>(0, 25);
+        mayorHAS = std::max(mayorHAS, int{s.Red.RepresaFilasHAS(i)});
+        mayorHQ = std::max(mayorHQ, int{s.Red.RepresaFilasHQ(i)});
     }
-    for (auto* m : {&s.RepresaH, &s.RepresaA})
+    for (auto* m : {&s.Red.RepresaH, &s.Red.RepresaA})
         m->Redimensiona(mayorHAS + 1);
-    s.RepresaS.Redimensiona(mayorHAS + 1);
-    for (auto* m : {&s.RepresaQH, &s.RepresaQQ})
+    s.Red.RepresaS.Redimensiona(mayorHAS + 1);
+    for (auto* m : {&s.Red.RepresaQH, &s.Red.RepresaQQ})
         m->Redimensiona(mayorHQ + 1);
     for (int i = 1; i <= n; ++i) {
-        for (auto* m : {&s.RepresaH, &s.RepresaA})
-            LlenaFila(*m, i, s.RepresaFilasHAS(i));
-        LlenaFila(s.RepresaS, i, s.RepresaFilasHAS(i));
-        for (auto* m : {&s.RepresaQH, &s.RepresaQQ})
-            LlenaFila(*m, i, s.RepresaFilasHQ(i));
+        for (auto* m : {&s.Red.RepresaH, &s.Red.RepresaA})
+            LlenaFila(*m, i, s.Red.RepresaFilasHAS(i));
+        LlenaFila(s.Red.RepresaS, i, s.Red.RepresaFilasHAS(i));
+        for (auto* m : {&s.Red.RepresaQH, &s.Red.RepresaQQ})
+            LlenaFila(*m, i, s.Red.RepresaFilasHQ(i));
     }
     GuardaTablaHSVRepresa(s);
     GuardaTablaHQRepresa(s);
     RC_ASSERT(p.Avisos().empty());
-    const auto antes = std::make_tuple(s.RepresaFilasHAS, s.RepresaH, s.RepresaA, s.RepresaS,
-                                       s.RepresaFilasHQ, s.RepresaQH, s.RepresaQQ);
+    const auto antes = std::make_tuple(s.Red.RepresaFilasHAS, s.Red.RepresaH, s.Red.RepresaA, s.Red.RepresaS,
+                                       s.Red.RepresaFilasHQ, s.Red.RepresaQH, s.Red.RepresaQQ);
     LeeTablaHSVRepresa(s);
     LeeTablaHQRepresa(s);
-    RC_ASSERT(antes == std::make_tuple(s.RepresaFilasHAS, s.RepresaH, s.RepresaA, s.RepresaS,
-                                       s.RepresaFilasHQ, s.RepresaQH, s.RepresaQQ));
+    RC_ASSERT(antes == std::make_tuple(s.Red.RepresaFilasHAS, s.Red.RepresaH, s.Red.RepresaA, s.Red.RepresaS,
+                                       s.Red.RepresaFilasHQ, s.Red.RepresaQH, s.Red.RepresaQQ));
     const std::string bytes = p.Bytes(RHAS) + p.Bytes(RHQ);
     GuardaTablaHSVRepresa(s);
     GuardaTablaHQRepresa(s);
@@ -809,29 +810,29 @@ RC_GTEST_PROP(TablasEmbalseIdaYVuelta, LasDeLagosVuelvenIguales, ())
     Siro& s = p.s;
     const int n = *rc::gen::inRange(1, 5);
     for (int i = 1; i <= n; ++i)
-        s.ColLagos.Agrega({.NombreLAGO = NombreAlAzar(i), .numLAGO = static_cast<std::int16_t>(i)});
+        s.Red.ColLagos.Agrega({.NombreLAGO = NombreAlAzar(i), .numLAGO = static_cast<std::int16_t>(i)});
     LeeTablaHSVQLago(s);
     int mayor = 9;
     for (int i = 1; i <= n; ++i) {
-        s.LagoFilas(i) = *rc::gen::inRange<std::int16_t>(0, 25);
-        mayor = std::max(mayor, int{s.LagoFilas(i)});
+        s.Red.LagoFilas(i) = *rc::gen::inRange<std::int16_t>(0, 25);
+        mayor = std::max(mayor, int{s.Red.LagoFilas(i)});
     }
-    for (auto* m : {&s.LagoH, &s.LagoA, &s.LagoQ})
+    for (auto* m : {&s.Red.LagoH, &s.Red.LagoA, &s.Red.LagoQ})
         m->Redimensiona(mayor + 1);
-    s.LagoS.Redimensiona(mayor + 1);
+    s.Red.LagoS.Redimensiona(mayor + 1);
     for (int i = 1; i <= n; ++i) {
         // An area above 32767 would be reported by the scans that pass it: kept below here.
-        for (int k = 1; k <= s.LagoFilas(i); ++k)
-            s.LagoA(i, k) = static_cast<float>(*rc::gen::inRange(0, 3276701) / 100.0);
-        for (auto* m : {&s.LagoH, &s.LagoQ})
-            LlenaFila(*m, i, s.LagoFilas(i));
-        LlenaFila(s.LagoS, i, s.LagoFilas(i));
+        for (int k = 1; k <= s.Red.LagoFilas(i); ++k)
+            s.Red.LagoA(i, k) = static_cast<float>(*rc::gen::inRange(0, 3276701) / 100.0);
+        for (auto* m : {&s.Red.LagoH, &s.Red.LagoQ})
+            LlenaFila(*m, i, s.Red.LagoFilas(i));
+        LlenaFila(s.Red.LagoS, i, s.Red.LagoFilas(i));
     }
     GuardaTablaHSVQLago(s);
-    const auto antes = std::make_tuple(s.LagoFilas, s.LagoH, s.LagoA, s.LagoS, s.LagoQ);
+    const auto antes = std::make_tuple(s.Red.LagoFilas, s.Red.LagoH, s.Red.LagoA, s.Red.LagoS, s.Red.LagoQ);
     LeeTablaHSVQLago(s);
     RC_ASSERT(p.Avisos().empty());
-    RC_ASSERT(antes == std::make_tuple(s.LagoFilas, s.LagoH, s.LagoA, s.LagoS, s.LagoQ));
+    RC_ASSERT(antes == std::make_tuple(s.Red.LagoFilas, s.Red.LagoH, s.Red.LagoA, s.Red.LagoS, s.Red.LagoQ));
     const std::string bytes = p.Bytes(LHASQ);
     GuardaTablaHSVQLago(s);
     RC_ASSERT(p.Bytes(LHASQ) == bytes);
@@ -855,7 +856,7 @@ TEST_F(TablasEmbalse, ElGuardadoSobreviveALaFallaDeCadaLlamada)
         } else {
             EXPECT_EQ(Avisos(), Cajas{});
         }
-        EXPECT_EQ(s.RepresaH(1, 2), 5.5F);
+        EXPECT_EQ(s.Red.RepresaH(1, 2), 5.5F);
     }
     EXPECT_EQ(llamada, 3);  // directory, replacement
     EXPECT_EQ(Bytes(RHAS), DosRepresas);

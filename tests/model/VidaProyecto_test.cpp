@@ -33,7 +33,7 @@ struct VidaProyecto : ::testing::Test, MundoDeProyecto {
     {
         for (const std::string& directorio : {Programa, Proyectos, Otros})
             disco.PonDirectorio(directorio);
-        s.DirEjecutable = Programa;
+        s.Proyecto.DirEjecutable = Programa;
     }
     /// The pointer of an earlier session.
     void PonPuntero(const std::string& directorio, const std::string& proyecto)
@@ -108,11 +108,11 @@ using Sucesos = std::vector<std::string>;
 TEST_F(VidaProyecto, ElPunteroDaDirectorioYProyectoYSeEscribeDeNuevo)
 {
     disco.Pon(Puntero, "\"" + Otros + "\",Quelmar");  // any form of the two fields will do
-    s.DirProyecto = "viejo";
+    s.Proyecto.DirProyecto = "viejo";
     LeePuntero(s);
-    EXPECT_EQ(s.DirTrabajo, Programa);
-    EXPECT_EQ(s.DirProyecto, Otros);
-    EXPECT_EQ(s.NombreProyecto, "Quelmar");
+    EXPECT_EQ(s.Proyecto.DirTrabajo, Programa);
+    EXPECT_EQ(s.Proyecto.DirProyecto, Otros);
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "Quelmar");
     EXPECT_EQ(disco.Bytes(Puntero), BytesPuntero(Otros, "Quelmar"));
     EXPECT_TRUE(TomaSucesos().empty());
 }
@@ -120,10 +120,10 @@ TEST_F(VidaProyecto, ElPunteroDaDirectorioYProyectoYSeEscribeDeNuevo)
 TEST_F(VidaProyecto, SinPunteroNoHayProyectoYSeEscribeElDirectorioPorDefecto)
 {
     disco.Quita(Proyectos);
-    s.NombreProyecto = "viejo";
+    s.Proyecto.NombreProyecto = "viejo";
     LeePuntero(s);
-    EXPECT_EQ(s.DirProyecto, Proyectos);
-    EXPECT_EQ(s.NombreProyecto, "");
+    EXPECT_EQ(s.Proyecto.DirProyecto, Proyectos);
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "");
     EXPECT_TRUE(disco.Esta(Proyectos)) << "it is created at the first start";
     EXPECT_EQ(disco.Bytes(Puntero), BytesPuntero(Proyectos, ""));
     EXPECT_TRUE(TomaSucesos().empty());
@@ -133,8 +133,8 @@ TEST_F(VidaProyecto, UnPunteroSinDirectorioTomaElPorDefecto)
 {
     PonPuntero("", "Quelmar");
     LeePuntero(s);
-    EXPECT_EQ(s.DirProyecto, Proyectos);
-    EXPECT_EQ(s.NombreProyecto, "Quelmar");
+    EXPECT_EQ(s.Proyecto.DirProyecto, Proyectos);
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "Quelmar");
     EXPECT_EQ(disco.Bytes(Puntero), BytesPuntero(Proyectos, "Quelmar"));
 }
 
@@ -142,8 +142,8 @@ TEST_F(VidaProyecto, UnDirectorioQueSeFueDejaSinProyecto)
 {
     PonPuntero("se fue", "Quelmar");
     LeePuntero(s);
-    EXPECT_EQ(s.DirProyecto, Proyectos);
-    EXPECT_EQ(s.NombreProyecto, "");
+    EXPECT_EQ(s.Proyecto.DirProyecto, Proyectos);
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "");
     EXPECT_EQ(disco.Bytes(Puntero), BytesPuntero(Proyectos, ""));
     EXPECT_TRUE(TomaSucesos().empty());
 }
@@ -152,17 +152,17 @@ TEST_F(VidaProyecto, ElUltimoProyectoSoloSePruebaConConfPendiente)
 {
     PonPuntero(Otros, "Quelmar");
     LeePuntero(s);
-    EXPECT_EQ(s.NombreProyecto, "Quelmar") << "not asked for, its absence goes unnoticed";
-    s.ConfPendiente = true;
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "Quelmar") << "not asked for, its absence goes unnoticed";
+    s.Proyecto.ConfPendiente = true;
     LeePuntero(s);
-    EXPECT_EQ(s.NombreProyecto, "");
-    EXPECT_EQ(s.DirProyecto, Proyectos);
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "");
+    EXPECT_EQ(s.Proyecto.DirProyecto, Proyectos);
     EXPECT_EQ(disco.Bytes(Puntero), BytesPuntero(Proyectos, ""));
     PonPuntero(Otros, "Quelmar");
     disco.Pon(Ruta(Otros, "Quelmar_Conf.vlm"), "");
     LeePuntero(s);
-    EXPECT_EQ(s.NombreProyecto, "Quelmar");
-    EXPECT_EQ(s.DirProyecto, Otros);
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "Quelmar");
+    EXPECT_EQ(s.Proyecto.DirProyecto, Otros);
 }
 
 TEST_F(VidaProyecto, UnPunteroCortadoEnCadaByteDejaSinProyectoSiNoLlegaAlSegundo)
@@ -172,8 +172,8 @@ TEST_F(VidaProyecto, UnPunteroCortadoEnCadaByteDejaSinProyectoSiNoLlegaAlSegundo
     for (std::size_t n = 0; n <= bytes.size(); ++n) {
         disco.Pon(Puntero, bytes.substr(0, n));
         LeePuntero(s);
-        EXPECT_EQ(s.DirProyecto, n > segundo ? Otros : Proyectos) << n << " bytes";
-        EXPECT_EQ(s.NombreProyecto, n > segundo + 1 ? "Q" : "") << n << " bytes";
+        EXPECT_EQ(s.Proyecto.DirProyecto, n > segundo ? Otros : Proyectos) << n << " bytes";
+        EXPECT_EQ(s.Proyecto.NombreProyecto, n > segundo + 1 ? "Q" : "") << n << " bytes";
         EXPECT_TRUE(TomaSucesos().empty()) << n << " bytes";
     }
 }
@@ -182,14 +182,14 @@ TEST_F(VidaProyecto, DesdeUnaRutaDeRedSoloSeEscribeElPuntero)
 {
     const std::string red = std::string(2, Separador) + "servidor";
     disco.PonDirectorio(red);
-    s.DirEjecutable = red;
-    s.DirTrabajo = Programa;
-    s.DirProyecto = "el de antes";
-    s.NombreProyecto = "Quelmar";
+    s.Proyecto.DirEjecutable = red;
+    s.Proyecto.DirTrabajo = Programa;
+    s.Proyecto.DirProyecto = "el de antes";
+    s.Proyecto.NombreProyecto = "Quelmar";
     LeePuntero(s);
-    EXPECT_EQ(s.DirTrabajo, Programa);
-    EXPECT_EQ(s.DirProyecto, "el de antes");
-    EXPECT_EQ(s.NombreProyecto, "Quelmar");
+    EXPECT_EQ(s.Proyecto.DirTrabajo, Programa);
+    EXPECT_EQ(s.Proyecto.DirProyecto, "el de antes");
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "Quelmar");
     EXPECT_EQ(disco.Bytes(Puntero), BytesPuntero("el de antes", "Quelmar"));
     EXPECT_FALSE(disco.Esta(Ruta(red, "Proyectos")));
 }
@@ -198,20 +198,20 @@ TEST_F(VidaProyecto, UnaRutaConUnSoloSeparadorNoEsDeRed)
 {
     const std::string raiz = std::string(1, Separador) + "opt";
     disco.PonDirectorio(raiz);
-    s.DirEjecutable = raiz;
+    s.Proyecto.DirEjecutable = raiz;
     LeePuntero(s);
-    EXPECT_EQ(s.DirTrabajo, raiz);
-    EXPECT_EQ(s.DirProyecto, Ruta(raiz, "Proyectos"));
+    EXPECT_EQ(s.Proyecto.DirTrabajo, raiz);
+    EXPECT_EQ(s.Proyecto.DirProyecto, Ruta(raiz, "Proyectos"));
 }
 
 TEST_F(VidaProyecto, SinDirectorioDelProgramaNoHayProyectoNiCaja)
 {
     for (const char* directorio : {"no hay", ""}) {
-        s.DirEjecutable = directorio;
-        s.NombreProyecto = "viejo";
+        s.Proyecto.DirEjecutable = directorio;
+        s.Proyecto.NombreProyecto = "viejo";
         LeePuntero(s);
-        EXPECT_EQ(s.DirProyecto, Ruta(directorio, "Proyectos")) << directorio;
-        EXPECT_EQ(s.NombreProyecto, "") << directorio;
+        EXPECT_EQ(s.Proyecto.DirProyecto, Ruta(directorio, "Proyectos")) << directorio;
+        EXPECT_EQ(s.Proyecto.NombreProyecto, "") << directorio;
         EXPECT_TRUE(TomaSucesos().empty()) << directorio;
         EXPECT_EQ(NumeroDeFalla([&] { GuardaPuntero(s); }), 76) << directorio;
     }
@@ -219,7 +219,7 @@ TEST_F(VidaProyecto, SinDirectorioDelProgramaNoHayProyectoNiCaja)
 
 TEST_F(VidaProyecto, CadaLlamadaAlDiscoQueFallaDejaElDirectorioPorDefectoSinCaja)
 {
-    s.ConfPendiente = true;
+    s.Proyecto.ConfPendiente = true;
     int fallidas = 0;
     for (int n = 1; n <= 50; ++n) {
         PonPuntero(Otros, "Quelmar");
@@ -232,11 +232,11 @@ TEST_F(VidaProyecto, CadaLlamadaAlDiscoQueFallaDejaElDirectorioPorDefectoSinCaja
         if (!fallo) break;
         ++fallidas;
         // A "Proyectos" that can't be created because it is there already is no failure.
-        if (s.DirProyecto == Otros) {
-            EXPECT_EQ(s.NombreProyecto, "Quelmar") << "call " << n;
+        if (s.Proyecto.DirProyecto == Otros) {
+            EXPECT_EQ(s.Proyecto.NombreProyecto, "Quelmar") << "call " << n;
         } else {
-            EXPECT_EQ(s.DirProyecto, Proyectos) << "call " << n;
-            EXPECT_EQ(s.NombreProyecto, "") << "call " << n;
+            EXPECT_EQ(s.Proyecto.DirProyecto, Proyectos) << "call " << n;
+            EXPECT_EQ(s.Proyecto.NombreProyecto, "") << "call " << n;
             EXPECT_EQ(disco.Bytes(Puntero), BytesPuntero(Proyectos, "")) << "call " << n;
         }
     }
@@ -250,8 +250,8 @@ TEST_F(VidaProyecto, UnDirectorioDeProyectosQueNoSePuedeCrearDejaSinProyecto)
     PonPuntero(Otros, "Quelmar");
     disco.FallaEn(2, NumeroFalla::AccesoRuta);  // behind the look at the program's directory
     LeePuntero(s);
-    EXPECT_EQ(s.NombreProyecto, "");
-    EXPECT_EQ(s.DirProyecto, Proyectos);
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "");
+    EXPECT_EQ(s.Proyecto.DirProyecto, Proyectos);
     EXPECT_EQ(disco.Bytes(Puntero), BytesPuntero(Proyectos, ""));
     EXPECT_TRUE(TomaSucesos().empty());
 }
@@ -261,32 +261,32 @@ TEST_F(VidaProyecto, UnDirectorioDelProgramaProtegidoDejaSinProyecto)
     PonPuntero(Otros, "Quelmar");
     disco.Protege(Programa);
     LeePuntero(s);
-    EXPECT_EQ(s.NombreProyecto, "");
-    EXPECT_EQ(s.DirProyecto, Proyectos);
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "");
+    EXPECT_EQ(s.Proyecto.DirProyecto, Proyectos);
     EXPECT_EQ(disco.Bytes(Puntero), BytesPuntero(Otros, "Quelmar"));
     EXPECT_TRUE(TomaSucesos().empty());
 }
 
 TEST_F(VidaProyecto, ElPunteroGuardaLosAcentos)
 {
-    s.DirTrabajo = Programa;
-    s.DirProyecto = "Señal";
-    s.NombreProyecto = "Q";
+    s.Proyecto.DirTrabajo = Programa;
+    s.Proyecto.DirProyecto = "Señal";
+    s.Proyecto.NombreProyecto = "Q";
     GuardaPuntero(s);
     EXPECT_EQ(disco.Bytes(Puntero),
               "\"Se\xF1"
               "al\"\r\n\"Q\"\r\n");
     disco.PonDirectorio("Señal");
-    s.DirProyecto.clear();
+    s.Proyecto.DirProyecto.clear();
     LeePuntero(s);
-    EXPECT_EQ(s.DirProyecto, "Señal");
+    EXPECT_EQ(s.Proyecto.DirProyecto, "Señal");
 }
 
 TEST_F(VidaProyecto, CerrarSinHaberAbiertoNadaEscribeUnNombreVacio)
 {
     PonPuntero(Otros, "Quelmar");
     LeePuntero(s);
-    s.NombreProyecto.clear();  // as the end of start-up leaves it
+    s.Proyecto.NombreProyecto.clear();  // as the end of start-up leaves it
     GuardaPuntero(s);
     EXPECT_EQ(disco.Bytes(Puntero), BytesPuntero(Otros, ""));
 }
@@ -294,8 +294,8 @@ TEST_F(VidaProyecto, CerrarSinHaberAbiertoNadaEscribeUnNombreVacio)
 TEST_F(VidaProyecto, CadaRefrescoDeLasEtiquetasGuardaElPuntero)
 {
     LeePuntero(s);
-    s.DirProyecto = Otros;
-    s.NombreProyecto = "Quelmar";
+    s.Proyecto.DirProyecto = Otros;
+    s.Proyecto.NombreProyecto = "Quelmar";
     carga_lbl_proyecto(s);
     EXPECT_EQ(TomaSucesos(), Sucesos{SucesoEtiquetas("Quelmar", "")});
     EXPECT_EQ(disco.Bytes(Puntero), BytesPuntero(Otros, "Quelmar"));
@@ -304,23 +304,29 @@ TEST_F(VidaProyecto, CadaRefrescoDeLasEtiquetasGuardaElPuntero)
 TEST_F(VidaProyecto, LimpiarVaciaComponentesSeleccionCuentasYNombresYLeeElPuntero)
 {
     PonPuntero(Otros, "Quelmar");
-    s.ColUEHs.Agrega({});
-    s.ColCauces.Agrega({});
-    s.ColLagos.Agrega({});
-    s.ColRepresas.Agrega({});
-    s.NroUEHs = s.NroCauces = s.NroLagos = s.NroRepresas = 1;
-    s.CauceSel = s.CauceAnterior = s.UEHSel = s.RepresaSel = s.LagoSel = s.VerticeSel = 1;
-    s.NombreProyecto = s.DirProyecto = s.DirProyectoConf = s.ArchivoTemp = "x";
-    s.NroFilasTabla = {1, 2, 3, 4};
+    s.Red.ColUEHs.Agrega({});
+    s.Red.ColCauces.Agrega({});
+    s.Red.ColLagos.Agrega({});
+    s.Red.ColRepresas.Agrega({});
+    s.Red.NroUEHs = s.Red.NroCauces = s.Red.NroLagos = s.Red.NroRepresas = 1;
+    s.Seleccion.CauceSel = s.Seleccion.CauceAnterior = s.Seleccion.UEHSel = s.Seleccion.RepresaSel =
+        s.Seleccion.LagoSel = s.Seleccion.VerticeSel = 1;
+    s.Proyecto.NombreProyecto = s.Proyecto.DirProyecto = s.Proyecto.DirProyectoConf = s.Proyecto.ArchivoTemp =
+        "x";
+    s.TablasDeLluvia.NroFilasTabla = {1, 2, 3, 4};
     LimpiaProyecto(s);
-    EXPECT_EQ(s.ColUEHs.Cuenta() + s.ColCauces.Cuenta() + s.ColLagos.Cuenta() + s.ColRepresas.Cuenta(), 0);
-    EXPECT_EQ(s.NroUEHs + s.NroCauces + s.NroLagos + s.NroRepresas, 0);
-    EXPECT_EQ(s.CauceSel + s.CauceAnterior + s.UEHSel + s.RepresaSel + s.LagoSel + s.VerticeSel, 0);
-    EXPECT_EQ(s.DirProyectoConf, "");
-    EXPECT_EQ(s.ArchivoTemp, "") << "the pointer doesn't set it";
-    EXPECT_EQ(s.DirProyecto, Otros);
-    EXPECT_EQ(s.NombreProyecto, "Quelmar");
-    EXPECT_EQ(s.NroFilasTabla[3], 4) << "the tables that all projects share stay";
+    EXPECT_EQ(s.Red.ColUEHs.Cuenta() + s.Red.ColCauces.Cuenta() + s.Red.ColLagos.Cuenta() +
+                  s.Red.ColRepresas.Cuenta(),
+              0);
+    EXPECT_EQ(s.Red.NroUEHs + s.Red.NroCauces + s.Red.NroLagos + s.Red.NroRepresas, 0);
+    EXPECT_EQ(s.Seleccion.CauceSel + s.Seleccion.CauceAnterior + s.Seleccion.UEHSel + s.Seleccion.RepresaSel +
+                  s.Seleccion.LagoSel + s.Seleccion.VerticeSel,
+              0);
+    EXPECT_EQ(s.Proyecto.DirProyectoConf, "");
+    EXPECT_EQ(s.Proyecto.ArchivoTemp, "") << "the pointer doesn't set it";
+    EXPECT_EQ(s.Proyecto.DirProyecto, Otros);
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "Quelmar");
+    EXPECT_EQ(s.TablasDeLluvia.NroFilasTabla[3], 4) << "the tables that all projects share stay";
 }
 
 TEST_F(VidaProyecto, UnPunteroConUnNombreQueSaleDeLaCarpetaDejaSinProyecto)
@@ -328,8 +334,8 @@ TEST_F(VidaProyecto, UnPunteroConUnNombreQueSaleDeLaCarpetaDejaSinProyecto)
     for (const char* nombre : {"../x", "a\\b", "a/b", "a\x01"}) {
         PonPuntero(Otros, nombre);
         LeePuntero(s);
-        EXPECT_EQ(s.DirProyecto, Proyectos) << nombre;
-        EXPECT_EQ(s.NombreProyecto, "") << nombre;
+        EXPECT_EQ(s.Proyecto.DirProyecto, Proyectos) << nombre;
+        EXPECT_EQ(s.Proyecto.NombreProyecto, "") << nombre;
         EXPECT_TRUE(TomaSucesos().empty()) << nombre;
     }
 }
@@ -338,10 +344,10 @@ TEST_F(VidaProyecto, LaRutaElegidaSeTomaLlana)
 {
     const std::string sep(1, Separador);
     EXPECT_TRUE(TomaRutaProyecto(s, sep + "a" + sep + sep + "b" + sep + "Q_Conf.vlm"));
-    EXPECT_EQ(s.DirProyecto, sep + "a" + sep + "b");
-    EXPECT_EQ(s.NombreProyecto, "Q");
+    EXPECT_EQ(s.Proyecto.DirProyecto, sep + "a" + sep + "b");
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "Q");
     EXPECT_TRUE(TomaRutaProyecto(s, sep + sep + "red" + sep + "Q_Conf.vlm"));
-    EXPECT_EQ(s.DirProyecto, sep + sep + "red");
+    EXPECT_EQ(s.Proyecto.DirProyecto, sep + sep + "red");
 }
 
 TEST_F(VidaProyecto, LoQueElDibujoDetieneNoHaEmpezado)
@@ -372,8 +378,8 @@ TEST_F(VidaProyecto, LoQueElDibujoDetieneNoHaEmpezado)
         };
         caso.corre(s);
         EXPECT_EQ(riesgos, std::vector<Riesgo>{caso.riesgo}) << caso.orden;
-        EXPECT_EQ(s.NombreProyecto, "Quelmar") << caso.orden;
-        EXPECT_EQ(s.ColUEHs.Cuenta(), 1) << caso.orden;
+        EXPECT_EQ(s.Proyecto.NombreProyecto, "Quelmar") << caso.orden;
+        EXPECT_EQ(s.Red.ColUEHs.Cuenta(), 1) << caso.orden;
         EXPECT_TRUE(TomaSucesos().empty()) << caso.orden;
         EXPECT_EQ(disco.Archivos(), antes) << caso.orden;
     }
@@ -408,10 +414,10 @@ TEST_F(VidaProyecto, NuevoTomaElNombreYNoEscribeArchivosDeProyecto)
     Responde("Nuevo1");
     mnuNuevoProyecto(s);
     EXPECT_EQ(TomaSucesos(), (Sucesos{PideNuevo, SucesoEtiquetas("Nuevo1", "")}));
-    EXPECT_EQ(s.NombreProyecto, "Nuevo1");
-    EXPECT_TRUE(s.ProyectoNuevo);
-    EXPECT_EQ(s.DirProyecto, Otros) << "the directory of the last project";
-    EXPECT_EQ(s.DirProyectoConf, Otros);
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "Nuevo1");
+    EXPECT_TRUE(s.Proyecto.ProyectoNuevo);
+    EXPECT_EQ(s.Proyecto.DirProyecto, Otros) << "the directory of the last project";
+    EXPECT_EQ(s.Proyecto.DirProyectoConf, Otros);
     EXPECT_EQ(disco.Archivos(), Sucesos{Puntero});
     EXPECT_EQ(disco.Bytes(Puntero), BytesPuntero(Otros, "Nuevo1"));
 }
@@ -422,8 +428,8 @@ TEST_F(VidaProyecto, NuevoCanceladoDejaElNombreDelUltimoProyecto)
     Responde("");
     mnuNuevoProyecto(s);
     EXPECT_EQ(TomaSucesos(), Sucesos{PideNuevo});
-    EXPECT_EQ(s.NombreProyecto, "Quelmar");
-    EXPECT_FALSE(s.ProyectoNuevo);
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "Quelmar");
+    EXPECT_FALSE(s.Proyecto.ProyectoNuevo);
 }
 
 TEST_F(VidaProyecto, NuevoRechazaBlancoSubrayadoYAcentoYAceptaArroba)
@@ -433,13 +439,13 @@ TEST_F(VidaProyecto, NuevoRechazaBlancoSubrayadoYAcentoYAceptaArroba)
         Responde(nombre);
         mnuNuevoProyecto(s);
         EXPECT_EQ(TomaSucesos(), (Sucesos{PideNuevo, NombreInvalido})) << nombre;
-        EXPECT_EQ(s.NombreProyecto, "Quelmar") << nombre;
-        EXPECT_FALSE(s.ProyectoNuevo) << nombre;
+        EXPECT_EQ(s.Proyecto.NombreProyecto, "Quelmar") << nombre;
+        EXPECT_FALSE(s.Proyecto.ProyectoNuevo) << nombre;
     }
     Responde("uno@dos");
     mnuNuevoProyecto(s);
     EXPECT_EQ(TomaSucesos(), (Sucesos{PideNuevo, SucesoEtiquetas("uno@dos", "")}));
-    EXPECT_EQ(s.NombreProyecto, "uno@dos");
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "uno@dos");
 }
 
 TEST_F(VidaProyecto, NuevoRepetidoSeDiceConservaElNombreRechazadoYNoEspera)
@@ -450,8 +456,9 @@ TEST_F(VidaProyecto, NuevoRepetidoSeDiceConservaElNombreRechazadoYNoEspera)
     Responde("Viejo");
     mnuNuevoProyecto(s);
     EXPECT_EQ(TomaSucesos(), (Sucesos{PideNuevo, YaExiste("Viejo")}));
-    EXPECT_EQ(s.NombreProyecto, "Viejo");
-    EXPECT_FALSE(s.ProyectoNuevo) << "the next configuration must not write over the project that exists";
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "Viejo");
+    EXPECT_FALSE(s.Proyecto.ProyectoNuevo)
+        << "the next configuration must not write over the project that exists";
     EXPECT_EQ(disco.Bytes(Ruta(Otros, "Viejo_Conf.vlm")), antes);
     EXPECT_EQ(disco.Bytes(Puntero), BytesPuntero(Otros, "Quelmar")) << "no labels were refreshed";
 }
@@ -498,11 +505,11 @@ TEST_F(VidaProyecto, AbrirLeeLaConfiguracionYNoLosComponentes)
     // The labels come first: they show the earlier title beside the new name.
     EXPECT_EQ(TomaSucesos(),
               (Sucesos{Elige, SucesoEtiquetas("Quelmar", "el de antes"), SucesoHabilitaGuardarComo()}));
-    EXPECT_EQ(s.NombreProyecto, "Quelmar");
-    EXPECT_EQ(s.DirProyecto, Otros);
-    EXPECT_EQ(s.DirProyectoConf, Otros);
-    EXPECT_EQ(s.TituloProyecto, "Arroyo");
-    EXPECT_EQ(s.ColUEHs.Cuenta(), 0);
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "Quelmar");
+    EXPECT_EQ(s.Proyecto.DirProyecto, Otros);
+    EXPECT_EQ(s.Proyecto.DirProyectoConf, Otros);
+    EXPECT_EQ(s.Configuracion.TituloProyecto, "Arroyo");
+    EXPECT_EQ(s.Red.ColUEHs.Cuenta(), 0);
     EXPECT_EQ(disco.Bytes(Puntero), BytesPuntero(Otros, "Quelmar"));
 }
 
@@ -512,8 +519,8 @@ TEST_F(VidaProyecto, AbrirCanceladoDejaElNombreDelUltimoProyecto)
     EligeRuta("");
     mnuAbrirProyecto(s);
     EXPECT_EQ(TomaSucesos(), Sucesos{Elige});
-    EXPECT_EQ(s.NombreProyecto, "Quelmar");
-    EXPECT_EQ(s.DirProyecto, Otros);
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "Quelmar");
+    EXPECT_EQ(s.Proyecto.DirProyecto, Otros);
 }
 
 TEST_F(VidaProyecto, AbrirUnArchivoQueNoTerminaEnConfDejaSinProyecto)
@@ -523,8 +530,8 @@ TEST_F(VidaProyecto, AbrirUnArchivoQueNoTerminaEnConfDejaSinProyecto)
         EligeRuta(Ruta(Otros, archivo));
         mnuAbrirProyecto(s);
         EXPECT_EQ(TomaSucesos(), Sucesos{Elige}) << archivo << ": no message";
-        EXPECT_EQ(s.NombreProyecto, "") << archivo;
-        EXPECT_EQ(s.ArchivoTemp, "") << archivo;
+        EXPECT_EQ(s.Proyecto.NombreProyecto, "") << archivo;
+        EXPECT_EQ(s.Proyecto.ArchivoTemp, "") << archivo;
     }
 }
 
@@ -540,12 +547,12 @@ TEST_F(VidaProyecto, LaRutaDiceDirectorioNombreYPrimerSeparador)
           Caso{S + "Q_Conf.vlm", "", "Q", S}, Caso{"a" + S + "Q_2_Conf.vlm", "a", "Q_2", "a" + S},
           Caso{"a" + S + "_Conf.vlm", "a", "", "a" + S},
           Caso{"Q_Conf.vlm", "como estaba", "Q", "como estaba"}}) {
-        s.DirProyecto = s.DirProyectoConf = "como estaba";
+        s.Proyecto.DirProyecto = s.Proyecto.DirProyectoConf = "como estaba";
         EXPECT_TRUE(TomaRutaProyecto(s, ruta)) << ruta;
-        EXPECT_EQ(s.DirProyecto, directorio) << ruta;
-        EXPECT_EQ(s.NombreProyecto, nombre) << ruta;
-        EXPECT_EQ(s.DirProyectoConf, conf) << ruta;
-        EXPECT_EQ(s.ArchivoTemp, ruta);
+        EXPECT_EQ(s.Proyecto.DirProyecto, directorio) << ruta;
+        EXPECT_EQ(s.Proyecto.NombreProyecto, nombre) << ruta;
+        EXPECT_EQ(s.Proyecto.DirProyectoConf, conf) << ruta;
+        EXPECT_EQ(s.Proyecto.ArchivoTemp, ruta);
     }
 }
 
@@ -563,8 +570,8 @@ TEST_F(VidaProyecto, AbrirUnaConfiguracionDanadaLoDiceYDejaSinNombreNuncaTermina
                              "archivo de configuración <Quelmar_Conf.vlm > está dañado. Corrija o elimine "
                              "manualmente este archivo"),
                  SucesoHabilitaGuardarComo()}));
-    EXPECT_EQ(s.NombreProyecto, "");
-    EXPECT_EQ(s.DirProyecto, Otros);
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "");
+    EXPECT_EQ(s.Proyecto.DirProyecto, Otros);
 }
 
 TEST_F(VidaProyecto, AbrirSinPoderEscribirElPunteroAbreElProyecto)
@@ -575,31 +582,31 @@ TEST_F(VidaProyecto, AbrirSinPoderEscribirElPunteroAbreElProyecto)
     AlElegirArchivo([&] { disco.Protege(Puntero); });
     mnuAbrirProyecto(s);
     EXPECT_EQ(TomaSucesos(), (Sucesos{Elige, SucesoEtiquetas("Quelmar", ""), SucesoHabilitaGuardarComo()}));
-    EXPECT_EQ(s.NombreProyecto, "Quelmar");
-    EXPECT_EQ(s.TituloProyecto, "Arroyo");
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "Quelmar");
+    EXPECT_EQ(s.Configuracion.TituloProyecto, "Arroyo");
 }
 
 TEST_F(VidaProyecto, ReabrirLeeLaConfiguracionAntesQueLasEtiquetas)
 {
     PonPuntero(Otros, "Quelmar");
     PonProyecto(Otros, "Quelmar");
-    s.NombreProyecto.clear();
-    s.ConfPendiente = true;
+    s.Proyecto.NombreProyecto.clear();
+    s.Proyecto.ConfPendiente = true;
     mnu_ultimoarchivo1(s);
     EXPECT_EQ(TomaSucesos(), (Sucesos{SucesoEtiquetas("Quelmar", "Arroyo"), SucesoHabilitaGuardarComo()}));
-    EXPECT_EQ(s.NombreProyecto, "Quelmar");
-    EXPECT_EQ(s.DirProyecto, Otros);
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "Quelmar");
+    EXPECT_EQ(s.Proyecto.DirProyecto, Otros);
 }
 
 TEST_F(VidaProyecto, ReabrirUnProyectoQueYaNoEstaNoHabilitaGuardarComo)
 {
     PonPuntero(Otros, "Quelmar");
-    s.ConfPendiente = true;
+    s.Proyecto.ConfPendiente = true;
     mnu_ultimoarchivo1(s);
     EXPECT_EQ(TomaSucesos(), (Sucesos{SucesoAviso("Error Nro. 53 ,No se encontró el archivoVerifique."),
                                       SucesoEtiquetas("", "")}));
-    EXPECT_EQ(s.NombreProyecto, "");
-    EXPECT_EQ(s.DirProyecto, Proyectos);
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "");
+    EXPECT_EQ(s.Proyecto.DirProyecto, Proyectos);
     EXPECT_EQ(disco.Bytes(Puntero), BytesPuntero(Proyectos, ""));
 }
 
@@ -611,7 +618,7 @@ TEST_F(VidaProyecto, ReabrirUnProyectoDanadoNoHabilitaGuardarComo)
     const Sucesos vistos = TomaSucesos();
     ASSERT_EQ(vistos.size(), 2U) << "the damaged file's box and the labels";
     EXPECT_EQ(vistos[1], SucesoEtiquetas("", ""));
-    EXPECT_EQ(s.NombreProyecto, "");
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "");
     EXPECT_EQ(disco.Bytes(Puntero), BytesPuntero(Otros, ""));
 }
 
@@ -621,7 +628,7 @@ TEST_F(VidaProyecto, ReabrirUnProyectoDanadoNoHabilitaGuardarComo)
 
 TEST_F(VidaProyecto, GuardarComoSinProyectoNoHaceNada)
 {
-    s.NombreProyecto.clear();
+    s.Proyecto.NombreProyecto.clear();
     mnuGuardarProyectoComo(s);
     EXPECT_TRUE(TomaSucesos().empty());
 }
@@ -647,11 +654,11 @@ TEST_F(VidaProyecto, GuardarComoCopiaTodosLosArchivosYReescribeConfiguracionYCom
         << "the old project stays";
     EXPECT_EQ(disco.Bytes(Ruta(Otros, "Quelmar_UEHs.vlm")), BytesUEHs("Quelmar"));
     EXPECT_EQ(disco.Archivos().size(), antes.size() + 7) << "six files and the pointer that reading it wrote";
-    EXPECT_EQ(s.NombreProyecto, "Copia2");
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "Copia2");
     EXPECT_EQ(s.frmConfigura.lblMiArchivoConf, "Copia2_Conf.vlm");
-    EXPECT_FALSE(s.ProyectoNuevo);
-    EXPECT_EQ(s.ColCauces.Cuenta(), 1);
-    EXPECT_EQ(s.ColUEHs.Cuenta(), 1);
+    EXPECT_FALSE(s.Proyecto.ProyectoNuevo);
+    EXPECT_EQ(s.Red.ColCauces.Cuenta(), 1);
+    EXPECT_EQ(s.Red.ColUEHs.Cuenta(), 1);
 }
 
 TEST_F(VidaProyecto, GuardarComoSinTablasDaUnProyectoSinEllasYSinError)
@@ -688,7 +695,7 @@ TEST_F(VidaProyecto, GuardarComoDeUnaRedVaciaNoDejaArchivosDeComponentes)
     EXPECT_EQ(TomaSucesos(), (Sucesos{PideCopia, SucesoAviso(Guardado + Ruta(Otros, "Copia2_Conf.vlm"))}));
     EXPECT_TRUE(disco.Esta(Ruta(Otros, "Copia2_Conf.vlm")));
     EXPECT_FALSE(disco.Esta(Ruta(Otros, "Copia2_UEHs.vlm")));
-    EXPECT_EQ(s.NombreProyecto, "Copia2");
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "Copia2");
 }
 
 TEST_F(VidaProyecto, GuardarComoRecuerdaElNombreViejoAunqueElArchivoDigaOtro)
@@ -719,8 +726,8 @@ TEST_F(VidaProyecto, GuardarComoCanceladoOConNombreInvalidoNoEscribeNada)
     mnuGuardarProyectoComo(s);
     EXPECT_EQ(TomaSucesos(), (Sucesos{PideCopia, NombreInvalido}));
     EXPECT_EQ(disco.Archivos(), antes);
-    EXPECT_EQ(s.NombreProyecto, "Quelmar");
-    EXPECT_FALSE(s.ProyectoNuevo);
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "Quelmar");
+    EXPECT_FALSE(s.Proyecto.ProyectoNuevo);
 }
 
 TEST_F(VidaProyecto, GuardarComoRepetidoSeDiceYConservaElNombreNuevo)
@@ -731,8 +738,8 @@ TEST_F(VidaProyecto, GuardarComoRepetidoSeDiceYConservaElNombreNuevo)
     Responde("Viejo");
     mnuGuardarProyectoComo(s);
     EXPECT_EQ(TomaSucesos(), (Sucesos{PideCopia, YaExiste("Viejo")}));
-    EXPECT_EQ(s.NombreProyecto, "Viejo");
-    EXPECT_FALSE(s.ProyectoNuevo);
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "Viejo");
+    EXPECT_FALSE(s.Proyecto.ProyectoNuevo);
     EXPECT_EQ(disco.Bytes(Ruta(Otros, "Viejo_UEHs.vlm")), BytesUEHs("Viejo"));
 }
 
@@ -765,9 +772,9 @@ TEST_F(VidaProyecto, GuardarComoConUnaFallaDeArchivoSeDiceYTermina)
 
 TEST_F(VidaProyecto, GuardarComoSinDirectorioTermina)
 {
-    s.NombreProyecto = "Quelmar";
-    s.DirProyecto.clear();
-    s.DirProyectoConf.clear();
+    s.Proyecto.NombreProyecto = "Quelmar";
+    s.Proyecto.DirProyecto.clear();
+    s.Proyecto.DirProyectoConf.clear();
     Responde("Copia2");
     EXPECT_THROW(mnuGuardarProyectoComo(s), FinDelPrograma);
     const Sucesos vistos = TomaSucesos();
@@ -871,8 +878,8 @@ const std::string PreguntaQuelmar = SucesoPregunta(
 struct EliminarProyecto : VidaProyecto {
     EliminarProyecto()
     {
-        s.DirProyecto = Otros;
-        s.NombreProyecto = "Quelmar";
+        s.Proyecto.DirProyecto = Otros;
+        s.Proyecto.NombreProyecto = "Quelmar";
         for (const char* nombre :
              {"Ara_Conf.vlm", "Ara_UEHs.vlm", "Ara_RHQ.vlm", "Arauco_Conf.vlm", "Arauco_UEHs.vlm",
               "ara_Conf.vlm", "Ara.txt", "Ara1_pt.vlm", "Ara.vlm", "Ara_UEHs.VLM", "ListaPDR.vlm",
@@ -901,7 +908,7 @@ TEST_F(EliminarProyecto, ElDialogoMuestraElDirectorioYSusConfiguraciones)
     EXPECT_EQ(dlg.lblProyectoAEliminar, "Ara_Conf.vlm");
     dlg.Abre(s);
     EXPECT_EQ(dlg.lblProyectoAEliminar, "Ninguno");
-    s.DirProyecto = "no hay";
+    s.Proyecto.DirProyecto = "no hay";
     dlg.Abre(s);
     EXPECT_TRUE(dlg.filProyectoEliminar.empty());
 }
@@ -951,7 +958,7 @@ TEST_F(EliminarProyecto, ElDibujoSinGuardarDelProyectoQueSeBorraLoDetiene)
         return false;
     };
     RespondeSi(true);
-    s.NombreProyecto = "Quelmar";
+    s.Proyecto.NombreProyecto = "Quelmar";
     const Sucesos antes = disco.Archivos();
     dlg.filProyectoEliminar_AlPulsar("Quelmar_Conf.vlm");
     dlg.OKButton(s);
@@ -973,7 +980,7 @@ TEST_F(EliminarProyecto, EliminarBorraTambienLosProyectosCuyoNombreEmpiezaIgual)
     EXPECT_EQ(Quedan(), (Sucesos{"Ara.txt", "Ara_UEHs.VLM", "LaAra_Conf.vlm", "ListaPDR.vlm",
                                  "Quelmar_Conf.vlm", "ara_Conf.vlm"}));
     EXPECT_FALSE(dlg.abierto);
-    EXPECT_EQ(s.NombreProyecto, "Quelmar");
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "Quelmar");
 }
 
 TEST_F(EliminarProyecto, EliminarElProyectoActualNoLoOlvida)
@@ -982,8 +989,8 @@ TEST_F(EliminarProyecto, EliminarElProyectoActualNoLoOlvida)
     RespondeSi(true);
     dlg.OKButton(s);
     EXPECT_FALSE(disco.Esta(Ruta(Otros, "Quelmar_Conf.vlm")));
-    EXPECT_EQ(s.NombreProyecto, "Quelmar");
-    EXPECT_EQ(s.DirProyecto, Otros);
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "Quelmar");
+    EXPECT_EQ(s.Proyecto.DirProyecto, Otros);
     EXPECT_FALSE(dlg.abierto) << "no other file matched, and that is no failure";
 }
 
@@ -1014,7 +1021,7 @@ TEST_F(EliminarProyecto, ConNoNoBorraNadaYQuedaAbierto)
 
 TEST_F(EliminarProyecto, SinProyectoActualLaPreguntaNoNombraNinguno)
 {
-    s.NombreProyecto.clear();
+    s.Proyecto.NombreProyecto.clear();
     RespondeSi(false);
     dlg.OKButton(s);
     EXPECT_EQ(TomaSucesos(), Sucesos{SucesoPregunta("¿Está seguro de borrar los archivos del Proyecto <> ? ",
@@ -1048,9 +1055,9 @@ TEST_F(EliminarProyecto, UnaFallaDejaElDialogoAbierto)
     EXPECT_EQ(NumeroDeFalla([&] { dlg.OKButton(s); }), 53);
     EXPECT_TRUE(dlg.abierto);
     EXPECT_TRUE(disco.Esta(Ruta(Otros, "Ara_UEHs.vlm"))) << "nothing is deleted then";
-    s.DirProyecto = "no hay";
+    s.Proyecto.DirProyecto = "no hay";
     EXPECT_EQ(NumeroDeFalla([&] { dlg.OKButton(s); }), 76);
-    s.DirProyecto = Otros;
+    s.Proyecto.DirProyecto = Otros;
     disco.Pon(Ruta(Otros, "Ara_Conf.vlm"), "x");
     disco.Protege(Ruta(Otros, "Ara_UEHs.vlm"));
     EXPECT_EQ(NumeroDeFalla([&] { dlg.OKButton(s); }), 75);

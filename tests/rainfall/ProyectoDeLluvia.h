@@ -22,11 +22,11 @@ inline void PonTormenta(apoyo::DiscoPrueba& disco, const std::string& nombre, co
 inline void PonProyectoDeLluvia(model::Siro& s, apoyo::DiscoPrueba& disco)
 {
     s.Disco = disco.Puerta();
-    s.DirTrabajo = "/trabajo";
-    s.DirProyecto = "/proyectos";
-    s.TituloProyecto = "Arroyo de prueba";
-    s.ListaRec = {0, 2, 10, 50};
-    s.NroRec = 3;
+    s.Proyecto.DirTrabajo = "/trabajo";
+    s.Proyecto.DirProyecto = "/proyectos";
+    s.Configuracion.TituloProyecto = "Arroyo de prueba";
+    s.Configuracion.ListaRec = {0, 2, 10, 50};
+    s.Configuracion.NroRec = 3;
     disco.PonDirectorio("/trabajo");
     disco.Pon("/proyectos/ListaPDR.vlm", "30,20,5\r\n80,120,50\r\n");
     PonTormenta(disco, "Velmir_pt.vlm", "Llovizna", 3, 20, "5\r\n10\r\n2.5\r\n");

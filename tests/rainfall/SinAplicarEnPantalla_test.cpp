@@ -38,8 +38,8 @@ class LluviaSinAplicar : public testing::Test {
     LluviaSinAplicar()
     {
         PonProyectoDeLluvia(mundo.s, disco);
-        mundo.s.ListaDur = {0, 5, 10, 20, 60};
-        mundo.s.NroDur = 4;
+        mundo.s.Configuracion.ListaDur = {0, 5, 10, 20, 60};
+        mundo.s.Configuracion.NroDur = 4;
     }
     void Muestra(forms::Formulario& ventana, const char* suTitulo)
     {
@@ -137,7 +137,7 @@ class PpSinAplicar : public LluviaSinAplicar {
   protected:
     void Abre(std::int16_t forma = 0)
     {
-        mundo.s.FormaPp = forma;
+        mundo.s.Tormenta.FormaPp = forma;
         rainfall::Abre(pp, mundo.s);
         Muestra(ventana, "Carga de Datos de Precipitación");
     }
@@ -154,7 +154,7 @@ TEST_F(PpSinAplicar, PreguntaPorUnaRecurrenciaEscritaYNoPorLaAplicada)
     Escribe("cmbRec", "8");
     EstaMarcada("typed again");
     EscPregunta([&] { return C<QComboBox>("cmbRec").currentText() == QStringLiteral("8"); });
-    EXPECT_EQ(mundo.s.RecTormenta, 7);
+    EXPECT_EQ(mundo.s.Tormenta.RecTormenta, 7);
     Abre();
     EscNoPregunta();
 }
@@ -165,7 +165,7 @@ TEST_F(PpSinAplicar, UnaLluviaYaTomadaAlSalirDelCampoNoSePierde)
     Escribe("txtPp", "71");
     EstaMarcada("typed");
     Tecla(Qt::Key_Tab);
-    EXPECT_TRUE(Espera([&] { return mundo.s.PpTormenta == 71; }));
+    EXPECT_TRUE(Espera([&] { return mundo.s.Tormenta.PpTormenta == 71; }));
     EscNoPregunta();
 }
 
@@ -178,7 +178,7 @@ TEST_F(PpSinAplicar, LaFormaYLaDistribucionSeTomanAlPulsarYLaTablaAlAplicar)
     Pulsa(C("optTablaPDR_1"));
     EstaMarcada("table");
     CancelarNoPregunta();
-    EXPECT_EQ(mundo.s.TablaPDR, 0);
+    EXPECT_EQ(mundo.s.Tormenta.TablaPDR, 0);
 }
 
 TEST_F(PpSinAplicar, CadaFormaSeAbreSinMarca)
@@ -193,7 +193,7 @@ TEST_F(PpSinAplicar, CadaFormaSeAbreSinMarca)
 
 TEST_F(LluviaSinAplicar, UnaTormentaRealPreguntaHastaQueSeEscribe)
 {
-    mundo.s.FormaPp = 4;
+    mundo.s.Tormenta.FormaPp = 4;
     rainfall::Abre(pp, mundo.s);
     dlgPpReal f;
     dlgPpReal_ventana ventana(mundo.entorno, f, pp);
@@ -221,7 +221,7 @@ TEST_F(LluviaSinAplicar, UnaTormentaRealPreguntaHastaQueSeEscribe)
 
 TEST_F(LluviaSinAplicar, UnaDistribucionPreguntaTambienTrasUnCierreRechazado)
 {
-    mundo.s.DistriPp = 5;
+    mundo.s.Tormenta.DistriPp = 5;
     rainfall::Abre(pp, mundo.s);
     dlgDisPpPer f;
     dlgDisPpPer_ventana ventana(mundo.entorno, f, pp);
@@ -250,8 +250,8 @@ TEST_F(LluviaSinAplicar, UnaDistribucionPreguntaTambienTrasUnCierreRechazado)
 
 TEST_F(LluviaSinAplicar, UnaTablaPDRPreguntaTambienTrasUnAplicarRechazado)
 {
-    mundo.s.FormaPp = 2;
-    mundo.s.TablaPDR = 1;
+    mundo.s.Tormenta.FormaPp = 2;
+    mundo.s.Tormenta.TablaPDR = 1;
     rainfall::Abre(pp, mundo.s);
     dlgTablasPDRs f;
     dlgTablasPDRs_ventana ventana(mundo.entorno, f, pp);
@@ -284,11 +284,11 @@ TEST_F(LluviaSinAplicar, LaLluviaPorUEHPreguntaHastaQueSeToma)
         model::UEH ueh;
         ueh.numUEH = n;
         ueh.NombreUEH = "u-" + std::to_string(n);
-        mundo.s.ColUEHs.Agrega(ueh);
+        mundo.s.Red.ColUEHs.Agrega(ueh);
     }
-    mundo.s.NroUEHs = 2;
-    mundo.s.NombreProyecto = "Prueba";
-    mundo.s.DirProyectoConf = "/proyectos";
+    mundo.s.Red.NroUEHs = 2;
+    mundo.s.Proyecto.NombreProyecto = "Prueba";
+    mundo.s.Proyecto.DirProyectoConf = "/proyectos";
     model::mnu_btn_toolbarGuardaUEHs(mundo.s);
     rainfall::Abre(pp, mundo.s);
     dlgTablaPpUEHs f;
@@ -309,7 +309,7 @@ TEST_F(LluviaSinAplicar, LaLluviaPorUEHPreguntaHastaQueSeToma)
     EstaMarcada("a depth that is none");
     EnTabla("MSFlexGridPpUEHs", "34");
     Pulsa(C("cmdAplicar"));
-    EXPECT_EQ(mundo.s.PpUEH(1), 34);
+    EXPECT_EQ(mundo.s.Tormenta.PpUEH(1), 34);
     EscNoPregunta();
     abre();
     Pulsa(C("cmdBorraTablaHQ"));

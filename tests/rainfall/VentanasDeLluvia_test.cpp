@@ -58,10 +58,10 @@ class VentanaDeLluvia : public testing::Test {
     VentanaDeLluvia()
     {
         PonProyectoDeLluvia(mundo.s, disco);
-        mundo.s.ListaDur = {0, 5, 10, 20, 60};
-        mundo.s.NroDur = 4;
-        mundo.s.NombreProyecto = "Prueba";
-        mundo.s.DirProyectoConf = "/proyectos";
+        mundo.s.Configuracion.ListaDur = {0, 5, 10, 20, 60};
+        mundo.s.Configuracion.NroDur = 4;
+        mundo.s.Proyecto.NombreProyecto = "Prueba";
+        mundo.s.Proyecto.DirProyectoConf = "/proyectos";
     }
     void Muestra()
     {
@@ -130,7 +130,7 @@ class VentanaPpReal : public VentanaDeLluvia<dlgPpReal, dlgPpReal_ventana> {
   protected:
     void Abre()
     {
-        mundo.s.FormaPp = 4;
+        mundo.s.Tormenta.FormaPp = 4;
         rainfall::Abre(pp, mundo.s);
         rainfall::Abre(f, pp, mundo.s);
         Muestra();
@@ -236,7 +236,7 @@ TEST_F(VentanaPpReal, UnaColumnaDeUnaPlanillaSePega)
     Abre();
     Pega("1,5\r\n2\r\n3,25\r\n");
     EXPECT_EQ(Celda(3, 4), "6.75");
-    EXPECT_EQ(mundo.s.PpTormenta, 6.75F);
+    EXPECT_EQ(mundo.s.Tormenta.PpTormenta, 6.75F);
 }
 
 TEST_F(VentanaPpReal, UnClicEnLaListaLeeLaTormentaYLaProtegidaNoSeTeclea)
@@ -335,7 +335,7 @@ class VentanaDisPpPer : public VentanaDeLluvia<dlgDisPpPer, dlgDisPpPer_ventana>
   protected:
     void Abre(std::int16_t distribucion = 5)
     {
-        mundo.s.DistriPp = distribucion;
+        mundo.s.Tormenta.DistriPp = distribucion;
         rainfall::Abre(pp, mundo.s);
         rainfall::Abre(f, pp, mundo.s);
         Muestra();
@@ -392,7 +392,7 @@ TEST_F(VentanaDisPpPer, LaMaximaMenorQuedaHastaCorregirse)
     EXPECT_TRUE(Espera([&] { return !Avisos().empty(); }));
     EXPECT_EQ(QApplication::focusWidget(), &C("cmbDurMax"));
     EligeTexto("cmbDurMax", "60");
-    EXPECT_EQ(mundo.s.DurMaxPer[1], 60);
+    EXPECT_EQ(mundo.s.TablasDeLluvia.DurMaxPer[1], 60);
     QTest::keyClick(&C("cmbDurMax"), Qt::Key_Tab);
     EXPECT_TRUE(Espera([&] { return QApplication::focusWidget() == &Tabla(); }));
     EXPECT_EQ(Avisos().size(), 1U);
@@ -413,8 +413,8 @@ class VentanaTablasPDRs : public VentanaDeLluvia<dlgTablasPDRs, dlgTablasPDRs_ve
   protected:
     void Abre(std::int16_t tabla)
     {
-        mundo.s.FormaPp = 2;
-        mundo.s.TablaPDR = tabla;
+        mundo.s.Tormenta.FormaPp = 2;
+        mundo.s.Tormenta.TablaPDR = tabla;
         rainfall::Abre(pp, mundo.s);
         rainfall::Abre(f, pp, mundo.s);
         Muestra();
@@ -487,12 +487,12 @@ class VentanaPpUEHs : public VentanaDeLluvia<dlgTablaPpUEHs, dlgTablaPpUEHs_vent
             model::UEH ueh;
             ueh.numUEH = n;
             ueh.NombreUEH = "u-" + std::to_string(n);
-            mundo.s.ColUEHs.Agrega(ueh);
+            mundo.s.Red.ColUEHs.Agrega(ueh);
         }
-        mundo.s.NroUEHs = 3;
+        mundo.s.Red.NroUEHs = 3;
         model::mnu_btn_toolbarGuardaUEHs(mundo.s);
         mundo.anfitrion->sucesos.clear();
-        mundo.s.FormaPp = 3;
+        mundo.s.Tormenta.FormaPp = 3;
         rainfall::Abre(pp, mundo.s);
         rainfall::Abre(f, mundo.s);
         Muestra();
@@ -524,8 +524,8 @@ TEST_F(VentanaPpUEHs, UnaLluviaPorUEHSeEscribeConElTeclado)
     }
     Pulsa(C<QPushButton>("OKButton"));
     EXPECT_FALSE(v.isVisible());
-    EXPECT_EQ(mundo.s.PpUEH(2), 20.5F);
-    EXPECT_EQ(mundo.s.PpTormenta, 30.0F);
+    EXPECT_EQ(mundo.s.Tormenta.PpUEH(2), 20.5F);
+    EXPECT_EQ(mundo.s.Tormenta.PpTormenta, 30.0F);
     EXPECT_EQ(pp.txtDur, "90");
     EXPECT_EQ(Avisos().size(), 1U);
 }

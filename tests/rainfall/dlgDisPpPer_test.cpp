@@ -33,7 +33,7 @@ class DialogoDisPpPer : public testing::Test {
     {
         s.Anfitrion = anfitrion.Puerta();
         PonProyectoDeLluvia(s, disco);
-        s.DistriPp = 5;
+        s.Tormenta.DistriPp = 5;
         rainfall::Abre(pp, s);
     }
     void Abre(std::size_t tabla = 1)
@@ -128,7 +128,7 @@ TEST_F(DialogoDisPpPer, LosLimitesEligenElItemIgualOElPrimero)
     Abre(2);  // 0 to 360
     EXPECT_EQ(f.cmbDurMin.indice, 0);
     EXPECT_EQ(f.cmbDurMax.indice, 9);
-    s.DurMaxPer[2] = 1440;
+    s.TablasDeLluvia.DurMaxPer[2] = 1440;
     cmbNroTablaDisPpPer_Click(f, pp, s);
     EXPECT_EQ(f.cmbDurMax.indice, 12);
     EXPECT_TRUE(Avisos().empty());  // nothing is told while the form fills itself
@@ -151,7 +151,7 @@ TEST_F(DialogoDisPpPer, SinArchivoSeAbrenTresTablasVaciasSinMensaje)
 TEST_F(DialogoDisPpPer, AbrirLeeSiempreSusPropiasCuentas)
 {
     model::LeeTablaPDRs(s);
-    EXPECT_EQ(s.NroFilasTabla[2], 0);
+    EXPECT_EQ(s.TablasDeLluvia.NroFilasTabla[2], 0);
     Abre(2);
     EXPECT_EQ(f.txtNroPer, "3");
 }
@@ -165,7 +165,7 @@ TEST_F(DialogoDisPpPer, OtraTablaMarcaSuOpcionEnDlgPp)
     cmbNroTablaDisPpPer_Click(f, pp, s);
     EXPECT_TRUE(pp.optDistriPp[6]);
     EXPECT_FALSE(pp.optDistriPp[5]);
-    EXPECT_EQ(s.DistriPp, 6);
+    EXPECT_EQ(s.Tormenta.DistriPp, 6);
     EXPECT_EQ(f.txtNroPer, "3");
     EXPECT_EQ(Columna(2), (Textos{"50", "30", "20"}));
     f.cmbNroTablaDisPpPer.indice = 2;
@@ -178,8 +178,8 @@ TEST_F(DialogoDisPpPer, LasNotasSonDeLaTablaEnMano)
     Abre(2);
     f.txtNotas = "nuevas";
     txtNotas_Change(f, s);
-    EXPECT_EQ(s.NotasDisPer[2], "nuevas");
-    EXPECT_EQ(s.NotasDisPer[1], "n1");
+    EXPECT_EQ(s.TablasDeLluvia.NotasDisPer[2], "nuevas");
+    EXPECT_EQ(s.TablasDeLluvia.NotasDisPer[1], "n1");
 }
 
 TEST_F(DialogoDisPpPer, UnaMinimaMayorSeAvisaYSeToma)
@@ -193,7 +193,7 @@ TEST_F(DialogoDisPpPer, UnaMinimaMayorSeAvisaYSeToma)
     EXPECT_EQ(Avisos(),
               (std::vector<Mensaje>{{"El Límite inferior elegido es mayor al límite inferior seleccionado.",
                                      "", Icono::Exclamacion}}));
-    EXPECT_EQ(s.DurMinPer[1], 180);
+    EXPECT_EQ(s.TablasDeLluvia.DurMinPer[1], 180);
 }
 
 TEST_F(DialogoDisPpPer, UnaMaximaMenorRetieneElFoco)
@@ -201,11 +201,11 @@ TEST_F(DialogoDisPpPer, UnaMaximaMenorRetieneElFoco)
     Abre(1);
     f.cmbDurMax.indice = 3;  // 30, equal to the lower limit
     cmbDurMax_Click(f, s);
-    EXPECT_EQ(s.DurMaxPer[1], 30);
+    EXPECT_EQ(s.TablasDeLluvia.DurMaxPer[1], 30);
     EXPECT_TRUE(cmbDurMax_AlSalir(f, s));
     f.cmbDurMax.indice = 2;  // 20
     cmbDurMax_Click(f, s);
-    EXPECT_EQ(s.DurMaxPer[1], 20);
+    EXPECT_EQ(s.TablasDeLluvia.DurMaxPer[1], 20);
     EXPECT_FALSE(cmbDurMax_AlSalir(f, s));
     EXPECT_EQ(f.foco.control, "cmbDurMax");
     EXPECT_EQ(Avisos(),
@@ -221,11 +221,11 @@ TEST_F(DialogoDisPpPer, ElNumeroDePeriodosEsEnteroDe0A999)
         f.txtNroPer = malo;
         EXPECT_FALSE(txtNroPer_AlSalir(f, s)) << malo;
         EXPECT_EQ(Avisos(), std::vector<Mensaje>{NroMalo}) << malo;
-        EXPECT_EQ(s.NroFilasTabla[1], 2);
+        EXPECT_EQ(s.TablasDeLluvia.NroFilasTabla[1], 2);
     }
     anfitrion->sucesos.clear();
     PonNro("999");
-    EXPECT_EQ(s.NroFilasTabla[1], 999);
+    EXPECT_EQ(s.TablasDeLluvia.NroFilasTabla[1], 999);
     EXPECT_EQ(G().NroFilas(), 999);
     EXPECT_EQ(G().Texto({1, 1}), "0.1");  // 0.1001 cut
     EXPECT_EQ(G().Texto({999, 1}), "100");
@@ -252,12 +252,12 @@ TEST_F(DialogoDisPpPer, DejarUnaCeldaTomaElParcialYSuma)
     forms::Escribe(G(), s, ",");
     forms::Escribe(G(), s, "5");
     AlAsentar(f, s, forms::Teclea(G(), Tecla::Enter));
-    EXPECT_EQ(s.DisPerso(1, 1), 3.5F);
+    EXPECT_EQ(s.TablasDeLluvia.DisPerso(1, 1), 3.5F);
     EXPECT_EQ(Columna(3), (Textos{"3.5", "63.5"}));
     EXPECT_EQ(G().actual, (forms::Celda{2, 2}));
     AlAsentar(f, s, forms::Teclea(G(), Tecla::Suprimir));
     AlAsentar(f, s, forms::Teclea(G(), Tecla::Enter));
-    EXPECT_EQ(s.DisPerso(1, 2), 0.0F);
+    EXPECT_EQ(s.TablasDeLluvia.DisPerso(1, 2), 0.0F);
     EXPECT_EQ(Columna(3), (Textos{"3.5", "3.5"}));
     EXPECT_EQ(G().actual, (forms::Celda{1, 2}));
 }
@@ -339,7 +339,7 @@ TEST_F(DialogoDisPpPer, DoceYMedioSeGuardaConDecimalesYVuelveEntero)
     EXPECT_TRUE(Avisos().empty());
     EXPECT_TRUE(disco.Bytes(Ruta).starts_with("2,3,0\r\n\"n1\"\r\n30,120\r\n12.5\r\n87.5\r\n\"n2\""));
     EXPECT_EQ(Columna(2), (Textos{"12.5", "87.5"}));
-    EXPECT_EQ(s.DisPerso(1, 1), 12.5F);
+    EXPECT_EQ(s.TablasDeLluvia.DisPerso(1, 1), 12.5F);
     Abre(1);
     EXPECT_EQ(Columna(2), (Textos{"12", "88"}));  // ties go to the even number
 }
@@ -349,15 +349,15 @@ TEST_F(DialogoDisPpPer, LaCorridaUsaLosNumerosEnteros)
     Abre(1);
     Pega("12.5\n87.5\n");
     OKButton(f, s);
-    s.DistriPp = 5;
-    s.FormaPp = 0;
-    s.PpTormenta = 50;
-    s.DurTormenta = 60;
-    s.PasoPp = 30;
+    s.Tormenta.DistriPp = 5;
+    s.Tormenta.FormaPp = 0;
+    s.Tormenta.PpTormenta = 50;
+    s.Tormenta.DurTormenta = 60;
+    s.Pasos.PasoPp = 30;
     engine::ConstruyeHietograma(s);
-    ASSERT_EQ(s.NroPpReal, 2);
-    EXPECT_EQ(s.PpReal(1), 6.0F);   // 12 % of 50 mm, not 6.25
-    EXPECT_EQ(s.PpReal(2), 44.0F);  // 88 %
+    ASSERT_EQ(s.Tormenta.NroPpReal, 2);
+    EXPECT_EQ(s.Tormenta.PpReal(1), 6.0F);   // 12 % of 50 mm, not 6.25
+    EXPECT_EQ(s.Tormenta.PpReal(2), 44.0F);  // 88 %
 }
 
 TEST_F(DialogoDisPpPer, CerrarAplicaYCierraAunqueNoCierreLaSuma)
@@ -377,7 +377,7 @@ TEST_F(DialogoDisPpPer, CancelarNoEscribeYLosValoresQuedanEnMemoria)
     CancelButton(f);
     EXPECT_FALSE(f.abierta);
     EXPECT_EQ(disco.Bytes(Ruta), antes);
-    EXPECT_EQ(s.DisPerso(1, 2), 2.0F);
+    EXPECT_EQ(s.TablasDeLluvia.DisPerso(1, 2), 2.0F);
     Abre(1);
     EXPECT_EQ(Columna(2), (Textos{"40", "60"}));
 }

@@ -39,9 +39,9 @@ class DialogoPpReal : public testing::Test {
     {
         s.Anfitrion = anfitrion.Puerta();
         PonProyectoDeLluvia(s, disco);
-        s.ListaDur = {0, 5, 10, 20, 60};
-        s.NroDur = 4;
-        s.FormaPp = 4;
+        s.Configuracion.ListaDur = {0, 5, 10, 20, 60};
+        s.Configuracion.NroDur = 4;
+        s.Tormenta.FormaPp = 4;
         rainfall::Abre(pp, s);
     }
     void Abre()
@@ -138,7 +138,7 @@ TEST_F(DialogoPpReal, AlAbrirTodosLosCamposSiguenAlArchivo)
     EXPECT_FALSE(f.optNroPpReal[0]);
     EXPECT_FALSE(f.finalEditable);
     EXPECT_FALSE(f.Protegida);
-    EXPECT_EQ(s.FormaPp, 4);
+    EXPECT_EQ(s.Tormenta.FormaPp, 4);
     EXPECT_TRUE(Avisos().empty());
 }
 
@@ -158,8 +158,8 @@ TEST_F(DialogoPpReal, LaTablaTieneTiempoMinutosParcialYAcumulada)
     EXPECT_TRUE(G().columnas[3].editable);
     for (const std::size_t c : {0U, 1U, 2U, 4U})
         EXPECT_FALSE(G().columnas[c].editable);
-    EXPECT_EQ(s.PpTormenta, 17.5F);
-    EXPECT_EQ(s.DurTormenta, 60);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 17.5F);
+    EXPECT_EQ(s.Tormenta.DurTormenta, 60);
 }
 
 TEST_F(DialogoPpReal, SeAbreEnLaTormentaDeDlgPpOEnLaDeSiempre)
@@ -187,17 +187,17 @@ TEST_F(DialogoPpReal, SinArchivoQuedanLosValoresPorDefecto)
     EXPECT_EQ(f.tormenta.txtTimeF, "00:00");
     EXPECT_EQ(f.cmbPasot.texto, "10");
     EXPECT_EQ(f.txtNroPpReal, "0");
-    EXPECT_EQ(s.NroPpReal, 0);
+    EXPECT_EQ(s.Tormenta.NroPpReal, 0);
     EXPECT_TRUE(Avisos().empty());
 }
 
 TEST_F(DialogoPpReal, ElPasoPorDefectoEsElSegundoOElUnicoODiez)
 {
     disco.Quita("/proyectos/Velmir_pt.vlm");
-    s.ListaDur = {0, 30};
+    s.Configuracion.ListaDur = {0, 30};
     rainfall::Abre(f, pp, s);
     EXPECT_EQ(f.cmbPasot.texto, "30");
-    s.ListaDur = {0};
+    s.Configuracion.ListaDur = {0};
     rainfall::Abre(f, pp, s);
     EXPECT_TRUE(f.cmbPasot.items.empty());
     EXPECT_EQ(f.cmbPasot.texto, "10");
@@ -206,9 +206,9 @@ TEST_F(DialogoPpReal, ElPasoPorDefectoEsElSegundoOElUnicoODiez)
 
 TEST_F(DialogoPpReal, LosPasosSonDieciseisALoSumoYUnoAjenoSeMuestraComoTexto)
 {
-    s.ListaDur.assign(1, 0);
+    s.Configuracion.ListaDur.assign(1, 0);
     for (std::int16_t d = 1; d <= 17; ++d)
-        s.ListaDur.push_back(d);
+        s.Configuracion.ListaDur.push_back(d);
     PonTormenta(disco, "Velmir_pt.vlm", "x", 1, 37, "4\r\n");
     Abre();
     EXPECT_EQ(f.cmbPasot.items.size(), 16U);
@@ -226,7 +226,7 @@ TEST_F(DialogoPpReal, LaActivacionPoneLaFormaCuatroYLeeLaTormentaDeDlgPp)
     EXPECT_EQ(f.tormenta.nombre, "Alfa_pt.vlm");
     optformaPp_Click(pp, s, 0);
     AlActivarse(f, pp, s);
-    EXPECT_EQ(s.FormaPp, 4);
+    EXPECT_EQ(s.Tormenta.FormaPp, 4);
     EXPECT_TRUE(pp.optformaPp[4]);
     EXPECT_EQ(f.tormenta.nombre, "Velmir_pt.vlm");
     EXPECT_EQ(f.txtNroPpReal, "3");
@@ -292,12 +292,12 @@ TEST_F(DialogoPpReal, BajarYSubirElNumeroDevuelveLasLaminas)
     PonNro("1");
     EXPECT_EQ(Columna(3), Textos{"5"});
     EXPECT_EQ(f.tormenta.txtTimeF, "00:20");
-    EXPECT_EQ(s.PpTormenta, 5.0F);
-    EXPECT_EQ(s.DurTormenta, 20);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 5.0F);
+    EXPECT_EQ(s.Tormenta.DurTormenta, 20);
     PonNro("5");
     EXPECT_EQ(Columna(3), (Textos{"5", "10", "2.5", "0", "0"}));
     EXPECT_EQ(f.tormenta.txtTimeF, "01:40");
-    EXPECT_EQ(s.PpTormenta, 17.5F);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 17.5F);
 }
 
 TEST_F(DialogoPpReal, EscribirCortaLasLaminasAlNumero)
@@ -316,8 +316,8 @@ TEST_F(DialogoPpReal, ConCeroIntervalosSoloQuedaElEncabezado)
     Abre();
     PonNro("0");
     EXPECT_EQ(G().NroFilas(), 0);
-    EXPECT_EQ(s.PpTormenta, 0.0F);
-    EXPECT_EQ(s.DurTormenta, 0);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 0.0F);
+    EXPECT_EQ(s.Tormenta.DurTormenta, 0);
     cmdAplicar(f, pp, s);
     EXPECT_EQ(Bytes("Velmir_pt.vlm"),
               "\"Llovizna\"\r\n0,20\r\n\"01/01/1001\",\"00:00\"\r\n\"01/01/1001\",\"00:00\"\r\n");
@@ -332,7 +332,7 @@ TEST_F(DialogoPpReal, ElNumeroEsEnteroDe0A999)
         EXPECT_FALSE(txtNroPpReal_AlSalir(f, s)) << malo;
         EXPECT_EQ(Avisos(), std::vector<Mensaje>{NroMalo}) << malo;
         EXPECT_EQ(f.foco, (forms::Foco{"txtNroPpReal", true}));
-        EXPECT_EQ(s.NroPpReal, 3);
+        EXPECT_EQ(s.Tormenta.NroPpReal, 3);
     }
     anfitrion->sucesos.clear();
     PonNro("999");
@@ -361,7 +361,7 @@ TEST_F(DialogoPpReal, ElPasoMueveElFinalCuandoSeFijaElNumero)
     EXPECT_EQ(f.tormenta.txtDateF, "01/01/1001");
     EXPECT_EQ(f.tormenta.txtTimeF, "03:00");
     EXPECT_EQ(Columna(2), (Textos{"60", "120", "180"}));
-    EXPECT_EQ(s.DurTormenta, 180);
+    EXPECT_EQ(s.Tormenta.DurTormenta, 180);
 }
 
 class FinalFijo : public DialogoPpReal {
@@ -385,7 +385,7 @@ TEST_F(FinalFijo, ElNumeroSigueAlFinal)
     EXPECT_TRUE(Final("01/01/1001", "01:40"));
     EXPECT_EQ(f.txtNroPpReal, "5");
     EXPECT_EQ(G().NroFilas(), 5);
-    EXPECT_EQ(s.DurTormenta, 100);
+    EXPECT_EQ(s.Tormenta.DurTormenta, 100);
     f.tormenta.txtDateF = "02/01/1001";
     EXPECT_TRUE(txtDateF_AlSalir(f, s));
     EXPECT_EQ(f.txtNroPpReal, "77");  // 25 h 40 min
@@ -414,7 +414,7 @@ TEST_F(FinalFijo, UnFinalAnteriorAlComienzoDejaCeroIntervalos)
     EXPECT_TRUE(Final("01/01/1001", "01:00"));
     EXPECT_EQ(Avisos(), std::vector<Mensaje>{FinalAntes});
     EXPECT_EQ(f.txtNroPpReal, "0");
-    EXPECT_EQ(s.NroPpReal, 0);
+    EXPECT_EQ(s.Tormenta.NroPpReal, 0);
     EXPECT_EQ(G().NroFilas(), 0);
 }
 
@@ -428,7 +428,7 @@ TEST_F(FinalFijo, MasDe999IntervalosSeRechazan)
     EXPECT_FALSE(Final("11/02/1001", "16:00"));
     EXPECT_EQ(Avisos().front(), NroMalo);
     EXPECT_EQ(f.txtNroPpReal, "999");
-    EXPECT_EQ(s.NroPpReal, 999);
+    EXPECT_EQ(s.Tormenta.NroPpReal, 999);
 }
 
 TEST_F(FinalFijo, UnNumeroFueraDeSuTipoEsFallaYDejaElQueHabia)
@@ -436,7 +436,7 @@ TEST_F(FinalFijo, UnNumeroFueraDeSuTipoEsFallaYDejaElQueHabia)
     EXPECT_TRUE(Final("01/01/2099", "00:00"));
     EXPECT_EQ(Avisos(), std::vector<Mensaje>{Desbordamiento});
     EXPECT_EQ(f.txtNroPpReal, "3");
-    EXPECT_EQ(s.NroPpReal, 3);
+    EXPECT_EQ(s.Tormenta.NroPpReal, 3);
 }
 
 TEST_F(FinalFijo, SinPasoNoHayCociente)
@@ -444,7 +444,7 @@ TEST_F(FinalFijo, SinPasoNoHayCociente)
     EligePaso("0");
     EXPECT_EQ(Avisos(),
               (std::vector<Mensaje>{{"Error Nro. 11 ,División por ceroVerifique", "", Icono::Ninguno}}));
-    EXPECT_EQ(s.NroPpReal, 3);
+    EXPECT_EQ(s.Tormenta.NroPpReal, 3);
 }
 
 TEST_F(FinalFijo, LaMarcaDeTablaBorradaEsUnaFechaComoOtras)
@@ -593,10 +593,10 @@ TEST_F(DialogoPpReal, DejarUnaCeldaTomaLaLaminaYSuma)
 {
     Abre();
     Teclea("7,25\n");
-    EXPECT_EQ(s.PpReal(1), 7.25F);
+    EXPECT_EQ(s.Tormenta.PpReal(1), 7.25F);
     EXPECT_EQ(Columna(4), (Textos{"7.25", "17.25", "19.75"}));
-    EXPECT_EQ(s.PpTormenta, 19.75F);
-    EXPECT_EQ(s.DurTormenta, 60);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 19.75F);
+    EXPECT_EQ(s.Tormenta.DurTormenta, 60);
     EXPECT_EQ(G().actual, (forms::Celda{2, 3}));
 }
 
@@ -607,7 +607,7 @@ TEST_F(DialogoPpReal, EnterDaLaVueltaYPoneCeroDondeNoHayNumero)
     forms::Teclea(G(), Tecla::Suprimir);
     EXPECT_EQ(Celda(3, 3), "");
     AlAsentar(f, s, forms::Mueve(G(), {2, 3}));
-    EXPECT_EQ(s.PpReal(3), 0.0F);
+    EXPECT_EQ(s.Tormenta.PpReal(3), 0.0F);
     EXPECT_EQ(Celda(3, 4), "15");
     Teclea("\n");
     EXPECT_EQ(Celda(3, 3), "0");
@@ -627,7 +627,7 @@ TEST_F(DialogoPpReal, LaSumaEsDe32Bits)
     // 2^24 has no room for the half.
     PonTormenta(disco, "Velmir_pt.vlm", "x", 2, 10, "16777216\r\n0.5\r\n");
     Abre();
-    EXPECT_EQ(s.PpTormenta, 16777216.0F);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 16777216.0F);
     EXPECT_EQ(Celda(2, 4), "1.677722E+07");
 }
 
@@ -636,7 +636,7 @@ TEST_F(DialogoPpReal, LoQueSePegaDeUnaPlanillaSeToma)
     Abre();
     AlAsentar(f, s, forms::Pega(G(), s, "1,5\n2\n3\n"));
     EXPECT_EQ(Columna(4), (Textos{"1.5", "3.5", "6.5"}));
-    EXPECT_EQ(s.PpReal(3), 3.0F);
+    EXPECT_EQ(s.Tormenta.PpReal(3), 3.0F);
 }
 
 TEST_F(DialogoPpReal, UnaLaminaFueraDeSuTipoEsFalla)
@@ -765,7 +765,7 @@ TEST_F(DialogoPpReal, CancelarDejaLosArreglosComoSeEscribieron)
     Abre();
     Teclea("9\n");
     CancelButton(f);
-    EXPECT_EQ(s.PpReal(1), 9.0F);
+    EXPECT_EQ(s.Tormenta.PpReal(1), 9.0F);
     EXPECT_EQ(Bytes("Velmir_pt.vlm"), Llovizna);
 }
 
@@ -814,11 +814,11 @@ TEST_F(DialogoPpReal, LoDeshechoVuelveALaTormentaYALaSuma)
 {
     Abre();
     Teclea("9\n");
-    EXPECT_EQ(s.PpReal(1), 9.0F);
+    EXPECT_EQ(s.Tormenta.PpReal(1), 9.0F);
     AlAsentar(f, s, forms::Deshace(G()));
-    EXPECT_EQ(s.PpReal(1), 5.0F);
+    EXPECT_EQ(s.Tormenta.PpReal(1), 5.0F);
     EXPECT_EQ(Columna(4), (Textos{"5", "15", "17.5"}));
-    EXPECT_EQ(s.PpTormenta, 17.5F);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 17.5F);
 }
 
 TEST_F(DialogoPpReal, UnaNuevaQueNoSePuedeEscribirDejaTodoComoEstaba)
@@ -834,7 +834,7 @@ TEST_F(DialogoPpReal, UnaNuevaQueNoSePuedeEscribirDejaTodoComoEstaba)
     EXPECT_EQ(f.lblMiFilePpReal, "Velmir_pt.vlm");
     EXPECT_EQ(f.txtNroPpReal, "2");
     EXPECT_EQ(G(), antes.MSFlexGridTablaPpReal);
-    EXPECT_EQ(s.NroPpReal, 2);
+    EXPECT_EQ(s.Tormenta.NroPpReal, 2);
     PonNro("3");
     EXPECT_EQ(Columna(3), (Textos{"5", "10", "2.5"}));
     EXPECT_EQ(Bytes("Velmir_pt.vlm"), Llovizna);
@@ -843,9 +843,9 @@ TEST_F(DialogoPpReal, UnaNuevaQueNoSePuedeEscribirDejaTodoComoEstaba)
 TEST_F(DialogoPpReal, SinTormentaQueLeerLasFilasNuevasNoSonLasDelUltimoHietograma)
 {
     disco.Quita("/proyectos/Velmir_pt.vlm");
-    s.PpReal.Dimensiona(4);
+    s.Tormenta.PpReal.Dimensiona(4);
     for (int j = 1; j <= 4; ++j)
-        s.PpReal(j) = 9;
+        s.Tormenta.PpReal(j) = 9;
     Abre();
     PonNro("3");
     EXPECT_EQ(Columna(3), (Textos{"0", "0", "0"}));
@@ -857,7 +857,7 @@ TEST_F(DialogoPpReal, UnaNuevaConNombreUsadoPisaLaAnterior)
     Abre();
     anfitrion->textos = {"Velmir"};
     cmdNuevaPpReal(f, s);
-    EXPECT_EQ(s.NroPpReal, 0);
+    EXPECT_EQ(s.Tormenta.NroPpReal, 0);
     EXPECT_TRUE(Bytes("Velmir_pt.vlm").starts_with("\"describa"));
 }
 
@@ -937,8 +937,8 @@ TEST_F(DialogoPpReal, LaTormentaImportadaTomaLosCamposYNadaSeEscribe)
     EXPECT_EQ(f.cmbPasot.texto, "15");
     EXPECT_EQ(f.txtNroPpReal, "3");
     EXPECT_EQ(Columna(3), (Textos{"1.5", "0", "2"}));
-    EXPECT_EQ(s.PpTormenta, 3.5F);
-    EXPECT_EQ(s.DurTormenta, 45);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 3.5F);
+    EXPECT_EQ(s.Tormenta.DurTormenta, 45);
     EXPECT_EQ(Bytes("Velmir_pt.vlm"), Llovizna);
     cmdAplicar(f, pp, s);
     EXPECT_EQ(Bytes("Velmir_pt.vlm"),

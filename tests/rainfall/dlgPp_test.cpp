@@ -48,9 +48,9 @@ class DialogoPp : public testing::Test {
     }
     void AbreConTormenta(float P, std::int16_t D, std::int16_t R)
     {
-        s.PpTormenta = P;
-        s.DurTormenta = D;
-        s.RecTormenta = R;
+        s.Tormenta.PpTormenta = P;
+        s.Tormenta.DurTormenta = D;
+        s.Tormenta.RecTormenta = R;
         Abre(f, s);
     }
     /// Which of the three fields of the storm show what.
@@ -107,10 +107,10 @@ TEST(TextosDeDlgPp, CadaControlTieneUnNombrePropio)
 
 TEST_F(DialogoPp, AlAbrirMuestraLaTormentaYLosPasosDeLaCorrida)
 {
-    s.PasoPp = 30;
-    s.PasoQ = 15;
-    s.DistriPp = 3;
-    s.TablaPDR = 2;
+    s.Pasos.PasoPp = 30;
+    s.Pasos.PasoQ = 15;
+    s.Tormenta.DistriPp = 3;
+    s.Tormenta.TablaPDR = 2;
     AbreConTormenta(80.5F, 120, 50);
     EXPECT_TRUE(f.abierta);
     EXPECT_EQ(Campos(), (Textos{"80.5", "120", "50"}));
@@ -123,8 +123,8 @@ TEST_F(DialogoPp, AlAbrirMuestraLaTormentaYLosPasosDeLaCorrida)
     EXPECT_TRUE(f.optformaPp[0]);
     EXPECT_TRUE(f.optDistriPp[3]);
     EXPECT_TRUE(f.optTablaPDR[2]);
-    EXPECT_EQ(s.PasoPp, 30);
-    EXPECT_EQ(s.PasoQ, 15);
+    EXPECT_EQ(s.Pasos.PasoPp, 30);
+    EXPECT_EQ(s.Pasos.PasoQ, 15);
     EXPECT_TRUE(Avisos().empty());
 }
 
@@ -136,41 +136,41 @@ TEST_F(DialogoPp, SinTormentaEnMemoriaValen60MilimetrosEn60Minutos)
 
 TEST_F(DialogoPp, SinPasosEnMemoriaValen10Minutos)
 {
-    s.PasoPp = s.PasoQ = 0;
+    s.Pasos.PasoPp = s.Pasos.PasoQ = 0;
     Abre(f, s);
     EXPECT_EQ(f.cmbPasoPp.texto, "10");
     EXPECT_EQ(f.cmbPasoQ.texto, "10");
-    EXPECT_EQ(s.PasoPp, 10);
-    EXPECT_EQ(s.PasoQ, 10);
+    EXPECT_EQ(s.Pasos.PasoPp, 10);
+    EXPECT_EQ(s.Pasos.PasoQ, 10);
 }
 
 TEST_F(DialogoPp, AlAbrirElPasoQSeBajaAlPasoPp)
 {
-    s.PasoPp = 20;
-    s.PasoQ = 60;
+    s.Pasos.PasoPp = 20;
+    s.Pasos.PasoQ = 60;
     Abre(f, s);
-    EXPECT_EQ(s.PasoPp, 20);
-    EXPECT_EQ(s.PasoQ, 20);
+    EXPECT_EQ(s.Pasos.PasoPp, 20);
+    EXPECT_EQ(s.Pasos.PasoQ, 20);
 }
 
 TEST_F(DialogoPp, LaListaSeLeeAlAbrirEnLasFormas0Y1YLosCamposNoCambian)
 {
     for (const auto forma : std::to_array<std::int16_t>({0, 1})) {
-        s.FormaPp = forma;
+        s.Tormenta.FormaPp = forma;
         AbreConTormenta(70, 40, 2);
         EXPECT_EQ(f.cmbPDR.items, (Textos{"Pp= 30 - Dur = 20 - Rec = 5", "Pp= 80 - Dur = 120 - Rec = 50"}));
         EXPECT_EQ(Campos(), (Textos{"70", "40", "2"}));
         // The reader's own variables are the run-wide ones: the last line stays in them.
-        EXPECT_EQ(s.PpTormenta, 80);
-        EXPECT_EQ(s.DurTormenta, 120);
-        EXPECT_EQ(s.RecTormenta, 50);
+        EXPECT_EQ(s.Tormenta.PpTormenta, 80);
+        EXPECT_EQ(s.Tormenta.DurTormenta, 120);
+        EXPECT_EQ(s.Tormenta.RecTormenta, 50);
     }
 }
 
 TEST_F(DialogoPp, EnLasOtrasFormasLaListaNoSeLee)
 {
     for (const auto forma : std::to_array<std::int16_t>({2, 3, 4})) {
-        s.FormaPp = forma;
+        s.Tormenta.FormaPp = forma;
         Abre(f, s);
         EXPECT_TRUE(f.cmbPDR.items.empty()) << forma;
     }
@@ -182,7 +182,7 @@ TEST_F(DialogoPp, SinListaArchivadaQuedaVaciaYCallada)
     AbreConTormenta(70, 40, 2);
     EXPECT_TRUE(f.cmbPDR.items.empty());
     EXPECT_TRUE(Avisos().empty());
-    EXPECT_EQ(s.PpTormenta, 70);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 70);
 }
 
 TEST_F(DialogoPp, ReabreComoSeLoDejoAlAplicar)
@@ -238,13 +238,13 @@ class EstadoPorForma : public DialogoPp, public testing::WithParamInterface<Caso
             EXPECT_TRUE(f.Visible(c)) << nombre(c);
         for (const Control c : Controles(caso.ocultos))
             EXPECT_FALSE(f.Visible(c)) << nombre(c);
-        EXPECT_EQ(s.FormaPp, caso.forma);
+        EXPECT_EQ(s.Tormenta.FormaPp, caso.forma);
     }
 };
 
 TEST_P(EstadoPorForma, EsElMismoAlAbrirYDesdeCualquierOtraForma)
 {
-    s.FormaPp = GetParam().forma;
+    s.Tormenta.FormaPp = GetParam().forma;
     Abre(f, s);
     Comprueba();
     for (const auto desde : std::to_array<std::size_t>({0, 1, 2, 3, 4})) {
@@ -284,8 +284,8 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_F(DialogoPp, AlAbrirLaValidezNoSeVeSinUnaPersonal)
 {
     for (const auto forma : std::to_array<std::int16_t>({0, 1, 2, 3, 4})) {
-        s.FormaPp = forma;
-        s.DistriPp = 0;
+        s.Tormenta.FormaPp = forma;
+        s.Tormenta.DistriPp = 0;
         Abre(f, s);
         EXPECT_FALSE(f.Visible(Control::lblValidez)) << forma;
         EXPECT_FALSE(f.Visible(Control::lblDurMin)) << forma;
@@ -303,8 +303,8 @@ TEST_F(DialogoPp, LaCargaPorUEHSeHabilitaConSuForma)
 
 TEST_F(DialogoPp, LaValidezDeUnaPersonalSeMuestraConSusLimitesMayoresQueCero)
 {
-    s.DurMinPer = {0, 30, 0, 0};
-    s.DurMaxPer = {0, 120, 360, 0};
+    s.TablasDeLluvia.DurMinPer = {0, 30, 0, 0};
+    s.TablasDeLluvia.DurMaxPer = {0, 120, 360, 0};
     Abre(f, s);
     optDistriPp_Click(f, s, 5);
     EXPECT_TRUE(f.Habilitado(Control::cmdPpPerso));
@@ -347,16 +347,16 @@ TEST_F(DialogoPp, LaTablaPDR0NoSeCargaYLasPersonalesSi)
         optDistriPp_Click(f, s, 0);
         EXPECT_EQ(f.Habilitado(Control::cmdTablaPDR), tabla >= 1) << tabla;
     }
-    EXPECT_EQ(s.TablaPDR, 0);  // taken at apply
+    EXPECT_EQ(s.Tormenta.TablaPDR, 0);  // taken at apply
 }
 
 TEST_F(DialogoPp, LaFormaPorUEHEsSiempreDeIntensidadConstante)
 {
     Abre(f, s);
     optDistriPp_Click(f, s, 6);
-    ASSERT_EQ(s.DistriPp, 6);
+    ASSERT_EQ(s.Tormenta.DistriPp, 6);
     optformaPp_Click(f, s, 3);
-    EXPECT_EQ(s.DistriPp, 0);
+    EXPECT_EQ(s.Tormenta.DistriPp, 0);
     EXPECT_TRUE(f.optDistriPp[0]);
     EXPECT_FALSE(f.optDistriPp[6]);
 }
@@ -368,37 +368,37 @@ TEST_F(DialogoPp, LaFormaPorUEHIgnoraLaDistribucionAlAplicar)
     optformaPp_Click(f, s, 3);
     f.txtPp = "12";  // what the form of the rain per UEH puts there
     cmdAplicar(f, s);
-    EXPECT_EQ(s.FormaPp, 3);
-    EXPECT_EQ(s.DistriPp, 0);
-    EXPECT_EQ(s.PpTormenta, 12);
+    EXPECT_EQ(s.Tormenta.FormaPp, 3);
+    EXPECT_EQ(s.Tormenta.DistriPp, 0);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 12);
 }
 
 TEST_F(DialogoPp, SinNingunaFormaMarcadaValeLa0)
 {
     Abre(f, s);
     f.optformaPp.fill(false);
-    s.FormaPp = 3;
+    s.Tormenta.FormaPp = 3;
     EstadoFormaPp(f, s);
-    EXPECT_EQ(s.FormaPp, 0);
-    s.FormaPp = 3;
+    EXPECT_EQ(s.Tormenta.FormaPp, 0);
+    s.Tormenta.FormaPp = 3;
     cmdAplicar(f, s);
-    EXPECT_EQ(s.FormaPp, 0);
+    EXPECT_EQ(s.Tormenta.FormaPp, 0);
 }
 
 TEST_F(DialogoPp, UnaFormaDeMemoriaFueraDeLaTablaValeComo0)
 {
-    s.FormaPp = -1;
-    s.DistriPp = 9;
+    s.Tormenta.FormaPp = -1;
+    s.Tormenta.DistriPp = 9;
     Abre(f, s);
-    EXPECT_EQ(s.FormaPp, 0);
-    EXPECT_EQ(s.DistriPp, 9);  // no option is ticked, so none is taken
+    EXPECT_EQ(s.Tormenta.FormaPp, 0);
+    EXPECT_EQ(s.Tormenta.DistriPp, 9);  // no option is ticked, so none is taken
 }
 
 // --- real storm ---
 
 TEST_F(DialogoPp, LaFormaRealLeeLaTormentaPorDefecto)
 {
-    s.PasoPp = 60;
+    s.Pasos.PasoPp = 60;
     Abre(f, s);
     optformaPp_Click(f, s, 4);
     EXPECT_EQ(f.FilePpReal.items, (Textos{"Velmir_pt.vlm"}));
@@ -408,10 +408,10 @@ TEST_F(DialogoPp, LaFormaRealLeeLaTormentaPorDefecto)
     EXPECT_EQ(f.txtPp, "17.5");  // 5 + 10 + 2.5 mm
     EXPECT_EQ(f.txtDur, "60");   // 3 intervals of 20 min
     EXPECT_EQ(f.cmbPasoPp.texto, "20");
-    EXPECT_EQ(s.PasoPp, 20);
-    EXPECT_EQ(s.DistriPp, 7);
+    EXPECT_EQ(s.Pasos.PasoPp, 20);
+    EXPECT_EQ(s.Tormenta.DistriPp, 7);
     EXPECT_TRUE(f.optDistriPp[7]);
-    EXPECT_EQ(s.PpTormenta, 17.5F);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 17.5F);
 }
 
 TEST_F(DialogoPp, LaTormentaQueNoEstaDejaElegidaLaPrimera)
@@ -435,7 +435,7 @@ TEST_F(DialogoPp, SinTormentasEnElDirectorioNoHayIntervalos)
     EXPECT_TRUE(f.FilePpReal.items.empty());
     EXPECT_EQ(f.FilePpReal.indice, -1);
     EXPECT_EQ(f.lblNumPer, "0");
-    EXPECT_EQ(s.NroPpReal, 0);
+    EXPECT_EQ(s.Tormenta.NroPpReal, 0);
     EXPECT_TRUE(Avisos().empty());
     AlActivarse(f, s);  // a click with nothing selected
     EXPECT_EQ(f.lblNumPer, "0");
@@ -443,16 +443,16 @@ TEST_F(DialogoPp, SinTormentasEnElDirectorioNoHayIntervalos)
 
 TEST_F(DialogoPp, SinTormentaQueLeerElPasoQueda)
 {
-    s.PasoPp = 30;
+    s.Pasos.PasoPp = 30;
     disco.Quita("/proyectos/Velmir_pt.vlm");
     Abre(f, s);
     optformaPp_Click(f, s, 4);
-    EXPECT_EQ(s.PasoPp, 30);
+    EXPECT_EQ(s.Pasos.PasoPp, 30);
     EXPECT_EQ(f.cmbPasoPp.texto, "30");
     // The step that a storm tells is taken, 0 too.
     PonTormenta("Velmir_pt.vlm", "Llovizna", 1, 0, "8\r\n");
     optformaPp_Click(f, s, 4);
-    EXPECT_EQ(s.PasoPp, 0);
+    EXPECT_EQ(s.Pasos.PasoPp, 0);
 }
 
 TEST_F(DialogoPp, ElegirOtraTormentaRealLaMuestra)
@@ -466,7 +466,7 @@ TEST_F(DialogoPp, ElegirOtraTormentaRealLaMuestra)
     EXPECT_EQ(f.lblNumPer, "1");
     EXPECT_EQ(f.txtPp, "4");
     EXPECT_EQ(f.txtDur, "30");
-    EXPECT_EQ(s.PasoPp, 30);
+    EXPECT_EQ(s.Pasos.PasoPp, 30);
     EXPECT_EQ(TituloDeTormenta(f, s), "Temporal");
     OKButton(f, s);
     Abre(f, s);  // the same record: the storm chosen is still the one
@@ -489,7 +489,7 @@ TEST_F(DialogoPp, CadaActivacionEnLaFormaRealRepiteElClic)
 
 TEST_F(DialogoPp, AlVolverDeOtraFormaLosTresCamposQuedan)
 {
-    s.FormaPp = 3;
+    s.Tormenta.FormaPp = 3;
     Abre(f, s);
     f.txtPp = "12";
     f.txtDur = "200";
@@ -523,9 +523,9 @@ TEST_F(DialogoPp, AlVolverDeEditarLaTormentaRealSeMuestranSusValores)
     EXPECT_EQ(f.txtPp, "4");
     EXPECT_EQ(f.txtDur, "30");
     cmdAplicar(f, s);
-    EXPECT_EQ(s.PpTormenta, 4);
-    EXPECT_EQ(s.FormaPp, 4);
-    EXPECT_EQ(s.PasoPp, 30);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 4);
+    EXPECT_EQ(s.Tormenta.FormaPp, 4);
+    EXPECT_EQ(s.Pasos.PasoPp, 30);
 }
 
 TEST_F(DialogoPp, LaFormaRealTomaSuLluviaDeLaTormentaYNoDeLoEscrito)
@@ -535,9 +535,9 @@ TEST_F(DialogoPp, LaFormaRealTomaSuLluviaDeLaTormentaYNoDeLoEscrito)
     f.txtDur = "400";
     optformaPp_Click(f, s, 4);
     OKButton(f, s);
-    EXPECT_EQ(s.PpTormenta, 17.5F);
-    EXPECT_EQ(s.DurTormenta, 60);
-    EXPECT_EQ(s.DistriPp, 7);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 17.5F);
+    EXPECT_EQ(s.Tormenta.DurTormenta, 60);
+    EXPECT_EQ(s.Tormenta.DistriPp, 7);
 }
 
 TEST_F(DialogoPp, DejarLaFormaRealAvisaDeLaDistribucion)
@@ -561,7 +561,7 @@ TEST_F(DialogoPp, DejarLaFormaRealAvisaSoloConLasPersonales2Y3)
         Abre(f, s);
         optformaPp_Click(f, s, 4);
         anfitrion->sucesos.clear();
-        s.DistriPp = distribucion;
+        s.Tormenta.DistriPp = distribucion;
         optformaPp_Click(f, s, 0);
         EXPECT_EQ(Avisos().size(), distribucion > 5 ? 1U : 0U) << distribucion;
     }
@@ -576,7 +576,7 @@ TEST_F(DialogoPp, LasTresTormentasDeMuestraPonen1440Minutos)
         f.txtDur = "77";
         optDistriPp_Click(f, s, i);
         EXPECT_EQ(f.txtDur, i >= 2 && i <= 4 ? "1440" : "77") << i;
-        EXPECT_EQ(s.DistriPp, static_cast<std::int16_t>(i));
+        EXPECT_EQ(s.Tormenta.DistriPp, static_cast<std::int16_t>(i));
     }
 }
 
@@ -592,12 +592,12 @@ TEST_F(DialogoPp, AplicarTomaTormentaDistribucionYPasosRedondeados)
     f.cmbPasoQ.texto = "4.6";
     f.optDistriPp = {false, true};
     cmdAplicar(f, s);
-    EXPECT_EQ(s.PpTormenta, 12.25F);
-    EXPECT_EQ(s.DurTormenta, 62);
-    EXPECT_EQ(s.RecTormenta, 8);
-    EXPECT_EQ(s.DistriPp, 1);
-    EXPECT_EQ(s.PasoPp, 16);
-    EXPECT_EQ(s.PasoQ, 5);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 12.25F);
+    EXPECT_EQ(s.Tormenta.DurTormenta, 62);
+    EXPECT_EQ(s.Tormenta.RecTormenta, 8);
+    EXPECT_EQ(s.Tormenta.DistriPp, 1);
+    EXPECT_EQ(s.Pasos.PasoPp, 16);
+    EXPECT_EQ(s.Pasos.PasoQ, 5);
     EXPECT_TRUE(f.abierta);
     EXPECT_TRUE(Avisos().empty());
 }
@@ -605,9 +605,9 @@ TEST_F(DialogoPp, AplicarTomaTormentaDistribucionYPasosRedondeados)
 TEST_F(DialogoPp, AplicarConLluvia0CierraTrasElMensajeConLosPasosDeAntes)
 {
     for (const bool sinLluvia : {true, false}) {
-        s.PasoPp = 20;
-        s.PasoQ = 10;
-        s.DistriPp = 0;
+        s.Pasos.PasoPp = 20;
+        s.Pasos.PasoQ = 10;
+        s.Tormenta.DistriPp = 0;
         AbreConTormenta(50, 60, 5);
         anfitrion->sucesos.clear();
         (sinLluvia ? f.txtPp : f.txtDur) = "0";
@@ -617,9 +617,9 @@ TEST_F(DialogoPp, AplicarConLluvia0CierraTrasElMensajeConLosPasosDeAntes)
         OKButton(f, s);
         EXPECT_EQ(Avisos(), (std::vector<Mensaje>{SinTormenta}));
         EXPECT_FALSE(f.abierta);
-        EXPECT_EQ(s.PasoPp, 20);
-        EXPECT_EQ(s.PasoQ, 10);
-        EXPECT_EQ(s.DistriPp, 0);
+        EXPECT_EQ(s.Pasos.PasoPp, 20);
+        EXPECT_EQ(s.Pasos.PasoQ, 10);
+        EXPECT_EQ(s.Tormenta.DistriPp, 0);
     }
 }
 
@@ -634,7 +634,7 @@ TEST_F(DialogoPp, AplicarCierraTambienSinAceptarCuandoFaltaLaDuracion)
 
 TEST_F(DialogoPp, AplicarOcultaLaValidez)
 {
-    s.DurMinPer = {0, 30, 0, 0};
+    s.TablasDeLluvia.DurMinPer = {0, 30, 0, 0};
     Abre(f, s);
     optDistriPp_Click(f, s, 5);
     ASSERT_TRUE(f.Visible(Control::lblDurMin));
@@ -652,7 +652,7 @@ TEST_F(DialogoPp, UnaDuracionMenorQueElPasoLoVuelveLaDuracion)
         f.cmbPasoPp.texto = "30";
         cmdAplicar(f, s);
         EXPECT_EQ(f.cmbPasoPp.texto, paso);
-        EXPECT_EQ(s.PasoPp, std::stoi(paso));
+        EXPECT_EQ(s.Pasos.PasoPp, std::stoi(paso));
     }
 }
 
@@ -664,8 +664,8 @@ TEST_F(DialogoPp, UnPasoEnCeroEsElPrimeroDeLaLista)
     cmdAplicar(f, s);
     EXPECT_EQ(f.cmbPasoPp.texto, "5");
     EXPECT_EQ(f.cmbPasoQ.texto, "5");
-    EXPECT_EQ(s.PasoPp, 5);
-    EXPECT_EQ(s.PasoQ, 5);
+    EXPECT_EQ(s.Pasos.PasoPp, 5);
+    EXPECT_EQ(s.Pasos.PasoQ, 5);
 }
 
 TEST_F(DialogoPp, AplicarNoComparaLosDosPasos)
@@ -674,8 +674,8 @@ TEST_F(DialogoPp, AplicarNoComparaLosDosPasos)
     f.cmbPasoPp.texto = "20";  // changed after the output step was left
     f.cmbPasoQ.texto = "30";
     cmdAplicar(f, s);
-    EXPECT_EQ(s.PasoPp, 20);
-    EXPECT_EQ(s.PasoQ, 30);
+    EXPECT_EQ(s.Pasos.PasoPp, 20);
+    EXPECT_EQ(s.Pasos.PasoQ, 30);
     EXPECT_TRUE(Avisos().empty());
 }
 
@@ -685,17 +685,17 @@ TEST_F(DialogoPp, AplicarUnaSerieLeeSuTablaYMuestraSuPrimeraTormenta)
     optformaPp_Click(f, s, 2);
     optTablaPDR_Click(f, 1);
     cmdAplicar(f, s);
-    EXPECT_EQ(s.FormaPp, 2);
-    EXPECT_EQ(s.TablaPDR, 1);
-    EXPECT_EQ(s.NroSeriePDR, 1);
+    EXPECT_EQ(s.Tormenta.FormaPp, 2);
+    EXPECT_EQ(s.Tormenta.TablaPDR, 1);
+    EXPECT_EQ(s.Serie.NroSeriePDR, 1);
     EXPECT_EQ(Campos(), (Textos{"25", "45", "10"}));
-    EXPECT_EQ(s.PpTormenta, 25);
-    EXPECT_EQ(s.DurTormenta, 45);
-    EXPECT_EQ(s.RecTormenta, 10);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 25);
+    EXPECT_EQ(s.Tormenta.DurTormenta, 45);
+    EXPECT_EQ(s.Tormenta.RecTormenta, 10);
     f.optTablaPDR.fill(false);  // none: table 0
     cmdAplicar(f, s);
-    EXPECT_EQ(s.TablaPDR, 0);
-    EXPECT_EQ(s.NroSeriePDR, 2);
+    EXPECT_EQ(s.Tormenta.TablaPDR, 0);
+    EXPECT_EQ(s.Serie.NroSeriePDR, 2);
     EXPECT_EQ(Campos(), (Textos{"30", "60", "2"}));
 }
 
@@ -705,43 +705,43 @@ TEST_F(DialogoPp, UnaTablaSinTormentasDejaLosCampos)
     optformaPp_Click(f, s, 2);
     optTablaPDR_Click(f, 2);
     cmdAplicar(f, s);
-    EXPECT_EQ(s.NroSeriePDR, 0);
+    EXPECT_EQ(s.Serie.NroSeriePDR, 0);
     EXPECT_EQ(Campos(), (Textos{"50", "60", "5"}));
 }
 
 TEST_F(DialogoPp, EnLasOtrasFormasLaTablaYLaSerieQuedanComoEstaban)
 {
-    s.TablaPDR = 2;
-    s.NroSeriePDR = 7;
+    s.Tormenta.TablaPDR = 2;
+    s.Serie.NroSeriePDR = 7;
     Abre(f, s);
     optTablaPDR_Click(f, 1);
     disco.OlvidaLlamadas();
     cmdAplicar(f, s);
-    EXPECT_EQ(s.TablaPDR, 2);
-    EXPECT_EQ(s.NroSeriePDR, 7);
+    EXPECT_EQ(s.Tormenta.TablaPDR, 2);
+    EXPECT_EQ(s.Serie.NroSeriePDR, 7);
     EXPECT_TRUE(disco.Llamadas().empty());
 }
 
 TEST_F(DialogoPp, UnaRecurrenciaQueNoCabeSeDiceYElDialogoQueda)
 {
-    s.PasoPp = 20;
+    s.Pasos.PasoPp = 20;
     Abre(f, s);
     f.cmbRec.texto = "32768";
     f.cmbPasoPp.texto = "30";
     OKButton(f, s);
     EXPECT_EQ(Avisos(), (std::vector<Mensaje>{Desbordamiento}));
     EXPECT_TRUE(f.abierta);
-    EXPECT_EQ(s.PasoPp, 20);
+    EXPECT_EQ(s.Pasos.PasoPp, 20);
     f.cmbRec.texto = "32767";
     OKButton(f, s);
-    EXPECT_EQ(s.RecTormenta, 32767);
+    EXPECT_EQ(s.Tormenta.RecTormenta, 32767);
     EXPECT_FALSE(f.abierta);
 }
 
 TEST_F(DialogoPp, SinAplicarEstaLoQueNiSeMostroNiSeUsa)
 {
-    s.PasoPp = 20;
-    s.PasoQ = 10;
+    s.Pasos.PasoPp = 20;
+    s.Pasos.PasoQ = 10;
     AbreConTormenta(60, 60, 10);  // the list's last storm, 80 mm, comes into use: what is shown stays shown
     EXPECT_FALSE(SinAplicar(f, s));
     for (std::string* campo : {&f.txtPp, &f.txtDur, &f.cmbRec.texto, &f.cmbPasoPp.texto, &f.cmbPasoQ.texto}) {
@@ -786,9 +786,9 @@ TEST_F(DialogoPp, LoQueSeTomaAlElegirNoQuedaSinAplicar)
 
 TEST_F(DialogoPp, CancelarDejaLaFormaElegidaYLoDemasComoSeAplico)
 {
-    s.TablaPDR = 3;
-    s.PasoPp = 20;
-    s.PasoQ = 10;
+    s.Tormenta.TablaPDR = 3;
+    s.Pasos.PasoPp = 20;
+    s.Pasos.PasoQ = 10;
     Abre(f, s);
     optformaPp_Click(f, s, 2);
     optTablaPDR_Click(f, 1);
@@ -796,10 +796,10 @@ TEST_F(DialogoPp, CancelarDejaLaFormaElegidaYLoDemasComoSeAplico)
     f.cmbPasoQ.texto = "60";
     CancelButton(f);
     EXPECT_FALSE(f.abierta);
-    EXPECT_EQ(s.FormaPp, 2);
-    EXPECT_EQ(s.TablaPDR, 3);
-    EXPECT_EQ(s.PasoPp, 20);
-    EXPECT_EQ(s.PasoQ, 10);
+    EXPECT_EQ(s.Tormenta.FormaPp, 2);
+    EXPECT_EQ(s.Tormenta.TablaPDR, 3);
+    EXPECT_EQ(s.Pasos.PasoPp, 20);
+    EXPECT_EQ(s.Pasos.PasoQ, 10);
 }
 
 // --- leaving a field ---
@@ -835,7 +835,7 @@ TEST_F(DialogoPp, LaLluviaVaDe0A999)
         EXPECT_EQ(txtPp_AlSalir(f, s), caso.pasa) << caso.escrito;
         EXPECT_EQ(f.txtPp, caso.queda);
         if (caso.pasa) {
-            EXPECT_EQ(s.PpTormenta, static_cast<float>(caso.valor)) << caso.escrito;
+            EXPECT_EQ(s.Tormenta.PpTormenta, static_cast<float>(caso.valor)) << caso.escrito;
             EXPECT_TRUE(Avisos().empty());
             EXPECT_FALSE(f.foco);
         } else {
@@ -868,7 +868,7 @@ TEST_F(DialogoPp, LaDuracionVaDe0A14400YUnaRechazadaVuelveA1440)
         EXPECT_EQ(txtDur_AlSalir(f, s), caso.pasa) << caso.escrito;
         EXPECT_EQ(f.txtDur, caso.queda);
         if (caso.pasa) {
-            EXPECT_EQ(s.DurTormenta, static_cast<std::int16_t>(caso.valor)) << caso.escrito;
+            EXPECT_EQ(s.Tormenta.DurTormenta, static_cast<std::int16_t>(caso.valor)) << caso.escrito;
             EXPECT_TRUE(Avisos().empty());
         } else {
             EXPECT_EQ(Avisos(), (std::vector<Mensaje>{mensaje})) << caso.escrito;
@@ -942,15 +942,15 @@ TEST_F(DialogoPp, UnPasoQQueNoCabeEnElPasoPpSeReemplazaYElFocoSigue)
                              {"60", false},
                              {"20", false},
                              {"29", false}}) {
-        s.PasoPp = 30;
-        s.PasoQ = 10;
+        s.Pasos.PasoPp = 30;
+        s.Pasos.PasoQ = 10;
         Abre(f, s);
         anfitrion->sucesos.clear();
         f.cmbPasoQ.texto = caso.pasoQ;
         EXPECT_TRUE(cmbPasoQ_AlSalir(f, s));
         EXPECT_FALSE(f.foco);
         EXPECT_EQ(f.cmbPasoQ.texto, caso.cabe ? caso.pasoQ : "30") << caso.pasoQ;
-        EXPECT_EQ(s.PasoQ, caso.cabe ? 10 : 30) << caso.pasoQ;
+        EXPECT_EQ(s.Pasos.PasoQ, caso.cabe ? 10 : 30) << caso.pasoQ;
         EXPECT_EQ(Avisos(), caso.cabe ? std::vector<Mensaje>{} : std::vector<Mensaje>{mensaje}) << caso.pasoQ;
     }
 }
@@ -967,7 +967,7 @@ TEST_F(DialogoPp, SinPasoPpNingunPasoQCabe)
 
 TEST_F(DialogoPp, UnPasoQMayorNoSePuedeDejarPeroUnPasoPpCambiadoDespuesSi)
 {
-    s.PasoPp = 30;
+    s.Pasos.PasoPp = 30;
     Abre(f, s);
     f.cmbPasoQ.texto = "60";
     cmbPasoQ_AlSalir(f, s);
@@ -975,27 +975,27 @@ TEST_F(DialogoPp, UnPasoQMayorNoSePuedeDejarPeroUnPasoPpCambiadoDespuesSi)
     f.cmbPasoPp.texto = "10";  // afterwards; nothing looks at the output step any more
     EXPECT_TRUE(cmbPasoPp_AlSalir(f, s));
     cmdAplicar(f, s);
-    EXPECT_EQ(s.PasoPp, 10);
-    EXPECT_EQ(s.PasoQ, 30);  // a run lowers it
+    EXPECT_EQ(s.Pasos.PasoPp, 10);
+    EXPECT_EQ(s.Pasos.PasoQ, 30);  // a run lowers it
 }
 
 // --- list of storms ---
 
 TEST_F(DialogoPp, ElegirUnaTormentaDeLaListaLaMuestra)
 {
-    s.FormaPp = 1;
+    s.Tormenta.FormaPp = 1;
     AbreConTormenta(70, 40, 2);
     f.cmbPDR.indice = 0;
     cmbPDR_Click(f, s);
     EXPECT_EQ(Campos(), (Textos{"30", "20", "5"}));
-    EXPECT_EQ(s.PpTormenta, 30);
-    EXPECT_EQ(s.DurTormenta, 20);
-    EXPECT_EQ(s.RecTormenta, 5);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 30);
+    EXPECT_EQ(s.Tormenta.DurTormenta, 20);
+    EXPECT_EQ(s.Tormenta.RecTormenta, 5);
 }
 
 TEST_F(DialogoPp, SinNadaElegidoEnUnaListaElClicNoHaceNada)
 {
-    s.FormaPp = 1;
+    s.Tormenta.FormaPp = 1;
     AbreConTormenta(70, 40, 2);
     disco.OlvidaLlamadas();
     cmbPDR_Click(f, s);
@@ -1027,13 +1027,13 @@ TEST_F(DialogoPp, AgregarUnaTormentaLaGuardaYLaElige)
     EXPECT_EQ(f.cmbPDR.items[2], "Pp= 45.5 - Dur = 90 - Rec = 10");
     EXPECT_EQ(f.cmbPDR.indice, 2);
     EXPECT_EQ(disco.Bytes("/proyectos/ListaPDR.vlm"), "30,20,5\r\n80,120,50\r\n45.5,90,10\r\n");
-    EXPECT_EQ(s.PpTormenta, 45.5F);
-    EXPECT_EQ(s.DurTormenta, 90);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 45.5F);
+    EXPECT_EQ(s.Tormenta.DurTormenta, 90);
 }
 
 TEST_F(DialogoPp, BorrarUnaTormentaGuardaLaListaYMuestraLaDeLosCampos)
 {
-    s.FormaPp = 1;
+    s.Tormenta.FormaPp = 1;
     AbreConTormenta(70, 40, 2);
     f.cmbPDR.indice = 0;
     cmdBorraPDR(f, s);
@@ -1042,7 +1042,7 @@ TEST_F(DialogoPp, BorrarUnaTormentaGuardaLaListaYMuestraLaDeLosCampos)
     EXPECT_EQ(disco.Bytes("/proyectos/ListaPDR.vlm"), "80,120,50\r\n");
     // Writing the list takes the storm in hand back from the fields.
     EXPECT_EQ(Campos(), (Textos{"70", "40", "2"}));
-    EXPECT_EQ(s.PpTormenta, 70);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 70);
 }
 
 TEST_F(DialogoPp, UnaListaQueNoSePuedeGuardarSeDiceYElDialogoQueda)
@@ -1069,7 +1069,7 @@ TEST_F(DialogoPp, VerElGraficoPideElHietogramaDeLoAplicado)
     const auto pedido = cmdVerGrafico(f, s);
     ASSERT_TRUE(pedido);
     EXPECT_EQ(*pedido, (PedidoHietograma{3, 60, "Arroyo de prueba", 100, 180}));
-    EXPECT_EQ(s.PpReal(2), 60);
+    EXPECT_EQ(s.Tormenta.PpReal(2), 60);
     EXPECT_TRUE(anfitrion->pizarra.empty());
 }
 
@@ -1085,7 +1085,7 @@ TEST_F(DialogoPp, ElPasoDelGraficoEsElPasoPpAunqueLosBloquesSeanOtros)
 TEST_F(DialogoPp, SinTormentaNoHayGraficoNiTabla)
 {
     for (const bool grafico : {true, false}) {
-        s.SalidaPizarra = true;
+        s.Control.SalidaPizarra = true;
         Abre(f, s);
         anfitrion->sucesos.clear();
         f.txtPp = "0";
@@ -1105,12 +1105,12 @@ TEST_F(DialogoPp, UnaDistribucionSinPeriodosNoAbreElGrafico)
     Abre(f, s);
     optDistriPp_Click(f, s, 7);  // personal table 3 has no periods
     EXPECT_FALSE(cmdVerGrafico(f, s));
-    EXPECT_EQ(s.NroPpReal, 0);
+    EXPECT_EQ(s.Tormenta.NroPpReal, 0);
 }
 
 TEST_F(DialogoPp, LaTablaPtSeListaEnLaPizarra)
 {
-    s.SalidaPizarra = true;
+    s.Control.SalidaPizarra = true;
     AbreConTormenta(60, 60, 10);
     cmdVerTablaPt(f, s);
     EXPECT_EQ(anfitrion->pizarrasAbiertas, 1);
@@ -1128,7 +1128,7 @@ TEST_F(DialogoPp, LaTablaPtSeListaEnLaPizarra)
 
 TEST_F(DialogoPp, SinRecurrenciaSuRenglonFalta)
 {
-    s.SalidaPizarra = true;
+    s.Control.SalidaPizarra = true;
     AbreConTormenta(60, 60, 0);
     cmdVerTablaPt(f, s);
     EXPECT_EQ(anfitrion->pizarra.find("Recurrencia"), std::string::npos);
@@ -1141,7 +1141,7 @@ TEST_F(DialogoPp, ConLaPizarraCerradaLaTablaPtNoEscribeNada)
     cmdVerTablaPt(f, s);
     EXPECT_EQ(anfitrion->pizarrasAbiertas, 0);
     EXPECT_TRUE(anfitrion->pizarra.empty());
-    EXPECT_EQ(s.NroPpReal, 1);  // the hyetograph is built all the same
+    EXPECT_EQ(s.Tormenta.NroPpReal, 1);  // the hyetograph is built all the same
 }
 
 TEST_F(DialogoPp, ElTituloDeUnaTormentaEscritaEsElDelProyecto)
@@ -1149,7 +1149,7 @@ TEST_F(DialogoPp, ElTituloDeUnaTormentaEscritaEsElDelProyecto)
     Abre(f, s);
     f.tormenta.Notas = "Llovizna";
     EXPECT_EQ(TituloDeTormenta(f, s), "Arroyo de prueba");
-    s.FormaPp = 4;
+    s.Tormenta.FormaPp = 4;
     EXPECT_EQ(TituloDeTormenta(f, s), "Llovizna");
 }
 

@@ -38,7 +38,7 @@ class VentanaPp : public testing::Test {
     /// The form as it opens, without waiting for its closing.
     void Abre(std::int16_t forma = 0)
     {
-        mundo.s.FormaPp = forma;
+        mundo.s.Tormenta.FormaPp = forma;
         rainfall::Abre(f, mundo.s);
         v.Muestra();
         apoyo::Muestra(v);
@@ -165,8 +165,8 @@ TEST_F(VentanaPp, LosTresMarcosOcupanElMismoLugar)
 
 TEST_F(VentanaPp, LaValidezDeUnaPersonalSeMuestraConSusLimites)
 {
-    mundo.s.DurMinPer = {0, 30, 0, 0};
-    mundo.s.DurMaxPer = {0, 120, 360, 0};
+    mundo.s.TablasDeLluvia.DurMinPer = {0, 30, 0, 0};
+    mundo.s.TablasDeLluvia.DurMaxPer = {0, 120, 360, 0};
     Abre();
     Pulsa(C<QRadioButton>("optDistriPp_5"));
     EXPECT_TRUE(C("lblValidez").isVisible());
@@ -196,7 +196,7 @@ TEST_F(VentanaPp, LaPrecipitacionFueraDeLimitesAvisaYConservaElFocoSeleccionada)
     // What is selected is replaced by what is typed.
     apoyo::Teclea(txtPp, "999");
     QTest::keyClick(&txtPp, Qt::Key_Tab);
-    EXPECT_TRUE(Espera([&] { return mundo.s.PpTormenta == 999; }));
+    EXPECT_TRUE(Espera([&] { return mundo.s.Tormenta.PpTormenta == 999; }));
     EXPECT_TRUE(C("txtDur").hasFocus());
     EXPECT_EQ(Avisos().size(), 1U);
 }
@@ -222,7 +222,7 @@ TEST_F(VentanaPp, UnaOpcionNoSePulsaConUnCampoRechazado)
     EXPECT_EQ(Avisos(), std::vector<Mensaje>{PpFueraDeLimites});
     EXPECT_TRUE(C<QRadioButton>("optformaPp_0").isChecked());
     EXPECT_FALSE(C<QRadioButton>("optformaPp_2").isChecked());
-    EXPECT_EQ(mundo.s.FormaPp, 0);
+    EXPECT_EQ(mundo.s.Tormenta.FormaPp, 0);
     EXPECT_TRUE(C("txtPp").hasFocus());
 }
 
@@ -264,8 +264,8 @@ TEST_F(VentanaPp, EnterEnUnCampoLoTomaYAcepta)
     Escribe(C<QLineEdit>("txtPp"), "80");
     QTest::keyClick(&C("txtPp"), Qt::Key_Return);
     EXPECT_TRUE(Espera([&] { return !v.isVisible(); }));
-    EXPECT_EQ(mundo.s.PpTormenta, 80);
-    EXPECT_EQ(mundo.s.DurTormenta, 60);
+    EXPECT_EQ(mundo.s.Tormenta.PpTormenta, 80);
+    EXPECT_EQ(mundo.s.Tormenta.DurTormenta, 60);
 }
 
 TEST_F(VentanaPp, EnterConUnCampoRechazadoNoAcepta)
@@ -284,8 +284,8 @@ TEST_F(VentanaPp, EscCierraSinAplicarPeroLaFormaElegidaQueda)
     Escribe(C<QComboBox>("cmbPasoQ"), "5");
     QTest::keyClick(&C("cmbPasoQ"), Qt::Key_Escape);
     EXPECT_FALSE(v.isVisible());
-    EXPECT_EQ(mundo.s.FormaPp, 2);
-    EXPECT_EQ(mundo.s.PasoQ, 10);
+    EXPECT_EQ(mundo.s.Tormenta.FormaPp, 2);
+    EXPECT_EQ(mundo.s.Pasos.PasoQ, 10);
     EXPECT_TRUE(Avisos().empty());
 }
 
@@ -306,7 +306,7 @@ TEST_F(VentanaPp, AplicarSigueAbiertoYMuestraElPasoCorregido)
     Pulsa(C<QPushButton>("cmdAplicar"));
     EXPECT_TRUE(v.isVisible());
     EXPECT_EQ(TextoLista("cmbPasoPp"), "5");
-    EXPECT_EQ(mundo.s.PasoPp, 5);
+    EXPECT_EQ(mundo.s.Pasos.PasoPp, 5);
 }
 
 TEST_F(VentanaPp, ElGraficoSePideConLaTormentaEscrita)
@@ -429,8 +429,8 @@ TEST_F(VentanaPp, AlVolverDeOtraVentanaLaFormaRealLeeDeNuevoYDeUnaCajaNo)
 
 TEST_F(VentanaPp, AbreEsModalYVuelveAlCerrarse)
 {
-    mundo.s.PpTormenta = 33;
-    mundo.s.DurTormenta = 90;
+    mundo.s.Tormenta.PpTormenta = 33;
+    mundo.s.Tormenta.DurTormenta = 90;
     QTimer::singleShot(0, &v, [this] {
         EXPECT_TRUE(v.isModal());
         EXPECT_EQ(Texto("txtPp"), "33");
@@ -443,7 +443,7 @@ TEST_F(VentanaPp, AbreEsModalYVuelveAlCerrarse)
     EXPECT_FALSE(f.abierta);
 
     // Opened again it begins anew, and not on the button that closed it.
-    mundo.s.FormaPp = 2;
+    mundo.s.Tormenta.FormaPp = 2;
     QTimer::singleShot(0, &v, [this] {
         EXPECT_TRUE(Espera([&] { return C("optformaPp_2").hasFocus(); }));
         QTest::keyClick(&C("optformaPp_2"), Qt::Key_Escape);

@@ -34,18 +34,18 @@ class DialogoPpUEHs : public testing::Test {
     {
         s.Anfitrion = anfitrion.Puerta();
         PonProyectoDeLluvia(s, disco);
-        s.NombreProyecto = "Prueba";
-        s.DirProyectoConf = "/proyectos";
+        s.Proyecto.NombreProyecto = "Prueba";
+        s.Proyecto.DirProyectoConf = "/proyectos";
         for (std::int16_t n = 1; n <= 3; ++n) {
             model::UEH ueh;
             ueh.numUEH = n;
             ueh.NombreUEH = "u-" + std::to_string(n);
-            s.ColUEHs.Agrega(ueh);
+            s.Red.ColUEHs.Agrega(ueh);
         }
-        s.NroUEHs = 3;
+        s.Red.NroUEHs = 3;
         model::mnu_btn_toolbarGuardaUEHs(s);
         anfitrion->sucesos.clear();
-        s.FormaPp = 3;
+        s.Tormenta.FormaPp = 3;
         rainfall::Abre(pp, s);
     }
     void Abre() { rainfall::Abre(f, s); }
@@ -89,8 +89,8 @@ TEST(TextosDeDlgTablaPpUEHs, LasLeyendasEstanLetraPorLetra)
 
 TEST_F(DialogoPpUEHs, AlAbrirHayUnaFilaPorUEHConSuLamina)
 {
-    s.PpUEH(2) = 12.5F;
-    s.ColUEHs.Vacia();  // read again from the project
+    s.Tormenta.PpUEH(2) = 12.5F;
+    s.Red.ColUEHs.Vacia();  // read again from the project
     Abre();
     EXPECT_TRUE(f.abierta);
     EXPECT_EQ(Columna(0), (Textos{"1", "2", "3"}));
@@ -167,12 +167,12 @@ TEST_F(DialogoPpUEHs, UnTextoDeMasDeCincoCaracteresSeCorta)
 
 TEST_F(DialogoPpUEHs, BorrarVaciaLasLaminasYNoTocaElArreglo)
 {
-    s.PpUEH(1) = 9;
+    s.Tormenta.PpUEH(1) = 9;
     Abre();
     cmdBorraTablaHQ(f, s);
     EXPECT_EQ(Columna(2), (Textos{"", "", ""}));
     EXPECT_EQ(Columna(1), (Textos{"u-1", "u-2", "u-3"}));
-    EXPECT_EQ(s.PpUEH(1), 9.0F);
+    EXPECT_EQ(s.Tormenta.PpUEH(1), 9.0F);
 }
 
 // --- apply ---
@@ -185,12 +185,12 @@ TEST_F(DialogoPpUEHs, AplicarLlevaLaPrimeraLaminaMayorQueCero)
     Pega("0\n35,5\n20\n");
     cmdAplicar(f, pp, s);
     EXPECT_TRUE(Avisos().empty());
-    EXPECT_EQ(s.PpUEH(1), 0.0F);
-    EXPECT_EQ(s.PpUEH(2), 35.5F);
-    EXPECT_EQ(s.PpUEH(3), 20.0F);
-    EXPECT_EQ(s.PpTormenta, 35.5F);
-    EXPECT_EQ(s.DurTormenta, 90);
-    EXPECT_EQ(s.RecTormenta, 25);
+    EXPECT_EQ(s.Tormenta.PpUEH(1), 0.0F);
+    EXPECT_EQ(s.Tormenta.PpUEH(2), 35.5F);
+    EXPECT_EQ(s.Tormenta.PpUEH(3), 20.0F);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 35.5F);
+    EXPECT_EQ(s.Tormenta.DurTormenta, 90);
+    EXPECT_EQ(s.Tormenta.RecTormenta, 25);
     EXPECT_EQ(pp.txtPp, "35.5");
     EXPECT_EQ(pp.txtDur, "90");
     EXPECT_EQ(pp.cmbRec.texto, "25");
@@ -202,15 +202,15 @@ TEST_F(DialogoPpUEHs, AplicarLlevaLaPrimeraLaminaMayorQueCero)
 TEST_F(DialogoPpUEHs, ConTodasEnCeroLaLaminaQuedaComoEstaba)
 {
     Abre();
-    s.PpTormenta = 44;
+    s.Tormenta.PpTormenta = 44;
     pp.txtPp = "44";
     f.txtDPpUEHs = "60";
     f.txtRPpUEHs = "5";
     Pega("0\n0\n0\n");
     cmdAplicar(f, pp, s);
-    EXPECT_EQ(s.PpTormenta, 44.0F);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 44.0F);
     EXPECT_EQ(pp.txtPp, "44");
-    EXPECT_EQ(s.DurTormenta, 60);
+    EXPECT_EQ(s.Tormenta.DurTormenta, 60);
 }
 
 TEST_F(DialogoPpUEHs, SinDuracionNiRecurrenciaSeAvisaYSeSigue)
@@ -220,9 +220,9 @@ TEST_F(DialogoPpUEHs, SinDuracionNiRecurrenciaSeAvisaYSeSigue)
     cmdAplicar(f, pp, s);
     EXPECT_EQ(Avisos(), (std::vector<Mensaje>{SinDuracion, SinRecurrencia}));
     EXPECT_EQ(f.foco.control, "txtDPpUEHs");
-    EXPECT_EQ(s.PpUEH(3), 3.0F);
-    EXPECT_EQ(s.DurTormenta, 0);
-    EXPECT_EQ(s.RecTormenta, 0);
+    EXPECT_EQ(s.Tormenta.PpUEH(3), 3.0F);
+    EXPECT_EQ(s.Tormenta.DurTormenta, 0);
+    EXPECT_EQ(s.Tormenta.RecTormenta, 0);
     EXPECT_EQ(pp.txtDur, "0");
     EXPECT_EQ(pp.cmbRec.texto, "0");
 }
@@ -233,13 +233,13 @@ TEST_F(DialogoPpUEHs, LaPrimeraCeldaSinNumeroTieneElCursorYNadaSeToma)
     f.txtDPpUEHs = "60";
     f.txtRPpUEHs = "5";
     Pega("1\n\n\n");
-    s.DurTormenta = 7;
+    s.Tormenta.DurTormenta = 7;
     cmdAplicar(f, pp, s);
     EXPECT_TRUE(Avisos().empty());
     EXPECT_EQ(G().actual, (forms::Celda{2, 2}));
     EXPECT_EQ(f.foco.control, "MSFlexGridPpUEHs");
-    EXPECT_EQ(s.PpUEH(1), 0.0F);
-    EXPECT_EQ(s.DurTormenta, 7);
+    EXPECT_EQ(s.Tormenta.PpUEH(1), 0.0F);
+    EXPECT_EQ(s.Tormenta.DurTormenta, 7);
 }
 
 TEST_F(DialogoPpUEHs, LasTeclasDeLaTablaDanLaVuelta)
@@ -262,9 +262,9 @@ TEST_F(DialogoPpUEHs, CerrarAplicaYCierra)
     Pega("5\n6\n7\n");
     OKButton(f, pp, s);
     EXPECT_FALSE(f.abierta);
-    EXPECT_EQ(s.PpTormenta, 5.0F);
-    EXPECT_EQ(s.DurTormenta, 2880);
-    EXPECT_EQ(s.RecTormenta, 10000);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 5.0F);
+    EXPECT_EQ(s.Tormenta.DurTormenta, 2880);
+    EXPECT_EQ(s.Tormenta.RecTormenta, 10000);
     Abre();
     EXPECT_EQ(Columna(2), (Textos{"5", "6", "7"}));
 }
@@ -278,11 +278,11 @@ TEST_F(DialogoPpUEHs, LoQueSeAplicaQuedaEnDlgPpAlVolver)
     OKButton(f, pp, s);
     AlVolver(pp, s);
     rainfall::cmdAplicar(pp, s);
-    EXPECT_EQ(s.PpTormenta, 30.0F);
-    EXPECT_EQ(s.DurTormenta, 90);
-    EXPECT_EQ(s.RecTormenta, 25);
-    EXPECT_EQ(s.FormaPp, 3);
-    EXPECT_EQ(s.DistriPp, 0);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 30.0F);
+    EXPECT_EQ(s.Tormenta.DurTormenta, 90);
+    EXPECT_EQ(s.Tormenta.RecTormenta, 25);
+    EXPECT_EQ(s.Tormenta.FormaPp, 3);
+    EXPECT_EQ(s.Tormenta.DistriPp, 0);
 }
 
 TEST_F(DialogoPpUEHs, NingunArchivoSeToca)

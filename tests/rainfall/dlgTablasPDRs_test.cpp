@@ -35,7 +35,7 @@ class DialogoTablasPDRs : public testing::Test {
     {
         s.Anfitrion = anfitrion.Puerta();
         PonProyectoDeLluvia(s, disco);
-        s.FormaPp = 2;
+        s.Tormenta.FormaPp = 2;
         rainfall::Abre(pp, s);
     }
     void Abre(std::size_t tabla)
@@ -164,7 +164,7 @@ TEST_F(DialogoTablasPDRs, LaTablaCeroNoSeEdita)
     EXPECT_TRUE(txtNroPDRs_AlSalir(f, s));
     f.txtNotas = "otras";
     txtNotas_Change(f, s);
-    EXPECT_EQ(s.NotasPDR[0], "t0");
+    EXPECT_EQ(s.TablasDeLluvia.NotasPDR[0], "t0");
     const std::string antes = disco.Bytes(Ruta);
     cmdBorraTablaDisPer(f, s);
     EXPECT_EQ(G().NroFilas(), 2);
@@ -192,16 +192,16 @@ TEST_F(DialogoTablasPDRs, AplicarLaTablaCeroCargaLaSerieYNoEscribe)
     disco.OlvidaLlamadas();
     cmdAplicar(f, pp, s);
     EXPECT_TRUE(disco.Llamadas().empty());
-    EXPECT_EQ(s.NroSeriePDR, 2);
-    EXPECT_EQ(s.SerieP(2), 40.0F);
-    EXPECT_EQ(s.SerieD(2), 90);
-    EXPECT_EQ(s.SerieR(2), 5);
+    EXPECT_EQ(s.Serie.NroSeriePDR, 2);
+    EXPECT_EQ(s.Serie.SerieP(2), 40.0F);
+    EXPECT_EQ(s.Serie.SerieD(2), 90);
+    EXPECT_EQ(s.Serie.SerieR(2), 5);
     EXPECT_EQ(pp.txtPp, "30");
     EXPECT_EQ(pp.txtDur, "60");
     EXPECT_EQ(pp.cmbRec.texto, "2");
-    EXPECT_EQ(s.PpTormenta, 30.0F);
-    EXPECT_EQ(s.DurTormenta, 60);
-    EXPECT_EQ(s.RecTormenta, 2);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 30.0F);
+    EXPECT_EQ(s.Tormenta.DurTormenta, 60);
+    EXPECT_EQ(s.Tormenta.RecTormenta, 2);
 }
 
 // --- controls ---
@@ -215,12 +215,12 @@ TEST_F(DialogoTablasPDRs, ElNumeroDeTormentasEsEnteroDe0A999)
         EXPECT_FALSE(txtNroPDRs_AlSalir(f, s)) << malo;
         EXPECT_EQ(Avisos(), std::vector<Mensaje>{NroMalo}) << malo;
         EXPECT_EQ(f.foco.control, "txtNroPDRs");
-        EXPECT_EQ(s.NroFilasTabla[1], 1);
+        EXPECT_EQ(s.TablasDeLluvia.NroFilasTabla[1], 1);
     }
     anfitrion->sucesos.clear();
     PonNro("999");
     EXPECT_EQ(G().NroFilas(), 999);
-    EXPECT_EQ(s.NroFilasTabla[1], 999);
+    EXPECT_EQ(s.TablasDeLluvia.NroFilasTabla[1], 999);
     EXPECT_EQ(G().Texto({999, 0}), "999");
     EXPECT_EQ(Fila(1), (Textos{"25", "45", "10"}));
     EXPECT_EQ(Fila(2), (Textos{"", "", ""}));
@@ -233,7 +233,7 @@ TEST_F(DialogoTablasPDRs, LasNotasSonDeLaTablaEnMano)
     Abre(2);
     f.txtNotas = "nuevas";
     txtNotas_Change(f, s);
-    EXPECT_EQ(s.NotasPDR[2], "nuevas");
+    EXPECT_EQ(s.TablasDeLluvia.NotasPDR[2], "nuevas");
 }
 
 TEST_F(DialogoTablasPDRs, IrYVolverConFilasSinAplicarNoFalla)
@@ -268,18 +268,18 @@ TEST_F(DialogoTablasPDRs, UnaPersonalSeEscribeConLasCuatroYCargaLaSerie)
     EXPECT_EQ(disco.Bytes(Ruta),
               "2,1,2,0\r\n\"t0\"\r\n30,60,2\r\n40,90,5\r\n\"t1\"\r\n25,45,10\r\n\"t2\"\r\n30,60,2\r\n"
               "45,120,2\r\n\"t3\"\r\n");
-    EXPECT_EQ(s.NroSeriePDR, 2);
-    EXPECT_EQ(s.SerieD(2), 120);
+    EXPECT_EQ(s.Serie.NroSeriePDR, 2);
+    EXPECT_EQ(s.Serie.SerieD(2), 120);
     EXPECT_EQ(pp.txtPp, "30");
 }
 
 TEST_F(DialogoTablasPDRs, DoceCon7QuedaEnLaSerieYTreceEnElArchivo)
 {
     Aplica(1, "12,7\t60\t2\n");
-    EXPECT_EQ(s.SerieP(1), 12.7F);
-    EXPECT_EQ(s.TablasP(2, 1), 13);
+    EXPECT_EQ(s.Serie.SerieP(1), 12.7F);
+    EXPECT_EQ(s.TablasDeLluvia.TablasP(2, 1), 13);
     EXPECT_EQ(pp.txtPp, "12.7");
-    EXPECT_EQ(s.PpTormenta, 12.7F);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 12.7F);
     Abre(2);
     EXPECT_EQ(Fila(1), (Textos{"13", "60", "2"}));
 }
@@ -343,10 +343,10 @@ TEST_F(DialogoTablasPDRs, UnErrorDejaLaSerieComoSeCargoYNoLlevaNadaADlgPp)
 {
     pp.txtPp = "1";
     Aplica(2, "10\t60\t2\n20\t61\t2\n");
-    EXPECT_EQ(s.NroSeriePDR, 2);
-    EXPECT_EQ(s.SerieP(2), 20.0F);
-    EXPECT_EQ(s.SerieD(2), 61);
-    EXPECT_EQ(s.TablasD(2, 2), 61);
+    EXPECT_EQ(s.Serie.NroSeriePDR, 2);
+    EXPECT_EQ(s.Serie.SerieP(2), 20.0F);
+    EXPECT_EQ(s.Serie.SerieD(2), 61);
+    EXPECT_EQ(s.TablasDeLluvia.TablasD(2, 2), 61);
     EXPECT_EQ(pp.txtPp, "1");
     EXPECT_FALSE(escrito);
 }
@@ -388,7 +388,7 @@ TEST_F(DialogoTablasPDRs, SinTormentasPasaEscribeYLaSerieQuedaVacia)
     PonNro("0");
     OKButton(f, pp, s);
     EXPECT_FALSE(f.abierta);
-    EXPECT_EQ(s.NroSeriePDR, 0);
+    EXPECT_EQ(s.Serie.NroSeriePDR, 0);
     EXPECT_EQ(pp.txtPp, "1");
     EXPECT_TRUE(disco.Bytes(Ruta).starts_with("2,0,0,0\r\n"));
     EXPECT_TRUE(Avisos().empty());
@@ -443,8 +443,8 @@ TEST_F(DialogoTablasPDRs, SinAplicarEstaLoQueElArchivoNoTiene)
 
 TEST_F(DialogoTablasPDRs, LaVistaEsElHietogramaDeLaFilaDelCursor)
 {
-    s.DistriPp = 2;  // 34, 31, 18, 9, 8 %
-    s.PasoPp = 10;
+    s.Tormenta.DistriPp = 2;  // 34, 31, 18, 9, 8 %
+    s.Pasos.PasoPp = 10;
     Abre(0);
     forms::Mueve(G(), {2, 1});  // 40 mm in 90 min
     const forms::Grafico vista = Vista(f, s);
@@ -453,7 +453,7 @@ TEST_F(DialogoTablasPDRs, LaVistaEsElHietogramaDeLaFilaDelCursor)
     EXPECT_EQ(vista.categorias, (Textos{"18", "36", "54", "72", "90"}));
     ASSERT_EQ(vista.series.at(0).celdas.size(), 5U);
     EXPECT_FLOAT_EQ(static_cast<float>(vista.series[0].celdas[0]), 13.6F);
-    EXPECT_EQ(s.NroBloquesPp, 0);  // the state in use is let be
+    EXPECT_EQ(s.Hietograma.NroBloquesPp, 0);  // the state in use is let be
 }
 
 TEST_F(DialogoTablasPDRs, UnaFilaSinTormentaNoTieneHietograma)

@@ -36,7 +36,7 @@ class SerieDeMuestra : public testing::Test {
     {
         fs::copy(SIRO_DATA_DIR, dir.Camino(), fs::copy_options::recursive);
         s.Anfitrion = anfitrion.Puerta();
-        s.DirTrabajo = dir.Camino().string();
+        s.Proyecto.DirTrabajo = dir.Camino().string();
         batch::AbreProyecto(s, dir.Ruta("Proyectos/Quelmar_Conf.vlm"));
         batch::FijaTormenta(s, {.orden = batch::Opciones::Orden::Serie});
         ASSERT_EQ(engine::CorreSeriePDR(s), engine::FinSerie::Completa);
@@ -126,7 +126,7 @@ TEST_F(SerieDeMuestra, LaTablaCompletaTieneLosRenglonesDelArchivo)
     for (std::size_t i = 0; i < registros.size(); ++i)
         ASSERT_EQ(registros[i], renglones[i]) << i;
     // titles, components, a total per storm, the last row
-    const auto componentes = static_cast<std::size_t>(s.NroComponentes);
+    const auto componentes = static_cast<std::size_t>(s.Resultados.NroComponentes);
     EXPECT_EQ(f.MSFlexGridTablaSaleQDR.filas.size(),
               NroTitulos + renglones.size() + renglones.size() / componentes + 1);
 }
@@ -135,7 +135,7 @@ TEST_F(SerieDeMuestra, LaTablaPorComponenteTambien)
 {
     dlgTablaSalePDR2 f;
     Abre(f, s);
-    ASSERT_EQ(f.lstCompos.size(), static_cast<std::size_t>(s.NroComponentes));
+    ASSERT_EQ(f.lstCompos.size(), static_cast<std::size_t>(s.Resultados.NroComponentes));
     for (std::size_t i = 0; i < f.lstCompos.size(); ++i) {
         f.lstComposIndice = static_cast<int>(i);
         lstCompos_Click(f, s);
@@ -163,7 +163,7 @@ TEST_F(SerieDeMuestra, ElAbacoTieneLaEscorrentiaYElCoeficienteDelArchivo)
     for (const int magnitud : {1, 2}) {
         f.lstPQECIndice = magnitud;
         lstPQEC_Click(f, s);
-        ASSERT_EQ(f.lstCompos.size(), static_cast<std::size_t>(s.NroUEHs));
+        ASSERT_EQ(f.lstCompos.size(), static_cast<std::size_t>(s.Red.NroUEHs));
         for (std::size_t i = 0; i < f.lstCompos.size(); ++i) {
             f.lstComposIndice = static_cast<int>(i);
             lstCompos_Click(f, s);

@@ -28,21 +28,21 @@ class SerieDePrueba : public testing::Test {
     {
         s.Anfitrion = anfitrion.Puerta();
         s.Disco = disco.Puerta();
-        s.NombreProyecto = "Prueba";
-        s.DirProyecto = "/proyectos";
-        s.TituloProyecto = "Un título";
-        s.Ubicacion = "Un lugar";
-        s.Cuenca = "Un río";
-        s.Subcuenca = "Un arroyo";
-        s.Operador = "Yo";
-        s.FormaPp = 2;
-        s.PasoPp = s.PasoQ = 10;
-        s.Secuencia = {"", "u-1", "u-2", "c-1"};
-        s.NroComponentes = 3;
-        s.NroUEHs = 2;
-        s.NroCauces = 1;
-        s.Salidas[1] = "c-1";
-        s.NroSalidas = 1;
+        s.Proyecto.NombreProyecto = "Prueba";
+        s.Proyecto.DirProyecto = "/proyectos";
+        s.Configuracion.TituloProyecto = "Un título";
+        s.Configuracion.Ubicacion = "Un lugar";
+        s.Configuracion.Cuenca = "Un río";
+        s.Configuracion.Subcuenca = "Un arroyo";
+        s.Configuracion.Operador = "Yo";
+        s.Tormenta.FormaPp = 2;
+        s.Pasos.PasoPp = s.Pasos.PasoQ = 10;
+        s.Resultados.Secuencia = {"", "u-1", "u-2", "c-1"};
+        s.Resultados.NroComponentes = 3;
+        s.Red.NroUEHs = 2;
+        s.Red.NroCauces = 1;
+        s.Resultados.Salidas[1] = "c-1";
+        s.Resultados.NroSalidas = 1;
         s.frmConfigura.CheckD.fill(1);
         s.frmConfigura.CheckR.fill(1);
         Carga({{20, 60, 10}, {30, 120, 10}, {25, 60, 25}, {35, 120, 25}});
@@ -51,34 +51,34 @@ class SerieDePrueba : public testing::Test {
     void Carga(const std::vector<Tormenta>& tormentas)
     {
         const auto n = static_cast<std::int16_t>(tormentas.size());
-        s.NroSeriePDR = n;
-        s.SerieP.Dimensiona(n);
-        s.SerieD.Dimensiona(n);
-        s.SerieR.Dimensiona(n);
+        s.Serie.NroSeriePDR = n;
+        s.Serie.SerieP.Dimensiona(n);
+        s.Serie.SerieD.Dimensiona(n);
+        s.Serie.SerieR.Dimensiona(n);
         for (int i = 1; i <= n; ++i) {
             const Tormenta& t = tormentas[static_cast<std::size_t>(i) - 1];
-            s.SerieP(i) = t.P;
-            s.SerieD(i) = t.D;
-            s.SerieR(i) = t.R;
+            s.Serie.SerieP(i) = t.P;
+            s.Serie.SerieD(i) = t.D;
+            s.Serie.SerieR(i) = t.R;
         }
     }
     void LlenaResultados()
     {
-        s.QMax.Dimensiona(s.NroComponentes, s.NroSeriePDR);
-        s.EscUEH.Dimensiona(s.NroUEHs, s.NroSeriePDR);
-        s.CoefEscUEH.Dimensiona(s.NroUEHs, s.NroSeriePDR);
-        s.EscTotal.Dimensiona(s.NroSeriePDR);
-        s.CoefEscTotal.Dimensiona(s.NroSeriePDR);
-        for (int n = 1; n <= s.NroSeriePDR; ++n) {
+        s.Resultados.QMax.Dimensiona(s.Resultados.NroComponentes, s.Serie.NroSeriePDR);
+        s.Resultados.EscUEH.Dimensiona(s.Red.NroUEHs, s.Serie.NroSeriePDR);
+        s.Resultados.CoefEscUEH.Dimensiona(s.Red.NroUEHs, s.Serie.NroSeriePDR);
+        s.Resultados.EscTotal.Dimensiona(s.Serie.NroSeriePDR);
+        s.Resultados.CoefEscTotal.Dimensiona(s.Serie.NroSeriePDR);
+        for (int n = 1; n <= s.Serie.NroSeriePDR; ++n) {
             const auto octavos = static_cast<float>(n) / 8;
-            for (int c = 1; c <= s.NroComponentes; ++c)
-                s.QMax(c, n) = static_cast<float>(10 * c + n) + 0.125F;
-            for (int c = 1; c <= s.NroUEHs; ++c) {
-                s.EscUEH(c, n) = 1000 * c + n;
-                s.CoefEscUEH(c, n) = static_cast<float>(40 + c) + octavos;
+            for (int c = 1; c <= s.Resultados.NroComponentes; ++c)
+                s.Resultados.QMax(c, n) = static_cast<float>(10 * c + n) + 0.125F;
+            for (int c = 1; c <= s.Red.NroUEHs; ++c) {
+                s.Resultados.EscUEH(c, n) = 1000 * c + n;
+                s.Resultados.CoefEscUEH(c, n) = static_cast<float>(40 + c) + octavos;
             }
-            s.EscTotal(n) = 5000 + n;
-            s.CoefEscTotal(n) = 50 + octavos;
+            s.Resultados.EscTotal(n) = 5000 + n;
+            s.Resultados.CoefEscTotal(n) = 50 + octavos;
         }
     }
     /// The box of a duration or a recurrence, by its place in the configuration.

@@ -16,7 +16,7 @@ class Filtro : public pruebas::SerieDePrueba {
     bool Excluye(float P, std::int16_t D, std::int16_t R, bool antes = false)
     {
         Carga({{P, D, R}});
-        s.IndSerie = 1;
+        s.Serie.IndSerie = 1;
         bool excluida = antes;
         FiltroTormenta(s, excluida);
         return excluida;
@@ -25,12 +25,12 @@ class Filtro : public pruebas::SerieDePrueba {
 
 TEST_F(Filtro, TomaLaTormentaComoLaDeMano)
 {
-    s.IndSerie = 3;
+    s.Serie.IndSerie = 3;
     bool excluida = true;
     FiltroTormenta(s, excluida);
-    EXPECT_EQ(s.PpTormenta, 25);
-    EXPECT_EQ(s.DurTormenta, 60);
-    EXPECT_EQ(s.RecTormenta, 25);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 25);
+    EXPECT_EQ(s.Tormenta.DurTormenta, 60);
+    EXPECT_EQ(s.Tormenta.RecTormenta, 25);
     EXPECT_FALSE(excluida);
 }
 
@@ -38,7 +38,7 @@ TEST_F(Filtro, CadaDuracionSigueASuCasilla)
 {
     constexpr std::array<std::int16_t, 17> duraciones = {5,   10,  15,  20,  30,  60,   90,   120, 180,
                                                          240, 300, 360, 540, 720, 1080, 1440, 2880};
-    s.PasoPp = 1;
+    s.Pasos.PasoPp = 1;
     for (std::size_t i = 0; i < duraciones.size(); ++i) {
         s.frmConfigura.CheckD.fill(1);
         EXPECT_FALSE(Excluye(10, duraciones[i], 10)) << duraciones[i];
@@ -82,7 +82,7 @@ TEST_F(Filtro, TildadaEsSoloLaCasillaQueValeUno)
 
 TEST_F(Filtro, DejaFueraLaDuracionMenorQueElPaso)
 {
-    s.PasoPp = 45;
+    s.Pasos.PasoPp = 45;
     EXPECT_TRUE(Excluye(10, 44, 10));
     EXPECT_FALSE(Excluye(10, 45, 10));
     EXPECT_FALSE(Excluye(10, 46, 10));
@@ -91,18 +91,18 @@ TEST_F(Filtro, DejaFueraLaDuracionMenorQueElPaso)
 // A run goes by the flags, and the reader leaves that of R 5000 off; these windows go by the boxes.
 TEST_F(Filtro, MiraLasCasillasYNoLasBanderas)
 {
-    s.CheckD.fill(0);
-    s.CheckR.fill(0);
+    s.Configuracion.CheckD.fill(0);
+    s.Configuracion.CheckR.fill(0);
     EXPECT_FALSE(Excluye(10, 60, 5000));
-    s.CheckD.fill(1);
-    s.CheckR.fill(1);
+    s.Configuracion.CheckD.fill(1);
+    s.Configuracion.CheckR.fill(1);
     DestildaR(12);
     EXPECT_TRUE(Excluye(10, 60, 5000));
 }
 
 TEST_F(Filtro, SinLaminaOSinDuracionConservaLoQueDecia)
 {
-    s.PasoPp = 45;  // a duration of 0 is below it and doesn't count
+    s.Pasos.PasoPp = 45;  // a duration of 0 is below it and doesn't count
     for (const bool antes : {false, true}) {
         EXPECT_EQ(Excluye(0, 60, 10, antes), antes);
         EXPECT_EQ(Excluye(10, 0, 10, antes), antes);
@@ -112,22 +112,22 @@ TEST_F(Filtro, SinLaminaOSinDuracionConservaLoQueDecia)
 
 TEST_F(Filtro, FueraDeLaSerieEsFalla9)
 {
-    s.IndSerie = 5;
+    s.Serie.IndSerie = 5;
     bool excluida = false;
     EXPECT_EQ(apoyo::NumeroDeFalla([&] { FiltroTormenta(s, excluida); }), 9);
 }
 
 TEST_F(Filtro, UnResultadoFueraDeLosArreglosNoEsta)
 {
-    EXPECT_EQ(Resultado(s.EscUEH, 2, 4), 2004);
-    EXPECT_EQ(Resultado(s.EscUEH, 3, 4), std::nullopt);
-    EXPECT_EQ(Resultado(s.EscUEH, -1, 4), std::nullopt);
-    EXPECT_EQ(Resultado(s.EscUEH, 2, 5), std::nullopt);
-    EXPECT_EQ(Resultado(s.EscUEH, 2, -1), std::nullopt);
-    EXPECT_EQ(Resultado(s.EscTotal, 4), 5004);
-    EXPECT_EQ(Resultado(s.EscTotal, 5), std::nullopt);
-    EXPECT_EQ(Resultado(s.EscTotal, -1), std::nullopt);
-    EXPECT_EQ(Resultado(model::Siro{}.QMax, 0, 0), std::nullopt);
+    EXPECT_EQ(Resultado(s.Resultados.EscUEH, 2, 4), 2004);
+    EXPECT_EQ(Resultado(s.Resultados.EscUEH, 3, 4), std::nullopt);
+    EXPECT_EQ(Resultado(s.Resultados.EscUEH, -1, 4), std::nullopt);
+    EXPECT_EQ(Resultado(s.Resultados.EscUEH, 2, 5), std::nullopt);
+    EXPECT_EQ(Resultado(s.Resultados.EscUEH, 2, -1), std::nullopt);
+    EXPECT_EQ(Resultado(s.Resultados.EscTotal, 4), 5004);
+    EXPECT_EQ(Resultado(s.Resultados.EscTotal, 5), std::nullopt);
+    EXPECT_EQ(Resultado(s.Resultados.EscTotal, -1), std::nullopt);
+    EXPECT_EQ(Resultado(model::Siro{}.Resultados.QMax, 0, 0), std::nullopt);
 }
 
 }  // namespace

@@ -261,7 +261,7 @@ TEST_F(TablasDeSerie, UnaTablaVaciaSeImprimeEnUnaHoja)
 {
     apoyo::ImpresoraDePrueba impresora;
     entorno.Impresora = impresora.Puerta();
-    s.NroComponentes = 0;
+    s.Resultados.NroComponentes = 0;
     ventana.Abre();
     Pulsa(Control<QPushButton>(ventana, "cmdImprimir"));
     EXPECT_EQ(impresora.Paginas(), 1);
@@ -274,7 +274,7 @@ TEST_F(TablasDeSerie, LaDeUnComponenteLlevaSuNombreEnArchivosYPapel)
     entorno.Impresora = impresora.Puerta();
     disco.PonDirectorio("/salida");
     anfitrion->elegidos = {"/salida/t.csv"};
-    s.IndComp = 3;
+    s.Control.IndComp = 3;
     deUno.Abre();
     EligeDelMenu(deUno, 6, 2, "mnuGuardaCsv");
     const char* const nombre =
@@ -297,7 +297,7 @@ TEST_F(TablasDeSerie, SeCierraConElBotonYConElMarco)
 
 TEST_F(TablasDeSerie, LaTablaDeUnComponenteSigueALaLista)
 {
-    s.IndComp = 2;
+    s.Control.IndComp = 2;
     deUno.Abre();
     auto& lista = Control<forms::ListaParaElegir>(deUno, "lstCompos");
     ASSERT_EQ(lista.count(), 3);
@@ -327,7 +327,7 @@ TEST_F(TablasDeSerie, ElTabRecorreLaDeUnComponenteEnElOrdenDeLectura)
 
 TEST_F(TablasDeSerie, SinComponentesLaDeUnComponenteNoSeAbre)
 {
-    s.NroComponentes = 0;
+    s.Resultados.NroComponentes = 0;
     deUno.Abre();
     EXPECT_FALSE(deUno.isVisible());
     ventana.Abre();

@@ -60,16 +60,16 @@ class GraficoPp : public testing::Test {
     {
         s.Anfitrion = anfitrion.Puerta();
         s.Disco = disco.Puerta();
-        s.DirTrabajo = "/trabajo";
-        s.TituloProyecto = "Arroyo de prueba";
-        s.PpTormenta = 100;
-        s.DurTormenta = 180;
-        s.DistriPp = 1;
-        s.PpReal.Redimensiona(3);
-        s.PpReal(1) = 20;
-        s.PpReal(2) = 60;
-        s.PpReal(3) = 20;
-        s.NroPpReal = 3;
+        s.Proyecto.DirTrabajo = "/trabajo";
+        s.Configuracion.TituloProyecto = "Arroyo de prueba";
+        s.Tormenta.PpTormenta = 100;
+        s.Tormenta.DurTormenta = 180;
+        s.Tormenta.DistriPp = 1;
+        s.Tormenta.PpReal.Redimensiona(3);
+        s.Tormenta.PpReal(1) = 20;
+        s.Tormenta.PpReal(2) = 60;
+        s.Tormenta.PpReal(3) = 20;
+        s.Tormenta.NroPpReal = 3;
     }
     Hietograma TresBloques() const { return {3, 50, "Temporal", 100, 180}; }
 
@@ -124,7 +124,7 @@ TEST_F(GraficoPp, SinBloquesNoPasaNada)
 
 TEST_F(GraficoPp, EnUnaSerieSeCierraAlAbrir)
 {
-    s.FormaPp = 2;
+    s.Tormenta.FormaPp = 2;
     Muestra(f, s, TresBloques());
     EXPECT_FALSE(f.abierta);
     EXPECT_TRUE(f.Grafico.categorias.empty());
@@ -148,7 +148,7 @@ TEST_F(GraficoPp, UnBloqueQueYaNoEstaSeDiceYElGraficoQueda)
 {
     Muestra(f, s, TresBloques());
     const Grafico antes = f.Grafico;
-    s.PpReal.Redimensiona(2);
+    s.Tormenta.PpReal.Redimensiona(2);
     cmdHsMin(f, s);
     EXPECT_EQ(anfitrion->Avisos(),
               (std::vector<Mensaje>{
@@ -160,8 +160,8 @@ TEST_F(GraficoPp, UnBloqueQueYaNoEstaSeDiceYElGraficoQueda)
 
 TEST_F(GraficoPp, ElMenuConstruyeElHietogramaConElPasoDeLosBloques)
 {
-    s.NroPpReal = 0;
-    s.PasoPp = 10;
+    s.Tormenta.NroPpReal = 0;
+    s.Pasos.PasoPp = 10;
     const auto pedido = mnuGraficoPp(s, "notas");
     ASSERT_TRUE(pedido);
     EXPECT_EQ(*pedido, (Hietograma{3, 60, "Arroyo de prueba", 100, 180}));  // 180 min in 3 blocks
@@ -170,8 +170,8 @@ TEST_F(GraficoPp, ElMenuConstruyeElHietogramaConElPasoDeLosBloques)
 
 TEST_F(GraficoPp, ElTituloDeUnaTormentaRealSonSusNotas)
 {
-    s.FormaPp = 4;
-    s.PasoPp = 60;
+    s.Tormenta.FormaPp = 4;
+    s.Pasos.PasoPp = 60;
     const auto pedido = mnuGraficoPp(s, "Temporal");
     ASSERT_TRUE(pedido);
     EXPECT_EQ(*pedido, (Hietograma{3, 60, "Temporal", 100, 180}));
@@ -179,10 +179,10 @@ TEST_F(GraficoPp, ElTituloDeUnaTormentaRealSonSusNotas)
 
 TEST_F(GraficoPp, SinTormentaElMenuCalla)
 {
-    s.PpTormenta = 0;
+    s.Tormenta.PpTormenta = 0;
     EXPECT_FALSE(mnuGraficoPp(s, ""));
-    s.PpTormenta = 100;
-    s.DurTormenta = 0;
+    s.Tormenta.PpTormenta = 100;
+    s.Tormenta.DurTormenta = 0;
     EXPECT_FALSE(mnuGraficoPp(s, ""));
     EXPECT_TRUE(anfitrion->sucesos.empty());
 }
@@ -191,18 +191,18 @@ TEST_F(GraficoPp, LosBloquesDeMedioMinutoNoSeMuestran)
 {
     // A real storm of 1 min in two blocks needs no table: the test looks at the quotient alone. 1/2 goes to
     // 0, the even whole number; 3/2 to 2.
-    s.DurTormenta = 1;
-    s.NroPpReal = 2;
+    s.Tormenta.DurTormenta = 1;
+    s.Tormenta.NroPpReal = 2;
     EXPECT_FALSE(HayTormentaConBloques(s));
-    s.DurTormenta = 3;
+    s.Tormenta.DurTormenta = 3;
     EXPECT_TRUE(HayTormentaConBloques(s));
-    s.NroPpReal = 0;
+    s.Tormenta.NroPpReal = 0;
     EXPECT_FALSE(HayTormentaConBloques(s));
 }
 
 TEST_F(GraficoPp, ConLaPizarraAbiertaElMenuLaTraeAlFrente)
 {
-    s.SalidaPizarra = true;
+    s.Control.SalidaPizarra = true;
     ASSERT_TRUE(mnuGraficoPp(s, ""));
     EXPECT_EQ(anfitrion->pizarrasAbiertas, 1);
     EXPECT_TRUE(anfitrion->pizarra.starts_with("\r\nEntrada: PRECIPITACION"));

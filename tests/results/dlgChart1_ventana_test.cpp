@@ -20,10 +20,10 @@ using forms::DeQ;
 struct VentanaHietograma : testing::Test {
     VentanaHietograma()
     {
-        mundo.s.PpReal.Dimensiona(3);
-        mundo.s.PpReal(1) = 5;
-        mundo.s.PpReal(2) = 20;
-        mundo.s.PpReal(3) = 10;
+        mundo.s.Tormenta.PpReal.Dimensiona(3);
+        mundo.s.Tormenta.PpReal(1) = 5;
+        mundo.s.Tormenta.PpReal(2) = 20;
+        mundo.s.Tormenta.PpReal(3) = 10;
     }
     void Abre()
     {
@@ -58,7 +58,7 @@ TEST_F(VentanaHietograma, TodoTieneNombreYSuLeyenda)
 
 TEST_F(VentanaHietograma, EnUnaSerieSeCierraSola)
 {
-    mundo.s.FormaPp = 2;
+    mundo.s.Tormenta.FormaPp = 2;
     ventana.Abre();
     EXPECT_FALSE(ventana.isVisible());
     ventana.Muestra(Hietograma{3, 50, "t", 35, 150});
@@ -68,7 +68,7 @@ TEST_F(VentanaHietograma, EnUnaSerieSeCierraSola)
 TEST_F(VentanaHietograma, OtroPedidoSeMuestraEnLaMismaVentana)
 {
     Abre();
-    mundo.s.PpReal(3) = 40;
+    mundo.s.Tormenta.PpReal(3) = 40;
     ventana.Muestra(Hietograma{3, 10, "otra", 65, 30});
     EXPECT_EQ(Descripcion(), "3 filas. Precipitación: máximo 40 mm en 30 minutos.");
 }

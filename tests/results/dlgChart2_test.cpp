@@ -38,46 +38,46 @@ class GraficoQ : public testing::Test {
     {
         s.Anfitrion = anfitrion.Puerta();
         s.Disco = disco.Puerta();
-        s.Secuencia = {"", "u-1", "c-1", "l-1", "r-2"};
-        s.NroComponentes = 4;
-        s.NroUEHs = s.NroCauces = s.NroLagos = 1;
-        s.NroRepresas = 2;
-        s.ColRepresas.Agrega({.NombreRepresa = "r-1", .numRepresa = 1});
-        s.ColRepresas.Agrega({.NombreRepresa = "r-2", .numRepresa = 2});
-        s.ColLagos.Agrega({.NombreLAGO = "l-1", .numLAGO = 1});
-        s.Salidas[1] = "r-2";
-        s.NroSalidas = 1;
-        s.PpTormenta = 30;
-        s.DurTormenta = 30;
-        s.PasoPp = 20;
-        s.PasoQ = 10;
-        s.NroPasosQ = 5;
-        s.NroPpReal = 1;
+        s.Resultados.Secuencia = {"", "u-1", "c-1", "l-1", "r-2"};
+        s.Resultados.NroComponentes = 4;
+        s.Red.NroUEHs = s.Red.NroCauces = s.Red.NroLagos = 1;
+        s.Red.NroRepresas = 2;
+        s.Red.ColRepresas.Agrega({.NombreRepresa = "r-1", .numRepresa = 1});
+        s.Red.ColRepresas.Agrega({.NombreRepresa = "r-2", .numRepresa = 2});
+        s.Red.ColLagos.Agrega({.NombreLAGO = "l-1", .numLAGO = 1});
+        s.Resultados.Salidas[1] = "r-2";
+        s.Resultados.NroSalidas = 1;
+        s.Tormenta.PpTormenta = 30;
+        s.Tormenta.DurTormenta = 30;
+        s.Pasos.PasoPp = 20;
+        s.Pasos.PasoQ = 10;
+        s.Resultados.NroPasosQ = 5;
+        s.Tormenta.NroPpReal = 1;
         LlenaResultados();
     }
     /// At step i: outflow of row c, c + i/8; inflow 10c + i; heights 100 + i and 200 + i.
     void LlenaResultados()
     {
-        s.QSale.Dimensiona(4, 6);
-        s.QEntra.Dimensiona(2, 5, 6);
-        s.PpUEHPaso.Dimensiona(1, 4);
-        s.HRepresa.Dimensiona(2, 6);
-        s.HLago.Dimensiona(1, 6);
+        s.Resultados.QSale.Dimensiona(4, 6);
+        s.Resultados.QEntra.Dimensiona(2, 5, 6);
+        s.Resultados.PpUEHPaso.Dimensiona(1, 4);
+        s.Resultados.HRepresa.Dimensiona(2, 6);
+        s.Resultados.HLago.Dimensiona(1, 6);
         for (int i = 1; i <= 5; ++i) {
             for (int c = 1; c <= 4; ++c)
-                s.QSale(c, i) = static_cast<float>(c) + static_cast<float>(i) / 8;
+                s.Resultados.QSale(c, i) = static_cast<float>(c) + static_cast<float>(i) / 8;
             for (int c = 2; c <= 4; ++c)
-                s.QEntra(c, i) = static_cast<float>(10 * c + i);
-            s.HRepresa(2, i) = static_cast<float>(100 + i);
-            s.HLago(1, i) = static_cast<float>(200 + i);
+                s.Resultados.QEntra(c, i) = static_cast<float>(10 * c + i);
+            s.Resultados.HRepresa(2, i) = static_cast<float>(100 + i);
+            s.Resultados.HLago(1, i) = static_cast<float>(200 + i);
         }
-        s.PpUEHPaso(1, 1) = 20;
-        s.PpUEHPaso(1, 2) = 10;
-        s.PpUEHPaso(1, 3) = 8;  // beyond the rows that may show it
+        s.Resultados.PpUEHPaso(1, 1) = 20;
+        s.Resultados.PpUEHPaso(1, 2) = 10;
+        s.Resultados.PpUEHPaso(1, 3) = 8;  // beyond the rows that may show it
     }
     void AbreEn(std::int16_t componente)
     {
-        s.IndComp = componente;
+        s.Control.IndComp = componente;
         OKButton(f);
         Abre(f, s);
     }
@@ -141,9 +141,9 @@ TEST_F(GraficoQ, UnaRepresaTomaSuNivelPorSuNumero)
 
 TEST_F(GraficoQ, LoQueSaleSeRedondeaA3DecimalesYLoQueEntraNo)
 {
-    s.QSale(2, 1) = 1.23456F;
-    s.QSale(2, 2) = 0.0004F;
-    s.QEntra(2, 1) = 1.23456F;
+    s.Resultados.QSale(2, 1) = 1.23456F;
+    s.Resultados.QSale(2, 2) = 0.0004F;
+    s.Resultados.QEntra(2, 1) = 1.23456F;
     AbreEn(2);
     EXPECT_EQ(SerieNro(1).celdas[0], double{1.235F});
     EXPECT_EQ(SerieNro(1).celdas[1], 0);
@@ -166,9 +166,9 @@ TEST_F(GraficoQ, AbreEnHorasYLaPrimeraFilaEstaUnPasoDespuesDelComienzo)
 
 TEST_F(GraficoQ, ConPasosIgualesCadaFilaEsLaLluviaDelPaso)
 {
-    s.PasoPp = 10;
-    s.PpUEHPaso(1, 3) = 7;
-    s.PpUEHPaso(1, 4) = 9;
+    s.Pasos.PasoPp = 10;
+    s.Resultados.PpUEHPaso(1, 3) = 7;
+    s.Resultados.PpUEHPaso(1, 4) = 9;
     AbreEn(1);
     // Rows below 30 + 10 min.
     EXPECT_EQ(SerieNro(2).celdas, (Celdas{20, 10, 7, 0, 0}));
@@ -184,7 +184,7 @@ TEST_F(GraficoQ, PasosQueNoSonMultiplosSeDicenYNoSeDibuja)
     const Grafico antes = f.Grafico;
     for (const auto paso : std::to_array<std::int16_t>({15, 5})) {  // 1.5 and the reverse, 0.5
         anfitrion->sucesos.clear();
-        s.PasoPp = paso;
+        s.Pasos.PasoPp = paso;
         Redibuja(f, s);
         EXPECT_EQ(anfitrion->Avisos(), (std::vector<Mensaje>{mensaje}));
         EXPECT_EQ(f.Grafico, antes);
@@ -195,7 +195,7 @@ TEST_F(GraficoQ, UnPasoDeSalidaEnCeroEsUnaFallaYElGraficoQueda)
 {
     AbreEn(2);
     const Grafico antes = f.Grafico;
-    s.PasoQ = 0;
+    s.Pasos.PasoQ = 0;
     Redibuja(f, s);
     EXPECT_EQ(anfitrion->Avisos(),
               (std::vector<Mensaje>{{"Error Nro. 11 ,División por ceroVerifique", "", Icono::Ninguno}}));
@@ -204,8 +204,8 @@ TEST_F(GraficoQ, UnPasoDeSalidaEnCeroEsUnaFallaYElGraficoQueda)
 
 TEST_F(GraficoQ, UnNombreSinObjetoSeMuestraSinNivel)
 {
-    s.ColRepresas.Vacia();  // another project was opened since
-    s.ColLagos.Vacia();
+    s.Red.ColRepresas.Vacia();  // another project was opened since
+    s.Red.ColLagos.Vacia();
     for (const auto componente : std::to_array<std::int16_t>({3, 4})) {
         AbreEn(componente);
         ASSERT_EQ(f.Grafico.series.size(), 3U);
@@ -217,7 +217,7 @@ TEST_F(GraficoQ, UnNombreSinObjetoSeMuestraSinNivel)
 
 TEST_F(GraficoQ, UnNombreSinPrefijoMuestraSoloSuCaudal)
 {
-    s.Secuencia[2] = "x-9";
+    s.Resultados.Secuencia[2] = "x-9";
     AbreEn(2);
     ASSERT_EQ(f.Grafico.series.size(), 1U);
     EXPECT_EQ(SerieNro(1).celdas[0], 2.125);
@@ -226,8 +226,8 @@ TEST_F(GraficoQ, UnNombreSinPrefijoMuestraSoloSuCaudal)
 TEST_F(GraficoQ, UnaSecuenciaMasCortaQueSuCuentaEsUnaFallaYNoMas)
 {
     AbreEn(1);
-    s.Secuencia.resize(2);
-    s.IndComp = 4;
+    s.Resultados.Secuencia.resize(2);
+    s.Control.IndComp = 4;
     Redibuja(f, s);
     EXPECT_EQ(anfitrion->Avisos(),
               (std::vector<Mensaje>{
@@ -245,7 +245,7 @@ TEST_F(GraficoQ, ElTituloDiceElComponenteYLaTormenta)
 
 TEST_F(GraficoQ, ElTituloDeUnaSalidaConRecurrencia)
 {
-    s.RecTormenta = 25;
+    s.Tormenta.RecTormenta = 25;
     AbreEn(4);
     EXPECT_EQ(f.lblTitulo,
               "Componente Final: 4, r-2   Pp= 30mm;  D= 30 min ;   Recurrencia = 25 años   paso = 10 min");
@@ -253,7 +253,7 @@ TEST_F(GraficoQ, ElTituloDeUnaSalidaConRecurrencia)
 
 TEST_F(GraficoQ, UnaSalidaMasAllaDeSuCuentaNoEsFinal)
 {
-    s.NroSalidas = 0;
+    s.Resultados.NroSalidas = 0;
     AbreEn(4);
     EXPECT_TRUE(f.lblTitulo.starts_with("Componente: 4, r-2"));
 }
@@ -262,7 +262,7 @@ TEST_F(GraficoQ, UnaSalidaMasAllaDeSuCuentaNoEsFinal)
 
 TEST_F(GraficoQ, AlAbrirLlenaLaListaYLosDeslizadores)
 {
-    s.PpTormenta = 62.5F;
+    s.Tormenta.PpTormenta = 62.5F;
     AbreEn(2);
     EXPECT_TRUE(f.abierta);
     EXPECT_EQ(f.lstCompos, (Textos{"u-1", "c-1", "l-1", "r-2"}));
@@ -276,13 +276,13 @@ TEST_F(GraficoQ, AlAbrirLlenaLaListaYLosDeslizadores)
 
 TEST_F(GraficoQ, LosDeslizadoresNoSalenDeSusTopes)
 {
-    s.PpTormenta = 1200;
-    s.DurTormenta = 3;
+    s.Tormenta.PpTormenta = 1200;
+    s.Tormenta.DurTormenta = 3;
     AbreEn(2);
     EXPECT_EQ(f.sldPp.valor, 999);
     EXPECT_EQ(f.sldDur.valor, 5);
-    EXPECT_EQ(s.DurTormenta, 3);  // nothing ran
-    s.DurTormenta = 2881;
+    EXPECT_EQ(s.Tormenta.DurTormenta, 3);  // nothing ran
+    s.Tormenta.DurTormenta = 2881;
     AbreEn(2);
     EXPECT_EQ(f.sldDur.valor, 2880);
 }
@@ -291,12 +291,12 @@ TEST_F(GraficoQ, UnComponenteFueraDeLaListaEsElPrimero)
 {
     for (const auto componente : std::to_array<std::int16_t>({-1, 0, 5})) {
         AbreEn(componente);
-        EXPECT_EQ(s.IndComp, 1) << componente;
+        EXPECT_EQ(s.Control.IndComp, 1) << componente;
         EXPECT_EQ(f.lstComposIndice, 0);
         EXPECT_TRUE(f.lblTitulo.starts_with("Componente: 1, u-1"));
     }
     AbreEn(4);
-    EXPECT_EQ(s.IndComp, 4);
+    EXPECT_EQ(s.Control.IndComp, 4);
 }
 
 TEST_F(GraficoQ, UnaCorridaNuevaNoRefrescaLaVentanaAbiertaSinoPorSusMandos)
@@ -304,8 +304,8 @@ TEST_F(GraficoQ, UnaCorridaNuevaNoRefrescaLaVentanaAbiertaSinoPorSusMandos)
     AbreEn(1);
     cmdHsMin(f, s);
     const Grafico antes = f.Grafico;
-    s.PpTormenta = 99;
-    s.QSale(1, 1) = 12345;
+    s.Tormenta.PpTormenta = 99;
+    s.Resultados.QSale(1, 1) = 12345;
     Abre(f, s);
     EXPECT_EQ(f.Grafico, antes);
     EXPECT_TRUE(f.MinutosEjeX);
@@ -316,15 +316,15 @@ TEST_F(GraficoQ, UnaCorridaNuevaNoRefrescaLaVentanaAbiertaSinoPorSusMandos)
 
 TEST_F(GraficoQ, SeCierraAlAbrirSinResultadosSinComponentesOEnUnaSerie)
 {
-    s.NroPasosQ = 0;
+    s.Resultados.NroPasosQ = 0;
     AbreEn(1);
     EXPECT_FALSE(f.abierta);
-    s.NroPasosQ = 5;
-    s.FormaPp = 2;
+    s.Resultados.NroPasosQ = 5;
+    s.Tormenta.FormaPp = 2;
     AbreEn(1);
     EXPECT_FALSE(f.abierta);
-    s.FormaPp = 0;
-    s.NroComponentes = 0;
+    s.Tormenta.FormaPp = 0;
+    s.Resultados.NroComponentes = 0;
     AbreEn(1);
     EXPECT_FALSE(f.abierta);
     EXPECT_TRUE(f.Grafico.series.empty());
@@ -336,21 +336,21 @@ TEST_F(GraficoQ, ElegirUnComponenteLoDibuja)
     AbreEn(1);
     f.lstComposIndice = 3;
     lstCompos_Click(f, s);
-    EXPECT_EQ(s.IndComp, 4);
+    EXPECT_EQ(s.Control.IndComp, 4);
     EXPECT_TRUE(f.lblTitulo.starts_with("Componente Final: 4, r-2"));
     f.lstComposIndice = -1;
     lstCompos_Click(f, s);
-    EXPECT_EQ(s.IndComp, 4);
+    EXPECT_EQ(s.Control.IndComp, 4);
 }
 
 TEST_F(GraficoQ, ElegirConMenosComponentesQuedaEnElUltimo)
 {
     AbreEn(1);
-    s.NroComponentes = 3;
+    s.Resultados.NroComponentes = 3;
     f.lstComposIndice = 3;
     lstCompos_Click(f, s);
-    EXPECT_EQ(s.IndComp, 3);
-    s.NroComponentes = 0;
+    EXPECT_EQ(s.Control.IndComp, 3);
+    s.Resultados.NroComponentes = 0;
     lstCompos_Click(f, s);
     EXPECT_FALSE(f.abierta);
 }
@@ -358,7 +358,7 @@ TEST_F(GraficoQ, ElegirConMenosComponentesQuedaEnElUltimo)
 TEST_F(GraficoQ, RedibujarSinPasosCierra)
 {
     AbreEn(1);
-    s.NroPasosQ = 0;
+    s.Resultados.NroPasosQ = 0;
     Redibuja(f, s);
     EXPECT_FALSE(f.abierta);
 }
@@ -366,7 +366,7 @@ TEST_F(GraficoQ, RedibujarSinPasosCierra)
 TEST_F(GraficoQ, DesdeLaForma2EnAdelanteNoHayDeslizadores)
 {
     for (const auto forma : std::to_array<std::int16_t>({0, 1, 3, 4})) {
-        s.FormaPp = forma;
+        s.Tormenta.FormaPp = forma;
         AbreEn(1);
         EXPECT_EQ(f.vista.deslizadores, forma <= 1) << forma;
     }
@@ -387,7 +387,7 @@ TEST_F(GraficoQ, DividirElEjeXDuplicaLasDivisionesYSobreviveAlRedibujo)
 
 TEST_F(GraficoQ, ImprimirOcultaLosMandosYLosDevuelve)
 {
-    s.FormaPp = 4;  // its sliders are hidden and must stay so
+    s.Tormenta.FormaPp = 4;  // its sliders are hidden and must stay so
     AbreEn(1);
     const VistaChart2 antes = f.vista;
     AntesDeImprimir(f);
@@ -402,20 +402,20 @@ TEST_F(GraficoQ, ImprimirOcultaLosMandosYLosDevuelve)
 
 TEST_F(GraficoQ, ElMenuPideTormentaBloquesYPasos)
 {
-    s.IndComp = 9;
+    s.Control.IndComp = 9;
     EXPECT_TRUE(mnuHidrogramas(s));
-    EXPECT_EQ(s.IndComp, 1);
+    EXPECT_EQ(s.Control.IndComp, 1);
     EXPECT_EQ(anfitrion->pizarrasAbiertas, 0);
-    s.SalidaPizarra = true;
+    s.Control.SalidaPizarra = true;
     EXPECT_TRUE(mnuHidrogramas(s));
     EXPECT_EQ(anfitrion->pizarrasAbiertas, 1);
-    for (const auto campo : {&Siro::NroPasosQ, &Siro::NroPpReal, &Siro::DurTormenta}) {
-        const std::int16_t antes = s.*campo;
-        s.*campo = 0;
+    for (std::int16_t* campo : {&s.Resultados.NroPasosQ, &s.Tormenta.NroPpReal, &s.Tormenta.DurTormenta}) {
+        const std::int16_t antes = *campo;
+        *campo = 0;
         EXPECT_FALSE(mnuHidrogramas(s));
-        s.*campo = antes;
+        *campo = antes;
     }
-    s.PpTormenta = 0;
+    s.Tormenta.PpTormenta = 0;
     EXPECT_FALSE(mnuHidrogramas(s));
 }
 
@@ -457,7 +457,7 @@ TEST_F(Deslizadores, ElDeLaDuracionCorreDeNuevoConEsaDuracion)
     ASSERT_EQ(Caudal(4), (Celdas{2, 2, 2, 0}));
     ASSERT_EQ(Lluvia(4), (Celdas{20, 20, 20, 0}));
     sldDur_Mueve(f, s, 60);
-    EXPECT_EQ(s.DurTormenta, 60);
+    EXPECT_EQ(s.Tormenta.DurTormenta, 60);
     EXPECT_EQ(f.sldDur.valor, 60);
     // 10 mm in each of six steps; 60 + 20 min are eight rows.
     EXPECT_EQ(f.Grafico.categorias.size(), 8U);
@@ -470,7 +470,7 @@ TEST_F(Deslizadores, ElDeLaLluviaCorreDeNuevoConEsaLluvia)
 {
     Corre();
     sldPp_Mueve(f, s, 120);
-    EXPECT_EQ(s.PpTormenta, 120);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 120);
     EXPECT_EQ(Caudal(4), (Celdas{4, 4, 4, 0}));
     EXPECT_EQ(Lluvia(4), (Celdas{40, 40, 40, 0}));
 }
@@ -480,14 +480,14 @@ TEST_F(Deslizadores, ElDeLaLluviaVuelveAlPasoPp)
     Corre();
     sldPp_Mueve(f, s, 9);
     EXPECT_EQ(f.sldPp.valor, 10);
-    EXPECT_EQ(s.PpTormenta, 10);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 10);
     sldPp_Mueve(f, s, 10);
     EXPECT_EQ(f.sldPp.valor, 10);
     sldPp_Mueve(f, s, 11);
-    EXPECT_EQ(s.PpTormenta, 11);
-    s.PasoPp = s.PasoQ = 60;
+    EXPECT_EQ(s.Tormenta.PpTormenta, 11);
+    s.Pasos.PasoPp = s.Pasos.PasoQ = 60;
     sldPp_Mueve(f, s, 20);  // with steps of 60 min no storm of 20 mm
-    EXPECT_EQ(s.PpTormenta, 60);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 60);
     EXPECT_EQ(f.sldPp.valor, 60);
 }
 
@@ -495,17 +495,17 @@ TEST_F(Deslizadores, ElDeLaDuracionNoMiraElPasoPp)
 {
     Corre();
     sldDur_Mueve(f, s, 5);
-    EXPECT_EQ(s.DurTormenta, 5);  // below the model step of 10 min
+    EXPECT_EQ(s.Tormenta.DurTormenta, 5);  // below the model step of 10 min
     sldDur_Mueve(f, s, 4);
-    EXPECT_EQ(s.DurTormenta, 5);  // the slider's own end
+    EXPECT_EQ(s.Tormenta.DurTormenta, 5);  // the slider's own end
 }
 
 TEST_F(Deslizadores, UnaTormentaMasCortaQueElPasoPpLlueveEnRFilasALoSumo)
 {
     // Steps of 20 and 10 min, r = 2: the 60 mm fall in the first model step, half in each of its rows.
-    s.PasoPp = 20;
+    s.Pasos.PasoPp = 20;
     for (const auto duracion : std::to_array<std::int16_t>({5, 10, 15, 19})) {
-        s.DurTormenta = duracion;
+        s.Tormenta.DurTormenta = duracion;
         Corre();
         Celdas lluvia = f.Grafico.series.at(1).celdas;
         ASSERT_GE(lluvia.size(), 3U);
@@ -519,22 +519,22 @@ TEST_F(Deslizadores, UnaTormentaMasCortaQueElPasoPpLlueveEnRFilasALoSumo)
 TEST_F(Deslizadores, SinLluviaPeroConDuracionCorreYNoTermina)
 {
     Corre();
-    s.PpTormenta = 0;
+    s.Tormenta.PpTormenta = 0;
     sldDur_Mueve(f, s, 60);
     EXPECT_FALSE(red.anfitrion->Termino());
     EXPECT_EQ(Caudal(3), (Celdas{0, 0, 0}));
     // The slider itself reaches 0 with a model step of 0 only.
-    s.PasoPp = 0;
+    s.Pasos.PasoPp = 0;
     sldPp_Mueve(f, s, 0);
-    EXPECT_EQ(s.PpTormenta, 0);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 0);
     EXPECT_FALSE(red.anfitrion->Termino());
 }
 
 TEST_F(Deslizadores, SinLluviaNiDuracionElProgramaTermina)
 {
     Corre();
-    s.PasoPp = 0;
-    s.DurTormenta = 0;
+    s.Pasos.PasoPp = 0;
+    s.Tormenta.DurTormenta = 0;
     EXPECT_THROW(sldPp_Mueve(f, s, 0), model::FinDelPrograma);
     EXPECT_TRUE(red.anfitrion->Termino());
 }
@@ -542,11 +542,11 @@ TEST_F(Deslizadores, SinLluviaNiDuracionElProgramaTermina)
 TEST_F(Deslizadores, ConLaPizarraAbiertaSuTextoEmpiezaDeNuevoConInicia)
 {
     Corre();
-    s.SalidaPizarra = true;
+    s.Control.SalidaPizarra = true;
     red.anfitrion->pizarra = "la corrida anterior";
     sldDur_Mueve(f, s, 60);
     EXPECT_TRUE(red.anfitrion->pizarra.starts_with("inicia\r\nEntrada: PRECIPITACION"));
-    EXPECT_EQ(s.TextoPizarra, red.anfitrion->pizarra);
+    EXPECT_EQ(s.Control.TextoPizarra, red.anfitrion->pizarra);
 }
 
 TEST_F(Deslizadores, ConLaPizarraCerradaSuTextoQuedaYElArchivoSeEscribe)
@@ -581,11 +581,11 @@ TEST_F(Deslizadores, MuchosMovimientosDanLoMismoQueUnaCorridaSola)
     pruebas::RedDeUEHs otra;
     otra.PonUEH("u-1", "c-1");
     otra.PonCauce("c-1", "0");
-    otra.s.PpTormenta = 75;
-    otra.s.DurTormenta = 45;
+    otra.s.Tormenta.PpTormenta = 75;
+    otra.s.Tormenta.DurTormenta = 45;
     engine::ConstruyeHietograma(otra.s);
     ASSERT_TRUE(engine::ProcesoPrincipal(otra.s, false));
-    otra.s.IndComp = 2;
+    otra.s.Control.IndComp = 2;
     dlgChart2 g;
     Abre(g, otra.s);
     EXPECT_EQ(f.Grafico, g.Grafico);

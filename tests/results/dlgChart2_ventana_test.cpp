@@ -32,12 +32,12 @@ struct VentanaHidrogramas : testing::Test {
     {
         namespace fs = std::filesystem;
         fs::copy(SIRO_DATA_DIR, carpeta.Camino(), fs::copy_options::recursive);
-        mundo.s.DirTrabajo = mundo.s.DirEjecutable = carpeta.Camino().string();
+        mundo.s.Proyecto.DirTrabajo = mundo.s.Proyecto.DirEjecutable = carpeta.Camino().string();
         model::AbreProyectoDe(mundo.s, carpeta.Ruta("Proyectos/Quelmar_Conf.vlm"));
-        mundo.s.PpTormenta = 80;
-        mundo.s.DurTormenta = 120;
-        mundo.s.PasoPp = 10;
-        mundo.s.PasoQ = 5;
+        mundo.s.Tormenta.PpTormenta = 80;
+        mundo.s.Tormenta.DurTormenta = 120;
+        mundo.s.Pasos.PasoPp = 10;
+        mundo.s.Pasos.PasoQ = 5;
         EXPECT_TRUE(engine::CorreUnaTormenta(mundo.s));
         mundo.anfitrion->sucesos.clear();
     }
@@ -83,7 +83,7 @@ TEST_F(VentanaHidrogramas, SeAbreEnElPrimerComponenteConSusControles)
     EXPECT_EQ(DeQ(Pp().toolTip()), "Variador de Pp[mm]");
     EXPECT_EQ(DeQ(Control<QPushButton>(ventana, "cmdXmas").text()), "+DivideEjeX");
     EXPECT_EQ(DeQ(Control<QPushButton>(ventana, "cmdXmenos").text()), "-DivideEjeX");
-    EXPECT_EQ(Control<QListWidget>(ventana, "lstCompos").count(), mundo.s.NroComponentes);
+    EXPECT_EQ(Control<QListWidget>(ventana, "lstCompos").count(), mundo.s.Resultados.NroComponentes);
     EXPECT_EQ(Control<QListWidget>(ventana, "lstCompos").currentRow(), 0);
     EXPECT_NE(Descripcion().find(f.lblTitulo + ". "), std::string::npos);
 }
@@ -114,7 +114,7 @@ TEST_F(VentanaHidrogramas, CadaComponenteElegidoSeDibuja)
     ASSERT_TRUE(Elige("r-"));
     EXPECT_EQ(f.Grafico.series.size(), 3U);
     ASSERT_TRUE(Elige("l-"));
-    EXPECT_EQ(mundo.s.IndComp, Control<QListWidget>(ventana, "lstCompos").currentRow() + 1);
+    EXPECT_EQ(mundo.s.Control.IndComp, Control<QListWidget>(ventana, "lstCompos").currentRow() + 1);
 }
 
 TEST_F(VentanaHidrogramas, PulsarElComponenteElegidoLoDibujaDeNuevo)
@@ -122,7 +122,7 @@ TEST_F(VentanaHidrogramas, PulsarElComponenteElegidoLoDibujaDeNuevo)
     Abre();
     ASSERT_TRUE(Elige("u-"));
     EXPECT_TRUE(Pp().isVisible());
-    mundo.s.FormaPp = 3;  // settled elsewhere while the window is open
+    mundo.s.Tormenta.FormaPp = 3;  // settled elsewhere while the window is open
     ASSERT_TRUE(Elige("u-"));
     EXPECT_FALSE(Pp().isVisible());
     EXPECT_FALSE(Dur().isVisible());
@@ -151,13 +151,13 @@ TEST_F(VentanaHidrogramas, LasTeclasDelDeslizadorCorrenLaTormenta)
     Abre();
     Pp().setFocus();
     QTest::keyClick(&Pp(), Qt::Key_Right);
-    EXPECT_TRUE(Espera([&] { return mundo.s.PpTormenta == 81; }));
+    EXPECT_TRUE(Espera([&] { return mundo.s.Tormenta.PpTormenta == 81; }));
     EXPECT_NE(Texto("lblTitulo").find("Pp= 81mm"), std::string::npos);
     QTest::keyClick(&Pp(), Qt::Key_PageUp);
-    EXPECT_TRUE(Espera([&] { return mundo.s.PpTormenta == 86; }));
+    EXPECT_TRUE(Espera([&] { return mundo.s.Tormenta.PpTormenta == 86; }));
     Dur().setFocus();
     QTest::keyClick(&Dur(), Qt::Key_PageUp);
-    EXPECT_TRUE(Espera([&] { return mundo.s.DurTormenta == 125; }));
+    EXPECT_TRUE(Espera([&] { return mundo.s.Tormenta.DurTormenta == 125; }));
     EXPECT_EQ(Texto("lblValorDur"), "125 min");
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
@@ -165,13 +165,13 @@ TEST_F(VentanaHidrogramas, LasTeclasDelDeslizadorCorrenLaTormenta)
 TEST_F(VentanaHidrogramas, DeVariosMovimientosSeguidosSoloCuentaElUltimo)
 {
     Abre();
-    mundo.s.SalidaPizarra = true;
+    mundo.s.Control.SalidaPizarra = true;
     int corridas = 0;
     mundo.s.Anfitrion.PonPizarra = [&](std::string_view texto) { corridas += texto == "inicia"; };
     Pp().setFocus();
     for (int i = 0; i < 20; ++i)
         QTest::keyClick(&Pp(), Qt::Key_Right);
-    EXPECT_TRUE(Espera([&] { return mundo.s.PpTormenta == 100; }));
+    EXPECT_TRUE(Espera([&] { return mundo.s.Tormenta.PpTormenta == 100; }));
     EXPECT_LT(corridas, 20);
     EXPECT_EQ(Pp().value(), 100);
 }
@@ -179,14 +179,14 @@ TEST_F(VentanaHidrogramas, DeVariosMovimientosSeguidosSoloCuentaElUltimo)
 TEST_F(VentanaHidrogramas, ElPunteroEsperaDuranteLaCorridaYNoDespues)
 {
     Abre();
-    mundo.s.SalidaPizarra = true;
+    mundo.s.Control.SalidaPizarra = true;
     bool esperaba = false;
     mundo.s.Anfitrion.PonPizarra = [&](std::string_view) {
         esperaba = QGuiApplication::overrideCursor() != nullptr &&
                    QGuiApplication::overrideCursor()->shape() == Qt::WaitCursor;
     };
     QTest::keyClick(&Dur(), Qt::Key_Right);
-    EXPECT_TRUE(Espera([&] { return mundo.s.DurTormenta == 121; }));
+    EXPECT_TRUE(Espera([&] { return mundo.s.Tormenta.DurTormenta == 121; }));
     EXPECT_TRUE(esperaba);
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
@@ -195,14 +195,14 @@ TEST_F(VentanaHidrogramas, LaLluviaPorDebajoDelPasoVuelveAlPaso)
 {
     Abre();
     QTest::keyClick(&Pp(), Qt::Key_Home);
-    EXPECT_TRUE(Espera([&] { return mundo.s.PpTormenta == 10; }));
+    EXPECT_TRUE(Espera([&] { return mundo.s.Tormenta.PpTormenta == 10; }));
     EXPECT_TRUE(Espera([&] { return Pp().value() == 10; }));
     EXPECT_EQ(Texto("lblValorPp"), "10 mm");
 }
 
 TEST_F(VentanaHidrogramas, AbrirNoCorreNada)
 {
-    mundo.s.SalidaPizarra = true;
+    mundo.s.Control.SalidaPizarra = true;
     int corridas = 0;
     mundo.s.Anfitrion.PonPizarra = [&](std::string_view) { ++corridas; };
     Abre();
@@ -212,7 +212,7 @@ TEST_F(VentanaHidrogramas, AbrirNoCorreNada)
 
 TEST_F(VentanaHidrogramas, ConLluviaPorUEHNoHayDeslizadores)
 {
-    mundo.s.FormaPp = 3;
+    mundo.s.Tormenta.FormaPp = 3;
     Abre();
     for (const char* nombre : {"sldPp", "sldDur", "lblPp", "lblDur", "lblValorPp", "lblValorDur"})
         EXPECT_FALSE(Control<QWidget>(ventana, nombre).isVisible()) << nombre;
@@ -222,17 +222,17 @@ TEST_F(VentanaHidrogramas, ConLluviaPorUEHNoHayDeslizadores)
 TEST_F(VentanaHidrogramas, LosDeslizadoresVuelvenConLaProximaTormentaUnica)
 {
     Abre();
-    mundo.s.FormaPp = 2;  // a series is run while the window is open
+    mundo.s.Tormenta.FormaPp = 2;  // a series is run while the window is open
     ASSERT_TRUE(Elige("c-"));
     EXPECT_FALSE(Pp().isVisible());
-    mundo.s.FormaPp = 0;
+    mundo.s.Tormenta.FormaPp = 0;
     ventana.Abre();  // as a run of one storm does at its end
     EXPECT_TRUE(Pp().isVisible());
     EXPECT_TRUE(Dur().isVisible());
-    mundo.s.FormaPp = 3;
+    mundo.s.Tormenta.FormaPp = 3;
     ASSERT_TRUE(Elige("u-"));
     EXPECT_FALSE(Pp().isVisible());
-    mundo.s.FormaPp = 1;
+    mundo.s.Tormenta.FormaPp = 1;
     ASSERT_TRUE(Elige("u-"));
     EXPECT_TRUE(Pp().isVisible());
 }
@@ -257,12 +257,12 @@ TEST_F(VentanaHidrogramas, DeUnaRepresaSaleLaNotaDeLosNombresCambiados)
 
 TEST_F(VentanaHidrogramas, SinResultadosOEnSerieSeCierraSola)
 {
-    mundo.s.FormaPp = 2;
+    mundo.s.Tormenta.FormaPp = 2;
     ventana.Abre();
     EXPECT_FALSE(ventana.isVisible());
-    mundo.s.FormaPp = 0;
+    mundo.s.Tormenta.FormaPp = 0;
     Abre();
-    mundo.s.NroPasosQ = 0;
+    mundo.s.Resultados.NroPasosQ = 0;
     QTest::keyClick(&Control<QListWidget>(ventana, "lstCompos"), Qt::Key_Down);
     EXPECT_FALSE(ventana.isVisible());
 }
@@ -271,7 +271,7 @@ TEST_F(VentanaHidrogramas, PasosQueNoSonMultiplosSeDicenUnaVezYElGraficoQueda)
 {
     Abre();
     const forms::Grafico antes = f.Grafico;
-    mundo.s.PasoQ = 7;
+    mundo.s.Pasos.PasoQ = 7;
     ASSERT_TRUE(Elige("c-"));
     ASSERT_EQ(mundo.anfitrion->Avisos().size(), 1U);
     EXPECT_EQ(mundo.anfitrion->Avisos().front().titulo, "Advertencia !");
@@ -325,7 +325,7 @@ TEST_F(VentanaHidrogramas, UnMovimientoPendienteNoCorreTrasElCierre)
     QTest::keyClick(&Pp(), Qt::Key_Right);
     ventana.close();
     QTest::qWait(20);
-    EXPECT_EQ(mundo.s.PpTormenta, 80);
+    EXPECT_EQ(mundo.s.Tormenta.PpTormenta, 80);
     EXPECT_FALSE(ventana.isVisible());
 }
 

@@ -26,7 +26,7 @@ class Abaco : public pruebas::SerieDePrueba {
 
     void AbreEn(std::int16_t componente)
     {
-        s.IndComp = componente;
+        s.Control.IndComp = componente;
         Abre(f, s);
     }
     void Elige(int componente)
@@ -87,7 +87,7 @@ TEST_F(Abaco, LosRotulosALaLetra)
 
 TEST_F(Abaco, SinSerieQuedaVacia)
 {
-    s.NroSeriePDR = 0;
+    s.Serie.NroSeriePDR = 0;
     AbreEn(1);
     EXPECT_TRUE(f.abierta);
     EXPECT_TRUE(f.lstCompos.empty());
@@ -102,14 +102,14 @@ TEST_F(Abaco, SinSerieQuedaVacia)
 
 TEST_F(Abaco, SinComponentesSeCierra)
 {
-    s.NroComponentes = 0;
+    s.Resultados.NroComponentes = 0;
     AbreEn(1);
     EXPECT_FALSE(f.abierta);
 }
 
 TEST_F(Abaco, UnaSerieDeUnaTormentaNoTraeDatos)
 {
-    s.NroSeriePDR = 1;
+    s.Serie.NroSeriePDR = 1;
     AbreEn(1);
     EXPECT_TRUE(f.abierta);
     EXPECT_TRUE(f.Grafico.categorias.empty());
@@ -125,7 +125,7 @@ TEST_F(Abaco, UnaSerieDeUnaTormentaNoTraeDatos)
 
 TEST_F(Abaco, DosTormentasSonUnaSerie)
 {
-    s.NroSeriePDR = 2;
+    s.Serie.NroSeriePDR = 2;
     AbreEn(1);
     EXPECT_EQ(f.Grafico.series, (std::vector{CurvaDe("10", {F(11.12), F(12.12)})}));
 }
@@ -139,7 +139,7 @@ TEST_F(Abaco, ElComponenteDeManoQuedaEntreLosQueHay)
     for (const auto& [antes, despues] :
          {Fila{0, 1}, Fila{1, 1}, Fila{3, 3}, Fila{4, 3}, Fila{99, 3}, Fila{-1, 1}}) {
         AbreEn(antes);
-        EXPECT_EQ(s.IndComp, despues) << antes;
+        EXPECT_EQ(s.Control.IndComp, despues) << antes;
         if (antes >= 0) {
             EXPECT_EQ(f.lstComposIndice, despues - 1) << antes;
         }
@@ -149,12 +149,12 @@ TEST_F(Abaco, ElComponenteDeManoQuedaEntreLosQueHay)
 
 TEST_F(Abaco, ElFiltroCambiaLaTormentaDeManoYLosBuclesElIndice)
 {
-    s.PpTormenta = 99;
+    s.Tormenta.PpTormenta = 99;
     AbreEn(1);
-    EXPECT_EQ(s.PpTormenta, 35);
-    EXPECT_EQ(s.DurTormenta, 120);
-    EXPECT_EQ(s.RecTormenta, 25);
-    EXPECT_EQ(s.IndSerie, 5);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 35);
+    EXPECT_EQ(s.Tormenta.DurTormenta, 120);
+    EXPECT_EQ(s.Tormenta.RecTormenta, 25);
+    EXPECT_EQ(s.Serie.IndSerie, 5);
 }
 
 // --- durations, recurrences, cells ---
@@ -206,7 +206,7 @@ TEST_F(Abaco, UnaDuracionMenorQueElPasoQuedaFuera)
 {
     Carga({{10, 44, 10}, {20, 45, 10}, {30, 60, 10}});
     LlenaResultados();
-    s.PasoPp = 45;
+    s.Pasos.PasoPp = 45;
     AbreEn(1);
     EXPECT_EQ(f.Grafico.categorias, (Textos{"45", "60"}));
 }
@@ -221,10 +221,10 @@ TEST_F(Abaco, DeDosTormentasIgualesQuedaLaUltima)
 
 TEST_F(Abaco, ElRedondeoVaAlPar)
 {
-    s.QMax(1, 1) = 11.125F;
-    s.QMax(1, 2) = 11.375F;
-    s.QMax(1, 3) = 0.004F;
-    s.QMax(1, 4) = 1.23456F;
+    s.Resultados.QMax(1, 1) = 11.125F;
+    s.Resultados.QMax(1, 2) = 11.375F;
+    s.Resultados.QMax(1, 3) = 0.004F;
+    s.Resultados.QMax(1, 4) = 1.23456F;
     AbreEn(1);
     EXPECT_EQ(f.Grafico.series,
               (std::vector{CurvaDe("10", {F(11.12), F(11.38)}), CurvaDe("25", {0, F(1.23)})}));
@@ -257,7 +257,7 @@ TEST_F(Abaco, LoQueLaCorridaNoDejoQuedaVacioSinAvisos)
 
 TEST_F(Abaco, SinNingunaCorridaTodasLasCeldasQuedanVacias)
 {
-    s.QMax = {};
+    s.Resultados.QMax = {};
     AbreEn(1);
     EXPECT_EQ(f.Grafico.series[0], CurvaDe("10", {CeldaVacia, CeldaVacia}));
     EXPECT_TRUE(f.Grafico.marcas.empty());
@@ -266,7 +266,7 @@ TEST_F(Abaco, SinNingunaCorridaTodasLasCeldasQuedanVacias)
 
 TEST_F(Abaco, UnaSerieQueNoEstaSeAvisa)
 {
-    s.SerieD.Dimensiona(2);
+    s.Serie.SerieD.Dimensiona(2);
     AbreEn(1);
     EXPECT_EQ(
         anfitrion->Avisos(),
@@ -299,10 +299,10 @@ TEST_F(Abaco, InicializaPoneTantasColumnasComoRecurrencias)
     EXPECT_EQ(f.Grafico.series[1], CurvaDe("25", {F(13.12), F(14.12)}));  // as drawn last
     EXPECT_EQ(f.Grafico.series[2], CurvaDe("", {CeldaVacia, CeldaVacia}));
     EXPECT_EQ(f.Notas, "Notas en Inicializa");
-    s.IndComp = 7;
-    s.NroSeriePDR = 1;
+    s.Control.IndComp = 7;
+    s.Serie.NroSeriePDR = 1;
     Inicializa(f, s);
-    EXPECT_EQ(s.IndComp, 1);
+    EXPECT_EQ(s.Control.IndComp, 1);
     EXPECT_TRUE(f.ListaD.empty());
     EXPECT_TRUE(f.ListaR.empty());
     EXPECT_EQ(f.Grafico.series.size(), 3U);  // stops before the columns
@@ -314,7 +314,7 @@ TEST_F(Abaco, ElegirUnComponenteLoDibuja)
 {
     AbreEn(1);
     Elige(2);
-    EXPECT_EQ(s.IndComp, 3);
+    EXPECT_EQ(s.Control.IndComp, 3);
     EXPECT_EQ(f.Grafico.series[0], CurvaDe("10", {F(31.12), F(32.12)}));
     EXPECT_EQ(f.Grafico.titulo, "c-1");
 }
@@ -324,7 +324,7 @@ TEST_F(Abaco, SinNadaElegidoNoPasaNada)
     AbreEn(2);
     const forms::Grafico antes = f.Grafico;
     Elige(-1);
-    EXPECT_EQ(s.IndComp, 2);
+    EXPECT_EQ(s.Control.IndComp, 2);
     EXPECT_EQ(f.Grafico, antes);
     EligeMagnitud(-1);
     EXPECT_EQ(f.Grafico, antes);
@@ -332,21 +332,21 @@ TEST_F(Abaco, SinNadaElegidoNoPasaNada)
 
 TEST_F(Abaco, DeDosNombresIgualesSeTomaElPrimero)
 {
-    s.Secuencia = {"", "u-1", "u-1", "c-1"};
+    s.Resultados.Secuencia = {"", "u-1", "u-1", "c-1"};
     AbreEn(1);
     Elige(1);
-    EXPECT_EQ(s.IndComp, 1);
+    EXPECT_EQ(s.Control.IndComp, 1);
 }
 
 TEST_F(Abaco, ElegirMasAllaDeLosComponentesTomaElUltimo)
 {
     AbreEn(1);
-    s.NroComponentes = 2;  // another network was read since the list was filled
+    s.Resultados.NroComponentes = 2;  // another network was read since the list was filled
     Elige(2);
-    EXPECT_EQ(s.IndComp, 2);
-    s.NroComponentes = 0;
+    EXPECT_EQ(s.Control.IndComp, 2);
+    s.Resultados.NroComponentes = 0;
     Elige(0);
-    EXPECT_EQ(s.IndComp, 1);
+    EXPECT_EQ(s.Control.IndComp, 1);
 }
 
 TEST_F(Abaco, LaEscorrentiaOfreceSoloLasUEHsYEligeLaUltima)
@@ -355,11 +355,11 @@ TEST_F(Abaco, LaEscorrentiaOfreceSoloLasUEHsYEligeLaUltima)
     EligeMagnitud(1);
     EXPECT_EQ(f.lstCompos, (Textos{"u-1", "u-2"}));
     EXPECT_EQ(f.lstComposIndice, 1);
-    EXPECT_EQ(s.IndComp, 2);
+    EXPECT_EQ(s.Control.IndComp, 2);
     EXPECT_EQ(f.Grafico.ejeY, "Escorrentía [m3]");
     EXPECT_EQ(f.Grafico.series, (std::vector{CurvaDe("10", {2001, 2002}), CurvaDe("25", {2003, 2004})}));
     Elige(0);
-    EXPECT_EQ(s.IndComp, 1);
+    EXPECT_EQ(s.Control.IndComp, 1);
     EXPECT_EQ(f.Grafico.series[0], CurvaDe("10", {1001, 1002}));
 }
 
@@ -388,9 +388,9 @@ TEST_F(Abaco, VolverAlCaudalOfreceTodosYConservaElElegido)
 
 TEST_F(Abaco, SinUEHsLaEscorrentiaDejaSoloLosRotulos)
 {
-    s.Secuencia = {"", "c-1"};
-    s.NroComponentes = 1;
-    s.NroUEHs = 0;
+    s.Resultados.Secuencia = {"", "c-1"};
+    s.Resultados.NroComponentes = 1;
+    s.Red.NroUEHs = 0;
     LlenaResultados();
     AbreEn(1);
     EligeMagnitud(1);
@@ -406,7 +406,7 @@ TEST_F(Abaco, SiLaListaYElComponenteNoCoincidenNoHayCeldas)
 {
     AbreEn(1);
     EligeMagnitud(1);
-    s.IndComp = 3;  // another window moved on
+    s.Control.IndComp = 3;  // another window moved on
     AlGraficoPp(f, s, 2, 1);
     EXPECT_EQ(f.Grafico.series[0], CurvaDe("10", {CeldaVacia, CeldaVacia}));
     EXPECT_EQ(f.Grafico.categorias, (Textos{"60", "120"}));
@@ -416,15 +416,15 @@ TEST_F(Abaco, SiLaListaYElComponenteNoCoincidenNoHayCeldas)
 
 TEST_F(Abaco, MarcaLaDuracionCriticaDeCadaRecurrencia)
 {
-    s.QMax(1, 1) = 50;  // 60 min, 10 years
+    s.Resultados.QMax(1, 1) = 50;  // 60 min, 10 years
     AbreEn(1);
     EXPECT_EQ(f.Grafico.marcas, (std::vector<Marca>{{0, 0, "D= 60 min"}, {1, 1, "D= 120 min"}}));
 }
 
 TEST_F(Abaco, DeDosMaximosIgualesMarcaElPrimeroYDeUnaCurvaEnCeroNinguno)
 {
-    s.QMax(1, 1) = s.QMax(1, 2) = 7;
-    s.QMax(1, 3) = s.QMax(1, 4) = 0;
+    s.Resultados.QMax(1, 1) = s.Resultados.QMax(1, 2) = 7;
+    s.Resultados.QMax(1, 3) = s.Resultados.QMax(1, 4) = 0;
     AbreEn(1);
     EXPECT_EQ(f.Grafico.marcas, (std::vector<Marca>{{0, 0, "D= 60 min"}}));
 }

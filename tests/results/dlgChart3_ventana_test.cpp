@@ -46,7 +46,7 @@ class VentanaAbaco : public pruebas::SerieDePrueba {
 
 TEST_F(VentanaAbaco, AbreConSusListasRotulosYBotones)
 {
-    s.IndComp = 2;
+    s.Control.IndComp = 2;
     ventana.Abre();
     EXPECT_TRUE(ventana.isVisible());
     EXPECT_EQ(apoyo::SinNombre(ventana), std::vector<std::string>{});
@@ -66,7 +66,7 @@ TEST_F(VentanaAbaco, AbreConSusListasRotulosYBotones)
 
 TEST_F(VentanaAbaco, DibujaElComponenteElegido)
 {
-    s.IndComp = 1;
+    s.Control.IndComp = 1;
     ventana.Abre();
     const std::string antes = PrimeraFila();
     EXPECT_NE(antes.find("= 11.12 m3/s"), std::string::npos) << antes;  // storm 1
@@ -83,7 +83,7 @@ TEST_F(VentanaAbaco, DibujaElComponenteElegido)
 
 TEST_F(VentanaAbaco, ElMismoComponenteOtraVezSigueALasCasillas)
 {
-    s.IndComp = 1;
+    s.Control.IndComp = 1;
     ventana.Abre();
     DestildaR(R10);
     Elige("lstCompos", 0);
@@ -95,7 +95,7 @@ TEST_F(VentanaAbaco, ElMismoComponenteOtraVezSigueALasCasillas)
 
 TEST_F(VentanaAbaco, LaEscorrentiaDejaEnLaListaSoloLasUEHs)
 {
-    s.IndComp = 3;
+    s.Control.IndComp = 3;
     ventana.Abre();
     Elige("lstPQEC", 1);
     EXPECT_EQ(Lista("lstCompos").count(), 2);
@@ -131,7 +131,7 @@ TEST_F(VentanaAbaco, SeImprimeSinComandosNiListasYTodoVuelve)
                        Control<QPushButton>(ventana, "OKButton").isVisible();
         return impresora.Puerta()();
     };
-    s.IndComp = 1;
+    s.Control.IndComp = 1;
     ventana.Abre();
     const QSize antes = Grafico().size();
     Pulsa(Control<QPushButton>(ventana, "cmdImprimir"));
@@ -156,28 +156,28 @@ TEST_F(VentanaAbaco, SeImprimeSinComandosNiListasYTodoVuelve)
 
 TEST_F(VentanaAbaco, LaSeleccionQuedaCuandoUnaPlanillaMovioElComponente)
 {
-    s.IndComp = 2;
+    s.Control.IndComp = 2;
     ventana.Abre();
     dlgTablaSalePDR registro;
     dlgTablaSalePDR_ventana tabla(entorno, registro);
     tabla.Abre();  // goes through all components, and beyond the last
-    ASSERT_NE(s.IndComp, 2);
+    ASSERT_NE(s.Control.IndComp, 2);
     Elige("lstPQEC", 0);
     EXPECT_EQ(Lista("lstCompos").currentRow(), 1);
     EXPECT_EQ(f.Grafico.titulo, "u-2");
-    EXPECT_EQ(s.IndComp, 2);
+    EXPECT_EQ(s.Control.IndComp, 2);
 }
 
 TEST_F(VentanaAbaco, SinSerieQuedaVaciaYSinComponentesNoSeAbre)
 {
-    s.NroSeriePDR = 0;
+    s.Serie.NroSeriePDR = 0;
     ventana.Abre();
     EXPECT_TRUE(ventana.isVisible());
     EXPECT_EQ(Lista("lstCompos").count(), 0);
     EXPECT_EQ(PrimeraFila(), "");
     ventana.close();
-    s.NroSeriePDR = 4;
-    s.NroComponentes = 0;
+    s.Serie.NroSeriePDR = 4;
+    s.Resultados.NroComponentes = 0;
     ventana.Abre();
     EXPECT_FALSE(ventana.isVisible());
 }

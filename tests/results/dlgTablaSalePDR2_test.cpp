@@ -31,7 +31,7 @@ class TablaDeUno : public pruebas::SerieDePrueba {
     }
     void AbreEn(std::int16_t componente)
     {
-        s.IndComp = componente;
+        s.Control.IndComp = componente;
         Abre(f, s);
     }
     void Elige(int indice)
@@ -70,8 +70,8 @@ TEST_F(TablaDeUno, AbreConElComponenteDeMano)
     EXPECT_EQ(f.MSFlexGridTablaSaleQDR.filas[0].celdas[7], "/proyectos/Prueba_Conf.vlm");
     EXPECT_EQ(f.MSFlexGridTablaSaleQDR.filas[4].celdas[0], "Operador: Yo - 03/04/2011");
     EXPECT_EQ(f.MSFlexGridTablaSaleQDR.filas[9].clase, ClaseFila::Separacion);
-    EXPECT_EQ(s.IndComp, 2);
-    EXPECT_EQ(s.IndSerie, 5);
+    EXPECT_EQ(s.Control.IndComp, 2);
+    EXPECT_EQ(s.Serie.IndSerie, 5);
 }
 
 TEST_F(TablaDeUno, ElComponenteDeManoQuedaEntreLosQueHay)
@@ -81,19 +81,19 @@ TEST_F(TablaDeUno, ElComponenteDeManoQuedaEntreLosQueHay)
     };
     for (const auto& [antes, despues] : {Fila{0, 1}, Fila{3, 3}, Fila{4, 1}, Fila{-1, 1}}) {
         AbreEn(antes);
-        EXPECT_EQ(s.IndComp, despues) << antes;
+        EXPECT_EQ(s.Control.IndComp, despues) << antes;
         EXPECT_EQ(f.lstComposIndice, despues - 1) << antes;
     }
 }
 
 TEST_F(TablaDeUno, SinComponentesSeCierra)
 {
-    s.NroComponentes = 0;
+    s.Resultados.NroComponentes = 0;
     AbreEn(1);
     EXPECT_FALSE(f.abierta);
-    s.NroComponentes = 3;
+    s.Resultados.NroComponentes = 3;
     AbreEn(1);
-    s.NroComponentes = 0;
+    s.Resultados.NroComponentes = 0;
     Elige(1);
     EXPECT_FALSE(f.abierta);
 }
@@ -102,19 +102,19 @@ TEST_F(TablaDeUno, ElegirUnComponenteLoMuestra)
 {
     AbreEn(1);
     Elige(2);
-    EXPECT_EQ(s.IndComp, 3);
+    EXPECT_EQ(s.Control.IndComp, 3);
     EXPECT_EQ(Mostradas(), ConTotales(DeC1));
     Elige(-1);
-    EXPECT_EQ(s.IndComp, 3);
+    EXPECT_EQ(s.Control.IndComp, 3);
 }
 
 TEST_F(TablaDeUno, AlVolverMuestraElDeLaListaYSigueALasCasillas)
 {
     AbreEn(2);
-    s.IndComp = 4;  // where the table of all components leaves it
+    s.Control.IndComp = 4;  // where the table of all components leaves it
     DestildaR(R25);
     cmdAplicarCambios(f, s);
-    EXPECT_EQ(s.IndComp, 2);
+    EXPECT_EQ(s.Control.IndComp, 2);
     EXPECT_EQ(Mostradas(),
               (Textos{DeU2[0], DeU2[1], Totales[0], Totales[1], Totales[2], "Escorrentía total ||||||||"}));
 }
@@ -122,33 +122,33 @@ TEST_F(TablaDeUno, AlVolverMuestraElDeLaListaYSigueALasCasillas)
 TEST_F(TablaDeUno, UnNombreQueYaNoEstaEsElPrimero)
 {
     AbreEn(3);
-    s.Secuencia[3] = "c-2";
+    s.Resultados.Secuencia[3] = "c-2";
     cmdAplicarCambios(f, s);
-    EXPECT_EQ(s.IndComp, 1);
+    EXPECT_EQ(s.Control.IndComp, 1);
     EXPECT_EQ(Mostradas()[0], "u-1|1|20|60|10|11.12|1001|41.12|");
-    s.Secuencia.clear();
+    s.Resultados.Secuencia.clear();
     cmdAplicarCambios(f, s);
     EXPECT_EQ(anfitrion->Avisos().size(), 1U);
-    s.Secuencia = {"", "u-1", "u-2", "c-1"};
-    s.NroComponentes = 2;
+    s.Resultados.Secuencia = {"", "u-1", "u-2", "c-1"};
+    s.Resultados.NroComponentes = 2;
     cmdAplicarCambios(f, s);
-    EXPECT_EQ(s.IndComp, 1);
+    EXPECT_EQ(s.Control.IndComp, 1);
 }
 
 TEST_F(TablaDeUno, UnaTormentaSinLaminaTerminaElLlenado)
 {
-    s.SerieP(1) = 0;
+    s.Serie.SerieP(1) = 0;
     AbreEn(2);
     EXPECT_EQ(f.MSFlexGridTablaSaleQDR.filas.size(), NroTitulos);
-    s.SerieP(1) = 20;
-    s.SerieP(2) = 0;
+    s.Serie.SerieP(1) = 20;
+    s.Serie.SerieP(2) = 0;
     cmdAplicarCambios(f, s);
     EXPECT_EQ(Mostradas(), (Textos{DeU2[0]}));
 }
 
 TEST_F(TablaDeUno, UnaDuracionMenorQueElPasoQuedaFuera)
 {
-    s.PasoPp = 61;
+    s.Pasos.PasoPp = 61;
     AbreEn(2);
     EXPECT_EQ(Mostradas(), (Textos{DeU2[1], DeU2[3], Totales[0], Totales[2], Totales[4], Totales[5]}));
 }

@@ -94,7 +94,7 @@ TEST_F(TablaCompleta, CadaComponenteConCadaTormentaYLosTotales)
 
 TEST_F(TablaCompleta, LaLaminaSeEscribeComoNumeroDe32Bits)
 {
-    s.SerieP(1) = 20.1F;
+    s.Serie.SerieP(1) = 20.1F;
     Abre(f, s);
     EXPECT_EQ(Filas()[5].celdas[2], "20.1");
 }
@@ -102,17 +102,17 @@ TEST_F(TablaCompleta, LaLaminaSeEscribeComoNumeroDe32Bits)
 TEST_F(TablaCompleta, LosBuclesMuevenElComponenteYLaTormentaDeMano)
 {
     Abre(f, s);
-    EXPECT_EQ(s.IndComp, 4);
-    EXPECT_EQ(s.IndSerie, 5);
-    EXPECT_EQ(s.PpTormenta, 35);
-    EXPECT_EQ(s.DurTormenta, 120);
-    EXPECT_EQ(s.RecTormenta, 25);
+    EXPECT_EQ(s.Control.IndComp, 4);
+    EXPECT_EQ(s.Serie.IndSerie, 5);
+    EXPECT_EQ(s.Tormenta.PpTormenta, 35);
+    EXPECT_EQ(s.Tormenta.DurTormenta, 120);
+    EXPECT_EQ(s.Tormenta.RecTormenta, 25);
 }
 
 TEST_F(TablaCompleta, LasRepresasYLosLagosTampocoTienenEscorrentia)
 {
-    s.Secuencia = {"", "u-1", "r-1", "l-1"};
-    s.NroUEHs = 1;
+    s.Resultados.Secuencia = {"", "u-1", "r-1", "l-1"};
+    s.Red.NroUEHs = 1;
     Abre(f, s);
     EXPECT_EQ(Mostradas()[4], "r-1|2|20|60|10|21.12|||");
     EXPECT_EQ(Mostradas()[8], "l-1|3|20|60|10|31.12|||");
@@ -153,27 +153,27 @@ TEST_F(TablaCompleta, ConTodasExcluidasQuedaSoloElRotulo)
 
 TEST_F(TablaCompleta, UnaDuracionMenorQueElPasoQuedaFuera)
 {
-    s.PasoPp = 61;
+    s.Pasos.PasoPp = 61;
     Abre(f, s);
     EXPECT_EQ(Mostradas()[0], "u-1|1|30|120|10|12.12|1002|41.25|");
     EXPECT_EQ(Mostradas()[1], "u-1|1|35|120|25|14.12|1004|41.5|");
-    s.PasoPp = 60;
+    s.Pasos.PasoPp = 60;
     cmdAplicarCambios(f, s);
     EXPECT_EQ(Mostradas()[0], "u-1|1|20|60|10|11.12|1001|41.12|");
 }
 
 TEST_F(TablaCompleta, UnaPrimeraTormentaSinLaminaDejaSoloLosTitulos)
 {
-    s.SerieP(1) = 0;
+    s.Serie.SerieP(1) = 0;
     Abre(f, s);
     EXPECT_EQ(Filas().size(), NroTitulos);
-    EXPECT_EQ(s.IndComp, 1);
-    EXPECT_EQ(s.IndSerie, 1);
+    EXPECT_EQ(s.Control.IndComp, 1);
+    EXPECT_EQ(s.Serie.IndSerie, 1);
 }
 
 TEST_F(TablaCompleta, UnaTormentaSinDuracionTerminaElLlenado)
 {
-    s.SerieD(3) = 0;
+    s.Serie.SerieD(3) = 0;
     Abre(f, s);
     EXPECT_EQ(Mostradas(), (Textos{"u-1|1|20|60|10|11.12|1001|41.12|", "u-1|1|30|120|10|12.12|1002|41.25|"}));
 }
@@ -181,7 +181,7 @@ TEST_F(TablaCompleta, UnaTormentaSinDuracionTerminaElLlenado)
 TEST_F(TablaCompleta, SinComponentesQuedaElEncabezadoSolo)
 {
     Abre(f, s);
-    s.NroComponentes = 0;
+    s.Resultados.NroComponentes = 0;
     cmdAplicarCambios(f, s);
     EXPECT_TRUE(f.abierta);
     EXPECT_TRUE(Filas().empty());
@@ -212,7 +212,7 @@ TEST_F(TablaCompleta, LoQueLaCorridaNoDejoQuedaVacioSinAvisos)
 
 TEST_F(TablaCompleta, UnaSerieQueNoEstaSeAvisaYLoLlenadoQueda)
 {
-    s.SerieR.Dimensiona(2);
+    s.Serie.SerieR.Dimensiona(2);
     Abre(f, s);
     EXPECT_EQ(
         anfitrion->Avisos(),
@@ -222,7 +222,7 @@ TEST_F(TablaCompleta, UnaSerieQueNoEstaSeAvisaYLoLlenadoQueda)
 
 TEST_F(TablaCompleta, UnaSecuenciaMasCortaSeAvisa)
 {
-    s.Secuencia = {"", "u-1"};
+    s.Resultados.Secuencia = {"", "u-1"};
     Abre(f, s);
     EXPECT_EQ(anfitrion->Avisos().size(), 1U);
     EXPECT_EQ(Mostradas().size(), 4U);
@@ -230,9 +230,9 @@ TEST_F(TablaCompleta, UnaSecuenciaMasCortaSeAvisa)
 
 TEST_F(TablaCompleta, LasEntradasPidenMasDeUnaTormenta)
 {
-    s.NroSeriePDR = 1;
+    s.Serie.NroSeriePDR = 1;
     EXPECT_FALSE(HayPlanillaPDR(s));
-    s.NroSeriePDR = 2;
+    s.Serie.NroSeriePDR = 2;
     EXPECT_TRUE(HayPlanillaPDR(s));
 }
 
@@ -244,8 +244,8 @@ class OrdenDeTabla : public TablaCompleta {
 
     OrdenDeTabla()
     {
-        s.NroSeriePDR = 3;
-        s.SerieP(1) = 100;  // after 20 and 25 as a number, before them as a text
+        s.Serie.NroSeriePDR = 3;
+        s.Serie.SerieP(1) = 100;  // after 20 and 25 as a number, before them as a text
         Abre(f, s);
     }
 };
@@ -344,11 +344,11 @@ TEST_F(OrdenDeTabla, ElOrdenElegidoSigueAlVolverALlenar)
 
 TEST_F(OrdenDeTabla, SeGuardaYSeCopiaEnElOrdenALaVista)
 {
-    s.TituloProyecto = "El \"gran\" río";
-    s.NroSeriePDR = 2;
-    s.Secuencia = {"", "u-1", "c-1"};
-    s.NroComponentes = 2;
-    s.NroUEHs = 1;
+    s.Configuracion.TituloProyecto = "El \"gran\" río";
+    s.Serie.NroSeriePDR = 2;
+    s.Resultados.Secuencia = {"", "u-1", "c-1"};
+    s.Resultados.NroComponentes = 2;
+    s.Red.NroUEHs = 1;
     cmdAplicarCambios(f, s);
     AlPulsarEncabezado(f, P);
     EXPECT_EQ(ComoCsv(ComoPlanilla(Tabla())),
@@ -385,7 +385,7 @@ TEST_F(OrdenDeTabla, SeGuardaYSeCopiaEnElOrdenALaVista)
 TEST_F(OrdenDeTabla, UnRotuloSinTotalNoSeGuarda)
 {
     s.frmConfigura.CheckR.fill(0);
-    s.NroComponentes = 3;
+    s.Resultados.NroComponentes = 3;
     cmdAplicarCambios(f, s);
     const std::string csv = ComoCsv(ComoPlanilla(Tabla()));
     EXPECT_EQ(csv.find("total"), std::string::npos);

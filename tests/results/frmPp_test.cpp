@@ -38,21 +38,21 @@ TEST_F(Pizarra, AbrirlaPoneLaSalidaYLaMarcaYCerrarlaLasQuita)
 {
     Abre(f, s);
     EXPECT_TRUE(f.abierta);
-    EXPECT_TRUE(s.SalidaPizarra);
+    EXPECT_TRUE(s.Control.SalidaPizarra);
     EXPECT_TRUE(anfitrion->marcaPizarra);
     cmdCerrar(f, s);
     EXPECT_FALSE(f.abierta);
-    EXPECT_FALSE(s.SalidaPizarra);
+    EXPECT_FALSE(s.Control.SalidaPizarra);
     EXPECT_FALSE(anfitrion->marcaPizarra);
 }
 
 TEST_F(Pizarra, CerrarLaQueNoEstaAbiertaNoTocaLaMarca)
 {
     // The tick may have been set for a run whose window opens later.
-    anfitrion->marcaPizarra = s.SalidaPizarra = true;
+    anfitrion->marcaPizarra = s.Control.SalidaPizarra = true;
     Cierra(f, s);
     EXPECT_TRUE(anfitrion->marcaPizarra);
-    EXPECT_TRUE(s.SalidaPizarra);
+    EXPECT_TRUE(s.Control.SalidaPizarra);
 }
 
 TEST_F(Pizarra, ElTextoSobreviveAlCierre)

@@ -59,7 +59,7 @@ struct VentanaPizarra : testing::Test {
 TEST_F(VentanaPizarra, ElAnfitrionLaAbreConSuSalidaYSuMarca)
 {
     EXPECT_TRUE(ventana.isVisible());
-    EXPECT_TRUE(mundo.s.SalidaPizarra);
+    EXPECT_TRUE(mundo.s.Control.SalidaPizarra);
     EXPECT_TRUE(marca);
     EXPECT_TRUE(mundo.s.Anfitrion.MarcaPizarra());
     EXPECT_GT(veces, 0);
@@ -202,7 +202,7 @@ TEST_F(VentanaPizarra, CerrarConElBotonQuitaSalidaYMarcaYAlReabrirEstaElTexto)
     mundo.s.Anfitrion.PonPizarra("texto");
     Pulsa(Control<QPushButton>(ventana, "cmdCerrar"));
     EXPECT_FALSE(ventana.isVisible());
-    EXPECT_FALSE(mundo.s.SalidaPizarra);
+    EXPECT_FALSE(mundo.s.Control.SalidaPizarra);
     EXPECT_FALSE(marca);
     mundo.s.Anfitrion.AbrePizarra();
     EXPECT_TRUE(ventana.isVisible());
@@ -213,7 +213,7 @@ TEST_F(VentanaPizarra, CerrarConElMarcoEsLoMismo)
 {
     ventana.close();
     EXPECT_FALSE(f.abierta);
-    EXPECT_FALSE(mundo.s.SalidaPizarra);
+    EXPECT_FALSE(mundo.s.Control.SalidaPizarra);
     EXPECT_FALSE(marca);
 }
 

@@ -28,10 +28,10 @@ struct Arranque : EscenaDePrueba {
 TEST_F(Arranque, SinPunteroNoHayProyectoNiUltimoArchivoYSeEscribeElDirectorioPorDefecto)
 {
     Arranca();
-    EXPECT_EQ(s.NombreProyecto, "");
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "");
     EXPECT_EQ(UltimoArchivo(), "");
-    EXPECT_FALSE(s.ConfPendiente);
-    EXPECT_EQ(s.DirProyecto, Proyectos);
+    EXPECT_FALSE(s.Proyecto.ConfPendiente);
+    EXPECT_EQ(s.Proyecto.DirProyecto, Proyectos);
     EXPECT_EQ(disco.Bytes(Puntero), BytesPuntero(Proyectos, ""));
 }
 
@@ -40,14 +40,14 @@ TEST_F(Arranque, LoQueNoSePudoCopiarSeDice)
 {
     Arranca();
     EXPECT_TRUE(anfitrion->Avisos().empty());
-    disco.Pon(model::Ruta(s.DirTrabajo, "siro_entrega.tmp"), "");
+    disco.Pon(model::Ruta(s.Proyecto.DirTrabajo, "siro_entrega.tmp"), "");
     Arranca();
     ASSERT_EQ(anfitrion->Avisos().size(), 1U);
     EXPECT_EQ(
         anfitrion->Avisos()[0].texto,
         "No se pudieron copiar todos los archivos que trae el programa, tal vez por falta de lugar en el "
         "disco. Se intentará otra vez en el próximo arranque. Carpeta: " +
-            s.DirTrabajo);
+            s.Proyecto.DirTrabajo);
 }
 
 TEST_F(Arranque, ElUltimoProyectoSeOfreceYNoSeAbre)
@@ -55,8 +55,8 @@ TEST_F(Arranque, ElUltimoProyectoSeOfreceYNoSeAbre)
     disco.Pon(Puntero, BytesPuntero(Proyectos, "Mio"));
     Arranca();
     EXPECT_EQ(UltimoArchivo(), model::Ruta(Proyectos, "Mio_Conf.vlm"));
-    EXPECT_EQ(s.NombreProyecto, "");
-    EXPECT_TRUE(s.ConfPendiente);
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "");
+    EXPECT_TRUE(s.Proyecto.ConfPendiente);
 }
 
 TEST_F(Arranque, AunqueElUltimoProyectoExistaLosEditoresLoPidenHastaQueSeAbra)
@@ -79,18 +79,18 @@ TEST_F(Arranque, UnUltimoProyectoQueSeFueYaNoSeReabre)
     disco.Pon(Puntero, BytesPuntero(Proyectos, "Mio"));
     Arranca();
     Elige("mnu_ultimoarchivo1");
-    EXPECT_EQ(s.NombreProyecto, "");
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "");
     EXPECT_EQ(disco.Bytes(Puntero), BytesPuntero(Proyectos, ""));
 }
 
 TEST_F(Arranque, ElPunteroLeidoTrasLaPortadaReemplazaAlProyectoPorDefecto)
 {
     std::string durante;
-    portada.AtiendeSucesos = [&] { durante = s.NombreProyecto; };
+    portada.AtiendeSucesos = [&] { durante = s.Proyecto.NombreProyecto; };
     disco.Pon(Puntero, BytesPuntero(Proyectos, "Mio"));
     Prepara(s, portada, "0.1.0");
     EXPECT_EQ(durante, "Quelmar");
-    EXPECT_EQ(s.NombreProyecto, "Mio");
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "Mio");
 }
 
 TEST_F(Arranque, LaPortadaMuestraLaVersionUnSegundoYMedio)
@@ -107,17 +107,18 @@ TEST_F(Arranque, SinEsperaLaPortadaAtiendeUnaVez)
 
 TEST_F(Arranque, EmpiezaSinSeleccionNiBanderasDeCorrida)
 {
-    s.UEHSel = s.CauceSel = 1;
-    s.SalidaPizarra = s.ErrorRed = s.AvisoDescargasVisto = s.ProyectoNuevo = true;
-    s.NroUEHs = 3;
+    s.Seleccion.UEHSel = s.Seleccion.CauceSel = 1;
+    s.Control.SalidaPizarra = s.Control.ErrorRed = s.Control.AvisoDescargasVisto = s.Proyecto.ProyectoNuevo =
+        true;
+    s.Red.NroUEHs = 3;
     Arranca();
-    EXPECT_EQ(s.UEHSel, 0);
-    EXPECT_EQ(s.CauceSel, 0);
-    EXPECT_EQ(s.NroUEHs, 0);
-    EXPECT_FALSE(s.SalidaPizarra);
-    EXPECT_FALSE(s.ErrorRed);
-    EXPECT_FALSE(s.AvisoDescargasVisto);
-    EXPECT_FALSE(s.ProyectoNuevo);
+    EXPECT_EQ(s.Seleccion.UEHSel, 0);
+    EXPECT_EQ(s.Seleccion.CauceSel, 0);
+    EXPECT_EQ(s.Red.NroUEHs, 0);
+    EXPECT_FALSE(s.Control.SalidaPizarra);
+    EXPECT_FALSE(s.Control.ErrorRed);
+    EXPECT_FALSE(s.Control.AvisoDescargasVisto);
+    EXPECT_FALSE(s.Proyecto.ProyectoNuevo);
 }
 
 }  // namespace

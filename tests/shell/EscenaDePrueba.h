@@ -49,9 +49,9 @@ struct EscenaDePrueba : testing::Test {
     {
         disco.PonDirectorio(Proyectos);
         s.Disco = disco.Puerta();
-        s.DirEjecutable = Programa;
-        s.DirTrabajo = Programa;
-        s.DirProyecto = Proyectos;
+        s.Proyecto.DirEjecutable = Programa;
+        s.Proyecto.DirTrabajo = Programa;
+        s.Proyecto.DirProyecto = Proyectos;
         ConectaAnfitrion();
         ConectaMandos();
         Abre(f);
@@ -93,7 +93,7 @@ struct EscenaDePrueba : testing::Test {
         return pedidos;
     }
     EstadoEntrada& Pizarra() { return f.Estado(Variable::mnuPizarra1); }
-    void PonProyecto() { s.NombreProyecto = "Mio"; }
+    void PonProyecto() { s.Proyecto.NombreProyecto = "Mio"; }
 
   private:
     void ConectaAnfitrion()

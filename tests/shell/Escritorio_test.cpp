@@ -36,7 +36,7 @@ using forms::Q;
 TEST_F(EscritorioDePrueba, ArrancaSinProyectoConElDirectorioPorDefecto)
 {
     Arranca();
-    EXPECT_EQ(escritorio.s.NombreProyecto, "");
+    EXPECT_EQ(escritorio.s.Proyecto.NombreProyecto, "");
     EXPECT_EQ(Rotulo("lblProyecto"), "");
     EXPECT_EQ(BytesPuntero(), "\"" + instalacion.Proyectos() + "\"\r\n\"\"\r\n");
     EXPECT_FALSE(Accion("mnu_ultimoarchivo1").isVisible());
@@ -47,7 +47,7 @@ TEST_F(EscritorioDePrueba, AbrirLlenaLosRotulosAnotaElProyectoYHabilitaGuardarCo
     Arranca();
     anfitrion->elegidos = {instalacion.Quelmar()};
     Accion("mnuAbrirProyecto").trigger();
-    EXPECT_EQ(escritorio.s.NombreProyecto, "Quelmar");
+    EXPECT_EQ(escritorio.s.Proyecto.NombreProyecto, "Quelmar");
     EXPECT_EQ(Rotulo("lblProyecto"), "Quelmar");
     EXPECT_EQ(Rotulo("lblMiDirTrabajo"), instalacion.Proyectos());
     EXPECT_EQ(BytesPuntero(), "\"" + instalacion.Proyectos() + "\"\r\n\"Quelmar\"\r\n");
@@ -64,22 +64,22 @@ TEST_F(EscritorioDePrueba, ElUltimoProyectoSeOfreceEnElMenuYSeReabre)
         puntero.write(QByteArray::fromStdString("\"" + instalacion.Proyectos() + "\"\r\n\"Quelmar\"\r\n"));
     }
     Arranca();
-    EXPECT_EQ(escritorio.s.NombreProyecto, "");
+    EXPECT_EQ(escritorio.s.Proyecto.NombreProyecto, "");
     EXPECT_EQ(DeQ(Accion("mnu_ultimoarchivo1").text()), instalacion.Quelmar());
     Accion("mnu_ultimoarchivo1").trigger();
-    EXPECT_EQ(escritorio.s.NombreProyecto, "Quelmar");
-    EXPECT_EQ(Rotulo("lblTitulo"), escritorio.s.TituloProyecto);
+    EXPECT_EQ(escritorio.s.Proyecto.NombreProyecto, "Quelmar");
+    EXPECT_EQ(Rotulo("lblTitulo"), escritorio.s.Configuracion.TituloProyecto);
     EXPECT_FALSE(Rotulo("lblTitulo").empty());
 }
 
 TEST_F(EscritorioDePrueba, UnaCorridaTerminaConResultadosYHabilitaLasVerificaciones)
 {
     Arranca(instalacion.Quelmar());
-    escritorio.s.PpTormenta = 80;
-    escritorio.s.DurTormenta = 120;
+    escritorio.s.Tormenta.PpTormenta = 80;
+    escritorio.s.Tormenta.DurTormenta = 120;
     Accion("mnuCorre1").trigger();
-    EXPECT_GT(escritorio.s.NroPasosQ, 0);
-    EXPECT_GT(escritorio.s.NroRepresas, 0);
+    EXPECT_GT(escritorio.s.Resultados.NroPasosQ, 0);
+    EXPECT_GT(escritorio.s.Red.NroRepresas, 0);
     EXPECT_TRUE(Accion("mnu_prueba_funcionesHQrepresas").isEnabled());
     EXPECT_TRUE(Accion("mnu_prueba_funcionesSHVrepresas").isEnabled());
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
@@ -92,15 +92,15 @@ TEST_F(EscritorioDePrueba, LaPizarraAbiertaRecibeElTextoDeLaCorrida)
     Accion("mnuPizarra1").trigger();
     EXPECT_TRUE(escritorio.pizarra.abierta);
     EXPECT_TRUE(Accion("mnuPizarra1").isChecked());
-    escritorio.s.PpTormenta = 80;
-    escritorio.s.DurTormenta = 120;
+    escritorio.s.Tormenta.PpTormenta = 80;
+    escritorio.s.Tormenta.DurTormenta = 120;
     Accion("mnuCorre1").trigger();
     EXPECT_TRUE(escritorio.pizarra.Text1.starts_with("SIRO - Modelo de Simulación Hidrológica\r\n"));
-    EXPECT_EQ(escritorio.pizarra.Text1, escritorio.s.TextoPizarra);
+    EXPECT_EQ(escritorio.pizarra.Text1, escritorio.s.Control.TextoPizarra);
     Accion("mnuPizarra1").trigger();
     EXPECT_FALSE(escritorio.pizarra.abierta);
     EXPECT_FALSE(Accion("mnuPizarra1").isChecked());
-    EXPECT_FALSE(escritorio.s.SalidaPizarra);
+    EXPECT_FALSE(escritorio.s.Control.SalidaPizarra);
 }
 
 TEST_F(EscritorioDePrueba, F3SigueLaBusquedaDeLaPizarraYSinEllaAbreElEditor)
@@ -138,7 +138,7 @@ TEST_F(EscritorioDePrueba, CerrarLaPizarraPorSuMarcoQuitaLaMarcaDelMenu)
     QWidget& pizarra = Control<QWidget>(escritorio.Principal(), "frmPp");
     pizarra.parentWidget()->close();
     EXPECT_FALSE(Accion("mnuPizarra1").isChecked());
-    EXPECT_FALSE(escritorio.s.SalidaPizarra);
+    EXPECT_FALSE(escritorio.s.Control.SalidaPizarra);
 }
 
 TEST_F(EscritorioDePrueba, ElAvanceSeVeConSusTextosYSePuedeCerrarPorSuMarco)
@@ -171,7 +171,7 @@ TEST_F(EscritorioDePrueba, ElEditorDeLaRedTomaElLugarDeLaVentanaPrincipalYLoDevu
     Accion("mnufrmUEHs").trigger();
     ASSERT_TRUE(QTest::qWaitForWindowActive(editor));
     EXPECT_FALSE(escritorio.Principal().isVisible());
-    EXPECT_GT(escritorio.s.ColUEHs.Cuenta(), 0);
+    EXPECT_GT(escritorio.s.Red.ColUEHs.Cuenta(), 0);
     editor->close();
     EXPECT_FALSE(editor->isVisible());
     EXPECT_TRUE(escritorio.Principal().isVisible());
@@ -202,7 +202,7 @@ TEST_F(EscritorioDePrueba, SinProyectoElEditorSeCierraYLaVentanaPrincipalVuelve)
     Arranca(instalacion.Quelmar());
     Accion("mnufrmUEHs").trigger();
     EXPECT_FALSE(escritorio.Principal().isVisible());
-    escritorio.s.NombreProyecto.clear();
+    escritorio.s.Proyecto.NombreProyecto.clear();
     Accion("mnufrmUEHs").trigger();
     EXPECT_EQ(anfitrion->Avisos().back().titulo, TituloSinProyecto);
     EXPECT_TRUE(escritorio.Principal().isVisible());
@@ -323,7 +323,7 @@ TEST_F(EscritorioDePrueba, LaPizarraAbiertaSobreviveAlFormularioQueLaTrajoAlFren
     formulario.exec();
     EXPECT_TRUE(pizarra.isVisible());
     EXPECT_TRUE(escritorio.Principal().isAncestorOf(&pizarra));
-    EXPECT_TRUE(escritorio.s.SalidaPizarra);
+    EXPECT_TRUE(escritorio.s.Control.SalidaPizarra);
     EXPECT_TRUE(Accion("mnuPizarra1").isChecked());
 }
 
@@ -340,15 +340,15 @@ TEST_F(EscritorioDePrueba, LaPizarraQueSeCerroEnElFormularioNoVuelveAAbrirse)
     });
     formulario.exec();
     EXPECT_FALSE(pizarra.isVisible());
-    EXPECT_FALSE(escritorio.s.SalidaPizarra);
+    EXPECT_FALSE(escritorio.s.Control.SalidaPizarra);
     EXPECT_FALSE(Accion("mnuPizarra1").isChecked());
 }
 
 TEST_F(EscritorioDePrueba, ElHidrogramaSeAbreAlTerminarLaCorrida)
 {
     Arranca(instalacion.Quelmar());
-    escritorio.s.PpTormenta = 80;
-    escritorio.s.DurTormenta = 120;
+    escritorio.s.Tormenta.PpTormenta = 80;
+    escritorio.s.Tormenta.DurTormenta = 120;
     QTest::keyClick(&escritorio.Principal(), Qt::Key_F5);
     EXPECT_TRUE(escritorio.hidrograma.abierta);
     EXPECT_TRUE(Control<QWidget>(escritorio.Principal(), "dlgChart2").isVisible());
@@ -357,8 +357,8 @@ TEST_F(EscritorioDePrueba, ElHidrogramaSeAbreAlTerminarLaCorrida)
 TEST_F(EscritorioDePrueba, ElHietogramaAbiertoQuedaCuandoLaTormentaPideElSuyo)
 {
     Arranca(instalacion.Quelmar());
-    escritorio.s.PpTormenta = 80;
-    escritorio.s.DurTormenta = 120;
+    escritorio.s.Tormenta.PpTormenta = 80;
+    escritorio.s.Tormenta.DurTormenta = 120;
     QTest::keyClick(&escritorio.Principal(), Qt::Key_F8);
     auto& delMenu = Control<QWidget>(escritorio.Principal(), "dlgChart1");
     ASSERT_TRUE(delMenu.isVisible());
@@ -386,7 +386,7 @@ TEST_F(EscritorioDePrueba, ElEditorEscondeLaVentanaPrincipalMientrasEstaAbierto)
     ASSERT_NE(Editor(), nullptr);
     EXPECT_TRUE(Editor()->isVisible());
     EXPECT_FALSE(escritorio.Principal().isVisible());
-    EXPECT_GT(escritorio.s.NroUEHs, 0);
+    EXPECT_GT(escritorio.s.Red.NroUEHs, 0);
     Editor()->close();
     EXPECT_TRUE(escritorio.Principal().isVisible());
     EXPECT_FALSE(escritorio.entorno.Terminando());
@@ -432,8 +432,8 @@ TEST_F(EscritorioDePrueba, NingunaVentanaDelAreaTomaLaLetraDeUnMenu)
     for (const QAction* menu : escritorio.Principal().menuBar()->actions())
         delMenu << QKeySequence::mnemonic(menu->text()).toString();
     EXPECT_EQ(delMenu.removeAll(QString()), 0);
-    escritorio.s.PpTormenta = 80;
-    escritorio.s.DurTormenta = 120;
+    escritorio.s.Tormenta.PpTormenta = 80;
+    escritorio.s.Tormenta.DurTormenta = 120;
     for (const char* const entrada :
          {"mnuPizarra1", "mnuEmpiricos", "mnuGraficoPDRComponente", "mnuGráficoPp"})
         Accion(entrada).trigger();
@@ -613,8 +613,8 @@ TEST(Acerca, DiceVersionYMuestraElSistema)
 struct Eliminar : testing::Test {
     Eliminar()
     {
-        mundo.s.DirProyecto = instalacion.Proyectos();
-        mundo.s.NombreProyecto = "Abierto";
+        mundo.s.Proyecto.DirProyecto = instalacion.Proyectos();
+        mundo.s.Proyecto.NombreProyecto = "Abierto";
         QFile::copy(Q(instalacion.Quelmar()), Q(instalacion.Proyectos() + "/Otro_Conf.vlm"));
         QFile::copy(Q(instalacion.Quelmar()), Q(instalacion.Proyectos() + "/Otros_UEHs.vlm"));
         f.Abre(mundo.s);
@@ -666,7 +666,7 @@ TEST_F(Eliminar, ElElegidoSeVaConLosQueEmpiezanIgualYElDialogoSeCierra)
     EXPECT_FALSE(Esta("Otros_UEHs.vlm"));
     EXPECT_TRUE(Esta("Quelmar_Conf.vlm"));
     EXPECT_FALSE(ventana.isVisible());
-    EXPECT_EQ(mundo.s.NombreProyecto, "Abierto");
+    EXPECT_EQ(mundo.s.Proyecto.NombreProyecto, "Abierto");
 }
 
 TEST_F(Eliminar, UnNoDejaTodo)

@@ -138,12 +138,12 @@ TEST_F(LluviaEnElEscritorio, UnaTormentaTecleadaCorreComoLaDeSiroLote)
         Pulsa(Control<QPushButton>(lluvia, "OKButton"));
     });
     Accion("mnufrmPp").trigger();
-    EXPECT_EQ(escritorio.s.FormaPp, 4);
-    EXPECT_EQ(escritorio.s.PpTormenta, 40.75F);
+    EXPECT_EQ(escritorio.s.Tormenta.FormaPp, 4);
+    EXPECT_EQ(escritorio.s.Tormenta.PpTormenta, 40.75F);
     EXPECT_TRUE(BytesDeArchivo(instalacion.Proyectos() + "/Temporal_pt.vlm")
                     .ends_with("5.5\r\n20\r\n12.25\r\n3\r\n"));
-    CorreYCompara(
-        {"--forma", "4", "--tormenta", "Temporal_pt.vlm", "--paso-q", std::to_string(escritorio.s.PasoQ)});
+    CorreYCompara({"--forma", "4", "--tormenta", "Temporal_pt.vlm", "--paso-q",
+                   std::to_string(escritorio.s.Pasos.PasoQ)});
 }
 
 TEST_F(LluviaEnElEscritorio, UnaDistribucionDeDoceYMedioCorreConNumerosEnteros)
@@ -169,8 +169,8 @@ TEST_F(LluviaEnElEscritorio, UnaDistribucionDeDoceYMedioCorreConNumerosEnteros)
     EXPECT_TRUE(BytesDeArchivo(instalacion.Dir() + "/distriPp_dpt.vlm").ends_with("12.5\r\n87.5\r\n"));
     CorreYCompara({"--pp", "50", "--dur", "60", "--distribucion", "7"});
     // 12 % and 88 % of 50 mm: the file holds decimals, its reader takes whole numbers.
-    EXPECT_EQ(escritorio.s.PpReal(1), 6.0F);
-    EXPECT_EQ(escritorio.s.PpReal(2), 44.0F);
+    EXPECT_EQ(escritorio.s.Tormenta.PpReal(1), 6.0F);
+    EXPECT_EQ(escritorio.s.Tormenta.PpReal(2), 44.0F);
 }
 
 TEST_F(LluviaEnElEscritorio, UnaSerieDeTablaPersonalCorreComoLaDeSiroLote)
@@ -197,7 +197,7 @@ TEST_F(LluviaEnElEscritorio, UnaSerieDeTablaPersonalCorreComoLaDeSiroLote)
         Pulsa(Control<QPushButton>(lluvia, "OKButton"));
     });
     Accion("mnufrmPp").trigger();
-    EXPECT_EQ(escritorio.s.NroSeriePDR, 3);
+    EXPECT_EQ(escritorio.s.Serie.NroSeriePDR, 3);
     Accion("mnuCorre2").trigger();
     const e2e::Salida salida = Lote({"serie", "--tabla", "1"});
     ASSERT_EQ(salida.estado, 0) << salida.errores;
@@ -340,7 +340,7 @@ TEST_F(LluviaEnElEscritorio, LaLluviaPorUEHCorreComoLaDeSiroLote)
         Pulsa(Control<QPushButton>(lluvia, "OKButton"));
     });
     Accion("mnufrmPp").trigger();
-    EXPECT_EQ(escritorio.s.FormaPp, 3);
+    EXPECT_EQ(escritorio.s.Tormenta.FormaPp, 3);
     CorreYCompara({"--forma", "3", "--dur", "120", "--rec", "25", "--pp-ueh", laminas});
 }
 

@@ -268,38 +268,38 @@ TEST_F(MarcoDePrueba, ConProyectoAbrenSuVentanaSinDecirNada)
 TEST_F(MarcoDePrueba, UnEditorAbiertoSaleAlFrenteYNadaSeRelee)
 {
     PonProyecto();
-    s.ColUEHs.Agrega({.NombreUEH = "u-1"});
+    s.Red.ColUEHs.Agrega({.NombreUEH = "u-1"});
     m.AlzaEditor = [this] {
         pedidos.emplace_back("alza");
         return true;
     };
     EXPECT_EQ(Elige("mnufrmUEHs"), Lista{"alza"});
-    EXPECT_EQ(s.ColUEHs.Cuenta(), 1);
-    s.NombreProyecto.clear();
+    EXPECT_EQ(s.Red.ColUEHs.Cuenta(), 1);
+    s.Proyecto.NombreProyecto.clear();
     s.Anfitrion.ResguardaDibujo = [](model::Riesgo) { return false; };
     EXPECT_EQ(Elige("mnufrmUEHs"), Lista{});
-    EXPECT_EQ(s.ColUEHs.Cuenta(), 1) << "without a project the network would be emptied";
+    EXPECT_EQ(s.Red.ColUEHs.Cuenta(), 1) << "without a project the network would be emptied";
 }
 
 TEST_F(MarcoDePrueba, ElEditorVaciaLaRedAunqueNoHayaProyecto)
 {
-    s.ColUEHs.Agrega({.NombreUEH = "u-1"});
-    s.ColCauces.Agrega({.NombreCauce = "c-1"});
-    s.ColRepresas.Agrega({.NombreRepresa = "r-1"});
-    s.ColLagos.Agrega({.NombreLAGO = "l-1"});
+    s.Red.ColUEHs.Agrega({.NombreUEH = "u-1"});
+    s.Red.ColCauces.Agrega({.NombreCauce = "c-1"});
+    s.Red.ColRepresas.Agrega({.NombreRepresa = "r-1"});
+    s.Red.ColLagos.Agrega({.NombreLAGO = "l-1"});
     EXPECT_EQ(Elige("mnufrmUEHs"), Lista{"cierra frmUEHs"});
-    EXPECT_EQ(s.ColUEHs.Cuenta(), 0);
-    EXPECT_EQ(s.ColCauces.Cuenta(), 0);
-    EXPECT_EQ(s.ColRepresas.Cuenta(), 0);
-    EXPECT_EQ(s.ColLagos.Cuenta(), 0);
+    EXPECT_EQ(s.Red.ColUEHs.Cuenta(), 0);
+    EXPECT_EQ(s.Red.ColCauces.Cuenta(), 0);
+    EXPECT_EQ(s.Red.ColRepresas.Cuenta(), 0);
+    EXPECT_EQ(s.Red.ColLagos.Cuenta(), 0);
 }
 
 TEST_F(MarcoDePrueba, PrecipitacionesCallaSinProyectoNiArchivo)
 {
     EXPECT_EQ(Elige("mnufrmPp"), Lista{});
-    s.ArchivoTemp = "algo";
+    s.Proyecto.ArchivoTemp = "algo";
     EXPECT_EQ(Elige("mnufrmPp"), Lista{"abre dlgPp"});
-    s.ArchivoTemp.clear();
+    s.Proyecto.ArchivoTemp.clear();
     PonProyecto();
     EXPECT_EQ(Elige("mnufrmPp"), Lista{"abre dlgPp"});
     EXPECT_TRUE(anfitrion->sucesos.empty());
@@ -307,10 +307,10 @@ TEST_F(MarcoDePrueba, PrecipitacionesCallaSinProyectoNiArchivo)
 
 TEST_F(MarcoDePrueba, LasPlanillasPidenMasDeUnaTormenta)
 {
-    s.NroSeriePDR = 1;
+    s.Serie.NroSeriePDR = 1;
     EXPECT_EQ(Elige("mnuPlanillaPDRCompleta"), Lista{});
     EXPECT_EQ(Elige("mnuPlanillaPDRComponente"), Lista{});
-    s.NroSeriePDR = 2;
+    s.Serie.NroSeriePDR = 2;
     EXPECT_EQ(Elige("mnuPlanillaPDRCompleta"), Lista{"abre dlgTablaSalePDR"});
     EXPECT_EQ(Elige("mnuPlanillaPDRComponente"), Lista{"abre dlgTablaSalePDR2"});
 }
@@ -335,7 +335,7 @@ TEST_F(MarcoDePrueba, ElExploradorOfreceArchivosYNoUsaElElegido)
     anfitrion->elegidos = {"cualquiera_Conf.vlm"};
     EXPECT_EQ(Elige("mnuDirCrea"), Lista{});
     EXPECT_EQ(anfitrion->Mensajes(apoyo::Suceso::Clase::Archivo).size(), 1U);
-    EXPECT_EQ(s.NombreProyecto, "");
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "");
 }
 
 TEST_F(MarcoDePrueba, LaConfiguracionDelMenuEsperaYRefrescaYLaDeLaBarraNo)
@@ -354,14 +354,14 @@ TEST_F(MarcoDePrueba, NuevoAbreLaConfiguracionDelProyectoNuevo)
     for (const bool porLaBarra : {false, true}) {
         anfitrion->textos.emplace_back(porLaBarra ? "Otro" : "Uno");
         EXPECT_EQ(porLaBarra ? Pulsa("Nuevo") : Elige("mnuNuevoProyecto"), Lista{"abre frmConfigura"});
-        EXPECT_TRUE(s.ProyectoNuevo) << "the configuration stores the project as it opens";
+        EXPECT_TRUE(s.Proyecto.ProyectoNuevo) << "the configuration stores the project as it opens";
     }
 }
 
 TEST_F(MarcoDePrueba, NuevoSinNombreOConUnoRechazadoNoAbreLaConfiguracion)
 {
     disco.Pon(model::Ruta(Proyectos, "Viejo_Conf.vlm"), "");
-    s.ProyectoNuevo = true;  // of a project that could not be stored
+    s.Proyecto.ProyectoNuevo = true;  // of a project that could not be stored
     for (const char* nombre : {"", "con_guion", "Viejo"}) {
         anfitrion->textos.emplace_back(nombre);
         EXPECT_EQ(Elige("mnuNuevoProyecto"), Lista{}) << nombre;
@@ -371,10 +371,10 @@ TEST_F(MarcoDePrueba, NuevoSinNombreOConUnoRechazadoNoAbreLaConfiguracion)
 TEST_F(MarcoDePrueba, LaPizarraSeAbreConElTextoDeLaUltimaCorrida)
 {
     PonProyecto();
-    s.TextoPizarra = "última";
+    s.Control.TextoPizarra = "última";
     EXPECT_EQ(Elige("mnuPizarra1"), Lista{"abre frmPp"});
     EXPECT_TRUE(Pizarra().marcada);
-    EXPECT_TRUE(s.SalidaPizarra);
+    EXPECT_TRUE(s.Control.SalidaPizarra);
     EXPECT_EQ(anfitrion->pizarra, "última");
 }
 
@@ -384,14 +384,14 @@ TEST_F(MarcoDePrueba, LaEntradaMarcadaCierraLaPizarra)
     Elige("mnuPizarra1");
     EXPECT_EQ(Elige("mnuPizarra1"), Lista{"cierra frmPp"});
     EXPECT_FALSE(Pizarra().marcada);
-    EXPECT_FALSE(s.SalidaPizarra);
+    EXPECT_FALSE(s.Control.SalidaPizarra);
 }
 
 TEST_F(MarcoDePrueba, ElBotonDeLaBarraAbreORefrescaLaPizarraYNuncaLaCierra)
 {
     PonProyecto();
     EXPECT_EQ(Pulsa("VerPizarra"), Lista{"abre frmPp"});
-    s.TextoPizarra = "otra";
+    s.Control.TextoPizarra = "otra";
     EXPECT_EQ(Pulsa("VerPizarra"), Lista{"abre frmPp"});
     EXPECT_EQ(anfitrion->pizarra, "otra");
     EXPECT_TRUE(Pizarra().marcada);
@@ -414,18 +414,18 @@ struct CorreUna : EscenaDePrueba {
     CorreUna()
     {
         PonProyecto();
-        s.PpTormenta = 0;  // the driver ends after its header: what is looked at here is around it
-        s.DurTormenta = 60;
+        s.Tormenta.PpTormenta = 0;  // the driver ends after its header: what is looked at here is around it
+        s.Tormenta.DurTormenta = 60;
     }
 };
 
 TEST_F(CorreUna, LoQueElDibujoDetieneNoCorre)
 {
     s.Anfitrion.ResguardaDibujo = [](model::Riesgo riesgo) { return riesgo != model::Riesgo::ReleeRed; };
-    s.PasoPp = 10;
-    s.PasoQ = 30;
+    s.Pasos.PasoPp = 10;
+    s.Pasos.PasoQ = 30;
     EXPECT_EQ(Elige("mnuCorre1"), Lista{});
-    EXPECT_EQ(s.PasoQ, 30);
+    EXPECT_EQ(s.Pasos.PasoQ, 30);
 }
 
 TEST_F(CorreUna, CorreYAbreElHidrogramaConElPunteroDeEspera)
@@ -435,42 +435,42 @@ TEST_F(CorreUna, CorreYAbreElHidrogramaConElPunteroDeEspera)
 
 TEST_F(CorreUna, SinProyectoOSinDirectorioOEnUnaSerieCalla)
 {
-    s.NombreProyecto.clear();
+    s.Proyecto.NombreProyecto.clear();
     EXPECT_EQ(Elige("mnuCorre1"), Lista{});
     PonProyecto();
-    s.DirProyecto.clear();
+    s.Proyecto.DirProyecto.clear();
     EXPECT_EQ(Elige("mnuCorre1"), Lista{});
-    s.DirProyecto = Proyectos;
-    s.FormaPp = 2;
+    s.Proyecto.DirProyecto = Proyectos;
+    s.Tormenta.FormaPp = 2;
     EXPECT_EQ(Elige("mnuCorre1"), Lista{});
     EXPECT_TRUE(anfitrion->sucesos.empty());
 }
 
 TEST_F(CorreUna, ElPasoDeSalidaNoPasaDelPasoDelModelo)
 {
-    s.PasoPp = 10;
-    s.PasoQ = 30;
+    s.Pasos.PasoPp = 10;
+    s.Pasos.PasoQ = 30;
     Elige("mnuCorre1");
-    EXPECT_EQ(s.PasoQ, 10);
-    s.PasoQ = 5;
+    EXPECT_EQ(s.Pasos.PasoQ, 10);
+    s.Pasos.PasoQ = 5;
     Elige("mnuCorre1");
-    EXPECT_EQ(s.PasoQ, 5);
+    EXPECT_EQ(s.Pasos.PasoQ, 5);
 }
 
 TEST_F(CorreUna, MasDeDoscientosCuarentaMinutosMuestranElAvance)
 {
-    s.DurTormenta = 241;
+    s.Tormenta.DurTormenta = 241;
     EXPECT_EQ(Elige("mnuCorre1"), (Lista{"espera", "avance SIRO procesando...", "textos Un momento...|",
                                          "abre dlgChart2", "cierra avance", "no espera"}));
-    s.DurTormenta = 240;
+    s.Tormenta.DurTormenta = 240;
     EXPECT_EQ(Elige("mnuCorre1"), (Lista{"espera", "abre dlgChart2", "no espera"}));
 }
 
 TEST_F(CorreUna, DoscientosUnPasosMuestranElAvance)
 {
-    s.NroPasosQ = 201;
+    s.Resultados.NroPasosQ = 201;
     EXPECT_EQ(Elige("mnuCorre1")[1], "avance SIRO procesando...");
-    s.NroPasosQ = 200;
+    s.Resultados.NroPasosQ = 200;
     EXPECT_EQ(Elige("mnuCorre1"), (Lista{"espera", "abre dlgChart2", "no espera"}));
 }
 
@@ -486,7 +486,7 @@ TEST_F(CorreUna, ConLaPizarraMarcadaLaCorridaLaEnciende)
 {
     Pizarra().marcada = true;
     Elige("mnuCorre1");
-    EXPECT_TRUE(s.SalidaPizarra);
+    EXPECT_TRUE(s.Control.SalidaPizarra);
     EXPECT_EQ(anfitrion->pizarrasAbiertas, 1);
 }
 
@@ -494,13 +494,13 @@ struct CorreSerie : EscenaDePrueba {
     CorreSerie()
     {
         PonProyecto();
-        s.FormaPp = 2;
-        s.NroSeriePDR = 1;
-        s.SerieP.Dimensiona(1);  // a storm of no depth ends the series at once
-        s.SerieD.Dimensiona(1);
-        s.SerieR.Dimensiona(1);
+        s.Tormenta.FormaPp = 2;
+        s.Serie.NroSeriePDR = 1;
+        s.Serie.SerieP.Dimensiona(1);  // a storm of no depth ends the series at once
+        s.Serie.SerieD.Dimensiona(1);
+        s.Serie.SerieR.Dimensiona(1);
         Pizarra().marcada = true;
-        s.SalidaPizarra = true;
+        s.Control.SalidaPizarra = true;
     }
 };
 
@@ -511,7 +511,7 @@ TEST_F(CorreSerie, PreguntaCorreYAbreElAbaco)
     EXPECT_EQ(sucesos.front(), "espera");
     EXPECT_EQ(sucesos[sucesos.size() - 2], "abre dlgChart3");
     EXPECT_EQ(sucesos.back(), "no espera");
-    EXPECT_FALSE(s.SalidaPizarra);
+    EXPECT_FALSE(s.Control.SalidaPizarra);
     EXPECT_FALSE(Pizarra().marcada);
     const Cajas esperada{
         {"Este proceso puede demandar varios minutos, siendo mayor cuanto mayor sea el número y duración de "
@@ -529,29 +529,29 @@ TEST_F(CorreSerie, CancelarNoTocaNada)
 {
     anfitrion->respuestas = {false};
     EXPECT_EQ(Elige("mnuCorre2"), Lista{});
-    EXPECT_TRUE(s.SalidaPizarra);
+    EXPECT_TRUE(s.Control.SalidaPizarra);
     EXPECT_TRUE(Pizarra().marcada);
 }
 
 TEST_F(CorreSerie, SinTormentasSoloDevuelveElPuntero)
 {
-    s.NroSeriePDR = 0;
-    s.PasoPp = 5;
-    s.PasoQ = 10;
+    s.Serie.NroSeriePDR = 0;
+    s.Pasos.PasoPp = 5;
+    s.Pasos.PasoQ = 10;
     EXPECT_EQ(Elige("mnuCorre2"), Lista{"no espera"});
     EXPECT_TRUE(anfitrion->sucesos.empty());
-    EXPECT_EQ(s.PasoQ, 5);
+    EXPECT_EQ(s.Pasos.PasoQ, 5);
 }
 
 TEST_F(CorreSerie, SinProyectoOSinSerieCalla)
 {
-    s.FormaPp = 0;
+    s.Tormenta.FormaPp = 0;
     EXPECT_EQ(Elige("mnuCorre2"), Lista{});
-    s.FormaPp = 2;
-    s.NombreProyecto.clear();
+    s.Tormenta.FormaPp = 2;
+    s.Proyecto.NombreProyecto.clear();
     EXPECT_EQ(Elige("mnuCorre2"), Lista{});
     PonProyecto();
-    s.DirProyecto.clear();
+    s.Proyecto.DirProyecto.clear();
     EXPECT_EQ(Elige("mnuCorre2"), Lista{});
     EXPECT_TRUE(anfitrion->sucesos.empty());
 }
@@ -561,9 +561,9 @@ TEST_F(CorreSerie, SinProyectoOSinSerieCalla)
 struct Graficos : EscenaDePrueba {
     Graficos()
     {
-        s.PpTormenta = 60;
-        s.DurTormenta = 60;
-        s.TituloProyecto = "Defensa";
+        s.Tormenta.PpTormenta = 60;
+        s.Tormenta.DurTormenta = 60;
+        s.Configuracion.TituloProyecto = "Defensa";
     }
 };
 
@@ -577,11 +577,11 @@ TEST_F(Graficos, ElHietogramaSeConstruyeYSeAbre)
 
 TEST_F(Graficos, SinTormentaNingunoSeAbre)
 {
-    s.PpTormenta = 0;
+    s.Tormenta.PpTormenta = 0;
     EXPECT_EQ(Elige("mnuGráficoPp"), Lista{});
     EXPECT_EQ(Elige("mnuHidrogramas"), Lista{});
-    s.PpTormenta = 60;
-    s.DurTormenta = 0;
+    s.Tormenta.PpTormenta = 60;
+    s.Tormenta.DurTormenta = 0;
     EXPECT_EQ(Elige("mnuGráficoPp"), Lista{});
     EXPECT_EQ(Elige("mnuHidrogramas"), Lista{});
     EXPECT_FALSE(anfitrion->Termino());
@@ -589,20 +589,20 @@ TEST_F(Graficos, SinTormentaNingunoSeAbre)
 
 TEST_F(Graficos, ConLaPizarraAbiertaSaleAntesAlFrente)
 {
-    s.SalidaPizarra = true;
+    s.Control.SalidaPizarra = true;
     Elige("mnuGráficoPp");
     EXPECT_EQ(anfitrion->pizarrasAbiertas, 1);
-    s.NroPasosQ = 1;
+    s.Resultados.NroPasosQ = 1;
     EXPECT_EQ(Elige("mnuHidrogramas"), Lista{"abre dlgChart2"});
     EXPECT_EQ(anfitrion->pizarrasAbiertas, 2);
 }
 
 TEST_F(Graficos, SinBloquesOSinPasosNoHayHidrograma)
 {
-    s.NroPasosQ = 1;
+    s.Resultados.NroPasosQ = 1;
     EXPECT_EQ(Elige("mnuHidrogramas"), Lista{});
     Elige("mnuGráficoPp");
-    s.NroPasosQ = 0;
+    s.Resultados.NroPasosQ = 0;
     EXPECT_EQ(Elige("mnuHidrogramas"), Lista{});
 }
 

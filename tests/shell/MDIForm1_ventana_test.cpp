@@ -120,7 +120,7 @@ TEST_F(MarcoEnPantalla, UnBotonCorreSuComando)
 {
     PulsaBoton("EntraPp");  // no project: in silence
     EXPECT_TRUE(abiertas.empty());
-    mundo.s.NombreProyecto = "Mio";
+    mundo.s.Proyecto.NombreProyecto = "Mio";
     PulsaBoton("EntraPp");
     EXPECT_EQ(abiertas, std::vector<Ventana>{Ventana::dlgPp});
 }
@@ -136,14 +136,14 @@ TEST_F(MarcoEnPantalla, LosTresBotonesSinAccionNoHacenNada)
 
 TEST_F(MarcoEnPantalla, LasTeclasDelMenuCorrenSuComando)
 {
-    mundo.s.NombreProyecto = "Mio";
+    mundo.s.Proyecto.NombreProyecto = "Mio";
     QTest::keyClick(&ventana, Qt::Key_F4);
     EXPECT_EQ(abiertas, std::vector<Ventana>{Ventana::dlgPp});
 }
 
 TEST_F(MarcoEnPantalla, ElMenuSeRecorreConElTeclado)
 {
-    mundo.s.NroSeriePDR = 2;
+    mundo.s.Serie.NroSeriePDR = 2;
     QTest::keyClick(&ventana, Qt::Key_S, Qt::AltModifier);
     QWidget* const menu = QApplication::activePopupWidget();
     ASSERT_NE(menu, nullptr);
@@ -158,7 +158,7 @@ TEST_F(MarcoEnPantalla, LaPizarraMuestraSuMarcaYSinProyectoLaPierde)
     EXPECT_FALSE(Accion("mnuPizarra1").isChecked());
     ASSERT_EQ(mundo.anfitrion->Avisos().size(), 1U);
     EXPECT_EQ(mundo.anfitrion->Avisos()[0].titulo, "Proyecto Inexistente...");
-    mundo.s.NombreProyecto = "Mio";
+    mundo.s.Proyecto.NombreProyecto = "Mio";
     PulsaBoton("VerPizarra");
     EXPECT_TRUE(Accion("mnuPizarra1").isChecked());
     EXPECT_FALSE(Control<QToolButton>(ventana, "VerPizarra").isChecked());
@@ -168,7 +168,7 @@ TEST_F(MarcoEnPantalla, LaPizarraMuestraSuMarcaYSinProyectoLaPierde)
 
 TEST_F(MarcoEnPantalla, LosRotulosMuestranElProyecto)
 {
-    mundo.s.NombreProyecto = "Mio";
+    mundo.s.Proyecto.NombreProyecto = "Mio";
     mundo.s.frmConfigura.TextCuenca = "Alta";
     Refresca();
     EXPECT_EQ(Control<RotuloProyecto>(ventana, "lblProyecto").Texto(), QStringLiteral("Mio"));
@@ -194,7 +194,7 @@ TEST_F(MarcoEnPantalla, UnRotuloCreceBajoElPunteroYVuelveCercaDeSuBorde)
 
 TEST_F(MarcoEnPantalla, ElRotuloDelProyectoNoCrece)
 {
-    mundo.s.NombreProyecto = std::string(120, 'm');
+    mundo.s.Proyecto.NombreProyecto = std::string(120, 'm');
     Refresca();
     auto& rotulo = Control<RotuloProyecto>(ventana, "lblProyecto");
     QTest::mouseMove(&rotulo, QPoint(20, 5));
@@ -212,9 +212,9 @@ TEST_F(MarcoEnPantalla, UnArchivoDeConfiguracionQueSeSueltaAbreSuProyecto)
         QApplication::sendEvent(&ventana, &evento);
     };
     suelta(QDir::tempPath() + QStringLiteral("/otro.txt"));
-    EXPECT_EQ(mundo.s.NombreProyecto, "");
+    EXPECT_EQ(mundo.s.Proyecto.NombreProyecto, "");
     suelta(QDir::tempPath() + QStringLiteral("/Nada_Conf.vlm"));
-    EXPECT_EQ(mundo.s.NombreProyecto, "Nada");
+    EXPECT_EQ(mundo.s.Proyecto.NombreProyecto, "Nada");
     EXPECT_EQ(mundo.anfitrion->guardarComoHabilitado, 1);
 }
 

@@ -206,8 +206,8 @@ class Mono {
     void Hace()
     {
         // Elsewhere lie files whose reading never ends, and a dialog looks into every one.
-        if (!escritorio->s.DirProyecto.starts_with(instalacion.Dir()))
-            escritorio->s.DirProyecto = instalacion.Proyectos();
+        if (!escritorio->s.Proyecto.DirProyecto.starts_with(instalacion.Dir()))
+            escritorio->s.Proyecto.DirProyecto = instalacion.Proyectos();
         if (auto* const caja = qobject_cast<QFileDialog*>(QApplication::activeModalWidget()))
             return EligeArchivo(*caja);
         const int suerte = Uno(100);

@@ -46,8 +46,8 @@ struct Pantallas : EscritorioDePrueba {
     void SetUp() override
     {
         Arranca(instalacion.Quelmar());
-        escritorio.s.PpTormenta = 80;
-        escritorio.s.DurTormenta = 120;
+        escritorio.s.Tormenta.PpTormenta = 80;
+        escritorio.s.Tormenta.DurTormenta = 120;
     }
 
     /// The window, or the frame around it in the main window, fits; its push buttons are in sight; a picture.

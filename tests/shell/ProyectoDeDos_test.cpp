@@ -51,13 +51,13 @@ struct BajoElEditor : EscritorioDePrueba {
         Arranca(instalacion.Quelmar());
         Accion("mnufrmUEHs").trigger();
         ASSERT_TRUE(QTest::qWaitForWindowActive(Editor()));
-        uehs = escritorio.s.ColUEHs.Cuenta();
+        uehs = escritorio.s.Red.ColUEHs.Cuenta();
         Editor()->findChild<QAction*>(QStringLiteral("btn_toolbarUEH"))->trigger();
         anfitrion->textos = {"nueva"};
         auto& lienzo = Control<QWidget>(*Editor(), "picDibujo");
         QTest::mouseClick(lienzo.window()->windowHandle(), Qt::LeftButton, {},
                           lienzo.mapTo(lienzo.window(), QPoint(40, 40)));
-        ASSERT_EQ(escritorio.s.ColUEHs.Cuenta(), uehs + 1);
+        ASSERT_EQ(escritorio.s.Red.ColUEHs.Cuenta(), uehs + 1);
         anfitrion->sucesos.clear();
     }
     std::vector<model::Mensaje> Resguardos() const
@@ -83,13 +83,13 @@ TEST_F(BajoElEditor, OtroProyectoElegidoEnLaConfiguracionNoRecibeLaRedDelQueSeDi
     AbreYDibuja();
     EligeOtro();
     EXPECT_EQ(Resguardos().size(), 1U);
-    EXPECT_EQ(escritorio.s.NombreProyecto, "Quelmar") << "cancelled";
+    EXPECT_EQ(escritorio.s.Proyecto.NombreProyecto, "Quelmar") << "cancelled";
     EXPECT_TRUE(Editor()->isVisible());
-    EXPECT_EQ(escritorio.s.ColUEHs.Cuenta(), uehs + 1);
+    EXPECT_EQ(escritorio.s.Red.ColUEHs.Cuenta(), uehs + 1);
 
     anfitrion->resguardos = {Resguardo::SeguirSinGuardar};
     EligeOtro();
-    EXPECT_EQ(escritorio.s.NombreProyecto, "Otro");
+    EXPECT_EQ(escritorio.s.Proyecto.NombreProyecto, "Otro");
     EXPECT_FALSE(Editor()->isVisible());
     EXPECT_EQ(Lee("Otro", "_UEHs.vlm"), otraRed);
     EXPECT_EQ(Lee("Quelmar", "_UEHs.vlm"), red);
@@ -100,7 +100,7 @@ TEST_F(BajoElEditor, ReabrirElUltimoGuardaAntesLoQueSePide)
     AbreYDibuja();
     Accion("mnu_ultimoarchivo1").trigger();
     EXPECT_EQ(Resguardos().size(), 1U);
-    EXPECT_EQ(escritorio.s.ColUEHs.Cuenta(), uehs + 1) << "cancelled";
+    EXPECT_EQ(escritorio.s.Red.ColUEHs.Cuenta(), uehs + 1) << "cancelled";
     anfitrion->resguardos = {Resguardo::Guardar};
     Accion("mnu_ultimoarchivo1").trigger();
     EXPECT_FALSE(Editor()->isVisible());
@@ -116,22 +116,22 @@ TEST_F(BajoElEditor, F3DeLaPrincipalAlzaElEditorYNoReleeNada)
     ASSERT_TRUE(QTest::qWaitForWindowActive(&escritorio.Principal()));
     QTest::keyClick(&escritorio.Principal(), Qt::Key_F3);
     EXPECT_TRUE(QTest::qWaitForWindowActive(Editor()));
-    EXPECT_EQ(escritorio.s.ColUEHs.Cuenta(), uehs + 1);
+    EXPECT_EQ(escritorio.s.Red.ColUEHs.Cuenta(), uehs + 1);
     EXPECT_TRUE(anfitrion->sucesos.empty());
 }
 
 TEST_F(BajoElEditor, UnaCorridaSobreUnDibujoSinGuardarSePregunta)
 {
     AbreYDibuja();
-    escritorio.s.PpTormenta = 80;
-    escritorio.s.DurTormenta = 120;
+    escritorio.s.Tormenta.PpTormenta = 80;
+    escritorio.s.Tormenta.DurTormenta = 120;
     Accion("mnuCorre1").trigger();
     EXPECT_EQ(Resguardos().size(), 1U);
-    EXPECT_EQ(escritorio.s.ColUEHs.Cuenta(), uehs + 1);
+    EXPECT_EQ(escritorio.s.Red.ColUEHs.Cuenta(), uehs + 1);
     EXPECT_FALSE(escritorio.hidrograma.abierta);
     anfitrion->resguardos = {Resguardo::SeguirSinGuardar};
     Accion("mnuCorre1").trigger();
-    EXPECT_EQ(escritorio.s.ColUEHs.Cuenta(), uehs);
+    EXPECT_EQ(escritorio.s.Red.ColUEHs.Cuenta(), uehs);
     EXPECT_EQ(Lee("Quelmar", "_UEHs.vlm"), red);
 }
 
@@ -142,7 +142,7 @@ TEST_F(BajoElEditor, LaLluviaPorUEHSePregunta)
     rainfall::Abre(tabla, escritorio.s);
     EXPECT_EQ(Resguardos().size(), 1U);
     EXPECT_FALSE(tabla.abierta);
-    EXPECT_EQ(escritorio.s.ColUEHs.Cuenta(), uehs + 1);
+    EXPECT_EQ(escritorio.s.Red.ColUEHs.Cuenta(), uehs + 1);
 }
 
 // --- another program ---
@@ -154,8 +154,8 @@ struct ConCandado : EscritorioDePrueba {
         // At home already: its first opening would store it anew.
         model::Siro deAntes;
         deAntes.Disco = escritorio.s.Disco;
-        deAntes.DirProyecto = instalacion.Proyectos();
-        deAntes.NombreProyecto = "Quelmar";
+        deAntes.Proyecto.DirProyecto = instalacion.Proyectos();
+        deAntes.Proyecto.NombreProyecto = "Quelmar";
         model::leoConf(deAntes);
     }
     ~ConCandado() override { qputenv("XDG_DATA_HOME", antes); }

@@ -32,14 +32,14 @@ class Configura : public testing::Test {
     {
         s.Anfitrion = anfitrion.Puerta();
         s.Disco = disco.Puerta();
-        s.DirTrabajo = s.DirEjecutable = "/siro";
-        s.DirProyecto = "/proy";
+        s.Proyecto.DirTrabajo = s.Proyecto.DirEjecutable = "/siro";
+        s.Proyecto.DirProyecto = "/proy";
         f.DirPersonal = "/casas/ana";
         disco.PonDirectorio("/siro");
         disco.PonDirectorio("/casas/ana");
         disco.PonDirectorio("/otro");
         for (const char* proyecto : {"Otro", "Mio"}) {
-            s.NombreProyecto = proyecto;
+            s.Proyecto.NombreProyecto = proyecto;
             s.frmConfigura.Dir1 = "/proy";
             s.frmConfigura.lblMiArchivoConf = std::string(proyecto) + "_Conf.vlm";
             s.frmConfigura.TextProyecto = std::string("Crecidas de ") + proyecto;
@@ -124,7 +124,7 @@ TEST_F(Configura, AlAbrirMuestraElProyectoSuDirectorioYLosArchivos)
 
 TEST_F(Configura, AlAbrirSinProyectoLosRotulosQuedan)
 {
-    s.NombreProyecto.clear();
+    s.Proyecto.NombreProyecto.clear();
     Abre(f, s);
     EXPECT_EQ(f.lblnombreproyecto, "Mio");
     EXPECT_EQ(s.frmConfigura.lblMiArchivoConf, "Mio_Conf.vlm");
@@ -134,7 +134,7 @@ TEST_F(Configura, AlAbrirVuelveALaPrimeraFichaYAlDirectorioEnUso)
 {
     f.SSTab1 = 2;
     Dir1_Change(f, s, "/otro");
-    EXPECT_EQ(s.DirProyecto, "/proy");  // picked, not applied
+    EXPECT_EQ(s.Proyecto.DirProyecto, "/proy");  // picked, not applied
     Abre(f, s);
     EXPECT_EQ(f.SSTab1, 0);
     EXPECT_EQ(s.frmConfigura.Dir1, "/proy");
@@ -153,7 +153,7 @@ TEST_F(Configura, AlAbrirElNombreDelDirectorioNuevoSeVaciaSinSuTilde)
 
 TEST_F(Configura, UnDirectorioQueYaNoEstaNoListaNada)
 {
-    s.DirProyecto = "/ausente";
+    s.Proyecto.DirProyecto = "/ausente";
     Abre(f, s);
     EXPECT_TRUE(f.filArchivoConfigura.items.empty());
     EXPECT_TRUE(f.filArchivoImagenDib.items.empty());
@@ -162,9 +162,9 @@ TEST_F(Configura, UnDirectorioQueYaNoEstaNoListaNada)
 
 TEST_F(Configura, UnProyectoNuevoSeGuardaAlAbrirYMuestraLaFichaDeImagen)
 {
-    s.NombreProyecto = "Nuevo";
-    s.DirProyectoConf = "/proy";
-    s.ProyectoNuevo = true;
+    s.Proyecto.NombreProyecto = "Nuevo";
+    s.Proyecto.DirProyectoConf = "/proy";
+    s.Proyecto.ProyectoNuevo = true;
     Abre(f, s);
     EXPECT_TRUE(disco.Esta("/proy/Nuevo_Conf.vlm"));
     EXPECT_EQ(
@@ -178,7 +178,7 @@ TEST_F(Configura, UnProyectoNuevoSeGuardaAlAbrirYMuestraLaFichaDeImagen)
     EXPECT_EQ(f.filArchivoConfigura.items[static_cast<std::size_t>(f.filArchivoConfigura.indice)],
               "Nuevo_Conf.vlm");
     EXPECT_TRUE(f.abierta);
-    EXPECT_FALSE(s.ProyectoNuevo);
+    EXPECT_FALSE(s.Proyecto.ProyectoNuevo);
     // The next opening is an ordinary one.
     Abre(f, s);
     EXPECT_EQ(f.SSTab1, 0);
@@ -187,13 +187,13 @@ TEST_F(Configura, UnProyectoNuevoSeGuardaAlAbrirYMuestraLaFichaDeImagen)
 
 TEST_F(Configura, UnProyectoNuevoQueNoSePuedeGuardarLoDiceYSigueNuevo)
 {
-    s.NombreProyecto = "Nuevo";
-    s.DirProyectoConf = "/proy";
-    s.ProyectoNuevo = true;
+    s.Proyecto.NombreProyecto = "Nuevo";
+    s.Proyecto.DirProyectoConf = "/proy";
+    s.Proyecto.ProyectoNuevo = true;
     disco.Protege("/proy");
     Abre(f, s);
     EXPECT_EQ(Avisos(), std::vector<Mensaje>{SinAcceso});
-    EXPECT_TRUE(s.ProyectoNuevo);
+    EXPECT_TRUE(s.Proyecto.ProyectoNuevo);
     EXPECT_TRUE(f.abierta);
 }
 
@@ -220,7 +220,7 @@ TEST_F(Configura, LasListasSiguenAlDirectorioElegido)
     Dir1_Change(f, s, "/otro");
     EXPECT_EQ(s.frmConfigura.Dir1, "/otro");
     EXPECT_EQ(f.filArchivoConfigura.items, (Textos{"x_Conf.vlm", "y_CONF.VLM", "zConf.vlm"}));
-    EXPECT_EQ(s.DirProyecto, "/proy");
+    EXPECT_EQ(s.Proyecto.DirProyecto, "/proy");
 }
 
 TEST_F(Configura, UnDirectorioQueNoEstaAvisaYQuedaElDeAntes)
@@ -248,7 +248,7 @@ TEST_F(Configura, ConfigurarPorDefectoCreaSusDosDirectoriosYEligeElDeProyectos)
     BtnDefecto(f, s);
     EXPECT_TRUE(s.Disco.HayDirectorio("/casas/ana/SIRO/Proyectos"));
     EXPECT_EQ(s.frmConfigura.Dir1, "/casas/ana/SIRO/Proyectos");
-    EXPECT_EQ(s.DirProyecto, "/casas/ana/SIRO/Proyectos");
+    EXPECT_EQ(s.Proyecto.DirProyecto, "/casas/ana/SIRO/Proyectos");
     EXPECT_EQ(s.frmConfigura.Drive1, "");
     EXPECT_EQ(s.frmConfigura.CheckDistriPp, 1);
     EXPECT_FALSE(f.CheckDirNv);
@@ -258,7 +258,7 @@ TEST_F(Configura, ConfigurarPorDefectoCreaSusDosDirectoriosYEligeElDeProyectos)
     Abre(f, s);
     BtnDefecto(f, s);
     EXPECT_TRUE(Avisos().empty());
-    EXPECT_EQ(s.DirProyecto, "/casas/ana/SIRO/Proyectos");
+    EXPECT_EQ(s.Proyecto.DirProyecto, "/casas/ana/SIRO/Proyectos");
 }
 
 TEST_F(Configura, ConfigurarPorDefectoSinPermisoAvisaYNadaCambia)
@@ -268,7 +268,7 @@ TEST_F(Configura, ConfigurarPorDefectoSinPermisoAvisaYNadaCambia)
     BtnDefecto(f, s);
     EXPECT_EQ(Avisos(), std::vector<Mensaje>{SinAcceso});
     EXPECT_EQ(s.frmConfigura.Dir1, "/proy");
-    EXPECT_EQ(s.DirProyecto, "/proy");
+    EXPECT_EQ(s.Proyecto.DirProyecto, "/proy");
     EXPECT_EQ(s.frmConfigura.CheckDistriPp, 0);
 }
 
@@ -288,7 +288,7 @@ TEST_F(Configura, CrearHaceElDirectorioDentroDelElegidoYPasaAEl)
     BtnDirNv(f, s);
     EXPECT_TRUE(s.Disco.HayDirectorio("/proy/cuencas"));
     EXPECT_EQ(s.frmConfigura.Dir1, "/proy/cuencas");
-    EXPECT_EQ(s.DirProyecto, "/proy/cuencas");
+    EXPECT_EQ(s.Proyecto.DirProyecto, "/proy/cuencas");
     EXPECT_TRUE(f.filArchivoImagenDib.items.empty());
     EXPECT_TRUE(Avisos().empty());
 }
@@ -320,7 +320,7 @@ TEST_F(Configura, CrearSinPermisoDaElErrorYNadaCambia)
     BtnDirNv(f, s);
     EXPECT_EQ(Avisos(), std::vector<Mensaje>{SinAcceso});
     EXPECT_EQ(s.frmConfigura.Dir1, "/proy");
-    EXPECT_EQ(s.DirProyecto, "/proy");
+    EXPECT_EQ(s.Proyecto.DirProyecto, "/proy");
 }
 
 // --- files ---
@@ -329,7 +329,7 @@ TEST_F(Configura, UnArchivoDeConfiguracionCargaSuProyecto)
 {
     f.filArchivoConfigura.indice = 1;
     filArchivoConfigura_Click(f, s);
-    EXPECT_EQ(s.NombreProyecto, "Otro");
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "Otro");
     EXPECT_EQ(s.frmConfigura.TextProyecto, "Crecidas de Otro");
     EXPECT_EQ(s.frmConfigura.lblMiArchivoConf, "Otro_Conf.vlm");
     EXPECT_EQ(f.lblnombreproyecto, "Otro");
@@ -345,7 +345,7 @@ TEST_F(Configura, ElDirectorioEnUsoCambiaAlPulsarUnArchivoDeConfiguracion)
     Dir1_Change(f, s, "/otro");
     f.filArchivoConfigura.indice = 0;
     filArchivoConfigura_Click(f, s);
-    EXPECT_EQ(s.DirProyecto, "/otro");
+    EXPECT_EQ(s.Proyecto.DirProyecto, "/otro");
     // The file says /proy: the project has moved and is stored anew.
     ASSERT_EQ(Avisos().size(), 2U);
     EXPECT_TRUE(Avisos()[0].texto.ends_with("/otro/Otro_Conf.vlm"));
@@ -354,7 +354,7 @@ TEST_F(Configura, ElDirectorioEnUsoCambiaAlPulsarUnArchivoDeConfiguracion)
 TEST_F(Configura, UnNombreSinGuionEsTambienUnProyecto)
 {
     PulsaArchivo("MioConf.vlm");
-    EXPECT_EQ(s.NombreProyecto, "Mio");
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "Mio");
     EXPECT_EQ(Avisos(), (std::vector<Mensaje>{
                             {"Se han cargado los datos de configuración del archivo MioConf.vlm del proyecto "
                              "Mio"}}));
@@ -371,7 +371,7 @@ TEST_F(Configura, UnArchivoConOtroFinalSeRechaza)
                                    " no es un archivo de configuración válido. Los archivos de configuración "
                                    "tienen el formato nnConf.vlm, donde nn es el nombre del proyecto"}}));
         EXPECT_EQ(s.frmConfigura.lblMiArchivoConf, "debe cargar el archivo Conf.");
-        EXPECT_EQ(s.NombreProyecto, "Mio");
+        EXPECT_EQ(s.Proyecto.NombreProyecto, "Mio");
     }
 }
 
@@ -430,7 +430,7 @@ TEST_F(ImagenAfuera, LaLineaDiceLoQuePasaraYLaTeclaTraeLaImagen)
     EXPECT_EQ(disco.Bytes("/proy/foto.JPG"), "foto");
     EXPECT_EQ(s.frmConfigura.lblImagenDibujo, "/proy/foto.JPG");
     EXPECT_EQ(s.frmConfigura.Dir1, "/proy");
-    EXPECT_EQ(s.DirProyecto, "/proy");
+    EXPECT_EQ(s.Proyecto.DirProyecto, "/proy");
     cmdAplicar(f, s);
     EXPECT_FALSE(disco.Esta("/otro/Mio_Conf.vlm"));
     EXPECT_NE(disco.Bytes("/proy/Mio_Conf.vlm").find("\"/proy/foto.JPG\""), std::string::npos);
@@ -439,7 +439,7 @@ TEST_F(ImagenAfuera, LaLineaDiceLoQuePasaraYLaTeclaTraeLaImagen)
 TEST_F(ImagenAfuera, DespuesDeAplicarDiceLoQuePasoYLaTeclaVuelve)
 {
     OKButton(f, s);
-    ASSERT_EQ(s.DirProyecto, "/otro");
+    ASSERT_EQ(s.Proyecto.DirProyecto, "/otro");
     ASSERT_TRUE(disco.Esta("/otro/Mio_Conf.vlm"));
     Abre(f, s);
     EXPECT_EQ(AvisoImagen(f, s), "El proyecto pasó a la carpeta de su imagen, /otro. Su red quedó en /proy");
@@ -448,7 +448,7 @@ TEST_F(ImagenAfuera, DespuesDeAplicarDiceLoQuePasoYLaTeclaVuelve)
     cmdTraeImagen(f, s);
     EXPECT_EQ(Avisos(), std::vector<Mensaje>{Guardado});
     EXPECT_EQ(anfitrion->Preguntas(), std::vector<Mensaje>{}) << "it is the project's own file";
-    EXPECT_EQ(s.DirProyecto, "/proy");
+    EXPECT_EQ(s.Proyecto.DirProyecto, "/proy");
     EXPECT_EQ(disco.Bytes("/proy/foto.JPG"), "foto");
     EXPECT_NE(disco.Bytes("/proy/Mio_Conf.vlm").find("\"/proy/foto.JPG\""), std::string::npos);
     EXPECT_FALSE(disco.Esta("/otro/Mio_Conf.vlm")) << "what the move had made";
@@ -462,9 +462,9 @@ TEST_F(ImagenAfuera, UnaConfiguracionQueYaEstabaAllaSeQueda)
     disco.Pon("/otro/Mio_Conf.vlm", "de antes");
     anfitrion->respuestas = {true};  // over that one
     cmdAplicar(f, s);
-    ASSERT_EQ(s.DirProyecto, "/otro");
+    ASSERT_EQ(s.Proyecto.DirProyecto, "/otro");
     cmdTraeImagen(f, s);
-    EXPECT_EQ(s.DirProyecto, "/proy");
+    EXPECT_EQ(s.Proyecto.DirProyecto, "/proy");
     EXPECT_TRUE(disco.Esta("/otro/Mio_Conf.vlm"));
 }
 
@@ -490,7 +490,7 @@ TEST_F(ImagenAfuera, SinEspacioElProyectoQuedaDondeEsta)
     anfitrion->sucesos.clear();
     cmdTraeImagen(f, s);
     EXPECT_EQ(Avisos(), std::vector<Mensaje>{SinAcceso});
-    EXPECT_EQ(s.DirProyecto, "/otro");
+    EXPECT_EQ(s.Proyecto.DirProyecto, "/otro");
     EXPECT_NE(AvisoImagen(f, s), "");
 }
 
@@ -516,7 +516,7 @@ TEST_F(Configura, LoQueElDibujoDetieneNoCambiaNiProyectoNiCarpeta)
     };
     PulsaArchivo("Otro_Conf.vlm");
     EXPECT_EQ(riesgos, std::vector<model::Riesgo>{model::Riesgo::OtroProyecto});
-    EXPECT_EQ(s.NombreProyecto, "Mio");
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "Mio");
     PulsaArchivo("Mio_Conf.vlm");
     EXPECT_EQ(riesgos.size(), 1U) << "its own file is no other project";
     const Textos antes = disco.Archivos();
@@ -530,8 +530,8 @@ TEST_F(Configura, LoQueElDibujoDetieneNoCambiaNiProyectoNiCarpeta)
     EXPECT_TRUE(f.abierta);
     EXPECT_EQ(riesgos.size(), 5U);
     EXPECT_EQ(riesgos.back(), model::Riesgo::MueveProyecto);
-    EXPECT_EQ(s.NombreProyecto, "Mio");
-    EXPECT_EQ(s.DirProyecto, "/proy");
+    EXPECT_EQ(s.Proyecto.NombreProyecto, "Mio");
+    EXPECT_EQ(s.Proyecto.DirProyecto, "/proy");
     EXPECT_EQ(disco.Archivos(), antes);
     EXPECT_FALSE(s.Disco.HayDirectorio("/proy/nueva"));
 }
@@ -544,7 +544,7 @@ TEST_F(Configura, AceptarSinPisarElArchivoDeOtroSigueAbierto)
     OKButton(f, s);
     EXPECT_TRUE(f.abierta);
     EXPECT_EQ(disco.Bytes("/otro/Mio_Conf.vlm"), "ajeno");
-    EXPECT_EQ(s.DirProyecto, "/proy");
+    EXPECT_EQ(s.Proyecto.DirProyecto, "/proy");
 }
 
 TEST_F(Configura, ElCandadoDeUnProyectoNoEstaEntreLasImagenes)
@@ -579,14 +579,14 @@ TEST_F(Configura, ElZoomSeRecortaSinMensaje)
                              Caso{"x", "0", 0}, Caso{"0.5", "0.5", 0.5}, Caso{"12,5", "12,5", 12}}) {
         EXPECT_TRUE(Deja("TexIMGEscala", &C::TexIMGEscala, caso.tecleado));
         EXPECT_EQ(s.frmConfigura.TexIMGEscala, caso.texto) << caso.tecleado;
-        EXPECT_EQ(s.EscalaImagen, caso.escala) << caso.tecleado;
+        EXPECT_EQ(s.Configuracion.EscalaImagen, caso.escala) << caso.tecleado;
     }
     EXPECT_TRUE(Avisos().empty());
 }
 
 TEST_F(Configura, ElCorrimientoSeRecortaAlTamanoDelDibujo)
 {
-    s.MaxUEHsPixel = "600";
+    s.Configuracion.MaxUEHsPixel = "600";
     struct Caso {
         const char* tecleado;
         const char* texto;
@@ -598,8 +598,8 @@ TEST_F(Configura, ElCorrimientoSeRecortaAlTamanoDelDibujo)
         EXPECT_TRUE(Deja("TexIMGY0", &C::TexIMGY0, caso.tecleado));
         EXPECT_EQ(s.frmConfigura.TexIMGX0, caso.texto) << caso.tecleado;
         EXPECT_EQ(s.frmConfigura.TexIMGY0, caso.texto) << caso.tecleado;
-        EXPECT_EQ(s.ImagenX0, caso.x) << caso.tecleado;
-        EXPECT_EQ(s.ImagenY0, caso.x) << caso.tecleado;
+        EXPECT_EQ(s.Configuracion.ImagenX0, caso.x) << caso.tecleado;
+        EXPECT_EQ(s.Configuracion.ImagenY0, caso.x) << caso.tecleado;
     }
     EXPECT_TRUE(Avisos().empty());
 }
@@ -607,19 +607,19 @@ TEST_F(Configura, ElCorrimientoSeRecortaAlTamanoDelDibujo)
 TEST_F(Configura, SinTamanoDelDibujoElCorrimientoLlegaA800)
 {
     for (const char* tamano : {"", "0", "-5", "x"}) {
-        s.MaxUEHsPixel = tamano;
+        s.Configuracion.MaxUEHsPixel = tamano;
         Deja("TexIMGX0", &C::TexIMGX0, "5000");
-        EXPECT_EQ(s.ImagenX0, 800) << tamano;
+        EXPECT_EQ(s.Configuracion.ImagenX0, 800) << tamano;
         EXPECT_EQ(s.frmConfigura.TexIMGX0, "800") << tamano;
     }
 }
 
 TEST_F(Configura, UnNumeroQueNoCabeSeAvisaYNoCambiaNada)
 {
-    s.ImagenX0 = 7;
+    s.Configuracion.ImagenX0 = 7;
     Deja("TexIMGX0", &C::TexIMGX0, "-1e39");
     EXPECT_EQ(Avisos(), (std::vector<Mensaje>{{"Error Nro. 6 ,DesbordamientoVerifique"}}));
-    EXPECT_EQ(s.ImagenX0, 7);
+    EXPECT_EQ(s.Configuracion.ImagenX0, 7);
 }
 
 TEST_F(Configura, LaEscalaVaDe0A50000YSuMensajeHablaDeOtrosLimites)
@@ -633,10 +633,10 @@ TEST_F(Configura, LaEscalaVaDe0A50000YSuMensajeHablaDeOtrosLimites)
          {Caso{"5", true, "5"}, Caso{"0", true, "0"}, Caso{"50000", true, "50000"},
           Caso{"12,5", true, "12.5"}, Caso{"50000.1", false, "3"}, Caso{"60000", false, "3"},
           Caso{"-1", false, "3"}, Caso{"", false, "3"}, Caso{"12x", false, "3"}}) {
-        s.EscalaDibujo = "3";
+        s.Configuracion.EscalaDibujo = "3";
         anfitrion->sucesos.clear();
         EXPECT_EQ(Deja("txtEscalaImagen", &C::txtEscalaImagen, caso.tecleado), caso.pasa) << caso.tecleado;
-        EXPECT_EQ(s.EscalaDibujo, caso.escala) << caso.tecleado;
+        EXPECT_EQ(s.Configuracion.EscalaDibujo, caso.escala) << caso.tecleado;
         EXPECT_EQ(Avisos(), caso.pasa ? std::vector<Mensaje>{} : std::vector<Mensaje>{EntreDiezYTreintaMil})
             << caso.tecleado;
         EXPECT_EQ(f.foco, caso.pasa ? forms::Foco{} : (forms::Foco{"txtEscalaImagen", true}));
@@ -654,10 +654,10 @@ TEST_F(Configura, ElTiempoAgregadoVaDe10A30000YSeGuardaSinAplicar)
     for (const Caso& caso : {Caso{"10", true, 10}, Caso{"30000", true, 30000}, Caso{"45,25", true, 45.25F},
                              Caso{"9.99", false, 77}, Caso{"30000.5", false, 77}, Caso{"", false, 77},
                              Caso{"diez", false, 77}}) {
-        s.N0Dur = 77;
+        s.Pasos.N0Dur = 77;
         anfitrion->sucesos.clear();
         EXPECT_EQ(Deja("txtN0Dur", &C::txtN0Dur, caso.tecleado), caso.pasa) << caso.tecleado;
-        EXPECT_EQ(s.N0Dur, caso.tiempo) << caso.tecleado;
+        EXPECT_EQ(s.Pasos.N0Dur, caso.tiempo) << caso.tecleado;
         EXPECT_EQ(Avisos(), caso.pasa ? std::vector<Mensaje>{} : std::vector<Mensaje>{EntreDiezYTreintaMil})
             << caso.tecleado;
     }
@@ -679,7 +679,7 @@ TEST_F(Configura, ElAnchoDelDibujoNoPasaDe1024AlCambiarNiAlSalir)
         txtMaxUEHsPixel_Change(f, s);
         EXPECT_EQ(s.frmConfigura.txtMaxUEHsPixel, tecleado);
     }
-    EXPECT_EQ(s.MaxUEHsPixel, "800");
+    EXPECT_EQ(s.Configuracion.MaxUEHsPixel, "800");
     EXPECT_TRUE(Avisos().empty());
 }
 
@@ -731,7 +731,7 @@ TEST_F(Configura, AplicarGuardaEnElDirectorioElegidoYSigueAbierto)
     Dir1_Change(f, s, "/otro");
     cmdAplicar(f, s);
     EXPECT_TRUE(disco.Esta("/otro/Mio_Conf.vlm"));
-    EXPECT_EQ(s.DirProyecto, "/otro");
+    EXPECT_EQ(s.Proyecto.DirProyecto, "/otro");
     EXPECT_EQ(f.filArchivoConfigura.items, Textos{"Mio_Conf.vlm"});
     EXPECT_TRUE(f.abierta);
     EXPECT_EQ(anfitrion->rotulosProyecto, 0);
@@ -747,13 +747,13 @@ TEST_F(Configura, AceptarGuardaCierraYRefrescaLosRotulos)
 
 TEST_F(Configura, AceptarSinProyectoNoEscribeNingunArchivo)
 {
-    s.NombreProyecto.clear();
+    s.Proyecto.NombreProyecto.clear();
     const Textos antes = disco.Archivos();
     OKButton(f, s);
     EXPECT_EQ(disco.Archivos(), antes);
     EXPECT_TRUE(Avisos().empty());
     EXPECT_FALSE(f.abierta);
-    EXPECT_EQ(s.DirProyectoConf, "/proy");
+    EXPECT_EQ(s.Proyecto.DirProyectoConf, "/proy");
 }
 
 TEST_F(Configura, AceptarSinPoderEscribirAvisaYSigueAbierto)
@@ -782,9 +782,9 @@ TEST_F(Configura, CancelarNoTocaElArchivoYLoTomadoDeUnCampoQueda)
     CancelButton(f);
     EXPECT_FALSE(f.abierta);
     EXPECT_EQ(disco.Bytes("/proy/Mio_Conf.vlm"), antes);
-    EXPECT_EQ(s.N0Dur, 90);
+    EXPECT_EQ(s.Pasos.N0Dur, 90);
     model::leoConf(s);
-    EXPECT_EQ(s.N0Dur, 10);
+    EXPECT_EQ(s.Pasos.N0Dur, 10);
 }
 
 TEST_F(Configura, SinAplicarEstaLoQueElArchivoNoTiene)
@@ -805,7 +805,7 @@ TEST_F(Configura, SinAplicarEstaLoQueElArchivoNoTiene)
     disco.DejaDeFallar();
     AlCargarProyecto(f, s);  // still the same one
     EXPECT_TRUE(SinAplicar(f, s));
-    s.NombreProyecto = "Otro";
+    s.Proyecto.NombreProyecto = "Otro";
     model::leoConf(s);
     AlCargarProyecto(f, s);
     EXPECT_FALSE(SinAplicar(f, s));

@@ -37,9 +37,9 @@ class VentanaConfigura : public testing::Test {
   protected:
     VentanaConfigura()
     {
-        s.DirTrabajo = s.DirEjecutable = Dir();
-        s.DirProyecto = Dir();
-        s.NombreProyecto = "Mio";
+        s.Proyecto.DirTrabajo = s.Proyecto.DirEjecutable = Dir();
+        s.Proyecto.DirProyecto = Dir();
+        s.Proyecto.NombreProyecto = "Mio";
         s.frmConfigura.Dir1 = Dir();
         s.frmConfigura.lblMiArchivoConf = "Mio_Conf.vlm";
         s.frmConfigura.TextProyecto = "Crecidas";
@@ -145,7 +145,7 @@ TEST_F(VentanaConfigura, ElTiempoFueraDeLimitesAvisaYConservaElFocoSeleccionado)
     EXPECT_EQ(DeQ(campo.selectedText()), "9");
     apoyo::Teclea(campo, "12,5");
     QTest::keyClick(&campo, Qt::Key_Tab);
-    EXPECT_TRUE(Espera([&] { return s.N0Dur == 12.5F; }));
+    EXPECT_TRUE(Espera([&] { return s.Pasos.N0Dur == 12.5F; }));
     EXPECT_EQ(DeQ(campo.text()), "12.5");
     EXPECT_EQ(Avisos().size(), 1U);
 }
@@ -165,7 +165,7 @@ TEST_F(VentanaConfigura, LaFichaNoCambiaConUnCampoRechazado)
     apoyo::Teclea(C("txtEscalaImagen"), "5");
     Ficha(1);
     EXPECT_EQ(FichaActual(), 1);
-    EXPECT_EQ(s.EscalaDibujo, "5");
+    EXPECT_EQ(s.Configuracion.EscalaDibujo, "5");
 }
 
 TEST_F(VentanaConfigura, ElZoomSeRecortaSinMensajeAlPasarAOtroCampo)
@@ -245,7 +245,7 @@ TEST_F(VentanaConfigura, UnDirectorioDelArbolSeEligeYLasListasLoSiguen)
     EXPECT_EQ(s.frmConfigura.Dir1, Dir() + "/cuencas");
     EXPECT_EQ(DeQ(C<QLabel>("lblDir1").text()), Dir() + "/cuencas");
     EXPECT_EQ(C<QListWidget>("filArchivoConfigura").count(), 0);
-    EXPECT_EQ(s.DirProyecto, Dir());
+    EXPECT_EQ(s.Proyecto.DirProyecto, Dir());
     QTest::keyClick(&arbol, Qt::Key_Up);
     EXPECT_EQ(s.frmConfigura.Dir1, Dir());
     EXPECT_EQ(C<QListWidget>("filArchivoConfigura").count(), 1);
@@ -306,9 +306,9 @@ TEST_F(VentanaConfigura, EnterAceptaLoTecleadoYCierra)
     EXPECT_TRUE(Espera([&] { return !v.isVisible(); }));
     EXPECT_EQ(Avisos().size(), 1U);
     EXPECT_EQ(mundo.anfitrion->rotulosProyecto, 1);
-    s.N0Dur = 0;
+    s.Pasos.N0Dur = 0;
     model::leoConf(s);
-    EXPECT_EQ(s.N0Dur, 120);
+    EXPECT_EQ(s.Pasos.N0Dur, 120);
 }
 
 TEST_F(VentanaConfigura, EscCancelaSinRevisarNiEscribir)
@@ -321,7 +321,7 @@ TEST_F(VentanaConfigura, EscCancelaSinRevisarNiEscribir)
     QTest::qWait(50);
     EXPECT_FALSE(v.isVisible());  // the one question, whether to give it up, was answered so
     EXPECT_TRUE(Avisos().empty());
-    EXPECT_EQ(s.N0Dur, 10);
+    EXPECT_EQ(s.Pasos.N0Dur, 10);
     EXPECT_EQ(s.Disco.Lee(Dir() + "/Mio_Conf.vlm"), antes);
 }
 
@@ -373,9 +373,9 @@ TEST_F(VentanaConfigura, CancelarNoPreguntaYUnAplicarFallidoSigueMarcado)
 
 TEST_F(VentanaConfigura, UnProyectoNuevoSeGuardaAlAbrirYMuestraLaFichaDeImagen)
 {
-    s.NombreProyecto = "Nuevo";
-    s.DirProyectoConf = Dir();
-    s.ProyectoNuevo = true;
+    s.Proyecto.NombreProyecto = "Nuevo";
+    s.Proyecto.DirProyectoConf = Dir();
+    s.Proyecto.ProyectoNuevo = true;
     Abre();
     EXPECT_EQ(FichaActual(), FichaImagen);
     EXPECT_EQ(Avisos().size(), 1U);

@@ -55,8 +55,8 @@ inline std::string UnidadAparte(std::string_view leyenda, std::string_view unida
 template <typename Forma, typename Registro, int Limite>
 struct ReglasFicha {
     std::string_view prefijo;  ///< of the names of the kind
-    model::Coleccion<Registro, Limite> model::Siro::*coleccion;
-    std::int16_t model::Siro::*seleccion;  ///< number of the component in hand
+    model::Coleccion<Registro, Limite> model::Red::*coleccion;
+    std::int16_t model::Seleccion::*seleccion;  ///< number of the component in hand
     std::string Registro::*nombre;
     std::int16_t Registro::*numero;
     OrdenDestinos destinos;
@@ -73,7 +73,7 @@ struct ReglasFicha {
 template <typename Reglas>
 auto& EnMano(model::Siro& s, const Reglas& reglas)
 {
-    return (s.*reglas.coleccion).Ranura(s.*reglas.seleccion);
+    return (s.Red.*reglas.coleccion).Ranura(s.Seleccion.*reglas.seleccion);
 }
 
 /// Fills the list of components and marks the one in hand.
@@ -82,9 +82,9 @@ void LlenaLista(Forma& f, const model::Siro& s, const Reglas& reglas)
 {
     Lista& lista = f.*reglas.lista;
     lista.items.clear();
-    for (const auto& componente : s.*reglas.coleccion)
+    for (const auto& componente : s.Red.*reglas.coleccion)
         lista.items.push_back(componente.*reglas.nombre);
-    lista.indice = s.*reglas.seleccion - 1;
+    lista.indice = s.Seleccion.*reglas.seleccion - 1;
 }
 
 /// Opens a form on the selected component, on the first where none is selected. Returns false where there is
@@ -93,8 +93,8 @@ template <typename Forma, typename Reglas>
 bool AbreFicha(Forma& f, model::Siro& s, const Reglas& reglas)
 {
     f = Forma{};
-    if ((s.*reglas.coleccion).Cuenta() == 0) return false;
-    if (s.*reglas.seleccion == 0) s.*reglas.seleccion = 1;
+    if ((s.Red.*reglas.coleccion).Cuenta() == 0) return false;
+    if (s.Seleccion.*reglas.seleccion == 0) s.Seleccion.*reglas.seleccion = 1;
     f.abierta = true;
     LlenaLista(f, s, reglas);
     return true;
@@ -110,7 +110,7 @@ void MuestraIdentidad(Forma& f, model::Siro& s, const Reglas& reglas)
     f.*reglas.lblNombre = componente.*reglas.nombre;
     f.*reglas.txtNombre = componente.*reglas.nombre;
     f.*reglas.listaDestinos = ListaDestinos(s, reglas.destinos, componente.Cauce_aa);
-    (f.*reglas.lista).indice = s.*reglas.seleccion - 1;
+    (f.*reglas.lista).indice = s.Seleccion.*reglas.seleccion - 1;
 }
 
 /// Whether a form holds what its component doesn't: `muestra` shows a form the component anew.
@@ -129,7 +129,7 @@ template <typename Forma, typename Reglas>
 bool TomaDeLista(const Forma& f, model::Siro& s, const Reglas& reglas, int indice)
 {
     if (indice < 0 || indice >= static_cast<int>((f.*reglas.lista).items.size())) return false;
-    s.*reglas.seleccion = static_cast<std::int16_t>(indice + 1);
+    s.Seleccion.*reglas.seleccion = static_cast<std::int16_t>(indice + 1);
     return true;
 }
 
@@ -146,8 +146,8 @@ bool ArreglaNombre(Forma& f, const model::Siro& s, const Reglas& reglas)
     if (texto == NombreInvalido) return true;
     texto = NombreConPrefijo(reglas.prefijo, texto);
     int numero = 0;
-    for (const auto& componente : s.*reglas.coleccion) {
-        if (++numero == s.*reglas.seleccion || componente.*reglas.nombre != texto) continue;
+    for (const auto& componente : s.Red.*reglas.coleccion) {
+        if (++numero == s.Seleccion.*reglas.seleccion || componente.*reglas.nombre != texto) continue;
         texto = NombreInvalido;
         forms::Retiene(f, reglas.controlNombre);
         return false;

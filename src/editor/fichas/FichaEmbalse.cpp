@@ -88,8 +88,8 @@ void LlevaTablas(FichaEmbalse& f, const model::Siro& s, const TablasDeEmbalse& t
 
 void CierraConSeleccion(FichaEmbalse& f, model::Siro& s)
 {
-    s.RepresaSel = s.LagoSel = s.UEHSel = 0;
-    s.CauceSel = s.CauceAnterior = s.VerticeSel = 0;
+    s.Seleccion.RepresaSel = s.Seleccion.LagoSel = s.Seleccion.UEHSel = 0;
+    s.Seleccion.CauceSel = s.Seleccion.CauceAnterior = s.Seleccion.VerticeSel = 0;
     CierraFicha(f, s);
 }
 

@@ -15,8 +15,8 @@ namespace {
 
 constexpr ReglasFicha<dlgCauceEditProp, Cauce, model::MaxCauces> Reglas{
     .prefijo = "c-",
-    .coleccion = &Siro::ColCauces,
-    .seleccion = &Siro::CauceSel,
+    .coleccion = &model::Red::ColCauces,
+    .seleccion = &model::Seleccion::CauceSel,
     .nombre = &Cauce::NombreCauce,
     .numero = &Cauce::numCauce,
     .destinos = OrdenDestinos::Todos,
@@ -31,15 +31,16 @@ constexpr ReglasFicha<dlgCauceEditProp, Cauce, model::MaxCauces> Reglas{
 /// Only the other reaches follow: one that drains to itself keeps the old name as its destination.
 SiguenNombre Siguen(const Siro& s)
 {
-    return {.salvoCauce = s.CauceSel};
+    return {.salvoCauce = s.Seleccion.CauceSel};
 }
 
 void MuestraLongitudDibujada(dlgCauceEditProp& f, const Siro& s)
 {
-    const double escala = model::Val(s.EscalaDibujo);
+    const double escala = model::Val(s.Configuracion.EscalaDibujo);
     f.lbl_LongCauceDibujo.clear();
     if (escala == 0) f.lbl_LongCauceDibujo = SinEscalar;
-    if (escala > 0) f.lbl_LongCauceDibujo = model::NumeroATexto(LongitudDibujada(s, s.CauceSel, escala));
+    if (escala > 0)
+        f.lbl_LongCauceDibujo = model::NumeroATexto(LongitudDibujada(s, s.Seleccion.CauceSel, escala));
 }
 
 void MuestraCauce(dlgCauceEditProp& f, Siro& s)
@@ -61,12 +62,12 @@ void GuardaCauce(dlgCauceEditProp& f, Siro& s)
     forms::Guarda(f, cauce, CamposDlgCauceEditProp);
     cauce.optDirMusk = f.optDirecta;
     if (const int destino = NumeroDeCauce(s, cauce.Cauce_aa); destino > 0)
-        PonPrimerVertice(s, s.CauceSel, UltimoVertice(s, destino));
+        PonPrimerVertice(s, s.Seleccion.CauceSel, UltimoVertice(s, destino));
 }
 
 void Cierra(dlgCauceEditProp& f, Siro& s)
 {
-    s.CauceSel = s.UEHSel = 0;
+    s.Seleccion.CauceSel = s.Seleccion.UEHSel = 0;
     CierraFicha(f, s);
 }
 
@@ -101,7 +102,7 @@ void lstTributaCauce_Click(dlgCauceEditProp& f, Siro& s, int indice)
     if (!destino) return;
     EnMano(s, Reglas).Cauce_aa = destino->Cauce_aa;
     if (destino->clase == Destino::Clase::Represa || destino->clase == Destino::Clase::Lago)
-        PonPrimerVertice(s, s.CauceSel, PuntoDestino(s, *destino));
+        PonPrimerVertice(s, s.Seleccion.CauceSel, PuntoDestino(s, *destino));
     // A reach as destination takes hold of the lower end when the drawing is redone.
     s.Anfitrion.RedibujaEditor();
     MuestraLongitudDibujada(f, s);
@@ -138,9 +139,9 @@ void CancelButton(dlgCauceEditProp& f, Siro& s)
 std::int32_t LongitudDibujada(const Siro& s, int numCauce, double escala)
 {
     std::int32_t L = 0;
-    for (int j = 2; j <= s.NroVertices(numCauce); ++j) {
-        const double dx = double{s.XVertice(numCauce, j)} - s.XVertice(numCauce, j - 1);
-        const double dy = double{s.YVertice(numCauce, j)} - s.YVertice(numCauce, j - 1);
+    for (int j = 2; j <= s.Red.NroVertices(numCauce); ++j) {
+        const double dx = double{s.Red.XVertice(numCauce, j)} - s.Red.XVertice(numCauce, j - 1);
+        const double dy = double{s.Red.YVertice(numCauce, j)} - s.Red.YVertice(numCauce, j - 1);
         L = model::Entero32(L + std::sqrt(dx * dx + dy * dy));
     }
     return model::Entero32(escala * L);

@@ -14,8 +14,8 @@ namespace {
 
 constexpr ReglasFicha<dlgLago, Lago, model::MaxLagos> Reglas{
     .prefijo = "l-",
-    .coleccion = &Siro::ColLagos,
-    .seleccion = &Siro::LagoSel,
+    .coleccion = &model::Red::ColLagos,
+    .seleccion = &model::Seleccion::LagoSel,
     .nombre = &Lago::NombreLAGO,
     .numero = &Lago::numLAGO,
     .destinos = OrdenDestinos::SoloCauces,
@@ -30,12 +30,12 @@ constexpr ReglasFicha<dlgLago, Lago, model::MaxLagos> Reglas{
 /// `sinDatos` is said of an empty table.
 void MuestraParametros(dlgLago& f, const Siro& s, int numero, std::string_view sinDatos)
 {
-    f.lblParametros = s.LagoFilas(numero) >= 1 ? ConDatosEnTabla : sinDatos;
+    f.lblParametros = s.Red.LagoFilas(numero) >= 1 ? ConDatosEnTabla : sinDatos;
 }
 
 void BuscaSusTablas(dlgLago& f, const Siro& s)
 {
-    BuscaTablas(f, s, TablasDeLago, s.ColLagos, &Lago::NombreLAGO, s.LagoSel);
+    BuscaTablas(f, s, TablasDeLago, s.Red.ColLagos, &Lago::NombreLAGO, s.Seleccion.LagoSel);
 }
 
 void MuestraCampos(dlgLago& f, Siro& s)
@@ -95,7 +95,7 @@ bool AlSalir(dlgLago& f, Siro& s, std::string_view control)
         return vale;
     }
     if (control == ReglaHInicialEmb.control)
-        return SaleDeHInicialEmb(f, s, AlturasDe(s.LagoFilas, s.LagoH, EnMano(s, Reglas).numLAGO));
+        return SaleDeHInicialEmb(f, s, AlturasDe(s.Red.LagoFilas, s.Red.LagoH, EnMano(s, Reglas).numLAGO));
     return forms::AlSalir(f, s, CamposDlgLago, control);
 }
 
@@ -125,8 +125,8 @@ PedidoFicha cmdParametros(const dlgLago& f)
 
 void AlVolver(dlgLago& f, const Siro& s)
 {
-    if (!f.abierta || s.LagoSel <= 0) return;
-    MuestraParametros(f, s, s.ColLagos.Ranura(s.LagoSel).numLAGO, SinDatosLeidos);
+    if (!f.abierta || s.Seleccion.LagoSel <= 0) return;
+    MuestraParametros(f, s, s.Red.ColLagos.Ranura(s.Seleccion.LagoSel).numLAGO, SinDatosLeidos);
     BuscaSusTablas(f, s);
 }
 

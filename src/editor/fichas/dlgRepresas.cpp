@@ -18,8 +18,8 @@ constexpr std::string_view RotuloX = "x=";
 
 constexpr ReglasFicha<dlgRepresas, Represa, model::MaxRepresas> Reglas{
     .prefijo = "r-",
-    .coleccion = &Siro::ColRepresas,
-    .seleccion = &Siro::RepresaSel,
+    .coleccion = &model::Red::ColRepresas,
+    .seleccion = &model::Seleccion::RepresaSel,
     .nombre = &Represa::NombreRepresa,
     .numero = &Represa::numRepresa,
     .destinos = OrdenDestinos::SoloCauces,
@@ -62,7 +62,7 @@ void MuestraRepresa(dlgRepresas& f, Siro& s)
 
 void BuscaSusTablas(dlgRepresas& f, const Siro& s)
 {
-    BuscaTablas(f, s, TablasDeRepresa, s.ColRepresas, &Represa::NombreRepresa, s.RepresaSel);
+    BuscaTablas(f, s, TablasDeRepresa, s.Red.ColRepresas, &Represa::NombreRepresa, s.Seleccion.RepresaSel);
 }
 
 float NumeroInicial(const std::string& texto)
@@ -130,7 +130,7 @@ bool AlSalir(dlgRepresas& f, Siro& s, std::string_view control)
     }
     if (control == ReglaHInicialEmb.control) {
         const int numero = EnMano(s, Reglas).numRepresa;
-        return SaleDeHInicialEmb(f, s, AlturasDe(s.RepresaFilasHAS, s.RepresaH, numero));
+        return SaleDeHInicialEmb(f, s, AlturasDe(s.Red.RepresaFilasHAS, s.Red.RepresaH, numero));
     }
     for (const CampoFQ& campo : CamposFQ)
         if (campo.control == control) PonPuntos(f.*campo.textos);
@@ -176,7 +176,7 @@ void cmdLlevaTablas(dlgRepresas& f, Siro& s)
 
 void AlVolver(dlgRepresas& f, const Siro& s)
 {
-    if (f.abierta && s.RepresaSel > 0) BuscaSusTablas(f, s);
+    if (f.abierta && s.Seleccion.RepresaSel > 0) BuscaSusTablas(f, s);
 }
 
 PedidoFicha cmdHSV(const dlgRepresas& f)

@@ -43,10 +43,11 @@ constexpr auto PruebasHAS = std::to_array<PruebaOrden>({
     {true, "Error, el Volumen V debe ser creciente, Verifique la fila "},
 });
 
-constexpr auto ArreglosSHV = std::to_array<ArregloTabla>({&Siro::RepresaH, &Siro::RepresaA, &Siro::RepresaS});
-constexpr auto ArreglosFQ = std::to_array<ArregloTabla>({&Siro::RepresaQH, &Siro::RepresaQQ});
-constexpr auto ArreglosSHVQ =
-    std::to_array<ArregloTabla>({&Siro::LagoH, &Siro::LagoA, &Siro::LagoS, &Siro::LagoQ});
+constexpr auto ArreglosSHV =
+    std::to_array<ArregloTabla>({&model::Red::RepresaH, &model::Red::RepresaA, &model::Red::RepresaS});
+constexpr auto ArreglosFQ = std::to_array<ArregloTabla>({&model::Red::RepresaQH, &model::Red::RepresaQQ});
+constexpr auto ArreglosSHVQ = std::to_array<ArregloTabla>(
+    {&model::Red::LagoH, &model::Red::LagoA, &model::Red::LagoS, &model::Red::LagoQ});
 
 constexpr auto Editables = std::to_array({1, 2, 3, 4});
 
@@ -59,12 +60,12 @@ constexpr forms::ReglasGrilla ReglasDe(std::string_view encabezado, std::size_t 
 
 int CuentaRepresas(const Siro& s)
 {
-    return s.ColRepresas.Cuenta();
+    return s.Red.ColRepresas.Cuenta();
 }
 
 int CuentaLagos(const Siro& s)
 {
-    return s.ColLagos.Cuenta();
+    return s.Red.ColLagos.Cuenta();
 }
 
 template <typename Coleccion, typename Registro>
@@ -80,12 +81,12 @@ int LugarDe(const Coleccion& coleccion, std::string Registro::*nombre, std::stri
 
 int NumeroDeRepresa(const Siro& s, std::string_view nombre)
 {
-    return LugarDe(s.ColRepresas, &model::Represa::NombreRepresa, nombre);
+    return LugarDe(s.Red.ColRepresas, &model::Represa::NombreRepresa, nombre);
 }
 
 int NumeroDeLago(const Siro& s, std::string_view nombre)
 {
-    return LugarDe(s.ColLagos, &model::Lago::NombreLAGO, nombre);
+    return LugarDe(s.Red.ColLagos, &model::Lago::NombreLAGO, nombre);
 }
 
 constexpr auto Descripciones = std::to_array<DescripcionTabla>({
@@ -99,10 +100,10 @@ constexpr auto Descripciones = std::to_array<DescripcionTabla>({
                         ArreglosSHV.size()),
      .arreglos = ArreglosSHV,
      .pruebas = PruebasHAS,
-     .seleccion = &Siro::RepresaSel,
-     .cuenta = &Siro::NroRepresas,
+     .seleccion = &model::Seleccion::RepresaSel,
+     .cuenta = &model::Red::NroRepresas,
      .cuentaEnColeccion = CuentaRepresas,
-     .filas = &Siro::RepresaFilasHAS,
+     .filas = &model::Red::RepresaFilasHAS,
      .numeroDe = NumeroDeRepresa,
      .archivo = model::ArchivoDeTablas::RHAS,
      .lee = model::LeeTablaHSVRepresa,
@@ -116,10 +117,10 @@ constexpr auto Descripciones = std::to_array<DescripcionTabla>({
      .grilla = ReglasDe("^Indice|>H [m]          |> Q[m]          ", ArreglosFQ.size()),  // kept as it stands
      .arreglos = ArreglosFQ,
      .pruebas = std::span(PruebasHAS).first(1),
-     .seleccion = &Siro::RepresaSel,
-     .cuenta = &Siro::NroRepresas,
+     .seleccion = &model::Seleccion::RepresaSel,
+     .cuenta = &model::Red::NroRepresas,
      .cuentaEnColeccion = CuentaRepresas,
-     .filas = &Siro::RepresaFilasHQ,
+     .filas = &model::Red::RepresaFilasHQ,
      .numeroDe = NumeroDeRepresa,
      .archivo = model::ArchivoDeTablas::RHQ,
      .lee = model::LeeTablaHQRepresa,
@@ -136,10 +137,10 @@ constexpr auto Descripciones = std::to_array<DescripcionTabla>({
          ArreglosSHVQ.size()),
      .arreglos = ArreglosSHVQ,
      .pruebas = PruebasHAS,
-     .seleccion = &Siro::LagoSel,
-     .cuenta = &Siro::NroLagos,
+     .seleccion = &model::Seleccion::LagoSel,
+     .cuenta = &model::Red::NroLagos,
      .cuentaEnColeccion = CuentaLagos,
-     .filas = &Siro::LagoFilas,
+     .filas = &model::Red::LagoFilas,
      .numeroDe = NumeroDeLago,
      .archivo = model::ArchivoDeTablas::LHASQ,
      .lee = model::LeeTablaHSVQLago,
@@ -187,15 +188,15 @@ void PonFilas(dlgTabla& f, std::int16_t filas)
 void MuestraTabla(dlgTabla& f, const Siro& s)
 {
     const DescripcionTabla& d = *f.descripcion;
-    const int numero = s.*d.seleccion;
-    PonFilas(f, (s.*d.filas)(numero));
+    const int numero = s.Seleccion.*d.seleccion;
+    PonFilas(f, (s.Red.*d.filas)(numero));
     f.txtNroFilas = NumeroATexto(std::int32_t{f.NroFilas});
     for (std::size_t c = 0; c < d.arreglos.size(); ++c)
         for (int k = 1; k <= f.NroFilas; ++k)
             std::visit(
                 [&](auto arreglo) {
                     f.grilla.Pon({k, PrimeraColumna + static_cast<int>(c)},
-                                 NumeroATexto((s.*arreglo)(numero, k)));
+                                 NumeroATexto((s.Red.*arreglo)(numero, k)));
                 },
                 d.arreglos[c]);
     f.aplicadas = f.grilla.filas;
@@ -213,10 +214,10 @@ void Abre(dlgTabla& f, Siro& s, TipoTabla tipo, std::string lblNro, std::string 
     const DescripcionTabla& d = DescripcionDe(tipo);
     f = {.descripcion = &d, .abierta = true, .grilla = forms::NuevaGrilla(d.grilla)};
     forms::Evento(s, [&] {
-        s.*d.cuenta = model::Entero16(d.cuentaEnColeccion(s));
-        f.hayComponente = s.*d.cuenta > 0;
+        s.Red.*d.cuenta = model::Entero16(d.cuentaEnColeccion(s));
+        f.hayComponente = s.Red.*d.cuenta > 0;
         if (!f.hayComponente) return;
-        if (s.*d.seleccion == 0) s.*d.seleccion = 1;
+        if (s.Seleccion.*d.seleccion == 0) s.Seleccion.*d.seleccion = 1;
         f.lblNro = std::move(lblNro);
         f.lblNombre = std::move(lblNombre);
         d.lee(s);
@@ -250,12 +251,13 @@ namespace {
 void HaceLugar(const dlgTabla& f, Siro& s)
 {
     const DescripcionTabla& d = *f.descripcion;
-    s.*d.cuenta = model::Entero16(d.cuentaEnColeccion(s));
+    s.Red.*d.cuenta = model::Entero16(d.cuentaEnColeccion(s));
     int mayor = f.NroFilas;
-    for (int numero = 0; numero <= (s.*d.filas).Tope(); ++numero)
-        mayor = std::max(mayor, int{(s.*d.filas)(numero)});
+    for (int numero = 0; numero <= (s.Red.*d.filas).Tope(); ++numero)
+        mayor = std::max(mayor, int{(s.Red.*d.filas)(numero)});
     for (const ArregloTabla& arreglo : d.arreglos)
-        std::visit([&](auto a) { (s.*a).Redimensiona(std::max(mayor, (s.*a).TopeColumna())); }, arreglo);
+        std::visit([&](auto a) { (s.Red.*a).Redimensiona(std::max(mayor, (s.Red.*a).TopeColumna())); },
+                   arreglo);
 }
 
 /// Returns whether every data cell is numeric; no message says which isn't, but the cursor goes to the last
@@ -302,19 +304,19 @@ void Guarda(std::int32_t& lugar, double valor)
 void Toma(const dlgTabla& f, Siro& s)
 {
     const DescripcionTabla& d = *f.descripcion;
-    const int numero = s.*d.seleccion;
-    static_cast<void>((s.*d.filas)(numero));
+    const int numero = s.Seleccion.*d.seleccion;
+    static_cast<void>((s.Red.*d.filas)(numero));
     for (const bool enSerio : {false, true})
         for (std::size_t c = 0; c < d.arreglos.size(); ++c)
             for (int k = 1; k <= f.NroFilas; ++k)
                 std::visit(
                     [&](auto arreglo) {
-                        auto lugar = (s.*arreglo)(numero, k);
+                        auto lugar = (s.Red.*arreglo)(numero, k);
                         Guarda(lugar, f.grilla.Numero({k, PrimeraColumna + static_cast<int>(c)}));
-                        if (enSerio) (s.*arreglo)(numero, k) = lugar;
+                        if (enSerio) (s.Red.*arreglo)(numero, k) = lugar;
                     },
                     d.arreglos[c]);
-    (s.*d.filas)(numero) = f.NroFilas;
+    (s.Red.*d.filas)(numero) = f.NroFilas;
 }
 
 /// Names of the blocks with rows that the file has and won't have once it is written: nobody bears the name,
@@ -326,7 +328,7 @@ std::string SePerderian(const dlgTabla& f, const Siro& s)
     std::string nombres;
     for (const model::BloqueDeTabla& bloque : model::BloquesDe(s, d.archivo)) {
         const int numero = d.numeroDe(s, bloque.nombre);
-        const bool queda = numero == s.*d.seleccion || (numero > 0 && (s.*d.filas)(numero) > 0);
+        const bool queda = numero == s.Seleccion.*d.seleccion || (numero > 0 && (s.Red.*d.filas)(numero) > 0);
         if (bloque.filas > 0 && !queda) nombres += (nombres.empty() ? "" : ", ") + bloque.nombre;
     }
     return nombres;

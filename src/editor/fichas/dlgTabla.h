@@ -32,7 +32,7 @@ struct PruebaOrden {
 
 /// Array of a column: by component number and row of the table, from 1.
 using ArregloTabla =
-    std::variant<model::Matriz<float> model::Siro::*, model::Matriz<std::int32_t> model::Siro::*>;
+    std::variant<model::Matriz<float> model::Red::*, model::Matriz<std::int32_t> model::Red::*>;
 
 /// What tells one editor from another.
 struct DescripcionTabla {
@@ -43,12 +43,12 @@ struct DescripcionTabla {
     std::string_view nombreLblNro;
     std::string_view nombreLblNombre;
     forms::ReglasGrilla grilla;
-    std::span<const ArregloTabla> arreglos;  ///< of grid columns 1, 2, ...
-    std::span<const PruebaOrden> pruebas;    ///< of grid columns 1, 2, ...
-    std::int16_t model::Siro::*seleccion;    ///< number of the selected component
-    std::int16_t model::Siro::*cuenta;
+    std::span<const ArregloTabla> arreglos;     ///< of grid columns 1, 2, ...
+    std::span<const PruebaOrden> pruebas;       ///< of grid columns 1, 2, ...
+    std::int16_t model::Seleccion::*seleccion;  ///< number of the selected component
+    std::int16_t model::Red::*cuenta;
     int (*cuentaEnColeccion)(const model::Siro&);
-    model::Arreglo<std::int16_t> model::Siro::*filas;  ///< rows of each component's table
+    model::Arreglo<std::int16_t> model::Red::*filas;  ///< rows of each component's table
     /// Number of the component that bears a name; 0 where none does.
     int (*numeroDe)(const model::Siro&, std::string_view nombre);
     model::ArchivoDeTablas archivo;

@@ -13,8 +13,8 @@ namespace {
 
 constexpr ReglasFicha<dlgUEH2, UEH, model::MaxUEHs> Reglas{
     .prefijo = "u-",
-    .coleccion = &Siro::ColUEHs,
-    .seleccion = &Siro::UEHSel,
+    .coleccion = &model::Red::ColUEHs,
+    .seleccion = &model::Seleccion::UEHSel,
     .nombre = &UEH::NombreUEH,
     .numero = &UEH::numUEH,
     .destinos = OrdenDestinos::Todos,
@@ -61,7 +61,7 @@ void GuardaUEH(dlgUEH2& f, Siro& s)
 
 void Cierra(dlgUEH2& f, Siro& s)
 {
-    s.CauceSel = s.UEHSel = 0;
+    s.Seleccion.CauceSel = s.Seleccion.UEHSel = 0;
     CierraFicha(f, s);
 }
 

@@ -163,10 +163,10 @@ void Abre(dlgUEHsEditTabla& f, Siro& s)
     f.abierta = s.Anfitrion.ResguardaDibujo(model::Riesgo::ReleeRed);
     if (!f.abierta) return;
     model::LeeUEHs(s);
-    f.lblProyecto = s.NombreProyecto;
-    f.lblFileProyecto = s.NombreProyecto + "_Conf.vlm";
-    f.MSFlexGridEditCauces = Llena(ReglasCauces, s.ColCauces, EditablesCauces);
-    f.MSFlexGridEditUEHs = Llena(ReglasUEHs, s.ColUEHs, EditablesUEHs);
+    f.lblProyecto = s.Proyecto.NombreProyecto;
+    f.lblFileProyecto = s.Proyecto.NombreProyecto + "_Conf.vlm";
+    f.MSFlexGridEditCauces = Llena(ReglasCauces, s.Red.ColCauces, EditablesCauces);
+    f.MSFlexGridEditUEHs = Llena(ReglasUEHs, s.Red.ColUEHs, EditablesUEHs);
     f.caucesLeidos = f.MSFlexGridEditCauces.filas;
     f.UEHsLeidas = f.MSFlexGridEditUEHs.filas;
 }
@@ -174,8 +174,8 @@ void Abre(dlgUEHsEditTabla& f, Siro& s)
 void OKButton(dlgUEHsEditTabla& f, Siro& s)
 {
     const bool tomadas = forms::Evento(s, [&] {
-        Toma(f.MSFlexGridEditCauces, s.ColCauces, EditablesCauces);
-        Toma(f.MSFlexGridEditUEHs, s.ColUEHs, EditablesUEHs);
+        Toma(f.MSFlexGridEditCauces, s.Red.ColCauces, EditablesCauces);
+        Toma(f.MSFlexGridEditUEHs, s.Red.ColUEHs, EditablesUEHs);
     });
     if (!tomadas) return;
     const bool guarda = model::Consulta(s, std::string(ConfirmaCambios), TituloConsulta);

@@ -58,7 +58,7 @@ void AgregaTitulos(forms::Grilla& g, Textos titulos)
 void AgregaCauces(forms::Grilla& g, const Siro& s)
 {
     AgregaTitulos(g, {"Vértices", "Ind.Vért.", "Vel.Media", "Longitud", "Orden", "k Musk.", "x Musk."});
-    for (const model::Cauce& c : s.ColCauces)
+    for (const model::Cauce& c : s.Red.ColCauces)
         AgregaFila(
             g, {"Cauce", Texto(c.numCauce), c.NombreCauce, c.Cauce_aa, c.optDirMusk ? "Directo" : "Muskingum",
                 Texto(c.numVertices), Texto(c.IndiceParInicial), Texto(c.VelMediaCauce), Texto(c.LongCauce),
@@ -69,7 +69,7 @@ void AgregaUEHs(forms::Grilla& g, const Siro& s)
 {
     AgregaTitulos(g, {"Area", "Long. Máx", "Vel.Media", "Infil.'a'", "Infil.'b'", "Humd", "Q ini", "'K' Rec.",
                       "Retens.Z"});
-    for (const model::UEH& u : s.ColUEHs)
+    for (const model::UEH& u : s.Red.ColUEHs)
         AgregaFila(g, {"UEH", Texto(u.numUEH), u.NombreUEH, u.Cauce_aa, u.Metodo, Texto(u.Area),
                        Texto(u.LongitudMax), Texto(u.VelMedia), Texto(u.KostiakovA), Texto(u.KostiakovB),
                        Texto(u.KostiakovI), Texto(u.Q0Recesion), Texto(u.KRecesion), Texto(u.RetensionZ)});
@@ -78,18 +78,18 @@ void AgregaUEHs(forms::Grilla& g, const Siro& s)
 void AgregaLagos(forms::Grilla& g, const Siro& s)
 {
     AgregaTitulos(g, {"k Musk.", "Hmin", "HMáx", "HInicio"});
-    for (const model::Lago& l : s.ColLagos)
+    for (const model::Lago& l : s.Red.ColLagos)
         AgregaFila(g, {"Lag./Mallin", Texto(l.numLAGO), l.NombreLAGO, l.Cauce_aa, l.Metodo,
-                       Texto(l.Lago_k_Musk), Texto(s.LagoH(l.numLAGO, 1)),
-                       Texto(s.LagoH(l.numLAGO, s.LagoFilas(l.numLAGO))), Texto(l.HInicialEmb)});
+                       Texto(l.Lago_k_Musk), Texto(s.Red.LagoH(l.numLAGO, 1)),
+                       Texto(s.Red.LagoH(l.numLAGO, s.Red.LagoFilas(l.numLAGO))), Texto(l.HInicialEmb)});
 }
 
 /// On or off, a, b, c, H min and H Máx of an outflow function, as the run-wide arrays have them.
 Textos Funcion(const Siro& s, int numero, int funcion)
 {
-    Textos textos = {Texto(s.FQActiva(numero, funcion))};
+    Textos textos = {Texto(s.Red.FQActiva(numero, funcion))};
     const auto& coeficientes =
-        s.FQCoef.at(static_cast<std::size_t>(numero))[static_cast<std::size_t>(funcion)];
+        s.Red.FQCoef.at(static_cast<std::size_t>(numero))[static_cast<std::size_t>(funcion)];
     for (std::size_t clase = 1; clase < coeficientes.size(); ++clase)
         textos.push_back(Texto(coeficientes[clase]));
     return textos;
@@ -113,7 +113,7 @@ void AgregaRepresa(forms::Grilla& g, const Siro& s, const model::Represa& r)
 void AgregaRepresas(forms::Grilla& g, const Siro& s)
 {
     AgregaTitulos(g, {"k Musk.", "Opc.Tabla", "Función", "a", "b", "c", "Hmin", "HMáx", "HInicio"});
-    for (const model::Represa& r : s.ColRepresas)
+    for (const model::Represa& r : s.Red.ColRepresas)
         AgregaRepresa(g, s, r);
 }
 
@@ -121,11 +121,11 @@ void AgregaRepresas(forms::Grilla& g, const Siro& s)
 void LeeTodo(Siro& s)
 {
     model::LeeUEHs(s);
-    if (s.NroRepresas > 0) {
+    if (s.Red.NroRepresas > 0) {
         model::LeeTablaHQRepresa(s);
         model::LeeTablaHSVRepresa(s);
     }
-    if (s.NroLagos > 0) model::LeeTablaHSVQLago(s);
+    if (s.Red.NroLagos > 0) model::LeeTablaHSVQLago(s);
     hydraulics::CargaFQs(s);
 }
 
@@ -134,9 +134,9 @@ void Llena(dlgUEHsTabla& f, Siro& s)
     forms::Grilla& g = f.MSFlexGridTablaUEHs;
     g = forms::NuevaGrilla(Reglas);
     forms::Evento(s, [&] { LeeTodo(s); });
-    f.lblProyecto = s.NombreProyecto;
-    f.lblTitulo = s.TituloProyecto;
-    f.lblFileProyecto = s.NombreProyecto + "_Conf.vlm";
+    f.lblProyecto = s.Proyecto.NombreProyecto;
+    f.lblTitulo = s.Configuracion.TituloProyecto;
+    f.lblFileProyecto = s.Proyecto.NombreProyecto + "_Conf.vlm";
     for (const auto agrega : {AgregaCauces, AgregaUEHs, AgregaLagos, AgregaRepresas})
         forms::Evento(s, [&] { agrega(g, s); });
 }

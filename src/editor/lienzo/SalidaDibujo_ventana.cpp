@@ -25,7 +25,7 @@ class Salida {
     Salida(const model::Siro& s, const DibujoALaVista& unDibujo)
         : dibujo(unDibujo),
           pie(Q(forms::Renglones(forms::DeHoy(s, {}))).join(QStringLiteral("   "))),
-          titulo(Q(s.NombreProyecto)),
+          titulo(Q(s.Proyecto.NombreProyecto)),
           renglon(QFontMetrics(LetraDelDibujo()).lineSpacing() + 2)
     {
     }
@@ -103,7 +103,7 @@ void ImprimeDibujo(forms::Entorno& entorno, const DibujoALaVista& dibujo)
 {
     const Salida salida(entorno.s, dibujo);
     const QSizeF tamano = salida.Tamano();
-    forms::Imprime(entorno, {entorno.s.NombreProyecto, tamano.width() > tamano.height()},
+    forms::Imprime(entorno, {entorno.s.Proyecto.NombreProyecto, tamano.width() > tamano.height()},
                    [&](QPainter& papel, const QRectF& hoja, QPrinter& /*impresora*/) {
                        const double veces =
                            tamano.scaled(hoja.size(), Qt::KeepAspectRatio).width() / tamano.width();
@@ -116,7 +116,8 @@ void ExportaDibujo(forms::Entorno& entorno, const DibujoALaVista& dibujo, std::s
 {
     const std::string terminacion = "." + forms::DeQ(Q(tipo).toLower());
     const std::string filtro = "Dibujo " + std::string(tipo) + " |*" + terminacion;
-    const std::string propuesto = forms::NombreDeArchivo({.titulo = entorno.s.NombreProyecto}) + terminacion;
+    const std::string propuesto =
+        forms::NombreDeArchivo({.titulo = entorno.s.Proyecto.NombreProyecto}) + terminacion;
     const std::string ruta = entorno.s.Anfitrion.EligeDestino("Guardar el dibujo", filtro, propuesto);
     if (!ruta.empty()) Guarda(Salida(entorno.s, dibujo), Q(ruta));
 }

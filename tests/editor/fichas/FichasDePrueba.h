@@ -30,56 +30,57 @@ struct RedDeFichas : testing::Test {
     {
         s.Anfitrion = anfitrion.Puerta();
         s.Disco = disco.Puerta();
-        s.NombreProyecto = "Arroyo";
-        s.DirProyecto = s.frmConfigura.Dir1 = "/proy";
+        s.Proyecto.NombreProyecto = "Arroyo";
+        s.Proyecto.DirProyecto = s.frmConfigura.Dir1 = "/proy";
         disco.PonDirectorio("/proy");
         disco.Pon("/proy/Arroyo_RHAS.vlm", "\"*r-1\",3,\"*\"\r\n100.3,1,0\r\n105,2,1000\r\n110.7,3,2000\r\n");
         disco.Pon("/proy/Arroyo_LHASQ.vlm", "\"*l-1\",2,\"*\",\"*\"\r\n1,10,0,0\r\n2.5,20,5000,3\r\n");
-        s.XVertice.Dimensiona(70, 10);
-        s.YVertice.Dimensiona(70, 10);
+        s.Red.XVertice.Dimensiona(70, 10);
+        s.Red.YVertice.Dimensiona(70, 10);
         PonCauce("c-1", "0", {{10, 10}, {13, 14}, {16, 18}});
         PonCauce("c-2", "c-1", {{16, 18}, {30, 20}});
         PonCauce("c-3", "0", {{50, 50}, {60, 60}});
         for (const char* nombre : {"u-1", "u-2", "u-3"})
-            s.ColUEHs.Agrega({.NombreUEH = nombre, .Metodo = "Directo", .numUEH = Siguiente(s.ColUEHs)});
+            s.Red.ColUEHs.Agrega(
+                {.NombreUEH = nombre, .Metodo = "Directo", .numUEH = Siguiente(s.Red.ColUEHs)});
         for (const char* nombre : {"r-1", "r-2"})
-            s.ColRepresas.Agrega({.NombreRepresa = nombre,
-                                  .numRepresa = Siguiente(s.ColRepresas),
-                                  .IconoRepresaX = 71,
-                                  .IconoRepresaY = 72,
-                                  .Metodo = "Piscina Nivelada",
-                                  .optTabla = true});
+            s.Red.ColRepresas.Agrega({.NombreRepresa = nombre,
+                                      .numRepresa = Siguiente(s.Red.ColRepresas),
+                                      .IconoRepresaX = 71,
+                                      .IconoRepresaY = 72,
+                                      .Metodo = "Piscina Nivelada",
+                                      .optTabla = true});
         for (const char* nombre : {"l-1", "l-2"})
-            s.ColLagos.Agrega({.NombreLAGO = nombre,
-                               .numLAGO = Siguiente(s.ColLagos),
-                               .IconoLAGOx = 81,
-                               .IconoLAGOy = 82,
-                               .Metodo = "Piscina Nivelada"});
-        s.NroUEHs = 3;
-        s.NroCauces = 3;
-        s.NroRepresas = s.NroLagos = 2;
-        s.UEHs(1).Cauce_aa = s.Represas(1).Cauce_aa = s.Lagos(1).Cauce_aa = "c-1";
+            s.Red.ColLagos.Agrega({.NombreLAGO = nombre,
+                                   .numLAGO = Siguiente(s.Red.ColLagos),
+                                   .IconoLAGOx = 81,
+                                   .IconoLAGOy = 82,
+                                   .Metodo = "Piscina Nivelada"});
+        s.Red.NroUEHs = 3;
+        s.Red.NroCauces = 3;
+        s.Red.NroRepresas = s.Red.NroLagos = 2;
+        s.Red.UEHs(1).Cauce_aa = s.Red.Represas(1).Cauce_aa = s.Red.Lagos(1).Cauce_aa = "c-1";
     }
 
     void PonCauce(const char* nombre, const char* destino, const std::vector<std::pair<float, float>>& puntos)
     {
-        const std::int16_t n = Siguiente(s.ColCauces);
+        const std::int16_t n = Siguiente(s.Red.ColCauces);
         const auto vertices = static_cast<std::int16_t>(puntos.size());
-        s.ColCauces.Agrega(
+        s.Red.ColCauces.Agrega(
             {.numCauce = n, .numVertices = vertices, .NombreCauce = nombre, .Cauce_aa = destino});
         PonVertices(n, puntos);
     }
     void PonVertices(int cauce, const std::vector<std::pair<float, float>>& puntos)
     {
-        s.NroVertices(cauce) = s.Cauces(cauce).numVertices = static_cast<std::int16_t>(puntos.size());
-        for (int j = 1; j <= s.NroVertices(cauce); ++j) {
-            s.XVertice(cauce, j) = puntos[static_cast<std::size_t>(j) - 1].first;
-            s.YVertice(cauce, j) = puntos[static_cast<std::size_t>(j) - 1].second;
+        s.Red.NroVertices(cauce) = s.Red.Cauces(cauce).numVertices = static_cast<std::int16_t>(puntos.size());
+        for (int j = 1; j <= s.Red.NroVertices(cauce); ++j) {
+            s.Red.XVertice(cauce, j) = puntos[static_cast<std::size_t>(j) - 1].first;
+            s.Red.YVertice(cauce, j) = puntos[static_cast<std::size_t>(j) - 1].second;
         }
     }
     std::pair<float, float> PrimerVertice(int cauce) const
     {
-        return {s.XVertice(cauce, 1), s.YVertice(cauce, 1)};
+        return {s.Red.XVertice(cauce, 1), s.Red.YVertice(cauce, 1)};
     }
     template <typename Componentes>
     static std::int16_t Siguiente(const Componentes& componentes)

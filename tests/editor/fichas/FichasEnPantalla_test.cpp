@@ -33,13 +33,13 @@ TEST_F(FichasEnPantalla, TodosLosControlesTienenNombreYLeyenda)
 
 TEST_F(FichasEnPantalla, SeAbreEnElComponenteSeleccionadoYSinComponentesNoSeAbre)
 {
-    s.UEHSel = 2;
+    s.Seleccion.UEHSel = 2;
     EnForma("dlgUEH2", [this](QDialog& forma) {
         EXPECT_EQ(Control<QLabel>(forma, "lblNroUEH").text(), QStringLiteral("2"));
-        EXPECT_EQ(TextoDe(forma, "txtNombreUEH"), s.UEHs(2).NombreUEH);
+        EXPECT_EQ(TextoDe(forma, "txtNombreUEH"), s.Red.UEHs(2).NombreUEH);
         EXPECT_EQ(Control<QListWidget>(forma, "lstUEHs").currentRow(), 1);
     }).Abre(Pedido::FormaUEH);
-    s.ColUEHs.Vacia();
+    s.Red.ColUEHs.Vacia();
     Abre(Pedido::FormaUEH);
     EXPECT_FALSE(ventanas->formas.ueh.abierta);
 }
@@ -61,12 +61,12 @@ TEST_F(FichasEnPantalla, UnCampoRechazadoRetieneElFocoConTodoSeleccionado)
         Boton(forma, "OKButton");
         EXPECT_FALSE(forma.isVisible());
     }).Abre(Pedido::FormaUEH);
-    EXPECT_EQ(s.UEHs(1).Area, 99999);
+    EXPECT_EQ(s.Red.UEHs(1).Area, 99999);
 }
 
 TEST_F(FichasEnPantalla, AceptarConUnCampoRechazadoNoCierraYCancelarNoMira)
 {
-    const float area = s.UEHs(1).Area;
+    const float area = s.Red.UEHs(1).Area;
     EnForma("dlgUEH2", [this](QDialog& forma) {
         apoyo::Escribe(Campo(forma, "txtArea"), "abc");
         Boton(forma, "OKButton");
@@ -76,7 +76,7 @@ TEST_F(FichasEnPantalla, AceptarConUnCampoRechazadoNoCierraYCancelarNoMira)
         EXPECT_FALSE(forma.isVisible());
         EXPECT_EQ(mundo.anfitrion->Avisos().size(), 1U);
     }).Abre(Pedido::FormaUEH);
-    EXPECT_EQ(s.UEHs(1).Area, area);
+    EXPECT_EQ(s.Red.UEHs(1).Area, area);
 }
 
 TEST_F(FichasEnPantalla, EntrarEnUnCampoConElRatonSeleccionaTodo)
@@ -99,21 +99,21 @@ TEST_F(FichasEnPantalla, ElNombreTomaSuPrefijoMientrasSeEscribeYSeCorta)
         EXPECT_EQ(TextoDe(forma, "txtNombreUEH"), "u-x234567890123");
         QTest::keyClick(&Campo(forma, "txtNombreUEH"), Qt::Key_Tab);
         // Taken on leaving, before "Aceptar".
-        EXPECT_TRUE(apoyo::Espera([this] { return s.UEHs(1).NombreUEH == "u-x234567890123"; }));
+        EXPECT_TRUE(apoyo::Espera([this] { return s.Red.UEHs(1).NombreUEH == "u-x234567890123"; }));
         EXPECT_EQ(Control<QListWidget>(forma, "lstUEHs").item(0)->text(), QStringLiteral("u-x234567890123"));
     }).Abre(Pedido::FormaUEH);
 }
 
 TEST_F(FichasEnPantalla, UnNombreEnUsoQuedaInvalidoConTodoSeleccionadoYNoSeGuarda)
 {
-    const std::string antes = s.UEHs(1).NombreUEH, usado = s.UEHs(2).NombreUEH.substr(2);
+    const std::string antes = s.Red.UEHs(1).NombreUEH, usado = s.Red.UEHs(2).NombreUEH.substr(2);
     EnForma("dlgUEH2", [&](QDialog& forma) {
         apoyo::Escribe(Campo(forma, "txtNombreUEH"), usado.c_str());
         EXPECT_EQ(TextoDe(forma, "txtNombreUEH"), "Invalido");
         EXPECT_EQ(Campo(forma, "txtNombreUEH").selectedText(), QStringLiteral("Invalido"));
         Boton(forma, "OKButton");
     }).Abre(Pedido::FormaUEH);
-    EXPECT_EQ(s.UEHs(1).NombreUEH, antes);
+    EXPECT_EQ(s.Red.UEHs(1).NombreUEH, antes);
 }
 
 TEST_F(FichasEnPantalla, UnDestinoElegidoQuedaAunqueSeCancele)
@@ -122,8 +122,8 @@ TEST_F(FichasEnPantalla, UnDestinoElegidoQuedaAunqueSeCancele)
         Elige(forma, "lstCauceAA", "Ninguno");
         EXPECT_EQ(Control<QLabel>(forma, "lblDrenaCauceAA").text(), QString());
     }).Abre(Pedido::FormaUEH);
-    EXPECT_EQ(s.UEHs(1).Cauce_aa, "");
-    EXPECT_EQ(s.UEHs(1).XCauce, 0);
+    EXPECT_EQ(s.Red.UEHs(1).Cauce_aa, "");
+    EXPECT_EQ(s.Red.UEHs(1).XCauce, 0);
 }
 
 /// A list whose entries are chosen with the keys alone.
@@ -154,18 +154,18 @@ struct ListaPorTeclado {
 
 TEST_F(FichasEnPantalla, UnDestinoElegidoConFlechasSeTomaAlDejarLaLista)
 {
-    const std::string nuevo = s.Cauces(1).NombreCauce;
-    s.UEHs(1).Cauce_aa = s.Cauces(2).NombreCauce;
+    const std::string nuevo = s.Red.Cauces(1).NombreCauce;
+    s.Red.UEHs(1).Cauce_aa = s.Red.Cauces(2).NombreCauce;
     EnForma("dlgUEH2", [&](QDialog& forma) {
         const ListaPorTeclado destinos(forma, "lstCauceAA");
         destinos.Va(nuevo);
-        EXPECT_NE(s.UEHs(1).Cauce_aa, nuevo);
+        EXPECT_NE(s.Red.UEHs(1).Cauce_aa, nuevo);
         destinos.Tecla(Qt::Key_Tab);
-        EXPECT_TRUE(apoyo::Espera([&] { return s.UEHs(1).Cauce_aa == nuevo; }));
+        EXPECT_TRUE(apoyo::Espera([&] { return s.Red.UEHs(1).Cauce_aa == nuevo; }));
         EXPECT_EQ(destinos.lista.currentItem()->text(), forms::Q(nuevo));
         Boton(forma, "OKButton");
     }).Abre(Pedido::FormaUEH);
-    EXPECT_EQ(s.UEHs(1).Cauce_aa, nuevo);
+    EXPECT_EQ(s.Red.UEHs(1).Cauce_aa, nuevo);
 }
 
 TEST_F(FichasEnPantalla, AceptarConElFocoEnLosDestinosTomaElQueSeVe)
@@ -177,11 +177,11 @@ TEST_F(FichasEnPantalla, AceptarConElFocoEnLosDestinosTomaElQueSeVe)
         };
     };
     EnForma("dlgRepresas", prueba("OKButton")).Abre(Pedido::FormaRepresa);
-    EXPECT_EQ(s.Represas(1).Cauce_aa, "");
+    EXPECT_EQ(s.Red.Represas(1).Cauce_aa, "");
     EnForma("dlgLago", prueba("OKButton")).Abre(Pedido::FormaLago);
-    EXPECT_EQ(s.Lagos(1).Cauce_aa, "");
+    EXPECT_EQ(s.Red.Lagos(1).Cauce_aa, "");
     EnForma("dlgUEH2", prueba("OKButton")).Abre(Pedido::FormaUEH);
-    EXPECT_EQ(s.UEHs(1).Cauce_aa, "");
+    EXPECT_EQ(s.Red.UEHs(1).Cauce_aa, "");
 }
 
 TEST_F(FichasEnPantalla, EnterEnLosDestinosTomaUnaSolaVez)
@@ -197,32 +197,32 @@ TEST_F(FichasEnPantalla, EnterEnLosDestinosTomaUnaSolaVez)
         destinos.Va("Ninguno");
         EXPECT_EQ(redibujos, 0);
         destinos.Tecla(Qt::Key_Return);
-        EXPECT_EQ(s.UEHs(1).Cauce_aa, "");
+        EXPECT_EQ(s.Red.UEHs(1).Cauce_aa, "");
         EXPECT_TRUE(forma.isVisible());
         destinos.Tecla(Qt::Key_Tab);
         EXPECT_EQ(redibujos, 1);
         Elige(forma, "lstCauceAA", "0");  // a click, at once
-        EXPECT_EQ(s.UEHs(1).Cauce_aa, "0");
+        EXPECT_EQ(s.Red.UEHs(1).Cauce_aa, "0");
         EXPECT_EQ(redibujos, 2);
     }).Abre(Pedido::FormaUEH);
 }
 
 TEST_F(FichasEnPantalla, PasarConFlechasSobreUnaRepresaNoArrastraElCauce)
 {
-    const std::string destino = s.Cauces(1).Cauce_aa;
-    const Punto boca{s.XVertice(1, 1), s.YVertice(1, 1)};
+    const std::string destino = s.Red.Cauces(1).Cauce_aa;
+    const Punto boca{s.Red.XVertice(1, 1), s.Red.YVertice(1, 1)};
     EnForma("dlgCauceEditProp", [&](QDialog& forma) {
         const ListaPorTeclado destinos(forma, "lstTributaCauce");
         destinos.Va("Ninguno");  // beyond all Represas and Lagos
         destinos.Tecla(Qt::Key_Tab);
-        EXPECT_TRUE(apoyo::Espera([&] { return s.Cauces(1).Cauce_aa.empty(); })) << destino;
-        EXPECT_EQ((Punto{s.XVertice(1, 1), s.YVertice(1, 1)}), boca);
+        EXPECT_TRUE(apoyo::Espera([&] { return s.Red.Cauces(1).Cauce_aa.empty(); })) << destino;
+        EXPECT_EQ((Punto{s.Red.XVertice(1, 1), s.Red.YVertice(1, 1)}), boca);
     }).Abre(Pedido::FormaCauce);
 }
 
 TEST_F(FichasEnPantalla, UnMetodoElegidoConFlechasSeToma)
 {
-    s.Represas(1).Metodo = s.Lagos(1).Metodo = "Piscina Nivelada";
+    s.Red.Represas(1).Metodo = s.Red.Lagos(1).Metodo = "Piscina Nivelada";
     const auto prueba = [](QDialog& forma) {
         const ListaPorTeclado metodos(forma, "lstMetodo");
         metodos.Tecla(Qt::Key_Down);
@@ -232,8 +232,8 @@ TEST_F(FichasEnPantalla, UnMetodoElegidoConFlechasSeToma)
     };
     EnForma("dlgRepresas", prueba).Abre(Pedido::FormaRepresa);
     EnForma("dlgLago", prueba).Abre(Pedido::FormaLago);
-    EXPECT_EQ(s.Represas(1).Metodo, "Muskingum");
-    EXPECT_EQ(s.Lagos(1).Metodo, "Muskingum");
+    EXPECT_EQ(s.Red.Represas(1).Metodo, "Muskingum");
+    EXPECT_EQ(s.Red.Lagos(1).Metodo, "Muskingum");
 }
 
 TEST_F(FichasEnPantalla, PasarAOtraUEHGuardaLosCamposDeLaAnterior)
@@ -241,9 +241,9 @@ TEST_F(FichasEnPantalla, PasarAOtraUEHGuardaLosCamposDeLaAnterior)
     EnForma("dlgUEH2", [this](QDialog& forma) {
         Llena(forma, "txtRetension_Z", "12,5");
         EXPECT_EQ(TextoDe(forma, "txtRetension_Z"), "12.5");
-        Elige(forma, "lstUEHs", s.UEHs(4).NombreUEH.c_str());
+        Elige(forma, "lstUEHs", s.Red.UEHs(4).NombreUEH.c_str());
         EXPECT_EQ(Control<QLabel>(forma, "lblNroUEH").text(), QStringLiteral("4"));
-        EXPECT_EQ(s.UEHs(1).RetensionZ, 12.5F);
+        EXPECT_EQ(s.Red.UEHs(1).RetensionZ, 12.5F);
         // The arrows look through the list too.
         QTest::keyClick(&Control<QListWidget>(forma, "lstUEHs"), Qt::Key_Down);
         EXPECT_EQ(Control<QLabel>(forma, "lblNroUEH").text(), QStringLiteral("5"));
@@ -274,7 +274,7 @@ TEST_F(FichasEnPantalla, ElCauceElijeEntreMuskingumYDirectaSinDeshabilitarCampos
         EXPECT_TRUE(Campo(forma, "txtCauce_k_Musk").isEnabled());
         Boton(forma, "OKButton");
     }).Abre(Pedido::FormaCauce);
-    EXPECT_TRUE(s.Cauces(1).optDirMusk);
+    EXPECT_TRUE(s.Red.Cauces(1).optDirMusk);
 }
 
 TEST_F(FichasEnPantalla, ElCampoXDelCauceRechazaMasDeMedio)
@@ -306,8 +306,8 @@ TEST_F(FichasEnPantalla, LasGemelasMuestranElCoeficienteSoloConMuskingum)
     };
     EnForma("dlgRepresas", prueba("txtRepresa_k", "lblRepresaCofk")).Abre(Pedido::FormaRepresa);
     EnForma("dlgLago", prueba("txtLago_k", "lblLagoCofk")).Abre(Pedido::FormaLago);
-    EXPECT_EQ(s.Represas(1).Metodo, "Runge Kutta");
-    EXPECT_EQ(s.Lagos(1).Metodo, "Runge Kutta");
+    EXPECT_EQ(s.Red.Represas(1).Metodo, "Runge Kutta");
+    EXPECT_EQ(s.Red.Lagos(1).Metodo, "Runge Kutta");
 }
 
 TEST_F(FichasEnPantalla, LaAlturaInicialFueraDeLaTablaSeRechazaYQuedaEnCero)
@@ -351,9 +351,9 @@ TEST_F(FichasEnPantalla, LasFuncionesDeDescargaSeHabilitanUnaPorUna)
         EXPECT_EQ(TextoDe(forma, "txtFQc_5"), "1.25");
         Boton(forma, "OKButton");
     }).Abre(Pedido::FormaRepresa);
-    EXPECT_EQ(s.Represas(1).chkFQ[4], 1);
-    EXPECT_EQ(s.Represas(1).FQc[4], 1.25F);
-    EXPECT_FALSE(s.Represas(1).optTabla);
+    EXPECT_EQ(s.Red.Represas(1).chkFQ[4], 1);
+    EXPECT_EQ(s.Red.Represas(1).FQc[4], 1.25F);
+    EXPECT_FALSE(s.Red.Represas(1).optTabla);
 }
 
 TEST_F(FichasEnPantalla, UnLagoSinTablaLoDiceAlVolverDeSuEditor)
@@ -372,7 +372,7 @@ TEST_F(FichasEnPantalla, UnLagoSinTablaLoDiceAlVolverDeSuEditor)
 
 TEST_F(FichasEnPantalla, CambiarElNombreDeUnaRepresaOfreceLlevarSusTablas)
 {
-    const std::string viejo = s.Represas(1).NombreRepresa;
+    const std::string viejo = s.Red.Represas(1).NombreRepresa;
     EnForma("dlgRepresas", [&](QDialog& forma) {
         auto& linea = Control<QLabel>(forma, "lblTablas");
         auto& tecla = Control<QPushButton>(forma, "cmdLlevaTablas");
@@ -399,7 +399,7 @@ const model::Mensaje PreguntaSinAplicar{
 
 TEST_F(FichasEnPantalla, EscYElMarcoPreguntanAntesDePerderLoEscrito)
 {
-    const float area = s.UEHs(1).Area;
+    const float area = s.Red.UEHs(1).Area;
     EnForma("dlgUEH2", [this](QDialog& forma) {
         apoyo::Escribe(Campo(forma, "txtArea"), "77");
         mundo.anfitrion->respuestas = {false};
@@ -414,7 +414,7 @@ TEST_F(FichasEnPantalla, EscYElMarcoPreguntanAntesDePerderLoEscrito)
         EXPECT_FALSE(forma.isVisible());
         EXPECT_EQ(mundo.anfitrion->Preguntas(), Cajas(3, PreguntaSinAplicar));
     }).Abre(Pedido::FormaUEH);
-    EXPECT_EQ(s.UEHs(1).Area, area);
+    EXPECT_EQ(s.Red.UEHs(1).Area, area);
 }
 
 TEST_F(FichasEnPantalla, CancelarNoPreguntaYSinNadaEscritoEscTampoco)
@@ -462,7 +462,7 @@ TEST_F(FichasEnPantalla, LoYaTomadoNoEsTrabajoSinAplicar)
         EXPECT_FALSE(forma.isVisible());
     }).Abre(Pedido::FormaUEH);
     EXPECT_EQ(mundo.anfitrion->Preguntas(), Cajas{});
-    EXPECT_EQ(s.UEHs(1).Area, 77);
+    EXPECT_EQ(s.Red.UEHs(1).Area, 77);
 }
 
 TEST_F(FichasEnPantalla, ElTituloMarcaLoQueNoSeHaAplicado)
@@ -492,22 +492,22 @@ QWidget& Editor()
 TEST_F(FichasEnPantalla, LosCambiosDeUnaFormaSonUnPasoDeLaHistoriaDelEditor)
 {
     const std::size_t pasos = ventanas->red.historia.anteriores.size();
-    const float area = s.UEHs(1).Area;
-    s.UEHSel = 1;
+    const float area = s.Red.UEHs(1).Area;
+    s.Seleccion.UEHSel = 1;
     EnForma("dlgUEH2", [](QDialog& forma) {
         Llena(forma, "txtArea", "123");
         Llena(forma, "txtNombreUEH", "otra");
         Boton(forma, "OKButton");
     });
     QTest::keyClick(&Control<QWidget>(Editor(), "picDibujo"), Qt::Key_F3);
-    EXPECT_EQ(s.UEHs(1).Area, 123);
+    EXPECT_EQ(s.Red.UEHs(1).Area, 123);
     EXPECT_EQ(ventanas->red.historia.anteriores.size(), pasos + 1);
     EXPECT_TRUE(ventanas->red.cambiada);
     auto* const deshace = Editor().findChild<QAction*>(QStringLiteral("Deshace"));
     ASSERT_NE(deshace, nullptr);
     deshace->trigger();
-    EXPECT_EQ(s.UEHs(1).Area, area);
-    EXPECT_NE(s.UEHs(1).NombreUEH, "u-otra");
+    EXPECT_EQ(s.Red.UEHs(1).Area, area);
+    EXPECT_NE(s.Red.UEHs(1).NombreUEH, "u-otra");
 }
 
 /// Runs the saved project with the batch companion and returns its results.
@@ -540,10 +540,10 @@ double Pico(const std::string& csv, const std::string& componente)
 
 TEST_F(FichasEnPantalla, LoQueSeEscribeSeGuardaYCambiaLosResultadosDeSiroLote)
 {
-    const std::string ueh = s.UEHs(1).NombreUEH, represa = s.Represas(1).NombreRepresa;
+    const std::string ueh = s.Red.UEHs(1).NombreUEH, represa = s.Red.Represas(1).NombreRepresa;
     const std::string antes = Corre(Dir());
     ASSERT_GT(Pico(antes, ueh), 0);
-    const float area = s.UEHs(1).Area;
+    const float area = s.Red.UEHs(1).Area;
 
     EnForma("dlgUEH2", [area](QDialog& forma) {
         Llena(forma, "txtArea", std::to_string(2 * static_cast<int>(area)).c_str());
@@ -568,20 +568,20 @@ TEST_F(FichasEnPantalla, LoQueSeEscribeSeGuardaYCambiaLosResultadosDeSiroLote)
     guarda->trigger();
 
     model::Siro otro;
-    otro.NombreProyecto = "Quelmar";
-    otro.DirProyecto = s.DirProyecto;
+    otro.Proyecto.NombreProyecto = "Quelmar";
+    otro.Proyecto.DirProyecto = s.Proyecto.DirProyecto;
     model::LeeUEHs(otro);
-    EXPECT_EQ(otro.UEHs(1).Area, static_cast<float>(2 * static_cast<int>(area)));
-    EXPECT_EQ(otro.Cauces(1).VelMediaCauce, 0.1F);
-    EXPECT_TRUE(otro.Cauces(1).optDirMusk);
-    EXPECT_EQ(otro.Represas(1).FQa[0], 3);
-    EXPECT_EQ(otro.Lagos(1).HInicialEmb, 0);
+    EXPECT_EQ(otro.Red.UEHs(1).Area, static_cast<float>(2 * static_cast<int>(area)));
+    EXPECT_EQ(otro.Red.Cauces(1).VelMediaCauce, 0.1F);
+    EXPECT_TRUE(otro.Red.Cauces(1).optDirMusk);
+    EXPECT_EQ(otro.Red.Represas(1).FQa[0], 3);
+    EXPECT_EQ(otro.Red.Lagos(1).HInicialEmb, 0);
 
     const std::string despues = Corre(Dir());
     EXPECT_GT(Pico(despues, ueh), 1.5 * Pico(antes, ueh));
     EXPECT_NE(Pico(despues, represa), Pico(antes, represa));
-    EXPECT_NE(Pico(despues, s.Cauces(1).NombreCauce), Pico(antes, s.Cauces(1).NombreCauce));
-    EXPECT_NE(Pico(despues, s.Lagos(1).NombreLAGO), Pico(antes, s.Lagos(1).NombreLAGO));
+    EXPECT_NE(Pico(despues, s.Red.Cauces(1).NombreCauce), Pico(antes, s.Red.Cauces(1).NombreCauce));
+    EXPECT_NE(Pico(despues, s.Red.Lagos(1).NombreLAGO), Pico(antes, s.Red.Lagos(1).NombreLAGO));
 }
 
 }  // namespace

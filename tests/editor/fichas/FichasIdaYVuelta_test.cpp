@@ -21,8 +21,8 @@ struct IdaYVuelta : RedDeFichas {
         model::Siro otro;
         otro.Anfitrion = anfitrion.Puerta();
         otro.Disco = disco.Puerta();
-        otro.NombreProyecto = "Arroyo";
-        otro.DirProyecto = "/proy";
+        otro.Proyecto.NombreProyecto = "Arroyo";
+        otro.Proyecto.DirProyecto = "/proy";
         model::LeeUEHs(otro);
         return otro;
     }
@@ -38,7 +38,7 @@ struct IdaYVuelta : RedDeFichas {
 TEST_F(IdaYVuelta, UnaUEH)
 {
     dlgUEH2 f;
-    s.UEHSel = 2;
+    s.Seleccion.UEHSel = 2;
     Abre(f, s);
     Escribe(f, &dlgUEH2::txtNombreUEH, "txtNombreUEH", "ladera");
     Escribe(f, &dlgUEH2::txtArea, "txtArea", "250,5");
@@ -69,13 +69,13 @@ TEST_F(IdaYVuelta, UnaUEH)
                               .Q0Recesion = 0.125F,
                               .KRecesion = 12,
                               .KostiakovI = 30};
-    EXPECT_EQ(Relee().UEHs(2), esperada);
+    EXPECT_EQ(Relee().Red.UEHs(2), esperada);
 }
 
 TEST_F(IdaYVuelta, UnCauceYSusTributarios)
 {
     dlgCauceEditProp f;
-    s.CauceSel = 1;
+    s.Seleccion.CauceSel = 1;
     Abre(f, s);
     Escribe(f, &dlgCauceEditProp::txtNombreCauce, "txtNombreCauce", "salida");
     Escribe(f, &dlgCauceEditProp::txtLongCauce, "txtLongCauce", "1234.5");
@@ -96,16 +96,16 @@ TEST_F(IdaYVuelta, UnCauceYSusTributarios)
                                 .Cauce_n_Musk = 0.5F,
                                 .OrdenCauce = 1,
                                 .optDirMusk = true};
-    model::Cauce obtenido = otro.Cauces(1);
+    model::Cauce obtenido = otro.Red.Cauces(1);
     obtenido.IndiceParInicial = 0;  // the editor's drawing gives it, not the form
     EXPECT_EQ(obtenido, esperado);
-    EXPECT_EQ(otro.XVertice(1, 1), 81);
-    EXPECT_EQ(otro.YVertice(1, 1), 82);
-    EXPECT_EQ(otro.XVertice(1, 3), 16);
-    EXPECT_EQ(otro.UEHs(1).Cauce_aa, "c-salida");
-    EXPECT_EQ(otro.Cauces(2).Cauce_aa, "c-salida");
-    EXPECT_EQ(otro.Represas(1).Cauce_aa, "c-salida");
-    EXPECT_EQ(otro.Lagos(1).Cauce_aa, "c-salida");
+    EXPECT_EQ(otro.Red.XVertice(1, 1), 81);
+    EXPECT_EQ(otro.Red.YVertice(1, 1), 82);
+    EXPECT_EQ(otro.Red.XVertice(1, 3), 16);
+    EXPECT_EQ(otro.Red.UEHs(1).Cauce_aa, "c-salida");
+    EXPECT_EQ(otro.Red.Cauces(2).Cauce_aa, "c-salida");
+    EXPECT_EQ(otro.Red.Represas(1).Cauce_aa, "c-salida");
+    EXPECT_EQ(otro.Red.Lagos(1).Cauce_aa, "c-salida");
 }
 
 TEST_F(IdaYVuelta, UnaRepresa)
@@ -147,7 +147,7 @@ TEST_F(IdaYVuelta, UnaRepresa)
                                   .chkFQ = {1, 1, 0, 1, 1, 1, 1, 1},
                                   .optTabla = false,
                                   .HInicialEmb = 110.5F};
-    EXPECT_EQ(Relee().Represas(1), esperada);
+    EXPECT_EQ(Relee().Red.Represas(1), esperada);
 }
 
 TEST_F(IdaYVuelta, UnLago)
@@ -170,7 +170,7 @@ TEST_F(IdaYVuelta, UnLago)
                                .Cauce_aa = "0",
                                .Lago_k_Musk = 0.5F,
                                .HInicialEmb = 2.5F};
-    EXPECT_EQ(Relee().Lagos(1), esperado);
+    EXPECT_EQ(Relee().Red.Lagos(1), esperado);
 }
 
 /// Any number of hundredths within the limits of its field comes back.
@@ -178,7 +178,7 @@ TEST_F(IdaYVuelta, CualquierValorQueUnCampoAcepta)
 {
     EXPECT_TRUE(rc::check([this] {
         dlgUEH2 f;
-        s.UEHSel = 1;
+        s.Seleccion.UEHSel = 1;
         Abre(f, s);
         std::vector<float> valores;
         for (const auto& campo : CamposDlgUEH2) {
@@ -189,7 +189,7 @@ TEST_F(IdaYVuelta, CualquierValorQueUnCampoAcepta)
             valores.push_back(static_cast<float>(valor));
         }
         OKButton(f, s);
-        const model::UEH leida = Relee().UEHs(1);
+        const model::UEH leida = Relee().Red.UEHs(1);
         for (std::size_t i = 0; i < valores.size(); ++i)
             RC_ASSERT((leida.*CamposDlgUEH2[i].valor) == valores[i]);
     }));

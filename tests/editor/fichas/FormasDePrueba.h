@@ -26,9 +26,9 @@ struct FormasDePrueba : testing::Test {
     {
         namespace fs = std::filesystem;
         fs::copy(SIRO_DATA_DIR, Dir(), fs::copy_options::recursive);
-        s.DirTrabajo = Dir();
-        s.DirProyecto = s.DirProyectoConf = s.frmConfigura.Dir1 = Dir() + "/Proyectos";
-        s.NombreProyecto = s.frmConfigura.TextProyecto = "Quelmar";
+        s.Proyecto.DirTrabajo = Dir();
+        s.Proyecto.DirProyecto = s.Proyecto.DirProyectoConf = s.frmConfigura.Dir1 = Dir() + "/Proyectos";
+        s.Proyecto.NombreProyecto = s.frmConfigura.TextProyecto = "Quelmar";
         ventanas =
             std::make_unique<VentanasDelEditor>(mundo.entorno, [this](bool visible) { principal = visible; });
         ventanas->AbreEditor();

@@ -68,8 +68,8 @@ TEST_F(TablasEnPantalla, TodosLosControlesTienenNombreYLeyenda)
 TEST_F(TablasEnPantalla, EmpiezaEnLaGrillaYSinFilasEnSuNumero)
 {
     EnTabla("dlgTablaSHV", [](QDialog& forma) { EXPECT_TRUE(Grilla(forma).hasFocus()); });
-    s.RepresaFilasHAS.Dimensiona(2);
-    s.RepresaFilasHAS(1) = s.RepresaFilasHAS(2) = 0;
+    s.Red.RepresaFilasHAS.Dimensiona(2);
+    s.Red.RepresaFilasHAS(1) = s.Red.RepresaFilasHAS(2) = 0;
     model::GuardaTablaHSVRepresa(s);
     EnTabla("dlgTablaSHV", [](QDialog& forma) {
         EXPECT_EQ(Grilla(forma).model()->rowCount(), 0);
@@ -196,7 +196,7 @@ TEST_F(TablasEnPantalla, AplicarDiceLasFilasQueNoCrecenYNoGuarda)
         EXPECT_TRUE(forma.isVisible());
     });
     model::LeeTablaHSVRepresa(s);
-    EXPECT_EQ(s.RepresaH(1, 3), 2);
+    EXPECT_EQ(s.Red.RepresaH(1, 3), 2);
 }
 
 TEST_F(TablasEnPantalla, AceptarGuardaRecuerdaGuardarYCierra)
@@ -213,7 +213,7 @@ TEST_F(TablasEnPantalla, AceptarGuardaRecuerdaGuardarYCierra)
             "De lo contrario se perderá la información cargada.");
     });
     model::LeeTablaHSVRepresa(s);
-    EXPECT_EQ(s.RepresaS(1, 2), 31000);
+    EXPECT_EQ(s.Red.RepresaS(1, 2), 31000);
 }
 
 TEST_F(TablasEnPantalla, EscPreguntaMientrasHayaCeldasSinAplicar)
@@ -283,7 +283,7 @@ TEST_F(EditorDeTabla, EmpiezaEnLaPrimeraCeldaEditableYTomaCasiTodaLaPantalla)
         EXPECT_TRUE(cauces.hasFocus());
         EXPECT_EQ(Cursor(cauces), std::pair(1, 7));
         EXPECT_EQ(Cursor(Grilla(forma, "MSFlexGridEditUEHs")), std::pair(1, 5));
-        EXPECT_EQ(cauces.model()->rowCount(), s.ColCauces.Cuenta());
+        EXPECT_EQ(cauces.model()->rowCount(), s.Red.ColCauces.Cuenta());
         EXPECT_EQ(forma.width(), static_cast<int>(forma.screen()->availableSize().width() * 0.97));
         EXPECT_EQ(forms::DeQ(cauces.toolTip()),
                   "Las celdas de datos con fondo blanco pueden modificarse desde esta tabla");
@@ -330,7 +330,7 @@ TEST_F(EditorDeTabla, UnaLetraPasaSeGuardaComoCeroYLasColumnasGrisesNoSeTocan)
               (Cajas{{"Confirma los cambios producidos en la tabla de datos de Entradas ?",
                       "Consulta de validación de cambios", model::Icono::Exclamacion}}));
     model::LeeUEHs(s);
-    EXPECT_EQ(s.UEHs(1).Area, 0);
+    EXPECT_EQ(s.Red.UEHs(1).Area, 0);
 }
 
 TEST_F(EditorDeTabla, EscDejaLaCeldaYDespuesLaForma)
@@ -389,7 +389,7 @@ TEST_F(EditorDeTabla, ElMarcoPreguntaMientrasHayaCeldasSinAplicar)
 
 TEST_F(EditorDeTabla, CancelarNoGuardaNada)
 {
-    const float area = s.UEHs(1).Area;
+    const float area = s.Red.UEHs(1).Area;
     Abre([](QDialog& forma) {
         forms::TablaGrilla& uehs = Grilla(forma, "MSFlexGridEditUEHs");
         Clic(uehs, 1, 5);
@@ -397,7 +397,7 @@ TEST_F(EditorDeTabla, CancelarNoGuardaNada)
         Boton(forma, "cmdCancel");
         EXPECT_FALSE(forma.isVisible());
     });
-    EXPECT_EQ(s.UEHs(1).Area, area);
+    EXPECT_EQ(s.Red.UEHs(1).Area, area);
     EXPECT_TRUE(mundo.anfitrion->Preguntas().empty());
 }
 
@@ -445,8 +445,8 @@ TEST_F(TablaDeParametros, MuestraTodaLaRedSinQueSePuedaCambiar)
 {
     ASSERT_NE(tabla, nullptr);
     EXPECT_EQ(apoyo::SinNombre(*tabla), std::vector<std::string>{});
-    EXPECT_EQ(FilasDe("Cauce"), s.ColCauces.Cuenta());
-    EXPECT_EQ(FilasDe("UEH"), s.ColUEHs.Cuenta());
+    EXPECT_EQ(FilasDe("Cauce"), s.Red.ColCauces.Cuenta());
+    EXPECT_EQ(FilasDe("UEH"), s.Red.ColUEHs.Cuenta());
     EXPECT_EQ(FilasDe("Represa"), 16);
     EXPECT_EQ(Celda(Grilla(), 1, 5), "Vértices");
     Clic(Grilla(), 2, 7);
@@ -460,10 +460,10 @@ TEST_F(TablaDeParametros, MuestraTodaLaRedSinQueSePuedaCambiar)
 
 TEST_F(TablaDeParametros, ActualizarMuestraLoGuardadoYNoLoQueEstaEnMemoria)
 {
-    s.Cauces(1).VelMediaCauce = 7.25F;
+    s.Red.Cauces(1).VelMediaCauce = 7.25F;
     apoyo::Pulsa(Control<QPushButton>(*tabla, "cmdActualizar"));
     EXPECT_NE(Celda(Grilla(), 2, 7), "7.25");
-    s.Cauces(1).VelMediaCauce = 7.25F;
+    s.Red.Cauces(1).VelMediaCauce = 7.25F;
     model::mnu_btn_toolbarGuardaUEHs(s);
     apoyo::Pulsa(Control<QPushButton>(*tabla, "cmdActualizar"));
     EXPECT_EQ(Celda(Grilla(), 2, 7), "7.25");
@@ -477,7 +477,7 @@ TEST_F(TablaDeParametros, AlVenirAlFrenteDeOtraSeLeeDeNuevo)
     auto* const otra = area.addSubWindow(new QWidget);
     otra->show();
     area.setActiveSubWindow(otra);
-    s.Cauces(1).VelMediaCauce = 6.5F;
+    s.Red.Cauces(1).VelMediaCauce = 6.5F;
     model::mnu_btn_toolbarGuardaUEHs(s);
     EXPECT_NE(Celda(Grilla(), 2, 7), "6.5");
     area.setActiveSubWindow(qobject_cast<QMdiSubWindow*>(tabla->parentWidget()));
@@ -488,7 +488,7 @@ TEST_F(TablaDeParametros, AlVolverDeOtraVentanaDelProgramaSeLeeDeNuevo)
 {
     QWidget otra;
     apoyo::Muestra(otra);
-    s.Cauces(1).VelMediaCauce = 5.5F;
+    s.Red.Cauces(1).VelMediaCauce = 5.5F;
     model::mnu_btn_toolbarGuardaUEHs(s);
     principalDePrueba.activateWindow();
     EXPECT_TRUE(apoyo::Espera([this] { return Celda(Grilla(), 2, 7) == "5.5"; }));

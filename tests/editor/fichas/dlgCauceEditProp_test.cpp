@@ -11,7 +11,7 @@ struct FormaCauce : RedDeFichas {
     FormaCauce() { AbreEn(1); }
     void AbreEn(std::int16_t numero)
     {
-        s.CauceSel = numero;
+        s.Seleccion.CauceSel = numero;
         Abre(f, s);
     }
     bool Nombra(const std::string& nombre)
@@ -60,7 +60,7 @@ TEST(TextosDeDlgCauceEditProp, TituloLeyendasYAyudasEstanLetraPorLetra)
 
 TEST_F(FormaCauce, MuestraElSeleccionadoConSusPropiedades)
 {
-    model::Cauce& c = s.Cauces(2);
+    model::Cauce& c = s.Red.Cauces(2);
     c.LongCauce = 800;
     c.VelMediaCauce = 1.25F;
     c.Cauce_k_Musk = 20.5F;
@@ -88,7 +88,7 @@ TEST_F(FormaCauce, ElDelFormularioEstaEnSuPropiaListaDeDestinos)
               (Textos{"c-1", "c-2", "c-3", "r-1", "r-2", "l-1", "l-2", "Ninguno", "0"}));
     EXPECT_EQ(f.lstTributaCauce.indice, 8);
     Elige("c-1");
-    EXPECT_EQ(s.Cauces(1).Cauce_aa, "c-1");
+    EXPECT_EQ(s.Red.Cauces(1).Cauce_aa, "c-1");
     EXPECT_TRUE(Avisos().empty());
     OKButton(f, s);
     EXPECT_EQ(PrimerVertice(1), (std::pair<float, float>{16, 18})) << "its own last vertex";
@@ -97,9 +97,9 @@ TEST_F(FormaCauce, ElDelFormularioEstaEnSuPropiaListaDeDestinos)
 TEST_F(FormaCauce, SinSeleccionMuestraElPrimeroYSinCaucesQuedaCerrada)
 {
     AbreEn(0);
-    EXPECT_EQ(s.CauceSel, 1);
+    EXPECT_EQ(s.Seleccion.CauceSel, 1);
     EXPECT_EQ(f.lblNombreCauce, "c-1");
-    s.ColCauces.Vacia();
+    s.Red.ColCauces.Vacia();
     AbreEn(0);
     EXPECT_FALSE(f.abierta);
 }
@@ -117,10 +117,10 @@ TEST_F(FormaCauce, LaDeUnSoloVerticeEsCero)
 {
     PonVertices(3, {{50, 50}});
     EXPECT_EQ(LongitudDibujada(s, 3, 10), 0);
-    s.EscalaDibujo = "10";
+    s.Configuracion.EscalaDibujo = "10";
     AbreEn(3);
     EXPECT_EQ(f.lbl_LongCauceDibujo, "0");
-    s.NroVertices(3) = 0;
+    s.Red.NroVertices(3) = 0;
     EXPECT_EQ(LongitudDibujada(s, 3, 10), 0);
 }
 
@@ -148,10 +148,10 @@ TEST_F(FormaCauce, UnaLongitudFueraDeTipoEsFalla6)
 TEST_F(FormaCauce, LaEscalaDecideElRotulo)
 {
     EXPECT_EQ(f.lbl_LongCauceDibujo, "Sin Escalar") << "the scale is 0";
-    s.EscalaDibujo = "12.5";
+    s.Configuracion.EscalaDibujo = "12.5";
     AbreEn(1);
     EXPECT_EQ(f.lbl_LongCauceDibujo, "125");
-    s.EscalaDibujo = "-1";
+    s.Configuracion.EscalaDibujo = "-1";
     AbreEn(1);
     EXPECT_EQ(f.lbl_LongCauceDibujo, "");
     EXPECT_EQ(f.txtLongCauce, "0") << "nobody copies it there";
@@ -188,7 +188,7 @@ TEST_F(FormaCauce, ElNombreLlevaPrefijoYQuinceCaracteres)
 {
     EXPECT_TRUE(Nombra("12345678901234567890"));
     EXPECT_EQ(f.txtNombreCauce, "c-1234567890123");
-    EXPECT_EQ(s.Cauces(1).NombreCauce, "c-1234567890123");
+    EXPECT_EQ(s.Red.Cauces(1).NombreCauce, "c-1234567890123");
 }
 
 TEST_F(FormaCauce, ElNombreDeOtroCauceEsInvalidoYNoSeGuarda)
@@ -197,19 +197,19 @@ TEST_F(FormaCauce, ElNombreDeOtroCauceEsInvalidoYNoSeGuarda)
     EXPECT_EQ(f.txtNombreCauce, "Invalido");
     EXPECT_EQ(f.foco, (forms::Foco{"txtNombreCauce", true}));
     OKButton(f, s);
-    EXPECT_EQ(s.Cauces(1).NombreCauce, "c-1");
+    EXPECT_EQ(s.Red.Cauces(1).NombreCauce, "c-1");
 }
 
 TEST_F(FormaCauce, ElNuevoNombreVaPorTodosLosQueDrenabanAElMenosPorElMismo)
 {
-    s.Cauces(1).Cauce_aa = "c-1";
+    s.Red.Cauces(1).Cauce_aa = "c-1";
     EXPECT_TRUE(Nombra("salida"));
-    EXPECT_EQ(s.Cauces(1).NombreCauce, "c-salida");
-    EXPECT_EQ(s.UEHs(1).Cauce_aa, "c-salida");
-    EXPECT_EQ(s.Cauces(2).Cauce_aa, "c-salida");
-    EXPECT_EQ(s.Represas(1).Cauce_aa, "c-salida");
-    EXPECT_EQ(s.Lagos(1).Cauce_aa, "c-salida");
-    EXPECT_EQ(s.Cauces(1).Cauce_aa, "c-1");
+    EXPECT_EQ(s.Red.Cauces(1).NombreCauce, "c-salida");
+    EXPECT_EQ(s.Red.UEHs(1).Cauce_aa, "c-salida");
+    EXPECT_EQ(s.Red.Cauces(2).Cauce_aa, "c-salida");
+    EXPECT_EQ(s.Red.Represas(1).Cauce_aa, "c-salida");
+    EXPECT_EQ(s.Red.Lagos(1).Cauce_aa, "c-salida");
+    EXPECT_EQ(s.Red.Cauces(1).Cauce_aa, "c-1");
     EXPECT_EQ(f.lstCauces.items, (Textos{"c-salida", "c-2", "c-3"}));
     EXPECT_EQ(f.lstTributaCauce.items.front(), "c-salida");
     EXPECT_EQ(f.lblNombreCauce, "c-salida");
@@ -217,32 +217,32 @@ TEST_F(FormaCauce, ElNuevoNombreVaPorTodosLosQueDrenabanAElMenosPorElMismo)
 
 TEST_F(FormaCauce, NombrarUnCauceSinNombreNoLeAcoplaLosQueNoTienenDestino)
 {
-    s.Cauces(3).NombreCauce.clear();
+    s.Red.Cauces(3).NombreCauce.clear();
     AbreEn(3);
     EXPECT_TRUE(Nombra("nuevo"));
-    EXPECT_EQ(s.Cauces(3).NombreCauce, "c-nuevo");
-    EXPECT_EQ(s.UEHs(2).Cauce_aa, "");
+    EXPECT_EQ(s.Red.Cauces(3).NombreCauce, "c-nuevo");
+    EXPECT_EQ(s.Red.UEHs(2).Cauce_aa, "");
 }
 
 TEST_F(FormaCauce, UnNombreLargoQueNadieTocaQuedaAlAceptarYSeCortaAlDejarSuCampo)
 {
-    s.Cauces(1).NombreCauce = "c-12345678901-.-b";
+    s.Red.Cauces(1).NombreCauce = "c-12345678901-.-b";
     AbreEn(1);
     lstCauces_Click(f, s, 1);
     lstCauces_Click(f, s, 0);
     OKButton(f, s);
-    EXPECT_EQ(s.Cauces(1).NombreCauce, "c-12345678901-.-b");
+    EXPECT_EQ(s.Red.Cauces(1).NombreCauce, "c-12345678901-.-b");
     AbreEn(1);
     EXPECT_TRUE(AlSalir(f, s, "txtNombreCauce"));
-    EXPECT_EQ(s.Cauces(1).NombreCauce, "c-12345678901-.");
+    EXPECT_EQ(s.Red.Cauces(1).NombreCauce, "c-12345678901-.");
 }
 
 TEST_F(FormaCauce, UnNombreEscritoYNoDejadoSeGuardaAlAceptarYLosTributariosLoSiguen)
 {
     f.txtNombreCauce = "salida";
     OKButton(f, s);
-    EXPECT_EQ(s.Cauces(1).NombreCauce, "c-salida");
-    EXPECT_EQ(s.UEHs(1).Cauce_aa, "c-salida");
+    EXPECT_EQ(s.Red.Cauces(1).NombreCauce, "c-salida");
+    EXPECT_EQ(s.Red.UEHs(1).Cauce_aa, "c-salida");
 }
 
 // --- method ---
@@ -254,15 +254,15 @@ TEST_F(FormaCauce, LasDosOpcionesSeExcluyenYNadaMas)
     EXPECT_TRUE(f.optDirecta);
     EXPECT_FALSE(f.optMusk);
     OKButton(f, s);
-    EXPECT_TRUE(s.Cauces(1).optDirMusk);
-    EXPECT_EQ(s.Cauces(1).Cauce_k_Musk, 3) << "the Muskingum fields count with either";
+    EXPECT_TRUE(s.Red.Cauces(1).optDirMusk);
+    EXPECT_EQ(s.Red.Cauces(1).Cauce_k_Musk, 3) << "the Muskingum fields count with either";
     AbreEn(1);
     EXPECT_TRUE(f.optDirecta);
     optMusk_Click(f);
     EXPECT_TRUE(f.optMusk);
     EXPECT_FALSE(f.optDirecta);
     OKButton(f, s);
-    EXPECT_FALSE(s.Cauces(1).optDirMusk);
+    EXPECT_FALSE(s.Red.Cauces(1).optDirMusk);
 }
 
 // --- destination ---
@@ -270,25 +270,25 @@ TEST_F(FormaCauce, LasDosOpcionesSeExcluyenYNadaMas)
 TEST_F(FormaCauce, ElDestinoElegidoValeEnSeguida)
 {
     Elige("r-1");
-    EXPECT_EQ(s.Cauces(1).Cauce_aa, "r-1");
+    EXPECT_EQ(s.Red.Cauces(1).Cauce_aa, "r-1");
     EXPECT_EQ(PrimerVertice(1), (std::pair<float, float>{71, 72}));
     Elige("l-2");
-    EXPECT_EQ(s.Cauces(1).Cauce_aa, "l-2");
+    EXPECT_EQ(s.Red.Cauces(1).Cauce_aa, "l-2");
     EXPECT_EQ(PrimerVertice(1), (std::pair<float, float>{81, 82}));
     Elige("Ninguno");
-    EXPECT_EQ(s.Cauces(1).Cauce_aa, "");
+    EXPECT_EQ(s.Red.Cauces(1).Cauce_aa, "");
     Elige("0");
-    EXPECT_EQ(s.Cauces(1).Cauce_aa, "0");
+    EXPECT_EQ(s.Red.Cauces(1).Cauce_aa, "0");
     EXPECT_EQ(PrimerVertice(1), (std::pair<float, float>{81, 82})) << "none leaves the vertex where it is";
     EXPECT_EQ(anfitrion->redibujos, 4);
     CancelButton(f, s);
-    EXPECT_EQ(s.Cauces(1).Cauce_aa, "0");
+    EXPECT_EQ(s.Red.Cauces(1).Cauce_aa, "0");
 }
 
 TEST_F(FormaCauce, UnCauceComoDestinoMueveElVerticeAlDibujarOAlGuardar)
 {
     Elige("c-3");
-    EXPECT_EQ(s.Cauces(1).Cauce_aa, "c-3");
+    EXPECT_EQ(s.Red.Cauces(1).Cauce_aa, "c-3");
     EXPECT_EQ(PrimerVertice(1), (std::pair<float, float>{10, 10}));
     EXPECT_EQ(anfitrion->redibujos, 1);
     lstCauces_Click(f, s, 1);
@@ -298,13 +298,13 @@ TEST_F(FormaCauce, UnCauceComoDestinoMueveElVerticeAlDibujarOAlGuardar)
 TEST_F(FormaCauce, UnCicloNoSeRechaza)
 {
     Elige("c-2");  // c-2 drains to c-1
-    EXPECT_EQ(s.Cauces(1).Cauce_aa, "c-2");
+    EXPECT_EQ(s.Red.Cauces(1).Cauce_aa, "c-2");
     EXPECT_TRUE(anfitrion->sucesos.empty());
 }
 
 TEST_F(FormaCauce, LaLongitudDibujadaSigueAlVerticeMovido)
 {
-    s.EscalaDibujo = "1";
+    s.Configuracion.EscalaDibujo = "1";
     AbreEn(3);  // (50, 50) to (60, 60): 14.14
     EXPECT_EQ(f.lbl_LongCauceDibujo, "14");
     Elige("r-1");  // (71, 72) to (60, 60): √(121 + 144) = 16.28
@@ -315,7 +315,7 @@ TEST_F(FormaCauce, LaLongitudDibujadaSigueAlVerticeMovido)
 
 TEST_F(FormaCauce, AceptarGuardaCadaCampoEnSuPropiedadLimpiaLaSeleccionYCierra)
 {
-    s.UEHSel = 2;
+    s.Seleccion.UEHSel = 2;
     f.txtLongCauce = "850";
     f.txtVelMediaCauce = "1,5";
     f.txtCauce_k_Musk = "45";
@@ -331,9 +331,9 @@ TEST_F(FormaCauce, AceptarGuardaCadaCampoEnSuPropiedadLimpiaLaSeleccionYCierra)
                                 .Cauce_k_Musk = 45,
                                 .Cauce_n_Musk = 0.3F,
                                 .optDirMusk = true};
-    EXPECT_EQ(s.Cauces(1), esperado);
-    EXPECT_EQ(s.CauceSel, 0);
-    EXPECT_EQ(s.UEHSel, 0);
+    EXPECT_EQ(s.Red.Cauces(1), esperado);
+    EXPECT_EQ(s.Seleccion.CauceSel, 0);
+    EXPECT_EQ(s.Seleccion.UEHSel, 0);
     EXPECT_FALSE(f.abierta);
 }
 
@@ -341,20 +341,20 @@ TEST_F(FormaCauce, PasarAOtroGuardaYMuestraElOtro)
 {
     f.txtLongCauce = "850";
     lstCauces_Click(f, s, 2);
-    EXPECT_EQ(s.Cauces(1).LongCauce, 850);
-    EXPECT_EQ(s.CauceSel, 3);
+    EXPECT_EQ(s.Red.Cauces(1).LongCauce, 850);
+    EXPECT_EQ(s.Seleccion.CauceSel, 3);
     EXPECT_EQ(f.lblNombreCauce, "c-3");
     EXPECT_EQ(f.txtLongCauce, "0");
 }
 
 TEST_F(FormaCauce, CancelarNoGuardaYLimpiaLaSeleccion)
 {
-    s.UEHSel = 2;
+    s.Seleccion.UEHSel = 2;
     f.txtLongCauce = "850";
     CancelButton(f, s);
-    EXPECT_EQ(s.Cauces(1).LongCauce, 0);
-    EXPECT_EQ(s.CauceSel, 0);
-    EXPECT_EQ(s.UEHSel, 0);
+    EXPECT_EQ(s.Red.Cauces(1).LongCauce, 0);
+    EXPECT_EQ(s.Seleccion.CauceSel, 0);
+    EXPECT_EQ(s.Seleccion.UEHSel, 0);
     EXPECT_FALSE(f.abierta);
     EXPECT_EQ(anfitrion->redibujos, 1);
 }

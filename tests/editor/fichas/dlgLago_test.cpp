@@ -12,7 +12,7 @@ struct FormaLago : RedDeFichas {
     FormaLago() { AbreEn(0); }
     void AbreEn(std::int16_t numero)
     {
-        s.LagoSel = numero;
+        s.Seleccion.LagoSel = numero;
         Abre(f, s);
     }
     bool Nombra(const std::string& nombre)
@@ -27,7 +27,7 @@ struct FormaLago : RedDeFichas {
         f.txtHInicialEmb = texto;
         return AlSalir(f, s, "txtHInicialEmb");
     }
-    std::pair<float, float> Punto(int n) { return {s.Lagos(n).XCauce, s.Lagos(n).YCauce}; }
+    std::pair<float, float> Punto(int n) { return {s.Red.Lagos(n).XCauce, s.Red.Lagos(n).YCauce}; }
 
     dlgLago f;
 };
@@ -60,13 +60,13 @@ TEST(TextosDeDlgLago, TituloYLeyendasEstanLetraPorLetra)
 
 TEST_F(FormaLago, SinSeleccionMuestraElPrimeroConSusPropiedades)
 {
-    s.Lagos(1).Referencia = "mallin";
-    s.Lagos(1).Metodo = "Muskingum";
-    s.Lagos(1).Lago_k_Musk = 45.5F;
-    s.Lagos(1).HInicialEmb = 1.5F;
+    s.Red.Lagos(1).Referencia = "mallin";
+    s.Red.Lagos(1).Metodo = "Muskingum";
+    s.Red.Lagos(1).Lago_k_Musk = 45.5F;
+    s.Red.Lagos(1).HInicialEmb = 1.5F;
     AbreEn(0);
     EXPECT_TRUE(f.abierta);
-    EXPECT_EQ(s.LagoSel, 1);
+    EXPECT_EQ(s.Seleccion.LagoSel, 1);
     EXPECT_EQ(f.lstLAGOs, (Lista{{"l-1", "l-2"}, 0}));
     EXPECT_EQ(f.lblNroLago, "1");
     EXPECT_EQ(f.lblNombreLago, "l-1");
@@ -82,10 +82,10 @@ TEST_F(FormaLago, SinSeleccionMuestraElPrimeroConSusPropiedades)
 
 TEST_F(FormaLago, SinLagosQuedaCerrada)
 {
-    s.ColLagos.Vacia();
+    s.Red.ColLagos.Vacia();
     AbreEn(0);
     EXPECT_FALSE(f.abierta);
-    EXPECT_EQ(s.LagoSel, 0);
+    EXPECT_EQ(s.Seleccion.LagoSel, 0);
 }
 
 // --- state of the table ---
@@ -121,7 +121,7 @@ TEST_F(FormaLago, UnaLecturaConLaFormaAbiertaCambiaElRotulo)
 TEST_F(FormaLago, ConLaFormaCerradaElRotuloQueda)
 {
     CancelButton(f, s);
-    s.LagoFilas(1) = 0;
+    s.Red.LagoFilas(1) = 0;
     AlVolver(f, s);
     EXPECT_EQ(f.lblParametros, "Datos HSVQ en Tabla");
 }
@@ -145,9 +145,9 @@ TEST_F(FormaLago, ElBotonPideLaTabla)
 TEST_F(FormaLago, ElDirectoDeUnLagoNuevoEsPiscinaNiveladaDesdeQueSeMuestra)
 {
     for (const char* metodo : {"Directo", ""}) {
-        s.Lagos(1).Metodo = metodo;
+        s.Red.Lagos(1).Metodo = metodo;
         AbreEn(1);
-        EXPECT_EQ(s.Lagos(1).Metodo, "Piscina Nivelada") << metodo;
+        EXPECT_EQ(s.Red.Lagos(1).Metodo, "Piscina Nivelada") << metodo;
         EXPECT_EQ(f.lblMetodo, "Piscina Nivelada");
     }
 }
@@ -163,7 +163,7 @@ TEST_F(FormaLago, ElMetodoMuestraUOcultaKYDaSuRotulo)
     EXPECT_FALSE(f.MuskingumVisible());
     EXPECT_EQ(f.lblLagoCofk, "Runge Kutta");
     OKButton(f, s);
-    EXPECT_EQ(s.Lagos(1).Metodo, "Runge Kutta");
+    EXPECT_EQ(s.Red.Lagos(1).Metodo, "Runge Kutta");
 }
 
 // --- number fields ---
@@ -217,9 +217,9 @@ TEST_F(FormaLago, UnLagoSinTablaSoloAceptaCeroComoAlturaInicial)
 TEST_F(FormaLago, AlNombreSeLePoneElPrefijoYSeCortaEnQuince)
 {
     EXPECT_TRUE(Nombra("blanca"));
-    EXPECT_EQ(s.Lagos(1).NombreLAGO, "l-blanca");
+    EXPECT_EQ(s.Red.Lagos(1).NombreLAGO, "l-blanca");
     EXPECT_TRUE(Nombra("12345678901234567890"));
-    EXPECT_EQ(s.Lagos(1).NombreLAGO, "l-1234567890123");
+    EXPECT_EQ(s.Red.Lagos(1).NombreLAGO, "l-1234567890123");
 }
 
 TEST_F(FormaLago, ElNombreDeOtroEsInvalidoYNoSeGuarda)
@@ -228,17 +228,18 @@ TEST_F(FormaLago, ElNombreDeOtroEsInvalidoYNoSeGuarda)
     EXPECT_EQ(f.txtNombreLAGO, "Invalido");
     EXPECT_EQ(f.foco, (forms::Foco{"txtNombreLAGO", true}));
     OKButton(f, s);
-    EXPECT_EQ(s.Lagos(1).NombreLAGO, "l-1");
+    EXPECT_EQ(s.Red.Lagos(1).NombreLAGO, "l-1");
 }
 
 TEST_F(FormaLago, ElNuevoNombreVaPorTodosLosDestinos)
 {
-    s.UEHs(2).Cauce_aa = s.Cauces(1).Cauce_aa = s.Lagos(2).Cauce_aa = s.Represas(2).Cauce_aa = "l-1";
+    s.Red.UEHs(2).Cauce_aa = s.Red.Cauces(1).Cauce_aa = s.Red.Lagos(2).Cauce_aa = s.Red.Represas(2).Cauce_aa =
+        "l-1";
     EXPECT_TRUE(Nombra("alta"));
-    EXPECT_EQ(s.UEHs(2).Cauce_aa, "l-alta");
-    EXPECT_EQ(s.Cauces(1).Cauce_aa, "l-alta");
-    EXPECT_EQ(s.Lagos(2).Cauce_aa, "l-alta");
-    EXPECT_EQ(s.Represas(2).Cauce_aa, "l-alta");
+    EXPECT_EQ(s.Red.UEHs(2).Cauce_aa, "l-alta");
+    EXPECT_EQ(s.Red.Cauces(1).Cauce_aa, "l-alta");
+    EXPECT_EQ(s.Red.Lagos(2).Cauce_aa, "l-alta");
+    EXPECT_EQ(s.Red.Represas(2).Cauce_aa, "l-alta");
     EXPECT_EQ(f.lstLAGOs.items, (Textos{"l-alta", "l-2"}));
 }
 
@@ -254,35 +255,35 @@ TEST_F(FormaLago, ElDestinoElegidoValeEnSeguida)
     for (const Caso& caso : {Caso{"c-2", "c-2", {30, 20}}, Caso{"Ninguno", "", {0, 0}},
                              Caso{"c-3", "c-3", {60, 60}}, Caso{"0", "0", {0, 0}}}) {
         Elige(caso.entrada);
-        EXPECT_EQ(s.Lagos(1).Cauce_aa, caso.Cauce_aa) << caso.entrada;
+        EXPECT_EQ(s.Red.Lagos(1).Cauce_aa, caso.Cauce_aa) << caso.entrada;
         EXPECT_EQ(Punto(1), caso.punto) << caso.entrada;
     }
 }
 
 TEST_F(FormaLago, ElDestinoSeGuardaOtraVezConLosCampos)
 {
-    s.Lagos(1).XCauce = s.Lagos(1).YCauce = 5;
+    s.Red.Lagos(1).XCauce = s.Red.Lagos(1).YCauce = 5;
     OKButton(f, s);
-    EXPECT_EQ(s.Lagos(1).Cauce_aa, "c-1");
+    EXPECT_EQ(s.Red.Lagos(1).Cauce_aa, "c-1");
     EXPECT_EQ(Punto(1), (std::pair<float, float>{16, 18})) << "the reach's upper end";
 }
 
 TEST_F(FormaLago, UnDestinoQueNoEstaEnLaListaQueda)
 {
-    s.Lagos(1).Cauce_aa = "r-1";
-    s.Lagos(1).XCauce = 71;
+    s.Red.Lagos(1).Cauce_aa = "r-1";
+    s.Red.Lagos(1).XCauce = 71;
     AbreEn(1);
     EXPECT_EQ(f.lstCauceAA.indice, -1);
     OKButton(f, s);
-    EXPECT_EQ(s.Lagos(1).Cauce_aa, "r-1");
-    EXPECT_EQ(s.Lagos(1).XCauce, 71);
+    EXPECT_EQ(s.Red.Lagos(1).Cauce_aa, "r-1");
+    EXPECT_EQ(s.Red.Lagos(1).XCauce, 71);
 }
 
 // --- storing ---
 
 TEST_F(FormaLago, AceptarGuardaCadaCampoEnSuPropiedadLimpiaLaSeleccionYCierra)
 {
-    s.RepresaSel = 1;
+    s.Seleccion.RepresaSel = 1;
     f.txtReferencia = "  a, 'b' ";
     lstMetodo_Click(f, 1);
     f.txtLago_k = "45,5";
@@ -299,9 +300,9 @@ TEST_F(FormaLago, AceptarGuardaCadaCampoEnSuPropiedadLimpiaLaSeleccionYCierra)
                                .Cauce_aa = "c-1",
                                .Lago_k_Musk = 45.5F,
                                .HInicialEmb = 1.5F};
-    EXPECT_EQ(s.Lagos(1), esperado);
-    EXPECT_EQ(s.LagoSel, 0);
-    EXPECT_EQ(s.RepresaSel, 0);
+    EXPECT_EQ(s.Red.Lagos(1), esperado);
+    EXPECT_EQ(s.Seleccion.LagoSel, 0);
+    EXPECT_EQ(s.Seleccion.RepresaSel, 0);
     EXPECT_FALSE(f.abierta);
     EXPECT_EQ(anfitrion->redibujos, 1);
 }
@@ -311,9 +312,9 @@ TEST_F(FormaLago, ElegirOtroGuardaLosCamposYMuestraElOtro)
     f.txtReferencia = "mallin";
     f.txtLago_k = "12";
     lstLAGOs_Click(f, s, 1);
-    EXPECT_EQ(s.Lagos(1).Referencia, "mallin");
-    EXPECT_EQ(s.Lagos(1).Lago_k_Musk, 12);
-    EXPECT_EQ(s.LagoSel, 2);
+    EXPECT_EQ(s.Red.Lagos(1).Referencia, "mallin");
+    EXPECT_EQ(s.Red.Lagos(1).Lago_k_Musk, 12);
+    EXPECT_EQ(s.Seleccion.LagoSel, 2);
     EXPECT_EQ(f.lblNombreLago, "l-2");
     EXPECT_EQ(f.txtReferencia, "");
 }
@@ -323,20 +324,20 @@ TEST_F(FormaLago, CancelarCierraSinGuardarLosCampos)
     f.txtReferencia = "mallin";
     f.txtLago_k = "12";
     CancelButton(f, s);
-    EXPECT_EQ(s.Lagos(1).Referencia, "");
-    EXPECT_EQ(s.Lagos(1).Lago_k_Musk, 0);
+    EXPECT_EQ(s.Red.Lagos(1).Referencia, "");
+    EXPECT_EQ(s.Red.Lagos(1).Lago_k_Musk, 0);
     EXPECT_FALSE(f.abierta);
 }
 
 TEST_F(FormaLago, UnTextoSinNumeroGuardaCero)
 {
-    s.Lagos(1).HInicialEmb = s.Lagos(1).Lago_k_Musk = 2;
+    s.Red.Lagos(1).HInicialEmb = s.Red.Lagos(1).Lago_k_Musk = 2;
     AbreEn(1);
     f.txtHInicialEmb = "abc";
     f.txtLago_k = "";
     OKButton(f, s);
-    EXPECT_EQ(s.Lagos(1).HInicialEmb, 0);
-    EXPECT_EQ(s.Lagos(1).Lago_k_Musk, 0);
+    EXPECT_EQ(s.Red.Lagos(1).HInicialEmb, 0);
+    EXPECT_EQ(s.Red.Lagos(1).Lago_k_Musk, 0);
 }
 
 TEST_F(FormaLago, LaTablaDeUnNombreCambiadoSeLlevaConSuTecla)

@@ -11,7 +11,7 @@ struct FormaRepresa : RedDeFichas {
     FormaRepresa() { AbreEn(0); }
     void AbreEn(std::int16_t numero)
     {
-        s.RepresaSel = numero;
+        s.Seleccion.RepresaSel = numero;
         Abre(f, s);
     }
     bool Nombra(const std::string& nombre)
@@ -99,7 +99,7 @@ TEST_F(FormaRepresa, LaTeclaLlevaLasTablasAlNombreNuevo)
               "and\xFA\",1\r\n1,2\r\n\"*r-2\",1\r\n4,5\r\n");
     EXPECT_EQ(f.tablasDe, "");
     EXPECT_EQ(f.lblTablas, "Las tablas llevan ahora el nombre «r-ñandú»: guarde la red en el editor.");
-    EXPECT_EQ(s.RepresaFilasHAS(1), 3);  // read again
+    EXPECT_EQ(s.Red.RepresaFilasHAS(1), 3);  // read again
     EXPECT_TRUE(Avisos().empty());
     AbreEn(1);
     EXPECT_EQ(f.lblTablas, "");
@@ -119,8 +119,8 @@ TEST_F(FormaRepresa, UnDiscoQueFallaDejaLasTablasParaOtraVez)
 
 TEST_F(FormaRepresa, LaTablaDeOtraRepresaNoSeOfrece)
 {
-    s.ColRepresas.Item(1).NombreRepresa = "r-otra";
-    s.ColRepresas.Item(2).NombreRepresa = "r-1";
+    s.Red.ColRepresas.Item(1).NombreRepresa = "r-otra";
+    s.Red.ColRepresas.Item(2).NombreRepresa = "r-1";
     AbreEn(1);
     EXPECT_EQ(f.tablasDe, "");
 }
@@ -130,12 +130,12 @@ TEST_F(FormaRepresa, LaTablaDeOtraRepresaNoSeOfrece)
 TEST_F(FormaRepresa, SinSeleccionMuestraLaPrimeraYLeeLasTablas)
 {
     EXPECT_TRUE(f.abierta);
-    EXPECT_EQ(s.RepresaSel, 1);
+    EXPECT_EQ(s.Seleccion.RepresaSel, 1);
     EXPECT_EQ(f.lstRepresas, (Lista{{"r-1", "r-2"}, 0}));
     EXPECT_EQ(f.lblNroRepresa, "1");
     EXPECT_EQ(f.lblNombreRepresa, "r-1");
     EXPECT_EQ(f.txtNombreRepresa, "r-1");
-    EXPECT_EQ(s.RepresaFilasHAS(1), 3);
+    EXPECT_EQ(s.Red.RepresaFilasHAS(1), 3);
     EXPECT_EQ(f.lstCauceAA, (Lista{{"Ninguno", "0", "c-1", "c-2", "c-3"}, 2}));
     EXPECT_EQ(f.lblDrenaCauceAA, "c-1");
     EXPECT_TRUE(Avisos().empty());
@@ -143,15 +143,15 @@ TEST_F(FormaRepresa, SinSeleccionMuestraLaPrimeraYLeeLasTablas)
 
 TEST_F(FormaRepresa, SinRepresasQuedaCerrada)
 {
-    s.ColRepresas.Vacia();
+    s.Red.ColRepresas.Vacia();
     AbreEn(0);
     EXPECT_FALSE(f.abierta);
-    EXPECT_EQ(s.RepresaSel, 0);
+    EXPECT_EQ(s.Seleccion.RepresaSel, 0);
 }
 
 TEST_F(FormaRepresa, MuestraCadaPropiedadEnSuCampo)
 {
-    model::Represa& r = s.Represas(2);
+    model::Represa& r = s.Red.Represas(2);
     r.Metodo = "Muskingum";
     r.Represa_k_Musk = 60.5F;
     r.Represa_n_Musk = 0.3F;
@@ -185,12 +185,12 @@ TEST_F(FormaRepresa, MuestraCadaPropiedadEnSuCampo)
 TEST_F(FormaRepresa, UnMetodoVacioODesconocidoEsPiscinaNiveladaDesdeQueSeMuestra)
 {
     for (const char* metodo : {"", "Directo", "muskingum"}) {
-        s.Represas(1).Metodo = metodo;
+        s.Red.Represas(1).Metodo = metodo;
         AbreEn(1);
-        EXPECT_EQ(s.Represas(1).Metodo, "Piscina Nivelada") << metodo;
+        EXPECT_EQ(s.Red.Represas(1).Metodo, "Piscina Nivelada") << metodo;
         EXPECT_EQ(f.lblMetodo, "Piscina Nivelada");
         CancelButton(f, s);
-        EXPECT_EQ(s.Represas(1).Metodo, "Piscina Nivelada");
+        EXPECT_EQ(s.Red.Represas(1).Metodo, "Piscina Nivelada");
     }
 }
 
@@ -208,9 +208,9 @@ TEST_F(FormaRepresa, ElMetodoMuestraUOcultaLosCamposYDaSusRotulos)
     EligeElMetodo("Runge Kutta");
     EXPECT_FALSE(f.MuskingumVisible());
     EXPECT_EQ(f.lblRepresaCofk, "Runge Kutta");
-    EXPECT_EQ(s.Represas(1).Metodo, "Piscina Nivelada") << "stored with the fields";
+    EXPECT_EQ(s.Red.Represas(1).Metodo, "Piscina Nivelada") << "stored with the fields";
     OKButton(f, s);
-    EXPECT_EQ(s.Represas(1).Metodo, "Runge Kutta");
+    EXPECT_EQ(s.Red.Represas(1).Metodo, "Runge Kutta");
 }
 
 TEST_F(FormaRepresa, UnMetodoFueraDeLaListaNoSeToma)
@@ -223,19 +223,19 @@ TEST_F(FormaRepresa, UnMetodoFueraDeLaListaNoSeToma)
 
 TEST_F(FormaRepresa, LosCamposOcultosConservanSuValor)
 {
-    s.Represas(1).Represa_k_Musk = 33;
-    s.Represas(1).Represa_n_Musk = 0.25F;
+    s.Red.Represas(1).Represa_k_Musk = 33;
+    s.Red.Represas(1).Represa_n_Musk = 0.25F;
     AbreEn(1);
     OKButton(f, s);
-    EXPECT_EQ(s.Represas(1).Represa_k_Musk, 33);
-    EXPECT_EQ(s.Represas(1).Represa_n_Musk, 0.25F);
+    EXPECT_EQ(s.Red.Represas(1).Represa_k_Musk, 33);
+    EXPECT_EQ(s.Red.Represas(1).Represa_n_Musk, 0.25F);
 }
 
 // --- table or functions ---
 
 TEST_F(FormaRepresa, PorTablaSeEditaLaTablaYNoLasFunciones)
 {
-    s.Represas(1).chkFQ.fill(1);
+    s.Red.Represas(1).chkFQ.fill(1);
     AbreEn(1);
     EXPECT_TRUE(f.optTablaQ);
     EXPECT_FALSE(f.optFunciones);
@@ -247,8 +247,8 @@ TEST_F(FormaRepresa, PorTablaSeEditaLaTablaYNoLasFunciones)
 
 TEST_F(FormaRepresa, PorFuncionesSeEditanLasMarcadas)
 {
-    s.Represas(1).optTabla = false;
-    s.Represas(1).chkFQ = {1, 0, 0, 0, 1, 0, 0, 0};
+    s.Red.Represas(1).optTabla = false;
+    s.Red.Represas(1).chkFQ = {1, 0, 0, 0, 1, 0, 0, 0};
     AbreEn(1);
     EXPECT_TRUE(f.optFunciones);
     EXPECT_FALSE(f.optTablaQ);
@@ -274,7 +274,7 @@ TEST_F(FormaRepresa, SoloLasFuncionesCincoAOchoTienenC)
         EXPECT_EQ(campo.primera, campo.control == "txtFQc" ? 5 : 1) << campo.control;
     f.txtFQc.fill("7");
     OKButton(f, s);
-    EXPECT_EQ(s.Represas(1).FQc, (std::array<float, 8>{0, 0, 0, 0, 7, 7, 7, 7}));
+    EXPECT_EQ(s.Red.Represas(1).FQc, (std::array<float, 8>{0, 0, 0, 0, 7, 7, 7, 7}));
 }
 
 TEST_F(FormaRepresa, LosBotonesPidenLaTablaQueAbren)
@@ -351,32 +351,33 @@ TEST_F(FormaRepresa, LosCamposDeLasFuncionesNoRechazanNada)
 TEST_F(FormaRepresa, AlNombreSeLePoneElPrefijoYSeCortaEnQuince)
 {
     EXPECT_TRUE(Nombra("presa"));
-    EXPECT_EQ(s.Represas(1).NombreRepresa, "r-presa");
+    EXPECT_EQ(s.Red.Represas(1).NombreRepresa, "r-presa");
     EXPECT_TRUE(Nombra("12345678901234567890"));
     EXPECT_EQ(f.txtNombreRepresa, "r-1234567890123");
-    EXPECT_EQ(s.Represas(1).NombreRepresa, "r-1234567890123");
+    EXPECT_EQ(s.Red.Represas(1).NombreRepresa, "r-1234567890123");
 }
 
 TEST_F(FormaRepresa, ElNombreDeOtraEsInvalidoYNadaCambia)
 {
-    s.UEHs(2).Cauce_aa = "r-1";
+    s.Red.UEHs(2).Cauce_aa = "r-1";
     EXPECT_FALSE(Nombra("r-2"));
     EXPECT_EQ(f.txtNombreRepresa, "Invalido");
     EXPECT_EQ(f.foco, (forms::Foco{"txtNombreRepresa", true}));
-    EXPECT_EQ(s.Represas(1).NombreRepresa, "r-1");
-    EXPECT_EQ(s.UEHs(2).Cauce_aa, "r-1");
+    EXPECT_EQ(s.Red.Represas(1).NombreRepresa, "r-1");
+    EXPECT_EQ(s.Red.UEHs(2).Cauce_aa, "r-1");
     OKButton(f, s);
-    EXPECT_EQ(s.Represas(1).NombreRepresa, "r-1");
+    EXPECT_EQ(s.Red.Represas(1).NombreRepresa, "r-1");
 }
 
 TEST_F(FormaRepresa, ElNuevoNombreVaPorTodosLosDestinosYLaListaSeLlenaDeNuevo)
 {
-    s.UEHs(2).Cauce_aa = s.Cauces(1).Cauce_aa = s.Lagos(2).Cauce_aa = s.Represas(2).Cauce_aa = "r-1";
+    s.Red.UEHs(2).Cauce_aa = s.Red.Cauces(1).Cauce_aa = s.Red.Lagos(2).Cauce_aa = s.Red.Represas(2).Cauce_aa =
+        "r-1";
     EXPECT_TRUE(Nombra("alta"));
-    EXPECT_EQ(s.UEHs(2).Cauce_aa, "r-alta");
-    EXPECT_EQ(s.Cauces(1).Cauce_aa, "r-alta");
-    EXPECT_EQ(s.Lagos(2).Cauce_aa, "r-alta");
-    EXPECT_EQ(s.Represas(2).Cauce_aa, "r-alta");
+    EXPECT_EQ(s.Red.UEHs(2).Cauce_aa, "r-alta");
+    EXPECT_EQ(s.Red.Cauces(1).Cauce_aa, "r-alta");
+    EXPECT_EQ(s.Red.Lagos(2).Cauce_aa, "r-alta");
+    EXPECT_EQ(s.Red.Represas(2).Cauce_aa, "r-alta");
     EXPECT_EQ(f.lstRepresas, (Lista{{"r-alta", "r-2"}, 0}));
     EXPECT_EQ(f.lblNombreRepresa, "r-alta");
 }
@@ -385,7 +386,7 @@ TEST_F(FormaRepresa, ElCambioDeNombreDejaLaTablaBajoElViejo)
 {
     Nombra("alta");
     AbreEn(1);
-    EXPECT_EQ(s.RepresaFilasHAS(1), 0);
+    EXPECT_EQ(s.Red.RepresaFilasHAS(1), 0);
     EXPECT_EQ(disco.Bytes("/proy/Arroyo_RHAS.vlm").substr(0, 6), "\"*r-1\"");
 }
 
@@ -401,7 +402,7 @@ TEST_F(FormaRepresa, ElDestinoElegidoValeEnSeguida)
     for (const Caso& caso : {Caso{"c-2", "c-2", {30, 20}}, Caso{"Ninguno", "", {0, 0}},
                              Caso{"c-3", "c-3", {60, 60}}, Caso{"0", "0", {0, 0}}}) {
         Elige(caso.entrada);
-        const model::Represa& r = s.Represas(1);
+        const model::Represa& r = s.Red.Represas(1);
         EXPECT_EQ(r.Cauce_aa, caso.Cauce_aa) << caso.entrada;
         EXPECT_EQ((std::pair{r.XCauce, r.YCauce}), caso.punto) << caso.entrada;
         EXPECT_EQ(f.lblDrenaCauceAA, caso.Cauce_aa);
@@ -412,10 +413,10 @@ TEST_F(FormaRepresa, ElDestinoElegidoValeEnSeguida)
 
 TEST_F(FormaRepresa, GuardarNoTocaElDestino)
 {
-    s.Represas(1).XCauce = 5;
+    s.Red.Represas(1).XCauce = 5;
     OKButton(f, s);
-    EXPECT_EQ(s.Represas(1).Cauce_aa, "c-1");
-    EXPECT_EQ(s.Represas(1).XCauce, 5);
+    EXPECT_EQ(s.Red.Represas(1).Cauce_aa, "c-1");
+    EXPECT_EQ(s.Red.Represas(1).XCauce, 5);
 }
 
 // --- storing ---
@@ -436,7 +437,8 @@ TEST_F(FormaRepresa, AceptarGuardaCadaCampoEnSuPropiedadLimpiaLaSeleccionYCierra
         f.txtFQHmin[lugar] = std::to_string(400 + i) + ",5";
         f.txtFQHMax[lugar] = i == 8 ? "nada" : std::to_string(500 + i);
     }
-    s.CauceSel = s.UEHSel = s.LagoSel = s.VerticeSel = s.CauceAnterior = 1;
+    s.Seleccion.CauceSel = s.Seleccion.UEHSel = s.Seleccion.LagoSel = s.Seleccion.VerticeSel =
+        s.Seleccion.CauceAnterior = 1;
     OKButton(f, s);
     model::Represa esperada{.NombreRepresa = "r-1",
                             .numRepresa = 1,
@@ -454,9 +456,10 @@ TEST_F(FormaRepresa, AceptarGuardaCadaCampoEnSuPropiedadLimpiaLaSeleccionYCierra
                             .chkFQ = {1, 0, 1, 0, 1, 0, 1, 0},
                             .optTabla = false,
                             .HInicialEmb = 105};
-    EXPECT_EQ(s.Represas(1), esperada);
+    EXPECT_EQ(s.Red.Represas(1), esperada);
     for (const std::int16_t seleccion :
-         {s.RepresaSel, s.LagoSel, s.UEHSel, s.CauceSel, s.CauceAnterior, s.VerticeSel})
+         {s.Seleccion.RepresaSel, s.Seleccion.LagoSel, s.Seleccion.UEHSel, s.Seleccion.CauceSel,
+          s.Seleccion.CauceAnterior, s.Seleccion.VerticeSel})
         EXPECT_EQ(seleccion, 0);
     EXPECT_FALSE(f.abierta);
     EXPECT_EQ(anfitrion->redibujos, 1);
@@ -467,9 +470,9 @@ TEST_F(FormaRepresa, ElegirOtraGuardaLosCamposYMuestraLaOtra)
     f.txtRepresa_k = "12";
     optFunciones_Click(f);
     lstRepresas_Click(f, s, 1);
-    EXPECT_EQ(s.Represas(1).Represa_k_Musk, 12);
-    EXPECT_FALSE(s.Represas(1).optTabla);
-    EXPECT_EQ(s.RepresaSel, 2);
+    EXPECT_EQ(s.Red.Represas(1).Represa_k_Musk, 12);
+    EXPECT_FALSE(s.Red.Represas(1).optTabla);
+    EXPECT_EQ(s.Seleccion.RepresaSel, 2);
     EXPECT_EQ(f.lblNombreRepresa, "r-2");
     EXPECT_EQ(f.txtRepresa_k, "0");
     EXPECT_TRUE(f.optTablaQ);
@@ -481,8 +484,8 @@ TEST_F(FormaRepresa, CancelarCierraSinGuardarLosCampos)
     f.txtRepresa_k = "12";
     optFunciones_Click(f);
     CancelButton(f, s);
-    EXPECT_EQ(s.Represas(1).Represa_k_Musk, 0);
-    EXPECT_TRUE(s.Represas(1).optTabla);
+    EXPECT_EQ(s.Red.Represas(1).Represa_k_Musk, 0);
+    EXPECT_TRUE(s.Red.Represas(1).optTabla);
     EXPECT_FALSE(f.abierta);
 }
 

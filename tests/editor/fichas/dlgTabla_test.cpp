@@ -26,12 +26,12 @@ class EditorDeTablas : public testing::Test {
     {
         s.Anfitrion = anfitrion.Puerta();
         s.Disco = disco.Puerta();
-        s.NombreProyecto = "Arroyo";
-        s.DirProyecto = "/proy";
+        s.Proyecto.NombreProyecto = "Arroyo";
+        s.Proyecto.DirProyecto = "/proy";
         disco.PonDirectorio("/proy");
         for (std::int16_t n = 1; n <= 2; ++n) {
-            s.ColRepresas.Agrega({.NombreRepresa = "r-" + std::to_string(n), .numRepresa = n});
-            s.ColLagos.Agrega({.NombreLAGO = "l-" + std::to_string(n), .numLAGO = n});
+            s.Red.ColRepresas.Agrega({.NombreRepresa = "r-" + std::to_string(n), .numRepresa = n});
+            s.Red.ColLagos.Agrega({.NombreLAGO = "l-" + std::to_string(n), .numLAGO = n});
         }
         disco.Pon("/proy/Arroyo_RHAS.vlm", RHAS);
         disco.Pon("/proy/Arroyo_RHQ.vlm", "\"*r-1\",3\r\n0,0\r\n1.5,2.25\r\n3,8\r\n\"*r-2\",1\r\n4,5\r\n");
@@ -100,7 +100,7 @@ TEST_F(EditorDeTablas, LosTitulosEncabezadosYNombresSonLosDados)
 
 TEST_F(EditorDeTablas, AbreConLaTablaDelComponenteElegido)
 {
-    s.RepresaSel = 1;
+    s.Seleccion.RepresaSel = 1;
     AbreTabla();
     EXPECT_TRUE(f.abierta);
     EXPECT_EQ(f.lblNro, "1");
@@ -111,41 +111,41 @@ TEST_F(EditorDeTablas, AbreConLaTablaDelComponenteElegido)
     EXPECT_EQ(T(1, 1), "10");
     EXPECT_EQ(T(1, 2), "1.5");
     EXPECT_EQ(T(1, 3), "1000");
-    EXPECT_EQ(s.NroRepresas, 2);
+    EXPECT_EQ(s.Red.NroRepresas, 2);
     EXPECT_TRUE(anfitrion->sucesos.empty());
 }
 
 TEST_F(EditorDeTablas, CadaEditorMuestraSuTabla)
 {
-    s.RepresaSel = 2;
+    s.Seleccion.RepresaSel = 2;
     AbreTabla(TipoTabla::FQ);
     ASSERT_EQ(f.grilla.NroFilas(), 1);
     EXPECT_EQ(T(1, 1), "4");
     EXPECT_EQ(T(1, 2), "5");
-    s.LagoSel = 2;
+    s.Seleccion.LagoSel = 2;
     AbreTabla(TipoTabla::SHVQ);
     ASSERT_EQ(f.grilla.NroFilas(), 1);
     EXPECT_EQ(T(1, 1), "5");
     EXPECT_EQ(T(1, 4), "8");
-    EXPECT_EQ(s.NroLagos, 2);
+    EXPECT_EQ(s.Red.NroLagos, 2);
 }
 
 TEST_F(EditorDeTablas, SinSeleccionSeElijeElPrimero)
 {
     AbreTabla();
-    EXPECT_EQ(s.RepresaSel, 1);
+    EXPECT_EQ(s.Seleccion.RepresaSel, 1);
     AbreTabla(TipoTabla::SHVQ);
-    EXPECT_EQ(s.LagoSel, 1);
+    EXPECT_EQ(s.Seleccion.LagoSel, 1);
 }
 
 TEST_F(EditorDeTablas, SinComponentesQuedaVacioYAplicarNoHaceNada)
 {
-    s.ColRepresas.Vacia();
+    s.Red.ColRepresas.Vacia();
     AbreTabla();
     EXPECT_TRUE(f.abierta);
     EXPECT_EQ(f.grilla.NroFilas(), 0);
     EXPECT_EQ(f.txtNroFilas, "");
-    EXPECT_EQ(s.RepresaSel, 0);
+    EXPECT_EQ(s.Seleccion.RepresaSel, 0);
     cmdAplicar(f, s);
     EXPECT_EQ(Archivo("_RHAS.vlm"), RHAS);
     EXPECT_TRUE(anfitrion->sucesos.empty());
@@ -153,11 +153,11 @@ TEST_F(EditorDeTablas, SinComponentesQuedaVacioYAplicarNoHaceNada)
 
 TEST_F(EditorDeTablas, AlAbrirSePierdeLaTablaSinGuardarDeOtroComponente)
 {
-    s.RepresaSel = 1;
+    s.Seleccion.RepresaSel = 1;
     AbreTabla();
-    s.RepresaH(2, 1) = 99;
+    s.Red.RepresaH(2, 1) = 99;
     AbreTabla();
-    EXPECT_EQ(s.RepresaH(2, 1), 20.0F);
+    EXPECT_EQ(s.Red.RepresaH(2, 1), 20.0F);
 }
 
 // --- number of rows ---
@@ -263,8 +263,8 @@ TEST_F(EditorDeTablas, AplicarEscribeLaTablaYLlevaElCursorAlComienzo)
     EXPECT_TRUE(f.abierta);
     EXPECT_TRUE(anfitrion->sucesos.empty());
     EXPECT_EQ(f.grilla.actual, (Celda{1, 1}));
-    EXPECT_EQ(s.RepresaH(1, 2), 11.25F);
-    EXPECT_EQ(s.RepresaS(1, 2), 2500);
+    EXPECT_EQ(s.Red.RepresaH(1, 2), 11.25F);
+    EXPECT_EQ(s.Red.RepresaS(1, 2), 2500);
     EXPECT_TRUE(
         apoyo::MismoTexto("\"*r-1\",3,\"*\"\r\n10,1.5,1000\r\n11.25,2.5,2500\r\n12,2.5,3000\r\n"
                           "\"*r-2\",1,\"*\"\r\n20,3,4000\r\n",
@@ -278,7 +278,7 @@ TEST_F(EditorDeTablas, LaTablaHQYLaDelLagoSeEscribenEnLosSuyos)
     cmdAplicar(f, s);
     EXPECT_TRUE(apoyo::MismoTexto("\"*r-1\",3\r\n0,0\r\n1.5,2.25\r\n3.5,7\r\n\"*r-2\",1\r\n4,5\r\n",
                                   Archivo("_RHQ.vlm")));
-    s.LagoSel = 2;
+    s.Seleccion.LagoSel = 2;
     AbreTabla(TipoTabla::SHVQ);
     Fila(1, {"5.5", "6", "7", "9"});
     cmdAplicar(f, s);
@@ -295,7 +295,7 @@ TEST_F(EditorDeTablas, UnaFilaSolaPasaTodasLasPruebasDeOrden)
     Fila(1, {"0", "0", "0"});
     cmdAplicar(f, s);
     EXPECT_TRUE(anfitrion->sucesos.empty());
-    EXPECT_EQ(s.RepresaFilasHAS(1), 1);
+    EXPECT_EQ(s.Red.RepresaFilasHAS(1), 1);
 }
 
 TEST_F(EditorDeTablas, DosAreasIgualesPasanDosAlturasODosVolumenesIgualesNo)
@@ -310,7 +310,7 @@ TEST_F(EditorDeTablas, DosAreasIgualesPasanDosAlturasODosVolumenesIgualesNo)
                                      "Advertencia !", Icono::Exclamacion}}));
     EXPECT_EQ(f.grilla.actual, (Celda{2, 3}));
     EXPECT_EQ(Archivo("_RHAS.vlm"), RHAS);
-    EXPECT_EQ(s.RepresaH(1, 2), 11.0F);
+    EXPECT_EQ(s.Red.RepresaH(1, 2), 11.0F);
 }
 
 TEST_F(EditorDeTablas, UnAreaQueBajaSeRechaza)
@@ -349,12 +349,12 @@ TEST_F(EditorDeTablas, ElCaudalNoSePrueba)
     Fila(3, {"2", "-5"});
     cmdAplicar(f, s);
     EXPECT_TRUE(anfitrion->sucesos.empty());
-    EXPECT_EQ(s.RepresaQQ(1, 2), -5.0F);
+    EXPECT_EQ(s.Red.RepresaQQ(1, 2), -5.0F);
     AbreTabla(TipoTabla::SHVQ);
     Fila(1, {"1", "2", "100", "9"});
     cmdAplicar(f, s);
     EXPECT_TRUE(anfitrion->sucesos.empty());
-    EXPECT_EQ(s.LagoQ(1, 1), 9.0F);
+    EXPECT_EQ(s.Red.LagoQ(1, 1), 9.0F);
 }
 
 TEST_F(EditorDeTablas, ElOrdenSeMiraEnSimplePrecision)
@@ -376,8 +376,8 @@ TEST_F(EditorDeTablas, ElVolumenSeGuardaSinPasarPorSimplePrecision)
     Fila(3, {"12", "2.5", "16777221"});
     cmdAplicar(f, s);
     EXPECT_TRUE(anfitrion->sucesos.empty());
-    EXPECT_EQ(s.RepresaS(1, 2), 16777217);
-    EXPECT_EQ(s.RepresaS(1, 3), 16777221);
+    EXPECT_EQ(s.Red.RepresaS(1, 2), 16777217);
+    EXPECT_EQ(s.Red.RepresaS(1, 3), 16777221);
 }
 
 TEST_F(EditorDeTablas, UnaCeldaSinNumeroImpideGuardarSinDecirlo)
@@ -387,10 +387,10 @@ TEST_F(EditorDeTablas, UnaCeldaSinNumeroImpideGuardarSinDecirlo)
     cmdAplicar(f, s);
     EXPECT_TRUE(anfitrion->sucesos.empty());
     EXPECT_EQ(f.grilla.actual, (Celda{1, 2}));
-    EXPECT_EQ(s.RepresaQQ(1, 1), 0.0F);
+    EXPECT_EQ(s.Red.RepresaQQ(1, 1), 0.0F);
     Fila(1, {"0", "4"});
     cmdAplicar(f, s);
-    EXPECT_EQ(s.RepresaQQ(1, 1), 4.0F);
+    EXPECT_EQ(s.Red.RepresaQQ(1, 1), 4.0F);
 }
 
 TEST_F(EditorDeTablas, LasFilasAgregadasVaciasNoSeGuardan)
@@ -404,7 +404,7 @@ TEST_F(EditorDeTablas, LasFilasAgregadasVaciasNoSeGuardan)
                                         "Error, la Superficie S debe ser creciente, Verifique la fila 4",
                                         "Error, el Volumen V debe ser creciente, Verifique la fila 4"}));
     EXPECT_EQ(Archivo("_RHAS.vlm"), RHAS);
-    EXPECT_EQ(s.RepresaFilasHAS(1), 3);
+    EXPECT_EQ(s.Red.RepresaFilasHAS(1), 3);
 }
 
 TEST_F(EditorDeTablas, MenosFilasAplicadasQuitanLasDeMas)
@@ -425,23 +425,23 @@ TEST_F(EditorDeTablas, UnaTablaVaciaGuardaUnBloqueSinDatos)
     EXPECT_TRUE(
         apoyo::MismoTexto("\"*r-1\",0,\"*\"\r\n\"*r-2\",1,\"*\"\r\n20,3,4000\r\n", Archivo("_RHAS.vlm")));
     // The heights that the initial level is checked against are still there to be looked at.
-    EXPECT_GE(s.RepresaH.TopeColumna(), 1);
+    EXPECT_GE(s.Red.RepresaH.TopeColumna(), 1);
 }
 
 TEST_F(EditorDeTablas, MasDeDiezFilasCabenYNadiePierdeLasSuyas)
 {
-    s.RepresaSel = 2;
+    s.Seleccion.RepresaSel = 2;
     AbreTabla();
     txtNroFilas_Change(f, s, "40");
     for (int k = 1; k <= 40; ++k)
         Fila(k, {std::to_string(k), "1", std::to_string(100 * k)});
     cmdAplicar(f, s);
     EXPECT_TRUE(anfitrion->sucesos.empty());
-    s.RepresaSel = 1;
+    s.Seleccion.RepresaSel = 1;
     AbreTabla();
     txtNroFilas_Change(f, s, "1");
     cmdAplicar(f, s);
-    s.RepresaSel = 2;
+    s.Seleccion.RepresaSel = 2;
     AbreTabla();
     EXPECT_EQ(f.NroFilas, 40);
     EXPECT_EQ(T(40, 3), "4000");
@@ -453,7 +453,7 @@ TEST_F(EditorDeTablas, UnNumeroFueraDelTipoSeDiceYNadaSeGuarda)
     Fila(3, {"12", "2.5", "3000000000"});
     cmdAplicar(f, s);
     EXPECT_EQ(Textos(), (std::vector<std::string>{"Error Nro. 6 ,DesbordamientoVerifique"}));
-    EXPECT_EQ(s.RepresaS(1, 3), 3000);
+    EXPECT_EQ(s.Red.RepresaS(1, 3), 3000);
     EXPECT_EQ(Archivo("_RHAS.vlm"), RHAS);
 }
 
@@ -471,7 +471,7 @@ model::Mensaje SePierden(const std::string& archivo, const std::string& nombres)
 TEST_F(EditorDeTablas, TrasUnCambioDeNombrePreguntaPorLasTablasQueElArchivoPerderia)
 {
     // The reader misses the block of the first Represa and stops there: the second one's would go too.
-    s.ColRepresas.Item(1).NombreRepresa = "r-nueva";
+    s.Red.ColRepresas.Item(1).NombreRepresa = "r-nueva";
     AbreTabla();
     txtNroFilas_Change(f, s, "1");
     Fila(1, {"5", "6", "7"});
@@ -479,7 +479,7 @@ TEST_F(EditorDeTablas, TrasUnCambioDeNombrePreguntaPorLasTablasQueElArchivoPerde
     cmdAplicar(f, s);
     EXPECT_EQ(anfitrion->Preguntas(), (std::vector{SePierden("Arroyo_RHAS.vlm", "r-1, r-2")}));
     EXPECT_EQ(Archivo("_RHAS.vlm"), RHAS);
-    EXPECT_EQ(s.RepresaFilasHAS(1), 0);
+    EXPECT_EQ(s.Red.RepresaFilasHAS(1), 0);
     EXPECT_EQ(T(1, 1), "5");
     anfitrion->respuestas = {true};
     cmdAplicar(f, s);
@@ -491,7 +491,7 @@ TEST_F(EditorDeTablas, TrasUnCambioDeNombrePreguntaPorLasTablasQueElArchivoPerde
 
 TEST_F(EditorDeTablas, ConNoAceptarNoCierraNiRecuerda)
 {
-    s.ColLagos.Item(2).NombreLAGO = "l-otro";
+    s.Red.ColLagos.Item(2).NombreLAGO = "l-otro";
     AbreTabla(TipoTabla::SHVQ);
     anfitrion->respuestas = {false};
     OKButton(f, s);
@@ -516,7 +516,7 @@ TEST_F(EditorDeTablas, AceptarAplicaRecuerdaGuardarYCierra)
     Fila(1, {"9", "1", "900"});
     OKButton(f, s);
     EXPECT_FALSE(f.abierta);
-    EXPECT_EQ(s.RepresaH(1, 1), 9.0F);
+    EXPECT_EQ(s.Red.RepresaH(1, 1), 9.0F);
     EXPECT_EQ(anfitrion->Avisos(),
               (std::vector<Mensaje>{{"Asegurar los cambios producidos pulsando <Guardar> desde el formulario "
                                      "gráfico de de UEHs. De lo "

@@ -17,7 +17,7 @@ struct FormaUEH : RedDeFichas {
     }
     bool Nombra(const std::string& nombre) { return Escribe(nombre) && AlSalir(f, s, "txtNombreUEH"); }
     void Elige(std::string_view destino) { lstCauceAA_Click(f, s, LineaDe(f.lstCauceAA, destino)); }
-    std::pair<float, float> Punto(int n) { return {s.UEHs(n).XCauce, s.UEHs(n).YCauce}; }
+    std::pair<float, float> Punto(int n) { return {s.Red.UEHs(n).XCauce, s.Red.UEHs(n).YCauce}; }
 
     dlgUEH2 f;
 };
@@ -70,7 +70,7 @@ TEST(TextosDeDlgUEH2, LaUnidadQueLaLeyendaNoDiceVaAparte)
 TEST_F(FormaUEH, SinSeleccionMuestraLaPrimera)
 {
     EXPECT_TRUE(f.abierta);
-    EXPECT_EQ(s.UEHSel, 1);
+    EXPECT_EQ(s.Seleccion.UEHSel, 1);
     EXPECT_EQ(f.lstUEHs, (Lista{{"u-1", "u-2", "u-3"}, 0}));
     EXPECT_EQ(f.lblNroUEH, "1");
     EXPECT_EQ(f.lblNombreUEH, "u-1");
@@ -79,21 +79,21 @@ TEST_F(FormaUEH, SinSeleccionMuestraLaPrimera)
 
 TEST_F(FormaUEH, MuestraLaSeleccionadaConSusPropiedades)
 {
-    s.UEHs(2) = {.NombreUEH = "u-2",
-                 .Area = 250.5F,
-                 .Referencia = "ladera, norte",
-                 .LongitudMax = 1500,
-                 .VelMedia = 0.05F,
-                 .Metodo = "Directo",
-                 .numUEH = 2,
-                 .Cauce_aa = "r-2",
-                 .KostiakovA = 0.5F,
-                 .KostiakovB = 0.25F,
-                 .RetensionZ = 5.5F,
-                 .Q0Recesion = 0.125F,
-                 .KRecesion = 12,
-                 .KostiakovI = 30};
-    s.UEHSel = 2;
+    s.Red.UEHs(2) = {.NombreUEH = "u-2",
+                     .Area = 250.5F,
+                     .Referencia = "ladera, norte",
+                     .LongitudMax = 1500,
+                     .VelMedia = 0.05F,
+                     .Metodo = "Directo",
+                     .numUEH = 2,
+                     .Cauce_aa = "r-2",
+                     .KostiakovA = 0.5F,
+                     .KostiakovB = 0.25F,
+                     .RetensionZ = 5.5F,
+                     .Q0Recesion = 0.125F,
+                     .KRecesion = 12,
+                     .KostiakovI = 30};
+    s.Seleccion.UEHSel = 2;
     Abre(f, s);
     EXPECT_EQ(f.lstUEHs.indice, 1);
     EXPECT_EQ(f.lblNroUEH, "2");
@@ -115,11 +115,11 @@ TEST_F(FormaUEH, MuestraLaSeleccionadaConSusPropiedades)
 
 TEST_F(FormaUEH, SinUEHsQuedaCerrada)
 {
-    s.ColUEHs.Vacia();
-    s.UEHSel = 0;
+    s.Red.ColUEHs.Vacia();
+    s.Seleccion.UEHSel = 0;
     Abre(f, s);
     EXPECT_FALSE(f.abierta);
-    EXPECT_EQ(s.UEHSel, 0);
+    EXPECT_EQ(s.Seleccion.UEHSel, 0);
 }
 
 // --- number fields ---
@@ -170,7 +170,7 @@ TEST_F(FormaUEH, AlEscribirElNombreSeLePoneElPrefijoYSeCorta)
     EXPECT_EQ(f.txtNombreUEH, "u-3456789012345");
     EXPECT_TRUE(Escribe(""));
     EXPECT_EQ(f.txtNombreUEH, "u-");
-    EXPECT_EQ(s.UEHs(1).NombreUEH, "u-1") << "nothing is stored while typing";
+    EXPECT_EQ(s.Red.UEHs(1).NombreUEH, "u-1") << "nothing is stored while typing";
 }
 
 TEST_F(FormaUEH, AlSalirTambienSePoneElPrefijo)
@@ -178,7 +178,7 @@ TEST_F(FormaUEH, AlSalirTambienSePoneElPrefijo)
     f.txtNombreUEH = "ladera";
     EXPECT_TRUE(AlSalir(f, s, "txtNombreUEH"));
     EXPECT_EQ(f.txtNombreUEH, "u-ladera");
-    EXPECT_EQ(s.UEHs(1).NombreUEH, "u-ladera");
+    EXPECT_EQ(s.Red.UEHs(1).NombreUEH, "u-ladera");
 }
 
 TEST_F(FormaUEH, ElNombreDeOtraEsInvalidoYaAlEscribirYNoSeGuarda)
@@ -188,9 +188,9 @@ TEST_F(FormaUEH, ElNombreDeOtraEsInvalidoYaAlEscribirYNoSeGuarda)
     EXPECT_EQ(f.foco, (forms::Foco{"txtNombreUEH", true}));
     EXPECT_TRUE(AlSalir(f, s, "txtNombreUEH"));
     EXPECT_EQ(f.txtNombreUEH, "Invalido") << "no prefix is put before the form's own text";
-    EXPECT_EQ(s.UEHs(1).NombreUEH, "u-1");
+    EXPECT_EQ(s.Red.UEHs(1).NombreUEH, "u-1");
     OKButton(f, s);
-    EXPECT_EQ(s.UEHs(1).NombreUEH, "u-1");
+    EXPECT_EQ(s.Red.UEHs(1).NombreUEH, "u-1");
     EXPECT_TRUE(Avisos().empty());
 }
 
@@ -200,7 +200,7 @@ TEST_F(FormaUEH, ElNombreDeOtraRetieneElFocoAlSalir)
     EXPECT_FALSE(AlSalir(f, s, "txtNombreUEH"));
     EXPECT_EQ(f.txtNombreUEH, "Invalido");
     EXPECT_EQ(f.foco, (forms::Foco{"txtNombreUEH", true}));
-    EXPECT_EQ(s.UEHs(1).NombreUEH, "u-1");
+    EXPECT_EQ(s.Red.UEHs(1).NombreUEH, "u-1");
 }
 
 TEST_F(FormaUEH, LaTeclaQueSigueAUnInvalidoEmpiezaUnNombreSinVolverASeleccionar)
@@ -213,7 +213,7 @@ TEST_F(FormaUEH, LaTeclaQueSigueAUnInvalidoEmpiezaUnNombreSinVolverASeleccionar)
 
 TEST_F(FormaUEH, DosNombresIgualesTrasElCorteChocan)
 {
-    s.UEHs(2).NombreUEH = "u-1234567890123";
+    s.Red.UEHs(2).NombreUEH = "u-1234567890123";
     EXPECT_FALSE(Escribe("u-1234567890123-otra"));
     EXPECT_EQ(f.txtNombreUEH, "Invalido");
 }
@@ -227,20 +227,21 @@ TEST_F(FormaUEH, ElNombrePropioNoEsDeOtra)
 
 TEST_F(FormaUEH, ElNombreDeUnCauceNoEsDeOtraUEH)
 {
-    s.Cauces(1).NombreCauce = "u-9";
+    s.Red.Cauces(1).NombreCauce = "u-9";
     EXPECT_TRUE(Nombra("u-9"));
-    EXPECT_EQ(s.UEHs(1).NombreUEH, "u-9");
+    EXPECT_EQ(s.Red.UEHs(1).NombreUEH, "u-9");
 }
 
 TEST_F(FormaUEH, ElNuevoNombreReemplazaAlViejoComoDestinoSalvoEnUEHs)
 {
-    s.UEHs(2).Cauce_aa = s.Cauces(1).Cauce_aa = s.Represas(2).Cauce_aa = s.Lagos(2).Cauce_aa = "u-1";
+    s.Red.UEHs(2).Cauce_aa = s.Red.Cauces(1).Cauce_aa = s.Red.Represas(2).Cauce_aa = s.Red.Lagos(2).Cauce_aa =
+        "u-1";
     EXPECT_TRUE(Nombra("norte"));
-    EXPECT_EQ(s.UEHs(1).NombreUEH, "u-norte");
-    EXPECT_EQ(s.Cauces(1).Cauce_aa, "u-norte");
-    EXPECT_EQ(s.Represas(2).Cauce_aa, "u-norte");
-    EXPECT_EQ(s.Lagos(2).Cauce_aa, "u-norte");
-    EXPECT_EQ(s.UEHs(2).Cauce_aa, "u-1");
+    EXPECT_EQ(s.Red.UEHs(1).NombreUEH, "u-norte");
+    EXPECT_EQ(s.Red.Cauces(1).Cauce_aa, "u-norte");
+    EXPECT_EQ(s.Red.Represas(2).Cauce_aa, "u-norte");
+    EXPECT_EQ(s.Red.Lagos(2).Cauce_aa, "u-norte");
+    EXPECT_EQ(s.Red.UEHs(2).Cauce_aa, "u-1");
     EXPECT_EQ(f.lblNombreUEH, "u-norte");
     EXPECT_EQ(f.lstUEHs, (Lista{{"u-norte", "u-2", "u-3"}, 0}));
     EXPECT_EQ(anfitrion->redibujos, 1);
@@ -250,7 +251,7 @@ TEST_F(FormaUEH, ElNombreCambiadoQuedaAunqueSeCancele)
 {
     Nombra("norte");
     CancelButton(f, s);
-    EXPECT_EQ(s.UEHs(1).NombreUEH, "u-norte");
+    EXPECT_EQ(s.Red.UEHs(1).NombreUEH, "u-norte");
 }
 
 // --- destination ---
@@ -266,7 +267,7 @@ TEST_F(FormaUEH, ElDestinoElegidoValeEnSeguida)
          {Caso{"r-2", "r-2", {71, 72}}, Caso{"l-1", "l-1", {81, 82}}, Caso{"Ninguno", "", {0, 0}},
           Caso{"l-2", "l-2", {81, 82}}, Caso{"0", "0", {0, 0}}}) {
         Elige(caso.entrada);
-        EXPECT_EQ(s.UEHs(1).Cauce_aa, caso.Cauce_aa) << caso.entrada;
+        EXPECT_EQ(s.Red.UEHs(1).Cauce_aa, caso.Cauce_aa) << caso.entrada;
         EXPECT_EQ(Punto(1), caso.punto) << caso.entrada;
         EXPECT_EQ(f.lblDrenaCauceAA, caso.Cauce_aa);
     }
@@ -277,7 +278,7 @@ TEST_F(FormaUEH, ElPuntoDeUnCauceSePoneRecienAlGuardar)
 {
     Elige("r-1");
     Elige("c-2");
-    EXPECT_EQ(s.UEHs(1).Cauce_aa, "c-2");
+    EXPECT_EQ(s.Red.UEHs(1).Cauce_aa, "c-2");
     EXPECT_EQ(Punto(1), (std::pair<float, float>{71, 72}));
     OKButton(f, s);
     EXPECT_EQ(Punto(1), (std::pair<float, float>{30, 20}));
@@ -287,37 +288,37 @@ TEST_F(FormaUEH, CancelarTrasElegirDestinoLoConserva)
 {
     Elige("l-2");
     CancelButton(f, s);
-    EXPECT_EQ(s.UEHs(1).Cauce_aa, "l-2");
+    EXPECT_EQ(s.Red.UEHs(1).Cauce_aa, "l-2");
     EXPECT_EQ(Punto(1), (std::pair<float, float>{81, 82}));
 }
 
 TEST_F(FormaUEH, UnaUEHPuedeQuedarSinDestino)
 {
-    s.UEHs(1).XCauce = s.UEHs(1).YCauce = 5;
-    s.UEHs(1).Cauce_aa.clear();
+    s.Red.UEHs(1).XCauce = s.Red.UEHs(1).YCauce = 5;
+    s.Red.UEHs(1).Cauce_aa.clear();
     OKButton(f, s);
-    EXPECT_EQ(s.UEHs(1).Cauce_aa, "");
+    EXPECT_EQ(s.Red.UEHs(1).Cauce_aa, "");
     EXPECT_EQ(Punto(1), (std::pair<float, float>{0, 0})) << "an empty destination has its point at 0, 0";
 }
 
 TEST_F(FormaUEH, UnDestinoDesconocidoQuedaConSuPunto)
 {
-    s.UEHs(1).Cauce_aa = "c-9";
-    s.UEHs(1).XCauce = 5;
+    s.Red.UEHs(1).Cauce_aa = "c-9";
+    s.Red.UEHs(1).XCauce = 5;
     Abre(f, s);
     EXPECT_EQ(f.lstCauceAA.indice, -1);
     EXPECT_EQ(f.lblDrenaCauceAA, "c-9");
     OKButton(f, s);
-    EXPECT_EQ(s.UEHs(1).Cauce_aa, "c-9");
+    EXPECT_EQ(s.Red.UEHs(1).Cauce_aa, "c-9");
     EXPECT_EQ(Punto(1), (std::pair<float, float>{5, 0}));
 }
 
 TEST_F(FormaUEH, UnClicFueraDeLaListaNoHaceNada)
 {
     lstCauceAA_Click(f, s, -1);
-    EXPECT_EQ(s.UEHs(1).Cauce_aa, "c-1");
+    EXPECT_EQ(s.Red.UEHs(1).Cauce_aa, "c-1");
     lstUEHs_Click(f, s, -1);
-    EXPECT_EQ(s.UEHSel, 1);
+    EXPECT_EQ(s.Seleccion.UEHSel, 1);
 }
 
 // --- storing ---
@@ -328,10 +329,10 @@ TEST_F(FormaUEH, PasarAOtraGuardaLosCamposYMuestraLaOtra)
     f.txtReferencia = "alta";
     f.txtKRecesion = "7";
     lstUEHs_Click(f, s, 2);
-    EXPECT_EQ(s.UEHs(1).Area, 12.5F);
-    EXPECT_EQ(s.UEHs(1).Referencia, "alta");
-    EXPECT_EQ(s.UEHs(1).KRecesion, 7);
-    EXPECT_EQ(s.UEHSel, 3);
+    EXPECT_EQ(s.Red.UEHs(1).Area, 12.5F);
+    EXPECT_EQ(s.Red.UEHs(1).Referencia, "alta");
+    EXPECT_EQ(s.Red.UEHs(1).KRecesion, 7);
+    EXPECT_EQ(s.Seleccion.UEHSel, 3);
     EXPECT_EQ(f.txtNombreUEH, "u-3");
     EXPECT_EQ(f.txtArea, "0");
     EXPECT_EQ(f.lstUEHs.indice, 2);
@@ -339,8 +340,8 @@ TEST_F(FormaUEH, PasarAOtraGuardaLosCamposYMuestraLaOtra)
 
 TEST_F(FormaUEH, AceptarGuardaCadaCampoEnSuPropiedadLimpiaLaSeleccionYCierra)
 {
-    s.CauceSel = 2;
-    s.LagoSel = 1;
+    s.Seleccion.CauceSel = 2;
+    s.Seleccion.LagoSel = 1;
     f.txtArea = "1.5";
     f.txtLongMax = "2";
     f.txtVelMedia = "0.05";
@@ -368,10 +369,10 @@ TEST_F(FormaUEH, AceptarGuardaCadaCampoEnSuPropiedadLimpiaLaSeleccionYCierra)
                               .Q0Recesion = 8,
                               .KRecesion = 9,
                               .KostiakovI = 7};
-    EXPECT_EQ(s.UEHs(1), esperada);
-    EXPECT_EQ(s.UEHSel, 0);
-    EXPECT_EQ(s.CauceSel, 0);
-    EXPECT_EQ(s.LagoSel, 1) << "only the two are cleared";
+    EXPECT_EQ(s.Red.UEHs(1), esperada);
+    EXPECT_EQ(s.Seleccion.UEHSel, 0);
+    EXPECT_EQ(s.Seleccion.CauceSel, 0);
+    EXPECT_EQ(s.Seleccion.LagoSel, 1) << "only the two are cleared";
     EXPECT_FALSE(f.abierta);
     EXPECT_EQ(anfitrion->redibujos, 1);
     EXPECT_EQ(disco.Archivos().size(), 2U) << "the form saves nothing";
@@ -379,12 +380,12 @@ TEST_F(FormaUEH, AceptarGuardaCadaCampoEnSuPropiedadLimpiaLaSeleccionYCierra)
 
 TEST_F(FormaUEH, CancelarNoGuardaLosCampos)
 {
-    s.CauceSel = 2;
+    s.Seleccion.CauceSel = 2;
     f.txtArea = "12.5";
     CancelButton(f, s);
-    EXPECT_EQ(s.UEHs(1).Area, 0);
-    EXPECT_EQ(s.UEHSel, 0);
-    EXPECT_EQ(s.CauceSel, 0);
+    EXPECT_EQ(s.Red.UEHs(1).Area, 0);
+    EXPECT_EQ(s.Seleccion.UEHSel, 0);
+    EXPECT_EQ(s.Seleccion.CauceSel, 0);
     EXPECT_FALSE(f.abierta);
 }
 
@@ -393,11 +394,11 @@ TEST_F(FormaUEH, SeGuardaElNumeroConQueEmpiezaElTexto)
     f.txtArea = "12,5 has";
     f.txtLongMax = "abc";
     f.txtVelMedia = "";
-    s.UEHs(1).LongitudMax = s.UEHs(1).VelMedia = 3;
+    s.Red.UEHs(1).LongitudMax = s.Red.UEHs(1).VelMedia = 3;
     OKButton(f, s);
-    EXPECT_EQ(s.UEHs(1).Area, 12.5F);
-    EXPECT_EQ(s.UEHs(1).LongitudMax, 0);
-    EXPECT_EQ(s.UEHs(1).VelMedia, 0);
+    EXPECT_EQ(s.Red.UEHs(1).Area, 12.5F);
+    EXPECT_EQ(s.Red.UEHs(1).LongitudMax, 0);
+    EXPECT_EQ(s.Red.UEHs(1).VelMedia, 0);
 }
 
 TEST_F(FormaUEH, UnNumeroFueraDeTipoEsFalla6YLaFormaSigueAbierta)
@@ -405,35 +406,35 @@ TEST_F(FormaUEH, UnNumeroFueraDeTipoEsFalla6YLaFormaSigueAbierta)
     f.txtArea = "1E39";
     EXPECT_EQ(apoyo::NumeroDeFalla([&] { OKButton(f, s); }), 6);
     EXPECT_TRUE(f.abierta);
-    EXPECT_EQ(s.UEHSel, 1);
+    EXPECT_EQ(s.Seleccion.UEHSel, 1);
 }
 
 TEST_F(FormaUEH, UnNombreEscritoYNoDejadoSeGuardaConSusReglasAlAceptar)
 {
     f.txtNombreUEH = "norte";
     OKButton(f, s);
-    EXPECT_EQ(s.UEHs(1).NombreUEH, "u-norte");
+    EXPECT_EQ(s.Red.UEHs(1).NombreUEH, "u-norte");
     Abre(f, s);
     f.txtNombreUEH = "u-2";
     OKButton(f, s);
-    EXPECT_EQ(s.UEHs(1).NombreUEH, "u-norte");
+    EXPECT_EQ(s.Red.UEHs(1).NombreUEH, "u-norte");
 }
 
 TEST_F(FormaUEH, UnMetodoDeOtroOrigenQuedaHastaElegirElUnico)
 {
-    s.UEHs(1).Metodo = "Otro";
+    s.Red.UEHs(1).Metodo = "Otro";
     Abre(f, s);
     EXPECT_EQ(f.lblMetodo, "Otro");
     EXPECT_EQ(f.lstMetodo.indice, -1);
     OKButton(f, s);
-    EXPECT_EQ(s.UEHs(1).Metodo, "Otro");
+    EXPECT_EQ(s.Red.UEHs(1).Metodo, "Otro");
     Abre(f, s);
     lstMetodo_Click(f, 1);
     EXPECT_EQ(f.lstMetodo.indice, -1) << "no such entry";
     lstMetodo_Click(f, 0);
     EXPECT_EQ(f.lblMetodo, "Directo");
     OKButton(f, s);
-    EXPECT_EQ(s.UEHs(1).Metodo, "Directo");
+    EXPECT_EQ(s.Red.UEHs(1).Metodo, "Directo");
 }
 
 // --- plot ---

@@ -67,7 +67,7 @@ TEST_F(EditorTabular, LosTextosSonLosDados)
 
 TEST_F(EditorTabular, AbreConLosDatosDelArchivo)
 {
-    s.Cauces(1).LongCauce = 99;  // in memory only
+    s.Red.Cauces(1).LongCauce = 99;  // in memory only
     AbreForma();
     EXPECT_TRUE(f.abierta);
     EXPECT_EQ(f.lblProyecto, "Arroyo");
@@ -264,9 +264,9 @@ TEST_F(EditorTabular, AceptarTomaPreguntaYGuarda)
               (std::vector<Mensaje>{{"Confirma los cambios producidos en la tabla de datos de Entradas ?",
                                      "Consulta de validación de cambios", Icono::Exclamacion}}));
     model::LeeUEHs(s);
-    EXPECT_EQ(s.Cauces(1).Cauce_n_Musk, 0.3F);
-    EXPECT_EQ(s.UEHs(1).RetensionZ, 12.5F);
-    EXPECT_EQ(s.UEHs(1).Area, 250.5F);
+    EXPECT_EQ(s.Red.Cauces(1).Cauce_n_Musk, 0.3F);
+    EXPECT_EQ(s.Red.UEHs(1).RetensionZ, 12.5F);
+    EXPECT_EQ(s.Red.UEHs(1).Area, 250.5F);
 }
 
 TEST_F(EditorTabular, CadaColumnaSeGuardaEnSuPropiedad)
@@ -277,10 +277,10 @@ TEST_F(EditorTabular, CadaColumnaSeGuardaEnSuPropiedad)
         Grilla(caso.deUEHs).Pon({1, caso.columna}, "0." + std::to_string(++valor + 10));
     anfitrion->respuestas = {false};
     OKButton(f, s);
-    const model::Cauce& c = s.Cauces(1);
+    const model::Cauce& c = s.Red.Cauces(1);
     EXPECT_EQ((std::vector<float>{c.VelMediaCauce, c.LongCauce, c.Cauce_k_Musk, c.Cauce_n_Musk}),
               (std::vector<float>{0.11F, 0.12F, 0.13F, 0.14F}));
-    const model::UEH& u = s.UEHs(1);
+    const model::UEH& u = s.Red.UEHs(1);
     EXPECT_EQ((std::vector<float>{u.Area, u.LongitudMax, u.VelMedia, u.KostiakovA, u.KostiakovB, u.KostiakovI,
                                   u.Q0Recesion, u.KRecesion, u.RetensionZ}),
               (std::vector<float>{0.15F, 0.16F, 0.17F, 0.18F, 0.19F, 0.20F, 0.21F, 0.22F, 0.23F}));
@@ -295,7 +295,7 @@ TEST_F(EditorTabular, ConNoElArchivoQuedaComoEstabaYLaMemoriaCambiada)
     OKButton(f, s);
     EXPECT_FALSE(f.abierta);
     EXPECT_EQ(disco.Bytes("/proy/Arroyo_UEHs.vlm"), antes);
-    EXPECT_EQ(s.UEHs(1).Area, 99.0F);
+    EXPECT_EQ(s.Red.UEHs(1).Area, 99.0F);
 }
 
 TEST_F(EditorTabular, UnaLetraPasaYSeLeeCeroAlGuardar)
@@ -308,9 +308,9 @@ TEST_F(EditorTabular, UnaLetraPasaYSeLeeCeroAlGuardar)
     EXPECT_TRUE(anfitrion->sucesos.empty());
     anfitrion->respuestas = {false};
     OKButton(f, s);
-    EXPECT_EQ(s.UEHs(1).Area, 0.0F);
-    EXPECT_EQ(s.UEHs(1).LongitudMax, 12.0F);
-    EXPECT_EQ(s.UEHs(1).VelMedia, 0.0F);
+    EXPECT_EQ(s.Red.UEHs(1).Area, 0.0F);
+    EXPECT_EQ(s.Red.UEHs(1).LongitudMax, 12.0F);
+    EXPECT_EQ(s.Red.UEHs(1).VelMedia, 0.0F);
 }
 
 TEST_F(EditorTabular, UnNumeroFueraDelTipoSeDiceYLaFormaSigueAbierta)
@@ -331,7 +331,7 @@ TEST_F(EditorTabular, CancelarNoTomaNada)
     Teclea(true, 5, "99");
     cmdCancel(f);
     EXPECT_FALSE(f.abierta);
-    EXPECT_EQ(s.UEHs(1).Area, 250.5F);
+    EXPECT_EQ(s.Red.UEHs(1).Area, 250.5F);
     EXPECT_TRUE(anfitrion->sucesos.empty());
 }
 

@@ -48,7 +48,7 @@ TEST_F(TablaDeParametros, LosTextosSonLosDados)
 
 TEST_F(TablaDeParametros, UnProyectoVacioDaSoloLosTitulosDeLosBloques)
 {
-    s.TituloProyecto = "Cuenca alta";
+    s.Configuracion.TituloProyecto = "Cuenca alta";
     Abre(f, s);
     EXPECT_TRUE(f.abierta);
     EXPECT_EQ(f.lblProyecto, "Arroyo");
@@ -157,10 +157,10 @@ TEST_F(TablaDeParametros, ActualizarMuestraLoGuardadoYNoLoQueEstaEnMemoria)
     Agrega(model::UEH{.NombreUEH = "u-1", .Area = 10});
     Guarda();
     Abre(f, s);
-    s.UEHs(1).Area = 99;
+    s.Red.UEHs(1).Area = 99;
     cmdActualizar(f, s);
     EXPECT_EQ(Fila(3)[5], "10");
-    s.UEHs(1).Area = 99;
+    s.Red.UEHs(1).Area = 99;
     Guarda();
     cmdActualizar(f, s);
     EXPECT_EQ(Fila(3)[5], "99");

@@ -22,10 +22,11 @@ struct SalidaDelDibujo : testing::Test {
     SalidaDelDibujo()
     {
         fs::copy(SIRO_DATA_DIR, DeQ(dir.path()), fs::copy_options::recursive);
-        s.DirTrabajo = DeQ(dir.path());
-        s.DirProyecto = s.DirProyectoConf = s.frmConfigura.Dir1 = DeQ(dir.path()) + "/Proyectos";
-        s.NombreProyecto = s.frmConfigura.TextProyecto = "Quelmar";
-        s.TituloProyecto = "Crecidas";
+        s.Proyecto.DirTrabajo = DeQ(dir.path());
+        s.Proyecto.DirProyecto = s.Proyecto.DirProyectoConf = s.frmConfigura.Dir1 =
+            DeQ(dir.path()) + "/Proyectos";
+        s.Proyecto.NombreProyecto = s.frmConfigura.TextProyecto = "Quelmar";
+        s.Configuracion.TituloProyecto = "Crecidas";
         mundo.anfitrion->fechaHora = "03/04/2011 10:20:30";
         s.Anfitrion.RedibujaEditor = [this] { Redibuja(f, s); };
         mundo.entorno.Impresora = impresora.Puerta();

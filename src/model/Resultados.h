@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "model/Arreglo.h"
+
+namespace model {
+
+inline constexpr int MaxSalidas = 10;  ///< outfalls whose names are kept
+
+/// What a run leaves. A row is the component's place in Secuencia (1..NroUEHs the UEHs by number, above them
+/// the order of computation of the last run), a column an output step or a storm.
+struct Resultados {
+    // --- order of computation ---
+    std::int16_t NroComponentes = 0;
+    std::vector<std::string> Secuencia{};  ///< names 1..NroComponentes; slot 0 unused
+    std::int16_t NroSalidas = 0;
+    std::array<std::string, MaxSalidas + 1> Salidas{};  ///< names of the outfalls, from 1
+
+    // --- flows and volumes ---
+    std::int16_t NroPasosQ = 0;     ///< output steps of the run
+    Matriz<float> QSale{};          ///< outflow [m3/s]; column: output step
+    Matriz<float> QEntra{};         ///< inflow [m3/s]; rows NroUEHs+1..NroComponentes+1; column: output step
+    Matriz<float> PpUEHPaso{};      ///< rainfall [mm]; row: UEH; column: model step
+    Matriz<float> QMax{};           ///< peak outflow [m3/s]; column: storm
+    Matriz<std::int32_t> EscUEH{};  ///< runoff volume without base flow [m3]; row: UEH; column: storm
+    Matriz<float> CoefEscUEH{};     ///< runoff coefficient [%]; row: UEH; column: storm
+    Arreglo<std::int32_t> EscTotal{};      ///< runoff volume of the basin [m3], by storm
+    Arreglo<float> CoefEscTotal{};         ///< runoff coefficient of the basin [%], by storm
+    Arreglo<float> VolUEH{};               ///< volume at the foot of each UEH [m3]
+    Arreglo<std::int32_t> VolBaseUEH{};    ///< base volume of each UEH [m3]
+    Arreglo<float> CoefUEH{};              ///< runoff coefficient of each UEH in this storm [%]
+    Arreglo<float> PasosInfiltra{};        ///< infiltration clock of each UEH [model steps]
+    Matriz<float> HRepresa{}, SRepresa{};  ///< height [m], storage [m3]; row: Represa number; column: step
+    Matriz<float> HLago{}, SLago{};        ///< the same of the Lagos
+    float VolEntra = 0, VolSale = 0;       ///< volumes of the component routed last [m3]
+    float HActual = 0, SActual = 0;        ///< height [m] and storage [m3] that any routing worked out last
+    float ACalc = 0;                       ///< surface of the last Runge-Kutta stage [ha]
+    std::int16_t IndPaso = 0;
+};
+
+}  // namespace model
