@@ -140,13 +140,13 @@ std::string ComoTexto(const dlgEmpiricas& f)
 {
     std::string texto;
     texto.append(MarcoQp).append(model::SaltoLinea);
-    AgregaRenglon(texto, CamposEmpiricos.front().leyenda, f.txtSup);
+    AgregaRenglon(texto, CamposEmpiricos.front().rotulo.leyenda, f.txtSup);
     for (std::size_t k = 0; k < f.Qp.size(); ++k)
         AgregaRenglon(texto, FormulasQp()[k].leyenda, f.Qp[k]);
     texto.append(MarcoTc).append(model::SaltoLinea);
     AgregaRenglon(texto, LeyendaLblSup, f.lblSup);
     for (std::size_t k = 1; k < CamposEmpiricos.size(); ++k)
-        AgregaRenglon(texto, CamposEmpiricos[k].leyenda, f.*CamposEmpiricos[k].texto);
+        AgregaRenglon(texto, CamposEmpiricos[k].rotulo.leyenda, f.*CamposEmpiricos[k].texto);
     for (std::size_t k = 0; k < f.Tc.size(); ++k)
         AgregaRenglon(texto, FormulasTc()[k].leyenda, f.Tc[k]);
     return texto;

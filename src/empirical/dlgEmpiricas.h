@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "empirical/Formulas.h"
+#include "forms/Rotulo.h"
 
 // Rules of the calculator of peak discharges and times of concentration. It touches neither project nor disk,
 // shows no message, and puts right in place what a field can't hold.
@@ -56,9 +57,9 @@ void CalculaQp(dlgEmpiricas& f);
 /// Works out the times of concentration. One of 0 or at fault leaves nothing.
 void CalculaTc(dlgEmpiricas& f);
 
-/// A field: object name, caption, text, and what happens when it is changed and left.
+/// A field: object name and caption, text, and what happens when it is changed and left.
 struct CampoEmpirico {
-    std::string_view control, leyenda;
+    forms::FilaRotulo rotulo;
     std::string dlgEmpiricas::*texto;
     void (*alCambiar)(dlgEmpiricas& f);
     void (*alSalir)(dlgEmpiricas& f);
@@ -66,10 +67,10 @@ struct CampoEmpirico {
 
 // clang-format off
 inline constexpr auto CamposEmpiricos = std::to_array<CampoEmpirico>({
-    {"txtSup",     "Superficie S[Km2]:",                    &dlgEmpiricas::txtSup,     txtSup_Change,     txtSup_AlSalir},
-    {"txtLcauceP", "Longitud Cauce Principal  L[Km]:",      &dlgEmpiricas::txtLcauceP, txtLcauceP_Change, txtLcauceP_Change},
-    {"txtcauceH",  "Desnivel Máximo H[m]:",                 &dlgEmpiricas::txtcauceH,  txtcauceH_Change,  txtcauceH_Change},
-    {"txtPendiCP", "Pendiente media cauce mñas largo [%]:", &dlgEmpiricas::txtPendiCP, txtPendiCP_Change, txtPendiCP_AlSalir},
+    {{"txtSup", "Superficie S[Km2]:"},                    &dlgEmpiricas::txtSup,     txtSup_Change,     txtSup_AlSalir},
+    {{"txtLcauceP", "Longitud Cauce Principal  L[Km]:"},      &dlgEmpiricas::txtLcauceP, txtLcauceP_Change, txtLcauceP_Change},
+    {{"txtcauceH", "Desnivel Máximo H[m]:"},                 &dlgEmpiricas::txtcauceH,  txtcauceH_Change,  txtcauceH_Change},
+    {{"txtPendiCP", "Pendiente media cauce mñas largo [%]:"}, &dlgEmpiricas::txtPendiCP, txtPendiCP_Change, txtPendiCP_AlSalir},
 });
 // clang-format on
 

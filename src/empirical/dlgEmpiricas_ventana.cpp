@@ -99,9 +99,9 @@ void dlgEmpiricas_ventana::PonCampo(QGridLayout& rejilla, std::size_t cual)
 {
     const CampoEmpirico& campo = CamposEmpiricos.at(cual);
     auto* const entrada = new QLineEdit;
-    entrada->setObjectName(Q(campo.control));
+    entrada->setObjectName(Q(campo.rotulo.control));
     entrada->setFixedWidth(fontMetrics().averageCharWidth() * (LetrasDeUnDato + 3));
-    auto* const leyenda = Leyenda(campo.leyenda, "");
+    auto* const leyenda = Leyenda(campo.rotulo.leyenda, "");
     leyenda->setBuddy(entrada);
     const int fila = rejilla.rowCount();
     rejilla.addWidget(leyenda, fila, 0);

@@ -11,8 +11,8 @@
 namespace rainfall {
 
 FormaDeTabla_ventana::FormaDeTabla_ventana(forms::Entorno& alrededor, std::string_view nombre,
-                                           std::string_view titulo, std::span<const Leyenda> leyendas,
-                                           QWidget* padre)
+                                           std::string_view titulo,
+                                           std::span<const forms::FilaRotulo> leyendas, QWidget* padre)
     : Formulario(alrededor, nombre, padre), piezas(*this, leyendas)
 {
     setWindowTitle(forms::Q(titulo));

@@ -32,7 +32,7 @@ class FormaDeTabla_ventana : public forms::Formulario {
     using Rutina = std::function<void()>;
 
     FormaDeTabla_ventana(forms::Entorno& alrededor, std::string_view nombre, std::string_view titulo,
-                         std::span<const Leyenda> leyendas, QWidget* padre);
+                         std::span<const forms::FilaRotulo> leyendas, QWidget* padre);
 
     /// The form's own opening, which returns whether it is open, and its closing without an effect.
     virtual bool AbreForma() = 0;

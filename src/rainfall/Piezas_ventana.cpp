@@ -18,14 +18,14 @@ namespace rainfall {
 
 using forms::Q;
 
-Leyenda Piezas::De(std::string_view nombre) const
+forms::FilaRotulo Piezas::De(std::string_view nombre) const
 {
-    return LeyendaDe(leyendas, nombre);
+    return forms::RotuloDe(leyendas, nombre);
 }
 
 void Piezas::Nombra(QWidget& control, std::string_view nombre) const
 {
-    const Leyenda fila = De(nombre);
+    const forms::FilaRotulo fila = De(nombre);
     control.setObjectName(Q(nombre));
     if (!fila.ayuda.empty()) control.setToolTip(Q(fila.ayuda));
     if (!fila.lector.empty()) control.setAccessibleName(Q(fila.lector));

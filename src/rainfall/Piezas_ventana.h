@@ -7,7 +7,7 @@
 #include "forms/CampoNumerico.h"
 #include "forms/Grilla_ventana.h"
 #include "forms/Lamina_ventana.h"
-#include "rainfall/Leyendas.h"
+#include "forms/Rotulo.h"
 
 class QComboBox;
 class QGroupBox;
@@ -22,7 +22,7 @@ namespace rainfall {
 /// Makes the controls of a form as its table of captions tells. They belong to the window.
 class Piezas {
   public:
-    Piezas(QWidget& duenna, std::span<const Leyenda> tabla) : ventana(duenna), leyendas(tabla) {}
+    Piezas(QWidget& duenna, std::span<const forms::FilaRotulo> tabla) : ventana(duenna), leyendas(tabla) {}
 
     QLineEdit* Campo(std::string_view nombre) const;
     /// A list to pick from; with `conTexto` its text may be one that no item has.
@@ -36,7 +36,7 @@ class Piezas {
     /// A label whose text comes from the record, one that wraps.
     QLabel* Texto(std::string_view nombre) const;
 
-    [[nodiscard]] Leyenda De(std::string_view nombre) const;
+    [[nodiscard]] forms::FilaRotulo De(std::string_view nombre) const;
 
     /// Gives a control its name, its hint and what a reader of the screen says.
     void Nombra(QWidget& control, std::string_view nombre) const;
@@ -46,7 +46,7 @@ class Piezas {
 
   private:
     QWidget& ventana;
-    std::span<const Leyenda> leyendas;
+    std::span<const forms::FilaRotulo> leyendas;
 };
 
 /// Gives a table the width of its columns and room for ten rows at least, and a window a size in which

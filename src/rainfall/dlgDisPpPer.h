@@ -10,8 +10,8 @@
 #include "forms/CampoNumerico.h"
 #include "forms/Grafico.h"
 #include "forms/Grilla.h"
+#include "forms/Rotulo.h"
 #include "model/Siro.h"
-#include "rainfall/Leyendas.h"
 #include "rainfall/dlgPp.h"
 
 // Rules of the editor of the three personal temporal distributions: the share of a storm's rain in each of a
@@ -22,7 +22,7 @@ inline constexpr std::string_view TituloDlgDisPpPer =
     "Distribución temporal de la Precipitación: Tabla P-t Personalizada";
 
 // clang-format off
-inline constexpr auto LeyendasDlgDisPpPer = std::to_array<Leyenda>({
+inline constexpr auto LeyendasDlgDisPpPer = std::to_array<forms::FilaRotulo>({
     {"cmbNroTablaDisPpPer", "Tabla de distribución Personal Nro.:"},
     {"txtNotas",            "Observaciones / Notas:"},
     {"txtNroPer",           "Ingrese el Número de Perídos de Intensidad Constante de Pp:"},  // kept as it stands

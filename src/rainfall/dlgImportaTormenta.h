@@ -7,9 +7,9 @@
 
 #include "forms/Grafico.h"
 #include "forms/Grilla.h"
+#include "forms/Rotulo.h"
 #include "model/Siro.h"
 #include "rainfall/ImportaTormenta.h"
-#include "rainfall/Leyendas.h"
 #include "rainfall/dlgPp.h"
 
 // Rules of the form that shows a record of rain as it would become a storm, and lets the user pick its step.
@@ -18,7 +18,7 @@ namespace rainfall {
 inline constexpr std::string_view TituloDlgImportaTormenta = "Importar una tormenta registrada";
 
 // clang-format off
-inline constexpr auto LeyendasDlgImportaTormenta = std::to_array<Leyenda>({
+inline constexpr auto LeyendasDlgImportaTormenta = std::to_array<forms::FilaRotulo>({
     {"lblArchivo",        "Archivo:"},
     {"lblRegistro",       "Registro:"},
     {"cmbPaso",           "&Paso t [min]:", "Cada lámina se reparte por igual desde la lectura anterior; el total se conserva"},

@@ -52,11 +52,14 @@ constexpr std::string_view PasoQNoCabe =  // kept as it stands
 using Conjunto = std::uint64_t;
 static_assert(NroControles <= 64);
 
-constexpr Conjunto De(std::initializer_list<Control> controles)
+consteval Conjunto De(std::initializer_list<std::string_view> controles)
 {
     Conjunto c = 0;
-    for (const Control control : controles)
-        c |= Conjunto{1} << static_cast<unsigned>(control);
+    for (const std::string_view control : controles) {
+        const std::size_t i = forms::LugarDe(ControlesDlgPp, control);
+        if (i == NroControles) throw control;  // it doesn't build then
+        c |= Conjunto{1} << i;
+    }
     return c;
 }
 
@@ -66,35 +69,34 @@ struct FilaForma {
 };
 
 constexpr Conjunto DesdeElComienzo =
-    De({Control::txtPp, Control::txtDur, Control::cmbRec, Control::optTablaPDR, Control::cmdBorraPDR,
-        Control::cmbPDR, Control::cmdTablaPDR});
-constexpr Conjunto Validez = De({Control::lblValidez, Control::lblDurMin, Control::lblDurMax});
-constexpr Conjunto Vistas = De({Control::cmdVerGrafico, Control::cmdVerTablaPt});
+    De({"txtPp", "txtDur", "cmbRec", "optTablaPDR", "cmdBorraPDR", "cmbPDR", "cmdTablaPDR"});
+constexpr Conjunto Validez = De({"lblValidez", "lblDurMin", "lblDurMax"});
+constexpr Conjunto Vistas = De({"cmdVerGrafico", "cmdVerTablaPt"});
 
 // clang-format off
 /// The index is FormaPp.
 constexpr auto FilasForma = std::to_array<FilaForma>({
-    {.habilita = De({Control::optformaPp, Control::txtPp, Control::txtDur, Control::cmbRec, Control::cmdPDR,
-                     Control::cmbPasoPp}) | Vistas,
-     .deshabilita = De({Control::cmdPpPerso}),
-     .muestra = De({Control::Frame2, Control::Frame4, Control::Frame5, Control::Label9_0, Control::Label9_1}),
-     .oculta = De({Control::Frame3, Control::Frame7}) | Validez},
-    {.habilita = De({Control::cmdBorraPDR, Control::cmbPDR, Control::cmbPasoPp}) | Vistas,
-     .deshabilita = De({Control::cmdPDR, Control::cmdPpPerso}),
-     .muestra = De({Control::Frame2, Control::Frame4, Control::Frame5, Control::Label9_0, Control::Label9_1}),
-     .oculta = De({Control::Frame3, Control::Frame7})},
-    {.habilita = De({Control::optTablaPDR, Control::cmbPasoPp}),
-     .deshabilita = De({Control::cmdPDR, Control::cmdTablaPDR, Control::cmdPpPerso}) | Vistas,
-     .muestra = De({Control::Frame2, Control::Frame3, Control::Frame5, Control::Label9_0, Control::Label9_1}),
-     .oculta = De({Control::Frame4, Control::Frame7})},
-    {.habilita = De({Control::cmdCargaPDRnoUniforme, Control::cmbRec, Control::cmbPasoPp}),
-     .deshabilita = De({Control::txtPp, Control::txtDur, Control::cmdPpPerso}) | Vistas,
-     .muestra = De({Control::Frame2, Control::Frame5, Control::Label9_1}),
-     .oculta = De({Control::Frame3, Control::Frame4, Control::Frame7, Control::Label9_0}) | Validez},
+    {.habilita = De({"optformaPp", "txtPp", "txtDur", "cmbRec", "cmdPDR",
+                     "cmbPasoPp"}) | Vistas,
+     .deshabilita = De({"cmdPpPerso"}),
+     .muestra = De({"Frame2", "Frame4", "Frame5", "Label9_0", "Label9_1"}),
+     .oculta = De({"Frame3", "Frame7"}) | Validez},
+    {.habilita = De({"cmdBorraPDR", "cmbPDR", "cmbPasoPp"}) | Vistas,
+     .deshabilita = De({"cmdPDR", "cmdPpPerso"}),
+     .muestra = De({"Frame2", "Frame4", "Frame5", "Label9_0", "Label9_1"}),
+     .oculta = De({"Frame3", "Frame7"})},
+    {.habilita = De({"optTablaPDR", "cmbPasoPp"}),
+     .deshabilita = De({"cmdPDR", "cmdTablaPDR", "cmdPpPerso"}) | Vistas,
+     .muestra = De({"Frame2", "Frame3", "Frame5", "Label9_0", "Label9_1"}),
+     .oculta = De({"Frame4", "Frame7"})},
+    {.habilita = De({"cmdCargaPDRnoUniforme", "cmbRec", "cmbPasoPp"}),
+     .deshabilita = De({"txtPp", "txtDur", "cmdPpPerso"}) | Vistas,
+     .muestra = De({"Frame2", "Frame5", "Label9_1"}),
+     .oculta = De({"Frame3", "Frame4", "Frame7", "Label9_0"}) | Validez},
     {.habilita = 0,
-     .deshabilita = De({Control::cmbPasoPp}) | Vistas,
-     .muestra = De({Control::Frame2, Control::Frame7, Control::Label9_0}),
-     .oculta = De({Control::Frame3, Control::Frame4, Control::Frame5, Control::Label9_1})},
+     .deshabilita = De({"cmbPasoPp"}) | Vistas,
+     .muestra = De({"Frame2", "Frame7", "Label9_0"}),
+     .oculta = De({"Frame3", "Frame4", "Frame5", "Label9_1"})},
 });
 // clang-format on
 static_assert(FilasForma.size() == FormasPp.size());
@@ -207,7 +209,7 @@ void LeeTormenta(dlgPp& f, Siro& s)
 void HabilitaTablaPDR(dlgPp& f)
 {
     const std::size_t tabla = Marcada(f.optTablaPDR);
-    f.Estado(Control::cmdTablaPDR).habilitado = tabla >= 1 && tabla < f.optTablaPDR.size();
+    f.Estado("cmdTablaPDR").habilitado = tabla >= 1 && tabla < f.optTablaPDR.size();
 }
 
 void EstadoReal(dlgPp& f, Siro& s)
@@ -231,9 +233,9 @@ void MuestraValidez(dlgPp& f, const Siro& s)
 {
     if (MarcadaOCero(f.optformaPp) != 0 || !PersonalMarcada(f)) return;
     const std::size_t k = Marcada(f.optDistriPp) - (PrimeraPersonal - 1);
-    f.Estado(Control::lblValidez).visible = true;
-    f.Estado(Control::lblDurMin).visible = s.TablasDeLluvia.DurMinPer[k] > 0;
-    f.Estado(Control::lblDurMax).visible = s.TablasDeLluvia.DurMaxPer[k] > 0;
+    f.Estado("lblValidez").visible = true;
+    f.Estado("lblDurMin").visible = s.TablasDeLluvia.DurMinPer[k] > 0;
+    f.Estado("lblDurMax").visible = s.TablasDeLluvia.DurMaxPer[k] > 0;
     f.lblDurMin = Texto(s.TablasDeLluvia.DurMinPer[k]);
     f.lblDurMax = Texto(s.TablasDeLluvia.DurMaxPer[k]);
 }
@@ -252,7 +254,7 @@ void EstadoFormaPp(dlgPp& f, Siro& s)
     const std::size_t forma = MarcadaOCero(f.optformaPp);
     s.Tormenta.FormaPp = static_cast<std::int16_t>(forma);
     Pon(f, DesdeElComienzo, &EstadoControl::habilitado, false);
-    f.Estado(Control::optDistriPp).habilitado = forma < FormaPorUEH;
+    f.Estado("optDistriPp").habilitado = forma < FormaPorUEH;
     TomaDistribucion(f, s);
 
     if (forma == FormaDeLista) LeeLista(f, s);
@@ -262,7 +264,7 @@ void EstadoFormaPp(dlgPp& f, Siro& s)
     Pon(f, fila.muestra, &EstadoControl::visible, true);
     Pon(f, fila.oculta, &EstadoControl::visible, false);
 
-    if (forma <= FormaSerie && PersonalMarcada(f)) f.Estado(Control::cmdPpPerso).habilitado = true;
+    if (forma <= FormaSerie && PersonalMarcada(f)) f.Estado("cmdPpPerso").habilitado = true;
     MuestraValidez(f, s);
     if (forma == FormaSerie) HabilitaTablaPDR(f);
     // Storms per UEH are always of constant intensity. The click comes back here with the option ticked.
@@ -306,7 +308,7 @@ void Abre(dlgPp& f, Siro& s)
     f = dlgPp{.tormenta = std::move(f.tormenta)};
     f.abierta = true;
     // Enabled by the one form that uses it.
-    f.Estado(Control::cmdCargaPDRnoUniforme).habilitado = false;
+    f.Estado("cmdCargaPDRnoUniforme").habilitado = false;
     // Shown with a personal distribution only.
     Pon(f, Validez, &EstadoControl::visible, false);
     LlenaListas(f, s);
@@ -383,21 +385,6 @@ void FilePpReal_Click(dlgPp& f, Siro& s)
 
 namespace {
 
-/// Refuses what a control holds: the focus stays there.
-bool Retiene(dlgPp& f, Control control)
-{
-    f.foco = control;
-    f.todoSeleccionado = true;
-    return false;
-}
-
-bool Suelta(dlgPp& f)
-{
-    f.foco.reset();
-    f.todoSeleccionado = false;
-    return true;
-}
-
 /// `toma` puts the number into its run-wide value, where it fits there; one that is refused too.
 template <typename Toma>
 bool AlSalir(dlgPp& f, const Siro& s, const CampoPp& campo, Toma&& toma)
@@ -407,10 +394,10 @@ bool AlSalir(dlgPp& f, const Siro& s, const CampoPp& campo, Toma&& toma)
     const bool vacio = texto.find_first_not_of(' ') == std::string::npos;
     const std::optional<double> x = vacio ? 0 : forms::NumeroDeCampo(texto);
     if (x) model::Sentencia([&] { toma(*x); }, [](const model::Falla&) {});
-    if (forms::Vale(campo.regla, texto)) return Suelta(f);
+    if (forms::Vale(campo.regla, texto)) return true;
     forms::MuestraRechazo(s, campo.regla.caja, std::string(campo.regla.mensaje));
     if (!campo.regla.alRechazar.empty()) texto = campo.regla.alRechazar;
-    return Retiene(f, campo.control);
+    return false;
 }
 
 }  // namespace
@@ -432,9 +419,9 @@ bool cmbPasoPp_AlSalir(dlgPp& f, const Siro& s)
         const double paso = Val(f.cmbPasoPp.texto);
         sobra = paso != 0 && !f.txtDur.empty() && paso > Val(f.txtDur);
     });
-    if (!sobra) return Suelta(f);
+    if (!sobra) return true;
     Advierte(s, std::string(PasoPpLargo), TituloPasoPp);
-    return Retiene(f, Control::cmbPasoPp);
+    return false;
 }
 
 bool cmbPasoQ_AlSalir(dlgPp& f, Siro& s)
@@ -452,7 +439,7 @@ bool cmbPasoQ_AlSalir(dlgPp& f, Siro& s)
         f.cmbPasoQ.texto = f.cmbPasoPp.texto;
         s.Pasos.PasoQ = s.Pasos.PasoPp;
     }
-    return Suelta(f);
+    return true;
 }
 
 // --- commands ---

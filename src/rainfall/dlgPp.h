@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "forms/CampoNumerico.h"
+#include "forms/Rotulo.h"
 #include "model/ArchivosTormenta.h"
 #include "model/Siro.h"
 
@@ -24,97 +25,49 @@ inline constexpr std::string_view TituloDlgPp = "Carga de Datos de Precipitació
 inline constexpr std::string_view MarcoFormas = "Forma de ingreso de la lluvia";
 inline constexpr std::string_view MarcoPasos = "Pasos de tiempo";
 
-/// Controls of the dialog. An indexed control that is enabled as a whole is one of them.
-enum class Control : std::uint8_t {
-    optformaPp,
-    txtPp,
-    txtDur,
-    cmbRec,
-    cmbPDR,
-    optDistriPp,
-    optTablaPDR,
-    cmbPasoPp,
-    cmbPasoQ,
-    FilePpReal,
-    cmdAplicar,
-    OKButton,
-    CancelButton,
-    cmdVerGrafico,
-    cmdVerTablaPt,
-    cmdPDR,
-    cmdBorraPDR,
-    cmdTablaPDR,
-    cmdPpPerso,
-    cmdPpReal,
-    cmdCargaPDRnoUniforme,
-    Frame2,  ///< section a)
-    Frame3,  ///< section c)
-    Frame4,  ///< section b)
-    Frame5,  ///< distributions
-    Frame7,  ///< real storm; it stands where Frame3 and Frame4 stand
-    lblValidez,
-    lblDurMin,
-    lblDurMax,
-    Label9_0,
-    Label9_1,
-    lblNumPer,
-    lblMiFilePpReal,
-};
-
-/// A control, its object name, and its caption: what a button, an option's frame or a label shows, and the
-/// label beside a field. None where it takes several or its text comes from the record.
-struct FilaControl {
-    Control control;
-    std::string_view nombre;
-    std::string_view leyenda;
-    std::string_view ayuda = {};  ///< hint shown under the pointer
-};
-
+/// Controls of the dialog. An indexed control that is enabled as a whole is one of them. A caption is that of
+/// a button, a frame or a label, or of the label beside a field; none where there are several or where the
+/// record gives the text.
 // clang-format off
-inline constexpr auto ControlesDlgPp = std::to_array<FilaControl>({
-    {Control::optformaPp,            "optformaPp",            ""},
-    {Control::txtPp,                 "txtPp",                 "&Precipitación Pp [mm]:"},
-    {Control::txtDur,                "txtDur",                "&Duración D [min]:"},
-    {Control::cmbRec,                "cmbRec",                "&Recurrencia R [años]:"},
-    {Control::cmbPDR,                "cmbPDR",                "&Lista de tormentas archivadas:"},
-    {Control::optDistriPp,           "optDistriPp",           ""},
-    {Control::optTablaPDR,           "optTablaPDR",           ""},
-    {Control::cmbPasoPp,             "cmbPasoPp",             "Paso de &entrada (Precipitación) [min]:"},
-    {Control::cmbPasoQ,              "cmbPasoQ",              "Paso de &salida (Caudales) [min]:"},
-    {Control::FilePpReal,            "FilePpReal",            "Archi&vos de tormentas:"},
-    {Control::cmdAplicar,            "cmdAplicar",            "&Aplicar"},
-    {Control::OKButton,              "OKButton",              "&Aceptar"},
-    {Control::CancelButton,          "CancelButton",          "&Cancelar"},
-    {Control::cmdVerGrafico,         "cmdVerGrafico",         "&Gráfico P-t"},
-    {Control::cmdVerTablaPt,         "cmdVerTablaPt",         "Ver Tabla P-t"},
-    {Control::cmdPDR,                "cmdPDR",                "Cargar Tormenta a Lista b)"},
-    {Control::cmdBorraPDR,           "cmdBorraPDR",           "Eliminar de Lista una tormenta ( P-t )"},
-    {Control::cmdTablaPDR,           "cmdTablaPDR",           "Cargar Tabla Pp-D-R"},
-    {Control::cmdPpPerso,            "cmdPpPerso",            "Cargar Tabla Personalizada "},
-    {Control::cmdPpReal,             "cmdPpReal",             "Cargar lluvia Real (P-t)"},
-    {Control::cmdCargaPDRnoUniforme, "cmdCargaPDRnoUniforme", "Cargar datos",
+inline constexpr auto ControlesDlgPp = std::to_array<forms::FilaRotulo>({
+    {"optformaPp",            ""},
+    {"txtPp",                 "&Precipitación Pp [mm]:"},
+    {"txtDur",                "&Duración D [min]:"},
+    {"cmbRec",                "&Recurrencia R [años]:"},
+    {"cmbPDR",                "&Lista de tormentas archivadas:"},
+    {"optDistriPp",           ""},
+    {"optTablaPDR",           ""},
+    {"cmbPasoPp",             "Paso de &entrada (Precipitación) [min]:"},
+    {"cmbPasoQ",              "Paso de &salida (Caudales) [min]:"},
+    {"FilePpReal",            "Archi&vos de tormentas:"},
+    {"cmdAplicar",            "&Aplicar"},
+    {"OKButton",              "&Aceptar"},
+    {"CancelButton",          "&Cancelar"},
+    {"cmdVerGrafico",         "&Gráfico P-t"},
+    {"cmdVerTablaPt",         "Ver Tabla P-t"},
+    {"cmdPDR",                "Cargar Tormenta a Lista b)"},
+    {"cmdBorraPDR",           "Eliminar de Lista una tormenta ( P-t )"},
+    {"cmdTablaPDR",           "Cargar Tabla Pp-D-R"},
+    {"cmdPpPerso",            "Cargar Tabla Personalizada "},
+    {"cmdPpReal",             "Cargar lluvia Real (P-t)"},
+    {"cmdCargaPDRnoUniforme", "Cargar datos",
      "Abre la Tabla para carga de datos de lluvia por SubCuenca o UEH (Lluvias No uniformes en el área)"},
-    {Control::Frame2,                "Frame2",                "a) Lluvia (Pp), Duración (D) y Recurrencia (R)"},
-    {Control::Frame3,                "Frame3",                "c) Tabla de Pp-D-R"},
-    {Control::Frame4,                "Frame4",                "b) Lista archivada"},
-    {Control::Frame5,                "Frame5",                "Distribución temporal"},
-    {Control::Frame7,                "Frame7",                "Lluvias Reales"},
-    {Control::lblValidez,            "lblValidez",            "Validez: Duración [minutos]    Min        -    Máxima"},
-    {Control::lblDurMin,             "lblDurMin",             ""},
-    {Control::lblDurMax,             "lblDurMax",             ""},
-    {Control::Label9_0,              "Label9_0",              "Lluvias Sintéticas de distribución areal UNIFORME"},
-    {Control::Label9_1,              "Label9_1",              "Lluvias Sintéticas de distribución areal NO UNIFORME"},
-    {Control::lblNumPer,             "lblNumPer",             "Intervalos:"},
-    {Control::lblMiFilePpReal,       "lblMiFilePpReal",       "Tormenta:"},
+    {"Frame2",                "a) Lluvia (Pp), Duración (D) y Recurrencia (R)"},
+    {"Frame3",                "c) Tabla de Pp-D-R"},
+    {"Frame4",                "b) Lista archivada"},
+    {"Frame5",                "Distribución temporal"},
+    {"Frame7",                "Lluvias Reales"},
+    {"lblValidez",            "Validez: Duración [minutos]    Min        -    Máxima"},
+    {"lblDurMin",             ""},
+    {"lblDurMax",             ""},
+    {"Label9_0",              "Lluvias Sintéticas de distribución areal UNIFORME"},
+    {"Label9_1",              "Lluvias Sintéticas de distribución areal NO UNIFORME"},
+    {"lblNumPer",             "Intervalos:"},
+    {"lblMiFilePpReal",       "Tormenta:"},
 });
 // clang-format on
 
 inline constexpr std::size_t NroControles = ControlesDlgPp.size();
-static_assert([] {
-    for (std::size_t i = 0; i < NroControles; ++i)
-        if (ControlesDlgPp[i].control != static_cast<Control>(i)) return false;
-    return static_cast<std::size_t>(Control::lblMiFilePpReal) + 1 == NroControles;
-}());
 
 /// Captions of optformaPp; the index is FormaPp.
 inline constexpr auto FormasPp = std::to_array<std::string_view>({
@@ -192,35 +145,33 @@ struct dlgPp {
     model::TormentaReal tormenta{};
 
     CamposMostrados mostrados{};
-    std::optional<Control> foco{};  ///< control that a refusal keeps the focus in
-    bool todoSeleccionado = false;  ///< with all of its text selected
     bool abierta = false;
 
-    EstadoControl& Estado(Control c) { return estados[static_cast<std::size_t>(c)]; }
-    [[nodiscard]] const EstadoControl& Estado(Control c) const
+    // By the name of a control of the table.
+    EstadoControl& Estado(std::string_view c) { return estados.at(forms::LugarDe(ControlesDlgPp, c)); }
+    [[nodiscard]] bool Habilitado(std::string_view c) const
     {
-        return estados[static_cast<std::size_t>(c)];
+        return estados.at(forms::LugarDe(ControlesDlgPp, c)).habilitado;
     }
-    [[nodiscard]] bool Habilitado(Control c) const { return Estado(c).habilitado; }
-    [[nodiscard]] bool Visible(Control c) const { return Estado(c).visible; }
+    [[nodiscard]] bool Visible(std::string_view c) const
+    {
+        return estados.at(forms::LugarDe(ControlesDlgPp, c)).visible;
+    }
 };
 
 /// A number field that is checked when it is left.
 struct CampoPp {
-    Control control;
     std::string dlgPp::*texto;
     forms::ReglaNumero regla;
 };
 
 inline constexpr auto CamposPp = std::to_array<CampoPp>({
-    {Control::txtPp,
-     &dlgPp::txtPp,
+    {&dlgPp::txtPp,
      {.maximo = 999,
       .mensaje = "Ingrese un valor numérico, entero o decimal, entre 0 y 999",
       .vacioEsCero = true,
       .caja = forms::CajaRechazo::Advertencia}},
-    {Control::txtDur,
-     &dlgPp::txtDur,
+    {&dlgPp::txtDur,
      {.maximo = 14400,
       .mensaje = "Ingrese un valor numérico, entero o decimal, entre 0 y 14400",
       .vacioEsCero = true,

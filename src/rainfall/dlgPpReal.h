@@ -10,10 +10,10 @@
 #include "forms/CampoNumerico.h"
 #include "forms/Grafico.h"
 #include "forms/Grilla.h"
+#include "forms/Rotulo.h"
 #include "model/ArchivosTormenta.h"
 #include "model/Siro.h"
 #include "rainfall/ImportaTormenta.h"
-#include "rainfall/Leyendas.h"
 #include "rainfall/dlgPp.h"
 
 // Rules of the editor of recorded storms: depths at a constant step with their calendar time, a file each.
@@ -23,7 +23,7 @@ namespace rainfall {
 inline constexpr std::string_view TituloDlgPpReal = "Edición de Tormentas Reales (Pp-t)";
 
 // clang-format off
-inline constexpr auto LeyendasDlgPpReal = std::to_array<Leyenda>({
+inline constexpr auto LeyendasDlgPpReal = std::to_array<forms::FilaRotulo>({
     {"FilePpReal",            "", "Pulse en el cuadro de lista para seleccionar otra tormenta ", "Archivos de tormentas"},
     {"lblMiFilePpReal",       "Tormenta:"},
     {"cmdNuevaPpReal",        "Agregar una  tormenta nueva"},

@@ -27,9 +27,9 @@ using forms::Q;
 
 namespace {
 
-const FilaControl& Fila(Control control)
+forms::FilaRotulo Fila(std::string_view control)
 {
-    return ControlesDlgPp[static_cast<std::size_t>(control)];
+    return forms::RotuloDe(ControlesDlgPp, control);
 }
 
 /// What a form hides keeps its place, so that nothing jumps as the user goes through the forms.
@@ -112,15 +112,15 @@ void dlgPp_ventana::ConectaVentanas()
 QWidget* dlgPp_ventana::MarcoDeFormas()
 {
     auto* const marco = new QGroupBox(Q(MarcoFormas), this);
-    Opciones(Control::optformaPp, FormasPp, optformaPp, *marco);
-    auto* const cargaUEH = Boton(Control::cmdCargaPDRnoUniforme, *marco, [this] { AbreOtra(AbrePpUEHs); });
+    Opciones("optformaPp", FormasPp, optformaPp, *marco);
+    auto* const cargaUEH = Boton("cmdCargaPDRnoUniforme", *marco, [this] { AbreOtra(AbrePpUEHs); });
 
     // Column 0 sets the options of synthetic storms in under their headings.
     auto* const grilla = new QGridLayout(marco);
     grilla->setColumnMinimumWidth(0, fontMetrics().averageCharWidth());
     grilla->setColumnStretch(3, 1);
     int fila = 0;
-    const auto titulo = [&](Control control) {
+    const auto titulo = [&](std::string_view control) {
         QLabel* const rotulo = Rotulo(control, *marco);
         QFont negrita = rotulo->font();
         negrita.setBold(true);
@@ -128,10 +128,10 @@ QWidget* dlgPp_ventana::MarcoDeFormas()
         ConservaLugar(*rotulo);
         grilla->addWidget(rotulo, fila++, 0, 1, -1);
     };
-    titulo(Control::Label9_0);
+    titulo("Label9_0");
     for (const std::size_t i : {0U, 1U, 2U})
         grilla->addWidget(optformaPp[i], fila++, 1, 1, -1);
-    titulo(Control::Label9_1);
+    titulo("Label9_1");
     grilla->addWidget(optformaPp[3], fila, 1);
     grilla->addWidget(cargaUEH, fila++, 2);
     grilla->addWidget(optformaPp[4], fila, 0, 1, -1);
@@ -140,18 +140,18 @@ QWidget* dlgPp_ventana::MarcoDeFormas()
 
 QWidget* dlgPp_ventana::MarcoDeTormenta()
 {
-    QGroupBox* const marco = Marco(Control::Frame2);
+    QGroupBox* const marco = Marco("Frame2");
     auto* const grilla = new QGridLayout(marco);
-    const auto campo = [&](Control control, std::string& texto) {
+    const auto campo = [&](std::string_view control, std::string& texto) {
         auto* const linea = Toma(control, new QLineEdit(marco));
         forms::Refleja(*linea, texto);
         Renglon(*grilla, control, *linea);
         return linea;
     };
-    txtPp = campo(Control::txtPp, f.txtPp);
-    txtDur = campo(Control::txtDur, f.txtDur);
-    cmbRec = ListaConTextoDe(Control::cmbRec, *marco, f.cmbRec.texto);
-    Renglon(*grilla, Control::cmbRec, *cmbRec);
+    txtPp = campo("txtPp", f.txtPp);
+    txtDur = campo("txtDur", f.txtDur);
+    cmbRec = ListaConTextoDe("cmbRec", *marco, f.cmbRec.texto);
+    Renglon(*grilla, "cmbRec", *cmbRec);
     campos.Agrega(*txtPp, [this] { return txtPp_AlSalir(f, entorno.s); });
     campos.Agrega(*txtDur, [this] { return txtDur_AlSalir(f, entorno.s); });
     return marco;
@@ -159,16 +159,16 @@ QWidget* dlgPp_ventana::MarcoDeTormenta()
 
 QWidget* dlgPp_ventana::MarcoDeLista()
 {
-    QGroupBox* const marco = Marco(Control::Frame4);
+    QGroupBox* const marco = Marco("Frame4");
     auto* const pila = new QVBoxLayout(marco);
-    cmbPDR = Toma(Control::cmbPDR, new QComboBox(marco));
-    QLabel* const rotulo = Toma(Control::cmbPDR, new QLabel(Q(Fila(Control::cmbPDR).leyenda), marco));
+    cmbPDR = Toma("cmbPDR", new QComboBox(marco));
+    QLabel* const rotulo = Toma("cmbPDR", new QLabel(Q(Fila("cmbPDR").leyenda), marco));
     rotulo->setObjectName(QStringLiteral("rotuloPDR"));
     rotulo->setBuddy(cmbPDR);
     pila->addWidget(rotulo);
     pila->addWidget(cmbPDR);
-    pila->addWidget(Boton(Control::cmdPDR, *marco, [this] { cmdPDR(f, entorno.s); }));
-    pila->addWidget(Boton(Control::cmdBorraPDR, *marco, [this] { cmdBorraPDR(f, entorno.s); }));
+    pila->addWidget(Boton("cmdPDR", *marco, [this] { cmdPDR(f, entorno.s); }));
+    pila->addWidget(Boton("cmdBorraPDR", *marco, [this] { cmdBorraPDR(f, entorno.s); }));
     pila->addStretch(1);
     connect(cmbPDR, &QComboBox::activated, this, [this](int i) {
         Suceso([this, i] {
@@ -181,21 +181,21 @@ QWidget* dlgPp_ventana::MarcoDeLista()
 
 QWidget* dlgPp_ventana::MarcoDeTablas()
 {
-    QGroupBox* const marco = Marco(Control::Frame3);
+    QGroupBox* const marco = Marco("Frame3");
     auto* const pila = new QVBoxLayout(marco);
-    Opciones(Control::optTablaPDR, TablasPDR, optTablaPDR, *marco);
+    Opciones("optTablaPDR", TablasPDR, optTablaPDR, *marco);
     for (QRadioButton* opcion : optTablaPDR)
         pila->addWidget(opcion);
-    pila->addWidget(Boton(Control::cmdTablaPDR, *marco, [this] { AbreOtra(AbreTablasPDRs); }));
+    pila->addWidget(Boton("cmdTablaPDR", *marco, [this] { AbreOtra(AbreTablasPDRs); }));
     pila->addStretch(1);
     return marco;
 }
 
 QWidget* dlgPp_ventana::MarcoDeTormentaReal()
 {
-    QGroupBox* const marco = Marco(Control::Frame7);
+    QGroupBox* const marco = Marco("Frame7");
     auto* const grilla = new QGridLayout(marco);
-    FilePpReal = Toma(Control::FilePpReal, new forms::ListaParaElegir(marco));
+    FilePpReal = Toma("FilePpReal", new forms::ListaParaElegir(marco));
     FilePpReal->conFlechas = true;
     FilePpReal->AlElegir = [this](int i) {
         Suceso([this, i] {
@@ -203,20 +203,20 @@ QWidget* dlgPp_ventana::MarcoDeTormentaReal()
             FilePpReal_Click(f, entorno.s);
         });
     };
-    auto* const rotulo = new QLabel(Q(Fila(Control::FilePpReal).leyenda), marco);
+    auto* const rotulo = new QLabel(Q(Fila("FilePpReal").leyenda), marco);
     rotulo->setBuddy(FilePpReal);
     grilla->addWidget(rotulo, 0, 0, 1, 2);
     grilla->addWidget(FilePpReal, 1, 0, 1, 2);
     int fila = 2;
-    const auto dato = [&](Control control) {
+    const auto dato = [&](std::string_view control) {
         auto* const valor = Toma(control, new QLabel(marco));
         grilla->addWidget(new QLabel(Q(Fila(control).leyenda), marco), fila, 0);
         grilla->addWidget(valor, fila++, 1);
         return valor;
     };
-    lblMiFilePpReal = dato(Control::lblMiFilePpReal);
-    lblNumPer = dato(Control::lblNumPer);
-    grilla->addWidget(Boton(Control::cmdPpReal, *marco, [this] { AbreOtra(AbrePpReal); }), fila, 0, 1, 2);
+    lblMiFilePpReal = dato("lblMiFilePpReal");
+    lblNumPer = dato("lblNumPer");
+    grilla->addWidget(Boton("cmdPpReal", *marco, [this] { AbreOtra(AbrePpReal); }), fila, 0, 1, 2);
     grilla->setRowStretch(1, 1);
     grilla->setColumnStretch(1, 1);
     return marco;
@@ -224,22 +224,22 @@ QWidget* dlgPp_ventana::MarcoDeTormentaReal()
 
 QWidget* dlgPp_ventana::MarcoDeDistribuciones()
 {
-    QGroupBox* const marco = Marco(Control::Frame5);
+    QGroupBox* const marco = Marco("Frame5");
     auto* const pila = new QVBoxLayout(marco);
-    Opciones(Control::optDistriPp, DistribucionesPp, optDistriPp, *marco);
+    Opciones("optDistriPp", DistribucionesPp, optDistriPp, *marco);
     for (QRadioButton* opcion : optDistriPp)
         pila->addWidget(opcion);
     pila->addLayout(Validez(*marco));
-    pila->addWidget(Boton(Control::cmdPpPerso, *marco, [this] { AbreOtra(AbreDisPer); }), 0, Qt::AlignLeft);
+    pila->addWidget(Boton("cmdPpPerso", *marco, [this] { AbreOtra(AbreDisPer); }), 0, Qt::AlignLeft);
     return marco;
 }
 
 /// The two limits stand below their words in the heading, which is one text.
 QLayout* dlgPp_ventana::Validez(QWidget& padre)
 {
-    QLabel* const titulo = Rotulo(Control::lblValidez, padre);
-    lblDurMin = Toma(Control::lblDurMin, new QLabel(&padre));
-    lblDurMax = Toma(Control::lblDurMax, new QLabel(&padre));
+    QLabel* const titulo = Rotulo("lblValidez", padre);
+    lblDurMin = Toma("lblDurMin", new QLabel(&padre));
+    lblDurMax = Toma("lblDurMax", new QLabel(&padre));
     for (QLabel* rotulo : {titulo, lblDurMin, lblDurMax})
         ConservaLugar(*rotulo);
 
@@ -264,10 +264,10 @@ QWidget* dlgPp_ventana::MarcoDePasos()
 {
     auto* const marco = new QGroupBox(Q(MarcoPasos), this);
     auto* const grilla = new QGridLayout(marco);
-    cmbPasoPp = ListaConTextoDe(Control::cmbPasoPp, *marco, f.cmbPasoPp.texto);
-    Renglon(*grilla, Control::cmbPasoPp, *cmbPasoPp);
-    cmbPasoQ = ListaConTextoDe(Control::cmbPasoQ, *marco, f.cmbPasoQ.texto);
-    Renglon(*grilla, Control::cmbPasoQ, *cmbPasoQ);
+    cmbPasoPp = ListaConTextoDe("cmbPasoPp", *marco, f.cmbPasoPp.texto);
+    Renglon(*grilla, "cmbPasoPp", *cmbPasoPp);
+    cmbPasoQ = ListaConTextoDe("cmbPasoQ", *marco, f.cmbPasoQ.texto);
+    Renglon(*grilla, "cmbPasoQ", *cmbPasoQ);
     campos.Agrega(*cmbPasoPp, [this] { return cmbPasoPp_AlSalir(f, entorno.s); });
     campos.Agrega(*cmbPasoQ, [this] { return cmbPasoQ_AlSalir(f, entorno.s); });
     return marco;
@@ -276,17 +276,17 @@ QWidget* dlgPp_ventana::MarcoDePasos()
 QLayout* dlgPp_ventana::Botones()
 {
     auto* const fila = new QHBoxLayout;
-    fila->addWidget(Boton(Control::cmdVerGrafico, *this, [this] {
+    fila->addWidget(Boton("cmdVerGrafico", *this, [this] {
         if (const auto pedido = cmdVerGrafico(f, entorno.s)) AbreHietograma(*pedido);
     }));
-    fila->addWidget(Boton(Control::cmdVerTablaPt, *this, [this] { cmdVerTablaPt(f, entorno.s); }));
+    fila->addWidget(Boton("cmdVerTablaPt", *this, [this] { cmdVerTablaPt(f, entorno.s); }));
     fila->addStretch(1);
-    fila->addWidget(Boton(Control::cmdAplicar, *this, [this] { cmdAplicar(f, entorno.s); }));
-    QPushButton* const acepta = Boton(Control::OKButton, *this, [this] { OKButton(f, entorno.s); });
+    fila->addWidget(Boton("cmdAplicar", *this, [this] { cmdAplicar(f, entorno.s); }));
+    QPushButton* const acepta = Boton("OKButton", *this, [this] { OKButton(f, entorno.s); });
     acepta->setDefault(true);
     fila->addWidget(acepta);
-    auto* const cancela = Toma(Control::CancelButton, new QPushButton(this));
-    cancela->setText(Q(Fila(Control::CancelButton).leyenda));
+    auto* const cancela = Toma("CancelButton", new QPushButton(this));
+    cancela->setText(Q(Fila("CancelButton").leyenda));
     connect(cancela, &QPushButton::clicked, this, [this] { SucesoSinRevisar([this] { AlCerrar(); }); });
     fila->addWidget(cancela);
     return fila;
@@ -295,27 +295,27 @@ QLayout* dlgPp_ventana::Botones()
 // --- controls ---
 
 template <typename T>
-T* dlgPp_ventana::Toma(Control control, T* widget)
+T* dlgPp_ventana::Toma(std::string_view control, T* widget)
 {
-    if (widget->objectName().isEmpty()) widget->setObjectName(Q(Fila(control).nombre));
+    if (widget->objectName().isEmpty()) widget->setObjectName(Q(control));
     if (!Fila(control).ayuda.empty()) widget->setToolTip(Q(Fila(control).ayuda));
     mostrados.push_back({control, widget});
     return widget;
 }
 
-QGroupBox* dlgPp_ventana::Marco(Control control)
+QGroupBox* dlgPp_ventana::Marco(std::string_view control)
 {
     auto* const marco = Toma(control, new QGroupBox(Q(Fila(control).leyenda), this));
     ConservaLugar(*marco);
     return marco;
 }
 
-QLabel* dlgPp_ventana::Rotulo(Control control, QWidget& padre)
+QLabel* dlgPp_ventana::Rotulo(std::string_view control, QWidget& padre)
 {
     return Toma(control, new QLabel(Q(Fila(control).leyenda), &padre));
 }
 
-QPushButton* dlgPp_ventana::Boton(Control control, QWidget& padre, std::function<void()> rutina)
+QPushButton* dlgPp_ventana::Boton(std::string_view control, QWidget& padre, std::function<void()> rutina)
 {
     auto* const boton = Toma(control, new QPushButton(Q(Fila(control).leyenda), &padre));
     AlPulsar(*boton, std::move(rutina));
@@ -323,7 +323,7 @@ QPushButton* dlgPp_ventana::Boton(Control control, QWidget& padre, std::function
 }
 
 /// A field with its label, which is available when the field is.
-void dlgPp_ventana::Renglon(QGridLayout& grilla, Control control, QWidget& campo)
+void dlgPp_ventana::Renglon(QGridLayout& grilla, std::string_view control, QWidget& campo)
 {
     auto* const rotulo = new QLabel(Q(Fila(control).leyenda), campo.parentWidget());
     rotulo->setObjectName(QStringLiteral("rotulo_") + campo.objectName());
@@ -334,7 +334,7 @@ void dlgPp_ventana::Renglon(QGridLayout& grilla, Control control, QWidget& campo
     grilla.setColumnStretch(1, 1);
 }
 
-QComboBox* dlgPp_ventana::ListaConTextoDe(Control control, QWidget& padre, std::string& texto)
+QComboBox* dlgPp_ventana::ListaConTextoDe(std::string_view control, QWidget& padre, std::string& texto)
 {
     auto* const lista = Toma(control, new QComboBox(&padre));
     lista->setEditable(true);
@@ -345,12 +345,12 @@ QComboBox* dlgPp_ventana::ListaConTextoDe(Control control, QWidget& padre, std::
 }
 
 template <std::size_t N>
-void dlgPp_ventana::Opciones(Control control, const std::array<std::string_view, N>& leyendas,
+void dlgPp_ventana::Opciones(std::string_view control, const std::array<std::string_view, N>& leyendas,
                              std::array<QRadioButton*, N>& opciones, QWidget& padre)
 {
     for (std::size_t i = 0; i < N; ++i) {
         opciones[i] = new QRadioButton(Q(leyendas[i]), &padre);
-        opciones[i]->setObjectName(QStringLiteral("%1_%2").arg(Q(Fila(control).nombre)).arg(i));
+        opciones[i]->setObjectName(QStringLiteral("%1_%2").arg(Q(control)).arg(i));
         Toma(control, opciones[i]);
     }
 }

@@ -69,13 +69,13 @@ class dlgPp_ventana : public forms::Formulario {
     QWidget* MarcoDeTormentaReal();
     QLayout* Botones();
 
-    QGroupBox* Marco(Control control);
-    QLabel* Rotulo(Control control, QWidget& padre);
-    QPushButton* Boton(Control control, QWidget& padre, std::function<void()> rutina);
-    void Renglon(QGridLayout& grilla, Control control, QWidget& campo);
-    QComboBox* ListaConTextoDe(Control control, QWidget& padre, std::string& texto);
+    QGroupBox* Marco(std::string_view control);
+    QLabel* Rotulo(std::string_view control, QWidget& padre);
+    QPushButton* Boton(std::string_view control, QWidget& padre, std::function<void()> rutina);
+    void Renglon(QGridLayout& grilla, std::string_view control, QWidget& campo);
+    QComboBox* ListaConTextoDe(std::string_view control, QWidget& padre, std::string& texto);
     template <std::size_t N>
-    void Opciones(Control control, const std::array<std::string_view, N>& leyendas,
+    void Opciones(std::string_view control, const std::array<std::string_view, N>& leyendas,
                   std::array<QRadioButton*, N>& opciones, QWidget& padre);
     void AlPulsarOpciones();
     void ConectaVentanas();
@@ -84,10 +84,10 @@ class dlgPp_ventana : public forms::Formulario {
     void MuestraDetras();
     /// The control is shown as the record tells of `control`.
     template <typename T>
-    T* Toma(Control control, T* widget);
+    T* Toma(std::string_view control, T* widget);
 
     struct Mostrado {
-        Control control;
+        std::string_view control;
         QWidget* widget;
     };
 

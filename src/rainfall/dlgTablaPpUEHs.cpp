@@ -85,12 +85,12 @@ bool Numerica(dlgTablaPpUEHs& f)
 void LlevaTormenta(const dlgTablaPpUEHs& f, dlgPp& pp, Siro& s)
 {
     pp.txtDur = f.txtDPpUEHs;
-    pp.Estado(Control::txtDur).habilitado = false;
+    pp.Estado("txtDur").habilitado = false;
     for (s.Control.IndUEH = 1; s.Control.IndUEH <= s.Red.NroUEHs; ++s.Control.IndUEH) {
         if (!(s.Tormenta.PpUEH(s.Control.IndUEH) > 0)) continue;
         s.Tormenta.PpTormenta = s.Tormenta.PpUEH(s.Control.IndUEH);
         pp.txtPp = NumeroATexto(s.Tormenta.PpTormenta);
-        pp.Estado(Control::txtPp).habilitado = false;
+        pp.Estado("txtPp").habilitado = false;
         break;
     }
     s.Tormenta.DurTormenta = model::Entero16(model::Val(f.txtDPpUEHs));

@@ -9,8 +9,8 @@
 #include "forms/CampoNumerico.h"
 #include "forms/Grafico.h"
 #include "forms/Grilla.h"
+#include "forms/Rotulo.h"
 #include "model/Siro.h"
-#include "rainfall/Leyendas.h"
 #include "rainfall/dlgPp.h"
 
 // Rules of the table of a storm that isn't uniform over the basin: a depth for each UEH, one duration and
@@ -21,7 +21,7 @@ inline constexpr std::string_view TituloDlgTablaPpUEHs =
     "Distribución areal de la Precipitación: Tabla P-D-R por UEHs";
 
 // clang-format off
-inline constexpr auto LeyendasDlgTablaPpUEHs = std::to_array<Leyenda>({
+inline constexpr auto LeyendasDlgTablaPpUEHs = std::to_array<forms::FilaRotulo>({
     {"txtDPpUEHs",       "Duración [min]:"},
     {"txtRPpUEHs",       "Recurrencia [años]:"},
     {"MSFlexGridPpUEHs", "Datos de Precipitación P[mm], Duración D[min] y Recurrencia R[años] ",

@@ -10,8 +10,8 @@
 #include "forms/CampoNumerico.h"
 #include "forms/Grafico.h"
 #include "forms/Grilla.h"
+#include "forms/Rotulo.h"
 #include "model/Siro.h"
-#include "rainfall/Leyendas.h"
 #include "rainfall/dlgPp.h"
 
 // Rules of the editor of the tables of synthetic storms that a series goes through: a storm a row, by depth,
@@ -22,7 +22,7 @@ inline constexpr std::string_view TituloDlgTablasPDRs =
     "Tablas de Precipitación [mm] - Duración [min] - Recurrencia [años]";
 
 // clang-format off
-inline constexpr auto LeyendasDlgTablasPDRs = std::to_array<Leyenda>({
+inline constexpr auto LeyendasDlgTablasPDRs = std::to_array<forms::FilaRotulo>({
     {"cmbNroTablaPDRs",     "Tabla   Nro.:", "Seleccione '0' para la Tabla por Defecto (Región del VIRSo, Sorelo, Argentina). O seleccine 1, 2 o 3 para cargar o corregir tablas personalizadas de Pp-D-R regionales"},  // kept as it stands
     {"txtNroPDRs",          "Número de tormentas Pp-D-R:"},
     {"txtNotas",            "Observaciones / Notas:"},

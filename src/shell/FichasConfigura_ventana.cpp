@@ -87,8 +87,9 @@ template <typename T>
 T* frmConfigura_ventana::Nombra(T* control, std::string_view nombre)
 {
     control->setObjectName(Q(nombre));
-    control->setToolTip(Q(RotuloDe(nombre).ayuda));
-    if constexpr (std::is_base_of_v<QAbstractButton, T>) control->setText(Q(RotuloDe(nombre).leyenda));
+    control->setToolTip(Q(RotuloDe(RotulosConfigura, nombre).ayuda));
+    if constexpr (std::is_base_of_v<QAbstractButton, T>)
+        control->setText(Q(RotuloDe(RotulosConfigura, nombre).leyenda));
     return control;
 }
 
@@ -111,7 +112,7 @@ QCheckBox* frmConfigura_ventana::Casilla(std::string_view nombre, QWidget& padre
 
 QLabel* frmConfigura_ventana::Rotulo(std::string_view nombre, QWidget& control)
 {
-    auto* const rotulo = new QLabel(Q(RotuloDe(nombre).leyenda), control.parentWidget());
+    auto* const rotulo = new QLabel(Q(RotuloDe(RotulosConfigura, nombre).leyenda), control.parentWidget());
     rotulo->setBuddy(&control);
     return rotulo;
 }
@@ -127,11 +128,12 @@ void frmConfigura_ventana::Renglon(QGridLayout& grilla, QLineEdit* campo, std::s
     grilla.addWidget(Rotulo(nombre, *campo), fila, 0);
     grilla.addWidget(campo, fila, 1);
     if (!conAyuda) return;
-    grilla.addWidget(new QLabel(Q(RotuloDe(nombre).ayuda), campo->parentWidget()), fila, 2);
+    grilla.addWidget(new QLabel(Q(RotuloDe(RotulosConfigura, nombre).ayuda), campo->parentWidget()), fila, 2);
     grilla.setColumnStretch(2, 1);
     campo->setFixedWidth(campo->fontMetrics().averageCharWidth() * LargoCampo);
     // The fields of both frames stand in one column.
-    grilla.setColumnMinimumWidth(0, campo->fontMetrics().horizontalAdvance(Q(RotuloDe("txtN0Dur").leyenda)));
+    grilla.setColumnMinimumWidth(
+        0, campo->fontMetrics().horizontalAdvance(Q(RotuloDe(RotulosConfigura, "txtN0Dur").leyenda)));
 }
 
 QLabel* frmConfigura_ventana::Dato(QGridLayout& grilla, QWidget& padre, std::string_view nombre)
@@ -140,7 +142,7 @@ QLabel* frmConfigura_ventana::Dato(QGridLayout& grilla, QWidget& padre, std::str
     dato->setObjectName(Q(nombre));
     dato->setTextFormat(Qt::PlainText);
     const int fila = grilla.rowCount();
-    grilla.addWidget(new QLabel(Q(RotuloDe(nombre).leyenda), &padre), fila, 0);
+    grilla.addWidget(new QLabel(Q(RotuloDe(RotulosConfigura, nombre).leyenda), &padre), fila, 0);
     grilla.addWidget(dato, fila, 1);
     grilla.setColumnStretch(1, 1);
     return dato;
@@ -197,7 +199,7 @@ void frmConfigura_ventana::ColumnaDeDirectorios(QWidget& padre, QGridLayout& col
     CheckDirNv =
         Casilla("CheckDirNv", padre, [this](bool tildada) { CheckDirNv_Click(f, entorno.s, tildada); });
     TextDirNv = Nombra(new QLineEdit(&padre), "TextDirNv");
-    TextDirNv->setAccessibleName(Q(RotuloDe("TextDirNv").leyenda));
+    TextDirNv->setAccessibleName(Q(RotuloDe(RotulosConfigura, "TextDirNv").leyenda));
     textos.push_back({TextDirNv, &ControlesConfigura::TextDirNv});
     forms::Refleja(*TextDirNv, c.TextDirNv);
     auto* const nuevo = new QHBoxLayout;
@@ -234,7 +236,7 @@ void frmConfigura_ventana::ColumnaDeImagenes(QWidget& padre, QGridLayout& column
                               [this](bool tildada) { chkImagenDibujo_Click(entorno.s, tildada); });
     tildes.push_back({chkImagenDibujo, &c.chkImagenDibujo});
     filArchivoImagenDib = Nombra(new forms::ListaParaElegir(&padre), "filArchivoImagenDib");
-    filArchivoImagenDib->setAccessibleName(Q(RotuloDe("filArchivoImagenDib").leyenda));
+    filArchivoImagenDib->setAccessibleName(Q(RotuloDe(RotulosConfigura, "filArchivoImagenDib").leyenda));
     filArchivoImagenDib->AlElegir = [this](int i) {
         Suceso([this, i] {
             f.filArchivoImagenDib.indice = i;

@@ -107,19 +107,16 @@ void Abre(MDIForm1& f)
 
 void carga_lbl_proyecto(MDIForm1& f, Siro& s)
 {
-    const auto pon = [&](Rotulo r, std::string texto) {
-        f.rotulos[static_cast<std::size_t>(r)] = std::move(texto);
-    };
-    pon(Rotulo::lblProyecto, s.Proyecto.NombreProyecto);
-    pon(Rotulo::lblTitulo, s.frmConfigura.TextProyecto);
-    pon(Rotulo::lblMiDirTrabajo, s.Proyecto.DirProyecto);
-    pon(Rotulo::lblFileProyecto, s.Proyecto.NombreProyecto + "_Conf.vlm");
-    pon(Rotulo::lblCuenca, s.frmConfigura.TextCuenca);
-    pon(Rotulo::lblSubCuenca, s.frmConfigura.TextSbca);
-    pon(Rotulo::lblUbicacion, s.frmConfigura.TextUbica);
+    f.Texto("lblProyecto") = s.Proyecto.NombreProyecto;
+    f.Texto("lblTitulo") = s.frmConfigura.TextProyecto;
+    f.Texto("lblMiDirTrabajo") = s.Proyecto.DirProyecto;
+    f.Texto("lblFileProyecto") = s.Proyecto.NombreProyecto + "_Conf.vlm";
+    f.Texto("lblCuenca") = s.frmConfigura.TextCuenca;
+    f.Texto("lblSubCuenca") = s.frmConfigura.TextSbca;
+    f.Texto("lblUbicacion") = s.frmConfigura.TextUbica;
     // The first name lacks the "s" of the file on disk: kept as it stands.
-    pon(Rotulo::lblFilesTrabajo,
-        s.Proyecto.NombreProyecto + "_UEH.vlm\r" + s.Proyecto.NombreProyecto + "_VerCau.vlm");
+    f.Texto("lblFilesTrabajo") =
+        s.Proyecto.NombreProyecto + "_UEH.vlm\r" + s.Proyecto.NombreProyecto + "_VerCau.vlm";
     model::Sentencia([&] { model::GuardaPuntero(s); }, [](const model::Falla&) {});
 }
 

@@ -9,6 +9,7 @@
 #include <string>
 #include <string_view>
 
+#include "forms/Rotulo.h"
 #include "model/Siro.h"
 #include "results/dlgChart1.h"
 
@@ -93,49 +94,27 @@ struct EstadoEntrada {
     bool operator==(const EstadoEntrada&) const = default;
 };
 
-/// Labels of the project.
-enum class Rotulo : std::uint8_t {
-    lblProyecto,
-    lblTitulo,
-    lblMiDirTrabajo,
-    lblFileProyecto,
-    lblCuenca,
-    lblSubCuenca,
-    lblUbicacion,
-    lblFilesTrabajo,
-};
-
-/// A label: its object name, the caption before it, and whether it grows under the pointer.
-struct FilaRotulo {
-    Rotulo rotulo;
-    std::string_view nombre;
-    std::string_view leyenda;
-    bool crece;
-};
-
+/// Labels of the project, and the caption before each.
 // clang-format off
-inline constexpr auto RotulosMDIForm1 = std::to_array<FilaRotulo>({
-    {Rotulo::lblProyecto,     "lblProyecto",     "Proyecto:",            false},
-    {Rotulo::lblTitulo,       "lblTitulo",       "Título:",              true},
-    {Rotulo::lblMiDirTrabajo, "lblMiDirTrabajo", "Directorio: ",         true},
-    {Rotulo::lblFileProyecto, "lblFileProyecto", "Archivo de Proyecto:", false},
-    {Rotulo::lblCuenca,       "lblCuenca",       "Cuenca/UEH:",          true},
-    {Rotulo::lblSubCuenca,    "lblSubCuenca",    "SubCuenca/UEH:",       true},
-    {Rotulo::lblUbicacion,    "lblUbicacion",    "Ubicación:",           true},
-    {Rotulo::lblFilesTrabajo, "lblFilesTrabajo", "Archivos de trabajo:", false},
+inline constexpr auto RotulosMDIForm1 = std::to_array<forms::FilaRotulo>({
+    {"lblProyecto",     "Proyecto:"},
+    {"lblTitulo",       "Título:"},
+    {"lblMiDirTrabajo", "Directorio: "},
+    {"lblFileProyecto", "Archivo de Proyecto:"},
+    {"lblCuenca",       "Cuenca/UEH:"},
+    {"lblSubCuenca",    "SubCuenca/UEH:"},
+    {"lblUbicacion",    "Ubicación:"},
+    {"lblFilesTrabajo", "Archivos de trabajo:"},
 });
 // clang-format on
-inline constexpr std::size_t NroRotulos = RotulosMDIForm1.size();
-static_assert([] {
-    for (std::size_t i = 0; i < NroRotulos; ++i)
-        if (RotulosMDIForm1[i].rotulo != static_cast<Rotulo>(i)) return false;
-    return static_cast<std::size_t>(Rotulo::lblFilesTrabajo) + 1 == NroRotulos;
-}());
+/// Those of them that grow under the pointer.
+inline constexpr auto RotulosQueCrecen = std::to_array<std::string_view>(
+    {"lblTitulo", "lblMiDirTrabajo", "lblCuenca", "lblSubCuenca", "lblUbicacion"});
 
 /// What the main window shows.
 struct MDIForm1 {
     std::string titulo{};
-    std::array<std::string, NroRotulos> rotulos{};
+    std::array<std::string, RotulosMDIForm1.size()> rotulos{};
     std::array<EstadoEntrada, NroVariables> estados{};
     bool VerPizarra = false;  ///< the toolbar's button is down; a plain button never stays so
 
@@ -144,7 +123,11 @@ struct MDIForm1 {
     {
         return estados[static_cast<std::size_t>(v)];
     }
-    [[nodiscard]] const std::string& Texto(Rotulo r) const { return rotulos[static_cast<std::size_t>(r)]; }
+    /// Text of a label of the table, by its name.
+    std::string& Texto(std::string_view rotulo)
+    {
+        return rotulos.at(forms::LugarDe(RotulosMDIForm1, rotulo));
+    }
 };
 
 using Rutina = void (*)(MDIForm1& f, model::Siro& s, const Mandos& m);

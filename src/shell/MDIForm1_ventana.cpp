@@ -17,6 +17,7 @@
 #include <QToolButton>
 #include <QUrl>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <map>
 
 #include "forms/Pantalla_ventana.h"
@@ -39,18 +40,18 @@ constexpr int AltoInicial = 720;
 
 /// Where a label stands in the panel: captions take the even columns.
 struct LugarRotulo {
-    Rotulo rotulo;
+    std::string_view rotulo;
     int fila, columna;
 };
 constexpr auto LugaresRotulos = std::to_array<LugarRotulo>({
-    {Rotulo::lblProyecto, 0, 0},
-    {Rotulo::lblFileProyecto, 1, 0},
-    {Rotulo::lblFilesTrabajo, 2, 0},
-    {Rotulo::lblTitulo, 0, 1},
-    {Rotulo::lblMiDirTrabajo, 1, 1},
-    {Rotulo::lblUbicacion, 2, 1},
-    {Rotulo::lblCuenca, 0, 2},
-    {Rotulo::lblSubCuenca, 1, 2},
+    {"lblProyecto", 0, 0},
+    {"lblFileProyecto", 1, 0},
+    {"lblFilesTrabajo", 2, 0},
+    {"lblTitulo", 0, 1},
+    {"lblMiDirTrabajo", 1, 1},
+    {"lblUbicacion", 2, 1},
+    {"lblCuenca", 0, 2},
+    {"lblSubCuenca", 1, 2},
 });
 constexpr std::array<int, 3> AnchoRelativo = {3, 5, 3};
 
@@ -159,18 +160,20 @@ QWidget* MDIForm1_ventana::ArmaRotulos(QWidget* padre)
     rejilla->setVerticalSpacing(2);
     const int altoRenglon = RotuloProyecto(1, {}, panel).sizeHint().height();
     for (const LugarRotulo& lugar : LugaresRotulos) {
-        const FilaRotulo& fila = RotulosMDIForm1[static_cast<std::size_t>(lugar.rotulo)];
+        const std::size_t cual = forms::LugarDe(RotulosMDIForm1, lugar.rotulo);
+        const forms::FilaRotulo& fila = RotulosMDIForm1.at(cual);
         auto* const leyenda = new QLabel(Q(fila.leyenda), panel);
-        leyenda->setObjectName(Q(std::string("leyenda_").append(fila.nombre)));
-        const int renglones = lugar.rotulo == Rotulo::lblFilesTrabajo ? 2 : 1;
-        auto* const valor = new RotuloProyecto(
-            renglones, fila.crece ? RotuloCrece : std::function<bool(double, double)>(), panel);
-        valor->setObjectName(Q(fila.nombre));
+        leyenda->setObjectName(Q(std::string("leyenda_").append(fila.control)));
+        const bool crece = std::ranges::count(RotulosQueCrecen, fila.control) > 0;
+        const int renglones = lugar.rotulo == "lblFilesTrabajo" ? 2 : 1;
+        auto* const valor =
+            new RotuloProyecto(renglones, crece ? RotuloCrece : std::function<bool(double, double)>(), panel);
+        valor->setObjectName(Q(fila.control));
         valor->setAccessibleName(Q(fila.leyenda));
         leyenda->setFixedHeight(altoRenglon);
         rejilla->addWidget(leyenda, lugar.fila, 2 * lugar.columna, Qt::AlignRight | Qt::AlignTop);
         rejilla->addWidget(valor, lugar.fila, 2 * lugar.columna + 1, Qt::AlignTop);
-        rotulos[static_cast<std::size_t>(lugar.rotulo)] = valor;
+        rotulos.at(cual) = valor;
     }
     for (std::size_t i = 0; i < AnchoRelativo.size(); ++i)
         rejilla->setColumnStretch(static_cast<int>(2 * i + 1), AnchoRelativo[i]);
@@ -196,7 +199,7 @@ void MDIForm1_ventana::GuardaLugar()
 void MDIForm1_ventana::Muestra()
 {
     setWindowTitle(Q(f.titulo));
-    for (std::size_t i = 0; i < NroRotulos; ++i)
+    for (std::size_t i = 0; i < rotulos.size(); ++i)
         rotulos[i]->PonTexto(Q(f.rotulos[i]).replace(QLatin1Char('\r'), QLatin1Char('\n')));
     for (std::size_t i = 0; i < NroVariables; ++i) {
         if (variables[i] == nullptr) continue;

@@ -47,7 +47,7 @@ class MDIForm1_ventana : public QMainWindow, protected forms::Sucesos {
     Area* area = nullptr;
     bool abierta = false;  ///< it has come up: the splash is over, and commands are taken
     std::array<QAction*, NroVariables> variables{};
-    std::array<RotuloProyecto*, NroRotulos> rotulos{};
+    std::array<RotuloProyecto*, RotulosMDIForm1.size()> rotulos{};
 };
 
 }  // namespace shell

@@ -196,15 +196,6 @@ const std::array<CampoRechazado, 2> CamposRechazados = {{
 }};
 // clang-format on
 
-const RotuloConfigura& RotuloDe(std::string_view control)
-{
-    const auto* const fila =
-        std::find_if(RotulosConfigura.begin(), RotulosConfigura.end(),
-                     [control](const RotuloConfigura& r) { return r.control == control; });
-    if (fila == RotulosConfigura.end()) throw Falla{NumeroFalla::Subindice};
-    return *fila;
-}
-
 bool HayImagen(const Siro& s)
 {
     return Tildada(s.frmConfigura.chkImagenDibujo);

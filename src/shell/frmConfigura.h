@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "forms/CampoNumerico.h"
+#include "forms/Rotulo.h"
 #include "model/Configuracion.h"
 #include "model/Siro.h"
 
@@ -28,15 +29,8 @@ inline constexpr auto FichasConfigura = std::to_array<std::string_view>({
 });
 inline constexpr int FichaImagen = 3;
 
-/// A control's object name, its caption or that of the label beside it, and its hint.
-struct RotuloConfigura {
-    std::string_view control;
-    std::string_view leyenda;
-    std::string_view ayuda = {};
-};
-
 // clang-format off
-inline constexpr auto RotulosConfigura = std::to_array<RotuloConfigura>({
+inline constexpr auto RotulosConfigura = std::to_array<forms::FilaRotulo>({
     {"Drive1",              "&Unidad:"},
     {"Dir1",                "&Directorio:"},
     {"filArchivoConfigura", "Archivos de c&onfiguración:", "Pulse sobre un archivo para cargar los datos de su proyecto"},
@@ -88,9 +82,6 @@ inline constexpr auto OpcionesConfigura = std::to_array<OpcionConfigura>({
     {"OptionLt",  "Litros [l]",         &model::ControlesConfigura::OptionLt,  "Volúmenes"},
 });
 // clang-format on
-
-/// The row of a control that has one.
-const RotuloConfigura& RotuloDe(std::string_view control);
 
 /// Names of the files of a directory, of which one can be picked.
 struct ListaArchivos {

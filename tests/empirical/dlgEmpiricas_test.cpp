@@ -92,8 +92,8 @@ TEST_F(Calculadora, LosRotulosALaLetra)
         {"txtPendiCP", "Pendiente media cauce mñas largo [%]:"}};
     ASSERT_EQ(CamposEmpiricos.size(), campos.size());
     for (std::size_t k = 0; k < campos.size(); ++k) {
-        EXPECT_EQ(CamposEmpiricos[k].control, campos[k].first);
-        EXPECT_EQ(CamposEmpiricos[k].leyenda, campos[k].second);
+        EXPECT_EQ(CamposEmpiricos[k].rotulo.control, campos[k].first);
+        EXPECT_EQ(CamposEmpiricos[k].rotulo.leyenda, campos[k].second);
     }
 }
 
@@ -482,9 +482,9 @@ TEST_F(Calculadora, CadaCampoSeMandaPorSuFila)
         uno.*campo.texto = otro.*campo.texto = "4";
         campo.alCambiar(uno);
         campo.alSalir(otro);
-        EXPECT_EQ(uno, otro) << campo.control;
-        EXPECT_NE(uno.Tc[1], "") << campo.control;
-        EXPECT_EQ(uno.Qp[1] == "66", campo.control == "txtSup") << campo.control;
+        EXPECT_EQ(uno, otro) << campo.rotulo.control;
+        EXPECT_NE(uno.Tc[1], "") << campo.rotulo.control;
+        EXPECT_EQ(uno.Qp[1] == "66", campo.rotulo.control == "txtSup") << campo.rotulo.control;
     }
 }
 

@@ -76,7 +76,7 @@ class DialogoDisPpPer : public testing::Test {
 
 TEST(TextosDeDlgDisPpPer, LasLeyendasEstanLetraPorLetra)
 {
-    const auto leyenda = [](const char* nombre) { return LeyendaDe(LeyendasDlgDisPpPer, nombre).leyenda; };
+    const auto leyenda = [](const char* nombre) { return RotuloDe(LeyendasDlgDisPpPer, nombre).leyenda; };
     EXPECT_EQ(TituloDlgDisPpPer, "Distribución temporal de la Precipitación: Tabla P-t Personalizada");
     EXPECT_EQ(leyenda("cmbNroTablaDisPpPer"), "Tabla de distribución Personal Nro.:");
     EXPECT_EQ(leyenda("txtNotas"), "Observaciones / Notas:");

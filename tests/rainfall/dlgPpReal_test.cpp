@@ -90,7 +90,7 @@ class DialogoPpReal : public testing::Test {
 
 TEST(TextosDeDlgPpReal, LasLeyendasEstanLetraPorLetra)
 {
-    const auto leyenda = [](const char* nombre) { return LeyendaDe(LeyendasDlgPpReal, nombre); };
+    const auto leyenda = [](const char* nombre) { return RotuloDe(LeyendasDlgPpReal, nombre); };
     EXPECT_EQ(TituloDlgPpReal, "Edición de Tormentas Reales (Pp-t)");
     EXPECT_EQ(leyenda("FilePpReal").ayuda, "Pulse en el cuadro de lista para seleccionar otra tormenta ");
     EXPECT_EQ(leyenda("lblMiFilePpReal").leyenda, "Tormenta:");
@@ -117,7 +117,7 @@ TEST(TextosDeDlgPpReal, LasLeyendasEstanLetraPorLetra)
     EXPECT_EQ(leyenda("cmdAplicar").leyenda, "&Aplicar");
     EXPECT_EQ(leyenda("OKButton").leyenda, "Ce&rrar");
     EXPECT_EQ(leyenda("CancelButton").leyenda, "&Cancelar");
-    EXPECT_EQ(leyenda("otro").nombre, "");
+    EXPECT_EQ(leyenda("otro").control, "");
 }
 
 // --- opening ---

@@ -26,14 +26,6 @@ const Mensaje SinTormenta = {"No ha ingresado datos de Pp y Duración de la torm
                              Icono::Exclamacion};
 const Mensaje Desbordamiento = {"Error Nro. 6 ,DesbordamientoVerifique", "", Icono::Ninguno};
 
-Control PorNombre(const std::string& nombre)
-{
-    for (const FilaControl& fila : ControlesDlgPp)
-        if (fila.nombre == nombre) return fila.control;
-    ADD_FAILURE() << "no control " << nombre;
-    return Control::txtPp;
-}
-
 class DialogoPp : public testing::Test {
   protected:
     DialogoPp()
@@ -83,7 +75,7 @@ TEST(TextosDeDlgPp, LasLeyendasEstanLetraPorLetra)
         {"lblValidez", "Validez: Duración [minutos]    Min        -    Máxima"},
     };
     for (const auto& [nombre, leyenda] : leyendas)
-        EXPECT_EQ(ControlesDlgPp[static_cast<std::size_t>(PorNombre(nombre))].leyenda, leyenda) << nombre;
+        EXPECT_EQ(RotuloDe(ControlesDlgPp, nombre).leyenda, leyenda) << nombre;
     EXPECT_EQ(TituloDlgPp, "Carga de Datos de Precipitación");
     EXPECT_EQ(FormasPp[0],
               "a) Ingresar una lluvia (Pp), de Duración (D) y Recurrencia(R) y asignar una distribución "
@@ -99,8 +91,8 @@ TEST(TextosDeDlgPp, LasLeyendasEstanLetraPorLetra)
 TEST(TextosDeDlgPp, CadaControlTieneUnNombrePropio)
 {
     std::set<std::string_view> nombres;
-    for (const FilaControl& fila : ControlesDlgPp)
-        EXPECT_TRUE(nombres.insert(fila.nombre).second) << fila.nombre;
+    for (const forms::FilaRotulo& fila : ControlesDlgPp)
+        EXPECT_TRUE(nombres.insert(fila.control).second) << fila.control;
 }
 
 // --- opening ---
@@ -218,26 +210,25 @@ struct CasoEstado {
 
 class EstadoPorForma : public DialogoPp, public testing::WithParamInterface<CasoEstado> {
   protected:
-    static std::vector<Control> Controles(const char* nombres)
+    static Textos Controles(const char* nombres)
     {
-        std::vector<Control> controles;
+        Textos controles;
         std::istringstream palabras(nombres);
         for (std::string nombre; palabras >> nombre;)
-            controles.push_back(PorNombre(nombre));
+            controles.push_back(nombre);
         return controles;
     }
     void Comprueba() const
     {
         const CasoEstado& caso = GetParam();
-        const auto nombre = [](Control c) { return ControlesDlgPp[static_cast<std::size_t>(c)].nombre; };
-        for (const Control c : Controles(caso.habilitados))
-            EXPECT_TRUE(f.Habilitado(c)) << nombre(c);
-        for (const Control c : Controles(caso.deshabilitados))
-            EXPECT_FALSE(f.Habilitado(c)) << nombre(c);
-        for (const Control c : Controles(caso.visibles))
-            EXPECT_TRUE(f.Visible(c)) << nombre(c);
-        for (const Control c : Controles(caso.ocultos))
-            EXPECT_FALSE(f.Visible(c)) << nombre(c);
+        for (const std::string& c : Controles(caso.habilitados))
+            EXPECT_TRUE(f.Habilitado(c)) << c;
+        for (const std::string& c : Controles(caso.deshabilitados))
+            EXPECT_FALSE(f.Habilitado(c)) << c;
+        for (const std::string& c : Controles(caso.visibles))
+            EXPECT_TRUE(f.Visible(c)) << c;
+        for (const std::string& c : Controles(caso.ocultos))
+            EXPECT_FALSE(f.Visible(c)) << c;
         EXPECT_EQ(s.Tormenta.FormaPp, caso.forma);
     }
 };
@@ -287,18 +278,18 @@ TEST_F(DialogoPp, AlAbrirLaValidezNoSeVeSinUnaPersonal)
         s.Tormenta.FormaPp = forma;
         s.Tormenta.DistriPp = 0;
         Abre(f, s);
-        EXPECT_FALSE(f.Visible(Control::lblValidez)) << forma;
-        EXPECT_FALSE(f.Visible(Control::lblDurMin)) << forma;
-        EXPECT_FALSE(f.Visible(Control::lblDurMax)) << forma;
+        EXPECT_FALSE(f.Visible("lblValidez")) << forma;
+        EXPECT_FALSE(f.Visible("lblDurMin")) << forma;
+        EXPECT_FALSE(f.Visible("lblDurMax")) << forma;
     }
 }
 
 TEST_F(DialogoPp, LaCargaPorUEHSeHabilitaConSuForma)
 {
     Abre(f, s);
-    EXPECT_FALSE(f.Habilitado(Control::cmdCargaPDRnoUniforme));
+    EXPECT_FALSE(f.Habilitado("cmdCargaPDRnoUniforme"));
     optformaPp_Click(f, s, 3);
-    EXPECT_TRUE(f.Habilitado(Control::cmdCargaPDRnoUniforme));
+    EXPECT_TRUE(f.Habilitado("cmdCargaPDRnoUniforme"));
 }
 
 TEST_F(DialogoPp, LaValidezDeUnaPersonalSeMuestraConSusLimitesMayoresQueCero)
@@ -307,22 +298,22 @@ TEST_F(DialogoPp, LaValidezDeUnaPersonalSeMuestraConSusLimitesMayoresQueCero)
     s.TablasDeLluvia.DurMaxPer = {0, 120, 360, 0};
     Abre(f, s);
     optDistriPp_Click(f, s, 5);
-    EXPECT_TRUE(f.Habilitado(Control::cmdPpPerso));
-    EXPECT_TRUE(f.Visible(Control::lblValidez));
-    EXPECT_TRUE(f.Visible(Control::lblDurMin));
-    EXPECT_TRUE(f.Visible(Control::lblDurMax));
+    EXPECT_TRUE(f.Habilitado("cmdPpPerso"));
+    EXPECT_TRUE(f.Visible("lblValidez"));
+    EXPECT_TRUE(f.Visible("lblDurMin"));
+    EXPECT_TRUE(f.Visible("lblDurMax"));
     EXPECT_EQ(f.lblDurMin, "30");
     EXPECT_EQ(f.lblDurMax, "120");
     optDistriPp_Click(f, s, 6);
-    EXPECT_FALSE(f.Visible(Control::lblDurMin));
-    EXPECT_TRUE(f.Visible(Control::lblDurMax));
+    EXPECT_FALSE(f.Visible("lblDurMin"));
+    EXPECT_TRUE(f.Visible("lblDurMax"));
     EXPECT_EQ(f.lblDurMax, "360");
     optDistriPp_Click(f, s, 7);
-    EXPECT_TRUE(f.Visible(Control::lblValidez));
-    EXPECT_FALSE(f.Visible(Control::lblDurMax));
+    EXPECT_TRUE(f.Visible("lblValidez"));
+    EXPECT_FALSE(f.Visible("lblDurMax"));
     optDistriPp_Click(f, s, 4);
-    EXPECT_FALSE(f.Visible(Control::lblValidez));
-    EXPECT_FALSE(f.Habilitado(Control::cmdPpPerso));
+    EXPECT_FALSE(f.Visible("lblValidez"));
+    EXPECT_FALSE(f.Habilitado("cmdPpPerso"));
 }
 
 TEST_F(DialogoPp, EnLasFormas1Y2LaTablaPersonalSeCargaConUnaDistribucionPersonal)
@@ -332,7 +323,7 @@ TEST_F(DialogoPp, EnLasFormas1Y2LaTablaPersonalSeCargaConUnaDistribucionPersonal
         optformaPp_Click(f, s, forma);
         for (const auto distribucion : std::to_array<std::size_t>({4, 5, 6, 7, 0})) {
             optDistriPp_Click(f, s, distribucion);
-            EXPECT_EQ(f.Habilitado(Control::cmdPpPerso), distribucion >= 5) << forma << ' ' << distribucion;
+            EXPECT_EQ(f.Habilitado("cmdPpPerso"), distribucion >= 5) << forma << ' ' << distribucion;
         }
     }
 }
@@ -343,9 +334,9 @@ TEST_F(DialogoPp, LaTablaPDR0NoSeCargaYLasPersonalesSi)
     optformaPp_Click(f, s, 2);
     for (const auto tabla : std::to_array<std::size_t>({0, 1, 2, 3, 0})) {
         optTablaPDR_Click(f, tabla);
-        EXPECT_EQ(f.Habilitado(Control::cmdTablaPDR), tabla >= 1) << tabla;
+        EXPECT_EQ(f.Habilitado("cmdTablaPDR"), tabla >= 1) << tabla;
         optDistriPp_Click(f, s, 0);
-        EXPECT_EQ(f.Habilitado(Control::cmdTablaPDR), tabla >= 1) << tabla;
+        EXPECT_EQ(f.Habilitado("cmdTablaPDR"), tabla >= 1) << tabla;
     }
     EXPECT_EQ(s.Tormenta.TablaPDR, 0);  // taken at apply
 }
@@ -494,10 +485,10 @@ TEST_F(DialogoPp, AlVolverDeOtraFormaLosTresCamposQuedan)
     f.txtPp = "12";
     f.txtDur = "200";
     f.cmbRec.texto = "25";
-    f.Estado(Control::txtPp).habilitado = true;
+    f.Estado("txtPp").habilitado = true;
     AlVolver(f, s);
     EXPECT_EQ(Campos(), (Textos{"12", "200", "25"}));
-    EXPECT_FALSE(f.Habilitado(Control::txtPp));  // the state was shown again
+    EXPECT_FALSE(f.Habilitado("txtPp"));  // the state was shown again
 }
 
 TEST_F(DialogoPp, AlVolverSinTormentaRealElegidaLosTresCamposQuedan)
@@ -637,11 +628,11 @@ TEST_F(DialogoPp, AplicarOcultaLaValidez)
     s.TablasDeLluvia.DurMinPer = {0, 30, 0, 0};
     Abre(f, s);
     optDistriPp_Click(f, s, 5);
-    ASSERT_TRUE(f.Visible(Control::lblDurMin));
+    ASSERT_TRUE(f.Visible("lblDurMin"));
     cmdAplicar(f, s);
-    EXPECT_FALSE(f.Visible(Control::lblValidez));
-    EXPECT_FALSE(f.Visible(Control::lblDurMin));
-    EXPECT_FALSE(f.Visible(Control::lblDurMax));
+    EXPECT_FALSE(f.Visible("lblValidez"));
+    EXPECT_FALSE(f.Visible("lblDurMin"));
+    EXPECT_FALSE(f.Visible("lblDurMax"));
 }
 
 TEST_F(DialogoPp, UnaDuracionMenorQueElPasoLoVuelveLaDuracion)
@@ -837,11 +828,8 @@ TEST_F(DialogoPp, LaLluviaVaDe0A999)
         if (caso.pasa) {
             EXPECT_EQ(s.Tormenta.PpTormenta, static_cast<float>(caso.valor)) << caso.escrito;
             EXPECT_TRUE(Avisos().empty());
-            EXPECT_FALSE(f.foco);
         } else {
             EXPECT_EQ(Avisos(), (std::vector<Mensaje>{mensaje})) << caso.escrito;
-            EXPECT_EQ(f.foco, Control::txtPp);
-            EXPECT_TRUE(f.todoSeleccionado);
         }
     }
 }
@@ -872,8 +860,6 @@ TEST_F(DialogoPp, LaDuracionVaDe0A14400YUnaRechazadaVuelveA1440)
             EXPECT_TRUE(Avisos().empty());
         } else {
             EXPECT_EQ(Avisos(), (std::vector<Mensaje>{mensaje})) << caso.escrito;
-            EXPECT_EQ(f.foco, Control::txtDur);
-            EXPECT_TRUE(f.todoSeleccionado);
         }
     }
 }
@@ -885,8 +871,6 @@ TEST_F(DialogoPp, UnCampoCorregidoSueltaElFoco)
     ASSERT_FALSE(txtPp_AlSalir(f, s));
     f.txtPp = "100";
     EXPECT_TRUE(txtPp_AlSalir(f, s));
-    EXPECT_FALSE(f.foco);
-    EXPECT_FALSE(f.todoSeleccionado);
 }
 
 TEST_F(DialogoPp, ElPasoPpMayorQueLaDuracionNoSeDeja)
@@ -914,11 +898,7 @@ TEST_F(DialogoPp, ElPasoPpMayorQueLaDuracionNoSeDeja)
         f.txtDur = caso.dur;
         EXPECT_EQ(cmbPasoPp_AlSalir(f, s), caso.pasa) << caso.paso << ' ' << caso.dur;
         EXPECT_EQ(Avisos(), caso.pasa ? std::vector<Mensaje>{} : std::vector<Mensaje>{mensaje});
-        EXPECT_EQ(f.foco.has_value(), !caso.pasa);
         EXPECT_EQ(f.cmbPasoPp.texto, caso.paso);
-        if (!caso.pasa) {
-            EXPECT_EQ(f.foco, Control::cmbPasoPp);
-        }
     }
 }
 
@@ -948,7 +928,6 @@ TEST_F(DialogoPp, UnPasoQQueNoCabeEnElPasoPpSeReemplazaYElFocoSigue)
         anfitrion->sucesos.clear();
         f.cmbPasoQ.texto = caso.pasoQ;
         EXPECT_TRUE(cmbPasoQ_AlSalir(f, s));
-        EXPECT_FALSE(f.foco);
         EXPECT_EQ(f.cmbPasoQ.texto, caso.cabe ? caso.pasoQ : "30") << caso.pasoQ;
         EXPECT_EQ(s.Pasos.PasoQ, caso.cabe ? 10 : 30) << caso.pasoQ;
         EXPECT_EQ(Avisos(), caso.cabe ? std::vector<Mensaje>{} : std::vector<Mensaje>{mensaje}) << caso.pasoQ;

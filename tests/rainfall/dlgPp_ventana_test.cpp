@@ -26,7 +26,6 @@ using apoyo::Pulsa;
 using forms::DeQ;
 using model::Icono;
 using model::Mensaje;
-using Ctrl = rainfall::Control;
 
 const Mensaje PpFueraDeLimites = {"Ingrese un valor numérico, entero o decimal, entre 0 y 999",
                                   "Advertencia !", Icono::Exclamacion};
@@ -63,11 +62,12 @@ TEST_F(VentanaPp, CadaControlTieneNombreYCadaCampoRotulo)
     Abre();
     EXPECT_EQ(apoyo::SinNombre(v), std::vector<std::string>{});
     EXPECT_EQ(DeQ(v.windowTitle()), "Carga de Datos de Precipitación");
-    for (const FilaControl& fila : ControlesDlgPp) {
-        const bool indexado = fila.control == Ctrl::optformaPp || fila.control == Ctrl::optDistriPp ||
-                              fila.control == Ctrl::optTablaPDR;
-        EXPECT_NE(v.findChild<QWidget*>(forms::Q(fila.nombre) + QLatin1String(indexado ? "_0" : "")), nullptr)
-            << fila.nombre;
+    for (const forms::FilaRotulo& fila : ControlesDlgPp) {
+        const bool indexado =
+            fila.control == "optformaPp" || fila.control == "optDistriPp" || fila.control == "optTablaPDR";
+        EXPECT_NE(v.findChild<QWidget*>(forms::Q(fila.control) + QLatin1String(indexado ? "_0" : "")),
+                  nullptr)
+            << fila.control;
     }
 }
 
@@ -351,7 +351,7 @@ TEST_F(VentanaPp, LoQueOtraVentanaPoneEnLosCamposQueda)
 {
     v.AbrePpUEHs = [this] {
         f.txtPp = "77";
-        f.Estado(Ctrl::txtPp).habilitado = true;
+        f.Estado("txtPp").habilitado = true;
     };
     Abre(3);
     Pulsa(C<QPushButton>("cmdCargaPDRnoUniforme"));

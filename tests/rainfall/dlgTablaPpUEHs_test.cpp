@@ -73,7 +73,7 @@ class DialogoPpUEHs : public testing::Test {
 
 TEST(TextosDeDlgTablaPpUEHs, LasLeyendasEstanLetraPorLetra)
 {
-    const auto fila = [](const char* nombre) { return LeyendaDe(LeyendasDlgTablaPpUEHs, nombre); };
+    const auto fila = [](const char* nombre) { return RotuloDe(LeyendasDlgTablaPpUEHs, nombre); };
     EXPECT_EQ(TituloDlgTablaPpUEHs, "Distribución areal de la Precipitación: Tabla P-D-R por UEHs");
     EXPECT_EQ(fila("txtDPpUEHs").leyenda, "Duración [min]:");
     EXPECT_EQ(fila("txtRPpUEHs").leyenda, "Recurrencia [años]:");
@@ -194,8 +194,8 @@ TEST_F(DialogoPpUEHs, AplicarLlevaLaPrimeraLaminaMayorQueCero)
     EXPECT_EQ(pp.txtPp, "35.5");
     EXPECT_EQ(pp.txtDur, "90");
     EXPECT_EQ(pp.cmbRec.texto, "25");
-    EXPECT_FALSE(pp.Habilitado(Control::txtPp));
-    EXPECT_FALSE(pp.Habilitado(Control::txtDur));
+    EXPECT_FALSE(pp.Habilitado("txtPp"));
+    EXPECT_FALSE(pp.Habilitado("txtDur"));
     EXPECT_TRUE(f.abierta);
 }
 

@@ -77,7 +77,7 @@ class DialogoTablasPDRs : public testing::Test {
 
 TEST(TextosDeDlgTablasPDRs, LasLeyendasEstanLetraPorLetra)
 {
-    const auto fila = [](const char* nombre) { return LeyendaDe(LeyendasDlgTablasPDRs, nombre); };
+    const auto fila = [](const char* nombre) { return RotuloDe(LeyendasDlgTablasPDRs, nombre); };
     EXPECT_EQ(TituloDlgTablasPDRs, "Tablas de Precipitación [mm] - Duración [min] - Recurrencia [años]");
     EXPECT_EQ(fila("cmbNroTablaPDRs").leyenda, "Tabla   Nro.:");
     EXPECT_EQ(fila("cmbNroTablaPDRs").ayuda,

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "model/Falla.h"
 #include "shell/EscenaDePrueba.h"
 
@@ -40,20 +42,20 @@ TEST_F(MarcoDePrueba, LosRotulosDicenElProyectoYSusTitulos)
     s.frmConfigura.TextSbca = "Norte";
     s.frmConfigura.TextUbica = "Salta";
     carga_lbl_proyecto(f, s);
-    EXPECT_EQ(f.Texto(Rotulo::lblProyecto), "Mio");
-    EXPECT_EQ(f.Texto(Rotulo::lblTitulo), "Defensa");
-    EXPECT_EQ(f.Texto(Rotulo::lblMiDirTrabajo), Proyectos);
-    EXPECT_EQ(f.Texto(Rotulo::lblFileProyecto), "Mio_Conf.vlm");
-    EXPECT_EQ(f.Texto(Rotulo::lblCuenca), "Alta");
-    EXPECT_EQ(f.Texto(Rotulo::lblSubCuenca), "Norte");
-    EXPECT_EQ(f.Texto(Rotulo::lblUbicacion), "Salta");
+    EXPECT_EQ(f.Texto("lblProyecto"), "Mio");
+    EXPECT_EQ(f.Texto("lblTitulo"), "Defensa");
+    EXPECT_EQ(f.Texto("lblMiDirTrabajo"), Proyectos);
+    EXPECT_EQ(f.Texto("lblFileProyecto"), "Mio_Conf.vlm");
+    EXPECT_EQ(f.Texto("lblCuenca"), "Alta");
+    EXPECT_EQ(f.Texto("lblSubCuenca"), "Norte");
+    EXPECT_EQ(f.Texto("lblUbicacion"), "Salta");
 }
 
 TEST_F(MarcoDePrueba, ElRotuloDeArchivosDeTrabajoDiceUEHSinLaS)
 {
     PonProyecto();
     carga_lbl_proyecto(f, s);
-    EXPECT_EQ(f.Texto(Rotulo::lblFilesTrabajo), "Mio_UEH.vlm\rMio_VerCau.vlm");
+    EXPECT_EQ(f.Texto("lblFilesTrabajo"), "Mio_UEH.vlm\rMio_VerCau.vlm");
 }
 
 TEST_F(MarcoDePrueba, CadaRefrescoDeLosRotulosAnotaElUltimoProyecto)
@@ -68,7 +70,7 @@ TEST_F(MarcoDePrueba, UnPunteroQueNoSePuedeEscribirNoEstorbaALosRotulos)
     PonProyecto();
     disco.Protege(Programa);
     carga_lbl_proyecto(f, s);
-    EXPECT_EQ(f.Texto(Rotulo::lblProyecto), "Mio");
+    EXPECT_EQ(f.Texto("lblProyecto"), "Mio");
     EXPECT_TRUE(anfitrion->sucesos.empty());
 }
 
@@ -77,10 +79,10 @@ TEST_F(MarcoDePrueba, LasLeyendasDeLosRotulosYCualesCrecen)
     const std::vector<std::string_view> leyendas{
         "Proyecto:",   "Título:",        "Directorio: ", "Archivo de Proyecto:",
         "Cuenca/UEH:", "SubCuenca/UEH:", "Ubicación:",   "Archivos de trabajo:"};
-    const std::vector<bool> crecen{false, true, true, false, true, true, true, false};
-    for (std::size_t i = 0; i < NroRotulos; ++i) {
+    const std::vector<int> crecen{0, 1, 1, 0, 1, 1, 1, 0};
+    for (std::size_t i = 0; i < RotulosMDIForm1.size(); ++i) {
         EXPECT_EQ(RotulosMDIForm1[i].leyenda, leyendas[i]);
-        EXPECT_EQ(RotulosMDIForm1[i].crece, crecen[i]) << leyendas[i];
+        EXPECT_EQ(std::ranges::count(RotulosQueCrecen, RotulosMDIForm1[i].control), crecen[i]) << leyendas[i];
     }
 }
 

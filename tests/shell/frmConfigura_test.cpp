@@ -86,21 +86,20 @@ TEST(TextosDeConfigura, EstanLetraPorLetra)
     EXPECT_EQ(TituloConfigura, "Configurar");
     EXPECT_EQ(FichasConfigura[0], "Seleccione el Directorio y Archivos de trabajo");
     EXPECT_EQ(FichasConfigura[1], "Ingrese los títulos del proyecto para la redacción de informes");
-    EXPECT_EQ(RotuloDe("BtnDefecto").leyenda, "Configurar  por defecto");
-    EXPECT_EQ(RotuloDe("BtnDirNv").leyenda, "Crear");
-    EXPECT_EQ(RotuloDe("BtnRecuDef").leyenda, "Selección por defecto");
-    EXPECT_EQ(RotuloDe("BtnDurDef").leyenda, "Selección por defecto");
-    EXPECT_EQ(RotuloDe("CheckDistriPp").leyenda, "Distribución Areal de Lluvias Uniforme");
-    EXPECT_EQ(RotuloDe("OKButton").leyenda, "Aceptar");
-    EXPECT_EQ(RotuloDe("cmdAplicar").leyenda, "Aplicar");
-    EXPECT_EQ(RotuloDe("CancelButton").leyenda, "Cancelar");
-    EXPECT_THROW(RotuloDe("nada"), model::Falla);
+    EXPECT_EQ(RotuloDe(RotulosConfigura, "BtnDefecto").leyenda, "Configurar  por defecto");
+    EXPECT_EQ(RotuloDe(RotulosConfigura, "BtnDirNv").leyenda, "Crear");
+    EXPECT_EQ(RotuloDe(RotulosConfigura, "BtnRecuDef").leyenda, "Selección por defecto");
+    EXPECT_EQ(RotuloDe(RotulosConfigura, "BtnDurDef").leyenda, "Selección por defecto");
+    EXPECT_EQ(RotuloDe(RotulosConfigura, "CheckDistriPp").leyenda, "Distribución Areal de Lluvias Uniforme");
+    EXPECT_EQ(RotuloDe(RotulosConfigura, "OKButton").leyenda, "Aceptar");
+    EXPECT_EQ(RotuloDe(RotulosConfigura, "cmdAplicar").leyenda, "Aplicar");
+    EXPECT_EQ(RotuloDe(RotulosConfigura, "CancelButton").leyenda, "Cancelar");
 }
 
 TEST(TextosDeConfigura, CadaControlTieneUnNombrePropio)
 {
     std::set<std::string_view> nombres;
-    for (const RotuloConfigura& fila : RotulosConfigura)
+    for (const forms::FilaRotulo& fila : RotulosConfigura)
         EXPECT_TRUE(nombres.insert(fila.control).second) << fila.control;
     for (const OpcionConfigura& fila : OpcionesConfigura)
         EXPECT_TRUE(nombres.insert(fila.control).second) << fila.control;

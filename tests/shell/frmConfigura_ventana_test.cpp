@@ -87,7 +87,7 @@ TEST_F(VentanaConfigura, CadaControlTieneNombreYCadaCampoRotulo)
     Abre();
     EXPECT_EQ(apoyo::SinNombre(v), std::vector<std::string>{});
     EXPECT_EQ(DeQ(v.windowTitle()), "Configurar");
-    for (const RotuloConfigura& fila : RotulosConfigura)
+    for (const forms::FilaRotulo& fila : RotulosConfigura)
         EXPECT_NE(v.findChild<QWidget*>(Q(fila.control)), nullptr) << fila.control;
     for (const OpcionConfigura& fila : OpcionesConfigura)
         EXPECT_NE(v.findChild<QRadioButton*>(Q(fila.control)), nullptr) << fila.control;

@@ -8,6 +8,7 @@
 #include "editor/Destinos.h"
 #include "editor/NombreComponente.h"
 #include "forms/CampoNumerico.h"
+#include "forms/Rotulo.h"
 #include "model/Coleccion.h"
 #include "model/Numeros.h"
 #include "model/Siro.h"
@@ -33,12 +34,6 @@ enum class PedidoFicha : std::uint8_t {
     dlgTablaSHV,   ///< height, area and storage of the Represa in hand
     dlgTablaFQ,    ///< height and outflow of the Represa in hand
     dlgTablaSHVQ,  ///< the table of the Lago in hand
-};
-
-/// The caption of a control.
-struct FilaRotulo {
-    std::string_view control;
-    std::string_view leyenda;
 };
 
 inline constexpr std::string_view LeyendaAceptar = "Aceptar";

@@ -60,15 +60,14 @@ PartesDeFicha::PartesDeFicha(forms::Entorno& alrededor, const DescripcionFicha& 
 
 std::string_view PartesDeFicha::Leyenda(std::string_view control) const
 {
-    const auto fila = std::find_if(leyendas.begin(), leyendas.end(),
-                                   [&](const FilaRotulo& r) { return r.control == control; });
-    return fila == leyendas.end() ? std::string_view{} : fila->leyenda;
+    return forms::RotuloDe(leyendas, control).leyenda;
 }
 
 void PartesDeFicha::NombraWidget(QWidget& widget, std::string_view control) const
 {
     widget.setObjectName(Q(control));
     widget.setAccessibleName(Q(Leyenda(control)).trimmed());
+    widget.setToolTip(Q(forms::RotuloDe(leyendas, control).ayuda));
 }
 
 // --- parts ---
@@ -84,6 +83,7 @@ QLabel* PartesDeFicha::Texto(std::string_view control, const std::string& texto)
 {
     auto* const rotulo = new QLabel;
     rotulo->setObjectName(Q(control));
+    rotulo->setToolTip(Q(forms::RotuloDe(leyendas, control).ayuda));
     rotulo->setTextFormat(Qt::PlainText);
     AlMostrar([rotulo, &texto] { Pon(*rotulo, texto); });
     return rotulo;

@@ -34,7 +34,7 @@ void ConservaLugar(QWidget& widget);
 struct DescripcionFicha {
     std::string_view nombre;  ///< object name of the window
     std::string_view titulo;
-    std::span<const FilaRotulo> leyendas;
+    std::span<const forms::FilaRotulo> leyendas;
 };
 
 /// What the windows of the property forms are built of. Controls are made with their captions from the form's
@@ -98,7 +98,7 @@ class PartesDeFicha : public forms::Formulario {
     void NombraWidget(QWidget& widget, std::string_view control) const;
     void PonFoco();
 
-    std::span<const FilaRotulo> leyendas;
+    std::span<const forms::FilaRotulo> leyendas;
     Ficha& ficha;
     std::vector<std::function<void()>> muestran{};
 };

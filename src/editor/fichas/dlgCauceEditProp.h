@@ -21,7 +21,7 @@ inline constexpr std::string_view SinEscalar = "Sin Escalar";
 
 // clang-format off
 /// Captions.
-inline constexpr auto RotulosDlgCauceEditProp = std::to_array<FilaRotulo>({
+inline constexpr auto RotulosDlgCauceEditProp = std::to_array<forms::FilaRotulo>({
     {"lstCauces",            "Selección de Cauce:"},
     {"lblNroCauce",          "Nro. de Cauce :"},
     {"lblNombreCauce",       "Nombre Cauce :"},
@@ -30,21 +30,15 @@ inline constexpr auto RotulosDlgCauceEditProp = std::to_array<FilaRotulo>({
     {"lstTributaCauce",      "Tributa al Cauce/Laguna/Represa :"},
     {"txtLongCauce",         "Longitud [m]"},
     {"lblOrdenCauce",        "Orden del Cauce :"},
-    {"lbl_LongCauceDibujo",  "Obtenida del diagrama y Escala de dibujo"},
+    {"lbl_LongCauceDibujo",  "Obtenida del diagrama y Escala de dibujo",
+     "Si el diagrama es representativo y la escala adoptada correcta, puede adoptar esta Longitud en el campo de la izquierda"},  // kept as it stands
     {"optMusk",              "por Muskingum"},
     {"optDirecta",           "Directa"},
     {"txtVelMediaCauce",     "Velocidad Media [m/s]"},
     {"txtCauce_k_Musk",      "Cte. K de Muskingum [min]:"},
-    {"txtCauce_n_Musk",      "Cte.  x  de Muskingum:"},
+    {"txtCauce_n_Musk",      "Cte.  x  de Muskingum:", "Coeficiente 'x' de Muskingum. 0<=x>0,5 "},  // likewise
     {"OKButton",             LeyendaAceptar},
     {"CancelButton",         LeyendaCancelar},
-});
-
-/// Tips; kept as they stand.
-inline constexpr auto AyudasDlgCauceEditProp = std::to_array<FilaRotulo>({
-    {"lbl_LongCauceDibujo", "Si el diagrama es representativo y la escala adoptada correcta, puede adoptar esta "
-                            "Longitud en el campo de la izquierda"},
-    {"txtCauce_n_Musk",     "Coeficiente 'x' de Muskingum. 0<=x>0,5 "},
 });
 // clang-format on
 

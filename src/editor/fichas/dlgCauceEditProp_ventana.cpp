@@ -44,9 +44,6 @@ dlgCauceEditProp_ventana::dlgCauceEditProp_ventana(forms::Entorno& alrededor, dl
     Longitud(*grilla);
     Raya(*grilla);
     Propagacion(*grilla);
-    for (const FilaRotulo& ayuda : AyudasDlgCauceEditProp)
-        if (auto* const control = findChild<QWidget*>(Q(ayuda.control)))
-            control->setToolTip(Q(ayuda.leyenda));
     Cierre(*pila, [this] { OKButton(f, entorno.s); });
 }
 

@@ -18,7 +18,7 @@ inline constexpr std::string_view TituloDlgLago =
 
 // clang-format off
 /// Captions; an empty one is told by the record.
-inline constexpr auto RotulosDlgLago = std::to_array<FilaRotulo>({
+inline constexpr auto RotulosDlgLago = std::to_array<forms::FilaRotulo>({
     {"lstLAGOs",          "Laguna:"},
     {"lblNroLago",        "Nro. Laguna:"},
     {"lblNombreLago",     "Nombre Laguna:"},

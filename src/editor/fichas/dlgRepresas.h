@@ -19,7 +19,7 @@ inline constexpr std::string_view TituloDlgRepresas = "Propiedades de Represas";
 
 // clang-format off
 /// Captions; an empty one is told by the record.
-inline constexpr auto RotulosDlgRepresas = std::to_array<FilaRotulo>({
+inline constexpr auto RotulosDlgRepresas = std::to_array<forms::FilaRotulo>({
     {"lstRepresas",       "Represa:"},
     {"lblNroRepresa",     "Nro. Represa:"},
     {"lblNombreRepresa",  "Nombre Represa:"},

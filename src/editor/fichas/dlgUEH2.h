@@ -22,7 +22,7 @@ inline constexpr std::string_view MetodoUEH = "Directo";
 
 // clang-format off
 /// Captions; that of a label or field stands beside it, that of a frame above it.
-inline constexpr auto RotulosDlgUEH2 = std::to_array<FilaRotulo>({
+inline constexpr auto RotulosDlgUEH2 = std::to_array<forms::FilaRotulo>({
     {"lblNroUEH",           "Nro. UEH:"},
     {"lblNombreUEH",        "Nombre UEH:"},
     {"txtNombreUEH",        "Modificar Nombre UEH:"},

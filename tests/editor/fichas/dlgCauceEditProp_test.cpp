@@ -50,10 +50,11 @@ TEST(TextosDeDlgCauceEditProp, TituloLeyendasYAyudasEstanLetraPorLetra)
     for (const auto& [control, leyenda] : leyendas)
         EXPECT_EQ(RotuloDe(RotulosDlgCauceEditProp, control), leyenda);
     EXPECT_EQ(
-        RotuloDe(AyudasDlgCauceEditProp, "lbl_LongCauceDibujo"),
+        forms::RotuloDe(RotulosDlgCauceEditProp, "lbl_LongCauceDibujo").ayuda,
         "Si el diagrama es representativo y la escala adoptada correcta, puede adoptar esta Longitud en "
         "el campo de la izquierda");
-    EXPECT_EQ(RotuloDe(AyudasDlgCauceEditProp, "txtCauce_n_Musk"), "Coeficiente 'x' de Muskingum. 0<=x>0,5 ");
+    EXPECT_EQ(forms::RotuloDe(RotulosDlgCauceEditProp, "txtCauce_n_Musk").ayuda,
+              "Coeficiente 'x' de Muskingum. 0<=x>0,5 ");
 }
 
 // --- opening ---
