@@ -69,7 +69,7 @@ void CargaPpUEH(Siro& s, const std::vector<float>& laminas)
 
 bool SeAbre(const model::Disco& disco, const std::string& ruta)
 {
-    return model::Sentencia([&] { disco.Lee(ruta); }, [](const model::Falla&) {});
+    return model::Sentencia([&] { disco.Lee(ruta); });
 }
 
 /// A disk that notes whether the text files of a run couldn't be written. That they couldn't has been told
@@ -123,8 +123,7 @@ bool GuardaResultados(Siro& s, const Opciones& o)
         else
             GuardaCsvTormenta(s, Absoluta(o.resultados));
     };
-    return model::Sentencia(
-        guarda, [&](const model::Falla& falla) { model::Informa(s, model::TextoFallaArchivo(falla)); });
+    return model::Sentencia(guarda, model::AvisaArchivo(s));
 }
 
 }  // namespace

@@ -29,11 +29,6 @@ constexpr std::string_view TituloResguardo = "Resguardo de datos de componentes 
 constexpr std::string_view PreguntaResguardo =
     "¿Desea guardar los cambios realizados en los componentes de UEHs ? ";
 
-void InformaFalla(const Siro& s, const model::Falla& falla)
-{
-    model::Informa(s, model::TextoFallaMotor(falla));
-}
-
 /// Marks that an event is under way, however it ends.
 class EnEvento {
   public:
@@ -149,7 +144,7 @@ void Evento(frmUEHs& f, Siro& s, const std::function<void()>& cuerpo)
             SueltaTodo(f);
             Repone(f, s);
         }
-        InformaFalla(s, falla);
+        model::AvisaMotor(s)(falla);
     });
     f.lblIndicacion = Indicacion(f, s);
     if (dentroDeOtro) return;
@@ -178,18 +173,17 @@ void Abre(frmUEHs& f, Siro& s, Tamano pantalla)
     LimpiaSeleccion(s);
     EmpiezaControles(f);
     f.EscalaBase = EscalaBasePorDefecto;
-    const auto informa = [&](const model::Falla& falla) { InformaFalla(s, falla); };
     model::Sentencia(
         [&] {
             const std::int32_t base = model::Entero32(model::Val(s.Configuracion.MaxUEHsPixel));
             if (base > 0) f.EscalaBase = base;
         },
-        informa);
+        model::AvisaMotor(s));
     f.recentra = f.reescala = true;
     f.lblEstado = Estado(s);
     model::LeeUEHs(s);
     Redibuja(f, s);
-    model::Sentencia([&] { f.ToleranciaVertice = ToleranciaPresente(f); }, informa);
+    model::Sentencia([&] { f.ToleranciaVertice = ToleranciaPresente(f); }, model::AvisaMotor(s));
     EmpiezaHistoria(f, s);
     f.lblIndicacion = Indicacion(f, s);
 }

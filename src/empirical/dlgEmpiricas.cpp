@@ -38,8 +38,7 @@ template <typename Formula>
 float Calcula(Formula&& formula)
 {
     float resultado = 0;
-    model::Sentencia([&] { resultado = model::Simple(std::forward<Formula>(formula)()); },
-                     [](const Falla&) {});
+    model::Sentencia([&] { resultado = model::Simple(std::forward<Formula>(formula)()); });
     return resultado;
 }
 

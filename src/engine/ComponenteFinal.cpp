@@ -77,7 +77,7 @@ void AnotaSalida(Siro& s, const Destinos& d, const std::string& nombre, const st
             if (s.Resultados.NroSalidas > model::MaxSalidas) throw Falla{model::NumeroFalla::Subindice};
             s.Resultados.Salidas[static_cast<std::size_t>(s.Resultados.NroSalidas)] = nombre;
         },
-        [&](const Falla& falla) { model::Informa(s, model::TextoFallaMotor(falla)); });
+        model::AvisaMotor(s));
 }
 
 void BuscaSalidas(Siro& s, const Destinos& d)

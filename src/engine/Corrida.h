@@ -54,8 +54,7 @@ struct Corrida {
     template <typename Cuerpo>
     bool Intenta(Cuerpo&& cuerpo)
     {
-        return model::Sentencia(std::forward<Cuerpo>(cuerpo),
-                                [this](const model::Falla& falla) { Reporta(falla); });
+        return model::Sentencia(std::forward<Cuerpo>(cuerpo), model::AvisaMotor(s));
     }
     /// The test of an if or a loop: false where it is at fault.
     template <typename Prueba>
@@ -65,7 +64,6 @@ struct Corrida {
         Intenta([&] { vale = prueba(); });
         return vale;
     }
-    void Reporta(const model::Falla& falla) const { model::Informa(s, model::TextoFallaMotor(falla)); }
 };
 
 /// The k-th multiple of a step [min], in 16 bits. Throws Falla 6.

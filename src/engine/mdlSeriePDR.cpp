@@ -242,8 +242,7 @@ FinSerie CorreSeriePDR(Siro& s, int hilos)
 {
     const int nucleos = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
     FinSerie fin = FinSerie::SinTormentas;
-    model::Sentencia([&] { fin = CorreSerie(s, hilos > 0 ? hilos : nucleos); },
-                     [&](const Falla& falla) { model::Informa(s, model::TextoFallaMotor(falla)); });
+    model::Sentencia([&] { fin = CorreSerie(s, hilos > 0 ? hilos : nucleos); }, model::AvisaMotor(s));
     return fin;
 }
 

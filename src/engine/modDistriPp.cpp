@@ -222,8 +222,7 @@ double PpInterpolada(Siro& s, std::int16_t k, std::int16_t t)
 
 void ConstruyeHietograma(Siro& s)
 {
-    model::Sentencia([&] { Construye(s); },
-                     [&](const Falla& falla) { model::Informa(s, model::TextoFallaMotor(falla)); });
+    model::Sentencia([&] { Construye(s); }, model::AvisaMotor(s));
 }
 
 double PpDelPaso(Siro& s, std::int16_t k)

@@ -45,8 +45,7 @@ void CargaProyecto(Siro& s)
     }
     if (s.Red.NroLagos > 0) model::LeeTablaHSVQLago(s);
     s.Anfitrion.carga_lbl_proyecto();
-    model::Sentencia([&] { hydraulics::CargaFQs(s); },
-                     [&](const model::Falla& falla) { model::Informa(s, model::TextoFallaMotor(falla)); });
+    model::Sentencia([&] { hydraulics::CargaFQs(s); }, model::AvisaMotor(s));
     if (s.Red.NroRepresas >= 1) s.Anfitrion.HabilitaVerificacion();
 }
 

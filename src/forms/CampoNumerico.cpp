@@ -11,8 +11,7 @@ namespace forms {
 std::optional<double> NumeroDeCampo(std::string_view texto)
 {
     std::optional<double> x;
-    model::Sentencia([&] { x = model::NumeroEntero(model::ComasAPuntos(texto)); },
-                     [](const model::Falla&) {});
+    model::Sentencia([&] { x = model::NumeroEntero(model::ComasAPuntos(texto)); });
     return x;
 }
 

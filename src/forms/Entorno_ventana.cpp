@@ -161,7 +161,7 @@ void Entorno::Termina(int estadoFinal)
 
 void Entorno::Informa(const model::Falla& falla)
 {
-    model::Informa(s, model::TextoFallaMotor(falla));
+    model::AvisaMotor(s)(falla);
 }
 
 void Entorno::AlActivarse(QWidget& ventana, std::function<void()> rutina)

@@ -10,11 +10,9 @@ namespace forms {
 /// Runs the event of a form whose faults have no handler of their own: a fault is told in a box and ends the
 /// event, the form staying as it is. Returns false where there was one.
 template <typename Cuerpo>
-bool Evento(const model::Siro& s, Cuerpo&& cuerpo)
+bool Evento(const model::Anfitrion& anfitrion, Cuerpo&& cuerpo)
 {
-    return model::Sentencia(std::forward<Cuerpo>(cuerpo), [&](const model::Falla& falla) {
-        model::Informa(s, model::TextoFallaMotor(falla));
-    });
+    return model::Sentencia(std::forward<Cuerpo>(cuerpo), model::AvisaMotor(anfitrion));
 }
 
 }  // namespace forms

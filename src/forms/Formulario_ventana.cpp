@@ -108,7 +108,7 @@ void Formulario::reject()
 bool Formulario::HayTrabajo()
 {
     bool hay = false;
-    model::Sentencia([&] { hay = isVisible() && SinAplicar(); }, [](const model::Falla&) {});
+    model::Sentencia([&] { hay = isVisible() && SinAplicar(); });
     return hay;
 }
 

@@ -156,9 +156,7 @@ void Lamina::Guarda(std::string_view pregunta, std::string_view filtro, std::str
     const std::string ruta =
         entorno.s.Anfitrion.EligeDestino(pregunta, filtro, NombreDeArchivo(DeDonde()).append(extension));
     if (ruta.empty()) return;
-    model::Sentencia(
-        [&] { entorno.s.Disco.Escribe(ruta, bytes()); },
-        [&](const model::Falla& falla) { model::Informa(entorno.s, model::TextoFallaArchivo(falla)); });
+    model::Sentencia([&] { entorno.s.Disco.Escribe(ruta, bytes()); }, model::AvisaArchivo(entorno.s));
 }
 
 void Lamina::GuardaPng() const

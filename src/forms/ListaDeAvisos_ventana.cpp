@@ -69,8 +69,7 @@ void ListaDeAvisos::Guarda()
     const model::Siro& s = entorno.s;
     const std::string ruta = s.Anfitrion.EligeDestino("Guardar los mensajes", "Texto |*.txt", "Mensajes.txt");
     if (ruta.empty()) return;
-    model::Sentencia([&] { s.Disco.Escribe(ruta, texto); },
-                     [&](const model::Falla& falla) { model::Informa(s, model::TextoFallaArchivo(falla)); });
+    model::Sentencia([&] { s.Disco.Escribe(ruta, texto); }, model::AvisaArchivo(s));
 }
 
 }  // namespace forms

@@ -167,9 +167,7 @@ void Guarda(Entorno& entorno, std::string_view pregunta, std::string_view filtro
 {
     const std::string ruta = entorno.s.Anfitrion.EligeDestino(pregunta, filtro, nombre);
     if (ruta.empty()) return;
-    model::Sentencia(
-        [&] { entorno.s.Disco.Escribe(ruta, bytes()); },
-        [&](const model::Falla& falla) { model::Informa(entorno.s, model::TextoFallaArchivo(falla)); });
+    model::Sentencia([&] { entorno.s.Disco.Escribe(ruta, bytes()); }, model::AvisaArchivo(entorno.s));
 }
 
 }  // namespace

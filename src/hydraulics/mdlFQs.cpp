@@ -28,8 +28,7 @@ template <typename Cuerpo>
 float OCeroConInforme(const Siro& s, Cuerpo&& cuerpo)
 {
     float valor = 0;
-    model::Sentencia([&] { valor = cuerpo(); },
-                     [&](const model::Falla& falla) { model::Informa(s, model::TextoFallaArchivo(falla)); });
+    model::Sentencia([&] { valor = cuerpo(); }, model::AvisaArchivo(s));
     return valor;
 }
 

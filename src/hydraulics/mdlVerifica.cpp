@@ -83,8 +83,7 @@ void MuestraPizarra(Siro& s)
 template <typename Cuerpo>
 void Comando(const Siro& s, Cuerpo&& cuerpo)
 {
-    model::Sentencia(std::forward<Cuerpo>(cuerpo),
-                     [&](const model::Falla& falla) { model::Informa(s, model::TextoFallaArchivo(falla)); });
+    model::Sentencia(std::forward<Cuerpo>(cuerpo), model::AvisaArchivo(s));
 }
 
 /// Calls `renglon` with every height from the least by the step, in 32-bit floats, none passing the greatest.

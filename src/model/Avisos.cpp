@@ -17,19 +17,19 @@ std::string Nota(const Falla& falla)
 
 }  // namespace
 
-void Advierte(const Siro& s, std::string texto, std::string_view titulo)
+void Advierte(const Anfitrion& anfitrion, std::string texto, std::string_view titulo)
 {
-    s.Anfitrion.Avisa({std::move(texto), std::string(titulo), Icono::Exclamacion});
+    anfitrion.Avisa({std::move(texto), std::string(titulo), Icono::Exclamacion});
 }
 
-void Informa(const Siro& s, std::string texto)
+void Informa(const Anfitrion& anfitrion, std::string texto)
 {
-    s.Anfitrion.Avisa({std::move(texto), {}, Icono::Ninguno});
+    anfitrion.Avisa({std::move(texto), {}, Icono::Ninguno});
 }
 
-bool Consulta(const Siro& s, std::string texto, std::string_view titulo, std::string repetida)
+bool Consulta(const Anfitrion& anfitrion, std::string texto, std::string_view titulo, std::string repetida)
 {
-    return s.Anfitrion.Pregunta(
+    return anfitrion.Pregunta(
         {std::move(texto), std::string(titulo), Icono::Exclamacion, std::move(repetida)});
 }
 

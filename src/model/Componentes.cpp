@@ -240,7 +240,7 @@ class Carga {
         return Sentencia(std::forward<F>(cuerpo), [&](const Falla& falla) {
             if (TerminaLaCarga(falla)) throw falla;
             s.Control.CargaFallida = true;
-            Informa(s, TextoFallaArchivo(falla));
+            AvisaArchivo(s)(falla);
         });
     }
     static bool TerminaLaCarga(const Falla& falla)
@@ -485,9 +485,7 @@ bool ReemplazaArchivos(Siro& s, std::vector<CambioArchivo>& escritos)
     auto uehs = ArchivoUEHs(s), vertices = ArchivoVerCau(s);
     if (!uehs || !vertices) return false;
     std::vector<CambioArchivo> cambios{std::move(*uehs), std::move(*vertices)};
-    if (!Sentencia([&] { s.Disco.Reemplaza(cambios); },
-                   [&](const Falla& falla) { Informa(s, TextoFallaArchivo(falla)); }))
-        return false;
+    if (!Sentencia([&] { s.Disco.Reemplaza(cambios); }, AvisaArchivo(s))) return false;
     escritos = std::move(cambios);
     return true;
 }
@@ -505,8 +503,8 @@ bool BorraArchivos(Siro& s)
         s.Disco.Borra(Compone(s, SufijoVerCau));
     } catch (const Falla& falla) {
         if (falla.numero == NumeroFalla::ArchivoNoEsta) return true;
-        Informa(s, TextoFallaArchivo(falla));
-        if (borrado) Sentencia([&] { s.Disco.Reemplaza({*borrado}); }, [](const Falla&) {});
+        AvisaArchivo(s)(falla);
+        if (borrado) Sentencia([&] { s.Disco.Reemplaza({*borrado}); });
         return false;
     }
     return true;
@@ -594,7 +592,7 @@ void ReleeUEHs(Siro& s)
             leidos.push_back({ruta, s.Disco.Lee(ruta)});
         } catch (const Falla& falla) {
             if (falla.numero == NumeroFalla::ArchivoNoEsta) break;
-            Informa(s, TextoFallaArchivo(falla));
+            AvisaArchivo(s)(falla);
             return RenumeraComponentes(s);
         }
     }
@@ -612,17 +610,17 @@ void RenumeraComponentes(Siro& s)
 
 bool EscribeRed(Siro& s, std::vector<CambioArchivo>& escritos)
 {
-    const auto informa = [&](const Falla& falla) { Informa(s, TextoFallaArchivo(falla)); };
     const auto cauces = s.Red.ColCauces;
     const std::int16_t nroCauces = s.Red.NroCauces;
     escritos.clear();
-    Sentencia([&] { CalculaOrdenCauces(s); }, informa);
+    Sentencia([&] { CalculaOrdenCauces(s); }, AvisaArchivo(s));
     if (SinComponentes(s)) {
         if (!s.Control.CargaFallida) return BorraArchivos(s);
         Advierte(s, std::string(AvisoNoSeBorra));
         return false;
     }
-    const bool contados = Sentencia([&] { s.Red.NroCauces = Entero16(s.Red.ColCauces.Cuenta()); }, informa);
+    const bool contados =
+        Sentencia([&] { s.Red.NroCauces = Entero16(s.Red.ColCauces.Cuenta()); }, AvisaArchivo(s));
     if (contados && ReemplazaArchivos(s, escritos)) return true;
     s.Red.ColCauces = cauces;
     s.Red.NroCauces = nroCauces;

@@ -9,6 +9,7 @@
 
 #include "model/Avisos.h"
 #include "model/RestosDeReemplazo.h"
+#include "model/Siro.h"
 #include "model/VidaProyecto.h"
 
 namespace model {
@@ -25,24 +26,19 @@ constexpr std::string_view AvisoEntrega =
 /// Folders of what is delivered, the root first.
 constexpr auto CarpetasEntregadas = std::to_array<std::string_view>({"", "Proyectos", CarpetaDeAyuda});
 
-bool Intenta(const std::function<void()>& cuerpo)
-{
-    return Sentencia(cuerpo, [](const Falla&) {});
-}
-
 bool SePuedeEscribir(const Disco& disco, const std::string& directorio)
 {
     const std::string prueba = Ruta(directorio, ArchivoDePrueba);
-    if (!Intenta([&] { disco.Escribe(prueba, ""); })) return false;
+    if (!Sentencia([&] { disco.Escribe(prueba, ""); })) return false;
     // Gone already where another program that starts at the same time has tried the same.
-    Intenta([&] { disco.Borra(prueba); });
+    Sentencia([&] { disco.Borra(prueba); });
     return true;
 }
 
 bool Esta(const Disco& disco, const std::string& directorio, std::string_view nombre)
 {
     bool esta = false;
-    Intenta([&] {
+    Sentencia([&] {
         const auto nombres = disco.Lista(directorio);
         esta = std::find(nombres.begin(), nombres.end(), nombre) != nombres.end();
     });
@@ -55,14 +51,14 @@ void CreaCamino(const Disco& disco, const std::string& directorio)
     if (directorio.empty() || disco.HayDirectorio(directorio)) return;
     const std::size_t separador = directorio.rfind(Separador);
     if (separador != std::string::npos) CreaCamino(disco, directorio.substr(0, separador));
-    Intenta([&] { disco.CreaDirectorio(directorio); });
+    Sentencia([&] { disco.CreaDirectorio(directorio); });
 }
 
 /// Removes what a copy that was cut short has left. A save that was cut short waits for the opening of its
 /// project, which tells.
 void QuitaRestosDeCopia(const Disco& disco, const std::string& directorio)
 {
-    Intenta([&] {
+    Sentencia([&] {
         const auto nombres = disco.Lista(directorio);
         const auto esLista = [](const std::string& nombre) {
             const auto resto = LeeNombreResto(nombre);
@@ -84,11 +80,11 @@ bool CopiaLoQueFalta(const Disco& disco, const std::string& origen, const std::s
     CreaCamino(disco, destino);
     QuitaRestosDeCopia(disco, destino);
     bool todo = true;
-    const bool listado = Intenta([&] {
+    const bool listado = Sentencia([&] {
         const auto propios = disco.Lista(destino);
         for (const std::string& nombre : entregados)
             if (std::find(propios.begin(), propios.end(), nombre) == propios.end())
-                todo = Intenta([&] { disco.Copia(Ruta(origen, nombre), Ruta(destino, nombre)); }) && todo;
+                todo = Sentencia([&] { disco.Copia(Ruta(origen, nombre), Ruta(destino, nombre)); }) && todo;
     });
     return listado && todo;
 }
@@ -97,7 +93,7 @@ bool CopiaLoQueFalta(const Disco& disco, const std::string& origen, const std::s
 void Entrega(const Disco& disco, const std::string& dirEntregado, const std::string& directorio)
 {
     const std::string marca = Ruta(directorio, MarcaDeEntrega);
-    Intenta([&] { disco.Escribe(marca, ""); });
+    Sentencia([&] { disco.Escribe(marca, ""); });
     bool todo = true;
     for (const std::string_view carpeta : CarpetasEntregadas) {
         const bool raiz = carpeta.empty();
@@ -105,7 +101,7 @@ void Entrega(const Disco& disco, const std::string& dirEntregado, const std::str
                                           raiz ? directorio : Ruta(directorio, carpeta));
         todo = toda && todo;
     }
-    if (todo) Intenta([&] { disco.Borra(marca); });
+    if (todo) Sentencia([&] { disco.Borra(marca); });
 }
 
 /// Where an installation puts the data beside the programs.
@@ -193,12 +189,12 @@ void RenuevaAyuda(const Disco& disco, const std::string& dirTrabajo, const std::
     const std::string destino = Ruta(dirTrabajo, CarpetaDeAyuda);
     if (!disco.HayDirectorio(origen) || !disco.HayDirectorio(destino)) return;
     QuitaRestosDeCopia(disco, destino);
-    Intenta([&] {
+    Sentencia([&] {
         for (const std::string& nombre : disco.Lista(origen)) {
             const std::string entregada = Ruta(origen, nombre), propia = Ruta(destino, nombre);
             bool igual = false;
-            Intenta([&] { igual = disco.Lee(propia) == disco.Lee(entregada); });
-            if (!igual) Intenta([&] { disco.Copia(entregada, propia); });
+            Sentencia([&] { igual = disco.Lee(propia) == disco.Lee(entregada); });
+            if (!igual) Sentencia([&] { disco.Copia(entregada, propia); });
         }
     });
 }

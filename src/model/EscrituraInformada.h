@@ -57,7 +57,7 @@ class EscrituraInformada {
     void Atiende(const Falla& falla)
     {
         if (falla.numero == sinAviso) return;
-        Informa(s, TextoFallaArchivo(falla));
+        AvisaArchivo(s)(falla);
         sigue = false;
     }
     const Siro& s;

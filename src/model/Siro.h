@@ -63,6 +63,9 @@ struct Siro {
     model::Hietograma Hietograma{};
     model::Resultados Resultados{};
     model::Control Control{};
+
+    /// A routine that only tells or asks something takes the host alone.
+    operator const model::Anfitrion&() const { return Anfitrion; }
 };
 
 }  // namespace model

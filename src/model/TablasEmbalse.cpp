@@ -61,11 +61,6 @@ constexpr ArchivoTabla<Lago, MaxLagos> ArchivoLHASQ{"_LHASQ.vlm",      &Red::Col
                                                     &Lago::NombreLAGO, &Lago::numLAGO, &Red::LagoFilas,
                                                     ColumnasLHASQ};
 
-void InformaFalla(const Siro& s, const Falla& falla)
-{
-    Informa(s, TextoFallaArchivo(falla));
-}
-
 /// Goes to the project's directory as far as a program does that composes its paths.
 void VaADirectorio(const Siro& s)
 {
@@ -77,7 +72,7 @@ template <typename T, int Limite>
 std::string Compone(Siro& s, const ArchivoTabla<T, Limite>& archivo)
 {
     Sentencia([&] { s.Red.*archivo.cuenta = Entero16((s.Red.*archivo.coleccion).Cuenta()); },
-              [&](const Falla& falla) { InformaFalla(s, falla); });
+              AvisaArchivo(s));
     s.Proyecto.ArchivoTemp = s.Proyecto.NombreProyecto + std::string(archivo.sufijo);
     return Ruta(s.Proyecto.DirProyecto, s.Proyecto.ArchivoTemp);
 }
@@ -115,12 +110,10 @@ class Registros {
         : lector(std::move(bytes)), porRegistro(camposPorRegistro)
     {
         // A field that no reader takes ends the file, as it does for whoever reads it.
-        Sentencia(
-            [&] {
-                while (sinCabecera <= MaximoFilas && hallazgos.size() < MaximoFilas && Mira()) {
-                }
-            },
-            [](const Falla&) {});
+        Sentencia([&] {
+            while (sinCabecera <= MaximoFilas && hallazgos.size() < MaximoFilas && Mira()) {
+            }
+        });
     }
     Registros(const Registros&) = delete;
     Registros& operator=(const Registros&) = delete;
@@ -130,7 +123,7 @@ class Registros {
     {
         for (const Hallazgo& hallazgo : hallazgos) {
             if (hallazgo.falla) {
-                InformaFalla(s, *hallazgo.falla);
+                AvisaArchivo(s)(*hallazgo.falla);
             } else if (hallazgo.marcador == marcador) {
                 return &hallazgo;
             }
@@ -192,7 +185,7 @@ class LecturaTabla {
     LecturaTabla(Siro& unSiro, const ArchivoTabla<T, Limite>& unArchivo)
         : s(unSiro), archivo(unArchivo), ruta(Compone(unSiro, unArchivo))
     {
-        Sentencia([&] { VaADirectorio(s); }, [&](const Falla& falla) { InformaFalla(s, falla); });
+        Sentencia([&] { VaADirectorio(s); }, AvisaArchivo(s));
         for (const T& componente : s.Red.*archivo.coleccion)
             mayorNumero = std::max(mayorNumero, int{componente.*archivo.numero});
         (s.Red.*archivo.filas).Dimensiona(mayorNumero);
@@ -231,8 +224,8 @@ class LecturaTabla {
                       apertura =
                           falla.numero == NumeroFalla::ArchivoNoEsta ? Apertura::NoEsta : Apertura::EnFalla;
                       if (apertura == Apertura::NoEsta) return;
-                      InformaFalla(s, falla);
-                      InformaFalla(s, falla);
+                      AvisaArchivo(s)(falla);
+                      AvisaArchivo(s)(falla);
                   });
         return apertura;
     }
@@ -278,7 +271,7 @@ class LecturaTabla {
     {
         return Sentencia(std::forward<F>(cuerpo), [&](const Falla& falla) {
             if (falla.numero == NumeroFalla::FinDeArchivo) throw falla;
-            InformaFalla(s, falla);
+            AvisaArchivo(s)(falla);
         });
     }
 
@@ -391,12 +384,10 @@ std::string NombreDeArchivo(const Siro& s, ArchivoDeTablas archivo)
 std::vector<BloqueDeTabla> BloquesDe(const Siro& s, ArchivoDeTablas archivo)
 {
     std::vector<BloqueDeTabla> bloques;
-    Sentencia(
-        [&] {
-            bloques = Bloques(s.Disco.Lee(Ruta(s.Proyecto.DirProyecto, NombreDeArchivo(s, archivo))),
-                              CamposPorRegistro(archivo));
-        },
-        [](const Falla&) {});
+    Sentencia([&] {
+        bloques = Bloques(s.Disco.Lee(Ruta(s.Proyecto.DirProyecto, NombreDeArchivo(s, archivo))),
+                          CamposPorRegistro(archivo));
+    });
     return bloques;
 }
 

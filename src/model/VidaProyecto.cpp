@@ -185,7 +185,7 @@ void AbreRuta(Siro& s, std::string_view ruta)
     RecuperaGuardado(s, s.Proyecto.DirProyecto);
     // The labels come before the configuration and so show the earlier titles: kept as it stands. A pointer
     // that can't be written keeps no project from being opened.
-    Sentencia([&] { carga_lbl_proyecto(s); }, [](const Falla&) {});
+    Sentencia([&] { carga_lbl_proyecto(s); });
     LeeConfReclamada(s);
     s.Anfitrion.HabilitaGuardarComo();
 }
@@ -214,7 +214,7 @@ void LeePuntero(Siro& s)
     } catch (const Falla&) {
         s.Proyecto.DirProyecto = ProyectosPorDefecto(s);
         s.Proyecto.NombreProyecto.clear();
-        Sentencia([&] { GuardaPuntero(s); }, [](const Falla&) {});
+        Sentencia([&] { GuardaPuntero(s); });
     }
 }
 
@@ -242,13 +242,11 @@ void RecuperaGuardado(const Siro& s, const std::string& directorio)
             lista.append(lista.empty() ? "" : ", ").append(nombre);
         if (!nombres.empty()) Advierte(s, std::string(texto) + lista);
     };
-    Sentencia(
-        [&] {
-            const Recuperacion hecha = s.Disco.Recupera(directorio);
-            avisa(Completado1, hecha.completados);
-            avisa(Pendiente1, hecha.pendientes);
-        },
-        [](const Falla&) {});  // whoever opens the folder next will meet it
+    Sentencia([&] {
+        const Recuperacion hecha = s.Disco.Recupera(directorio);
+        avisa(Completado1, hecha.completados);
+        avisa(Pendiente1, hecha.pendientes);
+    });  // whoever opens the folder next will meet it
 }
 
 void LimpiaProyecto(Siro& s)
@@ -343,7 +341,7 @@ void mnu_ultimoarchivo1(Siro& s)
     LimpiaProyecto(s);
     RecuperaGuardado(s, s.Proyecto.DirProyecto);
     LeeConfReclamada(s);
-    Sentencia([&] { carga_lbl_proyecto(s); }, [](const Falla&) {});
+    Sentencia([&] { carga_lbl_proyecto(s); });
     if (!s.Proyecto.NombreProyecto.empty()) s.Anfitrion.HabilitaGuardarComo();
 }
 
@@ -376,7 +374,7 @@ void dlgEliminarProyecto::Abre(const Siro& s)
 {
     *this = {};
     DirProyecto = s.Proyecto.DirProyecto;
-    Sentencia([&] { filProyectoEliminar = s.Disco.Lista(s.Proyecto.DirProyecto); }, [](const Falla&) {});
+    Sentencia([&] { filProyectoEliminar = s.Disco.Lista(s.Proyecto.DirProyecto); });
     std::erase_if(filProyectoEliminar, [](const std::string& n) { return !n.ends_with(TerminacionConf); });
 }
 

@@ -125,9 +125,7 @@ bool Abre(dlgImportaTormenta& f, const model::Siro& s)
     const std::string ruta = s.Anfitrion.EligeArchivo(TituloElige, FiltroRegistro);
     if (ruta.empty()) return false;
     std::string bytes;
-    const bool leido = model::Sentencia(
-        [&] { bytes = s.Disco.Lee(ruta); },
-        [&](const model::Falla& falla) { model::Informa(s, model::TextoFallaArchivo(falla)); });
+    const bool leido = model::Sentencia([&] { bytes = s.Disco.Lee(ruta); }, model::AvisaArchivo(s));
     if (!leido) return false;
     f.registro = LeeRegistroLluvia(bytes);
     if (!f.registro.motivo.empty()) {

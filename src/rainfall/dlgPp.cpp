@@ -176,7 +176,7 @@ void RecuerdaCampos(dlgPp& f)
 void LlenaFilePpReal(dlgPp& f, const Siro& s)
 {
     f.FilePpReal.items.clear();
-    model::Sentencia([&] { f.FilePpReal.items = model::ListaTormentas(s); }, [](const model::Falla&) {});
+    model::Sentencia([&] { f.FilePpReal.items = model::ListaTormentas(s); });
 }
 
 /// Selects the item of the storm's name, or the first, whose name then is the storm's.
@@ -393,7 +393,7 @@ bool AlSalir(dlgPp& f, const Siro& s, const CampoPp& campo, Toma&& toma)
     texto = model::ComasAPuntos(texto);
     const bool vacio = texto.find_first_not_of(' ') == std::string::npos;
     const std::optional<double> x = vacio ? 0 : forms::NumeroDeCampo(texto);
-    if (x) model::Sentencia([&] { toma(*x); }, [](const model::Falla&) {});
+    if (x) model::Sentencia([&] { toma(*x); });
     if (forms::Vale(campo.regla, texto)) return true;
     forms::MuestraRechazo(s, campo.regla.caja, std::string(campo.regla.mensaje));
     if (!campo.regla.alRechazar.empty()) texto = campo.regla.alRechazar;
@@ -496,7 +496,7 @@ bool Otro(const std::string& texto, const std::string& mostrado, T enUso, Toma t
 {
     if (texto == mostrado) return false;
     bool otro = true;
-    model::Sentencia([&] { otro = toma(Val(texto)) != enUso; }, [](const model::Falla&) {});
+    model::Sentencia([&] { otro = toma(Val(texto)) != enUso; });
     return otro;
 }
 

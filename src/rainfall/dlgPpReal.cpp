@@ -79,7 +79,7 @@ bool Escritura(const dlgPpReal& f, const Siro& s, Cuerpo&& cuerpo)
         if (falla.numero == model::NumeroFalla::ArchivoNoEsta)
             Advierte(s, std::string(NoSeEncuentra).append(f.tormenta.nombre), TituloError);
         else
-            model::Informa(s, model::TextoFallaArchivo(falla));
+            model::AvisaArchivo(s)(falla);
     });
 }
 
@@ -217,7 +217,7 @@ void LlenaLista(dlgPpReal& f, const Siro& s)
 {
     auto& [items, indice] = f.FilePpReal;
     items.clear();
-    model::Sentencia([&] { f.FilePpReal.items = model::ListaTormentas(s); }, [](const model::Falla&) {});
+    model::Sentencia([&] { f.FilePpReal.items = model::ListaTormentas(s); });
     const auto lugar = std::find(items.begin(), items.end(), f.tormenta.nombre);
     indice = lugar == items.end() ? -1 : static_cast<int>(lugar - items.begin());
 }

@@ -352,7 +352,7 @@ forms::Grafico Vista(const dlgTablasPDRs& f, const Siro& s)
         const auto d = forms::NumeroDeCampo(g.Texto({fila, ColumnaD}));
         if (p && d && *p > 0 && *d > 0) {
             // A number outside its type is told when the table is applied.
-            model::Sentencia([&] { grafico = Hietograma(Ensayo(s, *p, *d)); }, [](const model::Falla&) {});
+            model::Sentencia([&] { grafico = Hietograma(Ensayo(s, *p, *d)); });
             grafico.titulo = "P= " + g.Texto({fila, ColumnaP}) + " mm   D= " + g.Texto({fila, ColumnaD}) +
                              " min   R= " + g.Texto({fila, ColumnaR}) + " años";
         }

@@ -9,6 +9,7 @@
 
 #include "engine/mdlProceso1.h"
 #include "engine/modDistriPp.h"
+#include "forms/Evento.h"
 #include "model/Avisos.h"
 #include "model/Numeros.h"
 #include "results/EjeTiempo.h"
@@ -16,6 +17,7 @@
 
 namespace results {
 
+using forms::Evento;
 using forms::Grafico;
 using forms::Serie;
 using forms::TipoGrafico;
@@ -217,14 +219,6 @@ void Dibuja(dlgChart2& f, const Siro& s, std::int16_t N, std::int16_t paso)
 void AcotaIndComp(Siro& s)
 {
     if (s.Control.IndComp < 1 || s.Control.IndComp > s.Resultados.NroComponentes) s.Control.IndComp = 1;
-}
-
-template <typename Cuerpo>
-bool Evento(const Siro& s, Cuerpo&& cuerpo)
-{
-    return model::Sentencia(std::forward<Cuerpo>(cuerpo), [&](const model::Falla& falla) {
-        model::Informa(s, model::TextoFallaMotor(falla));
-    });
 }
 
 /// Runs the storm in hand over the network in memory.

@@ -132,8 +132,7 @@ void GuardaTexto(const frmPp& f, const Siro& s)
 {
     const std::string ruta = s.Anfitrion.EligeDestino(TituloGuardaPizarra, FiltroTexto, NombrePizarra);
     if (ruta.empty()) return;
-    model::Sentencia([&] { s.Disco.Escribe(ruta, model::AWindows1252(f.Text1)); },
-                     [&](const model::Falla& falla) { model::Informa(s, model::TextoFallaArchivo(falla)); });
+    model::Sentencia([&] { s.Disco.Escribe(ruta, model::AWindows1252(f.Text1)); }, model::AvisaArchivo(s));
 }
 
 void AbreBusqueda(frmPp& f, std::string_view seleccionado)

@@ -117,7 +117,7 @@ void carga_lbl_proyecto(MDIForm1& f, Siro& s)
     // The first name lacks the "s" of the file on disk: kept as it stands.
     f.Texto("lblFilesTrabajo") =
         s.Proyecto.NombreProyecto + "_UEH.vlm\r" + s.Proyecto.NombreProyecto + "_VerCau.vlm";
-    model::Sentencia([&] { model::GuardaPuntero(s); }, [](const model::Falla&) {});
+    model::Sentencia([&] { model::GuardaPuntero(s); });
 }
 
 bool RotuloCrece(double x, double y)
@@ -131,7 +131,7 @@ bool RotuloCrece(double x, double y)
 
 void Cierra(Siro& s)
 {
-    model::Sentencia([&] { model::GuardaPuntero(s); }, [](const model::Falla&) {});
+    model::Sentencia([&] { model::GuardaPuntero(s); });
     s.Anfitrion.Termina();
 }
 
@@ -259,7 +259,7 @@ void mnuHidrogramas(MDIForm1& /*f*/, Siro& s, const Mandos& m)
 void mnuHelpContents(MDIForm1& /*f*/, Siro& s, const Mandos& m)
 {
     const auto informa = [&](const model::Falla& falla) {
-        model::Informa(s, model::TextoFallaMotor(falla));
+        model::AvisaMotor(s)(falla);
         s.Anfitrion.Termina();
     };
     model::Sentencia([&] { AbreAyuda(s, m); }, informa);

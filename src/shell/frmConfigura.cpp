@@ -103,8 +103,7 @@ void ListaLosDe(frmConfigura& f, const Siro& s, const std::string& directorio)
 /// A directory that has gone lists nothing.
 void Relista(frmConfigura& f, const Siro& s)
 {
-    const bool listado =
-        model::Sentencia([&] { ListaLosDe(f, s, s.frmConfigura.Dir1); }, [](const Falla&) {});
+    const bool listado = model::Sentencia([&] { ListaLosDe(f, s, s.frmConfigura.Dir1); });
     if (!listado) f.filArchivoConfigura = f.filArchivoImagenDib = {};
 }
 
@@ -141,7 +140,7 @@ std::string RutaConf(const Siro& s, const std::string& directorio)
 double EscalaBase(const Siro& s)
 {
     std::int32_t base = 0;
-    model::Sentencia([&] { base = model::Entero32(Val(s.Configuracion.MaxUEHsPixel)); }, [](const Falla&) {});
+    model::Sentencia([&] { base = model::Entero32(Val(s.Configuracion.MaxUEHsPixel)); });
     constexpr double PorDefecto = 800;
     return base > 0 ? base : PorDefecto;
 }
@@ -268,7 +267,7 @@ void Abre(frmConfigura& f, Siro& s)
     if (s.Proyecto.ProyectoNuevo) {
         OKButton(f, s);
         f.SSTab1 = FichaImagen;
-        model::Sentencia([&] { ListaLosDe(f, s, s.Proyecto.DirProyectoConf); }, [](const Falla&) {});
+        model::Sentencia([&] { ListaLosDe(f, s, s.Proyecto.DirProyectoConf); });
         const auto& items = f.filArchivoConfigura.items;
         const auto lugar = std::find(items.begin(), items.end(), ArchivoConf(s));
         f.filArchivoConfigura.indice = lugar == items.end() ? -1 : static_cast<int>(lugar - items.begin());
@@ -383,7 +382,7 @@ void filArchivoConfigura_Click(frmConfigura& f, Siro& s)
     f.lblnombreproyecto = s.Proyecto.NombreProyecto;
     Relista(f, s);
     // A pointer that can't be written keeps no project from being loaded.
-    model::Sentencia([&] { model::carga_lbl_proyecto(s); }, [](const Falla&) {});
+    model::Sentencia([&] { model::carga_lbl_proyecto(s); });
     Informa(s, std::string(Cargado1).append(archivo).append(Cargado2).append(s.Proyecto.NombreProyecto));
 }
 
@@ -411,12 +410,10 @@ namespace {
 bool Esta(const Siro& s, const std::string& directorio, std::string_view nombre)
 {
     bool esta = false;
-    model::Sentencia(
-        [&] {
-            const auto nombres = s.Disco.Lista(directorio);
-            esta = std::find(nombres.begin(), nombres.end(), nombre) != nombres.end();
-        },
-        [](const Falla&) {});
+    model::Sentencia([&] {
+        const auto nombres = s.Disco.Lista(directorio);
+        esta = std::find(nombres.begin(), nombres.end(), nombre) != nombres.end();
+    });
     return esta;
 }
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "apoyo/AnfitrionPrueba.h"
+#include "model/Siro.h"
 
 using apoyo::Suceso;
 using namespace model;
@@ -60,6 +61,21 @@ TEST_F(Avisos, SentenciaInformaLaFallaYDejaSeguir)
     EXPECT_TRUE(Sentencia([&] { ++hechas; }, informa));
     EXPECT_EQ(hechas, 2);
     EXPECT_EQ(informadas, std::vector<Falla>{{NumeroFalla::Tipos}});
+}
+
+// A statement at fault, the words of its handler, what the box says: nothing, where there are no words.
+TEST_F(Avisos, ElManejadorDiceLaFallaConSusPalabras)
+{
+    const Falla falla{NumeroFalla::DivisionPorCero};
+    const auto falsa = [&] { throw falla; };
+    EXPECT_FALSE(Sentencia(falsa));
+    EXPECT_TRUE(anfitrion->Avisos().empty());
+    EXPECT_FALSE(Sentencia(falsa, AvisaMotor(s)));
+    EXPECT_FALSE(Sentencia(falsa, AvisaArchivo(s)));
+    EXPECT_TRUE(Sentencia([] {}, AvisaArchivo(s)));
+    EXPECT_EQ(anfitrion->Avisos(),
+              (std::vector<Mensaje>{{"Error Nro. 11 ,División por ceroVerifique", "", Icono::Ninguno},
+                                    {"Error Nro. 11División por cero ,Verifique", "", Icono::Ninguno}}));
 }
 
 TEST_F(Avisos, SentenciaNoDetieneElFinDelPrograma)

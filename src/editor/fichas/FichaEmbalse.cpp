@@ -82,8 +82,7 @@ void LlevaTablas(FichaEmbalse& f, const model::Siro& s, const TablasDeEmbalse& t
         if (alguna)
             f.lblTablas = "Las tablas llevan ahora el nombre «" + nombre + "»: guarde la red en el editor.";
     };
-    model::Sentencia(lleva,
-                     [&](const model::Falla& falla) { model::Informa(s, model::TextoFallaArchivo(falla)); });
+    model::Sentencia(lleva, model::AvisaArchivo(s));
 }
 
 void CierraConSeleccion(FichaEmbalse& f, model::Siro& s)
