@@ -161,7 +161,7 @@ QPushButton* BotonDe(const char* nombre, const char* leyenda, const char* ayuda,
 }  // namespace
 
 frmUEHs_ventana::frmUEHs_ventana(forms::Entorno& alrededor, frmUEHs& reglas, QWidget* padre)
-    : Ventana(alrededor, "frmUEHs", padre), f(reglas)
+    : Ventana(alrededor, {"frmUEHs"}, padre), f(reglas)
 {
     setWindowFlag(Qt::Window);
     setWindowTitle(Q(TituloFrmUEHs));
@@ -306,7 +306,7 @@ QWidget* frmUEHs_ventana::HazMandos()
     connect(ScrEscalaVer, &QScrollBar::valueChanged, this,
             [this](int valor) { Hace([this, valor] { ScrEscalaVer_Mueve(f, entorno.s, valor); }); });
 
-    lblEscala = Rotulo("lblEscala");
+    lblEscala = editor::Rotulo("lblEscala");
     lblEscala->setMinimumWidth(lblEscala->fontMetrics().horizontalAdvance(QStringLiteral("1000 %")));
     auto* const mandos = new QWidget;
     auto* const fila = new QHBoxLayout(mandos);
@@ -319,11 +319,11 @@ QWidget* frmUEHs_ventana::HazMandos()
 
 QWidget* frmUEHs_ventana::HazPie()
 {
-    lblIndicacion = Rotulo("lblIndicacion");
-    lblEstado = Rotulo("lblEstado");
-    lblLongArea = Rotulo("lblLongArea");
-    lblX = Rotulo("lblX");
-    lblY = Rotulo("lblY");
+    lblIndicacion = editor::Rotulo("lblIndicacion");
+    lblEstado = editor::Rotulo("lblEstado");
+    lblLongArea = editor::Rotulo("lblLongArea");
+    lblX = editor::Rotulo("lblX");
+    lblY = editor::Rotulo("lblY");
     for (QLabel* rotulo : {lblX, lblY}) {
         rotulo->setMinimumWidth(rotulo->fontMetrics().horizontalAdvance(QStringLiteral("-00000.00")));
         rotulo->setAlignment(Qt::AlignRight);

@@ -64,7 +64,7 @@ QGroupBox* Marco(std::string_view titulo, const char* nombre)
 }  // namespace
 
 dlgEmpiricas_ventana::dlgEmpiricas_ventana(forms::Entorno& alrededor, dlgEmpiricas& registro, QWidget* padre)
-    : Ventana(alrededor, "dlgEmpiricas", padre), f(registro)
+    : Ventana(alrededor, {"dlgEmpiricas"}, padre), f(registro)
 {
     setWindowTitle(Q(TituloDlgEmpiricas));
     cmdCopiar = new QPushButton(QStringLiteral("Copiar &todo"));
@@ -121,7 +121,7 @@ void dlgEmpiricas_ventana::PonCampo(QGridLayout& rejilla, std::size_t cual)
 
 QGroupBox* dlgEmpiricas_ventana::ConstruyeDatosQp()
 {
-    QGroupBox* const marco = Marco(MarcoDatosQp, "marcoDatosQp");
+    QGroupBox* const marco = empirical::Marco(MarcoDatosQp, "marcoDatosQp");
     QGridLayout* const rejilla = Rejilla(*marco);
     PonCampo(*rejilla, 0);
     rejilla->setColumnStretch(0, 1);
@@ -130,7 +130,7 @@ QGroupBox* dlgEmpiricas_ventana::ConstruyeDatosQp()
 
 QGroupBox* dlgEmpiricas_ventana::ConstruyeDatosTc()
 {
-    QGroupBox* const marco = Marco(MarcoDatosTc, "marcoDatosTc");
+    QGroupBox* const marco = empirical::Marco(MarcoDatosTc, "marcoDatosTc");
     QGridLayout* const rejilla = Rejilla(*marco);
     lblSup = new QLabel;
     lblSup->setObjectName(QStringLiteral("lblSup"));
@@ -148,7 +148,7 @@ QGroupBox* dlgEmpiricas_ventana::ConstruyeDatosTc()
 
 QGroupBox* dlgEmpiricas_ventana::ConstruyeTc()
 {
-    QGroupBox* const marco = Marco(MarcoTc, "marcoTc");
+    QGroupBox* const marco = empirical::Marco(MarcoTc, "marcoTc");
     QGridLayout* const rejilla = Rejilla(*marco);
     const auto formulas = FormulasTc();
     for (std::size_t k = 0; k < formulas.size(); ++k) {
@@ -174,7 +174,7 @@ QGroupBox* dlgEmpiricas_ventana::ConstruyeTc()
 
 QGroupBox* dlgEmpiricas_ventana::ConstruyeQp()
 {
-    QGroupBox* const marco = Marco(MarcoQp, "marcoQp");
+    QGroupBox* const marco = empirical::Marco(MarcoQp, "marcoQp");
     QGridLayout* const rejilla = Rejilla(*marco);
     rejilla->addWidget(Leyenda(LineaQp, ""), 0, 0, 1, 3);
     const auto formulas = FormulasQp();

@@ -3,7 +3,6 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QKeyEvent>
 #include <QMdiSubWindow>
 #include <string>
 #include <utility>
@@ -76,22 +75,18 @@ void MarcaTitulo(QWidget& ventana, bool conTrabajo)
     if (!conTrabajo) ventana.setWindowTitle(titulo.remove(marca));
 }
 
-bool Sucesos::AtiendeF1(const QWidget& ventana, QEvent& evento)
+Formulario::Formulario(Entorno& alrededor, const DescripcionDeVentana& descripcion, QWidget* padre)
+    : QDialog(padre), Constructor(alrededor, descripcion.rotulos)
 {
-    const bool esTecla = evento.type() == QEvent::KeyPress;
-    if (!esTecla && evento.type() != QEvent::ShortcutOverride) return false;
-    const auto& tecla = static_cast<const QKeyEvent&>(evento);
-    if (tecla.key() != Qt::Key_F1 || tecla.modifiers() != Qt::NoModifier) return false;
-    evento.accept();  // of the two, the first keeps the main window's shortcut from taking the key
-    if (esTecla && !tecla.isAutoRepeat())
-        entorno.Atiende([&] { entorno.AbreAyuda(DeQ(ventana.objectName())); });
-    return true;
+    setObjectName(Q(descripcion.nombre));
+    setWindowTitle(Q(descripcion.titulo));
 }
 
-Formulario::Formulario(Entorno& alrededor, std::string_view nombre, QWidget* padre)
-    : QDialog(padre), Sucesos(alrededor)
+void Formulario::Muestra()
 {
-    setObjectName(Q(nombre));
+    Constructor::Muestra();
+    LlevaFoco(*this);
+    if (SeCerro() && isVisible()) done(QDialog::Accepted);
 }
 
 void Formulario::reject()
@@ -138,10 +133,17 @@ void Formulario::hideEvent(QHideEvent* evento)
     QDialog::hideEvent(evento);
 }
 
-Ventana::Ventana(Entorno& alrededor, std::string_view nombre, QWidget* padre)
-    : QWidget(padre), Sucesos(alrededor)
+Ventana::Ventana(Entorno& alrededor, const DescripcionDeVentana& descripcion, QWidget* padre)
+    : QWidget(padre), Constructor(alrededor, descripcion.rotulos)
 {
-    setObjectName(Q(nombre));
+    setObjectName(Q(descripcion.nombre));
+    setWindowTitle(Q(descripcion.titulo));
+}
+
+void Ventana::Muestra()
+{
+    Constructor::Muestra();
+    if (SeCerro() && isVisible()) close();
 }
 
 bool Ventana::event(QEvent* evento)

@@ -30,7 +30,7 @@ int Cuenta(const std::vector<Recogido>& recogidos)
 }  // namespace
 
 ListaDeAvisos::ListaDeAvisos(Entorno& alrededor, const std::vector<Recogido>& recogidos, QWidget* padre)
-    : Formulario(alrededor, "ListaDeAvisos", padre), texto(ComoTexto(recogidos))
+    : Formulario(alrededor, {"ListaDeAvisos"}, padre), texto(ComoTexto(recogidos))
 {
     setWindowTitle(QStringLiteral("Mensajes de la orden"));
     auto* const pila = new QVBoxLayout(this);

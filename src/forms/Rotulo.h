@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <span>
+#include <string>
 #include <string_view>
 
 namespace forms {
@@ -30,6 +31,13 @@ constexpr FilaRotulo RotuloDe(std::span<const FilaRotulo> tabla, std::string_vie
 {
     const std::size_t i = LugarDe(tabla, control);
     return i < tabla.size() ? tabla[i] : FilaRotulo{};
+}
+
+/// What stands behind a field: its unit in brackets where the caption doesn't tell one.
+inline std::string UnidadAparte(std::string_view leyenda, std::string_view unidad)
+{
+    if (unidad.empty() || leyenda.find('[') != std::string_view::npos) return {};
+    return "[" + std::string(unidad) + "]";
 }
 
 }  // namespace forms

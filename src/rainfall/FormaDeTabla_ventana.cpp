@@ -13,7 +13,7 @@ namespace rainfall {
 FormaDeTabla_ventana::FormaDeTabla_ventana(forms::Entorno& alrededor, std::string_view nombre,
                                            std::string_view titulo,
                                            std::span<const forms::FilaRotulo> leyendas, QWidget* padre)
-    : Formulario(alrededor, nombre, padre), piezas(*this, leyendas)
+    : Formulario(alrededor, {nombre}, padre), piezas(*this, leyendas)
 {
     setWindowTitle(forms::Q(titulo));
 }
@@ -65,7 +65,7 @@ void FormaDeTabla_ventana::MuestraTabla(const forms::Grafico& vista, forms::Foco
 {
     tabla->Muestra();
     lamina->Muestra(vista);
-    LlevaFoco(*this, foco);
+    rainfall::LlevaFoco(*this, foco);
     AlMostrarse();
     if (!abierta && isVisible()) done(QDialog::Accepted);
 }

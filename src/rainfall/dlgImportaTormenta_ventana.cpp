@@ -19,7 +19,7 @@ using forms::Q;
 
 dlgImportaTormenta_ventana::dlgImportaTormenta_ventana(forms::Entorno& alrededor,
                                                        dlgImportaTormenta& registro, QWidget* padre)
-    : Formulario(alrededor, "dlgImportaTormenta", padre), f(registro)
+    : Formulario(alrededor, {"dlgImportaTormenta"}, padre), f(registro)
 {
     setWindowTitle(Q(TituloDlgImportaTormenta));
     auto* const pila = new QVBoxLayout(this);

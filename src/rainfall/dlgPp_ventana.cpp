@@ -27,11 +27,6 @@ using forms::Q;
 
 namespace {
 
-forms::FilaRotulo Fila(std::string_view control)
-{
-    return forms::RotuloDe(ControlesDlgPp, control);
-}
-
 /// What a form hides keeps its place, so that nothing jumps as the user goes through the forms.
 void ConservaLugar(QWidget& widget)
 {
@@ -45,9 +40,8 @@ void ConservaLugar(QWidget& widget)
 // --- the form's parts ---
 
 dlgPp_ventana::dlgPp_ventana(forms::Entorno& alrededor, dlgPp& registro, QWidget* padre)
-    : Formulario(alrededor, "dlgPp", padre), f(registro)
+    : Formulario(alrededor, {"dlgPp", TituloDlgPp, ControlesDlgPp}, padre), f(registro)
 {
-    setWindowTitle(Q(TituloDlgPp));
     ConectaVentanas();
 
     // Made in reading order, which is the order of the Tab key.
@@ -125,7 +119,7 @@ QWidget* dlgPp_ventana::MarcoDeFormas()
         QFont negrita = rotulo->font();
         negrita.setBold(true);
         rotulo->setFont(negrita);
-        ConservaLugar(*rotulo);
+        rainfall::ConservaLugar(*rotulo);
         grilla->addWidget(rotulo, fila++, 0, 1, -1);
     };
     titulo("Label9_0");
@@ -241,7 +235,7 @@ QLayout* dlgPp_ventana::Validez(QWidget& padre)
     lblDurMin = Toma("lblDurMin", new QLabel(&padre));
     lblDurMax = Toma("lblDurMax", new QLabel(&padre));
     for (QLabel* rotulo : {titulo, lblDurMin, lblDurMax})
-        ConservaLugar(*rotulo);
+        rainfall::ConservaLugar(*rotulo);
 
     const QString texto = titulo->text();
     const QFontMetrics letra(titulo->font());
@@ -306,7 +300,7 @@ T* dlgPp_ventana::Toma(std::string_view control, T* widget)
 QGroupBox* dlgPp_ventana::Marco(std::string_view control)
 {
     auto* const marco = Toma(control, new QGroupBox(Q(Fila(control).leyenda), this));
-    ConservaLugar(*marco);
+    rainfall::ConservaLugar(*marco);
     return marco;
 }
 

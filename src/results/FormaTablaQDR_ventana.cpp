@@ -17,7 +17,7 @@ namespace results {
 FormaTablaQDR_ventana::FormaTablaQDR_ventana(forms::Entorno& alrededor, std::string_view nombre,
                                              std::string_view titulo, FormaTablaQDR& registro, QWidget* antes,
                                              QWidget* padre)
-    : Ventana(alrededor, nombre, padre), f(registro)
+    : Ventana(alrededor, {nombre}, padre), f(registro)
 {
     setWindowTitle(forms::Q(titulo));
     tabla = new VistaQDR(entorno, f.MSFlexGridTablaSaleQDR, titulo);

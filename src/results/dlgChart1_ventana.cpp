@@ -13,7 +13,7 @@ namespace results {
 using forms::Q;
 
 dlgChart1_ventana::dlgChart1_ventana(forms::Entorno& alrededor, dlgChart1& registro, QWidget* padre)
-    : Ventana(alrededor, "dlgChart1", padre), f(registro)
+    : Ventana(alrededor, {"dlgChart1"}, padre), f(registro)
 {
     setWindowTitle(Q(TituloDlgChart1));
     Grafico = new forms::Lamina(entorno, "Grafico", TituloDlgChart1);

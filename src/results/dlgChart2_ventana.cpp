@@ -37,7 +37,7 @@ class Espera {
 }  // namespace
 
 dlgChart2_ventana::dlgChart2_ventana(forms::Entorno& alrededor, dlgChart2& registro, QWidget* padre)
-    : Ventana(alrededor, "dlgChart2", padre), f(registro)
+    : Ventana(alrededor, {"dlgChart2"}, padre), f(registro)
 {
     setWindowTitle(Q(TituloDlgChart2));
     Construye();

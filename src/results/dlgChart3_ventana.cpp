@@ -45,7 +45,7 @@ ListaParaElegir* Lista(const char* nombre, QLabel& leyenda)
 }  // namespace
 
 dlgChart3_ventana::dlgChart3_ventana(forms::Entorno& alrededor, dlgChart3& registro, QWidget* padre)
-    : Ventana(alrededor, "dlgChart3", padre), f(registro)
+    : Ventana(alrededor, {"dlgChart3"}, padre), f(registro)
 {
     setWindowTitle(Q(TituloDlgChart3));
     Construye();
@@ -54,13 +54,13 @@ dlgChart3_ventana::dlgChart3_ventana(forms::Entorno& alrededor, dlgChart3& regis
 
 void dlgChart3_ventana::Construye()
 {
-    lblTitulo = Rotulo("lblTitulo");
+    lblTitulo = results::Rotulo("lblTitulo");
     lblTitulo->setAlignment(Qt::AlignCenter);
     QFont fuerte = font();
     fuerte.setBold(true);
     lblTitulo->setFont(fuerte);
-    lblNota = Rotulo("lblNota");
-    lblNotaVelmir = Rotulo("lblNotaVelmir");
+    lblNota = results::Rotulo("lblNota");
+    lblNotaVelmir = results::Rotulo("lblNotaVelmir");
     Grafico = new forms::Lamina(entorno, "Grafico", TituloDlgChart3);
 
     auto* const centro = new QHBoxLayout;

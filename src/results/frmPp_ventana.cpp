@@ -51,7 +51,7 @@ QFont LetraFija()
 }  // namespace
 
 frmPp_ventana::frmPp_ventana(forms::Entorno& alrededor, frmPp& registro, QWidget* padre)
-    : Ventana(alrededor, "frmPp", padre), f(registro)
+    : Ventana(alrededor, {"frmPp"}, padre), f(registro)
 {
     setWindowTitle(Q(TituloFrmPp));
     ConstruyeTexto();
@@ -102,9 +102,9 @@ QHBoxLayout* frmPp_ventana::ConstruyeBusqueda()
     txtBuscar->setClearButtonEnabled(true);
     auto* const lblBuscar = new QLabel(QStringLiteral("&Texto:"));
     lblBuscar->setBuddy(txtBuscar);
-    cmdBuscaAnterior = Boton("A&nterior", "cmdBuscaAnterior", "Mayúsculas+F3");
-    cmdBuscaSiguiente = Boton("Sig&uiente", "cmdBuscaSiguiente", "F3");
-    cmdCierraBusqueda = Boton("Ce&rrar búsqueda", "cmdCierraBusqueda", "Esc");
+    cmdBuscaAnterior = results::Boton("A&nterior", "cmdBuscaAnterior", "Mayúsculas+F3");
+    cmdBuscaSiguiente = results::Boton("Sig&uiente", "cmdBuscaSiguiente", "F3");
+    cmdCierraBusqueda = results::Boton("Ce&rrar búsqueda", "cmdCierraBusqueda", "Esc");
     lblBusqueda = new QLabel;
     lblBusqueda->setObjectName(QStringLiteral("lblBusqueda"));
 
@@ -132,10 +132,10 @@ QHBoxLayout* frmPp_ventana::ConstruyeBotones()
 {
     lblLargo = new QLabel;
     lblLargo->setObjectName(QStringLiteral("lblLargo"));
-    cmdBuscar = Boton("&Buscar...", "cmdBuscar", "Busca un texto en la Pizarra (Ctrl+F)");
-    cmdGuardar = Boton("&Guardar...", "cmdGuardar", "Guarda el texto en un archivo (Ctrl+S)");
-    CmdImprimir = Boton(LeyendaImprimirPizarra, "CmdImprimir", "Imprime la ventana tal como se ve (Ctrl+P)");
-    cmdCerrar = Boton(LeyendaCerrarPizarra, "cmdCerrar");
+    cmdBuscar = results::Boton("&Buscar...", "cmdBuscar", "Busca un texto en la Pizarra (Ctrl+F)");
+    cmdGuardar = results::Boton("&Guardar...", "cmdGuardar", "Guarda el texto en un archivo (Ctrl+S)");
+    CmdImprimir = results::Boton(LeyendaImprimirPizarra, "CmdImprimir", "Imprime la ventana tal como se ve (Ctrl+P)");
+    cmdCerrar = results::Boton(LeyendaCerrarPizarra, "cmdCerrar");
 
     AlPulsar(*cmdBuscar, [this] { Busca(); });
     AlPulsar(*cmdGuardar, [this] { GuardaTexto(f, entorno.s); });

@@ -58,7 +58,7 @@ bool Contiene(const QUrl& pagina, const QString& texto)
 
 }  // namespace
 
-Ayuda_ventana::Ayuda_ventana(forms::Entorno& alrededor, QWidget* padre) : Ventana(alrededor, "Ayuda", padre)
+Ayuda_ventana::Ayuda_ventana(forms::Entorno& alrededor, QWidget* padre) : Ventana(alrededor, {"Ayuda"}, padre)
 {
     setWindowTitle(QStringLiteral("Ayuda de SIRO"));
     setWindowIcon(IconoDeBoton("Ayuda"));
@@ -97,10 +97,10 @@ Ayuda_ventana::Ayuda_ventana(forms::Entorno& alrededor, QWidget* padre) : Ventan
 
 QBoxLayout* Ayuda_ventana::HazBotones()
 {
-    cmdInicio = Boton("&Inicio", "cmdInicio", this);
-    cmdAtras = Boton("A&trás", "cmdAtras", this);
-    cmdAdelante = Boton("A&delante", "cmdAdelante", this);
-    cmdCerrar = Boton("&Cerrar", "cmdCerrar", this);
+    cmdInicio = shell::Boton("&Inicio", "cmdInicio", this);
+    cmdAtras = shell::Boton("A&trás", "cmdAtras", this);
+    cmdAdelante = shell::Boton("A&delante", "cmdAdelante", this);
+    cmdCerrar = shell::Boton("&Cerrar", "cmdCerrar", this);
     cmdAtras->setEnabled(false);
     cmdAdelante->setEnabled(false);
     txtBuscar = Nombra(new QLineEdit(this), "txtBuscar");

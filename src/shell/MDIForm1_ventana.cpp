@@ -82,7 +82,7 @@ QString ArchivoQueSeSuelta(const QMimeData& datos)
 }  // namespace
 
 MDIForm1_ventana::MDIForm1_ventana(forms::Entorno& alrededor, MDIForm1& reglas, const Mandos& unosMandos)
-    : Sucesos(alrededor), f(reglas), mandos(unosMandos)
+    : Constructor(alrededor), f(reglas), mandos(unosMandos)
 {
     setObjectName(QStringLiteral("MDIForm1"));
     auto* const centro = new QWidget(this);

@@ -17,7 +17,7 @@ namespace shell {
 class RotuloProyecto;
 
 /// The main window: menu, toolbar, labels of the project, and the room where its other windows stand.
-class MDIForm1_ventana : public QMainWindow, protected forms::Sucesos {
+class MDIForm1_ventana : public QMainWindow, protected forms::Constructor {
   public:
     MDIForm1_ventana(forms::Entorno& alrededor, MDIForm1& reglas, const Mandos& unosMandos);
 

@@ -26,7 +26,7 @@ int LugarEn(const std::vector<std::string>& lista, const std::string& nombre)
 
 dlgEliminarProyecto_ventana::dlgEliminarProyecto_ventana(forms::Entorno& alrededor,
                                                          model::dlgEliminarProyecto& reglas, QWidget* padre)
-    : Formulario(alrededor, "dlgEliminarProyecto", padre), f(reglas)
+    : Formulario(alrededor, {"dlgEliminarProyecto"}, padre), f(reglas)
 {
     setWindowTitle(QStringLiteral("Eliminar un Proyecto existente"));
     auto* const filas = new QFormLayout(this);

@@ -42,7 +42,7 @@ std::string InformacionDelSistema()
 }
 
 frmAcerca_ventana::frmAcerca_ventana(forms::Entorno& alrededor, QWidget* padre)
-    : Formulario(alrededor, "frmAcerca", padre)
+    : Formulario(alrededor, {"frmAcerca"}, padre)
 {
     setWindowTitle(QStringLiteral("Acerca de SIRO"));
     auto* const rejilla = new QGridLayout(this);

@@ -25,7 +25,7 @@ using forms::Pon;
 using forms::Q;
 
 frmConfigura_ventana::frmConfigura_ventana(forms::Entorno& alrededor, frmConfigura& registro, QWidget* padre)
-    : Formulario(alrededor, "frmConfigura", padre), f(registro), c(alrededor.s.frmConfigura)
+    : Formulario(alrededor, {"frmConfigura"}, padre), f(registro), c(alrededor.s.frmConfigura)
 {
     setWindowTitle(Q(TituloConfigura));
     if (f.DirPersonal.empty()) f.DirPersonal = DeQ(QDir::toNativeSeparators(QDir::homePath()));

@@ -13,7 +13,7 @@ namespace {
 
 /// Two fields that take whole numbers up to 99, OK and Cancel.
 struct Prueba : Formulario {
-    explicit Prueba(Entorno& alrededor) : Formulario(alrededor, "Prueba")
+    explicit Prueba(Entorno& alrededor) : Formulario(alrededor, {"Prueba"})
     {
         auto* const pila = new QVBoxLayout(this);
         for (QWidget* w : std::initializer_list<QWidget*>{&uno, &dos, &acepta, &cancela})

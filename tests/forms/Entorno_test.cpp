@@ -126,13 +126,13 @@ TEST_F(EntornoDePrueba, UnaVentanaHijaSeActivaAlPasarAElla)
 // --- F1 ---
 
 struct FormularioConCampo : Formulario {
-    explicit FormularioConCampo(Entorno& alrededor) : Formulario(alrededor, "dlgDePrueba") {}
+    explicit FormularioConCampo(Entorno& alrededor) : Formulario(alrededor, {"dlgDePrueba"}) {}
     void Muestra() override {}
     QLineEdit campo{this};
 };
 
 struct VentanaConCampo : Ventana {
-    explicit VentanaConCampo(Entorno& alrededor) : Ventana(alrededor, "frmDePrueba") {}
+    explicit VentanaConCampo(Entorno& alrededor) : Ventana(alrededor, {"frmDePrueba"}) {}
     void Muestra() override {}
     QLineEdit campo{this};
 };

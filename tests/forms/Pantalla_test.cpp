@@ -18,7 +18,7 @@ namespace {
 /// A form of so many fields, each 40 pixels high, above its two buttons.
 struct FormaAlta : Formulario {
     FormaAlta(Entorno& alrededor, int cuantos, QWidget* padre = nullptr)
-        : Formulario(alrededor, "FormaAlta", padre)
+        : Formulario(alrededor, {"FormaAlta"}, padre)
     {
         auto* const pila = new QVBoxLayout(this);
         for (int i = 0; i < cuantos; ++i) {

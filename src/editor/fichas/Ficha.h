@@ -39,13 +39,6 @@ enum class PedidoFicha : std::uint8_t {
 inline constexpr std::string_view LeyendaAceptar = "Aceptar";
 inline constexpr std::string_view LeyendaCancelar = "Cancelar";
 
-/// What stands behind a field: its unit in brackets where the caption doesn't tell one.
-inline std::string UnidadAparte(std::string_view leyenda, std::string_view unidad)
-{
-    if (unidad.empty() || leyenda.find('[') != std::string_view::npos) return {};
-    return "[" + std::string(unidad) + "]";
-}
-
 /// What tells one form from another: the kind of its components and its controls.
 template <typename Forma, typename Registro, int Limite>
 struct ReglasFicha {

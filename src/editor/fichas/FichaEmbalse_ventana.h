@@ -1,21 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QChar>
-#include <QGridLayout>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QVBoxLayout>
 #include <functional>
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "editor/fichas/FichaEmbalse.h"
 #include "editor/fichas/Ficha_ventana.h"
-#include "forms/Textos_ventana.h"
 
 namespace editor {
 
@@ -39,69 +32,63 @@ class FichaEmbalse_ventana : public Ficha_ventana<Forma> {
         std::string &numero, &nombre, &texto;
     };
 
-    void Identidad(QGridLayout& grilla, const ControlesDeIdentidad& c, std::function<void()> cambia)
+    std::vector<forms::Partes> Identidad(const ControlesDeIdentidad& c, std::function<void()> cambia)
     {
-        this->Dato(grilla, c.lblNumero, c.numero);
-        this->Dato(grilla, c.lblNombre, c.nombre);
-        this->CampoNombre(grilla, c.txtNombre, c.texto, std::move(cambia), this->Sale(c.txtNombre));
-        Tablas(grilla);
+        return {this->Dato(c.lblNumero, c.numero),
+                this->Dato(c.lblNombre, c.nombre),
+                this->CampoNombre(c.txtNombre, c.texto, std::move(cambia), this->Sale(c.txtNombre)),
+                {Tablas()}};
     }
 
     /// Under the name, while there is something to say: what a rename has done to the tables, and the key
     /// that takes them along.
-    void Tablas(QGridLayout& grilla)
+    QLayout* Tablas()
     {
         QLabel* const linea = this->Texto("lblTablas", f.lblTablas);
         linea->setWordWrap(true);
         QPushButton* const lleva = this->Boton("cmdLlevaTablas", [this] { cmdLlevaTablas(f, entorno.s); });
         lleva->setToolTip(forms::Q(AyudaLlevaTablas));
-        auto* const fila = new QHBoxLayout;
-        fila->addWidget(linea, 1);
-        fila->addWidget(lleva);
-        grilla.addLayout(fila, grilla.rowCount(), 0, 1, -1);
-        this->AlMostrar([this, linea, lleva] {
-            linea->setVisible(!f.lblTablas.empty());
-            lleva->setVisible(!f.tablasDe.empty());
-        });
+        this->VisibleSi(linea, [this] { return !f.lblTablas.empty(); });
+        this->VisibleSi(lleva, [this] { return !f.tablasDe.empty(); });
+        return this->EnFila({{linea, 1}, lleva});
     }
 
     /// `actual`: label of the destination in force, where the form has one.
-    void Destinos(QGridLayout& grilla, std::string_view controlActual = {},
-                  const std::string* actual = nullptr)
+    forms::Partes Destinos(std::string_view controlActual = {}, const std::string* actual = nullptr)
     {
         constexpr int Lineas = 5;
-        this->RenglonDeLista(grilla, {"lstCauceAA", f.lstCauceAA, Lineas, controlActual, actual},
-                             [this](int linea) { lstCauceAA_Click(f, entorno.s, linea); });
+        return this->RenglonDeLista({"lstCauceAA", f.lstCauceAA, Lineas, controlActual, actual},
+                                    [this](int linea) { lstCauceAA_Click(f, entorno.s, linea); });
     }
 
-    void Metodo(QGridLayout& grilla)
+    forms::Partes Metodo()
     {
         constexpr int Lineas = static_cast<int>(MetodosEmbalse.size());
-        this->RenglonDeLista(grilla, {"lstMetodo", f.lstMetodo, Lineas, "lblMetodo", &f.lblMetodo, true},
-                             [this](int linea) { lstMetodo_Click(f, linea); });
+        return this->RenglonDeLista(
+            {"lstMetodo", f.lstMetodo, Lineas, "lblMetodo", &f.lblMetodo, forms::Flechas::Eligen},
+            [this](int linea) { lstMetodo_Click(f, linea); });
     }
 
     /// A coefficient of Muskingum's behind the label that tells it, both from the record; the field shows
     /// with that method alone. `letra`: what a reader of the screen says of it.
     template <typename Campos>
-    void Coeficiente(QBoxLayout& fila, const Campos& tabla, std::string_view control,
-                     std::pair<std::string_view, const std::string&> rotulo, char letra)
+    forms::Partes Coeficiente(const Campos& tabla, std::string_view control,
+                              std::pair<std::string_view, const std::string&> rotulo, char letra)
     {
-        QLabel* const leyenda = this->Texto(rotulo.first, rotulo.second);
-        QLineEdit* const campo = this->NumeroSuelto(tabla, control);
-        leyenda->setBuddy(campo);
-        ConservaLugar(*campo);
-        this->AlMostrar([this, campo] { campo->setVisible(f.MuskingumVisible()); });
+        QLineEdit* const campo = this->ConservaLugar(this->NumeroSuelto(tabla, control));
+        this->VisibleSi(campo, [this] { return f.MuskingumVisible(); });
         campo->setAccessibleName(QString(QLatin1Char(letra)));
-        fila.addWidget(leyenda);
-        fila.addWidget(campo, 1);
+        QLabel* const leyenda = this->Texto(rotulo.first, rotulo.second);
+        leyenda->setBuddy(campo);
+        return {leyenda, {campo, 1}};
     }
 
-    void AlturaInicial(QGridLayout& grilla)
+    forms::Partes AlturaInicial()
     {
-        QLineEdit* const campo = this->Campo("txtHInicialEmb", f.txtHInicialEmb);
-        this->EsNumero(*campo, this->Sale("txtHInicialEmb"));
-        this->Renglon(grilla, "txtHInicialEmb", *campo, ReglaHInicialEmb.unidad);
+        return this->Renglon(
+            "txtHInicialEmb",
+            this->CampoNumero("txtHInicialEmb", f.txtHInicialEmb, this->Sale("txtHInicialEmb")),
+            ReglaHInicialEmb.unidad);
     }
 };
 

@@ -1,106 +1,50 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QWidget>
-#include <cstdint>
+#include <algorithm>
 #include <functional>
-#include <span>
 #include <string>
 #include <string_view>
-#include <utility>
-#include <vector>
 
 #include "editor/fichas/Ficha.h"
 #include "forms/Formulario_ventana.h"
 
-class QGridLayout;
-class QGroupBox;
-class QLabel;
-class QLineEdit;
-class QPushButton;
-class QRadioButton;
-class QVBoxLayout;
-
-namespace forms {
-class ListaParaElegir;
-}
-
 namespace editor {
 
-/// Keeps the place of what a form hides, so that nothing jumps.
-void ConservaLugar(QWidget& widget);
-
-/// What tells the window of one property form from another's.
-struct DescripcionFicha {
-    std::string_view nombre;  ///< object name of the window
-    std::string_view titulo;
-    std::span<const forms::FilaRotulo> leyendas;
-};
-
-/// What the windows of the property forms are built of. Controls are made with their captions from the form's
-/// table, and each remembers how it is shown from the record.
+/// What the windows of the property forms add to the controls that all forms are built of.
 class PartesDeFicha : public forms::Formulario {
   public:
-    void Muestra() override;
     bool eventFilter(QObject* objeto, QEvent* evento) override;
 
   protected:
-    PartesDeFicha(forms::Entorno& alrededor, const DescripcionFicha& descripcion, Ficha& registro,
+    PartesDeFicha(forms::Entorno& alrededor, const forms::DescripcionDeVentana& descripcion, Ficha& registro,
                   QWidget* padre);
 
-    /// The caption of a control; empty where it has none.
-    [[nodiscard]] std::string_view Leyenda(std::string_view control) const;
-    /// Runs at each `Muestra`, in the order of the calls.
-    void AlMostrar(std::function<void()> rutina) { muestran.push_back(std::move(rutina)); }
-    template <typename T>
-    T* Nombra(T* widget, std::string_view control)
-    {
-        NombraWidget(*widget, control);
-        return widget;
-    }
-
-    QGroupBox* Marco(std::string_view control);
-    /// A label of the caption, and the text beside it, both at the end of a grid.
-    QLabel* Dato(QGridLayout& grilla, std::string_view control, const std::string& texto);
-    /// A label that only shows a text of the record.
-    QLabel* Texto(std::string_view control, const std::string& texto);
-    /// A field with the text of the record, kept there at each edit.
-    QLineEdit* Campo(std::string_view control, std::string& texto);
-    /// A control with its caption before it and its unit behind it, at the end of a grid.
-    void Renglon(QGridLayout& grilla, std::string_view control, QWidget& campo, std::string_view unidad = {});
+    /// A caption and a text of the record, which stands out.
+    forms::Partes Dato(std::string_view control, const std::string& texto);
     /// The name: while it is typed `cambia` puts it right.
-    QLineEdit* CampoNombre(QGridLayout& grilla, std::string_view control, std::string& texto,
-                           std::function<void()> cambia, std::function<bool()> revisa);
+    forms::Partes CampoNombre(std::string_view control, std::string& texto, std::function<void()> cambia,
+                              std::function<bool()> revisa);
     /// A number: entering it selects all of it, leaving it checks it.
-    void EsNumero(QLineEdit& campo, std::function<bool()> revisa);
+    QLineEdit* CampoNumero(std::string_view control, std::string& texto, std::function<bool()> revisa);
     /// A list beside its caption, below which stands what is in force now, where that has a label.
-    struct RenglonLista {
+    struct DescripcionLista {
         std::string_view control;
         const Lista& lista;
         int lineas;  ///< in sight at least; the list of few lines has just these
         std::string_view controlActual{};
         const std::string* actual = nullptr;
-        /// The arrows pick at once; otherwise what they have come to is picked when the list is left.
-        bool conFlechas = false;
+        forms::Flechas flechas = forms::Flechas::EligenAlSalir;
     };
-    /// The same at the end of a grid; picking an entry is an event, with its line from 0.
-    void RenglonDeLista(QGridLayout& grilla, const RenglonLista& renglon, std::function<void(int)> elige);
+    /// Picking an entry is an event, with its line from 0.
+    forms::Partes RenglonDeLista(const DescripcionLista& descripcion, std::function<void(int)> elige);
     /// The list of components with its caption above it.
     QWidget* ListaDeComponentes(std::string_view control, const Lista& lista, std::function<void(int)> elige);
-    QRadioButton* Opcion(std::string_view control, const bool& marcada, std::function<void()> elige);
-    QPushButton* Boton(std::string_view control, std::function<void()> rutina);
-    /// "Aceptar" and "Cancelar" at the end.
-    void Cierre(QVBoxLayout& pila, std::function<void()> acepta);
+    /// The whole form: what it holds, side by side, above "Aceptar" and "Cancelar".
+    void Dispone(const forms::Partes& cuerpo, std::function<void()> acepta);
 
   private:
-    forms::ListaParaElegir* NuevaLista(std::string_view control, const Lista& lista, bool conFlechas,
-                                       std::function<void(int)> elige);
-    void NombraWidget(QWidget& widget, std::string_view control) const;
-    void PonFoco();
-
-    std::span<const forms::FilaRotulo> leyendas;
     Ficha& ficha;
-    std::vector<std::function<void()>> muestran{};
 };
 
 /// Routines of a form by its record's type, from where a window's own ones of the same name hide them.
@@ -130,7 +74,7 @@ class Ficha_ventana : public PartesDeFicha {
     }
 
   protected:
-    Ficha_ventana(forms::Entorno& alrededor, const DescripcionFicha& descripcion, Forma& registro,
+    Ficha_ventana(forms::Entorno& alrededor, const forms::DescripcionDeVentana& descripcion, Forma& registro,
                   QWidget* padre)
         : PartesDeFicha(alrededor, descripcion, registro, padre), f(registro)
     {
@@ -154,26 +98,25 @@ class Ficha_ventana : public PartesDeFicha {
     template <typename Campos>
     QLineEdit* NumeroSuelto(const Campos& tabla, std::string_view control)
     {
-        for (const auto& fila : tabla)
-            if (fila.regla.control == control) {
-                QLineEdit* const campo = Campo(control, f.*fila.texto);
-                EsNumero(*campo, Sale(control));
-                return campo;
-            }
-        return nullptr;
+        return CampoNumero(control, f.*FilaDe(tabla, control).texto, Sale(control));
     }
 
-    /// The same with caption and unit, at the end of a grid.
+    /// The same with caption and unit.
     template <typename Campos>
-    QLineEdit* Numero(QGridLayout& grilla, const Campos& tabla, std::string_view control)
+    forms::Partes Numero(const Campos& tabla, std::string_view control)
     {
-        QLineEdit* const campo = NumeroSuelto(tabla, control);
-        for (const auto& fila : tabla)
-            if (fila.regla.control == control) Renglon(grilla, control, *campo, fila.regla.unidad);
-        return campo;
+        return Renglon(control, NumeroSuelto(tabla, control), FilaDe(tabla, control).regla.unidad);
     }
 
     Forma& f;
+
+  private:
+    template <typename Campos>
+    static const auto& FilaDe(const Campos& tabla, std::string_view control)
+    {
+        return *std::find_if(tabla.begin(), tabla.end(),
+                             [&](const auto& fila) { return fila.regla.control == control; });
+    }
 };
 
 }  // namespace editor

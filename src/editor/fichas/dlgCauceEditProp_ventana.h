@@ -12,9 +12,7 @@ class dlgCauceEditProp_ventana : public Ficha_ventana<dlgCauceEditProp> {
     dlgCauceEditProp_ventana(forms::Entorno& alrededor, dlgCauceEditProp& registro, QWidget* padre = nullptr);
 
   private:
-    void Identidad(QGridLayout& grilla);
-    void Longitud(QGridLayout& grilla);
-    void Propagacion(QGridLayout& grilla);
+    forms::Partes Longitud();
 };
 
 }  // namespace editor

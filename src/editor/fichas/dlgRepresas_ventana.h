@@ -15,7 +15,7 @@ class dlgRepresas_ventana : public FichaEmbalse_ventana<dlgRepresas> {
     QLayout* Propiedades();
     QWidget* MarcoDeSeleccion();
     QWidget* MarcoDeFunciones();
-    void FilaDeFuncion(QGridLayout& grilla, int funcion);
+    forms::Partes FilaDeFuncion(int funcion);
 };
 
 }  // namespace editor

@@ -25,7 +25,7 @@ using forms::Q;
 
 dlgTabla_ventana::dlgTabla_ventana(forms::Entorno& alrededor, dlgTabla& registro, TipoTabla tipoTabla,
                                    QWidget* padre)
-    : Formulario(alrededor, DescripcionDe(tipoTabla).nombre, padre),
+    : Formulario(alrededor, {DescripcionDe(tipoTabla).nombre}, padre),
       f(registro),
       tipo(tipoTabla),
       d(DescripcionDe(tipoTabla))

@@ -37,6 +37,7 @@ inline constexpr auto RotulosDlgUEH2 = std::to_array<forms::FilaRotulo>({
     {"txtKostiakov_a",      "I [mm] = a * t[min]^"},
     {"txtKostiakov_b",      ""},
     {"txtKostiakov_i",      "T inicial [min]"},
+    {"CurvaInfiltracion",   "Infiltración I(t)"},
     {"txtQ0Recesion",       "Qinicial ="},
     {"txtKRecesion",        "k [hs]="},
     {"OKButton",            LeyendaAceptar},

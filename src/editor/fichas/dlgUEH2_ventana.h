@@ -19,10 +19,8 @@ class dlgUEH2_ventana : public Ficha_ventana<dlgUEH2> {
   private:
     QWidget* MarcoDeIdentificacion();
     QWidget* MarcoDeArea();
-    QWidget* MarcoDe(std::string_view marco, std::initializer_list<std::string_view> numeros);
     QWidget* MarcoDeInfiltracion();
     QWidget* MarcoDeRecesion();
-    void MuestraCurva();
 
     forms::Lamina* curva = nullptr;
 };

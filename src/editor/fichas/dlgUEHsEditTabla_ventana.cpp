@@ -18,7 +18,7 @@ using forms::Q;
 
 dlgUEHsEditTabla_ventana::dlgUEHsEditTabla_ventana(forms::Entorno& alrededor, dlgUEHsEditTabla& registro,
                                                    QWidget* padre)
-    : Formulario(alrededor, "dlgUEHsEditTabla", padre), f(registro)
+    : Formulario(alrededor, {"dlgUEHsEditTabla"}, padre), f(registro)
 {
     setWindowTitle(Q(TituloDlgUEHsEditTabla));
     auto* const pila = new QVBoxLayout(this);

@@ -16,7 +16,7 @@ using forms::Pon;
 using forms::Q;
 
 dlgUEHsTabla_ventana::dlgUEHsTabla_ventana(forms::Entorno& alrededor, dlgUEHsTabla& registro, QWidget* padre)
-    : Ventana(alrededor, "dlgUEHsTabla", padre), f(registro)
+    : Ventana(alrededor, {"dlgUEHsTabla"}, padre), f(registro)
 {
     setWindowTitle(Q(TituloDlgUEHsTabla));
     auto* const pila = new QVBoxLayout(this);

@@ -60,9 +60,9 @@ TEST(TextosDeDlgUEH2, TituloYLeyendasEstanLetraPorLetra)
 
 TEST(TextosDeDlgUEH2, LaUnidadQueLaLeyendaNoDiceVaAparte)
 {
-    EXPECT_EQ(UnidadAparte("Qinicial =", "m3/s"), "[m3/s]");
-    EXPECT_EQ(UnidadAparte("k [hs]=", "hs"), "");
-    EXPECT_EQ(UnidadAparte("", ""), "");
+    EXPECT_EQ(forms::UnidadAparte("Qinicial =", "m3/s"), "[m3/s]");
+    EXPECT_EQ(forms::UnidadAparte("k [hs]=", "hs"), "");
+    EXPECT_EQ(forms::UnidadAparte("", ""), "");
 }
 
 // --- opening ---
