@@ -9,8 +9,8 @@
 #include "editor/Edicion.h"
 #include "editor/TextosEdicion.h"
 #include "editor/frmUEHs.h"
-#include "engine/ComponenteFinal.h"
 #include "model/Avisos.h"
+#include "model/Clases.h"
 #include "model/Componentes.h"
 #include "model/Disco.h"
 #include "model/Falla.h"
@@ -31,7 +31,7 @@ template <typename Coleccion>
 bool AlgunoDrena(const Coleccion& coleccion, const std::string& nombre)
 {
     return std::any_of(coleccion.begin(), coleccion.end(),
-                       [&](const auto& c) { return engine::DrenaA(c.Cauce_aa, nombre); });
+                       [&](const auto& c) { return model::DrenaA(c, nombre); });
 }
 
 bool DrenaUEHoCauce(const Siro& s, const std::string& nombre)

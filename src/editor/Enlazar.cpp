@@ -7,8 +7,8 @@
 #include "editor/Edicion.h"
 #include "editor/TextosEdicion.h"
 #include "editor/frmUEHs.h"
-#include "engine/ComponenteFinal.h"
 #include "model/Avisos.h"
+#include "model/Clases.h"
 
 // Links by the pop-up menu, between the two components that are selected.
 namespace editor {
@@ -29,7 +29,7 @@ void AcoplaACauce(frmUEHs& f, Siro& s, const ClaseConIcono<T, Limite>& clase)
     T& componente = Elegido(s, clase);
     const std::string& nombre = componente.*clase.nombre;
     const std::string& cauce = s.Red.Cauces(s.Seleccion.CauceSel).NombreCauce;
-    if (engine::DrenaA(componente.Cauce_aa, cauce)) {
+    if (model::DrenaA(componente, cauce)) {
         model::Advierte(s, Texto(clase.yaAcoplado, nombre, YaAcoplada, cauce), {});
     } else if (model::Consulta(s, Texto(clase.confirmaMenu, nombre, ConElCauce, cauce, CierraNombre),
                                TituloConsulta)) {
@@ -105,7 +105,7 @@ void mnu_acoplaCauce1aCauce2(frmUEHs& f, Siro& s)
     model::Cauce& primero = s.Red.Cauces(s.Seleccion.CauceAnterior);
     const model::Cauce& segundo = s.Red.Cauces(s.Seleccion.CauceSel);
     // A longer cycle isn't looked for: kept as it stands.
-    if (engine::DrenaA(segundo.Cauce_aa, primero.NombreCauce)) {
+    if (model::DrenaA(segundo, primero.NombreCauce)) {
         model::Advierte(s, Texto(Inversion), TituloInversion);
     } else {
         primero.Cauce_aa = segundo.NombreCauce;

@@ -6,7 +6,7 @@
 
 #include "editor/Edicion.h"
 #include "editor/frmUEHs.h"
-#include "engine/ComponenteFinal.h"
+#include "model/Clases.h"
 
 namespace editor {
 
@@ -101,8 +101,8 @@ bool DosCauces(const Siro& s)
 {
     const int primero = s.Seleccion.CauceAnterior;
     return HayCauce(s) && primero > 0 && primero <= CaucesEnteros(s) && primero != s.Seleccion.CauceSel &&
-           !engine::DrenaA(s.Red.ColCauces.Item(primero).Cauce_aa,
-                           s.Red.ColCauces.Item(s.Seleccion.CauceSel).NombreCauce);
+           !model::DrenaA(s.Red.ColCauces.Item(primero),
+                          s.Red.ColCauces.Item(s.Seleccion.CauceSel).NombreCauce);
 }
 
 // --- commands of the canvas itself ---

@@ -10,8 +10,8 @@
 #include "editor/Tender.h"
 #include "editor/TextosEdicion.h"
 #include "editor/frmUEHs.h"
-#include "engine/ComponenteFinal.h"
 #include "model/Avisos.h"
+#include "model/Clases.h"
 #include "model/Numeros.h"
 
 // Dragging a vertex or an icon.
@@ -40,7 +40,7 @@ void LlevaTributarios(Siro& s, int cauce, Punto en)
     const std::string& nombre = s.Red.Cauces(cauce).NombreCauce;
     PorClase([&](const auto& clase) {
         for (auto& componente : s.Red.*clase.coleccion)
-            if (engine::DrenaA(componente.Cauce_aa, nombre)) {
+            if (model::DrenaA(componente, nombre)) {
                 componente.XCauce = en.X;
                 componente.YCauce = en.Y;
             }

@@ -6,7 +6,7 @@
 #include "editor/ClasesConIcono.h"
 #include "editor/RotulosDeCauces.h"
 #include "editor/frmUEHs.h"
-#include "engine/ComponenteFinal.h"
+#include "model/Clases.h"
 #include "model/Numeros.h"
 
 namespace editor {
@@ -56,7 +56,7 @@ void AjustaDesembocaduras(Siro& s)
     for (int i = 1; i <= enteros; ++i) {
         const std::string& destino = s.Red.ColCauces.Item(i).Cauce_aa;
         for (int k = 1; k <= enteros; ++k) {
-            if (!engine::DrenaA(destino, s.Red.ColCauces.Item(k).NombreCauce)) continue;
+            if (!model::DrenaA(destino, s.Red.ColCauces.Item(k).NombreCauce)) continue;
             const int ultimo = s.Red.NroVertices(k);
             if (ultimo >= 1 && s.Red.NroVertices(i) >= 1) {
                 s.Red.XVertice(i, 1) = s.Red.XVertice(k, ultimo);
@@ -166,10 +166,10 @@ Punto Centro(Clase clase, Punto en, float s)
 Punto FinDelEnlace(const frmUEHs& f, const Siro& s, const ConIcono& c)
 {
     for (const auto& r : s.Red.ColRepresas)
-        if (engine::DrenaA(c.destino, r.NombreRepresa))
+        if (model::DrenaA(c.destino, r.NombreRepresa))
             return Centro(Clase::Represa, {r.IconoRepresaX, r.IconoRepresaY}, f.TamIcono);
     for (const auto& l : s.Red.ColLagos)
-        if (engine::DrenaA(c.destino, l.NombreLAGO)) return {l.IconoLAGOx, l.IconoLAGOy};
+        if (model::DrenaA(c.destino, l.NombreLAGO)) return {l.IconoLAGOx, l.IconoLAGOy};
     return c.drena;
 }
 

@@ -8,7 +8,7 @@
 #include "editor/Alcance.h"
 #include "editor/Cauces.h"
 #include "editor/ClasesConIcono.h"
-#include "engine/ComponenteFinal.h"
+#include "model/Clases.h"
 
 namespace editor {
 
@@ -98,7 +98,7 @@ bool TocaOtroCauce(const frmUEHs& f, const Siro& s, int cauce, Punto boca)
     for (int k = 1; k <= s.Red.NroCauces; ++k) {
         if (k == cauce || !CabeceraCerca(s, k, boca, alcance)) continue;
         const bool acoplado =
-            k <= CaucesEnteros(s) && engine::DrenaA(destino, s.Red.ColCauces.Item(k).NombreCauce);
+            k <= CaucesEnteros(s) && model::DrenaA(destino, s.Red.ColCauces.Item(k).NombreCauce);
         if (!acoplado) return true;
     }
     return false;
@@ -110,7 +110,7 @@ bool TocaEmbalse(const frmUEHs& f, const Siro& s, const ClaseConIcono<T, Limite>
                  Punto boca)
 {
     const int n = Bajo(f, s, clase, boca);
-    return n > 0 && !engine::DrenaA(DestinoDe(s, cauce), (s.Red.*clase.coleccion).Item(n).*clase.nombre);
+    return n > 0 && !model::DrenaA(DestinoDe(s, cauce), (s.Red.*clase.coleccion).Item(n).*clase.nombre);
 }
 
 void MarcaSinAcople(frmUEHs& f, const Siro& s, int cauce)

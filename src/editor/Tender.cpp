@@ -9,8 +9,8 @@
 #include "editor/ClasesConIcono.h"
 #include "editor/Destinos.h"
 #include "editor/TextosEdicion.h"
-#include "engine/ComponenteFinal.h"
 #include "model/Avisos.h"
+#include "model/Clases.h"
 
 namespace editor {
 
@@ -57,7 +57,7 @@ bool OtroDrena(const Siro& s, const T& este, const std::string& cauce)
 {
     const auto drena = [&](const auto& coleccion) {
         for (const auto& otro : coleccion)
-            if (static_cast<const void*>(&otro) != &este && engine::DrenaA(otro.Cauce_aa, cauce)) return true;
+            if (static_cast<const void*>(&otro) != &este && model::DrenaA(otro, cauce)) return true;
         return false;
     };
     return drena(s.Red.ColRepresas) || drena(s.Red.ColLagos);

@@ -4,6 +4,8 @@
 #include <string_view>
 #include <unordered_map>
 
+#include "model/Clases.h"
+
 namespace engine {
 
 namespace {
@@ -26,28 +28,19 @@ Aportes::Aportes(const model::Siro& s)
     std::unordered_map<std::string_view, Afluentes> porDestino;
     const FilasPorNombre filasUEH = NumeraFilas(s, 1, s.Red.NroUEHs);
     const FilasPorNombre filasResto = NumeraFilas(s, s.Red.NroUEHs + 1, s.Resultados.NroComponentes);
-    const auto conFila = [&](const FilasPorNombre& filas, const auto& nombre, const auto& destino,
-                             auto hace) {
-        if (destino.empty() || destino == "0") return;
-        if (const auto fila = filas.find(nombre); fila != filas.end())
-            hace(porDestino[destino], fila->second);
+    const auto anota = [&](const auto& coleccion, const FilasPorNombre& filas, auto agrega) {
+        int item = 0;
+        for (const auto& c : coleccion) {
+            ++item;
+            const auto fila = filas.find(model::Nombre(c));
+            if (model::EsDestino(c.Cauce_aa) && fila != filas.end())
+                agrega(porDestino[c.Cauce_aa], fila->second, item);
+        }
     };
-    const auto anota = [&](const FilasPorNombre& filas, const auto& nombre, const auto& destino, auto lista) {
-        conFila(filas, nombre, destino, [&](Afluentes& a, int fila) { (a.*lista).push_back(fila); });
-    };
-    int item = 0;
-    for (const auto& u : s.Red.ColUEHs) {
-        ++item;
-        conFila(filasUEH, u.NombreUEH, u.Cauce_aa, [&](Afluentes& a, int fila) {
-            a.UEHs.push_back({fila, item});
-        });
-    }
-    for (const auto& c : s.Red.ColCauces)
-        anota(filasResto, c.NombreCauce, c.Cauce_aa, &Afluentes::Cauces);
-    for (const auto& r : s.Red.ColRepresas)
-        anota(filasResto, r.NombreRepresa, r.Cauce_aa, &Afluentes::Represas);
-    for (const auto& l : s.Red.ColLagos)
-        anota(filasResto, l.NombreLAGO, l.Cauce_aa, &Afluentes::Lagos);
+    anota(s.Red.ColUEHs, filasUEH, [](Afluentes& a, int fila, int item) { a.UEHs.push_back({fila, item}); });
+    anota(s.Red.ColCauces, filasResto, [](Afluentes& a, int fila, int) { a.Cauces.push_back(fila); });
+    anota(s.Red.ColRepresas, filasResto, [](Afluentes& a, int fila, int) { a.Represas.push_back(fila); });
+    anota(s.Red.ColLagos, filasResto, [](Afluentes& a, int fila, int) { a.Lagos.push_back(fila); });
 
     porFila.resize(s.Resultados.Secuencia.size());
     for (std::size_t fila = 0; fila < porFila.size(); ++fila)

@@ -5,6 +5,7 @@
 #include <unordered_set>
 
 #include "model/Avisos.h"
+#include "model/Clases.h"
 #include "model/Numeros.h"
 
 namespace engine {
@@ -16,31 +17,33 @@ namespace {
 
 constexpr std::string_view TituloSinSalida = "Error, Verifique Componente final del sistema";
 constexpr std::string_view TextoSinSalida =
-    "Error, ningun componente ingresado es una sección final de control o de salida del sistema. Al menos un "
-    "componente debe tener el campo <Drena a< = <0> o <cadena nula>. ¿Desea volver a la ventana de edición  "
+    "Error, ningun componente ingresado es una sección final de control o de "
+    "salida del sistema. Al menos un "
+    "componente debe tener el campo <Drena a< = <0> o <cadena nula>. ¿Desea "
+    "volver a la ventana de edición  "
     "(SI) o continuar (No) ?";
 constexpr std::string_view TituloAportes = "Advertencia !!!";
 constexpr std::string_view CaucesSinAporte =
-    "Hay tramos de Cauces sin aportes de UEHs. Verifique los tramos siguientes y asigne sus UEH o "
+    "Hay tramos de Cauces sin aportes de UEHs. Verifique los tramos siguientes "
+    "y asigne sus UEH o "
     "componentes de aportes: ";
 constexpr std::string_view RepresasSinAporte =
-    "Hay represas sin aportes de UEHs. Verifique las represas siguientes y asigne sus UEH o componentes de "
+    "Hay represas sin aportes de UEHs. Verifique las represas siguientes y "
+    "asigne sus UEH o componentes de "
     "aportes: ";
 // "represas" is kept as it stands
 constexpr std::string_view LagosSinAporte =
-    "Hay Lagos/Mallines sin aportes de UEHs. Verifique las represas siguientes y asigne sus UEH o "
+    "Hay Lagos/Mallines sin aportes de UEHs. Verifique las represas siguientes "
+    "y asigne sus UEH o "
     "componentes de aportes: ";
 constexpr std::string_view VariasSalidas =
-    "Hay más de un componente de descarga para el sistema (sección final de control). El sistema admite esta "
-    "posibilidad para el cálculo para un máximo de 10 componentes, pero si el sistema es de salida final "
+    "Hay más de un componente de descarga para el sistema (sección final de "
+    "control). El sistema admite esta "
+    "posibilidad para el cálculo para un máximo de 10 componentes, pero si el "
+    "sistema es de salida final "
     "única debe verificar los campos <Drena a> de los siguientes componentes:";
 constexpr std::string_view Cola = "         ¿Desea volver a la ventana de edición  (SI) o continuar (No) ?";
 constexpr std::string_view Separacion = "    ";
-
-bool EsDestino(std::string_view nombre)
-{
-    return !nombre.empty() && nombre != "0";
-}
 
 /// Names that may be drained into, and names that something drains into.
 struct Destinos {
@@ -48,34 +51,22 @@ struct Destinos {
     std::unordered_set<std::string_view> alimentados;
 };
 
-Destinos BuscaDestinos(const Siro& s)
+Destinos BuscaDestinos(const model::Red& red)
 {
     Destinos d;
-    for (const auto& c : s.Red.ColCauces)
-        d.posibles.insert(c.NombreCauce);
-    for (const auto& l : s.Red.ColLagos)
-        d.posibles.insert(l.NombreLAGO);
-    for (const auto& r : s.Red.ColRepresas)
-        d.posibles.insert(r.NombreRepresa);
-    for (const auto& u : s.Red.ColUEHs)
-        d.alimentados.insert(u.Cauce_aa);
-    for (const auto& c : s.Red.ColCauces)
-        d.alimentados.insert(c.Cauce_aa);
-    for (const auto& l : s.Red.ColLagos)
-        d.alimentados.insert(l.Cauce_aa);
-    for (const auto& r : s.Red.ColRepresas)
-        d.alimentados.insert(r.Cauce_aa);
+    model::CadaReceptor(red, [&](const auto& c) { d.posibles.insert(model::Nombre(c)); });
+    model::CadaComponente(red, [&](const auto& c) { d.alimentados.insert(c.Cauce_aa); });
     return d;
 }
 
-void AnotaSalida(Siro& s, const Destinos& d, const std::string& nombre, const std::string& Cauce_aa)
+void AnotaSalida(Siro& s, const std::string& nombre)
 {
-    if (EsDestino(Cauce_aa) && d.posibles.contains(Cauce_aa)) return;
-    s.Resultados.NroSalidas = model::Suma16(s.Resultados.NroSalidas, 1);
+    model::Resultados& r = s.Resultados;
+    r.NroSalidas = model::Suma16(r.NroSalidas, 1);
     model::Sentencia(
         [&] {
-            if (s.Resultados.NroSalidas > model::MaxSalidas) throw Falla{model::NumeroFalla::Subindice};
-            s.Resultados.Salidas[static_cast<std::size_t>(s.Resultados.NroSalidas)] = nombre;
+            if (r.NroSalidas > model::MaxSalidas) throw Falla{model::NumeroFalla::Subindice};
+            r.Salidas[static_cast<std::size_t>(r.NroSalidas)] = nombre;
         },
         model::AvisaMotor(s));
 }
@@ -83,14 +74,10 @@ void AnotaSalida(Siro& s, const Destinos& d, const std::string& nombre, const st
 void BuscaSalidas(Siro& s, const Destinos& d)
 {
     s.Resultados.NroSalidas = 0;
-    for (const auto& u : s.Red.ColUEHs)
-        AnotaSalida(s, d, u.NombreUEH, u.Cauce_aa);
-    for (const auto& c : s.Red.ColCauces)
-        AnotaSalida(s, d, c.NombreCauce, c.Cauce_aa);
-    for (const auto& l : s.Red.ColLagos)
-        AnotaSalida(s, d, l.NombreLAGO, l.Cauce_aa);
-    for (const auto& r : s.Red.ColRepresas)
-        AnotaSalida(s, d, r.NombreRepresa, r.Cauce_aa);
+    model::CadaComponente(s.Red, [&](const auto& c) {
+        if (!model::EsDestino(c.Cauce_aa) || !d.posibles.contains(c.Cauce_aa))
+            AnotaSalida(s, model::Nombre(c));
+    });
 }
 
 /// `lista`: what stands behind the words of the question, the names of components first.
@@ -101,14 +88,13 @@ void PreguntaPorLaRed(Siro& s, std::string_view texto, const std::string& lista,
 }
 
 /// Asks about the components of one kind that nothing drains into.
-template <typename Componentes, typename Nombre>
-void CompruebaAportes(Siro& s, const Destinos& d, const Componentes& componentes, Nombre nombre,
-                      std::string_view texto)
+template <typename T>
+void CompruebaAportes(Siro& s, const Destinos& d, std::string_view texto)
 {
     std::string lista;
-    for (const auto& c : componentes)
-        if (!EsDestino(nombre(c)) || !d.alimentados.contains(nombre(c)))
-            lista.append(nombre(c)).append(Separacion);
+    for (const T& c : model::Todos<T>(s.Red))
+        if (!model::EsDestino(model::Nombre(c)) || !d.alimentados.contains(model::Nombre(c)))
+            lista.append(model::Nombre(c)).append(Separacion);
     if (lista.empty()) return;
     PreguntaPorLaRed(s, texto, lista.append(Cola), TituloAportes);
     s.Control.ErrorRed = true;
@@ -124,25 +110,13 @@ void PreguntaPorSalidas(Siro& s)
 
 }  // namespace
 
-bool DrenaA(const std::string& Cauce_aa, const std::string& nombre)
-{
-    return EsDestino(Cauce_aa) && Cauce_aa == nombre;
-}
-
 void RehaceSecuencia(Siro& s)
 {
-    const int cuenta = s.Red.ColUEHs.Cuenta() + s.Red.ColCauces.Cuenta() + s.Red.ColLagos.Cuenta() +
-                       s.Red.ColRepresas.Cuenta();
+    int cuenta = 0;
+    model::CadaClase(s.Red, [&](const auto& coleccion) { cuenta += coleccion.Cuenta(); });
     s.Resultados.NroComponentes = model::Entero16(cuenta);
     s.Resultados.Secuencia.assign(1, {});
-    for (const auto& u : s.Red.ColUEHs)
-        s.Resultados.Secuencia.push_back(u.NombreUEH);
-    for (const auto& c : s.Red.ColCauces)
-        s.Resultados.Secuencia.push_back(c.NombreCauce);
-    for (const auto& l : s.Red.ColLagos)
-        s.Resultados.Secuencia.push_back(l.NombreLAGO);
-    for (const auto& r : s.Red.ColRepresas)
-        s.Resultados.Secuencia.push_back(r.NombreRepresa);
+    model::CadaComponente(s.Red, [&](const auto& c) { s.Resultados.Secuencia.push_back(model::Nombre(c)); });
 }
 
 void ComponenteFinal(Siro& s)
@@ -151,20 +125,16 @@ void ComponenteFinal(Siro& s)
     s.Control.ContinuarSinCorregir = false;
     s.Control.RedOk = false;
     RehaceSecuencia(s);
-    const Destinos d = BuscaDestinos(s);
+    const Destinos d = BuscaDestinos(s.Red);
     BuscaSalidas(s, d);
 
     if (s.Resultados.NroSalidas == 0 && s.Resultados.NroComponentes > 0) {
         PreguntaPorLaRed(s, TextoSinSalida, {}, TituloSinSalida);
         s.Control.ErrorRed = true;
     }
-    CompruebaAportes(
-        s, d, s.Red.ColCauces, [](const auto& c) -> const auto& { return c.NombreCauce; }, CaucesSinAporte);
-    CompruebaAportes(
-        s, d, s.Red.ColRepresas, [](const auto& r) -> const auto& { return r.NombreRepresa; },
-        RepresasSinAporte);
-    CompruebaAportes(
-        s, d, s.Red.ColLagos, [](const auto& l) -> const auto& { return l.NombreLAGO; }, LagosSinAporte);
+    CompruebaAportes<model::Cauce>(s, d, CaucesSinAporte);
+    CompruebaAportes<model::Represa>(s, d, RepresasSinAporte);
+    CompruebaAportes<model::Lago>(s, d, LagosSinAporte);
     if (s.Resultados.NroSalidas == 1) {
         s.Control.RedOk = !s.Control.ContinuarSinCorregir;
         return;

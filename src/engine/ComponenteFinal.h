@@ -14,7 +14,4 @@ void RehaceSecuencia(model::Siro& s);
 /// counts, its name isn't kept, and Falla 9 is reported for it.
 void ComponenteFinal(model::Siro& s);
 
-/// Whether a destination names a component: the empty text and "0" never do.
-bool DrenaA(const std::string& Cauce_aa, const std::string& nombre);
-
 }  // namespace engine

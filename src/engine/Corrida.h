@@ -6,6 +6,7 @@
 
 #include "engine/Aportes.h"
 #include "engine/Memoria.h"
+#include "engine/Muskingum.h"
 #include "engine/Renglon.h"
 #include "model/Arreglo.h"
 #include "model/Avisos.h"
@@ -16,8 +17,7 @@ namespace engine {
 /// Working values of one run of the main process, which its stages hand on to one another. All start at 0.
 ///
 /// The handler of the main process reports a fault and resumes at the next statement: `Intenta` runs one
-/// statement under it. Hot loops are run unchecked where `Seguro` or a stage has proved beforehand that no
-/// statement of theirs can fail.
+/// statement under it. Hot loops are run unchecked where it is proved that no statement of theirs can fail.
 struct Corrida {
     Corrida(model::Siro& estado, Memoria& loRecordado) : s(estado), memoria(loRecordado) {}
 
@@ -38,9 +38,9 @@ struct Corrida {
     // --- reaches, Lagos, Represas ---
     float QBaseEntra = 0;          ///< initial flow of the UEHs that drain straight into the component [m3/s]
     std::int16_t TiempoViaje = 0;  ///< [min]
-    std::int16_t RetardoPasos = 0;                          ///< [output steps]
-    std::int16_t RetardoMax = 0;                            ///< largest delay so far [output steps]
-    float DenMusk = 0, C0Musk = 0, C1Musk = 0, C2Musk = 0;  ///< Muskingum denominator [min] and coefficients
+    std::int16_t RetardoPasos = 0;  ///< [output steps]
+    std::int16_t RetardoMax = 0;    ///< largest delay so far [output steps]
+    Muskingum Musk{};               ///< of the component routed last by that method
 
     /// TextoPizarra is built. Off only where nobody can read it.
     bool ConTexto = true;
@@ -64,6 +64,12 @@ struct Corrida {
         Intenta([&] { vale = prueba(); });
         return vale;
     }
+    /// The results reach as far as network, steps and storm in hand go: no row of Secuencia, no step up to
+    /// NroPasosQ and no storm IndSerie lies outside QSale, QEntra and QMax, and minutes stay within 16 bits.
+    /// A fast loop has then only its numbers to prove.
+    [[nodiscard]] bool Alcanzan() const;
+    /// The same, and for what is kept by UEH.
+    [[nodiscard]] bool UEHsAlcanzan() const;
 };
 
 /// The k-th multiple of a step [min], in 16 bits. Throws Falla 6.

@@ -28,7 +28,8 @@ constexpr ClaseEmbalse ClaseRepresa = {
     "Per.k  t[min]  Qentra[m3/s] Qsale[m3/s]   H[m]     Vol.Alm.[m3]",
     "Error...Verifique función Altura Superficie de la Represa",
     " de la Represa ",
-    "Error <Proceso_en_Represa>, inconsistencia en el cálculo de <2S/dt + Q> en propagación Represa ",
+    "Error <Proceso_en_Represa>, inconsistencia en el cálculo de <2S/dt + Q> "
+    "en propagación Represa ",
     hydraulics::SdeHRepresa,
     hydraulics::HdeSRepresa,
     hydraulics::AdeHRepresa,
@@ -40,7 +41,8 @@ constexpr ClaseEmbalse ClaseLago = {
     "Per.k  t[min]  Qentra[mm] Qsale[m3/s]   H[m]     Vol.Alm.[m3]",
     "Error...Verifique función Altura Superficie de la Lago",
     " de la Lago ",
-    "Error <Proceso_en_Lago>, inconsistencia en el cálculo de <2S/dt + Q> en propagación Lago ",
+    "Error <Proceso_en_Lago>, inconsistencia en el cálculo de <2S/dt + Q> en "
+    "propagación Lago ",
     hydraulics::SdeHLago,
     hydraulics::HdeSLago,
     hydraulics::AdeHLago,
@@ -52,13 +54,10 @@ constexpr ClaseEmbalse ClaseLago = {
 
 void SumaAfluente(Corrida& c, const EmbalseEnMano& e, int afluente)
 {
-    Siro& s = c.s;
-    if (SumaSegura(s.Resultados.QEntra, e.fila, s.Resultados.QSale, afluente, s.Resultados.NroPasosQ))
-        return SumaFila(s.Resultados.QEntra.Fila(e.fila), s.Resultados.QSale.Fila(afluente),
-                        {1, s.Resultados.NroPasosQ});
-    for (int k = 1; k <= s.Resultados.NroPasosQ; ++k)
-        s.Resultados.QEntra(e.fila, k) =
-            Simple(double{s.Resultados.QSale(afluente, k)} + s.Resultados.QEntra(e.fila, k));
+    model::Resultados& r = c.s.Resultados;
+    if (c.Alcanzan() && SumaFila(r.QEntra.Fila(e.fila), r.QSale.Fila(afluente), r.NroPasosQ)) return;
+    for (int k = 1; k <= r.NroPasosQ; ++k)
+        r.QEntra(e.fila, k) = Simple(double{r.QSale(afluente, k)} + r.QEntra(e.fila, k));
 }
 
 void JuntaAfluentes(Corrida& c, const EmbalseEnMano& e)
@@ -79,19 +78,13 @@ bool PropagaMuskingum(Corrida& c, const EmbalseEnMano& e)
 {
     Siro& s = c.s;
     constexpr double X = 0;  // the Represa's own weight has no effect
-    if (!CoeficientesMuskingum(c, e.K, X, [](auto cuerpo) { cuerpo(); })) {
+    if (!c.Musk.Prepara(e.K, X, s.Pasos.PasoQ, [](auto cuerpo) { cuerpo(); })) {
         model::Advierte(s, TextoMuskingum(e.nombre));
         return false;
     }
     for (int k = 1; k <= s.Resultados.NroPasosQ; ++k) {
         s.Resultados.IndPaso = static_cast<std::int16_t>(k);
-        if (k == 1)
-            s.Resultados.QSale(e.fila, 1) = s.Resultados.QEntra(e.fila, 1);
-        else
-            s.Resultados.QSale(e.fila, k) =
-                Simple(s.Resultados.QSale(e.fila, k) + double{c.C0Musk} * s.Resultados.QEntra(e.fila, k) +
-                       double{c.C1Musk} * s.Resultados.QEntra(e.fila, k - 1) +
-                       double{c.C2Musk} * s.Resultados.QSale(e.fila, k - 1));
+        c.Musk.Paso(s.Resultados, e.fila, k);
         e.H(e.numero, k) = e.clase.HdeQalma(s, s.Resultados.QSale(e.fila, k));
         s.Resultados.HActual = e.H(e.numero, k);
         e.S(e.numero, k) = Simple(e.clase.SdeH(s, s.Resultados.HActual));
@@ -122,9 +115,10 @@ bool MetodoConocido(const std::string& metodo)
 /// Tells that a component names no method; "represa" is kept for a Lago.
 void AvisaMetodo(const Siro& s, const std::string& nombre)
 {
-    model::Advierte(
-        s, "Error, Seleccione el método de propagación de la represa en el formulario de Propiedades" +
-               nombre + ". ");
+    model::Advierte(s,
+                    "Error, Seleccione el método de propagación de la represa "
+                    "en el formulario de Propiedades" +
+                        nombre + ". ");
 }
 
 }  // namespace

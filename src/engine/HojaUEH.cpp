@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "engine/FormulasUEH.h"
+#include "engine/Resumen.h"
 #include "engine/Totales.h"
 #include "model/Numeros.h"
 
@@ -19,11 +21,10 @@ using model::Suma16;
 
 namespace {
 
-/// The base of the recession as written, not e.
-constexpr double BaseAbatimiento = 2.7183;
 constexpr float KDeReserva = 999999;
 constexpr std::string_view KIncorrecto =
-    "El parámetro de Singh (K de abatimiento) elegido es incorrecto, debe corregirlo. Se adopta "
+    "El parámetro de Singh (K de abatimiento) elegido es incorrecto, debe "
+    "corregirlo. Se adopta "
     "transitoriamente K=999999 ó 1/K cercano a '0'. Verifique...";
 constexpr double VolumenDespreciable = 0.001;  // [m3]
 
@@ -32,10 +33,9 @@ bool TieneRecesion(const model::UEH& u)
     return u.Q0Recesion > 0 && u.KRecesion > 0;
 }
 
-double CaudalBase(const Siro& s, const model::UEH& u, std::int16_t p)
+float CaudalBase(const Siro& s, const model::UEH& u, std::int16_t p)
 {
-    const double t = -1.0 * Minutos(p, s.Pasos.PasoQ);
-    return u.Q0Recesion * model::Potencia(BaseAbatimiento, Cociente(t, double{u.KRecesion} * 60));
+    return Simple(u.Q0Recesion * Abatimiento(u.KRecesion, Minutos(p, s.Pasos.PasoQ)));
 }
 
 // --- recession, statement by statement ---
@@ -44,16 +44,18 @@ void RecesionDeUEH(Corrida& c, std::int16_t p, int i, float& Qb)
 {
     Siro& s = c.s;
     if (!c.Vale([&] { return TieneRecesion(s.Red.UEHs(i)); })) return;
-    c.Intenta([&] { Qb = Simple(CaudalBase(s, s.Red.UEHs(i), p)); });
+    c.Intenta([&] { Qb = CaudalBase(s, s.Red.UEHs(i), p); });
     if (Qb < 0) {
         model::Advierte(s, std::string(KIncorrecto));
         c.Intenta([&] { s.Red.UEHs(i).KRecesion = KDeReserva; });
-        c.Intenta([&] { Qb = Simple(CaudalBase(s, s.Red.UEHs(i), p)); });
+        c.Intenta([&] { Qb = CaudalBase(s, s.Red.UEHs(i), p); });
     }
-    const double volumen = double{Qb} * s.Pasos.PasoQ * 60;
     c.Intenta([&] { s.Resultados.QSale(i, p) = Simple(double{s.Resultados.QSale(i, p)} + Qb); });
-    c.Intenta([&] { s.Resultados.VolBaseUEH(i) = Entero32(s.Resultados.VolBaseUEH(i) + volumen); });
-    c.Intenta([&] { c.VolBaseTotal = Entero32(c.VolBaseTotal + volumen); });
+    c.Intenta([&] {
+        std::int32_t& volumen = s.Resultados.VolBaseUEH(i);
+        volumen = SumaBase(volumen, Qb, s.Pasos.PasoQ);
+    });
+    c.Intenta([&] { c.VolBaseTotal = SumaBase(c.VolBaseTotal, Qb, s.Pasos.PasoQ); });
 }
 
 void RecesionUnaPorUna(Corrida& c)
@@ -66,25 +68,19 @@ void RecesionUnaPorUna(Corrida& c)
 
 // --- recession, proved beforehand ---
 
-/// No statement of the recession can be at fault: minutes within 16 bits, volumes within 32.
-bool RecesionSegura(Corrida& c)
+/// No statement of the recession can be at fault: volumes stay within 32 bits.
+bool RecesionSegura(const Corrida& c)
 {
-    Siro& s = c.s;
-    if (s.Pasos.PasoQ < 1 || s.Resultados.NroPasosQ < 1 || s.Resultados.NroPasosQ * s.Pasos.PasoQ > INT16_MAX)
-        return false;
-    if (s.Red.NroUEHs > s.Red.ColUEHs.Cuenta() || s.Red.NroUEHs > model::MaxUEHs) return false;
-    if (s.Resultados.QSale.UltimaFila() < s.Red.NroUEHs ||
-        s.Resultados.QSale.TopeColumna() < s.Resultados.NroPasosQ)
-        return false;
-    if (s.Resultados.VolBaseUEH.Tope() < s.Red.NroUEHs) return false;
+    if (!c.UEHsAlcanzan()) return false;
+    const model::Resultados& r = c.s.Resultados;
     double total = 0;
-    for (int i = 1; i <= s.Red.NroUEHs; ++i) {
-        const model::UEH& u = s.Red.UEHs(i);
-        // a constant this short would make powers too small for the type
+    for (int i = 1; i <= c.s.Red.NroUEHs; ++i) {
+        const model::UEH& u = c.s.Red.ColUEHs.Item(i);
         if (!TieneRecesion(u)) continue;
+        // a constant this short would make powers too small for the type
         if (u.KRecesion < 0.001F || u.Q0Recesion > 1e6F) return false;
-        if (!(Mayor(s.Resultados.QSale.Fila(i), 1, s.Resultados.NroPasosQ) < 1e30F)) return false;
-        total += (double{u.Q0Recesion} * s.Pasos.PasoQ * 60 + 1) * s.Resultados.NroPasosQ;
+        if (!(Mayor(r.QSale.Fila(i), 1, r.NroPasosQ) < 1e30F)) return false;
+        total += (double{u.Q0Recesion} * c.s.Pasos.PasoQ * 60 + 1) * r.NroPasosQ;
     }
     return total < INT32_MAX;
 }
@@ -97,8 +93,7 @@ TablaAbatimiento& AbatimientoDe(Corrida& c, float K)
                               [&](const TablaAbatimiento& t) { return t.K == K && t.paso == paso; });
     if (tabla == tablas.end()) tabla = tablas.insert(tablas.end(), {K, paso, {1}});
     for (auto p = tabla->potencia.size(); p <= static_cast<std::size_t>(c.s.Resultados.NroPasosQ); ++p)
-        tabla->potencia.push_back(
-            std::pow(BaseAbatimiento, -static_cast<double>(p) * paso / (double{K} * 60)));
+        tabla->potencia.push_back(Abatimiento(K, static_cast<double>(p) * paso));
     return *tabla;
 }
 
@@ -107,14 +102,14 @@ void RecesionRapida(Corrida& c)
     Siro& s = c.s;
     const auto pasos = static_cast<std::size_t>(s.Resultados.NroPasosQ);
     std::vector<float> Qb;  // one run of steps per UEH with recession
-    std::vector<int> conRecesion;
+    std::size_t conRecesion = 0;
     for (int i = 1; i <= s.Red.NroUEHs; ++i) {
         const model::UEH& u = s.Red.UEHs(i);
         if (!TieneRecesion(u)) continue;
         const double* potencia = AbatimientoDe(c, u.KRecesion).potencia.data();
         float* q = s.Resultados.QSale.Fila(i);
         std::int32_t& volumen = s.Resultados.VolBaseUEH(i);
-        conRecesion.push_back(i);
+        ++conRecesion;
         for (std::size_t p = 1; p <= pasos; ++p) {
             const auto base = static_cast<float>(u.Q0Recesion * potencia[p]);
             q[p] = static_cast<float>(double{q[p]} + base);
@@ -123,11 +118,9 @@ void RecesionRapida(Corrida& c)
         }
     }
     // The basin's volume is rounded at each share: the order of steps, then UEHs, is part of it.
-    double total = c.VolBaseTotal;
     for (std::size_t p = 0; p < pasos; ++p)
-        for (std::size_t n = 0; n < conRecesion.size(); ++n)
-            total = std::nearbyint(total + double{Qb[n * pasos + p]} * s.Pasos.PasoQ * 60);
-    c.VolBaseTotal = static_cast<std::int32_t>(total);
+        for (std::size_t n = 0; n < conRecesion; ++n)
+            c.VolBaseTotal = SumaBase(c.VolBaseTotal, Qb[n * pasos + p], s.Pasos.PasoQ);
 }
 
 // --- hydrographs ---
@@ -181,58 +174,37 @@ void HidrogramasUnoPorUno(Corrida& c)
             EscribeParte(c, p, i);
             s.Control.TextoPizarra.append(12, ' ');
             c.Intenta([&] {
-                s.Resultados.VolUEH(i) =
-                    Simple(1.0 * s.Pasos.PasoQ * s.Resultados.QSale(i, p) * 60 + s.Resultados.VolUEH(i));
+                float& volumen = s.Resultados.VolUEH(i);
+                volumen = Simple(SumaVolumen(volumen, s.Resultados.QSale(i, p), s.Pasos.PasoQ));
             });
-            c.Intenta([&] {
-                if (s.Resultados.QSale(i, p) > s.Resultados.QMax(i, s.Serie.IndSerie))
-                    s.Resultados.QMax(i, s.Serie.IndSerie) = s.Resultados.QSale(i, p);
-            });
+            c.Intenta([&] { SubePico(s, i, p); });
         }
         s.Control.TextoPizarra.append("\r\n ").append(c.Linea.Texto());
     }
 }
 
-bool HidrogramasSeguros(Corrida& c)
+/// Volumes and peaks alone, where nobody can read the table. Returns false, and does nothing, where a
+/// statement of the table could be at fault.
+bool HidrogramasSinTexto(Corrida& c)
 {
     Siro& s = c.s;
-    if (s.Pasos.PasoQ < 1 || s.Resultados.NroPasosQ < 1 || s.Resultados.NroPasosQ * s.Pasos.PasoQ > INT16_MAX)
-        return false;
-    if (s.Pasos.PasoPp + s.Tormenta.DurTormenta > INT16_MAX ||
-        s.Resultados.NroPasosQ + c.RelacionPasos > INT16_MAX)
-        return false;
-    if (s.Red.NroUEHs > s.Red.ColUEHs.Cuenta() || s.Red.NroUEHs > model::MaxUEHs) return false;
-    if (s.Resultados.QSale.UltimaFila() < s.Red.NroUEHs ||
-        s.Resultados.QSale.TopeColumna() < s.Resultados.NroPasosQ)
-        return false;
-    if (s.Resultados.VolUEH.Tope() < s.Red.NroUEHs) return false;
-    if (s.Resultados.QMax.UltimaFila() < s.Red.NroUEHs || s.Serie.IndSerie < 0 ||
-        s.Resultados.QMax.TopeColumna() < s.Serie.IndSerie)
-        return false;
+    model::Resultados& r = s.Resultados;
+    if (!c.UEHsAlcanzan() || r.NroPasosQ + c.RelacionPasos > INT16_MAX) return false;
     const int ultimoConLluvia = (s.Pasos.PasoPp + s.Tormenta.DurTormenta - 1) / s.Pasos.PasoQ;
-    const int m =
-        (std::min<int>(ultimoConLluvia, s.Resultados.NroPasosQ) + c.RelacionPasos - 1) / c.RelacionPasos;
-    if (s.Resultados.PpUEHPaso.UltimaFila() < s.Red.NroUEHs || s.Resultados.PpUEHPaso.TopeColumna() < m)
-        return false;
-    for (int i = 1; i <= s.Red.NroUEHs; ++i)
-        if (!VolumenSeguro(s.Resultados.QSale.Fila(i), s.Resultados.NroPasosQ, s.Pasos.PasoQ)) return false;
-    return true;
-}
+    const int m = (std::min<int>(ultimoConLluvia, r.NroPasosQ) + c.RelacionPasos - 1) / c.RelacionPasos;
+    if (r.PpUEHPaso.TopeColumna() < m) return false;
 
-/// Volumes and peaks alone, where nobody can read the table.
-void HidrogramasSinTexto(Corrida& c)
-{
-    Siro& s = c.s;
     std::vector<const float*> filas;
     for (int i = 1; i <= s.Red.NroUEHs; ++i)
-        filas.push_back(s.Resultados.QSale.Fila(i));
+        filas.push_back(r.QSale.Fila(i));
     std::vector<float> volumenes(filas.size());
-    SumaVolumenes(filas, {1, s.Resultados.NroPasosQ}, s.Pasos.PasoQ, volumenes);
-    for (int i = 1; i <= s.Red.NroUEHs; ++i) {
-        s.Resultados.VolUEH(i) = volumenes[static_cast<std::size_t>(i) - 1];
-        float& maximo = s.Resultados.QMax(i, s.Serie.IndSerie);
-        maximo = std::max(maximo, Mayor(s.Resultados.QSale.Fila(i), 1, s.Resultados.NroPasosQ));
-    }
+    SumaVolumenes(filas, {1, r.NroPasosQ}, s.Pasos.PasoQ, volumenes);
+    if (!std::all_of(volumenes.begin(), volumenes.end(), [](float v) { return std::isfinite(v); }))
+        return false;
+    std::copy(volumenes.begin(), volumenes.end(), r.VolUEH.Datos() + 1);
+    for (int i = 1; i <= s.Red.NroUEHs; ++i)
+        SubePico(s, i, {1, r.NroPasosQ});
+    return true;
 }
 
 // --- volumes ---
@@ -319,7 +291,7 @@ void SumaRecesion(Corrida& c)
 
 void HidrogramasDeUEHs(Corrida& c)
 {
-    if (!c.ConTexto && HidrogramasSeguros(c)) return HidrogramasSinTexto(c);
+    if (!c.ConTexto && HidrogramasSinTexto(c)) return;
     EncabezaHidrogramas(c);
     HidrogramasUnoPorUno(c);
 }

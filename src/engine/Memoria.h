@@ -7,13 +7,13 @@
 #include <vector>
 
 #include "engine/Aportes.h"
+#include "engine/FormulasUEH.h"
 
 namespace engine {
 
-/// Potential infiltration of one UEH by the reading of its clock; what it was worked out for stands beside.
+/// Potential infiltration of one UEH by the reading of its clock.
 struct TablaInfiltracion {
-    float a = 0, b = 0, inicial = 0;
-    std::int16_t paso = 0;
+    Infiltracion de{};             ///< what it was worked out for
     std::vector<float> lamina{0};  ///< depth of a step [mm], by the clock's whole number from 1
 };
 

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "model/Clases.h"
 #include "model/Numeros.h"
 
 namespace engine {
@@ -16,15 +17,10 @@ namespace {
 
 /// Destination of each component above the UEHs, by name: a reach before a Lago before a Represa, and the
 /// first of equal names.
-std::unordered_map<std::string_view, std::string_view> BuscaDestinos(const Siro& s)
+std::unordered_map<std::string_view, std::string_view> BuscaDestinos(const model::Red& red)
 {
     std::unordered_map<std::string_view, std::string_view> destinos;
-    for (const auto& c : s.Red.ColCauces)
-        destinos.try_emplace(c.NombreCauce, c.Cauce_aa);
-    for (const auto& l : s.Red.ColLagos)
-        destinos.try_emplace(l.NombreLAGO, l.Cauce_aa);
-    for (const auto& r : s.Red.ColRepresas)
-        destinos.try_emplace(r.NombreRepresa, r.Cauce_aa);
+    model::CadaReceptor(red, [&](const auto& c) { destinos.try_emplace(model::Nombre(c), c.Cauce_aa); });
     return destinos;
 }
 
@@ -37,7 +33,7 @@ struct Lugar {
 
 std::vector<Lugar> NumeraNombres(const Siro& s, int primero)
 {
-    const auto destinos = BuscaDestinos(s);
+    const auto destinos = BuscaDestinos(s.Red);
     std::unordered_map<std::string_view, int> numeros;
     for (int i = primero; i <= s.Resultados.NroComponentes; ++i)
         numeros.try_emplace(s.Resultados.Secuencia[static_cast<std::size_t>(i)],
@@ -49,7 +45,7 @@ std::vector<Lugar> NumeraNombres(const Siro& s, int primero)
         lugar.nombre = numeros.at(nombre);
         const auto destino = destinos.find(nombre);
         if (destino == destinos.end()) throw model::Falla{model::NumeroFalla::ObjetoNoEstablecido};
-        if (destino->second.empty() || destino->second == "0") continue;
+        if (!model::EsDestino(destino->second)) continue;
         if (const auto numero = numeros.find(destino->second); numero != numeros.end())
             lugar.destino = numero->second;
     }

@@ -4,7 +4,9 @@
 #include <algorithm>
 #include <cmath>
 #include <span>
+#include <vector>
 
+#include "engine/FormulasUEH.h"
 #include "engine/modDistriPp.h"
 #include "model/Numeros.h"
 
@@ -18,8 +20,6 @@ namespace {
 // Within these bounds products of all the factors of a step stay far below the largest 32-bit float.
 constexpr float Moderado = 1e9F;
 constexpr float PpModerada = 1e6F;
-constexpr float TiempoModerado = 1e6F;
-constexpr float ExponenteModerado = 4;
 constexpr double VecesModeradas = 1e25;  // a UEH's area by that of all, which nearly cancel out
 
 bool EnLimite(float x, float limite)
@@ -45,60 +45,57 @@ double TiempoDeLadera(const UEH& u)
 }
 
 /// Points of a trapezoid: the output steps before T + PasoPp.
-int PuntosDelTrapecio(const Siro& s, int T)
+int PuntosDelTrapecio(const model::Pasos& pasos, int T)
 {
-    return (T + s.Pasos.PasoPp - 1) / s.Pasos.PasoQ;
+    return (T + pasos.PasoPp - 1) / pasos.PasoQ;
 }
 
-bool PasosEnRango(const Corrida& c)
-{
-    const Siro& s = c.s;
-    if (s.Red.NroUEHs < 1 || s.Red.NroUEHs > model::MaxUEHs || s.Red.ColUEHs.Cuenta() < s.Red.NroUEHs)
-        return false;
-    if (s.Pasos.PasoQ < 1 || s.Pasos.PasoPp < s.Pasos.PasoQ || s.Tormenta.DurTormenta < 1 ||
-        c.RelacionPasos < 1)
-        return false;
-    if (s.Tormenta.DurTormenta + s.Pasos.PasoPp > INT16_MAX || c.NroPasosPp * s.Pasos.PasoPp > INT16_MAX)
-        return false;
-    return s.Pasos.PasoPp == c.RelacionPasos * s.Pasos.PasoQ && c.NroPasosPp >= 1 &&
-           c.NroPasosPp * c.RelacionPasos <= INT16_MAX;
-}
-
-bool ArreglosAlcanzan(const Corrida& c)
-{
-    const Siro& s = c.s;
-    const int n = s.Red.NroUEHs;
-    return s.Resultados.PpUEHPaso.UltimaFila() >= n &&
-           s.Resultados.PpUEHPaso.TopeColumna() >= UltimoPasoConLluvia(c) &&
-           s.Resultados.QSale.UltimaFila() >= n && s.Resultados.NroPasosQ >= 1 &&
-           s.Resultados.QSale.TopeColumna() == s.Resultados.NroPasosQ + 1 &&
-           s.Resultados.PasosInfiltra.Tope() >= n && c.RetencionRestante.Tope() >= n &&
-           c.PpMediaPaso.Tope() >= c.NroPasosPp - 1;
-}
+/// Translation on one slope. What an endless rain would bring to its foot rises for T minutes and then stays;
+/// the excess of one model step brings that curve less the same curve a model step later: a trapezoid.
+struct Ladera {
+    std::int16_t T = 0;        ///< travel time [min]
+    int puntos = 0;            ///< output steps that the trapezoid lasts
+    int subida = 0;            ///< of these, the ones in which the curve still rises
+    std::vector<float> curva;  ///< room for the curve, behind a model step of zeros
+};
 
 bool UEHModerada(const Corrida& c, const UEH& u)
 {
-    const Siro& s = c.s;
-    for (const float x : {u.Area, u.RetensionZ, u.KostiakovA, u.LongitudMax, u.VelMedia})
+    const model::Pasos& pasos = c.s.Pasos;
+    for (const float x : {u.Area, u.RetensionZ, u.LongitudMax, u.VelMedia})
         if (!EnLimite(x, Moderado)) return false;
     if (std::fabs(double{u.Area}) > VecesModeradas * std::fabs(double{c.AreaTotal})) return false;
-    if (u.KostiakovB < 0 || u.KostiakovB > ExponenteModerado) return false;
-    if (u.KostiakovI < 0 || u.KostiakovI > TiempoModerado || u.VelMedia == 0) return false;
+    if (u.VelMedia == 0 || !Infiltracion(u, pasos.PasoPp).EsModerada()) return false;
     const double T = TiempoDeLadera(u);
-    if (!(T >= 0 && T + s.Pasos.PasoPp + s.Pasos.PasoQ <= INT16_MAX)) return false;
-    const int puntos = PuntosDelTrapecio(s, static_cast<int>(T));
-    return c.NroPasosPp * c.RelacionPasos + puntos < INT16_MAX;
+    if (!(T >= 0 && T + pasos.PasoPp + pasos.PasoQ <= INT16_MAX)) return false;
+    return c.NroPasosPp * c.RelacionPasos + PuntosDelTrapecio(pasos, static_cast<int>(T)) < INT16_MAX;
 }
 
-/// Depth that could infiltrate in the step that the clock tells, Kostiakov's curve at the shifted time.
-float LaminaInfiltrada(TablaInfiltracion& tabla, std::size_t n)
+bool PasosSeguros(Corrida& c)
 {
-    while (tabla.lamina.size() <= n) {
-        const double t = static_cast<double>(tabla.lamina.size()) * tabla.paso + double{tabla.inicial};
-        const double I = tabla.a * (std::pow(t, double{tabla.b}) - std::pow(t - tabla.paso, double{tabla.b}));
-        tabla.lamina.push_back(std::max(static_cast<float>(I), 0.0F));
-    }
-    return tabla.lamina[n];
+    Siro& s = c.s;
+    const model::Pasos& pasos = s.Pasos;
+    const model::Resultados& r = s.Resultados;
+    if (!c.UEHsAlcanzan() || s.Tormenta.DurTormenta < 1 || c.NroPasosPp < 1 || c.RelacionPasos < 1)
+        return false;
+    if (pasos.PasoPp != c.RelacionPasos * pasos.PasoQ || c.NroPasosPp * pasos.PasoPp > INT16_MAX)
+        return false;
+    if (r.QSale.TopeColumna() != r.NroPasosQ + 1 || c.PpMediaPaso.Tope() < c.NroPasosPp - 1) return false;
+    if (r.PpUEHPaso.TopeColumna() < UltimoPasoConLluvia(c)) return false;
+    if (c.AreaTotal == 0 || !EnLimite(s.Tormenta.PpTormenta, PpModerada)) return false;
+    for (const auto* a : {&s.Tormenta.PpUEH, &s.Hietograma.PpAcum, &s.Hietograma.IntensidadPp})
+        if (!TodosEnLimite(*a, PpModerada)) return false;
+    for (int i = 1; i <= s.Red.NroUEHs; ++i)
+        if (!UEHModerada(c, s.Red.UEHs(i))) return false;
+    return true;
+}
+
+/// Depth that could infiltrate in the step that the clock tells.
+float LaminaInfiltrada(TablaInfiltracion& tabla, std::size_t reloj)
+{
+    while (tabla.lamina.size() <= reloj)
+        tabla.lamina.push_back(tabla.de.Lamina(static_cast<double>(tabla.lamina.size())));
+    return tabla.lamina[reloj];
 }
 
 TablaInfiltracion& TablaDe(Corrida& c, int i)
@@ -106,10 +103,8 @@ TablaInfiltracion& TablaDe(Corrida& c, int i)
     auto& tablas = c.memoria.infiltracion;
     if (tablas.size() < static_cast<std::size_t>(i)) tablas.resize(static_cast<std::size_t>(i));
     TablaInfiltracion& tabla = tablas[static_cast<std::size_t>(i) - 1];
-    const UEH& u = c.s.Red.UEHs(i);
-    if (tabla.a != u.KostiakovA || tabla.b != u.KostiakovB || tabla.inicial != u.KostiakovI ||
-        tabla.paso != c.s.Pasos.PasoPp)
-        tabla = {u.KostiakovA, u.KostiakovB, u.KostiakovI, c.s.Pasos.PasoPp, {0}};
+    const Infiltracion ahora(c.s.Red.UEHs(i), c.s.Pasos.PasoPp);
+    if (tabla.de != ahora) tabla = {ahora, {0}};
     return tabla;
 }
 
@@ -125,14 +120,11 @@ void CaudalesDelExceso(Corrida& c, int i, std::span<float> caudales)
     for (std::size_t k = 1; k < caudales.size(); ++k) {
         const float Pp = lluvia[k];
         float R = 0;
-        if (restante != 0) {
-            R = Pp < restante ? Pp : restante;
-            restante = Pp < restante ? restante - R : 0;
-        }
+        Retiene(Pp, restante, R);
         const float N = Pp - R;
         const float I = N != 0 ? LaminaInfiltrada(tabla, reloj++) : 0;
         const float E = N > I ? N - I : 0;
-        caudales[k] = static_cast<float>(double{E} / s.Pasos.PasoPp * FactorCaudal * u.Area);
+        caudales[k] = CaudalDelExceso(E, s.Pasos.PasoPp, u.Area);
     }
     c.RetencionRestante(i) = restante;
     s.Resultados.PasosInfiltra(i) = static_cast<float>(reloj);
@@ -140,13 +132,10 @@ void CaudalesDelExceso(Corrida& c, int i, std::span<float> caudales)
 
 Ladera PreparaLadera(const Corrida& c, const UEH& u)
 {
-    const Siro& s = c.s;
     Ladera l;
-    l.T = static_cast<int>(TiempoDeLadera(u));
-    l.puntos = PuntosDelTrapecio(s, l.T);
-    l.subida = l.T > 0 ? std::min((l.T - 1) / s.Pasos.PasoQ, l.puntos) : 0;
-    for (int j = 0; j <= l.subida; ++j)
-        l.minutos.push_back(j * s.Pasos.PasoQ);
+    l.T = static_cast<std::int16_t>(TiempoDeLadera(u));
+    l.puntos = PuntosDelTrapecio(c.s.Pasos, l.T);
+    l.subida = l.T > 0 ? std::min((l.T - 1) / c.s.Pasos.PasoQ, l.puntos) : 0;
     l.curva.resize(static_cast<std::size_t>(c.RelacionPasos) + static_cast<std::size_t>(l.puntos) + 1);
     return l;
 }
@@ -154,12 +143,10 @@ Ladera PreparaLadera(const Corrida& c, const UEH& u)
 /// Adds the trapezoid of one step to the hydrograph; `q` stands one point before the first.
 void SumaTrapecio(const Corrida& c, Ladera& l, float caudal, float* __restrict q)
 {
-    const double pendiente = l.T > 0 ? double{caudal} / l.T : 0;
-    const double* minutos = l.minutos.data();
     const float* __restrict antes = l.curva.data();  // the curve a model step before
     float* __restrict curva = l.curva.data() + c.RelacionPasos;
     for (int j = 1; j <= l.subida; ++j)
-        curva[j] = static_cast<float>(pendiente * minutos[j]);
+        curva[j] = static_cast<float>(SubidaDeLadera(caudal, l.T, j * c.s.Pasos.PasoQ));
     std::fill(curva + l.subida + 1, curva + l.puntos + 1, caudal);
     for (int j = 1; j <= l.puntos; ++j)
         q[j] = static_cast<float>(double{q[j]} + curva[j] - antes[j]);
@@ -207,38 +194,9 @@ int UltimoPasoQ(const Corrida& c, std::span<const Ladera> laderas,
 
 }  // namespace
 
-bool PasosSeguros(Corrida& c)
+bool PasosRapidos(Corrida& c)
 {
-    Siro& s = c.s;
-    if (!PasosEnRango(c) || !ArreglosAlcanzan(c)) return false;
-    if (c.AreaTotal == 0 || !EnLimite(s.Tormenta.PpTormenta, PpModerada)) return false;
-    if (!TodosEnLimite(s.Tormenta.PpUEH, PpModerada) || !TodosEnLimite(s.Hietograma.PpAcum, PpModerada) ||
-        !TodosEnLimite(s.Hietograma.IntensidadPp, PpModerada))
-        return false;
-    for (int i = 1; i <= s.Red.NroUEHs; ++i)
-        if (!UEHModerada(c, s.Red.UEHs(i))) return false;
-    return true;
-}
-
-std::vector<Ladera> PreparaLaderas(Corrida& c)
-{
-    std::vector<Ladera> laderas;
-    for (int i = 1; i <= c.s.Red.NroUEHs; ++i)
-        laderas.push_back(PreparaLadera(c, c.s.Red.UEHs(i)));
-    return laderas;
-}
-
-void SumaTrapecioDelPaso(Corrida& c, Ladera& l, std::int16_t k, int i, float caudal)
-{
-    Siro& s = c.s;
-    const int antes = (k - 1) * c.RelacionPasos;
-    if (const int ultimo = UltimoPasoCon(l, antes, s.Resultados.NroPasosQ); ultimo != s.Resultados.NroPasosQ)
-        Alarga(c, static_cast<std::int16_t>(ultimo));
-    SumaTrapecio(c, l, caudal, s.Resultados.QSale.Fila(i) + antes);
-}
-
-void PasosRapidos(Corrida& c)
-{
+    if (!PasosSeguros(c)) return false;
     Siro& s = c.s;
     const int conLluvia = UltimoPasoConLluvia(c);
     if (s.Tormenta.FormaPp == static_cast<std::int16_t>(model::FormaLluvia::PorUEH)) {
@@ -248,23 +206,20 @@ void PasosRapidos(Corrida& c)
         LluviaPareja(c, conLluvia);
     }
 
-    std::vector<std::vector<float>> caudales(static_cast<std::size_t>(s.Red.NroUEHs));
+    std::vector<Ladera> laderas;
+    std::vector<std::vector<float>> caudales;
     for (int i = 1; i <= s.Red.NroUEHs; ++i) {
-        auto& fila = caudales[static_cast<std::size_t>(i) - 1];
-        fila.resize(static_cast<std::size_t>(conLluvia) + 1);
-        CaudalesDelExceso(c, i, fila);
+        laderas.push_back(PreparaLadera(c, s.Red.UEHs(i)));
+        CaudalesDelExceso(c, i, caudales.emplace_back(static_cast<std::size_t>(conLluvia) + 1));
     }
-    std::vector<Ladera> laderas = PreparaLaderas(c);
     if (const int ultimo = UltimoPasoQ(c, laderas, caudales); ultimo != s.Resultados.NroPasosQ)
         Alarga(c, static_cast<std::int16_t>(ultimo));
-    for (int i = 1; i <= s.Red.NroUEHs; ++i) {
-        const auto& fila = caudales[static_cast<std::size_t>(i) - 1];
-        for (std::size_t k = 1; k < fila.size(); ++k)
-            if (fila[k] != 0)
-                SumaTrapecio(
-                    c, laderas[static_cast<std::size_t>(i) - 1], fila[k],
-                    s.Resultados.QSale.Fila(i) + (k - 1) * static_cast<std::size_t>(c.RelacionPasos));
+    for (std::size_t u = 0; u < laderas.size(); ++u) {
+        float* q = s.Resultados.QSale.Fila(static_cast<int>(u) + 1);
+        for (std::size_t k = 1; k < caudales[u].size(); ++k, q += c.RelacionPasos)
+            if (caudales[u][k] != 0) SumaTrapecio(c, laderas[u], caudales[u][k], q);
     }
+    return true;
 }
 
 }  // namespace engine

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/PasosUEH.h"
 
-#include <algorithm>
-#include <cmath>
-
+#include "engine/FormulasUEH.h"
 #include "engine/PasosRapidos.h"
 #include "engine/modDistriPp.h"
 #include "model/Numeros.h"
@@ -22,16 +20,17 @@ constexpr std::int16_t FormaPorUEH = static_cast<std::int16_t>(model::FormaLluvi
 
 /// Values of one step in one UEH; they keep what they held where a statement is at fault.
 struct Paso {
-    float Pp = 0;                ///< rainfall [mm]
-    float R = 0;                 ///< retained depth [mm]
-    float N = 0;                 ///< net rain [mm]
-    float I = 0;                 ///< potential infiltration [mm]
-    float E = 0;                 ///< excess [mm]
-    float CaudalPp = 0;          ///< flow of the excess [m3/s]
-    std::int16_t T = 0;          ///< travel time on the slope [min]
-    std::int16_t j = 0, tj = 0;  ///< point of the trapezoid from 1, and its time [min]
-    std::int16_t p = 0;          ///< output step of a point of the trapezoid
-    float A = 0, B = 0;          ///< rising and falling curve [m3/s]
+    float Pp = 0;        ///< rainfall [mm]
+    float R = 0;         ///< retained depth [mm]
+    float N = 0;         ///< net rain [mm]
+    float I = 0;         ///< potential infiltration [mm]
+    float E = 0;         ///< excess [mm]
+    float CaudalPp = 0;  ///< flow of the excess [m3/s]
+    std::int16_t T = 0;  ///< travel time on the slope [min]
+    std::int16_t j = 0,
+                 tj = 0;  ///< point of the trapezoid from 1, and its time [min]
+    std::int16_t p = 0;   ///< output step of a point of the trapezoid
+    float A = 0, B = 0;   ///< rising and falling curve [m3/s]
 };
 
 bool HayLluvia(Corrida& c, std::int16_t k)
@@ -66,20 +65,6 @@ void LluviaPareja(Corrida& c, std::int16_t k)
     }
 }
 
-void Retiene(Corrida& c, int i, Paso& v)
-{
-    float& restante = c.RetencionRestante(i);
-    if (restante == 0) {
-        v.R = 0;
-    } else if (v.Pp < restante) {
-        v.R = v.Pp;
-        c.Intenta([&] { restante = Simple(double{restante} - v.R); });
-    } else {
-        v.R = restante;
-        restante = 0;
-    }
-}
-
 void Infiltra(Corrida& c, int i, Paso& v)
 {
     Siro& s = c.s;
@@ -87,13 +72,8 @@ void Infiltra(Corrida& c, int i, Paso& v)
         v.I = 0;
         return;
     }
-    c.Intenta([&] {
-        const model::UEH& u = s.Red.UEHs(i);
-        const double t = double{s.Resultados.PasosInfiltra(i)} * s.Pasos.PasoPp + u.KostiakovI;
-        v.I = Simple(u.KostiakovA *
-                     (model::Potencia(t, u.KostiakovB) - model::Potencia(t - s.Pasos.PasoPp, u.KostiakovB)));
-    });
-    if (v.I < 0) v.I = 0;
+    c.Intenta(
+        [&] { v.I = Infiltracion(s.Red.UEHs(i), s.Pasos.PasoPp).Lamina(s.Resultados.PasosInfiltra(i)); });
     c.Intenta([&] { s.Resultados.PasosInfiltra(i) = Simple(double{s.Resultados.PasosInfiltra(i)} + 1); });
 }
 
@@ -115,11 +95,10 @@ void EscribePaso(Corrida& c, std::int16_t k, int i, const Paso& v)
 void PuntoDelTrapecio(Corrida& c, std::int16_t k, int i, Paso& v)
 {
     Siro& s = c.s;
-    c.Intenta([&] { v.A = v.T <= v.tj ? v.CaudalPp : Simple(Cociente(v.CaudalPp, v.T) * v.tj); });
+    c.Intenta([&] { v.A = v.T <= v.tj ? v.CaudalPp : Simple(SubidaDeLadera(v.CaudalPp, v.T, v.tj)); });
     c.Intenta([&] {
-        v.B = v.tj <= s.Pasos.PasoPp
-                  ? 0
-                  : Simple(Cociente(v.CaudalPp, v.T) * model::Entero16(v.tj - s.Pasos.PasoPp));
+        const int desdeElFin = v.tj - s.Pasos.PasoPp;
+        v.B = desdeElFin <= 0 ? 0 : Simple(SubidaDeLadera(v.CaudalPp, v.T, model::Entero16(desdeElFin)));
     });
     c.Intenta([&] { v.p = model::Entero16(Suma16(Producto16(k, c.RelacionPasos), v.j) - c.RelacionPasos); });
     if (c.Vale([&] { return v.p > Suma16(s.Resultados.NroPasosQ, 1); })) Alarga(c, v.p);
@@ -143,8 +122,7 @@ void Traslada(Corrida& c, std::int16_t k, int i, Paso& v)
     }
 }
 
-/// One step of one UEH; `ladera`, its slope, only where no point of a trapezoid can be at fault.
-void PasoDeUEH(Corrida& c, std::int16_t k, int i, Ladera* ladera, Paso& v)
+void PasoDeUEH(Corrida& c, std::int16_t k, int i, Paso& v)
 {
     Siro& s = c.s;
     if (HayLluvia(c, k))
@@ -155,21 +133,27 @@ void PasoDeUEH(Corrida& c, std::int16_t k, int i, Ladera* ladera, Paso& v)
         c.PpMediaPaso(k) =
             Simple(c.PpMediaPaso(k) + Cociente(double{v.Pp} * s.Red.UEHs(i).Area, c.AreaTotal));
     });
-    c.Intenta([&] { Retiene(c, i, v); });
+    c.Intenta([&] { Retiene(v.Pp, c.RetencionRestante(i), v.R); });
     c.Intenta([&] { v.N = Simple(double{v.Pp} - v.R); });
     Infiltra(c, i, v);
     if (v.N > v.I)
         c.Intenta([&] { v.E = Simple(double{v.N} - v.I); });
     else
         v.E = 0;
-    c.Intenta(
-        [&] { v.CaudalPp = Simple(Cociente(v.E, s.Pasos.PasoPp) * FactorCaudal * s.Red.UEHs(i).Area); });
+    c.Intenta([&] { v.CaudalPp = CaudalDelExceso(v.E, s.Pasos.PasoPp, s.Red.UEHs(i).Area); });
     EscribePaso(c, k, i, v);
-    if (v.CaudalPp == 0) return;
-    if (ladera != nullptr)
-        SumaTrapecioDelPaso(c, *ladera, k, i, v.CaudalPp);
-    else
-        Traslada(c, k, i, v);
+    if (v.CaudalPp != 0) Traslada(c, k, i, v);
+}
+
+/// The model steps with every check.
+void PasosUnoPorUno(Corrida& c)
+{
+    Paso valores;
+    for (std::int16_t k = 1; k < c.NroPasosPp; ++k) {
+        LluviaDelPaso(c, k);
+        for (int i = 1; i <= c.s.Red.NroUEHs; ++i)
+            PasoDeUEH(c, k, i, valores);
+    }
 }
 
 }  // namespace
@@ -192,30 +176,14 @@ void LluviaDelPaso(Corrida& c, std::int16_t k)
         LluviaPareja(c, k);
 }
 
-void PasosUnoPorUno(Corrida& c)
-{
-    Siro& s = c.s;
-    std::vector<Ladera> laderas = PasosSeguros(c) ? PreparaLaderas(c) : std::vector<Ladera>{};
-    Paso valores;
-    for (std::int16_t k = 1; k < c.NroPasosPp; ++k) {
-        LluviaDelPaso(c, k);
-        for (int i = 1; i <= s.Red.NroUEHs; ++i) {
-            Ladera* ladera = laderas.empty() ? nullptr : &laderas[static_cast<std::size_t>(i) - 1];
-            PasoDeUEH(c, k, i, ladera, valores);
-        }
-    }
-}
-
 void PasosDeLasUEHs(Corrida& c)
 {
     if (c.s.Control.SalidaPizarra)
         c.s.Control.TextoPizarra.append(
             "\r\n\r\nI- SIMULACION EN UEHs\r\n"
-            "Per.k  t[min]   UEH     Pp[mm]  Retensión Z[mm]   Infiltra I[mm]   CaudalPp[m3/s]");
-    if (!c.s.Control.SalidaPizarra && PasosSeguros(c))
-        PasosRapidos(c);
-    else
-        PasosUnoPorUno(c);
+            "Per.k  t[min]   UEH     Pp[mm]  Retensión "
+            "Z[mm]   Infiltra I[mm]   CaudalPp[m3/s]");
+    if (c.s.Control.SalidaPizarra || !PasosRapidos(c)) PasosUnoPorUno(c);
 }
 
 }  // namespace engine

@@ -11,8 +11,4 @@ namespace engine {
 /// Infiltration after Kostiakov (1932), F = a·t^b; translation as a trapezoid over the slope's travel time.
 void PasosDeLasUEHs(Corrida& c);
 
-/// The same statement by statement, whatever the data; the way taken where a fault can't be ruled out or the
-/// Slate shows each step. Gives the same bits as the fast way.
-void PasosUnoPorUno(Corrida& c);
-
 }  // namespace engine

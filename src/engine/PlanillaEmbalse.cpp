@@ -36,10 +36,9 @@ void ResumePasoAPaso(Corrida& c, const EmbalseEnMano& e)
             c.Linea.Izquierda(Redondea(e.H(e.numero, k), 2), 10).Izquierda(Redondea(e.S(e.numero, k), 0), 10);
             s.Control.TextoPizarra.append(c.Linea.Texto());
         }
-        if (sale > s.Resultados.QMax(e.fila, s.Serie.IndSerie))
-            s.Resultados.QMax(e.fila, s.Serie.IndSerie) = sale;
-        s.Resultados.VolEntra = Simple(1.0 * s.Pasos.PasoQ * entra * 60 + s.Resultados.VolEntra);
-        s.Resultados.VolSale = Simple(1.0 * s.Pasos.PasoQ * sale * 60 + s.Resultados.VolSale);
+        SubePico(s, e.fila, k);
+        s.Resultados.VolEntra = Simple(SumaVolumen(s.Resultados.VolEntra, entra, s.Pasos.PasoQ));
+        s.Resultados.VolSale = Simple(SumaVolumen(s.Resultados.VolSale, sale, s.Pasos.PasoQ));
     }
 }
 
@@ -87,10 +86,7 @@ void EscribeTabla(Corrida& c, const EmbalseEnMano& e)
             .append(LineaMetodo(c, e))
             .append("\r\n")
             .append(e.clase.columnas);
-    if (!s.Control.SalidaPizarra && ResumenSeguro(c, e.fila))
-        Resume(c, e.fila, {0, s.Resultados.NroPasosQ});
-    else
-        ResumePasoAPaso(c, e);
+    if (s.Control.SalidaPizarra || !Resume(c, e.fila, {0, s.Resultados.NroPasosQ})) ResumePasoAPaso(c, e);
     if (!s.Control.SalidaPizarra) return;
     EscribeResumen(c, e.fila);
     s.Control.TextoPizarra += "\r\n";

@@ -2,6 +2,8 @@
 #include "engine/Resumen.h"
 
 #include <algorithm>
+#include <array>
+#include <cmath>
 
 #include "model/Numeros.h"
 
@@ -21,32 +23,29 @@ void EscribeResumen(Corrida& c, int fila)
     s.Control.TextoPizarra += "\r\nCaudal Máximo = " + NumeroATexto(Redondea(maximo, 2)) + " m3/s ";
 }
 
-bool ResumenSeguro(const Corrida& c, int fila)
+void SubePico(Siro& s, int fila, Tramo tramo)
 {
-    const Siro& s = c.s;
-    if (s.Pasos.PasoQ < 1 || s.Resultados.NroPasosQ < 1 || s.Resultados.NroPasosQ * s.Pasos.PasoQ > INT16_MAX)
-        return false;
-    if (fila < s.Resultados.QEntra.PrimeraFila() || fila > s.Resultados.QEntra.UltimaFila() ||
-        fila > s.Resultados.QSale.UltimaFila())
-        return false;
-    if (s.Resultados.QEntra.TopeColumna() < s.Resultados.NroPasosQ ||
-        s.Resultados.QSale.TopeColumna() < s.Resultados.NroPasosQ)
-        return false;
-    if (s.Resultados.QMax.UltimaFila() < fila || s.Serie.IndSerie < 0 ||
-        s.Resultados.QMax.TopeColumna() < s.Serie.IndSerie)
-        return false;
-    return VolumenSeguro(s.Resultados.QEntra.Fila(fila), s.Resultados.NroPasosQ, s.Pasos.PasoQ) &&
-           VolumenSeguro(s.Resultados.QSale.Fila(fila), s.Resultados.NroPasosQ, s.Pasos.PasoQ);
+    float& pico = s.Resultados.QMax(fila, s.Serie.IndSerie);
+    pico = std::max(pico, Mayor(s.Resultados.QSale.Fila(fila), tramo.desde, tramo.hasta));
 }
 
-void Resume(Corrida& c, int fila, Tramo tramo)
+bool Resume(Corrida& c, int fila, Tramo tramo)
 {
-    Siro& s = c.s;
-    float& maximo = s.Resultados.QMax(fila, s.Serie.IndSerie);
-    maximo = std::max(maximo, Mayor(s.Resultados.QSale.Fila(fila), tramo.desde, tramo.hasta));
-    if (!c.ConVolumenes) return;
-    s.Resultados.VolEntra = Volumen(s.Resultados.QEntra.Fila(fila), tramo, s.Pasos.PasoQ);
-    s.Resultados.VolSale = Volumen(s.Resultados.QSale.Fila(fila), tramo, s.Pasos.PasoQ);
+    if (!c.Alcanzan()) return false;
+    model::Resultados& r = c.s.Resultados;
+    const std::int16_t PasoQ = c.s.Pasos.PasoQ;
+    const std::array<const float*, 2> filas{r.QEntra.Fila(fila), r.QSale.Fila(fila)};
+    if (c.ConVolumenes) {
+        std::array<float, 2> volumenes{};
+        SumaVolumenes(filas, tramo, PasoQ, volumenes);
+        if (!std::isfinite(volumenes[0]) || !std::isfinite(volumenes[1])) return false;
+        r.VolEntra = volumenes[0];
+        r.VolSale = volumenes[1];
+    } else if (!VolumenSeguro(filas[0], tramo.hasta, PasoQ) || !VolumenSeguro(filas[1], tramo.hasta, PasoQ)) {
+        return false;
+    }
+    SubePico(c.s, fila, tramo);
+    return true;
 }
 
 }  // namespace engine

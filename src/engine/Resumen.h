@@ -10,11 +10,20 @@ namespace engine {
 /// peak. Throws Falla 9 where the peak isn't there. The empty line behind it is the caller's.
 void EscribeResumen(Corrida& c, int fila);
 
-/// No statement that sums up the component at row `fila` over the steps up to NroPasosQ can be at fault.
-bool ResumenSeguro(const Corrida& c, int fila);
+/// The outflow at step k becomes the component's peak in the storm in hand, if it is above the one so far.
+/// Throws Falla 9.
+inline void SubePico(model::Siro& s, int fila, int k)
+{
+    const float q = s.Resultados.QSale(fila, k);
+    float& pico = s.Resultados.QMax(fila, s.Serie.IndSerie);
+    if (q > pico) pico = q;
+}
 
-/// Peak of the component over `tramo` into QMax and, where they are wanted, its volumes into VolEntra and
-/// VolSale, unchecked. Requires ResumenSeguro.
-void Resume(Corrida& c, int fila, Tramo tramo);
+/// Peak of the component over `tramo` into QMax, unchecked. Requires that the results reach.
+void SubePico(model::Siro& s, int fila, Tramo tramo);
+
+/// The same and, where they are wanted, its volumes into VolEntra and VolSale. Returns false, and does
+/// nothing, where a statement that sums it up step by step could be at fault.
+bool Resume(Corrida& c, int fila, Tramo tramo);
 
 }  // namespace engine

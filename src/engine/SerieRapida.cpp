@@ -7,10 +7,10 @@
 #include <new>
 #include <system_error>
 #include <thread>
+#include <utility>
 
 #include "engine/Memoria.h"
 #include "engine/mdlProceso1.h"
-#include "engine/mdlSeriePDR.h"
 #include "engine/modDistriPp.h"
 #include "model/Numeros.h"
 
@@ -31,34 +31,18 @@ model::Anfitrion AnfitrionMudo()
     return mudo;
 }
 
-/// A storm's hyetograph, and what earlier storms left in its arrays.
-struct Hietograma {
-    std::int16_t NroBloquesPp = 0, NroPpReal = 0;
-    model::Arreglo<float> PpAcum, IntensidadPp, PpReal;
+/// A storm of the series and its hyetograph, in which earlier ones may have left something.
+struct TormentaLista {
+    int numero = 0;
+    model::Tormenta Tormenta{};
+    model::Hietograma Hietograma{};
 };
 
-Hietograma Copia(const Siro& s)
+void Pone(Siro& s, const TormentaLista& t)
 {
-    return {s.Hietograma.NroBloquesPp, s.Tormenta.NroPpReal, s.Hietograma.PpAcum, s.Hietograma.IntensidadPp,
-            s.Tormenta.PpReal};
-}
-
-void Pone(Siro& s, const Hietograma& h)
-{
-    s.Hietograma.NroBloquesPp = h.NroBloquesPp;
-    s.Tormenta.NroPpReal = h.NroPpReal;
-    s.Hietograma.PpAcum = h.PpAcum;
-    s.Hietograma.IntensidadPp = h.IntensidadPp;
-    s.Tormenta.PpReal = h.PpReal;
-    s.Hietograma.PpAcumPrevia = 0;
-}
-
-void TomaTormenta(Siro& s, int numero)
-{
-    s.Serie.IndSerie = static_cast<std::int16_t>(numero);
-    s.Tormenta.PpTormenta = s.Serie.SerieP(numero);
-    s.Tormenta.DurTormenta = s.Serie.SerieD(numero);
-    s.Tormenta.RecTormenta = s.Serie.SerieR(numero);
+    s.Serie.IndSerie = static_cast<std::int16_t>(t.numero);
+    s.Tormenta = t.Tormenta;
+    s.Hietograma = t.Hietograma;
 }
 
 /// Asks for the rain of each model step, as the run does: that can cut or lengthen the hyetograph's arrays.
@@ -70,52 +54,37 @@ void GastaLluvia(Siro& s)
         PpDelPaso(s, k);
 }
 
-/// Hyetographs of the storms in order, up to the first that can't be built in silence.
-std::vector<Hietograma> Hietogramas(Siro s, const std::vector<int>& numeros)
+/// The storms in order, up to the first whose hyetograph can't be built in silence.
+std::vector<TormentaLista> Prepara(Siro s, const std::vector<int>& numeros)
 {
     s.Anfitrion = AnfitrionMudo();
-    std::vector<Hietograma> hietogramas;
+    std::vector<TormentaLista> listas;
     try {
         for (const int numero : numeros) {
-            TomaTormenta(s, numero);
+            model::TomaTormenta(s.Tormenta, s.Serie, numero);
             ConstruyeHietograma(s);
-            hietogramas.push_back(Copia(s));
+            listas.push_back({numero, s.Tormenta, s.Hietograma});
             GastaLluvia(s);
         }
     } catch (const FinDelPrograma&) {
     } catch (const model::Falla&) {
-        hietogramas.pop_back();  // the run itself would report it
+        listas.pop_back();  // the run itself would report it
     }
-    return hietogramas;
+    return listas;
 }
 
 /// What the threads share: storms are taken in order, the first that isn't silent stops the rest.
 struct Reparto {
-    const std::vector<int>& numeros;
-    const std::vector<Hietograma>& hietogramas;
+    const std::vector<TormentaLista>& listas;
     std::size_t cuantas;  ///< storms to run
     std::atomic<std::size_t> siguiente{0};
     std::atomic<std::size_t> tope{cuantas};  ///< place of the first storm that isn't silent
 };
 
-/// Makes the column of one storm in all results equal to that of another state.
-void TraeColumna(Siro& a, const Siro& de, int numero)
-{
-    for (int fila = 0; fila <= a.Resultados.QMax.UltimaFila(); ++fila)
-        a.Resultados.QMax(fila, numero) = de.Resultados.QMax(fila, numero);
-    for (int u = 0; u <= a.Resultados.EscUEH.UltimaFila(); ++u) {
-        a.Resultados.EscUEH(u, numero) = de.Resultados.EscUEH(u, numero);
-        a.Resultados.CoefEscUEH(u, numero) = de.Resultados.CoefEscUEH(u, numero);
-    }
-    a.Resultados.EscTotal(numero) = de.Resultados.EscTotal(numero);
-    a.Resultados.CoefEscTotal(numero) = de.Resultados.CoefEscTotal(numero);
-}
-
 /// Runs one storm in a state of its own. Returns false where it isn't silent, or there is no memory for it.
-bool CorreEnSilencio(Siro& s, Memoria& memoria, int numero, const Hietograma& hietograma)
+bool CorreEnSilencio(Siro& s, Memoria& memoria, const TormentaLista& tormenta)
 {
-    TomaTormenta(s, numero);
-    Pone(s, hietograma);
+    Pone(s, tormenta);
     try {
         ProcesoPrincipal(s, {.GuardaTexto = false, .ConTexto = false, .ConVolumenes = false}, memoria);
         return true;
@@ -134,8 +103,8 @@ std::vector<std::size_t> Trabaja(Siro& s, Reparto& reparto, const std::function<
     std::vector<std::size_t> hechas;
     hechas.reserve(reparto.cuantas);
     for (std::size_t i = reparto.siguiente++; i < reparto.tope; i = reparto.siguiente++) {
-        if (avisa) avisa(reparto.numeros[i]);
-        if (CorreEnSilencio(s, memoria, reparto.numeros[i], reparto.hietogramas[i])) {
+        if (avisa) avisa(reparto.listas[i].numero);
+        if (CorreEnSilencio(s, memoria, reparto.listas[i])) {
             hechas.push_back(i);
             continue;
         }
@@ -181,15 +150,11 @@ bool EmpiezaOtro(std::deque<Obrero>& obreros, const Siro& s, std::vector<std::jt
     return false;
 }
 
-/// Leaves in `s` what the storm ahead of place `i` leaves behind in a run one after another.
-void PonEstadoAnterior(Siro& s, const std::vector<int>& numeros, const std::vector<Hietograma>& hietogramas,
-                       std::size_t i)
+/// Leaves in `s` what a storm leaves behind in a run one after another.
+void PonEstadoTras(Siro& s, const TormentaLista& tormenta)
 {
-    if (i == 0) return;
-    TomaTormenta(s, numeros[i - 1]);
-    Pone(s, hietogramas[i - 1]);
-    const model::Anfitrion anfitrion = std::move(s.Anfitrion);
-    s.Anfitrion = AnfitrionMudo();
+    Pone(s, tormenta);
+    const model::Anfitrion anfitrion = std::exchange(s.Anfitrion, AnfitrionMudo());
     Memoria memoria;
     ProcesoPrincipal(s, {.GuardaTexto = false, .ConTexto = false, .ConVolumenes = true}, memoria);
     s.Anfitrion = anfitrion;
@@ -201,8 +166,8 @@ std::size_t CorreTormentasSinAvisos(Siro& s, const std::vector<int>& numeros, in
                                     const std::function<void(int)>& avisa)
 {
     if (numeros.size() < 2 || s.Serie.NroSeriePDR < 2) return 0;
-    const std::vector<Hietograma> hietogramas = Hietogramas(s, numeros);
-    Reparto reparto{numeros, hietogramas, std::min(hietogramas.size(), numeros.size() - 1)};
+    const std::vector<TormentaLista> listas = Prepara(s, numeros);
+    Reparto reparto{listas, std::min(listas.size(), numeros.size() - 1)};
     const auto cuantos = std::clamp<std::size_t>(static_cast<std::size_t>(std::max(hilos, 1)), 1,
                                                  std::max<std::size_t>(reparto.cuantas, 1));
     std::deque<Obrero> obreros;
@@ -217,8 +182,8 @@ std::size_t CorreTormentasSinAvisos(Siro& s, const std::vector<int>& numeros, in
     const std::size_t completas = reparto.tope;
     for (const Obrero& obrero : obreros)
         for (const std::size_t i : obrero.hechas)
-            if (i < completas) TraeColumna(s, obrero.estado, numeros[i]);
-    PonEstadoAnterior(s, numeros, hietogramas, completas);
+            if (i < completas) s.Resultados.TraeTormenta(obrero.estado.Resultados, listas[i].numero);
+    if (completas > 0) PonEstadoTras(s, listas[completas - 1]);
     return completas;
 }
 

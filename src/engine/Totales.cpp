@@ -38,7 +38,6 @@ void SumaVolumenes(std::span<const float* const> filas, Tramo tramo, std::int16_
                    std::span<float> volumenes)
 {
     constexpr std::size_t Juntas = 8;
-    const double paso = PasoQ;
     for (std::size_t primera = 0; primera < filas.size(); primera += Juntas) {
         const std::size_t cuantas = std::min(Juntas, filas.size() - primera);
         std::array<const float*, Juntas> q{};
@@ -47,36 +46,21 @@ void SumaVolumenes(std::span<const float* const> filas, Tramo tramo, std::int16_
         std::array<float, Juntas> v{};
         for (int p = tramo.desde; p <= tramo.hasta; ++p)
             for (std::size_t i = 0; i < Juntas; ++i)
-                v[i] = static_cast<float>(paso * q[i][p] * 60 + v[i]);
+                v[i] = static_cast<float>(SumaVolumen(v[i], q[i][p], PasoQ));
         std::copy_n(v.begin(), cuantas, volumenes.begin() + static_cast<std::ptrdiff_t>(primera));
     }
 }
 
-float Volumen(const float* fila, Tramo tramo, std::int16_t PasoQ)
-{
-    float v = 0;
-    for (int p = tramo.desde; p <= tramo.hasta; ++p)
-        v = static_cast<float>(double{1} * PasoQ * fila[p] * 60 + v);
-    return v;
-}
-
-bool SumaSegura(const model::Matriz<float>& destino, int filaDestino, const model::Matriz<float>& origen,
-                int filaOrigen, int pasos)
+bool SumaFila(float* destino, const float* sumando, int pasos)
 {
     constexpr float Moderado = 1e36F;  // a few hundred such flows still add up to a 32-bit float
-    if (filaDestino < destino.PrimeraFila() || filaDestino > destino.UltimaFila()) return false;
-    if (filaOrigen < origen.PrimeraFila() || filaOrigen > origen.UltimaFila()) return false;
-    if (pasos < 1 || destino.TopeColumna() < pasos || origen.TopeColumna() < pasos) return false;
-    return MayorAbsoluto(destino.Fila(filaDestino), 1, pasos) < Moderado &&
-           MayorAbsoluto(origen.Fila(filaOrigen), 1, pasos) < Moderado;
-}
-
-void SumaFila(float* destino, const float* sumando, Tramo tramo)
-{
+    if (!(MayorAbsoluto(destino, 1, pasos) < Moderado && MayorAbsoluto(sumando, 1, pasos) < Moderado))
+        return false;
     float* __restrict d = destino;
     const float* __restrict q = sumando;
-    for (int p = tramo.desde; p <= tramo.hasta; ++p)
+    for (int p = 1; p <= pasos; ++p)
         d[p] += q[p];
+    return true;
 }
 
 }  // namespace engine

@@ -4,8 +4,6 @@
 #include <cstdint>
 #include <span>
 
-#include "model/Arreglo.h"
-
 namespace engine {
 
 /// Output steps, both ends included.
@@ -20,22 +18,23 @@ float Mayor(const float* fila, int desde, int hasta);
 /// The greatest absolute value of row[desde..hasta].
 float MayorAbsoluto(const float* fila, int desde, int hasta);
 
-/// Whether the volume of a hydrograph of `pasos` steps stays far below the largest 32-bit float.
-bool VolumenSeguro(const float* fila, int pasos, std::int16_t PasoQ);
+/// A volume [m3] and that of one more step of the flow Q [m3/s], 64 bits.
+inline double SumaVolumen(float volumen, float Q, std::int16_t PasoQ)
+{
+    return double{1} * PasoQ * Q * 60 + volumen;
+}
 
-/// Volumes [m3] of several hydrographs [m3/s], each a 32-bit sum of PasoQ·Q·60 in the order of the steps.
-/// The sum is a chain of roundings: eight hydrographs at a time hide its latency.
+/// Volumes [m3] of several hydrographs [m3/s], each a 32-bit sum in the order of the steps, unchecked: one
+/// that leaves the type isn't finite. The sum is a chain of roundings: eight hydrographs at a time hide its
+/// latency.
 void SumaVolumenes(std::span<const float* const> filas, Tramo tramo, std::int16_t PasoQ,
                    std::span<float> volumenes);
 
-/// The volume [m3] of one hydrograph, worked out the same way.
-float Volumen(const float* fila, Tramo tramo, std::int16_t PasoQ);
+/// Whether the volume of a hydrograph of `pasos` steps stays far below the largest 32-bit float.
+bool VolumenSeguro(const float* fila, int pasos, std::int16_t PasoQ);
 
-/// Whether both rows hold the steps 1..pasos and no sum of two of their flows can leave the type.
-bool SumaSegura(const model::Matriz<float>& destino, int filaDestino, const model::Matriz<float>& origen,
-                int filaOrigen, int pasos);
-
-/// destino[p] += sumando[p], each sum rounded to 32 bits. The rows are different ones.
-void SumaFila(float* destino, const float* sumando, Tramo tramo);
+/// destino[p] += sumando[p] for p = 1..pasos, each sum rounded to 32 bits. Returns false, and does nothing,
+/// where a sum could leave the type. The rows are different ones.
+bool SumaFila(float* destino, const float* sumando, int pasos);
 
 }  // namespace engine

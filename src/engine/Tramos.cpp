@@ -24,23 +24,19 @@ namespace {
 
 constexpr std::string_view SinLongitud[] = {
     "El parámetro de Longitud de Cauce del tramo ",
-    " es '0'. Debe asignar un valor correcto a este parámetro desde el Editor de UEHs "};
+    " es '0'. Debe asignar un valor correcto a este parámetro desde el Editor "
+    "de UEHs "};
 constexpr std::string_view SinVelocidad[] = {
     "El parámetro de Velocidad Media de propagación Directa en el tramo ",
-    " es '0'. Debe asignar un valor correcto a este parámetro desde el Editor de UEHs "};
-constexpr float SumaModerada = 1e36F;  // sums of a few hundred such flows stay within 32-bit floats
+    " es '0'. Debe asignar un valor correcto a este parámetro desde el Editor "
+    "de UEHs "};
 
 void SumaAfluente(Corrida& c, int fila, int afluente)
 {
-    Siro& s = c.s;
-    if (SumaSegura(s.Resultados.QEntra, fila, s.Resultados.QSale, afluente, s.Resultados.NroPasosQ))
-        return SumaFila(s.Resultados.QEntra.Fila(fila), s.Resultados.QSale.Fila(afluente),
-                        {1, s.Resultados.NroPasosQ});
-    for (int p = 1; p <= s.Resultados.NroPasosQ; ++p)
-        c.Intenta([&] {
-            s.Resultados.QEntra(fila, p) =
-                Simple(double{s.Resultados.QEntra(fila, p)} + s.Resultados.QSale(afluente, p));
-        });
+    model::Resultados& r = c.s.Resultados;
+    if (c.Alcanzan() && SumaFila(r.QEntra.Fila(fila), r.QSale.Fila(afluente), r.NroPasosQ)) return;
+    for (int p = 1; p <= r.NroPasosQ; ++p)
+        c.Intenta([&] { r.QEntra(fila, p) = Simple(double{r.QEntra(fila, p)} + r.QSale(afluente, p)); });
 }
 
 void JuntaAfluentes(Corrida& c, int fila)
@@ -87,8 +83,8 @@ bool PreparaDirecta(Corrida& c, const Cauce& cauce)
 bool Prepara(Corrida& c, const Cauce& cauce)
 {
     if (cauce.optDirMusk) return PreparaDirecta(c, cauce);
-    const bool bien = CoeficientesMuskingum(c, cauce.Cauce_k_Musk, cauce.Cauce_n_Musk,
-                                            [&](auto cuerpo) { c.Intenta(cuerpo); });
+    const bool bien = c.Musk.Prepara(cauce.Cauce_k_Musk, cauce.Cauce_n_Musk, c.s.Pasos.PasoQ,
+                                     [&](auto cuerpo) { c.Intenta(cuerpo); });
     return bien || Rechaza(c, TextoMuskingum(cauce.NombreCauce));
 }
 
@@ -96,26 +92,18 @@ bool Prepara(Corrida& c, const Cauce& cauce)
 
 void PropagaDirecta(Corrida& c, int fila)
 {
-    Siro& s = c.s;
+    model::Resultados& r = c.s.Resultados;
     // Until the flood gets to the end of the reach the flow there is the initial one.
     for (int j = 1; j <= c.RetardoPasos; ++j)
-        c.Intenta([&] { s.Resultados.QSale(fila, j) = c.QBaseEntra; });
-
-    const bool segura =
-        s.Resultados.NroPasosQ >= 1 && c.RetardoPasos >= 0 && fila <= s.Resultados.QSale.UltimaFila() &&
-        s.Resultados.QSale.TopeColumna() >= s.Resultados.NroPasosQ + c.RetardoPasos &&
-        fila >= s.Resultados.QEntra.PrimeraFila() && fila <= s.Resultados.QEntra.UltimaFila() &&
-        s.Resultados.QEntra.TopeColumna() >= s.Resultados.NroPasosQ &&
-        MayorAbsoluto(s.Resultados.QEntra.Fila(fila), 1, s.Resultados.NroPasosQ) < SumaModerada &&
-        MayorAbsoluto(s.Resultados.QSale.Fila(fila), 0, s.Resultados.QSale.TopeColumna()) < SumaModerada;
-    if (segura)
-        return SumaFila(s.Resultados.QSale.Fila(fila) + c.RetardoPasos, s.Resultados.QEntra.Fila(fila),
-                        {1, s.Resultados.NroPasosQ});
-    for (int paso = 1; paso <= s.Resultados.NroPasosQ; ++paso)
+        c.Intenta([&] { r.QSale(fila, j) = c.QBaseEntra; });
+    const int retardo = c.RetardoPasos;
+    if (c.Alcanzan() && retardo >= 0 && r.QSale.TopeColumna() >= r.NroPasosQ + retardo &&
+        SumaFila(r.QSale.Fila(fila) + retardo, r.QEntra.Fila(fila), r.NroPasosQ))
+        return;
+    for (int paso = 1; paso <= r.NroPasosQ; ++paso)
         c.Intenta([&] {
             const std::int16_t q = Suma16(static_cast<std::int16_t>(paso), c.RetardoPasos);
-            s.Resultados.QSale(fila, q) =
-                Simple(double{s.Resultados.QSale(fila, q)} + s.Resultados.QEntra(fila, paso));
+            r.QSale(fila, q) = Simple(double{r.QSale(fila, q)} + r.QEntra(fila, paso));
         });
 }
 
@@ -124,23 +112,19 @@ void PropagaDirecta(Corrida& c, int fila)
 /// The recursion without a check per step, into a row of its own; used only if every flow stays in the type.
 bool MuskingumRapido(Corrida& c, int fila)
 {
-    Siro& s = c.s;
-    const int n = s.Resultados.NroPasosQ;
-    if (n < 1 || fila < s.Resultados.QEntra.PrimeraFila() || fila > s.Resultados.QEntra.UltimaFila() ||
-        fila > s.Resultados.QSale.UltimaFila() || s.Resultados.QEntra.TopeColumna() < n ||
-        s.Resultados.QSale.TopeColumna() < n)
-        return false;
-    const float* __restrict entra = s.Resultados.QEntra.Fila(fila);
-    float* sale = s.Resultados.QSale.Fila(fila);
-    std::vector<double>& parte = c.memoria.columna;
-    parte.resize(static_cast<std::size_t>(n) + 1);
-    const double C0 = c.C0Musk, C1 = c.C1Musk, C2 = c.C2Musk;
-    double* __restrict t = parte.data();
+    if (!c.Alcanzan()) return false;
+    model::Resultados& r = c.s.Resultados;
+    const int n = r.NroPasosQ;
+    c.memoria.columna.resize(static_cast<std::size_t>(n) + 1);
+    double* __restrict t = c.memoria.columna.data();
+    const float* __restrict entra = r.QEntra.Fila(fila);
+    float* sale = r.QSale.Fila(fila);
+    const Muskingum m = c.Musk;
     for (int p = 2; p <= n; ++p)
-        t[p] = sale[p] + C0 * entra[p] + C1 * entra[p - 1];
+        t[p] = m.Aporte(sale[p], entra[p], entra[p - 1]);
     float q = entra[1];
     for (int p = 2; p <= n; ++p) {
-        q = static_cast<float>(t[p] + C2 * q);
+        q = static_cast<float>(m.Sale(t[p], q));
         t[p] = q;
     }
     // A flow outside the type leaves no finite one behind it.
@@ -153,17 +137,9 @@ bool MuskingumRapido(Corrida& c, int fila)
 
 void PropagaMuskingum(Corrida& c, int fila)
 {
-    Siro& s = c.s;
     if (MuskingumRapido(c, fila)) return;
-    if (s.Resultados.NroPasosQ >= 1)
-        c.Intenta([&] { s.Resultados.QSale(fila, 1) = s.Resultados.QEntra(fila, 1); });
-    for (int p = 2; p <= s.Resultados.NroPasosQ; ++p)
-        c.Intenta([&] {
-            s.Resultados.QSale(fila, p) =
-                Simple(s.Resultados.QSale(fila, p) + double{c.C0Musk} * s.Resultados.QEntra(fila, p) +
-                       double{c.C1Musk} * s.Resultados.QEntra(fila, p - 1) +
-                       double{c.C2Musk} * s.Resultados.QSale(fila, p - 1));
-        });
+    for (int p = 1; p <= c.s.Resultados.NroPasosQ; ++p)
+        c.Intenta([&] { c.Musk.Paso(c.s.Resultados, fila, p); });
 }
 
 // --- table and summary ---
@@ -171,31 +147,22 @@ void PropagaMuskingum(Corrida& c, int fila)
 void ResumePasoAPaso(Corrida& c, int fila)
 {
     Siro& s = c.s;
-    s.Resultados.VolEntra = 0;
-    s.Resultados.VolSale = 0;
-    for (int paso = 1; paso <= s.Resultados.NroPasosQ; ++paso) {
+    model::Resultados& r = s.Resultados;
+    r.VolEntra = 0;
+    r.VolSale = 0;
+    for (int paso = 1; paso <= r.NroPasosQ; ++paso) {
         const auto p = static_cast<std::int16_t>(paso);
         c.Intenta([&] {
             const std::int16_t t = Minutos(p, s.Pasos.PasoQ);
-            const float entra = Redondea(s.Resultados.QEntra(fila, p), 3),
-                        sale = Redondea(s.Resultados.QSale(fila, p), 3);
+            const float entra = Redondea(r.QEntra(fila, p), 3), sale = Redondea(r.QSale(fila, p), 3);
             c.Linea.Vacia();
             c.Linea.Izquierda(std::int32_t{p}, 7).Izquierda(std::int32_t{t}, 7);
             c.Linea.Izquierda(entra, 11).Izquierda(sale, 10);
         });
         if (s.Control.SalidaPizarra) s.Control.TextoPizarra.append("\r\n ").append(c.Linea.Texto());
-        c.Intenta([&] {
-            if (s.Resultados.QSale(fila, p) > s.Resultados.QMax(fila, s.Serie.IndSerie))
-                s.Resultados.QMax(fila, s.Serie.IndSerie) = s.Resultados.QSale(fila, p);
-        });
-        c.Intenta([&] {
-            s.Resultados.VolEntra =
-                Simple(s.Resultados.VolEntra + 1.0 * s.Pasos.PasoQ * s.Resultados.QEntra(fila, p) * 60);
-        });
-        c.Intenta([&] {
-            s.Resultados.VolSale =
-                Simple(s.Resultados.VolSale + 1.0 * s.Pasos.PasoQ * s.Resultados.QSale(fila, p) * 60);
-        });
+        c.Intenta([&] { SubePico(s, fila, p); });
+        c.Intenta([&] { r.VolEntra = Simple(SumaVolumen(r.VolEntra, r.QEntra(fila, p), s.Pasos.PasoQ)); });
+        c.Intenta([&] { r.VolSale = Simple(SumaVolumen(r.VolSale, r.QSale(fila, p), s.Pasos.PasoQ)); });
     }
 }
 
@@ -211,10 +178,7 @@ bool PropagaTramo(Corrida& c, int fila, const Cauce& cauce)
         PropagaDirecta(c, fila);
     else
         PropagaMuskingum(c, fila);
-    if (!s.Control.SalidaPizarra && ResumenSeguro(c, fila))
-        Resume(c, fila, {1, s.Resultados.NroPasosQ});
-    else
-        ResumePasoAPaso(c, fila);
+    if (s.Control.SalidaPizarra || !Resume(c, fila, {1, s.Resultados.NroPasosQ})) ResumePasoAPaso(c, fila);
     if (s.Control.SalidaPizarra) {
         c.Intenta([&] { EscribeResumen(c, fila); });
         s.Control.TextoPizarra += "\r\n";

@@ -6,8 +6,8 @@
 #include "engine/Corrida.h"
 #include "engine/Embalses.h"
 #include "engine/HojaUEH.h"
+#include "engine/OrdenaRed.h"
 #include "engine/PasosUEH.h"
-#include "engine/Red.h"
 #include "engine/Resumen.h"
 #include "engine/Tramos.h"
 #include "model/Numeros.h"
@@ -29,29 +29,38 @@ constexpr std::int16_t FormaSerie = static_cast<std::int16_t>(model::FormaLluvia
 constexpr std::int16_t FormaPorUEH = static_cast<std::int16_t>(model::FormaLluvia::PorUEH);
 
 constexpr std::string_view SinUEHs =
-    "Debe haber al menos una Unidad de Estudios Hidrólógicos (UEH) Cargada en el sistema. (Ingresar UEHs "
+    "Debe haber al menos una Unidad de Estudios Hidrólógicos (UEH) Cargada en "
+    "el sistema. (Ingresar UEHs "
     "desde el Menú Principal  \\Entradas\\Editor UEHs (Gráfico)...";
 constexpr std::string_view SinArea =
-    "Error en la carga de datos de UEHS, posiblemente no ha cargado correctamente las superficies y demás "
+    "Error en la carga de datos de UEHS, posiblemente no ha cargado "
+    "correctamente las superficies y demás "
     "parámetros, ...";
 constexpr std::string_view ErrorEnUEH = "Error en la carga de datos de UEHS Nro. ";
 constexpr std::string_view SinVelocidad =
-    ". El dato de Velocidad media de la gota en ladera es incorrecto. Revise desde Menú Principal: "
+    ". El dato de Velocidad media de la gota en ladera es incorrecto. Revise "
+    "desde Menú Principal: "
     "Entradas\\Editor de UEHS...";
 constexpr std::string_view SinLongitud =
-    ". El dato de Longitud máxima de la gota en ladera es incorrecto. Revise desde Menú Principal: "
+    ". El dato de Longitud máxima de la gota en ladera es incorrecto. Revise "
+    "desde Menú Principal: "
     "Entradas\\Editor de UEHS...";
 // The words say the reverse of the test: kept as they stand.
 constexpr std::string_view PasosDesiguales =
-    "Error, el paso de salida (Q) debe ser múltiplo del paso de cálculo (Pp). Verifique la carga en "
+    "Error, el paso de salida (Q) debe ser múltiplo del paso de cálculo (Pp). "
+    "Verifique la carga en "
     "\\Entradas\\Preicpitaciones...";
 constexpr std::string_view RedConErrores =
-    "Error en la carga de datos de UEHS. Revise desde Menú Principal: Entradas\\Editor de UEHS...";
+    "Error en la carga de datos de UEHS. Revise desde Menú Principal: "
+    "Entradas\\Editor de UEHS...";
 constexpr std::string_view TituloTextoExtenso = "La tabla de resultados es muy extensa";
 constexpr std::string_view TextoExtenso =
-    "La tabla de resultados es muy extensa para ser presentada completa en la Pizarra. Los datos se guardan "
-    "completos en el archivo de texto <SalePizarra1_tem.txt> del directorio de trabajo. Puede leer "
-    "directamente este archivo con un editor de texto o bien importar archivo desde Excel como <delimitado>, "
+    "La tabla de resultados es muy extensa para ser presentada completa en la "
+    "Pizarra. Los datos se guardan "
+    "completos en el archivo de texto <SalePizarra1_tem.txt> del directorio de "
+    "trabajo. Puede leer "
+    "directamente este archivo con un editor de texto o bien importar archivo "
+    "desde Excel como <delimitado>, "
     "con separador <espacio> y formato <general>";
 constexpr std::size_t LargoExtenso = 60000;  // characters
 
@@ -146,12 +155,7 @@ void DimensionaResultados(Corrida& c)
         s.Serie.NroSeriePDR = 1;
         s.Serie.IndSerie = 1;
     }
-    if (s.Serie.NroSeriePDR != 1) return;
-    c.Intenta([&] { s.Resultados.QMax.Dimensiona(s.Resultados.NroComponentes, 1); });
-    c.Intenta([&] { s.Resultados.EscUEH.Dimensiona(s.Red.NroUEHs, 1); });
-    c.Intenta([&] { s.Resultados.CoefEscUEH.Dimensiona(s.Red.NroUEHs, 1); });
-    c.Intenta([&] { s.Resultados.CoefEscTotal.Dimensiona(1); });
-    c.Intenta([&] { s.Resultados.EscTotal.Dimensiona(1); });
+    if (s.Serie.NroSeriePDR == 1) s.Resultados.DimensionaTormentas(s.Red.NroUEHs, 1);
 }
 
 bool PreparaUEHs(Corrida& c)
@@ -259,6 +263,27 @@ void CierraCorrida(Corrida& c)
 }
 
 }  // namespace
+
+bool Corrida::Alcanzan() const
+{
+    const model::Resultados& r = s.Resultados;
+    const int pasos = r.NroPasosQ, filas = r.NroComponentes, tormenta = s.Serie.IndSerie;
+    return s.Pasos.PasoQ >= 1 && pasos >= 1 && pasos * s.Pasos.PasoQ <= INT16_MAX &&
+           r.QSale.UltimaFila() >= filas && r.QSale.TopeColumna() >= pasos &&
+           r.QEntra.PrimeraFila() <= s.Red.NroUEHs + 1 && r.QEntra.UltimaFila() >= filas &&
+           r.QEntra.TopeColumna() >= pasos && r.QMax.UltimaFila() >= filas && tormenta >= 0 &&
+           r.QMax.TopeColumna() >= tormenta;
+}
+
+bool Corrida::UEHsAlcanzan() const
+{
+    const model::Resultados& r = s.Resultados;
+    const int n = s.Red.NroUEHs;
+    return Alcanzan() && n >= 1 && n <= r.NroComponentes && n <= s.Red.ColUEHs.Cuenta() &&
+           n <= model::MaxUEHs && r.PpUEHPaso.UltimaFila() >= n && r.PasosInfiltra.Tope() >= n &&
+           RetencionRestante.Tope() >= n && r.VolUEH.Tope() >= n && r.VolBaseUEH.Tope() >= n &&
+           s.Pasos.PasoPp + s.Tormenta.DurTormenta <= INT16_MAX;
+}
 
 bool ProcesoPrincipal(Siro& s, ModoCorrida modo, Memoria& memoria)
 {

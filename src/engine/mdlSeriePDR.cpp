@@ -24,19 +24,25 @@ namespace {
 
 constexpr std::string_view TituloAvance = "un momento...esta opción puede tardar varios minutos...";
 constexpr std::string_view SinTormentasPDR =
-    "No se han cargado tormentas PDRs. Para correr esta opción debe previamente cargar un conjunto de "
-    "tormentas desde Menu Principal\\Entradas\\Precipitaciones, luego tildar la opción <c) Cargar una tabla "
+    "No se han cargado tormentas PDRs. Para correr esta opción debe "
+    "previamente cargar un conjunto de "
+    "tormentas desde Menu Principal\\Entradas\\Precipitaciones, luego tildar "
+    "la opción <c) Cargar una tabla "
     "de Pp-D-R desde archivo> y pulsar el botón de cargar tabla PDR ...";
 constexpr std::string_view TituloTablaGuardada =
-    "La tabla de resultados se guarda en archivo el temporal <SaleTablasQDRs_tem.txt>";
+    "La tabla de resultados se guarda en archivo el temporal "
+    "<SaleTablasQDRs_tem.txt>";
 // The lone quote is part of the text.
 constexpr std::string_view TablaGuardada =
-    "La tabla de resultados Q-D-R se guarda completa en el archivo de texto <SaleTablasQDRs_tem.txt>. Puede "
-    "leer directamente este archivo con un editor de texto o bien importar archivo desde Excel como "
+    "La tabla de resultados Q-D-R se guarda completa en el archivo de texto "
+    "<SaleTablasQDRs_tem.txt>. Puede "
+    "leer directamente este archivo con un editor de texto o bien importar "
+    "archivo desde Excel como "
     "<delimitado>, con separador <,> y formato <general>\"Tiempo de proceso: ";
 constexpr std::string_view TituloFallaTabla = "Falla en resguardo de archivo";
 constexpr std::string_view FallaTabla =
-    "El resguardo de resultados en el archivo <SaleTablasQDRs_tem.txt> ha fallado";
+    "El resguardo de resultados en el archivo <SaleTablasQDRs_tem.txt> ha "
+    "fallado";
 
 /// Time since the series began, hours, minutes and seconds without leading zeros.
 std::string TiempoDeProceso(const Siro& s)
@@ -76,15 +82,6 @@ void AbreSerie(Siro& s)
     CargaProyecto(s);
     RehaceSecuencia(s);
     s.Control.AvisoDescargasVisto = true;
-}
-
-void DimensionaSerie(Siro& s)
-{
-    s.Resultados.QMax.Dimensiona(s.Resultados.NroComponentes, s.Serie.NroSeriePDR);
-    s.Resultados.EscUEH.Dimensiona(s.Red.NroUEHs, s.Serie.NroSeriePDR);
-    s.Resultados.CoefEscUEH.Dimensiona(s.Red.NroUEHs, s.Serie.NroSeriePDR);
-    s.Resultados.CoefEscTotal.Dimensiona(s.Serie.NroSeriePDR);
-    s.Resultados.EscTotal.Dimensiona(s.Serie.NroSeriePDR);
 }
 
 /// Storms that the series runs, in order, up to the first of depth or duration 0.
@@ -198,7 +195,7 @@ bool Deseleccionada(const std::array<std::int16_t, N>& valores, const std::array
 FinSerie CorreSerie(Siro& s, int hilos)
 {
     AbreSerie(s);
-    if (s.Serie.NroSeriePDR >= 0) DimensionaSerie(s);
+    if (s.Serie.NroSeriePDR >= 0) s.Resultados.DimensionaTormentas(s.Red.NroUEHs, s.Serie.NroSeriePDR);
     if (s.Serie.NroSeriePDR < 1) {
         model::Advierte(s, std::string(SinTormentasPDR));
         s.Anfitrion.CierraAvance();
@@ -222,9 +219,7 @@ FinSerie CorreSerie(Siro& s, int hilos)
 
 void SaltaTormenta(Siro& s)
 {
-    s.Tormenta.PpTormenta = s.Serie.SerieP(s.Serie.IndSerie);
-    s.Tormenta.DurTormenta = s.Serie.SerieD(s.Serie.IndSerie);
-    s.Tormenta.RecTormenta = s.Serie.SerieR(s.Serie.IndSerie);
+    model::TomaTormenta(s.Tormenta, s.Serie, s.Serie.IndSerie);
     if (s.Tormenta.PpTormenta == 0 || s.Tormenta.DurTormenta == 0) return;
     s.Serie.SaltarTormenta =
         s.Tormenta.DurTormenta < s.Pasos.PasoPp ||

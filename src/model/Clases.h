@@ -110,6 +110,14 @@ void CadaComponente(auto& red, auto&& hace)
     });
 }
 
+/// The same without the UEHs, into which nothing drains.
+void CadaReceptor(auto& red, auto&& hace)
+{
+    CadaComponente(red, [&](auto& componente) {
+        if constexpr (!std::is_same_v<std::remove_cvref_t<decltype(componente)>, UEH>) hace(componente);
+    });
+}
+
 // --- who drains into whom ---
 
 inline constexpr std::string_view SinDestino = "0";
@@ -120,10 +128,18 @@ inline bool EsDestino(std::string_view Cauce_aa)
     return !Cauce_aa.empty() && Cauce_aa != SinDestino;
 }
 
-/// Whether a component of any kind drains into the one with a name.
-bool DrenaA(const auto& componente, std::string_view nombre)
+/// Whether something with this destination drains into the component with a name.
+inline bool DrenaA(std::string_view Cauce_aa, std::string_view nombre)
 {
-    return EsDestino(componente.Cauce_aa) && componente.Cauce_aa == nombre;
+    return EsDestino(Cauce_aa) && Cauce_aa == nombre;
+}
+/// The same of a component of any kind.
+bool DrenaA(const auto& componente, std::string_view nombre) requires requires
+{
+    componente.Cauce_aa;
+}
+{
+    return DrenaA(std::string_view(componente.Cauce_aa), nombre);
 }
 
 }  // namespace model

@@ -41,6 +41,30 @@ struct Resultados {
     float HActual = 0, SActual = 0;        ///< height [m] and storage [m3] that any routing worked out last
     float ACalc = 0;                       ///< surface of the last Runge-Kutta stage [ha]
     std::int16_t IndPaso = 0;
+
+    // --- what a series keeps of its storms ---
+    /// Room for storms 1..tormentas, all 0.
+    void DimensionaTormentas(int NroUEHs, int tormentas)
+    {
+        QMax.Dimensiona(NroComponentes, tormentas);
+        EscUEH.Dimensiona(NroUEHs, tormentas);
+        CoefEscUEH.Dimensiona(NroUEHs, tormentas);
+        CoefEscTotal.Dimensiona(tormentas);
+        EscTotal.Dimensiona(tormentas);
+    }
+    /// Takes over what another run with the same room left of a storm.
+    void TraeTormenta(const Resultados& de, int tormenta)
+    {
+        const auto trae = [&](auto& mia, const auto& suya) {
+            for (int fila = mia.PrimeraFila(); fila <= mia.UltimaFila(); ++fila)
+                mia(fila, tormenta) = suya(fila, tormenta);
+        };
+        trae(QMax, de.QMax);
+        trae(EscUEH, de.EscUEH);
+        trae(CoefEscUEH, de.CoefEscUEH);
+        EscTotal(tormenta) = de.EscTotal(tormenta);
+        CoefEscTotal(tormenta) = de.CoefEscTotal(tormenta);
+    }
 };
 
 }  // namespace model

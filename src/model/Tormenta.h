@@ -43,6 +43,14 @@ struct Serie {
     double HoraInicio = 0;                     ///< start of the series [s of the host's clock]
 };
 
+/// Takes storm `numero` of a series as the storm in hand. Throws Falla 9.
+inline void TomaTormenta(Tormenta& t, const Serie& serie, int numero)
+{
+    t.PpTormenta = serie.SerieP(numero);
+    t.DurTormenta = serie.SerieD(numero);
+    t.RecTormenta = serie.SerieR(numero);
+}
+
 /// Tables of rain that all projects share.
 struct TablasDeLluvia {
     std::array<std::int16_t, 4> NroFilasTabla{};  ///< rows of tables 0..3, of whichever file was read last

@@ -27,9 +27,7 @@ bool SinTilde(const std::array<std::int16_t, N>& valores, const std::array<std::
 
 void FiltroTormenta(model::Siro& s, bool& Excluida)
 {
-    s.Tormenta.PpTormenta = s.Serie.SerieP(s.Serie.IndSerie);
-    s.Tormenta.DurTormenta = s.Serie.SerieD(s.Serie.IndSerie);
-    s.Tormenta.RecTormenta = s.Serie.SerieR(s.Serie.IndSerie);
+    model::TomaTormenta(s.Tormenta, s.Serie, s.Serie.IndSerie);
     if (TormentaNula(s)) return;
     Excluida = s.Tormenta.DurTormenta < s.Pasos.PasoPp ||
                SinTilde(model::Duraciones, s.frmConfigura.CheckD, s.Tormenta.DurTormenta) ||

@@ -132,9 +132,9 @@ TEST(EjemplosDeLibro, MuskingumDeDosHorasYPico)
     TramoDelLibro tramo(std::nextafter(138.0F, 139.0F));
     ASSERT_TRUE(tramo.termino);
     EXPECT_TRUE(tramo.anfitrion->sucesos.empty());
-    EXPECT_NEAR(tramo.corrida.C0Musk, 0.0631, 0.00005);
-    EXPECT_NEAR(tramo.corrida.C1Musk, 0.3442, 0.00005);
-    EXPECT_NEAR(tramo.corrida.C2Musk, 0.5927, 0.00005);
+    EXPECT_NEAR(tramo.corrida.Musk.C0Musk, 0.0631, 0.00005);
+    EXPECT_NEAR(tramo.corrida.Musk.C1Musk, 0.3442, 0.00005);
+    EXPECT_NEAR(tramo.corrida.Musk.C2Musk, 0.5927, 0.00005);
     for (int j = 1; j <= 20; ++j) {
         const double deMas = (93 - 85) * std::pow(0.5927, j - 1);
         EXPECT_NEAR(tramo.s.Resultados.QSale(2, j) - deMas, libro[j - 1], 0.51) << "hour " << j;

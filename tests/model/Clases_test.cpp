@@ -66,6 +66,17 @@ TEST(Clases, NadieDrenaAlVacioNiAlCero)
     EXPECT_FALSE(DrenaA(red.ColUEHs.Item(1), "c-2"));
     EXPECT_FALSE(DrenaA(red.ColLagos.Item(1), "0"));
     EXPECT_FALSE(DrenaA(red.ColRepresas.Item(1), ""));
+    EXPECT_FALSE(DrenaA("", ""));
+    EXPECT_FALSE(DrenaA("0", "0"));
+    EXPECT_TRUE(DrenaA("c-1", "c-1"));
+}
+
+TEST(Clases, LasUEHsNoSonReceptoras)
+{
+    const Red red = DeCuatro();
+    std::vector<std::string> nombres;
+    CadaReceptor(red, [&](const auto& c) { nombres.push_back(Nombre(c)); });
+    EXPECT_EQ(nombres, (std::vector<std::string>{"c-1", "l-1", "r-1"}));
 }
 
 }  // namespace

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "engine/Red.h"
+#include "engine/OrdenaRed.h"
 
 #include "engine/ComponenteFinal.h"
 #include "engine/OrdenSecuencia.h"
+#include "model/Clases.h"
 
 namespace engine {
 
@@ -10,19 +11,14 @@ using model::Siro;
 
 namespace {
 
-/// Hands names and destinations of all components to `mira`, in collection order, until it says no.
+/// Hands names and destinations of all components to `mira`, in collection order.
 template <typename Mira>
-bool RecorreEnlaces(const Siro& s, Mira mira)
+void RecorreEnlaces(const model::Red& red, Mira mira)
 {
-    for (const auto& u : s.Red.ColUEHs)
-        if (!mira(u.NombreUEH) || !mira(u.Cauce_aa)) return false;
-    for (const auto& c : s.Red.ColCauces)
-        if (!mira(c.NombreCauce) || !mira(c.Cauce_aa)) return false;
-    for (const auto& l : s.Red.ColLagos)
-        if (!mira(l.NombreLAGO) || !mira(l.Cauce_aa)) return false;
-    for (const auto& r : s.Red.ColRepresas)
-        if (!mira(r.NombreRepresa) || !mira(r.Cauce_aa)) return false;
-    return true;
+    model::CadaComponente(red, [&](const auto& c) {
+        mira(model::Nombre(c));
+        mira(c.Cauce_aa);
+    });
 }
 
 bool EsLaRecordada(const Corrida& c)
@@ -33,8 +29,10 @@ bool EsLaRecordada(const Corrida& c)
         red.NroUEHs != s.Red.NroUEHs)
         return false;
     std::size_t i = 0;
-    const bool iguales = RecorreEnlaces(
-        s, [&](const std::string& t) { return i < red.enlaces.size() && red.enlaces[i++] == t; });
+    bool iguales = true;
+    RecorreEnlaces(s.Red, [&](const std::string& t) {
+        iguales = iguales && i < red.enlaces.size() && red.enlaces[i++] == t;
+    });
     return iguales && i == red.enlaces.size();
 }
 
@@ -47,10 +45,7 @@ void Recuerda(Corrida& c)
         return;
     RedOrdenada& red = c.memoria.red;
     red.enlaces.clear();
-    RecorreEnlaces(s, [&](const std::string& t) {
-        red.enlaces.push_back(t);
-        return true;
-    });
+    RecorreEnlaces(s.Red, [&](const std::string& t) { red.enlaces.push_back(t); });
     red.NroUEHs = s.Red.NroUEHs;
     red.Secuencia = s.Resultados.Secuencia;
     red.Salidas = s.Resultados.Salidas;
