@@ -121,10 +121,10 @@ void LlenaFija(Siro& s, const Distribucion& tabla)
 }
 
 /// Personal table: its counts are read just before use, since another reader may have replaced them.
-void LlenaPersonal(Siro& s)
+void LlenaPersonal(Siro& s, TablasPersonales tablas)
 {
     const int tabla = s.Tormenta.DistriPp - (PrimeraPersonal - 1);
-    model::LeeTablaDisTemPer(s);
+    if (tablas == TablasPersonales::DelDisco) model::LeeTablaDisTemPer(s);
     const std::int16_t periodos = s.TablasDeLluvia.NroFilasTabla[static_cast<std::size_t>(tabla)];
     LugarParaTabla(s, periodos);
     s.Hietograma.NroBloquesPp = periodos;
@@ -138,11 +138,11 @@ void LlenaPersonal(Siro& s)
         s.Hietograma.PpAcum(j) = Simple(double{s.Hietograma.IntensidadPp(j)} + s.Hietograma.PpAcum(j - 1));
 }
 
-void LlenaPorcentajes(Siro& s)
+void LlenaPorcentajes(Siro& s, TablasPersonales tablas)
 {
     if (s.Tormenta.FormaPp >= FormaReal) return LlenaReal(s);
     if (s.Tormenta.DistriPp >= PrimeraPersonal && s.Tormenta.DistriPp <= UltimaPersonal)
-        return LlenaPersonal(s);
+        return LlenaPersonal(s, tablas);
     LlenaFija(s, DistribucionFija(s));
 }
 
@@ -168,13 +168,13 @@ void TerminaBloque(Siro& s, int j, Renglon& linea)
     if (s.Control.SalidaPizarra) s.Anfitrion.AgregaPizarra(linea.Texto());
 }
 
-void Construye(Siro& s)
+void Construye(Siro& s, TablasPersonales tablas)
 {
     s.Hietograma.NroBloquesPp = model::Piso16(Cociente(s.Tormenta.DurTormenta, s.Pasos.PasoPp));
     RedimensionaBloques(s, s.Hietograma.NroBloquesPp);
     if (s.Tormenta.PpTormenta == 0 || s.Tormenta.DurTormenta == 0) return;
     if (s.Control.SalidaPizarra) s.Anfitrion.AgregaPizarra("\r\nEntrada: PRECIPITACION");
-    LlenaPorcentajes(s);
+    LlenaPorcentajes(s, tablas);
     if (s.Control.SalidaPizarra)
         s.Anfitrion.AgregaPizarra("\r\nPp= " + model::NumeroATexto(s.Tormenta.PpTormenta) + " [mm]  " +
                                   model::NumeroATexto(std::int32_t{s.Tormenta.DurTormenta}) + " [min]");
@@ -220,9 +220,9 @@ double PpInterpolada(Siro& s, std::int16_t k, std::int16_t t)
 
 }  // namespace
 
-void ConstruyeHietograma(Siro& s)
+void ConstruyeHietograma(Siro& s, TablasPersonales tablas)
 {
-    model::Sentencia([&] { Construye(s); }, model::AvisaMotor(s));
+    model::Sentencia([&] { Construye(s, tablas); }, model::AvisaMotor(s));
 }
 
 double PpDelPaso(Siro& s, std::int16_t k)
