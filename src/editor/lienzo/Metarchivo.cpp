@@ -2,76 +2,23 @@
 #include "editor/lienzo/Metarchivo.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <cstddef>
-#include <cstdlib>
 #include <utility>
 #include <variant>
 
+#include "editor/lienzo/RegistrosMeta.h"
 #include "model/Texto.h"
 
 namespace editor {
 namespace {
 
 constexpr std::uint32_t ClaveConMarco = 0x9AC6CDD7;
-constexpr std::size_t LargoMarco = 22;     // [bytes]
-constexpr std::size_t LargoCabeza = 18;    // [bytes]
-constexpr std::size_t MinimoRegistro = 3;  // [words]
+constexpr std::size_t LargoMarco = 22;   // [bytes]
+constexpr std::size_t LargoCabeza = 18;  // [bytes]
 constexpr int PuntosPorPulgada = 96;
-constexpr int LadoMaximo = 16384;  // of a picture or bitmap [pixels]
 constexpr std::size_t MaxObjetos = 4096;
 constexpr std::size_t MaxGuardados = 256;  // states that a drawing may stack up
-
-/// Little-endian numbers of a piece of the file. Beyond its end they are 0.
-class Palabras {
-  public:
-    explicit Palabras(std::string_view pedazo) : bytes(pedazo) {}
-
-    [[nodiscard]] std::uint16_t Sin(std::size_t lugar) const
-    {
-        return static_cast<std::uint16_t>(Byte(lugar) | (Byte(lugar + 1) << 8U));
-    }
-    [[nodiscard]] std::int16_t Con(std::size_t lugar) const { return static_cast<std::int16_t>(Sin(lugar)); }
-    [[nodiscard]] std::uint32_t Larga(std::size_t lugar) const
-    {
-        return std::uint32_t{Sin(lugar)} | (std::uint32_t{Sin(lugar + 2)} << 16U);
-    }
-    [[nodiscard]] unsigned Byte(std::size_t lugar) const
-    {
-        return lugar < bytes.size() ? static_cast<unsigned char>(bytes[lugar]) : 0U;
-    }
-    [[nodiscard]] std::string_view Desde(std::size_t lugar) const
-    {
-        return bytes.substr(std::min(lugar, bytes.size()));
-    }
-    [[nodiscard]] std::size_t Largo() const { return bytes.size(); }
-
-    /// A point whose ordinate comes first, as most records have it.
-    [[nodiscard]] PuntoMeta PuntoYX(std::size_t lugar) const
-    {
-        return {double(Con(lugar + 2)), double(Con(lugar))};
-    }
-    [[nodiscard]] PuntoMeta PuntoXY(std::size_t lugar) const
-    {
-        return {double(Con(lugar)), double(Con(lugar + 2))};
-    }
-    /// Bottom, right, top, left.
-    [[nodiscard]] RectanguloMeta Rectangulo(std::size_t lugar) const
-    {
-        const double abajo = Con(lugar), derecha = Con(lugar + 2), arriba = Con(lugar + 4),
-                     izquierda = Con(lugar + 6);
-        return {izquierda, arriba, derecha - izquierda, abajo - arriba};
-    }
-    [[nodiscard]] ColorMeta Color(std::size_t lugar) const
-    {
-        return {static_cast<std::uint8_t>(Byte(lugar)), static_cast<std::uint8_t>(Byte(lugar + 1)),
-                static_cast<std::uint8_t>(Byte(lugar + 2))};
-    }
-
-  private:
-    std::string_view bytes;
-};
 
 /// Pens, brushes, fonts; what a drawing makes beside them takes a place too and does nothing.
 using Objeto = std::variant<std::monostate, PlumaMeta, PincelMeta, LetraMeta>;
@@ -86,68 +33,6 @@ struct Estado {
     bool fondoOpaco = true;
     bool alterna = true;
     std::uint16_t alineacion = 0;
-};
-
-enum Funcion : std::uint16_t {
-    SaveDC = 0x001E,
-    RestoreDC = 0x0127,
-    SetBkMode = 0x0102,
-    SetPolyFillMode = 0x0106,
-    SetTextAlign = 0x012E,
-    SelectObject = 0x012D,
-    DeleteObject = 0x01F0,
-    SetBkColor = 0x0201,
-    SetTextColor = 0x0209,
-    SetWindowOrg = 0x020B,
-    SetWindowExt = 0x020C,
-    LineTo = 0x0213,
-    MoveTo = 0x0214,
-    CreatePen = 0x02FA,
-    CreateFont = 0x02FB,
-    CreateBrush = 0x02FC,
-    CreatePalette = 0x00F7,
-    CreatePatternBrush = 0x01F9,
-    CreateDibPatternBrush = 0x0142,
-    CreateRegion = 0x06FF,
-    Polygon = 0x0324,
-    Polyline = 0x0325,
-    PolyPolygon = 0x0538,
-    Ellipse = 0x0418,
-    Rectangle = 0x041B,
-    RoundRect = 0x061C,
-    Arc = 0x0817,
-    Pie = 0x081A,
-    Chord = 0x0830,
-    TextOut = 0x0521,
-    ExtTextOut = 0x0A32,
-    DibBitBlt = 0x0940,
-    DibStretchBlt = 0x0B41,
-    StretchDib = 0x0F43,
-};
-
-/// What stands between the heads and the end, record by record.
-class Registros {
-  public:
-    explicit Registros(std::string_view resto) : bytes(resto) {}
-    /// Returns false at the end and at the first record that doesn't fit.
-    bool Siguiente()
-    {
-        const Palabras cabeza(bytes);
-        const std::size_t largo = std::size_t{cabeza.Larga(0)} * 2;
-        if (bytes.size() < MinimoRegistro * 2 || largo < MinimoRegistro * 2 || largo > bytes.size())
-            return false;
-        funcion = cabeza.Sin(4);
-        datos = bytes.substr(6, largo - 6);
-        bytes.remove_prefix(largo);
-        fin = funcion == 0;
-        return !fin;
-    }
-    std::uint16_t funcion = 0;
-    bool fin = false;  ///< the record that ends the file has been read
-    std::string_view datos{};
-
-  private:
-    std::string_view bytes;
 };
 
 bool ConMarco(std::string_view bytes)
@@ -179,43 +64,6 @@ RectanguloMeta VentanaDelDibujo(std::string_view bytes)
     }
     return ventana;
 }
-
-// --- bitmaps ---
-
-/// A bitmap without the head of a file, with one: as far as its own head can be trusted.
-std::string ConCabezaDeArchivo(std::string_view dib)
-{
-    constexpr std::size_t LargoCabezaArchivo = 14;
-    constexpr std::size_t CabezaCorta = 12, CabezaLarga = 40;
-    const Palabras p(dib);
-    const std::size_t cabeza = p.Larga(0);
-    if (cabeza < CabezaLarga && cabeza != CabezaCorta) return {};
-    if (cabeza > dib.size()) return {};
-    const bool corta = cabeza == CabezaCorta;
-    const auto ancho = corta ? std::int64_t{p.Sin(4)} : std::int64_t{static_cast<std::int32_t>(p.Larga(4))};
-    const auto alto = corta ? std::int64_t{p.Sin(6)} : std::int64_t{static_cast<std::int32_t>(p.Larga(8))};
-    const unsigned bits = corta ? p.Sin(10) : p.Sin(14);
-    if (ancho < 1 || ancho > LadoMaximo || alto == 0 || std::llabs(alto) > LadoMaximo) return {};
-    const std::size_t usados = corta ? 0 : p.Larga(32);
-    const std::size_t colores = bits > 8 ? 0 : usados == 0 ? std::size_t{1} << bits : usados;
-    constexpr std::size_t MascarasAparte = 3;
-    constexpr std::uint32_t ConMascaras = 3;
-    const bool mascaras = !corta && cabeza == CabezaLarga && p.Larga(16) == ConMascaras;
-    const std::size_t paleta = colores * (corta ? 3 : 4) + (mascaras ? MascarasAparte * 4 : 0);
-    if (colores > 256 || cabeza + paleta >= dib.size()) return {};
-
-    std::string bmp = "BM";
-    const auto agrega = [&](std::size_t n) {
-        for (unsigned i = 0; i < 4; ++i)
-            bmp += static_cast<char>((n >> (8U * i)) & 0xFFU);
-    };
-    agrega(LargoCabezaArchivo + dib.size());
-    agrega(0);
-    agrega(LargoCabezaArchivo + cabeza + paleta);
-    return bmp.append(dib);
-}
-
-// --- player ---
 
 class Tocador {
   public:
@@ -259,44 +107,6 @@ class Tocador {
     std::vector<Ranura> objetos{};
 };
 
-PlumaMeta LeePluma(const Palabras& p)
-{
-    constexpr auto Trazos = std::to_array({TrazoMeta::Continuo, TrazoMeta::Rayas, TrazoMeta::Puntos,
-                                           TrazoMeta::RayaPunto, TrazoMeta::RayaPuntoPunto, TrazoMeta::Nada});
-    const std::size_t estilo = p.Sin(0) & 0x0FU;
-    return {estilo < Trazos.size() ? Trazos[estilo] : TrazoMeta::Continuo, std::abs(double(p.Con(2))),
-            p.Color(6)};
-}
-
-PincelMeta LeePincel(const Palabras& p)
-{
-    constexpr std::uint16_t Nada = 1, Tramado = 2;
-    const std::uint16_t estilo = p.Sin(0);
-    const RellenoMeta relleno = estilo == Nada      ? RellenoMeta::Nada
-                                : estilo == Tramado ? RellenoMeta::Tramado
-                                                    : RellenoMeta::Lleno;
-    return {relleno, std::min<int>(p.Sin(6), 5), p.Color(2)};
-}
-
-LetraMeta LeeLetra(const Palabras& p)
-{
-    constexpr std::size_t LugarDelNombre = 18, LargoDelNombre = 32;
-    constexpr double DecimasPorGrado = 10;
-    constexpr int PesoNegrita = 600;
-    LetraMeta letra;
-    const int alto = p.Con(0);
-    if (alto != 0) letra.alto = std::abs(alto);
-    letra.altoDeCelda = alto > 0;
-    letra.giro = p.Con(4) / DecimasPorGrado;
-    letra.negrita = p.Con(8) >= PesoNegrita;
-    letra.cursiva = p.Byte(10) != 0;
-    letra.subrayada = p.Byte(11) != 0;
-    letra.tachada = p.Byte(12) != 0;
-    const std::string_view nombre = p.Desde(LugarDelNombre).substr(0, LargoDelNombre);
-    letra.familia = model::DeWindows1252(nombre.substr(0, nombre.find('\0')));
-    return letra;
-}
-
 void Tocador::Elige(std::size_t indice)
 {
     if (indice >= objetos.size()) return;
@@ -313,17 +123,6 @@ void Tocador::Restaura(int cual)
     if (lugar < 0 || lugar >= static_cast<int>(guardados.size())) return;
     estado = guardados[static_cast<std::size_t>(lugar)];
     guardados.resize(static_cast<std::size_t>(lugar));
-}
-
-/// Points of a record from a place on, as many as are said and are there.
-std::vector<PuntoMeta> LeePuntos(const Palabras& p, std::size_t lugar, std::size_t cuantos)
-{
-    std::vector<PuntoMeta> puntos;
-    const std::size_t hay = p.Largo() > lugar ? (p.Largo() - lugar) / 4 : 0;
-    puntos.reserve(std::min(cuantos, hay));
-    for (std::size_t i = 0; i < std::min(cuantos, hay); ++i)
-        puntos.push_back(p.PuntoXY(lugar + 4 * i));
-    return puntos;
 }
 
 void Tocador::Poligono(const Palabras& p)
