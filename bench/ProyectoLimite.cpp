@@ -139,41 +139,41 @@ float Descarga(int n, double h)
 
 void TablasDeLagos(Siro& s, const std::vector<int>& aguasArriba)
 {
-    const int lagos = s.NroLagos;
-    s.LagoFilas.Dimensiona(lagos);
-    for (auto* tabla : {&s.LagoH, &s.LagoA, &s.LagoQ})
+    const int lagos = s.Red.NroLagos;
+    s.Red.LagoFilas.Dimensiona(lagos);
+    for (auto* tabla : {&s.Red.LagoH, &s.Red.LagoA, &s.Red.LagoQ})
         tabla->Dimensiona(lagos, Filas + 1);
-    s.LagoS.Dimensiona(lagos, Filas + 1);
+    s.Red.LagoS.Dimensiona(lagos, Filas + 1);
     for (int l = 1; l <= lagos; ++l) {
-        s.LagoFilas(l) = Filas;
+        s.Red.LagoFilas(l) = Filas;
         const int n = aguasArriba[static_cast<std::size_t>(l) - 1];
         for (int f = 1; f <= Filas; ++f) {
             const double h = AlturaSobreElFondo(f, 1.2);
-            s.LagoH(l, f) = Altura(h);
-            s.LagoA(l, f) = Superficie(n, h);
-            s.LagoS(l, f) = Volumen(n, h);
-            s.LagoQ(l, f) = Descarga(n, h);
+            s.Red.LagoH(l, f) = Altura(h);
+            s.Red.LagoA(l, f) = Superficie(n, h);
+            s.Red.LagoS(l, f) = Volumen(n, h);
+            s.Red.LagoQ(l, f) = Descarga(n, h);
         }
     }
 }
 
 void TablasDeRepresas(Siro& s)
 {
-    const int represas = s.NroRepresas;
-    s.RepresaFilasHAS.Dimensiona(represas);
-    s.RepresaFilasHQ.Dimensiona(represas);
-    for (auto* tabla : {&s.RepresaH, &s.RepresaA, &s.RepresaQH, &s.RepresaQQ})
+    const int represas = s.Red.NroRepresas;
+    s.Red.RepresaFilasHAS.Dimensiona(represas);
+    s.Red.RepresaFilasHQ.Dimensiona(represas);
+    for (auto* tabla : {&s.Red.RepresaH, &s.Red.RepresaA, &s.Red.RepresaQH, &s.Red.RepresaQQ})
         tabla->Dimensiona(represas, Filas + 1);
-    s.RepresaS.Dimensiona(represas, Filas + 1);
+    s.Red.RepresaS.Dimensiona(represas, Filas + 1);
     for (int r = 1; r <= represas; ++r) {
-        s.RepresaFilasHAS(r) = s.RepresaFilasHQ(r) = Filas;
+        s.Red.RepresaFilasHAS(r) = s.Red.RepresaFilasHQ(r) = Filas;
         for (int f = 1; f <= Filas; ++f) {
             const double h = AlturaSobreElFondo(f, 1.1), hq = AlturaSobreElFondo(f, 1.3);
-            s.RepresaH(r, f) = Altura(h);
-            s.RepresaA(r, f) = Superficie(1, h);
-            s.RepresaS(r, f) = Volumen(1, h);
-            s.RepresaQH(r, f) = Altura(hq);
-            s.RepresaQQ(r, f) = Descarga(1, hq);
+            s.Red.RepresaH(r, f) = Altura(h);
+            s.Red.RepresaA(r, f) = Superficie(1, h);
+            s.Red.RepresaS(r, f) = Volumen(1, h);
+            s.Red.RepresaQH(r, f) = Altura(hq);
+            s.Red.RepresaQQ(r, f) = Descarga(1, hq);
         }
     }
 }
@@ -212,19 +212,19 @@ void Dibuja(Siro& s, const Medidas& medidas)
 {
     const int vertices = medidas.vertices;
     const Planta planta(medidas.nudos);
-    s.XVertice.Dimensiona(model::MaxCauces, vertices);
-    s.YVertice.Dimensiona(model::MaxCauces, vertices);
+    s.Red.XVertice.Dimensiona(model::MaxCauces, vertices);
+    s.Red.YVertice.Dimensiona(model::MaxCauces, vertices);
     std::int16_t par = 1;
-    for (auto& cauce : s.ColCauces) {
+    for (auto& cauce : s.Red.ColCauces) {
         cauce.numVertices = static_cast<std::int16_t>(vertices);
         cauce.IndiceParInicial = par;
         par = static_cast<std::int16_t>(par + vertices);
-        s.NroVertices(cauce.numCauce) = cauce.numVertices;
+        s.Red.NroVertices(cauce.numCauce) = cauce.numVertices;
         const Lugar boca = planta.Boca(cauce.numCauce - 1);
         for (int v = 1; v <= vertices; ++v) {
             const double parte = static_cast<double>(v - 1) / (vertices - 1);
-            s.XVertice(cauce.numCauce, v) = static_cast<float>(boca.x - Planta::Tramo * parte);
-            s.YVertice(cauce.numCauce, v) = static_cast<float>(boca.y + 2 * std::sin(parte * 6.25));
+            s.Red.XVertice(cauce.numCauce, v) = static_cast<float>(boca.x - Planta::Tramo * parte);
+            s.Red.YVertice(cauce.numCauce, v) = static_cast<float>(boca.y + 2 * std::sin(parte * 6.25));
         }
     }
 }
@@ -241,15 +241,15 @@ void DibujaIconos(Siro& s, const Medidas& medidas)
     for (int i = 0; i < medidas.nudos; ++i) {
         const Lugar cabeza = planta.Cabeza(i);
         const bool represa = i >= conRepresa;
-        model::UEH& u = s.UEHs(i + 1);
-        model::Lago& l = s.Lagos(i + 1);
+        model::UEH& u = s.Red.UEHs(i + 1);
+        model::Lago& l = s.Red.Lagos(i + 1);
         const double lejos = represa ? 2 : 1;
         pon(u.IconoUEHx, u.IconoUEHy, {cabeza.x - lejos * PasoDeIcono, cabeza.y - 7});
         pon(u.XCauce, u.YCauce, cabeza);
         pon(l.IconoLAGOx, l.IconoLAGOy, {planta.Boca(i).x + 4, planta.Boca(i).y});
         pon(l.XCauce, l.YCauce, i == 0 ? Lugar{} : planta.Cabeza((i - 1) / 2));
         if (!represa) continue;
-        model::Represa& r = s.Represas(i - conRepresa + 1);
+        model::Represa& r = s.Red.Represas(i - conRepresa + 1);
         pon(r.IconoRepresaX, r.IconoRepresaY, {cabeza.x - PasoDeIcono, cabeza.y - 7});
         pon(r.XCauce, r.YCauce, cabeza);
     }
@@ -258,20 +258,20 @@ void DibujaIconos(Siro& s, const Medidas& medidas)
 void ArmaSerie(Siro& s)
 {
     const TormentaLimite tormenta;
-    for (auto* tabla : {&s.TablasP, &s.TablasD, &s.TablasR})
+    for (auto* tabla : {&s.TablasDeLluvia.TablasP, &s.TablasDeLluvia.TablasD, &s.TablasDeLluvia.TablasR})
         tabla->Dimensiona(4, TormentasDeLaSerie + 1);
-    s.NroFilasTabla = {TormentasDeLaSerie, 0, 0, 0};
+    s.TablasDeLluvia.NroFilasTabla = {TormentasDeLaSerie, 0, 0, 0};
     for (std::int16_t n = 1; n <= TormentasDeLaSerie; ++n) {
-        s.TablasP(0, n) = model::Entero16(tormenta.pp * (0.5 + n / 999.0));
-        s.TablasD(0, n) = tormenta.dur;
-        s.TablasR(0, n) = n;
+        s.TablasDeLluvia.TablasP(0, n) = model::Entero16(tormenta.pp * (0.5 + n / 999.0));
+        s.TablasDeLluvia.TablasD(0, n) = tormenta.dur;
+        s.TablasDeLluvia.TablasR(0, n) = n;
     }
 }
 
 void ArmaConfiguracion(Siro& s, const std::string& dir)
 {
-    s.NombreProyecto = NombreProyecto;
-    s.N0Dur = N0Dur;
+    s.Proyecto.NombreProyecto = NombreProyecto;
+    s.Pasos.N0Dur = N0Dur;
     auto& c = s.frmConfigura;
     c.TextProyecto = "Red en los límites del programa";
     c.Dir1 = dir;
@@ -289,8 +289,8 @@ void ArmaRed(Siro& s, const Medidas& medidas)
     const auto aguasArriba = NudosAguasArriba(medidas.nudos);
     const int conRepresa = PrimeroConRepresa(medidas.nudos);
     for (int i = 0; i < medidas.nudos; ++i) {
-        s.ColUEHs.Agrega(UEHDeNudo(azar, i, medidas));
-        s.ColCauces.Agrega(TramoDeNudo(azar, i));
+        s.Red.ColUEHs.Agrega(UEHDeNudo(azar, i, medidas));
+        s.Red.ColCauces.Agrega(TramoDeNudo(azar, i));
         model::Lago lago;
         lago.numLAGO = static_cast<std::int16_t>(i + 1);
         lago.NombreLAGO = Nombre('l', i + 1);
@@ -298,7 +298,7 @@ void ArmaRed(Siro& s, const Medidas& medidas)
         lago.Lago_k_Musk = 30;
         lago.HInicialEmb = AlturaInicial;
         lago.Cauce_aa = i == 0 ? "0" : Nombre('c', (i - 1) / 2 + 1);
-        s.ColLagos.Agrega(lago);
+        s.Red.ColLagos.Agrega(lago);
         if (i < conRepresa) continue;
         model::Represa represa;
         represa.numRepresa = static_cast<std::int16_t>(i - conRepresa + 1);
@@ -308,10 +308,10 @@ void ArmaRed(Siro& s, const Medidas& medidas)
         represa.Represa_k_Musk = 30;
         represa.HInicialEmb = AlturaInicial;
         represa.Cauce_aa = Nombre('c', i + 1);
-        s.ColRepresas.Agrega(represa);
+        s.Red.ColRepresas.Agrega(represa);
     }
-    s.NroUEHs = s.NroCauces = s.NroLagos = static_cast<std::int16_t>(medidas.nudos);
-    s.NroRepresas = static_cast<std::int16_t>(medidas.nudos - conRepresa);
+    s.Red.NroUEHs = s.Red.NroCauces = s.Red.NroLagos = static_cast<std::int16_t>(medidas.nudos);
+    s.Red.NroRepresas = static_cast<std::int16_t>(medidas.nudos - conRepresa);
     TablasDeLagos(s, aguasArriba);
     TablasDeRepresas(s);
     Dibuja(s, medidas);
@@ -320,12 +320,12 @@ void ArmaRed(Siro& s, const Medidas& medidas)
 
 void PonTormenta(Siro& s, const TormentaLimite& tormenta)
 {
-    s.FormaPp = static_cast<std::int16_t>(model::FormaLluvia::Escrita);
-    s.PpTormenta = tormenta.pp;
-    s.DurTormenta = tormenta.dur;
-    s.DistriPp = tormenta.distribucion;
-    s.PasoPp = tormenta.pasoPp;
-    s.PasoQ = tormenta.pasoQ;
+    s.Tormenta.FormaPp = static_cast<std::int16_t>(model::FormaLluvia::Escrita);
+    s.Tormenta.PpTormenta = tormenta.pp;
+    s.Tormenta.DurTormenta = tormenta.dur;
+    s.Tormenta.DistriPp = tormenta.distribucion;
+    s.Pasos.PasoPp = tormenta.pasoPp;
+    s.Pasos.PasoQ = tormenta.pasoQ;
 }
 
 void GuardaProyecto(const std::string& dir, const Medidas& medidas)
@@ -337,7 +337,7 @@ void GuardaProyecto(const std::string& dir, const Medidas& medidas)
     fs::create_directories(dir);
     const std::string absoluto = fs::canonical(dir).string();
     Siro s;
-    s.DirTrabajo = s.DirProyecto = absoluto;
+    s.Proyecto.DirTrabajo = s.Proyecto.DirProyecto = absoluto;
     s.Anfitrion.Avisa = [](const model::Mensaje& m) {
         if (m.texto.starts_with("Error")) throw std::runtime_error(m.texto);
     };
@@ -359,8 +359,8 @@ void GuardaProyecto(const std::string& dir, const Medidas& medidas)
 Siro ProyectoAbierto(const std::string& dir)
 {
     Siro s;
-    s.DirTrabajo = s.DirProyecto = fs::canonical(dir).string();
-    s.NombreProyecto = NombreProyecto;
+    s.Proyecto.DirTrabajo = s.Proyecto.DirProyecto = fs::canonical(dir).string();
+    s.Proyecto.NombreProyecto = NombreProyecto;
     PonTormenta(s);
     return s;
 }

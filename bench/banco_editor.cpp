@@ -39,11 +39,11 @@ Punto Esquina(int nudo)
 void TrazaCauce(Siro& s, int n)
 {
     const Punto e = Esquina(n - 1);
-    s.NroVertices(n) = Vertices;
+    s.Red.NroVertices(n) = Vertices;
     for (int v = 1; v <= Vertices; ++v) {
         const double avance = static_cast<double>(v) / Vertices;
-        s.XVertice(n, v) = static_cast<float>(e.X + Celda * (0.5 + 0.2 * std::sin(avance * 25)));
-        s.YVertice(n, v) = static_cast<float>(e.Y + Celda * (0.95 - 0.9 * avance));
+        s.Red.XVertice(n, v) = static_cast<float>(e.X + Celda * (0.5 + 0.2 * std::sin(avance * 25)));
+        s.Red.YVertice(n, v) = static_cast<float>(e.Y + Celda * (0.95 - 0.9 * avance));
     }
 }
 
@@ -56,40 +56,40 @@ Siro RedLimite()
 {
     Siro s;
     bench::ArmaRed(s, {});
-    s.XVertice.Dimensiona(model::MaxCauces, Vertices);
-    s.YVertice.Dimensiona(model::MaxCauces, Vertices);
-    for (auto& c : s.ColCauces) {
+    s.Red.XVertice.Dimensiona(model::MaxCauces, Vertices);
+    s.Red.YVertice.Dimensiona(model::MaxCauces, Vertices);
+    for (auto& c : s.Red.ColCauces) {
         c.numVertices = Vertices;
         TrazaCauce(s, c.numCauce);
         Alarga(c.NombreCauce);
         Alarga(c.Cauce_aa);
     }
-    for (auto& u : s.ColUEHs) {
+    for (auto& u : s.Red.ColUEHs) {
         const Punto e = Esquina(u.numUEH - 1);
         u.IconoUEHx = e.X + 10;
         u.IconoUEHy = e.Y + 20;
-        u.XCauce = s.XVertice(u.numUEH, Vertices);
-        u.YCauce = s.YVertice(u.numUEH, Vertices);
+        u.XCauce = s.Red.XVertice(u.numUEH, Vertices);
+        u.YCauce = s.Red.YVertice(u.numUEH, Vertices);
         Alarga(u.NombreUEH);
         Alarga(u.Cauce_aa);
     }
-    for (auto& l : s.ColLagos) {
+    for (auto& l : s.Red.ColLagos) {
         const Punto e = Esquina(l.numLAGO - 1);
         const int aguasAbajo = std::max<int>(1, l.numLAGO / 2);
         l.IconoLAGOx = e.X + 0.7F * Celda;
         l.IconoLAGOy = e.Y + 0.9F * Celda;
-        l.XCauce = s.XVertice(aguasAbajo, Vertices);
-        l.YCauce = s.YVertice(aguasAbajo, Vertices);
+        l.XCauce = s.Red.XVertice(aguasAbajo, Vertices);
+        l.YCauce = s.Red.YVertice(aguasAbajo, Vertices);
         Alarga(l.NombreLAGO);
         Alarga(l.Cauce_aa);
     }
-    for (auto& r : s.ColRepresas) {
+    for (auto& r : s.Red.ColRepresas) {
         const int nudo = model::MaxUEHs - model::MaxRepresas + r.numRepresa;
         const Punto e = Esquina(nudo - 1);
         r.IconoRepresaX = e.X + 0.7F * Celda;
         r.IconoRepresaY = e.Y + 0.3F * Celda;
-        r.XCauce = s.XVertice(nudo, Vertices);
-        r.YCauce = s.YVertice(nudo, Vertices);
+        r.XCauce = s.Red.XVertice(nudo, Vertices);
+        r.YCauce = s.Red.YVertice(nudo, Vertices);
         Alarga(r.NombreRepresa);
         Alarga(r.Cauce_aa);
     }
@@ -104,13 +104,13 @@ struct Editor {
         f.abierta = f.OrdenVisible = true;
         f.AnchoLinea = 4;
         f.recentra = f.reescala = true;
-        s.CauceSel = 1;
+        s.Seleccion.CauceSel = 1;
         if (conFondo) {
             const auto tamano = f.CargaImagen(Fondo);
             if (!tamano) throw std::runtime_error("no background image");
             f.imagen = *tamano;
             f.ImagenVisible = true;
-            s.EscalaImagen = 100.0 * Lado * Celda / tamano->ancho;
+            s.Configuracion.EscalaImagen = 100.0 * Lado * Celda / tamano->ancho;
         }
         ventana.resize(Pantalla);
         ventana.show();
@@ -162,8 +162,8 @@ BENCHMARK(Redibujo)->ArgName("fondo")->Arg(0)->Arg(1)->Unit(benchmark::kMillisec
 void Arrastre(benchmark::State& estado)
 {
     Editor e(estado.range(0) != 0);
-    e.s.CauceSel = 0;
-    const auto& icono = e.s.ColUEHs.Item(1);
+    e.s.Seleccion.CauceSel = 0;
+    const auto& icono = e.s.Red.ColUEHs.Item(1);
     const QPointF desde = e.Pixel({icono.IconoUEHx + 3, icono.IconoUEHy + 3});
     QMouseEvent aprieta(QEvent::MouseButtonPress, desde, e.lienzo.mapToGlobal(desde), Qt::LeftButton,
                         Qt::LeftButton, {});

@@ -23,7 +23,7 @@ void Proyecto(benchmark::State& estado)
     Siro s = bench::ProyectoAbierto(proyecto.Dir());
     for (auto _ : estado)
         engine::CargaProyecto(s);
-    if (s.ColLagos.Cuenta() != model::MaxLagos) throw std::runtime_error("the project wasn't read");
+    if (s.Red.ColLagos.Cuenta() != model::MaxLagos) throw std::runtime_error("the project wasn't read");
 }
 BENCHMARK(Proyecto)->Unit(benchmark::kMicrosecond);
 

@@ -21,12 +21,14 @@ void Serie(benchmark::State& estado)
     const auto hilos = static_cast<int>(estado.range(0));
     for (auto _ : estado) {
         Siro s = bench::ProyectoAbierto(proyecto.Dir());
-        s.FormaPp = static_cast<std::int16_t>(model::FormaLluvia::SeriePDR);
+        s.Tormenta.FormaPp = static_cast<std::int16_t>(model::FormaLluvia::SeriePDR);
         model::LeeTablaPDRs(s);
-        if (s.NroSeriePDR != bench::TormentasDeLaSerie) throw std::runtime_error("the series wasn't read");
+        if (s.Serie.NroSeriePDR != bench::TormentasDeLaSerie)
+            throw std::runtime_error("the series wasn't read");
         if (engine::CorreSeriePDR(s, hilos) != engine::FinSerie::Completa)
             throw std::runtime_error("the series ended early");
-        if (!(s.QMax(s.NroComponentes, bench::TormentasDeLaSerie) > s.QMax(s.NroComponentes, 1)))
+        if (!(s.Resultados.QMax(s.Resultados.NroComponentes, bench::TormentasDeLaSerie) >
+              s.Resultados.QMax(s.Resultados.NroComponentes, 1)))
             throw std::runtime_error("a greater storm gives no greater peak");
     }
 }

@@ -51,15 +51,15 @@ void Numeros(benchmark::State& estado)
     for (auto _ : estado) {
         char cifras[model::LargoNumero];
         const auto fila = [&](const float* x) {
-            for (int p = 0; p <= s.NroPasosQ; ++p)
+            for (int p = 0; p <= s.Resultados.NroPasosQ; ++p)
                 benchmark::DoNotOptimize(model::EscribeNumero(cifras, x[p]));
-            numeros += s.NroPasosQ + 1;
+            numeros += s.Resultados.NroPasosQ + 1;
         };
-        for (int c = 1; c <= s.NroComponentes; ++c)
-            fila(s.QSale.Fila(c));
-        for (int l = 1; l <= s.NroLagos; ++l) {
-            fila(s.HLago.Fila(l));
-            fila(s.SLago.Fila(l));
+        for (int c = 1; c <= s.Resultados.NroComponentes; ++c)
+            fila(s.Resultados.QSale.Fila(c));
+        for (int l = 1; l <= s.Red.NroLagos; ++l) {
+            fila(s.Resultados.HLago.Fila(l));
+            fila(s.Resultados.SLago.Fila(l));
         }
     }
     estado.SetItemsProcessed(numeros);
@@ -81,10 +81,10 @@ void TextoDeUnaCorrida(benchmark::State& estado)
     };
     for (auto _ : estado) {
         const double con = corre(true);
-        benchmark::DoNotOptimize(s.TextoPizarra.data());
-        s.SalidaPizarra = false;
+        benchmark::DoNotOptimize(s.Control.TextoPizarra.data());
+        s.Control.SalidaPizarra = false;
         const double sin = corre(false);
-        s.SalidaPizarra = estado.range(0) != 0;
+        s.Control.SalidaPizarra = estado.range(0) != 0;
         estado.SetIterationTime(con > sin ? con - sin : 0);
     }
 }
@@ -100,8 +100,8 @@ void PaginaDeCodigos(benchmark::State& estado)
 {
     const Corrido corrido(estado.range(0) != 0);
     for (auto _ : estado)
-        benchmark::DoNotOptimize(model::AWindows1252(corrido.s.TextoPizarra));
-    Bytes(estado, corrido.s.TextoPizarra.size());
+        benchmark::DoNotOptimize(model::AWindows1252(corrido.s.Control.TextoPizarra));
+    Bytes(estado, corrido.s.Control.TextoPizarra.size());
 }
 BENCHMARK(PaginaDeCodigos)->ArgName("pizarra")->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
 
@@ -113,10 +113,10 @@ void Archivo(benchmark::State& estado)
     for (auto _ : estado) {
         model::EscritorRegistros escritor(corrido.s.Disco);
         escritor.Abre(ruta);
-        escritor.Texto(corrido.s.TextoPizarra).FinRegistro();
+        escritor.Texto(corrido.s.Control.TextoPizarra).FinRegistro();
         escritor.Cierra();
     }
-    Bytes(estado, corrido.s.TextoPizarra.size());
+    Bytes(estado, corrido.s.Control.TextoPizarra.size());
 }
 BENCHMARK(Archivo)->ArgName("pizarra")->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
 

@@ -38,7 +38,7 @@ void Tormenta(benchmark::State& estado)
         Siro s = bench::ProyectoAbierto(proyecto.Dir());
         s.Anfitrion = anfitrion.Anfitrion();
         Exige(engine::CorreUnaTormenta(s));
-        benchmark::DoNotOptimize(s.QMax.Fila(1));
+        benchmark::DoNotOptimize(s.Resultados.QMax.Fila(1));
     }
 }
 BENCHMARK(Tormenta)->ArgName("pizarra")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
@@ -49,8 +49,8 @@ struct Leido {
         : proyecto(medidas), s(bench::ProyectoAbierto(proyecto.Dir()))
     {
         engine::CargaProyecto(s);
-        s.AvisoDescargasVisto = true;
-        s.NroSeriePDR = 0;
+        s.Control.AvisoDescargasVisto = true;
+        s.Serie.NroSeriePDR = 0;
     }
     bench::ProyectoTemporal proyecto;
     Siro s;
@@ -60,7 +60,7 @@ void Proceso(Siro& s, bool conTexto, engine::Memoria& memoria)
 {
     engine::ConstruyeHietograma(s);
     Exige(engine::ProcesoPrincipal(s, {.GuardaTexto = false, .ConTexto = conTexto}, memoria));
-    benchmark::DoNotOptimize(s.QMax.Fila(1));
+    benchmark::DoNotOptimize(s.Resultados.QMax.Fila(1));
 }
 
 // The calculation alone: no reading, no text, nothing kept from an earlier storm.
@@ -141,13 +141,13 @@ BENCHMARK(CalculoPorNudos)
 void CalculoPorDuracion(benchmark::State& estado)
 {
     Leido leido;
-    leido.s.DurTormenta = static_cast<std::int16_t>(estado.range(0));
-    leido.s.DistriPp = 0;
+    leido.s.Tormenta.DurTormenta = static_cast<std::int16_t>(estado.range(0));
+    leido.s.Tormenta.DistriPp = 0;
     for (auto _ : estado) {
         engine::Memoria memoria;
         Proceso(leido.s, false, memoria);
     }
-    estado.SetComplexityN(leido.s.NroPasosQ);
+    estado.SetComplexityN(leido.s.Resultados.NroPasosQ);
 }
 BENCHMARK(CalculoPorDuracion)
     ->ArgName("minutos")

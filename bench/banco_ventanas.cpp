@@ -53,13 +53,13 @@ class Muestra {
     [[nodiscard]] Siro Abierta() const
     {
         Siro s;
-        s.DirTrabajo = s.DirEjecutable = dir.string();
+        s.Proyecto.DirTrabajo = s.Proyecto.DirEjecutable = dir.string();
         model::AbreProyectoDe(s, (dir / "Proyectos" / "Quelmar_Conf.vlm").string());
-        s.PpTormenta = 80;
-        s.DurTormenta = 120;
-        s.DistriPp = 2;
-        s.PasoPp = 10;
-        s.PasoQ = 5;
+        s.Tormenta.PpTormenta = 80;
+        s.Tormenta.DurTormenta = 120;
+        s.Tormenta.DistriPp = 2;
+        s.Pasos.PasoPp = 10;
+        s.Pasos.PasoQ = 5;
         return s;
     }
 
