@@ -37,6 +37,7 @@ struct Corrida {
 
     // --- reaches, Lagos, Represas ---
     float QBaseEntra = 0;          ///< initial flow of the UEHs that drain straight into the component [m3/s]
+    float SActual = 0;             ///< storage that any routing worked out last [m3]
     std::int16_t TiempoViaje = 0;  ///< [min]
     std::int16_t RetardoPasos = 0;  ///< [output steps]
     std::int16_t RetardoMax = 0;    ///< largest delay so far [output steps]

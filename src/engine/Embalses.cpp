@@ -8,11 +8,11 @@
 #include "engine/Totales.h"
 #include "hydraulics/mdlFQs.h"
 #include "hydraulics/mdlHAS.h"
+#include "model/Clases.h"
 #include "model/Numeros.h"
 
 namespace engine {
 
-using model::ComponenteActual;
 using model::Simple;
 using model::Siro;
 
@@ -21,34 +21,6 @@ namespace {
 constexpr std::string_view MetodoMuskingum = "Muskingum";
 constexpr std::string_view MetodoPiscina = "Piscina Nivelada";
 constexpr std::string_view MetodoRungeKutta = "Runge Kutta";
-
-// The Lago keeps "la Lago" and "Qentra[mm]" as they stand.
-constexpr ClaseEmbalse ClaseRepresa = {
-    "Represa",
-    "Per.k  t[min]  Qentra[m3/s] Qsale[m3/s]   H[m]     Vol.Alm.[m3]",
-    "Error...Verifique función Altura Superficie de la Represa",
-    " de la Represa ",
-    "Error <Proceso_en_Represa>, inconsistencia en el cálculo de <2S/dt + Q> "
-    "en propagación Represa ",
-    hydraulics::SdeHRepresa,
-    hydraulics::HdeSRepresa,
-    hydraulics::AdeHRepresa,
-    hydraulics::QdeHRepresa,
-    hydraulics::HdeQalmaRepresa,
-};
-constexpr ClaseEmbalse ClaseLago = {
-    "Lago",
-    "Per.k  t[min]  Qentra[mm] Qsale[m3/s]   H[m]     Vol.Alm.[m3]",
-    "Error...Verifique función Altura Superficie de la Lago",
-    " de la Lago ",
-    "Error <Proceso_en_Lago>, inconsistencia en el cálculo de <2S/dt + Q> en "
-    "propagación Lago ",
-    hydraulics::SdeHLago,
-    hydraulics::HdeSLago,
-    hydraulics::AdeHLago,
-    hydraulics::QdeHLago,
-    hydraulics::HdeQalmaLago,
-};
 
 // --- inflow ---
 
@@ -76,18 +48,17 @@ void JuntaAfluentes(Corrida& c, const EmbalseEnMano& e)
 
 bool PropagaMuskingum(Corrida& c, const EmbalseEnMano& e)
 {
-    Siro& s = c.s;
     constexpr double X = 0;  // the Represa's own weight has no effect
-    if (!c.Musk.Prepara(e.K, X, s.Pasos.PasoQ, [](auto cuerpo) { cuerpo(); })) {
-        model::Advierte(s, TextoMuskingum(e.nombre));
+    model::Resultados& r = c.s.Resultados;
+    if (!c.Musk.Prepara(e.K, X, c.s.Pasos.PasoQ, [](auto cuerpo) { cuerpo(); })) {
+        model::Advierte(c.s, TextoMuskingum(e.nombre));
         return false;
     }
-    for (int k = 1; k <= s.Resultados.NroPasosQ; ++k) {
-        s.Resultados.IndPaso = static_cast<std::int16_t>(k);
-        c.Musk.Paso(s.Resultados, e.fila, k);
-        e.H(e.numero, k) = e.clase.HdeQalma(s, s.Resultados.QSale(e.fila, k));
-        s.Resultados.HActual = e.H(e.numero, k);
-        e.S(e.numero, k) = Simple(e.clase.SdeH(s, s.Resultados.HActual));
+    for (int k = 1; k <= r.NroPasosQ; ++k) {
+        c.Musk.Paso(r, e.fila, k);
+        const float H = hydraulics::HdeQalma(e, r.QSale(e.fila, k));
+        e.H(e.numero, k) = H;
+        e.S(e.numero, k) = Simple(hydraulics::SdeH(e, H));
     }
     return true;
 }
@@ -121,40 +92,58 @@ void AvisaMetodo(const Siro& s, const std::string& nombre)
                         nombre + ". ");
 }
 
+EmbalseEnMano EnMano(Siro& s, const model::Represa& r, int fila)
+{
+    model::Resultados& res = s.Resultados;
+    return {hydraulics::EnMano(s.Anfitrion, s.Red, r),
+            "Represa",
+            "m3/s",
+            r.Metodo,
+            r.Represa_k_Musk,
+            r.HInicialEmb,
+            res.HRepresa,
+            res.SRepresa,
+            fila};
+}
+
+// "mm" of a Lago is kept as it stands.
+EmbalseEnMano EnMano(Siro& s, const model::Lago& l, int fila)
+{
+    model::Resultados& res = s.Resultados;
+    return {hydraulics::EnMano(s.Anfitrion, s.Red, l),
+            "Lago",
+            "mm",
+            l.Metodo,
+            l.Lago_k_Musk,
+            l.HInicialEmb,
+            res.HLago,
+            res.SLago,
+            fila};
+}
+
+/// Routes the Represa or the Lago at a row of Secuencia.
+template <typename T>
+void Proceso(Corrida& c, int fila)
+{
+    for (const T& e : model::Todos<T>(c.s.Red)) {
+        // An earlier one without a method stops this one too: kept as it stands.
+        if (!MetodoConocido(e.Metodo)) return AvisaMetodo(c.s, model::Nombre(e));
+        c.QBaseEntra = 0;
+        if (model::Nombre(e) != c.s.Resultados.Secuencia[static_cast<std::size_t>(fila)]) continue;
+        if (!PropagaEmbalse(c, EnMano(c.s, e, fila))) return;
+    }
+}
+
 }  // namespace
 
 void Proceso_en_Represa(Corrida& c, int fila)
 {
-    Siro& s = c.s;
-    int item = 0;
-    for (model::Represa& r : s.Red.ColRepresas) {
-        s.CompActual = {ComponenteActual::Clase::Represa, ++item};
-        // An earlier Represa without a method stops this one too: kept as it stands.
-        if (!MetodoConocido(r.Metodo)) return AvisaMetodo(s, r.NombreRepresa);
-        c.QBaseEntra = 0;
-        if (r.NombreRepresa != s.Resultados.Secuencia[static_cast<std::size_t>(fila)]) continue;
-        const bool sigue =
-            PropagaEmbalse(c, {ClaseRepresa, r.NombreRepresa, r.Metodo, r.numRepresa, fila, r.Represa_k_Musk,
-                               r.HInicialEmb, s.Resultados.HRepresa, s.Resultados.SRepresa, s.Red.RepresaH,
-                               s.Red.RepresaS, s.Red.RepresaFilasHAS});
-        if (!sigue) return;
-    }
+    Proceso<model::Represa>(c, fila);
 }
 
 void Proceso_en_Lago(Corrida& c, int fila)
 {
-    Siro& s = c.s;
-    int item = 0;
-    for (model::Lago& l : s.Red.ColLagos) {
-        s.CompActual = {ComponenteActual::Clase::Lago, ++item};
-        if (!MetodoConocido(l.Metodo)) return AvisaMetodo(s, l.NombreLAGO);
-        c.QBaseEntra = 0;
-        if (l.NombreLAGO != s.Resultados.Secuencia[static_cast<std::size_t>(fila)]) continue;
-        const bool sigue = PropagaEmbalse(
-            c, {ClaseLago, l.NombreLAGO, l.Metodo, l.numLAGO, fila, l.Lago_k_Musk, l.HInicialEmb,
-                s.Resultados.HLago, s.Resultados.SLago, s.Red.LagoH, s.Red.LagoS, s.Red.LagoFilas});
-        if (!sigue) return;
-    }
+    Proceso<model::Lago>(c, fila);
 }
 
 }  // namespace engine

@@ -37,7 +37,6 @@ struct Nodo {
 struct NodosPiscina {
     std::vector<float> clave{};  ///< what they were worked out from
     bool sirve = false;          ///< U rises with the height, so that they can stand for the bisection
-    double cotaDescarga = 0;     ///< bound of the absolute outflow [m3/s]
     std::vector<Nodo> nodo{};
     std::vector<float> U{};  ///< u of each, side by side for the search
 };

@@ -16,7 +16,7 @@ namespace {
 /// The line that names component and method, in the sheet and ahead of the table.
 std::string LineaMetodo(const Corrida& c, const EmbalseEnMano& e)
 {
-    return "Componente: " + std::string(e.clase.nombre) + " " +
+    return "Componente: " + std::string(e.palabra) + " " +
            c.s.Resultados.Secuencia[static_cast<std::size_t>(e.fila)] +
            "     Método de Propagación: " + e.metodo;
 }
@@ -48,7 +48,7 @@ void AbreDetalle(Corrida& c, const EmbalseEnMano& e, std::string_view encabezado
 {
     if (!c.ConTexto) return;
     c.s.Control.TextoPizarra.append("\r\nPlanilla detallada de cálculo de propagación en ")
-        .append(e.clase.nombre)
+        .append(e.palabra)
         .append(" \r\n")
         .append(encabezado)
         .append("\r\n")
@@ -58,22 +58,18 @@ void AbreDetalle(Corrida& c, const EmbalseEnMano& e, std::string_view encabezado
 void CierraDetalle(Corrida& c, const EmbalseEnMano& e)
 {
     if (c.ConTexto)
-        c.s.Control.TextoPizarra.append("\r\n Fin detalle cálculo proaga en ")
-            .append(e.clase.nombre)
-            .append(" ");
+        c.s.Control.TextoPizarra.append("\r\n Fin detalle cálculo proaga en ").append(e.palabra).append(" ");
 }
 
-void EscribeDetalle(Corrida& c, const EmbalseEnMano& e, std::int16_t k, const ColumnasDelMetodo& columnas)
+void AgregaDetalle(Corrida& c, const EmbalseEnMano& e, std::int16_t t, const RenglonDetalle& r)
 {
-    Siro& s = c.s;
-    const std::int16_t t = Minutos(k, s.Pasos.PasoQ);
-    const float entra = s.Resultados.QEntra(e.fila, k), sale = s.Resultados.QSale(e.fila, k);
-    if (!c.ConTexto) return;
+    const model::Resultados& resultados = c.s.Resultados;
+    const float entra = resultados.QEntra(e.fila, r.k), sale = resultados.QSale(e.fila, r.k);
     c.Linea.Vacia();
-    c.Linea.Pone("\r\n").Detalle(std::int32_t{k}, 3).Detalle(std::int32_t{t}, 3).Detalle(entra, 3);
-    c.Linea.Detalle(columnas[0], 3).Detalle(columnas[1], 3).Detalle(columnas[2], 8).Detalle(sale, 2);
-    c.Linea.Detalle(s.Resultados.HActual, 2).Detalle(s.Resultados.SActual, 0);
-    s.Control.TextoPizarra.append(c.Linea.Texto());
+    c.Linea.Pone("\r\n").Detalle(std::int32_t{r.k}, 3).Detalle(std::int32_t{t}, 3).Detalle(entra, 3);
+    c.Linea.Detalle(r.columnas[0], 3).Detalle(r.columnas[1], 3).Detalle(r.columnas[2], 8).Detalle(sale, 2);
+    c.Linea.Detalle(r.H, 2).Detalle(c.SActual, 0);
+    c.s.Control.TextoPizarra.append(c.Linea.Texto());
 }
 
 void EscribeTabla(Corrida& c, const EmbalseEnMano& e)
@@ -85,7 +81,9 @@ void EscribeTabla(Corrida& c, const EmbalseEnMano& e)
         s.Control.TextoPizarra.append("\r\n\r\n")
             .append(LineaMetodo(c, e))
             .append("\r\n")
-            .append(e.clase.columnas);
+            .append("Per.k  t[min]  Qentra[")
+            .append(e.unidad)
+            .append("] Qsale[m3/s]   H[m]     Vol.Alm.[m3]");
     if (s.Control.SalidaPizarra || !Resume(c, e.fila, {0, s.Resultados.NroPasosQ})) ResumePasoAPaso(c, e);
     if (!s.Control.SalidaPizarra) return;
     EscribeResumen(c, e.fila);

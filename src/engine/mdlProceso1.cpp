@@ -290,9 +290,6 @@ bool ProcesoPrincipal(Siro& s, ModoCorrida modo, Memoria& memoria)
     Corrida c(s, memoria);
     c.ConTexto = modo.ConTexto || modo.GuardaTexto || s.Control.SalidaPizarra;
     c.ConVolumenes = c.ConTexto || modo.ConVolumenes;
-    s.Resultados.HActual = 0;
-    s.Resultados.SActual = 0;
-    s.Resultados.ACalc = 0;
     if (!PreparaCorrida(c)) return false;
     if (c.ConTexto) ReservaTexto(c);
     PasosDeLasUEHs(c);

@@ -45,7 +45,7 @@ void CargaProyecto(Siro& s)
     }
     if (s.Red.NroLagos > 0) model::LeeTablaHSVQLago(s);
     s.Anfitrion.carga_lbl_proyecto();
-    model::Sentencia([&] { hydraulics::CargaFQs(s); }, model::AvisaMotor(s));
+    model::Sentencia([&] { hydraulics::CargaFQs(s.Red); }, model::AvisaMotor(s));
     if (s.Red.NroRepresas >= 1) s.Anfitrion.HabilitaVerificacion();
 }
 

@@ -11,26 +11,32 @@ namespace hydraulics {
 /// Rounds after which a bisection is given up: 32-bit floats then no longer halve the bracket.
 inline constexpr int MaxVueltasBiseccion = 1000;
 
-/// Width of the bracket at which the height for an outflow is found [m]; a 32-bit constant.
-inline constexpr float ToleranciaAltura = 0.001F;
-
-/// The last midpoint of the bisection for the height [m] at which `Q(height)` passes q [m3/s]: a bracket
-/// that is within the tolerance from the start gives 0. Q must rise with the height; where it falls, one side
-/// of the fall is settled on. Returns nothing past MaxVueltasBiseccion rounds.
-/// Throws Falla 6 where the width of the bracket is outside a 32-bit float.
-template <typename Descarga>
-std::optional<float> BisecaAltura(float minimo, float maximo, float q, Descarga&& Q)
+/// The middle of a bracket of heights, a 32-bit float.
+inline float PuntoMedio(float hi, float lo)
 {
-    float lo = minimo;
-    float hi = maximo;
-    float mid = 0;
-    for (int vueltas = 1; std::fabs(model::Simple(double{1} * hi - lo)) > ToleranciaAltura; ++vueltas) {
+    return static_cast<float>((double{hi} - lo) / 2 + lo);
+}
+
+/// Whether a bracket of heights is still wider than `ancho`, a 32-bit float [m]. Throws Falla 6 where its
+/// width is outside a 32-bit float.
+inline bool SigueAbierto(float hi, float lo, float ancho)
+{
+    return std::fabs(model::Simple(double{hi} - lo)) > ancho;
+}
+
+/// The last midpoint of a bisection of the heights between two [m], until the bracket is no wider than
+/// `ancho`: `pasa(height)` tells that it is above the one looked for. It must go on being so for all heights
+/// above; where it doesn't, one side is settled on. A bracket as narrow from the start gives 0 and asks
+/// nothing. Returns nothing past MaxVueltasBiseccion rounds. Throws Falla 6 where the width of the bracket is
+/// outside a 32-bit float.
+template <typename Pasa>
+std::optional<float> BisecaAltura(float minimo, float maximo, float ancho, Pasa&& pasa)
+{
+    float lo = minimo, hi = maximo, mid = 0;
+    for (int vueltas = 1; SigueAbierto(hi, lo, ancho); ++vueltas) {
         if (vueltas > MaxVueltasBiseccion) return std::nullopt;
-        mid = model::Simple((double{1} * hi - lo) / 2 + lo);
-        if (Q(mid) > q)
-            hi = mid;
-        else
-            lo = mid;
+        mid = PuntoMedio(hi, lo);
+        (pasa(mid) ? hi : lo) = mid;
     }
     return mid;
 }

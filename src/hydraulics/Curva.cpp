@@ -5,23 +5,14 @@
 #include <cmath>
 #include <limits>
 
-#include "hydraulics/Biseccion.h"
-#include "hydraulics/ComponenteEnMano.h"
 #include "hydraulics/Interpola.h"
-#include "hydraulics/mdlFQs.h"
 
 namespace hydraulics {
-
-using model::Siro;
-using Clase = model::ComponenteActual::Clase;
 
 namespace {
 
 /// Sums of outflows [m3/s] up to here are safely inside a 32-bit float, whatever way they are rounded.
 constexpr double MaximaSuma = 1e38;
-
-/// Below this height [m] 32-bit floats stand closer than the tolerance of the bisection, which then ends.
-constexpr float MaximaAltura = 16384;
 
 bool Cabe(std::int32_t a, std::int32_t b)
 {
@@ -58,15 +49,8 @@ CurvaLineal CurvaDe(const Columnas<float, T>& t)
     return X.size() == Y.size() ? CurvaLineal(X, Y) : CurvaLineal();
 }
 
-Columnas<float, float> TablaDescarga(const Siro& s)
-{
-    if (s.CompActual.clase == Clase::Lago)
-        return ColumnasDe(s.Red.LagoH, s.Red.LagoQ, s.Red.LagoFilas, LagoEnMano(s).numLAGO);
-    return ColumnasDe(s.Red.RepresaQH, s.Red.RepresaQQ, s.Red.RepresaFilasHQ, RepresaEnMano(s).numRepresa);
-}
-
-/// Works out something for the component in hand. A fault on the way gives `nada`: the plain lookup meets it
-/// again, and reports it, when it is called.
+/// Works out something for a component. A fault on the way gives `nada`: the plain lookup meets it again, and
+/// reports it, when it is called.
 template <typename Cuerpo, typename T>
 T ONada(Cuerpo&& cuerpo, T nada)
 {
@@ -77,26 +61,13 @@ T ONada(Cuerpo&& cuerpo, T nada)
     }
 }
 
-/// The greatest amount that a function can add between two heights, infinite where it can fault.
-double MayorAporte(const FuncionFQ& f, float minimo, float maximo)
-{
-    const double desde = double{std::max(minimo, f.minimo)} - f.minimo;
-    const double hasta = double{std::min(maximo, f.maximo)} - f.minimo;
-    if (desde > hasta) return 0;
-    if (!f.esPotencia)
-        return std::fabs(double{f.a}) + std::fabs(double{f.b}) * hasta +
-               std::fabs(double{f.c}) * hasta * hasta;
-    if (f.b < 0 && desde == 0) return std::numeric_limits<double>::infinity();
-    return std::fabs(double{f.a}) * std::pow(f.b < 0 ? desde : hasta, double{f.b});
-}
-
-double SumaDeAportes(const FuncionesEnUso& funciones, float minimo, float maximo)
+/// Whether the functions can neither fault nor leave the type between two heights.
+bool SumaModerada(const FuncionesEnUso& funciones, float minimo, float maximo)
 {
     double suma = 0;
     for (const FuncionFQ& f : funciones)
-        suma += MayorAporte(f, minimo, maximo);
-    // A power that is infinite times 0 is no number.
-    return std::isnan(suma) ? std::numeric_limits<double>::infinity() : suma;
+        suma += f.MayorAporte(minimo, maximo);
+    return suma <= MaximaSuma;  // a power that is infinite times 0 is no number
 }
 
 }  // namespace
@@ -135,47 +106,16 @@ Intervalo CurvaLineal::Alturas() const
     return {alturas.front(), alturas[tramos.size() - 1]};
 }
 
-double CurvaLineal::MayorAbsoluto() const
+CurvaLineal CurvaAlmacenamiento(const CompActual& c)
 {
-    double mayor = 0;
-    for (const Tramo& tramo : tramos)
-        mayor = std::max(mayor, std::fabs(tramo.valor));
-    return mayor;
+    return ONada([&] { return CurvaDe(ColumnasDe(c.tablaH, c.tablaS, c.filas, c.numero)); }, CurvaLineal());
 }
 
-CurvaLineal CurvaAlmacenamiento(const Siro& s)
-{
-    return ONada(
-        [&] {
-            if (s.CompActual.clase == Clase::Lago)
-                return CurvaDe(ColumnasDe(s.Red.LagoH, s.Red.LagoS, s.Red.LagoFilas, LagoEnMano(s).numLAGO));
-            return CurvaDe(ColumnasDe(s.Red.RepresaH, s.Red.RepresaS, s.Red.RepresaFilasHAS,
-                                      RepresaEnMano(s).numRepresa));
-        },
-        CurvaLineal());
-}
-
-CurvaLineal CurvaArea(const Siro& s)
-{
-    return ONada(
-        [&] {
-            if (s.CompActual.clase == Clase::Lago)
-                return CurvaDe(ColumnasDe(s.Red.LagoH, s.Red.LagoA, s.Red.LagoFilas, LagoEnMano(s).numLAGO));
-            return CurvaDe(ColumnasDe(s.Red.RepresaH, s.Red.RepresaA, s.Red.RepresaFilasHAS,
-                                      RepresaEnMano(s).numRepresa));
-        },
-        CurvaLineal());
-}
-
-Intervalo AlmacenamientosSinPreguntas(const Siro& s)
+Intervalo AlmacenamientosSinPreguntas(const CompActual& c)
 {
     return ONada(
         [&]() -> Intervalo {
-            const bool esLago = s.CompActual.clase == Clase::Lago;
-            const auto t = esLago
-                               ? ColumnasDe(s.Red.LagoS, s.Red.LagoH, s.Red.LagoFilas, LagoEnMano(s).numLAGO)
-                               : ColumnasDe(s.Red.RepresaS, s.Red.RepresaH, s.Red.RepresaFilasHAS,
-                                            RepresaEnMano(s).numRepresa);
+            const auto t = ColumnasDe(c.tablaS, c.tablaH, c.filas, c.numero);
             for (int k = 2; k <= t.n; ++k) {  // each difference that a lookup may take is taken here
                 (void)Resta(RenglonDe(t.X, k), RenglonDe(t.X, k - 1));
                 (void)RestaSimple(RenglonDe(t.Y, k), RenglonDe(t.Y, k - 1));
@@ -185,61 +125,26 @@ Intervalo AlmacenamientosSinPreguntas(const Siro& s)
         Intervalo{});
 }
 
-CurvaDescarga::CurvaDescarga(const Siro& s)
+CurvaDescarga::CurvaDescarga(const CompActual& c)
 {
-    ONada(
-        [&] {
-            if (s.CompActual.clase == Clase::Represa && !RepresaEnMano(s).optTabla) {
-                forma = FuncionesEnUso(RepresaEnMano(s));
-                return true;
-            }
-            const auto tabla = TablaDescarga(s);
-            if (tabla.n < 1)
-                forma = SinTabla{};
-            else
-                forma = CurvaDe(tabla);
-            return true;
-        },
-        false);
+    if (c.funciones != nullptr) {
+        forma = FuncionesEnUso(*c.funciones);
+        return;
+    }
+    const auto tabla = ONada([&] { return ColumnasDe(c.tablaHQ, c.tablaQ, c.filasQ, c.numero); },
+                             Columnas<float, float>{.n = 1});
+    if (tabla.n < 1)
+        forma = SinTabla{};
+    else
+        forma = CurvaDe(tabla);
 }
 
 bool CurvaDescarga::SinPreguntas(float minimo, float maximo) const
 {
     if (const auto* tabla = std::get_if<CurvaLineal>(&forma)) return tabla->Alturas().Abarca(minimo, maximo);
     if (const auto* funciones = std::get_if<FuncionesEnUso>(&forma))
-        return SumaDeAportes(*funciones, minimo, maximo) <= MaximaSuma;
+        return SumaModerada(*funciones, minimo, maximo);
     return std::holds_alternative<SinTabla>(forma);
-}
-
-double CurvaDescarga::Cota(float minimo, float maximo) const
-{
-    if (const auto* tabla = std::get_if<CurvaLineal>(&forma)) return tabla->MayorAbsoluto();
-    if (const auto* funciones = std::get_if<FuncionesEnUso>(&forma))
-        return SumaDeAportes(*funciones, minimo, maximo);
-    return 0;
-}
-
-CurvaInversa::CurvaInversa(const Siro& s) : descarga(s)
-{
-    const RangoAlturas rango = ONada(
-        [&]() -> RangoAlturas {
-            if (s.CompActual.clase == Clase::Represa && !RepresaEnMano(s).optTabla)
-                return RangoFunciones(RepresaEnMano(s));
-            const auto tabla = TablaDescarga(s);
-            if (tabla.n < 1) return {};  // a bracket of no width gives 0, as it has to
-            return {RenglonDe(tabla.X, 1), RenglonDe(tabla.X, tabla.n)};
-        },
-        RangoAlturas{});
-    minimo = rango.minimo;
-    maximo = rango.maximo;
-    sirve = std::max(std::fabs(minimo), std::fabs(maximo)) < MaximaAltura && minimo <= maximo &&
-            descarga.SinPreguntas(minimo, maximo);
-}
-
-float CurvaInversa::Valor(float q) const
-{
-    int fila = 0;
-    return BisecaAltura(minimo, maximo, q, [&](float h) { return descarga.Valor(h, fila); }).value_or(0.0F);
 }
 
 }  // namespace hydraulics

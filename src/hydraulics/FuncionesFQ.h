@@ -3,31 +3,30 @@
 
 #include <array>
 #include <cstddef>
+#include <string>
 
 #include "model/Numeros.h"
 #include "model/Represa.h"
 
 namespace hydraulics {
 
-/// Functions 1 to this one are powers of the height, the others are parabolas.
-inline constexpr std::size_t NroFuncionesPotencia = 4;
-
 /// One outflow function that is in use: an outlet, a gate, a spillway.
 struct FuncionFQ {
-    bool esPotencia = true;        ///< true: Q = a·d^b; false: Q = a + b·d + c·d²
-    float a = 0, b = 0, c = 0;     ///< [m3/s] for d in [m]
-    float minimo = 0, maximo = 0;  ///< range of heights, both included [m]; d is measured from the lower one
+    model::FormaFQ forma{};
+    float a = 0, b = 0, c = 0;     ///< [m3/s] for a height in [m]
+    float minimo = 0, maximo = 0;  ///< range of heights, both included [m]; it counts from the lower one
 
     [[nodiscard]] bool Alcanza(float h) const { return minimo <= h && h <= maximo; }
 
     /// Q plus what this function lets out at height h within its range, rounded to 32 bits.
     /// Throws Falla 5 for 0 to a negative power, Falla 6 where a power or the sum is outside its type.
-    [[nodiscard]] float Agrega(float Q, float h) const
-    {
-        const double d = double{h} - minimo;
-        if (esPotencia) return model::Simple(Q + a * model::Potencia(d, b));
-        return model::Simple(double{Q} + a + b * d + c * model::Potencia(d, 2));
-    }
+    [[nodiscard]] float Agrega(float Q, float h) const;
+
+    /// The greatest amount that it can add between two heights [m3/s], infinite where it can fault.
+    [[nodiscard]] double MayorAporte(float desde, float hasta) const;
+
+    /// The formula with its numbers, as the verification lists it.
+    [[nodiscard]] std::string Expresion() const;
 };
 
 /// The functions of a Represa that are in use, in order: the flag is exactly 1.
@@ -37,7 +36,7 @@ struct FuncionesEnUso {
         for (std::size_t i = 0; i < r.chkFQ.size(); ++i)
             if (r.chkFQ[i] == 1)
                 funciones[cuantas++] = {
-                    i < NroFuncionesPotencia, r.FQa[i], r.FQb[i], r.FQc[i], r.FQmin[i], r.FQMax[i]};
+                    model::FuncionesFQ[i].forma, r.FQa[i], r.FQb[i], r.FQc[i], r.FQmin[i], r.FQMax[i]};
     }
     [[nodiscard]] auto begin() const { return funciones.begin(); }
     [[nodiscard]] auto end() const { return funciones.begin() + static_cast<std::ptrdiff_t>(cuantas); }

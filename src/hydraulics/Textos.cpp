@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string>
 
 #include "model/Avisos.h"
 
@@ -126,6 +127,11 @@ const TextoConsulta& TextoDe(Funcion funcion, Caso caso)
 
 namespace {
 
+const TextoConsulta& TextoDe(const CompActual& c, Busqueda busqueda, Caso caso)
+{
+    return TextoDe(c.clase == model::Clase::Lago ? busqueda.deLago : busqueda.deRepresa, caso);
+}
+
 std::string Une(const TextoConsulta& t, const std::string& nombre)
 {
     return std::string(t.primero) + nombre + std::string(t.segundo);
@@ -133,21 +139,20 @@ std::string Une(const TextoConsulta& t, const std::string& nombre)
 
 }  // namespace
 
-double ValorOConsulta(const model::Siro& s, Funcion funcion, const std::string& nombre,
-                      const Lectura& lectura)
+double ValorOConsulta(const CompActual& c, Busqueda busqueda, const Lectura& lectura)
 {
     if (lectura.lugar == Lectura::Lugar::Dentro) return lectura.valor;
     const TextoConsulta& t =
-        TextoDe(funcion, lectura.lugar == Lectura::Lugar::Encima ? Caso::Encima : Caso::Debajo);
-    if (!model::Consulta(s, Une(t, nombre), t.titulo, Une(t, {}))) s.Anfitrion.Termina();
+        TextoDe(c, busqueda, lectura.lugar == Lectura::Lugar::Encima ? Caso::Encima : Caso::Debajo);
+    if (!model::Consulta(c.anfitrion, Une(t, c.nombre), t.titulo, Une(t, {}))) c.anfitrion.Termina();
     return 0;
 }
 
-void TerminaSinFin(const model::Siro& s, Funcion funcion, const std::string& nombre)
+void TerminaSinFin(const CompActual& c, Busqueda busqueda)
 {
-    const TextoConsulta& t = TextoDe(funcion, Caso::SinFin);
-    model::Advierte(s, Une(t, nombre), t.titulo);
-    s.Anfitrion.Termina();
+    const TextoConsulta& t = TextoDe(c, busqueda, Caso::SinFin);
+    model::Advierte(c.anfitrion, Une(t, c.nombre), t.titulo);
+    c.anfitrion.Termina();
 }
 
 }  // namespace hydraulics

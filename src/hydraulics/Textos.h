@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <string>
 #include <string_view>
 
+#include "hydraulics/CompActual.h"
 #include "hydraulics/Interpola.h"
-#include "model/Siro.h"
 
 namespace hydraulics {
 
@@ -22,6 +21,11 @@ enum class Funcion {
     QdeHLago,
     HdeQalmaRepresa,
     HdeQalmaLago,
+};
+
+/// A lookup by its two names; both are the same where a Lago has none.
+struct Busqueda {
+    Funcion deRepresa, deLago;
 };
 
 /// What is wrong: the argument lies above or below the table, or the bisection doesn't come to an end.
@@ -41,10 +45,9 @@ const TextoConsulta& TextoDe(Funcion funcion, Caso caso);
 
 /// Returns a reading from inside the table as it stands. For one from outside it asks whether to go on:
 /// Yes gives 0, No ends the program.
-double ValorOConsulta(const model::Siro& s, Funcion funcion, const std::string& nombre,
-                      const Lectura& lectura);
+double ValorOConsulta(const CompActual& c, Busqueda busqueda, const Lectura& lectura);
 
 /// Tells that the bisection doesn't come to an end, and ends the program.
-void TerminaSinFin(const model::Siro& s, Funcion funcion, const std::string& nombre);
+void TerminaSinFin(const CompActual& c, Busqueda busqueda);
 
 }  // namespace hydraulics

@@ -2,10 +2,10 @@
 #include "hydraulics/mdlFQs.h"
 
 #include <algorithm>
-#include <optional>
+#include <array>
+#include <cstddef>
 
 #include "hydraulics/Biseccion.h"
-#include "hydraulics/ComponenteEnMano.h"
 #include "hydraulics/FuncionesFQ.h"
 #include "hydraulics/Interpola.h"
 #include "hydraulics/Textos.h"
@@ -13,83 +13,32 @@
 
 namespace hydraulics {
 
-using model::Lago;
 using model::NroFuncionesFQ;
+using model::Red;
 using model::Represa;
-using model::Siro;
 
 namespace {
 
-/// Kinds of coefficient in FQCoef, as the overview table counts them.
-enum Coeficiente : std::size_t { CoefA = 1, CoefB = 2, CoefC = 3, CoefMin = 4, CoefMax = 5 };
+constexpr float ToleranciaAltura = 0.001F;  // [m]
 
-/// The common handler of the four functions of Q and H: a fault is reported and the result left unset.
+/// The common handler of the functions of Q and H: a fault is reported and the result left unset.
 template <typename Cuerpo>
-float OCeroConInforme(const Siro& s, Cuerpo&& cuerpo)
+float OCeroConInforme(const CompActual& c, Cuerpo&& cuerpo)
 {
     float valor = 0;
-    model::Sentencia([&] { valor = cuerpo(); }, model::AvisaArchivo(s));
+    model::Sentencia([&] { valor = cuerpo(); }, model::AvisaArchivo(c.anfitrion));
     return valor;
 }
 
-template <typename TX, typename TY>
-float DescargaDeTabla(const Siro& s, Funcion funcion, const std::string& nombre,
-                      const Columnas<TX, TY>& tabla, float h)
-{
-    if (tabla.n < 1) return 0;  // unlike the lookups of storage, silent
-    return model::Simple(ValorOConsulta(s, funcion, nombre, Interpola(tabla, h)));
-}
-
-float AlturaOFin(const Siro& s, Funcion funcion, const std::string& nombre,
-                 const std::optional<float>& altura)
-{
-    if (!altura) TerminaSinFin(s, funcion, nombre);
-    return altura.value_or(0.0F);
-}
-
-void CopiaFQs(Siro& s, const Represa& r)
+void CopiaFQs(Red& red, const Represa& r)
 {
     for (int i = 1; i <= NroFuncionesFQ; ++i)
-        s.Red.FQActiva(r.numRepresa, i) = r.chkFQ[static_cast<std::size_t>(i) - 1];
-    auto& coeficientes = s.Red.FQCoef[static_cast<std::size_t>(r.numRepresa)];
-    for (std::size_t i = 0; i < NroFuncionesFQ; ++i) {
-        auto& c = coeficientes[i + 1];
-        c[CoefA] = r.FQa[i];
-        c[CoefB] = r.FQb[i];
-        if (i >= NroFuncionesPotencia) c[CoefC] = r.FQc[i];
-        c[CoefMin] = r.FQmin[i];
-        c[CoefMax] = r.FQMax[i];
-    }
-}
-
-}  // namespace
-
-void CargaFQs(Siro& s)
-{
-    s.Red.FQActiva.Dimensiona(s.Red.NroRepresas, NroFuncionesFQ);
-    s.Red.FQCoef.assign(static_cast<std::size_t>(s.Red.NroRepresas) + 1, {});
-    for (const Represa& r : s.Red.ColRepresas)
-        CopiaFQs(s, r);
-}
-
-float QdeHRepresa(Siro& s, float h)
-{
-    return OCeroConInforme(s, [&] {
-        const Represa& r = RepresaEnMano(s);
-        if (!r.optTabla) return FuncionesEnUso(r).Descarga(h);
-        return DescargaDeTabla(
-            s, Funcion::QdeHRepresa, r.NombreRepresa,
-            ColumnasDe(s.Red.RepresaQH, s.Red.RepresaQQ, s.Red.RepresaFilasHQ, r.numRepresa), h);
-    });
-}
-
-float QdeHLago(Siro& s, float h)
-{
-    return OCeroConInforme(s, [&] {
-        const Lago& l = LagoEnMano(s);
-        return DescargaDeTabla(s, Funcion::QdeHLago, l.NombreLAGO,
-                               ColumnasDe(s.Red.LagoH, s.Red.LagoQ, s.Red.LagoFilas, l.numLAGO), h);
-    });
+        red.FQActiva(r.numRepresa, i) = r.chkFQ[static_cast<std::size_t>(i) - 1];
+    auto& coeficientes = red.FQCoef[static_cast<std::size_t>(r.numRepresa)];
+    const std::array clases{&r.FQa, &r.FQb, &r.FQc, &r.FQmin, &r.FQMax};  // from 1 in FQCoef
+    for (std::size_t i = 0; i < NroFuncionesFQ; ++i)
+        for (std::size_t clase = 1; clase <= clases.size(); ++clase)
+            if (model::FuncionesFQ[i].Lleva(clase)) coeficientes[i + 1][clase] = (*clases[clase - 1])[i];
 }
 
 RangoAlturas RangoFunciones(const Represa& represa)
@@ -104,31 +53,42 @@ RangoAlturas RangoFunciones(const Represa& represa)
     return rango;
 }
 
-float HdeQalmaRepresa(Siro& s, float q)
+}  // namespace
+
+void CargaFQs(Red& red)
 {
-    return OCeroConInforme(s, [&] {
-        const Represa& r = RepresaEnMano(s);
-        RangoAlturas rango = RangoFunciones(r);
-        if (r.optTabla) {
-            const int n = s.Red.RepresaFilasHQ(r.numRepresa);
-            if (n < 1) return 0.0F;
-            rango = {s.Red.RepresaQH(r.numRepresa, 1), s.Red.RepresaQH(r.numRepresa, n)};
-        }
-        return AlturaOFin(
-            s, Funcion::HdeQalmaRepresa, r.NombreRepresa,
-            BisecaAltura(rango.minimo, rango.maximo, q, [&](float h) { return QdeHRepresa(s, h); }));
+    red.FQActiva.Dimensiona(red.NroRepresas, NroFuncionesFQ);
+    red.FQCoef.assign(static_cast<std::size_t>(red.NroRepresas) + 1, {});
+    for (const Represa& r : red.ColRepresas)
+        CopiaFQs(red, r);
+}
+
+float QdeH(const CompActual& c, float h)
+{
+    return OCeroConInforme(c, [&] {
+        if (c.funciones != nullptr) return FuncionesEnUso(*c.funciones).Descarga(h);
+        const auto tabla = ColumnasDe(c.tablaHQ, c.tablaQ, c.filasQ, c.numero);
+        if (tabla.n < 1) return 0.0F;  // unlike the lookups of storage, silent
+        return model::Simple(
+            ValorOConsulta(c, {Funcion::QdeHRepresa, Funcion::QdeHLago}, Interpola(tabla, h)));
     });
 }
 
-float HdeQalmaLago(Siro& s, float q)
+RangoAlturas RangoDescarga(const CompActual& c)
 {
-    return OCeroConInforme(s, [&] {
-        const Lago& l = LagoEnMano(s);
-        const int n = s.Red.LagoFilas(l.numLAGO);
-        if (n < 1) return 0.0F;
-        return AlturaOFin(s, Funcion::HdeQalmaLago, l.NombreLAGO,
-                          BisecaAltura(s.Red.LagoH(l.numLAGO, 1), s.Red.LagoH(l.numLAGO, n), q,
-                                       [&](float h) { return QdeHLago(s, h); }));
+    if (c.funciones != nullptr) return RangoFunciones(*c.funciones);
+    return {c.tablaHQ(c.numero, 1), c.tablaHQ(c.numero, c.filasQ(c.numero))};
+}
+
+float HdeQalma(const CompActual& c, float q)
+{
+    return OCeroConInforme(c, [&] {
+        if (c.funciones == nullptr && c.filasQ(c.numero) < 1) return 0.0F;
+        const RangoAlturas rango = RangoDescarga(c);
+        const auto altura = BisecaAltura(rango.minimo, rango.maximo, ToleranciaAltura,
+                                         [&](float h) { return QdeH(c, h) > q; });
+        if (!altura) TerminaSinFin(c, {Funcion::HdeQalmaRepresa, Funcion::HdeQalmaLago});
+        return altura.value_or(0.0F);
     });
 }
 

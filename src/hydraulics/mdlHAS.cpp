@@ -1,63 +1,41 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "hydraulics/mdlHAS.h"
 
-#include "hydraulics/ComponenteEnMano.h"
 #include "hydraulics/Interpola.h"
 #include "hydraulics/Textos.h"
 
 namespace hydraulics {
 
-using model::Lago;
-using model::Represa;
-using model::Siro;
+namespace {
 
-double SdeHRepresa(Siro& s, float h)
+/// Looks x up in column X of the component's table and reads column Y.
+template <typename TX, typename TY, typename... Resta>
+double Lee(const CompActual& c, Busqueda busqueda, const model::Matriz<TX>& X, const model::Matriz<TY>& Y,
+           float x, Resta... restaY)
 {
-    const Represa& r = RepresaEnMano(s);
-    const auto tabla = ColumnasDe(s.Red.RepresaH, s.Red.RepresaS, s.Red.RepresaFilasHAS, r.numRepresa);
-    return ValorOConsulta(s, Funcion::SdeHRepresa, r.NombreRepresa, Interpola(tabla, h));
+    return ValorOConsulta(c, busqueda, Interpola(ColumnasDe(X, Y, c.filas, c.numero), x, restaY...));
 }
 
-double SdeHLago(Siro& s, float h)
+}  // namespace
+
+double SdeH(const CompActual& c, float h)
 {
-    const Lago& l = LagoEnMano(s);
-    const auto tabla = ColumnasDe(s.Red.LagoH, s.Red.LagoS, s.Red.LagoFilas, l.numLAGO);
-    return ValorOConsulta(s, Funcion::SdeHLago, l.NombreLAGO, Interpola(tabla, h));
+    return Lee(c, {Funcion::SdeHRepresa, Funcion::SdeHLago}, c.tablaH, c.tablaS, h);
 }
 
-double HdeSRepresa(Siro& s, float volumen)
+double HdeS(const CompActual& c, float volumen)
 {
-    const Represa& r = RepresaEnMano(s);
-    const auto tabla = ColumnasDe(s.Red.RepresaS, s.Red.RepresaH, s.Red.RepresaFilasHAS, r.numRepresa);
-    return ValorOConsulta(s, Funcion::HdeSRepresa, r.NombreRepresa, Interpola(tabla, volumen, RestaSimple));
+    return Lee(c, {Funcion::HdeSRepresa, Funcion::HdeSLago}, c.tablaS, c.tablaH, volumen, RestaSimple);
 }
 
-double HdeSLago(Siro& s, float volumen)
+double AdeH(const CompActual& c, float h)
 {
-    const Lago& l = LagoEnMano(s);
-    const auto tabla = ColumnasDe(s.Red.LagoS, s.Red.LagoH, s.Red.LagoFilas, l.numLAGO);
-    return ValorOConsulta(s, Funcion::HdeSLago, l.NombreLAGO, Interpola(tabla, volumen, RestaSimple));
+    return model::Simple(Lee(c, {Funcion::AdeHRepresa, Funcion::AdeHLago}, c.tablaH, c.tablaA, h));
 }
 
-double AdeHRepresa(Siro& s, float h)
+double HdeARepresa(const CompActual& r, float area)
 {
-    const Represa& r = RepresaEnMano(s);
-    const auto tabla = ColumnasDe(s.Red.RepresaH, s.Red.RepresaA, s.Red.RepresaFilasHAS, r.numRepresa);
-    return model::Simple(ValorOConsulta(s, Funcion::AdeHRepresa, r.NombreRepresa, Interpola(tabla, h)));
-}
-
-double AdeHLago(Siro& s, float h)
-{
-    const Lago& l = LagoEnMano(s);
-    const auto tabla = ColumnasDe(s.Red.LagoH, s.Red.LagoA, s.Red.LagoFilas, l.numLAGO);
-    return model::Simple(ValorOConsulta(s, Funcion::AdeHLago, l.NombreLAGO, Interpola(tabla, h)));
-}
-
-double HdeARepresa(Siro& s, float area)
-{
-    const Represa& r = RepresaEnMano(s);
-    const auto tabla = ColumnasDe(s.Red.RepresaA, s.Red.RepresaH, s.Red.RepresaFilasHAS, r.numRepresa);
-    return model::Simple(ValorOConsulta(s, Funcion::HdeARepresa, r.NombreRepresa, Interpola(tabla, area)));
+    return model::Simple(Lee(r, {Funcion::HdeARepresa, Funcion::HdeARepresa}, r.tablaA, r.tablaH, area));
 }
 
 }  // namespace hydraulics

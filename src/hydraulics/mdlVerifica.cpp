@@ -101,24 +101,12 @@ void RecorreAlturas(const RangoAlturas& rango, float paso, Renglon&& renglon)
 
 // --- height, area, storage ---
 
-/// Takes the Represa with a number in hand, by way of its name. Throws Falla 6, 9, 91 where there is none.
-const Represa& TomaEnMano(Siro& s, double numero)
-{
-    const Represa& ranura = s.Red.Represas(model::Entero16(numero));
-    for (int i = 1; i <= s.Red.ColRepresas.Cuenta(); ++i)
-        if (s.Red.ColRepresas.Item(i).NombreRepresa == ranura.NombreRepresa) {
-            s.CompActual = {model::ComponenteActual::Clase::Represa, i};
-            break;
-        }
-    return s.Red.ColRepresas.Item(s.CompActual.item);
-}
-
-/// A column of the table of the Represa in hand from its first to its last row, and a fiftieth of it.
+/// A column of a Represa's table from its first to its last row, and a fiftieth of it.
 struct Rango {
     template <typename T>
-    Rango(const model::Matriz<T>& columna, int numero, int filas)
-        : minimo(Simple(double{1} * columna(numero, 1))),
-          maximo(Simple(double{1} * columna(numero, filas))),
+    Rango(const CompActual& r, const model::Matriz<T>& columna)
+        : minimo(Simple(double{1} * columna(r.numero, 1))),
+          maximo(Simple(double{1} * columna(r.numero, r.filas(r.numero)))),
           paso(Simple(Redondea((double{1} * maximo - minimo) / PartesDelRango, DecimalesPaso)))
     {
     }
@@ -129,14 +117,11 @@ struct Rango {
 /// height is worked out no more, and the last one stands.
 class Inversas {
   public:
-    Inversas(Siro& estado, const Rango& areas, const Rango& volumenes)
-        : s(estado), A(areas), S(volumenes), a(areas.minimo), volumen(volumenes.minimo)
-    {
-    }
+    explicit Inversas(const CompActual& represa) : r(represa) {}
     std::string Renglon()
     {
-        if (a <= A.maximo) hDeA = Simple(HdeARepresa(s, a));
-        if (volumen <= S.maximo) hDeS = HdeSRepresa(s, volumen);
+        if (a <= A.maximo) hDeA = Simple(HdeARepresa(r, a));
+        if (volumen <= S.maximo) hDeS = HdeS(r, volumen);
         std::string renglon = Columna(Redondea(a, 3), 13) + Columna(Redondea(hDeA, 2), 15) +
                               Columna(Redondea(volumen, 0), 10) + Columna(Redondea(hDeS, 2), 15);
         a = Simple(double{a} + A.paso);
@@ -145,93 +130,73 @@ class Inversas {
     }
 
   private:
-    Siro& s;
-    Rango A, S;
-    float a, volumen;
+    const CompActual& r;
+    Rango A{r, r.tablaA}, S{r, r.tablaS};
+    float a = A.minimo, volumen = S.minimo;
     float hDeA = 0;
     double hDeS = 0;
 };
 
-void ListaTodas(Siro& s, const Represa& r)
+void ListaTodas(Siro& s, const CompActual& r)
 {
-    const int filas = s.Red.RepresaFilasHAS(r.numRepresa);
-    const Rango H(s.Red.RepresaH, r.numRepresa, filas);
-    Inversas inversas(s, {s.Red.RepresaA, r.numRepresa, filas}, {s.Red.RepresaS, r.numRepresa, filas});
-    AgregaRenglon(s, std::string(TituloTodas) + r.NombreRepresa);
+    const Rango H(r, r.tablaH);
+    Inversas inversas(r);
+    AgregaRenglon(s, std::string(TituloTodas) + r.nombre);
     AgregaRenglon(s, ColumnasTodas);
     RecorreAlturas({H.minimo, H.maximo}, H.paso, [&](float h) {
         const std::string directas = Columna(Redondea(h, 3), 7) +
-                                     Columna(Redondea(Simple(AdeHRepresa(s, h)), 3), 10) +
-                                     Columna(Redondea(SdeHRepresa(s, h), 0), 13);
+                                     Columna(Redondea(Simple(AdeH(r, h)), 3), 10) +
+                                     Columna(Redondea(SdeH(r, h), 0), 13);
         AgregaRenglon(s, directas + inversas.Renglon());
     });
 }
 
-void ListaTabla(Siro& s, const Represa& r)
+void ListaTabla(Siro& s, const CompActual& r)
 {
     AgregaRenglon(s, TituloTabla);
-    AgregaRenglon(s, "Represa: " + r.NombreRepresa);
+    AgregaRenglon(s, "Represa: " + r.nombre);
     AgregaRenglon(s, ColumnasTabla);
-    const Rango H(s.Red.RepresaH, r.numRepresa, s.Red.RepresaFilasHAS(r.numRepresa));
+    const Rango H(r, r.tablaH);
     std::string defecto = NumeroATexto(H.paso);
     NormalizaDecimal(defecto);
     const float paso =
         Simple(Val(s.Anfitrion.PideTexto({std::string(PidePaso), std::string(TituloPaso), defecto})));
     RecorreAlturas({H.minimo, H.maximo}, paso, [&](float h) {
-        AgregaRenglon(s, Columna(Redondea(h, 2), 10) + Columna(Redondea(Simple(AdeHRepresa(s, h)), 2), 15) +
-                             Columna(Redondea(SdeHRepresa(s, h), 0), 10));
+        AgregaRenglon(s, Columna(Redondea(h, 2), 10) + Columna(Redondea(Simple(AdeH(r, h)), 2), 15) +
+                             Columna(Redondea(SdeH(r, h), 0), 10));
     });
 }
 
 // --- height, outflow ---
 
-RangoAlturas RangoDe(const Siro& s, const Represa& r)
-{
-    if (!r.optTabla) return RangoFunciones(r);
-    return {s.Red.RepresaQH(r.numRepresa, 1),
-            s.Red.RepresaQH(r.numRepresa, s.Red.RepresaFilasHQ(r.numRepresa))};
-}
-
 /// Asks for the step of the heights [m], once more where it makes too many lines; the second answer is taken
 /// as it is. Throws Falla 11 where the first is 0.
-float PidePasoHQ(const Siro& s, const Represa& r, const RangoAlturas& rango)
+float PidePasoHQ(const Siro& s, const std::string& nombre, const RangoAlturas& rango)
 {
     const float largo = Simple(double{rango.maximo} - rango.minimo);
     const model::Peticion peticion{
         "HMáximo = " + NumeroATexto(rango.maximo) + "    HMinimo = " + NumeroATexto(rango.minimo) +
             "     Rango = " + NumeroATexto(largo) + "  Ingrese un incrementao de altura dH, en la Presa " +
-            r.NombreRepresa,
-        "Represa" + r.NombreRepresa + ": Tabla Altura H -Caudal Salida Q ", std::string(PasoPorDefecto)};
+            nombre,
+        "Represa" + nombre + ": Tabla Altura H -Caudal Salida Q ", std::string(PasoPorDefecto)};
     const float paso = Simple(Val(s.Anfitrion.PideTexto(peticion)));
     if (!(model::Cociente(largo, paso) > MaximoRenglones)) return paso;
     s.Anfitrion.Avisa({std::string(PasoChico), std::string(TituloPasoChico)});
     return Simple(Val(s.Anfitrion.PideTexto(peticion)));
 }
 
-/// The parabolas are listed with H[m]^2 though they are worked out from the height above H min: kept as it
-/// stands.
-std::string Expresion(const FuncionFQ& f)
+void ListaHQ(Siro& s, const CompActual& r)
 {
-    std::string texto = "Q[m3/s]= " + NumeroATexto(f.a);
-    if (f.esPotencia)
-        texto += " * (H[m]-HMin[m])^" + NumeroATexto(f.b);
-    else
-        texto += " + " + NumeroATexto(f.b) + " * (H[m]-HMin[m]) + " + NumeroATexto(f.c) + " * H[m]^2";
-    return texto + "     ; para, " + NumeroATexto(f.minimo) + "[m] <=H[m]<= " + NumeroATexto(f.maximo);
-}
-
-void ListaHQ(Siro& s, const Represa& r)
-{
-    const RangoAlturas rango = RangoDe(s, r);
-    const float paso = PidePasoHQ(s, r, rango);
-    AgregaRenglon(s, "REPRESA: " + r.NombreRepresa);
-    if (!r.optTabla)
-        for (const FuncionFQ& f : FuncionesEnUso(r))
-            AgregaRenglon(s, Expresion(f));
+    const RangoAlturas rango = RangoDescarga(r);
+    const float paso = PidePasoHQ(s, r.nombre, rango);
+    AgregaRenglon(s, "REPRESA: " + r.nombre);
+    if (r.funciones != nullptr)
+        for (const FuncionFQ& f : FuncionesEnUso(*r.funciones))
+            AgregaRenglon(s, f.Expresion());
     AgregaRenglon(s, ColumnasHQ);
     std::int32_t i = 0;
     RecorreAlturas(rango, paso, [&](float h) {
-        AgregaRenglon(s, Columna(i++, 6) + "      " + Columna(h, 12) + Columna(QdeHRepresa(s, h), 12));
+        AgregaRenglon(s, Columna(i++, 6) + "      " + Columna(h, 12) + Columna(QdeH(r, h), 12));
     });
 }
 
@@ -244,7 +209,7 @@ void VerificaHSV(Siro& s)
         model::LeeTablaHSVRepresa(s);
         const double numero =
             Val(s.Anfitrion.PideTexto({std::string(PideNumero), std::string(TituloNumero), {}}));
-        const Represa& r = TomaEnMano(s, numero);
+        const CompActual r = EnMano(s.Anfitrion, s.Red, s.Red.Represas(model::Entero16(numero)));
         const double opcion =
             Val(s.Anfitrion.PideTexto({std::string(PideOpcion), std::string(TituloOpcion), {}}));
         if (opcion == 0) return;
@@ -260,10 +225,8 @@ void VerificaHQ(Siro& s)
     Comando(s, [&] {
         model::LeeTablaHQRepresa(s);
         AgregaRenglon(s, TituloHQ);
-        for (int i = 1; i <= s.Red.ColRepresas.Cuenta(); ++i) {
-            s.CompActual = {model::ComponenteActual::Clase::Represa, i};
-            ListaHQ(s, s.Red.ColRepresas.Item(i));
-        }
+        for (const Represa& r : s.Red.ColRepresas)
+            ListaHQ(s, EnMano(s.Anfitrion, s.Red, r));
         MuestraPizarra(s);
     });
 }

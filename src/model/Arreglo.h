@@ -92,6 +92,11 @@ class Matriz {
     [[nodiscard]] int PrimeraFila() const { return primeraFila; }
     [[nodiscard]] int UltimaFila() const { return ultimaFila; }
     [[nodiscard]] int TopeColumna() const { return topeColumna; }
+    /// Whether a row is there and has the columns 0..columna.
+    [[nodiscard]] bool Alcanza(int fila, int columna) const
+    {
+        return fila >= primeraFila && fila <= ultimaFila && columna <= topeColumna;
+    }
     /// Column 0 of a row, TopeColumna()+1 elements in one run. Throws Falla 9 for a row outside the bounds.
     [[nodiscard]] T* Fila(int fila) { return &datos[Ranura(fila, 0)]; }
     [[nodiscard]] const T* Fila(int fila) const { return &datos[Ranura(fila, 0)]; }

@@ -57,11 +57,11 @@ struct TextoSinFijar {
     std::string T::*propiedad;
 };
 
-/// The elements of an array from `desde` to its last, a field each.
+/// A number of each outflow function that has it, a field each.
 template <typename T, typename X>
 struct Elementos {
     std::array<X, NroFuncionesFQ> T::*propiedad;
-    std::size_t desde = 0;
+    std::size_t clase = 1;  ///< as FuncionDeRepresa counts them
 };
 
 /// A field of a component's record.
@@ -130,7 +130,7 @@ constexpr auto CamposRepresa = std::to_array<CampoComponente<Represa>>({
     {Elementos<Represa, std::int16_t>{&Represa::chkFQ}},
     {Elementos<Represa, float>{&Represa::FQa}},
     {Elementos<Represa, float>{&Represa::FQb}},
-    {Elementos<Represa, float>{&Represa::FQc, 4}},  // functions 5 to 8
+    {Elementos<Represa, float>{&Represa::FQc, 3}},
     {&Represa::Represa_k_Musk},
     {&Represa::Represa_n_Musk},
     {Elementos<Represa, float>{&Represa::FQmin}},
@@ -301,8 +301,8 @@ void LeeCampo(Carga& carga, const CampoComponente<T>& campo, T& componente)
             LeeValor(carga, componente.*propiedad.propiedad);
         } else {
             auto& elementos = componente.*propiedad.propiedad;
-            for (std::size_t i = propiedad.desde; i < elementos.size(); ++i)
-                LeeValor(carga, elementos[i]);
+            for (std::size_t i = 0; i < elementos.size(); ++i)
+                if (FuncionesFQ[i].Lleva(propiedad.clase)) LeeValor(carga, elementos[i]);
         }
     };
     std::visit(lee, campo.propiedad);
@@ -438,8 +438,8 @@ void EscribeCampo(EscrituraInformada& archivo, const CampoComponente<T>& campo, 
             });
         } else {
             const auto& elementos = componente.*propiedad.propiedad;
-            for (std::size_t i = propiedad.desde; i < elementos.size(); ++i)
-                EscribeValor(archivo, elementos[i]);
+            for (std::size_t i = 0; i < elementos.size(); ++i)
+                if (FuncionesFQ[i].Lleva(propiedad.clase)) EscribeValor(archivo, elementos[i]);
         }
     };
     std::visit(escribe, campo.propiedad);

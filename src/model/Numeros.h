@@ -48,7 +48,9 @@ inline std::int16_t Piso16(double x)
 /// Product of two 16-bit numbers, worked out in 16 bits. Throws Falla 6 outside the type.
 inline std::int16_t Producto16(std::int16_t a, std::int16_t b)
 {
-    return Entero16(double{1} * a * b);
+    const int n = a * b;
+    if (n < -32768 || n > 32767) throw Falla{NumeroFalla::Desbordamiento};
+    return static_cast<std::int16_t>(n);
 }
 
 /// Sum of two 16-bit numbers, worked out in 16 bits. Throws Falla 6 outside the type.

@@ -38,9 +38,6 @@ struct Resultados {
     Matriz<float> HRepresa{}, SRepresa{};  ///< height [m], storage [m3]; row: Represa number; column: step
     Matriz<float> HLago{}, SLago{};        ///< the same of the Lagos
     float VolEntra = 0, VolSale = 0;       ///< volumes of the component routed last [m3]
-    float HActual = 0, SActual = 0;        ///< height [m] and storage [m3] that any routing worked out last
-    float ACalc = 0;                       ///< surface of the last Runge-Kutta stage [ha]
-    std::int16_t IndPaso = 0;
 
     // --- what a series keeps of its storms ---
     /// Room for storms 1..tormentas, all 0.

@@ -14,14 +14,6 @@
 
 namespace model {
 
-/// The Represa or Lago on which the lookups work.
-struct ComponenteActual {
-    enum class Clase { Ninguna, Represa, Lago };
-    Clase clase = Clase::Ninguna;
-    int item = 0;  ///< place in its collection, from 1
-    bool operator==(const ComponenteActual&) const = default;
-};
-
 /// Numbers of the components selected in the drawing; 0: none.
 struct Seleccion {
     std::int16_t CauceSel = 0, CauceAnterior = 0, UEHSel = 0, RepresaSel = 0, LagoSel = 0;
@@ -54,7 +46,6 @@ struct Siro {
     ControlesConfigura frmConfigura{};
     model::Red Red{};
     model::Seleccion Seleccion{};
-    ComponenteActual CompActual{};
 
     model::Tormenta Tormenta{};
     model::Pasos Pasos{};

@@ -146,7 +146,7 @@ TEST_F(EmbalsesEnCorrida, ElAlmacenamientoDeLaCorridaAnteriorNoSeMuestra)
         s.Control.TextoPizarra.clear();
         ASSERT_TRUE(Corre());
         EXPECT_TRUE(Dice("\r\n 0    0    0    0    0    0         0   101   0\r\n 1")) << vez;
-        EXPECT_EQ(s.Resultados.SActual, 307200);
+        EXPECT_EQ(s.Resultados.SRepresa(1, s.Resultados.NroPasosQ), 307200);
     }
 }
 

@@ -8,6 +8,7 @@
 
 #include "apoyo/AnfitrionPrueba.h"
 #include "apoyo/DiscoPrueba.h"
+#include "hydraulics/CompActual.h"
 #include "model/Siro.h"
 
 // A Represa and a Lago with tables of a few rows, for the tests of the lookups.
@@ -45,11 +46,21 @@ class EstadoConEmbalses {
             tabla->Dimensiona(2, 10);
         s.Red.RepresaS.Dimensiona(2, 10);
         s.Red.LagoS.Dimensiona(2, 10);
-        EligeRepresa(1);
     }
 
-    void EligeRepresa(int item) { s.CompActual = {model::ComponenteActual::Clase::Represa, item}; }
-    void EligeLago(int item) { s.CompActual = {model::ComponenteActual::Clase::Lago, item}; }
+    void EligeRepresa(int item) { Elige(false, item); }
+    void EligeLago(int item) { Elige(true, item); }
+    void Elige(bool unLago, int item = 1)
+    {
+        lago = unLago;
+        elegido = item;
+    }
+    /// The one chosen last, as the lookups see it now.
+    [[nodiscard]] hydraulics::CompActual Elegido() const
+    {
+        return lago ? hydraulics::EnMano(s.Anfitrion, s.Red, s.Red.ColLagos.Item(elegido))
+                    : hydraulics::EnMano(s.Anfitrion, s.Red, s.Red.ColRepresas.Item(elegido));
+    }
 
     /// H-A-S table of the Represa and of the Lago with that number.
     void PonHAS(const std::vector<RenglonHAS>& renglones, int numero = 1)
@@ -103,6 +114,8 @@ class EstadoConEmbalses {
     apoyo::AnfitrionPrueba anfitrion{};
     apoyo::DiscoPrueba disco{};
     model::Siro s{};
+    bool lago = false;
+    int elegido = 1;
 };
 
 }  // namespace pruebas

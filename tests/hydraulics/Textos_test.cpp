@@ -22,9 +22,11 @@ TEST(Textos, UnAnfitrionQueNoTerminaRecibeCero)
     int terminaciones = 0;
     e.s.Anfitrion.Termina = [&] { ++terminaciones; };
     e.anfitrion->respuestas = {false};
-    EXPECT_EQ(ValorOConsulta(e.s, Funcion::AdeHLago, "l-uno", {Lectura::Lugar::Encima, 0}), 0);
+    e.EligeLago(1);
+    constexpr Busqueda AdeH{Funcion::AdeHRepresa, Funcion::AdeHLago};
+    EXPECT_EQ(ValorOConsulta(e.Elegido(), AdeH, {Lectura::Lugar::Encima, 0}), 0);
     EXPECT_EQ(terminaciones, 1);
-    EXPECT_EQ(ValorOConsulta(e.s, Funcion::AdeHLago, "l-uno", {Lectura::Lugar::Dentro, 8.5}), 8.5);
+    EXPECT_EQ(ValorOConsulta(e.Elegido(), AdeH, {Lectura::Lugar::Dentro, 8.5}), 8.5);
     EXPECT_EQ(terminaciones, 1);
     EXPECT_EQ(e.anfitrion->Preguntas().size(), 1U);
 }

@@ -27,24 +27,9 @@ Mensaje Informe(const char* texto)
 
 class mdlFQs : public testing::Test, public EstadoConEmbalses {
   protected:
-    /// Outflow of the component in hand, Represa or Lago.
-    float Q(float h)
-    {
-        return s.CompActual.clase == model::ComponenteActual::Clase::Lago ? QdeHLago(s, h)
-                                                                          : QdeHRepresa(s, h);
-    }
-    float H(float q)
-    {
-        return s.CompActual.clase == model::ComponenteActual::Clase::Lago ? HdeQalmaLago(s, q)
-                                                                          : HdeQalmaRepresa(s, q);
-    }
-    void Elige(bool lago)
-    {
-        if (lago)
-            EligeLago(1);
-        else
-            EligeRepresa(1);
-    }
+    /// Of the component chosen, Represa or Lago.
+    float Q(float h) { return QdeH(Elegido(), h); }
+    float H(float q) { return HdeQalma(Elegido(), q); }
 };
 
 // --- outflow by functions ---
@@ -313,7 +298,6 @@ TEST_F(mdlFQs, TablaAlRevesPreguntaPrimeroPorEncima)
 TEST_F(mdlFQs, LasFallasDeLaTablaSeInformanYDanCero)
 {
     const auto subindice = Informe("Error Nro. 9El subíndice está fuera del intervalo ,Verifique");
-    const auto sinObjeto = Informe("Error Nro. 91Variable de objeto no establecida ,Verifique");
     PonHQ({{100, 3}, {110, 12}});
     s.Red.RepresaFilasHQ(1) = s.Red.LagoFilas(1) = 200;
     for (const bool lago : {false, true}) {
@@ -323,14 +307,6 @@ TEST_F(mdlFQs, LasFallasDeLaTablaSeInformanYDanCero)
         EXPECT_EQ(H(5), 0);
         EXPECT_EQ(anfitrion->Avisos(), (std::vector<Mensaje>{subindice, subindice}));
     }
-    EligeLago(1);
-    anfitrion->sucesos.clear();
-    EXPECT_EQ(QdeHRepresa(s, 105), 0);
-    EXPECT_EQ(HdeQalmaRepresa(s, 5), 0);
-    EligeRepresa(1);
-    EXPECT_EQ(QdeHLago(s, 105), 0);
-    EXPECT_EQ(HdeQalmaLago(s, 5), 0);
-    EXPECT_EQ(anfitrion->Avisos(), (std::vector<Mensaje>{sinObjeto, sinObjeto, sinObjeto, sinObjeto}));
     EXPECT_TRUE(anfitrion->Preguntas().empty());
 }
 
@@ -396,11 +372,11 @@ TEST_F(mdlFQs, LosLimitesSalenDeLasFuncionesEnUso)
     PonFuncion(8, 0, 0, 0, 2, 3);
     s.Red.Represas(1).FQmin[4] = -100;  // not in use
     s.Red.Represas(1).FQMax[4] = 100;
-    EXPECT_EQ(RangoFunciones(s.Red.Represas(1)).minimo, 2);
-    EXPECT_EQ(RangoFunciones(s.Red.Represas(1)).maximo, 12);
+    EXPECT_EQ(RangoDescarga(Elegido()).minimo, 2);
+    EXPECT_EQ(RangoDescarga(Elegido()).maximo, 12);
     s.Red.Represas(1).chkFQ = {1, 0, 0, 0, 0, 0, 0, 0};
-    EXPECT_EQ(RangoFunciones(s.Red.Represas(1)).minimo, 5);
-    EXPECT_EQ(RangoFunciones(s.Red.Represas(1)).maximo, 7);
+    EXPECT_EQ(RangoDescarga(Elegido()).minimo, 5);
+    EXPECT_EQ(RangoDescarga(Elegido()).maximo, 7);
 }
 
 TEST_F(mdlFQs, SinLaPrimeraFuncionElCeroEntraEnLosLimites)
@@ -408,11 +384,11 @@ TEST_F(mdlFQs, SinLaPrimeraFuncionElCeroEntraEnLosLimites)
     s.Red.Represas(1).FQmin[0] = 90;  // not in use
     s.Red.Represas(1).FQMax[0] = 200;
     PonFuncion(2, 1, 1, 0, 100, 110);
-    EXPECT_EQ(RangoFunciones(s.Red.Represas(1)).minimo, 0);
-    EXPECT_EQ(RangoFunciones(s.Red.Represas(1)).maximo, 110);
+    EXPECT_EQ(RangoDescarga(Elegido()).minimo, 0);
+    EXPECT_EQ(RangoDescarga(Elegido()).maximo, 110);
     PonFuncion(2, 1, 1, 0, -20, -10);
-    EXPECT_EQ(RangoFunciones(s.Red.Represas(1)).minimo, -20);
-    EXPECT_EQ(RangoFunciones(s.Red.Represas(1)).maximo, 0);
+    EXPECT_EQ(RangoDescarga(Elegido()).minimo, -20);
+    EXPECT_EQ(RangoDescarga(Elegido()).maximo, 0);
 }
 
 TEST_F(mdlFQs, ConTablaLosLimitesSonLosDeLaTabla)
@@ -507,7 +483,7 @@ TEST_F(mdlFQs, CargaFQsCopiaLasFuncionesDeTodasLasRepresas)
             r.chkFQ[i] = static_cast<std::int16_t>(i + static_cast<std::size_t>(n) * 100);
         }
     }
-    CargaFQs(s);
+    CargaFQs(s.Red);
     EXPECT_EQ(s.Red.FQActiva.UltimaFila(), 2);
     EXPECT_EQ(s.Red.FQActiva.TopeColumna(), 8);
     ASSERT_EQ(s.Red.FQCoef.size(), 3U);
@@ -532,11 +508,11 @@ TEST_F(mdlFQs, CargaFQsCopiaLasFuncionesDeTodasLasRepresas)
 TEST_F(mdlFQs, CargaFQsEmpiezaDeNuevo)
 {
     PonFuncion(1, 1, 2, 3, 4, 5);
-    CargaFQs(s);
+    CargaFQs(s.Red);
     EXPECT_EQ(s.Red.FQActiva(1, 1), 1);
     s.Red.ColRepresas.Vacia();
     s.Red.NroRepresas = 0;
-    CargaFQs(s);
+    CargaFQs(s.Red);
     EXPECT_EQ(s.Red.FQActiva.UltimaFila(), 0);
     EXPECT_EQ(s.Red.FQCoef.size(), 1U);
 }
@@ -546,7 +522,7 @@ TEST_F(mdlFQs, CargaFQsConUnNumeroFueraDeLosArreglos)
     PonFuncion(1, 1, 2, 3, 4, 5);
     for (const std::int16_t numero : {std::int16_t{3}, std::int16_t{-1}}) {
         s.Red.Represas(2).numRepresa = numero;
-        EXPECT_EQ(NumeroDeFalla([&] { CargaFQs(s); }), 9) << numero;
+        EXPECT_EQ(NumeroDeFalla([&] { CargaFQs(s.Red); }), 9) << numero;
         EXPECT_EQ(s.Red.FQActiva(1, 1), 1) << "what came before stays";
         EXPECT_EQ(s.Red.FQCoef[1][1][5], 5);
     }

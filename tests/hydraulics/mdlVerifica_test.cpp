@@ -5,6 +5,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "apoyo/Compara.h"
@@ -33,7 +34,6 @@ class Verificacion : public testing::Test, public pruebas::EstadoConEmbalses {
     {
         s.Proyecto.NombreProyecto = "Arroyo";
         s.Proyecto.DirProyecto = "/proy";
-        s.CompActual = {};
         disco.PonDirectorio("/proy");
         PonRHAS("0,0,0\r\n100,50,1000\r\n", 2);
     }
@@ -108,7 +108,6 @@ TEST_F(Verificacion, PideLaRepresaYLaOpcionConSusTextos)
                   {"Opciones: \r\n1- Tabla h, A(h), S(h)\r\n"
                    "2- Verificar todas las funciones S(h), h(S), A(h), h(A)\r\n0- Salir",
                    "Lista y verificación de funciones HSV en Represa"}}));
-    EXPECT_EQ(s.CompActual, (model::ComponenteActual{model::ComponenteActual::Clase::Represa, 1}));
 }
 
 TEST_F(Verificacion, LaOpcion0TerminaSinMostrarLaPizarra)
@@ -258,7 +257,6 @@ TEST_F(Verificacion, UnaRepresaSinFilasTieneUnRenglonDeCeros)
     EXPECT_EQ(Renglones()[2],
               " 0      0         0            0            0              0         0             ");
     EXPECT_TRUE(anfitrion->Preguntas().empty());
-    EXPECT_EQ(s.CompActual.item, 2);
     s.Control.TextoPizarra.clear();
     Responde({"2", "1", ""});
     VerificaHSV(s);
@@ -282,12 +280,16 @@ TEST_F(Verificacion, LaTablaSeLeeDeNuevoDelDisco)
     EXPECT_EQ(s.Red.RepresaH(1, 1), 0.0F);
 }
 
-TEST_F(Verificacion, DosRepresasDelMismoNombreSonLaPrimera)
+TEST_F(Verificacion, DosRepresasDelMismoNombreTienenLaMismaTabla)
 {
     s.Red.Represas(2).NombreRepresa = "r-uno";
-    Responde({"2", "0"});
+    Responde({"1", "1", "50"});
     VerificaHSV(s);
-    EXPECT_EQ(s.CompActual.item, 1);
+    const std::string primera = std::exchange(s.Control.TextoPizarra, {});
+    Responde({"2", "1", "50"});
+    VerificaHSV(s);
+    EXPECT_EQ(s.Control.TextoPizarra, primera);
+    EXPECT_EQ(Renglones().size(), 6U);
 }
 
 // --- height, outflow ---

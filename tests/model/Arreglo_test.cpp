@@ -111,6 +111,18 @@ TEST(Matriz, LosIndicesDeFilaYColumnaSeComprueban)
     EXPECT_EQ(NumeroDeFalla([&] { static_cast<void>(m.Fila(6)); }), 9);
 }
 
+TEST(Matriz, AlcanzaLasColumnasDeSusFilas)
+{
+    Matriz<float> m;
+    EXPECT_FALSE(m.Alcanza(0, 0));
+    m.Dimensiona(3, 5, 4);
+    EXPECT_TRUE(m.Alcanza(3, 4));
+    EXPECT_TRUE(m.Alcanza(5, 0));
+    EXPECT_FALSE(m.Alcanza(2, 0));
+    EXPECT_FALSE(m.Alcanza(6, 0));
+    EXPECT_FALSE(m.Alcanza(5, 5));
+}
+
 TEST(Matriz, UnaFilaEsSeguida)
 {
     Matriz<int> m;

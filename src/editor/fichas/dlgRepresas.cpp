@@ -44,8 +44,8 @@ void MuestraFunciones(dlgRepresas& f, const Represa& represa)
     for (std::size_t i = 0; i < f.chkFQ.size(); ++i)
         f.chkFQ[i] = represa.chkFQ[i] == 1;
     for (const CampoFQ& campo : CamposFQ)
-        for (auto i = static_cast<std::size_t>(campo.primera) - 1; i < f.chkFQ.size(); ++i)
-            (f.*campo.textos)[i] = model::NumeroATexto((represa.*campo.valores)[i]);
+        for (std::size_t i = 0; i < f.chkFQ.size(); ++i)
+            if (campo.Tiene(i)) (f.*campo.textos)[i] = model::NumeroATexto((represa.*campo.valores)[i]);
 }
 
 void MuestraRepresa(dlgRepresas& f, Siro& s)
@@ -76,8 +76,8 @@ void GuardaFunciones(const dlgRepresas& f, Represa& represa)
     for (std::size_t i = 0; i < f.chkFQ.size(); ++i)
         represa.chkFQ[i] = f.chkFQ[i] ? 1 : 0;
     for (const CampoFQ& campo : CamposFQ)
-        for (auto i = static_cast<std::size_t>(campo.primera) - 1; i < f.chkFQ.size(); ++i)
-            (represa.*campo.valores)[i] = NumeroInicial((f.*campo.textos)[i]);
+        for (std::size_t i = 0; i < f.chkFQ.size(); ++i)
+            if (campo.Tiene(i)) (represa.*campo.valores)[i] = NumeroInicial((f.*campo.textos)[i]);
 }
 
 void GuardaRepresa(dlgRepresas& f, Siro& s)

@@ -46,24 +46,10 @@ inline constexpr auto RotulosDlgRepresas = std::to_array<forms::FilaRotulo>({
     {"CancelButton",      LeyendaCancelar},
 });
 
-/// Captions of chkFQ; function 1 at index 0.
-inline constexpr auto RotulosFunciones = std::to_array<std::string_view>({
-    "Función 1: Q =  a * H^b",
-    "Función 2: Q =  a * H^b",
-    "Función 3: Q =  a * H^b",
-    "Función 4: Q =  a * H^b",
-    "Función 5: Q =  a + b*H + c*H^2",
-    "Función 6: Q =  a + b*H + c*H^2",
-    "Función 7: Q =  a + b*H + c*H^2",
-    "Función 8: Q =  a + b*H + c*H^2",
-});
 // clang-format on
-static_assert(RotulosFunciones.size() == std::size_t{model::NroFuncionesFQ});
 
 /// Texts of a field of the outflow functions; function 1 at index 0.
 using TextosFQ = std::array<std::string, model::NroFuncionesFQ>;
-
-inline constexpr int PrimeraConC = 5;  ///< the functions before it have no c
 
 /// What the form's controls hold.
 struct dlgRepresas : FichaEmbalse {
@@ -75,7 +61,7 @@ struct dlgRepresas : FichaEmbalse {
     std::string txtRepresa_n{}, lblRepresaCofn{};  ///< x [-]; no run reads it
     bool optTablaQ = false, optFunciones = false;
     std::array<bool, model::NroFuncionesFQ> chkFQ{};
-    TextosFQ txtFQa{}, txtFQb{}, txtFQc{};  ///< of c only those of functions 5 to 8 exist
+    TextosFQ txtFQa{}, txtFQb{}, txtFQc{};  ///< of c only those of functions that have one
     TextosFQ txtFQHmin{}, txtFQHMax{};      ///< [m]
     bool operator==(const dlgRepresas&) const = default;
 
@@ -105,14 +91,16 @@ struct CampoFQ {
     std::string_view unidad;
     TextosFQ dlgRepresas::*textos;
     std::array<float, model::NroFuncionesFQ> model::Represa::*valores;
-    int primera;  ///< first function that has it
+    std::size_t clase;  ///< as model::FuncionDeRepresa counts them
+    /// Whether an outflow function, from 0, has it.
+    [[nodiscard]] bool Tiene(std::size_t funcion) const { return model::FuncionesFQ[funcion].Lleva(clase); }
 };
 inline constexpr auto CamposFQ = std::to_array<CampoFQ>({
     {"txtFQa",    "",  &dlgRepresas::txtFQa,    &model::Represa::FQa,   1},
-    {"txtFQb",    "",  &dlgRepresas::txtFQb,    &model::Represa::FQb,   1},
-    {"txtFQc",    "",  &dlgRepresas::txtFQc,    &model::Represa::FQc,   PrimeraConC},
-    {"txtFQHmin", "m", &dlgRepresas::txtFQHmin, &model::Represa::FQmin, 1},
-    {"txtFQHMax", "m", &dlgRepresas::txtFQHMax, &model::Represa::FQMax, 1},
+    {"txtFQb",    "",  &dlgRepresas::txtFQb,    &model::Represa::FQb,   2},
+    {"txtFQc",    "",  &dlgRepresas::txtFQc,    &model::Represa::FQc,   3},
+    {"txtFQHmin", "m", &dlgRepresas::txtFQHmin, &model::Represa::FQmin, 4},
+    {"txtFQHMax", "m", &dlgRepresas::txtFQHMax, &model::Represa::FQMax, 5},
 });
 // clang-format on
 

@@ -73,7 +73,7 @@ QWidget* dlgRepresas_ventana::MarcoDeFunciones()
 Partes dlgRepresas_ventana::FilaDeFuncion(int funcion)
 {
     const auto lugar = static_cast<std::size_t>(funcion) - 1;
-    const QString leyenda = Q(RotulosFunciones[lugar]);
+    const QString leyenda = Q(model::FuncionesFQ[lugar].rotulo);
     QCheckBox* const marca = Casilla(
         "chkFQ", [this, lugar] { return f.chkFQ[lugar]; },
         [this, funcion](bool marcada) { chkFQ_Click(f, funcion, marcada); });
@@ -81,7 +81,7 @@ Partes dlgRepresas_ventana::FilaDeFuncion(int funcion)
     marca->setObjectName(Indexado("chkFQ", funcion));
     Partes fila{HabilitadoSi(marca, [this] { return f.chkFQHabilitado(); })};
     for (const CampoFQ& campo : CamposFQ) {
-        if (funcion < campo.primera) {
+        if (!campo.Tiene(lugar)) {
             fila.push_back(Hueco());
             continue;
         }

@@ -126,7 +126,7 @@ void LeeTodo(Siro& s)
         model::LeeTablaHSVRepresa(s);
     }
     if (s.Red.NroLagos > 0) model::LeeTablaHSVQLago(s);
-    hydraulics::CargaFQs(s);
+    hydraulics::CargaFQs(s.Red);
 }
 
 void Llena(dlgUEHsTabla& f, Siro& s)

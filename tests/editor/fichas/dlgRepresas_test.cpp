@@ -58,12 +58,12 @@ TEST(TextosDeDlgRepresas, TituloYLeyendasEstanLetraPorLetra)
     };
     for (const auto& [control, leyenda] : leyendas)
         EXPECT_EQ(RotuloDe(RotulosDlgRepresas, control), leyenda);
-    EXPECT_EQ(RotulosFunciones[0], "Función 1: Q =  a * H^b");
-    EXPECT_EQ(RotulosFunciones[3], "Función 4: Q =  a * H^b");
-    EXPECT_EQ(RotulosFunciones[4], "Función 5: Q =  a + b*H + c*H^2");
-    EXPECT_EQ(RotulosFunciones[7], "Función 8: Q =  a + b*H + c*H^2");
-    for (std::size_t i = 0; i < RotulosFunciones.size(); ++i)
-        EXPECT_EQ(RotulosFunciones[i][9], static_cast<char>('1' + i)) << "ó takes two bytes";
+    EXPECT_EQ(model::FuncionesFQ[0].rotulo, "Función 1: Q =  a * H^b");
+    EXPECT_EQ(model::FuncionesFQ[3].rotulo, "Función 4: Q =  a * H^b");
+    EXPECT_EQ(model::FuncionesFQ[4].rotulo, "Función 5: Q =  a + b*H + c*H^2");
+    EXPECT_EQ(model::FuncionesFQ[7].rotulo, "Función 8: Q =  a + b*H + c*H^2");
+    for (std::size_t i = 0; i < model::FuncionesFQ.size(); ++i)
+        EXPECT_EQ(model::FuncionesFQ[i].rotulo[9], static_cast<char>('1' + i)) << "ó takes two bytes";
 }
 
 // --- tables after a rename ---
@@ -271,7 +271,8 @@ TEST_F(FormaRepresa, PorFuncionesSeEditanLasMarcadas)
 TEST_F(FormaRepresa, SoloLasFuncionesCincoAOchoTienenC)
 {
     for (const CampoFQ& campo : CamposFQ)
-        EXPECT_EQ(campo.primera, campo.control == "txtFQc" ? 5 : 1) << campo.control;
+        for (std::size_t i = 0; i < model::FuncionesFQ.size(); ++i)
+            EXPECT_EQ(campo.Tiene(i), campo.control != "txtFQc" || i >= 4) << campo.control << i;
     f.txtFQc.fill("7");
     OKButton(f, s);
     EXPECT_EQ(s.Red.Represas(1).FQc, (std::array<float, 8>{0, 0, 0, 0, 7, 7, 7, 7}));
