@@ -36,14 +36,15 @@ inline bool Contiene(const CajaDeIcono& caja, Punto icono, float s, Punto p)
     return x >= caja.izquierda * s && x <= caja.derecha * s && y > caja.arriba * s && y <= caja.abajo * s;
 }
 
-/// Number of the first component of a kind whose box holds a point; 0 where none does.
-template <typename T, int Limite>
-int Bajo(const frmUEHs& f, const model::Siro& s, const ClaseConIcono<T, Limite>& clase, Punto p)
+/// Number of the first component of a kind whose box holds a point; 0 where none does. `s`: size of the
+/// icons.
+template <typename T>
+int Bajo(const model::Red& red, float s, Punto p)
 {
     int n = 0;
-    for (const T& componente : s.Red.*clase.coleccion) {
+    for (const T& componente : model::Todos<T>(red)) {
         ++n;
-        if (Contiene(clase.caja, Icono(clase, componente), f.TamIcono, p)) return n;
+        if (Contiene(ConIcono<T>.caja, Icono(componente), s, p)) return n;
     }
     return 0;
 }

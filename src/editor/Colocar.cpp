@@ -18,65 +18,65 @@ using model::Siro;
 namespace {
 
 /// Name of the first component at exactly this position.
-template <typename T, int Limite>
-std::optional<std::string> NombreEn(const Siro& s, const ClaseConIcono<T, Limite>& clase, Punto en)
+template <typename T>
+std::optional<std::string> NombreEn(const model::Red& red, Punto en)
 {
-    for (const T& componente : s.Red.*clase.coleccion)
-        if (Icono(clase, componente) == en) return componente.*clase.nombre;
+    for (const T& componente : model::Todos<T>(red))
+        if (Icono(componente) == en) return model::Nombre(componente);
     return {};
 }
 
-template <typename T, int Limite>
-T Nuevo(const ClaseConIcono<T, Limite>& clase, int n, Punto en)
+template <typename T>
+T Nuevo(int n, Punto en)
 {
-    T nuevo = clase.nuevo();
-    nuevo.*clase.numero = model::Entero16(n);
-    nuevo.*clase.nombre = clase.marca;  // until it gets its own
-    nuevo.*clase.x = en.X;
-    nuevo.*clase.y = en.Y;
+    T nuevo{.Metodo = std::string(ConIcono<T>.Metodo)};
+    if constexpr (std::is_same_v<T, model::Represa>) nuevo.optTabla = true;
+    model::Numero(nuevo) = model::Entero16(n);
+    model::Nombre(nuevo) = ConIcono<T>.marca;  // until it gets its own
+    PonIcono(nuevo, en);
     return nuevo;
 }
 
-template <typename T, int Limite>
-void Coloca(frmUEHs& f, Siro& s, const ClaseConIcono<T, Limite>& clase, Punto en)
+template <typename T>
+bool ColocaDeClase(frmUEHs& f, Siro& s, Punto en)
 {
-    auto& coleccion = s.Red.*clase.coleccion;
+    auto& coleccion = model::Todos<T>(s.Red);
     const int n = coleccion.Cuenta() + 1;
-    if (n > Limite) throw model::Falla{model::NumeroFalla::Subindice};
-    const std::optional<std::string> otro = NombreEn(s, clase, en);
-    coleccion.Agrega(Nuevo(clase, n, en));
-    s.Red.*clase.cuenta = model::Entero16(n);
+    if (n > coleccion.Limite) throw model::Falla{model::NumeroFalla::Subindice};
+    const std::optional<std::string> otro = NombreEn<T>(s.Red, en);
+    coleccion.Agrega(Nuevo<T>(n, en));
+    s.Red.*model::DeClase<T>::cuenta = model::Entero16(n);
 
     std::optional<std::string> nombre;
     if (otro) {
-        model::Advierte(s, Texto(clase.yaExiste, *otro, EnEsaPosicion), {});
+        model::Advierte(s, Texto(ConIcono<T>.yaExiste, *otro, EnEsaPosicion), {});
     } else {
-        nombre = PideNombre(s, clase.pide, coleccion, clase.nombre);
+        nombre = PideNombre<T>(s.Anfitrion, s.Red, ConIcono<T>.pide);
     }
     if (!nombre) {
-        s.Seleccion.*clase.elegido = model::Entero16(n);
-        clase.borra(f, s);
-        return;
+        Elegido<T>(s.Seleccion) = model::Entero16(n);
+        Borra<T>(f, s);
+        return true;
     }
-    coleccion.Item(n).*clase.nombre = *nombre;
+    model::Nombre(coleccion.Item(n)) = *nombre;
     Redibuja(f, s);
+    return true;
 }
 
 }  // namespace
 
-void ColocaUEH(frmUEHs& f, Siro& s, Punto en)
+bool Coloca(frmUEHs& f, Siro& s, Punto en)
 {
-    Coloca(f, s, ClaseUEH, en);
-}
-
-void ColocaRepresa(frmUEHs& f, Siro& s, Punto en)
-{
-    Coloca(f, s, ClaseRepresa, en);
-}
-
-void ColocaLago(frmUEHs& f, Siro& s, Punto en)
-{
-    Coloca(f, s, ClaseLago, en);
+    switch (Modo(f)) {
+    case Boton::UEH:
+        return ColocaDeClase<model::UEH>(f, s, en);
+    case Boton::Represa:
+        return ColocaDeClase<model::Represa>(f, s, en);
+    case Boton::LAGO:
+        return ColocaDeClase<model::Lago>(f, s, en);
+    default:
+        return false;
+    }
 }
 
 }  // namespace editor

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "editor/Dibujo.h"
-#include "model/Siro.h"
+#include "model/Clases.h"
 
 // Where a component may drain to, as the lists of the forms offer it.
 namespace editor {
@@ -21,14 +21,12 @@ struct Lista {
 };
 
 inline constexpr std::string_view EntradaNinguno = "Ninguno";
-inline constexpr std::string_view SinDestino = "0";  ///< as an entry of the lists and as a Cauce_aa
 
 /// An entry of a list of destinations.
 struct Destino {
-    enum class Clase : std::uint8_t { Ninguno, Cero, Cauce, Represa, Lago };
-    Clase clase = Clase::Ninguno;
-    int numero = 0;          ///< of the component
-    std::string Cauce_aa{};  ///< what the choice makes of the property
+    std::optional<model::Clase> clase{};  ///< nothing: "Ninguno" or "0"
+    int numero = 0;                       ///< of the component
+    std::string Cauce_aa{};               ///< what the choice makes of the property
     bool operator==(const Destino&) const = default;
 };
 
@@ -38,27 +36,16 @@ enum class OrdenDestinos : std::uint8_t {
     SoloCauces,  ///< "Ninguno", "0", then all Cauces
 };
 
-std::vector<Destino> Destinos(const model::Siro& s, OrdenDestinos orden);
+std::vector<Destino> Destinos(const model::Red& red, OrdenDestinos orden);
 
 /// The destinations as a list, the one that a component has being selected: none where it names nobody.
-Lista ListaDestinos(const model::Siro& s, OrdenDestinos orden, std::string_view Cauce_aa);
+Lista ListaDestinos(const model::Red& red, OrdenDestinos orden, std::string_view Cauce_aa);
 
 /// The entry selected in such a list; nothing where none is.
-std::optional<Destino> DestinoElegido(const model::Siro& s, OrdenDestinos orden, const Lista& lista);
+std::optional<Destino> DestinoElegido(const model::Red& red, OrdenDestinos orden, const Lista& lista);
 
 /// Where a component that drains there meets it: the upper end of a reach, the icon of a Represa or a Lago,
 /// (0, 0) for none. Throws Falla 9 for a reach without vertices in memory.
-Punto PuntoDestino(model::Siro& s, const Destino& destino);
-
-/// Upper end of a reach, its last vertex; (0, 0) for one without vertices. Throws Falla 9 where its vertices
-/// aren't in memory.
-Punto UltimoVertice(const model::Siro& s, int numCauce);
-
-/// Number of the reach with a name, the first in the collection; 0 where there is none.
-int NumeroDeCauce(const model::Siro& s, std::string_view nombre);
-
-/// Puts vertex 1 of a reach, its lower end, at a point. One without vertices stays without. Throws Falla 9
-/// where its vertices aren't in memory.
-void PonPrimerVertice(model::Siro& s, int numCauce, Punto en);
+Punto PuntoDestino(const model::Red& red, const Destino& destino);
 
 }  // namespace editor

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "model/Clases.h"
 
 // What the canvas paints: a list of primitives in painting order, in logical coordinates. The canvas knows
 // nothing of the network and the rules know nothing of pixels, bitmaps or fonts.
@@ -18,8 +21,15 @@ struct Punto {
     bool operator==(const Punto&) const = default;
 };
 
-/// The four kinds of component.
-enum class Clase : std::uint8_t { UEH, Cauce, Represa, Lago };
+/// Length of the straight line between two points [drawing units].
+inline double Largo(Punto a, Punto b)
+{
+    const double dx = double{1} * b.X - a.X;
+    const double dy = double{1} * b.Y - a.Y;
+    return std::sqrt(dx * dx + dy * dy);
+}
+
+using model::Clase;
 
 /// What a primitive stands for, from which the canvas takes its colour.
 enum class Papel : std::uint8_t {

@@ -14,12 +14,10 @@ struct frmUEHs;
 
 // --- placing ---
 
-/// Places a component at a point and asks its name. Where another of its kind is at exactly this position,
-/// or the name is cancelled, it is deleted again by its own rule. Throws Falla 9 beyond the limit of its
-/// kind.
-void ColocaUEH(frmUEHs& f, model::Siro& s, Punto en);
-void ColocaRepresa(frmUEHs& f, model::Siro& s, Punto en);
-void ColocaLago(frmUEHs& f, model::Siro& s, Punto en);
+/// Places a component of the kind that the mode places, at a point, and asks its name. Where another of its
+/// kind is at exactly this position, or the name is cancelled, it is deleted again by its own rule. Returns
+/// false in the other modes. Throws Falla 9 beyond the limit of its kind.
+bool Coloca(frmUEHs& f, model::Siro& s, Punto en);
 /// A click of the reach being drawn, the first one being its downstream end. The 21st click finishes the
 /// reach and is its last vertex. Throws Falla 9 beyond the limit of the reaches.
 void ClicCauce(frmUEHs& f, model::Siro& s, Punto en);
@@ -46,30 +44,15 @@ void TerminaArrastre(frmUEHs& f, model::Siro& s, Punto p);
 
 /// Delete key: the selected components, reach, UEH, Represa, Lago, each by its own rule.
 void BorraSeleccionados(frmUEHs& f, model::Siro& s);
-/// The selected component of a kind, if any, by its rule. A reach, a Represa or a Lago that something drains
-/// into is refused. The network is saved and read again.
+/// The selected component, if any, by the rule of its kind; T has an icon. A reach, a Represa or a Lago that
+/// something drains into is refused. The network is saved and read again.
 void BorraCauce(frmUEHs& f, model::Siro& s);
-void BorraUEH(frmUEHs& f, model::Siro& s);
-void BorraRepresa(frmUEHs& f, model::Siro& s);
-void BorraLago(frmUEHs& f, model::Siro& s);
+template <typename T>
+void Borra(frmUEHs& f, model::Siro& s);
 /// Deletes every component after a question, in memory only, and the file of the Represas' outflow tables.
 void BorraTodo(frmUEHs& f, model::Siro& s);
 
-// --- commands of the pop-up menu; each requires what enables it there ---
-
-void mnu_acoplaUEHaCauce(frmUEHs& f, model::Siro& s);
-void mnu_acoplaUEHaLago(frmUEHs& f, model::Siro& s);
-void mnu_acoplaUEHaRepresa(frmUEHs& f, model::Siro& s);
-void mnu_desacoplaUEH(frmUEHs& f, model::Siro& s);
 /// Divides the selected reach at its grabbed vertex; nothing happens at its first and its last one.
 void mnu_DivideCauce(frmUEHs& f, model::Siro& s);
-void mnu_acoplaCauce1aCauce2(frmUEHs& f, model::Siro& s);
-void mnu_acoplaCauceaLago(frmUEHs& f, model::Siro& s);
-void mnu_acoplaCauceaRepresa(frmUEHs& f, model::Siro& s);
-void mnu_desacoplaCauce(frmUEHs& f, model::Siro& s);
-void mnu_acoplaLAGOaCauce(frmUEHs& f, model::Siro& s);
-void mnu_desacoplaLAGO(frmUEHs& f, model::Siro& s);
-void mnu_acoplaRepresaaCauce(frmUEHs& f, model::Siro& s);
-void mnu_desacoplaRepresa(frmUEHs& f, model::Siro& s);
 
 }  // namespace editor

@@ -3,9 +3,7 @@
 
 #include <string_view>
 
-#include "editor/frmUEHs.h"
 #include "model/Avisos.h"
-#include "model/Componentes.h"
 #include "model/Disco.h"
 #include "model/Falla.h"
 
@@ -27,17 +25,6 @@ constexpr auto ImagenEmf =
 constexpr auto ImagenExcesiva =
     " tiene demasiados elementos para servir de fondo. Guárdelo como .png o .jpg con el programa que lo "
     "hizo.";
-
-}  // namespace
-
-std::string RutaImagen(const Siro& s)
-{
-    const bool conDirectorio = s.Configuracion.ArchivoImagen.find_first_of("/\\") != std::string::npos;
-    return conDirectorio ? s.Configuracion.ArchivoImagen
-                         : model::Ruta(s.Proyecto.DirProyecto, s.Configuracion.ArchivoImagen);
-}
-
-namespace {
 
 /// Names the fault of a file that isn't there. That it can't be read as other files are, being too large, is
 /// none of an image.
@@ -61,7 +48,7 @@ void AvisaDeImagen(const Siro& s, CargaDeImagen fin, const std::string& ruta)
 }
 
 /// Loads the image. Returns false where there is none to be shown, which has been told.
-bool Carga(frmUEHs& f, const Siro& s)
+bool Carga(Fondo& f, const Siro& s)
 {
     const std::string ruta = RutaImagen(s);
     bool hayImagen = false;
@@ -82,22 +69,25 @@ bool Carga(frmUEHs& f, const Siro& s)
 
 }  // namespace
 
-void AlternaImagen(frmUEHs& f, Siro& s)
+std::string RutaImagen(const Siro& s)
+{
+    const std::string& archivo = s.Configuracion.ArchivoImagen;
+    const bool conDirectorio = archivo.find_first_of("/\\") != std::string::npos;
+    return conDirectorio ? archivo : model::Ruta(s.Proyecto.DirProyecto, archivo);
+}
+
+bool AlternaImagen(Fondo& f, const Siro& s)
 {
     if (f.ImagenVisible) {
         f.imagen = {};
         f.rutaImagen.clear();
         f.cmdImagenUEHs = LeyendaMostrar;
     } else {
-        if (!Carga(f, s)) return;
+        if (!Carga(f, s)) return false;
         f.cmdImagenUEHs = LeyendaQuitar;
     }
     f.ImagenVisible = !f.ImagenVisible;
-    DescartaTrazo(f, s);
-    LimpiaSeleccion(s);
-    model::LeeUEHs(s);
-    f.guardada = true;  // memory and files agree again
-    Redibuja(f, s);
+    return true;
 }
 
 }  // namespace editor

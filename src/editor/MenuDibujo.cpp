@@ -4,13 +4,20 @@
 #include <array>
 #include <string>
 
+#include "editor/ClasesConIcono.h"
 #include "editor/Edicion.h"
+#include "editor/EnMano.h"
+#include "editor/TextosEdicion.h"
 #include "editor/frmUEHs.h"
-#include "model/Clases.h"
+#include "model/Avisos.h"
 
 namespace editor {
 
+using model::Cauce;
+using model::Lago;
+using model::Represa;
 using model::Siro;
+using model::UEH;
 
 namespace {
 
@@ -20,104 +27,102 @@ bool Siempre(const Siro& /*s*/)
 {
     return true;
 }
-bool HayUEH(const Siro& s)
+template <typename... Clases>
+bool Hay(const Siro& s)
 {
-    return s.Seleccion.UEHSel > 0 && s.Seleccion.UEHSel <= s.Red.ColUEHs.Cuenta();
+    return (HayEnMano<Clases>(s) && ...);
 }
-bool HayCauce(const Siro& s)
+template <typename T>
+bool Solo(const Siro& s)
 {
-    return s.Seleccion.CauceSel > 0 && s.Seleccion.CauceSel <= CaucesEnteros(s);
+    return HayEnMano<T>(s) && CuantosElegidos(s.Seleccion) == 1;
 }
-bool HayRepresa(const Siro& s)
+template <typename T>
+bool ConDestino(const Siro& s)
 {
-    return s.Seleccion.RepresaSel > 0 && s.Seleccion.RepresaSel <= s.Red.ColRepresas.Cuenta();
-}
-bool HayLago(const Siro& s)
-{
-    return s.Seleccion.LagoSel > 0 && s.Seleccion.LagoSel <= s.Red.ColLagos.Cuenta();
-}
-bool SoloUEH(const Siro& s)
-{
-    return HayUEH(s) && s.Seleccion.CauceSel == 0 && s.Seleccion.RepresaSel == 0 && s.Seleccion.LagoSel == 0;
-}
-bool SoloCauce(const Siro& s)
-{
-    return HayCauce(s) && s.Seleccion.UEHSel == 0 && s.Seleccion.RepresaSel == 0 && s.Seleccion.LagoSel == 0;
-}
-bool SoloRepresa(const Siro& s)
-{
-    return HayRepresa(s) && s.Seleccion.UEHSel == 0 && s.Seleccion.CauceSel == 0 && s.Seleccion.LagoSel == 0;
-}
-bool SoloLago(const Siro& s)
-{
-    return HayLago(s) && s.Seleccion.UEHSel == 0 && s.Seleccion.CauceSel == 0 && s.Seleccion.RepresaSel == 0;
-}
-bool UEHyCauce(const Siro& s)
-{
-    return HayUEH(s) && HayCauce(s);
-}
-bool UEHyLago(const Siro& s)
-{
-    return HayUEH(s) && HayLago(s);
-}
-bool UEHyRepresa(const Siro& s)
-{
-    return HayUEH(s) && HayRepresa(s);
-}
-bool CauceYLago(const Siro& s)
-{
-    return HayCauce(s) && HayLago(s);
-}
-bool CauceYRepresa(const Siro& s)
-{
-    return HayCauce(s) && HayRepresa(s);
-}
-bool TieneDestino(const std::string& Cauce_aa)
-{
-    return !Cauce_aa.empty() && Cauce_aa != "0";
-}
-bool UEHConDestino(const Siro& s)
-{
-    return HayUEH(s) && TieneDestino(s.Red.ColUEHs.Item(s.Seleccion.UEHSel).Cauce_aa);
-}
-bool CauceConDestino(const Siro& s)
-{
-    return HayCauce(s) && TieneDestino(s.Red.ColCauces.Item(s.Seleccion.CauceSel).Cauce_aa);
-}
-bool RepresaConDestino(const Siro& s)
-{
-    return HayRepresa(s) && TieneDestino(s.Red.ColRepresas.Item(s.Seleccion.RepresaSel).Cauce_aa);
-}
-bool LagoConDestino(const Siro& s)
-{
-    return HayLago(s) && TieneDestino(s.Red.ColLagos.Item(s.Seleccion.LagoSel).Cauce_aa);
+    return HayEnMano<T>(s) && model::EsDestino(model::Todos<T>(s.Red).Item(Elegido<T>(s.Seleccion)).Cauce_aa);
 }
 bool VerticeParaDividir(const Siro& s)
 {
-    return HayCauce(s) && s.Seleccion.VerticeSel > 0 && s.Seleccion.UEHSel == 0 &&
-           s.Seleccion.RepresaSel == 0;
+    const model::Seleccion& sel = s.Seleccion;
+    return HayEnMano<Cauce>(s) && sel.VerticeSel > 0 && sel.UEHSel == 0 && sel.RepresaSel == 0;
 }
 bool DosCauces(const Siro& s)
 {
-    const int primero = s.Seleccion.CauceAnterior;
-    return HayCauce(s) && primero > 0 && primero <= CaucesEnteros(s) && primero != s.Seleccion.CauceSel &&
-           !model::DrenaA(s.Red.ColCauces.Item(primero),
-                          s.Red.ColCauces.Item(s.Seleccion.CauceSel).NombreCauce);
+    const int primero = s.Seleccion.CauceAnterior, segundo = s.Seleccion.CauceSel;
+    const auto& cauces = s.Red.ColCauces;
+    return HayEnMano<Cauce>(s) && primero > 0 && primero <= CaucesEnteros(s.Red) && primero != segundo &&
+           !model::DrenaA(cauces.Item(primero), cauces.Item(segundo).NombreCauce);
+}
+
+// --- links between the two components that are selected ---
+
+template <typename T>
+void AcoplaACauce(frmUEHs& f, Siro& s)
+{
+    T& componente = EnMano<T>(s);
+    const std::string& nombre = model::Nombre(componente);
+    const std::string& cauce = EnMano<Cauce>(s).NombreCauce;
+    if (model::DrenaA(componente, cauce)) {
+        model::Advierte(s, Texto(ConIcono<T>.yaAcoplado, nombre, YaAcoplada, cauce), {});
+    } else if (model::Consulta(s, Texto(ConIcono<T>.confirmaMenu, nombre, ConElCauce, cauce, CierraNombre),
+                               TituloConsulta)) {
+        Acopla(componente, cauce, UltimoVertice(s.Red, s.Seleccion.CauceSel));
+    }
+    RedibujaSinSeleccion(f, s);
+}
+
+template <typename T>
+void AcoplaUEHA(frmUEHs& f, Siro& s)
+{
+    const T& destino = EnMano<T>(s);
+    Acopla(EnMano<UEH>(s), model::Nombre(destino), Icono(destino));
+    RedibujaSinSeleccion(f, s);
+}
+
+template <typename T>
+void AcoplaCauceA(frmUEHs& f, Siro& s)
+{
+    const T& destino = EnMano<T>(s);
+    PonVertice(s.Red, s.Seleccion.CauceSel, 1, Icono(destino));
+    EnMano<Cauce>(s).Cauce_aa = model::Nombre(destino);
+    RedibujaSinSeleccion(f, s);
+}
+
+void AcoplaCauceACauce(frmUEHs& f, Siro& s)
+{
+    Cauce& primero = s.Red.Cauces(s.Seleccion.CauceAnterior);
+    const Cauce& segundo = EnMano<Cauce>(s);
+    // A longer cycle isn't looked for: kept as it stands.
+    if (model::DrenaA(segundo, primero.NombreCauce)) {
+        model::Advierte(s, Texto(Inversion), TituloInversion);
+    } else {
+        primero.Cauce_aa = segundo.NombreCauce;
+    }
+    RedibujaSinSeleccion(f, s);
+}
+
+template <typename T>
+void Desacopla(frmUEHs& f, Siro& s)
+{
+    if constexpr (std::is_same_v<T, Cauce>)
+        EnMano<T>(s).Cauce_aa = model::SinDestino;
+    else
+        Acopla(EnMano<T>(s), model::SinDestino, {0, 0});
+    RedibujaSinSeleccion(f, s);
 }
 
 // --- commands of the canvas itself ---
 
 void mnu_CentrarDibujo(frmUEHs& f, Siro& s)
 {
-    LimpiaSeleccion(s);
-    f.recentra = true;
-    Redibuja(f, s);
+    f.vista.recentra = true;
+    RedibujaSinSeleccion(f, s);
 }
 void mnu_ZoomAll(frmUEHs& f, Siro& s)
 {
-    LimpiaSeleccion(s);
-    f.recentra = f.reescala = true;
-    Redibuja(f, s);
+    f.vista.recentra = f.vista.reescala = true;
+    RedibujaSinSeleccion(f, s);
 }
 template <Pedido pedido>
 void Abre(frmUEHs& f, Siro& /*s*/)
@@ -127,25 +132,25 @@ void Abre(frmUEHs& f, Siro& /*s*/)
 
 // clang-format off
 constexpr auto Entradas = std::to_array<FilaMenu>({
-    {"mnu_CentrarDibujo",             "&Centrar el Dibujo",                Siempre,            mnu_CentrarDibujo},
-    {"mnu_ZoomAll",                   "&Zoom All",                         Siempre,            mnu_ZoomAll},
-    {"mnu_PopUpdlgUEH2",              "Editar Propiedades de la &UHE",     SoloUEH,            Abre<Pedido::FormaUEH>},
-    {"mnu_acoplaUEHaCauce",           "Acopla UHE a Cauce",                UEHyCauce,          mnu_acoplaUEHaCauce},
-    {"mnu_acoplaUEHaLago",            "Acopla UHE a Lago",                 UEHyLago,           mnu_acoplaUEHaLago},
-    {"mnu_acoplaUEHaRepresa",         "Acopla UHE a Represa",              UEHyRepresa,        mnu_acoplaUEHaRepresa},
-    {"mnu_desacoplaUEH",              "Desacopla UHE",                     UEHConDestino,      mnu_desacoplaUEH},
-    {"mnu_PopUpCauceEditPropiedades", "&Editar Propiedades del Cauce",     SoloCauce,          Abre<Pedido::FormaCauce>},
-    {"mnu_DivideCauce",               "&Divide un tramo de Cauce en dos",  VerticeParaDividir, mnu_DivideCauce},
-    {"mnu_acoplaCauce1aCauce2",       "Acopla Cauce 1 a Cauce 2",          DosCauces,          mnu_acoplaCauce1aCauce2},
-    {"mnu_acoplaCauceaLago",          "Acopla Cauce a Lago",               CauceYLago,         mnu_acoplaCauceaLago},
-    {"mnu_acoplaCauceaRepresa",       "Acopla Cauce a Represa",            CauceYRepresa,      mnu_acoplaCauceaRepresa},
-    {"mnu_desacoplaCauce",            "Desacopla Cauce",                   CauceConDestino,    mnu_desacoplaCauce},
-    {"mnu_PopUpdlgLAGO",              "Editar Propiedades de Lagos/Lagunas...", SoloLago,      Abre<Pedido::FormaLago>},
-    {"mnu_acoplaLAGOaCauce",          "Acopla Lago/Laguna a Cauce",        CauceYLago,         mnu_acoplaLAGOaCauce},
-    {"mnu_desacoplaLAGO",             "Desacopla Lago",                    LagoConDestino,     mnu_desacoplaLAGO},
-    {"mnu_PopUpdlgRepresa",           "Editar Propiedades de la Represa",  SoloRepresa,        Abre<Pedido::FormaRepresa>},
-    {"mnu_acoplaRepresaaCauce",       "Acopla Represa a Cauce",            CauceYRepresa,      mnu_acoplaRepresaaCauce},
-    {"mnu_desacoplaRepresa",          "Desacopla Represa",                 RepresaConDestino,  mnu_desacoplaRepresa},
+    {"mnu_CentrarDibujo",             "&Centrar el Dibujo",                Siempre,              mnu_CentrarDibujo},
+    {"mnu_ZoomAll",                   "&Zoom All",                         Siempre,              mnu_ZoomAll},
+    {"mnu_PopUpdlgUEH2",              "Editar Propiedades de la &UHE",     Solo<UEH>,            Abre<Pedido::FormaUEH>},
+    {"mnu_acoplaUEHaCauce",           "Acopla UHE a Cauce",                Hay<UEH, Cauce>,      AcoplaACauce<UEH>},
+    {"mnu_acoplaUEHaLago",            "Acopla UHE a Lago",                 Hay<UEH, Lago>,       AcoplaUEHA<Lago>},
+    {"mnu_acoplaUEHaRepresa",         "Acopla UHE a Represa",              Hay<UEH, Represa>,    AcoplaUEHA<Represa>},
+    {"mnu_desacoplaUEH",              "Desacopla UHE",                     ConDestino<UEH>,      Desacopla<UEH>},
+    {"mnu_PopUpCauceEditPropiedades", "&Editar Propiedades del Cauce",     Solo<Cauce>,          Abre<Pedido::FormaCauce>},
+    {"mnu_DivideCauce",               "&Divide un tramo de Cauce en dos",  VerticeParaDividir,   mnu_DivideCauce},
+    {"mnu_acoplaCauce1aCauce2",       "Acopla Cauce 1 a Cauce 2",          DosCauces,            AcoplaCauceACauce},
+    {"mnu_acoplaCauceaLago",          "Acopla Cauce a Lago",               Hay<Cauce, Lago>,     AcoplaCauceA<Lago>},
+    {"mnu_acoplaCauceaRepresa",       "Acopla Cauce a Represa",            Hay<Cauce, Represa>,  AcoplaCauceA<Represa>},
+    {"mnu_desacoplaCauce",            "Desacopla Cauce",                   ConDestino<Cauce>,    Desacopla<Cauce>},
+    {"mnu_PopUpdlgLAGO",              "Editar Propiedades de Lagos/Lagunas...", Solo<Lago>,           Abre<Pedido::FormaLago>},
+    {"mnu_acoplaLAGOaCauce",          "Acopla Lago/Laguna a Cauce",        Hay<Cauce, Lago>,     AcoplaACauce<Lago>},
+    {"mnu_desacoplaLAGO",             "Desacopla Lago",                    ConDestino<Lago>,     Desacopla<Lago>},
+    {"mnu_PopUpdlgRepresa",           "Editar Propiedades de la Represa",  Solo<Represa>,        Abre<Pedido::FormaRepresa>},
+    {"mnu_acoplaRepresaaCauce",       "Acopla Represa a Cauce",            Hay<Cauce, Represa>,  AcoplaACauce<Represa>},
+    {"mnu_desacoplaRepresa",          "Desacopla Represa",                 ConDestino<Represa>,  Desacopla<Represa>},
 });
 // clang-format on
 

@@ -3,15 +3,12 @@
 #include <string>
 
 #include "editor/Alcance.h"
-#include "editor/Cauces.h"
 #include "editor/ClasesConIcono.h"
-#include "editor/Destinos.h"
 #include "editor/Edicion.h"
 #include "editor/Tender.h"
 #include "editor/TextosEdicion.h"
 #include "editor/frmUEHs.h"
 #include "model/Avisos.h"
-#include "model/Clases.h"
 #include "model/Numeros.h"
 
 // Dragging a vertex or an icon.
@@ -27,23 +24,20 @@ namespace {
 /// it shall.
 bool DejaSuDestino(const Siro& s, model::Cauce& cauce)
 {
-    if (cauce.Cauce_aa.empty() || cauce.Cauce_aa == "0") return true;
+    if (!model::EsDestino(cauce.Cauce_aa)) return true;
     const std::string texto = Texto(ElTramo, cauce.NombreCauce, EsTributario, cauce.Cauce_aa, DeseaRedefinir);
     if (!model::Consulta(s, texto, TituloConsulta)) return false;
-    cauce.Cauce_aa = "0";
+    cauce.Cauce_aa = model::SinDestino;
     return true;
 }
 
 /// The drain points of what drains into a reach go along with its head.
-void LlevaTributarios(Siro& s, int cauce, Punto en)
+void LlevaTributarios(model::Red& red, int cauce, Punto en)
 {
-    const std::string& nombre = s.Red.Cauces(cauce).NombreCauce;
-    PorClase([&](const auto& clase) {
-        for (auto& componente : s.Red.*clase.coleccion)
-            if (model::DrenaA(componente, nombre)) {
-                componente.XCauce = en.X;
-                componente.YCauce = en.Y;
-            }
+    const std::string& nombre = red.Cauces(cauce).NombreCauce;
+    PorClase([&]<typename T>() {
+        for (T& componente : model::Todos<T>(red))
+            if (model::DrenaA(componente, nombre)) PonPunto(componente, en);
     });
 }
 
@@ -51,7 +45,7 @@ void LlevaTributarios(Siro& s, int cauce, Punto en)
 bool EsClic(const frmUEHs& f, Punto p)
 {
     constexpr double Umbral = 3, Redondeo = 1e-3;  // of points of 32 bits
-    const Pixel desde = APixel(f, f.presion), hasta = APixel(f, p);
+    const Pixel desde = APixel(f.vista, f.gesto.presion), hasta = APixel(f.vista, p);
     return std::hypot(hasta.x - desde.x, hasta.y - desde.y) < Umbral - Redondeo;
 }
 
@@ -62,12 +56,13 @@ bool EsCabecera(const Siro& s)
 
 void MueveVertice(frmUEHs& f, Siro& s, Punto p)
 {
-    f.banda.clear();
+    f.gesto.banda.clear();
     if (s.Seleccion.VerticeSel > 1)
-        f.banda.push_back(Vertice(s, s.Seleccion.CauceSel, s.Seleccion.VerticeSel - 1));
-    f.banda.push_back(p);
-    if (!EsCabecera(s)) f.banda.push_back(Vertice(s, s.Seleccion.CauceSel, s.Seleccion.VerticeSel + 1));
-    if (EsCabecera(s)) LlevaTributarios(s, s.Seleccion.CauceSel, p);
+        f.gesto.banda.push_back(Vertice(s.Red, s.Seleccion.CauceSel, s.Seleccion.VerticeSel - 1));
+    f.gesto.banda.push_back(p);
+    if (!EsCabecera(s))
+        f.gesto.banda.push_back(Vertice(s.Red, s.Seleccion.CauceSel, s.Seleccion.VerticeSel + 1));
+    if (EsCabecera(s)) LlevaTributarios(s.Red, s.Seleccion.CauceSel, p);
     Redibuja(f, s);
 }
 
@@ -75,14 +70,14 @@ void MueveVertice(frmUEHs& f, Siro& s, Punto p)
 void BuscaDestino(const frmUEHs& f, Siro& s, int cauce)
 {
     model::Cauce& este = s.Red.Cauces(cauce);
-    const Punto boca = Vertice(s, cauce, 1);
-    for (int i = 1; i <= CaucesEnteros(s); ++i) {
-        if (i == cauce || !CabeceraCerca(s, i, boca, f.ToleranciaVertice)) continue;
+    const Punto boca = Vertice(s.Red, cauce, 1);
+    for (int i = 1; i <= CaucesEnteros(s.Red); ++i) {
+        if (i == cauce || !CabeceraCerca(s.Red, i, boca, f.vista.ToleranciaVertice)) continue;
         const std::string& otro = s.Red.Cauces(i).NombreCauce;
         const std::string texto =
             Texto(PreguntaElTramo, este.NombreCauce, EsTributario, otro, FinPreguntaElTramo);
         if (!model::Consulta(s, texto, TituloConsulta)) continue;
-        PonVertice(s, cauce, 1, UltimoVertice(s, i));
+        PonVertice(s.Red, cauce, 1, UltimoVertice(s.Red, i));
         este.Cauce_aa = otro;
         return;
     }
@@ -91,9 +86,9 @@ void BuscaDestino(const frmUEHs& f, Siro& s, int cauce)
 void SueltaVertice(frmUEHs& f, Siro& s, Punto p)
 {
     const int cauce = s.Seleccion.CauceSel;
-    PonVertice(s, cauce, s.Seleccion.VerticeSel, p);
-    if (EsCabecera(s)) LlevaTributarios(s, cauce, p);
-    f.banda.clear();
+    PonVertice(s.Red, cauce, s.Seleccion.VerticeSel, p);
+    if (EsCabecera(s)) LlevaTributarios(s.Red, cauce, p);
+    f.gesto.banda.clear();
     Redibuja(f, s);  // the questions are asked over the reach as it now is
     if (s.Seleccion.VerticeSel == 1) BuscaDestino(f, s, cauce);
     Redibuja(f, s);
@@ -101,32 +96,30 @@ void SueltaVertice(frmUEHs& f, Siro& s, Punto p)
 
 // --- icons ---
 
-template <typename T, int Limite>
-void MueveIcono(frmUEHs& f, Siro& s, const ClaseConIcono<T, Limite>& clase, Punto p)
+template <typename T>
+void MueveIcono(frmUEHs& f, Siro& s, Punto p)
 {
-    T& componente = Elegido(s, clase);
-    const Punto icono = Icono(clase, componente);
-    if (clase.fueraDelPuntero && !Cerca(p, icono, AlcanceDeEmbalse * f.TamIcono)) return;
-    componente.*clase.x = model::Simple(double{1} * p.X - f.agarre.X);
-    componente.*clase.y = model::Simple(double{1} * p.Y - f.agarre.Y);
+    T& componente = EnMano<T>(s);
+    if (ConIcono<T>.fueraDelPuntero && !Cerca(p, Icono(componente), AlcanceDeEmbalse * f.vista.TamIcono))
+        return;
+    PonIcono(componente, {model::Simple(double{1} * p.X - f.gesto.agarre.X),
+                          model::Simple(double{1} * p.Y - f.gesto.agarre.Y)});
     Redibuja(f, s);
 }
 
 bool EnElLienzo(const frmUEHs& f, Punto p)
 {
-    const Pixel lugar = APixel(f, p);
-    return lugar.x >= 0 && lugar.y >= 0 && lugar.x <= f.lienzo.ancho && lugar.y <= f.lienzo.alto;
+    const Pixel lugar = APixel(f.vista, p);
+    return lugar.x >= 0 && lugar.y >= 0 && lugar.x <= f.vista.lienzo.ancho && lugar.y <= f.vista.lienzo.alto;
 }
 
 /// An icon that is dropped where nobody would see it goes back to where it was.
 void SueltaIcono(frmUEHs& f, Siro& s, Punto p)
 {
-    if (!f.arrastrado || EnElLienzo(f, p)) return;
-    PorClase([&](const auto& clase) {
-        if (f.arrastra != clase.mueve) return;
-        auto& componente = Elegido(s, clase);
-        componente.*clase.x = f.iconoAntes.X;
-        componente.*clase.y = f.iconoAntes.Y;
+    if (!f.gesto.arrastrado || EnElLienzo(f, p)) return;
+    PorClase([&]<typename T>() {
+        if (f.gesto.arrastra != ConIcono<T>.mueve) return;
+        PonIcono(EnMano<T>(s), f.gesto.iconoAntes);
         Redibuja(f, s);
     });
 }
@@ -135,11 +128,11 @@ void SueltaIcono(frmUEHs& f, Siro& s, Punto p)
 
 void MueveArrastre(frmUEHs& f, Siro& s, Punto p)
 {
-    if (!f.izquierdoAbajo || f.arrastra == Arrastra::Nada) return;
-    if (!f.arrastrado && EsClic(f, p)) return;
-    const bool empieza = !f.arrastrado;
-    f.arrastrado = true;
-    if (f.arrastra == Arrastra::Vertice) {
+    if (!f.gesto.izquierdoAbajo || f.gesto.arrastra == Arrastra::Nada) return;
+    if (!f.gesto.arrastrado && EsClic(f, p)) return;
+    const bool empieza = !f.gesto.arrastrado;
+    f.gesto.arrastrado = true;
+    if (f.gesto.arrastra == Arrastra::Vertice) {
         if (empieza && s.Seleccion.VerticeSel == 1 && !DejaSuDestino(s, s.Red.Cauces(s.Seleccion.CauceSel))) {
             AbandonaArrastre(f, s);
         } else {
@@ -147,17 +140,17 @@ void MueveArrastre(frmUEHs& f, Siro& s, Punto p)
         }
         return;
     }
-    PorClase([&](const auto& clase) {
-        if (f.arrastra == clase.mueve) MueveIcono(f, s, clase, p);
+    PorClase([&]<typename T>() {
+        if (f.gesto.arrastra == ConIcono<T>.mueve) MueveIcono<T>(f, s, p);
     });
     TiendeEnlace(f, s, p);
 }
 
 void TerminaArrastre(frmUEHs& f, Siro& s, Punto p)
 {
-    const bool vertice = f.arrastra == Arrastra::Vertice && f.arrastrado;
-    const bool banda = !f.banda.empty();
-    f.banda.clear();
+    const bool vertice = f.gesto.arrastra == Arrastra::Vertice && f.gesto.arrastrado;
+    const bool banda = !f.gesto.banda.empty();
+    f.gesto.banda.clear();
     SueltaIcono(f, s, p);
     if (vertice) {
         SueltaVertice(f, s, p);
@@ -168,11 +161,8 @@ void TerminaArrastre(frmUEHs& f, Siro& s, Punto p)
 
 void AbandonaArrastre(frmUEHs& f, Siro& s)
 {
-    f.izquierdoAbajo = f.arrastrado = false;
-    f.arrastra = Arrastra::Nada;
-    f.banda.clear();
-    LimpiaSeleccion(s);
-    Redibuja(f, s);
+    f.gesto.Suelta();
+    RedibujaSinSeleccion(f, s);
 }
 
 }  // namespace editor

@@ -1,22 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/NombreComponente.h"
 
-#include "editor/Destinos.h"
-#include "model/Texto.h"
-
 namespace editor {
-
-namespace {
-
-template <typename Componentes>
-void Renombra(Componentes& componentes, std::string_view viejo, std::string_view nuevo, int salvo = 0)
-{
-    int numero = 0;
-    for (auto& componente : componentes)
-        if (++numero != salvo && componente.Cauce_aa == viejo) componente.Cauce_aa = nuevo;
-}
-
-}  // namespace
 
 std::string NombreConPrefijo(std::string_view prefijo, std::string_view texto)
 {
@@ -24,13 +9,18 @@ std::string NombreConPrefijo(std::string_view prefijo, std::string_view texto)
     return model::PrimerosCaracteres(nombre, LargoNombre);
 }
 
-void RenombraDestinos(model::Siro& s, std::string_view viejo, std::string_view nuevo, SiguenNombre siguen)
+void RenombraDestinos(model::Red& red, std::string_view viejo, std::string_view nuevo, SiguenNombre siguen)
 {
-    if (viejo.empty() || viejo == SinDestino) return;
-    if (siguen.UEHs) Renombra(s.Red.ColUEHs, viejo, nuevo);
-    if (siguen.Cauces) Renombra(s.Red.ColCauces, viejo, nuevo, siguen.salvoCauce);
-    Renombra(s.Red.ColRepresas, viejo, nuevo);
-    Renombra(s.Red.ColLagos, viejo, nuevo);
+    if (!model::EsDestino(viejo)) return;
+    const auto renombra = [&](auto& componentes, int salvo = 0) {
+        int numero = 0;
+        for (auto& componente : componentes)
+            if (++numero != salvo && componente.Cauce_aa == viejo) componente.Cauce_aa = nuevo;
+    };
+    if (siguen.UEHs) renombra(red.ColUEHs);
+    renombra(red.ColCauces, siguen.salvoCauce);
+    renombra(red.ColRepresas);
+    renombra(red.ColLagos);
 }
 
 }  // namespace editor

@@ -2,13 +2,16 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
-#include "model/Siro.h"
+#include "model/Anfitrion.h"
+#include "model/Clases.h"
+#include "model/Texto.h"
 
-// Names of components as their forms edit them. A name is what the network is wired by, so that a rename
-// goes through every destination that held the old one.
+// Names of components as the user gives them. A name is what the network is wired by: none is given twice
+// within its kind, and a rename goes through every destination that held the old one.
 namespace editor {
 
 inline constexpr std::size_t LargoNombre = 15;  ///< characters, prefix included
@@ -19,15 +22,36 @@ inline constexpr std::string_view NombreInvalido = "Invalido";
 /// Returns the name with its kind's prefix in front and cut to its length in characters.
 std::string NombreConPrefijo(std::string_view prefijo, std::string_view texto);
 
-/// Kinds of component whose destination follows a rename.
+/// How the user is asked for the name of a new component.
+struct PeticionDeNombre {
+    std::string_view titulo, texto;
+};
+
+/// Asks for a name until one is given that no component of kind T bears: the prefix and what is typed, 15
+/// characters at most; the box that asks again says why. Nothing where the user cancels or types nothing.
+template <typename T>
+std::optional<std::string> PideNombre(const model::Anfitrion& anfitrion, const model::Red& red,
+                                      const PeticionDeNombre& pide)
+{
+    std::string texto(pide.texto);
+    for (;;) {
+        const std::string tecleado = anfitrion.PideTexto({texto, std::string(pide.titulo)});
+        if (tecleado.empty()) return {};
+        std::string dado =
+            model::PrimerosCaracteres(std::string(model::DeClase<T>::prefijo) + tecleado, LargoNombre);
+        if (model::NumeroDe<T>(red, dado) == 0) return dado;
+        texto = std::string(pide.texto) + "\nEl nombre «" + dado + "» ya está en uso.";
+    }
+}
+
+/// Components whose destination follows a rename; those of Represas and Lagos always do.
 struct SiguenNombre {
     bool UEHs = true;
-    bool Cauces = true;
     int salvoCauce = 0;  ///< number of a reach whose destination stays as it is; 0: none
 };
 
-/// Puts the new name in place of the old one in every destination that held it, those of Represas and Lagos
-/// always. The empty name and "0" are held by nobody: as destinations they mean none.
-void RenombraDestinos(model::Siro& s, std::string_view viejo, std::string_view nuevo, SiguenNombre siguen);
+/// Puts the new name in place of the old one in every destination that held it. The empty name and "0" are
+/// held by nobody: as destinations they mean none.
+void RenombraDestinos(model::Red& red, std::string_view viejo, std::string_view nuevo, SiguenNombre siguen);
 
 }  // namespace editor

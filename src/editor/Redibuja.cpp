@@ -3,10 +3,10 @@
 #include <cmath>
 #include <string>
 
+#include "editor/Alcance.h"
 #include "editor/ClasesConIcono.h"
 #include "editor/RotulosDeCauces.h"
 #include "editor/frmUEHs.h"
-#include "model/Clases.h"
 #include "model/Numeros.h"
 
 namespace editor {
@@ -15,115 +15,62 @@ using model::Siro;
 
 namespace {
 
-constexpr double HolguraEscala = 1.1;         // the drawing leaves a margin of a tenth
 constexpr double AlturaDePixel = 1.33333333;  // kept as it stands
-constexpr float PasoDelAsa = 3.5F;            // handle under the icon [sizes s]
 constexpr float CorrimientoNombre = 0.5F;     // name beside the icon's position [sizes s]
-constexpr float BajoUEH = 2.0F, BajoRepresa = 2.05F, BajoLago = 2.0F;  // name under it [sizes s]
-constexpr float LadoIcono = 1.5F;         // icon of a UEH, of a Represa [sizes s]
-constexpr float MedioLago = 1.0F;         // half the icon of a Lago [sizes s]
-constexpr float BordeDeMarca = 4;         // a mark is so much wider than the lines [pixels]
-constexpr float CorrimientoOrden = 1.5F;  // order left of vertex 2 [tolerances]
-
-/// Reaches with vertices, the one being drawn included.
-int CaucesDibujados(const Siro& s)
-{
-    return std::clamp<int>(s.Red.NroCauces, 0, model::MaxCauces);
-}
-
-Punto Vertice(const Siro& s, int cauce, int vertice)
-{
-    return {s.Red.XVertice(cauce, vertice), s.Red.YVertice(cauce, vertice)};
-}
+constexpr float BordeDeMarca = 4;             // a mark is so much wider than the lines [pixels]
+constexpr float CorrimientoOrden = 1.5F;      // order left of vertex 2 [tolerances]
 
 // --- the steps before the painting ---
 
-void AmpliaVertices(Siro& s)
+/// The arrays of the vertices hold the longest reach.
+void HaceLugar(model::Red& red)
 {
     int mayor = 0;
-    for (int i = 1; i <= CaucesDibujados(s); ++i)
-        mayor = std::max<int>(mayor, s.Red.NroVertices(i));
-    for (auto* vertices : {&s.Red.XVertice, &s.Red.YVertice}) {
-        if (vertices->UltimaFila() < model::MaxCauces) vertices->Dimensiona(model::MaxCauces, mayor);
-        if (vertices->TopeColumna() < mayor) vertices->Redimensiona(mayor);
-    }
+    for (int i = 1; i <= CaucesDibujados(red); ++i)
+        mayor = std::max<int>(mayor, red.NroVertices(i));
+    AmpliaVertices(red, mayor);
 }
 
 /// The mouth of a reach lies on the head of the reach that it drains into.
-void AjustaDesembocaduras(Siro& s)
+void AjustaDesembocaduras(model::Red& red)
 {
-    const int enteros = CaucesEnteros(s);
+    const int enteros = CaucesEnteros(red);
     for (int i = 1; i <= enteros; ++i) {
-        const std::string& destino = s.Red.ColCauces.Item(i).Cauce_aa;
-        for (int k = 1; k <= enteros; ++k) {
-            if (!model::DrenaA(destino, s.Red.ColCauces.Item(k).NombreCauce)) continue;
-            const int ultimo = s.Red.NroVertices(k);
-            if (ultimo >= 1 && s.Red.NroVertices(i) >= 1) {
-                s.Red.XVertice(i, 1) = s.Red.XVertice(k, ultimo);
-                s.Red.YVertice(i, 1) = s.Red.YVertice(k, ultimo);
-            }
-            break;
-        }
+        const std::string& destino = red.ColCauces.Item(i).Cauce_aa;
+        const int k = model::EsDestino(destino) ? model::NumeroDe<model::Cauce>(red, destino) : 0;
+        if (k >= 1 && k <= enteros && red.NroVertices(k) >= 1)
+            PonPrimerVertice(red, i, UltimoVertice(red, k));
     }
 }
 
-Extension Extiende(const frmUEHs& f, const Siro& s)
+Extension Extiende(const frmUEHs& f, const model::Red& red)
 {
     Extension e;
     // An image without reaches is the drawing: it is what will be traced.
-    if (f.ImagenVisible && s.Red.NroCauces == 0) {
+    if (f.fondo.ImagenVisible && red.NroCauces == 0) {
         e.Abarca({1, 1});
-        e.Abarca({static_cast<float>(f.imagen.ancho), static_cast<float>(f.imagen.alto)});
+        e.Abarca({static_cast<float>(f.fondo.imagen.ancho), static_cast<float>(f.fondo.imagen.alto)});
     }
-    for (int i = 1; i <= CaucesDibujados(s); ++i) {
-        const float* x = s.Red.XVertice.Fila(i);
-        const float* y = s.Red.YVertice.Fila(i);
-        for (int j = 1; j <= s.Red.NroVertices(i); ++j)
+    for (int i = 1; i <= CaucesDibujados(red); ++i) {
+        const float* x = red.XVertice.Fila(i);
+        const float* y = red.YVertice.Fila(i);
+        for (int j = 1; j <= red.NroVertices(i); ++j)
             e.Abarca({x[j], y[j]});
     }
-    PorClase([&](const auto& clase) {
-        for (const auto& c : s.Red.*clase.coleccion)
-            e.Abarca(Icono(clase, c));
+    PorClase([&]<typename T>() {
+        for (const T& c : model::Todos<T>(red))
+            e.Abarca(Icono(c));
     });
     return e;
-}
-
-void AjustaEscala(frmUEHs& f, const Siro& s)
-{
-    const Extension& e = f.extension;
-    if (f.reescala && e.HayAlgo()) {
-        const double ancho = double{1} * e.XMax - e.XMin;
-        const double alto = double{1} * e.YMax - e.YMin;
-        const double escala = std::max(ancho, alto) * HolguraEscala / f.EscalaBase * 100;
-        f.sldEscala = static_cast<int>(std::clamp<double>(std::trunc(escala), EscalaMinima, EscalaMaxima));
-    }
-    if (s.Red.NroCauces == 0) f.sldEscala = 100;
-    f.reescala = false;
-}
-
-void AjustaOrigen(frmUEHs& f)
-{
-    const Extension& e = f.extension;
-    const double ancho = AnchoLogico(f);
-    if (f.movidoHor != 0 || f.movidoVer != 0) {
-        f.origen.X = static_cast<float>(f.origen.X + ancho * f.movidoHor / 100);
-        f.origen.Y = static_cast<float>(f.origen.Y + ancho * f.movidoVer / 100);
-    } else if (f.recentra && e.HayAlgo()) {
-        f.origen.X = static_cast<float>(e.XMin - (ancho - (double{1} * e.XMax - e.XMin)) / 2);
-        f.origen.Y = static_cast<float>(e.YMin - (ancho - (double{1} * e.YMax - e.YMin)) / 2);
-        f.ScrEscalaHor = f.ScrEscalaVer = 0;
-    }
-    f.recentra = false;
-    f.movidoHor = f.movidoVer = 0;
 }
 
 // --- the painting ---
 
 void PintaImagen(frmUEHs& f, const Siro& s)
 {
-    if (!f.ImagenVisible) return;
-    double ancho = f.imagen.ancho;
-    double alto = AlturaDePixel * f.imagen.alto;
+    if (!f.fondo.ImagenVisible) return;
+    double ancho = f.fondo.imagen.ancho;
+    double alto = AlturaDePixel * f.fondo.imagen.alto;
     if (s.Configuracion.EscalaImagen != 0) {
         ancho *= s.Configuracion.EscalaImagen / 100;
         alto *= s.Configuracion.EscalaImagen / 100;
@@ -132,168 +79,124 @@ void PintaImagen(frmUEHs& f, const Siro& s)
                     static_cast<float>(alto));
 }
 
-void PintaCauces(frmUEHs& f, const Siro& s)
+void PintaCauces(frmUEHs& f, const model::Red& red)
 {
-    for (int i = 1; i <= CaucesDibujados(s); ++i) {
-        const int vertices = s.Red.NroVertices(i);
+    for (int i = 1; i <= CaucesDibujados(red); ++i) {
+        const int vertices = red.NroVertices(i);
         if (vertices < 1) continue;
-        f.dibujo.Polilinea(Papel::Cauce, f.AnchoLinea);
-        const float* x = s.Red.XVertice.Fila(i);
-        const float* y = s.Red.YVertice.Fila(i);
+        f.dibujo.Polilinea(Papel::Cauce, f.vista.AnchoLinea);
+        const float* x = red.XVertice.Fila(i);
+        const float* y = red.YVertice.Fila(i);
         for (int j = 1; j <= vertices; ++j)
             f.dibujo.Agrega({x[j], y[j]});
     }
 }
 
-/// A component with an icon, as the drawing needs it.
-struct ConIcono {
-    Clase clase;
-    Papel enlace;
-    Punto en, drena;
-    const std::string &nombre, &destino;
-    bool seleccionado;
-    float bajoElIcono;  ///< name under the position [sizes s]
-};
-
-Punto Centro(Clase clase, Punto en, float s)
+template <typename T>
+Punto Centro(const T& c, float s)
 {
-    const float medio = clase == Clase::Lago ? 0 : LadoIcono / 2 * s;
-    return {en.X + medio, en.Y + medio};
+    constexpr float Medio = ConIcono<T>.esquina + ConIcono<T>.lado / 2;
+    return {model::IconoX(c) + Medio * s, model::IconoY(c) + Medio * s};
 }
 
 /// Where the line of a component ends: at the icon of the Represa or Lago that it drains into, otherwise at
 /// its drain point.
-Punto FinDelEnlace(const frmUEHs& f, const Siro& s, const ConIcono& c)
+Punto FinDelEnlace(const model::Red& red, float s, std::string_view destino, Punto drena)
 {
-    for (const auto& r : s.Red.ColRepresas)
-        if (model::DrenaA(c.destino, r.NombreRepresa))
-            return Centro(Clase::Represa, {r.IconoRepresaX, r.IconoRepresaY}, f.TamIcono);
-    for (const auto& l : s.Red.ColLagos)
-        if (model::DrenaA(c.destino, l.NombreLAGO)) return {l.IconoLAGOx, l.IconoLAGOy};
-    return c.drena;
+    if (!model::EsDestino(destino)) return drena;
+    if (const int n = model::NumeroDe<model::Represa>(red, destino))
+        return Centro(red.ColRepresas.Item(n), s);
+    if (const int n = model::NumeroDe<model::Lago>(red, destino)) return Centro(red.ColLagos.Item(n), s);
+    return drena;
 }
 
 float LadoDeMarca(const frmUEHs& f)
 {
-    return BordeDeMarca + static_cast<float>(f.AnchoLinea);
+    return BordeDeMarca + static_cast<float>(f.vista.AnchoLinea);
 }
 
-void PintaComponente(frmUEHs& f, const Siro& s, const ConIcono& c)
+template <typename T>
+void PintaComponente(frmUEHs& f, const model::Red& red, const T& c, bool elegido)
 {
-    const float t = f.TamIcono;
+    constexpr const FilaConIcono& fila = ConIcono<T>;
+    const float s = f.vista.TamIcono;
+    const Punto en = Icono(c), drena{c.XCauce, c.YCauce};
     // What drains nowhere joins the network at no point; (0, 0) says so.
-    const bool suelto = (c.destino.empty() || c.destino == "0") && c.drena == Punto{};
-    if (!suelto) f.dibujo.Linea(c.enlace, 1, Centro(c.clase, c.en, t), FinDelEnlace(f, s, c));
-    if (c.clase == Clase::Lago) {
-        f.dibujo.Icono(c.clase, {c.en.X - MedioLago * t, c.en.Y - MedioLago * t}, 2 * MedioLago * t,
-                       c.seleccionado);
-    } else {
-        f.dibujo.Icono(c.clase, c.en, LadoIcono * t, c.seleccionado);
-    }
-    f.dibujo.Texto(Papel::Nombre, {c.en.X + CorrimientoNombre * t, c.en.Y + c.bajoElIcono * t}, c.nombre);
-    if (c.seleccionado) f.dibujo.Cuadrado(Papel::Asa, {c.en.X, c.en.Y + PasoDelAsa * t}, LadoDeMarca(f));
-}
-
-/// What the components of one kind have in common on the paper.
-struct Aspecto {
-    Clase clase;
-    Papel enlace;
-    float bajoElIcono;  ///< of the name, in sizes of the icon
-};
-
-template <typename T, int Limite>
-void PintaClase(frmUEHs& f, const Siro& s, const ClaseConIcono<T, Limite>& filas, const Aspecto& aspecto)
-{
-    int n = 0;
-    for (const T& c : s.Red.*filas.coleccion)
-        PintaComponente(f, s,
-                        {.clase = aspecto.clase,
-                         .enlace = aspecto.enlace,
-                         .en = Icono(filas, c),
-                         .drena = {c.XCauce, c.YCauce},
-                         .nombre = c.*filas.nombre,
-                         .destino = c.Cauce_aa,
-                         .seleccionado = ++n == s.Seleccion.*filas.elegido,
-                         .bajoElIcono = aspecto.bajoElIcono});
+    if (model::EsDestino(c.Cauce_aa) || drena != Punto{})
+        f.dibujo.Linea(fila.papel, 1, Centro(c, s), FinDelEnlace(red, s, c.Cauce_aa, drena));
+    f.dibujo.Icono(model::DeClase<T>::clase, {en.X + fila.esquina * s, en.Y + fila.esquina * s},
+                   fila.lado * s, elegido);
+    f.dibujo.Texto(Papel::Nombre, {en.X + CorrimientoNombre * s, en.Y + fila.nombreDebajo * s},
+                   model::Nombre(c));
+    if (elegido) f.dibujo.Cuadrado(Papel::Asa, Asa(en, s), LadoDeMarca(f));
 }
 
 void PintaComponentes(frmUEHs& f, const Siro& s)
 {
-    PintaClase(f, s, ClaseUEH, {Clase::UEH, Papel::EnlaceUEH, BajoUEH});
-    PintaClase(f, s, ClaseRepresa, {Clase::Represa, Papel::EnlaceRepresa, BajoRepresa});
-    PintaClase(f, s, ClaseLago, {Clase::Lago, Papel::EnlaceLago, BajoLago});
+    PorClase([&]<typename T>() {
+        int n = 0;
+        for (const T& c : model::Todos<T>(s.Red))
+            PintaComponente(f, s.Red, c, ++n == Elegido<T>(s.Seleccion));
+    });
 }
 
 void MarcaCauceElegido(frmUEHs& f, const Siro& s)
 {
-    if (s.Seleccion.CauceSel < 1 || s.Seleccion.CauceSel > CaucesDibujados(s)) return;
+    if (s.Seleccion.CauceSel < 1 || s.Seleccion.CauceSel > CaucesDibujados(s.Red)) return;
     const float lado = LadoDeMarca(f);
     for (int j = 1; j <= s.Red.NroVertices(s.Seleccion.CauceSel); ++j)
         f.dibujo.Cuadrado(j == s.Seleccion.VerticeSel ? Papel::VerticeTomado : Papel::MarcaVertice,
-                          Vertice(s, s.Seleccion.CauceSel, j), lado);
+                          Vertice(s.Red, s.Seleccion.CauceSel, j), lado);
 }
 
-void EscribeOrdenes(frmUEHs& f, const Siro& s)
+void EscribeOrdenes(frmUEHs& f, const model::Red& red)
 {
-    if (!f.OrdenVisible) return;
-    for (int i = 1; i <= CaucesEnteros(s); ++i) {
-        if (s.Red.NroVertices(i) < 2) continue;
-        const Punto p = Vertice(s, i, 2);
-        const float corrido = CorrimientoOrden * static_cast<float>(f.ToleranciaVertice);
+    if (!f.vista.OrdenVisible) return;
+    for (int i = 1; i <= CaucesEnteros(red); ++i) {
+        if (red.NroVertices(i) < 2) continue;
+        const Punto p = Vertice(red, i, 2);
+        const float corrido = CorrimientoOrden * static_cast<float>(f.vista.ToleranciaVertice);
         f.dibujo.Texto(Papel::Orden, {p.X - corrido, p.Y},
-                       model::NumeroATexto(std::int32_t{s.Red.ColCauces.Item(i).OrdenCauce}));
+                       model::NumeroATexto(std::int32_t{red.ColCauces.Item(i).OrdenCauce}));
     }
 }
 
 void PintaMedicion(frmUEHs& f)
 {
-    if (f.NroPuntosMedida < 1) return;
+    if (f.medicion.NroPuntosMedida < 1) return;
     f.dibujo.Polilinea(Papel::Medida,
-                       static_cast<std::int16_t>(std::trunc(f.AnchoLinea - f.AnchoLinea / 2.0)));
-    for (std::size_t i = 1; i <= static_cast<std::size_t>(f.NroPuntosMedida); ++i)
-        f.dibujo.Agrega({f.XMedida[i], f.YMedida[i]});
+                       static_cast<std::int16_t>(std::trunc(f.vista.AnchoLinea - f.vista.AnchoLinea / 2.0)));
+    for (std::size_t i = 1; i <= static_cast<std::size_t>(f.medicion.NroPuntosMedida); ++i)
+        f.dibujo.Agrega(f.medicion.En(i));
 }
 
 void PintaBanda(frmUEHs& f)
 {
-    if (f.banda.empty()) return;
+    if (f.gesto.banda.empty()) return;
     f.dibujo.Polilinea(Papel::Banda, 1);
-    for (const Punto p : f.banda)
+    for (const Punto p : f.gesto.banda)
         f.dibujo.Agrega(p);
 }
 
 }  // namespace
 
-void Extension::Abarca(Punto p)
-{
-    XMax = std::max(XMax, p.X);
-    XMin = std::min(XMin, p.X);
-    YMax = std::max(YMax, p.Y);
-    YMin = std::min(YMin, p.Y);
-}
-
-int CaucesEnteros(const Siro& s)
-{
-    return std::min(CaucesDibujados(s), s.Red.ColCauces.Cuenta());
-}
-
 void Redibuja(frmUEHs& f, Siro& s)
 {
     // A save or a fresh read has taken away the reach that was being drawn.
-    if (f.ClicsCauce > 0 && s.Red.NroCauces != s.Red.ColCauces.Cuenta() + 1) f.ClicsCauce = 0;
-    AmpliaVertices(s);
-    AjustaDesembocaduras(s);
+    if (f.trazo.ClicsCauce > 0 && s.Red.NroCauces != s.Red.ColCauces.Cuenta() + 1) f.trazo.ClicsCauce = 0;
+    HaceLugar(s.Red);
+    AjustaDesembocaduras(s.Red);
     f.dibujo.Vacia();
-    f.extension = Extiende(f, s);
-    AjustaEscala(f, s);
-    AjustaOrigen(f);
+    f.vista.extension = Extiende(f, s.Red);
+    AjustaEscala(f.vista, s.Red.NroCauces != 0);
+    AjustaOrigen(f.vista);
 
     PintaImagen(f, s);
-    PintaCauces(f, s);
+    PintaCauces(f, s.Red);
     PintaComponentes(f, s);
-    RotulaCauces(f, s);
+    RotulaCauces(f, s.Red);
     MarcaCauceElegido(f, s);
-    EscribeOrdenes(f, s);
+    EscribeOrdenes(f, s.Red);
     PintaMedicion(f);
     PintaBanda(f);
 }

@@ -2,11 +2,9 @@
 #include "editor/Resguardo.h"
 
 #include <string>
-#include <string_view>
 
 #include "editor/frmUEHs.h"
 #include "engine/ComponenteFinal.h"
-#include "model/Componentes.h"
 
 namespace editor {
 
@@ -16,34 +14,21 @@ using model::Siro;
 
 namespace {
 
-constexpr std::string_view Titulo = "Resguardo de datos de componentes UEHs";
 constexpr std::string_view Pregunta =
     "El dibujo de la red tiene cambios sin guardar. ¿Desea guardarlos antes de seguir?";
-
-/// Forgets what isn't saved: memory is as the files are, and undo brings the drawing back.
-void Relee(frmUEHs& f, Siro& s)
-{
-    Orden(f, s, [&] {
-        DescartaTrazo(f, s);
-        LimpiaSeleccion(s);
-        model::LeeUEHs(s);
-        f.guardada = true;
-        Redibuja(f, s);
-    });
-}
 
 /// The reach being drawn is in no file, whatever has been saved.
 bool HaySinGuardar(const frmUEHs& f)
 {
-    return f.cambiada || f.ClicsCauce > 0;
+    return f.cambiada || f.trazo.ClicsCauce > 0;
 }
 
 /// Returns false where the user cancels, or where what he wanted saved couldn't be.
 bool PreguntaSiGuarda(frmUEHs& f, Siro& s, Riesgo riesgo)
 {
     if (!HaySinGuardar(f)) return true;
-    switch (
-        s.Anfitrion.PideResguardo({std::string(Pregunta), std::string(Titulo), model::Icono::Exclamacion})) {
+    switch (s.Anfitrion.PideResguardo(
+        {std::string(Pregunta), std::string(TituloResguardo), model::Icono::Exclamacion})) {
     case Resguardo::Guardar:
         ToolbarUEHs_ButtonClick(f, s, Boton::GuardaUEHs);
         if (f.cambiada) return false;
@@ -53,7 +38,8 @@ bool PreguntaSiGuarda(frmUEHs& f, Siro& s, Riesgo riesgo)
     case Resguardo::Cancelar:
         return false;
     }
-    if (riesgo == Riesgo::ReleeRed && HaySinGuardar(f)) Relee(f, s);
+    // Memory is as the files are, and undo brings the drawing back.
+    if (riesgo == Riesgo::ReleeRed && HaySinGuardar(f)) Orden(f, s, [&] { Relee(f, s); });
     return true;
 }
 
@@ -69,7 +55,7 @@ bool PasaLaValidacion(frmUEHs& f, Siro& s)
 
 bool CierraParaOtro(frmUEHs& f, Siro& s)
 {
-    const bool sinRed = RedVacia(s);
+    const bool sinRed = RedVacia(s.Red);
     if (!sinRed && !(PasaLaValidacion(f, s) && PreguntaSiGuarda(f, s, Riesgo::OtroProyecto))) return false;
     Orden(f, s, [&] { CierraVentana(f, s); });
     return true;

@@ -1,16 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/Tender.h"
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 
 #include "editor/Alcance.h"
-#include "editor/Cauces.h"
 #include "editor/ClasesConIcono.h"
-#include "editor/Destinos.h"
 #include "editor/TextosEdicion.h"
 #include "model/Avisos.h"
-#include "model/Clases.h"
 
 namespace editor {
 
@@ -28,67 +26,67 @@ struct Llegada {
 };
 
 /// The first reach whose head is near the pointer. Returns false where none is.
-bool LlegaACauce(const frmUEHs& f, const Siro& s, Punto p, Llegada& llegada)
+bool LlegaACauce(const model::Red& red, float s, Punto p, Llegada& llegada)
 {
-    for (int i = 1; i <= CaucesEnteros(s); ++i) {
-        if (!CabeceraCerca(s, i, p, AlcanceDeDestino * f.TamIcono)) continue;
-        llegada = {s.Red.ColCauces.Item(i).NombreCauce, UltimoVertice(s, i), ConElCauce};
+    for (int i = 1; i <= CaucesEnteros(red); ++i) {
+        if (!CabeceraCerca(red, i, p, AlcanceDeDestino * s)) continue;
+        llegada = {red.ColCauces.Item(i).NombreCauce, UltimoVertice(red, i), ConElCauce};
         return true;
     }
     return false;
 }
 
 /// The first Represa, or Lago, whose box holds the pointer. Returns false where none does.
-bool LlegaAEmbalse(const frmUEHs& f, const Siro& s, Punto p, Llegada& llegada)
-{
-    const auto llega = [&](const auto& clase) {
-        const int n = Bajo(f, s, clase, p);
-        if (n == 0) return false;
-        const auto& componente = (s.Red.*clase.coleccion).Item(n);
-        llegada = {componente.*clase.nombre, Icono(clase, componente), clase.conDestino};
-        return true;
-    };
-    return llega(ClaseRepresa) || llega(ClaseLago);
-}
-
-/// Whether a Represa or a Lago other than this component drains into a reach already.
 template <typename T>
-bool OtroDrena(const Siro& s, const T& este, const std::string& cauce)
+bool LlegaA(const model::Red& red, float s, Punto p, Llegada& llegada)
 {
-    const auto drena = [&](const auto& coleccion) {
-        for (const auto& otro : coleccion)
-            if (static_cast<const void*>(&otro) != &este && model::DrenaA(otro, cauce)) return true;
-        return false;
-    };
-    return drena(s.Red.ColRepresas) || drena(s.Red.ColLagos);
+    const int n = Bajo<T>(red, s, p);
+    if (n == 0) return false;
+    const T& componente = model::Todos<T>(red).Item(n);
+    llegada = {model::Nombre(componente), Icono(componente), ConIcono<T>.conDestino};
+    return true;
 }
 
-template <typename T, int Limite>
-void AcoplaSiConfirma(Siro& s, const ClaseConIcono<T, Limite>& clase, const Llegada& llegada)
+/// Whether a Represa or a Lago other than this one drains into a reach already.
+template <typename T>
+bool OtroDrena(const model::Red& red, const T& este, const std::string& cauce)
 {
-    T& componente = Elegido(s, clase);
-    const std::string& nombre = componente.*clase.nombre;
+    const auto drena = [&](const auto& otro) {
+        return static_cast<const void*>(&otro) != &este && model::DrenaA(otro, cauce);
+    };
+    return std::ranges::any_of(red.ColRepresas, drena) || std::ranges::any_of(red.ColLagos, drena);
+}
+
+template <typename T>
+void AcoplaSiConfirma(Siro& s, const Llegada& llegada)
+{
+    constexpr const FilaConIcono& clase = ConIcono<T>;
+    T& componente = EnMano<T>(s);
+    const std::string& nombre = model::Nombre(componente);
     const std::string texto =
         Texto(clase.confirmaArrastre, nombre, llegada.clase, llegada.nombre, CierraNombre);
     if (!model::Consulta(s, texto, TituloConsulta)) return;
-    if (!clase.otroAcople.empty() && OtroDrena(s, componente, llegada.nombre)) {
+    if (!clase.otroAcople.empty() && OtroDrena(s.Red, componente, llegada.nombre)) {
         model::Informa(s, Texto(clase.otroAcople, clase.nombraOtroAcople ? nombre : std::string()));
         return;
     }
     Acopla(componente, llegada.nombre, llegada.en);
 }
 
-template <typename T, int Limite>
-void Tiende(frmUEHs& f, Siro& s, const ClaseConIcono<T, Limite>& clase, Punto p)
+template <typename T>
+void Tiende(frmUEHs& f, Siro& s, Punto p)
 {
-    const Punto icono = Icono(clase, Elegido(s, clase));
-    f.banda = {{static_cast<float>(icono.X + InicioBandaX * f.TamIcono),
-                static_cast<float>(icono.Y + InicioBandaY * f.TamIcono)},
-               p};
+    const float t = f.vista.TamIcono;
+    const Punto icono = Icono(EnMano<T>(s));
+    f.gesto.banda = {
+        {static_cast<float>(icono.X + InicioBandaX * t), static_cast<float>(icono.Y + InicioBandaY * t)}, p};
     Redibuja(f, s);
     Llegada llegada;
-    if (!LlegaACauce(f, s, p, llegada) && !(clase.enlazaEmbalses && LlegaAEmbalse(f, s, p, llegada))) return;
-    AcoplaSiConfirma(s, clase, llegada);
+    const bool llega = LlegaACauce(s.Red, t, p, llegada) ||
+                       (ConIcono<T>.enlazaEmbalses && (LlegaA<model::Represa>(s.Red, t, p, llegada) ||
+                                                       LlegaA<model::Lago>(s.Red, t, p, llegada)));
+    if (!llega) return;
+    AcoplaSiConfirma<T>(s, llegada);
     AbandonaArrastre(f, s);
 }
 
@@ -96,9 +94,9 @@ void Tiende(frmUEHs& f, Siro& s, const ClaseConIcono<T, Limite>& clase, Punto p)
 
 void TiendeEnlace(frmUEHs& f, Siro& s, Punto p)
 {
-    const Arrastra enCurso = f.arrastra;
-    PorClase([&](const auto& clase) {
-        if (enCurso == clase.enlaza) Tiende(f, s, clase, p);
+    const Arrastra enCurso = f.gesto.arrastra;
+    PorClase([&]<typename T>() {
+        if (enCurso == ConIcono<T>.enlaza) Tiende<T>(f, s, p);
     });
 }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "editor/Dibujo.h"
 #include "editor/frmUEHs.h"
 
 // Dragging a link from the handle of an icon to where the component shall drain.

@@ -4,9 +4,8 @@
 #include <string_view>
 #include <vector>
 
-#include "editor/Cauces.h"
 #include "editor/Edicion.h"
-#include "editor/Nombres.h"
+#include "editor/NombreComponente.h"
 #include "editor/frmUEHs.h"
 #include "model/Numeros.h"
 
@@ -17,32 +16,32 @@ using model::Siro;
 
 namespace {
 
-constexpr std::int16_t ClicsDeUnTrazo = 20;
+constexpr PeticionDeNombre PideNombreCauce{"Agrega un nuevo Cauce", "Nombre del cauce ?"};
 constexpr std::string_view MarcaDeCauceSinNombre = "borrarCauce";
 
-void EmpiezaTrazo(frmUEHs& f, Siro& s, Punto en)
+/// Puts a reach in hand as the one being drawn.
+void PonTrazo(frmUEHs& f, model::Red& red, const std::vector<Punto>& linea, std::int16_t clics)
 {
-    const int n = NumeroDeCauceNuevo(s);
-    s.Red.NroVertices(n) = 0;
-    AgregaVertice(s, n, en);
-    s.Red.NroCauces = model::Entero16(n);
-    f.ClicsCauce = 1;
+    const int n = NumeroDeCauceNuevo(red);
+    PonLinea(red, n, linea);
+    red.NroCauces = model::Entero16(n);
+    f.trazo.ClicsCauce = clics;
 }
 
 }  // namespace
 
 void ClicCauce(frmUEHs& f, Siro& s, Punto en)
 {
-    if (f.ClicsCauce == 0) {
-        EmpiezaTrazo(f, s, en);
-    } else if (f.ClicsCauce < ClicsDeUnTrazo) {
-        AgregaVertice(s, s.Red.NroCauces, en);
-        ++f.ClicsCauce;
+    if (f.trazo.ClicsCauce == 0) {
+        PonTrazo(f, s.Red, {en}, 1);
+    } else if (f.trazo.ClicsCauce < ClicsDeUnTrazo) {
+        AgregaVertice(s.Red, s.Red.NroCauces, en);
+        ++f.trazo.ClicsCauce;
     } else {
         // The click beyond the last one belongs to the reach that it finishes: kept as it stands.
         TerminaCauce(f, s);
         const int n = s.Red.ColCauces.Cuenta();
-        AgregaVertice(s, n, en);
+        AgregaVertice(s.Red, n, en);
         s.Red.Cauces(n).numVertices = s.Red.NroVertices(n);
     }
     Redibuja(f, s);
@@ -50,33 +49,23 @@ void ClicCauce(frmUEHs& f, Siro& s, Punto en)
 
 void TerminaCauce(frmUEHs& f, Siro& s)
 {
-    f.ClicsCauce = 0;
-    CreaCauce(s);
+    f.trazo.ClicsCauce = 0;
+    CreaCauce(s.Red);
     const int n = s.Red.ColCauces.Cuenta();
     // A reach whose name is cancelled stays, without one; the mark holds the Delete key back from all
     // reaches.
-    const std::optional<std::string> nombre =
-        PideNombre(s, PideNombreCauce, s.Red.ColCauces, &model::Cauce::NombreCauce);
+    const std::optional<std::string> nombre = PideNombre<model::Cauce>(s.Anfitrion, s.Red, PideNombreCauce);
     if (nombre) s.Red.Cauces(n).NombreCauce = *nombre;
-    f.marcaCauce = nombre ? std::string_view{} : MarcaDeCauceSinNombre;
+    f.trazo.marcaCauce = nombre ? std::string_view{} : MarcaDeCauceSinNombre;
     Redibuja(f, s);
 }
 
 void ConservaTrazo(frmUEHs& f, Siro& s, const std::function<void()>& cuerpo)
 {
-    const std::int16_t clics = f.ClicsCauce;
-    std::vector<Punto> trazo;
-    if (clics > 0)
-        for (int j = 1; j <= s.Red.NroVertices(s.Red.NroCauces); ++j)
-            trazo.push_back(Vertice(s, s.Red.NroCauces, j));
+    const std::int16_t clics = f.trazo.ClicsCauce;
+    const std::vector<Punto> linea = clics > 0 ? Linea(s.Red, s.Red.NroCauces) : std::vector<Punto>{};
     cuerpo();
-    if (clics == 0) return;
-    const int n = NumeroDeCauceNuevo(s);
-    s.Red.NroVertices(n) = 0;
-    for (const Punto p : trazo)
-        AgregaVertice(s, n, p);
-    s.Red.NroCauces = model::Entero16(n);
-    f.ClicsCauce = clics;
+    if (clics > 0) PonTrazo(f, s.Red, linea, clics);
 }
 
 }  // namespace editor

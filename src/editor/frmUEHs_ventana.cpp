@@ -165,7 +165,7 @@ frmUEHs_ventana::frmUEHs_ventana(forms::Entorno& alrededor, frmUEHs& reglas, QWi
 {
     setWindowFlag(Qt::Window);
     setWindowTitle(Q(TituloFrmUEHs));
-    f.CargaImagen = [this](const std::string& ruta) { return pintor.CargaFondo(entorno, ruta); };
+    f.fondo.CargaImagen = [this](const std::string& ruta) { return pintor.CargaFondo(entorno, ruta); };
     picDibujo = new Lienzo(f, pintor);
     ScrEscalaHor = new QScrollBar(Qt::Horizontal);
     ScrEscalaVer = new QScrollBar(Qt::Vertical);
@@ -402,7 +402,7 @@ void frmUEHs_ventana::Abre()
         MuestraPrincipal(false);
         const QSize lienzo = picDibujo->size();
         Form_Resize(f, {lienzo.width() + MargenAncho, lienzo.height() + MargenAlto});
-        f.recentra = f.reescala = true;
+        f.vista.recentra = f.vista.reescala = true;
         AlActivarse(f, entorno.s);
         picDibujo->setFocus();
     });
@@ -421,24 +421,24 @@ void frmUEHs_ventana::Muestra()
     forms::MarcaTitulo(*this, f.cambiada);
     for (std::size_t i = 0; i < NroBotones; ++i)
         botones[i]->setChecked(f.botones[i]);
-    nombres->setChecked(f.NombresVisibles);
+    nombres->setChecked(f.vista.NombresVisibles);
     deshace->setEnabled(!f.historia.anteriores.empty());
     rehace->setEnabled(!f.historia.siguientes.empty());
     const auto pon = [](QAbstractSlider& mando, int valor) {
         const QSignalBlocker silencio(mando);
         mando.setValue(valor);
     };
-    pon(*sldEscala, f.sldEscala);
-    pon(*ScrEscalaHor, f.ScrEscalaHor);
-    pon(*ScrEscalaVer, f.ScrEscalaVer);
-    forms::Pon(*lblEscala, std::to_string(f.sldEscala) + " %");
+    pon(*sldEscala, f.vista.sldEscala);
+    pon(*ScrEscalaHor, f.vista.ScrEscalaHor);
+    pon(*ScrEscalaVer, f.vista.ScrEscalaVer);
+    forms::Pon(*lblEscala, std::to_string(f.vista.sldEscala) + " %");
     forms::Pon(*lblX, f.lblX);
     forms::Pon(*lblY, f.lblY);
     forms::Pon(*lblEstado, f.lblEstado);
     lblEstado->setToolTip(Q(f.lblEstado));
-    forms::Pon(*lblLongArea, f.lblLongArea);
+    forms::Pon(*lblLongArea, f.medicion.lblLongArea);
     forms::Pon(*lblIndicacion, f.lblIndicacion);
-    if (const QString leyenda = Q(f.cmdImagenUEHs); cmdImagenUEHs->text() != leyenda)
+    if (const QString leyenda = Q(f.fondo.cmdImagenUEHs); cmdImagenUEHs->text() != leyenda)
         cmdImagenUEHs->setText(leyenda);
     if (picDibujo->cursor().shape() != Forma(f.puntero)) picDibujo->setCursor(Forma(f.puntero));
     picDibujo->update();
@@ -495,7 +495,8 @@ bool frmUEHs_ventana::TeclaDeLienzo(const QKeyEvent& evento)
     }
     const std::optional<Tecla> regla = Busca(TeclasDeLienzo, evento.key());
     // A key that is held moves the cross on, but it clicks once.
-    if (regla && !(f.cruz && evento.isAutoRepeat())) Hace([&] { picDibujo_KeyDown(f, entorno.s, *regla); });
+    if (regla && !(f.gesto.cruz && evento.isAutoRepeat()))
+        Hace([&] { picDibujo_KeyDown(f, entorno.s, *regla); });
     return regla.has_value();
 }
 
@@ -538,7 +539,7 @@ void frmUEHs_ventana::AbreMenu()
         entrada->setObjectName(Q(fila.nombre));
         entrada->setEnabled(fila.habilitada(entorno.s));
     }
-    const Pixel lugar = APixel(f, f.ultimo);
+    const Pixel lugar = APixel(f.vista, f.gesto.ultimo);
     const QPoint dentro = picDibujo->rect().contains(QPoint(int(lugar.x), int(lugar.y)))
                               ? QPoint(int(lugar.x), int(lugar.y))
                               : picDibujo->rect().center();

@@ -6,7 +6,6 @@
 #include <string>
 #include <string_view>
 
-#include "editor/frmUEHs.h"
 #include "model/Avisos.h"
 #include "model/Numeros.h"
 
@@ -30,19 +29,12 @@ constexpr std::string_view TituloAbierta = "Longitud de Poligonal Abierta";
 
 /// Sum over the sides of the figure, each from one point to the next [drawing units, or their square].
 template <typename F>
-double SumaDeLados(const frmUEHs& f, F lado)
+double SumaDeLados(const Medicion& m, F lado)
 {
     double suma = 0;
-    for (std::size_t i = 1; i + 1 <= static_cast<std::size_t>(f.NroPuntosMedida); ++i)
-        suma += lado(Punto{f.XMedida[i], f.YMedida[i]}, Punto{f.XMedida[i + 1], f.YMedida[i + 1]});
+    for (std::size_t i = 1; i + 1 <= static_cast<std::size_t>(m.NroPuntosMedida); ++i)
+        suma += lado(m.En(i), m.En(i + 1));
     return suma;
-}
-
-double Largo(Punto a, Punto b)
-{
-    const double dx = double{1} * b.X - a.X;
-    const double dy = double{1} * b.Y - a.Y;
-    return std::sqrt(dx * dx + dy * dy);
 }
 
 double DobleTrapecio(Punto a, Punto b)
@@ -52,34 +44,34 @@ double DobleTrapecio(Punto a, Punto b)
 
 }  // namespace
 
-void AgregaPuntoMedida(frmUEHs& f, Punto p)
+void AgregaPuntoMedida(Medicion& m, Punto p)
 {
-    f.NroPuntosMedida = model::Suma16(f.NroPuntosMedida, 1);
-    const auto n = static_cast<std::size_t>(f.NroPuntosMedida);
-    f.XMedida.resize(n + 1);
-    f.YMedida.resize(n + 1);
-    f.XMedida[n] = p.X;
-    f.YMedida[n] = p.Y;
+    m.NroPuntosMedida = model::Suma16(m.NroPuntosMedida, 1);
+    const auto n = static_cast<std::size_t>(m.NroPuntosMedida);
+    m.XMedida.resize(n + 1);
+    m.YMedida.resize(n + 1);
+    m.XMedida[n] = p.X;
+    m.YMedida[n] = p.Y;
 }
 
-void CalculaLongArea(frmUEHs& f, Siro& s)
+void CalculaLongArea(Medicion& m, const Siro& s)
 {
-    if (f.NroPuntosMedida < 1) return;
+    if (m.NroPuntosMedida < 1) return;
     const bool cerrada = model::Consulta(s, std::string(PreguntaCierre), TituloCierre);
     if (cerrada) {
-        AgregaPuntoMedida(f, {f.XMedida[1], f.YMedida[1]});
+        AgregaPuntoMedida(m, m.En(1));
         s.Anfitrion.RedibujaEditor();  // the box stands over the closed figure
     }
     const double escala = model::Val(s.Configuracion.EscalaDibujo);  // [m per drawing unit]
-    f.LongitudMedida = Simple(SumaDeLados(f, Largo) * escala);
-    f.AreaMedida = cerrada ? Simple(escala * escala * SumaDeLados(f, DobleTrapecio) / 2 / M2PorHa) : 0;
-    f.NroPuntosMedida = 0;
+    m.LongitudMedida = Simple(SumaDeLados(m, Largo) * escala);
+    m.AreaMedida = cerrada ? Simple(escala * escala * SumaDeLados(m, DobleTrapecio) / 2 / M2PorHa) : 0;
+    m.NroPuntosMedida = 0;
 
     // "Perímetro=" of an open line too: kept as it stands.
-    f.lblLongArea = "Perímetro=" + NumeroATexto(std::floor(double{f.LongitudMedida})) + " metros";
-    if (cerrada) f.lblLongArea += "    -    Area = " + NumeroATexto(f.AreaMedida) + " Has";
+    m.lblLongArea = "Perímetro=" + NumeroATexto(std::floor(double{m.LongitudMedida})) + " metros";
+    if (cerrada) m.lblLongArea += "    -    Area = " + NumeroATexto(m.AreaMedida) + " Has";
     s.Anfitrion.Avisa(
-        {f.lblLongArea, std::string(cerrada ? TituloCerrada : TituloAbierta), model::Icono::Ninguno});
+        {m.lblLongArea, std::string(cerrada ? TituloCerrada : TituloAbierta), model::Icono::Ninguno});
 }
 
 }  // namespace editor

@@ -90,6 +90,18 @@ auto& Todos(auto& red)
     return red.*DeClase<T>::coleccion;
 }
 
+/// Number of the first component of kind T with a name; 0 where none bears it.
+template <typename T>
+int NumeroDe(const auto& red, std::string_view nombre)
+{
+    int n = 0;
+    for (const T& componente : Todos<T>(red)) {
+        ++n;
+        if (Nombre(componente) == nombre) return n;
+    }
+    return 0;
+}
+
 // --- walks ---
 
 /// Hands the collection of each kind to `hace`: UEHs, Cauces, Lagos, Represas.

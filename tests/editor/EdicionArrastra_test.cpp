@@ -81,7 +81,7 @@ TEST_F(EdicionArrastra, UnArrastreEmpiezaALosTresPixeles)
     red.Cauce("c-a", {{100, 100}, {200, 200}, {300, 100}});
     red.UEH("u-a", {400, 100});
     Parte();
-    f.lienzo = {1600, 1600};  // a unit is two pixels
+    f.vista.lienzo = {1600, 1600};  // a unit is two pixels
     Clic(200, 200);
     Arrastra({{200, 200}, {201, 201}});  // 2.8 pixels
     EXPECT_EQ(Vertice(1, 2), (Punto{200, 200}));

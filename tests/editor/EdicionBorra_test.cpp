@@ -136,7 +136,7 @@ TEST_F(EdicionBorra, BorrarUnCauceConservaElTrazoSinTerminar)
     Clic(6, 6);
     BorraCauce(2);
     EXPECT_EQ(s.Red.ColCauces.Cuenta(), 2);
-    EXPECT_EQ(f.ClicsCauce, 2);
+    EXPECT_EQ(f.trazo.ClicsCauce, 2);
     EXPECT_EQ(s.Red.NroCauces, 3);
     EXPECT_EQ(Vertice(3, 2), (editor::Punto{6, 6}));
     EXPECT_EQ(Faltas(), std::vector<std::string>{});
@@ -364,7 +364,7 @@ TEST_F(EdicionBorra, BorrarTodoDejaCaerElTrazo)
     Clic(5, 5);
     Responde({true});
     PonModo(Boton::BorraTodo);
-    EXPECT_EQ(f.ClicsCauce, 0);
+    EXPECT_EQ(f.trazo.ClicsCauce, 0);
     EXPECT_EQ(s.Red.NroCauces, 0);
     EXPECT_EQ(Faltas(), std::vector<std::string>{});
 

@@ -291,7 +291,8 @@ TEST_F(EdicionColoca, ElLago71NoEntra)
     for (int i = 1; i <= 70; ++i)
         red.Lago("l-" + std::to_string(i), {static_cast<float>(10 * i), 5});
     Parte();
-    EXPECT_EQ(apoyo::NumeroDeFalla([&] { editor::ColocaLago(f, s, {3, 3}); }), 9);
+    PonModo(Boton::LAGO);
+    EXPECT_EQ(apoyo::NumeroDeFalla([&] { editor::Coloca(f, s, {3, 3}); }), 9);
     EXPECT_EQ(s.Red.ColLagos.Cuenta(), 70);
     EXPECT_EQ(s.Red.NroLagos, 70);
 }

@@ -51,23 +51,23 @@ TEST_F(EdicionSelecciona, LaToleranciaEsElDosPorCientoDelAnchoTruncado)
 {
     red.Cauce("c-a", {{100, 100}, {300, 100}});
     Parte();
-    f.sldEscala = 99;  // 792 wide: 15.84
+    f.vista.sldEscala = 99;  // 792 wide: 15.84
     Clic(107.5F, 100);
-    EXPECT_EQ(f.ToleranciaVertice, 15);
+    EXPECT_EQ(f.vista.ToleranciaVertice, 15);
     EXPECT_EQ(s.Seleccion.CauceSel, 1);
     EXPECT_EQ(Desde0(107.51F, 100), Nada);
-    f.sldEscala = 200;
+    f.vista.sldEscala = 200;
     EXPECT_EQ(Desde0(116, 100), (EdicionSelecciona::Seis{1, 0, 0, 0, 0, 0}));
-    EXPECT_EQ(f.ToleranciaVertice, 32);
+    EXPECT_EQ(f.vista.ToleranciaVertice, 32);
 }
 
 TEST_F(EdicionSelecciona, UnaToleranciaNulaAunTomaElVerticeExacto)
 {
     red.Cauce("c-a", {{10, 10}, {20, 10}});
     Parte();
-    f.sldEscala = 1;  // 8 wide: 0.16
+    f.vista.sldEscala = 1;  // 8 wide: 0.16
     EXPECT_EQ(Desde0(20, 10), (EdicionSelecciona::Seis{1, 0, 0, 0, 0, 0}));
-    EXPECT_EQ(f.ToleranciaVertice, 0);
+    EXPECT_EQ(f.vista.ToleranciaVertice, 0);
     EXPECT_EQ(Desde0(20, 10.001F), Nada);
 }
 
@@ -89,7 +89,7 @@ TEST_F(EdicionSelecciona, ElSegundoClicEnElCauceTomaSuVertice)
     EXPECT_EQ(Elegidos(), (Seis{1, 0, 0, 0, 0, 0}));
     Clic(216, 184);  // the whole tolerance
     EXPECT_EQ(Elegidos(), (Seis{1, 1, 0, 0, 0, 2}));
-    EXPECT_EQ(f.arrastra, QueArrastra::Nada);  // released
+    EXPECT_EQ(f.gesto.arrastra, QueArrastra::Nada);  // released
     EXPECT_EQ(Vertice(1, 2), (Punto{200, 200}));
     Clic(216.01F, 184);
     EXPECT_EQ(Elegidos(), Nada);
@@ -284,7 +284,7 @@ TEST_F(EdicionSelecciona, ApretarElAsaArmaElEnlaceYConservaLaSeleccion)
         editor::LimpiaSeleccion(s);
         Clic(x, y);
         Aprieta(xAsa, yAsa);
-        const QueArrastra arrastra = f.arrastra;
+        const QueArrastra arrastra = f.gesto.arrastra;
         Suelta(xAsa, yAsa);
         return arrastra;
     };
@@ -305,7 +305,7 @@ TEST_F(EdicionSelecciona, ElAsaDeLaUEHVaAntesQueMoverla)
     Parte();
     Clic(105, 105);
     Aprieta(110, 116);  // within 1.7 s of the icon and within 2 s of the handle
-    EXPECT_EQ(f.arrastra, QueArrastra::EnlaceUEH);
+    EXPECT_EQ(f.gesto.arrastra, QueArrastra::EnlaceUEH);
 }
 
 TEST_F(EdicionSelecciona, OtraUEHBajoElAsaSeEligeYNoHeredaElEnlace)
@@ -316,7 +316,7 @@ TEST_F(EdicionSelecciona, OtraUEHBajoElAsaSeEligeYNoHeredaElEnlace)
     Clic(105, 105);
     Aprieta(100, 135);
     EXPECT_EQ(s.Seleccion.UEHSel, 2);
-    EXPECT_EQ(f.arrastra, QueArrastra::IconoUEH);
+    EXPECT_EQ(f.gesto.arrastra, QueArrastra::IconoUEH);
 }
 
 TEST_F(EdicionSelecciona, ElTrazoSinTerminarNoSeElige)
@@ -328,7 +328,7 @@ TEST_F(EdicionSelecciona, ElTrazoSinTerminarNoSeElige)
     Clic(600, 600);
     PonModo(Boton::Selecciona);
     EXPECT_EQ(Desde0(500, 500), Nada);
-    EXPECT_EQ(f.ClicsCauce, 2);
+    EXPECT_EQ(f.trazo.ClicsCauce, 2);
 }
 
 TEST_F(EdicionSelecciona, UnCauceYSuVerticeConUnaUEHEncimaEligeLosDos)

@@ -34,7 +34,7 @@ TEST_F(EdicionTraza, ElPrimerClicEmpiezaUnCauceConUnVertice)
 {
     PonModo(Boton::Cauce);
     Clic(100, 200);
-    EXPECT_EQ(f.ClicsCauce, 1);
+    EXPECT_EQ(f.trazo.ClicsCauce, 1);
     EXPECT_EQ(s.Red.NroCauces, 1);
     EXPECT_EQ(s.Red.NroVertices(1), 1);
     EXPECT_EQ(Vertice(1, 1), (Punto{100, 200}));
@@ -48,7 +48,7 @@ TEST_F(EdicionTraza, CadaClicAgregaUnVerticeYSeDibuja)
 {
     PonModo(Boton::Cauce);
     Traza(3, 50);
-    EXPECT_EQ(f.ClicsCauce, 3);
+    EXPECT_EQ(f.trazo.ClicsCauce, 3);
     EXPECT_EQ(s.Red.NroVertices(1), 3);
     ASSERT_EQ(Con(editor::Papel::Cauce).size(), 1U);
     EXPECT_EQ(PuntosDe(Con(editor::Papel::Cauce)[0]), (std::vector<Punto>{{10, 50}, {20, 50}, {30, 50}}));
@@ -61,7 +61,7 @@ TEST_F(EdicionTraza, EnterLoTerminaConSusValores)
     Escribe({"Hondo"});
     Tecla(editor::Tecla::Enter);
 
-    EXPECT_EQ(f.ClicsCauce, 0);
+    EXPECT_EQ(f.trazo.ClicsCauce, 0);
     ASSERT_EQ(s.Red.ColCauces.Cuenta(), 1);
     model::Cauce esperado;
     esperado.numCauce = 1;
@@ -100,7 +100,7 @@ TEST_F(EdicionTraza, EnterConUnSoloClicNoTermina)
     PonModo(Boton::Cauce);
     Clic(10, 10);
     Tecla(editor::Tecla::Enter);
-    EXPECT_EQ(f.ClicsCauce, 1);
+    EXPECT_EQ(f.trazo.ClicsCauce, 1);
     EXPECT_EQ(s.Red.ColCauces.Cuenta(), 0);
 }
 
@@ -119,7 +119,7 @@ TEST_F(EdicionTraza, VeinteClicsNoLoTerminan)
 {
     PonModo(Boton::Cauce);
     Traza(20, 50);
-    EXPECT_EQ(f.ClicsCauce, 20);
+    EXPECT_EQ(f.trazo.ClicsCauce, 20);
     EXPECT_EQ(s.Red.NroVertices(1), 20);
     EXPECT_EQ(s.Red.ColCauces.Cuenta(), 0);
 }
@@ -129,7 +129,7 @@ TEST_F(EdicionTraza, ElClic21LoTerminaYEsSuVertice21)
     PonModo(Boton::Cauce);
     Escribe({"largo"});
     Traza(21, 50);
-    EXPECT_EQ(f.ClicsCauce, 0);
+    EXPECT_EQ(f.trazo.ClicsCauce, 0);
     ASSERT_EQ(s.Red.ColCauces.Cuenta(), 1);
     EXPECT_EQ(s.Red.Cauces(1).NombreCauce, "c-largo");
     EXPECT_EQ(s.Red.Cauces(1).numVertices, 21);
@@ -146,7 +146,7 @@ TEST_F(EdicionTraza, ElClic22EmpiezaOtroCauce)
     Escribe({"largo", "otro"});
     Traza(21, 50);
     Clic(10, 400);
-    EXPECT_EQ(f.ClicsCauce, 1);
+    EXPECT_EQ(f.trazo.ClicsCauce, 1);
     EXPECT_EQ(s.Red.NroCauces, 2);
     EXPECT_EQ(Vertice(2, 1), (Punto{10, 400}));
     Clic(20, 400);
@@ -178,7 +178,7 @@ TEST_F(EdicionTraza, CancelarElNombreDejaElCauceSinNombreYNoGuarda)
     EXPECT_EQ(s.Red.Cauces(1).Cauce_aa, "0");
     EXPECT_TRUE(s.Red.Cauces(1).optDirMusk);
     EXPECT_EQ(s.Red.Cauces(1).numVertices, 4);
-    EXPECT_EQ(f.marcaCauce, "borrarCauce");
+    EXPECT_EQ(f.trazo.marcaCauce, "borrarCauce");
     EXPECT_TRUE(Avisos().empty());
     EXPECT_FALSE(disco.Esta("/proy/Arroyo_UEHs.vlm"));
 }
@@ -202,7 +202,7 @@ TEST_F(EdicionTraza, LaMarcaImpideBorrarCualquierCauceHastaQueSeNombraOtro)
     PonModo(Boton::Cauce);
     Traza(2, 150);
     Tecla(editor::Tecla::Enter);
-    EXPECT_EQ(f.marcaCauce, "");
+    EXPECT_EQ(f.trazo.marcaCauce, "");
     PonModo(Boton::Selecciona);
     Clic(600, 600);
     Tecla(editor::Tecla::Suprimir);
@@ -235,7 +235,7 @@ TEST_F(EdicionTraza, ElCauce71FallaAlPrimerClic)
     PonModo(Boton::Cauce);
     Clic(3, 3);
     EXPECT_EQ(s.Red.NroCauces, 70);
-    EXPECT_EQ(f.ClicsCauce, 0);
+    EXPECT_EQ(f.trazo.ClicsCauce, 0);
     EXPECT_EQ(Avisos(),
               (Cajas{{"Error Nro. 9 ,El subíndice está fuera del intervaloVerifique", "", Icono::Ninguno}}));
     EXPECT_EQ(Faltas(), std::vector<std::string>{});
@@ -364,7 +364,7 @@ TEST_F(EdicionDivide, DejaCaerElTrazoQueSeDibujaba)
     Clic(10, 10);
     Clic(20, 20);
     Divide(2, 2);
-    EXPECT_EQ(f.ClicsCauce, 0);
+    EXPECT_EQ(f.trazo.ClicsCauce, 0);
     EXPECT_EQ(s.Red.ColCauces.Cuenta(), 4);
     EXPECT_EQ(Vertice(4, 1), (Punto{500, 600}));
     EXPECT_EQ(Faltas(), std::vector<std::string>{});
@@ -372,9 +372,9 @@ TEST_F(EdicionDivide, DejaCaerElTrazoQueSeDibujaba)
 
 TEST_F(EdicionDivide, NombrarLasPartesQuitaLaMarcaDelCancelado)
 {
-    f.marcaCauce = "borrarCauce";
+    f.trazo.marcaCauce = "borrarCauce";
     Divide(2, 2);
-    EXPECT_EQ(f.marcaCauce, "");
+    EXPECT_EQ(f.trazo.marcaCauce, "");
 }
 
 TEST_F(EdicionDivide, Con70CaucesEsUnaFallaYNadaCambia)

@@ -114,7 +114,7 @@ inline std::vector<std::string> VerificaRed(const editor::frmUEHs& f, const mode
     exige(s.Red.NroUEHs == s.Red.ColUEHs.Cuenta(), "NroUEHs");
     exige(s.Red.NroLagos == s.Red.ColLagos.Cuenta(), "NroLagos");
     exige(s.Red.NroRepresas == s.Red.ColRepresas.Cuenta(), "NroRepresas");
-    exige(s.Red.NroCauces == s.Red.ColCauces.Cuenta() + (f.ClicsCauce > 0 ? 1 : 0), "NroCauces");
+    exige(s.Red.NroCauces == s.Red.ColCauces.Cuenta() + (f.trazo.ClicsCauce > 0 ? 1 : 0), "NroCauces");
     exige(s.Red.ColUEHs.Cuenta() <= model::MaxUEHs && s.Red.ColCauces.Cuenta() <= model::MaxCauces &&
               s.Red.ColLagos.Cuenta() <= model::MaxLagos && s.Red.ColRepresas.Cuenta() <= model::MaxRepresas,
           "limits");
@@ -211,13 +211,13 @@ struct EditorDePrueba : ::testing::Test {
     void Abre()
     {
         editor::Abre(f, s, {1000, 1000});
-        f.lienzo = {800, 800};
+        f.vista.lienzo = {800, 800};
     }
     /// Takes what the test has put in memory for the network that the editor starts from.
     void Parte()
     {
         editor::Redibuja(f, s);
-        editor::EmpiezaHistoria(f, s);
+        editor::EmpiezaHistoria(f.historia, s.Proyecto.NombreProyecto, s.Red, f.trazo);
     }
     /// Takes it for the saved one too.
     void Guarda()

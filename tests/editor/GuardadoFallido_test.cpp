@@ -86,7 +86,7 @@ TEST_F(GuardadoFallido, ElTrazoSinTerminarSigueEnLaMano)
     Clic(710, 690);
     Niega();
     PonModo(Boton::GuardaUEHs);
-    EXPECT_EQ(f.ClicsCauce, 2);
+    EXPECT_EQ(f.trazo.ClicsCauce, 2);
     EXPECT_EQ(s.Red.NroCauces, 3);
     EXPECT_EQ(Vertice(3, 2), (editor::Punto{710, 690}));
     EXPECT_EQ(Faltas(), Nombres{});
@@ -203,7 +203,7 @@ TEST_F(GuardadoFallido, UnaRedQueNoSePudoLeerNoSeBorraAlGuardarDosVeces)
     disco.FallaDesde(1, NumeroFalla::AccesoRuta);
     model::LeeUEHs(s);
     disco.DejaDeFallar();
-    ASSERT_TRUE(editor::RedVacia(s));
+    ASSERT_TRUE(editor::RedVacia(s.Red));
     for (int i = 0; i < 2; ++i)
         editor::ToolbarUEHs_ButtonClick(f, s, Boton::GuardaUEHs);
     EXPECT_EQ(Archivos(), viejo);

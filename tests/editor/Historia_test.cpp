@@ -165,11 +165,11 @@ TEST_F(HistoriaDelEditor, OtroProyectoEmpiezaOtraHistoria)
 
 TEST_F(HistoriaDelEditor, DuranteUnArrastreNoSeAnota)
 {
-    f.izquierdoAbajo = true;
+    f.gesto.izquierdoAbajo = true;
     Edita([&] { s.Red.ColUEHs.Item(1).IconoUEHx = 1; });
     Edita([&] { s.Red.ColUEHs.Item(1).IconoUEHx = 2; });
     EXPECT_TRUE(f.historia.anteriores.empty());
-    f.izquierdoAbajo = false;
+    f.gesto.izquierdoAbajo = false;
     Edita([] {});
     EXPECT_EQ(f.historia.anteriores.size(), 1U);
     Tecla(T::Deshacer);
@@ -178,10 +178,10 @@ TEST_F(HistoriaDelEditor, DuranteUnArrastreNoSeAnota)
 
 TEST_F(HistoriaDelEditor, UnaOrdenEnMedioDeUnArrastreLoTermina)
 {
-    f.izquierdoAbajo = true;
+    f.gesto.izquierdoAbajo = true;
     Edita([&] { s.Red.ColUEHs.Item(1).IconoUEHx = 2; });
     Tecla(T::Deshacer);
-    EXPECT_FALSE(f.izquierdoAbajo);
+    EXPECT_FALSE(f.gesto.izquierdoAbajo);
     EXPECT_EQ(s.Red.ColUEHs.Item(1).IconoUEHx, 250);
     Tecla(T::Rehacer);
     EXPECT_EQ(s.Red.ColUEHs.Item(1).IconoUEHx, 2);
@@ -205,7 +205,7 @@ struct TrazoEnHistoria : HistoriaDelEditor {
     void ClicDeTrazo(Punto p)
     {
         Edita([&] {
-            if (f.ClicsCauce++ == 0) {
+            if (f.trazo.ClicsCauce++ == 0) {
                 ++s.Red.NroCauces;
                 s.Red.NroVertices(s.Red.NroCauces) = 0;
             }
@@ -218,7 +218,7 @@ struct TrazoEnHistoria : HistoriaDelEditor {
     void Termina()
     {
         Edita([&] {
-            f.ClicsCauce = 0;
+            f.trazo.ClicsCauce = 0;
             s.Red.ColCauces.Agrega({.numCauce = s.Red.NroCauces,
                                     .numVertices = s.Red.NroVertices(s.Red.NroCauces),
                                     .NombreCauce = "c-nuevo",
@@ -234,15 +234,15 @@ TEST_F(TrazoEnHistoria, MientrasSeDibujaDeshacerQuitaUnVertice)
     ClicDeTrazo({2, 2});
     ClicDeTrazo({3, 3});
     Tecla(T::Deshacer);
-    EXPECT_EQ(f.ClicsCauce, 2);
+    EXPECT_EQ(f.trazo.ClicsCauce, 2);
     EXPECT_EQ(s.Red.NroVertices(2), 2);
     Tecla(T::Deshacer);
     Tecla(T::Deshacer);
-    EXPECT_EQ(f.ClicsCauce, 0);
+    EXPECT_EQ(f.trazo.ClicsCauce, 0);
     EXPECT_EQ(s.Red.NroCauces, 1);
     EXPECT_EQ(Faltas(), std::vector<std::string>{});
     Tecla(T::Rehacer);
-    EXPECT_EQ(f.ClicsCauce, 1);
+    EXPECT_EQ(f.trazo.ClicsCauce, 1);
     EXPECT_EQ(Vertice(2, 1), (Punto{1, 1}));
 }
 
@@ -255,7 +255,7 @@ TEST_F(TrazoEnHistoria, TerminadoElCauceEsUnSoloPaso)
     EXPECT_EQ(f.historia.anteriores.size(), 1U);
     Tecla(T::Deshacer);
     EXPECT_EQ(s.Red.NroCauces, 1);
-    EXPECT_EQ(f.ClicsCauce, 0);
+    EXPECT_EQ(f.trazo.ClicsCauce, 0);
     Tecla(T::Rehacer);
     EXPECT_EQ(s.Red.ColCauces.Cuenta(), 2);
     EXPECT_EQ(Vertice(2, 3), (Punto{3, 3}));
@@ -270,22 +270,46 @@ TEST_F(TrazoEnHistoria, LoColocadoEntreDosClicsSigueSiendoUnPasoPropio)
     Termina();
     Tecla(T::Deshacer);  // back before the third click
     EXPECT_EQ(s.Red.ColCauces.Cuenta(), 1);
-    EXPECT_EQ(f.ClicsCauce, 2);
+    EXPECT_EQ(f.trazo.ClicsCauce, 2);
     EXPECT_EQ(s.Red.NroUEHs, 2);
     Tecla(T::Deshacer);
     EXPECT_EQ(s.Red.NroUEHs, 1);
-    EXPECT_EQ(f.ClicsCauce, 2);
+    EXPECT_EQ(f.trazo.ClicsCauce, 2);
 }
 
-TEST_F(HistoriaDelEditor, LasPartesQueNoCambianSeComparten)
+/// Bytes of what a step keeps, vertices included.
+std::size_t Peso(const editor::RedGuardada& red)
 {
-    for (int i = 1; i <= 50; ++i)
-        Edita([&] { s.Red.ColUEHs.Item(1).Area = static_cast<float>(i); });
-    ASSERT_EQ(f.historia.anteriores.size(), 50U);
-    for (const auto& guardada : f.historia.anteriores) {
-        EXPECT_EQ(guardada.vertices, f.historia.presente.vertices);
-        EXPECT_EQ(guardada.Cauces, f.historia.presente.Cauces);
-    }
+    std::size_t bytes = sizeof red;
+    const auto suma = [&](const auto& coleccion) {
+        for (const auto& componente : coleccion)
+            bytes += sizeof componente;
+    };
+    suma(red.ColUEHs);
+    suma(red.ColCauces);
+    suma(red.ColLagos);
+    suma(red.ColRepresas);
+    for (const auto& linea : red.lineas)
+        bytes += sizeof linea + linea.capacity() * sizeof(Punto);
+    return bytes;
+}
+
+// 230 components and 70 reaches of 21 vertices: a thousand steps of the largest network take 100 MB at most.
+TEST_F(HistoriaDelEditor, UnPasoDeLaRedMasGrandePesaPoco)
+{
+    for (int i = s.Red.NroUEHs; i < model::MaxUEHs; ++i)
+        red.UEH("u", {1, 1});
+    for (int i = s.Red.NroCauces; i < model::MaxCauces; ++i)
+        red.Cauce("c", std::vector<Punto>(21, {1, 1}));
+    for (int i = 0; i < model::MaxLagos; ++i)
+        red.Lago("l", {1, 1});
+    for (int i = 0; i < model::MaxRepresas; ++i)
+        red.Represa("r", {1, 1});
+    Parte();
+    Edita([&] { s.Red.ColUEHs.Item(1).Area = 1; });
+    ASSERT_EQ(f.historia.anteriores.size(), 1U);
+    EXPECT_GT(Peso(f.historia.anteriores[0]), 230 * sizeof(model::Cauce));
+    EXPECT_LT(Peso(f.historia.anteriores[0]), 100'000U);
 }
 
 // --- with the user's own commands ---

@@ -160,13 +160,13 @@ TEST_F(Menu, CentrarYZoomAllLimpianLaSeleccion)
     Elige(1, 1, 1, 1);
     editor::mnu_DibujoSec_Click(f, s, "mnu_CentrarDibujo");
     EXPECT_EQ(s.Seleccion.CauceSel + s.Seleccion.UEHSel + s.Seleccion.RepresaSel + s.Seleccion.LagoSel, 0);
-    EXPECT_EQ(f.sldEscala, 100);
-    EXPECT_EQ(f.origen, (Punto{-140, -175}));  // 100..420 and 150..300 in 800
+    EXPECT_EQ(f.vista.sldEscala, 100);
+    EXPECT_EQ(f.vista.origen, (Punto{-140, -175}));  // 100..420 and 150..300 in 800
     Elige(1, 1, 1, 1);
     editor::mnu_DibujoSec_Click(f, s, "mnu_ZoomAll");
     EXPECT_EQ(s.Seleccion.CauceSel + s.Seleccion.UEHSel + s.Seleccion.RepresaSel + s.Seleccion.LagoSel, 0);
-    EXPECT_EQ(f.sldEscala, 44);  // 320 * 1.1 / 800
-    EXPECT_EQ(f.origen, (Punto{84, 49}));
+    EXPECT_EQ(f.vista.sldEscala, 44);  // 320 * 1.1 / 800
+    EXPECT_EQ(f.vista.origen, (Punto{84, 49}));
 }
 
 TEST_F(Menu, LasEntradasDePropiedadesPidenSuForma)

@@ -47,22 +47,20 @@ struct Renombre : RedDeFichas {
 
 TEST_F(Renombre, VaPorTodosLosDestinosQueTenianElNombre)
 {
-    RenombraDestinos(s, "c-1", "c-x", {});
+    RenombraDestinos(s.Red, "c-1", "c-x", {});
     EXPECT_EQ(Destinos(), (Textos{"c-x", "", "", "0", "c-x", "0", "c-x", "", "c-x", ""}));
 }
 
-TEST_F(Renombre, LosDeUEHsOCaucesQuedanSiNoSiguen)
+TEST_F(Renombre, LosDeUEHsQuedanSiNoSiguen)
 {
-    RenombraDestinos(s, "c-1", "c-x", {.UEHs = false});
+    RenombraDestinos(s.Red, "c-1", "c-x", {.UEHs = false});
     EXPECT_EQ(Destinos(), (Textos{"c-1", "", "", "0", "c-x", "0", "c-x", "", "c-x", ""}));
-    RenombraDestinos(s, "c-x", "c-y", {.Cauces = false});
-    EXPECT_EQ(Destinos(), (Textos{"c-1", "", "", "0", "c-x", "0", "c-y", "", "c-y", ""}));
 }
 
 TEST_F(Renombre, UnCauceExceptuadoQueda)
 {
     s.Red.Cauces(3).Cauce_aa = "c-1";
-    RenombraDestinos(s, "c-1", "c-x", {.salvoCauce = 3});
+    RenombraDestinos(s.Red, "c-1", "c-x", {.salvoCauce = 3});
     EXPECT_EQ(s.Red.Cauces(2).Cauce_aa, "c-x");
     EXPECT_EQ(s.Red.Cauces(3).Cauce_aa, "c-1");
 }
@@ -70,15 +68,15 @@ TEST_F(Renombre, UnCauceExceptuadoQueda)
 TEST_F(Renombre, ElNombreVacioYElCeroNoLosTieneNadie)
 {
     const Textos antes = Destinos();
-    RenombraDestinos(s, "", "c-x", {});
-    RenombraDestinos(s, "0", "c-x", {});
+    RenombraDestinos(s.Red, "", "c-x", {});
+    RenombraDestinos(s.Red, "0", "c-x", {});
     EXPECT_EQ(Destinos(), antes);
 }
 
 TEST_F(Renombre, SoloElNombreEntero)
 {
     s.Red.UEHs(2).Cauce_aa = "c-11";
-    RenombraDestinos(s, "c-1", "c-x", {});
+    RenombraDestinos(s.Red, "c-1", "c-x", {});
     EXPECT_EQ(s.Red.UEHs(2).Cauce_aa, "c-11");
 }
 

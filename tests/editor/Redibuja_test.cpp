@@ -89,91 +89,91 @@ TEST_F(Redibuja, LaExtensionAbarcaVerticesEIconosDeLasTresClases)
 {
     red.Cauce("c-1", {{100, 110}, {200, 50}});
     Dibuja();
-    EXPECT_EQ(f.extension, (Extension{.XMax = 200, .XMin = 100, .YMax = 110, .YMin = 50}));
+    EXPECT_EQ(f.vista.extension, (Extension{.XMax = 200, .XMin = 100, .YMax = 110, .YMin = 50}));
     red.UEH("u-1", {-5, 60});
     Dibuja();
-    EXPECT_EQ(f.extension, (Extension{.XMax = 200, .XMin = -5, .YMax = 110, .YMin = 50}));
+    EXPECT_EQ(f.vista.extension, (Extension{.XMax = 200, .XMin = -5, .YMax = 110, .YMin = 50}));
     red.Represa("r-1", {120, 900});
     Dibuja();
-    EXPECT_EQ(f.extension, (Extension{.XMax = 200, .XMin = -5, .YMax = 900, .YMin = 50}));
+    EXPECT_EQ(f.vista.extension, (Extension{.XMax = 200, .XMin = -5, .YMax = 900, .YMin = 50}));
     red.Lago("l-1", {700, -30});
     Dibuja();
-    EXPECT_EQ(f.extension, (Extension{.XMax = 700, .XMin = -5, .YMax = 900, .YMin = -30}));
+    EXPECT_EQ(f.vista.extension, (Extension{.XMax = 700, .XMin = -5, .YMax = 900, .YMin = -30}));
 }
 
 TEST_F(Redibuja, SinNadaLaExtensionQuedaAlReves)
 {
     Dibuja();
-    EXPECT_EQ(f.extension, (Extension{.XMax = -99999, .XMin = 99999, .YMax = -99999, .YMin = 99999}));
-    EXPECT_EQ(f.origen, (Punto{0, 0}));
+    EXPECT_EQ(f.vista.extension, (Extension{.XMax = -99999, .XMin = 99999, .YMax = -99999, .YMin = 99999}));
+    EXPECT_EQ(f.vista.origen, (Punto{0, 0}));
 }
 
 TEST_F(Redibuja, ReescalaConUnDecimoDeHolguraYTrunca)
 {
     red.Cauce("c-1", {{0, 0}, {1003, 100}});  // 1003 * 1.1 / 800 * 100 = 137.9
-    f.reescala = true;
+    f.vista.reescala = true;
     Dibuja();
-    EXPECT_EQ(f.sldEscala, 137);
-    EXPECT_FALSE(f.reescala);
-    EXPECT_EQ(editor::AnchoLogico(f), 1096);  // 137 * 800 / 100
+    EXPECT_EQ(f.vista.sldEscala, 137);
+    EXPECT_FALSE(f.vista.reescala);
+    EXPECT_EQ(editor::AnchoLogico(f.vista), 1096);  // 137 * 800 / 100
 }
 
 TEST_F(Redibuja, ReescalaPorElAltoCuandoExcedeAlAncho)
 {
     red.Cauce("c-1", {{0, 0}, {100, 400}});  // 400 * 1.1 / 800 * 100 = 55
-    f.reescala = true;
+    f.vista.reescala = true;
     Dibuja();
-    EXPECT_EQ(f.sldEscala, 55);
+    EXPECT_EQ(f.vista.sldEscala, 55);
 }
 
 TEST_F(Redibuja, SinBanderaNoReescala)
 {
     red.Cauce("c-1", {{0, 0}, {100, 400}});
     Dibuja();
-    EXPECT_EQ(f.sldEscala, 100);
+    EXPECT_EQ(f.vista.sldEscala, 100);
 }
 
 TEST_F(Redibuja, LaEscalaSeQuedaEntre1Y1000)
 {
     red.Cauce("c-1", {{0, 0}, {1, 1}});  // 0.1375
-    f.reescala = true;
+    f.vista.reescala = true;
     Dibuja();
-    EXPECT_EQ(f.sldEscala, 1);
+    EXPECT_EQ(f.vista.sldEscala, 1);
     s.Red.XVertice(1, 2) = 90000;
-    f.reescala = true;
+    f.vista.reescala = true;
     Dibuja();
-    EXPECT_EQ(f.sldEscala, 1000);
+    EXPECT_EQ(f.vista.sldEscala, 1000);
 }
 
 TEST_F(Redibuja, SinCaucesLaEscalaVuelveA100)
 {
     red.UEH("u-1", {0, 0});
     red.UEH("u-2", {4000, 0});
-    f.sldEscala = 250;
-    f.reescala = true;
+    f.vista.sldEscala = 250;
+    f.vista.reescala = true;
     Dibuja();
-    EXPECT_EQ(f.sldEscala, 100);
+    EXPECT_EQ(f.vista.sldEscala, 100);
 }
 
 TEST_F(Redibuja, RecentraLaExtensionUnaSolaVez)
 {
     red.Cauce("c-1", {{100, 50}, {300, 150}});
-    f.recentra = true;
+    f.vista.recentra = true;
     Dibuja();
-    EXPECT_EQ(f.origen, (Punto{-200, -300}));  // 100 - (800 - 200)/2, 50 - (800 - 100)/2
-    EXPECT_FALSE(f.recentra);
+    EXPECT_EQ(f.vista.origen, (Punto{-200, -300}));  // 100 - (800 - 200)/2, 50 - (800 - 100)/2
+    EXPECT_FALSE(f.vista.recentra);
     s.Red.XVertice(1, 2) = 700;
     Dibuja();
-    EXPECT_EQ(f.origen, (Punto{-200, -300}));
+    EXPECT_EQ(f.vista.origen, (Punto{-200, -300}));
 }
 
 TEST_F(Redibuja, MoverElDeslizadorRecentraSinReescalar)
 {
     red.Cauce("c-1", {{100, 50}, {300, 150}});
-    f.reescala = true;
+    f.vista.reescala = true;
     editor::sldEscala_Mueve(f, s, 50);
-    EXPECT_EQ(f.sldEscala, 50);
-    EXPECT_EQ(f.origen, (Punto{0, -100}));  // 100 - (400 - 200)/2, 50 - (400 - 100)/2
+    EXPECT_EQ(f.vista.sldEscala, 50);
+    EXPECT_EQ(f.vista.origen, (Punto{0, -100}));  // 100 - (400 - 200)/2, 50 - (400 - 100)/2
 }
 
 TEST_F(Redibuja, ElDeslizadorVaDe1A1000)
@@ -185,7 +185,7 @@ TEST_F(Redibuja, ElDeslizadorVaDe1A1000)
     for (const auto [pedido, queda] :
          std::vector<Fila>{{0, 1}, {-7, 1}, {1, 1}, {2, 2}, {999, 999}, {1000, 1000}, {1001, 1000}}) {
         editor::sldEscala_Mueve(f, s, pedido);
-        EXPECT_EQ(f.sldEscala, queda) << pedido;
+        EXPECT_EQ(f.vista.sldEscala, queda) << pedido;
     }
 }
 
@@ -193,34 +193,34 @@ TEST_F(Redibuja, LasBarrasMuevenElOrigenSinRecentrarNiReescalar)
 {
     red.Cauce("c-1", {{100, 50}, {300, 150}});
     editor::ScrEscalaHor_Mueve(f, s, 10);
-    EXPECT_EQ(f.origen, (Punto{80, 0}));  // a tenth of 800
+    EXPECT_EQ(f.vista.origen, (Punto{80, 0}));  // a tenth of 800
     editor::ScrEscalaVer_Mueve(f, s, -25);
-    EXPECT_EQ(f.origen, (Punto{80, -200}));
+    EXPECT_EQ(f.vista.origen, (Punto{80, -200}));
     editor::ScrEscalaHor_Mueve(f, s, 5);
-    EXPECT_EQ(f.origen, (Punto{40, -200}));
-    EXPECT_EQ(f.sldEscala, 100);
+    EXPECT_EQ(f.vista.origen, (Punto{40, -200}));
+    EXPECT_EQ(f.vista.sldEscala, 100);
     editor::ScrEscalaHor_Mueve(f, s, 500);
-    EXPECT_EQ(f.ScrEscalaHor, 100);
-    EXPECT_EQ(f.origen, (Punto{800, -200}));
+    EXPECT_EQ(f.vista.ScrEscalaHor, 100);
+    EXPECT_EQ(f.vista.origen, (Punto{800, -200}));
 }
 
 TEST_F(Redibuja, UnMovimientoDeBarraVaAntesQueElRecentrado)
 {
     red.Cauce("c-1", {{100, 50}, {300, 150}});
-    f.recentra = true;
+    f.vista.recentra = true;
     editor::ScrEscalaHor_Mueve(f, s, 10);
-    EXPECT_EQ(f.origen, (Punto{80, 0}));
-    EXPECT_FALSE(f.recentra);
+    EXPECT_EQ(f.vista.origen, (Punto{80, 0}));
+    EXPECT_FALSE(f.vista.recentra);
 }
 
 TEST_F(Redibuja, AlRecentrarLasBarrasVuelvenAlMedio)
 {
     red.Cauce("c-1", {{100, 50}, {300, 150}});
     editor::ScrEscalaHor_Mueve(f, s, 10);
-    f.recentra = true;
+    f.vista.recentra = true;
     Dibuja();
-    EXPECT_EQ(f.ScrEscalaHor, 0);
-    EXPECT_EQ(f.origen, (Punto{-200, -300}));
+    EXPECT_EQ(f.vista.ScrEscalaHor, 0);
+    EXPECT_EQ(f.vista.origen, (Punto{-200, -300}));
 }
 
 // --- wheel and pixels ---
@@ -231,63 +231,63 @@ TEST_F(Redibuja, LaRuedaAcercaYDejaElPuntoBajoElPuntero)
     Dibuja();
     const Punto bajoElPuntero{200, 600};  // pixels 200, 600
     editor::picDibujo_Rueda(f, s, 1, bajoElPuntero);
-    EXPECT_EQ(f.sldEscala, 91);  // 100 / 1.1
-    const editor::Pixel p = editor::APixel(f, bajoElPuntero);
+    EXPECT_EQ(f.vista.sldEscala, 91);  // 100 / 1.1
+    const editor::Pixel p = editor::APixel(f.vista, bajoElPuntero);
     EXPECT_NEAR(p.x, 200, 1e-3);
     EXPECT_NEAR(p.y, 600, 1e-3);
     editor::picDibujo_Rueda(f, s, -3, bajoElPuntero);
-    EXPECT_EQ(f.sldEscala, 121);  // 91 * 1.331
-    EXPECT_NEAR(editor::APixel(f, bajoElPuntero).x, 200, 1e-3);
+    EXPECT_EQ(f.vista.sldEscala, 121);  // 91 * 1.331
+    EXPECT_NEAR(editor::APixel(f.vista, bajoElPuntero).x, 200, 1e-3);
 }
 
 TEST_F(Redibuja, LaRuedaNoSeAtascaEnEscalasChicasNiSaleDeSusLimites)
 {
     red.Cauce("c-1", {{100, 50}, {300, 150}});
-    f.sldEscala = 3;
+    f.vista.sldEscala = 3;
     editor::picDibujo_Rueda(f, s, 1, {0, 0});
-    EXPECT_EQ(f.sldEscala, 2);
+    EXPECT_EQ(f.vista.sldEscala, 2);
     editor::picDibujo_Rueda(f, s, 5, {0, 0});
-    EXPECT_EQ(f.sldEscala, 1);
+    EXPECT_EQ(f.vista.sldEscala, 1);
     editor::picDibujo_Rueda(f, s, -1, {0, 0});
-    EXPECT_EQ(f.sldEscala, 2);
+    EXPECT_EQ(f.vista.sldEscala, 2);
     editor::picDibujo_Rueda(f, s, -1000, {0, 0});
-    EXPECT_EQ(f.sldEscala, 1000);
+    EXPECT_EQ(f.vista.sldEscala, 1000);
     editor::picDibujo_Rueda(f, s, 0, {0, 0});
-    EXPECT_EQ(f.sldEscala, 1000);
+    EXPECT_EQ(f.vista.sldEscala, 1000);
 }
 
 TEST_F(Redibuja, SinCaucesLaRuedaNoHaceNada)
 {
     editor::picDibujo_Rueda(f, s, 3, {100, 100});
-    EXPECT_EQ(f.sldEscala, 100);
-    EXPECT_EQ(f.origen, (Punto{0, 0}));
+    EXPECT_EQ(f.vista.sldEscala, 100);
+    EXPECT_EQ(f.vista.origen, (Punto{0, 0}));
 }
 
 TEST_F(Redibuja, PixelesYPuntosSonInversosConLaEscalaDeCadaEje)
 {
     red.Cauce("c-1", {{100, 50}, {300, 150}});
-    f.lienzo = {400, 200};
-    f.origen = {10, 20};
-    f.sldEscala = 50;  // 400 drawing units on both axes
-    EXPECT_EQ(editor::DePixel(f, 100, 100), (Punto{110, 220}));
-    EXPECT_EQ(editor::APixel(f, {110, 220}), (editor::Pixel{100, 100}));
+    f.vista.lienzo = {400, 200};
+    f.vista.origen = {10, 20};
+    f.vista.sldEscala = 50;  // 400 drawing units on both axes
+    EXPECT_EQ(editor::DePixel(f.vista, 100, 100), (Punto{110, 220}));
+    EXPECT_EQ(editor::APixel(f.vista, {110, 220}), (editor::Pixel{100, 100}));
 }
 
 TEST_F(Redibuja, ElBotonMedioArrastraElDibujoBajoElPuntero)
 {
     red.Cauce("c-1", {{100, 50}, {300, 150}});
     const auto medio = editor::BotonRaton::Medio;
-    const Punto p = editor::DePixel(f, 100, 100);
+    const Punto p = editor::DePixel(f.vista, 100, 100);
     editor::picDibujo_MouseDown(f, s, medio, p);
     EXPECT_EQ(f.puntero, editor::Puntero::Mano);
-    editor::picDibujo_MouseMove(f, s, editor::DePixel(f, 150, 80), false);
-    EXPECT_EQ(f.origen, (Punto{-50, 20}));
-    EXPECT_EQ(editor::APixel(f, p), (editor::Pixel{150, 80}));
-    editor::picDibujo_MouseMove(f, s, editor::DePixel(f, 200, 80), false);
-    EXPECT_EQ(editor::APixel(f, p), (editor::Pixel{200, 80}));
-    editor::picDibujo_MouseUp(f, s, medio, editor::DePixel(f, 200, 80));
-    editor::picDibujo_MouseMove(f, s, editor::DePixel(f, 0, 0), false);
-    EXPECT_EQ(f.origen, (Punto{-100, 20}));
+    editor::picDibujo_MouseMove(f, s, editor::DePixel(f.vista, 150, 80), false);
+    EXPECT_EQ(f.vista.origen, (Punto{-50, 20}));
+    EXPECT_EQ(editor::APixel(f.vista, p), (editor::Pixel{150, 80}));
+    editor::picDibujo_MouseMove(f, s, editor::DePixel(f.vista, 200, 80), false);
+    EXPECT_EQ(editor::APixel(f.vista, p), (editor::Pixel{200, 80}));
+    editor::picDibujo_MouseUp(f, s, medio, editor::DePixel(f.vista, 200, 80));
+    editor::picDibujo_MouseMove(f, s, editor::DePixel(f.vista, 0, 0), false);
+    EXPECT_EQ(f.vista.origen, (Punto{-100, 20}));
     EXPECT_EQ(f.puntero, editor::Puntero::Flecha);
 }
 
@@ -296,8 +296,8 @@ TEST_F(Redibuja, ElBotonMedioArrastraElDibujoBajoElPuntero)
 TEST_F(Redibuja, LaImagenVaPrimeroConSuAltoPor133333333)
 {
     red.Cauce("c-1", {{100, 50}, {300, 150}});
-    f.ImagenVisible = true;
-    f.imagen = {640, 300};
+    f.fondo.ImagenVisible = true;
+    f.fondo.imagen = {640, 300};
     s.Configuracion.ImagenX0 = 12;
     s.Configuracion.ImagenY0 = -7;
     s.Configuracion.EscalaImagen = 0;
@@ -311,20 +311,20 @@ TEST_F(Redibuja, LaImagenVaPrimeroConSuAltoPor133333333)
     Dibuja();
     EXPECT_FLOAT_EQ(f.dibujo.Primitivas().front().tamano, 320);
     EXPECT_FLOAT_EQ(f.dibujo.Primitivas().front().alto, 200);
-    f.ImagenVisible = false;
+    f.fondo.ImagenVisible = false;
     Dibuja();
     EXPECT_TRUE(Con(Papel::Imagen).empty());
 }
 
 TEST_F(Redibuja, SinCaucesLaImagenDaLaExtension)
 {
-    f.ImagenVisible = true;
-    f.imagen = {640, 300};
+    f.fondo.ImagenVisible = true;
+    f.fondo.imagen = {640, 300};
     Dibuja();
-    EXPECT_EQ(f.extension, (Extension{.XMax = 640, .XMin = 1, .YMax = 300, .YMin = 1}));
+    EXPECT_EQ(f.vista.extension, (Extension{.XMax = 640, .XMin = 1, .YMax = 300, .YMin = 1}));
     red.Cauce("c-1", {{100, 50}, {300, 150}});
     Dibuja();
-    EXPECT_EQ(f.extension, (Extension{.XMax = 300, .XMin = 100, .YMax = 150, .YMin = 50}));
+    EXPECT_EQ(f.vista.extension, (Extension{.XMax = 300, .XMin = 100, .YMax = 150, .YMin = 50}));
 }
 
 TEST_F(Redibuja, LosCaucesSonPolilineasDesdeElVertice1ConElAnchoDeLinea)
@@ -346,24 +346,24 @@ TEST_F(Redibuja, ElCauceQueSeEstaDibujandoSeVeAunqueNoTengaObjeto)
     Dibuja();
     s.Red.XVertice(1, 1) = 30;
     s.Red.YVertice(1, 1) = 40;
-    f.ClicsCauce = 1;
+    f.trazo.ClicsCauce = 1;
     Dibuja();
     ASSERT_EQ(Con(Papel::Cauce).size(), 1U);
     EXPECT_EQ(PuntosDe(Con(Papel::Cauce).front()), (Puntos{{30, 40}}));
-    EXPECT_EQ(f.ClicsCauce, 1);
-    EXPECT_EQ(editor::CaucesEnteros(s), 0);
+    EXPECT_EQ(f.trazo.ClicsCauce, 1);
+    EXPECT_EQ(editor::CaucesEnteros(s.Red), 0);
 }
 
 TEST_F(Redibuja, UnaLecturaQueSeLlevoElTrazoLoDaPorAbandonado)
 {
-    f.ClicsCauce = 3;
+    f.trazo.ClicsCauce = 3;
     Dibuja();
-    EXPECT_EQ(f.ClicsCauce, 0);
+    EXPECT_EQ(f.trazo.ClicsCauce, 0);
 }
 
 TEST_F(Redibuja, LosNombresVanBajoElIconoDeCadaClase)
 {
-    f.TamIcono = 10;
+    f.vista.TamIcono = 10;
     red.UEH("u-1", {100, 200});
     red.Represa("r-1", {300, 400});
     red.Lago("l-1", {500, 600});
@@ -377,7 +377,7 @@ TEST_F(Redibuja, LosNombresVanBajoElIconoDeCadaClase)
 
 TEST_F(Redibuja, CadaIconoOcupaSuLugarYSoloElElegidoCambiaDeColor)
 {
-    f.TamIcono = 10;
+    f.vista.TamIcono = 10;
     red.UEH("u-1", {100, 200});
     red.UEH("u-2", {150, 200});
     red.Represa("r-1", {300, 400});
@@ -409,7 +409,7 @@ TEST_F(Redibuja, CadaIconoOcupaSuLugarYSoloElElegidoCambiaDeColor)
 
 TEST_F(Redibuja, LaLineaDeEnlaceVaDelIconoAlPuntoDeContacto)
 {
-    f.TamIcono = 10;
+    f.vista.TamIcono = 10;
     red.Cauce("c-1", {{0, 0}, {400, 40}});
     red.UEH("u-1", {100, 200}, "c-1", {400, 40});
     red.Represa("r-1", {300, 400}, "c-1", {401, 41});
@@ -422,7 +422,7 @@ TEST_F(Redibuja, LaLineaDeEnlaceVaDelIconoAlPuntoDeContacto)
 
 TEST_F(Redibuja, ConDestinoRepresaOLagoLaLineaTerminaEnSuIcono)
 {
-    f.TamIcono = 10;
+    f.vista.TamIcono = 10;
     red.Represa("r-1", {300, 400}, "l-1");
     red.Lago("l-1", {500, 600}, "r-1");
     red.UEH("u-1", {100, 200}, "r-1", {1, 1});
@@ -465,15 +465,15 @@ TEST_F(Redibuja, LosOrdenesVanALaIzquierdaDelVertice2)
     red.Cauce("c-1", {{100, 50}, {300, 150}});
     red.Cauce("c-2", {{5, 5}, {60, 60}, {90, 90}}, "c-1");
     red.Cauce("c-3", {{5, 5}, {400, 60}}, "c-1");
-    f.ToleranciaVertice = 16;
+    f.vista.ToleranciaVertice = 16;
     editor::cmdOrdenCauce_Click(f, s);
-    EXPECT_TRUE(f.OrdenVisible);
+    EXPECT_TRUE(f.vista.OrdenVisible);
     EXPECT_EQ(Textos(Papel::Orden), (std::vector<std::string>{"2", "1", "1"}));
     EXPECT_EQ(Con(Papel::Orden)[0].en, (Punto{276, 150}));
     EXPECT_EQ(Con(Papel::Orden)[1].en, (Punto{36, 60}));
     s.Red.ColCauces.Item(3).Cauce_aa = "0";
     editor::cmdOrdenCauce_Click(f, s);
-    EXPECT_FALSE(f.OrdenVisible);
+    EXPECT_FALSE(f.vista.OrdenVisible);
     EXPECT_TRUE(Con(Papel::Orden).empty());
     EXPECT_EQ(s.Red.ColCauces.Item(1).OrdenCauce, 1);  // worked out anew before the flag is looked at
 }
@@ -536,28 +536,28 @@ TEST_F(Redibuja, MientrasSeDibujaSeMarcanLosExtremosQueSeTocanSinAcople)
 TEST_F(Redibuja, LaMedicionTieneLaMitadMayorDelAncho)
 {
     PonModo(Boton::LongArea);
-    f.AnchoLinea = 9;  // 9 - 4.5
+    f.vista.AnchoLinea = 9;  // 9 - 4.5
     Clic(10, 20);
     ASSERT_EQ(Con(Papel::Medida).size(), 1U);
     EXPECT_EQ(PuntosDe(Con(Papel::Medida).front()), (Puntos{{10, 20}}));
     Clic(30, 40);
     EXPECT_EQ(PuntosDe(Con(Papel::Medida).front()), (Puntos{{10, 20}, {30, 40}}));
     EXPECT_EQ(Con(Papel::Medida).front().ancho, 4);
-    f.AnchoLinea = 4;
+    f.vista.AnchoLinea = 4;
     Dibuja();
     EXPECT_EQ(Con(Papel::Medida).front().ancho, 2);
 }
 
 TEST_F(Redibuja, ElOrdenDePintadoEsImagenCaucesUEHsRepresasLagosMarcasYBanda)
 {
-    f.ImagenVisible = true;
-    f.imagen = {10, 10};
+    f.fondo.ImagenVisible = true;
+    f.fondo.imagen = {10, 10};
     red.Lago("l-1", {500, 600});
     red.Represa("r-1", {300, 400});
     red.UEH("u-1", {100, 200});
     red.Cauce("c-1", {{100, 50}, {300, 150}});
     s.Seleccion.CauceSel = 1;
-    f.banda = {{1, 1}, {2, 2}};
+    f.gesto.banda = {{1, 1}, {2, 2}};
     Dibuja();
     std::vector<Papel> papeles;
     for (const auto& p : f.dibujo.Primitivas())

@@ -140,9 +140,9 @@ TEST_F(DibujoEnPeligro, ElCauceQueSeEstaDibujandoEstaSinGuardar)
     anfitrion->resguardos = {Resguardo::Cancelar, Resguardo::SeguirSinGuardar};
     EXPECT_FALSE(editor::Resguarda(f, s, Riesgo::ReleeRed));
     EXPECT_EQ(Resguardos(), Cajas{Caja});
-    EXPECT_EQ(f.ClicsCauce, 2);
+    EXPECT_EQ(f.trazo.ClicsCauce, 2);
     EXPECT_TRUE(editor::Resguarda(f, s, Riesgo::ReleeRed));
-    EXPECT_EQ(f.ClicsCauce, 0);
+    EXPECT_EQ(f.trazo.ClicsCauce, 0);
     EXPECT_EQ(Faltas(), std::vector<std::string>{});
 }
 
@@ -174,7 +174,7 @@ TEST_F(DibujoEnPeligro, UnaRedVaciaSeCierraSinPreguntas)
 {
     Responde({true});
     ToolbarUEHs_ButtonClick(f, s, Boton::BorraTodo);
-    ASSERT_TRUE(editor::RedVacia(s));
+    ASSERT_TRUE(editor::RedVacia(s.Red));
     ASSERT_TRUE(f.cambiada);
     anfitrion->sucesos.clear();
     EXPECT_TRUE(editor::Resguarda(f, s, Riesgo::OtroProyecto));
@@ -195,7 +195,7 @@ TEST_F(DibujoEnPeligro, LaImagenYLasTablasPreguntanAntesDeReleer)
     EXPECT_FALSE(editorDeTabla.abierta);
     EXPECT_FALSE(tabla.abierta);
     EXPECT_EQ(s.Red.ColUEHs.Cuenta(), 2);
-    EXPECT_EQ(f.cmdImagenUEHs, "Imágen");
+    EXPECT_EQ(f.fondo.cmdImagenUEHs, "Imágen");
     tabla.abierta = true;
     editor::cmdActualizar(tabla, s);
     EXPECT_EQ(Resguardos().size(), 4U);

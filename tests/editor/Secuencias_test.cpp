@@ -85,7 +85,7 @@ struct Maquina : EditorDePrueba {
             if (azar.Uno(8)) return "nombre muy largo " + std::to_string(azar.Hasta(9));
             return std::to_string(azar.Hasta(60));
         };
-        f.CargaImagen = [](const std::string&) {
+        f.fondo.CargaImagen = [](const std::string&) {
             return editor::ImagenCargada{editor::CargaDeImagen::Entera, {500, 400}};
         };
         s.frmConfigura.chkImagenDibujo = 1;
@@ -105,7 +105,7 @@ struct Maquina : EditorDePrueba {
     Punto EnIcono(const Coleccion& coleccion, Posicion posicion)
     {
         const Punto icono = posicion(coleccion.Item(1 + azar.Hasta(coleccion.Cuenta())));
-        if (azar.Uno(3)) return {icono.X, std::round(icono.Y + 3.5F * f.TamIcono)};  // its handle
+        if (azar.Uno(3)) return {icono.X, std::round(icono.Y + 3.5F * f.vista.TamIcono)};  // its handle
         return {icono.X + 3, icono.Y + 4};
     }
     Punto EnVertice()
@@ -327,7 +327,7 @@ struct Maquina : EditorDePrueba {
     }
     void GuardaYRelee()
     {
-        if (f.izquierdoAbajo) Suelta(1, 1);
+        if (f.gesto.izquierdoAbajo) Suelta(1, 1);
         editor::DescartaTrazo(f, s);
         const RedComparable antes(s);
         model::mnu_btn_toolbarGuardaUEHs(s);
@@ -339,7 +339,7 @@ struct Maquina : EditorDePrueba {
     /// Back to the beginning and forth again.
     void DeshaceYRehaceTodo()
     {
-        if (f.izquierdoAbajo) Suelta(1, 1);
+        if (f.gesto.izquierdoAbajo) Suelta(1, 1);
         editor::Evento(f, s, [] {});
         const RedComparable ultima(s);
         std::size_t pasos = 0;
@@ -361,7 +361,7 @@ struct Maquina : EditorDePrueba {
         s.Resultados.NroSalidas = 0;
         disco.Quita("/proy/Arroyo_UEHs.vlm");
         disco.Quita("/proy/Arroyo_VerCau.vlm");
-        f.marcaCauce.clear();
+        f.trazo.marcaCauce.clear();
         Abre();
         if (azar.Uno(3)) return;  // from nothing
         red.Cauce("c-a", {{100, 700}, {150, 600}, {200, 500}});

@@ -57,7 +57,7 @@ struct VentanaDelEditor : testing::Test {
     QWidget& Canvas() { return apoyo::Control<QWidget>(*ventana, "picDibujo"); }
     QPoint Pixel(float x, float y)
     {
-        const auto p = APixel(f, {x, y});
+        const auto p = APixel(f.vista, {x, y});
         return {static_cast<int>(std::lround(p.x)), static_cast<int>(std::lround(p.y))};
     }
     void Clic(float x, float y) { QTest::mouseClick(&Canvas(), Qt::LeftButton, {}, Pixel(x, y)); }
@@ -156,7 +156,7 @@ TEST_F(VentanaDelEditor, UnCauceSeDibujaConElTeclado)
     tecla(Qt::Key_3, Qt::ControlModifier);
     const QImage sinCruz = Canvas().grab().toImage();
     tecla(Qt::Key_Left);
-    EXPECT_TRUE(f.cruz);
+    EXPECT_TRUE(f.gesto.cruz);
     const QImage conCruz = Canvas().grab().toImage();
     const QPointF medio(Canvas().width() / 2.0, Canvas().height() / 2.0);
     const auto rojo = [&](const QImage& imagen) {
@@ -170,13 +170,13 @@ TEST_F(VentanaDelEditor, UnCauceSeDibujaConElTeclado)
         tecla(Qt::Key_Left, Qt::ShiftModifier);
     tecla(Qt::Key_Up);
     tecla(Qt::Key_Space);
-    EXPECT_EQ(f.ClicsCauce, 2);
+    EXPECT_EQ(f.trazo.ClicsCauce, 2);
     Nombra({"solo"});
     tecla(Qt::Key_Return);
     ASSERT_EQ(s.Red.ColCauces.Cuenta(), 1);
     EXPECT_EQ(s.Red.Cauces(1).NombreCauce, "c-solo");
-    const auto boca = APixel(f, {s.Red.XVertice(1, 1), s.Red.YVertice(1, 1)});
-    const auto cabecera = APixel(f, {s.Red.XVertice(1, 2), s.Red.YVertice(1, 2)});
+    const auto boca = APixel(f.vista, {s.Red.XVertice(1, 1), s.Red.YVertice(1, 1)});
+    const auto cabecera = APixel(f.vista, {s.Red.XVertice(1, 2), s.Red.YVertice(1, 2)});
     EXPECT_LT(cabecera.x, boca.x);
     EXPECT_LT(cabecera.y, boca.y);
 }
@@ -246,7 +246,7 @@ TEST_F(VentanaDelEditor, AcoplaUnaUEHArrastrandoSuAsaHastaElCauce)
     QTest::mouseClick(&Canvas(), Qt::LeftButton, {}, QPoint(200, 150));
     Modo("btn_toolbarSelecciona");
     const auto& u = s.Red.ColUEHs.Item(1);
-    const float i = f.TamIcono;
+    const float i = f.vista.TamIcono;
     Clic(u.IconoUEHx + i * 0.7F, u.IconoUEHy + i * 0.7F);
     ASSERT_EQ(s.Seleccion.UEHSel, 1);
     Arrastra(Pixel(u.IconoUEHx, u.IconoUEHy + 3.5F * i), Pixel(s.Red.XVertice(1, 2), s.Red.YVertice(1, 2)));
@@ -281,8 +281,8 @@ TEST_F(VentanaDelEditor, MueveElUltimoVerticeConSusTributarios)
     QTest::mouseClick(&Canvas(), Qt::LeftButton, {}, QPoint(200, 150));
     Modo("btn_toolbarSelecciona");
     Clic(s.Red.XVertice(1, 1), s.Red.YVertice(1, 1));
-    Clic(s.Red.ColUEHs.Item(1).IconoUEHx + f.TamIcono * 0.7F,
-         s.Red.ColUEHs.Item(1).IconoUEHy + f.TamIcono * 0.7F);
+    Clic(s.Red.ColUEHs.Item(1).IconoUEHx + f.vista.TamIcono * 0.7F,
+         s.Red.ColUEHs.Item(1).IconoUEHy + f.vista.TamIcono * 0.7F);
     Menu("mnu_acoplaUEHaCauce", {30, 30});
     ASSERT_EQ(s.Red.ColUEHs.Item(1).Cauce_aa, "c-Rio");
 
@@ -291,7 +291,7 @@ TEST_F(VentanaDelEditor, MueveElUltimoVerticeConSusTributarios)
     Clic(s.Red.XVertice(1, 2), s.Red.YVertice(1, 2));
     ASSERT_EQ(s.Seleccion.VerticeSel, 2);
     const QPoint desde = Pixel(s.Red.XVertice(1, 2), s.Red.YVertice(1, 2));
-    const Punto meta = DePixel(f, desde.x() + 60, desde.y() - 30);
+    const Punto meta = DePixel(f.vista, desde.x() + 60, desde.y() - 30);
     Arrastra(desde, desde + QPoint(60, -30));
     EXPECT_NEAR(s.Red.XVertice(1, 2), meta.X, 1.5);
     EXPECT_NEAR(s.Red.YVertice(1, 2), meta.Y, 1.5);
@@ -327,30 +327,30 @@ TEST_F(VentanaDelEditor, MideUnaSuperficieConClicsYEnter)
     for (const QPoint p : {QPoint(100, 100), QPoint(300, 100), QPoint(300, 250), QPoint(100, 250)})
         QTest::mouseClick(&Canvas(), Qt::LeftButton, {}, p);
     QTest::keyClick(&Canvas(), Qt::Key_Return);
-    EXPECT_FALSE(f.lblLongArea.empty());
-    EXPECT_EQ(DeQ(apoyo::Control<QLabel>(*ventana, "lblLongArea").text()), f.lblLongArea);
+    EXPECT_FALSE(f.medicion.lblLongArea.empty());
+    EXPECT_EQ(DeQ(apoyo::Control<QLabel>(*ventana, "lblLongArea").text()), f.medicion.lblLongArea);
 }
 
 TEST_F(VentanaDelEditor, LaRuedaAcercaYElBotonDelMedioCorre)
 {
     Abre("Quelmar");
-    const int antes = f.sldEscala;
+    const int antes = f.vista.sldEscala;
     const QPointF p(200, 200);
-    const Punto bajo = DePixel(f, p.x(), p.y());
+    const Punto bajo = DePixel(f.vista, p.x(), p.y());
     QWheelEvent rueda(p, Canvas().mapToGlobal(p), {}, {0, 120}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
     QApplication::sendEvent(&Canvas(), &rueda);
-    EXPECT_LT(f.sldEscala, antes);
-    EXPECT_NEAR(DePixel(f, p.x(), p.y()).X, bajo.X, 0.01);
-    EXPECT_EQ(apoyo::Control<QSlider>(*ventana, "sldEscala").value(), f.sldEscala);
+    EXPECT_LT(f.vista.sldEscala, antes);
+    EXPECT_NEAR(DePixel(f.vista, p.x(), p.y()).X, bajo.X, 0.01);
+    EXPECT_EQ(apoyo::Control<QSlider>(*ventana, "sldEscala").value(), f.vista.sldEscala);
 
-    const Punto origen = f.origen;
+    const Punto origen = f.vista.origen;
     QTest::mousePress(&Canvas(), Qt::MiddleButton, {}, {200, 200});
     QMouseEvent mueve(QEvent::MouseMove, QPointF(150, 220), Canvas().mapToGlobal(QPointF(150, 220)),
                       Qt::NoButton, Qt::MiddleButton, {});
     QApplication::sendEvent(&Canvas(), &mueve);
     QTest::mouseRelease(&Canvas(), Qt::MiddleButton, {}, {150, 220});
-    EXPECT_GT(f.origen.X, origen.X);
-    EXPECT_LT(f.origen.Y, origen.Y);
+    EXPECT_GT(f.vista.origen.X, origen.X);
+    EXPECT_LT(f.vista.origen.Y, origen.Y);
 }
 
 TEST_F(VentanaDelEditor, LasTeclasYElDobleClicPidenLasFormas)
@@ -363,8 +363,8 @@ TEST_F(VentanaDelEditor, LasTeclasYElDobleClicPidenLasFormas)
     EXPECT_EQ(formas,
               (std::vector{Pedido::FormaUEH, Pedido::FormaCauce, Pedido::FormaRepresa, Pedido::FormaLago}));
     formas.clear();
-    const QPoint icono = Pixel(s.Red.ColUEHs.Item(1).IconoUEHx + f.TamIcono * 0.7F,
-                               s.Red.ColUEHs.Item(1).IconoUEHy + f.TamIcono * 0.7F);
+    const QPoint icono = Pixel(s.Red.ColUEHs.Item(1).IconoUEHx + f.vista.TamIcono * 0.7F,
+                               s.Red.ColUEHs.Item(1).IconoUEHy + f.vista.TamIcono * 0.7F);
     QTest::mouseClick(&Canvas(), Qt::LeftButton, {}, icono);
     EXPECT_EQ(s.Seleccion.UEHSel, 1);
     QTest::mouseDClick(&Canvas(), Qt::LeftButton, {}, icono);
@@ -378,8 +378,8 @@ TEST_F(VentanaDelEditor, LaImagenDeFondoSePintaYSeQuita)
     EXPECT_EQ(boton.text(), QStringLiteral("Imágen"));
     const QImage sin = Canvas().grab().toImage();
     apoyo::Pulsa(boton);
-    EXPECT_TRUE(f.ImagenVisible) << (mundo.anfitrion->Avisos().empty() ? ""
-                                                                       : mundo.anfitrion->Avisos()[0].texto);
+    EXPECT_TRUE(f.fondo.ImagenVisible)
+        << (mundo.anfitrion->Avisos().empty() ? "" : mundo.anfitrion->Avisos()[0].texto);
     EXPECT_EQ(boton.text(), QStringLiteral("Quitar Imágen"));
     EXPECT_NE(Canvas().grab().toImage(), sin);
     apoyo::Pulsa(boton);

@@ -68,16 +68,16 @@ TEST_F(Editor, AbreACuatroQuintosDeLaPantallaConSusValores)
     editor::Abre(otro, s, {1600, 1001});
     EXPECT_TRUE(otro.abierta);
     EXPECT_EQ(otro.ventana, (Tamano{1280, 800}));
-    EXPECT_EQ(otro.AnchoLinea, 4);
-    EXPECT_EQ(otro.TamIcono, 10);
-    EXPECT_EQ(otro.EscalaBase, 800);
-    EXPECT_EQ(otro.sldEscala, 100);
-    EXPECT_EQ(editor::AnchoLogico(otro), 800);
-    EXPECT_EQ(otro.ToleranciaVertice, 16);
-    EXPECT_EQ(otro.cmdImagenUEHs, "Imágen");
+    EXPECT_EQ(otro.vista.AnchoLinea, 4);
+    EXPECT_EQ(otro.vista.TamIcono, 10);
+    EXPECT_EQ(otro.vista.EscalaBase, 800);
+    EXPECT_EQ(otro.vista.sldEscala, 100);
+    EXPECT_EQ(editor::AnchoLogico(otro.vista), 800);
+    EXPECT_EQ(otro.vista.ToleranciaVertice, 16);
+    EXPECT_EQ(otro.fondo.cmdImagenUEHs, "Imágen");
     EXPECT_EQ(editor::Modo(otro), Boton::Selecciona);
-    EXPECT_FALSE(otro.ImagenVisible);
-    EXPECT_FALSE(otro.OrdenVisible);
+    EXPECT_FALSE(otro.fondo.ImagenVisible);
+    EXPECT_FALSE(otro.vista.OrdenVisible);
     EXPECT_FALSE(otro.cambiada);
 }
 
@@ -86,10 +86,10 @@ TEST_F(Editor, AlReabrirElIconoSaleDelAnchoAnterior)
     editor::cmdAnchoLineaDib_Click(f, s);
     editor::cmdAnchoLineaDib_Click(f, s);  // 9
     Abre();
-    EXPECT_FLOAT_EQ(f.TamIcono, 20.8F);  // 1.2 * 9 + 10
-    EXPECT_EQ(f.AnchoLinea, 4);
+    EXPECT_FLOAT_EQ(f.vista.TamIcono, 20.8F);  // 1.2 * 9 + 10
+    EXPECT_EQ(f.vista.AnchoLinea, 4);
     Abre();
-    EXPECT_FLOAT_EQ(f.TamIcono, 14.8F);
+    EXPECT_FLOAT_EQ(f.vista.TamIcono, 14.8F);
 }
 
 TEST_F(Editor, SinProyectoNoLeeNada)
@@ -99,7 +99,7 @@ TEST_F(Editor, SinProyectoNoLeeNada)
     disco.OlvidaLlamadas();
     editor::Abre(otro, s, {1000, 1000});
     EXPECT_TRUE(otro.abierta);
-    EXPECT_EQ(otro.AnchoLinea, 4);
+    EXPECT_EQ(otro.vista.AnchoLinea, 4);
     EXPECT_TRUE(otro.lblEstado.empty());
     EXPECT_TRUE(disco.Llamadas().empty());
 }
@@ -121,7 +121,7 @@ TEST_F(Editor, LaEscalaBaseEsElAnchoMaximoYSinValorPositivoSon800)
         s.frmConfigura.txtMaxUEHsPixel = texto;
         model::cmdAplicar(s);
         Abre();
-        EXPECT_EQ(f.EscalaBase, base) << texto;
+        EXPECT_EQ(f.vista.EscalaBase, base) << texto;
     }
 }
 
@@ -132,7 +132,7 @@ TEST_F(Editor, UnaEscalaBaseFueraDelTipoSeCuentaYSon800)
     anfitrion->sucesos.clear();
     Abre();
     EXPECT_EQ(Avisos(), (Cajas{Falla("Error Nro. 6 ,DesbordamientoVerifique")}));
-    EXPECT_EQ(f.EscalaBase, 800);
+    EXPECT_EQ(f.vista.EscalaBase, 800);
 }
 
 TEST_F(Editor, AlAbrirLeeLosComponentesReescalaYCentra)
@@ -142,10 +142,10 @@ TEST_F(Editor, AlAbrirLeeLosComponentesReescalaYCentra)
     s.Red.ColCauces.Vacia();
     Abre();
     ASSERT_EQ(s.Red.NroCauces, 1);
-    EXPECT_EQ(f.sldEscala, 220);  // 1600 * 1.1 / 800
-    EXPECT_EQ(f.origen, (Punto{-80, -680}));
+    EXPECT_EQ(f.vista.sldEscala, 220);  // 1600 * 1.1 / 800
+    EXPECT_EQ(f.vista.origen, (Punto{-80, -680}));
     EXPECT_EQ(Con(Papel::Cauce).size(), 1U);
-    EXPECT_EQ(f.ToleranciaVertice, 35);  // 0.02 * 1760
+    EXPECT_EQ(f.vista.ToleranciaVertice, 35);  // 0.02 * 1760
 }
 
 TEST_F(Editor, UnProyectoSinCaucesAbreAl100SinReescalar)
@@ -155,7 +155,7 @@ TEST_F(Editor, UnProyectoSinCaucesAbreAl100SinReescalar)
     Guarda();
     Abre();
     EXPECT_EQ(s.Red.NroUEHs, 2);
-    EXPECT_EQ(f.sldEscala, 100);
+    EXPECT_EQ(f.vista.sldEscala, 100);
 }
 
 TEST_F(Editor, AlAbrirNadaQuedaElegido)
@@ -181,15 +181,15 @@ TEST_F(Editor, ActivarseBorraLaMarcaDelAvisoYEscondeLaPrincipal)
 
 TEST_F(Editor, ElLienzoEsLaVentanaMenosSusMargenesDesdeCiertoTamano)
 {
-    f.lienzo = {1, 2};
+    f.vista.lienzo = {1, 2};
     editor::Form_Resize(f, {113, 500});  // 1695 by 7500 units of the form
-    EXPECT_EQ(f.lienzo, (Tamano{1, 2}));
+    EXPECT_EQ(f.vista.lienzo, (Tamano{1, 2}));
     editor::Form_Resize(f, {500, 60});  // 7500 by 900
-    EXPECT_EQ(f.lienzo, (Tamano{1, 2}));
+    EXPECT_EQ(f.vista.lienzo, (Tamano{1, 2}));
     editor::Form_Resize(f, {114, 61});  // 1710 by 915
-    EXPECT_EQ(f.lienzo, (Tamano{14, 14}));
+    EXPECT_EQ(f.vista.lienzo, (Tamano{14, 14}));
     editor::Form_Resize(f, {1000, 800});  // 15000 - 1500, 12000 - 700
-    EXPECT_EQ(f.lienzo, (Tamano{900, 753}));
+    EXPECT_EQ(f.vista.lienzo, (Tamano{900, 753}));
 }
 
 // --- modes ---
@@ -266,7 +266,7 @@ TEST_F(Editor, GuardarConservaElCauceQueSeEstaDibujando)
     PonModo(Boton::GuardaUEHs);
     EXPECT_EQ(Avisos(), (Cajas{Falla(TextoGuardado)}));
     EXPECT_EQ(editor::Modo(f), Boton::Cauce);
-    EXPECT_EQ(f.ClicsCauce, 3);
+    EXPECT_EQ(f.trazo.ClicsCauce, 3);
     EXPECT_EQ(s.Red.ColCauces.Cuenta(), cauces);
     ASSERT_EQ(s.Red.NroVertices(n), 3);
     EXPECT_EQ(Vertice(n, 1), (editor::Punto{700, 700}));
@@ -287,7 +287,7 @@ TEST_F(Editor, ElPrimerCauceDeLaRedSigueEnManoTrasGuardar)
     Clic(100, 100);
     Clic(200, 50);
     PonModo(Boton::GuardaUEHs);
-    EXPECT_EQ(f.ClicsCauce, 2);
+    EXPECT_EQ(f.trazo.ClicsCauce, 2);
     EXPECT_EQ(s.Red.NroCauces, 1);
     ASSERT_EQ(s.Red.NroVertices(1), 2);
     EXPECT_EQ(Vertice(1, 2), (editor::Punto{200, 50}));
@@ -304,7 +304,7 @@ TEST_F(Editor, BorrarUnaUEHTambienConservaElCauceEnMano)
     Clic(710, 690);
     PonModo(Boton::UEH);
     Clic(600, 600);  // its name is cancelled: it is deleted, and the network saved
-    EXPECT_EQ(f.ClicsCauce, 2);
+    EXPECT_EQ(f.trazo.ClicsCauce, 2);
     ASSERT_EQ(s.Red.NroVertices(n), 2);
     EXPECT_EQ(Vertice(n, 2), (editor::Punto{710, 690}));
     EXPECT_EQ(Faltas(), std::vector<std::string>{});
@@ -349,8 +349,8 @@ TEST_F(Editor, ElAnchoDeLineaRecorreSuCiclo)
     std::vector<float> iconos;
     for (int i = 0; i < 7; ++i) {
         editor::cmdAnchoLineaDib_Click(f, s);
-        anchos.push_back(f.AnchoLinea);
-        iconos.push_back(f.TamIcono);
+        anchos.push_back(f.vista.AnchoLinea);
+        iconos.push_back(f.vista.TamIcono);
     }
     EXPECT_EQ(anchos, (std::vector<int>{6, 9, 13, 2, 3, 4, 6}));
     EXPECT_EQ(iconos, (std::vector<float>{13, 17.5F, 23.5F, 7, 8.5F, 10, 13}));
@@ -456,7 +456,7 @@ TEST_F(Editor, ElDobleClicSinNadaElegidoVuelveASeleccionarYRecentra)
     editor::picDibujo_DblClick(f, s);
     EXPECT_EQ(editor::Modo(f), Boton::Selecciona);
     EXPECT_FALSE(f.Abajo(Boton::LongArea));
-    EXPECT_EQ(f.origen, (Punto{-200, -300}));
+    EXPECT_EQ(f.vista.origen, (Punto{-200, -300}));
 }
 
 // --- Enter ---
@@ -482,7 +482,7 @@ TEST_F(Editor, EnterColocaALaMitadDeLaExtensionYNoEnElCentro)
 TEST_F(Editor, EnterEnUnDibujoVacioColocaEnElMedioDeLoQueSeVe)
 {
     Escribe({"una"});
-    f.origen = {1000, 2000};
+    f.vista.origen = {1000, 2000};
     PonModo(Boton::UEH);
     Tecla(T::Enter);
     ASSERT_EQ(s.Red.NroUEHs, 1);
@@ -497,7 +497,7 @@ struct EditorConTeclado : Editor {
     /// Moves the cross to a pixel with long and short steps, as far as steps of 5 lead.
     void Cruz(int x, int y)
     {
-        if (!f.cruz) editor::picDibujo_Flecha(f, s, 1, 0, false);
+        if (!f.gesto.cruz) editor::picDibujo_Flecha(f, s, 1, 0, false);
         const auto va = [this](int cuanto, bool alLado) {
             for (; cuanto != 0;) {
                 const bool largo = std::abs(cuanto) >= 50;
@@ -506,7 +506,7 @@ struct EditorConTeclado : Editor {
                 cuanto -= signo * (largo ? 50 : 5);
             }
         };
-        const editor::Pixel en = editor::APixel(f, *f.cruz);
+        const editor::Pixel en = editor::APixel(f.vista, *f.gesto.cruz);
         va(x - static_cast<int>(std::lround(en.x)), true);
         va(y - static_cast<int>(std::lround(en.y)), false);
     }
@@ -514,25 +514,25 @@ struct EditorConTeclado : Editor {
 
 TEST_F(EditorConTeclado, LasFlechasMuevenLaCruzDesdeElMedioDelLienzo)
 {
-    EXPECT_FALSE(f.cruz);
+    EXPECT_FALSE(f.gesto.cruz);
     editor::picDibujo_Flecha(f, s, 1, 0, false);
-    EXPECT_EQ(f.cruz, (Punto{400, 400}));
+    EXPECT_EQ(f.gesto.cruz, (Punto{400, 400}));
     editor::picDibujo_Flecha(f, s, 1, 0, false);
     editor::picDibujo_Flecha(f, s, 0, -1, true);
-    EXPECT_EQ(f.cruz, (Punto{405, 350}));
+    EXPECT_EQ(f.gesto.cruz, (Punto{405, 350}));
     EXPECT_EQ(f.lblX, "405");
     EXPECT_EQ(f.lblY, "350");
     Aprieta(10, 10);  // the mouse takes over
-    EXPECT_FALSE(f.cruz);
+    EXPECT_FALSE(f.gesto.cruz);
 }
 
 TEST_F(EditorConTeclado, AlBordeElDibujoAcompana)
 {
     Cruz(790, 400);
     editor::picDibujo_Flecha(f, s, 1, 0, true);
-    EXPECT_EQ(f.cruz, (Punto{840, 400}));
-    EXPECT_EQ(f.origen, (Punto{40, 0}));
-    EXPECT_EQ(editor::APixel(f, *f.cruz), (editor::Pixel{800, 400}));
+    EXPECT_EQ(f.gesto.cruz, (Punto{840, 400}));
+    EXPECT_EQ(f.vista.origen, (Punto{40, 0}));
+    EXPECT_EQ(editor::APixel(f.vista, *f.gesto.cruz), (editor::Pixel{800, 400}));
 }
 
 TEST_F(EditorConTeclado, UnCauceSeDibujaYSeTerminaSinRaton)
@@ -541,12 +541,12 @@ TEST_F(EditorConTeclado, UnCauceSeDibujaYSeTerminaSinRaton)
     Cruz(100, 300);
     Tecla(T::Enter);
     Tecla(T::Enter);  // on its only vertex: nothing
-    EXPECT_EQ(f.ClicsCauce, 1);
+    EXPECT_EQ(f.trazo.ClicsCauce, 1);
     Cruz(200, 250);
     Tecla(T::Espacio);
     Cruz(300, 100);
     Tecla(T::Enter);
-    EXPECT_EQ(f.ClicsCauce, 3);
+    EXPECT_EQ(f.trazo.ClicsCauce, 3);
     Escribe({"solo"});
     Tecla(T::Enter);  // on the last one: as a double click
     ASSERT_EQ(s.Red.ColCauces.Cuenta(), 1);
@@ -568,12 +568,12 @@ TEST_F(EditorConTeclado, LaCruzColocaMideYElige)
     ASSERT_EQ(s.Red.NroUEHs, 1);
     EXPECT_EQ(s.Red.UEHs(1).IconoUEHx, 250);
     EXPECT_EQ(s.Red.UEHs(1).IconoUEHy, 150);
-    EXPECT_EQ(f.cruz, (Punto{250, 150}));
+    EXPECT_EQ(f.gesto.cruz, (Punto{250, 150}));
     PonModo(Boton::Selecciona);
     Cruz(255, 155);
     Tecla(T::Espacio);
     EXPECT_EQ(s.Seleccion.UEHSel, 1);
-    EXPECT_FALSE(f.izquierdoAbajo);
+    EXPECT_FALSE(f.gesto.izquierdoAbajo);
     s.Configuracion.EscalaDibujo = "1";
     PonModo(Boton::LongArea);
     Cruz(100, 100);
@@ -600,12 +600,12 @@ TEST_F(Editor, EnterTerminaElCauceConMasDeUnClic)
     PonModo(Boton::Cauce);
     Clic(10, 20);
     Tecla(T::Enter);
-    EXPECT_EQ(f.ClicsCauce, 1);
+    EXPECT_EQ(f.trazo.ClicsCauce, 1);
     EXPECT_EQ(s.Red.ColCauces.Cuenta(), 0);
     Clic(30, 40);
     Escribe({"uno"});
     Tecla(T::Enter);
-    EXPECT_EQ(f.ClicsCauce, 0);
+    EXPECT_EQ(f.trazo.ClicsCauce, 0);
     ASSERT_EQ(s.Red.ColCauces.Cuenta(), 1);
     EXPECT_EQ(editor::Modo(f), Boton::Cauce);
 }
@@ -626,7 +626,7 @@ TEST_F(Editor, ElDobleClicConUnSoloClicDejaElCauceSinTerminar)
     PonModo(Boton::Cauce);
     DobleClic(30, 40);
     EXPECT_EQ(s.Red.ColCauces.Cuenta(), 0);
-    EXPECT_EQ(f.ClicsCauce, 1);
+    EXPECT_EQ(f.trazo.ClicsCauce, 1);
     EXPECT_EQ(editor::Modo(f), Boton::Selecciona);
     PonModo(Boton::Cauce);
     Clic(50, 60);
@@ -644,8 +644,8 @@ TEST_F(Editor, ElMismoPuntoLogicoEligeLoMismoEnTodaEscala)
     Parte();
     for (const int escala : {20, 100, 370, 1000}) {
         editor::sldEscala_Mueve(f, s, escala);
-        const editor::Pixel p = editor::APixel(f, {255, 155});
-        const Punto bajoElPuntero = editor::DePixel(f, p.x, p.y);
+        const editor::Pixel p = editor::APixel(f.vista, {255, 155});
+        const Punto bajoElPuntero = editor::DePixel(f.vista, p.x, p.y);
         editor::LimpiaSeleccion(s);
         Clic(bajoElPuntero.X, bajoElPuntero.Y);
         EXPECT_EQ(s.Seleccion.UEHSel, 1) << escala;
@@ -665,17 +665,17 @@ TEST_F(Editor, ElProyectoDeMuestraSeVeEntero)
     ASSERT_GT(s.Red.NroUEHs * s.Red.NroCauces * s.Red.NroRepresas * s.Red.NroLagos, 0);
     EXPECT_EQ(Faltas(), std::vector<std::string>{});
     EXPECT_EQ(Con(Papel::EnlaceUEH).size(), static_cast<std::size_t>(s.Red.NroUEHs));
-    for (const Punto esquina :
-         {Punto{f.extension.XMin, f.extension.YMin}, Punto{f.extension.XMax, f.extension.YMax}}) {
-        const editor::Pixel p = editor::APixel(f, esquina);
-        EXPECT_TRUE(p.x >= 0 && p.x <= f.lienzo.ancho && p.y >= 0 && p.y <= f.lienzo.alto);
+    for (const Punto esquina : {Punto{f.vista.extension.XMin, f.vista.extension.YMin},
+                                Punto{f.vista.extension.XMax, f.vista.extension.YMax}}) {
+        const editor::Pixel p = editor::APixel(f.vista, esquina);
+        EXPECT_TRUE(p.x >= 0 && p.x <= f.vista.lienzo.ancho && p.y >= 0 && p.y <= f.vista.lienzo.alto);
     }
     EXPECT_EQ(editor::RutaImagen(s), "/proy/Quelmar.jpg");
-    f.CargaImagen = [](const std::string&) {
+    f.fondo.CargaImagen = [](const std::string&) {
         return editor::ImagenCargada{editor::CargaDeImagen::Entera, {800, 600}};
     };
     editor::cmdImagenUEHs_Click(f, s);
-    EXPECT_TRUE(f.ImagenVisible);
+    EXPECT_TRUE(f.fondo.ImagenVisible);
 }
 
 // --- closing ---
@@ -801,12 +801,12 @@ TEST_F(Editor, AlCerrarElCauceSinTerminarSeAbandona)
     Parte();
     s.Red.NroCauces = 2;
     s.Red.NroVertices(2) = 1;
-    f.ClicsCauce = 1;
+    f.trazo.ClicsCauce = 1;
     Responde({false});
     Tecla(T::Esc);
     EXPECT_FALSE(f.abierta);
     EXPECT_EQ(s.Red.NroCauces, 1);
-    EXPECT_EQ(f.ClicsCauce, 0);
+    EXPECT_EQ(f.trazo.ClicsCauce, 0);
 }
 
 // --- background image ---
@@ -815,7 +815,7 @@ struct Imagen : Editor {
     std::vector<std::string> pedidas{};
     Imagen()
     {
-        f.CargaImagen = [this](const std::string& ruta) {
+        f.fondo.CargaImagen = [this](const std::string& ruta) {
             pedidas.push_back(ruta);
             return editor::ImagenCargada{editor::CargaDeImagen::Entera, {640, 480}};
         };
@@ -837,21 +837,21 @@ TEST_F(Imagen, SePoneYSeQuitaConSusLeyendasYReleeLosComponentes)
     s.Red.ColUEHs.Item(1).Area = 7;  // not saved
     disco.Pon("/proy/Arroyo.jpg", "x");
     editor::cmdImagenUEHs_Click(f, s);
-    EXPECT_TRUE(f.ImagenVisible);
-    EXPECT_EQ(f.cmdImagenUEHs, "Quitar Imágen");
-    EXPECT_EQ(f.imagen, (Tamano{640, 480}));
-    EXPECT_EQ(f.rutaImagen, "/proy/Arroyo.jpg");
+    EXPECT_TRUE(f.fondo.ImagenVisible);
+    EXPECT_EQ(f.fondo.cmdImagenUEHs, "Quitar Imágen");
+    EXPECT_EQ(f.fondo.imagen, (Tamano{640, 480}));
+    EXPECT_EQ(f.fondo.rutaImagen, "/proy/Arroyo.jpg");
     EXPECT_EQ(pedidas, (std::vector<std::string>{"/proy/Arroyo.jpg"}));
     EXPECT_EQ(Con(Papel::Imagen).size(), 1U);
     EXPECT_EQ(s.Red.ColUEHs.Item(1).Area, 0);
     s.Red.ColUEHs.Item(1).Area = 7;
     editor::cmdImagenUEHs_Click(f, s);
-    EXPECT_FALSE(f.ImagenVisible);
-    EXPECT_EQ(f.cmdImagenUEHs, "Mostrar Imágen");
+    EXPECT_FALSE(f.fondo.ImagenVisible);
+    EXPECT_EQ(f.fondo.cmdImagenUEHs, "Mostrar Imágen");
     EXPECT_TRUE(Con(Papel::Imagen).empty());
     EXPECT_EQ(s.Red.ColUEHs.Item(1).Area, 0);
     editor::cmdImagenUEHs_Click(f, s);
-    EXPECT_EQ(f.cmdImagenUEHs, "Quitar Imágen");
+    EXPECT_EQ(f.fondo.cmdImagenUEHs, "Quitar Imágen");
     EXPECT_TRUE(anfitrion->sucesos.empty());
 }
 
@@ -861,7 +861,7 @@ TEST_F(Imagen, LoQueLaRelecturaQuitoVuelveConDeshacer)
     Guarda();
     disco.Pon("/proy/Arroyo.jpg", "x");
     red.UEH("u-2", {9, 9});
-    editor::Anota(f, s);
+    editor::Anota(f.historia, s.Red, f.trazo);
     editor::cmdImagenUEHs_Click(f, s);
     EXPECT_EQ(s.Red.NroUEHs, 1);
     EXPECT_FALSE(f.cambiada);
@@ -876,8 +876,8 @@ TEST_F(Imagen, UnArchivoQueNoEstaSeCuentaYLaImagenQuedaQuitada)
     Parte();
     editor::cmdImagenUEHs_Click(f, s);
     EXPECT_EQ(Avisos(), (Cajas{Falla("Error Nro. 53 ,No se encontró el archivoVerifique.")}));
-    EXPECT_FALSE(f.ImagenVisible);
-    EXPECT_EQ(f.cmdImagenUEHs, "Imágen");
+    EXPECT_FALSE(f.fondo.ImagenVisible);
+    EXPECT_EQ(f.fondo.cmdImagenUEHs, "Imágen");
     EXPECT_EQ(s.Red.NroCauces, 1);  // nothing was read again
     EXPECT_TRUE(pedidas.empty());
 }
@@ -887,16 +887,16 @@ TEST_F(Imagen, UnDirectorioQueNoEstaTambien)
     s.Configuracion.ArchivoImagen = "/otra/Arroyo.jpg";
     editor::cmdImagenUEHs_Click(f, s);
     EXPECT_EQ(Avisos(), (Cajas{Falla("Error Nro. 76 ,No se encontró la ruta de accesoVerifique.")}));
-    EXPECT_FALSE(f.ImagenVisible);
+    EXPECT_FALSE(f.fondo.ImagenVisible);
 }
 
 TEST_F(Imagen, UnArchivoQueNoEsImagenTambien)
 {
     disco.Pon("/proy/Arroyo.jpg", "no");
-    f.CargaImagen = [](const std::string&) { return editor::ImagenCargada{}; };
+    f.fondo.CargaImagen = [](const std::string&) { return editor::ImagenCargada{}; };
     editor::cmdImagenUEHs_Click(f, s);
     EXPECT_EQ(Avisos(), (Cajas{Falla("Error Nro. 75 ,Error de acceso a la ruta o al archivoVerifique.")}));
-    EXPECT_FALSE(f.ImagenVisible);
+    EXPECT_FALSE(f.fondo.ImagenVisible);
 }
 
 // The file behind the name, what became of it, what of it is shown, and what the user reads.
@@ -929,14 +929,16 @@ TEST_F(Imagen, LoQueLeFaltaAUnaImagenSeDice)
     };
     for (const auto& caso : casos) {
         anfitrion->sucesos.clear();
-        f.ImagenVisible = false;
-        f.CargaImagen = [&](const std::string&) { return editor::ImagenCargada{caso.fin, caso.tamano}; };
+        f.fondo.ImagenVisible = false;
+        f.fondo.CargaImagen = [&](const std::string&) {
+            return editor::ImagenCargada{caso.fin, caso.tamano};
+        };
         editor::cmdImagenUEHs_Click(f, s);
         Cajas esperadas;
         if (!caso.aviso.empty())
             esperadas.push_back({caso.aviso, "Advertencia !", model::Icono::Exclamacion});
         EXPECT_EQ(Avisos(), esperadas);
-        EXPECT_EQ(f.ImagenVisible, caso.tamano.ancho > 0);
+        EXPECT_EQ(f.fondo.ImagenVisible, caso.tamano.ancho > 0);
     }
 }
 
@@ -948,7 +950,7 @@ TEST_F(Imagen, UnaImagenMayorQueLosArchivosDelProyectoSeMuestra)
     };
     editor::cmdImagenUEHs_Click(f, s);
     EXPECT_EQ(pedidas, (std::vector<std::string>{"/proy/Arroyo.jpg"}));
-    EXPECT_EQ(f.imagen, (Tamano{640, 480}));
+    EXPECT_EQ(f.fondo.imagen, (Tamano{640, 480}));
 }
 
 }  // namespace

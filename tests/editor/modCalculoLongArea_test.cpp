@@ -48,14 +48,14 @@ const std::vector<Punto> RectanguloAlReves{{0, 400}, {300, 400}, {300, 0}, {0, 0
 TEST_F(Medicion, UnaPoligonalAbiertaDaSuLargoPorLaEscala)
 {
     Marca({{0, 0}, {300, 400}, {300, 500}});  // 500 + 100 units of 2 m
-    EXPECT_EQ(f.NroPuntosMedida, 3);
+    EXPECT_EQ(f.medicion.NroPuntosMedida, 3);
     Responde({false});
     Tecla(Tecla::Enter);
     EXPECT_EQ(Preguntas(), (Cajas{PreguntaCierre}));
     EXPECT_EQ(Avisos(), (Cajas{Abierta("1200")}));
-    EXPECT_EQ(f.lblLongArea, "Perímetro=1200 metros");
-    EXPECT_EQ(f.LongitudMedida, 1200);
-    EXPECT_EQ(f.NroPuntosMedida, 0);
+    EXPECT_EQ(f.medicion.lblLongArea, "Perímetro=1200 metros");
+    EXPECT_EQ(f.medicion.LongitudMedida, 1200);
+    EXPECT_EQ(f.medicion.NroPuntosMedida, 0);
     EXPECT_TRUE(Con(Papel::Medida).empty());
 }
 
@@ -66,8 +66,8 @@ TEST_F(Medicion, UnPoligonoCerradoDaPerimetroYArea)
     Tecla(Tecla::Enter);
     // 1400 units of 2 m; the trapezium form gives 2 * 120000 units of 4 m2, halved.
     EXPECT_EQ(Avisos(), (Cajas{Cerrada("2800", "48")}));
-    EXPECT_EQ(f.AreaMedida, 48);
-    EXPECT_EQ(f.lblLongArea, "Perímetro=2800 metros    -    Area = 48 Has");
+    EXPECT_EQ(f.medicion.AreaMedida, 48);
+    EXPECT_EQ(f.medicion.lblLongArea, "Perímetro=2800 metros    -    Area = 48 Has");
 }
 
 TEST_F(Medicion, LaMismaFiguraAlRevesDaElAreaConElOtroSigno)
@@ -112,7 +112,7 @@ TEST_F(Medicion, EnterConDosPuntosNoHaceNadaYElDobleClicSiMide)
     Marca({{0, 0}, {30, 40}});
     Tecla(Tecla::Enter);
     EXPECT_TRUE(anfitrion->sucesos.empty());
-    EXPECT_EQ(f.NroPuntosMedida, 2);
+    EXPECT_EQ(f.medicion.NroPuntosMedida, 2);
     Responde({false});
     editor::picDibujo_DblClick(f, s);
     EXPECT_EQ(Avisos(), (Cajas{Abierta("100")}));
@@ -167,7 +167,7 @@ TEST_F(Medicion, EscSueltaLosPuntosYDejaElEditorAbierto)
 {
     Marca({{0, 0}, {30, 40}});
     Tecla(Tecla::Esc);
-    EXPECT_EQ(f.NroPuntosMedida, 0);
+    EXPECT_EQ(f.medicion.NroPuntosMedida, 0);
     EXPECT_TRUE(Con(Papel::Medida).empty());
     EXPECT_TRUE(f.abierta);
     EXPECT_EQ(editor::Modo(f), Boton::LongArea);
@@ -182,15 +182,15 @@ TEST_F(Medicion, DejarElModoSueltaLosPuntos)
 {
     Marca({{0, 0}, {30, 40}});
     PonModo(Boton::LongArea);  // the same mode goes on
-    EXPECT_EQ(f.NroPuntosMedida, 2);
+    EXPECT_EQ(f.medicion.NroPuntosMedida, 2);
     PonModo(Boton::GuardaUEHs);
-    EXPECT_EQ(f.NroPuntosMedida, 2);
+    EXPECT_EQ(f.medicion.NroPuntosMedida, 2);
     PonModo(Boton::Selecciona);
-    EXPECT_EQ(f.NroPuntosMedida, 0);
+    EXPECT_EQ(f.medicion.NroPuntosMedida, 0);
     EXPECT_TRUE(Con(Papel::Medida).empty());
     PonModo(Boton::LongArea);
     Marca({{50, 0}});
-    EXPECT_EQ(f.NroPuntosMedida, 1);
+    EXPECT_EQ(f.medicion.NroPuntosMedida, 1);
 }
 
 TEST_F(Medicion, NoCambiaLaRedNiSuHistoria)
@@ -213,10 +213,10 @@ TEST_F(Medicion, UnLargoFueraDelTipoEsUnaFallaQueSeCuenta)
 TEST_F(Medicion, ElPunto32768EsUnaFallaYNoSeAgrega)
 {
     for (int i = 0; i < 32767; ++i)
-        editor::AgregaPuntoMedida(f, {1, 1});
+        editor::AgregaPuntoMedida(f.medicion, {1, 1});
     Clic(1, 1);
     EXPECT_EQ(Avisos(), (Cajas{{"Error Nro. 6 ,DesbordamientoVerifique", "", model::Icono::Ninguno}}));
-    EXPECT_EQ(f.NroPuntosMedida, 32767);
+    EXPECT_EQ(f.medicion.NroPuntosMedida, 32767);
 }
 
 }  // namespace

@@ -59,6 +59,16 @@ TEST(Clases, LoQueSeEscribePorElAccesoQuedaEnElComponente)
     EXPECT_EQ(red.ColUEHs.Item(1).IconoUEHy, 20);
 }
 
+TEST(Clases, ElNumeroDeUnNombreEsElDelPrimeroQueLoLleva)
+{
+    Red red = DeCuatro();
+    red.ColLagos.Agrega({.NombreLAGO = "l-2"});
+    red.ColLagos.Agrega({.NombreLAGO = "l-2"});
+    EXPECT_EQ(NumeroDe<Lago>(red, "l-2"), 2);
+    EXPECT_EQ(NumeroDe<Lago>(red, "l-3"), 0);
+    EXPECT_EQ(NumeroDe<UEH>(red, "l-2"), 0);
+}
+
 TEST(Clases, NadieDrenaAlVacioNiAlCero)
 {
     const Red red = DeCuatro();

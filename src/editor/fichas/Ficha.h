@@ -1,21 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <concepts>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 
 #include "editor/Destinos.h"
+#include "editor/EnMano.h"
 #include "editor/NombreComponente.h"
 #include "forms/CampoNumerico.h"
 #include "forms/Rotulo.h"
-#include "model/Coleccion.h"
 #include "model/Numeros.h"
 #include "model/Siro.h"
 
 // What the property forms of UEHs, Cauces, Represas and Lagos have in common: a list to move among the
-// components of a kind, a name that the others of the kind don't have, and destinations. A form tells with
-// one `ReglasFicha` what its controls are.
+// components of a kind, a name that the others of the kind don't have, destinations, number fields. Name and
+// destination are taken at once, the other fields on moving to another component and on "Aceptar". A form
+// tells with one `ReglasFicha` what its controls are.
 //
 // Faults go to the caller. Nothing here reaches the disk.
 namespace editor {
@@ -40,85 +43,90 @@ inline constexpr std::string_view LeyendaAceptar = "Aceptar";
 inline constexpr std::string_view LeyendaCancelar = "Cancelar";
 
 /// What tells one form from another: the kind of its components and its controls.
-template <typename Forma, typename Registro, int Limite>
+template <typename Forma, typename Registro>
 struct ReglasFicha {
-    std::string_view prefijo;  ///< of the names of the kind
-    model::Coleccion<Registro, Limite> model::Red::*coleccion;
-    std::int16_t model::Seleccion::*seleccion;  ///< number of the component in hand
-    std::string Registro::*nombre;
-    std::int16_t Registro::*numero;
-    OrdenDestinos destinos;
+    using Componente = Registro;
 
+    OrdenDestinos destinos;
     std::string_view controlNombre;
     std::string Forma::*txtNombre;
     Lista Forma::*lista;          ///< names of all components of the kind
     Lista Forma::*listaDestinos;  ///< where the component in hand may drain to
     std::string Forma::*lblNumero;
     std::string Forma::*lblNombre;
+    std::span<const forms::CampoNumerico<Forma, Registro>> campos;
 };
 
-/// The component in hand. Throws Falla 9 or 91 where the selection names none.
-template <typename Reglas>
-auto& EnMano(model::Siro& s, const Reglas& reglas)
-{
-    return (s.Red.*reglas.coleccion).Ranura(s.Seleccion.*reglas.seleccion);
-}
+/// A form's record: it has its `Reglas`, and two routines of its own, `MuestraCampos` and `GuardaCampos`,
+/// that show the component in hand and store the fields in it.
+template <typename Forma>
+concept EsFicha = std::derived_from<Forma, Ficha>;
+
+template <EsFicha Forma>
+using ComponenteDe = typename decltype(Forma::Reglas)::Componente;
 
 /// Fills the list of components and marks the one in hand.
-template <typename Forma, typename Reglas>
-void LlenaLista(Forma& f, const model::Siro& s, const Reglas& reglas)
+template <EsFicha Forma>
+void LlenaLista(Forma& f, const model::Siro& s)
 {
-    Lista& lista = f.*reglas.lista;
-    lista.items.clear();
-    for (const auto& componente : s.Red.*reglas.coleccion)
-        lista.items.push_back(componente.*reglas.nombre);
-    lista.indice = s.Seleccion.*reglas.seleccion - 1;
+    using T = ComponenteDe<Forma>;
+    Lista& lista = f.*Forma::Reglas.lista;
+    lista = {.indice = Elegido<T>(s.Seleccion) - 1};
+    for (const T& componente : model::Todos<T>(s.Red))
+        lista.items.push_back(model::Nombre(componente));
+}
+
+/// Shows number, name, destination and numbers of the component in hand.
+template <EsFicha Forma>
+void MuestraComunes(Forma& f, model::Siro& s)
+{
+    const auto& componente = EnMano<ComponenteDe<Forma>>(s);
+    f.foco = {};
+    f.*Forma::Reglas.lblNumero = model::NumeroATexto(std::int32_t{model::Numero(componente)});
+    f.*Forma::Reglas.lblNombre = model::Nombre(componente);
+    f.*Forma::Reglas.txtNombre = model::Nombre(componente);
+    f.*Forma::Reglas.listaDestinos = ListaDestinos(s.Red, Forma::Reglas.destinos, componente.Cauce_aa);
+    (f.*Forma::Reglas.lista).indice = Elegido<ComponenteDe<Forma>>(s.Seleccion) - 1;
+    forms::Muestra(f, componente, Forma::Reglas.campos);
+}
+
+/// Shows a component that has just been taken in hand.
+template <EsFicha Forma>
+void AlTomar(Forma& f, model::Siro& s)
+{
+    MuestraCampos(f, s);
 }
 
 /// Opens a form on the selected component, on the first where none is selected. Returns false where there is
-/// no component: the form is closed again.
-template <typename Forma, typename Reglas>
-bool AbreFicha(Forma& f, model::Siro& s, const Reglas& reglas)
+/// no component: the form stays closed.
+template <EsFicha Forma>
+bool AbreVacia(Forma& f, model::Siro& s)
 {
+    using T = ComponenteDe<Forma>;
     f = Forma{};
-    if ((s.Red.*reglas.coleccion).Cuenta() == 0) return false;
-    if (s.Seleccion.*reglas.seleccion == 0) s.Seleccion.*reglas.seleccion = 1;
+    if (model::Todos<T>(s.Red).Cuenta() == 0) return false;
+    if (Elegido<T>(s.Seleccion) == 0) Elegido<T>(s.Seleccion) = 1;
     f.abierta = true;
-    LlenaLista(f, s, reglas);
+    LlenaLista(f, s);
     return true;
 }
 
-/// Shows number, name and destination of the component in hand.
-template <typename Forma, typename Reglas>
-void MuestraIdentidad(Forma& f, model::Siro& s, const Reglas& reglas)
+/// The same, with the component's fields.
+template <EsFicha Forma>
+void Abre(Forma& f, model::Siro& s)
 {
-    const auto& componente = EnMano(s, reglas);
-    f.foco = {};
-    f.*reglas.lblNumero = model::NumeroATexto(std::int32_t{componente.*reglas.numero});
-    f.*reglas.lblNombre = componente.*reglas.nombre;
-    f.*reglas.txtNombre = componente.*reglas.nombre;
-    f.*reglas.listaDestinos = ListaDestinos(s, reglas.destinos, componente.Cauce_aa);
-    (f.*reglas.lista).indice = s.Seleccion.*reglas.seleccion - 1;
+    if (AbreVacia(f, s)) AlTomar(f, s);
 }
 
-/// Whether a form holds what its component doesn't: `muestra` shows a form the component anew.
-template <typename Forma, typename Muestra>
-bool Difiere(const Forma& f, Muestra muestra)
+/// Whether the form holds what "Aceptar" would still have to store.
+template <EsFicha Forma>
+bool SinAplicar(const Forma& f, model::Siro& s)
 {
     if (!f.abierta) return false;
     Forma limpia = f;
-    muestra(limpia);
+    MuestraCampos(limpia, s);
     limpia.foco = f.foco;
     return !(limpia == f);
-}
-
-/// Takes the component of a line of the list in hand. Returns false where there is no such line.
-template <typename Forma, typename Reglas>
-bool TomaDeLista(const Forma& f, model::Siro& s, const Reglas& reglas, int indice)
-{
-    if (indice < 0 || indice >= static_cast<int>((f.*reglas.lista).items.size())) return false;
-    s.Seleccion.*reglas.seleccion = static_cast<std::int16_t>(indice + 1);
-    return true;
 }
 
 // --- name ---
@@ -126,55 +134,106 @@ bool TomaDeLista(const Forma& f, model::Siro& s, const Reglas& reglas, int indic
 /// The name being typed, and once more when it is left: the prefix is put in front, the text is cut, and a
 /// name that another component of the kind has becomes "Invalido", all of it selected. An "Invalido" that
 /// stands there already is the form's own and stays. Returns false where the name became invalid.
-template <typename Forma, typename Reglas>
-bool ArreglaNombre(Forma& f, const model::Siro& s, const Reglas& reglas)
+template <EsFicha Forma>
+bool ArreglaNombre(Forma& f, const model::Siro& s)
 {
+    using T = ComponenteDe<Forma>;
     f.foco = {};
-    std::string& texto = f.*reglas.txtNombre;
+    std::string& texto = f.*Forma::Reglas.txtNombre;
     if (texto == NombreInvalido) return true;
-    texto = NombreConPrefijo(reglas.prefijo, texto);
+    texto = NombreConPrefijo(model::DeClase<T>::prefijo, texto);
     int numero = 0;
-    for (const auto& componente : s.Red.*reglas.coleccion) {
-        if (++numero == s.Seleccion.*reglas.seleccion || componente.*reglas.nombre != texto) continue;
+    for (const T& componente : model::Todos<T>(s.Red)) {
+        if (++numero == Elegido<T>(s.Seleccion) || model::Nombre(componente) != texto) continue;
         texto = NombreInvalido;
-        forms::Retiene(f, reglas.controlNombre);
+        forms::Retiene(f, Forma::Reglas.controlNombre);
         return false;
     }
     return true;
 }
 
 /// Leaving the name: gives the component in hand the name in the field, after the rules of `ArreglaNombre`;
-/// destinations follow. An invalid name isn't stored. Returns false where the name became invalid just now.
-template <typename Forma, typename Reglas>
-bool GuardaNombre(Forma& f, model::Siro& s, const Reglas& reglas, SiguenNombre siguen = {})
+/// destinations follow, but for that of a reach that drains to itself. An invalid name isn't stored. Returns
+/// false where the name became invalid just now.
+template <EsFicha Forma>
+bool GuardaNombre(Forma& f, model::Siro& s)
 {
-    if (!ArreglaNombre(f, s, reglas)) return false;
-    const std::string nuevo = f.*reglas.txtNombre;
-    auto& componente = EnMano(s, reglas);
-    if (nuevo == NombreInvalido || nuevo == componente.*reglas.nombre) return true;
-    RenombraDestinos(s, componente.*reglas.nombre, nuevo, siguen);
-    componente.*reglas.nombre = nuevo;
-    f.*reglas.lblNombre = nuevo;
-    f.*reglas.listaDestinos = ListaDestinos(s, reglas.destinos, componente.Cauce_aa);
-    LlenaLista(f, s, reglas);
+    using T = ComponenteDe<Forma>;
+    if (!ArreglaNombre(f, s)) return false;
+    const std::string nuevo = f.*Forma::Reglas.txtNombre;
+    T& componente = EnMano<T>(s);
+    if (nuevo == NombreInvalido || nuevo == model::Nombre(componente)) return true;
+    // No component drains to a UEH: of the UEHs no destination follows.
+    RenombraDestinos(s.Red, model::Nombre(componente), nuevo,
+                     {.UEHs = !std::is_same_v<T, model::UEH>,
+                      .salvoCauce = std::is_same_v<T, model::Cauce> ? s.Seleccion.CauceSel : 0});
+    model::Nombre(componente) = nuevo;
+    f.*Forma::Reglas.lblNombre = nuevo;
+    f.*Forma::Reglas.listaDestinos = ListaDestinos(s.Red, Forma::Reglas.destinos, componente.Cauce_aa);
+    LlenaLista(f, s);
     s.Anfitrion.RedibujaEditor();
     return true;
 }
 
-/// Storing the form: the same for a name that was typed and not left. One that nobody touched stays as it is,
-/// though a file or a division of a reach may have given it no prefix, or more characters than fit.
-template <typename Forma, typename Reglas>
-void GuardaNombreTocado(Forma& f, model::Siro& s, const Reglas& reglas, SiguenNombre siguen = {})
+/// Leaving a field, by its control's name. Returns false where its text is refused and the focus stays.
+template <EsFicha Forma>
+bool AlSalir(Forma& f, model::Siro& s, std::string_view control)
 {
-    if (f.*reglas.txtNombre != EnMano(s, reglas).*reglas.nombre) GuardaNombre(f, s, reglas, siguen);
+    if (control == Forma::Reglas.controlNombre) return GuardaNombre(f, s);
+    return forms::AlSalir(f, s, Forma::Reglas.campos, control);
+}
+
+// --- storing and closing ---
+
+/// Stores the form in the component in hand. A name that nobody touched stays as it is, though a file or a
+/// division of a reach may have given it no prefix, or more characters than fit.
+template <EsFicha Forma>
+void Guarda(Forma& f, model::Siro& s)
+{
+    if (f.*Forma::Reglas.txtNombre != model::Nombre(EnMano<ComponenteDe<Forma>>(s))) GuardaNombre(f, s);
+    GuardaCampos(f, s);
+}
+
+/// Another component is picked, from 0: the fields are stored in the one in hand first. Nothing is taken in
+/// hand where there is no such line.
+template <EsFicha Forma>
+void EligeComponente(Forma& f, model::Siro& s, int indice)
+{
+    Guarda(f, s);
+    if (indice < 0 || indice >= static_cast<int>((f.*Forma::Reglas.lista).items.size())) return;
+    Elegido<ComponenteDe<Forma>>(s.Seleccion) = static_cast<std::int16_t>(indice + 1);
+    AlTomar(f, s);
+}
+
+/// What stays selected when the form of a UEH or a Cauce closes.
+inline void SueltaSeleccion(Ficha& /*f*/, model::Siro& s, bool /*guardada*/)
+{
+    s.Seleccion.CauceSel = s.Seleccion.UEHSel = 0;
 }
 
 /// Closes a form and shows in the editor what it has changed.
-inline void CierraFicha(Ficha& f, const model::Siro& s)
+template <EsFicha Forma>
+void Cierra(Forma& f, model::Siro& s, bool guardada)
 {
+    SueltaSeleccion(f, s, guardada);
     f.abierta = false;
     f.foco = {};
     s.Anfitrion.RedibujaEditor();
+}
+
+/// Stores the fields and closes.
+template <EsFicha Forma>
+void OKButton(Forma& f, model::Siro& s)
+{
+    Guarda(f, s);
+    Cierra(f, s, true);
+}
+
+/// Closes without storing: name and destination already taken stay.
+template <EsFicha Forma>
+void CancelButton(Forma& f, model::Siro& s)
+{
+    Cierra(f, s, false);
 }
 
 }  // namespace editor

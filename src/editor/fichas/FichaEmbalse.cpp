@@ -27,12 +27,11 @@ std::string MensajeHInicialEmb(AlturasTabla alturas)
 
 void MuestraMetodo(FichaEmbalse& f, std::string& Metodo)
 {
-    if (std::find(MetodosEmbalse.begin(), MetodosEmbalse.end(), Metodo) == MetodosEmbalse.end())
-        Metodo = PiscinaNivelada;
+    auto metodo = std::ranges::find(MetodosEmbalse, Metodo);
+    if (metodo == MetodosEmbalse.end()) metodo = std::ranges::find(MetodosEmbalse, PiscinaNivelada);
+    Metodo = *metodo;
     f.lstMetodo.items.assign(MetodosEmbalse.begin(), MetodosEmbalse.end());
-    f.lblMetodo = Metodo;
-    f.lstMetodo.indice = static_cast<int>(std::find(MetodosEmbalse.begin(), MetodosEmbalse.end(), Metodo) -
-                                          MetodosEmbalse.begin());
+    EligeMetodo(f, static_cast<int>(metodo - MetodosEmbalse.begin()));
 }
 
 bool EligeMetodo(FichaEmbalse& f, int indice)
@@ -46,11 +45,6 @@ bool EligeMetodo(FichaEmbalse& f, int indice)
 std::string RotuloDeK(const FichaEmbalse& f)
 {
     return f.MuskingumVisible() ? std::string(RotuloK) : f.lblMetodo;
-}
-
-AlturasTabla AlturasDe(const model::Arreglo<std::int16_t>& filas, const model::Matriz<float>& H, int numero)
-{
-    return {H(numero, 1), H(numero, filas(numero))};
 }
 
 bool SaleDeHInicialEmb(FichaEmbalse& f, const model::Siro& s, AlturasTabla alturas)
@@ -72,24 +66,17 @@ bool SaleDeHInicialEmb(FichaEmbalse& f, const model::Siro& s, AlturasTabla altur
     return false;
 }
 
-void LlevaTablas(FichaEmbalse& f, const model::Siro& s, const TablasDeEmbalse& tablas,
+void LlevaTablas(FichaEmbalse& f, const model::Siro& s, std::span<const model::ArchivoDeTablas> archivos,
                  const std::string& nombre)
 {
     const auto lleva = [&] {
-        const bool alguna = model::RenombraBloques(s, tablas.archivos, f.tablasDe, nombre);
+        const bool alguna = model::RenombraBloques(s, archivos, f.tablasDe, nombre);
         f.tablasDe.clear();
         f.lblTablas.clear();
         if (alguna)
             f.lblTablas = "Las tablas llevan ahora el nombre «" + nombre + "»: guarde la red en el editor.";
     };
     model::Sentencia(lleva, model::AvisaArchivo(s));
-}
-
-void CierraConSeleccion(FichaEmbalse& f, model::Siro& s)
-{
-    s.Seleccion.RepresaSel = s.Seleccion.LagoSel = s.Seleccion.UEHSel = 0;
-    s.Seleccion.CauceSel = s.Seleccion.CauceAnterior = s.Seleccion.VerticeSel = 0;
-    CierraFicha(f, s);
 }
 
 }  // namespace editor

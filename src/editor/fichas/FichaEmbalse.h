@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include "editor/ClasesConIcono.h"
 #include "editor/fichas/Ficha.h"
 #include "forms/CampoNumerico.h"
 #include "model/Siro.h"
@@ -62,78 +63,102 @@ struct AlturasTabla {
     float minima = 0, maxima = 0;
 };
 
-/// The first and the last height of a table. Throws Falla 9 for a component that the tables in memory don't
-/// have.
-AlturasTabla AlturasDe(const model::Arreglo<std::int16_t>& filas, const model::Matriz<float>& H, int numero);
-
 /// Leaving the initial height: 0 always passes, another number does within the table, both ends included.
 /// The message names the ends. Returns false where the text is refused; "0" then stands in its place.
 bool SaleDeHInicialEmb(FichaEmbalse& f, const model::Siro& s, AlturasTabla alturas);
-
-/// Drains a Represa or a Lago to an entry of its list of destinations, point included. Returns false where
-/// no entry is selected.
-template <typename Registro>
-bool TomaDestino(Registro& componente, model::Siro& s, const FichaEmbalse& f)
-{
-    const auto destino = DestinoElegido(s, OrdenDestinos::SoloCauces, f.lstCauceAA);
-    if (!destino) return false;
-    const Punto en = PuntoDestino(s, *destino);
-    componente.Cauce_aa = destino->Cauce_aa;
-    componente.XCauce = en.X;
-    componente.YCauce = en.Y;
-    return true;
-}
 
 /// Caption of the key that takes the tables along, and what its tip says.
 inline constexpr std::string_view LeyendaLlevaTablas = "&Llevar las tablas";
 inline constexpr std::string_view AyudaLlevaTablas =
     "Pone este nombre a las tablas en sus archivos; después guarde la red en el editor";
 
-/// Of the component in hand: its files of tables, and the words for its kind.
+/// Of a kind: its files of tables, the words for it, and the heights of its table.
 struct TablasDeEmbalse {
     std::span<const model::ArchivoDeTablas> archivos;
     std::string_view nadie;  ///< "ninguna Represa"
+    model::Arreglo<std::int16_t> model::Red::*filas;
+    model::Matriz<float> model::Red::*H;
 };
 inline constexpr auto ArchivosDeRepresa =
     std::to_array({model::ArchivoDeTablas::RHAS, model::ArchivoDeTablas::RHQ});
 inline constexpr auto ArchivosDeLago = std::to_array({model::ArchivoDeTablas::LHASQ});
-inline constexpr TablasDeEmbalse TablasDeRepresa{ArchivosDeRepresa, "ninguna Represa"};
-inline constexpr TablasDeEmbalse TablasDeLago{ArchivosDeLago, "ningún Lago"};
+
+template <typename T>
+inline constexpr TablasDeEmbalse TablasDe{};
+template <>
+inline constexpr TablasDeEmbalse TablasDe<model::Represa>{
+    ArchivosDeRepresa, "ninguna Represa", &model::Red::RepresaFilasHAS, &model::Red::RepresaH};
+template <>
+inline constexpr TablasDeEmbalse TablasDe<model::Lago>{ArchivosDeLago, "ningún Lago", &model::Red::LagoFilas,
+                                                       &model::Red::LagoH};
+
+/// The form of a Represa or of a Lago.
+template <typename Forma>
+concept EsFichaEmbalse = EsFicha<Forma> && std::derived_from<Forma, FichaEmbalse>;
 
 /// Tables are kept by name, block after block in the order of the components: where the component in hand has
 /// none in a file, and the block in its place bears a name that nobody bears, a rename has left it behind.
 /// Its name goes into `tablasDe`, and `lblTablas` says so.
-template <typename Coleccion, typename Registro>
-void BuscaTablas(FichaEmbalse& f, const model::Siro& s, const TablasDeEmbalse& tablas,
-                 const Coleccion& coleccion, std::string Registro::*nombre, int numero)
+template <EsFichaEmbalse Forma>
+void BuscaTablas(Forma& f, const model::Siro& s)
 {
-    const auto esDeAlguien = [&](const std::string& buscado) {
-        return std::any_of(coleccion.begin(), coleccion.end(),
-                           [&](const Registro& c) { return c.*nombre == buscado; });
-    };
+    using T = ComponenteDe<Forma>;
     f.tablasDe.clear();
     f.lblTablas.clear();
-    const std::string& propio = coleccion.Item(numero).*nombre;
-    for (const model::ArchivoDeTablas archivo : tablas.archivos) {
+    const int numero = Elegido<T>(s.Seleccion);
+    const std::string& propio = model::Nombre(model::Todos<T>(s.Red).Item(numero));
+    for (const model::ArchivoDeTablas archivo : TablasDe<T>.archivos) {
         const std::vector<model::BloqueDeTabla> bloques = model::BloquesDe(s, archivo);
         const auto lugar = static_cast<std::size_t>(numero) - 1;
-        const bool tiene = std::any_of(bloques.begin(), bloques.end(),
-                                       [&](const auto& bloque) { return bloque.nombre == propio; });
+        const bool tiene =
+            std::ranges::any_of(bloques, [&](const auto& bloque) { return bloque.nombre == propio; });
         if (tiene || lugar >= bloques.size() || bloques[lugar].filas == 0) continue;
-        if (esDeAlguien(bloques[lugar].nombre)) continue;
+        if (model::NumeroDe<T>(s.Red, bloques[lugar].nombre) > 0) continue;
         f.tablasDe = bloques[lugar].nombre;
         f.lblTablas = "Las tablas guardadas con el nombre «" + f.tablasDe + "» ya no son de " +
-                      std::string(tablas.nadie) + ".";
+                      std::string(TablasDe<T>.nadie) + ".";
         return;
     }
 }
 
 /// Takes the tables along: in the files they bear the name of the component from now on. A fault of the disk
 /// is told, and they stay to be taken.
-void LlevaTablas(FichaEmbalse& f, const model::Siro& s, const TablasDeEmbalse& tablas,
+void LlevaTablas(FichaEmbalse& f, const model::Siro& s, std::span<const model::ArchivoDeTablas> archivos,
                  const std::string& nombre);
 
-/// "Aceptar", the fields being stored: nothing stays selected.
-void CierraConSeleccion(FichaEmbalse& f, model::Siro& s);
+/// Leaving a field: a rename may leave the tables behind, and the initial height lies within them.
+template <EsFichaEmbalse Forma>
+bool AlSalir(Forma& f, model::Siro& s, std::string_view control)
+{
+    using T = ComponenteDe<Forma>;
+    if (control == Forma::Reglas.controlNombre) {
+        const std::string antes = f.*Forma::Reglas.lblNombre;
+        const bool vale = GuardaNombre(f, s);
+        if (f.*Forma::Reglas.lblNombre != antes) BuscaTablas(f, s);
+        return vale;
+    }
+    if (control == ReglaHInicialEmb.control) {
+        const int numero = model::Numero(EnMano<T>(s));
+        const auto& H = s.Red.*TablasDe<T>.H;
+        return SaleDeHInicialEmb(f, s, {H(numero, 1), H(numero, (s.Red.*TablasDe<T>.filas)(numero))});
+    }
+    return forms::AlSalir(f, s, Forma::Reglas.campos, control);
+}
+
+/// Drains the component in hand to the entry of the list of destinations that is selected, point included.
+/// Returns false where none is.
+template <EsFichaEmbalse Forma>
+bool TomaDestino(Forma& f, model::Siro& s)
+{
+    const auto destino = DestinoElegido(s.Red, OrdenDestinos::SoloCauces, f.lstCauceAA);
+    if (destino) Acopla(EnMano<ComponenteDe<Forma>>(s), destino->Cauce_aa, PuntoDestino(s.Red, *destino));
+    return destino.has_value();
+}
+
+/// After "Aceptar" nothing stays selected, after "Cancelar" all does.
+inline void SueltaSeleccion(FichaEmbalse& /*f*/, model::Siro& s, bool guardada)
+{
+    if (guardada) LimpiaSeleccion(s);
+}
 
 }  // namespace editor

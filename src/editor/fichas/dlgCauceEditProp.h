@@ -10,8 +10,7 @@
 #include "forms/CampoNumerico.h"
 #include "model/Siro.h"
 
-// Rules of the form with the properties of the reaches, one at a time. Names and destinations are taken at
-// once, the other fields on moving to another reach and on "Aceptar". Faults go to the caller.
+// Rules of the form with the properties of the reaches, one at a time.
 namespace editor {
 
 inline constexpr std::string_view TituloDlgCauceEditProp = "Propiedades de un tramo de Cauce";
@@ -55,6 +54,8 @@ struct dlgCauceEditProp : Ficha {
     std::string txtCauce_k_Musk{};   ///< [min]
     std::string txtCauce_n_Musk{};   ///< [-]
     bool operator==(const dlgCauceEditProp&) const = default;
+
+    static const ReglasFicha<dlgCauceEditProp, model::Cauce> Reglas;
 };
 
 // clang-format off
@@ -75,17 +76,19 @@ inline constexpr auto CamposDlgCauceEditProp =
 });
 // clang-format on
 
-/// Opening, on the selected reach or the first one. With no reach the form stays closed.
-void Abre(dlgCauceEditProp& f, model::Siro& s);
+inline constexpr ReglasFicha<dlgCauceEditProp, model::Cauce> dlgCauceEditProp::Reglas{
+    .destinos = OrdenDestinos::Todos,
+    .controlNombre = "txtNombreCauce",
+    .txtNombre = &dlgCauceEditProp::txtNombreCauce,
+    .lista = &dlgCauceEditProp::lstCauces,
+    .listaDestinos = &dlgCauceEditProp::lstTributaCauce,
+    .lblNumero = &dlgCauceEditProp::lblNroCauce,
+    .lblNombre = &dlgCauceEditProp::lblNombreCauce,
+    .campos = CamposDlgCauceEditProp,
+};
 
-/// Another reach is picked, from 0: the fields are stored in the one in hand first.
-void lstCauces_Click(dlgCauceEditProp& f, model::Siro& s, int indice);
-
-/// The name is being typed. Returns false where it became invalid.
-bool txtNombreCauce_Cambia(dlgCauceEditProp& f, const model::Siro& s);
-
-/// Leaving a field, by its control's name. Returns false where its text is refused and the focus stays.
-bool AlSalir(dlgCauceEditProp& f, model::Siro& s, std::string_view control);
+void MuestraCampos(dlgCauceEditProp& f, model::Siro& s);
+void GuardaCampos(dlgCauceEditProp& f, model::Siro& s);
 
 /// A destination is picked, from 0: it takes effect at once. A Represa or a Lago draws the lower end of the
 /// reach to its icon. Nothing keeps a reach from draining to itself or round in a circle.
@@ -95,16 +98,8 @@ void lstTributaCauce_Click(dlgCauceEditProp& f, model::Siro& s, int indice);
 void optDirecta_Click(dlgCauceEditProp& f);
 void optMusk_Click(dlgCauceEditProp& f);
 
-/// Whether the form holds what "Aceptar" would still have to store.
-bool SinAplicar(const dlgCauceEditProp& f, model::Siro& s);
-
-/// Stores the fields, clears the selection of UEH and Cauce and closes.
-void OKButton(dlgCauceEditProp& f, model::Siro& s);
-/// The same without storing: name and destination already taken stay.
-void CancelButton(dlgCauceEditProp& f, model::Siro& s);
-
 /// Length of a reach as drawn [m], rounded at each vertex, at `escala` [m per drawing unit]. Throws Falla 6
 /// where it is outside its type.
-std::int32_t LongitudDibujada(const model::Siro& s, int numCauce, double escala);
+std::int32_t LongitudDibujada(const model::Red& red, int numCauce, double escala);
 
 }  // namespace editor

@@ -26,14 +26,14 @@ dlgCauceEditProp_ventana::dlgCauceEditProp_ventana(forms::Entorno& alrededor, dl
 {
     constexpr int LineasDeDestinos = 6;
     QWidget* const lista = ListaDeComponentes("lstCauces", f.lstCauces,
-                                              [this](int linea) { lstCauces_Click(f, entorno.s, linea); });
+                                              [this](int linea) { EligeComponente(f, entorno.s, linea); });
     QLayout* const datos = EnRejilla({
         Dato("lblNroCauce", f.lblNroCauce),
         Dato("lblNombreCauce", f.lblNombreCauce),
         Dato("lblCantVer", f.lblCantVer),
         Dato("lblOrdenCauce", f.lblOrdenCauce),
         CampoNombre(
-            "txtNombreCauce", f.txtNombreCauce, [this] { txtNombreCauce_Cambia(f, entorno.s); },
+            "txtNombreCauce", f.txtNombreCauce, [this] { ArreglaNombre(f, entorno.s); },
             Sale("txtNombreCauce")),
         RenglonDeLista({"lstTributaCauce", f.lstTributaCauce, LineasDeDestinos},
                        [this](int linea) { lstTributaCauce_Click(f, entorno.s, linea); }),

@@ -9,8 +9,7 @@
 #include "forms/CampoNumerico.h"
 #include "model/Siro.h"
 
-// Rules of the form with the properties of the Lagos, one at a time. Name and destination are taken at once,
-// the other fields on moving to another Lago and on "Aceptar". Faults go to the caller.
+// Rules of the form with the properties of the Lagos, one at a time.
 namespace editor {
 
 inline constexpr std::string_view TituloDlgLago =
@@ -51,6 +50,8 @@ struct dlgLago : FichaEmbalse {
     std::string txtLago_k{}, lblLagoCofk{};  ///< [min]
     std::string lblParametros{};
     bool operator==(const dlgLago&) const = default;
+
+    static const ReglasFicha<dlgLago, model::Lago> Reglas;
 };
 
 // clang-format off
@@ -61,19 +62,21 @@ inline constexpr auto CamposDlgLago = std::to_array<forms::CampoNumerico<dlgLago
 });
 // clang-format on
 
-/// Opening, on the selected Lago or the first one; reads the tables of all. With no Lago the form stays
-/// closed.
-void Abre(dlgLago& f, model::Siro& s);
+inline constexpr ReglasFicha<dlgLago, model::Lago> dlgLago::Reglas{
+    .destinos = OrdenDestinos::SoloCauces,
+    .controlNombre = "txtNombreLAGO",
+    .txtNombre = &dlgLago::txtNombreLAGO,
+    .lista = &dlgLago::lstLAGOs,
+    .listaDestinos = &dlgLago::lstCauceAA,
+    .lblNumero = &dlgLago::lblNroLago,
+    .lblNombre = &dlgLago::lblNombreLago,
+    .campos = CamposDlgLago,
+};
 
-/// Another Lago is picked, from 0: the fields are stored in the one in hand first, and the tables are read
-/// anew, so that one that a rename has orphaned is missed here and not in a run.
-void lstLAGOs_Click(dlgLago& f, model::Siro& s, int indice);
-
-/// The name is being typed. Returns false where it became invalid.
-bool txtNombreLAGO_Cambia(dlgLago& f, const model::Siro& s);
-
-/// Leaving a field, by its control's name. Returns false where its text is refused and the focus stays.
-bool AlSalir(dlgLago& f, model::Siro& s, std::string_view control);
+/// The tables of all are read anew, so that one that a rename has orphaned is missed here and not in a run.
+void AlTomar(dlgLago& f, model::Siro& s);
+void MuestraCampos(dlgLago& f, model::Siro& s);
+void GuardaCampos(dlgLago& f, model::Siro& s);
 
 /// A destination is picked, from 0: it takes effect at once, and again when the fields are stored.
 void lstCauceAA_Click(dlgLago& f, model::Siro& s, int indice);
@@ -89,13 +92,5 @@ PedidoFicha cmdParametros(const dlgLago& f);
 
 /// The tables have been read with the form open: the form of the table does so.
 void AlVolver(dlgLago& f, const model::Siro& s);
-
-/// Whether the form holds what "Aceptar" would still have to store.
-bool SinAplicar(const dlgLago& f, model::Siro& s);
-
-/// Stores the fields, clears the selection and closes.
-void OKButton(dlgLago& f, model::Siro& s);
-/// Closes without storing: name and destination already taken stay, and so does the selection.
-void CancelButton(dlgLago& f, model::Siro& s);
 
 }  // namespace editor

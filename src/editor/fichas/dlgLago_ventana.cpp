@@ -7,7 +7,7 @@ dlgLago_ventana::dlgLago_ventana(forms::Entorno& alrededor, dlgLago& registro, Q
     : FichaEmbalse_ventana(alrededor, {"dlgLago", TituloDlgLago, RotulosDlgLago}, registro, padre)
 {
     Dispone({ListaDeComponentes("lstLAGOs", f.lstLAGOs,
-                                [this](int linea) { lstLAGOs_Click(f, entorno.s, linea); }),
+                                [this](int linea) { EligeComponente(f, entorno.s, linea); }),
              {EnPila({MarcoDeIdentificacion(), {MarcoDeArea(), 1}}), 1}},
             [this] { OKButton(f, entorno.s); });
 }
@@ -16,7 +16,7 @@ QWidget* dlgLago_ventana::MarcoDeIdentificacion()
 {
     auto filas = Identidad(
         {"lblNroLago", "lblNombreLago", "txtNombreLAGO", f.lblNroLago, f.lblNombreLago, f.txtNombreLAGO},
-        [this] { txtNombreLAGO_Cambia(f, entorno.s); });
+        [this] { ArreglaNombre(f, entorno.s); });
     filas.push_back(Renglon("txtReferencia", Campo("txtReferencia", f.txtReferencia)));
     return Marco("fraIdentificacion", EnRejilla(filas));
 }

@@ -11,8 +11,7 @@
 #include "model/Represa.h"
 #include "model/Siro.h"
 
-// Rules of the form with the properties of the Represas, one at a time. Name and destination are taken at
-// once, the other fields on moving to another Represa and on "Aceptar". Faults go to the caller.
+// Rules of the form with the properties of the Represas, one at a time.
 namespace editor {
 
 inline constexpr std::string_view TituloDlgRepresas = "Propiedades de Represas";
@@ -65,6 +64,7 @@ struct dlgRepresas : FichaEmbalse {
     TextosFQ txtFQHmin{}, txtFQHMax{};      ///< [m]
     bool operator==(const dlgRepresas&) const = default;
 
+    static const ReglasFicha<dlgRepresas, model::Represa> Reglas;
     [[nodiscard]] bool cmdTablaQHabilitado() const { return optTablaQ; }
     [[nodiscard]] bool chkFQHabilitado() const { return optFunciones; }
     /// Whether the fields of a function, from 1, can be edited.
@@ -104,17 +104,24 @@ inline constexpr auto CamposFQ = std::to_array<CampoFQ>({
 });
 // clang-format on
 
-/// Opening, on the selected Represa or the first one; reads the tables of all. With no Represa the form stays
-/// closed.
+inline constexpr ReglasFicha<dlgRepresas, model::Represa> dlgRepresas::Reglas{
+    .destinos = OrdenDestinos::SoloCauces,
+    .controlNombre = "txtNombreRepresa",
+    .txtNombre = &dlgRepresas::txtNombreRepresa,
+    .lista = &dlgRepresas::lstRepresas,
+    .listaDestinos = &dlgRepresas::lstCauceAA,
+    .lblNumero = &dlgRepresas::lblNroRepresa,
+    .lblNombre = &dlgRepresas::lblNombreRepresa,
+    .campos = CamposDlgRepresas,
+};
+
+void AlTomar(dlgRepresas& f, model::Siro& s);
+void MuestraCampos(dlgRepresas& f, model::Siro& s);
+void GuardaCampos(dlgRepresas& f, model::Siro& s);
+
+/// Opening reads the tables of all besides.
 void Abre(dlgRepresas& f, model::Siro& s);
 
-/// Another Represa is picked, from 0: the fields are stored in the one in hand first.
-void lstRepresas_Click(dlgRepresas& f, model::Siro& s, int indice);
-
-/// The name is being typed. Returns false where it became invalid.
-bool txtNombreRepresa_Cambia(dlgRepresas& f, const model::Siro& s);
-
-/// Leaving a field, by its control's name. Returns false where its text is refused and the focus stays.
 /// The fields of the outflow functions bear no index here and refuse nothing.
 bool AlSalir(dlgRepresas& f, model::Siro& s, std::string_view control);
 
@@ -140,13 +147,5 @@ void AlVolver(dlgRepresas& f, const model::Siro& s);
 PedidoFicha cmdHSV(const dlgRepresas& f);
 /// Nothing while the outflow is given by functions.
 PedidoFicha cmdTablaQ(const dlgRepresas& f);
-
-/// Whether the form holds what "Aceptar" would still have to store.
-bool SinAplicar(const dlgRepresas& f, model::Siro& s);
-
-/// Stores the fields, clears the selection and closes.
-void OKButton(dlgRepresas& f, model::Siro& s);
-/// Closes without storing: name and destination already taken stay, and so does the selection.
-void CancelButton(dlgRepresas& f, model::Siro& s);
 
 }  // namespace editor

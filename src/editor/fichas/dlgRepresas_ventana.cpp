@@ -19,7 +19,7 @@ dlgRepresas_ventana::dlgRepresas_ventana(forms::Entorno& alrededor, dlgRepresas&
     : FichaEmbalse_ventana(alrededor, {"dlgRepresas", TituloDlgRepresas, RotulosDlgRepresas}, registro, padre)
 {
     Dispone({ListaDeComponentes("lstRepresas", f.lstRepresas,
-                                [this](int linea) { lstRepresas_Click(f, entorno.s, linea); }),
+                                [this](int linea) { EligeComponente(f, entorno.s, linea); }),
              Propiedades(),
              {EnPila({MarcoDeSeleccion(), MarcoDeFunciones(), Hueco()}), 1}},
             [this] { OKButton(f, entorno.s); });
@@ -29,7 +29,7 @@ QLayout* dlgRepresas_ventana::Propiedades()
 {
     std::vector<Partes> filas = Identidad({"lblNroRepresa", "lblNombreRepresa", "txtNombreRepresa",
                                            f.lblNroRepresa, f.lblNombreRepresa, f.txtNombreRepresa},
-                                          [this] { txtNombreRepresa_Cambia(f, entorno.s); });
+                                          [this] { ArreglaNombre(f, entorno.s); });
     filas.push_back(Destinos("lblDrenaCauceAA", &f.lblDrenaCauceAA));
     filas.push_back(Metodo());
     Partes coeficientes =

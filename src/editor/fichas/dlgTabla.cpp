@@ -7,6 +7,7 @@
 #include <iterator>
 #include <utility>
 
+#include "editor/EnMano.h"
 #include "forms/Evento.h"
 #include "model/Avisos.h"
 #include "model/Numeros.h"
@@ -58,37 +59,6 @@ constexpr forms::ReglasGrilla ReglasDe(std::string_view encabezado, std::size_t 
             .columnasFijas = PrimeraColumna};
 }
 
-int CuentaRepresas(const Siro& s)
-{
-    return s.Red.ColRepresas.Cuenta();
-}
-
-int CuentaLagos(const Siro& s)
-{
-    return s.Red.ColLagos.Cuenta();
-}
-
-template <typename Coleccion, typename Registro>
-int LugarDe(const Coleccion& coleccion, std::string Registro::*nombre, std::string_view buscado)
-{
-    int numero = 0;
-    for (const Registro& componente : coleccion) {
-        ++numero;
-        if (componente.*nombre == buscado) return numero;
-    }
-    return 0;
-}
-
-int NumeroDeRepresa(const Siro& s, std::string_view nombre)
-{
-    return LugarDe(s.Red.ColRepresas, &model::Represa::NombreRepresa, nombre);
-}
-
-int NumeroDeLago(const Siro& s, std::string_view nombre)
-{
-    return LugarDe(s.Red.ColLagos, &model::Lago::NombreLAGO, nombre);
-}
-
 constexpr auto Descripciones = std::to_array<DescripcionTabla>({
     {.tipo = TipoTabla::SHV,
      .nombre = "dlgTablaSHV",
@@ -100,11 +70,8 @@ constexpr auto Descripciones = std::to_array<DescripcionTabla>({
                         ArreglosSHV.size()),
      .arreglos = ArreglosSHV,
      .pruebas = PruebasHAS,
-     .seleccion = &model::Seleccion::RepresaSel,
-     .cuenta = &model::Red::NroRepresas,
-     .cuentaEnColeccion = CuentaRepresas,
+     .clase = model::Clase::Represa,
      .filas = &model::Red::RepresaFilasHAS,
-     .numeroDe = NumeroDeRepresa,
      .archivo = model::ArchivoDeTablas::RHAS,
      .lee = model::LeeTablaHSVRepresa,
      .guarda = model::GuardaTablaHSVRepresa},
@@ -117,11 +84,8 @@ constexpr auto Descripciones = std::to_array<DescripcionTabla>({
      .grilla = ReglasDe("^Indice|>H [m]          |> Q[m]          ", ArreglosFQ.size()),  // kept as it stands
      .arreglos = ArreglosFQ,
      .pruebas = std::span(PruebasHAS).first(1),
-     .seleccion = &model::Seleccion::RepresaSel,
-     .cuenta = &model::Red::NroRepresas,
-     .cuentaEnColeccion = CuentaRepresas,
+     .clase = model::Clase::Represa,
      .filas = &model::Red::RepresaFilasHQ,
-     .numeroDe = NumeroDeRepresa,
      .archivo = model::ArchivoDeTablas::RHQ,
      .lee = model::LeeTablaHQRepresa,
      .guarda = model::GuardaTablaHQRepresa},
@@ -137,11 +101,8 @@ constexpr auto Descripciones = std::to_array<DescripcionTabla>({
          ArreglosSHVQ.size()),
      .arreglos = ArreglosSHVQ,
      .pruebas = PruebasHAS,
-     .seleccion = &model::Seleccion::LagoSel,
-     .cuenta = &model::Red::NroLagos,
-     .cuentaEnColeccion = CuentaLagos,
+     .clase = model::Clase::Lago,
      .filas = &model::Red::LagoFilas,
-     .numeroDe = NumeroDeLago,
      .archivo = model::ArchivoDeTablas::LHASQ,
      .lee = model::LeeTablaHSVQLago,
      .guarda = model::GuardaTablaHSVQLago},
@@ -153,6 +114,28 @@ constexpr bool EnOrdenDeTipos()
     return true;
 }
 static_assert(EnOrdenDeTipos());
+
+/// Does something with the kind of the table's components, as `hace<T>()`.
+template <typename F>
+auto ConSuClase(const DescripcionTabla& d, F hace)
+{
+    return d.clase == model::Clase::Represa ? hace.template operator()<model::Represa>()
+                                            : hace.template operator()<model::Lago>();
+}
+
+/// Number of the selected component.
+std::int16_t NumeroElegido(const DescripcionTabla& d, const Siro& s)
+{
+    return ConSuClase(d, [&]<typename T>() { return Elegido<T>(s.Seleccion); });
+}
+
+/// Takes the count of the components from their collection.
+std::int16_t Cuenta(const DescripcionTabla& d, Siro& s)
+{
+    return ConSuClase(d, [&]<typename T>() {
+        return s.Red.*model::DeClase<T>::cuenta = model::Entero16(model::Todos<T>(s.Red).Cuenta());
+    });
+}
 
 // --- grid ---
 
@@ -188,7 +171,7 @@ void PonFilas(dlgTabla& f, std::int16_t filas)
 void MuestraTabla(dlgTabla& f, const Siro& s)
 {
     const DescripcionTabla& d = *f.descripcion;
-    const int numero = s.Seleccion.*d.seleccion;
+    const int numero = NumeroElegido(d, s);
     PonFilas(f, (s.Red.*d.filas)(numero));
     f.txtNroFilas = NumeroATexto(std::int32_t{f.NroFilas});
     for (std::size_t c = 0; c < d.arreglos.size(); ++c)
@@ -214,10 +197,11 @@ void Abre(dlgTabla& f, Siro& s, TipoTabla tipo, std::string lblNro, std::string 
     const DescripcionTabla& d = DescripcionDe(tipo);
     f = {.descripcion = &d, .abierta = true, .grilla = forms::NuevaGrilla(d.grilla)};
     forms::Evento(s, [&] {
-        s.Red.*d.cuenta = model::Entero16(d.cuentaEnColeccion(s));
-        f.hayComponente = s.Red.*d.cuenta > 0;
+        f.hayComponente = Cuenta(d, s) > 0;
         if (!f.hayComponente) return;
-        if (s.Seleccion.*d.seleccion == 0) s.Seleccion.*d.seleccion = 1;
+        ConSuClase(d, [&]<typename T>() {
+            if (Elegido<T>(s.Seleccion) == 0) Elegido<T>(s.Seleccion) = 1;
+        });
         f.lblNro = std::move(lblNro);
         f.lblNombre = std::move(lblNombre);
         d.lee(s);
@@ -251,7 +235,7 @@ namespace {
 void HaceLugar(const dlgTabla& f, Siro& s)
 {
     const DescripcionTabla& d = *f.descripcion;
-    s.Red.*d.cuenta = model::Entero16(d.cuentaEnColeccion(s));
+    Cuenta(d, s);
     int mayor = f.NroFilas;
     for (int numero = 0; numero <= (s.Red.*d.filas).Tope(); ++numero)
         mayor = std::max(mayor, int{(s.Red.*d.filas)(numero)});
@@ -304,7 +288,7 @@ void Guarda(std::int32_t& lugar, double valor)
 void Toma(const dlgTabla& f, Siro& s)
 {
     const DescripcionTabla& d = *f.descripcion;
-    const int numero = s.Seleccion.*d.seleccion;
+    const int numero = NumeroElegido(d, s);
     static_cast<void>((s.Red.*d.filas)(numero));
     for (const bool enSerio : {false, true})
         for (std::size_t c = 0; c < d.arreglos.size(); ++c)
@@ -327,8 +311,9 @@ std::string SePerderian(const dlgTabla& f, const Siro& s)
     const DescripcionTabla& d = *f.descripcion;
     std::string nombres;
     for (const model::BloqueDeTabla& bloque : model::BloquesDe(s, d.archivo)) {
-        const int numero = d.numeroDe(s, bloque.nombre);
-        const bool queda = numero == s.Seleccion.*d.seleccion || (numero > 0 && (s.Red.*d.filas)(numero) > 0);
+        const int numero =
+            ConSuClase(d, [&]<typename T>() { return model::NumeroDe<T>(s.Red, bloque.nombre); });
+        const bool queda = numero == NumeroElegido(d, s) || (numero > 0 && (s.Red.*d.filas)(numero) > 0);
         if (bloque.filas > 0 && !queda) nombres += (nombres.empty() ? "" : ", ") + bloque.nombre;
     }
     return nombres;

@@ -10,6 +10,7 @@
 
 #include "forms/CampoNumerico.h"
 #include "forms/Grilla.h"
+#include "model/Clases.h"
 #include "model/Siro.h"
 #include "model/TablasEmbalse.h"
 
@@ -43,14 +44,10 @@ struct DescripcionTabla {
     std::string_view nombreLblNro;
     std::string_view nombreLblNombre;
     forms::ReglasGrilla grilla;
-    std::span<const ArregloTabla> arreglos;     ///< of grid columns 1, 2, ...
-    std::span<const PruebaOrden> pruebas;       ///< of grid columns 1, 2, ...
-    std::int16_t model::Seleccion::*seleccion;  ///< number of the selected component
-    std::int16_t model::Red::*cuenta;
-    int (*cuentaEnColeccion)(const model::Siro&);
+    std::span<const ArregloTabla> arreglos;           ///< of grid columns 1, 2, ...
+    std::span<const PruebaOrden> pruebas;             ///< of grid columns 1, 2, ...
+    model::Clase clase;                               ///< Represa or Lago
     model::Arreglo<std::int16_t> model::Red::*filas;  ///< rows of each component's table
-    /// Number of the component that bears a name; 0 where none does.
-    int (*numeroDe)(const model::Siro&, std::string_view nombre);
     model::ArchivoDeTablas archivo;
     void (*lee)(model::Siro&);
     bool (*guarda)(model::Siro&);

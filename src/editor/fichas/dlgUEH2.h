@@ -11,8 +11,7 @@
 #include "forms/CampoNumerico.h"
 #include "model/Siro.h"
 
-// Rules of the form with the properties of the UEHs, one at a time. Names and destinations are taken at once,
-// the other fields on moving to another UEH and on "Aceptar". Faults go to the caller.
+// Rules of the form with the properties of the UEHs, one at a time.
 namespace editor {
 
 inline constexpr std::string_view TituloDlgUEH2 = "Propiedades de UHE (Unidad Hidrológica Elemental)";
@@ -72,6 +71,8 @@ struct dlgUEH2 : Ficha {
     std::string txtQ0Recesion{};   ///< [m3/s]
     std::string txtKRecesion{};    ///< [h]
     bool operator==(const dlgUEH2&) const = default;
+
+    static const ReglasFicha<dlgUEH2, model::UEH> Reglas;
 };
 
 // clang-format off
@@ -106,17 +107,19 @@ inline constexpr auto CamposDlgUEH2 = std::to_array<forms::CampoNumerico<dlgUEH2
 });
 // clang-format on
 
-/// Opening, on the selected UEH or the first one. With no UEH the form stays closed.
-void Abre(dlgUEH2& f, model::Siro& s);
+inline constexpr ReglasFicha<dlgUEH2, model::UEH> dlgUEH2::Reglas{
+    .destinos = OrdenDestinos::Todos,
+    .controlNombre = "txtNombreUEH",
+    .txtNombre = &dlgUEH2::txtNombreUEH,
+    .lista = &dlgUEH2::lstUEHs,
+    .listaDestinos = &dlgUEH2::lstCauceAA,
+    .lblNumero = &dlgUEH2::lblNroUEH,
+    .lblNombre = &dlgUEH2::lblNombreUEH,
+    .campos = CamposDlgUEH2,
+};
 
-/// Another UEH is picked, from 0: the fields are stored in the one in hand first.
-void lstUEHs_Click(dlgUEH2& f, model::Siro& s, int indice);
-
-/// The name is being typed. Returns false where it became invalid.
-bool txtNombreUEH_Cambia(dlgUEH2& f, const model::Siro& s);
-
-/// Leaving a field, by its control's name. Returns false where its text is refused and the focus stays.
-bool AlSalir(dlgUEH2& f, model::Siro& s, std::string_view control);
+void MuestraCampos(dlgUEH2& f, model::Siro& s);
+void GuardaCampos(dlgUEH2& f, model::Siro& s);
 
 /// A destination is picked, from 0: it takes effect at once, the point on a reach only when the form is
 /// stored.
@@ -124,14 +127,6 @@ void lstCauceAA_Click(dlgUEH2& f, model::Siro& s, int indice);
 
 /// A method is picked, from 0; it is stored with the fields.
 void lstMetodo_Click(dlgUEH2& f, int indice);
-
-/// Whether the form holds what "Aceptar" would still have to store.
-bool SinAplicar(const dlgUEH2& f, model::Siro& s);
-
-/// Stores the fields, clears the selection of UEH and Cauce and closes.
-void OKButton(dlgUEH2& f, model::Siro& s);
-/// The same without storing: name and destination already taken stay.
-void CancelButton(dlgUEH2& f, model::Siro& s);
 
 /// The infiltration curve of the fields as they stand; nothing where one of them is refused.
 std::optional<CurvaInfiltracion> CurvaDeCampos(const dlgUEH2& f);

@@ -9,15 +9,15 @@ namespace editor {
 dlgUEH2_ventana::dlgUEH2_ventana(forms::Entorno& alrededor, dlgUEH2& registro, QWidget* padre)
     : Ficha_ventana(alrededor, {"dlgUEH2", TituloDlgUEH2, RotulosDlgUEH2}, registro, padre)
 {
-    Dispone(
-        {ListaDeComponentes("lstUEHs", f.lstUEHs, [this](int linea) { lstUEHs_Click(f, entorno.s, linea); }),
-         EnPila({MarcoDeIdentificacion(),
-                 {MarcoDeArea(), 1},
-                 Marco("fraPropagacion", EnRejilla({Numero(CamposDlgUEH2, "txtLongMax"),
-                                                    Numero(CamposDlgUEH2, "txtVelMedia")})),
-                 Marco("fraRetencion", EnRejilla({Numero(CamposDlgUEH2, "txtRetension_Z")}))}),
-         {EnPila({{MarcoDeInfiltracion(), 1}, MarcoDeRecesion()}), 1}},
-        [this] { OKButton(f, entorno.s); });
+    Dispone({ListaDeComponentes("lstUEHs", f.lstUEHs,
+                                [this](int linea) { EligeComponente(f, entorno.s, linea); }),
+             EnPila({MarcoDeIdentificacion(),
+                     {MarcoDeArea(), 1},
+                     Marco("fraPropagacion", EnRejilla({Numero(CamposDlgUEH2, "txtLongMax"),
+                                                        Numero(CamposDlgUEH2, "txtVelMedia")})),
+                     Marco("fraRetencion", EnRejilla({Numero(CamposDlgUEH2, "txtRetension_Z")}))}),
+             {EnPila({{MarcoDeInfiltracion(), 1}, MarcoDeRecesion()}), 1}},
+            [this] { OKButton(f, entorno.s); });
 }
 
 QWidget* dlgUEH2_ventana::MarcoDeIdentificacion()
@@ -25,7 +25,7 @@ QWidget* dlgUEH2_ventana::MarcoDeIdentificacion()
     return Marco("fraIdentificacion",
                  EnRejilla({Dato("lblNroUEH", f.lblNroUEH), Dato("lblNombreUEH", f.lblNombreUEH),
                             CampoNombre(
-                                "txtNombreUEH", f.txtNombreUEH, [this] { txtNombreUEH_Cambia(f, entorno.s); },
+                                "txtNombreUEH", f.txtNombreUEH, [this] { ArreglaNombre(f, entorno.s); },
                                 Sale("txtNombreUEH")),
                             Renglon("txtReferencia", Campo("txtReferencia", f.txtReferencia))}));
 }

@@ -60,7 +60,7 @@ void Lienzo::paintEvent(QPaintEvent* /*evento*/)
 {
     QPainter pintor(this);
     pintorDibujo.Pinta(pintor, f, rect());
-    if (f.cruz) PintaCruz(pintor, APixel(f, *f.cruz));
+    if (f.gesto.cruz) PintaCruz(pintor, APixel(f.vista, *f.gesto.cruz));
 }
 
 void Lienzo::mousePressEvent(QMouseEvent* evento)

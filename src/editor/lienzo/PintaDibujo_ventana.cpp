@@ -161,10 +161,10 @@ void PintaIconoDe(QPainter& pintor, Clase clase, bool seleccionado, const QRectF
 /// From the drawing's coordinates to those of the paper.
 struct PintorDibujo::Mapa {
     Mapa(const frmUEHs& f, const QRectF& donde)
-        : origen(f.origen),
+        : origen(f.vista.origen),
           esquina(donde.topLeft()),
-          px(donde.width() / std::max(1e-6F, AnchoLogico(f))),
-          py(donde.height() / std::max(1e-6F, AnchoLogico(f)))
+          px(donde.width() / std::max(1e-6F, AnchoLogico(f.vista))),
+          py(donde.height() / std::max(1e-6F, AnchoLogico(f.vista)))
     {
     }
     [[nodiscard]] QPointF operator()(Punto p) const

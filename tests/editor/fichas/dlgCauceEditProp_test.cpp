@@ -17,7 +17,7 @@ struct FormaCauce : RedDeFichas {
     bool Nombra(const std::string& nombre)
     {
         f.txtNombreCauce = nombre;
-        return txtNombreCauce_Cambia(f, s) && AlSalir(f, s, "txtNombreCauce");
+        return ArreglaNombre(f, s) && AlSalir(f, s, "txtNombreCauce");
     }
     void Elige(std::string_view destino) { lstTributaCauce_Click(f, s, LineaDe(f.lstTributaCauce, destino)); }
 
@@ -110,40 +110,40 @@ TEST_F(FormaCauce, SinSeleccionMuestraElPrimeroYSinCaucesQuedaCerrada)
 TEST_F(FormaCauce, LaLongitudDibujadaSumaLosTramos)
 {
     // 3-4-5 triangles: 5 to (13, 14), then 5 to (16, 18).
-    EXPECT_EQ(LongitudDibujada(s, 1, 1), 10);
-    EXPECT_EQ(LongitudDibujada(s, 1, 12.5), 125);
+    EXPECT_EQ(LongitudDibujada(s.Red, 1, 1), 10);
+    EXPECT_EQ(LongitudDibujada(s.Red, 1, 12.5), 125);
 }
 
 TEST_F(FormaCauce, LaDeUnSoloVerticeEsCero)
 {
     PonVertices(3, {{50, 50}});
-    EXPECT_EQ(LongitudDibujada(s, 3, 10), 0);
+    EXPECT_EQ(LongitudDibujada(s.Red, 3, 10), 0);
     s.Configuracion.EscalaDibujo = "10";
     AbreEn(3);
     EXPECT_EQ(f.lbl_LongCauceDibujo, "0");
     s.Red.NroVertices(3) = 0;
-    EXPECT_EQ(LongitudDibujada(s, 3, 10), 0);
+    EXPECT_EQ(LongitudDibujada(s.Red, 3, 10), 0);
 }
 
 TEST_F(FormaCauce, SeRedondeaEnCadaVertice)
 {
     // 0.4 and 0.4: 0 + 0.4 rounds to 0 twice, though the whole is 0.8.
     PonVertices(1, {{0, 0}, {0.4F, 0}, {0.8F, 0}});
-    EXPECT_EQ(LongitudDibujada(s, 1, 100), 0);
+    EXPECT_EQ(LongitudDibujada(s.Red, 1, 100), 0);
     // 1.6 and 1.6: 2, then 3.6 rounds to 4, though the whole is 3.2.
     PonVertices(1, {{0, 0}, {1.6F, 0}, {3.2F, 0}});
-    EXPECT_EQ(LongitudDibujada(s, 1, 1), 4);
+    EXPECT_EQ(LongitudDibujada(s.Red, 1, 1), 4);
     // Ties go to the even number: 0.5 to 0, and 2.5 to 2.
     PonVertices(1, {{0, 0}, {0.5F, 0}, {3, 0}});
-    EXPECT_EQ(LongitudDibujada(s, 1, 1), 2);
+    EXPECT_EQ(LongitudDibujada(s.Red, 1, 1), 2);
     // And so does the product with the scale: 5 times 0.5.
     PonVertices(1, {{0, 0}, {5, 0}});
-    EXPECT_EQ(LongitudDibujada(s, 1, 0.5), 2);
+    EXPECT_EQ(LongitudDibujada(s.Red, 1, 0.5), 2);
 }
 
 TEST_F(FormaCauce, UnaLongitudFueraDeTipoEsFalla6)
 {
-    EXPECT_EQ(apoyo::NumeroDeFalla([&] { LongitudDibujada(s, 1, 3E8); }), 6);
+    EXPECT_EQ(apoyo::NumeroDeFalla([&] { LongitudDibujada(s.Red, 1, 3E8); }), 6);
 }
 
 TEST_F(FormaCauce, LaEscalaDecideElRotulo)
@@ -229,8 +229,8 @@ TEST_F(FormaCauce, UnNombreLargoQueNadieTocaQuedaAlAceptarYSeCortaAlDejarSuCampo
 {
     s.Red.Cauces(1).NombreCauce = "c-12345678901-.-b";
     AbreEn(1);
-    lstCauces_Click(f, s, 1);
-    lstCauces_Click(f, s, 0);
+    EligeComponente(f, s, 1);
+    EligeComponente(f, s, 0);
     OKButton(f, s);
     EXPECT_EQ(s.Red.Cauces(1).NombreCauce, "c-12345678901-.-b");
     AbreEn(1);
@@ -292,7 +292,7 @@ TEST_F(FormaCauce, UnCauceComoDestinoMueveElVerticeAlDibujarOAlGuardar)
     EXPECT_EQ(s.Red.Cauces(1).Cauce_aa, "c-3");
     EXPECT_EQ(PrimerVertice(1), (std::pair<float, float>{10, 10}));
     EXPECT_EQ(anfitrion->redibujos, 1);
-    lstCauces_Click(f, s, 1);
+    EligeComponente(f, s, 1);
     EXPECT_EQ(PrimerVertice(1), (std::pair<float, float>{60, 60}));
 }
 
@@ -341,7 +341,7 @@ TEST_F(FormaCauce, AceptarGuardaCadaCampoEnSuPropiedadLimpiaLaSeleccionYCierra)
 TEST_F(FormaCauce, PasarAOtroGuardaYMuestraElOtro)
 {
     f.txtLongCauce = "850";
-    lstCauces_Click(f, s, 2);
+    EligeComponente(f, s, 2);
     EXPECT_EQ(s.Red.Cauces(1).LongCauce, 850);
     EXPECT_EQ(s.Seleccion.CauceSel, 3);
     EXPECT_EQ(f.lblNombreCauce, "c-3");

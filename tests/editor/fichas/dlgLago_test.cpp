@@ -18,7 +18,7 @@ struct FormaLago : RedDeFichas {
     bool Nombra(const std::string& nombre)
     {
         f.txtNombreLAGO = nombre;
-        return txtNombreLAGO_Cambia(f, s) && AlSalir(f, s, "txtNombreLAGO");
+        return ArreglaNombre(f, s) && AlSalir(f, s, "txtNombreLAGO");
     }
     void Elige(std::string_view destino) { lstCauceAA_Click(f, s, LineaDe(f.lstCauceAA, destino)); }
     bool PonAltura(const std::string& texto)
@@ -93,9 +93,9 @@ TEST_F(FormaLago, SinLagosQuedaCerrada)
 TEST_F(FormaLago, ElRotuloDiceSiHayTabla)
 {
     EXPECT_EQ(f.lblParametros, "Datos HSVQ en Tabla");
-    lstLAGOs_Click(f, s, 1);
+    EligeComponente(f, s, 1);
     EXPECT_EQ(f.lblParametros, "Sin datos en Tabla");
-    lstLAGOs_Click(f, s, 0);
+    EligeComponente(f, s, 0);
     EXPECT_EQ(f.lblParametros, "Datos HSVQ en Tabla");
 }
 
@@ -129,7 +129,7 @@ TEST_F(FormaLago, ConLaFormaCerradaElRotuloQueda)
 TEST_F(FormaLago, ElCambioDeNombreDejaLaTablaBajoElViejo)
 {
     Nombra("nuevo");
-    lstLAGOs_Click(f, s, 0);
+    EligeComponente(f, s, 0);
     EXPECT_EQ(f.lblParametros, "Sin datos en Tabla");
 }
 
@@ -311,7 +311,7 @@ TEST_F(FormaLago, ElegirOtroGuardaLosCamposYMuestraElOtro)
 {
     f.txtReferencia = "mallin";
     f.txtLago_k = "12";
-    lstLAGOs_Click(f, s, 1);
+    EligeComponente(f, s, 1);
     EXPECT_EQ(s.Red.Lagos(1).Referencia, "mallin");
     EXPECT_EQ(s.Red.Lagos(1).Lago_k_Musk, 12);
     EXPECT_EQ(s.Seleccion.LagoSel, 2);

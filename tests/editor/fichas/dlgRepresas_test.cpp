@@ -17,7 +17,7 @@ struct FormaRepresa : RedDeFichas {
     bool Nombra(const std::string& nombre)
     {
         f.txtNombreRepresa = nombre;
-        return txtNombreRepresa_Cambia(f, s) && AlSalir(f, s, "txtNombreRepresa");
+        return ArreglaNombre(f, s) && AlSalir(f, s, "txtNombreRepresa");
     }
     void Elige(std::string_view destino) { lstCauceAA_Click(f, s, LineaDe(f.lstCauceAA, destino)); }
     void EligeElMetodo(std::string_view metodo) { lstMetodo_Click(f, LineaDe(f.lstMetodo, metodo)); }
@@ -76,7 +76,7 @@ TEST_F(FormaRepresa, TrasCambiarElNombreUnaLineaDiceQueSusTablasQuedaronAtras)
     EXPECT_TRUE(Nombra("r-nueva"));
     EXPECT_EQ(f.lblTablas, LineaDeTablas);
     EXPECT_EQ(f.tablasDe, "r-1");
-    lstRepresas_Click(f, s, 1);  // r-2 never had any
+    EligeComponente(f, s, 1);  // r-2 never had any
     EXPECT_EQ(f.lblTablas, "");
     CancelButton(f, s);
     AbreEn(1);  // still so the next time
@@ -470,7 +470,7 @@ TEST_F(FormaRepresa, ElegirOtraGuardaLosCamposYMuestraLaOtra)
 {
     f.txtRepresa_k = "12";
     optFunciones_Click(f);
-    lstRepresas_Click(f, s, 1);
+    EligeComponente(f, s, 1);
     EXPECT_EQ(s.Red.Represas(1).Represa_k_Musk, 12);
     EXPECT_FALSE(s.Red.Represas(1).optTabla);
     EXPECT_EQ(s.Seleccion.RepresaSel, 2);

@@ -13,7 +13,7 @@ struct FormaUEH : RedDeFichas {
     bool Escribe(const std::string& nombre)
     {
         f.txtNombreUEH = nombre;
-        return txtNombreUEH_Cambia(f, s);
+        return ArreglaNombre(f, s);
     }
     bool Nombra(const std::string& nombre) { return Escribe(nombre) && AlSalir(f, s, "txtNombreUEH"); }
     void Elige(std::string_view destino) { lstCauceAA_Click(f, s, LineaDe(f.lstCauceAA, destino)); }
@@ -317,7 +317,7 @@ TEST_F(FormaUEH, UnClicFueraDeLaListaNoHaceNada)
 {
     lstCauceAA_Click(f, s, -1);
     EXPECT_EQ(s.Red.UEHs(1).Cauce_aa, "c-1");
-    lstUEHs_Click(f, s, -1);
+    EligeComponente(f, s, -1);
     EXPECT_EQ(s.Seleccion.UEHSel, 1);
 }
 
@@ -328,7 +328,7 @@ TEST_F(FormaUEH, PasarAOtraGuardaLosCamposYMuestraLaOtra)
     f.txtArea = "12.5";
     f.txtReferencia = "alta";
     f.txtKRecesion = "7";
-    lstUEHs_Click(f, s, 2);
+    EligeComponente(f, s, 2);
     EXPECT_EQ(s.Red.UEHs(1).Area, 12.5F);
     EXPECT_EQ(s.Red.UEHs(1).Referencia, "alta");
     EXPECT_EQ(s.Red.UEHs(1).KRecesion, 7);
