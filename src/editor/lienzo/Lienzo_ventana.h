@@ -36,7 +36,7 @@ class Lienzo : public QWidget {
     void resizeEvent(QResizeEvent* evento) override;
 
   private:
-    [[nodiscard]] Punto Lugar(QPointF pixel) const { return DePixel(f, pixel.x(), pixel.y()); }
+    [[nodiscard]] Punto Lugar(QPointF pixel) const { return DePixel(f.vista, pixel.x(), pixel.y()); }
 
     const frmUEHs& f;
     PintorDibujo& pintorDibujo;
