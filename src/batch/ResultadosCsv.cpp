@@ -7,14 +7,15 @@
 #include <utility>
 #include <vector>
 
+#include "engine/ColumnasDeSerie.h"
 #include "engine/mdlSeriePDR.h"
 
 namespace batch {
 namespace {
 
 constexpr std::string_view CabezaTormenta = "componente,p,minutos,qentra,qsale,h,s\n";
-constexpr std::string_view CabezaSerie = "componente,storm,p,d,r,qmax,esc,coef\n";
-constexpr std::string_view NombreCuenca = "*";  // the basin as a whole
+constexpr std::string_view CabezaSerie = "componente,storm,p,d,r";  // then the results
+constexpr std::string_view NombreCuenca = "*";                      // the basin as a whole
 
 constexpr std::size_t TrozoArchivo = std::size_t{1} << 18;  // bytes that are kept back before a write
 
@@ -83,11 +84,12 @@ void Elemento(FilaCsv& fila, const model::Matriz<T>& matriz, int renglon, int co
         fila.Vacio();
 }
 
-template <typename T>
-void Elemento(FilaCsv& fila, const model::Arreglo<T>& arreglo, int indice)
+void Elemento(FilaCsv& fila, const engine::ValorDeSerie& valor)
 {
-    if (indice <= arreglo.Tope())
-        fila.Numero(arreglo(indice));
+    if (const auto* x = std::get_if<float>(&valor))
+        fila.Numero(*x);
+    else if (const auto* n = std::get_if<std::int32_t>(&valor))
+        fila.Numero(*n);
     else
         fila.Vacio();
 }
@@ -208,29 +210,27 @@ void GuardaCsvTormenta(const model::Siro& s, const std::string& ruta)
 
 void GuardaCsvSerie(model::Siro& s, const std::string& ruta)
 {
-    ArchivoCsv archivo(s.Disco, ruta, CabezaSerie);
+    std::string cabeza(CabezaSerie);
+    for (const engine::ColumnaDeSerie& columna : engine::ColumnasDeSerie)
+        cabeza.append(",").append(columna.enCsv);
+    ArchivoCsv archivo(s.Disco, ruta, cabeza + "\n");
     const auto corridas = TormentasCorridas(s);
+    const model::Resultados& r = s.Resultados;
     FilaCsv fila;
-    for (int c = 1; c <= s.Resultados.NroComponentes; ++c) {
+    const auto escribe = [&](std::string_view nombre, auto&& valor) {
         for (const int n : corridas) {
-            Tormenta(fila, s, s.Resultados.Secuencia[static_cast<std::size_t>(c)], n);
-            Elemento(fila, s.Resultados.QMax, c, n);
-            if (c <= s.Red.NroUEHs) {
-                Elemento(fila, s.Resultados.EscUEH, c, n);
-                Elemento(fila, s.Resultados.CoefEscUEH, c, n);
-            } else {
-                fila.Vacio().Vacio();
-            }
+            Tormenta(fila, s, nombre, n);
+            for (const engine::ColumnaDeSerie& columna : engine::ColumnasDeSerie)
+                Elemento(fila, valor(columna, n));
             archivo.Fila(fila);
         }
-    }
-    for (const int n : corridas) {
-        Tormenta(fila, s, NombreCuenca, n);
-        fila.Vacio();
-        Elemento(fila, s.Resultados.EscTotal, n);
-        Elemento(fila, s.Resultados.CoefEscTotal, n);
-        archivo.Fila(fila);
-    }
+    };
+    for (int c = 1; c <= r.NroComponentes; ++c)
+        escribe(r.Secuencia[static_cast<std::size_t>(c)], [&](const engine::ColumnaDeSerie& columna, int n) {
+            return DelComponente(columna, r, s.Red.NroUEHs, c, n);
+        });
+    escribe(NombreCuenca,
+            [&](const engine::ColumnaDeSerie& columna, int n) { return columna.deLaCuenca(r, n); });
     archivo.Vuelca();
 }
 

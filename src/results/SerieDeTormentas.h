@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <optional>
 #include <string>
 
 #include "model/Siro.h"
@@ -22,22 +21,5 @@ bool TormentaNula(const model::Siro& s);
 
 /// Path of the project's configuration file.
 std::string ArchivoDeProyecto(const model::Siro& s);
-
-/// An element of a result array; nothing where the run left none, since another table or project may have
-/// been read after it.
-template <typename T>
-std::optional<T> Resultado(const model::Matriz<T>& matriz, int fila, int tormenta)
-{
-    if (fila < matriz.PrimeraFila() || fila > matriz.UltimaFila()) return {};
-    if (tormenta < 0 || tormenta > matriz.TopeColumna()) return {};
-    return matriz(fila, tormenta);
-}
-
-template <typename T>
-std::optional<T> Resultado(const model::Arreglo<T>& arreglo, int tormenta)
-{
-    if (tormenta < 0 || tormenta > arreglo.Tope()) return {};
-    return arreglo(tormenta);
-}
 
 }  // namespace results

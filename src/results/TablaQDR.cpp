@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <numeric>
-#include <optional>
 
 #include "forms/Procedencia.h"
 #include "model/Falla.h"
@@ -19,14 +18,23 @@ using model::Siro;
 namespace {
 
 /// Columns by what they hold, from 0.
-enum Columna : std::size_t { Nombre, Numero, P, D, R, Q, E, C };
+enum Columna : std::size_t { Nombre, Numero, P, D, R, PrimerResultado };
 
 constexpr int Decimales = 2;
 
-/// How a workbook shows the numbers of each column: peaks and coefficients are rounded to two decimals,
-/// volumes to none.
-constexpr std::array<std::string_view, NroColumnasQDR> FormatosQDR = {"",  "0",    "0.0##", "0",
-                                                                      "0", "0.00", "#,##0", "0.00"};
+struct Rotulo {
+    std::string_view encabezado, formato;  ///< the latter of its numbers in a workbook
+};
+constexpr std::array<Rotulo, PrimerResultado> RotulosQDR{
+    {{"Componente ", ""}, {"Nro.", "0"}, {"P[mm]", "0.0##"}, {"D[min]", "0"}, {"R[años]", "0"}}};
+
+Rotulo RotuloDe(std::size_t columna)
+{
+    if (columna < PrimerResultado) return RotulosQDR[columna];
+    const engine::ColumnaDeSerie& resultado = engine::ColumnasDeSerie[columna - PrimerResultado];
+    return {resultado.encabezado, resultado.formato};
+}
+
 constexpr std::int16_t MinimoDeTormentas = 2;
 constexpr std::string_view RotuloTotal = "Escorrentía total ";  // its blank is part of it
 
@@ -35,15 +43,12 @@ std::string Entero(std::int16_t n)
     return NumeroATexto(std::int32_t{n});
 }
 
-template <typename T>
-std::string Redondeado(const std::optional<T>& valor)
+/// A number with a fraction is rounded to two decimals; no result is an empty cell.
+std::string Texto(const engine::ValorDeSerie& valor)
 {
-    return valor ? NumeroATexto(model::Redondea(*valor, Decimales)) : std::string{};
-}
-
-std::string Volumen(const std::optional<std::int32_t>& valor)
-{
-    return valor ? NumeroATexto(*valor) : std::string{};
+    if (const auto* x = std::get_if<float>(&valor)) return NumeroATexto(model::Redondea(*x, Decimales));
+    if (const auto* n = std::get_if<std::int32_t>(&valor)) return NumeroATexto(*n);
+    return {};
 }
 
 void AgregaTitulo(TablaQDR& t, const std::string& texto)
@@ -69,6 +74,12 @@ void PonTormenta(FilaQDR& fila, const Siro& s)
     fila.celdas[R] = Entero(s.Tormenta.RecTormenta);
 }
 
+void PonResultados(FilaQDR& fila, auto&& valor)
+{
+    for (std::size_t c = PrimerResultado; c < NroColumnasQDR; ++c)
+        fila.celdas[c] = Texto(valor(engine::ColumnasDeSerie[c - PrimerResultado]));
+}
+
 FilaQDR FilaDeComponente(const Siro& s)
 {
     if (s.Control.IndComp < 0 || static_cast<std::size_t>(s.Control.IndComp) >= s.Resultados.Secuencia.size())
@@ -77,11 +88,9 @@ FilaQDR FilaDeComponente(const Siro& s)
     fila.celdas[Nombre] = s.Resultados.Secuencia[static_cast<std::size_t>(s.Control.IndComp)];
     fila.celdas[Numero] = Entero(s.Control.IndComp);
     PonTormenta(fila, s);
-    fila.celdas[Q] = Redondeado(Resultado(s.Resultados.QMax, s.Control.IndComp, s.Serie.IndSerie));
-    if (s.Control.IndComp <= s.Red.NroUEHs) {
-        fila.celdas[E] = Volumen(Resultado(s.Resultados.EscUEH, s.Control.IndComp, s.Serie.IndSerie));
-        fila.celdas[C] = Redondeado(Resultado(s.Resultados.CoefEscUEH, s.Control.IndComp, s.Serie.IndSerie));
-    }
+    PonResultados(fila, [&](const engine::ColumnaDeSerie& c) {
+        return DelComponente(c, s.Resultados, s.Red.NroUEHs, s.Control.IndComp, s.Serie.IndSerie);
+    });
     return fila;
 }
 
@@ -118,8 +127,9 @@ void AgregaTotales(TablaQDR& t, Siro& s)
             FilaQDR& fila = t.filas.back();
             fila.clase = ClaseFila::Total;
             PonTormenta(fila, s);
-            fila.celdas[E] = Volumen(Resultado(s.Resultados.EscTotal, s.Serie.IndSerie));
-            fila.celdas[C] = Redondeado(Resultado(s.Resultados.CoefEscTotal, s.Serie.IndSerie));
+            PonResultados(fila, [&](const engine::ColumnaDeSerie& c) {
+                return c.deLaCuenca(s.Resultados, s.Serie.IndSerie);
+            });
             t.filas.push_back({ClaseFila::Cierre, {}});
         });
 }
@@ -200,12 +210,8 @@ void Llena(TablaQDR& t, const Siro& s, Cuerpo&& cuerpo)
 std::array<std::string_view, NroColumnasQDR> EncabezadosQDR()
 {
     std::array<std::string_view, NroColumnasQDR> encabezados;
-    std::string_view resto = FormatoTablaQDR;
-    for (std::string_view& encabezado : encabezados) {
-        const std::size_t fin = std::min(resto.find('|'), resto.size());
-        encabezado = resto.substr(1, fin - 1);  // the first character tells how the column is aligned
-        resto.remove_prefix(std::min(fin + 1, resto.size()));
-    }
+    for (std::size_t c = 0; c < NroColumnasQDR; ++c)
+        encabezados[c] = RotuloDe(c).encabezado;
     return encabezados;
 }
 
@@ -248,7 +254,7 @@ forms::Planilla ComoPlanilla(const TablaQDR& t)
     forms::Planilla planilla;
     for (std::size_t c = 0; c < NroColumnasQDR; ++c)
         planilla.columnas.push_back(
-            {std::string(EncabezadosQDR()[c]), c == Nombre, std::string(FormatosQDR[c])});
+            {std::string(RotuloDe(c).encabezado), c == Nombre, std::string(RotuloDe(c).formato)});
     for (const std::size_t i : t.mostradas) {
         const FilaQDR& fila = t.filas[i];
         if (fila.clase == ClaseFila::Titulo) planilla.titulos.push_back(fila.celdas[Nombre]);

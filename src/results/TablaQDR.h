@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "engine/ColumnasDeSerie.h"
 #include "forms/Planilla.h"
 #include "model/Siro.h"
 
@@ -15,13 +16,10 @@
 // elsewhere.
 namespace results {
 
-inline constexpr std::size_t NroColumnasQDR = 8;
+/// Component, number and storm, then what a series keeps of it.
+inline constexpr std::size_t NroColumnasQDR = 5 + engine::ColumnasDeSerie.size();
 
-/// Headings of the columns; "^" centres a column, "|" parts them.
-inline constexpr std::string_view FormatoTablaQDR =
-    "^Componente |^Nro.|^P[mm]|^D[min]|^R[años]|^Qp[m3/s]|^E[m3]|^C[%]";
-
-/// The headings one by one.
+/// Headings of the columns.
 std::array<std::string_view, NroColumnasQDR> EncabezadosQDR();
 
 enum class ClaseFila : std::uint8_t {

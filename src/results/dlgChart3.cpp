@@ -2,10 +2,10 @@
 #include "results/dlgChart3.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <optional>
 
+#include "engine/ColumnasDeSerie.h"
 #include "forms/Evento.h"
 #include "model/Falla.h"
 #include "model/Numeros.h"
@@ -13,6 +13,8 @@
 
 namespace results {
 
+using engine::ColumnaDeSerie;
+using engine::ColumnasDeSerie;
 using forms::Evento;
 using model::NumeroATexto;
 using model::Siro;
@@ -29,42 +31,19 @@ constexpr std::string_view Titulo = "Serie de Tormentas Sintéticas: Gráficos Q
 constexpr std::string_view NotaVelmirAlAbrir = "SIRO: Simulación lluvia-caudal";
 constexpr std::string_view NotaVelmir = "SIRO: Modelo hidrológico de simulación lluvia-caudal";
 
-double Redondeado(float valor)
+/// A result as a cell; empty where the run left none.
+double Celda(const engine::ValorDeSerie& valor)
 {
-    return model::Redondea(valor, Decimales);
+    if (const auto* x = std::get_if<float>(&valor)) return model::Redondea(*x, Decimales);
+    if (const auto* n = std::get_if<std::int32_t>(&valor)) return *n;
+    return forms::CeldaVacia;
 }
 
-double Redondeado(std::int32_t valor)
+const ColumnaDeSerie* MagnitudElegida(const dlgChart3& f)
 {
-    return valor;
-}
-
-/// An element of a result array as a cell; empty where the run left none.
-template <auto Matriz>
-double Celda(const Siro& s, int componente, int tormenta)
-{
-    const auto valor = Resultado(s.Resultados.*Matriz, componente, tormenta);
-    return valor ? Redondeado(*valor) : forms::CeldaVacia;
-}
-
-struct FilaMagnitud {
-    std::string_view nombre, ejeY;
-    bool soloUEHs;
-    double (*celda)(const Siro& s, int componente, int tormenta);
-};
-
-// clang-format off
-constexpr auto Magnitudes = std::to_array<FilaMagnitud>({
-    {"Caudal Máximo", "Caudal Máximo [m3/s]",       false, Celda<&model::Resultados::QMax>},
-    {"Escorrentía",   "Escorrentía [m3]",           true,  Celda<&model::Resultados::EscUEH>},
-    {"Coef.Escorr.",  "Coeficiente Escorrentía [%]", true, Celda<&model::Resultados::CoefEscUEH>},
-});
-// clang-format on
-
-const FilaMagnitud* MagnitudElegida(const dlgChart3& f)
-{
-    if (f.lstPQECIndice < 0 || static_cast<std::size_t>(f.lstPQECIndice) >= Magnitudes.size()) return nullptr;
-    return &Magnitudes[static_cast<std::size_t>(f.lstPQECIndice)];
+    if (f.lstPQECIndice < 0 || static_cast<std::size_t>(f.lstPQECIndice) >= ColumnasDeSerie.size())
+        return nullptr;
+    return &ColumnasDeSerie[static_cast<std::size_t>(f.lstPQECIndice)];
 }
 
 /// Runs `cuerpo` with each storm that passes the filter in hand.
@@ -133,14 +112,15 @@ std::string NombreComponente(const Siro& s)
     return s.Resultados.Secuencia[static_cast<std::size_t>(s.Control.IndComp)];
 }
 
-void LlenaCeldas(dlgChart3& f, Siro& s, const FilaMagnitud& magnitud, std::vector<forms::Serie>& curvas)
+void LlenaCeldas(dlgChart3& f, Siro& s, const ColumnaDeSerie& magnitud, std::vector<forms::Serie>& curvas)
 {
     ParaCadaTormenta(f, s, [&] {
         if (magnitud.soloUEHs && s.Control.IndComp > s.Red.NroUEHs) return;
         const auto serie = Lugar(f.ListaR, s.Tormenta.RecTormenta);
         const auto fila = Lugar(f.ListaD, s.Tormenta.DurTormenta);
         if (serie && fila && *fila < curvas[*serie].celdas.size())
-            curvas[*serie].celdas[*fila] = magnitud.celda(s, s.Control.IndComp, s.Serie.IndSerie);
+            curvas[*serie].celdas[*fila] =
+                Celda(magnitud.deComponente(s.Resultados, s.Control.IndComp, s.Serie.IndSerie));
     });
 }
 
@@ -198,15 +178,15 @@ void Abre(dlgChart3& f, Siro& s)
     f.Grafico.tipo = forms::TipoGrafico::Linea;
     f.Grafico.leyendaVisible = true;
     f.Grafico.tituloLeyenda = TituloRecurrencia;
-    f.Grafico.ejeY = Magnitudes.front().ejeY;
+    f.Grafico.ejeY = ColumnasDeSerie.front().ejeY;
     f.Grafico.ejeX = EjeDuracion;
     f.lblNotaVelmir = NotaVelmirAlAbrir;
     f.lblNota = NotaDelProyecto(s);
     ListaComponentes(f, s);
     if (s.Control.IndComp == 0) s.Control.IndComp = 1;
     s.Control.IndComp = std::min(s.Control.IndComp, s.Resultados.NroComponentes);
-    for (const FilaMagnitud& magnitud : Magnitudes)
-        f.lstPQEC.emplace_back(magnitud.nombre);
+    for (const ColumnaDeSerie& magnitud : ColumnasDeSerie)
+        f.lstPQEC.emplace_back(magnitud.magnitud);
     f.lstPQECIndice = 0;
     Evento(s, [&] {
         EligeComponente(f, s, s.Control.IndComp - 1);
@@ -234,7 +214,7 @@ void Inicializa(dlgChart3& f, Siro& s)
 
 void AlGraficoPp(dlgChart3& f, Siro& s, std::int16_t NroD, std::int16_t paso)
 {
-    const FilaMagnitud* const magnitud = MagnitudElegida(f);
+    const ColumnaDeSerie* const magnitud = MagnitudElegida(f);
     if (NroD == 0 || magnitud == nullptr) return;
     f.Notas = "Notas en AlGraficoPp";
     const auto filas = static_cast<std::size_t>(NroD);
@@ -265,7 +245,7 @@ void lstCompos_Click(dlgChart3& f, Siro& s)
 
 void lstPQEC_Click(dlgChart3& f, Siro& s)
 {
-    const FilaMagnitud* const magnitud = MagnitudElegida(f);
+    const ColumnaDeSerie* const magnitud = MagnitudElegida(f);
     if (magnitud == nullptr) return;
     Evento(s, [&] {
         if (magnitud->soloUEHs)

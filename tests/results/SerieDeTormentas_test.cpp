@@ -117,18 +117,5 @@ TEST_F(Filtro, FueraDeLaSerieEsFalla9)
     EXPECT_EQ(apoyo::NumeroDeFalla([&] { FiltroTormenta(s, excluida); }), 9);
 }
 
-TEST_F(Filtro, UnResultadoFueraDeLosArreglosNoEsta)
-{
-    EXPECT_EQ(Resultado(s.Resultados.EscUEH, 2, 4), 2004);
-    EXPECT_EQ(Resultado(s.Resultados.EscUEH, 3, 4), std::nullopt);
-    EXPECT_EQ(Resultado(s.Resultados.EscUEH, -1, 4), std::nullopt);
-    EXPECT_EQ(Resultado(s.Resultados.EscUEH, 2, 5), std::nullopt);
-    EXPECT_EQ(Resultado(s.Resultados.EscUEH, 2, -1), std::nullopt);
-    EXPECT_EQ(Resultado(s.Resultados.EscTotal, 4), 5004);
-    EXPECT_EQ(Resultado(s.Resultados.EscTotal, 5), std::nullopt);
-    EXPECT_EQ(Resultado(s.Resultados.EscTotal, -1), std::nullopt);
-    EXPECT_EQ(Resultado(model::Siro{}.Resultados.QMax, 0, 0), std::nullopt);
-}
-
 }  // namespace
 }  // namespace results

@@ -44,7 +44,6 @@ TEST_F(TablaCompleta, LosEncabezadosALaLetra)
 {
     EXPECT_EQ(TituloDlgTablaSalePDR,
               "Serie de Tormentas Sintéticas: Resumen de Qpico, Escorrentía y Coef. Esc.");
-    EXPECT_EQ(FormatoTablaQDR, "^Componente |^Nro.|^P[mm]|^D[min]|^R[años]|^Qp[m3/s]|^E[m3]|^C[%]");
     EXPECT_EQ(EncabezadosQDR(), (std::array<std::string_view, 8>{"Componente ", "Nro.", "P[mm]", "D[min]",
                                                                  "R[años]", "Qp[m3/s]", "E[m3]", "C[%]"}));
     EXPECT_EQ(LeyendaActualizar, "&Actualizar cambios");
