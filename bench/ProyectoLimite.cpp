@@ -320,7 +320,7 @@ void ArmaRed(Siro& s, const Medidas& medidas)
 
 void PonTormenta(Siro& s, const TormentaLimite& tormenta)
 {
-    s.Tormenta.FormaPp = static_cast<std::int16_t>(model::FormaLluvia::Escrita);
+    s.Tormenta.FormaPp = model::FormaLluvia::Escrita;
     s.Tormenta.PpTormenta = tormenta.pp;
     s.Tormenta.DurTormenta = tormenta.dur;
     s.Tormenta.DistriPp = tormenta.distribucion;

@@ -21,7 +21,7 @@ void Serie(benchmark::State& estado)
     const auto hilos = static_cast<int>(estado.range(0));
     for (auto _ : estado) {
         Siro s = bench::ProyectoAbierto(proyecto.Dir());
-        s.Tormenta.FormaPp = static_cast<std::int16_t>(model::FormaLluvia::SeriePDR);
+        s.Tormenta.FormaPp = model::FormaLluvia::SeriePDR;
         model::LeeTablaPDRs(s);
         if (s.Serie.NroSeriePDR != bench::TormentasDeLaSerie)
             throw std::runtime_error("the series wasn't read");

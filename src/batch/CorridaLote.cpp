@@ -139,7 +139,7 @@ void AbreProyecto(Siro& s, const std::string& conf)
 void FijaTormenta(Siro& s, const Opciones& o)
 {
     const auto forma = o.orden == Opciones::Orden::Serie ? FormaLluvia::SeriePDR : FormaLluvia{o.forma};
-    s.Tormenta.FormaPp = static_cast<std::int16_t>(forma);
+    s.Tormenta.FormaPp = forma;
     s.Tormenta.PpTormenta = o.pp;
     s.Tormenta.DurTormenta = o.dur;
     s.Tormenta.RecTormenta = o.rec;

@@ -100,7 +100,7 @@ std::vector<float> Laminas(std::string_view texto)
 std::int16_t Forma(std::string_view texto)
 {
     const std::int16_t forma = Entero(texto, 0, 4);
-    if (forma == static_cast<std::int16_t>(model::FormaLluvia::SeriePDR))
+    if (forma == model::FormaLluvia::SeriePDR)
         throw ValorErroneo{"una serie P-D-R se corre con la orden serie"};
     return forma;
 }

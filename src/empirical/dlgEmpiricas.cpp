@@ -16,8 +16,6 @@ using model::NumeroATexto;
 
 namespace {
 
-constexpr double MaximoS = 10000;        // [km2]
-constexpr double MaximaPendiente = 100;  // [%]
 constexpr int Decimales = 2;
 
 /// The number that a field begins with. One beyond 64-bit floats is without bound, so that the limits of the
@@ -47,11 +45,6 @@ std::string Redondeado(float resultado)
     return NumeroATexto(model::Redondea(resultado, Decimales));
 }
 
-void CeroEsUno(std::string& texto)
-{
-    if (Valor(texto) == 0) texto = "1";
-}
-
 void AgregaRenglon(std::string& texto, std::string_view leyenda, std::string_view valor)
 {
     texto.append(leyenda).append("\t").append(valor).append(model::SaltoLinea);
@@ -66,40 +59,19 @@ void Abre(dlgEmpiricas& f)
     f.lblSup = f.txtSup;
 }
 
-void txtSup_Change(dlgEmpiricas& f)
+void AlCambiar(dlgEmpiricas& f, std::string_view control)
 {
-    if (Valor(f.txtSup) > MaximoS) f.txtSup = NumeroATexto(MaximoS);
-    txtSup_AlSalir(f);
+    if (const auto* const campo = forms::CampoDe(CamposEmpiricos, control))
+        forms::Recorta(campo->regla, Valor(f.*campo->texto), f.*campo->texto);
+    AlSalir(f, control);
 }
 
-void txtSup_AlSalir(dlgEmpiricas& f)
+void AlSalir(dlgEmpiricas& f, std::string_view control)
 {
-    CeroEsUno(f.txtSup);
+    if (control != "txtSup") return CalculaTc(f);
+    if (Valor(f.txtSup) == 0) f.txtSup = "1";
     f.lblSup = f.txtSup;
     CalculaQp(f);
-}
-
-void txtLcauceP_Change(dlgEmpiricas& f)
-{
-    CalculaTc(f);
-}
-
-void txtcauceH_Change(dlgEmpiricas& f)
-{
-    CalculaTc(f);
-}
-
-void txtPendiCP_Change(dlgEmpiricas& f)
-{
-    const double i = Valor(f.txtPendiCP);
-    if (i < 0) f.txtPendiCP = "0";
-    if (i > MaximaPendiente) f.txtPendiCP = NumeroATexto(MaximaPendiente);
-    CalculaTc(f);
-}
-
-void txtPendiCP_AlSalir(dlgEmpiricas& f)
-{
-    CalculaTc(f);
 }
 
 void btnCerrar(dlgEmpiricas& f)
@@ -123,7 +95,9 @@ void CalculaQp(dlgEmpiricas& f)
 void CalculaTc(dlgEmpiricas& f)
 {
     f.lblSup = f.txtSup;
-    const DatosTc datos{Valor(f.txtSup), Valor(f.txtLcauceP), Valor(f.txtcauceH), Valor(f.txtPendiCP)};
+    DatosTc datos;
+    for (const auto& campo : CamposEmpiricos)
+        datos.*campo.valor = Valor(f.*campo.texto);
     const auto formulas = FormulasTc();
     for (std::size_t k = 0; k < formulas.size(); ++k) {
         const FormulaTc& formula = formulas[k];
@@ -139,13 +113,13 @@ std::string ComoTexto(const dlgEmpiricas& f)
 {
     std::string texto;
     texto.append(MarcoQp).append(model::SaltoLinea);
-    AgregaRenglon(texto, CamposEmpiricos.front().rotulo.leyenda, f.txtSup);
+    AgregaRenglon(texto, RotulosEmpiricos.front().leyenda, f.txtSup);
     for (std::size_t k = 0; k < f.Qp.size(); ++k)
         AgregaRenglon(texto, FormulasQp()[k].leyenda, f.Qp[k]);
     texto.append(MarcoTc).append(model::SaltoLinea);
     AgregaRenglon(texto, LeyendaLblSup, f.lblSup);
     for (std::size_t k = 1; k < CamposEmpiricos.size(); ++k)
-        AgregaRenglon(texto, CamposEmpiricos[k].rotulo.leyenda, f.*CamposEmpiricos[k].texto);
+        AgregaRenglon(texto, RotulosEmpiricos[k].leyenda, f.*CamposEmpiricos[k].texto);
     for (std::size_t k = 0; k < f.Tc.size(); ++k)
         AgregaRenglon(texto, FormulasTc()[k].leyenda, f.Tc[k]);
     return texto;

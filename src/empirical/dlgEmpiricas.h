@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "empirical/Formulas.h"
+#include "forms/CampoNumerico.h"
 #include "forms/Rotulo.h"
 
 // Rules of the calculator of peak discharges and times of concentration. It touches neither project nor disk,
@@ -39,14 +40,11 @@ struct dlgEmpiricas {
 /// Opening: nothing is computed before the first change.
 void Abre(dlgEmpiricas& f);
 
-/// The text of a field was changed, or the field left. S is put between 1 and 10000 where it is zero or
-/// above, the slope between 0 and 100; what depends on the field is computed.
-void txtSup_Change(dlgEmpiricas& f);
-void txtSup_AlSalir(dlgEmpiricas& f);
-void txtLcauceP_Change(dlgEmpiricas& f);
-void txtcauceH_Change(dlgEmpiricas& f);
-void txtPendiCP_Change(dlgEmpiricas& f);
-void txtPendiCP_AlSalir(dlgEmpiricas& f);
+/// The text of a field was changed: S is put between 1 and 10000 where it is zero or above, the slope between
+/// 0 and 100; what depends on the field is computed.
+void AlCambiar(dlgEmpiricas& f, std::string_view control);
+/// The field was left: the same, but that only an S of zero is corrected.
+void AlSalir(dlgEmpiricas& f, std::string_view control);
 
 void btnCerrar(dlgEmpiricas& f);
 
@@ -57,20 +55,25 @@ void CalculaQp(dlgEmpiricas& f);
 /// Works out the times of concentration. One of 0 or at fault leaves nothing.
 void CalculaTc(dlgEmpiricas& f);
 
-/// A field: object name and caption, text, and what happens when it is changed and left.
-struct CampoEmpirico {
-    forms::FilaRotulo rotulo;
-    std::string dlgEmpiricas::*texto;
-    void (*alCambiar)(dlgEmpiricas& f);
-    void (*alSalir)(dlgEmpiricas& f);
-};
-
 // clang-format off
-inline constexpr auto CamposEmpiricos = std::to_array<CampoEmpirico>({
-    {{"txtSup", "Superficie S[Km2]:"},                    &dlgEmpiricas::txtSup,     txtSup_Change,     txtSup_AlSalir},
-    {{"txtLcauceP", "Longitud Cauce Principal  L[Km]:"},      &dlgEmpiricas::txtLcauceP, txtLcauceP_Change, txtLcauceP_Change},
-    {{"txtcauceH", "Desnivel Máximo H[m]:"},                 &dlgEmpiricas::txtcauceH,  txtcauceH_Change,  txtcauceH_Change},
-    {{"txtPendiCP", "Pendiente media cauce mñas largo [%]:"}, &dlgEmpiricas::txtPendiCP, txtPendiCP_Change, txtPendiCP_AlSalir},
+/// Captions of the fields.
+inline constexpr auto RotulosEmpiricos = std::to_array<forms::FilaRotulo>({
+    {"txtSup",     "Superficie S[Km2]:"},
+    {"txtLcauceP", "Longitud Cauce Principal  L[Km]:"},
+    {"txtcauceH",  "Desnivel Máximo H[m]:"},
+    {"txtPendiCP", "Pendiente media cauce mñas largo [%]:"},
+});
+
+/// The fields, what they are cut to, and which of the data they are; the same order.
+inline constexpr auto CamposEmpiricos = std::to_array<forms::CampoNumerico<dlgEmpiricas, double DatosTc::*>>({
+    {{.control = "txtSup", .minimo = -forms::SinLimite, .maximo = 10000},
+     &dlgEmpiricas::txtSup, &DatosTc::S},
+    {{.control = "txtLcauceP", .minimo = -forms::SinLimite, .maximo = forms::SinLimite},
+     &dlgEmpiricas::txtLcauceP, &DatosTc::L},
+    {{.control = "txtcauceH", .minimo = -forms::SinLimite, .maximo = forms::SinLimite},
+     &dlgEmpiricas::txtcauceH, &DatosTc::H},
+    {{.control = "txtPendiCP", .maximo = 100},
+     &dlgEmpiricas::txtPendiCP, &DatosTc::i},
 });
 // clang-format on
 

@@ -97,23 +97,24 @@ dlgEmpiricas_ventana::dlgEmpiricas_ventana(forms::Entorno& alrededor, dlgEmpiric
 
 void dlgEmpiricas_ventana::PonCampo(QGridLayout& rejilla, std::size_t cual)
 {
-    const CampoEmpirico& campo = CamposEmpiricos.at(cual);
+    const auto& campo = CamposEmpiricos.at(cual);
+    const std::string_view control = campo.regla.control;
     auto* const entrada = new QLineEdit;
-    entrada->setObjectName(Q(campo.rotulo.control));
+    entrada->setObjectName(Q(control));
     entrada->setFixedWidth(fontMetrics().averageCharWidth() * (LetrasDeUnDato + 3));
-    auto* const leyenda = Leyenda(campo.rotulo.leyenda, "");
+    auto* const leyenda = Leyenda(RotulosEmpiricos.at(cual).leyenda, "");
     leyenda->setBuddy(entrada);
     const int fila = rejilla.rowCount();
     rejilla.addWidget(leyenda, fila, 0);
     rejilla.addWidget(entrada, fila, 1);
-    connect(entrada, &QLineEdit::textEdited, this, [this, &campo](const QString& texto) {
+    connect(entrada, &QLineEdit::textEdited, this, [this, control, &campo](const QString& texto) {
         SucesoSinRevisar([&] {
             f.*campo.texto = DeQ(texto);
-            campo.alCambiar(f);
+            AlCambiar(f, control);
         });
     });
-    campos.Agrega(*entrada, [this, &campo] {
-        campo.alSalir(f);
+    campos.Agrega(*entrada, [this, control] {
+        AlSalir(f, control);
         return true;
     });
     entradas.at(cual) = entrada;

@@ -54,9 +54,7 @@ Calculo Calcula(const model::Red& red, const model::Tormenta& tormenta, const mo
     s.Pasos = pasos;
     s.TablasDeLluvia = tablas;
     s.Control.AvisoDescargasVisto = true;  // several outfalls are no notice of a run
-    constexpr auto Escrita = static_cast<std::int16_t>(model::FormaLluvia::Escrita);
-    if (s.Tormenta.FormaPp == static_cast<std::int16_t>(model::FormaLluvia::SeriePDR))
-        s.Tormenta.FormaPp = Escrita;
+    if (s.Tormenta.FormaPp == model::FormaLluvia::SeriePDR) s.Tormenta.FormaPp = model::FormaLluvia::Escrita;
     FinCalculo fin = FinCalculo::Terminado;
     try {
         ConstruyeHietograma(s, TablasPersonales::EnMemoria);

@@ -199,7 +199,7 @@ bool PasosRapidos(Corrida& c)
     if (!PasosSeguros(c)) return false;
     Siro& s = c.s;
     const int conLluvia = UltimoPasoConLluvia(c);
-    if (s.Tormenta.FormaPp == static_cast<std::int16_t>(model::FormaLluvia::PorUEH)) {
+    if (s.Tormenta.FormaPp == model::FormaLluvia::PorUEH) {
         for (int k = 1; k <= conLluvia; ++k)
             LluviaDelPaso(c, static_cast<std::int16_t>(k));
     } else {

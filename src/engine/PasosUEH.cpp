@@ -16,8 +16,6 @@ using model::Suma16;
 
 namespace {
 
-constexpr std::int16_t FormaPorUEH = static_cast<std::int16_t>(model::FormaLluvia::PorUEH);
-
 /// Values of one step in one UEH; they keep what they held where a statement is at fault.
 struct Paso {
     float Pp = 0;        ///< rainfall [mm]
@@ -170,7 +168,7 @@ void Alarga(Corrida& c, std::int16_t p)
 void LluviaDelPaso(Corrida& c, std::int16_t k)
 {
     if (!HayLluvia(c, k)) return;
-    if (c.s.Tormenta.FormaPp == FormaPorUEH)
+    if (c.s.Tormenta.FormaPp == model::FormaLluvia::PorUEH)
         LluviaPorUEH(c, k);
     else
         LluviaPareja(c, k);

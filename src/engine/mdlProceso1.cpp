@@ -25,9 +25,6 @@ using model::Suma16;
 
 namespace {
 
-constexpr std::int16_t FormaSerie = static_cast<std::int16_t>(model::FormaLluvia::SeriePDR);
-constexpr std::int16_t FormaPorUEH = static_cast<std::int16_t>(model::FormaLluvia::PorUEH);
-
 constexpr std::string_view SinUEHs =
     "Debe haber al menos una Unidad de Estudios Hidrólógicos (UEH) Cargada en "
     "el sistema. (Ingresar UEHs "
@@ -136,7 +133,7 @@ void DimensionaTrabajo(Corrida& c)
         [&] { s.Resultados.SRepresa.Dimensiona(s.Red.NroRepresas, Suma16(s.Resultados.NroPasosQ, 1)); });
     c.Intenta([&] { s.Resultados.HLago.Dimensiona(s.Red.NroLagos, Suma16(s.Resultados.NroPasosQ, 1)); });
     c.Intenta([&] { s.Resultados.SLago.Dimensiona(s.Red.NroLagos, Suma16(s.Resultados.NroPasosQ, 1)); });
-    if (s.Tormenta.FormaPp == FormaPorUEH) return;
+    if (s.Tormenta.FormaPp == model::FormaLluvia::PorUEH) return;
     for (int i = 1; i <= s.Red.NroUEHs; ++i)
         c.Intenta([&] { s.Tormenta.PpUEH(i) = 0; });
 }
@@ -151,7 +148,7 @@ void DimensionaResultados(Corrida& c)
         s.Resultados.QEntra.Dimensiona(Suma16(s.Red.NroUEHs, 1), Suma16(s.Resultados.NroComponentes, 1),
                                        Suma16(s.Resultados.NroPasosQ, 1));
     });
-    if (s.Tormenta.FormaPp != FormaSerie) {
+    if (s.Tormenta.FormaPp != model::FormaLluvia::SeriePDR) {
         s.Serie.NroSeriePDR = 1;
         s.Serie.IndSerie = 1;
     }

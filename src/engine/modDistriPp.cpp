@@ -19,8 +19,6 @@ using model::Siro;
 
 namespace {
 
-constexpr std::int16_t FormaReal = static_cast<std::int16_t>(model::FormaLluvia::Real);
-constexpr std::int16_t PrimeraPersonal = 5;  // distributions 5, 6, 7 are personal tables 1, 2, 3
 constexpr std::int16_t UltimaPersonal = 7;
 
 /// A distribution: the share of P in each block [%] and, where it isn't their running sum, the cumulative
@@ -123,7 +121,7 @@ void LlenaFija(Siro& s, const Distribucion& tabla)
 /// Personal table: its counts are read just before use, since another reader may have replaced them.
 void LlenaPersonal(Siro& s, TablasPersonales tablas)
 {
-    const int tabla = s.Tormenta.DistriPp - (PrimeraPersonal - 1);
+    const int tabla = s.Tormenta.DistriPp - (model::PrimeraPersonal - 1);
     if (tablas == TablasPersonales::DelDisco) model::LeeTablaDisTemPer(s);
     const std::int16_t periodos = s.TablasDeLluvia.NroFilasTabla[static_cast<std::size_t>(tabla)];
     LugarParaTabla(s, periodos);
@@ -140,8 +138,8 @@ void LlenaPersonal(Siro& s, TablasPersonales tablas)
 
 void LlenaPorcentajes(Siro& s, TablasPersonales tablas)
 {
-    if (s.Tormenta.FormaPp >= FormaReal) return LlenaReal(s);
-    if (s.Tormenta.DistriPp >= PrimeraPersonal && s.Tormenta.DistriPp <= UltimaPersonal)
+    if (s.Tormenta.FormaPp >= model::FormaLluvia::Real) return LlenaReal(s);
+    if (s.Tormenta.DistriPp >= model::PrimeraPersonal && s.Tormenta.DistriPp <= UltimaPersonal)
         return LlenaPersonal(s, tablas);
     LlenaFija(s, DistribucionFija(s));
 }
@@ -156,7 +154,7 @@ void TerminaBloque(Siro& s, int j, Renglon& linea)
         Simple(Cociente(P * s.Hietograma.IntensidadPp(j) / (1.0 / s.Hietograma.NroBloquesPp),
                         s.Tormenta.DurTormenta) /
                100);
-    if (s.Tormenta.FormaPp != FormaReal)
+    if (s.Tormenta.FormaPp != model::FormaLluvia::Real)
         s.Tormenta.PpReal(j) = Simple(double{s.Hietograma.PpAcum(j)} - s.Hietograma.PpAcum(j - 1));
 
     const std::int16_t minutos = model::Producto16(s.Pasos.PasoPp, static_cast<std::int16_t>(j));
@@ -178,7 +176,7 @@ void Construye(Siro& s, TablasPersonales tablas)
     if (s.Control.SalidaPizarra)
         s.Anfitrion.AgregaPizarra("\r\nPp= " + model::NumeroATexto(s.Tormenta.PpTormenta) + " [mm]  " +
                                   model::NumeroATexto(std::int32_t{s.Tormenta.DurTormenta}) + " [min]");
-    if (s.Tormenta.FormaPp != FormaReal) s.Tormenta.PpReal(0) = 0;
+    if (s.Tormenta.FormaPp != model::FormaLluvia::Real) s.Tormenta.PpReal(0) = 0;
     if (s.Control.SalidaPizarra) {
         s.Anfitrion.AgregaPizarra("\r\nDistribución temporal de la Pp:");
         s.Anfitrion.AgregaPizarra("\r\nPer.k t[min] Pp[mm]  Pp Acumulada[mm]  Intensidad de Pp[mm/min]");

@@ -2,7 +2,6 @@
 #include "forms/CampoNumerico.h"
 
 #include <cmath>
-#include <utility>
 
 #include "model/Avisos.h"
 
@@ -15,34 +14,50 @@ std::optional<double> NumeroDeCampo(std::string_view texto)
     return x;
 }
 
+std::optional<double> NumeroDeCampo(const ReglaNumero& regla, std::string_view texto)
+{
+    const bool vacio = texto.find_first_not_of(' ') == std::string_view::npos;
+    return vacio && regla.vacioEsCero ? std::optional<double>(0) : NumeroDeCampo(texto);
+}
+
 bool Cabe(const ReglaNumero& regla, double x)
 {
-    if (regla.clase == ClaseNumero::Entero && x != std::floor(x)) return false;
-    const bool desdeElMinimo = regla.incluyeMinimo ? x >= regla.minimo : x > regla.minimo;
-    const bool hastaElMaximo = regla.incluyeMaximo ? x <= regla.maximo : x < regla.maximo;
-    return desdeElMinimo && hastaElMaximo;
+    const bool esDeLaClase = regla.clase == ClaseNumero::Real || x == std::floor(x);
+    return esDeLaClase && x >= regla.minimo && x <= regla.maximo;
 }
 
 bool Vale(const ReglaNumero& regla, std::string_view texto)
 {
-    if (regla.vacioEsCero && texto.find_first_not_of(' ') == std::string_view::npos) return Cabe(regla, 0);
-    const std::optional<double> x = NumeroDeCampo(texto);
+    const std::optional<double> x = NumeroDeCampo(regla, texto);
     return x && Cabe(regla, *x);
 }
 
-void MuestraRechazo(const model::Siro& s, CajaRechazo caja, std::string mensaje)
+void MuestraRechazo(const model::Siro& s, Rechazo rechazo, std::string_view mensaje)
 {
-    switch (caja) {
-    case CajaRechazo::Exclamacion:
-        model::Advierte(s, std::move(mensaje), {});
-        return;
-    case CajaRechazo::Advertencia:
-        model::Advierte(s, std::move(mensaje));
-        return;
-    case CajaRechazo::Llana:
-        model::Informa(s, std::move(mensaje));
-        return;
+    if (rechazo == Rechazo::Exclamacion) model::Advierte(s, std::string(mensaje), {});
+    if (rechazo == Rechazo::Advertencia) model::Advierte(s, std::string(mensaje));
+    if (rechazo == Rechazo::Llana) model::Informa(s, std::string(mensaje));
+}
+
+void Recorta(const ReglaNumero& regla, double x, std::string& texto)
+{
+    if (x > regla.maximo)
+        texto = regla.alRechazar.empty() ? model::NumeroATexto(regla.maximo) : std::string(regla.alRechazar);
+    else if (x <= regla.minimo && regla.minimo > -SinLimite)
+        texto = model::NumeroATexto(regla.minimo);
+}
+
+bool AlSalir(const model::Siro& s, const ReglaNumero& regla, std::string& texto)
+{
+    if (regla.rechazo == Rechazo::Recorta) {
+        Recorta(regla, model::Val(texto), texto);
+        return true;
     }
+    texto = model::ComasAPuntos(texto);
+    if (Vale(regla, texto)) return true;
+    MuestraRechazo(s, regla.rechazo, regla.mensaje);
+    if (!regla.alRechazar.empty()) texto = regla.alRechazar;
+    return false;
 }
 
 }  // namespace forms

@@ -108,12 +108,14 @@ QRadioButton* Constructor::Opcion(std::string_view control, const bool& marcada,
     return opcion;
 }
 
-QRadioButton* Constructor::OpcionDe(std::string_view control, std::size_t numero, std::string_view leyenda,
-                                    const bool& marcada, std::function<void()> elige)
+QRadioButton* Constructor::OpcionDe(std::string_view control, int numero, std::string_view leyenda,
+                                    const int& marcada, const std::function<void(int)>& elige)
 {
-    QRadioButton* const opcion = Opcion(control, marcada, std::move(elige));
+    auto* const opcion = Nombra(new QRadioButton, control);
     opcion->setObjectName(QStringLiteral("%1_%2").arg(Q(control)).arg(numero));
     opcion->setText(Q(leyenda));
+    AlPulsar(*opcion, [elige, numero] { elige(numero); });
+    AlMostrar([opcion, &marcada, numero] { PonOpcion(*opcion, marcada == numero); });
     return opcion;
 }
 

@@ -137,16 +137,16 @@ class Constructor : protected Disposicion {
     QCheckBox* Casilla(std::string_view control, std::function<bool()> tildada,
                        std::function<void(bool)> pulsa);
     QRadioButton* Opcion(std::string_view control, const bool& marcada, std::function<void()> elige);
-    /// Options of one control, which number from 0 tells apart; their captions are handed in.
+    /// Options of one control, which number from 0 tells apart, and the one ticked, -1: none; their captions
+    /// are handed in.
     template <std::size_t N>
     std::array<QRadioButton*, N> Opciones(std::string_view control,
-                                          const std::array<std::string_view, N>& leyendas,
-                                          const std::array<bool, N>& marcadas,
-                                          const std::function<void(std::size_t)>& elige)
+                                          const std::array<std::string_view, N>& leyendas, const int& marcada,
+                                          const std::function<void(int)>& elige)
     {
         std::array<QRadioButton*, N> opciones{};
         for (std::size_t i = 0; i < N; ++i)
-            opciones[i] = OpcionDe(control, i, leyendas[i], marcadas[i], [elige, i] { elige(i); });
+            opciones[i] = OpcionDe(control, static_cast<int>(i), leyendas[i], marcada, elige);
         return opciones;
     }
 
@@ -205,8 +205,8 @@ class Constructor : protected Disposicion {
 
   private:
     void NombraWidget(QWidget& widget, std::string_view control) const;
-    QRadioButton* OpcionDe(std::string_view control, std::size_t numero, std::string_view leyenda,
-                           const bool& marcada, std::function<void()> elige);
+    QRadioButton* OpcionDe(std::string_view control, int numero, std::string_view leyenda, const int& marcada,
+                           const std::function<void(int)>& elige);
 
     std::span<const FilaRotulo> rotulos;
     const bool* abierta = nullptr;

@@ -33,13 +33,13 @@ void Pon(QComboBox& lista, const std::vector<std::string>& items, int indice);
 /// Items and the text of a list that can be typed into.
 void Pon(QComboBox& lista, const std::vector<std::string>& items, std::string_view texto);
 
-/// Options of which one at most is ticked; `marcada` tells of each whether it is.
+/// Options of which one at most is ticked, from 0; -1: none.
 void PonOpcion(QRadioButton& opcion, bool marcada);
-template <typename Opciones, typename Marcas>
-void PonOpciones(const Opciones& opciones, const Marcas& marcadas)
+template <typename Opciones>
+void PonOpciones(const Opciones& opciones, int marcada)
 {
-    for (std::size_t i = 0; i < marcadas.size(); ++i)
-        PonOpcion(*opciones[i], marcadas[i]);
+    for (int i = 0; QRadioButton* const opcion : opciones)
+        PonOpcion(*opcion, i++ == marcada);
 }
 
 /// From the control to the record: each edit of the user is in the text at once, so that showing the record

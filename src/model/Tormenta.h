@@ -10,15 +10,18 @@
 
 namespace model {
 
-/// Input form of the rain.
-enum class FormaLluvia : std::int16_t { Escrita = 0, DeLista = 1, SeriePDR = 2, PorUEH = 3, Real = 4 };
+/// Input form of the rain. Unscoped, since a form is an index too: named as FormaLluvia::Real all the same.
+enum FormaLluvia : std::int16_t { Escrita = 0, DeLista = 1, SeriePDR = 2, PorUEH = 3, Real = 4 };
+
+/// Temporal distributions 5, 6 and 7 are the personal tables 1, 2 and 3.
+inline constexpr std::int16_t PrimeraPersonal = 5;
 
 /// What it rains. A plain value.
 struct Tormenta {
     float PpTormenta = 0;                          ///< depth P [mm]
     std::int16_t DurTormenta = 0;                  ///< duration D [min]
     std::int16_t RecTormenta = 0;                  ///< recurrence R [years]
-    std::int16_t FormaPp = 0;                      ///< FormaLluvia
+    std::int16_t FormaPp = FormaLluvia::Escrita;   ///< FormaLluvia
     std::int16_t DistriPp = 0;                     ///< temporal distribution 0..7
     std::int16_t TablaPDR = 0;                     ///< P-D-R table in use, 0..3
     Arreglo<float> PpUEH = Ceros<float>(MaxUEHs);  ///< rainfall of each UEH in this storm [mm], by number

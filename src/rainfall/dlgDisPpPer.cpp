@@ -16,12 +16,12 @@ namespace rainfall {
 
 using forms::Evento;
 using model::NumeroATexto;
+using model::PrimeraPersonal;
 using model::Siro;
 
 namespace {
 
 constexpr int NroTablas = 3;
-constexpr std::size_t PrimeraPersonal = 5;  // distributions 5 to 7 are personal tables 1 to 3
 
 constexpr int ColumnaTiempo = 1;
 constexpr int ColumnaParcial = 2;
@@ -46,16 +46,7 @@ constexpr std::string_view MaximaMenor =
 constexpr std::string_view ErrorDeCierre =
     "Error de Cierre, la suma de Precipitaciones parciales debe ser 100%. Verifique los datos ingresados";
 
-constexpr forms::ReglaNumero ReglaNroPer{.control = "txtNroPer",
-                                         .maximo = 999,
-                                         .mensaje = "Ingrese un valor numérico entero entre 0 y 999 ",
-                                         .clase = forms::ClaseNumero::Entero,
-                                         .caja = forms::CajaRechazo::Llana};
-
-std::string Texto(std::int16_t n)
-{
-    return NumeroATexto(std::int32_t{n});
-}
+constexpr forms::ReglaNumero ReglaNroPer = forms::ReglaDeCuenta("txtNroPer");
 
 std::size_t Ranura(const dlgDisPpPer& f)
 {
@@ -65,16 +56,16 @@ std::size_t Ranura(const dlgDisPpPer& f)
 // --- limits ---
 
 template <std::size_t N>
-Lista NuevaLista(const std::array<std::int16_t, N>& duraciones)
+forms::Lista NuevaLista(const std::array<std::int16_t, N>& duraciones)
 {
-    Lista lista;
+    forms::Lista lista;
     for (const std::int16_t d : duraciones)
-        lista.items.push_back(Texto(d));
+        lista.items.push_back(NumeroATexto(d));
     return lista;
 }
 
 template <std::size_t N>
-void Elige(Lista& lista, const std::array<std::int16_t, N>& duraciones, std::int16_t d)
+void Elige(forms::Lista& lista, const std::array<std::int16_t, N>& duraciones, std::int16_t d)
 {
     const auto lugar = std::find(duraciones.begin(), duraciones.end(), d);
     lista.indice = lugar == duraciones.end() ? 0 : static_cast<int>(lugar - duraciones.begin());
@@ -167,7 +158,7 @@ void MuestraTabla(dlgDisPpPer& f, Siro& s)
 {
     const std::int16_t n = s.TablasDeLluvia.NroFilasTabla[Ranura(f)];
     f.txtNotas = s.TablasDeLluvia.NotasDisPer[Ranura(f)];
-    f.txtNroPer = Texto(n);
+    f.txtNroPer = NumeroATexto(n);
     Elige(f.cmbDurMin, DuracionesMinimas, s.TablasDeLluvia.DurMinPer[Ranura(f)]);
     Elige(f.cmbDurMax, DuracionesMaximas, s.TablasDeLluvia.DurMaxPer[Ranura(f)]);
     f.MSFlexGridDisPerso = forms::NuevaGrilla(ReglasTabla);
@@ -217,8 +208,8 @@ void Abre(dlgDisPpPer& f, const dlgPp& pp, Siro& s)
         f.cmbDurMin = NuevaLista(DuracionesMinimas);
         f.cmbDurMax = NuevaLista(DuracionesMaximas);
         f.cmbNroTablaDisPpPer = {{"1", "2", "3"}, 0};
-        for (std::size_t i = 0; i < NroTablas; ++i)
-            if (pp.optDistriPp[PrimeraPersonal + i]) f.cmbNroTablaDisPpPer.indice = static_cast<int>(i);
+        if (pp.optDistriPp >= PrimeraPersonal)
+            f.cmbNroTablaDisPpPer.indice = pp.optDistriPp - PrimeraPersonal;
         MuestraTabla(f, s);
         RecuerdaTablas(f, s);
     });
@@ -226,7 +217,7 @@ void Abre(dlgDisPpPer& f, const dlgPp& pp, Siro& s)
 
 void cmbNroTablaDisPpPer_Click(dlgDisPpPer& f, dlgPp& pp, Siro& s)
 {
-    optDistriPp_Click(pp, s, PrimeraPersonal + Ranura(f) - 1);
+    optDistriPp_Click(pp, s, PrimeraPersonal + f.cmbNroTablaDisPpPer.indice);
     Evento(s, [&] { MuestraTabla(f, s); });
 }
 
@@ -246,17 +237,16 @@ void cmbDurMax_Click(const dlgDisPpPer& f, Siro& s)
     s.TablasDeLluvia.DurMaxPer[Ranura(f)] = Maxima(f);
 }
 
-bool cmbDurMax_AlSalir(dlgDisPpPer& f, const Siro& s)
+bool cmbDurMax_AlSalir(const dlgDisPpPer& f, const Siro& s)
 {
     const bool pasa = Minima(f) <= Maxima(f);
     if (!pasa) model::Advierte(s, std::string(MaximaMenor), {});
-    f.foco = pasa ? forms::Foco{} : forms::Foco{"cmbDurMax", true};
     return pasa;
 }
 
 bool txtNroPer_AlSalir(dlgDisPpPer& f, Siro& s)
 {
-    if (!forms::AlSalir(f, s, ReglaNroPer, f.txtNroPer)) return false;
+    if (!forms::AlSalir(s, ReglaNroPer, f.txtNroPer)) return false;
     Evento(s, [&] {
         Asienta(f, s);
         const std::int16_t n = model::Entero16(model::Val(f.txtNroPer));
@@ -308,7 +298,7 @@ void CancelButton(dlgDisPpPer& f)
 bool SinAplicar(const dlgDisPpPer& f, const Siro& s)
 {
     return f.abierta && (f.MSFlexGridDisPerso.filas != f.leidas.filas ||
-                         f.txtNroPer != Texto(s.TablasDeLluvia.NroFilasTabla[Ranura(f)]) ||
+                         f.txtNroPer != NumeroATexto(s.TablasDeLluvia.NroFilasTabla[Ranura(f)]) ||
                          f.leidas.tablas != EnMemoria(s));
 }
 

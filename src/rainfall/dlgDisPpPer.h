@@ -59,10 +59,10 @@ struct DistribucionesLeidas {
 
 struct dlgDisPpPer {
     bool abierta = false;
-    Lista cmbNroTablaDisPpPer{};  ///< item i is table i + 1
+    forms::Lista cmbNroTablaDisPpPer{};  ///< item i is table i + 1
     std::string txtNotas{};
     std::string txtNroPer{};
-    Lista cmbDurMin{}, cmbDurMax{};
+    forms::Lista cmbDurMin{}, cmbDurMax{};
     forms::Grilla MSFlexGridDisPerso{};
     DistribucionesLeidas leidas{};
     forms::Foco foco{};
@@ -87,7 +87,7 @@ void cmbDurMin_Click(const dlgDisPpPer& f, model::Siro& s);
 void cmbDurMax_Click(const dlgDisPpPer& f, model::Siro& s);
 
 // Leaving a field. Returns false where it is refused and the focus stays.
-bool cmbDurMax_AlSalir(dlgDisPpPer& f, const model::Siro& s);
+bool cmbDurMax_AlSalir(const dlgDisPpPer& f, const model::Siro& s);
 bool txtNroPer_AlSalir(dlgDisPpPer& f, model::Siro& s);
 
 /// Cells of the table have settled.

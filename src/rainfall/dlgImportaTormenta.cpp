@@ -113,8 +113,8 @@ void LlenaPasos(dlgImportaTormenta& f)
     const auto lugar = std::lower_bound(pasos.begin(), pasos.end(), habitual);
     if (lugar == pasos.end() || *lugar != habitual) pasos.insert(lugar, habitual);
     for (const std::int16_t paso : pasos)
-        f.cmbPaso.items.push_back(std::to_string(paso));
-    f.cmbPaso.texto = std::to_string(habitual);
+        f.itemsPaso.push_back(std::to_string(paso));
+    f.cmbPaso = std::to_string(habitual);
 }
 
 }  // namespace
@@ -146,8 +146,8 @@ void cmbPaso_Change(dlgImportaTormenta& f)
 {
     constexpr forms::ReglaNumero ReglaPaso{
         .control = "cmbPaso", .minimo = 1, .maximo = 32767, .clase = forms::ClaseNumero::Entero};
-    const bool vale = forms::Vale(ReglaPaso, f.cmbPaso.texto);
-    const int paso = vale ? static_cast<int>(*forms::NumeroDeCampo(f.cmbPaso.texto)) : 0;
+    const bool vale = forms::Vale(ReglaPaso, f.cmbPaso);
+    const int paso = vale ? static_cast<int>(*forms::NumeroDeCampo(f.cmbPaso)) : 0;
     Remuestreo remuestreo = Remuestrea(f.registro.lecturas, paso);
     f.puedeImportar = remuestreo.motivo.empty();
     f.tormenta = std::move(remuestreo.tormenta);

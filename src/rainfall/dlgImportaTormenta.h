@@ -35,7 +35,8 @@ struct dlgImportaTormenta {
     bool abierta = false;
     bool aceptada = false;
     std::string lblArchivo{}, lblRegistro{}, lblResultado{};
-    ListaConTexto cmbPaso{};
+    std::string cmbPaso{};  ///< [min]
+    std::vector<std::string> itemsPaso{};
     bool puedeImportar = false;  ///< the step does; otherwise lblResultado tells why not
     forms::Grilla grillaImportada{};
     forms::Grilla grillaDudosos{};  ///< lines of the record that need a look, and what is made of each

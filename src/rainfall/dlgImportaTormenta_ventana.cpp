@@ -39,7 +39,7 @@ dlgImportaTormenta_ventana::dlgImportaTormenta_ventana(forms::Entorno& alrededor
     const int fila = grilla->rowCount();
     grilla->addWidget(piezas.Rotulo("cmbPaso", *cmbPaso), fila, 0);
     grilla->addWidget(cmbPaso, fila, 1, Qt::AlignLeft);
-    forms::Refleja(*cmbPaso, f.cmbPaso.texto);
+    forms::Refleja(*cmbPaso, f.cmbPaso);
     connect(cmbPaso, &QComboBox::editTextChanged, this, [this] { Suceso([this] { cmbPaso_Change(f); }); });
     lblResultado = dato("lblResultado");
     pila->addWidget(MarcoDeDudosos());
@@ -96,7 +96,7 @@ void dlgImportaTormenta_ventana::Muestra()
 {
     Pon(*lblArchivo, f.lblArchivo);
     Pon(*lblRegistro, f.lblRegistro);
-    Pon(*cmbPaso, f.cmbPaso.items, f.cmbPaso.texto);
+    Pon(*cmbPaso, f.itemsPaso, f.cmbPaso);
     Pon(*lblResultado, f.lblResultado);
     acepta->setEnabled(f.puedeImportar);
     dudosos->Muestra();

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <initializer_list>
+#include <span>
 #include <utility>
 
 #include "engine/modDistriPp.h"
@@ -11,27 +11,24 @@
 #include "model/Avisos.h"
 #include "model/Numeros.h"
 #include "model/Texto.h"
+#include "rainfall/EstadosDePp.h"
 
 namespace rainfall {
 
 using forms::Evento;
 using model::Advierte;
-using model::Entero16;
+using model::FormaLluvia;
 using model::NumeroATexto;
-using model::Simple;
+using model::PrimeraPersonal;
 using model::Siro;
 using model::Val;
 
 namespace {
 
-constexpr std::size_t FormaDeLista = 1;
-constexpr std::size_t FormaSerie = 2;
-constexpr std::size_t FormaPorUEH = 3;
-constexpr std::size_t FormaReal = 4;
-constexpr std::size_t PrimeraPersonal = 5;  // distributions 5 to 7 are personal tables 1 to 3
-
 constexpr std::string_view PorDefecto = "60";
-constexpr std::string_view PasoPorDefecto = "10";
+constexpr std::int16_t PasoPorDefecto = 10;  // [min]
+constexpr int UltimaDistribucion = DistribucionesPp.size() - 1;
+constexpr int PrimeraMuestra = 2;  // distributions 2 to 4 are storms of Ruvera
 constexpr std::string_view DuracionDeMuestra = "1440";
 
 constexpr std::string_view SinTormenta = "No ha ingresado datos de Pp y Duración de la tormenta.";
@@ -46,147 +43,54 @@ constexpr std::string_view PasoQNoCabe =  // kept as it stands
     "Elija un paso de tiempo para las salidas (Caudales) igual, o múlitplo menor, al paso de entradas "
     "(precipitaciones)";
 
-// --- state per form ---
+// --- options and fields ---
 
-/// A set of controls, a bit each.
-using Conjunto = std::uint64_t;
-static_assert(NroControles <= 64);
-
-consteval Conjunto De(std::initializer_list<std::string_view> controles)
+/// The form that is ticked; the first one where none is.
+FormaLluvia Forma(const dlgPp& f)
 {
-    Conjunto c = 0;
-    for (const std::string_view control : controles) {
-        const std::size_t i = forms::LugarDe(ControlesDlgPp, control);
-        if (i == NroControles) throw control;  // it doesn't build then
-        c |= Conjunto{1} << i;
-    }
-    return c;
+    return FormaLluvia{static_cast<std::int16_t>(std::max(f.optformaPp, 0))};
 }
 
-/// What a form of the rain makes of the controls; a control that it doesn't name stays as it is.
-struct FilaForma {
-    Conjunto habilita, deshabilita, muestra, oculta;
-};
-
-constexpr Conjunto DesdeElComienzo =
-    De({"txtPp", "txtDur", "cmbRec", "optTablaPDR", "cmdBorraPDR", "cmbPDR", "cmdTablaPDR"});
-constexpr Conjunto Validez = De({"lblValidez", "lblDurMin", "lblDurMax"});
-constexpr Conjunto Vistas = De({"cmdVerGrafico", "cmdVerTablaPt"});
-
-// clang-format off
-/// The index is FormaPp.
-constexpr auto FilasForma = std::to_array<FilaForma>({
-    {.habilita = De({"optformaPp", "txtPp", "txtDur", "cmbRec", "cmdPDR",
-                     "cmbPasoPp"}) | Vistas,
-     .deshabilita = De({"cmdPpPerso"}),
-     .muestra = De({"Frame2", "Frame4", "Frame5", "Label9_0", "Label9_1"}),
-     .oculta = De({"Frame3", "Frame7"}) | Validez},
-    {.habilita = De({"cmdBorraPDR", "cmbPDR", "cmbPasoPp"}) | Vistas,
-     .deshabilita = De({"cmdPDR", "cmdPpPerso"}),
-     .muestra = De({"Frame2", "Frame4", "Frame5", "Label9_0", "Label9_1"}),
-     .oculta = De({"Frame3", "Frame7"})},
-    {.habilita = De({"optTablaPDR", "cmbPasoPp"}),
-     .deshabilita = De({"cmdPDR", "cmdTablaPDR", "cmdPpPerso"}) | Vistas,
-     .muestra = De({"Frame2", "Frame3", "Frame5", "Label9_0", "Label9_1"}),
-     .oculta = De({"Frame4", "Frame7"})},
-    {.habilita = De({"cmdCargaPDRnoUniforme", "cmbRec", "cmbPasoPp"}),
-     .deshabilita = De({"txtPp", "txtDur", "cmdPpPerso"}) | Vistas,
-     .muestra = De({"Frame2", "Frame5", "Label9_1"}),
-     .oculta = De({"Frame3", "Frame4", "Frame7", "Label9_0"}) | Validez},
-    {.habilita = 0,
-     .deshabilita = De({"cmbPasoPp"}) | Vistas,
-     .muestra = De({"Frame2", "Frame7", "Label9_0"}),
-     .oculta = De({"Frame3", "Frame4", "Frame5", "Label9_1"})},
-});
-// clang-format on
-static_assert(FilasForma.size() == FormasPp.size());
-
-void Pon(dlgPp& f, Conjunto controles, bool EstadoControl::*que, bool valor)
+std::int16_t Tabla(const dlgPp& f)
 {
-    for (std::size_t i = 0; i < NroControles; ++i)
-        if ((controles >> i & 1U) != 0) f.estados[i].*que = valor;
-}
-
-// --- options ---
-
-/// Index of the first ticked option; the number of options where none is.
-template <std::size_t N>
-std::size_t Marcada(const std::array<bool, N>& opciones)
-{
-    return static_cast<std::size_t>(std::find(opciones.begin(), opciones.end(), true) - opciones.begin());
-}
-
-template <std::size_t N>
-std::size_t MarcadaOCero(const std::array<bool, N>& opciones)
-{
-    return Marcada(opciones) % N;
-}
-
-template <std::size_t N>
-void Marca(std::array<bool, N>& opciones, std::size_t i)
-{
-    opciones.fill(false);
-    if (i < N) opciones[i] = true;
-}
-
-bool PersonalMarcada(const dlgPp& f)
-{
-    const std::size_t i = Marcada(f.optDistriPp);
-    return i >= PrimeraPersonal && i < f.optDistriPp.size();
+    return static_cast<std::int16_t>(std::max(f.optTablaPDR, 0));
 }
 
 void TomaDistribucion(const dlgPp& f, Siro& s)
 {
-    const std::size_t i = Marcada(f.optDistriPp);
-    if (i < f.optDistriPp.size()) s.Tormenta.DistriPp = static_cast<std::int16_t>(i);
+    if (f.optDistriPp >= 0) s.Tormenta.DistriPp = static_cast<std::int16_t>(f.optDistriPp);
 }
 
-// --- texts ---
-
-std::string Texto(std::int16_t n)
+void MuestraCampos(dlgPp& f, const Siro& s, std::span<const CampoPp> campos)
 {
-    return NumeroATexto(std::int32_t{n});
+    for (const CampoPp& campo : campos)
+        f.*campo.texto = f.mostrados.*campo.texto = campo.valor.texto(s);
 }
 
-std::string EnCampo(std::string_view texto)
-{
-    return model::ComasAPuntos(texto);
-}
-
+/// Depth and duration. A real storm has no recurrence.
 void MuestraTormenta(dlgPp& f, const Siro& s)
 {
-    f.txtPp = f.mostrados.txtPp = EnCampo(NumeroATexto(s.Tormenta.PpTormenta));
-    f.txtDur = f.mostrados.txtDur = Texto(s.Tormenta.DurTormenta);
+    MuestraCampos(f, s, std::span(CamposDeTormenta).first(2));
 }
 
-void MuestraConRecurrencia(dlgPp& f, const Siro& s)
+void TomaCampos(const dlgPp& f, Siro& s, std::span<const CampoPp> campos)
 {
-    MuestraTormenta(f, s);
-    f.cmbRec.texto = f.mostrados.cmbRec = Texto(s.Tormenta.RecTormenta);
-}
-
-void RecuerdaCampos(dlgPp& f)
-{
-    f.mostrados = {f.txtPp, f.txtDur, f.cmbRec.texto, f.cmbPasoPp.texto, f.cmbPasoQ.texto};
+    for (const CampoPp& campo : campos)
+        campo.valor.pon(s, Val(f.*campo.texto));
 }
 
 // --- real storm ---
 
-/// Items of FilePpReal. A directory that isn't there holds no storm.
+/// Items of FilePpReal, that of the storm's name selected, or the first, whose name then is the storm's. A
+/// directory that isn't there holds no storm.
 void LlenaFilePpReal(dlgPp& f, const Siro& s)
 {
-    f.FilePpReal.items.clear();
+    f.FilePpReal = {};
     model::Sentencia([&] { f.FilePpReal.items = model::ListaTormentas(s); });
-}
-
-/// Selects the item of the storm's name, or the first, whose name then is the storm's.
-void SeleccionaTormenta(dlgPp& f)
-{
     f.tormenta.nombre = model::NombreTormenta(f.tormenta.nombre);
-    auto& [items, indice] = f.FilePpReal;
-    const auto lugar = std::find(items.begin(), items.end(), f.tormenta.nombre);
-    indice = items.empty() ? -1 : lugar == items.end() ? 0 : static_cast<int>(lugar - items.begin());
-    if (indice >= 0) f.tormenta.nombre = items[static_cast<std::size_t>(indice)];
+    if (f.FilePpReal.items.empty()) return;
+    if (!f.FilePpReal.Elige(f.tormenta.nombre)) f.FilePpReal.indice = 0;
+    f.tormenta.nombre = f.FilePpReal.Elegido();
 }
 
 /// Reads the storm. Its step becomes that of the model, but where its file tells none: the step then stays.
@@ -197,27 +101,25 @@ void LeeTormenta(dlgPp& f, Siro& s)
     model::LeePpReal(s, f.tormenta);
     const bool conPaso = f.tormenta.PasoPpReal != SinLeer;
     if (!conPaso) f.tormenta.PasoPpReal = paso;
-    f.lblNumPer = Texto(s.Tormenta.NroPpReal);
+    f.lblNumPer = NumeroATexto(s.Tormenta.NroPpReal);
     f.lblMiFilePpReal = model::EtiquetaTormenta(s, f.tormenta.nombre);
     MuestraTormenta(f, s);
     if (conPaso) s.Pasos.PasoPp = f.tormenta.PasoPpReal;
-    f.cmbPasoPp.texto = Texto(s.Pasos.PasoPp);
+    f.cmbPasoPp = NumeroATexto(s.Pasos.PasoPp);
 }
 
 // --- besides the table, per form ---
 
 void HabilitaTablaPDR(dlgPp& f)
 {
-    const std::size_t tabla = Marcada(f.optTablaPDR);
-    f.Estado("cmdTablaPDR").habilitado = tabla >= 1 && tabla < f.optTablaPDR.size();
+    f.Estado("cmdTablaPDR").habilitado = f.optTablaPDR > 0;
 }
 
 void EstadoReal(dlgPp& f, Siro& s)
 {
     LlenaFilePpReal(f, s);
-    SeleccionaTormenta(f);
     LeeTormenta(f, s);
-    Marca(f.optDistriPp, f.optDistriPp.size() - 1);
+    f.optDistriPp = UltimaDistribucion;
     TomaDistribucion(f, s);
 }
 
@@ -231,45 +133,37 @@ void LeeLista(dlgPp& f, Siro& s)
 
 void MuestraValidez(dlgPp& f, const Siro& s)
 {
-    if (MarcadaOCero(f.optformaPp) != 0 || !PersonalMarcada(f)) return;
-    const std::size_t k = Marcada(f.optDistriPp) - (PrimeraPersonal - 1);
+    if (Forma(f) != FormaLluvia::Escrita || f.optDistriPp < PrimeraPersonal) return;
+    const auto k = static_cast<std::size_t>(f.optDistriPp - (PrimeraPersonal - 1));
     f.Estado("lblValidez").visible = true;
     f.Estado("lblDurMin").visible = s.TablasDeLluvia.DurMinPer[k] > 0;
     f.Estado("lblDurMax").visible = s.TablasDeLluvia.DurMaxPer[k] > 0;
-    f.lblDurMin = Texto(s.TablasDeLluvia.DurMinPer[k]);
-    f.lblDurMax = Texto(s.TablasDeLluvia.DurMaxPer[k]);
-}
-
-void TomaTormentas(dlgPp& f, const std::vector<std::string>& archivos)
-{
-    auto& [items, indice] = f.FilePpReal;
-    const std::string elegida = indice < 0 ? std::string() : items[static_cast<std::size_t>(indice)];
-    items = archivos;
-    const auto lugar = std::find(items.begin(), items.end(), elegida);
-    indice = lugar == items.end() ? -1 : static_cast<int>(lugar - items.begin());
+    f.lblDurMin = NumeroATexto(s.TablasDeLluvia.DurMinPer[k]);
+    f.lblDurMax = NumeroATexto(s.TablasDeLluvia.DurMaxPer[k]);
 }
 
 void EstadoFormaPp(dlgPp& f, Siro& s)
 {
-    const std::size_t forma = MarcadaOCero(f.optformaPp);
-    s.Tormenta.FormaPp = static_cast<std::int16_t>(forma);
-    Pon(f, DesdeElComienzo, &EstadoControl::habilitado, false);
-    f.Estado("optDistriPp").habilitado = forma < FormaPorUEH;
+    const FormaLluvia forma = Forma(f);
+    s.Tormenta.FormaPp = forma;
+    Pon(f, Deshabilitados, &EstadoControl::habilitado, false);
+    f.Estado("optDistriPp").habilitado = forma < FormaLluvia::PorUEH;
     TomaDistribucion(f, s);
 
-    if (forma == FormaDeLista) LeeLista(f, s);
-    const FilaForma& fila = FilasForma[forma];
+    if (forma == FormaLluvia::DeLista) LeeLista(f, s);
+    const FilaForma& fila = FilasForma.at(static_cast<std::size_t>(forma));
     Pon(f, fila.habilita, &EstadoControl::habilitado, true);
     Pon(f, fila.deshabilita, &EstadoControl::habilitado, false);
+    Pon(f, Marcos | fila.oculta, &EstadoControl::visible, false);
     Pon(f, fila.muestra, &EstadoControl::visible, true);
-    Pon(f, fila.oculta, &EstadoControl::visible, false);
 
-    if (forma <= FormaSerie && PersonalMarcada(f)) f.Estado("cmdPpPerso").habilitado = true;
+    if (forma <= FormaLluvia::SeriePDR && f.optDistriPp >= PrimeraPersonal)
+        f.Estado("cmdPpPerso").habilitado = true;
     MuestraValidez(f, s);
-    if (forma == FormaSerie) HabilitaTablaPDR(f);
+    if (forma == FormaLluvia::SeriePDR) HabilitaTablaPDR(f);
     // Storms per UEH are always of constant intensity. The click comes back here with the option ticked.
-    if (forma == FormaPorUEH && Marcada(f.optDistriPp) != 0) optDistriPp_Click(f, s, 0);
-    if (forma == FormaReal) EstadoReal(f, s);
+    if (forma == FormaLluvia::PorUEH && f.optDistriPp != 0) optDistriPp_Click(f, s, 0);
+    if (forma == FormaLluvia::Real) EstadoReal(f, s);
 }
 
 // --- opening and activation ---
@@ -278,90 +172,77 @@ namespace {
 
 void LlenaListas(dlgPp& f, const Siro& s)
 {
+    const auto& recurrencias = s.Configuracion.ListaRec;
     const std::size_t nroRec =
         std::min(static_cast<std::size_t>(std::max<std::int16_t>(s.Configuracion.NroRec, 0)),
-                 s.Configuracion.ListaRec.empty() ? 0 : s.Configuracion.ListaRec.size() - 1);
+                 recurrencias.empty() ? 0 : recurrencias.size() - 1);
     for (std::size_t i = 1; i <= nroRec; ++i)
-        f.cmbRec.items.push_back(Texto(s.Configuracion.ListaRec[i]));
+        f.itemsRec.push_back(NumeroATexto(recurrencias[i]));
     for (const std::int16_t paso : PasosDeTiempo)
-        f.cmbPasoPp.items.push_back(Texto(paso));
-    f.cmbPasoQ.items = f.cmbPasoPp.items;
-}
-
-std::string PasoMostrado(std::int16_t paso)
-{
-    return paso == 0 ? std::string(PasoPorDefecto) : Texto(paso);
-}
-
-void TomaPasos(dlgPp& f, Siro& s)
-{
-    f.cmbPasoPp.texto = PasoMostrado(s.Pasos.PasoPp);
-    f.cmbPasoQ.texto = PasoMostrado(s.Pasos.PasoQ);
-    s.Pasos.PasoPp = Entero16(Val(f.cmbPasoPp.texto));
-    s.Pasos.PasoQ = std::min(Entero16(Val(f.cmbPasoQ.texto)), s.Pasos.PasoPp);
+        f.itemsPaso.push_back(NumeroATexto(paso));
 }
 
 }  // namespace
 
 void Abre(dlgPp& f, Siro& s)
 {
-    f = dlgPp{.tormenta = std::move(f.tormenta)};
-    f.abierta = true;
+    f = dlgPp{.tormenta = std::move(f.tormenta), .abierta = true};
     // Enabled by the one form that uses it.
     f.Estado("cmdCargaPDRnoUniforme").habilitado = false;
     // Shown with a personal distribution only.
     Pon(f, Validez, &EstadoControl::visible, false);
     LlenaListas(f, s);
-    f.cmbRec.texto = Texto(s.Tormenta.RecTormenta);
-    TomaPasos(f, s);
-    MuestraTormenta(f, s);
+    for (std::int16_t* paso : {&s.Pasos.PasoPp, &s.Pasos.PasoQ})
+        if (*paso == 0) *paso = PasoPorDefecto;
+    MuestraCampos(f, s, CamposDePasos);
+    s.Pasos.PasoQ = std::min(s.Pasos.PasoQ, s.Pasos.PasoPp);
+    MuestraCampos(f, s, CamposDeTormenta);
     if (s.Tormenta.PpTormenta == 0) f.txtPp = PorDefecto;
     if (s.Tormenta.DurTormenta == 0) f.txtDur = PorDefecto;
-    Marca(f.optformaPp, static_cast<std::size_t>(s.Tormenta.FormaPp));
-    Marca(f.optDistriPp, static_cast<std::size_t>(s.Tormenta.DistriPp));
-    Marca(f.optTablaPDR, static_cast<std::size_t>(s.Tormenta.TablaPDR));
-    RecuerdaCampos(f);
-    if (MarcadaOCero(f.optformaPp) == 0) LeeLista(f, s);  // form 1 reads it with its state
+    f.optformaPp = static_cast<int>(s.Tormenta.FormaPp);
+    f.optDistriPp = s.Tormenta.DistriPp;
+    f.optTablaPDR = s.Tormenta.TablaPDR;
+    f.mostrados = f;
+    if (Forma(f) == FormaLluvia::Escrita) LeeLista(f, s);  // form 1 reads it with its state
     Evento(s, [&] { EstadoFormaPp(f, s); });
 }
 
 void AlActivarse(dlgPp& f, Siro& s)
 {
-    if (f.optformaPp[FormaReal]) FilePpReal_Click(f, s);
+    if (Forma(f) == FormaLluvia::Real) FilePpReal_Click(f, s);
 }
 
 void AlVolver(dlgPp& f, Siro& s)
 {
-    const model::CamposTormenta campos{f.txtPp, f.txtDur, f.cmbRec.texto};
+    const TextosDePp textos = f;
     Evento(s, [&] { EstadoFormaPp(f, s); });
-    f.txtPp = campos.txtPp;
-    f.txtDur = campos.txtDur;
-    f.cmbRec.texto = campos.cmbRec;
+    for (const CampoPp& campo : CamposDeTormenta)
+        f.*campo.texto = textos.*campo.texto;
     AlActivarse(f, s);
 }
 
 // --- clicks ---
 
-void optformaPp_Click(dlgPp& f, Siro& s, std::size_t i)
+void optformaPp_Click(dlgPp& f, Siro& s, int i)
 {
-    const bool dejaLaReal = f.optformaPp[FormaReal] && i != FormaReal;
-    Marca(f.optformaPp, i);
-    if (dejaLaReal && s.Tormenta.DistriPp > static_cast<std::int16_t>(PrimeraPersonal))
+    const bool dejaLaReal = Forma(f) == FormaLluvia::Real && i != f.optformaPp;
+    f.optformaPp = i;
+    if (dejaLaReal && s.Tormenta.DistriPp > PrimeraPersonal)
         Advierte(s, std::string(VerifiqueDistribucion), TituloAtencion);
     Evento(s, [&] { EstadoFormaPp(f, s); });
 }
 
-void optDistriPp_Click(dlgPp& f, Siro& s, std::size_t i)
+void optDistriPp_Click(dlgPp& f, Siro& s, int i)
 {
-    Marca(f.optDistriPp, i);
+    f.optDistriPp = i;
     Evento(s, [&] { EstadoFormaPp(f, s); });
     // The same for the three sample storms, though the last of them took 48 hours: kept as it stands.
-    if (f.optDistriPp[2] || f.optDistriPp[3] || f.optDistriPp[4]) f.txtDur = DuracionDeMuestra;
+    if (f.optDistriPp >= PrimeraMuestra && f.optDistriPp < PrimeraPersonal) f.txtDur = DuracionDeMuestra;
 }
 
-void optTablaPDR_Click(dlgPp& f, std::size_t i)
+void optTablaPDR_Click(dlgPp& f, int i)
 {
-    Marca(f.optTablaPDR, i);
+    f.optTablaPDR = i;
     HabilitaTablaPDR(f);
 }
 
@@ -369,15 +250,15 @@ void cmbPDR_Click(dlgPp& f, Siro& s)
 {
     if (f.cmbPDR.indice < 0) return;
     Evento(s, [&] {
-        model::ParsePDR(s, f.cmbPDR.items[static_cast<std::size_t>(f.cmbPDR.indice)]);
-        MuestraConRecurrencia(f, s);
+        model::ParsePDR(s, f.cmbPDR.Elegido());
+        MuestraCampos(f, s, CamposDeTormenta);
     });
 }
 
 void FilePpReal_Click(dlgPp& f, Siro& s)
 {
     if (f.FilePpReal.indice < 0) return;
-    f.tormenta.nombre = f.FilePpReal.items[static_cast<std::size_t>(f.FilePpReal.indice)];
+    f.tormenta.nombre = f.FilePpReal.Elegido();
     Evento(s, [&] { LeeTormenta(f, s); });
 }
 
@@ -385,61 +266,45 @@ void FilePpReal_Click(dlgPp& f, Siro& s)
 
 namespace {
 
-/// `toma` puts the number into its run-wide value, where it fits there; one that is refused too.
-template <typename Toma>
-bool AlSalir(dlgPp& f, const Siro& s, const CampoPp& campo, Toma&& toma)
+bool PasoPpCabe(const dlgPp& f, const Siro& s)
 {
-    std::string& texto = f.*campo.texto;
-    texto = model::ComasAPuntos(texto);
-    const bool vacio = texto.find_first_not_of(' ') == std::string::npos;
-    const std::optional<double> x = vacio ? 0 : forms::NumeroDeCampo(texto);
-    if (x) model::Sentencia([&] { toma(*x); });
-    if (forms::Vale(campo.regla, texto)) return true;
-    forms::MuestraRechazo(s, campo.regla.caja, std::string(campo.regla.mensaje));
-    if (!campo.regla.alRechazar.empty()) texto = campo.regla.alRechazar;
-    return false;
+    bool sobra = false;
+    Evento(s, [&] {
+        const double paso = Val(f.cmbPasoPp);
+        sobra = paso != 0 && !f.txtDur.empty() && paso > Val(f.txtDur);
+    });
+    if (sobra) Advierte(s, std::string(PasoPpLargo), TituloPasoPp);
+    return !sobra;
+}
+
+void AjustaPasoQ(dlgPp& f, Siro& s)
+{
+    bool noCabe = false;
+    Evento(s, [&] {
+        const double pasoQ = Val(f.cmbPasoQ);
+        if (pasoQ == 0) return;
+        const double pasoPp = Val(f.cmbPasoPp);
+        const double veces = pasoPp / pasoQ;
+        noCabe = pasoQ > pasoPp || veces != std::floor(veces);
+    });
+    if (!noCabe) return;
+    Advierte(s, std::string(PasoQNoCabe), TituloPasoQ);
+    f.cmbPasoQ = f.cmbPasoPp;
+    s.Pasos.PasoQ = s.Pasos.PasoPp;
 }
 
 }  // namespace
 
-bool txtPp_AlSalir(dlgPp& f, Siro& s)
+bool AlSalir(dlgPp& f, Siro& s, std::string_view control)
 {
-    return AlSalir(f, s, CamposPp[0], [&](double x) { s.Tormenta.PpTormenta = Simple(x); });
-}
-
-bool txtDur_AlSalir(dlgPp& f, Siro& s)
-{
-    return AlSalir(f, s, CamposPp[1], [&](double x) { s.Tormenta.DurTormenta = Entero16(x); });
-}
-
-bool cmbPasoPp_AlSalir(dlgPp& f, const Siro& s)
-{
-    bool sobra = false;
-    Evento(s, [&] {
-        const double paso = Val(f.cmbPasoPp.texto);
-        sobra = paso != 0 && !f.txtDur.empty() && paso > Val(f.txtDur);
-    });
-    if (!sobra) return true;
-    Advierte(s, std::string(PasoPpLargo), TituloPasoPp);
-    return false;
-}
-
-bool cmbPasoQ_AlSalir(dlgPp& f, Siro& s)
-{
-    bool noCabe = false;
-    Evento(s, [&] {
-        const double pasoQ = Val(f.cmbPasoQ.texto);
-        if (pasoQ == 0) return;
-        const double pasoPp = Val(f.cmbPasoPp.texto);
-        const double veces = pasoPp / pasoQ;
-        noCabe = pasoQ > pasoPp || veces != std::floor(veces);
-    });
-    if (noCabe) {
-        Advierte(s, std::string(PasoQNoCabe), TituloPasoQ);
-        f.cmbPasoQ.texto = f.cmbPasoPp.texto;
-        s.Pasos.PasoQ = s.Pasos.PasoPp;
-    }
-    return true;
+    if (control == "cmbPasoPp") return PasoPpCabe(f, s);
+    if (control == "cmbPasoQ") AjustaPasoQ(f, s);
+    const CampoPp* const campo = forms::CampoDe(CamposDeTormenta, control);
+    if (campo == nullptr || campo->regla.mensaje.empty()) return true;
+    const std::optional<double> x = forms::NumeroDeCampo(campo->regla, f.*campo->texto);
+    // One that its type can't hold is refused too.
+    if (x) model::Sentencia([&] { campo->valor.pon(s, *x); });
+    return forms::AlSalir(s, campo->regla, f.*campo->texto);
 }
 
 // --- commands ---
@@ -448,20 +313,20 @@ namespace {
 
 void TomaSerie(dlgPp& f, Siro& s)
 {
-    s.Tormenta.TablaPDR = static_cast<std::int16_t>(MarcadaOCero(f.optTablaPDR));
+    s.Tormenta.TablaPDR = Tabla(f);
     model::LeeTablaPDRs(s);
     if (s.Serie.NroSeriePDR <= 0) return;
-    f.txtPp = EnCampo(NumeroATexto(s.Serie.SerieP(1)));
-    f.txtDur = Texto(s.Serie.SerieD(1));
-    f.cmbRec.texto = Texto(s.Serie.SerieR(1));
+    f.txtPp = NumeroATexto(s.Serie.SerieP(1));
+    f.txtDur = NumeroATexto(s.Serie.SerieD(1));
+    f.cmbRec = NumeroATexto(s.Serie.SerieR(1));
 }
 
 /// A step may not outlast the storm, and none is 0. The two steps aren't compared here.
 void CorrigePasos(dlgPp& f, const Siro& s)
 {
-    if (Val(f.cmbPasoPp.texto) > s.Tormenta.DurTormenta) f.cmbPasoPp.texto = Texto(s.Tormenta.DurTormenta);
-    for (ListaConTexto* lista : {&f.cmbPasoPp, &f.cmbPasoQ})
-        if (Val(lista->texto) == 0 && !lista->items.empty()) lista->texto = lista->items.front();
+    if (Val(f.cmbPasoPp) > s.Tormenta.DurTormenta) f.cmbPasoPp = NumeroATexto(s.Tormenta.DurTormenta);
+    for (std::string* paso : {&f.cmbPasoPp, &f.cmbPasoQ})
+        if (Val(*paso) == 0 && !f.itemsPaso.empty()) *paso = f.itemsPaso.front();
 }
 
 bool HayTormenta(const Siro& s)
@@ -471,12 +336,9 @@ bool HayTormenta(const Siro& s)
 
 void Aplica(dlgPp& f, Siro& s)
 {
-    const std::size_t forma = MarcadaOCero(f.optformaPp);
-    s.Tormenta.FormaPp = static_cast<std::int16_t>(forma);
-    if (forma == FormaSerie) TomaSerie(f, s);
-    s.Tormenta.PpTormenta = Simple(Val(f.txtPp));
-    s.Tormenta.DurTormenta = Entero16(Val(f.txtDur));
-    s.Tormenta.RecTormenta = Entero16(Val(f.cmbRec.texto));
+    s.Tormenta.FormaPp = Forma(f);
+    if (s.Tormenta.FormaPp == FormaLluvia::SeriePDR) TomaSerie(f, s);
+    TomaCampos(f, s, CamposDeTormenta);
     if (!HayTormenta(s)) {
         Advierte(s, std::string(SinTormenta));
         f.abierta = false;
@@ -485,18 +347,17 @@ void Aplica(dlgPp& f, Siro& s)
     Pon(f, Validez, &EstadoControl::visible, false);
     TomaDistribucion(f, s);
     CorrigePasos(f, s);
-    s.Pasos.PasoPp = Entero16(Val(f.cmbPasoPp.texto));
-    s.Pasos.PasoQ = Entero16(Val(f.cmbPasoQ.texto));
-    RecuerdaCampos(f);
+    TomaCampos(f, s, CamposDePasos);
+    f.mostrados = f;
 }
 
 /// Whether a field holds another number than the value in use. One that this can't hold is another.
-template <typename T, typename Toma>
-bool Otro(const std::string& texto, const std::string& mostrado, T enUso, Toma toma)
+bool Otro(const dlgPp& f, const Siro& s, const CampoPp& campo)
 {
-    if (texto == mostrado) return false;
+    const std::string& texto = f.*campo.texto;
+    if (texto == f.mostrados.*campo.texto) return false;
     bool otro = true;
-    model::Sentencia([&] { otro = toma(Val(texto)) != enUso; });
+    model::Sentencia([&] { otro = !campo.valor.es(s, Val(texto)); });
     return otro;
 }
 
@@ -508,7 +369,7 @@ bool AplicaYHayTormenta(dlgPp& f, Siro& s)
 
 model::CamposTormenta Campos(const dlgPp& f)
 {
-    return {f.txtPp, f.txtDur, f.cmbRec.texto};
+    return {f.txtPp, f.txtDur, f.cmbRec};
 }
 
 void AgregaRenglon(const Siro& s, std::string_view renglon)
@@ -521,12 +382,12 @@ void ListaTormenta(const Siro& s)
     s.Anfitrion.AbrePizarra();
     AgregaRenglon(s, "Entrada: PRECIPITACION");
     AgregaRenglon(s, "Pp Total= " + NumeroATexto(s.Tormenta.PpTormenta) + " [mm]");
-    AgregaRenglon(s, "Duración= " + Texto(s.Tormenta.DurTormenta) + " [min]");
+    AgregaRenglon(s, "Duración= " + NumeroATexto(s.Tormenta.DurTormenta) + " [min]");
     if (s.Tormenta.RecTormenta != 0)
-        AgregaRenglon(s, "Recurrencia= " + Texto(s.Tormenta.RecTormenta) + " [años]");
-    AgregaRenglon(s, "paso Pp= " + Texto(s.Pasos.PasoPp) + " [min]");
-    AgregaRenglon(s, "paso Q = " + Texto(s.Pasos.PasoQ) + " [min]");
-    AgregaRenglon(s, "Distribución Pp(t)= " + Texto(s.Tormenta.DistriPp) + " [índice]");
+        AgregaRenglon(s, "Recurrencia= " + NumeroATexto(s.Tormenta.RecTormenta) + " [años]");
+    AgregaRenglon(s, "paso Pp= " + NumeroATexto(s.Pasos.PasoPp) + " [min]");
+    AgregaRenglon(s, "paso Q = " + NumeroATexto(s.Pasos.PasoQ) + " [min]");
+    AgregaRenglon(s, "Distribución Pp(t)= " + NumeroATexto(s.Tormenta.DistriPp) + " [índice]");
 }
 
 /// A column of each block under each piece of the heading, the blank ahead of a piece being its own.
@@ -558,13 +419,9 @@ void OKButton(dlgPp& f, Siro& s)
 bool SinAplicar(const dlgPp& f, const Siro& s)
 {
     if (!f.abierta) return false;
-    const auto tabla = static_cast<std::int16_t>(MarcadaOCero(f.optTablaPDR));
-    return Otro(f.txtPp, f.mostrados.txtPp, s.Tormenta.PpTormenta, Simple) ||
-           Otro(f.txtDur, f.mostrados.txtDur, s.Tormenta.DurTormenta, Entero16) ||
-           Otro(f.cmbRec.texto, f.mostrados.cmbRec, s.Tormenta.RecTormenta, Entero16) ||
-           Otro(f.cmbPasoPp.texto, f.mostrados.cmbPasoPp, s.Pasos.PasoPp, Entero16) ||
-           Otro(f.cmbPasoQ.texto, f.mostrados.cmbPasoQ, s.Pasos.PasoQ, Entero16) ||
-           (f.optformaPp[FormaSerie] && tabla != s.Tormenta.TablaPDR);
+    const auto otro = [&](const CampoPp& campo) { return Otro(f, s, campo); };
+    return std::ranges::any_of(CamposDeTormenta, otro) || std::ranges::any_of(CamposDePasos, otro) ||
+           (Forma(f) == FormaLluvia::SeriePDR && Tabla(f) != s.Tormenta.TablaPDR);
 }
 
 void CancelButton(dlgPp& f)
@@ -574,7 +431,7 @@ void CancelButton(dlgPp& f)
 
 void cmdPDR(dlgPp& f, Siro& s)
 {
-    f.cmbPDR.items.push_back(model::TextoPDR(f.txtPp, f.txtDur, f.cmbRec.texto));
+    f.cmbPDR.items.push_back(model::TextoPDR(f.txtPp, f.txtDur, f.cmbRec));
     model::GuardaListaPDR(s, f.cmbPDR.items, Campos(f));
     f.cmbPDR.indice = static_cast<int>(f.cmbPDR.items.size()) - 1;
 }
@@ -585,7 +442,7 @@ void cmdBorraPDR(dlgPp& f, Siro& s)
     f.cmbPDR.items.erase(f.cmbPDR.items.begin() + f.cmbPDR.indice);
     f.cmbPDR.indice = -1;
     model::GuardaListaPDR(s, f.cmbPDR.items, Campos(f));
-    MuestraConRecurrencia(f, s);
+    MuestraCampos(f, s, CamposDeTormenta);
 }
 
 std::optional<PedidoHietograma> cmdVerGrafico(dlgPp& f, Siro& s)
@@ -607,8 +464,7 @@ void cmdVerTablaPt(dlgPp& f, Siro& s)
 
 std::string TituloDeTormenta(const dlgPp& f, const Siro& s)
 {
-    return s.Tormenta.FormaPp == static_cast<std::int16_t>(FormaReal) ? f.tormenta.Notas
-                                                                      : s.Configuracion.TituloProyecto;
+    return s.Tormenta.FormaPp == FormaLluvia::Real ? f.tormenta.Notas : s.Configuracion.TituloProyecto;
 }
 
 }  // namespace rainfall

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "forms/CampoNumerico.h"
+#include "forms/Lista.h"
 #include "forms/Rotulo.h"
 #include "model/ArchivosTormenta.h"
 #include "model/Siro.h"
@@ -109,42 +110,28 @@ struct EstadoControl {
     bool operator==(const EstadoControl&) const = default;
 };
 
-/// A list from which an item is picked.
-struct Lista {
-    std::vector<std::string> items{};
-    int indice = -1;  ///< item selected, from 0; -1: none
-};
-
-/// A list whose text can be typed too.
-struct ListaConTexto {
-    std::vector<std::string> items{};
-    std::string texto{};
-};
-
-/// Fields whose text waits for cmdAplicar, as it was shown or applied last.
-struct CamposMostrados {
-    std::string txtPp{}, txtDur{}, cmbRec{}, cmbPasoPp{}, cmbPasoQ{};
+/// Texts that wait for cmdAplicar. Those of the lists may be other than their items.
+struct TextosDePp {
+    std::string txtPp = "60";             ///< depth [mm]
+    std::string txtDur = "60";            ///< duration [min]
+    std::string cmbRec{};                 ///< recurrence [years]
+    std::string cmbPasoPp{}, cmbPasoQ{};  ///< steps [min]
 };
 
 /// What the dialog's controls hold, and with it the hidden instance of the form.
-struct dlgPp {
+struct dlgPp : TextosDePp {
     std::array<EstadoControl, NroControles> estados{};
-    std::array<bool, FormasPp.size()> optformaPp{};
-    std::array<bool, DistribucionesPp.size()> optDistriPp{};
-    std::array<bool, TablasPDR.size()> optTablaPDR{};
-    std::string txtPp = "60";   ///< depth [mm]
-    std::string txtDur = "60";  ///< duration [min]
-    ListaConTexto cmbRec{};     ///< recurrence [years]
-    Lista cmbPDR{};             ///< stored storms
-    ListaConTexto cmbPasoPp{}, cmbPasoQ{};
-    Lista FilePpReal{};
+    int optformaPp = -1, optDistriPp = -1, optTablaPDR = -1;  ///< option ticked, from 0; -1: none
+    std::vector<std::string> itemsRec{}, itemsPaso{};         ///< of cmbRec; of cmbPasoPp and cmbPasoQ
+    forms::Lista cmbPDR{};                                    ///< stored storms
+    forms::Lista FilePpReal{};
     std::string lblDurMin{}, lblDurMax{}, lblNumPer{}, lblMiFilePpReal{};
 
     /// The real storm read last. It outlives the closing of the dialog, since no run-wide variable names its
     /// file and the charts ask for its notes.
     model::TormentaReal tormenta{};
 
-    CamposMostrados mostrados{};
+    TextosDePp mostrados{};  ///< as they were shown or applied last
     bool abierta = false;
 
     // By the name of a control of the table.
@@ -159,25 +146,25 @@ struct dlgPp {
     }
 };
 
-/// A number field that is checked when it is left.
-struct CampoPp {
-    std::string dlgPp::*texto;
-    forms::ReglaNumero regla;
-};
+/// A text that waits for cmdAplicar, and the number in use that it is for. One without a message isn't
+/// checked by its row when it is left.
+using CampoPp = forms::CampoNumerico<TextosDePp, forms::NumeroDeSiro>;
 
-inline constexpr auto CamposPp = std::to_array<CampoPp>({
-    {&dlgPp::txtPp,
-     {.maximo = 999,
-      .mensaje = "Ingrese un valor numérico, entero o decimal, entre 0 y 999",
-      .vacioEsCero = true,
-      .caja = forms::CajaRechazo::Advertencia}},
-    {&dlgPp::txtDur,
-     {.maximo = 14400,
-      .mensaje = "Ingrese un valor numérico, entero o decimal, entre 0 y 14400",
-      .vacioEsCero = true,
-      .caja = forms::CajaRechazo::Advertencia,
-      .alRechazar = "1440"}},
+// clang-format off
+inline constexpr auto CamposDeTormenta = std::to_array<CampoPp>({
+    {{.control = "txtPp", .maximo = 999, .mensaje = "Ingrese un valor numérico, entero o decimal, entre 0 y 999",
+      .vacioEsCero = true, .rechazo = forms::Rechazo::Advertencia},
+     &TextosDePp::txtPp, forms::EnSiro<&model::Siro::Tormenta, &model::Tormenta::PpTormenta>},
+    {{.control = "txtDur", .maximo = 14400, .mensaje = "Ingrese un valor numérico, entero o decimal, entre 0 y 14400",
+      .vacioEsCero = true, .rechazo = forms::Rechazo::Advertencia, .alRechazar = "1440"},
+     &TextosDePp::txtDur, forms::EnSiro<&model::Siro::Tormenta, &model::Tormenta::DurTormenta>},
+    {{.control = "cmbRec"}, &TextosDePp::cmbRec, forms::EnSiro<&model::Siro::Tormenta, &model::Tormenta::RecTormenta>},
 });
+inline constexpr auto CamposDePasos = std::to_array<CampoPp>({
+    {{.control = "cmbPasoPp"}, &TextosDePp::cmbPasoPp, forms::EnSiro<&model::Siro::Pasos, &model::Pasos::PasoPp>},
+    {{.control = "cmbPasoQ"}, &TextosDePp::cmbPasoQ, forms::EnSiro<&model::Siro::Pasos, &model::Pasos::PasoQ>},
+});
+// clang-format on
 
 /// The hyetograph that a chart is asked for.
 struct PedidoHietograma {
@@ -202,30 +189,26 @@ void AlActivarse(dlgPp& f, model::Siro& s);
 /// One of the forms opened from here was closed. What it put into the three fields of the storm stays.
 void AlVolver(dlgPp& f, model::Siro& s);
 
-// While one of those forms is open, what it changes beside this record is followed here.
-/// Limits of the personal distribution in use, which form 0 shows.
+/// Limits of the personal distribution in use, which form 0 shows. They change while one of those forms is
+/// open.
 void MuestraValidez(dlgPp& f, const model::Siro& s);
-/// Files of real storms; the one selected stays so while it is there.
-void TomaTormentas(dlgPp& f, const std::vector<std::string>& archivos);
 
 /// Shows the dialog's state for the first ticked form, which becomes FormaPp.
 void EstadoFormaPp(dlgPp& f, model::Siro& s);
 
 // Clicks on options; i is the index of the option.
-void optformaPp_Click(dlgPp& f, model::Siro& s, std::size_t i);
-void optDistriPp_Click(dlgPp& f, model::Siro& s, std::size_t i);
-void optTablaPDR_Click(dlgPp& f, std::size_t i);
+void optformaPp_Click(dlgPp& f, model::Siro& s, int i);
+void optDistriPp_Click(dlgPp& f, model::Siro& s, int i);
+void optTablaPDR_Click(dlgPp& f, int i);
 
 // Clicks in lists act on the item selected; with none they do nothing.
 void cmbPDR_Click(dlgPp& f, model::Siro& s);
 void FilePpReal_Click(dlgPp& f, model::Siro& s);
 
-// Leaving a field. Returns false where the text is refused and the focus stays.
-bool txtPp_AlSalir(dlgPp& f, model::Siro& s);
-bool txtDur_AlSalir(dlgPp& f, model::Siro& s);
-bool cmbPasoPp_AlSalir(dlgPp& f, const model::Siro& s);
-/// An output step that doesn't fit is replaced and the focus moves on.
-bool cmbPasoQ_AlSalir(dlgPp& f, model::Siro& s);
+/// Leaving a field, by its control's name. Returns false where the text is refused and the focus stays. The
+/// number of a refused depth or duration is in use all the same; an output step that doesn't fit is replaced
+/// and the focus moves on.
+bool AlSalir(dlgPp& f, model::Siro& s, std::string_view control);
 
 /// Takes the storm, the distribution and the steps into the run-wide values. Without depth or duration it
 /// says so and closes the dialog, distribution and steps being as they were.

@@ -22,8 +22,6 @@ using model::Val;
 
 namespace {
 
-constexpr std::size_t FormaReal = 4;
-
 constexpr int ColumnaFecha = 1;
 constexpr int ColumnaMinutos = 2;
 constexpr int ColumnaParcial = 3;
@@ -51,16 +49,7 @@ constexpr std::string_view PreguntaBorrar2 = " ?";
 constexpr std::string_view NoSeEncuentra = "No se encuentra el archivo ";
 constexpr std::string_view TituloError = "Error...";
 
-constexpr forms::ReglaNumero ReglaNroPpReal{.control = "txtNroPpReal",
-                                            .maximo = 999,
-                                            .mensaje = "Ingrese un valor numérico entero entre 0 y 999 ",
-                                            .clase = forms::ClaseNumero::Entero,
-                                            .caja = forms::CajaRechazo::Llana};
-
-std::string Texto(std::int16_t n)
-{
-    return NumeroATexto(std::int32_t{n});
-}
+constexpr forms::ReglaNumero ReglaNroPpReal = forms::ReglaDeCuenta("txtNroPpReal");
 
 /// Runs an event whose check may refuse. Returns false where it did; a fault refuses nothing.
 template <typename Cuerpo>
@@ -154,20 +143,20 @@ void Asienta(dlgPpReal& f, Siro& s)
 
 void LlenaPasos(dlgPpReal& f, const Siro& s)
 {
-    f.cmbPasot.items.clear();
+    f.itemsPasot.clear();
     const std::size_t n = s.Configuracion.ListaDur.empty()
                               ? 0
                               : std::min(s.Configuracion.ListaDur.size() - 1, MaxPasosTormenta);
     for (std::size_t i = 1; i <= n; ++i)
-        f.cmbPasot.items.push_back(Texto(s.Configuracion.ListaDur[i]));
+        f.itemsPasot.push_back(NumeroATexto(s.Configuracion.ListaDur[i]));
 }
 
 void EligeSegundoPaso(dlgPpReal& f)
 {
-    const auto& items = f.cmbPasot.items;
-    f.cmbPasot.texto =
+    const auto& items = f.itemsPasot;
+    f.cmbPasot =
         items.empty() ? std::string(PasoSinLista) : items[std::min<std::size_t>(1, items.size() - 1)];
-    f.tormenta.PasoPpReal = model::Entero16(Val(f.cmbPasot.texto));
+    f.tormenta.PasoPpReal = model::Entero16(Val(f.cmbPasot));
 }
 
 void PonSinFechas(dlgPpReal& f, std::string_view fecha)
@@ -180,7 +169,7 @@ void PonNro(dlgPpReal& f, Siro& s, std::int16_t n)
 {
     Ensancha(s, n);
     s.Tormenta.NroPpReal = n;
-    f.txtNroPpReal = Texto(n);
+    f.txtNroPpReal = NumeroATexto(n);
 }
 
 void CalculaFinal(dlgPpReal& f, const Siro& s)
@@ -203,7 +192,7 @@ bool CalculaNro(dlgPpReal& f, Siro& s)
         n = 0;
     }
     if (!forms::Cabe(ReglaNroPpReal, n)) {
-        forms::MuestraRechazo(s, ReglaNroPpReal.caja, std::string(ReglaNroPpReal.mensaje));
+        forms::MuestraRechazo(s, ReglaNroPpReal.rechazo, ReglaNroPpReal.mensaje);
         return false;
     }
     PonNro(f, s, n);
@@ -215,11 +204,9 @@ bool CalculaNro(dlgPpReal& f, Siro& s)
 /// Items of FilePpReal, the storm's own selected. A directory that isn't there holds no storm.
 void LlenaLista(dlgPpReal& f, const Siro& s)
 {
-    auto& [items, indice] = f.FilePpReal;
-    items.clear();
+    f.FilePpReal.items.clear();
     model::Sentencia([&] { f.FilePpReal.items = model::ListaTormentas(s); });
-    const auto lugar = std::find(items.begin(), items.end(), f.tormenta.nombre);
-    indice = lugar == items.end() ? -1 : static_cast<int>(lugar - items.begin());
+    f.FilePpReal.Elige(f.tormenta.nombre);
 }
 
 void PonNombre(dlgPpReal& f, const Siro& s, std::string nombre)
@@ -235,8 +222,8 @@ void Lee(dlgPpReal& f, Siro& s)
     // Where there is no storm to be read, what the last hyetograph has left isn't one either.
     s.Tormenta.PpReal.Dimensiona(0);
     model::LeePpReal(s, f.tormenta);
-    f.cmbPasot.texto = Texto(f.tormenta.PasoPpReal);
-    f.txtNroPpReal = Texto(s.Tormenta.NroPpReal);
+    f.cmbPasot = NumeroATexto(f.tormenta.PasoPpReal);
+    f.txtNroPpReal = NumeroATexto(s.Tormenta.NroPpReal);
     Redibuja(f, s);
     f.leida = EnLaForma(f);
 }
@@ -255,13 +242,17 @@ void AbreForma(dlgPpReal& f, const dlgPp& pp, Siro& s)
     Lee(f, s);
 }
 
+/// An item that the list doesn't have leaves it as it is.
+void EligeSiEsta(forms::Lista& lista, std::string_view item)
+{
+    if (forms::Lista otra = lista; otra.Elige(item)) lista.indice = otra.indice;
+}
+
 /// The storm becomes the one of dlgPp.
 void LlevaNombre(const dlgPpReal& f, dlgPp& pp)
 {
     pp.tormenta.nombre = pp.lblMiFilePpReal = f.tormenta.nombre;
-    const auto& items = pp.FilePpReal.items;
-    const auto lugar = std::find(items.begin(), items.end(), f.tormenta.nombre);
-    if (lugar != items.end()) pp.FilePpReal.indice = static_cast<int>(lugar - items.begin());
+    EligeSiEsta(pp.FilePpReal, f.tormenta.nombre);
 }
 
 void Aplica(dlgPpReal& f, dlgPp& pp, Siro& s)
@@ -284,19 +275,16 @@ void Abre(dlgPpReal& f, const dlgPp& pp, Siro& s)
 
 void AlActivarse(dlgPpReal& f, dlgPp& pp, Siro& s)
 {
-    if (!pp.optformaPp[FormaReal]) optformaPp_Click(pp, s, FormaReal);
-    s.Tormenta.FormaPp = static_cast<std::int16_t>(FormaReal);
-    const auto& items = f.FilePpReal.items;
-    const auto lugar = std::find(items.begin(), items.end(), pp.lblMiFilePpReal);
-    if (lugar != items.end()) f.FilePpReal.indice = static_cast<int>(lugar - items.begin());
+    if (pp.optformaPp != model::FormaLluvia::Real) optformaPp_Click(pp, s, model::FormaLluvia::Real);
+    s.Tormenta.FormaPp = model::FormaLluvia::Real;
+    EligeSiEsta(f.FilePpReal, pp.lblMiFilePpReal);
     FilePpReal_Click(f, s);
 }
 
 void FilePpReal_Click(dlgPpReal& f, Siro& s)
 {
     Evento(s, [&] {
-        if (f.FilePpReal.indice >= 0)
-            PonNombre(f, s, f.FilePpReal.items[static_cast<std::size_t>(f.FilePpReal.indice)]);
+        if (f.FilePpReal.indice >= 0) PonNombre(f, s, f.FilePpReal.Elegido());
         Lee(f, s);
     });
 }
@@ -354,26 +342,22 @@ namespace {
 
 /// Leaving a date or a time. `toma` goes on with one that is good and may still refuse it.
 template <typename Toma>
-bool AlSalirFecha(dlgPpReal& f, const Siro& s, std::string& texto, std::string_view control, Toma&& toma)
+bool AlSalirFecha(const Siro& s, std::string& texto, Toma&& toma)
 {
     const bool mala = controlMiFecha(texto);
     if (mala) Advierte(s, std::string(FechaMala));
-    const bool pasa = !mala && Revisa(s, toma);
-    f.foco = pasa ? forms::Foco{} : forms::Foco{control, true};
-    return pasa;
+    return !mala && Revisa(s, toma);
 }
 
 template <typename Toma>
-bool AlSalirHora(dlgPpReal& f, const Siro& s, std::string& texto, std::string_view control, Toma&& toma)
+bool AlSalirHora(const Siro& s, std::string& texto, Toma&& toma)
 {
     const bool mala = controlMiHora(texto);
     if (mala) {
         Advierte(s, std::string(HoraMala));
         texto = SinHora;
     }
-    const bool pasa = !mala && Revisa(s, toma);
-    f.foco = pasa ? forms::Foco{} : forms::Foco{control, true};
-    return pasa;
+    return !mala && Revisa(s, toma);
 }
 
 /// The table's times follow the start.
@@ -396,27 +380,27 @@ bool TomaFinal(dlgPpReal& f, Siro& s)
 
 bool txtDateI_AlSalir(dlgPpReal& f, Siro& s)
 {
-    return AlSalirFecha(f, s, f.tormenta.txtDateI, "txtDateI", [&] { return TomaComienzo(f, s); });
+    return AlSalirFecha(s, f.tormenta.txtDateI, [&] { return TomaComienzo(f, s); });
 }
 
 bool txtTimeI_AlSalir(dlgPpReal& f, Siro& s)
 {
-    return AlSalirHora(f, s, f.tormenta.txtTimeI, "txtTimeI", [&] { return TomaComienzo(f, s); });
+    return AlSalirHora(s, f.tormenta.txtTimeI, [&] { return TomaComienzo(f, s); });
 }
 
 bool txtDateF_AlSalir(dlgPpReal& f, Siro& s)
 {
-    return AlSalirFecha(f, s, f.tormenta.txtDateF, "txtDateF", [&] { return TomaFinal(f, s); });
+    return AlSalirFecha(s, f.tormenta.txtDateF, [&] { return TomaFinal(f, s); });
 }
 
 bool txtTimeF_AlSalir(dlgPpReal& f, Siro& s)
 {
-    return AlSalirHora(f, s, f.tormenta.txtTimeF, "txtTimeF", [&] { return TomaFinal(f, s); });
+    return AlSalirHora(s, f.tormenta.txtTimeF, [&] { return TomaFinal(f, s); });
 }
 
 bool txtNroPpReal_AlSalir(dlgPpReal& f, Siro& s)
 {
-    if (!forms::AlSalir(f, s, ReglaNroPpReal, f.txtNroPpReal)) return false;
+    if (!forms::AlSalir(s, ReglaNroPpReal, f.txtNroPpReal)) return false;
     Evento(s, [&] {
         Asienta(f, s);
         PonNro(f, s, model::Entero16(Val(f.txtNroPpReal)));
@@ -430,8 +414,8 @@ void cmbPasot_Click(dlgPpReal& f, Siro& s)
 {
     Evento(s, [&] {
         Asienta(f, s);
-        f.tormenta.PasoPpReal = model::Entero16(Val(f.cmbPasot.texto));
-        if (f.finalEditable)
+        f.tormenta.PasoPpReal = model::Entero16(Val(f.cmbPasot));
+        if (f.FinalEditable())
             CalculaNro(f, s);
         else
             CalculaFinal(f, s);
@@ -439,10 +423,9 @@ void cmbPasot_Click(dlgPpReal& f, Siro& s)
     });
 }
 
-void optNroPpReal_Click(dlgPpReal& f, std::size_t i)
+void optNroPpReal_Click(dlgPpReal& f, int i)
 {
-    f.optNroPpReal = {i == OpcionFijaFinal, i == OpcionFijaNro};
-    f.finalEditable = i == OpcionFijaFinal;
+    f.optNroPpReal = i;
 }
 
 // --- table and commands ---
@@ -512,7 +495,7 @@ void TomaImportada(dlgPpReal& f, Siro& s, const TormentaImportada& importada)
         const auto n = static_cast<std::int16_t>(importada.laminas.size());
         f.tormenta.Notas = importada.notas;
         f.tormenta.PasoPpReal = importada.paso;
-        f.cmbPasot.texto = Texto(importada.paso);
+        f.cmbPasot = NumeroATexto(importada.paso);
         f.tormenta.txtDateI = TextoFecha(importada.comienzo);
         f.tormenta.txtTimeI = TextoHora(importada.comienzo);
         PonNro(f, s, n);

@@ -51,7 +51,7 @@ inline constexpr auto LeyendasDlgPpReal = std::to_array<forms::FilaRotulo>({
 inline constexpr std::size_t MaxPasosTormenta = 16;
 
 /// Options of what follows from what.
-enum : std::size_t { OpcionFijaFinal = 0, OpcionFijaNro = 1 };
+enum : int { OpcionFijaFinal = 0, OpcionFijaNro = 1 };
 
 /// What the file of a storm holds, as it was read or written last.
 struct TormentaLeida {
@@ -65,15 +65,18 @@ struct dlgPpReal {
     bool abierta = false;
     model::TormentaReal tormenta{};  ///< file name, notes, step, dates and times
     bool Protegida = false;          ///< one of the delivered storms
-    Lista FilePpReal{};
+    forms::Lista FilePpReal{};
     std::string lblMiFilePpReal{};
-    ListaConTexto cmbPasot{};  ///< its text may be a step of the file that no item has
+    std::string cmbPasot{};  ///< step [min]; it may be one of the file that no item has
+    std::vector<std::string> itemsPasot{};
     std::string txtNroPpReal{};
-    std::array<bool, 2> optNroPpReal{};
-    bool finalEditable = false;  ///< the end is typed; otherwise the number of intervals is
+    int optNroPpReal = -1;  ///< option ticked, from 0; -1: none
     forms::Grilla MSFlexGridTablaPpReal{};
     TormentaLeida leida{};
     forms::Foco foco{};
+
+    /// The end is typed; otherwise the number of intervals is.
+    [[nodiscard]] bool FinalEditable() const { return optNroPpReal == OpcionFijaFinal; }
 };
 
 // Each command takes up first the cell that is still being typed. A fault in an event is told in a box and
@@ -102,7 +105,7 @@ bool txtNroPpReal_AlSalir(dlgPpReal& f, model::Siro& s);
 
 /// A step was picked; it is the list's text.
 void cmbPasot_Click(dlgPpReal& f, model::Siro& s);
-void optNroPpReal_Click(dlgPpReal& f, std::size_t i);
+void optNroPpReal_Click(dlgPpReal& f, int i);
 
 /// Cells of the table have settled.
 void AlAsentar(dlgPpReal& f, model::Siro& s, const forms::Efecto& efecto);

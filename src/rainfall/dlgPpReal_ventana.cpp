@@ -104,14 +104,14 @@ QLayout* dlgPpReal_ventana::Datos()
     txtTimeI = revisado("txtTimeI", f.tormenta.txtTimeI, txtTimeI_AlSalir);
     optNroPpReal = {piezas.Opcion("optNroPpReal_0"), piezas.Opcion("optNroPpReal_1")};
     for (std::size_t i = 0; i < optNroPpReal.size(); ++i)
-        AlPulsar(*optNroPpReal[i], [this, i] { optNroPpReal_Click(f, i); });
+        AlPulsar(*optNroPpReal[i], [this, i] { optNroPpReal_Click(f, static_cast<int>(i)); });
     txtDateF = revisado("txtDateF", f.tormenta.txtDateF, txtDateF_AlSalir);
     txtTimeF = revisado("txtTimeF", f.tormenta.txtTimeF, txtTimeF_AlSalir);
     cmbPasot = piezas.Lista("cmbPasot", true);
     cmbPasot->lineEdit()->setReadOnly(true);
     connect(cmbPasot, &QComboBox::activated, this, [this](int i) {
         Suceso([this, i] {
-            f.cmbPasot.texto = f.cmbPasot.items[static_cast<std::size_t>(i)];
+            f.cmbPasot = f.itemsPasot[static_cast<std::size_t>(i)];
             cmbPasot_Click(f, entorno.s);
         });
     });
@@ -166,12 +166,12 @@ void dlgPpReal_ventana::Muestra()
     Pon(*txtTimeI, f.tormenta.txtTimeI);
     Pon(*txtDateF, f.tormenta.txtDateF);
     Pon(*txtTimeF, f.tormenta.txtTimeF);
-    Pon(*cmbPasot, f.cmbPasot.items, f.cmbPasot.texto);
+    Pon(*cmbPasot, f.itemsPasot, f.cmbPasot);
     Pon(*txtNroPpReal, f.txtNroPpReal);
     forms::PonOpciones(optNroPpReal, f.optNroPpReal);
     for (QLineEdit* campo : {txtDateF, txtTimeF})
-        campo->setEnabled(f.finalEditable);
-    txtNroPpReal->setEnabled(!f.finalEditable);
+        campo->setEnabled(f.FinalEditable());
+    txtNroPpReal->setEnabled(!f.FinalEditable());
     cmdImporta->setEnabled(!f.Protegida);
     MuestraTabla(Vista(f), f.foco, f.abierta);
 }

@@ -95,7 +95,7 @@ void dlgPp_ventana::ConectaVentanas()
             ventanaPpReal = std::make_unique<dlgPpReal_ventana>(entorno, ppReal, f, this);
             ventanaPpReal->AbreHietograma = [this](const PedidoHietograma& p) { AbreHietograma(p); };
             ventanaPpReal->AlMostrarse = [this] {
-                TomaTormentas(f, ppReal.FilePpReal.items);
+                f.FilePpReal.PonItems(ppReal.FilePpReal.items);
                 MuestraDetras();
             };
         }
@@ -144,10 +144,10 @@ QWidget* dlgPp_ventana::MarcoDeTormenta()
     };
     txtPp = campo("txtPp", f.txtPp);
     txtDur = campo("txtDur", f.txtDur);
-    cmbRec = ListaConTextoDe("cmbRec", *marco, f.cmbRec.texto);
+    cmbRec = ListaConTextoDe("cmbRec", *marco, f.cmbRec);
     Renglon(*grilla, "cmbRec", *cmbRec);
-    campos.Agrega(*txtPp, [this] { return txtPp_AlSalir(f, entorno.s); });
-    campos.Agrega(*txtDur, [this] { return txtDur_AlSalir(f, entorno.s); });
+    campos.Agrega(*txtPp, [this] { return AlSalir(f, entorno.s, "txtPp"); });
+    campos.Agrega(*txtDur, [this] { return AlSalir(f, entorno.s, "txtDur"); });
     return marco;
 }
 
@@ -258,12 +258,12 @@ QWidget* dlgPp_ventana::MarcoDePasos()
 {
     auto* const marco = new QGroupBox(Q(MarcoPasos), this);
     auto* const grilla = new QGridLayout(marco);
-    cmbPasoPp = ListaConTextoDe("cmbPasoPp", *marco, f.cmbPasoPp.texto);
+    cmbPasoPp = ListaConTextoDe("cmbPasoPp", *marco, f.cmbPasoPp);
     Renglon(*grilla, "cmbPasoPp", *cmbPasoPp);
-    cmbPasoQ = ListaConTextoDe("cmbPasoQ", *marco, f.cmbPasoQ.texto);
+    cmbPasoQ = ListaConTextoDe("cmbPasoQ", *marco, f.cmbPasoQ);
     Renglon(*grilla, "cmbPasoQ", *cmbPasoQ);
-    campos.Agrega(*cmbPasoPp, [this] { return cmbPasoPp_AlSalir(f, entorno.s); });
-    campos.Agrega(*cmbPasoQ, [this] { return cmbPasoQ_AlSalir(f, entorno.s); });
+    campos.Agrega(*cmbPasoPp, [this] { return AlSalir(f, entorno.s, "cmbPasoPp"); });
+    campos.Agrega(*cmbPasoQ, [this] { return AlSalir(f, entorno.s, "cmbPasoQ"); });
     return marco;
 }
 
@@ -352,11 +352,11 @@ void dlgPp_ventana::Opciones(std::string_view control, const std::array<std::str
 void dlgPp_ventana::AlPulsarOpciones()
 {
     for (std::size_t i = 0; i < optformaPp.size(); ++i)
-        AlPulsar(*optformaPp[i], [this, i] { optformaPp_Click(f, entorno.s, i); });
+        AlPulsar(*optformaPp[i], [this, i] { optformaPp_Click(f, entorno.s, static_cast<int>(i)); });
     for (std::size_t i = 0; i < optDistriPp.size(); ++i)
-        AlPulsar(*optDistriPp[i], [this, i] { optDistriPp_Click(f, entorno.s, i); });
+        AlPulsar(*optDistriPp[i], [this, i] { optDistriPp_Click(f, entorno.s, static_cast<int>(i)); });
     for (std::size_t i = 0; i < optTablaPDR.size(); ++i)
-        AlPulsar(*optTablaPDR[i], [this, i] { optTablaPDR_Click(f, i); });
+        AlPulsar(*optTablaPDR[i], [this, i] { optTablaPDR_Click(f, static_cast<int>(i)); });
 }
 
 // --- life ---
@@ -392,9 +392,9 @@ void dlgPp_ventana::Muestra()
 {
     Pon(*txtPp, f.txtPp);
     Pon(*txtDur, f.txtDur);
-    Pon(*cmbRec, f.cmbRec.items, f.cmbRec.texto);
-    Pon(*cmbPasoPp, f.cmbPasoPp.items, f.cmbPasoPp.texto);
-    Pon(*cmbPasoQ, f.cmbPasoQ.items, f.cmbPasoQ.texto);
+    Pon(*cmbRec, f.itemsRec, f.cmbRec);
+    Pon(*cmbPasoPp, f.itemsPaso, f.cmbPasoPp);
+    Pon(*cmbPasoQ, f.itemsPaso, f.cmbPasoQ);
     Pon(*cmbPDR, f.cmbPDR.items, f.cmbPDR.indice);
     Pon(*FilePpReal, f.FilePpReal.items, f.FilePpReal.indice);
     Pon(*lblDurMin, f.lblDurMin);

@@ -33,25 +33,22 @@ constexpr std::string_view SinRecurrencia =
 
 // The limit that the message tells is neither field's: kept as it stands.
 constexpr std::string_view EnteroFueraDeLimites = "Ingrese un valor numérico entero entre 0 y 1440 ";
-constexpr forms::ReglaNumero ReglaD{.control = "txtDPpUEHs",
-                                    .unidad = "min",
-                                    .maximo = 2880,
-                                    .mensaje = EnteroFueraDeLimites,
-                                    .clase = forms::ClaseNumero::Entero};
-constexpr forms::ReglaNumero ReglaR{.control = "txtRPpUEHs",
-                                    .unidad = "años",
-                                    .maximo = 10000,
-                                    .mensaje = EnteroFueraDeLimites,
-                                    .clase = forms::ClaseNumero::Entero};
-
-bool AlSalirCorto(dlgTablaPpUEHs& f, const Siro& s, const forms::ReglaNumero& regla, std::string& texto,
-                  std::string& valida)
-{
-    texto = model::PrimerosCaracteres(texto, LargoCampoPpUEHs);
-    const bool pasa = forms::AlSalir(f, s, regla, texto);
-    if (pasa) valida = texto;
-    return pasa;
-}
+constexpr auto Campos = std::to_array<forms::CampoNumerico<dlgTablaPpUEHs, std::string dlgTablaPpUEHs::*>>({
+    {{.control = "txtDPpUEHs",
+      .unidad = "min",
+      .maximo = 2880,
+      .mensaje = EnteroFueraDeLimites,
+      .clase = forms::ClaseNumero::Entero},
+     &dlgTablaPpUEHs::txtDPpUEHs,
+     &dlgTablaPpUEHs::DValida},
+    {{.control = "txtRPpUEHs",
+      .unidad = "años",
+      .maximo = 10000,
+      .mensaje = EnteroFueraDeLimites,
+      .clase = forms::ClaseNumero::Entero},
+     &dlgTablaPpUEHs::txtRPpUEHs,
+     &dlgTablaPpUEHs::RValida},
+});
 
 void LlenaTabla(dlgTablaPpUEHs& f, Siro& s)
 {
@@ -95,7 +92,7 @@ void LlevaTormenta(const dlgTablaPpUEHs& f, dlgPp& pp, Siro& s)
     }
     s.Tormenta.DurTormenta = model::Entero16(model::Val(f.txtDPpUEHs));
     s.Tormenta.RecTormenta = model::Entero16(model::Val(f.txtRPpUEHs));
-    pp.cmbRec.texto = f.txtRPpUEHs;
+    pp.cmbRec = f.txtRPpUEHs;
 }
 
 PpUEHsAplicadas EnLaForma(const dlgTablaPpUEHs& f)
@@ -109,7 +106,7 @@ void Aplica(dlgTablaPpUEHs& f, dlgPp& pp, Siro& s)
     f.foco = {};
     if (model::Val(f.txtDPpUEHs) == 0) {
         model::Advierte(s, std::string(SinDuracion), {});
-        f.foco.control = ReglaD.control;
+        f.foco.control = "txtDPpUEHs";
     }
     if (model::Val(f.txtRPpUEHs) == 0) model::Advierte(s, std::string(SinRecurrencia), {});
     if (!Numerica(f)) return;
@@ -135,14 +132,15 @@ void Abre(dlgTablaPpUEHs& f, Siro& s)
     });
 }
 
-bool txtDPpUEHs_AlSalir(dlgTablaPpUEHs& f, const Siro& s)
+bool AlSalir(dlgTablaPpUEHs& f, const Siro& s, std::string_view control)
 {
-    return AlSalirCorto(f, s, ReglaD, f.txtDPpUEHs, f.DValida);
-}
-
-bool txtRPpUEHs_AlSalir(dlgTablaPpUEHs& f, const Siro& s)
-{
-    return AlSalirCorto(f, s, ReglaR, f.txtRPpUEHs, f.RValida);
+    const auto* const campo = forms::CampoDe(Campos, control);
+    if (campo == nullptr) return true;
+    std::string& texto = f.*campo->texto;
+    texto = model::PrimerosCaracteres(texto, LargoCampoPpUEHs);
+    if (!forms::AlSalir(s, campo->regla, texto)) return false;
+    f.*campo->valor = texto;
+    return true;
 }
 
 void cmdBorraTablaHQ(dlgTablaPpUEHs& f, const Siro& s)
@@ -164,8 +162,8 @@ void OKButton(dlgTablaPpUEHs& f, dlgPp& pp, Siro& s)
 
 void CancelButton(dlgTablaPpUEHs& f)
 {
-    if (!forms::Vale(ReglaD, f.txtDPpUEHs)) f.txtDPpUEHs = f.DValida;
-    if (!forms::Vale(ReglaR, f.txtRPpUEHs)) f.txtRPpUEHs = f.RValida;
+    for (const auto& campo : Campos)
+        if (!forms::Vale(campo.regla, f.*campo.texto)) f.*campo.texto = f.*campo.valor;
     f.abierta = false;
 }
 

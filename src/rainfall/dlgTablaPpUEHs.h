@@ -59,9 +59,8 @@ struct dlgTablaPpUEHs {
 /// Opening: reads the project's components; a row for each UEH.
 void Abre(dlgTablaPpUEHs& f, model::Siro& s);
 
-// Leaving a field. Returns false where the text is refused and the focus stays.
-bool txtDPpUEHs_AlSalir(dlgTablaPpUEHs& f, const model::Siro& s);
-bool txtRPpUEHs_AlSalir(dlgTablaPpUEHs& f, const model::Siro& s);
+/// Leaving a field, by its control's name. Returns false where the text is refused and the focus stays.
+bool AlSalir(dlgTablaPpUEHs& f, const model::Siro& s, std::string_view control);
 
 /// Empties the depths of the table; PpUEH stays until the next apply.
 void cmdBorraTablaHQ(dlgTablaPpUEHs& f, const model::Siro& s);

@@ -34,19 +34,18 @@ dlgTablaPpUEHs_ventana::dlgTablaPpUEHs_ventana(forms::Entorno& alrededor, dlgTab
 QLayout* dlgTablaPpUEHs_ventana::Datos()
 {
     auto* const fila = new QHBoxLayout;
-    const auto campo = [&](std::string_view nombre, std::string& texto,
-                           bool (*alSalir)(dlgTablaPpUEHs&, const model::Siro&)) {
+    const auto campo = [&](std::string_view nombre, std::string& texto) {
         QLineEdit* const linea = piezas.Campo(nombre);
         linea->setMaxLength(LargoCampoPpUEHs);
         forms::Refleja(*linea, texto);
-        campos.Agrega(*linea, [this, alSalir] { return alSalir(f, entorno.s); });
+        campos.Agrega(*linea, [this, nombre] { return AlSalir(f, entorno.s, nombre); });
         fila->addWidget(piezas.Rotulo(nombre, *linea));
         fila->addWidget(linea);
         return linea;
     };
-    txtDPpUEHs = campo("txtDPpUEHs", f.txtDPpUEHs, txtDPpUEHs_AlSalir);
+    txtDPpUEHs = campo("txtDPpUEHs", f.txtDPpUEHs);
     fila->addSpacing(fontMetrics().averageCharWidth() * 4);
-    txtRPpUEHs = campo("txtRPpUEHs", f.txtRPpUEHs, txtRPpUEHs_AlSalir);
+    txtRPpUEHs = campo("txtRPpUEHs", f.txtRPpUEHs);
     fila->addStretch(1);
     return fila;
 }

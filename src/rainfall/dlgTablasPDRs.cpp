@@ -39,16 +39,7 @@ constexpr std::string_view Inconsistentes =  // it lacks durations that pass: ke
     "5, 10, 15, 20, 30, 60, 90, 120, 180, 300, 360, 540, 720 ó 1440). Las Recurrrencias: 2, 5, 10, 20, 25, "
     "40, 50, 100, 200, 500, 1000, 2000, 5000, 10000). Verifique";
 
-constexpr forms::ReglaNumero ReglaNroPDRs{.control = "txtNroPDRs",
-                                          .maximo = 999,
-                                          .mensaje = "Ingrese un valor numérico entero entre 0 y 999 ",
-                                          .clase = forms::ClaseNumero::Entero,
-                                          .caja = forms::CajaRechazo::Llana};
-
-std::string Texto(std::int16_t n)
-{
-    return NumeroATexto(std::int32_t{n});
-}
+constexpr forms::ReglaNumero ReglaNroPDRs = forms::ReglaDeCuenta("txtNroPDRs");
 
 std::size_t Ranura(const dlgTablasPDRs& f)
 {
@@ -98,16 +89,16 @@ void MuestraTabla(dlgTablasPDRs& f, Siro& s)
     const std::int16_t n = s.TablasDeLluvia.NroFilasTabla[Ranura(f)];
     f.editable = f.Tabla() != 0;
     f.txtNotas = s.TablasDeLluvia.NotasPDR[Ranura(f)];
-    f.txtNroPDRs = Texto(n);
+    f.txtNroPDRs = NumeroATexto(n);
     forms::Grilla& g = f.MSFlexGridTablaPDRs = forms::NuevaGrilla(ReglasTabla);
     for (const int columna : Editables)
         forms::PonEditable(g, columna, f.editable);
     Ensancha(s, n);
     PonFilas(f, n);
     for (int j = 1; j <= n; ++j) {
-        g.Pon({j, ColumnaP}, Texto(s.TablasDeLluvia.TablasP(f.Tabla(), j)));
-        g.Pon({j, ColumnaD}, Texto(s.TablasDeLluvia.TablasD(f.Tabla(), j)));
-        g.Pon({j, ColumnaR}, Texto(s.TablasDeLluvia.TablasR(f.Tabla(), j)));
+        g.Pon({j, ColumnaP}, NumeroATexto(s.TablasDeLluvia.TablasP(f.Tabla(), j)));
+        g.Pon({j, ColumnaD}, NumeroATexto(s.TablasDeLluvia.TablasD(f.Tabla(), j)));
+        g.Pon({j, ColumnaR}, NumeroATexto(s.TablasDeLluvia.TablasR(f.Tabla(), j)));
     }
     f.leidas.filas = g.filas;
 }
@@ -203,8 +194,8 @@ bool CargaPersonal(dlgTablasPDRs& f, Siro& s)
 void LlevaPrimera(dlgPp& pp, Siro& s)
 {
     pp.txtPp = NumeroATexto(s.Serie.SerieP(1));
-    pp.txtDur = Texto(s.Serie.SerieD(1));
-    pp.cmbRec.texto = Texto(s.Serie.SerieR(1));
+    pp.txtDur = NumeroATexto(s.Serie.SerieD(1));
+    pp.cmbRec = NumeroATexto(s.Serie.SerieR(1));
     s.Tormenta.PpTormenta = s.Serie.SerieP(1);
     s.Tormenta.DurTormenta = s.Serie.SerieD(1);
     s.Tormenta.RecTormenta = s.Serie.SerieR(1);
@@ -239,8 +230,7 @@ void Abre(dlgTablasPDRs& f, const dlgPp& pp, Siro& s)
         f = dlgTablasPDRs{.abierta = true};
         model::LeeTablaPDRs(s);
         f.cmbNroTablaPDRs = {{"0", "1", "2", "3"}, 0};
-        for (std::size_t i = 0; i < pp.optTablaPDR.size(); ++i)
-            if (pp.optTablaPDR[i]) f.cmbNroTablaPDRs.indice = static_cast<int>(i);
+        f.cmbNroTablaPDRs.indice = std::max(pp.optTablaPDR, 0);
         MuestraTabla(f, s);
         RecuerdaTablas(f, s);
     });
@@ -248,7 +238,7 @@ void Abre(dlgTablasPDRs& f, const dlgPp& pp, Siro& s)
 
 void cmbNroTablaPDRs_Click(dlgTablasPDRs& f, dlgPp& pp, Siro& s)
 {
-    optTablaPDR_Click(pp, Ranura(f));
+    optTablaPDR_Click(pp, f.Tabla());
     Evento(s, [&] { MuestraTabla(f, s); });
 }
 
@@ -260,7 +250,7 @@ void txtNotas_Change(const dlgTablasPDRs& f, Siro& s)
 bool txtNroPDRs_AlSalir(dlgTablasPDRs& f, Siro& s)
 {
     if (!f.editable) return true;
-    if (!forms::AlSalir(f, s, ReglaNroPDRs, f.txtNroPDRs)) return false;
+    if (!forms::AlSalir(s, ReglaNroPDRs, f.txtNroPDRs)) return false;
     Evento(s, [&] {
         const std::int16_t n = Entero16(model::Val(f.txtNroPDRs));
         PonFilas(f, n);
@@ -301,7 +291,7 @@ void CancelButton(dlgTablasPDRs& f)
 bool SinAplicar(const dlgTablasPDRs& f, const Siro& s)
 {
     return f.abierta && (f.MSFlexGridTablaPDRs.filas != f.leidas.filas ||
-                         f.txtNroPDRs != Texto(s.TablasDeLluvia.NroFilasTabla[Ranura(f)]) ||
+                         f.txtNroPDRs != NumeroATexto(s.TablasDeLluvia.NroFilasTabla[Ranura(f)]) ||
                          f.leidas.tablas != EnMemoria(s));
 }
 

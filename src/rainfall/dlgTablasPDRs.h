@@ -67,8 +67,8 @@ struct TablasPDRLeidas {
 
 struct dlgTablasPDRs {
     bool abierta = false;
-    Lista cmbNroTablaPDRs{};  ///< item i is table i
-    bool editable = false;    ///< any table but 0: its notes are typed, otherwise shown
+    forms::Lista cmbNroTablaPDRs{};  ///< item i is table i
+    bool editable = false;           ///< any table but 0: its notes are typed, otherwise shown
     std::string txtNroPDRs{};
     std::string txtNotas{};
     forms::Grilla MSFlexGridTablaPDRs{};

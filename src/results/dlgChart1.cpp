@@ -17,9 +17,6 @@ using model::Siro;
 
 namespace {
 
-constexpr auto FormaSerie = static_cast<std::int16_t>(model::FormaLluvia::SeriePDR);
-constexpr auto FormaReal = static_cast<std::int16_t>(model::FormaLluvia::Real);
-
 std::string NotaAlPie(const Hietograma& pedido, std::int16_t paso)
 {
     return " Pp= " + NumeroATexto(pedido.P) + "mm;  D= " + NumeroATexto(std::int32_t{pedido.D}) +
@@ -57,7 +54,7 @@ void Abre(dlgChart1& f, const Siro& s)
 {
     f = dlgChart1{.abierta = true};
     cmdHsMin(f, s);
-    if (s.Tormenta.FormaPp == FormaSerie) f.abierta = false;
+    if (s.Tormenta.FormaPp == model::FormaLluvia::SeriePDR) f.abierta = false;
 }
 
 void Muestra(dlgChart1& f, const Siro& s, const Hietograma& pedido)
@@ -97,9 +94,10 @@ std::optional<Hietograma> mnuGraficoPp(Siro& s, std::string_view notas)
     engine::ConstruyeHietograma(s);
     if (!HayTormentaConBloques(s)) return {};
     if (s.Control.SalidaPizarra) s.Anfitrion.AbrePizarra();
-    return Hietograma{s.Tormenta.NroPpReal, MinutosPorBloque(s),
-                      std::string(s.Tormenta.FormaPp == FormaReal ? notas : s.Configuracion.TituloProyecto),
-                      s.Tormenta.PpTormenta, s.Tormenta.DurTormenta};
+    return Hietograma{
+        s.Tormenta.NroPpReal, MinutosPorBloque(s),
+        std::string(s.Tormenta.FormaPp == model::FormaLluvia::Real ? notas : s.Configuracion.TituloProyecto),
+        s.Tormenta.PpTormenta, s.Tormenta.DurTormenta};
 }
 
 }  // namespace results

@@ -27,8 +27,7 @@ using model::Siro;
 
 namespace {
 
-constexpr auto FormaSerie = static_cast<std::int16_t>(model::FormaLluvia::SeriePDR);
-constexpr std::int16_t UltimaFormaConDeslizadores = 1;
+constexpr std::int16_t UltimaFormaConDeslizadores = model::FormaLluvia::DeLista;
 
 constexpr std::string_view PasosDesiguales =  // kept as it stands
     "Error, el paso de salida (Q) debe ser múltiplo del paso de cálculo (Pp). Verifique la carga en "
@@ -245,7 +244,8 @@ void Abre(dlgChart2& f, Siro& s)
         return;
     }
     f = dlgChart2{};
-    if (s.Resultados.NroPasosQ == 0 || s.Resultados.NroComponentes < 1 || s.Tormenta.FormaPp == FormaSerie)
+    if (s.Resultados.NroPasosQ == 0 || s.Resultados.NroComponentes < 1 ||
+        s.Tormenta.FormaPp == model::FormaLluvia::SeriePDR)
         return;
     f.abierta = true;
     f.lblPp = "Pp";

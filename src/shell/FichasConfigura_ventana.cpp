@@ -123,7 +123,7 @@ void frmConfigura_ventana::Renglon(QGridLayout& grilla, QLineEdit* campo, std::s
     Nombra(campo, nombre);
     textos.push_back({campo, texto});
     forms::Refleja(*campo, c.*texto);
-    campos.Agrega(*campo, [this, nombre] { return AlSalir(f, entorno.s, nombre); });
+    campos.Agrega(*campo, [this, nombre] { return AlSalir(entorno.s, nombre); });
     const int fila = grilla.rowCount();
     grilla.addWidget(Rotulo(nombre, *campo), fila, 0);
     grilla.addWidget(campo, fila, 1);
@@ -346,7 +346,7 @@ QWidget* frmConfigura_ventana::MarcoDeDibujo(QWidget& padre)
     auto* const ancho = new QLineEdit(marco);
     Renglon(*grilla, ancho, "txtMaxUEHsPixel", &ControlesConfigura::txtMaxUEHsPixel, true);
     connect(ancho, &QLineEdit::textEdited, this, [this] {
-        entorno.Atiende([this] { txtMaxUEHsPixel_Change(f, entorno.s); });
+        entorno.Atiende([this] { AlSalir(entorno.s, "txtMaxUEHsPixel"); });
         Muestra();
     });
     Renglon(*grilla, new QLineEdit(marco), "txtN0Dur", &ControlesConfigura::txtN0Dur, true);

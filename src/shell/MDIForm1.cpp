@@ -19,7 +19,6 @@ using model::Siro;
 
 namespace {
 
-constexpr auto FormaSerie = static_cast<std::int16_t>(model::FormaLluvia::SeriePDR);
 constexpr int TodosLosNucleos = 0;
 constexpr std::string_view TituloExplora = "Editar Directorios y Archivos";
 constexpr std::string_view FiltroExplora = "Todos los archivos (*) |*";
@@ -182,7 +181,7 @@ void mnufrmPp(MDIForm1& /*f*/, Siro& s, const Mandos& m)
 
 void mnuCorre1(MDIForm1& /*f*/, Siro& s, const Mandos& m)
 {
-    if (!ProyectoParaCorrer(s) || s.Tormenta.FormaPp == FormaSerie) return;
+    if (!ProyectoParaCorrer(s) || s.Tormenta.FormaPp == model::FormaLluvia::SeriePDR) return;
     if (!s.Anfitrion.ResguardaDibujo(Riesgo::ReleeRed)) return;
     s.Pasos.PasoQ = std::min(s.Pasos.PasoQ, s.Pasos.PasoPp);
     const Espera espera(m);
@@ -199,7 +198,7 @@ void mnuCorre1(MDIForm1& /*f*/, Siro& s, const Mandos& m)
 
 void mnuCorre2(MDIForm1& f, Siro& s, const Mandos& m)
 {
-    if (!ProyectoParaCorrer(s) || s.Tormenta.FormaPp != FormaSerie) return;
+    if (!ProyectoParaCorrer(s) || s.Tormenta.FormaPp != model::FormaLluvia::SeriePDR) return;
     s.Pasos.PasoQ = std::min(s.Pasos.PasoQ, s.Pasos.PasoPp);
     if (s.Serie.NroSeriePDR < 1) {
         m.PunteroDeEspera(false);

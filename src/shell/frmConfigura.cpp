@@ -80,24 +80,14 @@ bool TerminaEnConf(const std::string& nombre)
     return EnMinusculas(nombre).ends_with("conf.vlm");
 }
 
-/// Other items; the one selected stays so where it is still there.
-void PonItems(ListaArchivos& lista, std::vector<std::string> items)
-{
-    const std::string elegido =
-        lista.indice < 0 ? std::string{} : lista.items[static_cast<std::size_t>(lista.indice)];
-    lista.items = std::move(items);
-    const auto lugar = std::find(lista.items.begin(), lista.items.end(), elegido);
-    lista.indice = lugar == lista.items.end() ? -1 : static_cast<int>(lugar - lista.items.begin());
-}
-
 /// The pattern of the first list is "*Conf.vlm", whatever the case; what is loaded goes by the exact ending.
 void ListaLosDe(frmConfigura& f, const Siro& s, const std::string& directorio)
 {
     std::vector<std::string> archivos = s.Disco.Lista(directorio);
     std::erase_if(archivos, model::EsCandado);
-    PonItems(f.filArchivoImagenDib, archivos);
+    f.filArchivoImagenDib.PonItems(archivos);
     std::erase_if(archivos, [](const std::string& nombre) { return !TerminaEnConf(nombre); });
-    PonItems(f.filArchivoConfigura, std::move(archivos));
+    f.filArchivoConfigura.PonItems(std::move(archivos));
 }
 
 /// A directory that has gone lists nothing.
@@ -145,52 +135,25 @@ double EscalaBase(const Siro& s)
     return base > 0 ? base : PorDefecto;
 }
 
-double BordeDelDibujo(const Siro& s)
-{
-    return EscalaBase(s) - 1;
-}
-
-template <int N>
-double Tope(const Siro& /*s*/)
-{
-    return N;
-}
-
-void Recorta(Siro& s, const CampoRecortado& campo)
-{
-    std::string& texto = s.frmConfigura.*campo.texto;
-    double x = Val(texto);
-    if (x > campo.maximo(s)) {
-        x = campo.enSuLugar(s);
-        texto = NumeroATexto(x);
-    } else if (campo.cortaEnCero && x <= 0) {
-        x = 0;
-        texto = NumeroATexto(x);
-    }
-    campo.toma(s, x);
-}
+/// The image may be moved as far as the drawing's edge.
+constexpr auto Corrimientos = std::to_array<std::string_view>({"TexIMGX0", "TexIMGY0"});
 
 }  // namespace
 
 // clang-format off
-const std::array<CampoRecortado, 4> CamposRecortados = {{
-    {"TexIMGEscala", &ControlesConfigura::TexIMGEscala, Tope<1000>, Tope<1000>, true,
-     [](Siro& s, double x) { s.Configuracion.EscalaImagen = x; }},
-    {"TexIMGX0", &ControlesConfigura::TexIMGX0, BordeDelDibujo, EscalaBase, false,
-     [](Siro& s, double x) { s.Configuracion.ImagenX0 = Simple(x); }},
-    {"TexIMGY0", &ControlesConfigura::TexIMGY0, BordeDelDibujo, EscalaBase, false,
-     [](Siro& s, double x) { s.Configuracion.ImagenY0 = Simple(x); }},
+const std::array<CampoConfigura, 6> CamposConfigura = {{
+    {{.control = "TexIMGEscala", .maximo = 1000, .rechazo = forms::Rechazo::Recorta},
+     &ControlesConfigura::TexIMGEscala, [](Siro& s, double x) { s.Configuracion.EscalaImagen = x; }},
+    {{.control = "TexIMGX0", .minimo = -forms::SinLimite, .rechazo = forms::Rechazo::Recorta},
+     &ControlesConfigura::TexIMGX0, [](Siro& s, double x) { s.Configuracion.ImagenX0 = Simple(x); }},
+    {{.control = "TexIMGY0", .minimo = -forms::SinLimite, .rechazo = forms::Rechazo::Recorta},
+     &ControlesConfigura::TexIMGY0, [](Siro& s, double x) { s.Configuracion.ImagenY0 = Simple(x); }},
     // The run-wide value is taken at the next reading of the file.
-    {"txtMaxUEHsPixel", &ControlesConfigura::txtMaxUEHsPixel, Tope<1024>, Tope<1024>, false,
-     [](Siro&, double) {}},
-}};
-
-const std::array<CampoRechazado, 2> CamposRechazados = {{
-    {{.control = "txtEscalaImagen", .maximo = 50000, .mensaje = EntreDiezYTreintaMil,
-      .caja = forms::CajaRechazo::Llana},
+    {{.control = "txtMaxUEHsPixel", .minimo = -forms::SinLimite, .maximo = 1024, .rechazo = forms::Rechazo::Recorta},
+     &ControlesConfigura::txtMaxUEHsPixel, [](Siro&, double) {}},
+    {{.control = "txtEscalaImagen", .maximo = 50000, .mensaje = EntreDiezYTreintaMil, .rechazo = forms::Rechazo::Llana},
      &ControlesConfigura::txtEscalaImagen, [](Siro& s, double x) { s.Configuracion.EscalaDibujo = NumeroATexto(x); }},
-    {{.control = "txtN0Dur", .minimo = 10, .maximo = 30000, .mensaje = EntreDiezYTreintaMil,
-      .caja = forms::CajaRechazo::Llana},
+    {{.control = "txtN0Dur", .minimo = 10, .maximo = 30000, .mensaje = EntreDiezYTreintaMil, .rechazo = forms::Rechazo::Llana},
      &ControlesConfigura::txtN0Dur, [](Siro& s, double x) { s.Pasos.N0Dur = Simple(x); }},
 }};
 // clang-format on
@@ -200,22 +163,23 @@ bool HayImagen(const Siro& s)
     return Tildada(s.frmConfigura.chkImagenDibujo);
 }
 
-bool AlSalir(frmConfigura& f, Siro& s, std::string_view control)
+bool AlSalir(Siro& s, std::string_view control)
 {
-    for (const CampoRechazado& campo : CamposRechazados) {
-        if (campo.regla.control != control) continue;
-        std::string& texto = s.frmConfigura.*campo.texto;
-        if (!forms::AlSalir(f, s, campo.regla, texto)) return false;
-        campo.toma(s, Val(texto));
+    const CampoConfigura* const campo = forms::CampoDe(CamposConfigura, control);
+    if (campo == nullptr) return true;
+    forms::ReglaNumero regla = campo->regla;
+    const std::string base = NumeroATexto(EscalaBase(s));
+    if (std::ranges::find(Corrimientos, control) != Corrimientos.end()) {
+        regla.maximo = EscalaBase(s) - 1;
+        regla.alRechazar = base;
     }
-    for (const CampoRecortado& campo : CamposRecortados)
-        if (campo.control == control) Evento(s, [&] { Recorta(s, campo); });
-    return true;
-}
-
-void txtMaxUEHsPixel_Change(frmConfigura& f, Siro& s)
-{
-    AlSalir(f, s, "txtMaxUEHsPixel");
+    bool pasa = true;
+    Evento(s, [&] {
+        std::string& texto = s.frmConfigura.*campo->texto;
+        pasa = forms::AlSalir(s, regla, texto);
+        if (pasa) campo->valor(s, Val(texto));
+    });
+    return pasa;
 }
 
 void txtFecha_DblClick(Siro& s)
@@ -268,14 +232,11 @@ void Abre(frmConfigura& f, Siro& s)
         OKButton(f, s);
         f.SSTab1 = FichaImagen;
         model::Sentencia([&] { ListaLosDe(f, s, s.Proyecto.DirProyectoConf); });
-        const auto& items = f.filArchivoConfigura.items;
-        const auto lugar = std::find(items.begin(), items.end(), ArchivoConf(s));
-        f.filArchivoConfigura.indice = lugar == items.end() ? -1 : static_cast<int>(lugar - items.begin());
+        f.filArchivoConfigura.Elige(ArchivoConf(s));
         c.lblMiArchivoConf = ArchivoConf(s);
     }
     if (!f.CheckDirNv) c.TextDirNv.clear();
     RecuerdaControles(f, s);
-    f.foco = {};
     f.abierta = true;
 }
 
@@ -362,8 +323,7 @@ void Opcion_Click(Siro& s, std::size_t i)
 void filArchivoConfigura_Click(frmConfigura& f, Siro& s)
 {
     if (f.filArchivoConfigura.indice < 0) return;
-    const std::string archivo =
-        f.filArchivoConfigura.items[static_cast<std::size_t>(f.filArchivoConfigura.indice)];
+    const std::string archivo = f.filArchivoConfigura.Elegido();
     if (!archivo.ends_with(TerminacionConfigura)) {
         Informa(s, std::string(NoEsConf1).append(archivo).append(NoEsConf2));
         s.frmConfigura.lblMiArchivoConf = DebeCargarConf;
@@ -389,8 +349,7 @@ void filArchivoConfigura_Click(frmConfigura& f, Siro& s)
 void filArchivoImagenDib_Click(frmConfigura& f, Siro& s)
 {
     if (f.filArchivoImagenDib.indice < 0) return;
-    const std::string& archivo =
-        f.filArchivoImagenDib.items[static_cast<std::size_t>(f.filArchivoImagenDib.indice)];
+    const std::string archivo = f.filArchivoImagenDib.Elegido();
     const std::string minuscula = EnMinusculas(archivo);
     const bool esImagen = std::any_of(TerminacionesImagen.begin(), TerminacionesImagen.end(),
                                       [&](std::string_view fin) { return minuscula.ends_with(fin); });

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "forms/CampoNumerico.h"
+#include "forms/Lista.h"
 #include "forms/Rotulo.h"
 #include "model/Configuracion.h"
 #include "model/Siro.h"
@@ -83,12 +84,6 @@ inline constexpr auto OpcionesConfigura = std::to_array<OpcionConfigura>({
 });
 // clang-format on
 
-/// Names of the files of a directory, of which one can be picked.
-struct ListaArchivos {
-    std::vector<std::string> items{};
-    int indice = -1;  ///< from 0; -1: none
-};
-
 /// How a project went to the folder of its image.
 struct Mudanza {
     std::string desde{};  ///< the folder where its network has stayed; empty: it hasn't gone anywhere
@@ -101,13 +96,12 @@ struct frmConfigura {
     int SSTab1 = 0;             ///< tab in front, from 0
     std::string DirPersonal{};  ///< home directory of the user; the window sets it
     std::string lblnombreproyecto{};
-    bool CheckDirNv = false;              ///< TextDirNv is available
-    ListaArchivos filArchivoConfigura{};  ///< configuration files of Dir1
-    ListaArchivos filArchivoImagenDib{};  ///< all files of Dir1
+    bool CheckDirNv = false;             ///< TextDirNv is available
+    forms::Lista filArchivoConfigura{};  ///< configuration files of Dir1
+    forms::Lista filArchivoImagenDib{};  ///< all files of Dir1
     Mudanza mudanza{};
     model::ControlesConfigura guardados{};  ///< as the dialog opened, or they were read or written last
     std::string archivoGuardado{};          ///< the file that they were of
-    forms::Foco foco{};
     bool abierta = false;
 };
 
@@ -121,32 +115,14 @@ bool HayImagen(const model::Siro& s);
 
 // --- number fields ---
 
-/// A field whose number is cut to its limits without a word.
-struct CampoRecortado {
-    std::string_view control;
-    std::string model::ControlesConfigura::*texto;
-    double (*maximo)(const model::Siro& s);     ///< largest number that stays
-    double (*enSuLugar)(const model::Siro& s);  ///< what a larger one becomes
-    bool cortaEnCero;                           ///< a negative number becomes 0
-    void (*toma)(model::Siro& s, double x);     ///< to the run-wide variable
-};
+/// A field, and what takes its number to the run-wide state.
+using CampoConfigura = forms::CampoNumerico<model::ControlesConfigura, void (*)(model::Siro& s, double x)>;
+extern const std::array<CampoConfigura, 6> CamposConfigura;
 
-/// A field that refuses what lies beyond its limits, saying so.
-struct CampoRechazado {
-    forms::ReglaNumero regla;
-    std::string model::ControlesConfigura::*texto;
-    void (*toma)(model::Siro& s, double x);
-};
-
-extern const std::array<CampoRecortado, 4> CamposRecortados;
-extern const std::array<CampoRechazado, 2> CamposRechazados;
-
-/// Leaving a field: its number goes to its run-wide variable. Returns false where it is refused: the message
-/// was shown, the variable is as it was, and the focus stays. Any other control passes.
-bool AlSalir(frmConfigura& f, model::Siro& s, std::string_view control);
-
-/// At each edit of the field.
-void txtMaxUEHsPixel_Change(frmConfigura& f, model::Siro& s);
+/// Leaving a field, txtMaxUEHsPixel at each edit too: its number goes to the run-wide state. Returns false
+/// where it is refused: the message was shown, the state is as it was, and the focus stays. Any other control
+/// passes.
+bool AlSalir(model::Siro& s, std::string_view control);
 /// Puts today's date.
 void txtFecha_DblClick(model::Siro& s);
 

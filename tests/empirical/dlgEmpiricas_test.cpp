@@ -23,22 +23,22 @@ class Calculadora : public testing::Test {
     void PonS(const std::string& texto)
     {
         f.txtSup = texto;
-        txtSup_Change(f);
+        AlCambiar(f, "txtSup");
     }
     void PonL(const std::string& texto)
     {
         f.txtLcauceP = texto;
-        txtLcauceP_Change(f);
+        AlCambiar(f, "txtLcauceP");
     }
     void PonH(const std::string& texto)
     {
         f.txtcauceH = texto;
-        txtcauceH_Change(f);
+        AlCambiar(f, "txtcauceH");
     }
     void PonI(const std::string& texto)
     {
         f.txtPendiCP = texto;
-        txtPendiCP_Change(f);
+        AlCambiar(f, "txtPendiCP");
     }
     [[nodiscard]] std::string Qp(std::string_view control) const
     {
@@ -92,8 +92,9 @@ TEST_F(Calculadora, LosRotulosALaLetra)
         {"txtPendiCP", "Pendiente media cauce mñas largo [%]:"}};
     ASSERT_EQ(CamposEmpiricos.size(), campos.size());
     for (std::size_t k = 0; k < campos.size(); ++k) {
-        EXPECT_EQ(CamposEmpiricos[k].rotulo.control, campos[k].first);
-        EXPECT_EQ(CamposEmpiricos[k].rotulo.leyenda, campos[k].second);
+        EXPECT_EQ(CamposEmpiricos[k].regla.control, campos[k].first);
+        EXPECT_EQ(RotulosEmpiricos[k].control, campos[k].first);
+        EXPECT_EQ(RotulosEmpiricos[k].leyenda, campos[k].second);
     }
 }
 
@@ -332,13 +333,13 @@ TEST_F(Calculadora, UnaSuperficieNegativaDejaLosCaudalesComoEstaban)
 TEST_F(Calculadora, AlSalirDeLaSuperficieElCeroEsUnoYSeCalcula)
 {
     f.txtSup = "0";
-    txtSup_AlSalir(f);
+    AlSalir(f, "txtSup");
     EXPECT_EQ(f.txtSup, "1");
     EXPECT_EQ(f.lblSup, "1");
     EXPECT_EQ(Qp("txtQpSanti100"), "33");
     EXPECT_EQ(Ventura(), "76.32");
     f.txtSup = "20000";  // leaving looks at the zero alone
-    txtSup_AlSalir(f);
+    AlSalir(f, "txtSup");
     EXPECT_EQ(f.txtSup, "20000");
 }
 
@@ -454,11 +455,11 @@ TEST_F(Calculadora, SinPendienteElRotuloDeScsQuedaVacio)
     EXPECT_EQ(Scs(), "");
     EXPECT_EQ(California(), "9.66");
     f.txtPendiCP = "150";  // leaving corrects nothing above
-    txtPendiCP_AlSalir(f);
+    AlSalir(f, "txtPendiCP");
     EXPECT_EQ(f.txtPendiCP, "150");
     EXPECT_EQ(Scs(), "0.62");  // 11.682 · 0.022^0.77 = 11.682 · 0.05292
     f.txtPendiCP = "-1";
-    txtPendiCP_AlSalir(f);
+    AlSalir(f, "txtPendiCP");
     EXPECT_EQ(f.txtPendiCP, "0");
     EXPECT_EQ(Scs(), "");
 }
@@ -475,16 +476,16 @@ TEST_F(Calculadora, LaSuperficieTambienCalculaLosTiemposYLosDatosDeEstosNoLosCau
 // Each row of the fields does what its control's events do.
 TEST_F(Calculadora, CadaCampoSeMandaPorSuFila)
 {
-    for (const CampoEmpirico& campo : CamposEmpiricos) {
+    for (const auto& campo : CamposEmpiricos) {
         dlgEmpiricas uno, otro;
         Abre(uno);
         Abre(otro);
         uno.*campo.texto = otro.*campo.texto = "4";
-        campo.alCambiar(uno);
-        campo.alSalir(otro);
-        EXPECT_EQ(uno, otro) << campo.rotulo.control;
-        EXPECT_NE(uno.Tc[1], "") << campo.rotulo.control;
-        EXPECT_EQ(uno.Qp[1] == "66", campo.rotulo.control == "txtSup") << campo.rotulo.control;
+        AlCambiar(uno, campo.regla.control);
+        AlSalir(otro, campo.regla.control);
+        EXPECT_EQ(uno, otro) << campo.regla.control;
+        EXPECT_NE(uno.Tc[1], "") << campo.regla.control;
+        EXPECT_EQ(uno.Qp[1] == "66", campo.regla.control == "txtSup") << campo.regla.control;
     }
 }
 

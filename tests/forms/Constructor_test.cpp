@@ -36,7 +36,7 @@ struct Registro {
     std::string txtArea = "5", txtHora{}, lblNro = "7";
     Lista lstMetodo{};
     bool chkFQ = false, optA = false, visible = true;
-    std::array<bool, 2> optB{true, false};
+    int optB = 0;
     Foco foco{};
     std::vector<std::string> sucesos{};
 };
@@ -52,8 +52,8 @@ struct Prueba : Formulario {
         QWidget* const metodo = Listado("lstMetodo", f.lstMetodo, Flechas::EligenAlSalir, anota("lstMetodo"));
         QWidget* const funcion = Casilla(
             "chkFQ", [this] { return f.chkFQ; }, [this](bool tildada) { f.chkFQ = tildada; });
-        const auto opciones = Opciones("optB", Leyendas, f.optB, [this](std::size_t i) {
-            f.optB = {i == 0, i == 1};
+        const auto opciones = Opciones("optB", Leyendas, f.optB, [this](int i) {
+            f.optB = i;
             Anota("optB");
         });
         setLayout(EnPila(

@@ -362,7 +362,7 @@ class DialogoImporta : public testing::Test {
     }
     void Paso(const char* texto)
     {
-        f.cmbPaso.texto = texto;
+        f.cmbPaso = texto;
         cmbPaso_Change(f);
     }
     model::Siro s;
@@ -377,7 +377,7 @@ TEST_F(DialogoImporta, MuestraElRegistroComoQuedaria)
     EXPECT_TRUE(f.abierta);
     EXPECT_EQ(f.lblArchivo, "Llu'via.csv");
     EXPECT_EQ(f.lblRegistro, "3 lecturas, del 17/02/1976 17:00 al 17/02/1976 19:00, Pp= 16.5 [mm]");
-    EXPECT_EQ(f.cmbPaso.texto, "60");
+    EXPECT_EQ(f.cmbPaso, "60");
     EXPECT_EQ(f.lblResultado, "3 intervalos, D= 180 [min], Pp= 16.5 [mm], máxima parcial 13 [mm]");
     EXPECT_TRUE(f.puedeImportar);
     EXPECT_EQ(f.grillaImportada.filas[1].celdas,
@@ -427,9 +427,9 @@ TEST_F(DialogoImporta, ElPasoHabitualEstaEntreLosItems)
 {
     disco.Pon("/datos/Llu\"via.csv", "01/03/2004 00:07;1\n01/03/2004 00:14;1\n");
     ASSERT_TRUE(Abre(f, s));
-    EXPECT_EQ(f.cmbPaso.texto, "7");
-    EXPECT_EQ(f.cmbPaso.items[1], "7");
-    EXPECT_EQ(f.cmbPaso.items.size(), PasosDeTiempo.size() + 1);
+    EXPECT_EQ(f.cmbPaso, "7");
+    EXPECT_EQ(f.itemsPaso[1], "7");
+    EXPECT_EQ(f.itemsPaso.size(), PasosDeTiempo.size() + 1);
 }
 
 TEST_F(DialogoImporta, SinElegirNoSeAbreNada)

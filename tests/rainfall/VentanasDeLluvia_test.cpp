@@ -403,7 +403,7 @@ TEST_F(VentanaDisPpPer, OtraTablaSeEligeYMarcaSuOpcion)
     Abre();
     EligeTexto("cmbNroTablaDisPpPer", "2");
     EXPECT_EQ(Tabla().model()->rowCount(), 3);
-    EXPECT_TRUE(pp.optDistriPp[6]);
+    EXPECT_EQ(pp.optDistriPp, 6);
     EXPECT_EQ(Texto("txtNotas"), "n2");
 }
 

@@ -74,7 +74,7 @@ class DialogoPpReal : public testing::Test {
     }
     void EligePaso(const std::string& paso)
     {
-        f.cmbPasot.texto = paso;
+        f.cmbPasot = paso;
         cmbPasot_Click(f, s);
     }
     std::string Bytes(const std::string& nombre) { return disco.Bytes("/proyectos/" + nombre); }
@@ -131,12 +131,11 @@ TEST_F(DialogoPpReal, AlAbrirTodosLosCamposSiguenAlArchivo)
     EXPECT_EQ(f.FilePpReal.indice, 0);
     EXPECT_EQ(f.tormenta.Notas, "Llovizna");
     EXPECT_EQ(f.tormenta.txtTimeF, "01:00");
-    EXPECT_EQ(f.cmbPasot.texto, "20");
-    EXPECT_EQ(f.cmbPasot.items, (Textos{"5", "10", "20", "60"}));
+    EXPECT_EQ(f.cmbPasot, "20");
+    EXPECT_EQ(f.itemsPasot, (Textos{"5", "10", "20", "60"}));
     EXPECT_EQ(f.txtNroPpReal, "3");
-    EXPECT_TRUE(f.optNroPpReal[1]);
-    EXPECT_FALSE(f.optNroPpReal[0]);
-    EXPECT_FALSE(f.finalEditable);
+    EXPECT_EQ(f.optNroPpReal, 1);
+    EXPECT_FALSE(f.FinalEditable());
     EXPECT_FALSE(f.Protegida);
     EXPECT_EQ(s.Tormenta.FormaPp, 4);
     EXPECT_TRUE(Avisos().empty());
@@ -185,7 +184,7 @@ TEST_F(DialogoPpReal, SinArchivoQuedanLosValoresPorDefecto)
     EXPECT_EQ(f.tormenta.txtTimeI, "00:00");
     EXPECT_EQ(f.tormenta.txtDateF, "01/01/1001");
     EXPECT_EQ(f.tormenta.txtTimeF, "00:00");
-    EXPECT_EQ(f.cmbPasot.texto, "10");
+    EXPECT_EQ(f.cmbPasot, "10");
     EXPECT_EQ(f.txtNroPpReal, "0");
     EXPECT_EQ(s.Tormenta.NroPpReal, 0);
     EXPECT_TRUE(Avisos().empty());
@@ -196,11 +195,11 @@ TEST_F(DialogoPpReal, ElPasoPorDefectoEsElSegundoOElUnicoODiez)
     disco.Quita("/proyectos/Velmir_pt.vlm");
     s.Configuracion.ListaDur = {0, 30};
     rainfall::Abre(f, pp, s);
-    EXPECT_EQ(f.cmbPasot.texto, "30");
+    EXPECT_EQ(f.cmbPasot, "30");
     s.Configuracion.ListaDur = {0};
     rainfall::Abre(f, pp, s);
-    EXPECT_TRUE(f.cmbPasot.items.empty());
-    EXPECT_EQ(f.cmbPasot.texto, "10");
+    EXPECT_TRUE(f.itemsPasot.empty());
+    EXPECT_EQ(f.cmbPasot, "10");
     EXPECT_EQ(f.tormenta.PasoPpReal, 10);
 }
 
@@ -211,9 +210,9 @@ TEST_F(DialogoPpReal, LosPasosSonDieciseisALoSumoYUnoAjenoSeMuestraComoTexto)
         s.Configuracion.ListaDur.push_back(d);
     PonTormenta(disco, "Velmir_pt.vlm", "x", 1, 37, "4\r\n");
     Abre();
-    EXPECT_EQ(f.cmbPasot.items.size(), 16U);
-    EXPECT_EQ(f.cmbPasot.items.back(), "16");
-    EXPECT_EQ(f.cmbPasot.texto, "37");
+    EXPECT_EQ(f.itemsPasot.size(), 16U);
+    EXPECT_EQ(f.itemsPasot.back(), "16");
+    EXPECT_EQ(f.cmbPasot, "37");
     EXPECT_EQ(Celda(1, 2), "37");
 }
 
@@ -227,7 +226,7 @@ TEST_F(DialogoPpReal, LaActivacionPoneLaFormaCuatroYLeeLaTormentaDeDlgPp)
     optformaPp_Click(pp, s, 0);
     AlActivarse(f, pp, s);
     EXPECT_EQ(s.Tormenta.FormaPp, 4);
-    EXPECT_TRUE(pp.optformaPp[4]);
+    EXPECT_EQ(pp.optformaPp, 4);
     EXPECT_EQ(f.tormenta.nombre, "Velmir_pt.vlm");
     EXPECT_EQ(f.txtNroPpReal, "3");
 }
@@ -331,7 +330,6 @@ TEST_F(DialogoPpReal, ElNumeroEsEnteroDe0A999)
         f.txtNroPpReal = malo;
         EXPECT_FALSE(txtNroPpReal_AlSalir(f, s)) << malo;
         EXPECT_EQ(Avisos(), std::vector<Mensaje>{NroMalo}) << malo;
-        EXPECT_EQ(f.foco, (forms::Foco{"txtNroPpReal", true}));
         EXPECT_EQ(s.Tormenta.NroPpReal, 3);
     }
     anfitrion->sucesos.clear();
@@ -381,7 +379,7 @@ class FinalFijo : public DialogoPpReal {
 
 TEST_F(FinalFijo, ElNumeroSigueAlFinal)
 {
-    EXPECT_TRUE(f.finalEditable);
+    EXPECT_TRUE(f.FinalEditable());
     EXPECT_TRUE(Final("01/01/1001", "01:40"));
     EXPECT_EQ(f.txtNroPpReal, "5");
     EXPECT_EQ(G().NroFilas(), 5);
@@ -568,7 +566,6 @@ TEST_F(DialogoPpReal, UnaFechaMalaSeAvisaYQuedaEnElCampo)
     f.tormenta.txtDateI = "31/02/2004";
     EXPECT_FALSE(txtDateI_AlSalir(f, s));
     EXPECT_EQ(f.tormenta.txtDateI, "31/02/2004");
-    EXPECT_EQ(f.foco, (forms::Foco{"txtDateI", true}));
     f.tormenta.txtDateF = "x";
     EXPECT_FALSE(txtDateF_AlSalir(f, s));
     EXPECT_EQ(Avisos(), (std::vector<Mensaje>{FechaMala, FechaMala}));
@@ -583,7 +580,6 @@ TEST_F(DialogoPpReal, UnaHoraMalaSeAvisaYVuelveACero)
     f.tormenta.txtTimeF = "25:00";
     EXPECT_FALSE(txtTimeF_AlSalir(f, s));
     EXPECT_EQ(f.tormenta.txtTimeF, "00:00");
-    EXPECT_EQ(f.foco, (forms::Foco{"txtTimeF", true}));
     EXPECT_EQ(Avisos(), (std::vector<Mensaje>{HoraMala, HoraMala}));
 }
 
@@ -874,7 +870,7 @@ TEST_F(DialogoPpReal, BorrarSinEliminarEscribeLaTormentaVacia)
               "\"\"\r\n0,10\r\n\"01/01/0001\",\"00:00\"\r\n\"01/01/0001\",\"00:00\"\r\n");
     EXPECT_EQ(G().NroFilas(), 0);
     EXPECT_EQ(f.txtNroPpReal, "0");
-    EXPECT_EQ(f.cmbPasot.texto, "10");
+    EXPECT_EQ(f.cmbPasot, "10");
     EXPECT_EQ(f.tormenta.Notas, "");
 }
 
@@ -934,7 +930,7 @@ TEST_F(DialogoPpReal, LaTormentaImportadaTomaLosCamposYNadaSeEscribe)
     EXPECT_EQ(f.tormenta.txtDateI, "29/02/1992");
     EXPECT_EQ(f.tormenta.txtTimeI, "01:00");
     EXPECT_EQ(f.tormenta.txtTimeF, "01:45");
-    EXPECT_EQ(f.cmbPasot.texto, "15");
+    EXPECT_EQ(f.cmbPasot, "15");
     EXPECT_EQ(f.txtNroPpReal, "3");
     EXPECT_EQ(Columna(3), (Textos{"1.5", "0", "2"}));
     EXPECT_EQ(s.Tormenta.PpTormenta, 3.5F);

@@ -46,7 +46,7 @@ class DialogoPp : public testing::Test {
         Abre(f, s);
     }
     /// Which of the three fields of the storm show what.
-    std::vector<std::string> Campos() const { return {f.txtPp, f.txtDur, f.cmbRec.texto}; }
+    std::vector<std::string> Campos() const { return {f.txtPp, f.txtDur, f.cmbRec}; }
     std::vector<Mensaje> Avisos() const { return anfitrion->Avisos(); }
 
     Siro s;
@@ -106,15 +106,15 @@ TEST_F(DialogoPp, AlAbrirMuestraLaTormentaYLosPasosDeLaCorrida)
     AbreConTormenta(80.5F, 120, 50);
     EXPECT_TRUE(f.abierta);
     EXPECT_EQ(Campos(), (Textos{"80.5", "120", "50"}));
-    EXPECT_EQ(f.cmbRec.items, (Textos{"2", "10", "50"}));
-    EXPECT_EQ(f.cmbPasoPp.texto, "30");
-    EXPECT_EQ(f.cmbPasoQ.texto, "15");
+    EXPECT_EQ(f.itemsRec, (Textos{"2", "10", "50"}));
+    EXPECT_EQ(f.cmbPasoPp, "30");
+    EXPECT_EQ(f.cmbPasoQ, "15");
     const Textos pasos = {"5", "10", "15", "20", "30", "60", "120", "180", "240", "300", "360", "540", "720"};
-    EXPECT_EQ(f.cmbPasoPp.items, pasos);
-    EXPECT_EQ(f.cmbPasoQ.items, pasos);
-    EXPECT_TRUE(f.optformaPp[0]);
-    EXPECT_TRUE(f.optDistriPp[3]);
-    EXPECT_TRUE(f.optTablaPDR[2]);
+    EXPECT_EQ(f.itemsPaso, pasos);
+    EXPECT_EQ(f.itemsPaso, pasos);
+    EXPECT_EQ(f.optformaPp, 0);
+    EXPECT_EQ(f.optDistriPp, 3);
+    EXPECT_EQ(f.optTablaPDR, 2);
     EXPECT_EQ(s.Pasos.PasoPp, 30);
     EXPECT_EQ(s.Pasos.PasoQ, 15);
     EXPECT_TRUE(Avisos().empty());
@@ -130,8 +130,8 @@ TEST_F(DialogoPp, SinPasosEnMemoriaValen10Minutos)
 {
     s.Pasos.PasoPp = s.Pasos.PasoQ = 0;
     Abre(f, s);
-    EXPECT_EQ(f.cmbPasoPp.texto, "10");
-    EXPECT_EQ(f.cmbPasoQ.texto, "10");
+    EXPECT_EQ(f.cmbPasoPp, "10");
+    EXPECT_EQ(f.cmbPasoQ, "10");
     EXPECT_EQ(s.Pasos.PasoPp, 10);
     EXPECT_EQ(s.Pasos.PasoQ, 10);
 }
@@ -182,9 +182,9 @@ TEST_F(DialogoPp, ReabreComoSeLoDejoAlAplicar)
     Abre(f, s);
     f.txtPp = "45.5";
     f.txtDur = "90";
-    f.cmbRec.texto = "10";
-    f.cmbPasoPp.texto = "30";
-    f.cmbPasoQ.texto = "15";
+    f.cmbRec = "10";
+    f.cmbPasoPp = "30";
+    f.cmbPasoQ = "15";
     optDistriPp_Click(f, s, 1);
     OKButton(f, s);
     EXPECT_FALSE(f.abierta);
@@ -192,10 +192,10 @@ TEST_F(DialogoPp, ReabreComoSeLoDejoAlAplicar)
     Abre(otra, s);
     EXPECT_EQ(otra.txtPp, "45.5");
     EXPECT_EQ(otra.txtDur, "90");
-    EXPECT_EQ(otra.cmbRec.texto, "10");
-    EXPECT_EQ(otra.cmbPasoPp.texto, "30");
-    EXPECT_EQ(otra.cmbPasoQ.texto, "15");
-    EXPECT_TRUE(otra.optDistriPp[1]);
+    EXPECT_EQ(otra.cmbRec, "10");
+    EXPECT_EQ(otra.cmbPasoPp, "30");
+    EXPECT_EQ(otra.cmbPasoQ, "15");
+    EXPECT_EQ(otra.optDistriPp, 1);
 }
 
 // --- state per form ---
@@ -238,10 +238,10 @@ TEST_P(EstadoPorForma, EsElMismoAlAbrirYDesdeCualquierOtraForma)
     s.Tormenta.FormaPp = GetParam().forma;
     Abre(f, s);
     Comprueba();
-    for (const auto desde : std::to_array<std::size_t>({0, 1, 2, 3, 4})) {
+    for (const auto desde : std::to_array<int>({0, 1, 2, 3, 4})) {
         optformaPp_Click(f, s, desde);
         optDistriPp_Click(f, s, 0);
-        optformaPp_Click(f, s, static_cast<std::size_t>(GetParam().forma));
+        optformaPp_Click(f, s, GetParam().forma);
         if (GetParam().forma != 4) optDistriPp_Click(f, s, 0);  // form 4 leaves a personal one behind
         Comprueba();
     }
@@ -318,10 +318,10 @@ TEST_F(DialogoPp, LaValidezDeUnaPersonalSeMuestraConSusLimitesMayoresQueCero)
 
 TEST_F(DialogoPp, EnLasFormas1Y2LaTablaPersonalSeCargaConUnaDistribucionPersonal)
 {
-    for (const auto forma : std::to_array<std::size_t>({1, 2})) {
+    for (const auto forma : std::to_array<int>({1, 2})) {
         Abre(f, s);
         optformaPp_Click(f, s, forma);
-        for (const auto distribucion : std::to_array<std::size_t>({4, 5, 6, 7, 0})) {
+        for (const auto distribucion : std::to_array<int>({4, 5, 6, 7, 0})) {
             optDistriPp_Click(f, s, distribucion);
             EXPECT_EQ(f.Habilitado("cmdPpPerso"), distribucion >= 5) << forma << ' ' << distribucion;
         }
@@ -332,7 +332,7 @@ TEST_F(DialogoPp, LaTablaPDR0NoSeCargaYLasPersonalesSi)
 {
     Abre(f, s);
     optformaPp_Click(f, s, 2);
-    for (const auto tabla : std::to_array<std::size_t>({0, 1, 2, 3, 0})) {
+    for (const auto tabla : std::to_array<int>({0, 1, 2, 3, 0})) {
         optTablaPDR_Click(f, tabla);
         EXPECT_EQ(f.Habilitado("cmdTablaPDR"), tabla >= 1) << tabla;
         optDistriPp_Click(f, s, 0);
@@ -348,8 +348,7 @@ TEST_F(DialogoPp, LaFormaPorUEHEsSiempreDeIntensidadConstante)
     ASSERT_EQ(s.Tormenta.DistriPp, 6);
     optformaPp_Click(f, s, 3);
     EXPECT_EQ(s.Tormenta.DistriPp, 0);
-    EXPECT_TRUE(f.optDistriPp[0]);
-    EXPECT_FALSE(f.optDistriPp[6]);
+    EXPECT_EQ(f.optDistriPp, 0);
 }
 
 TEST_F(DialogoPp, LaFormaPorUEHIgnoraLaDistribucionAlAplicar)
@@ -367,7 +366,7 @@ TEST_F(DialogoPp, LaFormaPorUEHIgnoraLaDistribucionAlAplicar)
 TEST_F(DialogoPp, SinNingunaFormaMarcadaValeLa0)
 {
     Abre(f, s);
-    f.optformaPp.fill(false);
+    f.optformaPp = -1;
     s.Tormenta.FormaPp = 3;
     EstadoFormaPp(f, s);
     EXPECT_EQ(s.Tormenta.FormaPp, 0);
@@ -398,10 +397,10 @@ TEST_F(DialogoPp, LaFormaRealLeeLaTormentaPorDefecto)
     EXPECT_EQ(f.lblNumPer, "3");
     EXPECT_EQ(f.txtPp, "17.5");  // 5 + 10 + 2.5 mm
     EXPECT_EQ(f.txtDur, "60");   // 3 intervals of 20 min
-    EXPECT_EQ(f.cmbPasoPp.texto, "20");
+    EXPECT_EQ(f.cmbPasoPp, "20");
     EXPECT_EQ(s.Pasos.PasoPp, 20);
     EXPECT_EQ(s.Tormenta.DistriPp, 7);
-    EXPECT_TRUE(f.optDistriPp[7]);
+    EXPECT_EQ(f.optDistriPp, 7);
     EXPECT_EQ(s.Tormenta.PpTormenta, 17.5F);
 }
 
@@ -439,7 +438,7 @@ TEST_F(DialogoPp, SinTormentaQueLeerElPasoQueda)
     Abre(f, s);
     optformaPp_Click(f, s, 4);
     EXPECT_EQ(s.Pasos.PasoPp, 30);
-    EXPECT_EQ(f.cmbPasoPp.texto, "30");
+    EXPECT_EQ(f.cmbPasoPp, "30");
     // The step that a storm tells is taken, 0 too.
     PonTormenta("Velmir_pt.vlm", "Llovizna", 1, 0, "8\r\n");
     optformaPp_Click(f, s, 4);
@@ -484,7 +483,7 @@ TEST_F(DialogoPp, AlVolverDeOtraFormaLosTresCamposQuedan)
     Abre(f, s);
     f.txtPp = "12";
     f.txtDur = "200";
-    f.cmbRec.texto = "25";
+    f.cmbRec = "25";
     f.Estado("txtPp").habilitado = true;
     AlVolver(f, s);
     EXPECT_EQ(Campos(), (Textos{"12", "200", "25"}));
@@ -498,7 +497,7 @@ TEST_F(DialogoPp, AlVolverSinTormentaRealElegidaLosTresCamposQuedan)
     optformaPp_Click(f, s, 4);
     f.txtPp = "12";
     f.txtDur = "200";
-    f.cmbRec.texto = "25";
+    f.cmbRec = "25";
     AlVolver(f, s);
     EXPECT_EQ(Campos(), (Textos{"12", "200", "25"}));
 }
@@ -562,7 +561,7 @@ TEST_F(DialogoPp, DejarLaFormaRealAvisaSoloConLasPersonales2Y3)
 
 TEST_F(DialogoPp, LasTresTormentasDeMuestraPonen1440Minutos)
 {
-    for (std::size_t i = 0; i < DistribucionesPp.size(); ++i) {
+    for (int i = 0; i < static_cast<int>(DistribucionesPp.size()); ++i) {
         Abre(f, s);
         f.txtDur = "77";
         optDistriPp_Click(f, s, i);
@@ -577,11 +576,11 @@ TEST_F(DialogoPp, AplicarTomaTormentaDistribucionYPasosRedondeados)
 {
     Abre(f, s);
     f.txtPp = "12.25";
-    f.txtDur = "62.5";       // a tie goes to the even minute
-    f.cmbRec.texto = "7.5";  // and here to 8
-    f.cmbPasoPp.texto = "15.5";
-    f.cmbPasoQ.texto = "4.6";
-    f.optDistriPp = {false, true};
+    f.txtDur = "62.5";  // a tie goes to the even minute
+    f.cmbRec = "7.5";   // and here to 8
+    f.cmbPasoPp = "15.5";
+    f.cmbPasoQ = "4.6";
+    f.optDistriPp = 1;
     cmdAplicar(f, s);
     EXPECT_EQ(s.Tormenta.PpTormenta, 12.25F);
     EXPECT_EQ(s.Tormenta.DurTormenta, 62);
@@ -602,9 +601,9 @@ TEST_F(DialogoPp, AplicarConLluvia0CierraTrasElMensajeConLosPasosDeAntes)
         AbreConTormenta(50, 60, 5);
         anfitrion->sucesos.clear();
         (sinLluvia ? f.txtPp : f.txtDur) = "0";
-        f.cmbPasoPp.texto = "30";
-        f.cmbPasoQ.texto = "30";
-        f.optDistriPp = {false, true};
+        f.cmbPasoPp = "30";
+        f.cmbPasoQ = "30";
+        f.optDistriPp = 1;
         OKButton(f, s);
         EXPECT_EQ(Avisos(), (std::vector<Mensaje>{SinTormenta}));
         EXPECT_FALSE(f.abierta);
@@ -640,9 +639,9 @@ TEST_F(DialogoPp, UnaDuracionMenorQueElPasoLoVuelveLaDuracion)
     for (const auto& [dur, paso] : {std::pair{"29", "29"}, {"30", "30"}, {"31", "30"}}) {
         Abre(f, s);
         f.txtDur = dur;
-        f.cmbPasoPp.texto = "30";
+        f.cmbPasoPp = "30";
         cmdAplicar(f, s);
-        EXPECT_EQ(f.cmbPasoPp.texto, paso);
+        EXPECT_EQ(f.cmbPasoPp, paso);
         EXPECT_EQ(s.Pasos.PasoPp, std::stoi(paso));
     }
 }
@@ -650,11 +649,11 @@ TEST_F(DialogoPp, UnaDuracionMenorQueElPasoLoVuelveLaDuracion)
 TEST_F(DialogoPp, UnPasoEnCeroEsElPrimeroDeLaLista)
 {
     Abre(f, s);
-    f.cmbPasoPp.texto = "";
-    f.cmbPasoQ.texto = "x";
+    f.cmbPasoPp = "";
+    f.cmbPasoQ = "x";
     cmdAplicar(f, s);
-    EXPECT_EQ(f.cmbPasoPp.texto, "5");
-    EXPECT_EQ(f.cmbPasoQ.texto, "5");
+    EXPECT_EQ(f.cmbPasoPp, "5");
+    EXPECT_EQ(f.cmbPasoQ, "5");
     EXPECT_EQ(s.Pasos.PasoPp, 5);
     EXPECT_EQ(s.Pasos.PasoQ, 5);
 }
@@ -662,8 +661,8 @@ TEST_F(DialogoPp, UnPasoEnCeroEsElPrimeroDeLaLista)
 TEST_F(DialogoPp, AplicarNoComparaLosDosPasos)
 {
     Abre(f, s);
-    f.cmbPasoPp.texto = "20";  // changed after the output step was left
-    f.cmbPasoQ.texto = "30";
+    f.cmbPasoPp = "20";  // changed after the output step was left
+    f.cmbPasoQ = "30";
     cmdAplicar(f, s);
     EXPECT_EQ(s.Pasos.PasoPp, 20);
     EXPECT_EQ(s.Pasos.PasoQ, 30);
@@ -683,7 +682,7 @@ TEST_F(DialogoPp, AplicarUnaSerieLeeSuTablaYMuestraSuPrimeraTormenta)
     EXPECT_EQ(s.Tormenta.PpTormenta, 25);
     EXPECT_EQ(s.Tormenta.DurTormenta, 45);
     EXPECT_EQ(s.Tormenta.RecTormenta, 10);
-    f.optTablaPDR.fill(false);  // none: table 0
+    f.optTablaPDR = -1;  // none: table 0
     cmdAplicar(f, s);
     EXPECT_EQ(s.Tormenta.TablaPDR, 0);
     EXPECT_EQ(s.Serie.NroSeriePDR, 2);
@@ -717,13 +716,13 @@ TEST_F(DialogoPp, UnaRecurrenciaQueNoCabeSeDiceYElDialogoQueda)
 {
     s.Pasos.PasoPp = 20;
     Abre(f, s);
-    f.cmbRec.texto = "32768";
-    f.cmbPasoPp.texto = "30";
+    f.cmbRec = "32768";
+    f.cmbPasoPp = "30";
     OKButton(f, s);
     EXPECT_EQ(Avisos(), (std::vector<Mensaje>{Desbordamiento}));
     EXPECT_TRUE(f.abierta);
     EXPECT_EQ(s.Pasos.PasoPp, 20);
-    f.cmbRec.texto = "32767";
+    f.cmbRec = "32767";
     OKButton(f, s);
     EXPECT_EQ(s.Tormenta.RecTormenta, 32767);
     EXPECT_FALSE(f.abierta);
@@ -735,7 +734,7 @@ TEST_F(DialogoPp, SinAplicarEstaLoQueNiSeMostroNiSeUsa)
     s.Pasos.PasoQ = 10;
     AbreConTormenta(60, 60, 10);  // the list's last storm, 80 mm, comes into use: what is shown stays shown
     EXPECT_FALSE(SinAplicar(f, s));
-    for (std::string* campo : {&f.txtPp, &f.txtDur, &f.cmbRec.texto, &f.cmbPasoPp.texto, &f.cmbPasoQ.texto}) {
+    for (std::string* campo : {&f.txtPp, &f.txtDur, &f.cmbRec, &f.cmbPasoPp, &f.cmbPasoQ}) {
         const std::string antes = std::exchange(*campo, "15");
         EXPECT_TRUE(SinAplicar(f, s));
         *campo = "99999999999";
@@ -743,10 +742,10 @@ TEST_F(DialogoPp, SinAplicarEstaLoQueNiSeMostroNiSeUsa)
         *campo = antes;
         EXPECT_FALSE(SinAplicar(f, s));
     }
-    f.cmbRec.texto = "25";
+    f.cmbRec = "25";
     cmdAplicar(f, s);
     EXPECT_FALSE(SinAplicar(f, s));
-    f.cmbRec.texto = "10";  // as it opened, and no longer in use
+    f.cmbRec = "10";  // as it opened, and no longer in use
     EXPECT_TRUE(SinAplicar(f, s));
     CancelButton(f);
     EXPECT_FALSE(SinAplicar(f, s));
@@ -783,8 +782,8 @@ TEST_F(DialogoPp, CancelarDejaLaFormaElegidaYLoDemasComoSeAplico)
     Abre(f, s);
     optformaPp_Click(f, s, 2);
     optTablaPDR_Click(f, 1);
-    f.cmbPasoPp.texto = "60";
-    f.cmbPasoQ.texto = "60";
+    f.cmbPasoPp = "60";
+    f.cmbPasoQ = "60";
     CancelButton(f);
     EXPECT_FALSE(f.abierta);
     EXPECT_EQ(s.Tormenta.FormaPp, 2);
@@ -823,7 +822,7 @@ TEST_F(DialogoPp, LaLluviaVaDe0A999)
         Abre(f, s);
         anfitrion->sucesos.clear();
         f.txtPp = caso.escrito;
-        EXPECT_EQ(txtPp_AlSalir(f, s), caso.pasa) << caso.escrito;
+        EXPECT_EQ(AlSalir(f, s, "txtPp"), caso.pasa) << caso.escrito;
         EXPECT_EQ(f.txtPp, caso.queda);
         if (caso.pasa) {
             EXPECT_EQ(s.Tormenta.PpTormenta, static_cast<float>(caso.valor)) << caso.escrito;
@@ -853,7 +852,7 @@ TEST_F(DialogoPp, LaDuracionVaDe0A14400YUnaRechazadaVuelveA1440)
         Abre(f, s);
         anfitrion->sucesos.clear();
         f.txtDur = caso.escrito;
-        EXPECT_EQ(txtDur_AlSalir(f, s), caso.pasa) << caso.escrito;
+        EXPECT_EQ(AlSalir(f, s, "txtDur"), caso.pasa) << caso.escrito;
         EXPECT_EQ(f.txtDur, caso.queda);
         if (caso.pasa) {
             EXPECT_EQ(s.Tormenta.DurTormenta, static_cast<std::int16_t>(caso.valor)) << caso.escrito;
@@ -868,9 +867,9 @@ TEST_F(DialogoPp, UnCampoCorregidoSueltaElFoco)
 {
     Abre(f, s);
     f.txtPp = "1000";
-    ASSERT_FALSE(txtPp_AlSalir(f, s));
+    ASSERT_FALSE(AlSalir(f, s, "txtPp"));
     f.txtPp = "100";
-    EXPECT_TRUE(txtPp_AlSalir(f, s));
+    EXPECT_TRUE(AlSalir(f, s, "txtPp"));
 }
 
 TEST_F(DialogoPp, ElPasoPpMayorQueLaDuracionNoSeDeja)
@@ -894,11 +893,11 @@ TEST_F(DialogoPp, ElPasoPpMayorQueLaDuracionNoSeDeja)
                              {"5", "0", false}}) {
         Abre(f, s);
         anfitrion->sucesos.clear();
-        f.cmbPasoPp.texto = caso.paso;
+        f.cmbPasoPp = caso.paso;
         f.txtDur = caso.dur;
-        EXPECT_EQ(cmbPasoPp_AlSalir(f, s), caso.pasa) << caso.paso << ' ' << caso.dur;
+        EXPECT_EQ(AlSalir(f, s, "cmbPasoPp"), caso.pasa) << caso.paso << ' ' << caso.dur;
         EXPECT_EQ(Avisos(), caso.pasa ? std::vector<Mensaje>{} : std::vector<Mensaje>{mensaje});
-        EXPECT_EQ(f.cmbPasoPp.texto, caso.paso);
+        EXPECT_EQ(f.cmbPasoPp, caso.paso);
     }
 }
 
@@ -926,9 +925,9 @@ TEST_F(DialogoPp, UnPasoQQueNoCabeEnElPasoPpSeReemplazaYElFocoSigue)
         s.Pasos.PasoQ = 10;
         Abre(f, s);
         anfitrion->sucesos.clear();
-        f.cmbPasoQ.texto = caso.pasoQ;
-        EXPECT_TRUE(cmbPasoQ_AlSalir(f, s));
-        EXPECT_EQ(f.cmbPasoQ.texto, caso.cabe ? caso.pasoQ : "30") << caso.pasoQ;
+        f.cmbPasoQ = caso.pasoQ;
+        EXPECT_TRUE(AlSalir(f, s, "cmbPasoQ"));
+        EXPECT_EQ(f.cmbPasoQ, caso.cabe ? caso.pasoQ : "30") << caso.pasoQ;
         EXPECT_EQ(s.Pasos.PasoQ, caso.cabe ? 10 : 30) << caso.pasoQ;
         EXPECT_EQ(Avisos(), caso.cabe ? std::vector<Mensaje>{} : std::vector<Mensaje>{mensaje}) << caso.pasoQ;
     }
@@ -937,22 +936,22 @@ TEST_F(DialogoPp, UnPasoQQueNoCabeEnElPasoPpSeReemplazaYElFocoSigue)
 TEST_F(DialogoPp, SinPasoPpNingunPasoQCabe)
 {
     Abre(f, s);
-    f.cmbPasoPp.texto = "";
-    f.cmbPasoQ.texto = "10";  // 0/10 is whole, but 10 is above 0
-    EXPECT_TRUE(cmbPasoQ_AlSalir(f, s));
+    f.cmbPasoPp = "";
+    f.cmbPasoQ = "10";  // 0/10 is whole, but 10 is above 0
+    EXPECT_TRUE(AlSalir(f, s, "cmbPasoQ"));
     EXPECT_EQ(Avisos().size(), 1U);
-    EXPECT_EQ(f.cmbPasoQ.texto, "");
+    EXPECT_EQ(f.cmbPasoQ, "");
 }
 
 TEST_F(DialogoPp, UnPasoQMayorNoSePuedeDejarPeroUnPasoPpCambiadoDespuesSi)
 {
     s.Pasos.PasoPp = 30;
     Abre(f, s);
-    f.cmbPasoQ.texto = "60";
-    cmbPasoQ_AlSalir(f, s);
-    ASSERT_EQ(f.cmbPasoQ.texto, "30");
-    f.cmbPasoPp.texto = "10";  // afterwards; nothing looks at the output step any more
-    EXPECT_TRUE(cmbPasoPp_AlSalir(f, s));
+    f.cmbPasoQ = "60";
+    AlSalir(f, s, "cmbPasoQ");
+    ASSERT_EQ(f.cmbPasoQ, "30");
+    f.cmbPasoPp = "10";  // afterwards; nothing looks at the output step any more
+    EXPECT_TRUE(AlSalir(f, s, "cmbPasoPp"));
     cmdAplicar(f, s);
     EXPECT_EQ(s.Pasos.PasoPp, 10);
     EXPECT_EQ(s.Pasos.PasoQ, 30);  // a run lowers it
@@ -1000,7 +999,7 @@ TEST_F(DialogoPp, AgregarUnaTormentaLaGuardaYLaElige)
     Abre(f, s);
     f.txtPp = "45.5";
     f.txtDur = "90";
-    f.cmbRec.texto = "10";
+    f.cmbRec = "10";
     cmdPDR(f, s);
     ASSERT_EQ(f.cmbPDR.items.size(), 3U);
     EXPECT_EQ(f.cmbPDR.items[2], "Pp= 45.5 - Dur = 90 - Rec = 10");
@@ -1043,7 +1042,7 @@ TEST_F(DialogoPp, VerElGraficoPideElHietogramaDeLoAplicado)
     Abre(f, s);
     f.txtPp = "100";
     f.txtDur = "180";
-    f.cmbPasoPp.texto = "60";
+    f.cmbPasoPp = "60";
     optDistriPp_Click(f, s, 1);  // 3 h: 20, 60, 20 %
     const auto pedido = cmdVerGrafico(f, s);
     ASSERT_TRUE(pedido);

@@ -253,7 +253,7 @@ TEST_F(VentanaPp, LoTecleadoEnUnaListaNoSeCompletaSolo)
     Abre();
     Escribe(C<QComboBox>("cmbPasoQ"), "1");
     EXPECT_EQ(TextoLista("cmbPasoQ"), "1");
-    EXPECT_EQ(f.cmbPasoQ.texto, "1");
+    EXPECT_EQ(f.cmbPasoQ, "1");
 }
 
 // --- commands ---

@@ -132,24 +132,23 @@ TEST_F(DialogoPpUEHs, LosDosCamposSonEnterosConLimitesQueElMensajeNoDice)
     Abre();
     for (const char* bueno : {"0", "1441", "2880"}) {
         f.txtDPpUEHs = bueno;
-        EXPECT_TRUE(txtDPpUEHs_AlSalir(f, s)) << bueno;
+        EXPECT_TRUE(AlSalir(f, s, "txtDPpUEHs")) << bueno;
     }
     for (const char* bueno : {"0", "2881", "10000"}) {
         f.txtRPpUEHs = bueno;
-        EXPECT_TRUE(txtRPpUEHs_AlSalir(f, s)) << bueno;
+        EXPECT_TRUE(AlSalir(f, s, "txtRPpUEHs")) << bueno;
     }
     EXPECT_TRUE(Avisos().empty());
     for (const char* malo : {"-1", "2881", "1.5", "", "x"}) {
         anfitrion->sucesos.clear();
         f.txtDPpUEHs = malo;
-        EXPECT_FALSE(txtDPpUEHs_AlSalir(f, s)) << malo;
+        EXPECT_FALSE(AlSalir(f, s, "txtDPpUEHs")) << malo;
         EXPECT_EQ(Avisos(), std::vector<Mensaje>{EnteroMalo}) << malo;
-        EXPECT_EQ(f.foco, (forms::Foco{"txtDPpUEHs", true}));
     }
     for (const char* malo : {"-1", "10001", "2.5"}) {
         anfitrion->sucesos.clear();
         f.txtRPpUEHs = malo;
-        EXPECT_FALSE(txtRPpUEHs_AlSalir(f, s)) << malo;
+        EXPECT_FALSE(AlSalir(f, s, "txtRPpUEHs")) << malo;
         EXPECT_EQ(Avisos(), std::vector<Mensaje>{EnteroMalo}) << malo;
     }
 }
@@ -158,10 +157,10 @@ TEST_F(DialogoPpUEHs, UnTextoDeMasDeCincoCaracteresSeCorta)
 {
     Abre();
     f.txtDPpUEHs = "001201";
-    EXPECT_TRUE(txtDPpUEHs_AlSalir(f, s));
+    EXPECT_TRUE(AlSalir(f, s, "txtDPpUEHs"));
     EXPECT_EQ(f.txtDPpUEHs, "00120");
     f.txtRPpUEHs = "100000";
-    EXPECT_TRUE(txtRPpUEHs_AlSalir(f, s));
+    EXPECT_TRUE(AlSalir(f, s, "txtRPpUEHs"));
     EXPECT_EQ(f.txtRPpUEHs, "10000");
 }
 
@@ -193,7 +192,7 @@ TEST_F(DialogoPpUEHs, AplicarLlevaLaPrimeraLaminaMayorQueCero)
     EXPECT_EQ(s.Tormenta.RecTormenta, 25);
     EXPECT_EQ(pp.txtPp, "35.5");
     EXPECT_EQ(pp.txtDur, "90");
-    EXPECT_EQ(pp.cmbRec.texto, "25");
+    EXPECT_EQ(pp.cmbRec, "25");
     EXPECT_FALSE(pp.Habilitado("txtPp"));
     EXPECT_FALSE(pp.Habilitado("txtDur"));
     EXPECT_TRUE(f.abierta);
@@ -224,7 +223,7 @@ TEST_F(DialogoPpUEHs, SinDuracionNiRecurrenciaSeAvisaYSeSigue)
     EXPECT_EQ(s.Tormenta.DurTormenta, 0);
     EXPECT_EQ(s.Tormenta.RecTormenta, 0);
     EXPECT_EQ(pp.txtDur, "0");
-    EXPECT_EQ(pp.cmbRec.texto, "0");
+    EXPECT_EQ(pp.cmbRec, "0");
 }
 
 TEST_F(DialogoPpUEHs, LaPrimeraCeldaSinNumeroTieneElCursorYNadaSeToma)
@@ -310,10 +309,10 @@ TEST_F(DialogoPpUEHs, UnaDuracionRechazadaNoSobreviveAlCancelar)
     Abre();
     f.txtDPpUEHs = "240";
     f.txtRPpUEHs = "50";
-    EXPECT_TRUE(txtDPpUEHs_AlSalir(f, s));
-    EXPECT_TRUE(txtRPpUEHs_AlSalir(f, s));
+    EXPECT_TRUE(AlSalir(f, s, "txtDPpUEHs"));
+    EXPECT_TRUE(AlSalir(f, s, "txtRPpUEHs"));
     f.txtDPpUEHs = "2881";
-    EXPECT_FALSE(txtDPpUEHs_AlSalir(f, s));
+    EXPECT_FALSE(AlSalir(f, s, "txtDPpUEHs"));
     f.txtRPpUEHs = "x";
     CancelButton(f);
     Abre();

@@ -38,7 +38,7 @@ class DialogoTablasPDRs : public testing::Test {
         s.Tormenta.FormaPp = 2;
         rainfall::Abre(pp, s);
     }
-    void Abre(std::size_t tabla)
+    void Abre(int tabla)
     {
         optTablaPDR_Click(pp, tabla);
         rainfall::Abre(f, pp, s);
@@ -144,8 +144,7 @@ TEST_F(DialogoTablasPDRs, OtraTablaMarcaSuOpcionEnDlgPp)
     Abre(1);
     f.cmbNroTablaPDRs.indice = 0;
     cmbNroTablaPDRs_Click(f, pp, s);
-    EXPECT_TRUE(pp.optTablaPDR[0]);
-    EXPECT_FALSE(pp.optTablaPDR[1]);
+    EXPECT_EQ(pp.optTablaPDR, 0);
     EXPECT_FALSE(f.editable);
     EXPECT_EQ(f.txtNotas, "t0");
     EXPECT_EQ(G().NroFilas(), 2);
@@ -198,7 +197,7 @@ TEST_F(DialogoTablasPDRs, AplicarLaTablaCeroCargaLaSerieYNoEscribe)
     EXPECT_EQ(s.Serie.SerieR(2), 5);
     EXPECT_EQ(pp.txtPp, "30");
     EXPECT_EQ(pp.txtDur, "60");
-    EXPECT_EQ(pp.cmbRec.texto, "2");
+    EXPECT_EQ(pp.cmbRec, "2");
     EXPECT_EQ(s.Tormenta.PpTormenta, 30.0F);
     EXPECT_EQ(s.Tormenta.DurTormenta, 60);
     EXPECT_EQ(s.Tormenta.RecTormenta, 2);
@@ -214,7 +213,6 @@ TEST_F(DialogoTablasPDRs, ElNumeroDeTormentasEsEnteroDe0A999)
         f.txtNroPDRs = malo;
         EXPECT_FALSE(txtNroPDRs_AlSalir(f, s)) << malo;
         EXPECT_EQ(Avisos(), std::vector<Mensaje>{NroMalo}) << malo;
-        EXPECT_EQ(f.foco.control, "txtNroPDRs");
         EXPECT_EQ(s.TablasDeLluvia.NroFilasTabla[1], 1);
     }
     anfitrion->sucesos.clear();
@@ -410,7 +408,7 @@ TEST_F(DialogoTablasPDRs, CerrarCierraTambienConErrorYCancelarNoEscribe)
 
 TEST_F(DialogoTablasPDRs, SinAplicarEstaLoQueElArchivoNoTiene)
 {
-    for (const std::size_t tabla : {0U, 1U, 2U, 3U}) {
+    for (const int tabla : {0, 1, 2, 3}) {
         Abre(tabla);
         EXPECT_FALSE(SinAplicar(f, s));
     }

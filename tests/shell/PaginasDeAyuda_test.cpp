@@ -3,6 +3,7 @@
 
 #include <fstream>
 #include <iterator>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -72,11 +73,13 @@ TEST(PaginasDeAyuda, LosLimitesDeLosCamposSonLosDelPrograma)
     for (const auto& campo : editor::CamposDlgCauceEditProp)
         DiceLimites(cauce, campo.regla);
     const std::string lluvia = Pagina("dlgPp");
-    for (const rainfall::CampoPp& campo : rainfall::CamposPp)
+    for (const rainfall::CampoPp& campo : std::span(rainfall::CamposDeTormenta).first(2))
         DiceLimites(lluvia, {.maximo = campo.regla.maximo});
     const std::string configuracion = Pagina("frmConfigura");
-    for (const CampoRechazado& campo : CamposRechazados)
+    for (const CampoConfigura& campo : CamposConfigura) {
+        if (campo.regla.rechazo == forms::Rechazo::Recorta) continue;
         DiceLimites(configuracion, {.minimo = campo.regla.minimo, .maximo = campo.regla.maximo});
+    }
 }
 
 TEST(PaginasDeAyuda, LasColumnasEditablesYSusLimitesSonLosDeLasGrillas)

@@ -56,7 +56,7 @@ class Configura : public testing::Test {
     bool Deja(const char* control, std::string model::ControlesConfigura::*texto, const char* valor)
     {
         s.frmConfigura.*texto = valor;
-        return AlSalir(f, s, control);
+        return AlSalir(s, control);
     }
     void PulsaArchivo(const std::string& nombre)
     {
@@ -638,7 +638,6 @@ TEST_F(Configura, LaEscalaVaDe0A50000YSuMensajeHablaDeOtrosLimites)
         EXPECT_EQ(s.Configuracion.EscalaDibujo, caso.escala) << caso.tecleado;
         EXPECT_EQ(Avisos(), caso.pasa ? std::vector<Mensaje>{} : std::vector<Mensaje>{EntreDiezYTreintaMil})
             << caso.tecleado;
-        EXPECT_EQ(f.foco, caso.pasa ? forms::Foco{} : (forms::Foco{"txtEscalaImagen", true}));
     }
     EXPECT_EQ(s.frmConfigura.txtEscalaImagen, "12x");
 }
@@ -668,14 +667,14 @@ TEST_F(Configura, ElAnchoDelDibujoNoPasaDe1024AlCambiarNiAlSalir)
 {
     for (const char* tecleado : {"1025", "10245", "1024.5"}) {
         s.frmConfigura.txtMaxUEHsPixel = tecleado;
-        txtMaxUEHsPixel_Change(f, s);
+        AlSalir(s, "txtMaxUEHsPixel");
         EXPECT_EQ(s.frmConfigura.txtMaxUEHsPixel, "1024") << tecleado;
         EXPECT_TRUE(Deja("txtMaxUEHsPixel", &C::txtMaxUEHsPixel, tecleado));
         EXPECT_EQ(s.frmConfigura.txtMaxUEHsPixel, "1024") << tecleado;
     }
     for (const char* tecleado : {"1024", "700", "", "x"}) {
         s.frmConfigura.txtMaxUEHsPixel = tecleado;
-        txtMaxUEHsPixel_Change(f, s);
+        AlSalir(s, "txtMaxUEHsPixel");
         EXPECT_EQ(s.frmConfigura.txtMaxUEHsPixel, tecleado);
     }
     EXPECT_EQ(s.Configuracion.MaxUEHsPixel, "800");
@@ -684,7 +683,7 @@ TEST_F(Configura, ElAnchoDelDibujoNoPasaDe1024AlCambiarNiAlSalir)
 
 TEST_F(Configura, UnControlSinReglaSeDejaSinMas)
 {
-    EXPECT_TRUE(AlSalir(f, s, "TextProyecto"));
+    EXPECT_TRUE(AlSalir(s, "TextProyecto"));
 }
 
 TEST_F(Configura, ElDobleClicPoneLaFechaDeHoy)

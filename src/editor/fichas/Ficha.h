@@ -146,7 +146,7 @@ bool ArreglaNombre(Forma& f, const model::Siro& s)
     for (const T& componente : model::Todos<T>(s.Red)) {
         if (++numero == Elegido<T>(s.Seleccion) || model::Nombre(componente) != texto) continue;
         texto = NombreInvalido;
-        forms::Retiene(f, Forma::Reglas.controlNombre);
+        f.foco = {Forma::Reglas.controlNombre, true};
         return false;
     }
     return true;

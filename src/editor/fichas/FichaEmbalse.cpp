@@ -57,12 +57,10 @@ bool SaleDeHInicialEmb(FichaEmbalse& f, const model::Siro& s, AlturasTabla altur
     const auto altura = static_cast<float>(x.value_or(0));
     if (x && (*x == 0 || (std::isfinite(altura) && forms::Cabe(regla, double{altura})))) {
         f.txtHInicialEmb = model::ComasAPuntos(f.txtHInicialEmb);
-        f.foco = {};
         return true;
     }
-    forms::MuestraRechazo(s, regla.caja, MensajeHInicialEmb(alturas));
+    forms::MuestraRechazo(s, regla.rechazo, MensajeHInicialEmb(alturas));
     f.txtHInicialEmb = regla.alRechazar;
-    forms::Retiene(f, regla.control);
     return false;
 }
 

@@ -33,7 +33,7 @@ inline constexpr std::string_view RotuloK = "k[min]=";
 
 /// Limits and message are those of the moment, from the table of the component.
 inline constexpr forms::ReglaNumero ReglaHInicialEmb{
-    .control = "txtHInicialEmb", .unidad = "m", .caja = forms::CajaRechazo::Llana, .alRechazar = "0"};
+    .control = "txtHInicialEmb", .unidad = "m", .rechazo = forms::Rechazo::Llana, .alRechazar = "0"};
 
 /// Controls of the same name in both forms.
 struct FichaEmbalse : Ficha {

@@ -60,7 +60,7 @@ struct dlgCauceEditProp : Ficha {
 
 // clang-format off
 inline constexpr auto CamposDlgCauceEditProp =
-    std::to_array<forms::CampoNumerico<dlgCauceEditProp, model::Cauce>>({
+    std::to_array<forms::CampoNumerico<dlgCauceEditProp, float model::Cauce::*>>({
     {{.control = "txtCauce_k_Musk", .unidad = "min", .maximo = 9999,
       .mensaje = "Ingrese un valor numérico, entero o decimal, entre 0 y 9999"},
      &dlgCauceEditProp::txtCauce_k_Musk, &model::Cauce::Cauce_k_Musk},

@@ -55,9 +55,9 @@ struct dlgLago : FichaEmbalse {
 };
 
 // clang-format off
-inline constexpr auto CamposDlgLago = std::to_array<forms::CampoNumerico<dlgLago, model::Lago>>({
+inline constexpr auto CamposDlgLago = std::to_array<forms::CampoNumerico<dlgLago, float model::Lago::*>>({
     {{.control = "txtLago_k", .unidad = "min", .maximo = MaximoK, .mensaje = MensajeK,
-      .caja = forms::CajaRechazo::Llana},
+      .rechazo = forms::Rechazo::Llana},
      &dlgLago::txtLago_k, &model::Lago::Lago_k_Musk},
 });
 // clang-format on

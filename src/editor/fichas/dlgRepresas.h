@@ -75,13 +75,13 @@ struct dlgRepresas : FichaEmbalse {
 };
 
 // clang-format off
-inline constexpr auto CamposDlgRepresas = std::to_array<forms::CampoNumerico<dlgRepresas, model::Represa>>({
+inline constexpr auto CamposDlgRepresas = std::to_array<forms::CampoNumerico<dlgRepresas, float model::Represa::*>>({
     {{.control = "txtRepresa_k", .unidad = "min", .maximo = MaximoK, .mensaje = MensajeK,
-      .caja = forms::CajaRechazo::Llana},
+      .rechazo = forms::Rechazo::Llana},
      &dlgRepresas::txtRepresa_k, &model::Represa::Represa_k_Musk},
     {{.control = "txtRepresa_n", .maximo = 0.5,
       .mensaje = "Ingrese un valor numérico decimal entre 0 y 0,5 (0 y 0.5, para separador de punto)",
-      .caja = forms::CajaRechazo::Llana},
+      .rechazo = forms::Rechazo::Llana},
      &dlgRepresas::txtRepresa_n, &model::Represa::Represa_n_Musk},
 });
 

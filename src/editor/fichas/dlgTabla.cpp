@@ -23,11 +23,7 @@ namespace {
 constexpr int ColumnaIndice = 0;
 constexpr int PrimeraColumna = 1;
 
-constexpr forms::ReglaNumero ReglaNroFilas{.control = "txtNroFilas",
-                                           .maximo = MaxFilasTabla,
-                                           .mensaje = "Ingrese un valor numérico entero entre 0 y 999 ",
-                                           .clase = forms::ClaseNumero::Entero,
-                                           .caja = forms::CajaRechazo::Llana};
+constexpr forms::ReglaNumero ReglaNroFilas = forms::ReglaDeCuenta("txtNroFilas");
 
 constexpr std::string_view Recordatorio =  // kept as it stands
     "Asegurar los cambios producidos pulsando <Guardar> desde el formulario gráfico de de UEHs. De lo "
@@ -212,8 +208,8 @@ void Abre(dlgTabla& f, Siro& s, TipoTabla tipo, std::string lblNro, std::string 
 void txtNroFilas_Change(dlgTabla& f, const Siro& s, std::string texto)
 {
     if (!forms::Vale(ReglaNroFilas, texto)) {
-        forms::MuestraRechazo(s, ReglaNroFilas.caja, std::string(ReglaNroFilas.mensaje));
-        forms::Retiene(f, ReglaNroFilas.control);
+        forms::MuestraRechazo(s, ReglaNroFilas.rechazo, ReglaNroFilas.mensaje);
+        f.foco = {ReglaNroFilas.control, true};
         return;
     }
     f.foco = {};

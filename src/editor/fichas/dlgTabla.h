@@ -55,7 +55,6 @@ struct DescripcionTabla {
 
 const DescripcionTabla& DescripcionDe(TipoTabla tipo);
 
-inline constexpr std::int16_t MaxFilasTabla = 999;
 inline constexpr std::string_view LeyendaAplicarTabla = "&Aplicar";
 inline constexpr std::string_view LeyendaBorrarTabla = "Borrar Tabla";
 

@@ -76,7 +76,7 @@ struct dlgUEH2 : Ficha {
 };
 
 // clang-format off
-inline constexpr auto CamposDlgUEH2 = std::to_array<forms::CampoNumerico<dlgUEH2, model::UEH>>({
+inline constexpr auto CamposDlgUEH2 = std::to_array<forms::CampoNumerico<dlgUEH2, float model::UEH::*>>({
     {{.control = "txtArea", .unidad = "has", .maximo = 99999,
       .mensaje = "Ingrese un valor numérico entero o decimal menor de 99999"},
      &dlgUEH2::txtArea, &model::UEH::Area},

@@ -142,7 +142,6 @@ void VerificaLimite(Forma& f, model::Siro& s, apoyo::AnfitrionPrueba& anfitrion,
         f.*texto = valor;
         EXPECT_FALSE(AlSalir(f, s, caso.control)) << valor;
         EXPECT_EQ(anfitrion->Avisos(), (Cajas{{caso.mensaje, "", icono}})) << valor;
-        EXPECT_EQ(f.foco, (forms::Foco{caso.control, true})) << valor;
         EXPECT_EQ(f.*texto, valor);
     }
     anfitrion->sucesos.clear();

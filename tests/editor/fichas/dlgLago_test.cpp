@@ -195,7 +195,6 @@ TEST_F(FormaLago, LaAlturaInicialEsCeroOEstaEntreLosExtremosDeLaTabla)
         EXPECT_FALSE(PonAltura(texto)) << texto;
         EXPECT_EQ(Avisos(), caja) << texto;
         EXPECT_EQ(f.txtHInicialEmb, "0") << texto;
-        EXPECT_EQ(f.foco, (forms::Foco{"txtHInicialEmb", true})) << texto;
     }
 }
 

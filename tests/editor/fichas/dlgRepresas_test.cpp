@@ -322,7 +322,6 @@ TEST_F(FormaRepresa, LaAlturaInicialEsCeroOEstaEntreLosExtremosDeLaTabla)
         EXPECT_FALSE(PonAltura(texto)) << texto;
         EXPECT_EQ(Avisos(), caja) << texto;
         EXPECT_EQ(f.txtHInicialEmb, "0") << texto;
-        EXPECT_EQ(f.foco, (forms::Foco{"txtHInicialEmb", true})) << texto;
     }
 }
 
