@@ -8,17 +8,13 @@
 #include <vector>
 
 #include "editor/Dibujo.h"
+#include "forms/Lista.h"
 #include "model/Clases.h"
 
 // Where a component may drain to, as the lists of the forms offer it.
 namespace editor {
 
-/// A list from which an item is picked.
-struct Lista {
-    std::vector<std::string> items{};
-    int indice = -1;  ///< item selected, from 0; -1: none
-    bool operator==(const Lista&) const = default;
-};
+using forms::Lista;
 
 inline constexpr std::string_view EntradaNinguno = "Ninguno";
 

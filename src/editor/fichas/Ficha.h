@@ -54,7 +54,7 @@ struct ReglasFicha {
     Lista Forma::*listaDestinos;  ///< where the component in hand may drain to
     std::string Forma::*lblNumero;
     std::string Forma::*lblNombre;
-    std::span<const forms::CampoNumerico<Forma, Registro>> campos;
+    std::span<const forms::CampoNumerico<Forma, float Registro::*>> campos;
 };
 
 /// A form's record: it has its `Reglas`, and two routines of its own, `MuestraCampos` and `GuardaCampos`,
