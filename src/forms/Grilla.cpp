@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "forms/CampoNumerico.h"
-#include "forms/ReglasDeCelda.h"
 #include "model/Avisos.h"
 #include "model/Falla.h"
 #include "model/Numeros.h"
@@ -48,6 +47,12 @@ bool Grilla::EsNumero(Celda c) const
     return NumeroDeCampo(Texto(c)).has_value();
 }
 
+bool Grilla::SePuedeEditar(Celda c) const
+{
+    return Esta(c) && columnas[static_cast<std::size_t>(c.columna)].editable &&
+           !filas[static_cast<std::size_t>(c.fila) - 1].esTitulo;
+}
+
 void Grilla::Pon(Celda c, std::string texto)
 {
     if (!Esta(c)) throw model::Falla{model::NumeroFalla::Subindice};
@@ -74,9 +79,9 @@ Grilla NuevaGrilla(const ReglasGrilla& reglas)
     Grilla g;
     g.reglas = &reglas;
     g.columnas = ColumnasDeEncabezado(reglas.encabezado);
-    for (const int columna : reglas.editables)
-        PonEditable(g, columna, true);
-    const int primera = reglas.editables.empty() ? reglas.columnasFijas : reglas.editables.front();
+    for (const ColumnaEditable& editable : reglas.editables)
+        PonEditable(g, editable.columna, true);
+    const int primera = reglas.editables.empty() ? reglas.columnasFijas : reglas.editables.front().columna;
     g.actual = g.ancla = {1, primera};
     return g;
 }
@@ -104,7 +109,7 @@ void VaciaDatos(Grilla& g)
     PasoEdicion paso;
     for (int fila = 1; fila <= g.NroFilas(); ++fila)
         for (int columna = 0; columna < g.NroColumnas(); ++columna)
-            if (const Celda c{fila, columna}; SePuedeEditar(g, c)) {
+            if (const Celda c{fila, columna}; g.SePuedeEditar(c)) {
                 paso.push_back({c, g.Texto(c)});
                 g.Pon(c, {});
             }
@@ -152,7 +157,7 @@ namespace {
 
 Efecto TecleaEnter(Grilla& g)
 {
-    if (!SePuedeEditar(g, g.actual)) return {};
+    if (!g.SePuedeEditar(g.actual)) return {};
     Efecto efecto = Deja(g);  // a grid of one row is left and come to again
     const int siguiente = g.actual.fila < g.NroFilas() ? g.actual.fila + 1 : 1;
     Mueve(g, {siguiente, g.actual.columna});
@@ -162,7 +167,7 @@ Efecto TecleaEnter(Grilla& g)
 
 Efecto TecleaSuprimir(Grilla& g)
 {
-    if (SePuedeEditar(g, g.actual)) Cambia(g, {});
+    if (g.SePuedeEditar(g.actual)) Cambia(g, {});
     return {};
 }
 
@@ -226,7 +231,7 @@ void PonTecleado(Grilla& g, const Siro& s, std::string texto)
 {
     g.agrega = true;
     if (g.reglas->sinNumero == SinNumero::SeVacia && !NumeroDeCampo(texto)) texto.clear();
-    if (const LimiteColumna* limite = LimiteRoto(*g.reglas, g.actual.columna, texto)) {
+    if (const ColumnaEditable* limite = LimiteRoto(*g.reglas, g.actual.columna, texto)) {
         model::Advierte(s, std::string(limite->mensaje));
         texto = "0";
     }
@@ -237,14 +242,14 @@ void PonTecleado(Grilla& g, const Siro& s, std::string texto)
 
 void Escribe(Grilla& g, const Siro& s, std::string_view caracter)
 {
-    if (EsControl(caracter) || !SePuedeEditar(g, g.actual) || !TomaTodos(*g.reglas, caracter)) return;
+    if (EsControl(caracter) || !g.SePuedeEditar(g.actual) || !TomaTodos(*g.reglas, caracter)) return;
     std::string texto = g.agrega ? g.Texto(g.actual) : std::string{};
     PonTecleado(g, s, texto += model::ComasAPuntos(caracter));
 }
 
 void Retrocede(Grilla& g, const Siro& s)
 {
-    if (!SePuedeEditar(g, g.actual) || g.Texto(g.actual).empty()) return;
+    if (!g.SePuedeEditar(g.actual) || g.Texto(g.actual).empty()) return;
     const std::string& texto = g.Texto(g.actual);
     PonTecleado(g, s, model::PrimerosCaracteres(texto, model::CuentaCaracteres(texto) - 1));
 }

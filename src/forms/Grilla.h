@@ -2,11 +2,11 @@
 #pragma once
 
 #include <cstdint>
-#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "forms/ReglasGrilla.h"
 #include "model/Siro.h"
 
 // A grid of cells as every form of the program has it: cells hold text, keys build it, and a block goes to a
@@ -27,31 +27,6 @@ struct ColumnaGrilla {
     Alineacion alineacion = Alineacion::Izquierda;
     bool editable = false;  ///< white where it can be edited, grey otherwise
     bool operator==(const ColumnaGrilla&) const = default;
-};
-
-/// Numbers that a column takes at each key: from 0 to a limit, itself included.
-struct LimiteColumna {
-    int columna;
-    double maximo;
-    std::string_view mensaje;  ///< title "Advertencia !"; the cell is then set to "0"
-};
-
-/// What a key leaves in a cell whose text is no number.
-enum class SinNumero : std::uint8_t { SeVacia, Queda };
-
-/// What tells one grid from another.
-struct ReglasGrilla {
-    std::string_view
-        encabezado{};  ///< columns apart by "|"; "^" ahead of a title centres it, ">" puts it right
-    std::span<const int> editables{};  ///< columns that can be edited when the grid is made
-    int columnasFijas = 0;             ///< columns on the left that the cursor doesn't enter
-    SinNumero sinNumero = SinNumero::SeVacia;
-    bool enterPoneCero = true;  ///< the cell that Enter comes to becomes "0" where its text is no number
-    /// Whether a byte of a character's UTF-8 is taken as a key; nothing: all are.
-    bool (*tomaCaracter)(char) = nullptr;
-    std::span<const LimiteColumna> limites{};
-    /// Esc ends the typing in a cell, whose text stays, before it is the form's.
-    bool escDejaLaCelda = false;
 };
 
 struct FilaGrilla {
@@ -93,6 +68,8 @@ struct Grilla {
     [[nodiscard]] double Numero(Celda c) const;
     /// Whether the cell's text is wholly a number within 64-bit floats. Throws Falla 9.
     [[nodiscard]] bool EsNumero(Celda c) const;
+    /// Whether a cell is there and can be edited.
+    [[nodiscard]] bool SePuedeEditar(Celda c) const;
     void Pon(Celda c, std::string texto);  ///< as it stands, without any check. Throws Falla 9.
     bool operator==(const Grilla&) const = default;
 };
@@ -161,6 +138,9 @@ void Escribe(Grilla& g, const model::Siro& s, std::string_view caracter);
 
 /// Backspace: takes the last character off the cell's text, which is then checked as after a key.
 void Retrocede(Grilla& g, const model::Siro& s);
+
+/// Remembers what a step takes the place of; what was undone before can't be done again.
+void Anota(Grilla& g, PasoEdicion paso);
 
 /// Takes the last step of editing back, or does it again; the cursor goes there, and the cells are settled.
 Efecto Deshace(Grilla& g);

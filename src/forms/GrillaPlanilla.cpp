@@ -9,7 +9,6 @@
 
 #include "forms/Grilla.h"
 #include "forms/NumerosDeBloque.h"
-#include "forms/ReglasDeCelda.h"
 #include "model/Avisos.h"
 #include "model/Numeros.h"
 
@@ -75,11 +74,11 @@ std::optional<std::string> PorQueNoCabe(const Grilla& g, const Pedido& p, Lectur
 {
     if (p.celda.fila > g.NroFilas()) return std::string(FilaNoEsta);
     if (p.celda.columna >= g.NroColumnas()) return std::string(ColumnaNoEsta);
-    if (p.texto.empty() || !SePuedeEditar(g, p.celda)) return {};
+    if (p.texto.empty() || !g.SePuedeEditar(p.celda)) return {};
     const auto numero = LeeNumero(p.texto, lectura);
     if (EsElMismo(g, p) && numero.value_or(std::string(p.texto)) == p.texto) return {};
     if (!numero) return EntreComillas(p.texto, NoEsNumero);
-    if (const LimiteColumna* limite = LimiteRoto(*g.reglas, p.celda.columna, *numero))
+    if (const ColumnaEditable* limite = LimiteRoto(*g.reglas, p.celda.columna, *numero))
         return std::string(limite->mensaje);
     if (model::Val(*numero) < 0) return EntreComillas(p.texto, EsNegativo);
     return {};
@@ -151,7 +150,7 @@ std::vector<LecturaNumeros> LecturasDe(const Grilla& g, const std::vector<Pedido
 {
     if (origen == OrigenBloque::Propio) return {LecturaNumeros::SinMiles};
     for (const Pedido& p : pedidos)
-        if (SePuedeEditar(g, p.celda)) textos.push_back(p.texto);
+        if (g.SePuedeEditar(p.celda)) textos.push_back(p.texto);
     return LecturasPosibles(textos);
 }
 
@@ -160,7 +159,7 @@ std::vector<LecturaNumeros> LecturasDe(const Grilla& g, const std::vector<Pedido
 std::optional<LecturaNumeros> Acepta(const Grilla& g, const Siro& s, const std::vector<Pedido>& pedidos,
                                      OrigenBloque origen)
 {
-    const auto seEdita = [&](const Pedido& p) { return SePuedeEditar(g, p.celda); };
+    const auto seEdita = [&](const Pedido& p) { return g.SePuedeEditar(p.celda); };
     std::vector<std::string_view> textos;
     std::vector<LecturaNumeros> lecturas = LecturasDe(g, pedidos, origen, textos);
     if (Rechaza(g, s, pedidos, lecturas)) return {};
@@ -221,7 +220,7 @@ Efecto Pega(Grilla& g, const Siro& s, std::string_view bloque, OrigenBloque orig
     PasoEdicion paso;
     for (const Pedido& p : pedidos) {
         hasta = {std::max(hasta.fila, p.celda.fila), std::max(hasta.columna, p.celda.columna)};
-        if (!SePuedeEditar(g, p.celda)) continue;
+        if (!g.SePuedeEditar(p.celda)) continue;
         paso.push_back({p.celda, g.Texto(p.celda)});
         g.Pon(p.celda, LeeNumero(p.texto, *lectura).value_or(std::string(p.texto)));
         efecto.asentadas.push_back(p.celda);

@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "forms/CampoNumerico.h"
-#include "forms/ReglasDeCelda.h"
+#include "forms/ReglasGrilla.h"
 #include "model/Numeros.h"
 
 namespace forms {

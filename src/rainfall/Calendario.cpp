@@ -7,6 +7,8 @@
 #include <cstddef>
 
 #include "model/Falla.h"
+#include "model/Numeros.h"
+#include "model/Texto.h"
 
 namespace rainfall {
 namespace {
@@ -99,6 +101,28 @@ std::string TextoHora(Instante t)
     const auto delDia = static_cast<int>(DesdeElComienzo(t).count() % MinutosPorDia);
     return ConCeros(delDia / static_cast<int>(MinutosPorHora), CifrasDosLugares) + ':' +
            ConCeros(delDia % static_cast<int>(MinutosPorHora), CifrasDosLugares);
+}
+
+bool controlMiFecha(std::string& texto)
+{
+    constexpr std::size_t SinBarras = 8;
+    constexpr std::size_t Largo = 10;
+    if (model::CuentaCaracteres(texto) == SinBarras && texto.size() == SinBarras)
+        texto.insert(4, 1, '/').insert(2, 1, '/');
+    if (texto.empty() || texto == "0" || texto == "00/00/0000") texto = SinFecha;
+    if (texto == FechaBorrada) return false;
+    if (texto.size() != Largo || texto[2] != '/' || texto[5] != '/') return true;
+    const double anno = model::Val(std::string_view(texto).substr(6));
+    return anno < 100 || anno > 2099 || !FechaDeTexto(texto);
+}
+
+bool controlMiHora(std::string& texto)
+{
+    constexpr std::size_t SinDosPuntos = 4;
+    constexpr std::size_t Largo = 5;
+    if (texto.size() == SinDosPuntos) texto.insert(2, 1, ':');
+    if (texto.empty() || texto == "0" || texto == "00/00" || texto == "24:00") texto = SinHora;
+    return texto.size() != Largo || texto[2] != ':' || !HoraDeTexto(texto);
 }
 
 }  // namespace rainfall

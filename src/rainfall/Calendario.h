@@ -32,4 +32,14 @@ Instante InstanteDeTextos(std::string_view fecha, std::string_view hora);
 std::string TextoFecha(Instante t);
 std::string TextoHora(Instante t);
 
+// As the fields of a recorded storm hold them.
+inline constexpr std::string_view SinFecha = "01/01/1001";
+inline constexpr std::string_view FechaBorrada = "01/01/0001";
+inline constexpr std::string_view SinHora = "00:00";
+
+/// Returns true on a bad date. A date of eight digits gets its bars; no date is "01/01/1001".
+bool controlMiFecha(std::string& texto);
+/// Returns true on a bad time. A time of four digits gets its colon; no time is "00:00".
+bool controlMiHora(std::string& texto);
+
 }  // namespace rainfall

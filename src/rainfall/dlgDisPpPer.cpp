@@ -26,7 +26,7 @@ constexpr int NroTablas = 3;
 constexpr int ColumnaTiempo = 1;
 constexpr int ColumnaParcial = 2;
 constexpr int ColumnaAcumulada = 3;
-constexpr auto Editables = std::to_array<int>({ColumnaParcial});
+constexpr auto Editables = std::to_array<forms::ColumnaEditable>({{ColumnaParcial}});
 constexpr forms::ReglasGrilla ReglasTabla{
     .encabezado = "^Período  |> T acumulado[%]  |>P parcial[%]  |>P acumulada[%]  ",
     .editables = Editables,

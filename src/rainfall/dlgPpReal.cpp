@@ -26,15 +26,12 @@ constexpr int ColumnaFecha = 1;
 constexpr int ColumnaMinutos = 2;
 constexpr int ColumnaParcial = 3;
 constexpr int ColumnaAcumulada = 4;
-constexpr auto Editables = std::to_array<int>({ColumnaParcial});
+constexpr auto Editables = std::to_array<forms::ColumnaEditable>({{ColumnaParcial}});
 constexpr forms::ReglasGrilla ReglasTabla{
     .encabezado = "^Nro.  |^                    t [hs:min]  |^  t [min] |^Pp Parcial |^Pp Acumulada ",
     .editables = Editables,
     .columnasFijas = 1};
 
-constexpr std::string_view SinFecha = "01/01/1001";
-constexpr std::string_view FechaBorrada = "01/01/0001";
-constexpr std::string_view SinHora = "00:00";
 constexpr std::string_view NotasNuevas = "describa brevemente aquí la tormenta ";
 constexpr std::string_view PasoSinLista = "10";  // [min]
 
@@ -50,15 +47,6 @@ constexpr std::string_view NoSeEncuentra = "No se encuentra el archivo ";
 constexpr std::string_view TituloError = "Error...";
 
 constexpr forms::ReglaNumero ReglaNroPpReal = forms::ReglaDeCuenta("txtNroPpReal");
-
-/// Runs an event whose check may refuse. Returns false where it did; a fault refuses nothing.
-template <typename Cuerpo>
-bool Revisa(const Siro& s, Cuerpo&& cuerpo)
-{
-    bool pasa = true;
-    Evento(s, [&] { pasa = cuerpo(); });
-    return pasa;
-}
 
 /// Runs a command that writes the storm. Returns false where it came to a fault, which is told.
 template <typename Cuerpo>
@@ -316,90 +304,45 @@ void cmdNuevaPpReal(dlgPpReal& f, Siro& s)
 
 // --- fields ---
 
-bool controlMiFecha(std::string& texto)
-{
-    constexpr std::size_t SinBarras = 8;
-    constexpr std::size_t Largo = 10;
-    if (model::CuentaCaracteres(texto) == SinBarras && texto.size() == SinBarras)
-        texto.insert(4, 1, '/').insert(2, 1, '/');
-    if (texto.empty() || texto == "0" || texto == "00/00/0000") texto = SinFecha;
-    if (texto == FechaBorrada) return false;
-    if (texto.size() != Largo || texto[2] != '/' || texto[5] != '/') return true;
-    const double anno = Val(std::string_view(texto).substr(6));
-    return anno < 100 || anno > 2099 || !FechaDeTexto(texto);
-}
-
-bool controlMiHora(std::string& texto)
-{
-    constexpr std::size_t SinDosPuntos = 4;
-    constexpr std::size_t Largo = 5;
-    if (texto.size() == SinDosPuntos) texto.insert(2, 1, ':');
-    if (texto.empty() || texto == "0" || texto == "00/00" || texto == "24:00") texto = SinHora;
-    return texto.size() != Largo || texto[2] != ':' || !HoraDeTexto(texto);
-}
-
 namespace {
 
-/// Leaving a date or a time. `toma` goes on with one that is good and may still refuse it.
-template <typename Toma>
-bool AlSalirFecha(const Siro& s, std::string& texto, Toma&& toma)
-{
-    const bool mala = controlMiFecha(texto);
-    if (mala) Advierte(s, std::string(FechaMala));
-    return !mala && Revisa(s, toma);
-}
+/// A date or a time of the storm's start or end.
+struct CampoTiempo {
+    std::string_view control;
+    std::string model::TormentaReal::*texto;
+    bool esHora, esFinal;
+};
+constexpr auto CamposTiempo = std::to_array<CampoTiempo>({
+    {"txtDateI", &model::TormentaReal::txtDateI, false, false},
+    {"txtTimeI", &model::TormentaReal::txtTimeI, true, false},
+    {"txtDateF", &model::TormentaReal::txtDateF, false, true},
+    {"txtTimeF", &model::TormentaReal::txtTimeF, true, true},
+});
 
-template <typename Toma>
-bool AlSalirHora(const Siro& s, std::string& texto, Toma&& toma)
+/// The table's times follow the start, its number of intervals the end, which may be refused.
+bool AlSalirTiempo(dlgPpReal& f, Siro& s, const CampoTiempo& campo)
 {
-    const bool mala = controlMiHora(texto);
-    if (mala) {
-        Advierte(s, std::string(HoraMala));
-        texto = SinHora;
+    std::string& texto = f.tormenta.*campo.texto;
+    if (campo.esHora ? controlMiHora(texto) : controlMiFecha(texto)) {
+        Advierte(s, std::string(campo.esHora ? HoraMala : FechaMala));
+        if (campo.esHora) texto = SinHora;
+        return false;
     }
-    return !mala && Revisa(s, toma);
-}
-
-/// The table's times follow the start.
-bool TomaComienzo(dlgPpReal& f, Siro& s)
-{
-    Asienta(f, s);
-    Redibuja(f, s);
-    return true;
-}
-
-bool TomaFinal(dlgPpReal& f, Siro& s)
-{
-    Asienta(f, s);
-    if (!CalculaNro(f, s)) return false;
-    Redibuja(f, s);
-    return true;
+    bool pasa = true;  // a fault refuses nothing
+    Evento(s, [&] {
+        Asienta(f, s);
+        pasa = !campo.esFinal || CalculaNro(f, s);
+        if (pasa) Redibuja(f, s);
+    });
+    return pasa;
 }
 
 }  // namespace
 
-bool txtDateI_AlSalir(dlgPpReal& f, Siro& s)
+bool AlSalir(dlgPpReal& f, Siro& s, std::string_view control)
 {
-    return AlSalirFecha(s, f.tormenta.txtDateI, [&] { return TomaComienzo(f, s); });
-}
-
-bool txtTimeI_AlSalir(dlgPpReal& f, Siro& s)
-{
-    return AlSalirHora(s, f.tormenta.txtTimeI, [&] { return TomaComienzo(f, s); });
-}
-
-bool txtDateF_AlSalir(dlgPpReal& f, Siro& s)
-{
-    return AlSalirFecha(s, f.tormenta.txtDateF, [&] { return TomaFinal(f, s); });
-}
-
-bool txtTimeF_AlSalir(dlgPpReal& f, Siro& s)
-{
-    return AlSalirHora(s, f.tormenta.txtTimeF, [&] { return TomaFinal(f, s); });
-}
-
-bool txtNroPpReal_AlSalir(dlgPpReal& f, Siro& s)
-{
+    for (const CampoTiempo& campo : CamposTiempo)
+        if (campo.control == control) return AlSalirTiempo(f, s, campo);
     if (!forms::AlSalir(s, ReglaNroPpReal, f.txtNroPpReal)) return false;
     Evento(s, [&] {
         Asienta(f, s);

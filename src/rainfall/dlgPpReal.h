@@ -96,12 +96,9 @@ void FilePpReal_Click(dlgPpReal& f, model::Siro& s);
 /// be written, the form stays as it was.
 void cmdNuevaPpReal(dlgPpReal& f, model::Siro& s);
 
-// Leaving a field. Returns false where the text is refused and the focus stays.
-bool txtDateI_AlSalir(dlgPpReal& f, model::Siro& s);
-bool txtTimeI_AlSalir(dlgPpReal& f, model::Siro& s);
-bool txtDateF_AlSalir(dlgPpReal& f, model::Siro& s);
-bool txtTimeF_AlSalir(dlgPpReal& f, model::Siro& s);
-bool txtNroPpReal_AlSalir(dlgPpReal& f, model::Siro& s);
+/// Leaving a date, a time or the number of intervals, by its control's name. Returns false where the text is
+/// refused and the focus stays.
+bool AlSalir(dlgPpReal& f, model::Siro& s, std::string_view control);
 
 /// A step was picked; it is the list's text.
 void cmbPasot_Click(dlgPpReal& f, model::Siro& s);
@@ -131,10 +128,5 @@ void TomaImportada(dlgPpReal& f, model::Siro& s, const TormentaImportada& import
 
 /// Hyetograph of the table as it is typed.
 forms::Grafico Vista(const dlgPpReal& f);
-
-/// Returns true on a bad date. A date of eight digits gets its bars; no date is "01/01/1001".
-bool controlMiFecha(std::string& texto);
-/// Returns true on a bad time. A time of four digits gets its colon; no time is "00:00".
-bool controlMiHora(std::string& texto);
 
 }  // namespace rainfall

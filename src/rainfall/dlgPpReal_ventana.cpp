@@ -88,10 +88,9 @@ QLayout* dlgPpReal_ventana::Datos()
         forms::Refleja(*linea, texto);
         return linea;
     };
-    const auto revisado = [this, &campo](std::string_view nombre, std::string& texto,
-                                         bool (*alSalir)(dlgPpReal&, model::Siro&)) {
+    const auto revisado = [this, &campo](std::string_view nombre, std::string& texto) {
         QLineEdit* const linea = campo(nombre, texto);
-        campos.Agrega(*linea, [this, alSalir] { return alSalir(f, entorno.s); });
+        campos.Agrega(*linea, [this, nombre] { return AlSalir(f, entorno.s, nombre); });
         return linea;
     };
     const auto renglon = [&](int fila, std::string_view nombre, QWidget* control, QWidget* otro = nullptr) {
@@ -100,13 +99,13 @@ QLayout* dlgPpReal_ventana::Datos()
         if (otro != nullptr) grilla->addWidget(otro, fila, 2);
     };
     txtNotas = campo("txtNotas", f.tormenta.Notas);
-    txtDateI = revisado("txtDateI", f.tormenta.txtDateI, txtDateI_AlSalir);
-    txtTimeI = revisado("txtTimeI", f.tormenta.txtTimeI, txtTimeI_AlSalir);
+    txtDateI = revisado("txtDateI", f.tormenta.txtDateI);
+    txtTimeI = revisado("txtTimeI", f.tormenta.txtTimeI);
     optNroPpReal = {piezas.Opcion("optNroPpReal_0"), piezas.Opcion("optNroPpReal_1")};
     for (std::size_t i = 0; i < optNroPpReal.size(); ++i)
         AlPulsar(*optNroPpReal[i], [this, i] { optNroPpReal_Click(f, static_cast<int>(i)); });
-    txtDateF = revisado("txtDateF", f.tormenta.txtDateF, txtDateF_AlSalir);
-    txtTimeF = revisado("txtTimeF", f.tormenta.txtTimeF, txtTimeF_AlSalir);
+    txtDateF = revisado("txtDateF", f.tormenta.txtDateF);
+    txtTimeF = revisado("txtTimeF", f.tormenta.txtTimeF);
     cmbPasot = piezas.Lista("cmbPasot", true);
     cmbPasot->lineEdit()->setReadOnly(true);
     connect(cmbPasot, &QComboBox::activated, this, [this](int i) {
@@ -115,7 +114,7 @@ QLayout* dlgPpReal_ventana::Datos()
             cmbPasot_Click(f, entorno.s);
         });
     });
-    txtNroPpReal = revisado("txtNroPpReal", f.txtNroPpReal, txtNroPpReal_AlSalir);
+    txtNroPpReal = revisado("txtNroPpReal", f.txtNroPpReal);
     renglon(0, "txtNotas", txtNotas);
     renglon(1, "txtDateI", txtDateI, txtTimeI);
     grilla->addWidget(optNroPpReal[0], 2, 0, 1, 3);

@@ -21,7 +21,7 @@ namespace {
 
 constexpr int ColumnaNombre = 1;
 constexpr int ColumnaP = 2;
-constexpr auto Editables = std::to_array<int>({ColumnaP});
+constexpr auto Editables = std::to_array<forms::ColumnaEditable>({{ColumnaP}});
 constexpr forms::ReglasGrilla ReglasTabla{
     .encabezado = "^Nro. UEH|>Nombre UEH      |> P[mm]         ", .editables = Editables, .columnasFijas = 1};
 

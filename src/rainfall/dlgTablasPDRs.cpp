@@ -29,7 +29,7 @@ constexpr double MaximaP = 9999;     // [mm]
 constexpr int ColumnaP = 1;
 constexpr int ColumnaD = 2;
 constexpr int ColumnaR = 3;
-constexpr auto Editables = std::to_array<int>({ColumnaP, ColumnaD, ColumnaR});
+constexpr auto Editables = std::to_array<forms::ColumnaEditable>({{ColumnaP}, {ColumnaD}, {ColumnaR}});
 constexpr forms::ReglasGrilla ReglasTabla{
     .encabezado = "^Nro.  |> Pp [mm]  |>D [min]  |>R [años]  ", .editables = Editables, .columnasFijas = 1};
 
@@ -91,8 +91,8 @@ void MuestraTabla(dlgTablasPDRs& f, Siro& s)
     f.txtNotas = s.TablasDeLluvia.NotasPDR[Ranura(f)];
     f.txtNroPDRs = NumeroATexto(n);
     forms::Grilla& g = f.MSFlexGridTablaPDRs = forms::NuevaGrilla(ReglasTabla);
-    for (const int columna : Editables)
-        forms::PonEditable(g, columna, f.editable);
+    for (const forms::ColumnaEditable& editable : Editables)
+        forms::PonEditable(g, editable.columna, f.editable);
     Ensancha(s, n);
     PonFilas(f, n);
     for (int j = 1; j <= n; ++j) {

@@ -18,7 +18,6 @@ using model::Informa;
 using model::NumeroATexto;
 using model::NumeroFalla;
 using model::Riesgo;
-using model::Simple;
 using model::Siro;
 using model::Val;
 
@@ -46,8 +45,6 @@ constexpr std::string_view TituloHayImagen = "Imagen de fondo";
 constexpr std::string_view HayImagen1 = "En la carpeta del proyecto ya hay otro archivo ";
 constexpr std::string_view HayImagen2 = ". ¿Desea reemplazarlo?";
 constexpr std::string_view YaHayDirectorio = "Verifique. Puede que ya exista un Directorio con ese nombre...";
-/// The two fields that refuse share the message of one of them: kept as it stands.
-constexpr std::string_view EntreDiezYTreintaMil = "Ingrese un valor numérico entre 10 y 30000";
 
 // --- directories ---
 
@@ -139,24 +136,6 @@ double EscalaBase(const Siro& s)
 constexpr auto Corrimientos = std::to_array<std::string_view>({"TexIMGX0", "TexIMGY0"});
 
 }  // namespace
-
-// clang-format off
-const std::array<CampoConfigura, 6> CamposConfigura = {{
-    {{.control = "TexIMGEscala", .maximo = 1000, .rechazo = forms::Rechazo::Recorta},
-     &ControlesConfigura::TexIMGEscala, [](Siro& s, double x) { s.Configuracion.EscalaImagen = x; }},
-    {{.control = "TexIMGX0", .minimo = -forms::SinLimite, .rechazo = forms::Rechazo::Recorta},
-     &ControlesConfigura::TexIMGX0, [](Siro& s, double x) { s.Configuracion.ImagenX0 = Simple(x); }},
-    {{.control = "TexIMGY0", .minimo = -forms::SinLimite, .rechazo = forms::Rechazo::Recorta},
-     &ControlesConfigura::TexIMGY0, [](Siro& s, double x) { s.Configuracion.ImagenY0 = Simple(x); }},
-    // The run-wide value is taken at the next reading of the file.
-    {{.control = "txtMaxUEHsPixel", .minimo = -forms::SinLimite, .maximo = 1024, .rechazo = forms::Rechazo::Recorta},
-     &ControlesConfigura::txtMaxUEHsPixel, [](Siro&, double) {}},
-    {{.control = "txtEscalaImagen", .maximo = 50000, .mensaje = EntreDiezYTreintaMil, .rechazo = forms::Rechazo::Llana},
-     &ControlesConfigura::txtEscalaImagen, [](Siro& s, double x) { s.Configuracion.EscalaDibujo = NumeroATexto(x); }},
-    {{.control = "txtN0Dur", .minimo = 10, .maximo = 30000, .mensaje = EntreDiezYTreintaMil, .rechazo = forms::Rechazo::Llana},
-     &ControlesConfigura::txtN0Dur, [](Siro& s, double x) { s.Pasos.N0Dur = Simple(x); }},
-}};
-// clang-format on
 
 bool HayImagen(const Siro& s)
 {

@@ -12,6 +12,7 @@
 #include "forms/Lista.h"
 #include "forms/Rotulo.h"
 #include "model/Configuracion.h"
+#include "model/Numeros.h"
 #include "model/Siro.h"
 
 // Rules of the configuration dialog. The controls that the project's file is read into and written from are
@@ -115,9 +116,29 @@ bool HayImagen(const model::Siro& s);
 
 // --- number fields ---
 
-/// A field, and what takes its number to the run-wide state.
+/// A field, and what takes its number to the run-wide state. The limits of the image's shift are those of the
+/// drawing at the moment.
 using CampoConfigura = forms::CampoNumerico<model::ControlesConfigura, void (*)(model::Siro& s, double x)>;
-extern const std::array<CampoConfigura, 6> CamposConfigura;
+/// The two fields that refuse share the message of one of them: kept as it stands.
+inline constexpr std::string_view EntreDiezYTreintaMil = "Ingrese un valor numérico entre 10 y 30000";
+
+// clang-format off
+inline constexpr auto CamposConfigura = std::to_array<CampoConfigura>({
+    {{.control = "TexIMGEscala", .maximo = 1000, .rechazo = forms::Rechazo::Recorta},
+     &model::ControlesConfigura::TexIMGEscala, [](model::Siro& s, double x) { s.Configuracion.EscalaImagen = x; }},
+    {{.control = "TexIMGX0", .minimo = -forms::SinLimite, .rechazo = forms::Rechazo::Recorta},
+     &model::ControlesConfigura::TexIMGX0, [](model::Siro& s, double x) { s.Configuracion.ImagenX0 = model::Simple(x); }},
+    {{.control = "TexIMGY0", .minimo = -forms::SinLimite, .rechazo = forms::Rechazo::Recorta},
+     &model::ControlesConfigura::TexIMGY0, [](model::Siro& s, double x) { s.Configuracion.ImagenY0 = model::Simple(x); }},
+    // The run-wide value is taken at the next reading of the file.
+    {{.control = "txtMaxUEHsPixel", .minimo = -forms::SinLimite, .maximo = 1024, .rechazo = forms::Rechazo::Recorta},
+     &model::ControlesConfigura::txtMaxUEHsPixel, [](model::Siro&, double) {}},
+    {{.control = "txtEscalaImagen", .maximo = 50000, .mensaje = EntreDiezYTreintaMil, .rechazo = forms::Rechazo::Llana},
+     &model::ControlesConfigura::txtEscalaImagen, [](model::Siro& s, double x) { s.Configuracion.EscalaDibujo = model::NumeroATexto(x); }},
+    {{.control = "txtN0Dur", .minimo = 10, .maximo = 30000, .mensaje = EntreDiezYTreintaMil, .rechazo = forms::Rechazo::Llana},
+     &model::ControlesConfigura::txtN0Dur, [](model::Siro& s, double x) { s.Pasos.N0Dur = model::Simple(x); }},
+});
+// clang-format on
 
 /// Leaving a field, txtMaxUEHsPixel at each edit too: its number goes to the run-wide state. Returns false
 /// where it is refused: the message was shown, the state is as it was, and the focus stays. Any other control

@@ -19,17 +19,17 @@ namespace {
 using model::Icono;
 using model::Mensaje;
 
-constexpr auto DosYTres = std::to_array({1, 2});
+constexpr auto DosYTres = std::to_array<ColumnaEditable>({{1}, {2}});
 constexpr ReglasGrilla DeTabla{
     .encabezado = "^Indice|>H [m]   |> Q[m3/s]  ", .editables = DosYTres, .columnasFijas = 1};
 
-constexpr auto Limites = std::to_array<LimiteColumna>({{1, 15, "menor de 15"}, {2, 0.5, "entre 0 y 0.5"}});
+constexpr auto Limitadas =
+    std::to_array<ColumnaEditable>({{1, 15, "menor de 15"}, {2, 0.5, "entre 0 y 0.5"}});
 constexpr ReglasGrilla DeComponentes{.encabezado = "^Nombre|^Vel.|^x|Orden",
-                                     .editables = DosYTres,
+                                     .editables = Limitadas,
                                      .sinNumero = SinNumero::Queda,
                                      .enterPoneCero = false,
-                                     .tomaCaracter = [](char c) { return c >= '*' && c <= 'z' && c != '?'; },
-                                     .limites = Limites};
+                                     .tomaCaracter = [](char c) { return c >= '*' && c <= 'z' && c != '?'; }};
 
 class UnaGrilla : public testing::Test {
   protected:

@@ -12,7 +12,7 @@
 namespace forms {
 namespace {
 
-constexpr auto Editables = std::to_array({1, 2});
+constexpr auto Editables = std::to_array<ColumnaEditable>({{1}, {2}});
 constexpr ReglasGrilla Reglas{.encabezado = "^Nro.|>P [mm]   |>D [min]   ", .editables = Editables};
 
 /// A grid of three rows between two fields.

@@ -70,7 +70,7 @@ class DialogoPpReal : public testing::Test {
     void PonNro(const std::string& n)
     {
         f.txtNroPpReal = n;
-        EXPECT_TRUE(txtNroPpReal_AlSalir(f, s));
+        EXPECT_TRUE(AlSalir(f, s, "txtNroPpReal"));
     }
     void EligePaso(const std::string& paso)
     {
@@ -328,7 +328,7 @@ TEST_F(DialogoPpReal, ElNumeroEsEnteroDe0A999)
     for (const char* malo : {"-1", "1000", "2.5", "", "x", "3x"}) {
         anfitrion->sucesos.clear();
         f.txtNroPpReal = malo;
-        EXPECT_FALSE(txtNroPpReal_AlSalir(f, s)) << malo;
+        EXPECT_FALSE(AlSalir(f, s, "txtNroPpReal")) << malo;
         EXPECT_EQ(Avisos(), std::vector<Mensaje>{NroMalo}) << malo;
         EXPECT_EQ(s.Tormenta.NroPpReal, 3);
     }
@@ -373,7 +373,7 @@ class FinalFijo : public DialogoPpReal {
     {
         f.tormenta.txtDateF = fecha;
         f.tormenta.txtTimeF = hora;
-        return txtTimeF_AlSalir(f, s);
+        return AlSalir(f, s, "txtTimeF");
     }
 };
 
@@ -385,7 +385,7 @@ TEST_F(FinalFijo, ElNumeroSigueAlFinal)
     EXPECT_EQ(G().NroFilas(), 5);
     EXPECT_EQ(s.Tormenta.DurTormenta, 100);
     f.tormenta.txtDateF = "02/01/1001";
-    EXPECT_TRUE(txtDateF_AlSalir(f, s));
+    EXPECT_TRUE(AlSalir(f, s, "txtDateF"));
     EXPECT_EQ(f.txtNroPpReal, "77");  // 25 h 40 min
 }
 
@@ -408,7 +408,7 @@ TEST_F(FinalFijo, ElPasoCambiaElNumeroYNoElFinal)
 TEST_F(FinalFijo, UnFinalAnteriorAlComienzoDejaCeroIntervalos)
 {
     f.tormenta.txtDateI = "02/01/1001";
-    EXPECT_TRUE(txtDateI_AlSalir(f, s));
+    EXPECT_TRUE(AlSalir(f, s, "txtDateI"));
     EXPECT_TRUE(Final("01/01/1001", "01:00"));
     EXPECT_EQ(Avisos(), std::vector<Mensaje>{FinalAntes});
     EXPECT_EQ(f.txtNroPpReal, "0");
@@ -448,7 +448,7 @@ TEST_F(FinalFijo, SinPasoNoHayCociente)
 TEST_F(FinalFijo, LaMarcaDeTablaBorradaEsUnaFechaComoOtras)
 {
     f.tormenta.txtDateI = "01/01/0001";
-    EXPECT_TRUE(txtDateI_AlSalir(f, s));
+    EXPECT_TRUE(AlSalir(f, s, "txtDateI"));
     EXPECT_TRUE(Final("01/01/0001", "01:00"));
     EXPECT_EQ(f.txtNroPpReal, "3");
     EXPECT_TRUE(Avisos().empty());
@@ -458,10 +458,10 @@ TEST_F(DialogoPpReal, LaTablaSigueAlComienzo)
 {
     Abre();
     f.tormenta.txtDateI = "31121999";
-    EXPECT_TRUE(txtDateI_AlSalir(f, s));
+    EXPECT_TRUE(AlSalir(f, s, "txtDateI"));
     EXPECT_EQ(f.tormenta.txtDateI, "31/12/1999");
     f.tormenta.txtTimeI = "2330";
-    EXPECT_TRUE(txtTimeI_AlSalir(f, s));
+    EXPECT_TRUE(AlSalir(f, s, "txtTimeI"));
     EXPECT_EQ(f.tormenta.txtTimeI, "23:30");
     EXPECT_EQ(Columna(1), (Textos{"31/12/1999 23:50", "01/01/2000 00:10", "01/01/2000 00:30"}));
     PonNro("2");
@@ -552,9 +552,9 @@ TEST_F(DialogoPpReal, UnaFechaCeroYUnaHoraCeroQuedanSinFecha)
 {
     Abre();
     f.tormenta.txtDateI = "0";
-    EXPECT_TRUE(txtDateI_AlSalir(f, s));
+    EXPECT_TRUE(AlSalir(f, s, "txtDateI"));
     f.tormenta.txtTimeI = "0";
-    EXPECT_TRUE(txtTimeI_AlSalir(f, s));
+    EXPECT_TRUE(AlSalir(f, s, "txtTimeI"));
     EXPECT_EQ(f.tormenta.txtDateI, "01/01/1001");
     EXPECT_EQ(f.tormenta.txtTimeI, "00:00");
     EXPECT_TRUE(Avisos().empty());
@@ -564,10 +564,10 @@ TEST_F(DialogoPpReal, UnaFechaMalaSeAvisaYQuedaEnElCampo)
 {
     Abre();
     f.tormenta.txtDateI = "31/02/2004";
-    EXPECT_FALSE(txtDateI_AlSalir(f, s));
+    EXPECT_FALSE(AlSalir(f, s, "txtDateI"));
     EXPECT_EQ(f.tormenta.txtDateI, "31/02/2004");
     f.tormenta.txtDateF = "x";
-    EXPECT_FALSE(txtDateF_AlSalir(f, s));
+    EXPECT_FALSE(AlSalir(f, s, "txtDateF"));
     EXPECT_EQ(Avisos(), (std::vector<Mensaje>{FechaMala, FechaMala}));
 }
 
@@ -575,10 +575,10 @@ TEST_F(DialogoPpReal, UnaHoraMalaSeAvisaYVuelveACero)
 {
     Abre();
     f.tormenta.txtTimeI = "12:60";
-    EXPECT_FALSE(txtTimeI_AlSalir(f, s));
+    EXPECT_FALSE(AlSalir(f, s, "txtTimeI"));
     EXPECT_EQ(f.tormenta.txtTimeI, "00:00");
     f.tormenta.txtTimeF = "25:00";
-    EXPECT_FALSE(txtTimeF_AlSalir(f, s));
+    EXPECT_FALSE(AlSalir(f, s, "txtTimeF"));
     EXPECT_EQ(f.tormenta.txtTimeF, "00:00");
     EXPECT_EQ(Avisos(), (std::vector<Mensaje>{HoraMala, HoraMala}));
 }

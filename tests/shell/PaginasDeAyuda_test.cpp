@@ -93,8 +93,8 @@ TEST(PaginasDeAyuda, LasColumnasEditablesYSusLimitesSonLosDeLasGrillas)
     editor::dlgUEHsEditTabla f;
     editor::Abre(f, s);
     for (const forms::Grilla* grilla : {&f.MSFlexGridEditCauces, &f.MSFlexGridEditUEHs}) {
-        ASSERT_FALSE(grilla->reglas->limites.empty());
-        for (const forms::LimiteColumna& limite : grilla->reglas->limites) {
+        ASSERT_FALSE(grilla->reglas->editables.empty());
+        for (const forms::ColumnaEditable& limite : grilla->reglas->editables) {
             std::string titulo = grilla->columnas.at(static_cast<std::size_t>(limite.columna)).titulo;
             titulo.erase(0, titulo.find_first_not_of(' '));
             Dice(pagina, "<td>" + SinCola(titulo));

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <array>
 
-#include "forms/ReglasDeCelda.h"
+#include "forms/ReglasGrilla.h"
 
 namespace editor {
 

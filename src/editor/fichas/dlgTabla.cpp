@@ -46,7 +46,7 @@ constexpr auto ArreglosFQ = std::to_array<ArregloTabla>({&model::Red::RepresaQH,
 constexpr auto ArreglosSHVQ = std::to_array<ArregloTabla>(
     {&model::Red::LagoH, &model::Red::LagoA, &model::Red::LagoS, &model::Red::LagoQ});
 
-constexpr auto Editables = std::to_array({1, 2, 3, 4});
+constexpr auto Editables = std::to_array<forms::ColumnaEditable>({{1}, {2}, {3}, {4}});
 
 constexpr forms::ReglasGrilla ReglasDe(std::string_view encabezado, std::size_t columnas)
 {

@@ -26,22 +26,22 @@ constexpr std::string_view ConfirmaCambios =
     "Confirma los cambios producidos en la tabla de datos de Entradas ?";
 constexpr int ColumnaNumero = 1;
 
-/// A column that can be edited: what it takes and where its value is kept.
+/// A column that can be edited and where its value is kept.
 template <typename T>
-struct ColumnaEditable {
-    forms::LimiteColumna limite;
+struct ColumnaDe {
+    forms::ColumnaEditable editable;
     float T::*valor;
 };
 
 // clang-format off
-constexpr auto EditablesCauces = std::to_array<ColumnaEditable<Cauce>>({
+constexpr auto ColumnasCauces = std::to_array<ColumnaDe<Cauce>>({
     {{7,  15,    "Ingrese un valor numérico entero o decimal menor de 15"},   &Cauce::VelMediaCauce},
     {{8,  50000, "Ingrese un valor numérico entero menor de 50000"},          &Cauce::LongCauce},
     {{10, 9999,  "Ingrese un valor numérico entero o decimal menor de 9999"}, &Cauce::Cauce_k_Musk},
     {{11, 0.5,   "Ingrese un valor numérico decimal entre 0 y 0.5"},          &Cauce::Cauce_n_Musk},
 });
 
-constexpr auto EditablesUEHs = std::to_array<ColumnaEditable<UEH>>({
+constexpr auto ColumnasUEHs = std::to_array<ColumnaDe<UEH>>({
     {{5,  99999, "Ingrese un valor numérico entero o decimal menor de 99999"}, &UEH::Area},
     {{6,  10000, "Ingrese un valor numérico entero menor de 10000"},           &UEH::LongitudMax},
     {{7,  15,    "Ingrese un valor numérico entero o decimal menor de 15"},    &UEH::VelMedia},
@@ -55,27 +55,16 @@ constexpr auto EditablesUEHs = std::to_array<ColumnaEditable<UEH>>({
 // clang-format on
 
 template <typename T, std::size_t N>
-constexpr std::array<forms::LimiteColumna, N> LimitesDe(const std::array<ColumnaEditable<T>, N>& editables)
+constexpr auto EditablesDe(const std::array<ColumnaDe<T>, N>& columnas)
 {
-    std::array<forms::LimiteColumna, N> limites{};
+    std::array<forms::ColumnaEditable, N> editables{};
     for (std::size_t i = 0; i < N; ++i)
-        limites[i] = editables[i].limite;
-    return limites;
+        editables[i] = columnas[i].editable;
+    return editables;
 }
 
-template <typename T, std::size_t N>
-constexpr std::array<int, N> NumerosDe(const std::array<ColumnaEditable<T>, N>& editables)
-{
-    std::array<int, N> numeros{};
-    for (std::size_t i = 0; i < N; ++i)
-        numeros[i] = editables[i].limite.columna;
-    return numeros;
-}
-
-constexpr auto LimitesCauces = LimitesDe(EditablesCauces);
-constexpr auto NumerosCauces = NumerosDe(EditablesCauces);
-constexpr auto LimitesUEHs = LimitesDe(EditablesUEHs);
-constexpr auto NumerosUEHs = NumerosDe(EditablesUEHs);
+constexpr auto EditablesCauces = EditablesDe(ColumnasCauces);
+constexpr auto EditablesUEHs = EditablesDe(ColumnasUEHs);
 
 /// Codes 42 to 57 and 64 to 122: the digits, the signs, and letters too.
 bool TomaTecla(char c)
@@ -83,26 +72,25 @@ bool TomaTecla(char c)
     return (c >= '*' && c <= '9') || (c >= '@' && c <= 'z');
 }
 
-constexpr forms::ReglasGrilla ReglasDe(std::string_view encabezado, std::span<const int> editables,
-                                       std::span<const forms::LimiteColumna> limites)
+constexpr forms::ReglasGrilla ReglasDe(std::string_view encabezado,
+                                       std::span<const forms::ColumnaEditable> editables)
 {
     return {.encabezado = encabezado,
             .editables = editables,
             .sinNumero = forms::SinNumero::Queda,
             .enterPoneCero = false,
             .tomaCaracter = TomaTecla,
-            .limites = limites,
             .escDejaLaCelda = true};
 }
 
 constexpr forms::ReglasGrilla ReglasCauces = ReglasDe(
     "^Componente|^Nro.|^       Nombre      |^     Afluente de     |^    Método    |^Vértices|^ Ind.Vért.|"
     "^Vel.Media|^Longitud|^Orden|^K Musk.|^x Musk.",
-    NumerosCauces, LimitesCauces);
+    EditablesCauces);
 constexpr forms::ReglasGrilla ReglasUEHs = ReglasDe(
     "^Componente|^Nro.|^       Nombre      |^     Afluente de     |^    Método    |^  Area   |^ Long.Máx.|"
     "^Vel.Media|^'a' Kost.|^'b' Kost.|^H Ini[min]|^Q inicio|^'K' Rec.|^Z Ret.",
-    NumerosUEHs, LimitesUEHs);
+    EditablesUEHs);
 
 std::string Texto(std::int16_t n)
 {
@@ -129,9 +117,9 @@ void PonDatos(forms::Grilla& g, int fila, const UEH& u)
         g.Pon({fila, static_cast<int>(i)}, textos[i]);
 }
 
-template <typename Componentes, typename Editables>
+template <typename Componentes, typename Columnas>
 forms::Grilla Llena(const forms::ReglasGrilla& reglas, const Componentes& componentes,
-                    const Editables& editables)
+                    const Columnas& columnas)
 {
     forms::Grilla g = forms::NuevaGrilla(reglas);
     forms::PonNroFilas(g, componentes.Cuenta());
@@ -139,20 +127,20 @@ forms::Grilla Llena(const forms::ReglasGrilla& reglas, const Componentes& compon
     for (const auto& componente : componentes) {
         ++fila;
         PonDatos(g, fila, componente);
-        for (const auto& [limite, valor] : editables)
-            g.Pon({fila, limite.columna}, NumeroATexto(componente.*valor));
+        for (const auto& [editable, valor] : columnas)
+            g.Pon({fila, editable.columna}, NumeroATexto(componente.*valor));
     }
     return g;
 }
 
 /// Takes a grid into its components, each row's found by its number.
-template <typename Componentes, typename Editables>
-void Toma(const forms::Grilla& g, Componentes& componentes, const Editables& editables)
+template <typename Componentes, typename Columnas>
+void Toma(const forms::Grilla& g, Componentes& componentes, const Columnas& columnas)
 {
     for (int fila = 1; fila <= g.NroFilas(); ++fila) {
         auto& componente = componentes.Ranura(model::Entero16(g.Numero({fila, ColumnaNumero})));
-        for (const auto& [limite, valor] : editables)
-            componente.*valor = model::Simple(g.Numero({fila, limite.columna}));
+        for (const auto& [editable, valor] : columnas)
+            componente.*valor = model::Simple(g.Numero({fila, editable.columna}));
     }
 }
 
@@ -165,8 +153,8 @@ void Abre(dlgUEHsEditTabla& f, Siro& s)
     model::LeeUEHs(s);
     f.lblProyecto = s.Proyecto.NombreProyecto;
     f.lblFileProyecto = s.Proyecto.NombreProyecto + "_Conf.vlm";
-    f.MSFlexGridEditCauces = Llena(ReglasCauces, s.Red.ColCauces, EditablesCauces);
-    f.MSFlexGridEditUEHs = Llena(ReglasUEHs, s.Red.ColUEHs, EditablesUEHs);
+    f.MSFlexGridEditCauces = Llena(ReglasCauces, s.Red.ColCauces, ColumnasCauces);
+    f.MSFlexGridEditUEHs = Llena(ReglasUEHs, s.Red.ColUEHs, ColumnasUEHs);
     f.caucesLeidos = f.MSFlexGridEditCauces.filas;
     f.UEHsLeidas = f.MSFlexGridEditUEHs.filas;
 }
@@ -174,8 +162,8 @@ void Abre(dlgUEHsEditTabla& f, Siro& s)
 void OKButton(dlgUEHsEditTabla& f, Siro& s)
 {
     const bool tomadas = forms::Evento(s, [&] {
-        Toma(f.MSFlexGridEditCauces, s.Red.ColCauces, EditablesCauces);
-        Toma(f.MSFlexGridEditUEHs, s.Red.ColUEHs, EditablesUEHs);
+        Toma(f.MSFlexGridEditCauces, s.Red.ColCauces, ColumnasCauces);
+        Toma(f.MSFlexGridEditUEHs, s.Red.ColUEHs, ColumnasUEHs);
     });
     if (!tomadas) return;
     const bool guarda = model::Consulta(s, std::string(ConfirmaCambios), TituloConsulta);

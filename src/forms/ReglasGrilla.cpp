@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "forms/ReglasDeCelda.h"
+#include "forms/ReglasGrilla.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -8,17 +8,6 @@
 #include "forms/CampoNumerico.h"
 
 namespace forms {
-
-namespace {
-
-const LimiteColumna* LimiteDe(const ReglasGrilla& reglas, int columna)
-{
-    const auto limite = std::find_if(reglas.limites.begin(), reglas.limites.end(),
-                                     [&](const LimiteColumna& l) { return l.columna == columna; });
-    return limite == reglas.limites.end() ? nullptr : &*limite;
-}
-
-}  // namespace
 
 std::string_view SinBlancos(std::string_view texto)
 {
@@ -44,18 +33,12 @@ bool TomaTodos(const ReglasGrilla& reglas, std::string_view texto)
     return reglas.tomaCaracter == nullptr || std::all_of(texto.begin(), texto.end(), reglas.tomaCaracter);
 }
 
-const LimiteColumna* LimiteRoto(const ReglasGrilla& reglas, int columna, std::string_view texto)
+const ColumnaEditable* LimiteRoto(const ReglasGrilla& reglas, int columna, std::string_view texto)
 {
-    const LimiteColumna* limite = LimiteDe(reglas, columna);
     const std::optional<double> x = NumeroDeCampo(texto);
-    const bool roto = limite != nullptr && x && !(*x >= 0 && *x <= limite->maximo);
-    return roto ? limite : nullptr;
-}
-
-bool SePuedeEditar(const Grilla& g, Celda c)
-{
-    return g.Esta(c) && g.columnas[static_cast<std::size_t>(c.columna)].editable &&
-           !g.filas[static_cast<std::size_t>(c.fila) - 1].esTitulo;
+    for (const ColumnaEditable& c : reglas.editables)
+        if (c.columna == columna && !c.mensaje.empty() && x && !(*x >= 0 && *x <= c.maximo)) return &c;
+    return nullptr;
 }
 
 }  // namespace forms
