@@ -14,9 +14,9 @@ namespace hydraulics {
 /// holds 0, and room beyond row n is common.
 template <typename TX, typename TY>
 struct Columnas {
-    std::span<const TX> X;  ///< searched
-    std::span<const TY> Y;  ///< read
-    int n = 0;              ///< rows in use
+    std::span<const TX> X{};  ///< searched
+    std::span<const TY> Y{};  ///< read
+    int n = 0;                ///< rows in use
 };
 
 /// The columns of the component with a number. Throws Falla 9 where the arrays don't know the number.

@@ -186,7 +186,10 @@ void LlenaListas(dlgPp& f, const Siro& s)
 
 void Abre(dlgPp& f, Siro& s)
 {
-    f = dlgPp{.tormenta = std::move(f.tormenta), .abierta = true};
+    dlgPp nueva;
+    nueva.tormenta = std::move(f.tormenta);
+    nueva.abierta = true;
+    f = std::move(nueva);
     // Enabled by the one form that uses it.
     f.Estado("cmdCargaPDRnoUniforme").habilitado = false;
     // Shown with a personal distribution only.
