@@ -9,6 +9,7 @@
 #include <string_view>
 #include <system_error>
 
+#include "model/ArchivoConf.h"
 #include "model/ArchivosTormenta.h"
 #include "model/Componentes.h"
 #include "model/Configuracion.h"
@@ -139,7 +140,7 @@ float Descarga(int n, double h)
 
 void TablasDeLagos(Siro& s, const std::vector<int>& aguasArriba)
 {
-    const int lagos = s.Red.NroLagos;
+    const int lagos = s.Red.NroLagos();
     s.Red.LagoFilas.Dimensiona(lagos);
     for (auto* tabla : {&s.Red.LagoH, &s.Red.LagoA, &s.Red.LagoQ})
         tabla->Dimensiona(lagos, Filas + 1);
@@ -159,7 +160,7 @@ void TablasDeLagos(Siro& s, const std::vector<int>& aguasArriba)
 
 void TablasDeRepresas(Siro& s)
 {
-    const int represas = s.Red.NroRepresas;
+    const int represas = s.Red.NroRepresas();
     s.Red.RepresaFilasHAS.Dimensiona(represas);
     s.Red.RepresaFilasHQ.Dimensiona(represas);
     for (auto* tabla : {&s.Red.RepresaH, &s.Red.RepresaA, &s.Red.RepresaQH, &s.Red.RepresaQQ})
@@ -310,8 +311,6 @@ void ArmaRed(Siro& s, const Medidas& medidas)
         represa.Cauce_aa = Nombre('c', i + 1);
         s.Red.ColRepresas.Agrega(represa);
     }
-    s.Red.NroUEHs = s.Red.NroCauces = s.Red.NroLagos = static_cast<std::int16_t>(medidas.nudos);
-    s.Red.NroRepresas = static_cast<std::int16_t>(medidas.nudos - conRepresa);
     TablasDeLagos(s, aguasArriba);
     TablasDeRepresas(s);
     Dibuja(s, medidas);
@@ -350,7 +349,7 @@ void GuardaProyecto(const std::string& dir, const Medidas& medidas)
         model::GuardaTablaHQRepresa(s);
         model::GuardaTablaHSVQLago(s);
         model::cmdAplicar(s);
-        model::mnu_btn_toolbarGuardaUEHs(s);
+        model::GuardaRed(s);
     } catch (const model::Falla& falla) {
         throw std::runtime_error(std::string(model::DescripcionFalla(falla.numero)) + ": " + absoluto);
     }

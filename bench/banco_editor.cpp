@@ -18,6 +18,7 @@
 #include "editor/frmUEHs_ventana.h"
 #include "forms/Entorno_ventana.h"
 #include "model/Componentes.h"
+#include "model/OrdenCauces.h"
 
 namespace {
 
@@ -93,7 +94,7 @@ Siro RedLimite()
         Alarga(r.NombreRepresa);
         Alarga(r.Cauce_aa);
     }
-    model::CalculaOrdenCauces(s);
+    model::CalculaOrdenCauces(s.Red);
     return s;
 }
 

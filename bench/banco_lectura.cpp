@@ -8,6 +8,7 @@
 
 #include "ProyectoLimite.h"
 #include "engine/modProceso0.h"
+#include "model/ArchivoConf.h"
 #include "model/ArchivosTormenta.h"
 #include "model/Componentes.h"
 #include "model/Configuracion.h"

@@ -57,7 +57,7 @@ void Numeros(benchmark::State& estado)
         };
         for (int c = 1; c <= s.Resultados.NroComponentes; ++c)
             fila(s.Resultados.QSale.Fila(c));
-        for (int l = 1; l <= s.Red.NroLagos; ++l) {
+        for (int l = 1; l <= s.Red.NroLagos(); ++l) {
             fila(s.Resultados.HLago.Fila(l));
             fila(s.Resultados.SLago.Fila(l));
         }

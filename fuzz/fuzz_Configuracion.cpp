@@ -5,6 +5,7 @@
 #include <string>
 
 #include "DiscoPorTerminacion.h"
+#include "model/ArchivoConf.h"
 #include "model/Configuracion.h"
 #include "model/Siro.h"
 
@@ -37,8 +38,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t lar
     s.Proyecto.DirProyecto = "/proy";
     model::leoConf(s);
     Exige(avisos <= 1);
-    Exige(s.Configuracion.ListaRec.size() == static_cast<std::size_t>(s.Configuracion.NroRec) + 1);
-    Exige(s.Configuracion.ListaDur.size() == static_cast<std::size_t>(s.Configuracion.NroDur) + 1);
+    Exige(!s.Configuracion.ListaRec.empty() && !s.Configuracion.ListaDur.empty());
     const bool mudado =
         avisos == 1 && s.Proyecto.NombreProyecto == "A" && (*disco.archivos)["Conf.vlm"].size() != largo;
     if ((avisos > 0 && !mudado) || s.Proyecto.NombreProyecto.empty() ||

@@ -18,7 +18,7 @@ constexpr int VerticesDeSobra = 1000;
 /// Saves and reads once more and returns both files.
 Bytes OtraVuelta(model::Siro& s, const DiscoPorTerminacion& disco)
 {
-    model::mnu_btn_toolbarGuardaUEHs(s);
+    model::GuardaRed(s);
     return {(*disco.archivos)["UEHs.vlm"], (*disco.archivos)["VerCau.vlm"]};
 }
 
@@ -44,7 +44,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t lar
     if (s.Red.XVertice.TopeColumna() > VerticesDeSobra) return 0;
     if (avisos > 0) {
         // A save of what was read in part may fail in many places, none of them with harm.
-        if (s.Red.NroCauces <= model::MaxCauces) OtraVuelta(s, disco);
+        if (s.Red.NroCauces() <= model::MaxCauces) OtraVuelta(s, disco);
         return 0;
     }
     // The first round may lose what follows a double quote inside a text.

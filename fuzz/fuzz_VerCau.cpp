@@ -36,14 +36,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t lar
     s.Proyecto.DirProyecto = "/proy";
     model::LeeUEHs(s);
     Exige(avisos <= 13 + 1);  // a box for each pair, and that of the end
-    Exige(s.Red.NroCauces == 3 && s.Red.XVertice.UltimaFila() == 70 && s.Red.XVertice.TopeColumna() <= 9);
+    Exige(s.Red.NroCauces() == 3 && s.Red.XVertice.UltimaFila() == 70 && s.Red.XVertice.TopeColumna() <= 9);
     if (avisos > 0) return 0;
 
     // Seven digits tell a number; from then on it is the same.
-    model::mnu_btn_toolbarGuardaUEHs(s);
+    model::GuardaRed(s);
     const auto x = s.Red.XVertice;
     const auto y = s.Red.YVertice;
-    model::mnu_btn_toolbarGuardaUEHs(s);
+    model::GuardaRed(s);
     Exige(s.Red.XVertice == x && s.Red.YVertice == y);
     return 0;
 }

@@ -13,6 +13,7 @@
 #include "engine/mdlProceso1.h"
 #include "engine/mdlSeriePDR.h"
 #include "engine/modProceso0.h"
+#include "model/ArchivoConf.h"
 #include "model/ArchivosTormenta.h"
 #include "model/Avisos.h"
 #include "model/Configuracion.h"

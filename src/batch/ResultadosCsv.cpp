@@ -97,7 +97,7 @@ void Elemento(FilaCsv& fila, const engine::ValorDeSerie& valor)
 void Componente(const model::Siro& s, int c, ArchivoCsv& archivo)
 {
     const std::string& nombre = s.Resultados.Secuencia[static_cast<std::size_t>(c)];
-    const bool esUEH = c <= s.Red.NroUEHs;
+    const bool esUEH = c <= s.Red.NroUEHs();
     const Embalse embalse = esUEH ? Embalse{} : EmbalseDe(s, nombre);
     FilaCsv fila;
     for (int p = 0; p <= s.Resultados.NroPasosQ; ++p) {
@@ -227,7 +227,7 @@ void GuardaCsvSerie(model::Siro& s, const std::string& ruta)
     };
     for (int c = 1; c <= r.NroComponentes; ++c)
         escribe(r.Secuencia[static_cast<std::size_t>(c)], [&](const engine::ColumnaDeSerie& columna, int n) {
-            return DelComponente(columna, r, s.Red.NroUEHs, c, n);
+            return DelComponente(columna, r, s.Red.NroUEHs(), c, n);
         });
     escribe(NombreCuenca,
             [&](const engine::ColumnaDeSerie& columna, int n) { return columna.deLaCuenca(r, n); });

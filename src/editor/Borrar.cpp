@@ -17,7 +17,6 @@
 
 namespace editor {
 
-using model::Entero16;
 using model::Siro;
 
 namespace {
@@ -54,7 +53,6 @@ void CierraHueco(model::Red& red, int hueco)
     }
     red.ColCauces.Quita(cuenta);
     red.NroVertices(cuenta) = 0;
-    red.NroCauces = Entero16(red.ColCauces.Cuenta());
     RehaceIndices(red);
 }
 
@@ -63,7 +61,7 @@ void CierraHueco(model::Red& red, int hueco)
 bool GuardaTrasBorrar(frmUEHs& f, Siro& s)
 {
     LimpiaSeleccion(s);
-    if (!f.fallida && model::mnu_btn_toolbarGuardaUEHs(s)) {
+    if (!f.fallida && model::GuardaRed(s)) {
         f.guardada = true;
         return true;
     }
@@ -102,12 +100,11 @@ void Borra(frmUEHs& f, Siro& s)
     }
     auto& coleccion = model::Todos<T>(s.Red);
     coleccion.Quita(Elegido<T>(s.Seleccion));
-    s.Red.*model::DeClase<T>::cuenta = Entero16(coleccion.Cuenta());
     ConservaTrazo(f, s, [&] {
         if (GuardaTrasBorrar(f, s)) model::ReleeUEHs(s);
     });
     Redibuja(f, s);
-    if (!std::is_same_v<T, model::Represa> || s.Red.NroRepresas == 0) return;
+    if (!std::is_same_v<T, model::Represa> || s.Red.NroRepresas() == 0) return;
     // The tables are kept by number, and the numbers have moved.
     model::Advierte(s, Texto(VerifiqueRepresas), {});
     f.pedidos.push_back(Pedido::FormaRepresa);
@@ -134,7 +131,6 @@ void BorraTodo(frmUEHs& f, Siro& s)
     if (!model::Consulta(s, Texto(PreguntaBorraTodo), TituloBorraTodo)) return;
     LimpiaSeleccion(s);
     model::CadaClase(s.Red, [](auto& coleccion) { coleccion.Vacia(); });
-    s.Red.NroUEHs = s.Red.NroCauces = s.Red.NroLagos = s.Red.NroRepresas = 0;
     f.trazo.ClicsCauce = 0;
     s.Control.CargaFallida = false;  // the user has seen the network, and wants none
     try {

@@ -16,7 +16,7 @@ using model::Suma16;
 
 int CaucesDibujados(const Red& red)
 {
-    return std::clamp<int>(red.NroCauces, 0, model::MaxCauces);
+    return std::clamp<int>(red.NroCauces(), 0, model::MaxCauces);
 }
 
 int CaucesEnteros(const Red& red)
@@ -98,7 +98,6 @@ model::Cauce& CreaCauce(Red& red)
         const model::Cauce& previo = red.Cauces(n - 1);
         indice = Suma16(previo.IndiceParInicial, previo.numVertices);
     }
-    red.NroCauces = Entero16(n);
     return red.ColCauces.Agrega({.numCauce = Entero16(n),
                                  .numVertices = red.NroVertices(n),
                                  .IndiceParInicial = indice,

@@ -45,7 +45,6 @@ bool ColocaDeClase(frmUEHs& f, Siro& s, Punto en)
     if (n > coleccion.Limite) throw model::Falla{model::NumeroFalla::Subindice};
     const std::optional<std::string> otro = NombreEn<T>(s.Red, en);
     coleccion.Agrega(Nuevo<T>(n, en));
-    s.Red.*model::DeClase<T>::cuenta = model::Entero16(n);
 
     std::optional<std::string> nombre;
     if (otro) {

@@ -19,8 +19,7 @@ auto Componentes(auto& red)
 
 RedGuardada Toma(const Red& red, const Trazo& trazo)
 {
-    RedGuardada guardada{.cuentas = {red.NroUEHs, red.NroCauces, red.NroLagos, red.NroRepresas},
-                         .trazo = trazo};
+    RedGuardada guardada{.trazo = trazo};
     Componentes(guardada) = Componentes(red);
     const int cauces = std::max(CaucesDibujados(red), red.ColCauces.Cuenta());
     for (int i = 1; i <= std::min(cauces, model::MaxCauces); ++i)
@@ -36,12 +35,18 @@ bool Pasa(Historia& h, Red& red, Trazo& trazo, std::vector<RedGuardada>& de, std
     return Repone(h, red, trazo);
 }
 
+/// Whether both hold the same components; that a reach is being drawn makes no difference.
+bool MismosComponentes(RedGuardada una, const RedGuardada& otra)
+{
+    una.ColCauces.Anuncia(otra.ColCauces.Nro());
+    return Componentes(una) == Componentes(otra);
+}
+
 /// The network to go back to from the end of a reach's drawing: the one before the clicks that led here.
 RedGuardada AntesDelTrazo(Historia& h)
 {
     RedGuardada red = *h.presente;
-    while (red.trazo.ClicsCauce > 0 && !h.anteriores.empty() &&
-           Componentes(h.anteriores.back()) == Componentes(red)) {
+    while (red.trazo.ClicsCauce > 0 && !h.anteriores.empty() && MismosComponentes(h.anteriores.back(), red)) {
         red = std::move(h.anteriores.back());
         h.anteriores.pop_back();
     }
@@ -75,7 +80,6 @@ bool Repone(const Historia& h, Red& red, Trazo& trazo)
     if (!h.presente) return false;
     const RedGuardada& guardada = *h.presente;
     Componentes(red) = Componentes(guardada);
-    std::tie(red.NroUEHs, red.NroCauces, red.NroLagos, red.NroRepresas) = std::tuple_cat(guardada.cuentas);
     trazo = guardada.trazo;
     red.NroVertices.Dimensiona(red.NroVertices.Tope());
     red.XVertice.Dimensiona(model::MaxCauces, 0);

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <array>
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -19,7 +17,6 @@ struct RedGuardada {
     decltype(model::Red::ColCauces) ColCauces{};
     decltype(model::Red::ColLagos) ColLagos{};
     decltype(model::Red::ColRepresas) ColRepresas{};
-    std::array<std::int16_t, 4> cuentas{};     ///< NroUEHs, NroCauces, NroLagos, NroRepresas
     std::vector<std::vector<Punto>> lineas{};  ///< vertices of reach 1, 2, ..., the one being drawn included
     Trazo trazo{};
     bool operator==(const RedGuardada&) const = default;

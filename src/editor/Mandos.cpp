@@ -9,6 +9,7 @@
 #include "model/Avisos.h"
 #include "model/Componentes.h"
 #include "model/Numeros.h"
+#include "model/OrdenCauces.h"
 
 // Toolbar, buttons, slider, scroll bars and keys of the editor's window, outside of its canvas.
 namespace editor {
@@ -22,11 +23,11 @@ constexpr std::int16_t AnchoMayor = 16, AnchoMenor = 2;  // [pixels]
 constexpr std::string_view PreguntaResguardo =
     "¿Desea guardar los cambios realizados en los componentes de UEHs ? ";
 
-/// Returns whether the network was saved; if not, memory and undo are as they were.
-bool Guarda(frmUEHs& f, Siro& s)
+/// The toolbar's "Guardar". Returns whether the network was saved; if not, memory and undo are as they were.
+bool mnu_btn_toolbarGuardaUEHs(frmUEHs& f, Siro& s)
 {
     bool bien = false;
-    ConservaTrazo(f, s, [&] { bien = model::mnu_btn_toolbarGuardaUEHs(s); });
+    ConservaTrazo(f, s, [&] { bien = model::GuardaRed(s); });
     if (bien) f.guardada = true;
     Redibuja(f, s);
     return bien;
@@ -46,7 +47,9 @@ void Cierra(frmUEHs& f, Siro& s)
 {
     engine::ComponenteFinal(s);
     if (!s.Control.ContinuarSinCorregir && !s.Control.RedOk) return;
-    if (model::Consulta(s, std::string(PreguntaResguardo), TituloResguardo) && !Guarda(f, s)) return;
+    if (model::Consulta(s, std::string(PreguntaResguardo), TituloResguardo) &&
+        !mnu_btn_toolbarGuardaUEHs(f, s))
+        return;
     CierraVentana(f, s);
 }
 
@@ -63,7 +66,7 @@ void AplicaBoton(frmUEHs& f, Siro& s, Boton boton)
     case Boton::GuardaUEHs:
         f.Pon(boton, true);
         f.puntero = Puntero::Espera;
-        if (Guarda(f, s)) Asienta(f, s);
+        if (mnu_btn_toolbarGuardaUEHs(f, s)) Asienta(f, s);
         f.Pon(boton, false);
         PonModo(f, Modo(f));
         return;
@@ -132,7 +135,7 @@ void cmdOrdenCauce_Click(frmUEHs& f, Siro& s)
 {
     Orden(f, s, [&] {
         f.vista.OrdenVisible = !f.vista.OrdenVisible;
-        model::CalculaOrdenCauces(s);
+        model::CalculaOrdenCauces(s.Red);
         Redibuja(f, s);
         Asienta(f, s);  // orders are worked out, not edited
     });

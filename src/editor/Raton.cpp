@@ -103,7 +103,7 @@ void EligeParaElMenu(frmUEHs& f, Siro& s, Punto p)
 bool CruzEnElUltimo(const frmUEHs& f, const Siro& s)
 {
     if (Modo(f) == Boton::Cauce && f.trazo.ClicsCauce > 0)
-        return *f.gesto.cruz == UltimoVertice(s.Red, s.Red.NroCauces);
+        return *f.gesto.cruz == UltimoVertice(s.Red, s.Red.NroCauces());
     const auto n = static_cast<std::size_t>(f.medicion.NroPuntosMedida);
     return Modo(f) == Boton::LongArea && n > 0 && *f.gesto.cruz == f.medicion.En(n);
 }
@@ -247,7 +247,7 @@ void picDibujo_KeyDown(frmUEHs& f, Siro& s, Tecla tecla)
 
 void picDibujo_Rueda(frmUEHs& f, Siro& s, double vueltas, Punto p)
 {
-    if (s.Red.NroCauces == 0 || vueltas == 0) return;  // a drawing without reaches stays at 100 %
+    if (s.Red.NroCauces() == 0 || vueltas == 0) return;  // a drawing without reaches stays at 100 %
     Gira(f.vista, vueltas, p);
     Redibuja(f, s);
 }

@@ -47,7 +47,7 @@ Extension Extiende(const frmUEHs& f, const model::Red& red)
 {
     Extension e;
     // An image without reaches is the drawing: it is what will be traced.
-    if (f.fondo.ImagenVisible && red.NroCauces == 0) {
+    if (f.fondo.ImagenVisible && red.NroCauces() == 0) {
         e.Abarca({1, 1});
         e.Abarca({static_cast<float>(f.fondo.imagen.ancho), static_cast<float>(f.fondo.imagen.alto)});
     }
@@ -183,12 +183,12 @@ void PintaBanda(frmUEHs& f)
 void Redibuja(frmUEHs& f, Siro& s)
 {
     // A save or a fresh read has taken away the reach that was being drawn.
-    if (f.trazo.ClicsCauce > 0 && s.Red.NroCauces != s.Red.ColCauces.Cuenta() + 1) f.trazo.ClicsCauce = 0;
+    if (f.trazo.ClicsCauce > 0 && s.Red.NroCauces() != s.Red.ColCauces.Cuenta() + 1) f.trazo.ClicsCauce = 0;
     HaceLugar(s.Red);
     AjustaDesembocaduras(s.Red);
     f.dibujo.Vacia();
     f.vista.extension = Extiende(f, s.Red);
-    AjustaEscala(f.vista, s.Red.NroCauces != 0);
+    AjustaEscala(f.vista, s.Red.NroCauces() != 0);
     AjustaOrigen(f.vista);
 
     PintaImagen(f, s);

@@ -88,7 +88,7 @@ bool Drena(const model::Red& red, int cauce, std::string_view nombre)
 bool TocaOtroCauce(const frmUEHs& f, const model::Red& red, int cauce, Punto boca)
 {
     const double alcance = ParteTolerancia * AnchoLogico(f.vista);
-    for (int k = 1; k <= red.NroCauces; ++k) {
+    for (int k = 1; k <= red.NroCauces(); ++k) {
         if (k == cauce || !CabeceraCerca(red, k, boca, alcance)) continue;
         if (k > CaucesEnteros(red) || !Drena(red, cauce, red.ColCauces.Item(k).NombreCauce)) return true;
     }
@@ -115,7 +115,7 @@ void MarcaSinAcople(frmUEHs& f, const model::Red& red, int cauce)
 
 void RotulaCauces(frmUEHs& f, const model::Red& red)
 {
-    for (int i = 1; i <= red.NroCauces; ++i) {
+    for (int i = 1; i <= red.NroCauces(); ++i) {
         if (red.NroVertices(i) < 1) continue;
         if (Modo(f) == Boton::Cauce) MarcaSinAcople(f, red, i);
         const std::optional<Medio> medio = MedioDe(f, red, i);

@@ -24,7 +24,7 @@ void PonTrazo(frmUEHs& f, model::Red& red, const std::vector<Punto>& linea, std:
 {
     const int n = NumeroDeCauceNuevo(red);
     PonLinea(red, n, linea);
-    red.NroCauces = model::Entero16(n);
+    red.ColCauces.Anuncia(model::Entero16(n));
     f.trazo.ClicsCauce = clics;
 }
 
@@ -35,7 +35,7 @@ void ClicCauce(frmUEHs& f, Siro& s, Punto en)
     if (f.trazo.ClicsCauce == 0) {
         PonTrazo(f, s.Red, {en}, 1);
     } else if (f.trazo.ClicsCauce < ClicsDeUnTrazo) {
-        AgregaVertice(s.Red, s.Red.NroCauces, en);
+        AgregaVertice(s.Red, s.Red.NroCauces(), en);
         ++f.trazo.ClicsCauce;
     } else {
         // The click beyond the last one belongs to the reach that it finishes: kept as it stands.
@@ -63,7 +63,7 @@ void TerminaCauce(frmUEHs& f, Siro& s)
 void ConservaTrazo(frmUEHs& f, Siro& s, const std::function<void()>& cuerpo)
 {
     const std::int16_t clics = f.trazo.ClicsCauce;
-    const std::vector<Punto> linea = clics > 0 ? Linea(s.Red, s.Red.NroCauces) : std::vector<Punto>{};
+    const std::vector<Punto> linea = clics > 0 ? Linea(s.Red, s.Red.NroCauces()) : std::vector<Punto>{};
     cuerpo();
     if (clics > 0) PonTrazo(f, s.Red, linea, clics);
 }

@@ -5,6 +5,7 @@
 
 #include "editor/EnMano.h"
 #include "editor/Indicacion.h"
+#include "model/ArchivoConf.h"
 #include "model/Avisos.h"
 #include "model/Componentes.h"
 #include "model/Configuracion.h"
@@ -201,7 +202,7 @@ void DescartaTrazo(frmUEHs& f, Siro& s)
 {
     if (f.trazo.ClicsCauce == 0) return;
     f.trazo.ClicsCauce = 0;
-    s.Red.NroCauces = model::Entero16(s.Red.ColCauces.Cuenta());
+    s.Red.ColCauces.Recuenta();
 }
 
 void Relee(frmUEHs& f, Siro& s)

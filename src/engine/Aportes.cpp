@@ -26,8 +26,8 @@ FilasPorNombre NumeraFilas(const model::Siro& s, int desde, int hasta)
 Aportes::Aportes(const model::Siro& s)
 {
     std::unordered_map<std::string_view, Afluentes> porDestino;
-    const FilasPorNombre filasUEH = NumeraFilas(s, 1, s.Red.NroUEHs);
-    const FilasPorNombre filasResto = NumeraFilas(s, s.Red.NroUEHs + 1, s.Resultados.NroComponentes);
+    const FilasPorNombre filasUEH = NumeraFilas(s, 1, s.Red.NroUEHs());
+    const FilasPorNombre filasResto = NumeraFilas(s, s.Red.NroUEHs() + 1, s.Resultados.NroComponentes);
     const auto anota = [&](const auto& coleccion, const FilasPorNombre& filas, auto agrega) {
         int item = 0;
         for (const auto& c : coleccion) {

@@ -62,7 +62,7 @@ void RecesionUnaPorUna(Corrida& c)
 {
     float Qb = 0;
     for (int p = 1; p <= c.s.Resultados.NroPasosQ; ++p)
-        for (int i = 1; i <= c.s.Red.NroUEHs; ++i)
+        for (int i = 1; i <= c.s.Red.NroUEHs(); ++i)
             RecesionDeUEH(c, static_cast<std::int16_t>(p), i, Qb);
 }
 
@@ -74,7 +74,7 @@ bool RecesionSegura(const Corrida& c)
     if (!c.UEHsAlcanzan()) return false;
     const model::Resultados& r = c.s.Resultados;
     double total = 0;
-    for (int i = 1; i <= c.s.Red.NroUEHs; ++i) {
+    for (int i = 1; i <= c.s.Red.NroUEHs(); ++i) {
         const model::UEH& u = c.s.Red.ColUEHs.Item(i);
         if (!TieneRecesion(u)) continue;
         // a constant this short would make powers too small for the type
@@ -103,7 +103,7 @@ void RecesionRapida(Corrida& c)
     const auto pasos = static_cast<std::size_t>(s.Resultados.NroPasosQ);
     std::vector<float> Qb;  // one run of steps per UEH with recession
     std::size_t conRecesion = 0;
-    for (int i = 1; i <= s.Red.NroUEHs; ++i) {
+    for (int i = 1; i <= s.Red.NroUEHs(); ++i) {
         const model::UEH& u = s.Red.UEHs(i);
         if (!TieneRecesion(u)) continue;
         const double* potencia = AbatimientoDe(c, u.KRecesion).potencia.data();
@@ -131,13 +131,13 @@ void EncabezaHidrogramas(Corrida& c)
     std::string& texto = s.Control.TextoPizarra;
     if (s.Control.SalidaPizarra)
         texto.append("\r\n\r\nCaudales propagados al pié de cada UEH:\r\n").append(12, ' ');
-    for (int i = 1; i <= s.Red.NroUEHs; ++i)
+    for (int i = 1; i <= s.Red.NroUEHs(); ++i)
         c.Intenta([&] {
             const std::string& nombre = s.Red.UEHs(i).NombreUEH;
             texto.append(8, ' ').append(nombre).append(7, ' ');
         });
     if (s.Control.SalidaPizarra) texto.append(7, ' ').append("\r\nPer.k  t[min]");
-    for (int i = 1; i <= s.Red.NroUEHs; ++i)
+    for (int i = 1; i <= s.Red.NroUEHs(); ++i)
         texto.append("- Pp[mm] Q[m3/s] ");
 }
 
@@ -170,7 +170,7 @@ void HidrogramasUnoPorUno(Corrida& c)
             c.Linea.Vacia();
             c.Linea.Izquierda(std::int32_t{p}, 7).Izquierda(std::int32_t{t}, 7);
         });
-        for (int i = 1; i <= s.Red.NroUEHs; ++i) {
+        for (int i = 1; i <= s.Red.NroUEHs(); ++i) {
             EscribeParte(c, p, i);
             s.Control.TextoPizarra.append(12, ' ');
             c.Intenta([&] {
@@ -195,14 +195,14 @@ bool HidrogramasSinTexto(Corrida& c)
     if (r.PpUEHPaso.TopeColumna() < m) return false;
 
     std::vector<const float*> filas;
-    for (int i = 1; i <= s.Red.NroUEHs; ++i)
+    for (int i = 1; i <= s.Red.NroUEHs(); ++i)
         filas.push_back(r.QSale.Fila(i));
     std::vector<float> volumenes(filas.size());
     SumaVolumenes(filas, {1, r.NroPasosQ}, s.Pasos.PasoQ, volumenes);
     if (!std::all_of(volumenes.begin(), volumenes.end(), [](float v) { return std::isfinite(v); }))
         return false;
     std::copy(volumenes.begin(), volumenes.end(), r.VolUEH.Datos() + 1);
-    for (int i = 1; i <= s.Red.NroUEHs; ++i)
+    for (int i = 1; i <= s.Red.NroUEHs(); ++i)
         SubePico(s, i, {1, r.NroPasosQ});
     return true;
 }
@@ -300,7 +300,7 @@ void VolumenesDeUEHs(Corrida& c)
 {
     Siro& s = c.s;
     c.EscTotalCalc = 0;
-    for (int i = 1; i <= s.Red.NroUEHs; ++i)
+    for (int i = 1; i <= s.Red.NroUEHs(); ++i)
         VolumenDeUEH(c, i);
     c.Intenta([&] { c.EscTotalCalc = Entero32(double{1} * c.EscTotalCalc - c.VolBaseTotal); });
     if (c.EscTotalCalc <= VolumenDespreciable || c.AreaTotal <= 0)

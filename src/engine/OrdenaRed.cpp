@@ -26,7 +26,7 @@ bool EsLaRecordada(const Corrida& c)
     const RedOrdenada& red = c.memoria.red;
     const Siro& s = c.s;
     if (!red.sirve || s.Control.SalidaPizarra || !s.Control.AvisoDescargasVisto ||
-        red.NroUEHs != s.Red.NroUEHs)
+        red.NroUEHs != s.Red.NroUEHs())
         return false;
     std::size_t i = 0;
     bool iguales = true;
@@ -46,7 +46,7 @@ void Recuerda(Corrida& c)
     RedOrdenada& red = c.memoria.red;
     red.enlaces.clear();
     RecorreEnlaces(s.Red, [&](const std::string& t) { red.enlaces.push_back(t); });
-    red.NroUEHs = s.Red.NroUEHs;
+    red.NroUEHs = s.Red.NroUEHs();
     red.Secuencia = s.Resultados.Secuencia;
     red.Salidas = s.Resultados.Salidas;
     red.NroSalidas = s.Resultados.NroSalidas;

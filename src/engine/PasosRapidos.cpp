@@ -85,7 +85,7 @@ bool PasosSeguros(Corrida& c)
     if (c.AreaTotal == 0 || !EnLimite(s.Tormenta.PpTormenta, PpModerada)) return false;
     for (const auto* a : {&s.Tormenta.PpUEH, &s.Hietograma.PpAcum, &s.Hietograma.IntensidadPp})
         if (!TodosEnLimite(*a, PpModerada)) return false;
-    for (int i = 1; i <= s.Red.NroUEHs; ++i)
+    for (int i = 1; i <= s.Red.NroUEHs(); ++i)
         if (!UEHModerada(c, s.Red.UEHs(i))) return false;
     return true;
 }
@@ -164,7 +164,7 @@ void LluviaPareja(Corrida& c, int pasos)
         total += lluvia[k];
     }
     s.Tormenta.PpUEH(1) = total;
-    for (int i = 2; i <= s.Red.NroUEHs; ++i) {
+    for (int i = 2; i <= s.Red.NroUEHs(); ++i) {
         std::copy_n(lluvia + 1, pasos, s.Resultados.PpUEHPaso.Fila(i) + 1);
         s.Tormenta.PpUEH(i) = total;
     }
@@ -208,7 +208,7 @@ bool PasosRapidos(Corrida& c)
 
     std::vector<Ladera> laderas;
     std::vector<std::vector<float>> caudales;
-    for (int i = 1; i <= s.Red.NroUEHs; ++i) {
+    for (int i = 1; i <= s.Red.NroUEHs(); ++i) {
         laderas.push_back(PreparaLadera(c, s.Red.UEHs(i)));
         CaudalesDelExceso(c, i, caudales.emplace_back(static_cast<std::size_t>(conLluvia) + 1));
     }

@@ -40,7 +40,7 @@ bool HayLluvia(Corrida& c, std::int16_t k)
 void LluviaPorUEH(Corrida& c, std::int16_t k)
 {
     Siro& s = c.s;
-    for (int i = 1; i <= s.Red.NroUEHs; ++i) {
+    for (int i = 1; i <= s.Red.NroUEHs(); ++i) {
         c.Intenta([&] { s.Tormenta.PpTormenta = s.Tormenta.PpUEH(i); });
         c.Intenta([&] { s.Resultados.PpUEHPaso(i, k) = Simple(PpDelPaso(s, k)); });
         c.Intenta([&] {
@@ -55,7 +55,7 @@ void LluviaPareja(Corrida& c, std::int16_t k)
     Siro& s = c.s;
     c.Intenta([&] { s.Resultados.PpUEHPaso(1, k) = Simple(PpDelPaso(s, k)); });
     c.Intenta([&] { c.SumaPp = Simple(double{c.SumaPp} + s.Resultados.PpUEHPaso(1, k)); });
-    for (int i = 1; i <= s.Red.NroUEHs; ++i) {
+    for (int i = 1; i <= s.Red.NroUEHs(); ++i) {
         c.Intenta([&] { s.Resultados.PpUEHPaso(i, k) = s.Resultados.PpUEHPaso(1, k); });
         c.Intenta([&] {
             s.Tormenta.PpUEH(i) = Simple(double{s.Tormenta.PpUEH(i)} + s.Resultados.PpUEHPaso(i, k));
@@ -149,7 +149,7 @@ void PasosUnoPorUno(Corrida& c)
     Paso valores;
     for (std::int16_t k = 1; k < c.NroPasosPp; ++k) {
         LluviaDelPaso(c, k);
-        for (int i = 1; i <= c.s.Red.NroUEHs; ++i)
+        for (int i = 1; i <= c.s.Red.NroUEHs(); ++i)
             PasoDeUEH(c, k, i, valores);
     }
 }

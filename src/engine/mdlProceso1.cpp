@@ -85,10 +85,10 @@ bool CompruebaUEH(Corrida& c, int i)
 bool CompruebaUEHs(Corrida& c)
 {
     Siro& s = c.s;
-    c.Intenta([&] { s.Resultados.PasosInfiltra.Redimensiona(s.Red.NroUEHs); });
+    c.Intenta([&] { s.Resultados.PasosInfiltra.Redimensiona(s.Red.NroUEHs()); });
     s.Control.TextoPizarra = s.Anfitrion.LeePizarra();
-    if (s.Red.NroUEHs == 0) return Rechaza(s, std::string(SinUEHs));
-    for (int i = 1; i <= s.Red.NroUEHs; ++i)
+    if (s.Red.NroUEHs() == 0) return Rechaza(s, std::string(SinUEHs));
+    for (int i = 1; i <= s.Red.NroUEHs(); ++i)
         if (!CompruebaUEH(c, i)) return false;
     return true;
 }
@@ -118,23 +118,23 @@ bool CompruebaPasos(Corrida& c)
 void DimensionaTrabajo(Corrida& c)
 {
     Siro& s = c.s;
-    c.Intenta([&] { c.RetencionRestante.Dimensiona(s.Red.NroUEHs); });
-    c.Intenta([&] { s.Resultados.VolBaseUEH.Dimensiona(Suma16(s.Red.NroUEHs, 1)); });
-    c.Intenta([&] { s.Resultados.CoefUEH.Dimensiona(Suma16(s.Red.NroUEHs, 1)); });
-    c.Intenta([&] { s.Resultados.VolUEH.Dimensiona(Suma16(s.Red.NroUEHs, 1)); });
+    c.Intenta([&] { c.RetencionRestante.Dimensiona(s.Red.NroUEHs()); });
+    c.Intenta([&] { s.Resultados.VolBaseUEH.Dimensiona(Suma16(s.Red.NroUEHs(), 1)); });
+    c.Intenta([&] { s.Resultados.CoefUEH.Dimensiona(Suma16(s.Red.NroUEHs(), 1)); });
+    c.Intenta([&] { s.Resultados.VolUEH.Dimensiona(Suma16(s.Red.NroUEHs(), 1)); });
     c.Intenta([&] { c.PpMediaPaso.Dimensiona(s.Resultados.NroPasosQ); });
     c.Intenta([&] {
-        s.Resultados.PpUEHPaso.Dimensiona(s.Red.NroUEHs,
+        s.Resultados.PpUEHPaso.Dimensiona(s.Red.NroUEHs(),
                                           Piso16(Cociente(s.Tormenta.DurTormenta, s.Pasos.PasoQ)) + 1);
     });
     c.Intenta(
-        [&] { s.Resultados.HRepresa.Dimensiona(s.Red.NroRepresas, Suma16(s.Resultados.NroPasosQ, 1)); });
+        [&] { s.Resultados.HRepresa.Dimensiona(s.Red.NroRepresas(), Suma16(s.Resultados.NroPasosQ, 1)); });
     c.Intenta(
-        [&] { s.Resultados.SRepresa.Dimensiona(s.Red.NroRepresas, Suma16(s.Resultados.NroPasosQ, 1)); });
-    c.Intenta([&] { s.Resultados.HLago.Dimensiona(s.Red.NroLagos, Suma16(s.Resultados.NroPasosQ, 1)); });
-    c.Intenta([&] { s.Resultados.SLago.Dimensiona(s.Red.NroLagos, Suma16(s.Resultados.NroPasosQ, 1)); });
+        [&] { s.Resultados.SRepresa.Dimensiona(s.Red.NroRepresas(), Suma16(s.Resultados.NroPasosQ, 1)); });
+    c.Intenta([&] { s.Resultados.HLago.Dimensiona(s.Red.NroLagos(), Suma16(s.Resultados.NroPasosQ, 1)); });
+    c.Intenta([&] { s.Resultados.SLago.Dimensiona(s.Red.NroLagos(), Suma16(s.Resultados.NroPasosQ, 1)); });
     if (s.Tormenta.FormaPp == model::FormaLluvia::PorUEH) return;
-    for (int i = 1; i <= s.Red.NroUEHs; ++i)
+    for (int i = 1; i <= s.Red.NroUEHs(); ++i)
         c.Intenta([&] { s.Tormenta.PpUEH(i) = 0; });
 }
 
@@ -145,21 +145,21 @@ void DimensionaResultados(Corrida& c)
         s.Resultados.QSale.Dimensiona(s.Resultados.NroComponentes, Suma16(s.Resultados.NroPasosQ, 1));
     });
     c.Intenta([&] {
-        s.Resultados.QEntra.Dimensiona(Suma16(s.Red.NroUEHs, 1), Suma16(s.Resultados.NroComponentes, 1),
+        s.Resultados.QEntra.Dimensiona(Suma16(s.Red.NroUEHs(), 1), Suma16(s.Resultados.NroComponentes, 1),
                                        Suma16(s.Resultados.NroPasosQ, 1));
     });
     if (s.Tormenta.FormaPp != model::FormaLluvia::SeriePDR) {
         s.Serie.NroSeriePDR = 1;
         s.Serie.IndSerie = 1;
     }
-    if (s.Serie.NroSeriePDR == 1) s.Resultados.DimensionaTormentas(s.Red.NroUEHs, 1);
+    if (s.Serie.NroSeriePDR == 1) s.Resultados.DimensionaTormentas(s.Red.NroUEHs(), 1);
 }
 
 bool PreparaUEHs(Corrida& c)
 {
     Siro& s = c.s;
     if (s.Control.ErrorRed || !OrdenaRed(c)) return Rechaza(s, std::string(RedConErrores));
-    for (int i = 1; i <= s.Red.NroUEHs; ++i) {
+    for (int i = 1; i <= s.Red.NroUEHs(); ++i) {
         c.Intenta([&] { c.RetencionRestante(i) = s.Red.UEHs(i).RetensionZ; });
         c.Intenta([&] { s.Resultados.PasosInfiltra(i) = 1; });
         c.Intenta([&] { s.Resultados.VolUEH(i) = 0; });
@@ -184,7 +184,7 @@ void ReservaTexto(const Corrida& c)
     constexpr std::size_t DePaso = 78, PorUEH = 29, DeDetalle = 106, DeEmbalse = 61, DeCauce = 38;
     constexpr std::size_t DeResumen = 512, Tope = 64 << 20;
     const auto cuenta = [](int n) { return static_cast<std::size_t>(std::max(n, 0)); };
-    const std::size_t UEHs = cuenta(s.Red.NroUEHs), pasosQ = cuenta(s.Resultados.NroPasosQ) + 1;
+    const std::size_t UEHs = cuenta(s.Red.NroUEHs()), pasosQ = cuenta(s.Resultados.NroPasosQ) + 1;
     const std::size_t embalses = cuenta(s.Red.ColRepresas.Cuenta()) + cuenta(s.Red.ColLagos.Cuenta());
     std::size_t bytes = pasosQ * (PorUEH * UEHs + DeDetalle * embalses);
     if (s.Control.SalidaPizarra)
@@ -225,7 +225,7 @@ bool ProcesaComponente(Corrida& c, int fila)
 
 bool RecorreSecuencia(Corrida& c)
 {
-    for (int fila = std::max(c.s.Red.NroUEHs + 1, 0); fila <= c.s.Resultados.NroComponentes; ++fila)
+    for (int fila = std::max(c.s.Red.NroUEHs() + 1, 0); fila <= c.s.Resultados.NroComponentes; ++fila)
         if (!ProcesaComponente(c, fila)) return false;
     return true;
 }
@@ -267,7 +267,7 @@ bool Corrida::Alcanzan() const
     const int pasos = r.NroPasosQ, filas = r.NroComponentes, tormenta = s.Serie.IndSerie;
     return s.Pasos.PasoQ >= 1 && pasos >= 1 && pasos * s.Pasos.PasoQ <= INT16_MAX &&
            r.QSale.UltimaFila() >= filas && r.QSale.TopeColumna() >= pasos &&
-           r.QEntra.PrimeraFila() <= s.Red.NroUEHs + 1 && r.QEntra.UltimaFila() >= filas &&
+           r.QEntra.PrimeraFila() <= s.Red.NroUEHs() + 1 && r.QEntra.UltimaFila() >= filas &&
            r.QEntra.TopeColumna() >= pasos && r.QMax.UltimaFila() >= filas && tormenta >= 0 &&
            r.QMax.TopeColumna() >= tormenta;
 }
@@ -275,7 +275,7 @@ bool Corrida::Alcanzan() const
 bool Corrida::UEHsAlcanzan() const
 {
     const model::Resultados& r = s.Resultados;
-    const int n = s.Red.NroUEHs;
+    const int n = s.Red.NroUEHs();
     return Alcanzan() && n >= 1 && n <= r.NroComponentes && n <= s.Red.ColUEHs.Cuenta() &&
            n <= model::MaxUEHs && r.PpUEHPaso.UltimaFila() >= n && r.PasosInfiltra.Tope() >= n &&
            RetencionRestante.Tope() >= n && r.VolUEH.Tope() >= n && r.VolBaseUEH.Tope() >= n &&

@@ -126,7 +126,8 @@ bool TerminaSerie(Siro& s)
 
 void EscribeEncabezado(Siro& s, model::EscritorRegistros& archivo)
 {
-    const std::string conf = model::Ruta(s.Proyecto.DirProyecto, s.Proyecto.NombreProyecto) + "_Conf.vlm";
+    const std::string conf =
+        model::Ruta(s.Proyecto.DirProyecto, model::ArchivoConf(s.Proyecto.NombreProyecto));
     const std::string operador = s.Configuracion.Operador + " - " + s.Anfitrion.FechaHora();
     for (const std::string_view texto :
          {std::string_view("SIRO - Modelo de Simulación Hidrológica"), std::string_view(conf),
@@ -149,7 +150,7 @@ void EscribeResultado(Siro& s, model::EscritorRegistros& archivo, int fila)
         .Numero(s.Serie.SerieP(numero));
     archivo.Numero(std::int32_t{s.Serie.SerieD(numero)}).Numero(std::int32_t{s.Serie.SerieR(numero)});
     archivo.Numero(model::Redondea(s.Resultados.QMax(fila, numero), 2));
-    if (fila <= s.Red.NroUEHs)
+    if (fila <= s.Red.NroUEHs())
         archivo.Numero(s.Resultados.EscUEH(fila, numero))
             .Numero(model::Redondea(s.Resultados.CoefEscUEH(fila, numero), 2));
     archivo.FinRegistro();
@@ -195,7 +196,7 @@ bool Deseleccionada(const std::array<std::int16_t, N>& valores, const std::array
 FinSerie CorreSerie(Siro& s, int hilos)
 {
     AbreSerie(s);
-    if (s.Serie.NroSeriePDR >= 0) s.Resultados.DimensionaTormentas(s.Red.NroUEHs, s.Serie.NroSeriePDR);
+    if (s.Serie.NroSeriePDR >= 0) s.Resultados.DimensionaTormentas(s.Red.NroUEHs(), s.Serie.NroSeriePDR);
     if (s.Serie.NroSeriePDR < 1) {
         model::Advierte(s, std::string(SinTormentasPDR));
         s.Anfitrion.CierraAvance();

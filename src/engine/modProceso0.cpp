@@ -4,6 +4,7 @@
 #include "engine/mdlProceso1.h"
 #include "engine/modDistriPp.h"
 #include "hydraulics/mdlFQs.h"
+#include "model/ArchivoConf.h"
 #include "model/Avisos.h"
 #include "model/Componentes.h"
 #include "model/Configuracion.h"
@@ -39,14 +40,14 @@ void CargaProyecto(Siro& s)
 {
     model::leoConf(s);
     model::LeeUEHs(s);
-    if (s.Red.NroRepresas > 0) {
+    if (s.Red.NroRepresas() > 0) {
         model::LeeTablaHQRepresa(s);
         model::LeeTablaHSVRepresa(s);
     }
-    if (s.Red.NroLagos > 0) model::LeeTablaHSVQLago(s);
+    if (s.Red.NroLagos() > 0) model::LeeTablaHSVQLago(s);
     s.Anfitrion.carga_lbl_proyecto();
     model::Sentencia([&] { hydraulics::CargaFQs(s.Red); }, model::AvisaMotor(s));
-    if (s.Red.NroRepresas >= 1) s.Anfitrion.HabilitaVerificacion();
+    if (s.Red.NroRepresas() >= 1) s.Anfitrion.HabilitaVerificacion();
 }
 
 bool CorreUnaTormenta(Siro& s)

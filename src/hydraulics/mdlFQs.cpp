@@ -57,8 +57,8 @@ RangoAlturas RangoFunciones(const Represa& represa)
 
 void CargaFQs(Red& red)
 {
-    red.FQActiva.Dimensiona(red.NroRepresas, NroFuncionesFQ);
-    red.FQCoef.assign(static_cast<std::size_t>(red.NroRepresas) + 1, {});
+    red.FQActiva.Dimensiona(red.NroRepresas(), NroFuncionesFQ);
+    red.FQCoef.assign(static_cast<std::size_t>(red.NroRepresas()) + 1, {});
     for (const Represa& r : red.ColRepresas)
         CopiaFQs(red, r);
 }

@@ -204,7 +204,7 @@ void ListaHQ(Siro& s, const CompActual& r)
 
 void VerificaHSV(Siro& s)
 {
-    if (s.Red.NroRepresas == 0) return;
+    if (s.Red.NroRepresas() == 0) return;
     Comando(s, [&] {
         model::LeeTablaHSVRepresa(s);
         const double numero =
@@ -221,7 +221,7 @@ void VerificaHSV(Siro& s)
 
 void VerificaHQ(Siro& s)
 {
-    if (s.Red.NroRepresas == 0) return;
+    if (s.Red.NroRepresas() == 0) return;
     Comando(s, [&] {
         model::LeeTablaHQRepresa(s);
         AgregaRenglon(s, TituloHQ);

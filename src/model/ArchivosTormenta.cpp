@@ -2,7 +2,8 @@
 #include "model/ArchivosTormenta.h"
 
 #include <algorithm>
-#include <utility>
+#include <concepts>
+#include <cstddef>
 
 #include "model/Avisos.h"
 #include "model/EscrituraInformada.h"
@@ -43,18 +44,15 @@ void Ajusta(Matriz<T>& tabla, int ultimaFila, int columnas)
     }
 }
 
-std::int16_t& Filas(Siro& s, int k)
-{
-    return s.TablasDeLluvia.NroFilasTabla[static_cast<std::size_t>(k)];
-}
-
 // Both table files leave nothing to be seen of tables 1 to 3 where they can't be read to their end. Slot 0
 // is no concern of a failure.
-void AnulaFilas(Siro& s)
+void AnulaFilas(TablasDeLluvia& t)
 {
-    std::fill(s.TablasDeLluvia.NroFilasTabla.begin() + 1, s.TablasDeLluvia.NroFilasTabla.end(),
-              std::int16_t{0});
+    std::fill(t.NroFilasTabla.begin() + 1, t.NroFilasTabla.end(), std::int16_t{0});
 }
+
+// A file is described once, by the walk over its records: `archivo` reads or writes them. `haceLugar` is
+// called where a reader knows how much is to come.
 
 // --- real storms ---
 
@@ -76,106 +74,78 @@ void AbreTormenta(Siro& s, TormentaReal& tormenta)
     s.Proyecto.ArchivoTemp = Ruta(s.Proyecto.DirProyecto, tormenta.nombre);
 }
 
-void LeeCabeceraPpReal(Siro& s, TormentaReal& tormenta, LectorRegistros& lector)
+void RecorrePpReal(auto& archivo, Tormenta& enMano, TormentaReal& tormenta, auto&& haceLugar)
 {
-    tormenta.Notas = lector.Texto();
-    lector.Registro(2, [&] {
-        const auto n = lector.Numero16();
-        tormenta.PasoPpReal = lector.Numero16();
-        s.Tormenta.NroPpReal = n;
-    });
-    lector.Registro(2, [&] {
-        std::string fecha = lector.Texto();
-        tormenta.txtTimeI = lector.Texto();
-        tormenta.txtDateI = std::move(fecha);
-    });
-    lector.Registro(2, [&] {
-        std::string fecha = lector.Texto();
-        tormenta.txtTimeF = lector.Texto();
-        tormenta.txtDateF = std::move(fecha);
-    });
-}
-
-void LeeIntervalos(Siro& s, LectorRegistros& lector)
-{
-    s.Tormenta.PpReal.Redimensiona(s.Tormenta.NroPpReal);
-    for (int j = 0; j <= s.Tormenta.NroPpReal; ++j)
-        s.Tormenta.PpReal(j) = 0;
-    for (int j = 1; j <= s.Tormenta.NroPpReal; ++j)
-        s.Tormenta.PpReal(j) = lector.NumeroSimple();
+    archivo.Registro([&](auto& r) { r.Campos(tormenta.Notas); });
+    archivo.Registro([&](auto& r) { r.Campos(enMano.NroPpReal, tormenta.PasoPpReal); });
+    archivo.Registro([&](auto& r) { r.Campos(tormenta.txtDateI, tormenta.txtTimeI); });
+    archivo.Registro([&](auto& r) { r.Campos(tormenta.txtDateF, tormenta.txtTimeF); });
+    haceLugar();
+    for (int j = 1; j <= enMano.NroPpReal; ++j)
+        archivo.Registro([&](auto& r) { r.Campos(enMano.PpReal(j)); });
 }
 
 // --- personal distributions ---
 
-void LeeUnaDisPer(Siro& s, LectorRegistros& lector, int k)
+void RecorreDisPer(auto& archivo, TablasDeLluvia& t, auto&& haceLugar)
 {
-    const auto ranura = static_cast<std::size_t>(k);
-    s.TablasDeLluvia.NotasDisPer[ranura] = lector.Texto();
-    lector.Registro(2, [&] {
-        const auto minima = lector.Numero16();
-        s.TablasDeLluvia.DurMaxPer[ranura] = lector.Numero16();
-        s.TablasDeLluvia.DurMinPer[ranura] = minima;
-    });
-    // The decimals that the file holds end here: the variable that takes the field is a whole number.
-    for (int j = 1; j <= Filas(s, k); ++j)
-        s.TablasDeLluvia.DisPerso(k, j) = lector.Numero16();
-}
-
-void EscribeUnaDisPer(Siro& s, EscrituraInformada& escritor, int k)
-{
-    const auto ranura = static_cast<std::size_t>(k);
-    escritor.Registro([&](EscritorRegistros& e) { e.Texto(s.TablasDeLluvia.NotasDisPer[ranura]); });
-    escritor.Registro([&](EscritorRegistros& e) {
-        e.Numero(s.TablasDeLluvia.DurMinPer[ranura]).Numero(s.TablasDeLluvia.DurMaxPer[ranura]);
-    });
-    for (int j = 1; j <= Filas(s, k); ++j)
-        escritor.Registro([&](EscritorRegistros& e) { e.Numero(s.TablasDeLluvia.DisPerso(k, j)); });
+    archivo.Registro([&](auto& r) { r.Campos(t.NroFilasTabla[1], t.NroFilasTabla[2], t.NroFilasTabla[3]); });
+    haceLugar();
+    for (std::size_t k = 1; k <= 3; ++k) {
+        archivo.Registro([&](auto& r) { r.Campos(t.NotasDisPer[k]); });
+        archivo.Registro([&](auto& r) { r.Campos(t.DurMinPer[k], t.DurMaxPer[k]); });
+        for (int j = 1; j <= t.NroFilasTabla[k]; ++j)
+            archivo.Registro([&](auto& r) {
+                float& porcentaje = t.DisPerso(static_cast<int>(k), j);
+                // The decimals that the file holds end here: the variable that takes the field is a whole
+                // one.
+                if constexpr (std::same_as<decltype(r), LectorRegistros&>)
+                    porcentaje = r.Numero16();
+                else
+                    r.Campos(porcentaje);
+            });
+    }
 }
 
 // --- tables of synthetic storms ---
 
-void LeeUnaTablaPDR(Siro& s, LectorRegistros& lector, int k)
+void RecorrePDRs(auto& archivo, TablasDeLluvia& t, auto&& haceLugar)
 {
-    s.TablasDeLluvia.NotasPDR[static_cast<std::size_t>(k)] = lector.Texto();
-    for (int j = 1; j <= Filas(s, k); ++j)
-        lector.Registro(3, [&] {
-            const auto p = lector.Numero16();
-            const auto d = lector.Numero16();
-            s.TablasDeLluvia.TablasR(k, j) = lector.Numero16();
-            s.TablasDeLluvia.TablasP(k, j) = p;
-            s.TablasDeLluvia.TablasD(k, j) = d;
-        });
-}
-
-void EscribeUnaTablaPDR(Siro& s, EscrituraInformada& escritor, int k)
-{
-    escritor.Registro(
-        [&](EscritorRegistros& e) { e.Texto(s.TablasDeLluvia.NotasPDR[static_cast<std::size_t>(k)]); });
-    for (int j = 1; j <= Filas(s, k); ++j)
-        escritor.Registro([&](EscritorRegistros& e) {
-            e.Numero(s.TablasDeLluvia.TablasP(k, j))
-                .Numero(s.TablasDeLluvia.TablasD(k, j))
-                .Numero(s.TablasDeLluvia.TablasR(k, j));
-        });
+    auto& n = t.NroFilasTabla;
+    archivo.Registro([&](auto& r) { r.Campos(n[0], n[1], n[2], n[3]); });
+    haceLugar();
+    for (std::size_t k = 0; k < n.size(); ++k) {
+        const int tabla = static_cast<int>(k);
+        archivo.Registro([&](auto& r) { r.Campos(t.NotasPDR[k]); });
+        for (int j = 1; j <= n[k]; ++j)
+            archivo.Registro(
+                [&](auto& r) { r.Campos(t.TablasP(tabla, j), t.TablasD(tabla, j), t.TablasR(tabla, j)); });
+    }
 }
 
 /// Copies the rows of the table in use into the series of the run.
 void CargaSerie(Siro& s)
 {
-    if (s.Tormenta.TablaPDR < 1 || s.Tormenta.TablaPDR > 3) s.Tormenta.TablaPDR = 0;
-    const auto n = Filas(s, s.Tormenta.TablaPDR);
+    std::int16_t& tabla = s.Tormenta.TablaPDR;
+    if (tabla < 1 || tabla > 3) tabla = 0;
+    const auto n = s.TablasDeLluvia.NroFilasTabla[static_cast<std::size_t>(tabla)];
     s.Serie.SerieP.Dimensiona(n);
     s.Serie.SerieD.Dimensiona(n);
     s.Serie.SerieR.Dimensiona(n);
     s.Serie.NroSeriePDR = n;
     for (int j = 1; j <= n; ++j) {
-        s.Serie.SerieP(j) = s.TablasDeLluvia.TablasP(s.Tormenta.TablaPDR, j);
-        s.Serie.SerieD(j) = s.TablasDeLluvia.TablasD(s.Tormenta.TablaPDR, j);
-        s.Serie.SerieR(j) = s.TablasDeLluvia.TablasR(s.Tormenta.TablaPDR, j);
+        s.Serie.SerieP(j) = s.TablasDeLluvia.TablasP(tabla, j);
+        s.Serie.SerieD(j) = s.TablasDeLluvia.TablasD(tabla, j);
+        s.Serie.SerieR(j) = s.TablasDeLluvia.TablasR(tabla, j);
     }
 }
 
 // --- list of single storms ---
+
+void RecorreTormenta(auto& archivo, Tormenta& t)
+{
+    archivo.Registro([&](auto& r) { r.Campos(t.PpTormenta, t.DurTormenta, t.RecTormenta); });
+}
 
 /// Drops up to n leading characters of a UTF-8 text.
 std::string_view SinPrimeros(std::string_view texto, std::size_t n)
@@ -262,16 +232,20 @@ std::string ArchivoTormentaNueva(std::string_view respuesta)
 void LeePpReal(Siro& s, TormentaReal& tormenta)
 {
     AbreTormenta(s, tormenta);
+    Tormenta& enMano = s.Tormenta;
     try {
         LectorRegistros lector(s.Disco.Lee(s.Proyecto.ArchivoTemp));
-        LeeCabeceraPpReal(s, tormenta, lector);
-        LeeIntervalos(s, lector);
-        s.Tormenta.DurTormenta = Producto16(s.Tormenta.NroPpReal, tormenta.PasoPpReal);
-        s.Tormenta.PpTormenta = 0;
-        for (int j = 1; j <= s.Tormenta.NroPpReal; ++j)
-            s.Tormenta.PpTormenta = Simple(double{s.Tormenta.PpTormenta} + double{s.Tormenta.PpReal(j)});
+        RecorrePpReal(lector, enMano, tormenta, [&] {
+            enMano.PpReal.Redimensiona(enMano.NroPpReal);
+            for (int j = 0; j <= enMano.NroPpReal; ++j)
+                enMano.PpReal(j) = 0;
+        });
+        enMano.DurTormenta = Producto16(enMano.NroPpReal, tormenta.PasoPpReal);
+        enMano.PpTormenta = 0;
+        for (int j = 1; j <= enMano.NroPpReal; ++j)
+            enMano.PpTormenta = Simple(double{enMano.PpTormenta} + double{enMano.PpReal(j)});
     } catch (const Falla&) {
-        s.Tormenta.NroPpReal = 0;
+        enMano.NroPpReal = 0;
     }
 }
 
@@ -282,14 +256,7 @@ void GuardaPpReal(Siro& s, TormentaReal& tormenta)
     s.Tormenta.PpReal.Redimensiona(s.Tormenta.NroPpReal);
     EscritorRegistros escritor(s.Disco);
     escritor.Abre(s.Proyecto.ArchivoTemp);
-    escritor.Texto(tormenta.Notas).FinRegistro();
-    escritor.Numero(std::int32_t{s.Tormenta.NroPpReal})
-        .Numero(std::int32_t{tormenta.PasoPpReal})
-        .FinRegistro();
-    escritor.Texto(tormenta.txtDateI).Texto(tormenta.txtTimeI).FinRegistro();
-    escritor.Texto(tormenta.txtDateF).Texto(tormenta.txtTimeF).FinRegistro();
-    for (int j = 1; j <= s.Tormenta.NroPpReal; ++j)
-        escritor.Numero(s.Tormenta.PpReal(j)).FinRegistro();
+    RecorrePpReal(escritor, s.Tormenta, tormenta, [] {});
     try {
         escritor.Cierra();
     } catch (const Falla&) {
@@ -303,23 +270,18 @@ void GuardaPpReal(Siro& s, TormentaReal& tormenta)
 void LeeTablaDisTemPer(Siro& s)
 {
     s.Proyecto.ArchivoTemp = Ruta(s.Proyecto.DirTrabajo, ArchivoDisPer);
+    TablasDeLluvia& t = s.TablasDeLluvia;
     try {
         LectorRegistros lector(s.Disco.Lee(s.Proyecto.ArchivoTemp));
-        lector.Registro(3, [&] {
-            const auto n1 = lector.Numero16();
-            const auto n2 = lector.Numero16();
-            Filas(s, 3) = lector.Numero16();
-            Filas(s, 1) = n1;
-            Filas(s, 2) = n2;
+        RecorreDisPer(lector, t, [&] {
+            const auto mayor = std::max({t.NroFilasTabla[1], t.NroFilasTabla[2], t.NroFilasTabla[3]});
+            Ajusta(t.DisPerso, 3, Suma16(mayor, 1));
+            for (std::size_t k = 1; k <= 3; ++k)
+                for (int j = 1; j <= t.NroFilasTabla[k]; ++j)
+                    t.DisPerso(static_cast<int>(k), j) = 0;
         });
-        Ajusta(s.TablasDeLluvia.DisPerso, 3, Suma16(std::max({Filas(s, 1), Filas(s, 2), Filas(s, 3)}), 1));
-        for (int k = 1; k <= 3; ++k)
-            for (int j = 1; j <= Filas(s, k); ++j)
-                s.TablasDeLluvia.DisPerso(k, j) = 0;
-        for (int k = 1; k <= 3; ++k)
-            LeeUnaDisPer(s, lector, k);
     } catch (const Falla&) {
-        AnulaFilas(s);
+        AnulaFilas(t);
     }
 }
 
@@ -327,10 +289,7 @@ bool GuardaTablaDisPer(Siro& s)
 {
     s.Proyecto.ArchivoTemp = Ruta(s.Proyecto.DirTrabajo, ArchivoDisPer);
     EscrituraInformada escritor(s, s.Proyecto.ArchivoTemp, NumeroFalla::ArchivoNoEsta);
-    escritor.Registro(
-        [&](EscritorRegistros& e) { e.Numero(Filas(s, 1)).Numero(Filas(s, 2)).Numero(Filas(s, 3)); });
-    for (int k = 1; k <= 3; ++k)
-        EscribeUnaDisPer(s, escritor, k);
+    RecorreDisPer(escritor, s.TablasDeLluvia, [] {});
     return escritor.Cierra();
 }
 
@@ -339,25 +298,18 @@ bool GuardaTablaDisPer(Siro& s)
 void LeeTablaPDRs(Siro& s)
 {
     s.Proyecto.ArchivoTemp = Ruta(s.Proyecto.DirTrabajo, ArchivoPDRs);
+    TablasDeLluvia& t = s.TablasDeLluvia;
     try {
         LectorRegistros lector(s.Disco.Lee(s.Proyecto.ArchivoTemp));
-        lector.Registro(4, [&] {
-            std::array<std::int16_t, 4> filas{};
-            for (auto& n : filas)
-                n = lector.Numero16();
-            s.TablasDeLluvia.NroFilasTabla = filas;
+        RecorrePDRs(lector, t, [&] {
+            const auto tope = Suma16(*std::max_element(t.NroFilasTabla.begin(), t.NroFilasTabla.end()), 1);
+            Ajusta(t.TablasP, 4, tope);
+            Ajusta(t.TablasD, 4, tope);
+            Ajusta(t.TablasR, 4, tope);
         });
-        const auto tope = Suma16(
-            *std::max_element(s.TablasDeLluvia.NroFilasTabla.begin(), s.TablasDeLluvia.NroFilasTabla.end()),
-            1);
-        Ajusta(s.TablasDeLluvia.TablasP, 4, tope);
-        Ajusta(s.TablasDeLluvia.TablasD, 4, tope);
-        Ajusta(s.TablasDeLluvia.TablasR, 4, tope);
-        for (int k = 0; k <= 3; ++k)
-            LeeUnaTablaPDR(s, lector, k);
         CargaSerie(s);
     } catch (const Falla&) {
-        AnulaFilas(s);
+        AnulaFilas(t);
     }
 }
 
@@ -365,12 +317,7 @@ bool GuardaTablaPDRs(Siro& s)
 {
     s.Proyecto.ArchivoTemp = Ruta(s.Proyecto.DirTrabajo, ArchivoPDRs);
     EscrituraInformada escritor(s, s.Proyecto.ArchivoTemp, NumeroFalla::ArchivoNoEsta);
-    escritor.Registro([&](EscritorRegistros& e) {
-        for (const auto n : s.TablasDeLluvia.NroFilasTabla)
-            e.Numero(n);
-    });
-    for (int k = 0; k <= 3; ++k)
-        EscribeUnaTablaPDR(s, escritor, k);
+    RecorrePDRs(escritor, s.TablasDeLluvia, [] {});
     return escritor.Cierra();
 }
 
@@ -402,13 +349,7 @@ void leeListaPpDurRec(Siro& s, std::vector<std::string>& cmbPDR)
     try {
         LectorRegistros lector(s.Disco.Lee(s.Proyecto.ArchivoTemp));
         while (!lector.Fin() && cmbPDR.size() < MaximoDeLista) {
-            lector.Registro(3, [&] {
-                const auto p = lector.NumeroSimple();
-                const auto d = lector.Numero16();
-                s.Tormenta.RecTormenta = lector.Numero16();
-                s.Tormenta.PpTormenta = p;
-                s.Tormenta.DurTormenta = d;
-            });
+            RecorreTormenta(lector, s.Tormenta);
             cmbPDR.push_back(TextoPDR(s.Tormenta.PpTormenta, s.Tormenta.DurTormenta, s.Tormenta.RecTormenta));
         }
     } catch (const Falla&) {
@@ -426,11 +367,7 @@ bool GuardaListaPDR(Siro& s, const std::vector<std::string>& cmbPDR, const Campo
     for (const std::string& item : cmbPDR) {
         if (item.empty()) continue;
         escritor.Paso([&] { ParsePDR(s, item); });
-        escritor.Registro([&](EscritorRegistros& e) {
-            e.Numero(s.Tormenta.PpTormenta)
-                .Numero(std::int32_t{s.Tormenta.DurTormenta})
-                .Numero(std::int32_t{s.Tormenta.RecTormenta});
-        });
+        RecorreTormenta(escritor, s.Tormenta);
     }
     const bool guardada = escritor.Cierra();
     if (!escritor.Sigue()) {

@@ -15,7 +15,7 @@ namespace model {
 
 namespace {
 
-constexpr std::string_view Terminacion = "_Conf.vlm.lock";
+constexpr std::string_view FinCandado = ".lock";
 constexpr std::string_view Titulo = "Proyecto abierto dos veces";
 constexpr std::string_view Abierto1 = "El proyecto ";
 constexpr std::string_view Abierto2 = " está abierto también en otro SIRO (";
@@ -59,7 +59,7 @@ std::string ConfEnMano(const Siro& s)
 {
     return s.Proyecto.NombreProyecto.empty()
                ? std::string{}
-               : Ruta(s.Proyecto.DirProyecto, s.Proyecto.NombreProyecto + "_Conf.vlm");
+               : Ruta(s.Proyecto.DirProyecto, ArchivoConf(s.Proyecto.NombreProyecto));
 }
 
 void Reclama(Siro& s)
@@ -94,12 +94,12 @@ std::string RutaDeCandado(std::string_view conf)
 {
     const std::size_t separador = conf.rfind(Separador);
     const std::size_t nombre = separador == std::string_view::npos ? 0 : separador + 1;
-    return std::string(conf.substr(0, nombre)).append(".").append(conf.substr(nombre)).append(".lock");
+    return std::string(conf.substr(0, nombre)).append(".").append(conf.substr(nombre)).append(FinCandado);
 }
 
 bool EsCandado(std::string_view nombre)
 {
-    return nombre.starts_with('.') && nombre.ends_with(Terminacion);
+    return nombre.starts_with('.') && nombre.ends_with(std::string(TerminacionConf).append(FinCandado));
 }
 
 void ReclamaProyecto(Siro& s)

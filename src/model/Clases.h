@@ -24,7 +24,6 @@ struct DeClase<UEH> {
     static constexpr Clase clase = Clase::UEH;
     static constexpr std::string_view prefijo = "u-";  ///< begins the names of this kind
     static constexpr auto coleccion = &Red::ColUEHs;
-    static constexpr auto cuenta = &Red::NroUEHs;
     static constexpr auto nombre = &UEH::NombreUEH;
     static constexpr auto numero = &UEH::numUEH;
     static constexpr auto x = &UEH::IconoUEHx, y = &UEH::IconoUEHy;
@@ -35,7 +34,6 @@ struct DeClase<Cauce> {
     static constexpr Clase clase = Clase::Cauce;
     static constexpr std::string_view prefijo = "c-";
     static constexpr auto coleccion = &Red::ColCauces;
-    static constexpr auto cuenta = &Red::NroCauces;
     static constexpr auto nombre = &Cauce::NombreCauce;
     static constexpr auto numero = &Cauce::numCauce;
 };
@@ -45,7 +43,6 @@ struct DeClase<Lago> {
     static constexpr Clase clase = Clase::Lago;
     static constexpr std::string_view prefijo = "l-";
     static constexpr auto coleccion = &Red::ColLagos;
-    static constexpr auto cuenta = &Red::NroLagos;
     static constexpr auto nombre = &Lago::NombreLAGO;
     static constexpr auto numero = &Lago::numLAGO;
     static constexpr auto x = &Lago::IconoLAGOx, y = &Lago::IconoLAGOy;
@@ -56,7 +53,6 @@ struct DeClase<Represa> {
     static constexpr Clase clase = Clase::Represa;
     static constexpr std::string_view prefijo = "r-";
     static constexpr auto coleccion = &Red::ColRepresas;
-    static constexpr auto cuenta = &Red::NroRepresas;
     static constexpr auto nombre = &Represa::NombreRepresa;
     static constexpr auto numero = &Represa::numRepresa;
     static constexpr auto x = &Represa::IconoRepresaX, y = &Represa::IconoRepresaY;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <utility>
 #include <vector>
 
@@ -25,12 +26,27 @@ class Coleccion {
     auto begin() const { return componentes.begin(); }
     auto end() const { return componentes.end(); }
     [[nodiscard]] int Cuenta() const { return static_cast<int>(componentes.size()); }
+    /// How many the network counts: those that are there, unless another number has been announced.
+    [[nodiscard]] std::int16_t Nro() const { return nro; }
+    /// Makes another number count until a component comes or goes: a reach is being drawn, a file breaks off.
+    void Anuncia(std::int16_t n) { nro = n; }
+    /// Makes those count that are there, and returns how many.
+    std::int16_t Recuenta() { return nro = static_cast<std::int16_t>(componentes.size()); }
     /// The n-th component of the collection, n from 1 to Cuenta(); the array's limit plays no part.
     T& Item(int n) { return componentes[static_cast<std::size_t>(n) - 1]; }
     const T& Item(int n) const { return componentes[static_cast<std::size_t>(n) - 1]; }
-    T& Agrega(T componente) { return componentes.emplace_back(std::move(componente)); }
-    void Quita(int n) { componentes.erase(componentes.begin() + (n - 1)); }
-    void Vacia() { componentes.clear(); }
+    T& Agrega(T componente)
+    {
+        componentes.push_back(std::move(componente));
+        Recuenta();
+        return componentes.back();
+    }
+    void Quita(int n)
+    {
+        componentes.erase(componentes.begin() + (n - 1));
+        Recuenta();
+    }
+    void Vacia() { *this = {}; }
     bool operator==(const Coleccion&) const = default;
 
   private:
@@ -40,7 +56,8 @@ class Coleccion {
         if (n == 0 || n > Cuenta()) throw Falla{NumeroFalla::ObjetoNoEstablecido};
         return static_cast<std::size_t>(n) - 1;
     }
-    std::vector<T> componentes;
+    std::vector<T> componentes{};
+    std::int16_t nro = 0;
 };
 
 }  // namespace model

@@ -2,24 +2,23 @@
 #include "model/Componentes.h"
 
 #include <algorithm>
-#include <array>
+#include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 #include <type_traits>
-#include <unordered_map>
 #include <utility>
-#include <variant>
 #include <vector>
 
 #include "model/Avisos.h"
 #include "model/Candado.h"
+#include "model/Clases.h"
 #include "model/EscrituraInformada.h"
 #include "model/Falla.h"
 #include "model/Numeros.h"
+#include "model/OrdenCauces.h"
 #include "model/Registros.h"
 #include "model/RutaProyecto.h"
 #include "model/Siro.h"
@@ -41,142 +40,68 @@ constexpr std::string_view AvisoGuardado =
 constexpr std::string_view AvisoNoSeBorra =
     "La red está vacía porque no se pudieron leer sus archivos. Los archivos quedan como están.";
 
-constexpr int PasadasOrden = 10;
-
 // --- the fields of the records ---
 
-/// The component's number: written as it stands, read and thrown away, since reading numbers anew.
-template <typename T>
-struct NumeroCorrido {
-    std::int16_t T::*propiedad;
-};
+template <typename A, typename T>
+concept De = std::same_as<std::remove_const_t<A>, T>;
 
-/// A property that may never have been given a value; it is then written as nothing, an empty line.
-template <typename T>
-struct TextoSinFijar {
-    std::string T::*propiedad;
-};
+// The fields of a component in the order of the file, a record each. `campo` reads or writes those that it is
+// handed: `Numero` the component's number, written as it stands, read and thrown away, since reading numbers
+// anew; `SinFijar` a property that may never have been given a value, an empty line then.
 
-/// A number of each outflow function that has it, a field each.
-template <typename T, typename X>
-struct Elementos {
-    std::array<X, NroFuncionesFQ> T::*propiedad;
-    std::size_t clase = 1;  ///< as FuncionDeRepresa counts them
-};
-
-/// A field of a component's record.
-template <typename T>
-struct CampoComponente {
-    std::variant<std::int16_t T::*, float T::*, bool T::*, std::string T::*, NumeroCorrido<T>,
-                 TextoSinFijar<T>, Elementos<T, float>, Elementos<T, std::int16_t>>
-        propiedad;
-    /// A statement of its own that follows the field's reading.
-    void (*luego)(Siro& s, const T& componente) = nullptr;
-};
-
-/// The drawing keeps the vertex count apart from the reach.
-void AnotaVertices(Siro& s, const Cauce& cauce)
+void CadaCampo(De<Cauce> auto& c, auto&& campo)
 {
-    s.Red.NroVertices(cauce.numCauce) = cauce.numVertices;
+    campo.Numero(c.numCauce);
+    campo(c.NombreCauce, c.numVertices, c.IndiceParInicial);
+    campo.AnotaVertices(c);
+    campo(c.Cauce_aa, c.VelMediaCauce, c.LongCauce, c.OrdenCauce, c.Cauce_k_Musk, c.Cauce_n_Musk);
+    campo(c.optDirMusk);
 }
 
-// The fields in the order of the file, a line each.
-// clang-format off
-constexpr auto CamposCauce = std::to_array<CampoComponente<Cauce>>({
-    {NumeroCorrido<Cauce>{&Cauce::numCauce}},
-    {&Cauce::NombreCauce},
-    {&Cauce::numVertices},
-    {&Cauce::IndiceParInicial, AnotaVertices},
-    {&Cauce::Cauce_aa},
-    {&Cauce::VelMediaCauce},
-    {&Cauce::LongCauce},
-    {&Cauce::OrdenCauce},
-    {&Cauce::Cauce_k_Musk},
-    {&Cauce::Cauce_n_Musk},
-    {&Cauce::optDirMusk},
-});
-
-constexpr auto CamposUEH = std::to_array<CampoComponente<UEH>>({
-    {NumeroCorrido<UEH>{&UEH::numUEH}},
-    {&UEH::NombreUEH},
-    {&UEH::Area},
-    {&UEH::Referencia},
-    {&UEH::LongitudMax},
-    {&UEH::VelMedia},
-    {TextoSinFijar<UEH>{&UEH::Metodo}},
-    {&UEH::IconoUEHx},
-    {&UEH::IconoUEHy},
-    {&UEH::XCauce},
-    {&UEH::YCauce},
-    {&UEH::Cauce_aa},
-    {&UEH::KostiakovA},
-    {&UEH::KostiakovB},
-    {&UEH::KostiakovI},
-    {&UEH::Q0Recesion},
-    {&UEH::KRecesion},
-    {&UEH::RetensionZ},
-});
-
-constexpr auto CamposRepresa = std::to_array<CampoComponente<Represa>>({
-    {NumeroCorrido<Represa>{&Represa::numRepresa}},
-    {&Represa::NombreRepresa},
-    {&Represa::IconoRepresaX},
-    {&Represa::IconoRepresaY},
-    {TextoSinFijar<Represa>{&Represa::Metodo}},
-    {&Represa::XCauce},
-    {&Represa::YCauce},
-    {&Represa::Cauce_aa},
-    {&Represa::optTabla},
-    {Elementos<Represa, std::int16_t>{&Represa::chkFQ}},
-    {Elementos<Represa, float>{&Represa::FQa}},
-    {Elementos<Represa, float>{&Represa::FQb}},
-    {Elementos<Represa, float>{&Represa::FQc, 3}},
-    {&Represa::Represa_k_Musk},
-    {&Represa::Represa_n_Musk},
-    {Elementos<Represa, float>{&Represa::FQmin}},
-    {Elementos<Represa, float>{&Represa::FQMax}},
-    {&Represa::HInicialEmb},
-});
-
-constexpr auto CamposLago = std::to_array<CampoComponente<Lago>>({
-    {NumeroCorrido<Lago>{&Lago::numLAGO}},
-    {&Lago::NombreLAGO},
-    {&Lago::Referencia},
-    {TextoSinFijar<Lago>{&Lago::Metodo}},
-    {&Lago::IconoLAGOx},
-    {&Lago::IconoLAGOy},
-    {&Lago::XCauce},
-    {&Lago::YCauce},
-    {&Lago::Cauce_aa},
-    {&Lago::Lago_k_Musk},
-    {&Lago::HInicialEmb},
-});
-// clang-format on
-
-/// A kind of component as the file holds it: its count, then its records.
-template <typename T, int Limite>
-struct Grupo {
-    Coleccion<T, Limite> Red::*coleccion;
-    std::int16_t Red::*cuenta;
-    std::int16_t T::*numero;
-    std::span<const CampoComponente<T>> campos;
-};
-
-constexpr Grupo<Cauce, MaxCauces> GrupoCauces{&Red::ColCauces, &Red::NroCauces, &Cauce::numCauce,
-                                              CamposCauce};
-constexpr Grupo<UEH, MaxUEHs> GrupoUEHs{&Red::ColUEHs, &Red::NroUEHs, &UEH::numUEH, CamposUEH};
-constexpr Grupo<Represa, MaxRepresas> GrupoRepresas{&Red::ColRepresas, &Red::NroRepresas,
-                                                    &Represa::numRepresa, CamposRepresa};
-constexpr Grupo<Lago, MaxLagos> GrupoLagos{&Red::ColLagos, &Red::NroLagos, &Lago::numLAGO, CamposLago};
-
-/// Does something with each kind, in the order of the file.
-template <typename F>
-void PorGrupo(F hace)
+void CadaCampo(De<UEH> auto& u, auto&& campo)
 {
-    hace(GrupoCauces);
-    hace(GrupoUEHs);
-    hace(GrupoRepresas);
-    hace(GrupoLagos);
+    campo.Numero(u.numUEH);
+    campo(u.NombreUEH, u.Area, u.Referencia, u.LongitudMax, u.VelMedia);
+    campo.SinFijar(u.Metodo);
+    campo(u.IconoUEHx, u.IconoUEHy, u.XCauce, u.YCauce, u.Cauce_aa);
+    campo(u.KostiakovA, u.KostiakovB, u.KostiakovI, u.Q0Recesion, u.KRecesion, u.RetensionZ);
+}
+
+void CadaCampo(De<Represa> auto& r, auto&& campo)
+{
+    const auto deFunciones = [&](auto& numeros, std::size_t clase) {
+        for (std::size_t i = 0; i < numeros.size(); ++i)
+            if (FuncionesFQ[i].Lleva(clase)) campo(numeros[i]);
+    };
+    campo.Numero(r.numRepresa);
+    campo(r.NombreRepresa, r.IconoRepresaX, r.IconoRepresaY);
+    campo.SinFijar(r.Metodo);
+    campo(r.XCauce, r.YCauce, r.Cauce_aa, r.optTabla);
+    deFunciones(r.chkFQ, 1);
+    deFunciones(r.FQa, 1);
+    deFunciones(r.FQb, 2);
+    deFunciones(r.FQc, 3);
+    campo(r.Represa_k_Musk, r.Represa_n_Musk);
+    deFunciones(r.FQmin, 4);
+    deFunciones(r.FQMax, 5);
+    campo(r.HInicialEmb);
+}
+
+void CadaCampo(De<Lago> auto& l, auto&& campo)
+{
+    campo.Numero(l.numLAGO);
+    campo(l.NombreLAGO, l.Referencia);
+    campo.SinFijar(l.Metodo);
+    campo(l.IconoLAGOx, l.IconoLAGOy, l.XCauce, l.YCauce, l.Cauce_aa, l.Lago_k_Musk, l.HInicialEmb);
+}
+
+/// Does something with each collection, in the order of the file.
+void PorGrupo(auto& red, auto&& hace)
+{
+    hace(red.ColCauces);
+    hace(red.ColUEHs);
+    hace(red.ColRepresas);
+    hace(red.ColLagos);
 }
 
 std::string RutaDe(const Siro& s, std::string_view sufijo)
@@ -263,66 +188,49 @@ class Carga {
     NumeroFalla causa = NumeroFalla::AccesoRuta;
 };
 
-void Toma(LectorRegistros& lector, std::int16_t& x)
-{
-    x = lector.Numero16();
-}
-void Toma(LectorRegistros& lector, float& x)
-{
-    x = lector.NumeroSimple();
-}
-void Toma(LectorRegistros& lector, bool& x)
-{
-    x = lector.Logico();
-}
-void Toma(LectorRegistros& lector, std::string& x)
-{
-    x = lector.Texto();
-}
-
 /// Reads one value as a statement of its own. At fault, the value stays as it was.
 template <typename X>
 void LeeValor(Carga& carga, X& valor)
 {
-    carga.Paso([&] { Toma(carga.Archivo(), valor); });
+    carga.Paso([&] { carga.Archivo().Campos(valor); });
 }
 
-template <typename T>
-void LeeCampo(Carga& carga, const CampoComponente<T>& campo, T& componente)
-{
-    const auto lee = [&](const auto& propiedad) {
-        using Propiedad = std::decay_t<decltype(propiedad)>;
-        if constexpr (std::is_member_object_pointer_v<Propiedad>) {
-            LeeValor(carga, componente.*propiedad);
-        } else if constexpr (std::is_same_v<Propiedad, NumeroCorrido<T>>) {
-            std::int16_t descartado = 0;
-            LeeValor(carga, descartado);
-        } else if constexpr (std::is_same_v<Propiedad, TextoSinFijar<T>>) {
-            LeeValor(carga, componente.*propiedad.propiedad);
-        } else {
-            auto& elementos = componente.*propiedad.propiedad;
-            for (std::size_t i = 0; i < elementos.size(); ++i)
-                if (FuncionesFQ[i].Lleva(propiedad.clase)) LeeValor(carga, elementos[i]);
-        }
-    };
-    std::visit(lee, campo.propiedad);
-    if (campo.luego != nullptr) carga.Paso([&] { campo.luego(carga.s, componente); });
-}
+/// Reads the fields of a component, each as a statement of its own.
+class LeeCampos {
+  public:
+    explicit LeeCampos(Carga& unaCarga) : carga(unaCarga) {}
+    void operator()(auto&... campos) { (LeeValor(carga, campos), ...); }
+    void Numero(std::int16_t)
+    {
+        std::int16_t descartado = 0;
+        LeeValor(carga, descartado);
+    }
+    void SinFijar(std::string& texto) { LeeValor(carga, texto); }
+    /// The drawing keeps the vertex count apart from the reach.
+    void AnotaVertices(const Cauce& cauce)
+    {
+        carga.Paso([&] { carga.s.Red.NroVertices(cauce.numCauce) = cauce.numVertices; });
+    }
 
+  private:
+    Carga& carga;
+};
+
+/// A kind of component: its count, which stays where the file breaks off, then its records.
 template <typename T, int Limite>
-void LeeGrupo(Carga& carga, const Grupo<T, Limite>& grupo)
+void LeeGrupo(Carga& carga, Coleccion<T, Limite>& coleccion)
 {
-    Coleccion<T, Limite>& coleccion = carga.s.Red.*grupo.coleccion;
+    std::int16_t cuenta = 0;
     coleccion.Vacia();
-    LeeValor(carga, carga.s.Red.*grupo.cuenta);
-    const int cuenta = carga.s.Red.*grupo.cuenta;
+    LeeValor(carga, cuenta);
+    coleccion.Anuncia(cuenta);
     for (int n = 1; n <= cuenta; ++n) {
         T& componente = coleccion.Agrega(T{});
+        coleccion.Anuncia(cuenta);
         carga.Paso(
             [&] { static_cast<void>(coleccion.Ranura(n)); });  // its slot: beyond the array it has none
-        componente.*grupo.numero = static_cast<std::int16_t>(n);
-        for (const CampoComponente<T>& campo : grupo.campos)
-            LeeCampo(carga, campo, componente);
+        Numero(componente) = static_cast<std::int16_t>(n);
+        CadaCampo(componente, LeeCampos(carga));
     }
 }
 
@@ -339,7 +247,7 @@ void LeeArchivoUEHs(Carga& carga)
 {
     carga.Abre(SufijoUEHs);
     LeeNombre(carga);
-    PorGrupo([&](const auto& grupo) { LeeGrupo(carga, grupo); });
+    PorGrupo(carga.s.Red, [&](auto& coleccion) { LeeGrupo(carga, coleccion); });
     carga.Cierra();
 }
 
@@ -348,12 +256,7 @@ void LeePar(Carga& carga, int cauce, int vertice)
     carga.Paso([&] {
         float& x = carga.s.Red.XVertice(cauce, vertice);
         float& y = carga.s.Red.YVertice(cauce, vertice);
-        LectorRegistros& lector = carga.Archivo();
-        lector.Registro(2, [&] {
-            const float leidaX = lector.NumeroSimple();
-            y = lector.NumeroSimple();
-            x = leidaX;
-        });
+        carga.Archivo().Campos(x, y);
     });
 }
 
@@ -364,7 +267,7 @@ void LeeArchivoVerCau(Carga& carga)
     s.Red.XVertice.Dimensiona(MaxCauces, mayor);
     s.Red.YVertice.Dimensiona(MaxCauces, mayor);
     carga.Abre(SufijoVerCau);
-    for (int i = 1; i <= s.Red.NroCauces; ++i) {
+    for (int i = 1; i <= s.Red.NroCauces(); ++i) {
         bool ensancha = false;
         carga.Paso([&] { ensancha = s.Red.NroVertices(i) > mayor; });
         if (ensancha) {
@@ -384,81 +287,44 @@ void LeeArchivoVerCau(Carga& carga)
 
 void VaciaComponentes(Siro& s)
 {
-    PorGrupo([&](const auto& grupo) {
-        (s.Red.*grupo.coleccion).Vacia();
-        s.Red.*grupo.cuenta = 0;
-    });
+    CadaClase(s.Red, [](auto& coleccion) { coleccion.Vacia(); });
     s.Seleccion.CauceSel = s.Seleccion.CauceAnterior = s.Seleccion.UEHSel = s.Seleccion.RepresaSel =
         s.Seleccion.LagoSel = 0;
 }
 
 // --- writing ---
 
-void Pon(EscritorRegistros& escritor, std::int16_t x)
-{
-    escritor.Numero(std::int32_t{x});
-}
-void Pon(EscritorRegistros& escritor, float x)
-{
-    escritor.Numero(x);
-}
-void Pon(EscritorRegistros& escritor, bool x)
-{
-    escritor.Logico(x);
-}
-void Pon(EscritorRegistros& escritor, const std::string& x)
-{
-    escritor.Texto(x);
-}
-
 /// Writes one value as a line and a statement of its own.
-template <typename X>
-void EscribeValor(EscrituraInformada& archivo, const X& valor)
+void EscribeValor(EscrituraInformada& archivo, const auto& valor)
 {
-    archivo.Registro([&](EscritorRegistros& escritor) { Pon(escritor, valor); });
+    archivo.Registro([&](EscritorRegistros& escritor) { escritor.Campos(valor); });
 }
 
-template <typename T>
-void EscribeCampo(EscrituraInformada& archivo, const CampoComponente<T>& campo, const T& componente)
-{
-    const auto escribe = [&](const auto& propiedad) {
-        using Propiedad = std::decay_t<decltype(propiedad)>;
-        if constexpr (std::is_member_object_pointer_v<Propiedad>) {
-            EscribeValor(archivo, componente.*propiedad);
-        } else if constexpr (std::is_same_v<Propiedad, NumeroCorrido<T>>) {
-            EscribeValor(archivo, componente.*propiedad.propiedad);
-        } else if constexpr (std::is_same_v<Propiedad, TextoSinFijar<T>>) {
-            const std::string& texto = componente.*propiedad.propiedad;
-            archivo.Registro([&](EscritorRegistros& escritor) {
-                if (texto.empty()) {
-                    escritor.Vacio();
-                } else {
-                    Pon(escritor, texto);
-                }
-            });
-        } else {
-            const auto& elementos = componente.*propiedad.propiedad;
-            for (std::size_t i = 0; i < elementos.size(); ++i)
-                if (FuncionesFQ[i].Lleva(propiedad.clase)) EscribeValor(archivo, elementos[i]);
-        }
-    };
-    std::visit(escribe, campo.propiedad);
-}
+/// Writes the fields of a component.
+class EscribeCampos {
+  public:
+    explicit EscribeCampos(EscrituraInformada& unArchivo) : archivo(unArchivo) {}
+    void operator()(const auto&... campos) { (EscribeValor(archivo, campos), ...); }
+    void Numero(std::int16_t numero) { EscribeValor(archivo, numero); }
+    void SinFijar(const std::string& texto)
+    {
+        archivo.Registro([&](EscritorRegistros& e) { texto.empty() ? e.Vacio() : e.Texto(texto); });
+    }
+    void AnotaVertices(const Cauce&) {}
 
-template <typename T, int Limite>
-void EscribeGrupo(EscrituraInformada& archivo, const Siro& s, const Grupo<T, Limite>& grupo)
-{
-    EscribeValor(archivo, s.Red.*grupo.cuenta);
-    for (const T& componente : s.Red.*grupo.coleccion)
-        for (const CampoComponente<T>& campo : grupo.campos)
-            EscribeCampo(archivo, campo, componente);
-}
+  private:
+    EscrituraInformada& archivo;
+};
 
 std::optional<CambioArchivo> ArchivoUEHs(Siro& s)
 {
     EscrituraInformada archivo(s, Compone(s, SufijoUEHs));
     EscribeValor(archivo, s.Proyecto.NombreProyecto);
-    PorGrupo([&](const auto& grupo) { EscribeGrupo(archivo, s, grupo); });
+    PorGrupo(s.Red, [&](auto& coleccion) {
+        EscribeValor(archivo, coleccion.Nro());
+        for (auto& componente : coleccion)
+            CadaCampo(componente, EscribeCampos(archivo));
+    });
     return archivo.Toma();
 }
 
@@ -466,13 +332,13 @@ std::optional<CambioArchivo> ArchivoUEHs(Siro& s)
 std::optional<CambioArchivo> ArchivoVerCau(Siro& s)
 {
     EscrituraInformada archivo(s, Compone(s, SufijoVerCau));
-    for (int i = 1; i <= s.Red.NroCauces; ++i) {
+    for (int i = 1; i <= s.Red.NroCauces(); ++i) {
         int vertices = 0;
         archivo.Paso([&] { vertices = s.Red.NroVertices(i); });
         const int conLugar = VerticesConLugar(s, i, vertices);
         for (int j = 1; j <= conLugar; ++j)
             archivo.Registro([&](EscritorRegistros& escritor) {
-                escritor.Numero(s.Red.XVertice(i, j)).Numero(s.Red.YVertice(i, j));
+                escritor.Campos(s.Red.XVertice(i, j), s.Red.YVertice(i, j));
             });
         if (vertices > conLugar) archivo.Paso([] { throw Falla{NumeroFalla::Subindice}; });
     }
@@ -519,10 +385,10 @@ void Lee(Siro& s, const std::vector<CambioArchivo>& sabidos)
         Carga carga(s, sabidos);
         LeeArchivoUEHs(carga);
         LeeArchivoVerCau(carga);
-        if (s.Red.NroRepresas > 0) s.Anfitrion.HabilitaVerificacion();
+        if (s.Red.NroRepresas() > 0) s.Anfitrion.HabilitaVerificacion();
     } catch (const Falla& falla) {
         if (falla.numero == NumeroFalla::ArchivoNoEsta) {
-            s.Red.NroCauces = 0;
+            s.Red.ColCauces.Anuncia(0);
         } else {
             s.Control.CargaFallida = true;
             Advierte(s, std::string(AvisoDanado), {});
@@ -532,49 +398,9 @@ void Lee(Siro& s, const std::vector<CambioArchivo>& sabidos)
 
 bool SinComponentes(const Siro& s)
 {
-    return s.Red.NroCauces == 0 && s.Red.NroUEHs == 0 && s.Red.NroRepresas == 0 && s.Red.NroLagos == 0;
+    return s.Red.NroCauces() == 0 && s.Red.NroUEHs() == 0 && s.Red.NroRepresas() == 0 &&
+           s.Red.NroLagos() == 0;
 }
-
-// --- stream orders ---
-
-/// Components by the name that they drain into, each list in the order of the collection. Nobody drains into
-/// the empty name or "0", even where a component bears it.
-template <typename T>
-using PorDestino = std::unordered_map<std::string_view, std::vector<T*>>;
-
-template <typename T, int Limite>
-PorDestino<T> Agrupa(Coleccion<T, Limite>& coleccion)
-{
-    PorDestino<T> grupos;
-    for (T& componente : coleccion)
-        if (!componente.Cauce_aa.empty() && componente.Cauce_aa != "0")
-            grupos[componente.Cauce_aa].push_back(&componente);
-    return grupos;
-}
-
-template <typename T, typename F>
-void PorAfluente(const PorDestino<T>& grupos, const std::string& nombre, F hace)
-{
-    const auto grupo = grupos.find(nombre);
-    if (grupo == grupos.end()) return;
-    for (T* componente : grupo->second)
-        hace(*componente);
-}
-
-/// Order of a reach as its tributaries come one by one.
-struct OrdenCreciente {
-    bool primero = true;
-    std::int16_t orden = 0;
-
-    void Recibe(const Cauce& afluente)
-    {
-        if (!primero && orden == afluente.OrdenCauce) orden = Suma16(orden, 1);
-        if (orden < afluente.OrdenCauce) orden = afluente.OrdenCauce;
-        primero = false;
-    }
-    /// A reach without tributaries is of the first order.
-    [[nodiscard]] std::int16_t Orden() const { return primero ? std::int16_t{1} : orden; }
-};
 
 }  // namespace
 
@@ -601,29 +427,26 @@ void ReleeUEHs(Siro& s)
 
 void RenumeraComponentes(Siro& s)
 {
-    PorGrupo([&](const auto& grupo) {
+    CadaClase(s.Red, [](auto& coleccion) {
         std::int16_t numero = 0;
-        for (auto& componente : s.Red.*grupo.coleccion)
-            componente.*grupo.numero = ++numero;
+        for (auto& componente : coleccion)
+            Numero(componente) = ++numero;
     });
 }
 
 bool EscribeRed(Siro& s, std::vector<CambioArchivo>& escritos)
 {
     const auto cauces = s.Red.ColCauces;
-    const std::int16_t nroCauces = s.Red.NroCauces;
     escritos.clear();
-    Sentencia([&] { CalculaOrdenCauces(s); }, AvisaArchivo(s));
+    Sentencia([&] { CalculaOrdenCauces(s.Red); }, AvisaArchivo(s));
     if (SinComponentes(s)) {
         if (!s.Control.CargaFallida) return BorraArchivos(s);
         Advierte(s, std::string(AvisoNoSeBorra));
         return false;
     }
-    const bool contados =
-        Sentencia([&] { s.Red.NroCauces = Entero16(s.Red.ColCauces.Cuenta()); }, AvisaArchivo(s));
-    if (contados && ReemplazaArchivos(s, escritos)) return true;
+    const auto recuenta = [&] { s.Red.ColCauces.Anuncia(Entero16(s.Red.ColCauces.Cuenta())); };
+    if (Sentencia(recuenta, AvisaArchivo(s)) && ReemplazaArchivos(s, escritos)) return true;
     s.Red.ColCauces = cauces;
-    s.Red.NroCauces = nroCauces;
     return false;
 }
 
@@ -635,37 +458,13 @@ void AlGuardarse(Siro& s, const std::vector<CambioArchivo>& escritos)
     Informa(s, std::string(AvisoGuardado) + s.Proyecto.ArchivoTemp);
 }
 
-bool mnu_btn_toolbarGuardaUEHs(Siro& s)
+bool GuardaRed(Siro& s)
 {
     if (!PuedeGuardar(s, {RutaDe(s, SufijoUEHs), RutaDe(s, SufijoVerCau)})) return false;
     std::vector<CambioArchivo> escritos;
     if (!EscribeRed(s, escritos)) return false;
     AlGuardarse(s, escritos);
     return true;
-}
-
-void CalculaOrdenCauces(Siro& s)
-{
-    for (Cauce& cauce : s.Red.ColCauces)
-        cauce.OrdenCauce = 0;
-    const PorDestino<Cauce> cauces = Agrupa(s.Red.ColCauces);
-    const PorDestino<Lago> lagos = Agrupa(s.Red.ColLagos);
-    const PorDestino<Represa> represas = Agrupa(s.Red.ColRepresas);
-
-    for (int pasada = 0; pasada < PasadasOrden; ++pasada) {
-        for (Cauce& cauce : s.Red.ColCauces) {
-            OrdenCreciente creciente;
-            const auto recibe = [&](const Cauce& afluente) { creciente.Recibe(afluente); };
-            PorAfluente(cauces, cauce.NombreCauce, [&](const Cauce& afluente) {
-                if (afluente.NombreCauce != cauce.NombreCauce) recibe(afluente);
-            });
-            PorAfluente(lagos, cauce.NombreCauce,
-                        [&](const Lago& lago) { PorAfluente(cauces, lago.NombreLAGO, recibe); });
-            PorAfluente(represas, cauce.NombreCauce,
-                        [&](const Represa& represa) { PorAfluente(cauces, represa.NombreRepresa, recibe); });
-            cauce.OrdenCauce = creciente.Orden();
-        }
-    }
 }
 
 }  // namespace model

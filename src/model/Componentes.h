@@ -25,7 +25,7 @@ void RenumeraComponentes(Siro& s);
 /// Without any component both files are deleted instead, unless it is their reading that failed. Returns
 /// false where the user, asked about files that another program has changed, keeps them, and after a fault:
 /// it is told, both files and the network in memory are as they were.
-bool mnu_btn_toolbarGuardaUEHs(Siro& s);
+bool GuardaRed(Siro& s);
 
 // Its two halves, for who writes other files together with the network.
 
@@ -33,9 +33,5 @@ bool mnu_btn_toolbarGuardaUEHs(Siro& s);
 bool EscribeRed(Siro& s, std::vector<CambioArchivo>& escritos);
 /// The fresh read, from what was written, and the message; nothing where both files were deleted.
 void AlGuardarse(Siro& s, const std::vector<CambioArchivo>& escritos);
-
-/// Sets OrdenCauce of every reach: a rule in the manner of Strahler (1952), in ten passes over the
-/// collection. Lagos and Represas pass on the orders of the reaches that they gather.
-void CalculaOrdenCauces(Siro& s);
 
 }  // namespace model

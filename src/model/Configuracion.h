@@ -8,11 +8,14 @@
 #include <string_view>
 #include <vector>
 
-#include "model/Disco.h"
-
 namespace model {
 
-struct Siro;
+/// Ends the name of a project's configuration file.
+inline constexpr std::string_view TerminacionConf = "_Conf.vlm";
+inline std::string ArchivoConf(std::string_view proyecto)
+{
+    return std::string(proyecto).append(TerminacionConf);
+}
 
 /// Recurrences [years] and durations [min] that a configuration can select, in the order of its file.
 inline constexpr auto Recurrencias =
@@ -38,11 +41,6 @@ inline constexpr auto RecurrenciasDefecto =
 inline constexpr auto DuracionesDefecto = Casillas(
     Duraciones,
     std::to_array<std::int16_t>({10, 20, 30, 60, 90, 120, 180, 240, 300, 360, 540, 720, 1080, 1440}));
-
-/// Drives exist where the backslash separates directories.
-inline constexpr bool HayUnidades = Separador == '\\';
-/// Drive of a path: its first two characters, the empty text on a platform without drives.
-std::string UnidadDe(std::string_view ruta);
 
 /// What the controls of the configuration dialog hold, on screen or hidden: at first use what
 /// a project without settings of its own begins with. A box is ticked at exactly 1.
@@ -85,47 +83,26 @@ struct Proyecto {
 /// What a project's configuration says.
 struct Configuracion {
     std::string TituloProyecto{}, Ubicacion{}, Cuenca{}, Subcuenca{}, Operador{};
-    std::string FechaProyecto = "01/02/2006";
-    std::string DirNv{};
-    std::int16_t CheckDistriPp = 1;
-    std::string NombreArchivoConf{};
-    std::int16_t ImagenDibujo = 0;
-    std::string ArchivoImagenDibujo = "Ninguno";  ///< background image of the project
-    std::string ArchivoImagen{};                  ///< the editor's copy
-    double EscalaImagen = 0;                      ///< zoom of the image [%]
-    std::string TextoS{};
-    bool Optiona = false, Optionb = false, Optionc = false;
+    std::string ArchivoImagen{};       ///< background image of the project
+    double EscalaImagen = 0;           ///< zoom of the image [%]
     float ImagenX0 = 0, ImagenY0 = 0;  ///< shift of the image [pixels]
-    bool OptionMin = false, OptionHr = false, Optionm3 = false, OptionLt = false;
     std::string MaxUEHsPixel = "800";
     std::string EscalaDibujo = "0";                                     ///< scale of the image [m/pixel]
     std::array<std::int16_t, Recurrencias.size()> CheckR{};             ///< flags; not those of the boxes
     std::array<std::int16_t, Duraciones.size()> CheckD{};               ///< flags
     std::vector<std::int16_t> ListaRec = std::vector<std::int16_t>(1);  ///< ticked recurrences, from 1
     std::vector<std::int16_t> ListaDur = std::vector<std::int16_t>(1);  ///< ticked durations, from 1
-    std::int16_t NroRec = 0, NroDur = 0;
 };
 
 /// Ticks the designed set of recurrences: 2 to 200 and 1000, not 500, 2000, 5000, 10000.
-void BtnRecuDef(ControlesConfigura& controles);
+inline void BtnRecuDef(ControlesConfigura& controles)
+{
+    controles.CheckR = RecurrenciasDefecto;
+}
 /// Ticks the designed set of durations: 10 to 1440 without 15, not 5 nor 2880.
-void BtnDurDef(ControlesConfigura& controles);
-
-/// Reads the configuration of the project NombreProyecto in DirProyecto into the run-wide variables and the
-/// dialog's controls. A project that has moved takes its present directory and its file is rewritten at
-/// once, unless it bears another name than it tells. A damaged file empties NombreProyecto. Failures are
-/// reported through the host and never thrown.
-void leoConf(Siro& s);
-
-/// Writes the configuration from the dialog's controls and tells so. Asks before it writes over a file that
-/// isn't the one that was read, or that another program has changed; returns false where the user keeps it.
-/// Throws Falla 76, 75; memory and disk are then as they were.
-bool cmdAplicar(Siro& s);
-
-// Its two halves, for who writes other files together with the configuration.
-
-/// Writes the file and makes the controls' directory the project's. Throws Falla 76, 75.
-void EscribeConf(Siro& s);
-void AvisaConfGuardada(const Siro& s, const std::string& ruta);
+inline void BtnDurDef(ControlesConfigura& controles)
+{
+    controles.CheckD = DuracionesDefecto;
+}
 
 }  // namespace model

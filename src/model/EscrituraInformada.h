@@ -3,7 +3,6 @@
 
 #include <optional>
 #include <string>
-#include <utility>
 
 #include "model/Avisos.h"
 #include "model/Falla.h"
@@ -24,19 +23,14 @@ class EscrituraInformada {
         escritor.Abre(ruta);
     }
     /// One statement. Returns false where it was at fault, or the writing has ended before.
-    template <typename F>
-    bool Paso(F&& cuerpo)
+    bool Paso(auto&& cuerpo)
     {
-        return sigue && Sentencia(std::forward<F>(cuerpo), [&](const Falla& falla) { Atiende(falla); });
+        return sigue && Sentencia(cuerpo, [&](const Falla& falla) { Atiende(falla); });
     }
-    /// A record: `campos` puts its fields, the line end follows.
-    template <typename F>
-    bool Registro(F&& campos)
+    /// A record: `campos` puts its fields.
+    bool Registro(auto&& campos)
     {
-        return Paso([&] {
-            campos(escritor);
-            escritor.FinRegistro();
-        });
+        return Paso([&] { escritor.Registro(campos); });
     }
     /// Replaces the file. Returns whether it did.
     bool Cierra()

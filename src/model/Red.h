@@ -27,7 +27,11 @@ struct Red {
     Coleccion<Cauce, MaxCauces> ColCauces{};
     Coleccion<Lago, MaxLagos> ColLagos{};
     Coleccion<Represa, MaxRepresas> ColRepresas{};
-    std::int16_t NroUEHs = 0, NroCauces = 0, NroLagos = 0, NroRepresas = 0;
+    /// How many of each kind the network counts; Coleccion tells where that isn't how many there are.
+    [[nodiscard]] std::int16_t NroUEHs() const { return ColUEHs.Nro(); }
+    [[nodiscard]] std::int16_t NroCauces() const { return ColCauces.Nro(); }
+    [[nodiscard]] std::int16_t NroLagos() const { return ColLagos.Nro(); }
+    [[nodiscard]] std::int16_t NroRepresas() const { return ColRepresas.Nro(); }
     /// The component with a number. Falla 9 outside the array, Falla 91 for an empty slot.
     UEH& UEHs(int n) { return ColUEHs.Ranura(n); }
     Cauce& Cauces(int n) { return ColCauces.Ranura(n); }

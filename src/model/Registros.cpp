@@ -96,10 +96,6 @@ float LectorRegistros::NumeroSimple()
 {
     return CampoSimple(Siguiente());
 }
-double LectorRegistros::NumeroDoble()
-{
-    return CampoDoble(Siguiente());
-}
 bool LectorRegistros::Logico()
 {
     return CampoLogico(Siguiente());

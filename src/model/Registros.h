@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <utility>
 
 #include "model/Disco.h"
@@ -35,7 +36,6 @@ class LectorRegistros {
     std::string Texto();      ///< any field, as UTF-8
     std::int16_t Numero16();  ///< rounded, a tie to the even one; empty is 0. Throws Falla 13, 6
     float NumeroSimple();     ///< empty is 0. Throws Falla 13, 6
-    double NumeroDoble();     ///< empty is 0. Throws Falla 13, 6
     bool Logico();            ///< empty is false, a number is true unless 0. Throws Falla 13, 6
 
     /// One field whatever it is. Throws Falla 62 past the end.
@@ -49,8 +49,23 @@ class LectorRegistros {
     /// rest of the record's `campos` fields is consumed all the same, then the first fault goes on its way.
     template <typename F>
     void Registro(int campos, F lee);
+    /// A record of so many fields, which are stored together or, where one of them is at fault, not at all.
+    template <typename... X>
+    void Campos(X&... lugares)
+    {
+        std::tuple<X...> leidos;
+        Registro(sizeof...(X), [&] { std::apply([&](X&... x) { (Toma(x), ...); }, leidos); });
+        std::tie(lugares...) = std::move(leidos);
+    }
+
+    /// `campos` takes the fields of a record, as it would put them for a writer.
+    void Registro(auto&& campos) { campos(*this); }
 
   private:
+    void Toma(std::string& x) { x = Texto(); }
+    void Toma(std::int16_t& x) { x = Numero16(); }
+    void Toma(float& x) { x = NumeroSimple(); }
+    void Toma(bool& x) { x = Logico(); }
     std::string contenido;
     std::size_t lugar;  ///< contenido.size() is the empty field behind a comma that ends the file
 };
@@ -99,14 +114,31 @@ class EscritorRegistros {
     EscritorRegistros& Numero(float x);
     EscritorRegistros& Logico(bool b);
     EscritorRegistros& Vacio();  ///< a value never set: nothing, which reads back as "" or 0
+    /// The same, each by its type.
+    EscritorRegistros& Campos(const auto&... campos)
+    {
+        (Uno(campos), ...);
+        return *this;
+    }
     /// Ends the record in hand with CR LF. Throws the fault of a failed `Abre`.
     void FinRegistro();
+    /// A record: `campos` puts its fields.
+    void Registro(auto&& campos)
+    {
+        campos(*this);
+        FinRegistro();
+    }
     /// Sends what is pending to the disk. Throws Falla 76, 75.
     void Cierra();
     /// Instead of `Cierra`: the whole file, for who replaces several together.
     CambioArchivo Toma();
 
   private:
+    void Uno(std::string_view x) { Texto(x); }
+    void Uno(std::int16_t x) { Numero(std::int32_t{x}); }
+    void Uno(std::int32_t x) { Numero(x); }
+    void Uno(float x) { Numero(x); }
+    void Uno(bool x) { Logico(x); }
     void Separa();
     const Disco& disco;
     Salida salida;

@@ -4,10 +4,28 @@
 #include <algorithm>
 #include <cstddef>
 
-#include "model/Disco.h"
 #include "model/Texto.h"
 
 namespace model {
+
+namespace {
+
+/// Bytes of the drive at the head of a path: its first two characters, on a platform without drives only
+/// where the second one is a colon.
+std::size_t LargoUnidad(std::string_view ruta)
+{
+    const auto fin = [&](std::size_t i) {
+        ++i;
+        while (i < ruta.size() && (static_cast<unsigned char>(ruta[i]) & 0xC0U) == 0x80U)
+            ++i;
+        return std::min(i, ruta.size());
+    };
+    const std::size_t segundo = fin(0);
+    const bool dosPuntos = segundo < ruta.size() && ruta[segundo] == ':';
+    return HayUnidades || dosPuntos ? fin(segundo) : 0;
+}
+
+}  // namespace
 
 bool SirveDeNombre(std::string_view nombre)
 {
@@ -38,6 +56,16 @@ std::string RutaLlana(std::string_view ruta)
 std::string ComoVuelve(std::string_view texto)
 {
     return DeWindows1252(AWindows1252(texto));
+}
+
+std::string_view SinUnidad(std::string_view ruta)
+{
+    return ruta.substr(std::min(LargoUnidad(ruta), ruta.size()));
+}
+
+std::string UnidadDe(std::string_view ruta)
+{
+    return HayUnidades ? std::string(ruta.substr(0, LargoUnidad(ruta))) : std::string{};
 }
 
 }  // namespace model

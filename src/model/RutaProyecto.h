@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "model/Disco.h"
+
 // What the paths of a project's files are composed of, as far as it comes from files that anybody may have
 // written.
 namespace model {
@@ -17,5 +19,12 @@ std::string RutaLlana(std::string_view ruta);
 
 /// A text as it comes back from a file: what Windows-1252 can't hold is "?".
 std::string ComoVuelve(std::string_view texto);
+
+/// Drives exist where the backslash separates directories.
+inline constexpr bool HayUnidades = Separador == '\\';
+/// Drive of a path: its first two characters, the empty text on a platform without drives.
+std::string UnidadDe(std::string_view ruta);
+/// A path without its drive, on a platform without drives only where the second character is a colon.
+std::string_view SinUnidad(std::string_view ruta);
 
 }  // namespace model

@@ -10,11 +10,11 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <variant>
 #include <vector>
 
 #include "model/Avisos.h"
 #include "model/Candado.h"
+#include "model/Clases.h"
 #include "model/EscrituraInformada.h"
 #include "model/Falla.h"
 #include "model/Numeros.h"
@@ -29,37 +29,33 @@ namespace {
 constexpr char Marca = '*';                ///< first letter of a block's header
 constexpr std::string_view Relleno = "*";  ///< gives a header as many fields as a data line
 constexpr int TopeMinimo = 10;             ///< rows that the arrays have at least, not counting row 0
-constexpr std::size_t MaxColumnas = 4;
+// A table file: whose it is, how many rows each of its tables has, and in the order of a data line its
+// columns, which are handed to `hace` all at once.
 
-/// A column of a table: an array by component number and row of the table.
-using Columna = std::variant<Matriz<float> Red::*, Matriz<std::int32_t> Red::*>;
-
-/// A table file: whose it is and, in the order of a data line, what it holds.
-template <typename T, int Limite>
-struct ArchivoTabla {
-    std::string_view sufijo;
-    Coleccion<T, Limite> Red::*coleccion;
-    std::int16_t Red::*cuenta;
-    std::string T::*nombre;
-    std::int16_t T::*numero;
-    Arreglo<std::int16_t> Red::*filas;
-    std::span<const Columna> columnas;
+struct ArchivoRHAS {
+    using De = Represa;
+    static constexpr std::string_view sufijo = "_RHAS.vlm";
+    static constexpr std::size_t columnas = 3;
+    static auto& Filas(auto& red) { return red.RepresaFilasHAS; }
+    static void Columnas(auto& red, auto&& hace) { hace(red.RepresaH, red.RepresaA, red.RepresaS); }
 };
 
-constexpr std::array<Columna, 3> ColumnasRHAS{&Red::RepresaH, &Red::RepresaA, &Red::RepresaS};
-constexpr std::array<Columna, 2> ColumnasRHQ{&Red::RepresaQH, &Red::RepresaQQ};
-constexpr std::array<Columna, 4> ColumnasLHASQ{&Red::LagoH, &Red::LagoA, &Red::LagoS, &Red::LagoQ};
-static_assert(ColumnasLHASQ.size() <= MaxColumnas);
+struct ArchivoRHQ {
+    using De = Represa;
+    static constexpr std::string_view sufijo = "_RHQ.vlm";
+    static constexpr std::size_t columnas = 2;
+    static auto& Filas(auto& red) { return red.RepresaFilasHQ; }
+    static void Columnas(auto& red, auto&& hace) { hace(red.RepresaQH, red.RepresaQQ); }
+};
 
-constexpr ArchivoTabla<Represa, MaxRepresas> ArchivoRHAS{
-    "_RHAS.vlm",          &Red::ColRepresas,     &Red::NroRepresas, &Represa::NombreRepresa,
-    &Represa::numRepresa, &Red::RepresaFilasHAS, ColumnasRHAS};
-constexpr ArchivoTabla<Represa, MaxRepresas> ArchivoRHQ{
-    "_RHQ.vlm",           &Red::ColRepresas,    &Red::NroRepresas, &Represa::NombreRepresa,
-    &Represa::numRepresa, &Red::RepresaFilasHQ, ColumnasRHQ};
-constexpr ArchivoTabla<Lago, MaxLagos> ArchivoLHASQ{"_LHASQ.vlm",      &Red::ColLagos, &Red::NroLagos,
-                                                    &Lago::NombreLAGO, &Lago::numLAGO, &Red::LagoFilas,
-                                                    ColumnasLHASQ};
+struct ArchivoLHASQ {
+    using De = Lago;
+    static constexpr std::string_view sufijo = "_LHASQ.vlm";
+    static constexpr std::size_t columnas = 4;
+    static auto& Filas(auto& red) { return red.LagoFilas; }
+    static void Columnas(auto& red, auto&& hace) { hace(red.LagoH, red.LagoA, red.LagoS, red.LagoQ); }
+};
+constexpr std::size_t MaxColumnas = ArchivoLHASQ::columnas;
 
 /// Goes to the project's directory as far as a program does that composes its paths.
 void VaADirectorio(const Siro& s)
@@ -67,13 +63,12 @@ void VaADirectorio(const Siro& s)
     if (!s.Disco.HayDirectorio(s.Proyecto.DirProyecto)) throw Falla{NumeroFalla::RutaNoEsta};
 }
 
-/// Takes the count from the collection, and composes the name of the file. Returns its path.
-template <typename T, int Limite>
-std::string Compone(Siro& s, const ArchivoTabla<T, Limite>& archivo)
+/// Makes the components count that are there, and composes the name of the file. Returns its path.
+template <typename Archivo>
+std::string Compone(Siro& s)
 {
-    Sentencia([&] { s.Red.*archivo.cuenta = Entero16((s.Red.*archivo.coleccion).Cuenta()); },
-              AvisaArchivo(s));
-    s.Proyecto.ArchivoTemp = s.Proyecto.NombreProyecto + std::string(archivo.sufijo);
+    Todos<typename Archivo::De>(s.Red).Recuenta();
+    s.Proyecto.ArchivoTemp = s.Proyecto.NombreProyecto + std::string(Archivo::sufijo);
     return Ruta(s.Proyecto.DirProyecto, s.Proyecto.ArchivoTemp);
 }
 
@@ -179,27 +174,27 @@ class Registros {
 };
 
 /// The tables of all components as they are filled.
-template <typename T, int Limite>
+template <typename Archivo>
 class LecturaTabla {
   public:
-    LecturaTabla(Siro& unSiro, const ArchivoTabla<T, Limite>& unArchivo)
-        : s(unSiro), archivo(unArchivo), ruta(Compone(unSiro, unArchivo))
+    explicit LecturaTabla(Siro& unSiro) : s(unSiro), ruta(Compone<Archivo>(unSiro))
     {
         Sentencia([&] { VaADirectorio(s); }, AvisaArchivo(s));
-        for (const T& componente : s.Red.*archivo.coleccion)
-            mayorNumero = std::max(mayorNumero, int{componente.*archivo.numero});
-        (s.Red.*archivo.filas).Dimensiona(mayorNumero);
-        for (const Columna& columna : archivo.columnas)
-            std::visit([&](auto matriz) { (s.Red.*matriz).Dimensiona(mayorNumero, TopeMinimo); }, columna);
+        for (const T& componente : Todos<T>(s.Red))
+            mayorNumero = std::max(mayorNumero, int{Numero(componente)});
+        Archivo::Filas(s.Red).Dimensiona(mayorNumero);
+        Archivo::Columnas(s.Red,
+                          [&](auto&... columna) { (columna.Dimensiona(mayorNumero, TopeMinimo), ...); });
     }
     /// A missing file or block leaves its component and all that follow without rows.
     void Lee()
     {
-        for (const T& componente : s.Red.*archivo.coleccion)
+        for (const T& componente : Todos<T>(s.Red))
             if (!LeeComponente(componente)) return;
     }
 
   private:
+    using T = typename Archivo::De;
     enum class Apertura { Abierto, NoEsta, EnFalla };
 
     bool LeeComponente(const T& componente)
@@ -207,10 +202,10 @@ class LecturaTabla {
         const Apertura apertura = Abre();
         if (apertura == Apertura::EnFalla) return true;
         const auto* bloque =
-            apertura == Apertura::NoEsta ? nullptr : registros->Busca(s, Marca + componente.*archivo.nombre);
-        const int numero = componente.*archivo.numero;
+            apertura == Apertura::NoEsta ? nullptr : registros->Busca(s, Marca + Nombre(componente));
+        const int numero = Numero(componente);
         if (bloque != nullptr && LeeBloque(*bloque, numero)) return true;
-        Paso([&] { (s.Red.*archivo.filas)(numero) = 0; });
+        Paso([&] { Archivo::Filas(s.Red)(numero) = 0; });
         return false;
     }
     // The file is opened anew for every component until it has been read; what can't be opened can't be
@@ -219,7 +214,7 @@ class LecturaTabla {
     {
         if (registros) return Apertura::Abierto;
         Apertura apertura = Apertura::Abierto;
-        Sentencia([&] { registros.emplace(LeeVigilado(s, ruta), archivo.columnas.size()); },
+        Sentencia([&] { registros.emplace(LeeVigilado(s, ruta), Archivo::columnas); },
                   [&](const Falla& falla) {
                       apertura =
                           falla.numero == NumeroFalla::ArchivoNoEsta ? Apertura::NoEsta : Apertura::EnFalla;
@@ -232,7 +227,7 @@ class LecturaTabla {
     /// Returns false where the file ends inside the block.
     bool LeeBloque(const Registros::Hallazgo& bloque, int numero)
     {
-        Paso([&] { (s.Red.*archivo.filas)(numero) = bloque.filas; });
+        Paso([&] { Archivo::Filas(s.Red)(numero) = bloque.filas; });
         Ensancha(bloque.filas);
         try {
             registros->Va(bloque);
@@ -251,16 +246,17 @@ class LecturaTabla {
         constexpr std::size_t MaximoCeldas = std::size_t{1} << 23;
         if (static_cast<std::size_t>(mayorNumero) * static_cast<std::size_t>(tope) > MaximoCeldas)
             throw std::bad_alloc{};
-        for (const Columna& columna : archivo.columnas)
-            std::visit([&](auto matriz) { (s.Red.*matriz).Redimensiona(tope); }, columna);
+        Archivo::Columnas(s.Red, [&](auto&... columna) { (columna.Redimensiona(tope), ...); });
     }
     void LeeFila(int numero, int k)
     {
         std::array<float, MaxColumnas> leidos{};
         const bool leida = Paso([&] { leidos = registros->Numeros(); });
-        for (std::size_t c = 0; leida && c < archivo.columnas.size(); ++c)
-            std::visit([&](auto matriz) { Paso([&] { Guarda((s.Red.*matriz)(numero, k), leidos[c]); }); },
-                       archivo.columnas[c]);
+        const auto guarda = [&](auto& columna, float leido) {
+            if (leida) Paso([&] { Guarda(columna(numero, k), leido); });
+        };
+        std::size_t c = 0;
+        Archivo::Columnas(s.Red, [&](auto&... columna) { (guarda(columna, leidos[c++]), ...); });
     }
     static void Guarda(float& lugar, float valor) { lugar = valor; }
     // The storage has passed through a 32-bit float: above 2^24 only the float's steps are left of it.
@@ -276,66 +272,34 @@ class LecturaTabla {
     }
 
     Siro& s;
-    const ArchivoTabla<T, Limite>& archivo;
     std::string ruta;
     std::optional<Registros> registros;
     int mayorNumero = 0;
     int mayorCuenta = 0;
 };
 
-template <typename T, int Limite>
-void LeeTabla(Siro& s, const ArchivoTabla<T, Limite>& archivo)
-{
-    LecturaTabla<T, Limite>(s, archivo).Lee();
-}
-
 // --- writing ---
 
-void Pon(EscritorRegistros& escritor, float x)
+template <typename Archivo>
+bool GuardaTabla(Siro& s)
 {
-    escritor.Numero(x);
-}
-void Pon(EscritorRegistros& escritor, std::int32_t x)
-{
-    escritor.Numero(x);
-}
-
-template <typename T, int Limite>
-void EscribeCabecera(EscrituraInformada& salida, const Siro& s, const ArchivoTabla<T, Limite>& archivo,
-                     const T& componente)
-{
-    salida.Registro([&](EscritorRegistros& escritor) {
-        const std::int16_t filas = (s.Red.*archivo.filas)(componente.*archivo.numero);
-        escritor.Texto(Marca + componente.*archivo.nombre).Numero(std::int32_t{filas});
-        for (std::size_t c = 2; c < archivo.columnas.size(); ++c)
-            escritor.Texto(Relleno);
-    });
-}
-
-/// Puts a row's fields; whether all of them are there is seen first, so that no part of a record is left.
-void PonFila(EscritorRegistros& escritor, const Siro& s, std::span<const Columna> columnas, int numero, int k)
-{
-    for (const Columna& columna : columnas)
-        std::visit([&](auto matriz) { static_cast<void>((s.Red.*matriz)(numero, k)); }, columna);
-    for (const Columna& columna : columnas)
-        std::visit([&](auto matriz) { Pon(escritor, (s.Red.*matriz)(numero, k)); }, columna);
-}
-
-template <typename T, int Limite>
-bool GuardaTabla(Siro& s, const ArchivoTabla<T, Limite>& archivo)
-{
-    const std::string ruta = Compone(s, archivo);
+    const std::string ruta = Compone<Archivo>(s);
     if (!PuedeGuardar(s, {ruta})) return false;
     EscrituraInformada salida(s, ruta, NumeroFalla::ArchivoNoEsta);
     salida.Paso([&] { VaADirectorio(s); });
-    for (const T& componente : s.Red.*archivo.coleccion) {
-        EscribeCabecera(salida, s, archivo, componente);
-        const int numero = componente.*archivo.numero;
+    for (const auto& componente : Todos<typename Archivo::De>(s.Red)) {
         int filas = 0;
-        salida.Paso([&] { filas = (s.Red.*archivo.filas)(numero); });
+        salida.Registro([&](EscritorRegistros& escritor) {
+            filas = Archivo::Filas(s.Red)(Numero(componente));
+            escritor.Campos(Marca + Nombre(componente), filas);
+            for (std::size_t c = 2; c < Archivo::columnas; ++c)
+                escritor.Texto(Relleno);
+        });
         for (int k = 1; k <= filas; ++k)
-            salida.Registro(
-                [&](EscritorRegistros& escritor) { PonFila(escritor, s, archivo.columnas, numero, k); });
+            salida.Registro([&](EscritorRegistros& escritor) {
+                Archivo::Columnas(
+                    s.Red, [&](auto&... columna) { escritor.Campos(columna(Numero(componente), k)...); });
+            });
     }
     const bool guardada = salida.Cierra();
     if (guardada) AnotaGuardado(s, ruta);
@@ -350,18 +314,18 @@ auto ConArchivo(ArchivoDeTablas archivo, F hace)
 {
     switch (archivo) {
     case ArchivoDeTablas::RHQ:
-        return hace(ArchivoRHQ);
+        return hace(ArchivoRHQ{});
     case ArchivoDeTablas::LHASQ:
-        return hace(ArchivoLHASQ);
+        return hace(ArchivoLHASQ{});
     case ArchivoDeTablas::RHAS:
         break;
     }
-    return hace(ArchivoRHAS);
+    return hace(ArchivoRHAS{});
 }
 
 std::size_t CamposPorRegistro(ArchivoDeTablas archivo)
 {
-    return ConArchivo(archivo, [](const auto& a) { return a.columnas.size(); });
+    return ConArchivo(archivo, [](auto a) { return a.columnas; });
 }
 
 std::vector<BloqueDeTabla> Bloques(std::string bytes, std::size_t camposPorRegistro)
@@ -377,8 +341,7 @@ std::vector<BloqueDeTabla> Bloques(std::string bytes, std::size_t camposPorRegis
 
 std::string NombreDeArchivo(const Siro& s, ArchivoDeTablas archivo)
 {
-    return s.Proyecto.NombreProyecto +
-           ConArchivo(archivo, [](const auto& a) { return std::string(a.sufijo); });
+    return s.Proyecto.NombreProyecto + ConArchivo(archivo, [](auto a) { return std::string(a.sufijo); });
 }
 
 std::vector<BloqueDeTabla> BloquesDe(const Siro& s, ArchivoDeTablas archivo)
@@ -436,32 +399,32 @@ bool RenombraBloques(const Siro& s, std::span<const ArchivoDeTablas> archivos, s
 
 void LeeTablaHSVRepresa(Siro& s)
 {
-    LeeTabla(s, ArchivoRHAS);
+    LecturaTabla<ArchivoRHAS>(s).Lee();
 }
 
 void LeeTablaHQRepresa(Siro& s)
 {
-    LeeTabla(s, ArchivoRHQ);
+    LecturaTabla<ArchivoRHQ>(s).Lee();
 }
 
 void LeeTablaHSVQLago(Siro& s)
 {
-    LeeTabla(s, ArchivoLHASQ);
+    LecturaTabla<ArchivoLHASQ>(s).Lee();
 }
 
 bool GuardaTablaHSVRepresa(Siro& s)
 {
-    return GuardaTabla(s, ArchivoRHAS);
+    return GuardaTabla<ArchivoRHAS>(s);
 }
 
 bool GuardaTablaHQRepresa(Siro& s)
 {
-    return GuardaTabla(s, ArchivoRHQ);
+    return GuardaTabla<ArchivoRHQ>(s);
 }
 
 bool GuardaTablaHSVQLago(Siro& s)
 {
-    return GuardaTabla(s, ArchivoLHASQ);
+    return GuardaTabla<ArchivoLHASQ>(s);
 }
 
 }  // namespace model

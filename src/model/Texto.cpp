@@ -141,13 +141,6 @@ std::string AjustaIzquierda(std::string_view texto, std::size_t ancho)
     return ajustado;
 }
 
-std::string AjustaDerecha(std::string_view texto, std::size_t ancho)
-{
-    const std::size_t largo = CuentaCaracteres(texto);
-    std::string ajustado(largo < ancho ? ancho - largo : 0, ' ');
-    return ajustado += texto;
-}
-
 std::string ComasAPuntos(std::string_view texto)
 {
     std::string conPuntos(texto);

@@ -27,9 +27,6 @@ std::string PrimerosCaracteres(std::string_view texto, std::size_t n);
 /// Pads on the right with blanks up to `ancho` characters; a longer text is left whole.
 std::string AjustaIzquierda(std::string_view texto, std::size_t ancho);
 
-/// Pads on the left with blanks up to `ancho` characters; a longer text is left whole.
-std::string AjustaDerecha(std::string_view texto, std::size_t ancho);
-
 /// Changes every comma into a point.
 std::string ComasAPuntos(std::string_view texto);
 

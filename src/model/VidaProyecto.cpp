@@ -4,10 +4,11 @@
 #include <algorithm>
 #include <utility>
 
+#include "model/ArchivoConf.h"
 #include "model/Avisos.h"
 #include "model/Candado.h"
+#include "model/Clases.h"
 #include "model/Componentes.h"
-#include "model/Configuracion.h"
 #include "model/EscriturasEnEspera.h"
 #include "model/Falla.h"
 #include "model/Registros.h"
@@ -43,11 +44,6 @@ constexpr std::string_view Pendiente1 =
 constexpr std::string_view SinNombre =
     "El archivo elegido no lleva nombre de proyecto: no se borra ningún archivo.";
 constexpr std::string_view SinProyectoElegido = "Ninguno";
-
-std::string ArchivoConf(std::string_view proyecto)
-{
-    return std::string(proyecto).append(TerminacionConf);
-}
 
 /// A path on another machine, where the program must leave the directories as they are.
 bool RutaDeRed(std::string_view ruta)
@@ -185,7 +181,7 @@ void AbreRuta(Siro& s, std::string_view ruta)
     RecuperaGuardado(s, s.Proyecto.DirProyecto);
     // The labels come before the configuration and so show the earlier titles: kept as it stands. A pointer
     // that can't be written keeps no project from being opened.
-    Sentencia([&] { carga_lbl_proyecto(s); });
+    Sentencia([&] { MuestraProyecto(s); });
     LeeConfReclamada(s);
     s.Anfitrion.HabilitaGuardarComo();
 }
@@ -228,7 +224,7 @@ void GuardaPuntero(Siro& s)
     escritor.Cierra();
 }
 
-void carga_lbl_proyecto(Siro& s)
+void MuestraProyecto(Siro& s)
 {
     s.Anfitrion.carga_lbl_proyecto();
     GuardaPuntero(s);
@@ -251,13 +247,9 @@ void RecuperaGuardado(const Siro& s, const std::string& directorio)
 
 void LimpiaProyecto(Siro& s)
 {
-    s.Red.ColCauces.Vacia();
-    s.Red.ColUEHs.Vacia();
-    s.Red.ColLagos.Vacia();
-    s.Red.ColRepresas.Vacia();
+    CadaClase(s.Red, [](auto& coleccion) { coleccion.Vacia(); });
     s.Seleccion.CauceSel = s.Seleccion.CauceAnterior = s.Seleccion.UEHSel = s.Seleccion.RepresaSel =
         s.Seleccion.LagoSel = s.Seleccion.VerticeSel = 0;
-    s.Red.NroCauces = s.Red.NroUEHs = s.Red.NroLagos = s.Red.NroRepresas = 0;
     s.Proyecto.NombreProyecto.clear();
     s.Proyecto.DirProyecto.clear();
     s.Proyecto.DirProyectoConf.clear();
@@ -285,7 +277,7 @@ bool mnuNuevoProyecto(Siro& s)
     bool hayNuevo = false;
     ConFallaFatal(s, [&] {
         if (!TomaNombreNuevo(s, nombre)) return;
-        carga_lbl_proyecto(s);
+        MuestraProyecto(s);
         hayNuevo = true;
     });
     return hayNuevo;
@@ -341,7 +333,7 @@ void mnu_ultimoarchivo1(Siro& s)
     LimpiaProyecto(s);
     RecuperaGuardado(s, s.Proyecto.DirProyecto);
     LeeConfReclamada(s);
-    Sentencia([&] { carga_lbl_proyecto(s); });
+    Sentencia([&] { MuestraProyecto(s); });
     if (!s.Proyecto.NombreProyecto.empty()) s.Anfitrion.HabilitaGuardarComo();
 }
 

@@ -11,7 +11,6 @@ namespace model {
 
 struct Siro;
 
-inline constexpr std::string_view TerminacionConf = "_Conf.vlm";
 inline constexpr std::string_view ArchivoPuntero = "VelmirDir.vlm";
 
 // --- the pointer to the last project ---
@@ -27,7 +26,7 @@ void GuardaPuntero(Siro& s);
 
 /// Shows the project's titles in the main window and records the project as the last one. Throws Falla
 /// 76, 75.
-void carga_lbl_proyecto(Siro& s);
+void MuestraProyecto(Siro& s);
 
 /// Finishes what a program that was killed in a save has begun in a folder, removes what else it left there,
 /// and tells which files it finished. Before the folder's files are read.

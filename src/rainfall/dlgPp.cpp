@@ -173,10 +173,7 @@ namespace {
 void LlenaListas(dlgPp& f, const Siro& s)
 {
     const auto& recurrencias = s.Configuracion.ListaRec;
-    const std::size_t nroRec =
-        std::min(static_cast<std::size_t>(std::max<std::int16_t>(s.Configuracion.NroRec, 0)),
-                 recurrencias.empty() ? 0 : recurrencias.size() - 1);
-    for (std::size_t i = 1; i <= nroRec; ++i)
+    for (std::size_t i = 1; i < recurrencias.size(); ++i)
         f.itemsRec.push_back(NumeroATexto(recurrencias[i]));
     for (const std::int16_t paso : PasosDeTiempo)
         f.itemsPaso.push_back(NumeroATexto(paso));

@@ -83,7 +83,7 @@ void LlevaTormenta(const dlgTablaPpUEHs& f, dlgPp& pp, Siro& s)
 {
     pp.txtDur = f.txtDPpUEHs;
     pp.Estado("txtDur").habilitado = false;
-    for (s.Control.IndUEH = 1; s.Control.IndUEH <= s.Red.NroUEHs; ++s.Control.IndUEH) {
+    for (s.Control.IndUEH = 1; s.Control.IndUEH <= s.Red.NroUEHs(); ++s.Control.IndUEH) {
         if (!(s.Tormenta.PpUEH(s.Control.IndUEH) > 0)) continue;
         s.Tormenta.PpTormenta = s.Tormenta.PpUEH(s.Control.IndUEH);
         pp.txtPp = NumeroATexto(s.Tormenta.PpTormenta);

@@ -89,7 +89,7 @@ FilaQDR FilaDeComponente(const Siro& s)
     fila.celdas[Numero] = Entero(s.Control.IndComp);
     PonTormenta(fila, s);
     PonResultados(fila, [&](const engine::ColumnaDeSerie& c) {
-        return DelComponente(c, s.Resultados, s.Red.NroUEHs, s.Control.IndComp, s.Serie.IndSerie);
+        return DelComponente(c, s.Resultados, s.Red.NroUEHs(), s.Control.IndComp, s.Serie.IndSerie);
     });
     return fila;
 }

@@ -115,7 +115,7 @@ std::string NombreComponente(const Siro& s)
 void LlenaCeldas(dlgChart3& f, Siro& s, const ColumnaDeSerie& magnitud, std::vector<forms::Serie>& curvas)
 {
     ParaCadaTormenta(f, s, [&] {
-        if (magnitud.soloUEHs && s.Control.IndComp > s.Red.NroUEHs) return;
+        if (magnitud.soloUEHs && s.Control.IndComp > s.Red.NroUEHs()) return;
         const auto serie = Lugar(f.ListaR, s.Tormenta.RecTormenta);
         const auto fila = Lugar(f.ListaD, s.Tormenta.DurTormenta);
         if (serie && fila && *fila < curvas[*serie].celdas.size())
@@ -155,7 +155,7 @@ void ListaUEHs(dlgChart3& f, Siro& s)
 {
     f.lstCompos.clear();
     f.lstComposIndice = -1;
-    for (s.Control.IndUEH = 1; s.Control.IndUEH <= s.Red.NroUEHs;
+    for (s.Control.IndUEH = 1; s.Control.IndUEH <= s.Red.NroUEHs();
          s.Control.IndUEH = model::Suma16(s.Control.IndUEH, 1)) {
         if (static_cast<std::size_t>(s.Control.IndUEH) >= s.Resultados.Secuencia.size())
             throw model::Falla{model::NumeroFalla::Subindice};

@@ -20,6 +20,7 @@
 
 #include "forms/Lista_ventana.h"
 #include "forms/Textos_ventana.h"
+#include "model/RutaProyecto.h"
 #include "shell/frmConfigura_ventana.h"
 
 // The tabs of the configuration dialog.

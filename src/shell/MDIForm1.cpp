@@ -8,6 +8,7 @@
 #include "engine/mdlSeriePDR.h"
 #include "engine/modProceso0.h"
 #include "model/Avisos.h"
+#include "model/Clases.h"
 #include "model/Disco.h"
 #include "model/VidaProyecto.h"
 #include "results/dlgChart2.h"
@@ -109,7 +110,7 @@ void carga_lbl_proyecto(MDIForm1& f, Siro& s)
     f.Texto("lblProyecto") = s.Proyecto.NombreProyecto;
     f.Texto("lblTitulo") = s.frmConfigura.TextProyecto;
     f.Texto("lblMiDirTrabajo") = s.Proyecto.DirProyecto;
-    f.Texto("lblFileProyecto") = s.Proyecto.NombreProyecto + "_Conf.vlm";
+    f.Texto("lblFileProyecto") = model::ArchivoConf(s.Proyecto.NombreProyecto);
     f.Texto("lblCuenca") = s.frmConfigura.TextCuenca;
     f.Texto("lblSubCuenca") = s.frmConfigura.TextSbca;
     f.Texto("lblUbicacion") = s.frmConfigura.TextUbica;
@@ -156,17 +157,18 @@ void mnuDirCrea(MDIForm1& /*f*/, Siro& s, const Mandos& /*m*/)
 void mnuOpcionesConfigurar(MDIForm1& /*f*/, Siro& s, const Mandos& m)
 {
     m.Abre(Ventana::frmConfigura);
-    model::carga_lbl_proyecto(s);
+    model::MuestraProyecto(s);
 }
 
 void mnufrmUEHs(MDIForm1& /*f*/, Siro& s, const Mandos& m)
 {
     if (!s.Proyecto.NombreProyecto.empty() && m.AlzaEditor()) return;
     if (!s.Anfitrion.ResguardaDibujo(Riesgo::MueveProyecto)) return;
-    s.Red.ColCauces.Vacia();
-    s.Red.ColUEHs.Vacia();
-    s.Red.ColLagos.Vacia();
-    s.Red.ColRepresas.Vacia();
+    model::CadaClase(s.Red, [](auto& coleccion) {
+        const std::int16_t nro = coleccion.Nro();  // not emptied with it: kept as it stands
+        coleccion.Vacia();
+        coleccion.Anuncia(nro);
+    });
     if (ExigeProyecto(s))
         m.Abre(Ventana::frmUEHs);
     else

@@ -43,7 +43,7 @@ void ConProyecto(MDIForm1& /*f*/, Siro& s, const Mandos& m)
 template <Orden verificacion>
 void ConRepresas(MDIForm1& /*f*/, Siro& s, const Mandos& /*m*/)
 {
-    if (s.Red.NroRepresas >= 1) verificacion(s);
+    if (s.Red.NroRepresas() >= 1) verificacion(s);
 }
 
 template <Ventana ventana>

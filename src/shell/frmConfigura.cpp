@@ -4,9 +4,11 @@
 #include <algorithm>
 
 #include "forms/Evento.h"
+#include "model/ArchivoConf.h"
 #include "model/Avisos.h"
 #include "model/Candado.h"
 #include "model/Numeros.h"
+#include "model/RutaProyecto.h"
 #include "model/VidaProyecto.h"
 
 namespace shell {
@@ -321,7 +323,7 @@ void filArchivoConfigura_Click(frmConfigura& f, Siro& s)
     f.lblnombreproyecto = s.Proyecto.NombreProyecto;
     Relista(f, s);
     // A pointer that can't be written keeps no project from being loaded.
-    model::Sentencia([&] { model::carga_lbl_proyecto(s); });
+    model::Sentencia([&] { model::MuestraProyecto(s); });
     Informa(s, std::string(Cargado1).append(archivo).append(Cargado2).append(s.Proyecto.NombreProyecto));
 }
 

@@ -17,6 +17,7 @@
 
 #include "forms/Lista_ventana.h"
 #include "forms/Textos_ventana.h"
+#include "model/RutaProyecto.h"
 
 namespace shell {
 

@@ -114,7 +114,6 @@ Siro UnoDeCada()
     represa.NombreRepresa = "r-1";
     represa.numRepresa = 1;
     s.Red.ColRepresas.Agrega(represa);
-    s.Red.NroUEHs = s.Red.NroCauces = s.Red.NroLagos = s.Red.NroRepresas = 1;
     s.Resultados.NroComponentes = 4;
     s.Resultados.Secuencia = {"", "u-1", "r-1", "c-1,a",
                               "l-1"};  // an order of computation, not that of the kinds

@@ -176,7 +176,7 @@ class EditorEnPantalla : public Escritorio {
             c.LongCauce = 1200;
             c.VelMediaCauce = 1;
         }
-        model::mnu_btn_toolbarGuardaUEHs(s);
+        model::GuardaRed(s);
         s.Red.RepresaFilasHAS.Dimensiona(1);
         s.Red.RepresaFilasHQ.Dimensiona(1);
         s.Red.RepresaFilasHAS(1) = s.Red.RepresaFilasHQ(1) = 2;

@@ -64,7 +64,7 @@ class VerificacionDeLaMuestra : public testing::Test {
 
 TEST_F(VerificacionDeLaMuestra, HayDosRepresasYLosComandosSeHabilitan)
 {
-    EXPECT_EQ(s.Red.NroRepresas, 2);
+    EXPECT_EQ(s.Red.NroRepresas(), 2);
     EXPECT_EQ(anfitrion->verificacionHabilitada, 1);
 }
 

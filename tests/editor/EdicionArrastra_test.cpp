@@ -170,7 +170,7 @@ struct EdicionArrastraAOtro : EdicionArrastra {
 
 TEST_F(EdicionArrastraAOtro, SoltarLaBocaEnLaCabeceraDeOtroPreguntaYAcopla)
 {
-    s.Red.NroCauces = 2;  // only the first two
+    s.Red.ColCauces.Anuncia(2);  // only the first two
     s.Red.ColCauces.Quita(3);
     Responde({true});
     Arrastra({{400, 400}, {216, 184}});

@@ -52,7 +52,7 @@ TEST_F(EdicionBorra, ElCauceDelMedioYLosDeArribaBajanUnLugarConSusVertices)
 {
     BorraCauce(2);
     ASSERT_EQ(s.Red.ColCauces.Cuenta(), 2);
-    EXPECT_EQ(s.Red.NroCauces, 2);
+    EXPECT_EQ(s.Red.NroCauces(), 2);
     EXPECT_EQ(s.Red.Cauces(1).NombreCauce, "c-1");
     EXPECT_EQ(s.Red.Cauces(2).NombreCauce, "c-3");
     EXPECT_EQ(s.Red.Cauces(2).Cauce_aa, "c-1");
@@ -137,7 +137,7 @@ TEST_F(EdicionBorra, BorrarUnCauceConservaElTrazoSinTerminar)
     BorraCauce(2);
     EXPECT_EQ(s.Red.ColCauces.Cuenta(), 2);
     EXPECT_EQ(f.trazo.ClicsCauce, 2);
-    EXPECT_EQ(s.Red.NroCauces, 3);
+    EXPECT_EQ(s.Red.NroCauces(), 3);
     EXPECT_EQ(Vertice(3, 2), (editor::Punto{6, 6}));
     EXPECT_EQ(Faltas(), std::vector<std::string>{});
 }
@@ -147,7 +147,7 @@ TEST_F(EdicionBorra, UnaUEHSeQuitaYLasDemasSeNumeranDeNuevo)
     s.Seleccion.UEHSel = 1;
     Tecla(editor::Tecla::Suprimir);
     ASSERT_EQ(s.Red.ColUEHs.Cuenta(), 2);
-    EXPECT_EQ(s.Red.NroUEHs, 2);
+    EXPECT_EQ(s.Red.NroUEHs(), 2);
     EXPECT_EQ(s.Red.UEHs(1).NombreUEH, "u-2");
     EXPECT_EQ(s.Red.UEHs(1).numUEH, 1);
     EXPECT_EQ(s.Red.UEHs(1).Area, 77);
@@ -180,7 +180,7 @@ TEST_F(EdicionBorra, UnaRepresaSeQuitaYPideVerificarLasQueQuedan)
     f.pedidos.clear();
     s.Seleccion.RepresaSel = 1;
     Tecla(editor::Tecla::Suprimir);
-    EXPECT_EQ(s.Red.NroRepresas, 0);
+    EXPECT_EQ(s.Red.NroRepresas(), 0);
     EXPECT_EQ(Avisos(), Cajas{Guardado});
     EXPECT_TRUE(f.pedidos.empty());
 }
@@ -289,13 +289,11 @@ TEST_F(EdicionBorra, ElUltimoComponenteSeLlevaLosArchivosSinMensaje)
     s.Red.ColUEHs.Vacia();
     s.Red.ColRepresas.Vacia();
     s.Red.ColLagos.Quita(2);
-    s.Red.NroCauces = s.Red.NroUEHs = s.Red.NroRepresas = 0;
-    s.Red.NroLagos = 1;
     Guarda();
     ASSERT_TRUE(HayArchivo());
     s.Seleccion.LagoSel = 1;
     Tecla(editor::Tecla::Suprimir);
-    EXPECT_EQ(s.Red.NroLagos, 0);
+    EXPECT_EQ(s.Red.NroLagos(), 0);
     EXPECT_FALSE(HayArchivo());
     EXPECT_FALSE(disco.Esta("/proy/Arroyo_VerCau.vlm"));
     EXPECT_TRUE(Avisos().empty());
@@ -314,7 +312,7 @@ TEST_F(EdicionBorra, BorrarTodoPreguntaVaciaYQuitaSoloLaTablaRHQ)
     EXPECT_EQ(s.Red.ColCauces.Cuenta() + s.Red.ColUEHs.Cuenta() + s.Red.ColRepresas.Cuenta() +
                   s.Red.ColLagos.Cuenta(),
               0);
-    EXPECT_EQ(s.Red.NroCauces + s.Red.NroUEHs + s.Red.NroRepresas + s.Red.NroLagos, 0);
+    EXPECT_EQ(s.Red.NroCauces() + s.Red.NroUEHs() + s.Red.NroRepresas() + s.Red.NroLagos(), 0);
     EXPECT_FALSE(disco.Esta("/proy/Arroyo_RHQ.vlm"));
     EXPECT_TRUE(disco.Esta("/proy/Arroyo_RHAS.vlm"));
     EXPECT_TRUE(disco.Esta("/proy/Arroyo_LHASQ.vlm"));
@@ -333,7 +331,7 @@ TEST_F(EdicionBorra, BorrarTodoConNoNoTocaNada)
     Responde({false});
     PonModo(Boton::BorraTodo);
     EXPECT_EQ(s.Red.ColCauces.Cuenta(), 3);
-    EXPECT_EQ(s.Red.NroUEHs, 3);
+    EXPECT_EQ(s.Red.NroUEHs(), 3);
     EXPECT_TRUE(disco.Esta("/proy/Arroyo_RHQ.vlm"));
 }
 
@@ -341,7 +339,7 @@ TEST_F(EdicionBorra, BorrarTodoSinTablaRHQNoAvisa)
 {
     Responde({true});
     PonModo(Boton::BorraTodo);
-    EXPECT_EQ(s.Red.NroUEHs, 0);
+    EXPECT_EQ(s.Red.NroUEHs(), 0);
     EXPECT_TRUE(Avisos().empty());
 }
 
@@ -355,7 +353,7 @@ TEST_F(EdicionBorra, BorrarTodoConLaTablaProtegidaDaLaFallaYReponeLaRed)
         Avisos(),
         (Cajas{{"Error Nro. 75 ,Error de acceso a la ruta o al archivoVerifique", "", Icono::Ninguno}}));
     EXPECT_EQ(s.Red.ColUEHs.Cuenta(), 3);
-    EXPECT_EQ(s.Red.NroCauces, 3);
+    EXPECT_EQ(s.Red.NroCauces(), 3);
 }
 
 TEST_F(EdicionBorra, BorrarTodoDejaCaerElTrazo)
@@ -365,7 +363,7 @@ TEST_F(EdicionBorra, BorrarTodoDejaCaerElTrazo)
     Responde({true});
     PonModo(Boton::BorraTodo);
     EXPECT_EQ(f.trazo.ClicsCauce, 0);
-    EXPECT_EQ(s.Red.NroCauces, 0);
+    EXPECT_EQ(s.Red.NroCauces(), 0);
     EXPECT_EQ(Faltas(), std::vector<std::string>{});
 
     PonModo(Boton::Cauce);

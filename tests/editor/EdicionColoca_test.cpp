@@ -48,7 +48,7 @@ TEST_F(EdicionColoca, UnaUEHNaceConSusValores)
     esperada.IconoUEHx = 120.5F;
     esperada.IconoUEHy = 80;
     EXPECT_EQ(s.Red.UEHs(1), esperada);
-    EXPECT_EQ(s.Red.NroUEHs, 1);
+    EXPECT_EQ(s.Red.NroUEHs(), 1);
     EXPECT_EQ(Peticiones(), (Pares{{"Nombre de la UEH ?", "Agregar una UEH"}}));
     EXPECT_TRUE(Avisos().empty());
     EXPECT_EQ(Con(editor::Papel::Icono).size(), 1U);
@@ -70,7 +70,7 @@ TEST_F(EdicionColoca, UnaRepresaNaceConPiscinaNiveladaYTabla)
     esperada.Metodo = "Piscina Nivelada";
     esperada.optTabla = true;
     EXPECT_EQ(s.Red.Represas(1), esperada);
-    EXPECT_EQ(s.Red.NroRepresas, 1);
+    EXPECT_EQ(s.Red.NroRepresas(), 1);
     EXPECT_EQ(Peticiones(), (Pares{{"Nombre de la Represa ?", "Agregar una Represa"}}));
 }
 
@@ -88,7 +88,7 @@ TEST_F(EdicionColoca, UnLagoNaceConMetodoDirecto)
     esperado.IconoLAGOy = 40;
     esperado.Metodo = "Directo";
     EXPECT_EQ(s.Red.Lagos(1), esperado);
-    EXPECT_EQ(s.Red.NroLagos, 1);
+    EXPECT_EQ(s.Red.NroLagos(), 1);
     EXPECT_EQ(Peticiones(),
               (Pares{{"Nombre de la depresión lagunar/lago/mallin ?", "Agregar una depresión lagunar"}}));
 }
@@ -162,7 +162,7 @@ TEST_F(EdicionColoca, CancelarElNombreDeUnaUEHLaQuitaYGuardaLaRed)
 
     ASSERT_EQ(s.Red.ColUEHs.Cuenta(), 1);
     EXPECT_EQ(s.Red.UEHs(1).NombreUEH, "u-a");
-    EXPECT_EQ(s.Red.NroUEHs, 1);
+    EXPECT_EQ(s.Red.NroUEHs(), 1);
     EXPECT_EQ(s.Seleccion.UEHSel, 0);
     EXPECT_EQ(Avisos(), Cajas{Guardado});
     EXPECT_NE(disco.Bytes("/proy/Arroyo_UEHs.vlm").find("\"u-a\""), std::string::npos);
@@ -176,7 +176,7 @@ TEST_F(EdicionColoca, CancelarLaUnicaUEHBorraLosArchivosSinMensaje)
     Escribe({""});
     Clic(10, 10);
     EXPECT_EQ(s.Red.ColUEHs.Cuenta(), 0);
-    EXPECT_EQ(s.Red.NroUEHs, 0);
+    EXPECT_EQ(s.Red.NroUEHs(), 0);
     EXPECT_TRUE(Avisos().empty());
     EXPECT_FALSE(disco.Esta("/proy/Arroyo_UEHs.vlm"));
 }
@@ -266,7 +266,7 @@ TEST_F(EdicionColoca, LaUEH71EsUnaFallaDeSubindiceYNoQuedaNada)
     Escribe({"x"});
     Clic(3, 3);
     EXPECT_EQ(s.Red.ColUEHs, antes);
-    EXPECT_EQ(s.Red.NroUEHs, 70);
+    EXPECT_EQ(s.Red.NroUEHs(), 70);
     EXPECT_EQ(Avisos(), Cajas{FueraDelArreglo});
     EXPECT_TRUE(Peticiones().empty());
 }
@@ -294,7 +294,7 @@ TEST_F(EdicionColoca, ElLago71NoEntra)
     PonModo(Boton::LAGO);
     EXPECT_EQ(apoyo::NumeroDeFalla([&] { editor::Coloca(f, s, {3, 3}); }), 9);
     EXPECT_EQ(s.Red.ColLagos.Cuenta(), 70);
-    EXPECT_EQ(s.Red.NroLagos, 70);
+    EXPECT_EQ(s.Red.NroLagos(), 70);
 }
 
 }  // namespace

@@ -35,7 +35,7 @@ TEST_F(EdicionTraza, ElPrimerClicEmpiezaUnCauceConUnVertice)
     PonModo(Boton::Cauce);
     Clic(100, 200);
     EXPECT_EQ(f.trazo.ClicsCauce, 1);
-    EXPECT_EQ(s.Red.NroCauces, 1);
+    EXPECT_EQ(s.Red.NroCauces(), 1);
     EXPECT_EQ(s.Red.NroVertices(1), 1);
     EXPECT_EQ(Vertice(1, 1), (Punto{100, 200}));
     EXPECT_EQ(s.Red.ColCauces.Cuenta(), 0);
@@ -71,7 +71,7 @@ TEST_F(EdicionTraza, EnterLoTerminaConSusValores)
     esperado.Cauce_aa = "0";
     esperado.optDirMusk = true;
     EXPECT_EQ(s.Red.Cauces(1), esperado);
-    EXPECT_EQ(s.Red.NroCauces, 1);
+    EXPECT_EQ(s.Red.NroCauces(), 1);
     ASSERT_EQ(NroPeticiones(), 1U);
     EXPECT_EQ(anfitrion->Mensajes(Suceso::Clase::Peticion)[0],
               (Mensaje{"Nombre del cauce ?", "Agrega un nuevo Cauce", Icono::Ninguno}));
@@ -134,7 +134,7 @@ TEST_F(EdicionTraza, ElClic21LoTerminaYEsSuVertice21)
     EXPECT_EQ(s.Red.Cauces(1).NombreCauce, "c-largo");
     EXPECT_EQ(s.Red.Cauces(1).numVertices, 21);
     EXPECT_EQ(s.Red.NroVertices(1), 21);
-    EXPECT_EQ(s.Red.NroCauces, 1);
+    EXPECT_EQ(s.Red.NroCauces(), 1);
     EXPECT_EQ(Vertice(1, 20), (Punto{200, 50}));
     EXPECT_EQ(Vertice(1, 21), (Punto{210, 50}));
     EXPECT_EQ(Faltas(), std::vector<std::string>{});
@@ -147,7 +147,7 @@ TEST_F(EdicionTraza, ElClic22EmpiezaOtroCauce)
     Traza(21, 50);
     Clic(10, 400);
     EXPECT_EQ(f.trazo.ClicsCauce, 1);
-    EXPECT_EQ(s.Red.NroCauces, 2);
+    EXPECT_EQ(s.Red.NroCauces(), 2);
     EXPECT_EQ(Vertice(2, 1), (Punto{10, 400}));
     Clic(20, 400);
     Tecla(editor::Tecla::Enter);
@@ -234,7 +234,7 @@ TEST_F(EdicionTraza, ElCauce71FallaAlPrimerClic)
     Parte();
     PonModo(Boton::Cauce);
     Clic(3, 3);
-    EXPECT_EQ(s.Red.NroCauces, 70);
+    EXPECT_EQ(s.Red.NroCauces(), 70);
     EXPECT_EQ(f.trazo.ClicsCauce, 0);
     EXPECT_EQ(Avisos(),
               (Cajas{{"Error Nro. 9 ,El subíndice está fuera del intervaloVerifique", "", Icono::Ninguno}}));
@@ -265,7 +265,7 @@ TEST_F(EdicionDivide, ReparteLosVerticesYCadaParteTieneElDeCorte)
 {
     Divide(2, 3);
     ASSERT_EQ(s.Red.ColCauces.Cuenta(), 4);
-    EXPECT_EQ(s.Red.NroCauces, 4);
+    EXPECT_EQ(s.Red.NroCauces(), 4);
     EXPECT_EQ(s.Red.NroVertices(2), 3);
     EXPECT_EQ(Vertice(2, 1), (Punto{600, 600}));
     EXPECT_EQ(Vertice(2, 3), (Punto{400, 600}));
@@ -324,7 +324,7 @@ TEST_F(EdicionDivide, EnElPrimeroElUltimoONingunVerticeNoPasaNada)
         Divide(2, vertice);
         EXPECT_EQ(s.Red.ColCauces, antes) << vertice;
         EXPECT_EQ(s.Red.NroVertices(2), 4) << vertice;
-        EXPECT_EQ(s.Red.NroCauces, 3) << vertice;
+        EXPECT_EQ(s.Red.NroCauces(), 3) << vertice;
         EXPECT_EQ(s.Seleccion.CauceSel, 2) << vertice;
     }
 }

@@ -16,6 +16,7 @@
 #include "apoyo/DiscoPrueba.h"
 #include "editor/frmUEHs.h"
 #include "engine/ComponenteFinal.h"
+#include "model/ArchivoConf.h"
 #include "model/Componentes.h"
 #include "model/Configuracion.h"
 #include "model/Numeros.h"
@@ -46,7 +47,6 @@ struct RedHecha {
                                 .NombreCauce = nombre,
                                 .Cauce_aa = destino,
                                 .optDirMusk = true});
-        s.Red.NroCauces = static_cast<std::int16_t>(n);
         s.Red.NroVertices(n) = static_cast<std::int16_t>(cuenta);
         for (auto* v : {&s.Red.XVertice, &s.Red.YVertice}) {
             if (v->UltimaFila() < model::MaxCauces) v->Dimensiona(model::MaxCauces, cuenta);
@@ -73,7 +73,6 @@ struct RedHecha {
                               .XCauce = drena.X,
                               .YCauce = drena.Y,
                               .Cauce_aa = destino});
-        s.Red.NroUEHs = static_cast<std::int16_t>(s.Red.ColUEHs.Cuenta());
     }
     void Represa(const std::string& nombre, editor::Punto en, const std::string& destino = "",
                  editor::Punto drena = {})
@@ -87,7 +86,6 @@ struct RedHecha {
                                   .YCauce = drena.Y,
                                   .Cauce_aa = destino,
                                   .optTabla = true});
-        s.Red.NroRepresas = static_cast<std::int16_t>(s.Red.ColRepresas.Cuenta());
     }
     void Lago(const std::string& nombre, editor::Punto en, const std::string& destino = "",
               editor::Punto drena = {})
@@ -100,7 +98,6 @@ struct RedHecha {
                                .YCauce = drena.Y,
                                .Metodo = "Directo",
                                .Cauce_aa = destino});
-        s.Red.NroLagos = static_cast<std::int16_t>(s.Red.ColLagos.Cuenta());
     }
 };
 
@@ -111,10 +108,10 @@ inline std::vector<std::string> VerificaRed(const editor::frmUEHs& f, const mode
     const auto exige = [&](bool vale, const std::string& que) {
         if (!vale) faltas.push_back(que);
     };
-    exige(s.Red.NroUEHs == s.Red.ColUEHs.Cuenta(), "NroUEHs");
-    exige(s.Red.NroLagos == s.Red.ColLagos.Cuenta(), "NroLagos");
-    exige(s.Red.NroRepresas == s.Red.ColRepresas.Cuenta(), "NroRepresas");
-    exige(s.Red.NroCauces == s.Red.ColCauces.Cuenta() + (f.trazo.ClicsCauce > 0 ? 1 : 0), "NroCauces");
+    exige(s.Red.NroUEHs() == s.Red.ColUEHs.Cuenta(), "NroUEHs");
+    exige(s.Red.NroLagos() == s.Red.ColLagos.Cuenta(), "NroLagos");
+    exige(s.Red.NroRepresas() == s.Red.ColRepresas.Cuenta(), "NroRepresas");
+    exige(s.Red.NroCauces() == s.Red.ColCauces.Cuenta() + (f.trazo.ClicsCauce > 0 ? 1 : 0), "NroCauces");
     exige(s.Red.ColUEHs.Cuenta() <= model::MaxUEHs && s.Red.ColCauces.Cuenta() <= model::MaxCauces &&
               s.Red.ColLagos.Cuenta() <= model::MaxLagos && s.Red.ColRepresas.Cuenta() <= model::MaxRepresas,
           "limits");
@@ -179,8 +176,8 @@ inline std::vector<std::string> VerificaRed(const editor::frmUEHs& f, const mode
             if (p.papel == editor::Papel::Icono) ++iconos;
             if (p.papel == editor::Papel::Cauce) ++cauces;
         }
-        exige(iconos == s.Red.NroUEHs + s.Red.NroLagos + s.Red.NroRepresas, "icons drawn");
-        exige(cauces == s.Red.NroCauces, "reaches drawn");
+        exige(iconos == s.Red.NroUEHs() + s.Red.NroLagos() + s.Red.NroRepresas(), "icons drawn");
+        exige(cauces == s.Red.NroCauces(), "reaches drawn");
     }
     return faltas;
 }
@@ -222,7 +219,7 @@ struct EditorDePrueba : ::testing::Test {
     /// Takes it for the saved one too.
     void Guarda()
     {
-        model::mnu_btn_toolbarGuardaUEHs(s);
+        model::GuardaRed(s);
         Parte();
         anfitrion->sucesos.clear();
     }

@@ -51,9 +51,10 @@ TEST(EnMano, UnCauceEstaMientrasSeCuenta)
 {
     model::Siro s;
     s.Red.ColCauces.Agrega({});
+    s.Red.ColCauces.Anuncia(0);
     s.Seleccion.CauceSel = 1;
     EXPECT_FALSE(HayEnMano<Cauce>(s));
-    s.Red.NroCauces = 1;
+    s.Red.ColCauces.Anuncia(1);
     EXPECT_TRUE(HayEnMano<Cauce>(s));
 }
 

@@ -87,7 +87,7 @@ TEST_F(GuardadoFallido, ElTrazoSinTerminarSigueEnLaMano)
     Niega();
     PonModo(Boton::GuardaUEHs);
     EXPECT_EQ(f.trazo.ClicsCauce, 2);
-    EXPECT_EQ(s.Red.NroCauces, 3);
+    EXPECT_EQ(s.Red.NroCauces(), 3);
     EXPECT_EQ(Vertice(3, 2), (editor::Punto{710, 690}));
     EXPECT_EQ(Faltas(), Nombres{});
 }
@@ -118,7 +118,7 @@ TEST_F(GuardadoFallido, LoBorradoQuedaBorradoConLosNumerosCerradosYSeDeshace)
     EXPECT_EQ(NombresUEH(), (Nombres{"u-2", "u-3"}));
     EXPECT_EQ(s.Red.UEHs(1).NombreUEH, "u-2");
     EXPECT_EQ(s.Red.UEHs(1).numUEH, 1);
-    EXPECT_EQ(s.Red.NroUEHs, 2);
+    EXPECT_EQ(s.Red.NroUEHs(), 2);
     EXPECT_EQ(Archivos(), viejo);
     EXPECT_TRUE(f.cambiada);
     EXPECT_EQ(Faltas(), Nombres{});
@@ -192,7 +192,7 @@ TEST_F(GuardadoFallido, CadaLlamadaAlDiscoQueFallaDejaLosArchivosEnterosYElDibuj
                 editor::ToolbarUEHs_ButtonClick(f, s, Boton::GuardaUEHs);
                 model::LeeUEHs(s);
                 EXPECT_EQ(s.Red.ColUEHs.Cuenta(), orden.uehs) << orden.que << ", call " << n;
-                EXPECT_EQ(s.Red.ColCauces.Cuenta(), s.Red.NroCauces);
+                EXPECT_EQ(s.Red.ColCauces.Cuenta(), s.Red.NroCauces());
             }
             EXPECT_GE(n, 2) << orden.que;
         }

@@ -34,7 +34,7 @@ TEST_F(HistoriaDelEditor, DeshaceYRehacePasoAPaso)
     Tecla(T::Deshacer);
     EXPECT_EQ(s.Red.ColUEHs.Item(1).Cauce_aa, "");
     Tecla(T::Deshacer);
-    EXPECT_EQ(s.Red.NroUEHs, 1);
+    EXPECT_EQ(s.Red.NroUEHs(), 1);
     Tecla(T::Rehacer);
     EXPECT_EQ(s.Red.ColUEHs.Item(1).Cauce_aa, "c-1");
     EXPECT_EQ(Vertice(1, 2), (Punto{200, 200}));
@@ -113,7 +113,7 @@ TEST_F(HistoriaDelEditor, VuelvenCuentasVerticesYTodasLasClases)
     Tecla(T::Deshacer);
     EXPECT_EQ(s.Red.ColCauces, antes.Red.ColCauces);
     EXPECT_EQ(s.Red.ColRepresas.Cuenta() + s.Red.ColLagos.Cuenta(), 0);
-    EXPECT_EQ(s.Red.NroCauces + s.Red.NroRepresas + s.Red.NroLagos, 1);
+    EXPECT_EQ(s.Red.NroCauces() + s.Red.NroRepresas() + s.Red.NroLagos(), 1);
     EXPECT_EQ(s.Red.NroVertices(2), 0);
     Tecla(T::Rehacer);
     EXPECT_EQ(s.Red.ColCauces, despues.Red.ColCauces);
@@ -128,14 +128,14 @@ TEST_F(HistoriaDelEditor, VuelvenCuentasVerticesYTodasLasClases)
 TEST_F(HistoriaDelEditor, UnaFallaDevuelveLaRedComoEstaba)
 {
     Edita([&] {
-        ++s.Red.NroUEHs;
+        s.Red.ColUEHs.Anuncia(2);
         s.Red.ColUEHs.Item(1).Area = 5;
         throw model::Falla{model::NumeroFalla::Subindice};
     });
     EXPECT_EQ(
         Avisos(),
         (Cajas{{"Error Nro. 9 ,El subíndice está fuera del intervaloVerifique", "", model::Icono::Ninguno}}));
-    EXPECT_EQ(s.Red.NroUEHs, 1);
+    EXPECT_EQ(s.Red.NroUEHs(), 1);
     EXPECT_EQ(s.Red.ColUEHs.Item(1).Area, 0);
     EXPECT_TRUE(f.historia.anteriores.empty());
     EXPECT_FALSE(f.cambiada);
@@ -206,21 +206,21 @@ struct TrazoEnHistoria : HistoriaDelEditor {
     {
         Edita([&] {
             if (f.trazo.ClicsCauce++ == 0) {
-                ++s.Red.NroCauces;
-                s.Red.NroVertices(s.Red.NroCauces) = 0;
+                s.Red.ColCauces.Anuncia(static_cast<std::int16_t>(s.Red.NroCauces() + 1));
+                s.Red.NroVertices(s.Red.NroCauces()) = 0;
             }
-            ++s.Red.NroVertices(s.Red.NroCauces);
+            ++s.Red.NroVertices(s.Red.NroCauces());
             editor::Redibuja(f, s);
-            s.Red.XVertice(s.Red.NroCauces, s.Red.NroVertices(s.Red.NroCauces)) = p.X;
-            s.Red.YVertice(s.Red.NroCauces, s.Red.NroVertices(s.Red.NroCauces)) = p.Y;
+            s.Red.XVertice(s.Red.NroCauces(), s.Red.NroVertices(s.Red.NroCauces())) = p.X;
+            s.Red.YVertice(s.Red.NroCauces(), s.Red.NroVertices(s.Red.NroCauces())) = p.Y;
         });
     }
     void Termina()
     {
         Edita([&] {
             f.trazo.ClicsCauce = 0;
-            s.Red.ColCauces.Agrega({.numCauce = s.Red.NroCauces,
-                                    .numVertices = s.Red.NroVertices(s.Red.NroCauces),
+            s.Red.ColCauces.Agrega({.numCauce = s.Red.NroCauces(),
+                                    .numVertices = s.Red.NroVertices(s.Red.NroCauces()),
                                     .NombreCauce = "c-nuevo",
                                     .Cauce_aa = "0"});
             editor::Redibuja(f, s);
@@ -239,7 +239,7 @@ TEST_F(TrazoEnHistoria, MientrasSeDibujaDeshacerQuitaUnVertice)
     Tecla(T::Deshacer);
     Tecla(T::Deshacer);
     EXPECT_EQ(f.trazo.ClicsCauce, 0);
-    EXPECT_EQ(s.Red.NroCauces, 1);
+    EXPECT_EQ(s.Red.NroCauces(), 1);
     EXPECT_EQ(Faltas(), std::vector<std::string>{});
     Tecla(T::Rehacer);
     EXPECT_EQ(f.trazo.ClicsCauce, 1);
@@ -254,7 +254,7 @@ TEST_F(TrazoEnHistoria, TerminadoElCauceEsUnSoloPaso)
     Termina();
     EXPECT_EQ(f.historia.anteriores.size(), 1U);
     Tecla(T::Deshacer);
-    EXPECT_EQ(s.Red.NroCauces, 1);
+    EXPECT_EQ(s.Red.NroCauces(), 1);
     EXPECT_EQ(f.trazo.ClicsCauce, 0);
     Tecla(T::Rehacer);
     EXPECT_EQ(s.Red.ColCauces.Cuenta(), 2);
@@ -271,9 +271,9 @@ TEST_F(TrazoEnHistoria, LoColocadoEntreDosClicsSigueSiendoUnPasoPropio)
     Tecla(T::Deshacer);  // back before the third click
     EXPECT_EQ(s.Red.ColCauces.Cuenta(), 1);
     EXPECT_EQ(f.trazo.ClicsCauce, 2);
-    EXPECT_EQ(s.Red.NroUEHs, 2);
+    EXPECT_EQ(s.Red.NroUEHs(), 2);
     Tecla(T::Deshacer);
-    EXPECT_EQ(s.Red.NroUEHs, 1);
+    EXPECT_EQ(s.Red.NroUEHs(), 1);
     EXPECT_EQ(f.trazo.ClicsCauce, 2);
 }
 
@@ -297,9 +297,9 @@ std::size_t Peso(const editor::RedGuardada& red)
 // 230 components and 70 reaches of 21 vertices: a thousand steps of the largest network take 100 MB at most.
 TEST_F(HistoriaDelEditor, UnPasoDeLaRedMasGrandePesaPoco)
 {
-    for (int i = s.Red.NroUEHs; i < model::MaxUEHs; ++i)
+    for (int i = s.Red.NroUEHs(); i < model::MaxUEHs; ++i)
         red.UEH("u", {1, 1});
-    for (int i = s.Red.NroCauces; i < model::MaxCauces; ++i)
+    for (int i = s.Red.NroCauces(); i < model::MaxCauces; ++i)
         red.Cauce("c", std::vector<Punto>(21, {1, 1}));
     for (int i = 0; i < model::MaxLagos; ++i)
         red.Lago("l", {1, 1});
@@ -336,7 +336,7 @@ TEST_F(HistoriaDelEditor, UnCauceDibujadoEsUnSoloPaso)
     EXPECT_EQ(s.Red.ColCauces.Item(2).NombreCauce, "c-nuevo");
     EXPECT_EQ(f.historia.anteriores.size(), 1U);
     Tecla(T::Deshacer);
-    EXPECT_EQ(s.Red.NroCauces, 1);
+    EXPECT_EQ(s.Red.NroCauces(), 1);
     Tecla(T::Rehacer);
     EXPECT_EQ(s.Red.NroVertices(2), 3);
     EXPECT_EQ(Faltas(), std::vector<std::string>{});
@@ -346,11 +346,11 @@ TEST_F(HistoriaDelEditor, DeshacerUnBorradoQueSeGuardoMarcaLaRedComoCambiada)
 {
     s.Seleccion.UEHSel = 1;
     Tecla(T::Suprimir);
-    EXPECT_EQ(s.Red.NroUEHs, 0);
+    EXPECT_EQ(s.Red.NroUEHs(), 0);
     EXPECT_FALSE(f.cambiada);
     const std::string enDisco = disco.Bytes("/proy/Arroyo_UEHs.vlm");
     Tecla(T::Deshacer);
-    EXPECT_EQ(s.Red.NroUEHs, 1);
+    EXPECT_EQ(s.Red.NroUEHs(), 1);
     EXPECT_EQ(s.Red.ColUEHs.Item(1).NombreUEH, "u-1");
     EXPECT_TRUE(f.cambiada);
     EXPECT_EQ(disco.Bytes("/proy/Arroyo_UEHs.vlm"), enDisco);
@@ -359,21 +359,21 @@ TEST_F(HistoriaDelEditor, DeshacerUnBorradoQueSeGuardoMarcaLaRedComoCambiada)
 TEST_F(HistoriaDelEditor, BorrarTodoSeDeshace)
 {
     editor::ToolbarUEHs_ButtonClick(f, s, Boton::BorraTodo);
-    EXPECT_EQ(s.Red.NroUEHs + s.Red.NroCauces, 0);
+    EXPECT_EQ(s.Red.NroUEHs() + s.Red.NroCauces(), 0);
     Tecla(T::Deshacer);
-    EXPECT_EQ(s.Red.NroUEHs + s.Red.NroCauces, 2);
+    EXPECT_EQ(s.Red.NroUEHs() + s.Red.NroCauces(), 2);
     EXPECT_EQ(Vertice(1, 2), (Punto{200, 200}));
 }
 
 TEST_F(HistoriaDelEditor, ColocarPasadoElLimiteDejaLaRedComoEstaba)
 {
-    while (s.Red.NroRepresas < model::MaxRepresas)
-        red.Represa("r-" + std::to_string(s.Red.NroRepresas), {static_cast<float>(s.Red.NroRepresas), 5});
+    while (s.Red.NroRepresas() < model::MaxRepresas)
+        red.Represa("r-" + std::to_string(s.Red.NroRepresas()), {static_cast<float>(s.Red.NroRepresas()), 5});
     Parte();
     PonModo(Boton::Represa);
     Escribe({"una mas"});
     Clic(500, 500);
-    EXPECT_EQ(s.Red.NroRepresas, model::MaxRepresas);
+    EXPECT_EQ(s.Red.NroRepresas(), model::MaxRepresas);
     EXPECT_EQ(s.Red.ColRepresas.Cuenta(), model::MaxRepresas);
     EXPECT_EQ(
         Avisos(),

@@ -31,28 +31,27 @@ class ProyectoGuardado {
         c.numCauce = n;
         c.numVertices = s.Red.NroVertices(n) = 2;
         c.IndiceParInicial = static_cast<std::int16_t>(2 * n - 1);
-        s.Red.NroCauces = n;
         s.Red.ColCauces.Agrega(std::move(c));
     }
     void Agrega(model::UEH u)
     {
-        u.numUEH = s.Red.NroUEHs = static_cast<std::int16_t>(s.Red.ColUEHs.Cuenta() + 1);
+        u.numUEH = static_cast<std::int16_t>(s.Red.ColUEHs.Cuenta() + 1);
         s.Red.ColUEHs.Agrega(std::move(u));
     }
     void Agrega(model::Represa r)
     {
-        r.numRepresa = s.Red.NroRepresas = static_cast<std::int16_t>(s.Red.ColRepresas.Cuenta() + 1);
+        r.numRepresa = static_cast<std::int16_t>(s.Red.ColRepresas.Cuenta() + 1);
         s.Red.ColRepresas.Agrega(std::move(r));
     }
     void Agrega(model::Lago l)
     {
-        l.numLAGO = s.Red.NroLagos = static_cast<std::int16_t>(s.Red.ColLagos.Cuenta() + 1);
+        l.numLAGO = static_cast<std::int16_t>(s.Red.ColLagos.Cuenta() + 1);
         s.Red.ColLagos.Agrega(std::move(l));
     }
     /// Puts the network on the disk and forgets what was said about it.
     void Guarda()
     {
-        model::mnu_btn_toolbarGuardaUEHs(s);
+        model::GuardaRed(s);
         anfitrion->sucesos.clear();
     }
 

@@ -341,7 +341,7 @@ TEST_F(Redibuja, LosCaucesSonPolilineasDesdeElVertice1ConElAnchoDeLinea)
 
 TEST_F(Redibuja, ElCauceQueSeEstaDibujandoSeVeAunqueNoTengaObjeto)
 {
-    s.Red.NroCauces = 1;
+    s.Red.ColCauces.Anuncia(1);
     s.Red.NroVertices(1) = 1;
     Dibuja();
     s.Red.XVertice(1, 1) = 30;

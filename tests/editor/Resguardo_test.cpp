@@ -86,7 +86,6 @@ TEST_F(DibujoEnPeligro, GuardarGuardaYSigue)
         EXPECT_FALSE(f.cambiada);
         EXPECT_EQ(f.abierta, riesgo != Riesgo::OtroProyecto);
         s.Red.ColUEHs.Quita(2);
-        s.Red.NroUEHs = 1;
         Guarda();
     }
 }

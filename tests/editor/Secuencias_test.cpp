@@ -12,6 +12,7 @@
 
 #include "editor/EditorDePrueba.h"
 #include "editor/MenuDibujo.h"
+#include "model/ArchivoConf.h"
 
 // The editor as a machine: whatever the user clicks, drags, types and answers, the network stays whole, goes
 // to its files and comes back equal, and every step can be undone.
@@ -330,11 +331,11 @@ struct Maquina : EditorDePrueba {
         if (f.gesto.izquierdoAbajo) Suelta(1, 1);
         editor::DescartaTrazo(f, s);
         const RedComparable antes(s);
-        model::mnu_btn_toolbarGuardaUEHs(s);
+        model::GuardaRed(s);
         EXPECT_TRUE(antes == RedComparable(s)) << "saved and read back";
         Abre();
         EXPECT_TRUE(antes == RedComparable(s)) << "opened again";
-        EXPECT_EQ(s.Red.NroCauces, antes.s.Red.ColCauces.Cuenta());
+        EXPECT_EQ(s.Red.NroCauces(), antes.s.Red.ColCauces.Cuenta());
     }
     /// Back to the beginning and forth again.
     void DeshaceYRehaceTodo()

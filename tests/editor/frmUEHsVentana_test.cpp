@@ -16,6 +16,7 @@
 #include "apoyo/Ventanas.h"
 #include "editor/frmUEHs_ventana.h"
 #include "forms/Textos_ventana.h"
+#include "model/ArchivoConf.h"
 #include "model/Componentes.h"
 
 namespace editor {

@@ -11,6 +11,7 @@
 #include "apoyo/Compara.h"
 #include "editor/EditorDePrueba.h"
 #include "editor/Fondo.h"
+#include "model/ArchivoConf.h"
 
 namespace {
 
@@ -141,7 +142,7 @@ TEST_F(Editor, AlAbrirLeeLosComponentesReescalaYCentra)
     Guarda();
     s.Red.ColCauces.Vacia();
     Abre();
-    ASSERT_EQ(s.Red.NroCauces, 1);
+    ASSERT_EQ(s.Red.NroCauces(), 1);
     EXPECT_EQ(f.vista.sldEscala, 220);  // 1600 * 1.1 / 800
     EXPECT_EQ(f.vista.origen, (Punto{-80, -680}));
     EXPECT_EQ(Con(Papel::Cauce).size(), 1U);
@@ -154,7 +155,7 @@ TEST_F(Editor, UnProyectoSinCaucesAbreAl100SinReescalar)
     red.UEH("u-2", {3000, 10});
     Guarda();
     Abre();
-    EXPECT_EQ(s.Red.NroUEHs, 2);
+    EXPECT_EQ(s.Red.NroUEHs(), 2);
     EXPECT_EQ(f.vista.sldEscala, 100);
 }
 
@@ -288,7 +289,7 @@ TEST_F(Editor, ElPrimerCauceDeLaRedSigueEnManoTrasGuardar)
     Clic(200, 50);
     PonModo(Boton::GuardaUEHs);
     EXPECT_EQ(f.trazo.ClicsCauce, 2);
-    EXPECT_EQ(s.Red.NroCauces, 1);
+    EXPECT_EQ(s.Red.NroCauces(), 1);
     ASSERT_EQ(s.Red.NroVertices(1), 2);
     EXPECT_EQ(Vertice(1, 2), (editor::Punto{200, 50}));
 }
@@ -472,7 +473,7 @@ TEST_F(Editor, EnterColocaALaMitadDeLaExtensionYNoEnElCentro)
     Tecla(T::Enter);
     PonModo(Boton::LAGO);
     Tecla(T::Enter);
-    ASSERT_EQ(s.Red.NroUEHs + s.Red.NroRepresas + s.Red.NroLagos, 3);
+    ASSERT_EQ(s.Red.NroUEHs() + s.Red.NroRepresas() + s.Red.NroLagos(), 3);
     EXPECT_EQ(s.Red.ColUEHs.Item(1).IconoUEHx, 100);  // (300 - 100)/2
     EXPECT_EQ(s.Red.ColUEHs.Item(1).IconoUEHy, 300);  // (650 - 50)/2
     EXPECT_EQ(s.Red.ColRepresas.Item(1).IconoRepresaX, 100);
@@ -485,7 +486,7 @@ TEST_F(Editor, EnterEnUnDibujoVacioColocaEnElMedioDeLoQueSeVe)
     f.vista.origen = {1000, 2000};
     PonModo(Boton::UEH);
     Tecla(T::Enter);
-    ASSERT_EQ(s.Red.NroUEHs, 1);
+    ASSERT_EQ(s.Red.NroUEHs(), 1);
     // The canvas of 800 by 800 shows the units from 1000 and from 2000 on.
     EXPECT_EQ(s.Red.ColUEHs.Item(1).IconoUEHx, 1400);
     EXPECT_EQ(s.Red.ColUEHs.Item(1).IconoUEHy, 2400);
@@ -565,7 +566,7 @@ TEST_F(EditorConTeclado, LaCruzColocaMideYElige)
     Cruz(250, 150);
     Escribe({"una"});
     Tecla(T::Enter);
-    ASSERT_EQ(s.Red.NroUEHs, 1);
+    ASSERT_EQ(s.Red.NroUEHs(), 1);
     EXPECT_EQ(s.Red.UEHs(1).IconoUEHx, 250);
     EXPECT_EQ(s.Red.UEHs(1).IconoUEHy, 150);
     EXPECT_EQ(f.gesto.cruz, (Punto{250, 150}));
@@ -591,7 +592,7 @@ TEST_F(EditorConTeclado, SinCruzElEspacioNoHaceNada)
 {
     PonModo(Boton::UEH);
     Tecla(T::Espacio);
-    EXPECT_EQ(s.Red.NroUEHs, 0);
+    EXPECT_EQ(s.Red.NroUEHs(), 0);
     EXPECT_TRUE(anfitrion->sucesos.empty());
 }
 
@@ -662,9 +663,9 @@ TEST_F(Editor, ElProyectoDeMuestraSeVeEntero)
     disco.Pon("/proy/Quelmar.jpg", apoyo::BytesDeArchivo(muestra / "Quelmar.jpg"));
     s.Proyecto.NombreProyecto = "Quelmar";
     Abre();
-    ASSERT_GT(s.Red.NroUEHs * s.Red.NroCauces * s.Red.NroRepresas * s.Red.NroLagos, 0);
+    ASSERT_GT(s.Red.NroUEHs() * s.Red.NroCauces() * s.Red.NroRepresas() * s.Red.NroLagos(), 0);
     EXPECT_EQ(Faltas(), std::vector<std::string>{});
-    EXPECT_EQ(Con(Papel::EnlaceUEH).size(), static_cast<std::size_t>(s.Red.NroUEHs));
+    EXPECT_EQ(Con(Papel::EnlaceUEH).size(), static_cast<std::size_t>(s.Red.NroUEHs()));
     for (const Punto esquina : {Punto{f.vista.extension.XMin, f.vista.extension.YMin},
                                 Punto{f.vista.extension.XMax, f.vista.extension.YMax}}) {
         const editor::Pixel p = editor::APixel(f.vista, esquina);
@@ -799,13 +800,13 @@ TEST_F(Editor, AlCerrarElCauceSinTerminarSeAbandona)
 {
     RedSana();
     Parte();
-    s.Red.NroCauces = 2;
+    s.Red.ColCauces.Anuncia(2);
     s.Red.NroVertices(2) = 1;
     f.trazo.ClicsCauce = 1;
     Responde({false});
     Tecla(T::Esc);
     EXPECT_FALSE(f.abierta);
-    EXPECT_EQ(s.Red.NroCauces, 1);
+    EXPECT_EQ(s.Red.NroCauces(), 1);
     EXPECT_EQ(f.trazo.ClicsCauce, 0);
 }
 
@@ -863,10 +864,10 @@ TEST_F(Imagen, LoQueLaRelecturaQuitoVuelveConDeshacer)
     red.UEH("u-2", {9, 9});
     editor::Anota(f.historia, s.Red, f.trazo);
     editor::cmdImagenUEHs_Click(f, s);
-    EXPECT_EQ(s.Red.NroUEHs, 1);
+    EXPECT_EQ(s.Red.NroUEHs(), 1);
     EXPECT_FALSE(f.cambiada);
     Tecla(T::Deshacer);
-    EXPECT_EQ(s.Red.NroUEHs, 2);
+    EXPECT_EQ(s.Red.NroUEHs(), 2);
     EXPECT_TRUE(f.cambiada);
 }
 
@@ -878,7 +879,7 @@ TEST_F(Imagen, UnArchivoQueNoEstaSeCuentaYLaImagenQuedaQuitada)
     EXPECT_EQ(Avisos(), (Cajas{Falla("Error Nro. 53 ,No se encontró el archivoVerifique.")}));
     EXPECT_FALSE(f.fondo.ImagenVisible);
     EXPECT_EQ(f.fondo.cmdImagenUEHs, "Imágen");
-    EXPECT_EQ(s.Red.NroCauces, 1);  // nothing was read again
+    EXPECT_EQ(s.Red.NroCauces(), 1);  // nothing was read again
     EXPECT_TRUE(pedidas.empty());
 }
 

@@ -198,9 +198,9 @@ TEST_P(BalanceDeAgua, LoQueEntraMenosLoQueQuedaEsLoQueSale)
     ASSERT_TRUE(red.Corre());
     ASSERT_TRUE(red.anfitrion->sucesos.empty());
     const model::Siro& s = red.s;
-    for (int fila = 1; fila <= s.Red.NroUEHs; ++fila)
+    for (int fila = 1; fila <= s.Red.NroUEHs(); ++fila)
         BalanceDeUEH(s, fila);
-    for (int fila = s.Red.NroUEHs + 1; fila <= s.Resultados.NroComponentes; ++fila) {
+    for (int fila = s.Red.NroUEHs() + 1; fila <= s.Resultados.NroComponentes; ++fila) {
         const std::string& nombre = s.Resultados.Secuencia[static_cast<std::size_t>(fila)];
         if (!nombre.starts_with("c-")) {
             BalanceDeEmbalse(s, fila, nombre);

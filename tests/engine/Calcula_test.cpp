@@ -46,7 +46,6 @@ class ElCalculo : public testing::Test, public pruebas::RedDeUEHs {
     /// A Lago between c-1 and c-2 with a table up to a height above 100 m.
     void PonLago(float altura, const std::string& metodo)
     {
-        s.Red.NroLagos = 1;
         s.Red.ColLagos.Agrega({.NombreLAGO = "l-1",
                                .numLAGO = 1,
                                .Metodo = metodo,

@@ -80,22 +80,16 @@ class RedAMano {
         CuentaComponentes();
         LlenaTablas();
         s.Resultados.QSale.Dimensiona(s.Resultados.NroComponentes, pasos + 1);
-        s.Resultados.QEntra.Dimensiona(s.Red.NroUEHs + 1, s.Resultados.NroComponentes + 1, pasos + 1);
+        s.Resultados.QEntra.Dimensiona(s.Red.NroUEHs() + 1, s.Resultados.NroComponentes + 1, pasos + 1);
         s.Resultados.QMax.Dimensiona(s.Resultados.NroComponentes, 1);
         for (auto* m : {&s.Resultados.HRepresa, &s.Resultados.SRepresa})
-            m->Dimensiona(s.Red.NroRepresas, pasos + 1);
+            m->Dimensiona(s.Red.NroRepresas(), pasos + 1);
         for (auto* m : {&s.Resultados.HLago, &s.Resultados.SLago})
-            m->Dimensiona(s.Red.NroLagos, pasos + 1);
+            m->Dimensiona(s.Red.NroLagos(), pasos + 1);
         aportes = engine::Aportes(s);
         corrida.Afluentes = &aportes;
     }
-    void CuentaComponentes()
-    {
-        s.Red.NroUEHs = static_cast<std::int16_t>(s.Red.ColUEHs.Cuenta());
-        s.Red.NroCauces = static_cast<std::int16_t>(s.Red.ColCauces.Cuenta());
-        s.Red.NroLagos = static_cast<std::int16_t>(s.Red.ColLagos.Cuenta());
-        s.Red.NroRepresas = static_cast<std::int16_t>(s.Red.ColRepresas.Cuenta());
-    }
+    void CuentaComponentes() {}
     /// The tables given so far into the run-wide arrays.
     void LlenaTablas()
     {

@@ -8,6 +8,7 @@
 #include "apoyo/Compara.h"
 #include "engine/RedDeUEHs.h"
 #include "engine/mdlSeriePDR.h"
+#include "model/ArchivoConf.h"
 #include "model/TablasEmbalse.h"
 
 // A series gives the same bytes, boxes and state whatever the number of threads: over random projects with
@@ -65,7 +66,6 @@ class SerieAlAzar : public pruebas::RedDeUEHs {
     /// A lake too low for large storms now and then: a question at each height that leaves its table.
     void PonLaguna()
     {
-        s.Red.NroLagos = 1;
         s.Red.ColLagos.Agrega({.NombreLAGO = "l-1",
                                .numLAGO = 1,
                                .Metodo = Uno<std::string>({"Piscina Nivelada", "Runge Kutta", "Muskingum"}),

@@ -25,7 +25,6 @@ class Orden : public testing::Test {
     }
     bool Ordena()
     {
-        s.Red.NroUEHs = static_cast<std::int16_t>(s.Red.ColUEHs.Cuenta());
         RehaceSecuencia(s);
         return OrdenSecuencia(s);
     }

@@ -5,6 +5,7 @@
 
 #include "apoyo/AnfitrionPrueba.h"
 #include "apoyo/DiscoPrueba.h"
+#include "model/ArchivoConf.h"
 #include "model/Componentes.h"
 #include "model/Configuracion.h"
 #include "model/Siro.h"
@@ -33,20 +34,18 @@ class RedDeUEHs {
     }
     model::UEH& PonUEH(const std::string& nombre, const std::string& destino)
     {
-        s.Red.NroUEHs = static_cast<std::int16_t>(s.Red.ColUEHs.Cuenta() + 1);
         return s.Red.ColUEHs.Agrega({.NombreUEH = nombre,
                                      .Area = 6,
                                      .LongitudMax = 600,
                                      .VelMedia = 1,
                                      .Metodo = "Directo",
-                                     .numUEH = s.Red.NroUEHs,
+                                     .numUEH = static_cast<std::int16_t>(s.Red.ColUEHs.Cuenta() + 1),
                                      .Cauce_aa = destino});
     }
     /// Direct, 600 m at 1 m/s: a delay of one step of 10 min.
     model::Cauce& PonCauce(const std::string& nombre, const std::string& destino)
     {
-        s.Red.NroCauces = static_cast<std::int16_t>(s.Red.ColCauces.Cuenta() + 1);
-        return s.Red.ColCauces.Agrega({.numCauce = s.Red.NroCauces,
+        return s.Red.ColCauces.Agrega({.numCauce = static_cast<std::int16_t>(s.Red.ColCauces.Cuenta() + 1),
                                        .NombreCauce = nombre,
                                        .Cauce_aa = destino,
                                        .LongCauce = 600,
@@ -60,7 +59,7 @@ class RedDeUEHs {
         s.frmConfigura.CheckR.fill(1);
         s.frmConfigura.CheckD.fill(1);
         model::cmdAplicar(s);
-        model::mnu_btn_toolbarGuardaUEHs(s);
+        model::GuardaRed(s);
         anfitrion->sucesos.clear();
     }
 

@@ -9,6 +9,7 @@
 
 #include "apoyo/Compara.h"
 #include "engine/RedDeUEHs.h"
+#include "model/ArchivoConf.h"
 #include "model/Texto.h"
 
 namespace engine {

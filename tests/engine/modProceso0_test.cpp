@@ -102,7 +102,6 @@ TEST_F(UnaTormenta, CargaRefrescaRotulosYHabilitaLaVerificacionConRepresas)
     CargaProyecto(s);
     EXPECT_EQ(anfitrion->rotulosProyecto, 1);
     EXPECT_EQ(anfitrion->verificacionHabilitada, 0);
-    s.Red.NroRepresas = 1;
     s.Red.ColRepresas.Agrega({.NombreRepresa = "r-1", .numRepresa = 1, .chkFQ = {1}});
     GuardaProyecto();
     CargaProyecto(s);

@@ -38,7 +38,6 @@ class EstadoConEmbalses {
             s.Red.ColRepresas.Agrega({.NombreRepresa = "r-" + nombre, .numRepresa = n});
             s.Red.ColLagos.Agrega({.NombreLAGO = "l-" + nombre, .numLAGO = n});
         }
-        s.Red.NroRepresas = s.Red.NroLagos = 2;
         for (auto* filas : {&s.Red.RepresaFilasHAS, &s.Red.RepresaFilasHQ, &s.Red.LagoFilas})
             filas->Dimensiona(2);
         for (auto* tabla : {&s.Red.RepresaH, &s.Red.RepresaA, &s.Red.RepresaQH, &s.Red.RepresaQQ,

@@ -511,7 +511,7 @@ TEST_F(mdlFQs, CargaFQsEmpiezaDeNuevo)
     CargaFQs(s.Red);
     EXPECT_EQ(s.Red.FQActiva(1, 1), 1);
     s.Red.ColRepresas.Vacia();
-    s.Red.NroRepresas = 0;
+    s.Red.ColRepresas.Anuncia(0);
     CargaFQs(s.Red);
     EXPECT_EQ(s.Red.FQActiva.UltimaFila(), 0);
     EXPECT_EQ(s.Red.FQCoef.size(), 1U);

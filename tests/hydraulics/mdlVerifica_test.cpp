@@ -49,11 +49,7 @@ class Verificacion : public testing::Test, public pruebas::EstadoConEmbalses {
     }
     void Responde(std::deque<std::string> textos) { anfitrion->textos = std::move(textos); }
     /// Only the first Represa is there.
-    void DejaUna()
-    {
-        s.Red.ColRepresas.Quita(2);
-        s.Red.NroRepresas = 1;
-    }
+    void DejaUna() { s.Red.ColRepresas.Quita(2); }
     [[nodiscard]] std::vector<Mensaje> Peticiones() const
     {
         return anfitrion->Mensajes(Suceso::Clase::Peticion);
@@ -81,7 +77,7 @@ class Verificacion : public testing::Test, public pruebas::EstadoConEmbalses {
 
 TEST_F(Verificacion, SinRepresasNingunoHaceNada)
 {
-    s.Red.NroRepresas = 0;
+    s.Red.ColRepresas.Anuncia(0);
     VerificaHSV(s);
     VerificaHQ(s);
     EXPECT_TRUE(Callado());

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "ProyectoDePrueba.h"
+#include "model/ArchivoConf.h"
 #include "model/Componentes.h"
 #include "model/Configuracion.h"
 #include "model/Siro.h"
@@ -24,9 +25,8 @@ struct DosProgramas : ::testing::Test, ProyectoDePrueba {
     {
         s.Vigilancia.activa = true;
         s.Red.ColUEHs.Agrega({.NombreUEH = "u-1", .Metodo = "Directo", .numUEH = 1});
-        s.Red.NroUEHs = 1;
         cmdAplicar(s);
-        mnu_btn_toolbarGuardaUEHs(s);
+        GuardaRed(s);
         anfitrion->sucesos.clear();
     }
     std::vector<std::string> Preguntas() const
@@ -50,11 +50,11 @@ struct DosProgramas : ::testing::Test, ProyectoDePrueba {
 TEST_F(DosProgramas, LoPropioSeGuardaUnaYOtraVezSinPreguntas)
 {
     cmdAplicar(s);
-    mnu_btn_toolbarGuardaUEHs(s);
+    GuardaRed(s);
     LeeTablaHSVRepresa(s);
     GuardaTablaHSVRepresa(s);
     GuardaTablaHSVRepresa(s);
-    mnu_btn_toolbarGuardaUEHs(s);
+    GuardaRed(s);
     leoConf(s);
     cmdAplicar(s);
     EXPECT_EQ(Preguntas(), std::vector<std::string>{});
@@ -67,8 +67,8 @@ TEST_F(DosProgramas, LoQueOtroCambioSePreguntaAntesDePisarlo)
         std::function<void(Siro&)> guarda;
     };
     const std::vector<Caso> casos = {{"_Conf.vlm", [](Siro& t) { cmdAplicar(t); }},
-                                     {"_UEHs.vlm", [](Siro& t) { mnu_btn_toolbarGuardaUEHs(t); }},
-                                     {"_VerCau.vlm", [](Siro& t) { mnu_btn_toolbarGuardaUEHs(t); }}};
+                                     {"_UEHs.vlm", [](Siro& t) { GuardaRed(t); }},
+                                     {"_VerCau.vlm", [](Siro& t) { GuardaRed(t); }}};
     for (const Caso& caso : casos) {
         Pon(caso.archivo, "de otro");
         anfitrion->sucesos.clear();
@@ -100,9 +100,8 @@ TEST_F(DosProgramas, UnaRedVaciaNoBorraSinPreguntarLaQueOtroDejo)
 {
     Pon("_UEHs.vlm", "de otro");
     s.Red.ColUEHs.Vacia();
-    s.Red.NroUEHs = 0;
     anfitrion->respuestas = {false};
-    EXPECT_FALSE(mnu_btn_toolbarGuardaUEHs(s));
+    EXPECT_FALSE(GuardaRed(s));
     EXPECT_EQ(Bytes("_UEHs.vlm"), "de otro");
 }
 
@@ -111,7 +110,7 @@ TEST_F(DosProgramas, LoQueNuncaSeLeyoTambienSePregunta)
     disco.Pon("/proy/Otro_UEHs.vlm", "ajeno");
     s.Proyecto.NombreProyecto = "Otro";
     anfitrion->respuestas = {false};
-    EXPECT_FALSE(mnu_btn_toolbarGuardaUEHs(s));
+    EXPECT_FALSE(GuardaRed(s));
     EXPECT_EQ(disco.Bytes("/proy/Otro_UEHs.vlm"), "ajeno");
     EXPECT_EQ(anfitrion->Preguntas().size(), 1U);
 }
@@ -119,7 +118,7 @@ TEST_F(DosProgramas, LoQueNuncaSeLeyoTambienSePregunta)
 TEST_F(DosProgramas, LoQueOtroBorroSeGuardaSinPreguntar)
 {
     disco.Quita("/proy/Arroyo_UEHs.vlm");
-    mnu_btn_toolbarGuardaUEHs(s);
+    GuardaRed(s);
     EXPECT_EQ(Preguntas(), std::vector<std::string>{});
     EXPECT_TRUE(disco.Esta("/proy/Arroyo_UEHs.vlm"));
 }
@@ -140,10 +139,10 @@ TEST_F(DosProgramas, AlAbrirSeDiceQuienLoTieneYSePreguntaAntesDelPrimerGuardado)
     anfitrion->respuestas = {false, true};
     const std::string antes = Bytes("_UEHs.vlm");
     s.Red.ColUEHs.Item(1).Area = 5;
-    EXPECT_FALSE(mnu_btn_toolbarGuardaUEHs(s));
+    EXPECT_FALSE(GuardaRed(s));
     EXPECT_EQ(Bytes("_UEHs.vlm"), antes);
-    EXPECT_TRUE(mnu_btn_toolbarGuardaUEHs(s));
-    EXPECT_TRUE(mnu_btn_toolbarGuardaUEHs(s));
+    EXPECT_TRUE(GuardaRed(s));
+    EXPECT_TRUE(GuardaRed(s));
     EXPECT_TRUE(cmdAplicar(s));
     EXPECT_EQ(Preguntas(), (std::vector<std::string>{PreguntaAbierto, PreguntaAbierto})) << "asked till Yes";
 }
@@ -194,7 +193,7 @@ TEST_F(DosProgramas, SinVentanasNadaSeReclamaNiSePregunta)
     AbreProyectoDe(s, "/proy/Arroyo_Conf.vlm");
     LeeUEHs(s);
     Pon("_UEHs.vlm", "de otro");
-    EXPECT_TRUE(mnu_btn_toolbarGuardaUEHs(s));
+    EXPECT_TRUE(GuardaRed(s));
     EXPECT_EQ(anfitrion->reclamados, std::vector<std::string>{});
     EXPECT_EQ(Preguntas(), std::vector<std::string>{});
 }

@@ -64,6 +64,27 @@ TEST(Coleccion, QuitarRenumeraLosDeDetras)
     EXPECT_TRUE(c.begin() == c.end());
 }
 
+TEST(Coleccion, CuentaLosQueHayMientrasNoSeAnuncieOtroNumero)
+{
+    DeTres c = Con(2);
+    EXPECT_EQ(c.Nro(), 2);
+    c.Anuncia(5);
+    EXPECT_EQ(c.Nro(), 5);
+    EXPECT_EQ(c.Cuenta(), 2);
+    EXPECT_EQ(NumeroDeFalla([&] { c.Ranura(3); }), 91);
+    EXPECT_FALSE(c == Con(2));
+    c.Agrega("c-3");
+    EXPECT_EQ(c.Nro(), 3);
+    c.Anuncia(0);
+    c.Quita(1);
+    EXPECT_EQ(c.Nro(), 2);
+    c.Anuncia(-1);
+    EXPECT_EQ(c.Recuenta(), 2);
+    EXPECT_EQ(c.Nro(), 2);
+    c.Vacia();
+    EXPECT_EQ(c.Nro(), 0);
+}
+
 TEST(Coleccion, SeRecorreEnOrden)
 {
     std::string recorrido;

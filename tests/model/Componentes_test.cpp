@@ -12,6 +12,7 @@
 
 #include "RedDePrueba.h"
 #include "apoyo/Compara.h"
+#include "model/Clases.h"
 #include "model/Falla.h"
 #include "model/Siro.h"
 
@@ -128,7 +129,7 @@ TEST(ArreglosDeComponentes, UnComponenteNuevoEstaEnCero)
 TEST_F(Componentes, UnProyectoSinArchivosEsUnaRedVaciaSinAviso)
 {
     s.Red.ColCauces.Agrega({});
-    s.Red.NroCauces = s.Red.NroUEHs = s.Red.NroRepresas = s.Red.NroLagos = 3;
+    CadaClase(s.Red, [](auto& coleccion) { coleccion.Anuncia(3); });
     LeeUEHs(s);
     EXPECT_EQ(Avisos(), Cajas{});
     EXPECT_EQ(Cuentas(), (std::vector<int>{0, 0, 0, 0}));
@@ -141,7 +142,7 @@ TEST_F(Componentes, CadaCampoDeUnCauceLlegaASuPropiedad)
 {
     LeeEjemplo();
     EXPECT_EQ(Avisos(), Cajas{});
-    EXPECT_EQ(s.Red.NroCauces, 2);
+    EXPECT_EQ(s.Red.NroCauces(), 2);
     EXPECT_TRUE(s.Red.Cauces(2) == (Cauce{.numCauce = 2,
                                           .numVertices = 3,
                                           .IndiceParInicial = 3,
@@ -159,7 +160,7 @@ TEST_F(Componentes, CadaCampoDeUnCauceLlegaASuPropiedad)
 TEST_F(Componentes, CadaCampoDeUnaUEHLlegaASuPropiedad)
 {
     LeeEjemplo();
-    EXPECT_EQ(s.Red.NroUEHs, 1);
+    EXPECT_EQ(s.Red.NroUEHs(), 1);
     EXPECT_TRUE(s.Red.UEHs(1) == (UEH{.NombreUEH = "u-1",
                                       .Area = 250.5F,
                                       .Referencia = "ladera, norte",
@@ -183,7 +184,7 @@ TEST_F(Componentes, CadaCampoDeUnaUEHLlegaASuPropiedad)
 TEST_F(Componentes, CadaCampoDeUnaRepresaLlegaASuPropiedad)
 {
     LeeEjemplo();
-    EXPECT_EQ(s.Red.NroRepresas, 1);
+    EXPECT_EQ(s.Red.NroRepresas(), 1);
     EXPECT_TRUE(s.Red.Represas(1) == (Represa{.NombreRepresa = "r-1",
                                               .numRepresa = 1,
                                               .IconoRepresaX = 300,
@@ -207,7 +208,7 @@ TEST_F(Componentes, CadaCampoDeUnaRepresaLlegaASuPropiedad)
 TEST_F(Componentes, CadaCampoDeUnLagoLlegaASuPropiedad)
 {
     LeeEjemplo();
-    EXPECT_EQ(s.Red.NroLagos, 1);
+    EXPECT_EQ(s.Red.NroLagos(), 1);
     EXPECT_TRUE(s.Red.Lagos(1) == (Lago{.NombreLAGO = "l-1",
                                         .numLAGO = 1,
                                         .Referencia = "mallin",
@@ -227,7 +228,7 @@ TEST_F(Componentes, ElYCauceDeUnLagoVuelveComoEstaEnElArchivo)
     red.lagos[0][7] = "-0.1234567";
     Lee(red.Bytes(), VerticesDeEjemplo);
     EXPECT_EQ(s.Red.Lagos(1).YCauce, -0.1234567F);
-    mnu_btn_toolbarGuardaUEHs(s);
+    GuardaRed(s);
     EXPECT_EQ(s.Red.Lagos(1).YCauce, -0.1234567F);
     EXPECT_NE(Uehs().find("\r\n-0.1234567\r\n"), std::string::npos);
 }
@@ -274,7 +275,7 @@ TEST_F(Componentes, UnCauceSinVerticesNoOcupaRenglon)
     Lee(red.Bytes(), "1,2\r\n3,4\r\n");
     EXPECT_EQ(Avisos(), Cajas{});
     EXPECT_EQ(s.Red.XVertice(3, 1), 3);
-    mnu_btn_toolbarGuardaUEHs(s);
+    GuardaRed(s);
     EXPECT_EQ(VerCau(), "1,2\r\n3,4\r\n");
 }
 
@@ -406,7 +407,7 @@ TEST_F(Componentes, LaUEH71DaUnAvisoYSusCamposVanAlObjeto)
     ArchivoDeRed red{.uehs = Muchos(72, [](int i) { return RegistroUEH("u-" + std::to_string(i)); })};
     Lee(red.Bytes(), "");
     EXPECT_EQ(Avisos(), Veces(2, CajaSubindice));  // 71 and 72
-    EXPECT_EQ(s.Red.NroUEHs, 72);
+    EXPECT_EQ(s.Red.NroUEHs(), 72);
     EXPECT_EQ(s.Red.ColUEHs.Item(71).NombreUEH, "u-71");
     EXPECT_EQ(s.Red.ColUEHs.Item(72).numUEH, 72);
     EXPECT_EQ(s.Red.ColUEHs.Item(72).RetensionZ, 5.5F);
@@ -436,7 +437,7 @@ TEST_F(Componentes, CadaVerticeDelCauce71DaUnAvisoYNoConsumeSuPar)
         .cauces = Muchos(71, [](int i) { return RegistroCauce("c-" + std::to_string(i), i == 71 ? 2 : 0); })};
     Lee(red.Bytes(), "");  // an empty file isn't read past its end
     EXPECT_EQ(Avisos(), Veces(1, CajaSubindice) + Veces(2, CajaSubindice));
-    EXPECT_EQ(s.Red.NroCauces, 71);
+    EXPECT_EQ(s.Red.NroCauces(), 71);
     EXPECT_EQ(s.Red.NroVertices(71), 2);
     EXPECT_EQ(s.Red.ColCauces.Item(71).Cauce_k_Musk, 20.5F);
     EXPECT_EQ(s.Red.XVertice.TopeColumna(), 2);
@@ -561,7 +562,7 @@ TEST_F(Componentes, UnArchivoDeVerticesCortoAvisaYTermina)
 {
     Lee(RedDeEjemplo().Bytes(), "1,2\r\n3.5,-4\r\n5,6\r\n7");
     EXPECT_EQ(Avisos(), Cajas{CajaDanado});
-    EXPECT_EQ(s.Red.NroCauces, 2);
+    EXPECT_EQ(s.Red.NroCauces(), 2);
     EXPECT_EQ(s.Red.XVertice(2, 1), 5);
     EXPECT_EQ(s.Red.XVertice(2, 2), 0);
     EXPECT_EQ(anfitrion->verificacionHabilitada, 0);
@@ -583,7 +584,7 @@ TEST_F(Componentes, ConUnArchivoDeVerticesIlegibleCadaParAvisa)
     disco.PonDirectorio("/proy/Arroyo_VerCau.vlm");
     LeeUEHs(s);
     EXPECT_EQ(Avisos(), Veces(1 + 5, CajaAcceso));
-    EXPECT_EQ(s.Red.NroCauces, 2);
+    EXPECT_EQ(s.Red.NroCauces(), 2);
     EXPECT_EQ(anfitrion->verificacionHabilitada, 1);
 }
 
@@ -620,7 +621,7 @@ TEST_F(Componentes, CadaCampoConTextoEnormeONadaAvisaALoSumoUnaVez)
             if (clase != 't' && valor.find('x') != std::string::npos) esperadas = {CajaTipos};
             if ((clase == 'e' || clase == 'f') && valor == "1E300") esperadas = {CajaDesborde};
             EXPECT_EQ(p.Avisos(), esperadas) << campo << ": " << valor;
-            EXPECT_EQ(p.s.Red.NroLagos, 1);
+            EXPECT_EQ(p.s.Red.NroLagos(), 1);
             EXPECT_EQ(p.Bytes("_UEHs.vlm"), Junta(otros));
         }
     }
@@ -665,7 +666,7 @@ TEST_F(Componentes, LosVerticesCortadosEnCadaByteAvisanDanadoUnaVez)
         if (soloMenos) esperadas.push_back(CajaTipos);
         if (largo < bytes.size() - 7) esperadas.push_back(CajaDanado);
         EXPECT_EQ(p.Avisos(), esperadas) << largo;
-        EXPECT_EQ(p.s.Red.NroCauces, 2);
+        EXPECT_EQ(p.s.Red.NroCauces(), 2);
     }
 }
 

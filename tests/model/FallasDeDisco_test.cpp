@@ -22,6 +22,7 @@
 #include "LlamadasQueFallan.h"
 #include "MundoDeProyecto.h"
 #include "apoyo/Compara.h"
+#include "model/ArchivoConf.h"
 #include "model/ArchivosTormenta.h"
 #include "model/Configuracion.h"
 #include "model/VidaProyecto.h"

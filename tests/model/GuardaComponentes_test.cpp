@@ -26,7 +26,7 @@ TEST_F(GuardaComponentes, CargarYGuardarDejaLosMismosBytes)
     ArchivoDeRed red = RedDeEjemplo();
     red.cauces[1][7] = "1";  // c-2 has one tributary of order 1 and takes its order
     Lee(red.Bytes(), VerticesDeEjemplo);
-    mnu_btn_toolbarGuardaUEHs(s);
+    GuardaRed(s);
     EXPECT_TRUE(apoyo::MismoTexto(red.Bytes(), Uehs()));
     EXPECT_TRUE(apoyo::MismoTexto(VerticesDeEjemplo, VerCau()));
     EXPECT_EQ(Avisos(), Cajas{CajaGuardado("/proy/Arroyo_VerCau.vlm")});
@@ -37,10 +37,9 @@ TEST_F(GuardaComponentes, CargarYGuardarDejaLosMismosBytes)
 TEST_F(GuardaComponentes, GuardarUnSoloCauceInformaLaRutaDeLosVertices)
 {
     s.Red.ColCauces.Agrega({.numCauce = 1, .NombreCauce = "c-1"});
-    s.Red.NroCauces = 1;
     s.Red.XVertice.Dimensiona(70, 1);
     s.Red.YVertice.Dimensiona(70, 1);
-    mnu_btn_toolbarGuardaUEHs(s);
+    GuardaRed(s);
     EXPECT_EQ(Avisos(), Cajas{CajaGuardado("/proy/Arroyo_VerCau.vlm")});
     EXPECT_EQ(s.Proyecto.ArchivoTemp, "/proy/Arroyo_VerCau.vlm");
     EXPECT_EQ(Uehs(),
@@ -53,8 +52,7 @@ TEST_F(GuardaComponentes, GuardarUnSoloCauceInformaLaRutaDeLosVertices)
 TEST_F(GuardaComponentes, UnMetodoSinFijarSeEscribeComoRenglonVacio)
 {
     s.Red.ColLagos.Agrega({.NombreLAGO = "l-1"});
-    s.Red.NroLagos = 1;
-    mnu_btn_toolbarGuardaUEHs(s);
+    GuardaRed(s);
     EXPECT_EQ(Uehs(),
               "\"Arroyo\"\r\n0\r\n0\r\n0\r\n1\r\n"
               "0\r\n\"l-1\"\r\n\"\"\r\n\r\n0\r\n0\r\n0\r\n0\r\n\"\"\r\n0\r\n0\r\n");
@@ -65,8 +63,7 @@ TEST_F(GuardaComponentes, UnMetodoSinFijarSeEscribeComoRenglonVacio)
 TEST_F(GuardaComponentes, LosNumerosSeEscribenComoEstanEnLosObjetos)
 {
     s.Red.ColLagos.Agrega({.NombreLAGO = "l-1", .numLAGO = 55, .Metodo = "Muskingum"});
-    s.Red.NroLagos = 1;
-    mnu_btn_toolbarGuardaUEHs(s);
+    GuardaRed(s);
     EXPECT_NE(Uehs().find("1\r\n55\r\n\"l-1\""), std::string::npos);
     EXPECT_EQ(s.Red.Lagos(1).numLAGO, 1);  // and the load numbers anew
 }
@@ -74,8 +71,7 @@ TEST_F(GuardaComponentes, LosNumerosSeEscribenComoEstanEnLosObjetos)
 TEST_F(GuardaComponentes, LosFlotantesSeEscribenConSieteDigitos)
 {
     s.Red.ColUEHs.Agrega({.NombreUEH = "u-1", .Area = 1.0F / 3, .LongitudMax = 12345678, .VelMedia = 1E-5F});
-    s.Red.NroUEHs = 1;
-    mnu_btn_toolbarGuardaUEHs(s);
+    GuardaRed(s);
     EXPECT_NE(Uehs().find("\r\n0.3333333\r\n\"\"\r\n1.234568E+07\r\n1E-05\r\n"), std::string::npos);
 }
 
@@ -83,8 +79,7 @@ TEST_F(GuardaComponentes, UnNombreConComaSobreviveYUnoConComillasNo)
 {
     s.Red.ColUEHs.Agrega({.NombreUEH = "u-a, b", .Metodo = "Directo"});
     s.Red.ColUEHs.Agrega({.NombreUEH = "u-\"c\"", .Metodo = "Directo"});
-    s.Red.NroUEHs = 2;
-    mnu_btn_toolbarGuardaUEHs(s);
+    GuardaRed(s);
     EXPECT_EQ(s.Red.UEHs(1).NombreUEH, "u-a, b");
     EXPECT_EQ(s.Red.UEHs(2).NombreUEH, "u-");
 }
@@ -99,8 +94,8 @@ TEST_F(GuardaComponentes, TrasQuitarElCauce2De3ElTerceroEsElSegundo)
     s.Red.NroVertices(2) = s.Red.NroVertices(3);
     s.Red.XVertice(2, 1) = s.Red.XVertice(3, 1);
     s.Red.YVertice(2, 1) = s.Red.YVertice(3, 1);
-    mnu_btn_toolbarGuardaUEHs(s);
-    EXPECT_EQ(s.Red.NroCauces, 2);  // taken from the collection
+    GuardaRed(s);
+    EXPECT_EQ(s.Red.NroCauces(), 2);  // taken from the collection
     EXPECT_NE(Uehs().find("\r\n3\r\n\"c-3\""), std::string::npos);
     EXPECT_EQ(s.Red.Cauces(2).NombreCauce, "c-3");
     EXPECT_EQ(s.Red.Cauces(2).numCauce, 2);
@@ -112,7 +107,7 @@ TEST_F(GuardaComponentes, LosVerticesSeGuardanPorNumeroYNoPorColeccion)
     Lee(ArchivoDeRed{.cauces = {RegistroCauce("c-1", 1), RegistroCauce("c-2", 2)}}.Bytes(),
         "1,1\r\n2,2\r\n3,3\r\n");
     std::swap(s.Red.ColCauces.Item(1), s.Red.ColCauces.Item(2));
-    mnu_btn_toolbarGuardaUEHs(s);
+    GuardaRed(s);
     EXPECT_EQ(VerCau(), "1,1\r\n2,2\r\n3,3\r\n");
     EXPECT_EQ(s.Red.XVertice(1, 2), 2);  // c-2, now the first, says that it has two
 }
@@ -121,8 +116,8 @@ TEST_F(GuardaComponentes, LasOtrasCuentasSalenDeSusVariables)
 {
     s.Red.ColUEHs.Agrega({.NombreUEH = "u-1", .Metodo = "Directo"});
     s.Red.ColUEHs.Agrega({.NombreUEH = "u-2", .Metodo = "Directo"});
-    s.Red.NroUEHs = 1;
-    mnu_btn_toolbarGuardaUEHs(s);
+    s.Red.ColUEHs.Anuncia(1);
+    GuardaRed(s);
     EXPECT_EQ(Uehs().substr(0, 16), "\"Arroyo\"\r\n0\r\n1\r\n");
     EXPECT_NE(Uehs().find("u-2"), std::string::npos);  // the collection is written whole
 }
@@ -133,7 +128,7 @@ TEST_F(GuardaComponentes, ElOrdenSeCalculaAntesDeGuardar)
                                 RegistroCauce("c-3")}}
             .Bytes(),
         "");
-    mnu_btn_toolbarGuardaUEHs(s);
+    GuardaRed(s);
     EXPECT_EQ(s.Red.Cauces(3).OrdenCauce, 2);
 }
 
@@ -144,7 +139,7 @@ TEST_F(GuardaComponentes, SinComponentesSeBorranLosDosArchivosSinAviso)
     Pon("_UEHs.vlm", "viejo");
     Pon("_VerCau.vlm", "viejo");
     disco.Pon("/proy/Arroyo_RHQ.vlm", "queda");
-    mnu_btn_toolbarGuardaUEHs(s);
+    GuardaRed(s);
     EXPECT_EQ(disco.Archivos(), std::vector<std::string>{"/proy/Arroyo_RHQ.vlm"});
     EXPECT_EQ(Avisos(), Cajas{});
     EXPECT_EQ(anfitrion->redibujos, 0);
@@ -152,7 +147,7 @@ TEST_F(GuardaComponentes, SinComponentesSeBorranLosDosArchivosSinAviso)
 
 TEST_F(GuardaComponentes, SinComponentesNiArchivosNoPasaNada)
 {
-    mnu_btn_toolbarGuardaUEHs(s);
+    GuardaRed(s);
     EXPECT_EQ(Avisos(), Cajas{});
     EXPECT_TRUE(disco.Archivos().empty());
 }
@@ -160,7 +155,7 @@ TEST_F(GuardaComponentes, SinComponentesNiArchivosNoPasaNada)
 TEST_F(GuardaComponentes, SinElPrimerArchivoElComandoTerminaAhi)
 {
     Pon("_VerCau.vlm", "queda");
-    mnu_btn_toolbarGuardaUEHs(s);
+    GuardaRed(s);
     EXPECT_EQ(Avisos(), Cajas{});
     EXPECT_EQ(VerCau(), "queda");
 }
@@ -171,7 +166,7 @@ TEST_F(GuardaComponentes, SiUnArchivoNoSePuedeBorrarSeInformaYQuedanLosDos)
         Pon("_UEHs.vlm", "queda");
         Pon("_VerCau.vlm", "queda también");
         disco.Protege(RutaDe(protegido));
-        EXPECT_FALSE(mnu_btn_toolbarGuardaUEHs(s));
+        EXPECT_FALSE(GuardaRed(s));
         disco.Protege(RutaDe(protegido), false);
         EXPECT_EQ(Avisos(), Cajas{CajaAcceso}) << protegido;
         EXPECT_EQ(Uehs(), "queda");
@@ -187,7 +182,7 @@ TEST_F(GuardaComponentes, UnaRedVaciaPorqueSuCargaFalloNoBorraNada)
     disco.FallaEn(1, NumeroFalla::AccesoRuta);
     LeeUEHs(s);
     OlvidaAvisos();
-    EXPECT_FALSE(mnu_btn_toolbarGuardaUEHs(s));
+    EXPECT_FALSE(GuardaRed(s));
     EXPECT_EQ(Avisos(),
               (Cajas{{"La red está vacía porque no se pudieron leer sus archivos. Los archivos quedan como "
                       "están.",
@@ -199,16 +194,16 @@ TEST_F(GuardaComponentes, UnaRedVaciaPorqueSuCargaFalloNoBorraNada)
     Pon("_VerCau.vlm", VerticesDeEjemplo);
     LeeUEHs(s);
     s.Red.ColCauces.Vacia(), s.Red.ColUEHs.Vacia(), s.Red.ColLagos.Vacia(), s.Red.ColRepresas.Vacia();
-    s.Red.NroCauces = s.Red.NroUEHs = s.Red.NroLagos = s.Red.NroRepresas = 0;
-    EXPECT_TRUE(mnu_btn_toolbarGuardaUEHs(s));
+    EXPECT_TRUE(GuardaRed(s));
     EXPECT_TRUE(disco.Archivos().empty());
 }
 
 TEST_F(GuardaComponentes, LasCuentasDecidenYNoLasColecciones)
 {
     Pon("_UEHs.vlm", "viejo");
-    s.Red.ColCauces.Agrega({.NombreCauce = "c-1"});  // as a load without vertices leaves it
-    mnu_btn_toolbarGuardaUEHs(s);
+    s.Red.ColCauces.Agrega({.NombreCauce = "c-1"});
+    s.Red.ColCauces.Anuncia(0);  // as a load without vertices leaves it
+    GuardaRed(s);
     EXPECT_TRUE(disco.Archivos().empty());
 }
 
@@ -221,7 +216,7 @@ struct Memoria {
           uehs(s.Red.ColUEHs),
           lagos(s.Red.ColLagos),
           represas(s.Red.ColRepresas),
-          cuentas{s.Red.NroCauces, s.Red.NroUEHs, s.Red.NroLagos, s.Red.NroRepresas},
+          cuentas{s.Red.NroCauces(), s.Red.NroUEHs(), s.Red.NroLagos(), s.Red.NroRepresas()},
           nombre(s.Proyecto.NombreProyecto)
     {
     }
@@ -243,7 +238,7 @@ TEST_F(GuardaComponentes, UnoDeLosDosArchivosProtegidoDejaLosDosYLaMemoria)
         const Memoria antes(s);
         OlvidaAvisos();
         disco.Protege(RutaDe(protegido));
-        EXPECT_FALSE(mnu_btn_toolbarGuardaUEHs(s));
+        EXPECT_FALSE(GuardaRed(s));
         disco.Protege(RutaDe(protegido), false);
         EXPECT_EQ(Avisos(), Cajas{CajaAcceso}) << protegido;
         EXPECT_TRUE(apoyo::MismoTexto(RedDeEjemplo().Bytes(), Uehs()));
@@ -256,11 +251,10 @@ TEST_F(GuardaComponentes, UnoDeLosDosArchivosProtegidoDejaLosDosYLaMemoria)
 TEST_F(GuardaComponentes, SinDirectorioSeAvisaUnaVez)
 {
     s.Red.ColLagos.Agrega({.NombreLAGO = "l-1"});
-    s.Red.NroLagos = 1;
     s.Proyecto.DirProyecto = "/ido";
-    EXPECT_FALSE(mnu_btn_toolbarGuardaUEHs(s));
+    EXPECT_FALSE(GuardaRed(s));
     EXPECT_EQ(Avisos(), Cajas{CajaSinRuta});
-    EXPECT_EQ(s.Red.NroLagos, 1);
+    EXPECT_EQ(s.Red.NroLagos(), 1);
     EXPECT_EQ(s.Red.ColLagos.Cuenta(), 1);
 }
 
@@ -271,7 +265,7 @@ TEST_F(GuardaComponentes, UnDiscoLlenoDejaLosArchivosYLaMemoria)
     const Memoria antes(s);
     OlvidaAvisos();
     disco.LimitaEspacio(RedDeEjemplo().Bytes().size() + VerticesDeEjemplo.size());
-    EXPECT_FALSE(mnu_btn_toolbarGuardaUEHs(s));
+    EXPECT_FALSE(GuardaRed(s));
     EXPECT_EQ(Avisos(), Cajas{CajaAcceso});
     EXPECT_EQ(Uehs(), RedDeEjemplo().Bytes());
     EXPECT_EQ(VerCau(), VerticesDeEjemplo);
@@ -279,7 +273,7 @@ TEST_F(GuardaComponentes, UnDiscoLlenoDejaLosArchivosYLaMemoria)
     // A second save that finds room goes through.
     disco.LimitaEspacio(std::string::npos);
     OlvidaAvisos();
-    EXPECT_TRUE(mnu_btn_toolbarGuardaUEHs(s));
+    EXPECT_TRUE(GuardaRed(s));
     EXPECT_EQ(Avisos(), Cajas{CajaGuardado("/proy/Arroyo_VerCau.vlm")});
 }
 
@@ -287,13 +281,12 @@ TEST_F(GuardaComponentes, UnVerticeSinLugarSeAvisaUnaVezYNadaSeEscribe)
 {
     for (const char* const nombre : {"c-1", "c-2"})
         s.Red.ColCauces.Agrega({.NombreCauce = nombre});
-    s.Red.NroCauces = 2;
     s.Red.NroVertices(1) = 3;
     s.Red.NroVertices(2) = 1;
     s.Red.XVertice.Dimensiona(70, 1);
     s.Red.YVertice.Dimensiona(70, 1);
     Pon("_VerCau.vlm", "viejo");
-    EXPECT_FALSE(mnu_btn_toolbarGuardaUEHs(s));
+    EXPECT_FALSE(GuardaRed(s));
     EXPECT_EQ(Avisos(), Cajas{CajaSubindice});  // pairs (1,2) and (1,3) lie outside
     EXPECT_EQ(disco.Archivos(), std::vector<std::string>{"/proy/Arroyo_VerCau.vlm"});
     EXPECT_EQ(VerCau(), "viejo");
@@ -303,8 +296,7 @@ TEST_F(GuardaComponentes, MasCaucesQueUnEnteroDe16BitsNoSeGuardan)
 {
     for (int i = 0; i < 32768; ++i)
         s.Red.ColCauces.Agrega({});
-    s.Red.NroUEHs = 1;
-    EXPECT_FALSE(mnu_btn_toolbarGuardaUEHs(s));
+    EXPECT_FALSE(GuardaRed(s));
     EXPECT_EQ(Avisos(), Cajas{CajaDesborde});
     EXPECT_TRUE(disco.Archivos().empty());
     EXPECT_EQ(s.Red.ColCauces.Cuenta(), 32768);
@@ -314,12 +306,11 @@ TEST_F(GuardaComponentes, GuardarMasDe70CaucesConVerticesNoCambiaLosArchivos)
 {
     for (int i = 1; i <= 102; ++i)
         s.Red.ColCauces.Agrega({.NombreCauce = "c-" + std::to_string(i)});
-    s.Red.NroCauces = 102;
     s.Red.NroVertices(71) = 2;
     s.Red.XVertice.Dimensiona(70, 1);
     s.Red.YVertice.Dimensiona(70, 1);
     Pon("_UEHs.vlm", "viejo");
-    EXPECT_FALSE(mnu_btn_toolbarGuardaUEHs(s));
+    EXPECT_FALSE(GuardaRed(s));
     EXPECT_EQ(Avisos(), Cajas{CajaSubindice});
     EXPECT_EQ(Uehs(), "viejo");
     EXPECT_EQ(s.Red.ColCauces.Cuenta(), 102);
@@ -403,22 +394,21 @@ Lago LagoAlAzar(int n)
 }
 
 template <typename C, typename F>
-std::int16_t Llena(C& coleccion, F alAzar, int alMenos = 0)
+void Llena(C& coleccion, F alAzar, int alMenos = 0)
 {
     const int cuantos = *rc::gen::inRange(alMenos, 4);
     for (int n = 1; n <= cuantos; ++n)
         coleccion.Agrega(alAzar(n));
-    return static_cast<std::int16_t>(cuantos);
 }
 
 RC_GTEST_PROP(ComponentesIdaYVuelta, LoGuardadoVuelveIgual, ())
 {
     ProyectoDePrueba p;
     Siro& s = p.s;
-    s.Red.NroCauces = Llena(s.Red.ColCauces, CauceAlAzar);
-    s.Red.NroUEHs = Llena(s.Red.ColUEHs, UEHAlAzar, 1);
-    s.Red.NroRepresas = Llena(s.Red.ColRepresas, RepresaAlAzar);
-    s.Red.NroLagos = Llena(s.Red.ColLagos, LagoAlAzar);
+    Llena(s.Red.ColCauces, CauceAlAzar);
+    Llena(s.Red.ColUEHs, UEHAlAzar, 1);
+    Llena(s.Red.ColRepresas, RepresaAlAzar);
+    Llena(s.Red.ColLagos, LagoAlAzar);
     int mayor = 0;
     for (const Cauce& c : s.Red.ColCauces)
         mayor = std::max(mayor, int{c.numVertices});
@@ -438,7 +428,7 @@ RC_GTEST_PROP(ComponentesIdaYVuelta, LoGuardadoVuelveIgual, ())
     const auto x = s.Red.XVertice;
     const auto y = s.Red.YVertice;
 
-    mnu_btn_toolbarGuardaUEHs(s);  // and reads again
+    GuardaRed(s);  // and reads again
     RC_ASSERT(p.Avisos() == Cajas{CajaGuardado("/proy/Arroyo_VerCau.vlm")});
     for (Cauce& c : s.Red.ColCauces)
         c.OrdenCauce = 0;
@@ -451,7 +441,7 @@ RC_GTEST_PROP(ComponentesIdaYVuelta, LoGuardadoVuelveIgual, ())
 
     const std::string bytesUEHs = p.Bytes("_UEHs.vlm");
     const std::string bytesVerCau = p.Bytes("_VerCau.vlm");
-    mnu_btn_toolbarGuardaUEHs(s);
+    GuardaRed(s);
     RC_ASSERT(p.Bytes("_UEHs.vlm") == bytesUEHs);
     RC_ASSERT(p.Bytes("_VerCau.vlm") == bytesVerCau);
 }
@@ -490,7 +480,7 @@ TEST(ComponentesSinDisco, ElGuardadoDejaTodoViejoOTodoNuevoAnteLaFallaDeCadaLlam
             p.s.Red.ColUEHs.Item(1).Area = 7;
             const Memoria antes(p.s);
             p.disco.FallaEn(llamada, numero);
-            const bool guardada = mnu_btn_toolbarGuardaUEHs(p.s);
+            const bool guardada = GuardaRed(p.s);
             hubo = p.disco.HuboFalla();
             EXPECT_EQ(guardada, !hubo);
             EXPECT_EQ(p.Avisos().size(), 1U);
@@ -518,7 +508,7 @@ TEST(ComponentesSinDisco, ElBorradoDeUnaRedVaciaDejaTodoOQuitaTodoAnteLaFallaDeC
         p.Pon("_UEHs.vlm", "uno");
         p.Pon("_VerCau.vlm", "dos");
         p.disco.FallaEn(llamada, NumeroFalla::AccesoRuta);
-        const bool borrada = mnu_btn_toolbarGuardaUEHs(p.s);
+        const bool borrada = GuardaRed(p.s);
         hubo = p.disco.HuboFalla();
         EXPECT_EQ(borrada, !hubo);
         EXPECT_EQ(p.Avisos(), hubo ? Cajas{CajaAcceso} : Cajas{});

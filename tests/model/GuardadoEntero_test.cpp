@@ -71,7 +71,7 @@ struct GuardadoEntero : ::testing::Test, MundoDeProyecto {
         s.Proyecto.DirProyecto = s.Proyecto.DirTrabajo = s.frmConfigura.Dir1 = carpeta.Camino().string();
         s.Proyecto.NombreProyecto = "Quelmar";
         PonUEHs(5);
-        mnu_btn_toolbarGuardaUEHs(s);
+        GuardaRed(s);
         TomaSucesos();
     }
     void PonUEHs(int cuantas)
@@ -79,7 +79,6 @@ struct GuardadoEntero : ::testing::Test, MundoDeProyecto {
         s.Red.ColUEHs.Vacia();
         for (int i = 1; i <= cuantas; ++i)
             s.Red.ColUEHs.Agrega({.NombreUEH = "u-" + std::to_string(i), .Area = 250, .numUEH = 0});
-        s.Red.NroUEHs = static_cast<std::int16_t>(cuantas);
     }
     /// Saves 60 UEHs. A failed save must be told once and leave them in memory; the other one must be read
     /// back.
@@ -87,9 +86,9 @@ struct GuardadoEntero : ::testing::Test, MundoDeProyecto {
     {
         PonUEHs(60);
         const auto antes = s.Red.ColUEHs;
-        const bool bien = mnu_btn_toolbarGuardaUEHs(s);
+        const bool bien = GuardaRed(s);
         const auto vistos = TomaSucesos();
-        if (s.Red.NroUEHs != 60 || s.Red.ColUEHs.Cuenta() != 60 || vistos.size() != 1) return Mal;
+        if (s.Red.NroUEHs() != 60 || s.Red.ColUEHs.Cuenta() != 60 || vistos.size() != 1) return Mal;
         if (bien) return vistos[0].find("correctamente") == std::string::npos ? Mal : Nuevo;
         return vistos[0] == CajaAcceso && s.Red.ColUEHs == antes ? Viejo : Mal;
     }

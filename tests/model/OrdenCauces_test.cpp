@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "model/OrdenCauces.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -30,7 +32,7 @@ std::vector<int> Ordenes(const std::vector<Tramo>& tramos, const std::vector<Tra
         s.Red.ColLagos.Agrega({.NombreLAGO = nombre, .Cauce_aa = destino});
     for (const auto& [nombre, destino] : represas)
         s.Red.ColRepresas.Agrega({.NombreRepresa = nombre, .Cauce_aa = destino});
-    CalculaOrdenCauces(s);
+    CalculaOrdenCauces(s.Red);
     std::vector<int> ordenes;
     for (const Cauce& cauce : s.Red.ColCauces)
         ordenes.push_back(cauce.OrdenCauce);
@@ -148,7 +150,7 @@ TEST(OrdenDeCauces, UnOrdenFueraDelTipoEsUnaFalla)
         for (int doble = 0; doble < 2; ++doble)
             s.Red.ColLagos.Agrega({.NombreLAGO = lago, .Cauce_aa = "c-" + std::to_string(i + 1)});
     }
-    EXPECT_EQ(apoyo::NumeroDeFalla([&] { CalculaOrdenCauces(s); }), 6);
+    EXPECT_EQ(apoyo::NumeroDeFalla([&] { CalculaOrdenCauces(s.Red); }), 6);
     EXPECT_EQ(s.Red.ColCauces.Item(32767).OrdenCauce, 32767);
 }
 

@@ -121,7 +121,10 @@ struct ConRed : ::testing::Test, ProyectoDePrueba {
     void LeeEjemplo() { Lee(RedDeEjemplo().Bytes(), VerticesDeEjemplo); }
     std::string Uehs() { return Bytes("_UEHs.vlm"); }
     std::string VerCau() { return Bytes("_VerCau.vlm"); }
-    std::vector<int> Cuentas() { return {s.Red.NroCauces, s.Red.NroUEHs, s.Red.NroRepresas, s.Red.NroLagos}; }
+    std::vector<int> Cuentas()
+    {
+        return {s.Red.NroCauces(), s.Red.NroUEHs(), s.Red.NroRepresas(), s.Red.NroLagos()};
+    }
     std::vector<int> Tamanos()
     {
         return {s.Red.ColCauces.Cuenta(), s.Red.ColUEHs.Cuenta(), s.Red.ColRepresas.Cuenta(),

@@ -51,4 +51,15 @@ TEST(ComoVuelve, LoQueElCodigoNoTieneEsUnSignoDePregunta)
     EXPECT_EQ(ComoVuelve("/río"), "/río");
 }
 
+// Drives are where the backslash separates: here a path has one only where its second character is a colon.
+TEST(RutaProyecto, LaUnidadSonLosDosPrimerosCaracteres)
+{
+    EXPECT_EQ(SinUnidad("C:/proy"), "/proy");
+    EXPECT_EQ(SinUnidad("ñ:x"), "x");
+    EXPECT_EQ(SinUnidad(":C:"), HayUnidades ? ":" : ":C:");
+    EXPECT_EQ(SinUnidad("/proy"), HayUnidades ? "roy" : "/proy");
+    EXPECT_EQ(SinUnidad(""), "");
+    EXPECT_EQ(UnidadDe("C:/proy"), HayUnidades ? "C:" : "");
+}
+
 }  // namespace

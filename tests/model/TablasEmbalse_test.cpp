@@ -92,7 +92,7 @@ TEST_F(TablasEmbalse, LasTablasHASLleganALaRepresaDeSuNombre)
     PonRepresas({"r-2", "r-1"});  // the order of the file is nobody's concern
     LeeRHAS(DosRepresas);
     EXPECT_EQ(Avisos(), Cajas{});
-    EXPECT_EQ(s.Red.NroRepresas, 2);
+    EXPECT_EQ(s.Red.NroRepresas(), 2);
     EXPECT_EQ(Todos(s.Red.RepresaFilasHAS), (std::vector<int>{0, 1, 2}));
     EXPECT_EQ(Fila(s.Red.RepresaH, 1, 1), (std::vector<float>{7}));
     EXPECT_EQ(Fila(s.Red.RepresaA, 1, 1), (std::vector<float>{8}));
@@ -152,7 +152,7 @@ TEST_F(TablasEmbalse, LasTablasHQLleganALaRepresaDeSuNombre)
     Pon(RHQ, "\"*r-1\",1\r\n1.5,2.5\r\n\"*r-2\",2\r\n0,0\r\n3,44.125\r\n");
     LeeTablaHQRepresa(s);
     EXPECT_EQ(Avisos(), Cajas{});
-    EXPECT_EQ(s.Red.NroRepresas, 2);
+    EXPECT_EQ(s.Red.NroRepresas(), 2);
     EXPECT_EQ(Todos(s.Red.RepresaFilasHQ), (std::vector<int>{0, 1, 2}));
     EXPECT_EQ(Fila(s.Red.RepresaQH, 1, 1), (std::vector<float>{1.5F}));
     EXPECT_EQ(Fila(s.Red.RepresaQQ, 1, 1), (std::vector<float>{2.5F}));
@@ -166,7 +166,7 @@ TEST_F(TablasEmbalse, LasTablasHASQLleganAlLagoDeSuNombre)
     Pon(LHASQ, "\"*l-1\",1,\"*\",\"*\"\r\n1,2,3,4.5\r\n\"*l-2\",2,\"*\",\"*\"\r\n5,6,7,8\r\n9,10,11,12\r\n");
     LeeTablaHSVQLago(s);
     EXPECT_EQ(Avisos(), Cajas{});
-    EXPECT_EQ(s.Red.NroLagos, 2);
+    EXPECT_EQ(s.Red.NroLagos(), 2);
     EXPECT_EQ(Todos(s.Red.LagoFilas), (std::vector<int>{0, 1, 2}));
     EXPECT_EQ(Fila(s.Red.LagoQ, 1, 1), (std::vector<float>{4.5F}));
     EXPECT_EQ(Fila(s.Red.LagoH, 2, 2), (std::vector<float>{5, 9}));
@@ -188,9 +188,9 @@ TEST_F(TablasEmbalse, ArchivoTempEsElNombreDelArchivo)
 
 TEST_F(TablasEmbalse, SinComponentesQuedanArreglosDeUnaFila)
 {
-    s.Red.NroRepresas = 9;
+    s.Red.ColRepresas.Anuncia(9);
     LeeRHAS(DosRepresas);
-    EXPECT_EQ(s.Red.NroRepresas, 0);
+    EXPECT_EQ(s.Red.NroRepresas(), 0);
     EXPECT_EQ(Todos(s.Red.RepresaFilasHAS), (std::vector<int>{0}));
     EXPECT_EQ(s.Red.RepresaH.UltimaFila(), 0);
     EXPECT_EQ(s.Red.RepresaH.TopeColumna(), 10);
@@ -338,7 +338,7 @@ TEST_F(TablasEmbalse, LosArreglosLleganHastaElMayorNumero)
     PonRepresas({"r-1", "r-2"});
     s.Red.ColRepresas.Item(1).numRepresa = 7;
     LeeRHAS(DosRepresas);
-    EXPECT_EQ(s.Red.NroRepresas, 2);
+    EXPECT_EQ(s.Red.NroRepresas(), 2);
     EXPECT_EQ(s.Red.RepresaFilasHAS.Tope(), 7);
     EXPECT_EQ(s.Red.RepresaFilasHAS(7), 2);
     EXPECT_EQ(s.Red.RepresaH(7, 2), 5.5F);
@@ -655,7 +655,7 @@ TEST_F(TablasEmbalse, ElGuardadoTomaLaCuentaDeLaColeccionYReemplazaElArchivo)
     LeeRHAS(DosRepresas);
     s.Red.ColRepresas.Quita(2);
     GuardaTablaHSVRepresa(s);
-    EXPECT_EQ(s.Red.NroRepresas, 1);
+    EXPECT_EQ(s.Red.NroRepresas(), 1);
     EXPECT_EQ(Bytes(RHAS), DosRepresas.substr(0, DosRepresas.find("\"*r-2\"")));
 }
 

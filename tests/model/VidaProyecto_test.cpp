@@ -9,6 +9,7 @@
 
 #include "MundoDeProyecto.h"
 #include "apoyo/Compara.h"
+#include "model/ArchivoConf.h"
 #include "model/Componentes.h"
 #include "model/Configuracion.h"
 
@@ -296,7 +297,7 @@ TEST_F(VidaProyecto, CadaRefrescoDeLasEtiquetasGuardaElPuntero)
     LeePuntero(s);
     s.Proyecto.DirProyecto = Otros;
     s.Proyecto.NombreProyecto = "Quelmar";
-    carga_lbl_proyecto(s);
+    MuestraProyecto(s);
     EXPECT_EQ(TomaSucesos(), Sucesos{SucesoEtiquetas("Quelmar", "")});
     EXPECT_EQ(disco.Bytes(Puntero), BytesPuntero(Otros, "Quelmar"));
 }
@@ -308,7 +309,6 @@ TEST_F(VidaProyecto, LimpiarVaciaComponentesSeleccionCuentasYNombresYLeeElPunter
     s.Red.ColCauces.Agrega({});
     s.Red.ColLagos.Agrega({});
     s.Red.ColRepresas.Agrega({});
-    s.Red.NroUEHs = s.Red.NroCauces = s.Red.NroLagos = s.Red.NroRepresas = 1;
     s.Seleccion.CauceSel = s.Seleccion.CauceAnterior = s.Seleccion.UEHSel = s.Seleccion.RepresaSel =
         s.Seleccion.LagoSel = s.Seleccion.VerticeSel = 1;
     s.Proyecto.NombreProyecto = s.Proyecto.DirProyecto = s.Proyecto.DirProyectoConf = s.Proyecto.ArchivoTemp =
@@ -318,7 +318,7 @@ TEST_F(VidaProyecto, LimpiarVaciaComponentesSeleccionCuentasYNombresYLeeElPunter
     EXPECT_EQ(s.Red.ColUEHs.Cuenta() + s.Red.ColCauces.Cuenta() + s.Red.ColLagos.Cuenta() +
                   s.Red.ColRepresas.Cuenta(),
               0);
-    EXPECT_EQ(s.Red.NroUEHs + s.Red.NroCauces + s.Red.NroLagos + s.Red.NroRepresas, 0);
+    EXPECT_EQ(s.Red.NroUEHs() + s.Red.NroCauces() + s.Red.NroLagos() + s.Red.NroRepresas(), 0);
     EXPECT_EQ(s.Seleccion.CauceSel + s.Seleccion.CauceAnterior + s.Seleccion.UEHSel + s.Seleccion.RepresaSel +
                   s.Seleccion.LagoSel + s.Seleccion.VerticeSel,
               0);

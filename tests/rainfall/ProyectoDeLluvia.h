@@ -26,7 +26,6 @@ inline void PonProyectoDeLluvia(model::Siro& s, apoyo::DiscoPrueba& disco)
     s.Proyecto.DirProyecto = "/proyectos";
     s.Configuracion.TituloProyecto = "Arroyo de prueba";
     s.Configuracion.ListaRec = {0, 2, 10, 50};
-    s.Configuracion.NroRec = 3;
     disco.PonDirectorio("/trabajo");
     disco.Pon("/proyectos/ListaPDR.vlm", "30,20,5\r\n80,120,50\r\n");
     PonTormenta(disco, "Velmir_pt.vlm", "Llovizna", 3, 20, "5\r\n10\r\n2.5\r\n");

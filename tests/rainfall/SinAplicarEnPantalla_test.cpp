@@ -39,7 +39,6 @@ class LluviaSinAplicar : public testing::Test {
     {
         PonProyectoDeLluvia(mundo.s, disco);
         mundo.s.Configuracion.ListaDur = {0, 5, 10, 20, 60};
-        mundo.s.Configuracion.NroDur = 4;
     }
     void Muestra(forms::Formulario& ventana, const char* suTitulo)
     {
@@ -286,10 +285,9 @@ TEST_F(LluviaSinAplicar, LaLluviaPorUEHPreguntaHastaQueSeToma)
         ueh.NombreUEH = "u-" + std::to_string(n);
         mundo.s.Red.ColUEHs.Agrega(ueh);
     }
-    mundo.s.Red.NroUEHs = 2;
     mundo.s.Proyecto.NombreProyecto = "Prueba";
     mundo.s.Proyecto.DirProyectoConf = "/proyectos";
-    model::mnu_btn_toolbarGuardaUEHs(mundo.s);
+    model::GuardaRed(mundo.s);
     rainfall::Abre(pp, mundo.s);
     dlgTablaPpUEHs f;
     dlgTablaPpUEHs_ventana ventana(mundo.entorno, f, pp);

@@ -59,7 +59,6 @@ class VentanaDeLluvia : public testing::Test {
     {
         PonProyectoDeLluvia(mundo.s, disco);
         mundo.s.Configuracion.ListaDur = {0, 5, 10, 20, 60};
-        mundo.s.Configuracion.NroDur = 4;
         mundo.s.Proyecto.NombreProyecto = "Prueba";
         mundo.s.Proyecto.DirProyectoConf = "/proyectos";
     }
@@ -489,8 +488,7 @@ class VentanaPpUEHs : public VentanaDeLluvia<dlgTablaPpUEHs, dlgTablaPpUEHs_vent
             ueh.NombreUEH = "u-" + std::to_string(n);
             mundo.s.Red.ColUEHs.Agrega(ueh);
         }
-        mundo.s.Red.NroUEHs = 3;
-        model::mnu_btn_toolbarGuardaUEHs(mundo.s);
+        model::GuardaRed(mundo.s);
         mundo.anfitrion->sucesos.clear();
         mundo.s.Tormenta.FormaPp = 3;
         rainfall::Abre(pp, mundo.s);

@@ -40,7 +40,6 @@ class DialogoPpReal : public testing::Test {
         s.Anfitrion = anfitrion.Puerta();
         PonProyectoDeLluvia(s, disco);
         s.Configuracion.ListaDur = {0, 5, 10, 20, 60};
-        s.Configuracion.NroDur = 4;
         s.Tormenta.FormaPp = 4;
         rainfall::Abre(pp, s);
     }

@@ -42,8 +42,7 @@ class DialogoPpUEHs : public testing::Test {
             ueh.NombreUEH = "u-" + std::to_string(n);
             s.Red.ColUEHs.Agrega(ueh);
         }
-        s.Red.NroUEHs = 3;
-        model::mnu_btn_toolbarGuardaUEHs(s);
+        model::GuardaRed(s);
         anfitrion->sucesos.clear();
         s.Tormenta.FormaPp = 3;
         rainfall::Abre(pp, s);

@@ -163,7 +163,7 @@ TEST_F(SerieDeMuestra, ElAbacoTieneLaEscorrentiaYElCoeficienteDelArchivo)
     for (const int magnitud : {1, 2}) {
         f.lstPQECIndice = magnitud;
         lstPQEC_Click(f, s);
-        ASSERT_EQ(f.lstCompos.size(), static_cast<std::size_t>(s.Red.NroUEHs));
+        ASSERT_EQ(f.lstCompos.size(), static_cast<std::size_t>(s.Red.NroUEHs()));
         for (std::size_t i = 0; i < f.lstCompos.size(); ++i) {
             f.lstComposIndice = static_cast<int>(i);
             lstCompos_Click(f, s);

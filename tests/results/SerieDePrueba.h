@@ -39,8 +39,8 @@ class SerieDePrueba : public testing::Test {
         s.Pasos.PasoPp = s.Pasos.PasoQ = 10;
         s.Resultados.Secuencia = {"", "u-1", "u-2", "c-1"};
         s.Resultados.NroComponentes = 3;
-        s.Red.NroUEHs = 2;
-        s.Red.NroCauces = 1;
+        s.Red.ColUEHs.Anuncia(2);
+        s.Red.ColCauces.Anuncia(1);
         s.Resultados.Salidas[1] = "c-1";
         s.Resultados.NroSalidas = 1;
         s.frmConfigura.CheckD.fill(1);
@@ -65,15 +65,15 @@ class SerieDePrueba : public testing::Test {
     void LlenaResultados()
     {
         s.Resultados.QMax.Dimensiona(s.Resultados.NroComponentes, s.Serie.NroSeriePDR);
-        s.Resultados.EscUEH.Dimensiona(s.Red.NroUEHs, s.Serie.NroSeriePDR);
-        s.Resultados.CoefEscUEH.Dimensiona(s.Red.NroUEHs, s.Serie.NroSeriePDR);
+        s.Resultados.EscUEH.Dimensiona(s.Red.NroUEHs(), s.Serie.NroSeriePDR);
+        s.Resultados.CoefEscUEH.Dimensiona(s.Red.NroUEHs(), s.Serie.NroSeriePDR);
         s.Resultados.EscTotal.Dimensiona(s.Serie.NroSeriePDR);
         s.Resultados.CoefEscTotal.Dimensiona(s.Serie.NroSeriePDR);
         for (int n = 1; n <= s.Serie.NroSeriePDR; ++n) {
             const auto octavos = static_cast<float>(n) / 8;
             for (int c = 1; c <= s.Resultados.NroComponentes; ++c)
                 s.Resultados.QMax(c, n) = static_cast<float>(10 * c + n) + 0.125F;
-            for (int c = 1; c <= s.Red.NroUEHs; ++c) {
+            for (int c = 1; c <= s.Red.NroUEHs(); ++c) {
                 s.Resultados.EscUEH(c, n) = 1000 * c + n;
                 s.Resultados.CoefEscUEH(c, n) = static_cast<float>(40 + c) + octavos;
             }

@@ -40,8 +40,8 @@ class GraficoQ : public testing::Test {
         s.Disco = disco.Puerta();
         s.Resultados.Secuencia = {"", "u-1", "c-1", "l-1", "r-2"};
         s.Resultados.NroComponentes = 4;
-        s.Red.NroUEHs = s.Red.NroCauces = s.Red.NroLagos = 1;
-        s.Red.NroRepresas = 2;
+        s.Red.ColUEHs.Anuncia(1);
+        s.Red.ColCauces.Anuncia(1);
         s.Red.ColRepresas.Agrega({.NombreRepresa = "r-1", .numRepresa = 1});
         s.Red.ColRepresas.Agrega({.NombreRepresa = "r-2", .numRepresa = 2});
         s.Red.ColLagos.Agrega({.NombreLAGO = "l-1", .numLAGO = 1});

@@ -390,7 +390,7 @@ TEST_F(Abaco, SinUEHsLaEscorrentiaDejaSoloLosRotulos)
 {
     s.Resultados.Secuencia = {"", "c-1"};
     s.Resultados.NroComponentes = 1;
-    s.Red.NroUEHs = 0;
+    s.Red.ColUEHs.Anuncia(0);
     LlenaResultados();
     AbreEn(1);
     EligeMagnitud(1);

@@ -111,7 +111,7 @@ TEST_F(TablaCompleta, LosBuclesMuevenElComponenteYLaTormentaDeMano)
 TEST_F(TablaCompleta, LasRepresasYLosLagosTampocoTienenEscorrentia)
 {
     s.Resultados.Secuencia = {"", "u-1", "r-1", "l-1"};
-    s.Red.NroUEHs = 1;
+    s.Red.ColUEHs.Anuncia(1);
     Abre(f, s);
     EXPECT_EQ(Mostradas()[4], "r-1|2|20|60|10|21.12|||");
     EXPECT_EQ(Mostradas()[8], "l-1|3|20|60|10|31.12|||");
@@ -347,7 +347,7 @@ TEST_F(OrdenDeTabla, SeGuardaYSeCopiaEnElOrdenALaVista)
     s.Serie.NroSeriePDR = 2;
     s.Resultados.Secuencia = {"", "u-1", "c-1"};
     s.Resultados.NroComponentes = 2;
-    s.Red.NroUEHs = 1;
+    s.Red.ColUEHs.Anuncia(1);
     cmdAplicarCambios(f, s);
     AlPulsarEncabezado(f, P);
     EXPECT_EQ(ComoCsv(ComoPlanilla(Tabla())),

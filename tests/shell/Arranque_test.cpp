@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "model/ArchivoConf.h"
 #include "model/Configuracion.h"
 #include "shell/EscenaDePrueba.h"
 
@@ -110,11 +111,11 @@ TEST_F(Arranque, EmpiezaSinSeleccionNiBanderasDeCorrida)
     s.Seleccion.UEHSel = s.Seleccion.CauceSel = 1;
     s.Control.SalidaPizarra = s.Control.ErrorRed = s.Control.AvisoDescargasVisto = s.Proyecto.ProyectoNuevo =
         true;
-    s.Red.NroUEHs = 3;
+    s.Red.ColUEHs.Anuncia(3);
     Arranca();
     EXPECT_EQ(s.Seleccion.UEHSel, 0);
     EXPECT_EQ(s.Seleccion.CauceSel, 0);
-    EXPECT_EQ(s.Red.NroUEHs, 0);
+    EXPECT_EQ(s.Red.NroUEHs(), 0);
     EXPECT_FALSE(s.Control.SalidaPizarra);
     EXPECT_FALSE(s.Control.ErrorRed);
     EXPECT_FALSE(s.Control.AvisoDescargasVisto);

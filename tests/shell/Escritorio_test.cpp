@@ -79,7 +79,7 @@ TEST_F(EscritorioDePrueba, UnaCorridaTerminaConResultadosYHabilitaLasVerificacio
     escritorio.s.Tormenta.DurTormenta = 120;
     Accion("mnuCorre1").trigger();
     EXPECT_GT(escritorio.s.Resultados.NroPasosQ, 0);
-    EXPECT_GT(escritorio.s.Red.NroRepresas, 0);
+    EXPECT_GT(escritorio.s.Red.NroRepresas(), 0);
     EXPECT_TRUE(Accion("mnu_prueba_funcionesHQrepresas").isEnabled());
     EXPECT_TRUE(Accion("mnu_prueba_funcionesSHVrepresas").isEnabled());
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
@@ -386,7 +386,7 @@ TEST_F(EscritorioDePrueba, ElEditorEscondeLaVentanaPrincipalMientrasEstaAbierto)
     ASSERT_NE(Editor(), nullptr);
     EXPECT_TRUE(Editor()->isVisible());
     EXPECT_FALSE(escritorio.Principal().isVisible());
-    EXPECT_GT(escritorio.s.Red.NroUEHs, 0);
+    EXPECT_GT(escritorio.s.Red.NroUEHs(), 0);
     Editor()->close();
     EXPECT_TRUE(escritorio.Principal().isVisible());
     EXPECT_FALSE(escritorio.entorno.Terminando());

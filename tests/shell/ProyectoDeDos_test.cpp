@@ -11,6 +11,7 @@
 #include "EscritorioDePrueba.h"
 #include "apoyo/Ventanas.h"
 #include "forms/Textos_ventana.h"
+#include "model/ArchivoConf.h"
 #include "model/Candado.h"
 #include "shell/Candado_ventana.h"
 

@@ -9,6 +9,7 @@
 
 #include "apoyo/AnfitrionPrueba.h"
 #include "apoyo/DiscoPrueba.h"
+#include "model/ArchivoConf.h"
 #include "model/Falla.h"
 
 namespace shell {

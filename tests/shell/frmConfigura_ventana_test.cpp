@@ -18,6 +18,7 @@
 
 #include "apoyo/Ventanas.h"
 #include "forms/Textos_ventana.h"
+#include "model/ArchivoConf.h"
 
 namespace shell {
 namespace {

@@ -128,9 +128,7 @@ std::int16_t NumeroElegido(const DescripcionTabla& d, const Siro& s)
 /// Takes the count of the components from their collection.
 std::int16_t Cuenta(const DescripcionTabla& d, Siro& s)
 {
-    return ConSuClase(d, [&]<typename T>() {
-        return s.Red.*model::DeClase<T>::cuenta = model::Entero16(model::Todos<T>(s.Red).Cuenta());
-    });
+    return ConSuClase(d, [&]<typename T>() { return model::Todos<T>(s.Red).Recuenta(); });
 }
 
 // --- grid ---

@@ -152,7 +152,7 @@ void Abre(dlgUEHsEditTabla& f, Siro& s)
     if (!f.abierta) return;
     model::LeeUEHs(s);
     f.lblProyecto = s.Proyecto.NombreProyecto;
-    f.lblFileProyecto = s.Proyecto.NombreProyecto + "_Conf.vlm";
+    f.lblFileProyecto = model::ArchivoConf(s.Proyecto.NombreProyecto);
     f.MSFlexGridEditCauces = Llena(ReglasCauces, s.Red.ColCauces, ColumnasCauces);
     f.MSFlexGridEditUEHs = Llena(ReglasUEHs, s.Red.ColUEHs, ColumnasUEHs);
     f.caucesLeidos = f.MSFlexGridEditCauces.filas;
@@ -168,7 +168,7 @@ void OKButton(dlgUEHsEditTabla& f, Siro& s)
     if (!tomadas) return;
     const bool guarda = model::Consulta(s, std::string(ConfirmaCambios), TituloConsulta);
     // What couldn't be saved is nowhere but here.
-    f.abierta = guarda && !model::mnu_btn_toolbarGuardaUEHs(s);
+    f.abierta = guarda && !model::GuardaRed(s);
 }
 
 void cmdCancel(dlgUEHsEditTabla& f)

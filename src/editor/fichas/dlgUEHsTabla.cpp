@@ -121,11 +121,11 @@ void AgregaRepresas(forms::Grilla& g, const Siro& s)
 void LeeTodo(Siro& s)
 {
     model::LeeUEHs(s);
-    if (s.Red.NroRepresas > 0) {
+    if (s.Red.NroRepresas() > 0) {
         model::LeeTablaHQRepresa(s);
         model::LeeTablaHSVRepresa(s);
     }
-    if (s.Red.NroLagos > 0) model::LeeTablaHSVQLago(s);
+    if (s.Red.NroLagos() > 0) model::LeeTablaHSVQLago(s);
     hydraulics::CargaFQs(s.Red);
 }
 
@@ -136,7 +136,7 @@ void Llena(dlgUEHsTabla& f, Siro& s)
     forms::Evento(s, [&] { LeeTodo(s); });
     f.lblProyecto = s.Proyecto.NombreProyecto;
     f.lblTitulo = s.Configuracion.TituloProyecto;
-    f.lblFileProyecto = s.Proyecto.NombreProyecto + "_Conf.vlm";
+    f.lblFileProyecto = model::ArchivoConf(s.Proyecto.NombreProyecto);
     for (const auto agrega : {AgregaCauces, AgregaUEHs, AgregaLagos, AgregaRepresas})
         forms::Evento(s, [&] { agrega(g, s); });
 }

@@ -56,9 +56,6 @@ struct RedDeFichas : testing::Test {
                                    .IconoLAGOx = 81,
                                    .IconoLAGOy = 82,
                                    .Metodo = "Piscina Nivelada"});
-        s.Red.NroUEHs = 3;
-        s.Red.NroCauces = 3;
-        s.Red.NroRepresas = s.Red.NroLagos = 2;
         s.Red.UEHs(1).Cauce_aa = s.Red.Represas(1).Cauce_aa = s.Red.Lagos(1).Cauce_aa = "c-1";
     }
 

@@ -17,7 +17,7 @@ struct IdaYVuelta : RedDeFichas {
     /// Saves and reads the project anew, in a program of its own.
     model::Siro Relee()
     {
-        model::mnu_btn_toolbarGuardaUEHs(s);
+        model::GuardaRed(s);
         model::Siro otro;
         otro.Anfitrion = anfitrion.Puerta();
         otro.Disco = disco.Puerta();

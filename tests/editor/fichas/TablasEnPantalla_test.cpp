@@ -464,7 +464,7 @@ TEST_F(TablaDeParametros, ActualizarMuestraLoGuardadoYNoLoQueEstaEnMemoria)
     apoyo::Pulsa(Control<QPushButton>(*tabla, "cmdActualizar"));
     EXPECT_NE(Celda(Grilla(), 2, 7), "7.25");
     s.Red.Cauces(1).VelMediaCauce = 7.25F;
-    model::mnu_btn_toolbarGuardaUEHs(s);
+    model::GuardaRed(s);
     apoyo::Pulsa(Control<QPushButton>(*tabla, "cmdActualizar"));
     EXPECT_EQ(Celda(Grilla(), 2, 7), "7.25");
     apoyo::Pulsa(Control<QPushButton>(*tabla, "OKButton"));
@@ -478,7 +478,7 @@ TEST_F(TablaDeParametros, AlVenirAlFrenteDeOtraSeLeeDeNuevo)
     otra->show();
     area.setActiveSubWindow(otra);
     s.Red.Cauces(1).VelMediaCauce = 6.5F;
-    model::mnu_btn_toolbarGuardaUEHs(s);
+    model::GuardaRed(s);
     EXPECT_NE(Celda(Grilla(), 2, 7), "6.5");
     area.setActiveSubWindow(qobject_cast<QMdiSubWindow*>(tabla->parentWidget()));
     EXPECT_EQ(Celda(Grilla(), 2, 7), "6.5");
@@ -489,7 +489,7 @@ TEST_F(TablaDeParametros, AlVolverDeOtraVentanaDelProgramaSeLeeDeNuevo)
     QWidget otra;
     apoyo::Muestra(otra);
     s.Red.Cauces(1).VelMediaCauce = 5.5F;
-    model::mnu_btn_toolbarGuardaUEHs(s);
+    model::GuardaRed(s);
     principalDePrueba.activateWindow();
     EXPECT_TRUE(apoyo::Espera([this] { return Celda(Grilla(), 2, 7) == "5.5"; }));
 }

@@ -111,7 +111,7 @@ TEST_F(EditorDeTablas, AbreConLaTablaDelComponenteElegido)
     EXPECT_EQ(T(1, 1), "10");
     EXPECT_EQ(T(1, 2), "1.5");
     EXPECT_EQ(T(1, 3), "1000");
-    EXPECT_EQ(s.Red.NroRepresas, 2);
+    EXPECT_EQ(s.Red.NroRepresas(), 2);
     EXPECT_TRUE(anfitrion->sucesos.empty());
 }
 
@@ -127,7 +127,7 @@ TEST_F(EditorDeTablas, CadaEditorMuestraSuTabla)
     ASSERT_EQ(f.grilla.NroFilas(), 1);
     EXPECT_EQ(T(1, 1), "5");
     EXPECT_EQ(T(1, 4), "8");
-    EXPECT_EQ(s.Red.NroLagos, 2);
+    EXPECT_EQ(s.Red.NroLagos(), 2);
 }
 
 TEST_F(EditorDeTablas, SinSeleccionSeElijeElPrimero)
