@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <span>
 #include <utility>
 
 #include "forms/Evento.h"
@@ -55,8 +56,7 @@ std::size_t Ranura(const dlgDisPpPer& f)
 
 // --- limits ---
 
-template <std::size_t N>
-forms::Lista NuevaLista(const std::array<std::int16_t, N>& duraciones)
+forms::Lista NuevaLista(std::span<const std::int16_t> duraciones)
 {
     forms::Lista lista;
     for (const std::int16_t d : duraciones)
@@ -64,11 +64,10 @@ forms::Lista NuevaLista(const std::array<std::int16_t, N>& duraciones)
     return lista;
 }
 
-template <std::size_t N>
-void Elige(forms::Lista& lista, const std::array<std::int16_t, N>& duraciones, std::int16_t d)
+/// The first item where none is of that duration.
+void Elige(forms::Lista& lista, std::int16_t d)
 {
-    const auto lugar = std::find(duraciones.begin(), duraciones.end(), d);
-    lista.indice = lugar == duraciones.end() ? 0 : static_cast<int>(lugar - duraciones.begin());
+    if (!lista.Elige(NumeroATexto(d))) lista.indice = 0;
 }
 
 std::int16_t Minima(const dlgDisPpPer& f)
@@ -159,8 +158,8 @@ void MuestraTabla(dlgDisPpPer& f, Siro& s)
     const std::int16_t n = s.TablasDeLluvia.NroFilasTabla[Ranura(f)];
     f.txtNotas = s.TablasDeLluvia.NotasDisPer[Ranura(f)];
     f.txtNroPer = NumeroATexto(n);
-    Elige(f.cmbDurMin, DuracionesMinimas, s.TablasDeLluvia.DurMinPer[Ranura(f)]);
-    Elige(f.cmbDurMax, DuracionesMaximas, s.TablasDeLluvia.DurMaxPer[Ranura(f)]);
+    Elige(f.cmbDurMin, s.TablasDeLluvia.DurMinPer[Ranura(f)]);
+    Elige(f.cmbDurMax, s.TablasDeLluvia.DurMaxPer[Ranura(f)]);
     f.MSFlexGridDisPerso = forms::NuevaGrilla(ReglasTabla);
     Ensancha(s, n);
     PonFilas(f, n);
