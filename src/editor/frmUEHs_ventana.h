@@ -4,6 +4,8 @@
 #include <array>
 #include <functional>
 #include <string>
+#include <string_view>
+#include <utility>
 
 #include "editor/frmUEHs.h"
 #include "editor/lienzo/Lienzo_ventana.h"
@@ -11,9 +13,7 @@
 #include "forms/Formulario_ventana.h"
 
 class QAction;
-class QLabel;
 class QMenu;
-class QPushButton;
 class QScrollBar;
 class QSlider;
 class QToolBar;
@@ -40,12 +40,22 @@ class frmUEHs_ventana : public forms::Ventana {
     void keyPressEvent(QKeyEvent* evento) override;
 
   private:
+    /// An event of the window: the rules handle it, the forms that they ask for open, the record is shown.
     template <typename Rutina>
-    void Hace(Rutina&& rutina);
+    void Hace(Rutina&& rutina)
+    {
+        entorno.Atiende([&] {
+            std::forward<Rutina>(rutina)();
+            AtiendePedidos();
+        });
+        if (!entorno.Terminando()) Muestra();
+    }
     QToolBar* HazBarra();
     /// Keys that the toolbar has beside those of its table: undo, redo, export.
     void AgregaPropias(QToolBar& barra);
     QMenu* HazDestinos();
+    /// A button that Ctrl and a key press too, wherever the focus is.
+    QPushButton* BotonConTecla(std::string_view control, Qt::Key tecla, std::function<void()> rutina);
     QWidget* HazMandos();
     QWidget* HazPie();
     QAction* HazAccion(const char* nombre, const char* leyenda, const char* icono);
@@ -63,9 +73,7 @@ class frmUEHs_ventana : public forms::Ventana {
     QAction *deshace = nullptr, *rehace = nullptr, *nombres = nullptr;
     QSlider* sldEscala = nullptr;
     QScrollBar *ScrEscalaHor = nullptr, *ScrEscalaVer = nullptr;
-    QPushButton *cmdImagenUEHs = nullptr, *cmdAnchoLineaDib = nullptr, *cmdOrdenCauce = nullptr;
-    QLabel *lblX = nullptr, *lblY = nullptr, *lblEstado = nullptr, *lblLongArea = nullptr,
-           *lblIndicacion = nullptr, *lblEscala = nullptr;
+    QPushButton* cmdImagenUEHs = nullptr;
     bool enPedidos = false;
 };
 

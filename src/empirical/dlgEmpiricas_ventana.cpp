@@ -2,20 +2,14 @@
 #include "empirical/dlgEmpiricas_ventana.h"
 
 #include <QClipboard>
-#include <QGridLayout>
-#include <QGroupBox>
 #include <QGuiApplication>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
+#include <array>
 #include <cstddef>
 
 #include "empirical/FormulaDibujada_ventana.h"
-#include "forms/Textos_ventana.h"
 
 namespace empirical {
 
-using forms::DeQ;
 using forms::Pon;
 using forms::Q;
 
@@ -24,13 +18,17 @@ namespace {
 constexpr int LetrasDeUnDato = 10;
 constexpr char16_t ResultadoMasLargo[] = u"0.000000E+00  ";  // seven digits and an exponent
 
-QString Nombre(std::string_view prefijo, std::string_view control)
-{
-    return Q(std::string(prefijo).append(control));
-}
+constexpr auto Rotulos = std::to_array<forms::FilaRotulo>({
+    {"marcoDatosQp", MarcoDatosQp},
+    {"marcoDatosTc", MarcoDatosTc},
+    {"marcoQp", MarcoQp},
+    {"marcoTc", MarcoTc},
+    {"cmdCopiar", "Copiar &todo", "Copia datos y resultados, para una planilla de cálculo"},
+    {"btnCerrar", LeyendaBtnCerrar},
+});
 
 /// A caption, plain as it stands; an ampersand in it is no access key.
-QLabel* Leyenda(std::string_view texto, std::string_view ayuda)
+QLabel* Leyenda(std::string_view texto, std::string_view ayuda = {})
 {
     auto* const leyenda = new QLabel(Q(texto));
     leyenda->setTextFormat(Qt::PlainText);
@@ -41,75 +39,44 @@ QLabel* Leyenda(std::string_view texto, std::string_view ayuda)
 FormulaDibujada* Formula(std::string_view expresion, std::string_view control, std::string_view ayuda)
 {
     auto* const formula = new FormulaDibujada(expresion);
-    formula->setObjectName(Nombre("formula_", control));
+    formula->setObjectName(QStringLiteral("formula_") + Q(control));
     formula->setToolTip(Q(ayuda));
     return formula;
-}
-
-QGridLayout* Rejilla(QGroupBox& marco)
-{
-    auto* const rejilla = new QGridLayout(&marco);
-    rejilla->setHorizontalSpacing(12);
-    rejilla->setVerticalSpacing(2);
-    return rejilla;
-}
-
-QGroupBox* Marco(std::string_view titulo, const char* nombre)
-{
-    auto* const marco = new QGroupBox(Q(titulo));
-    marco->setObjectName(QString::fromUtf8(nombre));
-    return marco;
 }
 
 }  // namespace
 
 dlgEmpiricas_ventana::dlgEmpiricas_ventana(forms::Entorno& alrededor, dlgEmpiricas& registro, QWidget* padre)
-    : Ventana(alrededor, {"dlgEmpiricas"}, padre), f(registro)
+    : Ventana(alrededor, {"dlgEmpiricas", TituloDlgEmpiricas, Rotulos}, padre), f(registro)
 {
-    setWindowTitle(Q(TituloDlgEmpiricas));
-    cmdCopiar = new QPushButton(QStringLiteral("Copiar &todo"));
-    cmdCopiar->setObjectName(QStringLiteral("cmdCopiar"));
-    cmdCopiar->setToolTip(QStringLiteral("Copia datos y resultados, para una planilla de cálculo"));
-    btnCerrar = new QPushButton(Q(LeyendaBtnCerrar));
-    btnCerrar->setObjectName(QStringLiteral("btnCerrar"));
-
-    auto* const botones = new QHBoxLayout;
-    botones->addStretch(1);
-    botones->addWidget(cmdCopiar);
-    botones->addWidget(btnCerrar);
-    auto* const izquierda = new QVBoxLayout;
-    izquierda->addWidget(ConstruyeDatosQp());
-    izquierda->addWidget(ConstruyeDatosTc());
-    izquierda->addWidget(ConstruyeTc());
-    izquierda->addStretch(1);
-    auto* const lados = new QHBoxLayout;
-    lados->addLayout(izquierda);
-    lados->addWidget(ConstruyeQp(), 1);
-    auto* const pila = new QVBoxLayout(this);
-    pila->addLayout(lados, 1);
-    pila->addLayout(botones);
-    setTabOrder(Qp.back(), cmdCopiar);
-    setTabOrder(cmdCopiar, btnCerrar);
-
-    AlPulsar(*cmdCopiar, [this] { CopiaTodo(); });
-    AlPulsar(*btnCerrar, [this] { empirical::btnCerrar(f); });
+    Sigue(f.abierta);
+    QGroupBox* const datosQp = MarcoDe("marcoDatosQp", {RenglonDe(0)}, {1});
+    txtSup = datosQp->findChild<QLineEdit*>();
+    const auto copia = [this] { QGuiApplication::clipboard()->setText(Q(ComoTexto(f))); };
+    setLayout(
+        EnPila({{EnFila({EnPila({datosQp, DatosTc(), ResultadosTc(), Hueco()}), {ResultadosQp(), 1}}), 1},
+                EnFila({Hueco(), Boton("cmdCopiar", copia), Boton("btnCerrar", [this] { btnCerrar(f); })})}));
 }
 
-void dlgEmpiricas_ventana::PonCampo(QGridLayout& rejilla, std::size_t cual)
+QGroupBox* dlgEmpiricas_ventana::MarcoDe(std::string_view control, const std::vector<forms::Partes>& filas,
+                                         std::initializer_list<int> columnas)
+{
+    QGridLayout* const rejilla = EnRejilla(filas, columnas);
+    rejilla->setHorizontalSpacing(12);
+    rejilla->setVerticalSpacing(2);
+    return Marco(control, rejilla);
+}
+
+forms::Partes dlgEmpiricas_ventana::RenglonDe(std::size_t cual)
 {
     const auto& campo = CamposEmpiricos.at(cual);
     const std::string_view control = campo.regla.control;
-    auto* const entrada = new QLineEdit;
-    entrada->setObjectName(Q(control));
+    auto* const entrada = Nombra(new QLineEdit, control);
     entrada->setFixedWidth(fontMetrics().averageCharWidth() * (LetrasDeUnDato + 3));
-    auto* const leyenda = Leyenda(RotulosEmpiricos.at(cual).leyenda, "");
-    leyenda->setBuddy(entrada);
-    const int fila = rejilla.rowCount();
-    rejilla.addWidget(leyenda, fila, 0);
-    rejilla.addWidget(entrada, fila, 1);
+    AlMostrar([this, entrada, &campo] { Pon(*entrada, f.*campo.texto); });
     connect(entrada, &QLineEdit::textEdited, this, [this, control, &campo](const QString& texto) {
         SucesoSinRevisar([&] {
-            f.*campo.texto = DeQ(texto);
+            f.*campo.texto = forms::DeQ(texto);
             AlCambiar(f, control);
         });
     });
@@ -117,87 +84,57 @@ void dlgEmpiricas_ventana::PonCampo(QGridLayout& rejilla, std::size_t cual)
         AlSalir(f, control);
         return true;
     });
-    entradas.at(cual) = entrada;
+    QLabel* const leyenda = Leyenda(RotulosEmpiricos.at(cual).leyenda);
+    leyenda->setBuddy(entrada);
+    return {leyenda, entrada};
 }
 
-QGroupBox* dlgEmpiricas_ventana::ConstruyeDatosQp()
+QGroupBox* dlgEmpiricas_ventana::DatosTc()
 {
-    QGroupBox* const marco = empirical::Marco(MarcoDatosQp, "marcoDatosQp");
-    QGridLayout* const rejilla = Rejilla(*marco);
-    PonCampo(*rejilla, 0);
-    rejilla->setColumnStretch(0, 1);
-    return marco;
-}
-
-QGroupBox* dlgEmpiricas_ventana::ConstruyeDatosTc()
-{
-    QGroupBox* const marco = empirical::Marco(MarcoDatosTc, "marcoDatosTc");
-    QGridLayout* const rejilla = Rejilla(*marco);
-    lblSup = new QLabel;
-    lblSup->setObjectName(QStringLiteral("lblSup"));
-    lblSup->setTextFormat(Qt::PlainText);
+    QLabel* const lblSup = Texto("lblSup", f.lblSup);
     lblSup->setFrameShape(QFrame::StyledPanel);
-    lblSup->setMinimumHeight(entradas.front()->sizeHint().height());
+    lblSup->setMinimumHeight(txtSup->sizeHint().height());
     lblSup->setAccessibleName(Q(LeyendaLblSup));
-    rejilla->addWidget(Leyenda(LeyendaLblSup, ""), 0, 0);
-    rejilla->addWidget(lblSup, 0, 1);
+    std::vector<forms::Partes> filas{{Leyenda(LeyendaLblSup), lblSup}};
     for (std::size_t cual = 1; cual < CamposEmpiricos.size(); ++cual)
-        PonCampo(*rejilla, cual);
-    rejilla->setColumnStretch(0, 1);
-    return marco;
+        filas.push_back(RenglonDe(cual));
+    return MarcoDe("marcoDatosTc", filas, {1});
 }
 
-QGroupBox* dlgEmpiricas_ventana::ConstruyeTc()
+QGroupBox* dlgEmpiricas_ventana::ResultadosTc()
 {
-    QGroupBox* const marco = empirical::Marco(MarcoTc, "marcoTc");
-    QGridLayout* const rejilla = Rejilla(*marco);
-    const auto formulas = FormulasTc();
-    for (std::size_t k = 0; k < formulas.size(); ++k) {
-        const FormulaTc& formula = formulas[k];
-        Tc.at(k) = new QLabel;
-        Tc.at(k)->setObjectName(Q(formula.control));
-        Tc.at(k)->setTextFormat(Qt::PlainText);
-        Tc.at(k)->setTextInteractionFlags(Qt::TextSelectableByMouse);
-        Tc.at(k)->setFrameShape(QFrame::StyledPanel);
-        Tc.at(k)->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        Tc.at(k)->setMinimumSize(fontMetrics().averageCharWidth() * LetrasDeUnDato,
-                                 entradas.front()->sizeHint().height());
-        Tc.at(k)->setToolTip(Q(formula.ayuda));
-        Tc.at(k)->setAccessibleName(Q(formula.leyenda));
-        const int fila = static_cast<int>(k);
-        rejilla->addWidget(Leyenda(formula.leyenda, formula.ayuda), fila, 0);
-        rejilla->addWidget(Tc.at(k), fila, 1);
-        rejilla->addWidget(Formula(formula.expresion, formula.control, formula.ayuda), fila, 2);
+    std::vector<forms::Partes> filas;
+    for (const FormulaTc& formula : FormulasTc()) {
+        QLabel* const Tc = Texto(formula.control, f.Tc[filas.size()]);
+        Tc->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        Tc->setFrameShape(QFrame::StyledPanel);
+        Tc->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        Tc->setMinimumSize(fontMetrics().averageCharWidth() * LetrasDeUnDato, txtSup->sizeHint().height());
+        Tc->setToolTip(Q(formula.ayuda));
+        Tc->setAccessibleName(Q(formula.leyenda));
+        filas.push_back({Leyenda(formula.leyenda, formula.ayuda), Tc,
+                         Formula(formula.expresion, formula.control, formula.ayuda)});
     }
-    rejilla->setColumnStretch(2, 1);
-    return marco;
+    return MarcoDe("marcoTc", filas, {0, 0, 1});
 }
 
-QGroupBox* dlgEmpiricas_ventana::ConstruyeQp()
+QGroupBox* dlgEmpiricas_ventana::ResultadosQp()
 {
-    QGroupBox* const marco = empirical::Marco(MarcoQp, "marcoQp");
-    QGridLayout* const rejilla = Rejilla(*marco);
-    rejilla->addWidget(Leyenda(LineaQp, ""), 0, 0, 1, 3);
-    const auto formulas = FormulasQp();
-    for (std::size_t k = 0; k < formulas.size(); ++k) {
-        const FormulaQp& formula = formulas[k];
-        Qp.at(k) = new QLineEdit;
-        Qp.at(k)->setObjectName(Q(formula.control));
-        Qp.at(k)->setReadOnly(true);
-        Qp.at(k)->setAlignment(Qt::AlignRight);
-        Qp.at(k)->setFixedWidth(fontMetrics().horizontalAdvance(QString::fromUtf16(ResultadoMasLargo)));
-        Qp.at(k)->setToolTip(Q(formula.ayuda));
-        auto* const leyenda = Leyenda(formula.leyenda, formula.ayudaRotulo);
-        leyenda->setObjectName(Nombre("leyenda_", formula.control));
-        leyenda->setBuddy(Qp.at(k));
-        const int fila = static_cast<int>(k) + 1;
-        rejilla->addWidget(leyenda, fila, 0);
-        rejilla->addWidget(Qp.at(k), fila, 1);
-        rejilla->addWidget(Formula(formula.expresion, formula.control, formula.ayuda), fila, 2);
+    std::vector<forms::Partes> filas{{Leyenda(LineaQp)}};
+    for (const FormulaQp& formula : FormulasQp()) {
+        auto* const Qp = Nombra(new QLineEdit, formula.control);
+        AlMostrar([Qp, &texto = f.Qp[filas.size() - 1]] { Pon(*Qp, texto); });
+        Qp->setReadOnly(true);
+        Qp->setAlignment(Qt::AlignRight);
+        Qp->setFixedWidth(fontMetrics().horizontalAdvance(QString::fromUtf16(ResultadoMasLargo)));
+        Qp->setToolTip(Q(formula.ayuda));
+        QLabel* const leyenda = Leyenda(formula.leyenda, formula.ayudaRotulo);
+        leyenda->setObjectName(QStringLiteral("leyenda_") + Q(formula.control));
+        leyenda->setBuddy(Qp);
+        filas.push_back({leyenda, Qp, Formula(formula.expresion, formula.control, formula.ayuda)});
     }
-    rejilla->setColumnStretch(2, 1);
-    rejilla->setRowStretch(rejilla->rowCount(), 1);
-    return marco;
+    filas.emplace_back();
+    return MarcoDe("marcoQp", filas, {0, 0, 1});
 }
 
 void dlgEmpiricas_ventana::Abre()
@@ -205,30 +142,13 @@ void dlgEmpiricas_ventana::Abre()
     empirical::Abre(f);
     Muestra();
     entorno.Presenta(*this);
-    entradas.front()->setFocus();
-    entradas.front()->selectAll();
+    txtSup->setFocus();
+    txtSup->selectAll();
 }
 
 void dlgEmpiricas_ventana::AlCerrar()
 {
-    empirical::btnCerrar(f);
-}
-
-void dlgEmpiricas_ventana::Muestra()
-{
-    for (std::size_t k = 0; k < entradas.size(); ++k)
-        Pon(*entradas.at(k), f.*CamposEmpiricos.at(k).texto);
-    Pon(*lblSup, f.lblSup);
-    for (std::size_t k = 0; k < Qp.size(); ++k)
-        Pon(*Qp.at(k), f.Qp.at(k));
-    for (std::size_t k = 0; k < Tc.size(); ++k)
-        Pon(*Tc.at(k), f.Tc.at(k));
-    if (!f.abierta && isVisible()) close();
-}
-
-void dlgEmpiricas_ventana::CopiaTodo() const
-{
-    QGuiApplication::clipboard()->setText(Q(ComoTexto(f)));
+    btnCerrar(f);
 }
 
 }  // namespace empirical

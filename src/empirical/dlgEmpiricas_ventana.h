@@ -1,16 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <array>
+#include <cstddef>
+#include <initializer_list>
+#include <string_view>
+#include <vector>
 
 #include "empirical/dlgEmpiricas.h"
 #include "forms/Formulario_ventana.h"
-
-class QGridLayout;
-class QGroupBox;
-class QLabel;
-class QLineEdit;
-class QPushButton;
 
 namespace empirical {
 
@@ -21,25 +18,20 @@ class dlgEmpiricas_ventana : public forms::Ventana {
 
     /// Opens the window with its first values and brings it to the front.
     void Abre();
-    void Muestra() override;
 
   protected:
     void AlCerrar() override;
 
   private:
-    QGroupBox* ConstruyeDatosQp();
-    QGroupBox* ConstruyeDatosTc();
-    QGroupBox* ConstruyeQp();
-    QGroupBox* ConstruyeTc();
-    void PonCampo(QGridLayout& rejilla, std::size_t cual);
-    void CopiaTodo() const;
+    QGroupBox* MarcoDe(std::string_view control, const std::vector<forms::Partes>& filas,
+                       std::initializer_list<int> columnas);
+    forms::Partes RenglonDe(std::size_t cual);
+    QGroupBox* DatosTc();
+    QGroupBox* ResultadosQp();
+    QGroupBox* ResultadosTc();
 
     dlgEmpiricas& f;
-    std::array<QLineEdit*, CamposEmpiricos.size()> entradas{};
-    QLabel* lblSup;
-    std::array<QLineEdit*, NroFormulasQp> Qp{};
-    std::array<QLabel*, NroFormulasTc> Tc{};
-    QPushButton *cmdCopiar, *btnCerrar;
+    QLineEdit* txtSup = nullptr;
 };
 
 }  // namespace empirical

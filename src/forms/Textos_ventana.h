@@ -3,7 +3,6 @@
 
 #include <QString>
 #include <QStringList>
-#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -33,14 +32,8 @@ void Pon(QComboBox& lista, const std::vector<std::string>& items, int indice);
 /// Items and the text of a list that can be typed into.
 void Pon(QComboBox& lista, const std::vector<std::string>& items, std::string_view texto);
 
-/// Options of which one at most is ticked, from 0; -1: none.
+/// An option of several of which one at most is ticked.
 void PonOpcion(QRadioButton& opcion, bool marcada);
-template <typename Opciones>
-void PonOpciones(const Opciones& opciones, int marcada)
-{
-    for (int i = 0; QRadioButton* const opcion : opciones)
-        PonOpcion(*opcion, i++ == marcada);
-}
 
 /// From the control to the record: each edit of the user is in the text at once, so that showing the record
 /// never wipes what is being typed.

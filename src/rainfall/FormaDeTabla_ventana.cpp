@@ -1,57 +1,83 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "rainfall/FormaDeTabla_ventana.h"
 
-#include <QBoxLayout>
-#include <QGroupBox>
-#include <QPushButton>
+#include <QHeaderView>
+#include <QScrollBar>
 #include <utility>
 
-#include "forms/Textos_ventana.h"
+#include "forms/Lamina_ventana.h"
 
 namespace rainfall {
 
-FormaDeTabla_ventana::FormaDeTabla_ventana(forms::Entorno& alrededor, std::string_view nombre,
-                                           std::string_view titulo,
-                                           std::span<const forms::FilaRotulo> leyendas, QWidget* padre)
-    : Formulario(alrededor, {nombre}, padre), piezas(*this, leyendas)
+FormaDeTabla_ventana::FormaDeTabla_ventana(forms::Entorno& alrededor,
+                                           const forms::DescripcionDeVentana& descripcion, QWidget* padre)
+    : Formulario(alrededor, descripcion, padre)
 {
-    setWindowTitle(forms::Q(titulo));
+    AlMostrar([this] { AlMostrarse(); });
 }
 
-QGroupBox* FormaDeTabla_ventana::HazTabla(forms::Grilla& grilla, std::string_view nombre,
-                                          std::string_view nombreLamina)
+QGroupBox* FormaDeTabla_ventana::MarcoDeTabla(forms::Grilla& grilla, std::string_view nombre,
+                                              std::string_view nombreCurva,
+                                              std::function<forms::Grafico()> vista,
+                                              std::function<void(const forms::Efecto&)> alAsentar)
 {
-    tabla = new forms::TablaGrilla(entorno, grilla, nombre, piezas.De(nombre).leyenda);
-    tabla->AlCambiar = [this](const forms::Efecto&) { Muestra(); };
-    lamina = new forms::Lamina(entorno, nombreLamina, piezas.De(nombreLamina).leyenda,
-                               forms::Lamina::Modo::Compacta);
-    return piezas.TablaConLamina(*tabla, *lamina);
+    tabla = Tabla(grilla, nombre);
+    tabla->AlCambiar = [this, alAsentar = std::move(alAsentar)](const forms::Efecto& efecto) {
+        if (alAsentar) alAsentar(efecto);
+        Muestra();
+    };
+    forms::Lamina* const curva = Curva(nombreCurva, std::move(vista));
+    constexpr int LetrasDeAncho = 48;
+    curva->setMinimumWidth(LetrasDeAncho * fontMetrics().averageCharWidth());
+    return MarcoDe(nombre, EnFila({tabla, {curva, 1}}));
 }
 
-QPushButton* FormaDeTabla_ventana::Agrega(QBoxLayout& fila, std::string_view nombre, Rutina rutina)
+QGroupBox* FormaDeTabla_ventana::MarcoDe(std::string_view control, QLayout* dentro)
 {
-    QPushButton* const boton = piezas.Boton(nombre);
-    AlPulsar(*boton, std::move(rutina));
-    fila.addWidget(boton);
-    return boton;
+    QGroupBox* const marco = Marco(control, dentro);
+    marco->setObjectName(QStringLiteral("marco_") + marco->objectName());
+    return marco;
 }
 
-void FormaDeTabla_ventana::AgregaFinales(QBoxLayout& fila, Rutina aplicar, Rutina aceptar)
+QPushButton* FormaDeTabla_ventana::BotonCancelar()
 {
-    fila.addStretch(1);
-    Agrega(fila, "cmdAplicar", std::move(aplicar));
-    Agrega(fila, "OKButton", std::move(aceptar));
-    // Without looking at the fields: what is wrong in them must not keep the user here.
-    QPushButton* const cancela = piezas.Boton("CancelButton");
-    connect(cancela, &QPushButton::clicked, this, [this] { SucesoSinRevisar([this] { AlCerrar(); }); });
-    fila.addWidget(cancela);
+    return BotonSinRevisar("CancelButton", [this] { AlCerrar(); });
+}
+
+QLayout* FormaDeTabla_ventana::Botones(forms::Partes partes, std::function<void()> aplicar,
+                                       std::function<void()> aceptar)
+{
+    partes.insert(partes.end(), {Hueco(), Boton("cmdAplicar", std::move(aplicar)),
+                                 Boton("OKButton", std::move(aceptar)), BotonCancelar()});
+    return EnFila(partes);
+}
+
+void FormaDeTabla_ventana::Acomoda()
+{
+    constexpr int Filas = 10;
+    constexpr int EntreFilas = 8;  // [pixels at 96 dpi]
+    tabla->verticalHeader()->setMinimumSectionSize(tabla->fontMetrics().height());
+    tabla->verticalHeader()->setDefaultSectionSize(tabla->fontMetrics().height() + EntreFilas);
+    const int bordes = 2 * tabla->frameWidth();
+    tabla->setMinimumWidth(tabla->horizontalHeader()->length() + bordes +
+                           tabla->verticalScrollBar()->sizeHint().width());
+    tabla->setMinimumHeight(tabla->horizontalHeader()->sizeHint().height() + bordes +
+                            Filas * tabla->verticalHeader()->defaultSectionSize());
+
+    // Where a text wraps, the toolkit leaves its height out of the window's own.
+    layout()->activate();
+    const QSize tamano = layout()->totalSizeHint().expandedTo(layout()->totalMinimumSize());
+    const int alto = layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(tamano.width()) : 0;
+    setMinimumSize(layout()->totalMinimumSize());
+    resize(tamano.expandedTo({0, alto}));
 }
 
 void FormaDeTabla_ventana::Abre()
 {
-    if (!AbreForma()) return;
+    AbreForma();
+    if (SeCerro()) return;
     Muestra();
-    Acomoda(*this, *tabla);
+    Acomoda();
     entorno.Ejecuta(*this);
 }
 
@@ -59,15 +85,6 @@ void FormaDeTabla_ventana::AlCerrar()
 {
     Cancela();
     Muestra();
-}
-
-void FormaDeTabla_ventana::MuestraTabla(const forms::Grafico& vista, forms::Foco& foco, bool abierta)
-{
-    tabla->Muestra();
-    lamina->Muestra(vista);
-    rainfall::LlevaFoco(*this, foco);
-    AlMostrarse();
-    if (!abierta && isVisible()) done(QDialog::Accepted);
 }
 
 }  // namespace rainfall

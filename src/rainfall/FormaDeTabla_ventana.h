@@ -2,18 +2,11 @@
 #pragma once
 
 #include <functional>
-#include <span>
 #include <string_view>
 
 #include "forms/Formulario_ventana.h"
 #include "forms/Grafico.h"
 #include "forms/Grilla_ventana.h"
-#include "forms/Lamina_ventana.h"
-#include "rainfall/Piezas_ventana.h"
-
-class QBoxLayout;
-class QGroupBox;
-class QPushButton;
 
 namespace rainfall {
 
@@ -25,32 +18,34 @@ class FormaDeTabla_ventana : public forms::Formulario {
     /// program was ended meanwhile.
     void Abre();
 
-    /// The form has shown what an event made of it; the dialog behind it shows what that has changed there.
+    /// Gives the table the width of its columns and room for ten rows at least, and the window a size in
+    /// which nothing is cut.
+    void Acomoda();
+
+    /// The form shows what an event made of it; the dialog behind it shows what that has changed there.
     std::function<void()> AlMostrarse = [] {};
 
   protected:
-    using Rutina = std::function<void()>;
+    FormaDeTabla_ventana(forms::Entorno& alrededor, const forms::DescripcionDeVentana& descripcion,
+                         QWidget* padre);
 
-    FormaDeTabla_ventana(forms::Entorno& alrededor, std::string_view nombre, std::string_view titulo,
-                         std::span<const forms::FilaRotulo> leyendas, QWidget* padre);
-
-    /// The form's own opening, which returns whether it is open, and its closing without an effect.
-    virtual bool AbreForma() = 0;
+    /// The form's own opening, and its closing without an effect.
+    virtual void AbreForma() = 0;
     virtual void Cancela() = 0;
     void AlCerrar() override;
 
-    /// Makes `tabla` and `lamina`, in their frame; their names are their captions' too.
-    QGroupBox* HazTabla(forms::Grilla& grilla, std::string_view nombre, std::string_view nombreLamina);
-    /// Adds a button to a row.
-    QPushButton* Agrega(QBoxLayout& fila, std::string_view nombre, Rutina rutina);
-    /// Ends the row of buttons.
-    void AgregaFinales(QBoxLayout& fila, Rutina aplicar, Rutina aceptar);
-    /// The last part of what `Muestra` does.
-    void MuestraTabla(const forms::Grafico& vista, forms::Foco& foco, bool abierta);
+    /// Makes `tabla` in its frame with its chart beside it. Where an event of the grid settles cells, the
+    /// record is told first.
+    QGroupBox* MarcoDeTabla(forms::Grilla& grilla, std::string_view nombre, std::string_view nombreCurva,
+                            std::function<forms::Grafico()> vista,
+                            std::function<void(const forms::Efecto&)> alAsentar = {});
+    /// The row of buttons: the form's own, room, and the last ones.
+    QLayout* Botones(forms::Partes partes, std::function<void()> aplicar, std::function<void()> aceptar);
+    QPushButton* BotonCancelar();
+    /// A frame beside the given ones, named after what it holds.
+    QGroupBox* MarcoDe(std::string_view control, QLayout* dentro);
 
-    Piezas piezas;
     forms::TablaGrilla* tabla = nullptr;
-    forms::Lamina* lamina = nullptr;
 };
 
 }  // namespace rainfall

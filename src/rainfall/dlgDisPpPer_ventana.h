@@ -4,8 +4,6 @@
 #include "rainfall/FormaDeTabla_ventana.h"
 #include "rainfall/dlgDisPpPer.h"
 
-class QLayout;
-
 namespace rainfall {
 
 /// The editor of personal temporal distributions, opened from the storm dialog whose record it is handed.
@@ -14,21 +12,15 @@ class dlgDisPpPer_ventana : public FormaDeTabla_ventana {
     dlgDisPpPer_ventana(forms::Entorno& alrededor, dlgDisPpPer& registro, dlgPp& tormenta,
                         QWidget* padre = nullptr);
 
-    void Muestra() override;
-
   private:
-    bool AbreForma() override;
-    void Cancela() override;
+    void AbreForma() override { rainfall::Abre(f, pp, entorno.s); }
+    void Cancela() override { CancelButton(f); }
     bool SinAplicar() override { return rainfall::SinAplicar(f, entorno.s); }
-    // Each makes a part of the form, with its events.
     QLayout* Datos();
     QWidget* Validez();
-    QLayout* Botones();
 
     dlgDisPpPer& f;
     dlgPp& pp;
-    QComboBox *cmbNroTablaDisPpPer = nullptr, *cmbDurMin = nullptr, *cmbDurMax = nullptr;
-    QLineEdit *txtNotas = nullptr, *txtNroPer = nullptr;
 };
 
 }  // namespace rainfall

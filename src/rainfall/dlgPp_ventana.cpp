@@ -1,20 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "rainfall/dlgPp_ventana.h"
 
-#include <QComboBox>
-#include <QGridLayout>
-#include <QGroupBox>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QVBoxLayout>
+#include <QRegularExpression>
 #include <type_traits>
 #include <utility>
 
-#include "forms/Lista_ventana.h"
-#include "forms/Textos_ventana.h"
 #include "rainfall/dlgDisPpPer_ventana.h"
 #include "rainfall/dlgPpReal_ventana.h"
 #include "rainfall/dlgTablaPpUEHs_ventana.h"
@@ -22,55 +12,47 @@
 
 namespace rainfall {
 
-using forms::Pon;
 using forms::Q;
-
-namespace {
-
-/// What a form hides keeps its place, so that nothing jumps as the user goes through the forms.
-void ConservaLugar(QWidget& widget)
-{
-    QSizePolicy politica = widget.sizePolicy();
-    politica.setRetainSizeWhenHidden(true);
-    widget.setSizePolicy(politica);
-}
-
-}  // namespace
 
 // --- the form's parts ---
 
 dlgPp_ventana::dlgPp_ventana(forms::Entorno& alrededor, dlgPp& registro, QWidget* padre)
     : Formulario(alrededor, {"dlgPp", TituloDlgPp, ControlesDlgPp}, padre), f(registro)
 {
+    Sigue(f.abierta);
     ConectaVentanas();
-
-    // Made in reading order, which is the order of the Tab key.
-    auto* const pila = new QVBoxLayout(this);
-    pila->addWidget(MarcoDeFormas());
-    auto* const partes = new QHBoxLayout;
-    pila->addLayout(partes, 1);
-
-    auto* const izquierda = new QVBoxLayout;
-    izquierda->addWidget(MarcoDeTormenta());
+    QWidget* const formas = MarcoDeFormas();
+    QWidget* const tormenta = MarcoDeTormenta();
     // The three stand in one place: each form shows one of them or none.
     auto* const lugar = new QGridLayout;
     for (QWidget* marco : {MarcoDeLista(), MarcoDeTablas(), MarcoDeTormentaReal()})
         lugar->addWidget(marco, 0, 0);
-    izquierda->addLayout(lugar, 1);
-    partes->addLayout(izquierda, 1);
-
-    auto* const derecha = new QVBoxLayout;
-    derecha->addWidget(MarcoDeDistribuciones());
-    derecha->addWidget(MarcoDePasos());
-    derecha->addStretch(1);
-    partes->addLayout(derecha, 1);
-    pila->addLayout(Botones());
-
-    AlPulsarOpciones();
+    setLayout(EnPila({formas,
+                      {EnFila({{EnPila({tormenta, {lugar, 1}}), 1},
+                               {EnPila({MarcoDeDistribuciones(), MarcoDePasos(), Hueco()}), 1}}),
+                       1},
+                      Botones()}));
+    setTabOrder(optformaPp.back(), findChild<QPushButton*>(QStringLiteral("cmdCargaPDRnoUniforme")));
+    for (QPushButton* const boton : findChildren<QPushButton*>())
+        boton->setAutoDefault(true);  // Enter presses the one that has the focus
+    SigueEstados();
     entorno.AlActivarse(*this, [this] {
         rainfall::AlActivarse(f, entorno.s);
         Muestra();
     });
+}
+
+void dlgPp_ventana::SigueEstados()
+{
+    for (const forms::FilaRotulo& fila : ControlesDlgPp) {
+        const bool deCampo = fila.control.starts_with("txt") || fila.control.starts_with("cmb");
+        const QString nombres = QStringLiteral("^%1%2(_\\d)?$")
+                                    .arg(deCampo ? QStringLiteral("(rotulo_)?") : QString(), Q(fila.control));
+        for (QWidget* const w : findChildren<QWidget*>(QRegularExpression(nombres))) {
+            HabilitadoSi(w, [this, control = fila.control] { return f.Habilitado(control); });
+            VisibleSi(w, [this, control = fila.control] { return f.Visible(control); });
+        }
+    }
 }
 
 dlgPp_ventana::~dlgPp_ventana() = default;
@@ -105,258 +87,119 @@ void dlgPp_ventana::ConectaVentanas()
 
 QWidget* dlgPp_ventana::MarcoDeFormas()
 {
-    auto* const marco = new QGroupBox(Q(MarcoFormas), this);
-    Opciones("optformaPp", FormasPp, optformaPp, *marco);
-    auto* const cargaUEH = Boton("cmdCargaPDRnoUniforme", *marco, [this] { AbreOtra(AbrePpUEHs); });
-
+    const auto titulo = [this](std::string_view control) { return ConservaLugar(EnNegrita(Texto(control))); };
+    optformaPp =
+        Opciones("optformaPp", FormasPp, f.optformaPp, [this](int i) { optformaPp_Click(f, entorno.s, i); });
+    QPushButton* const carga = Boton("cmdCargaPDRnoUniforme", [this] { AbreOtra(AbrePpUEHs); });
     // Column 0 sets the options of synthetic storms in under their headings.
-    auto* const grilla = new QGridLayout(marco);
-    grilla->setColumnMinimumWidth(0, fontMetrics().averageCharWidth());
-    grilla->setColumnStretch(3, 1);
-    int fila = 0;
-    const auto titulo = [&](std::string_view control) {
-        QLabel* const rotulo = Rotulo(control, *marco);
-        QFont negrita = rotulo->font();
-        negrita.setBold(true);
-        rotulo->setFont(negrita);
-        rainfall::ConservaLugar(*rotulo);
-        grilla->addWidget(rotulo, fila++, 0, 1, -1);
-    };
-    titulo("Label9_0");
-    for (const std::size_t i : {0U, 1U, 2U})
-        grilla->addWidget(optformaPp[i], fila++, 1, 1, -1);
-    titulo("Label9_1");
-    grilla->addWidget(optformaPp[3], fila, 1);
-    grilla->addWidget(cargaUEH, fila++, 2);
-    grilla->addWidget(optformaPp[4], fila, 0, 1, -1);
+    QGridLayout* const rejilla = EnRejilla({{titulo("Label9_0")},
+                                            {Hueco(), optformaPp[0]},
+                                            {Hueco(), optformaPp[1]},
+                                            {Hueco(), optformaPp[2]},
+                                            {titulo("Label9_1")},
+                                            {Hueco(), optformaPp[3], carga, Hueco()},
+                                            {optformaPp[4]}},
+                                           {0, 0, 0, 1});
+    rejilla->setColumnMinimumWidth(0, fontMetrics().averageCharWidth());
+    auto* const marco = new QGroupBox(Q(MarcoFormas));
+    marco->setLayout(rejilla);
     return marco;
 }
 
 QWidget* dlgPp_ventana::MarcoDeTormenta()
 {
-    QGroupBox* const marco = Marco("Frame2");
-    auto* const grilla = new QGridLayout(marco);
-    const auto campo = [&](std::string_view control, std::string& texto) {
-        auto* const linea = Toma(control, new QLineEdit(marco));
-        forms::Refleja(*linea, texto);
-        Renglon(*grilla, control, *linea);
-        return linea;
-    };
-    txtPp = campo("txtPp", f.txtPp);
-    txtDur = campo("txtDur", f.txtDur);
-    cmbRec = ListaConTextoDe("cmbRec", *marco, f.cmbRec);
-    Renglon(*grilla, "cmbRec", *cmbRec);
-    campos.Agrega(*txtPp, [this] { return AlSalir(f, entorno.s, "txtPp"); });
-    campos.Agrega(*txtDur, [this] { return AlSalir(f, entorno.s, "txtDur"); });
-    return marco;
+    return ConservaLugar(Marco(
+        "Frame2",
+        EnRejilla(
+            {Renglon("txtPp", Campo("txtPp", f.txtPp, [this] { return AlSalir(f, entorno.s, "txtPp"); })),
+             Renglon("txtDur", Campo("txtDur", f.txtDur, [this] { return AlSalir(f, entorno.s, "txtDur"); })),
+             Renglon("cmbRec", CampoConLista("cmbRec", f.itemsRec, f.cmbRec))},
+            {0, 1})));
 }
 
 QWidget* dlgPp_ventana::MarcoDeLista()
 {
-    QGroupBox* const marco = Marco("Frame4");
-    auto* const pila = new QVBoxLayout(marco);
-    cmbPDR = Toma("cmbPDR", new QComboBox(marco));
-    QLabel* const rotulo = Toma("cmbPDR", new QLabel(Q(Fila("cmbPDR").leyenda), marco));
-    rotulo->setObjectName(QStringLiteral("rotuloPDR"));
-    rotulo->setBuddy(cmbPDR);
-    pila->addWidget(rotulo);
-    pila->addWidget(cmbPDR);
-    pila->addWidget(Boton("cmdPDR", *marco, [this] { cmdPDR(f, entorno.s); }));
-    pila->addWidget(Boton("cmdBorraPDR", *marco, [this] { cmdBorraPDR(f, entorno.s); }));
-    pila->addStretch(1);
-    connect(cmbPDR, &QComboBox::activated, this, [this](int i) {
-        Suceso([this, i] {
-            f.cmbPDR.indice = i;
-            cmbPDR_Click(f, entorno.s);
-        });
-    });
-    return marco;
+    QComboBox* const lista = Desplegable("cmbPDR", f.cmbPDR, [this] { cmbPDR_Click(f, entorno.s); });
+    return ConservaLugar(Marco(
+        "Frame4", EnPila({Rotulo("cmbPDR", lista), lista, Boton("cmdPDR", [this] { cmdPDR(f, entorno.s); }),
+                          Boton("cmdBorraPDR", [this] { cmdBorraPDR(f, entorno.s); }), Hueco()})));
 }
 
 QWidget* dlgPp_ventana::MarcoDeTablas()
 {
-    QGroupBox* const marco = Marco("Frame3");
-    auto* const pila = new QVBoxLayout(marco);
-    Opciones("optTablaPDR", TablasPDR, optTablaPDR, *marco);
-    for (QRadioButton* opcion : optTablaPDR)
-        pila->addWidget(opcion);
-    pila->addWidget(Boton("cmdTablaPDR", *marco, [this] { AbreOtra(AbreTablasPDRs); }));
-    pila->addStretch(1);
-    return marco;
+    forms::Partes partes;
+    for (QRadioButton* const opcion :
+         Opciones("optTablaPDR", TablasPDR, f.optTablaPDR, [this](int i) { optTablaPDR_Click(f, i); }))
+        partes.emplace_back(opcion);
+    partes.emplace_back(Boton("cmdTablaPDR", [this] { AbreOtra(AbreTablasPDRs); }));
+    partes.push_back(Hueco());
+    return ConservaLugar(Marco("Frame3", EnPila(partes)));
 }
 
 QWidget* dlgPp_ventana::MarcoDeTormentaReal()
 {
-    QGroupBox* const marco = Marco("Frame7");
-    auto* const grilla = new QGridLayout(marco);
-    FilePpReal = Toma("FilePpReal", new forms::ListaParaElegir(marco));
-    FilePpReal->conFlechas = true;
-    FilePpReal->AlElegir = [this](int i) {
-        Suceso([this, i] {
-            f.FilePpReal.indice = i;
-            FilePpReal_Click(f, entorno.s);
-        });
-    };
-    auto* const rotulo = new QLabel(Q(Fila("FilePpReal").leyenda), marco);
-    rotulo->setBuddy(FilePpReal);
-    grilla->addWidget(rotulo, 0, 0, 1, 2);
-    grilla->addWidget(FilePpReal, 1, 0, 1, 2);
-    int fila = 2;
-    const auto dato = [&](std::string_view control) {
-        auto* const valor = Toma(control, new QLabel(marco));
-        grilla->addWidget(new QLabel(Q(Fila(control).leyenda), marco), fila, 0);
-        grilla->addWidget(valor, fila++, 1);
-        return valor;
-    };
-    lblMiFilePpReal = dato("lblMiFilePpReal");
-    lblNumPer = dato("lblNumPer");
-    grilla->addWidget(Boton("cmdPpReal", *marco, [this] { AbreOtra(AbrePpReal); }), fila, 0, 1, 2);
-    grilla->setRowStretch(1, 1);
-    grilla->setColumnStretch(1, 1);
-    return marco;
+    QWidget* const archivos = Listado("FilePpReal", f.FilePpReal, forms::Flechas::Eligen,
+                                      [this] { FilePpReal_Click(f, entorno.s); });
+    return ConservaLugar(Marco("Frame7", EnRejilla({{Rotulo("FilePpReal", archivos)},
+                                                    {{archivos, 1}},
+                                                    Dato("lblMiFilePpReal", f.lblMiFilePpReal),
+                                                    Dato("lblNumPer", f.lblNumPer),
+                                                    {Boton("cmdPpReal", [this] { AbreOtra(AbrePpReal); })}},
+                                                   {0, 1})));
 }
 
 QWidget* dlgPp_ventana::MarcoDeDistribuciones()
 {
-    QGroupBox* const marco = Marco("Frame5");
-    auto* const pila = new QVBoxLayout(marco);
-    Opciones("optDistriPp", DistribucionesPp, optDistriPp, *marco);
-    for (QRadioButton* opcion : optDistriPp)
-        pila->addWidget(opcion);
-    pila->addLayout(Validez(*marco));
-    pila->addWidget(Boton("cmdPpPerso", *marco, [this] { AbreOtra(AbreDisPer); }), 0, Qt::AlignLeft);
-    return marco;
+    forms::Partes partes;
+    for (QRadioButton* const opcion : Opciones("optDistriPp", DistribucionesPp, f.optDistriPp,
+                                               [this](int i) { optDistriPp_Click(f, entorno.s, i); }))
+        partes.emplace_back(opcion);
+    partes.emplace_back(Validez());
+    partes.emplace_back(Boton("cmdPpPerso", [this] { AbreOtra(AbreDisPer); }), 0, Qt::AlignLeft);
+    return ConservaLugar(Marco("Frame5", EnPila(partes)));
 }
 
 /// The two limits stand below their words in the heading, which is one text.
-QLayout* dlgPp_ventana::Validez(QWidget& padre)
+QLayout* dlgPp_ventana::Validez()
 {
-    QLabel* const titulo = Rotulo("lblValidez", padre);
-    lblDurMin = Toma("lblDurMin", new QLabel(&padre));
-    lblDurMax = Toma("lblDurMax", new QLabel(&padre));
-    for (QLabel* rotulo : {titulo, lblDurMin, lblDurMax})
-        rainfall::ConservaLugar(*rotulo);
-
+    QLabel* const titulo = ConservaLugar(Texto("lblValidez"));
+    QLabel* const minima = ConservaLugar(Texto("lblDurMin", f.lblDurMin));
+    QLabel* const maxima = ConservaLugar(Texto("lblDurMax", f.lblDurMax));
     const QString texto = titulo->text();
     const QFontMetrics letra(titulo->font());
     const int hastaMin = letra.horizontalAdvance(texto.left(texto.indexOf(Q("Min "))));
     const int hastaMaxima = letra.horizontalAdvance(texto.left(texto.indexOf(Q("Máxima"))));
-    lblDurMin->setFixedWidth(hastaMaxima - hastaMin);
-    auto* const limites = new QHBoxLayout;
-    limites->setSpacing(0);
-    limites->addSpacing(hastaMin);
-    limites->addWidget(lblDurMin);
-    limites->addWidget(lblDurMax, 1);
-    auto* const pila = new QVBoxLayout;
-    pila->setSpacing(0);
-    pila->addWidget(titulo);
-    pila->addLayout(limites);
+    minima->setFixedWidth(hastaMaxima - hastaMin);
+    QLayout* const limites = EnFila({Hueco(hastaMin), minima, {maxima, 1}});
+    QLayout* const pila = EnPila({titulo, limites});
+    for (QLayout* const junto : {limites, pila})
+        junto->setSpacing(0);
     return pila;
 }
 
 QWidget* dlgPp_ventana::MarcoDePasos()
 {
-    auto* const marco = new QGroupBox(Q(MarcoPasos), this);
-    auto* const grilla = new QGridLayout(marco);
-    cmbPasoPp = ListaConTextoDe("cmbPasoPp", *marco, f.cmbPasoPp);
-    Renglon(*grilla, "cmbPasoPp", *cmbPasoPp);
-    cmbPasoQ = ListaConTextoDe("cmbPasoQ", *marco, f.cmbPasoQ);
-    Renglon(*grilla, "cmbPasoQ", *cmbPasoQ);
-    campos.Agrega(*cmbPasoPp, [this] { return AlSalir(f, entorno.s, "cmbPasoPp"); });
-    campos.Agrega(*cmbPasoQ, [this] { return AlSalir(f, entorno.s, "cmbPasoQ"); });
+    auto* const marco = new QGroupBox(Q(MarcoPasos));
+    marco->setLayout(
+        EnRejilla({Renglon("cmbPasoPp", CampoConLista("cmbPasoPp", f.itemsPaso, f.cmbPasoPp,
+                                                      [this] { return AlSalir(f, entorno.s, "cmbPasoPp"); })),
+                   Renglon("cmbPasoQ", CampoConLista("cmbPasoQ", f.itemsPaso, f.cmbPasoQ,
+                                                     [this] { return AlSalir(f, entorno.s, "cmbPasoQ"); }))},
+                  {0, 1}));
     return marco;
 }
 
 QLayout* dlgPp_ventana::Botones()
 {
-    auto* const fila = new QHBoxLayout;
-    fila->addWidget(Boton("cmdVerGrafico", *this, [this] {
-        if (const auto pedido = cmdVerGrafico(f, entorno.s)) AbreHietograma(*pedido);
-    }));
-    fila->addWidget(Boton("cmdVerTablaPt", *this, [this] { cmdVerTablaPt(f, entorno.s); }));
-    fila->addStretch(1);
-    fila->addWidget(Boton("cmdAplicar", *this, [this] { cmdAplicar(f, entorno.s); }));
-    QPushButton* const acepta = Boton("OKButton", *this, [this] { OKButton(f, entorno.s); });
+    QPushButton* const acepta = Boton("OKButton", [this] { OKButton(f, entorno.s); });
     acepta->setDefault(true);
-    fila->addWidget(acepta);
-    auto* const cancela = Toma("CancelButton", new QPushButton(this));
-    cancela->setText(Q(Fila("CancelButton").leyenda));
-    connect(cancela, &QPushButton::clicked, this, [this] { SucesoSinRevisar([this] { AlCerrar(); }); });
-    fila->addWidget(cancela);
-    return fila;
-}
-
-// --- controls ---
-
-template <typename T>
-T* dlgPp_ventana::Toma(std::string_view control, T* widget)
-{
-    if (widget->objectName().isEmpty()) widget->setObjectName(Q(control));
-    if (!Fila(control).ayuda.empty()) widget->setToolTip(Q(Fila(control).ayuda));
-    mostrados.push_back({control, widget});
-    return widget;
-}
-
-QGroupBox* dlgPp_ventana::Marco(std::string_view control)
-{
-    auto* const marco = Toma(control, new QGroupBox(Q(Fila(control).leyenda), this));
-    rainfall::ConservaLugar(*marco);
-    return marco;
-}
-
-QLabel* dlgPp_ventana::Rotulo(std::string_view control, QWidget& padre)
-{
-    return Toma(control, new QLabel(Q(Fila(control).leyenda), &padre));
-}
-
-QPushButton* dlgPp_ventana::Boton(std::string_view control, QWidget& padre, std::function<void()> rutina)
-{
-    auto* const boton = Toma(control, new QPushButton(Q(Fila(control).leyenda), &padre));
-    AlPulsar(*boton, std::move(rutina));
-    return boton;
-}
-
-/// A field with its label, which is available when the field is.
-void dlgPp_ventana::Renglon(QGridLayout& grilla, std::string_view control, QWidget& campo)
-{
-    auto* const rotulo = new QLabel(Q(Fila(control).leyenda), campo.parentWidget());
-    rotulo->setObjectName(QStringLiteral("rotulo_") + campo.objectName());
-    rotulo->setBuddy(&campo);
-    const int fila = grilla.rowCount();
-    grilla.addWidget(Toma(control, rotulo), fila, 0);
-    grilla.addWidget(&campo, fila, 1);
-    grilla.setColumnStretch(1, 1);
-}
-
-QComboBox* dlgPp_ventana::ListaConTextoDe(std::string_view control, QWidget& padre, std::string& texto)
-{
-    auto* const lista = Toma(control, new QComboBox(&padre));
-    lista->setEditable(true);
-    lista->setInsertPolicy(QComboBox::NoInsert);
-    lista->setCompleter(nullptr);  // it would make "10" of a "1"
-    forms::Refleja(*lista, texto);
-    return lista;
-}
-
-template <std::size_t N>
-void dlgPp_ventana::Opciones(std::string_view control, const std::array<std::string_view, N>& leyendas,
-                             std::array<QRadioButton*, N>& opciones, QWidget& padre)
-{
-    for (std::size_t i = 0; i < N; ++i) {
-        opciones[i] = new QRadioButton(Q(leyendas[i]), &padre);
-        opciones[i]->setObjectName(QStringLiteral("%1_%2").arg(Q(control)).arg(i));
-        Toma(control, opciones[i]);
-    }
-}
-
-void dlgPp_ventana::AlPulsarOpciones()
-{
-    for (std::size_t i = 0; i < optformaPp.size(); ++i)
-        AlPulsar(*optformaPp[i], [this, i] { optformaPp_Click(f, entorno.s, static_cast<int>(i)); });
-    for (std::size_t i = 0; i < optDistriPp.size(); ++i)
-        AlPulsar(*optDistriPp[i], [this, i] { optDistriPp_Click(f, entorno.s, static_cast<int>(i)); });
-    for (std::size_t i = 0; i < optTablaPDR.size(); ++i)
-        AlPulsar(*optTablaPDR[i], [this, i] { optTablaPDR_Click(f, static_cast<int>(i)); });
+    const auto grafico = [this] {
+        if (const auto pedido = cmdVerGrafico(f, entorno.s)) AbreHietograma(*pedido);
+    };
+    return EnFila({Boton("cmdVerGrafico", grafico),
+                   Boton("cmdVerTablaPt", [this] { cmdVerTablaPt(f, entorno.s); }), Hueco(),
+                   Boton("cmdAplicar", [this] { cmdAplicar(f, entorno.s); }), acepta,
+                   BotonSinRevisar("CancelButton", [this] { AlCerrar(); })});
 }
 
 // --- life ---
@@ -386,29 +229,6 @@ void dlgPp_ventana::AlCerrar()
 {
     CancelButton(f);
     Muestra();
-}
-
-void dlgPp_ventana::Muestra()
-{
-    Pon(*txtPp, f.txtPp);
-    Pon(*txtDur, f.txtDur);
-    Pon(*cmbRec, f.itemsRec, f.cmbRec);
-    Pon(*cmbPasoPp, f.itemsPaso, f.cmbPasoPp);
-    Pon(*cmbPasoQ, f.itemsPaso, f.cmbPasoQ);
-    Pon(*cmbPDR, f.cmbPDR.items, f.cmbPDR.indice);
-    Pon(*FilePpReal, f.FilePpReal.items, f.FilePpReal.indice);
-    Pon(*lblDurMin, f.lblDurMin);
-    Pon(*lblDurMax, f.lblDurMax);
-    Pon(*lblNumPer, f.lblNumPer);
-    Pon(*lblMiFilePpReal, f.lblMiFilePpReal);
-    forms::PonOpciones(optformaPp, f.optformaPp);
-    forms::PonOpciones(optDistriPp, f.optDistriPp);
-    forms::PonOpciones(optTablaPDR, f.optTablaPDR);
-    for (const Mostrado& m : mostrados) {
-        m.widget->setEnabled(f.Habilitado(m.control));
-        m.widget->setVisible(f.Visible(m.control));
-    }
-    if (!f.abierta && isVisible()) done(QDialog::Accepted);
 }
 
 }  // namespace rainfall

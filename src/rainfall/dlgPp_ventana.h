@@ -4,8 +4,6 @@
 #include <array>
 #include <functional>
 #include <memory>
-#include <string_view>
-#include <vector>
 
 #include "forms/Formulario_ventana.h"
 #include "rainfall/dlgDisPpPer.h"
@@ -13,19 +11,6 @@
 #include "rainfall/dlgPpReal.h"
 #include "rainfall/dlgTablaPpUEHs.h"
 #include "rainfall/dlgTablasPDRs.h"
-
-class QComboBox;
-class QGridLayout;
-class QGroupBox;
-class QLabel;
-class QLayout;
-class QLineEdit;
-class QPushButton;
-class QRadioButton;
-
-namespace forms {
-class ListaParaElegir;
-}
 
 namespace rainfall {
 
@@ -43,7 +28,6 @@ class dlgPp_ventana : public forms::Formulario {
     /// Opens the form and shows it until it is closed. Runs inside an event. Throws FinDelPrograma where the
     /// program was ended meanwhile.
     void Abre();
-    void Muestra() override;
 
     /// What the shell opens for the form.
     std::function<void(const PedidoHietograma&)> AbreHietograma = [](const PedidoHietograma&) {};
@@ -63,33 +47,18 @@ class dlgPp_ventana : public forms::Formulario {
     QWidget* MarcoDeTormenta();
     QWidget* MarcoDePasos();
     QWidget* MarcoDeDistribuciones();
-    QLayout* Validez(QWidget& padre);
+    QLayout* Validez();
     QWidget* MarcoDeLista();
     QWidget* MarcoDeTablas();
     QWidget* MarcoDeTormentaReal();
     QLayout* Botones();
 
-    QGroupBox* Marco(std::string_view control);
-    QLabel* Rotulo(std::string_view control, QWidget& padre);
-    QPushButton* Boton(std::string_view control, QWidget& padre, std::function<void()> rutina);
-    void Renglon(QGridLayout& grilla, std::string_view control, QWidget& campo);
-    QComboBox* ListaConTextoDe(std::string_view control, QWidget& padre, std::string& texto);
-    template <std::size_t N>
-    void Opciones(std::string_view control, const std::array<std::string_view, N>& leyendas,
-                  std::array<QRadioButton*, N>& opciones, QWidget& padre);
-    void AlPulsarOpciones();
+    /// What a control shows of itself, and with it its options and the label of a field.
+    void SigueEstados();
     void ConectaVentanas();
     void AbreOtra(const std::function<void()>& abre);
     /// Shows what the form opened from here has changed so far.
     void MuestraDetras();
-    /// The control is shown as the record tells of `control`.
-    template <typename T>
-    T* Toma(std::string_view control, T* widget);
-
-    struct Mostrado {
-        std::string_view control;
-        QWidget* widget;
-    };
 
     dlgPp& f;
     // The forms opened from here and their windows, each made at its first use.
@@ -102,14 +71,7 @@ class dlgPp_ventana : public forms::Formulario {
     std::unique_ptr<dlgPpReal_ventana> ventanaPpReal;
     std::unique_ptr<dlgTablaPpUEHs_ventana> ventanaPpUEHs;
 
-    std::vector<Mostrado> mostrados{};
     std::array<QRadioButton*, FormasPp.size()> optformaPp{};
-    std::array<QRadioButton*, DistribucionesPp.size()> optDistriPp{};
-    std::array<QRadioButton*, TablasPDR.size()> optTablaPDR{};
-    QLineEdit *txtPp = nullptr, *txtDur = nullptr;
-    QComboBox *cmbRec = nullptr, *cmbPDR = nullptr, *cmbPasoPp = nullptr, *cmbPasoQ = nullptr;
-    forms::ListaParaElegir* FilePpReal = nullptr;
-    QLabel *lblDurMin = nullptr, *lblDurMax = nullptr, *lblNumPer = nullptr, *lblMiFilePpReal = nullptr;
 };
 
 }  // namespace rainfall

@@ -4,8 +4,6 @@
 #include "rainfall/FormaDeTabla_ventana.h"
 #include "rainfall/dlgTablasPDRs.h"
 
-class QLayout;
-
 namespace rainfall {
 
 /// The editor of the P-D-R tables, opened from the storm dialog whose record it is handed.
@@ -14,23 +12,15 @@ class dlgTablasPDRs_ventana : public FormaDeTabla_ventana {
     dlgTablasPDRs_ventana(forms::Entorno& alrededor, dlgTablasPDRs& registro, dlgPp& tormenta,
                           QWidget* padre = nullptr);
 
-    void Muestra() override;
-
   private:
-    bool AbreForma() override;
-    void Cancela() override;
+    void AbreForma() override { rainfall::Abre(f, pp, entorno.s); }
+    void Cancela() override { CancelButton(f); }
     bool SinAplicar() override { return rainfall::SinAplicar(f, entorno.s); }
-    // Each makes a part of the form, with its events.
     QLayout* Datos();
     QWidget* Notas();
-    QLayout* Botones();
 
     dlgTablasPDRs& f;
     dlgPp& pp;
-    QComboBox* cmbNroTablaPDRs = nullptr;
-    QLineEdit *txtNroPDRs = nullptr, *txtNotas = nullptr;
-    QLabel *lblNotas = nullptr, *rotuloNotas = nullptr, *rotuloLblNotas = nullptr;
-    QPushButton* cmdBorra = nullptr;
 };
 
 }  // namespace rainfall

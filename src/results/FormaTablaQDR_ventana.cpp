@@ -1,51 +1,35 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "results/FormaTablaQDR_ventana.h"
 
-#include <QHBoxLayout>
-#include <QLayout>
-#include <QPushButton>
-#include <QVBoxLayout>
-
 #include "forms/ImpresionTabla_ventana.h"
 #include "forms/Procedencia.h"
-#include "forms/Textos_ventana.h"
 #include "results/TablaQDR_ventana.h"
-#include "results/dlgChart1.h"
 
 namespace results {
 
 FormaTablaQDR_ventana::FormaTablaQDR_ventana(forms::Entorno& alrededor, std::string_view nombre,
-                                             std::string_view titulo, FormaTablaQDR& registro, QWidget* antes,
-                                             QWidget* padre)
-    : Ventana(alrededor, {nombre}, padre), f(registro)
+                                             std::string_view titulo, FormaTablaQDR& registro, QWidget* padre)
+    : Ventana(alrededor, {nombre, titulo, RotulosTablaQDR}, padre), f(registro)
 {
-    setWindowTitle(forms::Q(titulo));
+    Sigue(f.abierta);
     tabla = new VistaQDR(entorno, f.MSFlexGridTablaSaleQDR, titulo);
     tabla->Componente = [this] { return Componente(); };
     tabla->AlPulsarEncabezado = [this](int columna) { Suceso([&] { AlPulsarEncabezado(f, columna); }); };
-    cmdAplicarCambios = BotonDeTabla(LeyendaActualizar, "cmdAplicarCambios");
-    cmdImprimir = BotonDeTabla(LeyendaImprimirTabla, "cmdImprimir");
-    OKButton = BotonDeTabla(LeyendaCerrar, "OKButton");
-    AlPulsar(*cmdAplicarCambios, [this] { Llena(); });
-    AlPulsar(*cmdImprimir, [this] { Imprime(); });
-    AlPulsar(*OKButton, [this] { results::OKButton(f); });
+    AlMostrar([this] { tabla->Muestra(); });
     entorno.AlActivarse(*this, [this] {
         if (!f.abierta) return;
         Llena();
         Muestra();
     });
+}
 
-    auto* const centro = new QHBoxLayout;
-    if (antes != nullptr) centro->addWidget(antes);
-    centro->addWidget(tabla, 1);
-    auto* const botones = new QHBoxLayout;
-    botones->addWidget(cmdAplicarCambios);
-    botones->addStretch(1);
-    botones->addWidget(cmdImprimir);
-    botones->addWidget(OKButton);
-    auto* const pila = new QVBoxLayout(this);
-    pila->addLayout(centro, 1);
-    pila->addLayout(botones);
+void FormaTablaQDR_ventana::Dispone(forms::Partes antes)
+{
+    antes.emplace_back(tabla, 1);
+    setLayout(EnPila(
+        {{EnFila(antes), 1},
+         EnFila({Boton("cmdAplicarCambios", [this] { Llena(); }), Hueco(),
+                 Boton("cmdImprimir", [this] { Imprime(); }), Boton("OKButton", [this] { OKButton(f); })})}));
 }
 
 void FormaTablaQDR_ventana::Abre()
@@ -57,13 +41,7 @@ void FormaTablaQDR_ventana::Abre()
 
 void FormaTablaQDR_ventana::AlCerrar()
 {
-    results::OKButton(f);
-}
-
-void FormaTablaQDR_ventana::Muestra()
-{
-    tabla->Muestra();
-    if (!f.abierta && isVisible()) close();
+    OKButton(f);
 }
 
 void FormaTablaQDR_ventana::Imprime()

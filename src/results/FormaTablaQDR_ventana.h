@@ -7,8 +7,6 @@
 #include "forms/Formulario_ventana.h"
 #include "results/TablaQDR.h"
 
-class QPushButton;
-
 namespace results {
 
 class VistaQDR;
@@ -19,12 +17,13 @@ class FormaTablaQDR_ventana : public forms::Ventana {
     /// Opens the window on the results in hand and brings it to the front. Where the form closes itself, no
     /// window comes.
     void Abre();
-    void Muestra() override;
 
   protected:
-    /// `antes`: a control that stands beside the grid, ahead of it for the Tab key too; none: null.
     FormaTablaQDR_ventana(forms::Entorno& alrededor, std::string_view nombre, std::string_view titulo,
-                          FormaTablaQDR& registro, QWidget* antes, QWidget* padre);
+                          FormaTablaQDR& registro, QWidget* padre);
+    /// Puts the grid above its buttons. `antes`: what stands beside the grid, ahead of it for the Tab key
+    /// too.
+    void Dispone(forms::Partes antes = {});
 
     void AlCerrar() override;
     /// The form's own opening, and its filling of the table.
@@ -38,7 +37,6 @@ class FormaTablaQDR_ventana : public forms::Ventana {
 
     FormaTablaQDR& f;
     VistaQDR* tabla;
-    QPushButton *cmdAplicarCambios, *cmdImprimir, *OKButton;
 };
 
 }  // namespace results

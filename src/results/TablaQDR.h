@@ -10,6 +10,7 @@
 
 #include "engine/ColumnasDeSerie.h"
 #include "forms/Planilla.h"
+#include "forms/Rotulo.h"
 #include "model/Siro.h"
 
 // The grid of a series' results, MSFlexGridTablaSaleQDR: what it holds, how it is filled, sorted and taken
@@ -84,8 +85,13 @@ void AlPulsarEncabezado(FormaTablaQDR& f, int columna);
 
 void OKButton(FormaTablaQDR& f);
 
-inline constexpr std::string_view LeyendaActualizar = "&Actualizar cambios";
-inline constexpr std::string_view LeyendaImprimirTabla = "Imprimir";
+/// Captions in the windows of both tables.
+inline constexpr auto RotulosTablaQDR = std::to_array<forms::FilaRotulo>({
+    {"cmdAplicarCambios", "&Actualizar cambios"},
+    {"cmdImprimir", "Imprimir"},
+    {"OKButton", "&Cerrar"},
+    {"lstCompos", "Componente"},
+});
 
 /// The commands of the menu that open a table: whether the series has storms enough.
 bool HayPlanillaPDR(const model::Siro& s);

@@ -7,7 +7,6 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QMenu>
-#include <QPushButton>
 #include <QScrollBar>
 
 #include "forms/Planilla_ventana.h"
@@ -201,13 +200,6 @@ void VistaQDR::contextMenuEvent(QContextMenuEvent* evento)
     connect(ordena, &QAction::triggered, this, [this, columna] { AlPulsarEncabezado(columna); });
     menu.exec(porTeclado ? viewport()->mapToGlobal(visualRect(currentIndex()).center())
                          : evento->globalPos());
-}
-
-QPushButton* BotonDeTabla(std::string_view leyenda, const char* nombre)
-{
-    auto* const boton = new QPushButton(Q(leyenda));
-    boton->setObjectName(QString::fromUtf8(nombre));
-    return boton;
 }
 
 }  // namespace results

@@ -10,8 +10,6 @@
 #include "forms/Entorno_ventana.h"
 #include "results/TablaQDR.h"
 
-class QPushButton;
-
 namespace results {
 
 /// Shows the grid of a series' results: titles merged, headings that sort, a menu that copies and saves.
@@ -48,8 +46,5 @@ class VistaQDR : public QTableView {
     std::string_view titulo;
     std::unique_ptr<Modelo> modelo;
 };
-
-/// A button of a window with this table.
-QPushButton* BotonDeTabla(std::string_view leyenda, const char* nombre);
 
 }  // namespace results

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 
 #include "forms/Grafico.h"
+#include "forms/Rotulo.h"
 #include "model/Siro.h"
 
 // Rules of the chart of the hyetograph, "Hietograma".
@@ -14,10 +16,20 @@ namespace results {
 
 inline constexpr std::string_view TituloDlgChart1 = "Hietograma";
 
-// Captions that both charts share.
-inline constexpr std::string_view LeyendaHsMin = "Ver t [Horas] / Ver t [Minutos]";
-inline constexpr std::string_view LeyendaImprimir = "&Imprimir";
-inline constexpr std::string_view LeyendaCerrar = "&Cerrar";
+// clang-format off
+/// Captions in the windows of the three charts.
+inline constexpr auto RotulosDeGraficos = std::to_array<forms::FilaRotulo>({
+    {"cmdHsMin",    "Ver t [Horas] / Ver t [Minutos]"},
+    {"cmdXmas",     "+DivideEjeX"},
+    {"cmdXmenos",   "-DivideEjeX"},
+    {"cmdImprimir", "&Imprimir"},
+    {"OKButton",    "&Cerrar"},
+    {"sldDur",      "Variador de Duración de Tormenta [min]", "Variador de Duración de Tormenta [min]"},
+    {"sldPp",       "Variador de Pp[mm]", "Variador de Pp[mm]"},
+    {"lstPQEC",     "&Magnitud:"},
+    {"lstCompos",   "Compo&nente:", "", "Componente"},
+});
+// clang-format on
 
 /// The hyetograph to be shown; its depths are Tormenta::PpReal.
 struct Hietograma {

@@ -4,8 +4,6 @@
 #include "forms/Formulario_ventana.h"
 #include "results/dlgChart1.h"
 
-class QPushButton;
-
 namespace forms {
 class Lamina;
 }
@@ -31,7 +29,6 @@ class dlgChart1_ventana : public forms::Ventana {
 
     dlgChart1& f;
     forms::Lamina* Grafico;
-    QPushButton *cmdHsMin, *cmdImprimir, *OKButton;
 };
 
 }  // namespace results

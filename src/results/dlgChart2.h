@@ -15,10 +15,6 @@
 namespace results {
 
 inline constexpr std::string_view TituloDlgChart2 = "Hidrograma";
-inline constexpr std::string_view LeyendaXmas = "+DivideEjeX";
-inline constexpr std::string_view LeyendaXmenos = "-DivideEjeX";
-inline constexpr std::string_view AyudaSldDur = "Variador de Duración de Tormenta [min]";
-inline constexpr std::string_view AyudaSldPp = "Variador de Pp[mm]";
 
 struct Deslizador {
     int minimo, maximo, pasoChico, pasoGrande;

@@ -2,23 +2,16 @@
 #include "results/dlgChart2_ventana.h"
 
 #include <QGuiApplication>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QPushButton>
 #include <QSignalBlocker>
 #include <QSlider>
 #include <QTimer>
-#include <QVBoxLayout>
 #include <utility>
 
 #include "forms/Lamina_ventana.h"
-#include "forms/Lista_ventana.h"
-#include "forms/Textos_ventana.h"
 #include "results/dlgChart1.h"
 
 namespace results {
 
-using forms::Pon;
 using forms::Q;
 
 namespace {
@@ -37,112 +30,69 @@ class Espera {
 }  // namespace
 
 dlgChart2_ventana::dlgChart2_ventana(forms::Entorno& alrededor, dlgChart2& registro, QWidget* padre)
-    : Ventana(alrededor, {"dlgChart2"}, padre), f(registro)
+    : Ventana(alrededor, {"dlgChart2", TituloDlgChart2, RotulosDeGraficos}, padre), f(registro)
 {
-    setWindowTitle(Q(TituloDlgChart2));
-    Construye();
-    lstCompos->AlElegir = [this](int indice) {
-        Suceso([&] {
+    Sigue(f.abierta);
+    QLabel* const titulo = EnNegrita(Texto("lblTitulo", f.lblTitulo));
+    titulo->setAlignment(Qt::AlignCenter);
+    titulo->setWordWrap(true);
+    Grafico = new forms::Lamina(entorno, "Grafico", TituloDlgChart2);
+    QWidget* const componentes =
+        Listado("lstCompos", f.lstCompos, f.lstComposIndice, forms::Flechas::Eligen, [this](int indice) {
             f.lstComposIndice = indice;
             lstCompos_Click(f, entorno.s);
         });
-    };
-    for (Mando* const mando : {&Pp, &Dur})
-        connect(mando->deslizador, &QSlider::valueChanged, this,
-                [this, mando](int valor) { Pide(*mando, valor); });
-    AlPulsar(*cmdHsMin, [this] { results::cmdHsMin(f, entorno.s); });
-    AlPulsar(*cmdXmas, [this] { results::cmdXmas(f); });
-    AlPulsar(*cmdXmenos, [this] { results::cmdXmenos(f); });
-    AlPulsar(*cmdImprimir, [this] { Imprime(); });
-    AlPulsar(*OKButton, [this] { results::OKButton(f); });
+    componentes->setFixedWidth(fontMetrics().averageCharWidth() * (LargoDeNombre + 5));
+    VisibleSi(componentes, [this] { return f.vista.lista; });
+    setLayout(EnPila({titulo,
+                      {EnFila({{Grafico, 1}, componentes}), 1},
+                      Mandos(),
+                      Texto("lblNota", f.lblNota),
+                      Botones()}));
 }
 
-void dlgChart2_ventana::Construye()
-{
-    lblTitulo = new QLabel;
-    lblTitulo->setObjectName(QStringLiteral("lblTitulo"));
-    lblTitulo->setTextFormat(Qt::PlainText);
-    lblTitulo->setAlignment(Qt::AlignCenter);
-    lblTitulo->setWordWrap(true);
-    QFont fuerte = font();
-    fuerte.setBold(true);
-    lblTitulo->setFont(fuerte);
-    lblNota = new QLabel;
-    lblNota->setObjectName(QStringLiteral("lblNota"));
-    lblNota->setTextFormat(Qt::PlainText);
-
-    Grafico = new forms::Lamina(entorno, "Grafico", TituloDlgChart2);
-    lstCompos = new forms::ListaParaElegir;
-    lstCompos->conFlechas = true;
-    lstCompos->setObjectName(QStringLiteral("lstCompos"));
-    lstCompos->setAccessibleName(QStringLiteral("Componente"));
-    lstCompos->setFixedWidth(fontMetrics().averageCharWidth() * (LargoDeNombre + 5));
-
-    auto* const centro = new QHBoxLayout;
-    centro->addWidget(Grafico, 1);
-    centro->addWidget(lstCompos);
-    auto* const pila = new QVBoxLayout(this);
-    pila->addWidget(lblTitulo);
-    pila->addLayout(centro, 1);
-    pila->addLayout(ConstruyeMandos());
-    pila->addWidget(lblNota);
-    pila->addLayout(ConstruyeBotones());
-}
-
-QBoxLayout* dlgChart2_ventana::ConstruyeMandos()
+QLayout* dlgChart2_ventana::Mandos()
 {
     Pp.unidad = " mm";
     Pp.mueve = sldPp_Mueve;
-    PonMando(Pp, "Pp", AyudaSldPp);
+    PonMando(Pp, "sldPp", "lblPp", "lblValorPp");
     Dur.unidad = " min";
     Dur.mueve = sldDur_Mueve;
-    PonMando(Dur, "Dur", AyudaSldDur);
-    auto* const fila = new QHBoxLayout;
-    for (const Mando* const mando : {&Pp, &Dur}) {
-        fila->addWidget(mando->rotulo);
-        fila->addWidget(mando->deslizador, 1);
-        fila->addWidget(mando->valor);
-        if (mando == &Pp) fila->addSpacing(fontMetrics().averageCharWidth() * 2);
-    }
-    return fila;
+    PonMando(Dur, "sldDur", "lblDur", "lblValorDur");
+    AlMostrar([this] {
+        MuestraMando(Pp, f.sldPp, f.lblPp);
+        MuestraMando(Dur, f.sldDur, f.lblDur);
+    });
+    return EnFila({Pp.rotulo,
+                   {Pp.deslizador, 1},
+                   Pp.valor,
+                   Hueco(fontMetrics().averageCharWidth() * 2),
+                   Dur.rotulo,
+                   {Dur.deslizador, 1},
+                   Dur.valor});
 }
 
-void dlgChart2_ventana::PonMando(Mando& mando, const char* nombre, std::string_view ayuda)
+void dlgChart2_ventana::PonMando(Mando& mando, std::string_view deslizador, std::string_view rotulo,
+                                 std::string_view valor)
 {
-    const auto conNombre = [&](const char* prefijo) {
-        return QString::fromUtf8(prefijo) + QString::fromUtf8(nombre);
-    };
-    mando.deslizador = new QSlider(Qt::Horizontal);
-    mando.deslizador->setObjectName(conNombre("sld"));
-    mando.deslizador->setToolTip(Q(ayuda));
-    mando.deslizador->setAccessibleName(Q(ayuda));
-    mando.rotulo = new QLabel;
-    mando.rotulo->setObjectName(conNombre("lbl"));
+    mando.deslizador = Nombra(new QSlider(Qt::Horizontal), deslizador);
+    mando.rotulo = Nombra(new QLabel, rotulo);
     mando.rotulo->setBuddy(mando.deslizador);
-    mando.valor = new QLabel;
-    mando.valor->setObjectName(conNombre("lblValor"));
+    mando.valor = Nombra(new QLabel, valor);
     mando.valor->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("0000 min")));
+    connect(mando.deslizador, &QSlider::valueChanged, this,
+            [this, &mando](int cuanto) { Pide(mando, cuanto); });
 }
 
-QBoxLayout* dlgChart2_ventana::ConstruyeBotones()
+QLayout* dlgChart2_ventana::Botones()
 {
-    const auto boton = [](std::string_view leyenda, const char* nombre) {
-        auto* const b = new QPushButton(Q(leyenda));
-        b->setObjectName(QString::fromUtf8(nombre));
-        return b;
+    const auto boton = [this](std::string_view control, std::function<void()> rutina) {
+        return VisibleSi(Boton(control, std::move(rutina)), [this] { return f.vista.comandos; });
     };
-    cmdHsMin = boton(LeyendaHsMin, "cmdHsMin");
-    cmdXmas = boton(LeyendaXmas, "cmdXmas");
-    cmdXmenos = boton(LeyendaXmenos, "cmdXmenos");
-    cmdImprimir = boton(LeyendaImprimir, "cmdImprimir");
-    OKButton = boton(LeyendaCerrar, "OKButton");
-    auto* const fila = new QHBoxLayout;
-    for (QPushButton* const b : {cmdHsMin, cmdXmas, cmdXmenos})
-        fila->addWidget(b);
-    fila->addStretch(1);
-    fila->addWidget(cmdImprimir);
-    fila->addWidget(OKButton);
-    return fila;
+    return EnFila({boton("cmdHsMin", [this] { cmdHsMin(f, entorno.s); }),
+                   boton("cmdXmas", [this] { cmdXmas(f); }), boton("cmdXmenos", [this] { cmdXmenos(f); }),
+                   Hueco(), boton("cmdImprimir", [this] { Imprime(); }),
+                   boton("OKButton", [this] { OKButton(f); })});
 }
 
 void dlgChart2_ventana::Abre()
@@ -159,27 +109,19 @@ void dlgChart2_ventana::Abre()
 
 void dlgChart2_ventana::AlCerrar()
 {
-    results::OKButton(f);
+    OKButton(f);
 }
 
 void dlgChart2_ventana::Muestra()
 {
     Grafico->Muestra(f.Grafico);
     Grafico->PonTema(f.lblTitulo, f.componente);
-    Pon(*lblTitulo, f.lblTitulo);
-    Pon(*lblNota, f.lblNota);
-    Pon(*lstCompos, f.lstCompos, f.lstComposIndice);
-    MuestraMando(Pp, f.sldPp, f.lblPp);
-    MuestraMando(Dur, f.sldDur, f.lblDur);
-    for (QPushButton* const boton : {cmdHsMin, cmdXmas, cmdXmenos, cmdImprimir, OKButton})
-        boton->setVisible(f.vista.comandos);
-    lstCompos->setVisible(f.vista.lista);
-    if (!f.abierta && isVisible()) close();
+    Ventana::Muestra();
 }
 
 void dlgChart2_ventana::MuestraMando(Mando& mando, const Deslizador& estado, const std::string& rotulo) const
 {
-    Pon(*mando.rotulo, rotulo);
+    forms::Pon(*mando.rotulo, rotulo);
     const QSignalBlocker silencio(*mando.deslizador);
     mando.deslizador->setRange(estado.minimo, estado.maximo);
     mando.deslizador->setSingleStep(estado.pasoChico);

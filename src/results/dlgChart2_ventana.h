@@ -6,14 +6,10 @@
 #include "forms/Formulario_ventana.h"
 #include "results/dlgChart2.h"
 
-class QBoxLayout;
-class QLabel;
-class QPushButton;
 class QSlider;
 
 namespace forms {
 class Lamina;
-class ListaParaElegir;
 }  // namespace forms
 
 namespace results {
@@ -43,21 +39,17 @@ class dlgChart2_ventana : public forms::Ventana {
         std::optional<int> pedido{};  ///< not run yet
     };
 
-    void Construye();
-    QBoxLayout* ConstruyeMandos();
-    QBoxLayout* ConstruyeBotones();
-    void PonMando(Mando& mando, const char* nombre, std::string_view ayuda);
+    QLayout* Mandos();
+    QLayout* Botones();
+    void PonMando(Mando& mando, std::string_view deslizador, std::string_view rotulo, std::string_view valor);
     void MuestraMando(Mando& mando, const Deslizador& estado, const std::string& rotulo) const;
     void Pide(Mando& mando, int valor);
     void CorrePedidos();
     void Imprime();
 
     dlgChart2& f;
-    QLabel *lblTitulo, *lblNota;
     forms::Lamina* Grafico;
-    forms::ListaParaElegir* lstCompos;
     Mando Pp{}, Dur{};
-    QPushButton *cmdHsMin, *cmdXmas, *cmdXmenos, *cmdImprimir, *OKButton;
     bool programada = false;  ///< a run waits for the events of the moment
     bool corriendo = false;
 };

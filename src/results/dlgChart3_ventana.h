@@ -4,13 +4,8 @@
 #include "forms/Formulario_ventana.h"
 #include "results/dlgChart3.h"
 
-class QBoxLayout;
-class QLabel;
-class QPushButton;
-
 namespace forms {
 class Lamina;
-class ListaParaElegir;
 }  // namespace forms
 
 namespace results {
@@ -29,18 +24,12 @@ class dlgChart3_ventana : public forms::Ventana {
     void AlCerrar() override;
 
   private:
-    void Construye();
-    QWidget* ConstruyeListas();
-    QBoxLayout* ConstruyeBotones();
-    void Conecta();
+    QWidget* Listas();
+    QLayout* Botones();
     void Imprime();
 
     dlgChart3& f;
-    QLabel *lblTitulo, *lblNota, *lblNotaVelmir;
-    QWidget* listas;
     forms::Lamina* Grafico;
-    forms::ListaParaElegir *lstCompos, *lstPQEC;
-    QPushButton *cmdXmas, *cmdXmenos, *cmdImprimir, *OKButton;
 };
 
 }  // namespace results

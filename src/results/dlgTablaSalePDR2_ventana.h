@@ -4,10 +4,6 @@
 #include "results/FormaTablaQDR_ventana.h"
 #include "results/dlgTablaSalePDR2.h"
 
-namespace forms {
-class ListaParaElegir;
-}
-
 namespace results {
 
 /// Window of the table of a series' results for a component picked from a list.
@@ -15,17 +11,12 @@ class dlgTablaSalePDR2_ventana : public FormaTablaQDR_ventana {
   public:
     dlgTablaSalePDR2_ventana(forms::Entorno& alrededor, dlgTablaSalePDR2& registro, QWidget* padre = nullptr);
 
-    void Muestra() override;
-
   private:
-    dlgTablaSalePDR2_ventana(forms::Entorno& alrededor, dlgTablaSalePDR2& registro,
-                             forms::ListaParaElegir* lista, QWidget* padre);
-    void AbreForma() override;
-    void Llena() override;
+    void AbreForma() override { results::Abre(f, entorno.s); }
+    void Llena() override { cmdAplicarCambios(f, entorno.s); }
     [[nodiscard]] std::string Componente() const override;
 
     dlgTablaSalePDR2& f;
-    forms::ListaParaElegir* lstCompos;
 };
 
 }  // namespace results

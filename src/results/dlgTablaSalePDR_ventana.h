@@ -12,8 +12,8 @@ class dlgTablaSalePDR_ventana : public FormaTablaQDR_ventana {
     dlgTablaSalePDR_ventana(forms::Entorno& alrededor, dlgTablaSalePDR& registro, QWidget* padre = nullptr);
 
   private:
-    void AbreForma() override;
-    void Llena() override;
+    void AbreForma() override { results::Abre(f, entorno.s); }
+    void Llena() override { cmdAplicarCambios(f, entorno.s); }
 
     dlgTablaSalePDR& f;
 };

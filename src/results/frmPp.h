@@ -1,22 +1,35 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
 
+#include "forms/Rotulo.h"
 #include "model/Siro.h"
 
 // Rules of the Slate, the window that shows the tables of a run as the engine builds them.
 namespace results {
 
 inline constexpr std::string_view TituloFrmPp = "Pizarra de Variables y Salidas";
-inline constexpr std::string_view LeyendaImprimirPizarra = "&Imprimir";
-inline constexpr std::string_view LeyendaCerrarPizarra = "&Cerrar";
 inline constexpr std::string_view TituloGuardaPizarra = "Guardar el texto de la Pizarra";
 inline constexpr std::string_view FiltroTexto = "Texto |*.txt";
 inline constexpr std::string_view NombrePizarra = "Pizarra.txt";
+
+// clang-format off
+inline constexpr auto RotulosFrmPp = std::to_array<forms::FilaRotulo>({
+    {"txtBuscar",         "&Texto:"},
+    {"cmdBuscaAnterior",  "A&nterior", "Mayúsculas+F3"},
+    {"cmdBuscaSiguiente", "Sig&uiente", "F3"},
+    {"cmdCierraBusqueda", "Ce&rrar búsqueda", "Esc"},
+    {"cmdBuscar",         "&Buscar...", "Busca un texto en la Pizarra (Ctrl+F)"},
+    {"cmdGuardar",        "&Guardar...", "Guarda el texto en un archivo (Ctrl+S)"},
+    {"CmdImprimir",       "&Imprimir", "Imprime la ventana tal como se ve (Ctrl+P)"},
+    {"cmdCerrar",         "&Cerrar"},
+});
+// clang-format on
 
 /// A stretch of the Slate's text. A character outside the basic plane of Unicode counts as one.
 struct Hallazgo {

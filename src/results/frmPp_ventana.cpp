@@ -3,13 +3,9 @@
 
 #include <QEvent>
 #include <QFontDatabase>
-#include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QTextBlock>
@@ -17,7 +13,6 @@
 #include <utility>
 
 #include "forms/Impresion_ventana.h"
-#include "forms/Textos_ventana.h"
 
 namespace results {
 
@@ -29,15 +24,6 @@ namespace {
 
 constexpr int ColumnasALaVista = 100;
 constexpr int RenglonesALaVista = 32;
-
-QPushButton* Boton(std::string_view leyenda, const char* nombre, const char* ayuda = "")
-{
-    auto* const boton = new QPushButton(Q(leyenda));
-    boton->setObjectName(QString::fromUtf8(nombre));
-    boton->setToolTip(QString::fromUtf8(ayuda));
-    boton->setAutoDefault(false);
-    return boton;
-}
 
 QFont LetraFija()
 {
@@ -51,18 +37,13 @@ QFont LetraFija()
 }  // namespace
 
 frmPp_ventana::frmPp_ventana(forms::Entorno& alrededor, frmPp& registro, QWidget* padre)
-    : Ventana(alrededor, {"frmPp"}, padre), f(registro)
+    : Ventana(alrededor, {"frmPp", TituloFrmPp, RotulosFrmPp}, padre), f(registro)
 {
-    setWindowTitle(Q(TituloFrmPp));
+    Sigue(f.abierta);
     ConstruyeTexto();
-    lineaDeBusqueda = new QWidget;
-    lineaDeBusqueda->setLayout(ConstruyeBusqueda());
+    lineaDeBusqueda = LineaDeBusqueda();
     lineaDeBusqueda->hide();
-
-    auto* const pila = new QVBoxLayout(this);
-    pila->addWidget(Text1, 1);
-    pila->addWidget(lineaDeBusqueda);
-    pila->addLayout(ConstruyeBotones());
+    setLayout(EnPila({{Text1, 1}, lineaDeBusqueda, Botones()}));
     ConectaTeclas();
     frmPp_ventana::Muestra();
 }
@@ -95,58 +76,36 @@ void frmPp_ventana::ConstruyeTexto()
             [this](const QPoint& lugar) { MenuDelTexto(lugar); });
 }
 
-QHBoxLayout* frmPp_ventana::ConstruyeBusqueda()
+QWidget* frmPp_ventana::LineaDeBusqueda()
 {
-    txtBuscar = new QLineEdit;
-    txtBuscar->setObjectName(QStringLiteral("txtBuscar"));
+    txtBuscar = Nombra(new QLineEdit, "txtBuscar");
     txtBuscar->setClearButtonEnabled(true);
-    auto* const lblBuscar = new QLabel(QStringLiteral("&Texto:"));
-    lblBuscar->setBuddy(txtBuscar);
-    cmdBuscaAnterior = results::Boton("A&nterior", "cmdBuscaAnterior", "Mayúsculas+F3");
-    cmdBuscaSiguiente = results::Boton("Sig&uiente", "cmdBuscaSiguiente", "F3");
-    cmdCierraBusqueda = results::Boton("Ce&rrar búsqueda", "cmdCierraBusqueda", "Esc");
-    lblBusqueda = new QLabel;
-    lblBusqueda->setObjectName(QStringLiteral("lblBusqueda"));
-
     connect(txtBuscar, &QLineEdit::textEdited, this,
             [this](const QString& texto) { Suceso([&] { txtBuscar_Change(f, DeQ(texto)); }); });
     connect(txtBuscar, &QLineEdit::textChanged, this, [this](const QString& texto) {
         if (texto.isEmpty() && !f.busqueda.buscado.empty()) Suceso([this] { txtBuscar_Change(f, ""); });
     });
-    AlPulsar(*cmdBuscaAnterior, [this] { BuscaAnterior(f); });
-    AlPulsar(*cmdBuscaSiguiente, [this] { BuscaSiguiente(f); });
-    AlPulsar(*cmdCierraBusqueda, [this] { CierraBusqueda(f); });
-
-    auto* const fila = new QHBoxLayout;
+    QLayout* const fila = EnFila({Rotulo("txtBuscar", txtBuscar),
+                                  {txtBuscar, 2},
+                                  Boton("cmdBuscaAnterior", [this] { BuscaAnterior(f); }),
+                                  Boton("cmdBuscaSiguiente", [this] { BuscaSiguiente(f); }),
+                                  {Texto("lblBusqueda", f.busqueda.aviso), 1},
+                                  Boton("cmdCierraBusqueda", [this] { CierraBusqueda(f); })});
     fila->setContentsMargins(0, 0, 0, 0);
-    fila->addWidget(lblBuscar);
-    fila->addWidget(txtBuscar, 2);
-    fila->addWidget(cmdBuscaAnterior);
-    fila->addWidget(cmdBuscaSiguiente);
-    fila->addWidget(lblBusqueda, 1);
-    fila->addWidget(cmdCierraBusqueda);
-    return fila;
+    auto* const linea = new QWidget;
+    linea->setLayout(fila);
+    return linea;
 }
 
-QHBoxLayout* frmPp_ventana::ConstruyeBotones()
+QLayout* frmPp_ventana::Botones()
 {
-    lblLargo = new QLabel;
-    lblLargo->setObjectName(QStringLiteral("lblLargo"));
-    cmdBuscar = results::Boton("&Buscar...", "cmdBuscar", "Busca un texto en la Pizarra (Ctrl+F)");
-    cmdGuardar = results::Boton("&Guardar...", "cmdGuardar", "Guarda el texto en un archivo (Ctrl+S)");
-    CmdImprimir = results::Boton(LeyendaImprimirPizarra, "CmdImprimir", "Imprime la ventana tal como se ve (Ctrl+P)");
-    cmdCerrar = results::Boton(LeyendaCerrarPizarra, "cmdCerrar");
-
-    AlPulsar(*cmdBuscar, [this] { Busca(); });
-    AlPulsar(*cmdGuardar, [this] { GuardaTexto(f, entorno.s); });
-    AlPulsar(*CmdImprimir, [this] { Imprime(); });
-    AlPulsar(*cmdCerrar, [this] { results::cmdCerrar(f, entorno.s); });
-
-    auto* const fila = new QHBoxLayout;
-    fila->addWidget(lblLargo, 1);
-    for (QPushButton* boton : {cmdBuscar, cmdGuardar, CmdImprimir, cmdCerrar})
-        fila->addWidget(boton);
-    return fila;
+    auto* const largo = Nombra(new QLabel, "lblLargo");
+    AlMostrar([this, largo] { Pon(*largo, RotuloLargo(f)); });
+    return EnFila({{largo, 1},
+                   Boton("cmdBuscar", [this] { Busca(); }),
+                   Boton("cmdGuardar", [this] { GuardaTexto(f, entorno.s); }),
+                   Boton("CmdImprimir", [this] { Imprime(); }),
+                   Boton("cmdCerrar", [this] { cmdCerrar(f, entorno.s); })});
 }
 
 void frmPp_ventana::Imprime()
@@ -203,8 +162,7 @@ void frmPp_ventana::Muestra()
     pendiente = false;
     MuestraTexto();
     MuestraBusqueda();
-    Pon(*lblLargo, RotuloLargo(f));
-    if (!f.abierta && isVisible()) close();
+    Ventana::Muestra();
 }
 
 void frmPp_ventana::MuestraTexto()
@@ -283,7 +241,6 @@ void frmPp_ventana::MuestraBusqueda()
     lineaDeBusqueda->setVisible(b.abierta);
     if (seCierra) Text1->setFocus(Qt::OtherFocusReason);
     Pon(*txtBuscar, b.buscado);
-    Pon(*lblBusqueda, b.aviso);
     if (veces == b.veces) return;
     veces = b.veces;
     QTextCursor cursor = Text1->textCursor();

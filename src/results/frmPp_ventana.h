@@ -6,11 +6,7 @@
 #include "forms/Formulario_ventana.h"
 #include "results/frmPp.h"
 
-class QHBoxLayout;
-class QLabel;
-class QLineEdit;
 class QPlainTextEdit;
-class QPushButton;
 
 namespace results {
 
@@ -35,8 +31,8 @@ class frmPp_ventana : public forms::Ventana {
 
   private:
     void ConstruyeTexto();
-    QHBoxLayout* ConstruyeBusqueda();
-    QHBoxLayout* ConstruyeBotones();
+    QWidget* LineaDeBusqueda();
+    QLayout* Botones();
     void ConectaTeclas();
     /// F3 goes on with the search while its line is on show; otherwise it is the main window's, whose
     /// shortcut a second one of this window's would only get in the way of. Returns whether it was that key.
@@ -55,10 +51,6 @@ class frmPp_ventana : public forms::Ventana {
     QPlainTextEdit* Text1;
     QWidget* lineaDeBusqueda;
     QLineEdit* txtBuscar;
-    QPushButton *cmdBuscaAnterior, *cmdBuscaSiguiente, *cmdCierraBusqueda;
-    QLabel* lblBusqueda;
-    QLabel* lblLargo;
-    QPushButton *cmdBuscar, *cmdGuardar, *CmdImprimir, *cmdCerrar;
 
     std::size_t mostrado = 0;      ///< bytes of the record's text on show
     std::size_t deUnaVez = 0;      ///< bytes that came together: the view stays at their beginning

@@ -1,25 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QCheckBox>
-#include <QComboBox>
 #include <QDir>
 #include <QFocusEvent>
-#include <QGridLayout>
-#include <QGroupBox>
-#include <QHBoxLayout>
 #include <QHeaderView>
-#include <QLabel>
-#include <QLineEdit>
 #include <QPainter>
-#include <QPushButton>
-#include <QRadioButton>
 #include <QStyleOption>
 #include <QTimer>
 #include <QTreeView>
-#include <QVBoxLayout>
 #include <utility>
 
-#include "forms/Lista_ventana.h"
-#include "forms/Textos_ventana.h"
 #include "model/RutaProyecto.h"
 #include "shell/frmConfigura_ventana.h"
 
@@ -27,7 +15,6 @@
 namespace shell {
 
 using forms::Q;
-using model::ControlesConfigura;
 
 namespace {
 
@@ -84,200 +71,155 @@ class RotuloRuta : public QLabel {
 
 // --- controls ---
 
-template <typename T>
-T* frmConfigura_ventana::Nombra(T* control, std::string_view nombre)
+QLineEdit* frmConfigura_ventana::CampoDe(std::string_view nombre, std::string& texto)
 {
-    control->setObjectName(Q(nombre));
-    control->setToolTip(Q(RotuloDe(RotulosConfigura, nombre).ayuda));
-    if constexpr (std::is_base_of_v<QAbstractButton, T>)
-        control->setText(Q(RotuloDe(RotulosConfigura, nombre).leyenda));
-    return control;
+    return Campo(nombre, texto, [this, nombre] { return AlSalir(entorno.s, nombre); });
 }
 
-QPushButton* frmConfigura_ventana::Boton(std::string_view nombre, QWidget& padre,
-                                         std::function<void()> rutina)
+forms::Partes frmConfigura_ventana::RenglonConAyuda(std::string_view nombre, std::string& texto)
 {
-    auto* const boton = Nombra(new QPushButton(&padre), nombre);
-    AlPulsar(*boton, std::move(rutina));
-    return boton;
+    QLineEdit* const campo = CampoDe(nombre, texto);
+    campo->setFixedWidth(fontMetrics().averageCharWidth() * LargoCampo);
+    return {Rotulo(nombre, campo), campo, new QLabel(Q(Fila(nombre).ayuda))};
 }
 
-QCheckBox* frmConfigura_ventana::Casilla(std::string_view nombre, QWidget& padre,
-                                         std::function<void(bool)> rutina)
+QGroupBox* frmConfigura_ventana::MarcoDeNumeros(std::string_view titulo,
+                                                const std::vector<forms::Partes>& filas)
 {
-    auto* const casilla = Nombra(new QCheckBox(&padre), nombre);
-    connect(casilla, &QCheckBox::clicked, this,
-            [this, rutina](bool tildada) { Suceso([&] { rutina(tildada); }); });
-    return casilla;
-}
-
-QLabel* frmConfigura_ventana::Rotulo(std::string_view nombre, QWidget& control)
-{
-    auto* const rotulo = new QLabel(Q(RotuloDe(RotulosConfigura, nombre).leyenda), control.parentWidget());
-    rotulo->setBuddy(&control);
-    return rotulo;
-}
-
-void frmConfigura_ventana::Renglon(QGridLayout& grilla, QLineEdit* campo, std::string_view nombre,
-                                   std::string ControlesConfigura::*texto, bool conAyuda)
-{
-    Nombra(campo, nombre);
-    textos.push_back({campo, texto});
-    forms::Refleja(*campo, c.*texto);
-    campos.Agrega(*campo, [this, nombre] { return AlSalir(entorno.s, nombre); });
-    const int fila = grilla.rowCount();
-    grilla.addWidget(Rotulo(nombre, *campo), fila, 0);
-    grilla.addWidget(campo, fila, 1);
-    if (!conAyuda) return;
-    grilla.addWidget(new QLabel(Q(RotuloDe(RotulosConfigura, nombre).ayuda), campo->parentWidget()), fila, 2);
-    grilla.setColumnStretch(2, 1);
-    campo->setFixedWidth(campo->fontMetrics().averageCharWidth() * LargoCampo);
+    QGridLayout* const rejilla = EnRejilla(filas, {0, 0, 1});
     // The fields of both frames stand in one column.
-    grilla.setColumnMinimumWidth(
-        0, campo->fontMetrics().horizontalAdvance(Q(RotuloDe(RotulosConfigura, "txtN0Dur").leyenda)));
+    rejilla->setColumnMinimumWidth(0, fontMetrics().horizontalAdvance(Q(Fila("txtN0Dur").leyenda)));
+    auto* const marco = new QGroupBox(Q(titulo));
+    marco->setLayout(rejilla);
+    return marco;
 }
 
-QLabel* frmConfigura_ventana::Dato(QGridLayout& grilla, QWidget& padre, std::string_view nombre)
+/// A path of the record; whole under the pointer where `comoAyuda` says so.
+QLabel* frmConfigura_ventana::Ruta(std::string_view nombre, const std::string& texto, bool comoAyuda)
 {
-    auto* const dato = new RotuloRuta(&padre);
-    dato->setObjectName(Q(nombre));
-    dato->setTextFormat(Qt::PlainText);
-    const int fila = grilla.rowCount();
-    grilla.addWidget(new QLabel(Q(RotuloDe(RotulosConfigura, nombre).leyenda), &padre), fila, 0);
-    grilla.addWidget(dato, fila, 1);
-    grilla.setColumnStretch(1, 1);
-    return dato;
+    auto* const ruta = new RotuloRuta;
+    ruta->setObjectName(Q(nombre));
+    ruta->setTextFormat(Qt::PlainText);
+    AlMostrar([ruta, &texto, comoAyuda] {
+        forms::Pon(*ruta, texto);
+        if (comoAyuda) ruta->setToolTip(ruta->text());
+    });
+    return ruta;
+}
+
+QCheckBox* frmConfigura_ventana::CasillaDe(std::string_view nombre, std::int16_t& valor)
+{
+    return Casilla(
+        nombre, [&valor] { return Tildada(valor); },
+        [&valor](bool tildada) { Casilla_Click(valor, tildada); });
 }
 
 // --- directory and files ---
 
-/// Three columns, each with its heading, its list, and what belongs to it below.
+/// Three columns, each with its heading, its list, and what belongs to it below; the Tab key goes down each.
 QWidget* frmConfigura_ventana::FichaDeArchivos()
 {
-    auto* const ficha = new QWidget;
-    auto* const pila = new QVBoxLayout(ficha);
     auto* const columnas = new QGridLayout;
-    pila->addLayout(columnas, 1);
-    ColumnaDeDirectorios(*ficha, *columnas);
-    ColumnaDeConfiguraciones(*ficha, *columnas);
-    ColumnaDeImagenes(*ficha, *columnas);
+    int columna = 0;
+    for (const std::array<forms::Parte, 3>& partes :
+         {ColumnaDeDirectorios(), ColumnaDeConfiguraciones(), ColumnaDeImagenes()}) {
+        int fila = 0;
+        for (const forms::Parte& parte : partes) {
+            if (parte.control != nullptr)
+                columnas->addWidget(parte.control, fila, columna);
+            else
+                columnas->addLayout(parte.disposicion, fila, columna, parte.lugar);
+            ++fila;
+        }
+        columnas->setColumnStretch(columna++, 1);
+    }
     columnas->setRowStretch(1, 1);
-    for (int columna = 0; columna < columnas->columnCount(); ++columna)
-        columnas->setColumnStretch(columna, 1);
-    auto* const uniforme =
-        Casilla("CheckDistriPp", *ficha, [this](bool tildada) { Casilla_Click(c.CheckDistriPp, tildada); });
-    tildes.push_back({uniforme, &c.CheckDistriPp});
-    pila->addWidget(uniforme);
+    auto* const ficha = new QWidget;
+    ficha->setLayout(EnPila({{columnas, 1}, CasillaDe("CheckDistriPp", c.CheckDistriPp)}));
     return ficha;
 }
 
-void frmConfigura_ventana::ColumnaDeDirectorios(QWidget& padre, QGridLayout& columnas)
+std::array<forms::Parte, 3> frmConfigura_ventana::ColumnaDeDirectorios()
 {
-    Drive1 = Nombra(new QComboBox(&padre), "Drive1");
-    QLabel* const unidad = Rotulo("Drive1", *Drive1);
+    Drive1 = Nombra(new QComboBox, "Drive1");
+    QLabel* const unidad = Rotulo("Drive1", Drive1);
     if constexpr (model::HayUnidades) {
         for (const QFileInfo& raiz : QDir::drives())
             Drive1->addItem(raiz.path().left(2));
     }
-    unidad->setVisible(model::HayUnidades);
-    Drive1->setVisible(model::HayUnidades);
+    for (QWidget* const control : {static_cast<QWidget*>(unidad), static_cast<QWidget*>(Drive1)})
+        control->setHidden(!model::HayUnidades);
     connect(Drive1, &QComboBox::textActivated, this, [this](const QString& elegida) {
         Suceso([&] { Drive1_Change(f, entorno.s, forms::DeQ(elegida)); });
     });
 
-    Dir1 = Nombra(new QTreeView(&padre), "Dir1");
+    Dir1 = Nombra(new QTreeView, "Dir1");
     Dir1->header()->hide();
     Dir1->setTabKeyNavigation(false);
-    lblDir1 = new RotuloRuta(&padre);
-    lblDir1->setObjectName(QStringLiteral("lblDir1"));
-    auto* const cabeza = new QHBoxLayout;
-    cabeza->addWidget(Rotulo("Dir1", *Dir1), 1);
-    cabeza->addWidget(unidad);
-    cabeza->addWidget(Drive1);
-    columnas.addLayout(cabeza, 0, 0);
-    columnas.addWidget(Dir1, 1, 0);
-
-    CheckDirNv =
-        Casilla("CheckDirNv", padre, [this](bool tildada) { CheckDirNv_Click(f, entorno.s, tildada); });
-    TextDirNv = Nombra(new QLineEdit(&padre), "TextDirNv");
-    TextDirNv->setAccessibleName(Q(RotuloDe(RotulosConfigura, "TextDirNv").leyenda));
-    textos.push_back({TextDirNv, &ControlesConfigura::TextDirNv});
-    forms::Refleja(*TextDirNv, c.TextDirNv);
-    auto* const nuevo = new QHBoxLayout;
-    nuevo->addWidget(TextDirNv, 1);
-    nuevo->addWidget(Boton("BtnDirNv", padre, [this] { BtnDirNv(f, entorno.s); }));
-    auto* const debajo = new QVBoxLayout;
-    debajo->addWidget(lblDir1);
-    debajo->addWidget(CheckDirNv);
-    debajo->addLayout(nuevo);
-    debajo->addWidget(Boton("BtnDefecto", padre, [this] { BtnDefecto(f, entorno.s); }));
-    columnas.addLayout(debajo, 2, 0);
+    QLayout* const nuevo =
+        EnFila({{HabilitadoSi(Campo("TextDirNv", c.TextDirNv), [this] { return f.CheckDirNv; }), 1},
+                Boton("BtnDirNv", [this] { BtnDirNv(f, entorno.s); })});
+    QCheckBox* const creaNuevo = Casilla(
+        "CheckDirNv", [this] { return f.CheckDirNv; },
+        [this](bool tildada) { CheckDirNv_Click(f, entorno.s, tildada); });
+    return {EnFila({{Rotulo("Dir1", Dir1), 1}, unidad, Drive1}), Dir1,
+            EnPila({Ruta("lblDir1", c.Dir1, true), creaNuevo, nuevo,
+                    Boton("BtnDefecto", [this] { BtnDefecto(f, entorno.s); })})};
 }
 
-void frmConfigura_ventana::ColumnaDeConfiguraciones(QWidget& padre, QGridLayout& columnas)
+std::array<forms::Parte, 3> frmConfigura_ventana::ColumnaDeConfiguraciones()
 {
-    filArchivoConfigura = Nombra(new forms::ListaParaElegir(&padre), "filArchivoConfigura");
-    filArchivoConfigura->AlElegir = [this](int i) {
-        Suceso([this, i] {
-            f.filArchivoConfigura.indice = i;
-            filArchivoConfigura_Click(f, entorno.s);
-        });
-    };
-    columnas.addWidget(Rotulo("filArchivoConfigura", *filArchivoConfigura), 0, 1);
-    columnas.addWidget(filArchivoConfigura, 1, 1);
-    auto* const datos = new QGridLayout;
-    columnas.addLayout(datos, 2, 1, Qt::AlignTop);
-    lblnombreproyecto = Dato(*datos, padre, "lblnombreproyecto");
-    lblMiArchivoConf = Dato(*datos, padre, "lblMiArchivoConf");
+    QWidget* const archivos = Listado("filArchivoConfigura", f.filArchivoConfigura, forms::Flechas::Mueven,
+                                      [this] { filArchivoConfigura_Click(f, entorno.s); });
+    QLayout* const datos =
+        EnRejilla({{Rotulo("lblnombreproyecto"), Ruta("lblnombreproyecto", f.lblnombreproyecto)},
+                   {Rotulo("lblMiArchivoConf"), Ruta("lblMiArchivoConf", c.lblMiArchivoConf)}},
+                  {0, 1});
+    return {Rotulo("filArchivoConfigura", archivos), archivos, {datos, 0, Qt::AlignTop}};
 }
 
-void frmConfigura_ventana::ColumnaDeImagenes(QWidget& padre, QGridLayout& columnas)
+std::array<forms::Parte, 3> frmConfigura_ventana::ColumnaDeImagenes()
 {
-    chkImagenDibujo = Casilla("chkImagenDibujo", padre,
-                              [this](bool tildada) { chkImagenDibujo_Click(entorno.s, tildada); });
-    tildes.push_back({chkImagenDibujo, &c.chkImagenDibujo});
-    filArchivoImagenDib = Nombra(new forms::ListaParaElegir(&padre), "filArchivoImagenDib");
-    filArchivoImagenDib->setAccessibleName(Q(RotuloDe(RotulosConfigura, "filArchivoImagenDib").leyenda));
-    filArchivoImagenDib->AlElegir = [this](int i) {
-        Suceso([this, i] {
-            f.filArchivoImagenDib.indice = i;
-            filArchivoImagenDib_Click(f, entorno.s);
-        });
-    };
-    columnas.addWidget(chkImagenDibujo, 0, 2);
-    columnas.addWidget(filArchivoImagenDib, 1, 2);
-    auto* const datos = new QGridLayout;
-    columnas.addLayout(datos, 2, 2, Qt::AlignTop);
-    lblImagenDibujo = Dato(*datos, padre, "lblImagenDibujo");
-    lblAvisoImagen = new QLabel(&padre);
-    lblAvisoImagen->setObjectName(QStringLiteral("lblAvisoImagen"));
-    lblAvisoImagen->setTextFormat(Qt::PlainText);
-    lblAvisoImagen->setWordWrap(true);
-    cmdTraeImagen = Boton("cmdTraeImagen", padre, [this] { shell::cmdTraeImagen(f, entorno.s); });
-    datos->addWidget(lblAvisoImagen, datos->rowCount(), 0, 1, -1);
-    datos->addWidget(cmdTraeImagen, datos->rowCount(), 0, 1, -1);
+    QCheckBox* const conImagen = Casilla(
+        "chkImagenDibujo", [this] { return Tildada(c.chkImagenDibujo); },
+        [this](bool tildada) { chkImagenDibujo_Click(entorno.s, tildada); });
+    QWidget* const archivos = Listado("filArchivoImagenDib", f.filArchivoImagenDib, forms::Flechas::Mueven,
+                                      [this] { filArchivoImagenDib_Click(f, entorno.s); });
+    HabilitadoSi(archivos, [this] { return HayImagen(entorno.s); });
+    auto* const aviso = Nombra(new QLabel, "lblAvisoImagen");
+    aviso->setTextFormat(Qt::PlainText);
+    aviso->setWordWrap(true);
+    AlMostrar([this, aviso] { forms::Pon(*aviso, AvisoImagen(f, entorno.s)); });
+    QPushButton* const trae = Boton("cmdTraeImagen", [this] { shell::cmdTraeImagen(f, entorno.s); });
+    for (QWidget* const control : {static_cast<QWidget*>(aviso), static_cast<QWidget*>(trae)})
+        VisibleSi(control, [aviso] { return !aviso->text().isEmpty(); });
+    QLayout* const datos = EnRejilla(
+        {{Rotulo("lblImagenDibujo"), Ruta("lblImagenDibujo", c.lblImagenDibujo, true)}, {aviso}, {trae}},
+        {0, 1});
+    return {conImagen, archivos, {datos, 0, Qt::AlignTop}};
 }
 
 // --- titles ---
 
 QWidget* frmConfigura_ventana::FichaDeTitulos()
 {
+    CampoTitulo* campo = nullptr;
+    const auto renglon = [&](std::string_view nombre, std::string& texto) {
+        campo = Nombra(new CampoTitulo, nombre);
+        forms::Refleja(*campo, texto);
+        AlMostrar([campo, &texto] { forms::Pon(*campo, texto); });
+        campos.Agrega(*campo, [this, nombre] { return AlSalir(entorno.s, nombre); });
+        return Renglon(nombre, campo);
+    };
     auto* const ficha = new QWidget;
-    auto* const grilla = new QGridLayout(ficha);
-    const auto renglon = [&](std::string_view nombre, std::string ControlesConfigura::*texto) {
-        auto* const campo = new CampoTitulo(ficha);
-        Renglon(*grilla, campo, nombre, texto);
-        return campo;
-    };
-    renglon("TextProyecto", &ControlesConfigura::TextProyecto);
-    renglon("TextUbica", &ControlesConfigura::TextUbica);
-    renglon("TextCuenca", &ControlesConfigura::TextCuenca);
-    renglon("TextSbca", &ControlesConfigura::TextSbca);
-    renglon("TextOpera", &ControlesConfigura::TextOpera);
-    renglon("txtFecha", &ControlesConfigura::txtFecha)->AlDobleClic = [this] {
-        Suceso([this] { txtFecha_DblClick(entorno.s); });
-    };
-    grilla->setRowStretch(grilla->rowCount(), 1);
+    ficha->setLayout(EnRejilla({renglon("TextProyecto", c.TextProyecto),
+                                renglon("TextUbica", c.TextUbica),
+                                renglon("TextCuenca", c.TextCuenca),
+                                renglon("TextSbca", c.TextSbca),
+                                renglon("TextOpera", c.TextOpera),
+                                renglon("txtFecha", c.txtFecha),
+                                {}}));
+    campo->AlDobleClic = [this] { Suceso([this] { txtFecha_DblClick(entorno.s); }); };
     return ficha;
 }
 
@@ -286,103 +228,70 @@ QWidget* frmConfigura_ventana::FichaDeTitulos()
 template <std::size_t N>
 QWidget* frmConfigura_ventana::MarcoDeSeleccion(std::string_view titulo, char letra,
                                                 const std::array<std::int16_t, N>& valores,
-                                                std::array<std::int16_t, N>& casillas)
+                                                std::array<std::int16_t, N>& casillas, QPushButton* boton)
 {
     constexpr int Columnas = 3;
     constexpr int Filas = (static_cast<int>(N) + Columnas - 1) / Columnas;
-    auto* const marco = new QGroupBox(Q(titulo));
-    auto* const pila = new QVBoxLayout(marco);
-    auto* const grilla = new QGridLayout;
-    pila->addLayout(grilla);
+    auto* const rejilla = new QGridLayout;
     for (std::size_t i = 0; i < N; ++i) {
-        auto* const casilla =
-            new QCheckBox(QStringLiteral("%1 %2").arg(QLatin1Char(letra)).arg(valores[i]), marco);
+        QCheckBox* const casilla = CasillaDe({}, casillas[i]);
+        casilla->setText(QStringLiteral("%1 %2").arg(QLatin1Char(letra)).arg(valores[i]));
         casilla->setObjectName(QStringLiteral("Check%1%2").arg(QLatin1Char(letra)).arg(valores[i]));
-        std::int16_t* const valor = &casillas[i];
-        tildes.push_back({casilla, valor});
-        connect(casilla, &QCheckBox::clicked, this,
-                [this, valor](bool tildada) { Suceso([&] { Casilla_Click(*valor, tildada); }); });
-        grilla->addWidget(casilla, static_cast<int>(i) % Filas, static_cast<int>(i) / Filas);
+        rejilla->addWidget(casilla, static_cast<int>(i) % Filas, static_cast<int>(i) / Filas);
     }
+    auto* const marco = new QGroupBox(Q(titulo));
+    marco->setLayout(EnPila({rejilla, {boton, 0, Qt::AlignLeft}, Hueco()}));
     return marco;
 }
 
 QWidget* frmConfigura_ventana::FichaDeSelecciones()
 {
     auto* const ficha = new QWidget;
-    auto* const fila = new QHBoxLayout(ficha);
-    const auto agrega = [&](QWidget* marco, std::string_view boton, std::function<void()> rutina) {
-        auto* const pila = static_cast<QVBoxLayout*>(marco->layout());
-        pila->addWidget(Boton(boton, *marco, std::move(rutina)), 0, Qt::AlignLeft);
-        pila->addStretch(1);
-        fila->addWidget(marco);
-    };
-    agrega(MarcoDeSeleccion(TituloRecurrencias, 'R', model::Recurrencias, c.CheckR), "BtnRecuDef",
-           [this] { BtnRecuDef(c); });
-    agrega(MarcoDeSeleccion(TituloDuraciones, 'D', model::Duraciones, c.CheckD), "BtnDurDef",
-           [this] { BtnDurDef(c); });
+    ficha->setLayout(EnFila({MarcoDeSeleccion(TituloRecurrencias, 'R', model::Recurrencias, c.CheckR,
+                                              Boton("BtnRecuDef", [this] { BtnRecuDef(c); })),
+                             MarcoDeSeleccion(TituloDuraciones, 'D', model::Duraciones, c.CheckD,
+                                              Boton("BtnDurDef", [this] { BtnDurDef(c); }))}));
     return ficha;
 }
 
 // --- image, units, drawing ---
 
-QWidget* frmConfigura_ventana::MarcoDeImagen(QWidget& padre)
+QWidget* frmConfigura_ventana::MarcoDeOpciones(std::string_view pregunta)
 {
-    auto* const marco = new QGroupBox(Q(TituloImagen), &padre);
-    auto* const grilla = new QGridLayout(marco);
-    const auto renglon = [&](std::string_view nombre, std::string ControlesConfigura::*texto) {
-        Renglon(*grilla, new QLineEdit(marco), nombre, texto, true);
-    };
-    renglon("TexIMGEscala", &ControlesConfigura::TexIMGEscala);
-    renglon("TexIMGX0", &ControlesConfigura::TexIMGX0);
-    renglon("TexIMGY0", &ControlesConfigura::TexIMGY0);
-    renglon("txtEscalaImagen", &ControlesConfigura::txtEscalaImagen);
-    return marco;
-}
-
-QWidget* frmConfigura_ventana::MarcoDeDibujo(QWidget& padre)
-{
-    auto* const marco = new QGroupBox(Q(TituloDibujo), &padre);
-    auto* const grilla = new QGridLayout(marco);
-    auto* const ancho = new QLineEdit(marco);
-    Renglon(*grilla, ancho, "txtMaxUEHsPixel", &ControlesConfigura::txtMaxUEHsPixel, true);
-    connect(ancho, &QLineEdit::textEdited, this, [this] {
-        entorno.Atiende([this] { AlSalir(entorno.s, "txtMaxUEHsPixel"); });
-        Muestra();
-    });
-    Renglon(*grilla, new QLineEdit(marco), "txtN0Dur", &ControlesConfigura::txtN0Dur, true);
-    return marco;
-}
-
-QWidget* frmConfigura_ventana::MarcoDeOpciones(std::string_view pregunta, QWidget& padre)
-{
-    auto* const marco = new QGroupBox(Q(pregunta), &padre);
-    auto* const pila = new QVBoxLayout(marco);
+    forms::Partes partes;
     for (std::size_t i = 0; i < OpcionesConfigura.size(); ++i) {
-        if (OpcionesConfigura[i].pregunta != pregunta) continue;
-        opciones[i] = new QRadioButton(Q(OpcionesConfigura[i].leyenda), marco);
-        opciones[i]->setObjectName(Q(OpcionesConfigura[i].control));
-        AlPulsar(*opciones[i], [this, i] { Opcion_Click(entorno.s, i); });
-        pila->addWidget(opciones[i]);
+        const OpcionConfigura& fila = OpcionesConfigura[i];
+        if (fila.pregunta != pregunta) continue;
+        QRadioButton* const opcion =
+            Opcion(fila.control, c.*fila.marcada, [this, i] { Opcion_Click(entorno.s, i); });
+        opcion->setText(Q(fila.leyenda));
+        partes.emplace_back(opcion);
     }
-    pila->addStretch(1);
+    partes.push_back(Hueco());
+    auto* const marco = new QGroupBox(Q(pregunta));
+    marco->setLayout(EnPila(partes));
     return marco;
 }
 
 QWidget* frmConfigura_ventana::FichaDeImagen()
 {
+    QWidget* const imagen = MarcoDeNumeros(
+        TituloImagen,
+        {RenglonConAyuda("TexIMGEscala", c.TexIMGEscala), RenglonConAyuda("TexIMGX0", c.TexIMGX0),
+         RenglonConAyuda("TexIMGY0", c.TexIMGY0), RenglonConAyuda("txtEscalaImagen", c.txtEscalaImagen)});
+    QWidget* const dibujo = MarcoDeNumeros(
+        TituloDibujo,
+        {RenglonConAyuda("txtMaxUEHsPixel", c.txtMaxUEHsPixel), RenglonConAyuda("txtN0Dur", c.txtN0Dur)});
+    connect(dibujo->findChild<QLineEdit*>(QStringLiteral("txtMaxUEHsPixel")), &QLineEdit::textEdited, this,
+            [this] {
+                entorno.Atiende([this] { AlSalir(entorno.s, "txtMaxUEHsPixel"); });
+                Muestra();
+            });
     auto* const ficha = new QWidget;
-    auto* const pila = new QVBoxLayout(ficha);
-    pila->addWidget(MarcoDeImagen(*ficha));
-    pila->addWidget(MarcoDeDibujo(*ficha));
-    auto* const marcos = new QHBoxLayout;
-    for (const std::string_view pregunta : {"Tiempo", "Volúmenes", "Opciones"})
-        marcos->addWidget(MarcoDeOpciones(pregunta, *ficha));
-    pila->addLayout(marcos);
-    auto* const libre = new QGridLayout;
-    pila->addLayout(libre);
-    Renglon(*libre, new QLineEdit(ficha), "TexS", &ControlesConfigura::TexS);
-    pila->addStretch(1);
+    ficha->setLayout(EnPila(
+        {imagen, dibujo,
+         EnFila({MarcoDeOpciones("Tiempo"), MarcoDeOpciones("Volúmenes"), MarcoDeOpciones("Opciones")}),
+         EnRejilla({Renglon("TexS", CampoDe("TexS", c.TexS))}), Hueco()}));
     return ficha;
 }
 
@@ -390,16 +299,10 @@ QWidget* frmConfigura_ventana::FichaDeImagen()
 
 QLayout* frmConfigura_ventana::Botones()
 {
-    auto* const fila = new QHBoxLayout;
-    fila->addStretch(1);
-    QPushButton* const acepta = Boton("OKButton", *this, [this] { OKButton(f, entorno.s); });
+    QPushButton* const acepta = Boton("OKButton", [this] { OKButton(f, entorno.s); });
     acepta->setDefault(true);
-    fila->addWidget(acepta);
-    fila->addWidget(Boton("cmdAplicar", *this, [this] { cmdAplicar(f, entorno.s); }));
-    auto* const cancela = Nombra(new QPushButton(this), "CancelButton");
-    connect(cancela, &QPushButton::clicked, this, [this] { SucesoSinRevisar([this] { AlCerrar(); }); });
-    fila->addWidget(cancela);
-    return fila;
+    return EnFila({Hueco(), acepta, Boton("cmdAplicar", [this] { cmdAplicar(f, entorno.s); }),
+                   BotonSinRevisar("CancelButton", [this] { AlCerrar(); })});
 }
 
 }  // namespace shell

@@ -2,43 +2,37 @@
 #include "shell/frmConfigura_ventana.h"
 
 #include <QApplication>
-#include <QCheckBox>
-#include <QComboBox>
 #include <QDir>
 #include <QFileSystemModel>
-#include <QLabel>
-#include <QLineEdit>
-#include <QRadioButton>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTimer>
 #include <QTreeView>
-#include <QVBoxLayout>
 
-#include "forms/Lista_ventana.h"
-#include "forms/Textos_ventana.h"
 #include "model/RutaProyecto.h"
 
 namespace shell {
 
 using forms::DeQ;
-using forms::Pon;
 using forms::Q;
 
 frmConfigura_ventana::frmConfigura_ventana(forms::Entorno& alrededor, frmConfigura& registro, QWidget* padre)
-    : Formulario(alrededor, {"frmConfigura"}, padre), f(registro), c(alrededor.s.frmConfigura)
+    : Formulario(alrededor, {"frmConfigura", TituloConfigura, RotulosConfigura}, padre),
+      f(registro),
+      c(alrededor.s.frmConfigura)
 {
-    setWindowTitle(Q(TituloConfigura));
+    Sigue(f.abierta);
     if (f.DirPersonal.empty()) f.DirPersonal = DeQ(QDir::toNativeSeparators(QDir::homePath()));
 
-    auto* const pila = new QVBoxLayout(this);
-    SSTab1 = new QTabWidget(this);
+    SSTab1 = new QTabWidget;
     SSTab1->setObjectName(QStringLiteral("SSTab1"));
     QWidget* const fichas[] = {FichaDeArchivos(), FichaDeTitulos(), FichaDeSelecciones(), FichaDeImagen()};
     for (std::size_t i = 0; i < FichasConfigura.size(); ++i)
         SSTab1->addTab(fichas[i], Q(FichasConfigura[i]));
-    pila->addWidget(SSTab1, 1);
-    pila->addLayout(Botones());
+    QLayout* const pila = EnPila({{SSTab1, 1}, Botones()});
+    setLayout(pila);
+    for (QPushButton* const boton : findChildren<QPushButton*>())
+        boton->setAutoDefault(true);  // Enter presses the one that has the focus
 
     // Wide enough for the captions of all tabs.
     const int margen = pila->contentsMargins().left() + pila->contentsMargins().right();
@@ -123,8 +117,6 @@ void frmConfigura_ventana::EligeDirectorio(const QString& ruta)
 
 void frmConfigura_ventana::MuestraDirectorio()
 {
-    Pon(*lblDir1, c.Dir1);
-    lblDir1->setToolTip(lblDir1->text());
     Drive1->setCurrentIndex(Drive1->findText(Q(model::UnidadDe(c.Drive1)), Qt::MatchFixedString));
     if (directorios == nullptr) return;
     const QModelIndex elegido = directorios->index(Q(c.Dir1));
@@ -146,25 +138,7 @@ void frmConfigura_ventana::Muestra()
 {
     MuestraFichas();
     MuestraDirectorio();
-    for (const Texto& t : textos)
-        Pon(*t.campo, c.*t.texto);
-    for (const Tilde& t : tildes)
-        Pon(*t.casilla, Tildada(*t.valor));
-    for (std::size_t i = 0; i < opciones.size(); ++i)
-        forms::PonOpcion(*opciones[i], c.*OpcionesConfigura[i].marcada);
-    Pon(*CheckDirNv, f.CheckDirNv);
-    TextDirNv->setEnabled(f.CheckDirNv);
-    Pon(*filArchivoConfigura, f.filArchivoConfigura.items, f.filArchivoConfigura.indice);
-    Pon(*filArchivoImagenDib, f.filArchivoImagenDib.items, f.filArchivoImagenDib.indice);
-    filArchivoImagenDib->setEnabled(HayImagen(entorno.s));
-    Pon(*lblMiArchivoConf, c.lblMiArchivoConf);
-    Pon(*lblnombreproyecto, f.lblnombreproyecto);
-    Pon(*lblImagenDibujo, c.lblImagenDibujo);
-    lblImagenDibujo->setToolTip(lblImagenDibujo->text());
-    Pon(*lblAvisoImagen, AvisoImagen(f, entorno.s));
-    lblAvisoImagen->setVisible(!lblAvisoImagen->text().isEmpty());
-    cmdTraeImagen->setVisible(!lblAvisoImagen->text().isEmpty());
-    if (!f.abierta && isVisible()) done(QDialog::Accepted);
+    Formulario::Muestra();
 }
 
 }  // namespace shell

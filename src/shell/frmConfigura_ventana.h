@@ -3,7 +3,6 @@
 
 #include <array>
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,21 +10,9 @@
 #include "forms/Formulario_ventana.h"
 #include "shell/frmConfigura.h"
 
-class QCheckBox;
-class QComboBox;
 class QFileSystemModel;
-class QGridLayout;
-class QLabel;
-class QLayout;
-class QLineEdit;
-class QPushButton;
-class QRadioButton;
 class QTabWidget;
 class QTreeView;
-
-namespace forms {
-class ListaParaElegir;
-}
 
 namespace shell {
 
@@ -50,29 +37,21 @@ class frmConfigura_ventana : public forms::Formulario {
     QWidget* FichaDeTitulos();
     QWidget* FichaDeSelecciones();
     QWidget* FichaDeImagen();
-    void ColumnaDeDirectorios(QWidget& padre, QGridLayout& columnas);
-    void ColumnaDeConfiguraciones(QWidget& padre, QGridLayout& columnas);
-    void ColumnaDeImagenes(QWidget& padre, QGridLayout& columnas);
-    QWidget* MarcoDeImagen(QWidget& padre);
-    QWidget* MarcoDeDibujo(QWidget& padre);
-    QWidget* MarcoDeOpciones(std::string_view pregunta, QWidget& padre);
+    std::array<forms::Parte, 3> ColumnaDeDirectorios();
+    std::array<forms::Parte, 3> ColumnaDeConfiguraciones();
+    std::array<forms::Parte, 3> ColumnaDeImagenes();
+    QWidget* MarcoDeOpciones(std::string_view pregunta);
     template <std::size_t N>
     QWidget* MarcoDeSeleccion(std::string_view titulo, char letra, const std::array<std::int16_t, N>& valores,
-                              std::array<std::int16_t, N>& casillas);
+                              std::array<std::int16_t, N>& casillas, QPushButton* boton);
     QLayout* Botones();
 
-    /// A control takes its name, its caption and its hint from its row.
-    template <typename T>
-    T* Nombra(T* control, std::string_view nombre);
-    QPushButton* Boton(std::string_view nombre, QWidget& padre, std::function<void()> rutina);
-    QCheckBox* Casilla(std::string_view nombre, QWidget& padre, std::function<void(bool)> rutina);
-    /// A label that reads before its control.
-    QLabel* Rotulo(std::string_view nombre, QWidget& control);
-    /// A row of a text field: its label, the field, and its hint where `conAyuda` says so.
-    void Renglon(QGridLayout& grilla, QLineEdit* campo, std::string_view nombre,
-                 std::string model::ControlesConfigura::*texto, bool conAyuda = false);
-    /// A text that the record gives, with its label.
-    QLabel* Dato(QGridLayout& grilla, QWidget& padre, std::string_view nombre);
+    QLineEdit* CampoDe(std::string_view nombre, std::string& texto);
+    QCheckBox* CasillaDe(std::string_view nombre, std::int16_t& valor);
+    QLabel* Ruta(std::string_view nombre, const std::string& texto, bool comoAyuda = false);
+    /// A number field between its caption and its hint; the frame of several.
+    forms::Partes RenglonConAyuda(std::string_view nombre, std::string& texto);
+    QGroupBox* MarcoDeNumeros(std::string_view titulo, const std::vector<forms::Partes>& filas);
 
     void EmpiezaAbertura();
     void PonDirectorios();
@@ -86,24 +65,6 @@ class frmConfigura_ventana : public forms::Formulario {
     QComboBox* Drive1 = nullptr;
     QTreeView* Dir1 = nullptr;
     QFileSystemModel* directorios = nullptr;  ///< made at the first opening
-    forms::ListaParaElegir *filArchivoConfigura = nullptr, *filArchivoImagenDib = nullptr;
-    QLabel *lblDir1 = nullptr, *lblMiArchivoConf = nullptr, *lblnombreproyecto = nullptr,
-           *lblImagenDibujo = nullptr, *lblAvisoImagen = nullptr;
-    QPushButton* cmdTraeImagen = nullptr;
-    QCheckBox *CheckDirNv = nullptr, *chkImagenDibujo = nullptr;
-    QLineEdit* TextDirNv = nullptr;
-    std::array<QRadioButton*, OpcionesConfigura.size()> opciones{};
-
-    struct Texto {
-        QLineEdit* campo;
-        std::string model::ControlesConfigura::*texto;
-    };
-    struct Tilde {
-        QCheckBox* casilla;
-        const std::int16_t* valor;
-    };
-    std::vector<Texto> textos{};
-    std::vector<Tilde> tildes{};
 };
 
 }  // namespace shell

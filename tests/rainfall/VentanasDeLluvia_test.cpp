@@ -65,7 +65,7 @@ class VentanaDeLluvia : public testing::Test {
     void Muestra()
     {
         v.Muestra();
-        Acomoda(v, Tabla());
+        v.Acomoda();
         apoyo::Muestra(v);
         EXPECT_EQ(apoyo::SinNombre(v), Textos{});
         CabeEntera(v);

@@ -46,8 +46,8 @@ TEST_F(TablaCompleta, LosEncabezadosALaLetra)
               "Serie de Tormentas Sintéticas: Resumen de Qpico, Escorrentía y Coef. Esc.");
     EXPECT_EQ(EncabezadosQDR(), (std::array<std::string_view, 8>{"Componente ", "Nro.", "P[mm]", "D[min]",
                                                                  "R[años]", "Qp[m3/s]", "E[m3]", "C[%]"}));
-    EXPECT_EQ(LeyendaActualizar, "&Actualizar cambios");
-    EXPECT_EQ(LeyendaImprimirTabla, "Imprimir");
+    EXPECT_EQ(forms::RotuloDe(RotulosTablaQDR, "cmdAplicarCambios").leyenda, "&Actualizar cambios");
+    EXPECT_EQ(forms::RotuloDe(RotulosTablaQDR, "cmdImprimir").leyenda, "Imprimir");
 }
 
 TEST_F(TablaCompleta, CincoRenglonesDeTituloCruzanTodasLasColumnas)

@@ -30,8 +30,8 @@ struct Pizarra : testing::Test {
 TEST_F(Pizarra, LlevaLasLeyendasDadas)
 {
     EXPECT_EQ(TituloFrmPp, "Pizarra de Variables y Salidas");
-    EXPECT_EQ(LeyendaImprimirPizarra, "&Imprimir");
-    EXPECT_EQ(LeyendaCerrarPizarra, "&Cerrar");
+    EXPECT_EQ(forms::RotuloDe(RotulosFrmPp, "CmdImprimir").leyenda, "&Imprimir");
+    EXPECT_EQ(forms::RotuloDe(RotulosFrmPp, "cmdCerrar").leyenda, "&Cerrar");
 }
 
 TEST_F(Pizarra, AbrirlaPoneLaSalidaYLaMarcaYCerrarlaLasQuita)

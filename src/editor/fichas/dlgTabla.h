@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -10,6 +11,7 @@
 
 #include "forms/CampoNumerico.h"
 #include "forms/Grilla.h"
+#include "forms/Rotulo.h"
 #include "model/Clases.h"
 #include "model/Siro.h"
 #include "model/TablasEmbalse.h"
@@ -55,8 +57,18 @@ struct DescripcionTabla {
 
 const DescripcionTabla& DescripcionDe(TipoTabla tipo);
 
-inline constexpr std::string_view LeyendaAplicarTabla = "&Aplicar";
-inline constexpr std::string_view LeyendaBorrarTabla = "Borrar Tabla";
+/// Captions; the labels bear the names of those of the form behind.
+inline constexpr auto RotulosDlgTabla = std::to_array<forms::FilaRotulo>({
+    {"lblNroRepresa", "Nro. Represa:"},
+    {"lblNombreRepresa", "Nombre Represa:"},
+    {"lblNroLago", "Nro. Laguna:"},
+    {"lblNombreLago", "Nombre Laguna:"},
+    {"txtNroFilas", "Número de &filas:"},
+    {"cmdBorraTablaHQ", "Borrar Tabla"},
+    {"cmdAplicar", "&Aplicar"},
+    {"OKButton", "Aceptar"},
+    {"CancelButton", "Cancelar"},
+});
 
 struct dlgTabla {
     const DescripcionTabla* descripcion = nullptr;

@@ -1,54 +1,39 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/fichas/dlgTabla_ventana.h"
 
-#include <QGridLayout>
-#include <QHBoxLayout>
 #include <QHeaderView>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QScrollBar>
-#include <QVBoxLayout>
 #include <utility>
 
-#include "editor/fichas/Ficha.h"
 #include "editor/fichas/GraficosDeFichas.h"
 #include "forms/Grilla_ventana.h"
 #include "forms/Lamina_ventana.h"
-#include "forms/Textos_ventana.h"
 
 namespace editor {
 
-using forms::DeQ;
-using forms::Pon;
-using forms::Q;
-
 dlgTabla_ventana::dlgTabla_ventana(forms::Entorno& alrededor, dlgTabla& registro, TipoTabla tipoTabla,
                                    QWidget* padre)
-    : Formulario(alrededor, {DescripcionDe(tipoTabla).nombre}, padre),
+    : Formulario(alrededor,
+                 {DescripcionDe(tipoTabla).nombre, DescripcionDe(tipoTabla).titulo, RotulosDlgTabla}, padre),
       f(registro),
       tipo(tipoTabla),
       d(DescripcionDe(tipoTabla))
 {
-    setWindowTitle(Q(d.titulo));
-    auto* const pila = new QVBoxLayout(this);
-    pila->addLayout(Encabezado());
-    auto* const cuerpo = new QHBoxLayout;
-    pila->addLayout(cuerpo, 1);
-
     f = {.descripcion = &d, .grilla = forms::NuevaGrilla(d.grilla)};
-    tabla = new forms::TablaGrilla(entorno, f.grilla, d.nombreGrilla, d.titulo);
+    Sigue(f.abierta, &f.foco);
+    QLayout* const encabezado = Encabezado();
+    tabla = Tabla(f.grilla, d.nombreGrilla);
+    tabla->setAccessibleName(forms::Q(d.titulo));
     tabla->AlCambiar = [this](const forms::Efecto&) { PonCurvas(); };
-    cuerpo->addWidget(tabla);
-    auto* const laminas = new QVBoxLayout;
-    cuerpo->addLayout(laminas, 1);
+    AlMostrar([this] { PonCurvas(); });
+    forms::Partes laminas;
     for (const CurvaTabla& curva : Curvas(f)) {
         const std::string nombre = "Curva_" + std::to_string(curvas.size());
         const std::string titulo = std::string(curva.ejeY) + " - " + std::string(curva.ejeX);
         curvas.push_back(new forms::Lamina(entorno, nombre, titulo, forms::Lamina::Modo::Compacta));
-        laminas->addWidget(curvas.back(), 1);
+        laminas.emplace_back(curvas.back(), 1);
     }
-    pila->addLayout(Botones());
+    setLayout(EnPila({encabezado, {EnFila({tabla, {EnPila(laminas), 1}}), 1}, Botones()}));
     resize(TamanoInicial());
 }
 
@@ -64,72 +49,33 @@ QSize dlgTabla_ventana::TamanoInicial() const
     return {ancho + AnchoCurva * fontMetrics().averageCharWidth(), alto};
 }
 
-QLabel* dlgTabla_ventana::Dato(QGridLayout& grilla, std::string_view nombre, const char* leyenda)
-{
-    auto* const valor = new QLabel;
-    valor->setObjectName(Q(nombre));
-    valor->setTextFormat(Qt::PlainText);
-    QFont letra = valor->font();
-    letra.setBold(true);
-    valor->setFont(letra);
-    const int columna = grilla.columnCount();
-    grilla.addWidget(new QLabel(QString::fromUtf8(leyenda)), 0, columna);
-    grilla.addWidget(valor, 0, columna + 1);
-    return valor;
-}
-
 QLayout* dlgTabla_ventana::Encabezado()
 {
-    auto* const grilla = new QGridLayout;
-    const bool deLago = tipo == TipoTabla::SHVQ;
-    lblNro = Dato(*grilla, d.nombreLblNro, deLago ? "Nro. Laguna:" : "Nro. Represa:");
-    lblNombre = Dato(*grilla, d.nombreLblNombre, deLago ? "Nombre Laguna:" : "Nombre Represa:");
-    txtNroFilas = new QLineEdit;
-    txtNroFilas->setObjectName(QStringLiteral("txtNroFilas"));
+    txtNroFilas = Nombra(new QLineEdit, "txtNroFilas");
     txtNroFilas->setMaximumWidth(fontMetrics().averageCharWidth() * 10);
+    AlMostrar([this] { forms::Pon(*txtNroFilas, f.txtNroFilas); });
     connect(txtNroFilas, &QLineEdit::textEdited, this, [this](const QString& texto) {
-        SucesoSinRevisar([&] { txtNroFilas_Change(f, entorno.s, DeQ(texto)); });
+        SucesoSinRevisar([&] { txtNroFilas_Change(f, entorno.s, forms::DeQ(texto)); });
     });
-    auto* const rotulo = new QLabel(QStringLiteral("Número de &filas:"));
-    rotulo->setBuddy(txtNroFilas);
-    const int columna = grilla->columnCount();
-    grilla->setColumnStretch(columna, 1);
-    grilla->addWidget(rotulo, 0, columna + 1);
-    grilla->addWidget(txtNroFilas, 0, columna + 2);
-    return grilla;
-}
-
-QPushButton* dlgTabla_ventana::Boton(const char* nombre, std::string_view leyenda)
-{
-    auto* const boton = new QPushButton(Q(leyenda));
-    boton->setObjectName(QString::fromLatin1(nombre));
-    boton->setAutoDefault(false);  // Enter is the grid's
-    return boton;
+    return EnRejilla({{Rotulo(d.nombreLblNro), EnNegrita(Texto(d.nombreLblNro, f.lblNro)),
+                       Rotulo(d.nombreLblNombre), EnNegrita(Texto(d.nombreLblNombre, f.lblNombre)), Hueco(),
+                       Rotulo("txtNroFilas", txtNroFilas), txtNroFilas}},
+                     {0, 0, 0, 0, 1});
 }
 
 QLayout* dlgTabla_ventana::Botones()
 {
-    auto* const fila = new QHBoxLayout;
-    QPushButton* const borra = Boton("cmdBorraTablaHQ", LeyendaBorrarTabla);
-    QPushButton* const aplica = Boton("cmdAplicar", LeyendaAplicarTabla);
-    QPushButton* const acepta = Boton("OKButton", LeyendaAceptar);
-    QPushButton* const cancela = Boton("CancelButton", LeyendaCancelar);
-    AlPulsar(*borra, [this] { cmdBorraTablaHQ(f); });
-    AlPulsar(*aplica, [this] {
+    const auto aplica = [this] {
         cmdAplicar(f, entorno.s);
         AlCambiarTablas();
-    });
-    AlPulsar(*acepta, [this] {
+    };
+    const auto acepta = [this] {
         OKButton(f, entorno.s);
         AlCambiarTablas();
-    });
-    connect(cancela, &QPushButton::clicked, this, [this] { SucesoSinRevisar([this] { AlCerrar(); }); });
-    fila->addWidget(borra);
-    fila->addStretch(1);
-    fila->addWidget(aplica);
-    fila->addWidget(acepta);
-    fila->addWidget(cancela);
-    return fila;
+    };
+    return EnFila({Boton("cmdBorraTablaHQ", [this] { cmdBorraTablaHQ(f); }), Hueco(),
+                   Boton("cmdAplicar", aplica), Boton("OKButton", acepta),
+                   BotonSinRevisar("CancelButton", [this] { AlCerrar(); })});
 }
 
 void dlgTabla_ventana::Abre(std::string nro, std::string nombre)
@@ -155,20 +101,6 @@ void dlgTabla_ventana::PonCurvas()
         curvas[i]->PonTema(f.lblNombre, f.lblNombre);
         curvas[i]->Muestra(GraficoDe(nuevas[i]));
     }
-}
-
-void dlgTabla_ventana::Muestra()
-{
-    Pon(*lblNro, f.lblNro);
-    Pon(*lblNombre, f.lblNombre);
-    Pon(*txtNroFilas, f.txtNroFilas);
-    tabla->Muestra();
-    PonCurvas();
-    if (std::exchange(f.foco, {}).todoSeleccionado) {
-        txtNroFilas->setFocus(Qt::OtherFocusReason);
-        txtNroFilas->selectAll();
-    }
-    if (!f.abierta && isVisible()) done(QDialog::Accepted);
 }
 
 }  // namespace editor

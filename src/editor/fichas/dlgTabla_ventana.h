@@ -8,11 +8,6 @@
 #include "editor/fichas/dlgTabla.h"
 #include "forms/Formulario_ventana.h"
 
-class QGridLayout;
-class QLabel;
-class QLineEdit;
-class QPushButton;
-
 namespace forms {
 class Lamina;
 class TablaGrilla;
@@ -29,7 +24,6 @@ class dlgTabla_ventana : public forms::Formulario {
     /// Shows the table of the selected component until the form is closed; the labels are those of the form
     /// behind. Runs inside an event.
     void Abre(std::string lblNro, std::string lblNombre);
-    void Muestra() override;
 
     /// Runs whenever the tables may have been read or written.
     std::function<void()> AlCambiarTablas = [] {};
@@ -39,17 +33,14 @@ class dlgTabla_ventana : public forms::Formulario {
     bool SinAplicar() override { return editor::SinAplicar(f); }
 
   private:
-    QLabel* Dato(QGridLayout& grilla, std::string_view nombre, const char* leyenda);
     QLayout* Encabezado();
     QLayout* Botones();
-    QPushButton* Boton(const char* nombre, std::string_view leyenda);
     [[nodiscard]] QSize TamanoInicial() const;
     void PonCurvas();
 
     dlgTabla& f;
     TipoTabla tipo;
     const DescripcionTabla& d;
-    QLabel *lblNro = nullptr, *lblNombre = nullptr;
     QLineEdit* txtNroFilas = nullptr;
     forms::TablaGrilla* tabla = nullptr;
     std::vector<forms::Lamina*> curvas{};

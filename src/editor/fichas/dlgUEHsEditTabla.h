@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <array>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "forms/Grilla.h"
+#include "forms/Rotulo.h"
 #include "model/Siro.h"
 
 // Rules of the tabular editor: the numeric data of all reaches and all UEHs at once, in two grids. Its limits
@@ -16,8 +18,14 @@ inline constexpr std::string_view TituloDlgUEHsEditTabla =
     "Tabla de Edición de datos entrada: Parámetros Físicos UHEs";
 inline constexpr std::string_view AyudaGrillasEditTabla =
     "Las celdas de datos con fondo blanco pueden modificarse desde esta tabla";
-inline constexpr std::string_view LeyendaAceptarEditTabla = "&Aceptar";
-inline constexpr std::string_view LeyendaCancelarEditTabla = "&Cancel";  // kept as it stands
+inline constexpr auto RotulosDlgUEHsEditTabla = std::to_array<forms::FilaRotulo>({
+    {"lblProyecto", "Proyecto:"},
+    {"lblFileProyecto", "Archivo de Proyecto:"},
+    {"MSFlexGridEditCauces", "Cauces", AyudaGrillasEditTabla},
+    {"MSFlexGridEditUEHs", "UEHs", AyudaGrillasEditTabla},
+    {"OKButton", "&Aceptar"},
+    {"cmdCancel", "&Cancel"},  // kept as it stands
+});
 /// Share of the screen's width and height that the window takes.
 inline constexpr double AnchoEditTabla = 0.97;
 inline constexpr double AltoEditTabla = 0.95;

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <string_view>
+
 #include "editor/fichas/dlgUEHsEditTabla.h"
 #include "forms/Formulario_ventana.h"
-
-class QLabel;
 
 namespace forms {
 class TablaGrilla;
@@ -19,18 +19,16 @@ class dlgUEHsEditTabla_ventana : public forms::Formulario {
 
     /// Reads the network and shows it until the form is closed. Runs inside an event.
     void Abre();
-    void Muestra() override;
 
   protected:
     void AlCerrar() override;
     bool SinAplicar() override { return editor::SinAplicar(f); }
 
   private:
-    forms::TablaGrilla* Tabla(forms::Grilla& grilla, const char* nombre, const char* titulo);
+    forms::TablaGrilla* TablaConAyuda(forms::Grilla& grilla, std::string_view nombre);
 
     dlgUEHsEditTabla& f;
-    QLabel *lblProyecto = nullptr, *lblFileProyecto = nullptr;
-    forms::TablaGrilla *cauces = nullptr, *uehs = nullptr;
+    forms::TablaGrilla* cauces = nullptr;
 };
 
 }  // namespace editor

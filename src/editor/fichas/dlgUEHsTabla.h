@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <array>
 #include <string>
 #include <string_view>
 
 #include "forms/Grilla.h"
+#include "forms/Rotulo.h"
 #include "model/Siro.h"
 
 // Rules of the overview of all parameters: one grid, which can't be edited, of reaches, UEHs, Lagos and
@@ -13,8 +15,14 @@ namespace editor {
 
 inline constexpr std::string_view TituloDlgUEHsTabla =
     "Tabla de datos de Entradas: Parámetros Físicos de las UHEs";
-inline constexpr std::string_view LeyendaActualizarTabla = "&Actualizar cambios";
-inline constexpr std::string_view LeyendaCerrarTabla = "&Cerrar";
+inline constexpr auto RotulosDlgUEHsTabla = std::to_array<forms::FilaRotulo>({
+    {"lblProyecto", "Proyecto:"},
+    {"lblTitulo", "Título:"},
+    {"lblFileProyecto", "Archivo de Proyecto:"},
+    {"MSFlexGridTablaUEHs", "Parámetros de la red"},
+    {"cmdActualizar", "&Actualizar cambios"},
+    {"OKButton", "&Cerrar"},
+});
 
 struct dlgUEHsTabla {
     bool abierta = false;

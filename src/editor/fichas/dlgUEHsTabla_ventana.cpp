@@ -1,57 +1,26 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/fichas/dlgUEHsTabla_ventana.h"
 
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QPushButton>
-#include <QVBoxLayout>
-
 #include "editor/fichas/UnidadesTitulos.h"
 #include "forms/Grilla_ventana.h"
-#include "forms/Textos_ventana.h"
 
 namespace editor {
 
-using forms::Pon;
-using forms::Q;
-
 dlgUEHsTabla_ventana::dlgUEHsTabla_ventana(forms::Entorno& alrededor, dlgUEHsTabla& registro, QWidget* padre)
-    : Ventana(alrededor, {"dlgUEHsTabla"}, padre), f(registro)
+    : Ventana(alrededor, {"dlgUEHsTabla", TituloDlgUEHsTabla, RotulosDlgUEHsTabla}, padre), f(registro)
 {
-    setWindowTitle(Q(TituloDlgUEHsTabla));
-    auto* const pila = new QVBoxLayout(this);
-    auto* const encabezado = new QHBoxLayout;
-    const auto dato = [&](const char* nombre, const char* leyenda) {
-        auto* const nuevo = new QLabel;
-        nuevo->setObjectName(QString::fromLatin1(nombre));
-        nuevo->setTextFormat(Qt::PlainText);
-        encabezado->addWidget(new QLabel(QString::fromUtf8(leyenda)));
-        encabezado->addWidget(nuevo);
-        encabezado->addSpacing(fontMetrics().averageCharWidth() * 3);
-        return nuevo;
-    };
-    lblProyecto = dato("lblProyecto", "Proyecto:");
-    lblTitulo = dato("lblTitulo", "Título:");
-    lblFileProyecto = dato("lblFileProyecto", "Archivo de Proyecto:");
-    encabezado->addStretch(1);
-    pila->addLayout(encabezado);
-
-    tabla =
-        new forms::TablaGrilla(entorno, f.MSFlexGridTablaUEHs, "MSFlexGridTablaUEHs", "Parámetros de la red");
+    Sigue(f.abierta);
+    const int aparte = fontMetrics().averageCharWidth() * 3;
+    QLayout* const encabezado = EnFila({Rotulo("lblProyecto"), Texto("lblProyecto", f.lblProyecto),
+                                        Hueco(aparte), Rotulo("lblTitulo"), Texto("lblTitulo", f.lblTitulo),
+                                        Hueco(aparte), Rotulo("lblFileProyecto"),
+                                        Texto("lblFileProyecto", f.lblFileProyecto), Hueco(aparte), Hueco()});
+    tabla = Tabla(f.MSFlexGridTablaUEHs, "MSFlexGridTablaUEHs");
     tabla->AyudaDe = [this](forms::Celda celda) { return AyudaDeCelda(f.MSFlexGridTablaUEHs, celda); };
-    pila->addWidget(tabla, 1);
-
-    auto* const botones = new QHBoxLayout;
-    auto* const actualiza = new QPushButton(Q(LeyendaActualizarTabla));
-    actualiza->setObjectName(QStringLiteral("cmdActualizar"));
-    AlPulsar(*actualiza, [this] { cmdActualizar(f, entorno.s); });
-    auto* const cierra = new QPushButton(Q(LeyendaCerrarTabla));
-    cierra->setObjectName(QStringLiteral("OKButton"));
-    AlPulsar(*cierra, [this] { OKButton(f); });
-    botones->addStretch(1);
-    botones->addWidget(actualiza);
-    botones->addWidget(cierra);
-    pila->addLayout(botones);
+    setLayout(EnPila({encabezado,
+                      {tabla, 1},
+                      EnFila({Hueco(), Boton("cmdActualizar", [this] { cmdActualizar(f, entorno.s); }),
+                              Boton("OKButton", [this] { OKButton(f); })})}));
     entorno.AlActivarse(*this, [this] { Relee(); });
 }
 
@@ -80,15 +49,6 @@ void dlgUEHsTabla_ventana::Relee()
 void dlgUEHsTabla_ventana::AlCerrar()
 {
     OKButton(f);
-}
-
-void dlgUEHsTabla_ventana::Muestra()
-{
-    Pon(*lblProyecto, f.lblProyecto);
-    Pon(*lblTitulo, f.lblTitulo);
-    Pon(*lblFileProyecto, f.lblFileProyecto);
-    tabla->Muestra();
-    if (!f.abierta && isVisible()) close();
 }
 
 }  // namespace editor

@@ -4,8 +4,6 @@
 #include "editor/fichas/dlgUEHsTabla.h"
 #include "forms/Formulario_ventana.h"
 
-class QLabel;
-
 namespace forms {
 class TablaGrilla;
 }
@@ -19,7 +17,6 @@ class dlgUEHsTabla_ventana : public forms::Ventana {
 
     /// Reads everything anew and comes to the front. Runs inside an event.
     void Abre();
-    void Muestra() override;
 
   protected:
     void AlCerrar() override;
@@ -28,7 +25,6 @@ class dlgUEHsTabla_ventana : public forms::Ventana {
     void Relee();
 
     dlgUEHsTabla& f;
-    QLabel *lblProyecto = nullptr, *lblTitulo = nullptr, *lblFileProyecto = nullptr;
     forms::TablaGrilla* tabla = nullptr;
     bool leyendo = false;
 };

@@ -77,8 +77,8 @@ TEST_F(EditorDeTablas, LosTitulosEncabezadosYNombresSonLosDados)
               "^Indice|>H [m]          |> Area A[has]          |> Almacenamiento S[m3]");
     EXPECT_EQ(shv.nombreGrilla, "MSFlexGridFQ");
     EXPECT_EQ(shv.nombreLblNro, "lblNroRepresa");
-    EXPECT_EQ(LeyendaAplicarTabla, "&Aplicar");
-    EXPECT_EQ(LeyendaBorrarTabla, "Borrar Tabla");
+    EXPECT_EQ(forms::RotuloDe(RotulosDlgTabla, "cmdAplicar").leyenda, "&Aplicar");
+    EXPECT_EQ(forms::RotuloDe(RotulosDlgTabla, "cmdBorraTablaHQ").leyenda, "Borrar Tabla");
     const DescripcionTabla& fq = DescripcionDe(TipoTabla::FQ);
     EXPECT_EQ(fq.nombre, "dlgTablaFQ");
     EXPECT_EQ(fq.titulo, "Tabla Altura H[m]- Caudal Q[m3/s], en Represa");

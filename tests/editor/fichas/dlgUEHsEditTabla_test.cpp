@@ -59,8 +59,8 @@ class EditorTabular : public testing::Test, public pruebas::ProyectoGuardado {
 TEST_F(EditorTabular, LosTextosSonLosDados)
 {
     EXPECT_EQ(TituloDlgUEHsEditTabla, "Tabla de Edición de datos entrada: Parámetros Físicos UHEs");
-    EXPECT_EQ(LeyendaAceptarEditTabla, "&Aceptar");
-    EXPECT_EQ(LeyendaCancelarEditTabla, "&Cancel");
+    EXPECT_EQ(forms::RotuloDe(RotulosDlgUEHsEditTabla, "OKButton").leyenda, "&Aceptar");
+    EXPECT_EQ(forms::RotuloDe(RotulosDlgUEHsEditTabla, "cmdCancel").leyenda, "&Cancel");
     EXPECT_EQ(AyudaGrillasEditTabla,
               "Las celdas de datos con fondo blanco pueden modificarse desde esta tabla");
 }

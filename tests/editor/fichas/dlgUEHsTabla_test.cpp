@@ -42,8 +42,8 @@ const Textos TitulosRepresas = {"",        "",  "",  "",  "",     "k Musk.", "Op
 TEST_F(TablaDeParametros, LosTextosSonLosDados)
 {
     EXPECT_EQ(TituloDlgUEHsTabla, "Tabla de datos de Entradas: Parámetros Físicos de las UHEs");
-    EXPECT_EQ(LeyendaActualizarTabla, "&Actualizar cambios");
-    EXPECT_EQ(LeyendaCerrarTabla, "&Cerrar");
+    EXPECT_EQ(forms::RotuloDe(RotulosDlgUEHsTabla, "cmdActualizar").leyenda, "&Actualizar cambios");
+    EXPECT_EQ(forms::RotuloDe(RotulosDlgUEHsTabla, "OKButton").leyenda, "&Cerrar");
 }
 
 TEST_F(TablaDeParametros, UnProyectoVacioDaSoloLosTitulosDeLosBloques)
