@@ -299,7 +299,8 @@ bool AlSalir(dlgPp& f, Siro& s, std::string_view control)
 {
     if (control == "cmbPasoPp") return PasoPpCabe(f, s);
     if (control == "cmbPasoQ") AjustaPasoQ(f, s);
-    const CampoPp* const campo = forms::CampoDe(CamposDeTormenta, control);
+    const CampoPp* campo = forms::CampoDe(CamposDeTormenta, control);
+    if (campo == nullptr) campo = forms::CampoDe(CamposDePasos, control);
     if (campo == nullptr || campo->regla.mensaje.empty()) return true;
     const std::optional<double> x = forms::NumeroDeCampo(campo->regla, f.*campo->texto);
     // One that its type can't hold is refused too.
