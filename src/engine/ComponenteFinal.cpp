@@ -17,30 +17,23 @@ namespace {
 
 constexpr std::string_view TituloSinSalida = "Error, Verifique Componente final del sistema";
 constexpr std::string_view TextoSinSalida =
-    "Error, ningun componente ingresado es una sección final de control o de "
-    "salida del sistema. Al menos un "
-    "componente debe tener el campo <Drena a< = <0> o <cadena nula>. ¿Desea "
-    "volver a la ventana de edición  "
+    "Error, ningun componente ingresado es una sección final de control o de salida del sistema. Al menos un "
+    "componente debe tener el campo <Drena a< = <0> o <cadena nula>. ¿Desea volver a la ventana de edición  "
     "(SI) o continuar (No) ?";
 constexpr std::string_view TituloAportes = "Advertencia !!!";
 constexpr std::string_view CaucesSinAporte =
-    "Hay tramos de Cauces sin aportes de UEHs. Verifique los tramos siguientes "
-    "y asigne sus UEH o "
+    "Hay tramos de Cauces sin aportes de UEHs. Verifique los tramos siguientes y asigne sus UEH o "
     "componentes de aportes: ";
 constexpr std::string_view RepresasSinAporte =
-    "Hay represas sin aportes de UEHs. Verifique las represas siguientes y "
-    "asigne sus UEH o componentes de "
+    "Hay represas sin aportes de UEHs. Verifique las represas siguientes y asigne sus UEH o componentes de "
     "aportes: ";
 // "represas" is kept as it stands
 constexpr std::string_view LagosSinAporte =
-    "Hay Lagos/Mallines sin aportes de UEHs. Verifique las represas siguientes "
-    "y asigne sus UEH o "
+    "Hay Lagos/Mallines sin aportes de UEHs. Verifique las represas siguientes y asigne sus UEH o "
     "componentes de aportes: ";
 constexpr std::string_view VariasSalidas =
-    "Hay más de un componente de descarga para el sistema (sección final de "
-    "control). El sistema admite esta "
-    "posibilidad para el cálculo para un máximo de 10 componentes, pero si el "
-    "sistema es de salida final "
+    "Hay más de un componente de descarga para el sistema (sección final de control). El sistema admite esta "
+    "posibilidad para el cálculo para un máximo de 10 componentes, pero si el sistema es de salida final "
     "única debe verificar los campos <Drena a> de los siguientes componentes:";
 constexpr std::string_view Cola = "         ¿Desea volver a la ventana de edición  (SI) o continuar (No) ?";
 constexpr std::string_view Separacion = "    ";

@@ -86,10 +86,9 @@ bool MetodoConocido(const std::string& metodo)
 /// Tells that a component names no method; "represa" is kept for a Lago.
 void AvisaMetodo(const Siro& s, const std::string& nombre)
 {
-    model::Advierte(s,
-                    "Error, Seleccione el método de propagación de la represa "
-                    "en el formulario de Propiedades" +
-                        nombre + ". ");
+    model::Advierte(
+        s, "Error, Seleccione el método de propagación de la represa en el formulario de Propiedades" +
+               nombre + ". ");
 }
 
 EmbalseEnMano EnMano(Siro& s, const model::Represa& r, int fila)

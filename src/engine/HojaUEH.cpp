@@ -23,8 +23,7 @@ namespace {
 
 constexpr float KDeReserva = 999999;
 constexpr std::string_view KIncorrecto =
-    "El parámetro de Singh (K de abatimiento) elegido es incorrecto, debe "
-    "corregirlo. Se adopta "
+    "El parámetro de Singh (K de abatimiento) elegido es incorrecto, debe corregirlo. Se adopta "
     "transitoriamente K=999999 ó 1/K cercano a '0'. Verifique...";
 constexpr double VolumenDespreciable = 0.001;  // [m3]
 
@@ -113,7 +112,7 @@ void RecesionRapida(Corrida& c)
         for (std::size_t p = 1; p <= pasos; ++p) {
             const auto base = static_cast<float>(u.Q0Recesion * potencia[p]);
             q[p] = static_cast<float>(double{q[p]} + base);
-            volumen = static_cast<std::int32_t>(std::nearbyint(volumen + double{base} * s.Pasos.PasoQ * 60));
+            volumen = SumaBase(volumen, base, s.Pasos.PasoQ);
             Qb.push_back(base);
         }
     }

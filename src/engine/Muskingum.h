@@ -54,8 +54,7 @@ struct Muskingum {
 inline std::string TextoMuskingum(const std::string& nombre)
 {
     return "Error, Los parámetros de Muskingum utilizados en el tramo de cauce" + nombre +
-           " son erróneos. Verifique, o cambie a propagación Directa desde el "
-           "Editor de UEHs ";
+           " son erróneos. Verifique, o cambie a propagación Directa desde el Editor de UEHs ";
 }
 
 }  // namespace engine

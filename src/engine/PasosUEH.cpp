@@ -179,8 +179,7 @@ void PasosDeLasUEHs(Corrida& c)
     if (c.s.Control.SalidaPizarra)
         c.s.Control.TextoPizarra.append(
             "\r\n\r\nI- SIMULACION EN UEHs\r\n"
-            "Per.k  t[min]   UEH     Pp[mm]  Retensión "
-            "Z[mm]   Infiltra I[mm]   CaudalPp[m3/s]");
+            "Per.k  t[min]   UEH     Pp[mm]  Retensión Z[mm]   Infiltra I[mm]   CaudalPp[m3/s]");
     if (c.s.Control.SalidaPizarra || !PasosRapidos(c)) PasosUnoPorUno(c);
 }
 

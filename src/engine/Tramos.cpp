@@ -24,12 +24,10 @@ namespace {
 
 constexpr std::string_view SinLongitud[] = {
     "El parámetro de Longitud de Cauce del tramo ",
-    " es '0'. Debe asignar un valor correcto a este parámetro desde el Editor "
-    "de UEHs "};
+    " es '0'. Debe asignar un valor correcto a este parámetro desde el Editor de UEHs "};
 constexpr std::string_view SinVelocidad[] = {
     "El parámetro de Velocidad Media de propagación Directa en el tramo ",
-    " es '0'. Debe asignar un valor correcto a este parámetro desde el Editor "
-    "de UEHs "};
+    " es '0'. Debe asignar un valor correcto a este parámetro desde el Editor de UEHs "};
 
 void SumaAfluente(Corrida& c, int fila, int afluente)
 {

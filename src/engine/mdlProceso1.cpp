@@ -26,38 +26,29 @@ using model::Suma16;
 namespace {
 
 constexpr std::string_view SinUEHs =
-    "Debe haber al menos una Unidad de Estudios Hidrólógicos (UEH) Cargada en "
-    "el sistema. (Ingresar UEHs "
+    "Debe haber al menos una Unidad de Estudios Hidrólógicos (UEH) Cargada en el sistema. (Ingresar UEHs "
     "desde el Menú Principal  \\Entradas\\Editor UEHs (Gráfico)...";
 constexpr std::string_view SinArea =
-    "Error en la carga de datos de UEHS, posiblemente no ha cargado "
-    "correctamente las superficies y demás "
+    "Error en la carga de datos de UEHS, posiblemente no ha cargado correctamente las superficies y demás "
     "parámetros, ...";
 constexpr std::string_view ErrorEnUEH = "Error en la carga de datos de UEHS Nro. ";
 constexpr std::string_view SinVelocidad =
-    ". El dato de Velocidad media de la gota en ladera es incorrecto. Revise "
-    "desde Menú Principal: "
+    ". El dato de Velocidad media de la gota en ladera es incorrecto. Revise desde Menú Principal: "
     "Entradas\\Editor de UEHS...";
 constexpr std::string_view SinLongitud =
-    ". El dato de Longitud máxima de la gota en ladera es incorrecto. Revise "
-    "desde Menú Principal: "
+    ". El dato de Longitud máxima de la gota en ladera es incorrecto. Revise desde Menú Principal: "
     "Entradas\\Editor de UEHS...";
 // The words say the reverse of the test: kept as they stand.
 constexpr std::string_view PasosDesiguales =
-    "Error, el paso de salida (Q) debe ser múltiplo del paso de cálculo (Pp). "
-    "Verifique la carga en "
+    "Error, el paso de salida (Q) debe ser múltiplo del paso de cálculo (Pp). Verifique la carga en "
     "\\Entradas\\Preicpitaciones...";
 constexpr std::string_view RedConErrores =
-    "Error en la carga de datos de UEHS. Revise desde Menú Principal: "
-    "Entradas\\Editor de UEHS...";
+    "Error en la carga de datos de UEHS. Revise desde Menú Principal: Entradas\\Editor de UEHS...";
 constexpr std::string_view TituloTextoExtenso = "La tabla de resultados es muy extensa";
 constexpr std::string_view TextoExtenso =
-    "La tabla de resultados es muy extensa para ser presentada completa en la "
-    "Pizarra. Los datos se guardan "
-    "completos en el archivo de texto <SalePizarra1_tem.txt> del directorio de "
-    "trabajo. Puede leer "
-    "directamente este archivo con un editor de texto o bien importar archivo "
-    "desde Excel como <delimitado>, "
+    "La tabla de resultados es muy extensa para ser presentada completa en la Pizarra. Los datos se guardan "
+    "completos en el archivo de texto <SalePizarra1_tem.txt> del directorio de trabajo. Puede leer "
+    "directamente este archivo con un editor de texto o bien importar archivo desde Excel como <delimitado>, "
     "con separador <espacio> y formato <general>";
 constexpr std::size_t LargoExtenso = 60000;  // characters
 
@@ -264,12 +255,11 @@ void CierraCorrida(Corrida& c)
 bool Corrida::Alcanzan() const
 {
     const model::Resultados& r = s.Resultados;
-    const int pasos = r.NroPasosQ, filas = r.NroComponentes, tormenta = s.Serie.IndSerie;
+    const int pasos = r.NroPasosQ, filas = r.NroComponentes;
     return s.Pasos.PasoQ >= 1 && pasos >= 1 && pasos * s.Pasos.PasoQ <= INT16_MAX &&
-           r.QSale.UltimaFila() >= filas && r.QSale.TopeColumna() >= pasos &&
-           r.QEntra.PrimeraFila() <= s.Red.NroUEHs() + 1 && r.QEntra.UltimaFila() >= filas &&
-           r.QEntra.TopeColumna() >= pasos && r.QMax.UltimaFila() >= filas && tormenta >= 0 &&
-           r.QMax.TopeColumna() >= tormenta;
+           r.QSale.Alcanza(filas, pasos) && r.QEntra.Alcanza(filas, pasos) &&
+           r.QEntra.PrimeraFila() <= s.Red.NroUEHs() + 1 && s.Serie.IndSerie >= 0 &&
+           r.QMax.Alcanza(filas, s.Serie.IndSerie);
 }
 
 bool Corrida::UEHsAlcanzan() const

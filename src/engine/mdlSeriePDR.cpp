@@ -24,25 +24,19 @@ namespace {
 
 constexpr std::string_view TituloAvance = "un momento...esta opción puede tardar varios minutos...";
 constexpr std::string_view SinTormentasPDR =
-    "No se han cargado tormentas PDRs. Para correr esta opción debe "
-    "previamente cargar un conjunto de "
-    "tormentas desde Menu Principal\\Entradas\\Precipitaciones, luego tildar "
-    "la opción <c) Cargar una tabla "
+    "No se han cargado tormentas PDRs. Para correr esta opción debe previamente cargar un conjunto de "
+    "tormentas desde Menu Principal\\Entradas\\Precipitaciones, luego tildar la opción <c) Cargar una tabla "
     "de Pp-D-R desde archivo> y pulsar el botón de cargar tabla PDR ...";
 constexpr std::string_view TituloTablaGuardada =
-    "La tabla de resultados se guarda en archivo el temporal "
-    "<SaleTablasQDRs_tem.txt>";
+    "La tabla de resultados se guarda en archivo el temporal <SaleTablasQDRs_tem.txt>";
 // The lone quote is part of the text.
 constexpr std::string_view TablaGuardada =
-    "La tabla de resultados Q-D-R se guarda completa en el archivo de texto "
-    "<SaleTablasQDRs_tem.txt>. Puede "
-    "leer directamente este archivo con un editor de texto o bien importar "
-    "archivo desde Excel como "
+    "La tabla de resultados Q-D-R se guarda completa en el archivo de texto <SaleTablasQDRs_tem.txt>. Puede "
+    "leer directamente este archivo con un editor de texto o bien importar archivo desde Excel como "
     "<delimitado>, con separador <,> y formato <general>\"Tiempo de proceso: ";
 constexpr std::string_view TituloFallaTabla = "Falla en resguardo de archivo";
 constexpr std::string_view FallaTabla =
-    "El resguardo de resultados en el archivo <SaleTablasQDRs_tem.txt> ha "
-    "fallado";
+    "El resguardo de resultados en el archivo <SaleTablasQDRs_tem.txt> ha fallado";
 
 /// Time since the series began, hours, minutes and seconds without leading zeros.
 std::string TiempoDeProceso(const Siro& s)
