@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "engine/Corrida.h"
-#include "hydraulics/CompActual.h"
+#include "hydraulics/mdlFQs.h"
 
 namespace engine {
 
@@ -22,9 +22,11 @@ struct EmbalseEnMano : hydraulics::CompActual {
     model::Matriz<float>& S;
     int fila;  ///< row in QEntra, QSale, QMax
 
-    /// Ends of its table of heights [m]. Throws Falla 9 where they aren't there.
-    [[nodiscard]] float Tope() const { return tablaH(numero, filas(numero)); }
-    [[nodiscard]] float Base() const { return tablaH(numero, 1); }
+    /// Ends of its table of heights. Throws Falla 9 where they aren't there.
+    [[nodiscard]] hydraulics::RangoAlturas Alturas() const
+    {
+        return {tablaH(numero, 1), tablaH(numero, filas(numero))};
+    }
 };
 
 /// The method's own three columns of a detail sheet: I1+I2, 2S/dt-Q, 2S/dt+Q [m3/s], or dH1, dH2, dH3 [m].

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cmath>
 #include <cstdint>
 
 #include "engine/EmbalseEnMano.h"
 #include "engine/Memoria.h"
 #include "hydraulics/Biseccion.h"
+#include "hydraulics/mdlFQs.h"
 #include "model/Numeros.h"
 
 // The arithmetic of the level pool, with whatever its heights are looked for and its rows are read by.
@@ -29,20 +31,19 @@ inline Nodo NodoEn(float h, float S, float Q, std::int16_t PasoQ)
 /// Tells that the heights can't be halved down to AnchoFinal, and ends the program.
 void NoConverge(const EmbalseEnMano& e);
 
-/// Halves the table's heights until 2S/dt + Q meets the target W: `n` becomes what `en(height)` gives at the
-/// last midpoint, and stays where the bracket was too narrow to begin.
-template <typename En>
-void BisecaPiscina(const EmbalseEnMano& e, float W, Nodo& n, En&& en)
+/// Halves the heights of a table until 2S/dt + Q, which `U(height)` gives, meets the target W. Asks for
+/// nothing where the bracket is too narrow to begin.
+template <typename Funcion>
+void BisecaPiscina(const EmbalseEnMano& e, hydraulics::RangoAlturas rango, float W, Funcion&& U)
 {
-    const auto altura = hydraulics::BisecaAltura(e.Base(), e.Tope(), AnchoFinal, [&](float h) {
-        n = en(h);
-        return n.u > W;
-    });
-    if (!altura) NoConverge(e);
+    const auto pasa = [&](float h) { return U(h) > W; };
+    if (!hydraulics::BisecaAltura(rango.minimo, rango.maximo, AnchoFinal, pasa)) NoConverge(e);
 }
 
-/// The rows of a pool's steps, every index checked.
+/// The rows of a pool's steps, every index and every store checked.
 struct FilasComprobadas {
+    static constexpr bool Comprueba = true;
+    static float Guarda(double x) { return model::Simple(x); }
     FilasComprobadas(Corrida& c, const EmbalseEnMano& embalse) : r(c.s.Resultados), e(embalse) {}
     [[nodiscard]] float Entra(int k) const { return r.QEntra(e.fila, k); }
     [[nodiscard]] float& Sale(int k) const { return r.QSale(e.fila, k); }
@@ -52,8 +53,10 @@ struct FilasComprobadas {
     const EmbalseEnMano& e;
 };
 
-/// The same as they lie in memory. Requires them to reach to NroPasosQ.
+/// The same as they lie in memory. Requires them, and the minutes of the steps, to reach to NroPasosQ.
 struct FilasProbadas {
+    static constexpr bool Comprueba = false;
+    static float Guarda(double x) { return static_cast<float>(x); }
     FilasProbadas(Corrida& c, const EmbalseEnMano& e)
         : entra(c.s.Resultados.QEntra.Fila(e.fila)),
           sale(c.s.Resultados.QSale.Fila(e.fila)),
@@ -69,21 +72,26 @@ struct FilasProbadas {
     float *sale, *h, *s;
 };
 
-/// Walks the steps 1..NroPasosQ from T = 2S/dt - Q. `busca(W, n)` makes of the node of the step before that
+/// Walks the steps from `desde` to NroPasosQ with T = 2S/dt - Q of the step before; `busca(W)` gives the node
 /// of the target W.
 template <typename Filas, typename Busca>
-void RecorrePiscina(Corrida& c, const EmbalseEnMano& e, float T, Nodo n, Busca&& busca)
+void RecorrePiscina(Corrida& c, const EmbalseEnMano& e, float T, Busca& busca, int desde = 1)
 {
     const Filas filas(c, e);
-    for (int k = 1; k <= c.s.Resultados.NroPasosQ; ++k) {
-        const float I = model::Simple(double{filas.Entra(k)} + filas.Entra(k - 1));
-        const float W = model::Simple(double{T} + I);
-        busca(W, n);
+    for (int k = desde; k <= c.s.Resultados.NroPasosQ; ++k) {
+        const float I = Filas::Guarda(double{filas.Entra(k)} + filas.Entra(k - 1));
+        const float W = Filas::Guarda(double{T} + I);
+        const Nodo n = busca(W);
+        const double siguiente = W - 2.0 * n.q;
+        if constexpr (!Filas::Comprueba)  // what has left the type on the way shows in the last of the three
+            if (!std::isfinite(static_cast<float>(siguiente)))
+                return RecorrePiscina<FilasComprobadas>(c, e, T, busca, k);
         filas.H(k) = n.h;
         filas.S(k) = c.SActual = n.s;
-        T = model::Simple(W - 2.0 * n.q);
+        T = Filas::Guarda(siguiente);
         filas.Sale(k) = n.q;
-        EscribeDetalle(c, e, {static_cast<std::int16_t>(k), {I, T, n.u}, n.h});
+        if (Filas::Comprueba || c.ConTexto)
+            EscribeDetalle(c, e, {static_cast<std::int16_t>(k), {I, T, n.u}, n.h});
     }
 }
 

@@ -14,16 +14,19 @@ constexpr std::string_view EncabezadoPiscina =
     "k - t[mi] - qe(i, k)[m3/s] - I1+I2 - 2S1/dt+Q1  2S2/dt+Q2    q(i, k)[m3/s] -  H[m]    S[m3]";
 
 /// The steps by the lookups of the tables and functions, with their questions.
-void RecorreConConsultas(Corrida& c, const EmbalseEnMano& e, float T, const Nodo& inicial)
+void RecorreConConsultas(Corrida& c, const EmbalseEnMano& e, float T, Nodo n)
 {
-    RecorrePiscina<FilasComprobadas>(c, e, T, inicial, [&](float W, Nodo& n) {
+    const auto busca = [&](float W) -> const Nodo& {
         // asked for its questions alone, where the last storage lies outside the table
         (void)hydraulics::HdeS(e, c.SActual);
-        BisecaPiscina(e, W, n, [&](float h) {
+        BisecaPiscina(e, e.Alturas(), W, [&](float h) {
             c.SActual = Simple(hydraulics::SdeH(e, h));
-            return NodoEn(h, c.SActual, hydraulics::QdeH(e, h), c.s.Pasos.PasoQ);
+            n = NodoEn(h, c.SActual, hydraulics::QdeH(e, h), c.s.Pasos.PasoQ);
+            return n.u;
         });
-    });
+        return n;
+    };
+    RecorrePiscina<FilasComprobadas>(c, e, T, busca);
 }
 
 }  // namespace
@@ -48,8 +51,7 @@ void PropagaPiscina(Corrida& c, const EmbalseEnMano& e)
     n.s = c.SActual = Simple(hydraulics::SdeH(e, n.h));
     r.QEntra(e.fila, 0) = c.QBaseEntra;
     const float T = Simple(double{DobleAlmacenamiento(n.s, c.s.Pasos.PasoQ)} - r.QSale(e.fila, 0));
-    (void)e.Tope();  // top and bottom have to be there
-    (void)e.Base();
+    (void)e.Alturas();  // top and bottom have to be there
     AbreDetalle(c, e, EncabezadoPiscina);
     n.q = hydraulics::QdeH(e, n.h);
     e.H(e.numero, 0) = n.h;

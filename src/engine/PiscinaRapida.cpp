@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <algorithm>
+#include <array>
+#include <limits>
 #include <vector>
 
 #include "engine/Piscina.h"
@@ -19,10 +21,11 @@ class Curvas {
     /// Whether the level pool of an embalse that begins with storage S0 can be routed with them.
     bool Prepara(const EmbalseEnMano& e, float S0)
     {
+        rango = e.Alturas();
         almacenamiento = hydraulics::CurvaAlmacenamiento(e);
         if (almacenamiento.Filas() == 0) return false;
         descarga = hydraulics::CurvaDescarga(e);
-        if (!descarga.SinPreguntas(e.Base(), e.Tope())) return false;
+        if (!descarga.SinPreguntas(rango.minimo, rango.maximo)) return false;
         const std::int32_t* S = e.tablaS.Fila(e.numero) + 1;
         const auto [menor, mayor] = std::minmax_element(S, S + almacenamiento.Filas());
         const auto menorS = static_cast<float>(*menor), mayorS = static_cast<float>(*mayor);
@@ -33,12 +36,45 @@ class Curvas {
         const auto S = static_cast<float>(almacenamiento.Valor(h, filaS));
         return NodoEn(h, S, descarga.Valor(h, filaQ), PasoQ);
     }
+    [[nodiscard]] hydraulics::RangoAlturas Rango() const { return rango; }
 
   private:
     hydraulics::CurvaLineal almacenamiento;
     hydraulics::CurvaDescarga descarga;
+    hydraulics::RangoAlturas rango;
     std::int16_t PasoQ;
     int filaS = 0, filaQ = 0;
+};
+
+/// Bisections with what the one before worked out: what a midpoint gives doesn't change with time, so that
+/// only those that leave its way are new.
+class PorCamino {
+  public:
+    PorCamino(const EmbalseEnMano& embalse, Curvas& lasCurvas, const Nodo& nodo)
+        : e(embalse), curvas(lasCurvas), inicial(nodo)
+    {
+        camino.fill({.h = std::numeric_limits<float>::quiet_NaN()});
+    }
+    PorCamino(const PorCamino&) = delete;
+    PorCamino& operator=(const PorCamino&) = delete;
+    const Nodo& operator()(float W)
+    {
+        std::size_t nivel = 0;
+        BisecaPiscina(e, curvas.Rango(), W, [&](float h) {
+            Nodo& medio = camino[nivel++ % camino.size()];
+            if (medio.h != h) medio = curvas.En(h);
+            ultimo = &medio;
+            return medio.u;
+        });
+        return *ultimo;
+    }
+
+  private:
+    const EmbalseEnMano& e;
+    Curvas& curvas;
+    Nodo inicial;
+    std::array<Nodo, 32> camino{};  ///< of the bisection in hand and, deeper, of the one before
+    const Nodo* ultimo = &inicial;
 };
 
 /// Bisections looked up among all midpoints, worked out beforehand: U rises with them, so that a walk from
@@ -49,7 +85,7 @@ class PorNodos {
         : nodos(losNodos), ultimo(static_cast<int>(losNodos.U.size()) - 1)
     {
     }
-    const Nodo& Busca(float W)
+    const Nodo& operator()(float W)
     {
         // The level goes on as it went in the step before, more or less.
         const int antes = lugar;
@@ -93,13 +129,12 @@ class PorNodos {
     int recorrido = 0;  ///< places that the last search moved on
 };
 
-/// The midpoints that a bisection between `base` and `tope` can visit, in rising height behind a slot 0.
+/// The midpoints that a bisection can visit, in rising height behind a slot 0.
 /// Empty where two halvings of one level don't end alike, so that they are no full tree.
-std::vector<float> PuntosMedios(float base, float tope)
+std::vector<float> PuntosMedios(hydraulics::RangoAlturas rango)
 {
     constexpr std::size_t MaximoNodos = 1 << 15;
-    if (!(double{tope} - base <= MaximoNodos * double{AnchoFinal})) return {};
-    std::vector<float> puntos{base, tope};
+    std::vector<float> puntos{rango.minimo, rango.maximo};
     while (true) {
         std::size_t abiertos = 0;
         for (std::size_t i = 0; i + 1 < puntos.size(); ++i)
@@ -112,7 +147,7 @@ std::vector<float> PuntosMedios(float base, float tope)
             finos.push_back(puntos[i]);
             finos.push_back(PuntoMedio(puntos[i + 1], puntos[i]));
         }
-        finos.push_back(tope);
+        finos.push_back(rango.maximo);
         puntos.swap(finos);
     }
     puntos.pop_back();
@@ -120,9 +155,9 @@ std::vector<float> PuntosMedios(float base, float tope)
 }
 
 /// Works out all midpoints. Returns whether they can stand for the bisection.
-bool TablaNodos(NodosPiscina& nodos, Curvas& curvas, float base, float tope)
+bool TablaNodos(NodosPiscina& nodos, Curvas& curvas, hydraulics::RangoAlturas rango)
 {
-    const std::vector<float> alturas = PuntosMedios(base, tope);
+    const std::vector<float> alturas = PuntosMedios(rango);
     const std::size_t n = alturas.size();
     nodos.nodo.resize(n);
     nodos.U.resize(n);
@@ -151,7 +186,7 @@ void ArmaClave(const Corrida& c, const EmbalseEnMano& e, std::vector<float>& cla
     AgregaColumna(clave, e.tablaH, e.numero, e.filas);
     AgregaColumna(clave, e.tablaS, e.numero, e.filas);
     if (e.funciones == nullptr) {
-        AgregaColumna(clave, e.tablaHQ, e.numero, e.filasQ);
+        if (&e.tablaHQ != &e.tablaH) AgregaColumna(clave, e.tablaHQ, e.numero, e.filasQ);
         AgregaColumna(clave, e.tablaQ, e.numero, e.filasQ);
         return;
     }
@@ -171,7 +206,7 @@ const NodosPiscina& NodosDe(Corrida& c, const EmbalseEnMano& e)
     if (nodos.clave == c.memoria.clave) return nodos;
     nodos.clave = c.memoria.clave;
     Curvas curvas(c.s.Pasos.PasoQ);
-    nodos.sirve = curvas.Prepara(e, c.SActual) && TablaNodos(nodos, curvas, e.Base(), e.Tope());
+    nodos.sirve = curvas.Prepara(e, c.SActual) && TablaNodos(nodos, curvas, e.Alturas());
     return nodos;
 }
 
@@ -184,17 +219,15 @@ bool PiscinaRapida(Corrida& c, const EmbalseEnMano& e, float T, const Nodo& inic
     if (c.memoria.VariasCorridas) {
         const NodosPiscina& nodos = NodosDe(c, e);
         if (nodos.sirve) {
-            RecorrePiscina<FilasProbadas>(
-                c, e, T, inicial,
-                [busca = PorNodos(nodos)](float W, Nodo& n) mutable { n = busca.Busca(W); });
+            PorNodos busca(nodos);
+            RecorrePiscina<FilasProbadas>(c, e, T, busca);
             return true;
         }
     }
     Curvas curvas(c.s.Pasos.PasoQ);
     if (!curvas.Prepara(e, c.SActual)) return false;
-    RecorrePiscina<FilasProbadas>(c, e, T, inicial, [&](float W, Nodo& n) {
-        BisecaPiscina(e, W, n, [&](float h) { return curvas.En(h); });
-    });
+    PorCamino busca(e, curvas, inicial);
+    RecorrePiscina<FilasProbadas>(c, e, T, busca);
     return true;
 }
 

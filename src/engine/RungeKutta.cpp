@@ -45,8 +45,7 @@ void PropagaRungeKutta(Corrida& c, const EmbalseEnMano& e)
     model::Resultados& r = c.s.Resultados;
     float H = e.HInicial;
     r.QEntra(e.fila, 0) = c.QBaseEntra;
-    (void)e.Tope();  // top and bottom have to be there, though unused
-    (void)e.Base();
+    (void)e.Alturas();  // top and bottom have to be there, though unused
     AbreDetalle(c, e, EncabezadoRungeKutta);
     e.H(e.numero, 0) = H;
     e.S(e.numero, 0) = c.SActual;  // of the last routing of the run: kept as it stands

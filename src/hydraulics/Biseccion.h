@@ -17,11 +17,10 @@ inline float PuntoMedio(float hi, float lo)
     return static_cast<float>((double{hi} - lo) / 2 + lo);
 }
 
-/// Whether a bracket of heights is still wider than `ancho`, a 32-bit float [m]. Throws Falla 6 where its
-/// width is outside a 32-bit float.
+/// Whether a bracket of heights is still wider than `ancho`, a 32-bit float [m].
 inline bool SigueAbierto(float hi, float lo, float ancho)
 {
-    return std::fabs(model::Simple(double{hi} - lo)) > ancho;
+    return std::fabs(static_cast<float>(double{hi} - lo)) > ancho;
 }
 
 /// The last midpoint of a bisection of the heights between two [m], until the bracket is no wider than
@@ -32,11 +31,15 @@ inline bool SigueAbierto(float hi, float lo, float ancho)
 template <typename Pasa>
 std::optional<float> BisecaAltura(float minimo, float maximo, float ancho, Pasa&& pasa)
 {
+    (void)model::Simple(double{maximo} - minimo);  // it only gets narrower
     float lo = minimo, hi = maximo, mid = 0;
     for (int vueltas = 1; SigueAbierto(hi, lo, ancho); ++vueltas) {
         if (vueltas > MaxVueltasBiseccion) return std::nullopt;
         mid = PuntoMedio(hi, lo);
-        (pasa(mid) ? hi : lo) = mid;
+        if (pasa(mid))
+            hi = mid;
+        else
+            lo = mid;
     }
     return mid;
 }
