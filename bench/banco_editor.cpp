@@ -102,16 +102,15 @@ Siro RedLimite()
 struct Editor {
     explicit Editor(bool conFondo)
     {
-        f.abierta = f.OrdenVisible = true;
-        f.AnchoLinea = 4;
-        f.recentra = f.reescala = true;
+        f.abierta = f.vista.OrdenVisible = true;
+        f.vista.AnchoLinea = 4;
+        f.vista.recentra = f.vista.reescala = true;
         s.Seleccion.CauceSel = 1;
         if (conFondo) {
-            const auto tamano = f.CargaImagen(Fondo);
-            if (!tamano) throw std::runtime_error("no background image");
-            f.imagen = *tamano;
-            f.ImagenVisible = true;
-            s.Configuracion.EscalaImagen = 100.0 * Lado * Celda / tamano->ancho;
+            f.fondo.imagen = f.fondo.CargaImagen(Fondo).tamano;
+            if (f.fondo.imagen == editor::Tamano{}) throw std::runtime_error("no background image");
+            f.fondo.ImagenVisible = true;
+            s.Configuracion.EscalaImagen = 100.0 * Lado * Celda / f.fondo.imagen.ancho;
         }
         ventana.resize(Pantalla);
         ventana.show();
@@ -127,7 +126,7 @@ struct Editor {
     }
     [[nodiscard]] QPointF Pixel(Punto p) const
     {
-        const editor::Pixel lugar = editor::APixel(f, p);
+        const editor::Pixel lugar = editor::APixel(f.vista, p);
         return {lugar.x, lugar.y};
     }
 
@@ -169,7 +168,7 @@ void Arrastre(benchmark::State& estado)
     QMouseEvent aprieta(QEvent::MouseButtonPress, desde, e.lienzo.mapToGlobal(desde), Qt::LeftButton,
                         Qt::LeftButton, {});
     QCoreApplication::sendEvent(&e.lienzo, &aprieta);
-    if (e.f.arrastra != editor::Arrastra::IconoUEH) throw std::runtime_error("no UEH under the pointer");
+    if (e.f.gesto.arrastra != editor::Arrastra::IconoUEH) throw std::runtime_error("no UEH under the pointer");
     int paso = 0;
     for (auto _ : estado)
         e.Mueve(desde + QPointF(++paso % 40, 0));
