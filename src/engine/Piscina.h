@@ -87,12 +87,14 @@ void RecorrePiscina(Corrida& c, const EmbalseEnMano& e, float T, Busca& busca, i
             if (!std::isfinite(static_cast<float>(siguiente)))
                 return RecorrePiscina<FilasComprobadas>(c, e, T, busca, k);
         filas.H(k) = n.h;
-        filas.S(k) = c.SActual = n.s;
+        filas.S(k) = n.s;
+        if (Filas::Comprueba || c.ConTexto) c.SActual = n.s;
         T = Filas::Guarda(siguiente);
         filas.Sale(k) = n.q;
         if (Filas::Comprueba || c.ConTexto)
             EscribeDetalle(c, e, {static_cast<std::int16_t>(k), {I, T, n.u}, n.h});
     }
+    if (const int ultimo = c.s.Resultados.NroPasosQ; ultimo >= desde) c.SActual = filas.S(ultimo);
 }
 
 /// All steps from node `n` with curves and midpoints worked out beforehand: bit for bit what the lookups
