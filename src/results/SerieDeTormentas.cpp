@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 
+#include "model/Falla.h"
 #include "model/VidaProyecto.h"
 
 namespace results {
@@ -24,6 +25,32 @@ bool SinTilde(const std::array<std::int16_t, N>& valores, const std::array<std::
 }
 
 }  // namespace
+
+std::vector<std::string> Componentes(const model::Resultados& r)
+{
+    if (r.Secuencia.empty()) return {};
+    return {r.Secuencia.begin() + 1, r.Secuencia.end()};
+}
+
+const std::string& NombreComponente(const model::Siro& s)
+{
+    const std::int16_t n = s.Control.IndComp;
+    if (n < 0 || static_cast<std::size_t>(n) >= s.Resultados.Secuencia.size())
+        throw model::Falla{model::NumeroFalla::Subindice};
+    return s.Resultados.Secuencia[static_cast<std::size_t>(n)];
+}
+
+void AcotaIndComp(model::Siro& s)
+{
+    if (s.Control.IndComp < 1 || s.Control.IndComp > s.Resultados.NroComponentes) s.Control.IndComp = 1;
+}
+
+void TomaComponente(model::Siro& s, const std::vector<std::string>& lista, std::size_t item)
+{
+    const auto lugar = std::find(lista.begin(), lista.end(), lista[item]) - lista.begin() + 1;
+    s.Control.IndComp = static_cast<std::int16_t>(
+        std::max<std::ptrdiff_t>(std::min<std::ptrdiff_t>(lugar, s.Resultados.NroComponentes), 1));
+}
 
 void FiltroTormenta(model::Siro& s, bool& Excluida)
 {

@@ -1,12 +1,26 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstddef>
 #include <string>
+#include <vector>
 
 #include "model/Siro.h"
 
-// What the windows of a series' results share.
+// What the windows of the results share: the component on show, the storms of a series.
 namespace results {
+
+/// Names of the components of the last run: Secuencia from 1 on.
+std::vector<std::string> Componentes(const model::Resultados& r);
+
+/// Name of the component IndComp. Throws Falla 9 where Secuencia has none.
+const std::string& NombreComponente(const model::Siro& s);
+
+/// IndComp becomes 1 where it is no component.
+void AcotaIndComp(model::Siro& s);
+
+/// Takes an item of a list of components as IndComp: the first of that name.
+void TomaComponente(model::Siro& s, const std::vector<std::string>& lista, std::size_t item);
 
 /// Takes storm IndSerie of the series as the storm in hand and tells whether the windows leave it out: a
 /// duration below PasoPp, or a duration or recurrence whose box in the configuration isn't ticked. A value

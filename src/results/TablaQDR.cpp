@@ -82,10 +82,8 @@ void PonResultados(FilaQDR& fila, auto&& valor)
 
 FilaQDR FilaDeComponente(const Siro& s)
 {
-    if (s.Control.IndComp < 0 || static_cast<std::size_t>(s.Control.IndComp) >= s.Resultados.Secuencia.size())
-        throw model::Falla{model::NumeroFalla::Subindice};
     FilaQDR fila{ClaseFila::Componente, {}};
-    fila.celdas[Nombre] = s.Resultados.Secuencia[static_cast<std::size_t>(s.Control.IndComp)];
+    fila.celdas[Nombre] = NombreComponente(s);
     fila.celdas[Numero] = Entero(s.Control.IndComp);
     PonTormenta(fila, s);
     PonResultados(fila, [&](const engine::ColumnaDeSerie& c) {

@@ -52,7 +52,8 @@ Grafico Llena(const dlgChart1& f, const Siro& s, std::int16_t N, std::int16_t pa
 
 void Abre(dlgChart1& f, const Siro& s)
 {
-    f = dlgChart1{.abierta = true};
+    f = dlgChart1{};
+    f.abierta = true;
     cmdHsMin(f, s);
     if (s.Tormenta.FormaPp == model::FormaLluvia::SeriePDR) f.abierta = false;
 }
@@ -75,11 +76,6 @@ void cmdHsMin(dlgChart1& f, const Siro& s)
 {
     f.MinutosEjeX = !f.MinutosEjeX;
     AlGraficoPp(f, s, f.pedido.N, f.pedido.paso);
-}
-
-void OKButton(dlgChart1& f)
-{
-    f.abierta = false;
 }
 
 bool HayTormentaConBloques(const Siro& s)

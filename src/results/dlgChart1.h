@@ -10,6 +10,7 @@
 #include "forms/Grafico.h"
 #include "forms/Rotulo.h"
 #include "model/Siro.h"
+#include "results/FormaDeGrafico.h"
 
 // Rules of the chart of the hyetograph, "Hietograma".
 namespace results {
@@ -41,11 +42,9 @@ struct Hietograma {
     bool operator==(const Hietograma&) const = default;
 };
 
-struct dlgChart1 {
-    bool abierta = false;
+struct dlgChart1 : FormaDeGrafico {
     bool MinutosEjeX = false;  ///< the time axis is in minutes; otherwise in hours
     Hietograma pedido{};       ///< what was asked for last
-    forms::Grafico Grafico{};
 };
 
 /// Opening, with nothing asked for yet: the axis turns from hours to minutes. In a series, which has no
@@ -59,7 +58,6 @@ void Muestra(dlgChart1& f, const model::Siro& s, const Hietograma& pedido);
 void AlGraficoPp(dlgChart1& f, const model::Siro& s, std::int16_t N, std::int16_t paso);
 
 void cmdHsMin(dlgChart1& f, const model::Siro& s);
-void OKButton(dlgChart1& f);
 
 /// The command of the menu: builds the hyetograph of the storm in hand. Returns what the chart has to show;
 /// nothing without a storm, without blocks, or with blocks of half a minute or less.

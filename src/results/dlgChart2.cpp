@@ -11,8 +11,10 @@
 #include "engine/modDistriPp.h"
 #include "forms/Evento.h"
 #include "model/Avisos.h"
+#include "model/Clases.h"
 #include "model/Numeros.h"
 #include "results/EjeTiempo.h"
+#include "results/SerieDeTormentas.h"
 #include "results/dlgChart1.h"
 
 namespace results {
@@ -53,8 +55,8 @@ struct FilaSerie {
     bool ejeSecundario;
 };
 
-/// A kind of component by the prefix of its name, and its chart.
-struct FilaClase {
+/// The chart of a kind of component, which the prefix of a name tells.
+struct FilaGrafico {
     std::string_view prefijo;
     TipoGrafico tipo;
     std::string_view ejeYSecundario;
@@ -65,37 +67,36 @@ struct FilaClase {
 
 // clang-format off
 // The legends of dams and lakes stand swapped against what the series draw: kept as they stand.
-constexpr auto Clases = std::to_array<FilaClase>({
-    {"u-", TipoGrafico::Combinacion, EjePrecipitacion, 2,
+constexpr auto Graficos = std::to_array<FilaGrafico>({
+    {model::DeClase<model::UEH>::prefijo, TipoGrafico::Combinacion, EjePrecipitacion, 2,
      {{{Dato::QSale, "Qsale", false}, {Dato::PpUEHPaso, "Pp", true}, {}}}},
-    {"c-", TipoGrafico::Linea, EjeCaudal, 2,
+    {model::DeClase<model::Cauce>::prefijo, TipoGrafico::Linea, EjeCaudal, 2,
      {{{Dato::QSale, "Qsale", false}, {Dato::QEntra, "Qentra", false}, {}}}},
-    {"r-", TipoGrafico::Linea, "H Embalse [m]", 3,
+    {model::DeClase<model::Represa>::prefijo, TipoGrafico::Linea, "H Embalse [m]", 3,
      {{{Dato::QSale, "Qentra", false}, {Dato::HRepresa, "HEmbalse", true}, {Dato::QEntra, "Qsale", false}}},
      NombresCambiados},
-    {"l-", TipoGrafico::Linea, "H Embalse [m]", 3,
+    {model::DeClase<model::Lago>::prefijo, TipoGrafico::Linea, "H Embalse [m]", 3,
      {{{Dato::QSale, "Qentra", false}, {Dato::HLago, "HEmbalse", true}, {Dato::QEntra, "Qsale", false}}},
      NombresCambiados},
 });
 // A name without one of these prefixes is never computed: its outflow stands alone.
-constexpr FilaClase SinClase = {"", TipoGrafico::Linea, "", 1, {{{Dato::QSale, "Qsale", false}, {}, {}}}};
+constexpr FilaGrafico SinGrafico = {"", TipoGrafico::Linea, "", 1, {{{Dato::QSale, "Qsale", false}, {}, {}}}};
 // clang-format on
 
-const FilaClase& ClaseDe(std::string_view nombre)
+const FilaGrafico& GraficoDe(std::string_view nombre)
 {
-    const auto* const fila = std::find_if(Clases.begin(), Clases.end(),
-                                          [&](const FilaClase& c) { return nombre.starts_with(c.prefijo); });
-    return fila == Clases.end() ? SinClase : *fila;
+    const auto* const fila = std::find_if(Graficos.begin(), Graficos.end(), [&](const FilaGrafico& c) {
+        return nombre.starts_with(c.prefijo);
+    });
+    return fila == Graficos.end() ? SinGrafico : *fila;
 }
 
 /// Number of the Represa or Lago of a name. 0, a row of zeros in every array, where there is none any more:
 /// another project may have been opened since the run.
-std::int16_t Numero(const Siro& s, std::string_view nombre)
+std::int16_t NumeroDeEmbalse(const model::Red& red, std::string_view nombre)
 {
-    for (const model::Represa& r : s.Red.ColRepresas)
-        if (r.NombreRepresa == nombre) return r.numRepresa;
-    for (const model::Lago& l : s.Red.ColLagos)
-        if (l.NombreLAGO == nombre) return l.numLAGO;
+    if (const int n = model::NumeroDe<model::Represa>(red, nombre)) return red.ColRepresas.Item(n).numRepresa;
+    if (const int n = model::NumeroDe<model::Lago>(red, nombre)) return red.ColLagos.Item(n).numLAGO;
     return 0;
 }
 
@@ -157,13 +158,6 @@ std::optional<std::int16_t> RelacionDePasos(const Siro& s)
     return model::Entero16(r);
 }
 
-const std::string& NombreComponente(const Siro& s)
-{
-    if (s.Control.IndComp < 0 || static_cast<std::size_t>(s.Control.IndComp) >= s.Resultados.Secuencia.size())
-        throw model::Falla{model::NumeroFalla::Subindice};
-    return s.Resultados.Secuencia[static_cast<std::size_t>(s.Control.IndComp)];
-}
-
 std::string Titulo(const Siro& s, const std::string& nombre)
 {
     const auto fin = s.Resultados.Salidas.begin() + 1 +
@@ -185,7 +179,7 @@ std::string Titulo(const Siro& s, const std::string& nombre)
 void Dibuja(dlgChart2& f, const Siro& s, std::int16_t N, std::int16_t paso)
 {
     const std::string& nombre = NombreComponente(s);
-    const FilaClase& clase = ClaseDe(nombre);
+    const FilaGrafico& clase = GraficoDe(nombre);
     const std::optional<std::int16_t> r = RelacionDePasos(s);
     if (!r) return model::Advierte(s, std::string(PasosDesiguales));
 
@@ -200,7 +194,7 @@ void Dibuja(dlgChart2& f, const Siro& s, std::int16_t N, std::int16_t paso)
     for (int i = 1; i <= N; ++i)
         grafico.categorias.push_back(Categoria(static_cast<std::int16_t>(i), paso, f.MinutosEjeX));
 
-    const Filas filas{s, s.Control.IndComp, Numero(s, nombre), *r};
+    const Filas filas{s, s.Control.IndComp, NumeroDeEmbalse(s.Red, nombre), *r};
     grafico.series.clear();
     for (std::size_t k = 0; k < clase.nroSeries; ++k)
         grafico.series.push_back(Columna(filas, clase.series[k], N));
@@ -213,11 +207,6 @@ void Dibuja(dlgChart2& f, const Siro& s, std::int16_t N, std::int16_t paso)
     f.componente = nombre;
     f.lblTitulo = Titulo(s, nombre);
     f.lblNota = Nota;
-}
-
-void AcotaIndComp(Siro& s)
-{
-    if (s.Control.IndComp < 1 || s.Control.IndComp > s.Resultados.NroComponentes) s.Control.IndComp = 1;
 }
 
 /// Runs the storm in hand over the network in memory.
@@ -253,9 +242,8 @@ void Abre(dlgChart2& f, Siro& s)
     f.Grafico.leyendaVisible = true;
     f.Grafico.ejeY = EjeCaudal;
     f.Grafico.ejeYSecundario = EjePrecipitacion;
-    if (!s.Resultados.Secuencia.empty())
-        f.lstCompos.assign(s.Resultados.Secuencia.begin() + 1, s.Resultados.Secuencia.end());
-    if (s.Control.IndComp < 1 || s.Control.IndComp > s.Resultados.NroComponentes) s.Control.IndComp = 1;
+    f.lstCompos = Componentes(s.Resultados);
+    AcotaIndComp(s);
     if (static_cast<std::size_t>(s.Control.IndComp) <= f.lstCompos.size())
         f.lstComposIndice = s.Control.IndComp - 1;
     lstCompos_Click(f, s);
@@ -267,10 +255,7 @@ void lstCompos_Click(dlgChart2& f, Siro& s)
 {
     if (s.Resultados.NroComponentes < 1) f.abierta = false;
     if (!f.abierta || f.lstComposIndice < 0) return;
-    const std::string& elegido = f.lstCompos[static_cast<std::size_t>(f.lstComposIndice)];
-    const auto lugar = std::find(f.lstCompos.begin(), f.lstCompos.end(), elegido) - f.lstCompos.begin();
-    s.Control.IndComp =
-        static_cast<std::int16_t>(std::clamp<std::ptrdiff_t>(lugar + 1, 1, s.Resultados.NroComponentes));
+    TomaComponente(s, f.lstCompos, static_cast<std::size_t>(f.lstComposIndice));
     Redibuja(f, s);
 }
 
@@ -311,21 +296,6 @@ void cmdHsMin(dlgChart2& f, const Siro& s)
 {
     f.MinutosEjeX = !f.MinutosEjeX;
     AlGraficoPp(f, s, f.ultimoN, f.ultimoPaso);
-}
-
-void cmdXmas(dlgChart2& f)
-{
-    MasDivisiones(f.Grafico.escala);
-}
-
-void cmdXmenos(dlgChart2& f)
-{
-    MenosDivisiones(f.Grafico.escala);
-}
-
-void OKButton(dlgChart2& f)
-{
-    f.abierta = false;
 }
 
 void AntesDeImprimir(dlgChart2& f)

@@ -9,6 +9,7 @@
 #include "engine/Memoria.h"
 #include "forms/Grafico.h"
 #include "model/Siro.h"
+#include "results/FormaDeGrafico.h"
 
 // Rules of the chart of the hydrographs, "Hidrograma": a component picked from a list with its rain, its
 // inflow or its water level, and two sliders that run the storm in hand again with another depth or duration.
@@ -34,8 +35,7 @@ struct VistaChart2 {
     bool operator==(const VistaChart2&) const = default;
 };
 
-struct dlgChart2 {
-    bool abierta = false;
+struct dlgChart2 : FormaDeGrafico {
     bool MinutosEjeX = false;                  ///< the time axis is in minutes; otherwise in hours
     std::int16_t ultimoN = 0, ultimoPaso = 0;  ///< rows, and step [min], of the last drawing
     std::vector<std::string> lstCompos{};      ///< Secuencia from 1 on
@@ -45,7 +45,6 @@ struct dlgChart2 {
     std::string lblPp{}, lblDur{}, lblTitulo{}, lblNota{};
     std::string componente{};  ///< name of the one that is drawn
     VistaChart2 vista{}, vistaGuardada{};
-    forms::Grafico Grafico{};
     engine::Memoria memoria{.VariasCorridas = true};  ///< what the sliders' runs have in common
 };
 
@@ -71,9 +70,6 @@ void sldDur_Mueve(dlgChart2& f, model::Siro& s, int valor);
 void sldPp_Mueve(dlgChart2& f, model::Siro& s, int valor);
 
 void cmdHsMin(dlgChart2& f, const model::Siro& s);
-void cmdXmas(dlgChart2& f);
-void cmdXmenos(dlgChart2& f);
-void OKButton(dlgChart2& f);
 
 /// What is printed is the chart alone; afterwards every control is as it was.
 void AntesDeImprimir(dlgChart2& f);

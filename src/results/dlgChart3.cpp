@@ -105,11 +105,10 @@ std::string NotaDelProyecto(const Siro& s)
 }
 
 /// Name of the component on show: what is printed and saved has no list to tell it.
-std::string NombreComponente(const Siro& s)
+std::string TituloDeComponente(const Siro& s)
 {
-    if (s.Control.IndComp < 0 || static_cast<std::size_t>(s.Control.IndComp) >= s.Resultados.Secuencia.size())
-        return {};
-    return s.Resultados.Secuencia[static_cast<std::size_t>(s.Control.IndComp)];
+    const auto n = static_cast<std::size_t>(s.Control.IndComp);
+    return n < s.Resultados.Secuencia.size() ? s.Resultados.Secuencia[n] : std::string{};
 }
 
 void LlenaCeldas(dlgChart3& f, Siro& s, const ColumnaDeSerie& magnitud, std::vector<forms::Serie>& curvas)
@@ -135,19 +134,14 @@ void EligeComponente(dlgChart3& f, Siro& s, int indice)
 {
     if (indice < 0 || static_cast<std::size_t>(indice) >= f.lstCompos.size()) return;
     f.lstComposIndice = indice;
-    const std::string& elegido = f.lstCompos[static_cast<std::size_t>(indice)];
-    const auto lugar = std::find(f.lstCompos.begin(), f.lstCompos.end(), elegido) - f.lstCompos.begin();
-    s.Control.IndComp = static_cast<std::int16_t>(
-        std::max<std::ptrdiff_t>(std::min<std::ptrdiff_t>(lugar + 1, s.Resultados.NroComponentes), 1));
+    TomaComponente(s, f.lstCompos, static_cast<std::size_t>(indice));
     f.componente = s.Control.IndComp;
 }
 
 void ListaComponentes(dlgChart3& f, const Siro& s)
 {
-    f.lstCompos.clear();
+    f.lstCompos = Componentes(s.Resultados);
     f.lstComposIndice = -1;
-    if (!s.Resultados.Secuencia.empty())
-        f.lstCompos.assign(s.Resultados.Secuencia.begin() + 1, s.Resultados.Secuencia.end());
 }
 
 /// Each UEH that comes into the list is picked at once, so that the last one stays.
@@ -197,7 +191,7 @@ void Abre(dlgChart3& f, Siro& s)
 void Inicializa(dlgChart3& f, Siro& s)
 {
     f.Notas = "Notas en Inicializa";
-    if (s.Control.IndComp < 1 || s.Control.IndComp > s.Resultados.NroComponentes) s.Control.IndComp = 1;
+    AcotaIndComp(s);
     f.ListaD.clear();
     f.ListaR.clear();
     if (s.Serie.NroSeriePDR < MinimoDeTormentas) return;
@@ -220,7 +214,7 @@ void AlGraficoPp(dlgChart3& f, Siro& s, std::int16_t NroD, std::int16_t paso)
     const auto filas = static_cast<std::size_t>(NroD);
     if (NroD < 0 || filas > f.ListaD.size()) throw model::Falla{model::NumeroFalla::Subindice};
 
-    f.Grafico.titulo = NombreComponente(s);
+    f.Grafico.titulo = TituloDeComponente(s);
     f.Grafico.marcasEjeX = true;
     f.Grafico.ejeY = magnitud->ejeY;
     f.Grafico.categorias.clear();
@@ -256,21 +250,6 @@ void lstPQEC_Click(dlgChart3& f, Siro& s)
         }
         Dibuja(f, s);
     });
-}
-
-void cmdXmas(dlgChart3& f)
-{
-    MasDivisiones(f.Grafico.escala);
-}
-
-void cmdXmenos(dlgChart3& f)
-{
-    MenosDivisiones(f.Grafico.escala);
-}
-
-void OKButton(dlgChart3& f)
-{
-    f.abierta = false;
 }
 
 void AntesDeImprimir(dlgChart3& f)

@@ -8,6 +8,7 @@
 
 #include "forms/Grafico.h"
 #include "model/Siro.h"
+#include "results/FormaDeGrafico.h"
 
 // Rules of the abacus of a series: for a component, peak, runoff or runoff coefficient against the duration
 // of the storm, a curve per recurrence.
@@ -23,8 +24,9 @@ struct VistaChart3 {
     bool operator==(const VistaChart3&) const = default;
 };
 
-struct dlgChart3 {
-    bool abierta = false;
+/// Row of the chart: duration; series: recurrence. The highest cell of a curve, its critical duration, is
+/// marked.
+struct dlgChart3 : FormaDeGrafico {
     std::vector<std::string> lstCompos{};  ///< names of Secuencia; of the UEHs alone where only they count
     int lstComposIndice = -1;              ///< item selected, from 0; -1: none
     std::vector<std::string> lstPQEC{};    ///< magnitudes
@@ -36,8 +38,6 @@ struct dlgChart3 {
     std::string Notas{};                 ///< shown nowhere
     std::string lblTitulo{}, lblNota{}, lblNotaVelmir{};
     VistaChart3 vista{}, vistaGuardada{};
-    /// Row: duration; series: recurrence. The highest cell of a curve, its critical duration, is marked.
-    forms::Grafico Grafico{};
 };
 
 /// Opening. Without a series the window stays empty, without components it closes itself.
@@ -58,10 +58,6 @@ void lstCompos_Click(dlgChart3& f, model::Siro& s);
 
 /// A magnitude was picked: runoff and coefficient offer the UEHs alone and pick the last one.
 void lstPQEC_Click(dlgChart3& f, model::Siro& s);
-
-void cmdXmas(dlgChart3& f);
-void cmdXmenos(dlgChart3& f);
-void OKButton(dlgChart3& f);
 
 /// What is printed is the chart alone; afterwards every control is as it was.
 void AntesDeImprimir(dlgChart3& f);

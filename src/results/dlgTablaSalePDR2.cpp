@@ -5,6 +5,7 @@
 #include <cstddef>
 
 #include "forms/Evento.h"
+#include "results/SerieDeTormentas.h"
 
 namespace results {
 
@@ -30,9 +31,8 @@ void Abre(dlgTablaSalePDR2& f, Siro& s)
     f = dlgTablaSalePDR2{};
     if (s.Resultados.NroComponentes < 1) return;
     f.abierta = true;
-    if (!s.Resultados.Secuencia.empty())
-        f.lstCompos.assign(s.Resultados.Secuencia.begin() + 1, s.Resultados.Secuencia.end());
-    if (s.Control.IndComp < 1 || s.Control.IndComp > s.Resultados.NroComponentes) s.Control.IndComp = 1;
+    f.lstCompos = Componentes(s.Resultados);
+    AcotaIndComp(s);
     if (static_cast<std::size_t>(s.Control.IndComp) <= f.lstCompos.size())
         f.lstComposIndice = s.Control.IndComp - 1;
     cmdAplicarCambios(f, s);

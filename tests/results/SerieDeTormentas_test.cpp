@@ -10,6 +10,46 @@
 namespace results {
 namespace {
 
+/// Three components of the last run.
+model::Siro DeTres()
+{
+    model::Siro s;
+    s.Resultados.Secuencia = {"", "u-1", "c-1", "c-1"};
+    s.Resultados.NroComponentes = 3;
+    return s;
+}
+
+TEST(ComponenteALaVista, UnNumeroQueNoEsDeNingunoVuelveAUno)
+{
+    model::Siro s = DeTres();
+    for (const auto& [antes, despues] :
+         std::vector<std::pair<std::int16_t, std::int16_t>>{{-1, 1}, {0, 1}, {1, 1}, {3, 3}, {4, 1}}) {
+        s.Control.IndComp = antes;
+        AcotaIndComp(s);
+        EXPECT_EQ(s.Control.IndComp, despues) << antes;
+    }
+}
+
+TEST(ComponenteALaVista, DeDosDelMismoNombreSeTomaElPrimero)
+{
+    model::Siro s = DeTres();
+    const std::vector<std::string> lista = Componentes(s.Resultados);
+    EXPECT_EQ(lista, (std::vector<std::string>{"u-1", "c-1", "c-1"}));
+    TomaComponente(s, lista, 2);
+    EXPECT_EQ(s.Control.IndComp, 2);
+    EXPECT_EQ(NombreComponente(s), "c-1");
+    s.Resultados.NroComponentes = 1;  // the list is of another run
+    TomaComponente(s, lista, 2);
+    EXPECT_EQ(s.Control.IndComp, 1);
+}
+
+TEST(ComponenteALaVista, SinSecuenciaNoHayNombres)
+{
+    model::Siro s;
+    EXPECT_TRUE(Componentes(s.Resultados).empty());
+    EXPECT_EQ(apoyo::NumeroDeFalla([&] { NombreComponente(s); }), 9);
+}
+
 class Filtro : public pruebas::SerieDePrueba {
   protected:
     /// Whether a storm is left out.
