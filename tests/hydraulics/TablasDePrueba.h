@@ -51,13 +51,13 @@ class EstadoConEmbalses {
     void EligeLago(int item) { Elige(true, item); }
     void Elige(bool unLago, int item = 1)
     {
-        lago = unLago;
+        enLago = unLago;
         elegido = item;
     }
     /// The one chosen last, as the lookups see it now.
     [[nodiscard]] hydraulics::CompActual Elegido() const
     {
-        return lago ? hydraulics::EnMano(s.Anfitrion, s.Red, s.Red.ColLagos.Item(elegido))
+        return enLago ? hydraulics::EnMano(s.Anfitrion, s.Red, s.Red.ColLagos.Item(elegido))
                     : hydraulics::EnMano(s.Anfitrion, s.Red, s.Red.ColRepresas.Item(elegido));
     }
 
@@ -113,7 +113,7 @@ class EstadoConEmbalses {
     apoyo::AnfitrionPrueba anfitrion{};
     apoyo::DiscoPrueba disco{};
     model::Siro s{};
-    bool lago = false;
+    bool enLago = false;
     int elegido = 1;
 };
 
