@@ -168,7 +168,8 @@ void Arrastre(benchmark::State& estado)
     QMouseEvent aprieta(QEvent::MouseButtonPress, desde, e.lienzo.mapToGlobal(desde), Qt::LeftButton,
                         Qt::LeftButton, {});
     QCoreApplication::sendEvent(&e.lienzo, &aprieta);
-    if (e.f.gesto.arrastra != editor::Arrastra::IconoUEH) throw std::runtime_error("no UEH under the pointer");
+    if (e.f.gesto.arrastra != editor::Arrastra::IconoUEH)
+        throw std::runtime_error("no UEH under the pointer");
     int paso = 0;
     for (auto _ : estado)
         e.Mueve(desde + QPointF(++paso % 40, 0));

@@ -58,7 +58,7 @@ class EstadoConEmbalses {
     [[nodiscard]] hydraulics::CompActual Elegido() const
     {
         return enLago ? hydraulics::EnMano(s.Anfitrion, s.Red, s.Red.ColLagos.Item(elegido))
-                    : hydraulics::EnMano(s.Anfitrion, s.Red, s.Red.ColRepresas.Item(elegido));
+                      : hydraulics::EnMano(s.Anfitrion, s.Red, s.Red.ColRepresas.Item(elegido));
     }
 
     /// H-A-S table of the Represa and of the Lago with that number.
