@@ -52,7 +52,7 @@ foreach(archivo IN ITEMS paquete/siro.desktop paquete/siro.xml paquete/org.siro.
         falta(${archivo} "doesn't name ${tipo}")
     endif()
 endforeach()
-lee(src/model/VidaProyecto.h texto)
+lee(src/model/Configuracion.h texto)
 string(REGEX MATCH "TerminacionConf = \"([^\"]*)\"" _ "${texto}")
 set(terminacion "${CMAKE_MATCH_1}")
 lee(paquete/siro.xml texto)

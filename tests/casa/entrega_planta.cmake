@@ -12,7 +12,7 @@ set(arbol ${LUGAR}/entrega_${CASO})
 file(REMOVE_RECURSE ${arbol})
 file(COPY ${RAIZ}/paquete DESTINATION ${arbol})
 file(COPY ${RAIZ}/src/batch/Opciones.cpp DESTINATION ${arbol}/src/batch)
-file(COPY ${RAIZ}/src/model/VidaProyecto.h DESTINATION ${arbol}/src/model)
+file(COPY ${RAIZ}/src/model/Configuracion.h DESTINATION ${arbol}/src/model)
 
 function(cambia archivo de a)
     file(READ ${arbol}/${archivo} texto)
