@@ -110,7 +110,7 @@ RC_GTEST_PROP(Curva, DaLosBitsDeLaBusquedaSimple, (std::uint32_t semilla, bool l
         RC_ASSERT(Bits(S.Valor(h, filaS)) == Bits(simple));
         const auto fila = static_cast<std::size_t>(filaS);
         RC_ASSERT(tabla[fila].H <= h);
-        RC_ASSERT(fila + 1 == tabla.size() || tabla[fila + 1].H > h);
+        RC_ASSERT((fila + 1 == tabla.size() || tabla[fila + 1].H > h));
     }
     RC_ASSERT(e.Callado());
 }
