@@ -61,6 +61,12 @@ void TomaDistribucion(const dlgPp& f, Siro& s)
     if (f.optDistriPp >= 0) s.Tormenta.DistriPp = static_cast<std::int16_t>(f.optDistriPp);
 }
 
+/// An option by its number; none for a number that none has.
+int Opcion(int i, std::size_t cuantas)
+{
+    return i < static_cast<int>(cuantas) ? std::max(i, -1) : -1;
+}
+
 void MuestraCampos(dlgPp& f, const Siro& s, std::span<const CampoPp> campos)
 {
     for (const CampoPp& campo : campos)
@@ -199,9 +205,9 @@ void Abre(dlgPp& f, Siro& s)
     MuestraCampos(f, s, CamposDeTormenta);
     if (s.Tormenta.PpTormenta == 0) f.txtPp = PorDefecto;
     if (s.Tormenta.DurTormenta == 0) f.txtDur = PorDefecto;
-    f.optformaPp = static_cast<int>(s.Tormenta.FormaPp);
-    f.optDistriPp = s.Tormenta.DistriPp;
-    f.optTablaPDR = s.Tormenta.TablaPDR;
+    f.optformaPp = Opcion(s.Tormenta.FormaPp, FormasPp.size());
+    f.optDistriPp = Opcion(s.Tormenta.DistriPp, DistribucionesPp.size());
+    f.optTablaPDR = Opcion(s.Tormenta.TablaPDR, TablasPDR.size());
     f.mostrados = f;
     if (Forma(f) == FormaLluvia::Escrita) LeeLista(f, s);  // form 1 reads it with its state
     Evento(s, [&] { EstadoFormaPp(f, s); });

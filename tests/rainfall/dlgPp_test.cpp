@@ -382,6 +382,8 @@ TEST_F(DialogoPp, UnaFormaDeMemoriaFueraDeLaTablaValeComo0)
     Abre(f, s);
     EXPECT_EQ(s.Tormenta.FormaPp, 0);
     EXPECT_EQ(s.Tormenta.DistriPp, 9);  // no option is ticked, so none is taken
+    EXPECT_EQ(f.optDistriPp, -1);
+    EXPECT_FALSE(f.Visible("lblValidez"));
 }
 
 // --- real storm ---
