@@ -256,7 +256,7 @@ RC_GTEST_PROP(PropiedadesRegistro, SeLeaLoQueSeLeaLasLecturasEstanEnOrdenYLosDud
     RC_ASSERT(r.lecturas.empty() == !r.motivo.empty());
     for (std::size_t i = 0; i < r.lecturas.size(); ++i) {
         RC_ASSERT(r.lecturas[i].lamina >= 0);
-        RC_ASSERT(i == 0 || r.lecturas[i].segundo >= r.lecturas[i - 1].segundo);
+        RC_ASSERT((i == 0 || r.lecturas[i].segundo >= r.lecturas[i - 1].segundo));
     }
     for (std::size_t i = 1; i < r.dudosos.size(); ++i)
         RC_ASSERT(r.dudosos[i].nro > r.dudosos[i - 1].nro);
