@@ -384,6 +384,12 @@ TEST_F(DialogoPp, UnaFormaDeMemoriaFueraDeLaTablaValeComo0)
     EXPECT_EQ(s.Tormenta.DistriPp, 9);  // no option is ticked, so none is taken
     EXPECT_EQ(f.optDistriPp, -1);
     EXPECT_FALSE(f.Visible("lblValidez"));
+
+    s.Tormenta.FormaPp = 5;
+    s.Tormenta.TablaPDR = 4;
+    Abre(f, s);
+    EXPECT_EQ(s.Tormenta.FormaPp, 0);
+    EXPECT_EQ(f.optTablaPDR, -1);
 }
 
 // --- real storm ---
