@@ -19,6 +19,8 @@
 #include "model/Configuracion.h"
 #include "model/DirPropio.h"
 #include "model/Falla.h"
+#include "model/Siro.h"
+#include "model/Tormenta.h"
 #include "model/VidaProyecto.h"
 
 namespace batch {

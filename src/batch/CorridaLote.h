@@ -5,7 +5,7 @@
 
 #include "batch/AnfitrionLote.h"
 #include "batch/Opciones.h"
-#include "model/Siro.h"
+#include "model/SiroDeclarado.h"
 
 namespace batch {
 

@@ -9,6 +9,8 @@
 
 #include "engine/ColumnasDeSerie.h"
 #include "engine/mdlSeriePDR.h"
+#include "model/Disco.h"
+#include "model/Siro.h"
 
 namespace batch {
 namespace {

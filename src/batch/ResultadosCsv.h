@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "model/Siro.h"
+#include "model/SiroDeclarado.h"
 
 // Results as CSV: UTF-8, LF, a point as decimal sign, a field that a kind of component hasn't got left empty.
 namespace batch {

@@ -4,6 +4,7 @@
 
 #include "editor/ClasesConIcono.h"
 #include "editor/Edicion.h"
+#include "editor/EnMano.h"
 #include "editor/TextosEdicion.h"
 #include "editor/frmUEHs.h"
 #include "model/Avisos.h"

@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "editor/Edicion.h"
+#include "editor/EnMano.h"
 #include "editor/frmUEHs.h"
 
 namespace editor {

@@ -4,7 +4,7 @@
 #include <functional>
 
 #include "editor/Dibujo.h"
-#include "model/Siro.h"
+#include "model/SiroDeclarado.h"
 
 // All that a user can do to the network in the graphic editor. Mouse, menu, keys and tests call the same
 // routines. Each leaves the drawing redone; faults go to the caller.

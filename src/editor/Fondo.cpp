@@ -6,6 +6,7 @@
 #include "model/Avisos.h"
 #include "model/Disco.h"
 #include "model/Falla.h"
+#include "model/Siro.h"
 
 namespace editor {
 

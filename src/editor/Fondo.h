@@ -5,7 +5,7 @@
 #include <string>
 
 #include "editor/Vista.h"
-#include "model/Siro.h"
+#include "model/SiroDeclarado.h"
 
 // The background image of the editor.
 namespace editor {

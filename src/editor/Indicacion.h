@@ -6,7 +6,7 @@
 
 #include "editor/Botones.h"
 #include "editor/Dibujo.h"
-#include "model/Siro.h"
+#include "model/SiroDeclarado.h"
 
 namespace editor {
 

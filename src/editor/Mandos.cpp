@@ -3,6 +3,7 @@
 #include <string>
 
 #include "editor/Edicion.h"
+#include "editor/EnMano.h"
 #include "editor/Resguardo.h"
 #include "editor/frmUEHs.h"
 #include "engine/ComponenteFinal.h"

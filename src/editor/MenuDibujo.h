@@ -4,7 +4,7 @@
 #include <span>
 #include <string_view>
 
-#include "model/Siro.h"
+#include "model/SiroDeclarado.h"
 
 // The pop-up menu of the canvas, mnu_DibujoSec.
 namespace editor {

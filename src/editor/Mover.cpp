@@ -5,6 +5,7 @@
 #include "editor/Alcance.h"
 #include "editor/ClasesConIcono.h"
 #include "editor/Edicion.h"
+#include "editor/EnMano.h"
 #include "editor/Tender.h"
 #include "editor/TextosEdicion.h"
 #include "editor/frmUEHs.h"

@@ -4,6 +4,7 @@
 #include <cstddef>
 
 #include "editor/Edicion.h"
+#include "editor/EnMano.h"
 #include "editor/frmUEHs.h"
 #include "model/Numeros.h"
 

@@ -5,6 +5,7 @@
 
 #include "editor/Alcance.h"
 #include "editor/ClasesConIcono.h"
+#include "editor/EnMano.h"
 #include "editor/RotulosDeCauces.h"
 #include "editor/frmUEHs.h"
 #include "model/Numeros.h"

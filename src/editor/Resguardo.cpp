@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "editor/EnMano.h"
 #include "editor/frmUEHs.h"
 #include "engine/ComponenteFinal.h"
 

@@ -3,7 +3,8 @@
 
 #include <string_view>
 
-#include "model/Siro.h"
+#include "model/Anfitrion.h"
+#include "model/SiroDeclarado.h"
 
 // What becomes of a drawing that isn't saved when a command of another window would lose it.
 namespace editor {

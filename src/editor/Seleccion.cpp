@@ -4,6 +4,7 @@
 
 #include "editor/Alcance.h"
 #include "editor/Edicion.h"
+#include "editor/EnMano.h"
 #include "editor/frmUEHs.h"
 #include "model/Numeros.h"
 

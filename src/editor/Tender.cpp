@@ -7,6 +7,7 @@
 
 #include "editor/Alcance.h"
 #include "editor/ClasesConIcono.h"
+#include "editor/EnMano.h"
 #include "editor/TextosEdicion.h"
 #include "model/Avisos.h"
 

@@ -8,6 +8,7 @@
 #include "editor/NombreComponente.h"
 #include "editor/frmUEHs.h"
 #include "model/Numeros.h"
+#include "model/Siro.h"
 
 // Drawing a reach, from its mouth upstream.
 namespace editor {

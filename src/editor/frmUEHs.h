@@ -12,13 +12,12 @@
 #include "editor/Botones.h"
 #include "editor/Cauces.h"
 #include "editor/Dibujo.h"
-#include "editor/EnMano.h"
 #include "editor/Fondo.h"
 #include "editor/Gesto.h"
 #include "editor/Historia.h"
 #include "editor/Vista.h"
 #include "editor/modCalculoLongArea.h"
-#include "model/Siro.h"
+#include "model/SiroDeclarado.h"
 
 // Rules of the graphic editor of the network. Points of the canvas, buttons and keys come in, a list of
 // primitives comes out; the selection stands in the run-wide state.

@@ -16,6 +16,7 @@
 
 #include "editor/MenuDibujo.h"
 #include "model/Avisos.h"
+#include "model/Siro.h"
 
 namespace editor {
 

@@ -8,6 +8,7 @@
 
 #include "model/Avisos.h"
 #include "model/Numeros.h"
+#include "model/Siro.h"
 
 namespace editor {
 

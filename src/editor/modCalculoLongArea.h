@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "editor/Dibujo.h"
-#include "model/Siro.h"
+#include "model/SiroDeclarado.h"
 
 // Length of a polyline, perimeter and area of a polygon, measured over the drawing or its background image.
 // Nothing of it changes the network.

@@ -5,6 +5,7 @@
 #include <unordered_map>
 
 #include "model/Clases.h"
+#include "model/Siro.h"
 
 namespace engine {
 

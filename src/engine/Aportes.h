@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "model/Siro.h"
+#include "model/SiroDeclarado.h"
 
 namespace engine {
 

@@ -7,6 +7,8 @@
 #include "model/Avisos.h"
 #include "model/Clases.h"
 #include "model/Numeros.h"
+#include "model/Resultados.h"
+#include "model/Siro.h"
 
 namespace engine {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "model/Siro.h"
+#include "model/SiroDeclarado.h"
 
 namespace engine {
 

@@ -8,6 +8,7 @@
 
 #include "engine/Corrida.h"
 #include "hydraulics/mdlFQs.h"
+#include "model/Siro.h"
 
 namespace engine {
 

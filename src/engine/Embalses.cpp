@@ -10,6 +10,7 @@
 #include "hydraulics/mdlHAS.h"
 #include "model/Clases.h"
 #include "model/Numeros.h"
+#include "model/Siro.h"
 
 namespace engine {
 

@@ -8,6 +8,7 @@
 #include "engine/Resumen.h"
 #include "engine/Totales.h"
 #include "model/Numeros.h"
+#include "model/Siro.h"
 
 namespace engine {
 

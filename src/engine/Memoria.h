@@ -8,6 +8,7 @@
 
 #include "engine/Aportes.h"
 #include "engine/FormulasUEH.h"
+#include "model/Resultados.h"
 
 namespace engine {
 

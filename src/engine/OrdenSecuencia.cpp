@@ -8,6 +8,7 @@
 
 #include "model/Clases.h"
 #include "model/Numeros.h"
+#include "model/Siro.h"
 
 namespace engine {
 

@@ -4,6 +4,7 @@
 #include "engine/ComponenteFinal.h"
 #include "engine/OrdenSecuencia.h"
 #include "model/Clases.h"
+#include "model/Siro.h"
 
 namespace engine {
 

@@ -9,6 +9,8 @@
 #include "engine/FormulasUEH.h"
 #include "engine/modDistriPp.h"
 #include "model/Numeros.h"
+#include "model/Siro.h"
+#include "model/Tormenta.h"
 
 namespace engine {
 

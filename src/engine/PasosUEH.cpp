@@ -5,6 +5,7 @@
 #include "engine/PasosRapidos.h"
 #include "engine/modDistriPp.h"
 #include "model/Numeros.h"
+#include "model/Siro.h"
 
 namespace engine {
 

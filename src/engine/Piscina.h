@@ -9,6 +9,7 @@
 #include "hydraulics/Biseccion.h"
 #include "hydraulics/mdlFQs.h"
 #include "model/Numeros.h"
+#include "model/Siro.h"
 
 // The arithmetic of the level pool, with whatever its heights are looked for and its rows are read by.
 namespace engine {

@@ -3,6 +3,7 @@
 #include "hydraulics/mdlFQs.h"
 #include "hydraulics/mdlHAS.h"
 #include "model/Avisos.h"
+#include "model/Siro.h"
 
 namespace engine {
 

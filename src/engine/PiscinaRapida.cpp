@@ -6,6 +6,7 @@
 
 #include "engine/Piscina.h"
 #include "hydraulics/Curva.h"
+#include "model/Siro.h"
 
 namespace engine {
 

@@ -4,6 +4,7 @@
 #include "engine/EmbalseEnMano.h"
 #include "engine/Resumen.h"
 #include "model/Numeros.h"
+#include "model/Siro.h"
 
 namespace engine {
 

@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "model/Numeros.h"
+#include "model/Siro.h"
 
 namespace engine {
 

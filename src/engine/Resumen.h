@@ -3,6 +3,7 @@
 
 #include "engine/Corrida.h"
 #include "engine/Totales.h"
+#include "model/Siro.h"
 
 namespace engine {
 

@@ -4,6 +4,7 @@
 #include "hydraulics/mdlHAS.h"
 #include "model/Avisos.h"
 #include "model/Numeros.h"
+#include "model/Siro.h"
 
 namespace engine {
 

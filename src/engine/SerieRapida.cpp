@@ -12,7 +12,10 @@
 #include "engine/Memoria.h"
 #include "engine/mdlProceso1.h"
 #include "engine/modDistriPp.h"
+#include "model/Anfitrion.h"
 #include "model/Numeros.h"
+#include "model/Siro.h"
+#include "model/Tormenta.h"
 
 namespace engine {
 

@@ -5,7 +5,7 @@
 #include <functional>
 #include <vector>
 
-#include "model/Siro.h"
+#include "model/SiroDeclarado.h"
 
 namespace engine {
 

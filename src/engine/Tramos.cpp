@@ -8,7 +8,9 @@
 #include "engine/Muskingum.h"
 #include "engine/Resumen.h"
 #include "engine/Totales.h"
+#include "model/Cauce.h"
 #include "model/Numeros.h"
+#include "model/Siro.h"
 
 namespace engine {
 

@@ -11,6 +11,7 @@
 #include "engine/Resumen.h"
 #include "engine/Tramos.h"
 #include "model/Numeros.h"
+#include "model/Siro.h"
 #include "model/Texto.h"
 
 namespace engine {

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "engine/Memoria.h"
-#include "model/Siro.h"
+#include "model/SiroDeclarado.h"
 
 namespace engine {
 

@@ -13,6 +13,7 @@
 #include "model/Avisos.h"
 #include "model/Numeros.h"
 #include "model/Registros.h"
+#include "model/Siro.h"
 
 namespace engine {
 

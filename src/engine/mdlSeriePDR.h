@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "model/Siro.h"
+#include "model/SiroDeclarado.h"
 
 namespace engine {
 

@@ -9,6 +9,8 @@
 #include "model/ArchivosTormenta.h"
 #include "model/Avisos.h"
 #include "model/Numeros.h"
+#include "model/Siro.h"
+#include "model/Tormenta.h"
 
 namespace engine {
 

@@ -8,6 +8,7 @@
 #include "model/Avisos.h"
 #include "model/Componentes.h"
 #include "model/Configuracion.h"
+#include "model/Siro.h"
 #include "model/TablasEmbalse.h"
 #include "model/Texto.h"
 

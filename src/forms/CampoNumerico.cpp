@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "model/Avisos.h"
+#include "model/Siro.h"
 
 namespace forms {
 

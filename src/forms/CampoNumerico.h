@@ -10,7 +10,7 @@
 #include <type_traits>
 
 #include "model/Numeros.h"
-#include "model/Siro.h"
+#include "model/SiroDeclarado.h"
 #include "model/Texto.h"
 
 // Number fields of a form as rows of a table: control, unit, limits, message, what is done with a text that

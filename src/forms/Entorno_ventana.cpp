@@ -19,6 +19,7 @@
 #include "forms/ListaDeAvisos_ventana.h"
 #include "forms/SinComillas_ventana.h"
 #include "model/Avisos.h"
+#include "model/Siro.h"
 
 namespace forms {
 namespace {

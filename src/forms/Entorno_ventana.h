@@ -11,7 +11,7 @@
 
 #include "forms/Recogida.h"
 #include "model/Falla.h"
-#include "model/Siro.h"
+#include "model/SiroDeclarado.h"
 
 class QDialog;
 class QMdiArea;

@@ -10,6 +10,7 @@
 #include "forms/Pantalla_ventana.h"
 #include "forms/Textos_ventana.h"
 #include "model/Avisos.h"
+#include "model/Siro.h"
 
 namespace forms {
 namespace {

@@ -9,6 +9,7 @@
 #include "model/Avisos.h"
 #include "model/Falla.h"
 #include "model/Numeros.h"
+#include "model/Siro.h"
 #include "model/Texto.h"
 
 namespace forms {

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "forms/ReglasGrilla.h"
-#include "model/Siro.h"
+#include "model/SiroDeclarado.h"
 
 // A grid of cells as every form of the program has it: cells hold text, keys build it, and a block goes to a
 // spreadsheet and comes back. What tells one grid from another is a description.

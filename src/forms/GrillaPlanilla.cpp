@@ -11,6 +11,7 @@
 #include "forms/NumerosDeBloque.h"
 #include "model/Avisos.h"
 #include "model/Numeros.h"
+#include "model/Siro.h"
 
 // The way of a grid's cells to a spreadsheet and back.
 namespace forms {

@@ -19,6 +19,7 @@
 #include "forms/Textos_ventana.h"
 #include "forms/Trazo_ventana.h"
 #include "model/Avisos.h"
+#include "model/Siro.h"
 
 namespace forms {
 namespace {

@@ -11,6 +11,7 @@
 
 #include "forms/Textos_ventana.h"
 #include "model/Avisos.h"
+#include "model/Siro.h"
 
 namespace forms {
 namespace {

@@ -3,6 +3,8 @@
 
 #include <utility>
 
+#include "model/Siro.h"
+
 namespace forms {
 
 namespace {

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "model/Siro.h"
+#include "model/SiroDeclarado.h"
 
 // What a picture or a table says of itself once it has left the program.
 namespace forms {

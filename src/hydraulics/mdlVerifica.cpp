@@ -12,6 +12,7 @@
 #include "hydraulics/mdlHAS.h"
 #include "model/Avisos.h"
 #include "model/Numeros.h"
+#include "model/Siro.h"
 #include "model/TablasEmbalse.h"
 #include "model/Texto.h"
 

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "model/Siro.h"
+#include "model/SiroDeclarado.h"
 
 // The two commands that list the tables and functions of Represas on the Slate, to be looked at before a run.
 // They add to TextoPizarra, clear nothing, and open the Slate, which switches it on. Without Represas they do

@@ -11,7 +11,7 @@
 #include "forms/Grafico.h"
 #include "forms/Grilla.h"
 #include "forms/Rotulo.h"
-#include "model/Siro.h"
+#include "model/SiroDeclarado.h"
 #include "rainfall/dlgPp.h"
 
 // Rules of the editor of the three personal temporal distributions: the share of a storm's rain in each of a

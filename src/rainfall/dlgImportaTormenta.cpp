@@ -9,7 +9,9 @@
 
 #include "forms/CampoNumerico.h"
 #include "model/Avisos.h"
+#include "model/Disco.h"
 #include "model/Numeros.h"
+#include "model/Siro.h"
 #include "rainfall/VistaLluvia.h"
 
 namespace rainfall {

@@ -8,7 +8,7 @@
 #include "forms/Grafico.h"
 #include "forms/Grilla.h"
 #include "forms/Rotulo.h"
-#include "model/Siro.h"
+#include "model/SiroDeclarado.h"
 #include "rainfall/ImportaTormenta.h"
 #include "rainfall/dlgPp.h"
 

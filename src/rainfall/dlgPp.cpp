@@ -10,7 +10,9 @@
 #include "forms/Evento.h"
 #include "model/Avisos.h"
 #include "model/Numeros.h"
+#include "model/Siro.h"
 #include "model/Texto.h"
+#include "model/Tormenta.h"
 #include "rainfall/EstadosDePp.h"
 
 namespace rainfall {

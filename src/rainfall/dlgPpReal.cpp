@@ -8,7 +8,9 @@
 #include "forms/Evento.h"
 #include "model/Avisos.h"
 #include "model/Numeros.h"
+#include "model/Siro.h"
 #include "model/Texto.h"
+#include "model/Tormenta.h"
 #include "rainfall/Calendario.h"
 #include "rainfall/VistaLluvia.h"
 

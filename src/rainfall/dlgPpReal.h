@@ -12,7 +12,7 @@
 #include "forms/Grilla.h"
 #include "forms/Rotulo.h"
 #include "model/ArchivosTormenta.h"
-#include "model/Siro.h"
+#include "model/SiroDeclarado.h"
 #include "rainfall/ImportaTormenta.h"
 #include "rainfall/dlgPp.h"
 

@@ -8,7 +8,9 @@
 #include "model/Avisos.h"
 #include "model/Componentes.h"
 #include "model/Numeros.h"
+#include "model/Siro.h"
 #include "model/Texto.h"
+#include "model/UEH.h"
 #include "rainfall/VistaLluvia.h"
 
 namespace rainfall {

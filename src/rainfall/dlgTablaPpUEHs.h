@@ -10,7 +10,7 @@
 #include "forms/Grafico.h"
 #include "forms/Grilla.h"
 #include "forms/Rotulo.h"
-#include "model/Siro.h"
+#include "model/SiroDeclarado.h"
 #include "rainfall/dlgPp.h"
 
 // Rules of the table of a storm that isn't uniform over the basin: a depth for each UEH, one duration and

@@ -10,8 +10,10 @@
 #include "engine/modDistriPp.h"
 #include "forms/Evento.h"
 #include "model/ArchivosTormenta.h"
+#include "model/Arreglo.h"
 #include "model/Avisos.h"
 #include "model/Numeros.h"
+#include "model/Siro.h"
 
 namespace rainfall {
 

@@ -11,7 +11,7 @@
 #include "forms/Grafico.h"
 #include "forms/Grilla.h"
 #include "forms/Rotulo.h"
-#include "model/Siro.h"
+#include "model/SiroDeclarado.h"
 #include "rainfall/dlgPp.h"
 
 // Rules of the editor of the tables of synthetic storms that a series goes through: a storm a row, by depth,

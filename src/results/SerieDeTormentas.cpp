@@ -5,7 +5,12 @@
 #include <array>
 #include <cstddef>
 
+#include "model/Configuracion.h"
+#include "model/Disco.h"
 #include "model/Falla.h"
+#include "model/Resultados.h"
+#include "model/Siro.h"
+#include "model/Tormenta.h"
 #include "model/VidaProyecto.h"
 
 namespace results {

@@ -5,7 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "model/Siro.h"
+#include "model/Resultados.h"
+#include "model/SiroDeclarado.h"
 
 // What the windows of the results share: the component on show, the storms of a series.
 namespace results {

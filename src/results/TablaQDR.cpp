@@ -7,6 +7,7 @@
 #include "forms/Procedencia.h"
 #include "model/Falla.h"
 #include "model/Numeros.h"
+#include "model/Siro.h"
 #include "model/Texto.h"
 #include "results/SerieDeTormentas.h"
 

@@ -11,7 +11,7 @@
 #include "engine/ColumnasDeSerie.h"
 #include "forms/Planilla.h"
 #include "forms/Rotulo.h"
-#include "model/Siro.h"
+#include "model/SiroDeclarado.h"
 
 // The grid of a series' results, MSFlexGridTablaSaleQDR: what it holds, how it is filled, sorted and taken
 // elsewhere.

@@ -6,6 +6,8 @@
 #include "engine/modDistriPp.h"
 #include "model/Avisos.h"
 #include "model/Numeros.h"
+#include "model/Siro.h"
+#include "model/Tormenta.h"
 #include "results/EjeTiempo.h"
 
 namespace results {

@@ -9,7 +9,7 @@
 
 #include "forms/Grafico.h"
 #include "forms/Rotulo.h"
-#include "model/Siro.h"
+#include "model/SiroDeclarado.h"
 #include "results/FormaDeGrafico.h"
 
 // Rules of the chart of the hyetograph, "Hietograma".

@@ -8,7 +8,7 @@
 
 #include "engine/Memoria.h"
 #include "forms/Grafico.h"
-#include "model/Siro.h"
+#include "model/SiroDeclarado.h"
 #include "results/FormaDeGrafico.h"
 
 // Rules of the chart of the hydrographs, "Hidrograma": a component picked from a list with its rain, its

@@ -9,6 +9,7 @@
 #include "forms/Evento.h"
 #include "model/Falla.h"
 #include "model/Numeros.h"
+#include "model/Siro.h"
 #include "results/SerieDeTormentas.h"
 
 namespace results {

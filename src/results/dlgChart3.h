@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "forms/Grafico.h"
-#include "model/Siro.h"
+#include "model/SiroDeclarado.h"
 #include "results/FormaDeGrafico.h"
 
 // Rules of the abacus of a series: for a component, peak, runoff or runoff coefficient against the duration

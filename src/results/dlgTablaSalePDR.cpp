@@ -2,6 +2,7 @@
 #include "results/dlgTablaSalePDR.h"
 
 #include "forms/Evento.h"
+#include "model/Siro.h"
 
 namespace results {
 

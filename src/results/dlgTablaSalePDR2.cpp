@@ -5,6 +5,7 @@
 #include <cstddef>
 
 #include "forms/Evento.h"
+#include "model/Siro.h"
 #include "results/SerieDeTormentas.h"
 
 namespace results {

@@ -5,6 +5,7 @@
 
 #include "model/Avisos.h"
 #include "model/Numeros.h"
+#include "model/Siro.h"
 #include "model/Texto.h"
 
 namespace results {

@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "forms/Rotulo.h"
-#include "model/Siro.h"
+#include "model/SiroDeclarado.h"
 
 // Rules of the Slate, the window that shows the tables of a run as the engine builds them.
 namespace results {

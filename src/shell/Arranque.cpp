@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/Arranque.h"
 
+#include "model/Configuracion.h"
 #include "model/DirPropio.h"
+#include "model/Siro.h"
 #include "model/VidaProyecto.h"
 
 namespace shell {

@@ -10,6 +10,8 @@
 #include "model/Avisos.h"
 #include "model/Clases.h"
 #include "model/Disco.h"
+#include "model/Siro.h"
+#include "model/Tormenta.h"
 #include "model/VidaProyecto.h"
 #include "results/dlgChart2.h"
 

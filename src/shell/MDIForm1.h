@@ -10,7 +10,7 @@
 #include <string_view>
 
 #include "forms/Rotulo.h"
-#include "model/Siro.h"
+#include "model/SiroDeclarado.h"
 #include "results/dlgChart1.h"
 
 // Rules of the main window: its menu and its toolbar as tables, the project's labels, and what each command

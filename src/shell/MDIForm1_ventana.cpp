@@ -22,6 +22,7 @@
 
 #include "forms/Pantalla_ventana.h"
 #include "forms/Textos_ventana.h"
+#include "model/Configuracion.h"
 #include "model/VidaProyecto.h"
 #include "shell/Iconos_ventana.h"
 #include "shell/RotuloProyecto_ventana.h"

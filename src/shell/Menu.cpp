@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "hydraulics/mdlVerifica.h"
+#include "model/Siro.h"
 #include "model/VidaProyecto.h"
 #include "shell/MDIForm1.h"
 

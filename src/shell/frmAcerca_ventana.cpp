@@ -11,6 +11,7 @@
 
 #include "forms/Cajas_ventana.h"
 #include "forms/Textos_ventana.h"
+#include "model/Siro.h"
 #include "shell/Arranque.h"
 #include "shell/Iconos_ventana.h"
 

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "editor/EnMano.h"
 #include "forms/Evento.h"
 #include "model/ArchivoConf.h"
 #include "model/Avisos.h"

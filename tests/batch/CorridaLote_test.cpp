@@ -11,6 +11,7 @@
 
 #include "batch/ProyectoDePrueba.h"
 #include "model/ArchivosTormenta.h"
+#include "model/Siro.h"
 
 namespace {
 

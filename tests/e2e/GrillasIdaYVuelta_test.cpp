@@ -20,6 +20,7 @@
 #include "editor/fichas/dlgUEHsEditTabla.h"
 #include "model/Componentes.h"
 #include "model/Numeros.h"
+#include "model/Siro.h"
 
 namespace {
 

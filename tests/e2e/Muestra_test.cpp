@@ -17,6 +17,7 @@
 #include "batch/ResultadosCsv.h"
 #include "e2e/Programa.h"
 #include "engine/modProceso0.h"
+#include "model/Siro.h"
 
 namespace {
 

@@ -5,6 +5,7 @@
 
 #include "editor/Edicion.h"
 #include "editor/EditorDePrueba.h"
+#include "editor/EnMano.h"
 
 // Dragging vertices, icons and links. The icons' size s is 10, ToleranciaVertice 16.
 namespace {

@@ -6,6 +6,7 @@
 
 #include "editor/Edicion.h"
 #include "editor/EditorDePrueba.h"
+#include "editor/EnMano.h"
 
 // What a press selects. The icons' size s is 10, the canvas 800 wide: ToleranciaVertice is 16, half of it 8.
 namespace {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "editor/EditorDePrueba.h"
+#include "editor/EnMano.h"
 #include "editor/fichas/dlgUEHsEditTabla.h"
 #include "model/Componentes.h"
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "editor/EditorDePrueba.h"
+#include "editor/EnMano.h"
 #include "editor/fichas/dlgUEHsEditTabla.h"
 #include "editor/fichas/dlgUEHsTabla.h"
 

@@ -10,6 +10,7 @@
 
 #include "apoyo/Compara.h"
 #include "editor/EditorDePrueba.h"
+#include "editor/EnMano.h"
 #include "editor/Fondo.h"
 #include "model/ArchivoConf.h"
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "apoyo/AnfitrionPrueba.h"
+#include "model/Siro.h"
 
 namespace engine {
 namespace {

@@ -9,6 +9,7 @@
 #include "apoyo/AnfitrionPrueba.h"
 #include "apoyo/Compara.h"
 #include "engine/ComponenteFinal.h"
+#include "model/Siro.h"
 
 namespace engine {
 namespace {

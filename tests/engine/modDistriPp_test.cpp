@@ -10,6 +10,7 @@
 #include "apoyo/AnfitrionPrueba.h"
 #include "apoyo/Compara.h"
 #include "apoyo/DiscoPrueba.h"
+#include "model/Siro.h"
 
 namespace engine {
 namespace {

@@ -12,6 +12,7 @@
 
 #include "apoyo/AnfitrionPrueba.h"
 #include "apoyo/Compara.h"
+#include "model/Siro.h"
 
 namespace forms {
 namespace {

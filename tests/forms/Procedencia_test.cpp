@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "apoyo/AnfitrionPrueba.h"
+#include "model/Siro.h"
 
 namespace forms {
 namespace {

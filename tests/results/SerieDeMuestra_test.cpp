@@ -15,6 +15,7 @@
 #include "apoyo/Compara.h"
 #include "batch/CorridaLote.h"
 #include "engine/mdlSeriePDR.h"
+#include "model/Siro.h"
 #include "model/Texto.h"
 #include "results/dlgChart3.h"
 #include "results/dlgTablaSalePDR.h"

@@ -9,6 +9,7 @@
 #include "apoyo/AnfitrionPrueba.h"
 #include "apoyo/DiscoPrueba.h"
 #include "model/Falla.h"
+#include "model/Siro.h"
 #include "results/EjeTiempo.h"
 
 namespace results {

@@ -8,6 +8,7 @@
 
 #include "apoyo/AnfitrionPrueba.h"
 #include "apoyo/DiscoPrueba.h"
+#include "model/Siro.h"
 
 namespace results {
 namespace {

@@ -5,6 +5,7 @@
 
 #include "model/ArchivoConf.h"
 #include "model/Configuracion.h"
+#include "model/Siro.h"
 #include "shell/EscenaDePrueba.h"
 
 namespace shell {

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "model/Falla.h"
+#include "model/Siro.h"
 #include "shell/EscenaDePrueba.h"
 
 namespace shell {

@@ -8,7 +8,7 @@
 
 #include "editor/fichas/Ficha.h"
 #include "forms/CampoNumerico.h"
-#include "model/Siro.h"
+#include "model/SiroDeclarado.h"
 
 // Rules of the form with the properties of the reaches, one at a time.
 namespace editor {

@@ -7,7 +7,7 @@
 
 #include "editor/fichas/FichaEmbalse.h"
 #include "forms/CampoNumerico.h"
-#include "model/Siro.h"
+#include "model/SiroDeclarado.h"
 
 // Rules of the form with the properties of the Lagos, one at a time.
 namespace editor {

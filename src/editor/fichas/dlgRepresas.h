@@ -9,7 +9,7 @@
 #include "editor/fichas/FichaEmbalse.h"
 #include "forms/CampoNumerico.h"
 #include "model/Represa.h"
-#include "model/Siro.h"
+#include "model/SiroDeclarado.h"
 
 // Rules of the form with the properties of the Represas, one at a time.
 namespace editor {

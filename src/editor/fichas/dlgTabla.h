@@ -13,7 +13,7 @@
 #include "forms/Grilla.h"
 #include "forms/Rotulo.h"
 #include "model/Clases.h"
-#include "model/Siro.h"
+#include "model/SiroDeclarado.h"
 #include "model/TablasEmbalse.h"
 
 // Rules of the editors of the tables of Represas and Lagos: dlgTablaSHV, dlgTablaFQ and dlgTablaSHVQ are one

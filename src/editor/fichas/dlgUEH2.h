@@ -9,7 +9,7 @@
 #include "editor/fichas/Ficha.h"
 #include "editor/fichas/Kostiakov.h"
 #include "forms/CampoNumerico.h"
-#include "model/Siro.h"
+#include "model/SiroDeclarado.h"
 
 // Rules of the form with the properties of the UEHs, one at a time.
 namespace editor {

@@ -9,8 +9,11 @@
 
 #include "forms/Evento.h"
 #include "model/Avisos.h"
+#include "model/Cauce.h"
 #include "model/Componentes.h"
 #include "model/Numeros.h"
+#include "model/Siro.h"
+#include "model/UEH.h"
 
 namespace editor {
 

@@ -8,7 +8,7 @@
 
 #include "forms/Grilla.h"
 #include "forms/Rotulo.h"
-#include "model/Siro.h"
+#include "model/SiroDeclarado.h"
 
 // Rules of the tabular editor: the numeric data of all reaches and all UEHs at once, in two grids. Its limits
 // differ in places from those of the forms of one component, on purpose.

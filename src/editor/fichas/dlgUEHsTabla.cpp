@@ -10,6 +10,7 @@
 #include "hydraulics/mdlFQs.h"
 #include "model/Componentes.h"
 #include "model/Numeros.h"
+#include "model/Siro.h"
 #include "model/TablasEmbalse.h"
 
 namespace editor {

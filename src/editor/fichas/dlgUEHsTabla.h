@@ -7,7 +7,7 @@
 
 #include "forms/Grilla.h"
 #include "forms/Rotulo.h"
-#include "model/Siro.h"
+#include "model/SiroDeclarado.h"
 
 // Rules of the overview of all parameters: one grid, which can't be edited, of reaches, UEHs, Lagos and
 // Represas.

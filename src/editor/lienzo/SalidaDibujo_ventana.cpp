@@ -12,6 +12,7 @@
 #include "forms/Procedencia.h"
 #include "forms/Textos_ventana.h"
 #include "model/Falla.h"
+#include "model/Siro.h"
 
 namespace editor {
 
