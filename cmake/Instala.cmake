@@ -3,9 +3,11 @@
 # Where things go. An installation is found from its executables alone, so it may be moved as a whole:
 #
 #   by default            bin/, share/siro/ with the data, and what desktops and manuals look for under share/
-#   component portatil    programs and data in one folder, the program's own where it can be written
+#   component portatil    programs and data in one folder, the program's own where it can be written. On Windows, where many
+#                         start it from a folder that can't be, what is delivered lies apart in data/ and is copied from there
 
-if(SIRO_GUI)
+# Windows shows none of the pages of a compiled help that came from elsewhere: there the program shows them itself.
+if(SIRO_GUI AND NOT WIN32)
     include(cmake/Ayuda.cmake)
 endif()
 
@@ -25,6 +27,10 @@ function(siro_instala dir_programas dir_datos dir_textos)
 endfunction()
 
 siro_instala(${CMAKE_INSTALL_BINDIR} ${CMAKE_INSTALL_DATADIR}/siro ${CMAKE_INSTALL_DOCDIR})
+if(WIN32)
+    siro_instala(. data textos COMPONENT portatil EXCLUDE_FROM_ALL)
+    return() # no manual pages, no desktop of the free systems
+endif()
 siro_instala(. . textos COMPONENT portatil EXCLUDE_FROM_ALL)
 
 install(FILES paquete/man/siro-lote.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)

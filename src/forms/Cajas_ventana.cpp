@@ -17,6 +17,7 @@
 #include <initializer_list>
 
 #include "forms/Textos_ventana.h"
+#include "model/Siro.h"
 
 namespace forms {
 namespace {
@@ -138,7 +139,10 @@ std::string Pide(Entorno& entorno, const Peticion& peticion)
 /// `filtro` is "Description |*pattern"; its description names the pattern itself.
 void PonFiltro(QFileDialog& caja, std::string_view filtro)
 {
+#if !defined(Q_OS_WIN)
+    // The desktops' own boxes would come each with its texts and names of controls; Windows has one.
     caja.setOption(QFileDialog::DontUseNativeDialog, true);
+#endif
     const std::size_t barra = filtro.find('|');
     if (barra == std::string_view::npos) return;
     caja.setNameFilter(Q(filtro.substr(0, std::min(barra, filtro.find('(')))).trimmed() +

@@ -19,6 +19,7 @@
 #include "model/Avisos.h"
 #include "model/Falla.h"
 #include "model/Numeros.h"
+#include "model/Siro.h"
 
 namespace forms {
 
@@ -35,6 +36,24 @@ void Exige(lxw_error resultado)
 /// a workbook has a point wherever it is written.
 class NumerosConPunto {
   public:
+#if defined(_WIN32)
+    NumerosConPunto()
+        : porHilo(_configthreadlocale(_ENABLE_PER_THREAD_LOCALE)), antes(setlocale(LC_NUMERIC, nullptr))
+    {
+        setlocale(LC_NUMERIC, "C");
+    }
+    ~NumerosConPunto()
+    {
+        setlocale(LC_NUMERIC, antes.c_str());
+        _configthreadlocale(porHilo);
+    }
+    NumerosConPunto(const NumerosConPunto&) = delete;
+    NumerosConPunto& operator=(const NumerosConPunto&) = delete;
+
+  private:
+    int porHilo;
+    std::string antes;
+#else
     NumerosConPunto()
         : conPunto(newlocale(LC_NUMERIC_MASK, "C", duplocale(LC_GLOBAL_LOCALE))), antes(uselocale(conPunto))
     {
@@ -49,6 +68,7 @@ class NumerosConPunto {
 
   private:
     locale_t conPunto, antes;
+#endif
 };
 
 /// A workbook in the making; one that isn't closed leaves no file.
@@ -177,8 +197,7 @@ std::string ComoXlsx(const Planilla& planilla)
     const NumerosConPunto conPunto;
     const QTemporaryDir carpeta;
     const QString archivo = carpeta.filePath(QStringLiteral("planilla.xlsx"));
-    Libro libro(planilla, QFile::encodeName(archivo).toStdString(),
-                QFile::encodeName(carpeta.path()).toStdString());
+    Libro libro(planilla, DeQ(archivo), DeQ(carpeta.path()));
     libro.Llena();
     libro.Cierra();
     QFile escrito(archivo);

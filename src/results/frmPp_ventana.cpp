@@ -27,7 +27,10 @@ constexpr int RenglonesALaVista = 32;
 
 QFont LetraFija()
 {
-    QFont letra(QStringLiteral("Courier New"));
+    // The next ones stand where that one isn't: columns hold only in a face of one width.
+    QFont letra(QStringList{QStringLiteral("Courier New"), QStringLiteral("Liberation Mono"),
+                            QStringLiteral("Consolas"), QStringLiteral("DejaVu Sans Mono")},
+                -1);
     letra.setStyleHint(QFont::Monospace, QFont::PreferMatch);
     letra.setFixedPitch(true);
     letra.setPointSize(QFontDatabase::systemFont(QFontDatabase::FixedFont).pointSize());
