@@ -2,6 +2,7 @@
 #include "engine/Aportes.h"
 
 #include <string_view>
+#include <type_traits>
 #include <unordered_map>
 
 #include "model/Clases.h"
@@ -27,12 +28,16 @@ FilasPorNombre NumeraFilas(const model::Siro& s, int desde, int hasta)
 Aportes::Aportes(const model::Siro& s)
 {
     std::unordered_map<std::string_view, Afluentes> porDestino;
+    std::unordered_map<std::string_view, std::vector<int>> porNombre;
     const FilasPorNombre filasUEH = NumeraFilas(s, 1, s.Red.NroUEHs());
     const FilasPorNombre filasResto = NumeraFilas(s, s.Red.NroUEHs() + 1, s.Resultados.NroComponentes);
     const auto anota = [&](const auto& coleccion, const FilasPorNombre& filas, auto agrega) {
         int item = 0;
         for (const auto& c : coleccion) {
+            using T = std::remove_cvref_t<decltype(c)>;
             ++item;
+            if (model::Nombre(c).starts_with(model::DeClase<T>::prefijo))
+                porNombre[model::Nombre(c)].push_back(item);
             const auto fila = filas.find(model::Nombre(c));
             if (model::EsDestino(c.Cauce_aa) && fila != filas.end())
                 agrega(porDestino[c.Cauce_aa], fila->second, item);
@@ -43,10 +48,10 @@ Aportes::Aportes(const model::Siro& s)
     anota(s.Red.ColRepresas, filasResto, [](Afluentes& a, int fila, int) { a.Represas.push_back(fila); });
     anota(s.Red.ColLagos, filasResto, [](Afluentes& a, int fila, int) { a.Lagos.push_back(fila); });
 
-    porFila.resize(s.Resultados.Secuencia.size());
-    for (std::size_t fila = 0; fila < porFila.size(); ++fila)
-        if (const auto hallado = porDestino.find(s.Resultados.Secuencia[fila]); hallado != porDestino.end())
-            porFila[fila] = hallado->second;
+    for (const std::string& nombre : s.Resultados.Secuencia) {
+        porFila.push_back(porDestino[nombre]);
+        propios.push_back(porNombre[nombre]);
+    }
 }
 
 }  // namespace engine

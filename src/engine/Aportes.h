@@ -27,9 +27,16 @@ class Aportes {
     /// What drains into the component at a row of Secuencia above the UEHs; nothing into one whose name is
     /// empty or "0".
     [[nodiscard]] const Afluentes& De(int fila) const { return porFila[static_cast<std::size_t>(fila)]; }
+    /// Places in their collection, from 1, of the components that bear the name of a row and are of the kind
+    /// that it begins with.
+    [[nodiscard]] const std::vector<int>& Propios(int fila) const
+    {
+        return propios[static_cast<std::size_t>(fila)];
+    }
 
   private:
     std::vector<Afluentes> porFila;
+    std::vector<std::vector<int>> propios;
 };
 
 }  // namespace engine

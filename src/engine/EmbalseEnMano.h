@@ -33,11 +33,12 @@ struct EmbalseEnMano : hydraulics::CompActual {
 /// The method's own three columns of a detail sheet: I1+I2, 2S/dt-Q, 2S/dt+Q [m3/s], or dH1, dH2, dH3 [m].
 using ColumnasDelMetodo = std::array<float, 3>;
 
-/// One row of a detail sheet; inflow, outflow and the last storage are those of the run.
+/// One row of a detail sheet; inflow and outflow are those of the run.
 struct RenglonDetalle {
     std::int16_t k;
     ColumnasDelMetodo columnas;
     float H;  ///< [m]
+    float S;  ///< [m3]
 };
 
 /// Opens a detail sheet with the method's column headings, and closes it.

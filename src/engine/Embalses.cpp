@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/Embalses.h"
 
+#include <algorithm>
 #include <string_view>
 
 #include "engine/EmbalseEnMano.h"
@@ -125,13 +126,16 @@ EmbalseEnMano EnMano(Siro& s, const model::Lago& l, int fila)
 template <typename T>
 void Proceso(Corrida& c, int fila)
 {
-    for (const T& e : model::Todos<T>(c.s.Red)) {
+    const auto& todos = model::Todos<T>(c.s.Red);
+    const auto sinMetodo =
+        std::find_if(todos.begin(), todos.end(), [](const T& e) { return !MetodoConocido(e.Metodo); });
+    for (const int item : c.Afluentes->Propios(fila)) {
         // An earlier one without a method stops this one too: kept as it stands.
-        if (!MetodoConocido(e.Metodo)) return AvisaMetodo(c.s, model::Nombre(e));
+        if (item > sinMetodo - todos.begin()) break;
         c.QBaseEntra = 0;
-        if (model::Nombre(e) != c.s.Resultados.Secuencia[static_cast<std::size_t>(fila)]) continue;
-        if (!PropagaEmbalse(c, EnMano(c.s, e, fila))) return;
+        if (!PropagaEmbalse(c, EnMano(c.s, todos.Item(item), fila))) return;
     }
+    if (sinMetodo != todos.end()) AvisaMetodo(c.s, model::Nombre(*sinMetodo));
 }
 
 }  // namespace

@@ -36,10 +36,18 @@ struct Nodo {
 /// Midpoints that the bisection of one level pool can visit, in rising height from 1, and what it finds
 /// there.
 struct NodosPiscina {
+    /// What the search goes by and what a step goes on with, side by side.
+    struct Nivel {
+        float u = 0, q = 0;
+    };
+    /// What is only written down.
+    struct Embalsado {
+        float h = 0, s = 0;
+    };
     std::vector<float> clave{};  ///< what they were worked out from
-    bool sirve = false;          ///< U rises with the height, so that they can stand for the bisection
-    std::vector<Nodo> nodo{};
-    std::vector<float> U{};  ///< u of each, side by side for the search
+    bool sirve = false;          ///< u rises with the height, so that they can stand for the bisection
+    std::vector<Nivel> nivel{};
+    std::vector<Embalsado> embalsado{};
 };
 
 /// A network that was found in order without a question: its sequence, outfalls, and who drains into whom.

@@ -185,9 +185,12 @@ int UltimoPasoCon(const Ladera& l, int antes, int ultimo)
 int UltimoPasoQ(const Corrida& c, std::span<const Ladera> laderas,
                 std::span<const std::vector<float>> caudales)
 {
-    int ultimo = c.s.Resultados.NroPasosQ;
+    int ultimo = c.s.Resultados.NroPasosQ, puntos = 0;
+    for (const Ladera& l : laderas)
+        puntos = std::max(puntos, l.puntos);
     for (std::size_t k = 1; k < caudales[0].size(); ++k) {
         const int antes = static_cast<int>(k - 1) * c.RelacionPasos;
+        if (antes + puntos < ultimo + 2) continue;
         for (std::size_t u = 0; u < laderas.size(); ++u)
             if (caudales[u][k] != 0) ultimo = UltimoPasoCon(laderas[u], antes, ultimo);
     }

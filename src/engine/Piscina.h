@@ -44,20 +44,25 @@ void BisecaPiscina(const EmbalseEnMano& e, hydraulics::RangoAlturas rango, float
 /// The rows of a pool's steps, every index and every store checked.
 struct FilasComprobadas {
     static constexpr bool Comprueba = true;
-    static float Guarda(double x) { return model::Simple(x); }
-    FilasComprobadas(Corrida& c, const EmbalseEnMano& embalse) : r(c.s.Resultados), e(embalse) {}
-    [[nodiscard]] float Entra(int k) const { return r.QEntra(e.fila, k); }
-    [[nodiscard]] float& Sale(int k) const { return r.QSale(e.fila, k); }
-    [[nodiscard]] float& H(int k) const { return e.H(e.numero, k); }
-    [[nodiscard]] float& S(int k) const { return e.S(e.numero, k); }
-    model::Resultados& r;
+    FilasComprobadas(Corrida& corrida, const EmbalseEnMano& embalse) : c(corrida), e(embalse) {}
+    static float Suma(float a, float b) { return model::Simple(double{a} + b); }
+    static float RestaDoble(float a, float b) { return model::Simple(a - 2.0 * b); }
+    [[nodiscard]] float Entra(int k) const { return c.s.Resultados.QEntra(e.fila, k); }
+    void Sale(int k, float Q) const { c.s.Resultados.QSale(e.fila, k) = Q; }
+    void Embalsa(int k, const Nodo& n) const
+    {
+        e.H(e.numero, k) = n.h;
+        e.S(e.numero, k) = n.s;
+        c.SActual = n.s;
+    }
+    Corrida& c;
     const EmbalseEnMano& e;
 };
 
-/// The same as they lie in memory. Requires them, and the minutes of the steps, to reach to NroPasosQ.
+/// The same as they lie in memory, in the arithmetic of 32 bits, whose bits a sum in 64 bits rounded to 32
+/// has too. Requires the rows, and the minutes of the steps, to reach to NroPasosQ.
 struct FilasProbadas {
     static constexpr bool Comprueba = false;
-    static float Guarda(double x) { return static_cast<float>(x); }
     FilasProbadas(Corrida& c, const EmbalseEnMano& e)
         : entra(c.s.Resultados.QEntra.Fila(e.fila)),
           sale(c.s.Resultados.QSale.Fila(e.fila)),
@@ -65,12 +70,23 @@ struct FilasProbadas {
           s(e.S.Fila(e.numero))
     {
     }
+    static float Suma(float a, float b) { return a + b; }
+    static float RestaDoble(float a, float b) { return a - 2 * b; }
     [[nodiscard]] float Entra(int k) const { return entra[k]; }
-    [[nodiscard]] float& Sale(int k) const { return sale[k]; }
-    [[nodiscard]] float& H(int k) const { return h[k]; }
-    [[nodiscard]] float& S(int k) const { return s[k]; }
+    void Sale(int k, float Q) const { sale[k] = Q; }
+    void Embalsa(int k, const Nodo& n) const
+    {
+        h[k] = n.h;
+        s[k] = n.s;
+    }
     const float* entra;
     float *sale, *h, *s;
+};
+
+/// The same where nobody can read heights and storages.
+struct FilasSinEmbalse : FilasProbadas {
+    using FilasProbadas::FilasProbadas;
+    void Embalsa(int, const Nodo&) const {}
 };
 
 /// Walks the steps from `desde` to NroPasosQ with T = 2S/dt - Q of the step before; `busca(W)` gives the node
@@ -79,23 +95,20 @@ template <typename Filas, typename Busca>
 void RecorrePiscina(Corrida& c, const EmbalseEnMano& e, float T, Busca& busca, int desde = 1)
 {
     const Filas filas(c, e);
-    for (int k = desde; k <= c.s.Resultados.NroPasosQ; ++k) {
-        const float I = Filas::Guarda(double{filas.Entra(k)} + filas.Entra(k - 1));
-        const float W = Filas::Guarda(double{T} + I);
+    const int pasos = c.s.Resultados.NroPasosQ;
+    for (int k = desde; k <= pasos; ++k) {
+        const float I = Filas::Suma(filas.Entra(k), filas.Entra(k - 1));
+        const float W = Filas::Suma(T, I);
         const Nodo n = busca(W);
-        const double siguiente = W - 2.0 * n.q;
+        filas.Embalsa(k, n);
+        const float siguiente = Filas::RestaDoble(W, n.q);
         if constexpr (!Filas::Comprueba)  // what has left the type on the way shows in the last of the three
-            if (!std::isfinite(static_cast<float>(siguiente)))
-                return RecorrePiscina<FilasComprobadas>(c, e, T, busca, k);
-        filas.H(k) = n.h;
-        filas.S(k) = n.s;
-        if (Filas::Comprueba || c.ConTexto) c.SActual = n.s;
-        T = Filas::Guarda(siguiente);
-        filas.Sale(k) = n.q;
+            if (!std::isfinite(siguiente)) return RecorrePiscina<FilasComprobadas>(c, e, T, busca, k);
+        T = siguiente;
+        filas.Sale(k, n.q);
         if (Filas::Comprueba || c.ConTexto)
-            EscribeDetalle(c, e, {static_cast<std::int16_t>(k), {I, T, n.u}, n.h});
+            EscribeDetalle(c, e, {static_cast<std::int16_t>(k), {I, T, n.u}, n.h, n.s});
     }
-    if (const int ultimo = c.s.Resultados.NroPasosQ; ultimo >= desde) c.SActual = filas.S(ultimo);
 }
 
 /// All steps from node `n` with curves and midpoints worked out beforehand: bit for bit what the lookups

@@ -58,7 +58,7 @@ void PropagaPiscina(Corrida& c, const EmbalseEnMano& e)
     e.H(e.numero, 0) = n.h;
     e.S(e.numero, 0) = n.s;
     r.QSale(e.fila, 0) = n.q;
-    EscribeDetalle(c, e, {0, {0, T, 0}, n.h});
+    EscribeDetalle(c, e, {0, {0, T, 0}, n.h, n.s});
     if (!PiscinaRapida(c, e, T, n)) RecorreConConsultas(c, e, T, n);
     CierraDetalle(c, e);
 }

@@ -83,25 +83,27 @@ class PorCamino {
 class PorNodos {
   public:
     explicit PorNodos(const NodosPiscina& losNodos)
-        : nodos(losNodos), ultimo(static_cast<int>(losNodos.U.size()) - 1)
+        : nivel(losNodos.nivel.data()),
+          embalsado(losNodos.embalsado.data()),
+          ultimo(static_cast<int>(losNodos.nivel.size()) - 1)
     {
     }
-    const Nodo& operator()(float W)
+    Nodo operator()(float W)
     {
         // The level goes on as it went in the step before, more or less.
         const int antes = lugar;
         lugar = std::clamp(lugar + recorrido, 0, ultimo);
-        if (lugar < ultimo && !(nodos.U[Indice(lugar + 1)] > W))
+        if (lugar < ultimo && !(nivel[lugar + 1].u > W))
             Sube(W);
-        else if (lugar > 0 && nodos.U[Indice(lugar)] > W)
+        else if (lugar > 0 && nivel[lugar].u > W)
             Baja(W);
         recorrido = lugar - antes;
-        return nodos.nodo[Indice(lugar | 1)];  // the bracket's last midpoint stands at its odd end
+        const int medio = lugar | 1;  // the bracket's last midpoint stands at its odd end
+        return {embalsado[medio].h, embalsado[medio].s, nivel[medio].q, nivel[medio].u};
     }
 
   private:
-    static std::size_t Indice(int i) { return static_cast<std::size_t>(i); }
-    bool Alcanza(int i, float W) const { return i <= ultimo && !(nodos.U[Indice(i)] > W); }
+    bool Alcanza(int i, float W) const { return i <= ultimo && !(nivel[i].u > W); }
     void Sube(float W)
     {
         ++lugar;
@@ -115,16 +117,17 @@ class PorNodos {
     {
         int encima = lugar;
         int salto = 1;
-        for (; encima - salto > 0 && nodos.U[Indice(encima - salto)] > W; salto *= 2)
+        for (; encima - salto > 0 && nivel[encima - salto].u > W; salto *= 2)
             encima -= salto;
         int debajo = std::max(0, encima - salto);
         while (encima - debajo > 1) {
             const int medio = (encima + debajo) / 2;
-            (nodos.U[Indice(medio)] > W ? encima : debajo) = medio;
+            (nivel[medio].u > W ? encima : debajo) = medio;
         }
         lugar = debajo;
     }
-    const NodosPiscina& nodos;
+    const NodosPiscina::Nivel* nivel;
+    const NodosPiscina::Embalsado* embalsado;
     int ultimo;         ///< greatest place of a midpoint
     int lugar = 0;      ///< last midpoint that isn't above the target; 0: none
     int recorrido = 0;  ///< places that the last search moved on
@@ -160,13 +163,15 @@ bool TablaNodos(NodosPiscina& nodos, Curvas& curvas, hydraulics::RangoAlturas ra
 {
     const std::vector<float> alturas = PuntosMedios(rango);
     const std::size_t n = alturas.size();
-    nodos.nodo.resize(n);
-    nodos.U.resize(n);
+    nodos.nivel.resize(n);
+    nodos.embalsado.resize(n);
     for (std::size_t i = 1; i < n; ++i) {
-        nodos.nodo[i] = curvas.En(alturas[i]);
-        nodos.U[i] = nodos.nodo[i].u;
+        const Nodo nodo = curvas.En(alturas[i]);
+        nodos.nivel[i] = {nodo.u, nodo.q};
+        nodos.embalsado[i] = {nodo.h, nodo.s};
     }
-    return n > 1 && std::is_sorted(nodos.U.begin() + 1, nodos.U.end());
+    return n > 1 && std::is_sorted(nodos.nivel.begin() + 1, nodos.nivel.end(),
+                                   [](const auto& a, const auto& b) { return a.u < b.u; });
 }
 
 /// Appends the rows of a column of a table behind their count, unless the array is too short for them.
@@ -221,7 +226,12 @@ bool PiscinaRapida(Corrida& c, const EmbalseEnMano& e, float T, const Nodo& inic
         const NodosPiscina& nodos = NodosDe(c, e);
         if (nodos.sirve) {
             PorNodos busca(nodos);
+            if (!c.ConVolumenes) {
+                RecorrePiscina<FilasSinEmbalse>(c, e, T, busca);
+                return true;
+            }
             RecorrePiscina<FilasProbadas>(c, e, T, busca);
+            c.SActual = e.S(e.numero, pasos);
             return true;
         }
     }
@@ -229,6 +239,7 @@ bool PiscinaRapida(Corrida& c, const EmbalseEnMano& e, float T, const Nodo& inic
     if (!curvas.Prepara(e, c.SActual)) return false;
     PorCamino busca(e, curvas, inicial);
     RecorrePiscina<FilasProbadas>(c, e, T, busca);
+    c.SActual = e.S(e.numero, pasos);
     return true;
 }
 

@@ -69,7 +69,7 @@ void AgregaDetalle(Corrida& c, const EmbalseEnMano& e, std::int16_t t, const Ren
     c.Linea.Vacia();
     c.Linea.Pone("\r\n").Detalle(std::int32_t{r.k}, 3).Detalle(std::int32_t{t}, 3).Detalle(entra, 3);
     c.Linea.Detalle(r.columnas[0], 3).Detalle(r.columnas[1], 3).Detalle(r.columnas[2], 8).Detalle(sale, 2);
-    c.Linea.Detalle(r.H, 2).Detalle(c.SActual, 0);
+    c.Linea.Detalle(r.H, 2).Detalle(r.S, 0);
     c.s.Control.TextoPizarra.append(c.Linea.Texto());
 }
 

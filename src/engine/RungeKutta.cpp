@@ -50,7 +50,7 @@ void PropagaRungeKutta(Corrida& c, const EmbalseEnMano& e)
     AbreDetalle(c, e, EncabezadoRungeKutta);
     e.H(e.numero, 0) = H;
     e.S(e.numero, 0) = c.SActual;  // of the last routing of the run: kept as it stands
-    EscribeDetalle(c, e, {0, {0, 0, 0}, H});
+    EscribeDetalle(c, e, {0, {0, 0, 0}, H, c.SActual});
     for (int k = 1; k <= r.NroPasosQ; ++k) {
         const float I1 = r.QEntra(e.fila, k - 1);
         const float d = Simple(double{r.QEntra(e.fila, k)} - I1);
@@ -65,7 +65,7 @@ void PropagaRungeKutta(Corrida& c, const EmbalseEnMano& e)
         e.H(e.numero, k) = H;
         c.SActual = Simple(hydraulics::SdeH(e, H));
         e.S(e.numero, k) = c.SActual;
-        EscribeDetalle(c, e, {static_cast<std::int16_t>(k), {dH1, dH2, dH3}, H});
+        EscribeDetalle(c, e, {static_cast<std::int16_t>(k), {dH1, dH2, dH3}, H, c.SActual});
     }
     CierraDetalle(c, e);
 }

@@ -191,10 +191,9 @@ bool PropagaTramo(Corrida& c, int fila, const Cauce& cauce)
 
 bool ProcesoEnCauce(Corrida& c, int fila)
 {
-    const std::string& nombre = c.s.Resultados.Secuencia[static_cast<std::size_t>(fila)];
-    for (const Cauce& cauce : c.s.Red.ColCauces) {
+    for (const int item : c.Afluentes->Propios(fila)) {
         c.QBaseEntra = 0;
-        if (cauce.NombreCauce == nombre && !PropagaTramo(c, fila, cauce)) return false;
+        if (!PropagaTramo(c, fila, c.s.Red.ColCauces.Item(item))) return false;
     }
     return true;
 }
