@@ -110,8 +110,9 @@ TablaInfiltracion& TablaDe(Corrida& c, int i)
     return tabla;
 }
 
-/// Flow of the excess of each model step with rain, from 1. Beyond the rain there is none.
-void CaudalesDelExceso(Corrida& c, int i, std::span<float> caudales)
+/// Flow of the excess of each model step with rain, from 1, and the Slate's lines where there is room for
+/// them. Beyond the rain all is 0.
+void CaudalesDelExceso(Corrida& c, int i, std::span<float> caudales, std::span<RenglonPaso> renglones)
 {
     Siro& s = c.s;
     const UEH& u = s.Red.UEHs(i);
@@ -127,6 +128,7 @@ void CaudalesDelExceso(Corrida& c, int i, std::span<float> caudales)
         const float I = N != 0 ? LaminaInfiltrada(tabla, reloj++) : 0;
         const float E = N > I ? N - I : 0;
         caudales[k] = CaudalDelExceso(E, s.Pasos.PasoPp, u.Area);
+        if (!renglones.empty()) renglones[k] = {Pp, R, I, caudales[k]};
     }
     c.RetencionRestante(i) = restante;
     s.Resultados.PasosInfiltra(i) = static_cast<float>(reloj);
@@ -213,9 +215,12 @@ bool PasosRapidos(Corrida& c)
 
     std::vector<Ladera> laderas;
     std::vector<std::vector<float>> caudales;
+    std::vector<std::vector<RenglonPaso>> renglones;
+    const auto pasos = static_cast<std::size_t>(c.NroPasosPp);
     for (int i = 1; i <= s.Red.NroUEHs(); ++i) {
         laderas.push_back(PreparaLadera(c, s.Red.UEHs(i)));
-        CaudalesDelExceso(c, i, caudales.emplace_back(static_cast<std::size_t>(conLluvia) + 1));
+        CaudalesDelExceso(c, i, caudales.emplace_back(static_cast<std::size_t>(conLluvia) + 1),
+                          renglones.emplace_back(s.Control.SalidaPizarra ? pasos : 0));
     }
     if (const int ultimo = UltimoPasoQ(c, laderas, caudales); ultimo != s.Resultados.NroPasosQ)
         Alarga(c, static_cast<std::int16_t>(ultimo));
@@ -224,6 +229,10 @@ bool PasosRapidos(Corrida& c)
         for (std::size_t k = 1; k < caudales[u].size(); ++k, q += c.RelacionPasos)
             if (caudales[u][k] != 0) SumaTrapecio(c, laderas[u], caudales[u][k], q);
     }
+    if (!s.Control.SalidaPizarra) return true;
+    for (std::size_t k = 1; k < pasos; ++k)
+        for (std::size_t u = 0; u < laderas.size(); ++u)
+            EscribePaso(c, static_cast<std::int16_t>(k), static_cast<int>(u) + 1, renglones[u][k]);
     return true;
 }
 

@@ -18,13 +18,9 @@ using model::Suma16;
 namespace {
 
 /// Values of one step in one UEH; they keep what they held where a statement is at fault.
-struct Paso {
-    float Pp = 0;        ///< rainfall [mm]
-    float R = 0;         ///< retained depth [mm]
+struct Paso : RenglonPaso {
     float N = 0;         ///< net rain [mm]
-    float I = 0;         ///< potential infiltration [mm]
     float E = 0;         ///< excess [mm]
-    float CaudalPp = 0;  ///< flow of the excess [m3/s]
     std::int16_t T = 0;  ///< travel time on the slope [min]
     std::int16_t j = 0,
                  tj = 0;  ///< point of the trapezoid from 1, and its time [min]
@@ -74,21 +70,6 @@ void Infiltra(Corrida& c, int i, Paso& v)
     c.Intenta(
         [&] { v.I = Infiltracion(s.Red.UEHs(i), s.Pasos.PasoPp).Lamina(s.Resultados.PasosInfiltra(i)); });
     c.Intenta([&] { s.Resultados.PasosInfiltra(i) = Simple(double{s.Resultados.PasosInfiltra(i)} + 1); });
-}
-
-void EscribePaso(Corrida& c, std::int16_t k, int i, const Paso& v)
-{
-    Siro& s = c.s;
-    c.Intenta([&] {
-        const std::int16_t t = Minutos(k, s.Pasos.PasoPp);
-        const float pp = model::Trunca2(v.Pp), r = model::Trunca2(v.R), in = model::Trunca2(v.I);
-        const std::string& nombre = s.Red.UEHs(i).NombreUEH;
-        c.Linea.Vacia();
-        c.Linea.Derecha(std::int32_t{k}, 5).Derecha(std::int32_t{t}, 6).DerechaTexto(nombre, 8);
-        c.Linea.Derecha(pp, 10).Derecha(r, 13).Derecha(in, 17);
-        c.Linea.Derecha(model::Redondea(double{v.CaudalPp} * 1000 / 1000, 2), 17);
-    });
-    if (s.Control.SalidaPizarra) s.Control.TextoPizarra.append("\r\n").append(c.Linea.Texto());
 }
 
 void PuntoDelTrapecio(Corrida& c, std::int16_t k, int i, Paso& v)
@@ -157,6 +138,21 @@ void PasosUnoPorUno(Corrida& c)
 
 }  // namespace
 
+void EscribePaso(Corrida& c, std::int16_t k, int i, const RenglonPaso& v)
+{
+    Siro& s = c.s;
+    c.Intenta([&] {
+        const std::int16_t t = Minutos(k, s.Pasos.PasoPp);
+        const float pp = model::Trunca2(v.Pp), r = model::Trunca2(v.R), in = model::Trunca2(v.I);
+        const std::string& nombre = s.Red.UEHs(i).NombreUEH;
+        c.Linea.Vacia();
+        c.Linea.Derecha(std::int32_t{k}, 5).Derecha(std::int32_t{t}, 6).DerechaTexto(nombre, 8);
+        c.Linea.Derecha(pp, 10).Derecha(r, 13).Derecha(in, 17);
+        c.Linea.Derecha(model::Redondea(double{v.CaudalPp} * 1000 / 1000, 2), 17);
+    });
+    if (s.Control.SalidaPizarra) s.Control.TextoPizarra.append("\r\n").append(c.Linea.Texto());
+}
+
 void Alarga(Corrida& c, std::int16_t p)
 {
     Siro& s = c.s;
@@ -181,7 +177,7 @@ void PasosDeLasUEHs(Corrida& c)
         c.s.Control.TextoPizarra.append(
             "\r\n\r\nI- SIMULACION EN UEHs\r\n"
             "Per.k  t[min]   UEH     Pp[mm]  Retensión Z[mm]   Infiltra I[mm]   CaudalPp[m3/s]");
-    if (c.s.Control.SalidaPizarra || !PasosRapidos(c)) PasosUnoPorUno(c);
+    if (!PasosRapidos(c)) PasosUnoPorUno(c);
 }
 
 }  // namespace engine
