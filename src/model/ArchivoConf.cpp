@@ -12,6 +12,7 @@
 #include "model/Avisos.h"
 #include "model/Candado.h"
 #include "model/Falla.h"
+#include "model/Huellas.h"
 #include "model/Numeros.h"
 #include "model/Registros.h"
 #include "model/RutaProyecto.h"

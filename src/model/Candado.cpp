@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/Candado.h"
 
-#include <algorithm>
 #include <cstddef>
-#include <functional>
-#include <optional>
+#include <utility>
 
 #include "model/Avisos.h"
+#include "model/Configuracion.h"
 #include "model/Disco.h"
-#include "model/Falla.h"
 #include "model/Siro.h"
 
 namespace model {
@@ -23,37 +21,6 @@ constexpr std::string_view AvisaDespues =
     "). Si los dos lo guardan, queda lo que guarde el último. Antes de guardar se le preguntará.";
 constexpr std::string_view PreguntaAbierto =
     "). Lo que guarde aquí puede reemplazar lo que se haya hecho allí. ¿Desea guardar igual?";
-constexpr std::string_view TituloCambiado = "Archivo cambiado";
-constexpr std::string_view Cambiado1 = "El archivo ";
-constexpr std::string_view Cambiado2 =
-    " no es el que este programa leyó o guardó: otro lo ha cambiado. ¿Desea reemplazarlo?";
-
-constexpr std::size_t SinArchivo = 0;
-
-std::size_t HuellaDe(std::string_view bytes)
-{
-    return std::max<std::size_t>(std::hash<std::string_view>{}(bytes), SinArchivo + 1);
-}
-
-/// What a file holds now; nothing where it can't be read, so that nobody can tell.
-std::optional<std::size_t> HuellaEnDisco(const Siro& s, const std::string& ruta)
-{
-    try {
-        return HuellaDe(s.Disco.Lee(ruta));
-    } catch (const Falla& falla) {
-        if (falla.numero == NumeroFalla::AccesoRuta) return {};
-        return SinArchivo;
-    }
-}
-
-/// A file that has gone takes nobody's work with it.
-bool EsAjeno(const Siro& s, const std::string& ruta)
-{
-    const std::optional<std::size_t> ahora = HuellaEnDisco(s, ruta);
-    if (!ahora || *ahora == SinArchivo) return false;
-    const auto conocida = s.Vigilancia.huellas.find(ruta);
-    return conocida == s.Vigilancia.huellas.end() || conocida->second != *ahora;
-}
 
 std::string ConfEnMano(const Siro& s)
 {
@@ -64,8 +31,11 @@ std::string ConfEnMano(const Siro& s)
 
 void Reclama(Siro& s)
 {
-    s.Vigilancia.reclamado = ConfEnMano(s);
-    s.Vigilancia.ocupante = s.Anfitrion.ReclamaProyecto(s.Vigilancia.reclamado);
+    Vigilancia& v = s.Vigilancia;
+    std::string conf = ConfEnMano(s);
+    if (conf != v.reclamado) v.consentido.clear();
+    v.reclamado = std::move(conf);
+    v.ocupante = s.Anfitrion.ReclamaProyecto(v.reclamado);
 }
 
 std::string Ocupado(const Siro& s, std::string_view fin)
@@ -75,17 +45,6 @@ std::string Ocupado(const Siro& s, std::string_view fin)
         .append(Abierto2)
         .append(s.Vigilancia.ocupante)
         .append(fin);
-}
-
-bool PuedeSerDeDos(Siro& s)
-{
-    Vigilancia& v = s.Vigilancia;
-    // Who had it open may have gone meanwhile.
-    if (v.reclamado != ConfEnMano(s) || !v.ocupante.empty()) Reclama(s);
-    if (v.ocupante.empty()) return true;
-    if (!Consulta(s, Ocupado(s, PreguntaAbierto), Titulo)) return false;
-    v.ocupante.clear();
-    return true;
 }
 
 }  // namespace
@@ -105,38 +64,20 @@ bool EsCandado(std::string_view nombre)
 void ReclamaProyecto(Siro& s)
 {
     if (!s.Vigilancia.activa) return;
+    s.Vigilancia.consentido.clear();
     Reclama(s);
     if (!s.Vigilancia.ocupante.empty()) Advierte(s, Ocupado(s, AvisaDespues), Titulo);
 }
 
-std::string LeeVigilado(Siro& s, const std::string& ruta)
+bool PuedeSerDeDos(Siro& s)
 {
-    if (!s.Vigilancia.activa) return s.Disco.Lee(ruta);
-    s.Vigilancia.huellas[ruta] = SinArchivo;
-    std::string bytes = s.Disco.Lee(ruta);
-    AnotaLeido(s, ruta, bytes);
-    return bytes;
-}
-
-void AnotaLeido(Siro& s, const std::string& ruta, std::string_view bytes)
-{
-    if (s.Vigilancia.activa) s.Vigilancia.huellas[ruta] = HuellaDe(bytes);
-}
-
-void AnotaGuardado(Siro& s, const std::string& ruta)
-{
-    if (!s.Vigilancia.activa) return;
-    if (const auto huella = HuellaEnDisco(s, ruta)) s.Vigilancia.huellas[ruta] = *huella;
-}
-
-bool PuedeGuardar(Siro& s, std::initializer_list<std::string> rutas)
-{
-    if (!s.Vigilancia.activa || s.Proyecto.NombreProyecto.empty()) return true;
-    if (!PuedeSerDeDos(s)) return false;
-    return std::all_of(rutas.begin(), rutas.end(), [&](const std::string& ruta) {
-        return !EsAjeno(s, ruta) ||
-               Consulta(s, std::string(Cambiado1).append(ruta).append(Cambiado2), TituloCambiado);
-    });
+    Vigilancia& v = s.Vigilancia;
+    // Who had it open may have gone meanwhile.
+    if (v.reclamado != ConfEnMano(s) || !v.ocupante.empty()) Reclama(s);
+    if (v.ocupante.empty() || v.ocupante == v.consentido) return true;
+    if (!Consulta(s, Ocupado(s, PreguntaAbierto), Titulo)) return false;
+    v.consentido = v.ocupante;
+    return true;
 }
 
 }  // namespace model

@@ -13,10 +13,10 @@
 #include <vector>
 
 #include "model/Avisos.h"
-#include "model/Candado.h"
 #include "model/Clases.h"
 #include "model/EscrituraInformada.h"
 #include "model/Falla.h"
+#include "model/Huellas.h"
 #include "model/Numeros.h"
 #include "model/Registros.h"
 #include "model/Siro.h"

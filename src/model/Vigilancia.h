@@ -11,10 +11,15 @@ namespace model {
 /// unasked.
 struct Vigilancia {
     bool activa = false;  ///< another program may be at the same files; runs without a window watch none
-    std::string archivoConf{};                     ///< configuration file last read or written
+    std::string archivoConf{};  ///< configuration file last read or written
+
+    // --- Huellas.h ---
     std::map<std::string, std::size_t> huellas{};  ///< files as last read or written: path, what it held
-    std::string reclamado{};                       ///< configuration file of the project claimed last
-    std::string ocupante{};  ///< who else has that one open, until the user has been asked; else empty
+
+    // --- Candado.h ---
+    std::string reclamado{};   ///< configuration file of the project claimed last
+    std::string ocupante{};    ///< who else had that one open then; empty: it is this program's
+    std::string consentido{};  ///< of whom the user has said Yes to saving all the same
 };
 
 }  // namespace model

@@ -156,6 +156,47 @@ TEST_F(DosProgramas, SiElOtroYaSeFueNoSePregunta)
     EXPECT_EQ(Preguntas(), std::vector<std::string>{});
 }
 
+TEST_F(DosProgramas, TrasElSiElProyectoSeReclamaAlQuedarLibre)
+{
+    anfitrion->ocupante = otro;
+    ReclamaProyecto(s);
+    EXPECT_TRUE(cmdAplicar(s));
+    EXPECT_EQ(Preguntas(), std::vector<std::string>{PreguntaAbierto});
+    anfitrion->reclamados.clear();
+    EXPECT_TRUE(GuardaRed(s));
+    EXPECT_EQ(anfitrion->reclamados, std::vector<std::string>{"/proy/Arroyo_Conf.vlm"}) << "still taken";
+    anfitrion->ocupante.clear();
+    EXPECT_TRUE(GuardaRed(s));
+    EXPECT_EQ(anfitrion->reclamados.size(), 2U) << "free by now";
+    EXPECT_TRUE(GuardaRed(s));
+    EXPECT_EQ(anfitrion->reclamados.size(), 2U) << "this program's";
+    EXPECT_EQ(Preguntas().size(), 1U);
+}
+
+TEST_F(DosProgramas, ElSiValeParaElProgramaPorElQueSePregunto)
+{
+    const std::string tercero = "equipo PC3, proceso 5";
+    anfitrion->ocupante = otro;
+    ReclamaProyecto(s);
+    EXPECT_TRUE(cmdAplicar(s));
+    anfitrion->ocupante = tercero;
+    anfitrion->respuestas = {false};
+    EXPECT_FALSE(cmdAplicar(s));
+    std::string preguntaTercero = PreguntaAbierto;
+    preguntaTercero.replace(preguntaTercero.find(otro), otro.size(), tercero);
+    EXPECT_EQ(Preguntas(), (std::vector<std::string>{PreguntaAbierto, preguntaTercero}));
+}
+
+TEST_F(DosProgramas, ElSiValeParaUnaSolaAperturaDelProyecto)
+{
+    anfitrion->ocupante = otro;
+    ReclamaProyecto(s);
+    EXPECT_TRUE(cmdAplicar(s));
+    ReclamaProyecto(s);
+    EXPECT_TRUE(cmdAplicar(s));
+    EXPECT_EQ(Preguntas(), (std::vector<std::string>{PreguntaAbierto, PreguntaAbierto}));
+}
+
 TEST_F(DosProgramas, ElNombreDeAdentroEsElQueSeReclama)
 {
     disco.PonDirectorio("/siro");

@@ -193,6 +193,19 @@ TEST_F(ConCandado, ConElProyectoEnOtroProgramaSeAvisaYSePreguntaAntesDeGuardar)
     EXPECT_EQ(anfitrion->Preguntas().size(), 1U) << "it has gone meanwhile";
 }
 
+TEST_F(ConCandado, ElSegundoTomaElProyectoCuandoElPrimeroSeFueYElTerceroLoSabe)
+{
+    Candado primero, tercero;
+    ASSERT_EQ(primero.Toma(instalacion.Quelmar()), "");
+    Arranca(instalacion.Quelmar());
+    EXPECT_TRUE(model::cmdAplicar(escritorio.s));
+    EXPECT_EQ(anfitrion->Preguntas().size(), 1U) << "answered with Yes";
+    primero.Toma("");
+    EXPECT_TRUE(model::cmdAplicar(escritorio.s));
+    EXPECT_EQ(anfitrion->Preguntas().size(), 1U);
+    EXPECT_NE(tercero.Toma(instalacion.Quelmar()), "");
+}
+
 TEST_F(ConCandado, ElQueDejoUnProgramaMuertoNoCuenta)
 {
     QFile viejo(Q(Lugar()));

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+// What the project's files held when this program read or wrote them last, so that it asks before it writes
+// over what another one has left there. Without `Vigilancia::activa` nothing is recorded and nothing asked.
+namespace model {
+
+struct Siro;
+
+/// Reads a project file and remembers what it holds. Throws Falla 53, 76, 75.
+std::string LeeVigilado(Siro& s, const std::string& ruta);
+
+/// Remembers what a project file holds that was read or written already.
+void AnotaLeido(Siro& s, const std::string& ruta, std::string_view bytes);
+
+/// Remembers a project file as this program has left it.
+void AnotaGuardado(Siro& s, const std::string& ruta);
+
+/// Before these project files are replaced or deleted: asks where another program has the project open, and
+/// of each file that isn't as this program knows it. Returns whether they may be.
+bool PuedeGuardar(Siro& s, std::initializer_list<std::string> rutas);
+
+}  // namespace model
