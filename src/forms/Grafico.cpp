@@ -3,9 +3,6 @@
 
 #include <algorithm>
 
-#include "forms/LecturaGrafico.h"
-#include "model/Numeros.h"
-
 namespace forms {
 
 namespace {
@@ -18,13 +15,6 @@ void PonDivisiones(EscalaCategorias& escala, std::int32_t divisiones)
     escala.divisionesPorRotulo = divisiones;
     escala.divisionesPorMarca = divisiones / 2;
     escala.marcaDeRotulo = true;
-}
-
-std::string TextoDeCelda(double celda)
-{
-    if (EstaVacia(celda)) return {};
-    if (celda == std::floor(celda)) return model::NumeroATexto(celda);
-    return model::NumeroATexto(static_cast<float>(celda));
 }
 
 }  // namespace
@@ -45,21 +35,6 @@ void MenosDivisiones(EscalaCategorias& escala)
 {
     // A scale keeps one division at least, or doubling could never leave 0 again.
     PonDivisiones(escala, std::max(escala.divisionesPorRotulo / 2, 1));
-}
-
-Planilla CeldasComoPlanilla(const Grafico& grafico)
-{
-    Planilla planilla;
-    planilla.columnas.push_back({EncabezadoDeCategorias(grafico)});
-    for (const Serie& serie : grafico.series)
-        planilla.columnas.push_back({EncabezadoDe(grafico, serie)});
-    for (std::size_t i = 0; i < grafico.categorias.size(); ++i) {
-        std::vector<std::string>& fila = planilla.filas.emplace_back();
-        fila.push_back(grafico.categorias[i]);
-        for (const Serie& serie : grafico.series)
-            fila.push_back(TextoDeCelda(serie.celdas[i]));
-    }
-    return planilla;
 }
 
 }  // namespace forms

@@ -8,8 +8,6 @@
 #include <string>
 #include <vector>
 
-#include "forms/Planilla.h"
-
 // A chart as a table of cells: the first column holds the category of each row as text, each further column
 // is a series. Whoever paints it decides nothing.
 namespace forms {
@@ -72,10 +70,5 @@ struct Grafico {
 /// Doubles the divisions per label of a scale, or halves them, and ticks half as often as it labels.
 void MasDivisiones(EscalaCategorias& escala);
 void MenosDivisiones(EscalaCategorias& escala);
-
-/// The cells as a table: the categories and a column per series, each with its unit in the heading. Whole
-/// numbers have all their digits, other cells the seven of the arrays that they come from; nothing stands for
-/// an empty cell. Titles are left to whoever knows them.
-Planilla CeldasComoPlanilla(const Grafico& grafico);
 
 }  // namespace forms

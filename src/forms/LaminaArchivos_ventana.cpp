@@ -15,6 +15,7 @@
 #include "forms/Csv.h"
 #include "forms/Impresion_ventana.h"
 #include "forms/Lamina_ventana.h"
+#include "forms/LecturaGrafico.h"
 #include "forms/SignoDecimal_ventana.h"
 #include "forms/Textos_ventana.h"
 #include "forms/Trazo_ventana.h"

@@ -69,21 +69,8 @@ std::size_t CifrasSignificativas(std::string_view rotulo)
     return fin - inicio + 1;
 }
 
-}  // namespace
-
-std::string LecturaDeFila(const Grafico& grafico, std::size_t fila)
-{
-    if (fila >= grafico.categorias.size()) return {};
-    std::string lectura = Abscisa(grafico, fila);
-    for (const Serie& serie : grafico.series) {
-        if (fila >= serie.celdas.size() || EstaVacia(serie.celdas[fila])) continue;
-        lectura.append("\n")
-            .append(NombreDe(grafico, serie))
-            .append(" = ")
-            .append(Valor(grafico, serie, serie.celdas[fila]));
-    }
-    return lectura;
-}
+// Headings of the columns of its cells, with units: "t [horas]", "Qsale [m3/s]", "R= 2 años [m3/s]". None is
+// empty.
 
 std::string EncabezadoDeCategorias(const Grafico& grafico)
 {
@@ -101,6 +88,44 @@ std::string EncabezadoDe(const Grafico& grafico, const Serie& serie)
         encabezado = SinUnidad(grafico.tituloLeyenda) + "= " + serie.leyenda + Unidad(grafico.tituloLeyenda);
     if (!unidad.empty()) encabezado.append(" [").append(unidad).append("]");
     return encabezado;
+}
+
+std::string TextoDeCelda(double celda)
+{
+    if (EstaVacia(celda)) return {};
+    if (celda == std::floor(celda)) return model::NumeroATexto(celda);
+    return model::NumeroATexto(static_cast<float>(celda));
+}
+
+}  // namespace
+
+std::string LecturaDeFila(const Grafico& grafico, std::size_t fila)
+{
+    if (fila >= grafico.categorias.size()) return {};
+    std::string lectura = Abscisa(grafico, fila);
+    for (const Serie& serie : grafico.series) {
+        if (fila >= serie.celdas.size() || EstaVacia(serie.celdas[fila])) continue;
+        lectura.append("\n")
+            .append(NombreDe(grafico, serie))
+            .append(" = ")
+            .append(Valor(grafico, serie, serie.celdas[fila]));
+    }
+    return lectura;
+}
+
+Planilla CeldasComoPlanilla(const Grafico& grafico)
+{
+    Planilla planilla;
+    planilla.columnas.push_back({EncabezadoDeCategorias(grafico)});
+    for (const Serie& serie : grafico.series)
+        planilla.columnas.push_back({EncabezadoDe(grafico, serie)});
+    for (std::size_t i = 0; i < grafico.categorias.size(); ++i) {
+        std::vector<std::string>& fila = planilla.filas.emplace_back();
+        fila.push_back(grafico.categorias[i]);
+        for (const Serie& serie : grafico.series)
+            fila.push_back(TextoDeCelda(serie.celdas[i]));
+    }
+    return planilla;
 }
 
 std::string Descripcion(const Grafico& grafico)

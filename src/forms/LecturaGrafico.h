@@ -7,8 +7,9 @@
 #include <vector>
 
 #include "forms/Grafico.h"
+#include "forms/Planilla.h"
 
-// What a chart says in words, and which of its categories are labelled.
+// What a chart says in words and as a table, and which of its categories are labelled.
 namespace forms {
 
 /// The row under the pointer: its category, then a line per series with a value there, as
@@ -16,10 +17,10 @@ namespace forms {
 /// gives no text.
 std::string LecturaDeFila(const Grafico& grafico, std::size_t fila);
 
-/// Headings of the columns of its cells, with units: "t [horas]", "Qsale [m3/s]", "R= 2 años [m3/s]". None is
-/// empty.
-std::string EncabezadoDeCategorias(const Grafico& grafico);
-std::string EncabezadoDe(const Grafico& grafico, const Serie& serie);
+/// The cells as a table: the categories and a column per series, each with its unit in the heading. Whole
+/// numbers have all their digits, other cells the seven of the arrays that they come from; nothing stands for
+/// an empty cell. Titles are left to whoever knows them.
+Planilla CeldasComoPlanilla(const Grafico& grafico);
 
 /// What a reader of the screen says of a chart: number of rows, and the peak of each series and where it is.
 std::string Descripcion(const Grafico& grafico);

@@ -16,6 +16,7 @@
 #include "apoyo/Papel.h"
 #include "apoyo/Ventanas.h"
 #include "forms/Lamina_ventana.h"
+#include "forms/LecturaGrafico.h"
 #include "forms/SignoDecimal_ventana.h"
 #include "forms/Textos_ventana.h"
 

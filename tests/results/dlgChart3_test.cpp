@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "apoyo/Compara.h"
+#include "forms/LecturaGrafico.h"
 #include "results/SerieDePrueba.h"
 
 namespace results {
