@@ -12,6 +12,7 @@
 #include "model/Falla.h"
 #include "model/LlamadasDisco.h"
 #include "model/Reemplazo.h"
+#include "model/RestosDeReemplazo.h"
 
 namespace model {
 

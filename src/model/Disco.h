@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "model/CambioArchivo.h"
+
 namespace model {
 
 /// Separator of directories, as this platform writes it.
@@ -15,20 +17,6 @@ inline constexpr char Separador = '\\';
 #else
 inline constexpr char Separador = '/';
 #endif
-
-/// A file as it is to be.
-struct CambioArchivo {
-    std::string ruta{};
-    std::string bytes{};
-    bool operator==(const CambioArchivo&) const = default;
-};
-
-/// What was found of a Reemplaza whose program was killed: file names in the folder that was looked at.
-struct Recuperacion {
-    std::vector<std::string> completados{};  ///< now hold what that program had to write
-    std::vector<std::string> pendientes{};   ///< could not be replaced; the next look tries again
-    bool operator==(const Recuperacion&) const = default;
-};
 
 /// The disk behind one door, so that a test can stand in for it and let the n-th call fail. Paths are UTF-8,
 /// contents are bytes. Faults: 53 the file isn't in its directory, 76 its directory isn't there, 75 the

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <optional>
+#include <string>
 #include <system_error>
 #include <utility>
 
@@ -237,29 +238,6 @@ void Grupo::CumpleEnSitio()
 }
 
 }  // namespace
-
-std::error_code PoneTemporal(const LlamadasDisco& llamadas, const fs::path& temporal, const fs::path& destino)
-{
-    const std::error_code error = llamadas.Renombra(temporal, destino);
-    const bool nombreFijo = error == std::errc::operation_not_permitted ||
-                            error == std::errc::permission_denied ||
-                            error == std::errc::device_or_resource_busy;
-    std::error_code sinEstado;
-    if (!nombreFijo || !fs::is_regular_file(fs::symlink_status(destino, sinEstado)) ||
-        !llamadas.DejaEscribir(destino))
-        return error;
-    try {
-        const std::string viejo = LeeArchivo(destino), nuevo = LeeArchivo(temporal);
-        if (const std::error_code fallo = llamadas.Sobrescribe(destino, nuevo)) {
-            llamadas.Sobrescribe(destino, viejo);
-            return fallo;
-        }
-    } catch (const Falla&) {
-        return error;
-    }
-    llamadas.Borra(temporal);
-    return {};
-}
 
 void ReemplazaArchivos(const LlamadasDisco& llamadas, const std::vector<CambioArchivo>& cambios)
 {

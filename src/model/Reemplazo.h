@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <filesystem>
-#include <string>
 #include <string_view>
-#include <system_error>
 #include <vector>
 
-#include "model/Disco.h"
+#include "model/CambioArchivo.h"
 #include "model/LlamadasDisco.h"
 
 // How files are replaced so that at every moment each of them is whole, the old one or the new one.
@@ -26,18 +23,5 @@ inline constexpr std::string_view NotaEnlace =
 /// See Disco::Reemplaza. Where a folder takes no new file, but lets the old ones be written, they are written
 /// in place; so is what is no plain file, a device for one.
 void ReemplazaArchivos(const LlamadasDisco& llamadas, const std::vector<CambioArchivo>& cambios);
-
-/// Puts a temporary in the place of a file. Where the folder lets the file's name be given to nothing else,
-/// as a shared one does with what another user owns, the bytes go into the file where it stands.
-std::error_code PoneTemporal(const LlamadasDisco& llamadas, const std::filesystem::path& temporal,
-                             const std::filesystem::path& destino);
-
-/// Takes names out of what an earlier replacement left unfinished, once they hold what is newer: finishing it
-/// would put the older bytes over them. What belongs to another program that is running is left to it.
-void OlvidaPendientes(const LlamadasDisco& llamadas, const std::filesystem::path& carpeta,
-                      const std::vector<std::string>& nombres);
-
-/// See Disco::Recupera. What belongs to another program that is running is left to it.
-Recuperacion RecuperaCarpeta(const LlamadasDisco& llamadas, const std::string& directorio);
 
 }  // namespace model

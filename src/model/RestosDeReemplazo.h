@@ -1,12 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
-// What a replacement of files leaves in its folder while it lasts: names of temporaries and lists.
+#include "model/CambioArchivo.h"
+#include "model/LlamadasDisco.h"
+
+// What a replacement of files leaves in its folder while it lasts, temporaries and lists: their names, and
+// how one that was cut short is finished.
 namespace model {
 
 /// Name of a temporary, ".siro-4711-1-0.tmp", or of the list of a replacement, ".siro-4711-1.lista".
@@ -27,5 +33,18 @@ std::string TextoDeLista(const std::vector<std::string>& nombres);
 
 /// Reads a list. Nothing where it isn't whole, or where it names what is no file of its own folder.
 std::optional<std::vector<std::string>> LeeLista(std::string_view bytes);
+
+/// Puts a temporary in the place of a file. Where the folder lets the file's name be given to nothing else,
+/// as a shared one does with what another user owns, the bytes go into the file where it stands.
+std::error_code PoneTemporal(const LlamadasDisco& llamadas, const std::filesystem::path& temporal,
+                             const std::filesystem::path& destino);
+
+/// Takes names out of what an earlier replacement left unfinished, once they hold what is newer: finishing it
+/// would put the older bytes over them. What belongs to another program that is running is left to it.
+void OlvidaPendientes(const LlamadasDisco& llamadas, const std::filesystem::path& carpeta,
+                      const std::vector<std::string>& nombres);
+
+/// See Disco::Recupera. What belongs to another program that is running is left to it.
+Recuperacion RecuperaCarpeta(const LlamadasDisco& llamadas, const std::string& directorio);
 
 }  // namespace model

@@ -4,8 +4,11 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <cstdint>
+#include <string>
 #include <utility>
 #include <variant>
+#include <vector>
 
 #include "editor/lienzo/RegistrosMeta.h"
 #include "model/Texto.h"

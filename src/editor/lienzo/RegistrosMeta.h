@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "editor/lienzo/Metarchivo.h"
+#include "editor/lienzo/LienzoMeta.h"
 
 // The records of a Windows metafile and what stands in them. No length and no index of the file is trusted.
 namespace editor {
