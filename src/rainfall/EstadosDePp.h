@@ -7,10 +7,73 @@
 #include <initializer_list>
 #include <string_view>
 
-#include "rainfall/dlgPp.h"
+#include "forms/Rotulo.h"
 
-// What each form of the rain makes of the controls of the storm dialog.
+// The controls of the storm dialog, which of them can be used and are shown, and what each form of the rain
+// makes of that.
 namespace rainfall {
+
+/// Controls of the dialog. An indexed control that is enabled as a whole is one of them. A caption is that of
+/// a button, a frame or a label, or of the label beside a field; none where there are several or where the
+/// record gives the text.
+// clang-format off
+inline constexpr auto ControlesDlgPp = std::to_array<forms::FilaRotulo>({
+    {"optformaPp",            ""},
+    {"txtPp",                 "&Precipitación Pp [mm]:"},
+    {"txtDur",                "&Duración D [min]:"},
+    {"cmbRec",                "&Recurrencia R [años]:"},
+    {"cmbPDR",                "&Lista de tormentas archivadas:"},
+    {"optDistriPp",           ""},
+    {"optTablaPDR",           ""},
+    {"cmbPasoPp",             "Paso de &entrada (Precipitación) [min]:"},
+    {"cmbPasoQ",              "Paso de &salida (Caudales) [min]:"},
+    {"FilePpReal",            "Archi&vos de tormentas:"},
+    {"cmdAplicar",            "&Aplicar"},
+    {"OKButton",              "&Aceptar"},
+    {"CancelButton",          "&Cancelar"},
+    {"cmdVerGrafico",         "&Gráfico P-t"},
+    {"cmdVerTablaPt",         "Ver Tabla P-t"},
+    {"cmdPDR",                "Cargar Tormenta a Lista b)"},
+    {"cmdBorraPDR",           "Eliminar de Lista una tormenta ( P-t )"},
+    {"cmdTablaPDR",           "Cargar Tabla Pp-D-R"},
+    {"cmdPpPerso",            "Cargar Tabla Personalizada "},
+    {"cmdPpReal",             "Cargar lluvia Real (P-t)"},
+    {"cmdCargaPDRnoUniforme", "Cargar datos",
+     "Abre la Tabla para carga de datos de lluvia por SubCuenca o UEH (Lluvias No uniformes en el área)"},
+    {"Frame2",                "a) Lluvia (Pp), Duración (D) y Recurrencia (R)"},
+    {"Frame3",                "c) Tabla de Pp-D-R"},
+    {"Frame4",                "b) Lista archivada"},
+    {"Frame5",                "Distribución temporal"},
+    {"Frame7",                "Lluvias Reales"},
+    {"lblValidez",            "Validez: Duración [minutos]    Min        -    Máxima"},
+    {"lblDurMin",             ""},
+    {"lblDurMax",             ""},
+    {"Label9_0",              "Lluvias Sintéticas de distribución areal UNIFORME"},
+    {"Label9_1",              "Lluvias Sintéticas de distribución areal NO UNIFORME"},
+    {"lblNumPer",             "Intervalos:"},
+    {"lblMiFilePpReal",       "Tormenta:"},
+});
+// clang-format on
+
+inline constexpr std::size_t NroControles = ControlesDlgPp.size();
+
+/// Captions of optformaPp; the index is FormaPp.
+inline constexpr auto FormasPp = std::to_array<std::string_view>({
+    "a) Ingresar una lluvia (Pp), de Duración (D) y Recurrencia(R) y asignar una distribución temporal tipo",
+    "b) Cargar una tormenta  Pp-D-R desde Lista archivada",
+    "c) Cargar una tabla de Pp-D-R desde archivo",
+    "d) Cargar una Pp-D-R por cada UEH",
+    "Lluvias Reales",
+});
+
+/// What a control shows of itself beside its text.
+struct EstadoControl {
+    bool habilitado = true;
+    bool visible = true;
+    bool operator==(const EstadoControl&) const = default;
+};
+
+using EstadosDePp = std::array<EstadoControl, NroControles>;
 
 /// A set of controls, a bit each.
 using Conjunto = std::uint64_t;
@@ -27,10 +90,10 @@ consteval Conjunto De(std::initializer_list<std::string_view> controles)
     return c;
 }
 
-inline void Pon(dlgPp& f, Conjunto controles, bool EstadoControl::*que, bool valor)
+inline void Pon(EstadosDePp& estados, Conjunto controles, bool EstadoControl::*que, bool valor)
 {
     for (std::size_t i = 0; i < NroControles; ++i)
-        if ((controles >> i & 1U) != 0) f.estados[i].*que = valor;
+        if ((controles >> i & 1U) != 0) estados[i].*que = valor;
 }
 
 inline constexpr Conjunto Validez = De({"lblValidez", "lblDurMin", "lblDurMax"});

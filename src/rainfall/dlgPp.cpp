@@ -13,7 +13,6 @@
 #include "model/Siro.h"
 #include "model/Texto.h"
 #include "model/Tormenta.h"
-#include "rainfall/EstadosDePp.h"
 
 namespace rainfall {
 
@@ -154,16 +153,16 @@ void EstadoFormaPp(dlgPp& f, Siro& s)
 {
     const FormaLluvia forma = Forma(f);
     s.Tormenta.FormaPp = forma;
-    Pon(f, Deshabilitados, &EstadoControl::habilitado, false);
+    Pon(f.estados, Deshabilitados, &EstadoControl::habilitado, false);
     f.Estado("optDistriPp").habilitado = forma < FormaLluvia::PorUEH;
     TomaDistribucion(f, s);
 
     if (forma == FormaLluvia::DeLista) LeeLista(f, s);
     const FilaForma& fila = FilasForma.at(static_cast<std::size_t>(forma));
-    Pon(f, fila.habilita, &EstadoControl::habilitado, true);
-    Pon(f, fila.deshabilita, &EstadoControl::habilitado, false);
-    Pon(f, Marcos | fila.oculta, &EstadoControl::visible, false);
-    Pon(f, fila.muestra, &EstadoControl::visible, true);
+    Pon(f.estados, fila.habilita, &EstadoControl::habilitado, true);
+    Pon(f.estados, fila.deshabilita, &EstadoControl::habilitado, false);
+    Pon(f.estados, Marcos | fila.oculta, &EstadoControl::visible, false);
+    Pon(f.estados, fila.muestra, &EstadoControl::visible, true);
 
     if (forma <= FormaLluvia::SeriePDR && f.optDistriPp >= PrimeraPersonal)
         f.Estado("cmdPpPerso").habilitado = true;
@@ -198,7 +197,7 @@ void Abre(dlgPp& f, Siro& s)
     // Enabled by the one form that uses it.
     f.Estado("cmdCargaPDRnoUniforme").habilitado = false;
     // Shown with a personal distribution only.
-    Pon(f, Validez, &EstadoControl::visible, false);
+    Pon(f.estados, Validez, &EstadoControl::visible, false);
     LlenaListas(f, s);
     for (std::int16_t* paso : {&s.Pasos.PasoPp, &s.Pasos.PasoQ})
         if (*paso == 0) *paso = PasoPorDefecto;
@@ -353,7 +352,7 @@ void Aplica(dlgPp& f, Siro& s)
         f.abierta = false;
         return;
     }
-    Pon(f, Validez, &EstadoControl::visible, false);
+    Pon(f.estados, Validez, &EstadoControl::visible, false);
     TomaDistribucion(f, s);
     CorrigePasos(f, s);
     TomaCampos(f, s, CamposDePasos);

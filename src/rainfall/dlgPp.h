@@ -11,9 +11,9 @@
 
 #include "forms/CampoNumerico.h"
 #include "forms/Lista.h"
-#include "forms/Rotulo.h"
 #include "model/ArchivosTormenta.h"
 #include "model/Siro.h"
+#include "rainfall/EstadosDePp.h"
 
 // Rules of the storm dialog: input form, depth, duration and recurrence of the storm, its temporal
 // distribution, the two time steps of the model. What its controls hold is a record; each event of the window
@@ -25,59 +25,6 @@ inline constexpr std::string_view TituloDlgPp = "Carga de Datos de Precipitació
 /// Caption of the options of the form, and of the two steps; both frames are always shown.
 inline constexpr std::string_view MarcoFormas = "Forma de ingreso de la lluvia";
 inline constexpr std::string_view MarcoPasos = "Pasos de tiempo";
-
-/// Controls of the dialog. An indexed control that is enabled as a whole is one of them. A caption is that of
-/// a button, a frame or a label, or of the label beside a field; none where there are several or where the
-/// record gives the text.
-// clang-format off
-inline constexpr auto ControlesDlgPp = std::to_array<forms::FilaRotulo>({
-    {"optformaPp",            ""},
-    {"txtPp",                 "&Precipitación Pp [mm]:"},
-    {"txtDur",                "&Duración D [min]:"},
-    {"cmbRec",                "&Recurrencia R [años]:"},
-    {"cmbPDR",                "&Lista de tormentas archivadas:"},
-    {"optDistriPp",           ""},
-    {"optTablaPDR",           ""},
-    {"cmbPasoPp",             "Paso de &entrada (Precipitación) [min]:"},
-    {"cmbPasoQ",              "Paso de &salida (Caudales) [min]:"},
-    {"FilePpReal",            "Archi&vos de tormentas:"},
-    {"cmdAplicar",            "&Aplicar"},
-    {"OKButton",              "&Aceptar"},
-    {"CancelButton",          "&Cancelar"},
-    {"cmdVerGrafico",         "&Gráfico P-t"},
-    {"cmdVerTablaPt",         "Ver Tabla P-t"},
-    {"cmdPDR",                "Cargar Tormenta a Lista b)"},
-    {"cmdBorraPDR",           "Eliminar de Lista una tormenta ( P-t )"},
-    {"cmdTablaPDR",           "Cargar Tabla Pp-D-R"},
-    {"cmdPpPerso",            "Cargar Tabla Personalizada "},
-    {"cmdPpReal",             "Cargar lluvia Real (P-t)"},
-    {"cmdCargaPDRnoUniforme", "Cargar datos",
-     "Abre la Tabla para carga de datos de lluvia por SubCuenca o UEH (Lluvias No uniformes en el área)"},
-    {"Frame2",                "a) Lluvia (Pp), Duración (D) y Recurrencia (R)"},
-    {"Frame3",                "c) Tabla de Pp-D-R"},
-    {"Frame4",                "b) Lista archivada"},
-    {"Frame5",                "Distribución temporal"},
-    {"Frame7",                "Lluvias Reales"},
-    {"lblValidez",            "Validez: Duración [minutos]    Min        -    Máxima"},
-    {"lblDurMin",             ""},
-    {"lblDurMax",             ""},
-    {"Label9_0",              "Lluvias Sintéticas de distribución areal UNIFORME"},
-    {"Label9_1",              "Lluvias Sintéticas de distribución areal NO UNIFORME"},
-    {"lblNumPer",             "Intervalos:"},
-    {"lblMiFilePpReal",       "Tormenta:"},
-});
-// clang-format on
-
-inline constexpr std::size_t NroControles = ControlesDlgPp.size();
-
-/// Captions of optformaPp; the index is FormaPp.
-inline constexpr auto FormasPp = std::to_array<std::string_view>({
-    "a) Ingresar una lluvia (Pp), de Duración (D) y Recurrencia(R) y asignar una distribución temporal tipo",
-    "b) Cargar una tormenta  Pp-D-R desde Lista archivada",
-    "c) Cargar una tabla de Pp-D-R desde archivo",
-    "d) Cargar una Pp-D-R por cada UEH",
-    "Lluvias Reales",
-});
 
 /// Captions of optDistriPp; the index is DistriPp.
 inline constexpr auto DistribucionesPp = std::to_array<std::string_view>({
@@ -103,13 +50,6 @@ inline constexpr auto TablasPDR = std::to_array<std::string_view>({
 inline constexpr auto PasosDeTiempo =
     std::to_array<std::int16_t>({5, 10, 15, 20, 30, 60, 120, 180, 240, 300, 360, 540, 720});
 
-/// What a control shows of itself beside its text.
-struct EstadoControl {
-    bool habilitado = true;
-    bool visible = true;
-    bool operator==(const EstadoControl&) const = default;
-};
-
 /// Texts that wait for cmdAplicar. Those of the lists may be other than their items.
 struct TextosDePp {
     std::string txtPp = "60";             ///< depth [mm]
@@ -120,7 +60,7 @@ struct TextosDePp {
 
 /// What the dialog's controls hold, and with it the hidden instance of the form.
 struct dlgPp : TextosDePp {
-    std::array<EstadoControl, NroControles> estados{};
+    EstadosDePp estados{};
     int optformaPp = -1, optDistriPp = -1, optTablaPDR = -1;  ///< option ticked, from 0; -1: none
     std::vector<std::string> itemsRec{}, itemsPaso{};         ///< of cmbRec; of cmbPasoPp and cmbPasoQ
     forms::Lista cmbPDR{};                                    ///< stored storms
@@ -136,14 +76,12 @@ struct dlgPp : TextosDePp {
 
     // By the name of a control of the table.
     EstadoControl& Estado(std::string_view c) { return estados.at(forms::LugarDe(ControlesDlgPp, c)); }
-    [[nodiscard]] bool Habilitado(std::string_view c) const
+    [[nodiscard]] const EstadoControl& Estado(std::string_view c) const
     {
-        return estados.at(forms::LugarDe(ControlesDlgPp, c)).habilitado;
+        return estados.at(forms::LugarDe(ControlesDlgPp, c));
     }
-    [[nodiscard]] bool Visible(std::string_view c) const
-    {
-        return estados.at(forms::LugarDe(ControlesDlgPp, c)).visible;
-    }
+    [[nodiscard]] bool Habilitado(std::string_view c) const { return Estado(c).habilitado; }
+    [[nodiscard]] bool Visible(std::string_view c) const { return Estado(c).visible; }
 };
 
 /// A text that waits for cmdAplicar, and the number in use that it is for. One without a message isn't
