@@ -2,7 +2,6 @@
 #include "editor/Historia.h"
 
 #include <algorithm>
-#include <tuple>
 #include <utility>
 
 namespace editor {
@@ -11,16 +10,9 @@ using model::Red;
 
 namespace {
 
-/// The components of a network, or of a kept one.
-auto Componentes(auto& red)
-{
-    return std::tie(red.ColUEHs, red.ColCauces, red.ColLagos, red.ColRepresas);
-}
-
 RedGuardada Toma(const Red& red, const Trazo& trazo)
 {
-    RedGuardada guardada{.trazo = trazo};
-    Componentes(guardada) = Componentes(red);
+    RedGuardada guardada{red, {}, trazo};
     const int cauces = std::max(CaucesDibujados(red), red.ColCauces.Cuenta());
     for (int i = 1; i <= std::min(cauces, model::MaxCauces); ++i)
         guardada.lineas.push_back(Linea(red, i));
@@ -36,10 +28,10 @@ bool Pasa(Historia& h, Red& red, Trazo& trazo, std::vector<RedGuardada>& de, std
 }
 
 /// Whether both hold the same components; that a reach is being drawn makes no difference.
-bool MismosComponentes(RedGuardada una, const RedGuardada& otra)
+bool MismosComponentes(model::Colecciones una, const model::Colecciones& otra)
 {
     una.ColCauces.Anuncia(otra.ColCauces.Nro());
-    return Componentes(una) == Componentes(otra);
+    return una == otra;
 }
 
 /// The network to go back to from the end of a reach's drawing: the one before the clicks that led here.
@@ -79,7 +71,7 @@ bool Repone(const Historia& h, Red& red, Trazo& trazo)
 {
     if (!h.presente) return false;
     const RedGuardada& guardada = *h.presente;
-    Componentes(red) = Componentes(guardada);
+    static_cast<model::Colecciones&>(red) = guardada;
     trazo = guardada.trazo;
     red.NroVertices.Dimensiona(red.NroVertices.Tope());
     red.XVertice.Dimensiona(model::MaxCauces, 0);

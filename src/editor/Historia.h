@@ -12,11 +12,7 @@
 namespace editor {
 
 /// All that an editing command can change in memory.
-struct RedGuardada {
-    decltype(model::Red::ColUEHs) ColUEHs{};
-    decltype(model::Red::ColCauces) ColCauces{};
-    decltype(model::Red::ColLagos) ColLagos{};
-    decltype(model::Red::ColRepresas) ColRepresas{};
+struct RedGuardada : model::Colecciones {
     std::vector<std::vector<Punto>> lineas{};  ///< vertices of reach 1, 2, ..., the one being drawn included
     Trazo trazo{};
     bool operator==(const RedGuardada&) const = default;

@@ -20,9 +20,8 @@ inline constexpr int MaxLagos = 70;
 inline constexpr int MaxRepresas = 20;
 inline constexpr int MaxNroVertices = 100;  ///< upper bound of NroVertices
 
-/// The network: its components, the drawn lines of its reaches, the tables of its Represas and Lagos. A plain
-/// value; Clases.h tells what its four kinds of component have in common.
-struct Red {
+/// The components of a network. Clases.h tells what their four kinds have in common.
+struct Colecciones {
     Coleccion<UEH, MaxUEHs> ColUEHs{};
     Coleccion<Cauce, MaxCauces> ColCauces{};
     Coleccion<Lago, MaxLagos> ColLagos{};
@@ -37,7 +36,12 @@ struct Red {
     Cauce& Cauces(int n) { return ColCauces.Ranura(n); }
     Lago& Lagos(int n) { return ColLagos.Ranura(n); }
     Represa& Represas(int n) { return ColRepresas.Ranura(n); }
+    bool operator==(const Colecciones&) const = default;
+};
 
+/// The network: its components, the drawn lines of its reaches, the tables of its Represas and Lagos. A plain
+/// value.
+struct Red : Colecciones {
     // --- drawing of the reaches ---
     Arreglo<std::int16_t> NroVertices = Ceros<std::int16_t>(MaxNroVertices);  ///< by Cauce number
     Matriz<float> XVertice{}, YVertice{};  ///< row: Cauce number 0..70; column: vertex from 1 [drawing units]
