@@ -133,12 +133,9 @@ void BorraTodo(frmUEHs& f, Siro& s)
     model::CadaClase(s.Red, [](auto& coleccion) { coleccion.Vacia(); });
     f.trazo.ClicsCauce = 0;
     s.Control.CargaFallida = false;  // the user has seen the network, and wants none
-    try {
-        s.Disco.Borra(
-            model::Ruta(s.Proyecto.DirProyecto, s.Proyecto.NombreProyecto + std::string(SufijoRHQ)));
-    } catch (const model::Falla& falla) {
-        if (falla.numero != model::NumeroFalla::ArchivoNoEsta) throw;  // most networks have none
-    }
+    const std::string tabla = s.Proyecto.NombreProyecto + std::string(SufijoRHQ);  // most networks have none
+    model::Sentencia([&] { s.Disco.Borra(model::Ruta(s.Proyecto.DirProyecto, tabla)); },
+                     model::SalvoQueFalte);
     Redibuja(f, s);
 }
 

@@ -54,11 +54,8 @@ CurvaLineal CurvaDe(const Columnas<float, T>& t)
 template <typename Cuerpo, typename T>
 T ONada(Cuerpo&& cuerpo, T nada)
 {
-    try {
-        return cuerpo();
-    } catch (const model::Falla&) {
-        return nada;
-    }
+    model::Sentencia([&] { nada = cuerpo(); });
+    return nada;
 }
 
 /// Whether the functions can neither fault nor leave the type between two heights.

@@ -233,7 +233,7 @@ void LeePpReal(Siro& s, TormentaReal& tormenta)
 {
     AbreTormenta(s, tormenta);
     Tormenta& enMano = s.Tormenta;
-    try {
+    const bool leida = Sentencia([&] {
         LectorRegistros lector(s.Disco.Lee(s.Proyecto.ArchivoTemp));
         RecorrePpReal(lector, enMano, tormenta, [&] {
             enMano.PpReal.Redimensiona(enMano.NroPpReal);
@@ -244,9 +244,8 @@ void LeePpReal(Siro& s, TormentaReal& tormenta)
         enMano.PpTormenta = 0;
         for (int j = 1; j <= enMano.NroPpReal; ++j)
             enMano.PpTormenta = Simple(double{enMano.PpTormenta} + double{enMano.PpReal(j)});
-    } catch (const Falla&) {
-        enMano.NroPpReal = 0;
-    }
+    });
+    if (!leida) enMano.NroPpReal = 0;
 }
 
 void GuardaPpReal(Siro& s, TormentaReal& tormenta)
@@ -271,7 +270,7 @@ void LeeTablaDisTemPer(Siro& s)
 {
     s.Proyecto.ArchivoTemp = Ruta(s.Proyecto.DirTrabajo, ArchivoDisPer);
     TablasDeLluvia& t = s.TablasDeLluvia;
-    try {
+    const bool leida = Sentencia([&] {
         LectorRegistros lector(s.Disco.Lee(s.Proyecto.ArchivoTemp));
         RecorreDisPer(lector, t, [&] {
             const auto mayor = std::max({t.NroFilasTabla[1], t.NroFilasTabla[2], t.NroFilasTabla[3]});
@@ -280,9 +279,8 @@ void LeeTablaDisTemPer(Siro& s)
                 for (int j = 1; j <= t.NroFilasTabla[k]; ++j)
                     t.DisPerso(static_cast<int>(k), j) = 0;
         });
-    } catch (const Falla&) {
-        AnulaFilas(t);
-    }
+    });
+    if (!leida) AnulaFilas(t);
 }
 
 bool GuardaTablaDisPer(Siro& s)
@@ -299,7 +297,7 @@ void LeeTablaPDRs(Siro& s)
 {
     s.Proyecto.ArchivoTemp = Ruta(s.Proyecto.DirTrabajo, ArchivoPDRs);
     TablasDeLluvia& t = s.TablasDeLluvia;
-    try {
+    const bool leida = Sentencia([&] {
         LectorRegistros lector(s.Disco.Lee(s.Proyecto.ArchivoTemp));
         RecorrePDRs(lector, t, [&] {
             const auto tope = Suma16(*std::max_element(t.NroFilasTabla.begin(), t.NroFilasTabla.end()), 1);
@@ -308,9 +306,8 @@ void LeeTablaPDRs(Siro& s)
             Ajusta(t.TablasR, 4, tope);
         });
         CargaSerie(s);
-    } catch (const Falla&) {
-        AnulaFilas(t);
-    }
+    });
+    if (!leida) AnulaFilas(t);
 }
 
 bool GuardaTablaPDRs(Siro& s)
@@ -346,15 +343,14 @@ void leeListaPpDurRec(Siro& s, std::vector<std::string>& cmbPDR)
 {
     s.Proyecto.ArchivoTemp = Ruta(s.Proyecto.DirProyecto, ArchivoListaPDR);
     cmbPDR.clear();
-    try {
+    // A project without a list has an empty one.
+    Sentencia([&] {
         LectorRegistros lector(s.Disco.Lee(s.Proyecto.ArchivoTemp));
         while (!lector.Fin() && cmbPDR.size() < MaximoDeLista) {
             RecorreTormenta(lector, s.Tormenta);
             cmbPDR.push_back(TextoPDR(s.Tormenta.PpTormenta, s.Tormenta.DurTormenta, s.Tormenta.RecTormenta));
         }
-    } catch (const Falla&) {
-        return;  // a project without a list has an empty one
-    }
+    });
 }
 
 bool GuardaListaPDR(Siro& s, const std::vector<std::string>& cmbPDR, const CamposTormenta& campos)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/Avisos.h"
 
+#include <utility>
+
 namespace model {
 
 namespace {

@@ -3,11 +3,11 @@
 
 #include <string>
 #include <string_view>
-#include <utility>
 
 #include "model/Anfitrion.h"
 #include "model/Falla.h"
 
+// What is told in boxes: warnings, notices, questions, and faults in the words of whoever met them.
 namespace model {
 
 inline constexpr std::string_view TituloAdvertencia = "Advertencia !";
@@ -29,38 +29,21 @@ std::string TextoFallaMotor(const Falla& falla);
 /// The report of the readers and writers: "Error Nro. 6Desbordamiento ,Verifique".
 std::string TextoFallaArchivo(const Falla& falla);
 
-/// What becomes of a fault: a box tells it in the words of whoever met it; without words it is passed over.
+/// Handler of a fault that tells it in a box.
 struct Manejador {
-    const Anfitrion* anfitrion = nullptr;
-    std::string (*palabras)(const Falla&) = nullptr;
+    const Anfitrion& anfitrion;
+    std::string (*palabras)(const Falla&);
 
-    void operator()(const Falla& falla) const
-    {
-        if (palabras != nullptr) Informa(*anfitrion, palabras(falla));
-    }
+    void operator()(const Falla& falla) const { Informa(anfitrion, palabras(falla)); }
 };
 
 inline Manejador AvisaMotor(const Anfitrion& anfitrion)
 {
-    return {&anfitrion, TextoFallaMotor};
+    return {anfitrion, TextoFallaMotor};
 }
 inline Manejador AvisaArchivo(const Anfitrion& anfitrion)
 {
-    return {&anfitrion, TextoFallaArchivo};
-}
-
-/// One statement of a routine whose handler sees to a fault and resumes at the next one: in silence, unless a
-/// handler is given. Returns false where the statement was at fault; it is then left without effect.
-template <typename Cuerpo, typename Maneja = Manejador>
-bool Sentencia(Cuerpo&& cuerpo, Maneja&& maneja = {})
-{
-    try {
-        std::forward<Cuerpo>(cuerpo)();
-        return true;
-    } catch (const Falla& falla) {
-        std::forward<Maneja>(maneja)(falla);
-        return false;
-    }
+    return {anfitrion, TextoFallaArchivo};
 }
 
 }  // namespace model

@@ -60,13 +60,8 @@ void EscriturasEnEspera::Cumple() const
     std::vector<CambioArchivo> cambios = espera->cambios;
     if (!cambios.empty()) std::rotate(cambios.begin(), cambios.begin() + 1, cambios.end());
     if (!cambios.empty()) espera->disco.Reemplaza(cambios);
-    for (const std::string& ruta : espera->borrados) {
-        try {
-            espera->disco.Borra(ruta);
-        } catch (const Falla& falla) {
-            if (falla.numero != NumeroFalla::ArchivoNoEsta) throw;  // it had only been waiting
-        }
-    }
+    for (const std::string& ruta : espera->borrados)
+        Sentencia([&] { espera->disco.Borra(ruta); }, SalvoQueFalte);  // it may only have been waiting
 }
 
 }  // namespace model

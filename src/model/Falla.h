@@ -3,7 +3,10 @@
 
 #include <cstdint>
 #include <string_view>
+#include <utility>
 
+// Faults: where they come from, what they are called, and how a routine goes on at its next statement. What a
+// box says of them stands in Avisos.h.
 namespace model {
 
 /// Number that a run-time fault bears in the boxes that report it.
@@ -36,5 +39,26 @@ struct FinDelPrograma {
 
 /// Returns the description of a fault as the boxes show it.
 std::string_view DescripcionFalla(NumeroFalla numero);
+
+/// One statement of a routine whose handler sees to a fault and resumes at the next one: in silence, unless a
+/// handler is given. Returns false where the statement was at fault; it is then left without effect.
+template <typename Cuerpo, typename Maneja = void (*)(const Falla&)>
+bool Sentencia(
+    Cuerpo&& cuerpo, Maneja&& maneja = [](const Falla&) {})
+{
+    try {
+        std::forward<Cuerpo>(cuerpo)();
+        return true;
+    } catch (const Falla& falla) {
+        std::forward<Maneja>(maneja)(falla);
+        return false;
+    }
+}
+
+/// The handler of what works on a file that need not be there: any other fault goes on its way.
+inline void SalvoQueFalte(const Falla& falla)
+{
+    if (falla.numero != NumeroFalla::ArchivoNoEsta) throw falla;
+}
 
 }  // namespace model

@@ -216,11 +216,7 @@ void Grupo::Vuelve()
     for (const Pieza& pieza : piezas)
         if (pieza.puesta && !pieza.viejo) llamadas.Borra(pieza.destino);
     // Where this fails as well, the other list stays and the next one to open the folder goes back.
-    try {
-        anterior.Pone();
-    } catch (const Falla&) {
-        return;
-    }
+    Sentencia([&] { anterior.Pone(); });
 }
 
 void Grupo::CumpleEnSitio()

@@ -143,12 +143,7 @@ class Recuperador {
     /// can't be read.
     bool Lee(const NombreResto& lista, std::optional<std::vector<std::string>>& nombres) const
     {
-        try {
-            nombres = LeeLista(LeeArchivo(EnCarpeta(lista)));
-            return true;
-        } catch (const Falla&) {
-            return false;
-        }
+        return Sentencia([&] { nombres = LeeLista(LeeArchivo(EnCarpeta(lista))); });
     }
 
     const LlamadasDisco& llamadas;
@@ -176,13 +171,11 @@ std::set<fs::path> CarpetasDeEnlaces(const fs::path& carpeta)
 /// Adds to what was found what is found in a folder, if it can be looked through.
 void RecuperaTambien(const LlamadasDisco& llamadas, const fs::path& carpeta, Recuperacion& hecha)
 {
-    try {
+    Sentencia([&] {
         const Recuperacion otra = Recuperador(llamadas, carpeta).Hace();
         hecha.completados.insert(hecha.completados.end(), otra.completados.begin(), otra.completados.end());
         hecha.pendientes.insert(hecha.pendientes.end(), otra.pendientes.begin(), otra.pendientes.end());
-    } catch (const Falla&) {
-        return;
-    }
+    });
 }
 
 }  // namespace
@@ -263,11 +256,8 @@ std::error_code PoneTemporal(const LlamadasDisco& llamadas, const fs::path& temp
 void OlvidaPendientes(const LlamadasDisco& llamadas, const fs::path& carpeta,
                       const std::vector<std::string>& nombres)
 {
-    try {
-        Recuperador(llamadas, carpeta).Olvida(nombres);
-    } catch (const Falla&) {
-        return;  // a folder that can't be looked through keeps nothing that could be finished
-    }
+    // A folder that can't be looked through keeps nothing that could be finished.
+    Sentencia([&] { Recuperador(llamadas, carpeta).Olvida(nombres); });
 }
 
 Recuperacion RecuperaCarpeta(const LlamadasDisco& llamadas, const std::string& directorio)

@@ -229,14 +229,12 @@ class LecturaTabla {
     {
         Paso([&] { Archivo::Filas(s.Red)(numero) = bloque.filas; });
         Ensancha(bloque.filas);
-        try {
+        // A fault here is the end of the file: all else is reported where it arises.
+        return Sentencia([&] {
             registros->Va(bloque);
             for (int k = 1; k <= bloque.filas; ++k)
                 LeeFila(numero, k);
-        } catch (const Falla&) {
-            return false;  // the end of the file: all else is reported where it arises
-        }
-        return true;
+        });
     }
     void Ensancha(int filas)
     {
@@ -384,12 +382,7 @@ bool RenombraBloques(const Siro& s, std::span<const ArchivoDeTablas> archivos, s
     for (const ArchivoDeTablas archivo : archivos) {
         const std::string ruta = Ruta(s.Proyecto.DirProyecto, NombreDeArchivo(s, archivo));
         std::string bytes;
-        try {
-            bytes = s.Disco.Lee(ruta);
-        } catch (const Falla& falla) {
-            if (falla.numero != NumeroFalla::ArchivoNoEsta) throw;  // not every component has all its tables
-            continue;
-        }
+        if (!Sentencia([&] { bytes = s.Disco.Lee(ruta); }, SalvoQueFalte)) continue;
         if (auto otros = Renombrado(std::move(bytes), CamposPorRegistro(archivo), viejo, nuevo))
             cambios.push_back({ruta, *std::move(otros)});
     }

@@ -60,24 +60,10 @@ void Entra(const Siro& s, const std::string& directorio)
 /// Creates a directory. Throws Falla 75 where it isn't there afterwards.
 void AseguraDirectorio(const Siro& s, const std::string& directorio)
 {
-    try {
-        s.Disco.CreaDirectorio(directorio);
-    } catch (const Falla&) {
-        if (!s.Disco.HayDirectorio(directorio)) throw;
-    }
-}
-
-/// Runs something that works on a file which need not be there. Returns false where it wasn't.
-template <typename F>
-bool SiEsta(F&& cuerpo)
-{
-    try {
-        cuerpo();
-        return true;
-    } catch (const Falla& falla) {
-        if (falla.numero != NumeroFalla::ArchivoNoEsta) throw;
-        return false;
-    }
+    Sentencia([&] { s.Disco.CreaDirectorio(directorio); },
+              [&](const Falla& falla) {
+                  if (!s.Disco.HayDirectorio(directorio)) throw falla;
+              });
 }
 
 std::string ProyectosPorDefecto(const Siro& s)
@@ -119,7 +105,7 @@ bool TomaNombreNuevo(Siro& s, const std::string& nombre)
     if (s.Proyecto.DirProyectoConf.empty()) s.Proyecto.DirProyectoConf = s.Proyecto.DirProyecto;
     Entra(s, s.Proyecto.DirProyectoConf);
     s.Proyecto.ArchivoTemp = Ruta(s.Proyecto.DirProyectoConf, ArchivoConf(nombre));
-    if (!SiEsta([&] { s.Disco.Lee(s.Proyecto.ArchivoTemp); })) return true;
+    if (!Sentencia([&] { s.Disco.Lee(s.Proyecto.ArchivoTemp); }, SalvoQueFalte)) return true;
     // The next opening of the configuration would otherwise write over the project that exists.
     s.Proyecto.ProyectoNuevo = false;
     Informa(s, std::string(YaExiste1).append(ArchivoConf(nombre)).append(YaExiste2));
@@ -148,11 +134,9 @@ void CopiaProyecto(Siro& s, const std::string& viejo, const std::string& nuevo)
     std::vector<CambioArchivo> red;
     std::string conf;
     const auto copia = [&](std::string_view terminacion) {
-        SiEsta([&] {
-            s.Proyecto.ArchivoTemp = Ruta(s.Proyecto.DirProyecto, std::string(nuevo).append(terminacion));
-            s.Disco.Copia(Ruta(s.Proyecto.DirProyecto, std::string(viejo).append(terminacion)),
-                          s.Proyecto.ArchivoTemp);
-        });
+        const std::string original = Ruta(s.Proyecto.DirProyecto, std::string(viejo).append(terminacion));
+        s.Proyecto.ArchivoTemp = Ruta(s.Proyecto.DirProyecto, std::string(nuevo).append(terminacion));
+        Sentencia([&] { s.Disco.Copia(original, s.Proyecto.ArchivoTemp); }, SalvoQueFalte);
     };
     EnOtroDisco(s, espera.Puerta(), [&] {
         copia(TerminacionConf);
@@ -190,12 +174,9 @@ void AbreRuta(Siro& s, std::string_view ruta)
 template <typename F>
 void ConFallaFatal(const Siro& s, F&& cuerpo)
 {
-    try {
-        cuerpo();
-    } catch (const Falla&) {
-        Informa(s, std::string(ErrorDesconocido));
-        s.Anfitrion.Termina();
-    }
+    if (Sentencia(cuerpo)) return;
+    Informa(s, std::string(ErrorDesconocido));
+    s.Anfitrion.Termina();
 }
 
 }  // namespace
@@ -204,14 +185,14 @@ void ConFallaFatal(const Siro& s, F&& cuerpo)
 
 void LeePuntero(Siro& s)
 {
-    try {
+    const bool guardado = Sentencia([&] {
         if (!RutaDeRed(s.Proyecto.DirEjecutable)) BuscaProyecto(s);
         GuardaPuntero(s);
-    } catch (const Falla&) {
-        s.Proyecto.DirProyecto = ProyectosPorDefecto(s);
-        s.Proyecto.NombreProyecto.clear();
-        Sentencia([&] { GuardaPuntero(s); });
-    }
+    });
+    if (guardado) return;
+    s.Proyecto.DirProyecto = ProyectosPorDefecto(s);
+    s.Proyecto.NombreProyecto.clear();
+    Sentencia([&] { GuardaPuntero(s); });
 }
 
 void GuardaPuntero(Siro& s)

@@ -121,11 +121,7 @@ std::optional<std::int64_t> Momento(std::string_view fecha, std::string_view hor
 std::optional<double> Lamina(std::string_view texto)
 {
     std::optional<double> x;
-    try {
-        x = model::NumeroEntero(model::ComasAPuntos(texto));
-    } catch (const model::Falla&) {
-        return {};
-    }
+    model::Sentencia([&] { x = model::NumeroEntero(model::ComasAPuntos(texto)); });
     const bool esSimple = x && std::fabs(*x) <= double{std::numeric_limits<float>::max()};
     return esSimple ? x : std::nullopt;
 }

@@ -66,12 +66,9 @@ bool CorridaLarga(const Siro& s)
 
 bool HayArchivoDeAyuda(const Siro& s, std::string_view nombre)
 {
-    try {
-        const auto archivos = s.Disco.Lista(model::Ruta(s.Proyecto.DirTrabajo, CarpetaAyuda));
-        return std::find(archivos.begin(), archivos.end(), nombre) != archivos.end();
-    } catch (const model::Falla&) {
-        return false;
-    }
+    std::vector<std::string> archivos;
+    model::Sentencia([&] { archivos = s.Disco.Lista(model::Ruta(s.Proyecto.DirTrabajo, CarpetaAyuda)); });
+    return std::find(archivos.begin(), archivos.end(), nombre) != archivos.end();
 }
 
 std::string RutaDeAyuda(const Siro& s, std::string_view nombre)
