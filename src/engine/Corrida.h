@@ -8,8 +8,10 @@
 #include "engine/Memoria.h"
 #include "engine/Muskingum.h"
 #include "engine/Renglon.h"
+#include "engine/Totales.h"
 #include "model/Arreglo.h"
 #include "model/Avisos.h"
+#include "model/Numeros.h"
 #include "model/Siro.h"
 
 namespace engine {
@@ -72,6 +74,16 @@ struct Corrida {
     /// The same, and for what is kept by UEH.
     [[nodiscard]] bool UEHsAlcanzan() const;
 };
+
+/// Adds the outflow of a row of Secuencia to the inflow of another, `intenta` running the statement of each
+/// step.
+void SumaAfluente(Corrida& c, int fila, int afluente, auto&& intenta)
+{
+    model::Resultados& r = c.s.Resultados;
+    if (c.Alcanzan() && SumaFila(r.QEntra.Fila(fila), r.QSale.Fila(afluente), r.NroPasosQ)) return;
+    for (int p = 1; p <= r.NroPasosQ; ++p)
+        intenta([&] { r.QEntra(fila, p) = model::Simple(double{r.QEntra(fila, p)} + r.QSale(afluente, p)); });
+}
 
 /// The k-th multiple of a step [min], in 16 bits. Throws Falla 6.
 inline std::int16_t Minutos(std::int16_t k, std::int16_t paso)

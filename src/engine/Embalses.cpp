@@ -6,7 +6,6 @@
 
 #include "engine/EmbalseEnMano.h"
 #include "engine/Muskingum.h"
-#include "engine/Totales.h"
 #include "hydraulics/mdlFQs.h"
 #include "hydraulics/mdlHAS.h"
 #include "model/Clases.h"
@@ -24,26 +23,21 @@ constexpr std::string_view MetodoMuskingum = "Muskingum";
 constexpr std::string_view MetodoPiscina = "Piscina Nivelada";
 constexpr std::string_view MetodoRungeKutta = "Runge Kutta";
 
-// --- inflow ---
+/// A statement whose fault ends the routing.
+constexpr auto FallaYTermina = [](auto cuerpo) { cuerpo(); };
 
-void SumaAfluente(Corrida& c, const EmbalseEnMano& e, int afluente)
-{
-    model::Resultados& r = c.s.Resultados;
-    if (c.Alcanzan() && SumaFila(r.QEntra.Fila(e.fila), r.QSale.Fila(afluente), r.NroPasosQ)) return;
-    for (int k = 1; k <= r.NroPasosQ; ++k)
-        r.QEntra(e.fila, k) = Simple(double{r.QSale(afluente, k)} + r.QEntra(e.fila, k));
-}
+// --- inflow ---
 
 void JuntaAfluentes(Corrida& c, const EmbalseEnMano& e)
 {
     const Aportes::Afluentes& afluentes = c.Afluentes->De(e.fila);
     for (const Aportes::AfluenteUEH& u : afluentes.UEHs) {
-        SumaAfluente(c, e, u.fila);
+        SumaAfluente(c, e.fila, u.fila, FallaYTermina);
         // that of the row's UEH, unlike in a reach: kept as it stands
         c.QBaseEntra = Simple(double{c.QBaseEntra} + c.s.Red.UEHs(u.fila).Q0Recesion);
     }
     for (const int f : afluentes.Cauces)
-        SumaAfluente(c, e, f);
+        SumaAfluente(c, e.fila, f, FallaYTermina);
 }
 
 // --- methods ---
@@ -52,7 +46,7 @@ bool PropagaMuskingum(Corrida& c, const EmbalseEnMano& e)
 {
     constexpr double X = 0;  // the Represa's own weight has no effect
     model::Resultados& r = c.s.Resultados;
-    if (!c.Musk.Prepara(e.K, X, c.s.Pasos.PasoQ, [](auto cuerpo) { cuerpo(); })) {
+    if (!c.Musk.Prepara(e.K, X, c.s.Pasos.PasoQ, FallaYTermina)) {
         model::Advierte(c.s, TextoMuskingum(e.nombre));
         return false;
     }

@@ -31,25 +31,18 @@ constexpr std::string_view SinVelocidad[] = {
     "El parámetro de Velocidad Media de propagación Directa en el tramo ",
     " es '0'. Debe asignar un valor correcto a este parámetro desde el Editor de UEHs "};
 
-void SumaAfluente(Corrida& c, int fila, int afluente)
-{
-    model::Resultados& r = c.s.Resultados;
-    if (c.Alcanzan() && SumaFila(r.QEntra.Fila(fila), r.QSale.Fila(afluente), r.NroPasosQ)) return;
-    for (int p = 1; p <= r.NroPasosQ; ++p)
-        c.Intenta([&] { r.QEntra(fila, p) = Simple(double{r.QEntra(fila, p)} + r.QSale(afluente, p)); });
-}
-
 void JuntaAfluentes(Corrida& c, int fila)
 {
     const Aportes::Afluentes& afluentes = c.Afluentes->De(fila);
+    const auto intenta = [&](auto cuerpo) { c.Intenta(cuerpo); };
     for (const Aportes::AfluenteUEH& u : afluentes.UEHs) {
-        SumaAfluente(c, fila, u.fila);
-        c.Intenta(
+        SumaAfluente(c, fila, u.fila, intenta);
+        intenta(
             [&] { c.QBaseEntra = Simple(double{c.QBaseEntra} + c.s.Red.ColUEHs.Item(u.item).Q0Recesion); });
     }
     for (const auto* filas : {&afluentes.Cauces, &afluentes.Represas, &afluentes.Lagos})
         for (const int f : *filas)
-            SumaAfluente(c, fila, f);
+            SumaAfluente(c, fila, f, intenta);
 }
 
 bool Rechaza(const Corrida& c, std::string texto)
