@@ -33,17 +33,6 @@ constexpr std::string_view PrefijoPp = "Pp= ";
 constexpr std::string_view PrefijoDur = " - Dur = ";
 constexpr std::string_view PrefijoRec = " - Rec = ";
 
-/// Changes the columns of a table of rain and keeps what it holds; the first time it is allocated.
-template <typename T>
-void Ajusta(Matriz<T>& tabla, int ultimaFila, int columnas)
-{
-    if (tabla.TopeColumna() < 0) {
-        tabla.Dimensiona(ultimaFila, columnas);
-    } else {
-        tabla.Redimensiona(columnas);
-    }
-}
-
 // Both table files leave nothing to be seen of tables 1 to 3 where they can't be read to their end. Slot 0
 // is no concern of a failure.
 void AnulaFilas(TablasDeLluvia& t)

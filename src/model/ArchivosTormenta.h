@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "model/Arreglo.h"
+
 // The four kinds of file that carry rain: real storms, personal temporal distributions, tables of synthetic
 // storms (depth P, duration D, recurrence R), and the project's list of single storms. Tables that all
 // projects share lie in DirTrabajo, the others in DirProyecto.
@@ -69,6 +71,19 @@ void LeePpReal(Siro& s, TormentaReal& tormenta);
 /// Writes the storm in hand over its file, or over the default one's; PpReal is cut or filled up to NroPpReal
 /// first. Throws Falla 76, 75 and leaves file and depths as they were; Falla 9 where NroPpReal is negative.
 void GuardaPpReal(Siro& s, TormentaReal& tormenta);
+
+// --- tables of rain ---
+
+/// Changes the columns of a table of TablasDeLluvia and keeps what it holds; the first time it is allocated,
+/// with rows up to `ultimaFila`. Throws Falla 9 for a negative bound.
+template <typename T>
+void Ajusta(Matriz<T>& tabla, int ultimaFila, int columnas)
+{
+    if (tabla.TopeColumna() < 0)
+        tabla.Dimensiona(ultimaFila, columnas);
+    else
+        tabla.Redimensiona(columnas);
+}
 
 // --- personal distributions, distriPp_dpt.vlm ---
 

@@ -87,10 +87,8 @@ std::int16_t Maxima(const dlgDisPpPer& f)
 /// Room for n periods of any table.
 void Ensancha(Siro& s, int n)
 {
-    if (s.TablasDeLluvia.DisPerso.TopeColumna() < 0)
-        s.TablasDeLluvia.DisPerso.Dimensiona(NroTablas, n + 1);
-    else if (s.TablasDeLluvia.DisPerso.TopeColumna() < n + 1)
-        s.TablasDeLluvia.DisPerso.Redimensiona(n + 1);
+    auto& tabla = s.TablasDeLluvia.DisPerso;
+    model::Ajusta(tabla, NroTablas, std::max(tabla.TopeColumna(), n + 1));
 }
 
 /// Time at the end of period j of n in percent of the duration, cut to two decimals.

@@ -51,12 +51,8 @@ std::size_t Ranura(const dlgTablasPDRs& f)
 /// Room for n storms of any table.
 void Ensancha(Siro& s, int n)
 {
-    for (auto* tabla : {&s.TablasDeLluvia.TablasP, &s.TablasDeLluvia.TablasD, &s.TablasDeLluvia.TablasR}) {
-        if (tabla->TopeColumna() < 0)
-            tabla->Dimensiona(UltimaFilaTablas, n + 1);
-        else if (tabla->TopeColumna() < n + 1)
-            tabla->Redimensiona(n + 1);
-    }
+    for (auto* tabla : {&s.TablasDeLluvia.TablasP, &s.TablasDeLluvia.TablasD, &s.TablasDeLluvia.TablasR})
+        model::Ajusta(*tabla, UltimaFilaTablas, std::max(tabla->TopeColumna(), n + 1));
 }
 
 void PonFilas(dlgTablasPDRs& f, std::int16_t n)
