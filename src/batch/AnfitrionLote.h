@@ -10,6 +10,7 @@
 
 #include "model/Anfitrion.h"
 
+// The host of siro-lote: boxes and progress to standard error, the Slate to standard output.
 namespace batch {
 
 /// Where the batch program's texts go; the tests put buffers in their place. Bytes are UTF-8. Estandar throws

@@ -7,6 +7,7 @@
 #include "batch/Opciones.h"
 #include "model/SiroDeclarado.h"
 
+// What siro-lote does with a command line: opens the project, settles the storm, runs it, writes the results.
 namespace batch {
 
 /// Exit status of the process; 3 is EstadoTerminado.

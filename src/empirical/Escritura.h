@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+// How a formula is written: as stretches of text that are upright, slanted or raised.
 namespace empirical {
 
 /// A stretch of a formula that is written in one manner.

@@ -8,6 +8,7 @@
 
 #include "model/Resultados.h"
 
+// The results that a series keeps of its storms, a row each: tables, abacus and CSV walk it.
 namespace engine {
 
 /// A result of a series; nothing where the run left none, since another table or project may have been read

@@ -3,6 +3,7 @@
 
 #include "model/SiroDeclarado.h"
 
+// Validation of the network before it is run, with its questions to the user.
 namespace engine {
 
 /// Fills Secuencia and NroComponentes with the names of all components: UEHs, Cauces, Lagos, Represas, each

@@ -3,6 +3,7 @@
 
 #include "engine/Corrida.h"
 
+// The sheet of the UEHs: base recession, table, volumes and coefficients.
 namespace engine {
 
 /// Adds the base recession Q0·2.7183^(-t/K) to the hydrographs of the UEHs and sums their base volumes.

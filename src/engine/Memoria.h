@@ -10,6 +10,7 @@
 #include "engine/FormulasUEH.h"
 #include "model/Resultados.h"
 
+// What runs over one network have in common: worked out by the first, kept for those that follow.
 namespace engine {
 
 /// Potential infiltration of one UEH by the reading of its clock.

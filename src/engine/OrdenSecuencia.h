@@ -3,6 +3,7 @@
 
 #include "model/SiroDeclarado.h"
 
+// The order of computation, upstream before downstream.
 namespace engine {
 
 /// Sorts Secuencia above the UEHs so that each component stands behind all that drain into it, and prints it

@@ -3,6 +3,7 @@
 
 #include "engine/Corrida.h"
 
+// Validation and order of computation as a run uses them: from memory where the network is the same.
 namespace engine {
 
 /// Validates the network, as often as a run does. Nothing where the memory holds it already.

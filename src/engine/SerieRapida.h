@@ -7,6 +7,7 @@
 
 #include "model/SiroDeclarado.h"
 
+// The storms of a series on several threads, with the results of one after another.
 namespace engine {
 
 /// Runs the storms `numeros` of the series, but for the last of them, on `hilos` threads, and brings their

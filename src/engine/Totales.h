@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <span>
 
+// Sums and greatest values over the steps of hydrographs.
 namespace engine {
 
 /// Output steps, both ends included.

@@ -6,6 +6,7 @@
 #include "engine/Memoria.h"
 #include "model/SiroDeclarado.h"
 
+// The main process: a storm, once its hyetograph stands, through the network in memory.
 namespace engine {
 
 /// Name of the file of a run's text, in DirTrabajo.

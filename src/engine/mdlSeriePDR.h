@@ -5,6 +5,7 @@
 
 #include "model/SiroDeclarado.h"
 
+// A series of storms over a project, one after another or on several threads, and the file of its results.
 namespace engine {
 
 /// Name of the file of a series' results, in DirTrabajo.

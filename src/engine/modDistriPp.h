@@ -5,6 +5,7 @@
 
 #include "model/SiroDeclarado.h"
 
+// The hyetograph of a storm, and the rain of each model step.
 namespace engine {
 
 /// Where the tables of the personal distributions are taken from.

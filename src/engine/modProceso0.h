@@ -3,6 +3,7 @@
 
 #include "model/SiroDeclarado.h"
 
+// One storm over a project: its files are loaded, then it is run.
 namespace engine {
 
 /// Reloads everything that a run needs from the project's files: what the editor holds unsaved is dropped.

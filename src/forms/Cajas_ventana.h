@@ -4,6 +4,7 @@
 #include "forms/Entorno_ventana.h"
 #include "model/Anfitrion.h"
 
+// Boxes, questions, requests and the choice of a file, as the desktop shows them.
 namespace forms {
 
 /// Name of the program, the title of a box that has none of its own.

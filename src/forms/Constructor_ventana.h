@@ -26,6 +26,8 @@
 #include "forms/Rotulo.h"
 #include "forms/Textos_ventana.h"
 
+// What every window is made of: controls by the rows of their captions, their events, the showing of the
+// record.
 namespace forms {
 
 class Lamina;

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+// Texts as fields of a CSV file.
 namespace forms {
 
 /// Tells a spreadsheet that a file is UTF-8.

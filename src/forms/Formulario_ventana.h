@@ -8,6 +8,7 @@
 
 #include "forms/Constructor_ventana.h"
 
+// What dialogs and windows have in common: title, place on the screen, closing, work that isn't applied yet.
 namespace forms {
 
 /// Shows in a window's title, by the desktop's own mark, that it holds unsaved work; without any it bears its

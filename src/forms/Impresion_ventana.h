@@ -13,6 +13,7 @@ class QPrinter;
 class QRectF;
 class QWidget;
 
+// Printing the image of a window or a chart, and what every print job says of itself.
 namespace forms {
 
 /// Dots of a printed image per dot of the screen: sharp on paper, and no more than a few megabytes.

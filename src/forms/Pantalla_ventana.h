@@ -5,6 +5,7 @@
 
 class QWidget;
 
+// Windows that fit their screen: controls that scroll, what is outside brought back.
 namespace forms {
 
 /// Makes sure that a window can be as small as the room for it [pixels, without its frame]. Where its

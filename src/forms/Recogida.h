@@ -10,6 +10,7 @@
 
 #include "model/Anfitrion.h"
 
+// Messages and questions of one command, gathered where there are too many to be shown one by one.
 namespace forms {
 
 /// A message, and how often it came.

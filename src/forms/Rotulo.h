@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+// Captions, hints and spoken names of controls, a row each.
 namespace forms {
 
 /// A control of a form by its object name, its caption (of a field: that of the label beside it), the hint

@@ -22,6 +22,7 @@ class QCustomPlot;
 class QPalette;
 class QPoint;
 
+// The drawing of a chart on QCustomPlot.
 namespace forms {
 
 class FajaDeLeyenda;

@@ -6,6 +6,7 @@
 
 #include "model/Numeros.h"
 
+// Bisection over heights.
 namespace hydraulics {
 
 /// Rounds after which a bisection is given up: 32-bit floats then no longer halve the bracket.

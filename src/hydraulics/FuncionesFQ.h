@@ -8,6 +8,7 @@
 #include "model/Numeros.h"
 #include "model/Represa.h"
 
+// The outflow functions of a Represa at work: formula, bound and text of each form.
 namespace hydraulics {
 
 /// One outflow function that is in use: an outlet, a gate, a spillway.

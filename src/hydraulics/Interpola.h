@@ -8,6 +8,7 @@
 #include "model/Arreglo.h"
 #include "model/Numeros.h"
 
+// The row of a table, or the line between two.
 namespace hydraulics {
 
 /// Two columns of one component's table, as they lie in memory: rows from 1, n of them; row 0 is unused and

@@ -6,6 +6,7 @@
 #include "hydraulics/CompActual.h"
 #include "hydraulics/Interpola.h"
 
+// What the lookups say to the user.
 namespace hydraulics {
 
 /// The lookups that speak to the user.

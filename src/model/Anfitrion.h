@@ -7,6 +7,7 @@
 
 #include "model/Falla.h"
 
+// All that a run or a rule asks of the world: boxes, questions, the Slate, progress, the end of the program.
 namespace model {
 
 /// Picture of a message box.

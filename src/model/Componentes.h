@@ -5,6 +5,7 @@
 
 #include "model/Disco.h"
 
+// The files of the components, _UEHs.vlm, and of the vertices of the reaches, _VerCau.vlm.
 namespace model {
 
 struct Siro;

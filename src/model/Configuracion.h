@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+// What a project's configuration says, and what the controls of its dialog hold.
 namespace model {
 
 /// Ends the name of a project's configuration file.

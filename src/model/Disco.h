@@ -9,6 +9,7 @@
 
 #include "model/CambioArchivo.h"
 
+// The disk behind one door.
 namespace model {
 
 /// Separator of directories, as this platform writes it.

@@ -12,6 +12,7 @@
 #include "model/Represa.h"
 #include "model/UEH.h"
 
+// The network: its components, the drawn lines of its reaches, the tables of its Represas and Lagos.
 namespace model {
 
 inline constexpr int MaxUEHs = 70;

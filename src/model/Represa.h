@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+// The record of a Represa, a dam, and its outflow functions.
 namespace model {
 
 /// What an outflow function makes of the height above its H min: hydraulics/FuncionesFQ.cpp has a row for

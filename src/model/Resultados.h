@@ -8,6 +8,7 @@
 
 #include "model/Arreglo.h"
 
+// What a run leaves: the order of computation, hydrographs, peaks, volumes, coefficients.
 namespace model {
 
 inline constexpr int MaxSalidas = 10;  ///< outfalls whose names are kept

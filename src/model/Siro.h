@@ -12,6 +12,7 @@
 #include "model/Tormenta.h"
 #include "model/Vigilancia.h"
 
+// The run-wide state of the program, by subject.
 namespace model {
 
 /// Numbers of the components selected in the drawing; 0: none.

@@ -7,14 +7,13 @@
 #include <string_view>
 #include <vector>
 
-namespace model {
-
-struct Siro;
-
 // Tables of the Represas and Lagos: a block per component, found by "*" and the component's name. A reader
 // replaces its arrays altogether; a missing block gives 0 rows to its component and to all that follow.
 // A writer replaces its file whole, or leaves it as it was, and returns which.
 // Failures are reported through the host, never thrown. S passes through a 32-bit float.
+namespace model {
+
+struct Siro;
 
 void LeeTablaHSVRepresa(Siro& s);  ///< RepresaFilasHAS, RepresaH, RepresaA, RepresaS from <Proyecto>_RHAS.vlm
 void LeeTablaHQRepresa(Siro& s);   ///< RepresaFilasHQ, RepresaQH, RepresaQQ from <Proyecto>_RHQ.vlm

@@ -8,6 +8,7 @@
 #include "model/Arreglo.h"
 #include "model/Red.h"
 
+// What it rains and in which steps; the tables of rain.
 namespace model {
 
 /// Input form of the rain. Unscoped, since a form is an index too: named as FormaLluvia::Real all the same.

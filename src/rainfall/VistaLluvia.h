@@ -6,6 +6,7 @@
 #include "forms/Grafico.h"
 #include "forms/Grilla.h"
 
+// The chart beside a table of rain.
 namespace rainfall {
 
 /// Columns and axes of the chart that stands beside a table of rain.

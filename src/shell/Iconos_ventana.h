@@ -4,6 +4,7 @@
 #include <QIcon>
 #include <string_view>
 
+// The drawings of the toolbar's buttons.
 namespace shell {
 
 /// The drawing of a button of the toolbar, by its key.

@@ -3,6 +3,7 @@
 
 #include <string>
 
+// The desktop's viewer of compiled help, where there is one.
 namespace shell {
 
 /// Whether the desktop has a program for files of compiled help. Where only the desktop itself can tell, it

@@ -7,6 +7,7 @@
 #include "editor/lienzo/Imagen_ventana.h"
 #include "forms/Entorno_ventana.h"
 
+// Loading a background image while the windows stay alive, with a box that offers to cancel.
 namespace editor {
 
 inline constexpr std::chrono::milliseconds SilencioDeCarga{300};  ///< before a box offers to cancel

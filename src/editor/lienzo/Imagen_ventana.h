@@ -7,6 +7,7 @@
 
 #include "editor/frmUEHs.h"
 
+// The background image of the drawing, read from each of its formats.
 namespace editor {
 
 /// An image, and what became of loading it.
