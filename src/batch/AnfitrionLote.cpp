@@ -9,13 +9,8 @@
 #include <string>
 #include <utility>
 
-#if defined(_WIN32)
-#include <io.h>
-#else
-#include <unistd.h>
-#endif
-
 #include "model/Falla.h"
+#include "model/Sistema.h"
 
 namespace batch {
 namespace {
@@ -37,15 +32,6 @@ bool Escribe(std::FILE* archivo, std::string_view texto)
     return std::fwrite(texto.data(), 1, texto.size(), archivo) == texto.size() && std::fflush(archivo) == 0;
 }
 
-bool EsTerminal(std::FILE* archivo)
-{
-#if defined(_WIN32)
-    return _isatty(_fileno(archivo)) != 0;
-#else
-    return isatty(fileno(archivo)) != 0;
-#endif
-}
-
 /// CR LF, a lone CR and a lone LF are one line break each.
 void AgregaEnUnaLinea(std::string& linea, std::string_view texto)
 {
@@ -59,17 +45,6 @@ void AgregaEnUnaLinea(std::string& linea, std::string_view texto)
     }
 }
 
-std::tm HoraLocal(std::time_t ahora)
-{
-    std::tm campos{};
-#if defined(_WIN32)
-    localtime_s(&campos, &ahora);
-#else
-    localtime_r(&ahora, &campos);
-#endif
-    return campos;
-}
-
 void AgregaDosCifras(std::string& texto, int n)
 {
     texto += static_cast<char>('0' + n / 10 % 10);
@@ -80,10 +55,11 @@ void AgregaDosCifras(std::string& texto, int n)
 
 Salidas SalidasDelProceso()
 {
+    model::PreparaSalidas();
     const auto estandar = [](std::string_view texto) {
         if (!Escribe(stdout, texto)) throw model::Falla{model::NumeroFalla::AccesoRuta};
     };
-    return {estandar, [](std::string_view texto) { Escribe(stderr, texto); }, EsTerminal(stderr)};
+    return {estandar, [](std::string_view texto) { Escribe(stderr, texto); }, model::EsTerminal(stderr)};
 }
 
 std::string LineaDeAviso(std::string_view titulo, std::string_view texto, std::string_view respuesta)
@@ -99,7 +75,7 @@ std::string LineaDeAviso(std::string_view titulo, std::string_view texto, std::s
 
 std::string FechaHoraLocal()
 {
-    const std::tm t = HoraLocal(std::time(nullptr));
+    const std::tm t = model::HoraLocal(std::time(nullptr));
     std::string texto;
     AgregaDosCifras(texto, t.tm_mday);
     texto += '/';

@@ -3,11 +3,9 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <filesystem>
 #include <functional>
 #include <new>
 #include <optional>
-#include <system_error>
 
 #include "batch/ResultadosCsv.h"
 #include "engine/mdlProceso1.h"
@@ -16,39 +14,29 @@
 #include "model/ArchivoConf.h"
 #include "model/ArchivosTormenta.h"
 #include "model/Avisos.h"
+#include "model/Camino.h"
 #include "model/Configuracion.h"
 #include "model/DirPropio.h"
 #include "model/Falla.h"
 #include "model/Siro.h"
+#include "model/Sistema.h"
 #include "model/Tormenta.h"
 #include "model/VidaProyecto.h"
 
 namespace batch {
 namespace {
 
-namespace fs = std::filesystem;
 using model::FormaLluvia;
+using model::RutaAbsoluta;
 using model::Siro;
 
 constexpr std::int16_t DistriPpReal = 7;  // what the desktop ticks for a recorded storm
 
-/// A relative path from the root on, without "." and ".." and without a separator at its end; an absolute one
-/// as it stands.
-std::string Absoluta(const std::string& ruta)
-{
-    if (fs::path(ruta).is_absolute()) return ruta;
-    std::error_code error;
-    fs::path absoluta = fs::absolute(fs::path(ruta), error).lexically_normal();
-    if (!absoluta.has_filename() && absoluta.has_relative_path()) absoluta = absoluta.parent_path();
-    return absoluta.string();
-}
-
 /// Directory of the program: as the system tells it, or else by the name under which it was called.
 std::string DirectorioDelEjecutable(const std::string& nombre)
 {
-    std::error_code error;
-    const fs::path propio = fs::read_symlink("/proc/self/exe", error);
-    return error ? fs::path(Absoluta(nombre)).parent_path().string() : propio.parent_path().string();
+    const std::string propio = model::RutaDelPrograma();
+    return model::DirectorioDe(propio.empty() ? model::RutaAbsoluta(nombre) : propio);
 }
 
 void LeeTormentaReal(Siro& s, const std::string& nombre)
@@ -108,7 +96,7 @@ bool Muestra(const Salidas& salidas, const std::function<void()>& escribe)
 /// Runs what was settled. Returns whether the run went to its end.
 bool CorreOrden(Siro& s, const Opciones& o)
 {
-    AbreProyecto(s, Absoluta(o.conf));
+    AbreProyecto(s, RutaAbsoluta(o.conf));
     if (s.Proyecto.NombreProyecto.empty() || s.Proyecto.DirProyecto.empty()) return false;
     FijaTormenta(s, o);
     if (o.orden == Opciones::Orden::Serie)
@@ -122,9 +110,9 @@ bool GuardaResultados(Siro& s, const Opciones& o)
     if (o.resultados.empty()) return true;
     const auto guarda = [&] {
         if (o.orden == Opciones::Orden::Serie)
-            GuardaCsvSerie(s, Absoluta(o.resultados));
+            GuardaCsvSerie(s, RutaAbsoluta(o.resultados));
         else
-            GuardaCsvTormenta(s, Absoluta(o.resultados));
+            GuardaCsvTormenta(s, RutaAbsoluta(o.resultados));
     };
     return model::Sentencia(guarda, model::AvisaArchivo(s));
 }
@@ -174,13 +162,13 @@ int Corre(const Opciones& o, const std::string& dirEjecutable, const Salidas& sa
 {
     AnfitrionLote anfitrion(salidas, o.pizarra, o.respondeSi);
     Siro s;
-    if (!SeAbre(s.Disco, Absoluta(o.conf))) {
-        salidas.Errores("siro-lote: no se puede abrir " + Absoluta(o.conf) + "\n");
+    if (!SeAbre(s.Disco, RutaAbsoluta(o.conf))) {
+        salidas.Errores("siro-lote: no se puede abrir " + RutaAbsoluta(o.conf) + "\n");
         return EstadoInterrumpido;
     }
     s.Anfitrion = anfitrion.Anfitrion();
     s.Proyecto.DirEjecutable = dirEjecutable;
-    s.Proyecto.DirTrabajo = o.trabajo.empty() ? model::DirTrabajoDe(dirEjecutable) : Absoluta(o.trabajo);
+    s.Proyecto.DirTrabajo = o.trabajo.empty() ? model::DirTrabajoDe(dirEjecutable) : RutaAbsoluta(o.trabajo);
     model::AvisaEntregaPendiente(s);
     bool completa = false, escritos = true;
     s.Disco = Vigilado(s.Disco, s.Proyecto.DirTrabajo, escritos);

@@ -206,6 +206,7 @@ Lectura LeeOpciones(int argc, const char* const* argv)
 {
     CLI::App programa{"", "siro-lote"};
     programa.set_help_flag("--help,-h,--ayuda");
+    programa.allow_windows_style_options(false);  // "/x" is a path everywhere
     programa.require_subcommand(1);
     Palabras una, serie;
     const CLI::App* ordenUna = Orden(programa, "una", una);

@@ -1,7 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <vector>
+
 #include "batch/CorridaLote.h"
+#include "model/Sistema.h"
 
 int main(int argc, char** argv)
 {
-    return batch::Lote(argc, argv, batch::SalidasDelProceso());
+    const auto palabras = model::PalabrasDelProceso(argc, argv);
+    std::vector<const char*> punteros;
+    for (const auto& palabra : palabras)
+        punteros.push_back(palabra.c_str());
+    return batch::Lote(static_cast<int>(punteros.size()), punteros.data(), batch::SalidasDelProceso());
 }

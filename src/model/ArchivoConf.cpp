@@ -41,7 +41,8 @@ constexpr std::int16_t Tildada = 1;
 /// Sets the drive control. A drive that isn't there leaves it as it is.
 void PonUnidad(Siro& s, const std::string& unidad)
 {
-    if (HayUnidades && s.Disco.HayDirectorio(unidad + Separador)) s.frmConfigura.Drive1 = unidad;
+    if (HayUnidades && !unidad.empty() && s.Disco.HayDirectorio(unidad + Separador))
+        s.frmConfigura.Drive1 = unidad;
 }
 
 // --- the fields of the file ---

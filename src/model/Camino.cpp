@@ -6,7 +6,9 @@
 #include <fstream>
 #include <system_error>
 
-#include "model/Falla.h"
+#include "model/LlamadasDisco.h"
+#include "model/NombresDeWindows.h"
+#include "model/RutaProyecto.h"
 
 namespace model {
 
@@ -16,13 +18,34 @@ fs::path Camino(const std::string& ruta)
 {
     // The system would take such a path only as far as its NUL, hence for another file.
     if (ruta.find('\0') != std::string::npos) throw Falla{NumeroFalla::AccesoRuta};
-    return {std::u8string(ruta.begin(), ruta.end())};
+    if constexpr (HayUnidades)
+        if (const auto motivo = MotivoDeWindows(ruta); !motivo.empty())
+            throw Falla{NumeroFalla::AccesoRuta, motivo};
+    try {
+        return {std::u8string(ruta.begin(), ruta.end())};
+    } catch (const fs::filesystem_error&) {
+        throw Falla{NumeroFalla::AccesoRuta};  // bytes that are no text have no name where names are texts
+    }
 }
 
 std::string TextoDe(const fs::path& camino)
 {
-    const std::u8string utf8 = camino.u8string();
-    return {utf8.begin(), utf8.end()};
+    try {
+        const std::u8string utf8 = camino.u8string();
+        return {utf8.begin(), utf8.end()};
+    } catch (const fs::filesystem_error&) {
+        return {};
+    }
+}
+
+std::string DirectorioDe(const std::string& ruta)
+{
+    return TextoDe(Camino(ruta).parent_path());
+}
+
+Falla FallaDeAcceso(const fs::path& camino)
+{
+    return {NumeroFalla::AccesoRuta, MotivoDelSistema(camino)};
 }
 
 bool EsDirectorio(const fs::path& camino)
@@ -59,7 +82,7 @@ std::string LeeArchivo(const fs::path& camino, std::uintmax_t maximo)
     if (error || largo > maximo) throw Falla{NumeroFalla::AccesoRuta};
 
     std::ifstream archivo(camino, std::ios::binary);
-    if (!archivo) throw Falla{NumeroFalla::AccesoRuta};
+    if (!archivo) throw FallaDeAcceso(camino);
     std::string bytes(static_cast<std::size_t>(largo), '\0');
     archivo.read(bytes.data(), static_cast<std::streamsize>(largo));
     if (archivo.bad()) throw Falla{NumeroFalla::AccesoRuta};

@@ -3,8 +3,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdlib>
-#include <filesystem>
 #include <string_view>
 
 #include "model/Avisos.h"
@@ -113,37 +111,11 @@ std::string Compartido(const std::string& dirEjecutable)
 /// Whether the program stands in the folder of all programs, where nobody's data belong, root's neither.
 bool EsInstalacion(const std::string& dirEjecutable, const std::string& dirEntregado)
 {
-    return std::filesystem::path(dirEjecutable).filename() == "bin" &&
+    return dirEjecutable.ends_with(std::string{Separador}.append("bin")) &&
            dirEntregado == Compartido(dirEjecutable);
 }
 
-/// Where the system keeps the data of a user's programs.
-std::string DatosDelUsuario(const Ambiente& ambiente)
-{
-#if defined(_WIN32)
-    return ambiente("LOCALAPPDATA");
-#else
-    const std::string hogar = ambiente("HOME");
-#if defined(__APPLE__)
-    return hogar.empty() ? hogar : hogar + "/Library/Application Support";
-#else
-    // A relative path there is void by the rules of the desktops.
-    std::string datos = ambiente("XDG_DATA_HOME");
-    if (std::filesystem::path(datos).is_absolute()) return datos;
-    return hogar.empty() ? hogar : hogar + "/.local/share";
-#endif
-#endif
-}
-
 }  // namespace
-
-Ambiente AmbienteDelProceso()
-{
-    return [](const std::string& nombre) {
-        const char* const valor = std::getenv(nombre.c_str());
-        return std::string(valor == nullptr ? "" : valor);
-    };
-}
 
 std::string DirDelUsuario(const Ambiente& ambiente)
 {

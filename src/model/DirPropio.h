@@ -1,22 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <functional>
 #include <string>
 
 #include "model/Disco.h"
+#include "model/Sistema.h"
 
 // The program's own directory, where the shared tables are read and the result files written, and what an
 // installation delivers to it. The same for every program that is installed together.
 namespace model {
 
 struct Siro;
-
-/// Value of a variable of the process's environment; empty where it isn't set.
-using Ambiente = std::function<std::string(const std::string& nombre)>;
-
-/// The real environment.
-Ambiente AmbienteDelProceso();
 
 /// The user's own data directory for SIRO, whether it is there or not; empty where the system tells none.
 std::string DirDelUsuario(const Ambiente& ambiente);

@@ -26,7 +26,7 @@ void Vuelca(const fs::path& camino, std::string_view bytes, std::ios::openmode m
     std::ofstream archivo(camino, modo | std::ios::binary);
     archivo.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     archivo.close();  // a full disk tells so here at the latest
-    if (!archivo) throw Falla{NumeroFalla::AccesoRuta};
+    if (!archivo) throw FallaDeAcceso(camino);
 }
 
 std::vector<std::string> ListaDirectorio(const fs::path& camino)
@@ -56,7 +56,7 @@ void BorraArchivo(const LlamadasDisco& llamadas, const fs::path& camino)
 {
     ExigeArchivo(camino);
     std::error_code error;
-    if (!fs::remove(camino, error)) throw Falla{NumeroFalla::AccesoRuta};
+    if (!fs::remove(camino, error)) throw FallaDeAcceso(camino);
     OlvidaPendientes(llamadas, camino.parent_path(), {TextoDe(camino.filename())});
 }
 
@@ -90,7 +90,11 @@ Disco DiscoDelSistema(std::shared_ptr<const LlamadasDisco> llamadas)
         Vuelca(Camino(ruta), bytes, std::ios::app);
     };
     disco.HayDirectorio = [](const std::string& ruta) {
-        return ruta.find('\0') == std::string::npos && EsDirectorio(Camino(ruta));
+        try {
+            return EsDirectorio(Camino(ruta));
+        } catch (const Falla&) {
+            return false;
+        }
     };
     disco.CreaDirectorio = [](const std::string& ruta) { CreaUnDirectorio(Camino(ruta)); };
     disco.Lista = [](const std::string& directorio) { return ListaDirectorio(Camino(directorio)); };

@@ -6,7 +6,8 @@
 #include <string_view>
 #include <system_error>
 
-// The calls of the operating system that a whole write is made of. Only LlamadasDisco.cpp knows a platform.
+// The calls of the operating system that a whole write is made of. The platform's are in
+// LlamadasDisco_posix.cpp and LlamadasDisco_windows.cpp.
 namespace model {
 
 /// One record of functions, so that a test can let the n-th call fail, or kill the program at it. An empty
@@ -29,6 +30,10 @@ struct LlamadasDisco {
     std::function<bool(long proceso)> Vive;
     long proceso = 0;  ///< number of this process
 };
+
+/// What keeps a file from being written, where the system tells it better than an error does: that it is open
+/// in another program, that it is write-protected. Empty where it has nothing to tell.
+std::string_view MotivoDelSistema(const std::filesystem::path& archivo);
 
 /// The real ones. From then on a file beyond the limit of the process is refused as on a full disk.
 LlamadasDisco LlamadasDelSistema();

@@ -9,7 +9,6 @@
 #include <utility>
 
 #include "model/Camino.h"
-#include "model/Falla.h"
 #include "model/RestosDeReemplazo.h"
 
 namespace model {
@@ -20,7 +19,7 @@ namespace fs = std::filesystem;
 
 Falla FallaDe(const fs::path& camino)
 {
-    return {HayDirectorioDe(camino) ? NumeroFalla::AccesoRuta : NumeroFalla::RutaNoEsta};
+    return HayDirectorioDe(camino) ? FallaDeAcceso(camino) : Falla{NumeroFalla::RutaNoEsta};
 }
 
 /// The file that a path leads to: through links as long as they stay inside the folder of the first one.
@@ -97,7 +96,7 @@ bool Grupo::Examina(bool conVuelta)
         const fs::file_type clase = fs::status(pieza.destino, error).type();
         if (clase == fs::file_type::not_found) continue;
         if (clase == fs::file_type::directory || !llamadas.DejaEscribir(pieza.destino))
-            throw Falla{NumeroFalla::AccesoRuta};
+            throw FallaDeAcceso(pieza.destino);
         if (clase != fs::file_type::regular)
             comunes = false;
         else if (conVuelta)

@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+
+#include "apoyo/Compara.h"
+#include "model/Disco.h"
+#include "model/RutaProyecto.h"
 
 // A project small enough to be worked out by hand, written to a directory of its own that goes with the
 // object.
@@ -24,24 +27,16 @@ class ProyectoDePrueba {
   public:
     ProyectoDePrueba()
     {
-        std::string plantilla = (std::filesystem::temp_directory_path() / "siro-lote-XXXXXX").string();
-        if (mkdtemp(plantilla.data()) == nullptr) throw std::runtime_error("no directory for the test");
-        dir = std::filesystem::canonical(plantilla).string();
         Escribe("Mio_Conf.vlm", TextoConf());
         Escribe("Mio_UEHs.vlm", TextoComponentes());
         Escribe("Mio_VerCau.vlm", "");
         Escribe("Mio_LHASQ.vlm", "\"*l-1\",2,\"*\",\"*\"\r\n100,1,1234,2.5\r\n100.004,1,1334,2.6\r\n");
     }
-    ~ProyectoDePrueba()
-    {
-        std::error_code error;
-        std::filesystem::remove_all(dir, error);
-    }
     ProyectoDePrueba(const ProyectoDePrueba&) = delete;
     ProyectoDePrueba& operator=(const ProyectoDePrueba&) = delete;
 
     [[nodiscard]] const std::string& Dir() const { return dir; }
-    [[nodiscard]] std::string Ruta(std::string_view nombre) const { return dir + "/" + std::string(nombre); }
+    [[nodiscard]] std::string Ruta(std::string_view nombre) const { return model::Ruta(dir, nombre); }
     [[nodiscard]] std::string Conf() const { return Ruta("Mio_Conf.vlm"); }
     [[nodiscard]] bool Esta(std::string_view nombre) const { return std::filesystem::exists(Ruta(nombre)); }
 
@@ -72,8 +67,8 @@ class ProyectoDePrueba {
     {
         std::string conf =
             "\"Mio\"\r\n\"Titulo\"\r\n\"Lugar\"\r\n\"Cuenca\"\r\n\"Subcuenca\"\r\n\"Operadora\"\r\n"
-            "\"01/02/2006\"\r\n\"\"\r\n\"" +
-            dir +
+            "\"01/02/2006\"\r\n\"" +
+            model::UnidadDe(dir) + "\"\r\n\"" + dir +
             "\"\r\n\"\"\r\n1\r\n\"Mio_Conf.vlm\"\r\n0\r\n\"Ninguno\"\r\n\"100\"\r\n\"\"\r\n"
             "#FALSE#\r\n#FALSE#\r\n#FALSE#\r\n0\r\n0\r\n#TRUE#\r\n#FALSE#\r\n#TRUE#\r\n#FALSE#\r\n"
             "10\r\n\"800\"\r\n\"0\"\r\n";
@@ -101,7 +96,8 @@ class ProyectoDePrueba {
                "Nivelada\"\r\n0\r\n0\r\n0\r\n0\r\n\"0\"\r\n0\r\n100.000\r\n";
     }
 
-    std::string dir;
+    apoyo::CarpetaTemporal carpeta{};
+    std::string dir = carpeta.Camino().string();
 };
 
 /// The CSV of a storm of 60 mm in 60 min with steps of 10 min: 7 output steps.

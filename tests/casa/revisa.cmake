@@ -92,6 +92,51 @@ if(cuantos GREATER 1 OR (cuantos EQUAL 1 AND NOT con_cli MATCHES "^src/batch/[^/
     falta("${con_cli}" "CLI11 belongs to one .cpp of batch")
 endif()
 
+# --- Platforms and paths: in few files -----------------------------------------------------------------------------------
+# The standard library takes the bytes of a std::string for another encoding on Windows, where a path is made of it; so
+# model/Camino.h makes paths of texts, and texts of paths, and nothing else does. Windows keep to Qt.
+set(de_caminos "^src/model/(Camino|Disco|LlamadasDisco|Reemplazo|RestosDeReemplazo|Sistema)(_[a-z]+)?\\.(h|cpp)$")
+set(de_plataforma "_(posix|windows)\\.(h|cpp)$")
+set(del_sistema "windows|io|direct|shlobj|shellapi|aclapi|unistd|fcntl|dlfcn|signal|dirent|pwd|sys/[a-z]+")
+foreach(cuarto IN LISTS cuartos)
+    file(GLOB_RECURSE archivos RELATIVE ${RAIZ} ${RAIZ}/src/${cuarto}/*.h ${RAIZ}/src/${cuarto}/*.cpp)
+    list(FILTER archivos EXCLUDE REGEX "_ventana[^/]*$")
+    foreach(archivo IN LISTS archivos)
+        if(NOT archivo MATCHES "${de_caminos}")
+            lineas(${archivo} "^[ \t]*#[ \t]*include[ \t]*<(filesystem|fstream)>|[^A-Za-z_]fopen[(]" hallados)
+            foreach(linea IN LISTS hallados)
+                falta(${archivo} "paths and streams belong to model/Disco.h: ${linea}")
+            endforeach()
+        elseif(NOT archivo STREQUAL "src/model/Camino.cpp")
+            lineas(${archivo} "path( [a-z][A-Za-z]*)?[({][^\")}&]|[.](w|u8)?string[(][)]" hallados)
+            foreach(linea IN LISTS hallados)
+                falta(${archivo} "text to path or back without model/Camino.h: ${linea}")
+            endforeach()
+        endif()
+        if(NOT archivo MATCHES "${de_plataforma}" AND NOT archivo STREQUAL "src/model/Disco.h")
+            lineas(${archivo}
+                "^[ \t]*#[ \t]*include[ \t]*<(${del_sistema})[.]h>|_WIN32|__linux__|__unix__|__APPLE__|/proc/|[^A-Za-z_]getenv[(]"
+                hallados)
+            foreach(linea IN LISTS hallados)
+                falta(${archivo} "a platform outside _posix and _windows files: ${linea}")
+            endforeach()
+        endif()
+    endforeach()
+endforeach()
+
+# --- What is left out on Windows is there ------------------------------------------------------------------------------
+if(EXISTS ${RAIZ}/tests/solo_posix.txt)
+    lineas(tests/solo_posix.txt "^[^#]" renglones)
+    foreach(renglon IN LISTS renglones)
+        string(REGEX MATCH "^[^ ]+" cual "${renglon}")
+        if(NOT renglon MATCHES "^[^ ]+ +[^ ]")
+            falta(tests/solo_posix.txt "no reason: ${cual}")
+        elseif(cual MATCHES "/" AND NOT EXISTS ${RAIZ}/tests/${cual})
+            falta(tests/solo_posix.txt "not there: ${cual}")
+        endif()
+    endforeach()
+endif()
+
 # --- Every source stands by name in the list of its room -------------------------------------------------------------
 file(GLOB_RECURSE fuentes RELATIVE ${RAIZ} ${RAIZ}/src/*.cpp ${RAIZ}/tests/*.cpp)
 foreach(archivo IN LISTS fuentes)

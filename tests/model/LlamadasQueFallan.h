@@ -2,13 +2,9 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-#include <csignal>
 #include <filesystem>
 #include <fstream>
-#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -16,6 +12,7 @@
 #include <system_error>
 
 #include "apoyo/Compara.h"
+#include "apoyo/Proceso.h"
 #include "model/Disco.h"
 #include "model/LlamadasDisco.h"
 
@@ -42,7 +39,7 @@ struct Golpe {
     /// How the call ends.
     [[nodiscard]] std::error_code Fin() const
     {
-        if (error == std::errc{}) kill(getpid(), SIGKILL);
+        if (error == std::errc{}) apoyo::Muere();
         return std::make_error_code(error);
     }
 };
@@ -84,21 +81,8 @@ inline model::Disco Disco(const Golpe& golpe)
     return model::DiscoDelSistema(std::make_shared<const model::LlamadasDisco>(Llamadas(golpe)));
 }
 
-/// How a process of its own ended.
-enum class Fin { Entero, Matado, Mal };
-
-inline Fin EnOtroProceso(const std::function<void()>& rutina)
-{
-    const pid_t hijo = fork();
-    if (hijo == 0) {
-        rutina();
-        _exit(0);
-    }
-    int estado = 0;
-    waitpid(hijo, &estado, 0);
-    if (WIFSIGNALED(estado) && WTERMSIG(estado) == SIGKILL) return Fin::Matado;
-    return WIFEXITED(estado) && WEXITSTATUS(estado) == 0 ? Fin::Entero : Fin::Mal;
-}
+using apoyo::EnOtroProceso;
+using apoyo::Fin;
 
 /// All that a folder holds: the files by name, each with its bytes.
 using Contenido = std::map<std::string, std::string>;

@@ -153,7 +153,7 @@ def _guarda(resultado, destino, lugar):
             archivo.write(resultado.piezas.get(nombre, b""))
 
 
-def _semillas(texto):
+def semillas(texto):
     desde, _, hasta = texto.partition("-")
     return range(int(desde), int(hasta or desde) + 1)
 
@@ -163,7 +163,7 @@ def principal(argumentos):
     programa = opciones.add_mutually_exclusive_group(required=True)
     programa.add_argument("--siro-lote", metavar="PATH")
     programa.add_argument("--solo-oraculo", action="store_true")
-    opciones.add_argument("--semillas", type=_semillas, required=True, metavar="A-B")
+    opciones.add_argument("--semillas", type=semillas, required=True, metavar="A-B")
     opciones.add_argument("--jobs", type=int, default=1)
     opciones.add_argument("--carpeta", metavar="DIR", help="where the folders of the seeds go")
     dado = opciones.parse_args(argumentos)
