@@ -42,7 +42,7 @@ esac
 librerias || exit 1
 SIRO_WINDOWS_PREFIJO=$prefijo construye windows || exit 1
 
-# What stands beside the programs: libraries of Qt, of the compiler, plugins, the Spanish of standard boxes.
+# What stands beside the programs: libraries of Qt and of the compiler, plugins, the Spanish of standard boxes.
 acompana() {
     local en=$1 dll gcc mingw
     gcc=$(dirname "$(x86_64-w64-mingw32-g++-posix -print-libgcc-file-name)")
@@ -50,7 +50,7 @@ acompana() {
     for dll in Qt6Core Qt6Gui Qt6Widgets Qt6PrintSupport Qt6Svg libQCustomPlotQt6; do
         cp "$prefijo/bin/$dll.dll" "$en" || return 1
     done
-    cp "$gcc"/{libgcc_s_seh-1,libstdc++-6}.dll "$mingw"/{libwinpthread-1,zlib1}.dll "$en" || return 1
+    cp "$gcc"/{libgcc_s_seh-1,libstdc++-6}.dll "$mingw"/libwinpthread-1.dll "$en" || return 1
     for dll in platforms/qwindows styles/qwindowsvistastyle imageformats/q{gif,ico,jpeg,svg} iconengines/qsvgicon; do
         mkdir -p "$en/plugins/${dll%/*}" && cp "$prefijo/plugins/$dll.dll" "$en/plugins/${dll%/*}" || return 1
     done

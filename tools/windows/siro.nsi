@@ -3,6 +3,7 @@
 ; The installer. VERSION, DE: folder of the installation that it packs; A: the file that it becomes.
 ; For one user, with no rights of an administrator: programs in the user's own folder of programs. A silent run takes /S and /D=FOLDER.
 
+Target amd64-unicode
 Unicode true
 !include MUI2.nsh
 !include FileFunc.nsh
