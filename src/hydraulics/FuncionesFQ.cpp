@@ -5,6 +5,8 @@
 #include <cmath>
 #include <limits>
 
+#include "model/Potencia.h"
+
 namespace hydraulics {
 
 using model::NumeroATexto;
@@ -27,7 +29,7 @@ constexpr auto Formulas = std::to_array<FormulaFQ>({
     {[](double Q, const FuncionFQ& f, double d) { return Q + f.a * Potencia(d, f.b); },
      [](const FuncionFQ& f, double desde, double hasta) {
          if (f.b < 0 && desde == 0) return std::numeric_limits<double>::infinity();
-         return std::fabs(double{f.a}) * std::pow(f.b < 0 ? desde : hasta, double{f.b});
+         return std::fabs(double{f.a}) * model::PotenciaRedondeada(f.b < 0 ? desde : hasta, double{f.b});
      },
      [](const FuncionFQ& f) { return " * (H[m]-HMin[m])^" + NumeroATexto(f.b); }},
     // FormaFQ::Parabola: listed with H[m]^2 though it counts from H min, kept as it stands

@@ -7,13 +7,15 @@
 #include <cstddef>
 #include <system_error>
 
+#include "model/Potencia.h"
+
 namespace model {
 
 double Potencia(double base, double exponente)
 {
     if (base == 0 && exponente < 0) throw Falla{NumeroFalla::Argumento};
     if (base < 0 && exponente != std::floor(exponente)) throw Falla{NumeroFalla::Argumento};
-    const double potencia = std::pow(base, exponente);
+    const double potencia = PotenciaRedondeada(base, exponente);
     if (!std::isfinite(potencia)) throw Falla{NumeroFalla::Desbordamiento};
     return potencia;
 }
@@ -28,7 +30,7 @@ constexpr std::array<double, 23> DiezA = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e
 double PotenciaDeDiez(int n)
 {
     if (n >= 0 && n < static_cast<int>(DiezA.size())) return DiezA[static_cast<std::size_t>(n)];
-    return std::pow(10.0, n);
+    return PotenciaRedondeada(10, n);
 }
 
 }  // namespace

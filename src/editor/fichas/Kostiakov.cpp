@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/fichas/Kostiakov.h"
 
-#include <cmath>
+#include "model/Potencia.h"
 
 namespace editor {
 
 CurvaInfiltracion CurvaKostiakov(double a, double b, double tInicial)
 {
-    const auto infiltrada = [&](double t) { return a * std::pow(t, b); };
+    const auto infiltrada = [&](double t) { return a * model::PotenciaRedondeada(t, b); };
     CurvaInfiltracion curva{.tInicial = tInicial, .IInicial = infiltrada(tInicial)};
     const double paso = (tInicial + DuracionCurvaInfiltracion) / TramosCurvaInfiltracion;
     for (int i = 0; i <= TramosCurvaInfiltracion; ++i) {
