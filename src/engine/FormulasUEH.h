@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 
 #include "model/Numeros.h"
 #include "model/UEH.h"
@@ -45,12 +46,26 @@ struct Infiltracion {
     }
     bool operator==(const Infiltracion&) const = default;
 
-    /// Depth [mm] of the step that the clock tells, from 1. Throws Falla 5, 6.
-    [[nodiscard]] float Lamina(double reloj) const
+    /// A power of a time [min]; none yet where the time is no number.
+    struct PotenciaDeT {
+        double t = std::numeric_limits<double>::quiet_NaN();
+        double potencia = 0;
+    };
+    /// Depth [mm] of the step that the clock tells, from 1. `fin` is what the step before left there, since
+    /// this one begins where that ended, or none; it is left what the next one wants. Throws Falla 5, 6.
+    float Lamina(double reloj, PotenciaDeT& fin) const
     {
         const double t = reloj * paso + inicial;
-        const float I = model::Simple(a * (model::Potencia(t, b) - model::Potencia(t - paso, b)));
+        const double potencia = model::Potencia(t, b);
+        const double antes = fin.t == t - paso ? fin.potencia : model::Potencia(t - paso, b);
+        fin = {t, potencia};
+        const float I = model::Simple(a * (potencia - antes));
         return I < 0 ? 0 : I;
+    }
+    [[nodiscard]] float Lamina(double reloj) const
+    {
+        PotenciaDeT ninguna;
+        return Lamina(reloj, ninguna);
     }
     /// No depth of 16 bits of steps can be at fault, nor come near the limit of
     /// its type.

@@ -96,7 +96,7 @@ bool PasosSeguros(Corrida& c)
 float LaminaInfiltrada(TablaInfiltracion& tabla, std::size_t reloj)
 {
     while (tabla.lamina.size() <= reloj)
-        tabla.lamina.push_back(tabla.de.Lamina(static_cast<double>(tabla.lamina.size())));
+        tabla.lamina.push_back(tabla.de.Lamina(static_cast<double>(tabla.lamina.size()), tabla.fin));
     return tabla.lamina[reloj];
 }
 
@@ -106,7 +106,7 @@ TablaInfiltracion& TablaDe(Corrida& c, int i)
     if (tablas.size() < static_cast<std::size_t>(i)) tablas.resize(static_cast<std::size_t>(i));
     TablaInfiltracion& tabla = tablas[static_cast<std::size_t>(i) - 1];
     const Infiltracion ahora(c.s.Red.UEHs(i), c.s.Pasos.PasoPp);
-    if (tabla.de != ahora) tabla = {ahora, {0}};
+    if (tabla.de != ahora) tabla = {ahora, {0}, {}};
     return tabla;
 }
 

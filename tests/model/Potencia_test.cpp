@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <charconv>
@@ -13,6 +14,7 @@
 #include <limits>
 #include <string>
 #include <string_view>
+#include <tuple>
 
 using namespace model;
 
@@ -142,12 +144,12 @@ TEST(PotenciaRedondeada, EnLosExtremosDelTipo)
         Compara(c);
 }
 
-// 3^5 = 243: halves of the least float, a tie between 121 and 122 of it. 5^3 = 125: between 62 and 63.
+// 3^5 = 243 halves of the least float: a tie between 121 and 122 of it. 5^3 = 125 eighths: 15.625 of it.
 TEST(PotenciaRedondeada, EmpateDeSubnormales)
 {
     Compara({3 * 0x1p-215, 5, 122 * Menor});
     Compara({std::nextafter(3 * 0x1p-215, 0), 5, 121 * Menor});
-    Compara({5 * 0x1p-359, 3, 62 * 0x1p-1074 + 0});  // 125·2^-1077 is 15.625 of the least float
+    Compara({5 * 0x1p-359, 3, 16 * Menor});
 }
 
 // --- near 1 ---
@@ -187,7 +189,7 @@ RC_GTEST_PROP(PotenciaRedondeada, PotenciasEnterasHastaElEmpate, ())
 {
     const int n = *rc::gen::inRange(1, 35);
     const auto mayor = static_cast<int>(std::exp2(54.0 / n));
-    const auto m = static_cast<std::uint64_t>(*rc::gen::inRange(2, std::max(3, std::min(mayor, 1 << 30))));
+    const auto m = static_cast<std::uint64_t>(*rc::gen::inRange(2, std::min(mayor, 1 << 30) + 1));
     const std::uint64_t p = PotenciaEntera(m, n, 54);
     RC_PRE(p != 0U);
     const int doses = *rc::gen::inRange(-1000 / n, 900 / n);
@@ -201,22 +203,22 @@ RC_GTEST_PROP(PotenciaRedondeada, PotenciasEnterasHastaElEmpate, ())
 RC_GTEST_PROP(PotenciaRedondeada, RaicesExactasYSusPotencias, ())
 {
     const int k = *rc::gen::inRange(1, 6);
-    const auto m = static_cast<std::uint64_t>(*rc::gen::inRange(2, 1 << 26));
-    const std::uint64_t x = PotenciaEntera(m, 1 << k, 53);
-    RC_PRE(x != 0U);
-    const int n = *rc::gen::inRange(1, 35);
-    const std::uint64_t p = PotenciaEntera(m, n, 54);
-    RC_PRE(p != 0U);
+    const auto mayor = static_cast<int>(std::exp2(53.0 / (1 << k)));
+    const int m = *rc::gen::inRange(2, mayor + 1);
+    const int n = *rc::gen::inRange(1, static_cast<int>(54 / std::log2(m)) + 1);
+    const std::uint64_t x = PotenciaEntera(static_cast<std::uint64_t>(m), 1 << k, 53);
+    const std::uint64_t p = PotenciaEntera(static_cast<std::uint64_t>(m), n, 54);
+    RC_PRE((x != 0U && p != 0U));
     RC_ASSERT(PotenciaRedondeada(static_cast<double>(x), std::ldexp(n, -k)) == static_cast<double>(p));
 }
 
-// 134217729^2 = 2^54 + 2^28 + 1 is just beyond a tie of 4 units, (2^27 - 1)^2 = 2^54 - 2^28 + 1 half a unit
-// of 2.
+// (2^27 + 1)^2 = 2^54 + 2^28 + 1 is a quarter of a unit beyond a float, (2^27 - 1)^2 = 2^54 - 2^28 + 1 half
+// of one.
 TEST(PotenciaRedondeada, EmpatesPorUnBit)
 {
     Compara({134217729, 2, 0x1p54 + 0x1p28});
     Compara({134217727, 2, 0x1p54 - 0x1p28});
-    // 9 digits of 3: 3^34 = 16677181699666569 is odd and of 54 bits, between ...568 and ...570: to the one
+    // 3^34 = 16677181699666569 is odd and of 54 bits, between ...568 and ...570: to the one
     // that 4 divides.
     Compara({3, 34, 16677181699666568.0});
     // 5^23 = 11920928955078125, between ...124 and ...126.
