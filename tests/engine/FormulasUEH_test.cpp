@@ -37,6 +37,18 @@ TEST(FormulasUEH, KostiakovEnTiempoCorrido)
     EXPECT_TRUE(I.EsModerada());
 }
 
+// Steps in order, out of order and twice; 0.1 and 1e-5 min are no whole number of the bits that the clock's
+// time has.
+TEST(FormulasUEH, LaPotenciaDelPasoAnteriorDaLosMismosBits)
+{
+    for (const float inicial : {0.0F, 6.0F, 0.1F, 1e-5F, 32767.7F}) {
+        const Infiltracion I({.KostiakovA = 2.3F, .KostiakovB = 0.37F, .KostiakovI = inicial}, 10);
+        Infiltracion::PotenciaDeT fin;
+        for (const int reloj : {1, 2, 3, 4, 4, 7, 8, 2, 1, 3000, 3001})
+            EXPECT_EQ(I.Lamina(reloj, fin), I.Lamina(reloj)) << inicial << " min, step " << reloj;
+    }
+}
+
 TEST(FormulasUEH, UnaInfiltracionNegativaEsCeroYUnaBaseNegativaEsFalla)
 {
     EXPECT_EQ(Infiltracion({.KostiakovA = -2, .KostiakovB = 0.5F}, 10).Lamina(1), 0);
