@@ -16,10 +16,10 @@
 // in some thousands.
 //
 // Logarithm and exponential are table driven (Tang, ACM TOMS 15 and 16, 1989 and 1990). Sums of two floats
-// follow Dekker (Numer. Math. 18, 1971): s = a + b, e = b - (s - a) gives a + b = s + e exactly where |a| >=
-// |b| (Muller et al., "Handbook of Floating-Point Arithmetic", 4.3). Products whose rounding would matter are
-// of factors so short that there is none; so it makes no difference to a head whether a processor fuses a
-// product with a sum: it may change a tail within its bound, never the answer.
+// follow Dekker (Numer. Math. 18, 1971): s = a + b, e = b - (s - a) gives a + b = s + e exactly where a isn't
+// the smaller (Muller et al., "Handbook of Floating-Point Arithmetic", 4.3). A product that enters a head is
+// of factors so short that it is exact: it makes no difference there whether a processor fuses it with a sum.
+// In a tail that may change a bit within the bound, never the answer.
 static_assert(FLT_EVAL_METHOD == 0 && std::numeric_limits<double>::is_iec559,
               "The bounds hold for arithmetic that rounds each operation to 64 bits");
 #ifdef __FAST_MATH__
@@ -56,25 +56,21 @@ struct Logaritmo {
 
 // Error of Log(x) as compared with log x, u = 2^-53 being the largest relative error of an operation.
 //
-// x = 2^k z with z in an interval of the table, c short and near 1/z: z c is 1 + r with |r| < 2^-7.56, r is a
-// float (tablas.py takes c so short that z c - 1 has at most 53 bits), and log x = k log 2 - log c + log(1 +
-// r).
-//  1. t = k log 2 - log c is exact in the heads: multiples of 2^-42 below 2^10. With r the sum is exact too
-//  (s + e1).
-//     The tails, below 2^-32.9 together, are off by 2^-86.9 at most for the table's log 2 and by 2^-86 per
-//     operation.
-//  2. r^2 / 2 = a + b: a = rh^2 / 2 is exact since rh, a multiple of 2^-33, has 26 bits; b = rl (r + rh) / 2
-//  < 2^-41.5
-//     is off by 2 u b.
-//  3. cubo = r^3 (1/3 - r/4 + ... - r^7/10): the series cut off is less than r^11 / 11 < u cubo / 100; r^3,
-//  the
-//     product and the sum in brackets are off by 2 u, 1 u and 2.2 u. With the sum that takes it in less than
-//     6.5 u |cubo| < 2^-50.2 |cubo|.
-//  4. The sums of tails other than cubo, six of them: less than 2^-83 where t is not 0; |log x| is above
-//  2^-9.03 then
-//     (tablas.py), which makes it 2^-73.9 |log x|. Where t is 0 there are only e2 and b, |r| times 2^-33 at
-//     most, and the error is below 2^-85 |r|.
-// Together: |error| < 2^-50.2 |cubo| + 2^-73.9 |log x|.
+// x = 2^k z with z in an interval of the table, c short and near 1/z: z c is 1 + r with |r| < 2^-7.46, and r
+// is a float (tablas.py takes c so short that z c - 1 has at most 53 bits). So log x = k log 2 - log c +
+// log(1 + r).
+//  1. t = k log 2 - log c is exact in the heads: multiples of 2^-42 below 2^10. With r the sum is exact too,
+//     s + e1. The tails, below 2^-32.9 together, are off by 2^-86.9 at most for the table's log 2 and by
+//     2^-86 per operation.
+//  2. r^2 / 2 = a + b: a = rh^2 / 2 is exact since rh, a multiple of 2^-33, has 26 bits, and so is suma + e2.
+//     b = rl (r + rh) / 2, below 2^-41.5, is off by 2 u b.
+//  3. cubo = r^3 (1/3 - r/4 + ... - r^7/10): the series cut off is less than r^11 / 11 < u cubo / 100. The
+//     cube is off by 2 u, the bracket by 3.5 u (two sums and one more, and half a u of 1/3), their product by
+//     1 u, and the sum that takes it in by 1 u: less than 2^-50.08 |cubo|.
+//  4. The other sums of tails, six of them: less than 2^-83 where t is not 0; |log x| is above 2^-9.03 then
+//     (tablas.py), which makes it 2^-73.9 |log x|. Where t is 0 there are only e2 and b, 2^-33 |r| at most,
+//     and the error is below 2^-85 |r|.
+// Together: |error| < 2^-50.08 |cubo| + 2^-73.9 |log x|.
 Logaritmo Log(double x)
 {
     std::uint64_t bits = std::bit_cast<std::uint64_t>(x);
@@ -100,9 +96,9 @@ Logaritmo Log(double x)
 
     const double r2 = r * r;
     const double r4 = r2 * r2;
-    const double cubo =
-        r * r2 *
-        (((1.0 / 3 - r / 4) + r2 * (1.0 / 5 - r / 6)) + r4 * ((1.0 / 7 - r / 8) + r2 * (1.0 / 9 - r / 10)));
+    const double cubo = r * r2 *
+                        (((1.0 / 3 - r * (1.0 / 4)) + r2 * (1.0 / 5 - r * (1.0 / 6))) +
+                         r4 * ((1.0 / 7 - r * (1.0 / 8)) + r2 * (1.0 / 9 - r * (1.0 / 10))));
     const double cola = cubo + ((((k * Log2Bajo + tabla.bajo) + e1) + e2) - b);
     const double alto = suma + cola;
     return {alto, cola - (alto - suma), cubo};
@@ -112,23 +108,19 @@ Logaritmo Log(double x)
 
 // Error of the whole, E being y log x and |E| <= 708.
 //  1. E = alto + bajo: the product of the heads of 26 bits is exact, as that of the tail of y and the head of
-//  log x; what is
-//     left, 2^-25 |E| each, is rounded three times: 2^-76 |E|. With the logarithm's:
-//     2^-50.2 |y cubo| + (2^-73.9 + 2^-76) |E| < 2^-50.2 |y cubo| + 2^-73.5 |E|.
+//     log x. What is left, 2^-25 |E| each, is rounded three times: 2^-76 |E|. With the logarithm's:
+//     2^-50.08 |y cubo| + 2^-73.5 |E|.
 //  2. E = n log 2 / 128 + z, |z| < 2^-8.52: n times the head of log 2 / 128 is exact (17 and 36 bits), and so
-//  is alto less it:
-//     a multiple of 2^-61 below 2^-8. n times the tail is below 2^-26.9: table, product and two sums are off
-//     by 2^-79.
-//  3. exp(z) = 1 + z + q, q = z^2 (1/2 + ... + z^5 / 5040) < 2^-18.05: cut off 2^-83; z is off by u, z^2 by 3
-//  u,
-//     the sum by 1.02 u, their product by 1 u: 5.05 u q.
+//     is alto less it: a multiple of 2^-61 below 2^-8. n times the tail is below 2^-26.9: table, product and
+//     two sums are off by 2^-79.
+//  3. exp(z) = 1 + z + q, q = z^2 (1/2 + ... + z^5 / 5040) < 2^-18.05: cut off 2^-83; z is off by u, z^2 by
+//     3 u, the bracket by 1.02 u, their product by 1 u: 5.05 u q.
 //  4. T (1 + z + q), T = 2^(i/128) < 2 to 2^-81: the head of T, 27 bits, by that of z, 26 bits, is exact, and
-//  so is its sum
-//     with the head of T (h + e). T times (rest of z + q), below 2^-17.04, is off by (5.05 + 3) u of it:
-//     2^-67.03. Three sums of numbers below 2^-17 and the one with the bound: 4·2^-70.03 = 2^-68.03.
-// A relative error d of exp(E) is at most 2.02 d here. Together: less than
-//     2^-66.4 + 2.02 (2^-50.2 |y cubo| + 2^-73.5 |E| + 2^-79), and the bound is 2^-66 + 2^-49 |y cubo| +
-//     2^-72 |E|.
+//     so is its sum with the head of T, h + e. T times (rest of z + q), below 2^-17.04, is off by (5.05 + 3)
+//     u of it: 2^-67.03. Three sums of numbers below 2^-17 and the one with the bound: 4·2^-70.03 = 2^-68.03.
+// A relative error d of exp(E) makes 2.02 d at most here. Together less than
+//     2^-66.4 + 2.02 (2^-50.08 |y cubo| + 2^-73.5 |E| + 2^-79),
+// and the bound that is told is 2^-66 + 2^-49 |y cubo| + 2^-72 |E|.
 PotenciaAproximada AproximaPotencia(double x, double y)
 {
     const Logaritmo log = Log(x);
@@ -152,7 +144,9 @@ PotenciaAproximada AproximaPotencia(double x, double y)
     const double zl = (zAlto - zh) + (bajo - n * Log2Entre128Bajo);
     const double z = zh + zl;
     const double z2 = z * z;
-    const double q = z2 * (0.5 + z * ((1.0 / 6 + z / 24) + z2 * ((1.0 / 120 + z / 720) + z2 / 5040)));
+    const double q =
+        z2 *
+        (0.5 + z * ((1.0 / 6 + z * (1.0 / 24)) + z2 * ((1.0 / 120 + z * (1.0 / 720)) + z2 * (1.0 / 5040))));
 
     const double primero = tabla.alto * zh;
     const double h = tabla.alto + primero;
