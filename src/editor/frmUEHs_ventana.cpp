@@ -9,6 +9,7 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QSlider>
+#include <QToolBar>
 #include <QtGlobal>
 #include <array>
 #include <string>

@@ -68,18 +68,6 @@ una() {
     echo "$((SECONDS - desde)) s" >&2
 }
 
-# Command line: headers and nothing else. Those of /usr/include as a whole would bring the other C library's.
-cli11() {
-    fuente cli11 || return 1
-    instala "$carpeta" -DCLI11_BUILD_TESTS=OFF -DCLI11_BUILD_EXAMPLES=OFF -DCLI11_BUILD_DOCS=OFF \
-        -DCLI11_SINGLE_FILE=OFF -DBUILD_TESTING=OFF
-}
-
-gtest() {
-    fuente googletest || return 1
-    instala "$carpeta" -DBUILD_GMOCK=OFF
-}
-
 cmake_qt() { echo "/usr/lib/$(dpkg-architecture -qDEB_HOST_MULTIARCH)/cmake"; }
 
 # Without what SIRO doesn't use; image formats, fonts and regular expressions from the copies inside Qt.
