@@ -6,6 +6,7 @@
 
 #include "LlamadasQueFallan.h"
 #include "model/Reemplazo.h"
+#include "model/RestosDeReemplazo.h"
 
 namespace fallas {
 
