@@ -2,12 +2,15 @@
 #include "batch/CorridaLote.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <functional>
 #include <new>
 #include <optional>
+#include <string_view>
 
 #include "batch/ResultadosCsv.h"
+#include "batch/RevisaLote.h"
 #include "engine/mdlProceso1.h"
 #include "engine/mdlSeriePDR.h"
 #include "engine/modProceso0.h"
@@ -117,6 +120,32 @@ bool GuardaResultados(Siro& s, const Opciones& o)
     return model::Sentencia(guarda, model::AvisaArchivo(s));
 }
 
+/// Does what was understood of a command line, or says why not, or how to call it.
+template <typename Hace>
+int Atiende(const Lectura& lectura, std::string_view uso, const Salidas& salidas, const Hace& hace)
+{
+    if (lectura.opciones) return hace(*lectura.opciones);
+    if (lectura.motivo.empty())
+        return Muestra(salidas, [&] { salidas.Estandar(uso); }) ? EstadoCompleto : EstadoInterrumpido;
+    salidas.Errores("siro-lote: " + lectura.motivo + "\n\n");
+    salidas.Errores(uso);
+    return EstadoOrdenErronea;
+}
+
+/// A first word with a command line of its own; all others are runs.
+struct Verbo {
+    std::string_view palabra;
+    int (*hace)(int argc, const char* const* argv, const std::string& dirEjecutable, const Salidas& salidas);
+};
+
+constexpr auto Verbos = std::to_array<Verbo>({
+    {"revisa",
+     [](int argc, const char* const* argv, const std::string& dir, const Salidas& salidas) {
+         return Atiende(LeeOpcionesRevisa(argc, argv), UsoRevisa(), salidas,
+                        [&](const Opciones& o) { return RevisaProyecto(o, dir, salidas); });
+     }},
+});
+
 }  // namespace
 
 void AbreProyecto(Siro& s, const std::string& conf)
@@ -190,15 +219,11 @@ int Corre(const Opciones& o, const std::string& dirEjecutable, const Salidas& sa
 
 int Lote(int argc, const char* const* argv, const Salidas& salidas)
 {
-    const Lectura lectura = LeeOpciones(argc, argv);
-    if (lectura.opciones)
-        return Corre(*lectura.opciones, DirectorioDelEjecutable(argc > 0 ? argv[0] : ""), salidas);
-    if (lectura.motivo.empty()) {
-        return Muestra(salidas, [&] { salidas.Estandar(Uso()); }) ? EstadoCompleto : EstadoInterrumpido;
-    }
-    salidas.Errores("siro-lote: " + lectura.motivo + "\n\n");
-    salidas.Errores(Uso());
-    return EstadoOrdenErronea;
+    const std::string dir = DirectorioDelEjecutable(argc > 0 ? argv[0] : "");
+    for (const Verbo& v : Verbos)
+        if (argc > 1 && v.palabra == argv[1]) return v.hace(argc, argv, dir, salidas);
+    return Atiende(LeeOpciones(argc, argv), Uso(), salidas,
+                   [&](const Opciones& o) { return Corre(o, dir, salidas); });
 }
 
 }  // namespace batch

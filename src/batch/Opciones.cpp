@@ -43,6 +43,20 @@ Estado de salida: 0 la corrida llegó a su fin; 1 un control o la entrada dañad
                   2 la línea de órdenes es errónea; 3 una respuesta No o un mensaje fatal terminó el programa.
 )";
 
+constexpr std::string_view TextoUsoRevisa =
+    R"(Uso: siro-lote revisa CONF [opciones]    revisa un proyecto antes de correrlo
+
+Dice todo aquello por lo que una corrida se detendría o preguntaría, y los datos que no pueden ser.
+La tormenta y los pasos son los de la orden una: --forma, --pp, --dur, --rec, --distribucion, --paso-pp,
+--paso-q, --pp-ueh, --tormenta, y el directorio --trabajo.
+
+  --cuenca HA             superficie medida de la cuenca [ha], que las UEHs deben sumar
+  --json                  los hallazgos en JSON
+  --ayuda, --help         este texto
+
+Estado de salida: 0 no hay errores; 1 hay alguno; 2 la línea de órdenes es errónea.
+)";
+
 constexpr double TopeEntero = 32767;
 
 /// A value that an option can't take, with the reason as the user reads it.
@@ -117,27 +131,32 @@ int Hilos(std::string_view texto)
     return static_cast<int>(NumeroEnteroEntre(texto, 0, MaximoHilos));
 }
 
+// Which orders take an option.
+constexpr int DeCorrida = 1, DeRevision = 2, DeAmbas = DeCorrida | DeRevision;
+
 /// An option with a value: how it is written and where its value goes.
 struct FilaOpcion {
     const char* nombre;
     void (*toma)(Opciones& o, const std::string& valor);
+    int ordenes = DeCorrida;  ///< those that take it
 };
 
 constexpr auto Filas = std::to_array<FilaOpcion>({
-    {"--trabajo", [](Opciones& o, const std::string& v) { o.trabajo = v; }},
-    {"--forma", [](Opciones& o, const std::string& v) { o.forma = Forma(v); }},
-    {"--pp", [](Opciones& o, const std::string& v) { o.pp = Lamina(v); }},
-    {"--dur", [](Opciones& o, const std::string& v) { o.dur = Entero(v, 0, TopeEntero); }},
-    {"--rec", [](Opciones& o, const std::string& v) { o.rec = Entero(v, 0, TopeEntero); }},
-    {"--distribucion", [](Opciones& o, const std::string& v) { o.distribucion = Entero(v, 0, 7); }},
-    {"--paso-pp", [](Opciones& o, const std::string& v) { o.pasoPp = Entero(v, 1, TopeEntero); }},
-    {"--paso-q", [](Opciones& o, const std::string& v) { o.pasoQ = Entero(v, 1, TopeEntero); }},
-    {"--pp-ueh", [](Opciones& o, const std::string& v) { o.ppUEH = Laminas(v); }},
-    {"--tormenta", [](Opciones& o, const std::string& v) { o.tormenta = v; }},
+    {"--trabajo", [](Opciones& o, const std::string& v) { o.trabajo = v; }, DeAmbas},
+    {"--forma", [](Opciones& o, const std::string& v) { o.forma = Forma(v); }, DeAmbas},
+    {"--pp", [](Opciones& o, const std::string& v) { o.pp = Lamina(v); }, DeAmbas},
+    {"--dur", [](Opciones& o, const std::string& v) { o.dur = Entero(v, 0, TopeEntero); }, DeAmbas},
+    {"--rec", [](Opciones& o, const std::string& v) { o.rec = Entero(v, 0, TopeEntero); }, DeAmbas},
+    {"--distribucion", [](Opciones& o, const std::string& v) { o.distribucion = Entero(v, 0, 7); }, DeAmbas},
+    {"--paso-pp", [](Opciones& o, const std::string& v) { o.pasoPp = Entero(v, 1, TopeEntero); }, DeAmbas},
+    {"--paso-q", [](Opciones& o, const std::string& v) { o.pasoQ = Entero(v, 1, TopeEntero); }, DeAmbas},
+    {"--pp-ueh", [](Opciones& o, const std::string& v) { o.ppUEH = Laminas(v); }, DeAmbas},
+    {"--tormenta", [](Opciones& o, const std::string& v) { o.tormenta = v; }, DeAmbas},
     {"--tabla", [](Opciones& o, const std::string& v) { o.tabla = Entero(v, 0, 3); }},
     {"--responde", [](Opciones& o, const std::string& v) { o.respondeSi = RespondeSi(v); }},
     {"--hilos", [](Opciones& o, const std::string& v) { o.hilos = Hilos(v); }},
     {"--resultados", [](Opciones& o, const std::string& v) { o.resultados = v; }},
+    {"--cuenca", [](Opciones& o, const std::string& v) { o.cuenca = Lamina(v); }, DeRevision},
 });
 
 /// The words of a command line, before their values are looked at.
@@ -145,17 +164,20 @@ struct Palabras {
     std::array<std::string, Filas.size()> valores{};
     std::array<CLI::Option*, Filas.size()> opciones{};
     std::string conf{};
-    bool pizarra = false;
+    bool pizarra = false, json = false;
 };
 
-CLI::App* Orden(CLI::App& programa, const char* nombre, Palabras& p)
+CLI::App* Orden(CLI::App& programa, const char* nombre, Palabras& p, int clase = DeCorrida)
 {
     CLI::App* orden = programa.add_subcommand(nombre);
     orden->set_help_flag("--help,-h,--ayuda");
     orden->add_option("CONF", p.conf);
     for (std::size_t i = 0; i < Filas.size(); ++i)
-        p.opciones[i] = orden->add_option(Filas[i].nombre, p.valores[i]);
-    orden->add_flag("--pizarra", p.pizarra);
+        if ((Filas[i].ordenes & clase) != 0) p.opciones[i] = orden->add_option(Filas[i].nombre, p.valores[i]);
+    if (clase == DeCorrida)
+        orden->add_flag("--pizarra", p.pizarra);
+    else
+        orden->add_flag("--json", p.json);
     return orden;
 }
 
@@ -173,7 +195,8 @@ std::string MotivoDe(const CLI::ParseError& error, const CLI::App& programa)
     if (!sobran.empty()) return "No se esperaba " + sobran.front();
     if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr) return "Falta la orden: una o serie";
     const std::string opcion = OpcionNombrada(error.what());
-    if (opcion == "--pizarra" || opcion == "--help") return "La opción " + opcion + " no lleva valor";
+    if (opcion == "--pizarra" || opcion == "--json" || opcion == "--help")
+        return "La opción " + opcion + " no lleva valor";
     return "La opción " + opcion + " lleva un valor, y una sola vez";
 }
 
@@ -184,8 +207,9 @@ Lectura Entiende(const Palabras& p, Opciones o)
         return {{}, p.conf + " no termina en " + std::string(model::TerminacionConf)};
     o.conf = p.conf;
     o.pizarra = p.pizarra;
+    o.json = p.json;
     for (std::size_t i = 0; i < Filas.size(); ++i) {
-        if (p.opciones[i]->count() == 0) continue;
+        if (p.opciones[i] == nullptr || p.opciones[i]->count() == 0) continue;
         try {
             Filas[i].toma(o, p.valores[i]);
         } catch (const ValorErroneo& error) {
@@ -193,6 +217,19 @@ Lectura Entiende(const Palabras& p, Opciones o)
         }
     }
     return {std::move(o), {}};
+}
+
+/// Takes the words of a command line apart. Returns what to say where there is nothing to do.
+std::optional<Lectura> Reconoce(CLI::App& programa, int argc, const char* const* argv)
+{
+    try {
+        programa.parse(argc, argv);
+    } catch (const CLI::CallForHelp&) {
+        return Lectura{};
+    } catch (const CLI::ParseError& error) {
+        return Lectura{{}, MotivoDe(error, programa)};
+    }
+    return {};
 }
 
 }  // namespace
@@ -211,16 +248,26 @@ Lectura LeeOpciones(int argc, const char* const* argv)
     Palabras una, serie;
     const CLI::App* ordenUna = Orden(programa, "una", una);
     Orden(programa, "serie", serie);
-    try {
-        programa.parse(argc, argv);
-    } catch (const CLI::CallForHelp&) {
-        return {};
-    } catch (const CLI::ParseError& error) {
-        return {{}, MotivoDe(error, programa)};
-    }
+    if (auto otra = Reconoce(programa, argc, argv)) return *otra;
     Opciones o;
     o.orden = ordenUna->parsed() ? Opciones::Orden::Una : Opciones::Orden::Serie;
     return Entiende(o.orden == Opciones::Orden::Una ? una : serie, std::move(o));
+}
+
+std::string_view UsoRevisa()
+{
+    return TextoUsoRevisa;
+}
+
+Lectura LeeOpcionesRevisa(int argc, const char* const* argv)
+{
+    CLI::App programa{"", "siro-lote"};
+    Palabras revisa;
+    Orden(programa, "revisa", revisa, DeRevision);
+    if (auto otra = Reconoce(programa, argc, argv)) return *otra;
+    Opciones o;
+    o.orden = Opciones::Orden::Revisa;
+    return Entiende(revisa, std::move(o));
 }
 
 }  // namespace batch

@@ -11,7 +11,7 @@ namespace batch {
 
 /// What a command line asks for. Numbers are within the bounds told here; paths stand as they were typed.
 struct Opciones {
-    enum class Orden { Una, Serie };
+    enum class Orden { Una, Serie, Revisa };
 
     Orden orden = Orden::Una;
     std::string conf{};             ///< path of the project's configuration file, ends in _Conf.vlm
@@ -30,6 +30,8 @@ struct Opciones {
     bool respondeSi = true;         ///< answer to every question
     int hilos = 0;                  ///< threads of a series, 1024 at most; 0: all cores
     std::string resultados{};       ///< path of the CSV file; empty: none
+    bool json = false;              ///< findings as JSON, not as lines
+    float cuenca = 0;               ///< the basin as measured [ha], not negative; 0: not known
 
     bool operator==(const Opciones&) const = default;
 };
@@ -43,7 +45,11 @@ struct Lectura {
 /// How to call the program, in lines that end in LF.
 std::string_view Uso();
 
-/// Reads a command line as main gets it, the program's own name first.
+/// Reads a command line as main gets it, the program's own name first: una or serie.
 Lectura LeeOpciones(int argc, const char* const* argv);
+
+/// The same of the check before a run, whose storm is that of una.
+std::string_view UsoRevisa();
+Lectura LeeOpcionesRevisa(int argc, const char* const* argv);
 
 }  // namespace batch

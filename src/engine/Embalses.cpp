@@ -19,7 +19,6 @@ using model::Siro;
 
 namespace {
 
-constexpr std::string_view MetodoMuskingum = "Muskingum";
 constexpr std::string_view MetodoPiscina = "Piscina Nivelada";
 constexpr std::string_view MetodoRungeKutta = "Runge Kutta";
 
@@ -72,11 +71,6 @@ bool PropagaEmbalse(Corrida& c, const EmbalseEnMano& e)
     }
     EscribeTabla(c, e);
     return true;
-}
-
-bool MetodoConocido(const std::string& metodo)
-{
-    return metodo == MetodoMuskingum || metodo == MetodoPiscina || metodo == MetodoRungeKutta;
 }
 
 /// Tells that a component names no method; "represa" is kept for a Lago.
@@ -133,6 +127,11 @@ void Proceso(Corrida& c, int fila)
 }
 
 }  // namespace
+
+bool MetodoConocido(std::string_view metodo)
+{
+    return metodo == MetodoMuskingum || metodo == MetodoPiscina || metodo == MetodoRungeKutta;
+}
 
 void Proceso_en_Represa(Corrida& c, int fila)
 {
