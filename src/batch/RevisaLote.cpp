@@ -26,7 +26,7 @@ using model::Siro;
 model::Anfitrion Oyente(std::vector<Hallazgo>& hallazgos)
 {
     const auto anota = [&hallazgos](const model::Mensaje& m) {
-        const Hallazgo h = checks::DeApertura(m.texto);
+        const Hallazgo h = checks::DeApertura(m);
         if (std::find(hallazgos.begin(), hallazgos.end(), h) == hallazgos.end()) hallazgos.push_back(h);
     };
     model::Anfitrion puerta;

@@ -54,6 +54,8 @@ std::string Linea(const Hallazgo& h)
     if (!h.cuanto.empty()) linea += " (" + h.cuanto + ")";
     linea += '.';
     if (!h.remedio.empty()) linea += " " + h.remedio;
+    for (char& c : linea)  // a name may hold a line break, a finding is one line
+        if (c == '\r' || c == '\n') c = ' ';
     return linea;
 }
 

@@ -69,16 +69,16 @@ std::string EnUnaLinea(std::string_view texto)
     return linea;
 }
 
-Hallazgo DeApertura(const std::string& texto)
+Hallazgo DeApertura(const model::Mensaje& mensaje)
 {
-    const std::string linea = EnUnaLinea(texto);
-    const bool error = linea.starts_with("Error");
-    return {error ? Gravedad::Error : Gravedad::Aviso,
-            200,
-            "",
-            "Al abrir el proyecto: " + linea,
-            "",
-            error ? "Restaure el archivo de una copia, o vuelva a cargar esos datos." : "Verifique."};
+    const std::string linea = EnUnaLinea(mensaje.texto);
+    Hallazgo h{Gravedad::Nota, 200, "", "Al abrir el proyecto: " + linea, "", "Verifique."};
+    if (mensaje.icono != model::Icono::Ninguno) h.gravedad = Gravedad::Aviso;
+    if (linea.starts_with("Error")) {
+        h.gravedad = Gravedad::Error;
+        h.remedio = "Restaure el archivo de una copia, o vuelva a cargar esos datos.";
+    }
+    return h;
 }
 
 void RevisaDirTrabajo(const model::Siro& s, std::vector<Hallazgo>& hallazgos)

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "checks/Hallazgo.h"
+#include "model/Anfitrion.h"
 #include "model/SiroDeclarado.h"
 
 // The check before a run: all that it would stop for or ask about, and what it would take without a word
@@ -14,8 +15,8 @@ namespace checks {
 /// [ha]; 0: not known. Reads nothing from the disk, changes nothing, asks nothing.
 std::vector<Hallazgo> Revisa(const model::Siro& s, double areaCuenca = 0);
 
-/// A host's word while the project was opened and loaded, as a finding.
-Hallazgo DeApertura(const std::string& texto);
+/// A box or question while the project was opened and loaded, as a finding: an error where it tells a fault.
+Hallazgo DeApertura(const model::Mensaje& mensaje);
 
 /// Whether a run's results could be put down in DirTrabajo, as far as that shows without writing.
 void RevisaDirTrabajo(const model::Siro& s, std::vector<Hallazgo>& hallazgos);

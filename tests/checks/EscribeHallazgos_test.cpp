@@ -20,6 +20,11 @@ TEST(EscribeHallazgos, LeavesOutThePartsThatAFindingHasNotGot)
     EXPECT_EQ("error 204 u-2: Sin longitud. Cárguela.", Linea(Tres[2]));
 }
 
+TEST(EscribeHallazgos, KeepsAFindingOnOneLine)
+{
+    EXPECT_EQ("nota 1 c- 2: Q.", Linea({.numero = 1, .componente = "c-\n2", .que = "Q"}));
+}
+
 TEST(EscribeHallazgos, CountsEachSeverityInTheLastLine)
 {
     EXPECT_EQ("2 errores, 1 aviso, 0 notas", Suma(Tres));
