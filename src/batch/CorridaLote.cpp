@@ -9,6 +9,7 @@
 #include <optional>
 #include <string_view>
 
+#include "batch/AvisosLote.h"
 #include "batch/ResultadosCsv.h"
 #include "batch/RevisaLote.h"
 #include "engine/mdlProceso1.h"
@@ -96,12 +97,14 @@ bool Muestra(const Salidas& salidas, const std::function<void()>& escribe)
     });
 }
 
-/// Runs what was settled. Returns whether the run went to its end.
-bool CorreOrden(Siro& s, const Opciones& o)
+/// Runs what was settled, and keeps the storm in hand as it was ahead of the run. Returns whether the run
+/// went to its end.
+bool CorreOrden(Siro& s, const Opciones& o, std::optional<model::Tormenta>& entrada)
 {
     AbreProyecto(s, RutaAbsoluta(o.conf));
     if (s.Proyecto.NombreProyecto.empty() || s.Proyecto.DirProyecto.empty()) return false;
     FijaTormenta(s, o);
+    entrada = s.Tormenta;
     if (o.orden == Opciones::Orden::Serie)
         return engine::CorreSeriePDR(s, o.hilos) == engine::FinSerie::Completa;
     return engine::CorreUnaTormenta(s);
@@ -118,6 +121,18 @@ bool GuardaResultados(Siro& s, const Opciones& o)
             GuardaCsvTormenta(s, RutaAbsoluta(o.resultados));
     };
     return model::Sentencia(guarda, model::AvisaArchivo(s));
+}
+
+/// Judges the run, where that was asked for and there was one. Whether it can be written changes nothing.
+void MuestraAvisos(const Siro& s, const std::optional<model::Tormenta>& entrada, const Opciones& o,
+                   const Salidas& salidas)
+{
+    if (!o.avisos || !entrada) return;
+    try {
+        Muestra(salidas, [&] { salidas.Estandar(InformeDeAvisos(s, *entrada, o)); });
+    } catch (const std::bad_alloc&) {
+        salidas.Errores("siro-lote: no hay memoria suficiente\n");
+    }
 }
 
 /// Does what was understood of a command line, or says why not, or how to call it.
@@ -202,8 +217,9 @@ int Corre(const Opciones& o, const std::string& dirEjecutable, const Salidas& sa
     bool completa = false, escritos = true;
     s.Disco = Vigilado(s.Disco, s.Proyecto.DirTrabajo, escritos);
     std::optional<int> fin;
+    std::optional<model::Tormenta> entrada;
     try {
-        completa = CorreOrden(s, o);
+        completa = CorreOrden(s, o, entrada);
     } catch (const model::FinDelPrograma& terminada) {
         fin = terminada.estado;
     } catch (const std::bad_alloc&) {
@@ -212,9 +228,12 @@ int Corre(const Opciones& o, const std::string& dirEjecutable, const Salidas& sa
     }
     anfitrion.BorraAvance();
     anfitrion.CuentaRepetidas();
-    if (fin) return *fin;
-    escritos = Muestra(salidas, [&] { anfitrion.MuestraPizarra(); }) && escritos;
-    return completa && escritos && GuardaResultados(s, o) ? EstadoCompleto : EstadoInterrumpido;
+    if (!fin) {
+        escritos = Muestra(salidas, [&] { anfitrion.MuestraPizarra(); }) && escritos;
+        fin = completa && escritos && GuardaResultados(s, o) ? EstadoCompleto : EstadoInterrumpido;
+    }
+    MuestraAvisos(s, entrada, o, salidas);
+    return *fin;
 }
 
 int Lote(int argc, const char* const* argv, const Salidas& salidas)

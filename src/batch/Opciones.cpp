@@ -36,6 +36,8 @@ CONF es el archivo <Proyecto>_Conf.vlm de un proyecto.
   --responde si|no        respuesta a toda pregunta (si)
   --hilos N               hilos de una serie, hasta 1024; 0: todos los núcleos (0)
   --resultados ARCHIVO    resultados en CSV
+  --avisos                avisos, balance de agua y huella de la corrida, en la salida estándar
+  --json                  lo de --avisos, en JSON
   --ayuda, --help         este texto
 
 Estado de salida: 0 la corrida llegó a su fin; 1 un control o la entrada dañada la terminó, o no se pudo
@@ -164,7 +166,7 @@ struct Palabras {
     std::array<std::string, Filas.size()> valores{};
     std::array<CLI::Option*, Filas.size()> opciones{};
     std::string conf{};
-    bool pizarra = false, json = false;
+    bool pizarra = false, avisos = false, json = false;
 };
 
 CLI::App* Orden(CLI::App& programa, const char* nombre, Palabras& p, int clase = DeCorrida)
@@ -174,10 +176,10 @@ CLI::App* Orden(CLI::App& programa, const char* nombre, Palabras& p, int clase =
     orden->add_option("CONF", p.conf);
     for (std::size_t i = 0; i < Filas.size(); ++i)
         if ((Filas[i].ordenes & clase) != 0) p.opciones[i] = orden->add_option(Filas[i].nombre, p.valores[i]);
-    if (clase == DeCorrida)
-        orden->add_flag("--pizarra", p.pizarra);
-    else
-        orden->add_flag("--json", p.json);
+    orden->add_flag("--json", p.json);
+    if (clase != DeCorrida) return orden;
+    orden->add_flag("--pizarra", p.pizarra);
+    orden->add_flag("--avisos", p.avisos);
     return orden;
 }
 
@@ -195,7 +197,7 @@ std::string MotivoDe(const CLI::ParseError& error, const CLI::App& programa)
     if (!sobran.empty()) return "No se esperaba " + sobran.front();
     if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr) return "Falta la orden: una o serie";
     const std::string opcion = OpcionNombrada(error.what());
-    if (opcion == "--pizarra" || opcion == "--json" || opcion == "--help")
+    if (opcion == "--pizarra" || opcion == "--avisos" || opcion == "--json" || opcion == "--help")
         return "La opción " + opcion + " no lleva valor";
     return "La opción " + opcion + " lleva un valor, y una sola vez";
 }
@@ -207,7 +209,9 @@ Lectura Entiende(const Palabras& p, Opciones o)
         return {{}, p.conf + " no termina en " + std::string(model::TerminacionConf)};
     o.conf = p.conf;
     o.pizarra = p.pizarra;
+    o.avisos = p.avisos;
     o.json = p.json;
+    if (o.orden != Opciones::Orden::Revisa && o.json && !o.avisos) return {{}, "--json va con --avisos"};
     for (std::size_t i = 0; i < Filas.size(); ++i) {
         if (p.opciones[i] == nullptr || p.opciones[i]->count() == 0) continue;
         try {

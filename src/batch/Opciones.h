@@ -27,6 +27,7 @@ struct Opciones {
     std::string tormenta{};         ///< file name of the real storm, in the project's directory
     std::int16_t tabla = 0;         ///< P-D-R table 0..3
     bool pizarra = false;           ///< the Slate is on
+    bool avisos = false;            ///< the findings of the run are written
     bool respondeSi = true;         ///< answer to every question
     int hilos = 0;                  ///< threads of a series, 1024 at most; 0: all cores
     std::string resultados{};       ///< path of the CSV file; empty: none

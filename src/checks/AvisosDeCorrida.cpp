@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include "checks/Rebose.h"
 #include "engine/Muskingum.h"
 #include "hydraulics/mdlFQs.h"
 #include "model/Avisos.h"
@@ -109,50 +110,10 @@ void CadaEmbalse(const Caso& caso, auto&& hace)
             hace(comp, *comp.embalse);
 }
 
-/// Water above a table [m3]: the most there was, and the step at which it began; nothing where there was
-/// none.
-struct Rebose {
-    int desde = 0;
-    double volumen = 0;
-    double altura = 0;  ///< [m]
-};
-
-/// A level pool never leaves its table: what its balance puts above the top is held there, unseen.
-std::optional<Rebose> ReboseDePiscina(const Corrido& c, const ComponenteCorrido& comp)
-{
-    const EmbalseCorrido& e = *comp.embalse;
-    const std::vector<double> S = AlmacenadoPorBalance(c, comp);
-    const double tope = e.Almacenamiento(e.Tope()), area = e.Superficie(e.Tope());
-    const double margen = Valor(Umbral::AlturaDeTope) * area + 1e-6 * tope;
-    const auto primero = std::find_if(S.begin(), S.end(), [&](double s) { return s > tope + margen; });
-    if (primero == S.end()) return {};
-    const double volumen = *std::max_element(primero, S.end()) - tope;
-    return Rebose{static_cast<int>(primero - S.begin()), volumen, area > 0 ? volumen / area : 0};
-}
-
-/// Runge-Kutta goes above the table and stands still there, without area nor outflow: all that enters is
-/// lost.
-std::optional<Rebose> ReboseDeRungeKutta(const Corrido& c, const ComponenteCorrido& comp)
-{
-    const EmbalseCorrido& e = *comp.embalse;
-    const float* H = e.H.Fila(e.tablas.numero);
-    const float* fin = H + c.UltimoPaso() + 1;
-    const auto encima = [&](float h) { return h > e.Tope() + Valor(Umbral::AlturaDeTope); };
-    const float* primero = std::find_if(H, fin, encima);
-    if (primero == fin) return {};
-    const auto k = static_cast<std::size_t>(primero - H);
-    const std::vector<double> S = AlmacenadoPorBalance(c, comp);
-    const double mayor = *std::max_element(S.begin() + static_cast<std::ptrdiff_t>(k), S.end());
-    return Rebose{static_cast<int>(k), mayor - S[k > 0 ? k - 1 : 0],
-                  double{*std::max_element(primero, fin)} - e.Tope()};
-}
-
 void AguaSobreLaTabla(const Caso& caso, const Anota& anota)
 {
     CadaEmbalse(caso, [&](const ComponenteCorrido& comp, const EmbalseCorrido& e) {
-        std::optional<Rebose> rebose;
-        if (e.metodo == MetodoEmbalse::Piscina) rebose = ReboseDePiscina(caso.c, comp);
-        if (e.metodo == MetodoEmbalse::RungeKutta) rebose = ReboseDeRungeKutta(caso.c, comp);
+        const auto rebose = ReboseDe(caso.c, comp, Valor(Umbral::AlturaDeTope));
         if (!rebose) return;
         const double entra = caso.c.Volumen(caso.c.r().QEntra, comp.fila, 1, caso.c.UltimoPaso());
         anota(comp.nombre,

@@ -76,6 +76,13 @@ TEST_P(OpcionesBuenas, CambianSoloLoSuyo)
 
 const CasoBueno CasosBuenos[] = {
     {"Serie", {"serie", Conf}, [](Opciones& o) { o.orden = Opciones::Orden::Serie; }},
+    {"Avisos", {"una", Conf, "--avisos"}, [](Opciones& o) { o.avisos = true; }},
+    {"AvisosEnJson",
+     {"serie", Conf, "--json", "--avisos"},
+     [](Opciones& o) {
+         o.orden = Opciones::Orden::Serie;
+         o.avisos = o.json = true;
+     }},
     {"OpcionesAntesDeConf", {"una", "--dur", "90", Conf}, [](Opciones& o) { o.dur = 90; }},
     {"ConIgual", {"una", Conf, "--dur=90"}, [](Opciones& o) { o.dur = 90; }},
     {"Trabajo", {"una", Conf, "--trabajo", "a b/ñ"}, [](Opciones& o) { o.trabajo = "a b/ñ"; }},
@@ -201,6 +208,7 @@ const CasoMalo CasosMalos[] = {
     {"PpUEHTexto", {"una", Conf, "--pp-ueh", "1,x"}, "--pp-ueh"},
     {"Tabla4", {"serie", Conf, "--tabla", "4"}, "--tabla"},
     {"RespondeOtraCosa", {"una", Conf, "--responde", "tal vez"}, "--responde"},
+    {"JsonSinAvisos", {"una", Conf, "--json"}, "--json"},
     {"HilosNegativos", {"serie", Conf, "--hilos", "-1"}, "--hilos"},
     {"HilosDeMas", {"serie", Conf, "--hilos", "1025"}, "--hilos"},
     {"HilosFraccion", {"serie", Conf, "--hilos", "1.5"}, "--hilos"},
@@ -228,7 +236,7 @@ TEST(Opciones, ElUsoNombraTodasLasOpciones)
     const std::string uso(batch::Uso());
     for (const char* opcion : {"una ", "serie ", "--trabajo", "--forma", "--pp ", "--dur", "--rec",
                                "--distribucion", "--paso-pp", "--paso-q", "--pp-ueh", "--tormenta", "--tabla",
-                               "--pizarra", "--responde", "--hilos", "--resultados"})
+                               "--pizarra", "--responde", "--hilos", "--resultados", "--avisos", "--json"})
         EXPECT_NE(uso.find(opcion), std::string::npos) << opcion;
     EXPECT_EQ(uso.back(), '\n');
     EXPECT_EQ(uso.find('\r'), std::string::npos);
