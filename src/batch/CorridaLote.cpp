@@ -12,6 +12,7 @@
 #include "batch/AvisosLote.h"
 #include "batch/ResultadosCsv.h"
 #include "batch/RevisaLote.h"
+#include "batch/Verbos.h"
 #include "engine/mdlProceso1.h"
 #include "engine/mdlSeriePDR.h"
 #include "engine/modProceso0.h"
@@ -236,8 +237,15 @@ int Corre(const Opciones& o, const std::string& dirEjecutable, const Salidas& sa
     return *fin;
 }
 
+bool Muestra(const Salidas& salidas, std::string_view texto)
+{
+    return Muestra(salidas, [&] { salidas.Estandar(texto); });
+}
+
 int Lote(int argc, const char* const* argv, const Salidas& salidas)
 {
+    if (const VerboSinCorrida* verbo = VerboDe(argc, argv))
+        return CorreVerbo(*verbo, {argv + 2, static_cast<std::size_t>(argc - 2)}, salidas);
     const std::string dir = DirectorioDelEjecutable(argc > 0 ? argv[0] : "");
     for (const Verbo& v : Verbos)
         if (argc > 1 && v.palabra == argv[1]) return v.hace(argc, argv, dir, salidas);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "batch/AnfitrionLote.h"
 #include "batch/Opciones.h"
@@ -22,6 +23,9 @@ int Lote(int argc, const char* const* argv, const Salidas& salidas);
 /// the CSV. Where the options name no DirTrabajo it is the program's own directory, by `dirEjecutable`.
 /// Returns the exit status.
 int Corre(const Opciones& opciones, const std::string& dirEjecutable, const Salidas& salidas);
+
+/// Writes a text to standard output. Returns whether that went well; a fault is told.
+bool Muestra(const Salidas& salidas, std::string_view texto);
 
 /// Opens the project of a configuration file given by its absolute path, as the menu's Open does, and reads
 /// its configuration. The last project that the desktop remembers stays what it is.

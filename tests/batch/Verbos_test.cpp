@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "batch/Verbos.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "batch/CorridaLote.h"
+#include "checks/Verifica.h"
+#include "model/Falla.h"
+
+namespace {
+
+struct Respuesta {
+    int estado = 0;
+    std::string estandar{}, errores{};
+};
+
+Respuesta Lote(std::vector<const char*> palabras, bool seEscribe = true)
+{
+    palabras.insert(palabras.begin(), "siro-lote");
+    Respuesta r;
+    batch::Salidas salidas;
+    salidas.Estandar = [&](std::string_view texto) {
+        if (!seEscribe) throw model::Falla{model::NumeroFalla::AccesoRuta};
+        r.estandar += texto;
+    };
+    salidas.Errores = [&](std::string_view texto) { r.errores += texto; };
+    r.estado = batch::Lote(static_cast<int>(palabras.size()), palabras.data(), salidas);
+    return r;
+}
+
+TEST(Verifica, MuestraElTextoOElJson)
+{
+    const std::vector<checks::Caso> casos = checks::Verifica();
+    const Respuesta texto = Lote({"verifica"}), json = Lote({"verifica", "--json"});
+    EXPECT_EQ(texto.estado, batch::EstadoCompleto);
+    EXPECT_EQ(texto.estandar, checks::TextoDeVerifica(casos));
+    EXPECT_EQ(texto.errores, "");
+    EXPECT_EQ(json.estado, batch::EstadoCompleto);
+    EXPECT_EQ(json.estandar, checks::JsonDeVerifica(casos));
+}
+
+TEST(Verifica, UnaPalabraDeMasEsUnError)
+{
+    const Respuesta r = Lote({"verifica", "--jason"});
+    EXPECT_EQ(r.estado, batch::EstadoOrdenErronea);
+    EXPECT_EQ(r.estandar, "");
+    EXPECT_TRUE(r.errores.starts_with("siro-lote: No se esperaba --jason\n\nUso: siro-lote verifica "))
+        << r.errores;
+}
+
+TEST(Verifica, MuestraSuUso)
+{
+    for (const char* ayuda : {"--help", "-h", "--ayuda"}) {
+        const Respuesta r = Lote({"verifica", ayuda});
+        EXPECT_EQ(r.estado, batch::EstadoCompleto);
+        EXPECT_TRUE(r.estandar.starts_with("Uso: siro-lote verifica [--json]\n")) << r.estandar;
+    }
+}
+
+TEST(Verifica, LoQueNoSePuedeEscribirSeDice)
+{
+    const Respuesta r = Lote({"verifica"}, false);
+    EXPECT_EQ(r.estado, batch::EstadoInterrumpido);
+    EXPECT_EQ(r.errores, "siro-lote: no se puede escribir en la salida estándar\n");
+}
+
+TEST(Verbos, UnaYSerieNoSonDeEstos)
+{
+    const std::vector<const char*> una{"siro-lote", "una"}, nada{"siro-lote"},
+        parecido{"siro-lote", "verificar"};
+    EXPECT_EQ(batch::VerboDe(2, una.data()), nullptr);
+    EXPECT_EQ(batch::VerboDe(1, nada.data()), nullptr);
+    EXPECT_EQ(batch::VerboDe(2, parecido.data()), nullptr);
+    EXPECT_EQ(Lote({"verificar"}).estado, batch::EstadoOrdenErronea);
+}
+
+}  // namespace
