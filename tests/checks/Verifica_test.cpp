@@ -102,8 +102,7 @@ TEST(TextoDeVerifica, CuentaLosQueEstanFuera)
     EXPECT_FALSE(casos[0].Fuera());  // the tolerance itself is within
     EXPECT_TRUE(casos[1].Fuera());
     const std::string texto = TextoDeVerifica(casos);
-    EXPECT_TRUE(Contiene(texto, " 2  Uno            3        3.75        0.75         0.5  FUERA\n"))
-        << texto;
+    EXPECT_TRUE(Contiene(texto, " 2  Uno           3        3.75        0.75         0.5  FUERA\n")) << texto;
     EXPECT_TRUE(Contiene(texto, "2 cifras; la peor en tiempo [min] = 20\n")) << texto;
     EXPECT_TRUE(Contiene(texto, "recalculada, no está impresa en la fuente\n")) << texto;
     EXPECT_TRUE(texto.ends_with("\n2 casos, 1 fuera de tolerancia\n")) << texto;

@@ -124,7 +124,7 @@ constexpr auto Filas = std::to_array<FilaDeCaso>({
      Minutos, 0.003, PorqueTercero, true, [] { return ConLaContinua(Vertedero, RungeKutta, 5); }},
     {"Orden de Muskingum con x = 0", FuenteLineal, EntradaOrden, Razon, Paso, 0.4, PorqueRazon, true,
      [] { return Orden(Lineal, Muskingum, 4); }},
-    {"Orden de la piscina nivelada", FuenteLineal, EntradaOrden, Razon, Paso, 0.8, PorqueRazon, true,
+    {"Orden de la piscina nivelada", FuenteLineal, EntradaOrden, Razon, Paso, 0.4, PorqueRazon, true,
      [] { return Orden(Lineal, Piscina, 4); }},
     {"Orden de Runge-Kutta", FuenteLineal, EntradaOrden, Razon, Paso, 1.2, PorqueRazon, true,
      [] { return Orden(Lineal, RungeKutta, 8); }},
