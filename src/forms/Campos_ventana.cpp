@@ -53,7 +53,7 @@ Campos::Campo* Campos::Busca(const QObject* objeto)
 
 bool Campos::Revisa(Campo campo)
 {
-    dejado = nullptr;
+    std::erase(pendientes, campo.control);
     revisando = true;
     bool pasa = false;
     entorno.Atiende([&] { pasa = campo.revisa(); });
@@ -70,33 +70,47 @@ bool Campos::Revisa(Campo campo)
 
 bool Campos::Compromete()
 {
-    if (revisando) return false;
-    if (Campo* const campo = Busca(dejado); campo != nullptr && !Revisa(*campo)) return false;
+    if (revisando || !RevisaDejados()) return false;
     Campo* const enMano = Busca(QApplication::focusWidget());
     return enMano == nullptr || Revisa(*enMano);
 }
 
-void Campos::RevisaDejado()
+/// In their order, but the one that has the focus, up to the first that is refused.
+bool Campos::RevisaDejados()
 {
-    if (revisando || dejado.isNull()) return;
-    if (QApplication::mouseButtons() != Qt::NoButton) {
-        QTimer::singleShot(EsperaDelRaton, this, [this] { RevisaDejado(); });
-        return;
+    const auto dejado = [](const QPointer<QWidget>& control) {
+        return control != QApplication::focusWidget();
+    };
+    for (auto uno = std::ranges::find_if(pendientes, dejado); uno != pendientes.end();
+         uno = std::ranges::find_if(pendientes, dejado)) {
+        Campo* const campo = Busca(*uno);
+        pendientes.erase(uno);
+        if (campo != nullptr && campo->control->isVisible() && !Revisa(*campo)) return false;
     }
-    if (Campo* const campo = Busca(dejado); campo != nullptr && campo->control->isVisible()) Revisa(*campo);
+    return true;
+}
+
+void Campos::RevisaMasTarde(int espera)
+{
+    QTimer::singleShot(espera, this, [this] {
+        if (revisando) return;
+        if (QApplication::mouseButtons() != Qt::NoButton)
+            RevisaMasTarde(EsperaDelRaton);
+        else
+            RevisaDejados();
+    });
 }
 
 bool Campos::eventFilter(QObject* objeto, QEvent* evento)
 {
     if (revisando || entorno.Terminando()) return QObject::eventFilter(objeto, evento);
-    if (evento->type() == QEvent::FocusOut && EsSalida(*static_cast<QFocusEvent*>(evento))) {
-        if (Campo* const campo = Busca(objeto)) {
-            dejado = campo->control;
-            // Queued: a box inside a change of focus would swallow the click that caused it.
-            QTimer::singleShot(0, this, [this] { RevisaDejado(); });
-        }
+    const bool sale = evento->type() == QEvent::FocusOut && EsSalida(*static_cast<QFocusEvent*>(evento));
+    if (Campo* const campo = sale || evento->type() == QEvent::KeyPress ? Busca(objeto) : nullptr) {
+        if (std::ranges::find(pendientes, campo->control) == pendientes.end())
+            pendientes.push_back(campo->control);
+        // Queued: a box inside a change of focus would swallow the click that caused it.
+        if (sale) RevisaMasTarde(0);
     }
-    if (evento->type() == QEvent::FocusIn && objeto == dejado) dejado = nullptr;
     return QObject::eventFilter(objeto, evento);
 }
 

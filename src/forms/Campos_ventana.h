@@ -23,12 +23,12 @@ class Campos : public QObject {
     /// What is to be done whenever a check has passed or refused: the window shows its record anew.
     std::function<void()> AlRevisar = [] {};
 
-    /// Checks the field that was just left, then the one that has the focus: commands begin with it. Returns
-    /// false where a text is refused; the command then isn't carried out.
+    /// Checks the fields that were just left, then the one that has the focus: commands begin with it.
+    /// Returns false where a text is refused; the command then isn't carried out.
     bool Compromete();
 
     /// Forgets a leaving that hasn't been checked yet: the window closes without looking at its fields.
-    void Olvida() { dejado = nullptr; }
+    void Olvida() { pendientes.clear(); }
 
     bool eventFilter(QObject* objeto, QEvent* evento) override;
 
@@ -39,11 +39,14 @@ class Campos : public QObject {
     };
     Campo* Busca(const QObject* objeto);
     bool Revisa(Campo campo);
-    void RevisaDejado();
+    bool RevisaDejados();
+    void RevisaMasTarde(int espera);
 
     Entorno& entorno;
     std::vector<Campo> campos;
-    QPointer<QWidget> dejado;  ///< left and not checked yet
+    /// Typed in or left, and not checked yet, in their order. A busy machine hands over the keys of several
+    /// fields at once, some before it has told of the focus.
+    std::vector<QPointer<QWidget>> pendientes{};
     bool revisando = false;
 };
 

@@ -34,6 +34,7 @@ struct Prueba : Formulario {
             w->setParent(nullptr);
     }
     void Muestra() override { ++mostradas; }
+    bool Compromete() { return campos.Compromete(); }
     bool Revisa(QLineEdit& campo, const char* nombre)
     {
         revisados.emplace_back(nombre);
@@ -66,6 +67,42 @@ TEST_F(CamposDePrueba, AlSalirConTabSeRevisaUnaVezYElFocoSigue)
     EXPECT_EQ(f.revisados, std::vector<std::string>{"uno"});
     EXPECT_TRUE(f.dos.hasFocus());
     EXPECT_EQ(f.mostradas, 1);
+}
+
+// A busy machine hands over several keys at once: none of the fields that were left meanwhile is passed over.
+TEST_F(CamposDePrueba, DosCamposDejadosDeUnaVezSeRevisanLosDos)
+{
+    f.uno.setText(QStringLiteral("12"));
+    f.dos.setFocus();
+    f.dos.setText(QStringLiteral("34"));
+    f.acepta.setFocus();
+    EXPECT_TRUE(apoyo::Espera([&] { return !f.revisados.empty(); }));
+    EXPECT_EQ(f.revisados, (std::vector<std::string>{"uno", "dos"}));
+}
+
+TEST_F(CamposDePrueba, ElPrimeroQueSeRechazaGuardaElFocoYElDeDespuesEspera)
+{
+    f.uno.setText(QStringLiteral("100"));
+    f.dos.setFocus();
+    f.dos.setText(QStringLiteral("34"));
+    f.acepta.setFocus();
+    EXPECT_TRUE(apoyo::Espera([&] { return f.uno.hasFocus() && !f.revisados.empty(); }));
+    EXPECT_EQ(f.revisados, std::vector<std::string>{"uno"});
+    f.uno.setText(QStringLiteral("99"));
+    EXPECT_TRUE(f.Compromete());
+    EXPECT_EQ(f.revisados, (std::vector<std::string>{"uno", "dos", "uno"}));
+}
+
+// Keys that come before the window has been told of its focus reach the field all the same.
+TEST_F(CamposDePrueba, LoTecleadoEnUnCampoSinFocoSeRevisaConElMandoQueSigue)
+{
+    f.acepta.setFocus();
+    QTest::qWait(50);
+    f.revisados.clear();
+    QTest::keyClicks(&f.dos, QStringLiteral("100"));
+    EXPECT_FALSE(f.Compromete());
+    EXPECT_EQ(f.revisados, std::vector<std::string>{"dos"});
+    EXPECT_TRUE(f.dos.hasFocus());
 }
 
 TEST_F(CamposDePrueba, UnTextoRechazadoConservaElFocoConTodoSeleccionado)
