@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "apoyo/Compara.h"
+#include "model/Camino.h"
 #include "model/Disco.h"
 #include "model/RutaProyecto.h"
 
@@ -38,17 +39,20 @@ class ProyectoDePrueba {
     [[nodiscard]] const std::string& Dir() const { return dir; }
     [[nodiscard]] std::string Ruta(std::string_view nombre) const { return model::Ruta(dir, nombre); }
     [[nodiscard]] std::string Conf() const { return Ruta("Mio_Conf.vlm"); }
-    [[nodiscard]] bool Esta(std::string_view nombre) const { return std::filesystem::exists(Ruta(nombre)); }
+    [[nodiscard]] bool Esta(std::string_view nombre) const
+    {
+        return std::filesystem::exists(model::Camino(Ruta(nombre)));
+    }
 
     void Escribe(std::string_view nombre, std::string_view bytes) const
     {
-        std::ofstream archivo(Ruta(nombre), std::ios::binary);
+        std::ofstream archivo(model::Camino(Ruta(nombre)), std::ios::binary);
         archivo.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
         if (!archivo.flush()) throw std::runtime_error("can't write " + Ruta(nombre));
     }
     [[nodiscard]] std::string Lee(std::string_view nombre) const
     {
-        std::ifstream archivo(Ruta(nombre), std::ios::binary);
+        std::ifstream archivo(model::Camino(Ruta(nombre)), std::ios::binary);
         if (!archivo) throw std::runtime_error("can't read " + Ruta(nombre));
         return {std::istreambuf_iterator<char>(archivo), {}};
     }

@@ -3,9 +3,10 @@
 // The disk as Windows has it: names in UTF-16, in capitals or not, files that another program holds.
 
 #include <gtest/gtest.h>
-// clang-format off: the other can't do without the first
-#include <sddl.h>
+// The other can't do without the first.
+// clang-format off
 #include <windows.h>
+#include <sddl.h>
 // clang-format on
 
 #include <aclapi.h>
@@ -61,6 +62,15 @@ struct Abierto {
     HANDLE manija;
 };
 
+bool SeAbreParaEscribir(const std::string& ruta)
+{
+    const HANDLE manija =
+        CreateFileW(Ancho(ruta).c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+    if (manija == INVALID_HANDLE_VALUE) return false;
+    CloseHandle(manija);
+    return true;
+}
+
 TEST_F(DiscoDeWindows, ConNombresDeCualquierLetra)
 {
     const std::string carpetaRara = En("Ñandú – Проект 河 😀");
@@ -101,12 +111,15 @@ TEST_F(DiscoDeWindows, LosDeSoloLecturaQuedanYSeDicePorQue)
     SetFileAttributesW(Ancho(En("a")).c_str(), FILE_ATTRIBUTE_READONLY);
     const Falla esperada{NumeroFalla::AccesoRuta, SoloLectura};
     EXPECT_EQ(FallaQueDa([&] { disco.Reemplaza({{En("b"), "x"}, {En("a"), "x"}}); }), esperada);
-    EXPECT_EQ(FallaQueDa([&] { Pon("a", "x"); }), esperada);
-    EXPECT_EQ(FallaQueDa([&] { disco.Agrega(En("a"), "x"); }), esperada);
     EXPECT_EQ(FallaQueDa([&] { disco.Borra(En("a")); }), esperada);
     EXPECT_EQ(Lee("a"), "viejo");
     EXPECT_EQ(Lee("b"), "otro");
     EXPECT_EQ(disco.Lista(raiz).size(), 2U) << "a temporary is left";
+    // Wine leaves it to the disk under it, where an administrator may write all.
+    if (!SeAbreParaEscribir(En("a"))) {
+        EXPECT_EQ(FallaQueDa([&] { Pon("a", "x"); }), esperada);
+        EXPECT_EQ(FallaQueDa([&] { disco.Agrega(En("a"), "x"); }), esperada);
+    }
     SetFileAttributesW(Ancho(En("a")).c_str(), FILE_ATTRIBUTE_NORMAL);
     disco.Reemplaza({{En("a"), "nuevo"}});
     EXPECT_EQ(Lee("a"), "nuevo");

@@ -36,17 +36,24 @@ class DeWindows:
         for raiz, _, nombres in os.walk(carpeta):
             for nombre in nombres:
                 if nombre.endswith("_Conf.vlm"):
-                    self._cambia(os.path.join(raiz, nombre), b'""\r\n"' + self.aqui, b'"%s"\r\n"%s' % (UNIDAD, self.alla))
+                    self._cambia(os.path.join(raiz, nombre))
 
-    @staticmethod
-    def _cambia(ruta, antes, ahora):
+    def _cambia(self, ruta):
         with open(ruta, "rb") as archivo:
             datos = archivo.read()
         with open(ruta, "wb") as archivo:
-            archivo.write(datos.replace(antes, ahora))
+            archivo.write(
+                re.sub(
+                    rb'""(\r?\n)"' + re.escape(self.aqui),
+                    lambda m: b'"%s"%s"%s' % (UNIDAD, m[1], self.alla),
+                    datos,
+                )
+            )
 
     def trae(self, datos):
-        datos = datos.replace(b'"%s"\r\n"%s' % (UNIDAD, self.alla), b'""\r\n"' + self.aqui)
+        datos = re.sub(
+            b'"%s"(\\r?\\n)"%s' % (UNIDAD, re.escape(self.alla)), lambda m: b'""%s"%s' % (m[1], self.aqui), datos
+        )
         return re.sub(
             re.escape(self.alla) + rb'((?:\\[^\\\r\n"]+)*)', lambda m: self.aqui + m[1].replace(b"\\", b"/"), datos
         )
