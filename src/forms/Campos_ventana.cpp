@@ -92,7 +92,9 @@ bool Campos::RevisaDejados()
 
 void Campos::RevisaMasTarde(int espera)
 {
+    if (std::exchange(citado, true)) return;
     QTimer::singleShot(espera, this, [this] {
+        citado = false;
         if (revisando) return;
         if (QApplication::mouseButtons() != Qt::NoButton)
             RevisaMasTarde(EsperaDelRaton);

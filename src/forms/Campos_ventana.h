@@ -47,7 +47,7 @@ class Campos : public QObject {
     /// Typed in or left, and not checked yet, in their order. A busy machine hands over the keys of several
     /// fields at once, some before it has told of the focus.
     std::vector<QPointer<QWidget>> pendientes{};
-    bool revisando = false;
+    bool revisando = false, citado = false;
 };
 
 }  // namespace forms
