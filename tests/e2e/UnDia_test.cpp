@@ -520,9 +520,13 @@ class UnDia : public e2e::EscritorioDePrueba {
         pantalla->EsperaA("the project to be open", [&] { return fs::exists(puntero); });
         const std::map<std::string, std::string> antes = Guardados("Arroyo1");
         ASSERT_EQ(antes.size(), 4U);
-        pantalla->Teclas({"ctrl+shift+s"});
         const char* const titulo = "Cuardar Como...(copia el proyecto actual con otro nombre)";
-        pantalla->EsperaVentana(titulo);
+        // A moment later still the menu's entry wakes up: until then its keys say nothing.
+        pantalla->EsperaA("the name of the copy", [&] {
+            if (pantalla->Activa() == titulo) return true;
+            pantalla->Teclas({"ctrl+shift+s"});
+            return false;
+        });
         pantalla->Teclea("Variante");
         Acepta(titulo);
         Acepta("SIRO");  // its configuration; then its network
