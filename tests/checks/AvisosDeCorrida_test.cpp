@@ -219,7 +219,7 @@ const CasoDeAviso Casos[] = {
 };
 
 INSTANTIATE_TEST_SUITE_P(Reglas, CadaAviso, testing::ValuesIn(Casos),
-                         [](const auto& info) { return std::string(info.param.nombre); });
+                         [](const auto& caso) { return std::string(caso.param.nombre); });
 
 // Two slow reaches of Muskingum, and the 10 min that a new project adds: the outlet rises to the end of the
 // run.
