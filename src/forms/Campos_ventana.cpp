@@ -85,7 +85,11 @@ bool Campos::RevisaDejados()
          uno = std::ranges::find_if(pendientes, dejado)) {
         Campo* const campo = Busca(*uno);
         pendientes.erase(uno);
-        if (campo != nullptr && campo->control->isVisible() && !Revisa(*campo)) return false;
+        // On a page that was turned over meanwhile it still counts; put away by its form, or with it, no
+        // more.
+        const bool cuenta =
+            campo != nullptr && !campo->control->isHidden() && campo->control->window()->isVisible();
+        if (cuenta && !Revisa(*campo)) return false;
     }
     return true;
 }

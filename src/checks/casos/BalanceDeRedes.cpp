@@ -65,8 +65,11 @@ class RedAlAzar {
   private:
     void PonUEH(const std::string& destino)
     {
-        banco.PonUEH(destino, azar.Real(50, 300), azar.Entero(5, 90)).RetensionZ =
-            static_cast<float>(azar.Real(0, 10));  // and no infiltration, so that the excess is known
+        // One draw a statement: compilers take the arguments of a call in orders of their own.
+        const double retencion = azar.Real(0, 10);  // and no infiltration, so that the excess is known
+        const double area = azar.Real(50, 300);
+        const int minutos = azar.Entero(5, 90);
+        banco.PonUEH(destino, area, minutos).RetensionZ = static_cast<float>(retencion);
     }
     void PonCauce(const std::string& destino)
     {
