@@ -188,8 +188,8 @@ std::uint64_t PotenciaEntera(std::uint64_t m, int n, int bits)
 RC_GTEST_PROP(PotenciaRedondeada, PotenciasEnterasHastaElEmpate, ())
 {
     const int n = *rc::gen::inRange(1, 35);
-    const auto mayor = static_cast<int>(std::exp2(54.0 / n));
-    const auto m = static_cast<std::uint64_t>(*rc::gen::inRange(2, std::min(mayor, 1 << 30) + 1));
+    const auto mayor = static_cast<int>(std::exp2(std::min(54.0 / n, 30.0)));
+    const auto m = static_cast<std::uint64_t>(*rc::gen::inRange(2, mayor + 1));
     const std::uint64_t p = PotenciaEntera(m, n, 54);
     RC_PRE(p != 0U);
     const int doses = *rc::gen::inRange(-1000 / n, 900 / n);
