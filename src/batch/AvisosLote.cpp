@@ -9,6 +9,7 @@
 #include "checks/AvisosDeSerie.h"
 #include "checks/EscribeHallazgos.h"
 #include "checks/Huella.h"
+#include "checks/Json.h"
 #include "engine/Calcula.h"
 #include "model/Numeros.h"
 #include "model/Siro.h"
@@ -29,16 +30,15 @@ struct Informe {
 struct ColumnaBalance {
     std::string_view clave, rotulo;
     double (*valor)(const RenglonBalance& b);
-    int decimales;
 };
 
 constexpr auto Columnas = std::to_array<ColumnaBalance>({
-    {"entra", "entra", [](const RenglonBalance& b) { return b.entra; }, 0},
-    {"sale", "sale", [](const RenglonBalance& b) { return b.sale; }, 0},
-    {"perdido", "se retiene o infiltra", [](const RenglonBalance& b) { return b.perdido; }, 0},
-    {"almacenado", "se almacena", [](const RenglonBalance& b) { return b.almacenado; }, 0},
-    {"cortado", "corta el final", [](const RenglonBalance& b) { return b.cortado; }, 0},
-    {"error", "error", [](const RenglonBalance& b) { return b.Error(); }, 0},
+    {"entra", "entra", [](const RenglonBalance& b) { return b.entra; }},
+    {"sale", "sale", [](const RenglonBalance& b) { return b.sale; }},
+    {"perdido", "se retiene o infiltra", [](const RenglonBalance& b) { return b.perdido; }},
+    {"almacenado", "se almacena", [](const RenglonBalance& b) { return b.almacenado; }},
+    {"cortado", "corta el final", [](const RenglonBalance& b) { return b.cortado; }},
+    {"error", "error", [](const RenglonBalance& b) { return b.Error(); }},
 });
 
 std::string Cifra(double x, int decimales)
@@ -54,16 +54,14 @@ std::string EnTexto(const RenglonBalance& b)
         linea.append(&c == Columnas.data() ? ": " : ", ")
             .append(c.rotulo)
             .append(" ")
-            .append(Cifra(c.valor(b), c.decimales))
+            .append(Cifra(c.valor(b), 0))
             .append(" m3");
-    return linea + " (" + Cifra(b.PorCiento(), 3) + " %)\n";
+    return checks::EnUnRenglon(linea + " (" + Cifra(b.PorCiento(), 3) + " %)") + "\n";
 }
 
-// Names hold neither quotes nor control characters: no file can.
 std::string EnJson(const RenglonBalance& b)
 {
-    std::string objeto = "{\"componente\": \"";
-    objeto.append(b.componente).append("\"");
+    std::string objeto = "{\"componente\": " + checks::Citado(b.componente);
     for (const ColumnaBalance& c : Columnas)
         objeto.append(", \"").append(c.clave).append("\": ").append(Cifra(c.valor(b), 3));
     return objeto + ", \"errorPorCiento\": " + Cifra(b.PorCiento(), 6) + "}";

@@ -2,6 +2,9 @@
 #include "checks/EscribeHallazgos.h"
 
 #include <algorithm>
+#include <utility>
+
+#include "checks/Json.h"
 
 namespace checks {
 
@@ -14,22 +17,6 @@ std::string Cuantos(std::span<const Hallazgo> hallazgos, Gravedad gravedad)
     const std::string nombre(Nombre(gravedad));
     if (n == 1) return "1 " + nombre;
     return std::to_string(n) + " " + nombre + (gravedad == Gravedad::Error ? "es" : "s");
-}
-
-std::string Citado(std::string_view texto)
-{
-    constexpr std::string_view Hexa = "0123456789abcdef";
-    std::string citado = "\"";
-    for (const char c : texto) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (c == '"' || c == '\\')
-            (citado += '\\') += c;
-        else if (byte < 0x20)
-            ((citado += "\\u00") += Hexa[byte >> 4]) += Hexa[byte & 15];
-        else
-            citado += c;
-    }
-    return citado += '"';
 }
 
 std::string Objeto(const Hallazgo& h)
@@ -45,6 +32,13 @@ std::string Objeto(const Hallazgo& h)
 
 }  // namespace
 
+std::string EnUnRenglon(std::string texto)
+{
+    for (char& c : texto)
+        if (c == '\r' || c == '\n') c = ' ';
+    return texto;
+}
+
 std::string Linea(const Hallazgo& h)
 {
     std::string linea(Nombre(h.gravedad));
@@ -54,9 +48,7 @@ std::string Linea(const Hallazgo& h)
     if (!h.cuanto.empty()) linea += " (" + h.cuanto + ")";
     linea += '.';
     if (!h.remedio.empty()) linea += " " + h.remedio;
-    for (char& c : linea)  // a name may hold a line break, a finding is one line
-        if (c == '\r' || c == '\n') c = ' ';
-    return linea;
+    return EnUnRenglon(std::move(linea));
 }
 
 std::string Suma(std::span<const Hallazgo> hallazgos, std::string_view sinNada)

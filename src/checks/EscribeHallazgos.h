@@ -10,6 +10,9 @@
 // Findings as text for whoever reads them without a window; UTF-8, LF.
 namespace checks {
 
+/// A text as one line, whatever the names in it hold.
+std::string EnUnRenglon(std::string texto);
+
 /// "error 201 Componente: qué (cuánto). Remedio", without the parts that a finding hasn't got.
 std::string Linea(const Hallazgo& hallazgo);
 

@@ -11,6 +11,7 @@
 #include <stdexcept>
 #include <utility>
 
+#include "checks/Json.h"
 #include "checks/casos/Familias.h"
 
 namespace checks {
@@ -137,16 +138,6 @@ std::string Notas(const Caso& c, std::size_t orden)
 
 // --- JSON ---
 
-std::string Cita(std::string_view texto)
-{
-    std::string citado = "\"";
-    for (const char c : texto) {
-        if (c == '"' || c == '\\') citado += '\\';
-        citado += c;
-    }
-    return citado + "\"";
-}
-
 /// A number as short as it reads back.
 std::string NumeroJson(double x)
 {
@@ -167,20 +158,20 @@ std::string CasoJson(const Caso& c)
 {
     std::string texto = "{";
     const auto campo = [&](std::string_view nombre, const std::string& valor) {
-        texto.append(texto.size() > 1 ? "," : "").append(Cita(nombre)).append(":").append(valor);
+        texto.append(texto.size() > 1 ? "," : "").append(Citado(nombre)).append(":").append(valor);
     };
-    campo("nombre", Cita(c.nombre));
-    campo("fuente", Cita(c.fuente));
-    campo("entrada", Cita(c.entrada));
-    campo("magnitud", Cita(c.magnitud));
+    campo("nombre", Citado(c.nombre));
+    campo("fuente", Citado(c.fuente));
+    campo("entrada", Citado(c.entrada));
+    campo("magnitud", Citado(c.magnitud));
     campo("recalculado", c.recalculado ? "true" : "false");
     campo("impreso", NumeroJson(c.impreso));
     campo("nuestro", NumeroJson(c.nuestro));
     campo("desvio", NumeroJson(c.desvio));
     campo("tolerancia", NumeroJson(c.tolerancia));
-    campo("porque", Cita(c.porque));
+    campo("porque", Citado(c.porque));
     campo("fuera", c.Fuera() ? "true" : "false");
-    campo("eje", Cita(c.serie.eje));
+    campo("eje", Citado(c.serie.eje));
     campo("x", ListaJson(c.serie.x));
     campo("impresos", ListaJson(c.serie.impreso));
     campo("nuestros", ListaJson(c.serie.nuestro));

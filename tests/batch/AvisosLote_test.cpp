@@ -105,6 +105,20 @@ TEST_F(AvisosLote, EnJsonVaLoMismo)
     EXPECT_TRUE(json.estandar.ends_with("\"huella\": \"" + huella + "\"}\n")) << json.estandar;
 }
 
+// A quoted field may hold anything but a quote.
+TEST_F(AvisosLote, UnNombreConBarraYSaltoNoRompeElJsonNiElRenglon)
+{
+    for (const char* const archivo : {"Mio_UEHs.vlm", "Mio_LHASQ.vlm"}) {
+        std::string bytes = proyecto.Lee(archivo);
+        for (std::size_t n = bytes.find("l-1"); n != std::string::npos; n = bytes.find("l-1", n + 5))
+            bytes.replace(n, 3, "l\\\r\n1");
+        proyecto.Escribe(archivo, bytes);
+    }
+    const Respuesta texto = Corre("una", {"--avisos"}), json = Corre("una", {"--avisos", "--json"});
+    EXPECT_TRUE(Contiene(texto.estandar, "balance l\\  1: entra ")) << texto.estandar;
+    EXPECT_TRUE(Contiene(json.estandar, R"({"componente": "l\\\u000d\u000a1", "entra": )")) << json.estandar;
+}
+
 TEST_F(AvisosLote, DeUnaSerieSonLosMismosConCualquierNumeroDeHilos)
 {
     PonSerie();
