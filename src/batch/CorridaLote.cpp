@@ -2,7 +2,6 @@
 #include "batch/CorridaLote.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <functional>
 #include <new>
@@ -11,8 +10,6 @@
 
 #include "batch/AvisosLote.h"
 #include "batch/ResultadosCsv.h"
-#include "batch/RevisaLote.h"
-#include "batch/Verbos.h"
 #include "engine/mdlProceso1.h"
 #include "engine/mdlSeriePDR.h"
 #include "engine/modProceso0.h"
@@ -36,13 +33,6 @@ using model::RutaAbsoluta;
 using model::Siro;
 
 constexpr std::int16_t DistriPpReal = 7;  // what the desktop ticks for a recorded storm
-
-/// Directory of the program: as the system tells it, or else by the name under which it was called.
-std::string DirectorioDelEjecutable(const std::string& nombre)
-{
-    const std::string propio = model::RutaDelPrograma();
-    return model::DirectorioDe(propio.empty() ? model::RutaAbsoluta(nombre) : propio);
-}
 
 void LeeTormentaReal(Siro& s, const std::string& nombre)
 {
@@ -136,32 +126,6 @@ void MuestraAvisos(const Siro& s, const std::optional<model::Tormenta>& entrada,
     }
 }
 
-/// Does what was understood of a command line, or says why not, or how to call it.
-template <typename Hace>
-int Atiende(const Lectura& lectura, std::string_view uso, const Salidas& salidas, const Hace& hace)
-{
-    if (lectura.opciones) return hace(*lectura.opciones);
-    if (lectura.motivo.empty())
-        return Muestra(salidas, [&] { salidas.Estandar(uso); }) ? EstadoCompleto : EstadoInterrumpido;
-    salidas.Errores("siro-lote: " + lectura.motivo + "\n\n");
-    salidas.Errores(uso);
-    return EstadoOrdenErronea;
-}
-
-/// A first word with a command line of its own; all others are runs.
-struct Verbo {
-    std::string_view palabra;
-    int (*hace)(int argc, const char* const* argv, const std::string& dirEjecutable, const Salidas& salidas);
-};
-
-constexpr auto Verbos = std::to_array<Verbo>({
-    {"revisa",
-     [](int argc, const char* const* argv, const std::string& dir, const Salidas& salidas) {
-         return Atiende(LeeOpcionesRevisa(argc, argv), UsoRevisa(), salidas,
-                        [&](const Opciones& o) { return RevisaProyecto(o, dir, salidas); });
-     }},
-});
-
 }  // namespace
 
 void AbreProyecto(Siro& s, const std::string& conf)
@@ -240,17 +204,6 @@ int Corre(const Opciones& o, const std::string& dirEjecutable, const Salidas& sa
 bool Muestra(const Salidas& salidas, std::string_view texto)
 {
     return Muestra(salidas, [&] { salidas.Estandar(texto); });
-}
-
-int Lote(int argc, const char* const* argv, const Salidas& salidas)
-{
-    if (const VerboSinCorrida* verbo = VerboDe(argc, argv))
-        return CorreVerbo(*verbo, {argv + 2, static_cast<std::size_t>(argc - 2)}, salidas);
-    const std::string dir = DirectorioDelEjecutable(argc > 0 ? argv[0] : "");
-    for (const Verbo& v : Verbos)
-        if (argc > 1 && v.palabra == argv[1]) return v.hace(argc, argv, dir, salidas);
-    return Atiende(LeeOpciones(argc, argv), Uso(), salidas,
-                   [&](const Opciones& o) { return Corre(o, dir, salidas); });
 }
 
 }  // namespace batch

@@ -8,16 +8,13 @@
 #include "batch/Opciones.h"
 #include "model/SiroDeclarado.h"
 
-// What siro-lote does with a command line: opens the project, settles the storm, runs it, writes the results.
+// A run of siro-lote: opens the project, settles the storm, runs it, writes the results.
 namespace batch {
 
 /// Exit status of the process; 3 is EstadoTerminado.
 inline constexpr int EstadoCompleto = 0;      ///< the run went to its end
 inline constexpr int EstadoInterrumpido = 1;  ///< a check ended the run, or the input kept it from starting
 inline constexpr int EstadoOrdenErronea = 2;  ///< the command line is wrong
-
-/// Does what a command line asks for and returns the exit status.
-int Lote(int argc, const char* const* argv, const Salidas& salidas);
 
 /// Runs a project: opens it, settles the storm, runs it or the series, hands over the Slate's text and writes
 /// the CSV. Where the options name no DirTrabajo it is the program's own directory, by `dirEjecutable`.

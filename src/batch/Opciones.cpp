@@ -59,6 +59,19 @@ La tormenta y los pasos son los de la orden una: --forma, --pp, --dur, --rec, --
 Estado de salida: 0 no hay errores; 1 hay alguno; 2 la línea de órdenes es errónea.
 )";
 
+constexpr std::string_view TextoUsoVerifica =
+    R"(Uso: siro-lote verifica [--json]
+
+Corre los casos publicados y dice, de cada uno, la fuente, la cifra impresa, la del programa, el desvío y la
+tolerancia.
+
+  --json                  en JSON, con las series para un gráfico
+  --ayuda, --help         este texto
+
+Estado de salida: 0 todos están dentro de la tolerancia; 1 alguno no, o no se pudo escribir; 2 la línea de órdenes
+                  es errónea.
+)";
+
 constexpr double TopeEntero = 32767;
 
 /// A value that an option can't take, with the reason as the user reads it.
@@ -133,7 +146,7 @@ int Hilos(std::string_view texto)
     return static_cast<int>(NumeroEnteroEntre(texto, 0, MaximoHilos));
 }
 
-// Which orders take an option.
+// Which orders take an option; 0: one without a project.
 constexpr int DeCorrida = 1, DeRevision = 2, DeAmbas = DeCorrida | DeRevision;
 
 /// An option with a value: how it is written and where its value goes.
@@ -173,10 +186,11 @@ CLI::App* Orden(CLI::App& programa, const char* nombre, Palabras& p, int clase =
 {
     CLI::App* orden = programa.add_subcommand(nombre);
     orden->set_help_flag("--help,-h,--ayuda");
+    orden->add_flag("--json", p.json);
+    if (clase == 0) return orden;
     orden->add_option("CONF", p.conf);
     for (std::size_t i = 0; i < Filas.size(); ++i)
         if ((Filas[i].ordenes & clase) != 0) p.opciones[i] = orden->add_option(Filas[i].nombre, p.valores[i]);
-    orden->add_flag("--json", p.json);
     if (clase != DeCorrida) return orden;
     orden->add_flag("--pizarra", p.pizarra);
     orden->add_flag("--avisos", p.avisos);
@@ -272,6 +286,23 @@ Lectura LeeOpcionesRevisa(int argc, const char* const* argv)
     Opciones o;
     o.orden = Opciones::Orden::Revisa;
     return Entiende(revisa, std::move(o));
+}
+
+std::string_view UsoVerifica()
+{
+    return TextoUsoVerifica;
+}
+
+Lectura LeeOpcionesVerifica(int argc, const char* const* argv)
+{
+    CLI::App programa{"", "siro-lote"};
+    Palabras verifica;
+    Orden(programa, "verifica", verifica, 0);
+    if (auto otra = Reconoce(programa, argc, argv)) return *otra;
+    Opciones o;
+    o.orden = Opciones::Orden::Verifica;
+    o.json = verifica.json;
+    return {o, {}};
 }
 
 }  // namespace batch

@@ -11,7 +11,7 @@ namespace batch {
 
 /// What a command line asks for. Numbers are within the bounds told here; paths stand as they were typed.
 struct Opciones {
-    enum class Orden { Una, Serie, Revisa };
+    enum class Orden { Una, Serie, Revisa, Verifica };
 
     Orden orden = Orden::Una;
     std::string conf{};             ///< path of the project's configuration file, ends in _Conf.vlm
@@ -52,5 +52,9 @@ Lectura LeeOpciones(int argc, const char* const* argv);
 /// The same of the check before a run, whose storm is that of una.
 std::string_view UsoRevisa();
 Lectura LeeOpcionesRevisa(int argc, const char* const* argv);
+
+/// The same of the published cases, which take no project.
+std::string_view UsoVerifica();
+Lectura LeeOpcionesVerifica(int argc, const char* const* argv);
 
 }  // namespace batch

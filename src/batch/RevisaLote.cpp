@@ -87,11 +87,7 @@ int RevisaProyecto(const Opciones& o, const std::string& dirEjecutable, const Sa
     }
     std::stable_sort(hallazgos.begin(), hallazgos.end(),
                      [](const Hallazgo& a, const Hallazgo& b) { return a.gravedad < b.gravedad; });
-    const bool escrito = model::Sentencia(
-        [&] { salidas.Estandar(o.json ? checks::EnJson(hallazgos) : checks::EnTexto(hallazgos)); },
-        [&](const model::Falla&) {
-            salidas.Errores("siro-lote: no se puede escribir en la salida estándar\n");
-        });
+    const bool escrito = Muestra(salidas, o.json ? checks::EnJson(hallazgos) : checks::EnTexto(hallazgos));
     const bool conError = !hallazgos.empty() && hallazgos.front().gravedad == checks::Gravedad::Error;
     return escrito && !conError ? EstadoCompleto : EstadoInterrumpido;
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <vector>
 
-#include "batch/CorridaLote.h"
+#include "batch/Lote.h"
 #include "model/Sistema.h"
 
 int main(int argc, char** argv)

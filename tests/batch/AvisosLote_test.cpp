@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "batch/CorridaLote.h"
+#include "batch/Lote.h"
 #include "batch/ProyectoDePrueba.h"
 
 namespace {

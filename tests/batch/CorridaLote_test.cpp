@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "batch/Lote.h"
 #include "batch/ProyectoDePrueba.h"
 #include "model/ArchivosTormenta.h"
 #include "model/Siro.h"

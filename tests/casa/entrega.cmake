@@ -21,10 +21,6 @@ endfunction()
 
 # --- Options: those of the usage, line by line, are those of each page ---------------------------------------------------
 lee(src/batch/Opciones.cpp programa)
-if(EXISTS ${RAIZ}/src/batch/Verbos.cpp)
-    lee(src/batch/Verbos.cpp verbos)
-    string(APPEND programa "${verbos}")
-endif()
 string(REGEX MATCHALL "\n  --[a-z-]+(, --[a-z-]+)*" renglones "${programa}")
 string(REGEX MATCHALL "--[a-z-]+" opciones "${renglones}")
 list(REMOVE_DUPLICATES opciones)

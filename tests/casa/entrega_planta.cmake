@@ -11,7 +11,7 @@ cmake_minimum_required(VERSION 3.25)
 set(arbol ${LUGAR}/entrega_${CASO})
 file(REMOVE_RECURSE ${arbol})
 file(COPY ${RAIZ}/paquete DESTINATION ${arbol})
-file(COPY ${RAIZ}/src/batch/Opciones.cpp ${RAIZ}/src/batch/Verbos.cpp DESTINATION ${arbol}/src/batch)
+file(COPY ${RAIZ}/src/batch/Opciones.cpp DESTINATION ${arbol}/src/batch)
 file(COPY ${RAIZ}/src/model/Configuracion.h DESTINATION ${arbol}/src/model)
 
 function(cambia archivo de a)

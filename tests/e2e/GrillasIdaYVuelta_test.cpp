@@ -15,6 +15,7 @@
 #include "apoyo/AnfitrionPrueba.h"
 #include "apoyo/Compara.h"
 #include "batch/CorridaLote.h"
+#include "batch/Lote.h"
 #include "e2e/Programa.h"
 #include "editor/fichas/dlgTabla.h"
 #include "editor/fichas/dlgUEHsEditTabla.h"

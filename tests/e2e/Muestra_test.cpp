@@ -14,6 +14,7 @@
 
 #include "apoyo/Compara.h"
 #include "batch/CorridaLote.h"
+#include "batch/Lote.h"
 #include "batch/ResultadosCsv.h"
 #include "e2e/Programa.h"
 #include "engine/modProceso0.h"

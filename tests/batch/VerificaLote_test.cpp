@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "batch/Verbos.h"
+#include "batch/VerificaLote.h"
 
 #include <gtest/gtest.h>
 
@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "batch/CorridaLote.h"
+#include "batch/Lote.h"
 #include "checks/Verifica.h"
 #include "model/Falla.h"
 
@@ -68,14 +69,10 @@ TEST(Verifica, LoQueNoSePuedeEscribirSeDice)
     EXPECT_EQ(r.errores, "siro-lote: no se puede escribir en la salida estándar\n");
 }
 
-TEST(Verbos, UnaYSerieNoSonDeEstos)
+TEST(Verifica, UnaPalabraParecidaEsUnError)
 {
-    const std::vector<const char*> una{"siro-lote", "una"}, nada{"siro-lote"},
-        parecido{"siro-lote", "verificar"};
-    EXPECT_EQ(batch::VerboDe(2, una.data()), nullptr);
-    EXPECT_EQ(batch::VerboDe(1, nada.data()), nullptr);
-    EXPECT_EQ(batch::VerboDe(2, parecido.data()), nullptr);
     EXPECT_EQ(Lote({"verificar"}).estado, batch::EstadoOrdenErronea);
+    EXPECT_EQ(Lote({"verifica", "--pizarra"}).estado, batch::EstadoOrdenErronea);
 }
 
 }  // namespace
