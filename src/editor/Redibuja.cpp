@@ -8,6 +8,7 @@
 #include "editor/EnMano.h"
 #include "editor/RotulosDeCauces.h"
 #include "editor/frmUEHs.h"
+#include "forms/MarcoDeImagen.h"
 #include "model/Numeros.h"
 
 namespace editor {
@@ -16,10 +17,9 @@ using model::Siro;
 
 namespace {
 
-constexpr double AlturaDePixel = 1.33333333;  // kept as it stands
-constexpr float CorrimientoNombre = 0.5F;     // name beside the icon's position [sizes s]
-constexpr float BordeDeMarca = 4;             // a mark is so much wider than the lines [pixels]
-constexpr float CorrimientoOrden = 1.5F;      // order left of vertex 2 [tolerances]
+constexpr float CorrimientoNombre = 0.5F;  // name beside the icon's position [sizes s]
+constexpr float BordeDeMarca = 4;          // a mark is so much wider than the lines [pixels]
+constexpr float CorrimientoOrden = 1.5F;   // order left of vertex 2 [tolerances]
 
 // --- the steps before the painting ---
 
@@ -70,14 +70,9 @@ Extension Extiende(const frmUEHs& f, const model::Red& red)
 void PintaImagen(frmUEHs& f, const Siro& s)
 {
     if (!f.fondo.ImagenVisible) return;
-    double ancho = f.fondo.imagen.ancho;
-    double alto = AlturaDePixel * f.fondo.imagen.alto;
-    if (s.Configuracion.EscalaImagen != 0) {
-        ancho *= s.Configuracion.EscalaImagen / 100;
-        alto *= s.Configuracion.EscalaImagen / 100;
-    }
-    f.dibujo.Imagen({s.Configuracion.ImagenX0, s.Configuracion.ImagenY0}, static_cast<float>(ancho),
-                    static_cast<float>(alto));
+    const forms::MarcoDeImagen marco =
+        forms::MarcoDe(s.Configuracion, f.fondo.imagen.ancho, f.fondo.imagen.alto);
+    f.dibujo.Imagen({marco.X, marco.Y}, marco.ancho, marco.alto);
 }
 
 void PintaCauces(frmUEHs& f, const model::Red& red)

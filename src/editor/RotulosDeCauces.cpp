@@ -2,10 +2,10 @@
 #include "editor/RotulosDeCauces.h"
 
 #include <cmath>
-#include <optional>
 #include <string>
 
 #include "editor/Alcance.h"
+#include "forms/LineaEnPantalla.h"
 
 namespace editor {
 
@@ -18,41 +18,7 @@ constexpr std::int16_t AnchoDeFlecha = 2;
 constexpr double JuntoALaLinea = 8, BajoElMedio = 6;  // name beside the middle
 constexpr float LadoDeMarca = 12;
 
-/// The middle of a reach on the canvas, and the direction of its water there.
-struct Medio {
-    Pixel en{};
-    double dx = 0, dy = 0;
-};
-
-/// Nothing for a reach that is too short to be seen.
-std::optional<Medio> MedioDe(const frmUEHs& f, const model::Red& red, int cauce)
-{
-    const auto lugar = [&](int j) { return APixel(f.vista, Vertice(red, cauce, j)); };
-    const auto tramo = [&](int j) {
-        const Pixel a = lugar(j - 1), b = lugar(j);
-        return std::hypot(b.x - a.x, b.y - a.y);
-    };
-    const int vertices = red.NroVertices(cauce);
-    double largo = 0;
-    for (int j = 2; j <= vertices; ++j)
-        largo += tramo(j);
-    if (!std::isfinite(largo) || largo < LargoMinimo) return {};
-    double queda = largo / 2;
-    for (int j = 2; j <= vertices; ++j) {
-        const double este = tramo(j);
-        if (este < queda) {
-            queda -= este;
-            continue;
-        }
-        const Pixel a = lugar(j - 1), b = lugar(j);
-        // The vertices run upstream, the water against them.
-        const double dx = (a.x - b.x) / este, dy = (a.y - b.y) / este;
-        return Medio{{a.x - dx * queda, a.y - dy * queda}, dx, dy};
-    }
-    return {};
-}
-
-void PintaSentido(frmUEHs& f, const Medio& m)
+void PintaSentido(frmUEHs& f, const forms::MedioDeLinea& m)
 {
     const double ala = f.vista.AnchoLinea / 2.0 + Saliente, medio = LargoDeFlecha / 2;
     const auto punto = [&](double adelante, double alLado) {
@@ -65,7 +31,7 @@ void PintaSentido(frmUEHs& f, const Medio& m)
 }
 
 /// Below the line, where it leaves room: beside a reach that runs down to the right, that is at its left.
-void PintaNombre(frmUEHs& f, const model::Red& red, int cauce, const Medio& m)
+void PintaNombre(frmUEHs& f, const model::Red& red, int cauce, const forms::MedioDeLinea& m)
 {
     constexpr double AnchoDeLetra = 6.5;  // about so much; the canvas alone knows the font [pixels]
     const std::string& nombre = red.ColCauces.Item(cauce).NombreCauce;
@@ -118,7 +84,8 @@ void RotulaCauces(frmUEHs& f, const model::Red& red)
     for (int i = 1; i <= red.NroCauces(); ++i) {
         if (red.NroVertices(i) < 1) continue;
         if (Modo(f) == Boton::Cauce) MarcaSinAcople(f, red, i);
-        const std::optional<Medio> medio = MedioDe(f, red, i);
+        const auto lugar = [&](int j) { return APixel(f.vista, Vertice(red, i, j)); };
+        const auto medio = forms::MedioDe(red.NroVertices(i), lugar, LargoMinimo);
         if (!medio) continue;
         PintaSentido(f, *medio);
         if (f.vista.NombresVisibles && i <= CaucesEnteros(red)) PintaNombre(f, red, i, *medio);

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "editor/Dibujo.h"
+#include "forms/LineaEnPantalla.h"
 
 // Which part of the drawing the canvas shows, how near, and how large its lines and icons are.
 namespace editor {
@@ -14,11 +15,7 @@ struct Tamano {
     bool operator==(const Tamano&) const = default;
 };
 
-/// A place on the canvas [pixels].
-struct Pixel {
-    double x = 0, y = 0;
-    bool operator==(const Pixel&) const = default;
-};
+using forms::Pixel;
 
 inline constexpr int EscalaMinima = 1, EscalaMaxima = 1000;  ///< of sldEscala [%]
 inline constexpr int TopeBarra = 100;  ///< the scroll bars run from -TopeBarra to TopeBarra

@@ -12,7 +12,7 @@
 #include <cmath>
 
 #include "editor/lienzo/Imagen_ventana.h"
-#include "editor/lienzo/Polilinea_ventana.h"
+#include "forms/Polilinea_ventana.h"
 #include "forms/Textos_ventana.h"
 
 namespace editor {
@@ -288,7 +288,7 @@ void PintorDibujo::Pinta(QPainter& pintor, const frmUEHs& f, const QRectF& donde
             pintor.setPen(
                 QPen(QColor(fila.color), std::max<int>(1, p.ancho), fila.trazo, Qt::RoundCap, Qt::RoundJoin));
             pintor.setBrush(Qt::NoBrush);
-            PintaPolilinea(pintor, puntos);
+            forms::PintaPolilinea(pintor, puntos);
             break;
         case Primitiva::Forma::Cuadrado:
             pintor.fillRect(

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "editor/lienzo/Polilinea_ventana.h"
+#include "forms/Polilinea_ventana.h"
 
 namespace {
 
@@ -61,7 +61,7 @@ TEST(Polilinea, LaLineaDensaSeVeComoLaDeUnionesRedondas)
     for (const double ancho : {2.0, 4.0, 9.0, 16.0}) {
         const QImage redonda =
             Dibuja([](QPainter& p, const QPolygonF& q) { p.drawPolyline(q); }, Meandro(), ancho);
-        const QImage densa = Dibuja(editor::PintaLineaDensa, Meandro(), ancho);
+        const QImage densa = Dibuja(forms::PintaLineaDensa, Meandro(), ancho);
         ASSERT_GT(Tinta(redonda), 300 * ancho);
         EXPECT_LT(Diferencia(redonda, densa), 0.03 * Tinta(redonda)) << ancho;
     }
@@ -72,7 +72,7 @@ TEST(Polilinea, UnaRectaDeMuchosVerticesNoMuestraCosturas)
     QPolygonF puntos;
     for (int i = 0; i <= 40; ++i)
         puntos.append(QPointF(20 + 4.1 * i, 50.5 + 2.3 * i));
-    const QImage densa = Dibuja(editor::PintaLineaDensa, puntos, 6);
+    const QImage densa = Dibuja(forms::PintaLineaDensa, puntos, 6);
     for (double t = 0; t <= 1; t += 0.002) {
         const QPointF p = puntos.first() + (puntos.last() - puntos.first()) * t;
         ASSERT_LT(qGray(densa.pixel(p.toPoint())), 20) << t;
@@ -81,16 +81,16 @@ TEST(Polilinea, UnaRectaDeMuchosVerticesNoMuestraCosturas)
 
 TEST(Polilinea, UnAnguloRectoLlegaHastaSuEsquinaYUnoAgudoQuedaCortado)
 {
-    const QImage recto = Dibuja(editor::PintaLineaDensa, {{30, 100}, {100, 100}, {100, 170}}, 10);
+    const QImage recto = Dibuja(forms::PintaLineaDensa, {{30, 100}, {100, 100}, {100, 170}}, 10);
     EXPECT_LT(qGray(recto.pixel(103, 96)), 20);    // inside the corner at (105, 95)
     EXPECT_GT(qGray(recto.pixel(107, 100)), 235);  // and no farther
-    const QImage vuelta = Dibuja(editor::PintaLineaDensa, {{30, 100}, {100, 100}, {30, 101}}, 10);
+    const QImage vuelta = Dibuja(forms::PintaLineaDensa, {{30, 100}, {100, 100}, {30, 101}}, 10);
     EXPECT_GT(qGray(vuelta.pixel(107, 100)), 235);
 }
 
 TEST(Polilinea, LosExtremosSonRedondos)
 {
-    const QImage densa = Dibuja(editor::PintaLineaDensa, {{50, 100}, {150, 100}}, 20);
+    const QImage densa = Dibuja(forms::PintaLineaDensa, {{50, 100}, {150, 100}}, 20);
     EXPECT_LT(qGray(densa.pixel(43, 100)), 20);
     EXPECT_GT(qGray(densa.pixel(41, 91)), 235);  // the corner of a square end
     EXPECT_LT(qGray(densa.pixel(157, 100)), 20);
@@ -100,17 +100,17 @@ TEST(Polilinea, VerticesEnUnMismoLugarNoEstorban)
 {
     const QPolygonF doble{{30, 30}, {30, 30}, {90, 60}, {90, 60}, {90, 60}, {150, 30}};
     const QPolygonF simple{{30, 30}, {90, 60}, {150, 30}};
-    EXPECT_EQ(Dibuja(editor::PintaLineaDensa, doble, 8), Dibuja(editor::PintaLineaDensa, simple, 8));
-    const QImage punto = Dibuja(editor::PintaLineaDensa, QPolygonF(30, QPointF(100, 100)), 12);
+    EXPECT_EQ(Dibuja(forms::PintaLineaDensa, doble, 8), Dibuja(forms::PintaLineaDensa, simple, 8));
+    const QImage punto = Dibuja(forms::PintaLineaDensa, QPolygonF(30, QPointF(100, 100)), 12);
     EXPECT_NEAR(Tinta(punto), M_PI * 36, 6);
-    EXPECT_EQ(Tinta(Dibuja(editor::PintaLineaDensa, {}, 12)), 0);
+    EXPECT_EQ(Tinta(Dibuja(forms::PintaLineaDensa, {}, 12)), 0);
 }
 
 TEST(Polilinea, FueraDeUnaPantallaLasUnionesSonDeLaPluma)
 {
     const auto entera = [](QPainter& p, const QPolygonF& q) { p.drawPolyline(q); };
-    EXPECT_EQ(Dibuja(editor::PintaPolilinea, Meandro(), 9), Dibuja(entera, Meandro(), 9));
-    EXPECT_NEAR(Tinta(Dibuja(editor::PintaPolilinea, {{100, 100}}, 12)), M_PI * 36, 6);
+    EXPECT_EQ(Dibuja(forms::PintaPolilinea, Meandro(), 9), Dibuja(entera, Meandro(), 9));
+    EXPECT_NEAR(Tinta(Dibuja(forms::PintaPolilinea, {{100, 100}}, 12)), M_PI * 36, 6);
 }
 
 }  // namespace

@@ -5,7 +5,7 @@
 
 class QPainter;
 
-namespace editor {
+namespace forms {
 
 /// Paints a polyline with the painter's pen; a single point is a dot. On a screen a polyline of many vertices
 /// is painted by PintaLineaDensa.
@@ -15,4 +15,4 @@ void PintaPolilinea(QPainter& pintor, const QPolygonF& puntos);
 /// a square corner where the turn is sharper than a right angle. Requires a pen of an opaque colour.
 void PintaLineaDensa(QPainter& pintor, const QPolygonF& puntos);
 
-}  // namespace editor
+}  // namespace forms

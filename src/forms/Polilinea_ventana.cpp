@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "editor/lienzo/Polilinea_ventana.h"
+#include "forms/Polilinea_ventana.h"
 
 #include <QLineF>
 #include <QList>
@@ -11,7 +11,7 @@
 
 // A pen with joints makes one outline of a polyline, which is slow to build and slow to fill; single lines
 // with flat ends go straight to the pixels. Each is lengthened by what closes the wedge at its joints.
-namespace editor {
+namespace forms {
 namespace {
 
 // More vertices than a user draws in one go: the few joints of those that have less may be round.
@@ -78,4 +78,4 @@ void PintaLineaDensa(QPainter& pintor, const QPolygonF& puntos)
     pintor.setPen(suya);
 }
 
-}  // namespace editor
+}  // namespace forms
