@@ -3,28 +3,17 @@
 
 #include <array>
 #include <string_view>
-#include <vector>
 
-#include "checks/AvisosDeCorrida.h"
-#include "checks/AvisosDeSerie.h"
 #include "checks/EscribeHallazgos.h"
-#include "checks/Huella.h"
 #include "checks/Json.h"
-#include "engine/Calcula.h"
+#include "checks/UltimaCorrida.h"
 #include "model/Numeros.h"
-#include "model/Siro.h"
 
 namespace batch {
 namespace {
 
 using checks::RenglonBalance;
-
-struct Informe {
-    std::vector<checks::Hallazgo> avisos{};
-    checks::Balance balance{};
-    bool conBalance = false;
-    std::string huella{};
-};
+using checks::UltimaCorrida;
 
 /// A column of a balance.
 struct ColumnaBalance {
@@ -67,62 +56,37 @@ std::string EnJson(const RenglonBalance& b)
     return objeto + ", \"errorPorCiento\": " + Cifra(b.PorCiento(), 6) + "}";
 }
 
-/// One storm, run once more as a function, which gives the same bits and tells what it had to say.
-Informe DeUna(const model::Siro& s, const model::Tormenta& entrada)
-{
-    engine::Calculo calculo;
-    if (entrada.PpTormenta == 0 || entrada.DurTormenta == 0)
-        calculo = {
-            engine::FinCalculo::Rechazado, {{{"La lámina o la duración de la tormenta es 0"}}}, {}, {}, {}};
-    else
-        calculo = engine::Calcula(s.Red, entrada, s.Pasos, s.TablasDeLluvia);
-    Informe informe;
-    informe.avisos = checks::AvisosDeCorrida(s.Red, entrada, s.Pasos, s.TablasDeLluvia, calculo);
-    const checks::Corrido corrido(s.Red, entrada, s.Pasos, calculo);
-    informe.conBalance = corrido.TieneResultados();
-    if (informe.conBalance) informe.balance = BalanceDe(corrido);
-    informe.huella = checks::HuellaDeCorrida(s.Red, entrada, s.Pasos, s.TablasDeLluvia, calculo.Resultados);
-    return informe;
-}
-
-Informe DeSerie(const model::Siro& s, int hilos)
-{
-    Informe informe;
-    informe.avisos = checks::AvisosDeSerie(s, hilos);
-    informe.huella = checks::HuellaDeSerie(s.Red, s.Tormenta, s.Pasos, s.TablasDeLluvia, s.Serie,
-                                           checks::TormentasDeSerie(s).numeros, s.Resultados);
-    return informe;
-}
-
-std::string EnTexto(const Informe& informe)
+std::string EnTexto(const UltimaCorrida& informe)
 {
     std::string texto = checks::EnTexto(informe.avisos, "Sin avisos");
-    if (informe.conBalance) {
-        for (const RenglonBalance& b : informe.balance.componentes)
+    if (informe.balance) {
+        for (const RenglonBalance& b : informe.balance->componentes)
             texto += EnTexto(b);
-        texto += EnTexto(informe.balance.cuenca);
+        texto += EnTexto(informe.balance->cuenca);
     }
     return texto + "huella " + informe.huella + "\n";
 }
 
-std::string EnJson(const Informe& informe)
+std::string EnJson(const UltimaCorrida& informe)
 {
     std::string texto = "{\"avisos\": " + checks::EnJson(informe.avisos);
-    if (informe.conBalance) {
+    if (informe.balance) {
         texto += ",\n\"balance\": [\n ";
-        for (const RenglonBalance& b : informe.balance.componentes)
+        for (const RenglonBalance& b : informe.balance->componentes)
             texto += EnJson(b) + ",\n ";
-        texto += EnJson(informe.balance.cuenca) + "\n]";
+        texto += EnJson(informe.balance->cuenca) + "\n]";
     }
     return texto + ",\n\"huella\": \"" + informe.huella + "\"}\n";
 }
 
 }  // namespace
 
-std::string InformeDeAvisos(const model::Siro& s, const model::Tormenta& entrada, const Opciones& o)
+std::string InformeDeAvisos(const model::Siro& s, const model::Tormenta& entrada, bool completa,
+                            const Opciones& o)
 {
-    const Informe informe = o.orden == Opciones::Orden::Serie ? DeSerie(s, o.hilos) : DeUna(s, entrada);
-    return o.json ? EnJson(informe) : EnTexto(informe);
+    const auto corrida = o.orden == Opciones::Orden::Serie ? UltimaCorrida::DeSerie(s, o.hilos)
+                                                           : UltimaCorrida::DeUna(s, entrada, completa);
+    return o.json ? EnJson(*corrida) : EnTexto(*corrida);
 }
 
 }  // namespace batch

@@ -115,12 +115,12 @@ bool GuardaResultados(Siro& s, const Opciones& o)
 }
 
 /// Judges the run, where that was asked for and there was one. Whether it can be written changes nothing.
-void MuestraAvisos(const Siro& s, const std::optional<model::Tormenta>& entrada, const Opciones& o,
-                   const Salidas& salidas)
+void MuestraAvisos(const Siro& s, const std::optional<model::Tormenta>& entrada, bool completa,
+                   const Opciones& o, const Salidas& salidas)
 {
     if (!o.avisos || !entrada) return;
     try {
-        Muestra(salidas, [&] { salidas.Estandar(InformeDeAvisos(s, *entrada, o)); });
+        Muestra(salidas, [&] { salidas.Estandar(InformeDeAvisos(s, *entrada, completa, o)); });
     } catch (const std::bad_alloc&) {
         salidas.Errores("siro-lote: no hay memoria suficiente\n");
     }
@@ -197,7 +197,7 @@ int Corre(const Opciones& o, const std::string& dirEjecutable, const Salidas& sa
         escritos = Muestra(salidas, [&] { anfitrion.MuestraPizarra(); }) && escritos;
         fin = completa && escritos && GuardaResultados(s, o) ? EstadoCompleto : EstadoInterrumpido;
     }
-    MuestraAvisos(s, entrada, o, salidas);
+    MuestraAvisos(s, entrada, completa, o, salidas);
     return *fin;
 }
 

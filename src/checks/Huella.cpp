@@ -140,6 +140,25 @@ void PoneLluvia(Renglones& t, const model::Tormenta& tormenta, const model::Paso
             .Fila(tablas.DisPerso, tabla, 1, tablas.NroFilasTabla[static_cast<std::size_t>(tabla)]);
 }
 
+void PoneTormenta(Renglones& t, const model::Red& red, const model::Tormenta& tormenta)
+{
+    t.Abre("tormenta").Todos(tormenta.DurTormenta);
+    if (tormenta.FormaPp == model::FormaLluvia::PorUEH) {
+        for (int i = 1; i <= red.NroUEHs(); ++i)
+            t.De(tormenta.PpUEH, i);
+    } else {
+        t.Pone(tormenta.PpTormenta);
+    }
+    if (tormenta.FormaPp == model::FormaLluvia::Real)
+        for (int i = 1; i <= tormenta.NroPpReal; ++i)
+            t.De(tormenta.PpReal, i);
+}
+
+void PoneTormenta(Renglones& t, const model::Serie& serie, int numero)
+{
+    t.Abre("tormenta").De(serie.SerieD, numero).De(serie.SerieP, numero).De(serie.SerieR, numero);
+}
+
 bool EsEmbalse(std::string_view nombre)
 {
     return nombre.starts_with("l-") || nombre.starts_with("r-");
@@ -167,16 +186,7 @@ std::string HuellaDeCorrida(const model::Red& red, const model::Tormenta& tormen
     Renglones t;
     PoneRed(t, red);
     PoneLluvia(t, tormenta, pasos, tablas);
-    t.Abre("tormenta").Todos(tormenta.DurTormenta);
-    if (tormenta.FormaPp == model::FormaLluvia::PorUEH) {
-        for (int i = 1; i <= red.NroUEHs(); ++i)
-            t.De(tormenta.PpUEH, i);
-    } else {
-        t.Pone(tormenta.PpTormenta);
-    }
-    if (tormenta.FormaPp == model::FormaLluvia::Real)
-        for (int i = 1; i <= tormenta.NroPpReal; ++i)
-            t.De(tormenta.PpReal, i);
+    PoneTormenta(t, red, tormenta);
     const model::Resultados& r = resultados;
     t.Abre("res").Pone(r.NroPasosQ);
     for (int f = 1; f <= r.NroComponentes; ++f) {
@@ -202,7 +212,7 @@ std::string HuellaDeSerie(const model::Red& red, const model::Tormenta& tormenta
     PoneLluvia(t, tormenta, pasos, tablas);
     const model::Resultados& r = resultados;
     for (const int k : numeros)
-        t.Abre("tormenta").De(serie.SerieD, k).De(serie.SerieP, k).De(serie.SerieR, k);
+        PoneTormenta(t, serie, k);
     t.Abre("res").Pone(numeros.size());
     for (int f = 1; f <= r.NroComponentes; ++f) {
         t.Abre("q").Pone(r.Secuencia[static_cast<std::size_t>(f)]);
@@ -214,6 +224,24 @@ std::string HuellaDeSerie(const model::Red& red, const model::Tormenta& tormenta
     t.Abre("fin");
     for (const int k : numeros)
         t.De(r.EscTotal, k).De(r.CoefEscTotal, k);
+    return t.Cierra();
+}
+
+std::string HuellaDeRed(const model::Red& red)
+{
+    Renglones t;
+    PoneRed(t, red);
+    return t.Cierra();
+}
+
+std::string HuellaDeLluvia(const model::Red& red, const model::Tormenta& tormenta, const model::Pasos& pasos,
+                           const model::TablasDeLluvia& tablas, const model::Serie* serie)
+{
+    Renglones t;
+    PoneLluvia(t, tormenta, pasos, tablas);
+    if (serie == nullptr) PoneTormenta(t, red, tormenta);
+    for (int k = 1; serie != nullptr && k <= serie->NroSeriePDR; ++k)
+        PoneTormenta(t, *serie, k);
     return t.Cierra();
 }
 

@@ -56,4 +56,11 @@ std::string HuellaDeSerie(const model::Red& red, const model::Tormenta& tormenta
                           const model::TablasDeLluvia& tablas, const model::Serie& serie,
                           const std::vector<int>& numeros, const model::Resultados& resultados);
 
+/// Hash of the lines of the network alone.
+std::string HuellaDeRed(const model::Red& red);
+
+/// Hash of the lines of steps and rain alone; with a series, of all its storms.
+std::string HuellaDeLluvia(const model::Red& red, const model::Tormenta& tormenta, const model::Pasos& pasos,
+                           const model::TablasDeLluvia& tablas, const model::Serie* serie);
+
 }  // namespace checks

@@ -112,7 +112,8 @@ void Entorno::Atiende(const std::function<void()>& cuerpo)
         if (!fin) fin = mientras;
     }
     orden = anterior;
-    if (fin) Termina(*fin);
+    if (fin) return Termina(*fin);
+    if (!terminando) TrasSuceso();
 }
 
 /// Returns the status with which the program is to end, where it is.

@@ -53,6 +53,10 @@ class Entorno : public QObject {
     /// that form's own child. Until the main window is there it opens on the desktop.
     std::function<void(QWidget& ventana)> Presenta;
 
+    /// After each event, and after each of those that it opened in a dialog: what shows the state in memory
+    /// beside the windows is shown anew.
+    std::function<void()> TrasSuceso = [] {};
+
     /// Opens the page of help of a window, by the window's object name.
     std::function<void(const std::string& ventana)> AbreAyuda;
 

@@ -213,13 +213,14 @@ void Dibuja(dlgChart2& f, const Siro& s, std::int16_t N, std::int16_t paso)
 }
 
 /// Runs the storm in hand over the network in memory.
-void Corre(dlgChart2& f, Siro& s)
+bool Corre(dlgChart2& f, Siro& s)
 {
     if (s.Control.SalidaPizarra) s.Anfitrion.PonPizarra(TextoInicia);
     engine::ConstruyeHietograma(s);
-    if (s.Tormenta.PpTormenta == 0 && s.Tormenta.DurTormenta == 0) return s.Anfitrion.Termina();
-    engine::ProcesoPrincipal(s, {.GuardaTexto = true}, f.memoria);
+    if (s.Tormenta.PpTormenta == 0 && s.Tormenta.DurTormenta == 0) s.Anfitrion.Termina();
+    const bool completa = engine::ProcesoPrincipal(s, {.GuardaTexto = true}, f.memoria);
     Redibuja(f, s);
+    return completa;
 }
 
 }  // namespace
@@ -281,18 +282,18 @@ void AlGraficoPp(dlgChart2& f, const Siro& s, std::int16_t N, std::int16_t paso)
     Evento(s, [&] { Dibuja(f, s, N, paso); });
 }
 
-void sldDur_Mueve(dlgChart2& f, Siro& s, int valor)
+bool sldDur_Mueve(dlgChart2& f, Siro& s, int valor)
 {
     f.sldDur.Pon(valor);
     s.Tormenta.DurTormenta = static_cast<std::int16_t>(f.sldDur.valor);
-    Corre(f, s);
+    return Corre(f, s);
 }
 
-void sldPp_Mueve(dlgChart2& f, Siro& s, int valor)
+bool sldPp_Mueve(dlgChart2& f, Siro& s, int valor)
 {
     f.sldPp.Pon(std::max<int>(valor, s.Pasos.PasoPp));
     s.Tormenta.PpTormenta = static_cast<float>(f.sldPp.valor);
-    Corre(f, s);
+    return Corre(f, s);
 }
 
 void cmdHsMin(dlgChart2& f, const Siro& s)

@@ -64,10 +64,10 @@ void AlGraficoPp(dlgChart2& f, const model::Siro& s, std::int16_t N, std::int16_
 void lstCompos_Click(dlgChart2& f, model::Siro& s);
 
 /// A slider was moved: the storm in hand takes its value and runs, with nothing reloaded from disk. Ends the
-/// program where the storm has neither depth nor duration left.
-void sldDur_Mueve(dlgChart2& f, model::Siro& s, int valor);
+/// program where the storm has neither depth nor duration left. Returns whether the run went to its end.
+bool sldDur_Mueve(dlgChart2& f, model::Siro& s, int valor);
 /// No lower than PasoPp, though that is minutes and this is millimetres: kept as it stands.
-void sldPp_Mueve(dlgChart2& f, model::Siro& s, int valor);
+bool sldPp_Mueve(dlgChart2& f, model::Siro& s, int valor);
 
 void cmdHsMin(dlgChart2& f, const model::Siro& s);
 

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "forms/Lamina_ventana.h"
+#include "model/Siro.h"
 #include "results/dlgChart1.h"
 
 namespace results {
@@ -153,7 +154,11 @@ void dlgChart2_ventana::CorrePedidos()
         corriendo = true;
         Suceso([&] {
             const Espera espera;
-            mando->mueve(f, entorno.s, valor);
+            model::Tormenta entrada = entorno.s.Tormenta;
+            const bool completa = mando->mueve(f, entorno.s, valor);
+            entrada.PpTormenta = entorno.s.Tormenta.PpTormenta;
+            entrada.DurTormenta = entorno.s.Tormenta.DurTormenta;
+            TrasCorrer(entrada, completa);
         });
         corriendo = false;
     }

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
 #include <optional>
 
 #include "forms/Formulario_ventana.h"
+#include "model/Tormenta.h"
 #include "results/dlgChart2.h"
 
 class QSlider;
@@ -25,6 +27,10 @@ class dlgChart2_ventana : public forms::Ventana {
     using forms::Ventana::Muestra;
     void Muestra() override;
 
+    /// A run of a slider is over. `entrada`: the storm as it was before it. `completa`: it went to its end.
+    std::function<void(const model::Tormenta& entrada, bool completa)> TrasCorrer = [](const model::Tormenta&,
+                                                                                       bool) {};
+
   protected:
     void AlCerrar() override;
 
@@ -35,7 +41,7 @@ class dlgChart2_ventana : public forms::Ventana {
         QSlider* deslizador = nullptr;
         QLabel* valor = nullptr;
         std::string_view unidad{};
-        void (*mueve)(dlgChart2&, model::Siro&, int) = nullptr;
+        bool (*mueve)(dlgChart2&, model::Siro&, int) = nullptr;
         std::optional<int> pedido{};  ///< not run yet
     };
 

@@ -19,6 +19,15 @@ namespace {
 
 constexpr std::chrono::milliseconds LatidoPortada{10};
 
+/// Place of a component in the order of the results in memory; 0 where it isn't there.
+std::int16_t LugarEnSecuencia(const model::Siro& s, const std::string& componente)
+{
+    const std::vector<std::string>& nombres = s.Resultados.Secuencia;
+    for (std::int16_t i = 1; i <= s.Resultados.NroComponentes; ++i)
+        if (nombres[static_cast<std::size_t>(i)] == componente) return i;
+    return 0;
+}
+
 /// Whether a window is another one, or is owned by it, at however many removes.
 bool EstaBajo(const QObject& ventana, const QObject& otra)
 {
@@ -108,6 +117,7 @@ void Escritorio::PonVentanas()
     ventanaHietogramaDeLluvia = std::make_unique<results::dlgChart1_ventana>(entorno, hietogramaDeLluvia);
     ventanaHidrograma = std::make_unique<results::dlgChart2_ventana>(entorno, hidrograma);
     ventanasSerie = std::make_unique<results::VentanasDeSerie>(entorno);
+    PonEstudio();
     ventanaEmpiricas = std::make_unique<empirical::dlgEmpiricas_ventana>(entorno, empiricas);
     ventanaAyuda = std::make_unique<Ayuda_ventana>(entorno);
     ventanasEditor = std::make_unique<editor::VentanasDelEditor>(
@@ -123,6 +133,22 @@ void Escritorio::PonLluvia()
     ventanaLluvia = std::make_unique<rainfall::dlgPp_ventana>(entorno, lluvia, ventanaPrincipal.get());
     ventanaLluvia->AbreHietograma = [this](const rainfall::PedidoHietograma& p) {
         ventanaHietogramaDeLluvia->Muestra({p.N, p.paso, p.titulo, p.P, p.D});
+    };
+}
+
+void Escritorio::PonEstudio()
+{
+    ventanasEstudio = std::make_unique<VentanasDeEstudio>(entorno, *ventanaPrincipal);
+    const auto trasCorrer = [this](const model::Tormenta& entrada, bool completa) {
+        ventanasEstudio->TrasCorrer(entrada, completa);
+    };
+    mandos.TrasCorrer = trasCorrer;
+    mandos.TrasSerie = [this] { ventanasEstudio->TrasSerie(); };
+    ventanaHidrograma->TrasCorrer = trasCorrer;
+    ventanasEstudio->AbreHidrograma = [this](const std::string& componente) {
+        hidrograma.abierta = false;  // so that it opens on this component
+        s.Control.IndComp = LugarEnSecuencia(s, componente);
+        Abre(Ventana::dlgChart2);
     };
 }
 
@@ -198,6 +224,13 @@ void Escritorio::Abre(Ventana ventana, bool espera)
         return ventanasSerie->ventanaTablaComponente.Abre();
     case Ventana::dlgEmpiricas:
         return ventanaEmpiricas->Abre();
+    case Ventana::Avisos:
+    case Ventana::Resumen:
+    case Ventana::Comparar:
+    case Ventana::Mapa:
+    case Ventana::Revisar:
+    case Ventana::Verificar:
+        return ventanasEstudio->Abre(ventana);
     }
 }
 

@@ -24,6 +24,7 @@
 #include "shell/Candado_ventana.h"
 #include "shell/MDIForm1.h"
 #include "shell/MDIForm1_ventana.h"
+#include "shell/VentanasDeEstudio_ventana.h"
 #include "shell/frmConfigura.h"
 #include "shell/frmConfigura_ventana.h"
 #include "shell/frmPp2.h"
@@ -60,6 +61,7 @@ class Escritorio {
     empirical::dlgEmpiricas empiricas{};
 
     MDIForm1_ventana& Principal() { return *ventanaPrincipal; }
+    VentanasDeEstudio& Estudio() { return *ventanasEstudio; }
     /// Brings a window up; a modal one is waited for where `espera` says so.
     void Abre(Ventana ventana, bool espera = true);
 
@@ -67,6 +69,7 @@ class Escritorio {
     void PonAnfitrion();
     void PonVentanas();
     void PonLluvia();
+    void PonEstudio();
     void PonAvance();
     void PonMandos();
     void Cierra(Ventana ventana);
@@ -85,6 +88,7 @@ class Escritorio {
     std::unique_ptr<results::dlgChart1_ventana> ventanaHietograma, ventanaHietogramaDeLluvia;
     std::unique_ptr<results::dlgChart2_ventana> ventanaHidrograma;
     std::unique_ptr<results::VentanasDeSerie> ventanasSerie;
+    std::unique_ptr<VentanasDeEstudio> ventanasEstudio;
     std::unique_ptr<empirical::dlgEmpiricas_ventana> ventanaEmpiricas;
     std::unique_ptr<Ayuda_ventana> ventanaAyuda;
     std::unique_ptr<editor::VentanasDelEditor> ventanasEditor;

@@ -190,7 +190,9 @@ void mnuCorre1(MDIForm1& /*f*/, Siro& s, const Mandos& m)
         s.Anfitrion.AbreAvance(TituloAvanceUna);
         s.Anfitrion.TextosAvance(TextoAvanceUna, "");
     }
-    engine::CorreUnaTormenta(s);
+    const model::Tormenta entrada = s.Tormenta;
+    const bool completa = engine::CorreUnaTormenta(s);
+    m.TrasCorrer(entrada, completa);
     m.Abre(Ventana::dlgChart2);
     // The run may have settled its number of steps anew, and then this closes what wasn't opened, or leaves
     // open what was: kept as it stands.
@@ -212,7 +214,7 @@ void mnuCorre2(MDIForm1& f, Siro& s, const Mandos& m)
     const Espera espera(m);
     s.Control.SalidaPizarra = false;
     f.Estado(Variable::mnuPizarra1).marcada = false;
-    engine::CorreSeriePDR(s, TodosLosNucleos);
+    if (engine::CorreSeriePDR(s, TodosLosNucleos) == engine::FinSerie::Completa) m.TrasSerie();
     m.Abre(Ventana::dlgChart3);
 }
 

@@ -11,6 +11,7 @@
 
 #include "forms/Rotulo.h"
 #include "model/SiroDeclarado.h"
+#include "model/Tormenta.h"
 #include "results/dlgChart1.h"
 
 // Rules of the main window: its menu and its toolbar as tables, the project's labels, and what each command
@@ -51,6 +52,12 @@ enum class Ventana : std::uint8_t {
     dlgTablaSalePDR,
     dlgTablaSalePDR2,
     dlgEmpiricas,
+    Avisos,
+    Resumen,
+    Comparar,
+    Mapa,
+    Revisar,
+    Verificar,
     frmConfigura,
     dlgEliminarProyecto,
     frmAcerca,
@@ -68,6 +75,11 @@ struct Mandos {
     std::function<void(const results::Hietograma&)> AbreHietograma = [](const results::Hietograma&) {};
     /// Notes of the real storm in hand.
     std::function<std::string()> NotasDeTormenta = [] { return std::string{}; };
+    /// A storm has been run: `entrada`, as it was before. `completa`: the run went to its end.
+    std::function<void(const model::Tormenta& entrada, bool completa)> TrasCorrer = [](const model::Tormenta&,
+                                                                                       bool) {};
+    /// A series has been run to its end.
+    std::function<void()> TrasSerie = [] {};
     std::function<void(bool espera)> PunteroDeEspera = [](bool) {};
     /// Hands a file to the system's viewer. Returns whether it took it.
     std::function<bool(const std::string& ruta)> AbreConElSistema = [](const std::string&) { return false; };

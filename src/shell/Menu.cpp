@@ -113,6 +113,15 @@ constexpr auto FilasMenu = std::to_array<FilaMenu>({
     {"mnuPlanillaPDRComponente",        "Planilla Qp-D-R p/Componente",                    "mnuSalidas", TablaComponente, false, V::Ninguna, "", "Resultados de la serie para un componente"},
     {"mnuEmpiricos",                    "&Métodos Empíricos",                              "mnuSalidas", SoloAbre<Ventana::dlgEmpiricas>, false, V::Ninguna, "", "Fórmulas empíricas de caudal máximo y tiempo de concentración"},
 
+    {"mnuEstudio",                      "Estu&dio",                                        ""},
+    {"mnuAvisos",                       "&Avisos de la corrida",                           "mnuEstudio", SoloAbre<Ventana::Avisos>, false, V::Ninguna, "", "Lo que la última corrida tiene de dudoso, y su balance de agua"},
+    {"mnuResumen",                      "&Resumen de la corrida",                          "mnuEstudio", SoloAbre<Ventana::Resumen>, false, V::Ninguna, "F11", "Caudales máximos, volúmenes y alturas de todos los componentes"},
+    {"mnuComparar",                     "&Comparar hidrogramas",                           "mnuEstudio", SoloAbre<Ventana::Comparar>, false, V::Ninguna, "", "Hidrogramas de varios componentes en un gráfico"},
+    {"mnuMapa",                         "&Mapa de la corrida",                             "mnuEstudio", SoloAbre<Ventana::Mapa>, false, V::Ninguna, "", "La red con el caudal de cada componente a lo largo del tiempo"},
+    Separador("mnuEstudioBarra", "mnuEstudio"),
+    {"mnuRevisar",                      "Revisar &proyecto",                               "mnuEstudio", ConProyecto<Ventana::Revisar>, false, V::Ninguna, "F12", "Todo lo que detendría una corrida o la haría dudosa"},
+    {"mnuVerificar",                    "&Verificar",                                      "mnuEstudio", SoloAbre<Ventana::Verificar>, false, V::Ninguna, "", "Las rutinas del modelo frente a casos publicados"},
+
     {"mnuVentana",                      "&Ventana",                                        ""},
 
     {"mnuAyuda",                        "A&yuda",                                          ""},

@@ -36,6 +36,12 @@ inline std::string_view Nombre(Ventana ventana)
                                             "dlgTablaSalePDR",
                                             "dlgTablaSalePDR2",
                                             "dlgEmpiricas",
+                                            "Avisos",
+                                            "Resumen",
+                                            "Comparar",
+                                            "Mapa",
+                                            "Revisar",
+                                            "Verificar",
                                             "frmConfigura",
                                             "dlgEliminarProyecto",
                                             "frmAcerca"};

@@ -141,6 +141,14 @@ TEST_F(MarcoDePrueba, ElMenuTieneSusEntradasEnOrden)
         {"mnuPlanillaPDRCompleta", "Planilla Qp-D-R Completa"},
         {"mnuPlanillaPDRComponente", "Planilla Qp-D-R p/Componente"},
         {"mnuEmpiricos", "&Métodos Empíricos"},
+        {"mnuEstudio", "Estu&dio"},
+        {"mnuAvisos", "&Avisos de la corrida"},
+        {"mnuResumen", "&Resumen de la corrida"},
+        {"mnuComparar", "&Comparar hidrogramas"},
+        {"mnuMapa", "&Mapa de la corrida"},
+        {"mnuEstudioBarra", "-"},
+        {"mnuRevisar", "Revisar &proyecto"},
+        {"mnuVerificar", "&Verificar"},
         {"mnuVentana", "&Ventana"},
         {"mnuAyuda", "A&yuda"},
         {"mnuHelpContents", "Con&tenido"},
@@ -165,7 +173,7 @@ TEST_F(MarcoDePrueba, CadaEntradaCuelgaDeUnMenuQueEstaAntes)
             EXPECT_EQ(menus.back(), fila.padre) << fila.nombre;
     }
     EXPECT_EQ(menus, (std::vector<std::string_view>{"mnuFile", "mnuOpciones", "mnuEntradas", "mnuProceso",
-                                                    "mnuSalidas", "mnuVentana", "mnuAyuda"}));
+                                                    "mnuSalidas", "mnuEstudio", "mnuVentana", "mnuAyuda"}));
 }
 
 TEST_F(MarcoDePrueba, LasTeclasDelMenuNoSeRepiten)

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/LineaDeEstado_ventana.h"
+
+#include <QStatusBar>
+#include <QToolButton>
+
+#include "forms/Textos_ventana.h"
+
+namespace shell {
+
+using forms::Q;
+
+namespace {
+
+constexpr int CaracteresMinimos = 20;  // of the storm, where the window is narrow
+
+}  // namespace
+
+LineaDeEstado::LineaDeEstado(QStatusBar& barra)
+    : tormenta(new Renglon(&barra)), avisos(new QToolButton(&barra))
+{
+    tormenta->setObjectName(QStringLiteral("lblTormentaEnMano"));
+    tormenta->setAccessibleName(QStringLiteral("Tormenta en mano"));
+    avisos->setObjectName(QStringLiteral("cmdAvisos"));
+    avisos->setAutoRaise(true);
+    avisos->setToolTip(QStringLiteral("Muestra los avisos de la última corrida"));
+    avisos->setFocusPolicy(Qt::TabFocus);
+    QObject::connect(avisos, &QToolButton::clicked, &barra, [this] { AlPedirAvisos(); });
+    barra.addPermanentWidget(tormenta);
+    barra.addPermanentWidget(avisos);
+}
+
+void LineaDeEstado::PonTormenta(const std::string& texto)
+{
+    tormenta->Pon(Q(texto));
+}
+
+void LineaDeEstado::PonAvisos(const std::string& texto)
+{
+    avisos->setText(Q(texto));
+}
+
+void LineaDeEstado::Renglon::Pon(const QString& texto)
+{
+    if (texto == entero) return;
+    entero = texto;
+    setToolTip(texto);
+    setAccessibleDescription(texto);
+    Corta();
+    updateGeometry();
+}
+
+QSize LineaDeEstado::Renglon::sizeHint() const
+{
+    return {fontMetrics().horizontalAdvance(entero) + 2 * margin() + 2, QLabel::sizeHint().height()};
+}
+
+QSize LineaDeEstado::Renglon::minimumSizeHint() const
+{
+    return {fontMetrics().averageCharWidth() * CaracteresMinimos, QLabel::minimumSizeHint().height()};
+}
+
+void LineaDeEstado::Renglon::resizeEvent(QResizeEvent* evento)
+{
+    QLabel::resizeEvent(evento);
+    Corta();
+}
+
+void LineaDeEstado::Renglon::Corta()
+{
+    setText(fontMetrics().elidedText(entero, Qt::ElideRight, width()));
+}
+
+}  // namespace shell

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/VentanasDeEstudio_ventana.h"
+
+#include <QStatusBar>
+#include <QTimer>
+#include <utility>
+
+#include "checks/EscribeHallazgos.h"
+#include "model/Siro.h"
+
+namespace shell {
+
+VentanasDeEstudio::VentanasDeEstudio(forms::Entorno& alrededor, MDIForm1_ventana& laPrincipal)
+    : entorno(alrededor), principal(laPrincipal), linea(*laPrincipal.statusBar())
+{
+    entorno.TrasSuceso = [this] { RefrescaLuego(); };
+    juicio.AlCambiar = [this] { RefrescaLuego(); };
+    linea.AlPedirAvisos = [this] { entorno.Atiende([this] { Abre(Ventana::Avisos); }); };
+    MuestraEstado();
+}
+
+VentanasDeEstudio::~VentanasDeEstudio()
+{
+    entorno.TrasSuceso = [] {};
+}
+
+void VentanasDeEstudio::TrasCorrer(const model::Tormenta& entrada, bool completa)
+{
+    corrido = true;
+    sello = checks::SelloDe(entorno.s);
+    cuando = entorno.s.Anfitrion.FechaHora();
+    juicio.Pide(entorno.s, entrada, completa);
+}
+
+void VentanasDeEstudio::TrasSerie()
+{
+    corrido = true;
+    sello = checks::SelloDe(entorno.s);
+    cuando = entorno.s.Anfitrion.FechaHora();
+    juicio.PideSerie(entorno.s);
+}
+
+void VentanasDeEstudio::Abre(Ventana /*ventana*/) {}
+
+void VentanasDeEstudio::RefrescaLuego()
+{
+    if (std::exchange(programado, true)) return;
+    QTimer::singleShot(0, &principal, [this] { Refresca(); });
+}
+
+void VentanasDeEstudio::Refresca()
+{
+    programado = false;
+    MuestraEstado();
+}
+
+void VentanasDeEstudio::MuestraEstado()
+{
+    linea.PonTormenta(checks::TormentaEnMano(entorno.s) +
+                      (corrido ? " · última corrida " + cuando : std::string(" · sin corrida")));
+    const JuicioDeCorrida::Corrida& u = juicio.Ultima();
+    linea.PonAvisos(juicio.EnCurso() ? "Revisando..."
+                    : u == nullptr   ? "Sin corrida"
+                                     : checks::Suma(u->avisos, "Sin avisos"));
+}
+
+}  // namespace shell

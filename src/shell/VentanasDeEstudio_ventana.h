@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "checks/Sello.h"
+#include "forms/Entorno_ventana.h"
+#include "shell/JuicioDeCorrida_ventana.h"
+#include "shell/LineaDeEstado_ventana.h"
+#include "shell/MDIForm1.h"
+#include "shell/MDIForm1_ventana.h"
+
+namespace shell {
+
+/// The last run and what speaks of it: the windows of the menu Estudio, the line of the status bar.
+class VentanasDeEstudio {
+  public:
+    VentanasDeEstudio(forms::Entorno& alrededor, MDIForm1_ventana& laPrincipal);
+    ~VentanasDeEstudio();
+    VentanasDeEstudio(const VentanasDeEstudio&) = delete;
+    VentanasDeEstudio& operator=(const VentanasDeEstudio&) = delete;
+
+    /// A storm has been run; Mandos tells of the others.
+    void TrasCorrer(const model::Tormenta& entrada, bool completa);
+    void TrasSerie();
+    /// What the results in memory are of; of the state in memory before the first run.
+    [[nodiscard]] const checks::Sello& SelloDeResultados() const { return sello; }
+    JuicioDeCorrida& Juicio() { return juicio; }
+
+    /// Brings one of the windows up. Runs inside an event.
+    void Abre(Ventana ventana);
+
+    /// Goes to a component: the form of its properties; empty: the project's configuration. Runs inside an
+    /// event.
+    std::function<void(const std::string& componente)> VeAComponente = [](const std::string&) {};
+    /// Opens the hydrograph of a component. Runs inside an event.
+    std::function<void(const std::string& componente)> AbreHidrograma = [](const std::string&) {};
+
+  private:
+    /// Shows anew what may have changed, once the events of the moment are over.
+    void RefrescaLuego();
+    void Refresca();
+    void MuestraEstado();
+
+    forms::Entorno& entorno;
+    MDIForm1_ventana& principal;
+    checks::Sello sello{};
+    bool corrido = false;  ///< a run has been made
+    std::string cuando{};  ///< date and time of the last run
+    bool programado = false;
+    JuicioDeCorrida juicio{};
+    LineaDeEstado linea;
+};
+
+}  // namespace shell
