@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
 #include <set>
 
@@ -13,9 +14,19 @@ using model::NumeroFalla;
 
 namespace {
 
-std::string SinBarraFinal(std::string ruta)
+constexpr char Barra = '/';
+
+/// A path as this disk knows it, by the one separator; Windows has two.
+std::string ConBarras(std::string ruta)
 {
-    while (ruta.size() > 1 && ruta.back() == model::Separador)
+    if (model::Separador != Barra) std::replace(ruta.begin(), ruta.end(), model::Separador, Barra);
+    return ruta;
+}
+
+std::string SinBarraFinal(const std::string& dada)
+{
+    std::string ruta = ConBarras(dada);
+    while (ruta.size() > 1 && ruta.back() == Barra)
         ruta.pop_back();
     return ruta;
 }
@@ -23,7 +34,7 @@ std::string SinBarraFinal(std::string ruta)
 /// Directory of a path; empty for a bare name, which lies in the directory that is always there.
 std::string DirectorioDe(const std::string& ruta)
 {
-    const std::size_t barra = ruta.rfind(model::Separador);
+    const std::size_t barra = ruta.rfind(Barra);
     if (barra == std::string::npos) return {};
     return ruta.substr(0, barra == 0 ? 1 : barra);
 }
@@ -32,7 +43,7 @@ std::string DirectorioDe(const std::string& ruta)
 
 struct DiscoPrueba::Estado {
     std::map<std::string, std::string> archivos{};
-    std::set<std::string> directorios{"", std::string(1, model::Separador)};
+    std::set<std::string> directorios{"", std::string(1, Barra)};
     std::set<std::string> protegidos{};
     std::size_t espacio = std::string::npos;
     std::vector<Llamada> llamadas{};
@@ -43,7 +54,7 @@ struct DiscoPrueba::Estado {
 
     void Cuenta(Clase clase, const std::string& ruta)
     {
-        llamadas.push_back({clase, ruta});
+        llamadas.push_back({clase, ConBarras(ruta)});
         if (faltan == 0 || --faltan > 0) return;
         huboFalla = true;
         if (sigueFallando) faltan = 1;
@@ -91,7 +102,7 @@ struct DiscoPrueba::Estado {
         const auto antes = archivos;
         for (const model::CambioArchivo& cambio : cambios) {
             try {
-                Escribe(cambio.ruta, cambio.bytes, false);
+                Escribe(ConBarras(cambio.ruta), cambio.bytes, false);
             } catch (const Falla&) {
                 archivos = antes;
                 throw;
@@ -111,8 +122,7 @@ struct DiscoPrueba::Estado {
         if (!directorios.contains(directorio)) throw Falla{NumeroFalla::RutaNoEsta};
         std::vector<std::string> nombres;  // sorted, since all have the directory in front
         for (const auto& [ruta, contenido] : archivos)
-            if (DirectorioDe(ruta) == directorio)
-                nombres.push_back(ruta.substr(ruta.rfind(model::Separador) + 1));
+            if (DirectorioDe(ruta) == directorio) nombres.push_back(ruta.substr(ruta.rfind(Barra) + 1));
         return nombres;
     }
     void Borra(const std::string& ruta)
@@ -131,15 +141,15 @@ model::Disco DiscoPrueba::Puerta() const
     model::Disco disco;
     disco.Lee = [e](const std::string& ruta) {
         e->Cuenta(Clase::Lee, ruta);
-        return e->ExigeArchivo(ruta);
+        return e->ExigeArchivo(ConBarras(ruta));
     };
     disco.Escribe = [e](const std::string& ruta, std::string_view bytes) {
         e->Cuenta(Clase::Escribe, ruta);
-        e->Escribe(ruta, bytes, false);
+        e->Escribe(ConBarras(ruta), bytes, false);
     };
     disco.Agrega = [e](const std::string& ruta, std::string_view bytes) {
         e->Cuenta(Clase::Agrega, ruta);
-        e->Escribe(ruta, bytes, true);
+        e->Escribe(ConBarras(ruta), bytes, true);
     };
     disco.HayDirectorio = [e](const std::string& ruta) {
         try {
@@ -159,12 +169,12 @@ model::Disco DiscoPrueba::Puerta() const
     };
     disco.Borra = [e](const std::string& ruta) {
         e->Cuenta(Clase::Borra, ruta);
-        e->Borra(ruta);
+        e->Borra(ConBarras(ruta));
     };
     disco.Copia = [e](const std::string& origen, const std::string& destino) {
         e->Cuenta(Clase::Copia, origen);
-        const std::string bytes = e->ExigeArchivo(origen);
-        if (origen == destino) throw Falla{NumeroFalla::AccesoRuta};
+        const std::string bytes = e->ExigeArchivo(ConBarras(origen));
+        if (ConBarras(origen) == ConBarras(destino)) throw Falla{NumeroFalla::AccesoRuta};
         e->Reemplaza({{destino, bytes}});
     };
     disco.Reemplaza = [e](const std::vector<model::CambioArchivo>& cambios) {
@@ -184,15 +194,16 @@ void DiscoPrueba::PonDirectorio(const std::string& ruta)
     estado->HazDirectorio(SinBarraFinal(ruta));
 }
 
-void DiscoPrueba::Pon(const std::string& ruta, std::string_view bytes)
+void DiscoPrueba::Pon(const std::string& dada, std::string_view bytes)
 {
+    const std::string ruta = ConBarras(dada);
     estado->HazDirectorio(DirectorioDe(ruta));
     estado->archivos[ruta] = bytes;
 }
 
-void DiscoPrueba::Quita(const std::string& ruta)
+void DiscoPrueba::Quita(const std::string& dada)
 {
-    const std::string dentro = ruta + model::Separador;
+    const std::string ruta = ConBarras(dada), dentro = ruta + Barra;
     std::erase_if(estado->archivos,
                   [&](const auto& a) { return a.first == ruta || a.first.starts_with(dentro); });
     std::erase_if(estado->directorios, [&](const auto& d) { return d == ruta || d.starts_with(dentro); });
@@ -200,12 +211,12 @@ void DiscoPrueba::Quita(const std::string& ruta)
 
 bool DiscoPrueba::Esta(const std::string& ruta) const
 {
-    return estado->archivos.contains(ruta) || estado->directorios.contains(SinBarraFinal(ruta));
+    return estado->archivos.contains(ConBarras(ruta)) || estado->directorios.contains(SinBarraFinal(ruta));
 }
 
 std::string DiscoPrueba::Bytes(const std::string& ruta) const
 {
-    const auto archivo = estado->archivos.find(ruta);
+    const auto archivo = estado->archivos.find(ConBarras(ruta));
     if (archivo != estado->archivos.end()) return archivo->second;
     ADD_FAILURE() << ruta << " isn't on the disk";
     return {};

@@ -10,6 +10,7 @@
 #include "apoyo/Compara.h"
 #include "engine/RedDeUEHs.h"
 #include "model/ArchivoConf.h"
+#include "model/Disco.h"
 #include "model/Texto.h"
 
 namespace engine {
@@ -88,15 +89,16 @@ TEST_F(Serie, LaTablaALaLetra)
     GuardaProyecto();
     Carga({{60, 30, 10}, {30, 30, 2}});
     EXPECT_EQ(CorreSeriePDR(s), FinSerie::Completa);
-    EXPECT_EQ(Renglones(),
-              (std::vector<std::string>{
-                  "\"SIRO - Modelo de Simulación Hidrológica\"", "\"/proyectos/Prueba_Conf.vlm\"",
-                  "\"Título\"", "\"\"", "\"\"", "\"\"", "\"Yo - 03/04/2011 10:20:30\"",
-                  "\"SIMULACION PARA SERIE PDR DE TORMENTAS SINTETICAS  \"",
-                  "\"Componente\",\"Nro.\",\"P[mm]\",\"D[min]\",\"R[años]\",\"Q[m3/s]\",\"E[m3]\",\"C[%]\"",
-                  // 20 and 10 mm a step of 10 min on 6 ha: 2 and 1 m3/s, all of the rain
-                  "\"u-1\",1,60,30,10,2,3600,100", "\"u-1\",1,30,30,2,1,1800,100", "\"c-1\",2,60,30,10,2",
-                  "\"c-1\",2,30,30,2,1"}));
+    EXPECT_EQ(
+        Renglones(),
+        (std::vector<std::string>{
+            "\"SIRO - Modelo de Simulación Hidrológica\"",
+            "\"" + model::Ruta("/proyectos", "Prueba_Conf.vlm") + "\"", "\"Título\"", "\"\"", "\"\"", "\"\"",
+            "\"Yo - 03/04/2011 10:20:30\"", "\"SIMULACION PARA SERIE PDR DE TORMENTAS SINTETICAS  \"",
+            "\"Componente\",\"Nro.\",\"P[mm]\",\"D[min]\",\"R[años]\",\"Q[m3/s]\",\"E[m3]\",\"C[%]\"",
+            // 20 and 10 mm a step of 10 min on 6 ha: 2 and 1 m3/s, all of the rain
+            "\"u-1\",1,60,30,10,2,3600,100", "\"u-1\",1,30,30,2,1,1800,100", "\"c-1\",2,60,30,10,2",
+            "\"c-1\",2,30,30,2,1"}));
     EXPECT_EQ(anfitrion->Avisos(),
               (std::vector<Mensaje>{{Guardada + "0:0:0", TituloGuardada, Icono::Exclamacion}}));
     EXPECT_EQ(anfitrion->tablasSerie, 1);

@@ -7,17 +7,18 @@
 
 #include "apoyo/Compara.h"
 #include "engine/RedDeUEHs.h"
+#include "model/Disco.h"
 #include "model/Texto.h"
 
 namespace engine {
 namespace {
 
-const std::string Encabezado =
-    "SIRO - Modelo de Simulación Hidrológica\r\n"
-    "/proyectos/Prueba\r\n"
-    "Título\r\nLugar\r\nCuenca\r\nSub\r\nOperador - 03/04/2011 10:20:30\r\n"
-    "\r\n"
-    "SIMULACION LLUVIA-CAUDAL PARA UNA TORMENTA\r\n";
+const std::string Encabezado = "SIRO - Modelo de Simulación Hidrológica\r\n" +
+                               model::Ruta("/proyectos", "Prueba") +
+                               "\r\n"
+                               "Título\r\nLugar\r\nCuenca\r\nSub\r\nOperador - 03/04/2011 10:20:30\r\n"
+                               "\r\n"
+                               "SIMULACION LLUVIA-CAUDAL PARA UNA TORMENTA\r\n";
 
 class UnaTormenta : public testing::Test, public pruebas::RedDeUEHs {
   protected:

@@ -22,6 +22,7 @@ import compara
 import generador
 
 UNIDAD = b"Z:"  # where wine shows the root of this system
+SIN_DISCO = b"D:"  # the drive that some of the projects tell, which neither system has
 
 
 class DeWindows:
@@ -29,7 +30,7 @@ class DeWindows:
 
     def __init__(self, lugar):
         self.aqui = lugar.encode()
-        self.alla = UNIDAD + self.aqui.replace(b"/", b"\\")
+        self.alla = self.aqui.replace(b"/", b"\\")  # behind the drive
 
     def lleva(self, carpeta):
         """Drive and directory of each configuration that tells them."""
@@ -44,18 +45,19 @@ class DeWindows:
         with open(ruta, "wb") as archivo:
             archivo.write(
                 re.sub(
-                    rb'""(\r?\n)"' + re.escape(self.aqui),
-                    lambda m: b'"%s"%s"%s' % (UNIDAD, m[1], self.alla),
+                    rb'""(\r?\n)"(%s)?%s' % (SIN_DISCO, re.escape(self.aqui)),
+                    lambda m: b'"%s"%s"%s%s' % (UNIDAD, m[1], m[2] or UNIDAD, self.alla),
                     datos,
                 )
             )
 
     def trae(self, datos):
-        datos = re.sub(
-            b'"%s"(\\r?\\n)"%s' % (UNIDAD, re.escape(self.alla)), lambda m: b'""%s"%s' % (m[1], self.aqui), datos
-        )
+        """What a run has left, with the place as this system writes it."""
+        datos = re.sub(rb'"%s"(\r?\n"(?:%s|%s)%s)' % (UNIDAD, UNIDAD, SIN_DISCO, re.escape(self.alla)), rb'""\1', datos)
         return re.sub(
-            re.escape(self.alla) + rb'((?:\\[^\\\r\n"]+)*)', lambda m: self.aqui + m[1].replace(b"\\", b"/"), datos
+            rb'(%s|%s)%s((?:\\[^\\\r\n"]+)*)' % (UNIDAD, SIN_DISCO, re.escape(self.alla)),
+            lambda m: m[1].replace(UNIDAD, b"") + self.aqui + m[2].replace(b"\\", b"/"),
+            datos,
         )
 
 

@@ -9,3 +9,5 @@ mkdir -p "$WINEPREFIX"
 servidor=$(command -v wineserver || echo /usr/lib/wine/wineserver)
 WINEDEBUG=-all "$servidor" -p >/dev/null 2>&1
 trap '"$servidor" -k' EXIT
+# The first program starts those that serve all others, and they keep its streams open for as long as they stay.
+tools/windows/vino.sh cmd /c exit >/dev/null 2>&1 </dev/null

@@ -10,6 +10,7 @@
 #include <random>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -106,6 +107,18 @@ Gen<T> element(T uno, Otros... otros)
     return elementOf(std::vector<T>{uno, otros...});
 }
 
+template <typename... T>
+Gen<std::tuple<T...>> tuple(Gen<T>... todos)
+{
+    return Gen<std::tuple<T...>>([todos...] { return std::tuple<T...>{*todos...}; });
+}
+
+template <typename T, typename F>
+auto map(Gen<T> todos, F cambia)
+{
+    return Gen<std::invoke_result_t<F, T>>([todos, cambia] { return cambia(*todos); });
+}
+
 }  // namespace gen
 
 /// Tries a property on a hundred cases. Returns what doesn't hold; nothing where all of it does, "no case"
@@ -137,13 +150,12 @@ bool check(F propiedad)
 
 }  // namespace rc
 
-#define RC_ASSERT(...)                    \
-    if (!(__VA_ARGS__)) throw rc::Fallido \
-        {                                 \
-#__VA_ARGS__                  \
-        }
-#define RC_PRE(...)                          \
-    if (!(__VA_ARGS__)) throw rc::Descartado \
-        {                                    \
-        }
+#define RC_ASSERT(...)                                       \
+    do {                                                     \
+        if (!(__VA_ARGS__)) throw rc::Fallido{#__VA_ARGS__}; \
+    } while (false)
+#define RC_PRE(...)                                 \
+    do {                                            \
+        if (!(__VA_ARGS__)) throw rc::Descartado{}; \
+    } while (false)
 #define RC_CLASSIFY(condicion, ...) static_cast<void>(condicion)
