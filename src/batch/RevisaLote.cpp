@@ -1,20 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/RevisaLote.h"
 
-#include <algorithm>
 #include <new>
 #include <vector>
 
 #include "batch/CorridaLote.h"
+#include "checks/AvisosDeCorrida.h"
 #include "checks/EscribeHallazgos.h"
 #include "checks/Revisa.h"
-#include "engine/modProceso0.h"
-#include "model/ArchivosTormenta.h"
+#include "checks/RevisaAbierto.h"
 #include "model/Avisos.h"
 #include "model/DirPropio.h"
 #include "model/Siro.h"
 #include "model/Sistema.h"
-#include "model/Tormenta.h"
 
 namespace batch {
 namespace {
@@ -22,31 +20,13 @@ namespace {
 using checks::Hallazgo;
 using model::Siro;
 
-/// A host that makes findings of what it is told, each once, and says Yes.
-model::Anfitrion Oyente(std::vector<Hallazgo>& hallazgos)
-{
-    const auto anota = [&hallazgos](const model::Mensaje& m) {
-        const Hallazgo h = checks::DeApertura(m);
-        if (std::find(hallazgos.begin(), hallazgos.end(), h) == hallazgos.end()) hallazgos.push_back(h);
-    };
-    model::Anfitrion puerta;
-    puerta.Avisa = anota;
-    puerta.Pregunta = puerta.Confirma = [anota](const model::Mensaje& m) {
-        anota(m);
-        return true;
-    };
-    return puerta;
-}
-
 /// Brings everything into memory that a run reads. Returns whether a project is open.
 bool Carga(Siro& s, const Opciones& o)
 {
     AbreProyecto(s, model::RutaAbsoluta(o.conf));
     if (s.Proyecto.NombreProyecto.empty() || s.Proyecto.DirProyecto.empty()) return false;
     FijaTormenta(s, o);
-    engine::CargaProyecto(s);
-    if (s.Tormenta.DistriPp >= model::PrimeraPersonal && s.Tormenta.FormaPp != model::FormaLluvia::Real)
-        model::LeeTablaDisTemPer(s);
+    checks::CargaEntera(s);
     return true;
 }
 
@@ -59,7 +39,7 @@ void Busca(const Opciones& o, const std::string& dirEjecutable, std::vector<Hall
             {checks::Gravedad::Error, 200, "", que, cuanto, "Abra otro proyecto, o restaure una copia."});
     };
     if (!model::Sentencia([&] { s.Disco.Lee(conf); })) return cierra("No se puede abrir el proyecto", conf);
-    s.Anfitrion = Oyente(hallazgos);
+    s.Anfitrion = checks::Oyente(hallazgos);
     s.Proyecto.DirEjecutable = dirEjecutable;
     s.Proyecto.DirTrabajo =
         o.trabajo.empty() ? model::DirTrabajoDe(dirEjecutable) : model::RutaAbsoluta(o.trabajo);
@@ -85,8 +65,7 @@ int RevisaProyecto(const Opciones& o, const std::string& dirEjecutable, const Sa
         salidas.Errores("siro-lote: no hay memoria suficiente\n");
         return EstadoInterrumpido;
     }
-    std::stable_sort(hallazgos.begin(), hallazgos.end(),
-                     [](const Hallazgo& a, const Hallazgo& b) { return a.gravedad < b.gravedad; });
+    checks::OrdenaPorGravedad(hallazgos);
     const bool escrito = Muestra(salidas, o.json ? checks::EnJson(hallazgos) : checks::EnTexto(hallazgos));
     const bool conError = !hallazgos.empty() && hallazgos.front().gravedad == checks::Gravedad::Error;
     return escrito && !conError ? EstadoCompleto : EstadoInterrumpido;

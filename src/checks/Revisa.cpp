@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "checks/Revisa.h"
 
-#include <algorithm>
 #include <cmath>
 
+#include "checks/AvisosDeCorrida.h"
 #include "checks/Reglas.h"
 #include "engine/Calcula.h"
 #include "engine/mdlProceso1.h"
@@ -56,8 +56,7 @@ std::vector<Hallazgo> Revisa(const model::Siro& s, double areaCuenca)
     RevisaSuperficie(s.Red, areaCuenca, l);
     if (HayTormenta(s, l))
         TraduceDichos(s.Red, engine::Calcula(s.Red, s.Tormenta, s.Pasos, s.TablasDeLluvia), l);
-    std::stable_sort(l.begin(), l.end(),
-                     [](const Hallazgo& a, const Hallazgo& b) { return a.gravedad < b.gravedad; });
+    OrdenaPorGravedad(l);
     return l;
 }
 

@@ -21,13 +21,16 @@ namespace {
 constexpr std::array Familias{casos::EmbalsesDeLibro, casos::Tramos,       casos::UEHs,
                               casos::Almacenamiento,  casos::Convergencia, casos::BalanceDeRedes};
 
-/// Finds where the two columns differ most. What isn't a number differs more than anything.
+/// Finds where the two columns differ most, where the source has a figure. What isn't a number of ours
+/// differs more than anything.
 void Compara(Caso& c)
 {
     const Serie& s = c.serie;
+    bool primera = true;
     for (std::size_t k = 0; k < s.x.size(); ++k) {
+        if (std::isnan(s.impreso[k])) continue;
         const double desvio = std::abs(s.nuestro[k] - s.impreso[k]);
-        if (k > 0 && !(desvio > c.desvio) && !std::isnan(desvio)) continue;
+        if (!std::exchange(primera, false) && !(desvio > c.desvio) && !std::isnan(desvio)) continue;
         c.x = s.x[k];
         c.impreso = s.impreso[k];
         c.nuestro = s.nuestro[k];
@@ -123,8 +126,8 @@ std::string Notas(const Caso& c, std::size_t orden)
         return "    " + Izquierda(rotulo, 12) + dice + "\n";
     };
     std::string cifras = std::string(c.magnitud) + ", ";
-    if (c.serie.x.size() > 1)
-        cifras += std::to_string(c.serie.x.size()) + " cifras; la peor en ";
+    if (CuantasCifras(c) > 1)
+        cifras += std::to_string(CuantasCifras(c)) + " cifras; la peor en ";
     else
         cifras += "una cifra, en ";
     cifras += std::string(c.serie.eje) + " = " + Numero(c.x);
@@ -180,12 +183,23 @@ std::string CasoJson(const Caso& c)
 
 }  // namespace
 
-std::vector<Caso> Verifica()
+std::size_t CuantasCifras(const Caso& caso)
 {
+    return static_cast<std::size_t>(std::count_if(caso.serie.impreso.begin(), caso.serie.impreso.end(),
+                                                  [](double cifra) { return !std::isnan(cifra); }));
+}
+
+std::vector<Caso> Verifica(const AvanceDeVerifica& avance)
+{
+    std::size_t total = 0;
+    for (const auto familia : Familias)
+        total += familia().size();
     std::vector<Caso> casos;
     for (const auto familia : Familias)
-        for (const casos::FilaDeCaso& fila : familia())
+        for (const casos::FilaDeCaso& fila : familia()) {
+            if (avance && !avance(casos.size(), total)) return casos;
             casos.push_back(Corre(fila));
+        }
     return casos;
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -9,7 +11,8 @@
 // signs a study sees here what the program can be trusted with.
 namespace checks {
 
-/// What a case compares, for a table or a chart: three columns of one length.
+/// What a case compares, for a table or a chart: three columns of one length. Where the source has no figure
+/// it isn't a number; the curve around a figure that stands alone is shown with it.
 struct Serie {
     std::string_view eje{};         ///< what x is, with its unit
     std::vector<double> x{};        ///< rising
@@ -36,8 +39,15 @@ struct Caso {
     [[nodiscard]] bool Fuera() const { return !(desvio <= tolerancia); }
 };
 
+/// How many figures of a case are compared.
+std::size_t CuantasCifras(const Caso& caso);
+
+/// How far a check has come, `hechos` of `total` cases. Returns whether it goes on.
+using AvanceDeVerifica = std::function<bool(std::size_t hechos, std::size_t total)>;
+
 /// Runs every case, in under two seconds: they are the same on every machine, to the last bit of the engine.
-std::vector<Caso> Verifica();
+/// On any thread. Where `avance`, which is asked ahead of each case, stops it, those so far.
+std::vector<Caso> Verifica(const AvanceDeVerifica& avance = {});
 
 /// How many are out of tolerance.
 int CuantosFuera(const std::vector<Caso>& casos);

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/FormasDeComponentes_ventana.h"
 
+#include <utility>
+
+#include "editor/EnMano.h"
 #include "editor/fichas/dlgCauceEditProp_ventana.h"
 #include "editor/fichas/dlgLago_ventana.h"
 #include "editor/fichas/dlgRepresas_ventana.h"
@@ -20,6 +23,10 @@ void FormasDeComponentes::Abre(Pedido forma)
         return AbreRepresa();
     case Pedido::FormaLago:
         return AbreLago();
+    case Pedido::TablaHAS:
+        return AbreTablaDeComponente(entorno.s.Seleccion.LagoSel > 0 ? TipoTabla::SHVQ : TipoTabla::SHV);
+    case Pedido::TablaHQ:
+        return AbreTablaDeComponente(TipoTabla::FQ);
     case Pedido::Menu:
         return;
     }
@@ -37,6 +44,19 @@ void FormasDeComponentes::AbreRepresa()
         ventana.Muestra();
     };
     ventana.Abre();
+}
+
+/// The table of the selected component, without its form behind.
+void FormasDeComponentes::AbreTablaDeComponente(TipoTabla tipo)
+{
+    const model::Siro& s = entorno.s;
+    const bool deLago = tipo == TipoTabla::SHVQ;
+    const std::string nombre =
+        deLago ? EnMano<model::Lago>(entorno.s).NombreLAGO : EnMano<model::Represa>(entorno.s).NombreRepresa;
+    const int numero = deLago ? s.Seleccion.LagoSel : s.Seleccion.RepresaSel;
+    dlgTabla_ventana ventana(entorno, tabla, tipo, &padre);
+    ventana.ordenada = std::exchange(ordenaTabla, false);
+    ventana.Abre(std::to_string(numero), nombre);
 }
 
 void FormasDeComponentes::AbreLago()

@@ -24,6 +24,9 @@ class FormasDeComponentes {
     /// FinDelPrograma go to the caller.
     void Abre(Pedido forma);
 
+    /// The next table that opens has its rows in order, which is work that isn't applied yet.
+    bool ordenaTabla = false;
+
     dlgUEH2 ueh{};
     dlgCauceEditProp cauce{};
     dlgRepresas represa{};
@@ -33,6 +36,7 @@ class FormasDeComponentes {
   private:
     void AbreRepresa();
     void AbreLago();
+    void AbreTablaDeComponente(TipoTabla tipo);
 
     forms::Entorno& entorno;
     QWidget& padre;

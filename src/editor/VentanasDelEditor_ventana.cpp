@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "editor/Hallazgos.h"
 #include "editor/Resguardo.h"
 #include "editor/fichas/dlgUEHsEditTabla_ventana.h"
 
@@ -47,6 +48,28 @@ bool VentanasDelEditor::AlzaEditor()
     ventanaRed.raise();
     ventanaRed.activateWindow();
     return true;
+}
+
+const model::Colecciones* VentanasDelEditor::SinGuardar() const
+{
+    return red.abierta && red.cambiada ? &entorno.s.Red : nullptr;
+}
+
+bool VentanasDelEditor::VaA(const checks::Hallazgo& hallazgo, bool ordenada)
+{
+    bool esta = false;
+    formas.ordenaTabla = ordenada;
+    ventanaRed.Suceda(
+        [&] { esta = editor::VaA(red, entorno.s, hallazgo.componente, checks::LugarDe(hallazgo)); });
+    formas.ordenaTabla = false;
+    return esta;
+}
+
+int VentanasDelEditor::Corrige(const std::vector<checks::Hallazgo>& hallazgos)
+{
+    int hechos = 0;
+    ventanaRed.Suceda([&] { hechos = editor::Corrige(red, entorno.s, hallazgos); });
+    return hechos;
 }
 
 void VentanasDelEditor::AbreEditorDeTabla(QWidget& padre)

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <functional>
+#include <vector>
 
+#include "checks/Hallazgo.h"
 #include "editor/FormasDeComponentes_ventana.h"
 #include "editor/fichas/dlgUEHsEditTabla.h"
 #include "editor/fichas/dlgUEHsTabla.h"
@@ -29,6 +31,14 @@ class VentanasDelEditor {
     void AbreEditor() { ventanaRed.Abre(); }
     /// Closes it without a question; the main window comes back.
     void CierraEditor();
+
+    /// Components in memory that aren't saved, where the editor holds some; else nullptr.
+    [[nodiscard]] const model::Colecciones* SinGuardar() const;
+    /// Shows where a finding of a component can be changed, with the table's rows put in order where
+    /// `ordenada`. The editor is open. Returns whether the component is there.
+    bool VaA(const checks::Hallazgo& hallazgo, bool ordenada = false);
+    /// Does mends in the drawing, as one step of its history. The editor is open. Returns how many were done.
+    int Corrige(const std::vector<checks::Hallazgo>& hallazgos);
 
     /// The tabular editor, until it is closed; `padre` is the window that it belongs to. Runs inside an
     /// event.

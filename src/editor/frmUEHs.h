@@ -33,6 +33,8 @@ enum class Pedido : std::uint8_t {
     FormaCauce,    ///< properties of a reach
     FormaRepresa,  ///< properties of a Represa
     FormaLago,     ///< properties of a Lago
+    TablaHAS,      ///< table of height, area and storage of a Represa, or all of a Lago's
+    TablaHQ,       ///< table of height and outflow of a Represa
 };
 
 /// Keys that the editor knows.

@@ -28,6 +28,8 @@ class frmUEHs_ventana : public forms::Ventana {
     /// Reads the project's network and shows it.
     void Abre();
     void Muestra() override;
+    /// An event from outside, as one of its own: the forms that it asks for open, the record is shown.
+    void Suceda(const std::function<void()>& rutina) { Hace(rutina); }
 
     /// Opens the form of a component; whoever has the forms sets it.
     std::function<void(Pedido forma)> AbreForma = [](Pedido) {};

@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <chrono>
 
+#include "checks/Lugares.h"
 #include "forms/Cajas_ventana.h"
 #include "forms/Textos_ventana.h"
 #include "shell/VisorDeAyuda_ventana.h"
@@ -150,6 +151,35 @@ void Escritorio::PonEstudio()
         s.Control.IndComp = LugarEnSecuencia(s, componente);
         Abre(Ventana::dlgChart2);
     };
+    ventanasEstudio->VeAComponente = [this](const std::string& componente) {
+        VeAHallazgo({.componente = componente}, false);
+    };
+    checks::dlgRevisar_ventana& revisar = ventanasEstudio->VentanaRevisar();
+    revisar.DibujoSinGuardar = [this] { return ventanasEditor->SinGuardar(); };
+    revisar.Va = [this](const checks::Hallazgo& h) { VeAHallazgo(h, false); };
+    revisar.Ordena = [this](const checks::Hallazgo& h) { VeAHallazgo(h, true); };
+    revisar.Corrige = [this](const std::vector<checks::Hallazgo>& hallazgos) {
+        mnufrmUEHs(principal, s, mandos);
+        const int hechos = ventanasEditor->Corrige(hallazgos);
+        // The list stays in sight; the editor stands behind it.
+        ventanaPrincipal->show();
+        ventanaPrincipal->raise();
+        ventanaPrincipal->activateWindow();
+        return hechos;
+    };
+}
+
+/// Opens the place where a finding can be changed, with a table's rows put in order where `ordenada`. One
+/// that names no component is the configuration's, unless it has a place of its own.
+void Escritorio::VeAHallazgo(const checks::Hallazgo& hallazgo, bool ordenada)
+{
+    const checks::Lugar lugar = checks::LugarDe(hallazgo);
+    const bool sinNumero = hallazgo.numero == 0 && hallazgo.componente.empty();
+    if (lugar == checks::Lugar::Configuracion || sinNumero)
+        return mnuOpcionesConfigurar(principal, s, mandos);
+    if (lugar == checks::Lugar::Tormenta) return mnufrmPp(principal, s, mandos);
+    mnufrmUEHs(principal, s, mandos);
+    if (lugar != checks::Lugar::Editor) ventanasEditor->VaA(hallazgo, ordenada);
 }
 
 void Escritorio::PonAvance()

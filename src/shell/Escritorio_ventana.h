@@ -70,6 +70,7 @@ class Escritorio {
     void PonVentanas();
     void PonLluvia();
     void PonEstudio();
+    void VeAHallazgo(const checks::Hallazgo& hallazgo, bool ordenada);
     void PonAvance();
     void PonMandos();
     void Cierra(Ventana ventana);

@@ -11,7 +11,11 @@
 namespace shell {
 
 VentanasDeEstudio::VentanasDeEstudio(forms::Entorno& alrededor, MDIForm1_ventana& laPrincipal)
-    : entorno(alrededor), principal(laPrincipal), linea(*laPrincipal.statusBar())
+    : entorno(alrededor),
+      principal(laPrincipal),
+      linea(*laPrincipal.statusBar()),
+      ventanaRevisar(alrededor, revisar),
+      ventanaVerificar(alrededor, verificar)
 {
     entorno.TrasSuceso = [this] { RefrescaLuego(); };
     juicio.AlCambiar = [this] { RefrescaLuego(); };
@@ -40,7 +44,11 @@ void VentanasDeEstudio::TrasSerie()
     juicio.PideSerie(entorno.s);
 }
 
-void VentanasDeEstudio::Abre(Ventana /*ventana*/) {}
+void VentanasDeEstudio::Abre(Ventana ventana)
+{
+    if (ventana == Ventana::Revisar) ventanaRevisar.Abre();
+    if (ventana == Ventana::Verificar) ventanaVerificar.Abre();
+}
 
 void VentanasDeEstudio::RefrescaLuego()
 {

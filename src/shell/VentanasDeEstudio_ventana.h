@@ -5,6 +5,10 @@
 #include <string>
 
 #include "checks/Sello.h"
+#include "checks/dlgRevisar.h"
+#include "checks/dlgRevisar_ventana.h"
+#include "checks/dlgVerificar.h"
+#include "checks/dlgVerificar_ventana.h"
 #include "forms/Entorno_ventana.h"
 #include "shell/JuicioDeCorrida_ventana.h"
 #include "shell/LineaDeEstado_ventana.h"
@@ -27,6 +31,8 @@ class VentanasDeEstudio {
     /// What the results in memory are of; of the state in memory before the first run.
     [[nodiscard]] const checks::Sello& SelloDeResultados() const { return sello; }
     JuicioDeCorrida& Juicio() { return juicio; }
+    /// The check before a run; what it asks of the editor is set from outside.
+    checks::dlgRevisar_ventana& VentanaRevisar() { return ventanaRevisar; }
 
     /// Brings one of the windows up. Runs inside an event.
     void Abre(Ventana ventana);
@@ -51,6 +57,10 @@ class VentanasDeEstudio {
     bool programado = false;
     JuicioDeCorrida juicio{};
     LineaDeEstado linea;
+    checks::dlgRevisar revisar{};
+    checks::dlgVerificar verificar{};
+    checks::dlgRevisar_ventana ventanaRevisar;
+    checks::dlgVerificar_ventana ventanaVerificar;
 };
 
 }  // namespace shell

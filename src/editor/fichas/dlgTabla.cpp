@@ -348,6 +348,30 @@ bool Aplica(dlgTabla& f, Siro& s)
 
 }  // namespace
 
+void OrdenaPorAltura(dlgTabla& f)
+{
+    if (!SonNumeros(f)) return;
+    const auto celdas = [&](int fila) {
+        std::vector<double> numeros;
+        for (int columna = PrimeraColumna; columna < f.grilla.NroColumnas(); ++columna)
+            numeros.push_back(f.grilla.Numero({fila, columna}));
+        return numeros;
+    };
+    std::vector<std::pair<std::vector<double>, forms::FilaGrilla>> filas;
+    for (int fila = 1; fila <= f.NroFilas; ++fila)
+        filas.emplace_back(celdas(fila), f.grilla.filas[static_cast<std::size_t>(fila) - 1]);
+    std::stable_sort(filas.begin(), filas.end(),
+                     [](const auto& a, const auto& b) { return a.first[0] < b.first[0]; });
+    filas.erase(std::unique(filas.begin(), filas.end(),
+                            [](const auto& a, const auto& b) { return a.first == b.first; }),
+                filas.end());
+    for (std::size_t k = 0; k < filas.size(); ++k)
+        f.grilla.filas[k] = filas[k].second;
+    PonFilas(f, static_cast<std::int16_t>(filas.size()));
+    f.cortadas.clear();
+    f.txtNroFilas = NumeroATexto(std::int32_t{f.NroFilas});
+}
+
 bool cmdAplicar(dlgTabla& f, Siro& s)
 {
     bool hecho = true;

@@ -96,6 +96,10 @@ void txtNroFilas_Change(dlgTabla& f, const model::Siro& s, std::string texto);
 /// Empties every data cell; the rows stay, those that were cut are forgotten.
 void cmdBorraTablaHQ(dlgTabla& f);
 
+/// Puts the rows in order of rising height, those that are there twice once. A grid with a cell that is no
+/// number stays as it is.
+void OrdenaPorAltura(dlgTabla& f);
+
 /// Checks the cells, and where nothing is wrong takes them into the arrays and writes the file. The cursor
 /// stands on what was refused last. Blocks of other components that the file would lose, having been left
 /// behind by a rename, are asked about first. Returns false where the table had to be written and wasn't: the

@@ -81,6 +81,7 @@ QLayout* dlgTabla_ventana::Botones()
 void dlgTabla_ventana::Abre(std::string nro, std::string nombre)
 {
     editor::Abre(f, entorno.s, tipo, std::move(nro), std::move(nombre));
+    if (ordenada) OrdenaPorAltura(f);
     AlCambiarTablas();
     Muestra();
     // Without rows there is nothing to type into but their number.

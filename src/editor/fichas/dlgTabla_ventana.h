@@ -28,6 +28,9 @@ class dlgTabla_ventana : public forms::Formulario {
     /// Runs whenever the tables may have been read or written.
     std::function<void()> AlCambiarTablas = [] {};
 
+    /// It opens with its rows in order, not applied yet.
+    bool ordenada = false;
+
   protected:
     void AlCerrar() override;
     bool SinAplicar() override { return editor::SinAplicar(f); }
