@@ -59,8 +59,12 @@ bool VentanasDelEditor::VaA(const checks::Hallazgo& hallazgo, bool ordenada)
 {
     bool esta = false;
     formas.ordenaTabla = ordenada;
-    ventanaRed.Suceda(
-        [&] { esta = editor::VaA(red, entorno.s, hallazgo.componente, checks::LugarDe(hallazgo)); });
+    ventanaRed.Suceda([&] {
+        // The form that comes takes the keyboard before the window is told that it has become active.
+        AlActivarse(red, entorno.s);
+        ventanaRed.MuestraPrincipal(red.principalVisible);
+        esta = editor::VaA(red, entorno.s, hallazgo.componente, checks::LugarDe(hallazgo));
+    });
     formas.ordenaTabla = false;
     return esta;
 }

@@ -10,6 +10,7 @@
 #include "checks/Lugares.h"
 #include "forms/Cajas_ventana.h"
 #include "forms/Textos_ventana.h"
+#include "model/Avisos.h"
 #include "shell/VisorDeAyuda_ventana.h"
 #include "shell/dlgEliminarProyecto_ventana.h"
 #include "shell/frmAcerca_ventana.h"
@@ -179,7 +180,9 @@ void Escritorio::VeAHallazgo(const checks::Hallazgo& hallazgo, bool ordenada)
         return mnuOpcionesConfigurar(principal, s, mandos);
     if (lugar == checks::Lugar::Tormenta) return mnufrmPp(principal, s, mandos);
     mnufrmUEHs(principal, s, mandos);
-    if (lugar != checks::Lugar::Editor) ventanasEditor->VaA(hallazgo, ordenada);
+    if (lugar == checks::Lugar::Editor || !ventanasEditor->red.abierta || entorno.Terminando()) return;
+    if (!ventanasEditor->VaA(hallazgo, ordenada) && !entorno.Terminando())
+        model::Informa(s, "El componente " + hallazgo.componente + " no está en la red del proyecto");
 }
 
 void Escritorio::PonAvance()
