@@ -146,7 +146,8 @@ bool PasaMuskingum(ParMuskingum par, std::int16_t PasoQ)
 bool EnVentana(ParMuskingum par, std::int16_t PasoQ)
 {
     const double K = par.K, x = par.x;
-    return 2 * K * x <= PasoQ && PasoQ <= 2 * K * (1 - x);
+    constexpr double Holgura = 1e-6;  // the float of 0.2 is above 0.2, and 25 min with it stand on the border
+    return 2 * K * x <= PasoQ * (1 + Holgura) && PasoQ * (1 - Holgura) <= 2 * K * (1 - x);
 }
 
 std::optional<ParMuskingum> MuskingumCercano(ParMuskingum par, std::int16_t PasoQ, bool conX)

@@ -24,7 +24,8 @@ struct ParMuskingum {
 /// Whether a run takes the pair: the same test in the same floats.
 bool PasaMuskingum(ParMuskingum par, std::int16_t PasoQ);
 
-/// Whether no coefficient is negative: 2Kx <= dt <= 2K(1-x).
+/// Whether no coefficient is negative: 2Kx <= dt <= 2K(1-x), both ends included but for the rounding of a
+/// 32-bit float.
 bool EnVentana(ParMuskingum par, std::int16_t PasoQ);
 
 /// The pair in the window that a run takes and that is nearest to another, hundredths of a minute away at

@@ -129,12 +129,16 @@ std::optional<int> Corrido::Traslado(const model::UEH& u)
     return OSinValor([&] { return model::Entero16(model::Cociente(u.LongitudMax, u.VelMedia) / 60); });
 }
 
-std::optional<int> Corrido::Retardo(const model::Cauce& c) const
+std::optional<int> Corrido::Viaje(const model::Cauce& c)
 {
-    return OSinValor([&] {
-        const int viaje = model::Entero16(model::Cociente(c.LongCauce, c.VelMediaCauce) / 60);
-        return model::Entero16(model::Cociente(viaje, pasos.PasoQ));
-    });
+    return OSinValor([&] { return model::Entero16(model::Cociente(c.LongCauce, c.VelMediaCauce) / 60); });
+}
+
+std::optional<int> Corrido::Retardo(const model::Cauce& c, std::int16_t PasoQ)
+{
+    const std::optional<int> viaje = Viaje(c);
+    if (!viaje) return {};
+    return OSinValor([&] { return model::Entero16(model::Cociente(*viaje, PasoQ)); });
 }
 
 bool Corrido::HayReceptor(std::string_view nombre) const

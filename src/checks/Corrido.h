@@ -72,8 +72,10 @@ class Corrido {
     [[nodiscard]] double Volumen(const model::Matriz<float>& Q, int fila, int desde, int hasta) const;
     /// Travel time [min] on the slope of a UEH, as the run rounds it; nothing where that is at fault.
     [[nodiscard]] static std::optional<int> Traslado(const model::UEH& u);
-    /// Delay [output steps] of a Direct reach, the same way.
-    [[nodiscard]] std::optional<int> Retardo(const model::Cauce& c) const;
+    /// Travel time [min] of a Direct reach and its delay [output steps], the same way.
+    [[nodiscard]] static std::optional<int> Viaje(const model::Cauce& c);
+    [[nodiscard]] static std::optional<int> Retardo(const model::Cauce& c, std::int16_t PasoQ);
+    [[nodiscard]] std::optional<int> Retardo(const model::Cauce& c) const { return Retardo(c, pasos.PasoQ); }
     /// Whether a receptor bears this name, so that what drains into it isn't an outfall.
     [[nodiscard]] bool HayReceptor(std::string_view nombre) const;
     [[nodiscard]] bool EsSalida(const ComponenteCorrido& c) const { return !HayReceptor(c.destino); }

@@ -3,6 +3,8 @@
 
 #include <concepts>
 #include <cstdint>
+#include <initializer_list>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -181,6 +183,25 @@ bool AlSalir(Forma& f, model::Siro& s, std::string_view control)
 {
     if (control == Forma::Reglas.controlNombre) return GuardaNombre(f, s);
     return forms::AlSalir(f, s, Forma::Reglas.campos, control);
+}
+
+// --- what stands beside a field while it is typed ---
+
+/// A copy of the component in hand with the numbers of some fields as they stand now; nothing where the text
+/// of one of them is refused, or no component is in hand.
+template <EsFicha Forma>
+std::optional<ComponenteDe<Forma>> ConLoEscrito(const Forma& f, model::Siro& s,
+                                                std::initializer_list<std::string_view> controles)
+{
+    if (!f.abierta || !HayEnMano<ComponenteDe<Forma>>(s)) return {};
+    ComponenteDe<Forma> componente = EnMano<ComponenteDe<Forma>>(s);
+    for (const std::string_view control : controles) {
+        const auto* const campo = forms::CampoDe(Forma::Reglas.campos, control);
+        const std::string& texto = f.*campo->texto;
+        if (!forms::Vale(campo->regla, texto)) return {};
+        componente.*campo->valor = static_cast<float>(*forms::NumeroDeCampo(texto));
+    }
+    return componente;
 }
 
 // --- storing and closing ---

@@ -64,6 +64,14 @@ bool SaleDeHInicialEmb(FichaEmbalse& f, const model::Siro& s, AlturasTabla altur
     return false;
 }
 
+std::optional<float> AlturaEscrita(const FichaEmbalse& f)
+{
+    const std::optional<double> x = forms::NumeroDeCampo(f.txtHInicialEmb);
+    const auto altura = static_cast<float>(x.value_or(0));
+    if (!x || !std::isfinite(altura)) return {};
+    return altura;
+}
+
 void LlevaTablas(FichaEmbalse& f, const model::Siro& s, std::span<const model::ArchivoDeTablas> archivos,
                  const std::string& nombre)
 {

@@ -5,11 +5,13 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "checks/Asistente.h"
 #include "editor/ClasesConIcono.h"
 #include "editor/fichas/Ficha.h"
 #include "forms/CampoNumerico.h"
@@ -143,6 +145,20 @@ bool AlSalir(Forma& f, model::Siro& s, std::string_view control)
         return SaleDeHInicialEmb(f, s, {H(numero, 1), H(numero, (s.Red.*TablasDe<T>.filas)(numero))});
     }
     return forms::AlSalir(f, s, Forma::Reglas.campos, control);
+}
+
+/// The initial height as it stands [m]; nothing where it is no number.
+std::optional<float> AlturaEscrita(const FichaEmbalse& f);
+
+/// Beside k: Muskingum's window, with x as 0, which is what a run makes of it. Empty with another method, or
+/// where k is refused.
+template <EsFichaEmbalse Forma>
+std::string ApunteMuskingum(const Forma& f, model::Siro& s)
+{
+    const auto& k = Forma::Reglas.campos.front();
+    const auto embalse = ConLoEscrito(f, s, {k.regla.control});
+    if (!embalse || !f.MuskingumVisible()) return {};
+    return checks::ApunteDeMuskingum({(*embalse).*k.valor, 0}, checks::PasoDeCorrida(s.Pasos), false);
 }
 
 /// Drains the component in hand to the entry of the list of destinations that is selected, point included.

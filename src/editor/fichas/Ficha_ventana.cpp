@@ -5,6 +5,9 @@
 #include <QTimer>
 #include <utility>
 
+#include "forms/Apunte_ventana.h"
+#include "model/Avisos.h"
+
 namespace editor {
 
 using forms::ListaParaElegir;
@@ -30,6 +33,8 @@ PartesDeFicha::PartesDeFicha(forms::Entorno& alrededor, const forms::Descripcion
 {
     desdeElPrincipio = true;
     Sigue(ficha.abierta, &ficha.foco);
+    porApuntar.setSingleShot(true);
+    connect(&porApuntar, &QTimer::timeout, this, [this] { PonApuntes(); });
 }
 
 // --- parts ---
@@ -107,6 +112,29 @@ void PartesDeFicha::Dispone(const Partes& cuerpo, std::function<void()> acepta)
     aceptar->setDefault(true);
     setLayout(EnPila({{EnFila(cuerpo), 1},
                       EnFila({Hueco(), aceptar, BotonSinRevisar("CancelButton", [this] { AlCerrar(); })})}));
+    for (const QLineEdit* const campo : findChildren<QLineEdit*>())
+        connect(campo, &QLineEdit::textEdited, &porApuntar, qOverload<>(&QTimer::start));
+}
+
+// --- what is said of the fields ---
+
+Partes PartesDeFicha::LineaDeApunte(std::string_view control, int lineas, std::function<std::string()> texto)
+{
+    auto* const linea = new forms::Apunte(lineas);
+    linea->setObjectName(QStringLiteral("apunte_") + Q(control));
+    apuntes.emplace_back([linea, texto = std::move(texto)] {
+        std::string dicho;
+        model::Sentencia([&] { dicho = texto(); });
+        linea->Pon(Q(dicho));
+    });
+    AlMostrar(apuntes.back());
+    return {linea};
+}
+
+void PartesDeFicha::PonApuntes()
+{
+    for (const std::function<void()>& pone : apuntes)
+        pone();
 }
 
 // --- focus ---

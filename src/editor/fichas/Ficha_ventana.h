@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QTimer>
 #include <algorithm>
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "editor/fichas/Ficha.h"
 #include "forms/Formulario_ventana.h"
@@ -43,8 +45,15 @@ class PartesDeFicha : public forms::Formulario {
     /// The whole form: what it holds, side by side, above "Aceptar" and "Cancelar".
     void Dispone(const forms::Partes& cuerpo, std::function<void()> acepta);
 
+    /// The line under the field of a control, as a row of a grid: it follows every key.
+    forms::Partes LineaDeApunte(std::string_view control, int lineas, std::function<std::string()> texto);
+
   private:
+    void PonApuntes();
+
     Ficha& ficha;
+    std::vector<std::function<void()>> apuntes{};
+    QTimer porApuntar;  ///< runs behind the keys that are waiting
 };
 
 /// Routines of a form by its record's type, from where a window's own ones of the same name hide them.
@@ -99,6 +108,13 @@ class Ficha_ventana : public PartesDeFicha {
     QLineEdit* NumeroSuelto(const Campos& tabla, std::string_view control)
     {
         return CampoNumero(control, f.*FilaDe(tabla, control).texto, Sale(control));
+    }
+
+    /// What is said of the record in a line under a control; the object is `apunte_` and the control.
+    forms::Partes Apunta(std::string_view control, int lineas,
+                         std::string (*dice)(const Forma& forma, model::Siro& s))
+    {
+        return LineaDeApunte(control, lineas, [this, dice] { return dice(f, entorno.s); });
     }
 
     /// The same with caption and unit.

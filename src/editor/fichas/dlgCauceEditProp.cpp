@@ -3,6 +3,7 @@
 
 #include <optional>
 
+#include "checks/Asistente.h"
 #include "editor/Cauces.h"
 #include "model/Numeros.h"
 
@@ -67,6 +68,22 @@ void optMusk_Click(dlgCauceEditProp& f)
 {
     f.optMusk = true;
     f.optDirecta = false;
+}
+
+std::string ApunteViaje(const dlgCauceEditProp& f, Siro& s)
+{
+    auto cauce = ConLoEscrito(f, s, {"txtLongCauce", "txtVelMediaCauce"});
+    if (!cauce) return {};
+    cauce->optDirMusk = f.optDirecta;
+    return checks::ApunteDeViaje(*cauce, s.Pasos);
+}
+
+std::string ApunteMuskingum(const dlgCauceEditProp& f, Siro& s)
+{
+    const auto cauce = ConLoEscrito(f, s, {"txtCauce_k_Musk", "txtCauce_n_Musk"});
+    if (!cauce || !f.optMusk) return {};
+    return checks::ApunteDeMuskingum({cauce->Cauce_k_Musk, cauce->Cauce_n_Musk},
+                                     checks::PasoDeCorrida(s.Pasos), true);
 }
 
 std::int32_t LongitudDibujada(const model::Red& red, int numCauce, double escala)

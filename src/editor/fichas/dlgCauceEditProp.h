@@ -98,6 +98,11 @@ void lstTributaCauce_Click(dlgCauceEditProp& f, model::Siro& s, int indice);
 void optDirecta_Click(dlgCauceEditProp& f);
 void optMusk_Click(dlgCauceEditProp& f);
 
+// Beside velocity and x: travel time and delay, Muskingum's window, with the fields as they stand. Empty
+// where one of them is refused, the second with the other routing too.
+std::string ApunteViaje(const dlgCauceEditProp& f, model::Siro& s);
+std::string ApunteMuskingum(const dlgCauceEditProp& f, model::Siro& s);
+
 /// Length of a reach as drawn [m], rounded at each vertex, at `escala` [m per drawing unit]. Throws Falla 6
 /// where it is outside its type.
 std::int32_t LongitudDibujada(const model::Red& red, int numCauce, double escala);

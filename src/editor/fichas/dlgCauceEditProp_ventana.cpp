@@ -43,8 +43,10 @@ dlgCauceEditProp_ventana::dlgCauceEditProp_ventana(forms::Entorno& alrededor, dl
         {Hueco(), EnFila({Opcion("optMusk", f.optMusk, [this] { optMusk_Click(f); }),
                           Opcion("optDirecta", f.optDirecta, [this] { optDirecta_Click(f); }), Hueco()})},
         Numero(CamposDlgCauceEditProp, "txtVelMediaCauce"),
+        Apunta("txtVelMediaCauce", 1, ApunteViaje),
         Numero(CamposDlgCauceEditProp, "txtCauce_k_Musk"),
         Numero(CamposDlgCauceEditProp, "txtCauce_n_Musk"),
+        Apunta("txtCauce_n_Musk", 2, ApunteMuskingum),
     });
     Dispone({lista, {datos, 1}}, [this] { OKButton(f, entorno.s); });
 }

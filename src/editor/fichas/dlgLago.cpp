@@ -67,6 +67,15 @@ void cmdLlevaTablas(dlgLago& f, Siro& s)
     MuestraParametros(f, s, lago.numLAGO, SinDatosEnTabla);
 }
 
+std::string ApunteAltura(const dlgLago& f, Siro& s)
+{
+    const auto altura = AlturaEscrita(f);
+    auto lago = ConLoEscrito(f, s, {});
+    if (!lago || !altura) return {};
+    lago->HInicialEmb = *altura;
+    return checks::ApunteDeAltura(s.Red, *lago);
+}
+
 PedidoFicha cmdParametros(const dlgLago& f)
 {
     return f.abierta ? PedidoFicha::dlgTablaSHVQ : PedidoFicha::Nada;

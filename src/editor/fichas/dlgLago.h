@@ -84,6 +84,9 @@ void lstCauceAA_Click(dlgLago& f, model::Siro& s, int indice);
 /// A method is picked, from 0; it is stored with the fields.
 void lstMetodo_Click(dlgLago& f, int indice);
 
+/// Beside the initial height: what is stored and let out there; empty where it is no number.
+std::string ApunteAltura(const dlgLago& f, model::Siro& s);
+
 /// The table that a rename has left behind takes the name of the Lago in hand.
 void cmdLlevaTablas(dlgLago& f, model::Siro& s);
 

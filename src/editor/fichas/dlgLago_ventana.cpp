@@ -28,7 +28,9 @@ QWidget* dlgLago_ventana::MarcoDeArea()
         EnRejilla({Destinos(),
                    Metodo(),
                    {EnFila(Coeficiente(CamposDlgLago, "txtLago_k", {"lblLagoCofk", f.lblLagoCofk}, 'k'))},
+                   Apunta("txtLago_k", 2, ApunteMuskingum<dlgLago>),
                    AlturaInicial(),
+                   Apunta("txtHInicialEmb", 2, ApunteAltura),
                    {Boton("cmdParametros", [this] { AbreTabla(cmdParametros(f)); }),
                     Texto("lblParametros", f.lblParametros)}}));
 }

@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "checks/Asistente.h"
+#include "model/Avisos.h"
 #include "model/Numeros.h"
 #include "model/TablasEmbalse.h"
 #include "model/Texto.h"
@@ -48,6 +50,18 @@ void GuardaFunciones(const dlgRepresas& f, Represa& represa)
             if (campo.Tiene(i)) (represa.*campo.valores)[i] = NumeroInicial((f.*campo.textos)[i]);
 }
 
+/// Reads the tables of outflow beside the network, without a word: a run reads them anew, and says what is
+/// wrong with them.
+void LeeDescargas(dlgRepresas& f, const Siro& s)
+{
+    Siro aparte;
+    aparte.Disco = s.Disco;
+    aparte.Proyecto = s.Proyecto;
+    aparte.Red.ColRepresas = s.Red.ColRepresas;
+    model::Sentencia([&] { model::LeeTablaHQRepresa(aparte); });
+    f.descargas = {aparte.Red.RepresaFilasHQ, aparte.Red.RepresaQH, aparte.Red.RepresaQQ};
+}
+
 /// Leaving fields without limits of their own: only the decimal sign is put right.
 void PonPuntos(TextosFQ& textos)
 {
@@ -72,6 +86,7 @@ void AlTomar(dlgRepresas& f, Siro& s)
 {
     MuestraCampos(f, s);
     BuscaTablas(f, s);
+    LeeDescargas(f, s);
 }
 
 void GuardaCampos(dlgRepresas& f, Siro& s)
@@ -131,11 +146,36 @@ void cmdLlevaTablas(dlgRepresas& f, Siro& s)
 {
     LlevaTablas(f, s, ArchivosDeRepresa, EnMano<Represa>(s).NombreRepresa);
     model::LeeTablaHSVRepresa(s);
+    LeeDescargas(f, s);
 }
 
 void AlVolver(dlgRepresas& f, const Siro& s)
 {
-    if (f.abierta && s.Seleccion.RepresaSel > 0) BuscaTablas(f, s);
+    if (!f.abierta || s.Seleccion.RepresaSel <= 0) return;
+    BuscaTablas(f, s);
+    LeeDescargas(f, s);
+}
+
+std::string ApunteAltura(const dlgRepresas& f, Siro& s)
+{
+    const auto altura = AlturaEscrita(f);
+    auto represa = ConLoEscrito(f, s, {});
+    if (!represa || !altura) return {};
+    GuardaFunciones(f, *represa);
+    represa->HInicialEmb = *altura;
+    model::Red red = s.Red;
+    red.RepresaFilasHQ = f.descargas.filas;
+    red.RepresaQH = f.descargas.H;
+    red.RepresaQQ = f.descargas.Q;
+    return checks::ApunteDeAltura(red, *represa);
+}
+
+std::string ApunteFunciones(const dlgRepresas& f, Siro& s)
+{
+    auto represa = ConLoEscrito(f, s, {});
+    if (!represa) return {};
+    GuardaFunciones(f, *represa);
+    return checks::ApunteDeFunciones(*represa, AlturaEscrita(f));
 }
 
 PedidoFicha cmdHSV(const dlgRepresas& f)

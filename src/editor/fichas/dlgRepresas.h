@@ -3,11 +3,13 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
 #include "editor/fichas/FichaEmbalse.h"
 #include "forms/CampoNumerico.h"
+#include "model/Arreglo.h"
 #include "model/Represa.h"
 #include "model/SiroDeclarado.h"
 
@@ -50,6 +52,13 @@ inline constexpr auto RotulosDlgRepresas = std::to_array<forms::FilaRotulo>({
 /// Texts of a field of the outflow functions; function 1 at index 0.
 using TextosFQ = std::array<std::string, model::NroFuncionesFQ>;
 
+/// The tables of outflow as their file has them. Opening this form reads none into the network.
+struct DescargasEnDisco {
+    model::Arreglo<std::int16_t> filas{};
+    model::Matriz<float> H{}, Q{};
+    bool operator==(const DescargasEnDisco&) const = default;
+};
+
 /// What the form's controls hold.
 struct dlgRepresas : FichaEmbalse {
     Lista lstRepresas{};
@@ -62,6 +71,7 @@ struct dlgRepresas : FichaEmbalse {
     std::array<bool, model::NroFuncionesFQ> chkFQ{};
     TextosFQ txtFQa{}, txtFQb{}, txtFQc{};  ///< of c only those of functions that have one
     TextosFQ txtFQHmin{}, txtFQHMax{};      ///< [m]
+    DescargasEnDisco descargas{};
     bool operator==(const dlgRepresas&) const = default;
 
     static const ReglasFicha<dlgRepresas, model::Represa> Reglas;
@@ -136,6 +146,11 @@ void optTablaQ_Click(dlgRepresas& f);
 void optFunciones_Click(dlgRepresas& f);
 /// `funcion` from 1.
 void chkFQ_Click(dlgRepresas& f, int funcion, bool marcada);
+
+// Beside the initial height and the functions: what is stored and let out at that height, with the fields as
+// they stand; the first is empty where the height is no number.
+std::string ApunteAltura(const dlgRepresas& f, model::Siro& s);
+std::string ApunteFunciones(const dlgRepresas& f, model::Siro& s);
 
 /// The tables that a rename has left behind take the name of the Represa in hand.
 void cmdLlevaTablas(dlgRepresas& f, model::Siro& s);

@@ -39,7 +39,9 @@ QLayout* dlgRepresas_ventana::Propiedades()
         coeficientes.push_back(parte);
     filas.push_back({EnFila(coeficientes)});
     filas.push_back({Texto("lblReferencia")});
+    filas.push_back(Apunta("txtRepresa_k", 2, ApunteMuskingum<dlgRepresas>));
     filas.push_back(AlturaInicial());
+    filas.push_back(Apunta("txtHInicialEmb", 2, ApunteAltura));
     filas.push_back({Boton("cmdHSV", [this] { AbreTabla(cmdHSV(f)); })});
     return EnRejilla(filas);
 }
@@ -67,6 +69,7 @@ QWidget* dlgRepresas_ventana::MarcoDeFunciones()
     std::vector<Partes> filas{titulos};
     for (int funcion = 1; funcion <= model::NroFuncionesFQ; ++funcion)
         filas.push_back(FilaDeFuncion(funcion));
+    filas.push_back(Apunta("txtFQHmin", 3, ApunteFunciones));
     return Marco("fraFunciones", EnRejilla(filas, {0, 1, 1, 1, 1, 1}));
 }
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "checks/Asistente.h"
 #include "editor/Cauces.h"
 #include "editor/ClasesConIcono.h"
 
@@ -63,6 +64,27 @@ void lstMetodo_Click(dlgUEH2& f, int indice)
     if (indice != 0) return;
     f.lstMetodo.indice = indice;
     f.lblMetodo = MetodoUEH;
+}
+
+std::string ApunteTraslado(const dlgUEH2& f, Siro& s)
+{
+    const auto ueh = ConLoEscrito(f, s, {"txtLongMax", "txtVelMedia"});
+    return ueh ? checks::ApunteDeTraslado(*ueh, s.Pasos) : std::string{};
+}
+
+std::string ApunteRetencion(const dlgUEH2& f, Siro& s)
+{
+    const auto ueh = ConLoEscrito(f, s, {"txtRetension_Z"});
+    return ueh ? checks::ApunteDeRetencion(checks::RepartoDe(*ueh, s.Tormenta, s.Pasos, s.TablasDeLluvia))
+               : std::string{};
+}
+
+std::string ApunteInfiltracion(const dlgUEH2& f, Siro& s)
+{
+    const auto ueh =
+        ConLoEscrito(f, s, {"txtRetension_Z", "txtKostiakov_a", "txtKostiakov_b", "txtKostiakov_i"});
+    return ueh ? checks::ApunteDeEscorrentia(checks::RepartoDe(*ueh, s.Tormenta, s.Pasos, s.TablasDeLluvia))
+               : std::string{};
 }
 
 std::optional<CurvaInfiltracion> CurvaDeCampos(const dlgUEH2& f)

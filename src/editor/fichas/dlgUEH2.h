@@ -128,6 +128,12 @@ void lstCauceAA_Click(dlgUEH2& f, model::Siro& s, int indice);
 /// A method is picked, from 0; it is stored with the fields.
 void lstMetodo_Click(dlgUEH2& f, int indice);
 
+// Beside velocity, retention and infiltration: travel time, and what becomes of the storm in hand, with the
+// fields as they stand. Empty where one of them is refused.
+std::string ApunteTraslado(const dlgUEH2& f, model::Siro& s);
+std::string ApunteRetencion(const dlgUEH2& f, model::Siro& s);
+std::string ApunteInfiltracion(const dlgUEH2& f, model::Siro& s);
+
 /// The infiltration curve of the fields as they stand; nothing where one of them is refused.
 std::optional<CurvaInfiltracion> CurvaDeCampos(const dlgUEH2& f);
 

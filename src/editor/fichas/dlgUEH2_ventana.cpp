@@ -14,8 +14,10 @@ dlgUEH2_ventana::dlgUEH2_ventana(forms::Entorno& alrededor, dlgUEH2& registro, Q
              EnPila({MarcoDeIdentificacion(),
                      {MarcoDeArea(), 1},
                      Marco("fraPropagacion", EnRejilla({Numero(CamposDlgUEH2, "txtLongMax"),
-                                                        Numero(CamposDlgUEH2, "txtVelMedia")})),
-                     Marco("fraRetencion", EnRejilla({Numero(CamposDlgUEH2, "txtRetension_Z")}))}),
+                                                        Numero(CamposDlgUEH2, "txtVelMedia"),
+                                                        Apunta("txtVelMedia", 1, ApunteTraslado)})),
+                     Marco("fraRetencion", EnRejilla({Numero(CamposDlgUEH2, "txtRetension_Z"),
+                                                      Apunta("txtRetension_Z", 1, ApunteRetencion)}))}),
              {EnPila({{MarcoDeInfiltracion(), 1}, MarcoDeRecesion()}), 1}},
             [this] { OKButton(f, entorno.s); });
 }
@@ -55,7 +57,8 @@ QWidget* dlgUEH2_ventana::MarcoDeInfiltracion()
         campo->setMinimumWidth(fontMetrics().averageCharWidth() * 9);
         formula.insert(formula.end(), {rotulo, {campo, 1}});
     }
-    QLayout* const inicial = EnRejilla({Numero(CamposDlgUEH2, "txtKostiakov_i")});
+    QLayout* const inicial =
+        EnRejilla({Numero(CamposDlgUEH2, "txtKostiakov_i"), Apunta("txtKostiakov_i", 2, ApunteInfiltracion)});
     curva = Curva("CurvaInfiltracion", [this] { return GraficoDe(CurvaDeCampos(f)); });
     QGroupBox* const marco = Marco("fraInfiltracion", EnPila({EnFila(formula), inicial, {curva, 1}}));
     for (QLineEdit* const campo : marco->findChildren<QLineEdit*>())
