@@ -86,12 +86,14 @@ Sello SelloDe(const model::Siro& s)
         .nombre = s.Proyecto.NombreProyecto,
         .red = HuellaDeRed(s.Red),
         .lluvia = HuellaDeLluvia(s.Red, s.Tormenta, s.Pasos, s.TablasDeLluvia, serie ? &s.Serie : nullptr),
-        .tormenta = TormentaEnMano(s)};
+        .tormenta = TormentaEnMano(s),
+        .serie = serie};
 }
 
 std::string QueDifiere(const Sello& mostrado, const Sello& ahora, Alcance alcance)
 {
     if (mostrado.proyecto != ahora.proyecto) return "es del proyecto " + mostrado.nombre;
+    if (alcance == Alcance::Serie && !mostrado.serie) return "no es de una serie (" + mostrado.tormenta + ")";
     std::string texto;
     const auto agrega = [&](const std::string& que) { texto += (texto.empty() ? "" : "; ") + que; };
     if (alcance != Alcance::Red && mostrado.lluvia != ahora.lluvia)

@@ -16,6 +16,7 @@ struct Sello {
     std::string red{};       ///< hash of the network as a run reads it
     std::string lluvia{};    ///< hash of the rain and of the steps
     std::string tormenta{};  ///< the storm and the steps in words
+    bool serie = false;      ///< of a series of storms
     bool operator==(const Sello&) const = default;
 };
 
@@ -25,6 +26,7 @@ Sello SelloDe(const model::Siro& s);
 /// What a result is of.
 enum class Alcance : std::uint8_t {
     Corrida,   ///< of a run
+    Serie,     ///< of the run of a series
     Tormenta,  ///< of the storm alone
     Red,       ///< of the network alone
 };

@@ -11,10 +11,12 @@
 #include <QMessageBox>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QTimer>
 #include <QWindow>
 #include <algorithm>
 #include <new>
 #include <string_view>
+#include <utility>
 
 #include "forms/ListaDeAvisos_ventana.h"
 #include "forms/SinComillas_ventana.h"
@@ -113,7 +115,22 @@ void Entorno::Atiende(const std::function<void()>& cuerpo)
     }
     orden = anterior;
     if (fin) return Termina(*fin);
-    if (!terminando) TrasSuceso();
+    if (!oyentes.empty() && !std::exchange(avisado, true))
+        QTimer::singleShot(0, this, [this] { AvisaTrasSuceso(); });
+}
+
+void Entorno::AlTerminarSuceso(QObject& quien, std::function<void()> rutina)
+{
+    oyentes.push_back({&quien, std::move(rutina)});
+}
+
+void Entorno::AvisaTrasSuceso()
+{
+    avisado = false;
+    std::erase_if(oyentes, [](const Oyente& o) { return o.quien.isNull(); });
+    const std::vector<Oyente> todos = oyentes;  // a routine may bring in more
+    for (const Oyente& o : todos)
+        if (!o.quien.isNull() && !terminando) o.rutina();
 }
 
 /// Returns the status with which the program is to end, where it is.

@@ -53,9 +53,9 @@ class Entorno : public QObject {
     /// that form's own child. Until the main window is there it opens on the desktop.
     std::function<void(QWidget& ventana)> Presenta;
 
-    /// After each event, and after each of those that it opened in a dialog: what shows the state in memory
-    /// beside the windows is shown anew.
-    std::function<void()> TrasSuceso = [] {};
+    /// Runs a routine after each event, once those of the moment are over, for as long as `quien` lives: what
+    /// shows the state in memory beside the form in hand is shown anew.
+    void AlTerminarSuceso(QObject& quien, std::function<void()> rutina);
 
     /// Opens the page of help of a window, by the window's object name.
     std::function<void(const std::string& ventana)> AbreAyuda;
@@ -88,12 +88,19 @@ class Entorno : public QObject {
     std::optional<int> Corre(const std::function<void()>& cuerpo);
     void MuestraRecogidos();
     void CambioDeVentana(QWidget* activa);
+    void AvisaTrasSuceso();
 
     struct Vigilada {
         QPointer<QWidget> ventana;
         std::function<void()> rutina;
     };
     std::vector<Vigilada> vigiladas;
+    struct Oyente {
+        QPointer<QObject> quien;
+        std::function<void()> rutina;
+    };
+    std::vector<Oyente> oyentes;
+    bool avisado = false;                   ///< they run once the events of the moment are over
     std::vector<QPointer<QWidget>> ultima;  ///< the window active last and those that it belongs to
     QSettings ajustes;
     Orden* orden = nullptr;  ///< the command in hand

@@ -9,6 +9,7 @@ namespace results {
 struct FormaDeGrafico {
     bool abierta = false;
     forms::Grafico Grafico{};
+    int llenados = 0;  ///< how often the chart has been filled since the form opened
 };
 
 /// More and fewer divisions of the time axis.

@@ -12,6 +12,8 @@ FormaTablaQDR_ventana::FormaTablaQDR_ventana(forms::Entorno& alrededor, std::str
     : Ventana(alrededor, {nombre, titulo, RotulosTablaQDR}, padre), f(registro)
 {
     Sigue(f.abierta);
+    franja = new checks::Franja(entorno, checks::Alcance::Serie);
+    AlMostrar([this] { franja->Sigue(f.llenados); });
     tabla = new VistaQDR(entorno, f.MSFlexGridTablaSaleQDR, titulo);
     tabla->Componente = [this] { return Componente(); };
     tabla->AlPulsarEncabezado = [this](int columna) { Suceso([&] { AlPulsarEncabezado(f, columna); }); };
@@ -27,13 +29,15 @@ void FormaTablaQDR_ventana::Dispone(forms::Partes antes)
 {
     antes.emplace_back(tabla, 1);
     setLayout(EnPila(
-        {{EnFila(antes), 1},
+        {franja,
+         {EnFila(antes), 1},
          EnFila({Boton("cmdAplicarCambios", [this] { Llena(); }), Hueco(),
                  Boton("cmdImprimir", [this] { Imprime(); }), Boton("OKButton", [this] { OKButton(f); })})}));
 }
 
 void FormaTablaQDR_ventana::Abre()
 {
+    franja->Olvida();
     AbreForma();
     Muestra();
     if (f.abierta) entorno.Presenta(*this);

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "checks/Franja_ventana.h"
 #include "forms/Formulario_ventana.h"
 #include "results/TablaQDR.h"
 
@@ -17,6 +18,8 @@ class FormaTablaQDR_ventana : public forms::Ventana {
     /// Opens the window on the results in hand and brings it to the front. Where the form closes itself, no
     /// window comes.
     void Abre();
+    /// Says when what is on show is of an earlier run.
+    checks::Franja& Franja() { return *franja; }
 
   protected:
     FormaTablaQDR_ventana(forms::Entorno& alrededor, std::string_view nombre, std::string_view titulo,
@@ -37,6 +40,7 @@ class FormaTablaQDR_ventana : public forms::Ventana {
 
     FormaTablaQDR& f;
     VistaQDR* tabla;
+    checks::Franja* franja;
 };
 
 }  // namespace results

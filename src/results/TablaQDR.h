@@ -78,6 +78,7 @@ std::string BloqueComoTexto(const TablaQDR& t, const BloqueQDR& bloque);
 struct FormaTablaQDR {
     bool abierta = false;
     TablaQDR MSFlexGridTablaSaleQDR{};
+    int llenados = 0;  ///< how often the table has been filled since the form opened
 };
 
 /// A heading was clicked.

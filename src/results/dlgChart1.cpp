@@ -71,6 +71,7 @@ void Muestra(dlgChart1& f, const Siro& s, const Hietograma& pedido)
 void AlGraficoPp(dlgChart1& f, const Siro& s, std::int16_t N, std::int16_t paso)
 {
     if (N == 0) return;
+    ++f.llenados;
     model::Sentencia([&] { f.Grafico = Llena(f, s, N, paso); }, model::AvisaMotor(s));
 }
 

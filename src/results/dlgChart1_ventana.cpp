@@ -9,9 +9,12 @@ dlgChart1_ventana::dlgChart1_ventana(forms::Entorno& alrededor, dlgChart1& regis
     : Ventana(alrededor, {"dlgChart1", TituloDlgChart1, RotulosDeGraficos}, padre), f(registro)
 {
     Sigue(f.abierta);
+    franja = new checks::Franja(entorno, checks::Alcance::Tormenta);
+    AlMostrar([this] { franja->Sigue(f.llenados); });
     Grafico = new forms::Lamina(entorno, "Grafico", TituloDlgChart1);
     setLayout(
-        EnPila({{Grafico, 1},
+        EnPila({franja,
+                {Grafico, 1},
                 EnFila({Boton("cmdHsMin", [this] { cmdHsMin(f, entorno.s); }), Hueco(),
                         Boton("cmdImprimir", [this] { forms::ImprimeConLamina(entorno, *this, *Grafico); }),
                         Boton("OKButton", [this] { OKButton(f); })})}));
@@ -19,12 +22,14 @@ dlgChart1_ventana::dlgChart1_ventana(forms::Entorno& alrededor, dlgChart1& regis
 
 void dlgChart1_ventana::Abre()
 {
+    franja->Olvida();
     results::Abre(f, entorno.s);
     Presenta();
 }
 
 void dlgChart1_ventana::Muestra(const Hietograma& pedido)
 {
+    if (!f.abierta) franja->Olvida();
     results::Muestra(f, entorno.s, pedido);
     Presenta();
 }

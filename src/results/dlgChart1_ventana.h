@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "checks/Franja_ventana.h"
 #include "forms/Formulario_ventana.h"
 #include "results/dlgChart1.h"
 
@@ -21,6 +22,9 @@ class dlgChart1_ventana : public forms::Ventana {
     void Muestra(const Hietograma& pedido);
     void Muestra() override;
 
+    /// Says when what is on show is of an earlier run.
+    checks::Franja& Franja() { return *franja; }
+
   protected:
     void AlCerrar() override;
 
@@ -29,6 +33,7 @@ class dlgChart1_ventana : public forms::Ventana {
 
     dlgChart1& f;
     forms::Lamina* Grafico;
+    checks::Franja* franja;
 };
 
 }  // namespace results

@@ -279,6 +279,7 @@ void AlGraficoPp(dlgChart2& f, const Siro& s, std::int16_t N, std::int16_t paso)
     if (N == 0) return;
     f.ultimoN = N;
     f.ultimoPaso = paso;
+    ++f.llenados;
     Evento(s, [&] { Dibuja(f, s, N, paso); });
 }
 

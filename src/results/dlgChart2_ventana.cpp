@@ -37,6 +37,8 @@ dlgChart2_ventana::dlgChart2_ventana(forms::Entorno& alrededor, dlgChart2& regis
     QLabel* const titulo = EnNegrita(Texto("lblTitulo", f.lblTitulo));
     titulo->setAlignment(Qt::AlignCenter);
     titulo->setWordWrap(true);
+    franja = new checks::Franja(entorno, checks::Alcance::Corrida);
+    AlMostrar([this] { franja->Sigue(f.llenados); });
     Grafico = new forms::Lamina(entorno, "Grafico", TituloDlgChart2);
     QWidget* const componentes =
         Listado("lstCompos", f.lstCompos, f.lstComposIndice, forms::Flechas::Eligen, [this](int indice) {
@@ -45,7 +47,8 @@ dlgChart2_ventana::dlgChart2_ventana(forms::Entorno& alrededor, dlgChart2& regis
         });
     componentes->setFixedWidth(fontMetrics().averageCharWidth() * (LargoDeNombre + 5));
     VisibleSi(componentes, [this] { return f.vista.lista; });
-    setLayout(EnPila({titulo,
+    setLayout(EnPila({franja,
+                      titulo,
                       {EnFila({{Grafico, 1}, componentes}), 1},
                       Mandos(),
                       Texto("lblNota", f.lblNota),
@@ -99,6 +102,7 @@ QLayout* dlgChart2_ventana::Botones()
 void dlgChart2_ventana::Abre()
 {
     const bool estaba = f.abierta;
+    if (!estaba) franja->Olvida();
     results::Abre(f, entorno.s);
     if (!estaba) {
         Pp.pedido.reset();

@@ -4,6 +4,7 @@
 #include <functional>
 #include <optional>
 
+#include "checks/Franja_ventana.h"
 #include "forms/Formulario_ventana.h"
 #include "model/Tormenta.h"
 #include "results/dlgChart2.h"
@@ -31,6 +32,9 @@ class dlgChart2_ventana : public forms::Ventana {
     std::function<void(const model::Tormenta& entrada, bool completa)> TrasCorrer = [](const model::Tormenta&,
                                                                                        bool) {};
 
+    /// Says when what is on show is of an earlier run.
+    checks::Franja& Franja() { return *franja; }
+
   protected:
     void AlCerrar() override;
 
@@ -55,6 +59,7 @@ class dlgChart2_ventana : public forms::Ventana {
 
     dlgChart2& f;
     forms::Lamina* Grafico;
+    checks::Franja* franja;
     Mando Pp{}, Dur{};
     bool programada = false;  ///< a run waits for the events of the moment
     bool corriendo = false;

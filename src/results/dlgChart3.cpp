@@ -126,6 +126,7 @@ void LlenaCeldas(dlgChart3& f, Siro& s, const ColumnaDeSerie& magnitud, std::vec
 
 void Dibuja(dlgChart3& f, Siro& s)
 {
+    ++f.llenados;
     Inicializa(f, s);
     AlGraficoPp(f, s, static_cast<std::int16_t>(f.ListaD.size()), PasoDelEje);
 }

@@ -19,8 +19,11 @@ dlgChart3_ventana::dlgChart3_ventana(forms::Entorno& alrededor, dlgChart3& regis
     Sigue(f.abierta);
     QLabel* const titulo = EnNegrita(Texto("lblTitulo", f.lblTitulo));
     titulo->setAlignment(Qt::AlignCenter);
+    franja = new checks::Franja(entorno, checks::Alcance::Serie);
+    AlMostrar([this] { franja->Sigue(f.llenados); });
     Grafico = new forms::Lamina(entorno, "Grafico", TituloDlgChart3);
-    setLayout(EnPila({titulo,
+    setLayout(EnPila({franja,
+                      titulo,
                       {EnFila({{Grafico, 1}, Listas()}), 1},
                       Texto("lblNota", f.lblNota),
                       Texto("lblNotaVelmir", f.lblNotaVelmir),
@@ -65,6 +68,7 @@ QLayout* dlgChart3_ventana::Botones()
 
 void dlgChart3_ventana::Abre()
 {
+    if (!f.abierta) franja->Olvida();
     results::Abre(f, entorno.s);
     Muestra();
     if (f.abierta) entorno.Presenta(*this);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "checks/Franja_ventana.h"
 #include "forms/Formulario_ventana.h"
 #include "results/dlgChart3.h"
 
@@ -20,6 +21,9 @@ class dlgChart3_ventana : public forms::Ventana {
     void Abre();
     void Muestra() override;
 
+    /// Says when what is on show is of an earlier run.
+    checks::Franja& Franja() { return *franja; }
+
   protected:
     void AlCerrar() override;
 
@@ -30,6 +34,7 @@ class dlgChart3_ventana : public forms::Ventana {
 
     dlgChart3& f;
     forms::Lamina* Grafico;
+    checks::Franja* franja;
 };
 
 }  // namespace results

@@ -15,6 +15,7 @@ void Abre(dlgTablaSalePDR& f, model::Siro& s)
 
 void cmdAplicarCambios(dlgTablaSalePDR& f, model::Siro& s)
 {
+    ++f.llenados;
     forms::Evento(s, [&] { LlenaTodas(f.MSFlexGridTablaSaleQDR, s); });
 }
 

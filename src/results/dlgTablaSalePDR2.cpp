@@ -48,6 +48,7 @@ void cmdAplicarCambios(dlgTablaSalePDR2& f, Siro& s)
     const std::ptrdiff_t lugar = LugarDelElegido(f, s);
     s.Control.IndComp =
         lugar > s.Resultados.NroComponentes || lugar < 1 ? std::int16_t{1} : static_cast<std::int16_t>(lugar);
+    ++f.llenados;
     forms::Evento(s, [&] { LlenaUna(f.MSFlexGridTablaSaleQDR, s); });
 }
 

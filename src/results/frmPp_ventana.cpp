@@ -46,9 +46,31 @@ frmPp_ventana::frmPp_ventana(forms::Entorno& alrededor, frmPp& registro, QWidget
     ConstruyeTexto();
     lineaDeBusqueda = LineaDeBusqueda();
     lineaDeBusqueda->hide();
-    setLayout(EnPila({{Text1, 1}, lineaDeBusqueda, Botones()}));
+    franja = new checks::Franja(entorno, checks::Alcance::Corrida);
+    setLayout(EnPila({franja, {Text1, 1}, lineaDeBusqueda, Botones()}));
     ConectaTeclas();
+    entorno.AlTerminarSuceso(*this, [this] { VigilaTexto(); });
     frmPp_ventana::Muestra();
+}
+
+void frmPp_ventana::TrasCorrer()
+{
+    if (!f.abierta) return selloDeTexto.reset();
+    selloDeTexto = franja->DeResultados();
+    textoDeCorrida = std::hash<std::string>()(f.Text1);
+    mirado = {f.reemplazos, f.Text1.size()};
+    franja->Toma(*selloDeTexto);
+}
+
+void frmPp_ventana::VigilaTexto()
+{
+    const std::pair ahora{f.reemplazos, f.Text1.size()};
+    if (!selloDeTexto || ahora == mirado) return;
+    mirado = ahora;
+    if (std::hash<std::string>()(f.Text1) == textoDeCorrida)
+        franja->Toma(*selloDeTexto);
+    else
+        franja->Suelta();
 }
 
 void frmPp_ventana::ConstruyeTexto()

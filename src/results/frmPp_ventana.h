@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstdint>
 #include <functional>
+#include <optional>
+#include <utility>
 
+#include "checks/Franja_ventana.h"
 #include "forms/Formulario_ventana.h"
 #include "results/frmPp.h"
 
@@ -23,6 +27,11 @@ class frmPp_ventana : public forms::Ventana {
     /// Shows the record as soon as the events of the moment are over. A run that writes line by line costs
     /// one look at the text.
     void MuestraLuego();
+
+    /// The text is of the run that the results in memory are of.
+    void TrasCorrer();
+    /// Says when the text is of an earlier run.
+    checks::Franja& Franja() { return *franja; }
 
   protected:
     void AlCerrar() override;
@@ -57,6 +66,13 @@ class frmPp_ventana : public forms::Ventana {
     std::uint64_t reemplazos = 0;  ///< of the record, as of the text on show
     std::uint64_t veces = 0;       ///< searches shown so far
     bool pendiente = false, faltaResto = false;
+
+    /// Lets the strip go where the text isn't that of the run any more.
+    void VigilaTexto();
+    checks::Franja* franja;
+    std::size_t textoDeCorrida = 0;  ///< hash of the text that the last run left
+    std::optional<checks::Sello> selloDeTexto{};
+    std::pair<std::uint64_t, std::size_t> mirado{};  ///< replacements and length of the text looked at last
 };
 
 /// Fills in the host's part of the Slate: its window, the text in its box, and the tick of the menu entry,

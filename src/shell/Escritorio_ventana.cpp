@@ -128,6 +128,7 @@ void Escritorio::PonVentanas()
     results::PonPizarra(s.Anfitrion, pizarra, *ventanaPizarra,
                         principal.Estado(Variable::mnuPizarra1).marcada,
                         [this] { ventanaPrincipal->Muestra(); });
+    PonFranjas();
 }
 
 void Escritorio::PonLluvia()
@@ -143,6 +144,7 @@ void Escritorio::PonEstudio()
     ventanasEstudio = std::make_unique<VentanasDeEstudio>(entorno, *ventanaPrincipal);
     const auto trasCorrer = [this](const model::Tormenta& entrada, bool completa) {
         ventanasEstudio->TrasCorrer(entrada, completa);
+        ventanaPizarra->TrasCorrer();
     };
     mandos.TrasCorrer = trasCorrer;
     mandos.TrasSerie = [this] { ventanasEstudio->TrasSerie(); };
@@ -183,6 +185,33 @@ void Escritorio::VeAHallazgo(const checks::Hallazgo& hallazgo, bool ordenada)
     if (lugar == checks::Lugar::Editor || !ventanasEditor->red.abierta || entorno.Terminando()) return;
     if (!ventanasEditor->VaA(hallazgo, ordenada) && !entorno.Terminando())
         model::Informa(s, "El componente " + hallazgo.componente + " no está en la red del proyecto");
+}
+
+void Escritorio::PonFranjas()
+{
+    const auto pon = [this](checks::Franja& franja, std::function<void()> actualiza) {
+        franja.DeResultados = [this] { return ventanasEstudio->SelloDeResultados(); };
+        franja.Corre = [this] {
+            if (s.Tormenta.FormaPp == model::FormaLluvia::SeriePDR)
+                mnuCorre2(principal, s, mandos);
+            else
+                mnuCorre1(principal, s, mandos);
+        };
+        franja.Actualiza = std::move(actualiza);
+    };
+    pon(ventanaHietograma->Franja(), [this] { mnuGraficoPp(principal, s, mandos); });
+    ventanaHietograma->Franja().DeResultados = [this] { return checks::SelloDe(s); };
+    pon(ventanaHidrograma->Franja(), [this] {
+        hidrograma.abierta = false;  // opened anew on the component in hand
+        Abre(Ventana::dlgChart2);
+    });
+    pon(ventanaPizarra->Franja(), [this] { ventanaPizarra->Abre(); });
+    pon(ventanasSerie->ventanaAbaco.Franja(), [this] {
+        ventanasSerie->abaco.abierta = false;
+        Abre(Ventana::dlgChart3);
+    });
+    pon(ventanasSerie->ventanaTablaCompleta.Franja(), [this] { Abre(Ventana::dlgTablaSalePDR); });
+    pon(ventanasSerie->ventanaTablaComponente.Franja(), [this] { Abre(Ventana::dlgTablaSalePDR2); });
 }
 
 void Escritorio::PonAvance()

@@ -71,6 +71,7 @@ class Escritorio {
     void PonLluvia();
     void PonEstudio();
     void VeAHallazgo(const checks::Hallazgo& hallazgo, bool ordenada);
+    void PonFranjas();
     void PonAvance();
     void PonMandos();
     void Cierra(Ventana ventana);

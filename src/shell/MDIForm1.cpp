@@ -214,7 +214,7 @@ void mnuCorre2(MDIForm1& f, Siro& s, const Mandos& m)
     const Espera espera(m);
     s.Control.SalidaPizarra = false;
     f.Estado(Variable::mnuPizarra1).marcada = false;
-    if (engine::CorreSeriePDR(s, TodosLosNucleos) == engine::FinSerie::Completa) m.TrasSerie();
+    if (engine::CorreSeriePDR(s, TodosLosNucleos) != engine::FinSerie::SinTormentas) m.TrasSerie();
     m.Abre(Ventana::dlgChart3);
 }
 

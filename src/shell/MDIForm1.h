@@ -78,7 +78,7 @@ struct Mandos {
     /// A storm has been run: `entrada`, as it was before. `completa`: the run went to its end.
     std::function<void(const model::Tormenta& entrada, bool completa)> TrasCorrer = [](const model::Tormenta&,
                                                                                        bool) {};
-    /// A series has been run to its end.
+    /// A series has been run.
     std::function<void()> TrasSerie = [] {};
     std::function<void(bool espera)> PunteroDeEspera = [](bool) {};
     /// Hands a file to the system's viewer. Returns whether it took it.

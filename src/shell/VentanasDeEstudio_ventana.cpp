@@ -2,8 +2,6 @@
 #include "shell/VentanasDeEstudio_ventana.h"
 
 #include <QStatusBar>
-#include <QTimer>
-#include <utility>
 
 #include "checks/EscribeHallazgos.h"
 #include "model/Siro.h"
@@ -12,20 +10,14 @@ namespace shell {
 
 VentanasDeEstudio::VentanasDeEstudio(forms::Entorno& alrededor, MDIForm1_ventana& laPrincipal)
     : entorno(alrededor),
-      principal(laPrincipal),
       linea(*laPrincipal.statusBar()),
       ventanaRevisar(alrededor, revisar),
       ventanaVerificar(alrededor, verificar)
 {
-    entorno.TrasSuceso = [this] { RefrescaLuego(); };
-    juicio.AlCambiar = [this] { RefrescaLuego(); };
+    entorno.AlTerminarSuceso(juicio, [this] { MuestraEstado(); });
+    juicio.AlCambiar = [this] { MuestraEstado(); };
     linea.AlPedirAvisos = [this] { entorno.Atiende([this] { Abre(Ventana::Avisos); }); };
     MuestraEstado();
-}
-
-VentanasDeEstudio::~VentanasDeEstudio()
-{
-    entorno.TrasSuceso = [] {};
 }
 
 void VentanasDeEstudio::TrasCorrer(const model::Tormenta& entrada, bool completa)
@@ -44,22 +36,15 @@ void VentanasDeEstudio::TrasSerie()
     juicio.PideSerie(entorno.s);
 }
 
+checks::Sello VentanasDeEstudio::SelloDeResultados() const
+{
+    return corrido ? sello : checks::SelloDe(entorno.s);
+}
+
 void VentanasDeEstudio::Abre(Ventana ventana)
 {
     if (ventana == Ventana::Revisar) ventanaRevisar.Abre();
     if (ventana == Ventana::Verificar) ventanaVerificar.Abre();
-}
-
-void VentanasDeEstudio::RefrescaLuego()
-{
-    if (std::exchange(programado, true)) return;
-    QTimer::singleShot(0, &principal, [this] { Refresca(); });
-}
-
-void VentanasDeEstudio::Refresca()
-{
-    programado = false;
-    MuestraEstado();
 }
 
 void VentanasDeEstudio::MuestraEstado()

@@ -21,7 +21,6 @@ namespace shell {
 class VentanasDeEstudio {
   public:
     VentanasDeEstudio(forms::Entorno& alrededor, MDIForm1_ventana& laPrincipal);
-    ~VentanasDeEstudio();
     VentanasDeEstudio(const VentanasDeEstudio&) = delete;
     VentanasDeEstudio& operator=(const VentanasDeEstudio&) = delete;
 
@@ -29,7 +28,7 @@ class VentanasDeEstudio {
     void TrasCorrer(const model::Tormenta& entrada, bool completa);
     void TrasSerie();
     /// What the results in memory are of; of the state in memory before the first run.
-    [[nodiscard]] const checks::Sello& SelloDeResultados() const { return sello; }
+    [[nodiscard]] checks::Sello SelloDeResultados() const;
     JuicioDeCorrida& Juicio() { return juicio; }
     /// The check before a run; what it asks of the editor is set from outside.
     checks::dlgRevisar_ventana& VentanaRevisar() { return ventanaRevisar; }
@@ -44,17 +43,12 @@ class VentanasDeEstudio {
     std::function<void(const std::string& componente)> AbreHidrograma = [](const std::string&) {};
 
   private:
-    /// Shows anew what may have changed, once the events of the moment are over.
-    void RefrescaLuego();
-    void Refresca();
     void MuestraEstado();
 
     forms::Entorno& entorno;
-    MDIForm1_ventana& principal;
     checks::Sello sello{};
     bool corrido = false;  ///< a run has been made
     std::string cuando{};  ///< date and time of the last run
-    bool programado = false;
     JuicioDeCorrida juicio{};
     LineaDeEstado linea;
     checks::dlgRevisar revisar{};
