@@ -10,6 +10,8 @@
 #include <QShortcut>
 #include <QTextBlock>
 #include <QTimer>
+#include <functional>
+#include <string_view>
 #include <utility>
 
 #include "forms/Impresion_ventana.h"
@@ -37,6 +39,8 @@ QFont LetraFija()
     return letra;
 }
 
+constexpr auto Huella = std::hash<std::string_view>();
+
 }  // namespace
 
 frmPp_ventana::frmPp_ventana(forms::Entorno& alrededor, frmPp& registro, QWidget* padre)
@@ -57,7 +61,8 @@ void frmPp_ventana::TrasCorrer()
 {
     if (!f.abierta) return selloDeTexto.reset();
     selloDeTexto = franja->DeResultados();
-    textoDeCorrida = std::hash<std::string>()(f.Text1);
+    textoDeCorrida = Huella(f.Text1);
+    largoDeCorrida = f.Text1.size();
     mirado = {f.reemplazos, f.Text1.size()};
     franja->Toma(*selloDeTexto);
 }
@@ -67,7 +72,9 @@ void frmPp_ventana::VigilaTexto()
     const std::pair ahora{f.reemplazos, f.Text1.size()};
     if (!selloDeTexto || ahora == mirado) return;
     mirado = ahora;
-    if (std::hash<std::string>()(f.Text1) == textoDeCorrida)
+    // What was added behind it leaves it as it is.
+    const std::string_view texto(f.Text1);
+    if (texto.size() >= largoDeCorrida && Huella(texto.substr(0, largoDeCorrida)) == textoDeCorrida)
         franja->Toma(*selloDeTexto);
     else
         franja->Suelta();

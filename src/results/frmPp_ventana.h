@@ -70,7 +70,7 @@ class frmPp_ventana : public forms::Ventana {
     /// Lets the strip go where the text isn't that of the run any more.
     void VigilaTexto();
     checks::Franja* franja;
-    std::size_t textoDeCorrida = 0;  ///< hash of the text that the last run left
+    std::size_t textoDeCorrida = 0, largoDeCorrida = 0;  ///< hash and bytes of the text of the last run
     std::optional<checks::Sello> selloDeTexto{};
     std::pair<std::uint64_t, std::size_t> mirado{};  ///< replacements and length of the text looked at last
 };

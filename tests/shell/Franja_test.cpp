@@ -109,6 +109,9 @@ TEST_F(LaFranja, LaPizarraEsDeLaCorridaQueLaEscribio)
     EXPECT_FALSE(SeVe(pizarra));
     Cambia([](model::Siro& s) { s.Tormenta.PpTormenta = 90; });
     ASSERT_TRUE(Espera([&] { return SeVe(pizarra); }));
+    Cambia([](model::Siro& s) { s.Anfitrion.AgregaPizarra("\r\nlo que sigue"); });
+    QTest::qWait(100);
+    EXPECT_TRUE(SeVe(pizarra));
     Cambia([](model::Siro& s) { s.Anfitrion.PonPizarra("otra cosa"); });
     EXPECT_TRUE(Espera([&] { return !SeVe(pizarra); }));
 }
