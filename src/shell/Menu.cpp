@@ -153,6 +153,11 @@ constexpr auto FilasBarra = std::to_array<FilaBarra>({
     {"VerAbacoQDR",  "mnuGraficoPDRComponente",  Abaco},
     {"VerTablaQDR1", "mnuPlanillaPDRCompleta",   TablaCompleta},
     {"VerTablaQDR2", "mnuPlanillaPDRComponente", TablaComponente},
+    {},
+    {"Revisar",      "mnuRevisar",               ConProyecto<Ventana::Revisar>},
+    {"Resumen",      "mnuResumen",               SoloAbre<Ventana::Resumen>},
+    {"Comparar",     "mnuComparar",              SoloAbre<Ventana::Comparar>},
+    {"Mapa",         "mnuMapa",                  SoloAbre<Ventana::Mapa>},
 });
 // clang-format on
 

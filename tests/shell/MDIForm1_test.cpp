@@ -210,7 +210,12 @@ TEST_F(MarcoDePrueba, LaBarraTieneSusClavesYLaPizarraEsElBotonDieciseis)
                                                  "VerHidro",
                                                  "VerAbacoQDR",
                                                  "VerTablaQDR1",
-                                                 "VerTablaQDR2"};
+                                                 "VerTablaQDR2",
+                                                 "",
+                                                 "Revisar",
+                                                 "Resumen",
+                                                 "Comparar",
+                                                 "Mapa"};
     std::vector<std::string_view> claves;
     for (const FilaBarra& fila : tbToolBar())
         claves.push_back(fila.clave);
