@@ -75,7 +75,9 @@ cmake --install "$salida" --strip --prefix "$portatil" --component portatil >/de
 # Installed: programs in bin/, data in share/siro/, so that a project never lies among the programs.
 cmake --install "$salida" --strip --prefix "$salida/instalado" >/dev/null && acompana "$salida/instalado/bin" ||
     muere "The installation can't be made"
-makensis -V2 -NOCD -DVERSION="$version" -DDE="$salida/instalado" -DA="$salida/$nombre.exe" -DICONO="$salida/siro.ico" \
-    -DLICENCIA="$PWD/LICENSE" tools/windows/siro.nsi ||
+(cd "$salida/instalado" && find . -type f -printf 'Delete "$INSTDIR\\%P"\n' -o -depth -mindepth 1 -type d -printf 'RMDir "$INSTDIR\\%P"\n') |
+    tr / '\\' >"$salida/quita.nsh" || muere "The list of what is installed can't be made"
+makensis -V2 -NOCD -INPUTCHARSET UTF8 -DVERSION="$version" -DDE="$salida/instalado" -DA="$salida/$nombre.exe" \
+    -DICONO="$salida/siro.ico" -DQUITA="$salida/quita.nsh" -DLICENCIA="$PWD/LICENSE" tools/windows/siro.nsi ||
     muere "The installer can't be made"
 ls -l "$salida/$nombre".*

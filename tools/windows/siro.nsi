@@ -1,10 +1,12 @@
 ; SPDX-License-Identifier: GPL-3.0-or-later
 ;
-; The installer. VERSION, DE: folder of the installation that it packs; A: the file that it becomes.
+; The installer. VERSION, DE: folder of the installation that it packs; A: the file that it becomes; QUITA: the script that
+; takes the files of DE away again, and nothing else.
 ; For one user, with no rights of an administrator: programs in the user's own folder of programs. A silent run takes /S and /D=FOLDER.
 
 Target amd64-unicode
 Unicode true
+!include LogicLib.nsh
 !include MUI2.nsh
 !include FileFunc.nsh
 
@@ -38,10 +40,26 @@ VIAddVersionKey LegalCopyright "GPL-3.0-or-later"
 !insertmacro MUI_UNPAGE_INSTFILES
 !insertmacro MUI_LANGUAGE "Spanish"
 
-; What an older version has left would mix with this one: only what it installed goes, never what the user put there.
+; A program that runs holds its file, which could neither be replaced nor taken away.
+!macro EXIGE_CERRADO
+    ${If} ${FileExists} "$INSTDIR\bin\siro.exe"
+        ClearErrors
+        FileOpen $0 "$INSTDIR\bin\siro.exe" a
+        ${If} ${Errors}
+            MessageBox MB_OK|MB_ICONSTOP "SIRO está abierto. Ciérrelo y vuelva a empezar." /SD IDOK
+            SetErrorLevel 2
+            Abort
+        ${EndIf}
+        FileClose $0
+    ${EndIf}
+!macroend
+
+; What an older version has left would mix with this one: it takes away what it has installed.
 Section "SIRO"
-    RMDir /r "$INSTDIR\bin"
-    RMDir /r "$INSTDIR\share\siro"
+    !insertmacro EXIGE_CERRADO
+    ${If} ${FileExists} "$INSTDIR\desinstala.exe"
+        ExecWait '"$INSTDIR\desinstala.exe" /S _?=$INSTDIR'
+    ${EndIf}
     SetOutPath "$INSTDIR"
     File /r "${DE}/*"
     WriteUninstaller "$INSTDIR\desinstala.exe"
@@ -70,10 +88,10 @@ Section "SIRO"
     WriteRegDWORD HKCU "${CLAVE}" "EstimatedSize" "$0"
 SectionEnd
 
-; The user's projects stand in the user's data directory, and stay.
+; The user's projects stand in the user's data directory, and stay; what else the user has put among the programs stays too.
 Section "Uninstall"
-    RMDir /r "$INSTDIR\bin"
-    RMDir /r "$INSTDIR\share"
+    !insertmacro EXIGE_CERRADO
+    !include "${QUITA}"
     Delete "$INSTDIR\desinstala.exe"
     RMDir "$INSTDIR"
     RMDir /r "$SMPROGRAMS\SIRO"
