@@ -58,8 +58,10 @@ Disco EscriturasEnEspera::Puerta() const
 void EscriturasEnEspera::Cumple() const
 {
     std::vector<CambioArchivo> cambios = espera->cambios;
-    if (!cambios.empty()) std::rotate(cambios.begin(), cambios.begin() + 1, cambios.end());
-    if (!cambios.empty()) espera->disco.Reemplaza(cambios);
+    if (!cambios.empty()) {
+        std::rotate(cambios.begin(), cambios.begin() + 1, cambios.end());
+        espera->disco.Reemplaza(cambios);
+    }
     for (const std::string& ruta : espera->borrados)
         Sentencia([&] { espera->disco.Borra(ruta); }, SalvoQueFalte);  // it may only have been waiting
 }

@@ -64,7 +64,7 @@ void PonFilas(dlgTablasPDRs& f, std::int16_t n)
 
 auto EnMemoria(const Siro& s)
 {
-    decltype(TablasPDRLeidas::tablas) tablas;
+    decltype(TablasPDRLeidas::tablas) tablas{};
     for (std::size_t k = 0; k < tablas.size(); ++k) {
         tablas[k].notas = s.TablasDeLluvia.NotasPDR[k];
         const int fila = static_cast<int>(k);

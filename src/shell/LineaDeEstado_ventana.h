@@ -15,6 +15,8 @@ namespace shell {
 class LineaDeEstado {
   public:
     explicit LineaDeEstado(QStatusBar& barra);
+    LineaDeEstado(const LineaDeEstado&) = delete;
+    LineaDeEstado& operator=(const LineaDeEstado&) = delete;
 
     void PonTormenta(const std::string& texto);
     void PonAvisos(const std::string& texto);
