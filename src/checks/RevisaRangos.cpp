@@ -29,21 +29,21 @@ struct FilaRango {
     const char* fuente;
 };
 
-// Foreign units: 0.05 to 0.6 inches of retention; 3000 acres; 0.076 to 0.619 m/s per root of a slope of 0.5
-// to 50 %; velocities over sand to boulders of 0.2 to 2 m/s, and a wave 5/3 as fast (kinematic wave with
-// Manning's formula); a recession by ten in 15 to 100 days, of surface flow by e in 1.8 to 6 days: 1.8 * 24 /
-// ln 10 and 100 * 24 / ln 10 hours.
+// Foreign units: 0.05 to 0.6 inches of retention; 10 square miles; 0.076 to 0.619 m/s per root of a slope of
+// 0.5 to 50 %; velocities over sand to boulders of 0.2 to 2 m/s, and a wave 5/3 as fast (kinematic wave with
+// Manning's formula); a recession to a tenth in 15 to 100 days, of surface flow in 1.8 to 6: the K of
+// e^(-t/K) is t / ln 10, from 1.8 * 24 / ln 10 to 100 * 24 / ln 10 hours.
 // clang-format off
 constexpr auto DeUEH = std::to_array<FilaRango<model::UEH>>({
-    {240, Gravedad::Nota, "La superficie de la UEH", " ha", [](const model::UEH& u) { return double{u.Area}; }, 0, 1214, false,
-     "sobre 3000 acres conviene dividir: Urban Drainage and Flood Control District, Drainage Criteria Manual, 2007, tabla RO-1"},
+    {240, Gravedad::Nota, "La superficie de la UEH", " ha", [](const model::UEH& u) { return double{u.Area}; }, 0, 2590, false,
+     "sobre 10 millas cuadradas conviene dividir: Urban Drainage and Flood Control District, Drainage Criteria Manual, 1984, Runoff, 4.5"},
     {241, Gravedad::Aviso, "La velocidad media en ladera", " m/s", [](const model::UEH& u) { return double{u.VelMedia}; }, 0.05, 4.4, true,
      "pendientes de 0.5 a 50 %: FHWA, HEC-22, 2009, tabla 3-3"},
     {242, Gravedad::Aviso, "El coeficiente a de Kostiakov", " mm/min^b", [](const model::UEH& u) { return double{u.KostiakovA}; }, 0, HUGE_VAL, true,
      "Kostiakov, 1932"},
     {243, Gravedad::Aviso, "La infiltración de la primera hora", " mm",
      [](const model::UEH& u) { return u.KostiakovA > 0 ? u.KostiakovA * std::pow(60.0, double{u.KostiakovB}) : 0; }, 1, HUGE_VAL, true,
-     "una arcilla infiltra 1 mm/h: Brouwer y otros, FAO, 1988, manual 5, anexo 2"},
+     "una arcilla infiltra de 1 a 5 mm/h: Brouwer y otros, FAO, 1988, manual 5, anexo 2"},
     {244, Gravedad::Aviso, "El exponente b de Kostiakov", "",
      [](const model::UEH& u) { return u.KostiakovA > 0 ? double{u.KostiakovB} : 0; }, 0, 1, false,
      "Kostiakov, 1932"},
@@ -51,7 +51,7 @@ constexpr auto DeUEH = std::to_array<FilaRango<model::UEH>>({
      "Urban Drainage and Flood Control District, Drainage Criteria Manual, 1984, tabla 2-1"},
     {246, Gravedad::Aviso, "La constante k de recesión", " h",
      [](const model::UEH& u) { return u.Q0Recesion > 0 ? double{u.KRecesion} : 0; }, 18.7, 1043, true,
-     "Singh y Stall, Water Resources Research, 1971"},
+     "baja a un décimo en 1.8 a 100 días: Singh y Stall, Water Resources Research 7(2), 1971"},
 });
 constexpr auto DeCauce = std::to_array<FilaRango<model::Cauce>>({
     {251, Gravedad::Aviso, "La velocidad de la propagación directa", " m/s",
@@ -64,7 +64,7 @@ constexpr auto DeCauce = std::to_array<FilaRango<model::Cauce>>({
 constexpr auto DeFuncion = std::to_array<FilaRango<hydraulics::FuncionFQ>>({
     {254, Gravedad::Aviso, "El exponente de una función de descarga", "",
      [](const hydraulics::FuncionFQ& f) { return f.forma == model::FormaFQ::Potencia ? double{f.b} : 1; }, 0.5, 2.5, false,
-     "de orificio 0.5 a vertedero triangular 2.5: Bos, ILRI 20, 1989"},
+     "de orificio 0.5 a vertedero triangular 2.5: uso corriente, sin fuente impresa"},
 });
 // clang-format on
 

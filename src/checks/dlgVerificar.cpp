@@ -65,11 +65,10 @@ std::vector<std::string> Fila(const Caso& c, std::size_t numero)
             std::string(c.porque)};
 }
 
-std::string Suma(const std::vector<Caso>& casos, double segundos, bool cancelada)
+std::string Suma(const std::vector<Caso>& casos, double segundos)
 {
     return std::to_string(casos.size()) + (casos.size() == 1 ? " caso, " : " casos, ") +
-           std::to_string(CuantosFuera(casos)) + " fuera de tolerancia, en " + Segundos(segundos) + " s" +
-           (cancelada ? " (cancelada: faltan casos)" : "");
+           std::to_string(CuantosFuera(casos)) + " fuera de tolerancia, en " + Segundos(segundos) + " s";
 }
 
 std::string Desvio(const Caso& c)
@@ -93,12 +92,17 @@ void Avanza(dlgVerificar& f, std::size_t hechos, std::size_t total)
     f.total = total;
 }
 
-void Termina(dlgVerificar& f, const model::Siro& s, std::vector<Caso> casos, double segundos, bool cancelada)
+void Cancela(dlgVerificar& f)
 {
     f.corriendo = false;
-    if (cancelada && !f.casos.empty()) return;
+    if (f.casos.empty()) f.lblSuma = "Verificación cancelada";
+}
+
+void Termina(dlgVerificar& f, const model::Siro& s, std::vector<Caso> casos, double segundos)
+{
+    f.corriendo = false;
     f.casos = std::move(casos);
-    f.lblSuma = Suma(f.casos, segundos, cancelada);
+    f.lblSuma = Suma(f.casos, segundos);
     forms::Planilla p{{std::string(TituloDlgVerificar), f.lblSuma, forms::FechaDelDia(s)}, Columnas(), {}};
     for (std::size_t k = 0; k < f.casos.size(); ++k)
         p.filas.push_back(Fila(f.casos[k], k + 1));
@@ -154,7 +158,7 @@ forms::Grafico GraficoDeCaso(const Caso& c)
     forms::Grafico g;
     g.tipo = forms::TipoGrafico::Linea;
     g.titulo = c.nombre;
-    g.notaAlPie = c.fuente;
+    g.salvedad = "Fuente: " + std::string(c.fuente);
     g.ejeX = c.serie.eje;
     g.ejeY = c.magnitud;
     g.leyendaVisible = true;

@@ -31,7 +31,7 @@ inline constexpr auto RotulosDlgVerificar = std::to_array<forms::FilaRotulo>({
     {"lblTolerancia", "Tolerancia:"},
     {"barAvance", "Avance de la verificación"},
     {"cmdVerificar", "&Verificar de nuevo", "Corre otra vez todos los casos"},
-    {"CancelButton", "Cancelar", "Deja de correr casos; quedan los ya corridos (Esc)"},
+    {"CancelButton", "Cancelar", "Deja la verificación; queda la anterior (Esc)"},
     {"cmdImprimir", "&Imprimir tabla"},
     {"cmdImprimirCaso", "Imprimir &caso", "Imprime la ventana con el gráfico del caso elegido"},
     {"OKButton", "Ce&rrar"},
@@ -53,9 +53,10 @@ struct dlgVerificar {
 void Empieza(dlgVerificar& f);
 /// So many cases of it are done.
 void Avanza(dlgVerificar& f, std::size_t hechos, std::size_t total);
-/// It has ended after so many seconds, or been cancelled: then the cases of the run before stay, and where
-/// there was none `casos` are those that this one has come to.
-void Termina(dlgVerificar& f, const model::Siro& s, std::vector<Caso> casos, double segundos, bool cancelada);
+/// It is given up: the cases of the run before stay.
+void Cancela(dlgVerificar& f);
+/// It has ended, after so many seconds.
+void Termina(dlgVerificar& f, const model::Siro& s, std::vector<Caso> casos, double segundos);
 
 /// Takes a case in hand, by its row.
 void tblCasos_Mueve(dlgVerificar& f, std::size_t fila);

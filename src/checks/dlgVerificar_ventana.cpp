@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "checks/dlgVerificar_ventana.h"
 
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QProgressBar>
+#include <QScrollArea>
 #include <atomic>
 #include <chrono>
 #include <mutex>
@@ -19,9 +21,10 @@ namespace checks {
 namespace {
 
 constexpr std::chrono::milliseconds EntreMiradas{30};
+constexpr int FilasALaVista = 7;  // at least
 
 /// Widths of the columns [letters]; 0: what is left over.
-constexpr std::array<int, NroColumnasDeCaso> Anchos{6, 0, 30, 13, 14, 13, 11, 13, 10};
+constexpr std::array<int, NroColumnasDeCaso> Anchos{5, 0, 24, 11, 13, 11, 9, 12, 9};
 
 }  // namespace
 
@@ -39,7 +42,6 @@ class dlgVerificar_ventana::Corrida {
     Corrida& operator=(const Corrida&) = delete;
 
     void Cancela() { cancelada = true; }
-    [[nodiscard]] bool Cancelada() const { return cancelada; }
     [[nodiscard]] bool Terminada() const { return terminada; }
     [[nodiscard]] std::size_t Hechos() const { return hechos; }
     [[nodiscard]] std::size_t Total() const { return total; }
@@ -85,7 +87,8 @@ dlgVerificar_ventana::dlgVerificar_ventana(forms::Entorno& alrededor, dlgVerific
     };
     AlMostrar([this] { tabla->Muestra(); });
     Grafico = new forms::Lamina(entorno, "Grafico", TituloDlgVerificar);
-    setLayout(EnPila({Encabezado(), {tabla, 1}, {EnFila({{Detalle(), 2}, {Grafico, 3}}), 1}, Botones()}));
+    tabla->setMinimumHeight(FilasALaVista * tabla->verticalHeader()->defaultSectionSize());
+    setLayout(EnPila({Encabezado(), {tabla, 3}, {EnFila({{Detalle(), 2}, {Grafico, 3}}), 4}, Botones()}));
     latido.setInterval(EntreMiradas);
     connect(&latido, &QTimer::timeout, this, [this] { Mira(); });
 }
@@ -106,7 +109,8 @@ QLayout* dlgVerificar_ventana::Encabezado()
     return EnFila({EnNegrita(Texto("lblSuma", f.lblSuma)), Hueco(), {avance, 1}, cancela});
 }
 
-QLayout* dlgVerificar_ventana::Detalle()
+/// It scrolls where the room is low: how high its lines are depends on how wide they are.
+QWidget* dlgVerificar_ventana::Detalle()
 {
     QLabel* const nombre = EnNegrita(Texto("lblCaso", f.lblCaso));
     nombre->setWordWrap(true);
@@ -123,7 +127,16 @@ QLayout* dlgVerificar_ventana::Detalle()
     fila("lblCifra", f.lblCifra);
     fila("lblTolerancia", f.lblTolerancia);
     filas.push_back({});
-    return EnRejilla(filas, {0, 1});
+    auto* const dentro = new QWidget;
+    dentro->setLayout(EnRejilla(filas, {0, 1}));
+    dentro->layout()->setContentsMargins(0, 0, 4, 0);
+    auto* const lugar = new QScrollArea;
+    lugar->setObjectName(QStringLiteral("lugarDetalle"));
+    lugar->setWidgetResizable(true);
+    lugar->setFrameShape(QFrame::NoFrame);
+    lugar->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    lugar->setWidget(dentro);
+    return lugar;
 }
 
 QLayout* dlgVerificar_ventana::Botones()
@@ -181,17 +194,22 @@ void dlgVerificar_ventana::Mira()
     if (corrida->Terminada()) {
         latido.stop();
         const double segundos = corrida->Segundos();
-        Suceso([&] { Termina(f, entorno.s, corrida->Saca(), segundos, corrida->Cancelada()); });
+        Suceso([&] { Termina(f, entorno.s, corrida->Saca(), segundos); });
         corrida.reset();
         return;
     }
     Muestra();
 }
 
-/// The window is free again as soon as the case in hand is done, some hundredths of a second.
+/// The window is free at once; the thread goes on to the end of its case, of which nothing is seen.
 void dlgVerificar_ventana::Cancela()
 {
-    if (corrida != nullptr) corrida->Cancela();
+    std::erase_if(dejadas, [](const auto& una) { return una->Terminada(); });
+    if (corrida == nullptr) return;
+    corrida->Cancela();
+    dejadas.push_back(std::move(corrida));
+    latido.stop();
+    checks::Cancela(f);
 }
 
 void dlgVerificar_ventana::ImprimeTabla()

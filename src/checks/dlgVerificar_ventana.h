@@ -3,6 +3,7 @@
 
 #include <QTimer>
 #include <memory>
+#include <vector>
 
 #include "checks/dlgVerificar.h"
 #include "forms/Formulario_ventana.h"
@@ -36,7 +37,7 @@ class dlgVerificar_ventana : public forms::Ventana {
     class Corrida;
 
     QLayout* Encabezado();
-    QLayout* Detalle();
+    QWidget* Detalle();
     QLayout* Botones();
     void Corre();
     void Mira();
@@ -48,6 +49,7 @@ class dlgVerificar_ventana : public forms::Ventana {
     forms::Lamina* Grafico = nullptr;
     QTimer latido{};
     std::unique_ptr<Corrida> corrida;
+    std::vector<std::unique_ptr<Corrida>> dejadas{};  ///< cancelled, and still at their last case
 };
 
 }  // namespace checks

@@ -99,6 +99,8 @@ TablaCuadro::TablaCuadro(Entorno& alrededor, const Cuadro& cuadro, std::string_v
     setHorizontalScrollMode(ScrollPerPixel);
     setVerticalScrollMode(ScrollPerPixel);
     verticalHeader()->hide();
+    verticalHeader()->setMinimumSectionSize(fontMetrics().height() * 4 / 3);
+    verticalHeader()->setDefaultSectionSize(verticalHeader()->minimumSectionSize());
     setModel(modelo.get());
     PonEncabezado();
     connect(this, &QAbstractItemView::doubleClicked, this,
@@ -199,10 +201,10 @@ void TablaCuadro::resizeEvent(QResizeEvent* evento)
     ReparteAncho();
 }
 
-void TablaCuadro::currentChanged(const QModelIndex& actual, const QModelIndex& anterior)
+void TablaCuadro::selectionChanged(const QItemSelection& nueva, const QItemSelection& vieja)
 {
-    QTableView::currentChanged(actual, anterior);
-    if (actual.row() != anterior.row()) AlMoverse();
+    QTableView::selectionChanged(nueva, vieja);
+    AlMoverse();
 }
 
 void TablaCuadro::Elige(const QModelIndex& indice)

@@ -32,7 +32,7 @@ class TablaCuadro : public QTableView {
     // Rows by their places in the table, columns from 0.
     std::function<void(int columna)> AlPulsarEncabezado = [](int) {};
     std::function<void(std::size_t fila)> AlElegir = [](std::size_t) {};
-    /// The row with the cursor is another one, or none.
+    /// Other rows are selected, or none.
     std::function<void()> AlMoverse = [] {};
     /// What a cell has beside its text, by the toolkit's roles: icon, alignment, colour.
     std::function<QVariant(std::size_t fila, int columna, int papel)> Adorno = [](std::size_t, int, int) {
@@ -56,7 +56,7 @@ class TablaCuadro : public QTableView {
     void contextMenuEvent(QContextMenuEvent* evento) override;
     void keyPressEvent(QKeyEvent* evento) override;
     void resizeEvent(QResizeEvent* evento) override;
-    void currentChanged(const QModelIndex& actual, const QModelIndex& anterior) override;
+    void selectionChanged(const QItemSelection& nueva, const QItemSelection& vieja) override;
 
   private:
     class Modelo;

@@ -163,6 +163,7 @@ void Escritorio::PonEstudio()
     revisar.Ordena = [this](const checks::Hallazgo& h) { VeAHallazgo(h, true); };
     revisar.Corrige = [this](const std::vector<checks::Hallazgo>& hallazgos) {
         mnufrmUEHs(principal, s, mandos);
+        if (!ventanasEditor->red.abierta || entorno.Terminando()) return 0;
         const int hechos = ventanasEditor->Corrige(hallazgos);
         // The list stays in sight; the editor stands behind it.
         ventanaPrincipal->show();

@@ -180,7 +180,7 @@ const std::vector<Caso> Casos = {
     {228, Gravedad::Error, "r-1", [](Siro& s) { R(s).optTabla = false; R(s).chkFQ[0] = 2; }, [](Siro& s) { R(s).chkFQ[0] = 0; }},
     {229, Gravedad::Aviso, "r-1", [](Siro& s) { PorFunciones(s, 1.5F, 0); }, [](Siro& s) { PorFunciones(s, 1.5F, 31); }},
     {230, Gravedad::Aviso, "r-1", [](Siro& s) { PorFunciones(s, 1.5F, 30); R(s).FQa[0] = -1; }, [](Siro& s) { PorFunciones(s, 1.5F, 30); R(s).FQa[0] = 0; }},
-    {240, Gravedad::Nota, "u-1", [](Siro& s) { s.Red.UEHs(1).Area = 1215; }, [](Siro& s) { s.Red.UEHs(1).Area = 1214; }},
+    {240, Gravedad::Nota, "u-1", [](Siro& s) { s.Red.UEHs(1).Area = 2591; }, [](Siro& s) { s.Red.UEHs(1).Area = 2590; }},
     {241, Gravedad::Aviso, "u-1", [](Siro& s) { s.Red.UEHs(1).VelMedia = 4.5F; }, [](Siro& s) { s.Red.UEHs(1).VelMedia = 4.25F; }},
     {242, Gravedad::Aviso, "u-1", [](Siro& s) { s.Red.UEHs(1).KostiakovA = -0.1F; }, [](Siro& s) { s.Red.UEHs(1).KostiakovA = 0; }},
     // 60^0.5 = 7.746: a of 0.12 infiltrates 0.93 mm in an hour, one of 0.13 1.01 mm

@@ -49,7 +49,7 @@ TEST_F(DlgVerificar, LaSumaDiceCuantosCuantosFueraYEnCuantoTiempo)
     EXPECT_TRUE(f.corriendo);
     Avanza(f, 1, 2);
     EXPECT_EQ(f.hechos, 1U);
-    Termina(f, s, {UnCaso("Uno", 0.25, false), UnCaso("Dos", 0.75, true)}, 0.64, false);
+    Termina(f, s, {UnCaso("Uno", 0.25, false), UnCaso("Dos", 0.75, true)}, 0.64);
     EXPECT_FALSE(f.corriendo);
     EXPECT_EQ(f.lblSuma, "2 casos, 1 fuera de tolerancia, en 0.6 s");
     ASSERT_EQ(f.tblCasos.planilla.filas.size(), 2U);
@@ -64,7 +64,7 @@ TEST_F(DlgVerificar, LaSumaDiceCuantosCuantosFueraYEnCuantoTiempo)
 TEST_F(DlgVerificar, ElCasoElegidoDiceLoSuyoYMuestraSuGrafico)
 {
     Empieza(f);
-    Termina(f, s, {UnCaso("Uno", 0.25, false), UnCaso("Dos", 0.75, true)}, 0.6, false);
+    Termina(f, s, {UnCaso("Uno", 0.25, false), UnCaso("Dos", 0.75, true)}, 0.6);
     EXPECT_EQ(f.lblCaso, "Uno");
     tblCasos_Mueve(f, 1);
     EXPECT_EQ(f.lblCaso, "Dos");
@@ -85,12 +85,13 @@ TEST_F(DlgVerificar, ElCasoElegidoDiceLoSuyoYMuestraSuGrafico)
 TEST_F(DlgVerificar, LoCanceladoDejaLoDeAntes)
 {
     Empieza(f);
-    Termina(f, s, {UnCaso("Uno", 0, false)}, 0.3, true);
-    EXPECT_EQ(f.lblSuma, "1 caso, 0 fuera de tolerancia, en 0.3 s (cancelada: faltan casos)");
+    Cancela(f);
+    EXPECT_FALSE(f.corriendo);
+    EXPECT_EQ(f.lblSuma, "Verificación cancelada");
     Empieza(f);
-    Termina(f, s, {UnCaso("Uno", 0, false), UnCaso("Dos", 0, false)}, 0.6, false);
+    Termina(f, s, {UnCaso("Uno", 0, false), UnCaso("Dos", 0, false)}, 0.6);
     Empieza(f);
-    Termina(f, s, {}, 0.1, true);
+    Cancela(f);
     EXPECT_EQ(f.casos.size(), 2U);
     EXPECT_EQ(f.lblSuma, "2 casos, 0 fuera de tolerancia, en 0.6 s");
 }
@@ -98,7 +99,7 @@ TEST_F(DlgVerificar, LoCanceladoDejaLoDeAntes)
 TEST_F(DlgVerificar, LoImpresoLlevaLasFuentesArriba)
 {
     Empieza(f);
-    Termina(f, s, {UnCaso("Uno", 0, false)}, 0.6, false);
+    Termina(f, s, {UnCaso("Uno", 0, false)}, 0.6);
     const forms::Planilla p = ParaImprimir(f);
     EXPECT_EQ(p.columnas.size(), NroColumnasDeCaso);
     EXPECT_EQ(p.filas.at(0).size(), NroColumnasDeCaso);

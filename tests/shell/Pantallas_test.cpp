@@ -137,6 +137,8 @@ TEST_F(Pantallas, LaVentanaPrincipalYLasQueEstanEnElla)
     EnLaPrincipal(Ventana::dlgTablaSalePDR2, "dlgTablaSalePDR2");
     EnLaPrincipal(Ventana::dlgEmpiricas, "dlgEmpiricas");
     EnLaPrincipal(Ventana::dlgUEHsTabla, "dlgUEHsTabla");
+    EnLaPrincipal(Ventana::Revisar, "dlgRevisar");
+    EnLaPrincipal(Ventana::Verificar, "dlgVerificar");
     Accion("mnuHelpContents").trigger();
     Revisa(apoyo::Control<QWidget>(escritorio.Principal(), "Ayuda"));
 }

@@ -69,6 +69,25 @@ class EditorDeTablas : public testing::Test {
     dlgTabla f;
 };
 
+TEST_F(EditorDeTablas, LasFilasSeOrdenanPorAlturaSinAplicarlas)
+{
+    AbreTabla();
+    Fila(1, {"12", "2.5", "3000"});
+    Fila(2, {"10", "1.5", "1000"});
+    Fila(3, {"10.0", "1.5", "1000"});  // the same numbers
+    const std::string antes = Archivo("_RHAS.vlm");
+    OrdenaPorAltura(f);
+    EXPECT_EQ(f.txtNroFilas, "2");
+    EXPECT_EQ(f.grilla.NroFilas(), 2);
+    EXPECT_EQ(T(1, 0) + " " + T(1, 1) + " " + T(1, 3), "1 10 1000");
+    EXPECT_EQ(T(2, 0) + " " + T(2, 1) + " " + T(2, 3), "2 12 3000");
+    EXPECT_TRUE(SinAplicar(f));
+    EXPECT_EQ(Archivo("_RHAS.vlm"), antes);
+    Fila(1, {"14", "x", "3000"});
+    OrdenaPorAltura(f);
+    EXPECT_EQ(T(1, 1), "14") << "with a cell that is no number nothing moves";
+}
+
 TEST_F(EditorDeTablas, LosTitulosEncabezadosYNombresSonLosDados)
 {
     const DescripcionTabla& shv = DescripcionDe(TipoTabla::SHV);
