@@ -118,7 +118,8 @@ std::vector<Hallazgo> ConArreglo(const dlgRevisar& f, const std::vector<std::siz
 {
     std::vector<Hallazgo> l;
     for (const std::size_t fila : filas) {
-        const Hallazgo& h = f.hallazgos.at(fila);
+        if (fila >= f.hallazgos.size()) continue;  // chosen among those that were there before
+        const Hallazgo& h = f.hallazgos[fila];
         if (h.arreglo != Arreglo::Ninguno && (h.arreglo == Arreglo::OrdenaTabla) == deTabla) l.push_back(h);
     }
     return l;

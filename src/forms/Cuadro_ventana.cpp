@@ -109,6 +109,7 @@ TablaCuadro::TablaCuadro(Entorno& alrededor, const Cuadro& cuadro, std::string_v
 
 TablaCuadro::~TablaCuadro()
 {
+    AlMoverse = [] {};  // the form that it told has gone before its controls
     setModel(nullptr);
 }
 

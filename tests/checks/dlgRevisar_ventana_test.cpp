@@ -164,6 +164,20 @@ TEST_F(VentanaRevisar, SigueALoQueCambia)
               "Arroyo, con los cambios del dibujo que no se han guardado");
 }
 
+TEST_F(VentanaRevisar, LosHallazgosQueSeVanDejanSusFilasSinElegidas)
+{
+    PulsaFila(2);
+    for (int i = 1; i <= 2; ++i) {
+        s.Red.ColCauces.Item(i).Cauce_k_Musk = 10;
+        s.Red.ColCauces.Item(i).Cauce_n_Musk = 0.2F;
+    }
+    s.Red.ColUEHs.Item(1).VelMedia = 1;
+    Guarda();
+    Pulsa(Control<QPushButton>(ventana, "cmdRevisar"));
+    EXPECT_LT(Tabla().model()->rowCount(), 3);
+    EXPECT_FALSE(Control<QPushButton>(ventana, "cmdCorregir").isEnabled());
+}
+
 TEST_F(VentanaRevisar, LaCuencaMedidaSeRevisaAlDejarElCampo)
 {
     auto& campo = Control<QLineEdit>(ventana, "txtCuenca");
