@@ -8,6 +8,7 @@ int main(int argc, char** argv)
 {
     const auto palabras = model::PalabrasDelProceso(argc, argv);
     std::vector<const char*> punteros;
+    punteros.reserve(palabras.size());
     for (const auto& palabra : palabras)
         punteros.push_back(palabra.c_str());
     return batch::Lote(static_cast<int>(punteros.size()), punteros.data(), batch::SalidasDelProceso());

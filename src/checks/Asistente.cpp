@@ -113,7 +113,7 @@ std::string ApunteDeMuskingum(ParMuskingum par, std::int16_t PasoQ, bool conX)
     const bool pasa = PasaMuskingum(par, PasoQ);
     if (EnVentana(par, PasoQ)) {
         const std::string bajo = conX ? "2Kx = " + Cifra(2 * K * x) + MenorOIgual : std::string{};
-        const std::string texto =
+        std::string texto =
             "Ventana de Muskingum: " + bajo + paso + MenorOIgual + alto + Cifra(2 * K * (1 - x)) + " min.";
         if (pasa) return texto;
         // Without x there is little room.

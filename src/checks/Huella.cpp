@@ -10,6 +10,7 @@
 
 #include "checks/Sha256.h"
 #include "model/Clases.h"
+#include "model/Siro.h"
 
 namespace checks {
 
@@ -203,22 +204,20 @@ std::string HuellaDeCorrida(const model::Red& red, const model::Tormenta& tormen
     return t.Cierra();
 }
 
-std::string HuellaDeSerie(const model::Red& red, const model::Tormenta& tormenta, const model::Pasos& pasos,
-                          const model::TablasDeLluvia& tablas, const model::Serie& serie,
-                          const std::vector<int>& numeros, const model::Resultados& resultados)
+std::string HuellaDeSerie(const model::Siro& s, const std::vector<int>& numeros)
 {
     Renglones t;
-    PoneRed(t, red);
-    PoneLluvia(t, tormenta, pasos, tablas);
-    const model::Resultados& r = resultados;
+    PoneRed(t, s.Red);
+    PoneLluvia(t, s.Tormenta, s.Pasos, s.TablasDeLluvia);
+    const model::Resultados& r = s.Resultados;
     for (const int k : numeros)
-        PoneTormenta(t, serie, k);
+        PoneTormenta(t, s.Serie, k);
     t.Abre("res").Pone(numeros.size());
     for (int f = 1; f <= r.NroComponentes; ++f) {
         t.Abre("q").Pone(r.Secuencia[static_cast<std::size_t>(f)]);
         for (const int k : numeros) {
             t.Fila(r.QMax, f, k, k);
-            if (f <= red.NroUEHs()) t.Fila(r.EscUEH, f, k, k).Fila(r.CoefEscUEH, f, k, k);
+            if (f <= s.Red.NroUEHs()) t.Fila(r.EscUEH, f, k, k).Fila(r.CoefEscUEH, f, k, k);
         }
     }
     t.Abre("fin");

@@ -7,6 +7,7 @@
 
 #include "model/Red.h"
 #include "model/Resultados.h"
+#include "model/SiroDeclarado.h"
 #include "model/Tormenta.h"
 
 // The hash of a run: who has the same 64 digits has run the same network under the same storm with the same
@@ -51,10 +52,8 @@ std::string_view Version();
 std::string HuellaDeCorrida(const model::Red& red, const model::Tormenta& tormenta, const model::Pasos& pasos,
                             const model::TablasDeLluvia& tablas, const model::Resultados& resultados);
 
-/// Hash of a series: of the storms `numeros`, from 1, that were run.
-std::string HuellaDeSerie(const model::Red& red, const model::Tormenta& tormenta, const model::Pasos& pasos,
-                          const model::TablasDeLluvia& tablas, const model::Serie& serie,
-                          const std::vector<int>& numeros, const model::Resultados& resultados);
+/// Hash of the series that a state has run: of the storms `numeros`, from 1.
+std::string HuellaDeSerie(const model::Siro& s, const std::vector<int>& numeros);
 
 /// Hash of the lines of the network alone.
 std::string HuellaDeRed(const model::Red& red);

@@ -11,23 +11,18 @@ using model::NumeroATexto;
 
 namespace {
 
-void Anota(Hallazgos& l, int numero, const std::string& componente, std::string que, std::string cuanto,
-           std::string remedio)
-{
-    l.push_back({Gravedad::Error, numero, componente, std::move(que), std::move(cuanto), std::move(remedio)});
-}
-
 void RevisaUEH(const model::UEH& u, Hallazgos& l)
 {
     constexpr const char* Remedio = "Corríjala en las propiedades de la UEH.";
     if (!(u.Area > 0))
-        Anota(l, 202, u.NombreUEH, "La superficie no es mayor que 0", NumeroATexto(u.Area) + " ha", Remedio);
+        l.push_back({Gravedad::Error, 202, u.NombreUEH, "La superficie no es mayor que 0",
+                     NumeroATexto(u.Area) + " ha", Remedio});
     if (!(u.VelMedia > 0))
-        Anota(l, 203, u.NombreUEH, "La velocidad media en ladera no es mayor que 0",
-              NumeroATexto(u.VelMedia) + " m/s", Remedio);
+        l.push_back({Gravedad::Error, 203, u.NombreUEH, "La velocidad media en ladera no es mayor que 0",
+                     NumeroATexto(u.VelMedia) + " m/s", Remedio});
     if (!(u.LongitudMax > 0))
-        Anota(l, 204, u.NombreUEH, "La longitud máxima en ladera no es mayor que 0",
-              NumeroATexto(u.LongitudMax) + " m", Remedio);
+        l.push_back({Gravedad::Error, 204, u.NombreUEH, "La longitud máxima en ladera no es mayor que 0",
+                     NumeroATexto(u.LongitudMax) + " m", Remedio});
 }
 
 /// K and x that a run would refuse, by the run's own test, and the nearest ones that it takes.
@@ -57,18 +52,19 @@ void RevisaCauce(const model::Cauce& c, std::int16_t PasoQ, Hallazgos& l)
     if (!c.optDirMusk)
         return RevisaMuskingum(c.NombreCauce, {c.Cauce_k_Musk, c.Cauce_n_Musk}, PasoQ, true, l);
     if (!(c.LongCauce > 0))
-        Anota(l, 211, c.NombreCauce, "La longitud del tramo no es mayor que 0",
-              NumeroATexto(c.LongCauce) + " m", Remedio);
+        l.push_back({Gravedad::Error, 211, c.NombreCauce, "La longitud del tramo no es mayor que 0",
+                     NumeroATexto(c.LongCauce) + " m", Remedio});
     if (!(c.VelMediaCauce > 0))
-        Anota(l, 212, c.NombreCauce, "La velocidad de la propagación directa no es mayor que 0",
-              NumeroATexto(c.VelMediaCauce) + " m/s", Remedio);
+        l.push_back({Gravedad::Error, 212, c.NombreCauce,
+                     "La velocidad de la propagación directa no es mayor que 0",
+                     NumeroATexto(c.VelMediaCauce) + " m/s", Remedio});
 }
 
 void RevisaEmbalse(const auto& e, float K, std::int16_t PasoQ, Hallazgos& l)
 {
     if (!engine::MetodoConocido(e.Metodo))
-        Anota(l, 214, model::Nombre(e), "No tiene método de propagación",
-              e.Metodo.empty() ? "" : "\"" + e.Metodo + "\"", "Elíjalo en sus propiedades.");
+        l.push_back({Gravedad::Error, 214, model::Nombre(e), "No tiene método de propagación",
+                     e.Metodo.empty() ? "" : "\"" + e.Metodo + "\"", "Elíjalo en sus propiedades."});
     else if (e.Metodo == engine::MetodoMuskingum)
         RevisaMuskingum(model::Nombre(e), {K, 0}, PasoQ, false, l);
 }
@@ -78,7 +74,8 @@ void RevisaEmbalse(const auto& e, float K, std::int16_t PasoQ, Hallazgos& l)
 void RevisaComponentes(const model::Red& red, std::int16_t PasoQ, Hallazgos& l)
 {
     if (red.ColUEHs.Cuenta() == 0)
-        Anota(l, 201, "", "No hay ninguna UEH", "", "Cargue al menos una en el editor.");
+        l.push_back(
+            {Gravedad::Error, 201, "", "No hay ninguna UEH", "", "Cargue al menos una en el editor."});
     for (const model::UEH& u : red.ColUEHs)
         RevisaUEH(u, l);
     for (const model::Cauce& c : red.ColCauces)

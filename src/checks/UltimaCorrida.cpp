@@ -48,8 +48,7 @@ std::shared_ptr<const UltimaCorrida> UltimaCorrida::DeSerie(const model::Siro& s
     u->serie = s.Serie;
     u->calculo.Resultados = s.Resultados;
     u->avisos = AvisosDeSerie(s, hilos);
-    u->huella = HuellaDeSerie(s.Red, s.Tormenta, s.Pasos, s.TablasDeLluvia, s.Serie,
-                              TormentasDeSerie(s).numeros, s.Resultados);
+    u->huella = HuellaDeSerie(s, TormentasDeSerie(s).numeros);
     return u;
 }
 
