@@ -73,6 +73,7 @@ void Area::Presenta(QWidget& ventana)
         hija->setAttribute(Qt::WA_DeleteOnClose, false);  // its window belongs to someone else
         hija->setObjectName(QStringLiteral("marco_") + ventana.objectName());
         ventana.installEventFilter(this);
+        hija->installEventFilter(this);
         hija->resize(PrimerTamano(ventana));
     }
     ventana.show();
@@ -97,12 +98,15 @@ void Area::Saca(QWidget& ventana)
     removeSubWindow(&ventana);
     removeSubWindow(hija);
     delete hija;
+    MuestraInicio();
 }
 
 // A window that closes itself leaves an empty frame, which goes with it. One that is minimized is hidden too.
 bool Area::eventFilter(QObject* objeto, QEvent* evento)
 {
-    auto* const ventana = qobject_cast<QWidget*>(objeto);
+    const bool deHija = qobject_cast<QMdiSubWindow*>(objeto) != nullptr;
+    if (deHija && (evento->type() == QEvent::Show || evento->type() == QEvent::Hide)) MuestraInicio();
+    auto* const ventana = deHija ? nullptr : qobject_cast<QWidget*>(objeto);
     if (evento->type() == QEvent::Hide && ventana != nullptr && ventana->isHidden()) {
         QMdiSubWindow* const hija = Hija(*ventana);
         if (hija != nullptr && !hija->isMinimized() && !hija->isShaded()) {
@@ -111,6 +115,29 @@ bool Area::eventFilter(QObject* objeto, QEvent* evento)
         }
     }
     return QMdiArea::eventFilter(objeto, evento);
+}
+
+void Area::PonInicio(QWidget& unInicio)
+{
+    inicio = &unInicio;
+    inicio->setParent(this);
+    inicio->setGeometry(viewport()->geometry());
+    MuestraInicio();
+}
+
+void Area::resizeEvent(QResizeEvent* evento)
+{
+    QMdiArea::resizeEvent(evento);
+    if (inicio != nullptr) inicio->setGeometry(viewport()->geometry());
+}
+
+void Area::MuestraInicio()
+{
+    if (inicio == nullptr) return;
+    const QList<QMdiSubWindow*> hijas = subWindowList();
+    const bool vacia = std::ranges::all_of(hijas, [](const QMdiSubWindow* hija) { return hija->isHidden(); });
+    inicio->setVisible(vacia);
+    if (vacia) inicio->raise();
 }
 
 void Area::ActivaLaUltima()

@@ -17,10 +17,15 @@ class Area : public QMdiArea {
     void Presenta(QWidget& ventana);
     /// Takes a window out, so that it can stand on its own; one that isn't here stays as it is.
     void Saca(QWidget& ventana);
+    /// What fills the room while no window is open in it, an icon counting as open. It belongs to the room.
+    void PonInicio(QWidget& unInicio);
     /// Arranging commands and, below them, the windows that are open; done anew whenever it opens.
     void LlenaMenu(QMenu& menu);
 
     bool eventFilter(QObject* objeto, QEvent* evento) override;
+
+  protected:
+    void resizeEvent(QResizeEvent* evento) override;
 
   private:
     [[nodiscard]] QMdiSubWindow* Hija(const QWidget& ventana) const;
@@ -29,6 +34,9 @@ class Area : public QMdiArea {
     /// The window that was at the front before the one that has gone.
     void ActivaLaUltima();
     void ListaVentanas(QMenu& menu);
+    void MuestraInicio();
+
+    QWidget* inicio = nullptr;
 };
 
 }  // namespace shell

@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <chrono>
 
+#include "checks/EscribeHallazgos.h"
 #include "checks/Lugares.h"
 #include "forms/Cajas_ventana.h"
 #include "forms/Textos_ventana.h"
@@ -120,6 +121,7 @@ void Escritorio::PonVentanas()
     ventanaHidrograma = std::make_unique<results::dlgChart2_ventana>(entorno, hidrograma);
     ventanasSerie = std::make_unique<results::VentanasDeSerie>(entorno);
     PonEstudio();
+    PonInicio();
     ventanaEmpiricas = std::make_unique<empirical::dlgEmpiricas_ventana>(entorno, empiricas);
     ventanaAyuda = std::make_unique<Ayuda_ventana>(entorno);
     ventanasEditor = std::make_unique<editor::VentanasDelEditor>(
@@ -171,6 +173,27 @@ void Escritorio::PonEstudio()
         ventanaPrincipal->activateWindow();
         return hechos;
     };
+}
+
+/// The room's first sheet follows each event, as the line of the status bar does.
+void Escritorio::PonInicio()
+{
+    const auto orden = [this](Rutina rutina) { ventanaPrincipal->Ejecuta(rutina); };
+    auto* const inicio = new Inicio_ventana(entorno, orden, &ventanaPrincipal->Ventanas());
+    inicio->AbreTutorial = [this] { AyudaDeVentana(s, mandos, "tutorial"); };
+    inicio->Corrida = [this]() -> CorridaHecha {
+        if (!ventanasEstudio->HayCorrida()) return {};
+        const checks::Sello suyo = ventanasEstudio->SelloDeResultados(), ahora = checks::SelloDe(s);
+        const JuicioDeCorrida& juicio = ventanasEstudio->Juicio();
+        const bool juzgada = !juicio.EnCurso() && juicio.Ultima() != nullptr;
+        return {.hay = true,
+                .deOtro = suyo.proyecto != ahora.proyecto,
+                .cuando = ventanasEstudio->Cuando(),
+                .difiere = checks::QueDifiere(suyo, ahora),
+                .avisos = juzgada ? checks::Suma(juicio.Ultima()->avisos, "sin avisos") : std::string{}};
+    };
+    ventanaPrincipal->Ventanas().PonInicio(*inicio);
+    entorno.AlTerminarSuceso(*inicio, [inicio] { inicio->RefrescaLuego(); });
 }
 
 /// Opens the place where a finding can be changed, with a table's rows put in order where `ordenada`. One

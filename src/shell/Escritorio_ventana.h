@@ -22,6 +22,7 @@
 #include "shell/Arranque.h"
 #include "shell/Ayuda_ventana.h"
 #include "shell/Candado_ventana.h"
+#include "shell/Inicio_ventana.h"
 #include "shell/MDIForm1.h"
 #include "shell/MDIForm1_ventana.h"
 #include "shell/VentanasDeEstudio_ventana.h"
@@ -70,6 +71,7 @@ class Escritorio {
     void PonVentanas();
     void PonLluvia();
     void PonEstudio();
+    void PonInicio();
     void VeAHallazgo(const checks::Hallazgo& hallazgo, bool ordenada);
     void PonFranjas();
     void PonAvance();

@@ -27,6 +27,8 @@ class MDIForm1_ventana : public QMainWindow, protected forms::Constructor {
     void GuardaLugar();
     void Muestra() override;
 
+    /// Does what an entry of the menu does, as an event.
+    void Ejecuta(Rutina rutina);
     /// Where Slate, charts and tables stand.
     Area& Ventanas() { return *area; }
 
@@ -40,7 +42,6 @@ class MDIForm1_ventana : public QMainWindow, protected forms::Constructor {
     QAction* AgregaEntrada(QMenu& menu, const FilaMenu& fila);
     void ArmaBarra();
     QWidget* ArmaRotulos(QWidget* padre);
-    void Ejecuta(Rutina rutina);
 
     MDIForm1& f;
     const Mandos& mandos;

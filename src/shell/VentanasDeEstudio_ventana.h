@@ -29,6 +29,9 @@ class VentanasDeEstudio {
     void TrasSerie();
     /// What the results in memory are of; of the state in memory before the first run.
     [[nodiscard]] checks::Sello SelloDeResultados() const;
+    /// Whether a run has been made in this session, and when the last one was.
+    [[nodiscard]] bool HayCorrida() const { return corrido; }
+    [[nodiscard]] const std::string& Cuando() const { return cuando; }
     JuicioDeCorrida& Juicio() { return juicio; }
     /// The check before a run; what it asks of the editor is set from outside.
     checks::dlgRevisar_ventana& VentanaRevisar() { return ventanaRevisar; }

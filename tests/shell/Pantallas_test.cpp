@@ -9,6 +9,7 @@
 #include <QScreen>
 #include <QTabBar>
 #include <QTimer>
+#include <algorithm>
 #include <cstdlib>
 #include <string>
 
@@ -16,6 +17,7 @@
 #include "apoyo/Ventanas.h"
 #include "editor/FormasDeComponentes_ventana.h"
 #include "rainfall/dlgImportaTormenta_ventana.h"
+#include "shell/Tarjeta_ventana.h"
 
 // Every window of the program on the screen of this run, which SIRO_PANTALLA names: it lies inside the
 // screen, and its buttons are in sight. With SIRO_FOTOS a folder, a picture of each is left there.
@@ -87,13 +89,13 @@ struct Pantallas : EscritorioDePrueba {
         return false;
     }
 
-    static void Retrata(QWidget& ventana)
+    static void Retrata(QWidget& ventana, const QString& aparte = {})
     {
         const char* const carpeta = std::getenv("SIRO_FOTOS");
         if (carpeta == nullptr) return;
         QWidget* const marco = qobject_cast<QMdiSubWindow*>(ventana.parentWidget());
-        const QString archivo =
-            QString::fromUtf8(carpeta) + QLatin1Char('/') + ventana.objectName() + QStringLiteral(".png");
+        const QString archivo = QString::fromUtf8(carpeta) + QLatin1Char('/') + ventana.objectName() +
+                                aparte + QStringLiteral(".png");
         EXPECT_TRUE((marco != nullptr ? marco->window() : &ventana)->grab().save(archivo));
     }
 
@@ -141,6 +143,50 @@ TEST_F(Pantallas, LaVentanaPrincipalYLasQueEstanEnElla)
     EnLaPrincipal(Ventana::Verificar, "dlgVerificar");
     Accion("mnuHelpContents").trigger();
     Revisa(apoyo::Control<QWidget>(escritorio.Principal(), "Ayuda"));
+}
+
+// With none, three and ten projects, one of them gone, one with a long name; each key is as wide as its
+// column, and none lies over another.
+TEST_F(Pantallas, LaHojaDeInicio)
+{
+    QSettings& ajustes = escritorio.entorno.Ajustes();
+    auto& hoja = apoyo::Control<QWidget>(escritorio.Principal(), "Inicio");
+    const QString largo =
+        QStringLiteral("Arroyo de los Sauces y de la Cuesta del Portezuelo Alto, margen derecha");
+    for (const int cuantos : {0, 3, 10})
+        for (const bool abierto : {false, true}) {
+            ajustes.remove(QStringLiteral("inicio/recientes"));
+            ajustes.beginWriteArray(QStringLiteral("inicio/recientes"), cuantos);
+            for (int i = 0; i < cuantos; ++i) {
+                ajustes.setArrayIndex(i);
+                ajustes.setValue(QStringLiteral("ruta"),
+                                 i == 2 ? QStringLiteral("/media/disco/obras/2024/Norte_Conf.vlm")
+                                        : forms::Q(instalacion.Quelmar()));
+                ajustes.setValue(QStringLiteral("cuenca"), i == 1 ? largo : QStringLiteral("Río Quelmar"));
+                ajustes.setValue(QStringLiteral("cuando"), QStringLiteral("22/11/2026 10:0%1").arg(i));
+            }
+            ajustes.endArray();
+            escritorio.s.Proyecto.NombreProyecto = abierto ? "Quelmar" : "";
+            escritorio.entorno.Atiende([] {});
+            const auto visibles = [&hoja] {
+                const auto todas = hoja.findChildren<Tarjeta*>();
+                return std::ranges::count_if(todas, [](const Tarjeta* t) { return t->isVisible(); });
+            };
+            EXPECT_TRUE(Espera([&] { return visibles() == (abierto ? 4 : 2) + 2 + cuantos; }));
+            QTest::qWait(50);  // and laid out
+            Retrata(escritorio.Principal(),
+                    QStringLiteral("_inicio_%1_%2").arg(cuantos).arg(abierto ? 1 : 0));
+            EXPECT_TRUE(hoja.isVisible());
+            QList<QRect> lugares;
+            for (const Tarjeta* tarjeta : hoja.findChildren<Tarjeta*>()) {
+                if (!tarjeta->isVisible()) continue;
+                const QRect lugar(tarjeta->mapTo(&hoja, QPoint()), tarjeta->size());
+                EXPECT_GE(lugar.height(), tarjeta->sizeHint().height());
+                for (const QRect& otro : lugares)
+                    EXPECT_FALSE(lugar.intersects(otro)) << DeQ(tarjeta->objectName());
+                lugares.append(lugar);
+            }
+        }
 }
 
 TEST_F(Pantallas, LosDialogosDelMenu)
