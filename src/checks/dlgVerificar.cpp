@@ -168,7 +168,8 @@ forms::Grafico GraficoDeCaso(const Caso& c)
     g.series = {{forms::TipoSerie::Linea2D, nombre, false, c.serie.impreso},
                 {forms::TipoSerie::Linea2D, "SIRO", false, c.serie.nuestro}};
     for (std::size_t k = 0; k < c.serie.impreso.size(); ++k)
-        if (!std::isnan(c.serie.impreso[k])) g.marcas.push_back({0, k, ""});
+        if (!std::isnan(c.serie.impreso[k]))
+            g.marcas.push_back({0, k, CuantasCifras(c) == 1 ? Numero(c.serie.impreso[k]) : ""});
     return g;
 }
 

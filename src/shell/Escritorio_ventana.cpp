@@ -21,6 +21,7 @@ namespace shell {
 namespace {
 
 constexpr std::chrono::milliseconds LatidoPortada{10};
+constexpr std::chrono::seconds EsperaDelEditor{2};
 
 /// Place of a component in the order of the results in memory; 0 where it isn't there.
 std::int16_t LugarEnSecuencia(const model::Siro& s, const std::string& componente)
@@ -124,8 +125,13 @@ void Escritorio::PonVentanas()
     PonInicio();
     ventanaEmpiricas = std::make_unique<empirical::dlgEmpiricas_ventana>(entorno, empiricas);
     ventanaAyuda = std::make_unique<Ayuda_ventana>(entorno);
-    ventanasEditor = std::make_unique<editor::VentanasDelEditor>(
-        entorno, [this](bool visible) { ventanaPrincipal->setVisible(visible); });
+    ventanasEditor = std::make_unique<editor::VentanasDelEditor>(entorno, [this](bool visible) {
+        // Until the editor has come up behind it, taken the keyboard and lost it again.
+        if (principalQueda && !visible)
+            return QTimer::singleShot(0, ventanaPrincipal.get(), [this] { TraePrincipal(); });
+        principalQueda = false;
+        ventanaPrincipal->setVisible(visible);
+    });
     ventanaPizarra = std::make_unique<results::frmPp_ventana>(entorno, pizarra);
     results::PonPizarra(s.Anfitrion, pizarra, *ventanaPizarra,
                         principal.Estado(Variable::mnuPizarra1).marcada,
@@ -162,15 +168,14 @@ void Escritorio::PonEstudio()
     checks::dlgRevisar_ventana& revisar = ventanasEstudio->VentanaRevisar();
     revisar.DibujoSinGuardar = [this] { return ventanasEditor->SinGuardar(); };
     revisar.Va = [this](const checks::Hallazgo& h) { VeAHallazgo(h, false); };
-    revisar.Ordena = [this](const checks::Hallazgo& h) { VeAHallazgo(h, true); };
+    revisar.Ordena = [this](const checks::Hallazgo& h) { ConLaListaALaVista([&] { VeAHallazgo(h, true); }); };
     revisar.Corrige = [this](const std::vector<checks::Hallazgo>& hallazgos) {
-        mnufrmUEHs(principal, s, mandos);
-        if (!ventanasEditor->red.abierta || entorno.Terminando()) return 0;
-        const int hechos = ventanasEditor->Corrige(hallazgos);
-        // The list stays in sight; the editor stands behind it.
-        ventanaPrincipal->show();
-        ventanaPrincipal->raise();
-        ventanaPrincipal->activateWindow();
+        int hechos = 0;
+        ConLaListaALaVista([&] {
+            if (!ventanasEditor->red.abierta) mnufrmUEHs(principal, s, mandos);
+            if (ventanasEditor->red.abierta && !entorno.Terminando())
+                hechos = ventanasEditor->Corrige(hallazgos);
+        });
         return hechos;
     };
 }
@@ -194,6 +199,27 @@ void Escritorio::PonInicio()
     };
     ventanaPrincipal->Ventanas().PonInicio(*inicio);
     entorno.AlTerminarSuceso(*inicio, [inicio] { inicio->RefrescaLuego(); });
+}
+
+/// Does something that opens the editor, which comes up behind the main window this time.
+void Escritorio::ConLaListaALaVista(const std::function<void()>& cuerpo)
+{
+    principalQueda = true;
+    cuerpo();
+    if (entorno.Terminando()) return;
+    if (!ventanasEditor->red.abierta) principalQueda = false;
+    TraePrincipal();
+    // A window manager that never gives the editor the keyboard mustn't keep the user from it later on.
+    QTimer::singleShot(EsperaDelEditor, ventanaPrincipal.get(), [this] { principalQueda = false; });
+}
+
+/// Not over a form that the user is in.
+void Escritorio::TraePrincipal()
+{
+    if (QApplication::activeModalWidget() != nullptr) return;
+    ventanaPrincipal->show();
+    ventanaPrincipal->raise();
+    ventanaPrincipal->activateWindow();
 }
 
 /// Opens the place where a finding can be changed, with a table's rows put in order where `ordenada`. One

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -73,6 +74,8 @@ class Escritorio {
     void PonEstudio();
     void PonInicio();
     void VeAHallazgo(const checks::Hallazgo& hallazgo, bool ordenada);
+    void ConLaListaALaVista(const std::function<void()>& cuerpo);
+    void TraePrincipal();
     void PonFranjas();
     void PonAvance();
     void PonMandos();
@@ -81,6 +84,7 @@ class Escritorio {
     void PonBajo(QWidget& ventana, QWidget& dueno);
 
     Mandos mandos{};
+    bool principalQueda = false;  ///< the editor that comes up doesn't hide the main window
     Candado candado{};
 
     // The windows below the main one go first.

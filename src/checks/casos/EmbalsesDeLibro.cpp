@@ -113,7 +113,7 @@ Comparacion PonceTriangulo(std::string_view metodo)
         const double sube = Punta * t / HastaLaPunta, baja = Punta * (Base - t) / (Base - HastaLaPunta);
         entra.push_back(std::max(0.0, std::min(sube, baja)));
     }
-    return {{8}, {195.26}, {SaleDeRepresa(banco, entra, 60)[8]}};
+    return UnaCifra(SaleDeRepresa(banco, entra, 60), 8, 195.26);
 }
 
 // --- rows ---

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstddef>
+#include <limits>
 #include <span>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 // The cases by families, a file each: to add one is to add a row and the function that runs it.
@@ -12,6 +15,19 @@ namespace checks::casos {
 struct Comparacion {
     std::vector<double> x, impreso, nuestro;
 };
+
+/// One figure of the source at a place of a curve, whose steps count from 0: the rest of the curve is shown,
+/// and not compared.
+inline Comparacion UnaCifra(std::vector<double> nuestro, std::size_t lugar, double impreso)
+{
+    Comparacion c;
+    c.impreso.assign(nuestro.size(), std::numeric_limits<double>::quiet_NaN());
+    c.impreso.at(lugar) = impreso;
+    for (std::size_t k = 0; k < nuestro.size(); ++k)
+        c.x.push_back(static_cast<double>(k));
+    c.nuestro = std::move(nuestro);
+    return c;
+}
 
 /// A case before it is run; `Caso` tells what its texts are.
 struct FilaDeCaso {

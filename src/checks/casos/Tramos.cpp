@@ -77,7 +77,7 @@ Comparacion CoeficientesDePonce()
 
 Comparacion PicoDePonce()
 {
-    return {{6}, {150.353}, {SaleDelTramo(EntraDePonce, KDePonce, PesoDePonce)[6]}};
+    return UnaCifra(SaleDelTramo(EntraDePonce, KDePonce, PesoDePonce), 6, 150.353);
 }
 
 /// A reach of 1800 m at 1 m/s hands on what comes in, 30 min later.
