@@ -15,7 +15,11 @@ VentanasDeEstudio::VentanasDeEstudio(forms::Entorno& alrededor, MDIForm1_ventana
       ventanaVerificar(alrededor, verificar)
 {
     entorno.AlTerminarSuceso(juicio, [this] { MuestraEstado(); });
-    juicio.AlCambiar = [this] { MuestraEstado(); };
+    juicio.AlCambiar = [this] {
+        MuestraEstado();
+        mapa.Refresca();
+    };
+    mapa.AbreHidrograma = [this](const std::string& componente) { AbreHidrograma(componente); };
     linea.AlPedirAvisos = [this] { entorno.Atiende([this] { Abre(Ventana::Avisos); }); };
     MuestraEstado();
 }
@@ -45,6 +49,7 @@ void VentanasDeEstudio::Abre(Ventana ventana)
 {
     if (ventana == Ventana::Revisar) ventanaRevisar.Abre();
     if (ventana == Ventana::Verificar) ventanaVerificar.Abre();
+    if (ventana == Ventana::Mapa) mapa.Abre();
 }
 
 void VentanasDeEstudio::MuestraEstado()

@@ -14,6 +14,7 @@
 #include "shell/LineaDeEstado_ventana.h"
 #include "shell/MDIForm1.h"
 #include "shell/MDIForm1_ventana.h"
+#include "shell/MapaDeEstudio_ventana.h"
 
 namespace shell {
 
@@ -53,6 +54,7 @@ class VentanasDeEstudio {
     bool corrido = false;  ///< a run has been made
     std::string cuando{};  ///< date and time of the last run
     JuicioDeCorrida juicio{};
+    MapaDeEstudio mapa{entorno, juicio};
     LineaDeEstado linea;
     checks::dlgRevisar revisar{};
     checks::dlgVerificar verificar{};

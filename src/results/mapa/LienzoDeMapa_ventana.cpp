@@ -114,7 +114,7 @@ void LienzoDeMapa::paintEvent(QPaintEvent* /*evento*/)
     if (vencidas) RehaceCapas();
     QPainter pincel(this);
     pincel.drawPixmap(0, 0, debajo);
-    pintor.PintaAgua(pincel, f, true);
+    pintor.PintaAgua(pincel, f);
     pincel.drawPixmap(0, 0, encima);
     pincel.setPen(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid));
     pincel.drawRect(rect().adjusted(0, 0, -1, -1));

@@ -53,6 +53,11 @@ bool TocaCauce(const ComponenteDelMapa& c, const VistaDeMapa& v, Pixel en, doubl
 
 }  // namespace
 
+std::string TextoDePaso(const MapaDeCorrida& f, int paso)
+{
+    return TextoDeTiempo(paso * f.red.minutos) + " h   paso " + Entero(paso) + " de " + Entero(f.red.pasos);
+}
+
 int PasoDelPico(const RedDeCorrida& red)
 {
     const ComponenteDelMapa* const mayor = ElDelPico(red);

@@ -60,6 +60,8 @@ struct MapaDeCorrida {
 /// window closes.
 void Muestra(MapaDeCorrida& f, RedDeCorrida red, const forms::Procedencia& procedencia);
 
+/// Time and number of a step: "2:20 h   paso 14 de 60".
+std::string TextoDePaso(const MapaDeCorrida& f, int paso);
 /// Goes to a step, the nearest where there is none.
 void PonPaso(MapaDeCorrida& f, int paso);
 /// The step of the greatest flow of the run, the first one of a run without any.

@@ -33,6 +33,7 @@ MapaDeCorrida_ventana::MapaDeCorrida_ventana(forms::Entorno& alrededor, MapaDeCo
     Sigue(f.abierta);
     QLabel* const titulo = EnNegrita(Texto("lblTitulo", f.lblTitulo));
     titulo->setAlignment(Qt::AlignCenter);
+    titulo->setWordWrap(true);
     lienzo->AlElegir = [this](int componente) { Elige(componente); };
     lienzo->AlTeclear = [this](const QKeyEvent& evento) { return Teclea(evento); };
     lienzo->AlPedirMenu = [this](QPoint donde) { AbreMenu(donde); };
@@ -48,8 +49,6 @@ QLayout* MapaDeCorrida_ventana::Tiempo()
     sldTiempo->setPageStep(PasosPorPagina);
     connect(sldTiempo, &QSlider::valueChanged, this, [this](int paso) { Suceso([&] { PonPaso(f, paso); }); });
     lblTiempo = Texto("lblTiempo", f.lblTiempo);
-    lblTiempo->setMinimumWidth(
-        fontMetrics().horizontalAdvance(QStringLiteral("000:00 h   paso 00000 de 00000")));
     reproducir = Boton("cmdReproducir", [this] { cmdReproducir(f); });
     for (const QString& texto : {QStringLiteral("&Reproducir"), QStringLiteral("&Detener")}) {
         reproducir->setText(texto);
@@ -92,6 +91,7 @@ QLayout* MapaDeCorrida_ventana::Botones()
 void MapaDeCorrida_ventana::Abre(RedDeCorrida red, const forms::Procedencia& procedencia, FondoDeMapa fondo)
 {
     results::Muestra(f, std::move(red), procedencia);
+    lblTiempo->setMinimumWidth(fontMetrics().horizontalAdvance(Q(TextoDePaso(f, f.red.pasos))));
     lienzo->PonCorrida(std::move(fondo));
     Muestra();
     if (!f.abierta) return;

@@ -76,6 +76,42 @@ QSizeF Mide(const QString& texto, const QFontMetricsF& m)
     return {std::ceil(ancho) + 2 * Borde, m.lineSpacing() * static_cast<double>(renglones.size())};
 }
 
+void PintaCauce(QPainter& pintor, const QPolygonF& linea, double parte, bool elegido)
+{
+    const double ancho = AnchoDeCauce(parte);
+    const auto traza = [&](const QColor& color, double cuanto) {
+        pintor.setPen(QPen(color, cuanto, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        pintor.setBrush(Qt::NoBrush);
+        forms::PintaPolilinea(pintor, linea);
+    };
+    if (elegido) traza(QColor(Elegido), ancho + 8);
+    traza(QColor(Contorno), ancho + 2 * BordeDeCauce);
+    traza(ColorDe(parte), ancho);
+}
+
+/// Boxes over a line of a width.
+void Cubre(std::vector<Caja>& cajas, const QPolygonF& linea, double ancho)
+{
+    constexpr double Paso = 8;
+    double queda = 0;
+    for (qsizetype i = 1; i < linea.size(); ++i) {
+        const QLineF tramo(linea[i - 1], linea[i]);
+        const double largo = tramo.length();
+        for (; queda <= largo && largo > 0; queda += Paso) {
+            const QPointF p = tramo.pointAt(queda / largo);
+            cajas.push_back({p.x() - ancho / 2, p.y() - ancho / 2, ancho, ancho});
+        }
+        queda -= largo;
+    }
+}
+
+/// Width or side at a component's peak [pixels].
+double Mayor(const MapaDeCorrida& f, const ComponenteDelMapa& c)
+{
+    const double parte = f.escala.Parte(c.Pico());
+    return c.EsCauce() ? AnchoDeCauce(parte) : LadoDeSimbolo(parte);
+}
+
 double AnchoDeLeyenda(const QFont& letra)
 {
     return std::ceil(QFontMetricsF(letra).horizontalAdvance(QStringLiteral("Caudal [m3/s]"))) + 24;
@@ -93,7 +129,7 @@ Caja PintorDeMapa::MarcoDeRed(QSizeF lienzo, const QFont& letra)
 void PintorDeMapa::Prepara(const MapaDeCorrida& f, const VistaDeMapa& v, QSizeF unLienzo,
                            const QFont& suLetra)
 {
-    constexpr double LargoConFlecha = 24, LadoDeFlecha = 5;
+    constexpr double LargoConFlecha = 24, LadoDeFlecha = 6;
     vista = v;
     lienzo = unLienzo;
     letra = suLetra;
@@ -110,25 +146,37 @@ void PintorDeMapa::Prepara(const MapaDeCorrida& f, const VistaDeMapa& v, QSizeF 
     PreparaRotulos(f);
 }
 
+/// All of it as large as it ever gets, so that a label stays where it is while the time goes on.
+Estorbos PintorDeMapa::EstorbosDe(const MapaDeCorrida& f) const
+{
+    Estorbos estorbos;
+    for (const Flecha& flecha : flechas)
+        estorbos.obstaculos.push_back({flecha.medio.en.x - flecha.lado, flecha.medio.en.y - flecha.lado,
+                                       2 * flecha.lado, 2 * flecha.lado});
+    for (std::size_t i = 0; i < lineas.size(); ++i) {
+        const ComponenteDelMapa& c = f.red.componentes[i];
+        if (lineas[i].isEmpty()) continue;
+        const double lado = Mayor(f, c);
+        const QPointF p = lineas[i].first();
+        if (c.EsCauce())
+            Cubre(estorbos.evitables, lineas[i], lado);
+        else
+            estorbos.obstaculos.push_back({p.x() - lado / 2, p.y() - lado / 2, lado, lado});
+    }
+    return estorbos;
+}
+
 void PintorDeMapa::PreparaRotulos(const MapaDeCorrida& f)
 {
     constexpr double Aparte = 4;
     pedidos.clear();
     textos.clear();
-    std::vector<Caja> obstaculos;
     const QFontMetricsF medidas(letra);
-    for (const Flecha& flecha : flechas)
-        obstaculos.push_back({flecha.medio.en.x - flecha.lado, flecha.medio.en.y - flecha.lado,
-                              2 * flecha.lado, 2 * flecha.lado});
     for (const int i : OrdenDeRotulos(f)) {
         const ComponenteDelMapa& c = f.red.componentes[static_cast<std::size_t>(i)];
         const std::optional<Pixel> centro = CentroDe(c, vista);
         if (!centro || !marco.Encierra({centro->x, centro->y, 0, 0})) continue;
-        // As large as it ever gets, so that a label stays where it is while the time goes on.
-        const double parte = f.escala.Parte(c.Pico());
-        const double lado = c.EsCauce() ? AnchoDeCauce(parte) : LadoDeSimbolo(parte);
-        if (!c.EsCauce()) obstaculos.push_back({centro->x - lado / 2, centro->y - lado / 2, lado, lado});
-        RotuloPedido pedido{.en = *centro, .aparte = lado / 2 + Aparte};
+        RotuloPedido pedido{.en = *centro, .aparte = Mayor(f, c) / 2 + Aparte};
         std::vector<QString> suyos;
         for (const std::string& texto : TextosDeRotulo(f, c)) {
             suyos.push_back(forms::Q(texto));
@@ -139,7 +187,7 @@ void PintorDeMapa::PreparaRotulos(const MapaDeCorrida& f)
         pedidos.push_back(std::move(pedido));
         textos.push_back(std::move(suyos));
     }
-    puestos = ColocaRotulos(pedidos, marco, obstaculos);
+    puestos = ColocaRotulos(pedidos, marco, EstorbosDe(f));
 }
 
 const QString& PintorDeMapa::Texto(const RotuloPuesto& puesto) const
@@ -238,20 +286,7 @@ void PintorDeMapa::PintaClave(QPainter& pintor, QPointF en) const
 
 // --- the water ---
 
-void PintorDeMapa::PintaCauce(QPainter& pintor, const QPolygonF& linea, double parte, bool elegido,
-                              bool enPantalla) const
-{
-    const double ancho = AnchoDeCauce(parte);
-    const auto traza = [&](const QColor& color, double cuanto) {
-        pintor.setPen(QPen(color, cuanto, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        enPantalla ? forms::PintaLineaDensa(pintor, linea) : forms::PintaPolilinea(pintor, linea);
-    };
-    if (elegido) traza(QColor(Elegido), ancho + 8);
-    traza(QColor(Contorno), ancho + 2 * BordeDeCauce);
-    traza(ColorDe(parte), ancho);
-}
-
-void PintorDeMapa::PintaAgua(QPainter& pintor, const MapaDeCorrida& f, bool enPantalla) const
+void PintorDeMapa::PintaAgua(QPainter& pintor, const MapaDeCorrida& f) const
 {
     pintor.save();
     pintor.setRenderHint(QPainter::Antialiasing);
@@ -261,7 +296,7 @@ void PintorDeMapa::PintaAgua(QPainter& pintor, const MapaDeCorrida& f, bool enPa
         const double parte = ParteDe(f, c);
         const bool elegido = f.elegido == static_cast<int>(i);
         if (c.EsCauce()) {
-            PintaCauce(pintor, lineas[i], parte, elegido, enPantalla);
+            PintaCauce(pintor, lineas[i], parte, elegido);
             continue;
         }
         pintor.setPen(QPen(QColor(elegido ? Elegido : Contorno), elegido ? 3 : BordeDeCauce));

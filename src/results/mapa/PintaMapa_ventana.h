@@ -35,7 +35,7 @@ class PintorDeMapa {
 
     // --- the layers, from the lowest to the highest ---
     void PintaFondo(QPainter& pintor, const MapaDeCorrida& f, const FondoDeMapa& fondo) const;
-    void PintaAgua(QPainter& pintor, const MapaDeCorrida& f, bool enPantalla) const;
+    void PintaAgua(QPainter& pintor, const MapaDeCorrida& f) const;
     void PintaRotulos(QPainter& pintor, const MapaDeCorrida& f) const;
 
     /// Labels that stand on the map, as they read, and where.
@@ -50,11 +50,10 @@ class PintorDeMapa {
         double lado = 0;
     };
     void PreparaRotulos(const MapaDeCorrida& f);
+    [[nodiscard]] Estorbos EstorbosDe(const MapaDeCorrida& f) const;
     void PintaAfuera(QPainter& pintor) const;
     void PintaLeyenda(QPainter& pintor, const MapaDeCorrida& f) const;
     void PintaClave(QPainter& pintor, QPointF en) const;
-    void PintaCauce(QPainter& pintor, const QPolygonF& linea, double parte, bool elegido,
-                    bool enPantalla) const;
 
     VistaDeMapa vista{};
     QSizeF lienzo{};

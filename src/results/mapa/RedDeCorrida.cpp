@@ -5,8 +5,6 @@
 #include <cmath>
 #include <string_view>
 
-#include "model/Numeros.h"
-
 namespace results {
 
 using forms::Pixel;
@@ -137,17 +135,6 @@ RedDeCorrida CopiaDeCorrida(const Red& red, const model::Pasos& pasos, const mod
     agrega.template operator()<model::Represa>();
     copia.extension = Extension(copia.componentes);
     return copia;
-}
-
-std::string TextoDeTormenta(const model::Tormenta& t, const model::Pasos& pasos)
-{
-    const auto entero = [](std::int16_t n) { return model::NumeroATexto(std::int32_t{n}); };
-    std::string texto = t.FormaPp == model::FormaLluvia::PorUEH
-                            ? "P por UEH"
-                            : "P= " + model::NumeroATexto(t.PpTormenta) + " mm";
-    texto.append(";  D= ").append(entero(t.DurTormenta)).append(" min");
-    if (t.RecTormenta != 0) texto.append(";  R= ").append(entero(t.RecTormenta)).append(" años");
-    return texto.append(";  paso= ").append(entero(pasos.PasoQ)).append(" min");
 }
 
 }  // namespace results

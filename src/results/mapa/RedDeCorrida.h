@@ -42,7 +42,4 @@ struct RedDeCorrida {
 /// The copy. Components whose rows or vertices aren't in memory are drawn as far as they are.
 RedDeCorrida CopiaDeCorrida(const model::Red& red, const model::Pasos& pasos, const model::Resultados& r);
 
-/// The storm as the map's title tells it: "P= 80 mm;  D= 120 min;  R= 10 años;  paso= 5 min".
-std::string TextoDeTormenta(const model::Tormenta& tormenta, const model::Pasos& pasos);
-
 }  // namespace results

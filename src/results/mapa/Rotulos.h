@@ -40,10 +40,17 @@ struct RotuloPuesto {
     bool operator==(const RotuloPuesto&) const = default;
 };
 
+/// What lies on the map already.
+struct Estorbos {
+    std::vector<Caja> obstaculos{};  ///< symbols, arrows
+    std::vector<Caja> evitables{};   ///< pieces of reaches
+};
+
 /// Places labels one by one in the order given, those that matter most first: to the right of what they
 /// belong to, else left, below, above, then at the corners; the fullest text that has room. A place lies
-/// within the frame, and on no label placed before and no obstacle. One without any stays out.
+/// within the frame, and on no label placed before and no obstacle, nor on what it would rather leave free
+/// unless there is no other place. One without any stays out.
 std::vector<RotuloPuesto> ColocaRotulos(const std::vector<RotuloPedido>& pedidos, const Caja& marco,
-                                        const std::vector<Caja>& obstaculos);
+                                        const Estorbos& estorbos);
 
 }  // namespace results

@@ -43,7 +43,7 @@ class Salida {
         papel.save();
         papel.translate(0, Encabezado());
         pintor.PintaFondo(papel, mapa.f, mapa.lienzo.Fondo());
-        pintor.PintaAgua(papel, mapa.f, false);
+        pintor.PintaAgua(papel, mapa.f);
         pintor.PintaRotulos(papel, mapa.f);
         papel.restore();
         // Last, since not every device clips what a picture drawn large has beyond its edge.

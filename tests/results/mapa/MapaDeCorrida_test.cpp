@@ -123,15 +123,6 @@ TEST_F(CopiaDelMapa, LoQueNoEstaEnMemoriaNoSeDibuja)
     EXPECT_TRUE(CopiaDeCorrida({}, {}, {}).componentes.empty());
 }
 
-TEST_F(CopiaDelMapa, LaTormentaSeDiceEnUnRenglon)
-{
-    EXPECT_EQ(TextoDeTormenta(corrida.tormenta, corrida.pasos), "P= 80 mm;  D= 120 min;  paso= 10 min");
-    corrida.tormenta.RecTormenta = 25;
-    corrida.tormenta.FormaPp = model::FormaLluvia::PorUEH;
-    EXPECT_EQ(TextoDeTormenta(corrida.tormenta, corrida.pasos),
-              "P por UEH;  D= 120 min;  R= 25 años;  paso= 10 min");
-}
-
 // --- the map ---
 
 struct ReglasDelMapa : CopiaDelMapa {

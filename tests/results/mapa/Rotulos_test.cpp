@@ -32,7 +32,7 @@ TEST(Rotulos, SinLugarQuedanAfuera)
 
 TEST(Rotulos, UnObstaculoYElBordeLosCorren)
 {
-    EXPECT_EQ(ColocaRotulos({EnElMedio}, Marco, {{60, 40, 5, 20}}).at(0).caja, (Caja{25, 45, 20, 10}));
+    EXPECT_EQ(ColocaRotulos({EnElMedio}, Marco, {{{60, 40, 5, 20}}}).at(0).caja, (Caja{25, 45, 20, 10}));
     EXPECT_EQ(ColocaRotulos({{{95, 50}, 5, {{0, 0, 20, 10}}}}, Marco, {}).at(0).caja, (Caja{70, 45, 20, 10}));
     // In the lower right corner: left of it there is no room below, so it goes up and left.
     EXPECT_EQ(ColocaRotulos({{{98, 98}, 5, {{0, 0, 20, 10}}}}, Marco, {}).at(0).caja, (Caja{73, 83, 20, 10}));
@@ -42,8 +42,18 @@ TEST(Rotulos, ElTextoMasLlenoQueCabe)
 {
     const RotuloPedido conCorto{{50, 50}, 5, {{0, 0, 90, 30}, {0, 0, 20, 10}}};
     EXPECT_EQ(ColocaRotulos({conCorto}, Marco, {}).at(0), (RotuloPuesto{0, 0, {5, 55, 90, 30}}));
-    EXPECT_EQ(ColocaRotulos({conCorto}, Marco, {{0, 0, 100, 30}, {0, 70, 100, 30}}).at(0),
+    EXPECT_EQ(ColocaRotulos({conCorto}, Marco, {{{0, 0, 100, 30}, {0, 70, 100, 30}}}).at(0),
               (RotuloPuesto{0, 1, {55, 45, 20, 10}}));
+}
+
+// Over a reach that takes the whole right side they go to the left; where it takes all, they lie on it.
+TEST(Rotulos, DejanLibreElCauceSiPueden)
+{
+    EXPECT_EQ(ColocaRotulos({EnElMedio}, Marco, {{}, {{55, 0, 45, 100}}}).at(0).caja, (Caja{25, 45, 20, 10}));
+    EXPECT_EQ(ColocaRotulos({EnElMedio}, Marco, {{}, {{0, 0, 100, 100}}}).at(0).caja, (Caja{55, 45, 20, 10}));
+    // A shorter text that leaves it free goes before a fuller one that doesn't.
+    const RotuloPedido conCorto{{50, 50}, 5, {{0, 0, 40, 30}, {0, 0, 20, 10}}};
+    EXPECT_EQ(ColocaRotulos({conCorto}, Marco, {{}, {{0, 0, 100, 40}, {0, 60, 100, 40}}}).at(0).texto, 1U);
 }
 
 RC_GTEST_PROP(Rotulos, NingunoTapaAOtroNiSaleDelMarco, ())
@@ -56,7 +66,7 @@ RC_GTEST_PROP(Rotulos, NingunoTapaAOtroNiSaleDelMarco, ())
                            numero(0, 15),
                            {{0, 0, numero(1, 90), numero(1, 40)}, {0, 0, numero(1, 40), numero(1, 20)}}});
     const Caja marco{0, 0, 300, 200}, obstaculo{100, 100, 40, 40};
-    const auto puestos = ColocaRotulos(pedidos, marco, {obstaculo});
+    const auto puestos = ColocaRotulos(pedidos, marco, {{obstaculo}});
     for (std::size_t i = 0; i < puestos.size(); ++i) {
         RC_ASSERT(marco.Encierra(puestos[i].caja));
         RC_ASSERT(!obstaculo.Toca(puestos[i].caja));

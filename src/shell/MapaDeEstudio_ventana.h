@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "checks/Sello.h"
+#include "forms/Entorno_ventana.h"
+#include "results/mapa/MapaDeCorrida_ventana.h"
+#include "shell/JuicioDeCorrida_ventana.h"
+
+namespace shell {
+
+/// The map of the last run: where its run and its image come from, and where its clicks go.
+class MapaDeEstudio {
+  public:
+    MapaDeEstudio(forms::Entorno& alrededor, const JuicioDeCorrida& elJuicio);
+
+    /// Shows the last run, once it has been looked over; without one tells why not. Runs inside an event.
+    void Abre();
+    /// Another run is being looked over, or has been.
+    void Refresca();
+
+    /// Opens the hydrograph of a component of the results in memory.
+    std::function<void(const std::string& componente)> AbreHidrograma = [](const std::string&) {};
+
+  private:
+    void Muestra(const checks::UltimaCorrida& u);
+    results::FondoDeMapa Fondo();
+    void PideHidrograma(const std::string& componente);
+
+    forms::Entorno& entorno;
+    const JuicioDeCorrida& juicio;
+    results::MapaDeCorrida mapa{};
+    std::unique_ptr<results::MapaDeCorrida_ventana> ventana{};
+    checks::Sello sello{};  ///< of the run on show
+    bool pedido = false;    ///< it opens as soon as the run has been looked over
+};
+
+}  // namespace shell
