@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// The map of a run on the network at the limits: 70 UEHs, 70 reaches of 100 vertices, 70 Lagos, 20 Represas,
-// with peaks and names, over an image, in a window of 1920 by 1080.
+// The map of a run on the network at the limits, with peaks and names, in a window of 1920 by 1080.
 
 #include <benchmark/benchmark.h>
 
@@ -10,6 +9,7 @@
 #include <stdexcept>
 
 #include "ProyectoLimite.h"
+#include "RedMeandrosa.h"
 #include "engine/Calcula.h"
 #include "forms/Entorno_ventana.h"
 #include "results/mapa/MapaDeCorrida_ventana.h"
@@ -23,7 +23,6 @@ constexpr const char* Fondo = SIRO_DATA_DIR "/Proyectos/Quelmar.jpg";
 struct Mapa {
     explicit Mapa(bool conFondo)
     {
-        bench::ArmaRed(s, {.vertices = 100});
         bench::PonTormenta(s);
         s.Pasos.N0Dur = 81;
         const engine::Calculo calculo = engine::Calcula(s.Red, s.Tormenta, s.Pasos);
@@ -38,13 +37,14 @@ struct Mapa {
                       static_cast<float>(e.alto)}};
             if (fondo.imagen.isNull()) throw std::runtime_error("no background image");
         }
-        ventana.resize(Pantalla);
+        entorno.Presenta = [](QWidget& suya) { suya.show(); };
         ventana.Abre(std::move(red), {.titulo = "Mapa"}, std::move(fondo));
-        ventana.show();
+        ventana.resize(Pantalla);  // once it is shown, however small the screen that nobody sees
         QCoreApplication::processEvents();
+        if (lienzo.width() < Pantalla.width() * 9 / 10) throw std::runtime_error("the canvas is too small");
     }
 
-    model::Siro s{};
+    model::Siro s = bench::RedMeandrosa();
     forms::Entorno entorno{s};
     results::MapaDeCorrida f{};
     results::MapaDeCorrida_ventana ventana{entorno, f};

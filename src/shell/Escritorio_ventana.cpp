@@ -255,6 +255,7 @@ void Escritorio::PonFranjas()
         hidrograma.abierta = false;  // opened anew on the component in hand
         Abre(Ventana::dlgChart2);
     });
+    pon(ventanasEstudio->Mapa().Franja(), [this] { Abre(Ventana::Mapa); });
     pon(ventanaPizarra->Franja(), [this] { ventanaPizarra->Abre(); });
     pon(ventanasSerie->ventanaAbaco.Franja(), [this] {
         ventanasSerie->abaco.abierta = false;

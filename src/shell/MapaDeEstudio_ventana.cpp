@@ -25,8 +25,9 @@ constexpr auto EsDeSerie =
 }  // namespace
 
 MapaDeEstudio::MapaDeEstudio(forms::Entorno& alrededor, const JuicioDeCorrida& elJuicio)
-    : entorno(alrededor), juicio(elJuicio)
+    : entorno(alrededor), juicio(elJuicio), ventana(alrededor, mapa)
 {
+    ventana.AbreHidrograma = [this](const std::string& componente) { PideHidrograma(componente); };
 }
 
 void MapaDeEstudio::Abre()
@@ -47,10 +48,6 @@ void MapaDeEstudio::Refresca()
 
 void MapaDeEstudio::Muestra(const checks::UltimaCorrida& u)
 {
-    if (ventana == nullptr) {
-        ventana = std::make_unique<results::MapaDeCorrida_ventana>(entorno, mapa);
-        ventana->AbreHidrograma = [this](const std::string& componente) { PideHidrograma(componente); };
-    }
     const std::string tema = u.sello.tormenta + "; corrida del " + u.cuando;
     forms::Procedencia procedencia{.titulo = std::string(results::TituloMapaDeCorrida), .tema = tema};
     results::FondoDeMapa fondo;
@@ -60,8 +57,8 @@ void MapaDeEstudio::Muestra(const checks::UltimaCorrida& u)
     } else {
         procedencia.proyecto = u.sello.nombre;
     }
-    sello = u.sello;
-    ventana->Abre(results::CopiaDeCorrida(u.red, u.pasos, u.r()), procedencia, std::move(fondo));
+    ventana.Abre(results::CopiaDeCorrida(u.red, u.pasos, u.r()), procedencia, std::move(fondo));
+    ventana.Franja().Toma(u.sello);
 }
 
 /// The project's image as the editor shows it; none where its file can't be read, which the editor tells.

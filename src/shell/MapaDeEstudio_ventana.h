@@ -2,10 +2,9 @@
 #pragma once
 
 #include <functional>
-#include <memory>
 #include <string>
 
-#include "checks/Sello.h"
+#include "checks/Franja_ventana.h"
 #include "forms/Entorno_ventana.h"
 #include "results/mapa/MapaDeCorrida_ventana.h"
 #include "shell/JuicioDeCorrida_ventana.h"
@@ -22,6 +21,9 @@ class MapaDeEstudio {
     /// Another run is being looked over, or has been.
     void Refresca();
 
+    /// Says when what is on show is of an earlier run.
+    checks::Franja& Franja() { return ventana.Franja(); }
+
     /// Opens the hydrograph of a component of the results in memory.
     std::function<void(const std::string& componente)> AbreHidrograma = [](const std::string&) {};
 
@@ -33,9 +35,8 @@ class MapaDeEstudio {
     forms::Entorno& entorno;
     const JuicioDeCorrida& juicio;
     results::MapaDeCorrida mapa{};
-    std::unique_ptr<results::MapaDeCorrida_ventana> ventana{};
-    checks::Sello sello{};  ///< of the run on show
-    bool pedido = false;    ///< it opens as soon as the run has been looked over
+    results::MapaDeCorrida_ventana ventana;
+    bool pedido = false;  ///< it opens as soon as the run has been looked over
 };
 
 }  // namespace shell

@@ -34,6 +34,7 @@ class VentanasDeEstudio {
     [[nodiscard]] bool HayCorrida() const { return corrido; }
     [[nodiscard]] const std::string& Cuando() const { return cuando; }
     JuicioDeCorrida& Juicio() { return juicio; }
+    MapaDeEstudio& Mapa() { return mapa; }
     /// The check before a run; what it asks of the editor is set from outside.
     checks::dlgRevisar_ventana& VentanaRevisar() { return ventanaRevisar; }
 

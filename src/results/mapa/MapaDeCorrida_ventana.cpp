@@ -28,6 +28,7 @@ MapaDeCorrida_ventana::MapaDeCorrida_ventana(forms::Entorno& alrededor, MapaDeCo
                                              QWidget* padre)
     : Ventana(alrededor, {"MapaDeCorrida", TituloMapaDeCorrida, RotulosDelMapa}, padre),
       f(registro),
+      franja(new checks::Franja(alrededor, checks::Alcance::Corrida)),
       lienzo(Nombra(new LienzoDeMapa(registro), "lienzo"))
 {
     Sigue(f.abierta);
@@ -37,7 +38,7 @@ MapaDeCorrida_ventana::MapaDeCorrida_ventana(forms::Entorno& alrededor, MapaDeCo
     lienzo->AlElegir = [this](int componente) { Elige(componente); };
     lienzo->AlTeclear = [this](const QKeyEvent& evento) { return Teclea(evento); };
     lienzo->AlPedirMenu = [this](QPoint donde) { AbreMenu(donde); };
-    setLayout(EnPila({titulo, {lienzo, 1}, Tiempo(), Botones()}));
+    setLayout(EnPila({franja, titulo, {lienzo, 1}, Tiempo(), Botones()}));
     latido.setTimerType(Qt::PreciseTimer);
     latido.setInterval(Latido);
     connect(&latido, &QTimer::timeout, this, [this] { Late(); });
@@ -78,8 +79,9 @@ QLayout* MapaDeCorrida_ventana::Botones()
     menu->setObjectName(QStringLiteral("mnuGuardar"));
     PonSalidas(*menu);
     guardar->setMenu(menu);
-    return EnFila({casilla("chkPicos", f.chkPicos), casilla("chkNombres", f.chkNombres),
-                   casilla("chkImagen", f.chkImagen), Hueco(),
+    QCheckBox* const imagen =
+        HabilitadoSi(casilla("chkImagen", f.chkImagen), [this] { return !lienzo->Fondo().imagen.isNull(); });
+    return EnFila({casilla("chkPicos", f.chkPicos), casilla("chkNombres", f.chkNombres), imagen, Hueco(),
                    Boton("cmdVerTodo", [this] { lienzo->VeTodo(); }), guardar,
                    Boton("cmdImprimir",
                          [this] {

@@ -6,6 +6,7 @@
 #include <functional>
 #include <string>
 
+#include "checks/Franja_ventana.h"
 #include "forms/Formulario_ventana.h"
 #include "results/mapa/LienzoDeMapa_ventana.h"
 
@@ -19,6 +20,8 @@ class MapaDeCorrida_ventana : public forms::Ventana {
   public:
     MapaDeCorrida_ventana(forms::Entorno& alrededor, MapaDeCorrida& registro, QWidget* padre = nullptr);
 
+    /// Says when what is on show is of an earlier run.
+    checks::Franja& Franja() { return *franja; }
     /// Opens the hydrograph of a component, by its name.
     std::function<void(const std::string& nombre)> AbreHidrograma = [](const std::string&) {};
 
@@ -45,6 +48,7 @@ class MapaDeCorrida_ventana : public forms::Ventana {
     void Copia();
 
     MapaDeCorrida& f;
+    checks::Franja* franja;
     LienzoDeMapa* lienzo;
     QSlider* sldTiempo = nullptr;
     QLabel* lblTiempo = nullptr;
