@@ -64,7 +64,9 @@ TEST_F(MapaEnElEscritorio, MuestraLaCorridaSobreLaImagenDelProyecto)
     Abre();
     EXPECT_TRUE(anfitrion->Avisos().empty());
     EXPECT_FALSE(Lienzo().Fondo().imagen.isNull());
-    EXPECT_EQ(Lienzo().Fondo().marco.ancho, static_cast<float>(Lienzo().Fondo().imagen.width()));
+    // 1536 pixels, which the project shows at 50 %.
+    EXPECT_EQ(Lienzo().Fondo().imagen.width(), 1536);
+    EXPECT_EQ(Lienzo().Fondo().marco.ancho, 768);
     const std::string titulo = forms::DeQ(Control<QLabel>(*Mapa(), "lblTitulo").text());
     EXPECT_NE(titulo.find("P 80 mm, D 120 min"), std::string::npos) << titulo;
     // The map says of a reach what the results hold.

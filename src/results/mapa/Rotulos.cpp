@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <optional>
 
 namespace results {
@@ -27,6 +28,35 @@ bool Libre(const Caja& c, const std::vector<Caja>& cajas)
     return std::none_of(cajas.begin(), cajas.end(), [&](const Caja& otra) { return otra.Toca(c); });
 }
 
+/// Those of some boxes that a label could meet, wherever it goes.
+std::vector<Caja> Cerca(const RotuloPedido& p, const std::vector<Caja>& cajas)
+{
+    double ancho = p.aparte, alto = p.aparte;
+    for (const Caja& tamano : p.tamanos) {
+        ancho = std::max(ancho, p.aparte + tamano.ancho);
+        alto = std::max(alto, p.aparte + tamano.alto);
+    }
+    const Caja alcance{p.en.x - ancho, p.en.y - alto, 2 * ancho, 2 * alto};
+    std::vector<Caja> cerca;
+    std::copy_if(cajas.begin(), cajas.end(), std::back_inserter(cerca),
+                 [&](const Caja& c) { return c.Toca(alcance); });
+    return cerca;
+}
+
+/// The first place of a label, in the order of its texts and sides, for which `vale` holds.
+template <typename Vale>
+std::optional<RotuloPuesto> LugarDe(const RotuloPedido& p, std::size_t numero, Vale vale)
+{
+    for (std::size_t t = 0; t < p.tamanos.size(); ++t)
+        for (const Lado lado : Lados) {
+            const Caja& tamano = p.tamanos[t];
+            const Caja caja{Comienzo(p.en.x, lado.x, p.aparte, tamano.ancho),
+                            Comienzo(p.en.y, lado.y, p.aparte, tamano.alto), tamano.ancho, tamano.alto};
+            if (vale(caja)) return RotuloPuesto{numero, t, caja};
+        }
+    return {};
+}
+
 }  // namespace
 
 std::vector<RotuloPuesto> ColocaRotulos(const std::vector<RotuloPedido>& pedidos, const Caja& marco,
@@ -34,22 +64,12 @@ std::vector<RotuloPuesto> ColocaRotulos(const std::vector<RotuloPedido>& pedidos
 {
     std::vector<RotuloPuesto> puestos;
     std::vector<Caja> tomadas = estorbos.obstaculos;
-    const auto lugarDe = [&](std::size_t n, bool evita) -> std::optional<RotuloPuesto> {
-        const RotuloPedido& p = pedidos[n];
-        for (std::size_t t = 0; t < p.tamanos.size(); ++t)
-            for (const Lado lado : Lados) {
-                const Caja& tamano = p.tamanos[t];
-                const Caja caja{Comienzo(p.en.x, lado.x, p.aparte, tamano.ancho),
-                                Comienzo(p.en.y, lado.y, p.aparte, tamano.alto), tamano.ancho, tamano.alto};
-                if (marco.Encierra(caja) && Libre(caja, tomadas) &&
-                    (!evita || Libre(caja, estorbos.evitables)))
-                    return RotuloPuesto{n, t, caja};
-            }
-        return {};
-    };
     for (std::size_t n = 0; n < pedidos.size(); ++n) {
-        auto puesto = lugarDe(n, true);
-        if (!puesto) puesto = lugarDe(n, false);
+        const std::vector<Caja> obstaculos = Cerca(pedidos[n], tomadas);
+        const std::vector<Caja> evitables = Cerca(pedidos[n], estorbos.evitables);
+        const auto cabe = [&](const Caja& c) { return marco.Encierra(c) && Libre(c, obstaculos); };
+        auto puesto = LugarDe(pedidos[n], n, [&](const Caja& c) { return cabe(c) && Libre(c, evitables); });
+        if (!puesto) puesto = LugarDe(pedidos[n], n, cabe);
         if (!puesto) continue;
         puestos.push_back(*puesto);
         tomadas.push_back(puesto->caja);
