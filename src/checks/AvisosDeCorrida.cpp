@@ -7,6 +7,7 @@
 #include <string>
 
 #include "checks/Rebose.h"
+#include "checks/ReglasDeAvisos.h"
 #include "engine/Muskingum.h"
 #include "hydraulics/mdlFQs.h"
 #include "model/Avisos.h"
@@ -39,19 +40,16 @@ struct Caso {
 
 class Anota;
 
-/// A rule: its number for ever, how bad it is, its words, and the search for what it is about.
-struct Regla {
+/// The search for what a rule is about, by the rule's number.
+struct Busqueda {
     int numero;
-    Gravedad gravedad;
-    bool conResultados;  ///< it is looked for in runs that have results
-    std::string_view que, remedio;
     void (*busca)(const Caso& caso, const Anota& anota);
 };
 
 /// Where a rule puts its findings. Words of its own stand in place of the rule's.
 class Anota {
   public:
-    Anota(const Regla& laRegla, std::vector<HallazgoMedido>& losHallados)
+    Anota(const ReglaDeAviso& laRegla, std::vector<HallazgoMedido>& losHallados)
         : regla(laRegla), hallados(losHallados)
     {
     }
@@ -64,7 +62,7 @@ class Anota {
     }
 
   private:
-    const Regla& regla;
+    const ReglaDeAviso& regla;
     std::vector<HallazgoMedido>& hallados;
 };
 
@@ -157,11 +155,6 @@ void AlmacenamientoNegativo(const Caso& caso, const Anota& anota)
 }
 
 // --- balance ---
-
-bool SeDescuadra(const RenglonBalance& b)
-{
-    return std::fabs(b.PorCiento()) > Valor(Umbral::ErrorDeBalance) && std::fabs(b.Error()) > b.lectura;
-}
 
 void AnotaDescuadre(const RenglonBalance& b, const Anota& anota)
 {
@@ -400,51 +393,36 @@ void SinTerminar(const Caso& caso, const Anota& anota)
 }
 
 // clang-format off
-constexpr auto Reglas = std::to_array<Regla>({
-    {101, Gravedad::Error, true, "El caudal todavía subía al terminar la corrida: el máximo que se muestra no es el pico",
-     "Aumente el tiempo agregado a la duración de la tormenta y vuelva a correr", PicosAlFinal},
-    {102, Gravedad::Nota, true, "El final de la corrida corta agua que estaba en camino",
-     "Si interesa el volumen del hidrograma, aumente el tiempo agregado a la duración de la tormenta", AguaCortada},
-    {103, Gravedad::Error, true, "El agua supera el tope de la tabla de alturas: lo que no cabe no sale ni se almacena como debe",
-     "Agregue filas más altas a la tabla Altura-Superficie-Almacenamiento y a la descarga", AguaSobreLaTabla},
-    {104, Gravedad::Error, true, "El agua supera el tope de la descarga: por encima de él no hay caudal que valga",
-     "Lleve la tabla H-Q o la H máx de las funciones hasta el tope de la tabla de alturas", AguaSobreLaDescarga},
-    {105, Gravedad::Error, true, "El balance de agua del componente no cierra",
-     "Corrija lo que dicen los demás avisos del componente; en Runge Kutta, además, la superficie debe concordar con el almacenamiento, o el paso ser menor", BalanceDeComponentes},
-    {106, Gravedad::Error, true, "El balance de agua de la cuenca no cierra",
-     "Corrija los componentes cuyo balance no cierra y los que no están enlazados", BalanceDeCuenca},
-    {107, Gravedad::Aviso, false, "Un coeficiente de Muskingum es negativo: el hidrograma puede oscilar o bajar de cero",
-     "Elija K, x y paso con 2Kx <= paso <= 2K(1-x)", CoeficientesNegativos},
-    {108, Gravedad::Aviso, false, "El viaje por el tramo dura menos de medio paso: sale lo que entra, sin demora",
-     "Use un paso de salida menor, o una el tramo con el siguiente", ViajesCortos},
-    {109, Gravedad::Aviso, true, "El paso es más largo que la quinta parte de la subida: el pico puede quedar entre dos pasos",
-     "Use un paso de salida menor", SubidasCortas},
-    {110, Gravedad::Aviso, false, "El traslado en la UEH dura menos que un paso",
-     "Use un paso de salida menor, o revise longitud y velocidad de la gota", TrasladosCortos},
-    {111, Gravedad::Aviso, false, "Hay más de una salida",
-     "Si la cuenca tiene una sola, corrija el campo <Drena a> de las demás", VariasSalidas},
-    {112, Gravedad::Aviso, false, "El componente no está enlazado con los demás",
-     "Corrija el enlace en el editor, o elimine el componente", SinEnlazar},
-    {113, Gravedad::Error, false, "Una represa o un lago drena a otro, que recoge solamente de UEHs y cauces: su agua se pierde",
-     "Ponga un tramo de cauce entre los dos", EmbalseEnEmbalse},
-    {114, Gravedad::Nota, false, "La represa tiene descargas que no se usan",
-     "Elija en sus propiedades la que vale y quite la otra", TablasSinUso},
-    {115, Gravedad::Aviso, true, "La lluvia no supera la retención: la UEH no da escorrentía",
-     "Revise la retensión Z y la tormenta", LluviaRetenida},
-    {116, Gravedad::Error, true, "El almacenamiento es negativo",
-     "Corrija la tabla Altura-Superficie-Almacenamiento", AlmacenamientoNegativo},
-    {117, Gravedad::Error, true, "El caudal que sale es negativo",
-     "Revise los parámetros de Muskingum, la descarga y los caudales iniciales", CaudalNegativo},
-    {118, Gravedad::Error, false, "Hubo números que no cabían en 16 o 32 bits y se dejaron de lado",
-     "Use pasos mayores o menos tiempo agregado, y revise las superficies", Desbordes},
-    {119, Gravedad::Nota, true, "Un volumen de 32 bits perdió sus últimas unidades",
-     "Tome los volúmenes con seis cifras", VolumenesEnormes},
-    {120, Gravedad::Aviso, false, "La corrida avisó o preguntó, y siguió",
-     "Corrija los datos de los que habla el mensaje", LoQueDijo},
-    {121, Gravedad::Error, false, "La corrida no llegó a su fin",
-     "Corrija los datos de los que habla el mensaje", SinTerminar},
+constexpr auto Busquedas = std::to_array<Busqueda>({
+    {101, PicosAlFinal},
+    {102, AguaCortada},
+    {103, AguaSobreLaTabla},
+    {104, AguaSobreLaDescarga},
+    {105, BalanceDeComponentes},
+    {106, BalanceDeCuenca},
+    {107, CoeficientesNegativos},
+    {108, ViajesCortos},
+    {109, SubidasCortas},
+    {110, TrasladosCortos},
+    {111, VariasSalidas},
+    {112, SinEnlazar},
+    {113, EmbalseEnEmbalse},
+    {114, TablasSinUso},
+    {115, LluviaRetenida},
+    {116, AlmacenamientoNegativo},
+    {117, CaudalNegativo},
+    {118, Desbordes},
+    {119, VolumenesEnormes},
+    {120, LoQueDijo},
+    {121, SinTerminar},
 });
 // clang-format on
+
+constexpr const ReglaDeAviso& ReglaDe(int numero)
+{
+    return *std::find_if(ReglasDeAvisos.begin(), ReglasDeAvisos.end(),
+                         [&](const ReglaDeAviso& r) { return r.numero == numero; });
+}
 
 }  // namespace
 
@@ -452,9 +430,21 @@ std::vector<HallazgoMedido> BuscaAvisos(const Corrido& c, const Balance& balance
 {
     std::vector<HallazgoMedido> hallados;
     const bool conResultados = c.TieneResultados();
-    for (const Regla& regla : Reglas)
-        if (conResultados || !regla.conResultados) regla.busca({c, balance, tiempo}, {regla, hallados});
+    for (const Busqueda& b : Busquedas) {
+        const ReglaDeAviso& regla = ReglaDe(b.numero);
+        if (conResultados || !regla.conResultados) b.busca({c, balance, tiempo}, {regla, hallados});
+    }
     return hallados;
+}
+
+bool SobreElLimite(const RenglonBalance& b)
+{
+    return std::fabs(b.PorCiento()) > Valor(Umbral::ErrorDeBalance);
+}
+
+bool SeDescuadra(const RenglonBalance& b)
+{
+    return SobreElLimite(b) && std::fabs(b.Error()) > b.lectura;
 }
 
 std::string RemedioDePico(const TiempoAgregado& t, float ahora)

@@ -71,6 +71,11 @@ std::vector<Hallazgo> AvisosDeCorrida(const model::Red& red, const model::Tormen
                                       const model::Pasos& pasos, const model::TablasDeLluvia& tablas,
                                       const engine::Calculo& calculo);
 
+/// Whether what isn't accounted for is a larger share than ErrorDeBalance; whether it is more, too, than the
+/// run's own numbers leave open, which is a finding.
+bool SobreElLimite(const RenglonBalance& b);
+bool SeDescuadra(const RenglonBalance& b);
+
 /// What to do where a peak stands at the last step: the time that suffices instead of `ahora` [min], or that
 /// none does.
 std::string RemedioDePico(const TiempoAgregado& t, float ahora);

@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "checks/AvisosDeCorrida.h"
+#include "checks/ReglasDeAvisos.h"
 #include "engine/mdlSeriePDR.h"
 #include "model/Numeros.h"
 #include "model/Siro.h"
@@ -152,18 +153,12 @@ TiempoAgregado TiempoParaTodas(const model::Siro& s, std::vector<int> numeros, i
 Seleccionadas TormentasDeSerie(const model::Siro& s)
 {
     enum Motivo : std::uint8_t { Corta, SinDuracion, SinRecurrencia, Nula };
-    std::array<Salteadas, 4> motivos{{
-        {{Gravedad::Aviso, 122, "", "La serie saltea tormentas que duran menos que el paso del modelo", "",
-          "Use un paso del modelo no mayor que la menor duración"}},
-        {{Gravedad::Nota, 123, "", "La serie saltea tormentas de duraciones sin tildar en la configuración",
-          "", "Tilde esas duraciones en la configuración, si hacen falta"}},
-        {{Gravedad::Nota, 123, "", "La serie saltea tormentas de recurrencias sin tildar en la configuración",
-          "", "Tilde esas recurrencias en la configuración, si hacen falta"}},
-        {{Gravedad::Error, 124, "",
-          "La serie termina en una tormenta de lámina o duración 0: ni ella ni las que "
-          "siguen se corren",
-          "", "Corrija o quite esa fila de la tabla P-D-R"}},
-    }};
+    std::array<Salteadas, 4> motivos{};
+    for (std::size_t i = 0; i < motivos.size(); ++i) {
+        const ReglaDeAviso& regla = ReglasDeAvisos[ReglasDeAvisos.size() - motivos.size() + i];
+        motivos[i].hallazgo = {regla.gravedad,         regla.numero, {},
+                               std::string(regla.que), {},           std::string(regla.remedio)};
+    }
     Seleccionadas elegidas;
     model::Siro copia;
     copia.Serie = s.Serie;

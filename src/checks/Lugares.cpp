@@ -18,6 +18,13 @@ struct FilaLugar {
 };
 
 constexpr auto Lugares = std::to_array<FilaLugar>({
+    {102, 102, Lugar::Configuracion},
+    {103, 103, Lugar::TablaHAS},
+    {112, 113, Lugar::Dibujo},
+    {116, 116, Lugar::TablaHAS},
+    {118, 118, Lugar::Configuracion},
+    {120, 123, Lugar::Configuracion},
+    {124, 124, Lugar::Tormenta},
     {200, 200, Lugar::Configuracion},
     {205, 206, Lugar::Tormenta},
     {207, 210, Lugar::Dibujo},

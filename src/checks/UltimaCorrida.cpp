@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "checks/UltimaCorrida.h"
 
+#include <utility>
+
 #include "checks/AvisosDeCorrida.h"
 #include "checks/AvisosDeSerie.h"
 #include "checks/Huella.h"
@@ -33,9 +35,15 @@ std::shared_ptr<const UltimaCorrida> UltimaCorrida::DeUna(const model::Siro& s,
     } else if (u->calculo.fin == FinCalculo::Completo) {
         u->calculo.fin = FinCalculo::Rechazado;
     }
-    u->avisos = AvisosDeCorrida(u->red, u->entrada, u->pasos, u->tablas, u->calculo);
     u->corrido.emplace(u->red, u->entrada, u->pasos, u->calculo);
     if (u->corrido->TieneResultados()) u->balance = BalanceDe(*u->corrido);
+    const auto busca = [&u = *u] {
+        engine::Memoria memoria;
+        return *(u.tiempo = TiempoQueAlcanza(u.red, u.entrada, u.pasos, u.tablas, memoria));
+    };
+    for (HallazgoMedido& h : BuscaAvisos(*u->corrido, u->balance.value_or(Balance{}), busca))
+        u->avisos.push_back(std::move(h.hallazgo));
+    OrdenaPorGravedad(u->avisos);
     u->huella = HuellaDeCorrida(u->red, u->entrada, u->pasos, u->tablas, u->calculo.Resultados);
     return u;
 }

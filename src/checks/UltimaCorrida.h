@@ -10,6 +10,7 @@
 #include "checks/Corrido.h"
 #include "checks/Hallazgo.h"
 #include "checks/Sello.h"
+#include "checks/TiempoAgregado.h"
 #include "engine/Calcula.h"
 #include "model/SiroDeclarado.h"
 
@@ -40,6 +41,8 @@ class UltimaCorrida {
     model::Serie serie{};
     std::vector<Hallazgo> avisos{};    ///< errors first
     std::optional<Corrido> corrido{};  ///< of a single storm
+    /// Of a single storm with a peak at the last step: the added time with which none stands there.
+    std::optional<TiempoAgregado> tiempo{};
     std::optional<Balance> balance{};  ///< of a single storm that has results, in the order of corrido's
     std::string huella{};              ///< hash of the run
 

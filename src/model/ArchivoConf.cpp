@@ -248,19 +248,21 @@ void LeeArchivo(Siro& s)
 
 }  // namespace
 
-void leoConf(Siro& s)
+bool leoConf(Siro& s)
 {
     try {
         LeeArchivo(s);
+        return true;
     } catch (const Falla& falla) {
         std::string texto = TextoFallaMotor(falla) + ".";
         if (falla.numero != NumeroFalla::FinDeArchivo) {
             Informa(s, std::move(texto));
-            return;
+            return false;
         }
         texto.append(AvisoDanado1).append(s.Proyecto.NombreProyecto).append(AvisoDanado2);
         Informa(s, std::move(texto));
         s.Proyecto.NombreProyecto.clear();
+        return false;
     }
 }
 

@@ -11,8 +11,8 @@ struct Siro;
 /// Reads the configuration of the project NombreProyecto in DirProyecto into the run-wide variables and the
 /// dialog's controls. A project that has moved takes its present directory and its file is rewritten at
 /// once, unless it bears another name than it tells. A damaged file empties NombreProyecto. Failures are
-/// reported through the host and never thrown.
-void leoConf(Siro& s);
+/// reported through the host and never thrown; then it returns false.
+bool leoConf(Siro& s);
 
 /// Writes the configuration from the dialog's controls and tells so. Asks before it writes over a file that
 /// isn't the one that was read, or that another program has changed; returns false where the user keeps it.

@@ -165,6 +165,13 @@ void Escritorio::PonEstudio()
     ventanasEstudio->VeAComponente = [this](const std::string& componente) {
         VeAHallazgo({.componente = componente}, false);
     };
+    checks::dlgAvisos_ventana& avisos = ventanasEstudio->VentanaAvisos();
+    avisos.Va = [this](const checks::Hallazgo& h) { VeAHallazgo(h, false); };
+    avisos.AgregaTiempo = [this](float minutos) {
+        const bool puesto = PonTiempoAgregado(configura, s, minutos);
+        if (configura.abierta) ventanaConfigura->Muestra();
+        if (puesto) mnuCorre1(principal, s, mandos);
+    };
     checks::dlgRevisar_ventana& revisar = ventanasEstudio->VentanaRevisar();
     revisar.DibujoSinGuardar = [this] { return ventanasEditor->SinGuardar(); };
     revisar.Va = [this](const checks::Hallazgo& h) { VeAHallazgo(h, false); };
@@ -257,6 +264,8 @@ void Escritorio::PonFranjas()
     });
     pon(ventanasEstudio->Mapa().Franja(), [this] { Abre(Ventana::Mapa); });
     pon(ventanaPizarra->Franja(), [this] { ventanaPizarra->Abre(); });
+    for (checks::Franja* const franja : ventanasEstudio->VentanaAvisos().Franjas())
+        pon(*franja, franja->Actualiza);
     pon(ventanasSerie->ventanaAbaco.Franja(), [this] {
         ventanasSerie->abaco.abierta = false;
         Abre(Ventana::dlgChart3);

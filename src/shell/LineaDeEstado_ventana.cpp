@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/LineaDeEstado_ventana.h"
 
+#include <QIcon>
 #include <QStatusBar>
 #include <QToolButton>
 
@@ -23,7 +24,8 @@ LineaDeEstado::LineaDeEstado(QStatusBar& barra)
     tormenta->setAccessibleName(QStringLiteral("Tormenta en mano"));
     avisos->setObjectName(QStringLiteral("cmdAvisos"));
     avisos->setAutoRaise(true);
-    avisos->setToolTip(QStringLiteral("Muestra los avisos de la última corrida"));
+    avisos->setAccessibleName(QStringLiteral("Avisos de la corrida"));
+    avisos->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     avisos->setFocusPolicy(Qt::TabFocus);
     QObject::connect(avisos, &QToolButton::clicked, &barra, [this] { AlPedirAvisos(); });
     barra.addPermanentWidget(tormenta);
@@ -35,9 +37,12 @@ void LineaDeEstado::PonTormenta(const std::string& texto)
     tormenta->Pon(Q(texto));
 }
 
-void LineaDeEstado::PonAvisos(const std::string& texto)
+void LineaDeEstado::PonAvisos(const std::string& texto, const QIcon& icono, const std::string& ayuda)
 {
     avisos->setText(Q(texto));
+    avisos->setIcon(icono);
+    avisos->setToolTip(Q(ayuda));
+    avisos->setAccessibleDescription(Q(ayuda));
 }
 
 void LineaDeEstado::Renglon::Pon(const QString& texto)

@@ -5,6 +5,7 @@
 #include <functional>
 #include <string>
 
+class QIcon;
 class QStatusBar;
 class QToolButton;
 
@@ -19,7 +20,8 @@ class LineaDeEstado {
     LineaDeEstado& operator=(const LineaDeEstado&) = delete;
 
     void PonTormenta(const std::string& texto);
-    void PonAvisos(const std::string& texto);
+    /// What the key says, its mark and its hint.
+    void PonAvisos(const std::string& texto, const QIcon& icono, const std::string& ayuda);
     /// The key was pressed.
     std::function<void()> AlPedirAvisos = [] {};
 

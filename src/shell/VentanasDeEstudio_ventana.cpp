@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/VentanasDeEstudio_ventana.h"
 
+#include <QIcon>
 #include <QStatusBar>
 
-#include "checks/EscribeHallazgos.h"
 #include "model/Siro.h"
 
 namespace shell {
@@ -11,6 +11,7 @@ namespace shell {
 VentanasDeEstudio::VentanasDeEstudio(forms::Entorno& alrededor, MDIForm1_ventana& laPrincipal)
     : entorno(alrededor),
       linea(*laPrincipal.statusBar()),
+      ventanaAvisos(alrededor, avisos, laPrincipal),
       ventanaRevisar(alrededor, revisar),
       ventanaVerificar(alrededor, verificar)
 {
@@ -21,6 +22,7 @@ VentanasDeEstudio::VentanasDeEstudio(forms::Entorno& alrededor, MDIForm1_ventana
     };
     mapa.AbreHidrograma = [this](const std::string& componente) { AbreHidrograma(componente); };
     linea.AlPedirAvisos = [this] { entorno.Atiende([this] { Abre(Ventana::Avisos); }); };
+    ventanaAvisos.AbreHidrograma = [this](const std::string& componente) { AbreHidrograma(componente); };
     MuestraEstado();
 }
 
@@ -47,6 +49,7 @@ checks::Sello VentanasDeEstudio::SelloDeResultados() const
 
 void VentanasDeEstudio::Abre(Ventana ventana)
 {
+    if (ventana == Ventana::Avisos) ventanaAvisos.Abre();
     if (ventana == Ventana::Revisar) ventanaRevisar.Abre();
     if (ventana == Ventana::Verificar) ventanaVerificar.Abre();
     if (ventana == Ventana::Mapa) mapa.Abre();
@@ -54,12 +57,18 @@ void VentanasDeEstudio::Abre(Ventana ventana)
 
 void VentanasDeEstudio::MuestraEstado()
 {
+    // What comes back to the screen comes with an event.
+    if (corrido && !ventanaAvisos.parentWidget()->isVisible()) return;
     linea.PonTormenta(checks::TormentaEnMano(entorno.s) +
                       (corrido ? " · última corrida " + cuando : std::string(" · sin corrida")));
-    const JuicioDeCorrida::Corrida& u = juicio.Ultima();
-    linea.PonAvisos(juicio.EnCurso() ? "Revisando..."
-                    : u == nullptr   ? "Sin corrida"
-                                     : checks::Suma(u->avisos, "Sin avisos"));
+    const checks::EstadoDeCorrida estado{juicio.Ultima(), juicio.EnCurso(),
+                                         juicio.Ultima() ? checks::SelloDe(entorno.s) : checks::Sello{}};
+    const bool revisada = estado.ultima != nullptr && !estado.enCurso;
+    linea.PonAvisos(checks::TextoDeClave(estado),
+                    revisada ? checks::IconoDe(checks::PeorGravedad(estado)) : QIcon(),
+                    checks::AyudaDeClave(estado));
+    checks::Muestra(avisos, estado);
+    ventanaAvisos.Muestra();
 }
 
 }  // namespace shell

@@ -5,6 +5,8 @@
 #include <string>
 
 #include "checks/Sello.h"
+#include "checks/dlgAvisos.h"
+#include "checks/dlgAvisos_ventana.h"
 #include "checks/dlgRevisar.h"
 #include "checks/dlgRevisar_ventana.h"
 #include "checks/dlgVerificar.h"
@@ -35,6 +37,8 @@ class VentanasDeEstudio {
     [[nodiscard]] const std::string& Cuando() const { return cuando; }
     JuicioDeCorrida& Juicio() { return juicio; }
     MapaDeEstudio& Mapa() { return mapa; }
+    /// The list of findings; where they lead and what its button does is set from outside.
+    checks::dlgAvisos_ventana& VentanaAvisos() { return ventanaAvisos; }
     /// The check before a run; what it asks of the editor is set from outside.
     checks::dlgRevisar_ventana& VentanaRevisar() { return ventanaRevisar; }
 
@@ -57,8 +61,10 @@ class VentanasDeEstudio {
     JuicioDeCorrida juicio{};
     MapaDeEstudio mapa{entorno, juicio};
     LineaDeEstado linea;
+    checks::dlgAvisos avisos{};
     checks::dlgRevisar revisar{};
     checks::dlgVerificar verificar{};
+    checks::dlgAvisos_ventana ventanaAvisos;
     checks::dlgRevisar_ventana ventanaRevisar;
     checks::dlgVerificar_ventana ventanaVerificar;
 };

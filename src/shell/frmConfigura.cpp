@@ -47,6 +47,8 @@ constexpr std::string_view SeMudo2 = ". Su red quedó en ";
 constexpr std::string_view TituloHayImagen = "Imagen de fondo";
 constexpr std::string_view HayImagen1 = "En la carpeta del proyecto ya hay otro archivo ";
 constexpr std::string_view HayImagen2 = ". ¿Desea reemplazarlo?";
+constexpr std::string_view HayQueAplicar =
+    "La ventana <Configurar> tiene cambios sin aplicar. Aplíquelos o cancélelos primero";
 constexpr std::string_view YaHayDirectorio = "Verifique. Puede que ya exista un Directorio con ese nombre...";
 
 // --- directories ---
@@ -438,6 +440,19 @@ void cmdAplicar(frmConfigura& f, Siro& s)
 {
     Aplica(f, s);
     Relista(f, s);
+}
+
+bool PonTiempoAgregado(frmConfigura& f, Siro& s, float minutos)
+{
+    if (SinAplicar(f, s)) {
+        Informa(s, std::string(HayQueAplicar));
+        return false;
+    }
+    if (!model::leoConf(s)) return false;  // what an earlier opening left in the fields isn't stored
+    s.frmConfigura.txtN0Dur = NumeroATexto(minutos);
+    const bool guardada = AlSalir(s, "txtN0Dur") && Aplica(f, s);
+    Relista(f, s);
+    return guardada;
 }
 
 void OKButton(frmConfigura& f, Siro& s)

@@ -180,6 +180,11 @@ void filArchivoConfigura_Click(frmConfigura& f, model::Siro& s);
 void filArchivoImagenDib_Click(frmConfigura& f, model::Siro& s);
 
 void cmdAplicar(frmConfigura& f, model::Siro& s);
+/// Sets the time added to the storm [min] as a user does who types it and presses cmdAplicar, on the
+/// configuration as the file has it. Returns false, with nothing stored, where the dialog holds what wasn't
+/// applied, the file can't be read, the field refuses the time, or cmdAplicar doesn't store it; each has been
+/// told.
+bool PonTiempoAgregado(frmConfigura& f, model::Siro& s, float minutos);
 void OKButton(frmConfigura& f, model::Siro& s);
 void CancelButton(frmConfigura& f);
 

@@ -177,6 +177,15 @@ TEST(Lugares, CadaHallazgoTieneElSuyo)
         {{.numero = 225, .componente = "r-1"}, Lugar::TablaHAS},
         {{.numero = 226, .componente = "r-1"}, Lugar::Ficha},
         {{.numero = 228, .componente = "r-1"}, Lugar::Ficha},
+        // of a run
+        {{.numero = 101, .componente = "c-1"}, Lugar::Ficha},
+        {{.numero = 102}, Lugar::Configuracion},
+        {{.numero = 103, .componente = "r-1"}, Lugar::TablaHAS},
+        {{.numero = 106}, Lugar::Editor},
+        {{.numero = 112, .componente = "u-1"}, Lugar::Dibujo},
+        {{.numero = 121}, Lugar::Configuracion},
+        {{.numero = 123}, Lugar::Configuracion},
+        {{.numero = 124}, Lugar::Tormenta},
     };
     for (const FilaLugar& fila : filas)
         EXPECT_EQ(LugarDe(fila.hallazgo), fila.lugar) << fila.hallazgo.numero << " " << fila.hallazgo.que;

@@ -9,6 +9,8 @@
 
 #include "apoyo/AnfitrionPrueba.h"
 #include "apoyo/DiscoPrueba.h"
+#include "checks/AvisosDeCorrida.h"
+#include "checks/ReglasDeAvisos.h"
 #include "editor/fichas/dlgCauceEditProp.h"
 #include "editor/fichas/dlgUEH2.h"
 #include "editor/fichas/dlgUEHsEditTabla.h"
@@ -101,6 +103,34 @@ TEST(PaginasDeAyuda, LasColumnasEditablesYSusLimitesSonLosDeLasGrillas)
             Dice(pagina, "<td>0 a " + model::NumeroATexto(limite.maximo) + "</td>");
         }
     }
+}
+
+/// A text as a page writes it.
+std::string EnHtml(std::string_view texto)
+{
+    std::string escrito;
+    for (const char c : texto)
+        escrito += c == '<' ? "&lt;" : c == '>' ? "&gt;" : c == '&' ? "&amp;" : std::string(1, c);
+    return escrito;
+}
+
+TEST(PaginasDeAyuda, LosAvisosDeUnaCorridaTienenUnaFilaPorReglaConSusPalabras)
+{
+    const std::string pagina = Pagina("dlgAvisos");
+    for (const checks::ReglaDeAviso& regla : checks::ReglasDeAvisos) {
+        const std::string comienzo = "<tr><td>" + std::to_string(regla.numero) + "</td><td>" +
+                                     std::string(Nombre(regla.gravedad)) + "</td>";
+        const std::size_t lugar = pagina.find(comienzo);
+        ASSERT_NE(lugar, std::string::npos) << comienzo;
+        EXPECT_EQ(pagina.find("<tr><td>" + std::to_string(regla.numero), lugar + 1), std::string::npos);
+        const std::string fila = pagina.substr(lugar, pagina.find("</tr>", lugar) - lugar);
+        Dice(fila, EnHtml(regla.que));
+        Dice(fila, EnHtml(regla.remedio));
+    }
+    const std::string limite = model::NumeroATexto(Valor(checks::Umbral::ErrorDeBalance)) + " %";
+    Dice(pagina.substr(pagina.find("<tr><td>105")), "más del " + limite);
+    Dice(pagina.substr(pagina.find("<tr><td>102")),
+         "Más del " + model::NumeroATexto(Valor(checks::Umbral::CortadoAlFinal)) + " %");
 }
 
 TEST(PaginasDeAyuda, LasFormulasEmpiricasEstanTodas)

@@ -134,6 +134,7 @@ TEST_F(Pantallas, LaVentanaPrincipalYLasQueEstanEnElla)
     Revisa(apoyo::Control<QWidget>(escritorio.Principal(), "dlgChart1"));
     Accion("mnuPizarra1").trigger();
     Revisa(apoyo::Control<QWidget>(escritorio.Principal(), "frmPp"));
+    EnLaPrincipal(Ventana::Avisos, "dlgAvisos");
     EnLaPrincipal(Ventana::dlgChart3, "dlgChart3");
     EnLaPrincipal(Ventana::dlgTablaSalePDR, "dlgTablaSalePDR");
     EnLaPrincipal(Ventana::dlgTablaSalePDR2, "dlgTablaSalePDR2");

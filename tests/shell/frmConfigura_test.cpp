@@ -816,5 +816,60 @@ TEST_F(Configura, SinAplicarEstaLoQueElArchivoNoTiene)
     EXPECT_FALSE(SinAplicar(f, s));
 }
 
+// --- the added time, set from outside ---
+
+TEST_F(Configura, ElTiempoAgregadoSePoneComoConAplicarYConSuCaja)
+{
+    CancelButton(f);
+    ASSERT_TRUE(PonTiempoAgregado(f, s, 340));
+    EXPECT_EQ(Avisos(), std::vector<Mensaje>{Guardado});
+    EXPECT_EQ(s.Pasos.N0Dur, 340);
+    s.Pasos.N0Dur = 0;
+    s.frmConfigura.txtN0Dur.clear();
+    EXPECT_TRUE(model::leoConf(s));
+    EXPECT_EQ(s.Pasos.N0Dur, 340);
+    EXPECT_EQ(s.frmConfigura.txtN0Dur, "340");
+}
+
+TEST_F(Configura, LoQueUnaAberturaDejoSinAplicarNoSeGuardaConElTiempo)
+{
+    s.frmConfigura.TextProyecto = "Escrito y cancelado";
+    s.frmConfigura.Dir1 = "/otro";
+    CancelButton(f);
+    ASSERT_TRUE(PonTiempoAgregado(f, s, 340));
+    EXPECT_EQ(s.frmConfigura.TextProyecto, "Crecidas de Mio");
+    EXPECT_EQ(s.Proyecto.DirProyecto, "/proy");
+    EXPECT_FALSE(disco.Esta("/otro/Mio_Conf.vlm"));
+}
+
+TEST_F(Configura, ConCambiosSinAplicarALaVistaElTiempoNoSePone)
+{
+    const std::string antes = disco.Bytes("/proy/Mio_Conf.vlm");
+    s.frmConfigura.TextCuenca = "Otra";
+    EXPECT_FALSE(PonTiempoAgregado(f, s, 340));
+    ASSERT_EQ(Avisos().size(), 1U);
+    EXPECT_EQ(Avisos()[0].texto,
+              "La ventana <Configurar> tiene cambios sin aplicar. Aplíquelos o cancélelos primero");
+    EXPECT_EQ(s.frmConfigura.TextCuenca, "Otra");
+    EXPECT_EQ(disco.Bytes("/proy/Mio_Conf.vlm"), antes);
+}
+
+TEST_F(Configura, UnTiempoFueraDeLimitesSeRechazaComoEnElCampo)
+{
+    CancelButton(f);
+    const std::string antes = disco.Bytes("/proy/Mio_Conf.vlm");
+    EXPECT_FALSE(PonTiempoAgregado(f, s, 30010));
+    EXPECT_EQ(Avisos(), std::vector<Mensaje>{EntreDiezYTreintaMil});
+    EXPECT_EQ(disco.Bytes("/proy/Mio_Conf.vlm"), antes);
+}
+
+TEST_F(Configura, SiNoSePuedeLeerElArchivoElTiempoNoSePone)
+{
+    CancelButton(f);
+    disco.Pon("/proy/Mio_Conf.vlm", "");
+    EXPECT_FALSE(PonTiempoAgregado(f, s, 340));
+    EXPECT_EQ(disco.Bytes("/proy/Mio_Conf.vlm"), "");
+}
+
 }  // namespace
 }  // namespace shell
