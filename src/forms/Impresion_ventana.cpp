@@ -59,12 +59,19 @@ void Imprime(Entorno& entorno, const Trabajo& trabajo, const PintorDeHojas& pint
     pinta(pintor, QRectF({0, 0}, hoja.size()), *impresora);
 }
 
-void ImprimeVentana(Entorno& entorno, QWidget& ventana, const Impreso& impreso)
+QPixmap ImagenParaPapel(QWidget& ventana)
 {
     const EnPapel papel(ventana);
     QPixmap imagen(ventana.size() * PuntosDeImpresion);
     imagen.setDevicePixelRatio(PuntosDeImpresion);
     ventana.render(&imagen);
+    imagen.setDevicePixelRatio(1);
+    return imagen;
+}
+
+void ImprimeVentana(Entorno& entorno, QWidget& ventana, const Impreso& impreso)
+{
+    const QPixmap imagen = ImagenParaPapel(ventana);
     const auto pinta = [&](QPainter& pintor, const QRectF& hoja, QPrinter& /*impresora*/) {
         constexpr int LetraChica = 8;  // [points]
         QFont letra = ventana.font();

@@ -9,6 +9,7 @@
 #include "forms/Entorno_ventana.h"
 
 class QPainter;
+class QPixmap;
 class QPrinter;
 class QRectF;
 class QWidget;
@@ -36,6 +37,10 @@ struct Impreso {
     std::string nombre{};              ///< of the job
     std::vector<std::string> alPie{};  ///< lines below the image
 };
+
+/// The image of a window, dark colours light. It has as many dots as it says: on Windows Qt prints one that
+/// counts several for one in pieces, each too small.
+QPixmap ImagenParaPapel(QWidget& ventana);
 
 /// Prints the image of a window as it stands, as large as the page takes it; dark colours are light on paper.
 void ImprimeVentana(Entorno& entorno, QWidget& ventana, const Impreso& impreso);

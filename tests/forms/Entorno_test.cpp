@@ -212,6 +212,15 @@ TEST_F(AyudaDePrueba, F1DeUnaVentanaVaAntesQueElAtajoDeLaQueLaContiene)
     deAfuera.setParent(nullptr);
 }
 
+TEST_F(EntornoDePrueba, LaImagenParaPapelTieneTantosPuntosComoDice)
+{
+    QWidget ventana;
+    ventana.resize(100, 50);
+    const QPixmap imagen = ImagenParaPapel(ventana);
+    EXPECT_EQ(imagen.size(), QSize(300, 150));
+    EXPECT_EQ(imagen.devicePixelRatio(), 1);
+}
+
 TEST_F(EntornoDePrueba, SinImpresoraSeDicePorQueNoImprime)
 {
     mundo.entorno.Impresora = [] { return nullptr; };
