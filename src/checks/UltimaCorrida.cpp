@@ -13,7 +13,12 @@ namespace checks {
 using engine::FinCalculo;
 
 UltimaCorrida::UltimaCorrida(const model::Siro& s)
-    : sello(SelloDe(s)), cuando(s.Anfitrion.FechaHora()), red(s.Red), pasos(s.Pasos), tablas(s.TablasDeLluvia)
+    : sello(SelloDe(s)),
+      titulo(s.Configuracion.TituloProyecto),
+      cuando(s.Anfitrion.FechaHora()),
+      red(s.Red),
+      pasos(s.Pasos),
+      tablas(s.TablasDeLluvia)
 {
 }
 

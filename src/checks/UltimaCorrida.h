@@ -31,6 +31,7 @@ class UltimaCorrida {
     UltimaCorrida& operator=(const UltimaCorrida&) = delete;
 
     Sello sello{};
+    std::string titulo{};  ///< of the project
     std::string cuando{};  ///< date and time by the host's clock
     bool esSerie = false;
     model::Red red{};

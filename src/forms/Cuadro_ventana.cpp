@@ -22,7 +22,8 @@ namespace forms {
 namespace {
 
 constexpr int FilasALaVista = 12;
-constexpr int LetrasDeLoQueSobra = 24;  // the least of a column that shares what is left over
+// Of a column that shares what is left over: wished for, and the least.
+constexpr int LetrasDeLoQueSobra = 24, LetrasDeLoMenos = 17;
 
 }  // namespace
 
@@ -143,7 +144,7 @@ void TablaCuadro::ReparteAncho()
     const QSignalBlocker silencio(*horizontalHeader());
     for (std::size_t k = 0; k < letras.size(); ++k)
         setColumnWidth(static_cast<int>(k),
-                       letras[k] > 0 ? letras[k] * letra : std::max(sobra, LetrasDeLoQueSobra * letra));
+                       letras[k] > 0 ? letras[k] * letra : std::max(sobra, LetrasDeLoMenos * letra));
     horizontalHeader()->viewport()->update();
     resizeRowsToContents();
 }

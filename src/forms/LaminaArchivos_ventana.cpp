@@ -16,6 +16,7 @@
 #include "forms/Impresion_ventana.h"
 #include "forms/Lamina_ventana.h"
 #include "forms/LecturaGrafico.h"
+#include "forms/Planilla_ventana.h"
 #include "forms/SignoDecimal_ventana.h"
 #include "forms/Textos_ventana.h"
 #include "forms/Trazo_ventana.h"
@@ -48,7 +49,10 @@ QSize Lamina::TamanoDeImagen() const
 
 Procedencia Lamina::DeDonde() const
 {
-    return DeHoy(entorno.s, {.titulo = DeQ(titulo), .tema = DeQ(tema), .componente = componente});
+    Procedencia hoy = DeHoy(entorno.s, {.titulo = DeQ(titulo), .tema = DeQ(tema), .componente = componente});
+    if (!proyecto.empty()) hoy.proyecto = proyecto;
+    if (!fecha.empty()) hoy.fecha = fecha;
+    return hoy;
 }
 
 /// What the chart is, line by line; `todo`: with what the drawing has written in it as well.
@@ -179,15 +183,26 @@ void Lamina::GuardaPdf() const
            [this] { return EnPapel([this](QSize tamano) { return Pdf(*plano, titulo, tamano); }); });
 }
 
+/// The cells with what the chart is above them.
+Planilla Lamina::Celdas() const
+{
+    const Grafico& grafico = trazo->Mostrado();
+    Planilla planilla = CeldasComoPlanilla(grafico);
+    planilla.titulos = Rotulos(true);
+    if (!grafico.salvedad.empty()) planilla.titulos.push_back(grafico.salvedad);
+    return planilla;
+}
+
 void Lamina::GuardaCsv() const
 {
-    Guarda("Guardar las celdas como CSV", "Celdas CSV |*.csv", ".csv", [this] {
-        const Grafico& grafico = trazo->Mostrado();
-        Planilla planilla = CeldasComoPlanilla(grafico);
-        planilla.titulos = Rotulos(true);
-        if (!grafico.salvedad.empty()) planilla.titulos.push_back(grafico.salvedad);
-        return std::string(MarcaUtf8).append(ComoCsv(planilla, SignoElegido(entorno)));
-    });
+    Guarda("Guardar las celdas como CSV", "Celdas CSV |*.csv", ".csv",
+           [this] { return std::string(MarcaUtf8).append(ComoCsv(Celdas(), SignoElegido(entorno))); });
+}
+
+void Lamina::GuardaXlsx() const
+{
+    Guarda("Guardar las celdas como XLSX", "Libro XLSX |*.xlsx", ".xlsx",
+           [this] { return ComoXlsx(Celdas()); });
 }
 
 void ImprimeConLamina(Entorno& entorno, QWidget& ventana, Lamina& lamina)

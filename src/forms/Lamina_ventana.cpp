@@ -89,6 +89,12 @@ void Lamina::PonTema(std::string_view nuevo, std::string_view nombre)
     Describe();
 }
 
+void Lamina::PonOrigen(std::string_view deProyecto, std::string_view deFecha)
+{
+    proyecto = deProyecto;
+    fecha = deFecha;
+}
+
 void Lamina::Describe()
 {
     QString texto = Q(Descripcion(trazo->Mostrado()));
@@ -270,6 +276,7 @@ void Lamina::contextMenuEvent(QContextMenuEvent* evento)
     entrada("Guardar como &SVG...", "", [this] { GuardaSvg(); });
     entrada("Guardar como P&DF...", "", [this] { GuardaPdf(); });
     entrada("&Guardar celdas como CSV...", "", [this] { GuardaCsv(); });
+    entrada("Guardar celdas como &XLSX...", "", [this] { GuardaXlsx(); });
     AgregaSignoDecimal(menu, entorno);
     const bool porTeclado = evento->reason() == QContextMenuEvent::Keyboard;
     menu.exec(porTeclado ? mapToGlobal(rect().center()) : evento->globalPos());

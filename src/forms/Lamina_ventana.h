@@ -13,6 +13,7 @@
 
 #include "forms/Entorno_ventana.h"
 #include "forms/Grafico.h"
+#include "forms/Planilla.h"
 #include "forms/Procedencia.h"
 
 class QCustomPlot;
@@ -43,6 +44,9 @@ class Lamina : public QWidget {
     /// bear it: component, storm; and the component's name, for the names of files.
     void PonTema(std::string_view nuevo, std::string_view nombre = {});
 
+    /// Of what project and when the chart is, where it isn't of the project in hand and of today.
+    void PonOrigen(std::string_view proyecto, std::string_view fecha);
+
     /// The text of the row under the pointer; none: no row.
     [[nodiscard]] std::string Lectura() const;
     /// Categories in sight, rows from 1 (and what part of them).
@@ -70,6 +74,7 @@ class Lamina : public QWidget {
     void GuardaSvg() const;
     void GuardaPdf() const;
     void GuardaCsv() const;
+    void GuardaXlsx() const;
 
     /// So many dots of the image per dot of the screen, while the window is printed. 0: back to the screen.
     void Afina(double puntos);
@@ -94,12 +99,13 @@ class Lamina : public QWidget {
     void Lee(std::size_t fila);
     void DejaDeLeer();
     void Describe();
+    [[nodiscard]] Planilla Celdas() const;
     void Guarda(std::string_view pregunta, std::string_view filtro, std::string_view extension,
                 const std::function<std::string()>& bytes) const;
 
     Entorno& entorno;
     QString titulo, tema;
-    std::string componente{};
+    std::string componente{}, proyecto{}, fecha{};
     Modo modo;
     QCustomPlot* plano;
     std::unique_ptr<Trazo> trazo;

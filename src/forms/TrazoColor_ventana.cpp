@@ -2,6 +2,7 @@
 #include <qcustomplot.h>
 
 #include <array>
+#include <span>
 
 #include "forms/Trazo_ventana.h"
 
@@ -23,6 +24,29 @@ constexpr auto Tramas = std::to_array<Trama>({
     {0xff4b6478, 0xffa9bccb, Qt::DashDotLine},
     {0xff7a3fb0, 0xffc29bf0, Qt::DotLine},
 });
+/// Twelve of three depths of grey over four dashes: two that are dashed alike differ by a sixth of the way
+/// from black to white.
+constexpr auto Doce = std::to_array<Trama>({
+    {0xff08306b, 0xffc6dbef, Qt::SolidLine},
+    {0xffd7301f, 0xfffb8a6a, Qt::DashLine},
+    {0xff74c476, 0xff3c8f4a, Qt::DotLine},
+    {0xff4a1486, 0xffe0cff5, Qt::DashDotLine},
+    {0xff238b45, 0xff72c283, Qt::SolidLine},
+    {0xff6baed6, 0xff3f7fb5, Qt::DashLine},
+    {0xff7f0000, 0xffffd0c8, Qt::DotLine},
+    {0xffb35c00, 0xffe0a050, Qt::DashDotLine},
+    {0xfffd9a44, 0xffb06a28, Qt::SolidLine},
+    {0xff00441b, 0xffc9efc9, Qt::DashLine},
+    {0xff2171b5, 0xff79b4e6, Qt::DotLine},
+    {0xffe78ac3, 0xffa8588c, Qt::DashDotLine},
+});
+
+std::span<const Trama> TramasDe(const Grafico& grafico)
+{
+    if (grafico.muchasLineas) return Doce;
+    return Tramas;
+}
+
 /// The colours come round again for further lines, dashed otherwise, their dots of another shape.
 Qt::PenStyle TrazoDeVuelta(Qt::PenStyle trazo)
 {
@@ -165,12 +189,13 @@ QCPScatterStyle PuntoDeCurva(const QColor& color, const QColor& fondo, std::size
 
 void Trazo::ColoreaSeries()
 {
+    const std::span<const Trama> tramas = TramasDe(grafico);
     std::size_t nroLinea = 0;
     for (std::size_t i = 0; i < lineas.size(); ++i) {
         QCPGraph& linea = *lineas[i];
         const bool escalon = EscalonEn(i);
-        const Trama& trama = escalon ? Lluvia : Tramas[nroLinea % Tramas.size()];
-        const std::size_t vuelta = escalon ? 0 : nroLinea / Tramas.size();
+        const Trama& trama = escalon ? Lluvia : tramas[nroLinea % tramas.size()];
+        const std::size_t vuelta = escalon ? 0 : nroLinea / tramas.size();
         if (!escalon) ++nroLinea;
         const QColor color = QColor::fromRgba(tinta.oscura ? trama.oscuro : trama.claro);
         QPen pluma(color, escalon ? 1 : Grueso, vuelta % 2 == 1 ? TrazoDeVuelta(trama.trazo) : trama.trazo);

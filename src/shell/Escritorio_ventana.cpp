@@ -272,6 +272,8 @@ void Escritorio::PonFranjas()
     });
     pon(ventanasSerie->ventanaTablaCompleta.Franja(), [this] { Abre(Ventana::dlgTablaSalePDR); });
     pon(ventanasSerie->ventanaTablaComponente.Franja(), [this] { Abre(Ventana::dlgTablaSalePDR2); });
+    pon(ventanasEstudio->VentanaResumen().Franja(), [this] { Abre(Ventana::Resumen); });
+    pon(ventanasEstudio->VentanaComparar().Franja(), [this] { Abre(Ventana::Comparar); });
 }
 
 void Escritorio::PonAvance()

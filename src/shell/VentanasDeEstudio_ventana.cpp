@@ -13,12 +13,17 @@ VentanasDeEstudio::VentanasDeEstudio(forms::Entorno& alrededor, MDIForm1_ventana
       linea(*laPrincipal.statusBar()),
       ventanaAvisos(alrededor, avisos, laPrincipal),
       ventanaRevisar(alrededor, revisar),
-      ventanaVerificar(alrededor, verificar)
+      ventanaVerificar(alrededor, verificar),
+      ventanaResumen(alrededor, resumen),
+      ventanaComparar(alrededor, comparar)
 {
+    PonResumen();
     entorno.AlTerminarSuceso(juicio, [this] { MuestraEstado(); });
     juicio.AlCambiar = [this] {
         MuestraEstado();
         mapa.Refresca();
+        ventanaResumen.Toma(juicio.Ultima());
+        ventanaComparar.Toma(juicio.Ultima());
     };
     mapa.AbreHidrograma = [this](const std::string& componente) { AbreHidrograma(componente); };
     linea.AlPedirAvisos = [this] { entorno.Atiende([this] { Abre(Ventana::Avisos); }); };
@@ -47,9 +52,19 @@ checks::Sello VentanasDeEstudio::SelloDeResultados() const
     return corrido ? sello : checks::SelloDe(entorno.s);
 }
 
+void VentanasDeEstudio::PonResumen()
+{
+    ventanaResumen.AbreHidrograma = [this](const std::string& componente) { AbreHidrograma(componente); };
+    ventanaResumen.Compara = [this](const std::vector<std::string>& componentes) {
+        ventanaComparar.Compara(resumen.corrida, componentes);
+    };
+}
+
 void VentanasDeEstudio::Abre(Ventana ventana)
 {
     if (ventana == Ventana::Avisos) ventanaAvisos.Abre();
+    if (ventana == Ventana::Resumen) ventanaResumen.Abre(juicio.Ultima());
+    if (ventana == Ventana::Comparar) ventanaComparar.Abre(juicio.Ultima());
     if (ventana == Ventana::Revisar) ventanaRevisar.Abre();
     if (ventana == Ventana::Verificar) ventanaVerificar.Abre();
     if (ventana == Ventana::Mapa) mapa.Abre();

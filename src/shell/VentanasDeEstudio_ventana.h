@@ -12,6 +12,10 @@
 #include "checks/dlgVerificar.h"
 #include "checks/dlgVerificar_ventana.h"
 #include "forms/Entorno_ventana.h"
+#include "results/dlgComparar.h"
+#include "results/dlgComparar_ventana.h"
+#include "results/dlgResumen.h"
+#include "results/dlgResumen_ventana.h"
 #include "shell/JuicioDeCorrida_ventana.h"
 #include "shell/LineaDeEstado_ventana.h"
 #include "shell/MDIForm1.h"
@@ -41,6 +45,8 @@ class VentanasDeEstudio {
     checks::dlgAvisos_ventana& VentanaAvisos() { return ventanaAvisos; }
     /// The check before a run; what it asks of the editor is set from outside.
     checks::dlgRevisar_ventana& VentanaRevisar() { return ventanaRevisar; }
+    results::dlgResumen_ventana& VentanaResumen() { return ventanaResumen; }
+    results::dlgComparar_ventana& VentanaComparar() { return ventanaComparar; }
 
     /// Brings one of the windows up. Runs inside an event.
     void Abre(Ventana ventana);
@@ -53,6 +59,7 @@ class VentanasDeEstudio {
 
   private:
     void MuestraEstado();
+    void PonResumen();
 
     forms::Entorno& entorno;
     checks::Sello sello{};
@@ -67,6 +74,10 @@ class VentanasDeEstudio {
     checks::dlgAvisos_ventana ventanaAvisos;
     checks::dlgRevisar_ventana ventanaRevisar;
     checks::dlgVerificar_ventana ventanaVerificar;
+    results::dlgResumen resumen{};
+    results::dlgComparar comparar{};
+    results::dlgResumen_ventana ventanaResumen;
+    results::dlgComparar_ventana ventanaComparar;
 };
 
 }  // namespace shell
