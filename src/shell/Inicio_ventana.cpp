@@ -133,9 +133,8 @@ QWidget* Inicio_ventana::ColumnaDeRecientes(QWidget* padre)
     sinRecientes->setObjectName(QStringLiteral("inicio_sin_recientes"));
     pila->addWidget(sinRecientes);
     for (std::size_t i = 0; i < MaximoRecientes; ++i)
-        recientes.push_back(Nueva(QStringLiteral("inicio_reciente_%1").arg(i + 1), *pila, [this, i] {
-            if (i < lista.size()) AbreProyecto(std::string(lista[i].ruta));
-        }));
+        recientes.push_back(
+            Nueva(QStringLiteral("inicio_reciente_%1").arg(i + 1), *pila, [this, i] { AbreReciente(i); }));
     pila->addStretch(1);
     return columna;
 }
@@ -162,6 +161,16 @@ void Inicio_ventana::AbreProyecto(const std::string& ruta)
     entorno.Atiende([&] { model::AbreProyectoDe(entorno.s, ruta); });
 }
 
+/// One that has gone since it was looked for turns grey, and nothing else happens.
+void Inicio_ventana::AbreReciente(std::size_t cual)
+{
+    if (cual >= lista.size()) return;
+    const ProyectoReciente elegido = lista[cual];
+    if (EntradaDe(entorno.s.Disco, elegido).habilitada) return AbreProyecto(elegido.ruta);
+    porMirar = true;
+    RefrescaLuego();
+}
+
 // --- what is shown ---
 
 void Inicio_ventana::RefrescaLuego()
@@ -172,7 +181,10 @@ void Inicio_ventana::RefrescaLuego()
 
 void Inicio_ventana::showEvent(QShowEvent* evento)
 {
-    if (!evento->spontaneous()) RefrescaLuego();
+    if (!evento->spontaneous()) {
+        porMirar = true;
+        RefrescaLuego();
+    }
     QScrollArea::showEvent(evento);
 }
 
@@ -184,7 +196,7 @@ void Inicio_ventana::Refresca()
     AnotaElProyecto();
     if (!isVisible()) return;
     MuestraProyecto();
-    MuestraRecientes();
+    if (std::exchange(porMirar, false)) MuestraRecientes();
 }
 
 void Inicio_ventana::AnotaElProyecto()
@@ -197,6 +209,7 @@ void Inicio_ventana::AnotaElProyecto()
     lista = LeeRecientes(entorno.Ajustes());
     AnotaReciente(lista, anotado);
     GuardaRecientes(entorno.Ajustes(), lista);
+    porMirar = true;
 }
 
 void Inicio_ventana::MuestraProyecto()

@@ -45,6 +45,7 @@ class Inicio_ventana : public QScrollArea {
     void MuestraProyecto();
     void MuestraRecientes();
     void AbreProyecto(const std::string& ruta);
+    void AbreReciente(std::size_t cual);
 
     forms::Entorno& entorno;
     std::function<void(Rutina)> orden;
@@ -57,6 +58,9 @@ class Inicio_ventana : public QScrollArea {
     std::vector<ProyectoReciente> lista{};
     ProyectoReciente anotado{};  ///< as it went into the list in this session
     bool programado = false;
+    /// The list is read and its files are looked for, which may take its time on a disk far away: as the
+    /// sheet comes up, and where the list may have changed.
+    bool porMirar = true;
 };
 
 }  // namespace shell

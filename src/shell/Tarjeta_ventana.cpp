@@ -65,7 +65,9 @@ void Tarjeta::paintEvent(QPaintEvent* /*evento*/)
     pintor.setRenderHint(QPainter::Antialiasing);
     const QPalette& p = palette();
     const bool viva = isEnabled() && (underMouse() || hasFocus());
-    pintor.setPen(viva ? p.color(QPalette::Highlight) : p.color(QPalette::Mid));
+    // Where the keyboard is stands out from where the pointer is.
+    pintor.setPen(QPen(viva ? p.color(QPalette::Highlight) : p.color(QPalette::Mid),
+                       hasFocus() && isEnabled() ? 2 : 1));
     pintor.setBrush(isDown() ? p.color(QPalette::Midlight) : p.color(QPalette::Base));
     pintor.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
 

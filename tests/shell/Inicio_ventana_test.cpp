@@ -184,5 +184,22 @@ TEST_F(InicioEnPantalla, ElQueNoEstaNoSePuedePulsar)
     EXPECT_TRUE(anfitrion->Avisos().empty());
 }
 
+// It has gone while the sheet was on show: the project in hand stays.
+TEST_F(InicioEnPantalla, ElQueSeFueMientrasTantoQuedaGrisAlPulsarlo)
+{
+    const std::string otro = instalacion.Dir() + "/Otro_Conf.vlm";
+    escritorio.s.Disco.Escribe(otro, "");
+    PonReciente(otro, "Otra");
+    Arranca(instalacion.Quelmar());
+    ASSERT_TRUE(Espera([&] { return SeVe("inicio_reciente_2"); }));
+    EXPECT_TRUE(Una("inicio_reciente_2").isEnabled());
+    escritorio.s.Disco.Borra(otro);
+    const std::size_t cajas = anfitrion->Avisos().size();  // of a project that has moved
+    apoyo::Pulsa(Una("inicio_reciente_2"));
+    EXPECT_TRUE(Espera([&] { return !Una("inicio_reciente_2").isEnabled(); }));
+    EXPECT_EQ(Rotulo("lblProyecto"), "Quelmar");
+    EXPECT_EQ(anfitrion->Avisos().size(), cajas);
+}
+
 }  // namespace
 }  // namespace shell

@@ -168,7 +168,8 @@ TEST_F(Pantallas, LaHojaDeInicio)
             }
             ajustes.endArray();
             escritorio.s.Proyecto.NombreProyecto = abierto ? "Quelmar" : "";
-            escritorio.entorno.Atiende([] {});
+            hoja.hide();
+            hoja.show();
             const auto visibles = [&hoja] {
                 const auto todas = hoja.findChildren<Tarjeta*>();
                 return std::ranges::count_if(todas, [](const Tarjeta* t) { return t->isVisible(); });
