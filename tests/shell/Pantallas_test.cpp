@@ -142,6 +142,11 @@ TEST_F(Pantallas, LaVentanaPrincipalYLasQueEstanEnElla)
     EnLaPrincipal(Ventana::dlgUEHsTabla, "dlgUEHsTabla");
     EnLaPrincipal(Ventana::Revisar, "dlgRevisar");
     EnLaPrincipal(Ventana::Verificar, "dlgVerificar");
+    Accion("mnuMapa").trigger();  // it comes once the run has been looked over
+    ASSERT_TRUE(Espera([this] {
+        return escritorio.Principal().findChild<QWidget*>(QStringLiteral("MapaDeCorrida")) != nullptr;
+    }));
+    Revisa(apoyo::Control<QWidget>(escritorio.Principal(), "MapaDeCorrida"));
     Accion("mnuHelpContents").trigger();
     Revisa(apoyo::Control<QWidget>(escritorio.Principal(), "Ayuda"));
 }

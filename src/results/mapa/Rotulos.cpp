@@ -43,11 +43,12 @@ std::vector<Caja> Cerca(const RotuloPedido& p, const std::vector<Caja>& cajas)
     return cerca;
 }
 
-/// The first place of a label, in the order of its texts and sides, for which `vale` holds.
+/// The first place of a label for which `vale` holds, in the order of its texts from number `desde` on and of
+/// the sides.
 template <typename Vale>
-std::optional<RotuloPuesto> LugarDe(const RotuloPedido& p, std::size_t numero, Vale vale)
+std::optional<RotuloPuesto> LugarDe(const RotuloPedido& p, std::size_t numero, std::size_t desde, Vale vale)
 {
-    for (std::size_t t = 0; t < p.tamanos.size(); ++t)
+    for (std::size_t t = desde; t < p.tamanos.size(); ++t)
         for (const Lado lado : Lados) {
             const Caja& tamano = p.tamanos[t];
             const Caja caja{Comienzo(p.en.x, lado.x, p.aparte, tamano.ancho),
@@ -68,8 +69,10 @@ std::vector<RotuloPuesto> ColocaRotulos(const std::vector<RotuloPedido>& pedidos
         const std::vector<Caja> obstaculos = Cerca(pedidos[n], tomadas);
         const std::vector<Caja> evitables = Cerca(pedidos[n], estorbos.evitables);
         const auto cabe = [&](const Caja& c) { return marco.Encierra(c) && Libre(c, obstaculos); };
-        auto puesto = LugarDe(pedidos[n], n, [&](const Caja& c) { return cabe(c) && Libre(c, evitables); });
-        if (!puesto) puesto = LugarDe(pedidos[n], n, cabe);
+        auto puesto =
+            LugarDe(pedidos[n], n, 0, [&](const Caja& c) { return cabe(c) && Libre(c, evitables); });
+        if (!puesto && !pedidos[n].tamanos.empty())
+            puesto = LugarDe(pedidos[n], n, pedidos[n].tamanos.size() - 1, cabe);
         if (!puesto) continue;
         puestos.push_back(*puesto);
         tomadas.push_back(puesto->caja);

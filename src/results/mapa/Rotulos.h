@@ -48,8 +48,8 @@ struct Estorbos {
 
 /// Places labels one by one in the order given, those that matter most first: to the right of what they
 /// belong to, else left, below, above, then at the corners; the fullest text that has room. A place lies
-/// within the frame, and on no label placed before and no obstacle, nor on what it would rather leave free
-/// unless there is no other place. One without any stays out.
+/// within the frame, and on no label placed before and no obstacle, nor on what it would rather leave free;
+/// where there is no such place, its shortest text lies on that. One without any stays out.
 std::vector<RotuloPuesto> ColocaRotulos(const std::vector<RotuloPedido>& pedidos, const Caja& marco,
                                         const Estorbos& estorbos);
 

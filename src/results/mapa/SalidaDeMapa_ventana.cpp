@@ -106,7 +106,9 @@ void PintaPdf(const Salida& salida, QBuffer& archivo)
     documento.setPageMargins({});
     documento.setPageSize(QPageSize(QSizeF(salida.Tamano()) / PuntosPorPulgada, QPageSize::Inch));
     QPainter papel;
-    if (papel.begin(&documento)) salida.Pinta(papel);
+    if (!papel.begin(&documento)) return;
+    papel.setRenderHint(QPainter::LosslessImageRendering);
+    salida.Pinta(papel);
 }
 
 std::string Bytes(const Salida& salida, std::string_view tipo)

@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QMenu>
+#include <QPainter>
 #include <QPushButton>
 #include <QSlider>
 #include <QSvgRenderer>
@@ -35,10 +36,20 @@ struct VentanaDelMapa : testing::Test {
         ventana.AbreHidrograma = [this](const std::string& nombre) { abiertos.push_back(nombre); };
         ventana.resize(900, 600);
     }
-    void Abre()
+    static QPixmap Roja()
     {
         QPixmap imagen(30, 20);
         imagen.fill(Qt::red);
+        return imagen;
+    }
+    static QPixmap DosMitades()
+    {
+        QPixmap imagen = Roja();
+        QPainter(&imagen).fillRect(15, 0, 15, 20, Qt::blue);
+        return imagen;
+    }
+    void Abre(const QPixmap& imagen = Roja())
+    {
         ventana.Abre(CopiaDeCorrida(corrida.red, corrida.pasos, corrida.resultados),
                      {.titulo = std::string(TituloMapaDeCorrida), .tema = "P= 80 mm", .proyecto = "Arroyo"},
                      {imagen, {0, 0, 300, 200}});
@@ -292,6 +303,43 @@ TEST_F(VentanaDelMapa, SeGuardaEnterosComoPngSvgYPdf)
          {"Mapa de la corrida", "P= 80 mm", "Proyecto: Arroyo", "Caudal [m3/s]", "36 m3/s"})
         EXPECT_NE(pdf.find(texto), std::string::npos) << texto;
     EXPECT_TRUE(mundo.anfitrion->Avisos().empty());
+}
+
+// An image of two halves, red up to x = 150 and blue beyond: near enough for the edges to be out of sight,
+// each point has the same half in every file.
+TEST_F(VentanaDelMapa, DeCercaLaImagenEstaDondeDebeEnLosTresArchivos)
+{
+    Abre(DosMitades());
+    f.chkPicos = f.chkNombres = false;
+    ventana.Muestra();
+    const auto lugar = [&](double x, double y) {
+        const forms::Pixel p = lienzo.Vista().APixel({x, y});
+        return QPointF(p.x, p.y);
+    };
+    Rueda(6, lugar(150, 130));
+    const QPointF rojo = lugar(140, 130), azul = lugar(160, 130);
+    ASSERT_TRUE(lienzo.rect().contains(rojo.toPoint()));
+    ASSERT_TRUE(lienzo.rect().contains(azul.toPoint()));
+    const QImage png = QImage::fromData(QByteArray::fromStdString(Guardado("PNG", "c.png")), "PNG");
+    QSvgRenderer svg(QByteArray::fromStdString(Guardado("SVG", "c.svg")));
+    QImage delSvg(png.size(), QImage::Format_RGB32);
+    delSvg.fill(Qt::white);
+    QPainter pintor(&delSvg);
+    svg.render(&pintor);
+    Guardado("PDF", "c.pdf");
+    apoyo::SalidaDe(QStringLiteral("pdftoppm"),
+                    {QStringLiteral("-png"), QStringLiteral("-singlefile"), QStringLiteral("-r"),
+                     QStringLiteral("192"), forms::Q(carpeta.Ruta("c.pdf")), forms::Q(carpeta.Ruta("pdf"))});
+    const QImage delPdf(forms::Q(carpeta.Ruta("pdf.png")));
+    const int encabezado = png.height() / 2 - lienzo.height();
+    for (const QImage& imagen : {png, delSvg, delPdf}) {
+        ASSERT_FALSE(imagen.isNull());
+        const auto color = [&](QPointF en) {
+            return imagen.pixelColor((QPointF(en.x(), en.y() + encabezado) * 2).toPoint());
+        };
+        EXPECT_GT(color(rojo).red(), color(rojo).blue() + 60);
+        EXPECT_GT(color(azul).blue(), color(azul).red() + 60);
+    }
 }
 
 TEST_F(VentanaDelMapa, UnDiscoQueNoAceptaSeAvisa)

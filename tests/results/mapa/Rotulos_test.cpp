@@ -54,6 +54,9 @@ TEST(Rotulos, DejanLibreElCauceSiPueden)
     // A shorter text that leaves it free goes before a fuller one that doesn't.
     const RotuloPedido conCorto{{50, 50}, 5, {{0, 0, 40, 30}, {0, 0, 20, 10}}};
     EXPECT_EQ(ColocaRotulos({conCorto}, Marco, {{}, {{0, 0, 100, 40}, {0, 60, 100, 40}}}).at(0).texto, 1U);
+    // What has to lie on it covers as little of it as can be.
+    EXPECT_EQ(ColocaRotulos({conCorto}, Marco, {{}, {{0, 0, 100, 100}}}).at(0),
+              (RotuloPuesto{0, 1, {55, 45, 20, 10}}));
 }
 
 RC_GTEST_PROP(Rotulos, NingunoTapaAOtroNiSaleDelMarco, ())
