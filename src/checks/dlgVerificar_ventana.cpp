@@ -24,7 +24,7 @@ constexpr std::chrono::milliseconds EntreMiradas{30};
 constexpr int FilasALaVista = 7;  // at least
 
 /// Widths of the columns [letters]; 0: what is left over.
-constexpr std::array<int, NroColumnasDeCaso> Anchos{5, 0, 24, 11, 13, 11, 9, 12, 9};
+constexpr std::array<int, NroColumnasDeCaso> Anchos{5, 0, 27, 11, 13, 11, 11, 12, 9};
 
 }  // namespace
 

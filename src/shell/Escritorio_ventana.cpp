@@ -21,7 +21,7 @@ namespace shell {
 namespace {
 
 constexpr std::chrono::milliseconds LatidoPortada{10};
-constexpr std::chrono::seconds EsperaDelEditor{2};
+constexpr std::chrono::seconds EsperaDelEditor{3};
 
 /// Place of a component in the order of the results in memory; 0 where it isn't there.
 std::int16_t LugarEnSecuencia(const model::Siro& s, const std::string& componente)
@@ -126,10 +126,10 @@ void Escritorio::PonVentanas()
     ventanaEmpiricas = std::make_unique<empirical::dlgEmpiricas_ventana>(entorno, empiricas);
     ventanaAyuda = std::make_unique<Ayuda_ventana>(entorno);
     ventanasEditor = std::make_unique<editor::VentanasDelEditor>(entorno, [this](bool visible) {
-        // Until the editor has come up behind it, taken the keyboard and lost it again.
         if (principalQueda && !visible)
-            return QTimer::singleShot(0, ventanaPrincipal.get(), [this] { TraePrincipal(); });
-        principalQueda = false;
+            return QTimer::singleShot(0, ventanaPrincipal.get(), [this] {
+                if (principalQueda) TraePrincipal();
+            });
         ventanaPrincipal->setVisible(visible);
     });
     ventanaPizarra = std::make_unique<results::frmPp_ventana>(entorno, pizarra);
@@ -214,9 +214,10 @@ void Escritorio::ConLaListaALaVista(const std::function<void()>& cuerpo)
     principalQueda = true;
     cuerpo();
     if (entorno.Terminando()) return;
-    if (!ventanasEditor->red.abierta) principalQueda = false;
+    principalQueda = true;
     TraePrincipal();
-    // A window manager that never gives the editor the keyboard mustn't keep the user from it later on.
+    // Meanwhile a window that is being mapped asks for the keyboard more than once, in no fixed order with
+    // what is asked for here.
     QTimer::singleShot(EsperaDelEditor, ventanaPrincipal.get(), [this] { principalQueda = false; });
 }
 
@@ -304,7 +305,10 @@ void Escritorio::PonMandos()
     mandos.Abre = [this](Ventana ventana) { Abre(ventana, true); };
     mandos.AbreSinEsperar = [this](Ventana ventana) { Abre(ventana, false); };
     mandos.Cierra = [this](Ventana ventana) { Cierra(ventana); };
-    mandos.AlzaEditor = [this] { return ventanasEditor->AlzaEditor(); };
+    mandos.AlzaEditor = [this] {
+        if (ventanasEditor->red.abierta) principalQueda = false;
+        return ventanasEditor->AlzaEditor();
+    };
     mandos.AbreHietograma = [this](const results::Hietograma& pedido) { ventanaHietograma->Muestra(pedido); };
     mandos.NotasDeTormenta = [this] { return rainfall::TituloDeTormenta(lluvia, s); };
     mandos.PunteroDeEspera = [](bool espera) {
