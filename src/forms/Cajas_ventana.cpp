@@ -16,6 +16,7 @@
 #include <algorithm>
 #include <initializer_list>
 
+#include "forms/ListaDeAvisos_ventana.h"
 #include "forms/Textos_ventana.h"
 #include "model/Siro.h"
 
@@ -177,6 +178,10 @@ std::string EligeDonde(Entorno& entorno, std::string_view titulo, std::string_vi
 
 void PonCajas(model::Anfitrion& anfitrion, Entorno& entorno)
 {
+    entorno.ListaMensajes = [&entorno](const std::vector<Recogido>& recogidos) {
+        ListaDeAvisos lista(entorno, recogidos, QApplication::activeWindow());
+        entorno.Ejecuta(lista);
+    };
     anfitrion.Avisa = [&entorno](const Mensaje& m) { Avisa(entorno, m); };
     anfitrion.Pregunta = [&entorno](const Mensaje& m) { return Pregunta(entorno, m); };
     anfitrion.Confirma = [&entorno](const Mensaje& m) {

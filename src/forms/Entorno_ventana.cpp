@@ -18,7 +18,6 @@
 #include <string_view>
 #include <utility>
 
-#include "forms/ListaDeAvisos_ventana.h"
 #include "forms/SinComillas_ventana.h"
 #include "model/Avisos.h"
 #include "model/Siro.h"
@@ -75,7 +74,7 @@ bool EsCaja(const QWidget& ventana)
     return qobject_cast<const QMessageBox*>(&ventana) != nullptr ||
            qobject_cast<const QFileDialog*>(&ventana) != nullptr ||
            qobject_cast<const QInputDialog*>(&ventana) != nullptr ||
-           dynamic_cast<const ListaDeAvisos*>(&ventana) != nullptr;
+           dynamic_cast<const ComoCaja*>(&ventana) != nullptr;
 }
 
 }  // namespace
@@ -84,6 +83,7 @@ Entorno::Entorno(model::Siro& estadoSiro)
     : s(estadoSiro),
       Presenta(PresentaEnEscritorio),
       AbreAyuda([](const std::string&) {}),
+      ListaMensajes([](const std::vector<Recogido>&) {}),
       Impresora(ImpresoraDelSistema),
       ajustes(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("SIRO"), QStringLiteral("siro"))
 {
@@ -153,8 +153,7 @@ std::optional<int> Entorno::Corre(const std::function<void()>& cuerpo)
 void Entorno::MuestraRecogidos()
 {
     if (orden == nullptr || !orden->recogida.HayRecogidos()) return;
-    ListaDeAvisos lista(*this, orden->recogida.Saca(), QApplication::activeWindow());
-    Ejecuta(lista);
+    ListaMensajes(orden->recogida.Saca());
 }
 
 int Entorno::Ejecuta(QDialog& dialogo)

@@ -20,6 +20,10 @@ class QWidget;
 
 namespace forms {
 
+/// A dialog of the program's own that is a box to the other windows, as Qt's are: it belongs to the one that
+/// was active before it.
+struct ComoCaja {};
+
 /// What every window is handed: the run-wide state, the edge at which an event ends, and what the program as
 /// a whole does for its windows. Lives as long as the windows do.
 class Entorno : public QObject {
@@ -59,6 +63,9 @@ class Entorno : public QObject {
 
     /// Opens the page of help of a window, by the window's object name.
     std::function<void(const std::string& ventana)> AbreAyuda;
+
+    /// Shows the messages that a command has gathered until they are closed; who gathers them fills it in.
+    std::function<void(const std::vector<Recogido>& recogidos)> ListaMensajes;
 
     /// The default printer, nothing where none is installed.
     std::function<std::unique_ptr<QPrinter>()> Impresora;

@@ -10,7 +10,7 @@
 namespace forms {
 
 /// The messages that a command has left beyond those that came one by one: to be read, copied, saved.
-class ListaDeAvisos : public Formulario {
+class ListaDeAvisos : public Formulario, public ComoCaja {
   public:
     ListaDeAvisos(Entorno& alrededor, const std::vector<Recogido>& recogidos, QWidget* padre);
     void Muestra() override {}

@@ -7,6 +7,7 @@
 #include "model/Avisos.h"
 #include "model/Configuracion.h"
 #include "model/Disco.h"
+#include "model/RutaProyecto.h"
 #include "model/Siro.h"
 
 namespace model {

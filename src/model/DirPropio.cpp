@@ -7,6 +7,7 @@
 
 #include "model/Avisos.h"
 #include "model/RestosDeReemplazo.h"
+#include "model/RutaProyecto.h"
 #include "model/Siro.h"
 #include "model/VidaProyecto.h"
 

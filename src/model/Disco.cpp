@@ -13,6 +13,7 @@
 #include "model/LlamadasDisco.h"
 #include "model/Reemplazo.h"
 #include "model/RestosDeReemplazo.h"
+#include "model/RutaProyecto.h"
 
 namespace model {
 

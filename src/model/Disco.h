@@ -12,13 +12,6 @@
 // The disk behind one door.
 namespace model {
 
-/// Separator of directories, as this platform writes it.
-#if defined(_WIN32)
-inline constexpr char Separador = '\\';
-#else
-inline constexpr char Separador = '/';
-#endif
-
 /// The disk behind one door, so that a test can stand in for it and let the n-th call fail. Paths are UTF-8,
 /// contents are bytes. Faults: 53 the file isn't in its directory, 76 its directory isn't there, 75 the
 /// path can't be read or written.

@@ -4,11 +4,16 @@
 #include <string>
 #include <string_view>
 
-#include "model/Disco.h"
-
 // What the paths of a project's files are composed of, as far as it comes from files that anybody may have
 // written.
 namespace model {
+
+/// Separator of directories, as this platform writes it.
+#if defined(_WIN32)
+inline constexpr char Separador = '\\';
+#else
+inline constexpr char Separador = '/';
+#endif
 
 /// Whether a project's name, as a file tells it, leads to files of the project's own directory: no separator
 /// of any platform, no "..", no control character. The empty one passes.

@@ -11,6 +11,7 @@
 #include "model/Camino.h"
 #include "model/Disco.h"
 #include "model/NombresDeWindows.h"
+#include "model/RutaProyecto.h"
 #include "model/Sistema.h"
 
 namespace model {

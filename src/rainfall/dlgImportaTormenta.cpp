@@ -11,6 +11,7 @@
 #include "model/Avisos.h"
 #include "model/Disco.h"
 #include "model/Numeros.h"
+#include "model/RutaProyecto.h"
 #include "model/Siro.h"
 #include "rainfall/VistaLluvia.h"
 

@@ -8,6 +8,7 @@
 #include "model/Avisos.h"
 #include "model/Componentes.h"
 #include "model/Numeros.h"
+#include "model/RutaProyecto.h"
 #include "model/Siro.h"
 
 namespace shell {

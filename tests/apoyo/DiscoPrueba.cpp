@@ -7,6 +7,8 @@
 #include <map>
 #include <set>
 
+#include "model/RutaProyecto.h"
+
 namespace apoyo {
 
 using model::Falla;

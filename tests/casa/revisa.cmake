@@ -47,8 +47,20 @@ function(nombrados archivo salida)
     set(${salida} "${texto}" PARENT_SCOPE)
 endfunction()
 
+# Notes that a file of src includes another of its room. A header and its source count as one.
+macro(anota_union archivo incluido)
+    string(REGEX REPLACE "^src/(.*)[.][a-z]+$" "\\1" union_de "${archivo}")
+    string(REGEX REPLACE "^[<\"](.*)[.][a-z]+$" "\\1" union_a "${incluido}")
+    if(NOT union_de STREQUAL union_a)
+        list(APPEND unidos ${union_de} ${union_a})
+        list(APPEND usa_${union_de} ${union_a})
+        list(APPEND usado_por_${union_a} ${union_de})
+    endif()
+endmacro()
+
 # --- Includes: floors, windows, command line -------------------------------------------------------------------------
 set(con_cli)
+set(unidos)
 foreach(cuarto IN LISTS cuartos)
     file(GLOB_RECURSE archivos RELATIVE ${RAIZ} ${RAIZ}/src/${cuarto}/*.h ${RAIZ}/src/${cuarto}/*.cpp)
     foreach(archivo IN LISTS archivos)
@@ -63,6 +75,9 @@ foreach(cuarto IN LISTS cuartos)
                 set(otro ${CMAKE_MATCH_1})
                 if(NOT otro STREQUAL cuarto AND NOT otro IN_LIST debajo_${cuarto})
                     falta(${archivo} "climbs a floor: ${linea}")
+                endif()
+                if(otro STREQUAL cuarto)
+                    anota_union(${archivo} "${incluido}")
                 endif()
             elseif(incluido MATCHES "^[<\"](Q|qcustomplot)")
                 if(NOT de_ventana)
@@ -104,6 +119,32 @@ if(cuantos GREATER 1 OR (cuantos EQUAL 1 AND NOT con_cli MATCHES "^src/batch/[^/
     falta("${con_cli}" "CLI11 belongs to one .cpp of batch")
 endif()
 
+# --- No circle of includes ----------------------------------------------------------------------------------------------
+# Who includes nobody of those that are left, or is included by nobody of them, stands in no circle.
+list(REMOVE_DUPLICATES unidos)
+set(quedaban)
+while(NOT "${unidos}" STREQUAL "${quedaban}")
+    set(quedaban ${unidos})
+    foreach(union IN LISTS quedaban)
+        foreach(lado IN ITEMS usa usado_por)
+            set(sigue FALSE)
+            foreach(otro IN LISTS ${lado}_${union})
+                if(otro IN_LIST unidos)
+                    set(sigue TRUE)
+                    break()
+                endif()
+            endforeach()
+            if(NOT sigue)
+                list(REMOVE_ITEM unidos ${union})
+            endif()
+        endforeach()
+    endforeach()
+endwhile()
+list(SORT unidos)
+if(unidos)
+    falta("src" "a circle of includes among ${unidos}")
+endif()
+
 # --- Platforms and paths: in few files -----------------------------------------------------------------------------------
 # The standard library takes the bytes of a std::string for another encoding on Windows, where a path is made of it; so
 # model/Camino.h makes paths of texts, and texts of paths, and nothing else does. Windows keep to Qt.
@@ -125,7 +166,7 @@ foreach(cuarto IN LISTS cuartos)
                 falta(${archivo} "text to path or back without model/Camino.h: ${linea}")
             endforeach()
         endif()
-        if(NOT archivo MATCHES "${de_plataforma}" AND NOT archivo STREQUAL "src/model/Disco.h")
+        if(NOT archivo MATCHES "${de_plataforma}" AND NOT archivo STREQUAL "src/model/RutaProyecto.h")
             lineas(${archivo}
                 "^[ \t]*#[ \t]*include[ \t]*<(${del_sistema})[.]h>|_WIN32|__linux__|__unix__|__APPLE__|/proc/|[^A-Za-z_]getenv[(]"
                 hallados)

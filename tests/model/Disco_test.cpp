@@ -12,6 +12,7 @@
 
 #include "apoyo/Compara.h"
 #include "apoyo/DiscoPrueba.h"
+#include "model/RutaProyecto.h"
 
 using apoyo::NumeroDeFalla;
 using namespace model;

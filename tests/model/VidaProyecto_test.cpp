@@ -12,6 +12,7 @@
 #include "model/ArchivoConf.h"
 #include "model/Componentes.h"
 #include "model/Configuracion.h"
+#include "model/RutaProyecto.h"
 
 using namespace model;
 using apoyo::NumeroDeFalla;
