@@ -82,9 +82,9 @@ std::string EnJson(const UltimaCorrida& informe)
 }  // namespace
 
 std::string InformeDeAvisos(const model::Siro& s, const model::Tormenta& entrada, bool completa,
-                            const Opciones& o)
+                            const Opciones& o, checks::VigiaDeSerie& vigia)
 {
-    const auto corrida = o.orden == Opciones::Orden::Serie ? UltimaCorrida::DeSerie(s, o.hilos)
+    const auto corrida = o.orden == Opciones::Orden::Serie ? UltimaCorrida::DeSerie(s, o.hilos, &vigia)
                                                            : UltimaCorrida::DeUna(s, entrada, completa);
     return o.json ? EnJson(*corrida) : EnTexto(*corrida);
 }

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "batch/Opciones.h"
+#include "checks/AvisosDeSerie.h"
 #include "model/SiroDeclarado.h"
 #include "model/Tormenta.h"
 
@@ -13,8 +14,9 @@ namespace batch {
 /// of one storm the water balance of each component and of the basin, a line each; the run's hash as the last
 /// line. With
 /// `--json` one object: "avisos", an array of findings; "balance", an array, of one storm alone; "huella".
-/// `entrada`: the storm in hand ahead of the run. `completa`: it went to its end. UTF-8, LF.
+/// `entrada`: the storm in hand ahead of the run. `completa`: it went to its end. `vigia` has looked at a
+/// series. UTF-8, LF.
 std::string InformeDeAvisos(const model::Siro& s, const model::Tormenta& entrada, bool completa,
-                            const Opciones& o);
+                            const Opciones& o, checks::VigiaDeSerie& vigia);
 
 }  // namespace batch

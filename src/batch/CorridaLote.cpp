@@ -10,6 +10,7 @@
 
 #include "batch/AvisosLote.h"
 #include "batch/ResultadosCsv.h"
+#include "checks/AvisosDeSerie.h"
 #include "engine/mdlProceso1.h"
 #include "engine/mdlSeriePDR.h"
 #include "engine/modProceso0.h"
@@ -90,14 +91,16 @@ bool Muestra(const Salidas& salidas, const std::function<void()>& escribe)
 
 /// Runs what was settled, and keeps the storm in hand as it was ahead of the run. Returns whether the run
 /// went to its end.
-bool CorreOrden(Siro& s, const Opciones& o, std::optional<model::Tormenta>& entrada)
+bool CorreOrden(Siro& s, const Opciones& o, std::optional<model::Tormenta>& entrada,
+                checks::VigiaDeSerie& vigia)
 {
     AbreProyecto(s, RutaAbsoluta(o.conf));
     if (s.Proyecto.NombreProyecto.empty() || s.Proyecto.DirProyecto.empty()) return false;
     FijaTormenta(s, o);
     entrada = s.Tormenta;
     if (o.orden == Opciones::Orden::Serie)
-        return engine::CorreSeriePDR(s, o.hilos) == engine::FinSerie::Completa;
+        return engine::CorreSeriePDR(s, o.hilos, o.avisos ? vigia.Ojo() : nullptr) ==
+               engine::FinSerie::Completa;
     return engine::CorreUnaTormenta(s);
 }
 
@@ -115,12 +118,11 @@ bool GuardaResultados(Siro& s, const Opciones& o)
 }
 
 /// Judges the run, where that was asked for and there was one. Whether it can be written changes nothing.
-void MuestraAvisos(const Siro& s, const std::optional<model::Tormenta>& entrada, bool completa,
-                   const Opciones& o, const Salidas& salidas)
+void MuestraAvisos(const Salidas& salidas, const Opciones& o, const std::function<std::string()>& informe)
 {
-    if (!o.avisos || !entrada) return;
+    if (!o.avisos) return;
     try {
-        Muestra(salidas, [&] { salidas.Estandar(InformeDeAvisos(s, *entrada, completa, o)); });
+        Muestra(salidas, [&] { salidas.Estandar(informe()); });
     } catch (const std::bad_alloc&) {
         salidas.Errores("siro-lote: no hay memoria suficiente\n");
     }
@@ -183,8 +185,9 @@ int Corre(const Opciones& o, const std::string& dirEjecutable, const Salidas& sa
     s.Disco = Vigilado(s.Disco, s.Proyecto.DirTrabajo, escritos);
     std::optional<int> fin;
     std::optional<model::Tormenta> entrada;
+    checks::VigiaDeSerie vigia(s);
     try {
-        completa = CorreOrden(s, o, entrada);
+        completa = CorreOrden(s, o, entrada, vigia);
     } catch (const model::FinDelPrograma& terminada) {
         fin = terminada.estado;
     } catch (const std::bad_alloc&) {
@@ -197,7 +200,7 @@ int Corre(const Opciones& o, const std::string& dirEjecutable, const Salidas& sa
         escritos = Muestra(salidas, [&] { anfitrion.MuestraPizarra(); }) && escritos;
         fin = completa && escritos && GuardaResultados(s, o) ? EstadoCompleto : EstadoInterrumpido;
     }
-    MuestraAvisos(s, entrada, completa, o, salidas);
+    if (entrada) MuestraAvisos(salidas, o, [&] { return InformeDeAvisos(s, *entrada, completa, o, vigia); });
     return *fin;
 }
 

@@ -4,14 +4,13 @@
 #include <algorithm>
 #include <atomic>
 #include <functional>
-#include <new>
+#include <iterator>
 #include <string>
-#include <system_error>
-#include <thread>
 #include <utility>
 
 #include "checks/AvisosDeCorrida.h"
 #include "checks/ReglasDeAvisos.h"
+#include "engine/Hilos.h"
 #include "engine/mdlSeriePDR.h"
 #include "model/Numeros.h"
 #include "model/Siro.h"
@@ -56,30 +55,12 @@ bool SinTilde(const std::array<std::int16_t, N>& valores, const std::array<std::
 void EnHilos(std::size_t cuantos, int hilos, const std::function<void(engine::Memoria&, std::size_t)>& hace)
 {
     std::atomic<std::size_t> siguiente{0};
-    std::atomic<bool> sinMemoria{false};
-    const auto trabaja = [&] {
-        try {
-            engine::Memoria memoria;
-            memoria.VariasCorridas = cuantos > 1;
-            for (std::size_t i = siguiente++; i < cuantos; i = siguiente++)
-                hace(memoria, i);
-        } catch (const std::bad_alloc&) {
-            sinMemoria = true;
-        }
-    };
-    const int nucleos = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
-    const auto otros =
-        std::min<std::size_t>(static_cast<std::size_t>((hilos > 0 ? hilos : nucleos) - 1), cuantos);
-    {
-        std::vector<std::jthread> ayudantes;
-        try {
-            while (ayudantes.size() < otros)
-                ayudantes.emplace_back(trabaja);
-        } catch (const std::system_error&) {  // those that run already do the work
-        }
-        trabaja();
-    }
-    if (sinMemoria) throw std::bad_alloc();
+    engine::EnHilos(hilos, cuantos, [&](bool) {
+        engine::Memoria memoria;
+        memoria.VariasCorridas = cuantos > 1;
+        for (std::size_t i = siguiente++; i < cuantos; i = siguiente++)
+            hace(memoria, i);
+    });
 }
 
 model::Tormenta Tormenta(const model::Siro& s, int numero)
@@ -148,6 +129,14 @@ TiempoAgregado TiempoParaTodas(const model::Siro& s, std::vector<int> numeros, i
     return mejor;
 }
 
+/// What a storm has, but for the time that would help.
+std::vector<HallazgoMedido> Juzga(const model::Siro& s, int numero, const engine::Calculo& calculo)
+{
+    const model::Tormenta t = Tormenta(s, numero);
+    const Corrido c(s.Red, t, s.Pasos, calculo);
+    return BuscaAvisos(c, c.TieneResultados() ? BalanceDe(c) : Balance{}, {});
+}
+
 }  // namespace
 
 Seleccionadas TormentasDeSerie(const model::Siro& s)
@@ -187,26 +176,38 @@ Seleccionadas TormentasDeSerie(const model::Siro& s)
     return elegidas;
 }
 
-std::vector<Hallazgo> AvisosDeSerie(const model::Siro& s, int hilos)
+void VigiaDeSerie::Mira(int numero, const engine::Calculo* calculo)
+{
+    std::vector<HallazgoMedido> suyos;
+    if (calculo != nullptr) suyos = Juzga(s, numero, *calculo);
+    const std::scoped_lock uno(candado);
+    if (calculo == nullptr)
+        porTormenta.erase(numero);
+    else
+        porTormenta[numero] = std::move(suyos);
+}
+
+std::vector<Hallazgo> VigiaDeSerie::Avisos(int hilos)
 {
     const Seleccionadas elegidas = TormentasDeSerie(s);
     const std::vector<int>& numeros = elegidas.numeros;
-    std::vector<std::vector<HallazgoMedido>> porTormenta(numeros.size());
-    EnHilos(numeros.size(), hilos, [&](engine::Memoria& memoria, std::size_t i) {
-        const model::Tormenta t = Tormenta(s, numeros[i]);
+    std::vector<int> faltan;
+    std::copy_if(numeros.begin(), numeros.end(), std::back_inserter(faltan),
+                 [&](int numero) { return !porTormenta.contains(numero); });
+    EnHilos(faltan.size(), hilos, [&](engine::Memoria& memoria, std::size_t i) {
+        const model::Tormenta t = Tormenta(s, faltan[i]);
         const engine::Calculo calculo = engine::Calcula(s.Red, t, s.Pasos, s.TablasDeLluvia, memoria);
-        const Corrido c(s.Red, t, s.Pasos, calculo);
-        porTormenta[i] = BuscaAvisos(c, c.TieneResultados() ? BalanceDe(c) : Balance{}, {});
+        Mira(faltan[i], &calculo);
     });
 
     std::vector<Junto> juntos;
     std::vector<int> conPicoAlFinal;
-    for (std::size_t i = 0; i < numeros.size(); ++i)
-        for (HallazgoMedido& h : porTormenta[i]) {
+    for (const int numero : numeros)
+        for (const HallazgoMedido& h : porTormenta[numero]) {
             if (h.hallazgo.numero == NumeroDePico &&
-                (conPicoAlFinal.empty() || conPicoAlFinal.back() != numeros[i]))
-                conPicoAlFinal.push_back(numeros[i]);
-            Junta(juntos, std::move(h), numeros[i]);
+                (conPicoAlFinal.empty() || conPicoAlFinal.back() != numero))
+                conPicoAlFinal.push_back(numero);
+            Junta(juntos, h, numero);
         }
     std::string remedio;
     if (!conPicoAlFinal.empty())
@@ -221,6 +222,11 @@ std::vector<Hallazgo> AvisosDeSerie(const model::Siro& s, int hilos)
                      [](const Hallazgo& a, const Hallazgo& b) { return a.numero < b.numero; });
     OrdenaPorGravedad(avisos);
     return avisos;
+}
+
+std::vector<Hallazgo> AvisosDeSerie(const model::Siro& s, int hilos)
+{
+    return VigiaDeSerie(s).Avisos(hilos);
 }
 
 }  // namespace checks

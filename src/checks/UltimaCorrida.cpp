@@ -53,14 +53,15 @@ std::shared_ptr<const UltimaCorrida> UltimaCorrida::DeUna(const model::Siro& s,
     return u;
 }
 
-std::shared_ptr<const UltimaCorrida> UltimaCorrida::DeSerie(const model::Siro& s, int hilos)
+std::shared_ptr<const UltimaCorrida> UltimaCorrida::DeSerie(const model::Siro& s, int hilos,
+                                                            VigiaDeSerie* vigia)
 {
     const std::shared_ptr<UltimaCorrida> u(new UltimaCorrida(s));
     u->esSerie = true;
     u->entrada = s.Tormenta;
     u->serie = s.Serie;
     u->calculo.Resultados = s.Resultados;
-    u->avisos = AvisosDeSerie(s, hilos);
+    u->avisos = vigia != nullptr ? vigia->Avisos(hilos) : AvisosDeSerie(s, hilos);
     u->huella = HuellaDeSerie(s, TormentasDeSerie(s).numeros);
     return u;
 }

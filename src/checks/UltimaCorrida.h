@@ -16,6 +16,8 @@
 
 namespace checks {
 
+class VigiaDeSerie;
+
 /// A run that is over: what went in, what came out, what is to be said of it. A copy of its own, which
 /// nothing changes afterwards, so that what is shown of it can't lie.
 class UltimaCorrida {
@@ -24,8 +26,10 @@ class UltimaCorrida {
     /// its end. The results are those of `s`; what it had to say is found by running it once more.
     static std::shared_ptr<const UltimaCorrida> DeUna(const model::Siro& s, const model::Tormenta& entrada,
                                                       bool completa);
-    /// The series that `s` has run; AvisosDeSerie tells of `hilos`.
-    static std::shared_ptr<const UltimaCorrida> DeSerie(const model::Siro& s, int hilos);
+    /// The series that `s` has run; AvisosDeSerie tells of `hilos`. `vigia`: who looked at its storms, if
+    /// anybody did.
+    static std::shared_ptr<const UltimaCorrida> DeSerie(const model::Siro& s, int hilos,
+                                                        VigiaDeSerie* vigia = nullptr);
 
     UltimaCorrida(const UltimaCorrida&) = delete;
     UltimaCorrida& operator=(const UltimaCorrida&) = delete;

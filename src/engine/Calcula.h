@@ -2,6 +2,8 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <memory>
 #include <vector>
 
 #include "engine/Memoria.h"
@@ -53,5 +55,28 @@ Calculo Calcula(const model::Red& red, const model::Tormenta& tormenta, const mo
 /// at any time.
 Calculo Calcula(const model::Red& red, const model::Tormenta& tormenta, const model::Pasos& pasos,
                 const model::TablasDeLluvia& tablas, Memoria& memoria);
+
+/// Storms one after another through one network, for whoever looks at each and lets it go: the bits of
+/// `Calcula`, in arrays that are made once. Belongs to one thread.
+class Calculadora {
+  public:
+    Calculadora(const model::Red& red, const model::Pasos& pasos, Memoria memoria);
+    ~Calculadora();
+    Calculadora(const Calculadora&) = delete;
+    Calculadora& operator=(const Calculadora&) = delete;
+
+    /// Runs a storm that is spread over time already. What it returns holds until the next one; volumes of
+    /// the component routed last aren't in it. Throws std::bad_alloc and nothing else.
+    const Calculo& Corre(const model::Tormenta& tormenta, const model::Hietograma& hietograma);
+
+  private:
+    struct Estado;
+    std::unique_ptr<Estado> estado;
+};
+
+/// Who looks at the storms of a series as they are run, on several threads at once: the number of each, and
+/// its run, which holds until the call ends. None: the storm has something to show or ask and is run as a
+/// single one is; what was seen of it before doesn't stand.
+using MiraTormenta = std::function<void(int numero, const Calculo* calculo)>;
 
 }  // namespace engine

@@ -3,13 +3,10 @@
 
 #include <algorithm>
 #include <atomic>
-#include <deque>
 #include <new>
-#include <system_error>
-#include <thread>
 #include <utility>
 
-#include "engine/Memoria.h"
+#include "engine/Hilos.h"
 #include "engine/mdlProceso1.h"
 #include "engine/modDistriPp.h"
 #include "model/Anfitrion.h"
@@ -41,13 +38,6 @@ struct TormentaLista {
     model::Hietograma Hietograma{};
 };
 
-void Pone(Siro& s, const TormentaLista& t)
-{
-    s.Serie.IndSerie = static_cast<std::int16_t>(t.numero);
-    s.Tormenta = t.Tormenta;
-    s.Hietograma = t.Hietograma;
-}
-
 /// Asks for the rain of each model step, as the run does: that can cut or lengthen the hyetograph's arrays.
 void GastaLluvia(Siro& s)
 {
@@ -76,118 +66,66 @@ std::vector<TormentaLista> Prepara(Siro s, const std::vector<int>& numeros)
     return listas;
 }
 
-/// What the threads share: storms are taken in order, the first that isn't silent stops the rest.
-struct Reparto {
-    const std::vector<TormentaLista>& listas;
-    std::size_t cuantas;  ///< storms to run
-    std::atomic<std::size_t> siguiente{0};
-    std::atomic<std::size_t> tope{cuantas};  ///< place of the first storm that isn't silent
-};
-
-/// Runs one storm in a state of its own. Returns false where it isn't silent, or there is no memory for it.
-bool CorreEnSilencio(Siro& s, Memoria& memoria, const TormentaLista& tormenta)
+/// Runs a storm as a function and takes over what a series keeps of it. Returns false where it has something
+/// to say, or there is no memory for it.
+bool Corre(Siro& s, Calculadora& calculadora, const TormentaLista& lista, const MiraTormenta& mira)
 {
-    Pone(s, tormenta);
     try {
-        ProcesoPrincipal(s, {.GuardaTexto = false, .ConTexto = false, .ConVolumenes = false}, memoria);
+        const Calculo& calculo = calculadora.Corre(lista.Tormenta, lista.Hietograma);
+        if (calculo.fin != FinCalculo::Completo || !calculo.avisos.empty()) return false;
+        s.Resultados.TraeTormenta(calculo.Resultados, 1, lista.numero);
+        if (mira) mira(lista.numero, &calculo);
         return true;
-    } catch (const FinDelPrograma&) {
-        return false;
     } catch (const std::bad_alloc&) {
         return false;
     }
 }
 
-/// One thread's work. Returns the places of the storms that it ran, in order.
-std::vector<std::size_t> Trabaja(Siro& s, Reparto& reparto, const std::function<void(int)>& avisa)
+void Baja(std::atomic<std::size_t>& tope, std::size_t hasta)
 {
-    Memoria memoria;
-    memoria.VariasCorridas = reparto.cuantas > 1;
-    std::vector<std::size_t> hechas;
-    hechas.reserve(reparto.cuantas);
-    for (std::size_t i = reparto.siguiente++; i < reparto.tope; i = reparto.siguiente++) {
-        if (avisa) avisa(reparto.listas[i].numero);
-        if (CorreEnSilencio(s, memoria, reparto.listas[i])) {
-            hechas.push_back(i);
-            continue;
-        }
-        std::size_t tope = reparto.tope;
-        while (i < tope && !reparto.tope.compare_exchange_weak(tope, i)) {
-        }
+    std::size_t antes = tope;
+    while (hasta < antes && !tope.compare_exchange_weak(antes, hasta)) {
     }
-    return hechas;
-}
-
-/// A state of its own to run storms in, and the places of those that it ran.
-struct Obrero {
-    Siro estado;
-    std::vector<std::size_t> hechas{};
-};
-
-void Contrata(std::deque<Obrero>& obreros, const Siro& s)
-{
-    obreros.push_back({s});
-    obreros.back().estado.Anfitrion = AnfitrionMudo();
-}
-
-/// One more thread. Returns false where the system has none, or no memory for its state: those that run
-/// already do the work.
-bool EmpiezaOtro(std::deque<Obrero>& obreros, const Siro& s, std::vector<std::jthread>& ayudantes,
-                 Reparto& reparto)
-{
-    const std::size_t antes = obreros.size();
-    try {
-        Contrata(obreros, s);
-        Obrero& nuevo = obreros.back();
-        ayudantes.emplace_back([&nuevo, &reparto] {
-            try {
-                nuevo.hechas = Trabaja(nuevo.estado, reparto, {});
-            } catch (const std::bad_alloc&) {  // ahead of its first storm: the others take them
-            }
-        });
-        return true;
-    } catch (const std::system_error&) {
-    } catch (const std::bad_alloc&) {
-    }
-    if (obreros.size() > antes) obreros.pop_back();
-    return false;
 }
 
 /// Leaves in `s` what a storm leaves behind in a run one after another.
-void PonEstadoTras(Siro& s, const TormentaLista& tormenta)
+void PonEstadoTras(Siro& s, const TormentaLista& t)
 {
-    Pone(s, tormenta);
-    const model::Anfitrion anfitrion = std::exchange(s.Anfitrion, AnfitrionMudo());
+    s.Serie.IndSerie = static_cast<std::int16_t>(t.numero);
+    s.Tormenta = t.Tormenta;
+    s.Hietograma = t.Hietograma;
     Memoria memoria;
-    ProcesoPrincipal(s, {.GuardaTexto = false, .ConTexto = false, .ConVolumenes = true}, memoria);
-    s.Anfitrion = anfitrion;
+    ProcesoPrincipal(s, {.GuardaTexto = false, .ConTexto = false}, memoria);
 }
 
 }  // namespace
 
 std::size_t CorreTormentasSinAvisos(Siro& s, const std::vector<int>& numeros, int hilos,
-                                    const std::function<void(int)>& avisa)
+                                    const std::function<void(int)>& avisa, const MiraTormenta& mira)
 {
     if (numeros.size() < 2 || s.Serie.NroSeriePDR < 2) return 0;
     const std::vector<TormentaLista> listas = Prepara(s, numeros);
-    Reparto reparto{listas, std::min(listas.size(), numeros.size() - 1)};
-    const auto cuantos = std::clamp<std::size_t>(static_cast<std::size_t>(std::max(hilos, 1)), 1,
-                                                 std::max<std::size_t>(reparto.cuantas, 1));
-    std::deque<Obrero> obreros;
-    {
-        std::vector<std::jthread> ayudantes;
-        ayudantes.reserve(cuantos);
-        Contrata(obreros, s);
-        while (obreros.size() < cuantos && EmpiezaOtro(obreros, s, ayudantes, reparto)) {
+    const std::size_t cuantas = std::min(listas.size(), numeros.size() - 1);
+    std::atomic<std::size_t> siguiente{0};
+    std::atomic<std::size_t> tope{cuantas};  // place of the first storm that isn't silent
+    EnHilos(hilos, cuantas, [&](bool aparte) {
+        try {
+            Calculadora calculadora(s.Red, s.Pasos, {.VariasCorridas = cuantas > 1});
+            for (std::size_t i = siguiente++; i < tope; i = siguiente++) {
+                if (avisa && !aparte) avisa(listas[i].numero);
+                if (!Corre(s, calculadora, listas[i], mira)) Baja(tope, i);
+            }
+        } catch (const std::bad_alloc&) {  // ahead of its first storm: the others take them
+            if (!aparte) throw;
         }
-        obreros.front().hechas = Trabaja(obreros.front().estado, reparto, avisa);
-    }
-    const std::size_t completas = reparto.tope;
-    for (const Obrero& obrero : obreros)
-        for (const std::size_t i : obrero.hechas)
-            if (i < completas) s.Resultados.TraeTormenta(obrero.estado.Resultados, listas[i].numero);
-    if (completas > 0) PonEstadoTras(s, listas[completas - 1]);
-    return completas;
+    });
+    model::Resultados nada;
+    nada.NroComponentes = s.Resultados.NroComponentes;
+    nada.DimensionaTormentas(s.Red.NroUEHs(), 1);
+    for (std::size_t i = tope; i < cuantas; ++i)
+        s.Resultados.TraeTormenta(nada, 1, listas[i].numero);
+    if (tope > 0) PonEstadoTras(s, listas[tope - 1]);
+    return tope;
 }
 
 }  // namespace engine

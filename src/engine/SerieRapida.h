@@ -5,6 +5,7 @@
 #include <functional>
 #include <vector>
 
+#include "engine/Calcula.h"
 #include "model/SiroDeclarado.h"
 
 // The storms of a series on several threads, with the results of one after another.
@@ -15,9 +16,10 @@ namespace engine {
 /// another except through the hyetograph's arrays, which are handed on in order beforehand.
 ///
 /// Returns how many storms from the first one on stand as a run one after another leaves them: the first that
-/// would show a box or ask a question stops the rest. `s` then holds the state in which that storm begins, as
-/// far as a storm can tell. `avisa` is called on this thread for each storm that it begins.
+/// has something to show or ask stops the rest. `s` then holds the state in which that storm begins, as
+/// far as a storm can tell. `avisa` is called on this thread for each storm that it begins, `mira` as
+/// CorreSeriePDR tells.
 std::size_t CorreTormentasSinAvisos(model::Siro& s, const std::vector<int>& numeros, int hilos,
-                                    const std::function<void(int numero)>& avisa);
+                                    const std::function<void(int numero)>& avisa, const MiraTormenta& mira);
 
 }  // namespace engine

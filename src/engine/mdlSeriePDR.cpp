@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <thread>
 
 #include "engine/ComponenteFinal.h"
 #include "engine/SerieRapida.h"
@@ -188,7 +187,7 @@ bool Deseleccionada(const std::array<std::int16_t, N>& valores, const std::array
     return hallado != valores.end() && marcas[static_cast<std::size_t>(hallado - valores.begin())] == 0;
 }
 
-FinSerie CorreSerie(Siro& s, int hilos)
+FinSerie CorreSerie(Siro& s, int hilos, const MiraTormenta& mira)
 {
     AbreSerie(s);
     if (s.Serie.NroSeriePDR >= 0) s.Resultados.DimensionaTormentas(s.Red.NroUEHs(), s.Serie.NroSeriePDR);
@@ -198,10 +197,13 @@ FinSerie CorreSerie(Siro& s, int hilos)
         return FinSerie::SinTormentas;
     }
     const std::vector<int> numeros = TormentasElegidas(s);
-    const std::size_t hechas = CorreTormentasSinAvisos(s, numeros, hilos, [&](int numero) {
+    const auto avisa = [&](int numero) {
         MuestraAvance(s, numero);
         MueveBarra(s, numero);
-    });
+    };
+    const std::size_t hechas = CorreTormentasSinAvisos(s, numeros, hilos, avisa, mira);
+    for (std::size_t i = hechas; mira && i < numeros.size(); ++i)
+        mira(numeros[i], nullptr);
     CorreUnaTrasOtra(s, numeros, hechas);
     if (!TerminaSerie(s)) return FinSerie::TormentaNula;  // the window of the progress stays open
     s.Anfitrion.BarraAvance(0);
@@ -229,11 +231,10 @@ void GuardaTablaQDR(Siro& s)
                      [&](const Falla&) { model::Advierte(s, std::string(FallaTabla), TituloFallaTabla); });
 }
 
-FinSerie CorreSeriePDR(Siro& s, int hilos)
+FinSerie CorreSeriePDR(Siro& s, int hilos, const MiraTormenta& mira)
 {
-    const int nucleos = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
     FinSerie fin = FinSerie::SinTormentas;
-    model::Sentencia([&] { fin = CorreSerie(s, hilos > 0 ? hilos : nucleos); }, model::AvisaMotor(s));
+    model::Sentencia([&] { fin = CorreSerie(s, hilos, mira); }, model::AvisaMotor(s));
     return fin;
 }
 

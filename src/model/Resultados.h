@@ -50,18 +50,18 @@ struct Resultados {
         CoefEscTotal.Dimensiona(tormentas);
         EscTotal.Dimensiona(tormentas);
     }
-    /// Takes over what another run with the same room left of a storm.
-    void TraeTormenta(const Resultados& de, int tormenta)
+    /// Takes over what another run of as many components left of its storm `suya`.
+    void TraeTormenta(const Resultados& de, int suya, int tormenta)
     {
-        const auto trae = [&](auto& mia, const auto& suya) {
+        const auto trae = [&](auto& mia, const auto& otra) {
             for (int fila = mia.PrimeraFila(); fila <= mia.UltimaFila(); ++fila)
-                mia(fila, tormenta) = suya(fila, tormenta);
+                mia(fila, tormenta) = otra(fila, suya);
         };
         trae(QMax, de.QMax);
         trae(EscUEH, de.EscUEH);
         trae(CoefEscUEH, de.CoefEscUEH);
-        EscTotal(tormenta) = de.EscTotal(tormenta);
-        CoefEscTotal(tormenta) = de.CoefEscTotal(tormenta);
+        EscTotal(tormenta) = de.EscTotal(suya);
+        CoefEscTotal(tormenta) = de.CoefEscTotal(suya);
     }
 };
 

@@ -83,6 +83,39 @@ TEST_F(LaSerie, LoDeLaRedSeDiceUnaVezYSinTormenta)
     EXPECT_EQ(Busca(avisos, 108, "c-1")->cuanto, "viaje 5 min, paso 10 min");
 }
 
+// One of the storms is looked at twice, one isn't: what counts is what stands of each.
+TEST_F(LaSerie, QuienMiroLasTormentasDiceLoMismo)
+{
+    s.Red.ColUEHs.Item(1).RetensionZ = 70;
+    PonTormentas({{60, 60, 10}, {50, 60, 5}, {80, 60, 50}});
+    VigiaDeSerie vigia(s);
+    const auto mira = vigia.Ojo();
+    for (const int numero : {1, 2, 3}) {
+        model::Tormenta t = s.Tormenta;
+        model::TomaTormenta(t, s.Serie, numero);
+        const engine::Calculo calculo = engine::Calcula(s.Red, t, s.Pasos);
+        mira(numero, &calculo);
+    }
+    mira(2, nullptr);
+    EXPECT_EQ(vigia.Avisos(1), AvisosDeSerie(s, 1));
+    EXPECT_NE(Busca(vigia.Avisos(2), 115, "u-1"), nullptr);
+}
+
+// A storm that was seen isn't run again: what was seen of it, however odd, is what is told.
+TEST_F(LaSerie, LoQueSeVioNoSeVuelveACorrer)
+{
+    PonTormentas({{60, 60, 10}});
+    model::Tormenta t = s.Tormenta;
+    model::TomaTormenta(t, s.Serie, 1);
+    engine::Calculo calculo = engine::Calcula(s.Red, t, s.Pasos);
+    EXPECT_EQ(Lista(AvisosDeSerie(s, 1)), "");
+    calculo.fin = engine::FinCalculo::Rechazado;
+    calculo.avisos.push_back({{"Falta algo"}});
+    VigiaDeSerie vigia(s);
+    vigia.Ojo()(1, &calculo);
+    EXPECT_NE(Lista(vigia.Avisos(1)), "");
+}
+
 TEST_F(LaSerie, ElTiempoAgregadoQueDiceAlcanzaParaTodas)
 {
     Muskingum(s.Red.ColCauces.Item(1), 120, 0);

@@ -182,6 +182,33 @@ TEST_F(ElCalculo, LaMemoriaPuedeVerOtraRed)
     }
 }
 
+// A lake of 10 cm asks in a large storm, in the midst of small ones that don't.
+TEST_F(ElCalculo, LaCalculadoraDaLosBitsDeLaFuncionTormentaPorTormenta)
+{
+    PonLago(0.1F, "Runge Kutta");
+    Calculadora calculadora(s.Red, s.Pasos, {.VariasCorridas = true});
+    std::vector<std::size_t> preguntas;
+    for (const float lamina : {0.5F, 60.0F, 0.7F}) {
+        s.Tormenta.PpTormenta = lamina;
+        const Calculo una = Calcula(s.Red, s.Tormenta, s.Pasos);
+        model::Hietograma hietograma = una.Hietograma;
+        hietograma.PpAcumPrevia = 0;
+        const Calculo& otra = calculadora.Corre(s.Tormenta, hietograma);
+        EXPECT_EQ(otra.fin, una.fin);
+        EXPECT_EQ(otra.Resultados.QSale, una.Resultados.QSale) << lamina;
+        EXPECT_EQ(otra.Resultados.QMax, una.Resultados.QMax) << lamina;
+        EXPECT_EQ(otra.Resultados.SLago, una.Resultados.SLago) << lamina;
+        EXPECT_EQ(otra.Resultados.EscUEH, una.Resultados.EscUEH) << lamina;
+        ASSERT_EQ(otra.avisos.size(), una.avisos.size()) << lamina;
+        for (std::size_t i = 0; i < una.avisos.size(); ++i)
+            EXPECT_EQ(otra.avisos[i].veces, una.avisos[i].veces) << lamina;
+        preguntas.push_back(una.avisos.size());
+    }
+    EXPECT_EQ(preguntas[0], 0U);
+    EXPECT_GT(preguntas[1], 0U);
+    EXPECT_EQ(preguntas[2], 0U);
+}
+
 // What a run finds of the one before: two blocks more of the hyetograph, and its answers.
 TEST_F(ElCalculo, NadaQuedaDeUnoParaOtro)
 {

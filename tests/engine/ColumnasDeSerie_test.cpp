@@ -62,7 +62,7 @@ TEST(ColumnasDeSerie, UnaTormentaSeTraeDeOtraCorrida)
     r.NroComponentes = 3;
     r.DimensionaTormentas(2, 4);
     r.QMax(3, 1) = 7;
-    r.TraeTormenta(otra, 4);
+    r.TraeTormenta(otra, 4, 4);
     EXPECT_EQ(r.QMax(3, 1), 7);
     for (const ColumnaDeSerie& columna : ColumnasDeSerie) {
         for (int fila = 1; fila <= 3; ++fila)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 
+#include <map>
+#include <mutex>
 #include <random>
 #include <string>
 #include <vector>
@@ -126,7 +128,16 @@ class HilosDeSerie : public testing::TestWithParam<unsigned> {};
 TEST_P(HilosDeSerie, UnoYDosHilosDanLosMismosBytes)
 {
     SerieAlAzar uno(GetParam()), dos(GetParam());
-    EXPECT_EQ(CorreSeriePDR(uno.s, 1), CorreSeriePDR(dos.s, 2));
+    std::mutex candado;
+    std::map<int, model::Resultados> vistas;
+    const auto mira = [&](int numero, const Calculo* calculo) {
+        const std::scoped_lock aLaVez(candado);
+        if (calculo == nullptr)
+            vistas.erase(numero);
+        else
+            EXPECT_TRUE(vistas.emplace(numero, calculo->Resultados).second) << numero;
+    };
+    EXPECT_EQ(CorreSeriePDR(uno.s, 1), CorreSeriePDR(dos.s, 2, mira));
     const std::string tabla = "/trabajo/SaleTablasQDRs_tem.txt";
     ASSERT_EQ(uno.disco.Esta(tabla), dos.disco.Esta(tabla));
     if (uno.disco.Esta(tabla)) {
@@ -146,6 +157,14 @@ TEST_P(HilosDeSerie, UnoYDosHilosDanLosMismosBytes)
     EXPECT_EQ(uno.s.Resultados.VolSale, dos.s.Resultados.VolSale);
     EXPECT_EQ(uno.s.Serie.IndSerie, dos.s.Serie.IndSerie);
     EXPECT_TRUE(apoyo::MismoTexto(uno.s.Control.TextoPizarra, dos.s.Control.TextoPizarra));
+    // What was seen of a storm is what the series keeps of it.
+    for (const auto& [numero, vista] : vistas) {
+        model::Resultados r = dos.s.Resultados;
+        r.TraeTormenta(vista, 1, numero);
+        EXPECT_EQ(r.QMax, dos.s.Resultados.QMax) << numero;
+        EXPECT_EQ(r.EscUEH, dos.s.Resultados.EscUEH) << numero;
+        EXPECT_EQ(r.CoefEscTotal, dos.s.Resultados.CoefEscTotal) << numero;
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Proyectos, HilosDeSerie, testing::Range(1U, 201U));
