@@ -77,20 +77,22 @@ struct Infiltracion {
     }
 };
 
-/// Flow [m3/s] of the excess E [mm] of a step [min] on an area [ha]. Throws
-/// Falla 6, 11.
-inline float CaudalDelExceso(float E, std::int16_t PasoPp, float Area)
+/// Flow [m3/s, 64 bits] of the excess E [mm] of a step [min] on an area [ha].
+/// Throws Falla 11.
+inline double CaudalDelExceso(float E, std::int16_t PasoPp, float Area)
 {
-    return model::Simple(model::Cociente(E, PasoPp) * FactorCaudal * Area);
+    return model::Cociente(E, PasoPp) * FactorCaudal * Area;
 }
 
 /// What comes to the foot of a slope t minutes after a flow without end began
 /// to fall on it, as long as t is below the travel time T [min]: a line up to
-/// that flow [m3/s, 64 bits]. Throws Falla 11.
-inline double SubidaDeLadera(float caudal, std::int16_t T, double t)
-{
-    return model::Cociente(caudal, T) * t;
-}
+/// that flow. Throws Falla 11.
+struct SubidaDeLadera {
+    double pendiente;  ///< [m3/s per min]
+
+    SubidaDeLadera(float caudal, std::int16_t T) : pendiente(model::Cociente(caudal, T)) {}
+    double operator()(double t) const { return pendiente * t; }  ///< [m3/s, 64 bits]
+};
 
 /// Share of the base flow that is left after some minutes; K in hours. Throws
 /// Falla 5, 6, 11.

@@ -55,10 +55,9 @@ int PuntosDelTrapecio(const model::Pasos& pasos, int T)
 /// Translation on one slope. What an endless rain would bring to its foot rises for T minutes and then stays;
 /// the excess of one model step brings that curve less the same curve a model step later: a trapezoid.
 struct Ladera {
-    std::int16_t T = 0;        ///< travel time [min]
-    int puntos = 0;            ///< output steps that the trapezoid lasts
-    int subida = 0;            ///< of these, the ones in which the curve still rises
-    std::vector<float> curva;  ///< room for the curve, behind a model step of zeros
+    std::int16_t T = 0;  ///< travel time [min]
+    int puntos = 0;      ///< output steps that the trapezoid lasts
+    int subida = 0;      ///< of these, the ones in which the curve still rises
 };
 
 bool UEHModerada(const Corrida& c, const UEH& u)
@@ -126,10 +125,13 @@ void CaudalesDelExceso(Corrida& c, int i, std::span<float> caudales, std::span<R
         Retiene(Pp, restante, R);
         const float N = Pp - R;
         const float I = N != 0 ? LaminaInfiltrada(tabla, reloj++) : 0;
-        const float E = N > I ? N - I : 0;
-        caudales[k] = CaudalDelExceso(E, s.Pasos.PasoPp, u.Area);
-        if (!renglones.empty()) renglones[k] = {Pp, R, I, caudales[k]};
+        caudales[k] = N > I ? N - I : 0;  // the excess
+        if (!renglones.empty()) renglones[k] = {Pp, R, I, 0};
     }
+    for (float& caudal : caudales)
+        caudal = static_cast<float>(CaudalDelExceso(caudal, s.Pasos.PasoPp, u.Area));
+    for (std::size_t k = 1; k < caudales.size() && !renglones.empty(); ++k)
+        renglones[k].CaudalPp = caudales[k];
     c.RetencionRestante(i) = restante;
     s.Resultados.PasosInfiltra(i) = static_cast<float>(reloj);
 }
@@ -140,20 +142,65 @@ Ladera PreparaLadera(const Corrida& c, const UEH& u)
     l.T = static_cast<std::int16_t>(TiempoDeLadera(u));
     l.puntos = PuntosDelTrapecio(c.s.Pasos, l.T);
     l.subida = l.T > 0 ? std::min((l.T - 1) / c.s.Pasos.PasoQ, l.puntos) : 0;
-    l.curva.resize(static_cast<std::size_t>(c.RelacionPasos) + static_cast<std::size_t>(l.puntos) + 1);
     return l;
 }
 
-/// Adds the trapezoid of one step to the hydrograph; `q` stands one point before the first.
-void SumaTrapecio(const Corrida& c, Ladera& l, float caudal, float* __restrict q)
+/// Room for the trapezoids of all model steps, by step from 0.
+struct Trapecios {
+    std::vector<SubidaDeLadera> sube{};
+    std::vector<double> curva{};  ///< the curve at the point in hand, a 32-bit value
+    std::vector<float> suma{};    ///< the hydrograph at the points of one place within the model step
+};
+
+/// Hands `usa` the height of all curves at point j, by model step.
+void EnElPunto(const Ladera& l, double minutos, std::span<const float> caudales, const SubidaDeLadera* sube,
+               int j, auto usa)
 {
-    const float* __restrict antes = l.curva.data();  // the curve a model step before
-    float* __restrict curva = l.curva.data() + c.RelacionPasos;
-    for (int j = 1; j <= l.subida; ++j)
-        curva[j] = static_cast<float>(SubidaDeLadera(caudal, l.T, j * c.s.Pasos.PasoQ));
-    std::fill(curva + l.subida + 1, curva + l.puntos + 1, caudal);
-    for (int j = 1; j <= l.puntos; ++j)
-        q[j] = static_cast<float>(double{q[j]} + curva[j] - antes[j]);
+    if (j < 1) return usa([](std::size_t) { return 0.0; });
+    if (j > l.subida) return usa([=](std::size_t k) { return double{caudales[k]}; });
+    usa([=](std::size_t k) { return double{static_cast<float>(sube[k](minutos))}; });
+}
+
+/// Adds the trapezoids of all model steps to the output steps 0..ultimo of the hydrograph `q`. A point of a
+/// trapezoid falls upon another output step in each model step, so that it is worked out for all of them at
+/// once; from the last point to the first, since an output step gets its flows in the order of the model
+/// steps.
+void SumaTrapecios(const Corrida& c, const Ladera& l, std::span<const float> caudales, Trapecios& lugar,
+                   float* q, int ultimo)
+{
+    const int R = c.RelacionPasos;
+    const std::size_t n = caudales.size();
+    lugar.sube.assign(n, {0, 1});
+    for (std::size_t k = 0; l.subida > 0 && k < n; ++k)
+        lugar.sube[k] = {caudales[k], l.T};
+    lugar.curva.resize(n);
+    lugar.suma.resize(n + static_cast<std::size_t>(l.puntos / R) + 1);
+    double* __restrict curva = lugar.curva.data();
+    const auto enElPunto = [&](int j, auto usa) {
+        EnElPunto(l, double{1} * j * c.s.Pasos.PasoQ, caudales, lugar.sube.data(), j, usa);
+    };
+    for (int sitio = 0; sitio < R; ++sitio) {
+        const int cuantos = std::min((ultimo - sitio + R) / R, static_cast<int>(lugar.suma.size()));
+        for (int m = 0; m < cuantos; ++m)
+            lugar.suma[static_cast<std::size_t>(m)] = q[sitio + m * R];
+        int j = l.puntos - (l.puntos - sitio) % R;
+        enElPunto(j, [&](auto altura) {
+            for (std::size_t k = 0; k < n; ++k)
+                curva[k] = altura(k);
+        });
+        for (; j >= 1; j -= R) {
+            float* __restrict suma = lugar.suma.data() + j / R;
+            enElPunto(j - R, [&](auto altura) {
+                for (std::size_t k = 0; k < n; ++k) {
+                    const double antes = altura(k);  // the curve a model step before
+                    suma[k] = static_cast<float>(suma[k] + curva[k] - antes);
+                    curva[k] = antes;
+                }
+            });
+        }
+        for (int m = 0; m < cuantos; ++m)
+            q[sitio + m * R] = lugar.suma[static_cast<std::size_t>(m)];
+    }
 }
 
 /// Rain of all steps where every UEH gets the same: worked out for the first, copied to the others.
@@ -224,11 +271,10 @@ bool PasosRapidos(Corrida& c)
     }
     if (const int ultimo = UltimoPasoQ(c, laderas, caudales); ultimo != s.Resultados.NroPasosQ)
         Alarga(c, static_cast<std::int16_t>(ultimo));
-    for (std::size_t u = 0; u < laderas.size(); ++u) {
-        float* q = s.Resultados.QSale.Fila(static_cast<int>(u) + 1);
-        for (std::size_t k = 1; k < caudales[u].size(); ++k, q += c.RelacionPasos)
-            if (caudales[u][k] != 0) SumaTrapecio(c, laderas[u], caudales[u][k], q);
-    }
+    Trapecios lugar;
+    for (std::size_t u = 0; u < laderas.size(); ++u)
+        SumaTrapecios(c, laderas[u], std::span(caudales[u]).subspan(1), lugar,
+                      s.Resultados.QSale.Fila(static_cast<int>(u) + 1), s.Resultados.NroPasosQ + 1);
     if (!s.Control.SalidaPizarra) return true;
     for (std::size_t k = 1; k < pasos; ++k)
         for (std::size_t u = 0; u < laderas.size(); ++u)

@@ -75,10 +75,10 @@ void Infiltra(Corrida& c, int i, Paso& v)
 void PuntoDelTrapecio(Corrida& c, std::int16_t k, int i, Paso& v)
 {
     Siro& s = c.s;
-    c.Intenta([&] { v.A = v.T <= v.tj ? v.CaudalPp : Simple(SubidaDeLadera(v.CaudalPp, v.T, v.tj)); });
+    c.Intenta([&] { v.A = v.T <= v.tj ? v.CaudalPp : Simple(SubidaDeLadera(v.CaudalPp, v.T)(v.tj)); });
     c.Intenta([&] {
         const int desdeElFin = v.tj - s.Pasos.PasoPp;
-        v.B = desdeElFin <= 0 ? 0 : Simple(SubidaDeLadera(v.CaudalPp, v.T, model::Entero16(desdeElFin)));
+        v.B = desdeElFin <= 0 ? 0 : Simple(SubidaDeLadera(v.CaudalPp, v.T)(model::Entero16(desdeElFin)));
     });
     c.Intenta([&] { v.p = model::Entero16(Suma16(Producto16(k, c.RelacionPasos), v.j) - c.RelacionPasos); });
     if (c.Vale([&] { return v.p > Suma16(s.Resultados.NroPasosQ, 1); })) Alarga(c, v.p);
@@ -120,7 +120,7 @@ void PasoDeUEH(Corrida& c, std::int16_t k, int i, Paso& v)
         c.Intenta([&] { v.E = Simple(double{v.N} - v.I); });
     else
         v.E = 0;
-    c.Intenta([&] { v.CaudalPp = CaudalDelExceso(v.E, s.Pasos.PasoPp, s.Red.UEHs(i).Area); });
+    c.Intenta([&] { v.CaudalPp = Simple(CaudalDelExceso(v.E, s.Pasos.PasoPp, s.Red.UEHs(i).Area)); });
     EscribePaso(c, k, i, v);
     if (v.CaudalPp != 0) Traslada(c, k, i, v);
 }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <algorithm>
 #include <array>
-#include <limits>
 #include <vector>
 
 #include "engine/Piscina.h"
@@ -47,35 +46,50 @@ class Curvas {
     int filaS = 0, filaQ = 0;
 };
 
-/// Bisections with what the one before worked out: what a midpoint gives doesn't change with time, so that
-/// only those that leave its way are new.
+/// Bisections that go on where their way leaves that of the one before: what a midpoint gives doesn't change
+/// with time.
 class PorCamino {
   public:
     PorCamino(const EmbalseEnMano& embalse, Curvas& lasCurvas, const Nodo& nodo)
         : e(embalse), curvas(lasCurvas), inicial(nodo)
     {
-        camino.fill({.h = std::numeric_limits<float>::quiet_NaN()});
     }
-    PorCamino(const PorCamino&) = delete;
-    PorCamino& operator=(const PorCamino&) = delete;
-    const Nodo& operator()(float W)
+    Nodo operator()(float W)
     {
-        std::size_t nivel = 0;
-        BisecaPiscina(e, curvas.Rango(), W, [&](float h) {
-            Nodo& medio = camino[nivel++ % camino.size()];
-            if (medio.h != h) medio = curvas.En(h);
-            ultimo = &medio;
+        std::size_t n = 0;
+        while (n < hondo && (camino[n].medio.u > W) == camino[n].encima)
+            ++n;
+        hydraulics::RangoAlturas queda = n > 0 ? camino[n - 1].queda : curvas.Rango();
+        Nodo medio = n > 0 ? camino[n - 1].medio : inicial;
+        const auto sigue = [&] {
+            const bool encima = medio.u > W;
+            (encima ? queda.maximo : queda.minimo) = medio.h;
+            if (n < camino.size()) camino[n++] = {medio, encima, queda};
+        };
+        if (n < hondo) {
+            medio = camino[n].medio;
+            sigue();
+        }
+        BisecaPiscina(e, queda, W, [&](float h) {
+            medio = curvas.En(h);
+            sigue();
             return medio.u;
         });
-        return *ultimo;
+        hondo = n;
+        return medio;
     }
 
   private:
+    struct Vuelta {
+        Nodo medio{};
+        bool encima = false;               ///< it is above the target
+        hydraulics::RangoAlturas queda{};  ///< the bracket that it leaves
+    };
     const EmbalseEnMano& e;
     Curvas& curvas;
     Nodo inicial;
-    std::array<Nodo, 32> camino{};  ///< of the bisection in hand and, deeper, of the one before
-    const Nodo* ultimo = &inicial;
+    std::array<Vuelta, 32> camino{};  ///< of the last bisection, as far as there is room for it
+    std::size_t hondo = 0;            ///< rounds in it
 };
 
 /// Bisections looked up among all midpoints, worked out beforehand: U rises with them, so that a walk from

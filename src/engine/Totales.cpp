@@ -19,19 +19,27 @@ float Mayor(const float* fila, int desde, int hasta)
     return std::bit_cast<float>(mayor);
 }
 
-float MayorAbsoluto(const float* fila, int desde, int hasta)
+namespace {
+
+constexpr std::uint32_t SinSigno = 0x7FFFFFFF;
+
+/// Has its highest bit set where |x| isn't below `limite`, a number above 0; a NaN isn't.
+std::uint32_t Llega(float x, float limite)
 {
-    constexpr std::int32_t SinSigno = 0x7FFFFFFF;
-    std::int32_t mayor = 0;
-    for (int p = desde; p <= hasta; ++p)
-        mayor = std::max(mayor, std::bit_cast<std::int32_t>(fila[p]) & SinSigno);
-    return std::bit_cast<float>(mayor);
+    return (std::bit_cast<std::uint32_t>(x) & SinSigno) +
+           (SinSigno + 1 - std::bit_cast<std::uint32_t>(limite));
 }
+
+}  // namespace
 
 bool VolumenSeguro(const float* fila, int pasos, std::int16_t PasoQ)
 {
-    constexpr double Tope = 1e37;
-    return (pasos + 1.0) * PasoQ * 60 * MayorAbsoluto(fila, 0, pasos) < Tope;
+    constexpr float Tope = 1e36F;
+    const float limite = Tope / (static_cast<float>(pasos + 1) * static_cast<float>(PasoQ) * 60);
+    std::uint32_t llega = 0;
+    for (int p = 0; p <= pasos; ++p)
+        llega |= Llega(fila[p], limite);
+    return llega <= SinSigno;
 }
 
 void SumaVolumenes(std::span<const float* const> filas, Tramo tramo, std::int16_t PasoQ,
@@ -54,8 +62,10 @@ void SumaVolumenes(std::span<const float* const> filas, Tramo tramo, std::int16_
 bool SumaFila(float* destino, const float* sumando, int pasos)
 {
     constexpr float Moderado = 1e36F;  // a few hundred such flows still add up to a 32-bit float
-    if (!(MayorAbsoluto(destino, 1, pasos) < Moderado && MayorAbsoluto(sumando, 1, pasos) < Moderado))
-        return false;
+    std::uint32_t llega = 0;
+    for (int p = 1; p <= pasos; ++p)
+        llega |= Llega(destino[p], Moderado) | Llega(sumando[p], Moderado);
+    if (llega > SinSigno) return false;
     float* __restrict d = destino;
     const float* __restrict q = sumando;
     for (int p = 1; p <= pasos; ++p)

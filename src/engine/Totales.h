@@ -16,9 +16,6 @@ struct Tramo {
 /// The greatest of row[desde..hasta]; 0 where none is above 0.
 float Mayor(const float* fila, int desde, int hasta);
 
-/// The greatest absolute value of row[desde..hasta].
-float MayorAbsoluto(const float* fila, int desde, int hasta);
-
 /// A volume [m3] and that of one more step of the flow Q [m3/s], 64 bits.
 inline double SumaVolumen(float volumen, float Q, std::int16_t PasoQ)
 {

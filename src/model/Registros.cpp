@@ -165,11 +165,10 @@ EscritorRegistros& EscritorRegistros::Vacio()
 
 void EscritorRegistros::FinRegistro()
 {
-    const std::string completo = std::exchange(registro, {});
     primero = true;
+    if (abierto) pendiente.append(registro).append(SaltoLinea);
+    registro.clear();
     if (!abierto) throw Falla{causa};
-    pendiente += completo;
-    pendiente += SaltoLinea;
     if (salida == Salida::PorPiezas && pendiente.size() >= Pieza)
         disco.Agrega(ruta, std::exchange(pendiente, {}));
 }

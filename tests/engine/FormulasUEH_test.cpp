@@ -60,15 +60,15 @@ TEST(FormulasUEH, UnaInfiltracionNegativaEsCeroYUnaBaseNegativaEsFalla)
 // 20 mm in 10 min on 6 ha: 2 mm/min times 0.166667 times 6.
 TEST(FormulasUEH, ElExcesoEnCaudal)
 {
-    EXPECT_FLOAT_EQ(CaudalDelExceso(20, 10, 6), 2.000004F);
+    EXPECT_FLOAT_EQ(static_cast<float>(CaudalDelExceso(20, 10, 6)), 2.000004F);
     EXPECT_THROW(CaudalDelExceso(20, 0, 6), model::Falla);
 }
 
 TEST(FormulasUEH, LaLaderaSubeEnLineaRecta)
 {
-    EXPECT_EQ(SubidaDeLadera(12, 30, 0), 0);
-    EXPECT_EQ(SubidaDeLadera(12, 30, 10), 4);
-    EXPECT_THROW(SubidaDeLadera(12, 0, -5), model::Falla);
+    EXPECT_EQ(SubidaDeLadera(12, 30)(0), 0);
+    EXPECT_EQ(SubidaDeLadera(12, 30)(10), 4);
+    EXPECT_THROW(SubidaDeLadera(12, 0), model::Falla);
 }
 
 TEST(FormulasUEH, ElAbatimientoLlegaASuBaseAlCaboDeK)
