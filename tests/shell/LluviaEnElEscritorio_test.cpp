@@ -96,18 +96,29 @@ class LluviaEnElEscritorio : public EscritorioDePrueba {
         argumentos.insert(argumentos.begin() + 1, {instalacion.Quelmar(), "--trabajo", Copia()});
         return e2e::Lote(argumentos, "/");
     }
+    /// The hash of the window's last run is the one that the run without windows tells.
+    void ComparaHuella(const e2e::Salida& lote)
+    {
+        JuicioDeCorrida& juicio = escritorio.Estudio().Juicio();
+        ASSERT_TRUE(Espera([&] { return !juicio.EnCurso() && juicio.Ultima() != nullptr; }));
+        EXPECT_EQ(juicio.Ultima()->huella.size(), 64U);
+        EXPECT_NE(lote.estandar.find("\nhuella " + juicio.Ultima()->huella + "\n"), std::string::npos)
+            << juicio.Ultima()->huella << "\n"
+            << lote.estandar.substr(lote.estandar.rfind("\nhuella ") + 1);
+    }
     /// Runs from the menu with the Slate on, then the same without windows, and compares what both wrote.
     void CorreYCompara(const Textos& argumentos)
     {
         Accion("mnuPizarra1").trigger();
         Accion("mnuCorre1").trigger();
-        Textos una = {"una", "--pizarra"};
+        Textos una = {"una", "--pizarra", "--avisos"};
         una.insert(una.end(), argumentos.begin(), argumentos.end());
         const e2e::Salida salida = Lote(una);
         ASSERT_EQ(salida.estado, 0) << salida.errores;
         const std::string texto = BytesDeArchivo(instalacion.Dir() + "/SalePizarra1_tem.txt");
         EXPECT_GT(texto.size(), 10000U);
         EXPECT_TRUE(MismoTexto(SinHora(BytesDeArchivo(Copia() + "/SalePizarra1_tem.txt")), SinHora(texto)));
+        ComparaHuella(salida);
     }
 
     std::unique_ptr<apoyo::Usuario> usuario = std::make_unique<apoyo::Usuario>();
@@ -199,11 +210,12 @@ TEST_F(LluviaEnElEscritorio, UnaSerieDeTablaPersonalCorreComoLaDeSiroLote)
     Accion("mnufrmPp").trigger();
     EXPECT_EQ(escritorio.s.Serie.NroSeriePDR, 3);
     Accion("mnuCorre2").trigger();
-    const e2e::Salida salida = Lote({"serie", "--tabla", "1"});
+    const e2e::Salida salida = Lote({"serie", "--tabla", "1", "--avisos"});
     ASSERT_EQ(salida.estado, 0) << salida.errores;
     const std::string texto = BytesDeArchivo(instalacion.Dir() + "/SaleTablasQDRs_tem.txt");
     EXPECT_GT(texto.size(), 500U);
     EXPECT_TRUE(MismoTexto(SinHora(BytesDeArchivo(Copia() + "/SaleTablasQDRs_tem.txt")), SinHora(texto)));
+    ComparaHuella(salida);
 }
 
 // The first row of the delivered table: 14 mm in 10 min, 2 years.

@@ -135,6 +135,9 @@ TEST_F(Pantallas, LaVentanaPrincipalYLasQueEstanEnElla)
     Accion("mnuPizarra1").trigger();
     Revisa(apoyo::Control<QWidget>(escritorio.Principal(), "frmPp"));
     EnLaPrincipal(Ventana::Avisos, "dlgAvisos");
+    ASSERT_TRUE(Espera([&] { return !escritorio.Estudio().Juicio().EnCurso(); }));
+    EnLaPrincipal(Ventana::Resumen, "dlgResumen");
+    EnLaPrincipal(Ventana::Comparar, "dlgComparar");
     EnLaPrincipal(Ventana::dlgChart3, "dlgChart3");
     EnLaPrincipal(Ventana::dlgTablaSalePDR, "dlgTablaSalePDR");
     EnLaPrincipal(Ventana::dlgTablaSalePDR2, "dlgTablaSalePDR2");
