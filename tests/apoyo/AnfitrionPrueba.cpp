@@ -6,7 +6,9 @@
 #include <algorithm>
 #include <array>
 #include <ostream>
+#include <string_view>
 
+#include "model/Disco.h"
 #include "model/Falla.h"
 
 namespace model {
@@ -58,28 +60,54 @@ T Saca(std::deque<T>& cola, T siEstaVacia)
     return primero;
 }
 
+/// What is said, with the paths that begin as a test tells them written through as it tells them: behind its
+/// slash the program has put the separator of the system.
+std::string ConBarras(std::string texto)
+{
+    if (model::Separador == '/') return texto;
+    bool enRuta = false;
+    char antes = ' ';
+    for (char& c : texto) {
+        if (c == '/' && std::string_view(" \"<(|").find(antes) != std::string_view::npos) enRuta = true;
+        if (std::string_view("\r\n\"<>|").find(c) != std::string_view::npos) enRuta = false;
+        if (enRuta && c == model::Separador) c = '/';
+        antes = c;
+    }
+    return texto;
+}
+
+model::Mensaje ConBarras(model::Mensaje m)
+{
+    m.texto = ConBarras(m.texto);
+    m.titulo = ConBarras(m.titulo);
+    return m;
+}
+
 void ConectaPreguntas(model::Anfitrion& a, const std::shared_ptr<Estado>& e)
 {
-    a.Avisa = [e](const model::Mensaje& m) { e->sucesos.push_back({Suceso::Clase::Aviso, m, {}}); };
+    a.Avisa = [e](const model::Mensaje& m) {
+        e->sucesos.push_back({Suceso::Clase::Aviso, ConBarras(m), {}});
+    };
     a.Pregunta = [e](const model::Mensaje& m) {
         const bool si = Saca(e->respuestas, e->respuestaDeSiempre);
-        e->sucesos.push_back({Suceso::Clase::Pregunta, m, si ? "Sí" : "No"});
+        e->sucesos.push_back({Suceso::Clase::Pregunta, ConBarras(m), si ? "Sí" : "No"});
         return si;
     };
     a.Confirma = [e](const model::Mensaje& m) {
         const bool acepta = Saca(e->respuestas, e->respuestaDeSiempre);
-        e->sucesos.push_back({Suceso::Clase::Confirmacion, m, acepta ? "Aceptar" : "Cancelar"});
+        e->sucesos.push_back({Suceso::Clase::Confirmacion, ConBarras(m), acepta ? "Aceptar" : "Cancelar"});
         return acepta;
     };
     a.PideResguardo = [e](const model::Mensaje& m) {
         constexpr std::array<const char*, 3> Respuestas = {"Guardar", "Seguir sin guardar", "Cancelar"};
         const model::Resguardo elegido = Saca(e->resguardos, model::Resguardo::Cancelar);
-        e->sucesos.push_back({Suceso::Clase::Resguardo, m, Respuestas[static_cast<std::size_t>(elegido)]});
+        e->sucesos.push_back(
+            {Suceso::Clase::Resguardo, ConBarras(m), Respuestas[static_cast<std::size_t>(elegido)]});
         return elegido;
     };
     a.PideTexto = [e](const model::Peticion& p) {
         std::string texto = Saca(e->textos, e->aceptaDefecto ? p.defecto : std::string{});
-        e->sucesos.push_back({Suceso::Clase::Peticion, {p.texto, p.titulo}, texto});
+        e->sucesos.push_back({Suceso::Clase::Peticion, ConBarras(model::Mensaje{p.texto, p.titulo}), texto});
         return texto;
     };
     a.EligeArchivo = [e](std::string_view titulo, std::string_view filtro) {
@@ -144,11 +172,11 @@ model::Anfitrion AnfitrionPrueba::Puerta() const
     a.HabilitaGuardarComo = [e] { ++e->guardarComoHabilitado; };
     a.HabilitaVerificacion = [e] { ++e->verificacionHabilitada; };
     a.ReclamaProyecto = [e](const std::string& conf) {
-        e->reclamados.push_back(conf);
+        e->reclamados.push_back(ConBarras(conf));
         return e->ocupante;
     };
     a.TiraAPapelera = [e](const std::string& ruta) {
-        if (e->hayPapelera) e->tirados.push_back(ruta);
+        if (e->hayPapelera) e->tirados.push_back(ConBarras(ruta));
         return e->hayPapelera;
     };
     a.RedibujaEditor = [e] { ++e->redibujos; };

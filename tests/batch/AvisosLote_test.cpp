@@ -55,12 +55,13 @@ bool Contiene(const std::string& texto, std::string_view trozo)
 
 TEST_F(AvisosLote, SinPedirlosNoCambiaUnByte)
 {
-    const Respuesta sin = Corre("una", {"--pizarra", "--resultados", proyecto.Ruta("sin.csv")});
-    const Respuesta con = Corre("una", {"--pizarra", "--resultados", proyecto.Ruta("con.csv"), "--avisos"});
+    const Respuesta sin = Corre("una", {"--pizarra", "--resultados", proyecto.Ruta("callada.csv")});
+    const Respuesta con =
+        Corre("una", {"--pizarra", "--resultados", proyecto.Ruta("avisada.csv"), "--avisos"});
     EXPECT_EQ(con.estado, sin.estado);
     EXPECT_EQ(con.errores, sin.errores);
     EXPECT_FALSE(Contiene(sin.estandar, "huella"));
-    EXPECT_EQ(proyecto.Lee("con.csv"), proyecto.Lee("sin.csv"));
+    EXPECT_EQ(proyecto.Lee("avisada.csv"), proyecto.Lee("callada.csv"));
     // the Slate's heading tells the time of day: as long, and all else behind it
     ASSERT_GT(con.estandar.size(), sin.estandar.size());
     EXPECT_TRUE(Contiene(con.estandar.substr(sin.estandar.size()), "error 103 l-1: "));

@@ -364,7 +364,7 @@ TEST_F(CorridaLote, ConPizarraSuTextoSaleUnaVezConCrLf)
     const Respuesta r = Una({"--pizarra"});
     EXPECT_EQ(r.estado, 0);
     EXPECT_TRUE(
-        r.estandar.starts_with("SIRO - Modelo de Simulación Hidrológica\r\n" + proyecto.Dir() + "/Mio\r\n"))
+        r.estandar.starts_with("SIRO - Modelo de Simulación Hidrológica\r\n" + proyecto.Ruta("Mio") + "\r\n"))
         << r.estandar.substr(0, 200);
     EXPECT_TRUE(Contiene(r.estandar, "Entrada: PRECIPITACION"));
     EXPECT_TRUE(Contiene(r.estandar, "II- SIMULACION EN COMPONENTES RESTANTES"));

@@ -8,6 +8,7 @@
 #include "model/ArchivoConf.h"
 #include "model/Componentes.h"
 #include "model/Configuracion.h"
+#include "model/RutaProyecto.h"
 #include "model/Siro.h"
 
 // Small networks of UEHs and reaches whose results can be worked out by hand.
@@ -24,6 +25,7 @@ class RedDeUEHs {
         s.Disco = disco.Puerta();
         s.Proyecto.DirTrabajo = "/trabajo";
         s.Proyecto.DirProyecto = "/proyectos";
+        s.frmConfigura.Drive1 = model::UnidadDe("/proyectos");
         s.Proyecto.NombreProyecto = "Prueba";
         disco.PonDirectorio("/trabajo");
         disco.PonDirectorio("/proyectos");

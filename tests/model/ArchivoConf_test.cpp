@@ -14,6 +14,7 @@
 #include "ProyectoDePrueba.h"
 #include "apoyo/Compara.h"
 #include "model/Falla.h"
+#include "model/RutaProyecto.h"
 #include "model/Siro.h"
 
 using namespace model;
@@ -59,7 +60,7 @@ Renglones Ejemplo()
                 "\"Subcuenca\"",
                 "\"Operador\"",
                 "\"03/04/2011\"",
-                "\"\"",
+                "\"" + UnidadDe("/proy") + "\"",
                 "\"/proy\"",
                 "\"nuevo\"",
                 "1",
@@ -152,7 +153,7 @@ TEST_F(ConfiguracionEnDisco, CadaCampoLlegaASuVariable)
     EXPECT_EQ(s.Configuracion.Cuenca, "Cuenca");
     EXPECT_EQ(s.Configuracion.Subcuenca, "Subcuenca");
     EXPECT_EQ(s.Configuracion.Operador, "Operador");
-    EXPECT_EQ(s.Proyecto.DriveProyecto, "");
+    EXPECT_EQ(s.Proyecto.DriveProyecto, UnidadDe("/proy"));
     EXPECT_EQ(s.Proyecto.DirProyectoConf, "/proy");
     EXPECT_EQ(s.Proyecto.DirProyecto, "/proy");
     EXPECT_EQ(s.Configuracion.ArchivoImagen, "/proy/mapa.bmp");
@@ -176,6 +177,7 @@ TEST_F(ConfiguracionEnDisco, CadaCampoLlegaASuControl)
     c.TextSbca = "Subcuenca";
     c.TextOpera = "Operador";
     c.txtFecha = "03/04/2011";
+    c.Drive1 = UnidadDe("/proy");
     c.Dir1 = "/proy";
     c.TextDirNv = "nuevo";
     c.CheckDistriPp = 1;
@@ -244,13 +246,13 @@ TEST_F(ConfiguracionEnDisco, ElNombreDentroDelArchivoRigeDesdeAhi)
     EXPECT_EQ(s.Proyecto.NombreProyecto, "Otro");
     leoConf(s);  // now /proy/Otro_Conf.vlm, which isn't there
     EXPECT_EQ(Avisos(), Cajas{CajaNoEsta});
-    EXPECT_EQ(s.Proyecto.ArchivoTemp, "/proy/Otro_Conf.vlm");
+    EXPECT_EQ(s.Proyecto.ArchivoTemp, Ruta("/proy", "Otro_Conf.vlm"));
 }
 
 TEST_F(ConfiguracionEnDisco, ArchivoTempEsLaRutaDelArchivoLeido)
 {
     Lee(Ejemplo());
-    EXPECT_EQ(s.Proyecto.ArchivoTemp, "/proy/Arroyo_Conf.vlm");
+    EXPECT_EQ(s.Proyecto.ArchivoTemp, Ruta("/proy", "Arroyo_Conf.vlm"));
 }
 
 TEST_F(ConfiguracionEnDisco, ComaYFinDeRenglonValenLoMismo)
@@ -760,6 +762,7 @@ TEST_F(ConfiguracionEnDisco, AplicarEscribeLos59CamposDeLosControles)
     c.TextSbca = "Subcuenca";
     c.TextOpera = "Operador";
     c.txtFecha = "03/04/2011";
+    c.Drive1 = UnidadDe("/proy");
     c.Dir1 = "/proy";
     c.TextDirNv = "nuevo";
     c.lblMiArchivoConf = "Arroyo_Conf.vlm";
@@ -781,7 +784,7 @@ TEST_F(ConfiguracionEnDisco, AplicarEscribeLos59CamposDeLosControles)
     cmdAplicar(s);
     EXPECT_EQ(disco.Bytes("/proy/Arroyo_Conf.vlm"), Junta(Ejemplo()));
     EXPECT_EQ(Avisos(), Cajas{CajaGuardado("/proy/Arroyo_Conf.vlm")});
-    EXPECT_EQ(s.Proyecto.ArchivoTemp, "/proy/Arroyo_Conf.vlm");
+    EXPECT_EQ(s.Proyecto.ArchivoTemp, Ruta("/proy", "Arroyo_Conf.vlm"));
     EXPECT_EQ(s.Proyecto.DirProyecto, "/proy");
     EXPECT_FALSE(s.Proyecto.ProyectoNuevo);
 }
@@ -850,6 +853,7 @@ ControlesConfigura ControlesAlAzar()
     for (std::string* texto : {&c.TextProyecto, &c.TextUbica, &c.TextCuenca, &c.TextSbca, &c.TextOpera,
                                &c.txtFecha, &c.TextDirNv, &c.lblMiArchivoConf, &c.TexS, &c.txtMaxUEHsPixel})
         *texto = TextoAlAzar();
+    c.Drive1 = UnidadDe("/proy");
     c.Dir1 = "/proy";
     for (std::int16_t* marca : {&c.CheckDistriPp, &c.chkImagenDibujo})
         *marca = *rc::gen::inRange<std::int16_t>(0, 2);

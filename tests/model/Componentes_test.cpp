@@ -134,7 +134,7 @@ TEST_F(Componentes, UnProyectoSinArchivosEsUnaRedVaciaSinAviso)
     EXPECT_EQ(Avisos(), Cajas{});
     EXPECT_EQ(Cuentas(), (std::vector<int>{0, 0, 0, 0}));
     EXPECT_EQ(Tamanos(), (std::vector<int>{0, 0, 0, 0}));
-    EXPECT_EQ(s.Proyecto.ArchivoTemp, "/proy/Arroyo_UEHs.vlm");
+    EXPECT_EQ(s.Proyecto.ArchivoTemp, Ruta("/proy", "Arroyo_UEHs.vlm"));
     EXPECT_EQ(anfitrion->verificacionHabilitada, 0);
 }
 
@@ -304,7 +304,7 @@ TEST_F(Componentes, ElNombreDentroDelArchivoRigeParaLosVertices)
     disco.Pon("/proy/Otro_VerCau.vlm", VerticesDeEjemplo);
     LeeUEHs(s);
     EXPECT_EQ(s.Proyecto.NombreProyecto, "Otro");
-    EXPECT_EQ(s.Proyecto.ArchivoTemp, "/proy/Otro_VerCau.vlm");
+    EXPECT_EQ(s.Proyecto.ArchivoTemp, Ruta("/proy", "Otro_VerCau.vlm"));
     EXPECT_EQ(s.Red.XVertice(2, 3), 9);
 }
 
@@ -548,7 +548,7 @@ TEST_F(Componentes, UnArchivoTruncadoAvisaUnaVezYDejaUnaRedParcial)
     EXPECT_EQ(s.Red.Cauces(2).NombreCauce, "c-2");
     EXPECT_EQ(s.Red.Cauces(2).numVertices, 3);
     EXPECT_EQ(s.Red.Cauces(2).VelMediaCauce, 0);
-    EXPECT_EQ(s.Proyecto.ArchivoTemp, "/proy/Arroyo_UEHs.vlm");
+    EXPECT_EQ(s.Proyecto.ArchivoTemp, Ruta("/proy", "Arroyo_UEHs.vlm"));
 }
 
 TEST_F(Componentes, UnArchivoVacioEstaDanado)
@@ -575,7 +575,7 @@ TEST_F(Componentes, SinDirectorioCadaSentenciaAvisa)
     // The opening, the name, the four counts; then the opening of the vertices.
     EXPECT_EQ(Avisos(), Veces(7, CajaSinRuta));
     EXPECT_EQ(Cuentas(), (std::vector<int>{0, 0, 0, 0}));
-    EXPECT_EQ(s.Proyecto.ArchivoTemp, "/ido/Arroyo_VerCau.vlm");
+    EXPECT_EQ(s.Proyecto.ArchivoTemp, Ruta("/ido", "Arroyo_VerCau.vlm"));
 }
 
 TEST_F(Componentes, ConUnArchivoDeVerticesIlegibleCadaParAvisa)

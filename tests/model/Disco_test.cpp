@@ -131,12 +131,12 @@ TYPED_TEST(ContratoDeDisco, CreaDirectorioUnaSolaVez)
 
 TYPED_TEST(ContratoDeDisco, ListaLosArchivosOrdenadosSinLosDirectorios)
 {
-    for (const char* nombre : {"b_pt.vlm", "A.vlm", "a.vlm", "ñ.vlm", ".oculto"})
+    for (const char* nombre : {"b_pt.vlm", "B.vlm", "a.vlm", "ñ.vlm", ".oculto"})
         this->disco.Escribe(this->En(nombre), "");
     this->disco.CreaDirectorio(this->En("dir"));
     this->disco.Escribe(Ruta(this->En("dir"), "dentro"), "");
     EXPECT_EQ(this->disco.Lista(this->taller.raiz),
-              (std::vector<std::string>{".oculto", "A.vlm", "a.vlm", "b_pt.vlm", "ñ.vlm"}));
+              (std::vector<std::string>{".oculto", "B.vlm", "a.vlm", "b_pt.vlm", "ñ.vlm"}));
     EXPECT_EQ(this->disco.Lista(this->En("dir")), std::vector<std::string>{"dentro"});
 }
 

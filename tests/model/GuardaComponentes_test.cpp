@@ -41,7 +41,7 @@ TEST_F(GuardaComponentes, GuardarUnSoloCauceInformaLaRutaDeLosVertices)
     s.Red.YVertice.Dimensiona(70, 1);
     GuardaRed(s);
     EXPECT_EQ(Avisos(), Cajas{CajaGuardado("/proy/Arroyo_VerCau.vlm")});
-    EXPECT_EQ(s.Proyecto.ArchivoTemp, "/proy/Arroyo_VerCau.vlm");
+    EXPECT_EQ(s.Proyecto.ArchivoTemp, Ruta("/proy", "Arroyo_VerCau.vlm"));
     EXPECT_EQ(Uehs(),
               "\"Arroyo\"\r\n1\r\n"
               "1\r\n\"c-1\"\r\n0\r\n0\r\n\"\"\r\n0\r\n0\r\n1\r\n0\r\n0\r\n#FALSE#\r\n"

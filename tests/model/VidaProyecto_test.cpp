@@ -53,7 +53,7 @@ struct VidaProyecto : ::testing::Test, MundoDeProyecto {
     {
         std::string bytes =
             "\"" + nombre + "\"\r\n\"Arroyo\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n\"01/02/2006\"\r\n";
-        bytes += "\"\"\r\n\"" + directorio + "\"\r\n\"\"\r\n1\r\n\"" + nombre +
+        bytes += "\"" + UnidadDe(directorio) + "\"\r\n\"" + directorio + "\"\r\n\"\"\r\n1\r\n\"" + nombre +
                  "_Conf.vlm\"\r\n0\r\n\"Ninguno\"\r\n";
         bytes += "\"0\"\r\n\"\"\r\n#FALSE#\r\n#FALSE#\r\n#FALSE#\r\n0\r\n0\r\n";
         bytes += "#FALSE#\r\n#FALSE#\r\n#FALSE#\r\n#FALSE#\r\n10\r\n\"800\"\r\n\"0\"\r\n";
@@ -419,7 +419,7 @@ TEST_F(VidaProyecto, NuevoTomaElNombreYNoEscribeArchivosDeProyecto)
     EXPECT_TRUE(s.Proyecto.ProyectoNuevo);
     EXPECT_EQ(s.Proyecto.DirProyecto, Otros) << "the directory of the last project";
     EXPECT_EQ(s.Proyecto.DirProyectoConf, Otros);
-    EXPECT_EQ(disco.Archivos(), Sucesos{Puntero});
+    EXPECT_EQ(disco.Archivos(), Sucesos{"siro/VelmirDir.vlm"});
     EXPECT_EQ(disco.Bytes(Puntero), BytesPuntero(Otros, "Nuevo1"));
 }
 

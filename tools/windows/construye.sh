@@ -69,7 +69,8 @@ portatil=$salida/portatil/$nombre
 rm -rf "$salida/portatil" "$salida/instalado" "$salida/$nombre".*
 cmake --install "$salida" --strip --prefix "$portatil" --component portatil >/dev/null && acompana "$portatil" ||
     muere "The portable folder can't be made"
-(cd "$salida/portatil" && find "$nombre" -exec touch -d @"$(git log -1 --format=%ct)" {} + &&
+fecha=$(git log -1 --format=%ct 2>/dev/null || date +%s)
+(cd "$salida/portatil" && find "$nombre" -exec touch -d "@$fecha" {} + &&
     find "$nombre" -type f | LC_ALL=C sort | zip -9 -X -q "$salida/$nombre.zip" -@) || muere "The archive can't be made"
 
 # Installed: programs in bin/, data in share/siro/, so that a project never lies among the programs.
