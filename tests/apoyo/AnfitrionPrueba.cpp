@@ -10,6 +10,7 @@
 
 #include "model/Disco.h"
 #include "model/Falla.h"
+#include "model/RutaProyecto.h"
 
 namespace model {
 
