@@ -26,7 +26,7 @@ const QColor ColorHecha(0x2e, 0x7d, 0x32), ColorRepetir(0xb2, 0x6a, 0x00);
 
 }  // namespace
 
-Tarjeta::Tarjeta(const QString& nombre, QWidget* padre) : QAbstractButton(padre)
+Tarjeta::Tarjeta(const QString& nombre, QWidget* padre) : QPushButton(padre)
 {
     setObjectName(nombre);
     setFocusPolicy(Qt::StrongFocus);
@@ -114,19 +114,19 @@ void Tarjeta::PintaMarca(QPainter& pintor, const QRectF& lugar) const
 void Tarjeta::keyPressEvent(QKeyEvent* evento)
 {
     if (evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter) return click();
-    QAbstractButton::keyPressEvent(evento);
+    QPushButton::keyPressEvent(evento);
 }
 
 void Tarjeta::enterEvent(QEnterEvent* evento)
 {
     update();
-    QAbstractButton::enterEvent(evento);
+    QPushButton::enterEvent(evento);
 }
 
 void Tarjeta::leaveEvent(QEvent* evento)
 {
     update();
-    QAbstractButton::leaveEvent(evento);
+    QPushButton::leaveEvent(evento);
 }
 
 }  // namespace shell

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QAbstractButton>
+#include <QPushButton>
 #include <cstdint>
 #include <string>
 
@@ -9,7 +9,7 @@ namespace shell {
 
 /// A key with two lines of plain text, cut with an ellipsis where they don't fit and whole in its hint, and a
 /// mark before them. The blank and Enter press it.
-class Tarjeta : public QAbstractButton {
+class Tarjeta : public QPushButton {
   public:
     enum class Marca : std::uint8_t { Ninguna, Hecha, Repetir, Falta };
 

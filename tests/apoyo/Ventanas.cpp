@@ -172,7 +172,8 @@ std::vector<std::string> SinNombre(QWidget& ventana)
             (padre->inherits("QComboBox") || padre->inherits("QAbstractItemView") ||
              padre->inherits("QAbstractSpinBox") || padre->inherits("QComboBoxPrivateContainer") ||
              padre->inherits("QLineEdit") || padre->inherits("QToolBar") || padre->inherits("QMenuBar") ||
-             padre->inherits("QMdiSubWindow") || padre->inherits("QTabBar")))
+             padre->inherits("QMdiSubWindow") || padre->inherits("QTabBar") ||
+             padre->inherits("QDockWidget")))
             continue;
         if (w->objectName().isEmpty() || w->objectName().startsWith(QLatin1String("qt_"))) {
             faltas.push_back(std::string(w->metaObject()->className()) + " without a name");

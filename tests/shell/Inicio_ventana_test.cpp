@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/Inicio_ventana.h"
 
+#include <QAccessible>
 #include <QDialog>
 #include <QLabel>
 #include <QTimer>
@@ -70,8 +71,12 @@ TEST_F(InicioEnPantalla, SinProyectoOfreceAbrirUnoYLaMuestraSeAbreConEnter)
     EXPECT_TRUE(Control<QLabel>(escritorio.Principal(), "inicio_sin_recientes").isVisible());
     EXPECT_FALSE(SeVe("inicio_paso_1"));
     EXPECT_FALSE(SeVe("inicio_reciente_1"));
-    EXPECT_EQ(apoyo::SinNombre(escritorio.Principal()), std::vector<std::string>{});
+    EXPECT_EQ(apoyo::SinNombre(Hoja()), std::vector<std::string>{});
 
+    QAccessibleInterface* const lector = QAccessible::queryAccessibleInterface(&Una("inicio_muestra"));
+    ASSERT_NE(lector, nullptr);
+    EXPECT_EQ(lector->role(), QAccessible::PushButton);
+    EXPECT_EQ(lector->text(QAccessible::Name), QStringLiteral("Abrir el proyecto de muestra"));
     Una("inicio_muestra").setFocus();
     QTest::keyClick(&Una("inicio_muestra"), Qt::Key_Return);
     LlegaADecir("inicio_paso_2", "2. Red, hecho|15 UEHs, 12 cauces, 2 represas, 1 lago");
