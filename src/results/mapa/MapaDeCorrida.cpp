@@ -121,11 +121,11 @@ std::string Lectura(const MapaDeCorrida& f, int componente)
     if (componente < 0 || static_cast<std::size_t>(componente) >= f.red.componentes.size()) return {};
     const ComponenteDelMapa& c = f.red.componentes[static_cast<std::size_t>(componente)];
     if (c.Q.empty()) return c.nombre + "\nsin caudal en esta corrida";
-    std::string texto = c.nombre + "\nQ= " + TextoDeCaudal(c.Caudal(f.paso)) + " m3/s a las " +
-                        TextoDeTiempo(f.paso * f.red.minutos) + " h\nQ máx= " + TextoDeCaudal(c.Pico()) +
-                        " m3/s";
+    std::string texto = c.nombre + "\nQ= " + TextoDeCaudal(c.Caudal(f.paso)) +
+                        " m3/s en t= " + TextoDeTiempo(f.paso * f.red.minutos) +
+                        " h\nQ máx= " + TextoDeCaudal(c.Pico()) + " m3/s";
     if (c.pasoPico > 0)
-        texto.append(" a las ").append(TextoDeTiempo(c.pasoPico * f.red.minutos)).append(" h");
+        texto.append(" en t= ").append(TextoDeTiempo(c.pasoPico * f.red.minutos)).append(" h");
     return texto;
 }
 

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "CorridaDePrueba.h"
+#include "CorridaDelMapa.h"
 
 namespace results {
 namespace {
@@ -57,7 +57,7 @@ TEST(VistaDeMapa, ArrastrarLlevaElDibujo)
 // --- the copy of a run ---
 
 struct CopiaDelMapa : testing::Test {
-    pruebas::CorridaDePrueba corrida{};
+    pruebas::CorridaDelMapa corrida{};
     RedDeCorrida red = CopiaDeCorrida(corrida.red, corrida.pasos, corrida.resultados);
     const ComponenteDelMapa& De(std::string_view nombre)
     {
@@ -197,8 +197,8 @@ TEST_F(ReglasDelMapa, DetenerDejaElPasoDondeEsta)
 TEST_F(ReglasDelMapa, LaLecturaDiceCaudalYPico)
 {
     PonPaso(f, 1);
-    EXPECT_EQ(Lectura(f, Numero("c-1")), "c-1\nQ= 10 m3/s a las 0:10 h\nQ máx= 36 m3/s a las 0:30 h");
-    EXPECT_EQ(Lectura(f, Numero("u-2")), "u-2\nQ= 0 m3/s a las 0:10 h\nQ máx= 0 m3/s");
+    EXPECT_EQ(Lectura(f, Numero("c-1")), "c-1\nQ= 10 m3/s en t= 0:10 h\nQ máx= 36 m3/s en t= 0:30 h");
+    EXPECT_EQ(Lectura(f, Numero("u-2")), "u-2\nQ= 0 m3/s en t= 0:10 h\nQ máx= 0 m3/s");
     EXPECT_EQ(Lectura(f, Numero("l-1")), "l-1\nsin caudal en esta corrida");
     EXPECT_EQ(Lectura(f, -1), "");
     EXPECT_EQ(Lectura(f, 6), "");
@@ -212,7 +212,7 @@ TEST_F(ReglasDelMapa, ElTecladoRecorreLosComponentesEnRueda)
     EXPECT_EQ(f.elegido, 0);
     Recorre(f, 1);
     EXPECT_EQ(f.elegido, 1);
-    EXPECT_EQ(Descripcion(f), "c-2;Q= 9 m3/s a las 0:30 h;Q máx= 9 m3/s a las 0:20 h. 0:30 h   paso 3 de 3");
+    EXPECT_EQ(Descripcion(f), "c-2;Q= 9 m3/s en t= 0:30 h;Q máx= 9 m3/s en t= 0:20 h. 0:30 h   paso 3 de 3");
 }
 
 TEST_F(ReglasDelMapa, LosRotulosDicenLoQueSePide)

@@ -14,7 +14,7 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "CorridaDePrueba.h"
+#include "CorridaDelMapa.h"
 #include "apoyo/Compara.h"
 #include "apoyo/Papel.h"
 #include "apoyo/Ventanas.h"
@@ -88,7 +88,7 @@ struct VentanaDelMapa : testing::Test {
         return apoyo::BytesDeArchivo(carpeta.Ruta(archivo));
     }
 
-    pruebas::CorridaDePrueba corrida{};
+    pruebas::CorridaDelMapa corrida{};
     apoyo::CarpetaTemporal carpeta{};
     apoyo::Mundo mundo{};
     MapaDeCorrida f{};
@@ -156,10 +156,10 @@ TEST_F(VentanaDelMapa, ElPunteroDiceNombreCaudalYPico)
     QTest::mouseMove(&lienzo, {5, 5});
     QTest::mouseMove(&lienzo, Lugar("u-1"));
     EXPECT_TRUE(Espera([] { return QToolTip::isVisible(); }));
-    EXPECT_EQ(DeQ(QToolTip::text()), "u-1\nQ= 2 m3/s a las 0:30 h\nQ máx= 4 m3/s a las 0:20 h");
+    EXPECT_EQ(DeQ(QToolTip::text()), "u-1\nQ= 2 m3/s en t= 0:30 h\nQ máx= 4 m3/s en t= 0:20 h");
     EXPECT_EQ(lienzo.cursor().shape(), Qt::PointingHandCursor);
     QTest::keyClick(&lienzo, Qt::Key_Home);
-    EXPECT_EQ(DeQ(QToolTip::text()), "u-1\nQ= 1 m3/s a las 0:10 h\nQ máx= 4 m3/s a las 0:20 h");
+    EXPECT_EQ(DeQ(QToolTip::text()), "u-1\nQ= 1 m3/s en t= 0:10 h\nQ máx= 4 m3/s en t= 0:20 h");
     QTest::mouseMove(&lienzo, {5, 5});
     EXPECT_EQ(lienzo.cursor().shape(), Qt::ArrowCursor);
 }

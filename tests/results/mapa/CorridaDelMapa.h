@@ -11,8 +11,8 @@
 // A run of three steps written by hand.
 namespace pruebas {
 
-struct CorridaDePrueba {
-    CorridaDePrueba()
+struct CorridaDelMapa {
+    CorridaDelMapa()
     {
         red.XVertice.Dimensiona(model::MaxCauces, model::MaxNroVertices);
         red.YVertice.Dimensiona(model::MaxCauces, model::MaxNroVertices);
