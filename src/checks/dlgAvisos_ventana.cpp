@@ -69,13 +69,23 @@ dlgAvisos_ventana::dlgAvisos_ventana(forms::Entorno& alrededor, dlgAvisos& regis
     dentro->setLayout(pila);
     setWidget(dentro);
     principal.addDockWidget(Qt::BottomDockWidgetArea, this);
-    if (auto* const cierra = findChild<QAbstractButton*>(QStringLiteral("qt_dockwidget_closebutton"))) {
-        cierra->setToolTip(
-            QStringLiteral("Cierra la lista; la tecla de la línea de estado la vuelve a abrir"));
-        cierra->setAccessibleName(QStringLiteral("Cerrar"));
-        cierra->setAccessibleDescription(cierra->toolTip());
-    }
+    NombraBotones();
     hide();
+}
+
+/// Those of the frame, by which it is closed, and which the toolkit names in English.
+void dlgAvisos_ventana::NombraBotones()
+{
+    const auto nombra = [this](const char* suyo, const char* nombre, const char* leyenda) {
+        auto* const boton = findChild<QAbstractButton*>(QLatin1String(suyo));
+        if (boton == nullptr) return;
+        boton->setObjectName(QLatin1String(nombre));
+        boton->setAccessibleName(QString::fromUtf8(leyenda));
+        boton->setToolTip(QString::fromUtf8(leyenda));
+        boton->setAccessibleDescription({});
+    };
+    nombra("qt_dockwidget_closebutton", "cmdCierraAvisos", "Cierra la lista de avisos");
+    nombra("qt_dockwidget_floatbutton", "cmdDesprendeAvisos", "Desprende la lista de avisos");
 }
 
 QWidget* dlgAvisos_ventana::Cabeza()

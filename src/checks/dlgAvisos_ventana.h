@@ -52,6 +52,7 @@ class dlgAvisos_ventana : public QDockWidget, protected forms::Constructor {
 
   private:
     using DeFila = std::optional<Hallazgo> (*)(const dlgAvisos&, std::size_t);
+    void NombraBotones();
     QWidget* Cabeza();
     QWidget* PaginaDeBalance();
     forms::TablaCuadro* TablaDe(std::string_view control, forms::Cuadro& cuadro, DeFila deFila);

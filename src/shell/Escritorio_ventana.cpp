@@ -170,7 +170,9 @@ void Escritorio::PonEstudio()
     avisos.AgregaTiempo = [this](float minutos) {
         const bool puesto = PonTiempoAgregado(configura, s, minutos);
         if (configura.abierta) ventanaConfigura->Muestra();
-        if (puesto) mnuCorre1(principal, s, mandos);
+        if (!puesto) return;
+        hidrograma.abierta = false;  // so that it shows the new run
+        mnuCorre1(principal, s, mandos);
     };
     checks::dlgRevisar_ventana& revisar = ventanasEstudio->VentanaRevisar();
     revisar.DibujoSinGuardar = [this] { return ventanasEditor->SinGuardar(); };

@@ -27,9 +27,11 @@ using e2e::Principal;
 
 // In a window of this size, with the list at its foot.
 constexpr int Ancho = 1100, Alto = 680;
-constexpr int ClaveX = 1010, ClaveY = 666;     // key of the status bar
-constexpr int BotonX = 960, BotonY = 415;      // "Agregar ... y correr de nuevo"
-constexpr int GraficoX = 500, GraficoY = 250;  // the chart, which stands above the list
+constexpr int ClaveX = 1030, ClaveY = 663;     // key of the status bar
+constexpr int BotonX = 988, BotonY = 440;      // "Agregar ... y correr de nuevo"
+constexpr int BalanceX = 150, BalanceY = 470;  // page of the balance
+constexpr int SalidaX = 60, SalidaY = 546;     // its third row, c-1
+constexpr int GraficoX = 400, GraficoY = 300;  // the chart, which stands above the list
 constexpr int Derecho = 3;
 
 /// A hydrograph of the cells that a chart saves.
@@ -43,8 +45,8 @@ struct Hidrograma {
 };
 
 /// u-1 -> c-1, the outlet. 60 mm in 60 min, all of them excess, on 100 ha that they take 60 min to leave: by
-/// the rational formula 0.06/3600·1e6 = 16.667 m3/s from minute 60 on, a sixth of it at minute 10. The reach
-/// brings it 60 min later.
+/// the rational formula 0.06/3600·1e6 = 16.667 m3/s from minute 60 on, and on the way there as much of it as
+/// of the 60 min has gone by. The reach brings it 60 min later.
 class PicoFalso : public e2e::EscritorioDePrueba {
   protected:
     void SetUp() override
@@ -120,10 +122,12 @@ class PicoFalso : public e2e::EscritorioDePrueba {
         GuardaEn("Guardar la tabla como CSV", archivo);
         return Lee(archivo);
     }
-    /// The hydrograph of the component in hand in the list.
-    Hidrograma DelComponente()
+    /// The hydrograph of the outlet, from its row in the balance.
+    Hidrograma DeLaSalida()
     {
         pantalla->Pulsa(ClaveX, ClaveY);
+        pantalla->Pulsa(BalanceX, BalanceY);
+        pantalla->Pulsa(SalidaX, SalidaY);
         pantalla->Teclas({"Menu", "v"});
         const std::string archivo = raiz + "/celdas.csv";
         fs::remove(archivo);
@@ -156,13 +160,14 @@ TEST_F(PicoFalso, DelAvisoALaCorridaQueAlcanza)
 
     const std::string antes = Lista();
     EXPECT_NE(antes.find("1 error"), std::string::npos) << antes;
-    EXPECT_NE(antes.find("\nerror|101|c-1|"), std::string::npos) << antes;
+    EXPECT_NE(antes.find("\nerror|101.0|c-1|"), std::string::npos) << antes;
     EXPECT_NE(antes.find("(ahora 10 min)"), std::string::npos) << antes;
-    // The chart ends at minute 70, when ten minutes of the flood have come through.
-    const Hidrograma corto = DelComponente();
+    // The slope is dry at minute 110, and so long the run is at least: the reach has brought the flood of the
+    // first 50 min by then.
+    const Hidrograma corto = DeLaSalida();
     ASSERT_FALSE(corto.caudales.empty());
     EXPECT_EQ(corto.Pico(), corto.caudales.size() - 1);
-    EXPECT_NEAR(corto.caudales.back(), Racional / 6, 0.01);
+    EXPECT_NEAR(corto.caudales.back(), Racional * 50 / 60, 0.01);
 
     fs::remove(dir + "/SalePizarra1_tem.txt");
     pantalla->Pulsa(ClaveX, ClaveY);
@@ -171,9 +176,9 @@ TEST_F(PicoFalso, DelAvisoALaCorridaQueAlcanza)
     EsperaLaCorrida();
 
     const std::string despues = Lista();
-    EXPECT_EQ(despues.find("|101|"), std::string::npos) << despues;
+    EXPECT_EQ(despues.find("|101.0|"), std::string::npos) << despues;
     EXPECT_NE(despues.find("Sin avisos"), std::string::npos) << despues;
-    const Hidrograma largo = DelComponente();
+    const Hidrograma largo = DeLaSalida();
     ASSERT_FALSE(largo.caudales.empty());
     EXPECT_LT(largo.Pico(), largo.caudales.size() - 1);
     EXPECT_NEAR(largo.caudales[largo.Pico()], Racional, 0.01);

@@ -3,10 +3,12 @@
 
 #include <QAction>
 #include <QClipboard>
+#include <QColor>
 #include <QContextMenuEvent>
 #include <QDialog>
 #include <QDockWidget>
 #include <QFile>
+#include <QFont>
 #include <QIcon>
 #include <QLabel>
 #include <QMenu>
@@ -17,6 +19,8 @@
 #include <QTextBrowser>
 #include <QTimer>
 #include <QToolButton>
+#include <cmath>
+#include <cstdlib>
 #include <functional>
 #include <string>
 #include <vector>
@@ -243,6 +247,56 @@ TEST_F(AvisosEnElEscritorio, ElBalanceTieneLaCuencaYCadaComponente)
         hectareas += u.Area;
     EXPECT_NEAR(balance.model()->index(0, 1).data().toString().toDouble(), hectareas * 800,
                 0.02 * hectareas * 800);
+}
+
+// 1000 mm fill the lake above its table's top, and what doesn't fit is lost.
+TEST_F(AvisosEnElEscritorio, LoQueNoCierraSeVeEnRojoEnGrisYEnPalabras)
+{
+    ArrancaCon("480");
+    escritorio.s.Tormenta.PpTormenta = 1000;
+    escritorio.s.Tormenta.DurTormenta = 240;
+    Accion("mnuCorre1").trigger();
+    EsperaElJuicio();
+    AbreLista();
+    auto& paginas = Control<QTabWidget>(Lista(), "tabPaginas");
+    QTest::mouseClick(paginas.tabBar(), Qt::LeftButton, {}, paginas.tabBar()->tabRect(1).center());
+    const QAbstractItemModel& balance = *Control<QTableView>(Lista(), "tblBalance").model();
+    int rojas = 0, negras = 0;
+    for (int fila = 0; fila < balance.rowCount(); ++fila) {
+        const QModelIndex cierre = balance.index(fila, 8);
+        const double error = balance.index(fila, 7).data().toString().toDouble();
+        if (std::fabs(error) <= 0.1) {
+            ++negras;
+            EXPECT_FALSE(cierre.data(Qt::BackgroundRole).isValid()) << fila;
+            EXPECT_EQ(DeQ(cierre.data().toString()), "Cierra") << fila;
+            continue;
+        }
+        ++rojas;
+        const auto fondo = cierre.data(Qt::BackgroundRole).value<QColor>();
+        const auto letra = cierre.data(Qt::ForegroundRole).value<QColor>();
+        EXPECT_GT(letra.red(), letra.green() + letra.blue()) << fila;
+        EXPECT_LT(qGray(fondo.rgb()), 230) << fila;  // darker than white and than its alternate
+        EXPECT_GT(qGray(fondo.rgb()) - qGray(letra.rgb()), 150) << fila;
+        EXPECT_TRUE(cierre.data(Qt::FontRole).value<QFont>().bold()) << fila;
+        EXPECT_NE(DeQ(cierre.data().toString()), "Cierra") << fila;
+    }
+    EXPECT_GT(rojas, 1);
+    EXPECT_GT(negras, 20);
+    if (const char* const carpeta = std::getenv("SIRO_FOTOS"))
+        EXPECT_TRUE(escritorio.Principal().grab().save(QString::fromUtf8(carpeta) +
+                                                       QStringLiteral("/dlgAvisos_balance.png")));
+}
+
+TEST_F(AvisosEnElEscritorio, LoQueElEditorCambiaSeSabeAlVolver)
+{
+    ArrancaCon("480");
+    Corre();
+    Accion("mnufrmUEHs").trigger();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(Editor()));
+    escritorio.entorno.Atiende([&] { escritorio.s.Red.ColUEHs.Item(1).Area = 77; });
+    Editor()->close();
+    ASSERT_TRUE(escritorio.Principal().isVisible());
+    EXPECT_TRUE(Espera([&] { return DeQ(Clave().text()) == "Sin avisos, 1 nota (corrida anterior)"; }));
 }
 
 TEST_F(AvisosEnElEscritorio, ElBotonPoneElTiempoConLaCajaDeLaConfiguracionYCorre)
