@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "batch/CorridaLote.h"
+#include "batch/FrecuenciaLote.h"
 #include "batch/Opciones.h"
 #include "batch/RevisaLote.h"
 #include "batch/VerificaLote.h"
@@ -26,6 +27,7 @@ struct Verbo {
 
 constexpr auto Verbos = std::to_array<Verbo>({
     {"revisa", UsoRevisa, LeeOpcionesRevisa, RevisaProyecto},
+    {"frecuencia", UsoFrecuencia, LeeOpcionesFrecuencia, MuestraFrecuencia},
     {"verifica", UsoVerifica, LeeOpcionesVerifica, MuestraCasos},
 });
 /// una and serie, and whatever is none of them.

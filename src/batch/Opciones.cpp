@@ -72,6 +72,25 @@ Estado de salida: 0 todos están dentro de la tolerancia; 1 alguno no, o no se p
                   es errónea.
 )";
 
+constexpr std::string_view TextoUsoFrecuencia =
+    R"(Uso: siro-lote frecuencia ARCHIVO [opciones]    láminas por recurrencia de los máximos anuales de una estación
+
+ARCHIVO tiene un renglón por año, con dos columnas: año;valor o fecha;valor (dd/mm/aaaa, aaaa-mm-dd), en mm. Sin
+valor, el año queda como hueco. Hacen falta 10 años por lo menos.
+
+  --metodo M              momentos; l, momentos L; mv, máxima verosimilitud (l)
+  --ley L                 una sola: gumbel, gev, exponencial, ln2, ln3, pearson3, logpearson3, sqrt-etmax (todas)
+  --remuestras N          remuestreos para las bandas y las p, 100 a 100000; 0: ninguno (1000)
+  --semilla N             la de los remuestreos: la misma da los mismos resultados (1)
+  --hilos N               hilos, hasta 1024; 0: todos los núcleos. No cambia los resultados (0)
+  --json                  todo, en JSON
+  --csv                   los cuantiles con sus bandas, en CSV
+  --ayuda, --help         este texto
+
+Estado de salida: 0 hay resultados; 1 los datos no se pueden ajustar, o no se pudo leer o escribir; 2 la línea de
+                  órdenes es errónea.
+)";
+
 constexpr double TopeEntero = 32767;
 
 /// A value that an option can't take, with the reason as the user reads it.
@@ -146,8 +165,22 @@ int Hilos(std::string_view texto)
     return static_cast<int>(NumeroEnteroEntre(texto, 0, MaximoHilos));
 }
 
+std::string Metodo(const std::string& texto)
+{
+    if (texto != "momentos" && texto != "l" && texto != "mv") throw ValorErroneo{"debe ser momentos, l o mv"};
+    return texto;
+}
+
+int Remuestras(std::string_view texto)
+{
+    constexpr double Menos = 100, Mas = 100000;
+    const double n = NumeroEnteroEntre(texto, 0, Mas);
+    if (n > 0 && n < Menos) throw ValorErroneo{"debe ser 0, o 100 o más"};
+    return static_cast<int>(n);
+}
+
 // Which orders take an option; 0: one without a project.
-constexpr int DeCorrida = 1, DeRevision = 2, DeAmbas = DeCorrida | DeRevision;
+constexpr int DeCorrida = 1, DeRevision = 2, DeAmbas = DeCorrida | DeRevision, DeFrecuencia = 4;
 
 /// An option with a value: how it is written and where its value goes.
 struct FilaOpcion {
@@ -169,8 +202,16 @@ constexpr auto Filas = std::to_array<FilaOpcion>({
     {"--tormenta", [](Opciones& o, const std::string& v) { o.tormenta = v; }, DeAmbas},
     {"--tabla", [](Opciones& o, const std::string& v) { o.tabla = Entero(v, 0, 3); }},
     {"--responde", [](Opciones& o, const std::string& v) { o.respondeSi = RespondeSi(v); }},
-    {"--hilos", [](Opciones& o, const std::string& v) { o.hilos = Hilos(v); }},
+    {"--hilos", [](Opciones& o, const std::string& v) { o.hilos = Hilos(v); }, DeCorrida | DeFrecuencia},
     {"--resultados", [](Opciones& o, const std::string& v) { o.resultados = v; }},
+    {"--ley", [](Opciones& o, const std::string& v) { o.ley = v; }, DeFrecuencia},
+    {"--metodo", [](Opciones& o, const std::string& v) { o.metodo = Metodo(v); }, DeFrecuencia},
+    {"--remuestras", [](Opciones& o, const std::string& v) { o.remuestras = Remuestras(v); }, DeFrecuencia},
+    {"--semilla",
+     [](Opciones& o,
+        const std::string&
+            v) { o.semilla = static_cast<std::uint32_t>(NumeroEnteroEntre(v, 0, 4294967295.0)); },
+     DeFrecuencia},
     {"--cuenca", [](Opciones& o, const std::string& v) { o.cuenca = Lamina(v); }, DeRevision},
 });
 
@@ -179,7 +220,7 @@ struct Palabras {
     std::array<std::string, Filas.size()> valores{};
     std::array<CLI::Option*, Filas.size()> opciones{};
     std::string conf{};
-    bool pizarra = false, avisos = false, json = false;
+    bool pizarra = false, avisos = false, json = false, csv = false;
 };
 
 CLI::App* Orden(CLI::App& programa, const char* nombre, Palabras& p, int clase = DeCorrida)
@@ -188,7 +229,8 @@ CLI::App* Orden(CLI::App& programa, const char* nombre, Palabras& p, int clase =
     orden->set_help_flag("--help,-h,--ayuda");
     orden->add_flag("--json", p.json);
     if (clase == 0) return orden;
-    orden->add_option("CONF", p.conf);
+    orden->add_option(clase == DeFrecuencia ? "ARCHIVO" : "CONF", p.conf);
+    if (clase == DeFrecuencia) orden->add_flag("--csv", p.csv);
     for (std::size_t i = 0; i < Filas.size(); ++i)
         if ((Filas[i].ordenes & clase) != 0) p.opciones[i] = orden->add_option(Filas[i].nombre, p.valores[i]);
     if (clase != DeCorrida) return orden;
@@ -211,9 +253,24 @@ std::string MotivoDe(const CLI::ParseError& error, const CLI::App& programa)
     if (!sobran.empty()) return "No se esperaba " + sobran.front();
     if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr) return "Falta la orden: una o serie";
     const std::string opcion = OpcionNombrada(error.what());
-    if (opcion == "--pizarra" || opcion == "--avisos" || opcion == "--json" || opcion == "--help")
+    if (opcion == "--pizarra" || opcion == "--avisos" || opcion == "--json" || opcion == "--csv" ||
+        opcion == "--help")
         return "La opción " + opcion + " no lleva valor";
     return "La opción " + opcion + " lleva un valor, y una sola vez";
+}
+
+/// Puts the values into the options that were given.
+Lectura Toma(const Palabras& p, Opciones o)
+{
+    for (std::size_t i = 0; i < Filas.size(); ++i) {
+        if (p.opciones[i] == nullptr || p.opciones[i]->count() == 0) continue;
+        try {
+            Filas[i].toma(o, p.valores[i]);
+        } catch (const ValorErroneo& error) {
+            return {{}, std::string(Filas[i].nombre) + ": " + error.motivo};
+        }
+    }
+    return {std::move(o), {}};
 }
 
 Lectura Entiende(const Palabras& p, Opciones o)
@@ -226,15 +283,7 @@ Lectura Entiende(const Palabras& p, Opciones o)
     o.avisos = p.avisos;
     o.json = p.json;
     if (o.orden != Opciones::Orden::Revisa && o.json && !o.avisos) return {{}, "--json va con --avisos"};
-    for (std::size_t i = 0; i < Filas.size(); ++i) {
-        if (p.opciones[i] == nullptr || p.opciones[i]->count() == 0) continue;
-        try {
-            Filas[i].toma(o, p.valores[i]);
-        } catch (const ValorErroneo& error) {
-            return {{}, std::string(Filas[i].nombre) + ": " + error.motivo};
-        }
-    }
-    return {std::move(o), {}};
+    return Toma(p, std::move(o));
 }
 
 /// Takes the words of a command line apart. Returns what to say where there is nothing to do.
@@ -303,6 +352,28 @@ Lectura LeeOpcionesVerifica(int argc, const char* const* argv)
     o.orden = Opciones::Orden::Verifica;
     o.json = verifica.json;
     return {o, {}};
+}
+
+std::string_view UsoFrecuencia()
+{
+    return TextoUsoFrecuencia;
+}
+
+Lectura LeeOpcionesFrecuencia(int argc, const char* const* argv)
+{
+    CLI::App programa{"", "siro-lote"};
+    programa.allow_windows_style_options(false);
+    Palabras frecuencia;
+    Orden(programa, "frecuencia", frecuencia, DeFrecuencia);
+    if (auto otra = Reconoce(programa, argc, argv)) return *otra;
+    if (frecuencia.conf.empty()) return {{}, "Falta ARCHIVO"};
+    if (frecuencia.json && frecuencia.csv) return {{}, "--json y --csv no van juntos"};
+    Opciones o;
+    o.orden = Opciones::Orden::Frecuencia;
+    o.archivo = frecuencia.conf;
+    o.json = frecuencia.json;
+    o.csv = frecuencia.csv;
+    return Toma(frecuencia, std::move(o));
 }
 
 }  // namespace batch

@@ -11,7 +11,7 @@ namespace batch {
 
 /// What a command line asks for. Numbers are within the bounds told here; paths stand as they were typed.
 struct Opciones {
-    enum class Orden { Una, Serie, Revisa, Verifica };
+    enum class Orden { Una, Serie, Revisa, Verifica, Frecuencia };
 
     Orden orden = Orden::Una;
     std::string conf{};             ///< path of the project's configuration file, ends in _Conf.vlm
@@ -32,6 +32,12 @@ struct Opciones {
     int hilos = 0;                  ///< threads of a series, 1024 at most; 0: all cores
     std::string resultados{};       ///< path of the CSV file; empty: none
     bool json = false;              ///< findings as JSON, not as lines
+    std::string archivo{};          ///< path of the annual maxima
+    std::string metodo = "l";       ///< of the fits: momentos, l, mv
+    std::string ley{};              ///< the only law to fit; empty: all
+    int remuestras = 1000;          ///< samples of the bootstrap, 0 or 100 to 100000
+    std::uint32_t semilla = 1;      ///< of their numbers
+    bool csv = false;               ///< quantiles as CSV, not as text
     float cuenca = 0;               ///< the basin as measured [ha], not negative; 0: not known
 
     bool operator==(const Opciones&) const = default;
@@ -56,5 +62,9 @@ Lectura LeeOpcionesRevisa(int argc, const char* const* argv);
 /// The same of the published cases, which take no project.
 std::string_view UsoVerifica();
 Lectura LeeOpcionesVerifica(int argc, const char* const* argv);
+
+/// The same of the frequency of annual maxima, which takes their file and no project.
+std::string_view UsoFrecuencia();
+Lectura LeeOpcionesFrecuencia(int argc, const char* const* argv);
 
 }  // namespace batch

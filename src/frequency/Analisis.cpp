@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "frequency/Analisis.h"
+
+#include <algorithm>
+#include <cmath>
+#include <exception>
+
+#include "model/Numeros.h"
+
+namespace frequency {
+namespace {
+
+constexpr double Nivel = 0.05, MayorForma = 0.5;
+
+AjusteDeLey AjustaLey(const Ley& ley, const Analisis& a)
+{
+    AjusteDeLey f;
+    f.ley = &ley;
+    f.estimado = Ajusta(ley, a.muestra, a.metodo);
+    if (!f.estimado.p) return f;
+    const Parametros& p = *f.estimado.p;
+    try {
+        f.cuantiles = CuantilesDe(ley, p);
+        f.criterios = CriteriosDe(ley, p, a.muestra.x);
+        f.bondad = BondadDe(ley, p, a.muestra.x);
+    } catch (const std::exception&) {
+        f.estimado = {{}, "Los cuantiles no se pueden calcular con los parámetros ajustados"};
+        return f;
+    }
+    if (a.pedido.cuantas > 0) f.remuestreo = Remuestrea(ley, p, a.metodo, a.muestra, a.pedido);
+    return f;
+}
+
+bool FormaHabitual(const AjusteDeLey& f)
+{
+    return f.ley != &Gev || std::abs((*f.estimado.p)[2]) <= MayorForma;
+}
+
+bool Rechazada(const AjusteDeLey& f)
+{
+    return f.remuestreo.Hay() && f.remuestreo.p.ad < Nivel;
+}
+
+bool SePuedeTomar(const AjusteDeLey& f)
+{
+    return f.estimado.p && std::isfinite(f.criterios.aicc) && FormaHabitual(f) && !Rechazada(f);
+}
+
+std::string ConDosDecimales(double x)
+{
+    return model::NumeroATexto(model::Redondea(x, 2));
+}
+
+}  // namespace
+
+Recomendacion Recomienda(const Analisis& a)
+{
+    const AjusteDeLey* mejor = nullptr;
+    const AjusteDeLey* segunda = nullptr;
+    int rechazadas = 0, tomables = 0;
+    for (const AjusteDeLey& f : a.ajustes) {
+        if (f.estimado.p && Rechazada(f)) ++rechazadas;
+        if (!SePuedeTomar(f)) continue;
+        ++tomables;
+        if (mejor == nullptr || f.criterios.aicc < mejor->criterios.aicc) {
+            segunda = mejor;
+            mejor = &f;
+        } else if (segunda == nullptr || f.criterios.aicc < segunda->criterios.aicc) {
+            segunda = &f;
+        }
+    }
+    Recomendacion r;
+    if (mejor == nullptr) {
+        r.motivo = "Ninguna ley se puede recomendar: Anderson-Darling rechaza " + std::to_string(rechazadas) +
+                   " y las demás no contienen la muestra o no tienen ajuste.";
+        return r;
+    }
+    r.ley = mejor->ley;
+    r.motivo = std::string(mejor->ley->nombre) + ": el menor AICc, " +
+               ConDosDecimales(mejor->criterios.aicc) + ", de las " + std::to_string(tomables) +
+               " leyes que contienen la muestra" +
+               (a.pedido.cuantas > 0 ? " y Anderson-Darling no rechaza al 5 %." : ".");
+    if (segunda != nullptr && segunda->criterios.aicc - mejor->criterios.aicc < 2)
+        r.motivo += " " + std::string(segunda->ley->nombre) + " es casi igual de buena (AICc " +
+                    ConDosDecimales(segunda->criterios.aicc) + ").";
+    if (std::any_of(a.pruebas.begin(), a.pruebas.end(), [](const Prueba& p) { return p.rechaza; }))
+        r.motivo += " Antes atienda lo que dicen las pruebas de la muestra.";
+    return r;
+}
+
+Analisis Analiza(const Serie& serie, const PedidoDeAnalisis& pedido)
+{
+    Analisis a;
+    a.serie = serie;
+    a.metodo = pedido.metodo;
+    a.pedido = pedido.remuestreo;
+    std::vector<double> x;
+    for (const Maximo& m : serie.maximos)
+        x.push_back(m.valor);
+    a.muestra = HazMuestra(std::move(x));
+    a.pruebas = PruebasDe(serie.maximos);
+    const auto todas = Leyes();
+    const std::vector<const Ley*> leyes =
+        pedido.leyes.empty() ? std::vector<const Ley*>(todas.begin(), todas.end()) : pedido.leyes;
+    for (const Ley* ley : leyes)
+        a.ajustes.push_back(AjustaLey(*ley, a));
+    a.recomendacion = Recomienda(a);
+    return a;
+}
+
+}  // namespace frequency

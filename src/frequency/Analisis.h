@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "frequency/Maximos.h"
+#include "frequency/PruebasDeMuestra.h"
+#include "frequency/Remuestreo.h"
+
+// From annual maxima to the quantiles of the recurrences, with all that says how far they can be trusted.
+namespace frequency {
+
+struct PedidoDeAnalisis {
+    Metodo metodo = Metodo::MomentosL;
+    std::vector<const Ley*> leyes{};  ///< empty: all of them
+    PedidoDeRemuestreo remuestreo{};
+};
+
+/// A law as fitted; without parameters only `estimado.nota` says anything.
+struct AjusteDeLey {
+    const Ley* ley = nullptr;
+    Estimado estimado{};
+    Criterios criterios{};
+    Bondad bondad{};
+    PorRecurrencia cuantiles{};
+    Remuestreo remuestreo{};
+};
+
+/// The law to take and why; none where every one is refused.
+struct Recomendacion {
+    const Ley* ley = nullptr;
+    std::string motivo{};  ///< sentences with their full stops
+};
+
+struct Analisis {
+    Serie serie{};
+    Metodo metodo = Metodo::MomentosL;
+    PedidoDeRemuestreo pedido{};
+    Muestra muestra{};
+    std::vector<Prueba> pruebas{};
+    std::vector<AjusteDeLey> ajustes{};
+    Recomendacion recomendacion{};
+};
+
+/// Of a series without errors.
+Analisis Analiza(const Serie& serie, const PedidoDeAnalisis& pedido);
+
+/// Of the laws that Anderson-Darling doesn't reject at 5 %, whose shape is a rainfall's and which hold every
+/// value, the one of least AICc.
+Recomendacion Recomienda(const Analisis& a);
+
+}  // namespace frequency

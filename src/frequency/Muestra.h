@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstddef>
+#include <span>
+#include <vector>
+
+// A sample of annual maxima and the numbers that its fits start from.
+namespace frequency {
+
+/// L-moments of a sample, unbiased: Hosking, J. R. Stat. Soc. B 52, 1990, equation 3.1. l1, l2 in the
+/// sample's unit.
+struct MomentosL {
+    double l1 = 0, l2 = 0;
+    double t3 = 0, t4 = 0;  ///< l3/l2, l4/l2; 0 where l2 is
+};
+
+/// Of values in rising order, four at least.
+MomentosL MomentosLDe(std::span<const double> x);
+
+/// Mean, standard deviation (n - 1) and skew n sum d3 / ((n-1)(n-2) s3), in any order, three values at least.
+struct Momentos {
+    double media = 0, desvio = 0, asimetria = 0;
+};
+Momentos MomentosDe(std::span<const double> x);
+
+/// What is known of a sample: itself, and its moments.
+struct Descriptivos {
+    Momentos m{};
+    MomentosL l{};
+};
+
+struct Muestra {
+    std::vector<double> x{};  ///< rising
+    Descriptivos directos{};
+    Descriptivos decimales{};  ///< of log10 x; nothing where `positiva` isn't set
+    bool positiva = false;     ///< every value is above 0
+};
+
+/// Sorts the values, ten at least where they are a station's.
+Muestra HazMuestra(std::vector<double> x);
+
+/// Plotting position of value i of n in rising order, i from 1: (i - a) / (n + 1 - 2a). a: Weibull 0, Blom
+/// 0.375, Cunnane 0.4, Gringorten 0.44, Hazen 0.5.
+double Posicion(std::size_t i, std::size_t n, double a);
+
+inline constexpr double Cunnane = 0.4;
+
+}  // namespace frequency

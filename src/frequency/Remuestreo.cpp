@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "frequency/Remuestreo.h"
+
+#include <algorithm>
+#include <atomic>
+#include <cmath>
+#include <cstddef>
+#include <exception>
+#include <optional>
+#include <system_error>
+#include <thread>
+#include <utility>
+#include <vector>
+
+#include "frequency/Philox.h"
+
+namespace frequency {
+namespace {
+
+/// What one sample of the law gives.
+struct Miembro {
+    PorRecurrencia cuantiles{};
+    Bondad bondad{};
+};
+
+std::optional<Miembro> HazMiembro(const Ley& ley, const Parametros& p, Metodo metodo, std::size_t n,
+                                  Sorteo sorteo)
+{
+    try {
+        std::vector<double> x(n);
+        for (double& xi : x)
+            xi = ley.cuantil(p, sorteo.Uniforme());
+        const Muestra m = HazMuestra(std::move(x));
+        const Estimado e = Ajusta(ley, m, metodo);
+        if (!e.p) return {};
+        Miembro miembro{CuantilesDe(ley, *e.p), BondadDe(ley, *e.p, m.x)};
+        for (const double q : miembro.cuantiles)
+            if (!std::isfinite(q)) return {};
+        return miembro;
+    } catch (const std::exception&) {  // a special function outside its domain
+        return {};
+    }
+}
+
+std::vector<std::optional<Miembro>> HazMiembros(const Ley& ley, const Parametros& p, Metodo metodo,
+                                                std::size_t n, const PedidoDeRemuestreo& pedido)
+{
+    std::vector<std::optional<Miembro>> todos(static_cast<std::size_t>(std::max(0, pedido.cuantas)));
+    std::atomic<std::size_t> siguiente = 0;
+    const auto trabaja = [&] {
+        for (std::size_t k = siguiente++; k < todos.size(); k = siguiente++)
+            todos[k] = HazMiembro(ley, p, metodo, n, Sorteo(pedido.semilla, k));
+    };
+    const int nucleos = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
+    const int hilos = pedido.hilos > 0 ? pedido.hilos : nucleos;
+    std::vector<std::jthread> ayudantes;
+    try {
+        for (int i = 1; i < hilos; ++i)
+            ayudantes.emplace_back(trabaja);
+    } catch (const std::system_error&) {  // no more threads: those that run do the work
+    }
+    trabaja();
+    ayudantes.clear();
+    return todos;
+}
+
+/// Quantile q of sorted values, linear between neighbours.
+double CuantilDe(const std::vector<double>& x, double q)
+{
+    const double lugar = q * static_cast<double>(x.size() - 1);
+    const auto i = static_cast<std::size_t>(lugar);
+    if (i + 1 >= x.size()) return x.back();
+    return x[i] + (lugar - static_cast<double>(i)) * (x[i + 1] - x[i]);
+}
+
+}  // namespace
+
+PorRecurrencia CuantilesDe(const Ley& ley, const Parametros& p)
+{
+    PorRecurrencia q{};
+    for (std::size_t i = 0; i < q.size(); ++i)
+        q[i] = ley.cuantil(p, 1 - 1.0 / model::Recurrencias[i]);
+    return q;
+}
+
+Remuestreo Remuestrea(const Ley& ley, const Parametros& p, Metodo metodo, const Muestra& m,
+                      const PedidoDeRemuestreo& pedido)
+{
+    constexpr double Bajo = 0.05, Alto = 0.95;
+    const auto todos = HazMiembros(ley, p, metodo, m.x.size(), pedido);
+    std::vector<const Miembro*> sirven;
+    for (const auto& miembro : todos)
+        if (miembro) sirven.push_back(&*miembro);
+    Remuestreo r;
+    r.sirven = static_cast<int>(sirven.size());
+    if (!r.Hay()) return r;
+    for (std::size_t t = 0; t < r.banda5.size(); ++t) {
+        std::vector<double> q;
+        for (const Miembro* miembro : sirven)
+            q.push_back(miembro->cuantiles[t]);
+        std::sort(q.begin(), q.end());
+        r.banda5[t] = CuantilDe(q, Bajo);
+        r.banda95[t] = CuantilDe(q, Alto);
+    }
+    const Bondad de = BondadDe(ley, p, m.x);
+    for (double Bondad::*cual : {&Bondad::ks, &Bondad::ad, &Bondad::chi2, &Bondad::ppcc}) {
+        double lejos = 1;
+        for (const Miembro* miembro : sirven) {
+            const double suyo = miembro->bondad.*cual;
+            lejos += cual == &Bondad::ppcc ? suyo <= de.*cual : suyo >= de.*cual;
+        }
+        r.p.*cual = lejos / (1 + static_cast<double>(sirven.size()));
+    }
+    return r;
+}
+
+}  // namespace frequency

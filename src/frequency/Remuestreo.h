@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+#include "frequency/Ajuste.h"
+#include "frequency/Bondad.h"
+#include "model/Configuracion.h"
+
+// The parametric bootstrap: samples drawn from a fitted law and fitted again tell how sure its quantiles are,
+// and how far from it a sample of its own may lie.
+namespace frequency {
+
+/// Values for the recurrences that the tables of storms have, model::Recurrencias.
+using PorRecurrencia = std::array<double, model::Recurrencias.size()>;
+
+PorRecurrencia CuantilesDe(const Ley& ley, const Parametros& p);
+
+struct PedidoDeRemuestreo {
+    std::uint64_t semilla = 1;
+    int cuantas = 1000;  ///< samples; 0: none
+    int hilos = 0;       ///< 0: all cores. The results don't depend on them
+};
+
+struct Remuestreo {
+    PorRecurrencia banda5{}, banda95{};  ///< quantiles of 5 and 95 % of the samples
+    Bondad p{};      ///< p-values of the measures of fit, (1 + farther ones) / (1 + samples)
+    int sirven = 0;  ///< samples that could be fitted
+
+    /// There are enough of them for bands and p-values.
+    [[nodiscard]] bool Hay() const { return sirven >= 20; }
+};
+
+/// Sample k draws its numbers from (seed, k) alone and all are put in order by k.
+Remuestreo Remuestrea(const Ley& ley, const Parametros& p, Metodo metodo, const Muestra& m,
+                      const PedidoDeRemuestreo& pedido);
+
+}  // namespace frequency

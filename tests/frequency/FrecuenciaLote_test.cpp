@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "batch/FrecuenciaLote.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "batch/CorridaLote.h"
+#include "batch/Lote.h"
+#include "model/Disco.h"
+
+namespace {
+
+struct Respuesta {
+    int estado = 0;
+    std::string estandar{}, errores{};
+};
+
+Respuesta Lote(std::vector<const char*> palabras)
+{
+    palabras.insert(palabras.begin(), {"siro-lote", "frecuencia"});
+    Respuesta r;
+    batch::Salidas salidas;
+    salidas.Estandar = [&](std::string_view texto) { r.estandar += texto; };
+    salidas.Errores = [&](std::string_view texto) { r.errores += texto; };
+    r.estado = batch::Lote(static_cast<int>(palabras.size()), palabras.data(), salidas);
+    return r;
+}
+
+/// Forty years of a file in the folder of temporary files.
+class FrecuenciaLote : public ::testing::Test {
+  protected:
+    std::string ruta = testing::TempDir() + "maximos_anuales.csv";
+
+    void SetUp() override { Escribe("1990;0.5"); }
+    void TearDown() override { std::remove(ruta.c_str()); }
+
+    void Escribe(const std::string& ultimo)
+    {
+        std::string t = "anio;mm\n";
+        for (int i = 0; i < 39; ++i)
+            t += std::to_string(1950 + i) + ";" + std::to_string(45 + (i * 29) % 41 + (i % 7 == 0 ? 30 : 0)) +
+                 "\n";
+        if (ultimo != "1990;0.5")
+            t += ultimo + "\n";
+        else
+            t += "1989;88,5\n";
+        model::DiscoDelSistema().Escribe(ruta, t);
+    }
+};
+
+TEST_F(FrecuenciaLote, DaTextoJsonYCsvDeLoMismo)
+{
+    const Respuesta texto = Lote({ruta.c_str(), "--remuestras", "100"});
+    EXPECT_EQ(texto.estado, batch::EstadoCompleto) << texto.errores;
+    EXPECT_EQ(texto.errores, "");
+    for (const char* parte :
+         {"Máximos anuales [mm]: 40, de 1950 a 1989\n", "\nPruebas de la muestra, al 5 %\n",
+          "\nAjuste por momentos L\n", "\nLámina [mm] por recurrencia [años]\n", "banda, 95 %",
+          "\nRecomendación\n", "SQRT-ETmax"})
+        EXPECT_NE(texto.estandar.find(parte), std::string::npos) << parte << texto.estandar;
+
+    const Respuesta csv = Lote({ruta.c_str(), "--csv", "--remuestras", "100"});
+    EXPECT_EQ(csv.estado, batch::EstadoCompleto);
+    EXPECT_TRUE(csv.estandar.starts_with("ley,metodo,recurrencia,cuantil,banda5,banda95\ngumbel,l,2,"));
+    const auto renglones = std::count(csv.estandar.begin(), csv.estandar.end(), '\n');
+    EXPECT_EQ((renglones - 1) % 14, 0);
+    EXPECT_GE(renglones, 1 + 7 * 14);
+
+    const Respuesta json = Lote({ruta.c_str(), "--json", "--remuestras", "100"});
+    const std::size_t desde = csv.estandar.find("gumbel,l,100,") + 13;
+    const std::string cuantil = csv.estandar.substr(desde, csv.estandar.find(',', desde) - desde);
+    EXPECT_NE(json.estandar.find(cuantil), std::string::npos) << cuantil;
+    EXPECT_TRUE(json.estandar.starts_with("{\"metodo\":\"l\",\"semilla\":1,\"remuestras\":100,"));
+    EXPECT_TRUE(json.estandar.ends_with("}}\n"));
+}
+
+TEST_F(FrecuenciaLote, LaSemillaYNoLosHilosCambiaLosBytes)
+{
+    const Respuesta uno = Lote({ruta.c_str(), "--csv", "--remuestras", "100", "--hilos", "1"});
+    EXPECT_EQ(uno.estandar, Lote({ruta.c_str(), "--csv", "--remuestras", "100", "--hilos", "4"}).estandar);
+    EXPECT_NE(uno.estandar, Lote({ruta.c_str(), "--csv", "--remuestras", "100", "--semilla", "2"}).estandar);
+}
+
+TEST_F(FrecuenciaLote, UnaSolaLey)
+{
+    const Respuesta r = Lote({ruta.c_str(), "--csv", "--remuestras", "0", "--ley", "gumbel"});
+    EXPECT_EQ(std::count(r.estandar.begin(), r.estandar.end(), '\n'), 15);
+    EXPECT_EQ(r.estandar.find("gev"), std::string::npos);
+}
+
+TEST_F(FrecuenciaLote, SinRemuestrasNoHayBandas)
+{
+    const Respuesta r = Lote({ruta.c_str(), "--csv", "--remuestras", "0", "--metodo", "mv"});
+    EXPECT_EQ(r.estado, batch::EstadoCompleto);
+    EXPECT_NE(r.estandar.find("\ngev,mv,10000,"), std::string::npos);
+    EXPECT_NE(r.estandar.find(",,\n"), std::string::npos);
+}
+
+TEST_F(FrecuenciaLote, LosDatosMalosSonUnEstadoYUnRenglonCadaUno)
+{
+    Escribe("1989;-3\nayer;5");
+    const Respuesta r = Lote({ruta.c_str()});
+    EXPECT_EQ(r.estado, batch::EstadoInterrumpido);
+    EXPECT_EQ(r.estandar, "");
+    EXPECT_EQ(
+        r.errores,
+        "siro-lote: Renglón 41: el valor es negativo.\nsiro-lote: Renglón 42: \"ayer\" no es un año ni una "
+        "fecha.\n");
+    const Respuesta falta = Lote({"no_esta.csv"});
+    EXPECT_EQ(falta.estado, batch::EstadoInterrumpido);
+    EXPECT_TRUE(falta.errores.starts_with("siro-lote: no se puede leer ")) << falta.errores;
+}
+
+TEST_F(FrecuenciaLote, LaOrdenErroneaSeExplica)
+{
+    const auto motivo = [](const std::vector<const char*>& palabras) {
+        const Respuesta r = Lote(palabras);
+        EXPECT_EQ(r.estado, batch::EstadoOrdenErronea);
+        EXPECT_NE(r.errores.find("\n\nUso: siro-lote frecuencia ARCHIVO"), std::string::npos) << r.errores;
+        return r.errores.substr(0, r.errores.find('\n'));
+    };
+    EXPECT_EQ(motivo({}), "siro-lote: Falta ARCHIVO");
+    EXPECT_EQ(motivo({"a.csv", "--metodo", "ojo"}), "siro-lote: --metodo: debe ser momentos, l o mv");
+    EXPECT_EQ(motivo({"a.csv", "--remuestras", "50"}), "siro-lote: --remuestras: debe ser 0, o 100 o más");
+    EXPECT_EQ(motivo({"a.csv", "--semilla", "-1"}),
+              "siro-lote: --semilla: debe ser un número entero entre 0 y 4294967295");
+    EXPECT_EQ(motivo({"a.csv", "--json", "--csv"}), "siro-lote: --json y --csv no van juntos");
+    EXPECT_EQ(motivo({"a.csv", "--pizarra"}), "siro-lote: No se esperaba --pizarra");
+    EXPECT_EQ(motivo({"a.csv", "--ley", "weibull"}), "siro-lote: no hay una ley \"weibull\"");
+    EXPECT_EQ(motivo({"a.csv", "b.csv"}), "siro-lote: No se esperaba b.csv");
+}
+
+TEST_F(FrecuenciaLote, MuestraSuUso)
+{
+    const Respuesta r = Lote({"--help"});
+    EXPECT_EQ(r.estado, batch::EstadoCompleto);
+    EXPECT_TRUE(r.estandar.starts_with("Uso: siro-lote frecuencia ARCHIVO")) << r.estandar;
+}
+
+}  // namespace

@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "frequency/Maximos.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+
+using frequency::LeeMaximos;
+using frequency::Serie;
+using Textos = std::vector<std::string>;
+
+/// Twelve good years from 1990, with other lines instead of some.
+std::string Doce(int cual = -1, const std::string& renglon = {})
+{
+    std::string t;
+    for (int i = 0; i < 12; ++i)
+        t += (i == cual ? renglon : std::to_string(1990 + i) + ";" + std::to_string(50 + 7 * (i % 5))) + "\n";
+    return t;
+}
+
+std::string PrimerError(const std::string& texto)
+{
+    const Serie s = LeeMaximos(texto);
+    return s.errores.empty() ? "" : s.errores.front();
+}
+
+TEST(Maximos, SeLeenEnTodasSusFormas)
+{
+    const Serie s = LeeMaximos(
+        "\xEF\xBB\xBF"
+        "Año;Pmax [mm]\r\n1999;61,5\r\n12/03/1990;50.25\r\n1991-11-02;7\r\n\r\n# "
+        "nota\r\n1992\t80\r\n1993,90.5\r\n"
+        "1994 ; 1e2 \r\n1995;1\r\n1996;2\r\n5-1-1997;3\r\n\"1998\";4");
+    EXPECT_EQ(s.errores, Textos{});
+    ASSERT_EQ(s.maximos.size(), 10U);
+    EXPECT_EQ(s.maximos[0].anio, 1990);
+    EXPECT_EQ(s.maximos[0].valor, 50.25);
+    EXPECT_EQ(s.maximos[1].anio, 1991);
+    EXPECT_EQ(s.maximos[3].valor, 90.5);
+    EXPECT_EQ(s.maximos[4].valor, 100);
+    EXPECT_EQ(s.maximos[9].valor, 61.5);
+}
+
+TEST(Maximos, LoQueEstaMalSeDiceConSuRenglon)
+{
+    EXPECT_EQ(PrimerError(Doce()), "");
+    EXPECT_EQ(PrimerError(Doce(3, "1993;-4")), "Renglón 4: el valor es negativo.");
+    EXPECT_EQ(PrimerError(Doce(3, "1993;0")),
+              "Renglón 4: el valor es 0: un año sin lluvia no se ajusta con estas leyes.");
+    EXPECT_EQ(PrimerError(Doce(3, "1993;mucho")), "Renglón 4: \"mucho\" no es un número.");
+    EXPECT_EQ(PrimerError(Doce(3, "1993;inf")), "Renglón 4: \"inf\" no es un número.");
+    EXPECT_EQ(PrimerError(Doce(3, "1993;nan")), "Renglón 4: \"nan\" no es un número.");
+    EXPECT_EQ(PrimerError(Doce(3, "1993;1e9")), "Renglón 4: el valor pasa de 100000 mm.");
+    EXPECT_EQ(PrimerError(Doce(3, "ayer;4")), "Renglón 4: \"ayer\" no es un año ni una fecha.");
+    EXPECT_EQ(PrimerError(Doce(3, "31/13/1993;4")), "Renglón 4: \"31/13/1993\" no es un año ni una fecha.");
+    EXPECT_EQ(PrimerError(Doce(3, "93;4")), "Renglón 4: el año 93 no está entre 1500 y 2200.");
+    EXPECT_EQ(PrimerError(Doce(3, "1993")), "Renglón 4: faltan las dos columnas, año y valor.");
+    EXPECT_EQ(PrimerError(Doce(3, "1994;55")), "El año 1994 tiene dos máximos.");
+}
+
+TEST(Maximos, LasMuestrasQueNoSeAjustan)
+{
+    EXPECT_EQ(PrimerError(""), "Hay 0 máximos y hacen falta 10 por lo menos.");
+    EXPECT_EQ(PrimerError("1990;4\n1991;5\n"), "Hay 2 máximos y hacen falta 10 por lo menos.");
+    std::string iguales, muchos;
+    for (int i = 0; i < 12; ++i)
+        iguales += std::to_string(1990 + i) + ";50\n";
+    EXPECT_EQ(PrimerError(iguales), "Todos los valores son iguales: no hay nada que ajustar.");
+    for (int i = 0; i < 10000; ++i)
+        muchos += std::to_string(1500 + i % 700) + ";" + std::to_string(i + 1) + "\n";
+    const Serie s = LeeMaximos(muchos);
+    EXPECT_EQ(s.errores.size(), 21U);  // years twice, and how many more
+}
+
+TEST(Maximos, LosHuecosSeDicen)
+{
+    std::string t = Doce(3, "1993;") + "2010;33\n";
+    const Serie s = LeeMaximos(t);
+    EXPECT_EQ(s.errores, Textos{});
+    ASSERT_EQ(s.avisos.size(), 3U);
+    EXPECT_EQ(s.avisos[0],
+              "Faltan años: 1993, 2002 a 2009. Se ajusta con los que hay; es correcto si faltan por azar y "
+              "no por una "
+              "crecida.");
+    EXPECT_TRUE(s.avisos[1].starts_with("Con 12 años, las recurrencias de más de 24 años")) << s.avisos[1];
+    EXPECT_EQ(s.avisos[2], "Años sin dato: 1.");
+}
+
+TEST(Maximos, BytesCualesquieraNoRompenNada)
+{
+    std::string t;
+    for (int i = 0; i < 5000; ++i)
+        t += static_cast<char>((i * 7919 + i / 13) % 256);
+    EXPECT_FALSE(LeeMaximos(t).errores.empty());
+    EXPECT_FALSE(LeeMaximos(std::string(1000, '\0')).errores.empty());
+    EXPECT_FALSE(LeeMaximos(std::string(100, '-') + ";1").errores.empty());
+}
+
+}  // namespace

@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "frequency/Remuestreo.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <bit>
+#include <cstdint>
+#include <vector>
+
+#include "PortPirie.h"
+#include "frequency/Analisis.h"
+#include "frequency/EscribeAnalisis.h"
+
+namespace {
+
+using namespace frequency;
+
+Serie SerieDePortPirie()
+{
+    Serie s;
+    for (std::size_t i = 0; i < PortPirie.size(); ++i)
+        s.maximos.push_back({1923 + static_cast<int>(i), PortPirie[i]});
+    return s;
+}
+
+Remuestreo Con(int hilos, std::uint64_t semilla, int cuantas = 200)
+{
+    const Muestra m = HazMuestra(PortPirie);
+    const Parametros p = *Ajusta(Gev, m, Metodo::Verosimilitud).p;
+    return Remuestrea(Gev, p, Metodo::Verosimilitud, m, {semilla, cuantas, hilos});
+}
+
+TEST(Remuestreo, LosMismosBitsConCualquierNumeroDeHilos)
+{
+    const Remuestreo uno = Con(1, 5);
+    EXPECT_EQ(uno.sirven, 200);
+    for (const int hilos : {2, 3, 7}) {
+        const Remuestreo otro = Con(hilos, 5);
+        for (std::size_t i = 0; i < uno.banda5.size(); ++i) {
+            EXPECT_EQ(std::bit_cast<std::uint64_t>(uno.banda5[i]),
+                      std::bit_cast<std::uint64_t>(otro.banda5[i]));
+            EXPECT_EQ(std::bit_cast<std::uint64_t>(uno.banda95[i]),
+                      std::bit_cast<std::uint64_t>(otro.banda95[i]));
+        }
+        EXPECT_EQ(uno.p.ad, otro.p.ad);
+        EXPECT_EQ(uno.p.ks, otro.p.ks);
+    }
+    EXPECT_NE(uno.banda95, Con(2, 6).banda95);
+}
+
+/// Coles 2001, page 60: the 10-year level has the variance 0.00303, 90 % of a normal law within 1.645 of its
+/// root.
+TEST(Remuestreo, LaBandaEsComoLaDeColes)
+{
+    const Remuestreo r = Con(2, 1, 1000);
+    const std::size_t diez = 2;
+    ASSERT_EQ(model::Recurrencias[diez], 10);
+    EXPECT_NEAR(r.banda95[diez] - r.banda5[diez], 2 * 1.645 * 0.05505, 0.02);
+    EXPECT_LT(r.banda5[diez], 4.30);
+    EXPECT_GT(r.banda95[diez], 4.30);
+}
+
+/// A law that isn't the sample's is refused, one that is isn't.
+TEST(Remuestreo, ElValorPDistingueLasLeyes)
+{
+    std::vector<double> x;
+    constexpr std::size_t Cuantos = 60;
+    for (std::size_t i = 1; i <= Cuantos; ++i)
+        x.push_back(Gumbel.cuantil({60, 15, 0}, Posicion(i, Cuantos, 0.44)));
+    const Muestra m = HazMuestra(x);
+    const PedidoDeRemuestreo pedido{1, 200, 0};
+    const auto p = [&](const Ley& ley) {
+        return Remuestrea(ley, *Ajusta(ley, m, Metodo::MomentosL).p, Metodo::MomentosL, m, pedido).p;
+    };
+    EXPECT_GT(p(Gumbel).ad, 0.5);
+    EXPECT_GT(p(Gumbel).ppcc, 0.5);
+    EXPECT_LT(p(Exponencial).ad, 0.05);
+}
+
+TEST(Analisis, RecomiendaConSuMotivo)
+{
+    PedidoDeAnalisis pedido;
+    pedido.metodo = Metodo::Verosimilitud;
+    pedido.remuestreo.cuantas = 100;
+    const Analisis a = Analiza(SerieDePortPirie(), pedido);
+    ASSERT_EQ(a.ajustes.size(), Leyes().size());
+    ASSERT_NE(a.recomendacion.ley, nullptr);
+    for (const AjusteDeLey& f : a.ajustes)
+        if (f.estimado.p && f.remuestreo.p.ad >= 0.05) {
+            const auto mejor = std::find_if(a.ajustes.begin(), a.ajustes.end(), [&](const AjusteDeLey& g) {
+                return g.ley == a.recomendacion.ley;
+            });
+            EXPECT_LE(mejor->criterios.aicc, f.criterios.aicc);
+        }
+    EXPECT_TRUE(
+        a.recomendacion.motivo.starts_with(std::string(a.recomendacion.ley->nombre) + ": el menor AICc, "))
+        << a.recomendacion.motivo;
+    EXPECT_EQ(a.recomendacion.motivo.find("pruebas de la muestra"), std::string::npos);
+    const std::string texto = TextoDe(a);
+    EXPECT_NE(texto.find("Máximos anuales [mm]: 65, de 1923 a 1987\n"), std::string::npos) << texto;
+    EXPECT_NE(texto.find("(de Coles -0.050"), std::string::npos) << texto;
+}
+
+TEST(Analisis, SinNingunaLeyQueSirvaNoRecomienda)
+{
+    PedidoDeAnalisis pedido;
+    pedido.leyes = {&Exponencial};
+    pedido.remuestreo.cuantas = 200;
+    const Analisis a = Analiza(SerieDePortPirie(), pedido);
+    EXPECT_EQ(a.recomendacion.ley, nullptr);
+    EXPECT_TRUE(a.recomendacion.motivo.starts_with("Ninguna ley se puede recomendar"))
+        << a.recomendacion.motivo;
+}
+
+}  // namespace
