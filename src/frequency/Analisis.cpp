@@ -10,7 +10,7 @@
 namespace frequency {
 namespace {
 
-constexpr double Nivel = 0.05, MayorForma = 0.5;
+constexpr double Nivel = 0.05;
 
 AjusteDeLey AjustaLey(const Ley& ley, const Analisis& a)
 {
@@ -31,9 +31,15 @@ AjusteDeLey AjustaLey(const Ley& ley, const Analisis& a)
     return f;
 }
 
+/// Beyond the bounds of a shape a likelihood may be as great as one likes.
 bool FormaHabitual(const AjusteDeLey& f)
 {
-    return f.ley != &Gev || std::abs((*f.estimado.p)[2]) <= MayorForma;
+    for (std::size_t i = 0; i < f.ley->cuantos; ++i) {
+        const Parametro& q = f.ley->parametros[i];
+        const double valor = (*f.estimado.p)[i];
+        if (q.papel == Papel::Forma && (valor < q.menor || valor > q.mayor)) return false;
+    }
+    return true;
 }
 
 bool Rechazada(const AjusteDeLey& f)
@@ -71,14 +77,15 @@ Recomendacion Recomienda(const Analisis& a)
     }
     Recomendacion r;
     if (mejor == nullptr) {
-        r.motivo = "Ninguna ley se puede recomendar: Anderson-Darling rechaza " + std::to_string(rechazadas) +
-                   " y las demás no contienen la muestra o no tienen ajuste.";
+        r.motivo =
+            "Ninguna ley se puede recomendar: Anderson-Darling rechaza " + std::to_string(rechazadas) +
+            " y las demás no contienen la muestra, no tienen ajuste o tienen una forma que no es de lluvias.";
         return r;
     }
     r.ley = mejor->ley;
     r.motivo = std::string(mejor->ley->nombre) + ": el menor AICc, " +
                ConDosDecimales(mejor->criterios.aicc) + ", de las " + std::to_string(tomables) +
-               " leyes que contienen la muestra" +
+               " leyes que contienen la muestra con una forma habitual" +
                (a.pedido.cuantas > 0 ? " y Anderson-Darling no rechaza al 5 %." : ".");
     if (segunda != nullptr && segunda->criterios.aicc - mejor->criterios.aicc < 2)
         r.motivo += " " + std::string(segunda->ley->nombre) + " es casi igual de buena (AICc " +

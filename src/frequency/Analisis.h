@@ -46,8 +46,8 @@ struct Analisis {
 /// Of a series without errors.
 Analisis Analiza(const Serie& serie, const PedidoDeAnalisis& pedido);
 
-/// Of the laws that Anderson-Darling doesn't reject at 5 %, whose shape is a rainfall's and which hold every
-/// value, the one of least AICc.
+/// Of the laws that Anderson-Darling doesn't reject at 5 %, whose shape is within the search's bounds and
+/// which hold every value, the one of least AICc.
 Recomendacion Recomienda(const Analisis& a);
 
 }  // namespace frequency

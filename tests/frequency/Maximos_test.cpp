@@ -72,7 +72,13 @@ TEST(Maximos, LasMuestrasQueNoSeAjustan)
     for (int i = 0; i < 10000; ++i)
         muchos += std::to_string(1500 + i % 700) + ";" + std::to_string(i + 1) + "\n";
     const Serie s = LeeMaximos(muchos);
-    EXPECT_EQ(s.errores.size(), 21U);  // years twice, and how many more
+    ASSERT_EQ(s.errores.size(), 1U);
+    EXPECT_TRUE(s.errores[0].starts_with("Hay 10000 máximos: más de 1000 años no son de un pluviómetro."));
+    std::string malos;
+    for (int i = 0; i < 50; ++i)
+        malos += "1990;-1\n";
+    EXPECT_EQ(LeeMaximos(malos).errores.size(), 21U);
+    EXPECT_EQ(LeeMaximos(malos).errores.back(), "Y 31 más.");
 }
 
 TEST(Maximos, LosHuecosSeDicen)

@@ -102,6 +102,22 @@ TEST(Analisis, RecomiendaConSuMotivo)
     EXPECT_NE(texto.find("(de Coles -0.050"), std::string::npos) << texto;
 }
 
+/// One far value among equal ones: the likelihoods of the sharpest shapes are the greatest and mean nothing.
+TEST(Analisis, UnaFormaExtremaNoSeRecomienda)
+{
+    Serie s;
+    for (int i = 0; i < 12; ++i)
+        s.maximos.push_back({1990 + i, i == 3 ? 1.0 : 50.0});
+    PedidoDeAnalisis pedido;
+    pedido.metodo = Metodo::Momentos;
+    pedido.remuestreo.cuantas = 0;
+    pedido.leyes = {&Gumbel, &Gev, &PearsonIII};
+    const Analisis a = Analiza(s, pedido);
+    ASSERT_TRUE(a.ajustes[2].estimado.p);
+    EXPECT_LT((*a.ajustes[2].estimado.p)[2], -2);
+    EXPECT_EQ(a.recomendacion.ley, &Gumbel);
+}
+
 TEST(Analisis, SinNingunaLeyQueSirvaNoRecomienda)
 {
     PedidoDeAnalisis pedido;
