@@ -32,18 +32,10 @@ MapaDeEstudio::MapaDeEstudio(forms::Entorno& alrededor, const JuicioDeCorrida& e
 
 void MapaDeEstudio::Abre()
 {
-    pedido = juicio.EnCurso();
-    if (pedido) return;
     const JuicioDeCorrida::Corrida& u = juicio.Ultima();
     if (u != nullptr && u->esSerie) return model::Informa(entorno.s, EsDeSerie);
     if (u == nullptr || !u->corrido->TieneResultados()) return model::Informa(entorno.s, SinCorrida);
     Muestra(*u);
-}
-
-void MapaDeEstudio::Refresca()
-{
-    if (!pedido || juicio.EnCurso()) return;
-    entorno.Atiende([this] { Abre(); });
 }
 
 void MapaDeEstudio::Muestra(const checks::UltimaCorrida& u)

@@ -16,10 +16,8 @@ class MapaDeEstudio {
   public:
     MapaDeEstudio(forms::Entorno& alrededor, const JuicioDeCorrida& elJuicio);
 
-    /// Shows the last run, once it has been looked over; without one tells why not. Runs inside an event.
+    /// Shows the last run; without one tells why not. Runs inside an event.
     void Abre();
-    /// Another run is being looked over, or has been.
-    void Refresca();
 
     /// Says when what is on show is of an earlier run.
     checks::Franja& Franja() { return ventana.Franja(); }
@@ -36,7 +34,6 @@ class MapaDeEstudio {
     const JuicioDeCorrida& juicio;
     results::MapaDeCorrida mapa{};
     results::MapaDeCorrida_ventana ventana;
-    bool pedido = false;  ///< it opens as soon as the run has been looked over
 };
 
 }  // namespace shell

@@ -21,9 +21,9 @@ VentanasDeEstudio::VentanasDeEstudio(forms::Entorno& alrededor, MDIForm1_ventana
     entorno.AlTerminarSuceso(juicio, [this] { MuestraEstado(); });
     juicio.AlCambiar = [this] {
         MuestraEstado();
-        mapa.Refresca();
         ventanaResumen.Toma(juicio.Ultima());
         ventanaComparar.Toma(juicio.Ultima());
+        if (pedida && !juicio.EnCurso()) entorno.Atiende([this] { Abre(*pedida); });
     };
     mapa.AbreHidrograma = [this](const std::string& componente) { AbreHidrograma(componente); };
     linea.AlPedirAvisos = [this] { entorno.Atiende([this] { Abre(Ventana::Avisos); }); };
@@ -62,6 +62,13 @@ void VentanasDeEstudio::PonResumen()
 
 void VentanasDeEstudio::Abre(Ventana ventana)
 {
+    const bool deLaCorrida =
+        ventana == Ventana::Resumen || ventana == Ventana::Comparar || ventana == Ventana::Mapa;
+    pedida.reset();
+    if (deLaCorrida && juicio.EnCurso()) {
+        pedida = ventana;
+        return;
+    }
     if (ventana == Ventana::Avisos) ventanaAvisos.Abre();
     if (ventana == Ventana::Resumen) ventanaResumen.Abre(juicio.Ultima());
     if (ventana == Ventana::Comparar) ventanaComparar.Abre(juicio.Ultima());

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "checks/Sello.h"
@@ -48,7 +49,7 @@ class VentanasDeEstudio {
     results::dlgResumen_ventana& VentanaResumen() { return ventanaResumen; }
     results::dlgComparar_ventana& VentanaComparar() { return ventanaComparar; }
 
-    /// Brings one of the windows up. Runs inside an event.
+    /// Brings one of the windows up, that of a run once it has been looked over. Runs inside an event.
     void Abre(Ventana ventana);
 
     /// Goes to a component: the form of its properties; empty: the project's configuration. Runs inside an
@@ -63,8 +64,9 @@ class VentanasDeEstudio {
 
     forms::Entorno& entorno;
     checks::Sello sello{};
-    bool corrido = false;  ///< a run has been made
-    std::string cuando{};  ///< date and time of the last run
+    bool corrido = false;             ///< a run has been made
+    std::optional<Ventana> pedida{};  ///< opens once the run has been looked over
+    std::string cuando{};             ///< date and time of the last run
     JuicioDeCorrida juicio{};
     MapaDeEstudio mapa{entorno, juicio};
     LineaDeEstado linea;

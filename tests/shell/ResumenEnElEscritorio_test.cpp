@@ -86,6 +86,19 @@ TEST_F(ResumenEnElEscritorio, UnaFilaAbreSuHidrogramaYOtraCorridaSeVeSola)
     EXPECT_NE(Huella(), huella);
 }
 
+TEST_F(ResumenEnElEscritorio, PedidoMientrasSeRevisaLaCorridaSeAbreConElla)
+{
+    Accion("mnuCorre1").trigger();
+    ASSERT_TRUE(escritorio.Estudio().Juicio().EnCurso());
+    TeclaF11();
+    EXPECT_EQ(escritorio.Principal().findChild<QWidget*>(QStringLiteral("dlgResumen")), nullptr);
+    ASSERT_TRUE(Espera([&] {
+        const auto* const w = escritorio.Principal().findChild<QWidget*>(QStringLiteral("dlgResumen"));
+        return w != nullptr && w->isVisible();
+    }));
+    EXPECT_EQ(Huella(), escritorio.Estudio().Juicio().Ultima()->huella);
+}
+
 TEST_F(ResumenEnElEscritorio, LasFilasElegidasSeComparanEnUnGrafico)
 {
     Corre();
