@@ -32,7 +32,7 @@ class Interior : public QWidget {
   public:
     [[nodiscard]] QSize sizeHint() const override
     {
-        constexpr int Renglones = 16;
+        constexpr int Renglones = 9;
         return {QWidget::sizeHint().width(), Renglones * fontMetrics().lineSpacing()};
     }
 };

@@ -2,6 +2,7 @@
 #include "shell/LineaDeEstado_ventana.h"
 
 #include <QIcon>
+#include <QPixmap>
 #include <QStatusBar>
 #include <QToolButton>
 
@@ -27,6 +28,11 @@ LineaDeEstado::LineaDeEstado(QStatusBar& barra)
     avisos->setAccessibleName(QStringLiteral("Avisos de la corrida"));
     avisos->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     avisos->setFocusPolicy(Qt::TabFocus);
+    // As high from the start as with what it will show, so that no window below the bar is pushed then.
+    QPixmap hueco(avisos->iconSize());
+    hueco.fill(Qt::transparent);
+    PonAvisos("0", hueco, "");
+    avisos->setFixedHeight(avisos->sizeHint().height());
     QObject::connect(avisos, &QToolButton::clicked, &barra, [this] { AlPedirAvisos(); });
     barra.addPermanentWidget(tormenta);
     barra.addPermanentWidget(avisos);

@@ -28,9 +28,9 @@ using e2e::Principal;
 // In a window of this size, with the list at its foot.
 constexpr int Ancho = 1100, Alto = 680;
 constexpr int ClaveX = 1030, ClaveY = 663;     // key of the status bar
-constexpr int BotonX = 988, BotonY = 440;      // "Agregar ... y correr de nuevo"
-constexpr int BalanceX = 150, BalanceY = 470;  // page of the balance
-constexpr int SalidaX = 60, SalidaY = 546;     // its third row, c-1
+constexpr int BotonX = 988, BotonY = 537;      // "Agregar ... y correr de nuevo"
+constexpr int BalanceX = 150, BalanceY = 562;  // page of the balance
+constexpr int CuencaX = 60, CuencaY = 606;     // its first row, two above that of c-1
 constexpr int GraficoX = 400, GraficoY = 300;  // the chart, which stands above the list
 constexpr int Derecho = 3;
 
@@ -127,8 +127,8 @@ class PicoFalso : public e2e::EscritorioDePrueba {
     {
         pantalla->Pulsa(ClaveX, ClaveY);
         pantalla->Pulsa(BalanceX, BalanceY);
-        pantalla->Pulsa(SalidaX, SalidaY);
-        pantalla->Teclas({"Menu", "v"});
+        pantalla->Pulsa(CuencaX, CuencaY);
+        pantalla->Teclas({"Down", "Down", "Menu", "v"});
         const std::string archivo = raiz + "/celdas.csv";
         fs::remove(archivo);
         pantalla->Pulsa(GraficoX, GraficoY, Derecho);
