@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QTimer>
 #include <chrono>
+#include <utility>
 
 #include "checks/EscribeHallazgos.h"
 #include "checks/Lugares.h"
@@ -107,7 +108,10 @@ void Escritorio::PonAnfitrion()
     s.Vigilancia.activa = true;
     s.Anfitrion.ReclamaProyecto = [this](const std::string& conf) { return candado.Toma(conf); };
     s.Anfitrion.TiraAPapelera = [](const std::string& ruta) { return QFile::moveToTrash(forms::Q(ruta)); };
-    s.Anfitrion.AbreTablaSerie = [this] { Abre(Ventana::dlgTablaSalePDR, false); };
+    s.Anfitrion.AbreTablaSerie = [this] {
+        Abre(Ventana::dlgTablaSalePDR, false);
+        tablaDeSerie = true;
+    };
 }
 
 void Escritorio::PonVentanas()
@@ -155,7 +159,11 @@ void Escritorio::PonEstudio()
         ventanaPizarra->TrasCorrer();
     };
     mandos.TrasCorrer = trasCorrer;
-    mandos.TrasSerie = [this] { ventanasEstudio->TrasSerie(); };
+    mandos.TrasSerie = [this] {
+        ventanasEstudio->TrasSerie();
+        // Filled before the series had come to its end.
+        if (std::exchange(tablaDeSerie, false)) ventanasSerie->ventanaTablaCompleta.Franja().Toma();
+    };
     ventanaHidrograma->TrasCorrer = trasCorrer;
     ventanasEstudio->AbreHidrograma = [this](const std::string& componente) {
         hidrograma.abierta = false;  // so that it opens on this component

@@ -86,6 +86,7 @@ class Escritorio {
     Mandos mandos{};
     bool principalQueda = false;  ///< the editor that comes up doesn't hide the main window
     Candado candado{};
+    bool tablaDeSerie = false;  ///< the series under way has shown its table
 
     // The windows below the main one go first.
     std::unique_ptr<MDIForm1_ventana> ventanaPrincipal;

@@ -118,6 +118,7 @@ TEST_F(LaFranja, LaPizarraEsDeLaCorridaQueLaEscribio)
 
 TEST_F(LaFranja, ElAbacoDiceQueLaTormentaEnManoNoEsUnaSerie)
 {
+    Accion("mnuCorre1").trigger();
     Cambia([](model::Siro& s) {
         s.Tormenta.FormaPp = model::FormaLluvia::SeriePDR;
         s.Serie.NroSeriePDR = 2;
@@ -134,6 +135,11 @@ TEST_F(LaFranja, ElAbacoDiceQueLaTormentaEnManoNoEsUnaSerie)
     Accion("mnuCorre2").trigger();
     QWidget& abaco = Ventana("dlgChart3");
     EXPECT_FALSE(SeVe(abaco));
+    // It opens before the series has come to its end.
+    QWidget& tabla = Ventana("dlgTablaSalePDR");
+    QTest::qWait(100);
+    EXPECT_TRUE(tabla.isVisible());
+    EXPECT_FALSE(SeVe(tabla));
     Cambia([](model::Siro& s) { s.Tormenta.FormaPp = model::FormaLluvia::Escrita; });
     ASSERT_TRUE(Espera([&] { return SeVe(abaco); }));
     EXPECT_TRUE(Texto(abaco).find("Serie de 2 tormentas") != std::string::npos) << Texto(abaco);
