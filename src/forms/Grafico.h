@@ -61,7 +61,7 @@ struct Grafico {
     std::string magnitudX{};  ///< what the categories are, where ejeX tells their unit alone
     std::string salvedad{};   ///< what a picture or file of the chart has to say besides; not on the screen
     bool leyendaVisible = false;
-    bool muchasLineas = false;  ///< up to twelve, which are told apart in grey too
+    bool muchasLineas = false;    ///< up to twelve, which are told apart in grey too
     std::string tituloLeyenda{};  ///< what the names of the series are
     bool marcasEjeX = true;
     EscalaCategorias escala{};

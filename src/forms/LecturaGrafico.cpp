@@ -189,9 +189,8 @@ bool MismaEstructura(const Grafico& a, const Grafico& b)
     };
     return a.tipo == b.tipo && a.titulo == b.titulo && a.notaAlPie == b.notaAlPie && a.ejeX == b.ejeX &&
            a.ejeY == b.ejeY && a.ejeYSecundario == b.ejeYSecundario && a.leyendaVisible == b.leyendaVisible &&
-           a.muchasLineas == b.muchasLineas &&
-           a.tituloLeyenda == b.tituloLeyenda && a.marcasEjeX == b.marcasEjeX && a.escala == b.escala &&
-           a.marcas.size() == b.marcas.size() &&
+           a.muchasLineas == b.muchasLineas && a.tituloLeyenda == b.tituloLeyenda &&
+           a.marcasEjeX == b.marcasEjeX && a.escala == b.escala && a.marcas.size() == b.marcas.size() &&
            std::equal(a.series.begin(), a.series.end(), b.series.begin(), b.series.end(), iguales);
 }
 

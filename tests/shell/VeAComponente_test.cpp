@@ -47,7 +47,9 @@ TEST_F(VeAComponente, ConElEditorCerradoLoAbreYMuestraLaFormaDelComponente)
     escritorio.s.Tormenta.DurTormenta = 120;
     Accion("mnuCorre1").trigger();
     const std::string represa = escritorio.s.Red.ColRepresas.Item(1).NombreRepresa;
-    hace = [&](QWidget& forma) { EXPECT_EQ(DeQ(Control<QLineEdit>(forma, "txtNombreRepresa").text()), represa); };
+    hace = [&](QWidget& forma) {
+        EXPECT_EQ(DeQ(Control<QLineEdit>(forma, "txtNombreRepresa").text()), represa);
+    };
     Va(represa);
     EXPECT_EQ(formas, std::vector<std::string>{"dlgRepresas"});
     EXPECT_TRUE(seVe);
