@@ -28,7 +28,8 @@ void Proyecto(benchmark::State& estado)
 }
 BENCHMARK(Proyecto)->Unit(benchmark::kMicrosecond);
 
-void Archivo(benchmark::State& estado, void (*lee)(Siro&))
+template <typename Resultado>
+void Archivo(benchmark::State& estado, Resultado (*lee)(Siro&))
 {
     const bench::ProyectoTemporal proyecto;
     Siro s = bench::ProyectoAbierto(proyecto.Dir());

@@ -282,9 +282,10 @@ TEST_F(AvisosEnElEscritorio, LoQueNoCierraSeVeEnRojoEnGrisYEnPalabras)
     }
     EXPECT_GT(rojas, 1);
     EXPECT_GT(negras, 20);
-    if (const char* const carpeta = std::getenv("SIRO_FOTOS"))
+    if (const char* const carpeta = std::getenv("SIRO_FOTOS")) {
         EXPECT_TRUE(escritorio.Principal().grab().save(QString::fromUtf8(carpeta) +
                                                        QStringLiteral("/dlgAvisos_balance.png")));
+    }
 }
 
 TEST_F(AvisosEnElEscritorio, LoQueElEditorCambiaSeSabeAlVolver)

@@ -27,9 +27,9 @@ struct Caja {
 
 /// A label that wants a place.
 struct RotuloPedido {
-    forms::Pixel en{};          ///< what it belongs to
-    double aparte = 0;          ///< distance that it keeps from there, on both axes
-    std::vector<Caja> tamanos;  ///< `ancho` and `alto` of its texts, from the fullest to the shortest
+    forms::Pixel en{};            ///< what it belongs to
+    double aparte = 0;            ///< distance that it keeps from there, on both axes
+    std::vector<Caja> tamanos{};  ///< `ancho` and `alto` of its texts, from the fullest to the shortest
 };
 
 /// One that has found its place.
