@@ -93,8 +93,9 @@ TEST(Asistente, AlturaDeRepresaYDeLago)
 {
     CorridaDePrueba p;
     model::Represa& r = p.Represa("Piscina Nivelada", CorridaDePrueba::Prisma(2, 3, 4));
-    model::Lago& l = p.PonLago("l-1", "Piscina Nivelada", CorridaDePrueba::Prisma(2, 3, 4));
+    p.PonLago("l-1", "Piscina Nivelada", CorridaDePrueba::Prisma(2, 3, 4));
     p.PonLago("l-2", "Piscina Nivelada", {});
+    model::Lago& l = p.s.Red.ColLagos.Item(1);  // which a second one may have moved
     p.LlenaTablas();
     r.HInicialEmb = l.HInicialEmb = 101.5F;
     const std::string dentro = "Con 101.5 m: almacenamiento 30000 m3; descarga 4.5 m3/s.";
