@@ -12,6 +12,7 @@
 #include <cmath>
 
 #include "editor/lienzo/Imagen_ventana.h"
+#include "forms/ParteDeImagen_ventana.h"
 #include "forms/Polilinea_ventana.h"
 #include "forms/Textos_ventana.h"
 
@@ -191,17 +192,6 @@ ImagenCargada PintorDibujo::CargaFondo(forms::Entorno& entorno, const std::strin
     return {finFondo, {fondo.width(), fondo.height()}};
 }
 
-void PintorDibujo::PintaFondo(QPainter& pintor, const QRectF& donde) const
-{
-    // Only the part on the paper: at a large zoom the whole would be many times larger.
-    const QRectF visto = donde.intersected(pintor.clipBoundingRect());
-    if (fondo.isNull() || visto.isEmpty() || donde.isEmpty()) return;
-    const double ex = fondo.width() / donde.width(), ey = fondo.height() / donde.height();
-    const QRectF parte((visto.x() - donde.x()) * ex, (visto.y() - donde.y()) * ey, visto.width() * ex,
-                       visto.height() * ey);
-    pintor.drawPixmap(visto, fondo, parte);
-}
-
 namespace {
 
 /// The square in which an icon is seen undistorted: as large as its box, which a canvas that isn't square
@@ -279,7 +269,7 @@ void PintorDibujo::Pinta(QPainter& pintor, const frmUEHs& f, const QRectF& donde
         const FilaPapel& fila = De(p.papel);
         switch (p.forma) {
         case Primitiva::Forma::Imagen:
-            PintaFondo(pintor, mapa(p.en, p.tamano, p.alto));
+            forms::PintaParte(pintor, fondo, mapa(p.en, p.tamano, p.alto), pintor.clipBoundingRect());
             break;
         case Primitiva::Forma::Polilinea:
             puntos.clear();

@@ -29,7 +29,6 @@ class PintorDibujo {
 
   private:
     struct Mapa;
-    void PintaFondo(QPainter& pintor, const QRectF& donde) const;
     void PintaIcono(QPainter& pintor, const Primitiva& p, const QRectF& caja);
 
     QPixmap fondo{};

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "forms/ParteDeImagen_ventana.h"
 #include "forms/Polilinea_ventana.h"
 #include "forms/Textos_ventana.h"
 
@@ -112,23 +113,6 @@ double Mayor(const MapaDeCorrida& f, const ComponenteDelMapa& c)
     return c.EsCauce() ? AnchoDeCauce(parte) : LadoDeSimbolo(parte);
 }
 
-/// The part of an image that is in sight, in whole pixels of it: the whole would be many times larger at a
-/// large zoom. It is cut out first, since a drawing in a file takes no part of an image.
-void PintaImagen(QPainter& pintor, const QPixmap& imagen, const QRectF& donde, const QRectF& marco)
-{
-    const QRectF visto = donde.intersected(marco);
-    if (visto.isEmpty()) return;
-    const double ex = imagen.width() / donde.width(), ey = imagen.height() / donde.height();
-    const QRect parte = QRectF((visto.x() - donde.x()) * ex, (visto.y() - donde.y()) * ey, visto.width() * ex,
-                               visto.height() * ey)
-                            .toAlignedRect()
-                            .intersected(imagen.rect());
-    if (parte.isEmpty()) return;
-    pintor.drawPixmap(QRectF(donde.x() + parte.x() / ex, donde.y() + parte.y() / ey, parte.width() / ex,
-                             parte.height() / ey),
-                      imagen.copy(parte), QRectF({0, 0}, QSizeF(parte.size())));
-}
-
 double AnchoDeLeyenda(const QFont& letra)
 {
     return std::ceil(QFontMetricsF(letra).horizontalAdvance(QStringLiteral("Caudal [m3/s]"))) + 24;
@@ -225,10 +209,10 @@ void PintorDeMapa::PintaFondo(QPainter& pintor, const MapaDeCorrida& f, const Fo
     if (f.chkImagen && !fondo.imagen.isNull()) {
         const Pixel esquina = vista.APixel({fondo.marco.X, fondo.marco.Y});
         pintor.setOpacity(FondoALaVista);
-        PintaImagen(pintor, fondo.imagen,
-                    {esquina.x, esquina.y, fondo.marco.ancho * vista.escala,
-                     fondo.marco.alto * vista.EscalaVertical()},
-                    R(marco));
+        forms::PintaParte(pintor, fondo.imagen,
+                          {esquina.x, esquina.y, fondo.marco.ancho * vista.escala,
+                           fondo.marco.alto * vista.EscalaVertical()},
+                          R(marco));
         pintor.setOpacity(1);
     }
     pintor.setPen(QPen(QColor(Enlace), 1.2, Qt::DashLine));

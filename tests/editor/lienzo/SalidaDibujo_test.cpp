@@ -3,6 +3,8 @@
 // The drawing on paper and in files, as another program sees them.
 
 #include <QAction>
+#include <QPainter>
+#include <QPushButton>
 #include <QSvgRenderer>
 #include <filesystem>
 
@@ -88,6 +90,40 @@ TEST_F(SalidaDelDibujo, ImpresoSeVeComoEnElLienzo)
     EXPECT_NE(texto.find("Fecha: 03/04/2011"), std::string::npos) << texto;
 }
 
+/// A file as another program draws it, as large as `tamano`.
+QImage DeSvg(const std::string& ruta, QSize tamano)
+{
+    QImage imagen(tamano, QImage::Format_RGB32);
+    imagen.fill(Qt::white);
+    QSvgRenderer svg(forms::Q(ruta));
+    EXPECT_TRUE(svg.isValid());
+    QPainter papel(&imagen);
+    svg.render(&papel);
+    return imagen;
+}
+
+// An image half red, half blue, of which the canvas shows a part with the border in it.
+TEST_F(SalidaDelDibujo, DeUnaImagenMasGrandeQueElLienzoSeGuardaLaParteALaVista)
+{
+    QImage imagen(400, 300, QImage::Format_RGB32);
+    imagen.fill(Qt::red);
+    QPainter(&imagen).fillRect(0, 0, 130, 300, Qt::blue);
+    const std::string archivo = DeQ(dir.path()) + "/Proyectos/dos.png";
+    ASSERT_TRUE(imagen.save(forms::Q(archivo)));
+    s.Configuracion.ArchivoImagen = "dos.png";
+    s.Configuracion.EscalaImagen = 800;
+    s.Configuracion.ImagenX0 = s.Configuracion.ImagenY0 = -600;
+    apoyo::Pulsa(apoyo::Control<QPushButton>(ventana, "cmdImagenUEHs"));
+    ASSERT_TRUE(apoyo::Espera([&] { return f.fondo.ImagenVisible; }));
+    const QImage pantalla = Pantalla();
+    const std::string ruta = DeQ(dir.path()) + "/red";
+    mundo.anfitrion->elegidos = {ruta + ".svg"};
+    Hace("GuardaDibujoSVG");
+    const QSize lienzo = Lienzo().size();
+    const QSize todo = lienzo + QSize(0, Lienzo().fontMetrics().lineSpacing() + 2);
+    EXPECT_LT(Diferencia(DeSvg(ruta + ".svg", todo).copy({{0, 0}, lienzo}), pantalla), 2);
+}
+
 TEST_F(SalidaDelDibujo, CadaArchivoSeVeComoElLienzoYDiceQueEs)
 {
     const std::string ruta = DeQ(dir.path()) + "/red";
@@ -105,14 +141,7 @@ TEST_F(SalidaDelDibujo, CadaArchivoSeVeComoElLienzoYDiceQueEs)
     EXPECT_GT(png.height(), 2 * lienzo.height());
     EXPECT_LT(Diferencia(dibujo(png), Pantalla()), 2);
 
-    QImage deSvg(png.size(), QImage::Format_RGB32);
-    deSvg.fill(Qt::white);
-    QSvgRenderer svg(forms::Q(ruta + ".svg"));
-    ASSERT_TRUE(svg.isValid());
-    QPainter papel(&deSvg);
-    svg.render(&papel);
-    papel.end();
-    EXPECT_LT(Diferencia(dibujo(deSvg), Pantalla()), 2);
+    EXPECT_LT(Diferencia(dibujo(DeSvg(ruta + ".svg", png.size())), Pantalla()), 2);
 
     const QString hoja = dir.filePath(QStringLiteral("hoja"));
     apoyo::SalidaDe(QStringLiteral("pdftoppm"),
