@@ -6,13 +6,12 @@
 #include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QHeaderView>
-#include <QMenu>
 #include <QScrollBar>
 #include <algorithm>
 #include <numeric>
 #include <utility>
 
-#include "forms/Planilla_ventana.h"
+#include "forms/MenuDeTabla_ventana.h"
 #include "forms/Procedencia.h"
 #include "forms/SignoDecimal_ventana.h"
 #include "forms/Textos_ventana.h"
@@ -229,26 +228,12 @@ void TablaCuadro::keyPressEvent(QKeyEvent* evento)
 
 void TablaCuadro::contextMenuEvent(QContextMenuEvent* evento)
 {
-    const bool porTeclado = evento->reason() == QContextMenuEvent::Keyboard;
-    const int columna =
-        porTeclado ? currentIndex().column() : columnAt(viewport()->mapFromGlobal(evento->globalPos()).x());
-    QMenu menu(this);
-    menu.setObjectName(QStringLiteral("mnuTabla"));
-    AlArmarMenu(menu);
-    if (!menu.isEmpty()) menu.addSeparator();
-    QAction* const copia = menu.addAction(QStringLiteral("&Copiar la selección"));
-    copia->setObjectName(QStringLiteral("mnuCopiaSeleccion"));
-    copia->setShortcut(QKeySequence::Copy);
-    copia->setEnabled(selectionModel()->hasSelection());
-    connect(copia, &QAction::triggered, this, [this] { entorno.Atiende([this] { Copia(); }); });
-    AgregaPlanilla(menu, entorno, NombreDeArchivo({.titulo = std::string(titulo)}), DaPlanilla);
-    menu.addSeparator();
-    QAction* const ordena = menu.addAction(QStringLiteral("&Ordenar por esta columna"));
-    ordena->setObjectName(QStringLiteral("mnuOrdena"));
-    ordena->setEnabled(columna >= 0);
-    connect(ordena, &QAction::triggered, this, [this, columna] { AlPulsarEncabezado(columna); });
-    menu.exec(porTeclado ? viewport()->mapToGlobal(visualRect(currentIndex()).center())
-                         : evento->globalPos());
+    AbreMenu(entorno, *this, *evento,
+             {.archivo = NombreDeArchivo({.titulo = std::string(titulo)}),
+              .planilla = DaPlanilla,
+              .Copia = [this] { Copia(); },
+              .Ordena = [this](int columna) { AlPulsarEncabezado(columna); },
+              .Antes = AlArmarMenu});
 }
 
 }  // namespace forms

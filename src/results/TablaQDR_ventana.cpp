@@ -6,10 +6,9 @@
 #include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QHeaderView>
-#include <QMenu>
 #include <QScrollBar>
 
-#include "forms/Planilla_ventana.h"
+#include "forms/MenuDeTabla_ventana.h"
 #include "forms/Procedencia.h"
 #include "forms/SignoDecimal_ventana.h"
 #include "forms/Textos_ventana.h"
@@ -180,26 +179,12 @@ void VistaQDR::keyPressEvent(QKeyEvent* evento)
 
 void VistaQDR::contextMenuEvent(QContextMenuEvent* evento)
 {
-    const bool porTeclado = evento->reason() == QContextMenuEvent::Keyboard;
-    const int columna =
-        porTeclado ? currentIndex().column() : columnAt(viewport()->mapFromGlobal(evento->globalPos()).x());
-    QMenu menu(this);
-    menu.setObjectName(QStringLiteral("mnuTabla"));
-    QAction* const copia = menu.addAction(QStringLiteral("&Copiar la selección"));
-    copia->setObjectName(QStringLiteral("mnuCopiaSeleccion"));
-    copia->setShortcut(QKeySequence::Copy);
-    copia->setEnabled(selectionModel()->hasSelection());
-    connect(copia, &QAction::triggered, this, [this] { entorno.Atiende([this] { CopiaSeleccion(); }); });
-    forms::AgregaPlanilla(menu, entorno,
-                          forms::NombreDeArchivo({.titulo = std::string(titulo), .componente = Componente()}),
-                          [this] { return ComoPlanilla(t); });
-    menu.addSeparator();
-    QAction* const ordena = menu.addAction(QStringLiteral("&Ordenar por esta columna"));
-    ordena->setObjectName(QStringLiteral("mnuOrdena"));
-    ordena->setEnabled(columna >= 0);
-    connect(ordena, &QAction::triggered, this, [this, columna] { AlPulsarEncabezado(columna); });
-    menu.exec(porTeclado ? viewport()->mapToGlobal(visualRect(currentIndex()).center())
-                         : evento->globalPos());
+    forms::AbreMenu(
+        entorno, *this, *evento,
+        {.archivo = forms::NombreDeArchivo({.titulo = std::string(titulo), .componente = Componente()}),
+         .planilla = [this] { return ComoPlanilla(t); },
+         .Copia = [this] { CopiaSeleccion(); },
+         .Ordena = [this](int columna) { AlPulsarEncabezado(columna); }});
 }
 
 }  // namespace results
