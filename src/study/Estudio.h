@@ -11,7 +11,7 @@ namespace study {
 
 struct Estudio {
     Taller taller{};
-    std::string resto{};  ///< what a later version wrote and this one doesn't know, as JSON; kept
+    std::string resto{};  ///< keys of the file that this version doesn't know, as JSON; kept
     bool operator==(const Estudio&) const = default;
 };
 

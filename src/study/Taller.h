@@ -25,6 +25,7 @@ struct SerieDeMaximos {
     std::vector<Maximo> maximos{};  ///< by year
     std::string ley{}, metodo{};    ///< chosen; empty: none yet
     std::string motivo{};           ///< why, in the user's words
+    std::string resto{};            ///< as in Estudio.h
     bool operator==(const SerieDeMaximos&) const = default;
 };
 
@@ -34,6 +35,7 @@ struct Estacion {
     std::optional<double> altitud{};              ///< [m]
     std::string fuente{}, notas{};
     std::vector<SerieDeMaximos> series{};  ///< by duration
+    std::string resto{};                   ///< as in Estudio.h
     bool operator==(const Estacion&) const = default;
 };
 
@@ -63,6 +65,7 @@ struct Idf {
     std::vector<Razon> razones{};
     std::string reduccion{};  ///< areal; empty: none
     double area = 0;          ///< [km2]
+    std::string resto{};      ///< as in Estudio.h
     bool operator==(const Idf&) const = default;
 };
 
@@ -77,6 +80,7 @@ struct TormentaDeDiseno {
     std::string archivo{};  ///< of the recorded storm that is made dimensionless
     int tabla = 1;          ///< of storms, 1..3
     int distribucion = 1;   ///< personal one, 1..3
+    std::string resto{};    ///< as in Estudio.h
     bool operator==(const TormentaDeDiseno&) const = default;
 };
 
@@ -94,6 +98,7 @@ struct Taller {
     Idf idf{};
     TormentaDeDiseno tormenta{};
     std::vector<Derivado> derivados{};
+    std::string resto{};  ///< as in Estudio.h
     bool operator==(const Taller&) const = default;
 };
 
