@@ -50,14 +50,16 @@ struct Razon {
 struct Coeficiente {
     std::string simbolo{};
     double valor = 0;
+    double recurrencia = 0;  ///< [years] that it holds for, where a family has its own for each; 0: all
     bool operator==(const Coeficiente&) const = default;
 };
 
 /// How intensities are had for every duration and recurrence.
 struct Idf {
-    std::string origen = "diaria";  ///< "series": maxima of several durations; "diaria": daily ones,
-                                    ///< disaggregated; "coeficientes": typed
-    std::string familia = "sherman";
+    std::string origen = "diaria";    ///< "series": maxima of several durations; "diaria": daily ones,
+                                      ///< disaggregated; "coeficientes": typed
+    std::string estacion{};           ///< by its name; empty: the first
+    std::string familia = "sherman";  ///< empty: none, daily maxima as they are disaggregated
     std::string desagregacion = "dick-peschke";
     bool errorRelativo = false;  ///< the family is fitted to relative errors, not to logarithms
     double factorDiario = 1.13;  ///< of a day's maximum to that of 24 hours, applied to daily readings only
