@@ -5,12 +5,13 @@
 
 #include "batch/CorridaLote.h"
 #include "checks/Verifica.h"
+#include "frequency/casos/Familias.h"
 
 namespace batch {
 
 int MuestraCasos(const Opciones& o, const std::string& /*dirEjecutable*/, const Salidas& salidas)
 {
-    const std::vector<checks::Caso> casos = checks::Verifica();
+    const std::vector<checks::Caso> casos = checks::Verifica({}, frequency::Familias());
     const bool escrito =
         Muestra(salidas, o.json ? checks::JsonDeVerifica(casos) : checks::TextoDeVerifica(casos));
     return escrito && checks::CuantosFuera(casos) == 0 ? EstadoCompleto : EstadoInterrumpido;

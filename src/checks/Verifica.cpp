@@ -18,8 +18,9 @@ namespace checks {
 
 namespace {
 
-constexpr std::array Familias{casos::EmbalsesDeLibro, casos::Tramos,       casos::UEHs,
-                              casos::Almacenamiento,  casos::Convergencia, casos::BalanceDeRedes};
+constexpr std::array<casos::Familia, 6> Familias{
+    casos::EmbalsesDeLibro, casos::Tramos,       casos::UEHs,
+    casos::Almacenamiento,  casos::Convergencia, casos::BalanceDeRedes};
 
 /// Finds where the two columns differ most, where the source has a figure. What isn't a number of ours
 /// differs more than anything.
@@ -189,13 +190,15 @@ std::size_t CuantasCifras(const Caso& caso)
                                                   [](double cifra) { return !std::isnan(cifra); }));
 }
 
-std::vector<Caso> Verifica(const AvanceDeVerifica& avance)
+std::vector<Caso> Verifica(const AvanceDeVerifica& avance, std::span<const casos::Familia> mas)
 {
+    std::vector<casos::Familia> familias(Familias.begin(), Familias.end());
+    familias.insert(familias.end(), mas.begin(), mas.end());
     std::size_t total = 0;
-    for (const auto familia : Familias)
+    for (const auto familia : familias)
         total += familia().size();
     std::vector<Caso> casos;
-    for (const auto familia : Familias)
+    for (const auto familia : familias)
         for (const casos::FilaDeCaso& fila : familia()) {
             if (avance && !avance(casos.size(), total)) return casos;
             casos.push_back(Corre(fila));

@@ -3,9 +3,18 @@
 
 #include <cstddef>
 #include <functional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
+
+namespace checks::casos {
+
+struct FilaDeCaso;
+/// A file of cases; `Familias.h` tells what a row is.
+using Familia = std::span<const FilaDeCaso> (*)();
+
+}  // namespace checks::casos
 
 // The engine over cases whose results are known: printed in a book or a manual, or worked out without it. Who
 // signs a study sees here what the program can be trusted with.
@@ -46,8 +55,9 @@ std::size_t CuantasCifras(const Caso& caso);
 using AvanceDeVerifica = std::function<bool(std::size_t hechos, std::size_t total)>;
 
 /// Runs every case, in under two seconds: they are the same on every machine, to the last bit of the engine.
-/// On any thread. Where `avance`, which is asked ahead of each case, stops it, those so far.
-std::vector<Caso> Verifica(const AvanceDeVerifica& avance = {});
+/// On any thread. Where `avance`, which is asked ahead of each case, stops it, those so far. `mas`: the
+/// families of the rooms above, which come last.
+std::vector<Caso> Verifica(const AvanceDeVerifica& avance = {}, std::span<const casos::Familia> mas = {});
 
 /// How many are out of tolerance.
 int CuantosFuera(const std::vector<Caso>& casos);

@@ -32,7 +32,7 @@ constexpr std::array<int, NroColumnasDeCaso> Anchos{5, 0, 27, 11, 13, 11, 11, 12
 /// hand at most.
 class dlgVerificar_ventana::Corrida {
   public:
-    Corrida() : hilo([this] { Corre(); }) {}
+    explicit Corrida(std::span<const casos::Familia> mas) : familias(mas), hilo([this] { Corre(); }) {}
     ~Corrida()
     {
         Cancela();
@@ -52,15 +52,17 @@ class dlgVerificar_ventana::Corrida {
   private:
     void Corre()
     {
-        casos = Verifica([this](std::size_t van, std::size_t todos) {
+        const auto avance = [this](std::size_t van, std::size_t todos) {
             hechos = van;
             total = todos;
             return !cancelada;
-        });
+        };
+        casos = Verifica(avance, familias);
         segundos = std::chrono::duration<double>(std::chrono::steady_clock::now() - comienzo).count();
         terminada = true;
     }
 
+    std::span<const casos::Familia> familias;
     std::chrono::steady_clock::time_point comienzo = std::chrono::steady_clock::now();
     std::atomic<std::size_t> hechos = 0, total = 0;
     std::atomic<bool> cancelada = false, terminada = false;
@@ -69,8 +71,11 @@ class dlgVerificar_ventana::Corrida {
     std::thread hilo;  // the last one: it uses those above
 };
 
-dlgVerificar_ventana::dlgVerificar_ventana(forms::Entorno& alrededor, dlgVerificar& registro, QWidget* padre)
-    : Ventana(alrededor, {"dlgVerificar", TituloDlgVerificar, RotulosDlgVerificar}, padre), f(registro)
+dlgVerificar_ventana::dlgVerificar_ventana(forms::Entorno& alrededor, dlgVerificar& registro,
+                                           std::span<const casos::Familia> masFamilias, QWidget* padre)
+    : Ventana(alrededor, {"dlgVerificar", TituloDlgVerificar, RotulosDlgVerificar}, padre),
+      f(registro),
+      familias(masFamilias)
 {
     Sigue(f.abierta);
     tabla = new forms::TablaCuadro(entorno, f.tblCasos, "tblCasos", TituloDlgVerificar);
@@ -183,7 +188,7 @@ void dlgVerificar_ventana::Corre()
 {
     if (f.corriendo) return;
     Empieza(f);
-    corrida = std::make_unique<Corrida>();
+    corrida = std::make_unique<Corrida>(familias);
     latido.start();
 }
 

@@ -3,8 +3,10 @@
 
 #include <QTimer>
 #include <memory>
+#include <span>
 #include <vector>
 
+#include "checks/Verifica.h"
 #include "checks/dlgVerificar.h"
 #include "forms/Formulario_ventana.h"
 
@@ -21,7 +23,9 @@ namespace checks {
 /// once, with the cases that it has done.
 class dlgVerificar_ventana : public forms::Ventana {
   public:
-    dlgVerificar_ventana(forms::Entorno& alrededor, dlgVerificar& registro, QWidget* padre = nullptr);
+    /// `masFamilias`: cases of the rooms above.
+    dlgVerificar_ventana(forms::Entorno& alrededor, dlgVerificar& registro,
+                         std::span<const casos::Familia> masFamilias = {}, QWidget* padre = nullptr);
     ~dlgVerificar_ventana() override;
 
     /// Comes to the front; the first time it runs all cases.
@@ -45,6 +49,7 @@ class dlgVerificar_ventana : public forms::Ventana {
     void ImprimeTabla();
 
     dlgVerificar& f;
+    std::span<const casos::Familia> familias;
     forms::TablaCuadro* tabla = nullptr;
     forms::Lamina* Grafico = nullptr;
     QTimer latido{};

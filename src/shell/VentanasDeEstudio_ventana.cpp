@@ -4,6 +4,7 @@
 #include <QIcon>
 #include <QStatusBar>
 
+#include "frequency/casos/Familias.h"
 #include "model/Siro.h"
 
 namespace shell {
@@ -13,7 +14,7 @@ VentanasDeEstudio::VentanasDeEstudio(forms::Entorno& alrededor, MDIForm1_ventana
       linea(*laPrincipal.statusBar()),
       ventanaAvisos(alrededor, avisos, laPrincipal),
       ventanaRevisar(alrededor, revisar),
-      ventanaVerificar(alrededor, verificar),
+      ventanaVerificar(alrededor, verificar, frequency::Familias()),
       ventanaResumen(alrededor, resumen),
       ventanaComparar(alrededor, comparar)
 {

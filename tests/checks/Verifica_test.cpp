@@ -11,8 +11,6 @@
 #include <string_view>
 #include <vector>
 
-#include "apoyo/Compara.h"
-
 namespace checks {
 namespace {
 
@@ -82,17 +80,6 @@ TEST_F(LosCasos, LaToleranciaEsMenorQueLoQueSeCompara)
         if (mide == 0) continue;  // of a balance, 0 is printed
         EXPECT_LT(c.tolerancia, 0.2 * mide) << c.nombre;
     }
-}
-
-TEST_F(LosCasos, LaPaginaEsElTextoDelPrograma)
-{
-    std::string pagina = apoyo::BytesDeArchivo(SIRO_DOCS "/verificacion.md");
-    const std::string cerca = "```\n";
-    const std::size_t desde = pagina.find(cerca), hasta = pagina.rfind(cerca);
-    ASSERT_NE(desde, std::string::npos);
-    ASSERT_LT(desde, hasta);
-    EXPECT_TRUE(apoyo::MismoTexto(pagina.substr(desde + cerca.size(), hasta - desde - cerca.size()),
-                                  TextoDeVerifica(casos)));
 }
 
 Caso UnCaso(double desvio)

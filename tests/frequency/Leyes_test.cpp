@@ -7,14 +7,15 @@
 #include <string>
 #include <vector>
 
-#include "PortPirie.h"
 #include "frequency/Ajuste.h"
 #include "frequency/Bondad.h"
 #include "frequency/Philox.h"
+#include "frequency/casos/Muestras.h"
 
 namespace {
 
 using namespace frequency;
+using frequency::casos::PortPirie;
 
 constexpr double CienAnios = 0.99, DiezAnios = 0.9;
 

@@ -8,13 +8,14 @@
 #include <cstdint>
 #include <vector>
 
-#include "PortPirie.h"
 #include "frequency/Analisis.h"
 #include "frequency/EscribeAnalisis.h"
+#include "frequency/casos/Muestras.h"
 
 namespace {
 
 using namespace frequency;
+using frequency::casos::PortPirie;
 
 Serie SerieDePortPirie()
 {

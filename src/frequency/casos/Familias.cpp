@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "frequency/casos/Familias.h"
+
+#include <array>
+
+#include "frequency/casos/Filas.h"
+
+namespace frequency {
+
+std::span<const checks::casos::Familia> Familias()
+{
+    static constexpr std::array<checks::casos::Familia, 2> Todas{casos::FilasDeLeyes, casos::FilasDePruebas};
+    return Todas;
+}
+
+}  // namespace frequency
