@@ -49,7 +49,7 @@ int MuestraFrecuencia(const Opciones& o, const std::string& /*dirEjecutable*/, c
             salidas.Errores("siro-lote: " + error + "\n");
         return EstadoInterrumpido;
     }
-    const frequency::Analisis a = frequency::Analiza(serie, PedidoDe(o));
+    const frequency::Analisis a = *frequency::Analiza(serie, PedidoDe(o));
     const bool escrito = Muestra(salidas, o.json  ? frequency::JsonDe(a)
                                           : o.csv ? frequency::CsvDe(a)
                                                   : frequency::TextoDe(a));

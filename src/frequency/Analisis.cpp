@@ -12,6 +12,7 @@ namespace {
 
 constexpr double Nivel = 0.05;
 
+/// Without its bootstrap.
 AjusteDeLey AjustaLey(const Ley& ley, const Analisis& a)
 {
     AjusteDeLey f;
@@ -25,9 +26,7 @@ AjusteDeLey AjustaLey(const Ley& ley, const Analisis& a)
         f.bondad = BondadDe(ley, p, a.muestra.x);
     } catch (const std::exception&) {
         f.estimado = {{}, "Los cuantiles no se pueden calcular con los parámetros ajustados"};
-        return f;
     }
-    if (a.pedido.cuantas > 0) f.remuestreo = Remuestrea(ley, p, a.metodo, a.muestra, a.pedido);
     return f;
 }
 
@@ -95,7 +94,7 @@ Recomendacion Recomienda(const Analisis& a)
     return r;
 }
 
-Analisis Analiza(const Serie& serie, const PedidoDeAnalisis& pedido)
+std::optional<Analisis> Analiza(const Serie& serie, const PedidoDeAnalisis& pedido, const Avance& avance)
 {
     Analisis a;
     a.serie = serie;
@@ -109,8 +108,18 @@ Analisis Analiza(const Serie& serie, const PedidoDeAnalisis& pedido)
     const auto todas = Leyes();
     const std::vector<const Ley*> leyes =
         pedido.leyes.empty() ? std::vector<const Ley*>(todas.begin(), todas.end()) : pedido.leyes;
-    for (const Ley* ley : leyes)
-        a.ajustes.push_back(AjustaLey(*ley, a));
+    const auto porLey = static_cast<std::size_t>(std::max(1, a.pedido.cuantas));
+    for (std::size_t i = 0; i < leyes.size(); ++i) {
+        const auto deTodas = [&](std::size_t hechos, std::size_t /*total*/) {
+            return !avance || avance(i * porLey + hechos, leyes.size() * porLey);
+        };
+        if (!deTodas(0, porLey)) return {};
+        AjusteDeLey& f = a.ajustes.emplace_back(AjustaLey(*leyes[i], a));
+        if (!f.estimado.p || a.pedido.cuantas <= 0) continue;
+        const auto r = Remuestrea(*leyes[i], *f.estimado.p, a.metodo, a.muestra, a.pedido, deTodas);
+        if (!r) return {};
+        f.remuestreo = *r;
+    }
     a.recomendacion = Recomienda(a);
     return a;
 }

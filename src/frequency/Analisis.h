@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -43,8 +44,10 @@ struct Analisis {
     Recomendacion recomendacion{};
 };
 
-/// Of a series without errors.
-Analisis Analiza(const Serie& serie, const PedidoDeAnalisis& pedido);
+/// Of a series without errors, on any thread. Nothing where `avance`, asked over the samples of all laws,
+/// stops it; it answers within the time of one fit.
+std::optional<Analisis> Analiza(const Serie& serie, const PedidoDeAnalisis& pedido,
+                                const Avance& avance = {});
 
 /// Of the laws that Anderson-Darling doesn't reject at 5 %, whose shape is within the search's bounds and
 /// which hold every value, the one of least AICc.

@@ -42,25 +42,32 @@ std::optional<Miembro> HazMiembro(const Ley& ley, const Parametros& p, Metodo me
     }
 }
 
-std::vector<std::optional<Miembro>> HazMiembros(const Ley& ley, const Parametros& p, Metodo metodo,
-                                                std::size_t n, const PedidoDeRemuestreo& pedido)
+using Miembros = std::vector<std::optional<Miembro>>;
+
+/// Nothing where `avance` stops it.
+std::optional<Miembros> HazMiembros(const std::function<std::optional<Miembro>(std::size_t k)>& haz,
+                                    const PedidoDeRemuestreo& pedido, const Avance& avance)
 {
-    std::vector<std::optional<Miembro>> todos(static_cast<std::size_t>(std::max(0, pedido.cuantas)));
+    Miembros todos(static_cast<std::size_t>(std::max(0, pedido.cuantas)));
     std::atomic<std::size_t> siguiente = 0;
-    const auto trabaja = [&] {
-        for (std::size_t k = siguiente++; k < todos.size(); k = siguiente++)
-            todos[k] = HazMiembro(ley, p, metodo, n, Sorteo(pedido.semilla, k));
+    std::atomic<bool> detenido = false;
+    const auto trabaja = [&](const Avance& pregunta) {
+        for (std::size_t k = siguiente++; k < todos.size() && !detenido; k = siguiente++) {
+            if (pregunta && !pregunta(k, todos.size())) detenido = true;
+            if (!detenido) todos[k] = haz(k);
+        }
     };
     const int nucleos = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
     const int hilos = pedido.hilos > 0 ? pedido.hilos : nucleos;
     std::vector<std::jthread> ayudantes;
     try {
         for (int i = 1; i < hilos; ++i)
-            ayudantes.emplace_back(trabaja);
+            ayudantes.emplace_back(trabaja, Avance{});
     } catch (const std::system_error&) {  // no more threads: those that run do the work
     }
-    trabaja();
+    trabaja(avance);
     ayudantes.clear();
+    if (detenido) return {};
     return todos;
 }
 
@@ -83,13 +90,17 @@ PorRecurrencia CuantilesDe(const Ley& ley, const Parametros& p)
     return q;
 }
 
-Remuestreo Remuestrea(const Ley& ley, const Parametros& p, Metodo metodo, const Muestra& m,
-                      const PedidoDeRemuestreo& pedido)
+std::optional<Remuestreo> Remuestrea(const Ley& ley, const Parametros& p, Metodo metodo, const Muestra& m,
+                                     const PedidoDeRemuestreo& pedido, const Avance& avance)
 {
     constexpr double Bajo = 0.05, Alto = 0.95;
-    const auto todos = HazMiembros(ley, p, metodo, m.x.size(), pedido);
+    const auto haz = [&](std::size_t k) {
+        return HazMiembro(ley, p, metodo, m.x.size(), Sorteo(pedido.semilla, k));
+    };
+    const auto todos = HazMiembros(haz, pedido, avance);
+    if (!todos) return {};
     std::vector<const Miembro*> sirven;
-    for (const auto& miembro : todos)
+    for (const auto& miembro : *todos)
         if (miembro) sirven.push_back(&*miembro);
     Remuestreo r;
     r.sirven = static_cast<int>(sirven.size());

@@ -2,7 +2,10 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
+#include <functional>
+#include <optional>
 
 #include "frequency/Ajuste.h"
 #include "frequency/Bondad.h"
@@ -32,8 +35,13 @@ struct Remuestreo {
     [[nodiscard]] bool Hay() const { return sirven >= 20; }
 };
 
-/// Sample k draws its numbers from (seed, k) alone and all are put in order by k.
-Remuestreo Remuestrea(const Ley& ley, const Parametros& p, Metodo metodo, const Muestra& m,
-                      const PedidoDeRemuestreo& pedido);
+/// How far the work has come, `hechos` of `total` samples. Returns whether it goes on. Asked on the caller's
+/// thread, ahead of each sample that this one makes.
+using Avance = std::function<bool(std::size_t hechos, std::size_t total)>;
+
+/// Sample k draws its numbers from (seed, k) alone and all are put in order by k. Nothing where `avance`
+/// stops it, within the time of one fit.
+std::optional<Remuestreo> Remuestrea(const Ley& ley, const Parametros& p, Metodo metodo, const Muestra& m,
+                                     const PedidoDeRemuestreo& pedido, const Avance& avance = {});
 
 }  // namespace frequency

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <bit>
+#include <chrono>
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -29,7 +31,7 @@ Remuestreo Con(int hilos, std::uint64_t semilla, int cuantas = 200)
 {
     const Muestra m = HazMuestra(PortPirie);
     const Parametros p = *Ajusta(Gev, m, Metodo::Verosimilitud).p;
-    return Remuestrea(Gev, p, Metodo::Verosimilitud, m, {semilla, cuantas, hilos});
+    return *Remuestrea(Gev, p, Metodo::Verosimilitud, m, {semilla, cuantas, hilos});
 }
 
 TEST(Remuestreo, LosMismosBitsConCualquierNumeroDeHilos)
@@ -72,11 +74,44 @@ TEST(Remuestreo, ElValorPDistingueLasLeyes)
     const Muestra m = HazMuestra(x);
     const PedidoDeRemuestreo pedido{1, 200, 0};
     const auto p = [&](const Ley& ley) {
-        return Remuestrea(ley, *Ajusta(ley, m, Metodo::MomentosL).p, Metodo::MomentosL, m, pedido).p;
+        return Remuestrea(ley, *Ajusta(ley, m, Metodo::MomentosL).p, Metodo::MomentosL, m, pedido)->p;
     };
     EXPECT_GT(p(Gumbel).ad, 0.5);
     EXPECT_GT(p(Gumbel).ppcc, 0.5);
     EXPECT_LT(p(Exponencial).ad, 0.05);
+}
+
+/// Cancelled, it leaves nothing, and at once; asked of, it tells how far it has come.
+TEST(Remuestreo, SeDetieneAlInstanteYNoDejaNada)
+{
+    using Reloj = std::chrono::steady_clock;
+    PedidoDeAnalisis pedido;
+    pedido.metodo = Metodo::Verosimilitud;
+    pedido.remuestreo = {1, 2000, 2};
+    std::size_t antes = 0, total = 0;
+    Reloj::time_point parado{};
+    const auto a = Analiza(SerieDePortPirie(), pedido, [&](std::size_t hechos, std::size_t todos) {
+        EXPECT_GE(hechos, antes);
+        antes = hechos;
+        total = todos;
+        if (hechos < 2500) return true;
+        parado = Reloj::now();
+        return false;
+    });
+    EXPECT_FALSE(a);
+    EXPECT_LT(std::chrono::duration<double>(Reloj::now() - parado).count(), 0.1);
+    EXPECT_EQ(total, 2000 * Leyes().size());
+    EXPECT_GE(antes, 2500U);
+}
+
+/// To be watched changes nothing.
+TEST(Remuestreo, MirarloNoCambiaNada)
+{
+    PedidoDeAnalisis pedido;
+    pedido.remuestreo.cuantas = 100;
+    const auto siga = [](std::size_t, std::size_t) { return true; };
+    EXPECT_EQ(JsonDe(*Analiza(SerieDePortPirie(), pedido, siga)),
+              JsonDe(*Analiza(SerieDePortPirie(), pedido)));
 }
 
 TEST(Analisis, RecomiendaConSuMotivo)
@@ -84,7 +119,7 @@ TEST(Analisis, RecomiendaConSuMotivo)
     PedidoDeAnalisis pedido;
     pedido.metodo = Metodo::Verosimilitud;
     pedido.remuestreo.cuantas = 100;
-    const Analisis a = Analiza(SerieDePortPirie(), pedido);
+    const Analisis a = *Analiza(SerieDePortPirie(), pedido);
     ASSERT_EQ(a.ajustes.size(), Leyes().size());
     ASSERT_NE(a.recomendacion.ley, nullptr);
     for (const AjusteDeLey& f : a.ajustes)
@@ -113,7 +148,7 @@ TEST(Analisis, UnaFormaExtremaNoSeRecomienda)
     pedido.metodo = Metodo::Momentos;
     pedido.remuestreo.cuantas = 0;
     pedido.leyes = {&Gumbel, &Gev, &PearsonIII};
-    const Analisis a = Analiza(s, pedido);
+    const Analisis a = *Analiza(s, pedido);
     ASSERT_TRUE(a.ajustes[2].estimado.p);
     EXPECT_LT((*a.ajustes[2].estimado.p)[2], -2);
     EXPECT_EQ(a.recomendacion.ley, &Gumbel);
@@ -124,7 +159,7 @@ TEST(Analisis, SinNingunaLeyQueSirvaNoRecomienda)
     PedidoDeAnalisis pedido;
     pedido.leyes = {&Exponencial};
     pedido.remuestreo.cuantas = 200;
-    const Analisis a = Analiza(SerieDePortPirie(), pedido);
+    const Analisis a = *Analiza(SerieDePortPirie(), pedido);
     EXPECT_EQ(a.recomendacion.ley, nullptr);
     EXPECT_TRUE(a.recomendacion.motivo.starts_with("Ninguna ley se puede recomendar"))
         << a.recomendacion.motivo;
