@@ -9,7 +9,7 @@ set -eu
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 . .ci/paquetes.sh
 destino=$(realpath "${1:-docs/img}")
-necesita construye escritorio pantalla
+necesita construye estudio escritorio pantalla
 construye release siro
 construye bench proyecto_limite
 mkdir -p "$destino"

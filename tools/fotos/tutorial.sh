@@ -8,7 +8,7 @@
 set -eu
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 . .ci/paquetes.sh
-necesita construye escritorio pantalla
+necesita construye estudio escritorio pantalla
 construye dev pruebas_e2e
 
 taller=/var/tmp/SIRO
