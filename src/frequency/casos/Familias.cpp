@@ -9,7 +9,8 @@ namespace frequency {
 
 std::span<const checks::casos::Familia> Familias()
 {
-    static constexpr std::array<checks::casos::Familia, 2> Todas{casos::FilasDeLeyes, casos::FilasDePruebas};
+    static constexpr std::array<checks::casos::Familia, 3> Todas{casos::FilasDeLeyes, casos::FilasDePruebas,
+                                                                 casos::FilasDePatrones};
     return Todas;
 }
 

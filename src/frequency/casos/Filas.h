@@ -10,7 +10,8 @@ namespace frequency::casos {
 using checks::casos::Comparacion;
 using checks::casos::FilaDeCaso;
 
-std::span<const FilaDeCaso> FilasDeLeyes();    ///< parameters and quantiles of the books
-std::span<const FilaDeCaso> FilasDePruebas();  ///< tests of a sample
+std::span<const FilaDeCaso> FilasDeLeyes();     ///< parameters and quantiles of the books
+std::span<const FilaDeCaso> FilasDePruebas();   ///< tests of a sample
+std::span<const FilaDeCaso> FilasDePatrones();  ///< storms spread over time
 
 }  // namespace frequency::casos
