@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "batch/Opciones.h"
+
+// How each order is called, as --help shows it.
+namespace batch {
+namespace {
+
+constexpr std::string_view TextoUso =
+    R"(Uso: siro-lote una   CONF [opciones]    una tormenta
+     siro-lote serie CONF [opciones]    una serie P-D-R
+
+CONF es el archivo <Proyecto>_Conf.vlm de un proyecto.
+
+  --trabajo DIR           tablas compartidas y archivos de resultados (el directorio del programa)
+  --forma N               0, 1 una tormenta escrita; 3 una lámina por UEH; 4 una tormenta real (0)
+  --pp MM                 precipitación [mm] (60)
+  --dur MIN               duración [min] (60)
+  --rec AÑOS              recurrencia [años] (0)
+  --distribucion N        distribución temporal, 0 a 7 (0)
+  --paso-pp MIN           paso del modelo [min] (10)
+  --paso-q MIN            paso de salida de los caudales [min] (10)
+  --pp-ueh V,V,...        precipitación de cada UEH [mm], en el orden del archivo, para --forma 3
+  --tormenta NOMBRE       archivo _pt.vlm de la tormenta real, en el directorio del proyecto, para --forma 4
+  --tabla K               tabla P-D-R de la serie, 0 a 3 (0)
+  --pizarra               el texto de la Pizarra va a la salida estándar
+  --responde si|no        respuesta a toda pregunta (si)
+  --hilos N               hilos de una serie, hasta 1024; 0: todos los núcleos (0)
+  --resultados ARCHIVO    resultados en CSV
+  --avisos                avisos, balance de agua y huella de la corrida, en la salida estándar
+  --json                  lo de --avisos, en JSON
+  --ayuda, --help         este texto
+
+Estado de salida: 0 la corrida llegó a su fin; 1 un control o la entrada dañada la terminó, o no se pudo
+                  escribir un resultado;
+                  2 la línea de órdenes es errónea; 3 una respuesta No o un mensaje fatal terminó el programa.
+)";
+
+constexpr std::string_view TextoUsoRevisa =
+    R"(Uso: siro-lote revisa CONF [opciones]    revisa un proyecto antes de correrlo
+
+Dice todo aquello por lo que una corrida se detendría o preguntaría, y los datos que no pueden ser.
+La tormenta y los pasos son los de la orden una: --forma, --pp, --dur, --rec, --distribucion, --paso-pp,
+--paso-q, --pp-ueh, --tormenta, y el directorio --trabajo.
+
+  --cuenca HA             superficie medida de la cuenca [ha], que las UEHs deben sumar
+  --json                  los hallazgos en JSON
+  --ayuda, --help         este texto
+
+Estado de salida: 0 no hay errores; 1 hay alguno; 2 la línea de órdenes es errónea.
+)";
+
+constexpr std::string_view TextoUsoVerifica =
+    R"(Uso: siro-lote verifica [--json]
+
+Corre los casos publicados y dice, de cada uno, la fuente, la cifra impresa, la del programa, el desvío y la
+tolerancia.
+
+  --json                  en JSON, con las series para un gráfico
+  --ayuda, --help         este texto
+
+Estado de salida: 0 todos están dentro de la tolerancia; 1 alguno no, o no se pudo escribir; 2 la línea de órdenes
+                  es errónea.
+)";
+
+constexpr std::string_view TextoUsoFrecuencia =
+    R"(Uso: siro-lote frecuencia ARCHIVO [opciones]    láminas por recurrencia de los máximos anuales de una estación
+
+ARCHIVO tiene un renglón por año, con dos columnas: año;valor o fecha;valor (dd/mm/aaaa, aaaa-mm-dd), en mm. Sin
+valor, el año queda como hueco. Hacen falta 10 años por lo menos.
+
+  --metodo M              momentos; l, momentos L; mv, máxima verosimilitud (l)
+  --ley L                 una sola: gumbel, gev, exponencial, ln2, ln3, pearson3, logpearson3, sqrt-etmax (todas)
+  --remuestras N          remuestreos para las bandas y las p, 100 a 100000; 0: ninguno (1000)
+  --semilla N             la de los remuestreos: la misma da los mismos resultados (1)
+  --hilos N               hilos, hasta 1024; 0: todos los núcleos. No cambia los resultados (0)
+  --json                  todo, en JSON
+  --csv                   los cuantiles con sus bandas, en CSV
+  --ayuda, --help         este texto
+
+Estado de salida: 0 hay resultados; 1 los datos no se pueden ajustar, o no se pudo leer o escribir; 2 la línea de
+                  órdenes es errónea.
+)";
+
+}  // namespace
+
+std::string_view Uso()
+{
+    return TextoUso;
+}
+
+std::string_view UsoRevisa()
+{
+    return TextoUsoRevisa;
+}
+
+std::string_view UsoVerifica()
+{
+    return TextoUsoVerifica;
+}
+
+std::string_view UsoFrecuencia()
+{
+    return TextoUsoFrecuencia;
+}
+
+}  // namespace batch
