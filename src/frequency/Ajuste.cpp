@@ -52,6 +52,18 @@ Estimado SinControl(const Ley& ley, const Muestra& m, Metodo metodo)
 
 }  // namespace
 
+double Cuantil(const Ley& ley, const Parametros& p, double p0, double F)
+{
+    if (p0 <= 0) return ley.cuantil(p, F);
+    return F <= p0 ? 0 : ley.cuantil(p, (F - p0) / (1 - p0));
+}
+
+double Probabilidad(const Ley& ley, const Parametros& p, double p0, double x)
+{
+    if (p0 <= 0) return ley.probabilidad(p, x);
+    return x < 0 ? 0 : p0 + (1 - p0) * ley.probabilidad(p, x);
+}
+
 Estimado Ajusta(const Ley& ley, const Muestra& m, Metodo metodo)
 {
     const Estimado sin{{}, "El ajuste no tiene solución"};

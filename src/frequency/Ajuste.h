@@ -15,4 +15,9 @@ std::string_view NombreDe(Metodo metodo);
 /// Fits a law to a sample. What the special functions refuse is a fit that isn't there, with its reason.
 Estimado Ajusta(const Ley& ley, const Muestra& m, Metodo metodo);
 
+/// A law of the years with rain among others without, p0 of them: F = p0 + (1 - p0) G. Haan, "Statistical
+/// methods in hydrology", 1977, chapter 7; Bulletin 17B, 1982, appendix 5. 0 where F isn't above p0.
+double Cuantil(const Ley& ley, const Parametros& p, double p0, double F);
+double Probabilidad(const Ley& ley, const Parametros& p, double p0, double x);
+
 }  // namespace frequency

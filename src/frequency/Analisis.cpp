@@ -21,7 +21,7 @@ AjusteDeLey AjustaLey(const Ley& ley, const Analisis& a)
     if (!f.estimado.p) return f;
     const Parametros& p = *f.estimado.p;
     try {
-        f.cuantiles = CuantilesDe(ley, p);
+        f.cuantiles = CuantilesDe(ley, p, a.muestra.P0());
         f.criterios = CriteriosDe(ley, p, a.muestra.x);
         f.bondad = BondadDe(ley, p, a.muestra.x);
     } catch (const std::exception&) {
@@ -92,6 +92,11 @@ Recomendacion Recomienda(const Analisis& a)
     if (std::any_of(a.pruebas.begin(), a.pruebas.end(), [](const Prueba& p) { return p.rechaza; }))
         r.motivo += " Antes atienda lo que dicen las pruebas de la muestra.";
     return r;
+}
+
+double CuantilDe(const Analisis& a, const AjusteDeLey& ajuste, double recurrencia)
+{
+    return Cuantil(*ajuste.ley, *ajuste.estimado.p, a.muestra.P0(), 1 - 1 / recurrencia);
 }
 
 std::optional<Analisis> Analiza(const Serie& serie, const PedidoDeAnalisis& pedido, const Avance& avance)

@@ -49,6 +49,9 @@ struct Analisis {
 std::optional<Analisis> Analiza(const Serie& serie, const PedidoDeAnalisis& pedido,
                                 const Avance& avance = {});
 
+/// The depth of any recurrence [years], above 1, by a law that has parameters.
+double CuantilDe(const Analisis& a, const AjusteDeLey& ajuste, double recurrencia);
+
 /// Of the laws that Anderson-Darling doesn't reject at 5 %, whose shape is within the search's bounds and
 /// which hold every value, the one of least AICc.
 Recomendacion Recomienda(const Analisis& a);

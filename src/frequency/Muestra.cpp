@@ -56,6 +56,7 @@ Muestra HazMuestra(std::vector<double> x)
 {
     Muestra m;
     m.x = std::move(x);
+    m.secos = std::erase(m.x, 0.0);
     std::sort(m.x.begin(), m.x.end());
     m.directos = {MomentosDe(m.x), MomentosLDe(m.x)};
     m.positiva = !m.x.empty() && m.x.front() > 0;

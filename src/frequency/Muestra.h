@@ -31,13 +31,21 @@ struct Descriptivos {
 };
 
 struct Muestra {
-    std::vector<double> x{};  ///< rising
+    std::vector<double> x{};  ///< rising; years without rain aren't in it
+    std::size_t secos = 0;    ///< years without rain, whose maximum is 0
     Descriptivos directos{};
     Descriptivos decimales{};  ///< of log10 x; nothing where `positiva` isn't set
-    bool positiva = false;     ///< every value is above 0
+    bool positiva = false;     ///< every value of x is above 0
+
+    [[nodiscard]] std::size_t Anios() const { return x.size() + secos; }
+    /// The part of the years that is without rain.
+    [[nodiscard]] double P0() const
+    {
+        return secos == 0 ? 0 : static_cast<double>(secos) / static_cast<double>(Anios());
+    }
 };
 
-/// Sorts the values, ten at least where they are a station's.
+/// Sorts the values and sets those that are 0 apart. A station has ten others at least.
 Muestra HazMuestra(std::vector<double> x);
 
 /// Plotting position of value i of n in rising order, i from 1: (i - a) / (n + 1 - 2a). a: Weibull 0, Blom

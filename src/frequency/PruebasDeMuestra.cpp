@@ -148,8 +148,10 @@ Prueba GrubbsBeck(const std::vector<Maximo>& maximos, bool altos)
                   altos ? "Dato anómalo alto (Grubbs-Beck)" : "Dato anómalo bajo (Grubbs-Beck)",
                   "Grubbs y Beck 1972; Bulletin 17B, 1982, apéndice 4", "G"};
     constexpr std::size_t UltimoDeLaFormula = 149;
+    std::vector<Maximo> lluviosos = maximos;  // a year without rain has no logarithm
+    std::erase_if(lluviosos, [](const Maximo& m) { return m.valor <= 0; });
     std::vector<double> y;
-    for (const Maximo& m : maximos)
+    for (const Maximo& m : lluviosos)
         y.push_back(std::log10(m.valor));
     const Momentos momentos = MomentosDe(y);
     const auto n = static_cast<double>(y.size());
@@ -159,7 +161,7 @@ Prueba GrubbsBeck(const std::vector<Maximo>& maximos, bool altos)
     for (std::size_t i = 0; i < y.size(); ++i) {
         const double g = (altos ? y[i] - momentos.media : momentos.media - y[i]) / momentos.desvio;
         mayor = std::fmax(mayor, g);
-        if (g > K) lejanos += (lejanos.empty() ? "" : ", ") + std::to_string(maximos[i].anio);
+        if (g > K) lejanos += (lejanos.empty() ? "" : ", ") + std::to_string(lluviosos[i].anio);
     }
     prueba.estadistico = prueba.z = mayor;
     prueba.p = ProbabilidadDeLejano(mayor, n);

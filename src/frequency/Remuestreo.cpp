@@ -21,19 +21,23 @@ namespace {
 struct Miembro {
     PorRecurrencia cuantiles{};
     Bondad bondad{};
+    RazonesL razones{};
 };
 
-std::optional<Miembro> HazMiembro(const Ley& ley, const Parametros& p, Metodo metodo, std::size_t n,
+std::optional<Miembro> HazMiembro(const Ley& ley, const Parametros& p, Metodo metodo, const Muestra& de,
                                   Sorteo sorteo)
 {
+    constexpr std::size_t Menos = 5;  // years with rain that a fit needs to mean anything
     try {
-        std::vector<double> x(n);
+        std::vector<double> x(de.Anios());
         for (double& xi : x)
-            xi = ley.cuantil(p, sorteo.Uniforme());
+            xi = Cuantil(ley, p, de.P0(), sorteo.Uniforme());
         const Muestra m = HazMuestra(std::move(x));
+        if (m.x.size() < Menos) return {};
         const Estimado e = Ajusta(ley, m, metodo);
         if (!e.p) return {};
-        Miembro miembro{CuantilesDe(ley, *e.p), BondadDe(ley, *e.p, m.x)};
+        const MomentosL& l = m.directos.l;
+        Miembro miembro{CuantilesDe(ley, *e.p, m.P0()), BondadDe(ley, *e.p, m.x), {l.t3, l.t4}};
         for (const double q : miembro.cuantiles)
             if (!std::isfinite(q)) return {};
         return miembro;
@@ -82,11 +86,11 @@ double CuantilDe(const std::vector<double>& x, double q)
 
 }  // namespace
 
-PorRecurrencia CuantilesDe(const Ley& ley, const Parametros& p)
+PorRecurrencia CuantilesDe(const Ley& ley, const Parametros& p, double p0)
 {
     PorRecurrencia q{};
     for (std::size_t i = 0; i < q.size(); ++i)
-        q[i] = ley.cuantil(p, 1 - 1.0 / model::Recurrencias[i]);
+        q[i] = Cuantil(ley, p, p0, 1 - 1.0 / model::Recurrencias[i]);
     return q;
 }
 
@@ -94,9 +98,7 @@ std::optional<Remuestreo> Remuestrea(const Ley& ley, const Parametros& p, Metodo
                                      const PedidoDeRemuestreo& pedido, const Avance& avance)
 {
     constexpr double Bajo = 0.05, Alto = 0.95;
-    const auto haz = [&](std::size_t k) {
-        return HazMiembro(ley, p, metodo, m.x.size(), Sorteo(pedido.semilla, k));
-    };
+    const auto haz = [&](std::size_t k) { return HazMiembro(ley, p, metodo, m, Sorteo(pedido.semilla, k)); };
     const auto todos = HazMiembros(haz, pedido, avance);
     if (!todos) return {};
     std::vector<const Miembro*> sirven;
@@ -105,6 +107,8 @@ std::optional<Remuestreo> Remuestrea(const Ley& ley, const Parametros& p, Metodo
     Remuestreo r;
     r.sirven = static_cast<int>(sirven.size());
     if (!r.Hay()) return r;
+    for (const Miembro* miembro : sirven)
+        r.razones.push_back(miembro->razones);
     for (std::size_t t = 0; t < r.banda5.size(); ++t) {
         std::vector<double> q;
         for (const Miembro* miembro : sirven)

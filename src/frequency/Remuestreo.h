@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <vector>
 
 #include "frequency/Ajuste.h"
 #include "frequency/Bondad.h"
@@ -18,7 +19,8 @@ namespace frequency {
 /// Values for the recurrences that the tables of storms have, model::Recurrencias.
 using PorRecurrencia = std::array<double, model::Recurrencias.size()>;
 
-PorRecurrencia CuantilesDe(const Ley& ley, const Parametros& p);
+/// `p0`: the part of the years that is without rain; a recurrence within it gives 0.
+PorRecurrencia CuantilesDe(const Ley& ley, const Parametros& p, double p0);
 
 struct PedidoDeRemuestreo {
     std::uint64_t semilla = 1;
@@ -26,10 +28,16 @@ struct PedidoDeRemuestreo {
     int hilos = 0;       ///< 0: all cores. The results don't depend on them
 };
 
+/// A pair of L-skew and L-kurtosis.
+struct RazonesL {
+    double t3 = 0, t4 = 0;
+};
+
 struct Remuestreo {
     PorRecurrencia banda5{}, banda95{};  ///< quantiles of 5 and 95 % of the samples
-    Bondad p{};      ///< p-values of the measures of fit, (1 + farther ones) / (1 + samples)
-    int sirven = 0;  ///< samples that could be fitted
+    Bondad p{};                       ///< p-values of the measures of fit, (1 + farther ones) / (1 + samples)
+    std::vector<RazonesL> razones{};  ///< of the samples, by their number
+    int sirven = 0;                   ///< samples that could be fitted
 
     /// There are enough of them for bands and p-values.
     [[nodiscard]] bool Hay() const { return sirven >= 20; }
@@ -39,7 +47,8 @@ struct Remuestreo {
 /// thread, ahead of each sample that this one makes.
 using Avance = std::function<bool(std::size_t hechos, std::size_t total)>;
 
-/// Sample k draws its numbers from (seed, k) alone and all are put in order by k. Nothing where `avance`
+/// The samples have as many years as `m`, those without rain among them by their probability. Sample k draws
+/// its numbers from (seed, k) alone and all are put in order by k. Nothing where `avance`
 /// stops it, within the time of one fit.
 std::optional<Remuestreo> Remuestrea(const Ley& ley, const Parametros& p, Metodo metodo, const Muestra& m,
                                      const PedidoDeRemuestreo& pedido, const Avance& avance = {});
