@@ -34,7 +34,7 @@ struct EstadoDeArchivo {
 class Abierto {
   public:
     /// `unSiro` outlives it.
-    explicit Abierto(model::Siro& unSiro);
+    explicit Abierto(model::Siro& unSiro) : s(unSiro) {}
     Abierto(const Abierto&) = delete;
     Abierto& operator=(const Abierto&) = delete;
 
@@ -69,8 +69,10 @@ class Abierto {
     // --- the project in hand ---
 
     /// Follows the project in hand, whoever changed it: reads its study, tells where that can't be read, and
-    /// now and then tries again what couldn't be written. Belongs at the end of each event.
+    /// now and then tries again what couldn't be written. Belongs behind each event, as one of its own where
+    /// there is something to do.
     void Sigue();
+    [[nodiscard]] bool HaDeSeguir() const;
     /// The project in hand is that of before under a new name: value and steps stay, and are written there.
     void TrasGuardarComo();
     /// Files of projects have been deleted: where this one's study was among them, it is empty.
@@ -81,23 +83,27 @@ class Abierto {
   private:
     struct Paso {
         std::string leyenda{};
-        Estudio antes{};  ///< the value on the other side of the step
+        Estudio otro{};  ///< the value on the other side of the step
     };
     bool Salta(std::vector<Paso>& desde, std::vector<Paso>& hacia);
-    void Toma(std::string nueva);
-    void Lee();
+    bool Lee(const std::string& deRuta, Estudio& estudio, EstadoDeArchivo& estado);
+    void PasaA(std::string nueva);
+    void Olvida();
     void Deja();
-    bool Escribe(bool preguntando);
-    void Pon(EstadoDeArchivo::Clase clase, std::string texto);
+    void OfreceOtroLugar();
+    void Escribe();
+    bool Reemplaza(const std::string& enRuta);
+    void Dice();
+    [[nodiscard]] bool HaDeDecir() const;
+    [[nodiscard]] bool EsHora() const;
     void AvisaCambio() const;
-    [[nodiscard]] std::string Nombre() const;
 
     model::Siro& s;
     std::string ruta{};  ///< of its file; empty: no project
     Estudio valor{};
     EstadoDeArchivo archivo{};
-    std::string enDisco{};   ///< what the file held when it was read or written last; empty: none
-    bool pendiente = false;  ///< the value isn't on the disk
+    bool enDisco = false;    ///< the file is there, as far as is known
+    bool pendiente = false;  ///< the value isn't in it
     bool negado = false;     ///< the user refused to write over another program's work
     bool dicho = false;      ///< what is wrong with the file has been told in a box
     bool ocupado = false;    ///< a box is up

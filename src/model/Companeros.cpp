@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "model/Companeros.h"
+
+#include <algorithm>
+#include <cstddef>
+
+#include "model/Avisos.h"
+#include "model/Disco.h"
+#include "model/Falla.h"
+#include "model/RutaProyecto.h"
+#include "model/Siro.h"
+
+namespace model {
+
+namespace {
+
+constexpr std::string_view ComienzoSerie = "_serie_";
+constexpr std::string_view TerminacionSerie = ".csv";
+constexpr std::string_view TerminacionCorridas = "_corridas";
+constexpr std::string_view Apartado = ".anterior";
+
+constexpr std::string_view TituloAparta = "Archivos de un proyecto anterior";
+constexpr std::string_view Aparta1 = "En la carpeta quedaban archivos de otro proyecto de nombre <";
+constexpr std::string_view Aparta2 = ">. Se los apartó con otro nombre: ";
+constexpr std::string_view NoAparta2 =
+    ">, y no se los pudo apartar. Elija un nombre distinto, o mueva de allí estos archivos: ";
+
+bool EsDirectorioDe(std::string_view nombre)
+{
+    return nombre.ends_with(Separador);
+}
+
+std::string EnLista(const std::vector<std::string>& nombres)
+{
+    std::string lista;
+    for (const std::string& nombre : nombres)
+        lista.append(lista.empty() ? "" : ", ").append(nombre);
+    return lista;
+}
+
+/// Every file of a directory, and then the directory.
+template <typename F>
+void VaciaDirectorio(const Siro& s, const std::string& directorio, F&& conArchivo)
+{
+    for (const std::string& archivo : s.Disco.Lista(directorio))
+        conArchivo(archivo);
+    s.Disco.Borra(directorio);
+}
+
+void Muda(const Siro& s, const std::string& de, const std::string& a)
+{
+    s.Disco.Copia(de, a);
+    s.Disco.Borra(de);
+}
+
+}  // namespace
+
+std::vector<std::string> CompanerosDe(const Siro& s, const std::string& directorio,
+                                      const std::vector<std::string>& archivos, std::string_view proyecto)
+{
+    std::vector<std::string> nombres;
+    const std::string estudio = std::string(proyecto).append(TerminacionEstudio),
+                      serie = std::string(proyecto).append(ComienzoSerie);
+    for (const std::string& nombre : archivos) {
+        const bool esSerie = nombre.size() > serie.size() + TerminacionSerie.size() &&
+                             nombre.starts_with(serie) && nombre.ends_with(TerminacionSerie);
+        if (nombre == estudio || esSerie) nombres.push_back(nombre);
+    }
+    const std::string corridas = std::string(proyecto).append(TerminacionCorridas);
+    if (s.Disco.HayDirectorio(Ruta(directorio, corridas))) nombres.push_back(corridas + Separador);
+    return nombres;
+}
+
+void CopiaCompaneros(const Siro& s, const std::string& directorio, const std::string& viejo,
+                     const std::string& nuevo)
+{
+    for (const std::string& nombre : CompanerosDe(s, directorio, s.Disco.Lista(directorio), viejo))
+        if (!EsDirectorioDe(nombre))
+            s.Disco.Copia(Ruta(directorio, nombre), Ruta(directorio, nuevo + nombre.substr(viejo.size())));
+}
+
+std::string ApartaCompanero(const Siro& s, const std::string& directorio, const std::string& nombre)
+{
+    const std::vector<std::string> archivos = s.Disco.Lista(directorio);
+    const bool esDirectorio = EsDirectorioDe(nombre);
+    const std::string llano = nombre.substr(0, nombre.size() - (esDirectorio ? 1 : 0));
+    const auto ocupado = [&](const std::string& otro) {
+        return std::binary_search(archivos.begin(), archivos.end(), otro) ||
+               s.Disco.HayDirectorio(Ruta(directorio, otro));
+    };
+    std::string libre = llano + std::string(Apartado);
+    for (int n = 2; ocupado(libre); ++n)
+        libre = llano + std::string(Apartado) + std::to_string(n);
+    const std::string de = Ruta(directorio, llano), a = Ruta(directorio, libre);
+    if (!esDirectorio) {
+        Muda(s, de, a);
+    } else {
+        s.Disco.CreaDirectorio(a);
+        VaciaDirectorio(s, de,
+                        [&](const std::string& archivo) { Muda(s, Ruta(de, archivo), Ruta(a, archivo)); });
+    }
+    return libre;
+}
+
+bool ApartaCompaneros(const Siro& s, const std::string& directorio, const std::string& proyecto)
+{
+    std::vector<std::string> quedan, apartados;
+    Sentencia([&] { quedan = CompanerosDe(s, directorio, s.Disco.Lista(directorio), proyecto); });
+    std::reverse(quedan.begin(), quedan.end());
+    while (!quedan.empty() &&
+           Sentencia([&] { apartados.push_back(ApartaCompanero(s, directorio, quedan.back())); }))
+        quedan.pop_back();
+    const std::string comienzo = std::string(Aparta1) + proyecto;
+    if (!quedan.empty())
+        Advierte(s, comienzo + std::string(NoAparta2) + EnLista(quedan), TituloAparta);
+    else if (!apartados.empty())
+        Advierte(s, comienzo + std::string(Aparta2) + EnLista(apartados), TituloAparta);
+    return quedan.empty();
+}
+
+void Tira(const Siro& s, const std::string& directorio, const std::string& nombre)
+{
+    const bool esDirectorio = EsDirectorioDe(nombre);
+    const std::string ruta = Ruta(directorio, nombre.substr(0, nombre.size() - (esDirectorio ? 1 : 0)));
+    if (s.Anfitrion.TiraAPapelera(ruta)) return;
+    if (!esDirectorio) return s.Disco.Borra(ruta);
+    VaciaDirectorio(s, ruta, [&](const std::string& archivo) { s.Disco.Borra(Ruta(ruta, archivo)); });
+}
+
+}  // namespace model
