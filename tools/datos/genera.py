@@ -13,6 +13,7 @@ import sys
 
 import cuenca
 import mapa
+import maximos
 import proyecto
 import terreno
 import tormentas
@@ -29,6 +30,7 @@ def main():
     longitudes = {u.nombre: t.LongitudMax(i) for i, u in enumerate(cuenca.UEHS)}
     proyecto.GuardaProyecto(proyectos, areas, longitudes)
     tormentas.GuardaTormentas(datos, proyectos)
+    maximos.GuardaMaximos(proyectos)
     mapa.Guarda(mapa.Pinta(t), proyectos / cuenca.IMAGEN)
 
 
