@@ -16,8 +16,6 @@ namespace model {
 
 namespace {
 
-constexpr std::string_view ArchivoDisPer = "distriPp_dpt.vlm";
-constexpr std::string_view ArchivoPDRs = "TablasPDRs_pdr.vlm";
 constexpr std::string_view ArchivoListaPDR = "ListaPDR.vlm";
 constexpr std::string_view RaizTormenta = "Velmir";
 
@@ -255,7 +253,7 @@ void GuardaPpReal(Siro& s, TormentaReal& tormenta)
 
 // --- personal distributions ---
 
-void LeeTablaDisTemPer(Siro& s)
+bool LeeTablaDisTemPer(Siro& s)
 {
     s.Proyecto.ArchivoTemp = Ruta(s.Proyecto.DirTrabajo, ArchivoDisPer);
     TablasDeLluvia& t = s.TablasDeLluvia;
@@ -270,6 +268,7 @@ void LeeTablaDisTemPer(Siro& s)
         });
     });
     if (!leida) AnulaFilas(t);
+    return leida;
 }
 
 bool GuardaTablaDisPer(Siro& s)
@@ -282,7 +281,7 @@ bool GuardaTablaDisPer(Siro& s)
 
 // --- tables of synthetic storms ---
 
-void LeeTablaPDRs(Siro& s)
+bool LeeTablaPDRs(Siro& s)
 {
     s.Proyecto.ArchivoTemp = Ruta(s.Proyecto.DirTrabajo, ArchivoPDRs);
     TablasDeLluvia& t = s.TablasDeLluvia;
@@ -297,6 +296,7 @@ void LeeTablaPDRs(Siro& s)
         CargaSerie(s);
     });
     if (!leida) AnulaFilas(t);
+    return leida;
 }
 
 bool GuardaTablaPDRs(Siro& s)

@@ -74,6 +74,10 @@ void GuardaPpReal(Siro& s, TormentaReal& tormenta);
 
 // --- tables of rain ---
 
+inline constexpr std::string_view ArchivoDisPer = "distriPp_dpt.vlm";
+inline constexpr std::string_view ArchivoPDRs = "TablasPDRs_pdr.vlm";
+inline constexpr std::int16_t MaximoDeFilas = 999;  ///< periods or storms of a table
+
 /// Changes the columns of a table of TablasDeLluvia and keeps what it holds; the first time it is allocated,
 /// with rows up to `ultimaFila`. Throws Falla 9 for a negative bound.
 template <typename T>
@@ -87,10 +91,18 @@ void Ajusta(Matriz<T>& tabla, int ultimaFila, int columnas)
 
 // --- personal distributions, distriPp_dpt.vlm ---
 
+/// Limits that the editor offers for the durations of a table [min]. The last two of the second are alike:
+/// kept as it stands.
+inline constexpr auto DuracionesMinimas =
+    std::to_array<std::int16_t>({5, 10, 15, 20, 30, 60, 120, 180, 240, 300, 360, 540, 720, 1440});
+inline constexpr auto DuracionesMaximas =
+    std::to_array<std::int16_t>({10, 15, 20, 30, 60, 120, 180, 240, 300, 360, 540, 720, 1440, 1440});
+
 /// Reads the three personal distributions from DirTrabajo into NroFilasTabla 1..3, NotasDisPer, DurMinPer,
 /// DurMaxPer and DisPerso. Percentages are read as whole numbers although they are written with decimals:
-/// kept as it stands. A failure is silent and leaves slots 1 to 3 of NroFilasTabla at 0.
-void LeeTablaDisTemPer(Siro& s);
+/// kept as it stands. A failure is silent and leaves slots 1 to 3 of NroFilasTabla at 0. Returns whether they
+/// were read.
+bool LeeTablaDisTemPer(Siro& s);
 
 /// Writes the three tables. A fault shows one box and leaves the file and the tables in memory as they are.
 /// Returns whether they were written.
@@ -100,8 +112,8 @@ bool GuardaTablaDisPer(Siro& s);
 
 /// Reads the four tables from DirTrabajo into NroFilasTabla, NotasPDR, TablasP, TablasD, TablasR, and the
 /// rows of table TablaPDR (0 where it is none of 1, 2, 3) into the series. A failure is silent, leaves slots
-/// 1 to 3 of NroFilasTabla at 0, slot 0 as it is, and the series as it was.
-void LeeTablaPDRs(Siro& s);
+/// 1 to 3 of NroFilasTabla at 0, slot 0 as it is, and the series as it was. Returns whether they were read.
+bool LeeTablaPDRs(Siro& s);
 
 /// Writes the four tables, as GuardaTablaDisPer does.
 bool GuardaTablaPDRs(Siro& s);

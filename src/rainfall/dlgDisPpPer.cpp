@@ -74,12 +74,12 @@ void Elige(forms::Lista& lista, std::int16_t d)
 
 std::int16_t Minima(const dlgDisPpPer& f)
 {
-    return DuracionesMinimas[static_cast<std::size_t>(std::max(f.cmbDurMin.indice, 0))];
+    return model::DuracionesMinimas[static_cast<std::size_t>(std::max(f.cmbDurMin.indice, 0))];
 }
 
 std::int16_t Maxima(const dlgDisPpPer& f)
 {
-    return DuracionesMaximas[static_cast<std::size_t>(std::max(f.cmbDurMax.indice, 0))];
+    return model::DuracionesMaximas[static_cast<std::size_t>(std::max(f.cmbDurMax.indice, 0))];
 }
 
 // --- table ---
@@ -204,8 +204,8 @@ void Abre(dlgDisPpPer& f, const dlgPp& pp, Siro& s)
     Evento(s, [&] {
         f = dlgDisPpPer{.abierta = true};
         model::LeeTablaDisTemPer(s);
-        f.cmbDurMin = NuevaLista(DuracionesMinimas);
-        f.cmbDurMax = NuevaLista(DuracionesMaximas);
+        f.cmbDurMin = NuevaLista(model::DuracionesMinimas);
+        f.cmbDurMax = NuevaLista(model::DuracionesMaximas);
         f.cmbNroTablaDisPpPer = {{"1", "2", "3"}, 0};
         if (pp.optDistriPp >= PrimeraPersonal)
             f.cmbNroTablaDisPpPer.indice = pp.optDistriPp - PrimeraPersonal;
@@ -272,7 +272,7 @@ void cmdBorraTablaDisPer(dlgDisPpPer& f, Siro& s)
         s.TablasDeLluvia.DurMaxPer[k] = DurMaxVacia;
         MuestraTabla(f, s);
         f.cmbDurMin.indice = 0;
-        f.cmbDurMax.indice = static_cast<int>(DuracionesMaximas.size()) - 1;
+        f.cmbDurMax.indice = static_cast<int>(model::DuracionesMaximas.size()) - 1;
         if (model::GuardaTablaDisPer(s)) RecuerdaTablas(f, s);
     });
 }

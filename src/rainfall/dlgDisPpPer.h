@@ -39,12 +39,6 @@ inline constexpr auto LeyendasDlgDisPpPer = std::to_array<forms::FilaRotulo>({
 });
 // clang-format on
 
-/// Items of cmbDurMin and cmbDurMax [min]. The last two of the second are alike: kept as it stands.
-inline constexpr auto DuracionesMinimas =
-    std::to_array<std::int16_t>({5, 10, 15, 20, 30, 60, 120, 180, 240, 300, 360, 540, 720, 1440});
-inline constexpr auto DuracionesMaximas =
-    std::to_array<std::int16_t>({10, 15, 20, 30, 60, 120, 180, 240, 300, 360, 540, 720, 1440, 1440});
-
 /// The three tables and the rows in sight, as they were read or written last.
 struct DistribucionesLeidas {
     struct Tabla {
