@@ -13,7 +13,13 @@
 namespace forms {
 
 enum class TipoGrafico : std::uint8_t { Combinacion, Linea };  ///< lines and steps together; lines alone
-enum class TipoSerie : std::uint8_t { Linea2D, Escalon2D };
+enum class TipoSerie : std::uint8_t {
+    Linea2D,
+    Escalon2D,
+    PuntosUnidos2D,  ///< a line whose every cell has its dot, however many there are
+    Puntos2D,        ///< dots without a line
+    Banda2D,         ///< a thin line; two in a row have the room between them filled
+};
 
 /// A cell without a value: nothing is drawn there.
 inline constexpr double CeldaVacia = std::numeric_limits<double>::quiet_NaN();
@@ -51,6 +57,13 @@ struct EscalaCategorias {
     bool operator==(const EscalaCategorias&) const = default;
 };
 
+/// A labelled place of an axis of numbers.
+struct RotuloDeEje {
+    double lugar = 0;
+    std::string texto{};
+    bool operator==(const RotuloDeEje&) const = default;
+};
+
 struct Grafico {
     TipoGrafico tipo = TipoGrafico::Combinacion;
     std::vector<std::string> categorias{};  ///< row 1 at index 0
@@ -65,6 +78,12 @@ struct Grafico {
     std::string tituloLeyenda{};  ///< what the names of the series are
     bool marcasEjeX = true;
     EscalaCategorias escala{};
+    /// Places of the rows on an axis of numbers, rising, one per row; empty: rows stand side by side. A line
+    /// goes on over its empty cells there.
+    std::vector<double> abscisas{};
+    /// Labels of that axis, those first that must not go where there isn't room for all; none: round numbers.
+    std::vector<RotuloDeEje> rotulosX{};
+    bool ejeYLogaritmico = false;  ///< of the main axis; every cell is above 0
     bool operator==(const Grafico&) const = default;
 };
 

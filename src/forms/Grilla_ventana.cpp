@@ -252,11 +252,13 @@ void TablaGrilla::Pega()
 
 void TablaGrilla::Deshace()
 {
+    if (grilla.hechos.empty() && DeshaceFuera) return DeshaceFuera();
     Suceso([&] { return forms::Deshace(grilla); });
 }
 
 void TablaGrilla::Rehace()
 {
+    if (grilla.deshechos.empty() && RehaceFuera) return RehaceFuera();
     Suceso([&] { return forms::Rehace(grilla); });
 }
 
@@ -413,9 +415,9 @@ void TablaGrilla::contextMenuEvent(QContextMenuEvent* evento)
 {
     QMenu menu(this);
     menu.addAction(QStringLiteral("&Deshacer"), QKeySequence::Undo, this, [this] { Deshace(); })
-        ->setEnabled(!grilla.hechos.empty());
+        ->setEnabled(!grilla.hechos.empty() || DeshaceFuera);
     menu.addAction(QStringLiteral("&Rehacer"), QKeySequence(Qt::CTRL | Qt::Key_Y), this, [this] { Rehace(); })
-        ->setEnabled(!grilla.deshechos.empty());
+        ->setEnabled(!grilla.deshechos.empty() || RehaceFuera);
     menu.addSeparator();
     menu.addAction(QStringLiteral("&Copiar"), QKeySequence::Copy, this, [this] { Copia(false); });
     menu.addAction(QStringLiteral("Copiar con &títulos"), this, [this] { Copia(true); });

@@ -23,6 +23,9 @@ class TablaGrilla : public QTableView {
     /// Runs behind every event that may have changed a cell, with what it settled.
     std::function<void(const Efecto&)> AlCambiar = [](const Efecto&) {};
 
+    /// Undoing and doing again where the grid has no step of its own; none: nothing happens.
+    std::function<void()> DeshaceFuera{}, RehaceFuera{};
+
     /// Tip of a cell, or of a column's title in row 0; an empty one: that of the view.
     std::function<std::string(Celda)> AyudaDe = [](Celda) { return std::string(); };
 

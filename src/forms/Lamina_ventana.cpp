@@ -167,7 +167,7 @@ void Lamina::Acerca(double veces)
 {
     const Tramo tramo = EnVista();
     const auto fila = trazo->FilaLeida();
-    trazo->Acerca(veces, fila ? static_cast<double>(*fila) + 1 : (tramo.desde + tramo.hasta) / 2);
+    trazo->Acerca(veces, fila ? trazo->LugarDeFila(*fila) : (tramo.desde + tramo.hasta) / 2);
     plano->replot(QCustomPlot::rpQueuedReplot);
 }
 

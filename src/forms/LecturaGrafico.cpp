@@ -57,7 +57,8 @@ std::string Valor(const Grafico& grafico, const Serie& serie, double celda)
 std::string Abscisa(const Grafico& grafico, std::size_t fila)
 {
     const std::string& categoria = grafico.categorias[fila];
-    return grafico.ejeX.empty() ? categoria : categoria + " " + grafico.ejeX;
+    if (grafico.ejeX.empty()) return categoria;
+    return grafico.abscisas.empty() ? categoria + " " + grafico.ejeX : grafico.ejeX + ": " + categoria;
 }
 
 /// Digits that a label shows, zeros at its end and the point apart: what makes it look round.
@@ -190,7 +191,8 @@ bool MismaEstructura(const Grafico& a, const Grafico& b)
     return a.tipo == b.tipo && a.titulo == b.titulo && a.notaAlPie == b.notaAlPie && a.ejeX == b.ejeX &&
            a.ejeY == b.ejeY && a.ejeYSecundario == b.ejeYSecundario && a.leyendaVisible == b.leyendaVisible &&
            a.muchasLineas == b.muchasLineas && a.tituloLeyenda == b.tituloLeyenda &&
-           a.marcasEjeX == b.marcasEjeX && a.escala == b.escala && a.marcas.size() == b.marcas.size() &&
+           a.marcasEjeX == b.marcasEjeX && a.escala == b.escala && a.abscisas.empty() == b.abscisas.empty() &&
+           a.ejeYLogaritmico == b.ejeYLogaritmico && a.marcas.size() == b.marcas.size() &&
            std::equal(a.series.begin(), a.series.end(), b.series.begin(), b.series.end(), iguales);
 }
 

@@ -114,6 +114,69 @@ class RotulosDeCategorias : public QCPAxisTicker {
     std::size_t paso = 1;
 };
 
+/// Labels at the places that a chart names, as many as there is room for.
+class RotulosDeLugares : public QCPAxisTicker {
+  public:
+    RotulosDeLugares(const QCPAxis& unEje, const Grafico& unGrafico) : eje(unEje), grafico(unGrafico) {}
+
+  protected:
+    QVector<double> createTickVector(double /*paso*/, const QCPRange& tramo) override
+    {
+        const QFontMetrics letra(eje.tickLabelFont());
+        const QMargins margenes = eje.axisRect()->margins();
+        const int ancho = eje.parentPlot()->viewport().width() - margenes.left() - margenes.right();
+        const double porPixel = tramo.size() / std::max(1, ancho);
+        QVector<double> marcas;
+        rotulados.clear();
+        for (const RotuloDeEje& r : grafico.rotulosX) {
+            if (!tramo.contains(r.lugar)) continue;
+            marcas.append(r.lugar);
+            const double medio = (letra.horizontalAdvance(Q(r.texto)) + Separacion) * porPixel / 2;
+            const bool cabe = std::none_of(rotulados.cbegin(), rotulados.cend(), [&](const Puesto& otro) {
+                return std::abs(otro.lugar - r.lugar) < otro.medio + medio;
+            });
+            if (cabe) rotulados.append({r.lugar, medio, Q(r.texto)});
+        }
+        std::sort(marcas.begin(), marcas.end());
+        return marcas;
+    }
+    int getSubTickCount(double /*paso*/) override { return 0; }
+    QString getTickLabel(double marca, const QLocale& /*idioma*/, QChar /*formato*/,
+                         int /*decimales*/) override
+    {
+        const auto puesto = std::find_if(rotulados.cbegin(), rotulados.cend(),
+                                         [marca](const Puesto& r) { return r.lugar == marca; });
+        return puesto == rotulados.cend() ? QString() : puesto->texto;
+    }
+
+  private:
+    struct Puesto {
+        double lugar = 0, medio = 0;  ///< half of its width, in units of the axis
+        QString texto{};
+    };
+    const QCPAxis& eje;
+    const Grafico& grafico;
+    QVector<Puesto> rotulados{};
+};
+
+/// 1, 2, 5 of each power of ten, and 3, 7 where little is in sight.
+class RotulosDeLogaritmos : public QCPAxisTicker {
+  protected:
+    QVector<double> createTickVector(double /*paso*/, const QCPRange& tramo) override
+    {
+        constexpr double Poco = 30;  // times the least, up to which there is room for more
+        const bool pocos = tramo.upper < Poco * tramo.lower;
+        QVector<double> marcas;
+        for (double decena = std::pow(10, std::floor(std::log10(tramo.lower))); decena <= tramo.upper;
+             decena *= 10)
+            for (const int cifra : {1, 2, 3, 5, 7})
+                if (tramo.contains(cifra * decena) && (pocos || (cifra != 3 && cifra != 7)))
+                    marcas.append(cifra * decena);
+        return marcas;
+    }
+    int getSubTickCount(double /*paso*/) override { return 0; }
+};
+
 class RotulosHasta : public QCPAxisTicker {
   public:
     explicit RotulosHasta(double unTope) : tope(unTope)
@@ -142,7 +205,17 @@ class RotulosHasta : public QCPAxisTicker {
 
 void RotulaCategorias(QCPAxis& eje, const Grafico& grafico)
 {
-    eje.setTicker(QSharedPointer<RotulosDeCategorias>::create(eje, grafico));
+    if (grafico.abscisas.empty())
+        eje.setTicker(QSharedPointer<RotulosDeCategorias>::create(eje, grafico));
+    else if (grafico.rotulosX.empty())
+        RotulaValores(eje);
+    else
+        eje.setTicker(QSharedPointer<RotulosDeLugares>::create(eje, grafico));
+}
+
+void RotulaLogaritmos(QCPAxis& eje)
+{
+    eje.setTicker(QSharedPointer<RotulosDeLogaritmos>::create());
 }
 
 void RotulaHasta(QCPAxis& eje, double tope)

@@ -194,6 +194,11 @@ void Trazo::ColoreaSeries()
     for (std::size_t i = 0; i < lineas.size(); ++i) {
         QCPGraph& linea = *lineas[i];
         const bool escalon = EscalonEn(i);
+        const TipoSerie tipo = grafico.series[i].tipo;
+        if (tipo == TipoSerie::Banda2D) {
+            ColoreaBanda(i);
+            continue;
+        }
         const Trama& trama = escalon ? Lluvia : tramas[nroLinea % tramas.size()];
         const std::size_t vuelta = escalon ? 0 : nroLinea / tramas.size();
         if (!escalon) ++nroLinea;
@@ -205,7 +210,8 @@ void Trazo::ColoreaSeries()
         QColor relleno = color;
         relleno.setAlpha(OpacidadDeLluvia);
         linea.setBrush(escalon ? QBrush(relleno) : QBrush(Qt::NoBrush));
-        const bool pocos = grafico.categorias.size() <= PocosPuntos;
+        const bool pocos = tipo == TipoSerie::Puntos2D || tipo == TipoSerie::PuntosUnidos2D ||
+                           (grafico.abscisas.empty() && grafico.categorias.size() <= PocosPuntos);
         linea.setScatterStyle(!escalon && pocos ? PuntoDeCurva(color, tinta.fondo, vuelta)
                                                 : QCPScatterStyle());
         puntosLeidos[i]->setPen(QPen(color, Grueso));
@@ -214,6 +220,20 @@ void Trazo::ColoreaSeries()
         puntosLeidos[i]->setSize(PuntoLeido);
     }
     ColoreaMarcas();
+}
+
+/// The upper line of a band fills the room down to the lower one ahead of it.
+void Trazo::ColoreaBanda(std::size_t serie)
+{
+    constexpr int Opacidad = 40;  // of 255
+    QColor relleno = tinta.ejes;
+    relleno.setAlpha(Opacidad);
+    const bool arriba = serie > 0 && grafico.series[serie - 1].tipo == TipoSerie::Banda2D;
+    lineas[serie]->setPen(QPen(tinta.ejes, 1, Qt::DotLine));
+    lineas[serie]->setBrush(arriba ? QBrush(relleno) : QBrush(Qt::NoBrush));
+    lineas[serie]->setChannelFillGraph(arriba ? lineas[serie - 1] : nullptr);
+    puntosLeidos[serie]->setPen(QPen(tinta.ejes));
+    puntosLeidos[serie]->setBrush(tinta.fondo);
 }
 
 void Trazo::ColoreaMarcas()

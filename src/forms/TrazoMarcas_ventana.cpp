@@ -93,6 +93,7 @@ QList<QLineF> Trazo::Curvas() const
 {
     QList<QLineF> pedazos;
     for (const QCPGraph* const linea : lineas) {
+        if (linea->lineStyle() == QCPGraph::lsNone) continue;
         QPointF antes;
         bool hayAntes = false;
         for (const QCPGraphData& dato : *linea->data()) {

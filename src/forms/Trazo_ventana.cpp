@@ -49,11 +49,16 @@ QCPRange Rango(const Trazo::Tramo& tramo)
 }
 
 /// A line has a point per row; a step begins one row earlier, and falls to the axis at its end.
-QVector<QCPGraphData> DatosDe(const Serie& serie)
+QVector<QCPGraphData> DatosDe(const Serie& serie, const std::vector<double>& abscisas)
 {
     QVector<QCPGraphData> datos;
     datos.reserve(static_cast<qsizetype>(serie.celdas.size()) + 3);
-    if (serie.tipo == TipoSerie::Linea2D) {
+    if (!abscisas.empty()) {
+        for (std::size_t i = 0; i < std::min(serie.celdas.size(), abscisas.size()); ++i)
+            if (!EstaVacia(serie.celdas[i])) datos.append({abscisas[i], serie.celdas[i]});
+        return datos;
+    }
+    if (serie.tipo != TipoSerie::Escalon2D) {
         for (std::size_t i = 0; i < serie.celdas.size(); ++i)
             datos.append({static_cast<double>(i + 1), serie.celdas[i]});
         return datos;
@@ -65,6 +70,12 @@ QVector<QCPGraphData> DatosDe(const Serie& serie)
     if (!serie.celdas.empty()) datos.append({fin, serie.celdas.back()});
     datos.append({fin, 0});
     return datos;
+}
+
+QCPGraph::LineStyle EstiloDe(TipoSerie tipo)
+{
+    if (tipo == TipoSerie::Escalon2D) return QCPGraph::lsStepLeft;
+    return tipo == TipoSerie::Puntos2D ? QCPGraph::lsNone : QCPGraph::lsLine;
 }
 
 }  // namespace
@@ -150,6 +161,11 @@ void Trazo::Arma()
     plano.yAxis2->setLabel(haySecundario ? Q(grafico.ejeYSecundario) : QString());
     plano.yAxis2->setRangeReversed(HayColgada());
     RotulaCategorias(*plano.xAxis, grafico);
+    plano.yAxis->setScaleType(grafico.ejeYLogaritmico ? QCPAxis::stLogarithmic : QCPAxis::stLinear);
+    if (grafico.ejeYLogaritmico)
+        RotulaLogaritmos(*plano.yAxis);
+    else
+        RotulaValores(*plano.yAxis);
     Colorea();
 }
 
@@ -164,7 +180,7 @@ void Trazo::ArmaSeries()
         QCPGraph* const linea = plano.addGraph(plano.xAxis, serie.ejeSecundario ? plano.yAxis2 : plano.yAxis);
         linea->setName(Q(serie.leyenda));
         if (serie.leyenda.empty()) linea->removeFromLegend();
-        linea->setLineStyle(serie.tipo == TipoSerie::Linea2D ? QCPGraph::lsLine : QCPGraph::lsStepLeft);
+        linea->setLineStyle(EstiloDe(serie.tipo));
         linea->setSelectable(QCP::stNone);
         lineas.push_back(linea);
         auto* const punto = new QCPItemTracer(&plano);
@@ -177,6 +193,11 @@ void Trazo::ArmaSeries()
     }
 }
 
+double Trazo::LugarDeFila(std::size_t fila) const
+{
+    return fila < grafico.abscisas.size() ? grafico.abscisas[fila] : static_cast<double>(fila) + 1;
+}
+
 bool Trazo::EscalonEn(std::size_t serie) const
 {
     return grafico.series[serie].tipo == TipoSerie::Escalon2D;
@@ -185,7 +206,7 @@ bool Trazo::EscalonEn(std::size_t serie) const
 double Trazo::Abscisa(std::size_t serie, std::size_t fila) const
 {
     constexpr double MediaFila = 0.5;
-    return static_cast<double>(fila) + (EscalonEn(serie) ? MediaFila : 1);
+    return LugarDeFila(fila) - (EscalonEn(serie) ? MediaFila : 0);
 }
 
 bool Trazo::HayColgada() const
@@ -199,30 +220,41 @@ bool Trazo::HayColgada() const
 void Trazo::PonDatos()
 {
     for (std::size_t i = 0; i < lineas.size(); ++i)
-        lineas[i]->data()->set(DatosDe(grafico.series[i]), true);
+        lineas[i]->data()->set(DatosDe(grafico.series[i], grafico.abscisas), true);
 }
 
 // --- scales ---
 
-void Trazo::PonEscalas()
+Trazo::Tramo Trazo::TodasLasFilas() const
 {
+    if (!grafico.abscisas.empty()) {
+        constexpr double Orilla = 0.03;
+        const double aire = Orilla * (grafico.abscisas.back() - grafico.abscisas.front());
+        const double lado = aire > 0 ? aire : 1;
+        return {grafico.abscisas.front() - lado, grafico.abscisas.back() + lado};
+    }
     const auto filas = static_cast<double>(std::max<std::size_t>(1, grafico.categorias.size()));
     const bool hayEscalon = std::any_of(grafico.series.begin(), grafico.series.end(),
                                         [](const Serie& s) { return s.tipo == TipoSerie::Escalon2D; });
     constexpr double MediaFila = 0.5;
-    if (hayEscalon)
-        todo = {0, filas};
-    else if (filas <= PocasFilas)
-        todo = {MediaFila, filas + MediaFila};
-    else
-        todo = {1, filas};
+    if (hayEscalon) return {0, filas};
+    if (filas <= PocasFilas) return {MediaFila, filas + MediaFila};
+    return {1, filas};
+}
 
+void Trazo::PonEscalas()
+{
+    todo = TodasLasFilas();
     Extremos e = ExtremosDe(grafico, false);
     if (!e.Hay()) e = {0, 1};
     const double base = std::min(0.0, e.menor);
     const double alto = e.mayor > base ? e.mayor - base : 1;
     const double aireArriba = grafico.marcas.empty() ? Aire : AireConMarcas;
     todoY = {base < 0 ? base - Aire * alto : 0, base + alto * (HayColgada() ? SobreElPico : 1 + aireArriba)};
+    if (grafico.ejeYLogaritmico && e.menor > 0) {
+        const double aire = std::pow(std::max(e.mayor / e.menor, 2.0), Aire);
+        todoY = {e.menor / aire, e.mayor * aire};
+    }
     PonEscalaSecundaria();
 }
 
@@ -287,7 +319,8 @@ void Trazo::Acota()
         eje.setRange(tramo.bounded(limites.desde, limites.hasta));
     };
     constexpr double Centesima = 0.01;
-    acota(*plano.xAxis, todo, std::min(LoMenosEnVista, todo.hasta - todo.desde));
+    const double minimo = grafico.abscisas.empty() ? LoMenosEnVista : Centesima * (todo.hasta - todo.desde);
+    acota(*plano.xAxis, todo, std::min(minimo, todo.hasta - todo.desde));
     acota(*plano.yAxis, todoY, Centesima * (todoY.hasta - todoY.desde));
     acota(*plano.yAxis2, todoYSecundario, Centesima * (todoYSecundario.hasta - todoYSecundario.desde));
     acercado = EnVista() != todo || plano.yAxis->range() != Rango(todoY) ||
@@ -300,6 +333,12 @@ std::optional<std::size_t> Trazo::FilaEn(const QPoint& punto) const
 {
     if (grafico.categorias.empty() || !plano.axisRect()->rect().contains(punto)) return {};
     const double x = plano.xAxis->pixelToCoord(punto.x());
+    if (!grafico.abscisas.empty()) {
+        const auto cerca =
+            std::min_element(grafico.abscisas.begin(), grafico.abscisas.end(),
+                             [x](double a, double b) { return std::abs(a - x) < std::abs(b - x); });
+        return static_cast<std::size_t>(cerca - grafico.abscisas.begin());
+    }
     const bool soloEscalones = std::all_of(grafico.series.begin(), grafico.series.end(),
                                            [](const Serie& s) { return s.tipo == TipoSerie::Escalon2D; });
     const double fila = soloEscalones ? std::floor(x) : std::round(x) - 1;
@@ -310,7 +349,7 @@ std::optional<std::size_t> Trazo::FilaEn(const QPoint& punto) const
 void Trazo::Lee(std::size_t fila)
 {
     leida = fila;
-    const double x = grafico.series.empty() ? static_cast<double>(fila) + 1 : Abscisa(0, fila);
+    const double x = grafico.series.empty() ? LugarDeFila(fila) : Abscisa(0, fila);
     hilo->point1->setCoords(x, todoY.desde);
     hilo->point2->setCoords(x, todoY.hasta);
     hilo->setVisible(true);

@@ -70,6 +70,8 @@ class Trazo {
     void Acota();
 
     /// Row under a point of the surface, from 0.
+    /// Where a row stands along the axis of the categories.
+    [[nodiscard]] double LugarDeFila(std::size_t fila) const;
     [[nodiscard]] std::optional<std::size_t> FilaEn(const QPoint& punto) const;
     /// Shows the values of a row beside it.
     void Lee(std::size_t fila);
@@ -88,10 +90,12 @@ class Trazo {
     [[nodiscard]] QList<QLineF> Curvas() const;
     [[nodiscard]] bool PisaAnillo(const QRectF& sitio) const;
     void PonEscalas();
+    [[nodiscard]] Tramo TodasLasFilas() const;
     void PonEscalaSecundaria();
     void Colorea();
     void ColoreaEje(QCPAxis& eje) const;
     void ColoreaSeries();
+    void ColoreaBanda(std::size_t serie);
     void ColoreaMarcas();
     [[nodiscard]] bool EscalonEn(std::size_t serie) const;
     [[nodiscard]] double Abscisa(std::size_t serie, std::size_t fila) const;

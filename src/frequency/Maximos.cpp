@@ -145,7 +145,36 @@ void MiraTamano(Serie& s)
                            std::to_string(2 * n) + " años son una extrapolación grande.");
 }
 
+void AcortaErrores(Serie& s)
+{
+    if (s.errores.size() <= MaxErrores) return;
+    const std::size_t otros = s.errores.size() - MaxErrores;
+    s.errores.resize(MaxErrores);
+    s.errores.push_back("Y " + std::to_string(otros) + " más.");
+}
+
 }  // namespace
+
+Serie RevisaMaximos(std::vector<Maximo> maximos)
+{
+    Serie s;
+    s.maximos = std::move(maximos);
+    for (const Maximo& m : s.maximos) {
+        const std::string anio = "Año " + std::to_string(m.anio);
+        if (m.anio < PrimerAnio || m.anio > UltimoAnio)
+            s.errores.push_back(anio + ": no está entre 1500 y 2200.");
+        if (m.valor == 0)
+            s.errores.push_back(anio + ": el valor es 0; un año sin lluvia no se ajusta con estas leyes.");
+        else if (!(m.valor > 0))
+            s.errores.push_back(anio + ": el valor no es un número mayor que 0.");
+        else if (m.valor > MayorLluvia)
+            s.errores.push_back(anio + ": el valor pasa de 100000 mm.");
+    }
+    MiraAnios(s);
+    MiraTamano(s);
+    AcortaErrores(s);
+    return s;
+}
 
 Serie LeeMaximos(std::string_view texto)
 {
@@ -162,11 +191,7 @@ Serie LeeMaximos(std::string_view texto)
     MiraTamano(s);
     if (!lector.faltan.empty())
         s.avisos.push_back("Años sin dato: " + std::to_string(lector.faltan.size()) + ".");
-    if (s.errores.size() > MaxErrores) {
-        const std::size_t otros = s.errores.size() - MaxErrores;
-        s.errores.resize(MaxErrores);
-        s.errores.push_back("Y " + std::to_string(otros) + " más.");
-    }
+    AcortaErrores(s);
     return s;
 }
 

@@ -27,4 +27,7 @@ inline constexpr std::size_t MinimoDeAnios = 10, MaximoDeAnios = 1000;
 /// line.
 Serie LeeMaximos(std::string_view texto);
 
+/// The same of maxima that are numbers already, in any order of years.
+Serie RevisaMaximos(std::vector<Maximo> maximos);
+
 }  // namespace frequency

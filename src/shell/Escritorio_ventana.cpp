@@ -368,6 +368,7 @@ void Escritorio::Abre(Ventana ventana, bool espera)
     case Ventana::Mapa:
     case Ventana::Revisar:
     case Ventana::Verificar:
+    case Ventana::Taller:
         return ventanasEstudio->Abre(ventana);
     }
 }

@@ -58,6 +58,7 @@ enum class Ventana : std::uint8_t {
     Mapa,
     Revisar,
     Verificar,
+    Taller,
     frmConfigura,
     dlgEliminarProyecto,
     frmAcerca,

@@ -120,6 +120,7 @@ constexpr auto FilasMenu = std::to_array<FilaMenu>({
     {"mnuMapa",                         "&Mapa de la corrida",                             "mnuEstudio", SoloAbre<Ventana::Mapa>, false, V::Ninguna, "", "La red con el caudal de cada componente a lo largo del tiempo"},
     Separador("mnuEstudioBarra", "mnuEstudio"),
     {"mnuRevisar",                      "Revisar &proyecto",                               "mnuEstudio", ConProyecto<Ventana::Revisar>, false, V::Ninguna, "F12", "Todo lo que detendría una corrida o la haría dudosa"},
+    {"mnuTaller",                       "&Taller de lluvia",                               "mnuEstudio", SoloAbre<Ventana::Taller>, false, V::Ninguna, "", "De los máximos anuales a la tormenta que se corre"},
     {"mnuVerificar",                    "&Verificar",                                      "mnuEstudio", SoloAbre<Ventana::Verificar>, false, V::Ninguna, "", "Las rutinas del modelo frente a casos publicados"},
 
     {"mnuVentana",                      "&Ventana",                                        ""},
@@ -158,6 +159,7 @@ constexpr auto FilasBarra = std::to_array<FilaBarra>({
     {"Resumen",      "mnuResumen",               SoloAbre<Ventana::Resumen>},
     {"Comparar",     "mnuComparar",              SoloAbre<Ventana::Comparar>},
     {"Mapa",         "mnuMapa",                  SoloAbre<Ventana::Mapa>},
+    {"Taller",       "mnuTaller",                SoloAbre<Ventana::Taller>},
 });
 // clang-format on
 

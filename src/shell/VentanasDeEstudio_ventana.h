@@ -22,6 +22,7 @@
 #include "shell/MDIForm1.h"
 #include "shell/MDIForm1_ventana.h"
 #include "shell/MapaDeEstudio_ventana.h"
+#include "shell/TallerDeLluvia_ventana.h"
 
 namespace shell {
 
@@ -70,6 +71,7 @@ class VentanasDeEstudio {
     JuicioDeCorrida juicio{};
     MapaDeEstudio mapa{entorno, juicio};
     LineaDeEstado linea;
+    TallerDeLluvia taller;
     checks::dlgAvisos avisos{};
     checks::dlgRevisar revisar{};
     checks::dlgVerificar verificar{};

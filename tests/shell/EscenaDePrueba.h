@@ -42,6 +42,7 @@ inline std::string_view Nombre(Ventana ventana)
                                             "Mapa",
                                             "Revisar",
                                             "Verificar",
+                                            "Taller",
                                             "frmConfigura",
                                             "dlgEliminarProyecto",
                                             "frmAcerca"};

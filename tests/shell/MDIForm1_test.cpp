@@ -148,6 +148,7 @@ TEST_F(MarcoDePrueba, ElMenuTieneSusEntradasEnOrden)
         {"mnuMapa", "&Mapa de la corrida"},
         {"mnuEstudioBarra", "-"},
         {"mnuRevisar", "Revisar &proyecto"},
+        {"mnuTaller", "&Taller de lluvia"},
         {"mnuVerificar", "&Verificar"},
         {"mnuVentana", "&Ventana"},
         {"mnuAyuda", "A&yuda"},
@@ -215,7 +216,8 @@ TEST_F(MarcoDePrueba, LaBarraTieneSusClavesYLaPizarraEsElBotonDieciseis)
                                                  "Revisar",
                                                  "Resumen",
                                                  "Comparar",
-                                                 "Mapa"};
+                                                 "Mapa",
+                                                 "Taller"};
     std::vector<std::string_view> claves;
     for (const FilaBarra& fila : tbToolBar())
         claves.push_back(fila.clave);

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "frequency/PaginaDeTaller_ventana.h"
+
+#include <QSplitter>
+
+namespace frequency {
+
+PaginaDeTaller::PaginaDeTaller(forms::Entorno& alrededor, dlgTaller& taller,
+                               std::span<const forms::FilaRotulo> rotulos, std::string_view nombre)
+    : Constructor(alrededor, rotulos), f(taller)
+{
+    setObjectName(forms::Q(nombre));
+}
+
+void PaginaDeTaller::Muestra()
+{
+    if (tomado != TallerDe(f) || estacion != f.estacion || serie != f.serie) {
+        tomado = TallerDe(f);
+        estacion = f.estacion;
+        serie = f.serie;
+        Toma();
+    }
+    Constructor::Muestra();
+}
+
+QSplitter* PaginaDeTaller::LadoALado(QWidget* tabla, QWidget* grafico, int parteDeTabla, int parteDeGrafico)
+{
+    auto* const barra = new QSplitter(Qt::Horizontal);
+    barra->setObjectName(QStringLiteral("barra"));
+    barra->addWidget(tabla);
+    barra->addWidget(grafico);
+    barra->setStretchFactor(0, parteDeTabla);
+    barra->setStretchFactor(1, parteDeGrafico);
+    barra->setChildrenCollapsible(false);
+    return barra;
+}
+
+}  // namespace frequency

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/TallerDeLluvia_ventana.h"
+
+#include "frequency/dlgTaller.h"
+#include "frequency/dlgTaller_ventana.h"
+#include "study/Abierto.h"
+
+namespace shell {
+
+struct TallerDeLluvia::Partes {
+    explicit Partes(forms::Entorno& entorno)
+        : estudio(entorno.s), registro(estudio), ventana(entorno, registro)
+    {
+    }
+    study::Abierto estudio;
+    frequency::dlgTaller registro;
+    frequency::dlgTaller_ventana ventana;
+};
+
+TallerDeLluvia::TallerDeLluvia(forms::Entorno& alrededor)
+    : entorno(alrededor), partes(std::make_unique<Partes>(alrededor))
+{
+    entorno.AlTerminarSuceso(partes->ventana, [this] { partes->estudio.Sigue(); });
+}
+
+TallerDeLluvia::~TallerDeLluvia() = default;
+
+void TallerDeLluvia::Abre()
+{
+    partes->estudio.Sigue();
+    partes->ventana.Abre();
+}
+
+}  // namespace shell
