@@ -84,10 +84,11 @@ void Campos(V& v, TormentaDeDiseno& t)
     v("patron", t.patron);
     v("duracion_min", t.duracion, MayorQueCero, SinTope);
     v("recurrencia_anios", t.recurrencia, 0, SinTope);
+    v("lamina_mm", t.lamina, MayorQueCero, SinTope);
     v("paso_min", t.paso, MayorQueCero, SinTope);
     v("avance", t.avance, 0, 1);
     v("cuartil", t.cuartil, 1, 4);
-    v("probabilidad", t.probabilidad, 0, 100);
+    v("periodos", t.periodos);
     v("archivo", t.archivo);
     v("tabla", t.tabla, 1, 3);
     v("distribucion", t.distribucion, 1, 3);

@@ -74,15 +74,17 @@ struct Idf {
 /// The storm that is made of them.
 struct TormentaDeDiseno {
     std::string patron = "bloques";
-    double duracion = 120;    ///< [min]
-    double recurrencia = 50;  ///< [years]
-    double paso = 10;         ///< [min]
-    double avance = 0.375;    ///< time of the peak as a part of the duration
-    int cuartil = 1, probabilidad = 50;
-    std::string archivo{};  ///< of the recorded storm that is made dimensionless
-    int tabla = 1;          ///< of storms, 1..3
-    int distribucion = 1;   ///< personal one, 1..3
-    std::string resto{};    ///< as in Estudio.h
+    double duracion = 120;           ///< [min]
+    double recurrencia = 50;         ///< [years]
+    std::optional<double> lamina{};  ///< depth, where it isn't that of the curves [mm]
+    double paso = 10;                ///< [min]
+    double avance = 0.375;           ///< time of the peak as a part of the duration
+    int cuartil = 1;                 ///< Huff's
+    std::string periodos{};  ///< parts of a pattern of the user's own, with blanks or semicolons between
+    std::string archivo{};   ///< of the recorded storm that is made dimensionless
+    int tabla = 1;           ///< of storms, 1..3
+    int distribucion = 1;    ///< personal one, 1..3
+    std::string resto{};     ///< as in Estudio.h
     bool operator==(const TormentaDeDiseno&) const = default;
 };
 

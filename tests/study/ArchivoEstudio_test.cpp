@@ -35,6 +35,8 @@ Estudio Lleno()
     e.taller.idf.errorRelativo = true;
     e.taller.idf.estacion = "Quelmar";
     e.taller.tormenta.archivo = "A_1.vlm";
+    e.taller.tormenta.lamina = 83.5;
+    e.taller.tormenta.periodos = "10 40; 50";
     e.taller.derivados = {{"22/11/2026", "tabla 1", "gumbel"}};
     return e;
 }
