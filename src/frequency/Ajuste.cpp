@@ -52,6 +52,13 @@ Estimado SinControl(const Ley& ley, const Muestra& m, Metodo metodo)
 
 }  // namespace
 
+Alcance AlcanceDe(const Estimado& e, const Muestra& m)
+{
+    if (!e.bajos) return {m.P0(), 0, m.x};
+    const auto fuera = static_cast<std::size_t>(std::lround(*e.bajos * static_cast<double>(m.Anios())));
+    return {0, *e.bajos, std::span(m.x).subspan(fuera - m.secos)};
+}
+
 double Cuantil(const Ley& ley, const Parametros& p, double p0, double F)
 {
     if (p0 <= 0) return ley.cuantil(p, F);

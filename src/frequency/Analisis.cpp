@@ -21,9 +21,11 @@ AjusteDeLey AjustaLey(const Ley& ley, const Analisis& a)
     if (!f.estimado.p) return f;
     const Parametros& p = *f.estimado.p;
     try {
-        f.cuantiles = CuantilesDe(ley, p, a.muestra.P0());
+        const Alcance alcance = AlcanceDe(f.estimado, a.muestra);
+        f.p0 = alcance.p0;
+        f.cuantiles = CuantilesDe(ley, p, f.p0);
         f.criterios = CriteriosDe(ley, p, a.muestra.x);
-        f.bondad = BondadDe(ley, p, a.muestra.x);
+        f.bondad = BondadDe(ley, p, alcance.x, alcance.bajos);
     } catch (const std::exception&) {
         f.estimado = {{}, "Los cuantiles no se pueden calcular con los parámetros ajustados"};
     }
@@ -94,9 +96,9 @@ Recomendacion Recomienda(const Analisis& a)
     return r;
 }
 
-double CuantilDe(const Analisis& a, const AjusteDeLey& ajuste, double recurrencia)
+double CuantilDe(const AjusteDeLey& ajuste, double recurrencia)
 {
-    return Cuantil(*ajuste.ley, *ajuste.estimado.p, a.muestra.P0(), 1 - 1 / recurrencia);
+    return Cuantil(*ajuste.ley, *ajuste.estimado.p, ajuste.p0, 1 - 1 / recurrencia);
 }
 
 std::optional<Analisis> Analiza(const Serie& serie, const PedidoDeAnalisis& pedido, const Avance& avance)
@@ -109,6 +111,7 @@ std::optional<Analisis> Analiza(const Serie& serie, const PedidoDeAnalisis& pedi
     for (const Maximo& m : serie.maximos)
         x.push_back(m.valor);
     a.muestra = HazMuestra(std::move(x));
+    a.muestra.tratamiento = pedido.tratamiento;
     a.pruebas = PruebasDe(serie.maximos);
     const auto todas = Leyes();
     const std::vector<const Ley*> leyes =
@@ -121,7 +124,7 @@ std::optional<Analisis> Analiza(const Serie& serie, const PedidoDeAnalisis& pedi
         if (!deTodas(0, porLey)) return {};
         AjusteDeLey& f = a.ajustes.emplace_back(AjustaLey(*leyes[i], a));
         if (!f.estimado.p || a.pedido.cuantas <= 0) continue;
-        const auto r = Remuestrea(*leyes[i], *f.estimado.p, a.metodo, a.muestra, a.pedido, deTodas);
+        const auto r = Remuestrea(*leyes[i], f.estimado, a.metodo, a.muestra, a.pedido, deTodas);
         if (!r) return {};
         f.remuestreo = *r;
     }

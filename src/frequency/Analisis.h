@@ -16,13 +16,15 @@ struct PedidoDeAnalisis {
     Metodo metodo = Metodo::MomentosL;
     std::vector<const Ley*> leyes{};  ///< empty: all of them
     PedidoDeRemuestreo remuestreo{};
+    Tratamiento tratamiento{};  ///< of log-Pearson III by moments
 };
 
 /// A law as fitted; without parameters only `estimado.nota` says anything.
 struct AjusteDeLey {
     const Ley* ley = nullptr;
     Estimado estimado{};
-    Criterios criterios{};
+    double p0 = 0;          ///< years without rain that the law isn't of: F = p0 + (1 - p0) G
+    Criterios criterios{};  ///< of the years with rain
     Bondad bondad{};
     PorRecurrencia cuantiles{};
     Remuestreo remuestreo{};
@@ -50,7 +52,7 @@ std::optional<Analisis> Analiza(const Serie& serie, const PedidoDeAnalisis& pedi
                                 const Avance& avance = {});
 
 /// The depth of any recurrence [years], above 1, by a law that has parameters.
-double CuantilDe(const Analisis& a, const AjusteDeLey& ajuste, double recurrencia);
+double CuantilDe(const AjusteDeLey& ajuste, double recurrencia);
 
 /// Of the laws that Anderson-Darling doesn't reject at 5 %, whose shape is within the search's bounds and
 /// which hold every value, the one of least AICc.

@@ -31,7 +31,7 @@ int ClasesDe(std::size_t n)
     return std::clamp(static_cast<int>(n / 5), 5, 20);
 }
 
-Bondad BondadDe(const Ley& ley, const Parametros& p, std::span<const double> x)
+Bondad BondadDe(const Ley& ley, const Parametros& p, std::span<const double> x, double bajos)
 {
     constexpr double Menor = 1e-15;
     const std::size_t n = x.size();
@@ -42,8 +42,8 @@ Bondad BondadDe(const Ley& ley, const Parametros& p, std::span<const double> x)
     Bondad b;
     for (std::size_t i = 0; i < n; ++i) {
         const auto j = static_cast<double>(i);
-        F[i] = std::clamp(ley.probabilidad(p, x[i]), Menor, 1 - Menor);
-        q[i] = ley.cuantil(p, Posicion(i + 1, n, Cunnane));
+        F[i] = std::clamp((ley.probabilidad(p, x[i]) - bajos) / (1 - bajos), Menor, 1 - Menor);
+        q[i] = ley.cuantil(p, bajos + (1 - bajos) * Posicion(i + 1, n, Cunnane));
         b.ks = std::max({b.ks, (j + 1) / m - F[i], F[i] - j / m});
         clases[static_cast<std::size_t>(F[i] * cuantas)] += 1;
     }

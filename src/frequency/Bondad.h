@@ -16,8 +16,8 @@ struct Bondad {
 };
 
 /// `x` in rising order. A value outside the law counts as the least probability that a double tells from 0
-/// or 1.
-Bondad BondadDe(const Ley& ley, const Parametros& p, std::span<const double> x);
+/// or 1. `bajos`: the part of the law below all of x, which is taken out of it.
+Bondad BondadDe(const Ley& ley, const Parametros& p, std::span<const double> x, double bajos = 0);
 
 /// Classes of chi2: a fifth of the values, 5 to 20.
 int ClasesDe(std::size_t n);

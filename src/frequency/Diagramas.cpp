@@ -84,7 +84,7 @@ void Pon(std::vector<Punto>& donde, Ejes ejes, double F, double lamina)
     if (std::isfinite(p.x) && std::isfinite(p.y)) donde.push_back(p);
 }
 
-CurvaDePapel CurvaDe(const Analisis& a, const AjusteDeLey& f, Ejes ejes, double desde)
+CurvaDePapel CurvaDe(const AjusteDeLey& f, Ejes ejes, double desde)
 {
     constexpr int Pasos = 120;
     CurvaDePapel c;
@@ -94,7 +94,7 @@ CurvaDePapel CurvaDe(const Analisis& a, const AjusteDeLey& f, Ejes ejes, double 
     for (int i = 0; i <= Pasos; ++i) {
         const double x = x0 + paso * i;
         const double F = ejes == Ejes::Gumbel ? std::exp(-std::exp(-x)) : NormalProbabilidad(x);
-        Pon(c.curva.puntos, ejes, F, Cuantil(*f.ley, *f.estimado.p, a.muestra.P0(), F));
+        Pon(c.curva.puntos, ejes, F, Cuantil(*f.ley, *f.estimado.p, f.p0, F));
     }
     for (std::size_t i = 0; f.remuestreo.Hay() && i < model::Recurrencias.size(); ++i) {
         const double F = 1 - 1.0 / model::Recurrencias[i];
@@ -173,7 +173,7 @@ PapelDeProbabilidad PapelDe(const Analisis& a, Ejes ejes, double posicion)
     }
     const double desde = std::fmin(MenorF, Posicion(1, orden.size(), posicion));
     for (const AjusteDeLey& f : a.ajustes)
-        if (f.estimado.p) papel.leyes.push_back(CurvaDe(a, f, ejes, desde));
+        if (f.estimado.p) papel.leyes.push_back(CurvaDe(f, ejes, desde));
     for (const double T : Bajas)
         papel.marcas.push_back({Reducida(ejes, 1 - 1 / T), model::NumeroATexto(T)});
     for (const int T : model::Recurrencias)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frequency/Especiales.h"
 
+#include <boost/math/distributions/non_central_t.hpp>
 #include <boost/math/distributions/students_t.hpp>
 #include <boost/math/quadrature/gauss.hpp>
 #include <boost/math/special_functions/beta.hpp>
@@ -86,6 +87,11 @@ double LambertMenos1(double z)
 double StudentCola(double t, double grados)
 {
     return bm::cdf(bm::complement(bm::students_t_distribution<double, Politica>(grados), t));
+}
+
+double StudentColaNoCentral(double t, double grados, double noCentral)
+{
+    return bm::cdf(bm::complement(bm::non_central_t_distribution<double, Politica>(grados, noCentral), t));
 }
 
 double Integra(const std::function<double(double)>& f, double desde, double hasta, int tramos)

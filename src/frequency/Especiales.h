@@ -20,6 +20,8 @@ double CocienteGamma(double a, double d);     ///< G(a) / G(a + d)
 double BetaI(double a, double b, double x);   ///< regularised incomplete beta
 double LambertMenos1(double z);               ///< the lower branch, -1/e <= z < 0
 double StudentCola(double t, double grados);  ///< P(T > t)
+/// The same of the non-central law.
+double StudentColaNoCentral(double t, double grados, double noCentral);
 
 /// Integral over [desde, hasta] by Gauss-Legendre's rule of 30 points on each of `tramos` equal pieces.
 double Integra(const std::function<double(double)>& f, double desde, double hasta, int tramos);

@@ -29,6 +29,9 @@ struct Parametro {
 struct Estimado {
     std::optional<Parametros> p{};
     std::string nota{};  ///< a Spanish sentence without a full stop; empty: nothing
+    /// The law is that of all years, and this part of its probability is left to low values that it wasn't
+    /// fitted to, years without rain among them; none: it is that of the years with rain.
+    std::optional<double> bajos{};
 };
 
 struct Ley {

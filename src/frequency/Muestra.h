@@ -2,6 +2,8 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -30,12 +32,31 @@ struct Descriptivos {
     MomentosL l{};
 };
 
+/// What log-Pearson III by moments makes of the least values: they stay; those that Grubbs and Beck's test
+/// finds are left out and the probability of the others is made conditional; those that their multiple test
+/// finds count as less than the others and no more.
+enum class Bajos : std::uint8_t { Quedan, Boletin17B, Boletin17C };
+
+/// The skew of logarithms that a region has, and its mean square error: 0.302 that of the map of Bulletin
+/// 17B.
+struct AsimetriaRegional {
+    double g = 0, ecm = 0.302;
+};
+
+/// How log-Pearson III by moments takes a sample: the bulletins of the United States.
+struct Tratamiento {
+    Bajos bajos = Bajos::Quedan;
+    std::optional<AsimetriaRegional> regional{};
+    std::optional<std::size_t> cuantos{};  ///< low values, where no test has to find them
+};
+
 struct Muestra {
     std::vector<double> x{};  ///< rising; years without rain aren't in it
     std::size_t secos = 0;    ///< years without rain, whose maximum is 0
     Descriptivos directos{};
     Descriptivos decimales{};  ///< of log10 x; nothing where `positiva` isn't set
     bool positiva = false;     ///< every value of x is above 0
+    Tratamiento tratamiento{};
 
     [[nodiscard]] std::size_t Anios() const { return x.size() + secos; }
     /// The part of the years that is without rain.

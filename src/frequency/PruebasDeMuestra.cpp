@@ -142,12 +142,17 @@ double ProbabilidadDeLejano(double g, double n)
 
 }  // namespace
 
+double LimiteDeGrubbsBeck(std::size_t n)
+{
+    constexpr std::size_t UltimoDeLaFormula = 149;
+    return n <= UltimoDeLaFormula ? KDeGrubbsBeck(n) : KDeStudent(static_cast<double>(n));
+}
+
 Prueba GrubbsBeck(const std::vector<Maximo>& maximos, bool altos)
 {
     Prueba prueba{altos ? "grubbs-beck-alto" : "grubbs-beck-bajo",
                   altos ? "Dato anómalo alto (Grubbs-Beck)" : "Dato anómalo bajo (Grubbs-Beck)",
                   "Grubbs y Beck 1972; Bulletin 17B, 1982, apéndice 4", "G"};
-    constexpr std::size_t UltimoDeLaFormula = 149;
     std::vector<Maximo> lluviosos = maximos;  // a year without rain has no logarithm
     std::erase_if(lluviosos, [](const Maximo& m) { return m.valor <= 0; });
     std::vector<double> y;
@@ -155,7 +160,7 @@ Prueba GrubbsBeck(const std::vector<Maximo>& maximos, bool altos)
         y.push_back(std::log10(m.valor));
     const Momentos momentos = MomentosDe(y);
     const auto n = static_cast<double>(y.size());
-    const double K = y.size() <= UltimoDeLaFormula ? KDeGrubbsBeck(y.size()) : KDeStudent(n);
+    const double K = LimiteDeGrubbsBeck(y.size());
     double mayor = 0;
     std::string lejanos;
     for (std::size_t i = 0; i < y.size(); ++i) {

@@ -36,6 +36,8 @@ Prueba GrubbsBeck(const std::vector<Maximo>& maximos, bool altos);
 
 /// K_N = -0.9043 + 3.345 sqrt(log10 n) - 0.4046 log10 n
 double KDeGrubbsBeck(std::size_t n);
+/// The same up to 149 values, and from there on what Student's law leaves to 10 % of samples.
+double LimiteDeGrubbsBeck(std::size_t n);
 
 std::vector<Prueba> PruebasDe(const std::vector<Maximo>& maximos);
 

@@ -24,20 +24,41 @@ struct Miembro {
     RazonesL razones{};
 };
 
-std::optional<Miembro> HazMiembro(const Ley& ley, const Parametros& p, Metodo metodo, const Muestra& de,
-                                  Sorteo sorteo)
+/// What samples are drawn from, and how they are fitted.
+struct Fuente {
+    const Ley& ley;
+    const Parametros& p;
+    Metodo metodo;
+    double p0;
+    std::size_t anios;
+    Tratamiento tratamiento;
+};
+
+Fuente FuenteDe(const Ley& ley, const Estimado& e, Metodo metodo, const Muestra& m)
+{
+    const Alcance alcance = AlcanceDe(e, m);
+    Fuente fuente{ley, *e.p, metodo, alcance.p0, m.Anios(), m.tratamiento};
+    if (m.tratamiento.bajos == Bajos::Boletin17C) fuente.tratamiento.cuantos = m.Anios() - alcance.x.size();
+    return fuente;
+}
+
+std::optional<Miembro> HazMiembro(const Fuente& de, Sorteo sorteo)
 {
     constexpr std::size_t Menos = 5;  // years with rain that a fit needs to mean anything
     try {
-        std::vector<double> x(de.Anios());
+        std::vector<double> x(de.anios);
         for (double& xi : x)
-            xi = Cuantil(ley, p, de.P0(), sorteo.Uniforme());
-        const Muestra m = HazMuestra(std::move(x));
+            xi = Cuantil(de.ley, de.p, de.p0, sorteo.Uniforme());
+        Muestra m = HazMuestra(std::move(x));
         if (m.x.size() < Menos) return {};
-        const Estimado e = Ajusta(ley, m, metodo);
+        m.tratamiento = de.tratamiento;
+        const Estimado e = Ajusta(de.ley, m, de.metodo);
         if (!e.p) return {};
+        const Alcance alcance = AlcanceDe(e, m);
         const MomentosL& l = m.directos.l;
-        Miembro miembro{CuantilesDe(ley, *e.p, m.P0()), BondadDe(ley, *e.p, m.x), {l.t3, l.t4}};
+        Miembro miembro{CuantilesDe(de.ley, *e.p, alcance.p0),
+                        BondadDe(de.ley, *e.p, alcance.x, alcance.bajos),
+                        {l.t3, l.t4}};
         for (const double q : miembro.cuantiles)
             if (!std::isfinite(q)) return {};
         return miembro;
@@ -94,11 +115,12 @@ PorRecurrencia CuantilesDe(const Ley& ley, const Parametros& p, double p0)
     return q;
 }
 
-std::optional<Remuestreo> Remuestrea(const Ley& ley, const Parametros& p, Metodo metodo, const Muestra& m,
+std::optional<Remuestreo> Remuestrea(const Ley& ley, const Estimado& e, Metodo metodo, const Muestra& m,
                                      const PedidoDeRemuestreo& pedido, const Avance& avance)
 {
     constexpr double Bajo = 0.05, Alto = 0.95;
-    const auto haz = [&](std::size_t k) { return HazMiembro(ley, p, metodo, m, Sorteo(pedido.semilla, k)); };
+    const Fuente fuente = FuenteDe(ley, e, metodo, m);
+    const auto haz = [&](std::size_t k) { return HazMiembro(fuente, Sorteo(pedido.semilla, k)); };
     const auto todos = HazMiembros(haz, pedido, avance);
     if (!todos) return {};
     std::vector<const Miembro*> sirven;
@@ -117,7 +139,8 @@ std::optional<Remuestreo> Remuestrea(const Ley& ley, const Parametros& p, Metodo
         r.banda5[t] = CuantilDe(q, Bajo);
         r.banda95[t] = CuantilDe(q, Alto);
     }
-    const Bondad de = BondadDe(ley, p, m.x);
+    const Alcance alcance = AlcanceDe(e, m);
+    const Bondad de = BondadDe(ley, *e.p, alcance.x, alcance.bajos);
     for (double Bondad::*cual : {&Bondad::ks, &Bondad::ad, &Bondad::chi2, &Bondad::ppcc}) {
         double lejos = 1;
         for (const Miembro* miembro : sirven) {

@@ -48,9 +48,10 @@ struct Remuestreo {
 using Avance = std::function<bool(std::size_t hechos, std::size_t total)>;
 
 /// The samples have as many years as `m`, those without rain among them by their probability. Sample k draws
-/// its numbers from (seed, k) alone and all are put in order by k. Nothing where `avance`
+/// its numbers from (seed, k) alone and all are put in order by k. Low values that Bulletin 17C finds are as
+/// many in every sample. Nothing where `avance`
 /// stops it, within the time of one fit.
-std::optional<Remuestreo> Remuestrea(const Ley& ley, const Parametros& p, Metodo metodo, const Muestra& m,
+std::optional<Remuestreo> Remuestrea(const Ley& ley, const Estimado& e, Metodo metodo, const Muestra& m,
                                      const PedidoDeRemuestreo& pedido, const Avance& avance = {});
 
 }  // namespace frequency

@@ -30,8 +30,8 @@ Serie SerieDePortPirie()
 Remuestreo Con(int hilos, std::uint64_t semilla, int cuantas = 200)
 {
     const Muestra m = HazMuestra(PortPirie);
-    const Parametros p = *Ajusta(Gev, m, Metodo::Verosimilitud).p;
-    return *Remuestrea(Gev, p, Metodo::Verosimilitud, m, {semilla, cuantas, hilos});
+    const Estimado e = Ajusta(Gev, m, Metodo::Verosimilitud);
+    return *Remuestrea(Gev, e, Metodo::Verosimilitud, m, {semilla, cuantas, hilos});
 }
 
 TEST(Remuestreo, LosMismosBitsConCualquierNumeroDeHilos)
@@ -74,7 +74,7 @@ TEST(Remuestreo, ElValorPDistingueLasLeyes)
     const Muestra m = HazMuestra(x);
     const PedidoDeRemuestreo pedido{1, 200, 0};
     const auto p = [&](const Ley& ley) {
-        return Remuestrea(ley, *Ajusta(ley, m, Metodo::MomentosL).p, Metodo::MomentosL, m, pedido)->p;
+        return Remuestrea(ley, Ajusta(ley, m, Metodo::MomentosL), Metodo::MomentosL, m, pedido)->p;
     };
     EXPECT_GT(p(Gumbel).ad, 0.5);
     EXPECT_GT(p(Gumbel).ppcc, 0.5);

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "frequency/Verosimilitud.h"
+#include "frequency/leyes/Boletin17.h"
 #include "frequency/leyes/Pearson.h"
 
 namespace frequency {
@@ -35,7 +36,7 @@ double LogVerosimilitud(const Parametros& p, std::span<const double> x)
 Estimado PorMomentos(const Muestra& m)
 {
     if (!m.positiva) return {{}, "Hay valores que no son mayores que 0"};
-    return pearson::PorMomentos(m.decimales.m);
+    return boletin17::PorMomentos(m);
 }
 
 Estimado PorMomentosL(const Muestra& m)
@@ -60,8 +61,8 @@ const Ley LogPearsonIII{
     PorMomentosL,
     MaximaVerosimilitud,
     "log10 x = mu + sigma K(F, g)",
-    "Interagency Advisory Committee on Water Data, Bulletin 17B, 1982",
-    "La asimetría es la de la estación, sin ponderar con una regional; no admite ceros",
+    "Interagency Advisory Committee on Water Data, Bulletin 17B, 1982; England y otros, Bulletin 17C, 2019",
+    "La asimetría es la de la estación si no se da una regional; la cola alta es muy sensible a ella",
 };
 
 }  // namespace frequency
