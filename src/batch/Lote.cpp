@@ -8,6 +8,7 @@
 
 #include "batch/CorridaLote.h"
 #include "batch/FrecuenciaLote.h"
+#include "batch/IdfLote.h"
 #include "batch/Opciones.h"
 #include "batch/RevisaLote.h"
 #include "batch/VerificaLote.h"
@@ -28,6 +29,7 @@ struct Verbo {
 constexpr auto Verbos = std::to_array<Verbo>({
     {"revisa", UsoRevisa, LeeOpcionesRevisa, RevisaProyecto},
     {"frecuencia", UsoFrecuencia, LeeOpcionesFrecuencia, MuestraFrecuencia},
+    {"idf", UsoIdf, LeeOpcionesIdf, MuestraIdf},
     {"verifica", UsoVerifica, LeeOpcionesVerifica, MuestraCasos},
 });
 /// una and serie, and whatever is none of them.

@@ -6,6 +6,8 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
+#include <string>
+#include <utility>
 
 #include "model/Falla.h"
 #include "model/Numeros.h"
@@ -77,6 +79,62 @@ std::int16_t Forma(std::string_view texto)
     return forma;
 }
 
+/// "a=1,b=2" as pairs of texts.
+std::vector<std::pair<std::string, std::string>> Pares(std::string_view texto)
+{
+    std::vector<std::pair<std::string, std::string>> pares;
+    for (std::size_t desde = 0; desde <= texto.size();) {
+        const std::size_t coma = std::min(texto.find(',', desde), texto.size());
+        const std::string_view par = texto.substr(desde, coma - desde);
+        const std::size_t igual = par.find('=');
+        if (igual == std::string_view::npos || igual == 0 || igual + 1 == par.size())
+            throw ValorErroneo{"\"" + std::string(par) + "\" no tiene la forma nombre=valor"};
+        pares.emplace_back(par.substr(0, igual), par.substr(igual + 1));
+        desde = coma + 1;
+    }
+    return pares;
+}
+
+std::vector<std::pair<double, std::string>> Series(std::string_view texto)
+{
+    std::vector<std::pair<double, std::string>> series;
+    for (const auto& [duracion, archivo] : Pares(texto))
+        series.emplace_back(Numero(duracion), archivo);
+    return series;
+}
+
+std::vector<study::Razon> Razones(std::string_view texto)
+{
+    std::vector<study::Razon> razones;
+    for (const auto& [duracion, razon] : Pares(texto))
+        razones.push_back({Numero(duracion), Numero(razon)});
+    return razones;
+}
+
+/// "k=822,a=0.2"; "a@10=900" is that of the recurrence of 10 years.
+std::vector<study::Coeficiente> Coeficientes(std::string_view texto)
+{
+    std::vector<study::Coeficiente> coeficientes;
+    for (const auto& [nombre, valor] : Pares(texto)) {
+        const std::size_t arroba = std::min(nombre.find('@'), nombre.size());
+        const double recurrencia = arroba < nombre.size() ? Numero(nombre.substr(arroba + 1)) : 0;
+        coeficientes.push_back({nombre.substr(0, arroba), Numero(valor), recurrencia});
+    }
+    return coeficientes;
+}
+
+bool EsDiaria(std::string_view texto)
+{
+    if (texto != "diaria" && texto != "corrida") throw ValorErroneo{"debe ser diaria o corrida"};
+    return texto == "diaria";
+}
+
+bool EsRelativo(std::string_view texto)
+{
+    if (texto != "log" && texto != "relativo") throw ValorErroneo{"debe ser log o relativo"};
+    return texto == "relativo";
+}
+
 bool RespondeSi(std::string_view texto)
 {
     if (texto != "si" && texto != "no") throw ValorErroneo{"debe ser si o no"};
@@ -104,7 +162,7 @@ int Remuestras(std::string_view texto)
 }
 
 // Which orders take an option; 0: one without a project.
-constexpr int DeCorrida = 1, DeRevision = 2, DeAmbas = DeCorrida | DeRevision, DeFrecuencia = 4;
+constexpr int DeCorrida = 1, DeRevision = 2, DeAmbas = DeCorrida | DeRevision, DeFrecuencia = 4, DeIdf = 8;
 
 /// An option with a value: how it is written and where its value goes.
 struct FilaOpcion {
@@ -128,14 +186,25 @@ constexpr auto Filas = std::to_array<FilaOpcion>({
     {"--responde", [](Opciones& o, const std::string& v) { o.respondeSi = RespondeSi(v); }},
     {"--hilos", [](Opciones& o, const std::string& v) { o.hilos = Hilos(v); }, DeCorrida | DeFrecuencia},
     {"--resultados", [](Opciones& o, const std::string& v) { o.resultados = v; }},
-    {"--ley", [](Opciones& o, const std::string& v) { o.ley = v; }, DeFrecuencia},
-    {"--metodo", [](Opciones& o, const std::string& v) { o.metodo = Metodo(v); }, DeFrecuencia},
+    {"--ley", [](Opciones& o, const std::string& v) { o.ley = v; }, DeFrecuencia | DeIdf},
+    {"--metodo", [](Opciones& o, const std::string& v) { o.metodo = Metodo(v); }, DeFrecuencia | DeIdf},
     {"--remuestras", [](Opciones& o, const std::string& v) { o.remuestras = Remuestras(v); }, DeFrecuencia},
     {"--semilla",
      [](Opciones& o,
         const std::string&
             v) { o.semilla = static_cast<std::uint32_t>(NumeroEnteroEntre(v, 0, 4294967295.0)); },
      DeFrecuencia},
+    {"--series", [](Opciones& o, const std::string& v) { o.series = Series(v); }, DeIdf},
+    {"--lectura", [](Opciones& o, const std::string& v) { o.lecturaDiaria = EsDiaria(v); }, DeIdf},
+    {"--factor", [](Opciones& o, const std::string& v) { o.idf.factorDiario = Numero(v); }, DeIdf},
+    {"--desagregacion", [](Opciones& o, const std::string& v) { o.idf.desagregacion = v; }, DeIdf},
+    {"--familia", [](Opciones& o, const std::string& v) { o.idf.familia = v == "ninguna" ? "" : v; }, DeIdf},
+    {"--criterio", [](Opciones& o, const std::string& v) { o.idf.errorRelativo = EsRelativo(v); }, DeIdf},
+    {"--coeficientes", [](Opciones& o, const std::string& v) { o.idf.coeficientes = Coeficientes(v); },
+     DeIdf},
+    {"--razones", [](Opciones& o, const std::string& v) { o.idf.razones = Razones(v); }, DeIdf},
+    {"--reduccion", [](Opciones& o, const std::string& v) { o.idf.reduccion = v; }, DeIdf},
+    {"--area", [](Opciones& o, const std::string& v) { o.idf.area = Numero(v); }, DeIdf},
     {"--cuenca", [](Opciones& o, const std::string& v) { o.cuenca = Lamina(v); }, DeRevision},
 });
 
@@ -153,8 +222,9 @@ CLI::App* Orden(CLI::App& programa, const char* nombre, Palabras& p, int clase =
     orden->set_help_flag("--help,-h,--ayuda");
     orden->add_flag("--json", p.json);
     if (clase == 0) return orden;
-    orden->add_option(clase == DeFrecuencia ? "ARCHIVO" : "CONF", p.conf);
-    if (clase == DeFrecuencia) orden->add_flag("--csv", p.csv);
+    const bool deMaximos = (clase & (DeFrecuencia | DeIdf)) != 0;
+    orden->add_option(deMaximos ? "ARCHIVO" : "CONF", p.conf);
+    if (deMaximos) orden->add_flag("--csv", p.csv);
     for (std::size_t i = 0; i < Filas.size(); ++i)
         if ((Filas[i].ordenes & clase) != 0) p.opciones[i] = orden->add_option(Filas[i].nombre, p.valores[i]);
     if (clase != DeCorrida) return orden;
@@ -223,6 +293,23 @@ std::optional<Lectura> Reconoce(CLI::App& programa, int argc, const char* const*
     return {};
 }
 
+/// An order that takes maxima and no project.
+Lectura LeeDeMaximos(const char* nombre, Opciones::Orden orden, int clase, int argc, const char* const* argv)
+{
+    CLI::App programa{"", "siro-lote"};
+    programa.allow_windows_style_options(false);
+    Palabras p;
+    Orden(programa, nombre, p, clase);
+    if (auto otra = Reconoce(programa, argc, argv)) return *otra;
+    if (p.json && p.csv) return {{}, "--json y --csv no van juntos"};
+    Opciones o;
+    o.orden = orden;
+    o.archivo = p.conf;
+    o.json = p.json;
+    o.csv = p.csv;
+    return Toma(p, std::move(o));
+}
+
 }  // namespace
 
 Lectura LeeOpciones(int argc, const char* const* argv)
@@ -265,19 +352,21 @@ Lectura LeeOpcionesVerifica(int argc, const char* const* argv)
 
 Lectura LeeOpcionesFrecuencia(int argc, const char* const* argv)
 {
-    CLI::App programa{"", "siro-lote"};
-    programa.allow_windows_style_options(false);
-    Palabras frecuencia;
-    Orden(programa, "frecuencia", frecuencia, DeFrecuencia);
-    if (auto otra = Reconoce(programa, argc, argv)) return *otra;
-    if (frecuencia.conf.empty()) return {{}, "Falta ARCHIVO"};
-    if (frecuencia.json && frecuencia.csv) return {{}, "--json y --csv no van juntos"};
-    Opciones o;
-    o.orden = Opciones::Orden::Frecuencia;
-    o.archivo = frecuencia.conf;
-    o.json = frecuencia.json;
-    o.csv = frecuencia.csv;
-    return Toma(frecuencia, std::move(o));
+    Lectura l = LeeDeMaximos("frecuencia", Opciones::Orden::Frecuencia, DeFrecuencia, argc, argv);
+    if (l.opciones && l.opciones->archivo.empty()) return {{}, "Falta ARCHIVO"};
+    return l;
+}
+
+Lectura LeeOpcionesIdf(int argc, const char* const* argv)
+{
+    Lectura l = LeeDeMaximos("idf", Opciones::Orden::Idf, DeIdf, argc, argv);
+    if (!l.opciones) return l;
+    Opciones& o = *l.opciones;
+    if (!o.archivo.empty() && !o.series.empty()) return {{}, "ARCHIVO y --series no van juntos"};
+    if (o.archivo.empty() && o.series.empty() && o.idf.coeficientes.empty())
+        return {{}, "Falta de dónde: ARCHIVO, --series o --coeficientes"};
+    o.idf.origen = !o.series.empty() ? "series" : o.archivo.empty() ? "coeficientes" : "diaria";
+    return l;
 }
 
 }  // namespace batch

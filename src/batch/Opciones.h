@@ -5,13 +5,16 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
+
+#include "study/Taller.h"
 
 namespace batch {
 
 /// What a command line asks for. Numbers are within the bounds told here; paths stand as they were typed.
 struct Opciones {
-    enum class Orden { Una, Serie, Revisa, Verifica, Frecuencia };
+    enum class Orden { Una, Serie, Revisa, Verifica, Frecuencia, Idf };
 
     Orden orden = Orden::Una;
     std::string conf{};             ///< path of the project's configuration file, ends in _Conf.vlm
@@ -38,7 +41,10 @@ struct Opciones {
     int remuestras = 1000;          ///< samples of the bootstrap, 0 or 100 to 100000
     std::uint32_t semilla = 1;      ///< of their numbers
     bool csv = false;               ///< quantiles as CSV, not as text
-    float cuenca = 0;               ///< the basin as measured [ha], not negative; 0: not known
+    study::Idf idf{};               ///< what curves are made of, and how
+    std::vector<std::pair<double, std::string>> series{};  ///< duration [min] and path of its maxima
+    bool lecturaDiaria = true;  ///< maxima of a day are of readings, not of any 24 hours
+    float cuenca = 0;           ///< the basin as measured [ha], not negative; 0: not known
 
     bool operator==(const Opciones&) const = default;
 };
@@ -66,5 +72,9 @@ Lectura LeeOpcionesVerifica(int argc, const char* const* argv);
 /// The same of the frequency of annual maxima, which takes their file and no project.
 std::string_view UsoFrecuencia();
 Lectura LeeOpcionesFrecuencia(int argc, const char* const* argv);
+
+/// The same of the curves of intensity, which take maxima or coefficients and no project.
+std::string_view UsoIdf();
+Lectura LeeOpcionesIdf(int argc, const char* const* argv);
 
 }  // namespace batch

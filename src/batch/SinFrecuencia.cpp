@@ -1,13 +1,27 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/CorridaLote.h"
 #include "batch/FrecuenciaLote.h"
+#include "batch/IdfLote.h"
 
 namespace batch {
+namespace {
+
+int NoLaTrae(const std::string& orden, const Salidas& salidas)
+{
+    salidas.Errores("siro-lote: esta versión no trae la orden " + orden + "; la trae la de Linux\n");
+    return EstadoInterrumpido;
+}
+
+}  // namespace
 
 int MuestraFrecuencia(const Opciones& /*o*/, const std::string& /*dirEjecutable*/, const Salidas& salidas)
 {
-    salidas.Errores("siro-lote: esta versión no trae la orden frecuencia; la trae la de Linux\n");
-    return EstadoInterrumpido;
+    return NoLaTrae("frecuencia", salidas);
+}
+
+int MuestraIdf(const Opciones& /*o*/, const std::string& /*dirEjecutable*/, const Salidas& salidas)
+{
+    return NoLaTrae("idf", salidas);
 }
 
 }  // namespace batch

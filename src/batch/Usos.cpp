@@ -81,7 +81,39 @@ Estado de salida: 0 hay resultados; 1 los datos no se pueden ajustar, o no se pu
                   órdenes es errónea.
 )";
 
+constexpr std::string_view TextoUsoIdf =
+    R"(Uso: siro-lote idf ARCHIVO [opciones]                 de máximos diarios, desagregados
+     siro-lote idf --series D=ARCHIVO,D=ARCHIVO,...     de máximos de varias duraciones D [min]
+     siro-lote idf --familia F --coeficientes S=V,...   de coeficientes conocidos
+
+Da la lámina [mm] y la intensidad [mm/h] de las 17 duraciones y las 14 recurrencias de las tablas P-D-R. Los
+archivos de máximos son los de la orden frecuencia.
+
+  --ley L, --metodo M     la ley de los máximos y su ajuste, como en frecuencia (la recomendada, por momentos L)
+  --lectura L             diaria: los máximos de un día son de una lectura por día; corrida: de 24 horas (diaria)
+  --factor X              de la lectura diaria a 24 horas; no se aplica dos veces (1.13)
+  --desagregacion D       dick-peschke, 5.2-ic, 5.2-ic-2016, dit, razones (dick-peschke)
+  --razones D=R,...       parte de la lámina de 24 horas que cae en D minutos; para razones y 5.2-ic-2016
+  --familia F             sherman, bernard, talbot, wenzel, dit, libre; ninguna: sin curvas (sherman)
+  --criterio C            log: cuadrados de los logaritmos; relativo: de los errores relativos (log)
+  --coeficientes S=V,...  de la familia (k=822,a=0.2,b=10,c=0.8; de libre, a@10=..), o de la desagregación:
+                          I1Id, kb, B
+  --reduccion R           areal: 5.2-ic, con --area; propia, con el coeficiente KA (ninguna)
+  --area KM2              área de la cuenca
+  --json                  todo, en JSON
+  --csv                   duracion,recurrencia,lamina,intensidad
+  --ayuda, --help         este texto
+
+Estado de salida: 0 hay curvas; 1 no las hay con esos datos, o no se pudo leer o escribir; 2 la línea de órdenes
+                  es errónea.
+)";
+
 }  // namespace
+
+std::string_view UsoIdf()
+{
+    return TextoUsoIdf;
+}
 
 std::string_view Uso()
 {

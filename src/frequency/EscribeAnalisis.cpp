@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frequency/EscribeAnalisis.h"
 
-#include <array>
-#include <charconv>
-#include <cmath>
 #include <string_view>
 
 #include "checks/Json.h"
+#include "frequency/Cifras.h"
 #include "model/Texto.h"
 
 namespace frequency {
@@ -14,38 +12,7 @@ namespace {
 
 using checks::Citado;
 
-/// The shortest text that gives the same double back; empty where there is none.
-std::string Entero(double x)
-{
-    if (!std::isfinite(x)) return {};
-    std::array<char, 32> lugar{};
-    return {lugar.data(), std::to_chars(lugar.data(), lugar.data() + lugar.size(), x).ptr};
-}
-
-/// A number with so many decimals; "-" where there is none.
-std::string Con(double x, int decimales)
-{
-    if (!std::isfinite(x)) return "-";
-    std::array<char, 400> lugar{};
-    const auto fin =
-        std::to_chars(lugar.data(), lugar.data() + lugar.size(), x, std::chars_format::fixed, decimales);
-    return {lugar.data(), fin.ptr};
-}
-
-/// A number with five figures that mean something.
-std::string Cifras(double x)
-{
-    std::array<char, 32> lugar{};
-    const auto fin =
-        std::to_chars(lugar.data(), lugar.data() + lugar.size(), x, std::chars_format::general, 5);
-    return {lugar.data(), fin.ptr};
-}
-
-std::string Derecha(const std::string& texto, std::size_t ancho)
-{
-    const std::size_t largo = model::CuentaCaracteres(texto);
-    return largo < ancho ? std::string(ancho - largo, ' ') + texto : texto;
-}
+constexpr auto N = EnJson;
 
 constexpr std::size_t AnchoLey = 27, AnchoNumero = 9, AnchoCuantil = 7;
 constexpr int DecimalesDeLluvia = 1;
@@ -148,21 +115,6 @@ std::string TextoDeCuantiles(const Analisis& a)
 
 // --- JSON ---
 
-std::string N(double x)
-{
-    const std::string t = Entero(x);
-    return t.empty() ? "null" : t;
-}
-
-template <typename Lista, typename F>
-std::string Arreglo(const Lista& lista, F f)
-{
-    std::string t = "[";
-    for (const auto& x : lista)
-        t += (t.size() > 1 ? "," : "") + f(x);
-    return t + "]";
-}
-
 std::string JsonDeBondad(const Bondad& b)
 {
     return "{\"ks\":" + N(b.ks) + ",\"ad\":" + N(b.ad) + ",\"chi2\":" + N(b.chi2) + ",\"ppcc\":" + N(b.ppcc) +
@@ -232,9 +184,9 @@ std::string CsvDe(const Analisis& a)
         const bool hay = f.remuestreo.Hay();
         for (std::size_t i = 0; i < f.cuantiles.size(); ++i)
             t += std::string(f.ley->clave) + "," + std::string(ClaveDe(a.metodo)) + "," +
-                 std::to_string(model::Recurrencias[i]) + "," + Entero(f.cuantiles[i]) + "," +
-                 (hay ? Entero(f.remuestreo.banda5[i]) : "") + "," +
-                 (hay ? Entero(f.remuestreo.banda95[i]) : "") + "\n";
+                 std::to_string(model::Recurrencias[i]) + "," + Exacto(f.cuantiles[i]) + "," +
+                 (hay ? Exacto(f.remuestreo.banda5[i]) : "") + "," +
+                 (hay ? Exacto(f.remuestreo.banda95[i]) : "") + "\n";
     }
     return t;
 }
