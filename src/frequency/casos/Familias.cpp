@@ -9,8 +9,8 @@ namespace frequency {
 
 std::span<const checks::casos::Familia> Familias()
 {
-    static constexpr std::array<checks::casos::Familia, 3> Todas{casos::FilasDeLeyes, casos::FilasDePruebas,
-                                                                 casos::FilasDePatrones};
+    static constexpr std::array<checks::casos::Familia, 4> Todas{
+        casos::FilasDeLeyes, casos::FilasDePruebas, casos::FilasDePatrones, casos::FilasDeIntensidades};
     return Todas;
 }
 

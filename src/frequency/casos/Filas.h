@@ -13,5 +13,7 @@ using checks::casos::FilaDeCaso;
 std::span<const FilaDeCaso> FilasDeLeyes();     ///< parameters and quantiles of the books
 std::span<const FilaDeCaso> FilasDePruebas();   ///< tests of a sample
 std::span<const FilaDeCaso> FilasDePatrones();  ///< storms spread over time
+std::span<const FilaDeCaso>
+FilasDeIntensidades();  ///< curves of intensity, disaggregation, reduction by area
 
 }  // namespace frequency::casos

@@ -43,7 +43,7 @@ std::string FueraDe(std::string_view simbolo, double menor, double mayor)
 double Cuantil(const LeyDeDuracion& l, double recurrencia)
 {
     try {
-        return l.factor * l.ley->cuantil(l.p, 1 - 1 / recurrencia);
+        return l.factor * frequency::Cuantil(*l.ley, l.p, l.p0, 1 - 1 / recurrencia);
     } catch (const std::exception&) {
         return NoHay;
     }
@@ -163,11 +163,14 @@ class Taller {
         Serie serie;
         for (const study::Maximo& m : s.maximos)
             serie.maximos.push_back({m.anio, m.valor});
-        const bool seco = std::any_of(s.maximos.begin(), s.maximos.end(),
-                                      [](const study::Maximo& m) { return !(m.valor > 0); });
-        if (seco) return Error(cual + " tiene un año sin lluvia o un valor negativo: así no se ajusta.");
-        if (s.maximos.size() < MinimoDeAnios)
-            return Error(cual + " tiene " + std::to_string(s.maximos.size()) + " años; hacen falta 10.");
+        std::size_t conLluvia = 0;
+        for (const study::Maximo& m : s.maximos) {
+            if (!(m.valor >= 0))
+                return Error(cual + " tiene un valor negativo en " + std::to_string(m.anio) + ".");
+            if (m.valor > 0) ++conLluvia;
+        }
+        if (conLluvia < MinimoDeAnios)
+            return Error(cual + " tiene " + std::to_string(conLluvia) + " años con lluvia; hacen falta 10.");
         PedidoDeAnalisis p;
         p.remuestreo.cuantas = 0;
         const Ley* ley = LeyDeClave(s.ley);
@@ -180,7 +183,7 @@ class Taller {
         for (const AjusteDeLey& f : a.ajustes)
             if (f.ley == ley && f.estimado.p)
                 return c.leyes.push_back(
-                    {s.duracion, ley, *f.estimado.p, factor, recomendada, s.maximos.size()});
+                    {s.duracion, ley, *f.estimado.p, a.muestra.P0(), factor, recomendada, s.maximos.size()});
         Error(cual + (recomendada
                           ? ": " + a.recomendacion.motivo
                           : ", " + std::string(ley->nombre) + ": " + a.ajustes.front().estimado.nota + "."));

@@ -19,6 +19,7 @@ struct LeyDeDuracion {
     double duracion = 0;  ///< [min]
     const Ley* ley = nullptr;
     Parametros p{};
+    double p0 = 0;             ///< the part of the years that is without rain
     double factor = 1;         ///< of its quantiles, from a day's reading to 24 hours or back
     bool recomendada = false;  ///< nobody chose it
     std::size_t anios = 0;

@@ -79,7 +79,7 @@ std::string TextoDeTabla(const TablaDeLaminas& tabla, bool intensidades)
 std::string JsonDeLey(const LeyDeDuracion& l)
 {
     std::string t = "{\"duracion\":" + EnJson(l.duracion) + ",\"ley\":" + Citado(l.ley->clave) +
-                    ",\"recomendada\":" + (l.recomendada ? "true" : "false") +
+                    ",\"recomendada\":" + (l.recomendada ? "true" : "false") + ",\"p0\":" + EnJson(l.p0) +
                     ",\"factor\":" + EnJson(l.factor) + ",\"anios\":" + std::to_string(l.anios) +
                     ",\"parametros\":{";
     for (std::size_t i = 0; i < l.ley->cuantos; ++i)
