@@ -89,6 +89,7 @@ constexpr std::string_view TextoUsoIdf =
 Da la lámina [mm] y la intensidad [mm/h] de las 17 duraciones y las 14 recurrencias de las tablas P-D-R. Los
 archivos de máximos son los de la orden frecuencia.
 
+  --series D=ARCHIVO,...  máximos de varias duraciones, un archivo cada una
   --ley L, --metodo M     la ley de los máximos y su ajuste, como en frecuencia (la recomendada, por momentos L)
   --lectura L             diaria: los máximos de un día son de una lectura por día; corrida: de 24 horas (diaria)
   --factor X              de la lectura diaria a 24 horas; no se aplica dos veces (1.13)

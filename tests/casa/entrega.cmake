@@ -20,7 +20,7 @@ function(lee archivo salida)
 endfunction()
 
 # --- Options: those of the usage, line by line, are those of each page ---------------------------------------------------
-lee(src/batch/Opciones.cpp programa)
+lee(src/batch/Usos.cpp programa)
 string(REGEX MATCHALL "\n  --[a-z-]+(, --[a-z-]+)*" renglones "${programa}")
 string(REGEX MATCHALL "--[a-z-]+" opciones "${renglones}")
 list(REMOVE_DUPLICATES opciones)

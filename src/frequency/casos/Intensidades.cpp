@@ -19,13 +19,13 @@ struct Impresa {
     std::vector<std::pair<double, std::vector<double>>> porRecurrencia{};
 };
 
-/// A family's curves beside a printed table; x is the duration, recurrence after recurrence.
+/// A family's curves beside a printed table; x is the duration, its recurrences in a row.
 Comparacion Tabla(const char* familia, const Coeficientes& coeficientes, const Impresa& tabla)
 {
     const idf::Familia& f = *idf::FamiliaDeClave(familia);
     Comparacion c;
-    for (const auto& [T, intensidades] : tabla.porRecurrencia)
-        for (std::size_t i = 0; i < intensidades.size(); ++i) {
+    for (std::size_t i = 0; i < tabla.duraciones.size(); ++i)
+        for (const auto& [T, intensidades] : tabla.porRecurrencia) {
             c.x.push_back(tabla.duraciones[i]);
             c.impreso.push_back(intensidades[i]);
             c.nuestro.push_back(std::exp(f.logIntensidad(coeficientes, tabla.duraciones[i], T)));
@@ -205,8 +205,8 @@ constexpr auto Filas = std::to_array<FilaDeCaso>({
      "5,2438 mm/h en 24 h, que son 125,85 mm; de 1 a 18 h", MilimetrosPorHora, Minutos, 0.001,
      "una unidad de la última cifra de la intensidad de 24 h, que vale diez en la de una hora", false,
      [] {
-         return DeUnaLamina("dick-peschke", {}, 5.2438 * 24, {1080, 720, 480, 360, 300, 240, 180, 120, 60},
-                            {6.5065, 8.8189, 11.9532, 14.8316, 17.0049, 20.1027, 24.9436, 33.8087, 56.8592});
+         return DeUnaLamina("dick-peschke", {}, 5.2438 * 24, {60, 120, 180, 240, 300, 360, 480, 720, 1080},
+                            {56.8592, 33.8087, 24.9436, 20.1027, 17.0049, 14.8316, 11.9532, 8.8189, 6.5065});
      }},
     {"5.2-IC, factor areal KA", HojaDeTemez, "88,21 mm en el punto, 380 km2", "lámina de la cuenca [mm]",
      "caso", 0.0005, "media unidad de la última cifra", false,
