@@ -13,6 +13,7 @@
 #include "editor/EnMano.h"
 #include "editor/Fondo.h"
 #include "model/ArchivoConf.h"
+#include "model/Disco.h"
 
 namespace {
 
@@ -672,7 +673,7 @@ TEST_F(Editor, ElProyectoDeMuestraSeVeEntero)
         const editor::Pixel p = editor::APixel(f.vista, esquina);
         EXPECT_TRUE(p.x >= 0 && p.x <= f.vista.lienzo.ancho && p.y >= 0 && p.y <= f.vista.lienzo.alto);
     }
-    EXPECT_EQ(editor::RutaImagen(s), "/proy/Quelmar.jpg");
+    EXPECT_EQ(editor::RutaImagen(s), model::Ruta("/proy", "Quelmar.jpg"));
     f.fondo.CargaImagen = [](const std::string&) {
         return editor::ImagenCargada{editor::CargaDeImagen::Entera, {800, 600}};
     };
@@ -827,7 +828,7 @@ struct Imagen : Editor {
 
 TEST_F(Imagen, UnNombreSueltoSeBuscaEnElDirectorioDelProyecto)
 {
-    EXPECT_EQ(editor::RutaImagen(s), "/proy/Arroyo.jpg");
+    EXPECT_EQ(editor::RutaImagen(s), model::Ruta("/proy", "Arroyo.jpg"));
     s.Configuracion.ArchivoImagen = "/mapas/Arroyo.jpg";
     EXPECT_EQ(editor::RutaImagen(s), "/mapas/Arroyo.jpg");
 }
@@ -842,8 +843,8 @@ TEST_F(Imagen, SePoneYSeQuitaConSusLeyendasYReleeLosComponentes)
     EXPECT_TRUE(f.fondo.ImagenVisible);
     EXPECT_EQ(f.fondo.cmdImagenUEHs, "Quitar Imágen");
     EXPECT_EQ(f.fondo.imagen, (Tamano{640, 480}));
-    EXPECT_EQ(f.fondo.rutaImagen, "/proy/Arroyo.jpg");
-    EXPECT_EQ(pedidas, (std::vector<std::string>{"/proy/Arroyo.jpg"}));
+    EXPECT_EQ(f.fondo.rutaImagen, model::Ruta("/proy", "Arroyo.jpg"));
+    EXPECT_EQ(pedidas, (std::vector<std::string>{model::Ruta("/proy", "Arroyo.jpg")}));
     EXPECT_EQ(Con(Papel::Imagen).size(), 1U);
     EXPECT_EQ(s.Red.ColUEHs.Item(1).Area, 0);
     s.Red.ColUEHs.Item(1).Area = 7;
@@ -951,7 +952,7 @@ TEST_F(Imagen, UnaImagenMayorQueLosArchivosDelProyectoSeMuestra)
         throw model::Falla{model::NumeroFalla::AccesoRuta};
     };
     editor::cmdImagenUEHs_Click(f, s);
-    EXPECT_EQ(pedidas, (std::vector<std::string>{"/proy/Arroyo.jpg"}));
+    EXPECT_EQ(pedidas, (std::vector<std::string>{model::Ruta("/proy", "Arroyo.jpg")}));
     EXPECT_EQ(f.fondo.imagen, (Tamano{640, 480}));
 }
 

@@ -15,6 +15,7 @@
 #include "apoyo/Compara.h"
 #include "batch/CorridaLote.h"
 #include "engine/mdlSeriePDR.h"
+#include "model/Disco.h"
 #include "model/Siro.h"
 #include "model/Texto.h"
 #include "results/dlgChart3.h"
@@ -38,7 +39,7 @@ class SerieDeMuestra : public testing::Test {
         fs::copy(SIRO_DATA_DIR, dir.Camino(), fs::copy_options::recursive);
         s.Anfitrion = anfitrion.Puerta();
         s.Proyecto.DirTrabajo = dir.Camino().string();
-        batch::AbreProyecto(s, dir.Ruta("Proyectos/Quelmar_Conf.vlm"));
+        batch::AbreProyecto(s, model::Ruta(dir.Ruta("Proyectos"), "Quelmar_Conf.vlm"));
         batch::FijaTormenta(s, {.orden = batch::Opciones::Orden::Serie});
         ASSERT_EQ(engine::CorreSeriePDR(s), engine::FinSerie::Completa);
         LeeArchivo();

@@ -8,6 +8,7 @@
 
 #include "apoyo/Compara.h"
 #include "forms/LecturaGrafico.h"
+#include "model/Disco.h"
 #include "results/SerieDePrueba.h"
 
 namespace results {
@@ -80,7 +81,7 @@ TEST_F(Abaco, LosRotulosALaLetra)
 {
     AbreEn(3);  // an outfall, and no word of it
     EXPECT_EQ(f.lblTitulo, "Serie de Tormentas Sintéticas: Gráficos Qp-D-R  -  E-D-R  -  CE-D-R");
-    EXPECT_EQ(f.lblNota, "Un título  /proyectos/Prueba_Conf.vlm");
+    EXPECT_EQ(f.lblNota, "Un título  " + model::Ruta("/proyectos", "Prueba_Conf.vlm"));
     EXPECT_EQ(f.lblNotaVelmir, "SIRO: Modelo hidrológico de simulación lluvia-caudal");
     EXPECT_EQ(f.Notas, "Notas en AlGraficoPp");
     EXPECT_EQ(f.Grafico.titulo, "c-1");
@@ -116,7 +117,7 @@ TEST_F(Abaco, UnaSerieDeUnaTormentaNoTraeDatos)
     EXPECT_TRUE(f.Grafico.categorias.empty());
     EXPECT_TRUE(f.Grafico.series.empty());
     EXPECT_EQ(f.lblTitulo, "");
-    EXPECT_EQ(f.lblNota, "Un título  /proyectos/Prueba_Conf.vlm");
+    EXPECT_EQ(f.lblNota, "Un título  " + model::Ruta("/proyectos", "Prueba_Conf.vlm"));
     EXPECT_EQ(f.lblNotaVelmir, "SIRO: Simulación lluvia-caudal");
     EXPECT_EQ(f.Grafico.ejeX, "Duración Tormenta D[minutos]");
     EXPECT_EQ(f.Grafico.ejeY, "Caudal Máximo [m3/s]");

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "model/Disco.h"
 #include "results/SerieDePrueba.h"
 
 namespace results {
@@ -67,7 +68,7 @@ TEST_F(TablaDeUno, AbreConElComponenteDeMano)
     EXPECT_EQ(f.lstCompos, (Textos{"u-1", "u-2", "c-1"}));
     EXPECT_EQ(f.lstComposIndice, 1);
     EXPECT_EQ(Mostradas(), ConTotales(DeU2));
-    EXPECT_EQ(f.MSFlexGridTablaSaleQDR.filas[0].celdas[7], "/proyectos/Prueba_Conf.vlm");
+    EXPECT_EQ(f.MSFlexGridTablaSaleQDR.filas[0].celdas[7], model::Ruta("/proyectos", "Prueba_Conf.vlm"));
     EXPECT_EQ(f.MSFlexGridTablaSaleQDR.filas[4].celdas[0], "Operador: Yo - 03/04/2011");
     EXPECT_EQ(f.MSFlexGridTablaSaleQDR.filas[9].clase, ClaseFila::Separacion);
     EXPECT_EQ(s.Control.IndComp, 2);

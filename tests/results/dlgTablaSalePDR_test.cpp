@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "model/Disco.h"
 #include "results/SerieDePrueba.h"
 
 namespace results {
@@ -54,8 +55,9 @@ TEST_F(TablaCompleta, CincoRenglonesDeTituloCruzanTodasLasColumnas)
 {
     Abre(f, s);
     EXPECT_TRUE(f.abierta);
-    const Textos textos = {"/proyectos/Prueba_Conf.vlm", "Un título", "Ubicación: Un lugar - Cuenca: Un río",
-                           "SubCuenca: Un arroyo", "Operador: Yo - 03/04/2011"};
+    const Textos textos = {model::Ruta("/proyectos", "Prueba_Conf.vlm"), "Un título",
+                           "Ubicación: Un lugar - Cuenca: Un río", "SubCuenca: Un arroyo",
+                           "Operador: Yo - 03/04/2011"};
     for (std::size_t i = 0; i < textos.size(); ++i) {
         Celdas celdas;
         celdas.fill(textos[i]);
@@ -350,35 +352,38 @@ TEST_F(OrdenDeTabla, SeGuardaYSeCopiaEnElOrdenALaVista)
     s.Red.ColUEHs.Anuncia(1);
     cmdAplicarCambios(f, s);
     AlPulsarEncabezado(f, P);
+    const std::string conf = model::Ruta("/proyectos", "Prueba_Conf.vlm");
     EXPECT_EQ(ComoCsv(ComoPlanilla(Tabla())),
-              "\"/proyectos/Prueba_Conf.vlm\"\r\n"
-              "\"El \"\"gran\"\" río\"\r\n"
-              "\"Ubicación: Un lugar - Cuenca: Un río\"\r\n"
-              "\"SubCuenca: Un arroyo\"\r\n"
-              "\"Operador: Yo - 03/04/2011\"\r\n"
-              "\"Componente \",\"Nro.\",\"P[mm]\",\"D[min]\",\"R[años]\",\"Qp[m3/s]\","
-              "\"E[m3]\",\"C[%]\"\r\n"
-              "\"u-1\",1,30,120,10,12.12,1002,41.25\r\n"
-              "\"c-1\",2,30,120,10,22.12,,\r\n"
-              "\"u-1\",1,100,60,10,11.12,1001,41.12\r\n"
-              "\"c-1\",2,100,60,10,21.12,,\r\n"
-              "\"Escorrentía total \",,30,120,10,,5002,50.25\r\n"
-              "\"Escorrentía total \",,100,60,10,,5001,50.12\r\n");
+              "\"" + conf +
+                  "\"\r\n"
+                  "\"El \"\"gran\"\" río\"\r\n"
+                  "\"Ubicación: Un lugar - Cuenca: Un río\"\r\n"
+                  "\"SubCuenca: Un arroyo\"\r\n"
+                  "\"Operador: Yo - 03/04/2011\"\r\n"
+                  "\"Componente \",\"Nro.\",\"P[mm]\",\"D[min]\",\"R[años]\",\"Qp[m3/s]\","
+                  "\"E[m3]\",\"C[%]\"\r\n"
+                  "\"u-1\",1,30,120,10,12.12,1002,41.25\r\n"
+                  "\"c-1\",2,30,120,10,22.12,,\r\n"
+                  "\"u-1\",1,100,60,10,11.12,1001,41.12\r\n"
+                  "\"c-1\",2,100,60,10,21.12,,\r\n"
+                  "\"Escorrentía total \",,30,120,10,,5002,50.25\r\n"
+                  "\"Escorrentía total \",,100,60,10,,5001,50.12\r\n");
     AlPulsarEncabezado(f, P);
     AlPulsarEncabezado(f, P);
     EXPECT_EQ(ComoTexto(ComoPlanilla(Tabla())),
-              "/proyectos/Prueba_Conf.vlm\r\n"
-              "El \"gran\" río\r\n"
-              "Ubicación: Un lugar - Cuenca: Un río\r\n"
-              "SubCuenca: Un arroyo\r\n"
-              "Operador: Yo - 03/04/2011\r\n"
-              "Componente \tNro.\tP[mm]\tD[min]\tR[años]\tQp[m3/s]\tE[m3]\tC[%]\r\n"
-              "u-1\t1\t100\t60\t10\t11.12\t1001\t41.12\r\n"
-              "u-1\t1\t30\t120\t10\t12.12\t1002\t41.25\r\n"
-              "c-1\t2\t100\t60\t10\t21.12\t\t\r\n"
-              "c-1\t2\t30\t120\t10\t22.12\t\t\r\n"
-              "Escorrentía total \t\t100\t60\t10\t\t5001\t50.12\r\n"
-              "Escorrentía total \t\t30\t120\t10\t\t5002\t50.25\r\n");
+              conf +
+                  "\r\n"
+                  "El \"gran\" río\r\n"
+                  "Ubicación: Un lugar - Cuenca: Un río\r\n"
+                  "SubCuenca: Un arroyo\r\n"
+                  "Operador: Yo - 03/04/2011\r\n"
+                  "Componente \tNro.\tP[mm]\tD[min]\tR[años]\tQp[m3/s]\tE[m3]\tC[%]\r\n"
+                  "u-1\t1\t100\t60\t10\t11.12\t1001\t41.12\r\n"
+                  "u-1\t1\t30\t120\t10\t12.12\t1002\t41.25\r\n"
+                  "c-1\t2\t100\t60\t10\t21.12\t\t\r\n"
+                  "c-1\t2\t30\t120\t10\t22.12\t\t\r\n"
+                  "Escorrentía total \t\t100\t60\t10\t\t5001\t50.12\r\n"
+                  "Escorrentía total \t\t30\t120\t10\t\t5002\t50.25\r\n");
 }
 
 TEST_F(OrdenDeTabla, UnRotuloSinTotalNoSeGuarda)

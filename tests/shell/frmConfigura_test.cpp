@@ -10,12 +10,16 @@
 #include "apoyo/AnfitrionPrueba.h"
 #include "apoyo/DiscoPrueba.h"
 #include "model/ArchivoConf.h"
+#include "model/Disco.h"
 #include "model/Falla.h"
+#include "model/RutaProyecto.h"
 
 namespace shell {
 namespace {
 
 using model::Mensaje;
+using model::Ruta;
+using model::UnidadDe;
 using Textos = std::vector<std::string>;
 
 const Mensaje EntreDiezYTreintaMil{"Ingrese un valor numérico entre 10 y 30000"};
@@ -42,6 +46,7 @@ class Configura : public testing::Test {
         for (const char* proyecto : {"Otro", "Mio"}) {
             s.Proyecto.NombreProyecto = proyecto;
             s.frmConfigura.Dir1 = "/proy";
+            s.frmConfigura.Drive1 = UnidadDe("/proy");
             s.frmConfigura.lblMiArchivoConf = std::string(proyecto) + "_Conf.vlm";
             s.frmConfigura.TextProyecto = std::string("Crecidas de ") + proyecto;
             disco.PonDirectorio("/proy");
@@ -111,7 +116,7 @@ TEST(TextosDeConfigura, CadaControlTieneUnNombrePropio)
 TEST_F(Configura, AlAbrirMuestraElProyectoSuDirectorioYLosArchivos)
 {
     EXPECT_EQ(s.frmConfigura.Dir1, "/proy");
-    EXPECT_EQ(s.frmConfigura.Drive1, "");
+    EXPECT_EQ(s.frmConfigura.Drive1, UnidadDe("/proy"));
     EXPECT_EQ(f.filArchivoConfigura.items, (Textos{"Mio_Conf.vlm", "Otro_Conf.vlm"}));
     EXPECT_EQ(f.filArchivoImagenDib.items,
               (Textos{"Mio_Conf.vlm", "Otro_Conf.vlm", "mapa.jpg", "notas.txt"}));
@@ -233,23 +238,29 @@ TEST_F(Configura, UnDirectorioQueNoEstaAvisaYQuedaElDeAntes)
 
 TEST_F(Configura, UnaUnidadEsSuRaiz)
 {
+    const std::string raiz(1, model::Separador);
     Drive1_Change(f, s, "");
-    EXPECT_EQ(s.frmConfigura.Dir1, "/");
+    EXPECT_EQ(s.frmConfigura.Dir1, raiz);
     EXPECT_TRUE(Avisos().empty());
     Drive1_Change(f, s, "Z:");
     EXPECT_EQ(Avisos(), std::vector<Mensaje>{SinRuta});
-    EXPECT_EQ(s.frmConfigura.Dir1, "/");
+    EXPECT_EQ(s.frmConfigura.Dir1, raiz);
 }
+
+/// Where the two directories are made: the user's own folder, on Windows the disk C.
+const std::string Arriba = model::HayUnidades ? "c:" : "/casas/ana";
+const std::string PorDefecto = Ruta(Ruta(Arriba, "SIRO"), "Proyectos");
 
 TEST_F(Configura, ConfigurarPorDefectoCreaSusDosDirectoriosYEligeElDeProyectos)
 {
+    disco.PonDirectorio(Arriba);
     s.frmConfigura.CheckDistriPp = 0;
     f.CheckDirNv = true;
     BtnDefecto(f, s);
-    EXPECT_TRUE(s.Disco.HayDirectorio("/casas/ana/SIRO/Proyectos"));
-    EXPECT_EQ(s.frmConfigura.Dir1, "/casas/ana/SIRO/Proyectos");
-    EXPECT_EQ(s.Proyecto.DirProyecto, "/casas/ana/SIRO/Proyectos");
-    EXPECT_EQ(s.frmConfigura.Drive1, "");
+    EXPECT_TRUE(s.Disco.HayDirectorio(PorDefecto));
+    EXPECT_EQ(s.frmConfigura.Dir1, PorDefecto);
+    EXPECT_EQ(s.Proyecto.DirProyecto, PorDefecto);
+    EXPECT_EQ(s.frmConfigura.Drive1, model::HayUnidades ? "C: [Disco C]" : "");
     EXPECT_EQ(s.frmConfigura.CheckDistriPp, 1);
     EXPECT_FALSE(f.CheckDirNv);
     EXPECT_TRUE(f.filArchivoConfigura.items.empty());
@@ -258,12 +269,13 @@ TEST_F(Configura, ConfigurarPorDefectoCreaSusDosDirectoriosYEligeElDeProyectos)
     Abre(f, s);
     BtnDefecto(f, s);
     EXPECT_TRUE(Avisos().empty());
-    EXPECT_EQ(s.Proyecto.DirProyecto, "/casas/ana/SIRO/Proyectos");
+    EXPECT_EQ(s.Proyecto.DirProyecto, PorDefecto);
 }
 
 TEST_F(Configura, ConfigurarPorDefectoSinPermisoAvisaYNadaCambia)
 {
-    disco.Protege("/casas/ana");
+    disco.PonDirectorio(Arriba);
+    disco.Protege(Arriba);
     s.frmConfigura.CheckDistriPp = 0;
     BtnDefecto(f, s);
     EXPECT_EQ(Avisos(), std::vector<Mensaje>{SinAcceso});
@@ -287,18 +299,19 @@ TEST_F(Configura, CrearHaceElDirectorioDentroDelElegidoYPasaAEl)
     s.frmConfigura.TextDirNv = "cuencas";
     BtnDirNv(f, s);
     EXPECT_TRUE(s.Disco.HayDirectorio("/proy/cuencas"));
-    EXPECT_EQ(s.frmConfigura.Dir1, "/proy/cuencas");
-    EXPECT_EQ(s.Proyecto.DirProyecto, "/proy/cuencas");
+    EXPECT_EQ(s.frmConfigura.Dir1, Ruta("/proy", "cuencas"));
+    EXPECT_EQ(s.Proyecto.DirProyecto, Ruta("/proy", "cuencas"));
     EXPECT_TRUE(f.filArchivoImagenDib.items.empty());
     EXPECT_TRUE(Avisos().empty());
 }
 
 TEST_F(Configura, CrearEnLaRaizNoDoblaElSeparador)
 {
-    Dir1_Change(f, s, "/");
+    const std::string raiz(1, model::Separador);
+    Dir1_Change(f, s, raiz);
     s.frmConfigura.TextDirNv = "cuencas";
     BtnDirNv(f, s);
-    EXPECT_EQ(s.frmConfigura.Dir1, "/cuencas");
+    EXPECT_EQ(s.frmConfigura.Dir1, raiz + "cuencas");
 }
 
 TEST_F(Configura, CrearUnDirectorioQueExisteLoDiceYNadaCambia)
@@ -388,7 +401,7 @@ TEST_F(Configura, LasCuatroTerminacionesDeImagenPasanConSuRutaEntera)
     for (const char* archivo :
          {"mapa.jpg", "mapa.gif", "mapa.bmp", "mapa.wmf", "MAPA.JPG", "mapa.Gif", "MAPA.BMP", "Mapa.WMF"}) {
         PulsaImagen(archivo);
-        EXPECT_EQ(s.frmConfigura.lblImagenDibujo, std::string("/proy/") + archivo);
+        EXPECT_EQ(s.frmConfigura.lblImagenDibujo, Ruta("/proy", archivo));
     }
     EXPECT_TRUE(Avisos().empty());
 }
@@ -428,12 +441,13 @@ TEST_F(ImagenAfuera, LaLineaDiceLoQuePasaraYLaTeclaTraeLaImagen)
     cmdTraeImagen(f, s);
     EXPECT_EQ(AvisoImagen(f, s), "");
     EXPECT_EQ(disco.Bytes("/proy/foto.JPG"), "foto");
-    EXPECT_EQ(s.frmConfigura.lblImagenDibujo, "/proy/foto.JPG");
+    EXPECT_EQ(s.frmConfigura.lblImagenDibujo, Ruta("/proy", "foto.JPG"));
     EXPECT_EQ(s.frmConfigura.Dir1, "/proy");
     EXPECT_EQ(s.Proyecto.DirProyecto, "/proy");
     cmdAplicar(f, s);
     EXPECT_FALSE(disco.Esta("/otro/Mio_Conf.vlm"));
-    EXPECT_NE(disco.Bytes("/proy/Mio_Conf.vlm").find("\"/proy/foto.JPG\""), std::string::npos);
+    EXPECT_NE(disco.Bytes("/proy/Mio_Conf.vlm").find("\"" + Ruta("/proy", "foto.JPG") + "\""),
+              std::string::npos);
 }
 
 TEST_F(ImagenAfuera, DespuesDeAplicarDiceLoQuePasoYLaTeclaVuelve)
@@ -450,7 +464,8 @@ TEST_F(ImagenAfuera, DespuesDeAplicarDiceLoQuePasoYLaTeclaVuelve)
     EXPECT_EQ(anfitrion->Preguntas(), std::vector<Mensaje>{}) << "it is the project's own file";
     EXPECT_EQ(s.Proyecto.DirProyecto, "/proy");
     EXPECT_EQ(disco.Bytes("/proy/foto.JPG"), "foto");
-    EXPECT_NE(disco.Bytes("/proy/Mio_Conf.vlm").find("\"/proy/foto.JPG\""), std::string::npos);
+    EXPECT_NE(disco.Bytes("/proy/Mio_Conf.vlm").find("\"" + Ruta("/proy", "foto.JPG") + "\""),
+              std::string::npos);
     EXPECT_FALSE(disco.Esta("/otro/Mio_Conf.vlm")) << "what the move had made";
     EXPECT_TRUE(disco.Esta("/otro/foto.JPG"));
     EXPECT_EQ(AvisoImagen(f, s), "");
