@@ -153,6 +153,20 @@ std::string Metodo(const std::string& texto)
     return texto;
 }
 
+std::string Bajos(const std::string& texto)
+{
+    if (texto != "17b" && texto != "17c") throw ValorErroneo{"debe ser 17b o 17c"};
+    return texto;
+}
+
+double NumeroEntre(std::string_view texto, double menor, double mayor)
+{
+    const double x = Numero(texto);
+    if (x >= menor && x <= mayor) return x;
+    throw ValorErroneo{"debe ser un número entre " + model::NumeroATexto(menor) + " y " +
+                       model::NumeroATexto(mayor)};
+}
+
 int Remuestras(std::string_view texto)
 {
     constexpr double Menos = 100, Mas = 100000;
@@ -188,6 +202,11 @@ constexpr auto Filas = std::to_array<FilaOpcion>({
     {"--resultados", [](Opciones& o, const std::string& v) { o.resultados = v; }},
     {"--ley", [](Opciones& o, const std::string& v) { o.ley = v; }, DeFrecuencia | DeIdf},
     {"--metodo", [](Opciones& o, const std::string& v) { o.metodo = Metodo(v); }, DeFrecuencia | DeIdf},
+    {"--bajos", [](Opciones& o, const std::string& v) { o.bajos = Bajos(v); }, DeFrecuencia},
+    {"--asimetria", [](Opciones& o, const std::string& v) { o.asimetria = NumeroEntre(v, -3, 3); },
+     DeFrecuencia},
+    {"--ecm-asimetria",
+     [](Opciones& o, const std::string& v) { o.ecmAsimetria = NumeroEntre(v, 0.0001, 100); }, DeFrecuencia},
     {"--remuestras", [](Opciones& o, const std::string& v) { o.remuestras = Remuestras(v); }, DeFrecuencia},
     {"--semilla",
      [](Opciones& o,
@@ -353,7 +372,11 @@ Lectura LeeOpcionesVerifica(int argc, const char* const* argv)
 Lectura LeeOpcionesFrecuencia(int argc, const char* const* argv)
 {
     Lectura l = LeeDeMaximos("frecuencia", Opciones::Orden::Frecuencia, DeFrecuencia, argc, argv);
-    if (l.opciones && l.opciones->archivo.empty()) return {{}, "Falta ARCHIVO"};
+    if (!l.opciones) return l;
+    const Opciones& o = *l.opciones;
+    if (o.archivo.empty()) return {{}, "Falta ARCHIVO"};
+    if (o.metodo != "momentos" && (!o.bajos.empty() || o.asimetria))
+        return {{}, "--bajos y --asimetria van con --metodo momentos"};
     return l;
 }
 

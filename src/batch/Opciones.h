@@ -40,8 +40,11 @@ struct Opciones {
     std::string ley{};              ///< the only law to fit; empty: all
     int remuestras = 1000;          ///< samples of the bootstrap, 0 or 100 to 100000
     std::uint32_t semilla = 1;      ///< of their numbers
-    bool csv = false;               ///< quantiles as CSV, not as text
-    study::Idf idf{};               ///< what curves are made of, and how
+    std::string bajos{};            ///< how log-Pearson III takes low values: 17b, 17c; empty: as the others
+    std::optional<double> asimetria{};                     ///< of the region's logarithms, -3 to 3
+    double ecmAsimetria = 0.302;                           ///< its mean square error, above 0
+    bool csv = false;                                      ///< quantiles as CSV, not as text
+    study::Idf idf{};                                      ///< what curves are made of, and how
     std::vector<std::pair<double, std::string>> series{};  ///< duration [min] and path of its maxima
     bool lecturaDiaria = true;  ///< maxima of a day are of readings, not of any 24 hours
     float cuenca = 0;           ///< the basin as measured [ha], not negative; 0: not known

@@ -66,10 +66,14 @@ constexpr std::string_view TextoUsoFrecuencia =
     R"(Uso: siro-lote frecuencia ARCHIVO [opciones]    láminas por recurrencia de los máximos anuales de una estación
 
 ARCHIVO tiene un renglón por año, con dos columnas: año;valor o fecha;valor (dd/mm/aaaa, aaaa-mm-dd), en mm. Sin
-valor, el año queda como hueco. Hacen falta 10 años por lo menos.
+valor, el año queda como hueco; 0 es un año sin lluvia. Hacen falta 10 años con lluvia por lo menos.
 
   --metodo M              momentos; l, momentos L; mv, máxima verosimilitud (l)
   --ley L                 una sola: gumbel, gev, exponencial, ln2, ln3, pearson3, logpearson3, sqrt-etmax (todas)
+  --bajos B               con el método momentos, los valores bajos de logpearson3 como en Bulletin 17B o 17C: 17b,
+                          17c (cuentan como los demás)
+  --asimetria G           con el método momentos, la asimetría regional que se pondera con la de logpearson3
+  --ecm-asimetria E       el error medio cuadrático de esa asimetría (0.302)
   --remuestras N          remuestreos para las bandas y las p, 100 a 100000; 0: ninguno (1000)
   --semilla N             la de los remuestreos: la misma da los mismos resultados (1)
   --hilos N               hilos, hasta 1024; 0: todos los núcleos. No cambia los resultados (0)

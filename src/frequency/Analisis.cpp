@@ -50,7 +50,18 @@ bool Rechazada(const AjusteDeLey& f)
 
 bool SePuedeTomar(const AjusteDeLey& f)
 {
-    return f.estimado.p && std::isfinite(f.criterios.aicc) && FormaHabitual(f) && !Rechazada(f);
+    return f.estimado.p && !f.estimado.bajos && std::isfinite(f.criterios.aicc) && FormaHabitual(f) &&
+           !Rechazada(f);
+}
+
+/// What is said of a law that isn't fitted to the values that the others are.
+std::string SinComparar(const Analisis& a)
+{
+    std::string t;
+    for (const AjusteDeLey& f : a.ajustes)
+        if (f.estimado.p && f.estimado.bajos)
+            t += " " + std::string(f.ley->nombre) + " deja aparte valores bajos: su AICc no se compara.";
+    return t;
 }
 
 std::string ConDosDecimales(double x)
@@ -81,6 +92,7 @@ Recomendacion Recomienda(const Analisis& a)
         r.motivo =
             "Ninguna ley se puede recomendar: Anderson-Darling rechaza " + std::to_string(rechazadas) +
             " y las demás no contienen la muestra, no tienen ajuste o tienen una forma que no es de lluvias.";
+        r.motivo += SinComparar(a);
         return r;
     }
     r.ley = mejor->ley;
@@ -91,6 +103,7 @@ Recomendacion Recomienda(const Analisis& a)
     if (segunda != nullptr && segunda->criterios.aicc - mejor->criterios.aicc < 2)
         r.motivo += " " + std::string(segunda->ley->nombre) + " es casi igual de buena (AICc " +
                     ConDosDecimales(segunda->criterios.aicc) + ").";
+    r.motivo += SinComparar(a);
     if (std::any_of(a.pruebas.begin(), a.pruebas.end(), [](const Prueba& p) { return p.rechaza; }))
         r.motivo += " Antes atienda lo que dicen las pruebas de la muestra.";
     return r;

@@ -55,7 +55,7 @@ std::optional<Analisis> Analiza(const Serie& serie, const PedidoDeAnalisis& pedi
 double CuantilDe(const AjusteDeLey& ajuste, double recurrencia);
 
 /// Of the laws that Anderson-Darling doesn't reject at 5 %, whose shape is within the search's bounds and
-/// which hold every value, the one of least AICc.
+/// which hold every value, the one of least AICc. One that leaves low values aside isn't compared.
 Recomendacion Recomienda(const Analisis& a);
 
 }  // namespace frequency

@@ -23,6 +23,7 @@ std::string CabezaDe(const Analisis& a)
     const Descriptivos& d = a.muestra.directos;
     std::string t = "Máximos anuales [mm]: " + std::to_string(anios.size()) + ", de " +
                     std::to_string(anios.front().anio) + " a " + std::to_string(anios.back().anio) + "\n";
+    if (a.muestra.secos > 0) t += "  de los " + std::to_string(a.muestra.x.size()) + " años con lluvia:\n";
     t += "  media " + Con(d.m.media, 2) + ", desvío " + Con(d.m.desvio, 2) + ", coeficiente de variación " +
          Con(d.m.desvio / d.m.media, 3) + ", asimetría " + Con(d.m.asimetria, 3) + "\n";
     t += "  momentos L: l1 " + Con(d.l.l1, 2) + ", l2 " + Con(d.l.l2, 3) + ", t3 " + Con(d.l.t3, 4) +
@@ -124,7 +125,8 @@ std::string JsonDeBondad(const Bondad& b)
 std::string JsonDeAjuste(const AjusteDeLey& f)
 {
     std::string t = "{\"ley\":" + Citado(f.ley->clave) + ",\"nombre\":" + Citado(f.ley->nombre) +
-                    ",\"nota\":" + Citado(f.estimado.nota) + ",\"parametros\":";
+                    ",\"nota\":" + Citado(f.estimado.nota) + ",\"p0\":" + N(f.p0) +
+                    ",\"bajos\":" + N(f.estimado.bajos.value_or(0)) + ",\"parametros\":";
     if (!f.estimado.p) return t + "null}";
     t += "{";
     for (std::size_t i = 0; i < f.ley->cuantos; ++i)
@@ -166,7 +168,8 @@ std::string JsonDe(const Analisis& a)
     t += ",\"avisos\":" + Arreglo(a.serie.avisos, [](const std::string& x) { return Citado(x); });
     t += ",\"muestra\":{\"media\":" + N(d.m.media) + ",\"desvio\":" + N(d.m.desvio) +
          ",\"asimetria\":" + N(d.m.asimetria) + ",\"l1\":" + N(d.l.l1) + ",\"l2\":" + N(d.l.l2) +
-         ",\"t3\":" + N(d.l.t3) + ",\"t4\":" + N(d.l.t4) + "}";
+         ",\"t3\":" + N(d.l.t3) + ",\"t4\":" + N(d.l.t4) + ",\"secos\":" + std::to_string(a.muestra.secos) +
+         ",\"p0\":" + N(a.muestra.P0()) + "}";
     t += ",\"pruebas\":" + Arreglo(a.pruebas, JsonDePrueba);
     t += ",\"recurrencias\":" + Arreglo(model::Recurrencias, [](int r) { return std::to_string(r); });
     t += ",\"ajustes\":" + Arreglo(a.ajustes, JsonDeAjuste);

@@ -8,6 +8,7 @@
 #include <optional>
 #include <utility>
 
+#include "model/Numeros.h"
 #include "model/Texto.h"
 
 namespace frequency {
@@ -86,7 +87,6 @@ class Lector {
         if (EsFalta(valor)) return faltan.push_back(*anio);
         if (!x || !std::isfinite(*x)) return Error(n, "\"" + std::string(valor) + "\" no es un número");
         if (*x < 0) return Error(n, "el valor es negativo");
-        if (*x == 0) return Error(n, "el valor es 0: un año sin lluvia no se ajusta con estas leyes");
         if (*x > MayorLluvia) return Error(n, "el valor pasa de 100000 mm");
         serie.maximos.push_back({*anio, *x});
     }
@@ -134,12 +134,27 @@ void MiraAnios(Serie& s)
 
 void MiraTamano(Serie& s)
 {
-    const std::size_t n = s.maximos.size();
+    std::vector<double> lluvias;
+    std::string secos;
+    for (const Maximo& m : s.maximos)
+        if (m.valor != 0)
+            lluvias.push_back(m.valor);
+        else
+            secos += (secos.empty() ? "" : ", ") + std::to_string(m.anio);
+    const std::size_t n = lluvias.size(), sinLluvia = s.maximos.size() - n;
     if (n < MinimoDeAnios)
-        s.errores.push_back("Hay " + std::to_string(n) + " máximos y hacen falta 10 por lo menos.");
-    const auto distinto = [&](const Maximo& m) { return m.valor != s.maximos.front().valor; };
-    if (n >= MinimoDeAnios && std::none_of(s.maximos.begin(), s.maximos.end(), distinto))
+        s.errores.push_back("Hay " + std::to_string(n) + " máximos" +
+                            (sinLluvia > 0 ? " mayores que 0" : "") + " y hacen falta 10 por lo menos.");
+    const auto distinto = [&](double x) { return x != lluvias.front(); };
+    if (n >= MinimoDeAnios && std::none_of(lluvias.begin(), lluvias.end(), distinto))
         s.errores.emplace_back("Todos los valores son iguales: no hay nada que ajustar.");
+    if (sinLluvia > 0)
+        s.avisos.push_back("Años sin lluvia: " + std::to_string(sinLluvia) + " de " +
+                           std::to_string(s.maximos.size()) + " (" + secos +
+                           "). Las leyes se ajustan a los otros, y F = p0 + (1 - p0) G con p0 = " +
+                           model::NumeroATexto(model::Redondea(
+                               static_cast<double>(sinLluvia) / static_cast<double>(s.maximos.size()), 4)) +
+                           ". Si en alguno falta el dato, déjelo vacío.");
     if (n >= MinimoDeAnios && n < 30)
         s.avisos.push_back("Con " + std::to_string(n) + " años, las recurrencias de más de " +
                            std::to_string(2 * n) + " años son una extrapolación grande.");
@@ -163,10 +178,8 @@ Serie RevisaMaximos(std::vector<Maximo> maximos)
         const std::string anio = "Año " + std::to_string(m.anio);
         if (m.anio < PrimerAnio || m.anio > UltimoAnio)
             s.errores.push_back(anio + ": no está entre 1500 y 2200.");
-        if (m.valor == 0)
-            s.errores.push_back(anio + ": el valor es 0; un año sin lluvia no se ajusta con estas leyes.");
-        else if (!(m.valor > 0))
-            s.errores.push_back(anio + ": el valor no es un número mayor que 0.");
+        if (!(m.valor >= 0))
+            s.errores.push_back(anio + ": el valor no es un número, o es negativo.");
         else if (m.valor > MayorLluvia)
             s.errores.push_back(anio + ": el valor pasa de 100000 mm.");
     }

@@ -9,7 +9,7 @@ namespace frequency {
 
 struct Maximo {
     int anio = 0;
-    double valor = 0;  ///< [mm], above 0
+    double valor = 0;  ///< [mm], 0 or more: 0 is a year without rain
 };
 
 /// Annual maxima as a file gives them. Texts are Spanish sentences with their full stop.
@@ -19,6 +19,7 @@ struct Serie {
     std::vector<std::string> avisos{};   ///< what is to be known of it
 };
 
+/// The least are years with rain.
 inline constexpr std::size_t MinimoDeAnios = 10, MaximoDeAnios = 1000;
 
 /// Reads rows of year and value, or of date and value (dd/mm/yyyy, yyyy-mm-dd): two columns with a semicolon,

@@ -73,10 +73,9 @@ TEST(Boletin17, ElEjemplo2TieneTreintaBajosYSusMomentos)
     EXPECT_NEAR((*e.p)[0], 3.022663, 1e-6);
     EXPECT_NEAR((*e.p)[1], 0.682087, 1e-6);
     EXPECT_NEAR((*e.p)[2], -0.92911, 5e-6);
-    EXPECT_EQ(
-        e.nota,
-        "Bulletin 17C: 18 valores bajos, de menos de 782, y 12 años sin lluvia cuentan sólo como menores "
-        "que los demás (momentos esperados)");
+    EXPECT_EQ(e.nota,
+              "Bulletin 17C cuenta 18 valores bajos (menos de 782) y 12 años sin lluvia sólo por debajo de "
+              "los demás (momentos esperados)");
     ASSERT_TRUE(e.bajos);
     EXPECT_NEAR(*e.bajos, 30.0 / 82, 1e-12);
 }
@@ -92,10 +91,9 @@ TEST(Boletin17, LaProbabilidadCondicionalEsLaCalculadaAparte)
     EXPECT_NEAR((*e.p)[1], 0.6711067031538658, 1e-9);
     EXPECT_NEAR((*e.p)[2], -0.5758496312547023, 1e-9);
     EXPECT_NEAR(*e.bajos, 7.0 / 42, 1e-12);
-    EXPECT_EQ(
-        e.nota,
-        "Bulletin 17B: 1 valor bajo, de menos de 115, y 6 años sin lluvia quedan fuera y la probabilidad "
-        "de los demás es condicional");
+    EXPECT_EQ(e.nota,
+              "Bulletin 17B deja aparte 1 valor bajo (menos de 115) y 6 años sin lluvia; la probabilidad de "
+              "los demás es condicional");
     const Estimado f =
         Ajusta(LogPearsonIII, Con(x, Bajos::Boletin17B, AsimetriaRegional{-0.3, 0.302}), Metodo::Momentos);
     EXPECT_NEAR((*f.p)[2], -0.47750790314755415, 1e-9);

@@ -116,6 +116,26 @@ TEST_F(FrecuenciaLote, LosDatosMalosSonUnEstadoYUnRenglonCadaUno)
     EXPECT_TRUE(falta.errores.starts_with("siro-lote: no se puede leer ")) << falta.errores;
 }
 
+TEST_F(FrecuenciaLote, PonderaLaAsimetriaYTomaLosValoresBajos)
+{
+    const Respuesta r =
+        Lote({ruta.c_str(), "--metodo", "momentos", "--ley", "logpearson3", "--remuestras", "0", "--bajos",
+              "17c", "--asimetria", "-0.3", "--ecm-asimetria", "0.2", "--json"});
+    EXPECT_EQ(r.estado, batch::EstadoCompleto) << r.errores;
+    EXPECT_NE(r.estandar.find(", ponderada con la regional -0.3\""), std::string::npos) << r.estandar;
+    Escribe("1989;0.4");
+    const Respuesta b = Lote({ruta.c_str(), "--metodo", "momentos", "--ley", "logpearson3", "--remuestras",
+                              "100", "--bajos", "17b"});
+    EXPECT_NE(b.estandar.find("Bulletin 17B deja aparte 1 valor bajo (menos de 46); la"), std::string::npos)
+        << b.estandar;
+    EXPECT_NE(b.estandar.find("deja aparte valores bajos: su AICc no se compara"), std::string::npos)
+        << b.estandar;
+    Escribe("1989;0");
+    const Respuesta seco = Lote({ruta.c_str(), "--remuestras", "0"});
+    EXPECT_EQ(seco.estado, batch::EstadoCompleto) << seco.errores;
+    EXPECT_NE(seco.estandar.find("Años sin lluvia: 1 de 40 (1989)."), std::string::npos) << seco.estandar;
+}
+
 TEST_F(FrecuenciaLote, LaOrdenErroneaSeExplica)
 {
     const auto motivo = [](const std::vector<const char*>& palabras) {
@@ -129,6 +149,11 @@ TEST_F(FrecuenciaLote, LaOrdenErroneaSeExplica)
     EXPECT_EQ(motivo({"a.csv", "--remuestras", "50"}), "siro-lote: --remuestras: debe ser 0, o 100 o más");
     EXPECT_EQ(motivo({"a.csv", "--semilla", "-1"}),
               "siro-lote: --semilla: debe ser un número entero entre 0 y 4294967295");
+    EXPECT_EQ(motivo({"a.csv", "--bajos", "17d"}), "siro-lote: --bajos: debe ser 17b o 17c");
+    EXPECT_EQ(motivo({"a.csv", "--asimetria", "9"}),
+              "siro-lote: --asimetria: debe ser un número entre -3 y 3");
+    EXPECT_EQ(motivo({"a.csv", "--bajos", "17b"}),
+              "siro-lote: --bajos y --asimetria van con --metodo momentos");
     EXPECT_EQ(motivo({"a.csv", "--json", "--csv"}), "siro-lote: --json y --csv no van juntos");
     EXPECT_EQ(motivo({"a.csv", "--pizarra"}), "siro-lote: No se esperaba --pizarra");
     EXPECT_EQ(motivo({"a.csv", "--ley", "weibull"}), "siro-lote: no hay una ley \"weibull\"");

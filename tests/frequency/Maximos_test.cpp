@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -48,8 +49,6 @@ TEST(Maximos, LoQueEstaMalSeDiceConSuRenglon)
 {
     EXPECT_EQ(PrimerError(Doce()), "");
     EXPECT_EQ(PrimerError(Doce(3, "1993;-4")), "Renglón 4: el valor es negativo.");
-    EXPECT_EQ(PrimerError(Doce(3, "1993;0")),
-              "Renglón 4: el valor es 0: un año sin lluvia no se ajusta con estas leyes.");
     EXPECT_EQ(PrimerError(Doce(3, "1993;mucho")), "Renglón 4: \"mucho\" no es un número.");
     EXPECT_EQ(PrimerError(Doce(3, "1993;inf")), "Renglón 4: \"inf\" no es un número.");
     EXPECT_EQ(PrimerError(Doce(3, "1993;nan")), "Renglón 4: \"nan\" no es un número.");
@@ -79,6 +78,31 @@ TEST(Maximos, LasMuestrasQueNoSeAjustan)
         malos += "1990;-1\n";
     EXPECT_EQ(LeeMaximos(malos).errores.size(), 21U);
     EXPECT_EQ(LeeMaximos(malos).errores.back(), "Y 31 más.");
+}
+
+/// A year without rain is a year: it is told, and so is what becomes of it.
+TEST(Maximos, UnAnioSinLluviaSeAdmiteYSeDice)
+{
+    const Serie s = LeeMaximos(Doce(3, "1993;0"));
+    EXPECT_EQ(s.errores, Textos{});
+    ASSERT_FALSE(s.avisos.empty());
+    EXPECT_EQ(
+        s.avisos.front(),
+        "Años sin lluvia: 1 de 12 (1993). Las leyes se ajustan a los otros, y F = p0 + (1 - p0) G con p0 "
+        "= 0.0833. Si en alguno falta el dato, déjelo vacío.");
+    std::string secos;
+    for (int i = 0; i < 12; ++i)
+        secos += std::to_string(1990 + i) + (i < 9 ? ";0\n" : ";50\n");
+    EXPECT_EQ(PrimerError(secos), "Hay 3 máximos mayores que 0 y hacen falta 10 por lo menos.");
+    std::vector<frequency::Maximo> maximos;
+    for (int i = 0; i < 12; ++i)
+        maximos.push_back({1990 + i, i < 2 ? 0.0 : 40.0 + i});
+    EXPECT_EQ(frequency::RevisaMaximos(maximos).errores, Textos{});
+    maximos[0].valor = -1;
+    maximos[1].valor = std::numeric_limits<double>::quiet_NaN();
+    EXPECT_EQ(frequency::RevisaMaximos(maximos).errores,
+              (Textos{"Año 1990: el valor no es un número, o es negativo.",
+                      "Año 1991: el valor no es un número, o es negativo."}));
 }
 
 TEST(Maximos, LosHuecosSeDicen)

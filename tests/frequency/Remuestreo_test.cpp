@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <bit>
 #include <chrono>
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -102,6 +103,39 @@ TEST(Remuestreo, SeDetieneAlInstanteYNoDejaNada)
     EXPECT_LT(std::chrono::duration<double>(Reloj::now() - parado).count(), 0.1);
     EXPECT_EQ(total, 2000 * Leyes().size());
     EXPECT_GE(antes, 2500U);
+}
+
+/// Twenty dry years among forty: by hand F = 1/2 + G/2, so the median year has none, and of 10 years G is
+/// 0.8.
+TEST(Analisis, LosAniosSinLluviaEntranEnLasRecurrencias)
+{
+    Serie s;
+    std::vector<double> lluvias;
+    for (int i = 0; i < 40; ++i) {
+        const double x = i % 2 == 0 ? 0 : 60 + 15 * ((i * 7) % 11);
+        s.maximos.push_back({1980 + i, x});
+        if (x > 0) lluvias.push_back(x);
+    }
+    PedidoDeAnalisis pedido;
+    pedido.remuestreo.cuantas = 200;
+    pedido.leyes = {&Gumbel, &LogPearsonIII, &SqrtEtmax};
+    const Analisis a = *Analiza(s, pedido);
+    EXPECT_EQ(a.muestra.secos, 20U);
+    const Parametros g = *Ajusta(Gumbel, HazMuestra(lluvias), Metodo::MomentosL).p;
+    for (const AjusteDeLey& f : a.ajustes) {
+        ASSERT_TRUE(f.estimado.p) << f.estimado.nota;
+        EXPECT_EQ(f.p0, 0.5);
+        EXPECT_EQ(f.cuantiles[0], 0);
+        EXPECT_EQ(CuantilDe(f, 1.5), 0);
+        ASSERT_TRUE(f.remuestreo.Hay());
+        EXPECT_EQ(f.remuestreo.banda5[0], 0);  // in most samples the dry years are about a half
+        EXPECT_GT(f.remuestreo.banda95[0], 0);
+        EXPECT_GT(f.remuestreo.banda5[2], 0);
+    }
+    EXPECT_NEAR(a.ajustes[0].cuantiles[2], g[0] - g[1] * std::log(-std::log(0.8)), 1e-9);
+    EXPECT_NE(TextoDe(a).find("de los 20 años con lluvia"), std::string::npos);
+    EXPECT_NE(JsonDe(a).find("\"secos\":20,\"p0\":0.5}"), std::string::npos);
+    EXPECT_EQ(TextoDe(a).find("nan"), std::string::npos);
 }
 
 /// To be watched changes nothing.

@@ -130,11 +130,16 @@ std::size_t BajosDe17B(const std::vector<double>& y)
     return static_cast<std::size_t>(std::lower_bound(y.begin(), y.end(), limite) - y.begin());
 }
 
+/// "18 valores bajos (menos de 782) y 12 años sin lluvia"
 std::string Cuantos(std::size_t bajos, std::size_t secos, double limite)
 {
-    std::string t = bajos == 1 ? "1 valor bajo" : std::to_string(bajos) + " valores bajos";
-    if (bajos > 0) t += ", de menos de " + model::NumeroATexto(model::Redondea(limite, 2)) + ",";
-    if (secos > 0) t += " y " + std::to_string(secos) + (secos == 1 ? " año" : " años") + " sin lluvia";
+    std::string t;
+    if (bajos > 0)
+        t = (bajos == 1 ? "1 valor bajo" : std::to_string(bajos) + " valores bajos") + " (menos de " +
+            model::NumeroATexto(model::Redondea(limite, 2)) + ")";
+    if (secos > 0)
+        t += (bajos > 0 ? " y " : "") + std::to_string(secos) + (secos == 1 ? " año" : " años") +
+             " sin lluvia";
     return t;
 }
 
@@ -157,9 +162,9 @@ Estimado ConBajos(const Muestra& m)
                        : MomentosEsperados(quedan, static_cast<double>(fuera));
     if (!e.p) return e;
     e.bajos = 1 - parte;
-    e.nota = (de17B ? "Bulletin 17B: " : "Bulletin 17C: ") + Cuantos(bajos, m.secos, m.x[bajos]) +
-             (de17B ? " quedan fuera y la probabilidad de los demás es condicional"
-                    : " cuentan sólo como menores que los demás (momentos esperados)");
+    const std::string cuantos = Cuantos(bajos, m.secos, m.x[bajos]);
+    e.nota = de17B ? "Bulletin 17B deja aparte " + cuantos + "; la probabilidad de los demás es condicional"
+                   : "Bulletin 17C cuenta " + cuantos + " sólo por debajo de los demás (momentos esperados)";
     return e;
 }
 
