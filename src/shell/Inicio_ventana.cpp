@@ -95,6 +95,7 @@ Inicio_ventana::Inicio_ventana(forms::Entorno& alrededor, std::function<void(Rut
     columnas->addWidget(ColumnaDelProyecto(hoja), 1);
     columnas->addWidget(ColumnaDeRecientes(hoja), 1);
     setWidget(hoja);
+    hoja->hide();  // until there is something to say: a box may come first
 }
 
 QWidget* Inicio_ventana::ColumnaDelProyecto(QWidget* padre)
@@ -234,6 +235,7 @@ void Inicio_ventana::MuestraProyecto()
                  Tarjeta::Marca::Ninguna, hayMuestra);
     tutorial->Pon("Leer el tutorial", "De un proyecto vacío a un estudio terminado", Tarjeta::Marca::Ninguna,
                   HayTutorial(s));
+    widget()->show();
 }
 
 void Inicio_ventana::MuestraRecientes()

@@ -93,6 +93,21 @@ TEST_F(InicioEnPantalla, SinProyectoOfreceAbrirUnoYLaMuestraSeAbreConEnter)
 }
 
 // From one key to the next, in the order on screen; a hidden one is passed over.
+TEST_F(InicioEnPantalla, HastaSaberQueDecirNoMuestraTarjetasVacias)
+{
+    Inicio_ventana inicio(escritorio.entorno, [](Rutina) {}, nullptr);
+    QDialog caja;
+    caja.open();
+    inicio.show();
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(Control<QWidget>(inicio, "inicio_paso_1").isVisible());
+    EXPECT_FALSE(Control<QWidget>(inicio, "inicio_tutorial").isVisible());
+    caja.close();
+    inicio.hide();
+    inicio.show();
+    EXPECT_TRUE(Espera([&] { return Control<QWidget>(inicio, "inicio_tutorial").isVisible(); }));
+}
+
 TEST_F(InicioEnPantalla, TabPasaPorTodo)
 {
     Arranca(instalacion.Quelmar());
