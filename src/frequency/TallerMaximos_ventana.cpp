@@ -45,23 +45,23 @@ QWidget* TallerMaximos_ventana::Datos()
 {
     const auto hayEstacion = [this] { return EstacionEnMano(f) != nullptr; };
     const auto haySerie = [this] { return SerieEnMano(f) != nullptr; };
-    QLayout* const estacion =
-        EnPila({EnRejilla({Renglon("txtNombre", CampoDeTexto("txtNombre", m.txtNombre)),
-                           Renglon("txtLatitud", CampoDeNumero("txtLatitud", m.txtLatitud), "°"),
-                           Renglon("txtLongitud", CampoDeNumero("txtLongitud", m.txtLongitud), "°"),
-                           Renglon("txtAltitud", CampoDeNumero("txtAltitud", m.txtAltitud), "m"),
-                           Renglon("txtFuente", CampoDeTexto("txtFuente", m.txtFuente)),
-                           Renglon("txtNotas", CampoDeTexto("txtNotas", m.txtNotas))},
-                          {0, 1}),
-                Boton("cmdNuevaEstacion", [this] { cmdNuevaEstacion(f); }),
-                HabilitadoSi(Boton("cmdQuitaEstacion", [this] { cmdQuitaEstacion(f); }), hayEstacion)});
+    QLayout* const estacion = EnPila(
+        {EnRejilla({Renglon("txtNombre", CampoDeTexto("txtNombre", m.txtNombre)),
+                    Renglon("txtLatitud", CampoDeNumero("txtLatitud", m.txtLatitud), "°"),
+                    Renglon("txtLongitud", CampoDeNumero("txtLongitud", m.txtLongitud), "°"),
+                    Renglon("txtAltitud", CampoDeNumero("txtAltitud", m.txtAltitud), "m"),
+                    Renglon("txtFuente", CampoDeTexto("txtFuente", m.txtFuente)),
+                    Renglon("txtNotas", CampoDeTexto("txtNotas", m.txtNotas))},
+                   {0, 1}),
+         EnFila({Boton("cmdNuevaEstacion", [this] { cmdNuevaEstacion(f); }),
+                 HabilitadoSi(Boton("cmdQuitaEstacion", [this] { cmdQuitaEstacion(f); }), hayEstacion)})});
     QLayout* const serie = EnPila(
         {EnRejilla({Renglon("txtDuracion", CampoDeNumero("txtDuracion", m.txtDuracion), "min")}, {0, 1}),
          Casilla(
              "chkDiaria", [this] { return m.chkDiaria; },
              [this](bool tildada) { chkDiaria_Click(f, tildada); }),
-         Boton("cmdNuevaSerie", [this] { cmdNuevaSerie(f); }),
-         HabilitadoSi(Boton("cmdQuitaSerie", [this] { cmdQuitaSerie(f); }), haySerie)});
+         EnFila({Boton("cmdNuevaSerie", [this] { cmdNuevaSerie(f); }),
+                 HabilitadoSi(Boton("cmdQuitaSerie", [this] { cmdQuitaSerie(f); }), haySerie)})});
     auto* const dentro = new QWidget;
     auto* const pila = EnPila({Marco("MarcoEstacion", estacion), Marco("MarcoSerie", serie), Hueco()});
     pila->setContentsMargins(0, 0, 0, 0);

@@ -171,9 +171,9 @@ std::string NombreDe(const study::Estacion& e, std::size_t numero)
     return e.nombre.empty() ? "Estación " + std::to_string(numero) + " (sin nombre)" : e.nombre;
 }
 
-std::string TextoDe(double x)
+std::string TextoDe(double x, int decimales)
 {
-    return model::NumeroATexto(model::Redondea(x, 3));
+    return model::NumeroATexto(model::Redondea(x, decimales));
 }
 
 std::string NombreDe(const study::SerieDeMaximos& s)

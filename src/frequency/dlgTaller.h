@@ -77,7 +77,7 @@ std::string NombreDe(const study::Estacion& e, std::size_t numero);
 std::string NombreDe(const study::SerieDeMaximos& s);
 /// Station and duration, as charts and tables name what is in hand.
 std::string TemaDe(const dlgTaller& f);
-/// [min], a number without zeros behind it
-std::string TextoDe(double x);
+/// A number with so many decimals at most, without zeros behind them.
+std::string TextoDe(double x, int decimales = 3);
 
 }  // namespace frequency

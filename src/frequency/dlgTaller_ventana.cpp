@@ -9,7 +9,9 @@
 #include "forms/ImpresionTabla_ventana.h"
 #include "forms/Lamina_ventana.h"
 #include "forms/Procedencia.h"
+#include "frequency/TallerAjustes_ventana.h"
 #include "frequency/TallerMaximos_ventana.h"
+#include "frequency/TallerPruebas_ventana.h"
 
 namespace frequency {
 
@@ -47,6 +49,8 @@ dlgTaller_ventana::dlgTaller_ventana(forms::Entorno& alrededor, dlgTaller& regis
 void dlgTaller_ventana::PonPaginas()
 {
     Agrega("1 Máximos", new TallerMaximos_ventana(entorno, f));
+    Agrega("2 Pruebas", new TallerPruebas_ventana(entorno, f));
+    Agrega("3 Ajustes", new TallerAjustes_ventana(entorno, f));
 }
 
 void dlgTaller_ventana::Agrega(std::string_view titulo, PaginaDeTaller* pagina)

@@ -1,0 +1,269 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "frequency/TallerAjustes_ventana.h"
+
+#include <QProgressBar>
+#include <QSplitter>
+#include <QTabWidget>
+#include <atomic>
+#include <chrono>
+#include <mutex>
+#include <optional>
+#include <thread>
+#include <utility>
+
+#include "forms/Cuadro_ventana.h"
+#include "forms/Lamina_ventana.h"
+
+namespace frequency {
+
+namespace {
+
+constexpr std::chrono::milliseconds EntreMiradas{30};
+
+}  // namespace
+
+/// An analysis on a thread of its own: the fits first, then all of it with the bootstrap. It is waited for as
+/// it goes, which takes as long as one fit at most.
+class TallerAjustes_ventana::Corrida {
+  public:
+    Corrida(Serie unaSerie, const PedidoDeAjustes& suPedido) : serie(std::move(unaSerie)), pedido(suPedido)
+    {
+        hilo = std::thread([this] { Corre(); });
+    }
+    ~Corrida()
+    {
+        Cancela();
+        hilo.join();
+    }
+    Corrida(const Corrida&) = delete;
+    Corrida& operator=(const Corrida&) = delete;
+
+    void Cancela() { cancelada = true; }
+    [[nodiscard]] bool Terminada() const { return terminada; }
+    [[nodiscard]] std::size_t Hechas() const { return hechas; }
+    [[nodiscard]] std::size_t Total() const { return total; }
+    [[nodiscard]] double Segundos() const
+    {
+        return std::chrono::duration<double>(std::chrono::steady_clock::now() - comienzo).count();
+    }
+    /// What has come since the last time.
+    std::optional<Analisis> Saca()
+    {
+        const std::lock_guard guarda(cerrojo);
+        return std::exchange(listo, std::nullopt);
+    }
+
+  private:
+    void Corre()
+    {
+        PedidoDeAnalisis p;
+        p.metodo = pedido.metodo;
+        p.remuestreo = {.semilla = pedido.semilla, .cuantas = 0};
+        Entrega(p);
+        if (pedido.muestras > 0) {
+            p.remuestreo.cuantas = pedido.muestras;
+            Entrega(p);
+        }
+        terminada = true;
+    }
+    void Entrega(const PedidoDeAnalisis& p)
+    {
+        if (cancelada) return;
+        std::optional<Analisis> a = Analiza(serie, p, [this](std::size_t van, std::size_t todas) {
+            hechas = van;
+            total = todas;
+            return !cancelada;
+        });
+        const std::lock_guard guarda(cerrojo);
+        if (a) listo = std::move(a);
+    }
+
+    const Serie serie;
+    const PedidoDeAjustes pedido;
+    std::chrono::steady_clock::time_point comienzo = std::chrono::steady_clock::now();
+    std::atomic<std::size_t> hechas = 0, total = 0;
+    std::atomic<bool> cancelada = false, terminada = false;
+    std::mutex cerrojo{};
+    std::optional<Analisis> listo{};
+    std::thread hilo{};
+};
+
+TallerAjustes_ventana::TallerAjustes_ventana(forms::Entorno& alrededor, dlgTaller& taller)
+    : PaginaDeTaller(alrededor, taller, RotulosTallerAjustes, "TallerAjustes")
+{
+    auto* const todo = EnPila({Pedido(), Avance(), {LadoALado(Tablas(), Derecha()), 1}, Eleccion()});
+    todo->setContentsMargins(0, 0, 0, 0);
+    setLayout(todo);
+    latido.setInterval(EntreMiradas);
+    connect(&latido, &QTimer::timeout, this, [this] { Mira(); });
+}
+
+TallerAjustes_ventana::~TallerAjustes_ventana() = default;
+
+QLayout* TallerAjustes_ventana::Pedido()
+{
+    QComboBox* const metodo = Desplegable("cmbMetodo", m.metodos, m.metodo, [this](int i) {
+        cmbMetodo_Click(m, i);
+        Calcula();
+    });
+    const auto numero = [this](std::string_view control, std::string& texto) {
+        QLineEdit* const campo =
+            Campo(control, texto, [this, control] { return txtNumero_AlSalir(m, f, entorno.s, control); });
+        constexpr int Letras = 11;
+        campo->setMaximumWidth(Letras * fontMetrics().averageCharWidth());
+        return campo;
+    };
+    QLineEdit* const semilla = numero("txtSemilla", m.txtSemilla);
+    QLineEdit* const muestras = numero("txtMuestras", m.txtMuestras);
+    QComboBox* const ley =
+        Desplegable("cmbEnMano", m.leyes, m.enMano, [this](int i) { cmbEnMano_Click(m, f, i); });
+    return EnFila({Rotulo("cmbMetodo", metodo), metodo, Rotulo("txtSemilla", semilla), semilla,
+                   Rotulo("txtMuestras", muestras), muestras, Rotulo("cmbEnMano", ley), ley, Hueco()});
+}
+
+QLayout* TallerAjustes_ventana::Avance()
+{
+    const auto corriendo = [this] { return corrida != nullptr; };
+    QLabel* const estado =
+        VisibleSi(Texto("lblEstado", m.lblEstado), [this] { return !m.lblEstado.empty(); });
+    auto* const avance = Nombra(new QProgressBar, "barAvance");
+    AlMostrar([this, avance] {
+        avance->setVisible(corrida != nullptr);
+        avance->setRange(0, static_cast<int>(m.total));
+        avance->setValue(static_cast<int>(m.hechas));
+        avance->setFormat(QStringLiteral("%v de %m muestras"));
+    });
+    return EnFila({EnNegrita(estado),
+                   {avance, 1},
+                   VisibleSi(Boton("CancelButton", [this] { Deja(); }), corriendo),
+                   VisibleSi(Boton("cmdCalcular", [this] { Calcula(); }),
+                             [this] { return m.estado == Estado::SinBandas; }),
+                   Hueco()});
+}
+
+forms::TablaCuadro* TallerAjustes_ventana::TablaDe(forms::Cuadro& cuadro, std::string_view control,
+                                                   std::vector<int> letras)
+{
+    auto* const tabla = new forms::TablaCuadro(entorno, cuadro, control, Fila(control).leyenda);
+    tabla->PonColumnas(std::move(letras));
+    tabla->AlPulsarEncabezado = [this, &cuadro](int columna) {
+        Suceso([&] { forms::PulsaEncabezado(cuadro, columna); });
+    };
+    AlMostrar([tabla] { tabla->Muestra(); });
+    return tabla;
+}
+
+QWidget* TallerAjustes_ventana::Tablas()
+{
+    fichas = Nombra(new QTabWidget, "fichas");
+    fichas->setDocumentMode(true);
+    const auto ficha = [this](std::size_t i, QWidget* tabla) {
+        fichas->addTab(tabla, forms::Q(FichasDeAjustes[i]));
+    };
+    ficha(0, TablaDe(m.tblCuantiles, "tblCuantiles", {10, 9, 15, 9, 15, 15, 15, 15, 15, 15, 15}));
+    ficha(1, TablaDe(m.tblBondad, "tblBondad", {18, 8, 8, 8, 8, 8, 8, 8, 8, 9, 9, 9}));
+    ficha(2, TablaDe(m.tblParametros, "tblParametros", {18, 30, 0}));
+    connect(fichas, &QTabWidget::currentChanged, this, [this](int i) { Suceso([&] { m.ficha = i; }); });
+    return fichas;
+}
+
+QWidget* TallerAjustes_ventana::Derecha()
+{
+    QComboBox* const cual =
+        Desplegable("cmbGrafico", m.graficos, m.grafico, [this](int i) { cmbGrafico_Click(m, f, i); });
+    grafico = new forms::Lamina(entorno, "lamAjustes", "Ajustes", forms::Lamina::Modo::Compacta);
+    auto* const lado = new QWidget;
+    auto* const pila = EnPila({EnFila({Rotulo("cmbGrafico", cual), cual,
+                                       Casilla(
+                                           "chkSola", [this] { return m.chkSola; },
+                                           [this](bool tildada) { chkSola_Click(m, f, tildada); }),
+                                       Hueco()}),
+                               {grafico, 1}});
+    pila->setContentsMargins(0, 0, 0, 0);
+    lado->setLayout(pila);
+    return lado;
+}
+
+QLayout* TallerAjustes_ventana::Eleccion()
+{
+    QLabel* const recomendacion = Texto("lblRecomendacion", m.lblRecomendacion);
+    recomendacion->setWordWrap(true);
+    recomendacion->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    QComboBox* const elegida =
+        Desplegable("cmbElegida", m.elegibles, m.elegida, [this](int i) { cmbElegida_Click(m, f, i); });
+    QLineEdit* const motivo = Campo("txtMotivo", m.txtMotivo, [this] { return txtMotivo_AlSalir(m, f); });
+    QPushButton* const recomendada =
+        HabilitadoSi(Boton("cmdRecomendada", [this] { cmdRecomendada(m, f); }),
+                     [this] { return m.analisis && m.analisis->recomendacion.ley != nullptr; });
+    return EnPila({EnFila({{Rotulo("lblRecomendacion"), 0, Qt::AlignTop}, {recomendacion, 1}}),
+                   EnFila({Rotulo("cmbElegida", elegida),
+                           elegida,
+                           Rotulo("txtMotivo", motivo),
+                           {motivo, 1},
+                           recomendada})});
+}
+
+forms::Planilla TallerAjustes_ventana::ParaImprimir() const
+{
+    return forms::ALaVista(m.ficha == 0 ? m.tblCuantiles : m.ficha == 1 ? m.tblBondad : m.tblParametros);
+}
+
+void TallerAjustes_ventana::Toma()
+{
+    if (frequency::Toma(m, f)) Calcula();
+}
+
+void TallerAjustes_ventana::Muestra()
+{
+    if (m.estado == Estado::Nada && corrida == nullptr && Falta().empty()) Toma();
+    PaginaDeTaller::Muestra();
+    grafico->Muestra(m.Grafico);
+    grafico->PonTema(m.temaDelAnalisis, m.temaDelAnalisis);
+}
+
+void TallerAjustes_ventana::Calcula()
+{
+    const study::SerieDeMaximos* const s = SerieEnMano(f);
+    if (s == nullptr) return;
+    if (corrida != nullptr) Deja();
+    Empieza(m, f);
+    corrida = std::make_unique<Corrida>(Revisada(*s), m.pedido);
+    latido.start();
+}
+
+void TallerAjustes_ventana::Mira()
+{
+    if (corrida == nullptr) return latido.stop();
+    const bool terminada = corrida->Terminada();
+    std::optional<Analisis> nuevo = corrida->Saca();
+    Avanza(m, corrida->Hechas(), corrida->Total(), corrida->Segundos());
+    if (nuevo && terminada)
+        TomaCompleto(m, f, *std::move(nuevo));
+    else if (nuevo)
+        TomaAjustes(m, f, *std::move(nuevo));
+    if (terminada) {
+        latido.stop();
+        corrida.reset();
+    }
+    Muestra();
+}
+
+/// The window is free at once; the thread goes on to the end of its sample, of which nothing is seen.
+void TallerAjustes_ventana::Deja()
+{
+    std::erase_if(dejadas, [](const auto& una) { return una->Terminada(); });
+    if (corrida == nullptr) return;
+    corrida->Cancela();
+    dejadas.push_back(std::move(corrida));
+    latido.stop();
+    Cancela(m);
+}
+
+bool TallerAjustes_ventana::AlEscapar()
+{
+    if (corrida == nullptr) return false;
+    Suceso([this] { Deja(); });
+    return true;
+}
+
+}  // namespace frequency
