@@ -16,20 +16,6 @@
 namespace batch {
 namespace {
 
-/// What the command line names and isn't there; empty: all is.
-std::string ClaveErronea(const Opciones& o)
-{
-    using namespace frequency;
-    if (!o.ley.empty() && LeyDeClave(o.ley) == nullptr) return "no hay una ley \"" + o.ley + "\"";
-    if (!o.idf.familia.empty() && idf::FamiliaDeClave(o.idf.familia) == nullptr)
-        return "no hay una familia \"" + o.idf.familia + "\"";
-    if (o.idf.origen == "diaria" && idf::DesagregacionDeClave(o.idf.desagregacion) == nullptr)
-        return "no hay una desagregación \"" + o.idf.desagregacion + "\"";
-    if (!o.idf.reduccion.empty() && idf::ReduccionDeClave(o.idf.reduccion) == nullptr)
-        return "no hay una reducción \"" + o.idf.reduccion + "\"";
-    return {};
-}
-
 /// The maxima of a file as a series of the station; none where it is wrong, which has been told.
 std::optional<study::SerieDeMaximos> LeeSerie(const Opciones& o, double duracion, const std::string& archivo,
                                               const Salidas& salidas)
@@ -58,6 +44,32 @@ std::optional<study::SerieDeMaximos> LeeSerie(const Opciones& o, double duracion
 
 }  // namespace
 
+std::string ClaveErronea(const Opciones& o)
+{
+    using namespace frequency;
+    if (!o.ley.empty() && LeyDeClave(o.ley) == nullptr) return "no hay una ley \"" + o.ley + "\"";
+    if (!o.idf.familia.empty() && idf::FamiliaDeClave(o.idf.familia) == nullptr)
+        return "no hay una familia \"" + o.idf.familia + "\"";
+    if (o.idf.origen == "diaria" && idf::DesagregacionDeClave(o.idf.desagregacion) == nullptr)
+        return "no hay una desagregación \"" + o.idf.desagregacion + "\"";
+    if (!o.idf.reduccion.empty() && idf::ReduccionDeClave(o.idf.reduccion) == nullptr)
+        return "no hay una reducción \"" + o.idf.reduccion + "\"";
+    return {};
+}
+
+std::optional<study::Estacion> EstacionDe(const Opciones& o, const Salidas& salidas)
+{
+    auto archivos = o.series;
+    if (!o.archivo.empty()) archivos = {{1440, o.archivo}};
+    study::Estacion estacion;
+    for (const auto& [duracion, archivo] : archivos) {
+        auto serie = LeeSerie(o, duracion, archivo, salidas);
+        if (!serie) return {};
+        estacion.series.push_back(std::move(*serie));
+    }
+    return estacion;
+}
+
 int MuestraIdf(const Opciones& o, const std::string& /*dirEjecutable*/, const Salidas& salidas)
 {
     if (const std::string mala = ClaveErronea(o); !mala.empty()) {
@@ -65,15 +77,9 @@ int MuestraIdf(const Opciones& o, const std::string& /*dirEjecutable*/, const Sa
         salidas.Errores(UsoIdf());
         return EstadoOrdenErronea;
     }
-    auto archivos = o.series;
-    if (!o.archivo.empty()) archivos = {{1440, o.archivo}};
-    study::Estacion estacion;
-    for (const auto& [duracion, archivo] : archivos) {
-        auto serie = LeeSerie(o, duracion, archivo, salidas);
-        if (!serie) return EstadoInterrumpido;
-        estacion.series.push_back(std::move(*serie));
-    }
-    const frequency::idf::Curvas curvas = frequency::idf::Calcula(o.idf, {&estacion, 1});
+    const auto estacion = EstacionDe(o, salidas);
+    if (!estacion) return EstadoInterrumpido;
+    const frequency::idf::Curvas curvas = frequency::idf::Calcula(o.idf, {&*estacion, 1});
     for (const std::string& error : curvas.errores)
         salidas.Errores("siro-lote: " + error + "\n");
     if (!curvas.errores.empty()) return EstadoInterrumpido;

@@ -11,6 +11,7 @@
 #include "batch/IdfLote.h"
 #include "batch/Opciones.h"
 #include "batch/RevisaLote.h"
+#include "batch/TormentaLote.h"
 #include "batch/VerificaLote.h"
 #include "model/Camino.h"
 #include "model/Sistema.h"
@@ -30,6 +31,7 @@ constexpr auto Verbos = std::to_array<Verbo>({
     {"revisa", UsoRevisa, LeeOpcionesRevisa, RevisaProyecto},
     {"frecuencia", UsoFrecuencia, LeeOpcionesFrecuencia, MuestraFrecuencia},
     {"idf", UsoIdf, LeeOpcionesIdf, MuestraIdf},
+    {"tormenta", UsoTormenta, LeeOpcionesTormenta, MuestraTormenta},
     {"verifica", UsoVerifica, LeeOpcionesVerifica, MuestraCasos},
 });
 /// una and serie, and whatever is none of them.

@@ -6,9 +6,11 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
+#include <span>
 #include <string>
 #include <utility>
 
+#include "model/Configuracion.h"
 #include "model/Falla.h"
 #include "model/Numeros.h"
 #include "model/Siro.h"
@@ -135,6 +137,39 @@ bool EsRelativo(std::string_view texto)
     return texto == "relativo";
 }
 
+double Positivo(std::string_view texto)
+{
+    const double x = Numero(texto);
+    if (x <= 0) throw ValorErroneo{"debe ser mayor que 0"};
+    return x;
+}
+
+/// "3,1.5,4" as the study keeps it.
+std::string ConBlancos(std::string texto)
+{
+    std::replace(texto.begin(), texto.end(), ',', ' ');
+    return texto;
+}
+
+/// Numbers of a list, in its order.
+std::vector<std::int16_t> DeLaLista(std::string_view texto, std::span<const std::int16_t> lista)
+{
+    std::vector<std::int16_t> elegidos;
+    for (std::size_t desde = 0; desde <= texto.size();) {
+        const std::size_t coma = std::min(texto.find(',', desde), texto.size());
+        const auto x =
+            static_cast<std::int16_t>(NumeroEnteroEntre(texto.substr(desde, coma - desde), 1, 10000));
+        if (std::find(lista.begin(), lista.end(), x) == lista.end())
+            throw ValorErroneo{model::NumeroATexto(std::int32_t{x}) +
+                               " no está entre los de las tablas P-D-R"};
+        elegidos.push_back(x);
+        desde = coma + 1;
+    }
+    std::sort(elegidos.begin(), elegidos.end());
+    elegidos.erase(std::unique(elegidos.begin(), elegidos.end()), elegidos.end());
+    return elegidos;
+}
+
 bool RespondeSi(std::string_view texto)
 {
     if (texto != "si" && texto != "no") throw ValorErroneo{"debe ser si o no"};
@@ -176,7 +211,8 @@ int Remuestras(std::string_view texto)
 }
 
 // Which orders take an option; 0: one without a project.
-constexpr int DeCorrida = 1, DeRevision = 2, DeAmbas = DeCorrida | DeRevision, DeFrecuencia = 4, DeIdf = 8;
+constexpr int DeCorrida = 1, DeRevision = 2, DeAmbas = DeCorrida | DeRevision, DeFrecuencia = 4, DeIdf = 8,
+              DeTormenta = 16, DeCurvas = DeIdf | DeTormenta;
 
 /// An option with a value: how it is written and where its value goes.
 struct FilaOpcion {
@@ -186,7 +222,7 @@ struct FilaOpcion {
 };
 
 constexpr auto Filas = std::to_array<FilaOpcion>({
-    {"--trabajo", [](Opciones& o, const std::string& v) { o.trabajo = v; }, DeAmbas},
+    {"--trabajo", [](Opciones& o, const std::string& v) { o.trabajo = v; }, DeAmbas | DeTormenta},
     {"--forma", [](Opciones& o, const std::string& v) { o.forma = Forma(v); }, DeAmbas},
     {"--pp", [](Opciones& o, const std::string& v) { o.pp = Lamina(v); }, DeAmbas},
     {"--dur", [](Opciones& o, const std::string& v) { o.dur = Entero(v, 0, TopeEntero); }, DeAmbas},
@@ -200,30 +236,55 @@ constexpr auto Filas = std::to_array<FilaOpcion>({
     {"--responde", [](Opciones& o, const std::string& v) { o.respondeSi = RespondeSi(v); }},
     {"--hilos", [](Opciones& o, const std::string& v) { o.hilos = Hilos(v); }, DeCorrida | DeFrecuencia},
     {"--resultados", [](Opciones& o, const std::string& v) { o.resultados = v; }},
-    {"--ley", [](Opciones& o, const std::string& v) { o.ley = v; }, DeFrecuencia | DeIdf},
-    {"--metodo", [](Opciones& o, const std::string& v) { o.metodo = Metodo(v); }, DeFrecuencia | DeIdf},
     {"--bajos", [](Opciones& o, const std::string& v) { o.bajos = Bajos(v); }, DeFrecuencia},
     {"--asimetria", [](Opciones& o, const std::string& v) { o.asimetria = NumeroEntre(v, -3, 3); },
      DeFrecuencia},
     {"--ecm-asimetria",
      [](Opciones& o, const std::string& v) { o.ecmAsimetria = NumeroEntre(v, 0.0001, 100); }, DeFrecuencia},
+    {"--ley", [](Opciones& o, const std::string& v) { o.ley = v; }, DeFrecuencia | DeCurvas},
+    {"--metodo", [](Opciones& o, const std::string& v) { o.metodo = Metodo(v); }, DeFrecuencia | DeCurvas},
     {"--remuestras", [](Opciones& o, const std::string& v) { o.remuestras = Remuestras(v); }, DeFrecuencia},
     {"--semilla",
      [](Opciones& o,
         const std::string&
             v) { o.semilla = static_cast<std::uint32_t>(NumeroEnteroEntre(v, 0, 4294967295.0)); },
      DeFrecuencia},
-    {"--series", [](Opciones& o, const std::string& v) { o.series = Series(v); }, DeIdf},
-    {"--lectura", [](Opciones& o, const std::string& v) { o.lecturaDiaria = EsDiaria(v); }, DeIdf},
-    {"--factor", [](Opciones& o, const std::string& v) { o.idf.factorDiario = Numero(v); }, DeIdf},
-    {"--desagregacion", [](Opciones& o, const std::string& v) { o.idf.desagregacion = v; }, DeIdf},
-    {"--familia", [](Opciones& o, const std::string& v) { o.idf.familia = v == "ninguna" ? "" : v; }, DeIdf},
-    {"--criterio", [](Opciones& o, const std::string& v) { o.idf.errorRelativo = EsRelativo(v); }, DeIdf},
+    {"--series", [](Opciones& o, const std::string& v) { o.series = Series(v); }, DeCurvas},
+    {"--lectura", [](Opciones& o, const std::string& v) { o.lecturaDiaria = EsDiaria(v); }, DeCurvas},
+    {"--factor", [](Opciones& o, const std::string& v) { o.idf.factorDiario = Numero(v); }, DeCurvas},
+    {"--desagregacion", [](Opciones& o, const std::string& v) { o.idf.desagregacion = v; }, DeCurvas},
+    {"--familia", [](Opciones& o, const std::string& v) { o.idf.familia = v == "ninguna" ? "" : v; },
+     DeCurvas},
+    {"--criterio", [](Opciones& o, const std::string& v) { o.idf.errorRelativo = EsRelativo(v); }, DeCurvas},
     {"--coeficientes", [](Opciones& o, const std::string& v) { o.idf.coeficientes = Coeficientes(v); },
-     DeIdf},
-    {"--razones", [](Opciones& o, const std::string& v) { o.idf.razones = Razones(v); }, DeIdf},
-    {"--reduccion", [](Opciones& o, const std::string& v) { o.idf.reduccion = v; }, DeIdf},
-    {"--area", [](Opciones& o, const std::string& v) { o.idf.area = Numero(v); }, DeIdf},
+     DeCurvas},
+    {"--razones", [](Opciones& o, const std::string& v) { o.idf.razones = Razones(v); }, DeCurvas},
+    {"--reduccion", [](Opciones& o, const std::string& v) { o.idf.reduccion = v; }, DeCurvas},
+    {"--area", [](Opciones& o, const std::string& v) { o.idf.area = Numero(v); }, DeCurvas},
+    {"--patron", [](Opciones& o, const std::string& v) { o.diseno.patron = v; }, DeTormenta},
+    {"--pp", [](Opciones& o, const std::string& v) { o.diseno.lamina = Positivo(v); }, DeTormenta},
+    {"--dur", [](Opciones& o, const std::string& v) { o.diseno.duracion = Positivo(v); }, DeTormenta},
+    {"--rec", [](Opciones& o, const std::string& v) { o.diseno.recurrencia = Positivo(v); }, DeTormenta},
+    {"--paso", [](Opciones& o, const std::string& v) { o.diseno.paso = Positivo(v); }, DeTormenta},
+    {"--avance", [](Opciones& o, const std::string& v) { o.diseno.avance = Numero(v); }, DeTormenta},
+    {"--cuartil",
+     [](Opciones& o,
+        const std::string& v) { o.diseno.cuartil = static_cast<int>(NumeroEnteroEntre(v, 1, 4)); },
+     DeTormenta},
+    {"--periodos", [](Opciones& o, const std::string& v) { o.diseno.periodos = ConBlancos(v); }, DeTormenta},
+    {"--registrada", [](Opciones& o, const std::string& v) { o.diseno.archivo = v; }, DeTormenta},
+    {"--escribe-distribucion",
+     [](Opciones& o,
+        const std::string& v) { o.escribeDistribucion = static_cast<int>(NumeroEnteroEntre(v, 1, 3)); },
+     DeTormenta},
+    {"--escribe-tabla",
+     [](Opciones& o, const std::string& v) { o.escribeTabla = static_cast<int>(NumeroEnteroEntre(v, 1, 3)); },
+     DeTormenta},
+    {"--duraciones",
+     [](Opciones& o, const std::string& v) { o.duraciones = DeLaLista(v, model::Duraciones); }, DeTormenta},
+    {"--recurrencias",
+     [](Opciones& o, const std::string& v) { o.recurrencias = DeLaLista(v, model::Recurrencias); },
+     DeTormenta},
     {"--cuenca", [](Opciones& o, const std::string& v) { o.cuenca = Lamina(v); }, DeRevision},
 });
 
@@ -232,7 +293,7 @@ struct Palabras {
     std::array<std::string, Filas.size()> valores{};
     std::array<CLI::Option*, Filas.size()> opciones{};
     std::string conf{};
-    bool pizarra = false, avisos = false, json = false, csv = false;
+    bool pizarra = false, avisos = false, json = false, csv = false, reemplaza = false;
 };
 
 CLI::App* Orden(CLI::App& programa, const char* nombre, Palabras& p, int clase = DeCorrida)
@@ -241,9 +302,10 @@ CLI::App* Orden(CLI::App& programa, const char* nombre, Palabras& p, int clase =
     orden->set_help_flag("--help,-h,--ayuda");
     orden->add_flag("--json", p.json);
     if (clase == 0) return orden;
-    const bool deMaximos = (clase & (DeFrecuencia | DeIdf)) != 0;
+    const bool deMaximos = (clase & (DeFrecuencia | DeCurvas)) != 0;
     orden->add_option(deMaximos ? "ARCHIVO" : "CONF", p.conf);
     if (deMaximos) orden->add_flag("--csv", p.csv);
+    if (clase == DeTormenta) orden->add_flag("--reemplaza", p.reemplaza);
     for (std::size_t i = 0; i < Filas.size(); ++i)
         if ((Filas[i].ordenes & clase) != 0) p.opciones[i] = orden->add_option(Filas[i].nombre, p.valores[i]);
     if (clase != DeCorrida) return orden;
@@ -267,7 +329,7 @@ std::string MotivoDe(const CLI::ParseError& error, const CLI::App& programa)
     if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr) return "Falta la orden: una o serie";
     const std::string opcion = OpcionNombrada(error.what());
     if (opcion == "--pizarra" || opcion == "--avisos" || opcion == "--json" || opcion == "--csv" ||
-        opcion == "--help")
+        opcion == "--reemplaza" || opcion == "--help")
         return "La opción " + opcion + " no lleva valor";
     return "La opción " + opcion + " lleva un valor, y una sola vez";
 }
@@ -326,7 +388,16 @@ Lectura LeeDeMaximos(const char* nombre, Opciones::Orden orden, int clase, int a
     o.archivo = p.conf;
     o.json = p.json;
     o.csv = p.csv;
+    o.reemplaza = p.reemplaza;
     return Toma(p, std::move(o));
+}
+
+/// What curves are made of, by what was given of it: one thing at most. Returns why not.
+std::string PonOrigen(Opciones& o)
+{
+    if (!o.archivo.empty() && !o.series.empty()) return "ARCHIVO y --series no van juntos";
+    o.idf.origen = !o.series.empty() ? "series" : o.archivo.empty() ? "coeficientes" : "diaria";
+    return {};
 }
 
 }  // namespace
@@ -384,12 +455,26 @@ Lectura LeeOpcionesIdf(int argc, const char* const* argv)
 {
     Lectura l = LeeDeMaximos("idf", Opciones::Orden::Idf, DeIdf, argc, argv);
     if (!l.opciones) return l;
-    Opciones& o = *l.opciones;
-    if (!o.archivo.empty() && !o.series.empty()) return {{}, "ARCHIVO y --series no van juntos"};
-    if (o.archivo.empty() && o.series.empty() && o.idf.coeficientes.empty())
-        return {{}, "Falta de dónde: ARCHIVO, --series o --coeficientes"};
-    o.idf.origen = !o.series.empty() ? "series" : o.archivo.empty() ? "coeficientes" : "diaria";
+    if (std::string motivo = PonOrigen(*l.opciones); !motivo.empty()) return {{}, std::move(motivo)};
+    if (!HayDeDonde(*l.opciones)) return {{}, "Falta de dónde: ARCHIVO, --series o --coeficientes"};
     return l;
+}
+
+Lectura LeeOpcionesTormenta(int argc, const char* const* argv)
+{
+    Lectura l = LeeDeMaximos("tormenta", Opciones::Orden::Tormenta, DeTormenta, argc, argv);
+    if (!l.opciones) return l;
+    if (std::string motivo = PonOrigen(*l.opciones); !motivo.empty()) return {{}, std::move(motivo)};
+    if (!HayDeDonde(*l.opciones) && !l.opciones->diseno.lamina)
+        return {{}, "Falta la lámina: --pp, o de dónde salen las curvas: ARCHIVO, --series o --coeficientes"};
+    if (!HayDeDonde(*l.opciones) && l.opciones->escribeTabla > 0)
+        return {{}, "--escribe-tabla pide curvas: ARCHIVO, --series o --coeficientes"};
+    return l;
+}
+
+bool HayDeDonde(const Opciones& o)
+{
+    return !o.archivo.empty() || !o.series.empty() || !o.idf.coeficientes.empty();
 }
 
 }  // namespace batch

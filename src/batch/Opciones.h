@@ -14,7 +14,7 @@ namespace batch {
 
 /// What a command line asks for. Numbers are within the bounds told here; paths stand as they were typed.
 struct Opciones {
-    enum class Orden { Una, Serie, Revisa, Verifica, Frecuencia, Idf };
+    enum class Orden { Una, Serie, Revisa, Verifica, Frecuencia, Idf, Tormenta };
 
     Orden orden = Orden::Una;
     std::string conf{};             ///< path of the project's configuration file, ends in _Conf.vlm
@@ -46,8 +46,12 @@ struct Opciones {
     bool csv = false;                                      ///< quantiles as CSV, not as text
     study::Idf idf{};                                      ///< what curves are made of, and how
     std::vector<std::pair<double, std::string>> series{};  ///< duration [min] and path of its maxima
-    bool lecturaDiaria = true;  ///< maxima of a day are of readings, not of any 24 hours
-    float cuenca = 0;           ///< the basin as measured [ha], not negative; 0: not known
+    bool lecturaDiaria = true;                      ///< maxima of a day are of readings, not of any 24 hours
+    study::TormentaDeDiseno diseno{};               ///< the storm that is made; `archivo` is a path
+    int escribeDistribucion = 0, escribeTabla = 0;  ///< personal table 1..3 that is written; 0: none
+    std::vector<std::int16_t> duraciones{}, recurrencias{};  ///< of that table of storms; empty: all
+    bool reemplaza = false;                                  ///< what is there may be written over
+    float cuenca = 0;  ///< the basin as measured [ha], not negative; 0: not known
 
     bool operator==(const Opciones&) const = default;
 };
@@ -79,5 +83,11 @@ Lectura LeeOpcionesFrecuencia(int argc, const char* const* argv);
 /// The same of the curves of intensity, which take maxima or coefficients and no project.
 std::string_view UsoIdf();
 Lectura LeeOpcionesIdf(int argc, const char* const* argv);
+
+/// The same of a design storm, which takes a depth or what curves are made of, and no project.
+std::string_view UsoTormenta();
+Lectura LeeOpcionesTormenta(int argc, const char* const* argv);
+/// Whether it was told what curves are made of.
+bool HayDeDonde(const Opciones& opciones);
 
 }  // namespace batch

@@ -2,6 +2,7 @@
 #include "batch/CorridaLote.h"
 #include "batch/FrecuenciaLote.h"
 #include "batch/IdfLote.h"
+#include "batch/TormentaLote.h"
 
 namespace batch {
 namespace {
@@ -22,6 +23,11 @@ int MuestraFrecuencia(const Opciones& /*o*/, const std::string& /*dirEjecutable*
 int MuestraIdf(const Opciones& /*o*/, const std::string& /*dirEjecutable*/, const Salidas& salidas)
 {
     return NoLaTrae("idf", salidas);
+}
+
+int MuestraTormenta(const Opciones& /*o*/, const std::string& /*dirEjecutable*/, const Salidas& salidas)
+{
+    return NoLaTrae("tormenta", salidas);
 }
 
 }  // namespace batch

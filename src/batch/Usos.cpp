@@ -113,7 +113,48 @@ Estado de salida: 0 hay curvas; 1 no las hay con esos datos, o no se pudo leer o
                   es errónea.
 )";
 
+constexpr std::string_view TextoUsoTormenta =
+    R"(Uso: siro-lote tormenta --pp MM [opciones]            una tormenta de lámina conocida
+     siro-lote tormenta ARCHIVO [opciones]             de curvas, como en la orden idf: máximos diarios,
+     siro-lote tormenta --series D=ARCHIVO,...           de varias duraciones,
+     siro-lote tormenta --familia F --coeficientes S=V,...   o coeficientes
+
+Reparte una tormenta en el tiempo y dice su hietograma, el de los porcentajes enteros que guarda una distribución
+personal y el que el motor corre con ellos.
+
+  --patron P              bloques, chicago, equilibrada, scs-i, scs-ia, scs-ii, scs-iii, huff, propia, registrada
+                          (bloques); los tres primeros piden curvas
+  --pp MM                 lámina de la tormenta (la de las curvas)
+  --dur MIN               duración, múltiplo del paso (120)
+  --rec AÑOS              recurrencia de la lámina de las curvas (50)
+  --paso MIN              largo de los períodos (10)
+  --avance R              momento del pico de chicago, como parte de la duración (0.375)
+  --cuartil N             el de huff, 1 a 4 (1)
+  --periodos V,V,...      lluvia de los períodos de propia, en cualquier unidad
+  --registrada ARCHIVO    tormenta real _pt.vlm de la que sale registrada
+  --ley, --metodo, --lectura, --factor, --desagregacion, --razones, --familia, --criterio, --coeficientes,
+  --reduccion, --area     las curvas, como en la orden idf
+
+  --escribe-distribucion K  escribe el patrón en la distribución personal K, 1 a 3
+  --escribe-tabla K       llena la tabla P-D-R K, 1 a 3, con las láminas de las curvas
+  --duraciones D,D,...    las de esa tabla (las 17 que admite)
+  --recurrencias R,R,...  las de esa tabla (las 14 que admite)
+  --trabajo DIR           directorio de esas tablas, que son de todos los proyectos (el del programa)
+  --reemplaza             escribe encima de lo que haya; si no, se niega
+  --json                  todo, en JSON
+  --csv                   minutos,lamina,acumulada,intensidad,porcentaje,corrida
+  --ayuda, --help         este texto
+
+Estado de salida: 0 hay tormenta, y se escribió; 1 no la hay con esos datos, lo que se iba a escribir ya tiene
+                  algo, o no se pudo leer o escribir; 2 la línea de órdenes es errónea.
+)";
+
 }  // namespace
+
+std::string_view UsoTormenta()
+{
+    return TextoUsoTormenta;
+}
 
 std::string_view UsoIdf()
 {

@@ -12,6 +12,7 @@
 #include "frequency/TallerAjustes_ventana.h"
 #include "frequency/TallerMaximos_ventana.h"
 #include "frequency/TallerPruebas_ventana.h"
+#include "frequency/TallerTormenta_ventana.h"
 
 namespace frequency {
 
@@ -51,6 +52,7 @@ void dlgTaller_ventana::PonPaginas()
     Agrega("1 Máximos", new TallerMaximos_ventana(entorno, f));
     Agrega("2 Pruebas", new TallerPruebas_ventana(entorno, f));
     Agrega("3 Ajustes", new TallerAjustes_ventana(entorno, f));
+    Agrega("5 Tormenta", new TallerTormenta_ventana(entorno, f));
 }
 
 void dlgTaller_ventana::Agrega(std::string_view titulo, PaginaDeTaller* pagina)
