@@ -14,6 +14,20 @@ inline const std::vector<double> PortPirie{
     3.85, 3.86, 3.86, 4.21, 4.01, 4.11, 4.24, 3.96, 4.21, 3.74, 3.85, 3.88, 3.66, 4.11, 3.71, 4.18, 3.90,
     3.78, 3.91, 3.72, 4.00, 3.66, 3.62, 4.33, 4.55, 3.75, 4.08, 3.90, 3.88, 3.94, 4.33};
 
+/// Annual maxima of the rain of 10 minutes at Chicago [inches], 1913 to 1947: Chow, Maidment and Mays 1988,
+/// table 12.2.1.
+inline const std::vector<double> LluviasDeChicago{0.49, 0.66, 0.36, 0.58, 0.41, 0.47, 0.74, 0.53, 0.76,
+                                                  0.57, 0.80, 0.66, 0.68, 0.68, 0.61, 0.88, 0.49, 0.33,
+                                                  0.96, 0.94, 0.80, 0.62, 0.71, 1.11, 0.64, 0.52, 0.64,
+                                                  0.34, 0.70, 0.57, 0.92, 0.66, 0.65, 0.63, 0.60};
+
+/// Annual maxima of the discharge of the Guadalupe river near Victoria, Texas [cfs], 1935 to 1978: the same,
+/// table 12.1.1.
+inline const std::vector<double> Guadalupe{
+    38500, 179000, 17200, 25400, 4940,  55800, 58000, 56000, 7710,  12300, 22000, 17900, 46000, 6970, 20600,
+    13300, 12300,  28400, 11600, 8560,  4950,  1730,  25300, 58300, 10100, 23700, 55800, 10800, 4100, 5720,
+    15000, 9790,   70000, 44300, 15200, 9190,  9740,  58500, 33100, 25200, 30200, 14100, 54500, 12700};
+
 /// Annual peak flows of the Moose River at Victory, Vermont [cfs], 1947 to 2014: Bulletin 17C, table 10-2.
 inline const std::vector<double> MooseRiver{
     2080, 1670, 1480, 2940, 1560, 2380, 2720, 2860, 2620, 1710, 1370, 2180, 1160, 2780, 1580, 2110, 2160,
