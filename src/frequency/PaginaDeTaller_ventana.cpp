@@ -32,6 +32,8 @@ QSplitter* PaginaDeTaller::LadoALado(QWidget* tabla, QWidget* grafico, int parte
     barra->setStretchFactor(0, parteDeTabla);
     barra->setStretchFactor(1, parteDeGrafico);
     barra->setChildrenCollapsible(false);
+    constexpr int Ancho = 1000;  // shares of what there is
+    barra->setSizes({parteDeTabla * Ancho, parteDeGrafico * Ancho});
     return barra;
 }
 

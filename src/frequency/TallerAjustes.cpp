@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "forms/CampoNumerico.h"
+#include "frequency/Cifras.h"
 #include "frequency/GraficosDeTaller.h"
 #include "model/Numeros.h"
 
@@ -28,7 +29,7 @@ constexpr forms::ReglaNumero ReglaMuestras{.control = "txtMuestras",
 
 std::string Numero(double x, int decimales)
 {
-    return std::isfinite(x) ? TextoDe(x, decimales) : std::string();
+    return std::isfinite(x) ? Con(x, decimales) : std::string();
 }
 
 const AjusteDeLey* EnMano(const TallerAjustes& m)
@@ -59,7 +60,7 @@ forms::Planilla Cuantiles(const TallerAjustes& m)
         if (&f != suya) p.columnas.push_back({NombreCorto(*f.ley)});
     for (std::size_t i = 0; i < model::Recurrencias.size(); ++i) {
         const auto lamina = [i](const AjusteDeLey& f, const PorRecurrencia& q, bool hay) {
-            return f.estimado.p && hay ? Numero(q[i], 1) : std::string("-");
+            return f.estimado.p && hay ? Numero(q[i], 1) : std::string();
         };
         std::vector<std::string> fila{std::to_string(model::Recurrencias[i])};
         if (suya != nullptr) {
@@ -94,12 +95,12 @@ forms::Planilla BondadDe(const TallerAjustes& m)
     for (const AjusteDeLey& f : m.analisis->ajustes) {
         std::vector<std::string> fila{std::string(f.ley->nombre)};
         for (double Bondad::*cual : {&Bondad::ks, &Bondad::ad, &Bondad::chi2, &Bondad::ppcc}) {
-            fila.push_back(f.estimado.p ? Numero(f.bondad.*cual, 3) : "-");
-            fila.push_back(f.estimado.p && f.remuestreo.Hay() ? Numero(f.remuestreo.p.*cual, 3) : "-");
+            fila.push_back(f.estimado.p ? Numero(f.bondad.*cual, 3) : "");
+            fila.push_back(f.estimado.p && f.remuestreo.Hay() ? Numero(f.remuestreo.p.*cual, 3) : "");
         }
         for (double Criterios::*cual : {&Criterios::aic, &Criterios::aicc, &Criterios::bic})
             fila.push_back(f.estimado.p && std::isfinite(f.criterios.*cual) ? Numero(f.criterios.*cual, 1)
-                                                                            : "-");
+                                                                            : "");
         p.filas.push_back(std::move(fila));
     }
     return p;
@@ -228,14 +229,14 @@ void Empieza(TallerAjustes& m, const dlgTaller& f)
     m.estado = Estado::Ajustando;
     m.hechas = m.total = 0;
     m.lblElegida = ElegidaEnPalabras(m, s);
-    m.lblEstado = m.analisis ? "Se está recalculando: lo que se ve es de antes." : "Ajustando las leyes...";
+    m.lblEstado = m.analisis ? "Recalculando: lo que se ve es de antes." : "Ajustando las leyes...";
 }
 
 void TomaAjustes(TallerAjustes& m, const dlgTaller& f, Analisis analisis)
 {
     Pon(m, f, std::move(analisis));
     m.estado = Estado::Remuestreando;
-    m.lblEstado = "Faltan bandas y p: se están calculando.";
+    m.lblEstado = "Faltan bandas y p.";
 }
 
 void Avanza(TallerAjustes& m, std::size_t hechas, std::size_t total, double segundos)
@@ -243,10 +244,11 @@ void Avanza(TallerAjustes& m, std::size_t hechas, std::size_t total, double segu
     m.hechas = hechas;
     m.total = total;
     constexpr double ParaDecirlo = 0.5;  // [s]
+    m.barAvance = std::to_string(hechas) + " de " + std::to_string(total);
     if (m.estado != Estado::Remuestreando || hechas == 0 || segundos < ParaDecirlo) return;
     const double quedan =
         segundos * static_cast<double>(total - std::min(hechas, total)) / static_cast<double>(hechas);
-    m.lblEstado = "Faltan bandas y p: se están calculando, quedan " + Numero(std::ceil(quedan), 0) + " s.";
+    m.barAvance += ", quedan " + Numero(std::ceil(quedan), 0) + " s";
 }
 
 void TomaCompleto(TallerAjustes& m, const dlgTaller& f, Analisis analisis)

@@ -68,7 +68,7 @@ struct TallerAjustes {
     std::string temaDelAnalisis{};
     Estado estado = Estado::Nada;
     std::size_t hechas = 0, total = 0;  ///< samples, of all laws
-    std::string lblEstado{};
+    std::string lblEstado{}, barAvance{};
 
     int metodo = static_cast<int>(Metodo::MomentosL);
     std::string txtSemilla{}, txtMuestras{}, txtMotivo{};

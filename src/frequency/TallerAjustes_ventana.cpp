@@ -4,11 +4,8 @@
 #include <QProgressBar>
 #include <QSplitter>
 #include <QTabWidget>
-#include <atomic>
 #include <chrono>
-#include <mutex>
 #include <optional>
-#include <thread>
 #include <utility>
 
 #include "forms/Cuadro_ventana.h"
@@ -20,78 +17,28 @@ namespace {
 
 constexpr std::chrono::milliseconds EntreMiradas{30};
 
-}  // namespace
-
-/// An analysis on a thread of its own: the fits first, then all of it with the bootstrap. It is waited for as
-/// it goes, which takes as long as one fit at most.
-class TallerAjustes_ventana::Corrida {
-  public:
-    Corrida(Serie unaSerie, const PedidoDeAjustes& suPedido) : serie(std::move(unaSerie)), pedido(suPedido)
-    {
-        hilo = std::thread([this] { Corre(); });
-    }
-    ~Corrida()
-    {
-        Cancela();
-        hilo.join();
-    }
-    Corrida(const Corrida&) = delete;
-    Corrida& operator=(const Corrida&) = delete;
-
-    void Cancela() { cancelada = true; }
-    [[nodiscard]] bool Terminada() const { return terminada; }
-    [[nodiscard]] std::size_t Hechas() const { return hechas; }
-    [[nodiscard]] std::size_t Total() const { return total; }
-    [[nodiscard]] double Segundos() const
-    {
-        return std::chrono::duration<double>(std::chrono::steady_clock::now() - comienzo).count();
-    }
-    /// What has come since the last time.
-    std::optional<Analisis> Saca()
-    {
-        const std::lock_guard guarda(cerrojo);
-        return std::exchange(listo, std::nullopt);
-    }
-
-  private:
-    void Corre()
-    {
-        PedidoDeAnalisis p;
-        p.metodo = pedido.metodo;
-        p.remuestreo = {.semilla = pedido.semilla, .cuantas = 0};
-        Entrega(p);
-        if (pedido.muestras > 0) {
-            p.remuestreo.cuantas = pedido.muestras;
-            Entrega(p);
+/// The fits first, then all of it with the bootstrap.
+Tarea<Analisis>::Trabajo Trabajo(Serie serie, PedidoDeAjustes pedido)
+{
+    return [serie = std::move(serie), pedido = std::move(pedido)](const Avance& avance, const auto& entrega) {
+        for (const int muestras : {0, pedido.muestras}) {
+            PedidoDeAnalisis p;
+            p.metodo = pedido.metodo;
+            p.remuestreo = {.semilla = pedido.semilla, .cuantas = muestras};
+            std::optional<Analisis> a = Analiza(serie, p, avance);
+            if (!a) return;
+            entrega(*std::move(a));
+            if (pedido.muestras == 0) return;
         }
-        terminada = true;
-    }
-    void Entrega(const PedidoDeAnalisis& p)
-    {
-        if (cancelada) return;
-        std::optional<Analisis> a = Analiza(serie, p, [this](std::size_t van, std::size_t todas) {
-            hechas = van;
-            total = todas;
-            return !cancelada;
-        });
-        const std::lock_guard guarda(cerrojo);
-        if (a) listo = std::move(a);
-    }
+    };
+}
 
-    const Serie serie;
-    const PedidoDeAjustes pedido;
-    std::chrono::steady_clock::time_point comienzo = std::chrono::steady_clock::now();
-    std::atomic<std::size_t> hechas = 0, total = 0;
-    std::atomic<bool> cancelada = false, terminada = false;
-    std::mutex cerrojo{};
-    std::optional<Analisis> listo{};
-    std::thread hilo{};
-};
+}  // namespace
 
 TallerAjustes_ventana::TallerAjustes_ventana(forms::Entorno& alrededor, dlgTaller& taller)
     : PaginaDeTaller(alrededor, taller, RotulosTallerAjustes, "TallerAjustes")
 {
-    auto* const todo = EnPila({Pedido(), Avance(), {LadoALado(Tablas(), Derecha()), 1}, Eleccion()});
+    auto* const todo = EnPila({Pedido(), {LadoALado(Tablas(), Derecha(), 9, 10), 1}, Eleccion()});
     todo->setContentsMargins(0, 0, 0, 0);
     setLayout(todo);
     latido.setInterval(EntreMiradas);
@@ -117,28 +64,34 @@ QLayout* TallerAjustes_ventana::Pedido()
     QLineEdit* const muestras = numero("txtMuestras", m.txtMuestras);
     QComboBox* const ley =
         Desplegable("cmbEnMano", m.leyes, m.enMano, [this](int i) { cmbEnMano_Click(m, f, i); });
-    return EnFila({Rotulo("cmbMetodo", metodo), metodo, Rotulo("txtSemilla", semilla), semilla,
-                   Rotulo("txtMuestras", muestras), muestras, Rotulo("cmbEnMano", ley), ley, Hueco()});
+    return EnFila({Rotulo("cmbMetodo", metodo),
+                   metodo,
+                   Rotulo("txtSemilla", semilla),
+                   semilla,
+                   Rotulo("txtMuestras", muestras),
+                   muestras,
+                   Rotulo("cmbEnMano", ley),
+                   ley,
+                   {Avance(), 1}});
 }
 
+/// It keeps its place while nothing is under way, so that nothing jumps from under the pointer.
 QLayout* TallerAjustes_ventana::Avance()
 {
-    const auto corriendo = [this] { return corrida != nullptr; };
-    QLabel* const estado =
-        VisibleSi(Texto("lblEstado", m.lblEstado), [this] { return !m.lblEstado.empty(); });
-    auto* const avance = Nombra(new QProgressBar, "barAvance");
+    auto* const avance = ConservaLugar(Nombra(new QProgressBar, "barAvance"));
     AlMostrar([this, avance] {
         avance->setVisible(corrida != nullptr);
         avance->setRange(0, static_cast<int>(m.total));
         avance->setValue(static_cast<int>(m.hechas));
-        avance->setFormat(QStringLiteral("%v de %m muestras"));
+        avance->setFormat(forms::Q(m.barAvance));
     });
-    return EnFila({EnNegrita(estado),
-                   {avance, 1},
-                   VisibleSi(Boton("CancelButton", [this] { Deja(); }), corriendo),
-                   VisibleSi(Boton("cmdCalcular", [this] { Calcula(); }),
-                             [this] { return m.estado == Estado::SinBandas; }),
-                   Hueco()});
+    constexpr int Letras = 20;
+    avance->setMinimumWidth(Letras * fontMetrics().averageCharWidth());
+    return EnFila(
+        {{avance, 1},
+         VisibleSi(Boton("CancelButton", [this] { Deja(); }), [this] { return corrida != nullptr; }),
+         VisibleSi(Boton("cmdCalcular", [this] { Calcula(); }),
+                   [this] { return m.estado == Estado::SinBandas; })});
 }
 
 forms::TablaCuadro* TallerAjustes_ventana::TablaDe(forms::Cuadro& cuadro, std::string_view control,
@@ -171,6 +124,8 @@ QWidget* TallerAjustes_ventana::Derecha()
 {
     QComboBox* const cual =
         Desplegable("cmbGrafico", m.graficos, m.grafico, [this](int i) { cmbGrafico_Click(m, f, i); });
+    constexpr int Letras = 22;
+    cual->setMinimumContentsLength(Letras);
     grafico = new forms::Lamina(entorno, "lamAjustes", "Ajustes", forms::Lamina::Modo::Compacta);
     auto* const lado = new QWidget;
     auto* const pila = EnPila({EnFila({Rotulo("cmbGrafico", cual), cual,
@@ -188,6 +143,8 @@ QLayout* TallerAjustes_ventana::Eleccion()
 {
     QLabel* const recomendacion = Texto("lblRecomendacion", m.lblRecomendacion);
     recomendacion->setWordWrap(true);
+    recomendacion->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    recomendacion->setMinimumHeight(2 * fontMetrics().lineSpacing());
     recomendacion->setTextInteractionFlags(Qt::TextSelectableByMouse);
     QComboBox* const elegida =
         Desplegable("cmbElegida", m.elegibles, m.elegida, [this](int i) { cmbElegida_Click(m, f, i); });
@@ -195,12 +152,16 @@ QLayout* TallerAjustes_ventana::Eleccion()
     QPushButton* const recomendada =
         HabilitadoSi(Boton("cmdRecomendada", [this] { cmdRecomendada(m, f); }),
                      [this] { return m.analisis && m.analisis->recomendacion.ley != nullptr; });
-    return EnPila({EnFila({{Rotulo("lblRecomendacion"), 0, Qt::AlignTop}, {recomendacion, 1}}),
-                   EnFila({Rotulo("cmbElegida", elegida),
-                           elegida,
-                           Rotulo("txtMotivo", motivo),
-                           {motivo, 1},
-                           recomendada})});
+    QLabel* const estado =
+        VisibleSi(EnNegrita(Texto("lblEstado", m.lblEstado)), [this] { return !m.lblEstado.empty(); });
+    return EnPila(
+        {EnFila(
+             {{estado, 0, Qt::AlignTop}, {Rotulo("lblRecomendacion"), 0, Qt::AlignTop}, {recomendacion, 1}}),
+         EnFila({Rotulo("cmbElegida", elegida),
+                 elegida,
+                 Rotulo("txtMotivo", motivo),
+                 {motivo, 1},
+                 recomendada})});
 }
 
 forms::Planilla TallerAjustes_ventana::ParaImprimir() const
@@ -227,7 +188,7 @@ void TallerAjustes_ventana::Calcula()
     if (s == nullptr) return;
     if (corrida != nullptr) Deja();
     Empieza(m, f);
-    corrida = std::make_unique<Corrida>(Revisada(*s), m.pedido);
+    corrida = std::make_unique<Tarea<Analisis>>(Trabajo(Revisada(*s), m.pedido));
     latido.start();
 }
 
@@ -237,7 +198,7 @@ void TallerAjustes_ventana::Mira()
     const bool terminada = corrida->Terminada();
     std::optional<Analisis> nuevo = corrida->Saca();
     Avanza(m, corrida->Hechas(), corrida->Total(), corrida->Segundos());
-    if (nuevo && terminada)
+    if (nuevo && nuevo->pedido.cuantas == m.pedido.muestras)
         TomaCompleto(m, f, *std::move(nuevo));
     else if (nuevo)
         TomaAjustes(m, f, *std::move(nuevo));

@@ -7,6 +7,7 @@
 
 #include "frequency/PaginaDeTaller_ventana.h"
 #include "frequency/TallerAjustes.h"
+#include "frequency/Tarea.h"
 
 class QTabWidget;
 
@@ -34,8 +35,6 @@ class TallerAjustes_ventana : public PaginaDeTaller {
     void Toma() override;
 
   private:
-    class Corrida;
-
     QLayout* Pedido();
     QLayout* Avance();
     QWidget* Tablas();
@@ -50,8 +49,8 @@ class TallerAjustes_ventana : public PaginaDeTaller {
     QTabWidget* fichas = nullptr;
     forms::Lamina* grafico = nullptr;
     QTimer latido{};
-    std::unique_ptr<Corrida> corrida;
-    std::vector<std::unique_ptr<Corrida>> dejadas{};  ///< cancelled, and still at their last sample
+    std::unique_ptr<Tarea<Analisis>> corrida;
+    std::vector<std::unique_ptr<Tarea<Analisis>>> dejadas{};  ///< cancelled, and still at their last sample
 };
 
 }  // namespace frequency

@@ -23,7 +23,7 @@ TallerPruebas_ventana::TallerPruebas_ventana(forms::Entorno& alrededor, dlgTalle
     auto* const pila = EnPila({{tabla, 1}, Detalle()});
     pila->setContentsMargins(0, 0, 0, 0);
     lado->setLayout(pila);
-    auto* const todo = EnPila({{LadoALado(lado, grafico), 1}});
+    auto* const todo = EnPila({{LadoALado(lado, grafico, 9, 10), 1}});
     todo->setContentsMargins(0, 0, 0, 0);
     setLayout(todo);
 }

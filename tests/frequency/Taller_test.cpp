@@ -188,7 +188,7 @@ TEST_F(TallerDePrueba, LosAjustesSonTablasYLaElegidaQuedaConSuMotivo)
     const auto& filas = a.tblCuantiles.planilla.filas;
     ASSERT_EQ(filas.size(), 14U);
     EXPECT_EQ(filas.at(7).at(0), "100");
-    EXPECT_EQ(filas.at(7).at(1), "-") << "no band";
+    EXPECT_EQ(filas.at(7).at(1), "") << "no band";
     EXPECT_EQ(filas.at(7).at(2), "138.9");
     EXPECT_EQ(filas.at(13).at(2), "219.5");
     EXPECT_EQ(a.tblBondad.planilla.filas.size(), 8U);
