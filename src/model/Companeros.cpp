@@ -5,6 +5,7 @@
 #include <cstddef>
 
 #include "model/Avisos.h"
+#include "model/Configuracion.h"
 #include "model/Disco.h"
 #include "model/Falla.h"
 #include "model/RutaProyecto.h"
@@ -19,7 +20,9 @@ constexpr std::string_view TerminacionSerie = ".csv";
 constexpr std::string_view TerminacionCorridas = "_corridas";
 constexpr std::string_view Apartado = ".anterior";
 
-constexpr std::string_view TituloAparta = "Archivos de un proyecto anterior";
+constexpr std::string_view NoSeVe = "No se pudo ver qué archivos hay en la carpeta. Si el proyecto <";
+constexpr std::string_view NoSeCopia = "> tiene un estudio o series, no se copiaron.";
+constexpr std::string_view TituloAparta = "Archivos del estudio";
 constexpr std::string_view Aparta1 = "En la carpeta quedaban archivos de otro proyecto de nombre <";
 constexpr std::string_view Aparta2 = ">. Se los apartó con otro nombre: ";
 constexpr std::string_view NoAparta2 =
@@ -71,10 +74,27 @@ std::vector<std::string> CompanerosDe(const Siro& s, const std::string& director
     return nombres;
 }
 
+std::map<std::string, std::vector<std::string>> CompanerosPorConf(const Siro& s,
+                                                                  const std::string& directorio,
+                                                                  const std::vector<std::string>& archivos)
+{
+    std::map<std::string, std::vector<std::string>> todos;
+    for (const std::string& conf : archivos)
+        if (conf.ends_with(TerminacionConf))
+            todos[conf] =
+                CompanerosDe(s, directorio, archivos,
+                             std::string_view(conf).substr(0, conf.size() - TerminacionConf.size()));
+    return todos;
+}
+
 void CopiaCompaneros(const Siro& s, const std::string& directorio, const std::string& viejo,
                      const std::string& nuevo)
 {
-    for (const std::string& nombre : CompanerosDe(s, directorio, s.Disco.Lista(directorio), viejo))
+    std::vector<std::string> archivos;
+    // A folder whose files can be read by name alone.
+    if (!Sentencia([&] { archivos = s.Disco.Lista(directorio); }))
+        Advierte(s, std::string(NoSeVe) + viejo + std::string(NoSeCopia), TituloAparta);
+    for (const std::string& nombre : CompanerosDe(s, directorio, archivos, viejo))
         if (!EsDirectorioDe(nombre))
             s.Disco.Copia(Ruta(directorio, nombre), Ruta(directorio, nuevo + nombre.substr(viejo.size())));
 }
@@ -105,7 +125,11 @@ std::string ApartaCompanero(const Siro& s, const std::string& directorio, const 
 bool ApartaCompaneros(const Siro& s, const std::string& directorio, const std::string& proyecto)
 {
     std::vector<std::string> quedan, apartados;
-    Sentencia([&] { quedan = CompanerosDe(s, directorio, s.Disco.Lista(directorio), proyecto); });
+    Sentencia([&] {
+        const std::vector<std::string> archivos = s.Disco.Lista(directorio);
+        const bool esDeAlguien = std::binary_search(archivos.begin(), archivos.end(), ArchivoConf(proyecto));
+        if (!esDeAlguien) quedan = CompanerosDe(s, directorio, archivos, proyecto);
+    });
     std::reverse(quedan.begin(), quedan.end());
     while (!quedan.empty() &&
            Sentencia([&] { apartados.push_back(ApartaCompanero(s, directorio, quedan.back())); }))

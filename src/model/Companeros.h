@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,6 +19,11 @@ inline constexpr std::string_view TerminacionEstudio = "_Estudio.json";
 /// looked for on the disk, is last and ends in the separator.
 std::vector<std::string> CompanerosDe(const Siro& s, const std::string& directorio,
                                       const std::vector<std::string>& archivos, std::string_view proyecto);
+
+/// The same of every project of the directory, by its configuration file.
+std::map<std::string, std::vector<std::string>> CompanerosPorConf(const Siro& s,
+                                                                  const std::string& directorio,
+                                                                  const std::vector<std::string>& archivos);
 
 /// Copies those of a project to another name, all but the runs. Throws Falla 76, 75.
 void CopiaCompaneros(const Siro& s, const std::string& directorio, const std::string& viejo,

@@ -8,6 +8,7 @@
 #include "model/Avisos.h"
 #include "model/Candado.h"
 #include "model/Clases.h"
+#include "model/Companeros.h"
 #include "model/Componentes.h"
 #include "model/EscriturasEnEspera.h"
 #include "model/Falla.h"
@@ -105,7 +106,10 @@ bool TomaNombreNuevo(Siro& s, const std::string& nombre)
     if (s.Proyecto.DirProyectoConf.empty()) s.Proyecto.DirProyectoConf = s.Proyecto.DirProyecto;
     Entra(s, s.Proyecto.DirProyectoConf);
     s.Proyecto.ArchivoTemp = Ruta(s.Proyecto.DirProyectoConf, ArchivoConf(nombre));
-    if (!Sentencia([&] { s.Disco.Lee(s.Proyecto.ArchivoTemp); }, SalvoQueFalte)) return true;
+    if (!Sentencia([&] { s.Disco.Lee(s.Proyecto.ArchivoTemp); }, SalvoQueFalte)) {
+        s.Proyecto.ProyectoNuevo = ApartaCompaneros(s, s.Proyecto.DirProyecto, nombre);
+        return s.Proyecto.ProyectoNuevo;
+    }
     // The next opening of the configuration would otherwise write over the project that exists.
     s.Proyecto.ProyectoNuevo = false;
     Informa(s, std::string(YaExiste1).append(ArchivoConf(nombre)).append(YaExiste2));
@@ -150,6 +154,7 @@ void CopiaProyecto(Siro& s, const std::string& viejo, const std::string& nuevo)
         copia("_RHQ.vlm");
         copia("_RHAS.vlm");
         copia("_LHASQ.vlm");
+        CopiaCompaneros(s, s.Proyecto.DirProyecto, viejo, nuevo);
     });
     espera.Cumple();
     s.Proyecto.ProyectoNuevo = false;
@@ -318,27 +323,31 @@ void mnu_ultimoarchivo1(Siro& s)
     if (!s.Proyecto.NombreProyecto.empty()) s.Anfitrion.HabilitaGuardarComo();
 }
 
-void mnuGuardarProyectoComo(Siro& s)
+bool mnuGuardarProyectoComo(Siro& s)
 {
-    if (s.Proyecto.NombreProyecto.empty()) return;
-    if (!s.Anfitrion.ResguardaDibujo(Riesgo::ReleeRed)) return;
+    if (s.Proyecto.NombreProyecto.empty()) return false;
+    if (!s.Anfitrion.ResguardaDibujo(Riesgo::ReleeRed)) return false;
     const std::string viejo = s.Proyecto.NombreProyecto;  // the load takes the name from inside the file
     LeeUEHs(s);
     const std::string nuevo = PideNombre(s, TituloGuardarComo);
-    if (nuevo.empty()) return;
+    if (nuevo.empty()) return false;
+    bool copiado = false;
     ConFallaFatal(s, [&] {
-        if (TomaNombreNuevo(s, nuevo)) CopiaProyecto(s, viejo, nuevo);
+        if (!TomaNombreNuevo(s, nuevo)) return;
+        CopiaProyecto(s, viejo, nuevo);
+        copiado = true;
     });
+    return copiado;
 }
 
 // --- deleting ---
 
 namespace {
 
-/// Into the trash, or off the disk where there is none. Throws Falla 53, 76, 75.
-void Tira(const Siro& s, const std::string& ruta)
+/// What stands before the first "_" of a file that was picked: every file that begins so goes with it.
+std::string_view PrefijoDe(std::string_view archivo)
 {
-    if (!s.Anfitrion.TiraAPapelera(ruta)) s.Disco.Borra(ruta);
+    return archivo.substr(0, archivo.find('_'));
 }
 
 }  // namespace
@@ -347,13 +356,22 @@ void dlgEliminarProyecto::Abre(const Siro& s)
 {
     *this = {};
     DirProyecto = s.Proyecto.DirProyecto;
-    Sentencia([&] { filProyectoEliminar = s.Disco.Lista(s.Proyecto.DirProyecto); });
+    Sentencia([&] {
+        filProyectoEliminar = s.Disco.Lista(s.Proyecto.DirProyecto);
+        companeros = CompanerosPorConf(s, DirProyecto, filProyectoEliminar);
+    });
     std::erase_if(filProyectoEliminar, [](const std::string& n) { return !n.ends_with(TerminacionConf); });
 }
 
 void dlgEliminarProyecto::filProyectoEliminar_AlPulsar(std::string_view archivo)
 {
     lblProyectoAEliminar = archivo;
+    lblTambien.clear();
+    const std::string_view prefijo = PrefijoDe(archivo);
+    for (const auto& [conf, nombres] : companeros)
+        if (!prefijo.empty() && conf.starts_with(prefijo))
+            for (const std::string& nombre : nombres)
+                lblTambien.append(lblTambien.empty() ? "" : ", ").append(nombre);
 }
 
 void dlgEliminarProyecto::OKButton(Siro& s)
@@ -362,18 +380,23 @@ void dlgEliminarProyecto::OKButton(Siro& s)
     const std::string texto = std::string(Eliminar1).append(s.Proyecto.NombreProyecto).append(Eliminar2);
     if (!s.Anfitrion.Pregunta({texto, std::string(TituloEliminar), Icono::Pregunta})) return;
     if (lblProyectoAEliminar.empty() || lblProyectoAEliminar == SinProyectoElegido) return;
-    const std::string prefijo = lblProyectoAEliminar.substr(0, lblProyectoAEliminar.find('_'));
+    const std::string prefijo(PrefijoDe(lblProyectoAEliminar));
     const bool elPresente =
         !s.Proyecto.NombreProyecto.empty() && ArchivoConf(s.Proyecto.NombreProyecto).starts_with(prefijo);
     if (prefijo.empty()) return Advierte(s, std::string(SinNombre), TituloEliminar);
     if (elPresente && !s.Anfitrion.ResguardaDibujo(Riesgo::MueveProyecto)) return;
     Entra(s, s.Proyecto.DirProyecto);
-    Tira(s, Ruta(s.Proyecto.DirProyecto, lblProyectoAEliminar));
+    const std::string& dir = s.Proyecto.DirProyecto;
+    Sentencia([&] { companeros = CompanerosPorConf(s, dir, s.Disco.Lista(dir)); });
+    for (const auto& [conf, nombres] : companeros)
+        for (const std::string& nombre : nombres)
+            if (conf.starts_with(prefijo) && companeros.contains(lblProyectoAEliminar)) Tira(s, dir, nombre);
+    Tira(s, dir, lblProyectoAEliminar);
     constexpr std::string_view terminacion = ".vlm";
-    for (const std::string& nombre : s.Disco.Lista(s.Proyecto.DirProyecto)) {
+    for (const std::string& nombre : s.Disco.Lista(dir)) {
         const bool coincide = nombre.size() >= prefijo.size() + terminacion.size() &&
                               nombre.starts_with(prefijo) && nombre.ends_with(terminacion);
-        if (coincide) Tira(s, Ruta(s.Proyecto.DirProyecto, nombre));
+        if (coincide) Tira(s, dir, nombre);
     }
     abierto = false;
 }

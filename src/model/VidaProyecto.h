@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -41,7 +42,8 @@ void LimpiaProyecto(Siro& s);
 /// A project's name holds digits, letters without accents, and "@". The empty one passes.
 bool NombreProyectoValido(std::string_view nombre);
 
-/// Asks for a name and makes it the current project's. Nothing of the project is written here: that is done
+/// Asks for a name and makes it the current project's; what a project of that name has left beside its own
+/// files is set aside. Nothing of the project is written here: that is done
 /// when its configuration, which ProyectoNuevo announces, is confirmed. A name that exists is told and stays
 /// the current one. A file fault other than a missing file is told and ends the program. Returns whether
 /// there is a new project, whose configuration is to be opened.
@@ -64,18 +66,20 @@ bool TomaRutaProyecto(Siro& s, std::string_view ruta);
 /// Opens the project that the pointer names.
 void mnu_ultimoarchivo1(Siro& s);
 
-/// Asks for a name and copies the current project's files to it, all of them or none; from then on it is the
-/// current project.
-/// Files that the project hasn't got are passed over. Faults as in mnuNuevoProyecto.
-void mnuGuardarProyectoComo(Siro& s);
+/// Asks for a name and copies the current project's files to it, but for the runs that it keeps, all of them
+/// or none; from then on it is the current project. Files that the project hasn't got are passed over. Faults
+/// as in mnuNuevoProyecto. Returns whether they are copied.
+bool mnuGuardarProyectoComo(Siro& s);
 
 // --- deleting ---
 
 /// What the dialog's controls hold.
 struct dlgEliminarProyecto {
-    std::string DirProyecto{};                       ///< the directory shown
-    std::vector<std::string> filProyectoEliminar{};  ///< configuration files in it, sorted
-    std::string lblProyectoAEliminar = "Ninguno";    ///< the file picked
+    std::string DirProyecto{};                                     ///< the directory shown
+    std::vector<std::string> filProyectoEliminar{};                ///< configuration files in it, sorted
+    std::string lblProyectoAEliminar = "Ninguno";                  ///< the file picked
+    std::map<std::string, std::vector<std::string>> companeros{};  ///< of each of those files: Companeros.h
+    std::string lblTambien{};  ///< what of them goes with the file picked; empty: nothing
     bool abierto = true;
 
     /// Fills the list; a directory that has gone lists nothing.
@@ -83,9 +87,10 @@ struct dlgEliminarProyecto {
     /// A click on a file of the list.
     void filProyectoEliminar_AlPulsar(std::string_view archivo);
     /// Asks, then deletes the file picked and every file whose name begins with what stands before the
-    /// picked one's first "_" and ends in ".vlm", those of other projects included; where nothing stands
-    /// there it tells so and deletes nothing. What is deleted goes to the trash where there is one. Only then
-    /// the dialog closes; NombreProyecto stays. Throws Falla 53, 76, 75 and leaves the dialog open.
+    /// picked one's first "_" and ends in ".vlm", those of other projects included, and what else belongs to
+    /// any of these projects; where nothing stands there it tells so and deletes nothing. What is deleted
+    /// goes to the trash where there is one. Only then the dialog closes; NombreProyecto stays. Throws Falla
+    /// 53, 76, 75 and leaves the dialog open.
     void OKButton(Siro& s);
 };
 
