@@ -8,6 +8,10 @@
 #include <string_view>
 
 namespace rainfall {
+
+using forms::Instante;
+using forms::LecturaLluvia;
+
 namespace {
 
 constexpr std::int64_t SegundosPorMinuto = 60;
@@ -56,7 +60,7 @@ std::int16_t PasoHabitual(const std::vector<LecturaLluvia>& lecturas)
 
 Remuestreo Remuestrea(const std::vector<LecturaLluvia>& lecturas, int paso)
 {
-    if (lecturas.empty()) return {{}, std::string(SinLecturas)};
+    if (lecturas.empty()) return {{}, std::string(forms::SinLecturas)};
     if (paso < 1) return {{}, std::string(PasoNoVale)};
     const std::int64_t antes = lecturas.front().segundo - PasoHabitual(lecturas) * SegundosPorMinuto;
     const Instante comienzo = std::max<std::int64_t>(antes, 0) / SegundosPorMinuto;

@@ -5,21 +5,21 @@
 #include <string>
 #include <vector>
 
-#include "rainfall/Calendario.h"
-#include "rainfall/RegistroLluvia.h"
+#include "forms/Calendario.h"
+#include "forms/RegistroLluvia.h"
 
 // A record of rain brought to a constant step.
 namespace rainfall {
 
 /// Most frequent time between two readings, the shortest of several, in whole minutes, at least 1; 10 where
 /// there is a single reading [min].
-std::int16_t PasoHabitual(const std::vector<LecturaLluvia>& lecturas);
+std::int16_t PasoHabitual(const std::vector<forms::LecturaLluvia>& lecturas);
 
 /// A storm at a constant step.
 struct TormentaImportada {
     std::string notas{};
     std::int16_t paso = 0;         ///< [min]
-    Instante comienzo = 0;         ///< of the first interval
+    forms::Instante comienzo = 0;  ///< of the first interval
     std::vector<float> laminas{};  ///< [mm], interval 1 at index 0
     bool operator==(const TormentaImportada&) const = default;
 };
@@ -32,6 +32,6 @@ struct Remuestreo {
 /// Brings readings to a step [min]: each depth fell evenly since the reading before, the first one during the
 /// usual time between readings. The total is kept. Refused: a step below 1, more than 999 intervals, a storm
 /// longer than 32767 minutes, no readings.
-Remuestreo Remuestrea(const std::vector<LecturaLluvia>& lecturas, int paso);
+Remuestreo Remuestrea(const std::vector<forms::LecturaLluvia>& lecturas, int paso);
 
 }  // namespace rainfall

@@ -17,6 +17,10 @@
 
 namespace rainfall {
 
+using forms::Instante;
+using forms::LecturaLluvia;
+using forms::TextoFecha;
+using forms::TextoHora;
 using model::NumeroATexto;
 
 namespace {
@@ -53,7 +57,7 @@ std::string NombreDeArchivo(std::string_view ruta)
 
 std::string TextoInstante(std::int64_t segundo)
 {
-    const Instante t = segundo / MinutosPorHora;  // as many seconds in a minute
+    const Instante t = segundo / forms::MinutosPorHora;  // as many seconds in a minute
     return TextoFecha(t) + ' ' + TextoHora(t);
 }
 
@@ -130,7 +134,7 @@ bool Abre(dlgImportaTormenta& f, const model::Siro& s)
     std::string bytes;
     const bool leido = model::Sentencia([&] { bytes = s.Disco.Lee(ruta); }, model::AvisaArchivo(s));
     if (!leido) return false;
-    f.registro = LeeRegistroLluvia(bytes);
+    f.registro = forms::LeeRegistroLluvia(bytes);
     if (!f.registro.motivo.empty()) {
         model::Advierte(s, f.registro.motivo);
         return false;

@@ -40,7 +40,7 @@ struct dlgImportaTormenta {
     bool puedeImportar = false;  ///< the step does; otherwise lblResultado tells why not
     forms::Grilla grillaImportada{};
     forms::Grilla grillaDudosos{};  ///< lines of the record that need a look, and what is made of each
-    RegistroLluvia registro{};
+    forms::RegistroLluvia registro{};
     TormentaImportada tormenta{};
 };
 

@@ -5,18 +5,26 @@
 #include <optional>
 #include <utility>
 
+#include "forms/Calendario.h"
 #include "forms/Evento.h"
 #include "model/Avisos.h"
 #include "model/Numeros.h"
 #include "model/Siro.h"
 #include "model/Texto.h"
 #include "model/Tormenta.h"
-#include "rainfall/Calendario.h"
 #include "rainfall/VistaLluvia.h"
 
 namespace rainfall {
 
 using forms::Evento;
+using forms::FechaDeTexto;
+using forms::HoraDeTexto;
+using forms::Instante;
+using forms::InstanteDeTextos;
+using forms::SinFecha;
+using forms::SinHora;
+using forms::TextoFecha;
+using forms::TextoHora;
 using model::Advierte;
 using model::NumeroATexto;
 using model::Siro;
@@ -325,7 +333,7 @@ constexpr auto CamposTiempo = std::to_array<CampoTiempo>({
 bool AlSalirTiempo(dlgPpReal& f, Siro& s, const CampoTiempo& campo)
 {
     std::string& texto = f.tormenta.*campo.texto;
-    if (campo.esHora ? controlMiHora(texto) : controlMiFecha(texto)) {
+    if (campo.esHora ? forms::controlMiHora(texto) : forms::controlMiFecha(texto)) {
         Advierte(s, std::string(campo.esHora ? HoraMala : FechaMala));
         if (campo.esHora) texto = SinHora;
         return false;
@@ -392,7 +400,7 @@ void cmdBorraTablaDisPer(dlgPpReal& f, const dlgPp& pp, Siro& s)
     Escritura(f, s, [&] {
         PonNro(f, s, 0);
         f.tormenta.Notas.clear();
-        PonSinFechas(f, FechaBorrada);
+        PonSinFechas(f, forms::FechaBorrada);
         EligeSegundoPaso(f);
         Redibuja(f, s);
         const bool borra = s.Anfitrion.Pregunta(

@@ -159,6 +159,8 @@ void Escritorio::PonEstudio()
         ventanaPizarra->TrasCorrer();
     };
     mandos.TrasCorrer = trasCorrer;
+    mandos.AlSalir = [this] { ventanasEstudio->Taller().AlSalir(); };
+    mandos.TrasGuardarComo = [this] { ventanasEstudio->Taller().TrasGuardarComo(); };
     mandos.TrasSerie = [this] {
         ventanasEstudio->TrasSerie();
         // Filled before the series had come to its end.
@@ -343,7 +345,8 @@ void Escritorio::Abre(Ventana ventana, bool espera)
     case Ventana::dlgUEHsTabla:
         return ventanasEditor->AbreTabla();
     case Ventana::dlgEliminarProyecto:
-        return dlgEliminarProyecto_ventana(entorno, eliminar, ventanaPrincipal.get()).Abre();
+        dlgEliminarProyecto_ventana(entorno, eliminar, ventanaPrincipal.get()).Abre();
+        return ventanasEstudio->Taller().TrasEliminar();
     case Ventana::frmAcerca:
         return frmAcerca_ventana(entorno, ventanaPrincipal.get()).Abre();
     case Ventana::frmConfigura:

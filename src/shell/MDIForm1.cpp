@@ -136,6 +136,12 @@ void Cierra(Siro& s)
 
 // --- commands ---
 
+void mnuSalir(MDIForm1& /*f*/, Siro& s, const Mandos& m)
+{
+    m.AlSalir();
+    Cierra(s);
+}
+
 bool ExigeProyecto(const Siro& s)
 {
     if (!s.Proyecto.NombreProyecto.empty()) return true;

@@ -81,6 +81,10 @@ struct Mandos {
                                                                                        bool) {};
     /// A series has been run.
     std::function<void()> TrasSerie = [] {};
+    /// The project in hand has been saved under another name.
+    std::function<void()> TrasGuardarComo = [] {};
+    /// The user ends the program.
+    std::function<void()> AlSalir = [] {};
     std::function<void(bool espera)> PunteroDeEspera = [](bool) {};
     /// Hands a file to the system's viewer. Returns whether it took it.
     std::function<bool(const std::string& ruta)> AbreConElSistema = [](const std::string&) { return false; };
@@ -186,6 +190,8 @@ void Cierra(model::Siro& s);
 
 // --- commands ---
 
+/// What is told of the end, and then the end. Never returns.
+void mnuSalir(MDIForm1& f, model::Siro& s, const Mandos& m);
 /// Whether a project is named; without one it tells so.
 bool ExigeProyecto(const model::Siro& s);
 /// Names a new project and opens its configuration, which stores it; nothing opens where the name is refused.

@@ -221,7 +221,7 @@ void MDIForm1_ventana::Ejecuta(Rutina rutina)
 
 void MDIForm1_ventana::closeEvent(QCloseEvent* evento)
 {
-    entorno.Atiende([this] { Cierra(entorno.s); });
+    entorno.Atiende([this] { mnuSalir(f, entorno.s, mandos); });
     evento->accept();
 }
 

@@ -53,9 +53,14 @@ void ConSerie(MDIForm1& /*f*/, Siro& s, const Mandos& m)
     if (s.Serie.NroSeriePDR > 1) m.Abre(ventana);
 }
 
+void GuardarComo(MDIForm1& /*f*/, Siro& s, const Mandos& m)
+{
+    if (model::mnuGuardarProyectoComo(s)) m.TrasGuardarComo();
+}
+
 constexpr Rutina Nuevo = mnuNuevoProyecto;
 constexpr Rutina Abrir = DelProyecto<model::mnuAbrirProyecto>;
-constexpr Rutina Salir = DelProyecto<Cierra>;
+constexpr Rutina Salir = mnuSalir;
 constexpr Rutina EditorTabla = ConProyecto<Ventana::dlgUEHsEditTabla>;
 constexpr Rutina Parametros = ConProyecto<Ventana::dlgUEHsTabla>;
 constexpr Rutina Abaco = SoloAbre<Ventana::dlgChart3>;
@@ -75,7 +80,7 @@ constexpr auto FilasMenu = std::to_array<FilaMenu>({
     {"mnuFile",                         "&Archivo",                                        ""},
     {"mnuNuevoProyecto",                "&Nuevo Proyecto",                                 "mnuFile", Nuevo, false, V::Ninguna, "Ctrl+N", "Da nombre a un proyecto nuevo"},
     {"mnuAbrirProyecto",                "&Abrir un Proyecto existente",                    "mnuFile", Abrir, false, V::Ninguna, "Ctrl+O", "Abre un proyecto por su archivo de configuración"},
-    {"mnuGuardarProyectoComo",          "&Guardar proyecto con otro nombre...",            "mnuFile", DelProyecto<model::mnuGuardarProyectoComo>, false, V::mnuGuardarProyectoComo, "Ctrl+Shift+S", "Copia el proyecto abierto con otro nombre y sigue con la copia"},
+    {"mnuGuardarProyectoComo",          "&Guardar proyecto con otro nombre...",            "mnuFile", GuardarComo, false, V::mnuGuardarProyectoComo, "Ctrl+Shift+S", "Copia el proyecto abierto con otro nombre y sigue con la copia"},
     Separador("mnuBarra1", "mnuFile"),
     {"mnuDirCrea",                      "Editar &Directorios y Archivos",                  "mnuFile", mnuDirCrea, false, V::Ninguna, "", "Recorre los directorios y archivos"},
     {"mnuEliminarProyecto",             "&Eliminar un Proyecto existente",                 "mnuFile", SoloAbre<Ventana::dlgEliminarProyecto>, false, V::Ninguna, "", "Borra los archivos de un proyecto"},

@@ -16,4 +16,15 @@ void TallerDeLluvia::Abre()
     model::Advierte(entorno.s, "Esta versión no trae el taller de lluvia; la trae la de Linux.");
 }
 
+study::Abierto* TallerDeLluvia::Estudio()
+{
+    return nullptr;
+}
+
+void TallerDeLluvia::TrasGuardarComo() {}
+
+void TallerDeLluvia::TrasEliminar() {}
+
+void TallerDeLluvia::AlSalir() {}
+
 }  // namespace shell

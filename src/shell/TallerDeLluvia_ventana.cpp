@@ -20,7 +20,9 @@ struct TallerDeLluvia::Partes {
 TallerDeLluvia::TallerDeLluvia(forms::Entorno& alrededor)
     : entorno(alrededor), partes(std::make_unique<Partes>(alrededor))
 {
-    entorno.AlTerminarSuceso(partes->ventana, [this] { partes->estudio.Sigue(); });
+    entorno.AlTerminarSuceso(partes->ventana, [this] {
+        if (partes->estudio.HaDeSeguir()) entorno.Atiende([this] { partes->estudio.Sigue(); });
+    });
 }
 
 TallerDeLluvia::~TallerDeLluvia() = default;
@@ -29,6 +31,26 @@ void TallerDeLluvia::Abre()
 {
     partes->estudio.Sigue();
     partes->ventana.Abre();
+}
+
+study::Abierto* TallerDeLluvia::Estudio()
+{
+    return &partes->estudio;
+}
+
+void TallerDeLluvia::TrasGuardarComo()
+{
+    partes->estudio.TrasGuardarComo();
+}
+
+void TallerDeLluvia::TrasEliminar()
+{
+    partes->estudio.TrasEliminar();
+}
+
+void TallerDeLluvia::AlSalir()
+{
+    partes->estudio.Cierra();
 }
 
 }  // namespace shell

@@ -5,10 +5,14 @@
 
 #include "forms/Entorno_ventana.h"
 
+namespace study {
+class Abierto;
+}
+
 namespace shell {
 
-/// The rain workshop on the study of the project in hand; a build without its libraries says that it isn't
-/// there.
+/// The study of the project in hand and the rain workshop on it; a build without their libraries says that
+/// they aren't there.
 class TallerDeLluvia {
   public:
     explicit TallerDeLluvia(forms::Entorno& alrededor);
@@ -18,6 +22,13 @@ class TallerDeLluvia {
 
     /// Brings its window up. Runs inside an event.
     void Abre();
+
+    /// Nothing in a build without.
+    study::Abierto* Estudio();
+    // What becomes of the project: see study::Abierto.
+    void TrasGuardarComo();
+    void TrasEliminar();
+    void AlSalir();
 
   private:
     struct Partes;

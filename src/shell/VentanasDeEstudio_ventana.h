@@ -43,6 +43,7 @@ class VentanasDeEstudio {
     [[nodiscard]] const std::string& Cuando() const { return cuando; }
     JuicioDeCorrida& Juicio() { return juicio; }
     MapaDeEstudio& Mapa() { return mapa; }
+    TallerDeLluvia& Taller() { return taller; }
     /// The list of findings; where they lead and what its button does is set from outside.
     checks::dlgAvisos_ventana& VentanaAvisos() { return ventanaAvisos; }
     /// The check before a run; what it asks of the editor is set from outside.

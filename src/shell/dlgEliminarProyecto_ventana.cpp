@@ -41,7 +41,11 @@ dlgEliminarProyecto_ventana::dlgEliminarProyecto_ventana(forms::Entorno& alreded
     lblProyectoAEliminar->setObjectName(QStringLiteral("lblProyectoAEliminar"));
     filas->addRow(QStringLiteral("Directorio:"), lblDirProyecto);
     filas->addRow(QStringLiteral("&Proyectos:"), filProyectoEliminar);
+    lblTambien = new QLabel(this);
+    lblTambien->setObjectName(QStringLiteral("lblTambien"));
+    lblTambien->setWordWrap(true);
     filas->addRow(QStringLiteral("Proyecto a eliminar:"), lblProyectoAEliminar);
+    filas->addRow(QStringLiteral("Con su estudio:"), lblTambien);
 
     auto* const botones = new QDialogButtonBox(this);
     QPushButton* const OKButton =
@@ -76,6 +80,8 @@ void dlgEliminarProyecto_ventana::Muestra()
     forms::Pon(*filProyectoEliminar, f.filProyectoEliminar,
                LugarEn(f.filProyectoEliminar, f.lblProyectoAEliminar));
     forms::Pon(*lblProyectoAEliminar, f.lblProyectoAEliminar);
+    forms::Pon(*lblTambien, f.lblTambien);
+    static_cast<QFormLayout*>(layout())->setRowVisible(lblTambien, !f.lblTambien.empty());
     if (!f.abierto && isVisible()) done(QDialog::Accepted);
 }
 

@@ -26,6 +26,7 @@ class dlgEliminarProyecto_ventana : public forms::Formulario {
     QLabel* lblDirProyecto;
     forms::ListaParaElegir* filProyectoEliminar;
     QLabel* lblProyectoAEliminar;
+    QLabel* lblTambien;
 };
 
 }  // namespace shell

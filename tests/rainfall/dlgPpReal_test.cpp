@@ -515,7 +515,7 @@ TEST(ControlDeFecha, AceptaReescribeYRechaza)
                                   {"abcdefghij", true, "abcdefghij"},
                                   {"ab/cd/efgh", true, "ab/cd/efgh"}}) {
         std::string texto = caso.antes;
-        EXPECT_EQ(controlMiFecha(texto), caso.malo) << caso.antes;
+        EXPECT_EQ(forms::controlMiFecha(texto), caso.malo) << caso.antes;
         if (!caso.malo) {
             EXPECT_EQ(texto, caso.despues) << caso.antes;
         }
@@ -540,7 +540,7 @@ TEST(ControlDeHora, AceptaReescribeYRechaza)
                                   {"01:20 ", true, ""},
                                   {"ab:cd", true, ""}}) {
         std::string texto = caso.antes;
-        EXPECT_EQ(controlMiHora(texto), caso.malo) << caso.antes;
+        EXPECT_EQ(forms::controlMiHora(texto), caso.malo) << caso.antes;
         if (!caso.malo) {
             EXPECT_EQ(texto, caso.despues) << caso.antes;
         }
@@ -924,7 +924,7 @@ TEST_F(DialogoPpReal, LaVistaSigueALaCeldaQueSeEscribe)
 TEST_F(DialogoPpReal, LaTormentaImportadaTomaLosCamposYNadaSeEscribe)
 {
     Abre();
-    TomaImportada(f, s, {"Importada de r.csv", 15, *FechaDeTexto("29/02/1992") + 60, {1.5F, 0, 2}});
+    TomaImportada(f, s, {"Importada de r.csv", 15, *forms::FechaDeTexto("29/02/1992") + 60, {1.5F, 0, 2}});
     EXPECT_EQ(f.tormenta.Notas, "Importada de r.csv");
     EXPECT_EQ(f.tormenta.txtDateI, "29/02/1992");
     EXPECT_EQ(f.tormenta.txtTimeI, "01:00");

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "rainfall/Calendario.h"
+#include "forms/Calendario.h"
 
 #include <gtest/gtest.h>
 
 #include "model/Falla.h"
 
-namespace rainfall {
+namespace forms {
 namespace {
 
 TEST(CalendarioGregoriano, ElPrimerDiaEsElUnoDeEneroDelAnnoUno)
@@ -71,4 +71,4 @@ TEST(CalendarioGregoriano, SinFechaNiHoraNoHayInstante)
 }
 
 }  // namespace
-}  // namespace rainfall
+}  // namespace forms

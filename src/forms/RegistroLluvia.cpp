@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "rainfall/RegistroLluvia.h"
+#include "forms/RegistroLluvia.h"
 
 #include <algorithm>
 #include <array>
@@ -12,10 +12,10 @@
 #include "model/Falla.h"
 #include "model/Numeros.h"
 #include "model/Texto.h"
-#include "rainfall/Calendario.h"
-#include "rainfall/RenglonesDeRegistro.h"
+#include "forms/Calendario.h"
+#include "forms/RenglonesDeRegistro.h"
 
-namespace rainfall {
+namespace forms {
 namespace {
 
 constexpr std::int64_t SegundosPorMinuto = 60;
@@ -232,4 +232,4 @@ RegistroLluvia LeeRegistroLluvia(std::string_view bytes)
     return registro;
 }
 
-}  // namespace rainfall
+}  // namespace forms

@@ -8,7 +8,7 @@
 
 // Calendar time of recorded storms, to the minute. Years before the Gregorian calendar count by its rules too
 // (proleptic), so that every date of a storm has its place, 01/01/0001 being the first.
-namespace rainfall {
+namespace forms {
 
 /// A moment as minutes since 01/01/0001 00:00.
 using Instante = std::int64_t;
@@ -42,4 +42,4 @@ bool controlMiFecha(std::string& texto);
 /// Returns true on a bad time. A time of four digits gets its colon; no time is "00:00".
 bool controlMiHora(std::string& texto);
 
-}  // namespace rainfall
+}  // namespace forms

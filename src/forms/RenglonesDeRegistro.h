@@ -6,7 +6,7 @@
 #include <vector>
 
 // The text of a logger's record as lines and fields, whoever wrote it.
-namespace rainfall {
+namespace forms {
 
 /// Text of a file's bytes: UTF-16 with or without a mark, UTF-8, else Windows-1252. What is no character is
 /// "?".
@@ -26,4 +26,4 @@ std::string ConMeridianoPegado(std::string_view renglon);
 /// in double quotes, which hold separators, and two of them for one.
 std::vector<std::string> CamposDeRenglon(std::string_view renglon, char separador);
 
-}  // namespace rainfall
+}  // namespace forms

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "rainfall/Calendario.h"
+#include "forms/Calendario.h"
 
 #include <algorithm>
 #include <charconv>
@@ -10,7 +10,7 @@
 #include "model/Numeros.h"
 #include "model/Texto.h"
 
-namespace rainfall {
+namespace forms {
 namespace {
 
 namespace crono = std::chrono;
@@ -125,4 +125,4 @@ bool controlMiHora(std::string& texto)
     return texto.size() != Largo || texto[2] != ':' || !HoraDeTexto(texto);
 }
 
-}  // namespace rainfall
+}  // namespace forms

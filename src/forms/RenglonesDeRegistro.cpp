@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "rainfall/RenglonesDeRegistro.h"
+#include "forms/RenglonesDeRegistro.h"
 
 #include <algorithm>
 #include <array>
@@ -8,7 +8,7 @@
 
 #include "model/Texto.h"
 
-namespace rainfall {
+namespace forms {
 namespace {
 
 // --- encodings ---
@@ -173,4 +173,4 @@ std::vector<std::string> CamposDeRenglon(std::string_view renglon, char separado
     return campos;
 }
 
-}  // namespace rainfall
+}  // namespace forms

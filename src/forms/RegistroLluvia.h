@@ -14,7 +14,7 @@
 // quotes. Dates are dd/mm/yyyy, dd/mm/yy (1950 to 2049) or yyyy-mm-dd, times hh:mm or hh:mm:ss, with AM or
 // PM; fractions of a second and a time zone are passed over. What stands ahead of the first reading is a
 // heading; further fields and empty lines are passed over.
-namespace rainfall {
+namespace forms {
 
 struct LecturaLluvia {
     std::int64_t segundo = 0;  ///< since 01/01/0001 00:00
@@ -44,4 +44,4 @@ RegistroLluvia LeeRegistroLluvia(std::string_view bytes);
 inline constexpr std::string_view SinLecturas =
     "El archivo no tiene ningún renglón con fecha, hora y lámina.";
 
-}  // namespace rainfall
+}  // namespace forms

@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTimer>
+#include <string>
+
+#include "EscritorioDePrueba.h"
+#include "study/Abierto.h"
+#include "study/ArchivoEstudio.h"
+
+namespace shell {
+namespace {
+
+using apoyo::Control;
+using study::EstadoDeArchivo;
+
+/// The sample project, which has no study, in the whole program.
+struct EstudioDelProyecto : EscritorioDePrueba {
+    [[nodiscard]] std::string Ruta(const std::string& nombre) const
+    {
+        return instalacion.Proyectos() + "/" + nombre;
+    }
+    [[nodiscard]] bool Esta(const std::string& nombre) const { return QFile::exists(forms::Q(Ruta(nombre))); }
+    static study::Taller Con(const std::string& estacion)
+    {
+        study::Taller t;
+        t.estaciones = {{.nombre = estacion}};
+        return t;
+    }
+    static std::string Texto(const std::string& estacion)
+    {
+        return study::EscribeEstudio({.taller = Con(estacion)});
+    }
+    void Cambia(const std::string& estacion)
+    {
+        escritorio.entorno.Atiende([&] { Estudio().CambiaTaller("Cambiar", Con(estacion)); });
+    }
+    study::Abierto& Estudio() { return *escritorio.Estudio().Taller().Estudio(); }
+};
+
+TEST_F(EstudioDelProyecto, SinEstudioNoHayArchivoNiCaja)
+{
+    Arranca(instalacion.Quelmar());
+    QCoreApplication::processEvents();
+    for (const model::Mensaje& caja : anfitrion->Avisos())
+        EXPECT_NE(caja.titulo, "Estudio") << caja.texto;
+    EXPECT_FALSE(Esta("Quelmar_Estudio.json"));
+    EXPECT_EQ(Estudio().Archivo(), (EstadoDeArchivo{EstadoDeArchivo::Clase::Guardado, ""}));
+}
+
+TEST_F(EstudioDelProyecto, UnoDanadoSeDiceYElProyectoSeAbreIgual)
+{
+    escritorio.s.Disco.Escribe(Ruta("Quelmar_Estudio.json"), "{\n\"version\": 9}\n");
+    Arranca(instalacion.Quelmar());
+    QTRY_COMPARE(anfitrion->sucesos.size(), 1U);
+    EXPECT_EQ(anfitrion->Avisos()[0].texto.find(
+                  "El estudio Quelmar_Estudio.json no se puede leer. Renglón 2: es de una "
+                  "versión posterior del programa"),
+              0U);
+    EXPECT_EQ(Rotulo("lblProyecto"), "Quelmar");
+    for (int i = 0; i < 10; ++i)
+        QCoreApplication::processEvents();
+    EXPECT_EQ(anfitrion->sucesos.size(), 1U);
+}
+
+TEST_F(EstudioDelProyecto, SigueAlProyectoQueSeAbreYSeGuardaConOtroNombre)
+{
+    escritorio.s.Disco.Escribe(Ruta("Quelmar_Estudio.json"), Texto("Quelmar"));
+    Arranca(instalacion.Quelmar());
+    QTRY_COMPARE(Estudio().EnMano().taller, Con("Quelmar"));
+    Cambia("Uno");
+    EXPECT_EQ(escritorio.s.Disco.Lee(Ruta("Quelmar_Estudio.json")), Texto("Uno"));
+    anfitrion->textos = {"Copia"};
+    Accion("mnuGuardarProyectoComo").trigger();
+    ASSERT_EQ(escritorio.s.Proyecto.NombreProyecto, "Copia");
+    EXPECT_EQ(Estudio().PorDeshacer(), "Cambiar");
+    Cambia("Dos");
+    EXPECT_EQ(escritorio.s.Disco.Lee(Ruta("Copia_Estudio.json")), Texto("Dos"));
+    EXPECT_EQ(escritorio.s.Disco.Lee(Ruta("Quelmar_Estudio.json")), Texto("Uno"));
+    EXPECT_TRUE(anfitrion->Preguntas().empty());
+
+    anfitrion->elegidos = {instalacion.Quelmar()};
+    Accion("mnuAbrirProyecto").trigger();
+    QTRY_COMPARE(Estudio().EnMano().taller, Con("Uno"));
+}
+
+TEST_F(EstudioDelProyecto, EliminarLoListaYLoVacia)
+{
+    escritorio.s.Anfitrion.TiraAPapelera = [](const std::string&) { return false; };
+    Arranca(instalacion.Quelmar());
+    Cambia("Uno");
+    ASSERT_TRUE(Esta("Quelmar_Estudio.json"));
+    QTimer::singleShot(0, [&] {
+        QWidget* const dialogo = QApplication::activeModalWidget();
+        ASSERT_NE(dialogo, nullptr);
+        EXPECT_FALSE(Control<QLabel>(*dialogo, "lblTambien").isVisible());
+        auto& lista = Control<QListWidget>(*dialogo, "filProyectoEliminar");
+        const auto filas = lista.findItems(QStringLiteral("Quelmar_Conf.vlm"), Qt::MatchExactly);
+        ASSERT_EQ(filas.size(), 1);
+        QTest::mouseClick(lista.viewport(), Qt::LeftButton, {}, lista.visualItemRect(filas[0]).center());
+        EXPECT_TRUE(Control<QLabel>(*dialogo, "lblTambien").isVisible());
+        EXPECT_EQ(Control<QLabel>(*dialogo, "lblTambien").text(), QStringLiteral("Quelmar_Estudio.json"));
+        Control<QPushButton>(*dialogo, "OKButton").click();
+    });
+    Accion("mnuEliminarProyecto").trigger();
+    EXPECT_FALSE(Esta("Quelmar_Conf.vlm"));
+    EXPECT_FALSE(Esta("Quelmar_Estudio.json"));
+    EXPECT_EQ(Estudio().EnMano(), study::Estudio{});
+}
+
+TEST_F(EstudioDelProyecto, SalirOfreceOtroLugarParaLoQueNoSePudoGuardar)
+{
+    Arranca(instalacion.Quelmar());
+    const auto reemplaza = escritorio.s.Disco.Reemplaza;
+    escritorio.s.Disco.Reemplaza = [&](const std::vector<model::CambioArchivo>& cambios) {
+        if (cambios.front().ruta.ends_with("Quelmar_Estudio.json"))
+            throw model::Falla{model::NumeroFalla::AccesoRuta};
+        reemplaza(cambios);
+    };
+    escritorio.s.Anfitrion.EligeDestino = anfitrion.Puerta().EligeDestino;
+    Cambia("Uno");
+    EXPECT_EQ(Estudio().Archivo().clase, EstadoDeArchivo::Clase::SinGuardar);
+    anfitrion->elegidos = {instalacion.Dir() + "/aparte.json"};
+    escritorio.Principal().close();
+    EXPECT_EQ(escritorio.s.Disco.Lee(instalacion.Dir() + "/aparte.json"), Texto("Uno"));
+    EXPECT_TRUE(escritorio.entorno.Terminando());
+}
+
+}  // namespace
+}  // namespace shell
