@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <functional>
+#include <limits>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -33,15 +36,33 @@ struct RenglonDudoso {
 struct RegistroLluvia {
     std::vector<LecturaLluvia> lecturas{};
     std::vector<RenglonDudoso> dudosos{};
-    std::string motivo{};  ///< why the text is no record, with the line; empty: it is one
+    std::size_t masDudosos = 0;  ///< that aren't kept
+    std::string motivo{};        ///< why the text is no record, with the line; empty: it is one
+};
+
+/// How a record is read.
+struct FormaDeLectura {
+    bool soloFecha = false;  ///< a date may stand without a time: the reading is that of the whole day
+    std::size_t maximoDudosos = std::numeric_limits<std::size_t>::max();  ///< kept; the rest is counted
+    /// Bytes read of all. Returns whether it goes on.
+    std::function<bool(std::size_t hechos, std::size_t total)> avance{};
 };
 
 /// Reads the bytes of a record: UTF-8, Windows-1252 or UTF-16, with the line ends of any platform. Readings
-/// must not go back in time nor be below 0; where one is at fault there are none.
-RegistroLluvia LeeRegistroLluvia(std::string_view bytes);
+/// must not go back in time nor be below 0; where one is at fault there are none. Stopped, it has none and
+/// says so.
+RegistroLluvia LeeRegistroLluvia(std::string_view bytes, const FormaDeLectura& forma = {});
 
 /// What there is to be said of a text without any reading.
 inline constexpr std::string_view SinLecturas =
     "El archivo no tiene ningún renglón con fecha, hora y lámina.";
+/// The same where a date is enough.
+inline constexpr std::string_view SinLecturasDelDia =
+    "El archivo no tiene ningún renglón con fecha y lámina.";
+inline constexpr std::string_view LecturaCancelada = "La lectura se canceló.";
+
+/// Most frequent time between two readings, the shortest of several, in whole minutes, at least 1; 10 where
+/// there is a single reading [min].
+std::int16_t PasoHabitual(const std::vector<LecturaLluvia>& lecturas);
 
 }  // namespace forms

@@ -131,6 +131,8 @@ bool EsVacio(std::string_view renglon)
 std::string ConMeridianoPegado(std::string_view renglon)
 {
     std::string llano(renglon);
+    // Most lines hold nothing of it.
+    if (llano.find_first_of("mM\xC2\xE2") == std::string::npos) return llano;
     for (const std::string_view blanco : {"\xC2\xA0", "\xE2\x80\xAF"})  // those that don't break a line
         for (std::size_t i = llano.find(blanco); i != std::string::npos; i = llano.find(blanco, i))
             llano.replace(i, blanco.size(), " ");

@@ -41,15 +41,6 @@ std::string EnLista(const std::vector<std::string>& nombres)
     return lista;
 }
 
-/// Every file of a directory, and then the directory.
-template <typename F>
-void VaciaDirectorio(const Siro& s, const std::string& directorio, F&& conArchivo)
-{
-    for (const std::string& archivo : s.Disco.Lista(directorio))
-        conArchivo(archivo);
-    s.Disco.Borra(directorio);
-}
-
 void Muda(const Siro& s, const std::string& de, const std::string& a)
 {
     s.Disco.Copia(de, a);
@@ -70,7 +61,10 @@ std::vector<std::string> CompanerosDe(const Siro& s, const std::string& director
         if (nombre == estudio || esSerie) nombres.push_back(nombre);
     }
     const std::string corridas = std::string(proyecto).append(TerminacionCorridas);
-    if (s.Disco.HayDirectorio(Ruta(directorio, corridas))) nombres.push_back(corridas + Separador);
+    std::vector<std::string> guardadas;
+    if (s.Disco.HayDirectorio(Ruta(directorio, corridas)))
+        Sentencia([&] { guardadas = s.Disco.Lista(Ruta(directorio, corridas)); });
+    if (!guardadas.empty()) nombres.push_back(corridas + Separador);
     return nombres;
 }
 
@@ -116,8 +110,8 @@ std::string ApartaCompanero(const Siro& s, const std::string& directorio, const 
         Muda(s, de, a);
     } else {
         s.Disco.CreaDirectorio(a);
-        VaciaDirectorio(s, de,
-                        [&](const std::string& archivo) { Muda(s, Ruta(de, archivo), Ruta(a, archivo)); });
+        for (const std::string& archivo : s.Disco.Lista(de))
+            Muda(s, Ruta(de, archivo), Ruta(a, archivo));
     }
     return libre;
 }
@@ -148,7 +142,8 @@ void Tira(const Siro& s, const std::string& directorio, const std::string& nombr
     const std::string ruta = Ruta(directorio, nombre.substr(0, nombre.size() - (esDirectorio ? 1 : 0)));
     if (s.Anfitrion.TiraAPapelera(ruta)) return;
     if (!esDirectorio) return s.Disco.Borra(ruta);
-    VaciaDirectorio(s, ruta, [&](const std::string& archivo) { s.Disco.Borra(Ruta(ruta, archivo)); });
+    for (const std::string& archivo : s.Disco.Lista(ruta))
+        s.Disco.Borra(Ruta(ruta, archivo));
 }
 
 }  // namespace model

@@ -16,7 +16,7 @@ struct Siro;
 inline constexpr std::string_view TerminacionEstudio = "_Estudio.json";
 
 /// Those of a project among the files of its directory: names, sorted; the directory of its runs, which is
-/// looked for on the disk, is last and ends in the separator.
+/// looked for on the disk and counts where it holds a file, is last and ends in the separator.
 std::vector<std::string> CompanerosDe(const Siro& s, const std::string& directorio,
                                       const std::vector<std::string>& archivos, std::string_view proyecto);
 
@@ -37,7 +37,8 @@ std::string ApartaCompanero(const Siro& s, const std::string& directorio, const 
 /// Returns false, after telling so, where that can't be done.
 bool ApartaCompaneros(const Siro& s, const std::string& directorio, const std::string& proyecto);
 
-/// Into the trash, or off the disk where there is none; a directory with its files. Throws Falla 53, 76, 75.
+/// Into the trash, or off the disk where there is none; of a directory its files, the empty one stays. Throws
+/// Falla 53, 76, 75.
 void Tira(const Siro& s, const std::string& directorio, const std::string& nombre);
 
 }  // namespace model

@@ -55,7 +55,7 @@ void CopiaArchivo(const LlamadasDisco& llamadas, const std::string& origen, cons
 
 void BorraArchivo(const LlamadasDisco& llamadas, const fs::path& camino)
 {
-    if (!EsDirectorio(camino)) ExigeArchivo(camino);
+    ExigeArchivo(camino);
     std::error_code error;
     if (!fs::remove(camino, error)) throw FallaDeAcceso(camino);
     OlvidaPendientes(llamadas, camino.parent_path(), {TextoDe(camino.filename())});

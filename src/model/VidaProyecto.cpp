@@ -323,21 +323,17 @@ void mnu_ultimoarchivo1(Siro& s)
     if (!s.Proyecto.NombreProyecto.empty()) s.Anfitrion.HabilitaGuardarComo();
 }
 
-bool mnuGuardarProyectoComo(Siro& s)
+void mnuGuardarProyectoComo(Siro& s)
 {
-    if (s.Proyecto.NombreProyecto.empty()) return false;
-    if (!s.Anfitrion.ResguardaDibujo(Riesgo::ReleeRed)) return false;
+    if (s.Proyecto.NombreProyecto.empty()) return;
+    if (!s.Anfitrion.ResguardaDibujo(Riesgo::ReleeRed)) return;
     const std::string viejo = s.Proyecto.NombreProyecto;  // the load takes the name from inside the file
     LeeUEHs(s);
     const std::string nuevo = PideNombre(s, TituloGuardarComo);
-    if (nuevo.empty()) return false;
-    bool copiado = false;
+    if (nuevo.empty()) return;
     ConFallaFatal(s, [&] {
-        if (!TomaNombreNuevo(s, nuevo)) return;
-        CopiaProyecto(s, viejo, nuevo);
-        copiado = true;
+        if (TomaNombreNuevo(s, nuevo)) CopiaProyecto(s, viejo, nuevo);
     });
-    return copiado;
 }
 
 // --- deleting ---

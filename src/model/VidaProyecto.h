@@ -68,8 +68,8 @@ void mnu_ultimoarchivo1(Siro& s);
 
 /// Asks for a name and copies the current project's files to it, but for the runs that it keeps, all of them
 /// or none; from then on it is the current project. Files that the project hasn't got are passed over. Faults
-/// as in mnuNuevoProyecto. Returns whether they are copied.
-bool mnuGuardarProyectoComo(Siro& s);
+/// as in mnuNuevoProyecto.
+void mnuGuardarProyectoComo(Siro& s);
 
 // --- deleting ---
 

@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <limits>
-#include <map>
 #include <string_view>
 
 namespace rainfall {
@@ -15,7 +14,6 @@ using forms::LecturaLluvia;
 namespace {
 
 constexpr std::int64_t SegundosPorMinuto = 60;
-constexpr std::int16_t PasoDeUnaLectura = 10;  // [min]
 constexpr int MaxIntervalos = 999;
 constexpr int MaxDuracion = std::numeric_limits<std::int16_t>::max();  // [min]
 
@@ -45,24 +43,11 @@ void Reparte(std::vector<double>& laminas, std::int64_t desde, std::int64_t hast
 
 }  // namespace
 
-std::int16_t PasoHabitual(const std::vector<LecturaLluvia>& lecturas)
-{
-    std::map<std::int64_t, int> veces;
-    for (std::size_t i = 1; i < lecturas.size(); ++i) {
-        const std::int64_t minutos =
-            (lecturas[i].segundo - lecturas[i - 1].segundo + SegundosPorMinuto / 2) / SegundosPorMinuto;
-        ++veces[std::clamp<std::int64_t>(minutos, 1, MaxDuracion)];
-    }
-    const auto habitual = std::max_element(veces.begin(), veces.end(),
-                                           [](const auto& a, const auto& b) { return a.second < b.second; });
-    return habitual == veces.end() ? PasoDeUnaLectura : static_cast<std::int16_t>(habitual->first);
-}
-
 Remuestreo Remuestrea(const std::vector<LecturaLluvia>& lecturas, int paso)
 {
     if (lecturas.empty()) return {{}, std::string(forms::SinLecturas)};
     if (paso < 1) return {{}, std::string(PasoNoVale)};
-    const std::int64_t antes = lecturas.front().segundo - PasoHabitual(lecturas) * SegundosPorMinuto;
+    const std::int64_t antes = lecturas.front().segundo - forms::PasoHabitual(lecturas) * SegundosPorMinuto;
     const Instante comienzo = std::max<std::int64_t>(antes, 0) / SegundosPorMinuto;
     const std::int64_t origen = comienzo * SegundosPorMinuto;
     const std::int64_t bloque = paso * SegundosPorMinuto;

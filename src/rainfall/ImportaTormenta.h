@@ -11,10 +11,6 @@
 // A record of rain brought to a constant step.
 namespace rainfall {
 
-/// Most frequent time between two readings, the shortest of several, in whole minutes, at least 1; 10 where
-/// there is a single reading [min].
-std::int16_t PasoHabitual(const std::vector<forms::LecturaLluvia>& lecturas);
-
 /// A storm at a constant step.
 struct TormentaImportada {
     std::string notas{};

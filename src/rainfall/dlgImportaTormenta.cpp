@@ -115,7 +115,7 @@ void LlenaDudosos(dlgImportaTormenta& f)
 /// Items: the steps of the model and the usual one of the record, in order.
 void LlenaPasos(dlgImportaTormenta& f)
 {
-    const std::int16_t habitual = PasoHabitual(f.registro.lecturas);
+    const std::int16_t habitual = forms::PasoHabitual(f.registro.lecturas);
     std::vector<std::int16_t> pasos(PasosDeTiempo.begin(), PasosDeTiempo.end());
     const auto lugar = std::lower_bound(pasos.begin(), pasos.end(), habitual);
     if (lugar == pasos.end() || *lugar != habitual) pasos.insert(lugar, habitual);

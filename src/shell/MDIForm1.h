@@ -81,7 +81,7 @@ struct Mandos {
                                                                                        bool) {};
     /// A series has been run.
     std::function<void()> TrasSerie = [] {};
-    /// The project in hand has been saved under another name.
+    /// The project in hand has been saved under another name, unless the user thought better of it.
     std::function<void()> TrasGuardarComo = [] {};
     /// The user ends the program.
     std::function<void()> AlSalir = [] {};

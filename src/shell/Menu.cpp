@@ -55,7 +55,8 @@ void ConSerie(MDIForm1& /*f*/, Siro& s, const Mandos& m)
 
 void GuardarComo(MDIForm1& /*f*/, Siro& s, const Mandos& m)
 {
-    if (model::mnuGuardarProyectoComo(s)) m.TrasGuardarComo();
+    model::mnuGuardarProyectoComo(s);
+    m.TrasGuardarComo();
 }
 
 constexpr Rutina Nuevo = mnuNuevoProyecto;

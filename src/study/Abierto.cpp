@@ -317,7 +317,7 @@ bool Abierto::EsHora() const
 void Abierto::TrasGuardarComo()
 {
     std::string nueva = RutaEnMano(s);
-    if (archivo.clase == Clase::Danado || nueva.empty() || nueva == ruta) return Sigue();
+    if (!EstaAbierto(s) || archivo.clase == Clase::Danado || nueva.empty() || nueva == ruta) return Sigue();
     ruta = std::move(nueva);
     model::AnotaGuardado(s, ruta);  // its file has been copied
     negado = dicho = false;

@@ -73,7 +73,8 @@ class Abierto {
     /// there is something to do.
     void Sigue();
     [[nodiscard]] bool HaDeSeguir() const;
-    /// The project in hand is that of before under a new name: value and steps stay, and are written there.
+    /// The project in hand, where it is open, is that of before under a new name: value and steps stay, and
+    /// are written there. One whose name was refused is merely another one.
     void TrasGuardarComo();
     /// Files of projects have been deleted: where this one's study was among them, it is empty.
     void TrasEliminar();

@@ -129,12 +129,6 @@ struct DiscoPrueba::Estado {
     }
     void Borra(const std::string& ruta)
     {
-        if (directorios.contains(ruta)) {
-            if (!Lista(ruta).empty() || protegidos.contains(DirectorioDe(ruta)))
-                throw Falla{NumeroFalla::AccesoRuta};
-            directorios.erase(ruta);
-            return;
-        }
         ExigeArchivo(ruta);
         ExigeEscribible(ruta);
         archivos.erase(ruta);

@@ -253,5 +253,64 @@ RC_GTEST_PROP(PropiedadesRegistro, SeLeaLoQueSeLeaLasLecturasEstanEnOrdenYLosDud
         RC_ASSERT(r.dudosos[i].nro > r.dudosos[i - 1].nro);
 }
 
+TEST(RegistroDeLluvia, ElPasoHabitualEsElMasFrecuenteYElMenorDeVarios)
+{
+    const auto paso = [](std::vector<int> minutos) {
+        std::vector<LecturaLluvia> lecturas;
+        for (const int m : minutos)
+            lecturas.push_back({m * 60, 1});
+        return PasoHabitual(lecturas);
+    };
+    EXPECT_EQ(paso({0, 10, 20, 80, 90}), 10);
+    EXPECT_EQ(paso({0, 60, 70}), 10);
+    EXPECT_EQ(paso({5}), 10);
+    EXPECT_EQ(paso({5, 5}), 1);
+    EXPECT_EQ(paso({}), 10);
+}
+
+TEST(RegistroDeLluvia, UnaFechaSolaVaAlFinDeSuDiaDondeSeAdmite)
+{
+    const std::string diario =
+        "Fecha;mm\r\n28/02/1976;13\r\n29/02/1976;3,5\r\n01/03/1976;NA\r\n02/03/1976;0\r\n";
+    EXPECT_EQ(LeeRegistroLluvia(diario).motivo, SinLecturas);
+    const RegistroLluvia r = LeeRegistroLluvia(diario, {.soloFecha = true});
+    EXPECT_EQ(r.motivo, "");
+    EXPECT_EQ(r.lecturas, (std::vector<LecturaLluvia>{{Segundo("29/02/1976", "00:00"), 13},
+                                                      {Segundo("01/03/1976", "00:00"), 3.5},
+                                                      {Segundo("03/03/1976", "00:00"), 0}}));
+    ASSERT_EQ(r.dudosos.size(), 1U);
+    EXPECT_EQ(r.dudosos[0].nro, 4);
+    EXPECT_EQ(LeeRegistroLluvia("nada", {.soloFecha = true}).motivo, SinLecturasDelDia);
+    EXPECT_EQ(LeeRegistroLluvia(Horario, {.soloFecha = true}).lecturas, LeeRegistroLluvia(Horario).lecturas);
+    EXPECT_EQ(LeeRegistroLluvia("1976-02-28,1.5\n1976-02-29,2\n", {.soloFecha = true}).lecturas.size(), 2U);
+}
+
+TEST(RegistroDeLluvia, SePuedeDetenerYLosDudososAcotarse)
+{
+    std::string texto;
+    for (int dia = 0; dia < 20'000; ++dia)
+        texto +=
+            dia % 2 == 0 ? "01/03/2004 10:00;x\n" : TextoFecha(Instante{dia} * MinutosPorDia) + " 10:00;1\n";
+    const RegistroLluvia entero = LeeRegistroLluvia(texto);
+    EXPECT_EQ(entero.lecturas.size(), 10'000U);
+    EXPECT_EQ(entero.dudosos.size(), 10'000U);
+    const RegistroLluvia corto = LeeRegistroLluvia(texto, {.maximoDudosos = 3});
+    EXPECT_EQ(corto.lecturas, entero.lecturas);
+    EXPECT_EQ(corto.dudosos.size() + corto.masDudosos, 10'000U);
+    EXPECT_EQ(corto.dudosos.size(), 3U);
+
+    std::vector<std::size_t> hechos;
+    const RegistroLluvia parado = LeeRegistroLluvia(texto, {.avance = [&](std::size_t n, std::size_t total) {
+                                                        EXPECT_EQ(total, texto.size());
+                                                        hechos.push_back(n);
+                                                        return hechos.size() < 3;
+                                                    }});
+    EXPECT_EQ(parado.motivo, LecturaCancelada);
+    EXPECT_TRUE(parado.lecturas.empty());
+    ASSERT_EQ(hechos.size(), 3U);
+    EXPECT_EQ(hechos[0], 0U);
+    EXPECT_LT(hechos[1], hechos[2]);
+}
+
 }  // namespace
 }  // namespace forms

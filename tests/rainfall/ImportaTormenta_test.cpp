@@ -35,21 +35,6 @@ const std::string Horario =
     "17/02/1976 18:00;3,5\r\n"
     "17/02/1976 19:00;0\r\n";
 
-TEST(RegistroDeLluvia, ElPasoHabitualEsElMasFrecuenteYElMenorDeVarios)
-{
-    const auto paso = [](std::vector<int> minutos) {
-        std::vector<LecturaLluvia> lecturas;
-        for (const int m : minutos)
-            lecturas.push_back({m * 60, 1});
-        return PasoHabitual(lecturas);
-    };
-    EXPECT_EQ(paso({0, 10, 20, 80, 90}), 10);
-    EXPECT_EQ(paso({0, 60, 70}), 10);
-    EXPECT_EQ(paso({5}), 10);
-    EXPECT_EQ(paso({5, 5}), 1);
-    EXPECT_EQ(paso({}), 10);
-}
-
 // --- resampling ---
 
 std::vector<LecturaLluvia> Lecturas(std::vector<std::pair<int, double>> minutosYLaminas)

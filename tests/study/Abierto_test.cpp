@@ -283,6 +283,7 @@ TEST_F(DeUnProyecto, GuardarComoConservaValorYPasos)
     abierto.CambiaTaller("Uno", Con("Uno"));
     disco.Pon(RutaB, disco.Bytes(RutaA));  // as the project's files are copied
     s.Proyecto.NombreProyecto = "B";
+    model::ReclamaProyecto(s);
     abierto.TrasGuardarComo();
     EXPECT_EQ(abierto.PorDeshacer(), "Uno");
     abierto.CambiaTaller("Dos", Con("Dos"));
@@ -298,8 +299,21 @@ TEST_F(DeUnProyecto, GuardarComoEscribeLoQueElDiscoNoTomabaConElNombreViejo)
     abierto.CambiaTaller("Uno", Con("Uno"));
     disco.DejaDeFallar();
     s.Proyecto.NombreProyecto = "B";
+    model::ReclamaProyecto(s);
     abierto.TrasGuardarComo();
     EXPECT_EQ(disco.Bytes(RutaB), Texto("Uno"));
+}
+
+TEST_F(DeUnProyecto, UnNombreRechazadoAlGuardarComoEsElDeOtroProyecto)
+{
+    disco.Pon(RutaB, Texto("De B"));
+    Abre("A");
+    abierto.CambiaTaller("Uno", Con("Uno"));
+    s.Proyecto.NombreProyecto = "B";  // it stays the current one
+    abierto.TrasGuardarComo();
+    EXPECT_EQ(Estacion(), "De B");
+    EXPECT_EQ(disco.Bytes(RutaB), Texto("De B"));
+    EXPECT_EQ(disco.Bytes(RutaA), Texto("Uno"));
 }
 
 TEST_F(DeUnProyecto, ElEstudioBorradoConSuProyectoQuedaVacioYOtroNo)
