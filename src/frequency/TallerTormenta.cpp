@@ -111,7 +111,8 @@ forms::Grafico GraficoDe(const Diseno& d)
     g.ejeX = "t [min]";
     g.ejeY = "Precipitación [mm]";
     g.leyendaVisible = true;
-    forms::Serie ideal{.leyenda = "Patrón"}, corrida{.leyenda = "En la corrida"};
+    forms::Serie ideal{.leyenda = "Patrón"},
+        corrida{.tipo = forms::TipoSerie::Puntos2D, .leyenda = "En la corrida"};
     for (const PasoDeDiseno& p : PasosDe(d)) {
         g.categorias.push_back(Numero(p.hasta));
         ideal.celdas.push_back(p.lamina);
@@ -250,8 +251,8 @@ forms::Planilla PlanillaDeTormenta(const TallerTormenta& m, const dlgTaller& f)
                        {"P [mm]", false, "0.00"},
                        {"Suma [mm]", false, "0.00"},
                        {"i [mm/h]", false, "0.00"},
-                       {"Entera [%]"},
-                       {"Corrida [mm]", false, "0.00"}},
+                       {"P [%]"},
+                       {"Corre [mm]", false, "0.00"}},
                       {}};
     for (const PasoDeDiseno& paso : PasosDe(m.diseno))
         p.filas.push_back({Numero(paso.hasta), Con(paso.lamina, Decimales), Con(paso.acumulada, Decimales),

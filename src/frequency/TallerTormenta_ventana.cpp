@@ -39,13 +39,14 @@ TallerTormenta_ventana::TallerTormenta_ventana(forms::Entorno& alrededor, dlgTal
     : PaginaDeTaller(alrededor, taller, RotulosTallerTormenta, "TallerTormenta")
 {
     tabla = new forms::TablaCuadro(entorno, m.cuadro, "tblTormenta", "Hietograma");
-    constexpr int Letras = 11, Columnas = 6;
-    tabla->PonColumnas(std::vector<int>(Columnas, Letras));
+    tabla->PonColumnas({8, 9, 12, 10, 8, 12});
     tabla->AlPulsarEncabezado = [this](int columna) {
         Suceso([this, columna] { forms::PulsaEncabezado(m.cuadro, columna); });
     };
     tabla->DaPlanilla = [this] { return PlanillaDeTormenta(m, f); };
-    auto* const fila = EnFila({Elecciones(), {LadoALado(tabla, Derecha()), 1}});
+    auto* const fila =
+        EnFila({Elecciones(),
+                {EnPila({{LadoALado(tabla, Derecha(), 0, 1), 1}, Marco("MarcoModelo", AlModelo())}), 1}});
     fila->setContentsMargins(0, 0, 0, 0);
     setLayout(fila);
 }
@@ -115,23 +116,25 @@ QLayout* TallerTormenta_ventana::AlModelo()
     auto* const deshace = HabilitadoSi(Escribe("cmdDeshacerEscritura", &cmdDeshacerEscritura),
                                        [this] { return !m.escrituras.empty(); });
     AlMostrar([this, deshace] { deshace->setText(forms::Q(m.cmdDeshacerEscritura)); });
-    return EnPila(
-        {EnRejilla({Renglon("cmbTabla", tablaPDR)}, {0, 1}),
-         Casilla(
-             "chkConfigura", [this] { return m.chkConfigura; },
-             [this](bool tildada) { m.chkConfigura = tildada; }),
-         HabilitadoSi(Escribe("cmdLlenar", &cmdLlenar), [this] { return bool(m.fuentes.curvas); }),
-         EnRejilla({Renglon("cmbDistribucion", distribucion)}, {0, 1}),
-         HabilitadoSi(Escribe("cmdEscribir", &cmdEscribir), [this] { return m.diseno.error.empty(); }),
-         HabilitadoSi(Escribe("cmdEscalar", &cmdEscalar), [this] { return m.archivo >= 0; }), deshace});
+    return EnRejilla(
+        {{Rotulo("cmbTabla", tablaPDR), tablaPDR,
+          HabilitadoSi(Escribe("cmdLlenar", &cmdLlenar), [this] { return bool(m.fuentes.curvas); }),
+          Casilla(
+              "chkConfigura", [this] { return m.chkConfigura; },
+              [this](bool tildada) { m.chkConfigura = tildada; }),
+          Hueco(), deshace},
+         {Rotulo("cmbDistribucion", distribucion), distribucion,
+          HabilitadoSi(Escribe("cmdEscribir", &cmdEscribir), [this] { return m.diseno.error.empty(); }),
+          HabilitadoSi(Escribe("cmdEscalar", &cmdEscalar), [this] { return m.archivo >= 0; }), Hueco(),
+          Hueco()}},
+        {0, 0, 0, 0, 1, 0});
 }
 
-/// What the storm is and where it goes; it scrolls where the room is low.
+/// What the storm is; it scrolls where the room is low.
 QWidget* TallerTormenta_ventana::Elecciones()
 {
     auto* const dentro = new QWidget;
-    auto* const pila =
-        EnPila({Marco("MarcoTormenta", DeLaTormenta()), Marco("MarcoModelo", AlModelo()), Hueco()});
+    auto* const pila = EnPila({Marco("MarcoTormenta", DeLaTormenta()), Hueco()});
     pila->setContentsMargins(0, 0, 0, 0);
     dentro->setLayout(pila);
     auto* const lugar = new QScrollArea;
@@ -157,7 +160,7 @@ QWidget* TallerTormenta_ventana::Derecha()
     lugar->setObjectName(QStringLiteral("lugarAvisos"));
     lugar->setWidgetResizable(true);
     lugar->setWidget(avisos);
-    constexpr int Renglones = 5;
+    constexpr int Renglones = 4;
     lugar->setFixedHeight(Renglones * fontMetrics().lineSpacing());
     auto* const lado = new QWidget;
     auto* const pila = EnPila({{grafico, 1}, lugar});

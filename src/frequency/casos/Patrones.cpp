@@ -95,7 +95,7 @@ constexpr auto Filas = std::to_array<FilaDeCaso>({
     {"Bloques alternos, dos horas en Denver",
      "V. T. Chow, D. R. Maidment y L. W. Mays (1988), Applied Hydrology, McGraw-Hill, ejemplo 14.4.1, tabla "
      "14.4.1",
-     "i = 96,6/(d^0,97 + 13,90) [pulg/h], 120 min, paso de 10 min", "lámina del paso [pulg]", "t [min]",
+     "i = 96.6/(d^0.97 + 13.90) [pulg/h], 120 min, paso de 10 min", "lámina del paso [pulg]", "t [min]",
      0.0006, "media unidad de la última cifra, y la resta de láminas redondeadas", false,
      [] {
          return PorPaso(BloquesAlternos,
@@ -105,7 +105,7 @@ constexpr auto Filas = std::to_array<FilaDeCaso>({
     {"Chicago, la integral de sus intensidades",
      "C. J. Keifer y H. H. Chu (1957), Synthetic storm pattern for drainage design, J. Hydraul. Div. ASCE "
      "83(HY4)",
-     "i = 1000/(d + 10)^0,8 [mm/h], 120 min, paso de 10 min, avance 0,375", "lámina del paso [mm]", "t [min]",
+     "i = 1000/(d + 10)^0.8 [mm/h], 120 min, paso de 10 min, avance 0.375", "lámina del paso [mm]", "t [min]",
      1e-9, "la masa es exacta; la integral se hizo con 30 cifras", true,
      [] {
          return PorPaso(Chicago, DosHoras([](double d) { return 1000 / std::pow(d + 10, 0.8); }),
@@ -132,7 +132,7 @@ constexpr auto Filas = std::to_array<FilaDeCaso>({
                           {14, .736},   {16, .800},    {20, .906},   {24, 1}});
      }},
     {"SCS tipo II", Chow,
-     "21 ordenadas; falta la de 11,75 h, que en el libro es 0,357 y no concuerda con las láminas anidadas",
+     "21 ordenadas; falta la de 11.75 h, que en el libro es 0.357 y no concuerda con las láminas anidadas",
      Parte, Hora, 0.0011, "media unidad de la última cifra, y rectas entre ordenadas", false,
      [] {
          return DelLibro(
@@ -144,12 +144,12 @@ constexpr auto Filas = std::to_array<FilaDeCaso>({
     {"SCS tipo II, láminas anidadas",
      "USDA-NRCS (2019), National Engineering Handbook, parte 630, capítulo 4, figura 4-31",
      "la mayor lluvia de cada duración dentro de las 24 h, en pasos de 2 min", Parte, "duración [min]",
-     0.0021, "ordenadas cada 0,1 h, con rectas entre ellas", false,
+     0.0021, "ordenadas cada 0.1 h, con rectas entre ellas", false,
      [] {
          return Anidadas(
              ScsII, {{10, .201}, {30, .380}, {60, .454}, {120, .538}, {180, .595}, {360, .707}, {720, .841}});
      }},
-    {"SCS tipo III", Chow, "21 ordenadas; falta la de 11,75 h, que en el libro va por la recta", Parte, Hora,
+    {"SCS tipo III", Chow, "21 ordenadas; falta la de 11.75 h, que en el libro va por la recta", Parte, Hora,
      0.0025, "el libro da otra tabulación del mismo tipo", false,
      [] {
          return DelLibro(

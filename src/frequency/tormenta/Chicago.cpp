@@ -40,7 +40,7 @@ const Patron Chicago{
         "83(HY4), 1332-1 a 1332-25",
     .limites =
         "Reúne en una sola tormenta las intensidades de todas las duraciones; el avance r se toma de "
-        "tormentas de la región (0,375 en Chicago)",
+        "tormentas de la región (0.375 en Chicago)",
     .hechura = Hechura::CurvasYAvance,
     .pesos = PesosChicago};
 
