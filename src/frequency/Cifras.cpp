@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frequency/Cifras.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -8,6 +9,57 @@
 #include "model/Texto.h"
 
 namespace frequency {
+namespace {
+
+bool EsDePalabra(char c)
+{
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '.' ||
+           (static_cast<unsigned char>(c) & 0x80U) != 0;
+}
+
+/// Length of a word or of a bracket to its end.
+std::size_t LargoDeTrozo(std::string_view t)
+{
+    std::size_t i = 0;
+    if (!t.starts_with('(')) {
+        while (i < t.size() && EsDePalabra(t[i]))
+            ++i;
+        return i;
+    }
+    int abiertos = 0;
+    do {
+        if (t[i] == '(') ++abiertos;
+        if (t[i] == ')') --abiertos;
+        ++i;
+    } while (abiertos > 0 && i < t.size());
+    return i;
+}
+
+}  // namespace
+
+std::string FormulaEnHtml(std::string_view formula)
+{
+    std::string t;
+    for (std::size_t i = 0; i < formula.size();) {
+        const std::string_view resto = formula.substr(i);
+        if (resto.front() == '^') {
+            std::string_view exponente = resto.substr(1, LargoDeTrozo(resto.substr(1)));
+            i += 1 + exponente.size();
+            if (exponente.starts_with('(')) exponente = exponente.substr(1, exponente.size() - 2);
+            t += "<sup>" + FormulaEnHtml(exponente) + "</sup>";
+            continue;
+        }
+        const std::size_t largo = resto.front() == '(' ? 0 : LargoDeTrozo(resto);
+        const std::string trozo(resto.substr(0, std::max<std::size_t>(largo, 1)));
+        const bool letra = largo == 1 && (trozo[0] < '0' || trozo[0] > '9') && trozo[0] != '.';
+        if (letra)
+            t += "<i>" + trozo + "</i>";
+        else
+            t += trozo == "<" ? "&lt;" : trozo == ">" ? "&gt;" : trozo == "&" ? "&amp;" : trozo;
+        i += trozo.size();
+    }
+    return t;
+}
 
 std::string Exacto(double x)
 {

@@ -20,6 +20,10 @@ std::string Cifras(double x);
 /// A text in so many columns, to the right.
 std::string Derecha(const std::string& texto, std::size_t ancho);
 
+/// A formula as a label's rich text: what stands behind ^, a word, a number or a bracket, is raised; lone
+/// letters are slanted.
+std::string FormulaEnHtml(std::string_view formula);
+
 /// A list as JSON's array of what f makes of each.
 template <typename Lista, typename F>
 std::string Arreglo(const Lista& lista, F f)

@@ -10,6 +10,7 @@
 #include "forms/Lamina_ventana.h"
 #include "forms/Procedencia.h"
 #include "frequency/TallerAjustes_ventana.h"
+#include "frequency/TallerIdf_ventana.h"
 #include "frequency/TallerMaximos_ventana.h"
 #include "frequency/TallerPruebas_ventana.h"
 #include "frequency/TallerTormenta_ventana.h"
@@ -52,6 +53,7 @@ void dlgTaller_ventana::PonPaginas()
     Agrega("1 Máximos", new TallerMaximos_ventana(entorno, f));
     Agrega("2 Pruebas", new TallerPruebas_ventana(entorno, f));
     Agrega("3 Ajustes", new TallerAjustes_ventana(entorno, f));
+    Agrega("4 IDF", new TallerIdf_ventana(entorno, f));
     Agrega("5 Tormenta", new TallerTormenta_ventana(entorno, f));
 }
 
