@@ -8,7 +8,6 @@
 
 #include "forms/CampoNumerico.h"
 #include "frequency/Cifras.h"
-#include "frequency/idf/EscribeIdf.h"
 #include "model/Numeros.h"
 
 namespace frequency {
@@ -57,11 +56,6 @@ int Lugar(const Lista& lista, std::string_view clave)
     const auto cual =
         std::find_if(lista.begin(), lista.end(), [&](const auto& x) { return x.clave == clave; });
     return cual == lista.end() ? 0 : static_cast<int>(cual - lista.begin());
-}
-
-std::size_t Indice(const ListaDeTaller& lista)
-{
-    return static_cast<std::size_t>(std::max(lista.indice, 0));
 }
 
 /// Formula, source, limits below one another.
@@ -147,7 +141,7 @@ std::vector<study::Coeficiente> LibresDe(const forms::Grilla& g)
     return coeficientes;
 }
 
-std::vector<study::Coeficiente> PorRecurrencia(const study::Idf& pedido)
+std::vector<study::Coeficiente> DeUnaRecurrencia(const study::Idf& pedido)
 {
     std::vector<study::Coeficiente> suyos;
     std::copy_if(pedido.coeficientes.begin(), pedido.coeficientes.end(), std::back_inserter(suyos),
@@ -189,150 +183,6 @@ void PonLibres(forms::Grilla& g, const std::vector<study::Coeficiente>& coeficie
     PonFilas(g, filas);
 }
 
-// --- table ---
-
-std::string CeldaDe(double x, VistaDeCurvas vista)
-{
-    return std::isfinite(x) ? Con(x, vista == VistaDeCurvas::Residuos ? 2 : 1) : std::string();
-}
-
-/// What was fitted less what it was fitted to, as a part of that [%]: a row per duration, a column per
-/// recurrence of the tables.
-std::vector<std::vector<std::string>> FilasDeResiduos(const idf::Curvas& c)
-{
-    std::vector<double> duraciones;
-    std::vector<std::vector<std::string>> filas;
-    for (std::size_t j = 0; j < c.ajuste.ajustadas.size(); ++j) {
-        const idf::Punto& p = c.puntos[j];
-        const auto cual = std::find(duraciones.begin(), duraciones.end(), p.duracion);
-        const auto i = static_cast<std::size_t>(cual - duraciones.begin());
-        if (cual == duraciones.end()) {
-            duraciones.push_back(p.duracion);
-            filas.emplace_back(model::Recurrencias.size() + 1).front() = Numero(p.duracion);
-        }
-        const auto* const T =
-            std::find(model::Recurrencias.begin(), model::Recurrencias.end(), p.recurrencia);
-        filas[i].at(static_cast<std::size_t>(T - model::Recurrencias.begin()) + 1) =
-            CeldaDe(100 * (c.ajuste.ajustadas[j] / p.intensidad - 1), VistaDeCurvas::Residuos);
-    }
-    return filas;
-}
-
-forms::Planilla PlanillaDe(const idf::Curvas& c, VistaDeCurvas vista)
-{
-    forms::Planilla p;
-    p.columnas.push_back({.encabezado = "Duración [min]"});
-    for (const int T : model::Recurrencias)
-        p.columnas.push_back({.encabezado = std::to_string(T) + " años"});
-    if (!c.errores.empty()) return p;
-    if (vista == VistaDeCurvas::Residuos) {
-        p.filas = FilasDeResiduos(c);
-        return p;
-    }
-    for (const int d : model::Duraciones) {
-        std::vector<std::string> fila{std::to_string(d)};
-        for (const int T : model::Recurrencias)
-            fila.push_back(CeldaDe(
-                vista == VistaDeCurvas::Laminas ? idf::Lamina(c, d, T) : idf::Intensidad(c, d, T), vista));
-        p.filas.push_back(std::move(fila));
-    }
-    return p;
-}
-
-// --- chart ---
-
-constexpr std::array RecurrenciasDibujadas{2, 5, 10, 25, 100, 1000};
-
-double Eje(bool logaritmos, double duracion)
-{
-    return logaritmos ? std::log10(duracion) : duracion;
-}
-
-/// Durations of the curves and of the points that they were fitted to, rising.
-std::vector<double> DuracionesDibujadas(const idf::Curvas& c)
-{
-    std::vector<double> duraciones(model::Duraciones.begin(), model::Duraciones.end());
-    for (const idf::Punto& p : c.puntos)
-        duraciones.push_back(p.duracion);
-    std::sort(duraciones.begin(), duraciones.end());
-    duraciones.erase(std::unique(duraciones.begin(), duraciones.end()), duraciones.end());
-    return duraciones;
-}
-
-forms::Grafico GraficoDeCurvas(const TallerIdf& m)
-{
-    const bool deLaminas = m.cmbTabla.indice == static_cast<int>(VistaDeCurvas::Laminas);
-    const std::vector<double> duraciones = DuracionesDibujadas(m.curvas);
-    forms::Grafico g;
-    g.tipo = forms::TipoGrafico::Linea;
-    g.ejeX = "Duración [min]";
-    g.ejeY = deLaminas ? "Lámina [mm]" : "Intensidad [mm/h]";
-    g.leyendaVisible = g.muchasLineas = true;
-    g.tituloLeyenda = "Recurrencia";
-    g.ejeYLogaritmico = m.chkLogaritmos;
-    if (!m.curvas.errores.empty()) return g;
-    for (const double d : duraciones) {
-        g.categorias.push_back(Numero(d) + " min");
-        g.abscisas.push_back(Eje(m.chkLogaritmos, d));
-    }
-    if (m.chkLogaritmos)
-        for (const int d : {10, 60, 1440, 5, 30, 360, 180, 720, 120, 20, 2880, 90, 15, 240})
-            g.rotulosX.push_back({Eje(true, d), std::to_string(d)});
-    for (const int T : RecurrenciasDibujadas) {
-        forms::Serie curva{.tipo = forms::TipoSerie::Linea2D, .leyenda = std::to_string(T) + " años"};
-        forms::Serie puntos{.tipo = forms::TipoSerie::Puntos2D};
-        for (const double d : duraciones) {
-            const double i = idf::Intensidad(m.curvas, d, T);
-            curva.celdas.push_back(std::isfinite(i) ? i * (deLaminas ? d / 60 : 1) : forms::CeldaVacia);
-            const auto p =
-                std::find_if(m.curvas.puntos.begin(), m.curvas.puntos.end(),
-                             [&](const idf::Punto& q) { return q.duracion == d && q.recurrencia == T; });
-            puntos.celdas.push_back(p == m.curvas.puntos.end() || m.curvas.ajuste.ajustadas.empty()
-                                        ? forms::CeldaVacia
-                                        : p->intensidad * idf::FactorAreal(m.curvas) *
-                                              (deLaminas ? d / 60 : 1));
-        }
-        g.series.push_back(std::move(curva));
-        if (!m.curvas.ajuste.ajustadas.empty()) g.series.push_back(std::move(puntos));
-    }
-    return g;
-}
-
-// --- words ---
-
-std::string NotasDe(const idf::Curvas& c)
-{
-    std::string t;
-    const auto renglon = [&](const std::string& que) { t += "• " + que + "\n"; };
-    for (const std::string& error : c.errores)
-        renglon(error);
-    if (!c.errores.empty()) return t.substr(0, t.size() - 1);
-    for (const idf::LeyDeDuracion& l : c.leyes)
-        renglon("Máximos de " + Cifras(l.duracion) + " min: " + std::string(l.ley->nombre) + ", de " +
-                std::to_string(l.anios) + " años.");
-    if (c.ajuste.familia != nullptr && !c.ajuste.familia->porRecurrencia)
-        renglon(std::string(c.ajuste.familia->nombre) + ": " +
-                idf::TextoDeCoeficientes(*c.ajuste.familia, c.ajuste.coeficientes.front().c) + ".");
-    if (const std::string calidad = idf::TextoDeCalidad(c); !calidad.empty()) renglon(calidad + ".");
-    if (c.reduccion != nullptr) renglon("Factor areal: " + Con(idf::FactorAreal(c), 4) + ".");
-    for (const std::string& aviso : c.avisos)
-        renglon(aviso);
-    const std::vector<std::string> cruces = idf::Cruces(idf::TablaDe(c));
-    constexpr std::size_t Bastan = 5;
-    for (std::size_t i = 0; i < std::min(cruces.size(), Bastan); ++i)
-        renglon(cruces[i]);
-    if (cruces.size() > Bastan) renglon("Y " + std::to_string(cruces.size() - Bastan) + " cruces más.");
-    if (cruces.empty()) renglon("La lámina crece con la duración y con la recurrencia en toda la tabla.");
-    return t.substr(0, t.size() - 1);
-}
-
-void MuestraVista(TallerIdf& m, const dlgTaller& f)
-{
-    forms::PonFilas(m.tblCurvas, PlanillaDe(m.curvas, static_cast<VistaDeCurvas>(m.cmbTabla.indice)));
-    m.Grafico = GraficoDeCurvas(m);
-    m.Grafico.titulo = TemaDeCurvas(m, f);
-}
-
 void TomaListas(TallerIdf& m, const dlgTaller& f)
 {
     const study::Idf& pedido = IdfDe(f);
@@ -345,7 +195,7 @@ void TomaListas(TallerIdf& m, const dlgTaller& f)
     m.cmbDesagregacion.indice = Lugar(idf::Desagregaciones(), pedido.desagregacion);
     m.cmbFamilia = {Nombres(idf::Familias()), Lugar(idf::Familias(), pedido.familia)};
     if (pedido.origen == "diaria") {
-        m.cmbFamilia.items.emplace_back("Ninguna, la desagregación misma");
+        m.cmbFamilia.items.emplace_back("Ninguna");
         if (pedido.familia.empty()) m.cmbFamilia.indice = static_cast<int>(idf::Familias().size());
     }
     m.cmbCriterio.indice = pedido.errorRelativo ? 1 : 0;
@@ -371,8 +221,7 @@ void CambiaIdf(dlgTaller& f, std::string_view leyenda, Cambio cambio)
 TallerIdf NuevaTallerIdf()
 {
     TallerIdf m;
-    m.cmbOrigen.items = {"Máximos diarios, desagregados", "Máximos de varias duraciones",
-                         "Coeficientes conocidos"};
+    m.cmbOrigen.items = {"Máximos diarios", "Varias duraciones", "Coeficientes"};
     m.cmbDesagregacion.items = Nombres(idf::Desagregaciones());
     m.cmbCriterio.items = {"Logaritmos", "Errores relativos"};
     m.cmbReduccion.items = Nombres(idf::Reducciones(), {"Ninguna"});
@@ -402,7 +251,7 @@ void Toma(TallerIdf& m, const dlgTaller& f)
     }
     // What is typed stays as it was typed while it says the same.
     if (RazonesDe(m.grdRazones) != pedido.razones) PonRazones(m.grdRazones, pedido.razones);
-    if (const auto libres = PorRecurrencia(pedido); LibresDe(m.grdLibre) != libres)
+    if (const auto libres = DeUnaRecurrencia(pedido); LibresDe(m.grdLibre) != libres)
         PonLibres(m.grdLibre, libres);
     const idf::Desagregacion* const d = idf::DesagregacionDeClave(pedido.desagregacion);
     m.lblDesagregacion = d == nullptr ? std::string() : Ficha(*d);
@@ -414,8 +263,7 @@ void Toma(TallerIdf& m, const dlgTaller& f)
                                           : FormulaEnHtml(reduccion->formula) + "<br><small>" +
                                                 std::string(reduccion->fuente) + ".</small>";
     m.curvas = idf::Calcula(pedido, TallerDe(f).estaciones);
-    m.lblNotas = NotasDe(m.curvas);
-    MuestraVista(m, f);
+    MuestraCurvas(m, f);
 }
 
 bool PideDesagregacion(const dlgTaller& f)
@@ -461,7 +309,7 @@ bool PideKA(const dlgTaller& f)
 void cmbOrigen_Click(const TallerIdf& m, dlgTaller& f)
 {
     CambiaIdf(f, "Origen de las curvas", [&](study::Idf& pedido) {
-        pedido.origen = Origenes.at(Indice(m.cmbOrigen));
+        pedido.origen = Origenes.at(m.cmbOrigen.Lugar());
         if (pedido.origen != "diaria" && pedido.familia.empty()) pedido.familia = study::Idf{}.familia;
     });
 }
@@ -469,22 +317,22 @@ void cmbOrigen_Click(const TallerIdf& m, dlgTaller& f)
 void cmbDe_Click(const TallerIdf& m, dlgTaller& f)
 {
     const auto& estaciones = TallerDe(f).estaciones;
-    if (Indice(m.cmbDe) >= estaciones.size()) return;
-    const std::string nombre = estaciones[Indice(m.cmbDe)].nombre;
+    if (m.cmbDe.Lugar() >= estaciones.size()) return;
+    const std::string nombre = estaciones[m.cmbDe.Lugar()].nombre;
     CambiaIdf(f, "Estación de las curvas", [&](study::Idf& pedido) { pedido.estacion = nombre; });
 }
 
 void cmbDesagregacion_Click(const TallerIdf& m, dlgTaller& f)
 {
     CambiaIdf(f, "Desagregación", [&](study::Idf& pedido) {
-        pedido.desagregacion = idf::Desagregaciones()[Indice(m.cmbDesagregacion)].clave;
+        pedido.desagregacion = idf::Desagregaciones()[m.cmbDesagregacion.Lugar()].clave;
     });
 }
 
 void cmbFamilia_Click(const TallerIdf& m, dlgTaller& f)
 {
     CambiaIdf(f, "Familia de curvas", [&](study::Idf& pedido) {
-        const std::size_t i = Indice(m.cmbFamilia);
+        const std::size_t i = m.cmbFamilia.Lugar();
         pedido.familia = i < idf::Familias().size() ? std::string(idf::Familias()[i].clave) : std::string();
     });
 }
@@ -497,7 +345,7 @@ void cmbCriterio_Click(const TallerIdf& m, dlgTaller& f)
 
 void cmbRegion_Click(const TallerIdf& m, dlgTaller& f)
 {
-    const std::size_t i = Indice(m.cmbRegion);
+    const std::size_t i = m.cmbRegion.Lugar();
     if (i == 0 || i > idf::EstacionesDit().size()) return;
     const idf::EstacionDit& e = idf::EstacionesDit()[i - 1];
     CambiaIdf(f, "Coeficientes de una ficha", [&](study::Idf& pedido) {
@@ -511,7 +359,7 @@ void cmbRegion_Click(const TallerIdf& m, dlgTaller& f)
 void cmbReduccion_Click(const TallerIdf& m, dlgTaller& f)
 {
     CambiaIdf(f, "Reducción por el área", [&](study::Idf& pedido) {
-        const std::size_t i = Indice(m.cmbReduccion);
+        const std::size_t i = m.cmbReduccion.Lugar();
         pedido.reduccion = i == 0 ? std::string() : std::string(idf::Reducciones()[i - 1].clave);
     });
 }
@@ -588,7 +436,7 @@ void grdRazones_Asienta(TallerIdf& m, dlgTaller& f)
 void grdLibre_Asienta(TallerIdf& m, dlgTaller& f)
 {
     const std::vector<study::Coeficiente> libres = LibresDe(m.grdLibre);
-    if (libres == PorRecurrencia(IdfDe(f))) return;
+    if (libres == DeUnaRecurrencia(IdfDe(f))) return;
     CambiaIdf(f, "Coeficientes por recurrencia", [&](study::Idf& pedido) {
         std::erase_if(pedido.coeficientes, [](const study::Coeficiente& c) { return c.recurrencia > 0; });
         pedido.coeficientes.insert(pedido.coeficientes.end(), libres.begin(), libres.end());
@@ -606,27 +454,6 @@ void chkLogaritmos_Click(TallerIdf& m, const dlgTaller& f, bool tildada)
 {
     m.chkLogaritmos = tildada;
     MuestraVista(m, f);
-}
-
-std::string TemaDeCurvas(const TallerIdf& m, const dlgTaller& f)
-{
-    const idf::Curvas& c = m.curvas;
-    std::string t = "Curvas de intensidad, duración y recurrencia";
-    if (PideMaximos(f) && Indice(m.cmbDe) < m.cmbDe.items.size()) t += ": " + m.cmbDe.items[Indice(m.cmbDe)];
-    if (c.desagregacion != nullptr) t += ", " + std::string(c.desagregacion->nombre);
-    if (c.ajuste.familia != nullptr) t += ", " + std::string(c.ajuste.familia->nombre);
-    return t;
-}
-
-forms::Planilla PlanillaDeCurvas(const TallerIdf& m, const dlgTaller& f)
-{
-    forms::Planilla p = m.tblCurvas.planilla;
-    p.titulos = {std::string(TituloDlgTaller) + ": " + m.cmbTabla.items[Indice(m.cmbTabla)],
-                 TemaDeCurvas(m, f)};
-    for (const idf::CoeficientesDeT& k : m.curvas.ajuste.coeficientes)
-        p.titulos.push_back((k.recurrencia > 0 ? Numero(k.recurrencia) + " años: " : std::string()) +
-                            idf::TextoDeCoeficientes(*m.curvas.ajuste.familia, k.c));
-    return p;
 }
 
 }  // namespace frequency

@@ -19,8 +19,10 @@ namespace frequency {
 
 inline constexpr auto RotulosTallerIdf = std::to_array<forms::FilaRotulo>({
     {"MarcoOrigen", "De dónde"},
-    {"cmbOrigen", "&Origen:", "De qué salen las intensidades de cada duración y recurrencia"},
-    {"cmbDe", "E&stación:", "Estación cuyos máximos valen"},
+    {"cmbOrigen", "&Origen:",
+     "De qué salen las curvas: máximos diarios desagregados, máximos de varias duraciones, coeficientes "
+     "conocidos"},
+    {"cmbDe", "Máximos d&e:", "Estación de la que son las curvas"},
     {"cmbDesagregacion", "&Desagregación:", "Cómo se reparte la lluvia de un día en duraciones menores"},
     {"lblDesagregacion", "Fórmula de la desagregación"},
     {"txtFactor", "Factor a 24 &h:", "De la lectura diaria a 24 horas; no se aplica dos veces"},
@@ -53,6 +55,7 @@ inline constexpr auto RotulosTallerIdf = std::to_array<forms::FilaRotulo>({
 struct ListaDeTaller {
     std::vector<std::string> items{};
     int indice = 0;
+    [[nodiscard]] std::size_t Lugar() const { return indice < 0 ? 0 : static_cast<std::size_t>(indice); }
 };
 
 /// What the table shows.
@@ -107,6 +110,10 @@ void grdLibre_Asienta(TallerIdf& m, dlgTaller& f);
 
 void cmbTabla_Click(TallerIdf& m, const dlgTaller& f);
 void chkLogaritmos_Click(TallerIdf& m, const dlgTaller& f, bool tildada);
+
+/// Fills words, table and chart from the curves; table and chart alone.
+void MuestraCurvas(TallerIdf& m, const dlgTaller& f);
+void MuestraVista(TallerIdf& m, const dlgTaller& f);
 
 /// "Quelmar", or where the coefficients are from.
 std::string TemaDeCurvas(const TallerIdf& m, const dlgTaller& f);

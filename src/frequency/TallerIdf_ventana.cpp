@@ -143,6 +143,9 @@ QWidget* TallerIdf_ventana::Elecciones()
 QWidget* TallerIdf_ventana::Derecha()
 {
     tabla = new forms::TablaCuadro(entorno, m.tblCurvas, "tblCurvas", Fila("tblCurvas").leyenda);
+    std::vector<int> letras(model::Recurrencias.size() + 1, 9);
+    letras.front() = 14;
+    tabla->PonColumnas(std::move(letras));
     tabla->AlPulsarEncabezado = [this](int columna) {
         Suceso([&] { forms::PulsaEncabezado(m.tblCurvas, columna); });
     };
@@ -159,7 +162,7 @@ QWidget* TallerIdf_ventana::Derecha()
     lugar->setObjectName(QStringLiteral("lugarNotas"));
     lugar->setWidgetResizable(true);
     lugar->setWidget(notas);
-    constexpr int Renglones = 6;
+    constexpr int Renglones = 5;
     lugar->setFixedHeight(Renglones * fontMetrics().lineSpacing());
     QComboBox* const vista = Desplegable("cmbTabla", m.cmbTabla, [this] { cmbTabla_Click(m, f); });
     auto* const arriba = EnFila({Rotulo("cmbTabla", vista), vista, Hueco(),

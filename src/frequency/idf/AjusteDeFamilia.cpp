@@ -26,7 +26,7 @@ class Busqueda {
     std::pair<double, Coeficientes> Desde(const Coeficientes& comienzo)
     {
         constexpr int MaxPasos = 400;
-        constexpr double Quieto = 1e-15, MaxFreno = 1e15;
+        constexpr double Quieto = 1e-15, MaxFreno = 1e15, Hebra = 1e-9;
         Vector v = EnBusqueda(comienzo);
         std::vector<double> r = Residuos(v);
         double costo = Suma(r), freno = 1e-3;
@@ -48,6 +48,8 @@ class Busqueda {
             freno = std::max(freno / 10, 1e-12);
             if (movido < Quieto) break;
         }
+        for (std::size_t i = 0; i < familia.cuantos; ++i)  // a hair from a bound is the bound
+            if (std::abs(v[i] - Menor(i)) < Hebra) v[i] = Menor(i);
         return {costo, DeBusqueda(v)};
     }
 
