@@ -143,8 +143,9 @@ QWidget* TallerIdf_ventana::Elecciones()
 QWidget* TallerIdf_ventana::Derecha()
 {
     tabla = new forms::TablaCuadro(entorno, m.tblCurvas, "tblCurvas", Fila("tblCurvas").leyenda);
-    std::vector<int> letras(model::Recurrencias.size() + 1, 9);
-    letras.front() = 14;
+    constexpr int LetrasDeLamina = 11, LetrasDeDuracion = 16;
+    std::vector<int> letras(model::Recurrencias.size() + 1, LetrasDeLamina);
+    letras.front() = LetrasDeDuracion;
     tabla->PonColumnas(std::move(letras));
     tabla->AlPulsarEncabezado = [this](int columna) {
         Suceso([&] { forms::PulsaEncabezado(m.tblCurvas, columna); });
@@ -162,15 +163,17 @@ QWidget* TallerIdf_ventana::Derecha()
     lugar->setObjectName(QStringLiteral("lugarNotas"));
     lugar->setWidgetResizable(true);
     lugar->setWidget(notas);
-    constexpr int Renglones = 5;
+    constexpr int Renglones = 4;
     lugar->setFixedHeight(Renglones * fontMetrics().lineSpacing());
     QComboBox* const vista = Desplegable("cmbTabla", m.cmbTabla, [this] { cmbTabla_Click(m, f); });
     auto* const arriba = EnFila({Rotulo("cmbTabla", vista), vista, Hueco(),
                                  Casilla(
                                      "chkLogaritmos", [this] { return m.chkLogaritmos; },
                                      [this](bool tildada) { chkLogaritmos_Click(m, f, tildada); })});
-    QSplitter* const barra = LadoALado(tabla, grafico, 1, 1);
+    QSplitter* const barra = LadoALado(tabla, grafico);
     barra->setOrientation(Qt::Vertical);
+    constexpr int ParteDeTabla = 2, ParteDeGrafico = 3;
+    barra->setSizes({1000 * ParteDeTabla, 1000 * ParteDeGrafico});
     auto* const lado = new QWidget;
     auto* const pila = EnPila({arriba, {barra, 1}, lugar});
     pila->setContentsMargins(0, 0, 0, 0);

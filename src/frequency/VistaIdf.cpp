@@ -71,7 +71,7 @@ forms::Planilla PlanillaDe(const idf::Curvas& c, VistaDeCurvas vista)
 
 // --- chart ---
 
-constexpr std::array RecurrenciasDibujadas{2, 5, 10, 25, 50, 100, 500, 1000};
+constexpr std::array RecurrenciasDibujadas{2, 5, 10, 25, 100, 1000};
 
 double Eje(bool logaritmos, double duracion)
 {
