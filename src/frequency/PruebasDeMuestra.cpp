@@ -50,7 +50,8 @@ void Concluye(Prueba& prueba, std::string_view rechazo, std::string_view nada, s
 
 Prueba MannKendall(std::span<const double> x)
 {
-    Prueba prueba{"mann-kendall", "Tendencia (Mann-Kendall)", "Mann 1945; Kendall 1975", "S"};
+    Prueba prueba{"mann-kendall", "Tendencia (Mann-Kendall)",
+                  "Mann 1945, Econometrica 13, 245-259; Kendall 1975, Rank correlation methods", "S"};
     double s = 0;
     for (std::size_t i = 0; i < x.size(); ++i)
         for (std::size_t j = i + 1; j < x.size(); ++j)
@@ -70,7 +71,8 @@ Prueba MannKendall(std::span<const double> x)
 
 Prueba WaldWolfowitz(std::span<const double> x)
 {
-    Prueba prueba{"wald-wolfowitz", "Independencia (Wald-Wolfowitz)", "Wald y Wolfowitz 1943", "R"};
+    Prueba prueba{"wald-wolfowitz", "Independencia (Wald-Wolfowitz)",
+                  "Wald y Wolfowitz 1943, Ann. Math. Stat. 14, 378-388", "R"};
     const auto n = static_cast<double>(x.size());
     const double media = MomentosDe(x).media;
     double r = 0, s2 = 0, s4 = 0;  // of the distances from the mean, whose sum is 0
@@ -96,7 +98,8 @@ Prueba WaldWolfowitz(std::span<const double> x)
 
 Prueba MannWhitney(std::span<const double> x)
 {
-    Prueba prueba{"mann-whitney", "Homogeneidad (Mann-Whitney)", "Mann y Whitney 1947", "U"};
+    Prueba prueba{"mann-whitney", "Homogeneidad (Mann-Whitney)",
+                  "Mann y Whitney 1947, Ann. Math. Stat. 18, 50-60", "U"};
     const std::size_t mitad = x.size() / 2;
     const auto primera = x.first(mitad), segunda = x.subspan(mitad);
     double u = 0;
@@ -152,7 +155,7 @@ Prueba GrubbsBeck(const std::vector<Maximo>& maximos, bool altos)
 {
     Prueba prueba{altos ? "grubbs-beck-alto" : "grubbs-beck-bajo",
                   altos ? "Dato anómalo alto (Grubbs-Beck)" : "Dato anómalo bajo (Grubbs-Beck)",
-                  "Grubbs y Beck 1972; Bulletin 17B, 1982, apéndice 4", "G"};
+                  "Grubbs y Beck 1972, Technometrics 14, 847-854; Bulletin 17B, 1982, apéndice 4", "G"};
     std::vector<Maximo> lluviosos = maximos;  // a year without rain has no logarithm
     std::erase_if(lluviosos, [](const Maximo& m) { return m.valor <= 0; });
     std::vector<double> y;

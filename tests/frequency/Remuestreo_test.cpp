@@ -13,6 +13,7 @@
 
 #include "frequency/Analisis.h"
 #include "frequency/EscribeAnalisis.h"
+#include "frequency/Philox.h"
 #include "frequency/casos/Muestras.h"
 
 namespace {
@@ -136,6 +137,59 @@ TEST(Analisis, LosAniosSinLluviaEntranEnLasRecurrencias)
     EXPECT_NE(TextoDe(a).find("de los 20 años con lluvia"), std::string::npos);
     EXPECT_NE(JsonDe(a).find("\"secos\":20,\"p0\":0.5}"), std::string::npos);
     EXPECT_EQ(TextoDe(a).find("nan"), std::string::npos);
+}
+
+/// Samples that no gauge gives: a law has its quantiles, rising with the recurrence, or a reason in words.
+TEST(Analisis, NingunaMuestraDaUnNumeroQueNoEs)
+{
+    const auto repite = [](std::size_t n, double x, std::vector<double> mas) {
+        mas.insert(mas.end(), n, x);
+        return mas;
+    };
+    std::vector<double> apenas, muchos, enormes;
+    Sorteo sorteo(3, 1);
+    for (int i = 0; i < 1000; ++i)
+        muchos.push_back(20 - 30 * std::log(-std::log(sorteo.Uniforme())) + 80);
+    for (int i = 0; i < 15; ++i) {
+        apenas.push_back(60 + 1e-6 * i * (i % 3));
+        enormes.push_back(1e5 - i * i);
+    }
+    const std::vector<std::vector<double>> muestras{repite(11, 50, {51}),
+                                                    repite(11, 50, {1}),
+                                                    repite(11, 1, {1e5}),
+                                                    repite(6, 10, repite(6, 90, {})),
+                                                    repite(30, 0, repite(9, 40, {41})),
+                                                    repite(10, 1e-9, {2e-9, 3e-9}),
+                                                    apenas,
+                                                    enormes,
+                                                    muchos};
+    for (std::size_t k = 0; k < muestras.size(); ++k) {
+        Serie s;
+        for (std::size_t i = 0; i < muestras[k].size(); ++i)
+            s.maximos.push_back({1200 + static_cast<int>(i), muestras[k][i]});
+        for (const Metodo metodo : {Metodo::Momentos, Metodo::MomentosL, Metodo::Verosimilitud})
+            for (const Bajos bajos : {Bajos::Quedan, Bajos::Boletin17B, Bajos::Boletin17C}) {
+                PedidoDeAnalisis pedido;
+                pedido.metodo = metodo;
+                pedido.tratamiento = {bajos, AsimetriaRegional{0.2, 0.3}, {}};
+                pedido.remuestreo.cuantas = muestras[k].size() < 100 ? 30 : 0;
+                const Analisis a = *Analiza(s, pedido);
+                for (const AjusteDeLey& f : a.ajustes) {
+                    if (!f.estimado.p) {
+                        EXPECT_FALSE(f.estimado.nota.empty()) << f.ley->clave;
+                        continue;
+                    }
+                    for (std::size_t i = 0; i < f.cuantiles.size(); ++i) {
+                        EXPECT_TRUE(std::isfinite(f.cuantiles[i])) << k << " " << f.ley->clave;
+                        if (i > 0) EXPECT_GE(f.cuantiles[i], f.cuantiles[i - 1]) << k << " " << f.ley->clave;
+                    }
+                }
+                for (const std::string& t : {TextoDe(a), JsonDe(a), CsvDe(a)})
+                    for (const char* no : {"nan", "inf"})
+                        EXPECT_EQ(t.find(no), std::string::npos) << k << t.substr(0, 3000);
+                if (bajos == Bajos::Quedan && metodo != Metodo::Momentos) break;
+            }
+    }
 }
 
 /// To be watched changes nothing.

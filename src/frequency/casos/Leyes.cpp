@@ -262,6 +262,19 @@ constexpr auto Filas = std::to_array<FilaDeCaso>({
          return Cuantiles(LogPearsonIII, Orestimba42(), {2, 10, 100, 500},
                           {1041.9, 6068.6, 19394.5, 32678.0});
      }},
+    {"SQRT-ETmax, planilla de Zorraquino",
+     "C. Zorraquino (2004), La función SQRT-ET max, Revista de Obras Públicas 3447, páginas 33 a 37, en su "
+     "planilla "
+     "de cálculo",
+     "por momentos; media 51.73 mm, desvío 16.35 mm", "lámina [mm]", Recurrencia, 0.25,
+     "la planilla saca k y la media de polinomios, buenos hasta 0,2 %", false,
+     [] {
+         Muestra m;
+         m.positiva = true;
+         m.directos.m = {51.73, 16.35, 0};
+         return Cuantiles(SqrtEtmax, SqrtEtmax.porMomentos(m), {5, 10, 25, 50, 100, 200, 500},
+                          {62.0, 72.0, 85.7, 96.5, 107.9, 119.8, 136.3});
+     }},
     {"SQRT-ETmax, CV 0.30", Carreteras, "por momentos; coeficiente de variación 0.30", "factor KT",
      Recurrencia, 0.0077, PorqueKt, false,
      [] {

@@ -136,7 +136,8 @@ const Ley Gev{
     PorMomentosL,
     MaximaVerosimilitud,
     "x = xi + alfa (1 - (-ln F)^k) / k",
-    "Jenkinson 1955; momentos L: Hosking, Wallis y Wood 1985; Coles 2001",
+    "Jenkinson 1955, Q. J. R. Meteorol. Soc. 81, 158-171; momentos L: Hosking, Wallis y Wood 1985, "
+    "Technometrics 27, 251-261; Coles 2001, capítulo 3",
     "Con k > 0 tiene un tope; con k < -0.33 no tiene asimetría. Con menos de 30 años k es poco seguro",
 };
 

@@ -54,7 +54,7 @@ const Ley Gumbel{
     PorMomentosL,
     MaximaVerosimilitud,
     "x = xi - alfa ln(-ln F)",
-    "Gumbel 1958; momentos L: Hosking y Wallis 1997, apéndice A.5",
+    "Gumbel 1958, Statistics of extremes; momentos L: Hosking y Wallis 1997, apéndice A.3",
     "Su asimetría es siempre 1.14: donde la muestra tiene otra, subestima o sobrestima las recurrencias "
     "altas",
 };

@@ -74,7 +74,8 @@ const Ley LogNormal2{
     PorMomentosL,
     PorVerosimilitud,
     "x = exp(mu + sigma u)",
-    "Chow 1954; Chow, Maidment y Mays 1988, capítulo 11; momentos L: Hosking 1990",
+    "Chow 1954, Proc. ASCE 80, separata 536; Chow, Maidment y Mays 1988, capítulo 11; momentos L: Hosking "
+    "1990, J. R. Stat. Soc. B 52, 105-124",
     "No admite ceros; su asimetría es la que le da el coeficiente de variación",
 };
 

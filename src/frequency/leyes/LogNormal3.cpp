@@ -133,7 +133,8 @@ const Ley LogNormal3{
     PorMomentosL,
     PorVerosimilitud,
     "x = zeta + exp(mu + sigma u)",
-    "Sangal y Biswas 1970; momentos L: Hosking y Wallis 1997, apéndice A.8; verosimilitud: Cohen 1951",
+    "Sangal y Biswas 1970, Water Resour. Res. 6, 505-515; momentos L: Hosking y Wallis 1997, apéndice A.8; "
+    "verosimilitud: Cohen 1951, J. Am. Stat. Assoc. 46, 206-212",
     "Sólo con asimetría positiva",
 };
 

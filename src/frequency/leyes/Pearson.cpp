@@ -99,7 +99,7 @@ const Ley PearsonIII{
     [](const Muestra& m) { return pearson::PorMomentosL(m.directos.l); },
     MaximaVerosimilitud,
     "x = mu + sigma (P^-1(4/g2, F) - 4/g2) g/2",
-    "Foster 1924; momentos L: Hosking y Wallis 1997, apéndice A.9",
+    "Foster 1924, Trans. ASCE 87, 142-173; momentos L: Hosking y Wallis 1997, apéndice A.9",
     "Con asimetría negativa tiene un tope",
 };
 

@@ -119,7 +119,8 @@ const Ley SqrtEtmax{
     PorMomentosL,
     MaximaVerosimilitud,
     "F = exp(-k (1 + u) e^-u), u = raíz(alfa x)",
-    "Etoh, Murota y Nakanishi 1986; Zorraquino 2004",
+    "Etoh, Murota y Nakanishi 1987, Hydrologic Frequency Modeling, Reidel, 253-264; Zorraquino 2004, Revista "
+    "de Obras Públicas 3447, 33-37",
     "Para lluvias diarias máximas; da una probabilidad e^-k a la lluvia 0",
 };
 
