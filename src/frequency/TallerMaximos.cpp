@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "forms/CampoNumerico.h"
+#include "frequency/ImportaMaximos.h"
 #include "model/Numeros.h"
 
 namespace frequency {
@@ -101,15 +102,30 @@ void PonMaximos(forms::Grilla& g, const std::vector<study::Maximo>& maximos)
     }
 }
 
-/// Rows that tell a part alone.
+/// A number without decimals; none: nothing.
+std::optional<int> Entero(const forms::FilaGrilla& fila, std::size_t columna)
+{
+    const auto x = Celda(fila, columna);
+    return x && *x == std::floor(*x) ? std::optional(static_cast<int>(*x)) : std::nullopt;
+}
+
+/// What keeps a row from being a maximum; empty: nothing, or there is nothing in it.
+std::string Reparo(const forms::FilaGrilla& fila)
+{
+    const auto anio = Celda(fila, 0), valor = Celda(fila, 1), dias = Celda(fila, 2);
+    if (anio && !Entero(fila, 0)) return "el año no es un número entero";
+    if (anio && !valor) return "falta el máximo";
+    if (valor && !anio) return "falta el año";
+    if (dias && !Entero(fila, 2)) return "los días no son un número entero";
+    return {};
+}
+
 std::string FilasIncompletas(const forms::Grilla& g)
 {
     std::string t;
-    for (std::size_t i = 0; i < g.filas.size(); ++i) {
-        const bool anio = Celda(g.filas[i], 0).has_value(), valor = Celda(g.filas[i], 1).has_value();
-        if (anio != valor)
-            t += "• Fila " + std::to_string(i + 1) + (anio ? ": falta el máximo.\n" : ": falta el año.\n");
-    }
+    for (std::size_t i = 0; i < g.filas.size(); ++i)
+        if (const std::string reparo = Reparo(g.filas[i]); !reparo.empty())
+            t += "• Fila " + std::to_string(i + 1) + ": " + reparo + ".\n";
     return t;
 }
 
@@ -268,10 +284,9 @@ std::vector<study::Maximo> MaximosDe(const forms::Grilla& g)
 {
     std::vector<study::Maximo> maximos;
     for (const forms::FilaGrilla& fila : g.filas) {
-        const auto anio = Celda(fila, 0), valor = Celda(fila, 1), dias = Celda(fila, 2);
-        if (!anio || !valor) continue;
-        study::Maximo& m = maximos.emplace_back(study::Maximo{static_cast<int>(*anio), *valor});
-        if (dias) m.dias = static_cast<int>(*dias);
+        const auto anio = Entero(fila, 0);
+        const auto valor = Celda(fila, 1);
+        if (anio && valor) maximos.push_back({*anio, *valor, Entero(fila, 2)});
     }
     std::stable_sort(maximos.begin(), maximos.end(),
                      [](const auto& a, const auto& b) { return a.anio < b.anio; });
@@ -280,7 +295,7 @@ std::vector<study::Maximo> MaximosDe(const forms::Grilla& g)
 
 forms::Grafico GraficoDeMaximos(const study::SerieDeMaximos& s)
 {
-    constexpr int Muchos = 3000, DiasDeUnAnioCompleto = 330;
+    constexpr int Muchos = 3000;
     forms::Grafico g;
     g.tipo = forms::TipoGrafico::Linea;
     g.ejeX = "Año";

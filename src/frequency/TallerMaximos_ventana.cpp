@@ -8,6 +8,7 @@
 
 #include "forms/Grilla_ventana.h"
 #include "forms/Lamina_ventana.h"
+#include "frequency/dlgImportaMaximos_ventana.h"
 
 namespace frequency {
 
@@ -25,6 +26,7 @@ TallerMaximos_ventana::TallerMaximos_ventana(forms::Entorno& alrededor, dlgTalle
     grilla->verticalHeader()->setDefaultSectionSize(grilla->fontMetrics().height() + EntreFilas);
     grilla->setMinimumWidth(grilla->horizontalHeader()->length() + 2 * grilla->frameWidth() +
                             grilla->verticalScrollBar()->sizeHint().width());
+    setFocusProxy(grilla);
     auto* const fila = EnFila({Datos(), {LadoALado(grilla, Derecha(), 0, 1), 1}});
     fila->setContentsMargins(0, 0, 0, 0);
     setLayout(fila);
@@ -61,7 +63,8 @@ QWidget* TallerMaximos_ventana::Datos()
              "chkDiaria", [this] { return m.chkDiaria; },
              [this](bool tildada) { chkDiaria_Click(f, tildada); }),
          EnFila({Boton("cmdNuevaSerie", [this] { cmdNuevaSerie(f); }),
-                 HabilitadoSi(Boton("cmdQuitaSerie", [this] { cmdQuitaSerie(f); }), haySerie)})});
+                 HabilitadoSi(Boton("cmdQuitaSerie", [this] { cmdQuitaSerie(f); }), haySerie)}),
+         Boton("cmdImportar", [this] { Importa(); })});
     auto* const dentro = new QWidget;
     auto* const pila = EnPila({Marco("MarcoEstacion", estacion), Marco("MarcoSerie", serie), Hueco()});
     pila->setContentsMargins(0, 0, 0, 0);
@@ -96,6 +99,11 @@ QWidget* TallerMaximos_ventana::Derecha()
     pila->setContentsMargins(0, 0, 0, 0);
     lado->setLayout(pila);
     return lado;
+}
+
+void TallerMaximos_ventana::Importa()
+{
+    dlgImportaMaximos_ventana(entorno, f, window()).Abre();
 }
 
 void TallerMaximos_ventana::Muestra()

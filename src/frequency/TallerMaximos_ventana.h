@@ -22,6 +22,7 @@ class TallerMaximos_ventana : public PaginaDeTaller {
   private:
     QWidget* Datos();
     QWidget* Derecha();
+    void Importa();
     QLineEdit* CampoDeTexto(std::string_view control, std::string& texto);
     QLineEdit* CampoDeNumero(std::string_view control, std::string& texto);
 

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <utility>
 
+#include "frequency/ImportaMaximos.h"
 #include "model/Numeros.h"
 
 namespace frequency {
@@ -151,7 +152,6 @@ std::string FaltanMaximos(const dlgTaller& f)
 
 Serie Revisada(const study::SerieDeMaximos& s)
 {
-    constexpr int DiasDeUnAnioCompleto = 330;  // flagged below
     Serie serie;
     std::string cortos;
     for (const study::Maximo& m : s.maximos) {

@@ -170,6 +170,7 @@ void dlgTaller_ventana::Abre()
     f.abierta = true;
     Muestra();
     entorno.Presenta(*this);
+    if (HayPagina()) Pagina().setFocus();
 }
 
 void dlgTaller_ventana::Muestra()

@@ -12,6 +12,7 @@
 #include "frequency/TallerAjustes.h"
 #include "frequency/TallerMaximos.h"
 #include "frequency/TallerPruebas.h"
+#include "frequency/dlgImportaMaximos.h"
 #include "model/Siro.h"
 #include "study/Abierto.h"
 
@@ -228,6 +229,61 @@ TEST_F(TallerDePrueba, LosPapelesTienenUnaFilaPorLugarYUnaColumnaPorLey)
                                  [](double x) { return !forms::EstaVacia(x); }) -
                     d.series[0].celdas.begin())),
                 a->muestra.directos.l.t3, 1e-12);
+}
+
+/// What a file has, read to its end.
+void LeeTodo(dlgImportaMaximos& i)
+{
+    Empieza(i);
+    const auto leida = Lee(i.bytes, static_cast<ClaseDeArchivo>(i.clase), PedidoDe(i), {});
+    ASSERT_TRUE(leida.has_value());
+    Termina(i, *leida);
+}
+
+TEST_F(TallerDePrueba, UnArchivoDeMaximosTomaElLugarDeLaSerieDeSuDuracionYSeDeshace)
+{
+    PonDoce();
+    disco.Pon("/proy/maximos.csv", "anio;mm\n1970;40\n1971;0\n1972;s/d\n1973;61,5\n");
+    anfitrion->elegidos = {"/proy/maximos.csv"};
+    dlgImportaMaximos i;
+    ASSERT_TRUE(Abre(i, s));
+    EXPECT_EQ(i.clase, 1) << "a year a line";
+    LeeTodo(i);
+    ASSERT_EQ(i.importacion.series.size(), 1U);
+    EXPECT_EQ(i.tblSeries.planilla.filas.at(0).at(1), std::to_string(i.importacion.series[0].maximos.size()));
+    i.txtDuraciones = "60; -3";
+    EXPECT_FALSE(txtDuraciones_AlSalir(i, s));
+    i.txtDuraciones = "1440";
+    EXPECT_TRUE(txtDuraciones_AlSalir(i, s));
+    OKButton(i, f);
+    EXPECT_EQ(TallerDe(f).estaciones.at(0).series.size(), 1U);
+    EXPECT_EQ(Serie(f).maximos.front(), (study::Maximo{1970, 40, {}}));
+    EXPECT_EQ(Serie(f).maximos.back(), (study::Maximo{1973, 61.5, {}}));
+    cmdDeshacer(f);
+    EXPECT_EQ(Serie(f).maximos.size(), 12U);
+}
+
+// Two days of July's year 1990, and one of 1991's: 30 mm on 30/06/1991 still belong to 1990.
+TEST_F(TallerDePrueba, UnRegistroDaLosMaximosDelAnioQueEmpiezaEnJulio)
+{
+    std::string texto = "fecha;mm\n";
+    for (int dia = 1; dia <= 30; ++dia)
+        texto += (dia < 10 ? "0" : "") + std::to_string(dia) + "/06/1991;" + (dia == 30 ? "30" : "1") + "\n";
+    for (int dia = 1; dia <= 30; ++dia)
+        texto += (dia < 10 ? "0" : "") + std::to_string(dia) + "/07/1991;" + (dia == 9 ? "12" : "1") + "\n";
+    disco.Pon("/proy/diario.csv", texto);
+    anfitrion->elegidos = {"/proy/diario.csv"};
+    dlgImportaMaximos i;
+    ASSERT_TRUE(Abre(i, s));
+    EXPECT_EQ(i.clase, 0);
+    i.mes = 6;
+    LeeTodo(i);
+    ASSERT_EQ(i.importacion.series.size(), 1U) << i.lblAvisos;
+    OKButton(i, f);
+    ASSERT_EQ(Serie(f).maximos.size(), 2U);
+    EXPECT_EQ(Serie(f).maximos[0].anio, 1990);
+    EXPECT_EQ(Serie(f).maximos[0].valor, 30);
+    EXPECT_EQ(Serie(f).maximos[1].valor, 12);
 }
 
 }  // namespace
