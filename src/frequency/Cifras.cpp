@@ -35,28 +35,37 @@ std::size_t LargoDeTrozo(std::string_view t)
     return i;
 }
 
-}  // namespace
-
-std::string FormulaEnHtml(std::string_view formula)
+/// Lone letters slanted, what rich text takes for a mark written out.
+std::string ConLetras(std::string_view formula)
 {
     std::string t;
     for (std::size_t i = 0; i < formula.size();) {
-        const std::string_view resto = formula.substr(i);
-        if (resto.front() == '^') {
-            std::string_view exponente = resto.substr(1, LargoDeTrozo(resto.substr(1)));
-            i += 1 + exponente.size();
-            if (exponente.starts_with('(')) exponente = exponente.substr(1, exponente.size() - 2);
-            t += "<sup>" + FormulaEnHtml(exponente) + "</sup>";
-            continue;
-        }
-        const std::size_t largo = resto.front() == '(' ? 0 : LargoDeTrozo(resto);
-        const std::string trozo(resto.substr(0, std::max<std::size_t>(largo, 1)));
+        const std::size_t largo = formula[i] == '(' ? 0 : LargoDeTrozo(formula.substr(i));
+        const std::string trozo(formula.substr(i, std::max<std::size_t>(largo, 1)));
         const bool letra = largo == 1 && (trozo[0] < '0' || trozo[0] > '9') && trozo[0] != '.';
         if (letra)
             t += "<i>" + trozo + "</i>";
         else
             t += trozo == "<" ? "&lt;" : trozo == ">" ? "&gt;" : trozo == "&" ? "&amp;" : trozo;
         i += trozo.size();
+    }
+    return t;
+}
+
+}  // namespace
+
+std::string FormulaEnHtml(std::string_view formula)
+{
+    std::string t;
+    for (std::size_t i = 0; i < formula.size();) {
+        const std::size_t alza = std::min(formula.find('^', i), formula.size());
+        t += ConLetras(formula.substr(i, alza - i));
+        if (alza == formula.size()) break;
+        std::string_view exponente = formula.substr(alza + 1);
+        exponente = exponente.substr(0, LargoDeTrozo(exponente));
+        i = alza + 1 + exponente.size();
+        if (exponente.starts_with('(')) exponente = exponente.substr(1, exponente.size() - 2);
+        t += "<sup>" + ConLetras(exponente) + "</sup>";
     }
     return t;
 }

@@ -5,6 +5,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSplitter>
+#include <algorithm>
 
 #include "forms/Grilla_ventana.h"
 #include "forms/Lamina_ventana.h"
@@ -143,9 +144,11 @@ QWidget* TallerIdf_ventana::Elecciones()
 QWidget* TallerIdf_ventana::Derecha()
 {
     tabla = new forms::TablaCuadro(entorno, m.tblCurvas, "tblCurvas", Fila("tblCurvas").leyenda);
-    constexpr int LetrasDeLamina = 11, LetrasDeDuracion = 16;
-    std::vector<int> letras(model::Recurrencias.size() + 1, LetrasDeLamina);
-    letras.front() = LetrasDeDuracion;
+    constexpr int LetrasDeDuracion = 16, LetrasAlMenos = 10, LetrasSinCifras = 8;
+    std::vector<int> letras{LetrasDeDuracion};
+    for (const int T : model::Recurrencias)
+        letras.push_back(
+            std::max(LetrasAlMenos, static_cast<int>(std::to_string(T).size()) + LetrasSinCifras));
     tabla->PonColumnas(std::move(letras));
     tabla->AlPulsarEncabezado = [this](int columna) {
         Suceso([&] { forms::PulsaEncabezado(m.tblCurvas, columna); });
@@ -172,7 +175,7 @@ QWidget* TallerIdf_ventana::Derecha()
                                      [this](bool tildada) { chkLogaritmos_Click(m, f, tildada); })});
     QSplitter* const barra = LadoALado(tabla, grafico);
     barra->setOrientation(Qt::Vertical);
-    constexpr int ParteDeTabla = 2, ParteDeGrafico = 3;
+    constexpr int ParteDeTabla = 1, ParteDeGrafico = 2;
     barra->setSizes({1000 * ParteDeTabla, 1000 * ParteDeGrafico});
     auto* const lado = new QWidget;
     auto* const pila = EnPila({arriba, {barra, 1}, lugar});

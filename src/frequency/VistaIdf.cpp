@@ -86,16 +86,16 @@ forms::Grafico GraficoDeCurvas(const TallerIdf& m)
     g.tipo = forms::TipoGrafico::Linea;
     g.ejeX = "Duración [min]";
     g.ejeY = deLaminas ? "Lámina [mm]" : "Intensidad [mm/h]";
+    if (!c.errores.empty()) return g;
     g.leyendaVisible = g.muchasLineas = true;
     g.tituloLeyenda = "Recurrencia";
     g.ejeYLogaritmico = m.chkLogaritmos;
-    if (!c.errores.empty()) return g;
     const auto pon = [&](CurvaDeGrafico& curva, double d, double intensidad) {
         if (std::isfinite(intensidad) && intensidad > 0)
             curva.puntos.push_back({Eje(m.chkLogaritmos, d), intensidad * (deLaminas ? d / 60 : 1)});
     };
     std::vector<CurvaDeGrafico> curvas;
-    CurvaDeGrafico ajustados{forms::TipoSerie::Puntos2D, "puntos del ajuste", {}};
+    CurvaDeGrafico ajustados{forms::TipoSerie::Puntos2D, "puntos", {}};
     for (const int T : RecurrenciasDibujadas) {
         CurvaDeGrafico& curva = curvas.emplace_back();
         curva.leyenda = std::to_string(T) + " años";

@@ -266,6 +266,18 @@ TEST(Curvas, DeVariasDuracionesAjustanLaFamilia)
                      "extrapolación."));
 }
 
+// Gumbel's quantiles aren't a power of T: over 2 to 10000 years they leave it by more than a tenth, at each T
+// none.
+TEST(Curvas, LaFamiliaQueSeApartaSeDice)
+{
+    study::Idf pedido = Diaria("dick-peschke");
+    pedido.familia = "sherman";
+    const study::Estacion e = Estacion({Serie(1440, 1)});
+    EXPECT_TRUE(Dice(De(pedido, e).avisos, "Sherman se aparta hasta "));
+    pedido.familia = "libre";
+    EXPECT_FALSE(Dice(De(pedido, e).avisos, "se aparta"));
+}
+
 TEST(Curvas, LaLeyQueNadieEligioEsLaRecomendada)
 {
     study::SerieDeMaximos s = Serie(1440, 1);
@@ -368,7 +380,7 @@ TEST(Curvas, DicenPorQueNoHay)
          "La estación no tiene máximos diarios (de 1440 min)."},
         {"clave", Diaria("otra"), una, "No hay una desagregación \"otra\"."},
         {"sin I1Id", Diaria("5.2-ic"), una,
-         "Falta el coeficiente I1Id de Instrucción 5.2-IC de 1990: torrencialidad, la intensidad de una hora "
+         "Falta el coeficiente I1Id de 5.2-IC de 1990: torrencialidad, la intensidad de una hora "
          "sobre la "
          "del día."},
         {"I1Id", Diaria("5.2-ic", {{"I1Id", 50}}), una, "El coeficiente I1Id debe estar entre 1 y 20."},

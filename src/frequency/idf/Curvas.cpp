@@ -82,6 +82,7 @@ class Taller {
         if (!c.errores.empty()) return;
         AvisaDuraciones();
         AvisaRecurrencias();
+        AvisaAjuste();
         if (c.reduccion != nullptr && !c.reduccion->propia && c.area > AreaHabitual)
             c.avisos.push_back("La reducción areal se usa en cuencas de hasta 3000 km2; el área es de " +
                                Cifras(c.area) + " km2.");
@@ -321,6 +322,19 @@ class Taller {
     }
 
     // --- what is to be known ---
+
+    /// A power of T follows no law of maxima from end to end.
+    void AvisaAjuste()
+    {
+        constexpr double Mucho = 0.10;
+        const Calidad& q = c.ajuste.calidad;
+        if (!(std::abs(q.errorMaximo) > Mucho)) return;
+        std::string t = std::string(c.ajuste.familia->nombre) + " se aparta hasta " +
+                        Con(100 * std::abs(q.errorMaximo), 0) + " % de lo que ajusta: ";
+        t += c.ajuste.familia->porRecurrencia ? "pruebe otra" : "la familia Libre lo sigue mejor";
+        if (c.desagregacion != nullptr) t += "; sin familia las láminas son las de la desagregación";
+        c.avisos.push_back(t + ".");
+    }
 
     void AvisaDuraciones()
     {
