@@ -224,7 +224,6 @@ void chkDiaria_Click(dlgTaller& f, bool tildada)
 void cmdNuevaEstacion(dlgTaller& f)
 {
     Cambia(f, "Nueva estación", [](study::Taller& t) {
-        if (t.estaciones.empty()) t.estaciones.emplace_back();  // the one that stood there without a word
         t.estaciones.push_back({.series = {study::SerieDeMaximos{}}});
     });
     cmbEstacion_Click(f, static_cast<int>(f.estaciones.size()) - 1);

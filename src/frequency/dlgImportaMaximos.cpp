@@ -96,7 +96,7 @@ std::string EnRenglones(const std::vector<std::string>& textos)
 bool Abre(dlgImportaMaximos& f, const model::Siro& s)
 {
     const std::string ruta =
-        s.Anfitrion.EligeArchivo("Importar máximos anuales", "Registros y máximos |*.csv;*.txt;*.dat;*.tsv");
+        s.Anfitrion.EligeArchivo("Importar máximos anuales", "Registros y máximos |*.csv *.txt *.dat *.tsv");
     if (ruta.empty()) return false;
     f = {};
     f.meses = {"enero", "febrero", "marzo",      "abril",   "mayo",      "junio",

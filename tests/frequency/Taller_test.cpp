@@ -70,6 +70,13 @@ TEST(Taller, SinProyectoDiceQueFaltaYNoCambiaNada)
     EXPECT_TRUE(TallerDe(f).estaciones.empty());
 }
 
+TEST_F(TallerDePrueba, LaPrimeraEstacionNuevaEsUnaSola)
+{
+    cmdNuevaEstacion(f);
+    EXPECT_EQ(TallerDe(f).estaciones.size(), 1U);
+    EXPECT_EQ(f.estacion, 0);
+}
+
 TEST_F(TallerDePrueba, UnaFilaEnteraEsUnMaximoYLaQueNoEsperaSinPerderse)
 {
     PonFila(1, "1991", "");
@@ -247,6 +254,8 @@ TEST_F(TallerDePrueba, UnArchivoDeMaximosTomaElLugarDeLaSerieDeSuDuracionYSeDesh
     anfitrion->elegidos = {"/proy/maximos.csv"};
     dlgImportaMaximos i;
     ASSERT_TRUE(Abre(i, s));
+    EXPECT_EQ(anfitrion->sucesos.back().mensaje.texto.find(';'), std::string::npos)
+        << "patterns of names stand apart by blanks; with anything else no file is offered";
     EXPECT_EQ(i.clase, 1) << "a year a line";
     LeeTodo(i);
     ASSERT_EQ(i.importacion.series.size(), 1U);
