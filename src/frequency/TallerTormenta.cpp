@@ -108,7 +108,8 @@ forms::Grafico GraficoDe(const Diseno& d)
 {
     forms::Grafico g;
     g.titulo = "Hietograma";
-    g.ejeX = "t [min]";
+    g.magnitudX = "t";
+    g.ejeX = "min";
     g.ejeY = "Precipitación [mm]";
     g.leyendaVisible = true;
     forms::Serie ideal{.leyenda = "Patrón"},

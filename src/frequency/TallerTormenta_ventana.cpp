@@ -46,7 +46,7 @@ TallerTormenta_ventana::TallerTormenta_ventana(forms::Entorno& alrededor, dlgTal
     tabla->DaPlanilla = [this] { return PlanillaDeTormenta(m, f); };
     auto* const fila =
         EnFila({Elecciones(),
-                {EnPila({{LadoALado(tabla, Derecha(), 0, 1), 1}, Marco("MarcoModelo", AlModelo())}), 1}});
+                {EnPila({{LadoALado(tabla, Derecha(), 9, 11), 1}, Marco("MarcoModelo", AlModelo())}), 1}});
     fila->setContentsMargins(0, 0, 0, 0);
     setLayout(fila);
 }
@@ -115,7 +115,13 @@ QLayout* TallerTormenta_ventana::AlModelo()
                                            [this](int i) { cmbDistribucion_Click(f, i); });
     auto* const deshace = HabilitadoSi(Escribe("cmdDeshacerEscritura", &cmdDeshacerEscritura),
                                        [this] { return !m.escrituras.empty(); });
-    AlMostrar([this, deshace] { deshace->setText(forms::Q(m.cmdDeshacerEscritura)); });
+    AlMostrar([this, deshace] {
+        constexpr int Letras = 34;
+        const QString leyenda = forms::Q(m.cmdDeshacerEscritura);
+        deshace->setText(
+            fontMetrics().elidedText(leyenda, Qt::ElideMiddle, Letras * fontMetrics().averageCharWidth()));
+        deshace->setToolTip(leyenda + QStringLiteral("\n") + forms::Q(Fila("cmdDeshacerEscritura").ayuda));
+    });
     return EnRejilla(
         {{Rotulo("cmbTabla", tablaPDR), tablaPDR,
           HabilitadoSi(Escribe("cmdLlenar", &cmdLlenar), [this] { return bool(m.fuentes.curvas); }),

@@ -103,6 +103,15 @@ std::int16_t TopeDe(const model::TablasDeLluvia& t)
     return model::Suma16(*std::max_element(t.NroFilasTabla.begin(), t.NroFilasTabla.end()), 1);
 }
 
+/// The notes of the storm with what was done to it behind them.
+std::string NotasDeEscalada(const std::string& notas, const std::string& origen, double lamina, double factor)
+{
+    constexpr int Decimales = 2;
+    return SinComillas(notas + (notas.empty() ? "" : ". ") + "Escalada a " +
+                       model::NumeroATexto(model::Redondea(lamina, Decimales)) + " mm: las láminas de " +
+                       origen + " por " + model::NumeroATexto(model::Redondea(factor, 2 * Decimales)));
+}
+
 std::string ErrorDeDestino(const std::string& destino)
 {
     if (!destino.ends_with(model::TerminacionTormenta))
@@ -187,9 +196,7 @@ Escritura EscalaGrabada(const Siro& s, const std::string& origen, const std::str
     try {
         for (int j = 1; j <= ensayo.s.Tormenta.NroPpReal; ++j)
             ensayo.s.Tormenta.PpReal(j) = model::Simple(double{ensayo.s.Tormenta.PpReal(j)} * factor);
-        tormenta.Notas = SinComillas(tormenta.Notas + " Escalada a " + model::NumeroATexto(lamina) +
-                                     " mm: las láminas de " + origen + " por " +
-                                     model::NumeroATexto(model::Simple(factor)) + ".");
+        tormenta.Notas = NotasDeEscalada(tormenta.Notas, origen, lamina, factor);
         tormenta.nombre = destino;
         const std::string ruta = model::Ruta(s.Proyecto.DirProyecto, destino);
         const std::optional<std::string> antes = Bytes(s, ruta);
