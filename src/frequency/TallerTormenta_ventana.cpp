@@ -116,7 +116,7 @@ QLayout* TallerTormenta_ventana::AlModelo()
     auto* const deshace = HabilitadoSi(Escribe("cmdDeshacerEscritura", &cmdDeshacerEscritura),
                                        [this] { return !m.escrituras.empty(); });
     AlMostrar([this, deshace] {
-        constexpr int Letras = 34;
+        constexpr int Letras = 44;
         const QString leyenda = forms::Q(m.cmdDeshacerEscritura);
         deshace->setText(
             fontMetrics().elidedText(leyenda, Qt::ElideMiddle, Letras * fontMetrics().averageCharWidth()));

@@ -139,8 +139,8 @@ TEST_F(EscribeLluvia, UnaTormentaGrabadaSeLlevaAOtraLamina)
     const Escritura e = frequency::EscalaGrabada(s, "Chica_pt.vlm", "Grande_pt.vlm", 50);
     EXPECT_EQ(e.error, "");
     EXPECT_EQ(disco.Bytes("/proy/Grande_pt.vlm"),
-              "\"Del 4/3 Escalada a 50 mm: las l\xE1minas de Chica_pt.vlm por "
-              "2.5.\"\r\n3,15\r\n\"04/03/2001\",\"10:00\"\r\n"
+              "\"Del 4/3. Escalada a 50 mm: las l\xE1minas de Chica_pt.vlm por "
+              "2.5\"\r\n3,15\r\n\"04/03/2001\",\"10:00\"\r\n"
               "\"04/03/2001\",\"10:45\"\r\n12.5\r\n31.25\r\n6.25\r\n");
     EXPECT_EQ(frequency::LeeGrabada(s, "Grande_pt.vlm").total, 50);
     EXPECT_EQ(frequency::Deshace(s, e.cambio), "");
