@@ -23,6 +23,7 @@ frequency::PedidoDeAnalisis PedidoDe(const Opciones& o)
         if (frequency::ClaveDe(metodo) == o.metodo) pedido.metodo = metodo;
     if (const frequency::Ley* ley = frequency::LeyDeClave(o.ley)) pedido.leyes = {ley};
     pedido.remuestreo = {o.semilla, o.remuestras, o.hilos};
+    pedido.posicion = o.posicion;
     if (!o.bajos.empty())
         pedido.tratamiento.bajos =
             o.bajos == "17b" ? frequency::Bajos::Boletin17B : frequency::Bajos::Boletin17C;

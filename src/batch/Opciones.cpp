@@ -236,6 +236,8 @@ constexpr auto Filas = std::to_array<FilaOpcion>({
     {"--responde", [](Opciones& o, const std::string& v) { o.respondeSi = RespondeSi(v); }},
     {"--hilos", [](Opciones& o, const std::string& v) { o.hilos = Hilos(v); }, DeCorrida | DeFrecuencia},
     {"--resultados", [](Opciones& o, const std::string& v) { o.resultados = v; }},
+    {"--posicion", [](Opciones& o, const std::string& v) { o.posicion = NumeroEntre(v, 0, 0.5); },
+     DeFrecuencia},
     {"--bajos", [](Opciones& o, const std::string& v) { o.bajos = Bajos(v); }, DeFrecuencia},
     {"--asimetria", [](Opciones& o, const std::string& v) { o.asimetria = NumeroEntre(v, -3, 3); },
      DeFrecuencia},

@@ -41,8 +41,10 @@ struct Opciones {
     int remuestras = 1000;          ///< samples of the bootstrap, 0 or 100 to 100000
     std::uint32_t semilla = 1;      ///< of their numbers
     std::string bajos{};            ///< how log-Pearson III takes low values: 17b, 17c; empty: as the others
-    std::optional<double> asimetria{};                     ///< of the region's logarithms, -3 to 3
-    double ecmAsimetria = 0.302;                           ///< its mean square error, above 0
+    std::optional<double> asimetria{};  ///< of the region's logarithms, -3 to 3
+    double ecmAsimetria = 0.302;        ///< its mean square error, above 0
+    double posicion = 0.4;              ///< a of the plotting positions, 0 to 0.5
+
     bool csv = false;                                      ///< quantiles as CSV, not as text
     study::Idf idf{};                                      ///< what curves are made of, and how
     std::vector<std::pair<double, std::string>> series{};  ///< duration [min] and path of its maxima

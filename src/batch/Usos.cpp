@@ -73,6 +73,7 @@ valor, el año queda como hueco; 0 es un año sin lluvia. Hacen falta 10 años c
   --bajos B               con el método momentos, los valores bajos de logpearson3 como en Bulletin 17B o 17C: 17b,
                           17c (cuentan como los demás)
   --asimetria G           con el método momentos, la asimetría regional que se pondera con la de logpearson3
+  --posicion A            la a de las posiciones (i - a)/(n + 1 - 2a) del papel de probabilidad, 0 a 0.5 (0.4, Cunnane)
   --ecm-asimetria E       el error medio cuadrático de esa asimetría (0.302)
   --remuestras N          remuestreos para las bandas y las p, 100 a 100000; 0: ninguno (1000)
   --semilla N             la de los remuestreos: la misma da los mismos resultados (1)

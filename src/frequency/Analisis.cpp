@@ -120,6 +120,7 @@ std::optional<Analisis> Analiza(const Serie& serie, const PedidoDeAnalisis& pedi
     a.serie = serie;
     a.metodo = pedido.metodo;
     a.pedido = pedido.remuestreo;
+    a.posicion = pedido.posicion;
     std::vector<double> x;
     for (const Maximo& m : serie.maximos)
         x.push_back(m.valor);

@@ -17,6 +17,7 @@ struct PedidoDeAnalisis {
     std::vector<const Ley*> leyes{};  ///< empty: all of them
     PedidoDeRemuestreo remuestreo{};
     Tratamiento tratamiento{};  ///< of log-Pearson III by moments
+    double posicion = Cunnane;  ///< a of the plotting positions on paper, 0 to 0.5
 };
 
 /// A law as fitted; without parameters only `estimado.nota` says anything.
@@ -40,6 +41,7 @@ struct Analisis {
     Serie serie{};
     Metodo metodo = Metodo::MomentosL;
     PedidoDeRemuestreo pedido{};
+    double posicion = Cunnane;
     Muestra muestra{};
     std::vector<Prueba> pruebas{};
     std::vector<AjusteDeLey> ajustes{};

@@ -2,9 +2,11 @@
 #include "frequency/EscribeAnalisis.h"
 
 #include <string_view>
+#include <vector>
 
 #include "checks/Json.h"
 #include "frequency/Cifras.h"
+#include "frequency/Diagramas.h"
 #include "model/Texto.h"
 
 namespace frequency {
@@ -149,6 +151,40 @@ std::string JsonDePrueba(const Prueba& p)
            ",\"veredicto\":" + Citado(p.veredicto) + ",\"remedio\":" + Citado(p.remedio) + "}";
 }
 
+std::string JsonDePuntos(const std::vector<Punto>& puntos)
+{
+    return Arreglo(puntos, [](const Punto& q) { return "[" + N(q.x) + "," + N(q.y) + "]"; });
+}
+
+/// What the two pictures show, of the law recommended its cloud.
+std::string JsonDeDiagramas(const Analisis& a)
+{
+    const AjusteDeLey* recomendada = nullptr;
+    for (const AjusteDeLey& f : a.ajustes)
+        if (f.ley == a.recomendacion.ley) recomendada = &f;
+    const DiagramaL d = DiagramaDe(a, recomendada);
+    std::string t =
+        "{\"muestra\":[" + N(d.muestra.x) + "," + N(d.muestra.y) + "],\"leyes\":" +
+        Arreglo(d.leyes,
+                [](const Curva& c) {
+                    return "{\"ley\":" + Citado(c.ley->clave) + ",\"puntos\":" + JsonDePuntos(c.puntos) + "}";
+                }) +
+        ",\"elipse\":" + JsonDePuntos(d.elipse) + "}";
+    t += ",\"posicion\":" + N(a.posicion);
+    for (const Ejes ejes : {Ejes::Gumbel, Ejes::LogNormal}) {
+        const PapelDeProbabilidad papel = PapelDe(a, ejes, a.posicion);
+        t += (ejes == Ejes::Gumbel ? ",\"papelGumbel\":" : ",\"papelLogNormal\":") +
+             std::string("{\"datos\":") + JsonDePuntos(papel.datos) + ",\"leyes\":" +
+             Arreglo(papel.leyes,
+                     [](const CurvaDePapel& c) {
+                         return "{\"ley\":" + Citado(c.curva.ley->clave) +
+                                ",\"puntos\":" + JsonDePuntos(c.curva.puntos) + "}";
+                     }) +
+             "}";
+    }
+    return t;
+}
+
 }  // namespace
 
 std::string TextoDe(const Analisis& a)
@@ -173,6 +209,7 @@ std::string JsonDe(const Analisis& a)
     t += ",\"pruebas\":" + Arreglo(a.pruebas, JsonDePrueba);
     t += ",\"recurrencias\":" + Arreglo(model::Recurrencias, [](int r) { return std::to_string(r); });
     t += ",\"ajustes\":" + Arreglo(a.ajustes, JsonDeAjuste);
+    t += ",\"diagramaL\":" + JsonDeDiagramas(a);
     t += ",\"recomendacion\":{\"ley\":" +
          (a.recomendacion.ley != nullptr ? Citado(a.recomendacion.ley->clave) : std::string("null")) +
          ",\"motivo\":" + Citado(a.recomendacion.motivo) + "}}\n";

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <string>
 #include <string_view>
@@ -136,6 +137,22 @@ TEST_F(FrecuenciaLote, PonderaLaAsimetriaYTomaLosValoresBajos)
     EXPECT_NE(seco.estandar.find("Años sin lluvia: 1 de 40 (1989)."), std::string::npos) << seco.estandar;
 }
 
+/// The pictures that a law is chosen by, as numbers: the last of 40 on Gumbel's paper by Gringorten's
+/// position.
+TEST_F(FrecuenciaLote, ElJsonTraeLosDiagramas)
+{
+    const Respuesta r = Lote({ruta.c_str(), "--json", "--remuestras", "100", "--posicion", "0.44"});
+    const std::string_view t = r.estandar;
+    const std::size_t papel = t.find("\"posicion\":0.44,\"papelGumbel\":{\"datos\":[["),
+                      fin = t.find("]]", papel);
+    ASSERT_NE(papel, std::string_view::npos) << t;
+    const std::size_t ultimo = t.rfind('[', fin) + 1;
+    const double x = -std::log(-std::log((40 - 0.44) / 40.12));
+    EXPECT_NEAR(std::stod(std::string(t.substr(ultimo, fin - ultimo))), x, 1e-9);
+    for (const char* clave : {"\"diagramaL\":{\"muestra\":[", "\"elipse\":[[", "\"papelLogNormal\":{"})
+        EXPECT_NE(t.find(clave), std::string_view::npos) << clave;
+}
+
 TEST_F(FrecuenciaLote, LaOrdenErroneaSeExplica)
 {
     const auto motivo = [](const std::vector<const char*>& palabras) {
@@ -149,6 +166,8 @@ TEST_F(FrecuenciaLote, LaOrdenErroneaSeExplica)
     EXPECT_EQ(motivo({"a.csv", "--remuestras", "50"}), "siro-lote: --remuestras: debe ser 0, o 100 o más");
     EXPECT_EQ(motivo({"a.csv", "--semilla", "-1"}),
               "siro-lote: --semilla: debe ser un número entero entre 0 y 4294967295");
+    EXPECT_EQ(motivo({"a.csv", "--posicion", "1"}),
+              "siro-lote: --posicion: debe ser un número entre 0 y 0.5");
     EXPECT_EQ(motivo({"a.csv", "--bajos", "17d"}), "siro-lote: --bajos: debe ser 17b o 17c");
     EXPECT_EQ(motivo({"a.csv", "--asimetria", "9"}),
               "siro-lote: --asimetria: debe ser un número entre -3 y 3");
