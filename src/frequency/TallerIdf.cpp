@@ -27,7 +27,7 @@ constexpr auto EditablesLibre =
 constexpr forms::ReglasGrilla ReglasRazones{.encabezado = ">  Duración [min]  |>  Razón a 24 h  ",
                                             .editables = EditablesRazones,
                                             .enterPoneCero = false};
-constexpr forms::ReglasGrilla ReglasLibre{.encabezado = ">  T [años]  |>  a  |>  b [min]  |>  c  ",
+constexpr forms::ReglasGrilla ReglasLibre{.encabezado = ">  T [años]  |>           a  |>  b [min]  |>         c  ",
                                           .editables = EditablesLibre,
                                           .enterPoneCero = false};
 

@@ -104,6 +104,7 @@ forms::Grafico GraficoDeCurvas(const TallerIdf& m)
         for (const idf::Punto& p : c.puntos)
             if (p.recurrencia == T) pon(ajustados, p.duracion, p.intensidad * idf::FactorAreal(c));
     }
+    std::erase_if(curvas, [](const CurvaDeGrafico& curva) { return curva.puntos.empty(); });
     if (!c.ajuste.ajustadas.empty()) curvas.push_back(std::move(ajustados));
     PonCurvas(g, curvas, [&](double x) {
         return model::NumeroATexto(model::Redondea(m.chkLogaritmos ? std::pow(10, x) : x, 3)) + " min";

@@ -201,6 +201,7 @@ TEST_F(TallerIdfDePrueba, CoeficientesConocidos)
     Hace([&] { grdLibre_Asienta(m, f); });
     EXPECT_EQ(m.tblCurvas.planilla.filas[0][1], "");
     EXPECT_EQ(m.tblCurvas.planilla.filas[0][3], "7.8");  // 900 / 17^0.8 / 12
+    EXPECT_EQ(m.Grafico.series.size(), 1U);              // no other recurrence has a curve
     Elige(&TallerIdf::cmbFamilia, "Sherman", &cmbFamilia_Click);
     EXPECT_EQ(m.txtCoef[0], "822");  // kept
 }
