@@ -75,7 +75,7 @@ std::vector<Punto> ElipseDe(const std::vector<Punto>& nube)
 
 double AlEje(Ejes ejes, double lamina)
 {
-    return ejes == Ejes::LogNormal && lamina <= 0 ? std::nan("") : lamina;
+    return ejes == Ejes::DeLogNormal && lamina <= 0 ? std::nan("") : lamina;
 }
 
 void Pon(std::vector<Punto>& donde, Ejes ejes, double F, double lamina)
@@ -93,7 +93,7 @@ CurvaDePapel CurvaDe(const AjusteDeLey& f, Ejes ejes, double desde)
     const double x0 = Reducida(ejes, desde), paso = (Reducida(ejes, hasta) - x0) / Pasos;
     for (int i = 0; i <= Pasos; ++i) {
         const double x = x0 + paso * i;
-        const double F = ejes == Ejes::Gumbel ? std::exp(-std::exp(-x)) : NormalProbabilidad(x);
+        const double F = ejes == Ejes::DeGumbel ? std::exp(-std::exp(-x)) : NormalProbabilidad(x);
         Pon(c.curva.puntos, ejes, F, Cuantil(*f.ley, *f.estimado.p, f.p0, F));
     }
     for (std::size_t i = 0; f.remuestreo.Hay() && i < model::Recurrencias.size(); ++i) {
@@ -154,7 +154,7 @@ DiagramaL DiagramaDe(const Analisis& a, const AjusteDeLey* deNube)
 
 double Reducida(Ejes ejes, double F)
 {
-    return ejes == Ejes::Gumbel ? -std::log(-std::log(F)) : NormalCuantil(F);
+    return ejes == Ejes::DeGumbel ? -std::log(-std::log(F)) : NormalCuantil(F);
 }
 
 PapelDeProbabilidad PapelDe(const Analisis& a, Ejes ejes, double posicion)

@@ -37,7 +37,7 @@ DiagramaL DiagramaDe(const Analisis& a, const AjusteDeLey* deNube);
 
 /// The scale of F on which a law is a straight line: Gumbel's variate -ln(-ln F) with depths as they are, the
 /// normal one with their logarithms.
-enum class Ejes : std::uint8_t { Gumbel, LogNormal };
+enum class Ejes : std::uint8_t { DeGumbel, DeLogNormal };
 
 /// x of a probability of not being exceeded, 0 < F < 1.
 double Reducida(Ejes ejes, double F);
@@ -55,7 +55,7 @@ struct MarcaDePapel {
 
 /// Reduced variate (x) against depth (y) [mm]. Over logarithms what isn't above 0 is left out.
 struct PapelDeProbabilidad {
-    Ejes ejes = Ejes::Gumbel;
+    Ejes ejes = Ejes::DeGumbel;
     std::vector<Punto> datos{};  ///< the sample by its plotting positions
     std::vector<int> anios{};    ///< of each point
     std::vector<CurvaDePapel> leyes{};

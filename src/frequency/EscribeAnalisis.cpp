@@ -171,9 +171,9 @@ std::string JsonDeDiagramas(const Analisis& a)
                 }) +
         ",\"elipse\":" + JsonDePuntos(d.elipse) + "}";
     t += ",\"posicion\":" + N(a.posicion);
-    for (const Ejes ejes : {Ejes::Gumbel, Ejes::LogNormal}) {
+    for (const Ejes ejes : {Ejes::DeGumbel, Ejes::DeLogNormal}) {
         const PapelDeProbabilidad papel = PapelDe(a, ejes, a.posicion);
-        t += (ejes == Ejes::Gumbel ? ",\"papelGumbel\":" : ",\"papelLogNormal\":") +
+        t += (ejes == Ejes::DeGumbel ? ",\"papelGumbel\":" : ",\"papelLogNormal\":") +
              std::string("{\"datos\":") + JsonDePuntos(papel.datos) + ",\"leyes\":" +
              Arreglo(papel.leyes,
                      [](const CurvaDePapel& c) {

@@ -23,7 +23,7 @@ std::string ConCifras(double x, int cifras)
 /// The recurrence [years] of a place of the paper.
 std::string RecurrenciaDe(Ejes ejes, double x)
 {
-    const double excede = ejes == Ejes::Gumbel ? -std::expm1(-std::exp(-x)) : NormalProbabilidad(-x);
+    const double excede = ejes == Ejes::DeGumbel ? -std::expm1(-std::exp(-x)) : NormalProbabilidad(-x);
     constexpr int Cifras = 4;
     return ConCifras(1 / excede, Cifras);
 }
@@ -104,7 +104,7 @@ forms::Grafico GraficoDePapel(const Analisis& a, const PedidoDePapel& pedido)
     g.tipo = forms::TipoGrafico::Linea;
     g.ejeX = "Recurrencia [años]";
     g.ejeY = "Lámina [mm]";
-    g.ejeYLogaritmico = pedido.ejes == Ejes::LogNormal;
+    g.ejeYLogaritmico = pedido.ejes == Ejes::DeLogNormal;
     g.leyendaVisible = g.muchasLineas = true;
     std::vector<CurvaDeGrafico> curvas{{TipoSerie::Puntos2D, "Máximos", papel.datos}};
     for (const CurvaDePapel& ley : papel.leyes) {

@@ -28,7 +28,7 @@ void PonCurvas(forms::Grafico& g, const std::vector<CurvaDeGrafico>& curvas,
 /// What is drawn of an analysis. `enMano`: the law whose band is drawn, the only one drawn where `sola`;
 /// null: none.
 struct PedidoDePapel {
-    Ejes ejes = Ejes::Gumbel;
+    Ejes ejes = Ejes::DeGumbel;
     const AjusteDeLey* enMano = nullptr;
     bool sola = false;
     double posicion = Cunnane;

@@ -144,12 +144,13 @@ void PonGrafico(TallerAjustes& m, const dlgTaller& f)
     }
     const AjusteDeLey* const suya = EnMano(m);
     constexpr int Diagrama = 2;
-    m.Grafico = m.grafico == Diagrama
-                    ? GraficoDeDiagrama(*m.analisis, suya)
-                    : GraficoDePapel(*m.analisis, {.ejes = m.grafico == 0 ? Ejes::Gumbel : Ejes::LogNormal,
-                                                   .enMano = suya,
-                                                   .sola = m.chkSola,
-                                                   .posicion = TallerDe(f).posicion});
+    m.Grafico =
+        m.grafico == Diagrama
+            ? GraficoDeDiagrama(*m.analisis, suya)
+            : GraficoDePapel(*m.analisis, {.ejes = m.grafico == 0 ? Ejes::DeGumbel : Ejes::DeLogNormal,
+                                           .enMano = suya,
+                                           .sola = m.chkSola,
+                                           .posicion = TallerDe(f).posicion});
     m.Grafico.titulo = std::string(GraficosDeAjustes[static_cast<std::size_t>(m.grafico)]) + ", " +
                        std::string(NombreDe(m.analisis->metodo)) + "\n" + m.temaDelAnalisis;
 }

@@ -97,7 +97,7 @@ TEST(Diagramas, LaNubeEsDeUnaLeyYSuElipseTieneElNoventaPorCiento)
 TEST(Diagramas, EnSuPapelUnaLeyEsUnaRecta)
 {
     const Analisis a = DePortPirie(200);
-    const PapelDeProbabilidad papel = PapelDe(a, Ejes::Gumbel, 0.44);
+    const PapelDeProbabilidad papel = PapelDe(a, Ejes::DeGumbel, 0.44);
     ASSERT_EQ(papel.datos.size(), 65U);
     EXPECT_EQ(papel.anios.size(), 65U);
     EXPECT_EQ(papel.datos.back().y, 4.69);
@@ -111,14 +111,14 @@ TEST(Diagramas, EnSuPapelUnaLeyEsUnaRecta)
     EXPECT_LT(papel.leyes[1].banda5[3].y, papel.leyes[1].banda95[3].y);
     EXPECT_TRUE(std::is_sorted(papel.marcas.begin(), papel.marcas.end(),
                                [](const auto& u, const auto& v) { return u.x < v.x; }));
-    EXPECT_NEAR(PapelDe(a, Ejes::LogNormal).datos[32].x, 0, 1e-12);  // the middle one of 65
+    EXPECT_NEAR(PapelDe(a, Ejes::DeLogNormal).datos[32].x, 0, 1e-12);  // the middle one of 65
 }
 
 /// A dry year has no place over logarithms; among the others it stands at 0.
 TEST(Diagramas, LosAniosSinLluviaNoEstanEnLosLogaritmos)
 {
     const Analisis a = DePortPirie(0, 0);
-    const PapelDeProbabilidad gumbel = PapelDe(a, Ejes::Gumbel), log = PapelDe(a, Ejes::LogNormal);
+    const PapelDeProbabilidad gumbel = PapelDe(a, Ejes::DeGumbel), log = PapelDe(a, Ejes::DeLogNormal);
     ASSERT_EQ(gumbel.datos.size(), 65U);
     EXPECT_EQ(gumbel.datos[4].y, 0);
     EXPECT_EQ(log.datos.size(), 60U);

@@ -217,7 +217,7 @@ TEST_F(TallerDePrueba, LosPapelesTienenUnaFilaPorLugarYUnaColumnaPorLey)
     const auto a =
         Analiza(Revisada(*SerieEnMano(f)), {.metodo = Metodo::MomentosL, .remuestreo = {.cuantas = 50}});
     const forms::Grafico g =
-        GraficoDePapel(*a, {.ejes = Ejes::Gumbel, .enMano = &a->ajustes[0], .sola = true});
+        GraficoDePapel(*a, {.ejes = Ejes::DeGumbel, .enMano = &a->ajustes[0], .sola = true});
     ASSERT_EQ(g.series.size(), 4U) << "maxima, the law, both lines of its band";
     EXPECT_EQ(g.series[0].tipo, forms::TipoSerie::Puntos2D);
     EXPECT_EQ(g.series[3].tipo, forms::TipoSerie::Banda2D);
@@ -228,7 +228,7 @@ TEST_F(TallerDePrueba, LosPapelesTienenUnaFilaPorLugarYUnaColumnaPorLey)
                             [](double x) { return !forms::EstaVacia(x); }),
               12);
     EXPECT_EQ(g.rotulosX.front().texto, "10") << "what must not go comes first";
-    EXPECT_TRUE(GraficoDePapel(*a, {.ejes = Ejes::LogNormal}).ejeYLogaritmico);
+    EXPECT_TRUE(GraficoDePapel(*a, {.ejes = Ejes::DeLogNormal}).ejeYLogaritmico);
     const forms::Grafico d = GraficoDeDiagrama(*a, &a->ajustes[0]);
     EXPECT_EQ(d.series.size(), 1U + 6U + 2U);
     EXPECT_NEAR(d.abscisas.at(static_cast<std::size_t>(
