@@ -23,6 +23,12 @@ void PaginaDeTaller::Muestra()
     Constructor::Muestra();
 }
 
+void PaginaDeTaller::DejaChico(QWidget& grafico)
+{
+    constexpr int Ancho = 16, Alto = 10;  // [heights of a letter]
+    grafico.setMinimumSize(Ancho * grafico.fontMetrics().height(), Alto * grafico.fontMetrics().height());
+}
+
 QSplitter* PaginaDeTaller::LadoALado(QWidget* tabla, QWidget* grafico, int parteDeTabla, int parteDeGrafico)
 {
     auto* const barra = new QSplitter(Qt::Horizontal);

@@ -44,6 +44,8 @@ class PaginaDeTaller : public QWidget, protected forms::Constructor {
   protected:
     /// Fills the record from the study.
     virtual void Toma() = 0;
+    /// A chart may become as low as small screens ask for.
+    static void DejaChico(QWidget& grafico);
     /// Table and chart side by side; the user moves the bar between them.
     static QSplitter* LadoALado(QWidget* tabla, QWidget* grafico, int parteDeTabla = 1,
                                 int parteDeGrafico = 1);

@@ -245,7 +245,8 @@ void Avanza(TallerAjustes& m, std::size_t hechas, std::size_t total, double segu
     m.hechas = hechas;
     m.total = total;
     constexpr double ParaDecirlo = 0.5;  // [s]
-    m.barAvance = std::to_string(hechas) + " de " + std::to_string(total);
+    constexpr std::size_t Todo = 100;
+    m.barAvance = std::to_string(hechas * Todo / std::max<std::size_t>(1, total)) + " %";
     if (m.estado != Estado::Remuestreando || hechas == 0 || segundos < ParaDecirlo) return;
     const double quedan =
         segundos * static_cast<double>(total - std::min(hechas, total)) / static_cast<double>(hechas);

@@ -168,7 +168,7 @@ void Toma(TallerMaximos& m, const dlgTaller& f)
     if (MaximosDe(m.grdMaximos) != serie.maximos) PonMaximos(m.grdMaximos, serie.maximos);
     m.lblAvisos = AvisosDe(m, serie);
     m.Grafico = GraficoDeMaximos(serie);
-    m.Grafico.titulo = TemaDe(f);
+    m.Grafico.titulo = TituloDe(f);
 }
 
 bool txtTexto_AlSalir(const TallerMaximos& m, dlgTaller& f, std::string_view control)

@@ -84,6 +84,7 @@ QWidget* TallerMaximos_ventana::Datos()
 QWidget* TallerMaximos_ventana::Derecha()
 {
     grafico = new forms::Lamina(entorno, "lamMaximos", "Máximos anuales");
+    DejaChico(*grafico);
     auto* const avisos = Texto("lblAvisos", m.lblAvisos);
     avisos->setWordWrap(true);
     avisos->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -92,7 +93,7 @@ QWidget* TallerMaximos_ventana::Derecha()
     lugar->setObjectName(QStringLiteral("lugarAvisos"));
     lugar->setWidgetResizable(true);
     lugar->setWidget(avisos);
-    constexpr int Renglones = 5;
+    constexpr int Renglones = 4;
     lugar->setFixedHeight(Renglones * fontMetrics().lineSpacing());
     auto* const lado = new QWidget;
     auto* const pila = EnPila({{grafico, 1}, lugar});

@@ -26,7 +26,8 @@ bool EsDeAnomalos(const Prueba& p)
 std::vector<std::string> Fila(const Prueba& p)
 {
     return {std::string(p.nombre),
-            std::string(p.simbolo) + " = " + Cifras(p.estadistico, 3) + (p.simbolo == "R" ? " mm²" : ""),
+            std::string(p.simbolo) + " = " + Cifras(p.estadistico, p.simbolo == "R" ? 1 : 3) +
+                (p.simbolo == "R" ? " mm²" : ""),
             Cifras(p.z, 3),
             Cifras(p.p, 4),
             (p.rechaza ? "✗ " : "✓ ") + p.veredicto,
@@ -169,7 +170,7 @@ void tblPruebas_Mueve(TallerPruebas& m, const dlgTaller& f, std::size_t fila)
     m.lblRemedio = p.remedio.empty() ? "nada." : p.remedio;
     m.lblFuente = p.fuente;
     m.Grafico = GraficoDePrueba(p, *s);
-    m.Grafico.titulo = std::string(p.nombre) + "\n" + TemaDe(f);
+    m.Grafico.titulo = std::string(p.nombre) + "\n" + TituloDe(f);
 }
 
 void AlPulsarEncabezado(TallerPruebas& m, int columna)

@@ -12,13 +12,14 @@ TallerPruebas_ventana::TallerPruebas_ventana(forms::Entorno& alrededor, dlgTalle
     : PaginaDeTaller(alrededor, taller, RotulosTallerPruebas, "TallerPruebas")
 {
     tabla = new forms::TablaCuadro(entorno, m.tblPruebas, "tblPruebas", "Pruebas de la muestra");
-    tabla->PonColumnas({19, 15, 8, 9, 0});  // [letters]; what to do and the source stand below
+    tabla->PonColumnas({23, 15, 8, 9, 0});  // [letters]; what to do and the source stand below
     tabla->AlPulsarEncabezado = [this](int columna) { Suceso([&] { AlPulsarEncabezado(m, columna); }); };
     tabla->AlMoverse = [this] {
         if (!m.pruebas.empty()) Suceso([&] { tblPruebas_Mueve(m, f, tabla->Actual()); });
     };
     AlMostrar([this] { tabla->Muestra(); });
     grafico = new forms::Lamina(entorno, "lamPruebas", "Prueba de la muestra");
+    DejaChico(*grafico);
     auto* const lado = new QWidget;
     auto* const pila = EnPila({{tabla, 1}, Detalle()});
     pila->setContentsMargins(0, 0, 0, 0);

@@ -185,6 +185,14 @@ std::string NombreDe(const study::SerieDeMaximos& s)
     return t;
 }
 
+std::string TituloDe(const dlgTaller& f)
+{
+    std::string t = TemaDe(f);
+    if (const std::size_t donde = t.rfind(", máximos de "); donde != std::string::npos)
+        t.replace(donde, 2, "\n");
+    return t;
+}
+
 std::string TemaDe(const dlgTaller& f)
 {
     const study::Estacion* const e = EstacionEnMano(f);

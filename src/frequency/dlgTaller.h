@@ -77,6 +77,8 @@ std::string NombreDe(const study::Estacion& e, std::size_t numero);
 std::string NombreDe(const study::SerieDeMaximos& s);
 /// Station and duration, as charts and tables name what is in hand.
 std::string TemaDe(const dlgTaller& f);
+/// The same in two lines, for what stands over a chart.
+std::string TituloDe(const dlgTaller& f);
 /// A number with so many decimals at most, without zeros behind them.
 std::string TextoDe(double x, int decimales = 3);
 
