@@ -96,6 +96,19 @@ TEST(Leyes, LaVerosimilitudEsLaDeLaDensidad)
     }
 }
 
+/// Pearson's likelihood is one where its two ways of being worked out meet, a skew of 2 / sqrt(200), and
+/// where the skew leaves nothing of it: the normal one.
+TEST(Leyes, LaVerosimilitudDePearsonNoSalta)
+{
+    const std::vector<double> x{41, 55, 60, 62, 70, 88};
+    for (const double signo : {1.0, -1.0}) {
+        const double g = signo * 2 / std::sqrt(200.0);
+        const auto L = [&](double asimetria) { return PearsonIII.logVerosimilitud({62, 15, asimetria}, x); };
+        EXPECT_NEAR(L(g * (1 + 1e-10)), L(g * (1 - 1e-10)), 1e-8);
+        EXPECT_NEAR(L(signo * 1.1e-6), L(0), 1e-6);
+    }
+}
+
 /// The least likelihood is at the fit: none of its neighbours is better.
 TEST(Leyes, LaMaximaVerosimilitudEsUnMaximo)
 {

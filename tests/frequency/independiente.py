@@ -120,6 +120,17 @@ def q_ln3(p, F):
     return p[0] + mp.exp(p[1] + p[2] * normal_u(F))
 
 
+def gama_inferior(A, t):
+    """Regularised; of a great A, whose series is too slow, its density integrated from the middle."""
+    if A < 2000:
+        return mp.gammainc(A, 0, t, regularized=True)
+    s, lnG = mp.sqrt(A), mp.loggamma(A)
+    lado = 1 if t > A else -1
+    cola = mp.quad(lambda v: mp.exp((A - 1) * mp.log(v) - v - lnG),
+                   sorted(t + lado * d * s for d in (0, mpf("0.3"), 1, 2, 4, 8, 14)))
+    return 1 - cola if lado > 0 else cola
+
+
 def q_pearson(p, F, cerca):
     """From a value near it by two steps of Newton over the incomplete gamma function."""
     g = p[2]
@@ -127,10 +138,7 @@ def q_pearson(p, F, cerca):
     cola = F if g > 0 else 1 - F
     t = A + 2 * (cerca - p[0]) / (p[1] * g)
     for _ in range(2):
-        if cola < mpf("0.5"):
-            error = mp.gammainc(A, 0, t, regularized=True) - cola
-        else:
-            error = (1 - cola) - mp.gammainc(A, t, mp.inf, regularized=True)
+        error = gama_inferior(A, t) - cola
         t -= error / mp.exp((A - 1) * mp.log(t) - t - mp.loggamma(A))
     return p[0] + p[1] * (t - A) * g / 2
 
@@ -200,7 +208,10 @@ def beta_tercio(A):
     """The incomplete beta function of A and 2A at 1/3: its series, or, of a great A, its density integrated."""
     tercio = mpf(1) / 3
     if A < 100:
-        return mp.betainc(A, 2 * A, 0, tercio, regularized=True)
+        try:
+            return mp.betainc(A, 2 * A, 0, tercio, regularized=True)
+        except mp.mp.NoConvergence:  # a series too slow where A is neither small nor great
+            pass
     lnB = mp.loggamma(A) + mp.loggamma(2 * A) - mp.loggamma(3 * A)
     ancho = mp.sqrt(2 / (27 * A))
     cortes = [tercio - d * ancho for d in (12, 6, 3, 1, 0) if d * ancho < tercio]

@@ -12,7 +12,8 @@ namespace frequency {
 namespace pearson {
 namespace {
 
-constexpr double GNulo = 1e-6;  // nearer to 0 the normal law with one term of skew is exact to 12 digits
+constexpr double AGrande = 200;  // of a shape from which on two terms of Stirling's series are exact
+constexpr double GNulo = 1e-6;   // nearer to 0 the normal law with one term of skew is exact to 12 digits
 
 /// L-skew of a shape A = 4/g2.
 double AsimetriaL(double A)
@@ -54,6 +55,15 @@ double LogVerosimilitud(const Parametros& p, std::span<const double> x)
         return suma - n * (std::log(p[1]) + std::log(2 * std::numbers::pi) / 2);
     }
     const double A = 4 / (g * g);
+    if (A > AGrande) {  // Stirling's series, whose great terms cancel on paper
+        const double resto = 1 / (12 * A) - 1 / (360 * A * A * A);
+        for (const double xi : x) {
+            const double z = g / 2 * (xi - p[0]) / p[1];
+            if (z <= -1) return -std::numeric_limits<double>::infinity();
+            suma += (A - 1) * std::log1p(z) - A * z;
+        }
+        return suma - n * (std::log(2 * std::numbers::pi) / 2 + resto + std::log(p[1]));
+    }
     for (const double xi : x) {
         const double t = A + 2 * (xi - p[0]) / (p[1] * g);
         if (t <= 0) return -std::numeric_limits<double>::infinity();
