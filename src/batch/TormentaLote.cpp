@@ -38,9 +38,9 @@ study::TormentaDeDiseno DisenoDe(const Opciones& o, model::Siro& s)
 /// A table that is to be written: why it can't be, and what it comes to.
 struct Destino {
     int cual = 0;  ///< 0: it isn't to be
-    std::string que;
-    frequency::EnElArchivo hay;
-    std::string error;
+    std::string que{};
+    frequency::EnElArchivo hay{};
+    std::string error{};
 };
 
 std::string MotivoDe(const Destino& d, bool reemplaza)
