@@ -190,7 +190,7 @@ QCPScatterStyle PuntoDeCurva(const QColor& color, const QColor& fondo, std::size
 void Trazo::ColoreaSeries()
 {
     const std::span<const Trama> tramas = TramasDe(grafico);
-    std::size_t nroLinea = 0;
+    std::size_t nroLinea = 0, nroPuntos = 0;
     for (std::size_t i = 0; i < lineas.size(); ++i) {
         QCPGraph& linea = *lineas[i];
         const bool escalon = EscalonEn(i);
@@ -212,7 +212,8 @@ void Trazo::ColoreaSeries()
         linea.setBrush(escalon ? QBrush(relleno) : QBrush(Qt::NoBrush));
         const bool pocos = tipo == TipoSerie::Puntos2D || tipo == TipoSerie::PuntosUnidos2D ||
                            (grafico.abscisas.empty() && grafico.categorias.size() <= PocosPuntos);
-        linea.setScatterStyle(!escalon && pocos ? PuntoDeCurva(color, tinta.fondo, vuelta)
+        const std::size_t forma = tipo == TipoSerie::Puntos2D ? nroPuntos++ : vuelta;
+        linea.setScatterStyle(!escalon && pocos ? PuntoDeCurva(color, tinta.fondo, forma)
                                                 : QCPScatterStyle());
         puntosLeidos[i]->setPen(QPen(color, Grueso));
         puntosLeidos[i]->setBrush(tinta.fondo);

@@ -32,10 +32,23 @@ std::string Numero(double x, int decimales)
     return std::isfinite(x) ? Con(x, decimales) : std::string();
 }
 
+/// The fit of the law in hand, or the first one where it isn't fitted.
 const AjusteDeLey* EnMano(const TallerAjustes& m)
 {
-    const auto i = static_cast<std::size_t>(std::max(0, m.enMano));
-    return m.analisis && i < m.analisis->ajustes.size() ? &m.analisis->ajustes[i] : nullptr;
+    if (!m.analisis || m.analisis->ajustes.empty()) return nullptr;
+    const Ley* const ley = Leyes()[static_cast<std::size_t>(std::max(0, m.enMano))];
+    const auto& ajustes = m.analisis->ajustes;
+    const auto suya =
+        std::find_if(ajustes.begin(), ajustes.end(), [ley](const auto& f) { return f.ley == ley; });
+    return suya != ajustes.end() ? &*suya : &ajustes.front();
+}
+
+PedidoDeAjustes PedidoDe(const TallerAjustes& m, const study::SerieDeMaximos& s, const study::Taller& t)
+{
+    PedidoDeAjustes p{s.maximos, Metodos[static_cast<std::size_t>(m.metodo)], {}, t.semilla, t.remuestras};
+    for (std::size_t i = 0; i < Leyes().size(); ++i)
+        if (m.ajustadas[i]) p.leyes.push_back(Leyes()[i]);
+    return p;
 }
 
 std::vector<std::string> TitulosDe(const TallerAjustes& m, std::string_view que)
@@ -164,8 +177,8 @@ void Pon(TallerAjustes& m, const dlgTaller& f, Analisis analisis)
     const study::SerieDeMaximos* const s = SerieEnMano(f);
     const Ley* deEntrada = s != nullptr ? LeyDeClave(s->ley) : nullptr;
     if (deEntrada == nullptr) deEntrada = m.analisis->recomendacion.ley;
-    for (std::size_t i = 0; primero && i < m.analisis->ajustes.size(); ++i)
-        if (m.analisis->ajustes[i].ley == deEntrada) m.enMano = static_cast<int>(i);
+    for (std::size_t i = 0; primero && i < Leyes().size(); ++i)
+        if (Leyes()[i] == deEntrada) m.enMano = static_cast<int>(i);
     m.lblRecomendacion = m.analisis->recomendacion.motivo;
     PonTablas(m);
     PonGrafico(m, f);
@@ -190,6 +203,7 @@ TallerAjustes NuevaTallerAjustes()
     TallerAjustes m;
     for (const Metodo metodo : Metodos)
         m.metodos.emplace_back(NombreDe(metodo));
+    m.ajustadas.assign(Leyes().size(), true);
     m.elegibles.emplace_back("(ninguna)");
     for (const Ley* const ley : Leyes()) {
         m.leyes.emplace_back(ley->nombre);
@@ -214,9 +228,7 @@ bool Toma(TallerAjustes& m, const dlgTaller& f)
     for (std::size_t i = 0; otraSerie && i < Metodos.size(); ++i)
         if (s->metodo == ClaveDe(Metodos[i])) m.metodo = static_cast<int>(i);
     if (s == nullptr || !FaltanMaximos(f).empty()) return false;
-    const PedidoDeAjustes nuevo{s->maximos, Metodos[static_cast<std::size_t>(m.metodo)], t.semilla,
-                                t.remuestras};
-    if (nuevo == m.pedido && m.estado != Estado::Nada) return false;
+    if (PedidoDe(m, *s, t) == m.pedido && m.estado != Estado::Nada) return false;
     if (otraSerie) m.tblCuantiles.columnaOrden = -1;
     return true;
 }
@@ -225,8 +237,7 @@ void Empieza(TallerAjustes& m, const dlgTaller& f)
 {
     const study::SerieDeMaximos* const s = SerieEnMano(f);
     if (s == nullptr) return;
-    m.pedido = {s->maximos, Metodos[static_cast<std::size_t>(m.metodo)], TallerDe(f).semilla,
-                TallerDe(f).remuestras};
+    m.pedido = PedidoDe(m, *s, TallerDe(f));
     m.estado = Estado::Ajustando;
     m.hechas = m.total = 0;
     m.lblElegida = ElegidaEnPalabras(m, s);
@@ -271,6 +282,12 @@ void Cancela(TallerAjustes& m)
 void cmbMetodo_Click(TallerAjustes& m, int cual)
 {
     m.metodo = cual;
+}
+
+void cmdLeyes_Click(TallerAjustes& m, std::size_t ley, bool tildada)
+{
+    m.ajustadas[ley] = tildada;
+    if (std::find(m.ajustadas.begin(), m.ajustadas.end(), true) == m.ajustadas.end()) m.ajustadas[ley] = true;
 }
 
 bool txtNumero_AlSalir(TallerAjustes& m, dlgTaller& f, const model::Siro& s, std::string_view control)

@@ -32,6 +32,7 @@ inline constexpr auto RotulosTallerAjustes = std::to_array<forms::FilaRotulo>({
     {"tblBondad", "Bondad del ajuste"},
     {"tblParametros", "Parámetros de las leyes"},
     {"cmbGrafico", "&Gráfico:"},
+    {"cmdLeyes", "Le&yes", "Cuáles se ajustan; con menos, las bandas tardan menos"},
     {"chkSola", "Sólo la ley en ma&no"},
     {"lamAjustes", "Ajustes"},
     {"lblRecomendacion", "Recomendación:"},
@@ -49,6 +50,7 @@ inline constexpr std::array<std::string_view, 3> GraficosDeAjustes{"Papel de Gum
 struct PedidoDeAjustes {
     std::vector<study::Maximo> maximos{};
     Metodo metodo = Metodo::MomentosL;
+    std::vector<const Ley*> leyes{};
     std::uint64_t semilla = 1;
     int muestras = 0;
     bool operator==(const PedidoDeAjustes&) const = default;
@@ -73,8 +75,9 @@ struct TallerAjustes {
     int metodo = static_cast<int>(Metodo::MomentosL);
     std::string txtSemilla{}, txtMuestras{}, txtMotivo{};
     std::vector<std::string> metodos{}, leyes{}, elegibles{}, graficos{};
-    int enMano = 0;   ///< law, from 0
-    int elegida = 0;  ///< 0: none
+    std::vector<bool> ajustadas{};  ///< by law
+    int enMano = 0;                 ///< law, from 0
+    int elegida = 0;                ///< 0: none
     int grafico = 0, ficha = 0;
     bool chkSola = false;
     std::string lblRecomendacion{}, lblElegida{};
@@ -98,6 +101,8 @@ void Cancela(TallerAjustes& m);
 
 // --- what the user changes ---
 void cmbMetodo_Click(TallerAjustes& m, int cual);
+/// A law is to be fitted or not; one at least is.
+void cmdLeyes_Click(TallerAjustes& m, std::size_t ley, bool tildada);
 bool txtNumero_AlSalir(TallerAjustes& m, dlgTaller& f, const model::Siro& s, std::string_view control);
 void cmbEnMano_Click(TallerAjustes& m, const dlgTaller& f, int cual);
 void cmbGrafico_Click(TallerAjustes& m, const dlgTaller& f, int cual);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frequency/TallerAjustes_ventana.h"
 
+#include <QMenu>
 #include <QProgressBar>
 #include <QSplitter>
 #include <QTabWidget>
@@ -24,6 +25,7 @@ Tarea<Analisis>::Trabajo Trabajo(Serie serie, PedidoDeAjustes pedido)
         for (const int muestras : {0, pedido.muestras}) {
             PedidoDeAnalisis p;
             p.metodo = pedido.metodo;
+            p.leyes = pedido.leyes;
             p.remuestreo = {.semilla = pedido.semilla, .cuantas = muestras};
             std::optional<Analisis> a = Analiza(serie, p, avance);
             if (!a) return;
@@ -114,10 +116,31 @@ QWidget* TallerAjustes_ventana::Tablas()
         fichas->addTab(tabla, forms::Q(FichasDeAjustes[i]));
     };
     ficha(0, TablaDe(m.tblCuantiles, "tblCuantiles", {10, 9, 15, 9, 15, 15, 15, 15, 15, 15, 15}));
-    ficha(1, TablaDe(m.tblBondad, "tblBondad", {18, 8, 8, 8, 8, 8, 8, 8, 8, 9, 9, 9}));
+    ficha(1, TablaDe(m.tblBondad, "tblBondad", {18, 8, 8, 9, 8, 9, 8, 8, 8, 9, 9, 9}));
     ficha(2, TablaDe(m.tblParametros, "tblParametros", {18, 30, 0}));
     connect(fichas, &QTabWidget::currentChanged, this, [this](int i) { Suceso([&] { m.ficha = i; }); });
     return fichas;
+}
+
+QPushButton* TallerAjustes_ventana::ClaveDeLeyes()
+{
+    QPushButton* const clave = Nombra(new QPushButton, "cmdLeyes");
+    clave->setAutoDefault(false);
+    auto* const menu = new QMenu(clave);
+    menu->setObjectName(QStringLiteral("mnuLeyes"));
+    for (std::size_t i = 0; i < m.leyes.size(); ++i) {
+        QAction* const ley = menu->addAction(forms::Q(m.leyes[i]));
+        ley->setCheckable(true);
+        connect(ley, &QAction::triggered, this, [this, i](bool tildada) {
+            Suceso([&] {
+                cmdLeyes_Click(m, i, tildada);
+                Calcula();
+            });
+        });
+        AlMostrar([this, ley, i] { ley->setChecked(m.ajustadas[i]); });
+    }
+    clave->setMenu(menu);
+    return clave;
 }
 
 QWidget* TallerAjustes_ventana::Derecha()
@@ -132,7 +155,7 @@ QWidget* TallerAjustes_ventana::Derecha()
                                        Casilla(
                                            "chkSola", [this] { return m.chkSola; },
                                            [this](bool tildada) { chkSola_Click(m, f, tildada); }),
-                                       Hueco()}),
+                                       Hueco(), ClaveDeLeyes()}),
                                {grafico, 1}});
     pila->setContentsMargins(0, 0, 0, 0);
     lado->setLayout(pila);

@@ -38,6 +38,7 @@ class TallerAjustes_ventana : public PaginaDeTaller {
     QLayout* Pedido();
     QLayout* Avance();
     QWidget* Tablas();
+    QPushButton* ClaveDeLeyes();
     QWidget* Derecha();
     QLayout* Eleccion();
     forms::TablaCuadro* TablaDe(forms::Cuadro& cuadro, std::string_view control, std::vector<int> letras);

@@ -211,6 +211,26 @@ TEST_F(TallerDePrueba, LosAjustesSonTablasYLaElegidaQuedaConSuMotivo)
     EXPECT_EQ(Serie(f).ley, "");
 }
 
+TEST_F(TallerDePrueba, SeAjustanLasLeyesTildadasYUnaAlMenos)
+{
+    PonDoce();
+    TallerAjustes a = NuevaTallerAjustes();
+    for (std::size_t i = 0; i < a.leyes.size(); ++i)
+        cmdLeyes_Click(a, i, i == 1);
+    cmdLeyes_Click(a, 1, false);
+    EXPECT_TRUE(a.ajustadas[1]);
+    Empieza(a, f);
+    EXPECT_EQ(a.pedido.leyes, (std::vector<const Ley*>{&Gev}));
+    TomaCompleto(
+        a, f, *Analiza(Revisada(*SerieEnMano(f)), {.leyes = a.pedido.leyes, .remuestreo = {.cuantas = 0}}));
+    EXPECT_EQ(a.tblBondad.planilla.filas.size(), 1U);
+    EXPECT_EQ(a.tblCuantiles.planilla.columnas.size(), 4U);
+    cmbEnMano_Click(a, f, 0);
+    EXPECT_EQ(a.tblCuantiles.planilla.columnas.at(2).encabezado, "GEV") << "Gumbel isn't fitted";
+    cmdLeyes_Click(a, 0, true);
+    EXPECT_TRUE(Toma(a, f)) << "another analysis";
+}
+
 TEST_F(TallerDePrueba, LosPapelesTienenUnaFilaPorLugarYUnaColumnaPorLey)
 {
     PonDoce();
