@@ -27,9 +27,10 @@ constexpr auto EditablesLibre =
 constexpr forms::ReglasGrilla ReglasRazones{.encabezado = ">  Duración [min]  |>  Razón a 24 h  ",
                                             .editables = EditablesRazones,
                                             .enterPoneCero = false};
-constexpr forms::ReglasGrilla ReglasLibre{.encabezado = ">  T [años]  |>           a  |>  b [min]  |>         c  ",
-                                          .editables = EditablesLibre,
-                                          .enterPoneCero = false};
+constexpr forms::ReglasGrilla ReglasLibre{
+    .encabezado = ">  T [años]  |>           a  |>  b [min]  |>         c  ",
+    .editables = EditablesLibre,
+    .enterPoneCero = false};
 
 const study::Idf& IdfDe(const dlgTaller& f)
 {
@@ -226,7 +227,7 @@ TallerIdf NuevaTallerIdf()
     m.cmbCriterio.items = {"Logaritmos", "Errores relativos"};
     m.cmbReduccion.items = Nombres(idf::Reducciones(), {"Ninguna"});
     m.cmbRegion.items = Nombres(idf::EstacionesDit(), {"(otra)"});
-    m.cmbTabla.items = {"Láminas [mm]", "Intensidades [mm/h]", "Residuos del ajuste [%]"};
+    m.cmbVista.items = {"Láminas [mm]", "Intensidades [mm/h]", "Residuos del ajuste [%]"};
     m.grdRazones = forms::NuevaGrilla(ReglasRazones);
     m.grdLibre = forms::NuevaGrilla(ReglasLibre);
     PonRazones(m.grdRazones, {});
@@ -445,7 +446,7 @@ void grdLibre_Asienta(TallerIdf& m, dlgTaller& f)
     m.grdLibre.deshechos.clear();
 }
 
-void cmbTabla_Click(TallerIdf& m, const dlgTaller& f)
+void cmbVista_Click(TallerIdf& m, const dlgTaller& f)
 {
     MuestraVista(m, f);
 }

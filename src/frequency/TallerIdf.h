@@ -44,7 +44,7 @@ inline constexpr auto RotulosTallerIdf = std::to_array<forms::FilaRotulo>({
     {"lblReduccion", "Fórmula de la reducción"},
     {"txtArea", "&Área:", "De la cuenca"},
     {"txtKA", "Factor &KA:", "Mayor que 0 y a lo sumo 1"},
-    {"cmbTabla", "&Tabla:", "Qué muestra la tabla"},
+    {"cmbVista", "&Tabla:", "Qué muestra la tabla"},
     {"chkLogaritmos", "E&jes logarítmicos"},
     {"tblCurvas", "Curvas de intensidad"},
     {"lamCurvas", "Curvas de intensidad"},
@@ -65,7 +65,7 @@ inline constexpr std::size_t CoeficientesDeIdf = idf::MaxCoeficientes;
 
 struct TallerIdf {
     ListaDeTaller cmbOrigen{}, cmbDe{}, cmbDesagregacion{}, cmbFamilia{}, cmbCriterio{}, cmbRegion{};
-    ListaDeTaller cmbReduccion{}, cmbTabla{};
+    ListaDeTaller cmbReduccion{}, cmbVista{};
     std::string lblDesagregacion{}, lblFamilia{}, lblReduccion{};  ///< rich text
     std::string txtFactor{}, txtArea{}, txtKA{};
     std::array<std::string, CoeficientesDeIdf> txtCoef{};
@@ -108,7 +108,7 @@ void grdLibre_Asienta(TallerIdf& m, dlgTaller& f);
 
 // --- events that change only what is on show ---
 
-void cmbTabla_Click(TallerIdf& m, const dlgTaller& f);
+void cmbVista_Click(TallerIdf& m, const dlgTaller& f);
 void chkLogaritmos_Click(TallerIdf& m, const dlgTaller& f, bool tildada);
 
 /// Fills words, table and chart from the curves; table and chart alone.

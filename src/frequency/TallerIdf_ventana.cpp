@@ -57,15 +57,14 @@ forms::Partes TallerIdf_ventana::Coeficiente(std::size_t i)
                                    [this, i] { return txtIdf_AlSalir(m, f, entorno.s, Controles[i]); });
     constexpr int Letras = 10;
     campo->setFixedWidth(Letras * fontMetrics().averageCharWidth());
-    auto* const rotulo = new QLabel;
+    QLabel* const rotulo = Rotulo(Controles[i], campo);
     rotulo->setWordWrap(true);
-    rotulo->setBuddy(campo);
     AlMostrar([this, campo, rotulo, i] {
         const bool hay = !m.lblCoef[i].empty();
         campo->setVisible(hay);
         rotulo->setVisible(hay);
         rotulo->setText(forms::Q(m.lblCoef[i]));
-        campo->setAccessibleName(forms::Q(m.lblCoef[i]));
+        if (hay) campo->setAccessibleName(forms::Q(m.lblCoef[i]));
     });
     return {{rotulo, 1}, campo};
 }
@@ -168,8 +167,8 @@ QWidget* TallerIdf_ventana::Derecha()
     lugar->setWidget(notas);
     constexpr int Renglones = 4;
     lugar->setFixedHeight(Renglones * fontMetrics().lineSpacing());
-    QComboBox* const vista = Desplegable("cmbTabla", m.cmbTabla, [this] { cmbTabla_Click(m, f); });
-    auto* const arriba = EnFila({Rotulo("cmbTabla", vista), vista, Hueco(),
+    QComboBox* const vista = Desplegable("cmbVista", m.cmbVista, [this] { cmbVista_Click(m, f); });
+    auto* const arriba = EnFila({Rotulo("cmbVista", vista), vista, Hueco(),
                                  Casilla(
                                      "chkLogaritmos", [this] { return m.chkLogaritmos; },
                                      [this](bool tildada) { chkLogaritmos_Click(m, f, tildada); })});

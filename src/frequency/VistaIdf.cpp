@@ -81,7 +81,7 @@ double Eje(bool logaritmos, double duracion)
 forms::Grafico GraficoDeCurvas(const TallerIdf& m)
 {
     const idf::Curvas& c = m.curvas;
-    const bool deLaminas = m.cmbTabla.indice == static_cast<int>(VistaDeCurvas::Laminas);
+    const bool deLaminas = m.cmbVista.indice == static_cast<int>(VistaDeCurvas::Laminas);
     forms::Grafico g;
     g.tipo = forms::TipoGrafico::Linea;
     g.ejeX = "Duración [min]";
@@ -153,7 +153,7 @@ void MuestraCurvas(TallerIdf& m, const dlgTaller& f)
 
 void MuestraVista(TallerIdf& m, const dlgTaller& f)
 {
-    forms::PonFilas(m.tblCurvas, PlanillaDe(m.curvas, static_cast<VistaDeCurvas>(m.cmbTabla.indice)));
+    forms::PonFilas(m.tblCurvas, PlanillaDe(m.curvas, static_cast<VistaDeCurvas>(m.cmbVista.indice)));
     m.Grafico = GraficoDeCurvas(m);
     m.Grafico.titulo = TemaDeCurvas(m, f);
 }
@@ -171,7 +171,7 @@ std::string TemaDeCurvas(const TallerIdf& m, const dlgTaller& f)
 forms::Planilla PlanillaDeCurvas(const TallerIdf& m, const dlgTaller& f)
 {
     forms::Planilla p = m.tblCurvas.planilla;
-    p.titulos = {std::string(TituloDlgTaller) + ": " + m.cmbTabla.items[m.cmbTabla.Lugar()],
+    p.titulos = {std::string(TituloDlgTaller) + ": " + m.cmbVista.items[m.cmbVista.Lugar()],
                  TemaDeCurvas(m, f)};
     for (const idf::CoeficientesDeT& k : m.curvas.ajuste.coeficientes)
         p.titulos.push_back((k.recurrencia > 0 ? Numero(k.recurrencia) + " años: " : std::string()) +

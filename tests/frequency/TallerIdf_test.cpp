@@ -99,12 +99,12 @@ TEST_F(TallerIdfDePrueba, LaTablaEsDeLaminasDeIntensidadesODeResiduos)
     EXPECT_EQ(Pedido().familia, "");
     EXPECT_TRUE(Nota("Máximos de 1440 min"));
     const double lamina = std::stod(m.tblCurvas.planilla.filas[7].at(3));  // 120 min, 10 years
-    m.cmbTabla.indice = 1;
-    cmbTabla_Click(m, f);
+    m.cmbVista.indice = 1;
+    cmbVista_Click(m, f);
     EXPECT_NEAR(std::stod(m.tblCurvas.planilla.filas[7].at(3)), lamina / 2, 0.051);
     EXPECT_EQ(m.Grafico.ejeY, "Intensidad [mm/h]");
-    m.cmbTabla.indice = 2;
-    cmbTabla_Click(m, f);
+    m.cmbVista.indice = 2;
+    cmbVista_Click(m, f);
     EXPECT_TRUE(m.tblCurvas.planilla.filas.empty());  // nothing was fitted
     Elige(&TallerIdf::cmbFamilia, "Bernard", &cmbFamilia_Click);
     EXPECT_EQ(m.tblCurvas.planilla.filas.size(), 16U);  // 2880 min are beyond the disaggregation
@@ -219,8 +219,8 @@ TEST_F(TallerIdfDePrueba, UnaFichaPoneLosCoeficientesDelDit)
     Elige(&TallerIdf::cmbRegion, "Salta Aero (Salta)", &cmbRegion_Click);
     EXPECT_EQ(m.txtCoef[0], "0.38");
     EXPECT_EQ(m.txtCoef[2], "5.179");
-    m.cmbTabla.indice = 1;
-    cmbTabla_Click(m, f);
+    m.cmbVista.indice = 1;
+    cmbVista_Click(m, f);
     EXPECT_EQ(m.tblCurvas.planilla.filas[5][3], "60.0");  // 59.9 in its table
     EXPECT_TRUE(Escribe(m.txtCoef[0], "0.4", "txtCoef0"));
     EXPECT_EQ(m.cmbRegion.indice, 0);

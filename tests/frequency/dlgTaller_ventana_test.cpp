@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frequency/dlgTaller_ventana.h"
 
+#include <QAbstractItemView>
+#include <QComboBox>
 #include <QElapsedTimer>
 #include <QLabel>
+#include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTabBar>
@@ -148,6 +151,49 @@ TEST_F(VentanaTaller, LaLeyRecomendadaSeTomaConUnClicYSeDeshaceConOtro)
     EXPECT_NE(SerieEnMano(f)->motivo, "");
     Pulsa(Control<QPushButton>(ventana, "cmdDeshacer"));
     EXPECT_EQ(SerieEnMano(f)->ley, "");
+}
+
+// Origin, disaggregation, its coefficient and the table's view by clicks and keys; each is shown at once.
+TEST_F(VentanaTaller, LasCurvasSeEligenConElRaton)
+{
+    Abre(true);
+    EscribeDoce();
+    VeAlPaso(3);
+    EXPECT_EQ(apoyo::SinNombre(ventana), std::vector<std::string>{});
+    auto& tabla = Control<forms::TablaCuadro>(ventana, "tblCurvas");
+    EXPECT_EQ(tabla.model()->rowCount(), 17);
+    const auto elige = [this](const char* control, int cual) {
+        auto& lista = Control<QComboBox>(ventana, control);
+        lista.showPopup();
+        QTest::mouseClick(lista.view()->viewport(), Qt::LeftButton, {},
+                          lista.view()->visualRect(lista.model()->index(cual, 0)).center());
+    };
+    elige("cmbDesagregacion", 1);
+    EXPECT_EQ(TallerDe(f).idf.desagregacion, "5.2-ic");
+    EXPECT_EQ(tabla.model()->rowCount(), 0) << "the coefficient is missing";
+    auto& coeficiente = Control<QLineEdit>(ventana, "txtCoef0");
+    ASSERT_TRUE(coeficiente.isVisible());
+    EXPECT_FALSE(Control<QLineEdit>(ventana, "txtCoef1").isVisible());
+    ventana.activateWindow();
+    coeficiente.setFocus();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return coeficiente.hasFocus(); }));
+    QTest::keyClicks(&coeficiente, QStringLiteral("10"));
+    QTest::keyClick(&coeficiente, Qt::Key_Tab);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return tabla.model()->rowCount() == 17; }));
+    EXPECT_NE(DeQ(Control<QLabel>(ventana, "lblNotas").text()).find("La lámina crece"), std::string::npos);
+    const std::string lamina = DeQ(tabla.model()->index(7, 1).data().toString());  // of 120 min
+    elige("cmbVista", 1);
+    EXPECT_NEAR(std::stod(DeQ(tabla.model()->index(7, 1).data().toString())), std::stod(lamina) / 2, 0.051);
+    elige("cmbOrigen", 2);
+    EXPECT_FALSE(Control<QComboBox>(ventana, "cmbDesagregacion").isVisible());
+    EXPECT_TRUE(Control<QLineEdit>(ventana, "txtCoef3").isVisible());
+    elige("cmbFamilia", 5);
+    EXPECT_TRUE(Control<forms::TablaGrilla>(ventana, "grdLibre").isVisible());
+    EXPECT_FALSE(Control<QLineEdit>(ventana, "txtCoef0").isVisible());
+    for (int i = 0; i < 4; ++i)
+        Pulsa(Control<QPushButton>(ventana, "cmdDeshacer"));
+    EXPECT_EQ(TallerDe(f).idf, study::Idf{});
+    EXPECT_TRUE(Control<QComboBox>(ventana, "cmbDesagregacion").isVisible());
 }
 
 }  // namespace
