@@ -4,10 +4,15 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "batch/CorridaLote.h"
 #include "frequency/Analisis.h"
 #include "frequency/EscribeAnalisis.h"
+#include "frequency/ImportaMaximos.h"
+#include "frequency/Maximos.h"
 #include "model/Disco.h"
 #include "model/Falla.h"
 #include "model/Sistema.h"
@@ -31,6 +36,36 @@ frequency::PedidoDeAnalisis PedidoDe(const Opciones& o)
     return pedido;
 }
 
+/// Annual maxima out of a record, as a series that is fitted.
+frequency::Serie DeRegistro(const std::string& bytes, const Opciones& o)
+{
+    const double duracion = o.duracion.value_or(1440);
+    const frequency::Importacion importada =
+        *frequency::ImportaMaximos(bytes, {.mesInicial = o.mesInicial, .duraciones = {duracion}});
+    if (!importada.errores.empty()) return {.errores = importada.errores};
+    frequency::Serie serie = frequency::RevisaMaximos(importada.series.front().maximos);
+    serie.avisos.insert(serie.avisos.begin(), importada.avisos.begin(), importada.avisos.end());
+    return serie;
+}
+
+/// Without the years that were measured too little, which is told.
+frequency::Serie SinAniosCortos(frequency::Serie serie, int diasMinimos)
+{
+    std::vector<frequency::Maximo> quedan;
+    std::string fuera;
+    for (const frequency::Maximo& m : serie.maximos) {
+        if (!m.dias || *m.dias >= diasMinimos)
+            quedan.push_back(m);
+        else
+            fuera += (fuera.empty() ? "" : ", ") + std::to_string(m.anio);
+    }
+    if (fuera.empty() || serie.maximos.size() > frequency::MaximoDeAnios) return serie;
+    frequency::Serie menor = frequency::RevisaMaximos(std::move(quedan));
+    menor.avisos.insert(menor.avisos.begin(), "Años con menos de " + std::to_string(diasMinimos) +
+                                                  " días de registro, que no se ajustan: " + fuera + ".");
+    return menor;
+}
+
 }  // namespace
 
 int MuestraFrecuencia(const Opciones& o, const std::string& /*dirEjecutable*/, const Salidas& salidas)
@@ -40,15 +75,18 @@ int MuestraFrecuencia(const Opciones& o, const std::string& /*dirEjecutable*/, c
         salidas.Errores(UsoFrecuencia());
         return EstadoOrdenErronea;
     }
-    const std::string ruta = model::RutaAbsoluta(o.archivo);
+    const bool deRegistro = !o.registro.empty();
+    const std::string ruta = model::RutaAbsoluta(deRegistro ? o.registro : o.archivo);
     std::string texto;
     try {
         texto = model::DiscoDelSistema().Lee(ruta);
     } catch (const model::Falla&) {
-        salidas.Errores("siro-lote: no se puede leer " + ruta + "\n");
+        salidas.Errores("siro-lote: no se puede leer " + ruta +
+                        (deRegistro ? ", o pasa de 64 MiB: repártalo en varios\n" : "\n"));
         return EstadoInterrumpido;
     }
-    const frequency::Serie serie = frequency::LeeMaximos(texto);
+    frequency::Serie serie = deRegistro ? DeRegistro(texto, o) : frequency::LeeMaximos(texto, o.duracion);
+    serie = SinAniosCortos(std::move(serie), o.diasMinimos);
     if (!serie.errores.empty()) {
         for (const std::string& error : serie.errores)
             salidas.Errores("siro-lote: " + error + "\n");

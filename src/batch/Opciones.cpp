@@ -238,6 +238,16 @@ constexpr auto Filas = std::to_array<FilaOpcion>({
     {"--resultados", [](Opciones& o, const std::string& v) { o.resultados = v; }},
     {"--posicion", [](Opciones& o, const std::string& v) { o.posicion = NumeroEntre(v, 0, 0.5); },
      DeFrecuencia},
+    {"--registro", [](Opciones& o, const std::string& v) { o.registro = v; }, DeFrecuencia},
+    {"--mes-inicial",
+     [](Opciones& o, const std::string& v) { o.mesInicial = static_cast<int>(NumeroEnteroEntre(v, 1, 12)); },
+     DeFrecuencia},
+    {"--duracion", [](Opciones& o, const std::string& v) { o.duracion = NumeroEntre(v, 1, 14400); },
+     DeFrecuencia},
+    {"--dias-minimos",
+     [](Opciones& o,
+        const std::string& v) { o.diasMinimos = static_cast<int>(NumeroEnteroEntre(v, 0, 366)); },
+     DeFrecuencia},
     {"--bajos", [](Opciones& o, const std::string& v) { o.bajos = Bajos(v); }, DeFrecuencia},
     {"--asimetria", [](Opciones& o, const std::string& v) { o.asimetria = NumeroEntre(v, -3, 3); },
      DeFrecuencia},
@@ -447,7 +457,9 @@ Lectura LeeOpcionesFrecuencia(int argc, const char* const* argv)
     Lectura l = LeeDeMaximos("frecuencia", Opciones::Orden::Frecuencia, DeFrecuencia, argc, argv);
     if (!l.opciones) return l;
     const Opciones& o = *l.opciones;
-    if (o.archivo.empty()) return {{}, "Falta ARCHIVO"};
+    if (o.archivo.empty() && o.registro.empty()) return {{}, "Falta ARCHIVO, o --registro"};
+    if (!o.archivo.empty() && !o.registro.empty()) return {{}, "ARCHIVO y --registro no van juntos"};
+    if (o.registro.empty() && o.mesInicial != 1) return {{}, "--mes-inicial va con --registro"};
     if (o.metodo != "momentos" && (!o.bajos.empty() || o.asimetria))
         return {{}, "--bajos y --asimetria van con --metodo momentos"};
     return l;

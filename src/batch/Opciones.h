@@ -36,15 +36,18 @@ struct Opciones {
     std::string resultados{};       ///< path of the CSV file; empty: none
     bool json = false;              ///< findings as JSON, not as lines
     std::string archivo{};          ///< path of the annual maxima
-    std::string metodo = "l";       ///< of the fits: momentos, l, mv
-    std::string ley{};              ///< the only law to fit; empty: all
-    int remuestras = 1000;          ///< samples of the bootstrap, 0 or 100 to 100000
-    std::uint32_t semilla = 1;      ///< of their numbers
-    std::string bajos{};            ///< how log-Pearson III takes low values: 17b, 17c; empty: as the others
-    std::optional<double> asimetria{};  ///< of the region's logarithms, -3 to 3
-    double ecmAsimetria = 0.302;        ///< its mean square error, above 0
-    double posicion = 0.4;              ///< a of the plotting positions, 0 to 0.5
-
+    std::string registro{};         ///< path of a record that they are taken out of, in place of `archivo`
+    int mesInicial = 1;             ///< of its years, 1..12
+    std::optional<double> duracion{};  ///< of the maxima [min], where there are several
+    int diasMinimos = 0;               ///< of record: years with less are left out, 0..366
+    std::string metodo = "l";          ///< of the fits: momentos, l, mv
+    std::string ley{};                 ///< the only law to fit; empty: all
+    int remuestras = 1000;             ///< samples of the bootstrap, 0 or 100 to 100000
+    std::uint32_t semilla = 1;         ///< of their numbers
+    std::string bajos{};  ///< how log-Pearson III takes low values: 17b, 17c; empty: as the others
+    std::optional<double> asimetria{};                     ///< of the region's logarithms, -3 to 3
+    double ecmAsimetria = 0.302;                           ///< its mean square error, above 0
+    double posicion = 0.4;                                 ///< a of the plotting positions, 0 to 0.5
     bool csv = false;                                      ///< quantiles as CSV, not as text
     study::Idf idf{};                                      ///< what curves are made of, and how
     std::vector<std::pair<double, std::string>> series{};  ///< duration [min] and path of its maxima

@@ -63,11 +63,18 @@ Estado de salida: 0 todos están dentro de la tolerancia; 1 alguno no, o no se p
 )";
 
 constexpr std::string_view TextoUsoFrecuencia =
-    R"(Uso: siro-lote frecuencia ARCHIVO [opciones]    láminas por recurrencia de los máximos anuales de una estación
+    R"(Uso: siro-lote frecuencia ARCHIVO [opciones]            láminas por recurrencia de los máximos anuales
+     siro-lote frecuencia --registro ARCHIVO [opciones]  lo mismo; los máximos salen de un registro de lluvia
 
-ARCHIVO tiene un renglón por año, con dos columnas: año;valor o fecha;valor (dd/mm/aaaa, aaaa-mm-dd), en mm. Sin
-valor, el año queda como hueco; 0 es un año sin lluvia. Hacen falta 10 años con lluvia por lo menos.
+ARCHIVO tiene un renglón por año: año;valor o fecha;valor (dd/mm/aaaa, aaaa-mm-dd), en mm, y, donde se sepa, una
+tercera columna con los días con registro. Si el primer renglón da duraciones (Año;5 min;1 h), hay una columna por
+duración. Sin valor, el año queda como hueco; 0 es un año sin lluvia. Hacen falta 10 años con lluvia por lo menos.
+Un registro tiene un renglón por lectura: fecha, hora y lámina caída desde la anterior, o fecha y lámina del día.
 
+  --mes-inicial M         del registro, el mes en que comienza el año, que lleva el número de aquel en que comienza (1)
+  --duracion D            la de los máximos, en minutos: del registro, en ventanas móviles; del ARCHIVO, su columna
+                          (1440; la única)
+  --dias-minimos N        los años con menos días de registro no se ajustan (0)
   --metodo M              momentos; l, momentos L; mv, máxima verosimilitud (l)
   --ley L                 una sola: gumbel, gev, exponencial, ln2, ln3, pearson3, logpearson3, sqrt-etmax (todas)
   --bajos B               con el método momentos, los valores bajos de logpearson3 como en Bulletin 17B o 17C: 17b,

@@ -11,6 +11,7 @@
 
 #include "forms/Calendario.h"
 #include "forms/RegistroLluvia.h"
+#include "frequency/Maximos.h"
 #include "model/Numeros.h"
 
 namespace frequency {
@@ -171,23 +172,6 @@ void DiceHuecos(const Registro& r, std::vector<std::string>& avisos)
         avisos.push_back("Años sin ninguna lectura, que quedan sin máximo: " + sinRegistro + ".");
 }
 
-void DiceCobertura(const Registro& r, std::vector<std::string>& avisos)
-{
-    if (!r.conCeros) {
-        avisos.emplace_back(
-            "El registro no tiene lecturas de 0 a un paso fijo: lo que no está se toma por seco, y no se "
-            "sabe cuántos "
-            "días de cada año se midieron.");
-        return;
-    }
-    std::string cortos;
-    for (const auto& [anio, dias] : r.dias)
-        if (dias < DiasDeUnAnioCompleto)
-            cortos += (cortos.empty() ? "" : ", ") + std::to_string(anio) + " (" + std::to_string(dias) + ")";
-    if (!cortos.empty())
-        avisos.push_back("Años con menos de 330 días de registro, cuyo máximo puede faltar: " + cortos + ".");
-}
-
 std::vector<std::string> AvisosDe(const Registro& r, const forms::RegistroLluvia& leido, int mesInicial)
 {
     std::vector<std::string> avisos{
@@ -199,7 +183,11 @@ std::vector<std::string> AvisosDe(const Registro& r, const forms::RegistroLluvia
         avisos.push_back("Cada año comienza en el mes " + std::to_string(mesInicial) +
                          " y lleva el número del año en que comienza.");
     DiceHuecos(r, avisos);
-    DiceCobertura(r, avisos);
+    if (!r.conCeros)
+        avisos.emplace_back(
+            "El registro no tiene lecturas de 0 a un paso fijo: lo que no está se toma por seco, y no se "
+            "sabe cuántos "
+            "días de cada año se midieron.");
     for (std::size_t i = 0; i < leido.dudosos.size(); ++i)
         avisos.push_back("Renglón " + std::to_string(leido.dudosos[i].nro) + ": " + leido.dudosos[i].hecho +
                          ".");

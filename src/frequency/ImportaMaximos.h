@@ -18,9 +18,6 @@
 // calendar year in which it begins: with July, 1987 goes from 01/07/1987 to 30/06/1988.
 namespace frequency {
 
-/// Below that a year's maximum may have fallen while nobody measured [days].
-inline constexpr int DiasDeUnAnioCompleto = 330;
-
 struct PedidoDeImportacion {
     int mesInicial = 1;                ///< of the year, 1..12
     std::vector<double> duraciones{};  ///< [min]; empty: the usual ones that are multiples of the step, up to
@@ -30,9 +27,9 @@ struct PedidoDeImportacion {
 struct Importacion {
     std::vector<study::SerieDeMaximos> series{};  ///< by duration, in whole years of the record; its days are
                                                   ///< told where the record has readings of 0
-    std::vector<std::string> errores{};  ///< why there are none, with the line; empty: there are
-    std::vector<std::string> avisos{};   ///< coverage, gaps, doubtful lines
-    double paso = 0;                     ///< of the record [min]
+    std::vector<std::string> errores{};           ///< why there are none, with the line; empty: there are
+    std::vector<std::string> avisos{};            ///< coverage, gaps, doubtful lines
+    double paso = 0;                              ///< of the record [min]
 };
 
 /// Reads the bytes of a record as forms::LeeRegistroLluvia does, with or without times of day, and takes the

@@ -5,6 +5,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <map>
 #include <optional>
 #include <utility>
 
@@ -62,48 +63,172 @@ bool EsFalta(std::string_view t)
     return std::find(Faltas.begin(), Faltas.end(), t) != Faltas.end();
 }
 
+/// Minutes of "5 min", "1 h", "2 días"; of a plain number where `conUnidad` isn't asked for.
+std::optional<double> DuracionDe(std::string_view t, bool conUnidad)
+{
+    struct Unidad {
+        std::string_view nombre;
+        double minutos;
+    };
+    constexpr std::array<Unidad, 9> Unidades{{{"minutos", 1},
+                                              {"min", 1},
+                                              {"horas", 60},
+                                              {"hora", 60},
+                                              {"h", 60},
+                                              {"días", 1440},
+                                              {"día", 1440},
+                                              {"dias", 1440},
+                                              {"dia", 1440}}};
+    double factor = conUnidad ? 0 : 1;
+    for (const Unidad& u : Unidades)
+        if (t.ends_with(u.nombre)) {
+            factor = u.minutos;
+            t = SinBlancos(t.substr(0, t.size() - u.nombre.size()));
+            break;
+        }
+    const auto x = NumeroDe<double>(model::ComasAPuntos(t));
+    return x && *x > 0 && std::isfinite(*x) && factor > 0 ? std::optional(*x * factor) : std::nullopt;
+}
+
+bool EsTituloDelAnio(std::string_view t)
+{
+    constexpr std::array<std::string_view, 8> Titulos{"Año",  "AÑO",  "año",  "Años",
+                                                      "años", "Anio", "anio", "Fecha"};
+    return std::find(Titulos.begin(), Titulos.end(), t) != Titulos.end();
+}
+
+bool EsTituloDeDias(std::string_view t)
+{
+    constexpr std::array<std::string_view, 4> Comienzos{"Días", "días", "Dias", "dias"};
+    return std::any_of(Comienzos.begin(), Comienzos.end(), [t](auto c) { return t.starts_with(c); });
+}
+
 /// Reads row by row and gathers what is wrong.
 class Lector {
   public:
-    Serie serie{};
-    std::vector<int> faltan{};
+    Tabla tabla{};
+    std::size_t faltan = 0;
 
     void Renglon(std::size_t n, std::string_view texto)
     {
         texto = SinBlancos(texto);
         if (texto.empty() || texto.front() == '#') return;
         const bool primero = std::exchange(esPrimero, false);
-        const std::size_t corte = Separador(texto);
-        if (corte == std::string_view::npos) return Error(n, "faltan las dos columnas, año y valor");
-        const std::string_view clave = SinBlancos(texto.substr(0, corte)),
-                               valor = SinBlancos(texto.substr(corte + 1));
-        const auto anio = AnioDe(clave);
-        const std::string conPunto = model::ComasAPuntos(valor);
-        const auto x = NumeroDe<double>(conPunto);
-        if (!anio && !x && primero) return;
-        if (!anio) return Error(n, "\"" + std::string(clave) + "\" no es un año ni una fecha");
+        const std::vector<std::string_view> celdas = Celdas(texto);
+        if (celdas.size() < 2) return Error(n, "faltan las dos columnas, año y valor");
+        const auto anio = AnioDe(celdas[0]);
+        if (!anio && primero && EsTitulo(celdas)) return;
+        if (tabla.series.empty()) tabla.series.emplace_back();
+        if (!anio) return Error(n, Citado(celdas[0]) + " no es un año ni una fecha");
         if (*anio < PrimerAnio || *anio > UltimoAnio)
             return Error(n, "el año " + std::to_string(*anio) + " no está entre 1500 y 2200");
-        if (EsFalta(valor)) return faltan.push_back(*anio);
-        if (!x || !std::isfinite(*x)) return Error(n, "\"" + std::string(valor) + "\" no es un número");
-        if (*x < 0) return Error(n, "el valor es negativo");
-        if (*x > MayorLluvia) return Error(n, "el valor pasa de 100000 mm");
-        serie.maximos.push_back({*anio, *x});
+        if (celdas.size() > Columnas()) return Error(n, "sobran columnas" + QueColumnas());
+        std::optional<int> dias;
+        if (const std::string_view celda = En(celdas, colDias); !EsFalta(celda)) {
+            dias = NumeroDe<int>(celda);
+            if (!dias || *dias < 0 || *dias > 366)
+                return Error(n, "los días con registro van de 0 a 366, y dice " + Citado(celda));
+        }
+        std::size_t col = 0;
+        for (std::size_t i = 0; i < tabla.series.size(); ++i) {
+            col += col + 1 == colDias ? 2 : 1;
+            Valor(n, i, En(celdas, col), {*anio, 0, dias});
+        }
     }
 
     void Error(std::size_t n, const std::string& que)
     {
-        serie.errores.push_back("Renglón " + std::to_string(n) + ": " + que + ".");
+        tabla.errores.push_back("Renglón " + std::to_string(n) + ": " + que + ".");
+    }
+
+    /// Two maxima of a year, with the lines of both; but not of thousands.
+    void MiraRepetidos()
+    {
+        for (std::size_t i = 0; i < tabla.series.size(); ++i) {
+            std::vector<Maximo>& maximos = tabla.series[i].maximos;
+            const bool miles = maximos.size() > MaximoDeAnios;
+            std::map<int, std::size_t> vistos;
+            std::vector<Maximo> unicos;
+            for (std::size_t j = 0; j < maximos.size(); ++j) {
+                const auto [donde, nuevo] = vistos.try_emplace(maximos[j].anio, renglones[i][j]);
+                if (nuevo) unicos.push_back(maximos[j]);
+                tabla.repetidos = tabla.repetidos || !nuevo;
+                if (!nuevo && !miles)
+                    Error(renglones[i][j], "el año " + std::to_string(maximos[j].anio) +
+                                               " ya está en el renglón " + std::to_string(donde->second));
+            }
+            if (!miles) maximos = std::move(unicos);
+        }
     }
 
   private:
     bool esPrimero = true;
+    std::size_t colDias = 2;                                      ///< 0: there is none
+    std::map<std::size_t, std::vector<std::size_t>> renglones{};  ///< of the maxima, by series
 
-    static std::size_t Separador(std::string_view t)
+    static std::string Citado(std::string_view t) { return "\"" + std::string(t) + "\""; }
+    [[nodiscard]] std::size_t Columnas() const { return tabla.series.size() + (colDias == 0 ? 1 : 2); }
+    [[nodiscard]] std::string QueColumnas() const
     {
-        for (const char c : {';', '\t', ','})
-            if (const std::size_t donde = t.find(c); donde != std::string_view::npos) return donde;
-        return t.find(' ');
+        if (tabla.conDuraciones) return ": hay " + std::to_string(tabla.series.size()) + " duraciones";
+        return ": van año, valor y, si se sabe, días con registro";
+    }
+
+    static std::vector<std::string_view> Celdas(std::string_view t)
+    {
+        char separador = ' ';
+        for (const char c : {',', '\t', ';'})
+            if (t.find(c) != std::string_view::npos) separador = c;
+        std::vector<std::string_view> celdas;
+        while (true) {
+            const std::size_t fin = std::min(t.find(separador), t.size());
+            const std::string_view celda = SinBlancos(t.substr(0, fin));
+            if (separador != ' ' || !celda.empty()) celdas.push_back(celda);
+            if (fin == t.size()) break;
+            t.remove_prefix(fin + 1);
+        }
+        while (celdas.size() > 2 && celdas.back().empty())
+            celdas.pop_back();
+        return celdas;
+    }
+    static std::string_view En(const std::vector<std::string_view>& celdas, std::size_t col)
+    {
+        return col > 0 && col < celdas.size() ? celdas[col] : std::string_view{};
+    }
+
+    /// Takes the durations that a title gives. Returns false where the row is none: it has a value.
+    bool EsTitulo(const std::vector<std::string_view>& celdas)
+    {
+        std::size_t suDias = 0;
+        std::vector<study::SerieDeMaximos> series;
+        for (std::size_t col = 1; col < celdas.size(); ++col) {
+            if (const auto duracion = DuracionDe(celdas[col], !EsTituloDelAnio(celdas[0])))
+                series.push_back({.duracion = *duracion});
+            else if (suDias == 0 && EsTituloDeDias(celdas[col]))
+                suDias = col;
+            else
+                return !NumeroDe<double>(model::ComasAPuntos(celdas[1]));
+        }
+        if (series.empty()) return true;
+        tabla.series = std::move(series);
+        tabla.conDuraciones = true;
+        colDias = suDias;
+        return true;
+    }
+
+    void Valor(std::size_t n, std::size_t serie, std::string_view celda, Maximo maximo)
+    {
+        if (EsFalta(celda)) {
+            ++faltan;
+            return;
+        }
+        const auto x = NumeroDe<double>(model::ComasAPuntos(celda));
+        if (!x || !std::isfinite(*x)) return Error(n, Citado(celda) + " no es un número");
+        if (*x < 0) return Error(n, "el valor es negativo");
+        if (*x > MayorLluvia) return Error(n, "el valor pasa de 100000 mm");
+        maximo.valor = *x;
+        tabla.series[serie].maximos.push_back(maximo);
+        renglones[serie].push_back(n);
     }
 };
 
@@ -155,17 +280,41 @@ void MiraTamano(Serie& s)
                            model::NumeroATexto(model::Redondea(
                                static_cast<double>(sinLluvia) / static_cast<double>(s.maximos.size()), 4)) +
                            ". Si en alguno falta el dato, déjelo vacío.");
+    std::string cortos;
+    for (const Maximo& m : s.maximos)
+        if (m.dias && *m.dias < DiasDeUnAnioCompleto)
+            cortos +=
+                (cortos.empty() ? "" : ", ") + std::to_string(m.anio) + " (" + std::to_string(*m.dias) + ")";
+    if (!cortos.empty())
+        s.avisos.push_back("Años con menos de 330 días de registro, cuyo máximo puede faltar: " + cortos +
+                           ".");
     if (n >= MinimoDeAnios && n < 30)
         s.avisos.push_back("Con " + std::to_string(n) + " años, las recurrencias de más de " +
                            std::to_string(2 * n) + " años son una extrapolación grande.");
 }
 
-void AcortaErrores(Serie& s)
+void Acorta(std::vector<std::string>& errores)
 {
-    if (s.errores.size() <= MaxErrores) return;
-    const std::size_t otros = s.errores.size() - MaxErrores;
-    s.errores.resize(MaxErrores);
-    s.errores.push_back("Y " + std::to_string(otros) + " más.");
+    if (errores.size() <= MaxErrores) return;
+    const std::size_t otros = errores.size() - MaxErrores;
+    errores.resize(MaxErrores);
+    errores.push_back("Y " + std::to_string(otros) + " más.");
+}
+
+Tabla LeeEntera(std::string_view texto)
+{
+    constexpr std::string_view Marca = "\xEF\xBB\xBF";
+    if (texto.starts_with(Marca)) texto.remove_prefix(Marca.size());
+    Lector lector;
+    for (std::size_t n = 1; !texto.empty(); ++n) {
+        const std::size_t fin = std::min(texto.find('\n'), texto.size());
+        lector.Renglon(n, texto.substr(0, fin));
+        texto.remove_prefix(std::min(fin + 1, texto.size()));
+    }
+    lector.MiraRepetidos();
+    if (lector.faltan > 0)
+        lector.tabla.avisos.push_back("Años sin dato: " + std::to_string(lector.faltan) + ".");
+    return std::move(lector.tabla);
 }
 
 }  // namespace
@@ -185,26 +334,37 @@ Serie RevisaMaximos(std::vector<Maximo> maximos)
     }
     MiraAnios(s);
     MiraTamano(s);
-    AcortaErrores(s);
+    Acorta(s.errores);
     return s;
 }
 
-Serie LeeMaximos(std::string_view texto)
+Tabla LeeTabla(std::string_view texto)
 {
-    constexpr std::string_view Marca = "\xEF\xBB\xBF";
-    if (texto.starts_with(Marca)) texto.remove_prefix(Marca.size());
-    Lector lector;
-    for (std::size_t n = 1; !texto.empty(); ++n) {
-        const std::size_t fin = std::min(texto.find('\n'), texto.size());
-        lector.Renglon(n, texto.substr(0, fin));
-        texto.remove_prefix(std::min(fin + 1, texto.size()));
+    Tabla tabla = LeeEntera(texto);
+    Acorta(tabla.errores);
+    return tabla;
+}
+
+Serie LeeMaximos(std::string_view texto, std::optional<double> duracion)
+{
+    Tabla tabla = LeeEntera(texto);
+    const bool una = tabla.series.size() < 2 && !duracion;
+    const auto suya = std::find_if(tabla.series.begin(), tabla.series.end(),
+                                   [&](const auto& serie) { return una || serie.duracion == duracion; });
+    Serie s;
+    if (suya == tabla.series.end() && !tabla.series.empty()) {
+        std::string duraciones;
+        for (const study::SerieDeMaximos& serie : tabla.series)
+            duraciones += (duraciones.empty() ? "" : ", ") + model::NumeroATexto(serie.duracion);
+        s.errores = std::move(tabla.errores);
+        s.errores.push_back("El archivo tiene máximos de estas duraciones [min]: " + duraciones +
+                            ". Elija una de ellas.");
+        return s;
     }
-    Serie s = std::move(lector.serie);
-    MiraAnios(s);
-    MiraTamano(s);
-    if (!lector.faltan.empty())
-        s.avisos.push_back("Años sin dato: " + std::to_string(lector.faltan.size()) + ".");
-    AcortaErrores(s);
+    s = RevisaMaximos(suya == tabla.series.end() ? std::vector<Maximo>{} : std::move(suya->maximos));
+    s.errores.insert(s.errores.begin(), tabla.errores.begin(), tabla.errores.end());
+    s.avisos.insert(s.avisos.end(), tabla.avisos.begin(), tabla.avisos.end());
+    Acorta(s.errores);
     return s;
 }
 

@@ -33,32 +33,33 @@ std::optional<std::vector<double>> DuracionesDe(std::string texto)
     return duraciones;
 }
 
-/// Maxima by year, of one duration.
+/// Maxima by year, of the durations that the file tells or of one that the user does.
 Importacion DeMaximos(const std::string& bytes, double duracion)
 {
-    const Serie leida = LeeMaximos(bytes);
+    Tabla leida = LeeTabla(bytes);
+    std::erase_if(leida.series, [](const auto& serie) { return serie.maximos.empty(); });
     Importacion i;
     i.avisos = leida.avisos;
-    if (leida.maximos.empty()) {
-        i.errores = leida.errores;
+    if (leida.series.empty()) {
+        i.errores = leida.errores.empty() ? LeeMaximos(bytes).errores : leida.errores;
         return i;
     }
     // What the series itself has wrong is seen, and mended, where it is edited.
     i.avisos.insert(i.avisos.begin(), leida.errores.begin(), leida.errores.end());
-    study::SerieDeMaximos& s = i.series.emplace_back();
-    s.duracion = duracion;
-    for (const Maximo& m : leida.maximos)
-        s.maximos.push_back({m.anio, m.valor, {}});
+    i.series = std::move(leida.series);
+    if (!leida.conDuraciones) i.series.front().duracion = duracion;
+    for (study::SerieDeMaximos& serie : i.series)
+        std::stable_sort(serie.maximos.begin(), serie.maximos.end(),
+                         [](const auto& a, const auto& b) { return a.anio < b.anio; });
     return i;
 }
 
 /// A year a line, each of its own.
 bool ParecenMaximos(const std::string& bytes)
 {
-    const Serie leida = LeeMaximos(bytes);
-    const auto repetido = [](const Maximo& a, const Maximo& b) { return a.anio == b.anio; };
-    return !leida.maximos.empty() &&
-           std::adjacent_find(leida.maximos.begin(), leida.maximos.end(), repetido) == leida.maximos.end();
+    const Tabla leida = LeeTabla(bytes);
+    return !leida.repetidos && std::any_of(leida.series.begin(), leida.series.end(),
+                                           [](const auto& serie) { return !serie.maximos.empty(); });
 }
 
 std::string Dias(const study::SerieDeMaximos& s)

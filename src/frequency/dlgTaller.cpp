@@ -152,18 +152,7 @@ std::string FaltanMaximos(const dlgTaller& f)
 
 Serie Revisada(const study::SerieDeMaximos& s)
 {
-    Serie serie;
-    std::string cortos;
-    for (const study::Maximo& m : s.maximos) {
-        serie.maximos.push_back({m.anio, m.valor});
-        if (m.dias && *m.dias < DiasDeUnAnioCompleto)
-            cortos += (cortos.empty() ? "" : ", ") + std::to_string(m.anio);
-    }
-    serie = RevisaMaximos(std::move(serie.maximos));
-    if (!cortos.empty())
-        serie.avisos.push_back("Años con menos de 330 días de registro, cuyo máximo puede faltar: " + cortos +
-                               ".");
-    return serie;
+    return RevisaMaximos(s.maximos);
 }
 
 std::string NombreDe(const study::Estacion& e, std::size_t numero)

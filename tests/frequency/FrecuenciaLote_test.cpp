@@ -186,4 +186,88 @@ TEST_F(FrecuenciaLote, MuestraSuUso)
     EXPECT_TRUE(r.estandar.starts_with("Uso: siro-lote frecuencia ARCHIVO")) << r.estandar;
 }
 
+/// Forty years of a reading a day: the maximum of each is that of Escribe(), on a day of its own; the last
+/// year has half of its days.
+std::string Registro()
+{
+    std::string t = "Fecha;mm\n";
+    for (int anio = 1950; anio < 1990; ++anio)
+        for (int mes = 1; mes <= (anio == 1989 ? 6 : 12); ++mes)
+            for (int dia = 1; dia <= 28; ++dia) {
+                const int i = anio - 1950;
+                const int mm =
+                    mes == 1 + i % 6 && dia == 1 + i % 28 ? 45 + (i * 29) % 41 + (i % 7 == 0 ? 30 : 0) : 0;
+                t += std::to_string(dia) + "/" + std::to_string(mes) + "/" + std::to_string(anio) + ";" +
+                     std::to_string(mm) + "\n";
+            }
+    return t;
+}
+
+TEST_F(FrecuenciaLote, DeUnRegistroSalenLosMismosMaximos)
+{
+    const std::string registro = testing::TempDir() + "registro_de_lluvia.csv";
+    model::DiscoDelSistema().Escribe(registro, Registro());
+    std::string maximos = "anio;mm\n";
+    for (int i = 0; i < 40; ++i)
+        maximos += std::to_string(1950 + i) + ";" +
+                   std::to_string(45 + (i * 29) % 41 + (i % 7 == 0 ? 30 : 0)) + "\n";
+    model::DiscoDelSistema().Escribe(ruta, maximos);
+
+    const Respuesta de = Lote({"--registro", registro.c_str(), "--csv", "--remuestras", "0"});
+    EXPECT_EQ(de.estado, batch::EstadoCompleto) << de.errores;
+    EXPECT_EQ(de.estandar, Lote({ruta.c_str(), "--csv", "--remuestras", "0"}).estandar);
+
+    const Respuesta texto = Lote({"--registro", registro.c_str(), "--remuestras", "0"});
+    EXPECT_NE(texto.estandar.find("Registro del 01/01/1950 al 28/06/1989: 13272 lecturas cada 1440 min."),
+              std::string::npos)
+        << texto.estandar;
+    EXPECT_NE(texto.estandar.find("1989 (168)"), std::string::npos);
+
+    const Respuesta sinEl =
+        Lote({"--registro", registro.c_str(), "--remuestras", "0", "--dias-minimos", "200"});
+    EXPECT_NE(sinEl.estandar.find("Máximos anuales [mm]: 39, de 1950 a 1988\n"), std::string::npos)
+        << sinEl.estandar;
+    EXPECT_NE(sinEl.estandar.find("Años con menos de 200 días de registro, que no se ajustan: 1989."),
+              std::string::npos);
+
+    const Respuesta julio = Lote({"--registro", registro.c_str(), "--remuestras", "0", "--mes-inicial", "7"});
+    EXPECT_NE(julio.estandar.find("Máximos anuales [mm]: 40, de 1949 a 1988\n"), std::string::npos)
+        << julio.estandar;
+
+    const Respuesta dosDias =
+        Lote({"--registro", registro.c_str(), "--remuestras", "0", "--duracion", "1500"});
+    EXPECT_EQ(dosDias.estado, batch::EstadoInterrumpido);
+    EXPECT_EQ(dosDias.errores,
+              "siro-lote: La duración 1500 min no es un múltiplo del paso del registro, 1440 min.\n");
+    std::remove(registro.c_str());
+}
+
+TEST_F(FrecuenciaLote, UnaDeVariasDuracionesSeElige)
+{
+    std::string varias = "Año;30 min;1 h;Días\n";
+    for (int i = 0; i < 30; ++i)
+        varias += std::to_string(1950 + i) + ";" + std::to_string(20 + i % 9) + ";" +
+                  std::to_string(30 + i % 11) + ";365\n";
+    model::DiscoDelSistema().Escribe(ruta, varias);
+    EXPECT_EQ(Lote({ruta.c_str(), "--remuestras", "0"}).errores,
+              "siro-lote: El archivo tiene máximos de estas duraciones [min]: 30, 60. Elija una de ellas.\n");
+    const Respuesta una = Lote({ruta.c_str(), "--remuestras", "0", "--duracion", "60"});
+    EXPECT_EQ(una.estado, batch::EstadoCompleto) << una.errores;
+}
+
+TEST_F(FrecuenciaLote, LasOpcionesDelRegistroTienenSusLimites)
+{
+    for (const std::vector<const char*>& malas :
+         std::vector<std::vector<const char*>>{{},
+                                               {ruta.c_str(), "--registro", "x.csv"},
+                                               {ruta.c_str(), "--mes-inicial", "7"},
+                                               {"--registro", "x.csv", "--mes-inicial", "13"},
+                                               {"--registro", "x.csv", "--duracion", "0"},
+                                               {"--registro", "x.csv", "--dias-minimos", "367"}})
+        EXPECT_EQ(Lote(malas).estado, batch::EstadoOrdenErronea);
+    const Respuesta falta = Lote({"--registro", "no_hay.csv"});
+    EXPECT_EQ(falta.estado, batch::EstadoInterrumpido);
+    EXPECT_NE(falta.errores.find("no se puede leer"), std::string::npos);
+}
+
 }  // namespace

@@ -57,9 +57,7 @@ TEST(ImportaMaximos, DeLecturasDiariasUnMaximoPorAnioConSusDias)
     EXPECT_EQ(i.series[0].duracion, 1440);
     EXPECT_TRUE(i.series[0].lecturaDiaria);
     EXPECT_EQ(i.series[0].maximos, (std::vector<Maximo>{{1990, 80, 365}, {1991, 12.5, 365}, {1992, 0, 100}}));
-    EXPECT_EQ(i.avisos,
-              (Textos{"Registro del 01/01/1990 al 09/04/1992: 830 lecturas cada 1440 min.",
-                      "Años con menos de 330 días de registro, cuyo máximo puede faltar: 1992 (100)."}));
+    EXPECT_EQ(i.avisos, Textos{"Registro del 01/01/1990 al 09/04/1992: 830 lecturas cada 1440 min."});
 }
 
 TEST(ImportaMaximos, ElAnioHidrologicoLlevaElNumeroDelAnioEnQueComienza)
@@ -189,7 +187,7 @@ TEST(ImportaMaximos, UnAnioDeCincoMinutosDaLoMismoQueSumarCadaVentana)
     std::vector<std::string> laminas;
     std::vector<std::int64_t> decimos;
     std::uint64_t estado = 12345;
-    for (int i = 0; i < 20'000; ++i) {
+    for (int i = 0; i < 4000; ++i) {
         estado = estado * 6364136223846793005U + 1442695040888963407U;
         const auto azar = static_cast<int>(estado >> 33U) % 1000;
         decimos.push_back(azar < 900 ? 0 : azar - 900);
@@ -209,7 +207,7 @@ TEST(ImportaMaximos, UnAnioDeCincoMinutosDaLoMismoQueSumarCadaVentana)
         ASSERT_EQ(s.maximos.size(), 1U);
         EXPECT_DOUBLE_EQ(s.maximos[0].valor, static_cast<double>(mayor) / 10) << s.duracion;
     }
-    EXPECT_EQ(i.series[0].maximos[0].dias, 69) << "20,000 steps are 69.4 days";
+    EXPECT_EQ(i.series[0].maximos[0].dias, 13) << "4,000 steps are 13.9 days";
 }
 
 }  // namespace

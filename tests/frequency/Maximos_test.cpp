@@ -57,7 +57,57 @@ TEST(Maximos, LoQueEstaMalSeDiceConSuRenglon)
     EXPECT_EQ(PrimerError(Doce(3, "31/13/1993;4")), "Renglón 4: \"31/13/1993\" no es un año ni una fecha.");
     EXPECT_EQ(PrimerError(Doce(3, "93;4")), "Renglón 4: el año 93 no está entre 1500 y 2200.");
     EXPECT_EQ(PrimerError(Doce(3, "1993")), "Renglón 4: faltan las dos columnas, año y valor.");
-    EXPECT_EQ(PrimerError(Doce(3, "1994;55")), "El año 1994 tiene dos máximos.");
+    EXPECT_EQ(PrimerError(Doce(3, "1994;55")), "Renglón 5: el año 1994 ya está en el renglón 4.");
+    EXPECT_EQ(PrimerError(Doce(3, "1993;50;367")),
+              "Renglón 4: los días con registro van de 0 a 366, y dice \"367\".");
+    EXPECT_EQ(PrimerError(Doce(3, "1993;50;muchos")),
+              "Renglón 4: los días con registro van de 0 a 366, y dice \"muchos\".");
+    EXPECT_EQ(PrimerError(Doce(3, "1993;50;300;7")),
+              "Renglón 4: sobran columnas: van año, valor y, si se sabe, días con registro.");
+}
+
+TEST(Maximos, LosDiasConRegistroVanEnLaTerceraColumna)
+{
+    const Serie s =
+        LeeMaximos("Año;mm;días\n" + Doce(3, "1993;50,5;329") + "2002\t12.5\t365\n2003,4.5,366\n2004;7;\n");
+    EXPECT_EQ(s.errores, Textos{});
+    ASSERT_EQ(s.maximos.size(), 15U);
+    EXPECT_EQ(s.maximos[3], (frequency::Maximo{1993, 50.5, 329}));
+    EXPECT_EQ(s.maximos[4].dias, std::nullopt);
+    EXPECT_EQ(s.maximos[12], (frequency::Maximo{2002, 12.5, 365}));
+    EXPECT_EQ(s.maximos[13], (frequency::Maximo{2003, 4.5, 366}));
+    EXPECT_EQ(s.maximos[14], (frequency::Maximo{2004, 7, {}}));
+    EXPECT_EQ(s.avisos.front(),
+              "Años con menos de 330 días de registro, cuyo máximo puede faltar: 1993 (329).");
+}
+
+TEST(Maximos, VariasDuracionesVanUnaAlLadoDeLaOtra)
+{
+    const frequency::Tabla t = frequency::LeeTabla(
+        "Año;5;15 min;1 h;Días;24 horas\n1990;10;20;30;365;40\n1991;11;;31;300;41,5\n1992;12;22;32\n");
+    EXPECT_EQ(t.errores, Textos{});
+    ASSERT_EQ(t.series.size(), 4U);
+    EXPECT_EQ(t.series[0].duracion, 5);
+    EXPECT_EQ(t.series[1].duracion, 15);
+    EXPECT_EQ(t.series[2].duracion, 60);
+    EXPECT_EQ(t.series[3].duracion, 1440);
+    EXPECT_EQ(t.series[0].maximos,
+              (std::vector<frequency::Maximo>{{1990, 10, 365}, {1991, 11, 300}, {1992, 12, {}}}));
+    EXPECT_EQ(t.series[1].maximos, (std::vector<frequency::Maximo>{{1990, 20, 365}, {1992, 22, {}}}));
+    EXPECT_EQ(t.series[3].maximos, (std::vector<frequency::Maximo>{{1990, 40, 365}, {1991, 41.5, 300}}));
+    EXPECT_EQ(t.avisos, Textos{"Años sin dato: 2."});
+
+    const std::string varias = "Año;5 min;60 min\n1990;1;2\n1990;3;4\n1991;5;6;7\n";
+    EXPECT_EQ(frequency::LeeTabla(varias).errores,
+              (Textos{"Renglón 4: sobran columnas: hay 2 duraciones.",
+                      "Renglón 3: el año 1990 ya está en el renglón 2.",
+                      "Renglón 3: el año 1990 ya está en el renglón 2."}));
+    EXPECT_EQ(LeeMaximos("Año;5 min;60 min\n1990;1;2\n").errores,
+              Textos{"El archivo tiene máximos de estas duraciones [min]: 5, 60. Elija una de ellas."});
+    EXPECT_EQ(LeeMaximos("Año;5 min;60 min\n1990;1;2\n", 60).maximos,
+              (std::vector<frequency::Maximo>{{1990, 2, {}}}));
+    EXPECT_EQ(frequency::LeeTabla("ayer;4\n").errores,
+              Textos{"Renglón 1: \"ayer\" no es un año ni una fecha."});
 }
 
 TEST(Maximos, LasMuestrasQueNoSeAjustan)
