@@ -457,7 +457,7 @@ Lectura LeeOpcionesFrecuencia(int argc, const char* const* argv)
     Lectura l = LeeDeMaximos("frecuencia", Opciones::Orden::Frecuencia, DeFrecuencia, argc, argv);
     if (!l.opciones) return l;
     const Opciones& o = *l.opciones;
-    if (o.archivo.empty() && o.registro.empty()) return {{}, "Falta ARCHIVO, o --registro"};
+    if (o.archivo.empty() && o.registro.empty()) return {{}, "Falta ARCHIVO"};
     if (!o.archivo.empty() && !o.registro.empty()) return {{}, "ARCHIVO y --registro no van juntos"};
     if (o.registro.empty() && o.mesInicial != 1) return {{}, "--mes-inicial va con --registro"};
     if (o.metodo != "momentos" && (!o.bajos.empty() || o.asimetria))

@@ -145,19 +145,15 @@ class Lector {
     void MiraRepetidos()
     {
         for (std::size_t i = 0; i < tabla.series.size(); ++i) {
-            std::vector<Maximo>& maximos = tabla.series[i].maximos;
-            const bool miles = maximos.size() > MaximoDeAnios;
+            const std::vector<Maximo>& maximos = tabla.series[i].maximos;
             std::map<int, std::size_t> vistos;
-            std::vector<Maximo> unicos;
             for (std::size_t j = 0; j < maximos.size(); ++j) {
                 const auto [donde, nuevo] = vistos.try_emplace(maximos[j].anio, renglones[i][j]);
-                if (nuevo) unicos.push_back(maximos[j]);
                 tabla.repetidos = tabla.repetidos || !nuevo;
-                if (!nuevo && !miles)
+                if (!nuevo && maximos.size() <= MaximoDeAnios)
                     Error(renglones[i][j], "el año " + std::to_string(maximos[j].anio) +
                                                " ya está en el renglón " + std::to_string(donde->second));
             }
-            if (!miles) maximos = std::move(unicos);
         }
     }
 
@@ -232,6 +228,11 @@ class Lector {
     }
 };
 
+bool AntesDe(const Maximo& a, const Maximo& b)
+{
+    return a.anio < b.anio;
+}
+
 void MiraAnios(Serie& s)
 {
     if (s.maximos.size() > MaximoDeAnios) {
@@ -240,8 +241,7 @@ void MiraAnios(Serie& s)
                             "máximos anuales, uno por año.");
         return;
     }
-    std::stable_sort(s.maximos.begin(), s.maximos.end(),
-                     [](const Maximo& a, const Maximo& b) { return a.anio < b.anio; });
+    std::stable_sort(s.maximos.begin(), s.maximos.end(), AntesDe);
     std::string huecos;
     for (std::size_t i = 1; i < s.maximos.size(); ++i) {
         const int antes = s.maximos[i - 1].anio, anio = s.maximos[i].anio;
@@ -361,7 +361,14 @@ Serie LeeMaximos(std::string_view texto, std::optional<double> duracion)
                             ". Elija una de ellas.");
         return s;
     }
-    s = RevisaMaximos(suya == tabla.series.end() ? std::vector<Maximo>{} : std::move(suya->maximos));
+    std::vector<Maximo> maximos =
+        suya == tabla.series.end() ? std::vector<Maximo>{} : std::move(suya->maximos);
+    if (maximos.size() <= MaximoDeAnios) {  // what is there twice has been told with its lines
+        std::stable_sort(maximos.begin(), maximos.end(), AntesDe);
+        const auto esUno = [](const Maximo& a, const Maximo& b) { return a.anio == b.anio; };
+        maximos.erase(std::unique(maximos.begin(), maximos.end(), esUno), maximos.end());
+    }
+    s = RevisaMaximos(std::move(maximos));
     s.errores.insert(s.errores.begin(), tabla.errores.begin(), tabla.errores.end());
     s.avisos.insert(s.avisos.end(), tabla.avisos.begin(), tabla.avisos.end());
     Acorta(s.errores);
