@@ -36,18 +36,6 @@ frequency::PedidoDeAnalisis PedidoDe(const Opciones& o)
     return pedido;
 }
 
-/// Annual maxima out of a record, as a series that is fitted.
-frequency::Serie DeRegistro(const std::string& bytes, const Opciones& o)
-{
-    const double duracion = o.duracion.value_or(1440);
-    const frequency::Importacion importada =
-        *frequency::ImportaMaximos(bytes, {.mesInicial = o.mesInicial, .duraciones = {duracion}});
-    if (!importada.errores.empty()) return {.errores = importada.errores};
-    frequency::Serie serie = frequency::RevisaMaximos(importada.series.front().maximos);
-    serie.avisos.insert(serie.avisos.begin(), importada.avisos.begin(), importada.avisos.end());
-    return serie;
-}
-
 /// Without the years that were measured too little, which is told.
 frequency::Serie SinAniosCortos(frequency::Serie serie, int diasMinimos)
 {
@@ -59,11 +47,24 @@ frequency::Serie SinAniosCortos(frequency::Serie serie, int diasMinimos)
         else
             fuera += (fuera.empty() ? "" : ", ") + std::to_string(m.anio);
     }
-    if (fuera.empty() || serie.maximos.size() > frequency::MaximoDeAnios) return serie;
+    if (fuera.empty() || !serie.errores.empty()) return serie;
     frequency::Serie menor = frequency::RevisaMaximos(std::move(quedan));
     menor.avisos.insert(menor.avisos.begin(), "Años con menos de " + std::to_string(diasMinimos) +
                                                   " días de registro, que no se ajustan: " + fuera + ".");
     return menor;
+}
+
+/// Annual maxima out of a record, as a series that is fitted.
+frequency::Serie DeRegistro(const std::string& bytes, const Opciones& o)
+{
+    const double duracion = o.duracion.value_or(1440);
+    const frequency::Importacion importada =
+        *frequency::ImportaMaximos(bytes, {.mesInicial = o.mesInicial, .duraciones = {duracion}});
+    if (!importada.errores.empty()) return {.errores = importada.errores};
+    frequency::Serie serie =
+        SinAniosCortos(frequency::RevisaMaximos(importada.series.front().maximos), o.diasMinimos);
+    serie.avisos.insert(serie.avisos.begin(), importada.avisos.begin(), importada.avisos.end());
+    return serie;
 }
 
 }  // namespace
@@ -85,8 +86,9 @@ int MuestraFrecuencia(const Opciones& o, const std::string& /*dirEjecutable*/, c
                         (deRegistro ? ", o pasa de 64 MiB: repártalo en varios\n" : "\n"));
         return EstadoInterrumpido;
     }
-    frequency::Serie serie = deRegistro ? DeRegistro(texto, o) : frequency::LeeMaximos(texto, o.duracion);
-    serie = SinAniosCortos(std::move(serie), o.diasMinimos);
+    const frequency::Serie serie =
+        deRegistro ? DeRegistro(texto, o)
+                   : SinAniosCortos(frequency::LeeMaximos(texto, o.duracion), o.diasMinimos);
     if (!serie.errores.empty()) {
         for (const std::string& error : serie.errores)
             salidas.Errores("siro-lote: " + error + "\n");
