@@ -7,6 +7,7 @@
 #include <cmath>
 #include <cstddef>
 #include <memory>
+#include <optional>
 
 namespace frequency {
 namespace {
@@ -184,10 +185,15 @@ Estimado MaximaVerosimilitud(const Ley& ley, const Muestra& m)
     double costo = 0;
     nlopt_set_xtol_abs1(opt.get(), ToleranciaGruesa);
     nlopt_result fin = nlopt_optimize(opt.get(), v.data(), &costo);
-    Libres fino = v;
-    if (fin > 0 && Dentro(fino, menor, mayor, ley.cuantos) && Afina(b, fino) &&
-        Dentro(fino, menor, mayor, ley.cuantos))
-        return {b.De(fino.data()), {}};
+    const auto afinado = [&]() -> std::optional<Parametros> {
+        Libres fino = v;
+        if (!Dentro(fino, menor, mayor, ley.cuantos) || !Afina(b, fino) ||
+            !Dentro(fino, menor, mayor, ley.cuantos))
+            return {};
+        return b.De(fino.data());
+    };
+    if (fin > 0)
+        if (const auto p = afinado()) return {*p, {}, {}};
     nlopt_set_xtol_abs1(opt.get(), ToleranciaFina);
     fin = nlopt_optimize(opt.get(), v.data(), &costo);
     if ((fin < 0 && fin != NLOPT_ROUNDOFF_LIMITED) || fin == NLOPT_MAXEVAL_REACHED || costo >= SinValor)
@@ -196,7 +202,7 @@ Estimado MaximaVerosimilitud(const Ley& ley, const Muestra& m)
         if (v[i] - menor[i] < JuntoAlLimite || mayor[i] - v[i] < JuntoAlLimite)
             return EnSuLugar(inicio, "La máxima verosimilitud lleva " +
                                          std::string(ley.parametros[i].simbolo) + " a su límite");
-    return {b.De(v.data()), {}};
+    return {afinado().value_or(b.De(v.data())), {}, {}};
 }
 
 }  // namespace frequency
