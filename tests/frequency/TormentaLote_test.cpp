@@ -21,9 +21,8 @@ struct Respuesta {
     std::string estandar{}, errores{};
 };
 
-Respuesta Lote(std::vector<std::string> palabras)
+Respuesta Corre(const std::vector<std::string>& palabras)
 {
-    palabras.insert(palabras.begin(), {"siro-lote", "tormenta"});
     std::vector<const char*> argv;
     for (const std::string& palabra : palabras)
         argv.push_back(palabra.c_str());
@@ -33,6 +32,12 @@ Respuesta Lote(std::vector<std::string> palabras)
     salidas.Errores = [&](std::string_view texto) { r.errores += texto; };
     r.estado = batch::Lote(static_cast<int>(argv.size()), argv.data(), salidas);
     return r;
+}
+
+Respuesta Lote(std::vector<std::string> palabras)
+{
+    palabras.insert(palabras.begin(), {"siro-lote", "tormenta"});
+    return Corre(palabras);
 }
 
 const std::vector<std::string> Entregada{"--coeficientes", "k=822,a=0.2,b=10,c=0.8"};
@@ -141,6 +146,51 @@ TEST_F(TormentaLote, LoQueHayNoSeReemplazaSinDecirlo)
     orden.push_back("--reemplaza");
     EXPECT_EQ(Lote(orden).estado, batch::EstadoCompleto);
     EXPECT_EQ(Renglones("distriPp_dpt.vlm").front(), "12,12,12\r");
+}
+
+/// Depths of the blocks [mm] that a run's Slate tells.
+std::vector<double> BloquesDeLaPizarra(const std::string& pizarra)
+{
+    std::istringstream texto(pizarra.substr(pizarra.find("Per.k t[min] Pp[mm]")));
+    std::string renglon;
+    std::getline(texto, renglon);
+    std::vector<double> bloques;
+    while (std::getline(texto, renglon)) {
+        std::istringstream columnas(renglon);
+        double k = 0, minutos = 0, lamina = 0;
+        if (!(columnas >> k >> minutos >> lamina)) break;
+        bloques.push_back(lamina);
+    }
+    return bloques;
+}
+
+TEST_F(TormentaLote, LoEscritoEsLoQueUnaCorridaLlueve)
+{
+    for (const char* nombre : {"Conf", "UEHs", "VerCau", "RHAS", "RHQ", "LHASQ"}) {
+        const std::string archivo = std::string("Quelmar_") + nombre + ".vlm";
+        disco.Escribe(Ruta(archivo),
+                      apoyo::BytesDeArchivo(std::string(SIRO_DATA_DIR) + "/Proyectos/" + archivo));
+    }
+    const std::string dir = carpeta.Camino().string();
+    const Respuesta escrita = Lote(Con(Entregada, {"--patron", "chicago", "--trabajo", dir,
+                                                   "--escribe-distribucion", "3", "--reemplaza", "--csv"}));
+    ASSERT_EQ(escrita.estado, batch::EstadoCompleto) << escrita.errores;
+    const Respuesta una = Corre({"siro-lote", "una", Ruta("Quelmar_Conf.vlm"), "--trabajo", dir, "--pp",
+                                 "73.2051", "--dur", "120", "--distribucion", "7", "--pizarra"});
+    ASSERT_EQ(una.estado, batch::EstadoCompleto) << una.errores;
+    const std::vector<double> bloques = BloquesDeLaPizarra(una.estandar);
+    ASSERT_EQ(bloques.size(), 12U);
+    std::istringstream csv(escrita.estandar);
+    std::string renglon;
+    std::getline(csv, renglon);
+    double suma = 0;
+    for (const double bloque : bloques) {
+        std::getline(csv, renglon);
+        const double corrida = std::stod(renglon.substr(renglon.rfind(',') + 1));
+        EXPECT_NEAR(bloque, corrida, 0.0101) << renglon;  // the Slate cuts off behind two decimals
+        suma += corrida;
+    }
+    EXPECT_NEAR(suma, 73.2051, 1e-3);
 }
 
 TEST_F(TormentaLote, SiUnaSeNiegaNoSeEscribeLaOtra)
