@@ -6,8 +6,8 @@
 namespace frequency {
 
 PaginaDeTaller::PaginaDeTaller(forms::Entorno& alrededor, dlgTaller& taller,
-                               std::span<const forms::FilaRotulo> rotulos, std::string_view nombre)
-    : Constructor(alrededor, rotulos), f(taller)
+                               std::span<const forms::FilaRotulo> filas, std::string_view nombre)
+    : Constructor(alrededor, filas), f(taller)
 {
     setObjectName(forms::Q(nombre));
 }
