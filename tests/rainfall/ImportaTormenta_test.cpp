@@ -11,6 +11,7 @@
 
 #include "ProyectoDeLluvia.h"
 #include "apoyo/AnfitrionPrueba.h"
+#include "model/Disco.h"
 #include "rainfall/dlgImportaTormenta.h"
 
 namespace rainfall {
@@ -109,14 +110,16 @@ TEST(RemuestreoDeLluvia, TieneSusLimites)
 
 // --- form ---
 
+const std::string Archivo = model::Ruta("/datos", "Llu\"via.csv");
+
 class DialogoImporta : public testing::Test {
   protected:
     DialogoImporta()
     {
         s.Anfitrion = anfitrion.Puerta();
         s.Disco = disco.Puerta();
-        disco.Pon("/datos/Llu\"via.csv", "\xEF\xBB\xBF" + Horario);
-        anfitrion->elegidos = {"/datos/Llu\"via.csv"};
+        disco.Pon(Archivo, "\xEF\xBB\xBF" + Horario);
+        anfitrion->elegidos = {Archivo};
     }
     void Paso(const char* texto)
     {
@@ -149,7 +152,7 @@ TEST_F(DialogoImporta, MuestraElRegistroComoQuedaria)
 
 TEST_F(DialogoImporta, LosRenglonesDudososEstanALaVista)
 {
-    disco.Pon("/datos/Llu\"via.csv", Horario + "17/02/1976 19:00;0\r\nTotal;16,5\r\n");
+    disco.Pon(Archivo, Horario + "17/02/1976 19:00;0\r\nTotal;16,5\r\n");
     ASSERT_TRUE(Abre(f, s));
     EXPECT_EQ(f.lblRegistro,
               "3 lecturas, del 17/02/1976 17:00 al 17/02/1976 19:00, Pp= 16.5 [mm]; 2 renglones dudosos");
@@ -158,8 +161,8 @@ TEST_F(DialogoImporta, LosRenglonesDudososEstanALaVista)
               (std::vector<std::string>{"5", "17/02/1976 19:00;0",
                                         "repite la hora y la lámina del anterior: no se toma"}));
     EXPECT_EQ(f.grillaDudosos.Texto({2, 0}), "6");
-    disco.Pon("/datos/Llu\"via.csv", Horario + "Total;16,5\r\n");
-    anfitrion->elegidos = {"/datos/Llu\"via.csv"};
+    disco.Pon(Archivo, Horario + "Total;16,5\r\n");
+    anfitrion->elegidos = {Archivo};
     ASSERT_TRUE(Abre(f, s));
     EXPECT_TRUE(f.lblRegistro.ends_with("; 1 renglón dudoso"));
 }
@@ -183,7 +186,7 @@ TEST_F(DialogoImporta, OtroPasoRehaceLaVistaYUnoMaloDiceQueNoVale)
 
 TEST_F(DialogoImporta, ElPasoHabitualEstaEntreLosItems)
 {
-    disco.Pon("/datos/Llu\"via.csv", "01/03/2004 00:07;1\n01/03/2004 00:14;1\n");
+    disco.Pon(Archivo, "01/03/2004 00:07;1\n01/03/2004 00:14;1\n");
     ASSERT_TRUE(Abre(f, s));
     EXPECT_EQ(f.cmbPaso, "7");
     EXPECT_EQ(f.itemsPaso[1], "7");
@@ -202,7 +205,7 @@ TEST_F(DialogoImporta, SinElegirNoSeAbreNada)
 
 TEST_F(DialogoImporta, UnArchivoQueNoSirveSeDice)
 {
-    disco.Pon("/datos/Llu\"via.csv", "nada");
+    disco.Pon(Archivo, "nada");
     EXPECT_FALSE(Abre(f, s));
     anfitrion->elegidos = {"/datos/otro.csv"};
     EXPECT_FALSE(Abre(f, s));

@@ -11,6 +11,7 @@
 #include "checks/UltimaCorrida.h"
 #include "engine/mdlSeriePDR.h"
 #include "engine/modProceso0.h"
+#include "model/Disco.h"
 #include "model/Siro.h"
 #include "model/VidaProyecto.h"
 
@@ -26,7 +27,7 @@ class CorridaDeMuestra {
         namespace fs = std::filesystem;
         fs::copy(SIRO_DATA_DIR, carpeta.Camino(), fs::copy_options::recursive);
         s.Proyecto.DirTrabajo = s.Proyecto.DirEjecutable = carpeta.Camino().string();
-        model::AbreProyectoDe(s, carpeta.Ruta("Proyectos/Quelmar_Conf.vlm"));
+        model::AbreProyectoDe(s, model::Ruta(carpeta.Ruta("Proyectos"), "Quelmar_Conf.vlm"));
     }
     Corrida Una(float pp = 80)
     {

@@ -3,14 +3,18 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
 #include "apoyo/AnfitrionPrueba.h"
 #include "apoyo/DiscoPrueba.h"
+#include "model/Disco.h"
 #include "model/Siro.h"
 #include "shell/MDIForm1.h"
 
 namespace shell {
 namespace {
 
+using model::Ruta;
 using Lista = std::vector<ProyectoReciente>;
 
 TEST(Recientes, ElDeAhoraVaPrimeroUnaSolaVez)
@@ -54,13 +58,15 @@ struct EnInicio : testing::Test {
 TEST_F(EnInicio, UnProyectoDeLaListaDiceCuencaFechaYCarpetaOQueNoEsta)
 {
     disco.Pon("/p/A_Conf.vlm", "");
-    const ProyectoReciente a{"/p/A_Conf.vlm", "Río Sí", "22/11/2026 10:00"};
+    const std::string conf = Ruta("/p", "A_Conf.vlm");
+    const ProyectoReciente a{conf, "Río Sí", "22/11/2026 10:00"};
     EXPECT_EQ(EntradaDe(s.Disco, a), (Entrada{"A", "22/11/2026 10:00 · Río Sí · /p", true}));
-    EXPECT_EQ(EntradaDe(s.Disco, {"/p/A_Conf.vlm", "", ""}), (Entrada{"A", "/p", true}));
-    EXPECT_EQ(EntradaDe(s.Disco, {"/no/B_Conf.vlm", "Dos", "ayer"}), (Entrada{"B", "No está en /no", false}));
+    EXPECT_EQ(EntradaDe(s.Disco, {conf, "", ""}), (Entrada{"A", "/p", true}));
+    EXPECT_EQ(EntradaDe(s.Disco, {Ruta("/no", "B_Conf.vlm"), "Dos", "ayer"}),
+              (Entrada{"B", "No está en /no", false}));
     EXPECT_EQ(EntradaDe(s.Disco, {"B_Conf.vlm", "", ""}).habilitada, false);
     EXPECT_EQ(EntradaDe(s.Disco, {"", "", ""}).habilitada, false);
-    EXPECT_EQ(EntradaDe(s.Disco, {"/p/<b>&x_Conf.vlm", "", ""}).titulo, "<b>&x");
+    EXPECT_EQ(EntradaDe(s.Disco, {Ruta("/p", "<b>&x_Conf.vlm"), "", ""}).titulo, "<b>&x");
     EXPECT_TRUE(anfitrion->sucesos.empty());
 }
 
@@ -70,7 +76,7 @@ TEST_F(EnInicio, SoloUnProyectoGuardadoTieneArchivo)
     s.Proyecto.NombreProyecto = "A";
     EXPECT_EQ(ConfEnMano(s), "");
     disco.Pon("/p/A_Conf.vlm", "");
-    EXPECT_EQ(ConfEnMano(s), "/p/A_Conf.vlm");
+    EXPECT_EQ(ConfEnMano(s), Ruta("/p", "A_Conf.vlm"));
 }
 
 TEST_F(EnInicio, LoEntregadoEstaOFalta)
@@ -79,7 +85,7 @@ TEST_F(EnInicio, LoEntregadoEstaOFalta)
     EXPECT_FALSE(HayTutorial(s));
     disco.Pon("/siro/Proyectos/Quelmar_Conf.vlm", "");
     disco.Pon("/siro/Ayuda/tutorial.html", "");
-    EXPECT_EQ(ProyectoDeMuestra(s), "/siro/Proyectos/Quelmar_Conf.vlm");
+    EXPECT_EQ(ProyectoDeMuestra(s), Ruta(Ruta("/siro", "Proyectos"), "Quelmar_Conf.vlm"));
     EXPECT_TRUE(HayTutorial(s));
 }
 
