@@ -14,10 +14,10 @@ PaginaDeTaller::PaginaDeTaller(forms::Entorno& alrededor, dlgTaller& taller,
 
 void PaginaDeTaller::Muestra()
 {
-    if (tomado != TallerDe(f) || estacion != f.estacion || serie != f.serie) {
+    if (tomado != TallerDe(f) || estacionTomada != f.estacion || serieTomada != f.serie) {
         tomado = TallerDe(f);
-        estacion = f.estacion;
-        serie = f.serie;
+        estacionTomada = f.estacion;
+        serieTomada = f.serie;
         Toma();
     }
     Constructor::Muestra();

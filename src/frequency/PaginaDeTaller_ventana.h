@@ -54,7 +54,7 @@ class PaginaDeTaller : public QWidget, protected forms::Constructor {
 
   private:
     std::optional<study::Taller> tomado{};
-    int estacion = -1, serie = -1;  ///< in hand as it was taken
+    int estacionTomada = -1, serieTomada = -1;  ///< in hand as they were
 };
 
 }  // namespace frequency
