@@ -109,7 +109,7 @@ forms::Grafico GraficoDe(const Diseno& d)
     forms::Grafico g;
     g.titulo = "Hietograma";
     g.magnitudX = "t";
-    g.ejeX = "min";
+    g.ejeX = "minutos";
     g.ejeY = "Precipitación [mm]";
     g.leyendaVisible = true;
     forms::Serie ideal{.leyenda = "Patrón"},
