@@ -40,6 +40,7 @@ constexpr auto PaginasComunes = std::to_array<PaginaComun>({
     {"dlgTablaSHVQ", "dlgTabla"},
     {"dlgTablaSalePDR2", "dlgTablaSalePDR"},
     {"dlgImportaTormenta", "dlgPpReal"},
+    {"dlgImportaMaximos", "dlgTaller"},
     {"dlgEliminarProyecto", "MDIForm1"},
     {"frmAcerca", "MDIForm1"},
     {"ListaDeAvisos", "mensajes"},

@@ -21,7 +21,8 @@ set(sin_pagina_propia
     dlgEliminarProyecto frmAcerca  # with the main window
     frmInicio frmPp2               # nothing is asked of them
     dlgTablaSalePDR2               # with its twin
-    dlgImportaTormenta)            # with the storm that it makes
+    dlgImportaTormenta             # with the storm that it makes
+    dlgImportaMaximos)             # with the workshop
 set(ventanas dlgTabla)
 file(GLOB_RECURSE fuentes RELATIVE ${RAIZ} ${RAIZ}/src/frm*.h ${RAIZ}/src/dlg*.h ${RAIZ}/src/MDIForm1.h)
 foreach(fuente IN LISTS fuentes)
