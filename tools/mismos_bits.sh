@@ -23,7 +23,7 @@ for combinacion in "${combinaciones[@]}"; do
         continue
     fi
     mkdir -p "$lugar"
-    if ! { cmake -S . -B "$lugar" -G Ninja -DCMAKE_BUILD_TYPE=Release -DSIRO_GUI=OFF -DBUILD_TESTING=OFF \
+    if ! { cmake -S . -B "$lugar" -G Ninja -DCMAKE_BUILD_TYPE=Release -DSIRO_GUI=OFF -DSIRO_ESTUDIO=OFF -DSIRO_JUNTA=ON -DBUILD_TESTING=OFF \
         -DCMAKE_CXX_COMPILER="$compilador" -DCMAKE_CXX_FLAGS="-march=$procesador" &&
         cmake --build "$lugar" --target siro-lote; } >"$lugar/salida.log" 2>&1; then
         printf '%-24s not built: see %s/salida.log\n' "$combinacion" "$lugar"

@@ -9,7 +9,7 @@ namespace {
 
 int NoLaTrae(const std::string& orden, const Salidas& salidas)
 {
-    salidas.Errores("siro-lote: esta versión no trae la orden " + orden + "; la trae la de Linux\n");
+    salidas.Errores("siro-lote: esta versión no trae la orden " + orden + "; la trae la versión completa\n");
     return EstadoInterrumpido;
 }
 

@@ -13,7 +13,7 @@ TallerDeLluvia::~TallerDeLluvia() = default;
 
 void TallerDeLluvia::Abre()
 {
-    model::Advierte(entorno.s, "Esta versión no trae el taller de lluvia; la trae la de Linux.");
+    model::Advierte(entorno.s, "Esta versión no trae el taller de lluvia; lo trae la versión completa.");
 }
 
 study::Abierto* TallerDeLluvia::Estudio()

@@ -15,6 +15,7 @@ import itertools
 import json
 import os
 import random
+import shlex
 import subprocess
 import sys
 import tempfile
@@ -58,8 +59,8 @@ def corre(programa, x, metodo):
         for i, v in enumerate(x):
             archivo.write(f"{1950 + i};{v}\n")
     try:
-        salida = subprocess.run([programa, "frecuencia", archivo.name, "--metodo", metodo, "--remuestras", "0", "--json"],
-                                capture_output=True, check=True, text=True).stdout
+        orden = shlex.split(programa) + ["frecuencia", archivo.name, "--metodo", metodo, "--remuestras", "0", "--json"]
+        salida = subprocess.run(orden, capture_output=True, check=True, text=True).stdout
     finally:
         os.unlink(archivo.name)
     return json.loads(salida)
@@ -363,7 +364,7 @@ def compara(programa, x, metodo, peores):
 
 def main():
     opciones = argparse.ArgumentParser()
-    opciones.add_argument("--siro-lote", required=True)
+    opciones.add_argument("--siro-lote", required=True, metavar="COMMAND")
     opciones.add_argument("--muestras", type=int, default=40)
     opciones.add_argument("--semilla", type=int, default=1)
     opciones.add_argument("--entero", action="store_true")

@@ -4,7 +4,7 @@
 #   tools/windows/construye.sh           siro.exe and siro-lote.exe with all that they need: build/windows/SIRO-VERSION-win64.zip,
 #                                        a portable folder, and SIRO-VERSION-win64.exe, which installs them
 #   tools/windows/construye.sh --libs    only the libraries
-#   tools/windows/construye.sh --lote    only siro-lote.exe, which needs none of them
+#   tools/windows/construye.sh --lote    only siro-lote.exe, which needs none of them but NLopt
 #
 # From a Debian 12 with nothing installed. The libraries are built once, some 45 minutes on two cores, and kept outside the tree, in
 # SIRO_WINDOWS or ~/.cache/siro-windows. SIRO_QTSVG names an archive of the source of qtsvg 6.4.2 where Debian's can't be had.
@@ -12,8 +12,7 @@
 set -u
 cd "$(dirname "${BASH_SOURCE[0]}")/../.." || exit 1
 . .ci/paquetes.sh
-deposito=${SIRO_WINDOWS:-${XDG_CACHE_HOME:-$HOME/.cache}/siro-windows}
-mkdir -p build "$deposito" || exit 1
+mkdir -p build
 . tools/windows/dependencias.sh
 
 muere() {
@@ -22,16 +21,16 @@ muere() {
 }
 
 librerias() {
-    necesita construye windows windows-qt || return 1
+    necesita construye estudio windows windows-qt || return 1
     local libreria
-    for libreria in qtbase qtsvg qcustomplot libxlsxwriter; do una "$libreria" || return 1; done
+    for libreria in nlopt qtbase qtsvg qcustomplot libxlsxwriter; do una "$libreria" || return 1; done
 }
 
 case ${1-} in
 --libs) librerias; exit ;;
 --lote)
-    necesita construye windows || exit 1
-    SIRO_WINDOWS_PREFIJO=$prefijo construye windows-lote siro-lote || exit 1
+    necesita construye estudio windows && una nlopt || exit 1
+    construye windows-lote siro-lote || exit 1
     echo "build/windows-lote/src/batch/siro-lote.exe"
     exit
     ;;
@@ -40,7 +39,7 @@ case ${1-} in
 esac
 
 librerias || exit 1
-SIRO_WINDOWS_PREFIJO=$prefijo construye windows || exit 1
+construye windows || exit 1
 
 # What stands beside the programs: libraries of Qt and of the compiler, plugins, the Spanish of standard boxes.
 acompana() {

@@ -1,12 +1,14 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 #
-# Sourced by construye.sh: the libraries that SIRO stands on, built for Windows from the sources of Debian.
+# Sourced: the libraries that SIRO stands on, built for Windows from the sources of Debian.
 #
-# Each is built once and kept in $deposito, outside the tree: prefijo/ is where they are installed, fuente/ and obra/ where
-# they are unpacked and built, hecho/NAME-KEY tells that one is there. KEY is a digest of the function that builds it, of the
-# toolchain's file and of its patches: who changes one of them builds anew.
+# Each is built once and kept outside the tree, in SIRO_WINDOWS or ~/.cache/siro-windows: prefijo/ is where they are installed,
+# fuente/ and obra/ where they are unpacked and built, hecho/NAME-KEY tells that one is there. KEY is a digest of the function that
+# builds it, of the toolchain's file and of its patches: who changes one of them builds anew.
 
+deposito=${SIRO_WINDOWS:-${XDG_CACHE_HOME:-$HOME/.cache}/siro-windows}
 prefijo=$deposito/prefijo
+export SIRO_WINDOWS_PREFIJO=$prefijo
 aqui=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 
 clave() { { declare -f "$1" instala cmake_win; cat "$aqui/mingw.cmake" "$aqui/parches/$1"-* 2>/dev/null; } | sha256sum | cut -c1-12; }
@@ -106,4 +108,11 @@ libxlsxwriter() {
     fuente libxlsxwriter || return 1
     patch -d "$carpeta" -p1 <"$aqui/parches/libxlsxwriter-utf8.patch" || return 1
     instala "$carpeta" -DBUILD_SHARED_LIBS=OFF -DCMAKE_C_FLAGS=-w
+}
+
+# For siro-lote too. Of its routines those in C alone, and no bindings to other languages.
+nlopt() {
+    fuente nlopt || return 1
+    instala "$carpeta" -DBUILD_SHARED_LIBS=OFF -DNLOPT_CXX=OFF -DNLOPT_PYTHON=OFF -DNLOPT_OCTAVE=OFF -DNLOPT_MATLAB=OFF \
+        -DNLOPT_GUILE=OFF -DNLOPT_SWIG=OFF -DNLOPT_TESTS=OFF -DCMAKE_C_FLAGS=-w
 }
