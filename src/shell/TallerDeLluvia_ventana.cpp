@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/TallerDeLluvia_ventana.h"
 
-#include "frequency/dlgTaller.h"
-#include "frequency/dlgTaller_ventana.h"
+#include "frequency/taller/dlgTaller.h"
+#include "frequency/taller/dlgTaller_ventana.h"
 #include "study/Abierto.h"
 
 namespace shell {

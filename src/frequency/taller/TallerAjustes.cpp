@@ -1,0 +1,363 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "frequency/taller/TallerAjustes.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "forms/CampoNumerico.h"
+#include "frequency/Cifras.h"
+#include "frequency/taller/GraficosDeTaller.h"
+#include "model/Numeros.h"
+
+namespace frequency {
+namespace {
+
+constexpr std::array Metodos{Metodo::Momentos, Metodo::MomentosL, Metodo::Verosimilitud};
+constexpr int MaximasMuestras = 100000;
+
+constexpr forms::ReglaNumero ReglaSemilla{.control = "txtSemilla",
+                                          .minimo = 0,
+                                          .maximo = 4294967295.0,
+                                          .mensaje = "La semilla es un entero de 0 a 4294967295.",
+                                          .clase = forms::ClaseNumero::Entero};
+constexpr forms::ReglaNumero ReglaMuestras{.control = "txtMuestras",
+                                           .minimo = 0,
+                                           .maximo = MaximasMuestras,
+                                           .mensaje = "Las muestras son un entero de 0 a 100000.",
+                                           .clase = forms::ClaseNumero::Entero};
+
+std::string Numero(double x, int decimales)
+{
+    return std::isfinite(x) ? Con(x, decimales) : std::string();
+}
+
+/// The fit of the law in hand, or the first one where it isn't fitted.
+const AjusteDeLey* EnMano(const TallerAjustes& m)
+{
+    if (!m.analisis || m.analisis->ajustes.empty()) return nullptr;
+    const Ley* const ley = Leyes()[static_cast<std::size_t>(std::max(0, m.enMano))];
+    const auto& ajustes = m.analisis->ajustes;
+    const auto suya =
+        std::find_if(ajustes.begin(), ajustes.end(), [ley](const auto& f) { return f.ley == ley; });
+    return suya != ajustes.end() ? &*suya : &ajustes.front();
+}
+
+PedidoDeAjustes PedidoDe(const TallerAjustes& m, const study::SerieDeMaximos& s, const study::Taller& t)
+{
+    PedidoDeAjustes p{s.maximos, Metodos[static_cast<std::size_t>(m.metodo)], {}, t.semilla, t.remuestras};
+    for (std::size_t i = 0; i < Leyes().size(); ++i)
+        if (m.ajustadas[i]) p.leyes.push_back(Leyes()[i]);
+    return p;
+}
+
+std::vector<std::string> TitulosDe(const TallerAjustes& m, std::string_view que)
+{
+    return {std::string(TituloDlgTaller) + ": " + std::string(que), m.temaDelAnalisis,
+            "Método: " + std::string(NombreDe(m.analisis->metodo)) +
+                (m.analisis->pedido.cuantas > 0
+                     ? "; " + std::to_string(m.analisis->pedido.cuantas) + " muestras, semilla " +
+                           std::to_string(m.analisis->pedido.semilla)
+                     : "; sin remuestreo")};
+}
+
+/// A row per recurrence: the law in hand with its band, then all laws.
+forms::Planilla Cuantiles(const TallerAjustes& m)
+{
+    const AjusteDeLey* const suya = EnMano(m);
+    forms::Planilla p{TitulosDe(m, "láminas por recurrencia [mm]"), {{"R [años]"}}, {}};
+    p.columnas.push_back({"5 %"});
+    p.columnas.push_back({suya != nullptr ? NombreCorto(*suya->ley) : std::string()});
+    p.columnas.push_back({"95 %"});
+    for (const AjusteDeLey& f : m.analisis->ajustes)
+        if (&f != suya) p.columnas.push_back({NombreCorto(*f.ley)});
+    for (std::size_t i = 0; i < model::Recurrencias.size(); ++i) {
+        const auto lamina = [i](const AjusteDeLey& f, const PorRecurrencia& q, bool hay) {
+            return f.estimado.p && hay ? Numero(q[i], 1) : std::string();
+        };
+        std::vector<std::string> fila{std::to_string(model::Recurrencias[i])};
+        if (suya != nullptr) {
+            const bool hay = suya->remuestreo.Hay();
+            fila.push_back(lamina(*suya, suya->remuestreo.banda5, hay));
+            fila.push_back(lamina(*suya, suya->cuantiles, true));
+            fila.push_back(lamina(*suya, suya->remuestreo.banda95, hay));
+        }
+        for (const AjusteDeLey& f : m.analisis->ajustes)
+            if (&f != suya) fila.push_back(lamina(f, f.cuantiles, true));
+        p.filas.push_back(std::move(fila));
+    }
+    return p;
+}
+
+forms::Planilla BondadDe(const TallerAjustes& m)
+{
+    forms::Planilla p{TitulosDe(m, "bondad del ajuste"),
+                      {{"Ley", true},
+                       {"KS"},
+                       {"p"},
+                       {"A2"},
+                       {"p"},
+                       {"chi2"},
+                       {"p"},
+                       {"PPCC"},
+                       {"p"},
+                       {"AIC"},
+                       {"AICc"},
+                       {"BIC"}},
+                      {}};
+    for (const AjusteDeLey& f : m.analisis->ajustes) {
+        std::vector<std::string> fila{std::string(f.ley->nombre)};
+        for (double Bondad::*cual : {&Bondad::ks, &Bondad::ad, &Bondad::chi2, &Bondad::ppcc}) {
+            fila.push_back(f.estimado.p ? Numero(f.bondad.*cual, 3) : "");
+            fila.push_back(f.estimado.p && f.remuestreo.Hay() ? Numero(f.remuestreo.p.*cual, 3) : "");
+        }
+        for (double Criterios::*cual : {&Criterios::aic, &Criterios::aicc, &Criterios::bic})
+            fila.push_back(f.estimado.p && std::isfinite(f.criterios.*cual) ? Numero(f.criterios.*cual, 1)
+                                                                            : "");
+        p.filas.push_back(std::move(fila));
+    }
+    return p;
+}
+
+forms::Planilla ParametrosDe(const TallerAjustes& m)
+{
+    forms::Planilla p{TitulosDe(m, "parámetros de las leyes"),
+                      {{"Ley", true},
+                       {"Parámetros", true},
+                       {"Nota", true},
+                       {"Fórmula", true},
+                       {"Fuente", true},
+                       {"Límites", true}},
+                      {}};
+    constexpr int Decimales = 5;
+    for (const AjusteDeLey& f : m.analisis->ajustes) {
+        std::string texto;
+        for (std::size_t i = 0; f.estimado.p && i < f.ley->cuantos; ++i)
+            texto += (i > 0 ? "; " : "") + std::string(f.ley->parametros[i].simbolo) + " = " +
+                     Numero((*f.estimado.p)[i], Decimales);
+        p.filas.push_back({std::string(f.ley->nombre), texto, f.estimado.nota, std::string(f.ley->formula),
+                           std::string(f.ley->fuente), std::string(f.ley->limites)});
+    }
+    return p;
+}
+
+/// The order that the user chose stays while the columns do.
+void PonTablas(TallerAjustes& m)
+{
+    forms::PonFilas(m.tblCuantiles, Cuantiles(m));
+    forms::PonFilas(m.tblBondad, BondadDe(m));
+    forms::PonFilas(m.tblParametros, ParametrosDe(m));
+}
+
+void PonGrafico(TallerAjustes& m, const dlgTaller& f)
+{
+    if (!m.analisis) {
+        m.Grafico = {};
+        return;
+    }
+    const AjusteDeLey* const suya = EnMano(m);
+    constexpr int Diagrama = 2;
+    m.Grafico =
+        m.grafico == Diagrama
+            ? GraficoDeDiagrama(*m.analisis, suya)
+            : GraficoDePapel(*m.analisis, {.ejes = m.grafico == 0 ? Ejes::DeGumbel : Ejes::DeLogNormal,
+                                           .enMano = suya,
+                                           .sola = m.chkSola,
+                                           .posicion = TallerDe(f).posicion});
+    m.Grafico.titulo = std::string(GraficosDeAjustes[static_cast<std::size_t>(m.grafico)]) + ", " +
+                       std::string(NombreDe(m.analisis->metodo)) + "\n" + m.temaDelAnalisis;
+}
+
+/// Shows an analysis; the law in hand is the one chosen, or the one recommended, where none has been.
+void Pon(TallerAjustes& m, const dlgTaller& f, Analisis analisis)
+{
+    const bool primero = !m.analisis;
+    m.analisis = std::move(analisis);
+    m.temaDelAnalisis = TemaDe(f);
+    const study::SerieDeMaximos* const s = SerieEnMano(f);
+    const Ley* deEntrada = s != nullptr ? LeyDeClave(s->ley) : nullptr;
+    if (deEntrada == nullptr) deEntrada = m.analisis->recomendacion.ley;
+    for (std::size_t i = 0; primero && i < Leyes().size(); ++i)
+        if (Leyes()[i] == deEntrada) m.enMano = static_cast<int>(i);
+    m.lblRecomendacion = m.analisis->recomendacion.motivo;
+    PonTablas(m);
+    PonGrafico(m, f);
+}
+
+std::string ElegidaEnPalabras(const TallerAjustes& m, const study::SerieDeMaximos* s)
+{
+    if (s == nullptr || s->ley.empty()) return "Los pasos 4 y 5 esperan que elija una ley.";
+    for (const Metodo metodo : Metodos)
+        if (s->metodo == ClaveDe(metodo))
+            return metodo == Metodos[static_cast<std::size_t>(m.metodo)]
+                       ? "Ajustada por " + std::string(NombreDe(metodo)) + "."
+                       : "Se eligió ajustada por " + std::string(NombreDe(metodo)) +
+                             "; las tablas muestran otro método.";
+    return {};
+}
+
+}  // namespace
+
+TallerAjustes NuevaTallerAjustes()
+{
+    TallerAjustes m;
+    for (const Metodo metodo : Metodos)
+        m.metodos.emplace_back(NombreDe(metodo));
+    m.ajustadas.assign(Leyes().size(), true);
+    m.elegibles.emplace_back("(ninguna)");
+    for (const Ley* const ley : Leyes()) {
+        m.leyes.emplace_back(ley->nombre);
+        m.elegibles.emplace_back(ley->nombre);
+    }
+    m.graficos.assign(GraficosDeAjustes.begin(), GraficosDeAjustes.end());
+    return m;
+}
+
+bool Toma(TallerAjustes& m, const dlgTaller& f)
+{
+    const study::Taller& t = TallerDe(f);
+    const study::SerieDeMaximos* const s = SerieEnMano(f);
+    m.txtSemilla = std::to_string(t.semilla);
+    m.txtMuestras = std::to_string(t.remuestras);
+    m.txtMotivo = s != nullptr ? s->motivo : std::string();
+    m.elegida = 0;
+    for (std::size_t i = 0; s != nullptr && i < Leyes().size(); ++i)
+        if (Leyes()[i]->clave == s->ley) m.elegida = static_cast<int>(i) + 1;
+    m.lblElegida = ElegidaEnPalabras(m, s);
+    const bool otraSerie = s != nullptr && s->maximos != m.pedido.maximos;
+    for (std::size_t i = 0; otraSerie && i < Metodos.size(); ++i)
+        if (s->metodo == ClaveDe(Metodos[i])) m.metodo = static_cast<int>(i);
+    if (s == nullptr || !FaltanMaximos(f).empty()) return false;
+    if (PedidoDe(m, *s, t) == m.pedido && m.estado != Estado::Nada) return false;
+    if (otraSerie) m.tblCuantiles.columnaOrden = -1;
+    return true;
+}
+
+void Empieza(TallerAjustes& m, const dlgTaller& f)
+{
+    const study::SerieDeMaximos* const s = SerieEnMano(f);
+    if (s == nullptr) return;
+    m.pedido = PedidoDe(m, *s, TallerDe(f));
+    m.estado = Estado::Ajustando;
+    m.hechas = m.total = 0;
+    m.lblElegida = ElegidaEnPalabras(m, s);
+    m.lblEstado = m.analisis ? "Recalculando: lo que se ve es de antes." : "Ajustando las leyes...";
+}
+
+void TomaAjustes(TallerAjustes& m, const dlgTaller& f, Analisis analisis)
+{
+    Pon(m, f, std::move(analisis));
+    m.estado = Estado::Remuestreando;
+    m.lblEstado = "Faltan bandas y p.";
+}
+
+void Avanza(TallerAjustes& m, std::size_t hechas, std::size_t total, double segundos)
+{
+    m.hechas = hechas;
+    m.total = total;
+    constexpr double ParaDecirlo = 0.5;  // [s]
+    constexpr std::size_t Todo = 100;
+    m.barAvance = std::to_string(hechas * Todo / std::max<std::size_t>(1, total)) + " %";
+    if (m.estado != Estado::Remuestreando || hechas == 0 || segundos < ParaDecirlo) return;
+    const double quedan =
+        segundos * static_cast<double>(total - std::min(hechas, total)) / static_cast<double>(hechas);
+    m.barAvance += ", quedan " + Numero(std::ceil(quedan), 0) + " s";
+}
+
+void TomaCompleto(TallerAjustes& m, const dlgTaller& f, Analisis analisis)
+{
+    Pon(m, f, std::move(analisis));
+    m.estado = Estado::Completo;
+    m.lblEstado = m.pedido.muestras > 0 ? "" : "Sin remuestreo: no hay bandas ni p.";
+}
+
+void Cancela(TallerAjustes& m)
+{
+    if (m.estado == Estado::Completo || m.estado == Estado::Nada) return;
+    m.lblEstado = m.estado == Estado::Ajustando ? "Cancelado: lo que se ve es de antes."
+                                                : "Cancelado: faltan bandas y p.";
+    m.estado = Estado::SinBandas;
+}
+
+void cmbMetodo_Click(TallerAjustes& m, int cual)
+{
+    m.metodo = cual;
+}
+
+void cmdLeyes_Click(TallerAjustes& m, std::size_t ley, bool tildada)
+{
+    m.ajustadas[ley] = tildada;
+    if (std::find(m.ajustadas.begin(), m.ajustadas.end(), true) == m.ajustadas.end()) m.ajustadas[ley] = true;
+}
+
+bool txtNumero_AlSalir(TallerAjustes& m, dlgTaller& f, const model::Siro& s, std::string_view control)
+{
+    const bool semilla = control == ReglaSemilla.control;
+    std::string& texto = semilla ? m.txtSemilla : m.txtMuestras;
+    if (!forms::AlSalir(s, semilla ? ReglaSemilla : ReglaMuestras, texto)) return false;
+    const double x = *forms::NumeroDeCampo(texto);
+    Cambia(f, semilla ? "Semilla" : "Número de muestras", [&](study::Taller& t) {
+        if (semilla)
+            t.semilla = static_cast<std::uint64_t>(x);
+        else
+            t.remuestras = static_cast<int>(x);
+    });
+    return true;
+}
+
+void cmbEnMano_Click(TallerAjustes& m, const dlgTaller& f, int cual)
+{
+    m.enMano = cual;
+    if (!m.analisis) return;
+    PonTablas(m);
+    PonGrafico(m, f);
+}
+
+void cmbGrafico_Click(TallerAjustes& m, const dlgTaller& f, int cual)
+{
+    m.grafico = cual;
+    PonGrafico(m, f);
+}
+
+void chkSola_Click(TallerAjustes& m, const dlgTaller& f, bool tildada)
+{
+    m.chkSola = tildada;
+    PonGrafico(m, f);
+}
+
+void cmbElegida_Click(const TallerAjustes& m, dlgTaller& f, int cual)
+{
+    Cambia(
+        f,
+        cual > 0 ? "Elegir " + m.elegibles[static_cast<std::size_t>(cual)] : std::string("Sin ley elegida"),
+        [&](study::Taller& t) {
+            study::SerieDeMaximos& s = SerieDe(f, t);
+            s.ley = cual > 0 ? Leyes()[static_cast<std::size_t>(cual) - 1]->clave : std::string_view();
+            s.metodo = cual > 0 ? ClaveDe(Metodos[static_cast<std::size_t>(m.metodo)]) : std::string_view();
+        });
+}
+
+bool txtMotivo_AlSalir(const TallerAjustes& m, dlgTaller& f)
+{
+    Cambia(f, "Motivo de la ley elegida", [&](study::Taller& t) { SerieDe(f, t).motivo = m.txtMotivo; });
+    return true;
+}
+
+void cmdRecomendada(const TallerAjustes& m, dlgTaller& f)
+{
+    if (!m.analisis || m.analisis->recomendacion.ley == nullptr) return;
+    const Recomendacion& r = m.analisis->recomendacion;
+    Cambia(f, "Elegir " + std::string(r.ley->nombre), [&](study::Taller& t) {
+        study::SerieDeMaximos& s = SerieDe(f, t);
+        s.ley = r.ley->clave;
+        s.metodo = ClaveDe(m.analisis->metodo);
+        s.motivo = r.motivo;
+    });
+}
+
+forms::Cuadro& EnFicha(TallerAjustes& m)
+{
+    return m.ficha == 0 ? m.tblCuantiles : m.ficha == 1 ? m.tblBondad : m.tblParametros;
+}
+
+}  // namespace frequency

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QTimer>
+#include <memory>
+#include <vector>
+
+#include "frequency/taller/PaginaDeTaller_ventana.h"
+#include "frequency/taller/TallerAjustes.h"
+#include "frequency/taller/Tarea.h"
+
+class QTabWidget;
+
+namespace forms {
+class TablaCuadro;
+}
+
+namespace frequency {
+
+/// Third step: the laws. They are fitted on a thread of their own, first without the bootstrap, whose samples
+/// follow with progress; Esc and Cancel leave them at once.
+class TallerAjustes_ventana : public PaginaDeTaller {
+  public:
+    TallerAjustes_ventana(forms::Entorno& alrededor, dlgTaller& taller);
+    ~TallerAjustes_ventana() override;
+
+    [[nodiscard]] std::string Falta() const override { return FaltanMaximos(f); }
+    [[nodiscard]] forms::Planilla ParaImprimir() const override;
+    forms::Lamina& Grafico() override { return *grafico; }
+    void AlDejar() override { Deja(); }
+    bool AlEscapar() override;
+    void Muestra() override;
+
+  protected:
+    void Toma() override;
+
+  private:
+    QLayout* Pedido();
+    QLayout* Avance();
+    QWidget* Tablas();
+    QPushButton* ClaveDeLeyes();
+    QWidget* Derecha();
+    QLayout* Eleccion();
+    forms::TablaCuadro* TablaDe(forms::Cuadro& cuadro, std::string_view control, std::vector<int> letras);
+    void Calcula();
+    void Mira();
+    void Deja();
+
+    TallerAjustes m = NuevaTallerAjustes();
+    QTabWidget* fichas = nullptr;
+    forms::Lamina* grafico = nullptr;
+    QTimer latido{};
+    std::unique_ptr<Tarea<Analisis>> corrida;
+    std::vector<std::unique_ptr<Tarea<Analisis>>> dejadas{};  ///< cancelled, and still at their last sample
+};
+
+}  // namespace frequency
