@@ -95,7 +95,8 @@ TEST_F(InicioEnPantalla, SinProyectoOfreceAbrirUnoYLaMuestraSeAbreConEnter)
 // From one key to the next, in the order on screen; a hidden one is passed over.
 TEST_F(InicioEnPantalla, HastaSaberQueDecirNoMuestraTarjetasVacias)
 {
-    Inicio_ventana inicio(escritorio.entorno, [](Rutina) {}, nullptr);
+    Inicio_ventana inicio(
+        escritorio.entorno, [](Rutina) {}, nullptr);
     QDialog caja;
     caja.open();
     inicio.show();
