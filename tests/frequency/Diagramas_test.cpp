@@ -51,21 +51,24 @@ TEST(Diagramas, LasCurvasSonLosPolinomiosDeHoskingYWallis)
         for (const Punto& p : c.puntos) {
             const double t = p.x, t2 = t * t;
             if (std::abs(t) > 0.6) continue;
-            if (c.ley == &Gev)
+            if (c.ley == &Gev) {
                 EXPECT_NEAR(p.y,
                             0.10701 + 0.11090 * t + 0.84838 * t2 - 0.06669 * t2 * t + 0.00567 * t2 * t2 -
                                 0.04208 * t2 * t2 * t + 0.03763 * t2 * t2 * t2,
                             5e-4);
-            if (c.ley == &LogNormal3)
+            }
+            if (c.ley == &LogNormal3) {
                 EXPECT_NEAR(p.y,
                             0.12282 + 0.77518 * t2 + 0.12279 * t2 * t2 - 0.13638 * t2 * t2 * t2 +
                                 0.11368 * t2 * t2 * t2 * t2,
                             5e-4);
-            if (c.ley == &PearsonIII)
+            }
+            if (c.ley == &PearsonIII) {
                 EXPECT_NEAR(p.y,
                             0.12240 + 0.30115 * t2 + 0.95812 * t2 * t2 - 0.57488 * t2 * t2 * t2 +
                                 0.19383 * t2 * t2 * t2 * t2,
                             5e-4);
+            }
         }
     }
 }
