@@ -181,7 +181,9 @@ TEST(Analisis, NingunaMuestraDaUnNumeroQueNoEs)
                     }
                     for (std::size_t i = 0; i < f.cuantiles.size(); ++i) {
                         EXPECT_TRUE(std::isfinite(f.cuantiles[i])) << k << " " << f.ley->clave;
-                        if (i > 0) EXPECT_GE(f.cuantiles[i], f.cuantiles[i - 1]) << k << " " << f.ley->clave;
+                        if (i > 0) {
+                            EXPECT_GE(f.cuantiles[i], f.cuantiles[i - 1]) << k << " " << f.ley->clave;
+                        }
                     }
                 }
                 for (const std::string& t : {TextoDe(a), JsonDe(a), CsvDe(a)})
