@@ -5,11 +5,11 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "apoyo/Compara.h"
 #include "batch/CorridaLote.h"
 #include "batch/Lote.h"
 #include "model/Disco.h"
@@ -32,13 +32,13 @@ Respuesta Lote(std::vector<const char*> palabras)
     return r;
 }
 
-/// Forty years of a file in the folder of temporary files.
+/// Forty years in a file of the test's own.
 class FrecuenciaLote : public ::testing::Test {
   protected:
-    std::string ruta = testing::TempDir() + "maximos_anuales.csv";
+    apoyo::CarpetaTemporal carpeta{};
+    std::string ruta = carpeta.Ruta("maximos.csv");
 
     void SetUp() override { Escribe("1990;0.5"); }
-    void TearDown() override { std::remove(ruta.c_str()); }
 
     void Escribe(const std::string& ultimo)
     {
@@ -205,7 +205,7 @@ std::string Registro()
 
 TEST_F(FrecuenciaLote, DeUnRegistroSalenLosMismosMaximos)
 {
-    const std::string registro = testing::TempDir() + "registro_de_lluvia.csv";
+    const std::string registro = carpeta.Ruta("registro.csv");
     model::DiscoDelSistema().Escribe(registro, Registro());
     std::string maximos = "anio;mm\n";
     for (int i = 0; i < 40; ++i)
@@ -239,7 +239,6 @@ TEST_F(FrecuenciaLote, DeUnRegistroSalenLosMismosMaximos)
     EXPECT_EQ(dosDias.estado, batch::EstadoInterrumpido);
     EXPECT_EQ(dosDias.errores,
               "siro-lote: La duración 1500 min no es un múltiplo del paso del registro, 1440 min.\n");
-    std::remove(registro.c_str());
 }
 
 TEST_F(FrecuenciaLote, UnaDeVariasDuracionesSeElige)

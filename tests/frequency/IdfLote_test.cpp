@@ -4,11 +4,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdio>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "apoyo/Compara.h"
 #include "batch/CorridaLote.h"
 #include "batch/Lote.h"
 #include "model/Disco.h"
@@ -33,7 +33,8 @@ Respuesta Lote(std::vector<const char*> palabras)
 
 class IdfLote : public ::testing::Test {
   protected:
-    std::string ruta = testing::TempDir() + "idf_maximos.csv";
+    apoyo::CarpetaTemporal carpeta{};
+    std::string ruta = carpeta.Ruta("maximos.csv");
 
     void SetUp() override
     {
@@ -42,7 +43,6 @@ class IdfLote : public ::testing::Test {
             t += std::to_string(1950 + i) + ";" + std::to_string(45 + (i * 29) % 41) + "\n";
         model::DiscoDelSistema().Escribe(ruta, t);
     }
-    void TearDown() override { std::remove(ruta.c_str()); }
 };
 
 // The delivered table says in its notes that it is of these coefficients, in whole millimetres.
