@@ -95,7 +95,7 @@ bool Resuelve(Hessiana H, Gradiente& g, std::size_t n)
 /// greater: Newton's method by differences. False where it leads elsewhere.
 bool Afina(Busqueda& b, Libres& v)
 {
-    constexpr double PasoDeHessiana = 1e-3, PasoDeGradiente = 5e-4, Lejos = 0.02;
+    constexpr double PasoDeHessiana = 2e-4, PasoDeGradiente = 6e-5, Lejos = 0.02;
     constexpr int Vueltas = 3;
     const std::size_t n = b.ley.cuantos;
     const auto costo = [&](std::size_t i, double di, std::size_t j, double dj) {
