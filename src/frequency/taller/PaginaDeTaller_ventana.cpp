@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frequency/taller/PaginaDeTaller_ventana.h"
 
+#include <QLabel>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSplitter>
 
 namespace frequency {
@@ -41,6 +44,42 @@ QSplitter* PaginaDeTaller::LadoALado(QWidget* tabla, QWidget* grafico, int parte
     constexpr int Ancho = 1000;  // shares of what there is
     barra->setSizes({parteDeTabla * Ancho, parteDeGrafico * Ancho});
     return barra;
+}
+
+QWidget* PaginaDeTaller::EnColumna(const forms::Partes& partes, int letras)
+{
+    auto* const dentro = new QWidget;
+    auto* const pila = EnPila(partes);
+    pila->setContentsMargins(0, 0, 0, 0);
+    dentro->setLayout(pila);
+    auto* const lugar = new QScrollArea;
+    lugar->setObjectName(QStringLiteral("lugarElecciones"));
+    lugar->setWidgetResizable(true);
+    lugar->setFrameShape(QFrame::NoFrame);
+    lugar->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    lugar->setWidget(dentro);
+    lugar->setFixedWidth(letras * fontMetrics().averageCharWidth() +
+                         lugar->verticalScrollBar()->sizeHint().width());
+    return lugar;
+}
+
+QWidget* PaginaDeTaller::SobreAvisos(QWidget* grafico, const std::string& avisos)
+{
+    QLabel* const texto = Texto("lblAvisos", avisos);
+    texto->setWordWrap(true);
+    texto->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    texto->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    auto* const lugar = new QScrollArea;
+    lugar->setObjectName(QStringLiteral("lugarAvisos"));
+    lugar->setWidgetResizable(true);
+    lugar->setWidget(texto);
+    constexpr int Renglones = 4;
+    lugar->setFixedHeight(Renglones * fontMetrics().lineSpacing());
+    auto* const lado = new QWidget;
+    auto* const pila = EnPila({{grafico, 1}, lugar});
+    pila->setContentsMargins(0, 0, 0, 0);
+    lado->setLayout(pila);
+    return lado;
 }
 
 }  // namespace frequency

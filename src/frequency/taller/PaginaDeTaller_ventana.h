@@ -50,6 +50,11 @@ class PaginaDeTaller : public QWidget, protected forms::Constructor {
     static QSplitter* LadoALado(QWidget* tabla, QWidget* grafico, int parteDeTabla = 1,
                                 int parteDeGrafico = 1);
 
+    /// Choices in a column so many letters wide, which scrolls where the room is low.
+    QWidget* EnColumna(const forms::Partes& partes, int letras);
+    /// A chart above what is to be known of it, a few lines that scroll.
+    QWidget* SobreAvisos(QWidget* grafico, const std::string& avisos);
+
     dlgTaller& f;
 
   private:

@@ -3,7 +3,6 @@
 
 #include <QHeaderView>
 #include <QScrollArea>
-#include <QScrollBar>
 #include <QSplitter>
 #include <algorithm>
 
@@ -122,22 +121,11 @@ QWidget* TallerIdf_ventana::Elecciones()
                     Numero("txtArea", m.txtArea, "km2", &PideArea), Numero("txtKA", m.txtKA, "", &PideKA)},
                    {0, 1}),
          Formula("lblReduccion", m.lblReduccion)});
-    auto* const dentro = new QWidget;
-    auto* const pila = EnPila({Marco("MarcoOrigen", origen),
-                               VisibleSi(coeficientes, [this] { return !m.lblCoef[0].empty(); }),
-                               Marco("MarcoCurvas", curvas), Marco("MarcoArea", area), Hueco()});
-    pila->setContentsMargins(0, 0, 0, 0);
-    dentro->setLayout(pila);
-    auto* const lugar = new QScrollArea;
-    lugar->setObjectName(QStringLiteral("lugarElecciones"));
-    lugar->setWidgetResizable(true);
-    lugar->setFrameShape(QFrame::NoFrame);
-    lugar->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    lugar->setWidget(dentro);
     constexpr int Letras = 46;
-    lugar->setFixedWidth(Letras * fontMetrics().averageCharWidth() +
-                         lugar->verticalScrollBar()->sizeHint().width());
-    return lugar;
+    return EnColumna(
+        {Marco("MarcoOrigen", origen), VisibleSi(coeficientes, [this] { return !m.lblCoef[0].empty(); }),
+         Marco("MarcoCurvas", curvas), Marco("MarcoArea", area), Hueco()},
+        Letras);
 }
 
 QWidget* TallerIdf_ventana::Derecha()

@@ -2,8 +2,6 @@
 #include "frequency/taller/TallerMaximos_ventana.h"
 
 #include <QHeaderView>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QSplitter>
 
 #include "forms/Grilla_ventana.h"
@@ -65,41 +63,15 @@ QWidget* TallerMaximos_ventana::Datos()
          EnFila({Boton("cmdNuevaSerie", [this] { cmdNuevaSerie(f); }),
                  HabilitadoSi(Boton("cmdQuitaSerie", [this] { cmdQuitaSerie(f); }), haySerie)}),
          Boton("cmdImportar", [this] { Importa(); })});
-    auto* const dentro = new QWidget;
-    auto* const pila = EnPila({Marco("MarcoEstacion", estacion), Marco("MarcoSerie", serie), Hueco()});
-    pila->setContentsMargins(0, 0, 0, 0);
-    dentro->setLayout(pila);
-    auto* const lugar = new QScrollArea;
-    lugar->setObjectName(QStringLiteral("lugarDatos"));
-    lugar->setWidgetResizable(true);
-    lugar->setFrameShape(QFrame::NoFrame);
-    lugar->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    lugar->setWidget(dentro);
     constexpr int Letras = 34;
-    lugar->setFixedWidth(Letras * fontMetrics().averageCharWidth() +
-                         lugar->verticalScrollBar()->sizeHint().width());
-    return lugar;
+    return EnColumna({Marco("MarcoEstacion", estacion), Marco("MarcoSerie", serie), Hueco()}, Letras);
 }
 
 QWidget* TallerMaximos_ventana::Derecha()
 {
     grafico = new forms::Lamina(entorno, "lamMaximos", "Máximos anuales");
     DejaChico(*grafico);
-    auto* const avisos = Texto("lblAvisos", m.lblAvisos);
-    avisos->setWordWrap(true);
-    avisos->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    avisos->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    auto* const lugar = new QScrollArea;
-    lugar->setObjectName(QStringLiteral("lugarAvisos"));
-    lugar->setWidgetResizable(true);
-    lugar->setWidget(avisos);
-    constexpr int Renglones = 4;
-    lugar->setFixedHeight(Renglones * fontMetrics().lineSpacing());
-    auto* const lado = new QWidget;
-    auto* const pila = EnPila({{grafico, 1}, lugar});
-    pila->setContentsMargins(0, 0, 0, 0);
-    lado->setLayout(pila);
-    return lado;
+    return SobreAvisos(grafico, m.lblAvisos);
 }
 
 void TallerMaximos_ventana::Importa()

@@ -2,8 +2,6 @@
 #include "frequency/taller/TallerTormenta_ventana.h"
 
 #include <QApplication>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QSplitter>
 #include <array>
 #include <utility>
@@ -139,40 +137,14 @@ QLayout* TallerTormenta_ventana::AlModelo()
 /// What the storm is; it scrolls where the room is low.
 QWidget* TallerTormenta_ventana::Elecciones()
 {
-    auto* const dentro = new QWidget;
-    auto* const pila = EnPila({Marco("MarcoTormenta", DeLaTormenta()), Hueco()});
-    pila->setContentsMargins(0, 0, 0, 0);
-    dentro->setLayout(pila);
-    auto* const lugar = new QScrollArea;
-    lugar->setObjectName(QStringLiteral("lugarElecciones"));
-    lugar->setWidgetResizable(true);
-    lugar->setFrameShape(QFrame::NoFrame);
-    lugar->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    lugar->setWidget(dentro);
     constexpr int Letras = 42;
-    lugar->setFixedWidth(Letras * fontMetrics().averageCharWidth() +
-                         lugar->verticalScrollBar()->sizeHint().width());
-    return lugar;
+    return EnColumna({Marco("MarcoTormenta", DeLaTormenta()), Hueco()}, Letras);
 }
 
 QWidget* TallerTormenta_ventana::Derecha()
 {
     grafico = new forms::Lamina(entorno, "lamTormenta", "Hietograma");
-    auto* const avisos = Texto("lblAvisos", m.lblAvisos);
-    avisos->setWordWrap(true);
-    avisos->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    avisos->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    auto* const lugar = new QScrollArea;
-    lugar->setObjectName(QStringLiteral("lugarAvisos"));
-    lugar->setWidgetResizable(true);
-    lugar->setWidget(avisos);
-    constexpr int Renglones = 4;
-    lugar->setFixedHeight(Renglones * fontMetrics().lineSpacing());
-    auto* const lado = new QWidget;
-    auto* const pila = EnPila({{grafico, 1}, lugar});
-    pila->setContentsMargins(0, 0, 0, 0);
-    lado->setLayout(pila);
-    return lado;
+    return SobreAvisos(grafico, m.lblAvisos);
 }
 
 void TallerTormenta_ventana::Muestra()
