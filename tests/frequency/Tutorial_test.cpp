@@ -43,7 +43,7 @@ study::Estacion Quelmar()
         frequency::LeeMaximos(model::DiscoDelSistema().Lee(SIRO_DATA_DIR "/Proyectos/MaximosQuelmar.csv"));
     EXPECT_TRUE(serie.errores.empty());
     study::Estacion estacion{.nombre = "Quelmar"};
-    study::SerieDeMaximos diaria{.lecturaDiaria = true, .ley = "gev", .metodo = "momentos-l"};
+    study::SerieDeMaximos diaria{.lecturaDiaria = true, .ley = "gev", .metodo = "l"};
     for (const frequency::Maximo& m : serie.maximos)
         diaria.maximos.push_back({.anio = m.anio, .valor = m.valor});
     estacion.series = {std::move(diaria)};
