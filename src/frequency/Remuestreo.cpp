@@ -12,7 +12,7 @@
 #include <utility>
 #include <vector>
 
-#include "frequency/Philox.h"
+#include "study/Philox.h"
 
 namespace frequency {
 namespace {
@@ -42,7 +42,7 @@ Fuente FuenteDe(const Ley& ley, const Estimado& e, Metodo metodo, const Muestra&
     return fuente;
 }
 
-std::optional<Miembro> HazMiembro(const Fuente& de, Sorteo sorteo)
+std::optional<Miembro> HazMiembro(const Fuente& de, study::Sorteo sorteo)
 {
     constexpr std::size_t Menos = 5;  // years with rain that a fit needs to mean anything
     try {
@@ -120,7 +120,7 @@ std::optional<Remuestreo> Remuestrea(const Ley& ley, const Estimado& e, Metodo m
 {
     constexpr double Bajo = 0.05, Alto = 0.95;
     const Fuente fuente = FuenteDe(ley, e, metodo, m);
-    const auto haz = [&](std::size_t k) { return HazMiembro(fuente, Sorteo(pedido.semilla, k)); };
+    const auto haz = [&](std::size_t k) { return HazMiembro(fuente, study::Sorteo(pedido.semilla, k)); };
     const auto todos = HazMiembros(haz, pedido, avance);
     if (!todos) return {};
     std::vector<const Miembro*> sirven;

@@ -11,6 +11,7 @@
 #include "frequency/Ajuste.h"
 #include "frequency/Bondad.h"
 #include "model/Configuracion.h"
+#include "study/Avance.h"
 
 // The parametric bootstrap: samples drawn from a fitted law and fitted again tell how sure its quantiles are,
 // and how far from it a sample of its own may lie.
@@ -43,9 +44,7 @@ struct Remuestreo {
     [[nodiscard]] bool Hay() const { return sirven >= 20; }
 };
 
-/// How far the work has come, `hechos` of `total` samples. Returns whether it goes on. Asked on the caller's
-/// thread, ahead of each sample that this one makes.
-using Avance = std::function<bool(std::size_t hechos, std::size_t total)>;
+using study::Avance;
 
 /// The samples have as many years as `m`, those without rain among them by their probability. Sample k draws
 /// its numbers from (seed, k) alone and all are put in order by k. Low values that Bulletin 17C finds are as

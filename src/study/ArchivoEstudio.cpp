@@ -112,15 +112,24 @@ class Lector {
         if (!j.is_string()) Falla(clave, j, "no es un texto entre comillas");
         campo = j.get<std::string>();
     }
+    static void Elemento(const char* clave, const Json& j, double& x)
+    {
+        Toma(clave, j, x, -SinTope, SinTope);
+    }
+    static void Elemento(const char* clave, const Json& j, std::string& x) { Toma(clave, j, x); }
+    template <typename T>
+    static void Elemento(const char* /*clave*/, const Json& j, T& x)
+    {
+        Lector lector(j);
+        Campos(lector, x);
+    }
     template <typename T>
     static void Toma(const char* clave, const Json& j, std::vector<T>& campo)
     {
         if (!j.is_array()) Falla(clave, j, "no es una lista, entre corchetes");
         campo.clear();
-        for (const Json& elemento : j) {
-            Lector lector(elemento);
-            Campos(lector, campo.emplace_back());
-        }
+        for (const Json& elemento : j)
+            Elemento(clave, elemento, campo.emplace_back());
     }
     template <typename T>
     requires std::is_class_v<T>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstdint>
 #include <limits>
 
 #include "study/Estudio.h"
@@ -13,6 +14,7 @@ namespace study {
 inline constexpr double SinTope = std::numeric_limits<double>::max();
 inline constexpr double MayorQueCero = std::numeric_limits<double>::min();
 inline constexpr double TopeEntero = std::numeric_limits<int>::max();
+inline constexpr double TopeMinutos = std::numeric_limits<std::int16_t>::max();
 
 template <typename V>
 void Campos(V& v, Maximo& m)
@@ -117,9 +119,152 @@ void Campos(V& v, Taller& t)
 }
 
 template <typename V>
+void Campos(V& v, Ventana& w)
+{
+    v.Exige("desde_min", w.desde, -SinTope, SinTope);
+    v.Exige("hasta_min", w.hasta, -SinTope, SinTope);
+    v("peso", w.peso, 0, SinTope);
+}
+
+template <typename V>
+void Campos(V& v, PuntoDeCurva& p)
+{
+    v.Exige("nivel_m", p.nivel, -SinTope, SinTope);
+    v.Exige("caudal_m3s", p.caudal, 0, SinTope);
+}
+
+template <typename V>
+void Campos(V& v, Observacion& o)
+{
+    v.Exige("componente", o.componente);
+    v("magnitud", o.magnitud);
+    v("promedio_min", o.promedio, 0, SinTope);
+    v("peso", o.peso, 0, SinTope);
+    v("ventanas", o.ventanas);
+    v("curva", o.curva);
+    v("fuente", o.fuente);
+    v("notas", o.notas);
+    v("archivo", o.archivo);
+    v.Resto(o.resto);
+}
+
+template <typename V>
+void Campos(V& v, LluviaDeEvento& l)
+{
+    v("origen", l.origen);
+    v("archivo", l.archivo);
+    v("lamina_mm", l.lamina, 0, SinTope);
+    v("duracion_min", l.duracion, 0, TopeMinutos);
+    v("distribucion", l.distribucion, 0, 7);
+}
+
+template <typename V>
+void Campos(V& v, Evento& e)
+{
+    v("nombre", e.nombre);
+    v("inicio", e.inicio);
+    v("papel", e.papel);
+    v("peso", e.peso, 0, SinTope);
+    v("lluvia", e.lluvia);
+    v("observaciones", e.observaciones);
+    v.Resto(e.resto);
+}
+
+template <typename V>
+void Campos(V& v, ValorPosible& p)
+{
+    v.Exige("valor", p.valor, -SinTope, SinTope);
+    v("peso", p.peso, 0, SinTope);
+}
+
+template <typename V>
+void Campos(V& v, Parametro& p)
+{
+    v("componentes", p.componentes);
+    v.Exige("campo", p.campo);
+    v("modo", p.modo);
+    v("minimo", p.minimo, -SinTope, SinTope);
+    v("maximo", p.maximo, -SinTope, SinTope);
+    v("logaritmica", p.logaritmica);
+    v("activo", p.activo);
+    v("distribucion", p.distribucion);
+    v("centro", p.centro, -SinTope, SinTope);
+    v("dispersion", p.dispersion, 0, SinTope);
+    v("valores", p.valores);
+    v.Resto(p.resto);
+}
+
+template <typename V>
+void Campos(V& v, Medida& m)
+{
+    v("que", m.que);
+    v("componente", m.componente);
+    v("evento", m.evento);
+    v("puntaje", m.puntaje);
+}
+
+template <typename V>
+void Campos(V& v, Sensibilidad& s)
+{
+    v("metodo", s.metodo);
+    v("medida", s.medida);
+    v("trayectorias", s.trayectorias, 2, 1'000'000);
+    v("niveles", s.niveles, 2, 1000);
+    v("base", s.base, 2, 1 << 24);
+    v("semilla", s.semilla);
+    v.Resto(s.resto);
+}
+
+template <typename V>
+void Campos(V& v, Juego& j)
+{
+    v.Exige("valores", j.valores);
+    v.Exige("puntaje", j.puntaje, -SinTope, SinTope);
+}
+
+template <typename V>
+void Campos(V& v, Calibracion& c)
+{
+    v("metodo", c.metodo);
+    v("puntaje", c.puntaje);
+    v("corridas", c.corridas, 1, 100'000'000);
+    v("complejos", c.complejos, 1, 1000);
+    v("cercania", c.cercania, 0, SinTope);
+    v("semilla", c.semilla);
+    v("campos", c.campos);
+    v("cercanos", c.cercanos);
+    v("fecha", c.fecha);
+    v.Resto(c.resto);
+}
+
+template <typename V>
+void Campos(V& v, Incertidumbre& i)
+{
+    v("miembros", i.miembros, 1, 1'000'000);
+    v("muestreo", i.muestreo);
+    v("medida", i.medida);
+    v("glue", i.glue);
+    v("umbral", i.umbral, -SinTope, SinTope);
+    v("semilla", i.semilla);
+    v.Resto(i.resto);
+}
+
+template <typename V>
+void Campos(V& v, Ajuste& a)
+{
+    v("eventos", a.eventos);
+    v("parametros", a.parametros);
+    v("sensibilidad", a.sensibilidad);
+    v("calibracion", a.calibracion);
+    v("incertidumbre", a.incertidumbre);
+    v.Resto(a.resto);
+}
+
+template <typename V>
 void Campos(V& v, Estudio& e)
 {
     v("taller", e.taller);
+    v("ajuste", e.ajuste);
     v.Resto(e.resto);
 }
 

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "study/Ajuste.h"
 #include "study/Taller.h"
 
 // What a study keeps beside the project's own files, in P_Estudio.json: a plain value, so that a step back is
@@ -11,6 +12,7 @@ namespace study {
 
 struct Estudio {
     Taller taller{};
+    Ajuste ajuste{};
     std::string resto{};  ///< keys of the file that this version doesn't know, as JSON; kept
     bool operator==(const Estudio&) const = default;
 };

@@ -9,8 +9,8 @@
 
 #include "frequency/Ajuste.h"
 #include "frequency/Bondad.h"
-#include "frequency/Philox.h"
 #include "frequency/casos/Muestras.h"
+#include "study/Philox.h"
 
 namespace {
 
@@ -184,7 +184,7 @@ TEST(Leyes, SqrtEtmaxConPocaVariacion)
 {
     for (const Metodo metodo : {Metodo::Momentos, Metodo::MomentosL}) {
         std::vector<double> x, casi;
-        Sorteo sorteo(1, 1);
+        study::Sorteo sorteo(1, 1);
         for (int i = 0; i < 40; ++i) {
             const double w = -std::log(-std::log(sorteo.Uniforme()));
             x.push_back(60 * (1 + 0.05 * w));

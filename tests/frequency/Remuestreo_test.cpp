@@ -13,8 +13,8 @@
 
 #include "frequency/Analisis.h"
 #include "frequency/EscribeAnalisis.h"
-#include "frequency/Philox.h"
 #include "frequency/casos/Muestras.h"
+#include "study/Philox.h"
 
 namespace {
 
@@ -147,7 +147,7 @@ TEST(Analisis, NingunaMuestraDaUnNumeroQueNoEs)
         return mas;
     };
     std::vector<double> apenas, muchos, enormes;
-    Sorteo sorteo(3, 1);
+    study::Sorteo sorteo(3, 1);
     for (int i = 0; i < 1000; ++i)
         muchos.push_back(20 - 30 * std::log(-std::log(sorteo.Uniforme())) + 80);
     for (int i = 0; i < 15; ++i) {

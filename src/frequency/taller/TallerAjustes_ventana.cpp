@@ -19,7 +19,7 @@ namespace {
 constexpr std::chrono::milliseconds EntreMiradas{30};
 
 /// The fits first, then all of it with the bootstrap.
-Tarea<Analisis>::Trabajo Trabajo(Serie serie, PedidoDeAjustes pedido)
+study::Tarea<Analisis>::Trabajo Trabajo(Serie serie, PedidoDeAjustes pedido)
 {
     return [serie = std::move(serie), pedido = std::move(pedido)](const Avance& avance, const auto& entrega) {
         for (const int muestras : {0, pedido.muestras}) {
@@ -211,7 +211,7 @@ void TallerAjustes_ventana::Calcula()
     if (s == nullptr) return;
     if (corrida != nullptr) Deja();
     Empieza(m, f);
-    corrida = std::make_unique<Tarea<Analisis>>(Trabajo(Revisada(*s), m.pedido));
+    corrida = std::make_unique<study::Tarea<Analisis>>(Trabajo(Revisada(*s), m.pedido));
     latido.start();
 }
 

@@ -7,7 +7,7 @@
 
 #include "frequency/taller/PaginaDeTaller_ventana.h"
 #include "frequency/taller/TallerAjustes.h"
-#include "frequency/taller/Tarea.h"
+#include "study/Tarea.h"
 
 class QTabWidget;
 
@@ -50,8 +50,9 @@ class TallerAjustes_ventana : public PaginaDeTaller {
     QTabWidget* fichas = nullptr;
     forms::Lamina* grafico = nullptr;
     QTimer latido{};
-    std::unique_ptr<Tarea<Analisis>> corrida;
-    std::vector<std::unique_ptr<Tarea<Analisis>>> dejadas{};  ///< cancelled, and still at their last sample
+    std::unique_ptr<study::Tarea<Analisis>> corrida;
+    std::vector<std::unique_ptr<study::Tarea<Analisis>>>
+        dejadas{};  ///< cancelled, and still at their last sample
 };
 
 }  // namespace frequency

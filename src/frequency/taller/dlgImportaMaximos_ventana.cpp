@@ -113,7 +113,7 @@ void dlgImportaMaximos_ventana::AlCerrar()
 void dlgImportaMaximos_ventana::Lee()
 {
     Empieza(f);
-    lectura = std::make_unique<Tarea<Importacion>>(
+    lectura = std::make_unique<study::Tarea<Importacion>>(
         [bytes = f.bytes, clase = static_cast<ClaseDeArchivo>(f.clase), pedido = PedidoDe(f)](
             const Avance& avance, const auto& entrega) {
             std::optional<Importacion> i = frequency::Lee(bytes, clase, pedido, avance);

@@ -5,8 +5,8 @@
 #include <memory>
 
 #include "forms/Formulario_ventana.h"
-#include "frequency/taller/Tarea.h"
 #include "frequency/taller/dlgImportaMaximos.h"
+#include "study/Tarea.h"
 
 namespace forms {
 class Lamina;
@@ -41,7 +41,7 @@ class dlgImportaMaximos_ventana : public forms::Formulario {
     forms::TablaCuadro* tabla = nullptr;
     forms::Lamina* grafico = nullptr;
     QTimer latido{};
-    std::unique_ptr<Tarea<Importacion>> lectura;
+    std::unique_ptr<study::Tarea<Importacion>> lectura;
 };
 
 }  // namespace frequency

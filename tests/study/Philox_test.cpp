@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "frequency/Philox.h"
+#include "study/Philox.h"
 
 #include <gtest/gtest.h>
 
@@ -15,18 +15,17 @@ constexpr std::uint32_t Todos = std::numeric_limits<std::uint32_t>::max();
 /// The known answers that its authors publish beside it: all bits 0, all bits 1, digits of pi.
 TEST(Philox, DaLasRespuestasPublicadas)
 {
-    EXPECT_EQ(frequency::Philox4x32({0, 0, 0, 0}, {0, 0}),
+    EXPECT_EQ(study::Philox4x32({0, 0, 0, 0}, {0, 0}),
               (Palabras{0x6627e8d5, 0xe169c58d, 0xbc57ac4c, 0x9b00dbd8}));
-    EXPECT_EQ(frequency::Philox4x32({Todos, Todos, Todos, Todos}, {Todos, Todos}),
+    EXPECT_EQ(study::Philox4x32({Todos, Todos, Todos, Todos}, {Todos, Todos}),
               (Palabras{0x408f276d, 0x41c83b0e, 0xa20bc7c6, 0x6d5451fd}));
-    EXPECT_EQ(
-        frequency::Philox4x32({0x243f6a88, 0x85a308d3, 0x13198a2e, 0x03707344}, {0xa4093822, 0x299f31d0}),
-        (Palabras{0xd16cfe09, 0x94fdcceb, 0x5001e420, 0x24126ea1}));
+    EXPECT_EQ(study::Philox4x32({0x243f6a88, 0x85a308d3, 0x13198a2e, 0x03707344}, {0xa4093822, 0x299f31d0}),
+              (Palabras{0xd16cfe09, 0x94fdcceb, 0x5001e420, 0x24126ea1}));
 }
 
 TEST(Philox, UnSorteoEsSuSemillaYSuLugar)
 {
-    frequency::Sorteo uno(7, 3), otro(7, 3), deOtroLugar(7, 4), deOtraSemilla(8, 3);
+    study::Sorteo uno(7, 3), otro(7, 3), deOtroLugar(7, 4), deOtraSemilla(8, 3);
     double suma = 0;
     constexpr int Cuantos = 4000;
     for (int i = 0; i < Cuantos; ++i) {
@@ -43,7 +42,7 @@ TEST(Philox, UnSorteoEsSuSemillaYSuLugar)
 
 TEST(Philox, ElPrimerNumeroEsLaPrimeraPalabra)
 {
-    EXPECT_EQ(frequency::Sorteo(0, 0).Uniforme(), (0x6627e8d5 + 0.5) / 4294967296.0);
+    EXPECT_EQ(study::Sorteo(0, 0).Uniforme(), (0x6627e8d5 + 0.5) / 4294967296.0);
 }
 
 }  // namespace

@@ -10,9 +10,9 @@
 #include <thread>
 #include <utility>
 
-#include "frequency/Remuestreo.h"
+#include "study/Avance.h"
 
-namespace frequency {
+namespace study {
 
 /// Work on a thread of its own that can be watched and given up. What it has ready is taken by whoever
 /// watches; the end of the object waits for the work to see that it is given up.
@@ -75,4 +75,4 @@ class Tarea {
     std::thread hilo{};
 };
 
-}  // namespace frequency
+}  // namespace study

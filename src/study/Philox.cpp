@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "frequency/Philox.h"
+#include "study/Philox.h"
 
-namespace frequency {
+namespace study {
 namespace {
 
 constexpr int Vueltas = 10, Media = 32;
@@ -47,4 +47,4 @@ double Sorteo::Uniforme()
     return (palabras[usadas++] + 0.5) / Rango;
 }
 
-}  // namespace frequency
+}  // namespace study

@@ -7,7 +7,7 @@
 
 // Random numbers that depend on nothing but their place: member k of a set draws the same ones on any thread
 // and in any order. Salmon, Moraes, Dror, Shaw, "Parallel random numbers: as easy as 1, 2, 3", SC11, 2011.
-namespace frequency {
+namespace study {
 
 /// Philox4x32 with 10 rounds: four words for a counter under a key.
 std::array<std::uint32_t, 4> Philox4x32(std::array<std::uint32_t, 4> contador,
@@ -27,4 +27,4 @@ class Sorteo {
     std::size_t usadas = 4;
 };
 
-}  // namespace frequency
+}  // namespace study
