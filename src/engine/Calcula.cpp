@@ -58,6 +58,13 @@ void PonTormenta(model::Siro& s, const model::Tormenta& tormenta)
     if (s.Tormenta.FormaPp == model::FormaLluvia::SeriePDR) s.Tormenta.FormaPp = model::FormaLluvia::Escrita;
 }
 
+/// A storm that is spread over time, and what was told meanwhile.
+struct Repartida {
+    model::Tormenta tormenta{};
+    model::Hietograma hietograma{};
+    std::vector<AvisoDeCalculo> avisos{};
+};
+
 FinCalculo Corre(model::Siro& s, bool conVolumenes, Memoria& memoria)
 {
     try {
@@ -95,6 +102,31 @@ struct Calculadora::Estado {
     model::Siro s{};
     Memoria memoria{};
     Calculo calculo{};
+    Repartida tomada{};
+
+    /// Runs a storm in the arrays of the run before.
+    const Calculo& Corre(const model::Tormenta& tormenta, const model::Hietograma& hietograma,
+                         const std::vector<AvisoDeCalculo>& previos, bool conVolumenes)
+    {
+        const auto corre = [&] {
+            oyente.avisos = previos;
+            s.Serie = {};
+            PonTormenta(s, tormenta);
+            s.Hietograma = hietograma;
+            calculo.fin = engine::Corre(s, conVolumenes, memoria);
+        };
+        std::swap(s.Resultados, calculo.Resultados);
+        corre();
+        if (calculo.fin != FinCalculo::Completo || !oyente.avisos.empty()) {
+            s.Resultados = {};  // a fault goes on with what stands there
+            corre();
+        }
+        std::swap(s.Resultados, calculo.Resultados);
+        std::swap(s.Tormenta, calculo.Tormenta);
+        std::swap(s.Hietograma, calculo.Hietograma);
+        oyente.avisos.swap(calculo.avisos);
+        return calculo;
+    }
 };
 
 Calculadora::Calculadora(const model::Red& red, const model::Pasos& pasos, Memoria memoria)
@@ -108,27 +140,29 @@ Calculadora::~Calculadora() = default;
 
 const Calculo& Calculadora::Corre(const model::Tormenta& tormenta, const model::Hietograma& hietograma)
 {
+    return estado->Corre(tormenta, hietograma, {}, false);
+}
+
+model::Red& Calculadora::Red()
+{
+    return estado->s.Red;
+}
+
+void Calculadora::Toma(const model::Tormenta& tormenta, const model::TablasDeLluvia& tablas)
+{
     model::Siro& s = estado->s;
-    Calculo& c = estado->calculo;
-    std::vector<AvisoDeCalculo>& avisos = estado->oyente.avisos;
-    const auto corre = [&] {
-        avisos.clear();
-        s.Serie = {};
-        PonTormenta(s, tormenta);
-        s.Hietograma = hietograma;
-        c.fin = engine::Corre(s, false, estado->memoria);
-    };
-    std::swap(s.Resultados, c.Resultados);
-    corre();
-    if (c.fin != FinCalculo::Completo || !avisos.empty()) {
-        s.Resultados = {};  // a fault goes on with what stands there
-        corre();
-    }
-    std::swap(s.Resultados, c.Resultados);
-    std::swap(s.Tormenta, c.Tormenta);
-    std::swap(s.Hietograma, c.Hietograma);
-    avisos.swap(c.avisos);
-    return c;
+    estado->oyente.avisos.clear();
+    PonTormenta(s, tormenta);
+    s.Hietograma = {};
+    if (tormenta.DistriPp >= model::PrimeraPersonal) s.TablasDeLluvia = tablas;
+    ConstruyeHietograma(s, TablasPersonales::EnMemoria);
+    estado->tomada = {s.Tormenta, s.Hietograma, estado->oyente.avisos};
+}
+
+const Calculo& Calculadora::Corre()
+{
+    const Repartida& r = estado->tomada;
+    return estado->Corre(r.tormenta, r.hietograma, r.avisos, true);
 }
 
 }  // namespace engine

@@ -69,6 +69,14 @@ class Calculadora {
     /// the component routed last aren't in it. Throws std::bad_alloc and nothing else.
     const Calculo& Corre(const model::Tormenta& tormenta, const model::Hietograma& hietograma);
 
+    /// The network that it runs: its numbers may be changed from one run to the next.
+    model::Red& Red();
+    /// Takes a storm and spreads it over time, by `tablas` where a personal distribution does.
+    void Toma(const model::Tormenta& tormenta, const model::TablasDeLluvia& tablas);
+    /// Runs the storm that was taken last: all that `Calcula` gives, notices included, until the next one.
+    /// Throws std::bad_alloc and nothing else.
+    const Calculo& Corre();
+
   private:
     struct Estado;
     std::unique_ptr<Estado> estado;

@@ -91,7 +91,10 @@ TablaAbatimiento& AbatimientoDe(Corrida& c, float K)
     auto& tablas = c.memoria.abatimiento;
     auto tabla = std::find_if(tablas.begin(), tablas.end(),
                               [&](const TablaAbatimiento& t) { return t.K == K && t.paso == paso; });
-    if (tabla == tablas.end()) tabla = tablas.insert(tablas.end(), {K, paso, {1}});
+    if (tabla == tablas.end()) {
+        if (tablas.size() >= model::MaxUEHs) tablas.clear();  // a constant that changes with every run
+        tabla = tablas.insert(tablas.end(), {K, paso, {1}});
+    }
     for (auto p = tabla->potencia.size(); p <= static_cast<std::size_t>(c.s.Resultados.NroPasosQ); ++p)
         tabla->potencia.push_back(Abatimiento(K, static_cast<double>(p) * paso));
     return *tabla;

@@ -46,7 +46,8 @@ struct NodosPiscina {
     struct Embalsado {
         float h = 0, s = 0;
     };
-    std::vector<float> clave{};  ///< what they were worked out from
+    std::vector<float> clave{};  ///< what they are worked out from
+    bool armados = false;        ///< they have been worked out
     bool sirve = false;          ///< u rises with the height, so that they can stand for the bisection
     std::vector<Nivel> nivel{};
     std::vector<Embalsado> embalsado{};
@@ -73,7 +74,7 @@ struct Memoria {
     std::vector<NodosPiscina> piscinas{};           ///< by row of Secuencia
     std::vector<float> clave{};                     ///< room for what a pool's midpoints are worked out from
     std::vector<TablaInfiltracion> infiltracion{};  ///< by UEH from 0
-    std::vector<TablaAbatimiento> abatimiento{};    ///< one per constant
+    std::vector<TablaAbatimiento> abatimiento{};    ///< one per constant, of the last ones
     std::vector<double> columna{};                  ///< room for one value per output step
 };
 

@@ -216,15 +216,20 @@ void ArmaClave(const Corrida& c, const EmbalseEnMano& e, std::vector<float>& cla
     clave.insert(clave.end(), r.chkFQ.begin(), r.chkFQ.end());
 }
 
-/// The table of midpoints of a component, from the memory where its curves are still the same.
+/// The table of midpoints of a component, from the memory where its curves are still the same. Where they
+/// have changed it waits for a second run with the same ones: it wouldn't pay for curves that change with
+/// every run.
 const NodosPiscina& NodosDe(Corrida& c, const EmbalseEnMano& e)
 {
     auto& tablas = c.memoria.piscinas;
     if (tablas.size() < c.s.Resultados.Secuencia.size()) tablas.resize(c.s.Resultados.Secuencia.size());
     NodosPiscina& nodos = tablas[static_cast<std::size_t>(e.fila)];
     ArmaClave(c, e, c.memoria.clave);
-    if (nodos.clave == c.memoria.clave) return nodos;
+    const bool cambia = !nodos.clave.empty() && nodos.clave != c.memoria.clave;
+    if (cambia) nodos.armados = nodos.sirve = false;
     nodos.clave = c.memoria.clave;
+    if (cambia || nodos.armados) return nodos;
+    nodos.armados = true;
     Curvas curvas(c.s.Pasos.PasoQ);
     nodos.sirve = curvas.Prepara(e, c.SActual) && TablaNodos(nodos, curvas, e.Alturas());
     return nodos;

@@ -33,7 +33,8 @@ struct Modelo {
 };
 
 /// What keeps a model from being run: a sentence for each parameter that moves nothing or twice the same
-/// field, each range that isn't one. Empty: it can be run.
+/// field, each range that isn't one or takes a field beyond what the editor admits and the network has.
+/// Empty: it can be run.
 std::vector<std::string> ReparosDe(const Modelo& modelo);
 
 /// Runs members one after another. Belongs to one thread; what doesn't change from member to member is kept.
@@ -46,7 +47,8 @@ class Corredor {
     Corredor& operator=(const Corredor&) = delete;
 
     /// Runs one storm with the values of a member [in the parameters' units], one per parameter. The bits of
-    /// engine::Calcula for the same network and storm. What it returns holds until the next run.
+    /// engine::Calcula for the same network and storm; a value that is no number is a run that is refused.
+    /// What it returns holds until the next run. Throws std::bad_alloc and nothing else.
     const engine::Calculo& Corre(std::span<const double> valores, std::size_t lluvia);
 
   private:
@@ -60,7 +62,9 @@ std::string MotivoDe(const engine::Calculo& calculo);
 
 /// Runs members 0..cuantos-1 on several threads. `haz` is called once for each, on any thread and in any
 /// order, with a runner of that thread's own, and leaves what it finds where nobody else writes; `avance` is
-/// asked on the caller's thread. Returns false where it was given up. 0 threads: one per core.
+/// asked on the caller's thread, ahead of each member that it runs. Returns false where it was given up: no
+/// member begins from then on. 0 threads: one per core. Throws what `haz` throws on the caller's thread,
+/// std::bad_alloc of any.
 bool CorreMiembros(const Modelo& modelo, std::size_t cuantos, int hilos,
                    const std::function<void(std::size_t miembro, Corredor& corredor)>& haz,
                    const study::Avance& avance = {});
