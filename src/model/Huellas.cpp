@@ -69,7 +69,7 @@ void AnotaGuardado(Siro& s, const std::string& ruta)
     if (const auto huella = HuellaEnDisco(s, ruta)) s.Vigilancia.huellas[ruta] = *huella;
 }
 
-bool PuedeGuardar(Siro& s, std::initializer_list<std::string> rutas)
+bool PuedeGuardar(Siro& s, const std::vector<std::string>& rutas)
 {
     if (!s.Vigilancia.activa || s.Proyecto.NombreProyecto.empty()) return true;
     if (!PuedeSerDeDos(s)) return false;

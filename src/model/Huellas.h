@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <initializer_list>
 #include <string>
 #include <string_view>
+#include <vector>
 
 // What the project's files held when this program read or wrote them last, so that it asks before it writes
 // over what another one has left there. Without `Vigilancia::activa` nothing is recorded and nothing asked.
@@ -22,6 +22,6 @@ void AnotaGuardado(Siro& s, const std::string& ruta);
 
 /// Before these project files are replaced or deleted: asks where another program has the project open, and
 /// of each file that isn't as this program knows it. Returns whether they may be.
-bool PuedeGuardar(Siro& s, std::initializer_list<std::string> rutas);
+bool PuedeGuardar(Siro& s, const std::vector<std::string>& rutas);
 
 }  // namespace model

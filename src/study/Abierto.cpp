@@ -20,7 +20,8 @@ namespace {
 using Clase = EstadoDeArchivo::Clase;
 
 constexpr std::size_t MaximoDePasos = 200;
-constexpr double EsperaDeIntento = 5;  // [s]
+constexpr std::size_t MaximoDeValoresEnPasos = 4'000'000;  // of observations, in all of them
+constexpr double EsperaDeIntento = 5;                      // [s]
 
 constexpr std::string_view Titulo = "Estudio";
 constexpr std::string_view SinProyecto =
@@ -31,6 +32,9 @@ constexpr std::string_view Negado =
     " no se guardó, a su pedido. Los cambios están en la memoria; puede guardarlos cuando quiera.";
 constexpr std::string_view SeDeja =
     " El archivo se deja como está, y los cambios que haga quedan en la memoria hasta que lo aparte.";
+
+constexpr std::string_view SeriesSeDejan =
+    "Esos archivos se dejan como están, y las observaciones quedan sin valores hasta que los vuelva a dar.";
 
 constexpr std::string_view SePierde =
     " no se pudieron guardar en la carpeta de su proyecto. Elija otro lugar para guardarlos; si cancela, se "
@@ -72,14 +76,15 @@ std::string_view NombreDe(std::string_view ruta)
 
 bool Abierto::Cambia(std::string leyenda, Estudio nuevo)
 {
+    NombraSus(nuevo.ajuste);
     if (nuevo == valor) return false;
     if (const std::string reparo = ReparoDe(nuevo); !reparo.empty()) {
         model::Advierte(s, "El cambio no se hizo: " + reparo + ".", Titulo);
         return false;
     }
     hechos.push_back({std::move(leyenda), std::exchange(valor, std::move(nuevo))});
-    if (hechos.size() > MaximoDePasos) hechos.erase(hechos.begin());
     deshechos.clear();
+    Recorta();
     pendiente = true;
     Escribe();
     AvisaCambio();
@@ -91,6 +96,24 @@ bool Abierto::CambiaTaller(std::string leyenda, Taller nuevo)
     Estudio estudio = valor;
     estudio.taller = std::move(nuevo);
     return Cambia(std::move(leyenda), std::move(estudio));
+}
+
+bool Abierto::CambiaAjuste(std::string leyenda, Ajuste nuevo)
+{
+    Estudio estudio = valor;
+    estudio.ajuste = std::move(nuevo);
+    return Cambia(std::move(leyenda), std::move(estudio));
+}
+
+/// Forgets the oldest steps: each is a whole value.
+void Abierto::Recorta()
+{
+    std::size_t valores = 0, quedan = 0;
+    for (auto paso = hechos.rbegin(); paso != hechos.rend() && quedan < MaximoDePasos; ++paso, ++quedan) {
+        valores += CuentaDeValores(paso->otro.ajuste);
+        if (quedan > 0 && valores > MaximoDeValoresEnPasos) break;
+    }
+    hechos.erase(hechos.begin(), hechos.end() - static_cast<std::ptrdiff_t>(quedan));
 }
 
 bool Abierto::Salta(std::vector<Paso>& desde, std::vector<Paso>& hacia)
@@ -168,17 +191,68 @@ bool Abierto::ApartaDanado()
     return true;
 }
 
-/// Returns whether it is written; where not, the state says why.
+/// Names for files of series: none that something else bears on the disk.
+void Abierto::NombraSus(Ajuste& ajuste) const
+{
+    const std::string base = BaseDeSeries(ruta);
+    const auto libre = [&](const std::string& nombre) {
+        if (ruta.empty() || series.contains(nombre)) return true;
+        bool esta = true;
+        model::Sentencia(
+            [&] { static_cast<void>(s.Disco.Lee(RutaDeSerie(base, nombre))); },
+            [&](const model::Falla& falla) { esta = falla.numero == model::NumeroFalla::AccesoRuta; });
+        return !esta;
+    };
+    NombraSeries(ajuste, danadas, libre);
+}
+
+/// Writes the value into a file of its project, or of any other place. Returns whether it is written; where
+/// not, the state says why.
 bool Abierto::Reemplaza(const std::string& enRuta)
 {
+    const std::string base = BaseDeSeries(enRuta);
     return model::Sentencia(
         [&] {
-            s.Disco.Reemplaza({{enRuta, EscribeEstudio(valor)}});
+            std::vector<model::CambioArchivo> cambios{{enRuta, EscribeEstudio(valor)}};
+            for (auto& [nombre, texto] : EscribeSeries(valor.ajuste))
+                if (const auto conocida = series.find(nombre);
+                    enRuta != ruta || conocida == series.end() || conocida->second != texto)
+                    cambios.push_back({RutaDeSerie(base, nombre), texto});
+            s.Disco.Reemplaza(cambios);
         },
         [&](const model::Falla& falla) {
             archivo = {Clase::SinGuardar, std::string(NombreDe(enRuta)) + " no se pudo guardar: " +
                                               MotivoDe(falla) + std::string(SeReintenta)};
         });
+}
+
+/// Writes what has changed, and takes away the files of observations that are gone.
+bool Abierto::EscribeTodo()
+{
+    const std::string base = BaseDeSeries(ruta);
+    std::map<std::string, std::string> nuevas = EscribeSeries(valor.ajuste), sobran;
+    std::vector<std::string> puestas{ruta};
+    for (const auto& [nombre, texto] : nuevas)
+        if (const auto conocida = series.find(nombre); conocida == series.end() || conocida->second != texto)
+            puestas.push_back(RutaDeSerie(base, nombre));
+    std::vector<std::string> tocadas = puestas;
+    for (const auto& [nombre, texto] : series)
+        if (!nuevas.contains(nombre) && !DanadaDe(danadas, nombre)) {
+            tocadas.push_back(RutaDeSerie(base, nombre));
+            sobran.emplace(nombre, texto);
+        }
+    negado = !model::PuedeGuardar(s, tocadas);
+    if (negado) archivo = {Clase::SinGuardar, std::string(NombreDe(ruta)) + std::string(Negado)};
+    if (negado || !Reemplaza(ruta)) return false;
+    for (const std::string& puesta : puestas)
+        model::AnotaGuardado(s, puesta);
+    series = std::move(nuevas);
+    for (const auto& sobra : sobran)  // one that stays is tried again
+        model::Sentencia([&] { s.Disco.Borra(RutaDeSerie(base, sobra.first)); },
+                         [&](const model::Falla& falla) {
+                             if (falla.numero == model::NumeroFalla::AccesoRuta) series.insert(sobra);
+                         });
+    return true;
 }
 
 void Abierto::Escribe()
@@ -191,11 +265,9 @@ void Abierto::Escribe()
     if (pendiente) {
         ocupado = true;
         intento = s.Anfitrion.Reloj();
-        negado = !model::PuedeGuardar(s, {ruta});
+        const bool escrito = EscribeTodo();
         ocupado = false;
-        if (negado) archivo = {Clase::SinGuardar, std::string(NombreDe(ruta)) + std::string(Negado)};
-        if (negado || !Reemplaza(ruta)) return;
-        model::AnotaGuardado(s, ruta);
+        if (!escrito) return;
         enDisco = true;
         pendiente = dicho = false;
     }
@@ -204,16 +276,30 @@ void Abierto::Escribe()
 
 bool Abierto::HaDeDecir() const
 {
-    const bool hay = archivo.clase == Clase::SinGuardar || archivo.clase == Clase::Danado;
-    return hay && !dicho && !negado && EstaAbierto(s);
+    return (HaDeDecirArchivo() || (!danadas.empty() && !seriesDichas)) && EstaAbierto(s);
 }
 
-/// What is wrong with the file, in a box, once.
+bool Abierto::HaDeDecirArchivo() const
+{
+    const bool hay = archivo.clase == Clase::SinGuardar || archivo.clase == Clase::Danado;
+    return hay && !dicho && !negado;
+}
+
+/// What is wrong with the files, in a box each, once.
 void Abierto::Dice()
 {
     if (!HaDeDecir()) return;
-    dicho = ocupado = true;
-    model::Advierte(s, archivo.texto, Titulo);
+    ocupado = true;
+    if (HaDeDecirArchivo()) {
+        dicho = true;
+        model::Advierte(s, archivo.texto, Titulo);
+    }
+    if (!danadas.empty() && !std::exchange(seriesDichas, true)) {
+        std::string texto;
+        for (const SerieDanada& danada : danadas)
+            texto.append(danada.texto) += ' ';
+        model::Advierte(s, texto + std::string(SeriesSeDejan), Titulo);
+    }
     ocupado = false;
 }
 
@@ -243,9 +329,20 @@ bool Abierto::Lee(const std::string& deRuta, Estudio& estudio, EstadoDeArchivo& 
     return hay;
 }
 
+/// The values of the observations that the study in hand names, each in its file.
+void Abierto::LeeSusSeries()
+{
+    danadas = LeeSeries(valor.ajuste, BaseDeSeries(ruta),
+                        [this](const std::string& deRuta) { return model::LeeVigilado(s, deRuta); });
+    series = EscribeSeries(valor.ajuste);
+    seriesDichas = false;
+}
+
 void Abierto::Olvida()
 {
     valor = {};
+    series.clear();
+    danadas.clear();
     hechos.clear();
     deshechos.clear();
     pendiente = enDisco = negado = dicho = false;
@@ -263,6 +360,9 @@ void Abierto::PasaA(std::string nueva)
     if (!trae) {
         Olvida();
         valor = std::move(estudio);
+        LeeSusSeries();
+    } else {
+        NombraSus(valor.ajuste);
     }
     enDisco = hay;
     archivo = std::move(estado);
@@ -319,7 +419,9 @@ void Abierto::TrasGuardarComo()
     std::string nueva = RutaEnMano(s);
     if (!EstaAbierto(s) || archivo.clase == Clase::Danado || nueva.empty() || nueva == ruta) return Sigue();
     ruta = std::move(nueva);
-    model::AnotaGuardado(s, ruta);  // its file has been copied
+    model::AnotaGuardado(s, ruta);  // its files have been copied
+    for (const auto& [nombre, texto] : series)
+        model::AnotaGuardado(s, RutaDeSerie(BaseDeSeries(ruta), nombre));
     negado = dicho = false;
     Escribe();
     AvisaCambio();

@@ -3,11 +3,13 @@
 
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
 #include "model/SiroDeclarado.h"
 #include "study/Estudio.h"
+#include "study/Series.h"
 
 namespace study {
 
@@ -24,8 +26,9 @@ struct EstadoDeArchivo {
     bool operator==(const EstadoDeArchivo&) const = default;
 };
 
-/// The study of the project in hand: its value, the steps back, and its file, which is written whole at each
-/// change. What can't be written stays in memory and is tried again, so that nothing done is lost.
+/// The study of the project in hand: its value, the steps back, and its files, that of the study and one for
+/// the values of each observation. What has changed is written at each change, all of it or nothing. What
+/// can't be written stays in memory and is tried again, so that nothing done is lost.
 ///
 ///     abierto.AlCambiar([this] { Muestra(); });
 ///     study::Taller nuevo = abierto.EnMano().taller;
@@ -46,6 +49,8 @@ class Abierto {
     bool Cambia(std::string leyenda, Estudio nuevo);
     /// The same of the rain workshop alone.
     bool CambiaTaller(std::string leyenda, Taller nuevo);
+    /// The same of observed floods and what is asked of many runs. Observations get the names of their files.
+    bool CambiaAjuste(std::string leyenda, Ajuste nuevo);
     /// One step back, one forth. Returns whether there was one.
     bool Deshace();
     bool Rehace();
@@ -56,9 +61,11 @@ class Abierto {
     /// project. Whoever it belongs to outlives this object.
     void AlCambiar(std::function<void()> rutina);
 
-    // --- its file ---
+    // --- its files ---
 
     [[nodiscard]] const EstadoDeArchivo& Archivo() const { return archivo; }
+    /// Series that couldn't be read: their observations have no values, their files stay as they are.
+    [[nodiscard]] const std::vector<SerieDanada>& SeriesDanadas() const { return danadas; }
     /// Tries again what couldn't be written; asks again what the user refused. Returns whether all is
     /// written.
     bool Reintenta();
@@ -88,14 +95,19 @@ class Abierto {
     };
     bool Salta(std::vector<Paso>& desde, std::vector<Paso>& hacia);
     bool Lee(const std::string& deRuta, Estudio& estudio, EstadoDeArchivo& estado);
+    void LeeSusSeries();
+    void NombraSus(Ajuste& ajuste) const;
+    void Recorta();
     void PasaA(std::string nueva);
     void Olvida();
     void Deja();
     void OfreceOtroLugar();
     void Escribe();
     bool Reemplaza(const std::string& enRuta);
+    bool EscribeTodo();
     void Dice();
     [[nodiscard]] bool HaDeDecir() const;
+    [[nodiscard]] bool HaDeDecirArchivo() const;
     [[nodiscard]] bool EsHora() const;
     void AvisaCambio() const;
 
@@ -103,12 +115,15 @@ class Abierto {
     std::string ruta{};  ///< of its file; empty: no project
     Estudio valor{};
     EstadoDeArchivo archivo{};
-    bool enDisco = false;    ///< the file is there, as far as is known
-    bool pendiente = false;  ///< the value isn't in it
-    bool negado = false;     ///< the user refused to write over another program's work
-    bool dicho = false;      ///< what is wrong with the file has been told in a box
-    bool ocupado = false;    ///< a box is up
-    double intento = 0;      ///< when it was tried last [s]
+    bool enDisco = false;                         ///< the file is there, as far as is known
+    bool pendiente = false;                       ///< the value isn't in it
+    bool negado = false;                          ///< the user refused to write over another program's work
+    bool dicho = false;                           ///< what is wrong with the file has been told in a box
+    bool ocupado = false;                         ///< a box is up
+    double intento = 0;                           ///< when it was tried last [s]
+    std::map<std::string, std::string> series{};  ///< texts on the disk, by the names of their files
+    std::vector<SerieDanada> danadas{};
+    bool seriesDichas = false;  ///< they have been told in a box
     std::vector<Paso> hechos{}, deshechos{};
     std::vector<std::function<void()>> oyentes{};
 };

@@ -43,6 +43,7 @@ struct Observacion {
     double peso = 1;      ///< among those of the event, 0 or more
     std::vector<Ventana> ventanas{};    ///< none: all counts
     std::vector<PuntoDeCurva> curva{};  ///< by level
+    std::string interpolacion = "log";  ///< between its points: "log", of level and flow, or "lineal"
     std::string fuente{}, notas{};
     std::string archivo{};        ///< of its values, beside the study: "1" for P_serie_1.csv; empty: none yet
     std::vector<Punto> puntos{};  ///< by time, as measured; they stand in that file

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "study/CamposDeEstudio.h"
+#include "study/Series.h"
 
 namespace study {
 namespace {
@@ -405,10 +406,15 @@ std::string EscribeEstudio(const Estudio& estudio)
 
 std::string ReparoDe(const Estudio& estudio)
 {
+    if (std::string reparo = ReparoDe(estudio.ajuste); !reparo.empty()) return reparo;
     const LecturaDeEstudio lectura = LeeEstudio(EscribeEstudio(estudio));
     if (!lectura.motivo.empty()) return lectura.motivo;
-    return lectura.estudio == estudio ? std::string{}
-                                      : "hay un texto que no es UTF-8 o un número que no lo es";
+    Estudio sinPuntos = estudio;
+    for (Evento& evento : sinPuntos.ajuste.eventos)
+        for (Observacion& observacion : evento.observaciones)
+            observacion.puntos.clear();
+    return lectura.estudio == sinPuntos ? std::string{}
+                                        : "hay un texto que no es UTF-8 o un número que no lo es";
 }
 
 }  // namespace study

@@ -7,7 +7,8 @@
 
 #include "study/Estudio.h"
 
-// The text of P_Estudio.json: UTF-8, a "version", keys in Spanish. Keys that this version doesn't know are
+// The text of P_Estudio.json: UTF-8, a "version", keys in Spanish. Values of observations stand in files of
+// their own, Series.h. Keys that this version doesn't know are
 // kept where they stand: of the whole, of the workshop, its stations, their series, its curves, its storm.
 namespace study {
 

@@ -142,6 +142,7 @@ void Campos(V& v, Observacion& o)
     v("peso", o.peso, 0, SinTope);
     v("ventanas", o.ventanas);
     v("curva", o.curva);
+    v("interpolacion", o.interpolacion);
     v("fuente", o.fuente);
     v("notas", o.notas);
     v("archivo", o.archivo);

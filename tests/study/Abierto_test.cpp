@@ -12,6 +12,7 @@
 #include "model/Candado.h"
 #include "model/Siro.h"
 #include "study/ArchivoEstudio.h"
+#include "study/Series.h"
 
 namespace study {
 namespace {
@@ -327,6 +328,267 @@ TEST_F(DeUnProyecto, ElEstudioBorradoConSuProyectoQuedaVacioYOtroNo)
     EXPECT_EQ(abierto.EnMano(), Estudio{});
     EXPECT_EQ(abierto.PorDeshacer(), "");
     EXPECT_FALSE(disco.Esta(RutaA));
+}
+
+// --- the values of observations, in files of their own ---
+
+const std::string Serie1 = model::Ruta(Carpeta, "A_serie_1.csv");
+const std::string Serie2 = model::Ruta(Carpeta, "A_serie_2.csv");
+const std::vector<Punto> Crecida{{0, 0.5}, {10, 0.1 + 0.2}, {20, 7.5}};
+const std::vector<Punto> Otra{{-5, 1}, {5, 2}};
+
+Observacion En(const std::string& componente, std::vector<Punto> puntos)
+{
+    return {.componente = componente, .puntos = std::move(puntos)};
+}
+
+Ajuste De(std::vector<Observacion> observaciones)
+{
+    Ajuste a;
+    a.eventos = {{.nombre = "Marzo", .observaciones = std::move(observaciones)}};
+    return a;
+}
+
+class DeUnaObservacion : public DeUnProyecto {
+  protected:
+    [[nodiscard]] const std::vector<Observacion>& Observaciones() const
+    {
+        return abierto.EnMano().ajuste.eventos.at(0).observaciones;
+    }
+    /// What the program reads that is started next.
+    void Reabre()
+    {
+        Abre("");
+        Abre("A");
+    }
+};
+
+TEST_F(DeUnaObservacion, SusValoresVanAUnArchivoPropioYVuelven)
+{
+    Abre("A");
+    EXPECT_TRUE(abierto.CambiaAjuste("Pegar", De({En("u-1", Crecida), En("c-2", Otra), En("c-3", {})})));
+    EXPECT_EQ(disco.Archivos(), (std::vector<std::string>{RutaA, Serie1, Serie2}));
+    EXPECT_EQ(disco.Bytes(Serie1),
+              "minutos [min];caudal [m3/s];3 valores\n0;0.5\n10;0.30000000000000004\n20;7.5\n");
+    EXPECT_EQ(disco.Bytes(RutaA).find("7.5"), std::string::npos);
+    const Estudio antes = abierto.EnMano();
+    Reabre();
+    EXPECT_EQ(abierto.EnMano(), antes);
+    EXPECT_EQ(Observaciones()[1].puntos, Otra);
+    EXPECT_EQ(Observaciones()[1].archivo, "2");
+    EXPECT_EQ(Observaciones()[2].archivo, "");
+    EXPECT_TRUE(abierto.SeriesDanadas().empty());
+    EXPECT_EQ(Cajas(), 0U);
+}
+
+TEST_F(DeUnaObservacion, SoloSeEscribeLaSerieQueCambia)
+{
+    Abre("A");
+    abierto.CambiaAjuste("Pegar", De({En("u-1", Crecida), En("c-2", Otra)}));
+    Ajuste nuevo = abierto.EnMano().ajuste;
+    nuevo.eventos[0].observaciones[1].puntos.push_back({15, 3});
+    disco.Pon(Serie1, "de otro programa");
+    EXPECT_TRUE(abierto.CambiaAjuste("Escribir", nuevo));
+    EXPECT_EQ(Cajas(), 0U);  // that one isn't touched, so that nobody is asked
+    EXPECT_EQ(disco.Bytes(Serie1), "de otro programa");
+    EXPECT_EQ(LeeSerie(disco.Bytes(Serie2), "caudal").puntos, nuevo.eventos[0].observaciones[1].puntos);
+}
+
+TEST_F(DeUnaObservacion, LaQueSeQuitaSeVaConSuArchivoYVuelveAlDeshacer)
+{
+    Abre("A");
+    abierto.CambiaAjuste("Pegar", De({En("u-1", Crecida), En("c-2", Otra)}));
+    const std::string bytes = disco.Bytes(Serie1);
+    Ajuste nuevo = abierto.EnMano().ajuste;
+    nuevo.eventos[0].observaciones.erase(nuevo.eventos[0].observaciones.begin());
+    EXPECT_TRUE(abierto.CambiaAjuste("Quitar", nuevo));
+    EXPECT_EQ(disco.Archivos(), (std::vector<std::string>{RutaA, Serie2}));
+    EXPECT_TRUE(abierto.Deshace());
+    EXPECT_EQ(disco.Bytes(Serie1), bytes);
+    EXPECT_TRUE(abierto.Rehace());
+    EXPECT_FALSE(disco.Esta(Serie1));
+    EXPECT_TRUE(abierto.Deshace() && abierto.Deshace());
+    EXPECT_EQ(disco.Archivos(), std::vector<std::string>{RutaA});
+    EXPECT_TRUE(abierto.Rehace());
+    Reabre();
+    EXPECT_EQ(Observaciones()[0].puntos, Crecida);
+    EXPECT_EQ(Observaciones()[1].puntos, Otra);
+}
+
+TEST_F(DeUnaObservacion, LaCopiaDeUnaTieneSuPropioArchivo)
+{
+    Abre("A");
+    abierto.CambiaAjuste("Pegar", De({En("u-1", Crecida)}));
+    Ajuste nuevo = abierto.EnMano().ajuste;
+    nuevo.eventos.push_back(nuevo.eventos[0]);
+    disco.Pon(Serie2, "de otro");  // nobody's: it is left alone
+    EXPECT_TRUE(abierto.CambiaAjuste("Duplicar", nuevo));
+    EXPECT_EQ(abierto.EnMano().ajuste.eventos[1].observaciones[0].archivo, "3");
+    EXPECT_EQ(disco.Bytes(Serie2), "de otro");
+    EXPECT_EQ(disco.Bytes(model::Ruta(Carpeta, "A_serie_3.csv")), disco.Bytes(Serie1));
+    EXPECT_EQ(Cajas(), 0U);
+}
+
+TEST_F(DeUnaObservacion, LaDanadaLaQueFaltaYLaAjenaSeDicenYElRestoSeAbre)
+{
+    Abre("A");
+    abierto.CambiaAjuste("Pegar", De({En("u-1", Crecida), En("c-2", Otra), En("c-3", Crecida)}));
+    const std::string sana = disco.Bytes(Serie1), cortada = sana.substr(0, sana.size() - 2);
+    disco.Pon(Serie1, cortada);
+    disco.Quita(Serie2);
+    Reabre();
+    EXPECT_EQ(Observaciones()[0].puntos, std::vector<Punto>{});
+    EXPECT_EQ(Observaciones()[2].puntos, Crecida);
+    ASSERT_EQ(anfitrion->Avisos().size(), 1U);
+    EXPECT_EQ(anfitrion->Avisos()[0].texto,
+              "La serie A_serie_1.csv, de u-1 en el evento \"Marzo\", no se puede leer: renglón 4: hay 3 "
+              "valores enteros y el encabezado dice 3: está cortada. La serie A_serie_2.csv, de c-2 en el "
+              "evento \"Marzo\", no se puede leer: No se encontró el archivo. Esos archivos se dejan como "
+              "están, y las observaciones quedan sin valores hasta que los vuelva a dar.");
+    abierto.Sigue();
+    EXPECT_EQ(Cajas(), 1U);  // told once
+
+    // Another change leaves the damaged file and its name; new values go elsewhere.
+    Ajuste nuevo = abierto.EnMano().ajuste;
+    nuevo.eventos[0].observaciones[0].notas = "Revisar";
+    EXPECT_TRUE(abierto.CambiaAjuste("Notas", nuevo));
+    EXPECT_EQ(Observaciones()[0].archivo, "1");
+    nuevo.eventos[0].observaciones[0].puntos = Otra;
+    EXPECT_TRUE(abierto.CambiaAjuste("Pegar", nuevo));
+    EXPECT_EQ(disco.Bytes(Serie1), cortada);
+    EXPECT_EQ(Observaciones()[0].archivo, "4");
+    nuevo.eventos[0].observaciones.clear();
+    EXPECT_TRUE(abierto.CambiaAjuste("Quitar", nuevo));
+    EXPECT_EQ(disco.Archivos(), (std::vector<std::string>{RutaA, Serie1}));
+    EXPECT_EQ(disco.Bytes(Serie1), cortada);
+}
+
+TEST_F(DeUnaObservacion, UnNombreQueSaldriaDeLaCarpetaNoSeLee)
+{
+    Estudio e;
+    e.ajuste = De({En("u-1", {})});
+    e.ajuste.eventos[0].observaciones[0].archivo = "../B";
+    disco.Pon(RutaA, EscribeEstudio(e));
+    disco.OlvidaLlamadas();
+    Abre("A");
+    ASSERT_EQ(abierto.SeriesDanadas().size(), 1U);
+    EXPECT_EQ(abierto.SeriesDanadas()[0].texto,
+              "La serie B, de u-1 en el evento \"Marzo\", no se puede leer: no es el nombre de una serie.");
+    for (const auto& llamada : disco.Llamadas())
+        EXPECT_EQ(llamada.ruta.find("serie"), std::string::npos) << llamada.ruta;
+}
+
+TEST_F(DeUnaObservacion, EstudioYSeriesSeEscribenTodosONinguno)
+{
+    Abre("A");
+    abierto.CambiaAjuste("Pegar", De({En("u-1", Crecida)}));
+    const std::string estudio = disco.Bytes(RutaA), serie = disco.Bytes(Serie1);
+    const auto queda = [&] {
+        EXPECT_EQ(disco.Bytes(RutaA), estudio);
+        EXPECT_EQ(disco.Bytes(Serie1), serie);
+        EXPECT_EQ(disco.Archivos().size(), 2U);
+        EXPECT_EQ(abierto.Archivo().clase, Clase::SinGuardar);
+    };
+    const Ajuste nuevo = De({En("u-1", Otra), En("c-2", Crecida)});
+    disco.Protege(Carpeta);  // a folder that can't be written
+    EXPECT_TRUE(abierto.CambiaAjuste("Otra", nuevo));
+    queda();
+    disco.Protege(Carpeta, false);
+    disco.LimitaEspacio(estudio.size() + serie.size() + 60);  // a full disk
+    EXPECT_FALSE(abierto.Reintenta());
+    queda();
+    disco.LimitaEspacio(std::string::npos);
+    EXPECT_TRUE(abierto.Reintenta());
+    Reabre();
+    EXPECT_EQ(Observaciones()[0].puntos, Otra);
+    EXPECT_EQ(Observaciones()[1].puntos, Crecida);
+}
+
+TEST_F(DeUnaObservacion, LaEnesimaLlamadaQueFallaNoPierdeNada)
+{
+    for (int n = 1; n < 40; ++n) {
+        for (const std::string& archivo : disco.Archivos())
+            disco.Quita(archivo);
+        Abre("");
+        Abre("A");
+        abierto.CambiaAjuste("Pegar", De({En("u-1", Crecida), En("c-2", Otra)}));
+        disco.FallaEn(n, NumeroFalla::AccesoRuta);
+        EXPECT_TRUE(abierto.CambiaAjuste("Quitar", De({En("u-1", Otra)})));
+        const bool hubo = disco.HuboFalla();
+        disco.DejaDeFallar();
+        const bool escrito = abierto.Archivo().clase == Clase::Guardado;
+        const std::string nombre = Observaciones()[0].archivo;
+        EXPECT_TRUE(abierto.Reintenta()) << n;
+        EXPECT_TRUE(abierto.Deshace() && abierto.Rehace()) << n;
+        Reabre();
+        EXPECT_EQ(Observaciones()[0].puntos, Otra) << n << escrito;
+        EXPECT_EQ(Observaciones()[0].archivo, nombre) << n;
+        EXPECT_EQ(disco.Archivos().size(), 2U) << n;
+        if (!hubo) return;
+    }
+    ADD_FAILURE() << "more calls than a change can take";
+}
+
+TEST_F(DeUnaObservacion, SobreLaSerieDeOtroProgramaSePreguntaTambienParaBorrarla)
+{
+    Abre("A");
+    abierto.CambiaAjuste("Pegar", De({En("u-1", Crecida)}));
+    disco.Pon(Serie1, "de otro programa");
+    anfitrion->respuestas = {false};
+    EXPECT_TRUE(abierto.CambiaAjuste("Quitar", De({})));
+    EXPECT_EQ(anfitrion->Preguntas().size(), 1U);
+    EXPECT_EQ(disco.Bytes(Serie1), "de otro programa");
+}
+
+TEST_F(DeUnaObservacion, GuardarComoSigueEnLasSeriesDelNombreNuevo)
+{
+    Abre("A");
+    abierto.CambiaAjuste("Pegar", De({En("u-1", Crecida)}));
+    const std::string suya = model::Ruta(Carpeta, "B_serie_1.csv");
+    disco.Pon(RutaB, disco.Bytes(RutaA));  // as the project's files are copied
+    disco.Pon(suya, disco.Bytes(Serie1));
+    s.Proyecto.NombreProyecto = "B";
+    model::ReclamaProyecto(s);
+    abierto.TrasGuardarComo();
+    EXPECT_TRUE(abierto.CambiaAjuste("Otra", De({En("u-1", Otra)})));
+    EXPECT_EQ(LeeSerie(disco.Bytes(suya), "caudal").puntos, Otra);
+    EXPECT_EQ(LeeSerie(disco.Bytes(Serie1), "caudal").puntos, Crecida);
+    EXPECT_EQ(Cajas(), 0U);
+}
+
+TEST_F(DeUnaObservacion, LasHechasSinProyectoVanConElPrimeroSinPisarLoQueHaya)
+{
+    disco.Pon(Serie1, "de nadie");
+    EXPECT_TRUE(abierto.CambiaAjuste("Pegar", De({En("u-1", Crecida)})));
+    Abre("A");
+    EXPECT_EQ(disco.Bytes(Serie1), "de nadie");
+    EXPECT_EQ(LeeSerie(disco.Bytes(Serie2), "caudal").puntos, Crecida);
+    EXPECT_EQ(Cajas(), 0U);
+}
+
+TEST_F(DeUnaObservacion, LoQueSeGuardaEnOtroLugarLlevaSusSeries)
+{
+    disco.Pon(RutaA, Texto("De A"));
+    abierto.CambiaAjuste("Pegar", De({En("u-1", Crecida)}));
+    anfitrion->elegidos = {"/proy/aparte.json"};
+    Abre("A");
+    EXPECT_EQ(LeeSerie(disco.Bytes("/proy/aparte_serie_1.csv"), "caudal").puntos, Crecida);
+}
+
+TEST_F(DeUnaObservacion, LosPasosMasViejosSeOlvidanCuandoGuardanDemasiadosValores)
+{
+    Abre("");
+    std::vector<Punto> muchos;
+    for (int i = 0; i < 900'000; ++i)
+        muchos.push_back({i * 1.0, 1});
+    int pasos = 0;
+    for (int i = 0; i < 6; ++i) {
+        muchos.front().valor = i;
+        EXPECT_TRUE(abierto.CambiaAjuste("Paso", De({En("u-1", muchos)})));
+    }
+    while (abierto.Deshace())
+        ++pasos;
+    EXPECT_EQ(pasos, 4);  // of 4 million values at most
 }
 
 }  // namespace

@@ -188,6 +188,30 @@ TEST(ArchivoEstudio, LoQueNoVolveriaSeReconoceAntesDeEscribirlo)
     EXPECT_NE(ReparoDe(e), "");
 }
 
+TEST(ArchivoEstudio, LosValoresDeUnaObservacionNoEstanEnElTextoPeroTambienHanDeVolver)
+{
+    Estudio e = Lleno();
+    e.ajuste.eventos = {{.nombre = "Marzo",
+                         .observaciones = {{.componente = "u-1",
+                                            .interpolacion = "lineal",
+                                            .archivo = "1",
+                                            .puntos = {{0, 1.25}, {10, 7777.5}}}}}};
+    EXPECT_EQ(ReparoDe(e), "");
+    const std::string texto = EscribeEstudio(e);
+    EXPECT_EQ(texto.find("7777"), std::string::npos) << texto;
+    EXPECT_NE(texto.find("\"archivo\": \"1\""), std::string::npos) << texto;
+    const Observacion leida = LeeEstudio(texto).estudio.ajuste.eventos.at(0).observaciones.at(0);
+    EXPECT_EQ(leida.interpolacion, "lineal");
+    EXPECT_TRUE(leida.puntos.empty());
+    e.ajuste.eventos[0].observaciones[0].puntos[1].minuto = 0;
+    EXPECT_EQ(ReparoDe(e), "en u-1 del evento \"Marzo\", valor 2: el tiempo no es posterior al anterior");
+    e.ajuste.eventos[0].observaciones[0].puntos[1] = {10, std::nan("")};
+    EXPECT_EQ(ReparoDe(e), "en u-1 del evento \"Marzo\", valor 2: no es un número");
+    e.ajuste.eventos[0].observaciones[0].puntos = {{0, 1}};
+    e.ajuste.eventos[0].peso = -1;
+    EXPECT_EQ(ReparoDe(e), "\"peso\" es negativo");
+}
+
 TEST(ArchivoEstudio, DiezMilAniosVuelven)
 {
     Estudio e;
