@@ -130,14 +130,15 @@ constexpr std::string_view TextoUsoTormenta =
 Reparte una tormenta en el tiempo y dice su hietograma, el de los porcentajes enteros que guarda una distribución
 personal y el que el motor corre con ellos.
 
-  --patron P              bloques, chicago, equilibrada, scs-i, scs-ia, scs-ii, scs-iii, huff, propia, registrada
-                          (bloques); los tres primeros piden curvas
+  --patron P              bloques, chicago, equilibrada, scs-i, scs-ia, scs-ii, scs-iii, huff, noaa14, propia,
+                          registrada (bloques); los tres primeros piden curvas
   --pp MM                 lámina de la tormenta (la de las curvas)
   --dur MIN               duración, múltiplo del paso (120)
   --rec AÑOS              recurrencia de la lámina de las curvas (50)
   --paso MIN              largo de los períodos (10)
   --avance R              momento del pico de chicago, como parte de la duración (0.375)
-  --cuartil N             el de huff, 1 a 4 (1)
+  --cuartil N             el de huff y noaa14, 1 a 4 (1)
+  --probabilidad P        de que haya caído más, de noaa14: 10, 20, ... 90 (50)
   --periodos V,V,...      lluvia de los períodos de propia, en cualquier unidad
   --registrada ARCHIVO    tormenta real _pt.vlm de la que sale registrada
   --ley, --metodo, --lectura, --factor, --desagregacion, --razones, --familia, --criterio, --coeficientes,

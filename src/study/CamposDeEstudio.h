@@ -90,6 +90,7 @@ void Campos(V& v, TormentaDeDiseno& t)
     v("paso_min", t.paso, MayorQueCero, SinTope);
     v("avance", t.avance, 0, 1);
     v("cuartil", t.cuartil, 1, 4);
+    v("probabilidad_pct", t.probabilidad, 10, 90);
     v("periodos", t.periodos);
     v("archivo", t.archivo);
     v("tabla", t.tabla, 1, 3);

@@ -79,7 +79,8 @@ struct TormentaDeDiseno {
     std::optional<double> lamina{};  ///< depth, where it isn't that of the curves [mm]
     double paso = 10;                ///< [min]
     double avance = 0.375;           ///< time of the peak as a part of the duration
-    int cuartil = 1;                 ///< Huff's
+    int cuartil = 1;                 ///< that most of the rain falls in
+    int probabilidad = 50;           ///< that more has fallen, 10, 20, ... 90 [%]
     std::string periodos{};  ///< parts of a pattern of the user's own, with blanks or semicolons between
     std::string archivo{};   ///< of the recorded storm that is made dimensionless
     int tabla = 1;           ///< of storms, 1..3

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <limits>
 #include <numeric>
 #include <set>
@@ -159,6 +160,32 @@ TEST(Patrones, HuffPorCuartilConRectasEntreSusCincoPorCientos)
     EXPECT_NEAR(std::accumulate(tardia.begin(), tardia.begin() + 30, 0.0), 51, 1e-9);
 }
 
+/// What the printed table of a duration gives at parts of it.
+TEST(Patrones, Noaa14PorCuartilYProbabilidad)
+{
+    const auto hasta = [](double minutos, int cuartil, int probabilidad, double parte) {
+        PedidoDeTormenta p = Pedido(minutos, minutos / 12);
+        p.total = 100;
+        p.cuartil = cuartil;
+        p.probabilidad = probabilidad;
+        const auto laminas = Reparte("noaa14", p);
+        return std::accumulate(laminas.begin(), laminas.begin() + static_cast<std::ptrdiff_t>(12 * parte),
+                               0.0);
+    };
+    EXPECT_NEAR(hasta(360, 1, 10, 0.25), 84.4, 1e-9);
+    EXPECT_NEAR(hasta(360, 1, 50, 0.25), 53.9, 1e-9);
+    EXPECT_NEAR(hasta(360, 1, 90, 0.25), 32.8, 1e-9);
+    EXPECT_NEAR(hasta(360, 4, 50, 0.75), 58.7, 1e-9);
+    EXPECT_NEAR(hasta(720, 2, 50, 0.5), 68.9, 1e-9);
+    EXPECT_NEAR(hasta(720, 3, 20, 0.75), 92.0, 1e-9);
+    EXPECT_NEAR(hasta(1440, 3, 50, 0.5), 35.8, 1e-9);
+    EXPECT_NEAR(hasta(1440, 4, 80, 0.75), 35.8, 1e-9);
+    EXPECT_NEAR(hasta(120, 1, 50, 0.25), 53.9, 1e-9);
+    EXPECT_NEAR(hasta(540, 1, 50, 0.25), 53.9, 1e-9);
+    EXPECT_NEAR(hasta(600, 1, 50, 0.25), 59.6, 1e-9);
+    EXPECT_NEAR(hasta(2880, 1, 50, 0.25), 60.9, 1e-9);
+}
+
 TEST(Patrones, LosPeriodosPropiosSeReparten)
 {
     PedidoDeTormenta p = Pedido(80, 10);
@@ -194,13 +221,13 @@ TEST(Patrones, CadaUnoSeNombraYDiceDeDondeSale)
              {patron->nombre, patron->formula, patron->fuente, patron->limites})
             EXPECT_FALSE(texto.empty()) << patron->clave;
     }
-    EXPECT_EQ(claves.size(), 10U);
+    EXPECT_EQ(claves.size(), 11U);
     EXPECT_EQ(frequency::PatronDeClave("otra"), nullptr);
 }
 
 TEST(Patrones, LoQueNoPuedeSerSeDice)
 {
-    const auto error = [](std::string_view clave, void (*cambia)(PedidoDeTormenta&)) {
+    const auto error = [](std::string_view clave, const std::function<void(PedidoDeTormenta&)>& cambia) {
         PedidoDeTormenta p = Pedido(120, 10);
         cambia(p);
         const frequency::Reparto r = frequency::Reparte(*frequency::PatronDeClave(clave), p);
@@ -220,6 +247,10 @@ TEST(Patrones, LoQueNoPuedeSerSeDice)
     EXPECT_EQ(error("huff", [](auto& p) { p.total = 0; }), "La lámina debe ser mayor que 0.");
     EXPECT_EQ(error("huff", [](auto& p) { p.total = NoEsNumero; }), "La lámina debe ser mayor que 0.");
     EXPECT_EQ(error("huff", [](auto& p) { p.cuartil = 5; }), "El cuartil debe ser 1, 2, 3 o 4.");
+    EXPECT_EQ(error("noaa14", [](auto& p) { p.cuartil = 0; }), "El cuartil debe ser 1, 2, 3 o 4.");
+    for (const int probabilidad : {0, 15, 100})
+        EXPECT_EQ(error("noaa14", [&](auto& p) { p.probabilidad = probabilidad; }),
+                  "La probabilidad debe ser 10, 20, 30, 40, 50, 60, 70, 80 o 90 %.");
     EXPECT_EQ(error("bloques", [](auto& p) { p.lamina = {}; }),
               "Este patrón se hace de curvas de intensidad y no las hay.");
     EXPECT_EQ(error("chicago", [](auto& p) { p.avance = 1; }), "El avance debe estar entre 0 y 1.");

@@ -113,6 +113,25 @@ constexpr auto Filas = std::to_array<FilaDeCaso>({
                          14.958384250767423, 6.632486272896198, 3.337425802241754, 2.2079234407309767,
                          1.6499403019152248, 1.3202282210111358, 1.1032768465237117, 0.9498884257518626});
      }},
+    {"NOAA Atlas 14, cuartiles y probabilidades de 6 h",
+     "Bonnin y otros (2006), NOAA Atlas 14, volumen 2, versión 2.1, apéndice A.1, tabla de 6 h",
+     "a un cuarto, medio y tres cuartos de la duración: cuartil 1 con 10 y 50 %, cuartil 3 con 50 y 90 %",
+     "parte de la lluvia [%]", "ordenada", 0.05, "media unidad de la última cifra", false,
+     [] {
+         Comparacion c;
+         for (const auto& [cuartil, probabilidad] : {std::pair(1, 10), {1, 50}, {3, 50}, {3, 90}}) {
+             const std::vector<double> hasta = Acumulada(Noaa14, {.total = 100,
+                                                                  .duracion = 360,
+                                                                  .paso = 90,
+                                                                  .cuartil = cuartil,
+                                                                  .probabilidad = probabilidad});
+             c.nuestro.insert(c.nuestro.end(), hasta.begin() + 1, hasta.end() - 1);
+         }
+         c.impreso = {84.4, 99.7, 100, 53.9, 84.0, 95.4, 14.7, 39.4, 79.9, 4.7, 20.4, 66.6};
+         for (std::size_t i = 1; i <= c.impreso.size(); ++i)
+             c.x.push_back(static_cast<double>(i));
+         return c;
+     }},
     {"SCS tipo I", Chow, "22 ordenadas", Parte, Hora, 0.0065, "el libro da otra tabulación del mismo tipo",
      false,
      [] {

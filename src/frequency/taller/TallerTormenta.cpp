@@ -149,13 +149,14 @@ TallerTormenta NuevaTallerTormenta()
     for (const std::int16_t r : model::Recurrencias)
         m.recurrencias.push_back(std::to_string(r));
     m.cuartiles = {"1", "2", "3", "4"};
+    m.probabilidades = {"10 %", "20 %", "30 %", "40 %", "50 %", "60 %", "70 %", "80 %", "90 %"};
     m.tablas = {"1", "2", "3"};
     return m;
 }
 
-Hechura HechuraEnMano(const TallerTormenta& m)
+const Patron& PatronEnMano(const TallerTormenta& m)
 {
-    return Patrones()[static_cast<std::size_t>(m.patron)]->hechura;
+    return *Patrones()[static_cast<std::size_t>(m.patron)];
 }
 
 void Toma(TallerTormenta& m, const dlgTaller& f, const model::Siro& s)
@@ -169,6 +170,7 @@ void Toma(TallerTormenta& m, const dlgTaller& f, const model::Siro& s)
     m.txtLamina = t.lamina ? Numero(*t.lamina) : std::string();
     m.txtPeriodos = t.periodos;
     m.cuartil = t.cuartil - 1;
+    m.probabilidad = t.probabilidad / 10 - 1;
     m.tabla = t.tabla - 1;
     m.distribucion = t.distribucion - 1;
     PonListas(m, s);
@@ -192,6 +194,12 @@ void cmbPatron_Click(dlgTaller& f, int cual)
 void cmbCuartil_Click(dlgTaller& f, int cual)
 {
     CambiaTormenta(f, "Cuartil de la tormenta", [&](TormentaDeDiseno& t) { t.cuartil = cual + 1; });
+}
+
+void cmbProbabilidad_Click(dlgTaller& f, int cual)
+{
+    CambiaTormenta(f, "Probabilidad de la tormenta",
+                   [&](TormentaDeDiseno& t) { t.probabilidad = (cual + 1) * 10; });
 }
 
 void cmbArchivo_Click(const TallerTormenta& m, dlgTaller& f, int cual)

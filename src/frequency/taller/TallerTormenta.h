@@ -29,6 +29,7 @@ inline constexpr auto RotulosTallerTormenta = std::to_array<forms::FilaRotulo>({
     {"txtLamina", "&Lámina:", "Vacía: la de las curvas del paso 4"},
     {"txtAvance", "A&vance r:", "Momento del pico, como parte de la duración"},
     {"cmbCuartil", "C&uartil:", "En el que cae lo más de la lluvia"},
+    {"cmbProbabilidad", "Pro&babilidad:", "De que a cada momento haya caído más"},
     {"txtPeriodos", "Per&íodos:", "Lluvia de cada uno, en cualquier unidad, con espacios entre ellos"},
     {"cmbArchivo", "Re&gistrada:", "Tormenta real del proyecto, de la que sale el patrón o que se escala"},
     {"MarcoModelo", "Al modelo"},
@@ -47,8 +48,8 @@ inline constexpr auto RotulosTallerTormenta = std::to_array<forms::FilaRotulo>({
 });
 
 struct TallerTormenta {
-    std::vector<std::string> patrones{}, recurrencias{}, cuartiles{}, archivos{}, tablas{};
-    int patron = 0, cuartil = 0, archivo = -1, tabla = 0, distribucion = 0;
+    std::vector<std::string> patrones{}, recurrencias{}, cuartiles{}, probabilidades{}, archivos{}, tablas{};
+    int patron = 0, cuartil = 0, probabilidad = 0, archivo = -1, tabla = 0, distribucion = 0;
     std::string txtDuracion{}, txtPaso{}, txtRecurrencia{}, txtLamina{}, txtAvance{}, txtPeriodos{};
     bool chkConfigura = false;
     std::string lblPatron{}, lblAvisos{}, cmdDeshacerEscritura{};
@@ -66,11 +67,12 @@ TallerTormenta NuevaTallerTormenta();
 void Toma(TallerTormenta& m, const dlgTaller& f, const model::Siro& s);
 
 /// What the pattern in hand is made of.
-Hechura HechuraEnMano(const TallerTormenta& m);
+const Patron& PatronEnMano(const TallerTormenta& m);
 
 // --- choices; each is a step of undo ---
 void cmbPatron_Click(dlgTaller& f, int cual);
 void cmbCuartil_Click(dlgTaller& f, int cual);
+void cmbProbabilidad_Click(dlgTaller& f, int cual);
 void cmbArchivo_Click(const TallerTormenta& m, dlgTaller& f, int cual);
 void cmbTabla_Click(dlgTaller& f, int cual);
 void cmbDistribucion_Click(dlgTaller& f, int cual);

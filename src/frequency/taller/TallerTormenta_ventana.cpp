@@ -54,11 +54,11 @@ QLineEdit* TallerTormenta_ventana::CampoDeNumero(std::string_view control, std::
     return Campo(control, texto, [this, control] { return txtNumero_AlSalir(m, f, entorno.s, control); });
 }
 
-void TallerTormenta_ventana::SoloCon(const forms::Partes& renglon, Hechura hechura)
+void TallerTormenta_ventana::SoloCon(const forms::Partes& renglon, bool (*vale)(const Patron&))
 {
     for (const forms::Parte& parte : renglon)
         if (parte.control != nullptr)
-            VisibleSi(parte.control, [this, hechura] { return HechuraEnMano(m) == hechura; });
+            VisibleSi(parte.control, [this, vale] { return vale(PatronEnMano(m)); });
 }
 
 QLayout* TallerTormenta_ventana::DeLaTormenta()
@@ -70,6 +70,8 @@ QLayout* TallerTormenta_ventana::DeLaTormenta()
     });
     auto* const cuartil =
         Desplegable("cmbCuartil", m.cuartiles, m.cuartil, [this](int i) { cmbCuartil_Click(f, i); });
+    auto* const probabilidad = Desplegable("cmbProbabilidad", m.probabilidades, m.probabilidad,
+                                           [this](int i) { cmbProbabilidad_Click(f, i); });
     auto* const archivo =
         Desplegable("cmbArchivo", m.archivos, m.archivo, [this](int i) { cmbArchivo_Click(m, f, i); });
     for (QComboBox* const combo : {patron, archivo})
@@ -77,16 +79,19 @@ QLayout* TallerTormenta_ventana::DeLaTormenta()
     auto* const periodos =
         Campo("txtPeriodos", m.txtPeriodos, [this] { return txtPeriodos_AlSalir(m, f, entorno.s); });
     const forms::Partes avance = Renglon("txtAvance", CampoDeNumero("txtAvance", m.txtAvance)),
-                        cuartiles = Renglon("cmbCuartil", cuartil), propia = Renglon("txtPeriodos", periodos);
-    SoloCon(avance, Hechura::CurvasYAvance);
-    SoloCon(cuartiles, Hechura::Cuartil);
+                        cuartiles = Renglon("cmbCuartil", cuartil),
+                        probabilidades = Renglon("cmbProbabilidad", probabilidad),
+                        propia = Renglon("txtPeriodos", periodos);
+    SoloCon(avance, [](const Patron& p) { return p.hechura == Hechura::CurvasYAvance; });
+    SoloCon(cuartiles, TieneCuartiles);
+    SoloCon(probabilidades, [](const Patron& p) { return p.hechura == Hechura::CuartilYProbabilidad; });
     for (const forms::Parte& parte : propia)
         if (parte.control != nullptr) VisibleSi(parte.control, [this] { return m.diseno.patron == &Propia; });
     auto* const dicho = Texto("lblPatron", m.lblPatron);
     dicho->setWordWrap(true);
     dicho->setTextInteractionFlags(Qt::TextSelectableByMouse);
     return EnPila({EnRejilla({Renglon("cmbPatron", patron)}, {0, 1}), dicho,
-                   EnRejilla({avance, cuartiles, propia,
+                   EnRejilla({avance, cuartiles, probabilidades, propia,
                               Renglon("txtDuracion", CampoDeNumero("txtDuracion", m.txtDuracion), "min"),
                               Renglon("txtPaso", CampoDeNumero("txtPaso", m.txtPaso), "min"),
                               Renglon("txtRecurrencia", recurrencia, "años"),

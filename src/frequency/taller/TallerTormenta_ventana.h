@@ -29,7 +29,7 @@ class TallerTormenta_ventana : public PaginaDeTaller {
     QWidget* Derecha();
     QLineEdit* CampoDeNumero(std::string_view control, std::string& texto);
     /// A row of the storm's that shows with some patterns only.
-    void SoloCon(const forms::Partes& renglon, Hechura hechura);
+    void SoloCon(const forms::Partes& renglon, bool (*vale)(const Patron&));
     QPushButton* Escribe(std::string_view control, void (*rutina)(TallerTormenta&, dlgTaller&, model::Siro&));
 
     TallerTormenta m = NuevaTallerTormenta();

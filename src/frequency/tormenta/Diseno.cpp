@@ -40,7 +40,8 @@ double LaminaDe(const study::TormentaDeDiseno& t, const FuentesDeTormenta& fuent
 std::string OrigenDe(const Diseno& d, const study::TormentaDeDiseno& t, const FuentesDeTormenta& fuentes)
 {
     std::string origen = std::string(d.patron->nombre);
-    if (d.patron->hechura == Hechura::Cuartil) origen += " " + Texto(t.cuartil);
+    if (TieneCuartiles(*d.patron)) origen += " " + Texto(t.cuartil);
+    if (d.patron->hechura == Hechura::CuartilYProbabilidad) origen += ", " + Texto(t.probabilidad) + " %";
     if (d.patron->hechura == Hechura::CurvasYAvance) origen += ", avance " + Texto(t.avance);
     if (d.patron == &Registrada) origen += ", " + t.archivo;
     origen +=
@@ -64,7 +65,11 @@ Diseno Disena(const study::TormentaDeDiseno& t, const FuentesDeTormenta& fuentes
         d.error = "No hay un patrón \"" + t.patron + "\".";
         return d;
     }
-    PedidoDeTormenta pedido{.duracion = t.duracion, .paso = t.paso, .avance = t.avance, .cuartil = t.cuartil};
+    PedidoDeTormenta pedido{.duracion = t.duracion,
+                            .paso = t.paso,
+                            .avance = t.avance,
+                            .cuartil = t.cuartil,
+                            .probabilidad = t.probabilidad};
     if (fuentes.curvas) pedido.lamina = [&](double m) { return fuentes.curvas(m, t.recurrencia); };
     pedido.total = d.lamina = LaminaDe(t, fuentes, d.error);
     pedido.periodos = d.patron == &Propia ? PeriodosDe(t.periodos, d.error) : fuentes.grabada;

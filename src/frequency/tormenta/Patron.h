@@ -22,12 +22,13 @@ struct PedidoDeTormenta {
     double duracion = 0;             ///< [min], whole, 1..14400
     double paso = 0;                 ///< [min], whole; the duration is a multiple of it
     double avance = 0.375;           ///< time of the peak as a part of the duration, between 0 and 1
-    int cuartil = 1;                 ///< Huff's, 1..4
+    int cuartil = 1;                 ///< quarter of the duration that most of the rain falls in, 1..4
+    int probabilidad = 50;           ///< that a storm has more by then, 10, 20, ... 90 [%]
     std::vector<double> periodos{};  ///< rain of the periods of a storm at hand, in any unit
 };
 
 /// What a pattern is made of besides depth, duration and step.
-enum class Hechura { Curvas, CurvasYAvance, Tabla, Cuartil, Periodos };
+enum class Hechura { Curvas, CurvasYAvance, Tabla, Cuartil, CuartilYProbabilidad, Periodos };
 
 struct Patron {
     std::string_view clave;  ///< as the command line and the study name it
@@ -36,13 +37,14 @@ struct Patron {
     std::string_view fuente;
     std::string_view limites;  ///< where it shouldn't be used
     Hechura hechura = Hechura::Curvas;
-    double propia = 0;     ///< duration that it was drawn for [min]; 0: any
-    double pasoMenor = 0;  ///< its table has no finer step [min]; 0: none
+    double propia = 0;            ///< duration that it was drawn for [min]; 0: any
+    double desde = 0, hasta = 0;  ///< durations that it was drawn for [min], where it is more than one
+    double pasoMenor = 0;         ///< its table has no finer step [min]; 0: none
     /// Rain of n steps in any unit, none below 0.
     std::vector<double> (*pesos)(const PedidoDeTormenta& pedido, std::size_t n);
 };
 
-extern const Patron BloquesAlternos, Chicago, Equilibrada, ScsI, ScsIA, ScsII, ScsIII, Huff, Propia,
+extern const Patron BloquesAlternos, Chicago, Equilibrada, ScsI, ScsIA, ScsII, ScsIII, Huff, Noaa14, Propia,
     Registrada;
 
 /// All of them, in the order of the lists.
@@ -50,6 +52,9 @@ std::span<const Patron* const> Patrones();
 
 /// The pattern of a key; none: null.
 const Patron* PatronDeClave(std::string_view clave);
+
+/// Whether it has a pattern for each quarter.
+bool TieneCuartiles(const Patron& patron);
 
 /// Whether it needs `PedidoDeTormenta::lamina`.
 bool UsaCurvas(const Patron& patron);

@@ -11,8 +11,9 @@
 namespace frequency {
 namespace {
 
-constexpr std::array<const Patron*, 10> Todos{&BloquesAlternos, &Chicago, &Equilibrada, &ScsI,   &ScsIA,
-                                              &ScsII,           &ScsIII,  &Huff,        &Propia, &Registrada};
+constexpr std::array<const Patron*, 11> Todos{&BloquesAlternos, &Chicago, &Equilibrada, &ScsI,
+                                              &ScsIA,           &ScsII,   &ScsIII,      &Huff,
+                                              &Noaa14,          &Propia,  &Registrada};
 
 bool EsEntero(double x)
 {
@@ -37,8 +38,10 @@ std::string ErrorDe(const Patron& patron, const PedidoDeTormenta& p)
     if (UsaCurvas(patron) && !p.lamina) return "Este patrón se hace de curvas de intensidad y no las hay.";
     if (patron.hechura == Hechura::CurvasYAvance && !(p.avance > 0 && p.avance < 1))
         return "El avance debe estar entre 0 y 1.";
-    if (patron.hechura == Hechura::Cuartil && (p.cuartil < 1 || p.cuartil > 4))
-        return "El cuartil debe ser 1, 2, 3 o 4.";
+    if (TieneCuartiles(patron) && (p.cuartil < 1 || p.cuartil > 4)) return "El cuartil debe ser 1, 2, 3 o 4.";
+    if (patron.hechura == Hechura::CuartilYProbabilidad &&
+        (p.probabilidad < 10 || p.probabilidad > 90 || p.probabilidad % 10 != 0))
+        return "La probabilidad debe ser 10, 20, 30, 40, 50, 60, 70, 80 o 90 %.";
     if (patron.hechura != Hechura::Periodos) return {};
     if (p.periodos.empty()) return "La tormenta de la que sale el patrón no tiene períodos.";
     if (std::any_of(p.periodos.begin(), p.periodos.end(), [](double x) { return !(x >= 0); }))
@@ -51,6 +54,10 @@ std::vector<std::string> AvisosDe(const Patron& patron, const PedidoDeTormenta& 
     std::vector<std::string> avisos;
     if (patron.propia > 0 && p.duracion != patron.propia)
         avisos.push_back("El patrón es de " + model::NumeroATexto(patron.propia) + " min y se llevó a " +
+                         model::NumeroATexto(p.duracion) + " min: su fuente no respalda ese uso.");
+    if (patron.hasta > 0 && (p.duracion < patron.desde || p.duracion > patron.hasta))
+        avisos.push_back("El patrón es de " + model::NumeroATexto(patron.desde) + " a " +
+                         model::NumeroATexto(patron.hasta) + " min y se llevó a " +
                          model::NumeroATexto(p.duracion) + " min: su fuente no respalda ese uso.");
     if (p.paso * patron.propia < patron.pasoMenor * p.duracion)
         avisos.push_back(
@@ -86,6 +93,11 @@ const Patron* PatronDeClave(std::string_view clave)
     const auto* const i =
         std::find_if(Todos.begin(), Todos.end(), [&](const Patron* p) { return p->clave == clave; });
     return i == Todos.end() ? nullptr : *i;
+}
+
+bool TieneCuartiles(const Patron& patron)
+{
+    return patron.hechura == Hechura::Cuartil || patron.hechura == Hechura::CuartilYProbabilidad;
 }
 
 bool UsaCurvas(const Patron& patron)

@@ -82,7 +82,7 @@ TEST_F(TallerDeTormenta, MuestraElPatronYLoQueElMotorCorre)
 TEST_F(TallerDeTormenta, CadaEleccionEsUnPasoQueSeDeshace)
 {
     PonPatron("chicago");
-    EXPECT_EQ(HechuraEnMano(m), Hechura::CurvasYAvance);
+    EXPECT_EQ(PatronEnMano(m).hechura, Hechura::CurvasYAvance);
     Pon("txtAvance", &TallerTormenta::txtAvance, "0,5");
     EXPECT_EQ(Tormenta().avance, 0.5);
     Pon("txtRecurrencia", &TallerTormenta::txtRecurrencia, "100");
