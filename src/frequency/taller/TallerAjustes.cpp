@@ -239,7 +239,7 @@ void Empieza(TallerAjustes& m, const dlgTaller& f)
     if (s == nullptr) return;
     m.pedido = PedidoDe(m, *s, TallerDe(f));
     m.estado = Estado::Ajustando;
-    m.hechas = m.total = 0;
+    m.avance = {};
     m.lblElegida = ElegidaEnPalabras(m, s);
     m.lblEstado = m.analisis ? "Recalculando: lo que se ve es de antes." : "Ajustando las leyes...";
 }
@@ -249,19 +249,6 @@ void TomaAjustes(TallerAjustes& m, const dlgTaller& f, Analisis analisis)
     Pon(m, f, std::move(analisis));
     m.estado = Estado::Remuestreando;
     m.lblEstado = "Faltan bandas y p.";
-}
-
-void Avanza(TallerAjustes& m, std::size_t hechas, std::size_t total, double segundos)
-{
-    m.hechas = hechas;
-    m.total = total;
-    constexpr double ParaDecirlo = 0.5;  // [s]
-    constexpr std::size_t Todo = 100;
-    m.barAvance = std::to_string(hechas * Todo / std::max<std::size_t>(1, total)) + " %";
-    if (m.estado != Estado::Remuestreando || hechas == 0 || segundos < ParaDecirlo) return;
-    const double quedan =
-        segundos * static_cast<double>(total - std::min(hechas, total)) / static_cast<double>(hechas);
-    m.barAvance += ", quedan " + Numero(std::ceil(quedan), 0) + " s";
 }
 
 void TomaCompleto(TallerAjustes& m, const dlgTaller& f, Analisis analisis)

@@ -14,6 +14,7 @@
 #include "frequency/Analisis.h"
 #include "frequency/taller/dlgTaller.h"
 #include "model/SiroDeclarado.h"
+#include "study/Avance.h"
 
 // Rules of the third step: the laws fitted to the series in hand, how far each can be trusted, the one that
 // the user takes.
@@ -69,8 +70,8 @@ struct TallerAjustes {
     std::optional<Analisis> analisis{};
     std::string temaDelAnalisis{};
     Estado estado = Estado::Nada;
-    std::size_t hechas = 0, total = 0;  ///< samples, of all laws
-    std::string lblEstado{}, barAvance{};
+    study::EstadoDeAvance avance{};  ///< of samples, of all laws
+    std::string lblEstado{};
 
     int metodo = static_cast<int>(Metodo::MomentosL);
     std::string txtSemilla{}, txtMuestras{}, txtMotivo{};
@@ -94,7 +95,6 @@ bool Toma(TallerAjustes& m, const dlgTaller& f);
 void Empieza(TallerAjustes& m, const dlgTaller& f);
 /// The fits are there, bands still to come where any were asked for.
 void TomaAjustes(TallerAjustes& m, const dlgTaller& f, Analisis analisis);
-void Avanza(TallerAjustes& m, std::size_t hechas, std::size_t total, double segundos);
 void TomaCompleto(TallerAjustes& m, const dlgTaller& f, Analisis analisis);
 /// Given up, by the user or because another one begins: the fits stay without bands.
 void Cancela(TallerAjustes& m);

@@ -2,10 +2,8 @@
 #include "frequency/taller/TallerAjustes_ventana.h"
 
 #include <QMenu>
-#include <QProgressBar>
 #include <QSplitter>
 #include <QTabWidget>
-#include <chrono>
 #include <optional>
 #include <utility>
 
@@ -15,8 +13,6 @@
 namespace frequency {
 
 namespace {
-
-constexpr std::chrono::milliseconds EntreMiradas{30};
 
 /// The fits first, then all of it with the bootstrap.
 study::Tarea<Analisis>::Trabajo Trabajo(Serie serie, PedidoDeAjustes pedido)
@@ -43,11 +39,7 @@ TallerAjustes_ventana::TallerAjustes_ventana(forms::Entorno& alrededor, dlgTalle
     auto* const todo = EnPila({Pedido(), {LadoALado(Tablas(), Derecha(), 9, 10), 1}, Eleccion()});
     todo->setContentsMargins(0, 0, 0, 0);
     setLayout(todo);
-    latido.setInterval(EntreMiradas);
-    connect(&latido, &QTimer::timeout, this, [this] { Mira(); });
 }
-
-TallerAjustes_ventana::~TallerAjustes_ventana() = default;
 
 QLayout* TallerAjustes_ventana::Pedido()
 {
@@ -74,26 +66,16 @@ QLayout* TallerAjustes_ventana::Pedido()
                    muestras,
                    Rotulo("cmbEnMano", ley),
                    ley,
-                   {Avance(), 1}});
+                   {ConAvance(), 1}});
 }
 
-/// It keeps its place while nothing is under way, so that nothing jumps from under the pointer.
-QLayout* TallerAjustes_ventana::Avance()
+QLayout* TallerAjustes_ventana::ConAvance()
 {
-    auto* const avance = ConservaLugar(Nombra(new QProgressBar, "barAvance"));
-    AlMostrar([this, avance] {
-        avance->setVisible(corrida != nullptr);
-        avance->setRange(0, static_cast<int>(m.total));
-        avance->setValue(static_cast<int>(m.hechas));
-        avance->setFormat(forms::Q(m.barAvance));
-    });
-    constexpr int Letras = 20;
-    avance->setMinimumWidth(Letras * fontMetrics().averageCharWidth());
-    return EnFila(
-        {{avance, 1},
-         VisibleSi(Boton("CancelButton", [this] { Deja(); }), [this] { return corrida != nullptr; }),
-         VisibleSi(Boton("cmdCalcular", [this] { Calcula(); }),
-                   [this] { return m.estado == Estado::SinBandas; })});
+    forms::Partes partes = Avance(
+        m.avance, [this] { return corrida.EnCurso(); }, [this] { Deja(); });
+    partes.emplace_back(VisibleSi(Boton("cmdCalcular", [this] { Calcula(); }),
+                                  [this] { return m.estado == Estado::SinBandas; }));
+    return EnFila(partes);
 }
 
 forms::TablaCuadro* TallerAjustes_ventana::TablaDe(forms::Cuadro& cuadro, std::string_view control,
@@ -199,7 +181,7 @@ void TallerAjustes_ventana::Toma()
 
 void TallerAjustes_ventana::Muestra()
 {
-    if (m.estado == Estado::Nada && corrida == nullptr && Falta().empty()) Toma();
+    if (m.estado == Estado::Nada && !corrida.EnCurso() && Falta().empty()) Toma();
     PaginaDeTaller::Muestra();
     grafico->Muestra(m.Grafico);
     grafico->PonTema(m.temaDelAnalisis, m.temaDelAnalisis);
@@ -209,43 +191,29 @@ void TallerAjustes_ventana::Calcula()
 {
     const study::SerieDeMaximos* const s = SerieEnMano(f);
     if (s == nullptr) return;
-    if (corrida != nullptr) Deja();
+    Deja();
     Empieza(m, f);
-    corrida = std::make_unique<study::Tarea<Analisis>>(Trabajo(Revisada(*s), m.pedido));
-    latido.start();
+    corrida.Empieza(Trabajo(Revisada(*s), m.pedido));
 }
 
-void TallerAjustes_ventana::Mira()
+void TallerAjustes_ventana::Mira(study::Vigilada<Analisis>::Mirada& mirada)
 {
-    if (corrida == nullptr) return latido.stop();
-    const bool terminada = corrida->Terminada();
-    std::optional<Analisis> nuevo = corrida->Saca();
-    Avanza(m, corrida->Hechas(), corrida->Total(), corrida->Segundos());
-    if (nuevo && nuevo->pedido.cuantas == m.pedido.muestras)
-        TomaCompleto(m, f, *std::move(nuevo));
-    else if (nuevo)
-        TomaAjustes(m, f, *std::move(nuevo));
-    if (terminada) {
-        latido.stop();
-        corrida.reset();
-    }
+    m.avance = mirada.avance;
+    if (mirada.nuevo && mirada.nuevo->pedido.cuantas == m.pedido.muestras)
+        TomaCompleto(m, f, *std::move(mirada.nuevo));
+    else if (mirada.nuevo)
+        TomaAjustes(m, f, *std::move(mirada.nuevo));
     Muestra();
 }
 
-/// The window is free at once; the thread goes on to the end of its sample, of which nothing is seen.
 void TallerAjustes_ventana::Deja()
 {
-    std::erase_if(dejadas, [](const auto& una) { return una->Terminada(); });
-    if (corrida == nullptr) return;
-    corrida->Cancela();
-    dejadas.push_back(std::move(corrida));
-    latido.stop();
-    Cancela(m);
+    if (corrida.Deja()) Cancela(m);
 }
 
 bool TallerAjustes_ventana::AlEscapar()
 {
-    if (corrida == nullptr) return false;
+    if (!corrida.EnCurso()) return false;
     Suceso([this] { Deja(); });
     return true;
 }

@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QTimer>
-#include <memory>
 #include <vector>
 
 #include "frequency/taller/PaginaDeTaller_ventana.h"
 #include "frequency/taller/TallerAjustes.h"
-#include "study/Tarea.h"
+#include "study/Vigilada_ventana.h"
 
 class QTabWidget;
 
@@ -22,7 +20,6 @@ namespace frequency {
 class TallerAjustes_ventana : public PaginaDeTaller {
   public:
     TallerAjustes_ventana(forms::Entorno& alrededor, dlgTaller& taller);
-    ~TallerAjustes_ventana() override;
 
     [[nodiscard]] std::string Falta() const override { return FaltanMaximos(f); }
     [[nodiscard]] forms::Planilla ParaImprimir() const override;
@@ -36,23 +33,20 @@ class TallerAjustes_ventana : public PaginaDeTaller {
 
   private:
     QLayout* Pedido();
-    QLayout* Avance();
+    QLayout* ConAvance();
     QWidget* Tablas();
     QPushButton* ClaveDeLeyes();
     QWidget* Derecha();
     QLayout* Eleccion();
     forms::TablaCuadro* TablaDe(forms::Cuadro& cuadro, std::string_view control, std::vector<int> letras);
     void Calcula();
-    void Mira();
+    void Mira(study::Vigilada<Analisis>::Mirada& mirada);
     void Deja();
 
     TallerAjustes m = NuevaTallerAjustes();
     QTabWidget* fichas = nullptr;
     forms::Lamina* grafico = nullptr;
-    QTimer latido{};
-    std::unique_ptr<study::Tarea<Analisis>> corrida;
-    std::vector<std::unique_ptr<study::Tarea<Analisis>>>
-        dejadas{};  ///< cancelled, and still at their last sample
+    study::Vigilada<Analisis> corrida{[this](auto& mirada) { Mira(mirada); }};
 };
 
 }  // namespace frequency

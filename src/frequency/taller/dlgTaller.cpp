@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frequency/taller/dlgTaller.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <utility>
 
@@ -9,33 +8,19 @@
 #include "model/Numeros.h"
 
 namespace frequency {
-namespace {
 
-/// Item i of a list; none: null.
-template <typename T>
-const T* Item(const std::vector<T>& lista, int i)
-{
-    return i >= 0 && std::cmp_less(i, lista.size()) ? &lista[static_cast<std::size_t>(i)] : nullptr;
-}
-
-/// The same, made where there isn't one.
-template <typename T>
-T& ItemPuesto(std::vector<T>& lista, int i)
-{
-    if (lista.empty()) lista.emplace_back();
-    return lista[std::min(static_cast<std::size_t>(std::max(i, 0)), lista.size() - 1)];
-}
-
-int Dentro(int i, std::size_t cuantos)
-{
-    return std::clamp(i, 0, std::max(0, static_cast<int>(cuantos) - 1));
-}
-
-}  // namespace
+using study::Dentro;
+using study::Item;
+using study::ItemPuesto;
 
 const study::Taller& TallerDe(const dlgTaller& f)
 {
     return f.estudio.EnMano().taller;
+}
+
+EnManoDeTaller EnManoDe(const dlgTaller& f)
+{
+    return {TallerDe(f), f.estacion, f.serie};
 }
 
 const study::Estacion* EstacionEnMano(const dlgTaller& f)
@@ -61,53 +46,21 @@ study::SerieDeMaximos& SerieDe(const dlgTaller& f, study::Taller& t)
 
 void Cambia(dlgTaller& f, std::string_view leyenda, const std::function<void(study::Taller&)>& cambio)
 {
-    if (!FaltaProyecto(f).empty()) return;
-    study::Taller nuevo = TallerDe(f);
-    cambio(nuevo);
-    f.estudio.CambiaTaller(std::string(leyenda), std::move(nuevo));
-    Toma(f);
+    study::CambiaEstudio(f, leyenda, [&cambio](study::Estudio& e) { cambio(e.taller); });
 }
 
-void cmdDeshacer(dlgTaller& f)
+void dlgTaller::TomaEnMano()
 {
-    f.estudio.Deshace();
-    Toma(f);
-}
-
-void cmdRehacer(dlgTaller& f)
-{
-    f.estudio.Rehace();
-    Toma(f);
-}
-
-void cmdArchivo(dlgTaller& f)
-{
-    if (f.danado)
-        f.estudio.ApartaDanado();
-    else
-        f.estudio.Reintenta();
-    Toma(f);
-}
-
-void Toma(dlgTaller& f)
-{
-    const std::vector<study::Estacion>& estaciones = TallerDe(f).estaciones;
-    f.estacion = Dentro(f.estacion, estaciones.size());
-    f.estaciones.clear();
-    for (const study::Estacion& e : estaciones)
-        f.estaciones.push_back(NombreDe(e, f.estaciones.size() + 1));
-    f.series.clear();
-    if (const study::Estacion* const e = EstacionEnMano(f))
+    const std::vector<study::Estacion>& todas = TallerDe(*this).estaciones;
+    estacion = Dentro(estacion, todas.size());
+    estaciones.clear();
+    for (const study::Estacion& e : todas)
+        estaciones.push_back(NombreDe(e, estaciones.size() + 1));
+    series.clear();
+    if (const study::Estacion* const e = EstacionEnMano(*this))
         for (const study::SerieDeMaximos& s : e->series)
-            f.series.push_back(NombreDe(s));
-    f.serie = Dentro(f.serie, f.series.size());
-    const auto leyenda = [](std::string_view orden, const std::string& que) {
-        return que.empty() ? std::string(orden) : std::string(orden) + ": " + que;
-    };
-    f.cmdDeshacer = leyenda("Deshacer", f.estudio.PorDeshacer());
-    f.cmdRehacer = leyenda("Rehacer", f.estudio.PorRehacer());
-    f.lblArchivo = f.estudio.Archivo().texto;
-    f.danado = f.estudio.Archivo().clase == study::EstadoDeArchivo::Clase::Danado;
+            series.push_back(NombreDe(s));
+    serie = Dentro(serie, series.size());
 }
 
 void cmbEstacion_Click(dlgTaller& f, int cual)
@@ -121,19 +74,6 @@ void cmbSerie_Click(dlgTaller& f, int cual)
 {
     f.serie = cual;
     Toma(f);
-}
-
-void OKButton(dlgTaller& f)
-{
-    f.abierta = false;
-}
-
-std::string FaltaProyecto(const dlgTaller& f)
-{
-    if (f.estudio.Archivo().clase != study::EstadoDeArchivo::Clase::SinProyecto) return {};
-    return "No hay un proyecto abierto. El taller guarda sus datos junto a los del proyecto: abra uno, o "
-           "cree "
-           "uno nuevo, desde el menú Archivo.";
 }
 
 std::string FaltanMaximos(const dlgTaller& f)

@@ -9,7 +9,7 @@
 
 #include "forms/Rotulo.h"
 #include "frequency/Maximos.h"
-#include "study/Abierto.h"
+#include "study/Pasos.h"
 
 // Rules of the rain workshop's window: the study that it stands on, the station and the series in hand, what
 // is said where a step can't be taken yet. Each step has a page with rules of its own.
@@ -17,32 +17,28 @@ namespace frequency {
 
 inline constexpr std::string_view TituloDlgTaller = "Taller de lluvia";
 
-inline constexpr auto RotulosDlgTaller = std::to_array<forms::FilaRotulo>({
+inline constexpr auto RotulosDlgTaller = study::ConRotulosDePasos(std::to_array<forms::FilaRotulo>({
     {"pasos", "Pasos del taller", "Los pasos, de los máximos anuales a la tormenta que se corre"},
     {"cmbEstacion", "&Estación:", "Estación en mano; sus datos están en el paso 1"},
     {"cmbSerie", "&Serie:", "Duración de los máximos en mano"},
-    {"cmdDeshacer", "Deshacer", "Vuelve atrás el último cambio (Ctrl+Z)"},
-    {"cmdRehacer", "Rehacer", "Repite el cambio deshecho (Ctrl+Y)"},
-    {"cmdArchivo", "&Reintentar", "Vuelve a guardar el estudio; uno dañado se aparta con otro nombre"},
-    {"cmdImprimirTabla", "Imprimir &tabla", "Imprime entera la tabla de este paso"},
-    {"cmdImprimirPagina", "Imprimir &página", "Imprime este paso como se ve, con su gráfico"},
-    {"OKButton", "Ce&rrar"},
-});
+}));
 
-struct dlgTaller {
-    explicit dlgTaller(study::Abierto& suEstudio) : estudio(suEstudio) {}
+struct dlgTaller : study::Pasos {
+    using study::Pasos::Pasos;
+    void TomaEnMano() override;
 
-    study::Abierto& estudio;  ///< of the project in hand
-    bool abierta = false;
-    int paso = 0;                                     ///< from 0
     int estacion = 0, serie = 0;                      ///< in hand, from 0; 0 where there is none
     std::vector<std::string> estaciones{}, series{};  ///< by name
-    std::string cmdDeshacer{}, cmdRehacer{};          ///< captions
-    std::string lblArchivo{};                         ///< what is wrong with the study's file
-    bool danado = false;                              ///< it can't be read
 };
 
 const study::Taller& TallerDe(const dlgTaller& f);
+/// What the pages are made of.
+struct EnManoDeTaller {
+    study::Taller taller{};
+    int estacion = 0, serie = 0;
+    bool operator==(const EnManoDeTaller&) const = default;
+};
+EnManoDeTaller EnManoDe(const dlgTaller& f);
 /// What is in hand; none: null.
 const study::Estacion* EstacionEnMano(const dlgTaller& f);
 const study::SerieDeMaximos* SerieEnMano(const dlgTaller& f);
@@ -53,19 +49,10 @@ study::SerieDeMaximos& SerieDe(const dlgTaller& f, study::Taller& t);
 /// A change that undoing takes back; the caption says what it was, "Quitar la estación". Nothing without a
 /// project.
 void Cambia(dlgTaller& f, std::string_view leyenda, const std::function<void(study::Taller&)>& cambio);
-void cmdDeshacer(dlgTaller& f);
-void cmdRehacer(dlgTaller& f);
-/// Tries the study's file again; puts one that can't be read aside.
-void cmdArchivo(dlgTaller& f);
 
-/// Fills lists and captions; what is in hand stays within what there is.
-void Toma(dlgTaller& f);
 void cmbEstacion_Click(dlgTaller& f, int cual);
 void cmbSerie_Click(dlgTaller& f, int cual);
-void OKButton(dlgTaller& f);
 
-/// Why no page can be shown; empty: a project is open.
-std::string FaltaProyecto(const dlgTaller& f);
 /// Why the series in hand can't be tested and fitted; empty: it can.
 std::string FaltanMaximos(const dlgTaller& f);
 

@@ -1,38 +1,29 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "frequency/taller/PaginaDeTaller_ventana.h"
+#include "study/Pagina_ventana.h"
 
 #include <QLabel>
+#include <QProgressBar>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSplitter>
+#include <algorithm>
+#include <cstddef>
 
-namespace frequency {
+namespace study {
 
-PaginaDeTaller::PaginaDeTaller(forms::Entorno& alrededor, dlgTaller& taller,
-                               std::span<const forms::FilaRotulo> filas, std::string_view nombre)
-    : Constructor(alrededor, filas), f(taller)
+Pagina::Pagina(forms::Entorno& alrededor, std::span<const forms::FilaRotulo> filas, std::string_view nombre)
+    : Constructor(alrededor, filas)
 {
     setObjectName(forms::Q(nombre));
 }
 
-void PaginaDeTaller::Muestra()
-{
-    if (tomado != TallerDe(f) || estacionTomada != f.estacion || serieTomada != f.serie) {
-        tomado = TallerDe(f);
-        estacionTomada = f.estacion;
-        serieTomada = f.serie;
-        Toma();
-    }
-    Constructor::Muestra();
-}
-
-void PaginaDeTaller::DejaChico(QWidget& grafico)
+void Pagina::DejaChico(QWidget& grafico)
 {
     constexpr int Ancho = 16, Alto = 10;  // [heights of a letter]
     grafico.setMinimumSize(Ancho * grafico.fontMetrics().height(), Alto * grafico.fontMetrics().height());
 }
 
-QSplitter* PaginaDeTaller::LadoALado(QWidget* tabla, QWidget* grafico, int parteDeTabla, int parteDeGrafico)
+QSplitter* Pagina::LadoALado(QWidget* tabla, QWidget* grafico, int parteDeTabla, int parteDeGrafico)
 {
     auto* const barra = new QSplitter(Qt::Horizontal);
     barra->setObjectName(QStringLiteral("barra"));
@@ -46,7 +37,7 @@ QSplitter* PaginaDeTaller::LadoALado(QWidget* tabla, QWidget* grafico, int parte
     return barra;
 }
 
-QWidget* PaginaDeTaller::EnColumna(const forms::Partes& partes, int letras)
+QWidget* Pagina::EnColumna(const forms::Partes& partes, int letras)
 {
     auto* const dentro = new QWidget;
     auto* const pila = EnPila(partes);
@@ -63,7 +54,7 @@ QWidget* PaginaDeTaller::EnColumna(const forms::Partes& partes, int letras)
     return lugar;
 }
 
-QWidget* PaginaDeTaller::SobreAvisos(QWidget* grafico, const std::string& avisos)
+QWidget* Pagina::SobreAvisos(QWidget* grafico, const std::string& avisos)
 {
     QLabel* const texto = Texto("lblAvisos", avisos);
     texto->setWordWrap(true);
@@ -82,4 +73,20 @@ QWidget* PaginaDeTaller::SobreAvisos(QWidget* grafico, const std::string& avisos
     return lado;
 }
 
-}  // namespace frequency
+forms::Partes Pagina::Avance(const EstadoDeAvance& avance, const std::function<bool()>& enCurso,
+                             const std::function<void()>& cancela)
+{
+    auto* const barra = ConservaLugar(Nombra(new QProgressBar, "barAvance"));
+    AlMostrar([barra, &avance, enCurso] {
+        constexpr std::size_t Partes = 1000;
+        barra->setVisible(enCurso());
+        barra->setRange(0, static_cast<int>(Partes));
+        barra->setValue(static_cast<int>(avance.hechos * Partes / std::max<std::size_t>(1, avance.total)));
+        barra->setFormat(forms::Q(avance.texto));
+    });
+    constexpr int Letras = 20;
+    barra->setMinimumWidth(Letras * fontMetrics().averageCharWidth());
+    return {{barra, 1}, VisibleSi(Boton("CancelButton", cancela), enCurso)};
+}
+
+}  // namespace study
