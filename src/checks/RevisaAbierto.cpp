@@ -95,19 +95,32 @@ void CargaEntera(Siro& s)
         model::LeeTablaDisTemPer(s);
 }
 
-std::vector<Hallazgo> RevisaAbierto(const Siro& s, const model::Colecciones* dibujo, double areaCuenca)
+bool CargaAparte(const Siro& s, const model::Colecciones* dibujo, Siro& otra,
+                 std::vector<Hallazgo>& hallazgos)
 {
-    std::vector<Hallazgo> hallazgos;
-    Siro otra = Aparte(s);
+    otra = Aparte(s);
     otra.Anfitrion = Oyente(hallazgos);
     try {
         CargaEntera(otra);
         if (dibujo != nullptr) PonDibujo(otra, *dibujo);
     } catch (const model::FinDelPrograma&) {
+        otra.Anfitrion = {};
+        return false;
+    }
+    otra.Anfitrion = {};
+    return true;
+}
+
+std::vector<Hallazgo> RevisaAbierto(const Siro& s, const model::Colecciones* dibujo, double areaCuenca)
+{
+    std::vector<Hallazgo> hallazgos;
+    Siro otra;
+    if (!CargaAparte(s, dibujo, otra, hallazgos)) {
         hallazgos.push_back({Gravedad::Error, 200, "", "La carga del proyecto no llega a su fin",
                              s.Proyecto.NombreProyecto, "Abra otro proyecto, o restaure una copia."});
         return hallazgos;
     }
+    otra.Anfitrion = Oyente(hallazgos);
     RevisaLugarDeTrabajo(otra, hallazgos);
     const auto delProyecto = Revisa(otra, areaCuenca);
     hallazgos.insert(hallazgos.end(), delProyecto.begin(), delProyecto.end());

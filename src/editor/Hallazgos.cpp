@@ -84,14 +84,20 @@ bool VaA(frmUEHs& f, Siro& s, std::string_view nombre, checks::Lugar lugar)
     return esta;
 }
 
+void Aplica(frmUEHs& f, Siro& s, const std::function<void(model::Red&)>& cambio)
+{
+    Orden(f, s, [&] {
+        cambio(s.Red);
+        Redibuja(f, s);
+    });
+}
+
 int Corrige(frmUEHs& f, Siro& s, const std::vector<checks::Hallazgo>& hallazgos)
 {
     int hechos = 0;
-    Orden(f, s, [&] {
+    Aplica(f, s, [&](model::Red& red) {
         for (const checks::Hallazgo& h : hallazgos)
-            if (h.arreglo != checks::Arreglo::OrdenaTabla && checks::Arregla(s.Red, h, s.Pasos.PasoQ))
-                ++hechos;
-        Redibuja(f, s);
+            if (h.arreglo != checks::Arreglo::OrdenaTabla && checks::Arregla(red, h, s.Pasos.PasoQ)) ++hechos;
     });
     return hechos;
 }

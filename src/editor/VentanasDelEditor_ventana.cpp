@@ -76,6 +76,11 @@ int VentanasDelEditor::Corrige(const std::vector<checks::Hallazgo>& hallazgos)
     return hechos;
 }
 
+void VentanasDelEditor::Aplica(const std::function<void(model::Red&)>& cambio)
+{
+    ventanaRed.Suceda([&] { editor::Aplica(red, entorno.s, cambio); });
+}
+
 void VentanasDelEditor::AbreEditorDeTabla(QWidget& padre)
 {
     dlgUEHsEditTabla_ventana(entorno, editorDeTabla, &padre).Abre();

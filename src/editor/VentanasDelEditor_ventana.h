@@ -39,6 +39,8 @@ class VentanasDelEditor {
     bool VaA(const checks::Hallazgo& hallazgo, bool ordenada = false);
     /// Does mends in the drawing, as one step of its history. The editor is open. Returns how many were done.
     int Corrige(const std::vector<checks::Hallazgo>& hallazgos);
+    /// Changes the network in memory, as one step of the drawing's history. The editor is open.
+    void Aplica(const std::function<void(model::Red&)>& cambio);
 
     /// The tabular editor, until it is closed; `padre` is the window that it belongs to. Runs inside an
     /// event.

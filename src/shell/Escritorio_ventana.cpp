@@ -159,8 +159,8 @@ void Escritorio::PonEstudio()
         ventanaPizarra->TrasCorrer();
     };
     mandos.TrasCorrer = trasCorrer;
-    mandos.AlSalir = [this] { ventanasEstudio->Taller().AlSalir(); };
-    mandos.TrasGuardarComo = [this] { ventanasEstudio->Taller().TrasGuardarComo(); };
+    mandos.AlSalir = [this] { ventanasEstudio->Talleres().AlSalir(); };
+    mandos.TrasGuardarComo = [this] { ventanasEstudio->Talleres().TrasGuardarComo(); };
     mandos.TrasSerie = [this] {
         ventanasEstudio->TrasSerie();
         // Filled before the series had come to its end.
@@ -196,6 +196,18 @@ void Escritorio::PonEstudio()
                 hechos = ventanasEditor->Corrige(hallazgos);
         });
         return hechos;
+    };
+    Talleres& talleres = ventanasEstudio->Talleres();
+    talleres.DibujoSinGuardar = revisar.DibujoSinGuardar;
+    talleres.Aplica = [this](const std::function<void(model::Red&, model::Tormenta&)>& cambio) {
+        bool hecho = false;
+        ConLaListaALaVista([&] {
+            if (!ventanasEditor->red.abierta) mnufrmUEHs(principal, s, mandos);
+            if (!ventanasEditor->red.abierta || entorno.Terminando()) return;
+            ventanasEditor->Aplica([&](model::Red& red) { cambio(red, s.Tormenta); });
+            hecho = true;
+        });
+        return hecho;
     };
 }
 
@@ -346,7 +358,7 @@ void Escritorio::Abre(Ventana ventana, bool espera)
         return ventanasEditor->AbreTabla();
     case Ventana::dlgEliminarProyecto:
         dlgEliminarProyecto_ventana(entorno, eliminar, ventanaPrincipal.get()).Abre();
-        return ventanasEstudio->Taller().TrasEliminar();
+        return ventanasEstudio->Talleres().TrasEliminar();
     case Ventana::frmAcerca:
         return frmAcerca_ventana(entorno, ventanaPrincipal.get()).Abre();
     case Ventana::frmConfigura:
@@ -372,6 +384,7 @@ void Escritorio::Abre(Ventana ventana, bool espera)
     case Ventana::Revisar:
     case Ventana::Verificar:
     case Ventana::Taller:
+    case Ventana::Ajuste:
         return ventanasEstudio->Abre(ventana);
     }
 }

@@ -59,6 +59,7 @@ enum class Ventana : std::uint8_t {
     Revisar,
     Verificar,
     Taller,
+    Ajuste,
     frmConfigura,
     dlgEliminarProyecto,
     frmAcerca,

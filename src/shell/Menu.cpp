@@ -127,6 +127,7 @@ constexpr auto FilasMenu = std::to_array<FilaMenu>({
     Separador("mnuEstudioBarra", "mnuEstudio"),
     {"mnuRevisar",                      "Revisar &proyecto",                               "mnuEstudio", ConProyecto<Ventana::Revisar>, false, V::Ninguna, "F12", "Todo lo que detendría una corrida o la haría dudosa"},
     {"mnuTaller",                       "&Taller de lluvia",                               "mnuEstudio", SoloAbre<Ventana::Taller>, false, V::Ninguna, "", "De los máximos anuales a la tormenta que se corre"},
+    {"mnuAjuste",                       "Taller de a&juste",                               "mnuEstudio", SoloAbre<Ventana::Ajuste>, false, V::Ninguna, "", "De las crecidas observadas a los parámetros, y cuánto se les puede creer"},
     {"mnuVerificar",                    "&Verificar",                                      "mnuEstudio", SoloAbre<Ventana::Verificar>, false, V::Ninguna, "", "Las rutinas del modelo frente a casos publicados"},
 
     {"mnuVentana",                      "&Ventana",                                        ""},
@@ -166,6 +167,7 @@ constexpr auto FilasBarra = std::to_array<FilaBarra>({
     {"Comparar",     "mnuComparar",              SoloAbre<Ventana::Comparar>},
     {"Mapa",         "mnuMapa",                  SoloAbre<Ventana::Mapa>},
     {"Taller",       "mnuTaller",                SoloAbre<Ventana::Taller>},
+    {"Ajuste",       "mnuAjuste",                SoloAbre<Ventana::Ajuste>},
 });
 // clang-format on
 

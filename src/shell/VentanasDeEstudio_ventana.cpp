@@ -12,7 +12,7 @@ namespace shell {
 VentanasDeEstudio::VentanasDeEstudio(forms::Entorno& alrededor, MDIForm1_ventana& laPrincipal)
     : entorno(alrededor),
       linea(*laPrincipal.statusBar()),
-      taller(alrededor),
+      talleres(alrededor),
       ventanaAvisos(alrededor, avisos, laPrincipal),
       ventanaRevisar(alrededor, revisar),
       ventanaVerificar(alrededor, verificar, frequency::Familias()),
@@ -77,7 +77,8 @@ void VentanasDeEstudio::Abre(Ventana ventana)
     if (ventana == Ventana::Revisar) ventanaRevisar.Abre();
     if (ventana == Ventana::Verificar) ventanaVerificar.Abre();
     if (ventana == Ventana::Mapa) mapa.Abre();
-    if (ventana == Ventana::Taller) taller.Abre();
+    if (ventana == Ventana::Taller) talleres.AbreLluvia();
+    if (ventana == Ventana::Ajuste) talleres.AbreAjuste();
 }
 
 void VentanasDeEstudio::MuestraEstado()

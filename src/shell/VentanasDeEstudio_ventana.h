@@ -22,7 +22,7 @@
 #include "shell/MDIForm1.h"
 #include "shell/MDIForm1_ventana.h"
 #include "shell/MapaDeEstudio_ventana.h"
-#include "shell/TallerDeLluvia_ventana.h"
+#include "shell/Talleres_ventana.h"
 
 namespace shell {
 
@@ -43,7 +43,7 @@ class VentanasDeEstudio {
     [[nodiscard]] const std::string& Cuando() const { return cuando; }
     JuicioDeCorrida& Juicio() { return juicio; }
     MapaDeEstudio& Mapa() { return mapa; }
-    TallerDeLluvia& Taller() { return taller; }
+    class Talleres& Talleres() { return talleres; }
     /// The list of findings; where they lead and what its button does is set from outside.
     checks::dlgAvisos_ventana& VentanaAvisos() { return ventanaAvisos; }
     /// The check before a run; what it asks of the editor is set from outside.
@@ -72,7 +72,7 @@ class VentanasDeEstudio {
     JuicioDeCorrida juicio{};
     MapaDeEstudio mapa{entorno, juicio};
     LineaDeEstado linea;
-    TallerDeLluvia taller;
+    class Talleres talleres;
     checks::dlgAvisos avisos{};
     checks::dlgRevisar revisar{};
     checks::dlgVerificar verificar{};

@@ -43,6 +43,7 @@ inline std::string_view Nombre(Ventana ventana)
                                             "Revisar",
                                             "Verificar",
                                             "Taller",
+                                            "Ajuste",
                                             "frmConfigura",
                                             "dlgEliminarProyecto",
                                             "frmAcerca"};

@@ -38,7 +38,7 @@ struct EstudioDelProyecto : EscritorioDePrueba {
     {
         escritorio.entorno.Atiende([&] { Estudio().CambiaTaller("Cambiar", Con(estacion)); });
     }
-    study::Abierto& Estudio() { return *escritorio.Estudio().Taller().Estudio(); }
+    study::Abierto& Estudio() { return *escritorio.Estudio().Talleres().Estudio(); }
 };
 
 TEST_F(EstudioDelProyecto, SinEstudioNoHayArchivoNiCaja)

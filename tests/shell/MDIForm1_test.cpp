@@ -149,6 +149,7 @@ TEST_F(MarcoDePrueba, ElMenuTieneSusEntradasEnOrden)
         {"mnuEstudioBarra", "-"},
         {"mnuRevisar", "Revisar &proyecto"},
         {"mnuTaller", "&Taller de lluvia"},
+        {"mnuAjuste", "Taller de a&juste"},
         {"mnuVerificar", "&Verificar"},
         {"mnuVentana", "&Ventana"},
         {"mnuAyuda", "A&yuda"},
@@ -217,7 +218,8 @@ TEST_F(MarcoDePrueba, LaBarraTieneSusClavesYLaPizarraEsElBotonDieciseis)
                                                  "Resumen",
                                                  "Comparar",
                                                  "Mapa",
-                                                 "Taller"};
+                                                 "Taller",
+                                                 "Ajuste"};
     std::vector<std::string_view> claves;
     for (const FilaBarra& fila : tbToolBar())
         claves.push_back(fila.clave);

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "calibration/taller/dlgAjuste_ventana.h"
+
+namespace calibration {
+
+dlgAjuste_ventana::dlgAjuste_ventana(forms::Entorno& alrededor, dlgAjuste& registro, QWidget* padre)
+    : Pasos_ventana(alrededor, registro, {"dlgAjuste", TituloDlgAjuste, RotulosDlgAjuste}, padre), f(registro)
+{
+    PonPaginas();
+    QComboBox* const evento =
+        ListaEnMano("cmbEvento", f.eventos, f.evento, [this](int i) { cmbEvento_Click(f, i); });
+    QComboBox* const observacion = ListaEnMano("cmbObservacion", f.observaciones, f.observacion,
+                                               [this](int i) { cmbObservacion_Click(f, i); });
+    Arma({Rotulo("cmbEvento", evento), evento, Rotulo("cmbObservacion", observacion), observacion});
+}
+
+void dlgAjuste_ventana::PonPaginas()
+{
+    // 1 Eventos, 2 Parámetros, 3 Sensibilidad, 4 Calibración, 5 Incertidumbre
+}
+
+void dlgAjuste_ventana::Abre()
+{
+    OlvidaProyecto(f);
+    Pasos_ventana::Abre();
+}
+
+}  // namespace calibration

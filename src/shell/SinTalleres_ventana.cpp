@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "model/Avisos.h"
+#include "model/Siro.h"
+#include "shell/Talleres_ventana.h"
+
+namespace shell {
+
+struct Talleres::Partes {};
+
+Talleres::Talleres(forms::Entorno& alrededor) : entorno(alrededor) {}
+
+Talleres::~Talleres() = default;
+
+void Talleres::AbreLluvia()
+{
+    model::Advierte(entorno.s, "Esta versión no trae el taller de lluvia; lo trae la versión completa.");
+}
+
+void Talleres::AbreAjuste()
+{
+    model::Advierte(entorno.s, "Esta versión no trae el taller de ajuste; lo trae la versión completa.");
+}
+
+study::Abierto* Talleres::Estudio()
+{
+    return nullptr;
+}
+
+void Talleres::TrasGuardarComo() {}
+
+void Talleres::TrasEliminar() {}
+
+void Talleres::AlSalir() {}
+
+}  // namespace shell

@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/Talleres_ventana.h"
+
+#include "calibration/taller/dlgAjuste.h"
+#include "calibration/taller/dlgAjuste_ventana.h"
+#include "frequency/taller/dlgTaller.h"
+#include "frequency/taller/dlgTaller_ventana.h"
+#include "study/Abierto.h"
+
+namespace shell {
+
+struct Talleres::Partes {
+    explicit Partes(forms::Entorno& entorno)
+        : estudio(entorno.s),
+          lluvia(estudio),
+          ventanaLluvia(entorno, lluvia),
+          ajuste(estudio, entorno.s),
+          ventanaAjuste(entorno, ajuste)
+    {
+    }
+    study::Abierto estudio;
+    frequency::dlgTaller lluvia;
+    frequency::dlgTaller_ventana ventanaLluvia;
+    calibration::dlgAjuste ajuste;
+    calibration::dlgAjuste_ventana ventanaAjuste;
+};
+
+Talleres::Talleres(forms::Entorno& alrededor)
+    : entorno(alrededor), partes(std::make_unique<Partes>(alrededor))
+{
+    partes->ajuste.DibujoSinGuardar = [this] { return DibujoSinGuardar(); };
+    partes->ajuste.Aplica = [this](const auto& cambio) { return Aplica(cambio); };
+    entorno.AlTerminarSuceso(partes->ventanaLluvia, [this] {
+        if (partes->estudio.HaDeSeguir()) entorno.Atiende([this] { partes->estudio.Sigue(); });
+    });
+}
+
+Talleres::~Talleres() = default;
+
+void Talleres::AbreLluvia()
+{
+    partes->estudio.Sigue();
+    partes->ventanaLluvia.Abre();
+}
+
+void Talleres::AbreAjuste()
+{
+    partes->estudio.Sigue();
+    partes->ventanaAjuste.Abre();
+}
+
+study::Abierto* Talleres::Estudio()
+{
+    return &partes->estudio;
+}
+
+void Talleres::TrasGuardarComo()
+{
+    partes->estudio.TrasGuardarComo();
+}
+
+void Talleres::TrasEliminar()
+{
+    partes->estudio.TrasEliminar();
+}
+
+void Talleres::AlSalir()
+{
+    partes->estudio.Cierra();
+}
+
+}  // namespace shell

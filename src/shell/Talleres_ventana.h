@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "forms/Entorno_ventana.h"
+#include "model/Red.h"
+#include "model/Tormenta.h"
+
+namespace study {
+class Abierto;
+}
+
+namespace shell {
+
+/// The study of the project in hand and the workshops on it, that of rain and that of fitting; a build
+/// without their libraries says that they aren't there.
+class Talleres {
+  public:
+    explicit Talleres(forms::Entorno& alrededor);
+    ~Talleres();
+    Talleres(const Talleres&) = delete;
+    Talleres& operator=(const Talleres&) = delete;
+
+    /// Bring a window up. Run inside an event.
+    void AbreLluvia();
+    void AbreAjuste();
+
+    /// Nothing in a build without.
+    study::Abierto* Estudio();
+    // What becomes of the project: see study::Abierto.
+    void TrasGuardarComo();
+    void TrasEliminar();
+    void AlSalir();
+
+    // What the fitting workshop asks of the editor: see calibration::dlgAjuste.
+    std::function<const model::Colecciones*()> DibujoSinGuardar = [] { return nullptr; };
+    std::function<bool(const std::function<void(model::Red&, model::Tormenta&)>& cambio)> Aplica =
+        [](const auto&) { return false; };
+
+  private:
+    struct Partes;
+
+    forms::Entorno& entorno;
+    std::unique_ptr<Partes> partes;
+};
+
+}  // namespace shell
