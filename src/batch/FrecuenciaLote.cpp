@@ -29,10 +29,7 @@ frequency::PedidoDeAnalisis PedidoDe(const Opciones& o)
     if (const frequency::Ley* ley = frequency::LeyDeClave(o.ley)) pedido.leyes = {ley};
     pedido.remuestreo = {o.semilla, o.remuestras, o.hilos};
     pedido.posicion = o.posicion;
-    if (!o.bajos.empty())
-        pedido.tratamiento.bajos =
-            o.bajos == "17b" ? frequency::Bajos::Boletin17B : frequency::Bajos::Boletin17C;
-    if (o.asimetria) pedido.tratamiento.regional = {*o.asimetria, o.ecmAsimetria};
+    pedido.tratamiento = frequency::TratamientoDe(o.bajos, o.asimetria, o.ecmAsimetria);
     return pedido;
 }
 

@@ -52,6 +52,14 @@ Momentos MomentosDe(std::span<const double> x)
     return m;
 }
 
+Tratamiento TratamientoDe(std::string_view bajos, std::optional<double> asimetria, double ecm)
+{
+    Tratamiento t;
+    if (!bajos.empty()) t.bajos = bajos == "17b" ? Bajos::Boletin17B : Bajos::Boletin17C;
+    if (asimetria) t.regional = {*asimetria, ecm};
+    return t;
+}
+
 Muestra HazMuestra(std::vector<double> x)
 {
     Muestra m;

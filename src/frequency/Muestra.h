@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <string_view>
 #include <vector>
 
 // A sample of annual maxima and the numbers that its fits start from.
@@ -49,6 +50,9 @@ struct Tratamiento {
     std::optional<AsimetriaRegional> regional{};
     std::optional<std::size_t> cuantos{};  ///< low values, where no test has to find them
 };
+
+/// By the keys of the command line: low values "17b", "17c" or none.
+Tratamiento TratamientoDe(std::string_view bajos, std::optional<double> asimetria, double ecm);
 
 struct Muestra {
     std::vector<double> x{};  ///< rising; years without rain aren't in it

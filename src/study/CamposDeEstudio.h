@@ -32,6 +32,9 @@ void Campos(V& v, SerieDeMaximos& s)
     v("ley", s.ley);
     v("metodo", s.metodo);
     v("motivo", s.motivo);
+    v("bajos", s.bajos);
+    v("asimetria_regional", s.asimetria, -3, 3);
+    v("ecm_asimetria", s.ecmAsimetria, MayorQueCero, SinTope);
     v("maximos", s.maximos);
     v.Resto(s.resto);
 }

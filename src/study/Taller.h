@@ -25,7 +25,11 @@ struct SerieDeMaximos {
     std::vector<Maximo> maximos{};  ///< by year
     std::string ley{}, metodo{};    ///< chosen; empty: none yet
     std::string motivo{};           ///< why, in the user's words
-    std::string resto{};            ///< as in Estudio.h
+    std::string bajos{};            ///< how log-Pearson III by moments takes low values: 17b, 17c; empty: as
+                                    ///< the others
+    std::optional<double> asimetria{};  ///< of the region's logarithms, -3 to 3; none: the sample's alone
+    double ecmAsimetria = 0.302;        ///< its mean square error, above 0
+    std::string resto{};                ///< as in Estudio.h
     bool operator==(const SerieDeMaximos&) const = default;
 };
 

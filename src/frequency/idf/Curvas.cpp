@@ -178,6 +178,7 @@ class Taller {
         if (ley != nullptr) p.leyes = {ley};
         for (const Metodo m : {Metodo::Momentos, Metodo::MomentosL, Metodo::Verosimilitud})
             if (ClaveDe(m) == s.metodo) p.metodo = m;
+        p.tratamiento = TratamientoDe(s.bajos, s.asimetria, s.ecmAsimetria);
         const Analisis a = *Analiza(serie, p);
         const bool recomendada = ley == nullptr;
         if (recomendada) ley = a.recomendacion.ley;

@@ -27,6 +27,31 @@ constexpr forms::ReglaNumero ReglaMuestras{.control = "txtMuestras",
                                            .mensaje = "Las muestras son un entero de 0 a 100000.",
                                            .clase = forms::ClaseNumero::Entero};
 
+constexpr forms::ReglaNumero ReglaAsimetria{
+    .control = "txtAsimetria", .minimo = -3, .maximo = 3, .mensaje = "La asimetría regional va de -3 a 3."};
+constexpr forms::ReglaNumero ReglaEcm{.control = "txtEcm",
+                                      .minimo = 0.001,
+                                      .maximo = 10,
+                                      .mensaje = "El error cuadrático medio va de 0.001 a 10."};
+
+/// Plotting positions by name.
+struct FilaPosicion {
+    std::string_view nombre;
+    double a;
+};
+constexpr auto Posiciones = std::to_array<FilaPosicion>({{"Weibull, a = 0", 0},
+                                                         {"Blom, a = 0.375", 0.375},
+                                                         {"Cunnane, a = 0.4", 0.4},
+                                                         {"Gringorten, a = 0.44", 0.44},
+                                                         {"Hazen, a = 0.5", 0.5}});
+
+/// How low values are taken, by the study's keys.
+struct FilaBajos {
+    std::string_view nombre, clave;
+};
+constexpr auto TratosDeBajos =
+    std::to_array<FilaBajos>({{"Como los demás", ""}, {"Bulletin 17B", "17b"}, {"Bulletin 17C", "17c"}});
+
 std::string Numero(double x, int decimales)
 {
     return std::isfinite(x) ? Con(x, decimales) : std::string();
@@ -46,6 +71,9 @@ const AjusteDeLey* EnMano(const TallerAjustes& m)
 PedidoDeAjustes PedidoDe(const TallerAjustes& m, const study::SerieDeMaximos& s, const study::Taller& t)
 {
     PedidoDeAjustes p{s.maximos, Metodos[static_cast<std::size_t>(m.metodo)], {}, t.semilla, t.remuestras};
+    p.bajos = s.bajos;
+    p.asimetria = s.asimetria;
+    p.ecmAsimetria = s.ecmAsimetria;
     for (std::size_t i = 0; i < Leyes().size(); ++i)
         if (m.ajustadas[i]) p.leyes.push_back(Leyes()[i]);
     return p;
@@ -196,6 +224,24 @@ std::string ElegidaEnPalabras(const TallerAjustes& m, const study::SerieDeMaximo
     return {};
 }
 
+bool AsientaAsimetria(TallerAjustes& m, dlgTaller& f, const model::Siro& s, std::string_view control)
+{
+    const bool asimetria = control == ReglaAsimetria.control;
+    std::string& texto = asimetria ? m.txtAsimetria : m.txtEcm;
+    const bool vacia = asimetria && texto.find_first_not_of(' ') == std::string::npos;
+    if (!vacia && !forms::AlSalir(s, asimetria ? ReglaAsimetria : ReglaEcm, texto)) return false;
+    Cambia(f, asimetria ? "Asimetría regional" : "Error de la asimetría", [&](study::Taller& t) {
+        study::SerieDeMaximos& serie = SerieDe(f, t);
+        if (!asimetria)
+            serie.ecmAsimetria = *forms::NumeroDeCampo(texto);
+        else if (vacia)
+            serie.asimetria.reset();
+        else
+            serie.asimetria = *forms::NumeroDeCampo(texto);
+    });
+    return true;
+}
+
 }  // namespace
 
 TallerAjustes NuevaTallerAjustes()
@@ -203,6 +249,10 @@ TallerAjustes NuevaTallerAjustes()
     TallerAjustes m;
     for (const Metodo metodo : Metodos)
         m.metodos.emplace_back(NombreDe(metodo));
+    for (const FilaPosicion& p : Posiciones)
+        m.posiciones.emplace_back(p.nombre);
+    for (const FilaBajos& b : TratosDeBajos)
+        m.tratos.emplace_back(b.nombre);
     m.ajustadas.assign(Leyes().size(), true);
     m.elegibles.emplace_back("(ninguna)");
     for (const Ley* const ley : Leyes()) {
@@ -220,6 +270,15 @@ bool Toma(TallerAjustes& m, const dlgTaller& f)
     m.txtSemilla = std::to_string(t.semilla);
     m.txtMuestras = std::to_string(t.remuestras);
     m.txtMotivo = s != nullptr ? s->motivo : std::string();
+    m.txtAsimetria = s != nullptr && s->asimetria ? TextoDe(*s->asimetria) : std::string();
+    m.txtEcm = s != nullptr ? TextoDe(s->ecmAsimetria) : std::string();
+    const int posicionDeAntes = m.posicion;
+    m.posicion = m.bajos = -1;
+    for (std::size_t i = 0; i < Posiciones.size(); ++i)
+        if (Posiciones[i].a == t.posicion) m.posicion = static_cast<int>(i);
+    for (std::size_t i = 0; s != nullptr && i < TratosDeBajos.size(); ++i)
+        if (TratosDeBajos[i].clave == s->bajos) m.bajos = static_cast<int>(i);
+    if (m.posicion != posicionDeAntes) PonGrafico(m, f);
     m.elegida = 0;
     for (std::size_t i = 0; s != nullptr && i < Leyes().size(); ++i)
         if (Leyes()[i]->clave == s->ley) m.elegida = static_cast<int>(i) + 1;
@@ -279,6 +338,8 @@ void cmdLeyes_Click(TallerAjustes& m, std::size_t ley, bool tildada)
 
 bool txtNumero_AlSalir(TallerAjustes& m, dlgTaller& f, const model::Siro& s, std::string_view control)
 {
+    if (control == ReglaAsimetria.control || control == ReglaEcm.control)
+        return AsientaAsimetria(m, f, s, control);
     const bool semilla = control == ReglaSemilla.control;
     std::string& texto = semilla ? m.txtSemilla : m.txtMuestras;
     if (!forms::AlSalir(s, semilla ? ReglaSemilla : ReglaMuestras, texto)) return false;
@@ -290,6 +351,24 @@ bool txtNumero_AlSalir(TallerAjustes& m, dlgTaller& f, const model::Siro& s, std
             t.remuestras = static_cast<int>(x);
     });
     return true;
+}
+
+void cmbPosicion_Click(dlgTaller& f, int cual)
+{
+    Cambia(f, "Posiciones en el papel",
+           [&](study::Taller& t) { t.posicion = Posiciones.at(static_cast<std::size_t>(cual)).a; });
+}
+
+void cmbBajos_Click(dlgTaller& f, int cual)
+{
+    Cambia(f, "Valores bajos", [&](study::Taller& t) {
+        SerieDe(f, t).bajos = TratosDeBajos.at(static_cast<std::size_t>(cual)).clave;
+    });
+}
+
+bool TrataBajos(const TallerAjustes& m)
+{
+    return Metodos[static_cast<std::size_t>(m.metodo)] == Metodo::Momentos;
 }
 
 void cmbEnMano_Click(TallerAjustes& m, const dlgTaller& f, int cual)

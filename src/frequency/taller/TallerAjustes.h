@@ -24,6 +24,13 @@ inline constexpr auto RotulosTallerAjustes = std::to_array<forms::FilaRotulo>({
     {"cmbMetodo", "Mé&todo:", "Con qué se estiman los parámetros de las leyes"},
     {"txtSemilla", "Se&milla:", "La misma semilla da las mismas bandas y los mismos p"},
     {"txtMuestras", "M&uestras:", "Del remuestreo que da bandas y p; 0: sin él"},
+    {"cmbPosicion",
+     "&Posición:", "La a de (i - a)/(n + 1 - 2a), de los puntos en los papeles de probabilidad"},
+    {"cmbBajos", "&Valores bajos:", "Cómo los toma la log-Pearson III por momentos"},
+    {"txtAsimetria", "As&imetría regional:",
+     "De los logaritmos, de -3 a 3, para la log-Pearson III por momentos; vacía: la de la muestra sola"},
+    {"txtEcm",
+     "EC&M:", "Error cuadrático medio de la asimetría regional; 0.302 el del mapa del Bulletin 17B"},
     {"cmbEnMano", "&Ley en mano:", "De ella son las bandas de la tabla y de los gráficos"},
     {"cmdCalcular", "Ca&lcular bandas", "Sortea las muestras de cada ley, las ajusta y da bandas y p"},
     {"barAvance", "Avance del remuestreo"},
@@ -54,6 +61,9 @@ struct PedidoDeAjustes {
     std::vector<const Ley*> leyes{};
     std::uint64_t semilla = 1;
     int muestras = 0;
+    std::string bajos{};  ///< as the study keeps them
+    std::optional<double> asimetria{};
+    double ecmAsimetria = 0;
     bool operator==(const PedidoDeAjustes&) const = default;
 };
 
@@ -74,8 +84,9 @@ struct TallerAjustes {
     std::string lblEstado{};
 
     int metodo = static_cast<int>(Metodo::MomentosL);
-    std::string txtSemilla{}, txtMuestras{}, txtMotivo{};
-    std::vector<std::string> metodos{}, leyes{}, elegibles{}, graficos{};
+    std::string txtSemilla{}, txtMuestras{}, txtMotivo{}, txtAsimetria{}, txtEcm{};
+    int posicion = 0, bajos = 0;
+    std::vector<std::string> metodos{}, posiciones{}, tratos{}, leyes{}, elegibles{}, graficos{};
     std::vector<bool> ajustadas{};  ///< by law
     int enMano = 0;                 ///< law, from 0
     int elegida = 0;                ///< 0: none
@@ -104,6 +115,10 @@ void cmbMetodo_Click(TallerAjustes& m, int cual);
 /// A law is to be fitted or not; one at least is.
 void cmdLeyes_Click(TallerAjustes& m, std::size_t ley, bool tildada);
 bool txtNumero_AlSalir(TallerAjustes& m, dlgTaller& f, const model::Siro& s, std::string_view control);
+void cmbPosicion_Click(dlgTaller& f, int cual);
+void cmbBajos_Click(dlgTaller& f, int cual);
+/// Whether low values and the region's skew have a say.
+bool TrataBajos(const TallerAjustes& m);
 void cmbEnMano_Click(TallerAjustes& m, const dlgTaller& f, int cual);
 void cmbGrafico_Click(TallerAjustes& m, const dlgTaller& f, int cual);
 void chkSola_Click(TallerAjustes& m, const dlgTaller& f, bool tildada);

@@ -22,6 +22,7 @@ study::Tarea<Analisis>::Trabajo Trabajo(Serie serie, PedidoDeAjustes pedido)
             PedidoDeAnalisis p;
             p.metodo = pedido.metodo;
             p.leyes = pedido.leyes;
+            p.tratamiento = TratamientoDe(pedido.bajos, pedido.asimetria, pedido.ecmAsimetria);
             p.remuestreo = {.semilla = pedido.semilla, .cuantas = muestras};
             std::optional<Analisis> a = Analiza(serie, p, avance);
             if (!a) return;
@@ -36,9 +37,19 @@ study::Tarea<Analisis>::Trabajo Trabajo(Serie serie, PedidoDeAjustes pedido)
 TallerAjustes_ventana::TallerAjustes_ventana(forms::Entorno& alrededor, dlgTaller& taller)
     : PaginaDeTaller(alrededor, taller, RotulosTallerAjustes, "TallerAjustes")
 {
-    auto* const todo = EnPila({Pedido(), {LadoALado(Tablas(), Derecha(), 9, 10), 1}, Eleccion()});
+    auto* const todo = EnPila({Pedido(), Opciones(), {LadoALado(Tablas(), Derecha(), 9, 10), 1}, Eleccion()});
     todo->setContentsMargins(0, 0, 0, 0);
     setLayout(todo);
+}
+
+/// A number of a few digits.
+QLineEdit* TallerAjustes_ventana::Corto(std::string_view control, std::string& texto)
+{
+    QLineEdit* const campo =
+        Campo(control, texto, [this, control] { return txtNumero_AlSalir(m, f, entorno.s, control); });
+    constexpr int Letras = 11;
+    campo->setMaximumWidth(Letras * fontMetrics().averageCharWidth());
+    return campo;
 }
 
 QLayout* TallerAjustes_ventana::Pedido()
@@ -47,15 +58,8 @@ QLayout* TallerAjustes_ventana::Pedido()
         cmbMetodo_Click(m, i);
         Calcula();
     });
-    const auto numero = [this](std::string_view control, std::string& texto) {
-        QLineEdit* const campo =
-            Campo(control, texto, [this, control] { return txtNumero_AlSalir(m, f, entorno.s, control); });
-        constexpr int Letras = 11;
-        campo->setMaximumWidth(Letras * fontMetrics().averageCharWidth());
-        return campo;
-    };
-    QLineEdit* const semilla = numero("txtSemilla", m.txtSemilla);
-    QLineEdit* const muestras = numero("txtMuestras", m.txtMuestras);
+    QLineEdit* const semilla = Corto("txtSemilla", m.txtSemilla);
+    QLineEdit* const muestras = Corto("txtMuestras", m.txtMuestras);
     QComboBox* const ley =
         Desplegable("cmbEnMano", m.leyes, m.enMano, [this](int i) { cmbEnMano_Click(m, f, i); });
     return EnFila({Rotulo("cmbMetodo", metodo),
@@ -67,6 +71,25 @@ QLayout* TallerAjustes_ventana::Pedido()
                    Rotulo("cmbEnMano", ley),
                    ley,
                    {ConAvance(), 1}});
+}
+
+QLayout* TallerAjustes_ventana::Opciones()
+{
+    QComboBox* const posicion =
+        Desplegable("cmbPosicion", m.posiciones, m.posicion, [this](int i) { cmbPosicion_Click(f, i); });
+    const auto conMomentos = [this] { return TrataBajos(m); };
+    auto* const bajos = Desplegable("cmbBajos", m.tratos, m.bajos, [this](int i) { cmbBajos_Click(f, i); });
+    HabilitadoSi(bajos, conMomentos);
+    forms::Partes partes{Rotulo("cmbPosicion", posicion), posicion, Rotulo("cmbBajos", bajos), bajos};
+    for (const auto& [control, texto] :
+         {std::pair<std::string_view, std::string&>{"txtAsimetria", m.txtAsimetria}, {"txtEcm", m.txtEcm}}) {
+        QLineEdit* const campo = Corto(control, texto);
+        HabilitadoSi(campo, conMomentos);
+        partes.emplace_back(Rotulo(control, campo));
+        partes.emplace_back(campo);
+    }
+    partes.push_back(Hueco());
+    return EnFila(partes);
 }
 
 QLayout* TallerAjustes_ventana::ConAvance()

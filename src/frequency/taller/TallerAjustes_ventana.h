@@ -33,6 +33,8 @@ class TallerAjustes_ventana : public PaginaDeTaller {
 
   private:
     QLayout* Pedido();
+    QLayout* Opciones();
+    QLineEdit* Corto(std::string_view control, std::string& texto);
     QLayout* ConAvance();
     QWidget* Tablas();
     QPushButton* ClaveDeLeyes();

@@ -211,6 +211,45 @@ TEST_F(TallerDePrueba, LosAjustesSonTablasYLaElegidaQuedaConSuMotivo)
     EXPECT_EQ(Serie(f).ley, "");
 }
 
+/// The bulletins' options stay with the series, ask for another analysis and reach the curves of step 4.
+TEST_F(TallerDePrueba, LosBoletinesQuedanConLaSerieYSonOtroAnalisis)
+{
+    PonDoce();
+    TallerAjustes a = NuevaTallerAjustes();
+    cmbMetodo_Click(a, 0);
+    ASSERT_TRUE(Toma(a, f));
+    EXPECT_TRUE(TrataBajos(a));
+    EXPECT_EQ(a.posiciones.at(static_cast<std::size_t>(a.posicion)), "Cunnane, a = 0.4");
+    EXPECT_EQ(a.tratos.at(static_cast<std::size_t>(a.bajos)), "Como los demás");
+    EXPECT_EQ(a.txtAsimetria, "");
+    EXPECT_EQ(a.txtEcm, "0.302");
+    Empieza(a, f);
+    EXPECT_FALSE(Toma(a, f));
+    cmbBajos_Click(f, 2);
+    EXPECT_EQ(Serie(f).bajos, "17c");
+    EXPECT_TRUE(Toma(a, f)) << "another analysis";
+    Empieza(a, f);
+    a.txtAsimetria = "4";
+    EXPECT_FALSE(txtNumero_AlSalir(a, f, s, "txtAsimetria"));
+    EXPECT_FALSE(Serie(f).asimetria);
+    a.txtAsimetria = "-0.4";
+    ASSERT_TRUE(txtNumero_AlSalir(a, f, s, "txtAsimetria"));
+    a.txtEcm = "0.2";
+    ASSERT_TRUE(txtNumero_AlSalir(a, f, s, "txtEcm"));
+    EXPECT_EQ(Serie(f).asimetria, -0.4);
+    EXPECT_EQ(Serie(f).ecmAsimetria, 0.2);
+    EXPECT_TRUE(Toma(a, f));
+    a.txtAsimetria = " ";
+    ASSERT_TRUE(txtNumero_AlSalir(a, f, s, "txtAsimetria"));
+    EXPECT_FALSE(Serie(f).asimetria) << "the sample's alone";
+    cmdDeshacer(f);
+    EXPECT_EQ(Serie(f).asimetria, -0.4);
+    cmbPosicion_Click(f, 4);
+    EXPECT_EQ(TallerDe(f).posicion, 0.5);
+    cmbMetodo_Click(a, 1);
+    EXPECT_FALSE(TrataBajos(a));
+}
+
 TEST_F(TallerDePrueba, SeAjustanLasLeyesTildadasYUnaAlMenos)
 {
     PonDoce();
