@@ -8,6 +8,7 @@
 #include <QHeaderView>
 #include <QScrollBar>
 #include <algorithm>
+#include <cmath>
 #include <numeric>
 #include <utility>
 
@@ -23,6 +24,16 @@ namespace {
 constexpr int FilasALaVista = 12;
 // Of a column that shares what is left over: wished for, and the least.
 constexpr int LetrasDeLoQueSobra = 24, LetrasDeLoMenos = 17;
+
+/// Width of `cuantas` letters [px]. The mean of some fonts counts every script that they have, and is wider
+/// than what a heading holds: a table would leave its last columns out of view for nothing.
+int AnchoDe(const QFontMetrics& medidas, int cuantas)
+{
+    const QString titulo = QStringLiteral("Tiempo al pico [min]");
+    const double letra = std::min<double>(
+        medidas.averageCharWidth(), medidas.horizontalAdvance(titulo) / static_cast<double>(titulo.size()));
+    return static_cast<int>(std::lround(cuantas * letra));
+}
 
 }  // namespace
 
@@ -136,14 +147,15 @@ void TablaCuadro::PonColumnas(std::vector<int> nuevas)
 
 void TablaCuadro::ReparteAncho()
 {
-    const int letra = fontMetrics().averageCharWidth();
-    const int fijas = std::accumulate(letras.begin(), letras.end(), 0) * letra;
+    const QFontMetrics medidas = fontMetrics();
+    const int fijas = AnchoDe(medidas, std::accumulate(letras.begin(), letras.end(), 0));
     const auto cuantas = static_cast<int>(std::count(letras.begin(), letras.end(), 0));
     const int sobra = cuantas == 0 ? 0 : (viewport()->width() - fijas) / cuantas;
     const QSignalBlocker silencio(*horizontalHeader());
     for (std::size_t k = 0; k < letras.size(); ++k)
-        setColumnWidth(static_cast<int>(k),
-                       letras[k] > 0 ? letras[k] * letra : std::max(sobra, LetrasDeLoMenos * letra));
+        setColumnWidth(static_cast<int>(k), letras[k] > 0
+                                                ? AnchoDe(medidas, letras[k])
+                                                : std::max(sobra, AnchoDe(medidas, LetrasDeLoMenos)));
     horizontalHeader()->viewport()->update();
     resizeRowsToContents();
 }
@@ -188,11 +200,10 @@ std::size_t TablaCuadro::Actual() const
 
 QSize TablaCuadro::sizeHint() const
 {
-    const int letra = fontMetrics().averageCharWidth();
     int columnas = 0;
     for (const int cuantas : letras)
         columnas += cuantas > 0 ? cuantas : LetrasDeLoQueSobra;
-    return {columnas * letra + 2 * frameWidth() + verticalScrollBar()->sizeHint().width(),
+    return {AnchoDe(fontMetrics(), columnas) + 2 * frameWidth() + verticalScrollBar()->sizeHint().width(),
             (FilasALaVista + 1) * verticalHeader()->defaultSectionSize()};
 }
 
