@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "batch/CorridaLote.h"
+#include "calibration/casos/Familias.h"
 #include "checks/Verifica.h"
 #include "frequency/casos/Familias.h"
 
@@ -11,7 +12,8 @@ namespace batch {
 
 int MuestraCasos(const Opciones& o, const std::string& /*dirEjecutable*/, const Salidas& salidas)
 {
-    const std::vector<checks::Caso> casos = checks::Verifica({}, frequency::Familias());
+    const std::vector<checks::Caso> casos =
+        checks::Verifica({}, checks::Junta({frequency::Familias(), calibration::Familias()}));
     const bool escrito =
         Muestra(salidas, o.json ? checks::JsonDeVerifica(casos) : checks::TextoDeVerifica(casos));
     return escrito && checks::CuantosFuera(casos) == 0 ? EstadoCompleto : EstadoInterrumpido;

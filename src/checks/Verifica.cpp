@@ -190,10 +190,17 @@ std::size_t CuantasCifras(const Caso& caso)
                                                   [](double cifra) { return !std::isnan(cifra); }));
 }
 
+std::vector<casos::Familia> Junta(std::initializer_list<std::span<const casos::Familia>> cuartos)
+{
+    std::vector<casos::Familia> juntas;
+    for (const std::span<const casos::Familia> cuarto : cuartos)
+        juntas.insert(juntas.end(), cuarto.begin(), cuarto.end());
+    return juntas;
+}
+
 std::vector<Caso> Verifica(const AvanceDeVerifica& avance, std::span<const casos::Familia> mas)
 {
-    std::vector<casos::Familia> familias(Familias.begin(), Familias.end());
-    familias.insert(familias.end(), mas.begin(), mas.end());
+    const std::vector<casos::Familia> familias = Junta({Familias, mas});
     std::size_t total = 0;
     for (const auto familia : familias)
         total += familia().size();

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <initializer_list>
 #include <span>
 #include <string>
 #include <string_view>
@@ -53,6 +54,9 @@ std::size_t CuantasCifras(const Caso& caso);
 
 /// How far a check has come, `hechos` of `total` cases. Returns whether it goes on.
 using AvanceDeVerifica = std::function<bool(std::size_t hechos, std::size_t total)>;
+
+/// The families of several rooms, one room's after another's.
+std::vector<casos::Familia> Junta(std::initializer_list<std::span<const casos::Familia>> cuartos);
 
 /// Runs every case, in under two seconds: they are the same on every machine, to the last bit of the engine.
 /// On any thread. Where `avance`, which is asked ahead of each case, stops it, those so far. `mas`: the

@@ -72,10 +72,10 @@ class dlgVerificar_ventana::Corrida {
 };
 
 dlgVerificar_ventana::dlgVerificar_ventana(forms::Entorno& alrededor, dlgVerificar& registro,
-                                           std::span<const casos::Familia> masFamilias, QWidget* padre)
+                                           std::vector<casos::Familia> masFamilias, QWidget* padre)
     : Ventana(alrededor, {"dlgVerificar", TituloDlgVerificar, RotulosDlgVerificar}, padre),
       f(registro),
-      familias(masFamilias)
+      familias(std::move(masFamilias))
 {
     Sigue(f.abierta);
     tabla = new forms::TablaCuadro(entorno, f.tblCasos, "tblCasos", TituloDlgVerificar);

@@ -3,7 +3,6 @@
 
 #include <QTimer>
 #include <memory>
-#include <span>
 #include <vector>
 
 #include "checks/Verifica.h"
@@ -25,7 +24,7 @@ class dlgVerificar_ventana : public forms::Ventana {
   public:
     /// `masFamilias`: cases of the rooms above.
     dlgVerificar_ventana(forms::Entorno& alrededor, dlgVerificar& registro,
-                         std::span<const casos::Familia> masFamilias = {}, QWidget* padre = nullptr);
+                         std::vector<casos::Familia> masFamilias = {}, QWidget* padre = nullptr);
     ~dlgVerificar_ventana() override;
 
     /// Comes to the front; the first time it runs all cases.
@@ -49,7 +48,7 @@ class dlgVerificar_ventana : public forms::Ventana {
     void ImprimeTabla();
 
     dlgVerificar& f;
-    std::span<const casos::Familia> familias;
+    std::vector<casos::Familia> familias;
     forms::TablaCuadro* tabla = nullptr;
     forms::Lamina* Grafico = nullptr;
     QTimer latido{};

@@ -4,6 +4,8 @@
 #include <QIcon>
 #include <QStatusBar>
 
+#include "calibration/casos/Familias.h"
+#include "checks/Verifica.h"
 #include "frequency/casos/Familias.h"
 #include "model/Siro.h"
 
@@ -15,7 +17,7 @@ VentanasDeEstudio::VentanasDeEstudio(forms::Entorno& alrededor, MDIForm1_ventana
       talleres(alrededor),
       ventanaAvisos(alrededor, avisos, laPrincipal),
       ventanaRevisar(alrededor, revisar),
-      ventanaVerificar(alrededor, verificar, frequency::Familias()),
+      ventanaVerificar(alrededor, verificar, checks::Junta({frequency::Familias(), calibration::Familias()})),
       ventanaResumen(alrededor, resumen),
       ventanaComparar(alrededor, comparar)
 {

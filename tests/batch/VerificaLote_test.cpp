@@ -9,6 +9,7 @@
 
 #include "batch/CorridaLote.h"
 #include "batch/Lote.h"
+#include "calibration/casos/Familias.h"
 #include "checks/Verifica.h"
 #include "frequency/casos/Familias.h"
 #include "model/Falla.h"
@@ -36,7 +37,8 @@ Respuesta Lote(std::vector<const char*> palabras, bool seEscribe = true)
 
 TEST(Verifica, MuestraElTextoOElJson)
 {
-    const std::vector<checks::Caso> casos = checks::Verifica({}, frequency::Familias());
+    const std::vector<checks::Caso> casos =
+        checks::Verifica({}, checks::Junta({frequency::Familias(), calibration::Familias()}));
     const Respuesta texto = Lote({"verifica"}), json = Lote({"verifica", "--json"});
     EXPECT_EQ(texto.estado, batch::EstadoCompleto);
     EXPECT_EQ(texto.estandar, checks::TextoDeVerifica(casos));

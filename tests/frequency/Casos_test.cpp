@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "apoyo/Compara.h"
+#include "calibration/casos/Familias.h"
 #include "checks/Verifica.h"
 #include "frequency/casos/Familias.h"
 
@@ -20,7 +21,7 @@ class CasosDeFrecuencia : public testing::Test {
   protected:
     static void SetUpTestSuite()
     {
-        todos = checks::Verifica({}, frequency::Familias());
+        todos = checks::Verifica({}, checks::Junta({frequency::Familias(), calibration::Familias()}));
         suyos.assign(todos.begin() + static_cast<std::ptrdiff_t>(checks::Verifica().size()), todos.end());
     }
     static inline std::vector<Caso> todos{}, suyos{};
