@@ -22,8 +22,13 @@ constexpr std::string_view AvisoEntrega =
     "No se pudieron copiar todos los archivos que trae el programa, tal vez por falta de lugar en el disco. "
     "Se "
     "intentará otra vez en el próximo arranque. Carpeta: ";
-/// Folders of what is delivered, the root first.
-constexpr auto CarpetasEntregadas = std::to_array<std::string_view>({"", "Proyectos", CarpetaDeAyuda});
+constexpr std::string_view CarpetaDeProyectos = "Proyectos";
+
+/// Sample projects of observed floods, apart from the sample whose storms would stand among theirs.
+std::string CarpetaDeCrecidas()
+{
+    return Ruta(CarpetaDeProyectos, "Crecidas");
+}
 
 bool SePuedeEscribir(const Disco& disco, const std::string& directorio)
 {
@@ -94,13 +99,25 @@ void Entrega(const Disco& disco, const std::string& dirEntregado, const std::str
     const std::string marca = Ruta(directorio, MarcaDeEntrega);
     Sentencia([&] { disco.Escribe(marca, ""); });
     bool todo = true;
-    for (const std::string_view carpeta : CarpetasEntregadas) {
+    // The root first, a folder behind the one that it lies in.
+    for (const std::string& carpeta :
+         {std::string(), std::string(CarpetaDeProyectos), CarpetaDeCrecidas(), std::string(CarpetaDeAyuda)}) {
         const bool raiz = carpeta.empty();
         const bool toda = CopiaLoQueFalta(disco, raiz ? dirEntregado : Ruta(dirEntregado, carpeta),
                                           raiz ? directorio : Ruta(directorio, carpeta));
         todo = toda && todo;
     }
     if (todo) Sentencia([&] { disco.Borra(marca); });
+}
+
+/// What is delivered since the first start: the folder of floods, where there is none yet. Whoever doesn't
+/// want them leaves it empty.
+void EntregaCrecidas(const Disco& disco, const std::string& dirEntregado, const std::string& directorio)
+{
+    const std::string origen = Ruta(dirEntregado, CarpetaDeCrecidas()),
+                      destino = Ruta(directorio, CarpetaDeCrecidas());
+    if (!disco.HayDirectorio(origen) || disco.HayDirectorio(destino)) return;
+    if (disco.HayDirectorio(Ruta(directorio, CarpetaDeProyectos))) CopiaLoQueFalta(disco, origen, destino);
 }
 
 /// Where an installation puts the data beside the programs.
@@ -139,7 +156,10 @@ std::string PreparaDirTrabajo(const Disco& disco, const std::string& dirEjecutab
     std::string directorio = propio ? dirEjecutable : dirUsuario;
     CreaCamino(disco, directorio);
     const bool entregado = Esta(disco, directorio, ArchivoPuntero) && !EntregaPendiente(disco, directorio);
-    if (!dirEntregado.empty() && !entregado && !(instalado && propio))
+    if (dirEntregado.empty() || (instalado && propio)) return directorio;
+    if (entregado)
+        EntregaCrecidas(disco, dirEntregado, directorio);
+    else
         Entrega(disco, dirEntregado, directorio);
     return directorio;
 }

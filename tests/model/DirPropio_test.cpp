@@ -62,6 +62,31 @@ TEST_F(DirectorioPropio, DespuesDelPrimerArranqueNoSeCopiaMas)
     EXPECT_FALSE(disco.Esta(Ruta(programa, "distriPp_dpt.vlm")));
 }
 
+TEST_F(DirectorioPropio, LasCrecidasLleganTambienAQuienYaHabiaArrancado)
+{
+    const std::string crecidas = Ruta("Proyectos", "Crecidas");
+    const std::string conf = Ruta(crecidas, "Bachman_Conf.vlm");
+    disco.Pon(Ruta(entregado, conf), "bachman");
+    disco.Pon(Ruta(programa, "VelmirDir.vlm"), "");
+    Prepara();
+    EXPECT_FALSE(disco.Esta(Ruta(programa, conf))) << "no projects at all: they were taken away";
+    disco.PonDirectorio(Ruta(programa, "Proyectos"));
+    Prepara();
+    EXPECT_EQ(disco.Bytes(Ruta(programa, conf)), "bachman");
+    EXPECT_FALSE(disco.Esta(Ruta(Ruta(programa, "Proyectos"), "Quelmar_Conf.vlm")));
+    disco.Puerta().Borra(Ruta(programa, conf));
+    Prepara();
+    EXPECT_FALSE(disco.Esta(Ruta(programa, conf))) << "an emptied folder stays empty";
+}
+
+TEST_F(DirectorioPropio, LasCrecidasVanConElPrimerArranque)
+{
+    const std::string conf = Ruta(Ruta("Proyectos", "Crecidas"), "Bachman_Conf.vlm");
+    disco.Pon(Ruta(entregado, conf), "bachman");
+    Prepara();
+    EXPECT_EQ(disco.Bytes(Ruta(programa, conf)), "bachman");
+}
+
 TEST_F(DirectorioPropio, LoQueNoSePuedeCopiarSeDejaYElRestoVa)
 {
     disco.Protege(Ruta(entregado, "distriPp_dpt.vlm"));

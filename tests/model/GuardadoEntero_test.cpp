@@ -175,7 +175,7 @@ TEST_F(GuardadoEntero, MatadoEnCadaLlamadaLaRedEsLaViejaOLaNuevaTrasAbrirla)
 int Entregados(const fs::path& directorio)
 {
     int cuantos = 0;
-    for (const char* const carpeta : {"", "Proyectos", "Ayuda"})
+    for (const char* const carpeta : {"", "Proyectos", "Proyectos/Crecidas", "Ayuda"})
         for (const auto& [nombre, bytes] : fallas::ContenidoDe(fs::path(SIRO_DATA_DIR) / carpeta)) {
             const fs::path copia = directorio / carpeta / nombre;
             if (!fs::exists(copia)) continue;
@@ -216,7 +216,7 @@ TEST(PrimerArranqueEnUnDiscoLleno, CadaArchivoEstaEnteroONoEstaYElProximoTraeLos
 TEST(PrimerArranqueMatado, ElProximoTraeLosDemasYNoDejaNadaDeLoQueQuedoAMedias)
 {
     const apoyo::CarpetaTemporal entregado, propio;
-    const auto carpetas = {"", "Proyectos", "Ayuda"};
+    const auto carpetas = {"", "Proyectos", "Proyectos/Crecidas", "Ayuda"};
     for (const fs::path carpeta : carpetas) {
         fs::create_directories(entregado.Camino() / carpeta);
         std::ofstream(entregado.Camino() / carpeta / "entregado") << "de " << carpeta;

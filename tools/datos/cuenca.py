@@ -6,10 +6,19 @@ METROS_POR_UNIDAD metres. Areas, longest paths and lengths of reaches are not wr
 measured on the same drawing (terreno.py), so that the map, the drawing and the parameters agree.
 """
 
+import math
 from dataclasses import dataclass, field
 
 METROS_POR_UNIDAD = 15
 ANCHO, ALTO = 768, 720  # frame of the map [units]
+
+
+def LargoReferencia(vertices):
+    """Length of a reach on the drawing [m]: whole drawing units at every vertex, as the reach form measures it."""
+    largo = 0
+    for (x0, y0), (x1, y1) in zip(vertices, vertices[1:]):
+        largo = round(largo + math.hypot(x1 - x0, y1 - y0))
+    return round(METROS_POR_UNIDAD * largo)
 
 
 @dataclass

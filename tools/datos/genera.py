@@ -12,6 +12,7 @@ import pathlib
 import sys
 
 import cuenca
+import eventos
 import mapa
 import maximos
 import proyecto
@@ -31,6 +32,7 @@ def main():
     proyecto.GuardaProyecto(proyectos, areas, longitudes)
     tormentas.GuardaTormentas(datos, proyectos)
     maximos.GuardaMaximos(proyectos)
+    eventos.GuardaCrecidas(proyectos)
     mapa.Guarda(mapa.Pinta(t), proyectos / cuenca.IMAGEN)
 
 

@@ -1,15 +1,12 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The files of the sample project, from the basin's description and what was measured on its map."""
 
+import configuracion
 import cuenca
 import terreno
 from registros import Float32, Guarda
 
 PASOS = (5, 10, 15, 20, 30, 60, 120, 180, 240, 300, 360, 540, 720)  # steps that the storm dialog offers [min]
-RECURRENCIAS = (2, 5, 10, 20, 25, 40, 50, 100, 200, 500, 1000, 2000, 5000, 10000)
-DURACIONES = (5, 10, 15, 20, 30, 60, 90, 120, 180, 240, 300, 360, 540, 720, 1080, 1440, 2880)
-RECURRENCIAS_QUITADAS = (500, 2000, 5000, 10000)
-DURACIONES_QUITADAS = (5, 15, 2880)
 
 
 CUERPOS = (cuenca.EMBALSE_QUELMAR, cuenca.EMBALSE_CALFUN, cuenca.LAGUNA_HUILLIN)
@@ -75,18 +72,6 @@ def SumaMuskingum(k, x, paso):
     return Float32(sum(c))
 
 
-def FilasConf():
-    valores = [
-        "Quelmar", cuenca.TITULO, cuenca.UBICACION, cuenca.CUENCA, cuenca.SUBCUENCA, cuenca.OPERADOR, cuenca.FECHA,
-        "", "C:\\SIRO\\Proyectos",  # rewritten at the first opening: a delivered project has always moved
-        "", 1, "Quelmar_Conf.vlm", 1, cuenca.IMAGEN, "50", "", True, False, False, 0, 0, True, False, True, False,
-        cuenca.N0DUR, "800", str(cuenca.METROS_POR_UNIDAD)]
-    valores += [int(r not in RECURRENCIAS_QUITADAS) for r in RECURRENCIAS]
-    valores += [int(d not in DURACIONES_QUITADAS) for d in DURACIONES]
-    assert len(valores) == 59
-    return [(v,) for v in valores]
-
-
 def PuntoDeDrenaje(aguas_abajo):
     """Where a component's line ends: the upper end of a reach, the icon of a water body."""
     for c in cuenca.CAUCES:
@@ -97,7 +82,7 @@ def PuntoDeDrenaje(aguas_abajo):
 
 def CamposCauce(numero, c, primer_par, orden):
     return [numero, c.nombre, len(c.vertices), primer_par, c.aguas_abajo, float(c.vel_media),
-            float(terreno.LargoReferencia(c.vertices)), orden, float(c.k_musk), float(c.x_musk), c.directo]
+            float(cuenca.LargoReferencia(c.vertices)), orden, float(c.k_musk), float(c.x_musk), c.directo]
 
 
 def CamposUEH(numero, u, area, longitud):
@@ -147,7 +132,7 @@ def FilasUEHs(areas, longitudes):
 
 def GuardaProyecto(directorio, areas, longitudes):
     Comprueba(longitudes)
-    Guarda(directorio / "Quelmar_Conf.vlm", FilasConf())
+    Guarda(directorio / "Quelmar_Conf.vlm", configuracion.Filas("Quelmar", cuenca))
     Guarda(directorio / "Quelmar_UEHs.vlm", FilasUEHs(areas, longitudes))
     Guarda(directorio / "Quelmar_VerCau.vlm",
            [(float(x), float(y)) for c in cuenca.CAUCES for x, y in c.vertices])

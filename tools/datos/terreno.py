@@ -79,14 +79,6 @@ class Fuentes:
         return min(self.filas, key=lambda f: (f[0] - x) ** 2 + (f[1] - y) ** 2)
 
 
-def LargoReferencia(vertices):
-    """Length of a reach on the drawing [m]: whole drawing units at every vertex, as the reach form measures it."""
-    largo = 0
-    for (x0, y0), (x1, y1) in zip(vertices, vertices[1:]):
-        largo = round(largo + math.hypot(x1 - x0, y1 - y0))
-    return round(cuenca.METROS_POR_UNIDAD * largo)
-
-
 def CotasDeCauces():
     """Bed level at the mouth of each reach [m]."""
     alta = {c.nombre: c.cota_alta for c in cuenca.CAUCES}
