@@ -17,8 +17,19 @@ using model::FormaLluvia;
 
 constexpr double MaximoSimulado = 30'000;  // [min], within 16 bits with a step to spare
 
-/// A recorded storm, by the routine that reads it into the storm in hand, which is put back.
-model::Tormenta Registrada(model::Siro& s, const std::string& archivo)
+constexpr std::int16_t PorBloques = 7;  // the temporal distribution that a recorded storm is run with
+
+/// The output step next to the one asked for that divides the model step: a run counts whole ones in it.
+std::int16_t PasoQEn(std::int16_t PasoPp, std::int16_t PasoQ)
+{
+    std::int16_t paso = std::clamp<std::int16_t>(PasoQ, 1, PasoPp);
+    while (PasoPp % paso != 0)
+        --paso;
+    return paso;
+}
+
+/// A recorded storm in its own step, by the routine that reads it into the storm in hand, which is put back.
+model::Tormenta Registrada(model::Siro& s, const std::string& archivo, model::Pasos& pasos)
 {
     model::Tormenta enMano = s.Tormenta;
     model::TormentaReal leida{.nombre = archivo};
@@ -26,7 +37,12 @@ model::Tormenta Registrada(model::Siro& s, const std::string& archivo)
     model::LeePpReal(s, leida);
     std::swap(s.Tormenta, enMano);
     enMano.FormaPp = FormaLluvia::Real;
+    enMano.DistriPp = PorBloques;
     enMano.RecTormenta = 0;
+    if (leida.PasoPpReal > 0) {
+        pasos.PasoPp = leida.PasoPpReal;
+        pasos.PasoQ = PasoQEn(pasos.PasoPp, pasos.PasoQ);
+    }
     return enMano;
 }
 
@@ -69,9 +85,10 @@ LluviaPuesta LluviaDe(model::Siro& s, const study::Evento& evento)
     LluviaPuesta p;
     p.lluvia.nombre = evento.nombre;
     p.lluvia.pasos = s.Pasos;
-    p.lluvia.tormenta = evento.lluvia.origen == "registrada" ? Registrada(s, evento.lluvia.archivo)
-                        : evento.lluvia.origen == "lamina"   ? DeLamina(s.Tormenta, evento.lluvia)
-                                                             : s.Tormenta;
+    p.lluvia.tormenta = evento.lluvia.origen == "registrada"
+                            ? Registrada(s, evento.lluvia.archivo, p.lluvia.pasos)
+                        : evento.lluvia.origen == "lamina" ? DeLamina(s.Tormenta, evento.lluvia)
+                                                           : s.Tormenta;
     p.motivo = MotivoDe(evento, p.lluvia.tormenta);
     const double duracion = p.lluvia.tormenta.DurTormenta,
                  hasta = std::min(std::ceil(UltimaObservacion(evento)) + s.Pasos.PasoQ, MaximoSimulado);

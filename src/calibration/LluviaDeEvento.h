@@ -16,7 +16,8 @@ struct LluviaPuesta {
 };
 
 /// The storm of an event in the project's steps, long enough for its observations to be reached: up to 30,000
-/// minutes. A recorded storm is read from the project's directory; what is in hand stays as it is.
+/// minutes. A recorded storm is read from the project's directory and goes in its own step, the output step
+/// in a whole part of it; what is in hand stays as it is.
 LluviaPuesta LluviaDe(model::Siro& s, const study::Evento& evento);
 
 }  // namespace calibration

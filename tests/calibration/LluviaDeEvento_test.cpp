@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cstdint>
 #include <string>
 
 #include "apoyo/AnfitrionPrueba.h"
@@ -91,6 +93,26 @@ TEST_F(LaLluviaDeUnEvento, OLaDeUnaTormentaRegistradaYLaDeEnManoQueda)
               "El evento \"Marzo\": la tormenta registrada No_pt.vlm no se pudo leer.");
     sin.lluvia.archivo = "";
     EXPECT_EQ(LluviaDe(s, sin).motivo, "El evento \"Marzo\": falta elegir la tormenta registrada.");
+}
+
+/// As the storm's window has it: by blocks and in the storm's step, which the output step has to divide.
+TEST_F(LaLluviaDeUnEvento, UnaRegistradaVaPorSusBloquesYEnSuPaso)
+{
+    const study::Evento e{.nombre = "Marzo", .lluvia = {.origen = "registrada", .archivo = "Crecida_pt.vlm"}};
+    for (const auto& [paso, q, esperado] :
+         {std::array{15, 10, 5}, std::array{5, 10, 5}, std::array{60, 10, 10}, std::array{60, 45, 30}}) {
+        s.Tormenta.NroPpReal = 1;
+        s.Tormenta.PpReal.Redimensiona(1);
+        model::TormentaReal real{.nombre = "Crecida_pt.vlm", .PasoPpReal = static_cast<std::int16_t>(paso)};
+        model::GuardaPpReal(s, real);
+        s.Pasos.PasoPp = 10;
+        s.Pasos.PasoQ = static_cast<std::int16_t>(q);
+        const LluviaPuesta p = LluviaDe(s, e);
+        EXPECT_EQ(p.lluvia.tormenta.DistriPp, 7);
+        EXPECT_EQ(p.lluvia.pasos.PasoPp, paso);
+        EXPECT_EQ(p.lluvia.pasos.PasoQ, esperado);
+        EXPECT_EQ(s.Pasos.PasoPp, 10);
+    }
 }
 
 TEST_F(LaLluviaDeUnEvento, LaCorridaAlcanzaALoObservado)
