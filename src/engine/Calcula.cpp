@@ -154,7 +154,8 @@ void Calculadora::Toma(const model::Tormenta& tormenta, const model::TablasDeLlu
     estado->oyente.avisos.clear();
     PonTormenta(s, tormenta);
     s.Hietograma = {};
-    if (tormenta.DistriPp >= model::PrimeraPersonal) s.TablasDeLluvia = tablas;
+    if (tormenta.DistriPp >= model::PrimeraPersonal && tormenta.FormaPp != model::FormaLluvia::Real)
+        s.TablasDeLluvia = tablas;
     ConstruyeHietograma(s, TablasPersonales::EnMemoria);
     estado->tomada = {s.Tormenta, s.Hietograma, estado->oyente.avisos};
 }

@@ -294,6 +294,31 @@ void ExigeVersion(const Json& raiz)
                      "es de una versión posterior del programa (\"version\": " + version->dump() + ")"};
 }
 
+/// What `toma` takes out of the tree of a text.
+template <typename Lectura>
+Lectura Lee(std::string_view bytes, void (*toma)(const Json& raiz, Lectura& lectura))
+{
+    const auto falla = [](int renglon, std::string motivo) {
+        Lectura lectura;
+        lectura.renglon = renglon;
+        lectura.motivo = std::move(motivo);
+        return lectura;
+    };
+    if (bytes.size() > MaximoDeBytes) return falla(1, "el archivo pasa de 16 MiB");
+    if (bytes.find_first_not_of(" \t\r\n") == std::string_view::npos)
+        return falla(1, "el archivo está vacío");
+    Arbol arbol;
+    arbol.Lee(bytes);
+    if (!arbol.motivo.empty()) return falla(arbol.Renglon(), arbol.motivo);
+    try {
+        Lectura lectura;
+        toma(arbol.raiz, lectura);
+        return lectura;
+    } catch (const Reparo& reparo) {
+        return falla(arbol.RenglonDe(*reparo.lugar), reparo.que);
+    }
+}
+
 // --- writing ---
 
 /// Puts the fields into an object.
@@ -376,21 +401,20 @@ void Vuelca(std::string& texto, const Json& j, std::size_t sangria)
 
 LecturaDeEstudio LeeEstudio(std::string_view bytes)
 {
-    if (bytes.size() > MaximoDeBytes) return {{}, 1, "el archivo pasa de 16 MiB"};
-    if (bytes.find_first_not_of(" \t\r\n") == std::string_view::npos) return {{}, 1, "el archivo está vacío"};
-    Arbol arbol;
-    arbol.Lee(bytes);
-    if (!arbol.motivo.empty()) return {{}, arbol.Renglon(), arbol.motivo};
-    try {
-        LecturaDeEstudio lectura;
-        Lector lector(arbol.raiz);
-        ExigeVersion(arbol.raiz);
+    return Lee<LecturaDeEstudio>(bytes, [](const Json& raiz, LecturaDeEstudio& lectura) {
+        Lector lector(raiz);
+        ExigeVersion(raiz);
         lector.Conoce(ClaveVersion);
         Campos(lector, lectura.estudio);
-        return lectura;
-    } catch (const Reparo& reparo) {
-        return {{}, arbol.RenglonDe(*reparo.lugar), reparo.que};
-    }
+    });
+}
+
+LecturaDeAjuste LeeAjuste(std::string_view bytes)
+{
+    return Lee<LecturaDeAjuste>(bytes, [](const Json& raiz, LecturaDeAjuste& lectura) {
+        Lector lector(raiz);
+        Campos(lector, lectura.ajuste);
+    });
 }
 
 std::string EscribeEstudio(const Estudio& estudio)

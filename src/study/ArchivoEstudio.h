@@ -28,6 +28,17 @@ struct LecturaDeEstudio {
 /// twice, of another kind, or out of its bounds is a fault, and so is a version to come.
 LecturaDeEstudio LeeEstudio(std::string_view bytes);
 
+/// The part of a study that is a task of siro-lote too: observed floods, and what is asked of many runs.
+struct LecturaDeAjuste {
+    Ajuste ajuste{};       ///< empty where the text is none
+    int renglon = 0;       ///< where it fails, from 1
+    std::string motivo{};  ///< why it is none, without capital and full stop; empty: it is one
+};
+
+/// Reads the bytes of a file that holds what a study has under its key "ajuste", by the same rules; it needs
+/// no version. Keys that aren't known stand in `resto`.
+LecturaDeAjuste LeeAjuste(std::string_view bytes);
+
 /// The text of a study: keys always in the same order, a line per maximum, every digit that tells one number
 /// from the next; what is no UTF-8 in a text is U+FFFD.
 std::string EscribeEstudio(const Estudio& estudio);

@@ -107,6 +107,8 @@ RC_GTEST_PROP(ElCorredor, TieneLosBitsDeUnaRedEditadaAMano, (std::uint32_t semil
 TEST(CorreMiembros, DaLosMismosBitsConUnoDosYOchoHilos)
 {
     RedAlAzar azar(7);
+    azar.m.red.UEHs(1).KostiakovA = 1;
+    azar.m.red.UEHs(1).KostiakovB = 0.4F;
     azar.m.parametros = {
         {.componentes = "u-*", .campo = "kostiakov_a", .modo = "factor", .minimo = 0.5, .maximo = 2},
         {.componentes = "tormenta", .campo = "lamina", .minimo = 20, .maximo = 90}};
@@ -116,7 +118,7 @@ TEST(CorreMiembros, DaLosMismosBitsConUnoDosYOchoHilos)
         EXPECT_TRUE(CorreMiembros(azar.m, q.size(), hilos, [&](std::size_t k, Corredor& corredor) {
             const auto x = static_cast<double>(k);
             const model::Resultados& r = corredor.Corre(std::vector{0.5 + x / 30, 20 + x}, 0).Resultados;
-            q[k] = r.QMax(r.NroComponentes, 1);
+            q[k] = r.QMax(1, 1);
         }));
         return q;
     };

@@ -212,6 +212,24 @@ TEST(ArchivoEstudio, LosValoresDeUnaObservacionNoEstanEnElTextoPeroTambienHanDeV
     EXPECT_EQ(ReparoDe(e), "\"peso\" es negativo");
 }
 
+TEST(ArchivoEstudio, LaTareaEsElMismoObjetoSinVersion)
+{
+    const LecturaDeAjuste lectura = LeeAjuste(
+        "{\"parametros\": [{\"campo\": \"area\", \"modo\": \"factor\"}],\n\"incertidumbre\": {\"miembros\": "
+        "10},"
+        "\"algo\": 1}");
+    EXPECT_EQ(lectura.motivo, "");
+    ASSERT_EQ(lectura.ajuste.parametros.size(), 1U);
+    EXPECT_EQ(lectura.ajuste.parametros[0].modo, "factor");
+    EXPECT_EQ(lectura.ajuste.incertidumbre.miembros, 10);
+    EXPECT_EQ(lectura.ajuste.resto, "{\"algo\":1}");
+    const LecturaDeAjuste mala = LeeAjuste("{\n\"incertidumbre\":\n{\"miembros\": 0}}");
+    EXPECT_EQ(mala.motivo, "\"miembros\" no está entre 1 y 1000000");
+    EXPECT_EQ(mala.renglon, 3);
+    EXPECT_EQ(mala.ajuste, Ajuste{});
+    EXPECT_EQ(LeeAjuste(" ").motivo, "el archivo está vacío");
+}
+
 TEST(ArchivoEstudio, DiezMilAniosVuelven)
 {
     Estudio e;
