@@ -6,9 +6,12 @@
 #include <cmath>
 #include <cstdint>
 #include <deque>
+#include <limits>
 #include <type_traits>
 #include <utility>
 
+#include "engine/Muskingum.h"
+#include "model/Avisos.h"
 #include "model/Clases.h"
 #include "model/Represa.h"
 
@@ -189,6 +192,28 @@ char ClaseDe(const Parametro& p)
                : '\0';
 }
 
+bool Sirve(float K, float x, std::int16_t PasoQ)
+{
+    bool sirve = false;
+    engine::Muskingum musk;
+    model::Sentencia([&] { sirve = musk.Prepara(K, x, PasoQ, [](auto cuerpo) { cuerpo(); }); });
+    return sirve;
+}
+
+/// The nearest K that a run takes; K itself where there is none so near.
+float KQueSirve(float K, float x, std::int16_t PasoQ)
+{
+    constexpr int Lejos = 64;
+    float arriba = K, abajo = K;
+    for (int i = 0; i <= Lejos; ++i) {
+        for (const float k : {arriba, abajo})
+            if (Sirve(k, x, PasoQ)) return k;
+        arriba = std::nextafter(arriba, std::numeric_limits<float>::max());
+        abajo = std::nextafter(abajo, 0.0F);
+    }
+    return K;
+}
+
 /// Scales the depths that a storm has beside its total.
 void EscalaLamina(const model::Tormenta& original, model::Tormenta& t, double factor)
 {
@@ -284,19 +309,33 @@ void Pon(const Movido& movido, const Parametro& p, double valor, const model::To
     EscalaLamina(original, t, p.modo == "factor" ? valor : nueva / movido.actual[0]);
 }
 
-void Aplica(std::span<const Parametro> parametros, std::span<const double> valores, Red& red,
-            model::Tormenta& tormenta)
+void AfinaMuskingum(std::span<const Movido> movidos, std::int16_t PasoQ, Red& red)
 {
-    const Red antes = red;
+    for (const Movido& m : movidos) {
+        if (!m.motivo.empty() || !m.campo->clave.starts_with("musk_")) continue;
+        const Campo *campoK = CampoDe("musk_k", m.campo->clase), *campoX = CampoDe("musk_x", m.campo->clase);
+        for (const int numero : m.numeros) {
+            float& K = *campoK->lugar.pone(red, numero);
+            K = KQueSirve(K, campoX == nullptr ? 0 : *campoX->lugar.lee(red, numero), PasoQ);
+        }
+    }
+}
+
+void Aplica(std::span<const Parametro> parametros, std::span<const double> valores, const model::Pasos& pasos,
+            Red& red, model::Tormenta& tormenta)
+{
+    std::vector<Movido> movidos;
+    for (const Parametro& p : parametros)
+        movidos.push_back(Resuelve(p, red, tormenta));
     const model::Tormenta original = tormenta;
     for (std::size_t i = 0; i < parametros.size(); ++i) {
-        const Movido m = Resuelve(parametros[i], antes, original);
-        if (!m.motivo.empty()) continue;
-        if (m.campo->clase == 't')
-            Pon(m, parametros[i], valores[i], original, tormenta);
+        if (!movidos[i].motivo.empty()) continue;
+        if (movidos[i].campo->clase == 't')
+            Pon(movidos[i], parametros[i], valores[i], original, tormenta);
         else
-            Pon(m, parametros[i], valores[i], red);
+            Pon(movidos[i], parametros[i], valores[i], red);
     }
+    AfinaMuskingum(movidos, pasos.PasoQ, red);
 }
 
 std::string NombreDe(const Parametro& p)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
@@ -62,10 +63,15 @@ void Pon(const Movido& movido, const study::Parametro& p, double valor, model::R
 void Pon(const Movido& movido, const study::Parametro& p, double valor, const model::Tormenta& original,
          model::Tormenta& tormenta);
 
-/// The same of a whole set of values, one per parameter: what Aplicar does. Those that move nothing are
+/// A run refuses Muskingum's K and x where rounding alone keeps the coefficients from adding up to 1: each K
+/// that has been moved, or whose x has, goes to the nearest one, up to 64 units in the last place away, with
+/// which they do in an output step [min].
+void AfinaMuskingum(std::span<const Movido> movidos, std::int16_t PasoQ, model::Red& red);
+
+/// All of it for a whole set of values, one per parameter: what Aplicar does. Those that move nothing are
 /// passed over.
-void Aplica(std::span<const study::Parametro> parametros, std::span<const double> valores, model::Red& red,
-            model::Tormenta& tormenta);
+void Aplica(std::span<const study::Parametro> parametros, std::span<const double> valores,
+            const model::Pasos& pasos, model::Red& red, model::Tormenta& tormenta);
 
 /// How a parameter names itself: "u-*.kostiakov_a (factor)".
 std::string NombreDe(const study::Parametro& p);

@@ -87,6 +87,7 @@ struct EnUnaLluvia {
             else if (movidos[i].motivo.empty())
                 Pon(movidos[i], modelo.parametros[i], valores[i], calculadora.Red());
         }
+        AfinaMuskingum(movidos, lluvia.pasos.PasoQ, calculadora.Red());
         if (mueveTormenta) calculadora.Toma(tormenta, modelo.tablas);
     }
 
@@ -168,11 +169,11 @@ const engine::Calculo& Corredor::Corre(std::span<const double> valores, std::siz
 std::string MotivoDe(const engine::Calculo& calculo)
 {
     if (calculo.fin != engine::FinCalculo::Completo) {
-        const std::string texto =
-            calculo.avisos.empty() ? std::string{} : calculo.avisos.back().mensaje.texto;
-        return (calculo.fin == engine::FinCalculo::Rechazado ? "La corrida fue rechazada: "
-                                                             : "La corrida terminó antes: ") +
-               texto;
+        std::string motivo = calculo.fin == engine::FinCalculo::Rechazado ? "La corrida fue rechazada:"
+                                                                          : "La corrida terminó antes:";
+        for (std::size_t i = 0; i < calculo.avisos.size(); ++i)
+            motivo += (i > 0 ? " / " : " ") + calculo.avisos[i].mensaje.texto;
+        return motivo;
     }
     const model::Resultados& r = calculo.Resultados;
     if (SinNumero(r.QSale, r.NroComponentes, r.NroPasosQ)) return "Un caudal no es un número finito.";

@@ -123,13 +123,13 @@ TEST(LaTormenta, SeMueveConTodoLoQueTiene)
     registrada.PpReal(1) = 3;
     registrada.PpReal(2) = 6;
     model::Tormenta t = registrada;
-    Aplica(doble, std::vector{2.0}, red, t);
+    Aplica(doble, std::vector{2.0}, {}, red, t);
     EXPECT_EQ(t.PpTormenta, 18);
     EXPECT_EQ(t.PpReal(1), 6);
     EXPECT_EQ(t.PpReal(2), 12);
     t = registrada;
     Aplica(std::vector<study::Parametro>{{.componentes = "tormenta", .campo = "lamina"}}, std::vector{4.5},
-           red, t);
+           {}, red, t);
     EXPECT_EQ(t.PpReal(2), 3);
     EXPECT_EQ(Resuelve({.componentes = "tormenta", .campo = "duracion"}, red, registrada).motivo,
               "La duración de una tormenta registrada no se mueve.");
@@ -139,14 +139,14 @@ TEST(LaTormenta, SeMueveConTodoLoQueTiene)
     porUEH.PpUEH(3) = 12;
     EXPECT_EQ(Resuelve({.componentes = "tormenta", .campo = "lamina"}, red, porUEH).motivo,
               "La lámina de una tormenta dada por UEH se mueve por un factor.");
-    Aplica(doble, std::vector{1.5}, red, porUEH);
+    Aplica(doble, std::vector{1.5}, {}, red, porUEH);
     EXPECT_EQ(porUEH.PpUEH(3), 18);
 
     model::Tormenta escrita;
     escrita.PpTormenta = 60;
     escrita.DurTormenta = 50;
     Aplica(std::vector<study::Parametro>{{.componentes = "tormenta", .campo = "duracion", .modo = "factor"}},
-           std::vector{1.49}, red, escrita);
+           std::vector{1.49}, {}, red, escrita);
     EXPECT_EQ(escrita.DurTormenta, 75);  // 74.5 minutes
     EXPECT_EQ(escrita.PpTormenta, 60);
 }

@@ -98,17 +98,50 @@ RC_GTEST_PROP(ElCorredor, TieneLosBitsDeUnaRedEditadaAMano, (std::uint32_t semil
             valores.push_back(azar.Real(p.minimo, p.maximo));
         for (std::size_t lluvia = 0; lluvia < azar.m.lluvias.size(); ++lluvia) {
             const engine::Calculo mano = AMano(azar.m, valores, lluvia);
+            RC_ASSERT(mano.fin == engine::FinCalculo::Completo);
             RC_ASSERT(MismosBits(mano, corredor.Corre(valores, lluvia)));
         }
     }
+}
+
+// About a third of all K are refused by a run for the rounding of their coefficients alone.
+TEST(ElCorredor, NingunKDeMuskingumSeRechazaPorElRedondeo)
+{
+    RedAlAzar azar(4);
+    azar.m.red.ColCauces.Item(3).optDirMusk = false;
+    azar.m.parametros = {{.componentes = "c-3", .campo = "musk_k", .minimo = 6, .maximo = 20},
+                         {.componentes = "c-3", .campo = "musk_x", .minimo = 0, .maximo = 0.3}};
+    Corredor corredor(azar.m);
+    int rechazados = 0;
+    for (int vez = 0; vez < 200; ++vez) {
+        const std::vector<double> valores{double{azar.Real(6, 20)}, double{azar.Real(0, 0.3)}};
+        model::Red red = azar.m.red;
+        model::Tormenta tormenta = azar.m.lluvias[0].tormenta;
+        red.Cauces(3).Cauce_k_Musk = static_cast<float>(valores[0]);
+        red.Cauces(3).Cauce_n_Musk = static_cast<float>(valores[1]);
+        rechazados += MotivoDe(engine::Calcula(red, tormenta, azar.m.lluvias[0].pasos)).empty() ? 0 : 1;
+        Aplica(azar.m.parametros, valores, azar.m.lluvias[0].pasos, red, tormenta);
+        EXPECT_NEAR(red.Cauces(3).Cauce_k_Musk / valores[0], 1, 1e-5);
+        const engine::Calculo& c = corredor.Corre(valores, 0);
+        EXPECT_EQ(MotivoDe(c), "") << valores[0] << " " << valores[1];
+        EXPECT_TRUE(MismosBits(engine::Calcula(red, tormenta, azar.m.lluvias[0].pasos), c));
+    }
+    EXPECT_GT(rechazados, 20);
 }
 
 // Members one after another, each in the arrays of the one before, on any thread: the same bits as alone.
 TEST(CorreMiembros, DaLosMismosBitsConUnoDosYOchoHilos)
 {
     RedAlAzar azar(7);
-    azar.m.red.UEHs(1).KostiakovA = 1;
-    azar.m.red.UEHs(1).KostiakovB = 0.4F;
+    azar.m.red.UEHs(1) = {.NombreUEH = "u-1",
+                          .Area = 100,
+                          .LongitudMax = 600,
+                          .VelMedia = 0.5F,
+                          .numUEH = 1,
+                          .Cauce_aa = "c-1",
+                          .KostiakovA = 1,
+                          .KostiakovB = 0.4F};
+    azar.m.lluvias[0].tormenta.DurTormenta = 60;
     azar.m.parametros = {
         {.componentes = "u-*", .campo = "kostiakov_a", .modo = "factor", .minimo = 0.5, .maximo = 2},
         {.componentes = "tormenta", .campo = "lamina", .minimo = 20, .maximo = 90}};
@@ -192,6 +225,18 @@ TEST(ElCorredor, UnaCorridaRechazadaDiceSuMotivo)
     const std::string motivo = MotivoDe(corredor.Corre(std::vector{0.0}, 0));
     EXPECT_TRUE(motivo.starts_with("La corrida fue rechazada: Error en la carga de datos de UEHS Nro. 1"))
         << motivo;
+}
+
+TEST(ElMotivo, DiceTodoLoQueLaCorridaDijoAlRechazarse)
+{
+    RedAlAzar azar(5);
+    azar.m.red.ColCauces.Agrega({.numCauce = 4, .NombreCauce = "c-seco", .Cauce_aa = "c-3"});
+    Corredor corredor(azar.m);
+    const std::string motivo = MotivoDe(corredor.Corre({}, 0));
+    EXPECT_TRUE(motivo.starts_with("La corrida fue rechazada: Hay tramos de Cauces sin aportes de UEHs."))
+        << motivo;
+    EXPECT_NE(motivo.find("c-seco"), std::string::npos) << motivo;
+    EXPECT_NE(motivo.find(" / Error en la carga de datos de UEHS."), std::string::npos) << motivo;
 }
 
 TEST(ElMotivo, NoDejaPasarLoQueNoEsNumero)

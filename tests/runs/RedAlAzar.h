@@ -58,7 +58,7 @@ class RedAlAzar {
                               .LongitudMax = Real(100, 3000),
                               .VelMedia = Real(0.1, 2),
                               .numUEH = static_cast<std::int16_t>(i),
-                              .Cauce_aa = Uno(std::array{"c-1", "c-2", "l-1", "r-1"}),
+                              .Cauce_aa = i == 1 ? "c-1" : Uno(std::array{"c-1", "c-2", "l-1", "r-1"}),
                               .KostiakovA = Real(0.5, 6),
                               .KostiakovB = Real(0.2, 0.8),
                               .RetensionZ = Real(0, 8),
@@ -74,8 +74,8 @@ class RedAlAzar {
                                     .Cauce_aa = destino,
                                     .LongCauce = Real(100, 5000),
                                     .VelMediaCauce = Real(0.3, 3),
-                                    .Cauce_k_Musk = Real(8, 25),
-                                    .Cauce_n_Musk = Real(0, 0.3),
+                                    .Cauce_k_Musk = 10,  // whose coefficients add up to 1 with both steps
+                                    .Cauce_n_Musk = 0.25F,
                                     .optDirMusk = Entero(0, 1) == 1});
         };
         pon("c-1", "l-1");
