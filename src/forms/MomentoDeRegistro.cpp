@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::int64_t SegundosPorMinuto = 60, SegundosPorHora = 3600;
 
-bool SonCifras(std::string_view texto)
+bool HaySoloCifras(std::string_view texto)
 {
     return !texto.empty() &&
            std::all_of(texto.begin(), texto.end(), [](char c) { return c >= '0' && c <= '9'; });
@@ -36,8 +36,8 @@ std::optional<std::int64_t> HoraLlana(std::string_view texto)
     const std::size_t otra = marca == std::string_view::npos ? marca : texto.find(':', marca + 1);
     if (otra != std::string_view::npos) {
         const std::string_view fraccion = texto.substr(std::min(otra + LargoSegundos, texto.size()));
-        const bool bienHecha =
-            fraccion.empty() || ((fraccion[0] == '.' || fraccion[0] == ',') && SonCifras(fraccion.substr(1)));
+        const bool bienHecha = fraccion.empty() || ((fraccion[0] == '.' || fraccion[0] == ',') &&
+                                                    HaySoloCifras(fraccion.substr(1)));
         // Seconds have the limits of minutes.
         const auto valor = HoraDeTexto(std::string("0").append(texto.substr(otra, LargoSegundos)));
         if (!valor || !bienHecha) return {};
