@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "calibration/taller/dlgAjuste_ventana.h"
 
+#include "calibration/taller/AjusteParametros_ventana.h"
+
 namespace calibration {
 
 dlgAjuste_ventana::dlgAjuste_ventana(forms::Entorno& alrededor, dlgAjuste& registro, QWidget* padre)
@@ -16,7 +18,7 @@ dlgAjuste_ventana::dlgAjuste_ventana(forms::Entorno& alrededor, dlgAjuste& regis
 
 void dlgAjuste_ventana::PonPaginas()
 {
-    // 1 Eventos, 2 Parámetros, 3 Sensibilidad, 4 Calibración, 5 Incertidumbre
+    Agrega("2 Parámetros", new AjusteParametros_ventana(entorno, f));
 }
 
 void dlgAjuste_ventana::Abre()
