@@ -4,30 +4,15 @@
 #include <cmath>
 #include <cstddef>
 #include <limits>
-#include <string_view>
 #include <utility>
 
+#include "calibration/Medidas.h"
 #include "calibration/Observada.h"
-#include "model/Clases.h"
 
 namespace calibration {
 namespace {
 
 constexpr double Infinito = std::numeric_limits<double>::infinity();
-
-bool Esta(const model::Red& red, std::string_view componente)
-{
-    bool esta = false;
-    model::CadaComponente(red, [&](const auto& c) { esta = esta || model::Nombre(c) == componente; });
-    return esta;
-}
-
-int FilaDe(const model::Resultados& r, std::string_view componente)
-{
-    for (std::size_t fila = 1; fila <= static_cast<std::size_t>(r.NroComponentes); ++fila)
-        if (fila < r.Secuencia.size() && r.Secuencia[fila] == componente) return static_cast<int>(fila);
-    return 0;
-}
 
 double PerdidaDeEvento(const Puntaje& puntaje, const engine::Calculo& calculo, const model::Pasos& pasos,
                        const study::Evento& evento)
@@ -53,11 +38,7 @@ study::Observacion EnCaudal(study::Observacion o)
 Emparejados ParesDe(const engine::Calculo& calculo, const model::Pasos& pasos,
                     const study::Observacion& observacion)
 {
-    const model::Resultados& r = calculo.Resultados;
-    const int fila = FilaDe(r, observacion.componente);
-    if (fila == 0 || !r.QSale.Alcanza(fila, r.NroPasosQ)) return {};
-    const std::span<const float> caudales{r.QSale.Fila(fila), static_cast<std::size_t>(r.NroPasosQ) + 1};
-    return Empareja({caudales, static_cast<double>(pasos.PasoQ)}, observacion, observacion.puntos);
+    return Empareja(SalidaDe(calculo, observacion.componente, pasos.PasoQ), observacion, observacion.puntos);
 }
 
 Fallo CostoDe(const Puntaje& puntaje, const runs::Modelo& modelo, std::span<const study::Evento> eventos,
@@ -90,7 +71,7 @@ std::vector<std::string> ReparosDeEventos(const runs::Modelo& modelo, std::span<
         bool pesa = false;
         for (const study::Observacion& o : e.observaciones) {
             if (!(o.peso > 0)) continue;
-            if (!Esta(modelo.red, o.componente))
+            if (!EstaEnRed(modelo.red, o.componente))
                 reparos.push_back("El evento " + e.nombre + " tiene valores observados en " + o.componente +
                                   ", que no está en la red.");
             else if (o.puntos.empty())
