@@ -9,9 +9,15 @@
 #include <cmath>
 #include <cstddef>
 #include <string>
+#include <tuple>
+#include <utility>
 #include <vector>
 
+#include "calibration/Calibra.h"
 #include "calibration/CrecidasDeMuestra.h"
+#include "calibration/Juicio.h"
+#include "calibration/LluviaDeEvento.h"
+#include "calibration/Puntajes.h"
 
 namespace calibration {
 namespace {
@@ -142,6 +148,139 @@ TEST(Eventos, ElEstudioEntregadoDiceFuenteYCondicionesYSeEscribeComoSeLeyo)
             EXPECT_EQ(texto, m.s.Disco.Lee(study::RutaDeSerie(model::Ruta(m.s.Proyecto.DirProyecto, proyecto),
                                                               archivo)));
     }
+}
+
+// The page fits a cascade of n reservoirs of k hours to the first flood, on all rain over 3.4 km2 and the
+// first flow: "n 0.41 k 244.9 NSE 0.74 psi 0.45".
+TEST(Eventos, ElModeloDelPaqueteTieneEnSuCrecidaElPuntajeQueDice)
+{
+    CrecidasDeMuestra m("Weisseritz");
+    const study::Evento& evento = m.ajuste.eventos[0];
+    m.Tormenta(evento);
+    constexpr double n = 0.41, k = 244.9, M3sPorMm = 3.4 * 1000 / 3600;
+    const auto& puntos = evento.observaciones[0].puntos;
+    const double base = puntos[0].valor;
+    std::vector<Par> pares;
+    double directa = 0;
+    for (std::size_t i = 0; i < puntos.size(); ++i) {
+        double q = base;
+        for (std::size_t j = 0; j <= i && static_cast<int>(j) < m.s.Tormenta.NroPpReal; ++j) {
+            const auto t = static_cast<double>(i - j + 1);
+            q += M3sPorMm * double{m.s.Tormenta.PpReal(static_cast<int>(j) + 1)} * std::pow(t, n - 1) /
+                 std::pow(k, n) / std::tgamma(n) * std::exp(-t / k);
+        }
+        pares.push_back({.minuto = puntos[i].minuto, .simulado = q, .observado = puntos[i].valor});
+        directa += puntos[i].valor - base;
+    }
+    EXPECT_NEAR(PuntajeDe("nse")->valor(pares).value(), 0.74, 0.005);
+    EXPECT_NEAR(directa / (M3sPorMm * 34.1), 0.45, 0.005);
+}
+
+// --- how well they are fitted ---
+
+/// A delivered project as a task: one event is fitted, the others show what that is worth.
+struct PorAjustar : CrecidasDeMuestra {
+    PorAjustar(const std::string& proyecto, const std::string& crecida) : CrecidasDeMuestra(proyecto)
+    {
+        for (study::Evento& e : ajuste.eventos) {
+            LluviaPuesta puesta = LluviaDe(s, e);
+            EXPECT_EQ(puesta.motivo, "");
+            pedido.modelo.lluvias.push_back(std::move(puesta.lluvia));
+            e.papel = e.nombre == crecida ? "calibra" : "valida";
+        }
+        pedido.modelo.red = s.Red;
+        pedido.modelo.parametros = ajuste.parametros;
+        pedido.eventos = ajuste.eventos;
+        pedido.como = ajuste.calibracion;
+        EXPECT_EQ(ReparosDe(pedido), std::vector<std::string>{});
+    }
+    void Fija(const std::vector<std::string>& campos)
+    {
+        std::erase_if(pedido.modelo.parametros, [&](const study::Parametro& p) {
+            return std::find(campos.begin(), campos.end(), p.campo) != campos.end();
+        });
+    }
+    /// Nash-Sutcliffe of a set of values in an event.
+    [[nodiscard]] double Nse(const std::vector<double>& valores, std::size_t evento) const
+    {
+        runs::Corredor corredor(pedido.modelo);
+        const runs::Lluvia& lluvia = pedido.modelo.lluvias[evento];
+        const Emparejados e = ParesDe(corredor.Corre(valores, evento), lluvia.pasos,
+                                      EnCaudal(pedido.eventos[evento].observaciones[0]));
+        return PuntajeDe("nse")->valor(e.pares).value_or(-99);
+    }
+    PedidoDeCalibracion pedido{};
+};
+
+/// A row of docs/eventos.md, texts as they stand there.
+struct Renglon {
+    std::string proyecto, crecida;
+    std::vector<std::string> valores;
+    std::string nse;
+    std::string enOtra{};  ///< in the third flood
+};
+const std::vector<Renglon> Hallados{
+    {"Bachman",
+     "17/06/1966",
+     {"1.3478", "11.856", "0.49321", "253.02", "0.711", "1.3796", "73.558"},
+     "0.954"},
+    {"BachmanTres",
+     "17/06/1966",
+     {"1.2286", "9.4781", "0.51724", "255.21", "3.192", "1.0969", "71.212"},
+     "0.937"},
+    {"Weisseritz",
+     "Crecida 1",
+     {"0.61225", "3.0883", "0.3619", "244.05", "11.19", "3.9614", "679.77"},
+     "0.967"},
+    {"Bachman", "07/06/1974", {"1.5117", "7.5461", "9.507", "1.2701", "30.269"}, "0.989", "0.919"},
+};
+
+TEST(Eventos, LosParametrosDeLaPaginaDanLosPuntajesQueDice)
+{
+    const std::string pagina = model::DiscoDelSistema().Lee(SIRO_DATA_DIR "/../docs/eventos.md");
+    for (const Renglon& r : Hallados) {
+        PorAjustar p(r.proyecto, r.crecida);
+        if (r.valores.size() == 5) p.Fija({"kostiakov_b", "kostiakov_i"});
+        std::vector<double> valores;
+        std::string texto = "| `" + r.proyecto + "` | " + r.crecida;
+        for (const std::string& v : r.valores) {
+            valores.push_back(std::stod(v));
+            texto += " | " + v;
+        }
+        texto += " | " + r.nse + (r.enOtra.empty() ? "" : " | " + r.enOtra) + " |\n";
+        EXPECT_NE(pagina.find(texto), std::string::npos) << texto;
+        const std::size_t cual = r.crecida == "07/06/1974" ? 1 : 0;
+        EXPECT_NEAR(p.Nse(valores, cual), std::stod(r.nse), 0.001) << texto;
+        if (!r.enOtra.empty()) {
+            EXPECT_NEAR(p.Nse(valores, 2), std::stod(r.enOtra), 0.001) << texto;
+        }
+    }
+}
+
+/// What comes with the projects, as it comes.
+TEST(Eventos, LaTareaEntregadaLlegaALosPuntajesDeLaPagina)
+{
+    for (const auto& [proyecto, crecida, nse] :
+         {std::tuple{"Bachman", "17/06/1966", 0.954}, std::tuple{"Weisseritz", "Crecida 1", 0.967}}) {
+        const PorAjustar p(proyecto, crecida);
+        EXPECT_EQ(p.pedido.eventos[0].papel, "calibra");
+        const auto hallado = Calibra(p.pedido);
+        ASSERT_TRUE(hallado);
+        EXPECT_GT(hallado->Puntaje(), nse - 0.005) << proyecto;
+    }
+}
+
+TEST(Eventos, ConMenosParametrosSeAjustaIgualYLaCrecidaDe1976SaleMejor)
+{
+    PorAjustar p("Bachman", "07/06/1974");
+    p.Fija({"kostiakov_b", "kostiakov_i"});
+    p.pedido.como.corridas = 2000;
+    const auto hallado = Calibra(p.pedido);
+    ASSERT_TRUE(hallado);
+    EXPECT_GT(hallado->Puntaje(), 0.98);
+    EXPECT_GT(p.Nse(hallado->Mejor(), 2), 0.85);
+    for (const Hallado& h : hallado->parametros)
+        EXPECT_TRUE(h.identificable) << h.nombre;
 }
 
 }  // namespace
