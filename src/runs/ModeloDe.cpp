@@ -18,14 +18,8 @@ using study::Evento;
 
 namespace {
 
-constexpr std::int16_t DistribucionReal = 7;  // what the desktop ticks for a recorded storm
-constexpr int TopeMinutos = 32767;
-
-/// How a sentence names the storm of an event.
-std::string LaLluviaDe(const Evento& e)
-{
-    return "La tormenta del evento «" + e.nombre + "»";
-}
+constexpr std::int16_t PorBloques = 7;    // the temporal distribution that a recorded storm is run with
+constexpr double MaximoSimulado = 30000;  // [min], within 16 bits with a step to spare
 
 /// The greatest step that isn't above `paso` and goes into the model step a whole number of times.
 std::int16_t PasoQueDivide(std::int16_t paso, std::int16_t PasoPp)
@@ -45,21 +39,21 @@ Siro Aparte(const Siro& s)
     return aparte;
 }
 
-/// Takes the recorded storm of an event; why it can't be, as a sentence.
-std::string TomaRegistrada(const Siro& s, const Evento& e, Lluvia& lluvia)
+/// Takes the recorded storm of an event; why it can't be, without a capital.
+std::string TomaRegistrada(const Siro& s, const std::string& archivo, Lluvia& lluvia)
 {
-    const std::string& archivo = e.lluvia.archivo;
-    if (!archivo.ends_with(model::TerminacionTormenta) || archivo.find_first_of("/\\") != std::string::npos)
-        return LaLluviaDe(e) + " no nombra una tormenta registrada del proyecto, _pt.vlm: «" + archivo + "».";
+    if (archivo.empty()) return "falta elegir la tormenta registrada.";
     Siro aparte = Aparte(s);
     model::TormentaReal real;
     real.nombre = archivo;
-    model::LeePpReal(aparte, real);
+    const bool deTormenta =
+        archivo.ends_with(model::TerminacionTormenta) && archivo.find_first_of("/\\") == std::string::npos;
+    if (deTormenta) model::LeePpReal(aparte, real);
     if (aparte.Tormenta.NroPpReal < 1 || real.PasoPpReal < 1)
-        return "El archivo de la tormenta del evento «" + e.nombre + "» no se puede leer: «" + archivo + "».";
+        return "la tormenta registrada " + archivo + " no se pudo leer.";
     lluvia.tormenta = aparte.Tormenta;
     lluvia.tormenta.FormaPp = FormaLluvia::Real;
-    lluvia.tormenta.DistriPp = DistribucionReal;
+    lluvia.tormenta.DistriPp = PorBloques;
     lluvia.pasos.PasoPp = real.PasoPpReal;
     return {};
 }
@@ -73,44 +67,26 @@ void TomaLamina(const study::LluviaDeEvento& l, Lluvia& lluvia)
     if (l.duracion > 0) lluvia.pasos.PasoPp = std::min(lluvia.pasos.PasoPp, lluvia.tormenta.DurTormenta);
 }
 
-bool Llueve(const model::Tormenta& t)
+/// Why a storm can't be run, without a capital; empty: it can.
+std::string SinLluvia(const Evento& e, const model::Tormenta& t)
 {
-    if (t.DurTormenta < 1) return false;
-    if (t.FormaPp != FormaLluvia::PorUEH) return t.PpTormenta > 0;
-    for (int i = 1; i <= t.PpUEH.Tope(); ++i)
-        if (t.PpUEH(i) > 0) return true;
-    return false;
+    if (t.DurTormenta < 1)
+        return e.lluvia.origen == "proyecto" ? "no hay ninguna tormenta en mano."
+                                             : "la lluvia no tiene duración.";
+    bool llueve = t.FormaPp != FormaLluvia::PorUEH && t.PpTormenta > 0;
+    for (int i = 1; t.FormaPp == FormaLluvia::PorUEH && i <= t.PpUEH.Tope(); ++i)
+        llueve = llueve || t.PpUEH(i) > 0;
+    return llueve ? "" : "la lluvia no tiene lámina.";
 }
 
-/// Lengthens the time behind the storm to the last observation; why it can't reach so far.
-std::string Alcanza(const Evento& e, Lluvia& lluvia)
+/// The last minute that something was observed at.
+double UltimaObservacion(const Evento& evento)
 {
-    double ultimo = 0;
-    for (const study::Observacion& o : e.observaciones)
+    double ultima = 0;
+    for (const study::Observacion& o : evento.observaciones)
         for (const study::Punto& p : o.puntos)
-            ultimo = std::max(ultimo, p.minuto);
-    const double falta = std::ceil(ultimo) - lluvia.tormenta.DurTormenta;
-    if (falta + lluvia.tormenta.DurTormenta + 2.0 * lluvia.pasos.PasoPp > TopeMinutos)
-        return "Las observaciones del evento «" + e.nombre + "» pasan de lo que una corrida dura, " +
-               std::to_string(TopeMinutos) + " minutos.";
-    lluvia.pasos.N0Dur = std::max(lluvia.pasos.N0Dur, static_cast<float>(falta));
-    return {};
-}
-
-std::string ArmaLluvia(const Siro& s, const Evento& e, Lluvia& lluvia)
-{
-    lluvia = {.nombre = e.nombre, .tormenta = s.Tormenta, .pasos = s.Pasos};
-    std::string reparo;
-    if (e.lluvia.origen == "registrada")
-        reparo = TomaRegistrada(s, e, lluvia);
-    else if (e.lluvia.origen == "lamina")
-        TomaLamina(e.lluvia, lluvia);
-    else if (e.lluvia.origen != "proyecto")
-        reparo = LaLluviaDe(e) + " es de un origen que no se conoce: «" + e.lluvia.origen + "».";
-    if (!reparo.empty()) return reparo;
-    if (!Llueve(lluvia.tormenta)) return LaLluviaDe(e) + " no tiene lámina o no tiene duración.";
-    lluvia.pasos.PasoQ = PasoQueDivide(lluvia.pasos.PasoQ, lluvia.pasos.PasoPp);
-    return Alcanza(e, lluvia);
+            ultima = std::max(ultima, p.minuto);
+    return ultima;
 }
 
 /// The personal distributions, where a storm is spread by one: a run reads them anew as well.
@@ -127,25 +103,43 @@ void TomaTablas(const Siro& s, Modelo& modelo)
 
 }  // namespace
 
+LluviaPuesta LluviaDe(const Siro& s, const Evento& e)
+{
+    LluviaPuesta p{.lluvia = {.nombre = e.nombre, .tormenta = s.Tormenta, .pasos = s.Pasos}};
+    Lluvia& lluvia = p.lluvia;
+    if (e.lluvia.origen == "registrada")
+        p.motivo = TomaRegistrada(s, e.lluvia.archivo, lluvia);
+    else if (e.lluvia.origen == "lamina")
+        TomaLamina(e.lluvia, lluvia);
+    else if (e.lluvia.origen != "proyecto")
+        p.motivo = "no se conoce el origen de la lluvia «" + e.lluvia.origen + "».";
+    if (p.motivo.empty()) p.motivo = SinLluvia(e, lluvia.tormenta);
+    if (!p.motivo.empty())
+        p.motivo = (e.nombre.empty() ? "La corrida: " : "El evento \"" + e.nombre + "\": ") + p.motivo;
+    lluvia.pasos.PasoQ = PasoQueDivide(lluvia.pasos.PasoQ, lluvia.pasos.PasoPp);
+    const double hasta = std::min(std::ceil(UltimaObservacion(e)) + lluvia.pasos.PasoQ, MaximoSimulado);
+    lluvia.pasos.N0Dur =
+        std::max(lluvia.pasos.N0Dur, static_cast<float>(hasta - lluvia.tormenta.DurTormenta));
+    return p;
+}
+
 ModeloDeProyecto ModeloDe(const Siro& s, const study::Ajuste& ajuste)
 {
     ModeloDeProyecto m;
     m.modelo.red = s.Red;
     std::ranges::copy_if(ajuste.parametros, std::back_inserter(m.modelo.parametros),
                          &study::Parametro::activo);
+    const auto agrega = [&](const Evento& e) {
+        LluviaPuesta p = LluviaDe(s, e);
+        if (!p.motivo.empty()) m.reparos.push_back(std::move(p.motivo));
+        m.modelo.lluvias.push_back(std::move(p.lluvia));
+    };
     for (std::size_t i = 0; i < ajuste.eventos.size(); ++i) {
         if (ajuste.eventos[i].papel == "fuera") continue;
-        Lluvia lluvia;
-        std::string reparo = ArmaLluvia(s, ajuste.eventos[i], lluvia);
-        if (!reparo.empty()) m.reparos.push_back(std::move(reparo));
-        m.modelo.lluvias.push_back(std::move(lluvia));
+        agrega(ajuste.eventos[i]);
         m.eventos.push_back(i);
     }
-    if (m.modelo.lluvias.empty()) {
-        m.modelo.lluvias.push_back({.tormenta = s.Tormenta, .pasos = s.Pasos});
-        if (!Llueve(s.Tormenta))
-            m.reparos.emplace_back("La tormenta en mano no tiene lámina o no tiene duración.");
-    }
+    if (m.eventos.empty()) agrega({});
     TomaTablas(s, m.modelo);
     if (s.Red.ColUEHs.Cuenta() == 0)
         m.reparos.emplace_back("El proyecto no tiene ninguna UEH.");

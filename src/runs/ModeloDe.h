@@ -11,6 +11,18 @@
 
 namespace runs {
 
+/// The storm of an event as runs take it.
+struct LluviaPuesta {
+    Lluvia lluvia{};
+    std::string motivo{};  ///< why the event can't be run, a sentence; empty: it can
+};
+
+/// The storm in hand as a run takes it, a series' as one typed in; a recorded one of the project's directory,
+/// by its blocks and in its own step; or a depth with its duration and distribution. The output step becomes
+/// the next smaller one that divides the model step, and the run is long enough for the observations of the
+/// event to be reached, up to 30,000 minutes.
+LluviaPuesta LluviaDe(const model::Siro& s, const study::Evento& evento);
+
 /// The model of a project, and what keeps it from being run.
 struct ModeloDeProyecto {
     Modelo modelo{};
@@ -22,10 +34,8 @@ struct ModeloDeProyecto {
 /// The network in memory, the active parameters, and the storm of each event that isn't "fuera", in steps
 /// that reach the last of its observations; of a study without such events the storm in hand alone.
 ///
-/// The storm in hand is taken as a run takes it, a series' as one typed in. Of a recorded one the file, and
-/// of a personal distribution the tables that projects share, are read from the disk; the rest is a function
-/// of what is in memory. Steps of a recorded storm are its file's; an output step that doesn't divide the
-/// model step becomes the next smaller one that does.
+/// Recorded storms, and the personal distributions of a storm that is spread by one, are read from the disk;
+/// the rest is a function of what is in memory.
 ModeloDeProyecto ModeloDe(const model::Siro& s, const study::Ajuste& ajuste);
 
 /// Place of the storm of an event, by its name; of the empty name the first. None: modelo.lluvias.size().

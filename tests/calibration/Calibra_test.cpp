@@ -31,7 +31,7 @@ Gemelo Solo(const std::vector<std::string>& campos)
 {
     Gemelo g = pruebas::UnaUnidad();
     runs::Modelo& m = g.pedido.modelo;
-    runs::Aplica(m.parametros, g.verdad, m.red, m.lluvias[0].tormenta);
+    runs::Aplica(m.parametros, g.verdad, m.lluvias[0].pasos, m.red, m.lluvias[0].tormenta);
     std::vector<study::Parametro> quedan;
     std::vector<double> verdad;
     for (std::size_t i = 0; i < m.parametros.size(); ++i)
@@ -45,7 +45,7 @@ Gemelo Solo(const std::vector<std::string>& campos)
     std::vector<double> otros;
     for (const study::Parametro& p : quedan)
         otros.push_back(p.minimo + 0.9 * (p.maximo - p.minimo));
-    runs::Aplica(m.parametros, otros, m.red, m.lluvias[0].tormenta);
+    runs::Aplica(m.parametros, otros, m.lluvias[0].pasos, m.red, m.lluvias[0].tormenta);
     return g;
 }
 
@@ -142,7 +142,7 @@ TEST(Calibra, ElPuntajeEsElDeUnaCorridaConEsosValores)
     const Calibrado c = *Calibra(g.pedido);
     double suma = 0;
     runs::Modelo m = g.pedido.modelo;
-    runs::Aplica(m.parametros, c.Mejor(), m.red, m.lluvias[0].tormenta);
+    runs::Aplica(m.parametros, c.Mejor(), m.lluvias[0].pasos, m.red, m.lluvias[0].tormenta);
     for (std::size_t i = 0; i < 2; ++i) {
         const engine::Calculo calculo = engine::Calcula(m.red, m.lluvias[i].tormenta, m.lluvias[i].pasos);
         double deEvento = 0, pesos = 0;

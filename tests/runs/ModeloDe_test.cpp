@@ -74,7 +74,7 @@ TEST_F(ElModelo, CadaEventoTieneSuTormentaYLosPasosQueSusObservacionesPiden)
     ASSERT_EQ(m.modelo.lluvias.size(), 3U);
     const Lluvia &uno = m.modelo.lluvias[0], &tres = m.modelo.lluvias[1], &cuatro = m.modelo.lluvias[2];
     EXPECT_EQ(uno.tormenta.PpTormenta, 60);
-    EXPECT_EQ(uno.pasos.N0Dur, 96);  // 146 minutes in all
+    EXPECT_EQ(uno.pasos.N0Dur, 101);  // 146 minutes and a step
     EXPECT_EQ(tres.nombre, "tres");
     EXPECT_EQ(tres.tormenta.FormaPp, model::FormaLluvia::Real);
     EXPECT_EQ(tres.tormenta.PpTormenta, 11);
@@ -114,21 +114,17 @@ TEST_F(ElModelo, LoQueNoSePuedeCorrerDiceElEventoYPorQue)
         const ModeloDeProyecto m = ModeloDe(s, ajuste);
         return m.reparos.empty() ? std::string{} : m.reparos.front();
     };
-    EXPECT_EQ(reparo({.lluvia = {.origen = "registrada", .archivo = "No_pt.vlm"}}),
-              "El archivo de la tormenta del evento «uno» no se puede leer: «No_pt.vlm».");
-    EXPECT_EQ(
-        reparo({.lluvia = {.origen = "registrada", .archivo = "x.csv"}}),
-        "La tormenta del evento «uno» no nombra una tormenta registrada del proyecto, _pt.vlm: «x.csv».");
-    EXPECT_EQ(reparo({.lluvia = {.origen = "lamina", .lamina = 0}}),
-              "La tormenta del evento «uno» no tiene lámina o no tiene duración.");
+    const std::string evento = "El evento \"uno\": ";
+    for (const char* archivo : {"No_pt.vlm", "x.csv", "../P_pt.vlm"})
+        EXPECT_EQ(reparo({.lluvia = {.origen = "registrada", .archivo = archivo}}),
+                  evento + "la tormenta registrada " + archivo + " no se pudo leer.");
+    EXPECT_EQ(reparo({.lluvia = {.origen = "lamina", .lamina = 0}}), evento + "la lluvia no tiene lámina.");
     EXPECT_EQ(reparo({.lluvia = {.origen = "radar"}}),
-              "La tormenta del evento «uno» es de un origen que no se conoce: «radar».");
-    EXPECT_EQ(reparo({.observaciones = {{.componente = "u-1", .puntos = {{40000, 1}}}}}),
-              "Las observaciones del evento «uno» pasan de lo que una corrida dura, 32767 minutos.");
+              evento + "no se conoce el origen de la lluvia «radar».");
     ajuste.eventos.clear();
     s.Tormenta.PpTormenta = 0;
     EXPECT_EQ(ModeloDe(s, ajuste).reparos,
-              std::vector<std::string>{"La tormenta en mano no tiene lámina o no tiene duración."});
+              std::vector<std::string>{"La corrida: la lluvia no tiene lámina."});
     s.Red.ColUEHs.Vacia();
     EXPECT_EQ(ModeloDe(s, ajuste).reparos.back(), "El proyecto no tiene ninguna UEH.");
 }
