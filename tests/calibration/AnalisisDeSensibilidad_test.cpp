@@ -32,7 +32,7 @@ engine::Calculo CorreAMano(const runs::Modelo& m, const std::vector<double>& val
 {
     model::Red red = m.red;
     model::Tormenta tormenta = m.lluvias[lluvia].tormenta;
-    runs::Aplica(m.parametros, valores, red, tormenta);
+    runs::Aplica(m.parametros, valores, m.lluvias[0].pasos, red, tormenta);
     return engine::Calcula(red, tormenta, m.lluvias[lluvia].pasos);
 }
 
