@@ -2,217 +2,23 @@
 #include "batch/Opciones.h"
 
 #include <CLI/CLI.hpp>
-#include <algorithm>
 #include <array>
-#include <cmath>
 #include <cstddef>
-#include <span>
 #include <string>
 #include <utility>
+#include <vector>
 
+#include "batch/Valores.h"
 #include "model/Configuracion.h"
-#include "model/Falla.h"
-#include "model/Numeros.h"
-#include "model/Siro.h"
 #include "model/VidaProyecto.h"
 
 namespace batch {
 namespace {
 
-constexpr double TopeEntero = 32767;
-
-/// A value that an option can't take, with the reason as the user reads it.
-struct ValorErroneo {
-    std::string motivo;
-};
-
-double Numero(std::string_view texto)
-{
-    try {
-        if (const auto x = model::NumeroEntero(texto)) return *x;
-    } catch (const model::Falla&) {
-        throw ValorErroneo{"el número es demasiado grande"};
-    }
-    throw ValorErroneo{"\"" + std::string(texto) + "\" no es un número"};
-}
-
-double NumeroEnteroEntre(std::string_view texto, double menor, double mayor)
-{
-    const double x = Numero(texto);
-    if (x == std::floor(x) && x >= menor && x <= mayor) return x;
-    throw ValorErroneo{"debe ser un número entero entre " + model::NumeroATexto(menor) + " y " +
-                       model::NumeroATexto(mayor)};
-}
-
-std::int16_t Entero(std::string_view texto, double menor, double mayor)
-{
-    return static_cast<std::int16_t>(NumeroEnteroEntre(texto, menor, mayor));
-}
-
-float Lamina(std::string_view texto)
-{
-    const double x = Numero(texto);
-    if (x < 0) throw ValorErroneo{"debe ser 0 o más"};
-    try {
-        return model::Simple(x);
-    } catch (const model::Falla&) {
-        throw ValorErroneo{"el número es demasiado grande"};
-    }
-}
-
-std::vector<float> Laminas(std::string_view texto)
-{
-    std::vector<float> valores;
-    for (std::size_t desde = 0; desde <= texto.size();) {
-        const std::size_t coma = std::min(texto.find(',', desde), texto.size());
-        valores.push_back(Lamina(texto.substr(desde, coma - desde)));
-        desde = coma + 1;
-    }
-    if (valores.size() > model::MaxUEHs)
-        throw ValorErroneo{"hay más de " + model::NumeroATexto(std::int32_t{model::MaxUEHs}) + " valores"};
-    return valores;
-}
-
-std::int16_t Forma(std::string_view texto)
-{
-    const std::int16_t forma = Entero(texto, 0, 4);
-    if (forma == model::FormaLluvia::SeriePDR)
-        throw ValorErroneo{"una serie P-D-R se corre con la orden serie"};
-    return forma;
-}
-
-/// "a=1,b=2" as pairs of texts.
-std::vector<std::pair<std::string, std::string>> Pares(std::string_view texto)
-{
-    std::vector<std::pair<std::string, std::string>> pares;
-    for (std::size_t desde = 0; desde <= texto.size();) {
-        const std::size_t coma = std::min(texto.find(',', desde), texto.size());
-        const std::string_view par = texto.substr(desde, coma - desde);
-        const std::size_t igual = par.find('=');
-        if (igual == std::string_view::npos || igual == 0 || igual + 1 == par.size())
-            throw ValorErroneo{"\"" + std::string(par) + "\" no tiene la forma nombre=valor"};
-        pares.emplace_back(par.substr(0, igual), par.substr(igual + 1));
-        desde = coma + 1;
-    }
-    return pares;
-}
-
-std::vector<std::pair<double, std::string>> Series(std::string_view texto)
-{
-    std::vector<std::pair<double, std::string>> series;
-    for (const auto& [duracion, archivo] : Pares(texto))
-        series.emplace_back(Numero(duracion), archivo);
-    return series;
-}
-
-std::vector<study::Razon> Razones(std::string_view texto)
-{
-    std::vector<study::Razon> razones;
-    for (const auto& [duracion, razon] : Pares(texto))
-        razones.push_back({Numero(duracion), Numero(razon)});
-    return razones;
-}
-
-/// "k=822,a=0.2"; "a@10=900" is that of the recurrence of 10 years.
-std::vector<study::Coeficiente> Coeficientes(std::string_view texto)
-{
-    std::vector<study::Coeficiente> coeficientes;
-    for (const auto& [nombre, valor] : Pares(texto)) {
-        const std::size_t arroba = std::min(nombre.find('@'), nombre.size());
-        const double recurrencia = arroba < nombre.size() ? Numero(nombre.substr(arroba + 1)) : 0;
-        coeficientes.push_back({nombre.substr(0, arroba), Numero(valor), recurrencia});
-    }
-    return coeficientes;
-}
-
-bool EsDiaria(std::string_view texto)
-{
-    if (texto != "diaria" && texto != "corrida") throw ValorErroneo{"debe ser diaria o corrida"};
-    return texto == "diaria";
-}
-
-bool EsRelativo(std::string_view texto)
-{
-    if (texto != "log" && texto != "relativo") throw ValorErroneo{"debe ser log o relativo"};
-    return texto == "relativo";
-}
-
-double Positivo(std::string_view texto)
-{
-    const double x = Numero(texto);
-    if (x <= 0) throw ValorErroneo{"debe ser mayor que 0"};
-    return x;
-}
-
-/// "3,1.5,4" as the study keeps it.
-std::string ConBlancos(std::string texto)
-{
-    std::replace(texto.begin(), texto.end(), ',', ' ');
-    return texto;
-}
-
-/// Numbers of a list, in its order.
-std::vector<std::int16_t> DeLaLista(std::string_view texto, std::span<const std::int16_t> lista)
-{
-    std::vector<std::int16_t> elegidos;
-    for (std::size_t desde = 0; desde <= texto.size();) {
-        const std::size_t coma = std::min(texto.find(',', desde), texto.size());
-        const auto x =
-            static_cast<std::int16_t>(NumeroEnteroEntre(texto.substr(desde, coma - desde), 1, 10000));
-        if (std::find(lista.begin(), lista.end(), x) == lista.end())
-            throw ValorErroneo{model::NumeroATexto(std::int32_t{x}) +
-                               " no está entre los de las tablas P-D-R"};
-        elegidos.push_back(x);
-        desde = coma + 1;
-    }
-    std::sort(elegidos.begin(), elegidos.end());
-    elegidos.erase(std::unique(elegidos.begin(), elegidos.end()), elegidos.end());
-    return elegidos;
-}
-
-bool RespondeSi(std::string_view texto)
-{
-    if (texto != "si" && texto != "no") throw ValorErroneo{"debe ser si o no"};
-    return texto == "si";
-}
-
-int Hilos(std::string_view texto)
-{
-    constexpr double MaximoHilos = 1024;
-    return static_cast<int>(NumeroEnteroEntre(texto, 0, MaximoHilos));
-}
-
-std::string Metodo(const std::string& texto)
-{
-    if (texto != "momentos" && texto != "l" && texto != "mv") throw ValorErroneo{"debe ser momentos, l o mv"};
-    return texto;
-}
-
-std::string Bajos(const std::string& texto)
-{
-    if (texto != "17b" && texto != "17c") throw ValorErroneo{"debe ser 17b o 17c"};
-    return texto;
-}
-
-double NumeroEntre(std::string_view texto, double menor, double mayor)
-{
-    const double x = Numero(texto);
-    if (x >= menor && x <= mayor) return x;
-    throw ValorErroneo{"debe ser un número entre " + model::NumeroATexto(menor) + " y " +
-                       model::NumeroATexto(mayor)};
-}
-
-int Remuestras(std::string_view texto)
-{
-    constexpr double Menos = 100, Mas = 100000;
-    const double n = NumeroEnteroEntre(texto, 0, Mas);
-    if (n > 0 && n < Menos) throw ValorErroneo{"debe ser 0, o 100 o más"};
-    return static_cast<int>(n);
-}
-
 // Which orders take an option; 0: one without a project.
-constexpr int DeCorrida = 1, DeRevision = 2, DeAmbas = DeCorrida | DeRevision, DeFrecuencia = 4, DeIdf = 8,
-              DeTormenta = 16, DeCurvas = DeIdf | DeTormenta;
+constexpr int DeCorrida = 1, DeRevision = 2, DeFrecuencia = 4, DeIdf = 8, DeTormenta = 16, DeTarea = 32,
+              DeConjunto = 64, DeUnion = 128, DeTareas = DeTarea | DeConjunto,
+              DeAmbas = DeCorrida | DeRevision | DeTareas, DeCurvas = DeIdf | DeTormenta;
 
 /// An option with a value: how it is written and where its value goes.
 struct FilaOpcion {
@@ -234,7 +40,8 @@ constexpr auto Filas = std::to_array<FilaOpcion>({
     {"--tormenta", [](Opciones& o, const std::string& v) { o.tormenta = v; }, DeAmbas},
     {"--tabla", [](Opciones& o, const std::string& v) { o.tabla = Entero(v, 0, 3); }},
     {"--responde", [](Opciones& o, const std::string& v) { o.respondeSi = RespondeSi(v); }},
-    {"--hilos", [](Opciones& o, const std::string& v) { o.hilos = Hilos(v); }, DeCorrida | DeFrecuencia},
+    {"--hilos", [](Opciones& o, const std::string& v) { o.hilos = Hilos(v); },
+     DeCorrida | DeFrecuencia | DeTareas},
     {"--resultados", [](Opciones& o, const std::string& v) { o.resultados = v; }},
     {"--posicion", [](Opciones& o, const std::string& v) { o.posicion = NumeroEntre(v, 0, 0.5); },
      DeFrecuencia},
@@ -301,6 +108,9 @@ constexpr auto Filas = std::to_array<FilaOpcion>({
     {"--recurrencias",
      [](Opciones& o, const std::string& v) { o.recurrencias = DeLaLista(v, model::Recurrencias); },
      DeTormenta},
+    {"--tarea", [](Opciones& o, const std::string& v) { o.tarea = v; }, DeTareas},
+    {"--parte", [](Opciones& o, const std::string& v) { o.parte = ParteDe(v); }, DeConjunto},
+    {"--parcial", [](Opciones& o, const std::string& v) { o.parcial = v; }, DeConjunto},
     {"--cuenca", [](Opciones& o, const std::string& v) { o.cuenca = Lamina(v); }, DeRevision},
 });
 
@@ -309,6 +119,7 @@ struct Palabras {
     std::array<std::string, Filas.size()> valores{};
     std::array<CLI::Option*, Filas.size()> opciones{};
     std::string conf{};
+    std::vector<std::string> archivos{};
     bool pizarra = false, avisos = false, json = false, csv = false, reemplaza = false;
 };
 
@@ -319,8 +130,11 @@ CLI::App* Orden(CLI::App& programa, const char* nombre, Palabras& p, int clase =
     orden->add_flag("--json", p.json);
     if (clase == 0) return orden;
     const bool deMaximos = (clase & (DeFrecuencia | DeCurvas)) != 0;
-    orden->add_option(deMaximos ? "ARCHIVO" : "CONF", p.conf);
-    if (deMaximos) orden->add_flag("--csv", p.csv);
+    if (clase == DeUnion)
+        orden->add_option("PARCIAL", p.archivos);
+    else
+        orden->add_option(deMaximos ? "ARCHIVO" : "CONF", p.conf);
+    if (deMaximos || (clase & (DeTareas | DeUnion)) != 0) orden->add_flag("--csv", p.csv);
     if (clase == DeTormenta) orden->add_flag("--reemplaza", p.reemplaza);
     for (std::size_t i = 0; i < Filas.size(); ++i)
         if ((Filas[i].ordenes & clase) != 0) p.opciones[i] = orden->add_option(Filas[i].nombre, p.valores[i]);
@@ -364,11 +178,18 @@ Lectura Toma(const Palabras& p, Opciones o)
     return {std::move(o), {}};
 }
 
+/// Why a word is no configuration file.
+std::string ReparoDeConf(const std::string& conf)
+{
+    if (conf.empty()) return "Falta CONF";
+    return conf.ends_with(model::TerminacionConf)
+               ? std::string{}
+               : conf + " no termina en " + std::string(model::TerminacionConf);
+}
+
 Lectura Entiende(const Palabras& p, Opciones o)
 {
-    if (p.conf.empty()) return {{}, "Falta CONF"};
-    if (!p.conf.ends_with(model::TerminacionConf))
-        return {{}, p.conf + " no termina en " + std::string(model::TerminacionConf)};
+    if (std::string reparo = ReparoDeConf(p.conf); !reparo.empty()) return {{}, std::move(reparo)};
     o.conf = p.conf;
     o.pizarra = p.pizarra;
     o.avisos = p.avisos;
@@ -388,6 +209,27 @@ std::optional<Lectura> Reconoce(CLI::App& programa, int argc, const char* const*
         return Lectura{{}, MotivoDe(error, programa)};
     }
     return {};
+}
+
+/// An order that takes a project and a task, or the parts of one.
+Lectura LeeDeTarea(const char* nombre, Opciones::Orden orden, int clase, int argc, const char* const* argv)
+{
+    CLI::App programa{"", "siro-lote"};
+    programa.allow_windows_style_options(false);
+    Palabras p;
+    Orden(programa, nombre, p, clase);
+    if (auto otra = Reconoce(programa, argc, argv)) return *otra;
+    if (p.json && p.csv) return {{}, "--json y --csv no van juntos"};
+    if (clase == DeUnion && p.archivos.empty()) return {{}, "Falta PARCIAL"};
+    if (clase != DeUnion)
+        if (std::string reparo = ReparoDeConf(p.conf); !reparo.empty()) return {{}, std::move(reparo)};
+    Opciones o;
+    o.orden = orden;
+    o.conf = p.conf;
+    o.archivos = p.archivos;
+    o.json = p.json;
+    o.csv = p.csv;
+    return Toma(p, std::move(o));
 }
 
 /// An order that takes maxima and no project.
@@ -488,6 +330,29 @@ Lectura LeeOpcionesTormenta(int argc, const char* const* argv)
     if (!HayDeDonde(*l.opciones) && l.opciones->escribeTabla > 0)
         return {{}, "--escribe-tabla pide curvas: ARCHIVO, --series o --coeficientes"};
     return l;
+}
+
+Lectura LeeOpcionesAjusta(int argc, const char* const* argv)
+{
+    return LeeDeTarea("ajusta", Opciones::Orden::Ajusta, DeTarea, argc, argv);
+}
+
+Lectura LeeOpcionesSensibilidad(int argc, const char* const* argv)
+{
+    return LeeDeTarea("sensibilidad", Opciones::Orden::Sensibilidad, DeTarea, argc, argv);
+}
+
+Lectura LeeOpcionesConjunto(int argc, const char* const* argv)
+{
+    Lectura l = LeeDeTarea("conjunto", Opciones::Orden::Conjunto, DeConjunto, argc, argv);
+    if (l.opciones && l.opciones->parte != Parte{} && l.opciones->parcial.empty())
+        return {{}, "--parte va con --parcial"};
+    return l;
+}
+
+Lectura LeeOpcionesUne(int argc, const char* const* argv)
+{
+    return LeeDeTarea("une", Opciones::Orden::Une, DeUnion, argc, argv);
 }
 
 bool HayDeDonde(const Opciones& o)

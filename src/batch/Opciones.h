@@ -8,13 +8,26 @@
 #include <utility>
 #include <vector>
 
+#include "batch/Valores.h"
 #include "study/Taller.h"
 
 namespace batch {
 
 /// What a command line asks for. Numbers are within the bounds told here; paths stand as they were typed.
 struct Opciones {
-    enum class Orden { Una, Serie, Revisa, Verifica, Frecuencia, Idf, Tormenta };
+    enum class Orden {
+        Una,
+        Serie,
+        Revisa,
+        Verifica,
+        Frecuencia,
+        Idf,
+        Tormenta,
+        Ajusta,
+        Sensibilidad,
+        Conjunto,
+        Une
+    };
 
     Orden orden = Orden::Una;
     std::string conf{};             ///< path of the project's configuration file, ends in _Conf.vlm
@@ -58,6 +71,11 @@ struct Opciones {
     bool reemplaza = false;                                  ///< what is there may be written over
     float cuenca = 0;  ///< the basin as measured [ha], not negative; 0: not known
 
+    std::string tarea{};    ///< path of what is asked of many runs; empty: the project's study
+    Parte parte{};          ///< of the members of a set
+    std::string parcial{};  ///< path that this part is written to; empty: all is written as results
+    std::vector<std::string> archivos{};  ///< paths of the parts that are put together
+
     bool operator==(const Opciones&) const = default;
 };
 
@@ -92,6 +110,17 @@ Lectura LeeOpcionesIdf(int argc, const char* const* argv);
 /// The same of a design storm, which takes a depth or what curves are made of, and no project.
 std::string_view UsoTormenta();
 Lectura LeeOpcionesTormenta(int argc, const char* const* argv);
+/// The same of what is asked of many runs of a project, whose storm in hand is that of una: a search, the
+/// sensitivity, a set of members; and of the parts of a set.
+std::string_view UsoAjusta();
+Lectura LeeOpcionesAjusta(int argc, const char* const* argv);
+std::string_view UsoSensibilidad();
+Lectura LeeOpcionesSensibilidad(int argc, const char* const* argv);
+std::string_view UsoConjunto();
+Lectura LeeOpcionesConjunto(int argc, const char* const* argv);
+std::string_view UsoUne();
+Lectura LeeOpcionesUne(int argc, const char* const* argv);
+
 /// Whether it was told what curves are made of.
 bool HayDeDonde(const Opciones& opciones);
 

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "batch/AnfitrionLote.h"
+#include "batch/Opciones.h"
+#include "runs/ModeloDe.h"
+#include "study/Ajuste.h"
+
+// What ajusta, sensibilidad and conjunto start from.
+namespace batch {
+
+/// A project with what is asked of many runs of it.
+struct Tarea {
+    std::string proyecto{};  ///< its name
+    study::Ajuste ajuste{};  ///< with the values of what was observed
+    runs::ModeloDeProyecto modelo{};
+    /// The events of the model's storms, in their order; none where the storm in hand stands alone.
+    [[nodiscard]] std::vector<study::Evento> Eventos() const;
+};
+
+/// Opens the project, settles the storm in hand as una does, reads the network, the task, which is the
+/// study's own where the options name none, and the project's series of what was observed. Returns whether
+/// all that is there and the model can be run; where not, Errores has been told why, a line for each reason.
+bool AbreTarea(const Opciones& opciones, const std::string& dirEjecutable, const Salidas& salidas,
+               Tarea& tarea);
+
+/// Tells reasons, a line each, and returns the status of an order that they keep from being done.
+int Niega(const Salidas& salidas, const std::vector<std::string>& reparos);
+
+}  // namespace batch
