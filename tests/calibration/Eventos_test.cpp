@@ -6,8 +6,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstddef>
+#include <cstdio>
 #include <string>
 #include <tuple>
 #include <utility>
@@ -254,6 +256,34 @@ TEST(Eventos, LosParametrosDeLaPaginaDanLosPuntajesQueDice)
         if (!r.enOtra.empty()) {
             EXPECT_NEAR(p.Nse(valores, 2), std::stod(r.enOtra), 0.001) << texto;
         }
+    }
+}
+
+/// The chapter of the tutorial says what each set does in the four floods.
+TEST(Eventos, ElTutorialDiceLosPuntajesDeLosTresAjustes)
+{
+    const std::string pagina = model::DiscoDelSistema().Lee(SIRO_DATA_DIR "/Ayuda/tutorial.html");
+    const std::vector<double> siete{1.3988, 29.616, 0.32617, 70.77, 15.24, 1.4959, 32.803};
+    const auto valoresDe = [](const Renglon& r) {
+        std::vector<double> valores;
+        for (const std::string& v : r.valores)
+            valores.push_back(std::stod(v));
+        return valores;
+    };
+    const std::vector<std::pair<std::string, std::vector<double>>> ajustes{
+        {"Siete parámetros, ajustados a 1966", valoresDe(Hallados.front())},
+        {"Siete parámetros, ajustados a 1974", siete},
+        {"Cinco parámetros, ajustados a 1974", valoresDe(Hallados.back())}};
+    for (const auto& [nombre, valores] : ajustes) {
+        PorAjustar p("Bachman", "17/06/1966");
+        if (valores.size() == 5) p.Fija({"kostiakov_b", "kostiakov_i"});
+        std::string fila = "<tr><td>" + nombre + "</td>";
+        for (std::size_t evento = 0; evento < 4; ++evento) {
+            std::array<char, 16> texto{};
+            std::snprintf(texto.data(), texto.size(), "%.2f", p.Nse(valores, evento));
+            fila += std::string("<td>") + texto.data() + "</td>";
+        }
+        EXPECT_NE(pagina.find(fila + "</tr>"), std::string::npos) << fila;
     }
 }
 
