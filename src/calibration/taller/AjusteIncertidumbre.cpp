@@ -1,0 +1,356 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "calibration/taller/AjusteIncertidumbre.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <utility>
+
+#include "calibration/Juicio.h"
+#include "calibration/Puntajes.h"
+#include "calibration/taller/GraficosDeIncertidumbre.h"
+#include "forms/CampoNumerico.h"
+#include "model/Clases.h"
+#include "model/Numeros.h"
+#include "runs/ModeloDe.h"
+
+namespace calibration {
+
+namespace {
+
+struct Medida {
+    std::string_view clave, nombre;
+};
+constexpr auto Medidas = std::to_array<Medida>({{"pico", "Pico [m3/s]"},
+                                                {"tiempo", "Tiempo al pico [min]"},
+                                                {"volumen", "Volumen [m3]"},
+                                                {"nivel", "Nivel máximo [m]"}});
+
+struct Muestreo {
+    std::string_view clave, nombre;
+};
+constexpr auto Muestreos = std::to_array<Muestreo>({{"lhs", "Hipercubo latino"}, {"simple", "Simple"}});
+
+/// A number field of the study, what it takes and says.
+struct Campo {
+    forms::ReglaNumero regla;
+    std::string_view leyenda;
+    std::string AjusteIncertidumbre::*texto;
+    void (*pone)(study::Incertidumbre& i, double x);
+};
+constexpr auto CamposDeIncertidumbre = std::to_array<Campo>({
+    {{.control = "txtMiembros",
+      .minimo = 10,
+      .maximo = 1e6,
+      .mensaje = "Los juegos son un entero de 10 a 1000000.",
+      .clase = forms::ClaseNumero::Entero},
+     "Número de juegos",
+     &AjusteIncertidumbre::txtMiembros,
+     [](study::Incertidumbre& i, double x) { i.miembros = static_cast<int>(x); }},
+    {{.control = "txtSemilla",
+      .minimo = 0,
+      .maximo = 4294967295.0,
+      .mensaje = "La semilla es un entero de 0 a 4294967295.",
+      .clase = forms::ClaseNumero::Entero},
+     "Semilla",
+     &AjusteIncertidumbre::txtSemilla,
+     [](study::Incertidumbre& i, double x) { i.semilla = static_cast<std::uint64_t>(x); }},
+    {{.control = "txtUmbral", .minimo = -1e6, .maximo = 1e6, .mensaje = "El umbral es un número."},
+     "Umbral",
+     &AjusteIncertidumbre::txtUmbral,
+     [](study::Incertidumbre& i, double x) { i.umbral = x; }},
+});
+
+const study::Incertidumbre& ComoDe(const dlgAjuste& f)
+{
+    return AjusteDe(f).incertidumbre;
+}
+
+void CambiaComo(dlgAjuste& f, std::string_view leyenda,
+                const std::function<void(study::Incertidumbre&)>& cambio)
+{
+    study::Incertidumbre nueva = ComoDe(f);
+    cambio(nueva);
+    if (nueva == ComoDe(f)) return;
+    Cambia(f, leyenda, [&](study::Ajuste& a) { a.incertidumbre = std::move(nueva); });
+}
+
+template <std::size_t N, typename T>
+int LugarDe(const std::array<T, N>& filas, std::string_view clave)
+{
+    const auto i = std::find_if(filas.begin(), filas.end(), [&](const T& x) { return x.clave == clave; });
+    return i == filas.end() ? 0 : static_cast<int>(i - filas.begin());
+}
+
+/// Item of a list that bears a name; the first one, which stands for "the first", where none does.
+int ItemDe(const std::vector<std::string>& items, const std::string& nombre)
+{
+    const auto i = std::find(items.begin() + 1, items.end(), nombre);
+    return nombre.empty() || i == items.end() ? 0 : static_cast<int>(i - items.begin());
+}
+
+/// Whether what a set was asked under has become something else; the measure on show asks for no other set.
+bool Caduco(const AjusteIncertidumbre& m, const dlgAjuste& f)
+{
+    study::Ajuste antes = m.del.ajuste;
+    const study::Ajuste& ahora = AjusteDe(f);
+    antes.incertidumbre.medida.que = ahora.incertidumbre.medida.que;
+    return m.del.cargas != f.cargas || antes.eventos != ahora.eventos ||
+           antes.parametros != ahora.parametros || antes.incertidumbre != ahora.incertidumbre ||
+           antes.calibracion.cercanos != ahora.calibracion.cercanos;
+}
+
+std::string Linea(const std::vector<std::string>& frases)
+{
+    std::string t;
+    for (const std::string& frase : frases)
+        t += (t.empty() ? "• " : "\n• ") + frase;
+    return t;
+}
+
+std::string Cifra(double x)
+{
+    constexpr double Cien = 100, Diez = 10;
+    if (!std::isfinite(x)) return {};
+    const double a = std::fabs(x);
+    return model::NumeroATexto(model::Redondea(x, a >= Cien ? 0 : a >= Diez ? 1 : a >= 1 ? 2 : 3));
+}
+
+void PonPlanilla(AjusteIncertidumbre& m)
+{
+    forms::Planilla p{{std::string(TituloDlgAjuste) + ": cuantiles", m.temaDelConjunto},
+                      {{"Juegos que no lo pasan", true}},
+                      {}};
+    if (m.conjunto) {
+        p.titulos.push_back(std::to_string(m.conjunto->cuentan) + " juegos que cuentan, semilla " +
+                            std::to_string(m.del.ajuste.incertidumbre.semilla));
+        std::vector<const runs::Cuantiles*> columnas;
+        for (const Medida& medida : Medidas)
+            if (const runs::Cuantiles* const d = DistribucionDe(*m.conjunto, medida.clave)) {
+                columnas.push_back(d);
+                p.columnas.push_back({std::string(medida.nombre)});
+            }
+        const auto fila = [&](std::string rotulo, const auto& de) {
+            std::vector<std::string> celdas{std::move(rotulo)};
+            for (const runs::Cuantiles* const d : columnas)
+                celdas.push_back(d->Total() > 0 ? Cifra(de(*d)) : std::string());
+            p.filas.push_back(std::move(celdas));
+        };
+        fila("mínimo", [](const runs::Cuantiles& d) { return d.Minimo(); });
+        for (const double prob : ProbabilidadesDeTabla) {
+            constexpr double PorCiento = 100;
+            fila(model::NumeroATexto(model::Redondea(PorCiento * prob, 1)) + " %",
+                 [prob](const runs::Cuantiles& d) { return d.Cuantil(prob); });
+        }
+        fila("máximo", [](const runs::Cuantiles& d) { return d.Maximo(); });
+        fila("media", [](const runs::Cuantiles& d) { return d.Media(); });
+    }
+    forms::PonFilas(m.tblCuantiles, std::move(p));
+}
+
+/// What was observed at the component during the event of a set.
+std::vector<study::Punto> Observados(const AjusteIncertidumbre& m)
+{
+    for (const study::Evento& e : m.del.ajuste.eventos)
+        for (const study::Observacion& o : e.observaciones)
+            if (e.nombre == m.conjunto->evento && o.componente == m.conjunto->componente)
+                return EnCaudal(o).puntos;
+    return {};
+}
+
+void PonGrafico(AjusteIncertidumbre& m)
+{
+    m.Grafico = {};
+    if (!m.conjunto || m.conjunto->cuentan == 0) return;
+    const auto& medida = Medidas[static_cast<std::size_t>(m.medida)];
+    const runs::Cuantiles* const d = DistribucionDe(*m.conjunto, medida.clave);
+    if (m.grafico == 0)
+        m.Grafico = GraficoDeBanda(*m.conjunto, Observados(m));
+    else if (d != nullptr)
+        m.Grafico = GraficoDeMedida(*d, std::string(medida.nombre));
+    m.Grafico.titulo = (m.grafico == 0 ? m.del.ajuste.incertidumbre.glue ? std::string("Banda por parámetros")
+                                                                         : std::string("Banda de los juegos")
+                                       : std::string(medida.nombre)) +
+                       "\n" + m.temaDelConjunto;
+}
+
+void PonDichos(AjusteIncertidumbre& m, const dlgAjuste& f)
+{
+    m.lblEstado.clear();
+    if (m.corriendo)
+        m.lblEstado = m.conjunto ? "Corriendo: lo que se ve es de antes." : "Corriendo los juegos...";
+    else if (m.conjunto && Caduco(m, f))
+        m.lblEstado = "Lo que se ve es de antes: los datos cambiaron.";
+    if (!m.reparos.empty())
+        m.lblAvisos = Linea(m.reparos);
+    else if (m.conjunto)
+        m.lblAvisos = Linea(EnPalabras(*m.conjunto, m.del.ajuste.incertidumbre));
+    else
+        m.lblAvisos = "Pulse Correr juegos: cada uno toma sus parámetros de las distribuciones del paso 2.";
+}
+
+void PonListas(AjusteIncertidumbre& m, const dlgAjuste& f)
+{
+    const study::Ajuste& a = AjusteDe(f);
+    m.eventos = {a.eventos.empty() ? "(la tormenta en mano)" : "(el primero)"};
+    for (const study::Evento& e : a.eventos)
+        if (e.papel != "fuera" && !e.nombre.empty()) m.eventos.push_back(e.nombre);
+    m.componentes = {"(la primera salida)"};
+    model::CadaComponente(ProyectoDe(f).Red,
+                          [&](const auto& c) { m.componentes.push_back(model::Nombre(c)); });
+}
+
+}  // namespace
+
+AjusteIncertidumbre NuevaAjusteIncertidumbre()
+{
+    AjusteIncertidumbre m;
+    for (const Muestreo& x : Muestreos)
+        m.muestreos.emplace_back(x.nombre);
+    for (const Puntaje& p : Puntajes())
+        m.puntajes.emplace_back(p.nombre);
+    for (const Medida& x : Medidas)
+        m.medidas.emplace_back(x.nombre);
+    m.graficos.assign(GraficosDeIncertidumbre.begin(), GraficosDeIncertidumbre.end());
+    return m;
+}
+
+void Toma(AjusteIncertidumbre& m, const dlgAjuste& f)
+{
+    // Another project's set says nothing of this one.
+    const std::string proyecto = ProyectoDe(f).Proyecto.NombreProyecto;
+    if (m.conjunto && !m.temaDelConjunto.starts_with(proyecto + ",")) m.conjunto.reset();
+    const study::Incertidumbre& i = ComoDe(f);
+    PonListas(m, f);
+    m.txtMiembros = std::to_string(i.miembros);
+    m.txtSemilla = std::to_string(i.semilla);
+    m.txtUmbral = model::NumeroATexto(i.umbral);
+    m.chkGlue = i.glue;
+    m.muestreo = LugarDe(Muestreos, i.muestreo);
+    m.evento = ItemDe(m.eventos, i.medida.evento);
+    m.componente = ItemDe(m.componentes, i.medida.componente);
+    m.puntaje = -1;
+    for (std::size_t k = 0; k < Puntajes().size(); ++k)
+        if (Puntajes()[k].clave == i.medida.puntaje) m.puntaje = static_cast<int>(k);
+    m.medida = LugarDe(Medidas, i.medida.que);
+    m.reparos.clear();
+    PonPlanilla(m);
+    PonGrafico(m);
+    PonDichos(m, f);
+}
+
+std::string FaltaIncertidumbre(const dlgAjuste& f)
+{
+    if (const std::string falta = FaltaRed(f); !falta.empty()) return falta;
+    const auto& todos = AjusteDe(f).parametros;
+    if (std::none_of(todos.begin(), todos.end(), [](const study::Parametro& p) { return p.activo; }))
+        return "Falta decir qué parámetros se mueven y entre qué valores: propóngalos o agréguelos en el "
+               "paso 2.";
+    return {};
+}
+
+std::optional<PedidoDeIncertidumbre> Empieza(AjusteIncertidumbre& m, const dlgAjuste& f)
+{
+    const study::Ajuste& a = AjusteDe(f);
+    runs::ModeloDeProyecto proyecto = runs::ModeloDe(ProyectoDe(f), a);
+    PedidoDeIncertidumbre p{
+        .modelo = std::move(proyecto.modelo), .como = a.incertidumbre, .calibracion = a.calibracion};
+    for (const std::size_t cual : proyecto.eventos) {
+        p.eventos.push_back(a.eventos[cual]);
+        for (study::Observacion& o : p.eventos.back().observaciones)
+            o = EnCaudal(std::move(o));
+    }
+    m.reparos = std::move(proyecto.reparos);
+    if (m.reparos.empty()) m.reparos = ReparosDe(p);
+    m.corriendo = m.reparos.empty();
+    if (m.corriendo) m.avance = {};
+    PonDichos(m, f);
+    if (!m.corriendo) return {};
+    m.pedido = EnManoDe(f);
+    return p;
+}
+
+void Termina(AjusteIncertidumbre& m, const dlgAjuste& f, Conjunto conjunto)
+{
+    m.corriendo = false;
+    m.conjunto = std::move(conjunto);
+    m.del = m.pedido;
+    m.temaDelConjunto = ProyectoDe(f).Proyecto.NombreProyecto + ", " + m.conjunto->componente +
+                        (m.conjunto->evento.empty() ? std::string() : ", " + m.conjunto->evento);
+    PonPlanilla(m);
+    PonGrafico(m);
+    PonDichos(m, f);
+}
+
+void Cancela(AjusteIncertidumbre& m, const dlgAjuste& f)
+{
+    m.corriendo = false;
+    PonDichos(m, f);
+    if (m.lblEstado.empty()) m.lblEstado = m.conjunto ? "Cancelado: lo que se ve es de antes." : "Cancelado.";
+}
+
+bool txtNumero_AlSalir(AjusteIncertidumbre& m, dlgAjuste& f, std::string_view control)
+{
+    for (const Campo& campo : CamposDeIncertidumbre) {
+        if (campo.regla.control != control) continue;
+        std::string& texto = m.*campo.texto;
+        if (!forms::AlSalir(f.s, campo.regla, texto)) return false;
+        const double x = *forms::NumeroDeCampo(texto);
+        CambiaComo(f, campo.leyenda, [&](study::Incertidumbre& i) { campo.pone(i, x); });
+    }
+    return true;
+}
+
+void cmbMuestreo_Click(dlgAjuste& f, int cual)
+{
+    CambiaComo(f, "Muestreo", [&](study::Incertidumbre& i) {
+        i.muestreo = Muestreos.at(static_cast<std::size_t>(cual)).clave;
+    });
+}
+
+void cmbDeEvento_Click(const AjusteIncertidumbre& m, dlgAjuste& f, int cual)
+{
+    CambiaComo(f, "Evento de la incertidumbre", [&](study::Incertidumbre& i) {
+        i.medida.evento = cual > 0 ? m.eventos.at(static_cast<std::size_t>(cual)) : std::string();
+    });
+}
+
+void cmbComponente_Click(const AjusteIncertidumbre& m, dlgAjuste& f, int cual)
+{
+    CambiaComo(f, "Componente de la incertidumbre", [&](study::Incertidumbre& i) {
+        i.medida.componente = cual > 0 ? m.componentes.at(static_cast<std::size_t>(cual)) : std::string();
+    });
+}
+
+void cmbPuntaje_Click(dlgAjuste& f, int cual)
+{
+    CambiaComo(f, "Puntaje de los pesos", [&](study::Incertidumbre& i) {
+        i.medida.puntaje = Puntajes()[static_cast<std::size_t>(cual)].clave;
+    });
+}
+
+void chkGlue_Click(dlgAjuste& f, bool tildada)
+{
+    CambiaComo(f, tildada ? "Pesar por el ajuste" : "Todos pesan igual",
+               [&](study::Incertidumbre& i) { i.glue = tildada; });
+}
+
+void cmbGrafico_Click(AjusteIncertidumbre& m, int cual)
+{
+    m.grafico = cual;
+    PonGrafico(m);
+}
+
+void cmbMedida_Click(dlgAjuste& f, int cual)
+{
+    CambiaComo(f, "Medida de la incertidumbre", [&](study::Incertidumbre& i) {
+        i.medida.que = Medidas.at(static_cast<std::size_t>(cual)).clave;
+    });
+}
+
+forms::Planilla PlanillaDeIncertidumbre(const AjusteIncertidumbre& m)
+{
+    return forms::ALaVista(m.tblCuantiles);
+}
+
+}  // namespace calibration
