@@ -42,7 +42,7 @@ engine::Calculo CorridaDe(const PedidoDeIncertidumbre& p, const std::vector<doub
 {
     red = p.modelo.red;
     model::Tormenta tormenta = p.modelo.lluvias[0].tormenta;
-    runs::Aplica(p.modelo.parametros, valores, red, tormenta);
+    runs::Aplica(p.modelo.parametros, valores, p.modelo.lluvias[0].pasos, red, tormenta);
     return engine::Calcula(red, tormenta, p.modelo.lluvias[0].pasos);
 }
 const float* CaudalesDe(const engine::Calculo& c, const std::string& nombre)
@@ -170,8 +170,13 @@ TEST(Incertidumbre, UnaRepresaRebosaEnLosJuegosQueLosAvisosDicen)
     for (std::uint32_t semilla = 1; semilla <= 40; ++semilla) {
         const pruebas::RedAlAzar azar(semilla);
         PedidoDeIncertidumbre p{.modelo = azar.m};
+        p.modelo.red.ColRepresas.Ranura(1).HInicialEmb = 100.1F;
+        for (int k = 1; k <= 3; ++k) {  // a small pool
+            p.modelo.red.RepresaH(1, k) = p.modelo.red.RepresaQH(1, k) = 99.5F + 0.5F * static_cast<float>(k);
+            p.modelo.red.RepresaS(1, k) = 50000 * (k - 1);
+        }
         p.modelo.parametros = {
-            {.componentes = "u-*", .campo = "kostiakov_a", .minimo = 0.01, .maximo = 6},
+            {.componentes = "tormenta", .campo = "lamina", .minimo = 1, .maximo = 400},
             {.componentes = "r-*", .campo = "altura_inicial", .modo = "suma", .minimo = 0, .maximo = 0.2}};
         p.como.miembros = 20;
         p.como.medida.componente = "r-1";

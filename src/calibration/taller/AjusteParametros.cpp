@@ -69,8 +69,8 @@ forms::Planilla Tabla(const dlgAjuste& f)
                        {"Modo", true},
                        {"Mínimo"},
                        {"Máximo"},
-                       {"Escala", true},
                        {"Participa", true},
+                       {"Escala", true},
                        {"Distribución", true},
                        {"Centro"},
                        {"Desvío"},
@@ -86,7 +86,7 @@ forms::Planilla Tabla(const dlgAjuste& f)
             valores += (valores.empty() ? "" : "; ") + Numero(v.valor) + ":" + Numero(v.peso);
         p.filas.push_back({x.componentes, m.campo == nullptr ? x.campo : std::string(m.campo->nombre),
                            std::string(Modos[LugarDeModo(x.modo)].nombre), Numero(x.minimo), Numero(x.maximo),
-                           x.logaritmica ? "logarítmica" : "lineal", x.activo ? "sí" : "no",
+                           x.activo ? "sí" : "no", x.logaritmica ? "logarítmica" : "lineal",
                            d == nullptr ? x.distribucion : std::string(d->nombre),
                            x.centro ? Numero(*x.centro) : "", x.dispersion ? Numero(*x.dispersion) : "",
                            valores, std::string(runs::UnidadDe(x)), Ahora(m)});

@@ -18,7 +18,7 @@ AjusteParametros_ventana::AjusteParametros_ventana(forms::Entorno& alrededor, dl
     DejaChico(*grafico);
     auto* const fila =
         EnFila({Elecciones(),
-                {EnPila({Ordenes(), {LadoALado(Tabla(), SobreAvisos(grafico, m.lblAvisos), 11, 9), 1}}), 1}});
+                {EnPila({Ordenes(), {LadoALado(Tabla(), SobreAvisos(grafico, m.lblAvisos), 12, 9), 1}}), 1}});
     fila->setContentsMargins(0, 0, 0, 0);
     setLayout(fila);
     setFocusProxy(tabla);
@@ -88,7 +88,7 @@ QWidget* AjusteParametros_ventana::Elecciones()
                                  {0, 1}));
     for (QGroupBox* const marco : {parametro, sorteo})
         HabilitadoSi(marco, [this] { return Hay(); });
-    constexpr int Letras = 40;
+    constexpr int Letras = 46;
     return EnColumna({parametro, sorteo, Hueco()}, Letras);
 }
 
@@ -110,7 +110,7 @@ QLayout* AjusteParametros_ventana::Ordenes()
 QWidget* AjusteParametros_ventana::Tabla()
 {
     tabla = new forms::TablaCuadro(entorno, m.tblParametros, "tblParametros", Fila("tblParametros").leyenda);
-    tabla->PonColumnas({12, 18, 7, 8, 8, 11, 9, 12});  // [letters]; the rest stands beside
+    tabla->PonColumnas({14, 0, 8, 9, 9, 10});  // [letters]; the rest stands beside
     tabla->AlMoverse = [this] {
         const std::size_t cual = tabla->Actual();
         if (static_cast<int>(cual) != m.enMano && cual < AjusteDe(f).parametros.size())

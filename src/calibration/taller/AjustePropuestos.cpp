@@ -28,6 +28,15 @@ struct Rango {
     double minimo = 0, maximo = 1;
 };
 
+double Redondo(double x, double (*entero)(double))
+{
+    constexpr int Digitos = 3;
+    if (x == 0 || !std::isfinite(x)) return x;
+    const int decimales = Digitos - 1 - static_cast<int>(std::floor(std::log10(std::fabs(x))));
+    const double escala = std::pow(10, std::abs(decimales));
+    return decimales >= 0 ? entero(x * escala) / escala : entero(x / escala) * escala;
+}
+
 Rango PorValor(const runs::Campo& c, double menor, double mayor)
 {
     if (c.unidad == "m" && (c.clase == 'r' || c.clase == 'l')) return {menor - Metros, mayor + Metros};
@@ -56,10 +65,7 @@ Rango PorSuma(const runs::Campo& c, double menor, double mayor)
 
 double Redondo(double x)
 {
-    constexpr int Digitos = 3;
-    if (x == 0 || !std::isfinite(x)) return x;
-    const double escala = std::pow(10, Digitos - 1 - std::floor(std::log10(std::fabs(x))));
-    return std::round(x * escala) / escala;
+    return Redondo(x, [](double y) { return std::round(y); });
 }
 
 void ProponRango(Parametro& p, const dlgAjuste& f)
@@ -74,9 +80,11 @@ void ProponRango(Parametro& p, const dlgAjuste& f)
     if (p.modo == "valor") r = {std::max(r.minimo, m.campo->minimo), std::min(r.maximo, m.campo->maximo)};
     p.minimo = Redondo(r.minimo);
     p.maximo = Redondo(r.maximo);
-    // Rounding up must not leave the bounds.
-    if (p.maximo > r.maximo) p.maximo = r.maximo;
-    if (p.minimo < r.minimo) p.minimo = r.minimo;
+    // Rounding must not leave the bounds.
+    if (runs::Movida(p.modo, menor, p.minimo) < m.campo->minimo)
+        p.minimo = Redondo(r.minimo, [](double x) { return std::ceil(x); });
+    if (runs::Movida(p.modo, mayor, p.maximo) > m.campo->maximo)
+        p.maximo = Redondo(r.maximo, [](double x) { return std::floor(x); });
     p.logaritmica = p.minimo > 0 && p.maximo > 2 * p.minimo && m.campo->clave != "kostiakov_b";
     p.centro.reset();
     p.dispersion.reset();
@@ -85,13 +93,16 @@ void ProponRango(Parametro& p, const dlgAjuste& f)
 std::vector<Parametro> Propuestos(const dlgAjuste& f)
 {
     std::vector<Parametro> todos;
+    bool conBase = false;
+    for (const model::UEH& u : ProyectoDe(f).Red.ColUEHs)
+        conBase = conBase || u.Q0Recesion > 0;
     const auto propon = [&](std::string_view campo) {
         Parametro p{.campo = std::string(campo)};
         const runs::Movido m = runs::Resuelve(p, ProyectoDe(f).Red, ProyectoDe(f).Tormenta);
         if (!m.motivo.empty()) return;
         const auto [menor, mayor] = std::minmax_element(m.actual.begin(), m.actual.end());
         const bool recesion = campo == "q0_recesion" || campo == "k_recesion";
-        if (recesion && *mayor <= 0) return;
+        if (recesion && !(conBase && *mayor > 0)) return;
         // What differs from unit to unit keeps its proportions; a 0 would stay one.
         if (*menor != *mayor) p.modo = *menor > 0 || recesion ? "factor" : "suma";
         ProponRango(p, f);
@@ -129,8 +140,8 @@ std::string LeeFila(const std::vector<std::string_view>& celdas, Parametro& p)
     if (!numero(3) || !numero(4)) return "le falta el mínimo o el máximo";
     p.minimo = *numero(3);
     p.maximo = *numero(4);
-    p.logaritmica = celda(5).starts_with("log");
-    p.activo = celda(6) != "no";
+    p.activo = celda(5) != "no";
+    p.logaritmica = celda(6).starts_with("log");
     for (const runs::Distribucion& d : runs::Distribuciones())
         if (celda(7) == d.clave || celda(7) == d.nombre) p.distribucion = d.clave;
     p.centro = numero(8);
@@ -173,7 +184,7 @@ void cmdPegar(AjusteParametros& m, dlgAjuste& f, std::string_view bloque)
             return model::Advierte(f.s,
                                    "No se pegó nada: el renglón " + std::to_string(renglon) + " " + reparo +
                                        ". Las columnas son las de esta tabla: componentes, campo, modo, "
-                                       "mínimo, máximo, escala, participa, distribución, centro, desvío.");
+                                       "mínimo, máximo, participa, escala, distribución, centro, desvío.");
         nuevos.push_back(std::move(p));
     }
     if (nuevos.empty()) return model::Advierte(f.s, "En el portapapeles no hay parámetros.");

@@ -156,7 +156,7 @@ TEST_F(ParametrosDeAjuste, LoQueSeCopiaSePega)
     EXPECT_EQ(Todos(), antes);
     ASSERT_EQ(anfitrion->Avisos().size(), 1U);
     EXPECT_NE(anfitrion->Avisos()[0].texto.find("renglón 1"), std::string::npos);
-    cmdPegar(m, f, "u-*\tkostiakov_a\tfactor\t0,25\t4\tlog\n");
+    cmdPegar(m, f, "u-*\tkostiakov_a\tfactor\t0,25\t4\tsí\tlog\n");
     EXPECT_EQ(Todos().size(), antes.size() + 1);
     EXPECT_EQ(Todos().back().minimo, 0.25);
     EXPECT_TRUE(Todos().back().logaritmica);
