@@ -11,6 +11,7 @@
 #include "batch/IdfLote.h"
 #include "batch/Opciones.h"
 #include "batch/RevisaLote.h"
+#include "batch/SensibilidadLote.h"
 #include "batch/TormentaLote.h"
 #include "batch/VerificaLote.h"
 #include "model/Camino.h"
@@ -32,6 +33,7 @@ constexpr auto Verbos = std::to_array<Verbo>({
     {"frecuencia", UsoFrecuencia, LeeOpcionesFrecuencia, MuestraFrecuencia},
     {"idf", UsoIdf, LeeOpcionesIdf, MuestraIdf},
     {"tormenta", UsoTormenta, LeeOpcionesTormenta, MuestraTormenta},
+    {"sensibilidad", UsoSensibilidad, LeeOpcionesSensibilidad, MuestraSensibilidad},
     {"verifica", UsoVerifica, LeeOpcionesVerifica, MuestraCasos},
 });
 /// una and serie, and whatever is none of them.

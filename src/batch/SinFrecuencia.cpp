@@ -2,6 +2,7 @@
 #include "batch/CorridaLote.h"
 #include "batch/FrecuenciaLote.h"
 #include "batch/IdfLote.h"
+#include "batch/SensibilidadLote.h"
 #include "batch/TormentaLote.h"
 
 namespace batch {
@@ -28,6 +29,11 @@ int MuestraIdf(const Opciones& /*o*/, const std::string& /*dirEjecutable*/, cons
 int MuestraTormenta(const Opciones& /*o*/, const std::string& /*dirEjecutable*/, const Salidas& salidas)
 {
     return NoLaTrae("tormenta", salidas);
+}
+
+int MuestraSensibilidad(const Opciones& /*o*/, const std::string& /*dirEjecutable*/, const Salidas& salidas)
+{
+    return NoLaTrae("sensibilidad", salidas);
 }
 
 }  // namespace batch

@@ -2,10 +2,15 @@
 #include "batch/TareaLote.h"
 
 #include <optional>
+#include <string_view>
+#include <utility>
 
 #include "batch/CorridaLote.h"
+#include "checks/Hallazgo.h"
+#include "checks/RevisaAbierto.h"
 #include "engine/modProceso0.h"
 #include "model/Avisos.h"
+#include "model/CambioArchivo.h"
 #include "model/Companeros.h"
 #include "model/DirPropio.h"
 #include "model/Disco.h"
@@ -33,17 +38,28 @@ std::optional<std::string> Bytes(const Siro& s, const std::string& ruta)
     return bytes;
 }
 
-/// Opens the project with everything that a run reads. A box of a reader is a line of Errores.
+/// Opens the project with everything that a run reads, and leaves its files as they are: many of these orders
+/// run at once over one project. So nobody is told either that its configuration now says where it is; what
+/// the readers find wrong is a line of Errores each.
 bool AbreRed(const Opciones& o, Siro& s, const Salidas& salidas)
 {
     const std::string conf = model::RutaAbsoluta(o.conf);
     if (!Bytes(s, conf)) return Falta(salidas, "no se puede abrir " + conf);
+    s.Disco.Escribe = s.Disco.Agrega = [](const std::string&, std::string_view) {};
+    s.Disco.Reemplaza = [](const std::vector<model::CambioArchivo>&) {};
+    s.Disco.Recupera = [](const std::string&) { return model::Recuperacion{}; };
+    std::vector<checks::Hallazgo> hallazgos;
+    const model::Anfitrion anfitrion = std::exchange(s.Anfitrion, checks::Oyente(hallazgos));
     AbreProyecto(s, conf);
-    if (s.Proyecto.NombreProyecto.empty() || s.Proyecto.DirProyecto.empty())
-        return Falta(salidas, "el proyecto no se abre: " + conf);
-    FijaTormenta(s, o);
-    engine::CargaProyecto(s);
-    return true;
+    const bool abierto = !s.Proyecto.NombreProyecto.empty() && !s.Proyecto.DirProyecto.empty();
+    if (abierto) {
+        FijaTormenta(s, o);
+        engine::CargaProyecto(s);
+    }
+    s.Anfitrion = anfitrion;
+    for (const checks::Hallazgo& h : hallazgos)
+        if (h.gravedad == checks::Gravedad::Error) Falta(salidas, h.que + ": " + h.cuanto);
+    return abierto || Falta(salidas, "el proyecto no se abre: " + conf);
 }
 
 /// The task of a file, or the study's own one.

@@ -158,7 +158,31 @@ Estado de salida: 0 hay tormenta, y se escribió; 1 no la hay con esos datos, lo
                   algo, o no se pudo leer o escribir; 2 la línea de órdenes es errónea.
 )";
 
+constexpr std::string_view TextoUsoSensibilidad =
+    R"(Uso: siro-lote sensibilidad CONF [opciones]    de qué parámetros depende un resultado
+
+Corre el proyecto muchas veces con otros valores de los parámetros que el estudio mueve, y dice cuánto depende de
+cada uno el pico, su hora, el volumen, un nivel o un puntaje: de a uno (tornado), Morris o Sobol. Lo que se pide está
+en P_Estudio.json, o en el archivo de --tarea, con lo que aquel tiene bajo "ajuste". La tormenta en mano y los pasos
+son los de la orden una: --forma, --pp, --dur, --rec, --distribucion, --paso-pp, --paso-q, --pp-ueh, --tormenta, y el
+directorio --trabajo.
+
+  --tarea ARCHIVO         lo que se pide, en JSON (el estudio del proyecto)
+  --hilos N               hilos, hasta 1024; 0: todos los núcleos. No cambia los resultados (0)
+  --json                  todo, en JSON
+  --csv                   parametro y sus índices
+  --ayuda, --help         este texto
+
+Estado de salida: 0 hay resultados; 1 no se puede correr lo que se pide, o no se pudo leer o escribir; 2 la línea de
+                  órdenes es errónea.
+)";
+
 }  // namespace
+
+std::string_view UsoSensibilidad()
+{
+    return TextoUsoSensibilidad;
+}
 
 std::string_view UsoTormenta()
 {
