@@ -29,13 +29,6 @@ constexpr auto Distribuciones = std::to_array<std::string_view>({
     "personalizada 3",
 });
 
-std::string Distribucion(std::int16_t indice)
-{
-    const bool esta = indice >= 0 && static_cast<std::size_t>(indice) < Distribuciones.size();
-    return esta ? std::string(Distribuciones[static_cast<std::size_t>(indice)])
-                : "distribución " + NumeroATexto(indice);
-}
-
 std::string PorUEH(const model::Siro& s)
 {
     float menor = 0, mayor = 0;
@@ -74,8 +67,15 @@ std::string TormentaEnMano(const model::Siro& s)
         texto = "Tormenta real: " + Lamina(t);
     else
         texto = std::string(t.FormaPp == FormaLluvia::DeLista ? "De la lista: " : "Tormenta: ") + Lamina(t);
-    if (t.FormaPp != FormaLluvia::Real) texto += ", " + Distribucion(t.DistriPp);
+    if (t.FormaPp != FormaLluvia::Real) texto += ", " + NombreDeDistribucion(t.DistriPp);
     return texto + ", pasos " + NumeroATexto(s.Pasos.PasoPp) + "/" + NumeroATexto(s.Pasos.PasoQ) + " min";
+}
+
+std::string NombreDeDistribucion(std::int16_t indice)
+{
+    const bool esta = indice >= 0 && static_cast<std::size_t>(indice) < Distribuciones.size();
+    return esta ? std::string(Distribuciones[static_cast<std::size_t>(indice)])
+                : "distribución " + NumeroATexto(indice);
 }
 
 Sello SelloDe(const model::Siro& s)

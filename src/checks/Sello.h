@@ -35,6 +35,9 @@ enum class Alcance : std::uint8_t {
 /// still holds.
 std::string QueDifiere(const Sello& mostrado, const Sello& ahora, Alcance alcance = Alcance::Corrida);
 
+/// A temporal distribution in words, "López Cadenas"; from 0, as Tormenta::DistriPp has it.
+std::string NombreDeDistribucion(std::int16_t indice);
+
 /// The storm in hand in words: form, depth [mm], duration [min], recurrence [years], distribution, both steps
 /// [min].
 std::string TormentaEnMano(const model::Siro& s);

@@ -29,6 +29,7 @@ inline constexpr auto RotulosDeGraficos = std::to_array<forms::FilaRotulo>({
     {"sldPp",       "Variador de Pp[mm]", "Variador de Pp[mm]"},
     {"lstPQEC",     "&Magnitud:"},
     {"lstCompos",   "Compo&nente:", "", "Componente"},
+    {"cmbObservado", "O&bservado:", "Evento cuyos caudales observados en este componente se muestran como puntos"},
 });
 // clang-format on
 

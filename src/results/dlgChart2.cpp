@@ -39,6 +39,8 @@ constexpr std::string_view PasosDesiguales =  // kept as it stands
     "\\Entradas\\Preicpitaciones...";
 constexpr std::string_view Nota = "SIRO: Modelo hidrológico de simulación lluvia-caudal";
 constexpr std::string_view TextoInicia = "inicia";
+constexpr std::string_view SinObservado = "No mostrar";
+constexpr std::string_view EnSuPaso = "Cada valor observado está en el paso de salida más cercano a su hora.";
 constexpr std::string_view NombresCambiados =
     "Los nombres Qentra y Qsale de la leyenda están cambiados: la curva llamada Qentra es la salida.";
 
@@ -210,6 +212,8 @@ void Dibuja(dlgChart2& f, const Siro& s, std::int16_t N, std::int16_t paso)
     f.componente = nombre;
     f.lblTitulo = Titulo(s, nombre);
     f.lblNota = Nota;
+    f.conObservado = false;
+    PonObservado(f);
 }
 
 /// Runs the storm in hand over the network in memory.
@@ -236,7 +240,10 @@ void Abre(dlgChart2& f, Siro& s)
         f.vista.deslizadores = s.Tormenta.FormaPp <= UltimaFormaConDeslizadores;
         return;
     }
-    f = dlgChart2{};
+    dlgChart2 nueva;
+    nueva.Observados = std::move(f.Observados);
+    nueva.observado = std::move(f.observado);
+    f = std::move(nueva);
     if (s.Resultados.NroPasosQ == 0 || s.Resultados.NroComponentes < 1 ||
         s.Tormenta.FormaPp == model::FormaLluvia::SeriePDR)
         return;
@@ -295,6 +302,42 @@ bool sldPp_Mueve(dlgChart2& f, Siro& s, int valor)
     f.sldPp.Pon(std::max<int>(valor, s.Pasos.PasoPp));
     s.Tormenta.PpTormenta = static_cast<float>(f.sldPp.valor);
     return Corre(f, s);
+}
+
+void PonObservado(dlgChart2& f)
+{
+    if (std::exchange(f.conObservado, false)) f.Grafico.series.pop_back();
+    f.Grafico.salvedad = GraficoDe(f.componente).salvedad;
+    f.cmbObservado.clear();
+    f.cmbObservadoIndice = 0;
+    const std::vector<Observado> observados =
+        f.Observados ? f.Observados(f.componente) : std::vector<Observado>{};
+    if (observados.empty()) return;
+    f.cmbObservado.emplace_back(SinObservado);
+    for (const Observado& o : observados)
+        f.cmbObservado.push_back(o.evento);
+    // An event that this component has nothing of leaves the first one that it has.
+    const auto elegido = std::find_if(observados.begin(), observados.end(),
+                                      [&](const Observado& o) { return o.evento == f.observado; });
+    if (f.observado == std::string{}) return;
+    const Observado& o = elegido == observados.end() ? observados.front() : *elegido;
+    f.cmbObservadoIndice = static_cast<int>(&o - observados.data()) + 1;
+    forms::PuntosEnPasos puntos = forms::EnPasos(
+        o.caudales, static_cast<std::size_t>(std::max<std::int16_t>(f.ultimoN, 0)), f.ultimoPaso);
+    puntos.serie.leyenda = "Observado: " + o.evento;
+    f.Grafico.series.push_back(std::move(puntos.serie));
+    f.conObservado = true;
+    if (!f.Grafico.salvedad.empty()) f.Grafico.salvedad += ' ';
+    f.Grafico.salvedad += EnSuPaso;
+    if (puntos.fuera > 0)
+        f.Grafico.salvedad += " Lecturas que no se muestran: " + std::to_string(puntos.fuera) + ".";
+}
+
+void cmbObservado_Click(dlgChart2& f, int indice)
+{
+    if (indice < 0 || static_cast<std::size_t>(indice) >= f.cmbObservado.size()) return;
+    f.observado = indice == 0 ? std::string{} : f.cmbObservado[static_cast<std::size_t>(indice)];
+    PonObservado(f);
 }
 
 void cmdHsMin(dlgChart2& f, const Siro& s)

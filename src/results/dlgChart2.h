@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,6 +11,7 @@
 #include "forms/Grafico.h"
 #include "model/SiroDeclarado.h"
 #include "results/FormaDeGrafico.h"
+#include "results/Observado.h"
 
 // Rules of the chart of the hydrographs, "Hidrograma": a component picked from a list with its rain, its
 // inflow or its water level, and two sliders that run the storm in hand again with another depth or duration.
@@ -45,6 +47,11 @@ struct dlgChart2 : FormaDeGrafico {
     std::string lblPp{}, lblDur{}, lblTitulo{}, lblNota{};
     std::string componente{};  ///< name of the one that is drawn
     VistaChart2 vista{}, vistaGuardada{};
+    ObservadosDe Observados{};                ///< set from outside; none: there are none
+    std::vector<std::string> cmbObservado{};  ///< what of it may be shown; empty: the component has none
+    int cmbObservadoIndice = 0;
+    std::optional<std::string> observado{};  ///< event that was picked, "": none; nothing: the first one
+    bool conObservado = false;               ///< it is the chart's last series
     engine::Memoria memoria{.VariasCorridas = true};  ///< what the sliders' runs have in common
 };
 
@@ -68,6 +75,11 @@ void lstCompos_Click(dlgChart2& f, model::Siro& s);
 bool sldDur_Mueve(dlgChart2& f, model::Siro& s, int valor);
 /// No lower than PasoPp, though that is minutes and this is millimetres: kept as it stands.
 bool sldPp_Mueve(dlgChart2& f, model::Siro& s, int valor);
+
+/// Shows the readings of the component on show anew, as they are now or as they were picked. The rest of the
+/// chart stays.
+void PonObservado(dlgChart2& f);
+void cmbObservado_Click(dlgChart2& f, int indice);
 
 void cmdHsMin(dlgChart2& f, const model::Siro& s);
 

@@ -95,8 +95,25 @@ QLayout* dlgChart2_ventana::Botones()
     };
     return EnFila({boton("cmdHsMin", [this] { cmdHsMin(f, entorno.s); }),
                    boton("cmdXmas", [this] { cmdXmas(f); }), boton("cmdXmenos", [this] { cmdXmenos(f); }),
-                   Hueco(), boton("cmdImprimir", [this] { Imprime(); }),
+                   Observado(), Hueco(), boton("cmdImprimir", [this] { Imprime(); }),
                    boton("OKButton", [this] { OKButton(f); })});
+}
+
+/// On show where the component has something observed.
+QLayout* dlgChart2_ventana::Observado()
+{
+    QComboBox* const eventos = Desplegable("cmbObservado", f.cmbObservado, f.cmbObservadoIndice,
+                                           [this](int i) { cmbObservado_Click(f, i); });
+    const auto hay = [this] { return f.vista.comandos && !f.cmbObservado.empty(); };
+    return EnFila({Hueco(fontMetrics().averageCharWidth()), VisibleSi(Rotulo("cmbObservado", eventos), hay),
+                   VisibleSi(eventos, hay)});
+}
+
+void dlgChart2_ventana::TomaObservado()
+{
+    if (!f.abierta) return;
+    PonObservado(f);
+    Muestra();
 }
 
 void dlgChart2_ventana::Abre()

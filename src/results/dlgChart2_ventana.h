@@ -27,6 +27,8 @@ class dlgChart2_ventana : public forms::Ventana {
     void Abre();
     using forms::Ventana::Muestra;
     void Muestra() override;
+    /// What was observed may have become another.
+    void TomaObservado();
 
     /// A run of a slider is over. `entrada`: the storm as it was before it. `completa`: it went to its end.
     std::function<void(const model::Tormenta& entrada, bool completa)> TrasCorrer = [](const model::Tormenta&,
@@ -51,6 +53,7 @@ class dlgChart2_ventana : public forms::Ventana {
 
     QLayout* Mandos();
     QLayout* Botones();
+    QLayout* Observado();
     void PonMando(Mando& mando, std::string_view deslizador, std::string_view rotulo, std::string_view valor);
     void MuestraMando(Mando& mando, const Deslizador& estado, const std::string& rotulo) const;
     void Pide(Mando& mando, int valor);

@@ -167,6 +167,10 @@ void Escritorio::PonEstudio()
         if (std::exchange(tablaDeSerie, false)) ventanasSerie->ventanaTablaCompleta.Franja().Toma();
     };
     ventanaHidrograma->TrasCorrer = trasCorrer;
+    hidrograma.Observados = [this](const std::string& componente) {
+        return ventanasEstudio->Talleres().Observados(componente);
+    };
+    ventanasEstudio->Talleres().AlCambiar = [this] { ventanaHidrograma->TomaObservado(); };
     ventanasEstudio->AbreHidrograma = [this](const std::string& componente) {
         hidrograma.abierta = false;  // so that it opens on this component
         s.Control.IndComp = LugarEnSecuencia(s, componente);

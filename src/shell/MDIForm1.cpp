@@ -41,6 +41,8 @@ constexpr auto PaginasComunes = std::to_array<PaginaComun>({
     {"dlgTablaSalePDR2", "dlgTablaSalePDR"},
     {"dlgImportaTormenta", "dlgPpReal"},
     {"dlgImportaMaximos", "dlgTaller"},
+    {"dlgImportaObservada", "dlgAjuste"},
+    {"dlgRecesion", "dlgAjuste"},
     {"dlgEliminarProyecto", "MDIForm1"},
     {"frmAcerca", "MDIForm1"},
     {"ListaDeAvisos", "mensajes"},

@@ -26,6 +26,11 @@ study::Abierto* Talleres::Estudio()
     return nullptr;
 }
 
+std::vector<results::Observado> Talleres::Observados(const std::string& /*componente*/) const
+{
+    return {};
+}
+
 void Talleres::TrasGuardarComo() {}
 
 void Talleres::TrasEliminar() {}

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/Talleres_ventana.h"
 
+#include "calibration/Observada.h"
 #include "calibration/taller/dlgAjuste.h"
 #include "calibration/taller/dlgAjuste_ventana.h"
 #include "frequency/taller/dlgTaller.h"
@@ -28,6 +29,7 @@ struct Talleres::Partes {
 Talleres::Talleres(forms::Entorno& alrededor)
     : entorno(alrededor), partes(std::make_unique<Partes>(alrededor))
 {
+    partes->estudio.AlCambiar([this] { AlCambiar(); });
     partes->ajuste.DibujoSinGuardar = [this] { return DibujoSinGuardar(); };
     partes->ajuste.Aplica = [this](const auto& cambio) { return Aplica(cambio); };
     entorno.AlTerminarSuceso(partes->ventanaLluvia, [this] {
@@ -52,6 +54,26 @@ void Talleres::AbreAjuste()
 study::Abierto* Talleres::Estudio()
 {
     return &partes->estudio;
+}
+
+std::vector<results::Observado> Talleres::Observados(const std::string& componente) const
+{
+    std::vector<results::Observado> observados;
+    const auto& eventos = partes->estudio.EnMano().ajuste.eventos;
+    const auto agrega = [&](const study::Evento& evento) {
+        for (const study::Observacion& o : evento.observaciones) {
+            if (o.componente != componente) continue;
+            results::Observado uno{.evento = calibration::NombreDe(
+                                       evento, static_cast<std::size_t>(&evento - eventos.data()) + 1)};
+            for (const study::Punto& p : calibration::ObservadaDe(o).puntos)
+                uno.caudales.push_back({p.minuto, p.valor});
+            if (!uno.caudales.empty()) observados.push_back(std::move(uno));
+        }
+    };
+    for (const bool enMano : {true, false})
+        for (const study::Evento& evento : eventos)
+            if ((evento.lluvia.origen == "proyecto") == enMano) agrega(evento);
+    return observados;
 }
 
 void Talleres::TrasGuardarComo()

@@ -3,10 +3,13 @@
 
 #include <functional>
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "forms/Entorno_ventana.h"
 #include "model/Red.h"
 #include "model/Tormenta.h"
+#include "results/Observado.h"
 
 namespace study {
 class Abierto;
@@ -29,6 +32,10 @@ class Talleres {
 
     /// Nothing in a build without.
     study::Abierto* Estudio();
+    /// What the study has of a component's flows, the events on the storm in hand first.
+    [[nodiscard]] std::vector<results::Observado> Observados(const std::string& componente) const;
+    /// The study has become another one.
+    std::function<void()> AlCambiar = [] {};
     // What becomes of the project: see study::Abierto.
     void TrasGuardarComo();
     void TrasEliminar();

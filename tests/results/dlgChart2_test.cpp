@@ -103,6 +103,75 @@ TEST_F(GraficoQ, UnaUEHMuestraSuCaudalYSuLluviaRepartidaEnLosPasosDeSalida)
     EXPECT_FALSE(f.Grafico.marcasEjeX);
 }
 
+// --- observed flows that are handed in ---
+
+/// u-1 was observed in two events, c-1 in one.
+std::vector<Observado> DosEventos(const std::string& componente)
+{
+    if (componente == "u-1") return {{"Marzo", {{0, 9}, {10, 1}, {23, 2.5}, {70, 3}}}, {"Abril", {{50, 7}}}};
+    if (componente == "c-1") return {{"Abril", {{30, 4}}}};
+    return {};
+}
+
+TEST_F(GraficoQ, SinNadaObservadoTodoQuedaComoEstaba)
+{
+    AbreEn(1);
+    const Grafico antes = f.Grafico;
+    f.Observados = [](const std::string&) { return std::vector<Observado>{}; };
+    AbreEn(1);
+    EXPECT_EQ(f.Grafico, antes);
+    EXPECT_TRUE(f.cmbObservado.empty());
+}
+
+TEST_F(GraficoQ, LoObservadoSeMuestraComoPuntosYSeElige)
+{
+    f.Observados = DosEventos;
+    AbreEn(1);
+    ASSERT_EQ(f.Grafico.series.size(), 3U);
+    EXPECT_EQ(SerieNro(3), (Serie{TipoSerie::Puntos2D,
+                                  "Observado: Marzo",
+                                  false,
+                                  {1, 2.5, forms::CeldaVacia, forms::CeldaVacia, forms::CeldaVacia}}));
+    EXPECT_EQ(f.cmbObservado, (Textos{"No mostrar", "Marzo", "Abril"}));
+    EXPECT_EQ(f.cmbObservadoIndice, 1);
+    EXPECT_EQ(f.Grafico.salvedad,
+              "Cada valor observado está en el paso de salida más cercano a su hora. "
+              "Lecturas que no se muestran: 2.");
+    cmbObservado_Click(f, 2);
+    EXPECT_EQ(SerieNro(3).leyenda, "Observado: Abril");
+    EXPECT_EQ(SerieNro(3).celdas[4], 7);
+    cmbObservado_Click(f, 0);
+    EXPECT_EQ(f.Grafico.series.size(), 2U);
+    EXPECT_EQ(f.Grafico.salvedad, "");
+    EXPECT_EQ(f.cmbObservadoIndice, 0);
+    lstCompos_Click(f, s);
+    EXPECT_EQ(f.Grafico.series.size(), 2U) << "what was switched off stays off";
+    cmbObservado_Click(f, 1);
+    EXPECT_EQ(SerieNro(3).leyenda, "Observado: Marzo");
+}
+
+TEST_F(GraficoQ, OtroComponenteTieneLoSuyoYElQueNoTieneNadaNingunaLista)
+{
+    f.Observados = DosEventos;
+    AbreEn(1);
+    f.lstComposIndice = 1;
+    lstCompos_Click(f, s);
+    ASSERT_EQ(f.Grafico.series.size(), 3U);
+    EXPECT_EQ(SerieNro(3).leyenda, "Observado: Abril");
+    EXPECT_EQ(SerieNro(3).celdas[2], 4);
+    f.lstComposIndice = 2;
+    lstCompos_Click(f, s);
+    EXPECT_EQ(f.Grafico.series.size(), 3U);
+    EXPECT_EQ(SerieNro(3).leyenda, "Qsale");
+    EXPECT_TRUE(f.cmbObservado.empty());
+    f.Observados = [](const std::string& c) { return DosEventos(c == "l-1" ? "u-1" : c); };
+    PonObservado(f);
+    EXPECT_EQ(f.Grafico.series.size(), 4U);
+    PonObservado(f);
+    EXPECT_EQ(f.Grafico.series.size(), 4U);
+    EXPECT_TRUE(f.Grafico.salvedad.starts_with("Los nombres Qentra y Qsale")) << f.Grafico.salvedad;
+}
+
 TEST_F(GraficoQ, UnCauceMuestraLoQueSaleYLoQueEntra)
 {
     AbreEn(2);

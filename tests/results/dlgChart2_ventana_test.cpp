@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "results/dlgChart2_ventana.h"
 
+#include <QComboBox>
 #include <QLabel>
 #include <QListWidget>
 #include <QPrinter>
@@ -69,6 +70,34 @@ struct VentanaHidrogramas : testing::Test {
     dlgChart2 f{};
     dlgChart2_ventana ventana{mundo.entorno, f};
 };
+
+TEST_F(VentanaHidrogramas, LoObservadoSigueALosDeslizadoresYSePrendeYSeApaga)
+{
+    Abre();
+    EXPECT_FALSE(Control<QComboBox>(ventana, "cmbObservado").isVisible());
+    std::vector<Observado> observados{{"Marzo", {{30, 2}, {60, 5}}}};
+    f.Observados = [&](const std::string&) { return observados; };
+    ventana.TomaObservado();
+    auto& lista = Control<QComboBox>(ventana, "cmbObservado");
+    EXPECT_TRUE(lista.isVisible());
+    EXPECT_EQ(apoyo::SinNombre(ventana), std::vector<std::string>{});
+    EXPECT_EQ(f.Grafico.series.back().leyenda, "Observado: Marzo");
+    EXPECT_NE(Descripcion().find("Observado: Marzo"), std::string::npos) << Descripcion();
+    const double antes = f.Grafico.series.front().celdas[20];
+    Pp().setFocus();
+    QTest::keyClick(&Pp(), Qt::Key_PageUp);
+    EXPECT_TRUE(Espera([&] { return f.Grafico.series.front().celdas[20] != antes; }));
+    EXPECT_EQ(f.Grafico.series.back().leyenda, "Observado: Marzo");
+    EXPECT_EQ(f.Grafico.series.back().celdas[11], 5);
+    lista.setFocus();
+    QTest::keyClick(&lista, Qt::Key_Up);
+    EXPECT_NE(f.Grafico.series.back().leyenda, "Observado: Marzo");
+    EXPECT_EQ(Descripcion().find("Observado"), std::string::npos);
+    EXPECT_EQ(lista.currentIndex(), 0);
+    observados.clear();
+    ventana.TomaObservado();
+    EXPECT_FALSE(lista.isVisible());
+}
 
 TEST_F(VentanaHidrogramas, SeAbreEnElPrimerComponenteConSusControles)
 {
