@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "batch/ConjuntoLote.h"
 #include "batch/CorridaLote.h"
 #include "batch/FrecuenciaLote.h"
 #include "batch/IdfLote.h"
@@ -34,6 +35,8 @@ constexpr auto Verbos = std::to_array<Verbo>({
     {"idf", UsoIdf, LeeOpcionesIdf, MuestraIdf},
     {"tormenta", UsoTormenta, LeeOpcionesTormenta, MuestraTormenta},
     {"sensibilidad", UsoSensibilidad, LeeOpcionesSensibilidad, MuestraSensibilidad},
+    {"conjunto", UsoConjunto, LeeOpcionesConjunto, MuestraConjunto},
+    {"une", UsoUne, LeeOpcionesUne, MuestraUnion},
     {"verifica", UsoVerifica, LeeOpcionesVerifica, MuestraCasos},
 });
 /// una and serie, and whatever is none of them.

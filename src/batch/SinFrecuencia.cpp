@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "batch/ConjuntoLote.h"
 #include "batch/CorridaLote.h"
 #include "batch/FrecuenciaLote.h"
 #include "batch/IdfLote.h"
@@ -34,6 +35,16 @@ int MuestraTormenta(const Opciones& /*o*/, const std::string& /*dirEjecutable*/,
 int MuestraSensibilidad(const Opciones& /*o*/, const std::string& /*dirEjecutable*/, const Salidas& salidas)
 {
     return NoLaTrae("sensibilidad", salidas);
+}
+
+int MuestraConjunto(const Opciones& /*o*/, const std::string& /*dirEjecutable*/, const Salidas& salidas)
+{
+    return NoLaTrae("conjunto", salidas);
+}
+
+int MuestraUnion(const Opciones& /*o*/, const std::string& /*dirEjecutable*/, const Salidas& salidas)
+{
+    return NoLaTrae("une", salidas);
 }
 
 }  // namespace batch

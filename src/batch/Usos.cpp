@@ -177,7 +177,52 @@ Estado de salida: 0 hay resultados; 1 no se puede correr lo que se pide, o no se
                   órdenes es errónea.
 )";
 
+constexpr std::string_view TextoUsoConjunto =
+    R"(Uso: siro-lote conjunto CONF [opciones]                          la incertidumbre de un proyecto
+     siro-lote conjunto CONF --parte I/N --parcial ARCHIVO [...]  una parte de ella; une las junta
+
+Sortea los juegos de parámetros que la tarea pide, corre cada uno y dice la banda del hidrograma y la distribución
+del pico, su hora, el volumen, el nivel y el rebose de un componente. El resultado es el mismo con cualquier número
+de hilos y en cualesquiera partes.
+La tormenta en mano es la de la orden una: --forma, --pp, --dur, --rec, --distribucion, --paso-pp, --paso-q,
+--pp-ueh, --tormenta, y el directorio --trabajo.
+
+  --tarea ARCHIVO         qué se pide, en JSON: lo que el estudio guarda en "ajuste" (el estudio del proyecto)
+  --hilos N               hilos, hasta 1024; 0: todos los núcleos. No cambia los resultados (0)
+  --parte I/N             corre la parte I de N del conjunto, con --parcial (1/1)
+  --parcial ARCHIVO       escribe la parte en un archivo, para la orden une
+  --json                  todo, en JSON
+  --csv                   medida,unidad,minutos,peso,media,minimo,p5,p25,p50,p75,p95,maximo
+  --ayuda, --help         este texto
+
+Estado de salida: 0 hay resultados; 1 la tarea no se puede hacer, o no se pudo leer o escribir; 2 la línea de
+                  órdenes es errónea.
+)";
+
+constexpr std::string_view TextoUsoUne =
+    R"(Uso: siro-lote une PARCIAL PARCIAL ... [opciones]
+
+Junta, en cualquier orden, las partes que escribió conjunto --parcial, y muestra lo mismo que el conjunto entero.
+
+  --json                  todo, en JSON
+  --csv                   como en conjunto
+  --ayuda, --help         este texto
+
+Estado de salida: 0 hay resultados; 1 falta una parte, hay una dos veces, no son del mismo conjunto, o no se pudo
+                  leer o escribir; 2 la línea de órdenes es errónea.
+)";
+
 }  // namespace
+
+std::string_view UsoConjunto()
+{
+    return TextoUsoConjunto;
+}
+
+std::string_view UsoUne()
+{
+    return TextoUsoUne;
+}
 
 std::string_view UsoSensibilidad()
 {

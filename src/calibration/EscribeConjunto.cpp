@@ -65,7 +65,10 @@ std::string Escribe(const Conjunto& c)
         std::string llano = motivo;
         for (char& letra : llano)
             if (letra == '\n' || letra == '\r') letra = ' ';
-        t += std::to_string(suyos.cuantos) + ' ' + std::to_string(suyos.primero) + ' ' + llano + '\n';
+        t += std::to_string(suyos.cuantos) + ' ' + std::to_string(suyos.primeros.size()) + ' ' + llano + '\n';
+        for (const std::size_t k : suyos.primeros)
+            t += std::to_string(k) + ' ';
+        t.back() = '\n';
     }
     for (const runs::Cuantiles* const d : {&c.pico, &c.tiempo, &c.volumen, &c.nivel})
         d->Escribe(t);
@@ -95,8 +98,11 @@ bool Lee(std::string_view texto, Conjunto& c)
     const std::uint64_t motivos = n[6];
     c.caudal.resize(n[7]);
     for (std::uint64_t i = 0; i < motivos; ++i) {
-        if (!r.Enteros(n, 2)) return false;
-        c.fallidos[std::string(r.resto)] = {n[0], static_cast<std::size_t>(n[1])};
+        if (!r.Enteros(n, 2) || n[1] < 1 || n[1] > MaximoDePrimeros) return false;
+        Fallidos& f = c.fallidos[std::string(r.resto)];
+        f.cuantos = n[0];
+        if (!r.Enteros(n, static_cast<std::size_t>(n[1]))) return false;
+        f.primeros.assign(n.begin(), n.end());
     }
     for (runs::Cuantiles* const d : {&c.pico, &c.tiempo, &c.volumen, &c.nivel})
         if (!d->Lee(r.Otro())) return false;

@@ -3,9 +3,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <memory>
 #include <mutex>
 #include <span>
+#include <utility>
 
 #include "calibration/Juicio.h"
 #include "calibration/Puntajes.h"
@@ -137,9 +139,7 @@ void CorreMiembro(const Encargo& e, std::size_t k, runs::Corredor& corredor, Con
         if (motivo.empty()) motivo = Suma(e, valores, calculo, peso, c);
     }
     if (motivo.empty()) return;
-    Fallidos& f = c.fallidos[motivo];
-    f.primero = f.cuantos == 0 ? k : std::min(f.primero, k);
-    ++f.cuantos;
+    c.fallidos[motivo].Junta({1, {k}});
 }
 
 Encargo EncargoDe(const PedidoDeIncertidumbre& p)
@@ -203,6 +203,15 @@ std::vector<std::string> ReparosDe(const PedidoDeIncertidumbre& p)
     return reparos;
 }
 
+void Fallidos::Junta(const Fallidos& otros)
+{
+    cuantos += otros.cuantos;
+    std::vector<std::size_t> todos;
+    std::ranges::merge(primeros, otros.primeros, std::back_inserter(todos));
+    todos.resize(std::min(todos.size(), MaximoDePrimeros));
+    primeros = std::move(todos);
+}
+
 void Conjunto::Junta(const Conjunto& otro)
 {
     if (componente.empty()) componente = otro.componente;
@@ -221,11 +230,8 @@ void Conjunto::Junta(const Conjunto& otro)
     cuentan += otro.cuentan;
     rebosan += otro.rebosan;
     pesoQueRebosa += otro.pesoQueRebosa;
-    for (const auto& [motivo, suyos] : otro.fallidos) {
-        Fallidos& f = fallidos[motivo];
-        f.primero = f.cuantos == 0 ? suyos.primero : std::min(f.primero, suyos.primero);
-        f.cuantos += suyos.cuantos;
-    }
+    for (const auto& [motivo, suyos] : otro.fallidos)
+        fallidos[motivo].Junta(suyos);
 }
 
 std::uint64_t Conjunto::Fallaron() const
@@ -325,9 +331,9 @@ std::vector<std::string> EnPalabras(const Conjunto& c, const study::Incertidumbr
                     " juegos, los que pasan el umbral. La banda es por parámetros: no dice entre qué valores "
                     "se observará un caudal.");
     for (const auto& [motivo, suyos] : c.fallidos)
-        t.push_back(std::to_string(suyos.cuantos) +
-                    (suyos.cuantos == 1 ? " juego no dio" : " juegos no dieron") +
-                    " resultado, el primero el " + std::to_string(suyos.primero + 1) + ": " + motivo);
+        t.push_back(
+            std::to_string(suyos.cuantos) + (suyos.cuantos == 1 ? " juego no dio" : " juegos no dieron") +
+            " resultado, el primero el " + std::to_string(suyos.primeros.front() + 1) + ": " + motivo);
     if (fallaron > 0 && fallaron == c.miembros) t.emplace_back("Ningún juego dio resultado.");
     return t;
 }

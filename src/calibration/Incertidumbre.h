@@ -34,10 +34,16 @@ struct PedidoDeIncertidumbre {
 /// What keeps it from being asked, a sentence each, beside what is wrong with its model; empty: nothing.
 std::vector<std::string> ReparosDe(const PedidoDeIncertidumbre& pedido);
 
-/// A reason why members have no result, how many had it, and the first of them.
+/// How many members are told by their number for a reason.
+inline constexpr std::size_t MaximoDePrimeros = 100;
+
+/// Members without a result for one reason: how many, and the first of them by their numbers from 0.
 struct Fallidos {
     std::uint64_t cuantos = 0;
-    std::size_t primero = 0;
+    std::vector<std::size_t> primeros{};  ///< rising, MaximoDePrimeros at most
+    bool operator==(const Fallidos&) const = default;
+
+    void Junta(const Fallidos& otros);
 };
 
 /// The members' results. Sets of other members of the same asking can be joined, in any order, to the same

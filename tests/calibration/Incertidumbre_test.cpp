@@ -155,7 +155,7 @@ TEST(Incertidumbre, LosQueNoDanResultadoSeCuentanConSuMotivoYNoEntranEnNada)
     EXPECT_EQ(c.cuentan, 80 - malos);
     EXPECT_EQ(c.pico.Total(), 80 - malos);
     ASSERT_EQ(c.fallidos.size(), 1U);
-    EXPECT_EQ(c.fallidos.begin()->second.primero, primero);
+    EXPECT_EQ(c.fallidos.begin()->second.primeros.front(), primero);
     const std::vector<std::string> dichos = EnPalabras(c, p.como);
     EXPECT_TRUE(std::any_of(dichos.begin(), dichos.end(), [&](const std::string& d) {
         return d.starts_with(std::to_string(malos) + " juegos no dieron resultado, el primero el " +
