@@ -191,7 +191,7 @@ def Proyectos():
         Proyecto(
             NOMBRE="Weisseritz", TITULO="Wilde Weisseritz en Sajonia: crecidas observadas, una sola UEH",
             UBICACION="Osterzgebirge, Sajonia, Alemania", CUENCA="Elba", SUBCUENCA="Wilde Weisseritz", area=340,
-            longitud=3000, velocidad=0.4, kostiakov=(6, 0.5, 30), retencion=5, q0=0.089, k_recesion=500, largo=3000,
+            longitud=3000, velocidad=0.4, kostiakov=(2, 0.4, 60), retencion=5, q0=0.089, k_recesion=500, largo=3000,
             k_musk=600, N0DUR=3480,
             bandas=[Banda("u-Weisseritz", "c-Weisseritz", (220, 180), [(520, 360), (420, 330), (320, 260)])],
             crecidas=CrecidasWeisseritz(), notas=NOTAS_WEISSERITZ,
