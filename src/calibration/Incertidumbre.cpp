@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "calibration/Juicio.h"
+#include "calibration/Medidas.h"
 #include "calibration/Puntajes.h"
 #include "checks/AvisosDeCorrida.h"
 #include "checks/Corrido.h"
@@ -25,15 +26,6 @@ namespace calibration {
 namespace {
 
 constexpr double Segundos = 60;  // of a minute
-
-/// The place of a component in a run's rows; that of the first outfall where none is named. 0: none.
-int FilaDe(const model::Resultados& r, const std::string& nombre)
-{
-    const std::string& cual = nombre.empty() && r.NroSalidas > 0 ? r.Salidas[1] : nombre;
-    for (std::size_t fila = 1; fila <= static_cast<std::size_t>(r.NroComponentes); ++fila)
-        if (fila < r.Secuencia.size() && r.Secuencia[fila] == cual) return static_cast<int>(fila);
-    return 0;
-}
 
 /// The heights of a Represa or a Lago; nothing of any other component.
 std::span<const float> NivelesDe(const model::Red& red, const model::Resultados& r, const std::string& nombre)
@@ -97,12 +89,11 @@ std::string Suma(const Encargo& e, std::span<const double> valores, const engine
                  runs::Peso peso, Conjunto& c)
 {
     const model::Resultados& r = calculo.Resultados;
-    const int fila = FilaDe(r, e.p.como.medida.componente);
-    if (fila == 0 || !r.QSale.Alcanza(fila, r.NroPasosQ) || r.NroPasosQ < 1)
-        return "La corrida no deja el hidrograma del componente.";
-    const std::span<const float> Q{r.QSale.Fila(fila), static_cast<std::size_t>(r.NroPasosQ) + 1};
-    c.componente = r.Secuencia[static_cast<std::size_t>(fila)];
+    const std::string& pedido = e.p.como.medida.componente;
     c.paso = e.p.modelo.lluvias[e.lluvia].pasos.PasoQ;
+    c.componente = pedido.empty() && r.NroSalidas > 0 ? r.Salidas[1] : pedido;
+    const std::span<const float> Q = SalidaDe(calculo, pedido, c.paso).valores;
+    if (Q.size() < 2) return "La corrida no deja el hidrograma del componente.";
     if (c.caudal.size() < Q.size()) c.caudal.resize(Q.size());
     double volumen = 0;
     for (std::size_t i = 0; i < Q.size(); ++i) {
@@ -187,9 +178,8 @@ std::vector<std::string> ReparosDe(const PedidoDeIncertidumbre& p)
     };
     agrega(runs::ReparosDeSorteo(p.modelo.parametros, p.calibracion));
     const std::string& nombre = p.como.medida.componente;
-    bool esta = nombre.empty();
-    model::CadaComponente(p.modelo.red, [&](const auto& c) { esta = esta || model::Nombre(c) == nombre; });
-    if (!esta) reparos.push_back("El componente " + nombre + " no está en la red.");
+    if (!nombre.empty() && !EstaEnRed(p.modelo.red, nombre))
+        reparos.push_back("El componente " + nombre + " no está en la red.");
     if (runs::LluviaDe(p.modelo, p.como.medida.evento) >= p.modelo.lluvias.size())
         reparos.push_back("El evento " + p.como.medida.evento + " no está en el estudio, o quedó fuera.");
     if (!p.como.glue) return reparos;
@@ -290,15 +280,6 @@ const runs::Cuantiles* DistribucionDe(const Conjunto& c, std::string_view que)
     if (que == "tiempo") return &c.tiempo;
     if (que == "volumen") return &c.volumen;
     return que == "nivel" && c.embalse ? &c.nivel : nullptr;
-}
-
-std::string_view UnidadDeMedida(std::string_view que)
-{
-    return que == "pico"      ? "m3/s"
-           : que == "tiempo"  ? "min"
-           : que == "volumen" ? "m3"
-           : que == "nivel"   ? "m"
-                              : "-";
 }
 
 std::vector<std::string> EnPalabras(const Conjunto& c, const study::Incertidumbre& como)

@@ -4,9 +4,11 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <span>
 #include <utility>
 
 #include "calibration/Juicio.h"
+#include "calibration/Medidas.h"
 #include "calibration/Puntajes.h"
 #include "calibration/taller/GraficosDeIncertidumbre.h"
 #include "forms/CampoNumerico.h"
@@ -18,13 +20,15 @@ namespace calibration {
 
 namespace {
 
-struct Medida {
-    std::string_view clave, nombre;
-};
-constexpr auto Medidas = std::to_array<Medida>({{"pico", "Pico [m3/s]"},
-                                                {"tiempo", "Tiempo al pico [min]"},
-                                                {"volumen", "Volumen [m3]"},
-                                                {"nivel", "Nivel máximo [m]"}});
+/// The measures that have a distribution, with their units: all but the score.
+std::span<const ClaseDeMedida> Medidas()
+{
+    return ClasesDeMedida().first(4);
+}
+std::string TituloDe(const ClaseDeMedida& medida)
+{
+    return std::string(medida.nombre) + " [" + std::string(medida.unidad) + "]";
+}
 
 struct Muestreo {
     std::string_view clave, nombre;
@@ -118,24 +122,22 @@ std::string Cifra(double x)
 
 void PonPlanilla(AjusteIncertidumbre& m)
 {
-    forms::Planilla p{{std::string(TituloDlgAjuste) + ": cuantiles", m.temaDelConjunto},
-                      {{"Juegos que no lo pasan", true}},
-                      {}};
+    forms::Planilla p{
+        {std::string(TituloDlgAjuste) + ": cuantiles", m.temaDelConjunto}, {{"Cuantil", true}}, {}};
+    std::vector<const runs::Cuantiles*> columnas;  // null: the component has no such measure
+    for (const ClaseDeMedida& medida : Medidas()) {
+        p.columnas.push_back({TituloDe(medida)});
+        columnas.push_back(m.conjunto ? DistribucionDe(*m.conjunto, medida.clave) : nullptr);
+    }
+    const auto fila = [&](std::string rotulo, const auto& de) {
+        std::vector<std::string> celdas{std::move(rotulo)};
+        for (const runs::Cuantiles* const d : columnas)
+            celdas.push_back(d != nullptr && d->Total() > 0 ? Cifra(de(*d)) : std::string());
+        p.filas.push_back(std::move(celdas));
+    };
     if (m.conjunto) {
         p.titulos.push_back(std::to_string(m.conjunto->cuentan) + " juegos que cuentan, semilla " +
                             std::to_string(m.del.ajuste.incertidumbre.semilla));
-        std::vector<const runs::Cuantiles*> columnas;
-        for (const Medida& medida : Medidas)
-            if (const runs::Cuantiles* const d = DistribucionDe(*m.conjunto, medida.clave)) {
-                columnas.push_back(d);
-                p.columnas.push_back({std::string(medida.nombre)});
-            }
-        const auto fila = [&](std::string rotulo, const auto& de) {
-            std::vector<std::string> celdas{std::move(rotulo)};
-            for (const runs::Cuantiles* const d : columnas)
-                celdas.push_back(d->Total() > 0 ? Cifra(de(*d)) : std::string());
-            p.filas.push_back(std::move(celdas));
-        };
         fila("mínimo", [](const runs::Cuantiles& d) { return d.Minimo(); });
         for (const double prob : ProbabilidadesDeTabla) {
             constexpr double PorCiento = 100;
@@ -162,12 +164,12 @@ void PonGrafico(AjusteIncertidumbre& m)
 {
     m.Grafico = {};
     if (!m.conjunto || m.conjunto->cuentan == 0) return;
-    const auto& medida = Medidas[static_cast<std::size_t>(m.medida)];
+    const ClaseDeMedida& medida = Medidas()[static_cast<std::size_t>(m.medida)];
     const runs::Cuantiles* const d = DistribucionDe(*m.conjunto, medida.clave);
     if (m.grafico == 0)
         m.Grafico = GraficoDeBanda(*m.conjunto, Observados(m));
     else if (d != nullptr)
-        m.Grafico = GraficoDeMedida(*d, std::string(medida.nombre));
+        m.Grafico = GraficoDeMedida(*d, TituloDe(medida));
     m.Grafico.titulo = (m.grafico == 0 ? m.del.ajuste.incertidumbre.glue ? std::string("Banda por parámetros")
                                                                          : std::string("Banda de los juegos")
                                        : std::string(medida.nombre)) +
@@ -209,8 +211,8 @@ AjusteIncertidumbre NuevaAjusteIncertidumbre()
         m.muestreos.emplace_back(x.nombre);
     for (const Puntaje& p : Puntajes())
         m.puntajes.emplace_back(p.nombre);
-    for (const Medida& x : Medidas)
-        m.medidas.emplace_back(x.nombre);
+    for (const ClaseDeMedida& x : Medidas())
+        m.medidas.push_back(TituloDe(x));
     m.graficos.assign(GraficosDeIncertidumbre.begin(), GraficosDeIncertidumbre.end());
     return m;
 }
@@ -232,7 +234,9 @@ void Toma(AjusteIncertidumbre& m, const dlgAjuste& f)
     m.puntaje = -1;
     for (std::size_t k = 0; k < Puntajes().size(); ++k)
         if (Puntajes()[k].clave == i.medida.puntaje) m.puntaje = static_cast<int>(k);
-    m.medida = LugarDe(Medidas, i.medida.que);
+    m.medida = 0;
+    for (std::size_t k = 0; k < Medidas().size(); ++k)
+        if (Medidas()[k].clave == i.medida.que) m.medida = static_cast<int>(k);
     m.reparos.clear();
     PonPlanilla(m);
     PonGrafico(m);
@@ -344,7 +348,7 @@ void cmbGrafico_Click(AjusteIncertidumbre& m, int cual)
 void cmbMedida_Click(dlgAjuste& f, int cual)
 {
     CambiaComo(f, "Medida de la incertidumbre", [&](study::Incertidumbre& i) {
-        i.medida.que = Medidas.at(static_cast<std::size_t>(cual)).clave;
+        i.medida.que = Medidas()[static_cast<std::size_t>(cual)].clave;
     });
 }
 

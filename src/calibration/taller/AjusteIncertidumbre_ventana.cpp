@@ -13,9 +13,9 @@ AjusteIncertidumbre_ventana::AjusteIncertidumbre_ventana(forms::Entorno& alreded
     : PaginaDe(alrededor, taller, RotulosAjusteIncertidumbre, "AjusteIncertidumbre")
 {
     tabla = new forms::TablaCuadro(entorno, m.tblCuantiles, "tblCuantiles", Fila("tblCuantiles").leyenda);
-    tabla->PonColumnas({13, 11, 11, 11, 11});
+    tabla->PonColumnas({9, 12, 14, 14, 0});
     auto* const fila =
-        EnFila({Elecciones(), {EnPila({Ordenes(), {LadoALado(tabla, Derecha(), 4, 7), 1}}), 1}});
+        EnFila({Elecciones(), {EnPila({Ordenes(), {LadoALado(tabla, Derecha(), 5, 7), 1}}), 1}});
     fila->setContentsMargins(0, 0, 0, 0);
     setLayout(fila);
 }
@@ -62,7 +62,7 @@ QWidget* AjusteIncertidumbre_ventana::Elecciones()
                           "chkGlue", [this] { return m.chkGlue; },
                           [this](bool tildada) { chkGlue_Click(f, tildada); }),
                       EnRejilla({Renglon("cmbPuntaje", puntaje), Renglon("txtUmbral", umbral)}, {0, 1})}));
-    constexpr int Letras = 38;
+    constexpr int Letras = 46;
     return EnColumna({sorteo, mirada, glue, Hueco()}, Letras);
 }
 

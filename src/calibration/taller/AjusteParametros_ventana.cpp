@@ -110,7 +110,7 @@ QLayout* AjusteParametros_ventana::Ordenes()
 QWidget* AjusteParametros_ventana::Tabla()
 {
     tabla = new forms::TablaCuadro(entorno, m.tblParametros, "tblParametros", Fila("tblParametros").leyenda);
-    tabla->PonColumnas({14, 0, 8, 9, 9, 10});  // [letters]; the rest stands beside
+    tabla->PonColumnas({15, 0, 8, 9, 9, 10});  // [letters]; the rest stands beside
     tabla->AlMoverse = [this] {
         const std::size_t cual = tabla->Actual();
         if (static_cast<int>(cual) != m.enMano && cual < AjusteDe(f).parametros.size())
