@@ -112,12 +112,15 @@ std::string Linea(const std::vector<std::string>& frases)
     return t;
 }
 
+/// Four digits that count: quantiles are known to a thousandth.
 std::string Cifra(double x)
 {
-    constexpr double Cien = 100, Diez = 10;
+    constexpr int Digitos = 4;
     if (!std::isfinite(x)) return {};
-    const double a = std::fabs(x);
-    return model::NumeroATexto(model::Redondea(x, a >= Cien ? 0 : a >= Diez ? 1 : a >= 1 ? 2 : 3));
+    const int enteros = x == 0 ? 1 : static_cast<int>(std::floor(std::log10(std::fabs(x)))) + 1;
+    const double unidad = std::pow(10, std::max(0, enteros - Digitos));
+    return model::NumeroATexto(enteros > Digitos ? std::round(x / unidad) * unidad
+                                                 : model::Redondea(x, Digitos - enteros));
 }
 
 void PonPlanilla(AjusteIncertidumbre& m)
@@ -126,7 +129,8 @@ void PonPlanilla(AjusteIncertidumbre& m)
         {std::string(TituloDlgAjuste) + ": cuantiles", m.temaDelConjunto}, {{"Cuantil", true}}, {}};
     std::vector<const runs::Cuantiles*> columnas;  // null: the component has no such measure
     for (const ClaseDeMedida& medida : Medidas()) {
-        p.columnas.push_back({TituloDe(medida)});
+        const std::string corto(medida.nombre.substr(0, medida.nombre.find(' ')));
+        p.columnas.push_back({corto + " [" + std::string(medida.unidad) + "]"});
         columnas.push_back(m.conjunto ? DistribucionDe(*m.conjunto, medida.clave) : nullptr);
     }
     const auto fila = [&](std::string rotulo, const auto& de) {

@@ -13,7 +13,7 @@ AjusteIncertidumbre_ventana::AjusteIncertidumbre_ventana(forms::Entorno& alreded
     : PaginaDe(alrededor, taller, RotulosAjusteIncertidumbre, "AjusteIncertidumbre")
 {
     tabla = new forms::TablaCuadro(entorno, m.tblCuantiles, "tblCuantiles", Fila("tblCuantiles").leyenda);
-    tabla->PonColumnas({9, 12, 14, 14, 0});
+    tabla->PonColumnas({11, 12, 12, 14, 12});
     auto* const fila =
         EnFila({Elecciones(), {EnPila({Ordenes(), {LadoALado(tabla, Derecha(), 5, 7), 1}}), 1}});
     fila->setContentsMargins(0, 0, 0, 0);
@@ -62,7 +62,7 @@ QWidget* AjusteIncertidumbre_ventana::Elecciones()
                           "chkGlue", [this] { return m.chkGlue; },
                           [this](bool tildada) { chkGlue_Click(f, tildada); }),
                       EnRejilla({Renglon("cmbPuntaje", puntaje), Renglon("txtUmbral", umbral)}, {0, 1})}));
-    constexpr int Letras = 46;
+    constexpr int Letras = 48;
     return EnColumna({sorteo, mirada, glue, Hueco()}, Letras);
 }
 

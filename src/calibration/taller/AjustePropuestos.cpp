@@ -21,8 +21,11 @@ using study::Parametro;
 namespace {
 
 constexpr double Veces = 3, Factor = 2;  ///< how far from the present value, to either side
+constexpr double DeExponente = 1.5;      ///< the same of an exponent, which a little changes much
 constexpr double Metros = 1;             ///< of a height
 constexpr double DesdeCero = 10;         ///< top of what is 0 now and has no bound of its own
+
+constexpr std::string_view Exponente = "kostiakov_b";
 
 struct Rango {
     double minimo = 0, maximo = 1;
@@ -40,14 +43,16 @@ double Redondo(double x, double (*entero)(double))
 Rango PorValor(const runs::Campo& c, double menor, double mayor)
 {
     if (c.unidad == "m" && (c.clase == 'r' || c.clase == 'l')) return {menor - Metros, mayor + Metros};
-    if (menor > 0) return {menor / Veces, mayor * Veces};
+    const double veces = c.clave == Exponente ? DeExponente : Veces;
+    if (menor > 0) return {menor / veces, mayor * veces};
     return {c.minimo, mayor > 0 ? mayor * Veces : std::min(c.maximo, DesdeCero)};
 }
 
 /// What a factor may be so that no value leaves the bounds of its field.
 Rango PorFactor(const runs::Campo& c, double menor, double mayor)
 {
-    Rango r{1 / Factor, Factor};
+    const double factor = c.clave == Exponente ? DeExponente : Factor;
+    Rango r{1 / factor, factor};
     if (mayor > 0) r.maximo = std::min(r.maximo, c.maximo / mayor);
     if (menor > 0) r.minimo = std::max(r.minimo, c.minimo / menor);
     return r;
@@ -85,7 +90,7 @@ void ProponRango(Parametro& p, const dlgAjuste& f)
         p.minimo = Redondo(r.minimo, [](double x) { return std::ceil(x); });
     if (runs::Movida(p.modo, mayor, p.maximo) > m.campo->maximo)
         p.maximo = Redondo(r.maximo, [](double x) { return std::floor(x); });
-    p.logaritmica = p.minimo > 0 && p.maximo > 2 * p.minimo && m.campo->clave != "kostiakov_b";
+    p.logaritmica = p.minimo > 0 && p.maximo > 2 * p.minimo && m.campo->clave != Exponente;
     p.centro.reset();
     p.dispersion.reset();
 }

@@ -15,11 +15,16 @@ using study::ItemPuesto;
 
 namespace {
 
+std::string HuellaDe(const model::Siro& s)
+{
+    const checks::Sello sello = checks::SelloDe(s);
+    return sello.proyecto + '\n' + sello.red + '\n' + sello.lluvia;
+}
+
 /// Whether what the project was last read under still holds; takes it for what it is read under next.
 bool SigueIgual(dlgAjuste& f)
 {
-    const checks::Sello sello = checks::SelloDe(f.s);
-    const std::string huella = sello.proyecto + '\n' + sello.red + '\n' + sello.lluvia;
+    const std::string huella = HuellaDe(f.s);
     const model::Colecciones* const dibujo = f.DibujoSinGuardar();
     const bool mismo = dibujo == nullptr ? !f.dibujo : f.dibujo == *dibujo;
     if (mismo && huella == f.huella) return true;
@@ -31,13 +36,14 @@ bool SigueIgual(dlgAjuste& f)
 void Carga(dlgAjuste& f)
 {
     std::vector<checks::Hallazgo> hallazgos;
+    const std::string antes = HuellaDe(f.proyecto) + f.noCarga;
     f.proyecto = {};
     f.noCarga.clear();
-    ++f.cargas;
     if (!checks::CargaAparte(f.s, f.dibujo ? &*f.dibujo : nullptr, f.proyecto, hallazgos))
         f.noCarga = "La carga del proyecto no llega a su fin: revíselo con Estudio, Revisar proyecto.";
     else if (f.proyecto.Red.NroUEHs() < 1)
         f.noCarga = "La red del proyecto no tiene ninguna UEH: dibújela en el editor y guárdela.";
+    if (f.cargas == 0 || HuellaDe(f.proyecto) + f.noCarga != antes) ++f.cargas;
 }
 
 }  // namespace

@@ -52,7 +52,7 @@ struct dlgAjuste : study::Pasos {
     // --- the project: see ProyectoDe ---
     model::Siro proyecto{};
     std::string noCarga{};  ///< why there is no network, a sentence
-    int cargas = 0;         ///< how often it has been read: another number, another network or storm
+    int cargas = 0;         ///< another number, another network or storm
     std::string huella{};   ///< of what it was read under
     std::optional<model::Colecciones> dibujo{};
 };

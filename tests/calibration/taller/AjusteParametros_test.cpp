@@ -41,8 +41,8 @@ TEST_F(ParametrosDeAjuste, SeProponeLoQueLaRedTieneYNuncaLargoYVelocidadALaVez)
     EXPECT_EQ(De("kostiakov_a")->maximo, 2);
     EXPECT_TRUE(De("kostiakov_a")->logaritmica);
     EXPECT_EQ(De("kostiakov_b")->modo, "valor");
-    EXPECT_EQ(De("kostiakov_b")->minimo, 0.2);
-    EXPECT_EQ(De("kostiakov_b")->maximo, 1) << "what the editor admits";
+    EXPECT_EQ(De("kostiakov_b")->minimo, 0.4);
+    EXPECT_EQ(De("kostiakov_b")->maximo, 0.9);
     EXPECT_EQ(De("retencion_z")->modo, "suma") << "a factor would leave the 0 of the second unit as it is";
     EXPECT_EQ(De("retencion_z")->minimo, 0) << "no Z falls below 0";
     EXPECT_EQ(De("velocidad_media")->modo, "valor");
@@ -102,7 +102,11 @@ TEST_F(ParametrosDeAjuste, OtroCampoUOtroModoTraenSuRangoYUnNumeroMaloSeRechaza)
     cmbModo_Click(m, f, 1);
     Retoma();
     EXPECT_EQ(Todos()[0].modo, "factor");
-    EXPECT_EQ(Todos()[0].maximo, 1.66) << "1 / 0.6, rounded down";
+    EXPECT_EQ(Todos()[0].maximo, 1.5);
+    PonRed([](model::Red& red) { red.ColUEHs.Ranura(2).KostiakovB = 0.9F; });
+    cmbModo_Click(m, f, 0);
+    cmbModo_Click(m, f, 1);
+    EXPECT_EQ(Todos()[0].maximo, 1.11) << "1 / 0.9, rounded down: the editor admits no b above 1";
     m.txtMaximo = "1,5";
     EXPECT_TRUE(txtNumero_AlSalir(m, f, "txtMaximo"));
     EXPECT_EQ(Todos()[0].maximo, 1.5);
