@@ -113,7 +113,7 @@ QWidget* AjusteParametros_ventana::Tabla()
     tabla->PonColumnas({15, 0, 8, 9, 9, 10});  // [letters]; the rest stands beside
     tabla->AlMoverse = [this] {
         const std::size_t cual = tabla->Actual();
-        if (static_cast<int>(cual) != m.enMano && cual < AjusteDe(f).parametros.size())
+        if (!mostrando && static_cast<int>(cual) != m.enMano && cual < AjusteDe(f).parametros.size())
             Suceso([&] { tblParametros_Mueve(m, f, cual); });
     };
     return tabla;
@@ -134,8 +134,10 @@ void AjusteParametros_ventana::keyPressEvent(QKeyEvent* evento)
 void AjusteParametros_ventana::Muestra()
 {
     PaginaDeAjuste::Muestra();
+    mostrando = true;
     tabla->Muestra();
     if (Hay() && static_cast<int>(tabla->Actual()) != m.enMano) tabla->selectRow(m.enMano);
+    mostrando = false;
     grafico->Muestra(m.Grafico);
     grafico->PonTema(m.Grafico.titulo, m.Grafico.titulo);
 }

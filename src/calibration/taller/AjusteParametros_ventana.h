@@ -38,6 +38,7 @@ class AjusteParametros_ventana : public PaginaDeAjuste {
     AjusteParametros m = NuevaAjusteParametros();
     forms::TablaCuadro* tabla = nullptr;
     forms::Lamina* grafico = nullptr;
+    bool mostrando = false;  ///< the cursor follows the record, not the record the cursor
 };
 
 }  // namespace calibration

@@ -8,11 +8,13 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTabBar>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "apoyo/Ventanas.h"
 #include "calibration/Incertidumbre.h"
+#include "calibration/taller/AjusteIncertidumbre.h"
 #include "calibration/taller/TallerDeAjuste.h"
 #include "forms/Cuadro_ventana.h"
 #include "forms/Textos_ventana.h"
@@ -72,7 +74,7 @@ TEST_F(VentanaAjuste, LosParametrosSeProponenSeCambianYSeDeshacenConElRatonYElTe
     maximo.selectAll();
     QTest::keyClicks(&maximo, QStringLiteral("7,5"));
     QTest::keyClick(&maximo, Qt::Key_Tab);
-    EXPECT_EQ(Todos()[2].maximo, 7.5);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Todos()[2].maximo == 7.5; }));
     Pulsa(En<QPushButton>("AjusteParametros", "cmdSubir"));
     EXPECT_EQ(Todos()[1].maximo, 7.5);
     EXPECT_EQ(tabla.Actual(), 1U) << "the row in hand goes along";
@@ -118,8 +120,10 @@ TEST_F(VentanaAjuste, LosJuegosSeCorrenAparteYDanLoMismoQueSusReglas)
     EXPECT_FALSE(En<QLabel>("AjusteIncertidumbre", "lblEstado").isVisible());
     // What is on show says so once what it was asked of is another.
     entorno.Atiende([this] { Cambia(f, "Semilla", [](study::Ajuste& a) { a.incertidumbre.semilla = 9; }); });
-    EXPECT_EQ(DeQ(En<QLabel>("AjusteIncertidumbre", "lblEstado").text()),
-              "Lo que se ve es de antes: los datos cambiaron.");
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        return DeQ(En<QLabel>("AjusteIncertidumbre", "lblEstado").text()) ==
+               "Lo que se ve es de antes: los datos cambiaron.";
+    }));
 }
 
 TEST_F(VentanaAjuste, MuchosJuegosSeCancelanConEscAlInstante)
