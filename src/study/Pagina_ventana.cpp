@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "study/Pagina_ventana.h"
 
+#include <QComboBox>
+#include <QEvent>
 #include <QLabel>
 #include <QProgressBar>
 #include <QScrollArea>
@@ -10,6 +12,23 @@
 #include <cstddef>
 
 namespace study {
+namespace {
+
+/// The wheel over a list in what scrolls is for scrolling, unless the list has the focus: it would change
+/// what is under the pointer by chance.
+class RuedaDelLugar : public QObject {
+  public:
+    using QObject::QObject;
+    bool eventFilter(QObject* objeto, QEvent* evento) override
+    {
+        auto* const lista = qobject_cast<QComboBox*>(objeto);
+        if (evento->type() != QEvent::Wheel || lista == nullptr || lista->hasFocus()) return false;
+        evento->ignore();
+        return true;
+    }
+};
+
+}  // namespace
 
 Pagina::Pagina(forms::Entorno& alrededor, std::span<const forms::FilaRotulo> filas, std::string_view nombre)
     : Constructor(alrededor, filas)
@@ -49,6 +68,11 @@ QWidget* Pagina::EnColumna(const forms::Partes& partes, int letras)
     lugar->setFrameShape(QFrame::NoFrame);
     lugar->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     lugar->setWidget(dentro);
+    auto* const rueda = new RuedaDelLugar(lugar);
+    for (QComboBox* const lista : dentro->findChildren<QComboBox*>()) {
+        lista->setFocusPolicy(Qt::StrongFocus);
+        lista->installEventFilter(rueda);
+    }
     lugar->setFixedWidth(letras * fontMetrics().averageCharWidth() +
                          lugar->verticalScrollBar()->sizeHint().width());
     return lugar;

@@ -298,6 +298,10 @@ TEST_F(DeEventos, ElCaudalBaseSeAplicaEnElEditorSoloAPedido)
     EXPECT_EQ(d.lblResultado.substr(0, d.lblResultado.find(", con")), "Q0 = 3.2 m3/s, K = 12.5 h");
     EXPECT_EQ(d.tblUnidades.planilla.filas.size(), d.reparto.unidades.size());
     EXPECT_TRUE(d.Grafico.ejeYLogaritmico);
+    EXPECT_EQ(
+        d.lblAviso.substr(0, d.lblAviso.find(". ") + 1),
+        "La recta pasa por encima de lo observado en 1 lectura, la primera en el minuto 0: allí no puede ser "
+        "el caudal base.");
     d.txtHasta = "500";
     EXPECT_FALSE(txtTiempo_AlSalir(d, f, s));
     int veces = 0;

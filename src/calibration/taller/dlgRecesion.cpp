@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "calibration/taller/dlgRecesion.h"
 
-#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstddef>
 #include <utility>
 
 #include "calibration/Observada.h"
@@ -14,6 +17,32 @@ namespace {
 std::string Numero(double x)
 {
     return model::NumeroATexto(static_cast<float>(x));
+}
+
+/// Four figures: no fit by hand has more.
+std::string Cifras(double x)
+{
+    constexpr int Cuantas = 4;
+    std::array<char, 32> lugar{};
+    char* const fin = lugar.data() + lugar.size();
+    return {lugar.data(), std::to_chars(lugar.data(), fin, x, std::chars_format::general, Cuantas).ptr};
+}
+
+/// Base flow is a part of what was observed: where the line is above that, it isn't one.
+std::string PorEncima(const dlgRecesion& f, double desde, double hasta)
+{
+    constexpr double Holgura = 1.1;
+    std::size_t cuantas = 0;
+    double primera = 0;
+    for (const study::Punto& p : f.caudales) {
+        const bool afuera = p.minuto >= 0 && (p.minuto < desde || p.minuto > hasta);
+        if (!afuera || CaudalDeRecesion(f.ajuste, p.minuto) <= Holgura * p.valor) continue;
+        if (cuantas++ == 0) primera = p.minuto;
+    }
+    if (cuantas == 0) return {};
+    return "La recta pasa por encima de lo observado en " + std::to_string(cuantas) +
+           (cuantas == 1 ? " lectura" : " lecturas") + ", la primera en el minuto " + Numero(primera) +
+           ": allí no puede ser el caudal base. ";
 }
 
 void PonGrafico(dlgRecesion& f, double desde, double hasta)
@@ -46,19 +75,20 @@ void Calcula(dlgRecesion& f, const dlgAjuste& ajuste)
                  hasta = forms::NumeroDeCampo(f.txtHasta).value_or(0);
     f.ajuste = AjustaRecesion(f.caudales, desde, hasta);
     f.reparto = RepartoDe(ProyectoDe(ajuste).Red, f.componente, f.ajuste);
-    f.lblResultado = f.ajuste.motivo.empty()
-                         ? "Q0 = " + Numero(f.ajuste.Q0) + " m3/s, K = " + Numero(f.ajuste.K) + " h, con " +
-                               std::to_string(f.ajuste.lecturas) + " lecturas; residuo de ln Q " +
-                               Numero(f.ajuste.residuo) + " (en caudal, un factor " +
-                               Numero(1 + f.ajuste.residuo) + "), r² = " + Numero(f.ajuste.r2)
-                         : f.ajuste.motivo;
+    f.lblResultado = f.ajuste.motivo;
+    if (f.ajuste.motivo.empty())
+        f.lblResultado = "Q0 = " + Cifras(f.ajuste.Q0) + " m3/s, K = " + Cifras(f.ajuste.K) + " h, con " +
+                         std::to_string(f.ajuste.lecturas) + " lecturas; residuo de ln Q " +
+                         Cifras(f.ajuste.residuo) + " (en caudal, un factor " +
+                         Cifras(std::exp(f.ajuste.residuo)) + "), r² = " + Cifras(f.ajuste.r2);
     f.lblAviso = f.reparto.motivo == f.ajuste.motivo ? std::string{} : f.reparto.motivo;
+    if (f.ajuste.motivo.empty()) f.lblAviso += PorEncima(f, desde, hasta);
     f.lblAviso += f.reparto.aviso;
     forms::Planilla p{{std::string(TituloDlgRecesion), f.tema},
                       {{"Unidad", true}, {"Área [ha]"}, {"Q0 [m3/s]"}, {"K [h]"}},
                       {}};
     for (const BaseDeUnidad& u : f.reparto.unidades)
-        p.filas.push_back({u.unidad, Numero(u.area), Numero(u.Q0), Numero(u.K)});
+        p.filas.push_back({u.unidad, Numero(u.area), Cifras(u.Q0), Cifras(u.K)});
     forms::PonFilas(f.tblUnidades, std::move(p));
     PonGrafico(f, desde, hasta);
 }
@@ -97,10 +127,12 @@ void cmdAplicar(dlgRecesion& f, dlgAjuste& ajuste)
     int cambiadas = 0;
     const bool hecho = ajuste.Aplica(
         [&](model::Red& red, model::Tormenta& /*tormenta*/) { cambiadas = Aplica(red, f.reparto); });
-    f.lblAviso = !hecho           ? "No se aplicó: el editor no se abrió."
-                 : cambiadas == 0 ? "Las unidades ya tenían esos valores."
-                                  : "Cambiaron " + std::to_string(cambiadas) +
-                                        " unidades en el editor, sin guardar; Ctrl+Z las vuelve atrás allí.";
+    f.lblAviso = !hecho ? "No se aplicó: el editor no se abrió."
+                 : cambiadas == 0
+                     ? "Las unidades ya tenían esos valores."
+                     : (cambiadas == 1 ? std::string("Cambió 1 unidad")
+                                       : "Cambiaron " + std::to_string(cambiadas) + " unidades") +
+                           " en el editor, sin guardar; Ctrl+Z las vuelve atrás allí.";
 }
 
 void OKButton(dlgRecesion& f)
