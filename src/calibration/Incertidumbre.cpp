@@ -282,6 +282,13 @@ const runs::Cuantiles* DistribucionDe(const Conjunto& c, std::string_view que)
     return que == "nivel" && c.embalse ? &c.nivel : nullptr;
 }
 
+std::string_view UnidadDeMedida(std::string_view que)
+{
+    for (const ClaseDeMedida& medida : ClasesDeMedida())
+        if (medida.clave == que && !medida.unidad.empty()) return medida.unidad;
+    return "-";
+}
+
 std::vector<std::string> EnPalabras(const Conjunto& c, const study::Incertidumbre& como)
 {
     std::vector<std::string> t;

@@ -90,6 +90,8 @@ std::pair<double, double> IntervaloBinomial(std::uint64_t si, std::uint64_t n);
 
 /// A distribution of a set by the key of its measure, "pico"; null where there is none of that key.
 const runs::Cuantiles* DistribucionDe(const Conjunto& c, std::string_view que);
+/// Unit of a measure by its key.
+std::string_view UnidadDeMedida(std::string_view que);
 
 /// The probabilities that tables tell.
 inline constexpr std::array<double, 7> ProbabilidadesDeTabla{0.01, 0.05, 0.25, 0.5, 0.75, 0.95, 0.99};
