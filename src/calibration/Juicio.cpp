@@ -6,8 +6,8 @@
 #include <limits>
 #include <utility>
 
-#include "calibration/Medidas.h"
 #include "calibration/Observada.h"
+#include "model/Clases.h"
 
 namespace calibration {
 namespace {
@@ -27,6 +27,26 @@ double PerdidaDeEvento(const Puntaje& puntaje, const engine::Calculo& calculo, c
 }
 
 }  // namespace
+
+bool EstaEnRed(const model::Red& red, std::string_view nombre)
+{
+    bool esta = false;
+    model::CadaComponente(red, [&](const auto& c) { esta = esta || model::Nombre(c) == nombre; });
+    return esta;
+}
+
+SerieSimulada SalidaDe(const engine::Calculo& calculo, std::string_view componente, double paso)
+{
+    const model::Resultados& r = calculo.Resultados;
+    if (componente.empty()) {
+        if (r.NroSalidas < 1) return {};
+        componente = r.Salidas[1];
+    }
+    for (int fila = 1; fila <= r.NroComponentes && fila < static_cast<int>(r.Secuencia.size()); ++fila)
+        if (r.Secuencia[static_cast<std::size_t>(fila)] == componente && r.QSale.Alcanza(fila, r.NroPasosQ))
+            return {{r.QSale.Fila(fila), static_cast<std::size_t>(r.NroPasosQ) + 1}, paso};
+    return {};
+}
 
 study::Observacion EnCaudal(study::Observacion o)
 {

@@ -3,16 +3,24 @@
 
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "calibration/Puntajes.h"
 #include "engine/Calcula.h"
+#include "model/Red.h"
 #include "model/Tormenta.h"
 #include "runs/Corredor.h"
 #include "study/Ajuste.h"
 
 // Runs held against what was observed.
 namespace calibration {
+
+/// Whether a network has a component of that name.
+bool EstaEnRed(const model::Red& red, std::string_view nombre);
+
+/// The outflow of a component of a run, an empty name being the first outfall; empty: there is none.
+SerieSimulada SalidaDe(const engine::Calculo& calculo, std::string_view componente, double paso);
 
 /// An observation with its values in m3/s, by its rating curve where those are levels.
 study::Observacion EnCaudal(study::Observacion observacion);

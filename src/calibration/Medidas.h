@@ -9,7 +9,6 @@
 
 #include "calibration/Puntajes.h"
 #include "engine/Calcula.h"
-#include "model/Red.h"
 #include "runs/Corredor.h"
 #include "study/Ajuste.h"
 
@@ -41,12 +40,6 @@ struct MedidaPuesta {
 /// first observation.
 MedidaPuesta PonMedida(const study::Medida& medida, const runs::Modelo& modelo,
                        std::span<const study::Evento> eventos);
-
-/// Whether a network has a component of that name.
-bool EstaEnRed(const model::Red& red, std::string_view nombre);
-
-/// The outflow of a component of a run, an empty name being the first outfall; empty: there is none.
-SerieSimulada SalidaDe(const engine::Calculo& calculo, std::string_view componente, double paso);
 
 /// The number of a run: the greatest outflow [m3/s], when it is first reached [min], the volume of the output
 /// steps from 1 on as the Slate sums it [m3], the highest level [m], a score. None where the run has no such

@@ -19,6 +19,8 @@ enum class TipoSerie : std::uint8_t {
     PuntosUnidos2D,  ///< a line whose every cell has its dot, however many there are
     Puntos2D,        ///< dots without a line
     Banda2D,         ///< a thin line; two in a row have the room between them filled
+    Barra2D,         ///< a bar from 0 to each cell, where rows have places of their own
+    Tramos2D,        ///< a thin line that breaks at empty cells, there too: from mark to mark of an interval
 };
 
 /// A cell without a value: nothing is drawn there.

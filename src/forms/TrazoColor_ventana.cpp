@@ -190,13 +190,17 @@ QCPScatterStyle PuntoDeCurva(const QColor& color, const QColor& fondo, std::size
 void Trazo::ColoreaSeries()
 {
     const std::span<const Trama> tramas = TramasDe(grafico);
-    std::size_t nroLinea = 0, nroPuntos = 0;
+    std::size_t nroLinea = 0, nroPuntos = 0, nroBarras = 0;
     for (std::size_t i = 0; i < lineas.size(); ++i) {
         QCPGraph& linea = *lineas[i];
         const bool escalon = EscalonEn(i);
         const TipoSerie tipo = grafico.series[i].tipo;
         if (tipo == TipoSerie::Banda2D) {
             ColoreaBanda(i);
+            continue;
+        }
+        if (tipo == TipoSerie::Barra2D || tipo == TipoSerie::Tramos2D) {
+            ColoreaBarra(i, nroBarras++);
             continue;
         }
         const Trama& trama = escalon ? Lluvia : tramas[nroLinea % tramas.size()];
@@ -234,6 +238,26 @@ void Trazo::ColoreaBanda(std::size_t serie)
     lineas[serie]->setBrush(arriba ? QBrush(relleno) : QBrush(Qt::NoBrush));
     lineas[serie]->setChannelFillGraph(arriba ? lineas[serie - 1] : nullptr);
     puntosLeidos[serie]->setPen(QPen(tinta.ejes));
+    puntosLeidos[serie]->setBrush(tinta.fondo);
+}
+
+/// The second bar of a pair is paler than the first, so that grey tells them apart too; an interval over them
+/// has the ink of texts, and a mark at either end.
+void Trazo::ColoreaBarra(std::size_t serie, std::size_t cual)
+{
+    constexpr double Ancho = 14, Palidez = 0.62, Marca = 7;
+    QCPGraph& barra = *lineas[serie];
+    const bool intervalo = grafico.series[serie].tipo == TipoSerie::Tramos2D;
+    const Trama& trama = Tramas[cual % 2];
+    QColor color = QColor::fromRgba(tinta.oscura ? trama.oscuro : trama.claro);
+    if (cual % 2 == 1) color = Mezcla(color, tinta.fondo, Palidez);
+    QPen pluma(intervalo ? tinta.texto : color, intervalo ? 1 : Ancho);
+    pluma.setCapStyle(Qt::FlatCap);
+    barra.setPen(pluma);
+    barra.setBrush(Qt::NoBrush);
+    barra.setScatterStyle(intervalo ? QCPScatterStyle(QCPScatterStyle::ssPlus, tinta.texto, Marca)
+                                    : QCPScatterStyle());
+    puntosLeidos[serie]->setPen(QPen(intervalo ? tinta.texto : color, Grueso));
     puntosLeidos[serie]->setBrush(tinta.fondo);
 }
 

@@ -55,7 +55,8 @@ QVector<QCPGraphData> DatosDe(const Serie& serie, const std::vector<double>& abs
     datos.reserve(static_cast<qsizetype>(serie.celdas.size()) + 3);
     if (!abscisas.empty()) {
         for (std::size_t i = 0; i < std::min(serie.celdas.size(), abscisas.size()); ++i)
-            if (!EstaVacia(serie.celdas[i])) datos.append({abscisas[i], serie.celdas[i]});
+            if (!EstaVacia(serie.celdas[i]) || serie.tipo == TipoSerie::Tramos2D)
+                datos.append({abscisas[i], serie.celdas[i]});
         return datos;
     }
     if (serie.tipo != TipoSerie::Escalon2D) {
@@ -75,6 +76,7 @@ QVector<QCPGraphData> DatosDe(const Serie& serie, const std::vector<double>& abs
 QCPGraph::LineStyle EstiloDe(TipoSerie tipo)
 {
     if (tipo == TipoSerie::Escalon2D) return QCPGraph::lsStepLeft;
+    if (tipo == TipoSerie::Barra2D) return QCPGraph::lsImpulse;
     return tipo == TipoSerie::Puntos2D ? QCPGraph::lsNone : QCPGraph::lsLine;
 }
 

@@ -96,6 +96,7 @@ class Trazo {
     void ColoreaEje(QCPAxis& eje) const;
     void ColoreaSeries();
     void ColoreaBanda(std::size_t serie);
+    void ColoreaBarra(std::size_t serie, std::size_t cual);
     void ColoreaMarcas();
     [[nodiscard]] bool EscalonEn(std::size_t serie) const;
     [[nodiscard]] double Abscisa(std::size_t serie, std::size_t fila) const;

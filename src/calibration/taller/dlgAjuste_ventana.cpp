@@ -4,6 +4,7 @@
 #include "calibration/taller/AjusteEventos_ventana.h"
 #include "calibration/taller/AjusteIncertidumbre_ventana.h"
 #include "calibration/taller/AjusteParametros_ventana.h"
+#include "calibration/taller/AjusteSensibilidad_ventana.h"
 
 namespace calibration {
 
@@ -22,6 +23,7 @@ void dlgAjuste_ventana::PonPaginas()
 {
     Agrega("1 Eventos", new AjusteEventos_ventana(entorno, f));
     Agrega("2 Parámetros", new AjusteParametros_ventana(entorno, f));
+    Agrega("3 Sensibilidad", new AjusteSensibilidad_ventana(entorno, f));
     Agrega("5 Incertidumbre", new AjusteIncertidumbre_ventana(entorno, f));
 }
 
