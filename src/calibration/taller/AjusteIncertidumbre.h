@@ -44,7 +44,7 @@ inline constexpr auto RotulosAjusteIncertidumbre = std::to_array<forms::FilaRotu
 });
 
 inline constexpr std::array<std::string_view, 2> GraficosDeIncertidumbre{"Banda del hidrograma",
-                                                                         "Distribución de una medida"};
+                                                                         "Distribución"};
 
 struct AjusteIncertidumbre {
     std::optional<Conjunto> conjunto{};

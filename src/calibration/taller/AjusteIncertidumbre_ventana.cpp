@@ -13,9 +13,9 @@ AjusteIncertidumbre_ventana::AjusteIncertidumbre_ventana(forms::Entorno& alreded
     : PaginaDe(alrededor, taller, RotulosAjusteIncertidumbre, "AjusteIncertidumbre")
 {
     tabla = new forms::TablaCuadro(entorno, m.tblCuantiles, "tblCuantiles", Fila("tblCuantiles").leyenda);
-    tabla->PonColumnas({11, 12, 12, 14, 12});
+    tabla->PonColumnas({10, 12, 11, 14, 11});
     auto* const fila =
-        EnFila({Elecciones(), {EnPila({Ordenes(), {LadoALado(tabla, Derecha(), 5, 7), 1}}), 1}});
+        EnFila({Elecciones(), {EnPila({Ordenes(), {LadoALado(tabla, Derecha(), 7, 8), 1}}), 1}});
     fila->setContentsMargins(0, 0, 0, 0);
     setLayout(fila);
 }
