@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QTimer>
 #include <string>
+#include <vector>
 
 #include "EscritorioDePrueba.h"
 #include "study/Abierto.h"
@@ -127,6 +128,31 @@ TEST_F(EstudioDelProyecto, SalirOfreceOtroLugarParaLoQueNoSePudoGuardar)
     escritorio.Principal().close();
     EXPECT_EQ(escritorio.s.Disco.Lee(instalacion.Dir() + "/aparte.json"), Texto("Uno"));
     EXPECT_TRUE(escritorio.entorno.Terminando());
+}
+
+TEST_F(EstudioDelProyecto, LoObservadoLlegaALosHidrogramasPrimeroLoDeLaTormentaEnMano)
+{
+    Arranca(instalacion.Quelmar());
+    study::Ajuste ajuste;
+    ajuste.eventos = {
+        {.nombre = "Marzo",
+         .lluvia = {.origen = "lamina"},
+         .observaciones = {{.componente = "u-1", .puntos = {{10, 2}, {20, 3}}}, {.componente = "u-2"}}},
+        {.nombre = "Abril",
+         .observaciones = {{.componente = "u-1",
+                            .magnitud = "nivel",
+                            .curva = {{1, 5}, {2, 20}},
+                            .puntos = {{30, 1}, {40, 9}}}}}};
+    escritorio.entorno.Atiende([&] { Estudio().CambiaAjuste("Eventos", ajuste); });
+    const Talleres& talleres = escritorio.Estudio().Talleres();
+    EXPECT_EQ(talleres.Observados("u-1"),
+              (std::vector<results::Observado>{{"Abril", {{30, 5}}},  // by its curve
+                                               {"Marzo", {{10, 2}, {20, 3}}}}));
+    EXPECT_TRUE(talleres.Observados("u-2").empty());
+    EXPECT_TRUE(Esta("Quelmar_serie_1.csv") && Esta("Quelmar_serie_2.csv"));
+    escritorio.entorno.Atiende([&] { Estudio().Deshace(); });
+    EXPECT_TRUE(talleres.Observados("u-1").empty());
+    EXPECT_FALSE(Esta("Quelmar_serie_1.csv"));
 }
 
 }  // namespace
