@@ -55,7 +55,8 @@ class Renglones {
 
 std::string Escribe(const Conjunto& c)
 {
-    std::string t = c.componente + '\n' + c.evento + '\n' + model::NumeroATexto(c.paso) + '\n';
+    std::string t = c.componente + '\n' + c.evento + '\n' + model::NumeroATexto(c.paso) + '\n' +
+                    model::NumeroATexto(c.base) + '\n';
     for (const std::uint64_t n :
          {std::uint64_t{c.embalse}, std::uint64_t{c.conTope}, c.miembros, c.cuentan, c.rebosan,
           c.pesoQueRebosa, std::uint64_t{c.fallidos.size()}, std::uint64_t{c.caudal.size()}})
@@ -83,12 +84,13 @@ bool Lee(std::string_view texto, Conjunto& c)
     c = {};
     c.componente = r.Otro();
     c.evento = r.Otro();
-    const std::optional<double> paso = model::NumeroEntero(r.Otro());
+    const std::optional<double> paso = model::NumeroEntero(r.Otro()), base = model::NumeroEntero(r.Otro());
     constexpr std::size_t Numeros = 8;
     constexpr std::uint64_t TopePasos = 1U << 16U;
     std::vector<std::uint64_t> n;
-    if (!paso || !r.Enteros(n, Numeros) || n[7] > TopePasos) return false;
+    if (!paso || !base || !r.Enteros(n, Numeros) || n[7] > TopePasos) return false;
     c.paso = *paso;
+    c.base = *base;
     c.embalse = n[0] != 0;
     c.conTope = n[1] != 0;
     c.miembros = n[2];

@@ -38,6 +38,16 @@ std::span<const float> NivelesDe(const model::Red& red, const model::Resultados&
     return de(r.HLago, model::NumeroDe<model::Lago>(red, nombre));
 }
 
+/// The foot of the table of a Represa or a Lago [m]; 0 where it has none.
+double PieDe(const model::Red& red, const std::string& nombre)
+{
+    const auto de = [](const model::Matriz<float>& H, int numero) {
+        return numero > 0 && H.Alcanza(numero, 1) ? double{H(numero, 1)} : 0;
+    };
+    if (const int n = model::NumeroDe<model::Represa>(red, nombre); n > 0) return de(red.RepresaH, n);
+    return de(red.LagoH, model::NumeroDe<model::Lago>(red, nombre));
+}
+
 /// What all members share.
 struct Encargo {
     const PedidoDeIncertidumbre& p;
@@ -108,10 +118,12 @@ std::string Suma(const Encargo& e, std::span<const double> valores, const engine
     const std::span<const float> H = NivelesDe(e.p.modelo.red, r, c.componente);
     if (H.empty()) return {};
     c.embalse = true;
-    c.nivel.Suma(*std::max_element(H.begin(), H.end()), peso);
     const std::optional<bool> rebosa = Rebosa(e, valores, calculo, c.componente);
-    c.conTope = c.conTope || rebosa.has_value();
-    if (!rebosa.value_or(false)) return {};
+    if (!rebosa) return {};  // by Muskingum's method a pool has no level
+    c.conTope = true;
+    c.base = PieDe(e.p.modelo.red, c.componente);
+    c.nivel.Suma(*std::max_element(H.begin(), H.end()) - static_cast<float>(c.base), peso);
+    if (!*rebosa) return {};
     ++c.rebosan;
     c.pesoQueRebosa += peso;
     return {};
@@ -207,6 +219,7 @@ void Conjunto::Junta(const Conjunto& otro)
     if (componente.empty()) componente = otro.componente;
     if (evento.empty()) evento = otro.evento;
     paso = std::max(paso, otro.paso);
+    if (otro.conTope) base = otro.base;
     embalse = embalse || otro.embalse;
     conTope = conTope || otro.conTope;
     if (caudal.size() < otro.caudal.size()) caudal.resize(otro.caudal.size());
@@ -279,7 +292,12 @@ const runs::Cuantiles* DistribucionDe(const Conjunto& c, std::string_view que)
     if (que == "pico") return &c.pico;
     if (que == "tiempo") return &c.tiempo;
     if (que == "volumen") return &c.volumen;
-    return que == "nivel" && c.embalse ? &c.nivel : nullptr;
+    return que == "nivel" && c.conTope ? &c.nivel : nullptr;
+}
+
+double BaseDe(const Conjunto& c, std::string_view que)
+{
+    return que == "nivel" ? c.base : 0;
 }
 
 std::string_view UnidadDeMedida(std::string_view que)

@@ -50,14 +50,15 @@ struct Fallidos {
 /// bits.
 struct Conjunto {
     std::string componente{}, evento{};
-    double paso = 0;                             ///< of the hydrograph [min]
-    bool embalse = false;                        ///< the component has a level
-    bool conTope = false;                        ///< and a table that water can rise above
-    std::vector<runs::Cuantiles> caudal{};       ///< [m3/s], by output step from 0
-    runs::Cuantiles pico{};                      ///< [m3/s]
-    runs::Cuantiles tiempo{};                    ///< of the peak [min since the storm's start]
-    runs::Cuantiles volumen{};                   ///< [m3], each flow for a whole step, as on the Slate
-    runs::Cuantiles nivel{};                     ///< the highest one [m]
+    double paso = 0;                        ///< of the hydrograph [min]
+    bool embalse = false;                   ///< the component is a Represa or a Lago
+    bool conTope = false;                   ///< and has a level, and a table that water can rise above
+    std::vector<runs::Cuantiles> caudal{};  ///< [m3/s], by output step from 0
+    runs::Cuantiles pico{};                 ///< [m3/s]
+    runs::Cuantiles tiempo{};               ///< of the peak [min since the storm's start]
+    runs::Cuantiles volumen{};              ///< [m3], each flow for a whole step, as on the Slate
+    runs::Cuantiles nivel{};                ///< the highest one, above `base` [m]
+    double base = 0;  ///< foot of its table [m], so that a level far above sea keeps its centimetres
     std::uint64_t miembros = 0;                  ///< that were drawn
     std::uint64_t cuentan = 0;                   ///< run, with a weight above 0
     std::uint64_t rebosan = 0;                   ///< of those, how many overtop
@@ -90,6 +91,8 @@ std::pair<double, double> IntervaloBinomial(std::uint64_t si, std::uint64_t n);
 
 /// A distribution of a set by the key of its measure, "pico"; null where there is none of that key.
 const runs::Cuantiles* DistribucionDe(const Conjunto& c, std::string_view que);
+/// What is to be added to the numbers of that distribution: the foot of a level, 0 of all else.
+double BaseDe(const Conjunto& c, std::string_view que);
 /// Unit of a measure by its key.
 std::string_view UnidadDeMedida(std::string_view que);
 

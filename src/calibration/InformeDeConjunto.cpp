@@ -41,11 +41,13 @@ std::string EnJson(double x)
 }
 
 /// Mean, least, quantiles, greatest.
-std::array<double, 8> ResumenDe(const runs::Cuantiles& c)
+std::array<double, 8> ResumenDe(const runs::Cuantiles& c, double base = 0)
 {
     std::array<double, 8> r{c.Media(), c.Minimo()};
     c.Varios(Probabilidades.data(), r.data() + 2, Probabilidades.size());
     r.back() = c.Maximo();
+    for (double& x : r)
+        x += base;
     return r;
 }
 constexpr std::array<std::string_view, 8> Cabeza{"media", "minimo", "p5",  "p25",
@@ -53,9 +55,9 @@ constexpr std::array<std::string_view, 8> Cabeza{"media", "minimo", "p5",  "p25"
 
 // --- text, JSON, CSV ---
 
-std::string JsonDe(const runs::Cuantiles& c)
+std::string JsonDe(const runs::Cuantiles& c, double base)
 {
-    const auto resumen = ResumenDe(c);
+    const auto resumen = ResumenDe(c, base);
     std::string t;
     for (std::size_t i = 0; i < resumen.size(); ++i)
         t += ", " + Citado(Cabeza[i]) + ": " + EnJson(resumen[i]);
@@ -68,7 +70,7 @@ std::string JsonDeMedidas(const Conjunto& c)
     for (const std::string_view que : Medidas)
         if (const runs::Cuantiles* d = DistribucionDe(c, que); d != nullptr)
             t += (t.empty() ? "" : ",") + ("\n    {\"medida\": " + Citado(que)) +
-                 ", \"unidad\": " + Citado(UnidadDeMedida(que)) + JsonDe(*d) + "}";
+                 ", \"unidad\": " + Citado(UnidadDeMedida(que)) + JsonDe(*d, BaseDe(c, que)) + "}";
     return "[" + t + "]";
 }
 
@@ -119,11 +121,11 @@ std::string JsonDeRebose(const EncabezadoDeConjunto& e, const Conjunto& c)
 }
 
 std::string FilaCsv(std::string_view que, std::string_view unidad, const std::string& minutos,
-                    const runs::Cuantiles& c)
+                    const runs::Cuantiles& c, double base = 0)
 {
     std::string t =
         std::string(que) + "," + std::string(unidad) + "," + minutos + "," + std::to_string(c.Total());
-    for (const double x : ResumenDe(c))
+    for (const double x : ResumenDe(c, base))
         t += "," + Numero(x);
     return t + "\n";
 }
@@ -243,7 +245,7 @@ std::string TextoDe(const EncabezadoDeConjunto& e, const Conjunto& c)
         if (const runs::Cuantiles* d = DistribucionDe(c, que); d != nullptr) {
             t += model::AjustaIzquierda(
                 "  " + std::string(que) + " [" + std::string(UnidadDeMedida(que)) + "]", 25);
-            for (const double x : ResumenDe(*d))
+            for (const double x : ResumenDe(*d, BaseDe(c, que)))
                 t += Derecha(std::isfinite(x) ? model::NumeroATexto(static_cast<float>(x)) : "-");
             t += "\n";
         }
@@ -281,7 +283,7 @@ std::string CsvDe(const Conjunto& c)
     t += "\n";
     for (const std::string_view que : Medidas)
         if (const runs::Cuantiles* d = DistribucionDe(c, que); d != nullptr)
-            t += FilaCsv(que, UnidadDeMedida(que), "", *d);
+            t += FilaCsv(que, UnidadDeMedida(que), "", *d, BaseDe(c, que));
     for (std::size_t i = 0; i < c.caudal.size(); ++i)
         t += FilaCsv("caudal", "m3/s", model::NumeroATexto(static_cast<double>(i) * c.paso), c.caudal[i]);
     return t;

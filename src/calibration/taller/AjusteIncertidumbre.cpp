@@ -123,20 +123,33 @@ std::string Cifra(double x)
                                                  : model::Redondea(x, Digitos - enteros));
 }
 
+std::string Centimetros(double x)
+{
+    return model::NumeroATexto(model::Redondea(x, 2));
+}
+
 void PonPlanilla(AjusteIncertidumbre& m)
 {
     forms::Planilla p{
         {std::string(TituloDlgAjuste) + ": cuantiles", m.temaDelConjunto}, {{"Cuantil", true}}, {}};
-    std::vector<const runs::Cuantiles*> columnas;  // null: the component has no such measure
+    struct Columna {
+        const runs::Cuantiles* d = nullptr;  ///< null: the component has no such measure
+        double base = 0;
+    };
+    std::vector<Columna> columnas;
     for (const ClaseDeMedida& medida : Medidas()) {
         const std::string corto(medida.nombre.substr(0, medida.nombre.find(' ')));
         p.columnas.push_back({corto + " [" + std::string(medida.unidad) + "]"});
-        columnas.push_back(m.conjunto ? DistribucionDe(*m.conjunto, medida.clave) : nullptr);
+        columnas.push_back(
+            m.conjunto ? Columna{DistribucionDe(*m.conjunto, medida.clave), BaseDe(*m.conjunto, medida.clave)}
+                       : Columna{});
     }
     const auto fila = [&](std::string rotulo, const auto& de) {
         std::vector<std::string> celdas{std::move(rotulo)};
-        for (const runs::Cuantiles* const d : columnas)
-            celdas.push_back(d != nullptr && d->Total() > 0 ? Cifra(de(*d)) : std::string());
+        for (const Columna& c : columnas)
+            celdas.push_back(c.d == nullptr || c.d->Total() == 0 ? std::string()
+                             : c.base != 0                       ? Centimetros(c.base + de(*c.d))
+                                                                 : Cifra(de(*c.d)));
         p.filas.push_back(std::move(celdas));
     };
     if (m.conjunto) {
@@ -173,7 +186,7 @@ void PonGrafico(AjusteIncertidumbre& m)
     if (m.grafico == 0)
         m.Grafico = GraficoDeBanda(*m.conjunto, Observados(m));
     else if (d != nullptr)
-        m.Grafico = GraficoDeMedida(*d, TituloDe(medida));
+        m.Grafico = GraficoDeMedida(*d, BaseDe(*m.conjunto, medida.clave), TituloDe(medida));
     m.Grafico.titulo = (m.grafico == 0 ? m.del.ajuste.incertidumbre.glue ? std::string("Banda por parámetros")
                                                                          : std::string("Banda de los juegos")
                                        : std::string(medida.nombre)) +

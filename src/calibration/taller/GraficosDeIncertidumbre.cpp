@@ -61,7 +61,7 @@ forms::Grafico GraficoDeBanda(const Conjunto& c, const std::vector<study::Punto>
     return g;
 }
 
-forms::Grafico GraficoDeMedida(const runs::Cuantiles& d, const std::string& nombre)
+forms::Grafico GraficoDeMedida(const runs::Cuantiles& d, double base, const std::string& nombre)
 {
     constexpr std::size_t Barras = 24, Puntos = 2000;
     constexpr double PorCiento = 100;
@@ -82,7 +82,7 @@ forms::Grafico GraficoDeMedida(const runs::Cuantiles& d, const std::string& nomb
             PorCiento / Puntos;
     }
     for (std::size_t i = 0; i < serie.celdas.size(); ++i) {
-        const double medio = desde + (static_cast<double>(i) + 0.5) * ancho;
+        const double medio = base + desde + (static_cast<double>(i) + 0.5) * ancho;
         g.abscisas.push_back(medio);
         g.categorias.push_back(model::NumeroATexto(model::Redondea(medio, 2)));
     }

@@ -15,7 +15,7 @@ namespace calibration {
 forms::Grafico GraficoDeBanda(const Conjunto& c, const std::vector<study::Punto>& observados);
 
 /// How a measure is spread over the members: the share of them in equal parts of what there is between its
-/// extremes.
-forms::Grafico GraficoDeMedida(const runs::Cuantiles& d, const std::string& nombre);
+/// extremes. `base` is added to its numbers.
+forms::Grafico GraficoDeMedida(const runs::Cuantiles& d, double base, const std::string& nombre);
 
 }  // namespace calibration
