@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "calibration/taller/CuadroDePuntajes.h"
 #include "calibration/taller/dlgAjuste.h"
 #include "forms/Grafico.h"
 #include "forms/Grilla.h"
@@ -56,6 +57,8 @@ inline constexpr auto RotulosAjusteEventos = std::to_array<forms::FilaRotulo>({
     {"lblValores", "Valores de la observación"},
     {"lamEvento", "Evento observado y corrida"},
     {"lblAvisos", "Avisos del evento"},
+    {"tblPuntajes", "Puntajes de la corrida contra lo observado"},
+    {"lblPuntajes", "Los puntajes en palabras"},
 });
 
 /// A run of the event in hand with the network as it is.
@@ -81,13 +84,14 @@ struct AjusteEventos {
     std::vector<std::string> magnitudes{"Caudal [m3/s]", "Nivel [m]"};
     std::vector<std::string> interpolaciones{"logaritmos de nivel y caudal", "línea recta"};
     int componente = -1, magnitud = 0, interpolacion = 0;
-    int ficha = 0;  ///< values, windows, rating curve
+    int ficha = 0;  ///< values, windows, rating curve, scores
     forms::Grilla grdValores{}, grdVentanas{}, grdCurva{};
     bool demasiados = false;  ///< more values than the grid shows: it changes none
     std::string lblValores{};
 
     CorridaDeEvento corrida{};
     std::string lblAvisos{};
+    CuadroDePuntajes puntajes{};
     forms::Grafico Grafico{};
 };
 

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <cstddef>
 #include <iterator>
+#include <optional>
 #include <span>
 
 #include "calibration/Observada.h"
@@ -61,19 +62,27 @@ forms::Serie Lluvia(const CorridaDeEvento& c, const model::Red& red, std::size_t
     return serie;
 }
 
-std::vector<std::string> Comparacion(const CorridaDeEvento& c, const study::Observacion& o,
-                                     const Observada& q)
+/// Run and observation side by side; nothing where one of them isn't there.
+std::optional<Emparejados> Comparados(const CorridaDeEvento& c, const study::Observacion& o,
+                                      const Observada& q)
 {
-    const int fila = FilaDe(c.resultados, o.componente);
+    const int fila = c.motivo.empty() ? FilaDe(c.resultados, o.componente) : 0;
     if (fila == 0 || q.puntos.empty()) return {};
     const SerieSimulada simulada{
         std::span(c.resultados.QSale.Fila(fila), static_cast<std::size_t>(c.resultados.NroPasosQ) + 1),
         double{1} * c.lluvia.pasos.PasoQ};
-    const Emparejados e = Empareja(simulada, o, q.puntos);
+    return Empareja(simulada, o, q.puntos);
+}
+
+std::vector<std::string> Comparacion(const CorridaDeEvento& c, const study::Observacion& o,
+                                     const Observada& q)
+{
+    const std::optional<Emparejados> e = Comparados(c, o, q);
+    if (!e) return {};
     std::vector<std::string> dichos;
-    if (std::string palabras = EnPalabras(e.pares); !palabras.empty())
+    if (std::string palabras = EnPalabras(e->pares); !palabras.empty())
         dichos.push_back("La corrida, con los parámetros de ahora, " + palabras + ".");
-    dichos.push_back(CuantosPares(e));
+    dichos.push_back(CuantosPares(*e));
     return dichos;
 }
 
@@ -184,6 +193,10 @@ void Dibuja(AjusteEventos& m, const dlgAjuste& f)
     observados.serie.leyenda = "Observado";
     if (!puntos.empty()) g.series.push_back(std::move(observados.serie));
     m.Grafico = std::move(g);
+    if (const std::optional<Emparejados> e = Comparados(m.corrida, o, q))
+        Pon(m.puntajes, *e, TemaDe(f) + ", " + o.componente);
+    else
+        Vacia(m.puntajes, "Falta una corrida, o lo observado, para comparar.");
     m.lblAvisos.clear();
     for (const std::string& aviso : AvisosDe(m, f, o, q, observados.fuera))
         m.lblAvisos.append(m.lblAvisos.empty() ? "• " : "\n• ").append(aviso);

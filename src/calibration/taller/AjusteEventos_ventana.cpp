@@ -11,6 +11,7 @@
 
 #include "calibration/taller/dlgImportaObservada_ventana.h"
 #include "calibration/taller/dlgRecesion_ventana.h"
+#include "forms/Cuadro_ventana.h"
 #include "forms/Grilla_ventana.h"
 #include "forms/Lamina_ventana.h"
 
@@ -158,6 +159,13 @@ QWidget* AjusteEventos_ventana::Tablas()
     fichas->addTab(hoja(EnPila({{ventanas, 1}})), QStringLiteral("Ventanas"));
     fichas->addTab(hoja(EnPila({{curva, 1}, Rotulo("cmbInterpolacion", entre), entre})),
                    QStringLiteral("Curva de gasto"));
+    tablaDePuntajes =
+        new forms::TablaCuadro(entorno, m.puntajes.tblPuntajes, "tblPuntajes", Fila("tblPuntajes").leyenda);
+    constexpr int DeValor = 16, DeUnidad = 8;
+    tablaDePuntajes->PonColumnas({0, DeValor, DeUnidad});
+    QLabel* const palabras = Texto("lblPuntajes", m.puntajes.lblPuntajes);
+    palabras->setWordWrap(true);
+    fichas->addTab(hoja(EnPila({{tablaDePuntajes, 1}, palabras})), QStringLiteral("Puntajes"));
     connect(fichas, &QTabWidget::currentChanged, this, [this](int cual) { m.ficha = cual; });
     // Wide enough for the widest of the three.
     fichas->setMinimumWidth(ventanas->horizontalHeader()->length() + 4 * ventanas->frameWidth() +
@@ -191,6 +199,7 @@ void AjusteEventos_ventana::Separa()
 void AjusteEventos_ventana::Muestra()
 {
     PaginaDeAjuste::Muestra();
+    tablaDePuntajes->Muestra();
     grafico->Muestra(m.Grafico);
     const study::Observacion* const o = ObservacionEnMano(f);
     grafico->PonTema(TemaDe(f), o == nullptr ? TemaDe(f) : o->componente);

@@ -8,6 +8,10 @@
 #include "calibration/taller/AjusteEventos.h"
 #include "calibration/taller/PaginaDeAjuste_ventana.h"
 
+namespace forms {
+class TablaCuadro;
+}
+
 namespace calibration {
 
 /// First step: events and what was observed of them, beside the run.
@@ -39,6 +43,7 @@ class AjusteEventos_ventana : public PaginaDeAjuste {
 
     AjusteEventos m = NuevaAjusteEventos();
     forms::Lamina* grafico = nullptr;
+    forms::TablaCuadro* tablaDePuntajes = nullptr;
 };
 
 }  // namespace calibration
