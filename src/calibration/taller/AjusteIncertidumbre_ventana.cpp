@@ -13,7 +13,7 @@ AjusteIncertidumbre_ventana::AjusteIncertidumbre_ventana(forms::Entorno& alreded
     : PaginaDe(alrededor, taller, RotulosAjusteIncertidumbre, "AjusteIncertidumbre")
 {
     tabla = new forms::TablaCuadro(entorno, m.tblCuantiles, "tblCuantiles", Fila("tblCuantiles").leyenda);
-    tabla->PonColumnas({10, 12, 11, 14, 11});
+    tabla->PonColumnas({10, 13, 12, 15, 11});
     auto* const fila =
         EnFila({Elecciones(), {EnPila({Ordenes(), {LadoALado(tabla, Derecha(), 7, 8), 1}}), 1}});
     fila->setContentsMargins(0, 0, 0, 0);

@@ -94,7 +94,7 @@ QWidget* AjusteSensibilidad_ventana::Elecciones()
                                        [this](int i) { cmbDeEvento_Click(m, f, i); })},
                                 {0, 1}),
                       VisibleSi(Ficha("lblPuntaje", m.lblPuntaje), [this] { return EsDePuntaje(f); })}));
-    constexpr int Letras = 40;
+    constexpr int Letras = 48;
     return EnColumna({metodo, medida, Hueco()}, Letras);
 }
 
