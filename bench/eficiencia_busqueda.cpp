@@ -39,7 +39,7 @@ void TablaDeEficiencia()
     for (const Red& red : Redes)
         for (const double ruido : {0.0, 0.05})
             for (const MetodoDeBusqueda& metodo : MetodosDeBusqueda())
-                for (const int corridas : {500, 1000, 2000, 5000})
+                for (const int corridas : {500, 2000, 5000, 20000})
                     for (int semilla = 1; semilla <= Semillas; ++semilla) {
                         const auto antes = std::chrono::steady_clock::now();
                         const Calibrado c = Corre(red.hace(ruido).pedido, metodo.clave, corridas,

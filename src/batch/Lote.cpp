@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "batch/AjustaLote.h"
 #include "batch/ConjuntoLote.h"
 #include "batch/CorridaLote.h"
 #include "batch/FrecuenciaLote.h"
@@ -37,6 +38,7 @@ constexpr auto Verbos = std::to_array<Verbo>({
     {"sensibilidad", UsoSensibilidad, LeeOpcionesSensibilidad, MuestraSensibilidad},
     {"conjunto", UsoConjunto, LeeOpcionesConjunto, MuestraConjunto},
     {"une", UsoUne, LeeOpcionesUne, MuestraUnion},
+    {"ajusta", UsoAjusta, LeeOpcionesAjusta, AjustaProyecto},
     {"verifica", UsoVerifica, LeeOpcionesVerifica, MuestraCasos},
 });
 /// una and serie, and whatever is none of them.

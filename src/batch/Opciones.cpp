@@ -109,6 +109,7 @@ constexpr auto Filas = std::to_array<FilaOpcion>({
      [](Opciones& o, const std::string& v) { o.recurrencias = DeLaLista(v, model::Recurrencias); },
      DeTormenta},
     {"--tarea", [](Opciones& o, const std::string& v) { o.tarea = v; }, DeTareas},
+    {"--corridas", [](Opciones& o, const std::string& v) { o.corridas = v; }, DeTarea},
     {"--parte", [](Opciones& o, const std::string& v) { o.parte = ParteDe(v); }, DeConjunto},
     {"--parcial", [](Opciones& o, const std::string& v) { o.parcial = v; }, DeConjunto},
     {"--cuenca", [](Opciones& o, const std::string& v) { o.cuenca = Lamina(v); }, DeRevision},

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "batch/AjustaLote.h"
 #include "batch/ConjuntoLote.h"
 #include "batch/CorridaLote.h"
 #include "batch/FrecuenciaLote.h"
@@ -45,6 +46,11 @@ int MuestraConjunto(const Opciones& /*o*/, const std::string& /*dirEjecutable*/,
 int MuestraUnion(const Opciones& /*o*/, const std::string& /*dirEjecutable*/, const Salidas& salidas)
 {
     return NoLaTrae("une", salidas);
+}
+
+int AjustaProyecto(const Opciones& /*o*/, const std::string& /*dirEjecutable*/, const Salidas& salidas)
+{
+    return NoLaTrae("ajusta", salidas);
 }
 
 }  // namespace batch

@@ -212,6 +212,26 @@ Estado de salida: 0 hay resultados; 1 falta una parte, hay una dos veces, no son
                   leer o escribir; 2 la línea de órdenes es errónea.
 )";
 
+constexpr std::string_view TextoUsoAjusta =
+    R"(Uso: siro-lote ajusta CONF [opciones]
+
+Busca los valores de los parámetros con los que las corridas más se acercan a las crecidas observadas, y dice cuáles
+son identificables, los rangos de todos los conjuntos casi iguales y el puntaje de cada evento. Parámetros, eventos,
+método, puntaje, presupuesto y semilla están en P_Estudio.json, bajo "ajuste". No cambia el proyecto.
+
+  --tarea ARCHIVO         lo que se pide, en JSON, como lo que el estudio tiene bajo "ajuste" (el estudio)
+  --corridas ARCHIVO      escribe todas las corridas de la búsqueda, en CSV: sus valores y su puntaje
+  --hilos N               hilos, hasta 1024; 0: todos los núcleos. No cambia los resultados (0)
+  --json                  todo menos las corridas, en JSON
+  --csv                   parametro,unidad,minimo,maximo,antes,mejor,cerca_minimo,cerca_maximo,aviso
+  --trabajo, --forma, --pp, --dur, --rec, --distribucion, --paso-pp, --paso-q, --pp-ueh, --tormenta
+                          la tormenta en mano y los pasos, como en la orden una
+  --ayuda, --help         este texto
+
+Estado de salida: 0 hay un mejor conjunto; 1 lo pedido no se puede hacer, ninguna corrida dio puntaje, o no se pudo
+                  leer o escribir; 2 la línea de órdenes es errónea.
+)";
+
 }  // namespace
 
 std::string_view UsoConjunto()
@@ -227,6 +247,11 @@ std::string_view UsoUne()
 std::string_view UsoSensibilidad()
 {
     return TextoUsoSensibilidad;
+}
+
+std::string_view UsoAjusta()
+{
+    return TextoUsoAjusta;
 }
 
 std::string_view UsoTormenta()

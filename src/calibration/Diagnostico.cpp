@@ -15,7 +15,7 @@
 namespace calibration {
 namespace {
 
-constexpr double MuchoDelRango = 0.5, Juntos = 0.95, JuntoAlBorde = 0.005;
+constexpr double MuchoDelRango = 1.0 / 3, Juntos = 0.95, JuntoAlBorde = 0.005;
 constexpr std::size_t MasCercanos = 200, MenosParaCorrelacion = 20;
 
 /// Four digits, which say more than is known.

@@ -40,16 +40,13 @@ inline model::UEH Unidad(int i, float area, float largo, const char* destino)
             .KostiakovI = 0};
 }
 
-inline model::Cauce Tramo(int i, const char* destino, bool directo)
+inline model::Cauce Tramo(int i, const char* destino)
 {
     return {.numCauce = static_cast<std::int16_t>(i),
             .NombreCauce = "c-" + std::to_string(i),
             .Cauce_aa = destino,
-            .LongCauce = 3000,
-            .VelMediaCauce = 2,
             .Cauce_k_Musk = 30,
-            .Cauce_n_Musk = 0,
-            .optDirMusk = directo};
+            .Cauce_n_Musk = 0};
 }
 
 inline runs::Lluvia Tormenta(float lamina, std::int16_t duracion, std::int16_t distribucion)
@@ -121,33 +118,32 @@ inline Gemelo UnaUnidad(double ruido = 0)
     return g;
 }
 
-/// Four units into two reaches, two storms, seen at two places: twelve parameters, some of them common.
+/// Three units and two reaches, two storms, seen at four places: twelve parameters, some of them common.
 inline Gemelo VariasUnidades(double ruido = 0)
 {
     using namespace gemelos;
     Gemelo g;
     runs::Modelo& m = g.pedido.modelo;
     m.red.ColUEHs.Agrega(Unidad(1, 400, 3000, "c-1"));
-    m.red.ColUEHs.Agrega(Unidad(2, 250, 2500, "c-1"));
+    m.red.ColUEHs.Agrega(Unidad(2, 250, 2500, "c-2"));
     m.red.ColUEHs.Agrega(Unidad(3, 500, 3500, "c-2"));
-    m.red.ColUEHs.Agrega(Unidad(4, 300, 2000, "c-2"));
-    m.red.ColCauces.Agrega(Tramo(1, "c-2", false));
-    m.red.ColCauces.Agrega(Tramo(2, "0", true));
+    m.red.ColCauces.Agrega(Tramo(1, "c-2"));
+    m.red.ColCauces.Agrega(Tramo(2, "0"));
     m.lluvias = {Tormenta(60, 90, 2), Tormenta(45, 180, 3)};
     m.parametros = {Mueve("u-*", "retencion_z", 0.1, 1.5, false, "factor"),
-                    Mueve("u-*", "kostiakov_a", 0.1, 2, true, "factor"),
-                    Mueve("u-*", "kostiakov_b", 0.2, 0.95),
-                    Mueve("u-*", "kostiakov_i", 0, 100),
+                    Mueve("u-1", "kostiakov_a", 0.1, 2, true, "factor"),
+                    Mueve("u-2", "kostiakov_a", 0.1, 2, true, "factor"),
+                    Mueve("u-3", "kostiakov_a", 0.1, 2, true, "factor"),
                     Mueve("u-1", "velocidad_media", 0.1, 3, true),
                     Mueve("u-2", "velocidad_media", 0.1, 3, true),
                     Mueve("u-3", "velocidad_media", 0.1, 3, true),
-                    Mueve("u-4", "velocidad_media", 0.1, 3, true),
-                    Mueve("u-*", "q0_recesion", 0.1, 4, true, "factor"),
+                    Mueve("u-1", "q0_recesion", 0.1, 30, true),
+                    Mueve("u-2", "q0_recesion", 0.1, 30, true),
                     Mueve("u-*", "k_recesion", 1, 60, true),
                     Mueve("c-1", "musk_k", 5, 90, true),
-                    Mueve("c-2", "velocidad", 0.3, 6, true)};
-    g.verdad = {0.5, 0.6, 0.55, 20, 0.5, 0.3, 0.7, 0.4, 1.6, 8, 18, 1.2};
-    Observa(g, {"c-1", "c-2"}, ruido);
+                    Mueve("c-2", "musk_k", 5, 90, true)};
+    g.verdad = {0.5, 0.6, 0.5, 0.7, 0.5, 0.3, 0.7, 4, 2.5, 8, 18, 25};
+    Observa(g, {"u-1", "u-2", "c-1", "c-2"}, ruido);
     return g;
 }
 
