@@ -117,17 +117,23 @@ class Sala {
     bool dejada = false;
 };
 
-/// Each parameter alone from one end of its range to the other, the others at their best: how far values
-/// apart are as good, and whether it does anything.
-std::vector<std::vector<double>> Sondas(const std::vector<double>& mejor)
+/// One parameter alone, the others at their best: how far it may go towards an end of its range and stay near
+/// the best score, by halving. Each place and its cost; no number where it was given up.
+std::vector<Evaluacion> Sonda(const Evaluacion& mejor, std::size_t parametro, double cercania,
+                              const Costo& costo)
 {
-    std::vector<std::vector<double>> sondas;
-    for (std::size_t i = 0; i < mejor.size(); ++i)
-        for (std::size_t k = 0; k < SondasPorParametro; ++k) {
-            sondas.push_back(mejor);
-            sondas.back()[i] = static_cast<double>(k) / (SondasPorParametro - 1);
+    std::vector<Evaluacion> medidas;
+    for (const double extremo : {0.0, 1.0}) {
+        double cerca = mejor.punto[parametro], lejos = extremo;
+        for (std::size_t k = 0; k < SondasPorParametro / 2; ++k) {
+            Evaluacion e = mejor;
+            e.punto[parametro] = k == 0 ? extremo : (cerca + lejos) / 2;
+            e.costo = costo(e.punto);
+            (e.costo <= mejor.costo + cercania ? cerca : lejos) = e.punto[parametro];
+            medidas.push_back(std::move(e));
         }
-    return sondas;
+    }
+    return medidas;
 }
 
 /// The search, and its probes out of the same budget.
@@ -144,16 +150,20 @@ Busqueda Busca(const PedidoDeCalibracion& p, const Reparto& reparto, std::vector
                               .inicio = Inicio(p.modelo)},
                              reparto);
     if (cuantas == 0 || b.fin == FinDeBusqueda::Cancelada || b.evaluaciones.empty()) return b;
-    const auto puntos = Sondas(b.Mejor()->punto);
-    std::vector<double> costos(puntos.size(), std::numeric_limits<double>::quiet_NaN());
-    reparto(puntos.size(), [&](std::size_t k, const Costo& costo) { costos[k] = costo(puntos[k]); });
-    if (std::any_of(costos.begin(), costos.end(), [](double c) { return std::isnan(c); })) {
-        b.fin = FinDeBusqueda::Cancelada;
-        return b;
-    }
-    for (std::size_t k = 0; k < puntos.size(); ++k)
-        b.evaluaciones.push_back({puntos[k], costos[k]});
-    sondas = std::move(costos);
+    const Evaluacion mejor = *b.Mejor();
+    std::vector<std::vector<Evaluacion>> medidas(n);
+    reparto(n,
+            [&](std::size_t i, const Costo& costo) { medidas[i] = Sonda(mejor, i, p.como.cercania, costo); });
+    for (const auto& deUno : medidas)
+        for (const Evaluacion& e : deUno) {
+            if (std::isnan(e.costo)) {
+                b.fin = FinDeBusqueda::Cancelada;
+                sondas.clear();
+                return b;
+            }
+            b.evaluaciones.push_back(e);
+            sondas.push_back(e.costo);
+        }
     return b;
 }
 

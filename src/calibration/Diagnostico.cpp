@@ -15,16 +15,8 @@
 namespace calibration {
 namespace {
 
-constexpr double MuchoDelRango = 1.0 / 3, Juntos = 0.95, JuntoAlBorde = 0.005;
+constexpr double MuchoDelRango = 0.2, Juntos = 0.95, JuntoAlBorde = 0.005;
 constexpr std::size_t MasCercanos = 200, MenosParaCorrelacion = 20;
-
-/// Four digits, which say more than is known.
-std::string Cifras(double x)
-{
-    if (x == 0 || !std::isfinite(x)) return model::NumeroATexto(x);
-    const double orden = std::pow(10, 3 - std::floor(std::log10(std::abs(x))));
-    return model::NumeroATexto(static_cast<float>(std::round(x * orden) / orden));
-}
 
 /// The distinct sets near the best one, the best first, by their evaluations.
 std::vector<std::size_t> CercaDelMejor(const Busqueda& b, const Calibrado& c, double cercania)
@@ -140,8 +132,9 @@ void DiceDeParametros(Calibrado& c)
             continue;
         }
         if (!h.identificable)
-            c.dichos.push_back(h.nombre + " no es identificable: valores de " + Cifras(h.cercaMinimo) +
-                               " a " + Cifras(h.cercaMaximo) + " dan puntajes casi iguales.");
+            c.dichos.push_back(h.nombre + " no es identificable: valores de " +
+                               EnCuatroCifras(h.cercaMinimo) + " a " + EnCuatroCifras(h.cercaMaximo) +
+                               " dan puntajes casi iguales.");
         if (h.borde != 0)
             c.dichos.push_back("El mejor valor de " + h.nombre + " está en el " +
                                (h.borde < 0 ? "mínimo" : "máximo") +
@@ -149,7 +142,7 @@ void DiceDeParametros(Calibrado& c)
     }
     for (const Atados& a : c.atados)
         c.dichos.push_back(c.parametros[a.a].nombre + " y " + c.parametros[a.b].nombre +
-                           " se mueven juntos (r = " + Cifras(std::round(a.r * 100) / 100) +
+                           " se mueven juntos (r = " + EnCuatroCifras(std::round(a.r * 100) / 100) +
                            "): sólo se identifica una combinación de los dos; conviene dejar uno fijo.");
 }
 
@@ -162,7 +155,7 @@ void DiceDePuntajes(const PedidoDeCalibracion& pedido, const Busqueda& b, Calibr
     }
     c.dichos.push_back(std::to_string(c.cuantosCercanos) +
                        (c.cuantosCercanos == 1 ? " conjunto queda" : " conjuntos quedan") + " a " +
-                       Cifras(pedido.como.cercania) + " o menos del mejor puntaje.");
+                       EnCuatroCifras(pedido.como.cercania) + " o menos del mejor puntaje.");
     if (c.antes && PuntajeDeCosto(puntaje, b.evaluaciones[c.cualEsMejor].costo) != *c.antes &&
         (puntaje.masEsMejor ? *c.antes > c.Puntaje() : *c.antes < c.Puntaje()))
         c.dichos.push_back("Los valores de la red puntúan mejor, " + Texto(puntaje, c.antes) +
@@ -178,6 +171,13 @@ void DiceDePuntajes(const PedidoDeCalibracion& pedido, const Busqueda& b, Calibr
 }
 
 }  // namespace
+
+std::string EnCuatroCifras(double x)
+{
+    if (x == 0 || !std::isfinite(x)) return model::NumeroATexto(x);
+    const double orden = std::pow(10, 3 - std::floor(std::log10(std::abs(x))));
+    return model::NumeroATexto(static_cast<float>(std::round(x * orden) / orden));
+}
 
 std::string AvisoDe(const Calibrado& c, std::size_t i)
 {

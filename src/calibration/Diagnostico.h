@@ -14,8 +14,8 @@
 // How sure a calibration is: what the sets near the best one have in common, and what they don't.
 namespace calibration {
 
-/// Probes of a parameter alone: evenly from the lower to the upper end of its range.
-inline constexpr std::size_t SondasPorParametro = 5;
+/// Probes of a parameter alone, half of them towards each end of its range.
+inline constexpr std::size_t SondasPorParametro = 12;
 
 /// A place in the range of a parameter, 0 to 1 in its scale, as a value, and back.
 double ValorDe(const study::Parametro& p, double lugar);
@@ -23,6 +23,9 @@ double LugarEnRango(const study::Parametro& p, double valor);
 
 /// What the network has of it: its value, 1 for a factor, 0 for a sum; none where its components differ.
 std::optional<double> ValorDeLaRed(const study::Parametro& p, const runs::Modelo& modelo);
+
+/// A number in four digits, which say more than is known.
+std::string EnCuatroCifras(double x);
 
 /// What is to be known of a parameter, in a few words: "no identificable, en su mínimo"; empty: nothing.
 std::string AvisoDe(const Calibrado& calibrado, std::size_t parametro);

@@ -87,8 +87,8 @@ TEST_F(AjustaLote, DaLoMismoConCualquierNumeroDeHilos)
     EXPECT_EQ(json[0], json[2]);
     EXPECT_EQ(corridas[0], corridas[1]);
     EXPECT_EQ(corridas[0], corridas[2]);
-    EXPECT_TRUE(
-        corridas[0].starts_with("corrida,u-*.kostiakov_a.factor,u-*.velocidad_media.factor,puntaje\n1,1,1,"));
+    EXPECT_TRUE(corridas[0].starts_with(
+        "corrida,u-*.kostiakov_a.factor,u-*.velocidad_media.factor,puntaje\n1,1.000"));
     EXPECT_EQ(std::count(corridas[0].begin(), corridas[0].end(), '\n'), 61);
     EXPECT_NE(json[0].find("\"metodo\": \"sce\""), std::string::npos);
     EXPECT_NE(json[0].find("\"papel\": \"valida\""), std::string::npos);

@@ -71,6 +71,25 @@ TEST(Calibra, UnGemeloSeEncuentraDentroDelDosPorCiento)
     }
 }
 
+TEST(Calibra, DeVariasUnidadesLosIdentificablesSeEncuentranYLosDemasSeDicen)
+{
+    const Gemelo g = pruebas::VariasUnidades();
+    const Calibrado c = *Calibra(g.pedido);
+    EXPECT_LE(c.corridas.size(), 5000U);
+    std::size_t hallados = 0;
+    for (std::size_t i = 0; i < g.verdad.size(); ++i) {
+        const bool atado = std::any_of(c.atados.begin(), c.atados.end(),
+                                       [&](const Atados& a) { return a.a == i || a.b == i; });
+        if (!c.parametros[i].identificable || atado) {
+            EXPECT_TRUE(Dice(c, c.parametros[i].nombre)) << c.parametros[i].nombre;
+            continue;
+        }
+        ++hallados;
+        EXPECT_NEAR(c.parametros[i].mejor, g.verdad[i], 0.02 * g.verdad[i]) << c.parametros[i].nombre;
+    }
+    EXPECT_GE(hallados, 6U);
+}
+
 TEST(Calibra, LoQueNoTieneEfectoSeDice)
 {
     Gemelo g = Solo({"kostiakov_a"});
@@ -146,9 +165,10 @@ TEST(Calibra, ElPuntajeEsElDeUnaCorridaConEsosValores)
     for (std::size_t i = 0; i < 2; ++i) {
         const engine::Calculo calculo = engine::Calcula(m.red, m.lluvias[i].tormenta, m.lluvias[i].pasos);
         double deEvento = 0, pesos = 0;
+        std::size_t sitio = 4 * i;
         for (const study::Observacion& o : g.pedido.eventos[i].observaciones) {
             const double nse = *PuntajeDe("nse")->valor(ParesDe(calculo, m.lluvias[i].pasos, o).pares);
-            EXPECT_EQ(c.sitios[pesos == 0 ? 2 * i : 2 * i + 1].despues, nse);
+            EXPECT_EQ(c.sitios.at(sitio++).despues, nse);
             deEvento += o.peso * nse;
             pesos += o.peso;
         }
@@ -166,13 +186,13 @@ TEST(Calibra, LosEventosDeValidacionNoPesanYSuPuntajeSeDice)
     g.pedido.eventos[1].papel = "valida";
     const Calibrado con = *Calibra(g.pedido);
     ASSERT_TRUE(con.validacion);
-    EXPECT_EQ(con.sitios.size(), 4U);
+    EXPECT_EQ(con.sitios.size(), 8U);
     EXPECT_TRUE(Dice(con, "En los eventos de validación"));
     g.pedido.eventos[1].papel = "fuera";
     const Calibrado sin = *Calibra(g.pedido);
     EXPECT_EQ(con.Mejor(), sin.Mejor());
     EXPECT_FALSE(sin.validacion);
-    EXPECT_EQ(sin.sitios.size(), 2U);
+    EXPECT_EQ(sin.sitios.size(), 4U);
 }
 
 TEST(Calibra, LasCorridasSinPuntajeSonLasPeoresYSeCuentan)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "calibration/taller/dlgAjuste_ventana.h"
 
+#include "calibration/taller/AjusteCalibracion_ventana.h"
 #include "calibration/taller/AjusteEventos_ventana.h"
 #include "calibration/taller/AjusteIncertidumbre_ventana.h"
 #include "calibration/taller/AjusteParametros_ventana.h"
@@ -24,6 +25,7 @@ void dlgAjuste_ventana::PonPaginas()
     Agrega("1 Eventos", new AjusteEventos_ventana(entorno, f));
     Agrega("2 Parámetros", new AjusteParametros_ventana(entorno, f));
     Agrega("3 Sensibilidad", new AjusteSensibilidad_ventana(entorno, f));
+    Agrega("4 Calibración", new AjusteCalibracion_ventana(entorno, f));
     Agrega("5 Incertidumbre", new AjusteIncertidumbre_ventana(entorno, f));
 }
 
