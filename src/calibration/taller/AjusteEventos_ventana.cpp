@@ -155,6 +155,7 @@ QWidget* AjusteEventos_ventana::Tablas()
     QLabel* const cuantos = Texto("lblValores", m.lblValores);
     cuantos->setWordWrap(true);
     auto* const fichas = Nombra(new QTabWidget, "fichas");
+    fichas->setUsesScrollButtons(false);  // all four are in sight
     fichas->addTab(hoja(EnPila({{valores, 1}, cuantos})), QStringLiteral("Valores"));
     fichas->addTab(hoja(EnPila({{ventanas, 1}})), QStringLiteral("Ventanas"));
     fichas->addTab(hoja(EnPila({{curva, 1}, Rotulo("cmbInterpolacion", entre), entre})),
