@@ -144,7 +144,7 @@ bool AjusteSensibilidad_ventana::AlEscapar()
 void AjusteSensibilidad_ventana::Muestra()
 {
     PaginaDeAjuste::Muestra();
-    constexpr int DeNumero = 5, DeNombre = 30, DeIndice = 14;
+    constexpr int DeNumero = 5, DeNombre = 30, DeIndice = 20;
     std::vector<int> letras(m.tblIndices.planilla.columnas.size(), DeIndice);
     letras[0] = DeNumero;
     letras[1] = DeNombre;

@@ -14,7 +14,7 @@ namespace {
 using forms::CeldaVacia;
 using forms::TipoSerie;
 
-constexpr double Lado = 0.17;  // of a bar of a pair from the middle of its parameter
+constexpr double Lado = 0.12;  // of a bar of a pair from the middle of its parameter
 
 std::string ConUnidad(const std::string& que, const std::string& unidad)
 {
@@ -77,7 +77,7 @@ forms::Grafico Tornado(const AnalisisDeSensibilidad& a)
                 {TipoSerie::Barra2D, "En su máximo", false, {}}};
     const double hoy = a.actual.value_or(0);
     PonPares(g, a, [hoy](const std::vector<double>& fila) { return Par{fila[0] - hoy, fila[1] - hoy, {}}; });
-    g.ejeY = ConUnidad(a.actual ? "Cambio respecto de hoy" : "Valor", a.medida.unidad);
+    g.ejeY = ConUnidad(a.actual ? "Cambio" : "Valor", a.medida.unidad);
     return g;
 }
 
