@@ -22,7 +22,9 @@ set(sin_pagina_propia
     frmInicio frmPp2               # nothing is asked of them
     dlgTablaSalePDR2               # with its twin
     dlgImportaTormenta             # with the storm that it makes
-    dlgImportaMaximos)             # with the workshop
+    dlgImportaMaximos              # with the workshop
+    dlgImportaObservada            # with the workshop of fitting
+    dlgRecesion)
 set(ventanas dlgTabla)
 file(GLOB_RECURSE fuentes RELATIVE ${RAIZ} ${RAIZ}/src/frm*.h ${RAIZ}/src/dlg*.h ${RAIZ}/src/MDIForm1.h)
 foreach(fuente IN LISTS fuentes)
