@@ -58,9 +58,10 @@ TEST(Calibra, UnGemeloSeEncuentraDentroDelDosPorCiento)
         const Calibrado c = *Calibra(g.pedido);
         EXPECT_GT(c.Puntaje(), 0.9999) << metodo;
         for (std::size_t i = 0; i < g.verdad.size(); ++i) {
-            if (c.parametros[i].identificable)
+            if (c.parametros[i].identificable) {
                 EXPECT_NEAR(c.parametros[i].mejor, g.verdad[i], 0.02 * g.verdad[i])
                     << metodo << " " << c.parametros[i].nombre;
+            }
             EXPECT_LE(c.parametros[i].cercaMinimo, g.verdad[i]);
             EXPECT_GE(c.parametros[i].cercaMaximo, g.verdad[i]);
         }

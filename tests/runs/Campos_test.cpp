@@ -67,10 +67,11 @@ TEST(LosCampos, CadaUnoMueveElSuyoYNadaMas)
         if (c.clase == 't') continue;
         model::Red red = azar.m.red;
         *c.lugar.pone(red, 1) = 7.25F;
-        for (const Campo& otro : campos)
-            if (otro.clase != 't')
-                EXPECT_EQ(*otro.lugar.lee(red, 1), &otro == &c ? 7.25F : *otro.lugar.lee(azar.m.red, 1))
-                    << c.clave << " moves " << otro.clave;
+        for (const Campo& otro : campos) {
+            if (otro.clase == 't') continue;
+            EXPECT_EQ(*otro.lugar.lee(red, 1), &otro == &c ? 7.25F : *otro.lugar.lee(azar.m.red, 1))
+                << c.clave << " moves " << otro.clave;
+        }
     }
     // Four fields of dams and functions with three numbers, four with two; each has its range beside them.
     EXPECT_EQ(campos.size(), 9U + 4 + 2 + 4 * 4 + 4 * 5 + 2 + 2);

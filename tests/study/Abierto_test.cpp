@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <initializer_list>
 #include <string>
 #include <utility>
 #include <vector>
@@ -332,6 +333,15 @@ TEST_F(DeUnProyecto, ElEstudioBorradoConSuProyectoQuedaVacioYOtroNo)
 
 // --- the values of observations, in files of their own ---
 
+/// Paths as the disk lists them, by "/" on every system.
+std::vector<std::string> Listados(std::initializer_list<std::string> nombres)
+{
+    std::vector<std::string> rutas;
+    for (const std::string& nombre : nombres)
+        rutas.push_back(Carpeta + "/" + nombre);
+    return rutas;
+}
+
 const std::string Serie1 = model::Ruta(Carpeta, "A_serie_1.csv");
 const std::string Serie2 = model::Ruta(Carpeta, "A_serie_2.csv");
 const std::vector<Punto> Crecida{{0, 0.5}, {10, 0.1 + 0.2}, {20, 7.5}};
@@ -367,7 +377,7 @@ TEST_F(DeUnaObservacion, SusValoresVanAUnArchivoPropioYVuelven)
 {
     Abre("A");
     EXPECT_TRUE(abierto.CambiaAjuste("Pegar", De({En("u-1", Crecida), En("c-2", Otra), En("c-3", {})})));
-    EXPECT_EQ(disco.Archivos(), (std::vector<std::string>{RutaA, Serie1, Serie2}));
+    EXPECT_EQ(disco.Archivos(), Listados({"A_Estudio.json", "A_serie_1.csv", "A_serie_2.csv"}));
     EXPECT_EQ(disco.Bytes(Serie1),
               "minutos [min];caudal [m3/s];3 valores\n0;0.5\n10;0.30000000000000004\n20;7.5\n");
     EXPECT_EQ(disco.Bytes(RutaA).find("7.5"), std::string::npos);
@@ -402,13 +412,13 @@ TEST_F(DeUnaObservacion, LaQueSeQuitaSeVaConSuArchivoYVuelveAlDeshacer)
     Ajuste nuevo = abierto.EnMano().ajuste;
     nuevo.eventos[0].observaciones.erase(nuevo.eventos[0].observaciones.begin());
     EXPECT_TRUE(abierto.CambiaAjuste("Quitar", nuevo));
-    EXPECT_EQ(disco.Archivos(), (std::vector<std::string>{RutaA, Serie2}));
+    EXPECT_EQ(disco.Archivos(), Listados({"A_Estudio.json", "A_serie_2.csv"}));
     EXPECT_TRUE(abierto.Deshace());
     EXPECT_EQ(disco.Bytes(Serie1), bytes);
     EXPECT_TRUE(abierto.Rehace());
     EXPECT_FALSE(disco.Esta(Serie1));
     EXPECT_TRUE(abierto.Deshace() && abierto.Deshace());
-    EXPECT_EQ(disco.Archivos(), std::vector<std::string>{RutaA});
+    EXPECT_EQ(disco.Archivos(), Listados({"A_Estudio.json"}));
     EXPECT_TRUE(abierto.Rehace());
     Reabre();
     EXPECT_EQ(Observaciones()[0].puntos, Crecida);
@@ -459,7 +469,7 @@ TEST_F(DeUnaObservacion, LaDanadaLaQueFaltaYLaAjenaSeDicenYElRestoSeAbre)
     EXPECT_EQ(Observaciones()[0].archivo, "4");
     nuevo.eventos[0].observaciones.clear();
     EXPECT_TRUE(abierto.CambiaAjuste("Quitar", nuevo));
-    EXPECT_EQ(disco.Archivos(), (std::vector<std::string>{RutaA, Serie1}));
+    EXPECT_EQ(disco.Archivos(), Listados({"A_Estudio.json", "A_serie_1.csv"}));
     EXPECT_EQ(disco.Bytes(Serie1), cortada);
 }
 
