@@ -64,9 +64,9 @@ class Pagina : public QWidget, protected forms::Constructor {
 template <typename F>
 class PaginaDe : public Pagina {
   public:
-    PaginaDe(forms::Entorno& alrededor, F& registro, std::span<const forms::FilaRotulo> rotulos,
+    PaginaDe(forms::Entorno& alrededor, F& registro, std::span<const forms::FilaRotulo> susRotulos,
              std::string_view nombre)
-        : Pagina(alrededor, rotulos, nombre), f(registro)
+        : Pagina(alrededor, susRotulos, nombre), f(registro)
     {
     }
 
