@@ -119,7 +119,9 @@ TEST_P(CadaMetodo, NuncaPasaDelPresupuestoNiDelCubo)
                          }));
         EXPECT_EQ(b.evaluaciones.size(), medidas);
         EXPECT_LE(medidas, corridas);
-        if (b.fin == FinDeBusqueda::Presupuesto) EXPECT_EQ(medidas, corridas);
+        if (b.fin == FinDeBusqueda::Presupuesto) {
+            EXPECT_EQ(medidas, corridas);
+        }
     }
 }
 
