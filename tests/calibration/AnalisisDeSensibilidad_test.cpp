@@ -112,8 +112,8 @@ TEST(Medidas, LoQueNoSePuedeMedirSeDice)
               "El nivel es de una represa o una laguna; c-1 no lo es.");
     EXPECT_EQ(motivo({.que = "puntaje", .puntaje = "r2"}), "No hay ningún puntaje \"r2\".");
     EXPECT_EQ(motivo({.que = "puntaje"}, false), "Un puntaje pide un evento con observaciones.");
-    EXPECT_EQ(motivo({.que = "puntaje", .componente = "u-1"}),
-              "El evento Tormenta de 90 min no tiene observaciones de u-1.");
+    EXPECT_EQ(motivo({.que = "puntaje", .componente = "u-3"}),
+              "El evento Tormenta de 90 min no tiene observaciones de u-3.");
 }
 
 // --- analyses ---
@@ -222,13 +222,13 @@ TEST(AnalisisDeSensibilidad, UnValorComunDeComponentesDistintosSeDice)
     Gemelo g = pruebas::VariasUnidades();
     g.pedido.modelo.parametros = {pruebas::gemelos::Mueve("u-*", "kostiakov_a", 1, 9)};
     model::UEH& u = g.pedido.modelo.red.ColUEHs.Item(2);
-    u.KostiakovA = 6;  // the others 4: the mean of the four is 4.5
+    u.KostiakovA = 5.5F;  // the others 4: the mean of the three is 4.5
     EXPECT_EQ(RangosDe(g.pedido.modelo, 0)[0].actual, 4.5);
     const AnalisisDeSensibilidad a =
         *AnalizaSensibilidad(g.pedido.modelo, AjusteDe(g, {.metodo = "tornado"}), 1);
     ASSERT_EQ(a.notas.size(), 1);
     EXPECT_EQ(a.notas[0],
-              "u-*.kostiakov_a (valor) da a varios componentes un valor común: hoy van de 4 a 6.");
+              "u-*.kostiakov_a (valor) da a varios componentes un valor común: hoy van de 4 a 5.5.");
 }
 
 TEST(AnalisisDeSensibilidad, SeDejaYSeNiega)
