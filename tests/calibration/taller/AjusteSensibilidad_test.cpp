@@ -74,8 +74,8 @@ TEST_F(SensibilidadDeAjuste, CadaMetodoDaSuTablaSuGraficoYSusPalabras)
             << m.lblAvisos;
         EXPECT_NE(m.lblAvisos.find("• Sin efecto: u-2.k_recesion (valor)."), std::string::npos);
         EXPECT_FALSE(m.Grafico.series.empty());
-        for (const forms::Serie& s : m.Grafico.series)
-            EXPECT_EQ(s.celdas.size(), m.Grafico.abscisas.size()) << s.leyenda;
+        for (const forms::Serie& serie : m.Grafico.series)
+            EXPECT_EQ(serie.celdas.size(), m.Grafico.abscisas.size()) << serie.leyenda;
         EXPECT_TRUE(std::is_sorted(m.Grafico.abscisas.begin(), m.Grafico.abscisas.end()));
         EXPECT_EQ(m.lblEstado, "");
     }
