@@ -72,9 +72,9 @@ struct Opciones {
     float cuenca = 0;  ///< the basin as measured [ha], not negative; 0: not known
 
     std::string corridas{};  ///< path of the CSV of every run of a search; empty: none
-    std::string tarea{};    ///< path of what is asked of many runs; empty: the project's study
-    Parte parte{};          ///< of the members of a set
-    std::string parcial{};  ///< path that this part is written to; empty: all is written as results
+    std::string tarea{};     ///< path of what is asked of many runs; empty: the project's study
+    Parte parte{};           ///< of the members of a set
+    std::string parcial{};   ///< path that this part is written to; empty: all is written as results
     std::vector<std::string> archivos{};  ///< paths of the parts that are put together
 
     bool operator==(const Opciones&) const = default;

@@ -51,7 +51,7 @@ QWidget* AjusteCalibracion_ventana::Elecciones()
                          Renglon("txtSemilla", CampoDeNumero("txtSemilla", m.txtSemilla)),
                          Renglon("txtCercania", CampoDeNumero("txtCercania", m.txtCercania))},
                         {0, 1}));
-    constexpr int Letras = 38;
+    constexpr int Letras = 48;
     return EnColumna({busqueda, Hueco()}, Letras);
 }
 
@@ -92,7 +92,7 @@ QWidget* AjusteCalibracion_ventana::Tablas()
 {
     fichas = Nombra(new QTabWidget, "fichas");
     fichas->setDocumentMode(true);
-    fichas->addTab(TablaDe(m.tblParametros, "tblParametros", {28, 9, 9, 9, 12, 9, 30}),
+    fichas->addTab(TablaDe(m.tblParametros, "tblParametros", {34, 9, 9, 9, 14, 9, 30}),
                    forms::Q(FichasDeCalibracion[0]));
     fichas->addTab(TablaDe(m.tblPuntajes, "tblPuntajes", {14, 12, 12, 8, 9, 40}),
                    forms::Q(FichasDeCalibracion[1]));

@@ -159,7 +159,7 @@ QWidget* AjusteEventos_ventana::Tablas()
     fichas->addTab(hoja(EnPila({{valores, 1}, cuantos})), QStringLiteral("Valores"));
     fichas->addTab(hoja(EnPila({{ventanas, 1}})), QStringLiteral("Ventanas"));
     fichas->addTab(hoja(EnPila({{curva, 1}, Rotulo("cmbInterpolacion", entre), entre})),
-                   QStringLiteral("Curva de gasto"));
+                   QStringLiteral("Curva"));
     tablaDePuntajes =
         new forms::TablaCuadro(entorno, m.puntajes.tblPuntajes, "tblPuntajes", Fila("tblPuntajes").leyenda);
     constexpr int DeValor = 16, DeUnidad = 8;

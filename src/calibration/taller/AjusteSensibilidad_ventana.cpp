@@ -23,11 +23,8 @@ AjusteSensibilidad_ventana::AjusteSensibilidad_ventana(forms::Entorno& alrededor
     };
     grafico = new forms::Lamina(entorno, "lamSensibilidad", "Sensibilidad");
     DejaChico(*grafico);
-    QSplitter* const barra = LadoALado(tabla, SobreAvisos(grafico, m.lblAvisos));
-    barra->setOrientation(Qt::Vertical);
-    constexpr int ParteDeTabla = 1000, ParteDeGrafico = 2200;
-    barra->setSizes({ParteDeTabla, ParteDeGrafico});
-    auto* const fila = EnFila({Elecciones(), {EnPila({Ordenes(), {barra, 1}}), 1}});
+    auto* const fila = EnFila(
+        {Elecciones(), {EnPila({Ordenes(), {LadoALado(tabla, SobreAvisos(grafico, m.lblAvisos)), 1}}), 1}});
     fila->setContentsMargins(0, 0, 0, 0);
     setLayout(fila);
 }
@@ -144,7 +141,7 @@ bool AjusteSensibilidad_ventana::AlEscapar()
 void AjusteSensibilidad_ventana::Muestra()
 {
     PaginaDeAjuste::Muestra();
-    constexpr int DeNumero = 5, DeNombre = 30, DeIndice = 20;
+    constexpr int DeNumero = 5, DeNombre = 28, DeIndice = 20;
     std::vector<int> letras(m.tblIndices.planilla.columnas.size(), DeIndice);
     letras[0] = DeNumero;
     letras[1] = DeNombre;
