@@ -2,6 +2,7 @@
 #include "frequency/taller/TallerMaximos_ventana.h"
 
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QSplitter>
 
 #include "forms/Grilla_ventana.h"
