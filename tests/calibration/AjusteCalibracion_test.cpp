@@ -110,6 +110,11 @@ TEST_F(PaginaDeCalibracion, NadaCambiaEnLaRedHastaAplicarYSeAplicaUnaSolaVez)
     EXPECT_FALSE(SePuedeAplicar(m, f)) << "a factor would count twice";
     cmdAplicar(m, f);
     EXPECT_EQ(veces, 1);
+    calibration::Toma(m, f);
+    EXPECT_EQ(m.lblEstado, "El mejor conjunto está en la red; guárdela en el editor, o deshágalo allí.");
+    ++f.cargas;
+    calibration::Toma(m, f);
+    EXPECT_EQ(m.lblEstado, "Lo que se ve es de antes: los datos cambiaron.");
 }
 
 TEST_F(PaginaDeCalibracion, LoQueFaltaOCambioSeDice)

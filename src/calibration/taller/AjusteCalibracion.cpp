@@ -244,7 +244,9 @@ void PonDichos(AjusteCalibracion& m, const dlgAjuste& f)
                           : "Mejor hasta ahora: " +
                                 Texto(*PuntajeDe(m.pedido->como.puntaje), m.vista.mejoras.back().second);
     else if (m.calibrado && Caduco(m, f))
-        m.lblEstado = "Lo que se ve es de antes: los datos cambiaron.";
+        m.lblEstado = m.aplicada == f.cargas
+                          ? "El mejor conjunto está en la red; guárdela en el editor, o deshágalo allí."
+                          : "Lo que se ve es de antes: los datos cambiaron.";
     if (!m.reparos.empty())
         m.lblAvisos = Linea(m.reparos);
     else if (m.calibrado && !m.corriendo)
@@ -409,8 +411,8 @@ void cmdAplicar(AjusteCalibracion& m, dlgAjuste& f)
     if (!hecho) return;
     // The network isn't the one that was searched any more: a factor must not be put in twice.
     study::Toma(f);
+    m.aplicada = f.cargas;
     PonDichos(m, f);
-    m.lblEstado = "El mejor conjunto está en la red; guárdela en el editor, o deshágalo allí.";
 }
 
 forms::Planilla PlanillaDeCorridas(const AjusteCalibracion& m)

@@ -57,6 +57,7 @@ struct AjusteCalibracion {
     std::vector<study::Parametro> parametros{};  ///< of the study, when it was asked
     std::vector<study::Evento> eventos{};
     int cargas = 0;
+    int aplicada = -1;  ///< the loading of the project that the best set was put into
     std::string tema{};
     bool corriendo = false;
     study::EstadoDeAvance avance{};
