@@ -10,6 +10,10 @@
 #include <QSplitter>
 #include <algorithm>
 #include <cstddef>
+#include <utility>
+
+#include "forms/Cuadro.h"
+#include "forms/Cuadro_ventana.h"
 
 namespace study {
 namespace {
@@ -76,6 +80,24 @@ QWidget* Pagina::EnColumna(const forms::Partes& partes, int letras)
     lugar->setFixedWidth(letras * fontMetrics().averageCharWidth() +
                          lugar->verticalScrollBar()->sizeHint().width());
     return lugar;
+}
+
+QComboBox* Pagina::Corta(QComboBox* lista, int letras)
+{
+    lista->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    lista->setMinimumContentsLength(letras);
+    return lista;
+}
+
+forms::TablaCuadro* Pagina::TablaDe(forms::Cuadro& cuadro, std::string_view control, std::vector<int> letras)
+{
+    auto* const tabla = new forms::TablaCuadro(entorno, cuadro, control, Fila(control).leyenda);
+    tabla->PonColumnas(std::move(letras));
+    tabla->AlPulsarEncabezado = [this, &cuadro](int columna) {
+        Suceso([&] { forms::PulsaEncabezado(cuadro, columna); });
+    };
+    AlMostrar([tabla] { tabla->Muestra(); });
+    return tabla;
 }
 
 QWidget* Pagina::SobreAvisos(QWidget* grafico, const std::string& avisos)

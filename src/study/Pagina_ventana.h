@@ -8,12 +8,18 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "forms/Constructor_ventana.h"
 #include "forms/Planilla.h"
 #include "study/Avance.h"
 
 class QSplitter;
+
+namespace forms {
+class TablaCuadro;
+struct Cuadro;
+}  // namespace forms
 
 namespace study {
 
@@ -48,6 +54,10 @@ class Pagina : public QWidget, protected forms::Constructor {
                                 int parteDeGrafico = 1);
     /// Choices in a column so many letters wide, which scrolls where the room is low.
     QWidget* EnColumna(const forms::Partes& partes, int letras);
+    /// A list takes the room that there is, room for so many letters at least, however long its items are.
+    static QComboBox* Corta(QComboBox* lista, int letras = 14);
+    /// A table of results that a click on a heading sorts; its columns are so many letters wide.
+    forms::TablaCuadro* TablaDe(forms::Cuadro& cuadro, std::string_view control, std::vector<int> letras);
     /// A chart above what is to be known of it, a few lines that scroll.
     QWidget* SobreAvisos(QWidget* grafico, const std::string& avisos);
     /// Bar "barAvance" and key "CancelButton" of work beside the page, on show while it lasts; the bar keeps

@@ -18,8 +18,8 @@
 #include "calibration/Calibra.h"
 #include "calibration/CrecidasDeMuestra.h"
 #include "calibration/Juicio.h"
-#include "calibration/LluviaDeEvento.h"
 #include "calibration/Puntajes.h"
+#include "runs/ModeloDe.h"
 
 namespace calibration {
 namespace {
@@ -185,7 +185,7 @@ struct PorAjustar : CrecidasDeMuestra {
     PorAjustar(const std::string& proyecto, const std::string& crecida) : CrecidasDeMuestra(proyecto)
     {
         for (study::Evento& e : ajuste.eventos) {
-            LluviaPuesta puesta = LluviaDe(s, e);
+            runs::LluviaPuesta puesta = runs::LluviaDe(s, e);
             EXPECT_EQ(puesta.motivo, "");
             pedido.modelo.lluvias.push_back(std::move(puesta.lluvia));
             e.papel = e.nombre == crecida ? "calibra" : "valida";

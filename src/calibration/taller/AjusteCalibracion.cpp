@@ -7,13 +7,14 @@
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <span>
 #include <utility>
 
 #include "calibration/Busqueda.h"
 #include "calibration/Diagnostico.h"
 #include "calibration/Juicio.h"
 #include "calibration/Puntajes.h"
-#include "forms/CampoNumerico.h"
+#include "calibration/taller/PedidosDeAjuste.h"
 #include "model/Numeros.h"
 #include "runs/Campos.h"
 #include "runs/ModeloDe.h"
@@ -22,13 +23,7 @@ namespace calibration {
 
 namespace {
 
-/// A number field of the study, what it takes and says.
-struct Campo {
-    forms::ReglaNumero regla;
-    std::string_view leyenda;
-    std::string AjusteCalibracion::*texto;
-    void (*pone)(study::Calibracion& c, double x);
-};
+using Campo = CampoDePedido<AjusteCalibracion, study::Calibracion>;
 constexpr auto CamposDeCalibracion = std::to_array<Campo>({
     {{.control = "txtCorridas",
       .minimo = 10,
@@ -68,31 +63,13 @@ const study::Calibracion& ComoDe(const dlgAjuste& f)
 void CambiaComo(dlgAjuste& f, std::string_view leyenda,
                 const std::function<void(study::Calibracion&)>& cambio)
 {
-    study::Calibracion nueva = ComoDe(f);
-    cambio(nueva);
-    if (nueva == ComoDe(f)) return;
-    Cambia(f, leyenda, [&](study::Ajuste& a) { a.calibracion = std::move(nueva); });
-}
-
-template <typename T>
-int LugarDe(std::span<const T> filas, std::string_view clave)
-{
-    const auto i = std::find_if(filas.begin(), filas.end(), [&](const T& x) { return x.clave == clave; });
-    return i == filas.end() ? -1 : static_cast<int>(i - filas.begin());
+    CambiaPedido(f, leyenda, &study::Ajuste::calibracion, cambio);
 }
 
 /// Whether what a search was asked under has become something else.
 bool Caduco(const AjusteCalibracion& m, const dlgAjuste& f)
 {
     return m.cargas != f.cargas || m.parametros != AjusteDe(f).parametros || m.eventos != AjusteDe(f).eventos;
-}
-
-std::string Linea(const std::vector<std::string>& frases)
-{
-    std::string t;
-    for (const std::string& frase : frases)
-        t += (t.empty() ? "• " : "\n• ") + frase;
-    return t;
 }
 
 std::string Cifra(const std::optional<double>& x)
@@ -282,8 +259,8 @@ void Toma(AjusteCalibracion& m, const dlgAjuste& f)
     m.txtComplejos = std::to_string(c.complejos);
     m.txtSemilla = std::to_string(c.semilla);
     m.txtCercania = model::NumeroATexto(c.cercania);
-    m.metodo = LugarDe(MetodosDeBusqueda(), c.metodo);
-    m.puntaje = LugarDe(Puntajes(), c.puntaje);
+    m.metodo = LugarDe(MetodosDeBusqueda(), c.metodo, -1);
+    m.puntaje = LugarDe(Puntajes(), c.puntaje, -1);
     m.reparos.clear();
     PonTablas(m);
     PonGrafico(m, f);
@@ -362,14 +339,8 @@ void Cancela(AjusteCalibracion& m, const dlgAjuste& f)
 
 bool txtNumero_AlSalir(AjusteCalibracion& m, dlgAjuste& f, std::string_view control)
 {
-    for (const Campo& campo : CamposDeCalibracion) {
-        if (campo.regla.control != control) continue;
-        std::string& texto = m.*campo.texto;
-        if (!forms::AlSalir(f.s, campo.regla, texto)) return false;
-        const double x = *forms::NumeroDeCampo(texto);
-        CambiaComo(f, campo.leyenda, [&](study::Calibracion& c) { campo.pone(c, x); });
-    }
-    return true;
+    return SaleDelCampo(m, f, std::span<const Campo>(CamposDeCalibracion), &study::Ajuste::calibracion,
+                        control);
 }
 
 void cmbMetodoDeBusqueda_Click(dlgAjuste& f, int cual)

@@ -28,11 +28,7 @@ QLineEdit* AjusteCalibracion_ventana::CampoDeNumero(std::string_view control, st
 QComboBox* AjusteCalibracion_ventana::Lista(std::string_view control, const std::vector<std::string>& items,
                                             const int& cual, std::function<void(int)> elige)
 {
-    QComboBox* const combo = Desplegable(control, items, cual, std::move(elige));
-    combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    constexpr int Letras = 14;
-    combo->setMinimumContentsLength(Letras);
-    return combo;
+    return Corta(Desplegable(control, items, cual, std::move(elige)));
 }
 
 /// What is asked; it scrolls where the room is low.
@@ -74,18 +70,6 @@ QLayout* AjusteCalibracion_ventana::Ordenes()
              m.avance, [this] { return corrida.EnCurso(); }, [this] { corrida.Pide(); }))
         partes.push_back(parte);
     return EnFila(partes);
-}
-
-forms::TablaCuadro* AjusteCalibracion_ventana::TablaDe(forms::Cuadro& cuadro, std::string_view control,
-                                                       std::vector<int> letras)
-{
-    auto* const tabla = new forms::TablaCuadro(entorno, cuadro, control, Fila(control).leyenda);
-    tabla->PonColumnas(std::move(letras));
-    tabla->AlPulsarEncabezado = [this, &cuadro](int columna) {
-        Suceso([&] { forms::PulsaEncabezado(cuadro, columna); });
-    };
-    AlMostrar([tabla] { tabla->Muestra(); });
-    return tabla;
 }
 
 QWidget* AjusteCalibracion_ventana::Tablas()

@@ -32,7 +32,6 @@ class AjusteCalibracion_ventana : public PaginaDeAjuste {
     QLayout* Ordenes();
     QWidget* Tablas();
     QWidget* Derecha();
-    forms::TablaCuadro* TablaDe(forms::Cuadro& cuadro, std::string_view control, std::vector<int> letras);
     QLineEdit* CampoDeNumero(std::string_view control, std::string& texto);
     QComboBox* Lista(std::string_view control, const std::vector<std::string>& items, const int& cual,
                      std::function<void(int)> elige);

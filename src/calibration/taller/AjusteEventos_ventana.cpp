@@ -18,13 +18,7 @@
 namespace calibration {
 namespace {
 
-/// A list takes the room that there is, however long its items are.
-void Encoge(QComboBox& lista)
-{
-    lista.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    constexpr int Letras = 8;
-    lista.setMinimumContentsLength(Letras);
-}
+constexpr int LetrasDeLista = 8;
 
 }  // namespace
 
@@ -52,7 +46,7 @@ std::vector<forms::Partes> AjusteEventos_ventana::Lluvia()
     QComboBox* const distribucion = Desplegable("cmbDistribucion", m.distribuciones, m.distribucion,
                                                 [this](int i) { cmbDistribucion_Click(f, i); });
     for (QComboBox* const lista : {origen, tormenta, distribucion})
-        Encoge(*lista);
+        Corta(lista, LetrasDeLista);
     const auto con = [this](std::string_view control, QWidget* widget, int cual, std::string_view unidad) {
         forms::Partes partes = Renglon(control, widget, unidad);
         for (const forms::Parte& parte : partes)
@@ -99,7 +93,7 @@ QLayout* AjusteEventos_ventana::Observacion()
                                               [this](int i) { cmbComponente_Click(m, f, i); });
     QComboBox* const magnitud =
         Desplegable("cmbMagnitud", m.magnitudes, m.magnitud, [this](int i) { cmbMagnitud_Click(f, i); });
-    Encoge(*componente);
+    Corta(componente, LetrasDeLista);
     return EnPila(
         {EnRejilla({{Rotulo("cmbComponente", componente), componente},
                     {Rotulo("cmbMagnitud", magnitud), magnitud},
@@ -145,7 +139,7 @@ QWidget* AjusteEventos_ventana::Tablas()
     setFocusProxy(valores);
     QComboBox* const entre = Desplegable("cmbInterpolacion", m.interpolaciones, m.interpolacion,
                                          [this](int i) { cmbInterpolacion_Click(f, i); });
-    Encoge(*entre);
+    Corta(entre, LetrasDeLista);
     const auto hoja = [](QLayout* pila) {
         auto* const lado = new QWidget;
         pila->setContentsMargins(0, 0, 0, 0);

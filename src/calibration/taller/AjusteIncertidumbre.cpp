@@ -11,7 +11,7 @@
 #include "calibration/Medidas.h"
 #include "calibration/Puntajes.h"
 #include "calibration/taller/GraficosDeIncertidumbre.h"
-#include "forms/CampoNumerico.h"
+#include "calibration/taller/PedidosDeAjuste.h"
 #include "model/Clases.h"
 #include "model/Numeros.h"
 #include "runs/ModeloDe.h"
@@ -35,13 +35,7 @@ struct Muestreo {
 };
 constexpr auto Muestreos = std::to_array<Muestreo>({{"lhs", "Hipercubo latino"}, {"simple", "Simple"}});
 
-/// A number field of the study, what it takes and says.
-struct Campo {
-    forms::ReglaNumero regla;
-    std::string_view leyenda;
-    std::string AjusteIncertidumbre::*texto;
-    void (*pone)(study::Incertidumbre& i, double x);
-};
+using Campo = CampoDePedido<AjusteIncertidumbre, study::Incertidumbre>;
 constexpr auto CamposDeIncertidumbre = std::to_array<Campo>({
     {{.control = "txtMiembros",
       .minimo = 10,
@@ -73,24 +67,7 @@ const study::Incertidumbre& ComoDe(const dlgAjuste& f)
 void CambiaComo(dlgAjuste& f, std::string_view leyenda,
                 const std::function<void(study::Incertidumbre&)>& cambio)
 {
-    study::Incertidumbre nueva = ComoDe(f);
-    cambio(nueva);
-    if (nueva == ComoDe(f)) return;
-    Cambia(f, leyenda, [&](study::Ajuste& a) { a.incertidumbre = std::move(nueva); });
-}
-
-template <std::size_t N, typename T>
-int LugarDe(const std::array<T, N>& filas, std::string_view clave)
-{
-    const auto i = std::find_if(filas.begin(), filas.end(), [&](const T& x) { return x.clave == clave; });
-    return i == filas.end() ? 0 : static_cast<int>(i - filas.begin());
-}
-
-/// Item of a list that bears a name; the first one, which stands for "the first", where none does.
-int ItemDe(const std::vector<std::string>& items, const std::string& nombre)
-{
-    const auto i = std::find(items.begin() + 1, items.end(), nombre);
-    return nombre.empty() || i == items.end() ? 0 : static_cast<int>(i - items.begin());
+    CambiaPedido(f, leyenda, &study::Ajuste::incertidumbre, cambio);
 }
 
 /// Whether what a set was asked under has become something else; the measure on show asks for no other set.
@@ -102,14 +79,6 @@ bool Caduco(const AjusteIncertidumbre& m, const dlgAjuste& f)
     return m.del.cargas != f.cargas || antes.eventos != ahora.eventos ||
            antes.parametros != ahora.parametros || antes.incertidumbre != ahora.incertidumbre ||
            antes.calibracion.cercanos != ahora.calibracion.cercanos;
-}
-
-std::string Linea(const std::vector<std::string>& frases)
-{
-    std::string t;
-    for (const std::string& frase : frases)
-        t += (t.empty() ? "• " : "\n• ") + frase;
-    return t;
 }
 
 /// Four digits that count: quantiles are known to a thousandth.
@@ -312,14 +281,8 @@ void Cancela(AjusteIncertidumbre& m, const dlgAjuste& f)
 
 bool txtNumero_AlSalir(AjusteIncertidumbre& m, dlgAjuste& f, std::string_view control)
 {
-    for (const Campo& campo : CamposDeIncertidumbre) {
-        if (campo.regla.control != control) continue;
-        std::string& texto = m.*campo.texto;
-        if (!forms::AlSalir(f.s, campo.regla, texto)) return false;
-        const double x = *forms::NumeroDeCampo(texto);
-        CambiaComo(f, campo.leyenda, [&](study::Incertidumbre& i) { campo.pone(i, x); });
-    }
-    return true;
+    return SaleDelCampo(m, f, std::span<const Campo>(CamposDeIncertidumbre), &study::Ajuste::incertidumbre,
+                        control);
 }
 
 void cmbMuestreo_Click(dlgAjuste& f, int cual)

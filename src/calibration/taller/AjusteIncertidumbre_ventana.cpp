@@ -28,11 +28,7 @@ QLineEdit* AjusteIncertidumbre_ventana::CampoDeNumero(std::string_view control, 
 QComboBox* AjusteIncertidumbre_ventana::Lista(std::string_view control, const std::vector<std::string>& items,
                                               const int& cual, std::function<void(int)> elige)
 {
-    QComboBox* const combo = Desplegable(control, items, cual, std::move(elige));
-    combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    constexpr int Letras = 14;
-    combo->setMinimumContentsLength(Letras);
-    return combo;
+    return Corta(Desplegable(control, items, cual, std::move(elige)));
 }
 
 /// What is asked; it scrolls where the room is low.

@@ -46,11 +46,8 @@ QWidget* AjusteParametros_ventana::Elecciones()
     auto* const modo = Desplegable("cmbModo", m.modos, m.modo, [this](int i) { cmbModo_Click(m, f, i); });
     auto* const distribucion = Desplegable("cmbDistribucion", m.distribuciones, m.distribucion,
                                            [this](int i) { cmbDistribucion_Click(m, f, i); });
-    for (QComboBox* const combo : {componentes, campo, modo, distribucion}) {
-        combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-        constexpr int Letras = 14;
-        combo->setMinimumContentsLength(Letras);
-    }
+    for (QComboBox* const combo : {componentes, campo, modo, distribucion})
+        Corta(combo);
     QLabel* const actual = Texto("lblActual", m.lblActual);
     actual->setWordWrap(true);
     actual->setTextInteractionFlags(Qt::TextSelectableByMouse);

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <thread>
 #include <utility>
 
@@ -13,7 +14,7 @@
 #include "calibration/Puntajes.h"
 #include "calibration/taller/AjusteIncertidumbre.h"
 #include "calibration/taller/GraficoDeSensibilidad.h"
-#include "forms/CampoNumerico.h"
+#include "calibration/taller/PedidosDeAjuste.h"
 #include "model/Clases.h"
 #include "model/Numeros.h"
 #include "runs/ModeloDe.h"
@@ -24,14 +25,8 @@ namespace {
 
 constexpr int MenorBase = 16, MayorBase = 65536;
 
-/// A number field of the study, what it takes and says.
-struct CampoDePedido {
-    forms::ReglaNumero regla;
-    std::string_view leyenda;
-    std::string AjusteSensibilidad::*texto;
-    void (*pone)(study::Sensibilidad& s, double x);
-};
-constexpr auto CamposDePedido = std::to_array<CampoDePedido>({
+using Campo = CampoDePedido<AjusteSensibilidad, study::Sensibilidad>;
+constexpr auto CamposDeSensibilidad = std::to_array<Campo>({
     {{.control = "txtTrayectorias",
       .minimo = 2,
       .maximo = 100000,
@@ -47,7 +42,8 @@ constexpr auto CamposDePedido = std::to_array<CampoDePedido>({
       .clase = forms::ClaseNumero::Entero},
      "Niveles de Morris",
      &AjusteSensibilidad::txtNiveles,
-     [](study::Sensibilidad& s, double x) { s.niveles = static_cast<int>(x); }},
+     [](study::Sensibilidad& s, double x) { s.niveles = static_cast<int>(x); },
+     [](double x) { return std::fmod(x, 2) == 0; }},
     {{.control = "txtSemilla",
       .minimo = 0,
       .maximo = 4294967295.0,
@@ -66,29 +62,7 @@ const study::Sensibilidad& ComoDe(const dlgAjuste& f)
 void CambiaComo(dlgAjuste& f, std::string_view leyenda,
                 const std::function<void(study::Sensibilidad&)>& cambio)
 {
-    study::Sensibilidad nueva = ComoDe(f);
-    cambio(nueva);
-    if (nueva == ComoDe(f)) return;
-    Cambia(f, leyenda, [&](study::Ajuste& a) { a.sensibilidad = std::move(nueva); });
-}
-
-/// Place of a key in a list; the first one where it isn't there.
-int LugarDe(const auto& filas, std::string_view clave)
-{
-    const auto i = std::ranges::find(filas, clave, [](const auto& fila) { return fila.clave; });
-    return i == filas.end() ? 0 : static_cast<int>(i - filas.begin());
-}
-
-/// Item of a list that bears a name; the first one, which stands for "the first", where none does.
-int ItemDe(const std::vector<std::string>& items, const std::string& nombre)
-{
-    const auto i = std::find(items.begin() + 1, items.end(), nombre);
-    return nombre.empty() || i == items.end() ? 0 : static_cast<int>(i - items.begin());
-}
-
-std::string DeItem(const std::vector<std::string>& items, int cual)
-{
-    return cual > 0 ? items.at(static_cast<std::size_t>(cual)) : std::string();
+    CambiaPedido(f, leyenda, &study::Ajuste::sensibilidad, cambio);
 }
 
 bool Caduco(const AjusteSensibilidad& m, const dlgAjuste& f)
@@ -96,14 +70,6 @@ bool Caduco(const AjusteSensibilidad& m, const dlgAjuste& f)
     const study::Ajuste &antes = m.del.ajuste, &ahora = AjusteDe(f);
     return m.del.cargas != f.cargas || antes.eventos != ahora.eventos ||
            antes.parametros != ahora.parametros || antes.sensibilidad != ahora.sensibilidad;
-}
-
-std::string Linea(const std::vector<std::string>& frases)
-{
-    std::string t;
-    for (const std::string& frase : frases)
-        t += (t.empty() ? "• " : "\n• ") + frase;
-    return t;
 }
 
 std::string Duracion(double segundos)
@@ -288,18 +254,8 @@ void Cancela(AjusteSensibilidad& m, const dlgAjuste& f)
 
 bool txtNumero_AlSalir(AjusteSensibilidad& m, dlgAjuste& f, std::string_view control)
 {
-    for (const CampoDePedido& campo : CamposDePedido) {
-        if (campo.regla.control != control) continue;
-        std::string& texto = m.*campo.texto;
-        if (!forms::AlSalir(f.s, campo.regla, texto)) return false;
-        const double x = *forms::NumeroDeCampo(texto);
-        if (control == "txtNiveles" && std::fmod(x, 2) != 0) {
-            forms::MuestraRechazo(f.s, campo.regla.rechazo, campo.regla.mensaje);
-            return false;
-        }
-        CambiaComo(f, campo.leyenda, [&](study::Sensibilidad& s) { campo.pone(s, x); });
-    }
-    return true;
+    return SaleDelCampo(m, f, std::span<const Campo>(CamposDeSensibilidad), &study::Ajuste::sensibilidad,
+                        control);
 }
 
 void cmbMetodo_Click(dlgAjuste& f, int cual)

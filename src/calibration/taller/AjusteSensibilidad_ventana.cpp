@@ -57,11 +57,7 @@ forms::Partes AjusteSensibilidad_ventana::Lista(std::string_view control,
                                                 const std::vector<std::string>& items, const int& cual,
                                                 std::function<void(int)> elige, Vale vale)
 {
-    QComboBox* const combo = Desplegable(control, items, cual, std::move(elige));
-    combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    constexpr int Letras = 14;
-    combo->setMinimumContentsLength(Letras);
-    return SoloSi(Renglon(control, combo), vale);
+    return SoloSi(Renglon(control, Corta(Desplegable(control, items, cual, std::move(elige)))), vale);
 }
 
 /// What is asked; it scrolls where the room is low.

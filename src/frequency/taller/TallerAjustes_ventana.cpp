@@ -101,18 +101,6 @@ QLayout* TallerAjustes_ventana::ConAvance()
     return EnFila(partes);
 }
 
-forms::TablaCuadro* TallerAjustes_ventana::TablaDe(forms::Cuadro& cuadro, std::string_view control,
-                                                   std::vector<int> letras)
-{
-    auto* const tabla = new forms::TablaCuadro(entorno, cuadro, control, Fila(control).leyenda);
-    tabla->PonColumnas(std::move(letras));
-    tabla->AlPulsarEncabezado = [this, &cuadro](int columna) {
-        Suceso([&] { forms::PulsaEncabezado(cuadro, columna); });
-    };
-    AlMostrar([tabla] { tabla->Muestra(); });
-    return tabla;
-}
-
 QWidget* TallerAjustes_ventana::Tablas()
 {
     fichas = Nombra(new QTabWidget, "fichas");

@@ -40,7 +40,6 @@ class TallerAjustes_ventana : public PaginaDeTaller {
     QPushButton* ClaveDeLeyes();
     QWidget* Derecha();
     QLayout* Eleccion();
-    forms::TablaCuadro* TablaDe(forms::Cuadro& cuadro, std::string_view control, std::vector<int> letras);
     void Calcula();
     void Mira(study::Vigilada<Analisis>::Mirada& mirada);
     void Deja();

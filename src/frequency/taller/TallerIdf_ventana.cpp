@@ -22,10 +22,8 @@ TallerIdf_ventana::TallerIdf_ventana(forms::Entorno& alrededor, dlgTaller& talle
 forms::Partes TallerIdf_ventana::Lista(std::string_view control, ListaDeTaller& lista, Eleccion elige,
                                        Vale vale)
 {
-    QComboBox* const combo = Desplegable(control, lista, [this, elige] { elige(m, f); });
-    combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     constexpr int Letras = 12;
-    combo->setMinimumContentsLength(Letras);
+    QComboBox* const combo = Corta(Desplegable(control, lista, [this, elige] { elige(m, f); }), Letras);
     QLabel* const rotulo = Rotulo(control, combo);
     if (vale != nullptr)
         AlMostrar([this, combo, rotulo, vale] {

@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "calibration/LluviaDeEvento.h"
-
 #include <gtest/gtest.h>
 
 #include <array>
@@ -11,8 +9,9 @@
 #include "apoyo/DiscoPrueba.h"
 #include "model/ArchivosTormenta.h"
 #include "model/Siro.h"
+#include "runs/ModeloDe.h"
 
-namespace calibration {
+namespace runs {
 namespace {
 
 using model::FormaLluvia;
@@ -125,4 +124,4 @@ TEST_F(LaLluviaDeUnEvento, LaCorridaAlcanzaALoObservado)
 }
 
 }  // namespace
-}  // namespace calibration
+}  // namespace runs
