@@ -51,17 +51,27 @@ struct Infiltracion {
         double t = std::numeric_limits<double>::quiet_NaN();
         double potencia = 0;
     };
-    /// Depth [mm] of the step that the clock tells, from 1. `fin` is what the step before left there, since
-    /// this one begins where that ended, or none; it is left what the next one wants. Throws Falla 5, 6.
-    float Lamina(double reloj, PotenciaDeT& fin) const
+    /// Those of a step's beginning and end.
+    struct Potencias {
+        double antes = 0, despues = 0;
+    };
+    /// Of the step that the clock tells, from 1. `fin` is what the step before left there, since this one
+    /// begins where that ended, or none; it is left what the next one wants. Throws Falla 5, 6.
+    Potencias PotenciasDe(double reloj, PotenciaDeT& fin) const
     {
         const double t = reloj * paso + inicial;
         const double potencia = model::Potencia(t, b);
         const double antes = fin.t == t - paso ? fin.potencia : model::Potencia(t - paso, b);
         fin = {t, potencia};
-        const float I = model::Simple(a * (potencia - antes));
+        return {antes, potencia};
+    }
+    /// Depth [mm] of a step. Throws Falla 6.
+    [[nodiscard]] float Lamina(const Potencias& p) const
+    {
+        const float I = model::Simple(a * (p.despues - p.antes));
         return I < 0 ? 0 : I;
     }
+    float Lamina(double reloj, PotenciaDeT& fin) const { return Lamina(PotenciasDe(reloj, fin)); }
     [[nodiscard]] float Lamina(double reloj) const
     {
         PotenciaDeT ninguna;

@@ -15,9 +15,10 @@ namespace engine {
 
 /// Potential infiltration of one UEH by the reading of its clock.
 struct TablaInfiltracion {
-    Infiltracion de{};                ///< what it was worked out for
-    std::vector<float> lamina{0};     ///< depth of a step [mm], by the clock's whole number from 1
-    Infiltracion::PotenciaDeT fin{};  ///< of the last step's end
+    Infiltracion de{};             ///< what it was worked out for
+    std::vector<float> lamina{0};  ///< depth of a step [mm], by the clock's whole number from 1
+    std::vector<Infiltracion::Potencias> potencias{{}};  ///< by the same; those of any a
+    Infiltracion::PotenciaDeT fin{};                     ///< of the last step's end
 };
 
 /// The powers of a base recession, 2.7183^(-t/K), by output step from 1.

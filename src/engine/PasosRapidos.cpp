@@ -94,8 +94,11 @@ bool PasosSeguros(Corrida& c)
 /// Depth that could infiltrate in the step that the clock tells.
 float LaminaInfiltrada(TablaInfiltracion& tabla, std::size_t reloj)
 {
-    while (tabla.lamina.size() <= reloj)
-        tabla.lamina.push_back(tabla.de.Lamina(static_cast<double>(tabla.lamina.size()), tabla.fin));
+    for (std::size_t k = tabla.lamina.size(); k <= reloj; ++k) {
+        if (k == tabla.potencias.size())
+            tabla.potencias.push_back(tabla.de.PotenciasDe(static_cast<double>(k), tabla.fin));
+        tabla.lamina.push_back(tabla.de.Lamina(tabla.potencias[k]));
+    }
     return tabla.lamina[reloj];
 }
 
@@ -105,7 +108,15 @@ TablaInfiltracion& TablaDe(Corrida& c, int i)
     if (tablas.size() < static_cast<std::size_t>(i)) tablas.resize(static_cast<std::size_t>(i));
     TablaInfiltracion& tabla = tablas[static_cast<std::size_t>(i) - 1];
     const Infiltracion ahora(c.s.Red.UEHs(i), c.s.Pasos.PasoPp);
-    if (tabla.de != ahora) tabla = {ahora, {0}, {}};
+    if (tabla.de == ahora) return tabla;
+    tabla.lamina.resize(1);
+    Infiltracion otraA = tabla.de;
+    otraA.a = ahora.a;
+    if (otraA != ahora) {
+        tabla.potencias.resize(1);
+        tabla.fin = {};
+    }
+    tabla.de = ahora;
     return tabla;
 }
 

@@ -58,6 +58,12 @@ engine::Calculo AMano(const Modelo& m, const std::vector<double>& valores, std::
         if (p.campo == "kostiakov_a")
             for (model::UEH& u : red.ColUEHs)
                 mueve(u.KostiakovA);
+        else if (p.campo == "kostiakov_b")
+            for (model::UEH& u : red.ColUEHs)
+                mueve(u.KostiakovB);
+        else if (p.campo == "kostiakov_i")
+            for (model::UEH& u : red.ColUEHs)
+                mueve(u.KostiakovI);
         else if (p.campo == "k_recesion")
             mueve(red.UEHs(1).KRecesion);
         else if (p.campo == "velocidad_media")
@@ -101,6 +107,35 @@ RC_GTEST_PROP(ElCorredor, TieneLosBitsDeUnaRedEditadaAMano, (std::uint32_t semil
             RC_ASSERT(mano.fin == engine::FinCalculo::Completo);
             RC_ASSERT(MismosBits(mano, corredor.Corre(valores, lluvia)));
         }
+    }
+}
+
+/// Powers of t^b are kept while only a moves: not a moment longer.
+RC_GTEST_PROP(ElCorredor, GuardaLasPotenciasSoloMientrasSeMueveA, (std::uint32_t semilla))
+{
+    RedAlAzar azar(semilla);
+    const auto valor = [](std::string_view de, std::string_view campo, double minimo, double maximo) {
+        study::Parametro p;
+        p.componentes = de;
+        p.campo = campo;
+        p.modo = "valor";
+        p.minimo = minimo;
+        p.maximo = maximo;
+        return p;
+    };
+    azar.m.parametros = {valor("u-*", "kostiakov_a", 0.5, 6), valor("u-*", "kostiakov_b", 0.2, 0.9),
+                         valor("u-*", "kostiakov_i", 0, 60), valor("tormenta", "duracion", 30, 200)};
+    std::vector<double> valores;
+    for (const study::Parametro& p : azar.m.parametros)
+        valores.push_back(azar.Real(p.minimo, p.maximo));
+    Corredor corredor(azar.m);
+    for (int vez = 0; vez < 12; ++vez) {
+        const std::size_t cual = vez % 2 == 0 ? 0 : static_cast<std::size_t>(azar.Real(0, 3.999));
+        valores[cual] = azar.Real(azar.m.parametros[cual].minimo, azar.m.parametros[cual].maximo);
+        const testing::AssertionResult mismos =
+            MismosBits(AMano(azar.m, valores, 0), corredor.Corre(valores, 0));
+        RC_LOG(mismos.message());
+        RC_ASSERT(mismos);
     }
 }
 
