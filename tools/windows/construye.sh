@@ -4,7 +4,7 @@
 #   tools/windows/construye.sh           siro.exe and siro-lote.exe with all that they need: build/windows/SIRO-VERSION-win64.zip,
 #                                        a portable folder, and SIRO-VERSION-win64.exe, which installs them
 #   tools/windows/construye.sh --libs    only the libraries
-#   tools/windows/construye.sh --lote    only siro-lote.exe, which needs none of them but NLopt
+#   tools/windows/construye.sh --lote    only siro-lote.exe, which needs none of them but NLopt and libzip
 #
 # From a Debian 12 with nothing installed. The libraries are built once, some 45 minutes on two cores, and kept outside the tree, in
 # SIRO_WINDOWS or ~/.cache/siro-windows. SIRO_QTSVG names an archive of the source of qtsvg 6.4.2 where Debian's can't be had.
@@ -23,13 +23,13 @@ muere() {
 librerias() {
     necesita construye estudio windows windows-qt || return 1
     local libreria
-    for libreria in nlopt qtbase qtsvg qcustomplot libxlsxwriter; do una "$libreria" || return 1; done
+    for libreria in nlopt libzip qtbase qtsvg qcustomplot libxlsxwriter; do una "$libreria" || return 1; done
 }
 
 case ${1-} in
 --libs) librerias; exit ;;
 --lote)
-    necesita construye estudio windows && una nlopt || exit 1
+    necesita construye estudio windows && una nlopt && una libzip || exit 1
     construye windows-lote siro-lote || exit 1
     echo "build/windows-lote/src/batch/siro-lote.exe"
     exit
