@@ -9,7 +9,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/../.." || exit 1
 . .ci/paquetes.sh
 mkdir -p build
 . tools/windows/dependencias.sh
-necesita construye estudio prueba windows && una nlopt && construye lote siro-lote && construye windows-nucleo siro-lote || exit 1
+necesita construye estudio prueba windows && una nlopt && una libzip && construye lote siro-lote && construye windows-nucleo siro-lote || exit 1
 
 . tools/windows/servidor.sh
 PYTHONDONTWRITEBYTECODE=1 python3 tests/oraculo/mismos_bytes.py --uno "$PWD/build/lote/src/batch/siro-lote" \
