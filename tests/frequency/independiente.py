@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The laws a second time, with 20 digits, against siro-lote over random samples.
 
-  independiente.py --siro-lote PROGRAM [--muestras N] [--semilla S] [--entero]
+  independiente.py --siro-lote COMMAND [--muestras N] [--semilla S] [--entero]
 
 Integrals are made with 15 digits, with --entero with 20 as all else, a hundred times slower.
 

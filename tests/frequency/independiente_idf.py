@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Curves of intensity a second time, with 25 digits, against siro-lote over random stations.
 
-  independiente_idf.py --siro-lote PROGRAM [--estaciones N] [--semilla S]
+  independiente_idf.py --siro-lote COMMAND [--estaciones N] [--semilla S]
 
 Of each station: the quantiles of Gumbel's law by its formula and their disaggregation by the methods' formulas are the
 points; of each family and criterion, the coefficients by Newton's method on the squares' gradient in 25 digits, from
@@ -14,6 +14,7 @@ import functools
 import json
 import os
 import random
+import shlex
 import subprocess
 import sys
 import tempfile
@@ -64,8 +65,8 @@ def parte(metodo, d, c):
 
 
 def corre(programa, archivo, opciones):
-    salida = subprocess.run([programa, "idf", archivo, "--ley", "gumbel", "--json", *opciones], capture_output=True,
-                            check=True, text=True).stdout
+    orden = [*shlex.split(programa), "idf", archivo, "--ley", "gumbel", "--json", *opciones]
+    salida = subprocess.run(orden, capture_output=True, check=True, text=True).stdout
     return json.loads(salida)
 
 
@@ -168,7 +169,7 @@ def una(programa, azar, numero):
 
 def main():
     lee = argparse.ArgumentParser(description=__doc__.splitlines()[0])
-    lee.add_argument("--siro-lote", required=True)
+    lee.add_argument("--siro-lote", required=True, metavar="COMMAND")
     lee.add_argument("--estaciones", type=int, default=12)
     lee.add_argument("--semilla", type=int, default=1)
     pedido = lee.parse_args()

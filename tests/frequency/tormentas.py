@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Storms a second time, with 20 digits, against siro-lote over random curves, durations, steps, peaks.
 
-  tormentas.py --siro-lote PROGRAM [--muestras N] [--semilla S]
+  tormentas.py --siro-lote COMMAND [--muestras N] [--semilla S]
 
 Chicago's and the balanced storm are integrals of Keifer and Chu's intensities over each step; alternating blocks are
 sorted and laid out anew; periods are cut with fractions. A depth that differs by more than 1e-9 of the storm's is a
@@ -12,6 +12,7 @@ import argparse
 import csv
 import io
 import random
+import shlex
 import subprocess
 import sys
 from fractions import Fraction
@@ -116,7 +117,7 @@ def por_mayor_resto(porcentajes, laminas):
 
 def main():
     opciones = argparse.ArgumentParser()
-    opciones.add_argument("--siro-lote", required=True)
+    opciones.add_argument("--siro-lote", required=True, metavar="COMMAND")
     opciones.add_argument("--muestras", type=int, default=60)
     opciones.add_argument("--semilla", type=int, default=1)
     o = opciones.parse_args()
@@ -124,7 +125,8 @@ def main():
     peores, cuantas, mal = {}, {}, 0
     for _ in range(o.muestras):
         patron, orden, suyas = sortea(azar)
-        texto = subprocess.run([o.siro_lote, "tormenta", "--csv", *orden], capture_output=True, check=True, text=True)
+        pedido = [*shlex.split(o.siro_lote), "tormenta", "--csv", *orden]
+        texto = subprocess.run(pedido, capture_output=True, check=True, text=True)
         filas = list(csv.DictReader(io.StringIO(texto.stdout)))
         total = sum(suyas)
         desvio = max(abs(mpf(f["lamina"]) - x) for f, x in zip(filas, suyas, strict=True)) / total
