@@ -5,6 +5,7 @@
 #include <bit>
 #include <concepts>
 #include <cstdint>
+#include <numeric>
 #include <string_view>
 #include <vector>
 
@@ -174,6 +175,38 @@ void PoneEmbalse(Renglones& t, const model::Red& red, const model::Resultados& r
     t.Fila(esLago ? r.SLago : r.SRepresa, n, 1, r.NroPasosQ);
 }
 
+void PoneResultados(Renglones& t, const model::Red& red, const model::Resultados& r)
+{
+    t.Abre("res").Pone(r.NroPasosQ);
+    for (int f = 1; f <= r.NroComponentes; ++f) {
+        const std::string& nombre = r.Secuencia[static_cast<std::size_t>(f)];
+        t.Abre("q").Pone(nombre).Fila(r.QSale, f, 1, r.NroPasosQ).Fila(r.QEntra, f, 1, r.NroPasosQ);
+        t.Fila(r.QMax, f, 1, 1);
+        if (f <= red.NroUEHs()) {
+            t.De(r.VolUEH, f).De(r.VolBaseUEH, f);
+            t.Fila(r.EscUEH, f, 1, 1).Fila(r.CoefEscUEH, f, 1, 1);
+        }
+        if (EsEmbalse(nombre)) PoneEmbalse(t, red, r, nombre);
+    }
+    t.Abre("fin").De(r.EscTotal, 1).De(r.CoefEscTotal, 1);
+}
+
+void PoneResultados(Renglones& t, const model::Red& red, const model::Resultados& r,
+                    const std::vector<int>& numeros)
+{
+    t.Abre("res").Pone(numeros.size());
+    for (int f = 1; f <= r.NroComponentes; ++f) {
+        t.Abre("q").Pone(r.Secuencia[static_cast<std::size_t>(f)]);
+        for (const int k : numeros) {
+            t.Fila(r.QMax, f, k, k);
+            if (f <= red.NroUEHs()) t.Fila(r.EscUEH, f, k, k).Fila(r.CoefEscUEH, f, k, k);
+        }
+    }
+    t.Abre("fin");
+    for (const int k : numeros)
+        t.De(r.EscTotal, k).De(r.CoefEscTotal, k);
+}
+
 }  // namespace
 
 std::string_view Version()
@@ -188,19 +221,7 @@ std::string HuellaDeCorrida(const model::Red& red, const model::Tormenta& tormen
     PoneRed(t, red);
     PoneLluvia(t, tormenta, pasos, tablas);
     PoneTormenta(t, red, tormenta);
-    const model::Resultados& r = resultados;
-    t.Abre("res").Pone(r.NroPasosQ);
-    for (int f = 1; f <= r.NroComponentes; ++f) {
-        const std::string& nombre = r.Secuencia[static_cast<std::size_t>(f)];
-        t.Abre("q").Pone(nombre).Fila(r.QSale, f, 1, r.NroPasosQ).Fila(r.QEntra, f, 1, r.NroPasosQ);
-        t.Fila(r.QMax, f, 1, 1);
-        if (f <= red.NroUEHs()) {
-            t.De(r.VolUEH, f).De(r.VolBaseUEH, f);
-            t.Fila(r.EscUEH, f, 1, 1).Fila(r.CoefEscUEH, f, 1, 1);
-        }
-        if (EsEmbalse(nombre)) PoneEmbalse(t, red, r, nombre);
-    }
-    t.Abre("fin").De(r.EscTotal, 1).De(r.CoefEscTotal, 1);
+    PoneResultados(t, red, resultados);
     return t.Cierra();
 }
 
@@ -209,20 +230,21 @@ std::string HuellaDeSerie(const model::Siro& s, const std::vector<int>& numeros)
     Renglones t;
     PoneRed(t, s.Red);
     PoneLluvia(t, s.Tormenta, s.Pasos, s.TablasDeLluvia);
-    const model::Resultados& r = s.Resultados;
     for (const int k : numeros)
         PoneTormenta(t, s.Serie, k);
-    t.Abre("res").Pone(numeros.size());
-    for (int f = 1; f <= r.NroComponentes; ++f) {
-        t.Abre("q").Pone(r.Secuencia[static_cast<std::size_t>(f)]);
-        for (const int k : numeros) {
-            t.Fila(r.QMax, f, k, k);
-            if (f <= s.Red.NroUEHs()) t.Fila(r.EscUEH, f, k, k).Fila(r.CoefEscUEH, f, k, k);
-        }
-    }
-    t.Abre("fin");
-    for (const int k : numeros)
-        t.De(r.EscTotal, k).De(r.CoefEscTotal, k);
+    PoneResultados(t, s.Red, s.Resultados, numeros);
+    return t.Cierra();
+}
+
+std::string HuellaDeResultados(const model::Red& red, const model::Resultados& resultados, int tormentas)
+{
+    Renglones t;
+    std::vector<int> numeros(static_cast<std::size_t>(std::max(tormentas, 0)));
+    std::iota(numeros.begin(), numeros.end(), 1);
+    if (numeros.empty())
+        PoneResultados(t, red, resultados);
+    else
+        PoneResultados(t, red, resultados, numeros);
     return t.Cierra();
 }
 

@@ -55,6 +55,11 @@ std::string HuellaDeCorrida(const model::Red& red, const model::Tormenta& tormen
 /// Hash of the series that a state has run: of the storms `numeros`, from 1.
 std::string HuellaDeSerie(const model::Siro& s, const std::vector<int>& numeros);
 
+/// Hash of the lines from `res` on alone: of a storm, or of the storms 1..tormentas of a series, whose lines
+/// `res` and `q` hold all of them, those that weren't run as 0. Two versions of the program that give the
+/// same results have the same one.
+std::string HuellaDeResultados(const model::Red& red, const model::Resultados& resultados, int tormentas = 0);
+
 /// Hash of the lines of the network alone.
 std::string HuellaDeRed(const model::Red& red);
 

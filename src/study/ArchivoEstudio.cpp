@@ -283,13 +283,13 @@ class Arbol : public nlohmann::json_sax<Json> {
     std::string clave{};
 };
 
-void ExigeVersion(const Json& raiz)
+void ExigeVersion(const Json& raiz, unsigned ultima)
 {
     const auto version = raiz.find(ClaveVersion);
     if (version == raiz.end()) throw Reparo{&raiz, "falta la clave \"version\""};
     if (!version->is_number_unsigned() || *version == 0)
         throw Reparo{&*version, "\"version\" no es un número entero mayor que 0"};
-    if (*version > VersionDeEstudio)
+    if (*version > ultima)
         throw Reparo{&*version,
                      "es de una versión posterior del programa (\"version\": " + version->dump() + ")"};
 }
@@ -397,15 +397,46 @@ void Vuelca(std::string& texto, const Json& j, std::size_t sangria)
     texto.append("\n").append(std::string(sangria, ' ')) += j.is_array() ? ']' : '}';
 }
 
+/// The text of a value; version 0: it bears none.
+template <typename T>
+std::string Texto(const T& valor, int version)
+{
+    Escritor escritor;
+    if (version > 0) escritor.objeto[ClaveVersion] = version;
+    T copia = valor;
+    Campos(escritor, copia);
+    std::string texto;
+    Vuelca(texto, escritor.objeto, 0);
+    return texto += '\n';
+}
+
 }  // namespace
 
 LecturaDeEstudio LeeEstudio(std::string_view bytes)
 {
     return Lee<LecturaDeEstudio>(bytes, [](const Json& raiz, LecturaDeEstudio& lectura) {
         Lector lector(raiz);
-        ExigeVersion(raiz);
+        ExigeVersion(raiz, VersionDeEstudio);
         lector.Conoce(ClaveVersion);
         Campos(lector, lectura.estudio);
+    });
+}
+
+LecturaDeFicha LeeFicha(std::string_view bytes)
+{
+    return Lee<LecturaDeFicha>(bytes, [](const Json& raiz, LecturaDeFicha& lectura) {
+        Lector lector(raiz);
+        ExigeVersion(raiz, VersionDeFicha);
+        lector.Conoce(ClaveVersion);
+        Campos(lector, lectura.ficha);
+    });
+}
+
+LecturaDeLluvia LeeLluvia(std::string_view bytes)
+{
+    return Lee<LecturaDeLluvia>(bytes, [](const Json& raiz, LecturaDeLluvia& lectura) {
+        Lector lector(raiz);
+        Campos(lector, lectura.lluvia);
     });
 }
 
@@ -419,13 +450,17 @@ LecturaDeAjuste LeeAjuste(std::string_view bytes)
 
 std::string EscribeEstudio(const Estudio& estudio)
 {
-    Escritor escritor;
-    escritor.objeto[ClaveVersion] = VersionDeEstudio;
-    Estudio copia = estudio;
-    Campos(escritor, copia);
-    std::string texto;
-    Vuelca(texto, escritor.objeto, 0);
-    return texto += '\n';
+    return Texto(estudio, VersionDeEstudio);
+}
+
+std::string EscribeFicha(const Ficha& ficha)
+{
+    return Texto(ficha, VersionDeFicha);
+}
+
+std::string EscribeLluvia(const LluviaDeCorrida& lluvia)
+{
+    return Texto(lluvia, 0);
 }
 
 std::string ReparoDe(const Estudio& estudio)

@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "study/Estudio.h"
+#include "study/Ficha.h"
 
 // The keys of each value that a study's file holds, in their order, with the bounds of its numbers: once for
 // reading and for writing, since `v` is either. What it is asked for by Exige must be there; Resto is all
@@ -271,6 +272,59 @@ void Campos(V& v, Estudio& e)
     v("taller", e.taller);
     v("ajuste", e.ajuste);
     v.Resto(e.resto);
+}
+
+template <typename V>
+void Campos(V& v, PicoDeSalida& p)
+{
+    v.Exige("componente", p.componente);
+    v.Exige("caudal_m3s", p.caudal, -SinTope, SinTope);
+    v("minuto", p.minuto, -SinTope, SinTope);
+    v("tormenta", p.tormenta);
+}
+
+template <typename V>
+void Campos(V& v, Ficha& f)
+{
+    v("nombre", f.nombre);
+    v("nota", f.nota);
+    v("fijada", f.fijada);
+    v.Exige("proyecto", f.proyecto);
+    v.Exige("clase", f.clase);
+    v.Exige("cuando", f.cuando);
+    v("quien", f.quien);
+    v("tormenta", f.tormenta);
+    v("salidas", f.salidas);
+    v("resumen", f.resumen);
+    v("errores", f.errores, 0, TopeEntero);
+    v("avisos", f.avisos, 0, TopeEntero);
+    v("notas", f.notas, 0, TopeEntero);
+    v("segundos", f.segundos, 0, SinTope);
+    v("programa", f.programa);
+    v("huella_entradas", f.huellaEntradas);
+    v("huella_resultados", f.huellaResultados);
+    v("huella", f.huella);
+    v.Resto(f.resto);
+}
+
+template <typename V>
+void Campos(V& v, LluviaDeCorrida& l)
+{
+    v.Exige("forma", l.forma, 0, 4);
+    v.Exige("distribucion", l.distribucion, 0, 7);
+    v("tabla", l.tabla, 0, 3);
+    v.Exige("lamina_mm", l.lamina, -SinTope, SinTope);
+    v.Exige("duracion_min", l.duracion, -TopeMinutos, TopeMinutos);
+    v("recurrencia_anios", l.recurrencia, -TopeMinutos, TopeMinutos);
+    v("por_ueh_mm", l.porUEH);
+    v("bloques_mm", l.bloques);
+    v("numero_de_bloques", l.nroBloques, -TopeMinutos, TopeMinutos);
+    v.Exige("paso_min", l.pasoPp, -TopeMinutos, TopeMinutos);
+    v.Exige("paso_de_salida_min", l.pasoQ, -TopeMinutos, TopeMinutos);
+    v("tiempo_agregado_min", l.tiempoAgregado, -SinTope, SinTope);
+    v("serie_lamina_mm", l.serieP);
+    v("serie_duracion_min", l.serieD);
+    v("serie_recurrencia_anios", l.serieR);
 }
 
 }  // namespace study
