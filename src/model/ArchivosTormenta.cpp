@@ -16,7 +16,6 @@ namespace model {
 
 namespace {
 
-constexpr std::string_view ArchivoListaPDR = "ListaPDR.vlm";
 constexpr std::string_view RaizTormenta = "Velmir";
 
 constexpr std::string_view NombreInadecuado1 = "El archivo ";

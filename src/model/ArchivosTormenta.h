@@ -120,6 +120,8 @@ bool GuardaTablaPDRs(Siro& s);
 
 // --- list of single storms, ListaPDR.vlm ---
 
+inline constexpr std::string_view ArchivoListaPDR = "ListaPDR.vlm";
+
 /// Text of a storm in the list `cmbPDR`: "Pp= 60 - Dur = 60 - Rec = 10".
 std::string TextoPDR(std::string_view p, std::string_view d, std::string_view r);
 std::string TextoPDR(float p, std::int16_t d, std::int16_t r);

@@ -49,15 +49,6 @@ bool Esta(const Disco& disco, const std::string& directorio, std::string_view no
     return esta;
 }
 
-/// Creates a directory and those above it that are missing.
-void CreaCamino(const Disco& disco, const std::string& directorio)
-{
-    if (directorio.empty() || disco.HayDirectorio(directorio)) return;
-    const std::size_t separador = directorio.rfind(Separador);
-    if (separador != std::string::npos) CreaCamino(disco, directorio.substr(0, separador));
-    Sentencia([&] { disco.CreaDirectorio(directorio); });
-}
-
 /// Removes what a copy that was cut short has left. A save that was cut short waits for the opening of its
 /// project, which tells.
 void QuitaRestosDeCopia(const Disco& disco, const std::string& directorio)
@@ -134,6 +125,14 @@ bool EsInstalacion(const std::string& dirEjecutable, const std::string& dirEntre
 }
 
 }  // namespace
+
+void CreaCamino(const Disco& disco, const std::string& directorio)
+{
+    if (directorio.empty() || disco.HayDirectorio(directorio)) return;
+    const std::size_t separador = directorio.rfind(Separador);
+    if (separador != std::string::npos) CreaCamino(disco, directorio.substr(0, separador));
+    Sentencia([&] { disco.CreaDirectorio(directorio); });
+}
 
 std::string DirDelUsuario(const Ambiente& ambiente)
 {

@@ -12,6 +12,9 @@ namespace model {
 
 struct Siro;
 
+/// Creates a directory and those above it that are missing, as far as that can be done.
+void CreaCamino(const Disco& disco, const std::string& directorio);
+
 /// The user's own data directory for SIRO, whether it is there or not; empty where the system tells none.
 std::string DirDelUsuario(const Ambiente& ambiente);
 

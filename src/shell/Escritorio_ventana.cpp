@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QTimer>
 #include <chrono>
+#include <ctime>
 #include <utility>
 
 #include "checks/EscribeHallazgos.h"
@@ -43,9 +44,10 @@ bool EstaBajo(const QObject& ventana, const QObject& otra)
 
 }  // namespace
 
-Escritorio::Escritorio(const std::string& dirTrabajo)
+Escritorio::Escritorio(const std::string& dirTrabajo, const std::string& dirUsuario)
 {
     s.Proyecto.DirEjecutable = dirTrabajo;
+    PonAnteriores(dirUsuario);
     PonAnfitrion();
     PonAvance();
     PonMandos();
@@ -88,6 +90,17 @@ int Escritorio::Atiende()
 
 // --- what the rules ask of the world ---
 
+void Escritorio::PonAnteriores(const std::string& dirUsuario)
+{
+    anteriores = {s.Disco, model::CarpetaDeAnteriores(dirUsuario), [] { return std::time(nullptr); }};
+    if (dirUsuario.empty()) return;
+    s.Disco = model::ConAnteriores(anteriores, [this](const std::string& aviso) {
+        // Behind the command that saves, whatever it still has to do.
+        QTimer::singleShot(0, ventanaPrincipal.get(),
+                           [this, aviso] { entorno.Atiende([&] { model::Advierte(s, aviso); }); });
+    });
+}
+
 void Escritorio::PonAnfitrion()
 {
     forms::PonCajas(s.Anfitrion, entorno);
@@ -107,7 +120,10 @@ void Escritorio::PonAnfitrion()
     };
     s.Vigilancia.activa = true;
     s.Anfitrion.ReclamaProyecto = [this](const std::string& conf) { return candado.Toma(conf); };
-    s.Anfitrion.TiraAPapelera = [](const std::string& ruta) { return QFile::moveToTrash(forms::Q(ruta)); };
+    s.Anfitrion.TiraAPapelera = [this](const std::string& ruta) {
+        model::GuardaAntesDe(anteriores, ruta);
+        return QFile::moveToTrash(forms::Q(ruta));
+    };
     s.Anfitrion.AbreTablaSerie = [this] {
         Abre(Ventana::dlgTablaSalePDR, false);
         tablaDeSerie = true;

@@ -9,6 +9,7 @@
 #include "empirical/dlgEmpiricas.h"
 #include "empirical/dlgEmpiricas_ventana.h"
 #include "forms/Entorno_ventana.h"
+#include "model/Anteriores.h"
 #include "model/Siro.h"
 #include "model/VidaProyecto.h"
 #include "rainfall/dlgPp.h"
@@ -38,8 +39,9 @@ namespace shell {
 /// and the windows. A window is made at its first use.
 class Escritorio {
   public:
-    /// `dirTrabajo`: the program's own directory.
-    explicit Escritorio(const std::string& dirTrabajo);
+    /// `dirTrabajo`: the program's own directory. `dirUsuario`: the user's, where the files that a save takes
+    /// the place of are kept; empty: nowhere.
+    explicit Escritorio(const std::string& dirTrabajo, const std::string& dirUsuario = {});
     ~Escritorio();
     Escritorio(const Escritorio&) = delete;
     Escritorio& operator=(const Escritorio&) = delete;
@@ -68,6 +70,7 @@ class Escritorio {
     void Abre(Ventana ventana, bool espera = true);
 
   private:
+    void PonAnteriores(const std::string& dirUsuario);
     void PonAnfitrion();
     void PonVentanas();
     void PonLluvia();
@@ -83,6 +86,7 @@ class Escritorio {
     void Presenta(QWidget& ventana);
     void PonBajo(QWidget& ventana, QWidget& dueno);
 
+    model::Anteriores anteriores{};
     Mandos mandos{};
     bool principalQueda = false;  ///< the editor that comes up doesn't hide the main window
     Candado candado{};

@@ -52,7 +52,8 @@ int Programa(int& argc, char** argv)
     QTranslator castellano;
     PonAspecto(programa, castellano);
 
-    Escritorio escritorio(DirTrabajo());
+    const std::string dirTrabajo = DirTrabajo(), suya = model::DirDelUsuario(model::AmbienteDelProceso());
+    Escritorio escritorio(dirTrabajo, suya.empty() ? dirTrabajo : suya);
     escritorio.Arranca(SegundosPortada, ArchivoPedido(QCoreApplication::arguments()));
     return escritorio.Atiende();
 }
