@@ -256,7 +256,8 @@ void PintorDeMapa::PintaLeyenda(QPainter& pintor, const MapaDeCorrida& f) const
         pintor.setPen(QColor(Contorno));
         pintor.drawLine(QPointF(eje + lleno + 2, y), QPointF(eje + lleno + 6, y));
         pintor.setPen(QColor(Tinta));
-        pintor.drawText(QPointF(eje + lleno + 9, y + m.ascent() / 2 - 1), forms::Q(TextoDeCaudal(q)));
+        pintor.drawText(QPointF(eje + lleno + 9, y + m.ascent() / 2 - 1),
+                        forms::Q(TextoDeCaudal(q)).replace(QLatin1Char('.'), QLatin1Char(f.decimal)));
     }
     PintaClave(pintor, {x, altura(0) + renglon});
 }
