@@ -3,6 +3,7 @@
 
 #include <qcustomplot.h>
 
+#include <QDate>
 #include <QFontMetricsF>
 #include <QImage>
 #include <QSvgRenderer>

@@ -2,6 +2,7 @@
 #include <qcustomplot.h>
 
 #include <QFontMetricsF>
+#include <QRegularExpression>
 #include <algorithm>
 #include <array>
 #include <cstddef>

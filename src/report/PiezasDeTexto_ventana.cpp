@@ -3,6 +3,7 @@
 
 #include <QFontMetricsF>
 #include <QTextLayout>
+#include <QTextOption>
 #include <algorithm>
 #include <utility>
 

@@ -24,7 +24,7 @@ class CorridaDeMuestra {
     CorridaDeMuestra()
     {
         std::filesystem::copy(SIRO_DATA_DIR, dir.Camino(), std::filesystem::copy_options::recursive);
-        datos.tormenta = Corre({.pp = 80, .dur = 120, .rec = 50, .distribucion = 1});
+        datos.tormenta = Corre({.pp = 80, .dur = 120, .rec = 50, .distribucion = 2});
         datos.serie = Corre({.orden = batch::Opciones::Orden::Serie});
         datos.archivoConf = Conf();
         datos.version = "1.0.0";
