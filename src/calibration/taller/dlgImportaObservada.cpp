@@ -112,7 +112,8 @@ void Comienza(dlgImportaObservada& f, const dlgAjuste& ajuste)
     TomaUnidad(f);
 }
 
-/// As it is before anything was opened. By a name of its own: g++ 12 takes the texts of one without for unset.
+/// As it is before anything was opened. By a name of its own: g++ 12 takes the texts of one without for
+/// unset.
 void Vacia(dlgImportaObservada& f)
 {
     dlgImportaObservada vacia;
