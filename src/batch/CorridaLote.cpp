@@ -11,10 +11,10 @@
 #include "batch/AvisosLote.h"
 #include "batch/ResultadosCsv.h"
 #include "checks/AvisosDeSerie.h"
+#include "checks/ProyectoAparte.h"
 #include "engine/mdlProceso1.h"
 #include "engine/mdlSeriePDR.h"
 #include "engine/modProceso0.h"
-#include "model/ArchivoConf.h"
 #include "model/ArchivosTormenta.h"
 #include "model/Avisos.h"
 #include "model/Camino.h"
@@ -94,8 +94,7 @@ bool Muestra(const Salidas& salidas, const std::function<void()>& escribe)
 bool CorreOrden(Siro& s, const Opciones& o, std::optional<model::Tormenta>& entrada,
                 checks::VigiaDeSerie& vigia)
 {
-    AbreProyecto(s, RutaAbsoluta(o.conf));
-    if (s.Proyecto.NombreProyecto.empty() || s.Proyecto.DirProyecto.empty()) return false;
+    if (!checks::AbreProyecto(s, RutaAbsoluta(o.conf))) return false;
     FijaTormenta(s, o);
     entrada = s.Tormenta;
     if (o.orden == Opciones::Orden::Serie)
@@ -130,17 +129,10 @@ void MuestraAvisos(const Salidas& salidas, const Opciones& o, const std::functio
 
 }  // namespace
 
-void AbreProyecto(Siro& s, const std::string& conf)
-{
-    model::TomaRutaProyecto(s, conf);
-    model::RecuperaGuardado(s, s.Proyecto.DirProyecto);
-    s.Anfitrion.carga_lbl_proyecto();
-    model::leoConf(s);
-}
-
 void FijaTormenta(Siro& s, const Opciones& o)
 {
-    const auto forma = o.orden == Opciones::Orden::Serie ? FormaLluvia::SeriePDR : FormaLluvia{o.forma};
+    const auto forma =
+        o.orden == Opciones::Orden::Serie || o.serie ? FormaLluvia::SeriePDR : FormaLluvia{o.forma};
     s.Tormenta.FormaPp = forma;
     s.Tormenta.PpTormenta = o.pp;
     s.Tormenta.DurTormenta = o.dur;

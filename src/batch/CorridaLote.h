@@ -24,10 +24,6 @@ int Corre(const Opciones& opciones, const std::string& dirEjecutable, const Sali
 /// Writes a text to standard output. Returns whether that went well; a fault is told.
 bool Muestra(const Salidas& salidas, std::string_view texto);
 
-/// Opens the project of a configuration file given by its absolute path, as the menu's Open does, and reads
-/// its configuration. The last project that the desktop remembers stays what it is.
-void AbreProyecto(model::Siro& s, const std::string& conf);
-
 /// Settles the storm in hand, or the series, by the rules that stand between the desktop's dialog and a run.
 void FijaTormenta(model::Siro& s, const Opciones& opciones);
 

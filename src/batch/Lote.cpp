@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "batch/AjustaLote.h"
+#include "batch/ComparaLote.h"
 #include "batch/ConjuntoLote.h"
 #include "batch/CorridaLote.h"
 #include "batch/FrecuenciaLote.h"
@@ -38,6 +39,7 @@ constexpr auto Verbos = std::to_array<Verbo>({
     {"sensibilidad", UsoSensibilidad, LeeOpcionesSensibilidad, MuestraSensibilidad},
     {"conjunto", UsoConjunto, LeeOpcionesConjunto, MuestraConjunto},
     {"une", UsoUne, LeeOpcionesUne, MuestraUnion},
+    {"compara", UsoCompara, LeeOpcionesCompara, MuestraComparacion},
     {"ajusta", UsoAjusta, LeeOpcionesAjusta, AjustaProyecto},
     {"verifica", UsoVerifica, LeeOpcionesVerifica, MuestraCasos},
 });

@@ -17,8 +17,8 @@ namespace {
 
 // Which orders take an option; 0: one without a project.
 constexpr int DeCorrida = 1, DeRevision = 2, DeFrecuencia = 4, DeIdf = 8, DeTormenta = 16, DeTarea = 32,
-              DeConjunto = 64, DeUnion = 128, DeTareas = DeTarea | DeConjunto,
-              DeAmbas = DeCorrida | DeRevision | DeTareas, DeCurvas = DeIdf | DeTormenta;
+              DeConjunto = 64, DeUnion = 128, DeComparacion = 256, DeTareas = DeTarea | DeConjunto,
+              DeAmbas = DeCorrida | DeRevision | DeTareas | DeComparacion, DeCurvas = DeIdf | DeTormenta;
 
 /// An option with a value: how it is written and where its value goes.
 struct FilaOpcion {
@@ -39,9 +39,15 @@ constexpr auto Filas = std::to_array<FilaOpcion>({
     {"--pp-ueh", [](Opciones& o, const std::string& v) { o.ppUEH = Laminas(v); }, DeAmbas},
     {"--tormenta", [](Opciones& o, const std::string& v) { o.tormenta = v; }, DeAmbas},
     {"--tabla", [](Opciones& o, const std::string& v) { o.tabla = Entero(v, 0, 3); }},
+    {"--tabla",
+     [](Opciones& o, const std::string& v) {
+         o.tabla = Entero(v, 0, 3);
+         o.serie = true;
+     },
+     DeComparacion},
     {"--responde", [](Opciones& o, const std::string& v) { o.respondeSi = RespondeSi(v); }},
     {"--hilos", [](Opciones& o, const std::string& v) { o.hilos = Hilos(v); },
-     DeCorrida | DeFrecuencia | DeTareas},
+     DeCorrida | DeFrecuencia | DeTareas | DeComparacion},
     {"--resultados", [](Opciones& o, const std::string& v) { o.resultados = v; }},
     {"--posicion", [](Opciones& o, const std::string& v) { o.posicion = NumeroEntre(v, 0, 0.5); },
      DeFrecuencia},
@@ -131,11 +137,11 @@ CLI::App* Orden(CLI::App& programa, const char* nombre, Palabras& p, int clase =
     orden->add_flag("--json", p.json);
     if (clase == 0) return orden;
     const bool deMaximos = (clase & (DeFrecuencia | DeCurvas)) != 0;
-    if (clase == DeUnion)
-        orden->add_option("PARCIAL", p.archivos);
+    if (clase == DeUnion || clase == DeComparacion)
+        orden->add_option(clase == DeUnion ? "PARCIAL" : "LADO", p.archivos);
     else
         orden->add_option(deMaximos ? "ARCHIVO" : "CONF", p.conf);
-    if (deMaximos || (clase & (DeTareas | DeUnion)) != 0) orden->add_flag("--csv", p.csv);
+    if (deMaximos || (clase & (DeTareas | DeUnion | DeComparacion)) != 0) orden->add_flag("--csv", p.csv);
     if (clase == DeTormenta) orden->add_flag("--reemplaza", p.reemplaza);
     for (std::size_t i = 0; i < Filas.size(); ++i)
         if ((Filas[i].ordenes & clase) != 0) p.opciones[i] = orden->add_option(Filas[i].nombre, p.valores[i]);
@@ -222,7 +228,7 @@ Lectura LeeDeTarea(const char* nombre, Opciones::Orden orden, int clase, int arg
     if (auto otra = Reconoce(programa, argc, argv)) return *otra;
     if (p.json && p.csv) return {{}, "--json y --csv no van juntos"};
     if (clase == DeUnion && p.archivos.empty()) return {{}, "Falta PARCIAL"};
-    if (clase != DeUnion)
+    if (clase != DeUnion && clase != DeComparacion)
         if (std::string reparo = ReparoDeConf(p.conf); !reparo.empty()) return {{}, std::move(reparo)};
     Opciones o;
     o.orden = orden;
@@ -348,6 +354,18 @@ Lectura LeeOpcionesConjunto(int argc, const char* const* argv)
     Lectura l = LeeDeTarea("conjunto", Opciones::Orden::Conjunto, DeConjunto, argc, argv);
     if (l.opciones && l.opciones->parte != Parte{} && l.opciones->parcial.empty())
         return {{}, "--parte va con --parcial"};
+    return l;
+}
+
+Lectura LeeOpcionesCompara(int argc, const char* const* argv)
+{
+    Lectura l = LeeDeTarea("compara", Opciones::Orden::Compara, DeComparacion, argc, argv);
+    if (!l.opciones) return l;
+    l.opciones->lados = std::exchange(l.opciones->archivos, {});
+    for (const std::string& lado : l.opciones->lados)
+        if (std::string reparo = ReparoDeConf(lado.substr(0, lado.find('#'))); !reparo.empty())
+            return {{}, std::move(reparo)};
+    if (l.opciones->lados.size() < 2) return {{}, "Hacen falta dos CONF por lo menos"};
     return l;
 }
 

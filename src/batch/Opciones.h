@@ -26,7 +26,8 @@ struct Opciones {
         Ajusta,
         Sensibilidad,
         Conjunto,
-        Une
+        Une,
+        Compara
     };
 
     Orden orden = Orden::Una;
@@ -76,6 +77,8 @@ struct Opciones {
     Parte parte{};           ///< of the members of a set
     std::string parcial{};   ///< path that this part is written to; empty: all is written as results
     std::vector<std::string> archivos{};  ///< paths of the parts that are put together
+    std::vector<std::string> lados{};     ///< what is compared: CONF, or CONF#RUN for a run that is kept
+    bool serie = false;                   ///< what is compared are series, of `tabla`
 
     bool operator==(const Opciones&) const = default;
 };
@@ -111,6 +114,9 @@ Lectura LeeOpcionesIdf(int argc, const char* const* argv);
 /// The same of a design storm, which takes a depth or what curves are made of, and no project.
 std::string_view UsoTormenta();
 Lectura LeeOpcionesTormenta(int argc, const char* const* argv);
+/// The same of two or more runs side by side, whose storm is that of una, or whose table that of serie.
+std::string_view UsoCompara();
+Lectura LeeOpcionesCompara(int argc, const char* const* argv);
 /// The same of what is asked of many runs of a project, whose storm in hand is that of una: a search, the
 /// sensitivity, a set of members; and of the parts of a set.
 std::string_view UsoAjusta();

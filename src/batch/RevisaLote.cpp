@@ -7,6 +7,7 @@
 #include "batch/CorridaLote.h"
 #include "checks/AvisosDeCorrida.h"
 #include "checks/EscribeHallazgos.h"
+#include "checks/ProyectoAparte.h"
 #include "checks/Revisa.h"
 #include "checks/RevisaAbierto.h"
 #include "model/Avisos.h"
@@ -23,8 +24,7 @@ using model::Siro;
 /// Brings everything into memory that a run reads. Returns whether a project is open.
 bool Carga(Siro& s, const Opciones& o)
 {
-    AbreProyecto(s, model::RutaAbsoluta(o.conf));
-    if (s.Proyecto.NombreProyecto.empty() || s.Proyecto.DirProyecto.empty()) return false;
+    if (!checks::AbreProyecto(s, model::RutaAbsoluta(o.conf))) return false;
     FijaTormenta(s, o);
     checks::CargaEntera(s);
     return true;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/AjustaLote.h"
+#include "batch/ComparaLote.h"
 #include "batch/ConjuntoLote.h"
 #include "batch/CorridaLote.h"
 #include "batch/FrecuenciaLote.h"
@@ -41,6 +42,11 @@ int MuestraSensibilidad(const Opciones& /*o*/, const std::string& /*dirEjecutabl
 int MuestraConjunto(const Opciones& /*o*/, const std::string& /*dirEjecutable*/, const Salidas& salidas)
 {
     return NoLaTrae("conjunto", salidas);
+}
+
+int MuestraComparacion(const Opciones& /*o*/, const std::string& /*dirEjecutable*/, const Salidas& salidas)
+{
+    return NoLaTrae("compara", salidas);
 }
 
 int MuestraUnion(const Opciones& /*o*/, const std::string& /*dirEjecutable*/, const Salidas& salidas)

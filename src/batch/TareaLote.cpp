@@ -2,15 +2,14 @@
 #include "batch/TareaLote.h"
 
 #include <optional>
-#include <string_view>
 #include <utility>
 
 #include "batch/CorridaLote.h"
 #include "checks/Hallazgo.h"
+#include "checks/ProyectoAparte.h"
 #include "checks/RevisaAbierto.h"
 #include "engine/modProceso0.h"
 #include "model/Avisos.h"
-#include "model/CambioArchivo.h"
 #include "model/Companeros.h"
 #include "model/DirPropio.h"
 #include "model/Disco.h"
@@ -45,13 +44,10 @@ bool AbreRed(const Opciones& o, Siro& s, const Salidas& salidas)
 {
     const std::string conf = model::RutaAbsoluta(o.conf);
     if (!Bytes(s, conf)) return Falta(salidas, "no se puede abrir " + conf);
-    s.Disco.Escribe = s.Disco.Agrega = [](const std::string&, std::string_view) {};
-    s.Disco.Reemplaza = [](const std::vector<model::CambioArchivo>&) {};
-    s.Disco.Recupera = [](const std::string&) { return model::Recuperacion{}; };
+    s.Disco = checks::SoloLectura(s.Disco);
     std::vector<checks::Hallazgo> hallazgos;
     const model::Anfitrion anfitrion = std::exchange(s.Anfitrion, checks::Oyente(hallazgos));
-    AbreProyecto(s, conf);
-    const bool abierto = !s.Proyecto.NombreProyecto.empty() && !s.Proyecto.DirProyecto.empty();
+    const bool abierto = checks::AbreProyecto(s, conf);
     if (abierto) {
         FijaTormenta(s, o);
         engine::CargaProyecto(s);

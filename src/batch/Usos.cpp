@@ -232,7 +232,32 @@ Estado de salida: 0 hay un mejor conjunto; 1 lo pedido no se puede hacer, ningun
                   leer o escribir; 2 la línea de órdenes es errónea.
 )";
 
+constexpr std::string_view TextoUsoCompara =
+    R"(Uso: siro-lote compara LADO LADO ... [opciones]
+
+Dice en qué difieren los parámetros de dos corridas o más, y qué picos, horas, volúmenes y alturas da cada una, con las
+diferencias con la primera en unidades y en %. Un LADO es CONF, el archivo <Proyecto>_Conf.vlm de un proyecto, que se
+corre con la tormenta de las opciones; o CONF#NOMBRE, una corrida que el proyecto guarda en P_corridas, por su nombre o el
+de su archivo, que trae la suya. No cambia ningún proyecto.
+
+  --tabla K               la serie de la tabla P-D-R K, 0 a 3, en lugar de una tormenta
+  --hilos N               hilos de una serie, hasta 1024; 0: todos los núcleos. No cambia los resultados (0)
+  --json                  todo, con los hidrogramas, en JSON
+  --csv                   tabla,componente,nombre,unidad,lado,valor,diferencia,por_ciento
+  --trabajo, --forma, --pp, --dur, --rec, --distribucion, --paso-pp, --paso-q, --pp-ueh, --tormenta
+                          la tormenta y los pasos, como en la orden una
+  --ayuda, --help         este texto
+
+Estado de salida: 0 se compararon, difieran o no; 1 un lado no se pudo correr hasta el fin, o no se pudo escribir; 2 la
+                  línea de órdenes es errónea.
+)";
+
 }  // namespace
+
+std::string_view UsoCompara()
+{
+    return TextoUsoCompara;
+}
 
 std::string_view UsoConjunto()
 {

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "checks/AvisosDeCorrida.h"
+#include "checks/ProyectoAparte.h"
 #include "checks/Revisa.h"
 #include "engine/modProceso0.h"
 #include "hydraulics/mdlFQs.h"
@@ -21,18 +22,6 @@ namespace checks {
 using model::Siro;
 
 namespace {
-
-/// A disk that is read and never written: its reader mends what a project brings along when it is opened in
-/// another folder.
-model::Disco SoloLectura(model::Disco disco)
-{
-    disco.Escribe = disco.Agrega = [](const std::string&, std::string_view) {};
-    disco.Reemplaza = [](const std::vector<model::CambioArchivo>&) {};
-    disco.Borra = disco.CreaDirectorio = [](const std::string&) {};
-    disco.Copia = [](const std::string&, const std::string&) {};
-    disco.Recupera = [](const std::string&) { return model::Recuperacion{}; };
-    return disco;
-}
 
 /// The project, storm and steps in hand, with nothing loaded.
 Siro Aparte(const Siro& s)

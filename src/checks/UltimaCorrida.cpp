@@ -62,7 +62,8 @@ std::shared_ptr<const UltimaCorrida> UltimaCorrida::DeSerie(const model::Siro& s
     u->serie = s.Serie;
     u->calculo.Resultados = s.Resultados;
     u->avisos = vigia != nullptr ? vigia->Avisos(hilos) : AvisosDeSerie(s, hilos);
-    u->huella = HuellaDeSerie(s, TormentasDeSerie(s).numeros);
+    u->corridas = TormentasDeSerie(s).numeros;
+    u->huella = HuellaDeSerie(s, u->corridas);
     return u;
 }
 

@@ -44,6 +44,7 @@ class UltimaCorrida {
     model::TablasDeLluvia tablas{};
     engine::Calculo calculo{};  ///< of a series its Resultados alone, by storm
     model::Serie serie{};
+    std::vector<int> corridas{};       ///< of a series, the storms that were run, by number
     std::vector<Hallazgo> avisos{};    ///< errors first
     std::optional<Corrido> corrido{};  ///< of a single storm
     /// Of a single storm with a peak at the last step: the added time with which none stands there.

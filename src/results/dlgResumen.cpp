@@ -48,7 +48,7 @@ void CuencaAlFinal(dlgResumen& f)
 void Pon(dlgResumen& f, Corrida corrida)
 {
     f.corrida = std::move(corrida);
-    f.resumen = f.corrida != nullptr ? ResumenDe(*f.corrida) : Resumen{};
+    f.resumen = f.corrida != nullptr ? checks::ResumenDe(*f.corrida) : checks::Resumen{};
     if (f.resumen.planilla.columnas != f.tblResumen.planilla.columnas) f.tblResumen = {};
     forms::PonFilas(f.tblResumen, f.resumen.planilla);
     CuencaAlFinal(f);

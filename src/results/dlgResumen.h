@@ -8,11 +8,11 @@
 #include <string_view>
 #include <vector>
 
+#include "checks/ResumenDeCorrida.h"
 #include "checks/UltimaCorrida.h"
 #include "forms/Cuadro.h"
 #include "forms/Procedencia.h"
 #include "forms/Rotulo.h"
-#include "results/ResumenDeCorrida.h"
 
 // Rules of the window of a run's summary: what it says of the run, its table, which hydrographs a row leads
 // to.
@@ -42,7 +42,7 @@ inline constexpr auto RotulosDlgResumen = std::to_array<forms::FilaRotulo>({
 struct dlgResumen {
     bool abierta = false;
     Corrida corrida{};  ///< the one on show; none: nothing has been run
-    Resumen resumen{};
+    checks::Resumen resumen{};
     forms::Cuadro tblResumen{};
     std::string lblProyecto{}, lblTormenta{}, lblCuando{}, lblAvisos{}, lblHuella{};
     std::string lblQueHacer{};  ///< why there is no table, or not that of hydrographs, and what to do

@@ -21,7 +21,7 @@ using forms::Q;
 namespace {
 
 /// Width of a column [letters]: its heading in two lines, the unit in one of them.
-int Ancho(const ColumnaDeResumen& c)
+int Ancho(const checks::ColumnaDeResumen& c)
 {
     constexpr int DeUnNumero = 12, AireDeUnidad = 6;
     return std::max(DeUnNumero, static_cast<int>(c.unidad.size()) + AireDeUnidad);
@@ -85,7 +85,7 @@ void dlgResumen_ventana::PonTabla()
         }
     };
     AlMostrar([this] {
-        const auto columnas = ColumnasDeResumen(f.corrida != nullptr && f.corrida->esSerie);
+        const auto columnas = checks::ColumnasDeResumen(f.corrida != nullptr && f.corrida->esSerie);
         if (std::exchange(nroColumnas, columnas.size()) != columnas.size()) {
             std::vector<int> letras{0};  // that of the names takes what is left over
             std::transform(columnas.begin(), columnas.end(), std::back_inserter(letras), Ancho);
@@ -117,7 +117,8 @@ QVariant dlgResumen_ventana::Adorno(std::size_t fila, int columna, int papel) co
         return letra;
     }
     if (papel == Qt::ToolTipRole && columna > 0)
-        return Q(ColumnasDeResumen(f.corrida->esSerie)[static_cast<std::size_t>(columna) - 1].explica);
+        return Q(
+            checks::ColumnasDeResumen(f.corrida->esSerie)[static_cast<std::size_t>(columna) - 1].explica);
     const bool roja = f.resumen.rojas[fila][static_cast<std::size_t>(columna)];
     return papel == Qt::ForegroundRole && roja ? QVariant(Rojo(palette())) : QVariant();
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "results/ResumenDeCorrida.h"
+#include "checks/ResumenDeCorrida.h"
 
 #include <algorithm>
 #include <array>
@@ -16,12 +16,7 @@
 #include "model/Clases.h"
 #include "model/Numeros.h"
 
-namespace results {
-
-using checks::ComponenteCorrido;
-using checks::Corrido;
-using checks::EmbalseCorrido;
-using checks::MetodoEmbalse;
+namespace checks {
 
 namespace {
 
@@ -166,7 +161,7 @@ Celda Revancha(const DeQuien& d)
     const Celda tope = TopeDescrito(*e);
     if (!tope || SinAlturaQueValga(d, *e, *tope)) return {};
     const double libre = *tope - *AlturaMaxima(d);
-    const auto rebose = checks::ReboseDe(*d.u.corrido, *d.comp, checks::Valor(checks::Umbral::AlturaDeTope));
+    const auto rebose = ReboseDe(*d.u.corrido, *d.comp, Valor(Umbral::AlturaDeTope));
     return rebose ? std::min(libre, *tope - e->Tope() - rebose->altura) : libre;
 }
 
@@ -218,9 +213,8 @@ Celda CoeficienteDeSerie(const DeQuien& d)
 bool Descuadra(const DeQuien& d, double /*valor*/)
 {
     const int regla = d.nombre.empty() ? BalanceDeLaCuenca : BalanceDelComponente;
-    return std::any_of(d.u.avisos.begin(), d.u.avisos.end(), [&](const checks::Hallazgo& h) {
-        return h.numero == regla && h.componente == d.nombre;
-    });
+    return std::any_of(d.u.avisos.begin(), d.u.avisos.end(),
+                       [&](const Hallazgo& h) { return h.numero == regla && h.componente == d.nombre; });
 }
 
 bool BajoCero(const DeQuien& /*d*/, double valor)
@@ -281,7 +275,18 @@ void PonColumnas(Resumen& resumen, bool serie)
         resumen.planilla.columnas.push_back({Encabezado(c), false, Formato(c)});
 }
 
-void AgregaFila(Resumen& resumen, const DeQuien& d, std::vector<std::string> hidrogramas)
+/// Components whose hydrographs are those of a row; a series keeps none.
+std::vector<std::string> HidrogramasDe(const DeQuien& d)
+{
+    if (d.u.esSerie) return {};
+    if (d.comp != nullptr) return d.fila > 0 ? std::vector{d.nombre} : std::vector<std::string>{};
+    std::vector<std::string> salidas;
+    for (const ComponenteCorrido* const salida : d.salidas)
+        salidas.emplace_back(salida->nombre);
+    return salidas;
+}
+
+void AgregaFila(Resumen& resumen, const DeQuien& d)
 {
     std::vector<std::string>& celdas = resumen.planilla.filas.emplace_back();
     std::vector<bool>& rojas = resumen.rojas.emplace_back(1, false);
@@ -292,10 +297,10 @@ void AgregaFila(Resumen& resumen, const DeQuien& d, std::vector<std::string> hid
         rojas.push_back(valor && c.roja != nullptr && c.roja(d, *valor));
     }
     resumen.nombres.push_back(d.nombre);
-    resumen.hidrogramas.push_back(std::move(hidrogramas));
+    resumen.hidrogramas.push_back(HidrogramasDe(d));
 }
 
-void AgregaTormenta(Resumen& resumen, const checks::UltimaCorrida& u)
+std::vector<DeQuien> DeLaTormenta(const UltimaCorrida& u)
 {
     const Corrido& c = *u.corrido;
     const std::vector<double> areas = AreasDrenadas(c);
@@ -308,32 +313,25 @@ void AgregaTormenta(Resumen& resumen, const checks::UltimaCorrida& u)
     std::stable_sort(orden.begin(), orden.end(),
                      [&](std::size_t a, std::size_t b) { return lugar(a) < lugar(b); });
 
+    std::vector<DeQuien> filas;
     DeQuien cuenca{.u = u, .balance = &u.balance->cuenca};
-    std::vector<std::string> salidas;
     for (const std::size_t i : orden) {
         const ComponenteCorrido& comp = c.componentes[i];
-        const std::string nombre(comp.nombre);
         if (comp.ueh != nullptr) cuenca.area += comp.ueh->Area / HectareasPorKm2;
-        if (comp.fila > 0 && c.EsSalida(comp)) {
-            cuenca.salidas.push_back(&comp);
-            salidas.push_back(nombre);
-        }
-        std::vector<std::string> suyo;
-        if (comp.fila > 0) suyo.push_back(nombre);
-        AgregaFila(resumen,
-                   {.u = u,
-                    .nombre = nombre,
-                    .fila = comp.fila,
-                    .comp = &comp,
-                    .balance = &u.balance->componentes[i],
-                    .area = areas[i]},
-                   suyo);
+        if (comp.fila > 0 && c.EsSalida(comp)) cuenca.salidas.push_back(&comp);
+        filas.push_back({.u = u,
+                         .nombre = std::string(comp.nombre),
+                         .fila = comp.fila,
+                         .comp = &comp,
+                         .balance = &u.balance->componentes[i],
+                         .area = areas[i]});
     }
-    AgregaFila(resumen, cuenca, salidas);
+    filas.push_back(cuenca);
+    return filas;
 }
 
 /// Storm of the greatest peak of a row, the first of equal ones; 0 where there is none above 0.
-int TormentaMayor(const checks::UltimaCorrida& u, int fila)
+int TormentaMayor(const UltimaCorrida& u, int fila)
 {
     int mayor = 0;
     for (int n = 1; n <= u.serie.NroSeriePDR && u.r().QMax.Alcanza(fila, n); ++n)
@@ -342,16 +340,18 @@ int TormentaMayor(const checks::UltimaCorrida& u, int fila)
 }
 
 /// The basin's peak is that of its outfall, where it has one alone.
-void AgregaSerie(Resumen& resumen, const checks::UltimaCorrida& u)
+std::vector<DeQuien> DeLaSerie(const UltimaCorrida& u)
 {
     const model::Resultados& r = u.r();
+    std::vector<DeQuien> filas;
     int salida = 0;
     for (int fila = 1; fila <= r.NroComponentes && fila < static_cast<int>(r.Secuencia.size()); ++fila) {
         const std::string& nombre = r.Secuencia[static_cast<std::size_t>(fila)];
         if (r.NroSalidas == 1 && nombre == r.Salidas[1]) salida = fila;
-        AgregaFila(resumen, {.u = u, .nombre = nombre, .fila = fila, .tormenta = TormentaMayor(u, fila)}, {});
+        filas.push_back({.u = u, .nombre = nombre, .fila = fila, .tormenta = TormentaMayor(u, fila)});
     }
-    if (salida > 0) AgregaFila(resumen, {.u = u, .fila = salida, .tormenta = TormentaMayor(u, salida)}, {});
+    if (salida > 0) filas.push_back({.u = u, .fila = salida, .tormenta = TormentaMayor(u, salida)});
+    return filas;
 }
 
 }  // namespace
@@ -362,15 +362,28 @@ std::span<const ColumnaDeResumen> ColumnasDeResumen(bool serie)
     return DeUnaTormenta;
 }
 
-Resumen ResumenDe(const checks::UltimaCorrida& u)
+std::vector<DeQuien> FilasDeResumen(const UltimaCorrida& u)
+{
+    if (u.esSerie) return DeLaSerie(u);
+    return u.balance ? DeLaTormenta(u) : std::vector<DeQuien>{};
+}
+
+Resumen ResumenDe(const UltimaCorrida& u)
 {
     Resumen resumen;
     PonColumnas(resumen, u.esSerie);
-    if (u.esSerie)
-        AgregaSerie(resumen, u);
-    else if (u.balance)
-        AgregaTormenta(resumen, u);
+    for (const DeQuien& d : FilasDeResumen(u))
+        AgregaFila(resumen, d);
     return resumen;
+}
+
+std::optional<double> AlmacenamientoMaximo(const DeQuien& d)
+{
+    const EmbalseCorrido* const e = ConAlturas(d);
+    if (e == nullptr || !e->S.Alcanza(e->tablas.numero, d.u.corrido->UltimoPaso())) return {};
+    const float* S = e->S.Fila(e->tablas.numero);
+    const int desde = e->metodo == MetodoEmbalse::Muskingum ? 1 : 0;
+    return *std::max_element(S + desde, S + d.u.corrido->UltimoPaso() + 1);
 }
 
 std::string CifraDeResumen(double x, int decimales, bool conCero)
@@ -433,4 +446,4 @@ std::optional<double> TopeDescrito(const EmbalseCorrido& e)
     return tope;
 }
 
-}  // namespace results
+}  // namespace checks

@@ -13,18 +13,18 @@
 #include "forms/Planilla.h"
 
 // The summary of a run: a row per component in the order of computation, the basin in the last one.
-namespace results {
+namespace checks {
 
 /// What a column of a row is worked out from.
 struct DeQuien {
-    const checks::UltimaCorrida& u;
+    const UltimaCorrida& u;
     std::string nombre{};  ///< of the component; empty: the basin
     int fila = 0;          ///< in the results; 0: the run has no row for it
     // --- of a single storm ---
-    const checks::ComponenteCorrido* comp = nullptr;  ///< null: the basin
-    const checks::RenglonBalance* balance = nullptr;
-    double area = 0;  ///< of the UEHs upstream, its own included [km2]
-    std::vector<const checks::ComponenteCorrido*> salidas{};  ///< of the basin: its outfalls that have a row
+    const ComponenteCorrido* comp = nullptr;  ///< null: the basin
+    const RenglonBalance* balance = nullptr;
+    double area = 0;                                  ///< of the UEHs upstream, its own included [km2]
+    std::vector<const ComponenteCorrido*> salidas{};  ///< of the basin: its outfalls that have a row
     // --- of a series ---
     int tormenta = 0;  ///< that of its greatest peak, from 1; 0: none
 };
@@ -54,8 +54,11 @@ struct Resumen {
     std::vector<std::vector<bool>> rojas{};  ///< by row and column, as the cells
 };
 
+/// What stands behind each row of a run's summary. Good as long as the run.
+std::vector<DeQuien> FilasDeResumen(const UltimaCorrida& u);
+
 /// The summary of a run. A run that didn't go to its end has no rows; nor has a series without storms.
-Resumen ResumenDe(const checks::UltimaCorrida& u);
+Resumen ResumenDe(const UltimaCorrida& u);
 
 /// A number with so many decimals, never "-0"; ColumnaDeResumen tells of `conCero`.
 std::string CifraDeResumen(double x, int decimales, bool conCero);
@@ -64,15 +67,17 @@ std::string CifraDeResumen(double x, int decimales, bool conCero);
 
 /// Volume [m3] of a hydrograph as the Slate has it: the 32-bit sum of Q·PasoQ·60 in the order of the steps,
 /// of a Represa or a Lago from step 0, of any other component from step 1. Requires results and a row.
-double VolumenDeResumen(const checks::Corrido& c, const model::Matriz<float>& Q,
-                        const checks::ComponenteCorrido& comp);
+double VolumenDeResumen(const Corrido& c, const model::Matriz<float>& Q, const ComponenteCorrido& comp);
 
 /// Area [km2] of the UEHs that drain through each component, itself included, in the order of Corrido's. By
 /// the names that they drain into; a circle is gone through once.
-std::vector<double> AreasDrenadas(const checks::Corrido& c);
+std::vector<double> AreasDrenadas(const Corrido& c);
+
+/// Greatest storage [m3] of a Represa or a Lago, as its method leaves it; nothing of any other row.
+std::optional<double> AlmacenamientoMaximo(const DeQuien& d);
 
 /// Up to where a Represa or a Lago is described [m]: the top of its table, or of its outflow where that is
 /// lower. Nothing without a table.
-std::optional<double> TopeDescrito(const checks::EmbalseCorrido& e);
+std::optional<double> TopeDescrito(const EmbalseCorrido& e);
 
-}  // namespace results
+}  // namespace checks

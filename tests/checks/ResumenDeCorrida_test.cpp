@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "results/ResumenDeCorrida.h"
+#include "checks/ResumenDeCorrida.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +11,7 @@
 #include "model/Numeros.h"
 #include "results/CorridaDeMuestra.h"
 
-namespace results {
+namespace checks {
 namespace {
 
 using Textos = std::vector<std::string>;
@@ -270,4 +270,4 @@ TEST_F(ResumenDeMuestra, UnaCorridaRechazadaNoTieneFilas)
 }
 
 }  // namespace
-}  // namespace results
+}  // namespace checks

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "checks/UltimaCorrida.h"
+
+// Two or more runs side by side: what they were made of where that differs, and what came out.
+namespace runs {
+
+/// A run that is compared, under the name that its column bears. The run is there.
+struct Lado {
+    std::string nombre{};
+    std::shared_ptr<const checks::UltimaCorrida> corrida{};
+};
+using Lados = std::vector<Lado>;
+
+/// A component of the compared networks: its name in each, empty where it isn't there. By name; one that is
+/// only in some networks and has the same data, all but its destination, as the only such one of the others
+/// is the same one under another name.
+struct Emparejado {
+    char clase = 'u';  ///< prefix: u, c, r, l
+    std::vector<std::string> nombres{};
+    /// Its name in the first network that has it.
+    [[nodiscard]] const std::string& Nombre() const;
+    bool operator==(const Emparejado&) const = default;
+};
+
+/// Something that went into the runs and isn't the same in all of them.
+struct Distinto {
+    std::string componente{};            ///< empty: the storm and the steps
+    std::string nombre{};                ///< what it is
+    std::string unidad{};                ///< "-" where it has none
+    std::vector<std::string> valores{};  ///< by side; empty: it hasn't any
+    bool seLee = true;                   ///< a run of at least one side reads it
+    bool operator==(const Distinto&) const = default;
+};
+
+/// Something that came out, whether it differs or not.
+struct Cifra {
+    std::string componente{};  ///< empty: the basin
+    std::string_view magnitud, unidad, explica;
+    int decimales = 0;
+    bool conPorCiento = true;                      ///< a share of it says something
+    std::vector<std::optional<double>> valores{};  ///< by side
+};
+
+struct Comparacion {
+    std::vector<std::string> lados{};        ///< their names
+    std::vector<std::string> procedencia{};  ///< project, storm and hash of each, a line
+    std::vector<Emparejado> componentes{};  ///< kind by kind, in the order of the first network that has each
+    std::vector<Distinto> parametros{};     ///< storm and steps first, then by component
+    std::vector<Cifra> cifras{};            ///< by component, the basin last
+};
+
+/// Compares runs, the first being what the others are measured by. Requires one run at least.
+Comparacion Compara(const Lados& lados);
+
+/// A value less that of the first side, in its unit; nothing where either isn't a number.
+std::optional<double> Diferencia(std::optional<double> base, std::optional<double> valor);
+/// The same as a share of the first side's absolute value [%]; nothing where that is 0 either.
+std::optional<double> PorCiento(std::optional<double> base, std::optional<double> valor);
+
+/// Hydrographs of a component on one time axis: the times of all of them, whatever their steps; a value is
+/// one that a run left at that time, and none is made up in between.
+struct Superpuestos {
+    std::vector<double> minutos{};                ///< from the beginning of the storm, rising
+    std::vector<std::vector<double>> caudales{};  ///< by side and time [m3/s]; NaN where there is none
+};
+Superpuestos Hidrogramas(const Lados& lados, const Emparejado& componente, bool entra = false);
+
+/// What the series left of a component in storms of equal duration and recurrence.
+struct PicoDeSerie {
+    std::int16_t D = 0, R = 0;                              ///< [min], [years]
+    std::vector<std::optional<double>> laminas{}, picos{};  ///< by side [mm], [m3/s]
+};
+/// By recurrence, then by duration. Of two storms of a series with both alike the later one stands.
+std::vector<PicoDeSerie> PicosDeSerie(const Lados& lados, const Emparejado& componente);
+
+/// Whether any side is a series, or a single storm.
+bool HaySeries(const Lados& lados);
+bool HayTormentas(const Lados& lados);
+
+}  // namespace runs
