@@ -8,7 +8,6 @@
 #include <utility>
 
 #include "checks/ResumenDeCorrida.h"
-#include "runs/Distintos.h"
 
 namespace runs {
 
@@ -124,11 +123,6 @@ std::string ProcedenciaDe(const Lado& lado)
 }
 
 }  // namespace
-
-const std::string& Emparejado::Nombre() const
-{
-    return *std::find_if(nombres.begin(), nombres.end() - 1, [](const auto& n) { return !n.empty(); });
-}
 
 Comparacion Compara(const Lados& lados)
 {

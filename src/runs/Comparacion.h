@@ -3,44 +3,15 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "checks/UltimaCorrida.h"
+#include "runs/Distintos.h"
 
 // Two or more runs side by side: what they were made of where that differs, and what came out.
 namespace runs {
-
-/// A run that is compared, under the name that its column bears. The run is there.
-struct Lado {
-    std::string nombre{};
-    std::shared_ptr<const checks::UltimaCorrida> corrida{};
-};
-using Lados = std::vector<Lado>;
-
-/// A component of the compared networks: its name in each, empty where it isn't there. By name; one that is
-/// only in some networks and has the same data, all but its destination, as the only such one of the others
-/// is the same one under another name.
-struct Emparejado {
-    char clase = 'u';  ///< prefix: u, c, r, l
-    std::vector<std::string> nombres{};
-    /// Its name in the first network that has it.
-    [[nodiscard]] const std::string& Nombre() const;
-    bool operator==(const Emparejado&) const = default;
-};
-
-/// Something that went into the runs and isn't the same in all of them.
-struct Distinto {
-    std::string componente{};            ///< empty: the storm and the steps
-    std::string nombre{};                ///< what it is
-    std::string unidad{};                ///< "-" where it has none
-    std::vector<std::string> valores{};  ///< by side; empty: it hasn't any
-    bool seLee = true;                   ///< a run of at least one side reads it
-    bool operator==(const Distinto&) const = default;
-};
 
 /// Something that came out, whether it differs or not.
 struct Cifra {

@@ -5,13 +5,13 @@
 #include <cstddef>
 #include <utility>
 
-#include "checks/AvisosDeSerie.h"
 #include "checks/Hallazgo.h"
 #include "checks/ProyectoAparte.h"
 #include "checks/RevisaAbierto.h"
 #include "engine/mdlSeriePDR.h"
 #include "engine/modProceso0.h"
 #include "model/Avisos.h"
+#include "model/Configuracion.h"
 #include "model/Siro.h"
 #include "runs/CorridaGuardada.h"
 
@@ -39,6 +39,10 @@ bool Abre(Siro& s, const ProyectoAparte& p, std::vector<std::string>& reparos)
         p.ponTormenta(s);
         checks::CargaEntera(s);
     }
+    const std::string archivo = model::ArchivoConf(s.Proyecto.NombreProyecto);
+    if (abierto && !p.conf.ends_with(archivo))
+        reparos.push_back(p.conf + " dice que su proyecto es " + s.Proyecto.NombreProyecto +
+                          ": se corre ese.");
     for (const Hallazgo& h : hallazgos)
         if (h.gravedad == checks::Gravedad::Error) reparos.push_back(h.que + ": " + h.cuanto);
     if (!abierto) reparos.push_back("El proyecto no se abre: " + p.conf + ".");
@@ -59,13 +63,12 @@ std::shared_ptr<const UltimaCorrida> CorreTormenta(Siro& s, std::vector<std::str
 
 std::shared_ptr<const UltimaCorrida> CorreSerie(Siro& s, int hilos, std::vector<std::string>& reparos)
 {
-    checks::VigiaDeSerie vigia(s);
-    if (engine::CorreSeriePDR(s, hilos, vigia.Ojo()) != engine::FinSerie::Completa) {
+    if (engine::CorreSeriePDR(s, hilos) != engine::FinSerie::Completa) {
         reparos.emplace_back(
             "La serie no se corrió: no tiene tormentas, o alguna no tiene lámina o duración.");
         return nullptr;
     }
-    return UltimaCorrida::DeSerie(s, hilos, &vigia);
+    return UltimaCorrida::DeSerie(s, hilos);
 }
 
 }  // namespace

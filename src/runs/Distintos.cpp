@@ -224,6 +224,7 @@ class Busca {
 };
 
 constexpr std::string_view SinUnidad = "-";
+constexpr const char* NoEsta = "no está";
 
 /// A value of each side that has the component; none of the others.
 std::vector<std::string> PorLado(const Lados& lados, const Emparejado& e,
@@ -243,7 +244,7 @@ void MiraPresencia(const Emparejado& e, Busca& busca)
 {
     std::vector<std::string> esta;
     for (const std::string& nombre : e.nombres)
-        esta.emplace_back(nombre.empty() ? "no está" : "está");
+        esta.emplace_back(nombre.empty() ? NoEsta : "está");
     busca.Mira("Componente", SinUnidad, std::move(esta));
     busca.Mira("Nombre", SinUnidad, e.nombres);
 }
@@ -287,7 +288,7 @@ void MiraCampos(const Lados& lados, const Emparejado& e, Busca& busca)
 
 std::string FilaDeTabla(const TablaDeEmbalse& t, const Red& red, int numero, int fila)
 {
-    if (fila > FilasDe(t, red, numero)) return "no está";
+    if (fila > FilasDe(t, red, numero)) return NoEsta;
     std::string texto;
     for (const ColumnaDeTabla& c : t.columnas)
         texto += (texto.empty() ? "" : "; ") + std::string(c.nombre) + " " + c.lee(red, numero, fila) + " " +
@@ -392,18 +393,23 @@ Lista LaminasDeSerie(const checks::UltimaCorrida& u)
     return lista;
 }
 
+/// What a list of that kind lacks that another one has, is told as well.
 void MiraLista(const Lados& lados, std::string_view unidad, Lista (*lee)(const checks::UltimaCorrida&),
                Busca& busca)
 {
-    std::map<std::pair<int, std::string>, std::vector<std::string>> juntos;
-    for (std::size_t k = 0; k < lados.size(); ++k)
-        for (auto& [clave, valor] : lee(*lados[k].corrida)) {
-            std::vector<std::string>& valores = juntos[clave];
-            valores.resize(lados.size());
-            valores[k] = valor;
+    std::vector<Lista> listas;
+    std::set<std::pair<int, std::string>> claves;
+    for (const Lado& lado : lados)
+        for (const auto& [clave, valor] : listas.emplace_back(lee(*lado.corrida)))
+            claves.insert(clave);
+    for (const auto& clave : claves) {
+        std::vector<std::string> valores;
+        for (const Lista& lista : listas) {
+            const auto suyo = lista.find(clave);
+            valores.emplace_back(suyo != lista.end() ? suyo->second : lista.empty() ? "" : NoEsta);
         }
-    for (auto& [clave, valores] : juntos)
         busca.Mira(clave.second, unidad, std::move(valores));
+    }
 }
 
 void MiraLluvia(const Lados& lados, Busca busca)
@@ -421,6 +427,11 @@ void MiraLluvia(const Lados& lados, Busca busca)
 }
 
 }  // namespace
+
+const std::string& Emparejado::Nombre() const
+{
+    return *std::find_if(nombres.begin(), nombres.end() - 1, [](const auto& n) { return !n.empty(); });
+}
 
 std::vector<Emparejado> Empareja(const Lados& lados)
 {

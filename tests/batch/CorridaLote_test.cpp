@@ -11,6 +11,7 @@
 
 #include "batch/Lote.h"
 #include "batch/ProyectoDePrueba.h"
+#include "checks/ProyectoAparte.h"
 #include "model/ArchivosTormenta.h"
 #include "model/Siro.h"
 
@@ -96,7 +97,7 @@ TEST(LineaDeOrdenes, LaAyudaVaALaSalidaEstandarConEstadoCero)
 TEST_F(CorridaLote, AbrirTomaDirectorioNombreYConfiguracion)
 {
     Siro s;
-    batch::AbreProyecto(s, proyecto.Conf());
+    checks::AbreProyecto(s, proyecto.Conf());
     EXPECT_EQ(s.Proyecto.DirProyecto, proyecto.Dir());
     EXPECT_EQ(s.Proyecto.NombreProyecto, "Mio");
     EXPECT_EQ(s.Configuracion.TituloProyecto, "Titulo");

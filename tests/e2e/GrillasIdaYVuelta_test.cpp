@@ -16,6 +16,7 @@
 #include "apoyo/Compara.h"
 #include "batch/CorridaLote.h"
 #include "batch/Lote.h"
+#include "checks/ProyectoAparte.h"
 #include "e2e/Programa.h"
 #include "editor/fichas/dlgTabla.h"
 #include "editor/fichas/dlgUEHsEditTabla.h"
@@ -41,7 +42,7 @@ class GrillasIdaYVuelta : public testing::Test {
         fs::copy(SIRO_DATA_DIR, dir, fs::copy_options::recursive);
         s.Anfitrion = anfitrion.Puerta();
         s.Proyecto.DirTrabajo = dir;
-        batch::AbreProyecto(s, conf);
+        checks::AbreProyecto(s, conf);
         model::LeeUEHs(s);
         anfitrion->sucesos.clear();
     }

@@ -16,6 +16,7 @@
 #include "batch/CorridaLote.h"
 #include "batch/Lote.h"
 #include "batch/ResultadosCsv.h"
+#include "checks/ProyectoAparte.h"
 #include "e2e/Programa.h"
 #include "engine/modProceso0.h"
 #include "model/Siro.h"
@@ -92,7 +93,7 @@ TEST_F(Muestra, DaLoMismoQueLaCorridaDelMenu)
     ASSERT_EQ(Corre("una", {"--pp", "75.5", "--dur", "90", "--paso-q", "5"}).estado, 0);
     model::Siro s;
     s.Proyecto.DirTrabajo = dir;
-    batch::AbreProyecto(s, conf);
+    checks::AbreProyecto(s, conf);
     s.Tormenta.PpTormenta = 75.5F;
     s.Tormenta.DurTormenta = 90;
     s.Pasos.PasoPp = 10;

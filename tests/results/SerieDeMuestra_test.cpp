@@ -14,6 +14,7 @@
 #include "apoyo/AnfitrionPrueba.h"
 #include "apoyo/Compara.h"
 #include "batch/CorridaLote.h"
+#include "checks/ProyectoAparte.h"
 #include "engine/mdlSeriePDR.h"
 #include "model/Disco.h"
 #include "model/Siro.h"
@@ -39,7 +40,7 @@ class SerieDeMuestra : public testing::Test {
         fs::copy(SIRO_DATA_DIR, dir.Camino(), fs::copy_options::recursive);
         s.Anfitrion = anfitrion.Puerta();
         s.Proyecto.DirTrabajo = dir.Camino().string();
-        batch::AbreProyecto(s, model::Ruta(dir.Ruta("Proyectos"), "Quelmar_Conf.vlm"));
+        checks::AbreProyecto(s, model::Ruta(dir.Ruta("Proyectos"), "Quelmar_Conf.vlm"));
         batch::FijaTormenta(s, {.orden = batch::Opciones::Orden::Serie});
         ASSERT_EQ(engine::CorreSeriePDR(s), engine::FinSerie::Completa);
         LeeArchivo();

@@ -12,7 +12,6 @@
 #include "apoyo/Compara.h"
 #include "batch/CorridaLote.h"
 #include "batch/Lote.h"
-#include "runs/CorridaGuardada.h"
 
 namespace {
 
@@ -44,7 +43,12 @@ struct ComparaLote : testing::Test {
         for (const char* const archivo : {"_Conf", "_UEHs", "_VerCau", "_RHAS", "_RHQ", "_LHASQ"})
             fs::copy(carpeta.Camino() / "Proyectos" / ("Quelmar" + std::string(archivo) + ".vlm"),
                      carpeta.Camino() / "Proyectos" / ("Doble" + std::string(archivo) + ".vlm"));
+        std::string conf = apoyo::BytesDeArchivo(carpeta.Camino() / "Proyectos" / "Doble_Conf.vlm");
+        for (std::size_t k = 0; (k = conf.find("\"Quelmar", k)) != std::string::npos; k += 7)
+            conf.replace(k, 8, "\"Doble");
+        std::ofstream(carpeta.Camino() / "Proyectos" / "Doble_Conf.vlm", std::ios::binary) << conf;
         std::string uehs = apoyo::BytesDeArchivo(carpeta.Camino() / "Proyectos" / "Doble_UEHs.vlm");
+        uehs.replace(uehs.find("\"Quelmar\""), 9, "\"Doble\"");
         const std::size_t ueh = uehs.find("\"u-"), area = uehs.find('\n', ueh) + 1;
         superficie = uehs.substr(area, uehs.find_first_of("\r\n", area) - area);
         uehs.replace(area, superficie.size(), "2" + superficie);
@@ -107,9 +111,8 @@ TEST_F(ComparaLote, DosDelMismoNombreLlevanSuRuta)
     EXPECT_NE(r.estandar.find("," + Conf("Quelmar") + ","), std::string::npos);
 }
 
-TEST_F(ComparaLote, UnLadoPuedeSerUnaCorridaGuardada)
+TEST_F(ComparaLote, UnaCorridaQueNoSeGuardoSeDice)
 {
-    const runs::Libro libro{.dirProyecto = (carpeta.Camino() / "Proyectos").string(), .proyecto = "Quelmar"};
     const Respuesta falta = Corre({Conf("Quelmar"), Conf("Quelmar") + "#Ayer"});
     EXPECT_EQ(falta.estado, batch::EstadoInterrumpido);
     EXPECT_NE(falta.errores.find("no tiene ninguna corrida de nombre Ayer"), std::string::npos)

@@ -194,6 +194,7 @@ TEST(Comparacion, DosConLosMismosDatosNoSeAdivinan)
 {
     Red una, otra;
     una.Directo("c-2", "0");
+    una.Cauce().Cauce_aa = "c-2";
     otra.Cauce().NombreCauce = "c-uno";
     otra.UEH().Cauce_aa = "c-uno";
     const Comparacion c = Compara({{"1", una.Corrida()}, {"2", otra.Corrida()}});
@@ -249,13 +250,15 @@ TEST_F(DeMuestra, LosPicosDeLasSeriesVanPorRecurrenciaYDuracion)
     const auto segunda = checks::UltimaCorrida::DeSerie(s, 1);
     const Lados lados{{"A", primera}, {"B", segunda}};
     const Comparacion c = Compara(lados);
-    ASSERT_EQ(primera->corridas.size(), 2u) << "R 30 isn't among the recurrences";
-    EXPECT_EQ(Diferencias(c), (Textos{"|Tormentas corridas|-|2|3", "|P de D 120 min, R 20 años|mm|80|100"}));
+    ASSERT_EQ(primera->corridas.size(), 3u);
+    EXPECT_EQ(Diferencias(c),
+              (Textos{"|P de D 180 min, R 5 años|mm|no está|60", "|P de D 120 min, R 20 años|mm|80|100",
+                      "|P de D 180 min, R 30 años|mm|60|no está"}));
 
     const Emparejado& salida =
         *std::ranges::find_if(c.componentes, [](const Emparejado& e) { return e.Nombre() == "c-Quelmar5"; });
     const std::vector<PicoDeSerie> picos = PicosDeSerie(lados, salida);
-    ASSERT_EQ(picos.size(), 3u);
+    ASSERT_EQ(picos.size(), 4u);
     const int fila = static_cast<int>(std::ranges::find(primera->r().Secuencia, "c-Quelmar5") -
                                       primera->r().Secuencia.begin());
     EXPECT_EQ(picos[0].R, 5);
