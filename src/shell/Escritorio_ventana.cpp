@@ -5,8 +5,11 @@
 #include <QDialog>
 #include <QFile>
 #include <QTimer>
+#include <algorithm>
+#include <array>
 #include <chrono>
 #include <ctime>
+#include <iterator>
 #include <utility>
 
 #include "checks/EscribeHallazgos.h"
@@ -157,6 +160,7 @@ void Escritorio::PonVentanas()
                         principal.Estado(Variable::mnuPizarra1).marcada,
                         [this] { ventanaPrincipal->Muestra(); });
     PonFranjas();
+    PonBusca();
 }
 
 void Escritorio::PonLluvia()
@@ -250,6 +254,28 @@ void Escritorio::PonInicio()
     };
     ventanaPrincipal->Ventanas().PonInicio(*inicio);
     entorno.AlTerminarSuceso(*inicio, [inicio] { inicio->RefrescaLuego(); });
+}
+
+void Escritorio::PonBusca()
+{
+    ventanaBusca = std::make_unique<dlgBusca_ventana>(entorno, *ventanaPrincipal);
+    ventanaBusca->Junta = [this] {
+        const IrAComponente ir{
+            .propiedades =
+                [this](const std::string& componente) { ventanasEstudio->VeAComponente(componente); },
+            .hidrograma =
+                [this](const std::string& componente) { ventanasEstudio->AbreHidrograma(componente); },
+            .corridos = ventanasEstudio->ComponentesCorridos()};
+        std::vector<Candidato> todos;
+        for (std::vector<Candidato>& parte :
+             std::array{DelMenu(principal, [this](Rutina rutina) { ventanaPrincipal->Ejecuta(rutina); }),
+                        DeVentanas(*ventanaPrincipal, [this] { TraePrincipal(); }),
+                        DeRecientes(s.Disco, LeeRecientes(entorno.Ajustes()),
+                                    [this](const std::string& conf) { model::AbreProyectoDe(s, conf); }),
+                        DeComponentes(s, ir), DeAyuda(s, mandos.AbrePaginaDeAyuda)})
+            std::ranges::move(parte, std::back_inserter(todos));
+        return todos;
+    };
 }
 
 /// Does something that opens the editor, which comes up behind the main window this time.
@@ -397,6 +423,8 @@ void Escritorio::Abre(Ventana ventana, bool espera)
         return ventanasSerie->ventanaTablaComponente.Abre();
     case Ventana::dlgEmpiricas:
         return ventanaEmpiricas->Abre();
+    case Ventana::Busca:
+        return ventanaBusca->Abre();
     case Ventana::Avisos:
     case Ventana::Resumen:
     case Ventana::Comparar:

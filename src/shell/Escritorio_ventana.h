@@ -28,6 +28,7 @@
 #include "shell/MDIForm1.h"
 #include "shell/MDIForm1_ventana.h"
 #include "shell/VentanasDeEstudio_ventana.h"
+#include "shell/dlgBusca_ventana.h"
 #include "shell/frmConfigura.h"
 #include "shell/frmConfigura_ventana.h"
 #include "shell/frmPp2.h"
@@ -76,6 +77,7 @@ class Escritorio {
     void PonLluvia();
     void PonEstudio();
     void PonInicio();
+    void PonBusca();
     void VeAHallazgo(const checks::Hallazgo& hallazgo, bool ordenada);
     void ConLaListaALaVista(const std::function<void()>& cuerpo);
     void TraePrincipal();
@@ -105,6 +107,7 @@ class Escritorio {
     std::unique_ptr<empirical::dlgEmpiricas_ventana> ventanaEmpiricas;
     std::unique_ptr<Ayuda_ventana> ventanaAyuda;
     std::unique_ptr<editor::VentanasDelEditor> ventanasEditor;
+    std::unique_ptr<dlgBusca_ventana> ventanaBusca;
 };
 
 }  // namespace shell

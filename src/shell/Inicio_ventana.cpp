@@ -26,21 +26,6 @@ constexpr char ClaveDeRecientes[] = "inicio/recientes";
 constexpr int NroPasos = 4;
 constexpr int Margen = 16;  // [pixels]
 
-std::vector<ProyectoReciente> LeeRecientes(QSettings& ajustes)
-{
-    std::vector<ProyectoReciente> lista;
-    ajustes.sync();  // another program may have added to it
-    const int cuantos =
-        std::min(ajustes.beginReadArray(QLatin1String(ClaveDeRecientes)), static_cast<int>(MaximoRecientes));
-    const auto texto = [&](const char* clave) { return DeQ(ajustes.value(QLatin1String(clave)).toString()); };
-    for (int i = 0; i < cuantos; ++i) {
-        ajustes.setArrayIndex(i);
-        if (!texto("ruta").empty()) lista.push_back({texto("ruta"), texto("cuenca"), texto("cuando")});
-    }
-    ajustes.endArray();
-    return lista;
-}
-
 void GuardaRecientes(QSettings& ajustes, const std::vector<ProyectoReciente>& lista)
 {
     ajustes.beginWriteArray(QLatin1String(ClaveDeRecientes), static_cast<int>(lista.size()));
@@ -78,6 +63,21 @@ Tarjeta::Marca MarcaDe(EstadoPaso estado)
 }
 
 }  // namespace
+
+std::vector<ProyectoReciente> LeeRecientes(QSettings& ajustes)
+{
+    std::vector<ProyectoReciente> lista;
+    ajustes.sync();  // another program may have added to it
+    const int cuantos =
+        std::min(ajustes.beginReadArray(QLatin1String(ClaveDeRecientes)), static_cast<int>(MaximoRecientes));
+    const auto texto = [&](const char* clave) { return DeQ(ajustes.value(QLatin1String(clave)).toString()); };
+    for (int i = 0; i < cuantos; ++i) {
+        ajustes.setArrayIndex(i);
+        if (!texto("ruta").empty()) lista.push_back({texto("ruta"), texto("cuenca"), texto("cuando")});
+    }
+    ajustes.endArray();
+    return lista;
+}
 
 Inicio_ventana::Inicio_ventana(forms::Entorno& alrededor, std::function<void(Rutina)> laOrden, QWidget* padre)
     : QScrollArea(padre), entorno(alrededor), orden(std::move(laOrden))

@@ -16,6 +16,9 @@ class QVBoxLayout;
 
 namespace shell {
 
+/// The projects of late, as the user's settings keep them.
+std::vector<ProyectoReciente> LeeRecientes(QSettings& ajustes);
+
 /// What fills the room of the main window while no window is open there: see Inicio.h. It keeps the list of
 /// projects in the user's settings.
 class Inicio_ventana : public QScrollArea {

@@ -63,6 +63,7 @@ enum class Ventana : std::uint8_t {
     frmConfigura,
     dlgEliminarProyecto,
     frmAcerca,
+    Busca,
 };
 
 /// What the commands ask of the desktop beyond the host. A member that is left as it is does nothing.

@@ -56,6 +56,14 @@ checks::Sello VentanasDeEstudio::SelloDeResultados() const
     return corrido ? sello : checks::SelloDe(entorno.s);
 }
 
+std::vector<std::string> VentanasDeEstudio::ComponentesCorridos() const
+{
+    const model::Resultados& r = entorno.s.Resultados;
+    if (!corrido || r.NroPasosQ <= 0 || sello.proyecto != checks::SelloDe(entorno.s).proyecto) return {};
+    const auto desde = r.Secuencia.begin() + 1;
+    return {desde, desde + r.NroComponentes};
+}
+
 void VentanasDeEstudio::PonResumen()
 {
     ventanaResumen.AbreHidrograma = [this](const std::string& componente) { AbreHidrograma(componente); };

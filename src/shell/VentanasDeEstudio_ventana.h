@@ -4,6 +4,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "checks/Sello.h"
 #include "checks/dlgAvisos.h"
@@ -41,6 +42,8 @@ class VentanasDeEstudio {
     /// Whether a run has been made in this session, and when the last one was.
     [[nodiscard]] bool HayCorrida() const { return corrido; }
     [[nodiscard]] const std::string& Cuando() const { return cuando; }
+    /// Names of the components whose hydrographs there are, of the project in hand.
+    [[nodiscard]] std::vector<std::string> ComponentesCorridos() const;
     JuicioDeCorrida& Juicio() { return juicio; }
     MapaDeEstudio& Mapa() { return mapa; }
     class Talleres& Talleres() { return talleres; }

@@ -46,7 +46,8 @@ inline std::string_view Nombre(Ventana ventana)
                                             "Ajuste",
                                             "frmConfigura",
                                             "dlgEliminarProyecto",
-                                            "frmAcerca"};
+                                            "frmAcerca",
+                                            "Busca"};
     return nombres[static_cast<std::size_t>(ventana)];
 }
 

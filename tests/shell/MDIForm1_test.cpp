@@ -151,6 +151,8 @@ TEST_F(MarcoDePrueba, ElMenuTieneSusEntradasEnOrden)
         {"mnuTaller", "&Taller de lluvia"},
         {"mnuAjuste", "Taller de a&juste"},
         {"mnuVerificar", "&Verificar"},
+        {"mnuBuscarBarra", "-"},
+        {"mnuBuscar", "&Buscar un comando"},
         {"mnuVentana", "&Ventana"},
         {"mnuAyuda", "A&yuda"},
         {"mnuHelpContents", "Con&tenido"},

@@ -201,6 +201,21 @@ TEST_F(Pantallas, LaHojaDeInicio)
         }
 }
 
+TEST_F(Pantallas, LaBusquedaConLoQueHallaYSinNada)
+{
+    Accion("mnuCorre1").trigger();
+    Accion("mnuBuscar").trigger();
+    ASSERT_TRUE(
+        Espera([] { return QApplication::activeWindow()->objectName() == QStringLiteral("dlgBusca"); }));
+    QWidget* const busca = QApplication::activeWindow();
+    Revisa(*busca);
+    EXPECT_TRUE(ALaVista(apoyo::Control<QWidget>(*busca, "lstHallados")));
+    EXPECT_TRUE(ALaVista(apoyo::Control<QWidget>(*busca, "lblPie")));
+    apoyo::Teclea(apoyo::Control<QWidget>(*busca, "txtBusca"), "quel");
+    QTest::qWait(50);
+    Retrata(*busca, QStringLiteral("_quel"));
+}
+
 TEST_F(Pantallas, LosDialogosDelMenu)
 {
     for (const Ventana cual :
