@@ -151,7 +151,7 @@ struct Documento {
     std::string logo{};   ///< bytes of a picture: PNG, JPEG, SVG; empty: none
     Hoja hoja = Hoja::A4;
     std::vector<Bloque> bloques{};
-    std::vector<Falta> faltas{};  ///< of the template; told to the user, and no part of the pages
+    std::vector<Falta> faltas{};  ///< of the template, to be told; each stands in the pages too, in its place
     bool operator==(const Documento&) const = default;
 };
 

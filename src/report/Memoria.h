@@ -24,10 +24,6 @@ struct Marca {
 /// All of them, in the order of the help.
 std::vector<Marca> Marcas();
 
-/// Components that have a hydrograph in the run of the storm, in the order of computation: what
-/// Eleccion::componentes may name.
-std::vector<std::string> ComponentesConHidrograma(const Datos& datos);
-
 /// Command line of siro-lote that gives a run again.
 std::string OrdenDeLote(const checks::UltimaCorrida& u, const std::string& archivoConf,
                         const std::string& tormentaReal = {});

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,7 +15,8 @@
 //   %% a comment                                 # heading, ## heading, ### heading {key}
 //   - item     1. item                           = a formula in a line of its own
 //   **bold** *slanted* ^{raised} _{lowered}      {{value}} inside a text      \* a star that is one
-//   [[tabla X]] [[figura X]] [[indice]] ...      [[si X]] [[si no X]] ... [[fin]]
+//   [[tabla X]] [[figura X]] [[formula X]] [[portada]] [[indice]] [[pagina]]      [[si X]] [[si no X]] ...
+//   [[fin]]
 namespace report {
 
 /// A line or a paragraph of a template.
