@@ -74,21 +74,17 @@ class NumerosConPunto {
 /// A workbook in the making; one that isn't closed leaves no file.
 class Libro {
   public:
-    Libro(const Planilla& una, const std::string& archivo, std::string carpeta)
-        : planilla(una), temporales(std::move(carpeta))
+    Libro(const std::string& archivo, std::string carpeta) : temporales(std::move(carpeta))
     {
         lxw_workbook_options opciones{};
         opciones.tmpdir = temporales.data();
         libro = workbook_new_opt(archivo.c_str(), &opciones);
-        hoja = workbook_add_worksheet(libro, NombreDeHoja);
         centrado = workbook_add_format(libro);
         encabezado = workbook_add_format(libro);
         format_set_bold(encabezado);
         format_set_bottom(encabezado, LXW_BORDER_THIN);
         for (lxw_format* const formato : {centrado, encabezado})
             format_set_align(formato, LXW_ALIGN_CENTER);
-        for (const ColumnaPlanilla& columna : planilla.columnas)
-            deNumero.push_back(columna.formato.empty() ? centrado : DeNumero(columna.formato));
     }
     ~Libro()
     {
@@ -97,8 +93,14 @@ class Libro {
     Libro(const Libro&) = delete;
     Libro& operator=(const Libro&) = delete;
 
-    void Llena()
+    void Agrega(const HojaDeLibro& una)
     {
+        planilla = una.planilla;
+        hoja = workbook_add_worksheet(libro, una.nombre.c_str());
+        if (hoja == nullptr) throw model::Falla{model::NumeroFalla::AccesoRuta};
+        deNumero.clear();
+        for (const ColumnaPlanilla& columna : planilla.columnas)
+            deNumero.push_back(columna.formato.empty() ? centrado : DeNumero(columna.formato));
         lxw_row_t fila = 0;
         for (const std::string& t : planilla.titulos)
             PonTitulo(fila++, t);
@@ -173,7 +175,7 @@ class Libro {
         }
     }
 
-    const Planilla& planilla;
+    Planilla planilla{};  ///< of the sheet in hand
     std::string temporales;
     lxw_workbook* libro = nullptr;
     lxw_worksheet* hoja = nullptr;
@@ -194,11 +196,17 @@ void Guarda(Entorno& entorno, std::string_view pregunta, std::string_view filtro
 
 std::string ComoXlsx(const Planilla& planilla)
 {
+    return ComoXlsx(std::vector<HojaDeLibro>{{NombreDeHoja, planilla}});
+}
+
+std::string ComoXlsx(const std::vector<HojaDeLibro>& hojas)
+{
     const NumerosConPunto conPunto;
     const QTemporaryDir carpeta;
     const QString archivo = carpeta.filePath(QStringLiteral("planilla.xlsx"));
-    Libro libro(planilla, DeQ(archivo), DeQ(carpeta.path()));
-    libro.Llena();
+    Libro libro(DeQ(archivo), DeQ(carpeta.path()));
+    for (const HojaDeLibro& hoja : hojas)
+        libro.Agrega(hoja);
     libro.Cierra();
     QFile escrito(archivo);
     if (!escrito.open(QIODevice::ReadOnly)) throw model::Falla{model::NumeroFalla::AccesoRuta};
@@ -220,6 +228,13 @@ void GuardaXlsx(Entorno& entorno, std::string_view nombre, const DaPlanilla& pla
 {
     Guarda(entorno, "Guardar la tabla como XLSX", "Libro XLSX |*.xlsx", std::string(nombre).append(".xlsx"),
            [&] { return ComoXlsx(planilla()); });
+}
+
+void GuardaLibro(Entorno& entorno, std::string_view nombre,
+                 const std::function<std::vector<HojaDeLibro>()>& hojas)
+{
+    Guarda(entorno, "Guardar las tablas como XLSX", "Libro XLSX |*.xlsx", std::string(nombre).append(".xlsx"),
+           [&] { return ComoXlsx(hojas()); });
 }
 
 void AgregaPlanilla(QMenu& menu, Entorno& entorno, std::string_view nombre, const DaPlanilla& planilla)

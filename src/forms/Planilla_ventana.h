@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "forms/Entorno_ventana.h"
 #include "forms/Planilla.h"
@@ -19,6 +20,14 @@ namespace forms {
 /// library's working files.
 std::string ComoXlsx(const Planilla& planilla);
 
+/// A sheet of a workbook: its name, of 31 letters at most and without []:*?/\, and its table.
+struct HojaDeLibro {
+    std::string nombre{};
+    Planilla planilla{};
+};
+/// The same with several sheets, one at least, each name once.
+std::string ComoXlsx(const std::vector<HojaDeLibro>& hojas);
+
 /// The table as it is on show when it is asked for.
 using DaPlanilla = std::function<Planilla()>;
 
@@ -27,6 +36,10 @@ void CopiaPlanilla(Entorno& entorno, const Planilla& planilla);
 /// Asks where, proposing a name without its ending, and saves. A disk that refuses is told.
 void GuardaCsv(Entorno& entorno, std::string_view nombre, const DaPlanilla& planilla);
 void GuardaXlsx(Entorno& entorno, std::string_view nombre, const DaPlanilla& planilla);
+
+/// The same of several tables, a sheet each.
+void GuardaLibro(Entorno& entorno, std::string_view nombre,
+                 const std::function<std::vector<HojaDeLibro>()>& hojas);
 
 /// Entries of a menu for all three, below those that it has.
 void AgregaPlanilla(QMenu& menu, Entorno& entorno, std::string_view nombre, const DaPlanilla& planilla);
