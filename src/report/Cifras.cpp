@@ -7,8 +7,8 @@
 #include <cmath>
 #include <cstddef>
 
+#include "checks/ResumenDeCorrida.h"
 #include "model/Numeros.h"
-#include "results/ResumenDeCorrida.h"
 
 namespace report {
 namespace {
@@ -53,7 +53,7 @@ std::string Cifras::De(std::string_view numero) const
 
 std::string Cifras::Con(double x, int decimales, bool conCero) const
 {
-    return std::isfinite(x) ? De(results::CifraDeResumen(x, decimales, conCero)) : "-";
+    return std::isfinite(x) ? De(checks::CifraDeResumen(x, decimales, conCero)) : "-";
 }
 
 std::string Cifras::Escrita(float x) const

@@ -11,7 +11,7 @@ struct Cifras {
     char decimal = ',';
     std::string miles{};  ///< between thousands of numbers with five whole digits or more
 
-    /// A number with so many decimals, as results::CifraDeResumen has it; "-" for one that isn't there.
+    /// A number with so many decimals, as checks::CifraDeResumen has it; "-" for one that isn't there.
     [[nodiscard]] std::string Con(double x, int decimales, bool conCero = true) const;
     /// A value as it was typed: 32 bits with all their digits.
     [[nodiscard]] std::string Escrita(float x) const;

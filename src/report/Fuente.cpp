@@ -39,7 +39,7 @@ Fuente::Fuente(const Datos& datos, const Eleccion& eleccion)
 {
     if (d.tormenta != nullptr && d.tormenta->balance && d.tormenta->corrido) {
         una = d.tormenta.get();
-        areas = results::AreasDrenadas(*una->corrido);
+        areas = checks::AreasDrenadas(*una->corrido);
         EligeDeUna();
     }
     if (d.serie != nullptr && d.serie->serie.NroSeriePDR > 0 && d.serie->r().NroComponentes > 0) {
@@ -81,9 +81,9 @@ void Fuente::EligeDeSerie()
     tormentas = checks::TormentasDeSerie(s).numeros;
 }
 
-results::DeQuien Fuente::Quien(const ComponenteCorrido* c) const
+checks::DeQuien Fuente::Quien(const ComponenteCorrido* c) const
 {
-    results::DeQuien q{.u = *una, .balance = &una->balance->cuenca, .area = AreaDeCuenca()};
+    checks::DeQuien q{.u = *una, .balance = &una->balance->cuenca, .area = AreaDeCuenca()};
     if (c == nullptr) {
         for (const ComponenteCorrido* const otro : EnOrden(d))
             if (una->corrido->EsSalida(*otro)) q.salidas.push_back(otro);
@@ -102,7 +102,7 @@ std::optional<double> Fuente::DelResumen(const ComponenteCorrido* c, std::string
                                          std::string_view unidad) const
 {
     if (una == nullptr) return {};
-    for (const results::ColumnaDeResumen& columna : results::ColumnasDeResumen(false))
+    for (const checks::ColumnaDeResumen& columna : checks::ColumnasDeResumen(false))
         if (columna.titulo == titulo && columna.unidad == unidad) return columna.valor(Quien(c));
     return {};
 }
@@ -111,7 +111,7 @@ std::string Fuente::CeldaDelResumen(const ComponenteCorrido* c, std::string_view
                                     std::string_view unidad) const
 {
     const std::optional<double> valor = DelResumen(c, titulo, unidad);
-    for (const results::ColumnaDeResumen& columna : results::ColumnasDeResumen(false))
+    for (const checks::ColumnaDeResumen& columna : checks::ColumnasDeResumen(false))
         if (valor && columna.titulo == titulo && columna.unidad == unidad)
             return n.Con(*valor, columna.decimales, columna.conCero);
     return "-";

@@ -7,11 +7,11 @@
 #include <string_view>
 #include <vector>
 
+#include "checks/ResumenDeCorrida.h"
 #include "checks/UltimaCorrida.h"
 #include "report/Cifras.h"
 #include "report/Datos.h"
 #include "report/Estudiado.h"
-#include "results/ResumenDeCorrida.h"
 
 namespace report {
 
@@ -59,7 +59,7 @@ class Fuente {
   private:
     void EligeDeUna();
     void EligeDeSerie();
-    [[nodiscard]] results::DeQuien Quien(const checks::ComponenteCorrido* c) const;
+    [[nodiscard]] checks::DeQuien Quien(const checks::ComponenteCorrido* c) const;
 };
 
 /// Names of the outfalls of a run, with ", " and " y " between them.

@@ -159,7 +159,7 @@ std::string Laminacion(const Fuente& f, const DelComponente& c)
 
 std::string Tope(const Fuente& f, const DelComponente& c)
 {
-    const auto tope = results::TopeDescrito(*c->embalse);
+    const auto tope = checks::TopeDescrito(*c->embalse);
     return tope ? f.n.Con(*tope, 2) : "-";
 }
 

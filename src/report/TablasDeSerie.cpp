@@ -88,11 +88,11 @@ std::vector<Tabla> Picos(const Fuente& f)
 std::vector<Tabla> Mayores(const Fuente& f)
 {
     if (f.serie == nullptr) return {};
-    const results::Resumen r = results::ResumenDe(*f.serie);
+    const checks::Resumen r = checks::ResumenDe(*f.serie);
     Tabla t{.titulo = "La mayor crecida de la serie en cada componente"};
-    const auto columnas = results::ColumnasDeResumen(true);
+    const auto columnas = checks::ColumnasDeResumen(true);
     t.columnas.push_back(Encabezado("Componente", "", true));
-    for (const results::ColumnaDeResumen& c : columnas)
+    for (const checks::ColumnaDeResumen& c : columnas)
         t.columnas.push_back(Encabezado(c.titulo, c.unidad, false));
     for (std::size_t i = 0; i < r.planilla.filas.size(); ++i) {
         if (!r.nombres[i].empty() && FilaDe(f, r.nombres[i]) == 0) continue;
