@@ -10,6 +10,7 @@
 #include "apoyo/AnfitrionPrueba.h"
 #include "apoyo/Compara.h"
 #include "batch/CorridaLote.h"
+#include "checks/ProyectoAparte.h"
 #include "checks/UltimaCorrida.h"
 #include "engine/mdlSeriePDR.h"
 #include "engine/modProceso0.h"
@@ -41,7 +42,7 @@ class CorridaDeMuestra {
         model::Siro s;
         s.Anfitrion = anfitrion.Puerta();
         s.Proyecto.DirTrabajo = dir.Camino().string();
-        batch::AbreProyecto(s, Conf());
+        EXPECT_TRUE(checks::AbreProyecto(s, Conf()));
         batch::FijaTormenta(s, o);
         datos.configuracion = s.Configuracion;
         if (o.orden == batch::Opciones::Orden::Serie) {
