@@ -107,7 +107,7 @@ void PonEditable(Grilla& g, int columna, bool editable)
 
 void VaciaDatos(Grilla& g)
 {
-    PasoEdicion paso;
+    std::vector<TextoAnterior> paso;
     for (int fila = 1; fila <= g.NroFilas(); ++fila)
         for (int columna = 0; columna < g.NroColumnas(); ++columna)
             if (const Celda c{fila, columna}; g.SePuedeEditar(c)) {
@@ -257,41 +257,84 @@ void Retrocede(Grilla& g, const Siro& s)
 
 // --- undo ---
 
-void Anota(Grilla& g, PasoEdicion paso)
+void Anota(Grilla& g, std::vector<TextoAnterior> celdas)
 {
-    if (paso.empty()) return;
-    g.hechos.push_back(std::move(paso));
+    if (celdas.empty()) return;
+    g.hechos.push_back({std::move(celdas), {}});
     g.deshechos.clear();
 }
 
 namespace {
+
+/// Whether rows are as many as the grid's and hold the same where they can be edited.
+bool SonLasMismas(const Grilla& g, const std::vector<FilaGrilla>& filas)
+{
+    if (filas.size() != g.filas.size()) return false;
+    for (std::size_t i = 0; i < filas.size(); ++i)
+        for (int c = 0; c < g.NroColumnas(); ++c) {
+            const Celda celda{static_cast<int>(i) + 1, c};
+            const auto lugar = static_cast<std::size_t>(c);
+            if (g.SePuedeEditar(celda) && g.Texto(celda) != filas[i].celdas.at(lugar)) return false;
+        }
+    return true;
+}
+
+/// Puts all rows back that a step keeps. The cursor stays as far as there is a row for it.
+void CambiaFilas(Grilla& g, PasoEdicion& paso, Efecto& efecto)
+{
+    std::swap(g.filas, *paso.filas);
+    const int ultima = std::max(1, g.NroFilas());
+    g.actual.fila = std::min(g.actual.fila, ultima);
+    g.ancla = g.actual;
+    efecto.otrasFilas = true;
+    efecto.asentadas.clear();
+    for (int fila = 1; fila <= g.NroFilas(); ++fila)
+        for (int columna = 0; columna < g.NroColumnas(); ++columna)
+            if (const Celda c{fila, columna}; g.SePuedeEditar(c)) efecto.asentadas.push_back(c);
+}
+
+void CambiaCeldas(Grilla& g, PasoEdicion& paso, Efecto& efecto)
+{
+    for (auto& [celda, texto] : paso.celdas) {
+        std::string ahora = g.Texto(celda);
+        g.Pon(celda, std::move(texto));
+        texto = std::move(ahora);
+        efecto.asentadas.push_back(celda);
+    }
+    g.actual = paso.celdas.front().celda;
+    g.ancla = paso.celdas.back().celda;
+}
 
 /// Goes a step from one pile to the other; steps that changed nothing are dropped on the way.
 Efecto Camina(Grilla& g, std::vector<PasoEdicion>& de, std::vector<PasoEdicion>& a)
 {
     Efecto efecto = Deja(g);
     const auto esInutil = [&](const PasoEdicion& paso) {
-        return std::all_of(paso.begin(), paso.end(),
-                           [&](const TextoAnterior& t) { return g.Texto(t.celda) == t.texto; });
+        return paso.filas ? SonLasMismas(g, *paso.filas)
+                          : std::all_of(paso.celdas.begin(), paso.celdas.end(),
+                                        [&](const TextoAnterior& t) { return g.Texto(t.celda) == t.texto; });
     };
     while (!de.empty() && esInutil(de.back()))
         de.pop_back();
     if (de.empty()) return efecto;
     PasoEdicion paso = std::move(de.back());
     de.pop_back();
-    for (auto& [celda, texto] : paso) {
-        std::string ahora = g.Texto(celda);
-        g.Pon(celda, std::move(texto));
-        texto = std::move(ahora);
-        efecto.asentadas.push_back(celda);
-    }
-    g.actual = paso.front().celda;
-    g.ancla = paso.back().celda;
+    paso.filas ? CambiaFilas(g, paso, efecto) : CambiaCeldas(g, paso, efecto);
     a.push_back(std::move(paso));
     return efecto;
 }
 
 }  // namespace
+
+void AnotaFilas(Grilla& g, Grilla antes, bool sigue)
+{
+    g.hechos = std::move(antes.hechos);
+    g.deshechos = std::move(antes.deshechos);
+    if (SonLasMismas(g, antes.filas)) return;
+    const bool esDelMismo = sigue && !g.hechos.empty() && g.hechos.back().filas && g.deshechos.empty();
+    if (!esDelMismo) g.hechos.push_back({{}, std::move(antes.filas)});
+    g.deshechos.clear();
+}
 
 Efecto Deshace(Grilla& g)
 {

@@ -2,8 +2,10 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "forms/ReglasGrilla.h"
@@ -42,8 +44,13 @@ struct TextoAnterior {
     bool operator==(const TextoAnterior&) const = default;
 };
 
-/// What is undone at once: the typing in a cell, a block pasted, a table emptied.
-using PasoEdicion = std::vector<TextoAnterior>;
+/// What is undone at once: the typing in a cell, a block pasted, a table emptied; or all rows, where their
+/// number or order changed.
+struct PasoEdicion {
+    std::vector<TextoAnterior> celdas{};             ///< of a step in cells
+    std::optional<std::vector<FilaGrilla>> filas{};  ///< of one that changed the rows: all of them before it
+    bool operator==(const PasoEdicion&) const = default;
+};
 
 /// State of a grid. A plain value; the description must outlive it.
 struct Grilla {
@@ -78,7 +85,8 @@ struct Grilla {
 struct Efecto {
     /// Cells whose text changed and is now settled: left by the cursor, or pasted into.
     std::vector<Celda> asentadas{};
-    bool sale = false;  ///< Tab at an end of the grid: the focus goes on to the next control
+    bool otrasFilas = false;  ///< a step put all rows back: their number too is to be taken from the grid
+    bool sale = false;        ///< Tab at an end of the grid: the focus goes on to the next control
 };
 
 /// A grid with the columns of its heading and no rows; the cursor stands in the first column that can be
@@ -140,7 +148,16 @@ void Escribe(Grilla& g, const model::Siro& s, std::string_view caracter);
 void Retrocede(Grilla& g, const model::Siro& s);
 
 /// Remembers what a step takes the place of; what was undone before can't be done again.
-void Anota(Grilla& g, PasoEdicion paso);
+void Anota(Grilla& g, std::vector<TextoAnterior> celdas);
+
+/// Makes one step of all that `cambia` does to the rows, PonNroFilas and another grid in place of this one
+/// included; the steps before it stay. Where no cell that can be edited is another one, and none comes or
+/// goes, there is no step. With `sigue` a change right behind another one belongs to its step, as the digits
+/// of a number of rows do. What throws leaves no steps.
+template <typename Cambia>
+void ComoUnPaso(Grilla& g, Cambia&& cambia, bool sigue = false);
+/// Its end: takes up the steps of the grid as it was, and notes the difference.
+void AnotaFilas(Grilla& g, Grilla antes, bool sigue);
 
 /// Takes the last step of editing back, or does it again; the cursor goes there, and the cells are settled.
 Efecto Deshace(Grilla& g);
@@ -165,5 +182,13 @@ enum class OrigenBloque : std::uint8_t {
 /// only the user knows what a point or a comma means, a question settles it. Decimal commas become points.
 Efecto Pega(Grilla& g, const model::Siro& s, std::string_view bloque,
             OrigenBloque origen = OrigenBloque::Ajeno);
+
+template <typename Cambia>
+void ComoUnPaso(Grilla& g, Cambia&& cambia, bool sigue)
+{
+    Grilla antes = g;
+    std::forward<Cambia>(cambia)();
+    AnotaFilas(g, std::move(antes), sigue);
+}
 
 }  // namespace forms

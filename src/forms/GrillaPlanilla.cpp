@@ -218,7 +218,7 @@ Efecto Pega(Grilla& g, const Siro& s, std::string_view bloque, OrigenBloque orig
 
     Efecto efecto = Deja(g);
     Celda hasta = desde;
-    PasoEdicion paso;
+    std::vector<TextoAnterior> paso;
     for (const Pedido& p : pedidos) {
         hasta = {std::max(hasta.fila, p.celda.fila), std::max(hasta.columna, p.celda.columna)};
         if (!g.SePuedeEditar(p.celda)) continue;

@@ -130,11 +130,12 @@ constexpr auto TeclasDeGrilla = std::to_array<FilaTecla>({
 constexpr auto Ordenes =
     std::to_array({QKeySequence::Copy, QKeySequence::Paste, QKeySequence::SelectAll, QKeySequence::Undo});
 
-/// Ctrl+Y and what else the platform has for it.
+/// Ctrl+Y, Ctrl+Shift+Z and what else the platform has for it.
 bool EsRehacer(const QKeyEvent& evento)
 {
     return evento.matches(QKeySequence::Redo) ||
-           (evento.modifiers() == Qt::ControlModifier && evento.key() == Qt::Key_Y);
+           evento.keyCombination() == (Qt::ControlModifier | Qt::Key_Y) ||
+           evento.keyCombination() == (Qt::ControlModifier | Qt::ShiftModifier | Qt::Key_Z);
 }
 
 /// A block in the clipboard as this program's grids hold it, whatever sign its text has for others.

@@ -251,15 +251,25 @@ bool txtNroPer_AlSalir(dlgDisPpPer& f, Siro& s)
         const std::int16_t n = model::Entero16(model::Val(f.txtNroPer));
         s.TablasDeLluvia.NroFilasTabla[Ranura(f)] = n;
         Ensancha(s, n);
-        PonFilas(f, n);
-        Suma(f);
+        forms::ComoUnPaso(f.MSFlexGridDisPerso, [&] {
+            PonFilas(f, n);
+            Suma(f);
+        });
     });
     return true;
 }
 
 void AlAsentar(dlgDisPpPer& f, Siro& s, const forms::Efecto& efecto)
 {
-    Evento(s, [&] { TomaCeldas(f, s, efecto); });
+    Evento(s, [&] {
+        if (efecto.otrasFilas) {
+            const auto n = static_cast<std::int16_t>(f.MSFlexGridDisPerso.NroFilas());
+            s.TablasDeLluvia.NroFilasTabla[Ranura(f)] = n;
+            f.txtNroPer = NumeroATexto(n);
+            Ensancha(s, n);
+        }
+        TomaCeldas(f, s, efecto);
+    });
 }
 
 void cmdBorraTablaDisPer(dlgDisPpPer& f, Siro& s)
@@ -270,7 +280,7 @@ void cmdBorraTablaDisPer(dlgDisPpPer& f, Siro& s)
         s.TablasDeLluvia.NotasDisPer[k].clear();
         s.TablasDeLluvia.DurMinPer[k] = DurMinVacia;
         s.TablasDeLluvia.DurMaxPer[k] = DurMaxVacia;
-        MuestraTabla(f, s);
+        forms::ComoUnPaso(f.MSFlexGridDisPerso, [&] { MuestraTabla(f, s); });
         f.cmbDurMin.indice = 0;
         f.cmbDurMax.indice = static_cast<int>(model::DuracionesMaximas.size()) - 1;
         if (model::GuardaTablaDisPer(s)) RecuerdaTablas(f, s);

@@ -98,12 +98,10 @@ std::optional<Instante> Comienzo(const dlgPpReal& f)
     return dia && minuto ? std::optional(*dia + *minuto) : std::nullopt;
 }
 
-void Redibuja(dlgPpReal& f, Siro& s)
+/// Fills the rows that there are.
+void Llena(dlgPpReal& f, Siro& s)
 {
     forms::Grilla& g = f.MSFlexGridTablaPpReal;
-    forms::PonEditable(g, ColumnaParcial, !f.Protegida);
-    forms::PonNroFilas(g, s.Tormenta.NroPpReal);
-    Ensancha(s, s.Tormenta.NroPpReal);
     const auto comienzo = Comienzo(f);
     for (int j = 1; j <= s.Tormenta.NroPpReal; ++j) {
         const std::int32_t minutos = j * std::int32_t{f.tormenta.PasoPpReal};
@@ -116,6 +114,20 @@ void Redibuja(dlgPpReal& f, Siro& s)
     }
     g.agrega = g.editada = false;
     Suma(f, s);
+}
+
+void Redibuja(dlgPpReal& f, Siro& s)
+{
+    forms::PonEditable(f.MSFlexGridTablaPpReal, ColumnaParcial, !f.Protegida);
+    forms::PonNroFilas(f.MSFlexGridTablaPpReal, s.Tormenta.NroPpReal);
+    Ensancha(s, s.Tormenta.NroPpReal);
+    Llena(f, s);
+}
+
+/// The same of the storm in hand, whose steps stay.
+void RedibujaComoPaso(dlgPpReal& f, Siro& s)
+{
+    forms::ComoUnPaso(f.MSFlexGridTablaPpReal, [&] { Redibuja(f, s); });
 }
 
 void TomaCeldas(dlgPpReal& f, Siro& s, const forms::Efecto& efecto)
@@ -342,7 +354,7 @@ bool AlSalirTiempo(dlgPpReal& f, Siro& s, const CampoTiempo& campo)
     Evento(s, [&] {
         Asienta(f, s);
         pasa = !campo.esFinal || CalculaNro(f, s);
-        if (pasa) Redibuja(f, s);
+        if (pasa) RedibujaComoPaso(f, s);
     });
     return pasa;
 }
@@ -357,7 +369,7 @@ bool AlSalir(dlgPpReal& f, Siro& s, std::string_view control)
     Evento(s, [&] {
         Asienta(f, s);
         PonNro(f, s, model::Entero16(Val(f.txtNroPpReal)));
-        Redibuja(f, s);
+        RedibujaComoPaso(f, s);
         CalculaFinal(f, s);
     });
     return true;
@@ -372,7 +384,7 @@ void cmbPasot_Click(dlgPpReal& f, Siro& s)
             CalculaNro(f, s);
         else
             CalculaFinal(f, s);
-        Redibuja(f, s);
+        RedibujaComoPaso(f, s);
     });
 }
 
@@ -385,7 +397,13 @@ void optNroPpReal_Click(dlgPpReal& f, int i)
 
 void AlAsentar(dlgPpReal& f, Siro& s, const forms::Efecto& efecto)
 {
-    Evento(s, [&] { TomaCeldas(f, s, efecto); });
+    Evento(s, [&] {
+        if (efecto.otrasFilas) PonNro(f, s, static_cast<std::int16_t>(f.MSFlexGridTablaPpReal.NroFilas()));
+        TomaCeldas(f, s, efecto);
+        if (!efecto.otrasFilas) return;
+        Llena(f, s);
+        CalculaFinal(f, s);
+    });
 }
 
 PedidoHietograma cmdVerGrafico(dlgPpReal& f, Siro& s)

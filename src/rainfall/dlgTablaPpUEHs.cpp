@@ -147,7 +147,8 @@ bool AlSalir(dlgTablaPpUEHs& f, const Siro& s, std::string_view control)
 
 void cmdBorraTablaHQ(dlgTablaPpUEHs& f, const Siro& s)
 {
-    forms::PonNroFilas(f.MSFlexGridPpUEHs, s.Red.ColUEHs.Cuenta());
+    const int n = s.Red.ColUEHs.Cuenta();
+    if (f.MSFlexGridPpUEHs.NroFilas() != n) forms::PonNroFilas(f.MSFlexGridPpUEHs, n);
     forms::VaciaDatos(f.MSFlexGridPpUEHs);
 }
 

@@ -251,11 +251,20 @@ bool txtNroPDRs_AlSalir(dlgTablasPDRs& f, Siro& s)
     if (!forms::AlSalir(s, ReglaNroPDRs, f.txtNroPDRs)) return false;
     Evento(s, [&] {
         const std::int16_t n = Entero16(model::Val(f.txtNroPDRs));
-        PonFilas(f, n);
+        forms::ComoUnPaso(f.MSFlexGridTablaPDRs, [&] { PonFilas(f, n); });
         s.TablasDeLluvia.NroFilasTabla[Ranura(f)] = n;
         Ensancha(s, n);
     });
     return true;
+}
+
+void AlAsentar(dlgTablasPDRs& f, Siro& s, const forms::Efecto& efecto)
+{
+    if (!efecto.otrasFilas) return;
+    const auto n = static_cast<std::int16_t>(f.MSFlexGridTablaPDRs.NroFilas());
+    s.TablasDeLluvia.NroFilasTabla[Ranura(f)] = n;
+    f.txtNroPDRs = NumeroATexto(n);
+    Ensancha(s, n);
 }
 
 void cmdBorraTablaDisPer(dlgTablasPDRs& f, Siro& s)
@@ -264,7 +273,7 @@ void cmdBorraTablaDisPer(dlgTablasPDRs& f, Siro& s)
     Evento(s, [&] {
         s.TablasDeLluvia.NroFilasTabla[Ranura(f)] = 0;
         s.TablasDeLluvia.NotasPDR[Ranura(f)].clear();
-        MuestraTabla(f, s);
+        forms::ComoUnPaso(f.MSFlexGridTablaPDRs, [&] { MuestraTabla(f, s); });
         model::GuardaTablaPDRs(s);
     });
 }

@@ -93,6 +93,9 @@ void txtNotas_Change(const dlgTablasPDRs& f, model::Siro& s);
 /// looked at.
 bool txtNroPDRs_AlSalir(dlgTablasPDRs& f, model::Siro& s);
 
+/// The grid has changed: where a step has put other rows in place, their number follows.
+void AlAsentar(dlgTablasPDRs& f, model::Siro& s, const forms::Efecto& efecto);
+
 /// Empties the table in hand and writes all four at once; table 0 stays.
 void cmdBorraTablaDisPer(dlgTablasPDRs& f, model::Siro& s);
 

@@ -12,8 +12,10 @@ dlgTablasPDRs_ventana::dlgTablasPDRs_ventana(forms::Entorno& alrededor, dlgTabla
     Sigue(f.abierta, &f.foco);
     setLayout(
         EnPila({Datos(),
-                {MarcoDeTabla(f.MSFlexGridTablaPDRs, "MSFlexGridTablaPDRs", "laminaTablasPDRs",
-                              [this] { return Vista(f, entorno.s); }),
+                {MarcoDeTabla(
+                     f.MSFlexGridTablaPDRs, "MSFlexGridTablaPDRs", "laminaTablasPDRs",
+                     [this] { return Vista(f, entorno.s); },
+                     [this](const forms::Efecto& efecto) { AlAsentar(f, entorno.s, efecto); }),
                  1},
                 Notas(),
                 Botones(

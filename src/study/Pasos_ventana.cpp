@@ -50,13 +50,14 @@ void Pasos_ventana::Arma(const forms::Partes& enMano)
 
 void Pasos_ventana::PonAtajos()
 {
-    const auto atajo = [this](Qt::Key tecla, void (*rutina)(Pasos&)) {
-        auto* const orden = new QShortcut(QKeySequence(Qt::CTRL | tecla), this);
+    const auto atajo = [this](QKeyCombination teclas, void (*rutina)(Pasos&)) {
+        auto* const orden = new QShortcut(QKeySequence(teclas), this);
         orden->setContext(Qt::WidgetWithChildrenShortcut);
         connect(orden, &QShortcut::activated, this, [this, rutina] { SucesoDePagina([&] { rutina(f); }); });
     };
-    atajo(Qt::Key_Z, &cmdDeshacer);
-    atajo(Qt::Key_Y, &cmdRehacer);
+    atajo(Qt::CTRL | Qt::Key_Z, &cmdDeshacer);
+    atajo(Qt::CTRL | Qt::Key_Y, &cmdRehacer);
+    atajo(Qt::CTRL | Qt::SHIFT | Qt::Key_Z, &cmdRehacer);
 }
 
 QLayout* Pasos_ventana::Encabezado()

@@ -742,6 +742,61 @@ std::string UnoDe(const std::vector<std::string>& textos)
     return textos[*rc::gen::inRange<std::size_t>(0, textos.size())];
 }
 
+// --- rows as a step ---
+
+TEST(FilasComoPaso, VuelvenConLoQueTeniaCadaCeldaYLosPasosDeAntesQuedan)
+{
+    const model::Siro s;
+    Grilla g = NuevaGrilla(DeTabla);
+    PonNroFilas(g, 3);
+    const auto vacia = g.filas;
+    Mueve(g, {3, 1});
+    Escribe(g, s, "9");
+    const auto escrita = g.filas;
+    ComoUnPaso(g, [&] { PonNroFilas(g, 1); });
+    EXPECT_EQ(g.NroFilas(), 1);
+    EXPECT_EQ(g.actual.fila, 1);
+    const Efecto efecto = Deshace(g);
+    EXPECT_TRUE(efecto.otrasFilas);
+    EXPECT_EQ(efecto.asentadas.size(), 6U) << "two columns of three rows";
+    EXPECT_EQ(g.filas, escrita);
+    EXPECT_FALSE(Deshace(g).otrasFilas);
+    EXPECT_EQ(g.filas, vacia);
+    Rehace(g);
+    Rehace(g);
+    EXPECT_EQ(g.NroFilas(), 1);
+    Deshace(g);
+    EXPECT_EQ(g.filas, escrita);
+}
+
+TEST(FilasComoPaso, LasCifrasDeUnNumeroSonUnoYLoQueNoCambiaNadaEsNinguno)
+{
+    const model::Siro s;
+    Grilla g = NuevaGrilla(DeTabla);
+    PonNroFilas(g, 3);
+    ComoUnPaso(g, [&] { PonNroFilas(g, 3); });
+    ComoUnPaso(g, [&] { g.Pon({1, 0}, "índice"); });  // nobody's edit
+    EXPECT_TRUE(g.hechos.empty());
+    ComoUnPaso(
+        g, [&] { PonNroFilas(g, 1); }, true);
+    ComoUnPaso(
+        g, [&] { PonNroFilas(g, 12); }, true);
+    EXPECT_EQ(g.hechos.size(), 1U);
+    ComoUnPaso(g, [&] { PonNroFilas(g, 4); });
+    EXPECT_EQ(g.hechos.size(), 2U);
+    Deshace(g);
+    EXPECT_EQ(g.NroFilas(), 12);
+    Deshace(g);
+    EXPECT_EQ(g.NroFilas(), 3);
+    // Another grid in its place: a table that was emptied by its window.
+    Escribe(g, s, "5");
+    ComoUnPaso(g, [&] { g = NuevaGrilla(DeTabla); });
+    EXPECT_EQ(g.NroFilas(), 0);
+    Deshace(g);
+    EXPECT_EQ(g.NroFilas(), 3);
+    EXPECT_EQ(g.Texto({1, 1}), "5");
+}
+
 void HaceAlgo(Grilla& g, const model::Siro& s, bool otrasFilas = true)
 {
     switch (*rc::gen::inRange(0, 8)) {
@@ -755,7 +810,11 @@ void HaceAlgo(Grilla& g, const model::Siro& s, bool otrasFilas = true)
         Pega(g, s, UnoDe({"1", "x", "1\t2", "1,5\n-2\n", "\t\n3", "1\t2\t3\n4\t5\t6\n"}));
         break;
     case 3:
-        if (otrasFilas) PonNroFilas(g, *rc::gen::inRange(0, 5));
+        if (otrasFilas)
+            PonNroFilas(g, *rc::gen::inRange(0, 5));
+        else
+            ComoUnPaso(
+                g, [&] { PonNroFilas(g, *rc::gen::inRange(0, 5)); }, *rc::gen::arbitrary<bool>());
         break;
     case 4:
         *rc::gen::arbitrary<bool>() ? Deshace(g) : Rehace(g);

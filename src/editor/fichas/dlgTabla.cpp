@@ -211,8 +211,16 @@ void txtNroFilas_Change(dlgTabla& f, const Siro& s, std::string texto)
         return;
     }
     f.foco = {};
-    PonFilas(f, model::Entero16(model::Val(texto)));
+    forms::ComoUnPaso(
+        f.grilla, [&] { PonFilas(f, model::Entero16(model::Val(texto))); }, true);
     f.txtNroFilas = std::move(texto);
+}
+
+void AlVolverFilas(dlgTabla& f)
+{
+    f.NroFilas = static_cast<std::int16_t>(f.grilla.NroFilas());
+    f.txtNroFilas = NumeroATexto(std::int32_t{f.NroFilas});
+    f.cortadas.clear();  // they are in the grid again, or in the step that brings them back
 }
 
 void cmdBorraTablaHQ(dlgTabla& f)
@@ -365,9 +373,11 @@ void OrdenaPorAltura(dlgTabla& f)
     filas.erase(std::unique(filas.begin(), filas.end(),
                             [](const auto& a, const auto& b) { return a.first == b.first; }),
                 filas.end());
-    for (std::size_t k = 0; k < filas.size(); ++k)
-        f.grilla.filas[k] = filas[k].second;
-    PonFilas(f, static_cast<std::int16_t>(filas.size()));
+    forms::ComoUnPaso(f.grilla, [&] {
+        for (std::size_t k = 0; k < filas.size(); ++k)
+            f.grilla.filas[k] = filas[k].second;
+        PonFilas(f, static_cast<std::int16_t>(filas.size()));
+    });
     f.cortadas.clear();
     f.txtNroFilas = NumeroATexto(std::int32_t{f.NroFilas});
 }

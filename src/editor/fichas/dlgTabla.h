@@ -93,6 +93,9 @@ void Abre(dlgTabla& f, model::Siro& s, TipoTabla tipo, std::string lblNro, std::
 /// text before it comes back; otherwise the grid takes the rows, those that were cut before the new ones.
 void txtNroFilas_Change(dlgTabla& f, const model::Siro& s, std::string texto);
 
+/// A step of the grid has put other rows in place: their number follows.
+void AlVolverFilas(dlgTabla& f);
+
 /// Empties every data cell; the rows stay, those that were cut are forgotten.
 void cmdBorraTablaHQ(dlgTabla& f);
 

@@ -24,7 +24,11 @@ dlgTabla_ventana::dlgTabla_ventana(forms::Entorno& alrededor, dlgTabla& registro
     QLayout* const encabezado = Encabezado();
     tabla = Tabla(f.grilla, d.nombreGrilla);
     tabla->setAccessibleName(forms::Q(d.titulo));
-    tabla->AlCambiar = [this](const forms::Efecto&) { PonCurvas(); };
+    tabla->AlCambiar = [this](const forms::Efecto& efecto) {
+        if (!efecto.otrasFilas) return PonCurvas();
+        AlVolverFilas(f);
+        Muestra();
+    };
     AlMostrar([this] { PonCurvas(); });
     forms::Partes laminas;
     for (const CurvaTabla& curva : Curvas(f)) {

@@ -98,6 +98,9 @@ TEST_F(VentanaTaller, SeEscribeConElTecladoYCtrlZVuelveAtrasFilaPorFila)
     EXPECT_EQ(Maximos(), 11U);
     QTest::keyClick(&Grilla(), Qt::Key_Y, Qt::ControlModifier);
     EXPECT_EQ(Maximos(), 12U);
+    QTest::keyClick(&Grilla(), Qt::Key_Z, Qt::ControlModifier);
+    QTest::keyClick(&Grilla(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(Maximos(), 12U);
     Pulsa(Control<QPushButton>(ventana, "cmdDeshacer"));
     EXPECT_EQ(Maximos(), 11U);
     EXPECT_TRUE(Control<QPushButton>(ventana, "cmdRehacer").isEnabled());
