@@ -29,6 +29,12 @@ std::pair<std::size_t, std::size_t> Meollo(std::string_view palabra)
     return {desde, hasta - desde};
 }
 
+bool EsDeUnidad(std::string_view palabra)
+{
+    if (palabra.starts_with('[') || palabra.starts_with('(')) palabra.remove_prefix(1);
+    return palabra.starts_with("m3") || palabra.starts_with("km2");
+}
+
 /// Digits, a point, digits.
 bool EsDecimal(std::string_view t)
 {
@@ -63,7 +69,9 @@ std::string Cifras::Escrita(float x) const
 
 std::string Cifras::Corta(double x) const
 {
+    constexpr double Larga = 1e4, MuyLarga = 1e9;
     if (!std::isfinite(x)) return "-";
+    if (std::fabs(x) >= Larga && std::fabs(x) < MuyLarga) return Con(x, 0);
     std::array<char, 32> t{};
     const auto fin = std::to_chars(t.data(), t.data() + t.size(), x, std::chars_format::general, 4);
     return De({t.data(), fin.ptr});
@@ -80,8 +88,7 @@ std::string Cifras::EnTexto(std::string_view frase) const
             t.append(palabra.substr(0, desde)).append(De(palabra.substr(desde, largo)));
             t.append(palabra.substr(desde + largo));
         } else {
-            t += palabra.starts_with("m3") || palabra.starts_with("km2") ? Unidad(palabra)
-                                                                         : std::string(palabra);
+            t += EsDeUnidad(palabra) ? Unidad(palabra) : std::string(palabra);
         }
         if (blanco == std::string_view::npos) break;
         t += ' ';

@@ -15,7 +15,7 @@ struct Cifras {
     [[nodiscard]] std::string Con(double x, int decimales, bool conCero = true) const;
     /// A value as it was typed: 32 bits with all their digits.
     [[nodiscard]] std::string Escrita(float x) const;
-    /// A value with four digits that mean something.
+    /// A value with four digits that mean something, or all of its whole ones.
     [[nodiscard]] std::string Corta(double x) const;
     /// A number that the program has written with a point.
     [[nodiscard]] std::string De(std::string_view numero) const;

@@ -34,7 +34,7 @@ std::vector<FiguraPuesta> Red(const Fuente& f)
 std::vector<FiguraPuesta> Hietograma(const Fuente& f)
 {
     if (f.una == nullptr) return {};
-    return {De(Clase::Hietograma, "Hietograma: " + f.n.EnTexto(f.una->sello.tormenta))};
+    return {De(Clase::Hietograma, "Hietograma de la tormenta")};
 }
 
 std::vector<FiguraPuesta> Hidrogramas(const Fuente& f)

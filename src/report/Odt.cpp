@@ -53,7 +53,7 @@ std::string EnParrafo(std::string_view estilo, const std::string& dentro)
 /// How wide the columns of a table want to be [mm]: by their longest words and texts, within the page.
 std::vector<double> AnchosDe(const Tabla& t, double pagina)
 {
-    constexpr double PorLetra = 1.75, Relleno = 3, MayorDeseo = 60;
+    constexpr double PorLetra = 1.75, Relleno = 4, MayorDeseo = 60, MayorTitulo = 28;
     std::vector<double> menor, deseo;
     const auto letras = [](std::string_view texto) {
         return static_cast<double>(model::CuentaCaracteres(texto)) * PorLetra + Relleno;
@@ -69,7 +69,8 @@ std::vector<double> AnchosDe(const Tabla& t, double pagina)
     };
     for (std::size_t k = 0; k < t.columnas.size(); ++k) {
         const ColumnaDeTabla& c = t.columnas[k];
-        double m = std::max(palabra(EnLlano(c.titulo)), letras("[" + c.unidad + "]")), d = m;
+        double m = std::max(palabra(EnLlano(c.titulo)), letras("[" + c.unidad + "]"));
+        double d = std::max(m, std::min(letras(EnLlano(c.titulo)), MayorTitulo));
         for (const auto& fila : t.filas)
             if (k < fila.size()) {
                 m = std::max(m, c.izquierda ? std::min(palabra(fila[k]), MayorDeseo / 2) : letras(fila[k]));
@@ -214,8 +215,9 @@ class Paquete {
             if (const auto* const t = std::get_if<Titulo>(&bloque))
                 cuerpo += EnParrafo(
                     "Contents_20_" + std::to_string(t->nivel),
-                    "<text:a xlink:type=\"simple\" xlink:href=\"#" + t->ancla + "\">" +
-                        Escrito(t->numero + " " + t->texto) +
+                    "<text:a xlink:type=\"simple\" text:style-name=\"Index_20_Link\" "
+                    "text:visited-style-name=\"Index_20_Link\" xlink:href=\"#" +
+                        t->ancla + "\">" + Escrito(t->numero + " " + t->texto) +
                         "<text:tab/><text:bookmark-ref text:reference-format=\"page\" text:ref-name=\"" +
                         t->ancla + "\">1</text:bookmark-ref></text:a>");
         cuerpo += "</text:index-body></text:table-of-content>\n";
@@ -260,6 +262,7 @@ class Paquete {
     /// Styles of a table's own: its width, those of its columns.
     void EstilosDe(const Tabla& x, const std::string& nombre)
     {
+        constexpr std::size_t Juntas = 18;  // rows that are worth a page of their own
         double total = 0;
         const std::vector<double> anchos = AnchosDe(x, ancho);
         for (std::size_t k = 0; k < anchos.size(); ++k) {
@@ -271,7 +274,9 @@ class Paquete {
         }
         estilos += "<style:style style:name=\"" + nombre +
                    "\" style:family=\"table\"><style:table-properties style:width=\"" + Mm(total) +
-                   "\" table:align=\"center\" table:border-model=\"collapsing\"/></style:style>\n";
+                   "\" table:align=\"center\" table:border-model=\"collapsing\"" +
+                   (x.filas.size() <= Juntas ? " style:may-break-between-rows=\"false\"" : "") +
+                   "/></style:style>\n";
     }
 
     void Pon(const Tabla& x)

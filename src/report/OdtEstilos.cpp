@@ -27,7 +27,7 @@ constexpr std::string_view Parrafos = R"(<office:styles>
 <style:style style:name="Standard" style:family="paragraph" style:class="text"/>
 <style:style style:name="Text_20_body" style:display-name="Text body" style:family="paragraph" style:parent-style-name="Standard" style:class="text"><style:paragraph-properties fo:margin-top="0mm" fo:margin-bottom="2.5mm" fo:line-height="120%" fo:text-align="justify"/></style:style>
 <style:style style:name="Heading" style:family="paragraph" style:parent-style-name="Standard" style:next-style-name="Text_20_body" style:class="text"><style:paragraph-properties fo:margin-top="6mm" fo:margin-bottom="2.5mm" fo:keep-with-next="always"/><style:text-properties style:font-name="Liberation Sans" fo:font-weight="bold" fo:color="#1d3445"/></style:style>
-<style:style style:name="Heading_20_1" style:display-name="Heading 1" style:family="paragraph" style:parent-style-name="Heading" style:next-style-name="Text_20_body" style:default-outline-level="1" style:class="text"><style:paragraph-properties fo:margin-top="8mm"/><style:text-properties fo:font-size="16pt"/></style:style>
+<style:style style:name="Heading_20_1" style:display-name="Heading 1" style:family="paragraph" style:parent-style-name="Heading" style:next-style-name="Text_20_body" style:default-outline-level="1" style:class="text"><style:paragraph-properties fo:margin-top="8mm" fo:margin-bottom="2.5mm"/><style:text-properties fo:font-size="16pt"/></style:style>
 <style:style style:name="Heading_20_2" style:display-name="Heading 2" style:family="paragraph" style:parent-style-name="Heading" style:next-style-name="Text_20_body" style:default-outline-level="2" style:class="text"><style:text-properties fo:font-size="13pt"/></style:style>
 <style:style style:name="Heading_20_3" style:display-name="Heading 3" style:family="paragraph" style:parent-style-name="Heading" style:next-style-name="Text_20_body" style:default-outline-level="3" style:class="text"><style:text-properties fo:font-size="11pt"/></style:style>
 <style:style style:name="Title" style:family="paragraph" style:parent-style-name="Heading" style:next-style-name="Subtitle" style:class="chapter"><style:paragraph-properties fo:text-align="center" fo:margin-top="12mm" fo:margin-bottom="5mm"/><style:text-properties fo:font-size="26pt"/></style:style>
@@ -47,6 +47,7 @@ constexpr std::string_view Parrafos = R"(<office:styles>
 <style:style style:name="Celda_20_derecha" style:display-name="Celda derecha" style:family="paragraph" style:parent-style-name="Table_20_Contents"><style:paragraph-properties fo:text-align="end"/></style:style>
 <style:style style:name="Table_20_Heading" style:display-name="Table Heading" style:family="paragraph" style:parent-style-name="Table_20_Contents" style:class="extra"><style:text-properties style:font-name="Liberation Sans" fo:font-size="8pt" fo:font-weight="bold" fo:color="#1d3445"/></style:style>
 <style:style style:name="Cabeza_20_derecha" style:display-name="Cabeza derecha" style:family="paragraph" style:parent-style-name="Table_20_Heading"><style:paragraph-properties fo:text-align="end"/></style:style>
+<style:style style:name="Index_20_Link" style:display-name="Index Link" style:family="text"><style:text-properties fo:color="#111111" style:text-underline-style="none"/></style:style>
 <style:style style:name="Index" style:family="paragraph" style:parent-style-name="Standard" style:class="index"/>
 <style:style style:name="Contents_20_Heading" style:display-name="Contents Heading" style:family="paragraph" style:parent-style-name="Heading" style:class="index"><style:text-properties fo:font-size="16pt"/></style:style>
 )";
@@ -65,7 +66,7 @@ std::string RenglonesDeIndice(const std::string& ancho)
              "\" style:family=\"paragraph\" style:parent-style-name=\"Index\" style:class=\"index\">"
              "<style:paragraph-properties fo:margin-left=\"" +
              Mm(6.0 * (nivel - 1)) + "\" fo:margin-top=\"" + (nivel == 1 ? "1.5mm" : "0mm") +
-             "\"><style:tab-stops><style:tab-stop style:position=\"" + ancho +
+             "\" fo:margin-bottom=\"0.5mm\"><style:tab-stops><style:tab-stop style:position=\"" + ancho +
              "\" style:type=\"right\" style:leader-style=\"dotted\" "
              "style:leader-text=\".\"/></style:tab-stops>"
              "</style:paragraph-properties></style:style>\n";
@@ -164,8 +165,8 @@ std::string EstilosDeContenido()
            R"(<style:style style:name="Cara" style:family="paragraph" style:parent-style-name="Portada" style:master-page-name="First_20_Page"><style:paragraph-properties fo:margin-top="55mm" style:page-number="auto"/></style:style>
 <style:style style:name="Marco" style:family="graphic" style:parent-style-name="Graphics"><style:graphic-properties style:vertical-pos="top" style:vertical-rel="baseline" fo:padding="0mm" fo:border="none"/></style:style>
 <style:style style:name="Fila" style:family="table-row"><style:table-row-properties fo:keep-together="always"/></style:style>
-<style:style style:name="Celda" style:family="table-cell"><style:table-cell-properties fo:padding-left="1mm" fo:padding-right="1mm" fo:padding-top="0.5mm" fo:padding-bottom="0.5mm" fo:border-bottom="0.2mm solid #c5cfd6" fo:border-top="none" fo:border-left="none" fo:border-right="none"/></style:style>
-<style:style style:name="Cabeza" style:family="table-cell"><style:table-cell-properties style:vertical-align="bottom" fo:padding="1mm" fo:border-top="0.5mm solid #3f5d73" fo:border-bottom="0.5mm solid #3f5d73" fo:border-left="none" fo:border-right="none"/></style:style>
+<style:style style:name="Celda" style:family="table-cell"><style:table-cell-properties fo:padding-left="1.5mm" fo:padding-right="1.5mm" fo:padding-top="0.5mm" fo:padding-bottom="0.5mm" fo:border-bottom="0.2mm solid #c5cfd6" fo:border-top="none" fo:border-left="none" fo:border-right="none"/></style:style>
+<style:style style:name="Cabeza" style:family="table-cell"><style:table-cell-properties style:vertical-align="bottom" fo:padding-left="1.5mm" fo:padding-right="1.5mm" fo:padding-top="1mm" fo:padding-bottom="1mm" fo:border-top="0.5mm solid #3f5d73" fo:border-bottom="0.5mm solid #3f5d73" fo:border-left="none" fo:border-right="none"/></style:style>
 <text:list-style style:name="Vinetas"><text:list-level-style-bullet text:level="1" text:bullet-char="•"><style:list-level-properties text:list-level-position-and-space-mode="label-alignment"><style:list-level-label-alignment text:label-followed-by="listtab" text:list-tab-stop-position="6mm" fo:text-indent="-5mm" fo:margin-left="6mm"/></style:list-level-properties></text:list-level-style-bullet></text:list-style>
 <text:list-style style:name="Numeros"><text:list-level-style-number text:level="1" style:num-format="1" style:num-suffix="."><style:list-level-properties text:list-level-position-and-space-mode="label-alignment"><style:list-level-label-alignment text:label-followed-by="listtab" text:list-tab-stop-position="7mm" fo:text-indent="-6mm" fo:margin-left="7mm"/></style:list-level-properties></text:list-level-style-number></text:list-style>
 )";

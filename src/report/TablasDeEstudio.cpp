@@ -47,6 +47,25 @@ std::vector<double> Duraciones(const Fuente& f)
 
 // --- maxima and laws ---
 
+/// A long table of few columns as several side by side.
+void Pliega(Tabla& t)
+{
+    constexpr std::size_t Largas = 15, Veces = 4;
+    if (t.columnas.size() > 2 || t.filas.size() < Largas) return;
+    const std::vector<ColumnaDeTabla> columnas = t.columnas;
+    const std::size_t alto = (t.filas.size() + Veces - 1) / Veces;
+    for (std::size_t vez = 1; vez < Veces; ++vez) {
+        t.columnas.insert(t.columnas.end(), columnas.begin(), columnas.end());
+        for (std::size_t k = 0; k < alto; ++k) {
+            const std::size_t de = vez * alto + k;
+            const std::vector<std::string> nada(columnas.size());
+            const std::vector<std::string> suyas = de < t.filas.size() ? t.filas[de] : nada;
+            t.filas[k].insert(t.filas[k].end(), suyas.begin(), suyas.end());
+        }
+    }
+    t.filas.resize(alto);
+}
+
 std::vector<Tabla> Maximos(const Fuente& f)
 {
     if (f.estudio.estacion == nullptr) return {};
@@ -68,6 +87,7 @@ std::vector<Tabla> Maximos(const Fuente& f)
         fila.push_back(std::to_string(anio));
         fila.insert(fila.end(), valores.begin(), valores.end());
     }
+    Pliega(t);
     return Sola(std::move(t));
 }
 

@@ -43,7 +43,9 @@ std::string Cuantos(int n, std::string_view uno, std::string_view varios)
 std::string DelResumen(const Fuente& f, std::string_view titulo, std::string_view unidad)
 {
     const std::string celda = f.una == nullptr ? "-" : f.CeldaDelResumen(nullptr, titulo, unidad);
-    return celda == "-" ? "" : celda + " " + Unidad(unidad);
+    if (celda == "-") return "";
+    // No line ends behind a true minus.
+    return (celda.starts_with('-') ? "−" + celda.substr(1) : celda) + " " + Unidad(unidad);
 }
 
 std::string Salidas(const Fuente& f)
@@ -72,13 +74,27 @@ int CuantosAvisos(const Fuente& f, checks::Gravedad gravedad)
                                           [&](const checks::Hallazgo& h) { return h.gravedad == gravedad; }));
 }
 
-/// "1 error, 2 avisos y 3 notas".
+/// "1 error, 2 avisos y 3 notas", without those that there aren't.
 std::string Avisos(const Fuente& f)
 {
     if (f.d.tormenta == nullptr) return "";
-    return Cuantos(CuantosAvisos(f, checks::Gravedad::Error), "error", "errores") + ", " +
-           Cuantos(CuantosAvisos(f, checks::Gravedad::Aviso), "aviso", "avisos") + " y " +
-           Cuantos(CuantosAvisos(f, checks::Gravedad::Nota), "nota", "notas");
+    std::vector<std::string> partes;
+    const auto agrega = [&](checks::Gravedad gravedad, std::string_view uno, std::string_view varios) {
+        if (const int n = CuantosAvisos(f, gravedad); n > 0) partes.push_back(Cuantos(n, uno, varios));
+    };
+    agrega(checks::Gravedad::Error, "error", "errores");
+    agrega(checks::Gravedad::Aviso, "aviso", "avisos");
+    agrega(checks::Gravedad::Nota, "nota", "notas");
+    return partes.empty() ? "ningún aviso" : Enumera(partes);
+}
+
+/// The storm in words, behind "Tormenta: " where it is a typed one.
+std::string EnPalabras(const Fuente& f)
+{
+    if (f.d.tormenta == nullptr) return "";
+    constexpr std::string_view Sobra = "Tormenta: ";
+    std::string t = f.n.EnTexto(f.d.tormenta->sello.tormenta);
+    return t.starts_with(Sobra) ? t.substr(Sobra.size()) : t;
 }
 
 int Bien(const Fuente& f)
@@ -180,8 +196,7 @@ constexpr auto Valores = std::to_array<FilaDeValor>({
     {"represas", "cuántas represas hay", [](const Fuente& f) { return Cuantos(f.red.ColRepresas.Cuenta(), "represa", "represas"); }},
     {"lagos", "cuántos lagos hay", [](const Fuente& f) { return Cuantos(f.red.ColLagos.Cuenta(), "lago", "lagos"); }},
     {"salidas", "los componentes por los que sale el agua", Salidas},
-    {"tormenta", "la tormenta y los pasos, en palabras", [](const Fuente& f) {
-         return f.d.tormenta == nullptr ? "" : f.n.EnTexto(f.d.tormenta->sello.tormenta); }},
+    {"tormenta", "la tormenta y los pasos, en palabras", EnPalabras},
     {"lamina", "la lámina de la tormenta", [](const Fuente& f) {
          return Entrada(f) == nullptr ? "" : f.n.Escrita(Entrada(f)->PpTormenta) + " mm"; }},
     {"duracion", "la duración de la tormenta", [](const Fuente& f) {
@@ -281,6 +296,7 @@ constexpr auto Condiciones = std::to_array<FilaDeCondicion>({
          return Entrada(f) != nullptr && Entrada(f)->FormaPp != model::FormaLluvia::Real && Entrada(f)->DistriPp >= model::PrimeraPersonal; }},
     {"frecuencia", "el estudio tiene máximos anuales analizados", [](const Fuente& f) { return f.estudio.analisis.has_value(); }},
     {"idf", "el estudio tiene curvas de intensidad", [](const Fuente& f) { return f.estudio.curvas.has_value(); }},
+    {"avisos_idf", "hay algo que saber de esas curvas", [](const Fuente& f) { return f.estudio.curvas && !f.estudio.curvas->avisos.empty(); }},
     {"familia", "esas curvas tienen una forma ajustada o dada", [](const Fuente& f) { return FamiliaDe(f) != nullptr; }},
     {"diseno", "el estudio tiene una tormenta de diseño", [](const Fuente& f) { return f.estudio.diseno.has_value(); }},
     {"derivados", "desde el estudio se escribieron tablas de lluvia", [](const Fuente& f) { return !f.estudio.taller.derivados.empty(); }},

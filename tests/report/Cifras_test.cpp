@@ -21,6 +21,8 @@ TEST(CifrasDeMemoria, ComaPuntoYMiles)
     EXPECT_EQ(coma.Con(std::numeric_limits<double>::quiet_NaN(), 1), "-");
     EXPECT_EQ(coma.Escrita(0.1F), "0,1");
     EXPECT_EQ(coma.Corta(0.123456), "0,1235");
+    EXPECT_EQ(coma.Corta(103157), "103.157");
+    EXPECT_EQ(llana.Corta(12345.6), "12346");
     EXPECT_EQ(coma.De("-0.5"), "-0,5");
     EXPECT_EQ(coma.De(""), "");
 }
@@ -33,6 +35,7 @@ TEST(CifrasDeMemoria, EnUnaFraseSoloLosNumeros)
     EXPECT_EQ(n.EnTexto("versión 1.2.3, archivo A1.5_pt.vlm, v2.5"),
               "versión 1.2.3, archivo A1.5_pt.vlm, v2.5");
     EXPECT_EQ(n.EnTexto("S=3.5 km2"), "S=3.5 km²") << "what begins with a letter may be a name";
+    EXPECT_EQ(n.EnTexto("caudal [m3/s]"), "caudal [m³/s]");
     EXPECT_EQ(n.EnTexto("  dos  blancos "), "  dos  blancos ");
     EXPECT_EQ((Cifras{'.', ""}.EnTexto("P 60.5 mm")), "P 60.5 mm");
 }

@@ -118,7 +118,7 @@ const Ley SqrtEtmax{
     PorMomentos,
     PorMomentosL,
     MaximaVerosimilitud,
-    "F = exp(-k (1 + u) e^-u), u = raíz(alfa x)",
+    "F = exp(-k (1 + u) e^(-u)), u = raíz(alfa x)",
     "Etoh, Murota y Nakanishi 1987, Hydrologic Frequency Modeling, Reidel, 253-264; Zorraquino 2004, Revista "
     "de Obras Públicas 3447, 33-37",
     "Para lluvias diarias máximas; da una probabilidad e^-k a la lluvia 0",
