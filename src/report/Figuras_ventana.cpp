@@ -28,6 +28,7 @@ using forms::Q;
 constexpr int Ancho = 640;
 constexpr double AnchoEnPapel = 160;  // [mm]
 constexpr int LetraDeFigura = 12;     // [pixels], 8.5 points on paper
+constexpr int LetraDeMapa = 11;       // many names stand in it
 constexpr int AltoDeGrafico = 330;    // without the lines above it
 constexpr int MenorMapa = 340, MayorMapa = 640;
 constexpr double PuntosPorMilimetro = 300 / 25.4;
@@ -86,6 +87,7 @@ class Mapa {
     Mapa(const Datos& datos, char decimal, QStringList suEncabezado)
         : f(MapaDe(datos, decimal)), encabezado(std::move(suEncabezado)), letra(LetraDeLasFiguras())
     {
+        letra.setPixelSize(LetraDeMapa);
         const results::Caja& e = f.red.extension;
         const results::Caja marco = results::PintorDeMapa::MarcoDeRed({Ancho, MenorMapa}, letra);
         constexpr double Aire = 1.1;

@@ -18,6 +18,7 @@
 #include "model/Clases.h"
 #include "model/Configuracion.h"
 #include "model/Numeros.h"
+#include "report/Estudiado.h"
 
 namespace report {
 namespace {
@@ -31,7 +32,7 @@ using forms::TipoSerie;
 using Corrida = std::shared_ptr<const UltimaCorrida>;
 
 constexpr std::size_t MaxCurvas = 12;   // on one chart: more can't be told apart
-constexpr std::size_t PocasCurvas = 3;  // told apart by the seven colours of few lines
+constexpr std::size_t PocasCurvas = 7;  // told apart by the colours of few lines
 constexpr double MinutosDeHora = 60;
 constexpr int EnMinutos = 180;  // the longest time that is told in minutes
 
@@ -236,48 +237,26 @@ std::optional<Grafico> DeAbaco(const Datos& datos, const Figura& figura)
     return g;
 }
 
-/// The longest series of maxima of the station that the curves are of.
-const study::SerieDeMaximos* SerieDeMaximosDe(const study::Taller& taller)
-{
-    const study::SerieDeMaximos* mejor = nullptr;
-    for (const study::Estacion& e : taller.estaciones) {
-        if (!taller.idf.estacion.empty() && e.nombre != taller.idf.estacion) continue;
-        for (const study::SerieDeMaximos& s : e.series)
-            if (mejor == nullptr || s.maximos.size() > mejor->maximos.size()) mejor = &s;
-        break;
-    }
-    return mejor;
-}
-
 std::optional<Grafico> DeFrecuencia(const Datos& datos, const Figura& /*figura*/)
 {
-    const study::SerieDeMaximos* const s = SerieDeMaximosDe(datos.estudio.taller);
-    if (s == nullptr || s->maximos.size() < frequency::MinimoDeAnios) return {};
-    frequency::Serie serie;
-    for (const study::Maximo& m : s->maximos)
-        serie.maximos.push_back({m.anio, m.valor});
-    frequency::PedidoDeAnalisis p;
-    p.remuestreo.cuantas = 0;
-    p.posicion = datos.estudio.taller.posicion;
-    p.tratamiento = frequency::TratamientoDe(s->bajos, s->asimetria, s->ecmAsimetria);
-    for (const frequency::Metodo m :
-         {frequency::Metodo::Momentos, frequency::Metodo::MomentosL, frequency::Metodo::Verosimilitud})
-        if (frequency::ClaveDe(m) == s->metodo) p.metodo = m;
-    const auto a = frequency::Analiza(serie, p);
-    const frequency::Ley* const ley = frequency::LeyDeClave(s->ley);
-    const frequency::Ley* const enMano = ley != nullptr ? ley : a->recomendacion.ley;
-    const auto ajuste = std::find_if(a->ajustes.begin(), a->ajustes.end(),
-                                     [&](const frequency::AjusteDeLey& f) { return f.ley == enMano; });
-    if (ajuste == a->ajustes.end()) return {};
-    return frequency::GraficoDePapel(*a, {frequency::Ejes::DeGumbel, &*ajuste, true, p.posicion});
+    const Estudiado e(datos.estudio, datos.grabada);
+    if (!e.analisis) return {};
+    const frequency::Ley* const elegida = frequency::LeyDeClave(e.maximos->ley);
+    const frequency::Ley* const ley = elegida != nullptr ? elegida : e.analisis->recomendacion.ley;
+    const auto& ajustes = e.analisis->ajustes;
+    const auto suyo = std::find_if(ajustes.begin(), ajustes.end(),
+                                   [&](const frequency::AjusteDeLey& f) { return f.ley == ley; });
+    if (suyo == ajustes.end()) return {};
+    return frequency::GraficoDePapel(*e.analisis,
+                                     {frequency::Ejes::DeGumbel, &*suyo, true, e.taller.posicion});
 }
 
 std::optional<Grafico> DeIdf(const Datos& datos, const Figura& /*figura*/)
 {
     constexpr std::array Dibujadas{2, 5, 10, 25, 50, 100};
-    const study::Taller& taller = datos.estudio.taller;
-    const frequency::idf::Curvas c = frequency::idf::Calcula(taller.idf, taller.estaciones);
-    if (!c.errores.empty()) return {};
+    const Estudiado e(datos.estudio, datos.grabada);
+    if (!e.curvas) return {};
+    const frequency::idf::Curvas& c = *e.curvas;
     std::vector<frequency::CurvaDeGrafico> curvas;
     for (const int T : Dibujadas) {
         frequency::CurvaDeGrafico curva{TipoSerie::Linea2D, Numero(T) + " años", {}};

@@ -324,10 +324,12 @@ void Maqueta::PintaLogo(QCPPainter& pintor) const
     if (!(m.ancho > 0 && m.alto > 0)) return;
     const QSizeF tamano = QSizeF(m.ancho, m.alto).scaled(MayorAncho, MayorAlto, Qt::KeepAspectRatio);
     const QRectF sitio(QPointF((Ancho() - tamano.width()) / 2, 0), tamano);
+    pintor.setRenderHint(QPainter::LosslessImageRendering);  // a drawing, unlike maps
     if (TipoDeImagen(d.logo) == "image/svg+xml")
         QSvgRenderer(bytes).render(&pintor, sitio);
     else
         pintor.drawImage(sitio, QImage::fromData(bytes));
+    pintor.setRenderHint(QPainter::LosslessImageRendering, false);
 }
 
 void Maqueta::PintaPortada(QCPPainter& pintor, const Portada& b) const

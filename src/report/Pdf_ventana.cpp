@@ -47,7 +47,6 @@ bool Pdf::Adelanta()
     hojas->setPageOrientation(maqueta.Apaisada(hechas) ? QPageLayout::Landscape : QPageLayout::Portrait);
     if (hechas == 0) {
         pintor->begin(hojas.get());
-        pintor->setRenderHint(QPainter::LosslessImageRendering);
     } else {
         hojas->newPage();
     }

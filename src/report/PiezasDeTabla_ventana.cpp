@@ -104,7 +104,7 @@ class EnPiezas {
                 natural = std::max(natural, todo);
                 menor = std::max(menor, tabla.columnas[c].izquierda ? MayorPalabra(celda, m) : todo);
             }
-            constexpr double Sobra = 1;  // rounding of a line that just fits
+            constexpr double Sobra = 1.5 * Punto;  // what a line is set wider than it is measured
             anchos.menor.push_back(std::min(menor, tope) + 2 * Orla + Sobra);
             anchos.natural.push_back(std::max(std::min(menor, tope), natural) + 2 * Orla + Sobra);
         }
@@ -225,8 +225,9 @@ class EnPiezas {
         for (std::size_t f = 0; f < tabla.filas.size(); ++f) {
             Pieza p = PiezaDe(
                 Compon(cuales, suyos, letra, [&](std::size_t c) { return Llano(tabla.filas[f][c]); }), false);
-            // Not one row alone at either end.
-            p.conLaSiguiente = tabla.filas.size() > 2 && (f == 0 || f + 2 == tabla.filas.size());
+            // A page has a few of its rows at least.
+            constexpr std::size_t Pocas = 5;
+            p.conLaSiguiente = f + 1 < tabla.filas.size() && (f + 1 < Pocas || f + 3 > tabla.filas.size());
             if (f > 0) p.cabeza = cabeza;
             piezas.push_back(std::move(p));
         }

@@ -345,6 +345,10 @@ void Escritorio::PonFranjas()
     pon(ventanasSerie->ventanaTablaComponente.Franja(), [this] { Abre(Ventana::dlgTablaSalePDR2); });
     pon(ventanasEstudio->VentanaResumen().Franja(), [this] { Abre(Ventana::Resumen); });
     pon(ventanasEstudio->VentanaComparar().Franja(), [this] { Abre(Ventana::Comparar); });
+    ventanasEstudio->Talleres().Corre = ventanasEstudio->VentanaComparar().Franja().Corre;
+    ventanasEstudio->Talleres().TormentaReal = [this] {
+        return s.Tormenta.FormaPp == model::FormaLluvia::Real ? lluvia.tormenta.nombre : std::string();
+    };
 }
 
 void Escritorio::PonAvance()
@@ -433,6 +437,7 @@ void Escritorio::Abre(Ventana ventana, bool espera)
     case Ventana::Verificar:
     case Ventana::Taller:
     case Ventana::Ajuste:
+    case Ventana::Memoria:
         return ventanasEstudio->Abre(ventana);
     }
 }

@@ -60,6 +60,7 @@ enum class Ventana : std::uint8_t {
     Verificar,
     Taller,
     Ajuste,
+    Memoria,
     frmConfigura,
     dlgEliminarProyecto,
     frmAcerca,

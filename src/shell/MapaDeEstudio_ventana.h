@@ -22,12 +22,14 @@ class MapaDeEstudio {
     /// Says when what is on show is of an earlier run.
     checks::Franja& Franja() { return ventana.Franja(); }
 
+    /// The project's image, and where it lies; none where it can't be read.
+    results::FondoDeMapa Fondo();
+
     /// Opens the hydrograph of a component of the results in memory.
     std::function<void(const std::string& componente)> AbreHidrograma = [](const std::string&) {};
 
   private:
     void Muestra(const checks::UltimaCorrida& u);
-    results::FondoDeMapa Fondo();
     void PideHidrograma(const std::string& componente);
 
     forms::Entorno& entorno;

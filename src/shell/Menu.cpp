@@ -128,6 +128,7 @@ constexpr auto FilasMenu = std::to_array<FilaMenu>({
     {"mnuRevisar",                      "Revisar &proyecto",                               "mnuEstudio", ConProyecto<Ventana::Revisar>, false, V::Ninguna, "F12", "Todo lo que detendría una corrida o la haría dudosa"},
     {"mnuTaller",                       "&Taller de lluvia",                               "mnuEstudio", SoloAbre<Ventana::Taller>, false, V::Ninguna, "", "De los máximos anuales a la tormenta que se corre"},
     {"mnuAjuste",                       "Taller de a&juste",                               "mnuEstudio", SoloAbre<Ventana::Ajuste>, false, V::Ninguna, "", "De las crecidas observadas a los parámetros, y cuánto se les puede creer"},
+    {"mnuMemoria",                      "Memoria de cá&lculo",                             "mnuEstudio", SoloAbre<Ventana::Memoria>, false, V::Ninguna, "", "Lo que se entrega: datos, métodos y resultados en PDF, ODT o HTML"},
     {"mnuVerificar",                    "&Verificar",                                      "mnuEstudio", SoloAbre<Ventana::Verificar>, false, V::Ninguna, "", "Las rutinas del modelo frente a casos publicados"},
     Separador("mnuBuscarBarra", "mnuEstudio"),
     {"mnuBuscar",                       "&Buscar un comando",                              "mnuEstudio", SoloAbre<Ventana::Busca>, false, V::Ninguna, "Ctrl+Shift+P", "Comandos, componentes, ventanas, ayuda y proyectos, por unas letras de su nombre"},

@@ -21,6 +21,13 @@ void Talleres::AbreAjuste()
     model::Advierte(entorno.s, "Esta versión no trae el taller de ajuste; lo trae la versión completa.");
 }
 
+void Talleres::AbreMemoria()
+{
+    model::Advierte(entorno.s, "Esta versión no trae la memoria de cálculo; la trae la versión completa.");
+}
+
+void Talleres::TomaCorridas() {}
+
 study::Abierto* Talleres::Estudio()
 {
     return nullptr;

@@ -6,6 +6,14 @@
 #include "calibration/taller/dlgAjuste_ventana.h"
 #include "frequency/taller/dlgTaller.h"
 #include "frequency/taller/dlgTaller_ventana.h"
+#include "frequency/tormenta/Diseno.h"
+#include "frequency/tormenta/Fuentes.h"
+#include "model/Disco.h"
+#include "model/Falla.h"
+#include "model/Siro.h"
+#include "model/VidaProyecto.h"
+#include "report/dlgMemoria.h"
+#include "report/dlgMemoria_ventana.h"
 #include "study/Abierto.h"
 
 namespace shell {
@@ -16,7 +24,8 @@ struct Talleres::Partes {
           lluvia(estudio),
           ventanaLluvia(entorno, lluvia),
           ajuste(estudio, entorno.s),
-          ventanaAjuste(entorno, ajuste)
+          ventanaAjuste(entorno, ajuste),
+          ventanaMemoria(entorno, memoria)
     {
     }
     study::Abierto estudio;
@@ -24,7 +33,23 @@ struct Talleres::Partes {
     frequency::dlgTaller_ventana ventanaLluvia;
     calibration::dlgAjuste ajuste;
     calibration::dlgAjuste_ventana ventanaAjuste;
+    report::dlgMemoria memoria{};
+    report::dlgMemoria_ventana ventanaMemoria;
 };
+
+namespace {
+
+/// What has changed since the runs, of either.
+std::string CambiosDesde(const report::Datos& datos, const checks::Sello& ahora)
+{
+    std::string cambios;
+    if (datos.tormenta != nullptr) cambios = checks::QueDifiere(datos.tormenta->sello, ahora);
+    if (datos.serie != nullptr && cambios.empty())
+        cambios = checks::QueDifiere(datos.serie->sello, ahora, checks::Alcance::Red);
+    return cambios;
+}
+
+}  // namespace
 
 Talleres::Talleres(forms::Entorno& alrededor)
     : entorno(alrededor), partes(std::make_unique<Partes>(alrededor))
@@ -32,6 +57,16 @@ Talleres::Talleres(forms::Entorno& alrededor)
     partes->estudio.AlCambiar([this] { AlCambiar(); });
     partes->ajuste.DibujoSinGuardar = [this] { return DibujoSinGuardar(); };
     partes->ajuste.Aplica = [this](const auto& cambio) { return Aplica(cambio); };
+    partes->ventanaMemoria.DeQue = [this] { return DatosDeMemoria(); };
+    partes->ventanaMemoria.Base = [this] {
+        const model::Siro& s = entorno.s;
+        return s.Proyecto.NombreProyecto.empty()
+                   ? std::string()
+                   : model::Ruta(s.Proyecto.DirProyecto, s.Proyecto.NombreProyecto);
+    };
+    partes->ventanaMemoria.Fondo = [this] { return Fondo(); };
+    partes->ventanaMemoria.Corre = [this] { Corre(); };
+    entorno.AlTerminarSuceso(partes->ventanaMemoria, [this] { TomaCorridas(); });
     entorno.AlTerminarSuceso(partes->ventanaLluvia, [this] {
         if (partes->estudio.HaDeSeguir()) entorno.Atiende([this] { partes->estudio.Sigue(); });
     });
@@ -49,6 +84,36 @@ void Talleres::AbreAjuste()
 {
     partes->estudio.Sigue();
     partes->ventanaAjuste.Abre();
+}
+
+void Talleres::AbreMemoria()
+{
+    partes->estudio.Sigue();
+    partes->ventanaMemoria.Abre();
+}
+
+void Talleres::TomaCorridas()
+{
+    partes->ventanaMemoria.Toma();
+}
+
+report::Datos Talleres::DatosDeMemoria() const
+{
+    const model::Siro& s = entorno.s;
+    report::Datos datos;
+    datos.tormenta = UltimaTormenta();
+    datos.serie = UltimaSerie();
+    datos.configuracion = s.Configuracion;
+    datos.archivoConf =
+        model::Ruta(s.Proyecto.DirProyecto, s.Proyecto.NombreProyecto).append(model::TerminacionConf);
+    datos.tormentaReal = TormentaReal();
+    datos.estudio = partes->estudio.EnMano();
+    frequency::FuentesDeTormenta fuentes;
+    model::Sentencia([&] { frequency::PonGrabada(fuentes, datos.estudio.taller.tormenta, s); });
+    datos.grabada = std::move(fuentes.grabada);
+    datos.version = SIRO_VERSION;
+    datos.cambios = CambiosDesde(datos, checks::SelloDe(s));
+    return datos;
 }
 
 study::Abierto* Talleres::Estudio()

@@ -6,13 +6,19 @@
 #include <string>
 #include <vector>
 
+#include "checks/UltimaCorrida.h"
 #include "forms/Entorno_ventana.h"
 #include "model/Red.h"
 #include "model/Tormenta.h"
 #include "results/Observado.h"
+#include "results/mapa/PintaMapa_ventana.h"
 
 namespace study {
 class Abierto;
+}
+
+namespace report {
+struct Datos;
 }
 
 namespace shell {
@@ -29,6 +35,9 @@ class Talleres {
     /// Bring a window up. Run inside an event.
     void AbreLluvia();
     void AbreAjuste();
+    void AbreMemoria();
+    /// The window of the memoria shows the last runs anew.
+    void TomaCorridas();
 
     /// Nothing in a build without.
     study::Abierto* Estudio();
@@ -41,6 +50,16 @@ class Talleres {
     void TrasEliminar();
     void AlSalir();
 
+    // What the memoria is made of: the runs that are on show, those of the project in hand alone.
+    using Corrida = std::shared_ptr<const checks::UltimaCorrida>;
+    std::function<Corrida()> UltimaTormenta = [] { return Corrida(); };
+    std::function<Corrida()> UltimaSerie = [] { return Corrida(); };
+    std::function<results::FondoDeMapa()> Fondo = [] { return results::FondoDeMapa{}; };
+    /// File of the recorded storm in hand; empty: none.
+    std::function<std::string()> TormentaReal = [] { return std::string(); };
+    /// Runs the storm in hand. Runs inside an event.
+    std::function<void()> Corre = [] {};
+
     // What the fitting workshop asks of the editor: see calibration::dlgAjuste.
     std::function<const model::Colecciones*()> DibujoSinGuardar = [] { return nullptr; };
     std::function<bool(const std::function<void(model::Red&, model::Tormenta&)>& cambio)> Aplica =
@@ -48,6 +67,7 @@ class Talleres {
 
   private:
     struct Partes;
+    [[nodiscard]] report::Datos DatosDeMemoria() const;
 
     forms::Entorno& entorno;
     std::unique_ptr<Partes> partes;

@@ -22,11 +22,14 @@ VentanasDeEstudio::VentanasDeEstudio(forms::Entorno& alrededor, MDIForm1_ventana
       ventanaComparar(alrededor, comparar)
 {
     PonResumen();
+    PonMemoria();
     entorno.AlTerminarSuceso(juicio, [this] { MuestraEstado(); });
     juicio.AlCambiar = [this] {
         MuestraEstado();
         ventanaResumen.Toma(juicio.Ultima());
         ventanaComparar.Toma(juicio.Ultima());
+        if (const auto& u = juicio.Ultima(); u != nullptr) (u->esSerie ? ultimaSerie : ultimaTormenta) = u;
+        talleres.TomaCorridas();
         if (pedida && !juicio.EnCurso()) entorno.Atiende([this] { Abre(*pedida); });
     };
     mapa.AbreHidrograma = [this](const std::string& componente) { AbreHidrograma(componente); };
@@ -72,10 +75,23 @@ void VentanasDeEstudio::PonResumen()
     };
 }
 
+/// A run of another project is none of this one's memoria.
+void VentanasDeEstudio::PonMemoria()
+{
+    const auto suya = [this](const JuicioDeCorrida::Corrida& u) {
+        return u != nullptr && u->sello.proyecto == checks::SelloDe(entorno.s).proyecto ? u : nullptr;
+    };
+    talleres.UltimaTormenta = [this, suya] {
+        return ultimaTormenta != nullptr && ultimaTormenta->balance ? suya(ultimaTormenta) : nullptr;
+    };
+    talleres.UltimaSerie = [this, suya] { return suya(ultimaSerie); };
+    talleres.Fondo = [this] { return mapa.Fondo(); };
+}
+
 void VentanasDeEstudio::Abre(Ventana ventana)
 {
-    const bool deLaCorrida =
-        ventana == Ventana::Resumen || ventana == Ventana::Comparar || ventana == Ventana::Mapa;
+    const bool deLaCorrida = ventana == Ventana::Resumen || ventana == Ventana::Comparar ||
+                             ventana == Ventana::Mapa || ventana == Ventana::Memoria;
     pedida.reset();
     if (deLaCorrida && juicio.EnCurso()) {
         pedida = ventana;
@@ -89,6 +105,7 @@ void VentanasDeEstudio::Abre(Ventana ventana)
     if (ventana == Ventana::Mapa) mapa.Abre();
     if (ventana == Ventana::Taller) talleres.AbreLluvia();
     if (ventana == Ventana::Ajuste) talleres.AbreAjuste();
+    if (ventana == Ventana::Memoria) talleres.AbreMemoria();
 }
 
 void VentanasDeEstudio::MuestraEstado()

@@ -66,10 +66,12 @@ class VentanasDeEstudio {
   private:
     void MuestraEstado();
     void PonResumen();
+    void PonMemoria();
 
     forms::Entorno& entorno;
     checks::Sello sello{};
-    bool corrido = false;             ///< a run has been made
+    bool corrido = false;  ///< a run has been made
+    JuicioDeCorrida::Corrida ultimaTormenta{}, ultimaSerie{};
     std::optional<Ventana> pedida{};  ///< opens once the run has been looked over
     std::string cuando{};             ///< date and time of the last run
     JuicioDeCorrida juicio{};

@@ -12,6 +12,7 @@ set(arbol ${LUGAR}/entrega_${CASO})
 file(REMOVE_RECURSE ${arbol})
 file(COPY ${RAIZ}/paquete DESTINATION ${arbol})
 file(COPY ${RAIZ}/src/batch/Usos.cpp DESTINATION ${arbol}/src/batch)
+file(COPY ${RAIZ}/src/memoria/OrdenMemoria.cpp DESTINATION ${arbol}/src/memoria)
 file(COPY ${RAIZ}/src/model/Configuracion.h DESTINATION ${arbol}/src/model)
 
 function(cambia archivo de a)

@@ -99,7 +99,7 @@ datos=$casa/.local/share/SIRO/siro
 apt update
 vale "it installs with what it depends on" apt install $casa/paquete/siro.deb
 vale "dpkg finds all of its files as they were packed" dentro sh -c 'test -z "$(dpkg --verify siro)"'
-vale "every library of both programs is there" dentro sh -c '! ldd /usr/bin/siro /usr/bin/siro-lote | grep "not found"'
+vale "every library of the programs is there" dentro sh -c '! ldd /usr/bin/siro /usr/bin/siro-lote /usr/bin/siro-memoria | grep "not found"'
 vale "the manual pages are there" test -f "$raiz/usr/share/man/es/man1/siro-lote.1.gz" -a -f "$raiz/usr/share/man/man1/siro.1.gz"
 
 # The same storm here and there, from the delivered sample project; there the program's own directory can't be written.
