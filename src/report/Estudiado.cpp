@@ -57,4 +57,11 @@ Estudiado::Estudiado(const study::Estudio& unEstudio, const std::vector<double>&
     if (hecha.error.empty() && (curvas || taller.tormenta.lamina)) diseno = std::move(hecha);
 }
 
+const frequency::Ley* Estudiado::Ley() const
+{
+    if (!analisis) return nullptr;
+    const frequency::Ley* const elegida = frequency::LeyDeClave(maximos->ley);
+    return elegida != nullptr ? elegida : analisis->recomendacion.ley;
+}
+
 }  // namespace report

@@ -23,6 +23,8 @@ class Estudiado {
     const study::SerieDeMaximos* maximos = nullptr;  ///< that the laws are compared over: the daily ones, or
                                                      ///< the first of the station's
     std::optional<frequency::Analisis> analisis{};   ///< of it; none: it can't be fitted
+    /// The law that the user took for them, or the one recommended; null: none.
+    [[nodiscard]] const frequency::Ley* Ley() const;
     std::optional<frequency::idf::Curvas> curvas{};  ///< none: errors
     std::optional<frequency::Diseno> diseno{};       ///< none: errors, or nothing was asked for
 };

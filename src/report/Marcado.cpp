@@ -61,6 +61,16 @@ std::string Escapado(std::string_view texto)
     return t;
 }
 
+bool EsUtf8(std::string_view bytes)
+{
+    while (!bytes.empty()) {
+        const std::size_t largo = LargoDeCaracter(bytes);
+        if (largo == 0) return false;
+        bytes.remove_prefix(largo);
+    }
+    return true;
+}
+
 std::string Base64(std::string_view bytes)
 {
     constexpr std::string_view Letras = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";

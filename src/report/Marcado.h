@@ -11,6 +11,9 @@ namespace report {
 /// which XML can't hold, left out; bytes that are no UTF-8 as U+FFFD.
 std::string Escapado(std::string_view texto);
 
+/// Whether all bytes are UTF-8 (RFC 3629).
+bool EsUtf8(std::string_view bytes);
+
 /// Bytes in Base64 (RFC 4648).
 std::string Base64(std::string_view bytes);
 

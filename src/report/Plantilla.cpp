@@ -7,32 +7,13 @@
 
 #include "model/Falla.h"
 #include "model/Texto.h"
+#include "report/Marcado.h"
 
 namespace report {
 namespace {
 
 constexpr std::string_view Bom = "\xEF\xBB\xBF", Comentario = "%%";
 constexpr int MayorNivel = 3;
-
-/// How many bytes behind the first one of a character of UTF-8 belong to it; -1: it begins none.
-int Siguen(unsigned char primero)
-{
-    if (primero < 0x80) return 0;
-    if (primero >= 0xC2 && primero < 0xE0) return 1;
-    if (primero >= 0xE0 && primero < 0xF0) return 2;
-    return primero >= 0xF0 && primero < 0xF5 ? 3 : -1;
-}
-
-bool EsUtf8(std::string_view bytes)
-{
-    for (std::size_t i = 0; i < bytes.size(); ++i) {
-        const int siguen = Siguen(static_cast<unsigned char>(bytes[i]));
-        if (siguen < 0) return false;
-        for (int k = 0; k < siguen; ++k)
-            if (++i >= bytes.size() || (static_cast<unsigned char>(bytes[i]) & 0xC0U) != 0x80) return false;
-    }
-    return true;
-}
 
 std::string_view SinBlancos(std::string_view texto)
 {

@@ -168,7 +168,7 @@ constexpr auto DeEmbalses = std::to_array<ColumnaDe<DelComponente>>({
     {"Componente", "", true, [](const Fuente&, const DelComponente& c) { return std::string(c->nombre); }},
     {"H inicial", "m", false, [](const Fuente& f, const DelComponente& c) { return f.n.Con(c->embalse->HInicial, 2); }},
     {"H máx", "m", false, [](const Fuente& f, const DelComponente& c) { return f.CeldaDelResumen(c, "H máx", "m"); }},
-    {"t(H máx)", "min", false, MinutoDelMaximo},
+    {"t(H máx)", "min", false, MinutoDelMaximo},
     {"S máx", "m3", false, MayorAlmacenamiento},
     {"Tope", "m", false, Tope},
     {"Revancha", "m", false, [](const Fuente& f, const DelComponente& c) { return f.CeldaDelResumen(c, "Revancha", "m"); }},
@@ -239,7 +239,8 @@ std::string EnRenglon(const Fuente& f, std::string_view expresion)
     return f.n.EnTexto(t);
 }
 
-std::string Titulo(std::string_view leyenda)
+/// A caption that goes on from the one above it, by itself.
+std::string NombreDeFormula(std::string_view leyenda)
 {
     const std::size_t desde = std::min(leyenda.find_first_not_of(' '), leyenda.size());
     return (desde > 0 ? "Myer, " : "") + std::string(leyenda.substr(desde));
@@ -258,7 +259,8 @@ std::vector<Tabla> Empiricas(const Fuente& f)
     for (const empirical::FormulaQp& q : empirical::FormulasQp()) {
         double Q = 0;
         const bool hay = q.Vale(S) && model::Sentencia([&] { Q = q.caudal(S); }) && Q < SinSentido;
-        t.filas.push_back({Titulo(q.leyenda), EnRenglon(f, q.expresion), hay ? f.n.Con(Q, 1) : "no vale",
+        t.filas.push_back({NombreDeFormula(q.leyenda), EnRenglon(f, q.expresion),
+                           hay ? f.n.Con(Q, 1) : "no vale",
                            hay && modelo > 0 ? f.n.Con(100 * Q / modelo, 0) : "-"});
     }
     t.nota =

@@ -107,14 +107,6 @@ std::vector<Tabla> Pruebas(const Fuente& f)
                                 std::span(DePruebas), f.estudio.analisis->pruebas));
 }
 
-/// The law that the study takes for the series, chosen or recommended; null: none.
-const frequency::Ley* Tomada(const Fuente& f)
-{
-    if (!f.estudio.analisis) return nullptr;
-    const frequency::Ley* const elegida = frequency::LeyDeClave(f.estudio.maximos->ley);
-    return elegida != nullptr ? elegida : f.estudio.analisis->recomendacion.ley;
-}
-
 std::vector<Tabla> Leyes(const Fuente& f)
 {
     if (!f.estudio.analisis) return {};
@@ -133,7 +125,7 @@ std::vector<Tabla> Leyes(const Fuente& f)
             parametros += (i > 0 ? "; " : "") + std::string(l.ley->parametros[i].simbolo) + " = " +
                           f.n.Corta((*l.estimado.p)[i]);
         std::vector<std::string>& fila = t.filas.emplace_back();
-        fila = {std::string(l.ley->nombre) + (l.ley == Tomada(f) ? " (tomada)" : ""), parametros,
+        fila = {std::string(l.ley->nombre) + (l.ley == f.estudio.Ley() ? " (tomada)" : ""), parametros,
                 f.n.Con(l.criterios.aicc, 2), f.n.Con(l.bondad.ad, 3)};
         for (const double R : Muestra)
             fila.push_back(f.n.Con(frequency::CuantilDe(l, R), 1));

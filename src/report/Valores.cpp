@@ -109,17 +109,10 @@ const Familia* FamiliaDe(const Fuente& f)
     return f.estudio.curvas ? f.estudio.curvas->ajuste.familia : nullptr;
 }
 
-const frequency::Ley* LeyDe(const Fuente& f)
-{
-    if (!f.estudio.analisis) return nullptr;
-    const frequency::Ley* const elegida = frequency::LeyDeClave(f.estudio.maximos->ley);
-    return elegida != nullptr ? elegida : f.estudio.analisis->recomendacion.ley;
-}
-
 /// Why the law was taken: the user's words, or the recommendation's.
 std::string Motivo(const Fuente& f)
 {
-    if (LeyDe(f) == nullptr) return "";
+    if (f.estudio.Ley() == nullptr) return "";
     const bool elegida = frequency::LeyDeClave(f.estudio.maximos->ley) != nullptr;
     if (!elegida) return f.n.EnTexto(f.estudio.analisis->recomendacion.motivo);
     return f.estudio.maximos->motivo.empty() ? "Fue elegida por el profesional." : f.estudio.maximos->motivo;
@@ -225,11 +218,11 @@ constexpr auto Valores = std::to_array<FilaDeValor>({
          return f.estudio.estacion == nullptr ? "" : f.estudio.estacion->fuente; }},
     {"anios", "cuántos años tiene la serie que se analiza", [](const Fuente& f) {
          return f.estudio.analisis ? Cuantos(static_cast<int>(f.estudio.analisis->muestra.Anios()), "año", "años") : ""; }},
-    {"ley", "la ley que se tomó", [](const Fuente& f) { return LeyDe(f) == nullptr ? "" : Llana(LeyDe(f)->nombre); }},
+    {"ley", "la ley que se tomó", [](const Fuente& f) { return f.estudio.Ley() == nullptr ? "" : Llana(f.estudio.Ley()->nombre); }},
     {"metodo_ajuste", "el método con que se ajustaron las leyes", [](const Fuente& f) {
          return f.estudio.analisis ? Llana(frequency::NombreDe(f.estudio.analisis->metodo)) : ""; }},
     {"motivo_ley", "por qué se tomó esa ley", Motivo},
-    {"fuente_ley", "la fuente de la ley", [](const Fuente& f) { return LeyDe(f) == nullptr ? "" : Llana(LeyDe(f)->fuente); }},
+    {"fuente_ley", "la fuente de la ley", [](const Fuente& f) { return f.estudio.Ley() == nullptr ? "" : Llana(f.estudio.Ley()->fuente); }},
     {"origen_idf", "de dónde salen las curvas de intensidad", Origen},
     {"familia", "la forma de las curvas", [](const Fuente& f) { return FamiliaDe(f) == nullptr ? "" : Llana(FamiliaDe(f)->nombre); }},
     {"fuente_familia", "la fuente de esa forma", [](const Fuente& f) { return FamiliaDe(f) == nullptr ? "" : Llana(FamiliaDe(f)->fuente); }},
@@ -310,7 +303,7 @@ constexpr auto Condiciones = std::to_array<FilaDeCondicion>({
 });
 
 constexpr auto Formulas = std::to_array<FilaDeFormula>({
-    {"ley", "la de la ley que se tomó", "No se tomó una ley.", [](const Fuente& f) { return LeyDe(f) == nullptr ? std::string_view() : LeyDe(f)->formula; }},
+    {"ley", "la de la ley que se tomó", "No se tomó una ley.", [](const Fuente& f) { return f.estudio.Ley() == nullptr ? std::string_view() : f.estudio.Ley()->formula; }},
     {"familia", "la de las curvas de intensidad", "Las curvas no tienen una fórmula.", [](const Fuente& f) { return FamiliaDe(f) == nullptr ? std::string_view() : FamiliaDe(f)->formula; }},
     {"desagregacion", "la de la desagregación de la lluvia diaria", "No se desagregó la lluvia diaria.", [](const Fuente& f) {
          return f.estudio.curvas && f.estudio.curvas->desagregacion != nullptr ? f.estudio.curvas->desagregacion->formula : std::string_view(); }},

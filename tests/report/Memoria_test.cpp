@@ -247,6 +247,38 @@ TEST_F(MemoriaAMano, LosElegidosSonLosQueSeDicen)
     EXPECT_EQ(ComponentesConHidrograma(datos), (Celdas{"u-1", "c-1"}));
 }
 
+TEST_F(MemoriaAMano, LaOrdenDeCadaFormaDeLluvia)
+{
+    s.Tormenta.RecTormenta = 25;
+    s.Tormenta.DistriPp = 3;
+    s.Tormenta.PpTormenta = 60.5F;
+    Hecha("");
+    EXPECT_EQ(
+        OrdenDeLote(*datos.tormenta, "Mi cuenca_Conf.vlm"),
+        "siro-lote una \"Mi cuenca_Conf.vlm\" --pp 60.5 --dur 60 --rec 25 --distribucion 3 --paso-pp 10 "
+        "--paso-q 10 --avisos");
+    s.Tormenta = {};
+    s.Tormenta.FormaPp = model::FormaLluvia::PorUEH;
+    s.Tormenta.PpTormenta = 12;
+    s.Tormenta.PpUEH(1) = 12;
+    s.Tormenta.DurTormenta = 60;
+    const Documento porUEH = Hecha("[[tabla lluvia_uehs]]");
+    EXPECT_EQ(OrdenDeLote(*datos.tormenta, "P_Conf.vlm"),
+              "siro-lote una P_Conf.vlm --forma 3 --pp-ueh 12 --dur 60 --paso-pp 10 --paso-q 10 --avisos");
+    EXPECT_EQ(Celda(porUEH, "Lámina", "u-1", "Lámina"), "12");
+    s.Tormenta.FormaPp = model::FormaLluvia::Real;
+    s.Tormenta.NroPpReal = 2;
+    s.Tormenta.PpReal.Dimensiona(2);
+    s.Tormenta.PpReal(1) = 5;
+    s.Tormenta.PpReal(2) = 7;
+    const Documento real =
+        Hecha("[[si registrada]]\n{{registrada}}, {{distribucion}}\n[[fin]]\n[[tabla lluvia]]");
+    EXPECT_EQ(Parrafos(real), (Celdas{"(sin dato), la de la tormenta registrada"}));
+    EXPECT_EQ(
+        OrdenDeLote(*datos.tormenta, "P_Conf.vlm", "Marzo 3_pt.vlm"),
+        "siro-lote una P_Conf.vlm --forma 4 --tormenta \"Marzo 3_pt.vlm\" --paso-pp 10 --paso-q 10 --avisos");
+}
+
 TEST_F(MemoriaAMano, SinCorridaNoHayTablasVaciasNiFaltas)
 {
     const Documento d = Memoria({}, {}, PlantillaDeFabrica());
