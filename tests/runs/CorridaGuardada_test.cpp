@@ -90,8 +90,9 @@ TEST(CorridaGuardada, GuardaLosArchivosQueLaCorridaLeyoLetraPorLetra)
                                      "Quelmar_RHAS.vlm", "Quelmar_RHQ.vlm"}) {
         const study::Pieza* const pieza = Halla(piezas, std::string("proyecto/") + nombre);
         ASSERT_NE(pieza, nullptr) << nombre;
-        if (std::string_view(nombre) != "Quelmar_Conf.vlm")  // which takes its directory when it is opened
+        if (std::string_view(nombre) != "Quelmar_Conf.vlm") {  // which takes its directory when it is opened
             EXPECT_TRUE(apoyo::MismoQueArchivo(datos / "Proyectos" / nombre, pieza->bytes));
+        }
     }
     const study::Pieza* const tabla = Halla(piezas, "trabajo/distriPp_dpt.vlm");
     ASSERT_NE(tabla, nullptr);

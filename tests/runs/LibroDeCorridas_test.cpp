@@ -207,7 +207,9 @@ TEST_F(ElLibro, UnByteCambiadoNoDaOtraFichaNiOtrasPiezas)
             disco.Pon(En(archivo), otro);
             const auto lista = ListaDe(libro);
             ASSERT_EQ(lista.size(), 1U);
-            if (lista[0].reparo.empty()) EXPECT_EQ(lista[0].ficha, ficha) << lugar;
+            if (lista[0].reparo.empty()) {
+                EXPECT_EQ(lista[0].ficha, ficha) << lugar;
+            }
             try {
                 const auto leidas = PiezasDe(libro, archivo);
                 ASSERT_EQ(leidas.size(), piezas.size()) << lugar;

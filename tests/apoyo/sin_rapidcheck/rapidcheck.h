@@ -159,3 +159,4 @@ bool check(F propiedad)
         if (!(__VA_ARGS__)) throw rc::Descartado{}; \
     } while (false)
 #define RC_CLASSIFY(condicion, ...) static_cast<void>(condicion)
+#define RC_LOG(...) static_cast<void>(__VA_ARGS__)
