@@ -128,6 +128,13 @@ std::string TormentaDe(const dlgCompararCorridas& f)
     return igual ? primera : "tormentas distintas";
 }
 
+/// Below the component: the storm, and the day of the runs.
+std::string BajoElTitulo(const dlgCompararCorridas& f)
+{
+    const std::string& cuando = f.corridos.front().corrida->cuando;
+    return "\n" + TormentaDe(f) + ", " + cuando.substr(0, cuando.find(' '));
+}
+
 std::string Minutos(double minuto, bool enMinutos)
 {
     constexpr double PorHora = 60;
@@ -147,7 +154,7 @@ void MarcaPico(forms::Grafico& g, std::size_t serie)
 forms::Grafico GraficoDeHidrogramas(const dlgCompararCorridas& f, const Emparejado& e)
 {
     forms::Grafico g{.tipo = forms::TipoGrafico::Linea};
-    g.titulo = e.Nombre() + (f.chkEntra ? ", caudal que entra" : ", caudal que sale") + "\n" + TormentaDe(f);
+    g.titulo = e.Nombre() + (f.chkEntra ? ", caudal que entra" : ", caudal que sale") + BajoElTitulo(f);
     g.magnitudX = "t";
     g.ejeX = f.minutos ? "minutos" : "horas";
     g.ejeY = "Caudal [m3/s]";
@@ -191,7 +198,7 @@ forms::Grafico GraficoDeSerie(const dlgCompararCorridas& f, const Emparejado& e,
                               const std::vector<PicoDeSerie>& picos)
 {
     forms::Grafico g{.tipo = forms::TipoGrafico::Linea};
-    g.titulo = e.Nombre() + ", caudal máximo de la serie";
+    g.titulo = e.Nombre() + ", caudal máximo de la serie" + BajoElTitulo(f);
     g.ejeX = "Duración [min]";
     g.ejeY = "Caudal máximo [m3/s]";
     g.leyendaVisible = g.muchasLineas = true;
@@ -232,7 +239,11 @@ void MuestraComponente(dlgCompararCorridas& f)
         items.push_back(NumeroATexto(R) + " años");
     f.cmbRecurrencia.PonItems(std::move(items));
     if (f.cmbRecurrencia.indice < 0) f.cmbRecurrencia.indice = 0;
-    f.Abaco = e == nullptr ? forms::Grafico{} : GraficoDeSerie(f, *e, picos);
+    f.lblSerie =
+        picos.empty()
+            ? "Ningún lado es una serie: corra una (F4, F6), o agregue proyectos con una serie en mano."
+            : "";
+    f.Abaco = e == nullptr || picos.empty() ? forms::Grafico{} : GraficoDeSerie(f, *e, picos);
     forms::PonFilas(f.tblSerie, PlanillaDeSerie(f.comparacion, picos, e == nullptr ? "" : e->Nombre()));
 }
 
@@ -265,9 +276,8 @@ void Refresca(dlgCompararCorridas& f)
         for (const std::string& reparo : l.reparos)
             avisos.push_back(l.origen.nombre + ": " + reparo);
     }
-    const int indice = f.lstLados.indice;
-    f.lstLados.PonItems(nombres);
-    f.lstLados.indice = std::min(indice, static_cast<int>(nombres.size()) - 1);
+    f.lstLados.indice = std::min(f.lstLados.indice, static_cast<int>(nombres.size()) - 1);
+    f.lstLados.items = std::move(nombres);
     f.comparacion = f.corridos.empty() ? Comparacion{} : Compara(f.corridos);
     forms::PonFilas(f.tblParametros, PlanillaDeParametros(f.comparacion));
     forms::PonFilas(f.tblResultados, PlanillaDeCifras(f.comparacion, f.chkDistintas));

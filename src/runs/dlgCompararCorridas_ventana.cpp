@@ -99,7 +99,7 @@ QLayout* dlgCompararCorridas_ventana::BotonesDeLados()
                    EnFila({{barra, 1}, cancela}), Hueco()});
 }
 
-/// A table that shows as its first columns what doesn't fit, and saves with what it is of above it.
+/// A table that is saved with what it is of above it.
 QWidget* dlgCompararCorridas_ventana::PaginaDeTabla(forms::TablaCuadro*& tabla, forms::Cuadro& cuadro,
                                                     std::string_view control, QWidget* arriba)
 {
@@ -107,13 +107,10 @@ QWidget* dlgCompararCorridas_ventana::PaginaDeTabla(forms::TablaCuadro*& tabla, 
     tabla->AlPulsarEncabezado = [this, &cuadro](int columna) {
         Suceso([&] { forms::PulsaEncabezado(cuadro, columna); });
     };
-    tabla->Adorno = [&cuadro](std::size_t, int columna, int papel) {
-        const auto c = static_cast<std::size_t>(columna);
-        const bool numero = c < cuadro.planilla.columnas.size() && !cuadro.planilla.columnas[c].deTexto;
-        return papel == Qt::TextAlignmentRole && numero ? QVariant(Qt::AlignRight | Qt::AlignVCenter)
-                                                        : QVariant();
-    };
     tabla->DaPlanilla = [this, &cuadro] { return ParaGuardar(f, forms::ALaVista(cuadro)); };
+    QHeaderView& encabezado = *tabla->horizontalHeader();
+    encabezado.setDefaultAlignment(Qt::Alignment(QFlag(int{Qt::AlignCenter} | int{Qt::TextWordWrap})));
+    encabezado.setFixedHeight(fontMetrics().height() * 5 / 2);
     auto* const pagina = new QWidget;
     pagina->setLayout(arriba == nullptr ? EnPila({{tabla, 1}}) : EnPila({arriba, {tabla, 1}}));
     return pagina;
@@ -125,7 +122,7 @@ QWidget* dlgCompararCorridas_ventana::Componentes(std::string_view control)
     forms::ListaParaElegir* const lista =
         Listado(control, f.lstCompos, forms::Flechas::Eligen, [this] { lstCompos_Click(f); });
     lista->setAccessibleName(Q(Fila("lstCompos").lector));
-    constexpr int Letras = 20;
+    constexpr int Letras = 27;
     lista->setFixedWidth(Letras * fontMetrics().averageCharWidth());
     return lista;
 }
@@ -159,10 +156,14 @@ QWidget* dlgCompararCorridas_ventana::PaginaDeSeries()
     costado->setLayout(pila);
     QWidget* const tabla = PaginaDeTabla(serie, f.tblSerie, "tblSerie");
     tabla->layout()->setContentsMargins(0, 0, 0, 0);
-    for (QWidget* const w : {costado, tabla})
-        VisibleSi(w, [this] { return !imprimiendo; });
+    VisibleSi(costado, [this] { return !imprimiendo; });
+    VisibleSi(tabla, [this] { return !imprimiendo && f.lblSerie.empty(); });
+    VisibleSi(abaco, [this] { return f.lblSerie.empty(); });
+    QLabel* const sinSerie = Texto("lblSerie", f.lblSerie);
+    sinSerie->setWordWrap(true);
+    VisibleSi(sinSerie, [this] { return !f.lblSerie.empty(); });
     auto* const pagina = new QWidget;
-    pagina->setLayout(EnFila({costado, {EnPila({{abaco, 3}, {tabla, 2}}), 1}}));
+    pagina->setLayout(EnFila({costado, {EnPila({sinSerie, {abaco, 3}, {tabla, 2}}), 1}}));
     return pagina;
 }
 
@@ -180,7 +181,7 @@ QLayout* dlgCompararCorridas_ventana::Botones()
 /// Names and units as wide as they mostly are; the sides share what is left over.
 void dlgCompararCorridas_ventana::PonColumnas()
 {
-    constexpr int DeNombre = 18, DeParametro = 30, DeUnidad = 10, DeNumero = 14;
+    constexpr int DeNombre = 18, DeParametro = 30, DeUnidad = 13, DeNumero = 11;
     const std::size_t n = f.comparacion.lados.size();
     std::vector<int> letras{DeNombre, DeParametro, DeUnidad};
     letras.insert(letras.end(), n + 1, 0);

@@ -432,6 +432,7 @@ void Escritorio::Abre(Ventana ventana, bool espera)
     case Ventana::Avisos:
     case Ventana::Resumen:
     case Ventana::Comparar:
+    case Ventana::CompararCorridas:
     case Ventana::Mapa:
     case Ventana::Revisar:
     case Ventana::Verificar:

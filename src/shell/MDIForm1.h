@@ -55,6 +55,7 @@ enum class Ventana : std::uint8_t {
     Avisos,
     Resumen,
     Comparar,
+    CompararCorridas,
     Mapa,
     Revisar,
     Verificar,

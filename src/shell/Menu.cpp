@@ -123,6 +123,7 @@ constexpr auto FilasMenu = std::to_array<FilaMenu>({
     {"mnuAvisos",                       "&Avisos de la corrida",                           "mnuEstudio", SoloAbre<Ventana::Avisos>, false, V::Ninguna, "", "Lo que la última corrida tiene de dudoso, y su balance de agua"},
     {"mnuResumen",                      "&Resumen de la corrida",                          "mnuEstudio", SoloAbre<Ventana::Resumen>, false, V::Ninguna, "F11", "Caudales máximos, volúmenes y alturas de todos los componentes"},
     {"mnuComparar",                     "&Comparar hidrogramas",                           "mnuEstudio", SoloAbre<Ventana::Comparar>, false, V::Ninguna, "", "Hidrogramas de varios componentes en un gráfico"},
+    {"mnuCompararCorridas",             "Comparar c&orridas o proyectos",                  "mnuEstudio", SoloAbre<Ventana::CompararCorridas>, false, V::Ninguna, "", "Dos corridas o proyectos uno al lado del otro: parámetros, resultados, hidrogramas, series"},
     {"mnuMapa",                         "&Mapa de la corrida",                             "mnuEstudio", SoloAbre<Ventana::Mapa>, false, V::Ninguna, "", "La red con el caudal de cada componente a lo largo del tiempo"},
     Separador("mnuEstudioBarra", "mnuEstudio"),
     {"mnuRevisar",                      "Revisar &proyecto",                               "mnuEstudio", ConProyecto<Ventana::Revisar>, false, V::Ninguna, "F12", "Todo lo que detendría una corrida o la haría dudosa"},

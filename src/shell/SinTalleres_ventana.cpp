@@ -28,6 +28,12 @@ void Talleres::AbreMemoria()
 
 void Talleres::TomaCorridas() {}
 
+void Talleres::AbreComparacion()
+{
+    model::Advierte(entorno.s,
+                    "Esta versión no trae la comparación de corridas; la trae la versión completa.");
+}
+
 study::Abierto* Talleres::Estudio()
 {
     return nullptr;

@@ -14,6 +14,8 @@
 #include "model/VidaProyecto.h"
 #include "report/dlgMemoria.h"
 #include "report/dlgMemoria_ventana.h"
+#include "runs/dlgCompararCorridas.h"
+#include "runs/dlgCompararCorridas_ventana.h"
 #include "study/Abierto.h"
 
 namespace shell {
@@ -25,7 +27,8 @@ struct Talleres::Partes {
           ventanaLluvia(entorno, lluvia),
           ajuste(estudio, entorno.s),
           ventanaAjuste(entorno, ajuste),
-          ventanaMemoria(entorno, memoria)
+          ventanaMemoria(entorno, memoria),
+          ventanaComparacion(entorno, comparacion)
     {
     }
     study::Abierto estudio;
@@ -35,6 +38,8 @@ struct Talleres::Partes {
     calibration::dlgAjuste_ventana ventanaAjuste;
     report::dlgMemoria memoria{};
     report::dlgMemoria_ventana ventanaMemoria;
+    runs::dlgCompararCorridas comparacion{};
+    runs::dlgCompararCorridas_ventana ventanaComparacion;
 };
 
 namespace {
@@ -56,6 +61,7 @@ Talleres::Talleres(forms::Entorno& alrededor)
 {
     partes->estudio.AlCambiar([this] { AlCambiar(); });
     partes->ajuste.DibujoSinGuardar = [this] { return DibujoSinGuardar(); };
+    partes->ventanaComparacion.Ultima = [this] { return UltimaCorrida(); };
     partes->ajuste.Aplica = [this](const auto& cambio) { return Aplica(cambio); };
     partes->ventanaMemoria.DeQue = [this] { return DatosDeMemoria(); };
     partes->ventanaMemoria.Base = [this] {
@@ -114,6 +120,11 @@ report::Datos Talleres::DatosDeMemoria() const
     datos.version = SIRO_VERSION;
     datos.cambios = CambiosDesde(datos, checks::SelloDe(s));
     return datos;
+}
+
+void Talleres::AbreComparacion()
+{
+    partes->ventanaComparacion.Abre();
 }
 
 study::Abierto* Talleres::Estudio()

@@ -38,6 +38,10 @@ class Talleres {
     void AbreMemoria();
     /// The window of the memoria shows the last runs anew.
     void TomaCorridas();
+    void AbreComparacion();
+
+    /// The run looked over last; nothing before the first.
+    std::function<std::shared_ptr<const checks::UltimaCorrida>()> UltimaCorrida = [] { return nullptr; };
 
     /// Nothing in a build without.
     study::Abierto* Estudio();

@@ -23,6 +23,7 @@ VentanasDeEstudio::VentanasDeEstudio(forms::Entorno& alrededor, MDIForm1_ventana
 {
     PonResumen();
     PonMemoria();
+    talleres.UltimaCorrida = [this] { return juicio.Ultima(); };
     entorno.AlTerminarSuceso(juicio, [this] { MuestraEstado(); });
     juicio.AlCambiar = [this] {
         MuestraEstado();
@@ -91,7 +92,8 @@ void VentanasDeEstudio::PonMemoria()
 void VentanasDeEstudio::Abre(Ventana ventana)
 {
     const bool deLaCorrida = ventana == Ventana::Resumen || ventana == Ventana::Comparar ||
-                             ventana == Ventana::Mapa || ventana == Ventana::Memoria;
+                             ventana == Ventana::CompararCorridas || ventana == Ventana::Mapa ||
+                             ventana == Ventana::Memoria;
     pedida.reset();
     if (deLaCorrida && juicio.EnCurso()) {
         pedida = ventana;
@@ -100,6 +102,7 @@ void VentanasDeEstudio::Abre(Ventana ventana)
     if (ventana == Ventana::Avisos) ventanaAvisos.Abre();
     if (ventana == Ventana::Resumen) ventanaResumen.Abre(juicio.Ultima());
     if (ventana == Ventana::Comparar) ventanaComparar.Abre(juicio.Ultima());
+    if (ventana == Ventana::CompararCorridas) talleres.AbreComparacion();
     if (ventana == Ventana::Revisar) ventanaRevisar.Abre();
     if (ventana == Ventana::Verificar) ventanaVerificar.Abre();
     if (ventana == Ventana::Mapa) mapa.Abre();

@@ -145,6 +145,7 @@ TEST_F(MarcoDePrueba, ElMenuTieneSusEntradasEnOrden)
         {"mnuAvisos", "&Avisos de la corrida"},
         {"mnuResumen", "&Resumen de la corrida"},
         {"mnuComparar", "&Comparar hidrogramas"},
+        {"mnuCompararCorridas", "Comparar c&orridas o proyectos"},
         {"mnuMapa", "&Mapa de la corrida"},
         {"mnuEstudioBarra", "-"},
         {"mnuRevisar", "Revisar &proyecto"},

@@ -138,6 +138,7 @@ TEST_F(Pantallas, LaVentanaPrincipalYLasQueEstanEnElla)
     ASSERT_TRUE(Espera([&] { return !escritorio.Estudio().Juicio().EnCurso(); }));
     EnLaPrincipal(Ventana::Resumen, "dlgResumen");
     EnLaPrincipal(Ventana::Comparar, "dlgComparar");
+    EnLaPrincipal(Ventana::CompararCorridas, "dlgCompararCorridas");
     EnLaPrincipal(Ventana::dlgChart3, "dlgChart3");
     EnLaPrincipal(Ventana::dlgTablaSalePDR, "dlgTablaSalePDR");
     EnLaPrincipal(Ventana::dlgTablaSalePDR2, "dlgTablaSalePDR2");
