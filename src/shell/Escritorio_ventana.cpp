@@ -18,6 +18,7 @@
 #include "forms/Textos_ventana.h"
 #include "model/Avisos.h"
 #include "shell/VisorDeAyuda_ventana.h"
+#include "shell/dlgAnteriores_ventana.h"
 #include "shell/dlgEliminarProyecto_ventana.h"
 #include "shell/frmAcerca_ventana.h"
 #include "shell/frmInicio_ventana.h"
@@ -409,6 +410,11 @@ void Escritorio::Abre(Ventana ventana, bool espera)
     case Ventana::dlgEliminarProyecto:
         dlgEliminarProyecto_ventana(entorno, eliminar, ventanaPrincipal.get()).Abre();
         return ventanasEstudio->Talleres().TrasEliminar();
+    case Ventana::dlgAnteriores: {
+        dlgAnteriores_ventana forma(entorno, versiones, anteriores, ventanaPrincipal.get());
+        forma.TrasTraer = [this] { ventanasEstudio->Talleres().TrasTraer(); };
+        return forma.Abre();
+    }
     case Ventana::frmAcerca:
         return frmAcerca_ventana(entorno, ventanaPrincipal.get()).Abre();
     case Ventana::frmConfigura:

@@ -28,6 +28,7 @@
 #include "shell/MDIForm1.h"
 #include "shell/MDIForm1_ventana.h"
 #include "shell/VentanasDeEstudio_ventana.h"
+#include "shell/dlgAnteriores.h"
 #include "shell/dlgBusca_ventana.h"
 #include "shell/frmConfigura.h"
 #include "shell/frmConfigura_ventana.h"
@@ -57,6 +58,7 @@ class Escritorio {
     MDIForm1 principal{};
     frmPp2 avance{};
     model::dlgEliminarProyecto eliminar{};
+    dlgAnteriores versiones{};
     rainfall::dlgPp lluvia{};
     results::frmPp pizarra{};
     frmConfigura configura{};

@@ -62,6 +62,7 @@ enum class Ventana : std::uint8_t {
     Taller,
     Ajuste,
     Memoria,
+    dlgAnteriores,
     frmConfigura,
     dlgEliminarProyecto,
     frmAcerca,

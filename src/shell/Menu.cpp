@@ -127,6 +127,7 @@ constexpr auto FilasMenu = std::to_array<FilaMenu>({
     {"mnuMapa",                         "&Mapa de la corrida",                             "mnuEstudio", SoloAbre<Ventana::Mapa>, false, V::Ninguna, "", "La red con el caudal de cada componente a lo largo del tiempo"},
     Separador("mnuEstudioBarra", "mnuEstudio"),
     {"mnuRevisar",                      "Revisar &proyecto",                               "mnuEstudio", ConProyecto<Ventana::Revisar>, false, V::Ninguna, "F12", "Todo lo que detendría una corrida o la haría dudosa"},
+    {"mnuAnteriores",                   "Versiones a&nteriores",                           "mnuEstudio", SoloAbre<Ventana::dlgAnteriores>, false, V::Ninguna, "", "Lo que el proyecto tenía antes de cada guardado: mirar, comparar, traer de vuelta"},
     {"mnuTaller",                       "&Taller de lluvia",                               "mnuEstudio", SoloAbre<Ventana::Taller>, false, V::Ninguna, "", "De los máximos anuales a la tormenta que se corre"},
     {"mnuAjuste",                       "Taller de a&juste",                               "mnuEstudio", SoloAbre<Ventana::Ajuste>, false, V::Ninguna, "", "De las crecidas observadas a los parámetros, y cuánto se les puede creer"},
     {"mnuMemoria",                      "Memoria de cá&lculo",                             "mnuEstudio", SoloAbre<Ventana::Memoria>, false, V::Ninguna, "", "Lo que se entrega: datos, métodos y resultados en PDF, ODT o HTML"},

@@ -48,6 +48,8 @@ void Talleres::TrasGuardarComo() {}
 
 void Talleres::TrasEliminar() {}
 
+void Talleres::TrasTraer() {}
+
 void Talleres::AlSalir() {}
 
 }  // namespace shell

@@ -162,6 +162,11 @@ void Talleres::TrasEliminar()
     partes->estudio.TrasEliminar();
 }
 
+void Talleres::TrasTraer()
+{
+    partes->estudio.TrasTraer();
+}
+
 void Talleres::AlSalir()
 {
     partes->estudio.Cierra();

@@ -52,6 +52,7 @@ class Talleres {
     // What becomes of the project: see study::Abierto.
     void TrasGuardarComo();
     void TrasEliminar();
+    void TrasTraer();
     void AlSalir();
 
     // What the memoria is made of: the runs that are on show, those of the project in hand alone.

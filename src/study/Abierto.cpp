@@ -438,6 +438,13 @@ void Abierto::TrasEliminar()
     model::Sentencia([&] { static_cast<void>(s.Disco.Lee(ruta)); }, falta);
 }
 
+void Abierto::TrasTraer()
+{
+    Olvida();
+    PasaA(std::exchange(ruta, {}));
+    AvisaCambio();
+}
+
 void Abierto::Cierra()
 {
     Deja();

@@ -85,6 +85,9 @@ class Abierto {
     void TrasGuardarComo();
     /// Files of projects have been deleted: where this one's study was among them, it is empty.
     void TrasEliminar();
+    /// The files of this project have been replaced by earlier ones: the study is what they hold now, without
+    /// a step.
+    void TrasTraer();
     /// The program ends: what is in memory alone is tried once more, and then offered another place.
     void Cierra();
 

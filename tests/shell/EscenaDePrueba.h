@@ -44,6 +44,8 @@ inline std::string_view Nombre(Ventana ventana)
                                             "Verificar",
                                             "Taller",
                                             "Ajuste",
+                                            "Memoria",
+                                            "dlgAnteriores",
                                             "frmConfigura",
                                             "dlgEliminarProyecto",
                                             "frmAcerca",

@@ -42,7 +42,9 @@ struct Instalacion {
 
 /// The whole program, with the boxes of a scripted user.
 struct EscritorioDePrueba : testing::Test {
-    EscritorioDePrueba()
+    /// `conAnteriores`: what saves take the place of is kept in a folder of the installation's.
+    explicit EscritorioDePrueba(bool conAnteriores = false)
+        : escritorio(instalacion.Dir(), conAnteriores ? instalacion.Dir() + "/usuario" : std::string())
     {
         model::Anfitrion& a = escritorio.s.Anfitrion;
         const model::Anfitrion prueba = anfitrion.Puerta();
@@ -78,7 +80,7 @@ struct EscritorioDePrueba : testing::Test {
 
     Instalacion instalacion{};
     apoyo::AnfitrionPrueba anfitrion{};
-    Escritorio escritorio{instalacion.Dir()};
+    Escritorio escritorio;
 };
 
 }  // namespace shell

@@ -149,6 +149,7 @@ TEST_F(MarcoDePrueba, ElMenuTieneSusEntradasEnOrden)
         {"mnuMapa", "&Mapa de la corrida"},
         {"mnuEstudioBarra", "-"},
         {"mnuRevisar", "Revisar &proyecto"},
+        {"mnuAnteriores", "Versiones a&nteriores"},
         {"mnuTaller", "&Taller de lluvia"},
         {"mnuAjuste", "Taller de a&juste"},
         {"mnuVerificar", "&Verificar"},

@@ -45,6 +45,7 @@ bool EsDeOtro(const QWidget& boton)
 }
 
 struct Pantallas : EscritorioDePrueba {
+    Pantallas() : EscritorioDePrueba(true) {}
     void SetUp() override
     {
         Arranca(instalacion.Quelmar());
@@ -219,8 +220,8 @@ TEST_F(Pantallas, LaBusquedaConLoQueHallaYSinNada)
 
 TEST_F(Pantallas, LosDialogosDelMenu)
 {
-    for (const Ventana cual :
-         {Ventana::frmConfigura, Ventana::dlgEliminarProyecto, Ventana::frmAcerca, Ventana::dlgUEHsEditTabla})
+    for (const Ventana cual : {Ventana::frmConfigura, Ventana::dlgEliminarProyecto, Ventana::frmAcerca,
+                               Ventana::dlgAnteriores, Ventana::dlgUEHsEditTabla})
         Modal([&] { escritorio.Abre(cual, true); });
 }
 
