@@ -17,10 +17,11 @@ body { font: 11pt/1.4 "Liberation Serif", "Times New Roman", serif; color: #111;
 h1, h2, h3, .portada, th, caption, figcaption { font-family: "Liberation Sans", Arial, sans-serif; color: #1d3445 }
 h1 { font-size: 17pt; margin: 1.6em 0 .5em } h2 { font-size: 13pt; margin: 1.4em 0 .4em } h3 { font-size: 11pt; margin: 1.2em 0 .3em }
 h1, h2, h3 { break-after: avoid } p { text-align: justify; margin: .5em 0 }
-.portada { text-align: center; padding: 18vh 0 10vh } .portada img { max-width: 60mm; max-height: 40mm }
+.portada { text-align: center; padding: 55mm 0 20mm } .portada img { max-width: 60mm; max-height: 40mm }
 .portada .titulo { font-size: 26pt; font-weight: bold; margin: 1em 0 .3em } .portada p { text-align: center }
 .portada .subtitulo { font-size: 15pt; margin-bottom: 3em } .portada .fecha { margin-top: 3em }
 .aviso { border-left: 4px solid #b3261e; padding: .2em .8em; background: #fbeeed }
+sub, sup { font-size: 65%; line-height: 0 }
 .formula { text-align: center; margin: .7em 0 }
 nav ol { list-style: none; padding: 0 } nav li { margin: .15em 0 } nav .n2 { padding-left: 1.5em } nav .n3 { padding-left: 3em }
 nav a { color: inherit; text-decoration: none }
@@ -28,11 +29,18 @@ table { border-collapse: collapse; margin: 1em auto; font-size: 9pt; max-width: 
 caption, figcaption { font-size: 9.5pt; font-weight: bold; margin: .3em 0; text-align: center }
 th, td { border-bottom: 1px solid #c5cfd6; padding: .2em .5em; text-align: left; overflow-wrap: anywhere }
 thead { display: table-header-group; border-top: 2px solid #3f5d73; border-bottom: 2px solid #3f5d73 }
-th { font-size: 8.5pt; vertical-align: bottom } .d { text-align: right; white-space: nowrap } tr { break-inside: avoid }
+th { font-size: 8.5pt; vertical-align: bottom } .d { text-align: right } .d, .c { white-space: nowrap } tr { break-inside: avoid }
 .nota { font-size: 9pt; color: #444; margin-top: -.5em } .unidad { font-weight: normal }
-figure { margin: 1em 0; text-align: center; break-inside: avoid } figure img { max-width: 100% }
+caption { break-after: avoid } figure { margin: 1em 0; text-align: center; break-inside: avoid } figure img { max-width: 100% }
 .pagina { break-after: page } li { overflow-wrap: anywhere }
 )";
+
+/// A name, which isn't to be parted at its hyphen.
+bool EsPalabra(std::string_view celda)
+{
+    constexpr std::size_t MasLarga = 24;
+    return celda.size() <= MasLarga && celda.find(' ') == std::string_view::npos;
+}
 
 /// A picture as a part of the page.
 std::string Incrustada(std::string_view tipo, std::string_view bytes)
@@ -73,8 +81,9 @@ class Pagina {
             Escapado(d.titulo) + "</title>\n<meta name=\"author\" content=\"" + Escapado(d.autor) + "\">\n";
         if (!d.fecha.empty()) t += "<meta name=\"date\" content=\"" + Escapado(d.fecha) + "\">\n";
         t += "<style>\n@page { size: " + mm(hoja.ancho) + " " + mm(hoja.alto) + "; margin: " + mm(Margen) +
-             " }\n@media print { body { margin: 0; max-width: none; padding: 0 } }" + std::string(Estilo) +
-             "</style>\n</head>\n<body>\n";
+             "; @bottom-right { content: \"Página \" counter(page) \" de \" counter(pages); font: 8pt "
+             "sans-serif } }\n@media print { body { margin: 0; max-width: none; padding: 0 } }" +
+             std::string(Estilo) + "</style>\n</head>\n<body>\n";
         for (const Bloque& bloque : d.bloques)
             std::visit([this](const auto& b) { Pon(b); }, bloque);
         t += "</body>\n</html>\n";
@@ -145,7 +154,9 @@ class Pagina {
         for (const auto& fila : x.filas) {
             t += "<tr>";
             for (std::size_t k = 0; k < fila.size() && k < x.columnas.size(); ++k)
-                t += "<td" + Clase(x.columnas[k]) + ">" + Escapado(fila[k]) + "</td>";
+                t += "<td" +
+                     (x.columnas[k].izquierda && EsPalabra(fila[k]) ? " class=\"c\"" : Clase(x.columnas[k])) +
+                     ">" + Escapado(fila[k]) + "</td>";
             t += "</tr>\n";
         }
         t += "</tbody>\n</table>\n";

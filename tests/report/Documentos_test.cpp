@@ -103,7 +103,7 @@ TEST(DocumentosDeMemoria, LaPaginaHtmlTieneTodoAdentro)
 {
     const std::string html = Html(DeTodo(), Dibujada);
     EXPECT_NE(html.find("<html lang=\"es\">"), std::string::npos);
-    EXPECT_NE(html.find("@page { size: 210mm 297mm; margin: 25mm }"), std::string::npos);
+    EXPECT_NE(html.find("@page { size: 210mm 297mm; margin: 25mm; @bottom-right"), std::string::npos);
     EXPECT_NE(html.find("<a href=\"#cap-1-1\">1.1 Dentro</a>"), std::string::npos);
     EXPECT_NE(html.find("<h2 id=\"cap-1-1\">1.1 Dentro</h2>"), std::string::npos);
     EXPECT_NE(html.find("<caption>Tabla 1. "), std::string::npos);
