@@ -17,6 +17,7 @@
 #include "batch/TareaLote.h"
 #include "calibration/AnalisisDeSensibilidad.h"
 #include "calibration/EscribeSensibilidad.h"
+#include "model/Sistema.h"
 
 namespace {
 
@@ -143,7 +144,8 @@ TEST(SensibilidadLote, LoQueNoSePuedeSeDice)
         EXPECT_EQ(r.estandar, "");
         return r.errores;
     };
-    EXPECT_TRUE(errores({"no/hay_Conf.vlm"}, 1).starts_with("siro-lote: no se puede abrir /"));
+    EXPECT_TRUE(errores({"no/hay_Conf.vlm"}, 1)
+                    .starts_with("siro-lote: no se puede abrir " + model::RutaAbsoluta("no/hay_Conf.vlm")));
     const Tarea mala("{\"parametros\":\n 3}");
     EXPECT_EQ(errores({Proyecto, "--tarea", mala.ruta}, 1),
               "siro-lote: " + mala.ruta + ", renglón 2: \"parametros\" no es una lista, entre corchetes\n");

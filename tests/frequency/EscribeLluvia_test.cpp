@@ -7,6 +7,7 @@
 
 #include "apoyo/DiscoPrueba.h"
 #include "model/ArchivosTormenta.h"
+#include "model/Disco.h"
 #include "model/Siro.h"
 
 namespace {
@@ -14,8 +15,8 @@ namespace {
 using frequency::CambioDeLluvia;
 using frequency::Escritura;
 
-constexpr const char* Tablas = "/trabajo/TablasPDRs_pdr.vlm";
-constexpr const char* Distribuciones = "/trabajo/distriPp_dpt.vlm";
+const std::string Tablas = model::Ruta("/trabajo", "TablasPDRs_pdr.vlm");
+const std::string Distribuciones = model::Ruta("/trabajo", "distriPp_dpt.vlm");
 constexpr const char* BytesDeTablas =
     "2,0,1,0\r\n\"Regi\xF3n\"\r\n14,10,2\r\n21,20,2\r\n\"\"\r\n\"Vieja\"\r\n9,30,2\r\n\"\"\r\n";
 constexpr const char* BytesDeDistribuciones =
@@ -94,8 +95,7 @@ TEST_F(EscribeLluvia, LoQueOtroCambioNoSeDeshace)
     const CambioDeLluvia cambio = frequency::EscribeTabla(s, tabla, 2).cambio;
     disco.Pon(Tablas, BytesDeTablas + std::string("otro"));
     EXPECT_EQ(frequency::Deshace(s, cambio),
-              std::string(Tablas) +
-                  " ya no es como quedó: otro programa lo cambió, u otra ventana. No se deshace.");
+              Tablas + " ya no es como quedó: otro programa lo cambió, u otra ventana. No se deshace.");
     EXPECT_EQ(disco.Bytes(Tablas), BytesDeTablas + std::string("otro"));
 }
 

@@ -12,6 +12,7 @@
 #include "batch/CorridaLote.h"
 #include "batch/Lote.h"
 #include "model/Disco.h"
+#include "model/Sistema.h"
 
 namespace {
 
@@ -96,7 +97,7 @@ TEST_F(IdfLote, DiceLoQueNoEntiende)
     const struct {
         std::vector<const char*> palabras;
         int estado;
-        const char* error;
+        std::string error;
     } casos[] = {
         {{}, batch::EstadoOrdenErronea, "Falta de dónde: ARCHIVO, --series o --coeficientes"},
         {{ruta.c_str(), "--series", "60=a"}, batch::EstadoOrdenErronea, "ARCHIVO y --series no van juntos"},
@@ -116,14 +117,16 @@ TEST_F(IdfLote, DiceLoQueNoEntiende)
         {{ruta.c_str(), "--razones", "60=0.3,"},
          batch::EstadoOrdenErronea,
          "--razones: \"\" no tiene la forma nombre=valor"},
-        {{"/no/hay.csv"}, batch::EstadoInterrumpido, "no se puede leer /no/hay.csv"},
+        {{"/no/hay.csv"},
+         batch::EstadoInterrumpido,
+         "no se puede leer " + model::RutaAbsoluta("/no/hay.csv")},
         {{"--coeficientes", "k=822"}, batch::EstadoInterrumpido, "Falta el coeficiente a de Sherman"},
         {{ruta.c_str(), "--desagregacion", "5.2-ic"}, batch::EstadoInterrumpido, "Falta el coeficiente I1Id"},
     };
     for (const auto& caso : casos) {
         const Respuesta r = Lote(caso.palabras);
         EXPECT_EQ(r.estado, caso.estado) << caso.error;
-        EXPECT_NE(r.errores.find(std::string("siro-lote: ") + caso.error), std::string::npos) << r.errores;
+        EXPECT_NE(r.errores.find("siro-lote: " + caso.error), std::string::npos) << r.errores;
         EXPECT_EQ(r.estandar, "");
     }
 }
