@@ -24,8 +24,8 @@ class Hojas : public QWidget {
     [[nodiscard]] int Pagina() const { return pagina; }  ///< from 0
     [[nodiscard]] int Paginas() const;
 
-    [[nodiscard]] QSize sizeHint() const override { return {300, 420}; }
-    [[nodiscard]] QSize minimumSizeHint() const override { return {160, 220}; }
+    [[nodiscard]] QSize sizeHint() const override { return {340, 440}; }
+    [[nodiscard]] QSize minimumSizeHint() const override { return {240, 220}; }
 
   protected:
     void paintEvent(QPaintEvent* evento) override;

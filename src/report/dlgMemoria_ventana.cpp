@@ -120,6 +120,8 @@ QLayout* dlgMemoria_ventana::Listas()
     QListWidget* const compos = Tildes(
         "lstCompos", [this] { return f.componentes; }, f.conComponente,
         [this](std::size_t i, bool si) { lstCompos_Tilda(f, i, si); });
+    constexpr int Letras = 44;  // of a chapter's title
+    capitulos->setMinimumWidth(Letras * capitulos->fontMetrics().averageCharWidth());
     return EnPila(
         {Rotulo("lstCapitulos", capitulos), {capitulos, 3}, Rotulo("lstCompos", compos), {compos, 2}});
 }
@@ -135,6 +137,8 @@ QLayout* dlgMemoria_ventana::Campos1()
     };
     QLineEdit* const logo = Campo("txtLogo", f.txtLogo);
     QLineEdit* const archivo = Campo("txtArchivo", f.txtArchivo);
+    constexpr int LetrasDeRuta = 30;
+    archivo->setMinimumWidth(LetrasDeRuta * archivo->fontMetrics().averageCharWidth());
     const auto lista = [this](std::string_view control, const std::vector<std::string>& items, int& indice) {
         QComboBox* const combo = Desplegable(control, items, indice, [&indice](int i) { indice = i; });
         return forms::Partes{Rotulo(control, combo), {combo, 0, Qt::AlignLeft}};
