@@ -26,7 +26,8 @@ discharge of every point of its network: elementary hydrological units, channel
 reaches, dams with their reservoirs, lakes.
 .
 The desktop program, in Spanish, draws the basin over its map, settles storms
-and shows hydrographs; siro-lote makes the same runs without a window.")
+and shows hydrographs; siro-lote makes the same runs without a window, and
+siro-memoria writes the calculation report of a project.")
 if(SIRO_GUI)
     # What no executable names: the Spanish of standard boxes, and the fonts of the forms.
     set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-translations-l10n, fonts-dejavu-core, fonts-liberation")

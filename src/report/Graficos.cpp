@@ -117,7 +117,7 @@ void PonHidrograma(Grafico& g, const UltimaCorrida& u, const ComponenteCorrido& 
     const std::string que = entra ? "entra" : "sale";
     const std::string nombre(c.nombre);
     g.series.push_back({TipoSerie::Linea2D, solo ? "Q " + que : nombre, false, std::move(*q)});
-    MarcaPico(g, (solo ? std::string() : nombre + " ") + Corto(pico, 2) + " m3/s");
+    MarcaPico(g, (solo ? std::string() : nombre + " ") + Corto(pico, 2) + " m³/s");
 }
 
 std::optional<Grafico> DeHidrograma(const Datos& datos, const Figura& figura)
@@ -132,7 +132,7 @@ std::optional<Grafico> DeHidrograma(const Datos& datos, const Figura& figura)
         PonHidrograma(g, *datos.tormenta, *c, false, solo);
     }
     if (g.series.empty()) return {};
-    g.ejeY = "Caudal [m3/s]";
+    g.ejeY = "Caudal [m³/s]";
     g.leyendaVisible = g.series.size() > 1;
     g.muchasLineas = g.series.size() > PocasCurvas;
     if (g.muchasLineas) g.marcas.clear();  // the legend names them; the table has their peaks
@@ -168,8 +168,8 @@ std::optional<Grafico> DeCurvasHASQ(const Datos& datos, const Figura& figura)
     const checks::EmbalseCorrido& e = *c->embalse;
     Grafico g{.tipo = forms::TipoGrafico::Linea};
     g.ejeX = "Altura [m]";
-    g.ejeY = "Almacenamiento [m3]";
-    g.ejeYSecundario = "Descarga [m3/s]";
+    g.ejeY = "Almacenamiento [m³]";
+    g.ejeYSecundario = "Descarga [m³/s]";
     g.leyendaVisible = true;
     Serie S{.tipo = TipoSerie::Linea2D, .leyenda = "Almacenamiento"};
     Serie Q{.tipo = TipoSerie::Linea2D, .leyenda = "Descarga", .ejeSecundario = true};
@@ -185,7 +185,7 @@ std::optional<Grafico> DeCurvasHASQ(const Datos& datos, const Figura& figura)
     if (!(tope > primera)) return {};
     constexpr double Hectometro = 1e6;  // [m3], from which on its cube is the unit
     if (S.celdas.back() >= Hectometro) {
-        g.ejeY = "Almacenamiento [hm3]";
+        g.ejeY = "Almacenamiento [hm³]";
         for (double& celda : S.celdas)
             celda /= Hectometro;
     }
@@ -228,7 +228,7 @@ std::optional<Grafico> DeAbaco(const Datos& datos, const Figura& figura)
     if (curvas.empty()) return {};
     Grafico g{.tipo = forms::TipoGrafico::Linea};
     g.ejeX = "Duración de la tormenta [min]";
-    g.ejeY = "Caudal máximo [m3/s]";
+    g.ejeY = "Caudal máximo [m³/s]";
     g.leyendaVisible = g.muchasLineas = true;
     g.tituloLeyenda = "Recurrencia";
     frequency::PonCurvas(g, curvas, [](double x) { return Corto(std::pow(10, x), 0); });

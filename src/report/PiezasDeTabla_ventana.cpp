@@ -96,8 +96,7 @@ class EnPiezas {
         anchos = {};
         for (std::size_t c = 0; c < tabla.columnas.size(); ++c) {
             const QString titulo = forms::Q(TituloDe(tabla.columnas[c]));
-            double menor = MayorPalabra(titulo, gruesa), natural = menor;
-            if (tabla.columnas[c].izquierda) natural = MayorRenglon(titulo, gruesa);
+            double menor = MayorPalabra(titulo, gruesa), natural = MayorRenglon(titulo, gruesa);
             for (const auto& fila : tabla.filas) {
                 const QString celda = forms::Q(fila[c]);
                 const double todo = MayorRenglon(celda, m);

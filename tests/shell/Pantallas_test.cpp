@@ -149,6 +149,7 @@ TEST_F(Pantallas, LaVentanaPrincipalYLasQueEstanEnElla)
     EnLaPrincipal(Ventana::Verificar, "dlgVerificar");
     EnLaPrincipal(Ventana::Taller, "dlgTaller");
     EnLaPrincipal(Ventana::Ajuste, "dlgAjuste");
+    EnLaPrincipal(Ventana::Memoria, "dlgMemoria");
     Accion("mnuMapa").trigger();  // it comes once the run has been looked over
     ASSERT_TRUE(Espera([this] {
         return escritorio.Principal().findChild<QWidget*>(QStringLiteral("MapaDeCorrida")) != nullptr;
