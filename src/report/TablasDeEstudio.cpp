@@ -23,6 +23,21 @@ std::string Duracion(const Fuente& f, double minutos)
     return horas ? f.n.Corta(minutos / MinutosPorHora) + " h" : f.n.Corta(minutos) + " min";
 }
 
+/// The same of a series: what is read once a day isn't yet the most of any 24 hours.
+std::string Duracion(const Fuente& f, const study::SerieDeMaximos& s)
+{
+    constexpr double Dia = 1440;
+    return s.lecturaDiaria && s.duracion == Dia ? "1 día" : Duracion(f, s.duracion);
+}
+
+/// That of a law's quantiles, which a factor may have brought from one to the other.
+std::string Duracion(const Fuente& f, const frequency::idf::LeyDeDuracion& l)
+{
+    for (const study::SerieDeMaximos& s : f.estudio.estacion->series)
+        if (s.duracion == l.duracion && s.lecturaDiaria && l.factor == 1) return Duracion(f, s);
+    return l.factor < 1 ? "1 día" : Duracion(f, l.duracion);
+}
+
 /// The ticked ones of the configuration; those that it begins with where none is.
 template <typename Lista, typename Todas, typename Defecto>
 std::vector<double> Elegidas(const Lista& lista, const Todas& todas, const Defecto& defecto)
@@ -74,7 +89,7 @@ std::vector<Tabla> Maximos(const Fuente& f)
     std::map<int, std::vector<std::string>> porAnio;
     std::size_t columna = 0;
     for (const study::SerieDeMaximos& s : f.estudio.estacion->series) {
-        t.columnas.push_back(Encabezado(Duracion(f, s.duracion), "mm", false));
+        t.columnas.push_back(Encabezado(Duracion(f, s), "mm", false));
         ++columna;
         for (const study::Maximo& m : s.maximos) {
             porAnio[m.anio].resize(columna, "-");
@@ -103,7 +118,7 @@ constexpr auto DePruebas = std::to_array<ColumnaDe<Prueba>>({
 std::vector<Tabla> Pruebas(const Fuente& f)
 {
     if (!f.estudio.analisis) return {};
-    return Sola(TablaDe<Prueba>(f, "Pruebas de la muestra de " + Duracion(f, f.estudio.maximos->duracion),
+    return Sola(TablaDe<Prueba>(f, "Pruebas de la muestra de " + Duracion(f, *f.estudio.maximos),
                                 std::span(DePruebas), f.estudio.analisis->pruebas));
 }
 
@@ -112,8 +127,8 @@ std::vector<Tabla> Leyes(const Fuente& f)
     if (!f.estudio.analisis) return {};
     constexpr auto Muestra = std::to_array<double>({10, 25, 50, 100});
     const frequency::Analisis& a = *f.estudio.analisis;
-    Tabla t{.titulo = "Leyes ajustadas a los máximos de " + Duracion(f, f.estudio.maximos->duracion) +
-                      ", por " + std::string(frequency::NombreDe(a.metodo)),
+    Tabla t{.titulo = "Leyes ajustadas a los máximos de " + Duracion(f, *f.estudio.maximos) + ", por " +
+                      std::string(frequency::NombreDe(a.metodo)),
             .columnas = {Encabezado("Ley", "", true), Encabezado("Parámetros", "", true),
                          Encabezado("AICc", "", false), Encabezado("A^{2}", "", false)}};
     for (const double R : Muestra)
@@ -142,8 +157,8 @@ std::vector<Tabla> Cuantiles(const Fuente& f)
             .columnas = {Encabezado("Recurrencia", "años", false)},
             .nota = "Leyes:"};
     for (const auto& l : leyes) {
-        t.columnas.push_back(Encabezado(Duracion(f, l.duracion), "mm", false));
-        t.nota += std::string(&l == leyes.data() ? " " : "; ") + Duracion(f, l.duracion) + ", " +
+        t.columnas.push_back(Encabezado(Duracion(f, l), "mm", false));
+        t.nota += std::string(&l == leyes.data() ? " " : "; ") + Duracion(f, l) + ", " +
                   std::string(l.ley->nombre) + (l.recomendada ? " (recomendada)" : "") + ", " +
                   std::to_string(l.anios) + " años";
     }
@@ -256,7 +271,8 @@ constexpr auto Filas = std::to_array<FilaDeTabla>({
     {"pruebas", "las pruebas de independencia, homogeneidad y valores atípicos",
      "No hay una muestra analizada.", Pruebas},
     {"leyes", "las leyes ajustadas, con la que se tomó", "No hay leyes ajustadas.", Leyes},
-    {"cuantiles", "la lámina de cada recurrencia, por duración", "No hay leyes ajustadas.", Cuantiles},
+    {"cuantiles", "la lámina de cada recurrencia, por duración",
+     "Las láminas de cada recurrencia piden curvas de intensidad, y el estudio no las tiene.", Cuantiles},
     {"coeficientes", "los coeficientes de las curvas de intensidad", "No hay curvas de intensidad.",
      Coeficientes},
     {"intensidades", "la intensidad por duración y recurrencia", "No hay curvas de intensidad.",

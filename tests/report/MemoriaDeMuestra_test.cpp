@@ -92,6 +92,39 @@ TEST(MemoriaDeQuelmar, TieneTodosLosCapitulosSinFaltas)
     EXPECT_NE(Todo(d).find("La tormenta corrida no es la de diseño del estudio"), std::string::npos);
 }
 
+// A day's readings stay a day's; what a factor of 1.13 makes of them is of 24 hours. Gumbel by L-moments:
+// alfa = l2 / ln 2, xi = l1 - 0.577216 alfa; x(50) = xi + 3.901939 alfa.
+TEST(MemoriaDeQuelmar, LaLaminaDeCadaRecurrenciaEsLaDeLaLey)
+{
+    Datos datos = Muestra().datos;
+    datos.estudio.taller = Taller();
+    std::vector<double> x;
+    for (const study::Maximo& m : datos.estudio.taller.estaciones[0].series[0].maximos)
+        x.push_back(m.valor);
+    std::sort(x.begin(), x.end());
+    double b0 = 0, b1 = 0;
+    const auto n = static_cast<double>(x.size());
+    for (std::size_t i = 0; i < x.size(); ++i) {
+        b0 += x[i] / n;
+        b1 += x[i] * static_cast<double>(i) / (n - 1) / n;
+    }
+    const double alfa = (2 * b1 - b0) / 0.693147180559945, xi = b0 - 0.577215664901533 * alfa;
+    const double x50 = xi + 3.901938657 * alfa;
+    const auto celda = [&](std::string_view columna) {
+        const Documento d = Memoria(datos, {.decimal = '.'}, "[[tabla cuantiles]]");
+        const Tabla& t = std::get<Tabla>(d.bloques.at(0));
+        EXPECT_EQ(EnLlano(t.columnas.at(1).titulo), columna);
+        for (const auto& fila : t.filas)
+            if (fila[0] == "50") return std::stod(fila[1]);
+        return 0.0;
+    };
+    EXPECT_NEAR(celda("24 h"), 1.13 * x50, 0.051);
+    // This one starts from a day.
+    datos.estudio.taller.idf.desagregacion = "5.2-ic";
+    datos.estudio.taller.idf.coeficientes = {{"I1Id", 10}};
+    EXPECT_NEAR(celda("1 día"), x50, 0.051);
+}
+
 // The peaks of the table are those of the run, at the duration and recurrence that its head tells.
 TEST(MemoriaDeQuelmar, LosPicosDeLaSerieEstanEnSuLugar)
 {

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "checks/CorridaDePrueba.h"
+#include "report/Html.h"
 #include "report/Plantilla.h"
 
 namespace report {
@@ -245,6 +246,38 @@ TEST_F(MemoriaAMano, LosElegidosSonLosQueSeDicen)
                                    {Figura::Clase::Hidrograma, {"c-1"}},
                                    {Figura::Clase::Hidrograma, {"u-1", "c-1"}}}));
     EXPECT_EQ(ComponentesConHidrograma(datos), (Celdas{"u-1", "c-1"}));
+}
+
+TEST_F(MemoriaAMano, LosNombresNoSonMarcas)
+{
+    const std::string ueh = "u-<b>&\"*{{x}}", cauce = "c-]]>'^{_";
+    s.Red.ColUEHs.Item(1).NombreUEH = ueh;
+    s.Red.ColUEHs.Item(1).Cauce_aa = cauce;
+    s.Red.ColUEHs.Item(1).Referencia = "<i>[[fin]]";
+    s.Red.ColCauces.Item(1).NombreCauce = cauce;
+    datos.configuracion.TituloProyecto = "**{{fecha}}** <u>";
+    const Documento d = Hecha(PlantillaDeFabrica());
+    EXPECT_EQ(d.faltas, std::vector<Falta>{});
+    EXPECT_EQ(d.titulo, "**{{fecha}}** <u>");
+    EXPECT_EQ(Celda(d, "Resultados", ueh, "Qp sale"), "16,667");
+    EXPECT_EQ(Tablas(d, "Unidades").at(0).filas[0][1], "<i>[[fin]]");
+    const std::string html = Html(d, {});
+    EXPECT_NE(html.find("u-&lt;b&gt;&amp;&quot;*{{x}}"), std::string::npos);
+    for (const std::string_view marca : {"<b>&", "<i>[", "<u>", "]]>'"})
+        EXPECT_EQ(html.find(marca), std::string::npos) << marca;
+}
+
+TEST_F(MemoriaAMano, UnaCorridaRechazadaNoTieneResultadosYLoDice)
+{
+    s.Tormenta.PpTormenta = 0;
+    datos.tormenta = checks::UltimaCorrida::DeUna(s, s.Tormenta, false);
+    const Documento d = Memoria(datos, eleccion, PlantillaDeFabrica());
+    EXPECT_EQ(d.faltas, std::vector<Falta>{});
+    EXPECT_TRUE(Tablas(d, "Resultados").empty());
+    EXPECT_TRUE(Tablas(d, "Balance").empty());
+    EXPECT_EQ(Tablas(d, "Avisos de la corrida").size(), 1U);
+    const Celdas todo = Parrafos(d);
+    EXPECT_NE(std::find(todo.begin(), todo.end(), "No hay una tormenta corrida hasta su fin."), todo.end());
 }
 
 TEST_F(MemoriaAMano, LaOrdenDeCadaFormaDeLluvia)
