@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <QAction>
 #include <QDir>
 #include <QFocusEvent>
 #include <QHeaderView>
@@ -6,7 +7,9 @@
 #include <QStyleOption>
 #include <QTimer>
 #include <QTreeView>
+#include <memory>
 #include <utility>
+#include <vector>
 
 #include "model/RutaProyecto.h"
 #include "shell/frmConfigura_ventana.h"
@@ -251,7 +254,59 @@ QWidget* frmConfigura_ventana::FichaDeSelecciones()
                                               Boton("BtnRecuDef", [this] { BtnRecuDef(c); })),
                              MarcoDeSeleccion(TituloDuraciones, 'D', model::Duraciones, c.CheckD,
                                               Boton("BtnDurDef", [this] { BtnDurDef(c); }))}));
+    PonDeshacer(*ficha);
     return ficha;
+}
+
+/// Undo and redo of the ticks, by key and by menu. Other ones that come from a file begin anew.
+void frmConfigura_ventana::PonDeshacer(QWidget& ficha)
+{
+    struct Tildes {
+        decltype(c.CheckR) R{};
+        decltype(c.CheckD) D{};
+        bool operator==(const Tildes&) const = default;
+    };
+    struct Pasos {
+        Tildes vistas{};
+        model::ControlesConfigura guardados{};
+        std::vector<Tildes> hechos{}, deshechos{};
+    };
+    const auto pasos = std::make_shared<Pasos>();
+    pasos->vistas = {c.CheckR, c.CheckD};
+    pasos->guardados = f.guardados;
+    const auto orden = [&](const QString& leyenda, const QList<QKeySequence>& teclas,
+                           std::vector<Tildes> Pasos::*desde, std::vector<Tildes> Pasos::*hacia) {
+        auto* const accion = new QAction(leyenda, &ficha);
+        accion->setShortcuts(teclas);
+        accion->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        ficha.addAction(accion);
+        connect(accion, &QAction::triggered, &ficha, [this, pasos, desde, hacia] {
+            auto& pila = (*pasos).*desde;
+            if (pila.empty()) return;
+            ((*pasos).*hacia).push_back(std::exchange(pasos->vistas, pila.back()));
+            pila.pop_back();
+            Suceso([&] {
+                c.CheckR = pasos->vistas.R;
+                c.CheckD = pasos->vistas.D;
+            });
+        });
+        AlMostrar([accion, pasos, desde] { accion->setEnabled(!((*pasos).*desde).empty()); });
+    };
+    ficha.setContextMenuPolicy(Qt::ActionsContextMenu);
+    AlMostrar([this, pasos] {
+        const Tildes ahora{c.CheckR, c.CheckD};
+        const bool deArchivo = std::exchange(pasos->guardados, f.guardados) != f.guardados;
+        if (ahora == pasos->vistas) return;
+        if (deArchivo)
+            pasos->hechos.clear();
+        else
+            pasos->hechos.push_back(pasos->vistas);
+        pasos->deshechos.clear();
+        pasos->vistas = ahora;
+    });
+    orden(QStringLiteral("&Deshacer"), {QKeySequence::Undo}, &Pasos::hechos, &Pasos::deshechos);
+    orden(QStringLiteral("&Rehacer"), {Qt::CTRL | Qt::Key_Y, Qt::CTRL | Qt::SHIFT | Qt::Key_Z},
+          &Pasos::deshechos, &Pasos::hechos);
 }
 
 // --- image, units, drawing ---

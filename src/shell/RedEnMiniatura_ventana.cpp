@@ -61,6 +61,8 @@ void RedEnMiniatura::paintEvent(QPaintEvent* /*evento*/)
         f.vista.lienzo = {lado, lado};
         f.vista.recentra = f.vista.reescala = true;
         editor::Redibuja(f, s);
+        editor::PonEscala(f.vista, f.vista.sldEscala * 5 / 4);  // names reach beyond their icons
+        editor::Redibuja(f, s);
         pintor.Pinta(sobre, f, donde);
     }
     sobre.setPen(palette().color(QPalette::Mid));

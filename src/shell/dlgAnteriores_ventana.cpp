@@ -18,7 +18,7 @@ namespace shell {
 
 namespace {
 
-constexpr int LetrasDeFecha = 24, LetrasDeLugar = 18, LetrasDeCampo = 18;
+constexpr int LetrasDeFecha = 24, LetrasDeLugar = 24, LetrasDeCampo = 18;
 
 }  // namespace
 

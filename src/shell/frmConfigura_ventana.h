@@ -36,6 +36,7 @@ class frmConfigura_ventana : public forms::Formulario {
     QWidget* FichaDeArchivos();
     QWidget* FichaDeTitulos();
     QWidget* FichaDeSelecciones();
+    void PonDeshacer(QWidget& ficha);
     QWidget* FichaDeImagen();
     std::array<forms::Parte, 3> ColumnaDeDirectorios();
     std::array<forms::Parte, 3> ColumnaDeConfiguraciones();

@@ -155,5 +155,31 @@ TEST_F(EstudioDelProyecto, LoObservadoLlegaALosHidrogramasPrimeroLoDeLaTormentaE
     EXPECT_FALSE(Esta("Quelmar_serie_1.csv"));
 }
 
+// The files are put in place by somebody else than the study: what it had in memory isn't written over them.
+TEST_F(EstudioDelProyecto, TrasTraerUnaVersionEsElDeEllaSinPasos)
+{
+    Arranca(instalacion.Quelmar());
+    QCoreApplication::processEvents();
+    Cambia("Uno");
+    Cambia("Dos");
+    const auto trae = [&] {
+        escritorio.entorno.Atiende([&] { escritorio.Estudio().Talleres().TrasTraer(); });
+        QCoreApplication::processEvents();
+    };
+    escritorio.s.Disco.Reemplaza({{Ruta("Quelmar_Estudio.json"), Texto("Uno")}});
+    trae();
+    EXPECT_EQ(Estudio().EnMano().taller, Con("Uno"));
+    EXPECT_EQ(Estudio().PorDeshacer(), "");
+    EXPECT_EQ(escritorio.s.Disco.Lee(Ruta("Quelmar_Estudio.json")), Texto("Uno"));
+    anfitrion->sucesos.clear();
+    Cambia("Tres");
+    EXPECT_TRUE(anfitrion->sucesos.empty()) << "it knows what is there";
+    EXPECT_EQ(escritorio.s.Disco.Lee(Ruta("Quelmar_Estudio.json")), Texto("Tres"));
+    QFile::remove(forms::Q(Ruta("Quelmar_Estudio.json")));
+    trae();
+    EXPECT_EQ(Estudio().EnMano(), study::Estudio{});
+    EXPECT_FALSE(Esta("Quelmar_Estudio.json"));
+}
+
 }  // namespace
 }  // namespace shell

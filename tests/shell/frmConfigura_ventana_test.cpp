@@ -205,6 +205,41 @@ TEST_F(VentanaConfigura, LosTitulosSeSeleccionanAlRecibirElFocoYLaFechaSePoneCon
 
 // --- boxes, options, default selections ---
 
+TEST_F(VentanaConfigura, LasCasillasTildadasSeDeshacenYSeRehacen)
+{
+    Abre();
+    Ficha(2);
+    const auto tildadas = [this] {
+        std::string cuales;
+        for (const char* casilla : {"CheckR2", "CheckR500", "CheckD10"})
+            cuales += C<QCheckBox>(casilla).isChecked() ? '1' : '0';
+        return cuales;
+    };
+    const auto tecla = [this](Qt::Key cual, Qt::KeyboardModifiers con = Qt::ControlModifier) {
+        QTest::keyClick(&C<QCheckBox>("CheckR500"), cual, con);
+    };
+    EXPECT_EQ(tildadas(), "101");
+    tecla(Qt::Key_Z);
+    EXPECT_EQ(tildadas(), "101") << "nothing has been done yet";
+    Pulsa(C<QCheckBox>("CheckR500"));
+    Pulsa(C<QCheckBox>("CheckD10"));
+    Pulsa(C("BtnRecuDef"));
+    EXPECT_EQ(tildadas(), "100");
+    tecla(Qt::Key_Z);
+    EXPECT_EQ(tildadas(), "110") << "the default selection is one step";
+    tecla(Qt::Key_Z);
+    tecla(Qt::Key_Z);
+    EXPECT_EQ(tildadas(), "101");
+    tecla(Qt::Key_Y);
+    EXPECT_EQ(tildadas(), "111");
+    tecla(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(tildadas(), "110");
+    EXPECT_EQ(s.frmConfigura.CheckD[1], 0);
+    Pulsa(C<QCheckBox>("CheckR2"));
+    tecla(Qt::Key_Y);
+    EXPECT_EQ(tildadas(), "010") << "nothing is left to be done again";
+}
+
 TEST_F(VentanaConfigura, LasCasillasYOpcionesLleganASusControles)
 {
     Abre();
