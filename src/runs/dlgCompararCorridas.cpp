@@ -25,6 +25,7 @@ namespace {
 
 constexpr std::size_t MaxGuardadas = 200;  // in the list, the newest: the ledger's own window has them all
 constexpr std::size_t MaxCurvas = 12;      // on one chart: more can't be told apart
+constexpr std::size_t CurvasDeSerie = 6;   // as many as leave the legend room beside the table
 constexpr std::int16_t PorBloques = 7;     // the temporal distribution that a recorded storm is run with
 constexpr std::string_view DeOtro = "Otro proyecto...", LaUltima = "La última corrida",
                            EnMano = "La tormenta en mano", VariasRecurrencias = "Varias";
@@ -185,7 +186,7 @@ std::vector<std::int16_t> RecurrenciasDe(const std::vector<PicoDeSerie>& picos)
 /// As many as have room with all sides, spread evenly, the least and the greatest among them.
 std::vector<std::int16_t> Repartidas(const std::vector<std::int16_t>& todas, std::size_t lados)
 {
-    const std::size_t caben = std::max<std::size_t>(1, MaxCurvas / std::max<std::size_t>(1, lados));
+    const std::size_t caben = std::max<std::size_t>(1, CurvasDeSerie / std::max<std::size_t>(1, lados));
     if (todas.size() <= caben) return todas;
     if (caben == 1) return {todas.back()};
     std::vector<std::int16_t> algunas;
@@ -232,6 +233,10 @@ void MuestraComponente(dlgCompararCorridas& f)
     const Emparejado* const e = Elegido(f);
     f.tema = e == nullptr ? "" : e->Nombre() + ", " + TormentaDe(f);
     f.Hidrogramas = e == nullptr ? forms::Grafico{} : GraficoDeHidrogramas(f, *e);
+    f.lblHidrograma = !f.Hidrogramas.series.empty() ? ""
+                      : f.chkEntra ? "Ningún lado tiene el caudal que entra a ese componente."
+                                   : "Ningún lado tiene el hidrograma de ese componente. Una serie no los "
+                                     "guarda: para verlos corra una tormenta sola (F4, F5).";
     std::vector<PicoDeSerie> picos;
     if (e != nullptr) picos = PicosDeSerie(f.corridos, *e);
     std::vector<std::string> items{std::string(VariasRecurrencias)};

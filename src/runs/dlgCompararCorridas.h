@@ -89,8 +89,8 @@ struct dlgCompararCorridas {
     bool chkEntra = false, minutos = false;
     forms::Lista cmbRecurrencia{};
     forms::Grafico Hidrogramas{}, Abaco{};
-    std::string tema{};      ///< component and storm
-    std::string lblSerie{};  ///< why there is no abacus
+    std::string tema{};                       ///< component and storm
+    std::string lblHidrograma{}, lblSerie{};  ///< why there is no chart
 };
 
 /// Opening: where sides may come from, of what the project in hand keeps too; the storms for projects. Sides

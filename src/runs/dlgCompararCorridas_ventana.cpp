@@ -127,6 +127,18 @@ QWidget* dlgCompararCorridas_ventana::Componentes(std::string_view control)
     return lista;
 }
 
+/// Why a chart isn't there, in its place.
+QLabel* dlgCompararCorridas_ventana::Motivo(std::string_view control, const std::string& motivo,
+                                            QWidget& grafico)
+{
+    QLabel* const texto = Texto(control, motivo);
+    texto->setWordWrap(true);
+    texto->setAlignment(Qt::AlignTop);
+    VisibleSi(texto, [&motivo] { return !motivo.empty(); });
+    VisibleSi(&grafico, [&motivo] { return motivo.empty(); });
+    return texto;
+}
+
 QWidget* dlgCompararCorridas_ventana::PaginaDeHidrogramas()
 {
     hidrogramas = new forms::Lamina(entorno, "lamHidrogramas", "Hidrogramas comparados");
@@ -140,7 +152,8 @@ QWidget* dlgCompararCorridas_ventana::PaginaDeHidrogramas()
     costado->setLayout(pila);
     VisibleSi(costado, [this] { return !imprimiendo; });
     auto* const pagina = new QWidget;
-    pagina->setLayout(EnFila({costado, {hidrogramas, 1}}));
+    pagina->setLayout(EnFila(
+        {costado, {EnPila({Motivo("lblHidrograma", f.lblHidrograma, *hidrogramas), {hidrogramas, 1}}), 1}}));
     return pagina;
 }
 
@@ -158,12 +171,9 @@ QWidget* dlgCompararCorridas_ventana::PaginaDeSeries()
     tabla->layout()->setContentsMargins(0, 0, 0, 0);
     VisibleSi(costado, [this] { return !imprimiendo; });
     VisibleSi(tabla, [this] { return !imprimiendo && f.lblSerie.empty(); });
-    VisibleSi(abaco, [this] { return f.lblSerie.empty(); });
-    QLabel* const sinSerie = Texto("lblSerie", f.lblSerie);
-    sinSerie->setWordWrap(true);
-    VisibleSi(sinSerie, [this] { return !f.lblSerie.empty(); });
     auto* const pagina = new QWidget;
-    pagina->setLayout(EnFila({costado, {EnPila({sinSerie, {abaco, 3}, {tabla, 2}}), 1}}));
+    pagina->setLayout(
+        EnFila({costado, {EnPila({Motivo("lblSerie", f.lblSerie, *abaco), {abaco, 3}, {tabla, 1}}), 1}}));
     return pagina;
 }
 

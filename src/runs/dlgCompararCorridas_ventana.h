@@ -48,6 +48,7 @@ class dlgCompararCorridas_ventana : public forms::Ventana {
     QWidget* PaginaDeHidrogramas();
     QWidget* PaginaDeSeries();
     QWidget* Componentes(std::string_view control);
+    QLabel* Motivo(std::string_view control, const std::string& motivo, QWidget& grafico);
     QLayout* Botones();
     void PonColumnas();
     void Agrega();

@@ -117,6 +117,7 @@ TEST_F(DlgCompararCorridas, LosHidrogramasSeSuperponenConSuPico)
     lstCompos_Click(f);
     chkEntra_Click(f, true);
     EXPECT_TRUE(f.Hidrogramas.series.empty()) << "a UEH has no inflow";
+    EXPECT_EQ(f.lblHidrograma, "Ningún lado tiene el caudal que entra a ese componente.");
     EXPECT_FALSE(f.lblSerie.empty());
     EXPECT_TRUE(f.Abaco.series.empty());
 }

@@ -152,6 +152,7 @@ TEST_F(MarcoDePrueba, ElMenuTieneSusEntradasEnOrden)
         {"mnuAnteriores", "Versiones a&nteriores"},
         {"mnuTaller", "&Taller de lluvia"},
         {"mnuAjuste", "Taller de a&juste"},
+        {"mnuMemoria", "Memoria de cá&lculo"},
         {"mnuVerificar", "&Verificar"},
         {"mnuBuscarBarra", "-"},
         {"mnuBuscar", "&Buscar un comando"},
