@@ -93,6 +93,16 @@ std::vector<double> AnchosDe(const Tabla& t, double pagina)
     return deseo;
 }
 
+/// Whether a table is better moved to the next page than parted.
+bool EsCorta(const Tabla& t)
+{
+    constexpr std::size_t PocasFilas = 18, PocasLetras = 60;
+    return t.filas.size() <= PocasFilas && std::all_of(t.filas.begin(), t.filas.end(), [](const auto& fila) {
+               return std::all_of(fila.begin(), fila.end(),
+                                  [](const std::string& celda) { return celda.size() <= PocasLetras; });
+           });
+}
+
 class Paquete {
   public:
     Paquete(const Documento& documento, const Dibujante& dibujante)
@@ -262,7 +272,6 @@ class Paquete {
     /// Styles of a table's own: its width, those of its columns.
     void EstilosDe(const Tabla& x, const std::string& nombre)
     {
-        constexpr std::size_t Juntas = 18;  // rows that are worth a page of their own
         double total = 0;
         const std::vector<double> anchos = AnchosDe(x, ancho);
         for (std::size_t k = 0; k < anchos.size(); ++k) {
@@ -275,8 +284,7 @@ class Paquete {
         estilos += "<style:style style:name=\"" + nombre +
                    "\" style:family=\"table\"><style:table-properties style:width=\"" + Mm(total) +
                    "\" table:align=\"center\" table:border-model=\"collapsing\"" +
-                   (x.filas.size() <= Juntas ? " style:may-break-between-rows=\"false\"" : "") +
-                   "/></style:style>\n";
+                   (EsCorta(x) ? " style:may-break-between-rows=\"false\"" : "") + "/></style:style>\n";
     }
 
     void Pon(const Tabla& x)

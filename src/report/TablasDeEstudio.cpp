@@ -247,8 +247,8 @@ std::vector<Tabla> Observadas(const Fuente& f)
     Tabla t{.titulo = "Crecidas observadas",
             .columnas = {Encabezado("Evento", "", true), Encabezado("Comienzo", "", true),
                          Encabezado("Se usa para", "", true), Encabezado("Componente", "", true),
-                         Encabezado("Lecturas", "", false), Encabezado("La mayor", "", false),
-                         Encabezado("Fuente", "", true)}};
+                         Encabezado("Lecturas", "", false), Encabezado("La mayor", "", false)}};
+    std::vector<std::string> fuentes;  // long ones, and often the same
     for (const study::Evento& e : f.estudio.ajuste.eventos)
         for (const study::Observacion& o : e.observaciones) {
             double mayor = 0;
@@ -259,9 +259,12 @@ std::vector<Tabla> Observadas(const Fuente& f)
                                                             : "nada";
             t.filas.push_back(
                 {e.nombre, ONada(e.inicio), papel, o.componente, std::to_string(o.puntos.size()),
-                 o.puntos.empty() ? "-" : f.n.Corta(mayor) + (o.magnitud == "nivel" ? " m" : " m³/s"),
-                 ONada(o.fuente)});
+                 o.puntos.empty() ? "-" : f.n.Corta(mayor) + (o.magnitud == "nivel" ? " m" : " m³/s")});
+            const bool dicha = std::find(fuentes.begin(), fuentes.end(), o.fuente) != fuentes.end();
+            if (!o.fuente.empty() && !dicha) fuentes.push_back(o.fuente);
         }
+    for (const std::string& fuente : fuentes)
+        t.nota += (t.nota.empty() ? fuentes.size() == 1 ? "Fuente: " : "Fuentes: " : "; ") + fuente;
     return Sola(std::move(t));
 }
 

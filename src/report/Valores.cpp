@@ -44,8 +44,8 @@ std::string DelResumen(const Fuente& f, std::string_view titulo, std::string_vie
 {
     const std::string celda = f.una == nullptr ? "-" : f.CeldaDelResumen(nullptr, titulo, unidad);
     if (celda == "-") return "";
-    // No line ends behind a true minus.
-    return (celda.starts_with('-') ? "−" + celda.substr(1) : celda) + " " + Unidad(unidad);
+    // No line ends behind a true minus, nor at such a blank.
+    return (celda.starts_with('-') ? "−" + celda.substr(1) : celda) + " " + Unidad(unidad);
 }
 
 std::string Salidas(const Fuente& f)
@@ -266,6 +266,7 @@ bool HayAlturas(const Fuente& f)
 constexpr auto Condiciones = std::to_array<FilaDeCondicion>({
     {"tormenta", "se corrió una tormenta y llegó a su fin", [](const Fuente& f) { return f.una != nullptr; }},
     {"serie", "se corrió una serie", [](const Fuente& f) { return f.serie != nullptr; }},
+    {"varios", "se muestran dos hidrogramas o más", [](const Fuente& f) { return f.elegidos.size() > 1; }},
     {"cambios", "algo ha cambiado desde la corrida", [](const Fuente& f) { return !f.d.cambios.empty(); }},
     {"avisos", "la corrida dio errores, avisos o notas", [](const Fuente& f) { return f.d.tormenta != nullptr && !f.d.tormenta->avisos.empty(); }},
     {"errores", "la corrida dio errores", [](const Fuente& f) { return f.d.tormenta != nullptr && CuantosAvisos(f, checks::Gravedad::Error) > 0; }},

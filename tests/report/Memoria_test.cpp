@@ -248,6 +248,20 @@ TEST_F(MemoriaAMano, LosElegidosSonLosQueSeDicen)
     EXPECT_EQ(ComponentesConHidrograma(datos), (Celdas{"u-1", "c-1"}));
 }
 
+TEST_F(MemoriaAMano, LasCrecidasObservadasConSuFuenteUnaVez)
+{
+    const study::Observacion o{
+        .componente = "c-1", .fuente = "El aforador", .puntos = {{0, 1.5}, {10, 16.25}}};
+    study::Observacion nivel = o;
+    nivel.magnitud = "nivel";
+    datos.estudio.ajuste.eventos = {{.nombre = "uno", .inicio = "2019-03-04 12:00", .observaciones = {o}},
+                                    {.nombre = "dos", .papel = "fuera", .observaciones = {nivel}}};
+    const Tabla t = Tablas(Hecha("[[si observadas]]\n[[tabla observadas]]\n[[fin]]")).at(0);
+    EXPECT_EQ(t.filas, (std::vector<Celdas>{{"uno", "2019-03-04 12:00", "calibrar", "c-1", "2", "16,25 m³/s"},
+                                            {"dos", "-", "nada", "c-1", "2", "16,25 m"}}));
+    EXPECT_EQ(t.nota, "Fuente: El aforador");
+}
+
 TEST_F(MemoriaAMano, LosNombresNoSonMarcas)
 {
     const std::string ueh = "u-<b>&\"*{{x}}", cauce = "c-]]>'^{_";
