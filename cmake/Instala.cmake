@@ -15,7 +15,8 @@ endif()
 function(siro_instala dir_programas dir_datos dir_textos)
     install(TARGETS siro-lote RUNTIME DESTINATION ${dir_programas} ${ARGN})
     install(DIRECTORY data/ DESTINATION ${dir_datos} ${ARGN} 
-        PATTERN README.md EXCLUDE PATTERN .gitattributes EXCLUDE)
+        PATTERN README.md EXCLUDE PATTERN .gitattributes EXCLUDE
+        PATTERN Plantillas EXCLUDE) # the programs have it inside; a file there is the user's, and no upgrade's to replace
     install(FILES README.md README.es.md CHANGELOG.md LICENSE paquete/copyright DESTINATION ${dir_textos} ${ARGN})
     install(FILES data/README.md DESTINATION ${dir_textos} RENAME datos.md ${ARGN})
     if(SIRO_GUI)
