@@ -39,6 +39,7 @@ inline std::string_view Nombre(Ventana ventana)
                                             "Avisos",
                                             "Resumen",
                                             "Comparar",
+                                            "CompararCorridas",
                                             "Mapa",
                                             "Revisar",
                                             "Verificar",
