@@ -9,8 +9,8 @@ namespace calibration {
 
 std::span<const checks::casos::Familia> Familias()
 {
-    static constexpr std::array<checks::casos::Familia, 2> Todas{casos::FilasDePuntajes,
-                                                                 casos::FilasDeSensibilidad};
+    static constexpr std::array<checks::casos::Familia, 3> Todas{
+        casos::FilasDePuntajes, casos::FilasDeSensibilidad, casos::FilasDeBusqueda};
     return Todas;
 }
 

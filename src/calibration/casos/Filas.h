@@ -12,5 +12,6 @@ using checks::casos::FilaDeCaso;
 
 std::span<const FilaDeCaso> FilasDePuntajes();      ///< scores of published series
 std::span<const FilaDeCaso> FilasDeSensibilidad();  ///< functions whose indices are known
+std::span<const FilaDeCaso> FilasDeBusqueda();      ///< functions whose least value is known
 
 }  // namespace calibration::casos
