@@ -301,6 +301,8 @@ constexpr auto Condiciones = std::to_array<FilaDeCondicion>({
     {"comitente", "se escribió a quién se entrega", [](const Fuente& f) { return !f.e.comitente.empty(); }},
     {"ubicacion", "la configuración dice la ubicación", [](const Fuente& f) { return !f.d.configuracion.Ubicacion.empty(); }},
     {"cuenca", "la configuración dice la cuenca", [](const Fuente& f) { return !f.d.configuracion.Cuenca.empty(); }},
+    {"subcuenca", "la configuración dice la subcuenca", [](const Fuente& f) { return !f.d.configuracion.Subcuenca.empty(); }},
+    {"fuente_maximos", "la estación dice la fuente de sus máximos", [](const Fuente& f) { return f.estudio.estacion != nullptr && !f.estudio.estacion->fuente.empty(); }},
 });
 
 constexpr auto Formulas = std::to_array<FilaDeFormula>({

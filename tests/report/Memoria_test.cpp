@@ -330,6 +330,8 @@ TEST_F(MemoriaAMano, SinCorridaNoHayTablasVaciasNiFaltas)
 {
     const Documento d = Memoria({}, {}, PlantillaDeFabrica());
     EXPECT_EQ(d.faltas, std::vector<Falta>{});
+    const Celdas parrafos = Parrafos(d);
+    EXPECT_EQ(std::find(parrafos.begin(), parrafos.end(), "Cuenca: (sin dato)."), parrafos.end());
     for (const Tabla& t : Tablas(d))
         EXPECT_FALSE(t.filas.empty()) << t.titulo;
     EXPECT_TRUE(Tablas(d).empty());
