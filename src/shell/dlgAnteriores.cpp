@@ -8,9 +8,9 @@
 
 #include "model/Avisos.h"
 #include "model/Camino.h"
+#include "model/Candado.h"
 #include "model/Configuracion.h"
 #include "model/Falla.h"
-#include "model/Huellas.h"
 #include "model/Siro.h"
 #include "model/Sistema.h"
 #include "model/VidaProyecto.h"
@@ -171,10 +171,8 @@ bool cmdTraer(dlgAnteriores& f, Siro& s, const model::Anteriores& anteriores)
     const std::string directorio = model::DirectorioDeProyecto(version.proyecto),
                       conf = model::Ruta(directorio,
                                          model::ArchivoConf(model::NombreDeProyecto(version.proyecto)));
-    std::vector<std::string> rutas;
-    for (const model::CambioArchivo& archivo : version.archivos)
-        rutas.push_back(model::Ruta(directorio, archivo.ruta));
-    if (enMano && !model::PuedeGuardar(s, rutas)) return false;
+    // What another program has left in the files isn't asked about: it is kept with them.
+    if (enMano && !model::PuedeSerDeDos(s)) return false;
     if (!Escribe(s, [&] { model::TraeDeVuelta(anteriores, version); })) return false;
     if (enMano) model::AbreProyectoDe(s, conf);
     Llena(f, anteriores);

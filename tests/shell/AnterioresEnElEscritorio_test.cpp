@@ -97,6 +97,7 @@ TEST_F(AnterioresEnElEscritorio, SeVeSeCopiaSeTraeYSeDeshace)
         EXPECT_NE(QApplication::clipboard()->text().indexOf(QStringLiteral("Area\t")), -1);
         anfitrion->respuestas = {true};
         Pulsa(Control<QPushButton>(v, "cmdTraer"));
+        EXPECT_EQ(anfitrion->Preguntas().size(), 1U) << "nothing beside whether it is to be brought back";
         EXPECT_EQ(Control<QTableView>(v, "tblVersiones").model()->rowCount(), 2);
         EXPECT_TRUE(v.isVisible());
     });
