@@ -110,7 +110,8 @@ std::size_t CorreTormentasSinAvisos(Siro& s, const std::vector<int>& numeros, in
     std::atomic<std::size_t> tope{cuantas};  // place of the first storm that isn't silent
     EnHilos(hilos, cuantas, [&](bool aparte) {
         try {
-            Calculadora calculadora(s.Red, s.Pasos, {.VariasCorridas = cuantas > 1});
+            // Who looks wants heights and storages too, which storms that are only summed up leave out.
+            Calculadora calculadora(s.Red, s.Pasos, {.VariasCorridas = cuantas > 1 && !mira});
             for (std::size_t i = siguiente++; i < tope; i = siguiente++) {
                 if (avisa && !aparte) avisa(listas[i].numero);
                 if (!Corre(s, calculadora, listas[i], mira)) Baja(tope, i);

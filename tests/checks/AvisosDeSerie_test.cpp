@@ -6,6 +6,8 @@
 #include <string>
 
 #include "checks/CorridaDePrueba.h"
+#include "engine/mdlSeriePDR.h"
+#include "results/CorridaDeMuestra.h"
 
 namespace checks {
 namespace {
@@ -134,6 +136,19 @@ TEST_F(LaSerie, ElTiempoAgregadoQueDiceAlcanzaParaTodas)
     EXPECT_NE(Busca(AvisosDeSerie(s, 2), 101, "c-2"), nullptr);
     s.Pasos.N0Dur = minutos;
     EXPECT_EQ(Busca(AvisosDeSerie(s, 2), 101, "c-2"), nullptr);
+}
+
+// Level pools of several storms are routed without their heights, unless somebody looks.
+TEST(AvisosDeSerie, VistosMientrasCorreOCorridosOtraVezSonLosMismos)
+{
+    model::Siro s;
+    apoyo::AnfitrionPrueba anfitrion;
+    s.Anfitrion = anfitrion.Puerta();
+    pruebas::CorridaDeMuestra muestra(s);
+    muestra.Serie();
+    VigiaDeSerie vigia(s);
+    ASSERT_EQ(engine::CorreSeriePDR(s, 1, vigia.Ojo()), engine::FinSerie::Completa);
+    EXPECT_EQ(Lista(vigia.Avisos(1)), Lista(AvisosDeSerie(s, 1)));
 }
 
 }  // namespace
