@@ -15,7 +15,7 @@ AjusteCalibracion_ventana::AjusteCalibracion_ventana(forms::Entorno& alrededor, 
     : PaginaDe(alrededor, taller, RotulosAjusteCalibracion, "AjusteCalibracion")
 {
     auto* const fila =
-        EnFila({Elecciones(), {EnPila({Ordenes(), {LadoALado(Tablas(), Derecha(), 1, 1), 1}}), 1}});
+        EnFila({Elecciones(), {EnPila({Ordenes(), {LadoALado(Tablas(), Derecha(), 3, 2), 1}}), 1}});
     fila->setContentsMargins(0, 0, 0, 0);
     setLayout(fila);
 }
@@ -76,7 +76,7 @@ QWidget* AjusteCalibracion_ventana::Tablas()
 {
     fichas = Nombra(new QTabWidget, "fichas");
     fichas->setDocumentMode(true);
-    fichas->addTab(TablaDe(m.tblParametros, "tblParametros", {34, 9, 9, 9, 14, 9, 30}),
+    fichas->addTab(TablaDe(m.tblParametros, "tblParametros", {25, 7, 8, 10, 14, 10, 22}),
                    forms::Q(FichasDeCalibracion[0]));
     fichas->addTab(TablaDe(m.tblPuntajes, "tblPuntajes", {14, 12, 12, 8, 9, 40}),
                    forms::Q(FichasDeCalibracion[1]));

@@ -3,10 +3,14 @@
 
 #include <QSplitter>
 #include <algorithm>
+#include <cstddef>
 #include <optional>
+#include <string>
 #include <utility>
+#include <vector>
 
 #include "forms/Lamina_ventana.h"
+#include "model/Texto.h"
 
 namespace calibration {
 
@@ -23,8 +27,9 @@ AjusteSensibilidad_ventana::AjusteSensibilidad_ventana(forms::Entorno& alrededor
     };
     grafico = new forms::Lamina(entorno, "lamSensibilidad", "Sensibilidad");
     DejaChico(*grafico);
-    auto* const fila = EnFila(
-        {Elecciones(), {EnPila({Ordenes(), {LadoALado(tabla, SobreAvisos(grafico, m.lblAvisos)), 1}}), 1}});
+    auto* const fila =
+        EnFila({Elecciones(),
+                {EnPila({Ordenes(), {LadoALado(tabla, SobreAvisos(grafico, m.lblAvisos), 3, 2), 1}}), 1}});
     fila->setContentsMargins(0, 0, 0, 0);
     setLayout(fila);
 }
@@ -137,10 +142,13 @@ bool AjusteSensibilidad_ventana::AlEscapar()
 void AjusteSensibilidad_ventana::Muestra()
 {
     PaginaDeAjuste::Muestra();
-    constexpr int DeNumero = 5, DeNombre = 28, DeIndice = 20;
-    std::vector<int> letras(m.tblIndices.planilla.columnas.size(), DeIndice);
-    letras[0] = DeNumero;
-    letras[1] = DeNombre;
+    // Each index as wide as its heading, with room for its mark of order; the name takes the rest.
+    constexpr int DeNumero = 5, DeLoQueSobra = 0, DeIndice = 12, Marca = 3;
+    std::vector<int> letras{DeNumero, DeLoQueSobra};
+    for (std::size_t k = letras.size(); k < m.tblIndices.planilla.columnas.size(); ++k) {
+        const std::string& titulo = m.tblIndices.planilla.columnas[k].encabezado;
+        letras.push_back(std::max(DeIndice, Marca + static_cast<int>(model::CuentaCaracteres(titulo))));
+    }
     tabla->PonColumnas(std::move(letras));
     tabla->Muestra();
     grafico->Muestra(m.Grafico);

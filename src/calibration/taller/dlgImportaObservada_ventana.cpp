@@ -18,7 +18,7 @@ dlgImportaObservada_ventana::dlgImportaObservada_ventana(forms::Entorno& alreded
     Sigue(f.abierta);
     forms::TablaCuadro* const valores =
         Tabla(f.tblValores, "tblValores", "Valores que tomaría la observación");
-    valores->PonColumnas({22, 10, 14});
+    valores->PonColumnas({22, 10, 17});
     forms::TablaCuadro* const dudosos = Tabla(f.tblDudosos, "tblDudosos", "Renglones dudosos");
     dudosos->PonColumnas({9, 30, 0});
     VisibleSi(dudosos, [this] { return !f.importacion.dudosos.empty(); });

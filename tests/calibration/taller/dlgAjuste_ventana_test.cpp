@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "calibration/taller/dlgAjuste_ventana.h"
 
-#include <QComboBox>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QTabBar>
 #include <optional>
 #include <string>
 #include <vector>
@@ -15,7 +13,7 @@
 #include "apoyo/Ventanas.h"
 #include "calibration/Incertidumbre.h"
 #include "calibration/taller/AjusteIncertidumbre.h"
-#include "calibration/taller/TallerDeAjuste.h"
+#include "calibration/taller/VentanaDeAjuste.h"
 #include "forms/Cuadro_ventana.h"
 #include "forms/Textos_ventana.h"
 
@@ -25,36 +23,8 @@ namespace {
 using apoyo::Control;
 using apoyo::Pulsa;
 using forms::DeQ;
-using study::Parametro;
 
-struct VentanaAjuste : pruebas::TallerDeAjuste {
-    VentanaAjuste() { ventana.resize(1180, 560); }
-    void Abre()
-    {
-        entorno.Atiende([this] {
-            estudio.Sigue();
-            ventana.Abre();
-        });
-        apoyo::Muestra(ventana);
-    }
-    /// The step whose caption begins so.
-    void VeAlPaso(const char* titulo)
-    {
-        auto& pasos = Control<QTabBar>(ventana, "pasos");
-        for (int i = 0; i < pasos.count(); ++i)
-            if (pasos.tabText(i).startsWith(QString::fromUtf8(titulo)))
-                QTest::mouseClick(&pasos, Qt::LeftButton, {}, pasos.tabRect(i).center());
-    }
-    template <typename T>
-    T& En(const char* pagina, const char* control)
-    {
-        return Control<T>(Control<QWidget>(ventana, pagina), control);
-    }
-    [[nodiscard]] const std::vector<Parametro>& Todos() const { return AjusteDe(f).parametros; }
-
-    forms::Entorno entorno{s};
-    dlgAjuste_ventana ventana{entorno, f};
-};
+using VentanaAjuste = pruebas::VentanaDeAjuste;
 
 TEST_F(VentanaAjuste, LosParametrosSeProponenSeCambianYSeDeshacenConElRatonYElTeclado)
 {
