@@ -401,8 +401,7 @@ TEST_F(Anterior, LaMasViejaDeDiezSeTraeTambienSiAlgoFalla)
         disco.DejaDeFallar();
         if (falla != 0) ++fallas;
         EXPECT_EQ(disco.Bytes(En("Arroyo_UEHs.vlm")), falla == 0 ? "red 0" : "red 10") << n;
-        if (falla != 0) EXPECT_EQ(Redes().back(), "red 0") << n;
-        if (falla == 0) EXPECT_EQ(Redes().front(), "red 10") << n;
+        EXPECT_EQ(falla != 0 ? Redes().back() : Redes().front(), falla != 0 ? "red 0" : "red 10") << n;
         if (!hubo) break;
     }
     EXPECT_GE(fallas, 4);
@@ -582,7 +581,7 @@ TEST_F(AnteriorReal, MatadoAlTraerDeVueltaElProyectoEsElDeAntesOElTraidoYLoDeAnt
         disco.Recupera(En("x").substr(0, En("").size() - 1));
         const fallas::Contenido queda = fallas::ContenidoDe(proyectos);
         EXPECT_TRUE(queda == Viejo || queda == Nuevo) << n;
-        if (queda == Viejo) EXPECT_EQ(VersionesDe(Con(disco), proyecto).size(), 1U) << n;
+        EXPECT_TRUE(queda != Viejo || VersionesDe(Con(disco), proyecto).size() == 1U) << n;
         if (fin == fallas::Fin::Entero) break;
         ++muertes;
     }
