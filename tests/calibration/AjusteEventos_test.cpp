@@ -12,6 +12,7 @@
 #include "apoyo/Compara.h"
 #include "calibration/taller/dlgImportaObservada.h"
 #include "calibration/taller/dlgRecesion.h"
+#include "model/Disco.h"
 #include "model/VidaProyecto.h"
 #include "study/Abierto.h"
 
@@ -28,7 +29,7 @@ struct DeEventos : testing::Test {
         s.Anfitrion = anfitrion.Puerta();
         s.Disco = model::DiscoDelSistema();
         s.Proyecto.DirTrabajo = s.Proyecto.DirEjecutable = carpeta.Camino().string();
-        model::AbreProyectoDe(s, carpeta.Ruta("Proyectos/Quelmar_Conf.vlm"));
+        model::AbreProyectoDe(s, model::Ruta(carpeta.Ruta("Proyectos"), "Quelmar_Conf.vlm"));
         s.Tormenta.PpTormenta = 80;
         s.Tormenta.DurTormenta = 120;
         s.Pasos.PasoPp = 10;
