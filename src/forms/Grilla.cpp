@@ -328,6 +328,7 @@ Efecto Camina(Grilla& g, std::vector<PasoEdicion>& de, std::vector<PasoEdicion>&
 
 void AnotaFilas(Grilla& g, Grilla antes, bool sigue)
 {
+    if (antes.columnas.size() != g.columnas.size()) return;  // rows of another grid are none of this one
     g.hechos = std::move(antes.hechos);
     g.deshechos = std::move(antes.deshechos);
     if (SonLasMismas(g, antes.filas)) return;

@@ -795,6 +795,14 @@ TEST(FilasComoPaso, LasCifrasDeUnNumeroSonUnoYLoQueNoCambiaNadaEsNinguno)
     Deshace(g);
     EXPECT_EQ(g.NroFilas(), 3);
     EXPECT_EQ(g.Texto({1, 1}), "5");
+    // Rows that a grid without columns was given.
+    Grilla sinColumnas;
+    PonNroFilas(sinColumnas, 2);
+    ComoUnPaso(sinColumnas, [&] {
+        sinColumnas = NuevaGrilla(DeTabla);
+        PonNroFilas(sinColumnas, 2);
+    });
+    EXPECT_TRUE(sinColumnas.hechos.empty());
 }
 
 void HaceAlgo(Grilla& g, const model::Siro& s, bool otrasFilas = true)
