@@ -24,15 +24,10 @@ std::string_view ClaveDe(Formato formato)
 Entrega::Entrega(Pedido unPedido)
     : pedido(std::move(unPedido)), figuras(pedido.datos, pedido.decimal, pedido.fondo)
 {
-    if (pedido.formato == Formato::Pdf) {
-        pdf = std::make_unique<Pdf>(pedido.documento, figuras);
-        total = static_cast<std::size_t>(pdf->Paginas());
-        return;
-    }
     for (const Bloque& bloque : pedido.documento.bloques)
         if (const auto* f = std::get_if<FiguraPuesta>(&bloque)) pendientes.push_back(f->figura);
     std::reverse(pendientes.begin(), pendientes.end());
-    total = pendientes.size() + 1;
+    total = (pedido.formato == Formato::Odt ? 3 : 1) * pendientes.size() + 1;
 }
 
 Entrega::~Entrega() = default;
@@ -40,21 +35,52 @@ Entrega::~Entrega() = default;
 bool Entrega::Adelanta()
 {
     if (hechas >= total) return false;
-    if (pdf != nullptr)
-        pdf->Adelanta();
-    else
+    if (pedido.formato == Formato::Pdf)
+        Prepara();
+    else if (!pendientes.empty() || enSvg)
         Dibuja();
+    else
+        Compone();
     return ++hechas < total;
 }
 
-/// A figure, or behind the last one the text around them.
-void Entrega::Dibuja()
+/// How large the figures are comes first, then where all stands, then page by page.
+void Entrega::Prepara()
 {
     if (!pendientes.empty()) {
-        dibujadas.emplace_back(pendientes.back(), figuras.Dibuja(pendientes.back()));
+        figuras.Tamano(pendientes.back());
         pendientes.pop_back();
+    } else if (pdf == nullptr) {
+        pdf = std::make_unique<Pdf>(pedido.documento, figuras);
+        total += static_cast<std::size_t>(pdf->Paginas());
+    } else {
+        pdf->Adelanta();
+    }
+}
+
+/// One manner of a figure. An HTML page has no use for the second one.
+void Entrega::Dibuja()
+{
+    if (enSvg && fina.isNull()) {
+        fina = figuras.Fina(dibujadas.back().first);
+        enSvg = !fina.isNull();
+        if (!enSvg) ++hechas;  // nothing to draw, nothing to press
         return;
     }
+    if (enSvg) {
+        dibujadas.back().second.png = Figuras::Png(std::exchange(fina, {}));
+        enSvg = false;
+        return;
+    }
+    const Figura& figura = pendientes.back();
+    const QSizeF tamano = figuras.Tamano(figura);
+    dibujadas.emplace_back(figura, Imagen{figuras.Svg(figura), {}, tamano.width(), tamano.height()});
+    pendientes.pop_back();
+    enSvg = pedido.formato == Formato::Odt;
+}
+
+void Entrega::Compone()
+{
     const Dibujante dibujante = [this](const Figura& figura) {
         const auto hallada = std::find_if(dibujadas.begin(), dibujadas.end(),
                                           [&](const auto& una) { return una.first == figura; });

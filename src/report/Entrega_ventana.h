@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QImage>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -48,13 +49,17 @@ class Entrega {
     std::string Bytes();
 
   private:
+    void Prepara();
     void Dibuja();
+    void Compone();
 
     const Pedido pedido;
     Figuras figuras;
     std::unique_ptr<Pdf> pdf;
-    std::vector<Figura> pendientes{};  ///< to be drawn, the last one first
+    std::vector<Figura> pendientes{};  ///< to be measured or drawn, the last one first
     std::vector<std::pair<Figura, Imagen>> dibujadas{};
+    bool enSvg = false;  ///< the last one of them has no PNG yet
+    QImage fina{};       ///< that it is made of
     std::string texto{};
     std::size_t hechas = 0, total = 0;
 };

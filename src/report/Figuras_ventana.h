@@ -2,11 +2,14 @@
 #pragma once
 
 #include <QFont>
+#include <QImage>
 #include <QRectF>
 #include <QSizeF>
 #include <QStringList>
 #include <memory>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "report/Datos.h"
 #include "report/Documento.h"
@@ -30,7 +33,12 @@ class Figuras {
     QSizeF Tamano(const Figura& figura);
     /// Paints lines and letters, no pictures of them, into a place of that shape.
     void Pinta(QCPPainter& pintor, const QRectF& sitio, const Figura& figura);
-    /// The same as an SVG, and as a PNG of 300 dots per inch.
+    /// The same as an SVG, and as a picture of 300 dots per inch, which a PNG is made of; empty where there
+    /// is nothing to draw.
+    std::string Svg(const Figura& figura);
+    QImage Fina(const Figura& figura);
+    static std::string Png(const QImage& fina);
+    /// Both.
     Imagen Dibuja(const Figura& figura);
 
   private:
@@ -41,6 +49,7 @@ class Figuras {
     char decimal;
     results::FondoDeMapa fondo;
     std::unique_ptr<Lista> ultima{};
+    std::vector<std::pair<Figura, QSizeF>> tamanos{};  ///< of those that were asked for
 };
 
 /// Letters of figures and pages: those that the program's package brings along, or else the like of them.

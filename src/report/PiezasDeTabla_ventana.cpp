@@ -19,6 +19,7 @@ namespace {
 constexpr double Orla = 3 * Punto;         // beside a cell's text
 constexpr double AirePorFila = 2 * Punto;  // above and below it, together
 constexpr double LetraDeRotulo = 9.5;      // of captions [points]
+constexpr double PorVuelta = 6;            // that a column grows by at a time [points]
 constexpr double MayorParte = 0.4;         // of the width that a word which isn't broken may ask for
 
 /// Least and natural width of each column.
@@ -128,18 +129,28 @@ class EnPiezas {
                    " (parte " + std::to_string(i + 1) + " de " + std::to_string(partes.size()) + ")");
     }
 
-    /// Natural widths where they have room, else what is over the least shared out by what is missing.
+    /// Natural widths where they have room, else as even ones as their least and natural widths let be.
     [[nodiscard]] std::vector<double> Reparte(const std::vector<std::size_t>& cuales) const
     {
-        double natural = 0, menor = 0;
-        for (const std::size_t c : cuales) {
-            natural += anchos.natural[c];
-            menor += anchos.menor[c];
-        }
-        const double parte = natural <= Disponible() ? 1 : (Disponible() - menor) / (natural - menor);
         std::vector<double> suyos;
-        for (const std::size_t c : cuales)
-            suyos.push_back(anchos.menor[c] + (anchos.natural[c] - anchos.menor[c]) * parte);
+        double queda = Disponible();
+        for (const std::size_t c : cuales) {
+            suyos.push_back(anchos.menor[c]);
+            queda -= anchos.menor[c];
+        }
+        // The narrowest of those that want more first, up to its natural width or the next one's.
+        constexpr int Vueltas = 200;
+        for (int vuelta = 0; vuelta < Vueltas && queda > Punto; ++vuelta) {
+            std::size_t cual = suyos.size();
+            for (std::size_t i = 0; i < suyos.size(); ++i)
+                if (suyos[i] < anchos.natural[cuales[i]] && (cual == suyos.size() || suyos[i] < suyos[cual]))
+                    cual = i;
+            if (cual == suyos.size()) break;
+            const double mas =
+                std::min({queda, anchos.natural[cuales[cual]] - suyos[cual], PorVuelta * Punto});
+            suyos[cual] += mas;
+            queda -= mas;
+        }
         return suyos;
     }
 
