@@ -12,6 +12,7 @@
 #include "calibration/EscribeCalibracion.h"
 #include "model/Avisos.h"
 #include "model/Disco.h"
+#include "model/Numeros.h"
 #include "model/Sistema.h"
 
 namespace batch {
@@ -55,7 +56,13 @@ int AjustaProyecto(const Opciones& o, const std::string& dirEjecutable, const Sa
     const bool escrito = Muestra(salidas, o.json  ? calibration::JsonDe(pedido, *calibrado)
                                           : o.csv ? calibration::CsvDe(*calibrado)
                                                   : calibration::TextoDe(pedido, *calibrado));
-    return guardado && escrito && std::isfinite(calibrado->Puntaje()) ? EstadoCompleto : EstadoInterrumpido;
+    const bool enElLibro = GuardaTarea(
+        o, tarea, "ajuste",
+        "Puntaje " + model::NumeroATexto(calibrado->Puntaje()) + " en " +
+            std::to_string(calibrado->corridas.size()) + " corridas.",
+        [&] { return calibration::JsonDe(pedido, *calibrado); }, salidas);
+    return guardado && escrito && enElLibro && std::isfinite(calibrado->Puntaje()) ? EstadoCompleto
+                                                                                   : EstadoInterrumpido;
 }
 
 }  // namespace batch

@@ -62,14 +62,18 @@ int CorreTarea(const Opciones& o, const std::string& dirEjecutable, const Salida
     Tarea tarea;
     if (!AbreTarea(o, dirEjecutable, salidas, tarea)) return EstadoInterrumpido;
     std::string proyecto = tarea.proyecto;
-    const calibration::PedidoDeIncertidumbre pedido = PedidoDe(o, std::move(tarea));
+    const calibration::PedidoDeIncertidumbre pedido = PedidoDe(o, tarea);
     if (const auto reparos = calibration::ReparosDe(pedido); !reparos.empty()) return Niega(salidas, reparos);
     EncabezadoDeConjunto e = calibration::EncabezadoDe(std::move(proyecto), pedido);
     const std::optional<Conjunto> c = calibration::CorreConjunto(pedido);
     if (!c) return EstadoInterrumpido;
     if (!o.parcial.empty())
         return GuardaParte(o.parcial, {std::move(e), o.parte.cual, o.parte.de, *c}, salidas);
-    return Escribe(o, e, *c, salidas);
+    const int estado = Escribe(o, e, *c, salidas);
+    const bool enElLibro = GuardaTarea(
+        o, tarea, "conjunto", std::to_string(c->miembros) + " miembros, " + c->componente + ".",
+        [&] { return JsonDe(e, *c); }, salidas);
+    return enElLibro ? estado : EstadoInterrumpido;
 }
 
 int Une(const Opciones& o, const Salidas& salidas)

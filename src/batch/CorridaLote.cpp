@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "batch/AvisosLote.h"
+#include "batch/GuardaLote.h"
 #include "batch/ResultadosCsv.h"
 #include "checks/AvisosDeSerie.h"
 #include "checks/ProyectoAparte.h"
@@ -178,6 +179,7 @@ int Corre(const Opciones& o, const std::string& dirEjecutable, const Salidas& sa
     std::optional<int> fin;
     std::optional<model::Tormenta> entrada;
     checks::VigiaDeSerie vigia(s);
+    Guardadora guardadora(s, o);
     try {
         completa = CorreOrden(s, o, entrada, vigia);
     } catch (const model::FinDelPrograma& terminada) {
@@ -190,7 +192,9 @@ int Corre(const Opciones& o, const std::string& dirEjecutable, const Salidas& sa
     anfitrion.CuentaRepetidas();
     if (!fin) {
         escritos = Muestra(salidas, [&] { anfitrion.MuestraPizarra(); }) && escritos;
-        fin = completa && escritos && GuardaResultados(s, o) ? EstadoCompleto : EstadoInterrumpido;
+        const bool enElLibro = !completa || guardadora.Guarda(*entrada, salidas);
+        fin =
+            completa && escritos && GuardaResultados(s, o) && enElLibro ? EstadoCompleto : EstadoInterrumpido;
     }
     if (entrada) MuestraAvisos(salidas, o, [&] { return InformeDeAvisos(s, *entrada, completa, o, vigia); });
     return *fin;

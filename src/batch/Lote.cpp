@@ -10,6 +10,7 @@
 #include "batch/ComparaLote.h"
 #include "batch/ConjuntoLote.h"
 #include "batch/CorridaLote.h"
+#include "batch/CorridasLote.h"
 #include "batch/FrecuenciaLote.h"
 #include "batch/IdfLote.h"
 #include "batch/Opciones.h"
@@ -38,6 +39,7 @@ constexpr auto Verbos = std::to_array<Verbo>({
     {"tormenta", UsoTormenta, LeeOpcionesTormenta, MuestraTormenta},
     {"sensibilidad", UsoSensibilidad, LeeOpcionesSensibilidad, MuestraSensibilidad},
     {"conjunto", UsoConjunto, LeeOpcionesConjunto, MuestraConjunto},
+    {"corridas", UsoCorridas, LeeOpcionesCorridas, MuestraCorridas},
     {"une", UsoUne, LeeOpcionesUne, MuestraUnion},
     {"compara", UsoCompara, LeeOpcionesCompara, MuestraComparacion},
     {"ajusta", UsoAjusta, LeeOpcionesAjusta, AjustaProyecto},

@@ -17,8 +17,9 @@ namespace {
 
 // Which orders take an option; 0: one without a project.
 constexpr int DeCorrida = 1, DeRevision = 2, DeFrecuencia = 4, DeIdf = 8, DeTormenta = 16, DeTarea = 32,
-              DeConjunto = 64, DeUnion = 128, DeComparacion = 256, DeTareas = DeTarea | DeConjunto,
-              DeAmbas = DeCorrida | DeRevision | DeTareas | DeComparacion, DeCurvas = DeIdf | DeTormenta;
+              DeConjunto = 64, DeUnion = 128, DeComparacion = 256, DeLista = 512,
+              DeTareas = DeTarea | DeConjunto, DeAmbas = DeCorrida | DeRevision | DeTareas | DeComparacion,
+              DeCurvas = DeIdf | DeTormenta;
 
 /// An option with a value: how it is written and where its value goes.
 struct FilaOpcion {
@@ -49,6 +50,8 @@ constexpr auto Filas = std::to_array<FilaOpcion>({
     {"--hilos", [](Opciones& o, const std::string& v) { o.hilos = Hilos(v); },
      DeCorrida | DeFrecuencia | DeTareas | DeComparacion},
     {"--resultados", [](Opciones& o, const std::string& v) { o.resultados = v; }},
+    {"--guarda", [](Opciones& o, const std::string& v) { o.guarda = NombreDeCorrida(v); },
+     DeCorrida | DeTareas},
     {"--posicion", [](Opciones& o, const std::string& v) { o.posicion = NumeroEntre(v, 0, 0.5); },
      DeFrecuencia},
     {"--registro", [](Opciones& o, const std::string& v) { o.registro = v; }, DeFrecuencia},
@@ -141,7 +144,8 @@ CLI::App* Orden(CLI::App& programa, const char* nombre, Palabras& p, int clase =
         orden->add_option(clase == DeUnion ? "PARCIAL" : "LADO", p.archivos);
     else
         orden->add_option(deMaximos ? "ARCHIVO" : "CONF", p.conf);
-    if (deMaximos || (clase & (DeTareas | DeUnion | DeComparacion)) != 0) orden->add_flag("--csv", p.csv);
+    if (deMaximos || (clase & (DeTareas | DeUnion | DeComparacion | DeLista)) != 0)
+        orden->add_flag("--csv", p.csv);
     if (clase == DeTormenta) orden->add_flag("--reemplaza", p.reemplaza);
     for (std::size_t i = 0; i < Filas.size(); ++i)
         if ((Filas[i].ordenes & clase) != 0) p.opciones[i] = orden->add_option(Filas[i].nombre, p.valores[i]);
@@ -354,6 +358,8 @@ Lectura LeeOpcionesConjunto(int argc, const char* const* argv)
     Lectura l = LeeDeTarea("conjunto", Opciones::Orden::Conjunto, DeConjunto, argc, argv);
     if (l.opciones && l.opciones->parte != Parte{} && l.opciones->parcial.empty())
         return {{}, "--parte va con --parcial"};
+    if (l.opciones && !l.opciones->guarda.empty() && !l.opciones->parcial.empty())
+        return {{}, "--guarda y --parcial no van juntos"};
     return l;
 }
 
@@ -367,6 +373,11 @@ Lectura LeeOpcionesCompara(int argc, const char* const* argv)
             return {{}, std::move(reparo)};
     if (l.opciones->lados.size() < 2) return {{}, "Hacen falta dos CONF por lo menos"};
     return l;
+}
+
+Lectura LeeOpcionesCorridas(int argc, const char* const* argv)
+{
+    return LeeDeTarea("corridas", Opciones::Orden::Corridas, DeLista, argc, argv);
 }
 
 Lectura LeeOpcionesUne(int argc, const char* const* argv)

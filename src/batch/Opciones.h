@@ -27,7 +27,8 @@ struct Opciones {
         Sensibilidad,
         Conjunto,
         Une,
-        Compara
+        Compara,
+        Corridas
     };
 
     Orden orden = Orden::Una;
@@ -45,6 +46,7 @@ struct Opciones {
     std::int16_t tabla = 0;         ///< P-D-R table 0..3
     bool pizarra = false;           ///< the Slate is on
     bool avisos = false;            ///< the findings of the run are written
+    std::string guarda{};           ///< name that the run is kept under; empty: it isn't kept
     bool respondeSi = true;         ///< answer to every question
     int hilos = 0;                  ///< threads of a series, 1024 at most; 0: all cores
     std::string resultados{};       ///< path of the CSV file; empty: none
@@ -127,6 +129,9 @@ std::string_view UsoConjunto();
 Lectura LeeOpcionesConjunto(int argc, const char* const* argv);
 std::string_view UsoUne();
 Lectura LeeOpcionesUne(int argc, const char* const* argv);
+/// The same of the list of kept runs.
+std::string_view UsoCorridas();
+Lectura LeeOpcionesCorridas(int argc, const char* const* argv);
 
 /// Whether it was told what curves are made of.
 bool HayDeDonde(const Opciones& opciones);

@@ -2,6 +2,7 @@
 #include "batch/SensibilidadLote.h"
 
 #include <new>
+#include <string>
 
 #include "batch/CorridaLote.h"
 #include "batch/TareaLote.h"
@@ -21,7 +22,11 @@ int Analiza(const Opciones& o, const std::string& dirEjecutable, const Salidas& 
     const bool escrito = Muestra(salidas, o.json  ? calibration::JsonDe(a)
                                           : o.csv ? calibration::CsvDe(a)
                                                   : calibration::TextoDe(a));
-    return escrito ? EstadoCompleto : EstadoInterrumpido;
+    const bool enElLibro = GuardaTarea(
+        o, tarea, "sensibilidad",
+        std::to_string(a.parametros.size()) + " parámetros, " + std::to_string(a.corridas) + " corridas.",
+        [&] { return calibration::JsonDe(a); }, salidas);
+    return escrito && enElLibro ? EstadoCompleto : EstadoInterrumpido;
 }
 
 }  // namespace

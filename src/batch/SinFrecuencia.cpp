@@ -3,7 +3,9 @@
 #include "batch/ComparaLote.h"
 #include "batch/ConjuntoLote.h"
 #include "batch/CorridaLote.h"
+#include "batch/CorridasLote.h"
 #include "batch/FrecuenciaLote.h"
+#include "batch/GuardaLote.h"
 #include "batch/IdfLote.h"
 #include "batch/SensibilidadLote.h"
 #include "batch/TormentaLote.h"
@@ -47,6 +49,24 @@ int MuestraConjunto(const Opciones& /*o*/, const std::string& /*dirEjecutable*/,
 int MuestraComparacion(const Opciones& /*o*/, const std::string& /*dirEjecutable*/, const Salidas& salidas)
 {
     return NoLaTrae("compara", salidas);
+}
+
+int MuestraCorridas(const Opciones& /*o*/, const std::string& /*dirEjecutable*/, const Salidas& salidas)
+{
+    return NoLaTrae("corridas", salidas);
+}
+
+struct Guardadora::Partes {
+    const Opciones& o;
+};
+
+Guardadora::Guardadora(model::Siro& /*s*/, const Opciones& opciones) : partes(new Partes{opciones}) {}
+
+Guardadora::~Guardadora() = default;
+
+bool Guardadora::Guarda(const model::Tormenta& /*entrada*/, const Salidas& salidas)
+{
+    return partes->o.guarda.empty() || NoLaTrae("--guarda", salidas) == EstadoCompleto;
 }
 
 int MuestraUnion(const Opciones& /*o*/, const std::string& /*dirEjecutable*/, const Salidas& salidas)

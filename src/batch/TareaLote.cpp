@@ -5,9 +5,11 @@
 #include <utility>
 
 #include "batch/CorridaLote.h"
+#include "batch/GuardaLote.h"
 #include "checks/Hallazgo.h"
 #include "checks/ProyectoAparte.h"
 #include "checks/RevisaAbierto.h"
+#include "checks/Sello.h"
 #include "engine/modProceso0.h"
 #include "model/Avisos.h"
 #include "model/Companeros.h"
@@ -15,6 +17,7 @@
 #include "model/Disco.h"
 #include "model/Siro.h"
 #include "model/Sistema.h"
+#include "runs/LibroDeCorridas.h"
 #include "study/ArchivoEstudio.h"
 #include "study/Series.h"
 
@@ -97,6 +100,14 @@ bool Abre(const Opciones& o, Siro& s, const Salidas& salidas, Tarea& tarea)
     for (const study::SerieDanada& d : danadas)
         Falta(salidas, d.texto);
     tarea.modelo = runs::ModeloDe(s, tarea.ajuste);
+    tarea.circunstancias = {.dirProyecto = s.Proyecto.DirProyecto,
+                            .proyecto = tarea.proyecto,
+                            .dirTrabajo = s.Proyecto.DirTrabajo,
+                            .quien = s.Configuracion.Operador,
+                            .archivos = tarea.testigo.Leidos()};
+    tarea.enPalabras = checks::TormentaEnMano(s);
+    tarea.tormenta = s.Tormenta;
+    tarea.pasos = s.Pasos;
     if (!tarea.modelo.reparos.empty()) Niega(salidas, tarea.modelo.reparos);
     return danadas.empty() && tarea.modelo.reparos.empty();
 }
@@ -115,6 +126,7 @@ bool AbreTarea(const Opciones& o, const std::string& dirEjecutable, const Salida
 {
     AnfitrionLote anfitrion(salidas, false, true);
     Siro s;
+    if (!o.guarda.empty()) s.Disco = tarea.testigo.Sobre(s.Disco);
     s.Anfitrion = anfitrion.Anfitrion();
     s.Proyecto.DirEjecutable = dirEjecutable;
     s.Proyecto.DirTrabajo =
@@ -124,6 +136,24 @@ bool AbreTarea(const Opciones& o, const std::string& dirEjecutable, const Salida
     } catch (const model::FinDelPrograma&) {
         return false;
     }
+}
+
+bool GuardaTarea(const Opciones& o, const Tarea& tarea, std::string_view clase, const std::string& resumen,
+                 const std::function<std::string()>& json, const Salidas& salidas)
+{
+    if (o.guarda.empty()) return true;
+    runs::Circunstancias c = tarea.circunstancias;
+    c.segundos = tarea.testigo.Segundos();
+    return EscribeEnLibro({.dirProyecto = c.dirProyecto, .proyecto = c.proyecto},
+                          runs::PorGuardar({.clase = std::string(clase),
+                                            .ajuste = tarea.ajuste,
+                                            .json = json(),
+                                            .resumen = resumen,
+                                            .enPalabras = tarea.enPalabras,
+                                            .tormenta = tarea.tormenta,
+                                            .pasos = tarea.pasos},
+                                           c),
+                          o.guarda, salidas);
 }
 
 int Niega(const Salidas& salidas, const std::vector<std::string>& reparos)

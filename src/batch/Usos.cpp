@@ -26,6 +26,7 @@ CONF es el archivo <Proyecto>_Conf.vlm de un proyecto.
   --responde si|no        respuesta a toda pregunta (si)
   --hilos N               hilos de una serie, hasta 1024; 0: todos los núcleos (0)
   --resultados ARCHIVO    resultados en CSV
+  --guarda NOMBRE         guarda la corrida con ese nombre en la carpeta <Proyecto>_corridas
   --avisos                avisos, balance de agua y huella de la corrida, en la salida estándar
   --json                  lo de --avisos, en JSON
   --ayuda, --help         este texto
@@ -169,6 +170,7 @@ directorio --trabajo.
 
   --tarea ARCHIVO         lo que se pide, en JSON (el estudio del proyecto)
   --hilos N               hilos, hasta 1024; 0: todos los núcleos. No cambia los resultados (0)
+  --guarda NOMBRE         guarda lo pedido y lo hallado con ese nombre en la carpeta <Proyecto>_corridas
   --json                  todo, en JSON
   --csv                   parametro y sus índices
   --ayuda, --help         este texto
@@ -189,6 +191,7 @@ La tormenta en mano es la de la orden una: --forma, --pp, --dur, --rec, --distri
 
   --tarea ARCHIVO         qué se pide, en JSON: lo que el estudio guarda en "ajuste" (el estudio del proyecto)
   --hilos N               hilos, hasta 1024; 0: todos los núcleos. No cambia los resultados (0)
+  --guarda NOMBRE         guarda lo pedido y lo hallado con ese nombre en la carpeta <Proyecto>_corridas
   --parte I/N             corre la parte I de N del conjunto, con --parcial (1/1)
   --parcial ARCHIVO       escribe la parte en un archivo, para la orden une
   --json                  todo, en JSON
@@ -222,6 +225,7 @@ método, puntaje, presupuesto y semilla están en P_Estudio.json, bajo "ajuste".
   --tarea ARCHIVO         lo que se pide, en JSON, como lo que el estudio tiene bajo "ajuste" (el estudio)
   --corridas ARCHIVO      escribe todas las corridas de la búsqueda, en CSV: sus valores y su puntaje
   --hilos N               hilos, hasta 1024; 0: todos los núcleos. No cambia los resultados (0)
+  --guarda NOMBRE         guarda lo pedido y lo hallado con ese nombre en la carpeta <Proyecto>_corridas
   --json                  todo menos las corridas, en JSON
   --csv                   parametro,unidad,minimo,maximo,antes,mejor,cerca_minimo,cerca_maximo,aviso
   --trabajo, --forma, --pp, --dur, --rec, --distribucion, --paso-pp, --paso-q, --pp-ueh, --tormenta
@@ -252,11 +256,29 @@ Estado de salida: 0 se compararon, difieran o no; 1 un lado no se pudo correr ha
                   línea de órdenes es errónea.
 )";
 
+constexpr std::string_view TextoUsoCorridas =
+    R"(Uso: siro-lote corridas CONF [opciones]    las corridas guardadas de un proyecto, la última primero
+
+Las guarda el programa de escritorio al correr, y siro-lote con --guarda, en la carpeta <Proyecto>_corridas junto a
+CONF, un archivo cada una. Un archivo que no es una corrida, o está dañado, se lista con el motivo.
+
+  --json                  todo lo que cada una dice de sí, en JSON
+  --csv                   un renglón por corrida, con la salida de mayor pico
+  --ayuda, --help         este texto
+
+Estado de salida: 0 se listaron; 1 no se pudo leer o escribir; 2 la línea de órdenes es errónea.
+)";
+
 }  // namespace
 
 std::string_view UsoCompara()
 {
     return TextoUsoCompara;
+}
+
+std::string_view UsoCorridas()
+{
+    return TextoUsoCorridas;
 }
 
 std::string_view UsoConjunto()

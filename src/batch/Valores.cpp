@@ -176,6 +176,12 @@ std::string Bajos(const std::string& texto)
     return texto;
 }
 
+std::string NombreDeCorrida(const std::string& texto)
+{
+    if (texto.empty()) throw ValorErroneo{"debe ser un nombre"};
+    return texto;
+}
+
 double NumeroEntre(std::string_view texto, double menor, double mayor)
 {
     const double x = Numero(texto);

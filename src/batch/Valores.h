@@ -51,6 +51,8 @@ bool RespondeSi(std::string_view texto);
 int Hilos(std::string_view texto);
 std::string Metodo(const std::string& texto);
 std::string Bajos(const std::string& texto);
+/// A name that a run is kept under: not empty.
+std::string NombreDeCorrida(const std::string& texto);
 double NumeroEntre(std::string_view texto, double menor, double mayor);
 int Remuestras(std::string_view texto);
 

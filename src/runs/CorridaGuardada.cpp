@@ -14,11 +14,15 @@
 #include "engine/mdlSeriePDR.h"
 #include "engine/modProceso0.h"
 #include "model/ArchivosTormenta.h"
+#include "model/Companeros.h"
 #include "model/Configuracion.h"
 #include "model/Falla.h"
 #include "model/RutaProyecto.h"
 #include "model/Siro.h"
 #include "model/VidaProyecto.h"
+#include "study/ArchivoEstudio.h"
+#include "study/Estudio.h"
+#include "study/Series.h"
 
 namespace runs {
 namespace {
@@ -49,21 +53,25 @@ model::Arreglo<T> Arreglo(const std::vector<double>& valores)
     return arreglo;
 }
 
+LluviaDeCorrida LluviaDe(const model::Tormenta& t, const model::Pasos& pasos)
+{
+    return {.forma = t.FormaPp,
+            .distribucion = t.DistriPp,
+            .tabla = t.TablaPDR,
+            .lamina = t.PpTormenta,
+            .duracion = t.DurTormenta,
+            .recurrencia = t.RecTormenta,
+            .porUEH = Valores(t.PpUEH),
+            .bloques = Valores(t.PpReal),
+            .nroBloques = t.NroPpReal,
+            .pasoPp = pasos.PasoPp,
+            .pasoQ = pasos.PasoQ,
+            .tiempoAgregado = pasos.N0Dur};
+}
+
 LluviaDeCorrida LluviaDe(const checks::UltimaCorrida& u)
 {
-    const model::Tormenta& t = u.entrada;
-    LluviaDeCorrida l{.forma = t.FormaPp,
-                      .distribucion = t.DistriPp,
-                      .tabla = t.TablaPDR,
-                      .lamina = t.PpTormenta,
-                      .duracion = t.DurTormenta,
-                      .recurrencia = t.RecTormenta,
-                      .porUEH = Valores(t.PpUEH),
-                      .bloques = Valores(t.PpReal),
-                      .nroBloques = t.NroPpReal,
-                      .pasoPp = u.pasos.PasoPp,
-                      .pasoQ = u.pasos.PasoQ,
-                      .tiempoAgregado = u.pasos.N0Dur};
+    LluviaDeCorrida l = LluviaDe(u.entrada, u.pasos);
     if (!u.esSerie) return l;
     l.serieP = Valores(u.serie.SerieP);
     l.serieD = Valores(u.serie.SerieD);
@@ -217,6 +225,17 @@ std::string_view EnDirectorio(std::string_view ruta, std::string_view directorio
     return ruta.find(model::Separador) == std::string_view::npos ? ruta : std::string_view{};
 }
 
+/// The files that were read: those of the project and of the shared tables.
+void AgregaArchivos(std::vector<Pieza>& piezas, const Circunstancias& c)
+{
+    for (const auto& [ruta, bytes] : c.archivos) {
+        if (const std::string_view suyo = EnDirectorio(ruta, c.dirProyecto); !suyo.empty())
+            piezas.push_back({std::string(CarpetaDeProyecto).append(suyo), *bytes});
+        else if (EnDirectorio(ruta, c.dirTrabajo) == model::ArchivoDisPer)
+            piezas.push_back({std::string(CarpetaDeTrabajo).append(model::ArchivoDisPer), *bytes});
+    }
+}
+
 // --- the way back ---
 
 const Pieza* PiezaDe(const std::vector<Pieza>& piezas, std::string_view nombre)
@@ -232,6 +251,15 @@ std::string ArchivoConfEn(const std::vector<Pieza>& piezas)
         if (p.nombre.starts_with(CarpetaDeProyecto) && p.nombre.ends_with(model::TerminacionConf))
             return p.nombre.substr(CarpetaDeProyecto.size());
     return {};
+}
+
+std::optional<LluviaDeCorrida> LluviaEn(const std::vector<Pieza>& piezas)
+{
+    const Pieza* const pieza = PiezaDe(piezas, PiezaLluvia);
+    if (pieza == nullptr) return {};
+    study::LecturaDeLluvia lectura = study::LeeLluvia(pieza->bytes);
+    if (!lectura.motivo.empty() || !Cabe(lectura.lluvia)) return {};
+    return std::move(lectura.lluvia);
 }
 
 std::string AvisoDe(const Ficha& guardada, const checks::UltimaCorrida& u)
@@ -275,11 +303,9 @@ std::shared_ptr<const checks::UltimaCorrida> CorreDeNuevo(Siro& s, const std::st
 
 void Rehace(Rehecha& rehecha, const Libro& libro, const std::vector<Pieza>& piezas)
 {
-    const Pieza* const lluvia = PiezaDe(piezas, PiezaLluvia);
-    const study::LecturaDeLluvia lectura =
-        lluvia != nullptr ? study::LeeLluvia(lluvia->bytes) : study::LecturaDeLluvia{.motivo = "falta"};
+    const std::optional<LluviaDeCorrida> lluvia = LluviaEn(piezas);
     const std::string conf = ArchivoConfEn(piezas);
-    if (!lectura.motivo.empty() || !Cabe(lectura.lluvia) || conf.empty()) {
+    if (!lluvia || conf.empty()) {
         rehecha.reparo = "Al archivo de la corrida le falta la tormenta o la configuración del proyecto.";
         return;
     }
@@ -288,7 +314,7 @@ void Rehace(Rehecha& rehecha, const Libro& libro, const std::vector<Pieza>& piez
     s->Disco = DiscoDe(piezas, libro.dirProyecto, dirTrabajo);
     s->Anfitrion.FechaHora = [cuando = rehecha.ficha.cuando] { return cuando; };
     s->Proyecto.DirEjecutable = s->Proyecto.DirTrabajo = dirTrabajo;
-    rehecha.corrida = CorreDeNuevo(*s, model::Ruta(libro.dirProyecto, conf), lectura.lluvia);
+    rehecha.corrida = CorreDeNuevo(*s, model::Ruta(libro.dirProyecto, conf), *lluvia);
     if (rehecha.corrida == nullptr) {
         rehecha.reparo = "La corrida no llega a su fin con esta versión del programa.";
         return;
@@ -303,13 +329,40 @@ CorridaPorGuardar PorGuardar(const checks::UltimaCorrida& u, const Circunstancia
 {
     CorridaPorGuardar corrida{.ficha = FichaDe(u, c)};
     corrida.piezas.push_back({std::string(PiezaLluvia), study::EscribeLluvia(LluviaDe(u))});
-    for (const auto& [ruta, bytes] : c.archivos) {
-        if (const std::string_view suyo = EnDirectorio(ruta, c.dirProyecto); !suyo.empty())
-            corrida.piezas.push_back({std::string(CarpetaDeProyecto).append(suyo), *bytes});
-        else if (EnDirectorio(ruta, c.dirTrabajo) == model::ArchivoDisPer)
-            corrida.piezas.push_back({std::string(CarpetaDeTrabajo).append(model::ArchivoDisPer), *bytes});
-    }
+    AgregaArchivos(corrida.piezas, c);
     corrida.piezas.push_back({std::string(PiezaResultados), ResultadosDe(u)});
+    return corrida;
+}
+
+CorridaPorGuardar PorGuardar(const MuchasCorridas& m, const Circunstancias& c)
+{
+    CorridaPorGuardar corrida{.ficha = {.proyecto = c.proyecto,
+                                        .clase = m.clase,
+                                        .quien = c.quien,
+                                        .tormenta = m.enPalabras,
+                                        .resumen = m.resumen,
+                                        .segundos = c.segundos,
+                                        .programa = std::string(checks::Version())}};
+    std::vector<Pieza>& piezas = corrida.piezas;
+    piezas.push_back({std::string(PiezaLluvia), study::EscribeLluvia(LluviaDe(m.tormenta, m.pasos))});
+    AgregaArchivos(piezas, c);
+    study::Estudio estudio;
+    estudio.ajuste = m.ajuste;
+    const std::string base = std::string(CarpetaDeProyecto) + c.proyecto;
+    piezas.push_back({base + std::string(model::TerminacionEstudio), study::EscribeEstudio(estudio)});
+    for (const auto& [archivo, texto] : study::EscribeSeries(m.ajuste))
+        if (!archivo.empty()) piezas.push_back({base + "_serie_" + archivo + ".csv", texto});
+    piezas.push_back({std::string(PiezaTarea), study::EscribeAjuste(m.ajuste)});
+    checks::Sha256 entradas, todo;
+    for (const Pieza& p : piezas)
+        entradas.Agrega(p.nombre + "\n" + p.bytes);
+    corrida.ficha.huellaEntradas = entradas.Cierra();
+    checks::Sha256 resultados;
+    resultados.Agrega(m.json);
+    corrida.ficha.huellaResultados = resultados.Cierra();
+    todo.Agrega(corrida.ficha.huellaEntradas + corrida.ficha.huellaResultados);
+    corrida.ficha.huella = todo.Cierra();
+    piezas.push_back({std::string(PiezaResultado), m.json});
     return corrida;
 }
 
@@ -353,6 +406,13 @@ model::Disco DiscoDe(const std::vector<Pieza>& piezas, const std::string& dirPro
         (*archivos)[a] = halla(de)->second;
     };
     return d;
+}
+
+bool PonLluvia(Siro& s, const std::vector<Pieza>& piezas)
+{
+    const std::optional<LluviaDeCorrida> lluvia = LluviaEn(piezas);
+    if (lluvia) PonLluvia(s, *lluvia);
+    return lluvia.has_value();
 }
 
 Rehecha Rehace(const Libro& libro, const std::string& archivo)

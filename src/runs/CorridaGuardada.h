@@ -7,8 +7,10 @@
 
 #include "checks/UltimaCorrida.h"
 #include "model/SiroDeclarado.h"
+#include "model/Tormenta.h"
 #include "runs/LibroDeCorridas.h"
 #include "runs/Testigo.h"
+#include "study/Ajuste.h"
 #include "study/Ficha.h"
 #include "study/Paquete.h"
 
@@ -26,9 +28,23 @@ struct Circunstancias {
 /// A storm or a series as the ledger keeps it.
 CorridaPorGuardar PorGuardar(const checks::UltimaCorrida& u, const Circunstancias& c);
 
+/// What was asked of many runs, and what came out.
+struct MuchasCorridas {
+    std::string clase{};            ///< "conjunto", "ajuste", "sensibilidad"
+    study::Ajuste ajuste{};         ///< what was asked, with the values of what was observed
+    std::string json{}, resumen{};  ///< what came out, as siro-lote writes it; in a sentence
+    std::string enPalabras{};       ///< the storm in hand
+    model::Tormenta tormenta{};
+    model::Pasos pasos{};
+};
+CorridaPorGuardar PorGuardar(const MuchasCorridas& m, const Circunstancias& c);
+
 /// The files of a kept run, under the directories `dirProyecto` and `dirTrabajo`, in a disk of their own.
 model::Disco DiscoDe(const std::vector<study::Pieza>& piezas, const std::string& dirProyecto,
                      const std::string& dirTrabajo);
+
+/// Makes storm, steps and series of a kept run those in memory. Returns whether the pieces have them.
+bool PonLluvia(model::Siro& s, const std::vector<study::Pieza>& piezas);
 
 /// A kept run that was run again.
 struct Rehecha {

@@ -5,8 +5,10 @@
 #include <array>
 #include <chrono>
 #include <ctime>
+#include <future>
 #include <iterator>
 #include <random>
+#include <thread>
 #include <utility>
 
 #include "model/Falla.h"
@@ -156,6 +158,26 @@ RenglonDeLibro Lee(const Libro& libro, const std::string& archivo)
     }
 }
 
+/// On as many threads as there are cores, since half of the time is the system's.
+std::vector<RenglonDeLibro> LeeTodos(const Libro& libro, const std::vector<std::string>& archivos)
+{
+    constexpr std::size_t PorHilo = 500;
+    std::vector<RenglonDeLibro> renglones(archivos.size());
+    const std::size_t hilos = std::clamp<std::size_t>(archivos.size() / PorHilo, 1,
+                                                      std::max(1U, std::thread::hardware_concurrency()));
+    const auto lee = [&](std::size_t desde) {
+        for (std::size_t i = desde; i < archivos.size(); i += hilos)
+            renglones[i] = Lee(libro, archivos[i]);
+    };
+    std::vector<std::future<void>> otros;
+    for (std::size_t h = 1; h < hilos; ++h)
+        otros.push_back(std::async(std::launch::async, lee, h));
+    lee(0);
+    for (std::future<void>& otro : otros)
+        otro.get();
+    return renglones;
+}
+
 void PreparaCarpeta(const Libro& libro)
 {
     const std::string carpeta = libro.Carpeta();
@@ -234,14 +256,9 @@ std::vector<RenglonDeLibro> ListaDe(const Libro& libro)
         std::erase_if(archivos, esResto);
     }
     // What bears another name has no time, and stands behind.
-    std::ranges::sort(archivos, [](const std::string& a, const std::string& b) {
-        return std::pair(EsDelLibro(a), std::string_view(a)) > std::pair(EsDelLibro(b), std::string_view(b));
-    });
-    std::vector<RenglonDeLibro> renglones;
-    renglones.reserve(archivos.size());
-    for (const std::string& archivo : archivos)
-        renglones.push_back(Lee(libro, archivo));
-    return renglones;
+    std::ranges::sort(archivos, std::ranges::greater());
+    std::stable_partition(archivos.begin(), archivos.end(), EsDelLibro);
+    return LeeTodos(libro, archivos);
 }
 
 std::string Guarda(const Libro& libro, CorridaPorGuardar corrida)

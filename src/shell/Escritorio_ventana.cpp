@@ -175,11 +175,14 @@ void Escritorio::PonLluvia()
 void Escritorio::PonEstudio()
 {
     ventanasEstudio = std::make_unique<VentanasDeEstudio>(entorno, *ventanaPrincipal);
-    const auto trasCorrer = [this](const model::Tormenta& entrada, bool completa) {
-        ventanasEstudio->TrasCorrer(entrada, completa);
-        ventanaPizarra->TrasCorrer();
+    // A slider's runs are looked over, and not kept.
+    const auto trasCorrer = [this](bool seGuarda) {
+        return [this, seGuarda](const model::Tormenta& entrada, bool completa) {
+            ventanasEstudio->TrasCorrer(entrada, completa, seGuarda);
+            ventanaPizarra->TrasCorrer();
+        };
     };
-    mandos.TrasCorrer = trasCorrer;
+    mandos.TrasCorrer = trasCorrer(true);
     mandos.AlSalir = [this] { ventanasEstudio->Talleres().AlSalir(); };
     mandos.TrasGuardarComo = [this] { ventanasEstudio->Talleres().TrasGuardarComo(); };
     mandos.TrasSerie = [this] {
@@ -187,7 +190,7 @@ void Escritorio::PonEstudio()
         // Filled before the series had come to its end.
         if (std::exchange(tablaDeSerie, false)) ventanasSerie->ventanaTablaCompleta.Franja().Toma();
     };
-    ventanaHidrograma->TrasCorrer = trasCorrer;
+    ventanaHidrograma->TrasCorrer = trasCorrer(false);
     hidrograma.Observados = [this](const std::string& componente) {
         return ventanasEstudio->Talleres().Observados(componente);
     };
@@ -233,6 +236,20 @@ void Escritorio::PonEstudio()
             hecho = true;
         });
         return hecho;
+    };
+    PonCorridas();
+}
+
+void Escritorio::PonCorridas()
+{
+    Corridas& corridas = ventanasEstudio->CorridasGuardadas();
+    corridas.DibujoSinGuardar = ventanasEstudio->Talleres().DibujoSinGuardar;
+    corridas.Aplica = ventanasEstudio->Talleres().Aplica;
+    corridas.MuestraTraida = [this](const Corridas::Corrida& corrida) {
+        ventanasEstudio->TrasTraer(corrida);
+        ventanaPizarra->TrasCorrer();
+        hidrograma.abierta = ventanasSerie->abaco.abierta = false;  // so that they show the run
+        Abre(corrida->esSerie ? Ventana::dlgChart3 : Ventana::dlgChart2);
     };
 }
 
@@ -442,6 +459,7 @@ void Escritorio::Abre(Ventana ventana, bool espera)
     case Ventana::Mapa:
     case Ventana::Revisar:
     case Ventana::Verificar:
+    case Ventana::Corridas:
     case Ventana::Taller:
     case Ventana::Ajuste:
     case Ventana::Memoria:

@@ -78,6 +78,7 @@ class Escritorio {
     void PonVentanas();
     void PonLluvia();
     void PonEstudio();
+    void PonCorridas();
     void PonInicio();
     void PonBusca();
     void VeAHallazgo(const checks::Hallazgo& hallazgo, bool ordenada);

@@ -14,46 +14,71 @@ constexpr int TodosLosNucleos = 0;
 
 JuicioDeCorrida::~JuicioDeCorrida()
 {
-    if (hilo.joinable()) hilo.join();
+    const auto entrega = [](const Pedido& pedido, const Corrida& corrida) {
+        if (pedido.luego && corrida != nullptr) pedido.luego(corrida);
+    };
+    if (!hilo.joinable()) return;
+    hilo.join();
+    entrega(enCurso, hecha);
+    for (const Pedido& pedido : enEspera)
+        if (pedido.luego) entrega(pedido, pedido.tarea());
 }
 
-void JuicioDeCorrida::Pide(const model::Siro& s, const model::Tormenta& entrada, bool completa)
+void JuicioDeCorrida::Pide(const model::Siro& s, const model::Tormenta& entrada, bool completa, Luego luego)
 {
-    Empieza([copia = std::make_shared<const model::Siro>(s), entrada, completa] {
-        return checks::UltimaCorrida::DeUna(*copia, entrada, completa);
-    });
+    Encola({[copia = std::make_shared<const model::Siro>(s), entrada, completa] {
+                return checks::UltimaCorrida::DeUna(*copia, entrada, completa);
+            },
+            std::move(luego)});
 }
 
-void JuicioDeCorrida::PideSerie(const model::Siro& s)
+void JuicioDeCorrida::PideSerie(const model::Siro& s, Luego luego)
 {
-    Empieza([copia = std::make_shared<const model::Siro>(s)] {
-        return checks::UltimaCorrida::DeSerie(*copia, TodosLosNucleos);
-    });
+    Encola({[copia = std::make_shared<const model::Siro>(s)] {
+                return checks::UltimaCorrida::DeSerie(*copia, TodosLosNucleos);
+            },
+            std::move(luego)});
 }
 
-void JuicioDeCorrida::Empieza(Tarea tarea)
+void JuicioDeCorrida::Pon(Corrida corrida)
 {
-    if (EnCurso()) {
-        enEspera = std::move(tarea);
-        return;
-    }
-    hilo = std::thread([this, tarea = std::move(tarea)] {
-        Corrida corrida;
+    Encola({[corrida = std::move(corrida)] { return corrida; }, {}});
+}
+
+void JuicioDeCorrida::Encola(Pedido pedido)
+{
+    if (!EnCurso()) return Empieza(std::move(pedido));
+    std::erase_if(enEspera, [](const Pedido& otro) { return !otro.luego; });
+    enEspera.push_back(std::move(pedido));
+}
+
+void JuicioDeCorrida::Empieza(Pedido pedido)
+{
+    enCurso = std::move(pedido);
+    hecha = nullptr;
+    hilo = std::thread([this] {
         try {
-            corrida = tarea();
+            hecha = enCurso.tarea();
         } catch (const std::bad_alloc&) {  // nothing is said of it then
         }
         QMetaObject::invokeMethod(
-            this, [this, corrida = std::move(corrida)] { Termina(corrida); }, Qt::QueuedConnection);
+            this, [this] { Termina(); }, Qt::QueuedConnection);
     });
     AlCambiar();
 }
 
-void JuicioDeCorrida::Termina(Corrida corrida)
+void JuicioDeCorrida::Termina()
 {
     hilo.join();
-    if (enEspera) return Empieza(std::exchange(enEspera, nullptr));
-    ultima = std::move(corrida);
+    const Corrida corrida = std::exchange(hecha, nullptr);
+    const Luego luego = std::exchange(enCurso, {}).luego;
+    if (luego && corrida != nullptr) luego(corrida);
+    if (!enEspera.empty()) {
+        Pedido siguiente = std::move(enEspera.front());
+        enEspera.pop_front();
+        return Empieza(std::move(siguiente));
+    }
+    ultima = corrida;
     AlCambiar();
 }
 

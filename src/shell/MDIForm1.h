@@ -59,6 +59,7 @@ enum class Ventana : std::uint8_t {
     Mapa,
     Revisar,
     Verificar,
+    Corridas,
     Taller,
     Ajuste,
     Memoria,

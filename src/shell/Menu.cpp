@@ -125,6 +125,7 @@ constexpr auto FilasMenu = std::to_array<FilaMenu>({
     {"mnuComparar",                     "&Comparar hidrogramas",                           "mnuEstudio", SoloAbre<Ventana::Comparar>, false, V::Ninguna, "", "Hidrogramas de varios componentes en un gráfico"},
     {"mnuCompararCorridas",             "Comparar c&orridas o proyectos",                  "mnuEstudio", SoloAbre<Ventana::CompararCorridas>, false, V::Ninguna, "", "Dos corridas o proyectos uno al lado del otro: parámetros, resultados, hidrogramas, series"},
     {"mnuMapa",                         "&Mapa de la corrida",                             "mnuEstudio", SoloAbre<Ventana::Mapa>, false, V::Ninguna, "", "La red con el caudal de cada componente a lo largo del tiempo"},
+    {"mnuCorridas",                     "Corridas &guardadas",                             "mnuEstudio", SoloAbre<Ventana::Corridas>, false, V::Ninguna, "", "Las corridas de este proyecto, con nombre y nota, para traerlas de vuelta o compararlas"},
     Separador("mnuEstudioBarra", "mnuEstudio"),
     {"mnuRevisar",                      "Revisar &proyecto",                               "mnuEstudio", ConProyecto<Ventana::Revisar>, false, V::Ninguna, "F12", "Todo lo que detendría una corrida o la haría dudosa"},
     {"mnuAnteriores",                   "Versiones a&nteriores",                           "mnuEstudio", SoloAbre<Ventana::dlgAnteriores>, false, V::Ninguna, "", "Lo que el proyecto tenía antes de cada guardado: mirar, comparar, traer de vuelta"},

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/Avisos.h"
 #include "model/Siro.h"
+#include "shell/Corridas_ventana.h"
 #include "shell/Talleres_ventana.h"
 
 namespace shell {
@@ -28,6 +29,8 @@ void Talleres::AbreMemoria()
 
 void Talleres::TomaCorridas() {}
 
+void Talleres::ComparaGuardadas(const std::vector<std::pair<std::string, std::string>>& /*corridas*/) {}
+
 void Talleres::AbreComparacion()
 {
     model::Advierte(entorno.s,
@@ -51,5 +54,31 @@ void Talleres::TrasEliminar() {}
 void Talleres::TrasTraer() {}
 
 void Talleres::AlSalir() {}
+
+struct Corridas::Partes {};
+
+Corridas::Corridas(forms::Entorno& alrededor) : entorno(alrededor) {}
+
+Corridas::~Corridas() = default;
+
+void Corridas::Abre()
+{
+    model::Advierte(entorno.s, "Esta versión no guarda las corridas; lo hace la versión completa.");
+}
+
+std::function<void(const Corridas::Corrida&)> Corridas::Prepara()
+{
+    return {};
+}
+
+void Corridas::Guarda(const calibration::CorridasHechas& /*hechas*/, const model::Siro& /*proyecto*/,
+                      const std::optional<model::Colecciones>& /*dibujo*/)
+{
+}
+
+runs::dlgCorridas_ventana* Corridas::Ventana()
+{
+    return nullptr;
+}
 
 }  // namespace shell

@@ -62,6 +62,9 @@ Talleres::Talleres(forms::Entorno& alrededor)
     partes->estudio.AlCambiar([this] { AlCambiar(); });
     partes->ajuste.DibujoSinGuardar = [this] { return DibujoSinGuardar(); };
     partes->ventanaComparacion.Ultima = [this] { return UltimaCorrida(); };
+    partes->ajuste.GuardaCorridas = [this](const calibration::CorridasHechas& hechas) {
+        GuardaCorridas(hechas, partes->ajuste.proyecto, partes->ajuste.dibujo);
+    };
     partes->ajuste.Aplica = [this](const auto& cambio) { return Aplica(cambio); };
     partes->ventanaMemoria.DeQue = [this] { return DatosDeMemoria(); };
     partes->ventanaMemoria.Base = [this] {
@@ -120,6 +123,14 @@ report::Datos Talleres::DatosDeMemoria() const
     datos.version = SIRO_VERSION;
     datos.cambios = CambiosDesde(datos, checks::SelloDe(s));
     return datos;
+}
+
+void Talleres::ComparaGuardadas(const std::vector<std::pair<std::string, std::string>>& corridas)
+{
+    std::vector<runs::Origen> lados;
+    for (const auto& [archivo, nombre] : corridas)
+        lados.push_back({runs::Origen::Clase::Guardada, archivo, nombre});
+    partes->ventanaComparacion.Compara(lados);
 }
 
 void Talleres::AbreComparacion()

@@ -3,16 +3,22 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "checks/UltimaCorrida.h"
 #include "forms/Entorno_ventana.h"
 #include "model/Red.h"
+#include "model/SiroDeclarado.h"
 #include "model/Tormenta.h"
 #include "results/Observado.h"
 #include "results/mapa/PintaMapa_ventana.h"
 
+namespace calibration {
+struct CorridasHechas;
+}
 namespace study {
 class Abierto;
 }
@@ -39,6 +45,8 @@ class Talleres {
     /// The window of the memoria shows the last runs anew.
     void TomaCorridas();
     void AbreComparacion();
+    /// The same with kept runs of the project in hand as its sides: file in the ledger, name.
+    void ComparaGuardadas(const std::vector<std::pair<std::string, std::string>>& corridas);
 
     /// The run looked over last; nothing before the first.
     std::function<std::shared_ptr<const checks::UltimaCorrida>()> UltimaCorrida = [] { return nullptr; };
@@ -69,6 +77,11 @@ class Talleres {
     std::function<const model::Colecciones*()> DibujoSinGuardar = [] { return nullptr; };
     std::function<bool(const std::function<void(model::Red&, model::Tormenta&)>& cambio)> Aplica =
         [](const auto&) { return false; };
+
+    /// Keeps what was asked of many runs: see Corridas.
+    std::function<void(const calibration::CorridasHechas& hechas, const model::Siro& proyecto,
+                       const std::optional<model::Colecciones>& dibujo)>
+        GuardaCorridas = [](const auto&, const auto&, const auto&) {};
 
   private:
     struct Partes;

@@ -13,6 +13,7 @@ namespace shell {
 
 VentanasDeEstudio::VentanasDeEstudio(forms::Entorno& alrededor, MDIForm1_ventana& laPrincipal)
     : entorno(alrededor),
+      corridas(alrededor),
       linea(*laPrincipal.statusBar()),
       talleres(alrededor),
       ventanaAvisos(alrededor, avisos, laPrincipal),
@@ -34,17 +35,22 @@ VentanasDeEstudio::VentanasDeEstudio(forms::Entorno& alrededor, MDIForm1_ventana
         if (pedida && !juicio.EnCurso()) entorno.Atiende([this] { Abre(*pedida); });
     };
     mapa.AbreHidrograma = [this](const std::string& componente) { AbreHidrograma(componente); };
+    talleres.GuardaCorridas = [this](const auto& hechas, const auto& proyecto, const auto& dibujo) {
+        corridas.Guarda(hechas, proyecto, dibujo);
+    };
+    corridas.Compara = [this](const auto& guardadas) { talleres.ComparaGuardadas(guardadas); };
+    corridas.AlCambiarFallo = [this] { MuestraEstado(); };
     linea.AlPedirAvisos = [this] { entorno.Atiende([this] { Abre(Ventana::Avisos); }); };
     ventanaAvisos.AbreHidrograma = [this](const std::string& componente) { AbreHidrograma(componente); };
     MuestraEstado();
 }
 
-void VentanasDeEstudio::TrasCorrer(const model::Tormenta& entrada, bool completa)
+void VentanasDeEstudio::TrasCorrer(const model::Tormenta& entrada, bool completa, bool seGuarda)
 {
     corrido = true;
     sello = checks::SelloDe(entorno.s);
     cuando = entorno.s.Anfitrion.FechaHora();
-    juicio.Pide(entorno.s, entrada, completa);
+    juicio.Pide(entorno.s, entrada, completa, seGuarda && completa ? corridas.Prepara() : nullptr);
 }
 
 void VentanasDeEstudio::TrasSerie()
@@ -52,7 +58,15 @@ void VentanasDeEstudio::TrasSerie()
     corrido = true;
     sello = checks::SelloDe(entorno.s);
     cuando = entorno.s.Anfitrion.FechaHora();
-    juicio.PideSerie(entorno.s);
+    juicio.PideSerie(entorno.s, corridas.Prepara());
+}
+
+void VentanasDeEstudio::TrasTraer(const JuicioDeCorrida::Corrida& corrida)
+{
+    corrido = true;
+    sello = corrida->sello;
+    cuando = corrida->cuando;
+    juicio.Pon(corrida);
 }
 
 checks::Sello VentanasDeEstudio::SelloDeResultados() const
@@ -105,6 +119,7 @@ void VentanasDeEstudio::Abre(Ventana ventana)
     if (ventana == Ventana::CompararCorridas) talleres.AbreComparacion();
     if (ventana == Ventana::Revisar) ventanaRevisar.Abre();
     if (ventana == Ventana::Verificar) ventanaVerificar.Abre();
+    if (ventana == Ventana::Corridas) corridas.Abre();
     if (ventana == Ventana::Mapa) mapa.Abre();
     if (ventana == Ventana::Taller) talleres.AbreLluvia();
     if (ventana == Ventana::Ajuste) talleres.AbreAjuste();
@@ -116,7 +131,8 @@ void VentanasDeEstudio::MuestraEstado()
     // What comes back to the screen comes with an event.
     if (corrido && !ventanaAvisos.parentWidget()->isVisible()) return;
     linea.PonTormenta(checks::TormentaEnMano(entorno.s) +
-                      (corrido ? " · última corrida " + cuando : std::string(" · sin corrida")));
+                      (corrido ? " · última corrida " + cuando : std::string(" · sin corrida")) +
+                      (corridas.Fallo().empty() ? "" : " · " + corridas.Fallo()));
     const checks::EstadoDeCorrida estado{juicio.Ultima(), juicio.EnCurso(),
                                          juicio.Ultima() ? checks::SelloDe(entorno.s) : checks::Sello{}};
     const bool revisada = estado.ultima != nullptr && !estado.enCurso;

@@ -18,6 +18,7 @@
 #include "results/dlgComparar_ventana.h"
 #include "results/dlgResumen.h"
 #include "results/dlgResumen_ventana.h"
+#include "shell/Corridas_ventana.h"
 #include "shell/JuicioDeCorrida_ventana.h"
 #include "shell/LineaDeEstado_ventana.h"
 #include "shell/MDIForm1.h"
@@ -35,8 +36,11 @@ class VentanasDeEstudio {
     VentanasDeEstudio& operator=(const VentanasDeEstudio&) = delete;
 
     /// A storm has been run; Mandos tells of the others.
-    void TrasCorrer(const model::Tormenta& entrada, bool completa);
+    /// `seGuarda`: it goes into the ledger of runs.
+    void TrasCorrer(const model::Tormenta& entrada, bool completa, bool seGuarda);
     void TrasSerie();
+    /// A kept run has taken the place of the last one.
+    void TrasTraer(const JuicioDeCorrida::Corrida& corrida);
     /// What the results in memory are of; of the state in memory before the first run.
     [[nodiscard]] checks::Sello SelloDeResultados() const;
     /// Whether a run has been made in this session, and when the last one was.
@@ -47,6 +51,7 @@ class VentanasDeEstudio {
     JuicioDeCorrida& Juicio() { return juicio; }
     MapaDeEstudio& Mapa() { return mapa; }
     class Talleres& Talleres() { return talleres; }
+    Corridas& CorridasGuardadas() { return corridas; }
     /// The list of findings; where they lead and what its button does is set from outside.
     checks::dlgAvisos_ventana& VentanaAvisos() { return ventanaAvisos; }
     /// The check before a run; what it asks of the editor is set from outside.
@@ -74,6 +79,7 @@ class VentanasDeEstudio {
     JuicioDeCorrida::Corrida ultimaTormenta{}, ultimaSerie{};
     std::optional<Ventana> pedida{};  ///< opens once the run has been looked over
     std::string cuando{};             ///< date and time of the last run
+    Corridas corridas;                // which outlives those that wait to be looked over
     JuicioDeCorrida juicio{};
     MapaDeEstudio mapa{entorno, juicio};
     LineaDeEstado linea;

@@ -453,6 +453,11 @@ std::string EscribeEstudio(const Estudio& estudio)
     return Texto(estudio, VersionDeEstudio);
 }
 
+std::string EscribeAjuste(const Ajuste& ajuste)
+{
+    return Texto(ajuste, 0);
+}
+
 std::string EscribeFicha(const Ficha& ficha)
 {
     return Texto(ficha, VersionDeFicha);

@@ -39,6 +39,9 @@ struct LecturaDeAjuste {
 /// no version. Keys that aren't known stand in `resto`.
 LecturaDeAjuste LeeAjuste(std::string_view bytes);
 
+/// The text that LeeAjuste reads.
+std::string EscribeAjuste(const Ajuste& ajuste);
+
 /// The text of a study: keys always in the same order, a line per maximum, every digit that tells one number
 /// from the next; what is no UTF-8 in a text is U+FFFD.
 std::string EscribeEstudio(const Estudio& estudio);

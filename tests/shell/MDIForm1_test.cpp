@@ -147,6 +147,7 @@ TEST_F(MarcoDePrueba, ElMenuTieneSusEntradasEnOrden)
         {"mnuComparar", "&Comparar hidrogramas"},
         {"mnuCompararCorridas", "Comparar c&orridas o proyectos"},
         {"mnuMapa", "&Mapa de la corrida"},
+        {"mnuCorridas", "Corridas &guardadas"},
         {"mnuEstudioBarra", "-"},
         {"mnuRevisar", "Revisar &proyecto"},
         {"mnuAnteriores", "Versiones a&nteriores"},

@@ -150,6 +150,7 @@ TEST_F(Pantallas, LaVentanaPrincipalYLasQueEstanEnElla)
     EnLaPrincipal(Ventana::Taller, "dlgTaller");
     EnLaPrincipal(Ventana::Ajuste, "dlgAjuste");
     EnLaPrincipal(Ventana::Memoria, "dlgMemoria");
+    EnLaPrincipal(Ventana::Corridas, "dlgCorridas");
     Accion("mnuMapa").trigger();  // it comes once the run has been looked over
     ASSERT_TRUE(Espera([this] {
         return escritorio.Principal().findChild<QWidget*>(QStringLiteral("MapaDeCorrida")) != nullptr;

@@ -3,11 +3,15 @@
 
 #include <QSplitter>
 #include <QTabWidget>
+#include <memory>
 #include <optional>
 #include <utility>
 
+#include "calibration/EscribeCalibracion.h"
 #include "forms/Lamina_ventana.h"
 #include "forms/Planilla_ventana.h"
+#include "model/Numeros.h"
+#include "model/Siro.h"
 
 namespace calibration {
 
@@ -102,6 +106,8 @@ void AjusteCalibracion_ventana::Busca()
 {
     const auto pedido = Empieza(m, f);
     if (!pedido) return;
+    hechas = {.clase = "ajuste", .ajuste = AjusteDe(f)};
+    desde = f.s.Anfitrion.Reloj();
     corrida.Empieza([pedido](const study::Avance& avance, const auto& entrega) {
         auto c = Calibra(*pedido, avance, [&](const VistaDeCalibracion& vista) { entrega({vista, {}}); });
         if (c) entrega({{}, std::move(c)});
@@ -112,11 +118,25 @@ void AjusteCalibracion_ventana::Mira(study::Vigilada<EntregaDeCalibracion>::Mira
 {
     m.avance = mirada.avance;
     if (mirada.nuevo && mirada.nuevo->fin)
-        entorno.Atiende([&] { Termina(m, f, *std::move(mirada.nuevo->fin), f.s.Anfitrion.FechaHora()); });
+        entorno.Atiende([&] {
+            Termina(m, f, *std::move(mirada.nuevo->fin), f.s.Anfitrion.FechaHora());
+            Guarda();
+        });
     else if (mirada.nuevo)
         calibration::Mira(m, f, std::move(mirada.nuevo->vista));
     if (mirada.terminada && m.corriendo) Cancela(m, f);
     if (isVisible()) Muestra();
+}
+
+/// A copy, since what is on show may change while it is written.
+void AjusteCalibracion_ventana::Guarda()
+{
+    const auto hallado = std::make_shared<const Calibrado>(*m.calibrado);
+    hechas.segundos = f.s.Anfitrion.Reloj() - desde;
+    hechas.resumen = "Puntaje " + model::NumeroATexto(hallado->Puntaje()) + " en " +
+                     std::to_string(hallado->corridas.size()) + " corridas.";
+    hechas.json = [pedido = m.pedido, hallado] { return JsonDe(*pedido, *hallado); };
+    f.GuardaCorridas(hechas);
 }
 
 bool AjusteCalibracion_ventana::AlEscapar()

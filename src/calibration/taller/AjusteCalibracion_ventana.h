@@ -36,11 +36,14 @@ class AjusteCalibracion_ventana : public PaginaDeAjuste {
     QComboBox* Lista(std::string_view control, const std::vector<std::string>& items, const int& cual,
                      std::function<void(int)> elige);
     void Busca();
+    void Guarda();
     void Mira(study::Vigilada<EntregaDeCalibracion>::Mirada& mirada);
 
     AjusteCalibracion m = NuevaAjusteCalibracion();
     QTabWidget* fichas = nullptr;
     forms::Lamina* grafico = nullptr;
+    CorridasHechas hechas{};  ///< what is under way, on its way into the ledger
+    double desde = 0;         ///< since when, by the host's clock [s]
     study::Vigilada<EntregaDeCalibracion> corrida{[this](auto& mirada) { Mira(mirada); }};
 };
 

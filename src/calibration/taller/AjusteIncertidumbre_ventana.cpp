@@ -2,10 +2,13 @@
 #include "calibration/taller/AjusteIncertidumbre_ventana.h"
 
 #include <QSplitter>
+#include <memory>
 #include <optional>
 #include <utility>
 
+#include "calibration/InformeDeConjunto.h"
 #include "forms/Lamina_ventana.h"
+#include "model/Siro.h"
 
 namespace calibration {
 
@@ -98,16 +101,34 @@ void AjusteIncertidumbre_ventana::Corre()
 {
     std::optional<PedidoDeIncertidumbre> pedido = Empieza(m, f);
     if (!pedido) return;
-    corrida.Empieza([pedido = *std::move(pedido)](const study::Avance& avance, const auto& entrega) {
-        if (std::optional<Conjunto> c = CorreConjunto(pedido, avance)) entrega(*std::move(c));
+    hechas = {.clase = "conjunto", .ajuste = AjusteDe(f)};
+    desde = f.s.Anfitrion.Reloj();
+    enCurso = std::make_shared<const PedidoDeIncertidumbre>(*std::move(pedido));
+    corrida.Empieza([suyo = enCurso](const study::Avance& avance, const auto& entrega) {
+        if (std::optional<Conjunto> c = CorreConjunto(*suyo, avance)) entrega(*std::move(c));
     });
 }
 
 void AjusteIncertidumbre_ventana::Mira(study::Vigilada<Conjunto>::Mirada& mirada)
 {
     m.avance = mirada.avance;
-    if (mirada.nuevo) Termina(m, f, *std::move(mirada.nuevo));
+    if (mirada.nuevo) {
+        Termina(m, f, *std::move(mirada.nuevo));
+        Guarda();
+    }
     if (isVisible()) Muestra();
+}
+
+/// A copy, since what is on show may change while it is written.
+void AjusteIncertidumbre_ventana::Guarda()
+{
+    const auto hallado = std::make_shared<const Conjunto>(*m.conjunto);
+    hechas.segundos = f.s.Anfitrion.Reloj() - desde;
+    hechas.resumen = std::to_string(hallado->miembros) + " miembros, " + hallado->componente + ".";
+    hechas.json = [pedido = enCurso, hallado, proyecto = ProyectoDe(f).Proyecto.NombreProyecto] {
+        return JsonDe(EncabezadoDe(proyecto, *pedido), *hallado);
+    };
+    f.GuardaCorridas(hechas);
 }
 
 void AjusteIncertidumbre_ventana::Deja()

@@ -31,12 +31,16 @@ class AjusteIncertidumbre_ventana : public PaginaDeAjuste {
     QComboBox* Lista(std::string_view control, const std::vector<std::string>& items, const int& cual,
                      std::function<void(int)> elige);
     void Corre();
+    void Guarda();
     void Mira(study::Vigilada<Conjunto>::Mirada& mirada);
     void Deja();
 
     AjusteIncertidumbre m = NuevaAjusteIncertidumbre();
     forms::TablaCuadro* tabla = nullptr;
     forms::Lamina* grafico = nullptr;
+    std::shared_ptr<const PedidoDeIncertidumbre> enCurso{};
+    CorridasHechas hechas{};  ///< what is under way, on its way into the ledger
+    double desde = 0;         ///< since when, by the host's clock [s]
     study::Vigilada<Conjunto> corrida{[this](auto& mirada) { Mira(mirada); }};
 };
 

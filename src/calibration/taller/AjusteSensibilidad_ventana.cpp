@@ -4,12 +4,15 @@
 #include <QSplitter>
 #include <algorithm>
 #include <cstddef>
+#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "calibration/EscribeSensibilidad.h"
 #include "forms/Lamina_ventana.h"
+#include "model/Siro.h"
 #include "model/Texto.h"
 
 namespace calibration {
@@ -114,6 +117,8 @@ void AjusteSensibilidad_ventana::Corre()
 {
     std::optional<PedidoDeSensibilidad> pedido = Empieza(m, f);
     if (!pedido) return;
+    hechas = {.clase = "sensibilidad", .ajuste = AjusteDe(f)};
+    desde = f.s.Anfitrion.Reloj();
     corrida.Empieza([p = *std::move(pedido)](const study::Avance& avance, const auto& entrega) {
         if (std::optional<AnalisisDeSensibilidad> a = AnalizaSensibilidad(p.modelo, p.ajuste, 0, avance))
             entrega(*std::move(a));
@@ -123,8 +128,23 @@ void AjusteSensibilidad_ventana::Corre()
 void AjusteSensibilidad_ventana::Mira(study::Vigilada<AnalisisDeSensibilidad>::Mirada& mirada)
 {
     m.avance = mirada.avance;
-    if (mirada.nuevo) Termina(m, f, *std::move(mirada.nuevo));
+    if (mirada.nuevo) {
+        Termina(m, f, *std::move(mirada.nuevo));
+        Guarda();
+    }
     if (isVisible()) Muestra();
+}
+
+/// A copy, since what is on show may change while it is written.
+void AjusteSensibilidad_ventana::Guarda()
+{
+    if (!m.analisis->reparos.empty()) return;
+    const auto hallado = std::make_shared<const AnalisisDeSensibilidad>(*m.analisis);
+    hechas.segundos = f.s.Anfitrion.Reloj() - desde;
+    hechas.resumen = std::to_string(hallado->parametros.size()) + " parámetros, " +
+                     std::to_string(hallado->corridas) + " corridas.";
+    hechas.json = [hallado] { return JsonDe(*hallado); };
+    f.GuardaCorridas(hechas);
 }
 
 void AjusteSensibilidad_ventana::Deja()

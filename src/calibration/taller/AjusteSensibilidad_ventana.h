@@ -35,12 +35,15 @@ class AjusteSensibilidad_ventana : public PaginaDeAjuste {
     /// A row of controls that is there where the study asks for it.
     forms::Partes SoloSi(forms::Partes renglon, Vale vale);
     void Corre();
+    void Guarda();
     void Mira(study::Vigilada<AnalisisDeSensibilidad>::Mirada& mirada);
     void Deja();
 
     AjusteSensibilidad m = NuevaAjusteSensibilidad();
     forms::TablaCuadro* tabla = nullptr;
     forms::Lamina* grafico = nullptr;
+    CorridasHechas hechas{};  ///< what is under way, on its way into the ledger
+    double desde = 0;         ///< since when, by the host's clock [s]
     study::Vigilada<AnalisisDeSensibilidad> corrida{[this](auto& mirada) { Mira(mirada); }};
 };
 

@@ -30,6 +30,15 @@ inline constexpr auto RotulosDlgAjuste = study::ConRotulosDePasos(std::to_array<
 /// What Aplicar does: runs::Aplica with a set of values.
 using CambioDeProyecto = std::function<void(model::Red& red, model::Tormenta& tormenta)>;
 
+/// What was asked of many runs and has come to its end.
+struct CorridasHechas {
+    std::string clase{};                  ///< "ajuste", "sensibilidad", "conjunto"
+    study::Ajuste ajuste{};               ///< what was asked
+    double segundos = 0;                  ///< that it took
+    std::string resumen{};                ///< what came out, a sentence
+    std::function<std::string()> json{};  ///< the same as siro-lote writes it; may run on another thread
+};
+
 struct dlgAjuste : study::Pasos {
     dlgAjuste(study::Abierto& suEstudio, const model::Siro& unSiro) : Pasos(suEstudio), s(unSiro) {}
     void TomaEnMano() override;
@@ -44,6 +53,9 @@ struct dlgAjuste : study::Pasos {
     std::function<bool(const CambioDeProyecto& cambio)> Aplica = [](const CambioDeProyecto&) {
         return false;
     };
+
+    /// Keeps it in the ledger of runs.
+    std::function<void(CorridasHechas hechas)> GuardaCorridas = [](CorridasHechas) {};
 
     // --- in hand ---
     int evento = 0, observacion = 0;                      ///< from 0; 0 where there is none
