@@ -81,6 +81,11 @@ void VentanasDelEditor::Aplica(const std::function<void(model::Red&)>& cambio)
     ventanaRed.Suceda([&] { editor::Aplica(red, entorno.s, cambio); });
 }
 
+void VentanasDelEditor::Recupera(const RedGuardada& noGuardada)
+{
+    ventanaRed.Suceda([&] { editor::Recupera(red, entorno.s, noGuardada); });
+}
+
 void VentanasDelEditor::AbreEditorDeTabla(QWidget& padre)
 {
     dlgUEHsEditTabla_ventana(entorno, editorDeTabla, &padre).Abre();

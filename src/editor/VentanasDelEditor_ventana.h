@@ -6,6 +6,7 @@
 
 #include "checks/Hallazgo.h"
 #include "editor/FormasDeComponentes_ventana.h"
+#include "editor/RedEscrita.h"
 #include "editor/fichas/dlgUEHsEditTabla.h"
 #include "editor/fichas/dlgUEHsTabla.h"
 #include "editor/fichas/dlgUEHsTabla_ventana.h"
@@ -41,6 +42,9 @@ class VentanasDelEditor {
     int Corrige(const std::vector<checks::Hallazgo>& hallazgos);
     /// Changes the network in memory, as one step of the drawing's history. The editor is open.
     void Aplica(const std::function<void(model::Red&)>& cambio);
+
+    /// Puts a network that wasn't saved back into the drawing. The editor is open.
+    void Recupera(const RedGuardada& noGuardada);
 
     /// The tabular editor, until it is closed; `padre` is the window that it belongs to. Runs inside an
     /// event.

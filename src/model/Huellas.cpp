@@ -3,7 +3,7 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <functional>
+#include <cstdint>
 #include <optional>
 
 #include "model/Avisos.h"
@@ -22,16 +22,24 @@ constexpr std::string_view Cambiado2 =
 
 constexpr std::size_t SinArchivo = 0;
 
+/// The same for every program that looks at the file, be it built otherwise: FNV-1a of 64 bits (Fowler, Noll,
+/// Vo; RFC 9923), both halves joined where there is room for one.
 std::size_t HuellaDe(std::string_view bytes)
 {
-    return std::max<std::size_t>(std::hash<std::string_view>{}(bytes), SinArchivo + 1);
+    constexpr std::uint64_t Base = 0xcbf29ce484222325, Primo = 0x100000001b3;
+    constexpr int Mitad = 32;
+    std::uint64_t h = Base;
+    for (const char c : bytes)
+        h = (h ^ static_cast<unsigned char>(c)) * Primo;
+    if constexpr (sizeof(std::size_t) < sizeof h) h = (h >> Mitad) ^ h;
+    return std::max(static_cast<std::size_t>(h), SinArchivo + 1);
 }
 
 /// What a file holds now; nothing where it can't be read, so that nobody can tell.
-std::optional<std::size_t> HuellaEnDisco(const Siro& s, const std::string& ruta)
+std::optional<std::size_t> HuellaEnDisco(const Disco& disco, const std::string& ruta)
 {
     try {
-        return HuellaDe(s.Disco.Lee(ruta));
+        return HuellaDe(disco.Lee(ruta));
     } catch (const Falla& falla) {
         if (falla.numero == NumeroFalla::AccesoRuta) return {};
         return SinArchivo;
@@ -41,7 +49,7 @@ std::optional<std::size_t> HuellaEnDisco(const Siro& s, const std::string& ruta)
 /// A file that has gone takes nobody's work with it.
 bool EsAjeno(const Siro& s, const std::string& ruta)
 {
-    const std::optional<std::size_t> ahora = HuellaEnDisco(s, ruta);
+    const std::optional<std::size_t> ahora = HuellaEnDisco(s.Disco, ruta);
     if (!ahora || *ahora == SinArchivo) return false;
     const auto conocida = s.Vigilancia.huellas.find(ruta);
     return conocida == s.Vigilancia.huellas.end() || conocida->second != *ahora;
@@ -66,7 +74,7 @@ void AnotaLeido(Siro& s, const std::string& ruta, std::string_view bytes)
 void AnotaGuardado(Siro& s, const std::string& ruta)
 {
     if (!s.Vigilancia.activa) return;
-    if (const auto huella = HuellaEnDisco(s, ruta)) s.Vigilancia.huellas[ruta] = *huella;
+    if (const auto huella = HuellaEnDisco(s.Disco, ruta)) s.Vigilancia.huellas[ruta] = *huella;
 }
 
 bool PuedeGuardar(Siro& s, const std::vector<std::string>& rutas)
@@ -77,6 +85,23 @@ bool PuedeGuardar(Siro& s, const std::vector<std::string>& rutas)
         return !EsAjeno(s, ruta) ||
                Consulta(s, std::string(Cambiado1).append(ruta).append(Cambiado2), TituloCambiado);
     });
+}
+
+std::map<std::string, std::size_t> HuellasDelProyecto(const Siro& s)
+{
+    const std::string familia = Ruta(s.Proyecto.DirProyecto, s.Proyecto.NombreProyecto + "_");
+    std::map<std::string, std::size_t> suyas;
+    for (const auto& [ruta, huella] : s.Vigilancia.huellas)
+        if (ruta.starts_with(familia)) suyas[ruta] = huella;
+    return suyas;
+}
+
+std::vector<std::string> Cambiados(const Disco& disco, const std::map<std::string, std::size_t>& huellas)
+{
+    std::vector<std::string> cambiados;
+    for (const auto& [ruta, huella] : huellas)
+        if (HuellaEnDisco(disco, ruta) != huella) cambiados.push_back(ruta);
+    return cambiados;
 }
 
 }  // namespace model

@@ -4,12 +4,15 @@
 #include <QApplication>
 #include <QDialog>
 #include <QFile>
+#include <QLabel>
+#include <QStatusBar>
 #include <QTimer>
 #include <algorithm>
 #include <array>
 #include <chrono>
 #include <ctime>
 #include <iterator>
+#include <memory>
 #include <utility>
 
 #include "checks/EscribeHallazgos.h"
@@ -17,9 +20,11 @@
 #include "forms/Cajas_ventana.h"
 #include "forms/Textos_ventana.h"
 #include "model/Avisos.h"
+#include "model/Disco.h"
 #include "shell/VisorDeAyuda_ventana.h"
 #include "shell/dlgAnteriores_ventana.h"
 #include "shell/dlgEliminarProyecto_ventana.h"
+#include "shell/dlgRecuperar_ventana.h"
 #include "shell/frmAcerca_ventana.h"
 #include "shell/frmInicio_ventana.h"
 
@@ -58,6 +63,7 @@ Escritorio::Escritorio(const std::string& dirTrabajo, const std::string& dirUsua
     entorno.Presenta = [this](QWidget& ventana) { Presenta(ventana); };
     entorno.AbreAyuda = [this](const std::string& ventana) { AyudaDeVentana(s, mandos, ventana); };
     PonVentanas();
+    PonDiario(dirUsuario);
 }
 
 Escritorio::~Escritorio()
@@ -388,6 +394,76 @@ void Escritorio::PonAvance()
         avance.abierta = false;
         ventanaAvance->Muestra();
     };
+}
+
+// --- what isn't saved ---
+
+void Escritorio::PonDiario(const std::string& dirUsuario)
+{
+    const std::string dirDiarios = dirUsuario.empty() ? dirUsuario : model::Ruta(dirUsuario, "Diario");
+    guarda = std::make_unique<GuardaDeDiario>(entorno, ventanasEditor->red, dirDiarios);
+    auto* const sinDiario = new QLabel(QStringLiteral("Sin diario"));
+    sinDiario->setObjectName(QStringLiteral("lblSinDiario"));
+    ventanaPrincipal->statusBar()->addPermanentWidget(sinDiario);
+    sinDiario->hide();
+    guarda->AlFallar = [sinDiario](const std::string& carpeta) {
+        sinDiario->setVisible(!carpeta.empty());
+        sinDiario->setToolTip(
+            forms::Q("El diario del trabajo sin guardar no se puede escribir en " + carpeta));
+    };
+    if (dirDiarios.empty()) return;
+    entorno.AlTerminarSuceso(*ventanaPrincipal, [this, arrancado = std::make_shared<bool>(false)] {
+        if (QApplication::activeModalWidget() != nullptr) return;
+        std::string conf = ConfEnMano(s);
+        const bool primera = !std::exchange(*arrancado, true), otro = conf != ofrecido;
+        ofrecido = std::move(conf);
+        if (primera || (otro && !ofrecido.empty()))
+            entorno.Atiende([&] { OfreceRecuperar(primera ? std::string{} : ofrecido); });
+    });
+}
+
+/// What programs that run no more haven't saved, of one project or, where none is named, of all. What is in
+/// the files after all goes without a word.
+void Escritorio::OfreceRecuperar(const std::string& soloConf)
+{
+    std::vector<TrabajoHallado> trabajos;
+    std::vector<std::string> tomados;
+    for (DiarioHallado& hallado : guarda->Hallados()) {
+        tomados.push_back(hallado.ruta);
+        if (!soloConf.empty() && hallado.diario.conf != soloConf) continue;
+        TrabajoHallado trabajo = Mira(s, std::move(hallado));
+        if (EstaGuardado(trabajo))
+            model::Sentencia([&] { model::DiscoDelSistema().Borra(trabajo.hallado.ruta); });
+        else
+            trabajos.push_back(std::move(trabajo));
+    }
+    if (!trabajos.empty()) {
+        shell::Abre(recuperar, std::move(trabajos));
+        dlgRecuperar_ventana(entorno, recuperar, ventanaPrincipal.get()).Abre();
+        // Its journal goes once all of it is in this program's own.
+        if (const auto pedido = std::exchange(recuperar.pedido, {}); pedido && Recupera(*pedido))
+            model::Sentencia([&] { model::DiscoDelSistema().Borra(pedido->hallado.ruta); });
+    }
+    for (const std::string& ruta : tomados)
+        guarda->Suelta(ruta);
+}
+
+/// Brings unsaved work back: on top of what the project's files hold now, unsaved as it was.
+bool Escritorio::Recupera(const TrabajoHallado& trabajo)
+{
+    const Diario& diario = trabajo.hallado.diario;
+    ofrecido = diario.conf;
+    if (ConfEnMano(s) != diario.conf) model::AbreProyectoDe(s, diario.conf);
+    if (ConfEnMano(s) != diario.conf) {
+        model::Advierte(s, "El proyecto " + diario.conf + " no se pudo abrir. El trabajo queda donde está.");
+        return false;
+    }
+    if (trabajo.red) {
+        mnufrmUEHs(principal, s, mandos);
+        if (!ventanasEditor->red.abierta || entorno.Terminando()) return false;
+        ventanasEditor->Recupera(*trabajo.red);
+    }
+    return guarda->EscribeYa() && diario.formas.empty();
 }
 
 // --- what the commands of the main window ask for ---

@@ -24,12 +24,14 @@
 #include "shell/Arranque.h"
 #include "shell/Ayuda_ventana.h"
 #include "shell/Candado_ventana.h"
+#include "shell/GuardaDeDiario_ventana.h"
 #include "shell/Inicio_ventana.h"
 #include "shell/MDIForm1.h"
 #include "shell/MDIForm1_ventana.h"
 #include "shell/VentanasDeEstudio_ventana.h"
 #include "shell/dlgAnteriores.h"
 #include "shell/dlgBusca_ventana.h"
+#include "shell/dlgRecuperar.h"
 #include "shell/frmConfigura.h"
 #include "shell/frmConfigura_ventana.h"
 #include "shell/frmPp2.h"
@@ -42,7 +44,7 @@ namespace shell {
 class Escritorio {
   public:
     /// `dirTrabajo`: the program's own directory. `dirUsuario`: the user's, where the files that a save takes
-    /// the place of are kept; empty: nowhere.
+    /// the place of are kept, and journals of what isn't saved; empty: nowhere.
     explicit Escritorio(const std::string& dirTrabajo, const std::string& dirUsuario = {});
     ~Escritorio();
     Escritorio(const Escritorio&) = delete;
@@ -66,9 +68,11 @@ class Escritorio {
     results::dlgChart1 hietogramaDeLluvia{};  ///< the storm dialog's own
     results::dlgChart2 hidrograma{};
     empirical::dlgEmpiricas empiricas{};
+    dlgRecuperar recuperar{};
 
     MDIForm1_ventana& Principal() { return *ventanaPrincipal; }
     VentanasDeEstudio& Estudio() { return *ventanasEstudio; }
+    editor::VentanasDelEditor& Editor() { return *ventanasEditor; }
     /// Brings a window up; a modal one is waited for where `espera` says so.
     void Abre(Ventana ventana, bool espera = true);
 
@@ -87,6 +91,9 @@ class Escritorio {
     void PonFranjas();
     void PonAvance();
     void PonMandos();
+    void PonDiario(const std::string& dirUsuario);
+    void OfreceRecuperar(const std::string& soloConf);
+    bool Recupera(const TrabajoHallado& trabajo);
     void Cierra(Ventana ventana);
     void Presenta(QWidget& ventana);
     void PonBajo(QWidget& ventana, QWidget& dueno);
@@ -111,6 +118,8 @@ class Escritorio {
     std::unique_ptr<Ayuda_ventana> ventanaAyuda;
     std::unique_ptr<editor::VentanasDelEditor> ventanasEditor;
     std::unique_ptr<dlgBusca_ventana> ventanaBusca;
+    std::unique_ptr<GuardaDeDiario> guarda;
+    std::string ofrecido{};  ///< configuration file of the project whose unsaved work has been offered
 };
 
 }  // namespace shell

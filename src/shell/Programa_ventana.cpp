@@ -11,6 +11,8 @@
 #include "forms/Cajas_ventana.h"
 #include "forms/Textos_ventana.h"
 #include "model/DirPropio.h"
+#include "model/Disco.h"
+#include "model/Sistema.h"
 #include "shell/Escritorio_ventana.h"
 #include "shell/Iconos_ventana.h"
 

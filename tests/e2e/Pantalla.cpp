@@ -113,6 +113,12 @@ bool Proceso::Termino()
     return terminado;
 }
 
+void Proceso::Mata()
+{
+    if (!Termino()) kill(hijo, SIGKILL);
+    Espera([this] { return Termino(); });
+}
+
 // --- screen
 
 Pantalla::Pantalla(const std::string& directorio, const std::string& tamano)

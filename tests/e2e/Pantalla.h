@@ -27,6 +27,8 @@ class Proceso {
     /// Whether it has ended, and its exit status then; -1 where a signal ended it.
     bool Termino();
     [[nodiscard]] int Estado() const { return estado; }
+    /// Kills it, as a power cut would, and waits.
+    void Mata();
 
   private:
     pid_t hijo = -1;
@@ -46,6 +48,8 @@ class Pantalla {
     /// Starts the desktop program.
     void Arranca(const std::string& programa, const std::vector<std::string>& argumentos = {});
     Proceso& Programa() { return programa; }
+    /// Variables with which programs find this screen.
+    [[nodiscard]] const std::vector<std::string>& Entorno() const { return entorno; }
 
     /// Title of the window that has the focus; empty where none has.
     [[nodiscard]] std::string Activa() const;

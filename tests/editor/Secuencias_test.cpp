@@ -12,6 +12,7 @@
 
 #include "editor/EditorDePrueba.h"
 #include "editor/MenuDibujo.h"
+#include "editor/RedEscrita.h"
 #include "model/ArchivoConf.h"
 
 // The editor as a machine: whatever the user clicks, drags, types and answers, the network stays whole, goes
@@ -337,6 +338,21 @@ struct Maquina : EditorDePrueba {
         EXPECT_TRUE(antes == RedComparable(s)) << "opened again";
         EXPECT_EQ(s.Red.NroCauces(), antes.s.Red.ColCauces.Cuenta());
     }
+    /// What is kept of the network while it isn't saved is all of it, the reach being drawn included.
+    void VaYVuelveComoBytes()
+    {
+        if (f.gesto.izquierdoAbajo) Suelta(1, 1);
+        editor::Evento(f, s, [] {});
+        const editor::RedGuardada& presente = *f.historia.presente;
+        const auto escrita = editor::Escribe(presente);
+        ASSERT_TRUE(escrita);
+        const auto leida = editor::Lee(*escrita);
+        ASSERT_TRUE(leida);
+        EXPECT_EQ(editor::Compara(presente, *leida), editor::Diferencia{}) << "as bytes and back";
+        EXPECT_EQ(leida->trazo, presente.trazo);
+        EXPECT_EQ(leida->NroCauces(), presente.NroCauces());
+        EXPECT_EQ(editor::Escribe(*leida), escrita);
+    }
     /// Back to the beginning and forth again.
     void DeshaceYRehaceTodo()
     {
@@ -383,6 +399,7 @@ struct Maquina : EditorDePrueba {
             ASSERT_EQ(fallas, std::vector<std::string>{});
         }
         if (!f.abierta) Abre();
+        VaYVuelveComoBytes();
         DeshaceYRehaceTodo();
         GuardaYRelee();
     }
