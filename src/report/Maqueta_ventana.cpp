@@ -180,7 +180,12 @@ void Maqueta::Agrega(const FiguraPuesta& b)
     Texto texto{{"Figura " + std::to_string(b.numero) + ". ", true}};
     texto.push_back({b.titulo});
     const QSizeF enPapel = figuras.Tamano(b.figura) * Milimetro;
-    if (enPapel.isEmpty()) texto.push_back({" No hay datos para dibujarla.", false, true});
+    if (enPapel.isEmpty()) {
+        Tramo falta;  // g++ 12 sees the text of an unnamed one copied beyond its end
+        falta.texto = " No hay datos para dibujarla.";
+        falta.cursiva = true;
+        texto.push_back(std::move(falta));
+    }
     const Compuesto rotulo = Compone(texto, LetraDe(Cuerpo), Ancho(), Qt::AlignHCenter);
     const double cabe = Alto() - rotulo.Alto() - Aire - Antes;
     const QSizeF tamano = enPapel.boundedTo({Ancho(), cabe}) == enPapel

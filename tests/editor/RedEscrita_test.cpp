@@ -64,7 +64,9 @@ TEST_F(RedComoBytes, DanadaEnCualquierLargoNoSeLee)
             (cortada.*parte).resize(largo);
             const auto leida = editor::Lee(cortada);
             rechazadas += !leida;
-            if (leida) EXPECT_LE(leida->ColUEHs.Cuenta(), 1);
+            if (leida) {
+                EXPECT_LE(leida->ColUEHs.Cuenta(), 1);
+            }
         }
     };
     corta(&RedEscrita::uehs);
