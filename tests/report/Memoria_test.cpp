@@ -349,7 +349,9 @@ TEST_F(MemoriaAMano, CadaTablaTieneLasCeldasDeSusColumnas)
             for (const Celdas& f : t->filas)
                 EXPECT_EQ(f.size(), t->columnas.size()) << t->titulo;
         }
-        if (const auto* const f = std::get_if<FiguraPuesta>(&b)) EXPECT_EQ(f->numero, ++figuras);
+        if (const auto* const f = std::get_if<FiguraPuesta>(&b)) {
+            EXPECT_EQ(f->numero, ++figuras);
+        }
     }
     EXPECT_GE(tablas, 10);
     EXPECT_GE(figuras, 4);
