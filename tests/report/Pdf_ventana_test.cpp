@@ -242,8 +242,9 @@ TEST_F(PdfDeMemoria, LasFigurasSonTrazosYConservanSuRotulo)
         for (const auto& [titulo, cual] : {std::pair{QStringLiteral("Hietograma de la tormenta"), 2},
                                            {QStringLiteral("Nivel del embalse"), 4},
                                            {QStringLiteral("Ábaco de caudales"), 6}})
-            if (texto.contains(titulo))
+            if (texto.contains(titulo)) {
                 EXPECT_TRUE(texto.contains(QStringLiteral("Figura %1. Rótulo %1").arg(cual))) << p;
+            }
         todo += texto;
     }
     EXPECT_TRUE(todo.contains(QStringLiteral("No hay datos para dibujarla.")));
