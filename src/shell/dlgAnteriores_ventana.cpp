@@ -6,19 +6,34 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QPushButton>
+#include <array>
+#include <cstddef>
+#include <optional>
 #include <string>
 
+#include "editor/Historia.h"
+#include "editor/lienzo/VistaDeRed_ventana.h"
 #include "forms/Cuadro_ventana.h"
 #include "forms/SignoDecimal_ventana.h"
 #include "forms/Textos_ventana.h"
+#include "model/Falla.h"
 #include "model/Siro.h"
-#include "shell/RedEnMiniatura_ventana.h"
+#include "shell/ComparaVersiones.h"
 
 namespace shell {
 
 namespace {
 
 constexpr int LetrasDeFecha = 24, LetrasDeLugar = 24, LetrasDeCampo = 18;
+
+/// The network of a version; nothing where it has none that can be read.
+std::optional<editor::RedGuardada> RedDe(const model::VersionAnterior& version)
+{
+    editor::Historia historia;
+    if (!version.archivos.empty())
+        model::Sentencia([&] { editor::EmpiezaHistoria(historia, {}, ProyectoDe(version).Red, {}); });
+    return historia.presente;
+}
 
 }  // namespace
 
@@ -30,11 +45,14 @@ dlgAnteriores_ventana::dlgAnteriores_ventana(forms::Entorno& alrededor, dlgAnter
 {
     Sigue(f.abierta);
     PonTablas();
-    entonces = new RedEnMiniatura;
-    ahora = new RedEnMiniatura;
-    AlMostrar([this] {
-        entonces->Pon(f.Elegida() == nullptr ? nullptr : &f.Elegida()->version);
-        ahora->Pon(&f.ahora.version);
+    entonces = new editor::VistaDeRed;
+    ahora = new editor::VistaDeRed;
+    AlMostrar([this, puestas = std::array<model::VersionAnterior, 2>{}]() mutable {
+        const std::array<model::VersionAnterior, 2> nuevas{
+            f.Elegida() == nullptr ? model::VersionAnterior{} : f.Elegida()->version, f.ahora.version};
+        for (std::size_t i = 0; i < nuevas.size(); ++i)
+            if (nuevas[i] != puestas[i]) (i == 0 ? entonces : ahora)->Muestra(RedDe(nuevas[i]));
+        puestas = nuevas;
     });
     QLabel* const queHacer = Texto("lblQueHacer", f.lblQueHacer);
     queHacer->setWordWrap(true);
@@ -72,7 +90,7 @@ QLayout* dlgAnteriores_ventana::Arriba()
     return EnRejilla({{Rotulo("cmbProyecto", proyecto), proyecto}}, {0, 1});
 }
 
-QLayout* dlgAnteriores_ventana::Dibujo(std::string_view control, RedEnMiniatura& red) const
+QLayout* dlgAnteriores_ventana::Dibujo(std::string_view control, editor::VistaDeRed& red) const
 {
     red.setObjectName(QStringLiteral("red_") + forms::Q(control));
     red.setAccessibleName(forms::Q(Fila(control).leyenda));

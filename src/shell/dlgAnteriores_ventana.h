@@ -6,13 +6,14 @@
 #include "forms/Formulario_ventana.h"
 #include "shell/dlgAnteriores.h"
 
+namespace editor {
+class VistaDeRed;
+}
 namespace forms {
 class TablaCuadro;
 }
 
 namespace shell {
-
-class RedEnMiniatura;
 
 /// Window of a project's previous versions: their list, the differences of the one chosen, its network beside
 /// the present one.
@@ -34,7 +35,7 @@ class dlgAnteriores_ventana : public forms::Formulario {
     QLayout* Arriba();
     QLayout* Abajo();
     QLayout* Botones();
-    QLayout* Dibujo(std::string_view control, RedEnMiniatura& red) const;
+    QLayout* Dibujo(std::string_view control, editor::VistaDeRed& red) const;
     void Trae();
     void Copia();
 
@@ -42,8 +43,8 @@ class dlgAnteriores_ventana : public forms::Formulario {
     const model::Anteriores& anteriores;
     forms::TablaCuadro* versiones = nullptr;
     forms::TablaCuadro* diferencias = nullptr;
-    RedEnMiniatura* entonces = nullptr;
-    RedEnMiniatura* ahora = nullptr;
+    editor::VistaDeRed* entonces = nullptr;
+    editor::VistaDeRed* ahora = nullptr;
 };
 
 }  // namespace shell

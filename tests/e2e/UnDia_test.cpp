@@ -576,13 +576,13 @@ class UnDia : public e2e::EscritorioDePrueba {
         // 60 * 0.1272 * (100 * 7.1 / 3.6)^0.5 = 7.632 * 14.0436 = 107.18
         EXPECT_TRUE(std::regex_search(conf, std::regex("Ventura[^0-9]*107\\.18"))) << conf;
     }
-    /// The files of a project by what follows its name.
+    /// The files of a project by what follows its name; the runs that it keeps are in a folder of their own.
     [[nodiscard]] std::map<std::string, std::string> Guardados(const std::string& proyecto) const
     {
         std::map<std::string, std::string> archivos;
         for (const fs::directory_entry& entrada : fs::directory_iterator(Proyectos())) {
             const std::string nombre = entrada.path().filename().string();
-            if (nombre.starts_with(proyecto))
+            if (entrada.is_regular_file() && nombre.starts_with(proyecto))
                 archivos[nombre.substr(proyecto.size())] = BytesDeArchivo(entrada);
         }
         return archivos;

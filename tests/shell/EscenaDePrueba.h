@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstddef>
+#include <iterator>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -43,6 +45,7 @@ inline std::string_view Nombre(Ventana ventana)
                                             "Mapa",
                                             "Revisar",
                                             "Verificar",
+                                            "Corridas",
                                             "Taller",
                                             "Ajuste",
                                             "Memoria",
@@ -51,6 +54,7 @@ inline std::string_view Nombre(Ventana ventana)
                                             "dlgEliminarProyecto",
                                             "frmAcerca",
                                             "Busca"};
+    static_assert(std::size(nombres) == static_cast<std::size_t>(Ventana::Busca) + 1);
     return nombres[static_cast<std::size_t>(ventana)];
 }
 

@@ -3,6 +3,7 @@
 
 #include <QPainter>
 
+#include "editor/Vista.h"
 #include "model/Siro.h"
 
 namespace editor {
@@ -35,6 +36,8 @@ void VistaDeRed::paintEvent(QPaintEvent* /*evento*/)
 {
     f.vista.lienzo = {width(), height()};
     f.vista.recentra = f.vista.reescala = true;
+    Redibuja(f, *s);
+    PonEscala(f.vista, f.vista.sldEscala * 5 / 4);  // names reach beyond their icons
     Redibuja(f, *s);
     QPainter papel(this);
     pintor.Pinta(papel, f, rect());
