@@ -82,6 +82,7 @@ class Grupo {
     fs::path carpeta;
     std::vector<Pieza> piezas{};
     NombreResto turno{};
+    ReemplazoEnObra enObra{};
     fs::path lista{};
 };
 
@@ -126,6 +127,7 @@ bool Grupo::Prepara()
         ++turno.turno;
         std::error_code sinEstado;
         if (fs::exists(EnCarpeta(turno.Texto()), sinEstado)) continue;
+        enObra.Toma(turno.turno);
         error = CreaTemporales();
         if (error) Limpia();
     }

@@ -5,6 +5,7 @@
 #include <charconv>
 #include <chrono>
 #include <filesystem>
+#include <mutex>
 #include <set>
 #include <system_error>
 #include <tuple>
@@ -42,6 +43,17 @@ bool EsNombreDeArchivo(std::string_view nombre)
            std::none_of(nombre.begin(), nombre.end(), ajena);
 }
 
+/// Numbers of the replacements that threads of this process are at, in whatever folder.
+struct EnObra {
+    std::mutex cerrojo{};
+    std::multiset<long> turnos{};
+};
+EnObra& LosDeEsteProceso()
+{
+    static EnObra todos;
+    return todos;
+}
+
 /// Looks through a folder in which a program may have been killed.
 class Recuperador {
   public:
@@ -52,6 +64,7 @@ class Recuperador {
     Recuperacion Hace()
     {
         Busca();
+        DejaLosQueSeEscriben();
         for (const NombreResto& resto : restos)
             if (resto.pieza < 0) Termina(resto);
         // A temporary without its list was never meant to take anything's place.
@@ -91,6 +104,16 @@ class Recuperador {
         std::error_code error;
         const auto hora = fs::last_write_time(camino, error);
         return !error && fs::file_time_type::clock::now() - hora < std::chrono::hours(1);
+    }
+
+    /// Another thread of this process may be at work in the folder.
+    void DejaLosQueSeEscriben()
+    {
+        EnObra& enObra = LosDeEsteProceso();
+        const std::lock_guard guarda(enObra.cerrojo);
+        std::erase_if(restos, [&](const NombreResto& resto) {
+            return resto.proceso == llamadas.proceso && enObra.turnos.contains(resto.turno);
+        });
     }
 
     bool EstaPendiente(const NombreResto& resto) const
@@ -251,6 +274,15 @@ std::error_code PoneTemporal(const LlamadasDisco& llamadas, const fs::path& temp
     }
     llamadas.Borra(temporal);
     return {};
+}
+
+void ReemplazoEnObra::Toma(long otroTurno)
+{
+    EnObra& enObra = LosDeEsteProceso();
+    const std::lock_guard guarda(enObra.cerrojo);
+    if (turno != 0) enObra.turnos.erase(enObra.turnos.find(turno));
+    if (otroTurno != 0) enObra.turnos.insert(otroTurno);
+    turno = otroTurno;
 }
 
 void OlvidaPendientes(const LlamadasDisco& llamadas, const fs::path& carpeta,

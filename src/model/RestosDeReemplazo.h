@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 #include "model/CambioArchivo.h"
@@ -27,6 +28,22 @@ struct NombreResto {
 
 /// Reads such a name; any other file's is none.
 std::optional<NombreResto> LeeNombreResto(std::string_view nombre);
+
+/// For as long as it lives, a replacement of this process is at work: a recovery on another thread leaves
+/// what is its own alone.
+class ReemplazoEnObra {
+  public:
+    ReemplazoEnObra() = default;
+    ~ReemplazoEnObra() { Toma(0); }
+    ReemplazoEnObra(ReemplazoEnObra&& otro) noexcept : turno(std::exchange(otro.turno, 0)) {}
+    ReemplazoEnObra(const ReemplazoEnObra&) = delete;
+    ReemplazoEnObra& operator=(const ReemplazoEnObra&) = delete;
+    /// It bears another number now; 0: none.
+    void Toma(long otroTurno);
+
+  private:
+    long turno = 0;
+};
 
 /// The list: the names that the temporaries 0, 1, 2 ... are to bear, a line each.
 std::string TextoDeLista(const std::vector<std::string>& nombres);

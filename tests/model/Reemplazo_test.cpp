@@ -226,6 +226,35 @@ TEST_F(ReemplazoReal, LoDeOtroProgramaQueCorreSeDeja)
     EXPECT_EQ(Queda(), (Contenido{{"a", "x"}}));
 }
 
+// Another thread of the same program brings the folder in order between any two calls.
+TEST_F(ReemplazoReal, LoQueOtroHiloEscribeSeDeja)
+{
+    for (const Caso& caso : Casos) {
+        fallas::PonContenido(carpeta.Camino(), caso.viejo);
+        const LlamadasDisco reales = LlamadasDelSistema();
+        int veces = 0;
+        const auto ordena = [&] {
+            const Recuperacion hecha = RecuperaCarpeta(reales, carpeta.Camino());
+            EXPECT_TRUE(hecha.completados.empty() && hecha.pendientes.empty()) << caso.que;
+            ++veces;
+        };
+        LlamadasDisco llamadas = reales;
+        llamadas.Crea = [&](const fs::path& archivo, std::string_view bytes, const fs::path& modelo) {
+            ordena();
+            const std::error_code error = reales.Crea(archivo, bytes, modelo);
+            ordena();
+            return error;
+        };
+        llamadas.Renombra = [&](const fs::path& de, const fs::path& a) {
+            ordena();
+            return reales.Renombra(de, a);
+        };
+        Reemplaza(caso.nuevo, llamadas);
+        EXPECT_GT(veces, 2);
+        EXPECT_EQ(Queda(), caso.nuevo) << caso.que;
+    }
+}
+
 TEST_F(ReemplazoReal, UnaListaQueNombraLoAjenoNoHaceNada)
 {
     fs::create_directory(En("sub"));

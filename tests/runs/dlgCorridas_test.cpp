@@ -122,7 +122,7 @@ TEST_F(LasCorridas, BorraTrasPreguntarYDeshaceDevuelveLosMismosBytes)
     EXPECT_EQ(disco.Archivos(), antes);
     cmdBorrar(f, s, {0, 2});
     EXPECT_EQ(Columna(1), Textos{"b"});
-    cmdBorrar(f, s, {1});
+    cmdBorrar(f, s, {0});
     EXPECT_TRUE(disco.Archivos().empty());
     cmdDeshacer(f);
     EXPECT_EQ(Columna(1), Textos{"b"});
