@@ -18,7 +18,7 @@ namespace model {
 
 namespace {
 
-constexpr std::string_view Clase = "siro version 1\n";
+constexpr std::string_view FirmaDeVersion = "siro version 1\n";
 constexpr std::string_view Terminacion = ".anterior";
 constexpr std::string_view NotaDanada = "El archivo de la versión anterior está dañado.";
 constexpr std::string_view NotaGrande = "El proyecto ocupa demasiado.";
@@ -138,13 +138,14 @@ std::string EscribeVersion(const VersionAnterior& version)
 
 std::string ConHuella(const std::string& cuerpo)
 {
-    return std::string(Clase) + Cifras(HuellaFnv(cuerpo), Hexadecimal, CifrasDeHuella) + '\n' + cuerpo;
+    return std::string(FirmaDeVersion) + Cifras(HuellaFnv(cuerpo), Hexadecimal, CifrasDeHuella) + '\n' +
+           cuerpo;
 }
 
 VersionAnterior LeeVersion(std::string_view bytes)
 {
-    if (!bytes.starts_with(Clase)) Danada();
-    bytes.remove_prefix(Clase.size());
+    if (!bytes.starts_with(FirmaDeVersion)) Danada();
+    bytes.remove_prefix(FirmaDeVersion.size());
     const auto huella = Lee<std::uint64_t>(TomaHasta(bytes, '\n'), Hexadecimal);
     if (huella != HuellaFnv(bytes)) Danada();
     VersionAnterior version{std::string(TomaHasta(bytes, '\n')), {}};

@@ -17,8 +17,8 @@ using model::Siro;
 
 namespace {
 
-constexpr std::string_view CarpetaDeAyuda = "Ayuda";
-constexpr std::string_view PaginaInicial = "indice.html";
+constexpr std::string_view DondeEstaLaAyuda = "Ayuda";
+constexpr std::string_view PrimeraPagina = "indice.html";
 
 /// Why an entry of the menu is greyed.
 struct FilaMotivo {
@@ -122,9 +122,9 @@ std::vector<Candidato> DeComponentes(const Siro& s, const IrAComponente& ir)
 std::vector<Candidato> DeAyuda(const Siro& s, const std::function<void(const std::string& ruta)>& abre)
 {
     std::vector<Candidato> lista;
-    const std::string carpeta = model::Ruta(s.Proyecto.DirTrabajo, CarpetaDeAyuda);
+    const std::string carpeta = model::Ruta(s.Proyecto.DirTrabajo, DondeEstaLaAyuda);
     std::string indice;
-    model::Sentencia([&] { indice = s.Disco.Lee(model::Ruta(carpeta, PaginaInicial)); });
+    model::Sentencia([&] { indice = s.Disco.Lee(model::Ruta(carpeta, PrimeraPagina)); });
     constexpr std::string_view Enlace = "<a href=\"", TrasPagina = "\">", TrasTitulo = "</a>";
     const auto hasta = [&](std::size_t desde, std::string_view fin) {
         const std::size_t lugar = indice.find(fin, desde);

@@ -185,12 +185,13 @@ TEST_F(CorridasEnElEscritorio, ElTopeSeRecuerdaYConCeroNoSeGuarda)
     Abre(0);
     Escribe(Control<QLineEdit>(Ventana(), "txtTope"), "0");
     QTest::keyClick(&Control<QLineEdit>(Ventana(), "txtTope"), Qt::Key_Tab);
-    EXPECT_EQ(runs::TopeDeCorridas(escritorio.entorno), 0);
+    EXPECT_TRUE(Espera([&] { return runs::TopeDeCorridas(escritorio.entorno) == 0; }));
     Corre(80);
     QTest::qWait(300);
     EXPECT_EQ(Filas().size(), 0U);
     Escribe(Control<QLineEdit>(Ventana(), "txtTope"), "1");
     QTest::keyClick(&Control<QLineEdit>(Ventana(), "txtTope"), Qt::Key_Tab);
+    EXPECT_TRUE(Espera([&] { return runs::TopeDeCorridas(escritorio.entorno) == 1; }));
     Corre(80);
     EXPECT_TRUE(EsperaFilas(1));
 }

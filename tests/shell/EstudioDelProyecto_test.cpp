@@ -200,6 +200,8 @@ TEST_F(EstudioDelProyecto, LoQueSeAplicaALaRedEsUnSoloPasoDelEditor)
     ASSERT_EQ(valores(), (std::vector<float>{7.5F, 8.5F}));
     EXPECT_TRUE(escritorio.Principal().isVisible()) << "the workshop stays in sight";
     Accion("mnufrmUEHs").trigger();
+    ASSERT_TRUE(apoyo::Espera([] { return Editor()->isVisible(); }));
+    Editor()->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(Editor()));
     QTest::keyClick(&Control<QWidget>(*Editor(), "picDibujo"), Qt::Key_Z, Qt::ControlModifier);
     EXPECT_NE(valores()[0], 7.5F);
