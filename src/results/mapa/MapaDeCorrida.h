@@ -52,7 +52,7 @@ struct MapaDeCorrida {
     std::vector<std::string> velocidades{};  ///< as the list shows them
     bool chkPicos = true, chkNombres = true, chkImagen = true;
     char decimal = '.';  ///< of the legend's flows
-    int elegido = -1;  ///< component read by the keyboard, from 0; -1: none
+    int elegido = -1;    ///< component read by the keyboard, from 0; -1: none
 
     std::string lblTitulo{}, lblTiempo{}, cmdReproducir{};
 };
