@@ -2,10 +2,12 @@
 #include "model/RestosDeReemplazo.h"
 
 #include <algorithm>
+#include <array>
+#include <atomic>
 #include <charconv>
 #include <chrono>
+#include <cstddef>
 #include <filesystem>
-#include <mutex>
 #include <set>
 #include <system_error>
 #include <tuple>
@@ -43,15 +45,13 @@ bool EsNombreDeArchivo(std::string_view nombre)
            std::none_of(nombre.begin(), nombre.end(), ajena);
 }
 
-/// Numbers of the replacements that threads of this process are at, in whatever folder.
-struct EnObra {
-    std::mutex cerrojo{};
-    std::multiset<long> turnos{};
-};
-EnObra& LosDeEsteProceso()
+/// Numbers of the replacements that threads of this process are at, in whatever folder; 0: a free place.
+/// Nobody waits for anybody here, a process that is begun meanwhile neither.
+constexpr std::size_t MaximoEnObra = 64;
+std::array<std::atomic<long>, MaximoEnObra>& EnObra()
 {
-    static EnObra todos;
-    return todos;
+    static std::array<std::atomic<long>, MaximoEnObra> turnos{};
+    return turnos;
 }
 
 /// Looks through a folder in which a program may have been killed.
@@ -109,10 +109,10 @@ class Recuperador {
     /// Another thread of this process may be at work in the folder.
     void DejaLosQueSeEscriben()
     {
-        EnObra& enObra = LosDeEsteProceso();
-        const std::lock_guard guarda(enObra.cerrojo);
+        const auto& enObra = EnObra();
         std::erase_if(restos, [&](const NombreResto& resto) {
-            return resto.proceso == llamadas.proceso && enObra.turnos.contains(resto.turno);
+            return resto.proceso == llamadas.proceso &&
+                   std::find(enObra.begin(), enObra.end(), resto.turno) != enObra.end();
         });
     }
 
@@ -276,13 +276,17 @@ std::error_code PoneTemporal(const LlamadasDisco& llamadas, const fs::path& temp
     return {};
 }
 
-void ReemplazoEnObra::Toma(long otroTurno)
+void ReemplazoEnObra::Toma(long turno)
 {
-    EnObra& enObra = LosDeEsteProceso();
-    const std::lock_guard guarda(enObra.cerrojo);
-    if (turno != 0) enObra.turnos.erase(enObra.turnos.find(turno));
-    if (otroTurno != 0) enObra.turnos.insert(otroTurno);
-    turno = otroTurno;
+    if (lugar != nullptr) lugar->store(turno);
+    if (turno == 0) lugar = nullptr;
+    if (turno == 0 || lugar != nullptr) return;
+    for (std::atomic<long>& otro : EnObra()) {
+        long libre = 0;
+        if (!otro.compare_exchange_strong(libre, turno)) continue;
+        lugar = &otro;
+        return;
+    }
 }
 
 void OlvidaPendientes(const LlamadasDisco& llamadas, const fs::path& carpeta,

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <atomic>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -35,14 +36,14 @@ class ReemplazoEnObra {
   public:
     ReemplazoEnObra() = default;
     ~ReemplazoEnObra() { Toma(0); }
-    ReemplazoEnObra(ReemplazoEnObra&& otro) noexcept : turno(std::exchange(otro.turno, 0)) {}
+    ReemplazoEnObra(ReemplazoEnObra&& otro) noexcept : lugar(std::exchange(otro.lugar, nullptr)) {}
     ReemplazoEnObra(const ReemplazoEnObra&) = delete;
     ReemplazoEnObra& operator=(const ReemplazoEnObra&) = delete;
     /// It bears another number now; 0: none.
-    void Toma(long otroTurno);
+    void Toma(long turno);
 
   private:
-    long turno = 0;
+    std::atomic<long>* lugar = nullptr;  ///< among those of the process
 };
 
 /// The list: the names that the temporaries 0, 1, 2 ... are to bear, a line each.

@@ -4,7 +4,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <chrono>
 #include <filesystem>
+#include <fstream>
 #include <functional>
 #include <set>
 #include <stdexcept>
@@ -286,6 +288,21 @@ TEST_F(ElLibro, ListarConUnDiscoQueFallaEsUnaFallaOUnRenglonQueLoDice)
 struct LibroReal : ::testing::Test {
     apoyo::CarpetaTemporal carpeta{};
     Libro libro{.dirProyecto = carpeta.Camino().string(), .proyecto = "P"};
+
+    /// A process that begins while a thread of its parent holds a lock of the C library never gets it:
+    /// whoever writes beside it waits until it has begun.
+    void HaEmpezado(int cual) const { std::ofstream(Marca(cual)) << 'x'; }
+    void EsperaA(int cual) const
+    {
+        while (!std::filesystem::exists(Marca(cual)))
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+
+  private:
+    [[nodiscard]] std::filesystem::path Marca(int cual) const
+    {
+        return carpeta.Camino() / ("empezo" + std::to_string(cual));
+    }
 };
 
 TEST_F(LibroReal, VariosProgramasEscribenALaVez)
@@ -299,7 +316,13 @@ TEST_F(LibroReal, VariosProgramasEscribenALaVez)
         };
         if (cual == Programas) return propias();
         std::vector<apoyo::Fin> fines(1);
-        std::thread otro([&] { fines[0] = apoyo::EnOtroProceso([&] { escribe(cual + 1); }); });
+        std::thread otro([&] {
+            fines[0] = apoyo::EnOtroProceso([&] {
+                HaEmpezado(cual + 1);
+                escribe(cual + 1);
+            });
+        });
+        EsperaA(cual + 1);
         propias();
         otro.join();
         if (fines[0] != apoyo::Fin::Entero) throw std::runtime_error("a program has failed");
@@ -319,10 +342,12 @@ TEST_F(LibroReal, MientrasUnoBorraElOtroGuardaYNadaSePierdeDeMas)
 {
     const apoyo::Fin fin = [&] {
         std::thread poda([&] {
+            EsperaA(1);
             for (int i = 0; i < 40; ++i)
                 HaceLugar(libro, 20000);
         });
         const apoyo::Fin suyo = apoyo::EnOtroProceso([&] {
+            HaEmpezado(1);
             for (int i = 0; i < 30; ++i)
                 HaceLugar(libro, 20000, Guarda(libro, Corrida("b" + std::to_string(i), 2000)));
         });
