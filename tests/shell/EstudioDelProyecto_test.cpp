@@ -181,36 +181,5 @@ TEST_F(EstudioDelProyecto, TrasTraerUnaVersionEsElDeEllaSinPasos)
     EXPECT_FALSE(Esta("Quelmar_Estudio.json"));
 }
 
-// As the fitting workshop puts a whole set into the network.
-TEST_F(EstudioDelProyecto, LoQueSeAplicaALaRedEsUnSoloPasoDelEditor)
-{
-    Arranca(instalacion.Quelmar());
-    bool hecho = false;
-    escritorio.entorno.Atiende([&] {
-        hecho = escritorio.Estudio().Talleres().Aplica([](model::Red& red, model::Tormenta&) {
-            red.ColUEHs.Item(1).KostiakovA = 7.5F;
-            red.ColUEHs.Item(2).KostiakovA = 8.5F;
-        });
-    });
-    ASSERT_TRUE(hecho);
-    const model::Red& red = escritorio.s.Red;
-    const auto valores = [&red] {
-        return std::vector<float>{red.ColUEHs.Item(1).KostiakovA, red.ColUEHs.Item(2).KostiakovA};
-    };
-    ASSERT_EQ(valores(), (std::vector<float>{7.5F, 8.5F}));
-    EXPECT_TRUE(escritorio.Principal().isVisible()) << "the workshop stays in sight";
-    Accion("mnufrmUEHs").trigger();
-    ASSERT_TRUE(apoyo::Espera([] { return Editor()->isVisible(); }));
-    Editor()->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(Editor()));
-    QTest::keyClick(&Control<QWidget>(*Editor(), "picDibujo"), Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_NE(valores()[0], 7.5F);
-    EXPECT_NE(valores()[1], 8.5F);
-    const std::vector<float> antes = valores();
-    QTest::keyClick(&Control<QWidget>(*Editor(), "picDibujo"), Qt::Key_Y, Qt::ControlModifier);
-    EXPECT_EQ(valores(), (std::vector<float>{7.5F, 8.5F}));
-    EXPECT_NE(antes, valores());
-}
-
 }  // namespace
 }  // namespace shell
